@@ -1,0 +1,61 @@
+# How every target of the house is compiled, and the three kinds of targets there are.
+
+add_library(orby_options INTERFACE)
+target_compile_features(orby_options INTERFACE cxx_std_20)
+target_compile_options(orby_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
+  -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -Werror
+  -ffp-contract=off)
+target_include_directories(orby_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  target_compile_options(orby_options INTERFACE -Wduplicated-cond -Wlogical-op)
+endif()
+if(ORBY_SANITIZE)
+  target_compile_options(orby_options INTERFACE
+    -fsanitize=${ORBY_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(orby_options INTERFACE -fsanitize=${ORBY_SANITIZE})
+endif()
+if(ORBY_COVERAGE)
+  target_compile_options(orby_options INTERFACE --coverage -fprofile-abs-path)
+  target_link_options(orby_options INTERFACE --coverage)
+endif()
+
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+# orby_library(name SOURCES file... LINKS folder...)
+# One folder of src/. A folder without sources is an interface library of headers.
+function(orby_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  list(TRANSFORM ARG_LINKS PREPEND orby_)
+  if(ARG_SOURCES)
+    add_library(orby_${name} STATIC ${ARG_SOURCES})
+    target_link_libraries(orby_${name} PUBLIC orby_options ${ARG_LINKS})
+  else()
+    add_library(orby_${name} INTERFACE)
+    target_link_libraries(orby_${name} INTERFACE orby_options ${ARG_LINKS})
+  endif()
+endfunction()
+
+# orby_test(name SOURCES file... LINKS folder...)
+# One test program per folder of tests/, named test_<name>; each of its tests is a test of ctest.
+function(orby_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  list(TRANSFORM ARG_LINKS PREPEND orby_)
+  add_executable(test_${name} ${ARG_SOURCES})
+  target_link_libraries(test_${name} PRIVATE orby_options orby_test_support ${ARG_LINKS} GTest::gmock_main)
+  target_compile_definitions(test_${name} PRIVATE
+    TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data" EXAMPLES_DIR="${CMAKE_SOURCE_DIR}/examples")
+  gtest_discover_tests(test_${name} TEST_PREFIX "${name}/" DISCOVERY_MODE PRE_TEST)
+endfunction()
+
+# orby_fuzzer(name LINKS folder...): fuzz/<name>.cpp as the libFuzzer program fuzz_<name>; it may use
+# the headers of tests/support.
+function(orby_fuzzer name)
+  cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+  list(TRANSFORM ARG_LINKS PREPEND orby_)
+  add_executable(fuzz_${name} ${name}.cpp)
+  target_link_libraries(fuzz_${name} PRIVATE orby_options ${ARG_LINKS})
+  target_include_directories(fuzz_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_link_options(fuzz_${name} PRIVATE -fsanitize=fuzzer,address,undefined)
+endfunction()

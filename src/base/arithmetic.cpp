@@ -1,0 +1,73 @@
+#include "base/arithmetic.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "base/runtime_error.h"
+
+namespace orby {
+namespace {
+
+double WithinDouble(double result) {
+  if (!std::isfinite(result)) throw RuntimeError(error_number::Overflow);
+  return result;
+}
+
+}  // namespace
+
+double Divide(double dividend, double divisor) {
+  if (divisor == 0) throw RuntimeError(error_number::DivisionByZero);
+  return WithinDouble(dividend / divisor);
+}
+
+double Logarithm(double x) {
+  if (!(x > 0)) throw RuntimeError(error_number::BadCall);
+  return std::log(x);
+}
+
+double SquareRoot(double x) {
+  if (!(x >= 0)) throw RuntimeError(error_number::BadCall);
+  return std::sqrt(x);
+}
+
+double Square(double x) { return WithinDouble(std::pow(x, 2)); }
+
+Single ToSingle(double value) {
+  // From half a unit beyond the largest Single on, the nearest Single would be infinity.
+  constexpr double FirstBeyond = 3.4028235677973366e38;
+  if (!(std::abs(value) < FirstBeyond)) throw RuntimeError(error_number::Overflow);
+  return static_cast<Single>(value);
+}
+
+double RoundHalfEven(double value) {
+  const double whole = std::floor(value);
+  const double fraction = value - whole;
+  if (fraction < 0.5) return whole;
+  if (fraction > 0.5) return whole + 1;
+  return std::fmod(whole, 2) == 0 ? whole : whole + 1;
+}
+
+Integer ToInteger(double value) {
+  const double whole = RoundHalfEven(value);
+  if (!(whole >= std::numeric_limits<Integer>::min() && whole <= std::numeric_limits<Integer>::max())) {
+    throw RuntimeError(error_number::Overflow);
+  }
+  return static_cast<Integer>(whole);
+}
+
+double Log10Of(double x) {
+  if (x == 0) return 1;
+  return Logarithm(x) / std::log(10.0);
+}
+
+Integer ClampRange(double& value, double minimum, double maximum) {
+  if (value < minimum || value > maximum) value = minimum;
+  return ToInteger(value);
+}
+
+Single MaxSingle(Single a, Single b) { return std::max(a, b); }
+Integer MinInteger(Integer a, Integer b) { return std::min(a, b); }
+Integer MaxInteger(Integer a, Integer b) { return std::max(a, b); }
+
+}  // namespace orby

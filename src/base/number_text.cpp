@@ -1,0 +1,301 @@
+#include "base/number_text.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+#include "base/runtime_error.h"
+
+namespace orby {
+namespace {
+
+template <class Float>
+constexpr int GeneralDigits = std::numeric_limits<Float>::digits10 == 6 ? 7 : 15;
+
+// A finite value rounded to so many significant digits: digits x 10^exponent, digits having exactly that many places.
+struct RoundedDigits {
+  bool negative = false;
+  std::uint64_t digits = 0;  // 0 for zero
+  int exponent = 0;
+};
+
+constexpr auto PowersOfTen = [] {
+  std::array<std::uint64_t, 20> powers{};
+  std::uint64_t power = 1;
+  for (auto& entry : powers) {
+    entry = power;
+    power *= 10;
+  }
+  return powers;
+}();
+
+constexpr std::uint64_t PowerOfTen(int exponent) { return PowersOfTen[static_cast<std::size_t>(exponent)]; }
+
+// The general case, by the library's exact conversion. No tie of 7 or 15 digits lies where it is used.
+RoundedDigits RoundByLibrary(double magnitude, int places) {
+  std::array<char, 32> text{};
+  const auto end =
+      std::to_chars(text.data(), text.data() + text.size(), magnitude, std::chars_format::scientific, places - 1).ptr;
+  RoundedDigits result;
+  const char* at = text.data();
+  for (; *at != 'e'; ++at) {
+    if (*at != '.') result.digits = result.digits * 10 + static_cast<std::uint64_t>(*at - '0');
+  }
+  ++at;
+  if (*at == '+') ++at;
+  std::from_chars(at, end, result.exponent);
+  result.exponent -= places - 1;
+  return result;
+}
+
+// mantissa / 2^shift x 10^decimals as the nearest whole number, an exact tie upwards. Decimals from 0 on need a shift.
+std::uint64_t ScaledToWhole(std::uint64_t mantissa, int shift, int decimals) {
+  __extension__ using Wide = unsigned __int128;
+  Wide product = mantissa;
+  if (decimals < 0) {
+    const Wide divisor = static_cast<Wide>(PowerOfTen(-decimals)) << shift;
+    return static_cast<std::uint64_t>((product + divisor / 2) / divisor);
+  }
+  for (; decimals > 19; decimals -= 19) product *= PowerOfTen(19);
+  product *= PowerOfTen(decimals);
+  return static_cast<std::uint64_t>((product + (Wide{1} << (shift - 1))) >> shift);
+}
+
+// Values of everyday size, scaled exactly in integers; an exact tie goes away from zero.
+RoundedDigits RoundExactly(double magnitude, int places) {
+  constexpr int MantissaBits = 53;
+  int binaryExponent = 0;
+  const double fraction = std::frexp(magnitude, &binaryExponent);
+  const int shift = std::max(MantissaBits - binaryExponent, 0);  // magnitude = mantissa / 2^shift, shift in 0..74
+  const auto mantissa = static_cast<std::uint64_t>(std::ldexp(fraction, binaryExponent + shift));
+  // floor(log10): 0.30103 is log10 of 2; one too few is mended below.
+  int decimals = places - 1 - static_cast<int>(std::floor((binaryExponent - 1) * 0.30103));
+  std::uint64_t digits = ScaledToWhole(mantissa, shift, decimals);
+  if (digits >= PowerOfTen(places)) digits = ScaledToWhole(mantissa, shift, --decimals);
+  return {false, digits, -decimals};
+}
+
+RoundedDigits Round(double value, int places) {
+  constexpr double SmallestExact = 0x1p-22;  // from here on the scaled mantissa and its fraction stay within 128 bits
+  constexpr double FirstBeyond = 0x1p54;     // from here on no value lies half-way between two texts
+  const double magnitude = std::abs(value);
+  if (magnitude == 0) return {};
+  const bool isEveryday = magnitude >= SmallestExact && magnitude < FirstBeyond;
+  RoundedDigits result = isEveryday ? RoundExactly(magnitude, places) : RoundByLibrary(magnitude, places);
+  // 9999999.6 rounds up to one place more.
+  if (result.digits == PowerOfTen(places)) {
+    result.digits /= 10;
+    ++result.exponent;
+  }
+  result.negative = std::signbit(value);
+  return result;
+}
+
+void AppendDigits(std::string& text, std::uint64_t digits) {
+  std::array<char, 20> buffer{};
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), digits).ptr;
+  text.append(buffer.data(), end);
+}
+
+// digits x 10^-decimals with so many digits before and behind the point at least.
+void AppendFixed(std::string& text, std::uint64_t digits, int decimals, int minimumWhole, bool point) {
+  std::array<char, 20> buffer{};
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), digits).ptr;
+  const int count = digits == 0 ? 0 : static_cast<int>(end - buffer.data());
+  const int whole = std::max(count - decimals, 0);
+  text.append(static_cast<std::size_t>(std::max(minimumWhole - whole, 0)), '0');
+  text.append(buffer.data(), static_cast<std::size_t>(whole));
+  if (point) text.push_back('.');
+  if (decimals == 0) return;
+  text.append(static_cast<std::size_t>(std::max(decimals - count, 0)), '0');
+  text.append(buffer.data() + whole, static_cast<std::size_t>(count - whole));
+}
+
+template <class Float>
+std::string GeneralText(Float value) {
+  constexpr int Places = GeneralDigits<Float>;
+  RoundedDigits rounded = Round(static_cast<double>(value), Places);
+  if (rounded.digits == 0) return "0";
+  int count = Places;
+  while (rounded.digits % 10 == 0) {
+    rounded.digits /= 10;
+    ++rounded.exponent;
+    --count;
+  }
+  std::string text;
+  if (rounded.negative) text.push_back('-');
+  const int decimals = std::max(-rounded.exponent, 0);
+  const int whole = count + rounded.exponent;
+  if (decimals <= Places && whole <= Places) {
+    if (rounded.exponent > 0) {
+      rounded.digits *= PowerOfTen(rounded.exponent);
+    }
+    AppendFixed(text, rounded.digits, decimals, 1, decimals > 0);
+    return text;
+  }
+  const int exponent = whole - 1;
+  AppendFixed(text, rounded.digits, count - 1, 1, count > 1);
+  text += exponent < 0 ? "E-" : "E+";
+  if (std::abs(exponent) < 10) text.push_back('0');
+  AppendDigits(text, static_cast<std::uint64_t>(std::abs(exponent)));
+  return text;
+}
+
+template <class Float>
+std::string PatternText(Float value, const NumberPattern& pattern) {
+  RoundedDigits rounded = Round(static_cast<double>(value), GeneralDigits<Float>);
+  int decimals = std::max(-rounded.exponent, 0);
+  const int surplus = decimals - pattern.maximumDecimals;
+  if (surplus > GeneralDigits<Float>) {
+    rounded.digits = 0;
+    decimals = pattern.maximumDecimals;
+  } else if (surplus > 0) {
+    rounded.digits = (rounded.digits + PowerOfTen(surplus) / 2) / PowerOfTen(surplus);
+    decimals = pattern.maximumDecimals;
+  }
+  while (decimals > pattern.minimumDecimals && rounded.digits % 10 == 0) {
+    rounded.digits /= 10;
+    --decimals;
+  }
+  if (decimals < pattern.minimumDecimals && rounded.exponent <= 0) {
+    rounded.digits *= PowerOfTen(pattern.minimumDecimals - decimals);
+    decimals = pattern.minimumDecimals;
+  }
+  std::string text;
+  if (rounded.negative) text.push_back('-');
+  if (rounded.exponent > 0 && rounded.digits != 0) {
+    AppendDigits(text, rounded.digits);
+    text.append(static_cast<std::size_t>(rounded.exponent), '0');
+    if (pattern.hasPoint) text.push_back('.');
+    text.append(static_cast<std::size_t>(pattern.minimumDecimals), '0');
+    return text;
+  }
+  AppendFixed(text, rounded.digits, decimals, pattern.minimumWhole, pattern.hasPoint);
+  return text;
+}
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+// The characters that a number field skips wherever they stand.
+bool IsSkipped(char c) { return c == ' ' || c == '\t' || c == '\n'; }
+
+double ReadRadix(std::string_view digits, int radix) {
+  double value = 0;
+  for (const char c : digits) {
+    const char lower = c >= 'A' && c <= 'F' ? static_cast<char>(c - 'A' + 'a') : c;
+    int digit = radix;
+    if (IsDigit(lower)) digit = lower - '0';
+    if (lower >= 'a' && lower <= 'f') digit = lower - 'a' + 10;
+    if (digit >= radix) break;
+    value = value * radix + digit;
+  }
+  if (std::isinf(value)) throw RuntimeError(error_number::Overflow);
+  return value;
+}
+
+// The leading part of a text without blanks that is a decimal number, D written as e; empty when there is no digit.
+std::string LeadingDecimal(std::string_view text) {
+  std::string number;
+  std::size_t at = 0;
+  const auto takeDigits = [&] {
+    const std::size_t start = at;
+    while (at < text.size() && IsDigit(text[at])) ++at;
+    number.append(text.substr(start, at - start));
+    return at - start;
+  };
+  if (at < text.size() && (text[at] == '+' || text[at] == '-')) {
+    if (text[at] == '-') number.push_back('-');
+    ++at;
+  }
+  std::size_t digits = takeDigits();
+  if (at < text.size() && text[at] == '.') {
+    number.push_back('.');
+    ++at;
+    digits += takeDigits();
+  }
+  if (digits == 0) return {};
+  if (at < text.size() && std::string_view("EeDd").find(text[at]) != std::string_view::npos) {
+    const std::size_t mantissaEnd = number.size();
+    ++at;
+    number.push_back('e');
+    if (at < text.size() && (text[at] == '+' || text[at] == '-')) number.push_back(text[at++]);
+    if (takeDigits() == 0) number.resize(mantissaEnd);
+  }
+  return number;
+}
+
+// Whether a number that no Double holds is too large rather than too small: its first digit stands before 10^0.
+bool IsTooLarge(std::string_view number) {
+  const std::size_t exponentMark = std::min(number.find('e'), number.size());
+  const std::string_view mantissa = number.substr(0, exponentMark);
+  const auto point = static_cast<std::int64_t>(std::min(mantissa.find('.'), mantissa.size()));
+  const auto first = static_cast<std::int64_t>(mantissa.find_first_of("123456789"));
+  std::int64_t exponent = 0;
+  if (exponentMark < number.size()) {
+    std::string_view digits = number.substr(exponentMark + 1);
+    if (digits.front() == '+') digits.remove_prefix(1);
+    const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), exponent);
+    if (read.ec == std::errc::result_out_of_range) return digits.front() != '-';
+  }
+  return exponent > first - point;
+}
+
+double DecimalValue(std::string_view text) {
+  const std::string number = LeadingDecimal(text);
+  double value = 0;
+  const auto read = std::from_chars(number.data(), number.data() + number.size(), value);
+  if (read.ec != std::errc::result_out_of_range) return value;
+  if (IsTooLarge(number)) throw RuntimeError(error_number::Overflow);
+  return 0;
+}
+
+std::string WithPoint(std::string text) {
+  const auto comma = text.find(',');
+  if (comma != std::string::npos) text[comma] = '.';
+  return text;
+}
+
+}  // namespace
+
+std::string NumberText(Single value) { return GeneralText(value); }
+std::string NumberText(double value) { return GeneralText(value); }
+std::string NumberText(Integer value) { return std::to_string(value); }
+std::string NumberText(int value) { return std::to_string(value); }
+
+std::string FormatNumber(Single value, NumberPattern pattern) { return PatternText(value, pattern); }
+std::string FormatNumber(double value, NumberPattern pattern) { return PatternText(value, pattern); }
+
+double TextValue(std::string_view text) {
+  std::string compact;
+  if (std::any_of(text.begin(), text.end(), IsSkipped)) {
+    std::copy_if(text.begin(), text.end(), std::back_inserter(compact), [](char c) { return !IsSkipped(c); });
+    text = compact;
+  }
+  if (text.size() >= 2 && text[0] == '&') {
+    if (text[1] == 'H' || text[1] == 'h') return ReadRadix(text.substr(2), 16);
+    if (text[1] == 'O' || text[1] == 'o') return ReadRadix(text.substr(2), 8);
+  }
+  return DecimalValue(text);
+}
+
+std::string NormalizeDecimalText(Single value) { return WithPoint(NumberText(value)); }
+std::string NormalizeDecimalText(double value) { return WithPoint(NumberText(value)); }
+std::string NormalizeDecimalText(Integer value) { return NumberText(value); }
+
+std::string NormalizeDecimalText(std::string_view text) {
+  const auto number = LooseNumber(text);
+  return WithPoint(number ? NumberText(*number) : std::string(text));
+}
+
+int NumericKeyFilter(int key, std::string_view text) {
+  // Meant as backspace, tab, clear, the arrows and delete; as characters they let "%&'(" and "." pass too.
+  constexpr std::array AlwaysPassing{8, 9, 12, 37, 38, 39, 40, 46};
+  if (std::find(AlwaysPassing.begin(), AlwaysPassing.end(), key) != AlwaysPassing.end()) return key;
+  if (key <= 0 || key > 126) return 0;
+  return LooseNumber(std::string(text) + static_cast<char>(key)) ? key : 0;
+}
+
+}  // namespace orby

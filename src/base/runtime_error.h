@@ -1,0 +1,48 @@
+// Run-time errors: what arithmetic, files and devices raise when they cannot go on.
+#pragma once
+
+#include <exception>
+#include <string>
+#include <string_view>
+
+namespace orby {
+
+namespace error_number {
+inline constexpr int BadCall = 5;
+inline constexpr int Overflow = 6;
+inline constexpr int OutOfMemory = 7;
+inline constexpr int Subscript = 9;
+inline constexpr int DivisionByZero = 11;
+inline constexpr int TypeMismatch = 13;
+inline constexpr int BadFileName = 52;
+inline constexpr int FileNotFound = 53;
+inline constexpr int FileAlreadyOpen = 55;
+inline constexpr int DiskFull = 61;
+inline constexpr int PastEndOfFile = 62;
+inline constexpr int PermissionDenied = 70;
+inline constexpr int PathFileAccess = 75;
+inline constexpr int PathNotFound = 76;
+inline constexpr int Automation = 429;
+inline constexpr int Printer = 482;
+inline constexpr int Cancelled = 32755;
+}  // namespace error_number
+
+// The text that goes with an error number; numbers outside the table share one general text.
+std::string_view ErrorDescription(int number);
+
+// Nothing between the event and the outermost boundary catches it unless a command is stated to have a trap.
+class RuntimeError : public std::exception {
+ public:
+  explicit RuntimeError(int errorNumber);
+
+  int number() const { return number_; }
+  std::string_view description() const { return ErrorDescription(number_); }
+  // "run-time error 11: Division by zero"
+  const char* what() const noexcept override { return what_.c_str(); }
+
+ private:
+  int number_;
+  std::string what_;
+};
+
+}  // namespace orby

@@ -1,0 +1,136 @@
+#include "base/text.h"
+
+#include <algorithm>
+
+namespace orby {
+namespace {
+
+bool StartsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
+
+char UpperLetter(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+std::string Filled(std::string_view before, std::string_view after, std::size_t width, char filler) {
+  const std::size_t taken = CharacterCount(before) + CharacterCount(after);
+  std::string text;
+  text.reserve(std::max(width, before.size() + after.size()) + 16);
+  text += before;
+  if (taken < width) text.append(width - taken, filler);
+  text += after;
+  return text;
+}
+
+// Whether the text has more characters than `count`, without walking all of it.
+bool IsLongerThan(std::string_view text, std::size_t count) { return CharacterOffset(text, count) < text.size(); }
+
+}  // namespace
+
+std::size_t CharacterCount(std::string_view text) {
+  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), StartsCharacter));
+}
+
+std::size_t CharacterOffset(std::string_view text, std::size_t position) {
+  std::size_t offset = 0;
+  for (; offset < text.size(); ++offset) {
+    if (!StartsCharacter(text[offset])) continue;
+    if (position == 0) break;
+    --position;
+  }
+  return offset;
+}
+
+std::string_view LastCharacters(std::string_view text, std::size_t count) {
+  std::size_t start = text.size();
+  while (start > 0 && count > 0) {
+    --start;
+    if (StartsCharacter(text[start])) --count;
+  }
+  return text.substr(start);
+}
+
+std::string_view Trim(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string UpperCase(std::string_view text) {
+  std::string upper(text);
+  std::transform(upper.begin(), upper.end(), upper.begin(), UpperLetter);
+  return upper;
+}
+
+bool SameWithoutCase(std::string_view a, std::string_view b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char x, char y) { return UpperLetter(x) == UpperLetter(y); });
+}
+
+std::string_view TakeLine(std::string_view& rest) {
+  const std::size_t end = std::min(rest.find_first_of(LineEnd), rest.size());
+  const std::string_view line = rest.substr(0, end);
+  rest.remove_prefix(end);
+  if (rest.starts_with(LineEnd)) {
+    rest.remove_prefix(2);
+  } else if (!rest.empty()) {
+    rest.remove_prefix(1);
+  }
+  return line;
+}
+
+std::string PadDots(std::string_view label, std::size_t width) { return Filled(label, {}, width, '.'); }
+
+std::string DotLeader(std::string_view label, std::string_view value, std::size_t width) {
+  return Filled(label, value, width, '.');
+}
+
+std::string PadSpaces(std::string_view value, std::size_t width) { return Filled(value, {}, width, ' '); }
+
+std::string AlignRight(std::string_view value, std::size_t width) { return Filled({}, value, width, ' '); }
+
+std::string WordWrapText(std::string_view text, std::size_t width) {
+  constexpr std::size_t LargestUnwrapped = 20;
+  if (width <= LargestUnwrapped) return std::string(text);
+  std::string wrapped;
+  std::string shortened;
+  while (IsLongerThan(text, width)) {
+    const std::string_view reach = text.substr(0, CharacterOffset(text, width));
+    const std::size_t blank = reach.rfind(' ');
+    if (blank == std::string_view::npos) {
+      shortened = "...";
+      shortened += LastCharacters(text, width - 3);
+      text = shortened;
+      break;
+    }
+    wrapped += text.substr(0, blank);
+    wrapped += LineEnd;
+    text = Trim(text.substr(blank));
+  }
+  wrapped += text;
+  wrapped += LineEnd;
+  return wrapped;
+}
+
+std::string_view YesNoText(int flag) { return flag == 1 ? "YES" : "NO"; }
+
+int WrapDescriptionLine(std::string& line) {
+  constexpr std::size_t Limit = 60;
+  constexpr std::size_t LowestBreak = 40;
+  int count = 1;
+  std::string wrapped;
+  std::string_view rest = line;
+  while (!rest.empty()) {
+    const std::string_view reach = rest.substr(0, CharacterOffset(rest, Limit));
+    std::string_view piece = reach;
+    const std::size_t blank = reach.rfind(' ');
+    if (blank != std::string_view::npos && CharacterCount(reach.substr(0, blank)) + 1 >= LowestBreak) {
+      piece = reach.substr(0, blank + 1);
+    }
+    wrapped += piece;
+    ++count;
+    rest.remove_prefix(piece.size());
+    if (!rest.empty()) wrapped += LineEnd;
+  }
+  line = std::move(wrapped);
+  return count;
+}
+
+}  // namespace orby

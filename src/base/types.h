@@ -1,0 +1,11 @@
+// The two number types of a project record, and the shorthand every module uses for them.
+#pragma once
+
+#include <cstdint>
+
+namespace orby {
+
+using Single = float;          // 32-bit; its rounding is part of every result
+using Integer = std::int16_t;  // 16-bit; flags, counts, indices
+
+}  // namespace orby

@@ -1,0 +1,119 @@
+#include "platform/disk_files.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <system_error>
+
+#include "base/runtime_error.h"
+
+namespace orby {
+namespace {
+
+// The run-time error that fits a system error met on this path.
+RuntimeError FileError(int systemError, const std::string& path) {
+  switch (systemError) {
+    case ENOENT: {
+      const auto folder = std::filesystem::path(path).parent_path();
+      std::error_code ignored;
+      const bool folderIsMissing = !folder.empty() && !std::filesystem::is_directory(folder, ignored);
+      return RuntimeError(folderIsMissing ? error_number::PathNotFound : error_number::FileNotFound);
+    }
+    case ENOTDIR: return RuntimeError(error_number::PathNotFound);
+    case ENOSPC:
+    case EDQUOT: return RuntimeError(error_number::DiskFull);
+    case EACCES:
+    case EPERM:
+    case EROFS: return RuntimeError(error_number::PermissionDenied);
+    case ENAMETOOLONG:
+    case EINVAL: return RuntimeError(error_number::BadFileName);
+    case ENOMEM: return RuntimeError(error_number::OutOfMemory);
+    default: return RuntimeError(error_number::PathFileAccess);
+  }
+}
+
+struct FileCloser {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
+
+// The system would take a name only up to its first NUL, and so meet another file than the one that was named.
+void CheckName(const std::string& path) {
+  if (path.empty() || path.find('\0') != std::string::npos) throw RuntimeError(error_number::BadFileName);
+}
+
+FileHandle Open(const std::string& path, const char* mode) {
+  CheckName(path);
+  FileHandle file(std::fopen(path.c_str(), mode));
+  if (!file) throw FileError(errno, path);
+  return file;
+}
+
+class DiskOutputFile : public OutputFile {
+ public:
+  explicit DiskOutputFile(const std::string& path) : path_(path), file_(Open(path, "wb")) {}
+
+  void Write(std::string_view bytes) override {
+    if (std::fwrite(bytes.data(), 1, bytes.size(), file_.get()) != bytes.size()) throw FileError(errno, path_);
+  }
+
+  void Close() override {
+    if (std::fclose(file_.release()) != 0) throw FileError(errno, path_);
+  }
+
+ private:
+  std::string path_;
+  FileHandle file_;
+};
+
+}  // namespace
+
+DiskFiles::DiskFiles(std::string programFolder) : programFolder_(std::move(programFolder)) {}
+
+bool DiskFiles::Finds(const std::string& path, bool foldersToo) {
+  if (path.empty()) return false;
+  CheckName(path);
+  std::error_code problem;
+  const auto status = std::filesystem::status(path, problem);
+  if (status.type() == std::filesystem::file_type::not_found) return false;
+  if (problem) throw FileError(problem.value(), path);
+  return foldersToo || status.type() != std::filesystem::file_type::directory;
+}
+
+std::string DiskFiles::ReadFile(const std::string& path) {
+  const FileHandle file = Open(path, "rb");
+  struct stat facts {};
+  if (fstat(fileno(file.get()), &facts) != 0) throw FileError(errno, path);
+  if (S_ISDIR(facts.st_mode)) throw RuntimeError(error_number::PathFileAccess);
+  std::string bytes;
+  if (facts.st_size > 0) bytes.resize(static_cast<std::size_t>(facts.st_size));
+  bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file.get()));
+  // A pipe has no size beforehand, and a file may grow while it is read.
+  char more[4096];
+  for (std::size_t count = 0; (count = std::fread(more, 1, sizeof more, file.get())) > 0;) bytes.append(more, count);
+  if (std::ferror(file.get()) != 0) throw FileError(errno, path);
+  return bytes;
+}
+
+std::unique_ptr<OutputFile> DiskFiles::CreateFile(const std::string& path) {
+  return std::make_unique<DiskOutputFile>(path);
+}
+
+void DiskFiles::RemoveFile(const std::string& path) {
+  CheckName(path);
+  if (unlink(path.c_str()) != 0) throw FileError(errno, path);
+}
+
+std::string DiskFiles::TemporaryFolder() {
+  std::error_code problem;
+  const auto folder = std::filesystem::temp_directory_path(problem);
+  if (problem) throw RuntimeError(error_number::PathNotFound);
+  return folder.string();
+}
+
+std::string DiskFiles::ProgramFolder() { return programFolder_; }
+
+}  // namespace orby

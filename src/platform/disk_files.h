@@ -1,0 +1,23 @@
+// The file system of the machine.
+#pragma once
+
+#include "platform/file_system.h"
+
+namespace orby {
+
+class DiskFiles : public FileSystem {
+ public:
+  explicit DiskFiles(std::string programFolder);
+
+  bool Finds(const std::string& path, bool foldersToo) override;
+  std::string ReadFile(const std::string& path) override;
+  std::unique_ptr<OutputFile> CreateFile(const std::string& path) override;
+  void RemoveFile(const std::string& path) override;
+  std::string TemporaryFolder() override;
+  std::string ProgramFolder() override;
+
+ private:
+  std::string programFolder_;
+};
+
+}  // namespace orby

@@ -1,0 +1,38 @@
+// Files and folders. Every failure is the RuntimeError that fits it: 52 bad name, 53 file not found, 61 disk full,
+// 70 permission, 75 access, 76 path not found.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace orby {
+
+// A file open for writing. Destroying it closes it as it is.
+class OutputFile {
+ public:
+  virtual ~OutputFile() = default;
+  virtual void Write(std::string_view bytes) = 0;
+  // Reports a write that failed late; nothing may be written afterwards.
+  virtual void Close() = 0;
+};
+
+class FileSystem {
+ public:
+  virtual ~FileSystem() = default;
+
+  // Whether a search for the path finds a file, or also a folder when folders count.
+  virtual bool Finds(const std::string& path, bool foldersToo) = 0;
+  // The whole file, byte for byte.
+  virtual std::string ReadFile(const std::string& path) = 0;
+  // Opens the file for writing; an existing one is emptied at once.
+  virtual std::unique_ptr<OutputFile> CreateFile(const std::string& path) = 0;
+  virtual void RemoveFile(const std::string& path) = 0;
+
+  // The folder for temporary files, without the separator at its end unless the system gives one.
+  virtual std::string TemporaryFolder() = 0;
+  // The folder that the program was started from.
+  virtual std::string ProgramFolder() = 0;
+};
+
+}  // namespace orby

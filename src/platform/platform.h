@@ -1,0 +1,21 @@
+// The one door to the outside, handed in at start. Everything that blocks, shows, stores or fetches goes through it.
+#pragma once
+
+#include "platform/file_dialogs.h"
+#include "platform/file_system.h"
+#include "platform/message_boxes.h"
+#include "platform/surroundings.h"
+#include "platform/windows.h"
+
+namespace orby {
+
+struct Platform {
+  MessageBoxes& boxes;
+  FileSystem& files;
+  FileDialogs& fileDialogs;
+  Windows& windows;
+  Fonts& fonts;
+  Locale& locale;
+};
+
+}  // namespace orby

@@ -1,0 +1,99 @@
+// What holds for every number: texts read back within their digits, formats keep the order.
+#include <gtest/gtest.h>
+#include <rapidcheck.h>
+#include <rapidcheck/gtest.h>
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <cstdint>
+
+#include "base/arithmetic.h"
+#include "base/number_text.h"
+
+namespace orby {
+namespace {
+
+// Every finite Double below 9E307, as likely small as large: the largest would leave the range in 15 digits.
+rc::Gen<double> AnyDouble() {
+  constexpr std::uint64_t SignBit = 1ULL << 63U;
+  constexpr std::uint64_t BelowLastExponent = 0x7FE0000000000000U;
+  return rc::gen::map(
+      rc::gen::pair(rc::gen::inRange<std::uint64_t>(0, BelowLastExponent), rc::gen::arbitrary<bool>()),
+      [](const auto& parts) { return std::bit_cast<double>(parts.second ? parts.first | SignBit : parts.first); });
+}
+
+rc::Gen<Single> AnySingle() {
+  constexpr std::uint32_t SignBit = 1U << 31U;
+  constexpr std::uint32_t Infinity = 0x7F800000U;
+  return rc::gen::map(
+      rc::gen::pair(rc::gen::inRange<std::uint32_t>(0, Infinity), rc::gen::arbitrary<bool>()),
+      [](const auto& parts) { return std::bit_cast<Single>(parts.second ? parts.first | SignBit : parts.first); });
+}
+
+// A length, load or cost as it stands in a field: up to five decimals.
+rc::Gen<double> FieldValue() {
+  return rc::gen::map(rc::gen::inRange<std::int64_t>(-99999999999, 99999999999),
+                      [](std::int64_t steps) { return static_cast<double>(steps) / 100000; });
+}
+
+RC_GTEST_PROP(NumberTextProperty, ASingleReadsBackWithinSevenDigits, ()) {
+  const double value = static_cast<double>(*AnySingle());
+
+  const double readBack = TextValue(NumberText(static_cast<Single>(value)));
+
+  RC_ASSERT(std::abs(readBack - value) <= 5.000001E-7 * std::abs(value));
+}
+
+RC_GTEST_PROP(NumberTextProperty, ADoubleReadsBackToTheSameText, ()) {
+  const double value = *AnyDouble();
+  const std::string text = NumberText(value);
+
+  const double readBack = TextValue(text);
+
+  RC_ASSERT(NumberText(readBack) == text);
+  if (std::isnormal(value)) RC_ASSERT(std::abs(readBack - value) <= 5.000001E-15 * std::abs(value));
+}
+
+RC_GTEST_PROP(NumberTextProperty, EveryTextIsANumberByTheLooseRules, ()) {
+  const double value = *AnyDouble();
+
+  RC_ASSERT(LooseNumber(NumberText(value)) == TextValue(NumberText(value)));
+}
+
+RC_GTEST_PROP(NumberTextProperty, AFieldValueOfFiveDecimalsReadsBackExactly, ()) {
+  const double value = *FieldValue();
+
+  RC_ASSERT(TextValue(NumberText(value)) == value);
+}
+
+template <class Float>
+void AssertOrderIsKept(Float a, Float b) {
+  const auto [low, high] = std::minmax(a, b);
+  RC_ASSERT(TextValue(FormatNumber(low, "0.0")) <= TextValue(FormatNumber(high, "0.0")));
+  RC_ASSERT(TextValue(FormatNumber(low, "0.#0")) <= TextValue(FormatNumber(high, "0.#0")));
+  RC_ASSERT(TextValue(FormatNumber(low, "0")) <= TextValue(FormatNumber(high, "0")));
+}
+
+RC_GTEST_PROP(FormatNumberProperty, ALargerSingleNeverShowsASmallerText, ()) {
+  AssertOrderIsKept(*AnySingle(), *AnySingle());
+}
+
+RC_GTEST_PROP(FormatNumberProperty, ALargerFieldValueNeverShowsASmallerText, ()) {
+  const double value = *FieldValue();
+  const double step = std::abs(*FieldValue()) / 1E9;
+
+  AssertOrderIsKept(value, value + step);
+  AssertOrderIsKept(static_cast<Single>(value), static_cast<Single>(value + step));
+}
+
+RC_GTEST_PROP(FormatNumberProperty, TwoDecimalsStayWithinHalfAHundredth, ()) {
+  const double value = *FieldValue();
+
+  const double shown = TextValue(FormatNumber(value, "0.00"));
+
+  RC_ASSERT(std::abs(shown - value) <= 0.0050000001);
+}
+
+}  // namespace
+}  // namespace orby

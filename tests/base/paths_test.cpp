@@ -1,0 +1,72 @@
+#include "base/paths.h"
+
+#include <gtest/gtest.h>
+
+#include <string_view>
+
+namespace orby {
+namespace {
+
+TEST(Paths, BothSeparatorsEndAFolder) {
+  EXPECT_TRUE(EndsInSeparator("/home/mine/"));
+  EXPECT_TRUE(EndsInSeparator("C:\\Mine\\"));
+  EXPECT_FALSE(EndsInSeparator("/home/mine"));
+  EXPECT_FALSE(EndsInSeparator(""));
+}
+
+TEST(Paths, ASeparatorIsAddedOnlyWhereNoneStands) {
+  EXPECT_EQ(WithSeparator("/home/mine"), "/home/mine/");
+  EXPECT_EQ(WithSeparator("/home/mine/"), "/home/mine/");
+  EXPECT_EQ(WithSeparator("C:\\Mine\\"), "C:\\Mine\\");
+}
+
+TEST(Paths, OneSeparatorIsTakenOff) {
+  EXPECT_EQ(WithoutSeparator("/home/mine/"), "/home/mine");
+  EXPECT_EQ(WithoutSeparator("C:\\Mine\\"), "C:\\Mine");
+  EXPECT_EQ(WithoutSeparator("/home/mine"), "/home/mine");
+  EXPECT_EQ(WithoutSeparator(""), "");
+}
+
+TEST(Paths, TheNameStandsBehindTheLastSeparatorOfEitherKind) {
+  EXPECT_EQ(NameBehindSeparator("/home/mine/North.ORB"), "North.ORB");
+  EXPECT_EQ(NameBehindSeparator("C:\\Mine\\North.ORB"), "North.ORB");
+  EXPECT_EQ(NameBehindSeparator("/home\\mine/a\\North.ORB"), "North.ORB");
+  EXPECT_EQ(NameBehindSeparator("North.ORB"), "North.ORB");
+  EXPECT_EQ(NameBehindSeparator("/home/mine/"), "");
+  EXPECT_EQ(NameBehindSeparator(""), "");
+}
+
+TEST(Paths, TheExtensionStartsAtTheFirstPoint) {
+  EXPECT_EQ(WithoutExtension("North.ORB"), "North");
+  EXPECT_EQ(WithoutExtension("North.old.ORB"), "North");
+  EXPECT_EQ(WithoutExtension("North"), "North");
+  EXPECT_EQ(WithoutExtension(""), "");
+}
+
+TEST(Paths, APointInFrontStartsNoExtension) { EXPECT_EQ(WithoutExtension(".hidden.ORB"), ".hidden.ORB"); }
+
+TEST(ShortenedPath, FiftyCharactersAreShownWhole) {
+  constexpr std::string_view path = "/home/mine/Projects/North Section/Belt Entry 4.ORB";
+  ASSERT_EQ(path.size(), 50U);
+
+  EXPECT_EQ(ShortenedPath(path), path);
+}
+
+TEST(ShortenedPath, FiftyOneCharactersAreShownAsFifty) {
+  constexpr std::string_view path = "/home/mine/Projects/North Section/Belt Entry 14.ORB";
+  ASSERT_EQ(path.size(), 51U);
+
+  EXPECT_EQ(ShortenedPath(path), "/home/mine...jects/North Section/Belt Entry 14.ORB");
+}
+
+TEST(ShortenedPath, CountsCharactersNotBytes) {
+  const std::string_view fifty = "/home/Süd/Projekte/Fördersohle Ö/Strecke Nr. 4.ORB";
+  ASSERT_EQ(fifty.size(), 53U);
+
+  EXPECT_EQ(ShortenedPath(fifty), fifty);
+  EXPECT_EQ(ShortenedPath("/home/Süd/Projekte/Fördersohle Öst/Strecke Nr. 04.ORB"),
+            "/home/Süd/...te/Fördersohle Öst/Strecke Nr. 04.ORB");
+}
+
+}  // namespace
+}  // namespace orby
