@@ -1,0 +1,165 @@
+#include "controls/controls.h"
+
+#include <algorithm>
+
+#include "base/number_text.h"
+#include "base/runtime_error.h"
+
+namespace orby {
+namespace {
+
+void Fire(const Event& event) {
+  if (event) event();
+}
+
+// The index as a position in a list of so many. Throws RuntimeError 9 outside it.
+std::size_t Position(int index, std::size_t count) {
+  if (index < 0 || static_cast<std::size_t>(index) >= count) throw RuntimeError(error_number::Subscript);
+  return static_cast<std::size_t>(index);
+}
+
+// The selection that is left once these items have taken the place of others.
+int IndexWithin(int listIndex, const std::vector<ComboItem>& items) {
+  return listIndex < static_cast<int>(items.size()) ? listIndex : Combo::Nothing;
+}
+
+}  // namespace
+
+void TextBox::SetText(std::string text) {
+  if (text == text_) return;
+  text_ = std::move(text);
+  if (kind_ != TextKind::Output) Fire(Change);
+}
+
+double TextBox::Value() const { return TextValue(text_); }
+
+int TextBox::KeyPress(int key) const { return kind_ == TextKind::Number ? NumericKeyFilter(key, text_) : key; }
+
+void TextBox::Select(std::size_t start, std::size_t length) {
+  selectionStart_ = start;
+  selectionLength_ = length;
+}
+
+void CheckBox::SetValue(Integer value) {
+  if (value == value_) return;
+  value_ = value;
+  Fire(Click);
+}
+
+OptionArray::OptionArray(Form& form, std::string_view name, std::initializer_list<OptionCaption> captions)
+    : Control(form, name) {
+  members_.reserve(captions.size());
+  for (const auto& caption : captions) members_.push_back({std::string(caption.text), caption.unitRow});
+}
+
+void OptionArray::SetAllEnabled(bool enabled) {
+  for (auto& member : members_) member.enabled = enabled;
+}
+
+void OptionArray::SetValue(int index, bool value) {
+  Member& member = members_[Position(index, members_.size())];
+  if (member.value == value) return;
+  if (!value) {
+    member.value = false;
+    return;
+  }
+  for (auto& other : members_) other.value = false;
+  member.value = true;
+  if (Click) Click(static_cast<Integer>(index));
+}
+
+Integer GetArrayIndex(const OptionArray& options) {
+  Integer index = 0;
+  for (std::size_t i = 0; i < options.Count(); ++i) {
+    if (options.Value(i)) index = static_cast<Integer>(i);
+  }
+  return index;
+}
+
+void Combo::Fill(std::vector<ComboItem> items) {
+  items_ = std::move(items);
+  listIndex_ = IndexWithin(listIndex_, items_);
+}
+
+void Combo::SetText(std::string text) {
+  const auto found =
+      std::find_if(items_.begin(), items_.end(), [&text](const ComboItem& item) { return item.text == text; });
+  Assign(std::move(text), found == items_.end() ? Nothing : static_cast<int>(found - items_.begin()));
+}
+
+double Combo::Value() const { return TextValue(text_); }
+
+void Combo::SetListIndex(int index) {
+  if (index == Nothing) {
+    Assign(text_, Nothing);
+  } else {
+    Assign(items_[Position(index, items_.size())].text, index);
+  }
+}
+
+void Combo::Assign(std::string text, int listIndex) {
+  if (text == text_ && listIndex == listIndex_) return;
+  text_ = std::move(text);
+  listIndex_ = listIndex;
+  Fire(Change);
+}
+
+void Grid::SetSize(int rows, int columns, int fixedRows) {
+  rows_ = rows;
+  columns_ = columns;
+  fixedRows_ = fixedRows;
+  row_ = std::min(fixedRows, rows - 1);
+  cells_.assign(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns), {});
+}
+
+std::size_t Grid::Index(int row, int column) const {
+  const std::size_t line = Position(row, static_cast<std::size_t>(rows_));
+  return line * static_cast<std::size_t>(columns_) + Position(column, static_cast<std::size_t>(columns_));
+}
+
+const std::string& Grid::Cell(int row, int column) const { return cells_[Index(row, column)]; }
+
+void Grid::SetCell(int row, int column, std::string text) { cells_[Index(row, column)] = std::move(text); }
+
+void Grid::EditCell(int row, int column, std::string text) {
+  std::string& cell = cells_[Index(row, column)];
+  if (cell == text) return;
+  cell = std::move(text);
+  Fire(Change);
+}
+
+void Grid::SetRow(int row) {
+  if (row == row_) return;
+  row_ = static_cast<int>(Position(row, static_cast<std::size_t>(rows_)));
+  Fire(Change);
+}
+
+TabSet::TabSet(Form& form, std::string_view name, std::initializer_list<std::string_view> captions)
+    : Control(form, name) {
+  for (const auto caption : captions) tabs_.push_back({std::string(caption)});
+}
+
+const TabSet::Page& TabSet::At(int tab) const { return tabs_[Position(tab, tabs_.size())]; }
+TabSet::Page& TabSet::At(int tab) { return tabs_[Position(tab, tabs_.size())]; }
+
+void TabSet::SetTab(int tab) {
+  if (tab == tab_) return;
+  tab_ = static_cast<int>(Position(tab, tabs_.size()));
+  Fire(Click);
+}
+
+void TabSet::ClickTab(int tab) {
+  if (TabEnabled(tab)) SetTab(tab);
+}
+
+void List::Fill(std::vector<ComboItem> items) {
+  items_ = std::move(items);
+  listIndex_ = IndexWithin(listIndex_, items_);
+}
+
+void List::ClickItem(int index) {
+  listIndex_ = static_cast<int>(Position(index, items_.size()));
+  Fire(Click);
+}
+
+}  // namespace orby

@@ -1,0 +1,276 @@
+// The controls that dialogs are made of. Setting a property in code fires the same event as the user's act, at once;
+// setting what is there already fires nothing. Filling a list or a grid fires nothing.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/types.h"
+#include "controls/control.h"
+#include "controls/form.h"
+
+namespace orby {
+
+using Event = std::function<void()>;
+
+// Row of the unit label table, for captions that end in a unit.
+inline constexpr int NoUnit = -1;
+
+class Label : public Control {
+ public:
+  // unitRow: row of the unit label table that is appended to the caption, or NoUnit.
+  Label(Form& form, std::string_view name, std::string_view caption, int unitRow = NoUnit)
+      : Control(form, name), caption_(caption), unitRow_(unitRow) {}
+
+  const std::string& Caption() const { return caption_; }
+  void SetCaption(std::string_view caption) { caption_ = caption; }
+  int UnitRow() const { return unitRow_; }
+
+ private:
+  std::string caption_;
+  int unitRow_;
+};
+
+// A frame around other controls. Its caption may end in a unit as a label's does.
+class Frame : public Label {
+ public:
+  using Label::Label;
+};
+
+class Button : public Control {
+ public:
+  Button(Form& form, std::string_view name, std::string_view caption) : Control(form, name), caption_(caption) {}
+
+  const std::string& Caption() const { return caption_; }
+  // The user's press; a disabled button does not answer.
+  void Press() const {
+    if (Enabled() && Click) Click();
+  }
+
+  Event Click;
+
+ private:
+  std::string caption_;
+};
+
+enum class TextKind {
+  Free,    // any text
+  Number,  // keys pass the numeric key filter
+  Output,  // shown only, never typed into; fires nothing
+};
+
+class TextBox : public Control {
+ public:
+  TextBox(Form& form, std::string_view name, TextKind kind = TextKind::Free) : Control(form, name), kind_(kind) {}
+
+  TextKind Kind() const { return kind_; }
+  const std::string& Text() const { return text_; }
+  void SetText(std::string text);
+  // The text's leading number.
+  double Value() const;
+
+  // The key that reaches the text when this one is typed, 0 when it is swallowed.
+  int KeyPress(int key) const;
+
+  std::size_t SelectionStart() const { return selectionStart_; }
+  std::size_t SelectionLength() const { return selectionLength_; }  // in characters
+  void Select(std::size_t start, std::size_t length);
+
+  Event Change;  // the text differs from before
+
+ private:
+  std::string text_;
+  TextKind kind_;
+  std::size_t selectionStart_ = 0;
+  std::size_t selectionLength_ = 0;
+};
+
+class CheckBox : public Control {
+ public:
+  CheckBox(Form& form, std::string_view name, std::string_view caption) : Control(form, name), caption_(caption) {}
+
+  const std::string& Caption() const { return caption_; }
+  Integer Value() const { return value_; }  // 0 or 1
+  bool Checked() const { return value_ == 1; }
+  void SetValue(Integer value);
+
+  Event Click;  // the value differs from before
+
+ private:
+  std::string caption_;
+  Integer value_ = 0;
+};
+
+struct OptionCaption {
+  std::string_view text;
+  int unitRow = NoUnit;
+};
+
+// A group of exclusive choices, counted from 0.
+class OptionArray : public Control {
+ public:
+  OptionArray(Form& form, std::string_view name, std::initializer_list<OptionCaption> captions);
+
+  std::size_t Count() const { return members_.size(); }
+  const std::string& Caption(std::size_t index) const { return members_[index].caption; }
+  void SetCaption(std::size_t index, std::string_view caption) { members_[index].caption = caption; }
+  int UnitRow(std::size_t index) const { return members_[index].unitRow; }
+  bool MemberEnabled(std::size_t index) const { return members_[index].enabled; }
+  void SetMemberEnabled(std::size_t index, bool enabled) { members_[index].enabled = enabled; }
+  void SetAllEnabled(bool enabled);
+
+  bool Value(std::size_t index) const { return members_[index].value; }
+  // A member that turns true turns the others false and is clicked. Throws RuntimeError 9 outside the array.
+  void SetValue(int index, bool value);
+
+  std::function<void(Integer index)> Click;
+
+ private:
+  struct Member {
+    std::string caption;
+    int unitRow = NoUnit;
+    bool enabled = true;
+    bool value = false;
+  };
+  std::vector<Member> members_;
+};
+
+// The index of the last member that is on; 0 when none is.
+Integer GetArrayIndex(const OptionArray& options);
+
+struct ComboItem {
+  std::string text;
+  int data = 0;
+};
+
+// A list to choose from with a text of its own. The text and the selected item are two states: a text that is no item
+// stays, with nothing selected.
+class Combo : public Control {
+ public:
+  Combo(Form& form, std::string_view name) : Control(form, name) {}
+
+  static constexpr int Nothing = -1;
+
+  const std::vector<ComboItem>& Items() const { return items_; }
+  // A selection beyond the end of the new list is dropped.
+  void Fill(std::vector<ComboItem> items);
+
+  const std::string& Text() const { return text_; }
+  // Selects the item that is exactly equal, or none.
+  void SetText(std::string text);
+  // Empties the text and keeps the selection.
+  void BlankText() { Assign({}, listIndex_); }
+  // The text's leading number.
+  double Value() const;
+
+  int ListIndex() const { return listIndex_; }
+  bool HasSelection() const { return listIndex_ != Nothing; }
+  // Selects an item, the text following it; Nothing keeps the text. Throws RuntimeError 9 outside the list.
+  void SetListIndex(int index);
+
+  Event Change;  // the text or the selected item differs from before
+
+ private:
+  void Assign(std::string text, int listIndex);
+
+  std::vector<ComboItem> items_;
+  std::string text_;
+  int listIndex_ = Nothing;
+};
+
+// Cells of text under fixed header rows, one row of them selected.
+class Grid : public Control {
+ public:
+  Grid(Form& form, std::string_view name) : Control(form, name) {}
+
+  // Sizes the grid, empties its cells and selects the first row below the header, if there is one.
+  void SetSize(int rows, int columns, int fixedRows);
+  int Rows() const { return rows_; }
+  int Columns() const { return columns_; }
+  int FixedRows() const { return fixedRows_; }
+  void SetColumnWidths(std::vector<int> widths) { columnWidths_ = std::move(widths); }
+  const std::vector<int>& ColumnWidths() const { return columnWidths_; }
+  int Width() const { return width_; }
+  void SetWidth(int width) { width_ = width; }
+
+  // Throw RuntimeError 9 outside the grid.
+  const std::string& Cell(int row, int column) const;
+  void SetCell(int row, int column, std::string text);
+  // The user's edit of a cell.
+  void EditCell(int row, int column, std::string text);
+
+  int Row() const { return row_; }
+  void SetRow(int row);
+
+  Event Change;  // another row is selected, or a cell was edited
+
+ private:
+  std::size_t Index(int row, int column) const;
+
+  int rows_ = 0;
+  int columns_ = 0;
+  int fixedRows_ = 0;
+  int row_ = 0;
+  int width_ = 0;
+  std::vector<int> columnWidths_;
+  std::vector<std::string> cells_;
+};
+
+// Pages of which one is on view, counted from 0.
+class TabSet : public Control {
+ public:
+  TabSet(Form& form, std::string_view name, std::initializer_list<std::string_view> captions);
+
+  int Count() const { return static_cast<int>(tabs_.size()); }
+  const std::string& Caption(int tab) const { return At(tab).caption; }
+  bool TabEnabled(int tab) const { return At(tab).enabled; }
+  void SetTabEnabled(int tab, bool enabled) { At(tab).enabled = enabled; }
+
+  int Tab() const { return tab_; }
+  // Code may go to a disabled tab. Throws RuntimeError 9 outside the set.
+  void SetTab(int tab);
+  // The user's click, which a disabled tab does not answer.
+  void ClickTab(int tab);
+
+  Event Click;  // another tab is on view
+
+ private:
+  struct Page {
+    std::string caption;
+    bool enabled = true;
+  };
+  const Page& At(int tab) const;
+  Page& At(int tab);
+
+  std::vector<Page> tabs_;
+  int tab_ = 0;
+};
+
+// A plain list of which one item is selected.
+class List : public Control {
+ public:
+  List(Form& form, std::string_view name) : Control(form, name) {}
+
+  const std::vector<ComboItem>& Items() const { return items_; }
+  // A selection beyond the end of the new list is dropped.
+  void Fill(std::vector<ComboItem> items);
+  int ListIndex() const { return listIndex_; }
+  // The user's click on an item; fires each time. Throws RuntimeError 9 outside the list.
+  void ClickItem(int index);
+
+  Event Click;
+
+ private:
+  std::vector<ComboItem> items_;
+  int listIndex_ = Combo::Nothing;
+};
+
+// A stored picture of which only the visibility changes.
+class Picture : public Control {
+ public:
+  using Control::Control;
+};
+
+}  // namespace orby

@@ -1,0 +1,35 @@
+#include "controls/form.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+#include "controls/control.h"
+#include "controls/controls.h"
+
+namespace orby {
+
+Control::Control(Form& form, std::string_view name) : form_(&form), name_(name) { form.controls_.push_back(this); }
+
+Control* Form::Find(std::string_view name) const {
+  const auto found = std::find_if(controls_.begin(), controls_.end(),
+                                  [name](const Control* control) { return control->Name() == name; });
+  return found == controls_.end() ? nullptr : *found;
+}
+
+void Form::Open() {
+  if (open_) return;
+  open_ = true;
+  OnOpen();
+}
+
+void Form::Close() {
+  if (!open_) return;
+  open_ = false;
+  OnClose();
+}
+
+void SelectAllText(Form& form) {
+  if (auto* box = dynamic_cast<TextBox*>(form.FocusRequest())) box->Select(0, CharacterCount(box->Text()));
+}
+
+}  // namespace orby

@@ -1,0 +1,64 @@
+// The lists that standard values are offered from and looked up in. src/catalogs fills them.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "base/types.h"
+
+namespace orby {
+
+// A list of numbers and the index of its last entry in use: only entries up to there are offered and searched, the
+// ones behind keep what they held. -1 is an empty list.
+struct CatalogList {
+  Integer HighestIndex = -1;
+  std::vector<Single> Values;
+
+  std::size_t Count() const { return static_cast<std::size_t>(HighestIndex + 1); }
+  Single operator[](std::size_t index) const { return Values[index]; }
+  // Sets an entry, growing the list as far as needed; the index of the last entry in use stays.
+  void Set(std::size_t index, Single value) {
+    if (index >= Values.size()) Values.resize(index + 1);
+    Values[index] = value;
+  }
+};
+
+// One row of the fixed bolt table, as texts.
+struct BoltTableRow {
+  std::string Name;
+  std::string Diameter;
+  std::string Grade;
+};
+using BoltTable = std::vector<BoltTableRow>;
+
+struct StandingSupports {
+  Integer HighestIndex = -1;
+  std::vector<std::string> DefaultStandSupportType;
+  std::vector<std::array<Single, 2>> DefaultStandSupportCap;  // tons, kN
+};
+
+struct Catalogs {
+  CatalogList DefaultBoltGradeArrayENG;  // ksi
+  CatalogList DefaultBoltUTSArrayENG;    // ksi
+  CatalogList DefaultBoltDiamArrayENG;   // in
+  CatalogList DefaultBoltGradeArrayMET;  // MPa
+  CatalogList DefaultBoltUTSArrayMET;    // MPa
+  CatalogList DefaultBoltDiamArrayMET;   // mm
+  // These two hold each other's contents, diameters in mm under UTS and strengths in MPa under Diam; files that users
+  // keep have them so.
+  CatalogList DefaultBoltUTSArrayMETAUS;
+  CatalogList DefaultBoltDiamArrayMETAUS;
+  // The three cable lists of a unit system share their highest index.
+  CatalogList DefaultCableCapArrayENG;   // tons
+  CatalogList DefaultCableUTSArrayENG;   // tons
+  CatalogList DefaultCableDiamArrayENG;  // in
+  CatalogList DefaultCableCapArrayMET;   // kN
+  CatalogList DefaultCableUTSArrayMET;   // kN
+  CatalogList DefaultCableDiamArrayMET;  // mm
+  StandingSupports StandSupports;
+  BoltTable BoltTableENG;  // in, ksi
+  BoltTable BoltTableMET;  // mm, MPa
+};
+
+}  // namespace orby

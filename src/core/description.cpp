@@ -1,0 +1,62 @@
+#include "core/description.h"
+
+#include <string>
+
+#include "base/arithmetic.h"
+#include "base/runtime_error.h"
+#include "base/text.h"
+#include "core/file_helpers.h"
+#include "core/messages.h"
+
+namespace orby {
+namespace {
+
+constexpr std::size_t LongestLine = 60;
+
+// The text after a trip through the temporary file, which is gone afterwards.
+std::string ThroughTemporaryFile(Program& program, std::string_view text) {
+  FileSystem& files = program.platform.files;
+  const std::string path = GetTempDirectory(program) + "~tmpdesc.tmp";
+  const auto file = files.CreateFile(path);
+  file->Write(text);
+  file->Close();
+  std::string read = files.ReadFile(path);
+  if (FileExists(program, path)) files.RemoveFile(path);
+  return read;
+}
+
+struct NormalDescription {
+  std::string text;
+  Integer lines = LinesOfEmptyDescription;
+};
+
+NormalDescription Normalized(std::string_view text) {
+  NormalDescription result;
+  while (!text.empty()) {
+    std::string line(TakeLine(text));
+    if (Trim(line).empty()) continue;
+    const int count = CharacterCount(Trim(line)) > LongestLine ? WrapDescriptionLine(line) : 1;
+    result.lines = ToInteger(result.lines + count);
+    result.text += line;
+    result.text += LineEnd;
+  }
+  if (!result.text.empty()) result.text.resize(result.text.size() - LineEnd.size());
+  return result;
+}
+
+}  // namespace
+
+void SaveDescription(Program& program) {
+  program.DescLines = LinesOfEmptyDescription;
+  if (program.ProjectDescription.empty()) return;
+  try {
+    NormalDescription normal = Normalized(ThroughTemporaryFile(program, program.ProjectDescription));
+    program.ProjectDescription = std::move(normal.text);
+    program.DescLines = normal.lines;
+  } catch (const RuntimeError& error) {
+    // Whatever is decided, a description that could not be rebuilt stays as the user typed it.
+    ErrorDecision(program, error, false);
+  }
+}
+
+}  // namespace orby

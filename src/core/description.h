@@ -1,0 +1,15 @@
+// The free description of a project, as reports print it and files hold it.
+#pragma once
+
+#include "core/program.h"
+
+namespace orby {
+
+inline constexpr Integer LinesOfEmptyDescription = 2;
+
+// Normalises ProjectDescription: blank lines are dropped, lines of more than 60 characters broken, the end of the last
+// line cut off. DescLines becomes 2 and one for every line, one more for every line that was broken.
+// Works through a temporary file; when that fails the description stays as it was and nobody is told.
+void SaveDescription(Program& program);
+
+}  // namespace orby

@@ -1,0 +1,102 @@
+#include "core/dialog_helpers.h"
+
+#include <algorithm>
+#include <array>
+
+#include "base/number_text.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "core/messages.h"
+
+namespace orby {
+namespace {
+
+std::string ChooseFont(const std::vector<std::string>& installed, std::initializer_list<std::string_view> wanted) {
+  for (const auto name : wanted) {
+    const int index = FontIndexOf(name, installed);
+    if (index >= 0) return installed[static_cast<std::size_t>(index)];
+  }
+  return installed.empty() ? std::string() : installed.front();
+}
+
+int Centered(int length, int screenLength) { return length > screenLength ? 0 : screenLength / 2 - length / 2; }
+
+}  // namespace
+
+void SetArrayIndex(Program& program, OptionArray& options, Integer index) {
+  if (index < 0 || static_cast<std::size_t>(index) >= options.Count()) {
+    ShowMessage(program, "Internal Error: SetArrayIndex. Check input/form data.", box_style::Ok,
+                program.titles.RangeErrorTitle);
+  }
+  for (std::size_t i = 0; i < options.Count(); ++i) options.SetValue(static_cast<int>(i), false);
+  options.SetValue(index, true);
+}
+
+bool RangeCheck(Program& program, std::string_view text, double minimum, double maximum, std::string_view fieldName) {
+  const std::string_view trimmed = Trim(text);
+  std::string message(fieldName);
+  if (!fieldName.empty()) message += ": ";
+  if (trimmed.empty()) {
+    message += "Blank field not allowed";
+  } else {
+    const double value = TextValue(text);
+    if (value >= minimum && value <= maximum) return true;
+    message += "Value '" + std::string(trimmed) + "' is outside input range" + std::string(LineEnd) +
+               "Valid range is: " + NumberText(minimum) + "-" + NumberText(maximum);
+  }
+  ShowMessage(program, message, box_style::Critical, program.titles.RangeErrorTitle);
+  return false;
+}
+
+void AppendUnits(const Form& form, Integer units) {
+  for (Control* control : form.Controls()) {
+    if (auto* label = dynamic_cast<Label*>(control)) {
+      if (label->UnitRow() == NoUnit) continue;
+      label->SetCaption(label->Caption() + std::string(UnitLabel(label->UnitRow(), units)));
+    } else if (auto* options = dynamic_cast<OptionArray*>(control)) {
+      for (std::size_t i = 0; i < options->Count(); ++i) {
+        if (options->UnitRow(i) == NoUnit) continue;
+        options->SetCaption(i, options->Caption(i) + std::string(UnitLabel(options->UnitRow(i), units)));
+      }
+    }
+  }
+}
+
+void PrepareForm(Program& program, int moduleIndex) {
+  SetMessageTitles(program, moduleIndex);
+  program.platform.windows.SetWaitCursor(false);
+}
+
+void ShowForm(Program& program, Form& form) {
+  form.Open();
+  program.platform.windows.ShowModal(form);
+  form.Close();
+}
+
+Position CenterForm(Extent form, Extent screen) {
+  return {Centered(form.width, screen.width), Centered(form.height, screen.height)};
+}
+
+std::string SetFormCaption(std::string_view tag, std::string_view path, bool fileSaved) {
+  return std::string(tag) + ": " + ShortenedPath(path) + (fileSaved ? "" : "*");
+}
+
+int FontIndexOf(std::string_view name, const std::vector<std::string>& fontList) {
+  const auto found = std::find_if(fontList.begin(), fontList.end(),
+                                  [name](const std::string& font) { return SameWithoutCase(font, name); });
+  return found == fontList.end() ? -1 : static_cast<int>(found - fontList.begin());
+}
+
+std::string ChooseDisplayFont(Program& program) {
+  return ChooseFont(program.platform.fonts.ScreenFonts(), {"Arial", "Courier New", "System", "Terminal"});
+}
+
+std::string ChoosePrinterFont(Program& program) {
+  return ChooseFont(program.platform.fonts.PrinterFonts(), {"Courier New", "Courier", "Arial"});
+}
+
+void FixDecimalSeparator(Program& program) {
+  program.SavedDecimalSeparator = program.platform.locale.DecimalSeparator() == "," ? "," : ".";
+}
+
+}  // namespace orby

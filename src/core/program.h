@@ -1,0 +1,103 @@
+// The whole state of one run, handed to everything that needs it.
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/catalog_lists.h"
+#include "core/project_record.h"
+#include "core/settings.h"
+#include "core/units.h"
+#include "platform/platform.h"
+
+namespace orby {
+
+inline constexpr std::string_view ProgramTitle = "Orby Roof Support Workbench";
+inline constexpr std::string_view BuildStamp = "201030";
+inline constexpr std::string_view UntitledName = "Untitled";
+
+// The window titles of messages, set by the dialog that loaded last.
+struct MessageTitles {
+  std::string MessageTitle;
+  std::string RangeErrorTitle;
+  std::string RangeWarningTitle;
+  std::string InvalidCharacterTitle;
+  std::string ErrorTitle;
+  std::string LogicErrorTitle;
+};
+
+// The numbered lines that tell what happened, as the pane of the main window shows them.
+struct History {
+  std::string Text;
+  Integer HistoryLineCounter = 0;
+};
+
+// What the roof rating estimator last chose.
+struct EstimatorState {
+  Integer EstimatedCMRR = 0;  // 0: none
+  Integer EstimatorRegion = 0;
+  Integer EstimatorRockType = 0;
+  bool EstimatorManual = false;      // the chosen row is the region's last
+  Integer EstimatorManualValue = 0;  // nothing sets it, so it never applies
+  Integer CallerCode = 0;            // the dialog that opened the estimator
+};
+
+struct Curve {
+  // Row 0 holds x, row 1 y; as many columns as the sweep was sized for, empty ones at the end staying 0.
+  std::array<std::vector<Single>, 2> CurvePoints;
+  Integer CurvePointCount = 0;  // filled columns
+  Integer CurveIndex = 0;
+};
+
+// Which input dialog asked for the report on view.
+namespace report_caller {
+inline constexpr Integer None = -1;
+inline constexpr Integer Parameters = 1;
+inline constexpr Integer Cost = 2;
+}  // namespace report_caller
+
+struct Program {
+  explicit Program(Platform platformGiven) : platform(platformGiven) {}
+
+  Platform platform;
+
+  ProjectRecord WorkParms;      // the committed design
+  ProjectRecord WorkParmsCopy;  // what a dialog shows, for previews and curves
+  Integer Units = English;
+  Integer BoltStrengthMode = 0;  // 0: grades are yield strengths, 1: ultimate strengths
+  Integer UseAUSStandardTable = 0;
+  std::string ProjectTitle;
+  std::string ProjectDescription;
+  Integer DescLines = 0;
+
+  std::string CurrentFile{UntitledName};
+  std::string PreviousFile;
+  Integer FileVersion = 0;  // of the last project read: one less than the number in its label
+  bool FileSaved = true;
+  bool FileEmpty = true;
+  bool UnitsLocked = false;
+  Integer RecentMode = 0;
+
+  std::array<std::string, 5> OutBuf;  // report pages: 0 the input echo, 1 the calculations or the cost table
+  Integer LastPage = 4;
+  Integer ReportCaller = report_caller::None;
+  bool DialogOpen = false;
+
+  Catalogs catalogs;
+  Settings settings;
+  DesignDefaults defaults;
+  MessageTitles titles;
+  History history;
+  EstimatorState estimator;
+  Curve curve;
+  std::string SavedDecimalSeparator;
+};
+
+// Whether the Australian table of bolts is the one in force: it is a variant of the Metric tables.
+inline bool UsesAustralianTable(const Program& program) {
+  return program.UseAUSStandardTable == 1 && program.Units == Metric;
+}
+
+}  // namespace orby

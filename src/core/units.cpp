@@ -1,0 +1,51 @@
+#include "core/units.h"
+
+#include <array>
+
+#include "base/runtime_error.h"
+
+namespace orby {
+namespace {
+
+struct LabelRow {
+  std::string_view english;
+  std::string_view metric;
+};
+
+// Rows 3, 6, 7 and 9 pair units of different size; a number must be in the row's own unit before it is printed.
+constexpr std::array<LabelRow, unit_row::Count> Labels{{
+    {" (ft)", " (m)"},
+    {" (psi)", " (MPa)"},
+    {" (pcf)", " (kN/m3)"},
+    {" (in)", " (cm)"},
+    {" (psf)", " (kPa)"},
+    {" (lbs)", " (kN)"},
+    {" (tons)", " (tn)"},
+    {" (ft)", " (cm)"},
+    {" (ksi)", " (MPa)"},
+    {" (tons)", " (MN)"},
+    {" (tons/ft)", " (MN/m)"},
+    {" (in)", " (mm)"},
+    {" (tons)", " (kN)"},
+    {" (tons/ft)", " (kN/m)"},
+    {" (million psi)", " (GPa)"},
+    {" (kips/ft)", " (kN/m)"},
+    {" (kip-ft/ft^2)", " (kN-m/m^2)"},
+    {" (ton-ft/ft^2)", " (kN-m/m^2)"},
+}};
+
+}  // namespace
+
+std::string_view UnitLabel(int row, Integer units) {
+  if (row < 0 || row >= unit_row::Count || units < English || units > Metric) {
+    throw RuntimeError(error_number::Subscript);
+  }
+  const LabelRow& labels = Labels[static_cast<std::size_t>(row)];
+  return units == English ? labels.english : labels.metric;
+}
+
+std::string_view UnitSummary(Integer units) {
+  return units == English ? "ft, in, lbs, psi, pcf" : "m, cm, kN, MPa, kN/m3";
+}
+
+}  // namespace orby

@@ -1,0 +1,40 @@
+// The two unit systems: conversion factors and the suffixes that captions and report lines end in.
+#pragma once
+
+#include <string_view>
+
+#include "base/types.h"
+
+namespace orby {
+
+inline constexpr Integer English = 0;
+inline constexpr Integer Metric = 1;
+
+inline constexpr double FeetPerMetre = 3.280839895013123;
+inline constexpr double MillimetresPerInch = 25.4;
+inline constexpr double MPaPerKsi = 6894.757293 / 1000000 * 1000;
+inline constexpr double KilonewtonsPerTon = 8.896443;
+inline constexpr double KilonewtonsPerPound = 0.004448220489393218;
+inline constexpr double PcfPerKilonewtonCubicMetre = 6.3663022639200495;
+
+// What a caption's suffix measures: the rows of the table that UnitLabel reads.
+namespace unit_row {
+inline constexpr int Length = 0;
+inline constexpr int Stress = 1;
+inline constexpr int UnitWeight = 2;
+inline constexpr int Force = 12;
+inline constexpr int LineLoad = 13;
+inline constexpr int Grade = 8;
+inline constexpr int Diameter = 11;
+inline constexpr int ProductionMass = 6;
+inline constexpr int ProductionRate = 10;
+inline constexpr int Count = 18;
+}  // namespace unit_row
+
+// The suffix of a row in a unit system, starting with a blank: " (ft)". Throws RuntimeError 9 outside the table.
+std::string_view UnitLabel(int row, Integer units);
+
+// The system in a few words: "ft, in, lbs, psi, pcf".
+std::string_view UnitSummary(Integer units);
+
+}  // namespace orby

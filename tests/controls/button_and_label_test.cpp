@@ -1,0 +1,75 @@
+#include <gtest/gtest.h>
+
+#include "controls/controls.h"
+#include "controls/plain_form.h"
+
+namespace orby::test {
+namespace {
+
+TEST(Button, AnswersEveryPress) {
+  PlainForm form;
+  Button results(form, "cmdResults", "Results");
+  int presses = 0;
+  results.Click = [&] { ++presses; };
+
+  results.Press();
+  results.Press();
+
+  EXPECT_EQ(results.Caption(), "Results");
+  EXPECT_EQ(presses, 2);
+}
+
+TEST(Button, DoesNotAnswerWhileItIsDisabled) {
+  PlainForm form;
+  Button results(form, "cmdResults", "Results");
+  int presses = 0;
+  results.Click = [&] { ++presses; };
+
+  results.SetEnabled(false);
+  results.Press();
+  EXPECT_EQ(presses, 0);
+
+  results.SetEnabled(true);
+  results.Press();
+  EXPECT_EQ(presses, 1);
+}
+
+TEST(Button, WithoutACommandCanBePressed) {
+  PlainForm form;
+  const Button spare(form, "cmdSpare", "Spare");
+
+  EXPECT_NO_THROW(spare.Press());
+}
+
+TEST(Label, ShowsItsCaptionAndKnowsItsUnit) {
+  PlainForm form;
+  Label depth(form, "lblDepth", "Depth of cover", 0);
+  const Label rating(form, "lblRating", "Roof rating");
+
+  depth.SetCaption("Depth");
+
+  EXPECT_EQ(depth.Caption(), "Depth");
+  EXPECT_EQ(depth.UnitRow(), 0);
+  EXPECT_EQ(rating.Caption(), "Roof rating");
+  EXPECT_EQ(rating.UnitRow(), -1);
+}
+
+TEST(Frame, HasACaptionAsALabelHas) {
+  PlainForm form;
+  const Frame diameter(form, "fraDiameter", "Diameter", 11);
+
+  EXPECT_EQ(diameter.Caption(), "Diameter");
+  EXPECT_EQ(diameter.UnitRow(), 11);
+}
+
+TEST(Picture, CanBeHiddenAndShown) {
+  PlainForm form;
+  Picture layout(form, "imgLayout");
+
+  EXPECT_TRUE(layout.Visible());
+  layout.SetVisible(false);
+  EXPECT_FALSE(layout.Visible());
+}
+
+}  // namespace
+}  // namespace orby::test

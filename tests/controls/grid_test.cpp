@@ -1,0 +1,137 @@
+#include <gmock/gmock.h>
+
+#include "base/runtime_error.h"
+#include "controls/controls.h"
+#include "controls/plain_form.h"
+#include "support/recording_platform.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+
+// A header and three rows of bolts.
+struct AGrid : testing::Test {
+  AGrid() {
+    grid.SetSize(4, 2, 1);
+    grid.SetCell(1, 0, "#5 grade 60");
+    grid.SetCell(2, 0, "#6 grade 60");
+    grid.SetCell(3, 1, "0.875");
+    grid.Change = [this] { ++changes; };
+  }
+
+  PlainForm form;
+  Grid grid{form, "grdBolts"};
+  int changes = 0;
+};
+
+TEST_F(AGrid, OpensOnTheFirstRowBelowItsHeader) {
+  EXPECT_EQ(grid.Row(), 1);
+  EXPECT_EQ(grid.Rows(), 4);
+  EXPECT_EQ(grid.Columns(), 2);
+  EXPECT_EQ(grid.FixedRows(), 1);
+}
+
+TEST_F(AGrid, WithAHeaderAloneOpensOnTheHeader) {
+  grid.SetSize(1, 2, 1);
+
+  EXPECT_EQ(grid.Row(), 0);
+}
+
+TEST_F(AGrid, IsEmptiedWhenItIsSizedAndTellsNothing) {
+  grid.SetRow(3);
+  changes = 0;
+
+  grid.SetSize(3, 3, 1);
+
+  EXPECT_EQ(grid.Cell(1, 0), "");
+  EXPECT_EQ(grid.Cell(2, 2), "");
+  EXPECT_EQ(grid.Row(), 1);
+  EXPECT_EQ(changes, 0);
+}
+
+TEST_F(AGrid, TellsNothingWhenCodeFillsACell) {
+  grid.SetCell(2, 1, "0.75");
+
+  EXPECT_EQ(grid.Cell(2, 1), "0.75");
+  EXPECT_EQ(changes, 0);
+}
+
+TEST_F(AGrid, KeepsEveryCellApart) {
+  EXPECT_EQ(grid.Cell(1, 0), "#5 grade 60");
+  EXPECT_EQ(grid.Cell(1, 1), "");
+  EXPECT_EQ(grid.Cell(2, 0), "#6 grade 60");
+  EXPECT_EQ(grid.Cell(3, 1), "0.875");
+}
+
+TEST_F(AGrid, TellsOfAnotherRow) {
+  grid.SetRow(3);
+
+  EXPECT_EQ(grid.Row(), 3);
+  EXPECT_EQ(changes, 1);
+}
+
+TEST_F(AGrid, TellsNothingWhenTheSameRowIsChosenAgain) {
+  grid.SetRow(1);
+
+  EXPECT_EQ(changes, 0);
+}
+
+TEST_F(AGrid, TellsOfACellThatTheUserEdits) {
+  grid.EditCell(3, 1, "1.0");
+
+  EXPECT_EQ(grid.Cell(3, 1), "1.0");
+  EXPECT_EQ(grid.Row(), 1);
+  EXPECT_EQ(changes, 1);
+}
+
+TEST_F(AGrid, TellsNothingOfAnEditThatChangesNothing) {
+  grid.EditCell(3, 1, "0.875");
+
+  EXPECT_EQ(changes, 0);
+}
+
+TEST_F(AGrid, HasNoCellOutsideItsBounds) {
+  EXPECT_EQ(ErrorNumberOf([this] { static_cast<void>(grid.Cell(4, 0)); }), 9);
+  EXPECT_EQ(ErrorNumberOf([this] { static_cast<void>(grid.Cell(0, 2)); }), 9);
+  EXPECT_EQ(ErrorNumberOf([this] { static_cast<void>(grid.Cell(-1, 0)); }), 9);
+  EXPECT_EQ(ErrorNumberOf([this] { grid.SetCell(4, 0, "x"); }), 9);
+  EXPECT_EQ(ErrorNumberOf([this] { grid.EditCell(1, -1, "x"); }), 9);
+  EXPECT_EQ(changes, 0);
+}
+
+TEST_F(AGrid, KeepsItsRowWhenOneOutsideIsAskedFor) {
+  EXPECT_EQ(ErrorNumberOf([this] { grid.SetRow(4); }), 9);
+  EXPECT_EQ(ErrorNumberOf([this] { grid.SetRow(-1); }), 9);
+
+  EXPECT_EQ(grid.Row(), 1);
+  EXPECT_EQ(changes, 0);
+}
+
+TEST_F(AGrid, WithoutRowsHasNoneToChoose) {
+  grid.SetSize(0, 2, 0);
+
+  EXPECT_EQ(grid.Row(), -1);
+  EXPECT_EQ(ErrorNumberOf([this] { grid.SetRow(0); }), 9);
+}
+
+TEST_F(AGrid, KeepsTheWidthsItIsGiven) {
+  grid.SetColumnWidths({180, 60});
+  grid.SetWidth(240);
+
+  EXPECT_THAT(grid.ColumnWidths(), ElementsAre(180, 60));
+  EXPECT_EQ(grid.Width(), 240);
+}
+
+TEST_F(AGrid, WithoutARuleTakesRowAndTextAllTheSame) {
+  grid.Change = nullptr;
+
+  grid.SetRow(2);
+  grid.EditCell(2, 1, "0.75");
+
+  EXPECT_EQ(grid.Row(), 2);
+  EXPECT_EQ(grid.Cell(2, 1), "0.75");
+}
+
+}  // namespace
+}  // namespace orby::test

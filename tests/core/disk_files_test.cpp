@@ -1,0 +1,263 @@
+#include "platform/disk_files.h"
+
+#include <gtest/gtest.h>
+#include <stdlib.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <optional>
+#include <stdexcept>
+
+#include "base/runtime_error.h"
+#include "support/recording_platform.h"
+
+namespace orby::test {
+namespace {
+
+// A folder of its own for each test, gone when the test ends.
+class Disk : public testing::Test {
+ public:
+  Disk() {
+    std::string name = (std::filesystem::temp_directory_path() / "orby-disk-XXXXXX").string();
+    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
+    folder = name;
+  }
+  ~Disk() override {
+    std::error_code ignored;
+    std::filesystem::remove_all(folder, ignored);
+  }
+
+  std::string At(const std::string& name) const { return folder + "/" + name; }
+
+  void Store(const std::string& path, std::string_view bytes) {
+    const auto file = files.CreateFile(path);
+    file->Write(bytes);
+    file->Close();
+  }
+
+  int ErrorOfReading(const std::string& path) {
+    return ErrorNumberOf([&] { static_cast<void>(files.ReadFile(path)); });
+  }
+  int ErrorOfCreating(const std::string& path) {
+    return ErrorNumberOf([&] { static_cast<void>(files.CreateFile(path)); });
+  }
+  int ErrorOfRemoving(const std::string& path) {
+    return ErrorNumberOf([&] { files.RemoveFile(path); });
+  }
+  int ErrorOfSearching(const std::string& path) {
+    return ErrorNumberOf([&] { static_cast<void>(files.Finds(path, true)); });
+  }
+
+  std::string folder;
+  DiskFiles files{"/opt/orby"};
+};
+
+TEST_F(Disk, GivesBackTheBytesThatWereWritten) {
+  const std::string bytes("Title\r\n\0\x80\xFF\x1A end\n", 17);
+
+  Store(At("panel.ORB"), bytes);
+
+  EXPECT_EQ(files.ReadFile(At("panel.ORB")), bytes);
+}
+
+TEST_F(Disk, JoinsWhatIsWrittenPieceByPiece) {
+  const auto file = files.CreateFile(At("panel.ORB"));
+
+  file->Write("ORBY_105");
+  file->Write("");
+  file->Write("\r\n");
+  file->Close();
+
+  EXPECT_EQ(files.ReadFile(At("panel.ORB")), "ORBY_105\r\n");
+}
+
+TEST_F(Disk, ReadsALargeFileWhole) {
+  const std::string bytes(1'000'003, 'x');
+  Store(At("large.txt"), bytes);
+
+  EXPECT_EQ(files.ReadFile(At("large.txt")), bytes);
+}
+
+TEST_F(Disk, ReadsAnEmptyFileAsNothing) {
+  Store(At("empty.ORB"), "");
+
+  EXPECT_EQ(files.ReadFile(At("empty.ORB")), "");
+}
+
+TEST_F(Disk, ReadsAFileWhoseSizeIsNotKnownBeforehand) {
+  EXPECT_EQ(files.ReadFile("/proc/sys/kernel/ostype"), "Linux\n");
+}
+
+TEST_F(Disk, EmptiesAnExistingFileAsSoonAsItIsOpenedForWriting) {
+  Store(At("panel.ORB"), "a longer text");
+
+  const auto file = files.CreateFile(At("panel.ORB"));
+
+  EXPECT_EQ(files.ReadFile(At("panel.ORB")), "");
+}
+
+TEST_F(Disk, KeepsWhatWasWrittenToAFileThatWasNotClosed) {
+  {
+    const auto file = files.CreateFile(At("panel.ORB"));
+    file->Write("half");
+  }
+
+  EXPECT_EQ(files.ReadFile(At("panel.ORB")), "half");
+}
+
+TEST_F(Disk, MissesAFileThatIsNotThere) {
+  EXPECT_EQ(ErrorOfReading(At("missing.ORB")), 53);
+  EXPECT_EQ(ErrorOfReading("surely-missing-in-the-working-folder.ORB"), 53);
+  EXPECT_EQ(ErrorOfRemoving(At("missing.ORB")), 53);
+}
+
+TEST_F(Disk, MissesAFolderThatIsNotThere) {
+  EXPECT_EQ(ErrorOfReading(At("nowhere/panel.ORB")), 76);
+  EXPECT_EQ(ErrorOfCreating(At("nowhere/panel.ORB")), 76);
+  EXPECT_EQ(ErrorOfRemoving(At("nowhere/panel.ORB")), 76);
+}
+
+TEST_F(Disk, TakesNoFileForAFolder) {
+  Store(At("panel.ORB"), "x");
+
+  EXPECT_EQ(ErrorOfReading(At("panel.ORB/other.ORB")), 76);
+  EXPECT_EQ(ErrorOfCreating(At("panel.ORB/other.ORB")), 76);
+}
+
+TEST_F(Disk, TakesNoFolderForAFile) {
+  EXPECT_EQ(ErrorOfReading(folder), 75);
+  EXPECT_EQ(ErrorOfCreating(folder), 75);
+  EXPECT_EQ(ErrorOfRemoving(folder), 75);
+
+  EXPECT_TRUE(std::filesystem::is_directory(folder));
+}
+
+TEST_F(Disk, RefusesToWriteWhereNobodyMay) { EXPECT_EQ(ErrorOfCreating("/proc/sys/kernel/ostype"), 70); }
+
+TEST_F(Disk, RefusesToGoRoundInLinks) {
+  std::filesystem::create_symlink(At("b"), At("a"));
+  std::filesystem::create_symlink(At("a"), At("b"));
+
+  EXPECT_EQ(ErrorOfReading(At("a")), 75);
+  EXPECT_EQ(ErrorOfSearching(At("a")), 75);
+}
+
+TEST_F(Disk, TellsOfAFileThatCannotBeRead) { EXPECT_EQ(ErrorOfReading("/proc/self/mem"), 75); }
+
+TEST_F(Disk, RefusesNamesThatAreNone) {
+  const std::string tooLong = At(std::string(300, 'x'));
+
+  EXPECT_EQ(ErrorOfReading(""), 52);
+  EXPECT_EQ(ErrorOfCreating(""), 52);
+  EXPECT_EQ(ErrorOfRemoving(""), 52);
+  EXPECT_EQ(ErrorOfReading(tooLong), 52);
+  EXPECT_EQ(ErrorOfCreating(tooLong), 52);
+  EXPECT_EQ(ErrorOfRemoving(tooLong), 52);
+  EXPECT_EQ(ErrorOfSearching(tooLong), 52);
+}
+
+TEST_F(Disk, DoesNotTouchAnotherFileByANameWithANulInIt) {
+  Store(At("panel.ORB"), "x");
+  const std::string name = At("panel.ORB") + std::string(1, '\0') + "old";
+
+  EXPECT_EQ(ErrorOfReading(name), 52);
+  EXPECT_EQ(ErrorOfCreating(name), 52);
+  EXPECT_EQ(ErrorOfRemoving(name), 52);
+  EXPECT_EQ(ErrorOfSearching(name), 52);
+
+  EXPECT_EQ(files.ReadFile(At("panel.ORB")), "x");
+}
+
+TEST_F(Disk, IsFullAtTheCloseOfAShortFile) {
+  const auto file = files.CreateFile("/dev/full");
+  file->Write("ORBY_105\r\n");
+
+  EXPECT_EQ(ErrorNumberOf([&] { file->Close(); }), 61);
+}
+
+TEST_F(Disk, IsFullInTheMiddleOfALongFile) {
+  const auto file = files.CreateFile("/dev/full");
+
+  EXPECT_EQ(ErrorNumberOf([&] { file->Write(std::string(1'000'000, 'x')); }), 61);
+}
+
+TEST_F(Disk, RemovesAFile) {
+  Store(At("panel.ORB"), "x");
+
+  files.RemoveFile(At("panel.ORB"));
+
+  EXPECT_FALSE(files.Finds(At("panel.ORB"), true));
+}
+
+TEST_F(Disk, FindsFilesAndOnRequestFolders) {
+  Store(At("panel.ORB"), "x");
+
+  EXPECT_TRUE(files.Finds(At("panel.ORB"), false));
+  EXPECT_TRUE(files.Finds(At("panel.ORB"), true));
+  EXPECT_FALSE(files.Finds(folder, false));
+  EXPECT_TRUE(files.Finds(folder, true));
+  EXPECT_TRUE(files.Finds(folder + "/", true));
+}
+
+TEST_F(Disk, FindsNothingWhereNothingIs) {
+  Store(At("panel.ORB"), "x");
+  std::filesystem::create_symlink(At("gone"), At("link"));
+
+  EXPECT_FALSE(files.Finds(At("missing.ORB"), true));
+  EXPECT_FALSE(files.Finds(At("nowhere/missing.ORB"), true));
+  EXPECT_FALSE(files.Finds(At("panel.ORB/missing.ORB"), true));
+  EXPECT_FALSE(files.Finds(At("link"), true));
+  EXPECT_FALSE(files.Finds("", true));
+}
+
+TEST_F(Disk, KeepsTheCaseOfNamesAndTakesAnyCharacterInThem) {
+  Store(At("Panel \xC3\xA9.ORB"), "upper");
+  Store(At("panel \xC3\xA9.ORB"), "lower");
+
+  EXPECT_EQ(files.ReadFile(At("Panel \xC3\xA9.ORB")), "upper");
+  EXPECT_EQ(files.ReadFile(At("panel \xC3\xA9.ORB")), "lower");
+}
+
+// The variable that names the temporary folder, given back when the test ends.
+class TemporaryFolderVariable {
+ public:
+  explicit TemporaryFolderVariable(const std::string& value) {
+    if (const char* before = getenv("TMPDIR")) before_ = before;
+    setenv("TMPDIR", value.c_str(), 1);
+  }
+  ~TemporaryFolderVariable() {
+    if (before_) {
+      setenv("TMPDIR", before_->c_str(), 1);
+    } else {
+      unsetenv("TMPDIR");
+    }
+  }
+  TemporaryFolderVariable(const TemporaryFolderVariable&) = delete;
+  TemporaryFolderVariable& operator=(const TemporaryFolderVariable&) = delete;
+
+ private:
+  std::optional<std::string> before_;
+};
+
+TEST_F(Disk, HasTheTemporaryFolderThatTheUserNamed) {
+  const TemporaryFolderVariable variable(folder);
+
+  EXPECT_EQ(files.TemporaryFolder(), folder);
+}
+
+TEST_F(Disk, MissesATemporaryFolderThatIsNoFolder) {
+  Store(At("panel.ORB"), "x");
+  {
+    const TemporaryFolderVariable variable(At("nowhere"));
+    EXPECT_EQ(ErrorNumberOf([this] { static_cast<void>(files.TemporaryFolder()); }), 76);
+  }
+  {
+    const TemporaryFolderVariable variable(At("panel.ORB"));
+    EXPECT_EQ(ErrorNumberOf([this] { static_cast<void>(files.TemporaryFolder()); }), 76);
+  }
+}
+
+TEST_F(Disk, KnowsTheFolderOfTheProgram) { EXPECT_EQ(files.ProgramFolder(), "/opt/orby"); }
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,173 @@
+#include "core/messages.h"
+
+#include "core/program_bench.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+
+using ShowMessageBox = ProgramBench;
+
+TEST_F(ShowMessageBox, WithATitleIsLoggedUnderThatTitle) {
+  ShowMessage(program, "Depth must be above 0", box_style::Critical, "Project Parameters: Range Error");
+
+  EXPECT_EQ(program.history.Text, "1. Project Parameters: Range Error: Depth must be above 0\r\n");
+  EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Depth must be above 0", 16, "Project Parameters: Range Error")));
+}
+
+TEST_F(ShowMessageBox, WithoutATitleIsLoggedAsAMessageAndBearsTheProgramsTitle) {
+  ShowMessage(program, "Current file is empty");
+
+  EXPECT_EQ(program.history.Text, "1. Message: Current file is empty\r\n");
+  EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Current file is empty", 0, "Orby Roof Support Workbench")));
+}
+
+TEST_F(ShowMessageBox, IsLoggedBeforeItIsAnswered) {
+  struct LogReadingBoxes : RecordingBoxes {
+    int Show(const MessageBox& box) override {
+      logWhenShown = program->history.Text;
+      return RecordingBoxes::Show(box);
+    }
+    Program* program = nullptr;
+    std::string logWhenShown;
+  } boxes;
+  Program asking({boxes, platform.files, platform.fileDialogs, platform.windows, platform.fonts, platform.locale});
+  boxes.program = &asking;
+
+  ShowMessage(asking, "Save changes?", box_style::YesNoCancel, "Save");
+
+  EXPECT_EQ(boxes.logWhenShown, "1. Save: Save changes?\r\n");
+}
+
+TEST_F(ShowMessageBox, GivesTheButtonThatWasPressed) {
+  platform.boxes.answers = {2, 6, 7, 4};
+
+  EXPECT_EQ(ShowMessage(program, "Save changes?", box_style::YesNoCancel), 2);
+  EXPECT_EQ(ShowMessage(program, "Save changes?", box_style::YesNo), 6);
+  EXPECT_EQ(ShowMessage(program, "Save changes?", box_style::YesNo), 7);
+  EXPECT_EQ(ShowMessage(program, "Printer is off", box_style::RetryCancel), 4);
+  EXPECT_EQ(ShowMessage(program, "Done"), 1);
+}
+
+TEST_F(ShowMessageBox, PassesStyleAndHelpThrough) {
+  ShowMessage(program, "Download now?", 3 + 32 + 256, "Update", "ORBY.CHM", 1200);
+
+  ASSERT_EQ(platform.boxes.shown.size(), 1U);
+  EXPECT_EQ(platform.boxes.shown[0].style, 291);
+  EXPECT_EQ(platform.boxes.shown[0].helpFile, "ORBY.CHM");
+  EXPECT_EQ(platform.boxes.shown[0].helpContext, 1200);
+}
+
+TEST_F(ShowMessageBox, IsShownAlsoWhenTheHistoryIsOff) {
+  program.settings.DisplayHistoryWin = 0;
+
+  ShowMessage(program, "Current file is empty");
+
+  EXPECT_EQ(program.history.Text, "");
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Current file is empty"));
+}
+
+TEST_F(ShowMessageBox, StylesAreTheSystemsBits) {
+  EXPECT_EQ(box_style::Ok, 0);
+  EXPECT_EQ(box_style::YesNoCancel, 3);
+  EXPECT_EQ(box_style::YesNo, 4);
+  EXPECT_EQ(box_style::RetryCancel, 5);
+  EXPECT_EQ(box_style::Critical, 16);
+  EXPECT_EQ(box_style::Question, 32);
+  EXPECT_EQ(box_style::Exclamation, 48);
+  EXPECT_EQ(box_style::SecondButtonDefault, 256);
+}
+
+struct ModuleTitles {
+  int module;
+  const char* rangeError;
+  const char* rangeWarning;
+  const char* invalidCharacter;
+  const char* error;
+  const char* logicError;
+};
+
+struct MessageTitlesOfModule : ProgramBench, testing::WithParamInterface<ModuleTitles> {};
+
+TEST_P(MessageTitlesOfModule, BeginWithItsName) {
+  program.titles.MessageTitle = "Stale";
+
+  SetMessageTitles(program, GetParam().module);
+
+  EXPECT_EQ(program.titles.MessageTitle, "Message");
+  EXPECT_EQ(program.titles.RangeErrorTitle, GetParam().rangeError);
+  EXPECT_EQ(program.titles.RangeWarningTitle, GetParam().rangeWarning);
+  EXPECT_EQ(program.titles.InvalidCharacterTitle, GetParam().invalidCharacter);
+  EXPECT_EQ(program.titles.ErrorTitle, GetParam().error);
+  EXPECT_EQ(program.titles.LogicErrorTitle, GetParam().logicError);
+}
+
+constexpr const char* BareRangeError = "Range Error";
+constexpr const char* BareRangeWarning = "Range Warning";
+constexpr const char* BareInvalidCharacter = "Invalid Character";
+constexpr const char* BareError = "Error";
+constexpr const char* BareLogicError = "Logic Error";
+
+constexpr ModuleTitles BareTitles(int module) {
+  return {module, BareRangeError, BareRangeWarning, BareInvalidCharacter, BareError, BareLogicError};
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Module, MessageTitlesOfModule,
+    testing::Values(ModuleTitles{message_module::Description, "Project Description: Range Error",
+                                 "Project Description: Range Warning", "Project Description: Invalid Character",
+                                 "Project Description: Error", "Project Description: Logic Error"},
+                    ModuleTitles{message_module::Parameters, "Project Parameters: Range Error",
+                                 "Project Parameters: Range Warning", "Project Parameters: Invalid Character",
+                                 "Project Parameters: Error", "Project Parameters: Logic Error"},
+                    BareTitles(3), BareTitles(4), BareTitles(5), BareTitles(6),
+                    ModuleTitles{message_module::Options, "Program Options: Range Error",
+                                 "Program Options: Range Warning", "Program Options: Invalid Character",
+                                 "Program Options: Error", "Program Options: Logic Error"},
+                    BareTitles(8), BareTitles(9),
+                    ModuleTitles{message_module::Settings, "Settings: Range Error", "Settings: Range Warning",
+                                 "Settings: Invalid Character", "Settings: Error", "Settings: Logic Error"},
+                    BareTitles(11), BareTitles(12), BareTitles(13)),
+    [](const auto& module) { return "Number" + std::to_string(module.param.module); });
+
+using MessageTitlesTest = ProgramBench;
+
+TEST_F(MessageTitlesTest, ModulesHaveTheirFixedNumbers) {
+  EXPECT_EQ(message_module::Description, 1);
+  EXPECT_EQ(message_module::Parameters, 2);
+  EXPECT_EQ(message_module::Options, 7);
+  EXPECT_EQ(message_module::Settings, 10);
+  EXPECT_EQ(message_module::Calculator, 12);
+  EXPECT_EQ(message_module::Conversion, 13);
+}
+
+TEST_F(MessageTitlesTest, StayAsTheyAreWhenThereIsNoSuchModule) {
+  SetMessageTitles(program, message_module::Settings);
+
+  EXPECT_EQ(ErrorNumberOf([this] { SetMessageTitles(program, 0); }), 9);
+  EXPECT_EQ(ErrorNumberOf([this] { SetMessageTitles(program, 14); }), 9);
+  EXPECT_EQ(ErrorNumberOf([this] { SetMessageTitles(program, -1); }), 9);
+
+  EXPECT_EQ(program.titles.ErrorTitle, "Settings: Error");
+}
+
+TEST_F(MessageTitlesTest, AreEmptyBeforeTheFirstDialog) {
+  EXPECT_EQ(program.titles.RangeErrorTitle, "");
+  EXPECT_EQ(program.titles.MessageTitle, "");
+}
+
+using HelpHint = ProgramBench;
+
+TEST_F(HelpHint, TellsHowToGetHelpOnAField) {
+  ContextHelpHint(program);
+
+  EXPECT_THAT(platform.boxes.shown,
+              ElementsAre(IsBox("Position the cursor on any item on the form and press F1 for context-sensitive Help",
+                                48, "Help")));
+  EXPECT_EQ(program.history.Text,
+            "1. Help: Position the cursor on any item on the form and press F1 for context-sensitive Help\r\n");
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,101 @@
+#include <stdexcept>
+
+#include "core/messages.h"
+#include "core/program_bench.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// A step that fails with the listed errors, one a run, and then succeeds.
+struct CommandStep : ProgramBench {
+  StepOutcome Run(std::vector<int> errors) {
+    return RunTrapped(program, [this, errors] {
+      const auto run = static_cast<std::size_t>(runs++);
+      if (run < errors.size()) throw RuntimeError(errors[run]);
+    });
+  }
+
+  int runs = 0;
+};
+
+TEST_F(CommandStep, ThatSucceedsRunsOnceAndSaysNothing) {
+  EXPECT_EQ(Run({}), StepOutcome::Done);
+
+  EXPECT_EQ(runs, 1);
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  EXPECT_EQ(program.history.Text, "");
+}
+
+TEST_F(CommandStep, RunsAgainAsLongAsTheUserRetries) {
+  platform.boxes.answers = {box_result::Retry, box_result::Retry};
+
+  EXPECT_EQ(Run({53, 482}), StepOutcome::Done);
+
+  EXPECT_EQ(runs, 3);
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("Error occurred: File not found (53)", "Error occurred: Printer error (482)"));
+}
+
+TEST_F(CommandStep, IsPassedOverWhenTheUserDoesNotRetry) {
+  platform.boxes.answers = {box_result::Retry, box_result::Cancel};
+
+  EXPECT_EQ(Run({61, 61, 61}), StepOutcome::PassedOver);
+
+  EXPECT_EQ(runs, 2);
+}
+
+TEST_F(CommandStep, IsCancelledWithItsDialogAndShowsNoBox) {
+  EXPECT_EQ(Run({32755}), StepOutcome::Cancelled);
+
+  EXPECT_EQ(runs, 1);
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(CommandStep, IsGivenUpWhenNothingCanMendIt) {
+  EXPECT_EQ(Run({76}), StepOutcome::GivenUp);
+
+  EXPECT_EQ(runs, 1);
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error occurred: Path not found (76). Procedure Terminated"));
+}
+
+TEST_F(CommandStep, IsGivenUpOnAnErrorOfADataBase) { EXPECT_EQ(Run({-2147217900}), StepOutcome::GivenUp); }
+
+TEST_F(CommandStep, HasTheNormalCursorBackBeforeTheUserIsAsked) {
+  struct CursorWatchingBoxes : RecordingBoxes {
+    explicit CursorWatchingBoxes(const RecordingWindows& watched) : windows(watched) {}
+    int Show(const MessageBox& box) override {
+      waitingWhenShown.push_back(windows.waitCursor);
+      return RecordingBoxes::Show(box);
+    }
+    const RecordingWindows& windows;
+    std::vector<bool> waitingWhenShown;
+  } boxes(platform.windows);
+  Program watched({boxes, platform.files, platform.fileDialogs, platform.windows, platform.fonts, platform.locale});
+
+  RunTrapped(watched, [this] {
+    platform.windows.SetWaitCursor(true);
+    throw RuntimeError(76);
+  });
+
+  EXPECT_THAT(boxes.waitingWhenShown, ElementsAre(false));
+}
+
+TEST_F(CommandStep, LeavesTheWaitCursorToTheCommandWhenItSucceeds) {
+  RunTrapped(program, [this] { platform.windows.SetWaitCursor(true); });
+
+  EXPECT_TRUE(platform.windows.waitCursor);
+}
+
+TEST_F(CommandStep, LetsPassWhatIsNoRunTimeError) {
+  const auto fail = [this] { RunTrapped(program, [] { throw std::logic_error("broken"); }); };
+
+  EXPECT_THROW(fail(), std::logic_error);
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,77 @@
+#include "core/units.h"
+
+#include <gtest/gtest.h>
+
+#include "support/recording_platform.h"
+
+namespace orby::test {
+namespace {
+
+struct LabelPair {
+  const char* english;
+  const char* metric;
+};
+
+constexpr LabelPair Expected[] = {
+    {" (ft)", " (m)"},                  // 0
+    {" (psi)", " (MPa)"},               // 1
+    {" (pcf)", " (kN/m3)"},             // 2
+    {" (in)", " (cm)"},                 // 3
+    {" (psf)", " (kPa)"},               // 4
+    {" (lbs)", " (kN)"},                // 5
+    {" (tons)", " (tn)"},               // 6
+    {" (ft)", " (cm)"},                 // 7
+    {" (ksi)", " (MPa)"},               // 8
+    {" (tons)", " (MN)"},               // 9
+    {" (tons/ft)", " (MN/m)"},          // 10
+    {" (in)", " (mm)"},                 // 11
+    {" (tons)", " (kN)"},               // 12
+    {" (tons/ft)", " (kN/m)"},          // 13
+    {" (million psi)", " (GPa)"},       // 14
+    {" (kips/ft)", " (kN/m)"},          // 15
+    {" (kip-ft/ft^2)", " (kN-m/m^2)"},  // 16
+    {" (ton-ft/ft^2)", " (kN-m/m^2)"},  // 17
+};
+
+TEST(UnitLabels, AreFixedForEveryQuantityInBothSystems) {
+  for (int row = 0; row < 18; ++row) {
+    EXPECT_EQ(UnitLabel(row, English), Expected[row].english) << "row " << row;
+    EXPECT_EQ(UnitLabel(row, Metric), Expected[row].metric) << "row " << row;
+  }
+}
+
+TEST(UnitLabels, NameTheQuantitiesOfADesign) {
+  EXPECT_EQ(UnitLabel(unit_row::Length, English), " (ft)");
+  EXPECT_EQ(UnitLabel(unit_row::Stress, Metric), " (MPa)");
+  EXPECT_EQ(UnitLabel(unit_row::UnitWeight, English), " (pcf)");
+  EXPECT_EQ(UnitLabel(unit_row::Force, Metric), " (kN)");
+  EXPECT_EQ(UnitLabel(unit_row::LineLoad, English), " (tons/ft)");
+  EXPECT_EQ(UnitLabel(unit_row::Grade, English), " (ksi)");
+  EXPECT_EQ(UnitLabel(unit_row::Diameter, Metric), " (mm)");
+  EXPECT_EQ(UnitLabel(unit_row::ProductionMass, Metric), " (tn)");
+  EXPECT_EQ(UnitLabel(unit_row::ProductionRate, Metric), " (MN/m)");
+}
+
+TEST(UnitLabels, EndAtTheTablesEdges) {
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(-1, English)); }), 9);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(18, English)); }), 9);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(0, -1)); }), 9);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(0, 2)); }), 9);
+}
+
+TEST(UnitSystem, IsToldInAFewWords) {
+  EXPECT_EQ(UnitSummary(English), "ft, in, lbs, psi, pcf");
+  EXPECT_EQ(UnitSummary(Metric), "m, cm, kN, MPa, kN/m3");
+}
+
+TEST(UnitSystem, HasTheFactorsThatDesignsWereMadeWith) {
+  EXPECT_EQ(FeetPerMetre, 3.280839895013123);
+  EXPECT_EQ(MillimetresPerInch, 25.4);
+  EXPECT_DOUBLE_EQ(MPaPerKsi, 6.894757293);
+  EXPECT_EQ(KilonewtonsPerTon, 8.896443);
+  EXPECT_EQ(KilonewtonsPerPound, 0.004448220489393218);
+  EXPECT_EQ(PcfPerKilonewtonCubicMetre, 6.3663022639200495);
+}
+
+}  // namespace
+}  // namespace orby::test
