@@ -1,0 +1,26 @@
+// What roof bolting costs: per bolt, per foot (metre) of advance, per shift and per ton of clean coal.
+#pragma once
+
+#include <array>
+
+#include "core/project_record.h"
+
+namespace orby {
+
+inline constexpr std::size_t CostHeads = 5;  // consumables, operating labor, maintenance, transportation, ownership
+
+// $/bolt, $/ft, $/shift, $/ton.
+using CostRow = std::array<Single, 4>;
+
+struct CostTable {
+  std::array<CostRow, CostHeads> Heads{};
+  CostRow Totals{};
+};
+
+// A cell whose divisor is not above 0 stays 0. Throws RuntimeError 6 when a figure lies beyond a Single.
+CostTable AnalyseCost(const CostGroup& inputs);
+
+// Advance per shift, in the unit of the row spacing: bolts per row over row spacing, times bolts per shift.
+double AdvancePerShift(double boltsPerRow, double rowSpacing, double boltsPerShift);
+
+}  // namespace orby

@@ -1,0 +1,105 @@
+// Which lists and which bolt table a project is offered.
+#include <gtest/gtest.h>
+
+#include "catalogs/catalogs.h"
+#include "support/recording_platform.h"
+
+namespace orby::test {
+namespace {
+
+constexpr Integer Off = 0;
+constexpr Integer On = 1;
+constexpr Integer YieldGrades = 0;
+constexpr Integer UltimateGrades = 1;
+
+struct CatalogChoice : testing::Test {
+  RecordingPlatform platform;
+  Program program{platform.Doors()};
+  Catalogs& catalogs = program.catalogs;
+
+  CatalogChoice() { SetBuiltInCatalogs(catalogs); }
+};
+
+TEST_F(CatalogChoice, OfTheAustralianTableNeedsMetricUnitsAndItsSetting) {
+  const bool expected[2][2] = {{false, false}, {false, true}};
+
+  for (const Integer units : {English, Metric}) {
+    for (const Integer setting : {Off, On}) {
+      program.Units = units;
+      program.UseAUSStandardTable = setting;
+      EXPECT_EQ(UsesAustralianTable(program), expected[units][setting]) << units << ", " << setting;
+    }
+  }
+}
+
+TEST_F(CatalogChoice, OfTheBoltTableInEnglishUnitsIsTheEnglishOneWhateverTheSetting) {
+  for (const Integer setting : {Off, On}) {
+    program.UseAUSStandardTable = setting;
+
+    const BoltTable& table = LoadBoltTable(program);
+
+    EXPECT_EQ(&table, &catalogs.BoltTableENG);
+    ASSERT_EQ(table.size(), 10U);
+    EXPECT_EQ(table[3].Diameter, "0.677");
+    EXPECT_EQ(catalogs.BoltTableMET.size(), 10U);
+  }
+}
+
+TEST_F(CatalogChoice, OfTheBoltTableInMetricUnitsFollowsTheSettingBackAndForth) {
+  program.Units = Metric;
+
+  EXPECT_EQ(LoadBoltTable(program).size(), 10U);
+  EXPECT_EQ(LoadBoltTable(program)[3].Diameter, "17.2");
+
+  program.UseAUSStandardTable = 1;
+  EXPECT_EQ(LoadBoltTable(program).size(), 2U);
+  EXPECT_EQ(LoadBoltTable(program)[1].Grade, "440");
+
+  program.UseAUSStandardTable = 0;
+  EXPECT_EQ(LoadBoltTable(program).size(), 10U);
+  EXPECT_EQ(&LoadBoltTable(program), &catalogs.BoltTableMET);
+}
+
+TEST_F(CatalogChoice, OfGradesFollowsUnitsAndMeaning) {
+  const CatalogList* expected[2][2] = {{&catalogs.DefaultBoltGradeArrayENG, &catalogs.DefaultBoltUTSArrayENG},
+                                       {&catalogs.DefaultBoltGradeArrayMET, &catalogs.DefaultBoltUTSArrayMET}};
+
+  for (const Integer units : {English, Metric}) {
+    for (const Integer mode : {YieldGrades, UltimateGrades}) {
+      program.Units = units;
+      program.BoltStrengthMode = mode;
+      EXPECT_EQ(&BoltGrades(program), expected[units][mode]) << units << ", " << mode;
+    }
+  }
+}
+
+TEST_F(CatalogChoice, OfDiametersAndCablesFollowsUnits) {
+  EXPECT_EQ(&BoltDiameters(program), &catalogs.DefaultBoltDiamArrayENG);
+  EXPECT_EQ(&CableDiameters(program), &catalogs.DefaultCableDiamArrayENG);
+  EXPECT_EQ(&CableCapacities(program), &catalogs.DefaultCableCapArrayENG);
+
+  program.Units = Metric;
+  EXPECT_EQ(&BoltDiameters(program), &catalogs.DefaultBoltDiamArrayMET);
+  EXPECT_EQ(&CableDiameters(program), &catalogs.DefaultCableDiamArrayMET);
+  EXPECT_EQ(&CableCapacities(program), &catalogs.DefaultCableCapArrayMET);
+}
+
+TEST_F(CatalogChoice, OfListsStaysMetricUnderTheAustralianSetting) {
+  program.Units = Metric;
+  program.UseAUSStandardTable = 1;
+
+  EXPECT_EQ(&BoltDiameters(program), &catalogs.DefaultBoltDiamArrayMET);
+  EXPECT_EQ(&BoltGrades(program), &catalogs.DefaultBoltGradeArrayMET);
+}
+
+TEST_F(CatalogChoice, OfSupportCapacitiesFollowsUnits) {
+  EXPECT_EQ(StandSupportCap(program, 0), 90.0F);
+  EXPECT_EQ(StandSupportCap(program, 15), 525.0F);
+
+  program.Units = Metric;
+  EXPECT_EQ(StandSupportCap(program, 0), 800.0F);
+  EXPECT_EQ(StandSupportCap(program, 15), 4670.0F);
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,225 @@
+// Bolt grades and capacities, and the densities of support patterns.
+#include <gtest/gtest.h>
+
+#include "engine/designs.h"
+#include "support/recording_platform.h"
+
+namespace orby::test {
+namespace {
+
+struct Pair {
+  Single yield;
+  Single ultimate;
+};
+constexpr Pair KsiPairs[] = {{40, 70}, {55, 85}, {60, 90}, {75, 100}, {90, 116}, {100, 125}};
+constexpr Pair MPaPairs[] = {{280, 480}, {390, 590}, {420, 620}, {520, 690}, {620, 800}, {690, 860}};
+
+TEST(BoltGrade, OfTheListHasTheListsPartner) {
+  const Catalogs lists = BuiltInLists();
+
+  for (const auto& [yield, ultimate] : KsiPairs) {
+    EXPECT_EQ(UltimateFromYieldKsi(yield, lists), ultimate) << yield;
+    EXPECT_EQ(YieldFromUltimateKsi(ultimate, lists), yield) << ultimate;
+  }
+  for (const auto& [yield, ultimate] : MPaPairs) EXPECT_EQ(YieldFromUltimateMPa(ultimate, lists), yield) << ultimate;
+}
+
+TEST(BoltGrade, OutsideTheListFollowsTheStraightLine) {
+  const Catalogs lists = BuiltInLists();
+
+  EXPECT_EQ(UltimateFromYieldKsi(50, lists), 80.0F);
+  EXPECT_EQ(UltimateFromYieldKsi(80, lists), 107.0F);
+  EXPECT_EQ(YieldFromUltimateKsi(80, lists), 50.0F);
+  EXPECT_EQ(YieldFromUltimateKsi(110, lists), 83.3333359F);
+  EXPECT_EQ(YieldFromUltimateMPa(550, lists), 342.981659F);
+  EXPECT_EQ(YieldFromUltimateMPa(700, lists), 509.648315F);
+}
+
+TEST(BoltGrade, OneBitBesideTheListFollowsTheStraightLine) {
+  EXPECT_EQ(UltimateFromYieldKsi(74.9999924F, BuiltInLists()), 102.499992F);
+}
+
+TEST(BoltGrade, ThatStandsTwiceTakesTheFirstPartner) {
+  Catalogs lists = BuiltInLists();
+  lists.DefaultBoltGradeArrayENG.Values[4] = 75;
+  lists.DefaultBoltUTSArrayENG.Values[4] = 100;
+  lists.DefaultBoltUTSArrayMET.Values[4] = 690;
+
+  EXPECT_EQ(UltimateFromYieldKsi(75, lists), 100.0F);
+  EXPECT_EQ(YieldFromUltimateKsi(100, lists), 75.0F);
+  EXPECT_EQ(YieldFromUltimateMPa(690, lists), 520.0F);
+}
+
+TEST(BoltGrade, WithoutAPartnerInAShorterListIsZero) {
+  Catalogs lists = BuiltInLists();
+  lists.DefaultBoltUTSArrayENG.HighestIndex = 2;
+  EXPECT_EQ(UltimateFromYieldKsi(60, lists), 90.0F);
+  EXPECT_EQ(UltimateFromYieldKsi(75, lists), 0.0F);
+
+  lists = BuiltInLists();
+  lists.DefaultBoltGradeArrayENG.HighestIndex = 2;
+  lists.DefaultBoltGradeArrayMET.HighestIndex = 2;
+  EXPECT_EQ(YieldFromUltimateKsi(90, lists), 60.0F);
+  EXPECT_EQ(YieldFromUltimateKsi(100, lists), 0.0F);
+  EXPECT_EQ(YieldFromUltimateMPa(620, lists), 420.0F);
+  EXPECT_EQ(YieldFromUltimateMPa(690, lists), 0.0F);
+}
+
+TEST(BoltGrade, BehindTheListsLastEntryInUseIsNotFound) {
+  Catalogs lists = BuiltInLists();
+  lists.DefaultBoltGradeArrayENG.HighestIndex = 2;
+  lists.DefaultBoltUTSArrayENG.HighestIndex = -1;
+
+  EXPECT_EQ(UltimateFromYieldKsi(75, lists), 102.5F);
+  EXPECT_EQ(YieldFromUltimateKsi(80, lists), 50.0F);
+}
+
+struct CapacityRow {
+  Single grade;
+  Single diameter;
+  Single area;      // kips
+  Single ultimate;  // kips
+  Single yield;     // kips
+  Single areaKN;
+  Single ultimateKN;
+  Single checkTons;
+};
+constexpr CapacityRow Capacities[] = {
+    {40, 0.625F, 12.2718468F, 21.4757309F, 1.70442307F, 54.5878792F, 95.5287857F, 6.13592339F},
+    {50, 0.75F, 22.089323F, 35.3429184F, 7.36310768F, 98.2581787F, 157.213089F, 11.0446615F},
+    {60, 0.875F, 36.0792274F, 54.1188431F, 16.7033463F, 160.488358F, 240.732544F, 18.0396137F},
+    {75, 0.75F, 33.1339836F, 44.1786461F, 19.6349525F, 147.387268F, 196.516357F, 16.5669918F},
+    {100, 1.25F, 122.71846F, 153.398071F, 92.0388489F, 545.878784F, 682.34845F, 61.35923F},
+};
+
+TEST(BoltCapacity, FollowsGradeAndDiameter) {
+  const Catalogs lists = BuiltInLists();
+
+  for (const auto& row : Capacities) {
+    SCOPED_TRACE(row.grade);
+    EXPECT_EQ(CapacityFromGrade(row.grade, row.diameter), row.area);
+    EXPECT_EQ(UltimateCapacity(row.grade, row.diameter, lists), row.ultimate);
+    EXPECT_EQ(YieldCapacity(row.grade, row.diameter, lists), row.yield);
+    EXPECT_EQ(CapacityKN(row.grade, row.diameter), row.areaKN);
+    EXPECT_EQ(UltimateCapacityKN(row.grade, row.diameter, lists), row.ultimateKN);
+  }
+}
+
+TEST(BoltCapacity, IsCheckedInTonsOrKilonewtons) {
+  for (const auto& row : Capacities) {
+    EXPECT_EQ(BoltCapacityCheck(row.grade, row.diameter, English), row.checkTons) << row.grade;
+    EXPECT_EQ(BoltCapacityCheck(row.grade, row.diameter, Metric), row.areaKN) << row.grade;
+  }
+}
+
+TEST(BoltCapacity, OfAnUltimateGradeOutsideTheListComesFromTheLine) {
+  const Catalogs lists = BuiltInLists();
+
+  EXPECT_EQ(YieldCapacity(110, 0.75F, lists), 36.8155403F);
+  EXPECT_EQ(YieldCapacity(80, 0.688F, lists), 18.5881767F);
+}
+
+TEST(BoltCapacity, FailsBeyondTheRangeOfASingle) {
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(CapacityFromGrade(75, 1E20F)); }), 6);
+}
+
+struct PatternRow {
+  BoltPattern pattern;
+  Integer mode;
+  Single psup;
+  Single prsup;
+  Single rdi;
+};
+constexpr PatternRow Patterns[] = {
+    {{6, 4, 0.75F, 75, 4, 20}, Yield, 9.94019508F, 13.2535934F, 192.177109F},
+    {{6, 4, 0.75F, 75, 4, 20}, Ultimate, 5.89048576F, 9.94019508F, 144.132828F},
+    {{5, 5, 0.875F, 60, 3.5F, 18}, Yield, 14.3171539F, 21.4757309F, 311.398102F},
+    {{5, 5, 0.875F, 60, 3.5F, 18}, Ultimate, 6.62831211F, 14.3171539F, 207.598724F},
+    {{6, 4, 0.75F, 80, 4, 20}, Yield, 10.6028757F, 14.1813459F, 205.629517F},
+    {{6, 4, 0.75F, 80, 4, 20}, Ultimate, 6.62679672F, 10.6028757F, 153.741699F},
+};
+
+TEST(BoltPatternDensity, TakesYieldForPsupAndUltimateForPrsupWhateverTheGradeMeans) {
+  for (const auto& row : Patterns) {
+    SCOPED_TRACE(testing::Message() << "grade " << row.pattern.Grade << ", mode " << row.mode);
+    EXPECT_EQ(ActualPSUP(row.pattern, Grades(row.mode)), row.psup);
+    EXPECT_EQ(BoltPRSUP(row.pattern, Grades(row.mode)), row.prsup);
+    EXPECT_EQ(BoltRDI(row.pattern, Grades(row.mode)), row.rdi);
+  }
+}
+
+TEST(BoltPatternDensity, OfPairedGradesIsTheSameInBothModes) {
+  const BoltPattern byYield{6, 4, 0.75F, 75, 4, 20};
+  const BoltPattern byUltimate{6, 4, 0.75F, 100, 4, 20};
+
+  EXPECT_EQ(ActualPSUP(byUltimate, Grades(Ultimate)), 9.94019508F);
+  EXPECT_EQ(BoltPRSUP(byUltimate, Grades(Ultimate)), 13.2535934F);
+  EXPECT_EQ(BoltRDI(byYield, Grades(Yield)), BoltRDI(byUltimate, Grades(Ultimate)));
+}
+
+TEST(BoltPatternDensity, FailsWithoutARowSpacingOrAWidth) {
+  const BoltPattern noSpacing{6, 4, 0.75F, 75, 0, 20};
+  const BoltPattern noWidth{6, 4, 0.75F, 75, 4, 0};
+
+  EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(ActualPSUP(noSpacing, Grades(Yield))); }), 11);
+  EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(BoltPRSUP(noSpacing, Grades(Yield))); }), 11);
+  EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(BoltRDI(noWidth, Grades(Ultimate))); }), 11);
+}
+
+TEST(SecondaryDensity, OfCablesLeavesTheAnchorOut) {
+  EXPECT_EQ(CablePRSUP({10, 2, 26.4F, 5, 20}), 5.27999973F);
+  EXPECT_EQ(CableSRDI({10, 2, 26.4F, 5, 20}), 74.0335159F);
+  EXPECT_EQ(CablePRSUP({12, 3, 35.7F, 4, 18}), 17.8500004F);
+  EXPECT_EQ(CableSRDI({12, 3, 35.7F, 4, 18}), 251.707321F);
+}
+
+TEST(SecondaryDensity, OfBoltsTakesTheWholeLength) {
+  EXPECT_EQ(BoltSRDI({10, 2, 26.4F, 5, 20}), 76.5599976F);
+  EXPECT_EQ(BoltSRDI({12, 3, 35.7F, 4, 18}), 258.825012F);
+}
+
+TEST(SecondaryDensity, FailsWithoutARowSpacing) {
+  const SupportPattern pattern{10, 2, 26.4F, 0, 20};
+
+  EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(CablePRSUP(pattern)); }), 11);
+  EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(CableSRDI(pattern)); }), 11);
+  EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(BoltSRDI(pattern)); }), 11);
+}
+
+TEST(CableCapacity, IsThatOfTheListsOwnUnits) {
+  const Catalogs lists = BuiltInLists();
+
+  EXPECT_EQ(CableCapacityFromDiameter(0.6F, English, lists), 26.4F);
+  EXPECT_EQ(CableCapacityFromDiameter(0.7F, English, lists), 35.7F);
+  EXPECT_EQ(CableCapacityFromDiameter(15.2F, Metric, lists), 235.0F);
+  EXPECT_EQ(CableCapacityFromDiameter(21.8F, Metric, lists), 590.0F);
+  EXPECT_EQ(CableCapacityFromDiameter(28, Metric, lists), 635.0F);
+  EXPECT_EQ(CableCapacityFromDiameter(28.6F, Metric, lists), 970.0F);
+}
+
+TEST(CableCapacity, OfADiameterThatStandsTwiceIsTheLast) {
+  EXPECT_EQ(CableCapacityFromDiameter(31, Metric, BuiltInLists()), 880.0F);
+}
+
+TEST(CableCapacity, OfAnUnlistedDiameterIsZero) {
+  const Catalogs lists = BuiltInLists();
+
+  EXPECT_EQ(CableCapacityFromDiameter(0.65F, English, lists), 0.0F);
+  EXPECT_EQ(CableCapacityFromDiameter(21.8F, English, lists), 0.0F);
+  EXPECT_EQ(CableCapacityFromDiameter(0.6F, Metric, lists), 0.0F);
+}
+
+TEST(CableCapacity, EndsWithTheListsLastEntryInUse) {
+  Catalogs lists = BuiltInLists();
+  lists.DefaultCableDiamArrayENG.HighestIndex = 0;
+  lists.DefaultCableDiamArrayMET.HighestIndex = 3;
+  EXPECT_EQ(CableCapacityFromDiameter(0.7F, English, lists), 0.0F);
+  EXPECT_EQ(CableCapacityFromDiameter(31, Metric, lists), 620.0F);
+
+  lists = BuiltInLists();
+  lists.DefaultCableCapArrayENG.HighestIndex = 0;
+  EXPECT_EQ(CableCapacityFromDiameter(0.7F, English, lists), 0.0F);
+}
+
+}  // namespace
+}  // namespace orby::test

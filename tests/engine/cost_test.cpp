@@ -1,0 +1,185 @@
+#include "engine/cost.h"
+
+#include <gtest/gtest.h>
+
+#include "support/recording_platform.h"
+
+namespace orby::test {
+namespace {
+
+CostGroup EnglishCosts() {
+  CostGroup costs;
+  costs.CostBoltCost = 3;
+  costs.CostPlateCost = 1;
+  costs.CostResinCost = 1.5F;
+  costs.CostBitCost = 67;
+  costs.CostNboltsShift = 300;
+  costs.CostNBoltsRow = 4;
+  costs.CostRowSpacing = 4;
+  costs.CostNOperShift = 2;
+  costs.CostTotalLabor = 35;
+  costs.CostHoursShift = 8;
+  costs.CostMaintainHrs = 2;
+  costs.CostMaintainCost = 30000;
+  costs.CostTranspCost = 100;
+  costs.CostCapitalCost = 1000000;
+  costs.CostYearsDepr = 5;
+  costs.CostAdvanceShift = 300;
+  costs.CostAdvance = 1;
+  costs.CostAdvanceRate = 4;
+  costs.CostCleanProduction = 1200;
+  costs.CostProduction = 1;
+  costs.CostShiftsWeek = 12;
+  costs.CostWeeksYear = 50;
+  return costs;
+}
+
+template <class Value>
+CostGroup With(Value CostGroup::*member, Value value) {
+  CostGroup costs = EnglishCosts();
+  costs.*member = value;
+  return costs;
+}
+
+using Rows = std::array<CostRow, 6>;
+
+void ExpectTable(const CostGroup& costs, const Rows& expected) {
+  const CostTable table = AnalyseCost(costs);
+  for (std::size_t head = 0; head < CostHeads; ++head) EXPECT_EQ(table.Heads[head], expected[head]) << "head " << head;
+  EXPECT_EQ(table.Totals, expected[5]) << "totals";
+}
+
+constexpr CostRow Consumables{5.72333336F, 5.72333336F, 1717, 1.43083334F};
+constexpr CostRow Labor{1.86666667F, 1.86666667F, 560, 0.466666669F};
+constexpr CostRow Maintenance{0.186111107F, 0.186111107F, 55.8333321F, 0.046527777F};
+constexpr CostRow Transportation{0.333333343F, 0.333333343F, 100, 0.0833333358F};
+constexpr CostRow Ownership{1.11111116F, 1.11111116F, 333.333344F, 0.277777791F};
+constexpr CostRow None{};
+
+TEST(Cost, OfTheEnglishDefaults) {
+  ExpectTable(EnglishCosts(), {{Consumables,
+                                Labor,
+                                Maintenance,
+                                Transportation,
+                                Ownership,
+                                {9.22055531F, 9.22055531F, 2766.16675F, 2.30513883F}}});
+}
+
+TEST(Cost, OfTheMetricDefaults) {
+  CostGroup costs = EnglishCosts();
+  costs.CostRowSpacing = 1.2F;
+  costs.CostAdvanceRate = 12;
+
+  ExpectTable(costs, {{{5.72333336F, 19.0777779F, 1717, 0.143083349F},
+                       {1.86666667F, 6.22222185F, 560, 0.0466666706F},
+                       {0.186111107F, 0.620370328F, 55.8333321F, 0.00465277815F},
+                       {0.333333343F, 1.11111104F, 100, 0.00833333377F},
+                       {1.11111116F, 3.70370364F, 333.333344F, 0.0277777817F},
+                       {9.22055531F, 30.7351856F, 2766.16675F, 0.230513915F}}});
+}
+
+TEST(Cost, SpreadsHeadersOverBoltsAndStrapsOverRows) {
+  CostGroup costs = EnglishCosts();
+  costs.CostHeaderCost = 0.25F;
+  costs.CostStrapCost = 2.5F;
+  costs.CostRowSpacing = 3.5F;
+  costs.CostNBoltsRow = 5;
+  costs.CostNboltsShift = 280;
+  costs.CostProduction = 0;
+
+  ExpectTable(costs, {{{6.48928595F, 9.27040863F, 1817.00012F, 1.51416671F},
+                       {2, 2.8571429F, 560, 0.466666669F},
+                       {0.199404761F, 0.284863949F, 55.8333321F, 0.046527777F},
+                       {0.357142866F, 0.510204077F, 100, 0.0833333358F},
+                       {1.19047618F, 1.70068026F, 333.333344F, 0.277777791F},
+                       {10.2363100F, 14.6232996F, 2866.16675F, 2.38847232F}}});
+}
+
+TEST(Cost, OfNothingIsNothing) { ExpectTable(CostGroup{}, {}); }
+
+TEST(Cost, WithoutARowSpacingHasNoAdvanceAndNoCalculatedProduction) {
+  ExpectTable(With(&CostGroup::CostRowSpacing, 0.0F), {{{5.72333336F, 0, 1717, 0},
+                                                        {1.86666667F, 0, 560, 0},
+                                                        {0.186111107F, 0, 55.8333321F, 0},
+                                                        {0.333333343F, 0, 100, 0},
+                                                        {1.11111116F, 0, 333.333344F, 0},
+                                                        {9.22055531F, 0, 2766.16675F, 0}}});
+}
+
+TEST(Cost, WithoutARowSpacingStillSpreadsOverAGivenProduction) {
+  CostGroup costs = With(&CostGroup::CostRowSpacing, 0.0F);
+  costs.CostProduction = 0;
+
+  const CostTable table = AnalyseCost(costs);
+
+  EXPECT_EQ(table.Totals, (CostRow{9.22055531F, 0, 2766.16675F, 2.30513883F}));
+}
+
+TEST(Cost, WithANegativeRowSpacingHasNoAdvance) {
+  const CostTable table = AnalyseCost(With(&CostGroup::CostRowSpacing, -4.0F));
+
+  EXPECT_EQ(table.Totals, (CostRow{9.22055531F, 0, 2766.16675F, 0}));
+}
+
+TEST(Cost, WithoutShiftsHasNoMaintenanceAndNoOwnershipButTransportation) {
+  const Rows expected{{Consumables, Labor, None, Transportation, None, {7.92333317F, 7.92333317F, 2377, 1.98083329F}}};
+
+  ExpectTable(With(&CostGroup::CostShiftsWeek, 0.0F), expected);
+  ExpectTable(With(&CostGroup::CostWeeksYear, 0.0F), expected);
+}
+
+TEST(Cost, WithoutYearsOfDepreciationHasNoOwnershipAlone) {
+  ExpectTable(
+      With(&CostGroup::CostYearsDepr, 0.0F),
+      {{Consumables, Labor, Maintenance, Transportation, None, {8.10944462F, 8.10944462F, 2432.83325F, 2.02736115F}}});
+}
+
+TEST(Cost, WithoutBoltsIsNothing) {
+  ExpectTable(With(&CostGroup::CostNBoltsRow, 0.0F), {});
+  ExpectTable(With(&CostGroup::CostNboltsShift, 0.0F), {});
+  ExpectTable(With(&CostGroup::CostNBoltsRow, -4.0F), {});
+  ExpectTable(With(&CostGroup::CostNboltsShift, -300.0F), {});
+}
+
+TEST(Cost, PerTonIsZeroWithoutAProduction) {
+  CostGroup costs = With(&CostGroup::CostCleanProduction, 0.0F);
+  costs.CostProduction = 0;
+
+  EXPECT_EQ(AnalyseCost(costs).Totals, (CostRow{9.22055531F, 9.22055531F, 2766.16675F, 0}));
+  EXPECT_EQ(AnalyseCost(With(&CostGroup::CostAdvanceRate, 0.0F)).Totals,
+            (CostRow{9.22055531F, 9.22055531F, 2766.16675F, 0}));
+}
+
+TEST(Cost, TakesTheCalculatedProductionOnlyForAFlagOfOne) {
+  CostGroup costs = With<Integer>(&CostGroup::CostProduction, 2);
+  costs.CostCleanProduction = 2400;
+
+  EXPECT_EQ(AnalyseCost(costs).Totals, (CostRow{9.22055531F, 9.22055531F, 2766.16675F, 1.15256941F}));
+}
+
+TEST(Cost, DoesNotDependOnTheAdvanceFields) {
+  CostGroup costs = EnglishCosts();
+  costs.CostAdvance = 0;
+  costs.CostAdvanceShift = 12;
+
+  const CostTable table = AnalyseCost(costs);
+
+  EXPECT_EQ(table.Heads[0], Consumables);
+  EXPECT_EQ(table.Totals, (CostRow{9.22055531F, 9.22055531F, 2766.16675F, 2.30513883F}));
+}
+
+TEST(Cost, BeyondTheRangeOfASingleFails) {
+  CostGroup costs = With(&CostGroup::CostTotalLabor, 3E38F);
+  costs.CostHoursShift = 1000;
+
+  EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(AnalyseCost(costs)); }), 6);
+}
+
+TEST(Advance, IsBoltsPerRowOverSpacingTimesBoltsPerShift) {
+  EXPECT_DOUBLE_EQ(AdvancePerShift(4, 4, 300), 300);
+  EXPECT_DOUBLE_EQ(AdvancePerShift(4, 1.2, 300), 1000);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(AdvancePerShift(4, 0, 300)); }), 11);
+}
+
+}  // namespace
+}  // namespace orby::test

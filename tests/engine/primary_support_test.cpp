@@ -1,0 +1,238 @@
+#include "engine/primary_support.h"
+
+#include <gtest/gtest.h>
+
+#include "engine/designs.h"
+#include "support/recording_platform.h"
+
+namespace orby::test {
+namespace {
+
+constexpr Site EnglishSite{1, 45, 400, 60, 20};
+constexpr Site MetricSite{1, 45, 150, 20, 6.2F};
+
+Site With(Site site, Single Site::*member, Single value) {
+  site.*member = value;
+  return site;
+}
+
+TEST(Suggestion, OfTheEnglishDefaults) {
+  const Suggestion suggestion = SuggestSupport(EnglishSite, English);
+
+  EXPECT_EQ(suggestion.SuggestedSpan, 63.2F);
+  EXPECT_EQ(suggestion.MinSpan, 32.2842712F);
+  EXPECT_EQ(suggestion.SugPSUP, 7.6068387F);
+  EXPECT_EQ(suggestion.SugLength, 4.89856911F);
+}
+
+TEST(Suggestion, JudgesTheSpanAgainstBothItsLimits) {
+  const Site tooLarge = With(EnglishSite, &Site::Span, 63.3F);
+  const Site tooSmall = With(EnglishSite, &Site::Span, 31);
+  const Site both{1, 15, 400, 60, 41};
+
+  EXPECT_FALSE(SuggestSupport(EnglishSite, English).SpanIsTooLarge(EnglishSite));
+  EXPECT_FALSE(SuggestSupport(EnglishSite, English).SpanAndWidthMismatch(EnglishSite));
+  EXPECT_TRUE(SuggestSupport(tooLarge, English).SpanIsTooLarge(tooLarge));
+  EXPECT_TRUE(SuggestSupport(tooSmall, English).SpanAndWidthMismatch(tooSmall));
+  EXPECT_TRUE(SuggestSupport(both, English).SpanIsTooLarge(both));
+  EXPECT_TRUE(SuggestSupport(both, English).SpanAndWidthMismatch(both));
+}
+
+TEST(Suggestion, DoesNotWarnOfASpanAtItsLimits) {
+  const Site atSuggested = With(EnglishSite, &Site::Span, 63.2F);
+  const Site atSmallest = With(EnglishSite, &Site::Span, 32.2842712F);
+
+  EXPECT_FALSE(SuggestSupport(atSuggested, English).SpanIsTooLarge(atSuggested));
+  EXPECT_FALSE(SuggestSupport(atSmallest, English).SpanAndWidthMismatch(atSmallest));
+}
+
+TEST(WorkingUnits, AreEnglishWhateverTheProjectsAre) {
+  EXPECT_EQ(InFeet(150, Metric), 492.125977F);
+  EXPECT_EQ(InFeet(400, English), 400.0F);
+  EXPECT_EQ(InEnglishUnits({20, 520}, Metric).Diameter, 0.787401557F);
+  EXPECT_EQ(InEnglishUnits({20, 520}, Metric).Grade, 75.4196243F);
+  EXPECT_EQ(InEnglishUnits({0.75F, 75}, English).Diameter, 0.75F);
+  EXPECT_EQ(InEnglishUnits({0.75F, 75}, English).Grade, 75.0F);
+}
+
+TEST(LiveSuggestion, OfTheEnglishDefaults) {
+  const auto live = SuggestLive(EnglishSite, English);
+
+  ASSERT_TRUE(live);
+  EXPECT_EQ(live->SuggestedSpan, 63.2F);
+  EXPECT_EQ(live->SugPSUP, 7.6068387F);
+  EXPECT_EQ(live->SugLength, 4.89856911F);
+  EXPECT_FALSE(live->SpanIsTooLarge);
+  EXPECT_FALSE(live->SpanAndWidthMismatch);
+}
+
+TEST(LiveSuggestion, OfTheMetricDefaultsIsInMetres) {
+  const auto live = SuggestLive(MetricSite, Metric);
+
+  ASSERT_TRUE(live);
+  EXPECT_EQ(live->SuggestedSpan, 19.2633610F);
+  EXPECT_EQ(live->SugPSUP, 10.2036600F);
+  EXPECT_EQ(live->SugLength, 1.68934369F);
+}
+
+TEST(LiveSuggestion, OfAWideWeakIntersectionWarnsInEnglishDesigns) {
+  const auto tooLarge = SuggestLive({1.3F, 55, 900, 70, 18}, English);
+  const auto mismatch = SuggestLive({1, 45, 400, 31, 20}, English);
+
+  ASSERT_TRUE(tooLarge);
+  EXPECT_EQ(tooLarge->SugPSUP, 9.12592030F);
+  EXPECT_TRUE(tooLarge->SpanIsTooLarge);
+  EXPECT_FALSE(tooLarge->SpanAndWidthMismatch);
+  ASSERT_TRUE(mismatch);
+  EXPECT_EQ(mismatch->SugPSUP, 3.0F);
+  EXPECT_FALSE(mismatch->SpanIsTooLarge);
+  EXPECT_TRUE(mismatch->SpanAndWidthMismatch);
+}
+
+TEST(LiveSuggestion, NeverWarnsInMetricDesigns) {
+  const auto tooLarge = SuggestLive(With(MetricSite, &Site::Span, 25), Metric);
+  const auto tooSmall = SuggestLive(With(MetricSite, &Site::Span, 12), Metric);
+
+  ASSERT_TRUE(tooLarge);
+  EXPECT_EQ(tooLarge->SugPSUP, 15.9432173F);
+  EXPECT_FALSE(tooLarge->SpanIsTooLarge);
+  ASSERT_TRUE(tooSmall);
+  EXPECT_EQ(tooSmall->SugPSUP, 3.67331743F);
+  EXPECT_FALSE(tooSmall->SpanAndWidthMismatch);
+}
+
+struct SiteGuard {
+  Single Site::*member;
+  Single value;
+  bool computes;
+};
+
+void ExpectGuards(const Site& site, Integer units, std::initializer_list<SiteGuard> guards) {
+  int row = 0;
+  for (const auto& [member, value, computes] : guards) {
+    EXPECT_EQ(SuggestLive(With(site, member, value), units).has_value(), computes) << "row " << row << ": " << value;
+    ++row;
+  }
+}
+
+TEST(LiveSuggestion, IsGuardedInEnglishDesigns) {
+  ExpectGuards(EnglishSite, English,
+               {{&Site::StabilityFactor, 0, false},
+                {&Site::StabilityFactor, 0.99F, false},
+                {&Site::StabilityFactor, 1, true},
+                {&Site::StabilityFactor, 1.01F, true},
+                {&Site::CMRR, -0.01F, false},
+                {&Site::CMRR, 0, true},
+                {&Site::CMRR, 100, true},
+                {&Site::CMRR, 100.01F, false},
+                {&Site::Width, -1, false},
+                {&Site::Width, 0, false},
+                {&Site::Width, 0.01F, true},
+                {&Site::Span, 19.99F, false},
+                {&Site::Span, 20, false},
+                {&Site::Span, 20.01F, true},
+                {&Site::Depth, -0.01F, false},
+                {&Site::Depth, 0.01F, true}});
+}
+
+TEST(LiveSuggestion, IsGuardedInMetricDesigns) {
+  ExpectGuards(MetricSite, Metric,
+               {{&Site::StabilityFactor, 0.99F, false},
+                {&Site::StabilityFactor, 1, true},
+                {&Site::CMRR, -0.01F, false},
+                {&Site::CMRR, 0, true},
+                {&Site::CMRR, 100, true},
+                {&Site::CMRR, 100.01F, false},
+                {&Site::Width, 0, false},
+                {&Site::Width, 0.01F, true},
+                {&Site::Span, 6.19F, false},
+                {&Site::Span, 6.2F, false},
+                {&Site::Span, 6.21F, true},
+                {&Site::Depth, -0.01F, false},
+                {&Site::Depth, 0.01F, true}});
+}
+
+TEST(LiveSuggestion, FailsAtADepthOfZero) {
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(SuggestLive(With(EnglishSite, &Site::Depth, 0), English)); }), 5);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(SuggestLive(With(MetricSite, &Site::Depth, 0), Metric)); }), 5);
+}
+
+constexpr BoltPattern EnglishPattern{6, 4, 0.75F, 75, 4, 20};
+constexpr BoltPattern MetricPattern{2, 4, 20, 520, 1.2F, 6.2F};
+
+BoltPattern With(BoltPattern pattern, Single BoltPattern::*member, Single value) {
+  pattern.*member = value;
+  return pattern;
+}
+
+TEST(LivePsup, OfTheDefaults) {
+  EXPECT_EQ(ActualLive(EnglishPattern, English, Grades(Yield)), 9.94019508F);
+  EXPECT_EQ(ActualLive(MetricPattern, Metric, Grades(Yield)), 12.0364599F);
+}
+
+TEST(LivePsup, OfUltimateGradesIsOnYield) {
+  EXPECT_EQ(ActualLive(With(EnglishPattern, &BoltPattern::Grade, 100), English, Grades(Ultimate)), 9.94019508F);
+  EXPECT_EQ(ActualLive(With(EnglishPattern, &BoltPattern::Grade, 110), English, Grades(Ultimate)), 11.0446622F);
+  // 690 MPa are 100.08 ksi, which the English list does not have.
+  EXPECT_EQ(ActualLive(With(MetricPattern, &BoltPattern::Grade, 690), Metric, Grades(Ultimate)), 11.5396614F);
+}
+
+TEST(LivePsup, OfTheThickestBoltsAndTheFullestRows) {
+  EXPECT_EQ(ActualLive(With(EnglishPattern, &BoltPattern::BoltsPerRow, 10), English, Grades(Yield)), 24.8504868F);
+  EXPECT_EQ(ActualLive(With(EnglishPattern, &BoltPattern::Diameter, 1.25F), English, Grades(Yield)), 27.6116543F);
+  EXPECT_EQ(ActualLive(With(MetricPattern, &BoltPattern::BoltsPerRow, 10), Metric, Grades(Yield)), 30.0911503F);
+  EXPECT_EQ(ActualLive(With(MetricPattern, &BoltPattern::Diameter, 31.75F), Metric, Grades(Yield)), 30.3337612F);
+}
+
+struct PatternGuard {
+  Single BoltPattern::*member;
+  Single value;
+  bool computes;
+};
+
+void ExpectGuards(const BoltPattern& pattern, Integer units, std::initializer_list<PatternGuard> guards) {
+  int row = 0;
+  for (const auto& [member, value, computes] : guards) {
+    EXPECT_EQ(ActualLive(With(pattern, member, value), units, Grades(Yield)).has_value(), computes)
+        << "row " << row << ": " << value;
+    ++row;
+  }
+}
+
+TEST(LivePsup, IsGuardedInEnglishDesigns) {
+  ExpectGuards(EnglishPattern, English,
+               {{&BoltPattern::BoltsPerRow, -1, false},    {&BoltPattern::BoltsPerRow, 0, false},
+                {&BoltPattern::BoltsPerRow, 0.1F, true},   {&BoltPattern::BoltsPerRow, 10, true},
+                {&BoltPattern::BoltsPerRow, 10.5F, false}, {&BoltPattern::Length, -1, false},
+                {&BoltPattern::Length, 0, false},          {&BoltPattern::Length, 0.01F, true},
+                {&BoltPattern::Diameter, 0.499F, false},   {&BoltPattern::Diameter, 0.5F, false},
+                {&BoltPattern::Diameter, 0.501F, true},    {&BoltPattern::Diameter, 1.25F, true},
+                {&BoltPattern::Diameter, 1.251F, false},   {&BoltPattern::Grade, -75, false},
+                {&BoltPattern::Grade, 0, false},           {&BoltPattern::Grade, 0.1F, true},
+                {&BoltPattern::RowSpacing, -4, false},     {&BoltPattern::RowSpacing, 0, false},
+                {&BoltPattern::RowSpacing, 0.01F, true},   {&BoltPattern::EntryWidth, -20, false},
+                {&BoltPattern::EntryWidth, 0, false},      {&BoltPattern::EntryWidth, 0.01F, true}});
+}
+
+TEST(LivePsup, IsGuardedInMetricDesigns) {
+  ExpectGuards(MetricPattern, Metric,
+               {{&BoltPattern::BoltsPerRow, 0, false},
+                {&BoltPattern::BoltsPerRow, 10, true},
+                {&BoltPattern::BoltsPerRow, 10.5F, false},
+                {&BoltPattern::Length, 0, false},
+                {&BoltPattern::Length, 0.01F, true},
+                {&BoltPattern::Diameter, 0.75F, false},
+                {&BoltPattern::Diameter, 12.7F, false},
+                {&BoltPattern::Diameter, 12.71F, true},
+                {&BoltPattern::Diameter, 31.75F, true},
+                {&BoltPattern::Diameter, 31.76F, false},
+                {&BoltPattern::Grade, 0, false},
+                {&BoltPattern::Grade, 0.1F, true},
+                {&BoltPattern::RowSpacing, 0, false},
+                {&BoltPattern::RowSpacing, 0.01F, true},
+                {&BoltPattern::EntryWidth, 0, false},
+                {&BoltPattern::EntryWidth, 0.01F, true}});
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,164 @@
+// The rock loads that the dialog judges secondary support against, and when there are none.
+#include <gtest/gtest.h>
+
+#include "engine/designs.h"
+#include "engine/secondary_support.h"
+#include "support/recording_platform.h"
+
+namespace orby::test {
+namespace {
+
+constexpr RockInputs EnglishRock{162, 8, 30, 30, 20, 60};
+constexpr RockInputs MetricRock{25, 3, 30, 30, 6.2F, 20};
+
+RockInputs With(RockInputs rock, Single RockInputs::*member, Single value) {
+  rock.*member = value;
+  return rock;
+}
+
+RockInputs Rock(Single height, Single entryAngle, Single crosscutAngle) {
+  return {162, height, entryAngle, crosscutAngle, 20, 60};
+}
+
+TEST(UnitWeight, IsPlausibleFromItsLimitOn) {
+  EXPECT_FALSE(UnitWeightIsPlausible(99.99F, English));
+  EXPECT_TRUE(UnitWeightIsPlausible(100, English));
+  EXPECT_FALSE(UnitWeightIsPlausible(25, English));
+  EXPECT_FALSE(UnitWeightIsPlausible(14.99F, Metric));
+  EXPECT_TRUE(UnitWeightIsPlausible(15, Metric));
+}
+
+TEST(EntryRock, OfTheDefaults) {
+  EXPECT_EQ(EntryRockLoad(EnglishRock, English), 9.96701622F);
+  EXPECT_EQ(EntryRockLoad(MetricRock, Metric), 335.096161F);
+}
+
+TEST(EntryRock, OfTheLightestRockTaken) {
+  EXPECT_EQ(EntryRockLoad(With(EnglishRock, &RockInputs::UnitWeight, 100), English), 6.15247917F);
+  EXPECT_EQ(EntryRockLoad(With(MetricRock, &RockInputs::UnitWeight, 15), Metric), 201.057709F);
+}
+
+TEST(EntryRock, UnderVerticalSidesHasTheFullWidth) {
+  EXPECT_EQ(EntryRockLoad(With(EnglishRock, &RockInputs::EntryAngle, 0), English), 12.96F);
+  EXPECT_EQ(EntryRockLoad(With(MetricRock, &RockInputs::EntryAngle, 0), Metric), 465.0F);
+}
+
+TEST(EntryRock, AboveTheLimitOfTheAngleIsATriangle) {
+  EXPECT_EQ(EntryRockLoad(With(EnglishRock, &RockInputs::Height, 17.32051F), English), 14.0296125F);
+  EXPECT_EQ(EntryRockLoad(With(EnglishRock, &RockInputs::Height, 20), English), 14.0296125F);
+  EXPECT_EQ(EntryRockLoad(With(EnglishRock, &RockInputs::EntryAngle, 60), English), 4.67653751F);
+  EXPECT_EQ(EntryRockLoad(With(EnglishRock, &RockInputs::EntryAngle, 89), English), 0.14138603F);
+  EXPECT_EQ(EntryRockLoad(With(MetricRock, &RockInputs::Height, 8), Metric), 416.125153F);
+}
+
+struct Guard {
+  Single RockInputs::*member;
+  Single value;
+  bool computes;
+};
+
+constexpr Guard EntryGuards[] = {
+    {&RockInputs::Height, -1, false},      {&RockInputs::Height, 0, false},
+    {&RockInputs::Height, 0.01F, true},    {&RockInputs::EntryAngle, -0.01F, false},
+    {&RockInputs::EntryAngle, 0, true},    {&RockInputs::EntryAngle, 89.99F, true},
+    {&RockInputs::EntryAngle, 90, false},  {&RockInputs::EntryAngle, 91, false},
+    {&RockInputs::EntryAngle, 200, false}, {&RockInputs::Width, -1, false},
+    {&RockInputs::Width, 0, false},        {&RockInputs::Width, 0.01F, true},
+};
+
+TEST(EntryRock, IsGuardedInBothUnitSystems) {
+  for (const auto& [member, value, computes] : EntryGuards) {
+    EXPECT_EQ(EntryRockLoad(With(EnglishRock, member, value), English).has_value(), computes) << "English " << value;
+    EXPECT_EQ(EntryRockLoad(With(MetricRock, member, value), Metric).has_value(), computes) << "Metric " << value;
+  }
+  EXPECT_FALSE(EntryRockLoad(With(EnglishRock, &RockInputs::UnitWeight, 99), English));
+  EXPECT_FALSE(EntryRockLoad(With(MetricRock, &RockInputs::UnitWeight, 14.99F), Metric));
+}
+
+TEST(EntryRock, DoesNotLookAtTheIntersection) {
+  const RockInputs rock{162, 8, 30, -10, 20, 0};
+
+  EXPECT_EQ(EntryRockLoad(rock, English), 9.96701622F);
+}
+
+TEST(EntryRock, TooLittleToDivideByIsNone) { EXPECT_FALSE(EntryRockLoad({162, 1E-30F, 0, 0, 1E-30F, 0}, English)); }
+
+TEST(IntersectionRock, OfTheDefaults) {
+  EXPECT_EQ(IntersectionRockLoad(EnglishRock, English), 183.050446F);
+  EXPECT_EQ(IntersectionRockLoad(MetricRock, Metric), 2212.88281F);
+}
+
+TEST(IntersectionRock, OfTheLightestRockTaken) {
+  EXPECT_EQ(IntersectionRockLoad(With(EnglishRock, &RockInputs::UnitWeight, 100), English), 112.994102F);
+  EXPECT_EQ(IntersectionRockLoad(With(MetricRock, &RockInputs::UnitWeight, 15), Metric), 1327.72961F);
+}
+
+TEST(IntersectionRock, AboveTheLimitOfTheAnglesIsAPyramid) {
+  EXPECT_EQ(IntersectionRockLoad(Rock(30, 30, 30), English), 223.209747F);
+  EXPECT_EQ(IntersectionRockLoad(With(MetricRock, &RockInputs::Height, 10), Metric), 2551.55176F);
+}
+
+TEST(IntersectionRock, FallsInAtEachSidesOwnAngle) {
+  EXPECT_EQ(IntersectionRockLoad(Rock(8, 30, 20), English), 199.703506F);
+  EXPECT_EQ(IntersectionRockLoad(Rock(8, 20, 30), English), 199.703506F);
+  EXPECT_EQ(IntersectionRockLoad(Rock(8, 30, 60), English), 92.9329071F);
+  EXPECT_EQ(IntersectionRockLoad({25, 3, 45, 20, 6.2F, 20}, Metric), 1907.50989F);
+}
+
+TEST(IntersectionRock, WithDifferentAnglesIsNotWhatACurveShows) {
+  EXPECT_EQ(IntersectionRockLoad(Rock(8, 30, 20), English), 199.703506F);
+  EXPECT_EQ(RockLoadIntersection(30, 60, 162, 8), 183.050446F);
+}
+
+TEST(IntersectionRock, IsLimitedByTheEntrysAngleEvenWhenTheCrosscutsIsSteeper) {
+  EXPECT_EQ(IntersectionRockLoad(Rock(20, 30, 20), English), 264.457245F);
+  EXPECT_EQ(IntersectionRockLoad(Rock(20, 40, 20), English), 197.063324F);
+  EXPECT_EQ(IntersectionRockLoad(Rock(20, 20, 40), English), 165.9926F);
+}
+
+TEST(IntersectionRock, UnderVerticalSidesIsABlock) {
+  EXPECT_EQ(IntersectionRockLoad(Rock(8, 0, 0), English), 291.600006F);
+  EXPECT_EQ(IntersectionRockLoad(Rock(40, 0, 0), English), 1458.0F);
+}
+
+TEST(IntersectionRock, ThatWouldWeighLessThanNothingIsNone) {
+  EXPECT_FALSE(IntersectionRockLoad(Rock(8, 30, 89), English));
+}
+
+TEST(IntersectionRock, FailsWhenTheHeightIsLimitedAndTheEntrysSidesAreVertical) {
+  EXPECT_EQ(IntersectionRockLoad(Rock(8, 0, 45), English), 181.630753F);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(IntersectionRockLoad(Rock(30, 0, 45), English)); }), 11);
+}
+
+constexpr Guard InterGuards[] = {
+    {&RockInputs::Height, -1, false},        {&RockInputs::Height, 0, false},
+    {&RockInputs::Height, 0.01F, true},      {&RockInputs::EntryAngle, -0.01F, false},
+    {&RockInputs::EntryAngle, 0, true},      {&RockInputs::EntryAngle, 89.99F, true},
+    {&RockInputs::EntryAngle, 90, false},    {&RockInputs::CrosscutAngle, -0.01F, false},
+    {&RockInputs::CrosscutAngle, 0, true},   {&RockInputs::CrosscutAngle, 60, true},
+    {&RockInputs::CrosscutAngle, 90, false}, {&RockInputs::CrosscutAngle, 200, false},
+    {&RockInputs::Width, -1, false},         {&RockInputs::Width, 0, false},
+    {&RockInputs::Width, 0.01F, true},
+};
+
+TEST(IntersectionRock, IsGuardedInBothUnitSystems) {
+  for (const auto& [member, value, computes] : InterGuards) {
+    EXPECT_EQ(IntersectionRockLoad(With(EnglishRock, member, value), English).has_value(), computes)
+        << "English " << value;
+    EXPECT_EQ(IntersectionRockLoad(With(MetricRock, member, value), Metric).has_value(), computes)
+        << "Metric " << value;
+  }
+  EXPECT_FALSE(IntersectionRockLoad(With(EnglishRock, &RockInputs::UnitWeight, 99), English));
+  EXPECT_FALSE(IntersectionRockLoad(With(MetricRock, &RockInputs::UnitWeight, 14.99F), Metric));
+}
+
+TEST(IntersectionRock, NeedsASpanAboveTheEntryWidth) {
+  EXPECT_FALSE(IntersectionRockLoad(With(EnglishRock, &RockInputs::Span, 19.99F), English));
+  EXPECT_FALSE(IntersectionRockLoad(With(EnglishRock, &RockInputs::Span, 20), English));
+  EXPECT_EQ(IntersectionRockLoad(With(EnglishRock, &RockInputs::Span, 20.5F), English), 8.90268517F);
+  EXPECT_FALSE(IntersectionRockLoad(With(MetricRock, &RockInputs::Span, 6.2F), Metric));
+  EXPECT_TRUE(IntersectionRockLoad(With(MetricRock, &RockInputs::Span, 6.21F), Metric));
+}
+
+}  // namespace
+}  // namespace orby::test
