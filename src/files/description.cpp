@@ -1,0 +1,48 @@
+#include "files/description.h"
+
+#include <string>
+
+#include "base/arithmetic.h"
+#include "base/runtime_error.h"
+#include "base/text.h"
+#include "core/description.h"
+
+namespace orby {
+namespace {
+
+bool IsBlank(std::string_view line) { return Trim(line).empty(); }
+
+void AppendLine(Program& program, std::string_view line) {
+  if (IsBlank(line)) return;
+  std::string& description = program.ProjectDescription;
+  if (description.size() + line.size() > LongestItem) throw RuntimeError(error_number::OutOfMemory);
+  program.DescLines = ToInteger(program.DescLines + 1);
+  description += line;
+  description += LineEnd;
+}
+
+void LoadLegacyDescription(Program& program, ItemReader& reader) {
+  constexpr int LegacyLines = 5;
+  for (int i = 0; i < LegacyLines; ++i) AppendLine(program, reader.ReadLine());
+  program.DescLines = LinesOfEmptyDescription + LegacyLines;
+}
+
+}  // namespace
+
+void LoadDescription(Program& program, ItemReader& reader, int mode) {
+  constexpr Integer LastLegacyVersion = 49;
+  program.DescLines = 1;
+  if (mode == description_mode::Legacy || program.FileVersion <= LastLegacyVersion) {
+    LoadLegacyDescription(program, reader);
+    return;
+  }
+  program.ProjectDescription.clear();
+  std::string line = reader.ReadLine();
+  if (line == StartOfDescription) line = reader.ReadLine();
+  while (line != EndOfDescription) {
+    AppendLine(program, line);
+    line = reader.ReadText();
+  }
+}
+
+}  // namespace orby

@@ -1,0 +1,25 @@
+// Reading the free description of a project from its file.
+#pragma once
+
+#include <string_view>
+
+#include "core/program.h"
+#include "files/item_reader.h"
+
+namespace orby {
+
+inline constexpr std::string_view StartOfDescription = "##StartDesc##";
+inline constexpr std::string_view EndOfDescription = "##EndDesc##";
+
+namespace description_mode {
+inline constexpr int Legacy = 0;  // five lines without markers
+inline constexpr int Marked = 2;
+}  // namespace description_mode
+
+// Reads ProjectDescription and its DescLines from a project file.
+// Behind the first line the description comes as text items, so that a comma ends a line, leading blanks are lost and
+// double quotes disappear.
+// Throws RuntimeError 62 without an end marker, 6 beyond 32766 lines, 7 when it grows longer than LongestItem.
+void LoadDescription(Program& program, ItemReader& reader, int mode);
+
+}  // namespace orby

@@ -1,0 +1,51 @@
+#include "files/project_reader.h"
+
+#include "core/messages.h"
+#include "files/description.h"
+#include "files/project_lines.h"
+
+namespace orby {
+namespace {
+
+void ReadField(ProjectRecord& record, const ProjectLine& line, ItemReader& reader) {
+  if (const auto* single = std::get_if<SingleField>(&line.ReadInto)) {
+    record.** single = reader.ReadSingle();
+  } else if (const auto* integer = std::get_if<IntegerField>(&line.ReadInto)) {
+    record.** integer = reader.ReadInteger();
+  } else {
+    record.*std::get<TextField>(line.ReadInto) = line.Form == LineForm::Whole ? reader.ReadLine() : reader.ReadText();
+  }
+}
+
+void ReadHeader(Program& program, ItemReader& reader) {
+  reader.ReadText();
+  const Integer units = reader.ReadInteger();
+  program.Units = units == Metric ? Metric : English;
+  if (program.FileVersion >= Version103) program.BoltStrengthMode = reader.ReadInteger();
+  program.ProjectTitle = reader.ReadLine();
+}
+
+}  // namespace
+
+bool CheckFileFormat(Program& program, ItemReader reader) {
+  const std::string label = reader.ReadText();
+  Integer version = Version105;
+  for (Integer index = CurrentFileVersion; index >= 1; --index, --version) {
+    if (label != FileVersionNames[static_cast<std::size_t>(index)]) continue;
+    program.FileVersion = version;
+    return true;
+  }
+  ShowMessage(program, "Invalid ORBY file format. File can not be opened.");
+  return false;
+}
+
+void ReadProject(Program& program, ItemReader reader) {
+  ReadHeader(program, reader);
+  program.ProjectDescription.clear();
+  LoadDescription(program, reader, description_mode::Marked);
+  for (const ProjectLine& line : ProjectLines) {
+    if (program.FileVersion >= line.FirstVersion) ReadField(program.WorkParms, line, reader);
+  }
+}
+
+}  // namespace orby

@@ -1,0 +1,55 @@
+#include "files/save_command.h"
+
+#include <utility>
+
+#include "base/paths.h"
+#include "base/text.h"
+#include "core/file_helpers.h"
+#include "core/messages.h"
+#include "files/project_writer.h"
+
+namespace orby {
+namespace {
+
+FileQuestion ProjectFileQuestion(Program& program) {
+  const Settings& settings = program.settings;
+  FileQuestion question;
+  if (!Trim(program.CurrentFile).empty()) question.fileName = FileNameFromPath(program, program.CurrentFile, false);
+  question.folder = WithoutSeparator(settings.DataPath);
+  question.filterName = std::string(ProgramTitle) + " (*." + settings.FileExtension + ")";
+  question.defaultExtension = settings.FileExtension;
+  return question;
+}
+
+bool HasName(const Program& program) {
+  return !program.CurrentFile.empty() && !SameWithoutCase(program.CurrentFile, UntitledName);
+}
+
+}  // namespace
+
+void AskFileName(Program& program, FileDialogMode mode) {
+  const FileQuestion question = ProjectFileQuestion(program);
+  FileDialogs& dialogs = program.platform.fileDialogs;
+  program.CurrentFile = mode == FileDialogMode::Open ? dialogs.AskOpenName(question) : dialogs.AskSaveName(question);
+}
+
+bool FileMenuSave(Program& program, bool saveAs) {
+  if (saveAs || !HasName(program)) {
+    const auto outcome = RunTrapped(program, [&] { AskFileName(program, FileDialogMode::Save); });
+    if (outcome != StepOutcome::Done) return false;
+  }
+  bool ok = false;
+  RunTrapped(program, [&] { FileSave(program, ok); });
+  return ok;
+}
+
+void SaveChangesOfPreviousFile(Program& program) {
+  const int answer = ShowMessage(program, "Save changes to: " + program.PreviousFile + "?",
+                                 box_style::YesNo | box_style::Question | box_style::SecondButtonDefault);
+  if (answer != box_result::Yes) return;
+  std::string fileToOpen = std::exchange(program.CurrentFile, program.PreviousFile);
+  FileMenuSave(program, false);
+  program.CurrentFile = std::move(fileToOpen);
+}
+
+}  // namespace orby

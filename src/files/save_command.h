@@ -1,0 +1,22 @@
+// The commands Save and Save As, and the question before a project is given up.
+#pragma once
+
+#include "core/program.h"
+
+namespace orby {
+
+enum class FileDialogMode { Open, Save };
+
+// Lets the user choose a project file, starting with the open project's name in the data folder, and makes it
+// CurrentFile. Throws RuntimeError 32755 when the user cancels.
+void AskFileName(Program& program, FileDialogMode mode);
+
+// Saves the project, asking for its name first when it has none yet or on Save As. Gives whether it was saved: false
+// when the user cancelled or when the save failed, which was told then.
+bool FileMenuSave(Program& program, bool saveAs);
+
+// Asks whether to save the changes of PreviousFile and saves them there. CurrentFile comes out as it went in. A save
+// that fails is told and stops nothing.
+void SaveChangesOfPreviousFile(Program& program);
+
+}  // namespace orby

@@ -1,0 +1,223 @@
+#include "files/description.h"
+
+#include <gmock/gmock.h>
+
+#include "core/description.h"
+#include "project_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using Step = MemoryFiles::Step;
+
+struct Saved {
+  std::string text;
+  Integer lines;
+};
+
+Saved Normalize(const std::string& description) {
+  TestProject project;
+  project.program.ProjectDescription = description;
+  SaveDescription(project.program);
+  return {project.program.ProjectDescription, project.program.DescLines};
+}
+
+TEST(Description, AnEmptyOneStaysEmptyAndTouchesNoFile) {
+  TestProject project;
+
+  SaveDescription(project.program);
+
+  EXPECT_EQ(project.program.ProjectDescription, "");
+  EXPECT_EQ(project.program.DescLines, 2);
+  EXPECT_THAT(project.platform.files.created, testing::IsEmpty());
+}
+
+TEST(Description, BlankLinesAreDroppedAndTheLastLineEndIsCutOff) {
+  const Saved saved = Normalize("Shale roof\r\n\r\n   \r\n  Water at crosscut 4  \r\n");
+
+  EXPECT_EQ(saved.text, "Shale roof\r\n  Water at crosscut 4  ");
+  EXPECT_EQ(saved.lines, 4);
+}
+
+TEST(Description, EveryKindOfLineEndBecomesTheSame) {
+  const Saved saved = Normalize("Shale\nCoal\rClay\r\nSandstone");
+
+  EXPECT_EQ(saved.text, "Shale\r\nCoal\r\nClay\r\nSandstone");
+  EXPECT_EQ(saved.lines, 6);
+}
+
+TEST(Description, BlankLinesOnlyBecomeAnEmptyOne) {
+  const Saved saved = Normalize("\r\n   \r\n\r\n");
+
+  EXPECT_EQ(saved.text, "");
+  EXPECT_EQ(saved.lines, 2);
+}
+
+TEST(Description, SixtyCharactersStayOnOneLine) {
+  const std::string sixty(60, 'x');
+
+  EXPECT_EQ(Normalize(sixty).text, sixty);
+  EXPECT_EQ(Normalize("  " + sixty + "  ").text, "  " + sixty + "  ");
+  EXPECT_EQ(Normalize(sixty).lines, 3);
+}
+
+TEST(Description, SixtyOneCharactersWithoutABlankAreCutAtSixty) {
+  const Saved saved = Normalize(std::string(61, 'x'));
+
+  EXPECT_EQ(saved.text, std::string(60, 'x') + "\r\nx");
+  EXPECT_EQ(saved.lines, 5);
+}
+
+TEST(Description, ALongLineIsCutBehindTheBlankAtPosition45) {
+  const Saved saved = Normalize(std::string(44, 'x') + " " + std::string(16, 'y'));
+
+  EXPECT_EQ(saved.text, std::string(44, 'x') + " \r\n" + std::string(16, 'y'));
+}
+
+TEST(Description, PositionFortyIsTheLowestBreak) {
+  EXPECT_EQ(Normalize(std::string(39, 'x') + " " + std::string(21, 'y')).text,
+            std::string(39, 'x') + " \r\n" + std::string(21, 'y'));
+  EXPECT_EQ(Normalize(std::string(38, 'x') + " " + std::string(22, 'y')).text,
+            std::string(38, 'x') + " " + std::string(21, 'y') + "\r\ny");
+}
+
+TEST(Description, LengthCountsCharactersNotBytes) {
+  std::string sixtyUmlauts;
+  for (int i = 0; i < 60; ++i) sixtyUmlauts += "\xC3\xBC";
+
+  EXPECT_EQ(Normalize(sixtyUmlauts).text, sixtyUmlauts);
+}
+
+TEST(Description, CharactersOutsideTheCodePageAndThoseThatLookLikeOtherBytesSurvive) {
+  EXPECT_EQ(Normalize("\xE4\xB8\xAD\xE6\x96\x87").text, "\xE4\xB8\xAD\xE6\x96\x87");
+  EXPECT_EQ(Normalize("\xC3\x83\xC2\xA9").text, "\xC3\x83\xC2\xA9");
+}
+
+TEST(Description, TheTemporaryFileIsGoneAfterwards) {
+  TestProject project;
+  project.program.ProjectDescription = "Shale roof";
+
+  SaveDescription(project.program);
+
+  EXPECT_THAT(project.platform.files.created, testing::ElementsAre(TemporaryDescription));
+  EXPECT_FALSE(project.platform.files.files.contains(TemporaryDescription));
+}
+
+class FailingTemporaryFile : public testing::TestWithParam<Step> {};
+
+TEST_P(FailingTemporaryFile, LeavesTheDescriptionAsItWasAndTellsNobody) {
+  TestProject project;
+  project.program.ProjectDescription = "Shale roof\r\n\r\nWater";
+  project.platform.files.Fail(GetParam(), error_number::PermissionDenied);
+
+  SaveDescription(project.program);
+
+  EXPECT_EQ(project.program.ProjectDescription, "Shale roof\r\n\r\nWater");
+  EXPECT_EQ(project.program.DescLines, 2);
+  EXPECT_THAT(project.platform.boxes.shown, testing::IsEmpty());
+  EXPECT_EQ(project.program.history.Text, "");
+}
+
+INSTANTIATE_TEST_SUITE_P(AnyStep, FailingTemporaryFile,
+                         testing::Values(Step::Find, Step::Create, Step::Write, Step::Close, Step::Read, Step::Remove));
+
+TEST(Description, MoreLinesThanCanBeCountedLeaveItAsItWas) {
+  std::string description;
+  for (int i = 0; i < 32766; ++i) description += "x\n";
+
+  const Saved saved = Normalize(description);
+
+  EXPECT_EQ(saved.text, description);
+  EXPECT_EQ(saved.lines, 2);
+}
+
+struct Loaded {
+  std::string text;
+  Integer lines;
+  std::string behind;  // the next line of the file
+};
+
+Loaded Load(const std::string& bytes, int mode = description_mode::Marked, Integer fileVersion = 103) {
+  TestProject project;
+  project.program.FileVersion = fileVersion;
+  project.program.ProjectDescription = "previous";
+  if (mode == description_mode::Legacy || fileVersion < 50) project.program.ProjectDescription.clear();
+  ItemReader reader(bytes);
+  LoadDescription(project.program, reader, mode);
+  return {project.program.ProjectDescription, project.program.DescLines, reader.ReadLine()};
+}
+
+TEST(Description, IsReadBetweenItsMarkers) {
+  const Loaded loaded = Load(Lines({"##StartDesc##", "Shale roof", "", "Water", "##EndDesc##", "45"}));
+
+  EXPECT_EQ(loaded.text, "Shale roof\r\nWater\r\n");
+  EXPECT_EQ(loaded.lines, 3);
+  EXPECT_EQ(loaded.behind, "45");
+}
+
+TEST(Description, AnEmptyLineBetweenTheMarkersReadsBackAsEmpty) {
+  const Loaded loaded = Load(Lines({"##StartDesc##", "", "##EndDesc##", "45"}));
+
+  EXPECT_EQ(loaded.text, "");
+  EXPECT_EQ(loaded.lines, 1);
+}
+
+TEST(Description, ItsFirstLineIsTakenWhole) {
+  const Loaded loaded = Load(Lines({"##StartDesc##", "  \"Shale\", coal ", "##EndDesc##", "45"}));
+
+  EXPECT_EQ(loaded.text, "  \"Shale\", coal \r\n");
+}
+
+TEST(Description, LaterLinesPassThroughTheItemReader) {
+  const Loaded loaded = Load(Lines({"##StartDesc##", "Roof", "  shale, coal ", "\"clay, wet\"", "##EndDesc##", "45"}));
+
+  EXPECT_EQ(loaded.text, "Roof\r\nshale\r\ncoal \r\nclay, wet\r\n");
+  EXPECT_EQ(loaded.lines, 5);
+}
+
+TEST(Description, WithoutAStartMarkerItsFirstLineCountsAndTheMarkerBecomesALine) {
+  const Loaded loaded = Load(Lines({"Panel 3", "##StartDesc##", "Roof", "##EndDesc##", "45"}));
+
+  EXPECT_EQ(loaded.text, "Panel 3\r\n##StartDesc##\r\nRoof\r\n");
+}
+
+TEST(Description, AnEndMarkerRightAwayIsAnEmptyOne) {
+  EXPECT_EQ(Load(Lines({"##EndDesc##", "45"})).behind, "45");
+  EXPECT_EQ(Load(Lines({"##StartDesc##", "##EndDesc##", "45"})).behind, "45");
+}
+
+TEST(Description, MarkersMatchExactly) {
+  const Loaded loaded = Load(Lines({"##startdesc##", "##enddesc##", "##EndDesc##,45"}));
+
+  EXPECT_EQ(loaded.text, "##startdesc##\r\n##enddesc##\r\n");
+  EXPECT_EQ(loaded.behind, "45");
+}
+
+TEST(Description, WithoutAnEndMarkerTheFileEndsTooSoon) {
+  EXPECT_EQ(ErrorNumberOf([] { Load(Lines({"##StartDesc##", "Shale", "45"})); }), 62);
+}
+
+TEST(Description, MoreLinesThanCanBeCountedOverflow) {
+  std::string bytes = "##StartDesc##\r\n";
+  for (int i = 0; i < 32766; ++i) bytes += "x\n";
+
+  EXPECT_EQ(Load(bytes + "##EndDesc##\n45\n").lines, 32767);
+  EXPECT_EQ(ErrorNumberOf([&] { Load(bytes + "x\n##EndDesc##\n45\n"); }), 6);
+}
+
+TEST(Description, TheLegacyReadingTakesFiveLinesWhole) {
+  const std::string bytes = Lines({"Panel 3, east", "", "  Shale", "\"wet\"", "   ", "45"});
+
+  for (const Loaded& loaded : {Load(bytes, description_mode::Legacy), Load(bytes, description_mode::Marked, 49)}) {
+    EXPECT_EQ(loaded.text, "Panel 3, east\r\n  Shale\r\n\"wet\"\r\n");
+    EXPECT_EQ(loaded.lines, 7);
+    EXPECT_EQ(loaded.behind, "45");
+  }
+}
+
+TEST(Description, FormatFiftyAlreadyHasMarkers) {
+  EXPECT_EQ(Load(Lines({"##StartDesc##", "Roof", "##EndDesc##", "45"}), description_mode::Marked, 50).text, "Roof\r\n");
+}
+
+}  // namespace
+}  // namespace orby::test

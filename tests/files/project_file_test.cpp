@@ -1,0 +1,384 @@
+#include "files/project_file.h"
+
+#include <gmock/gmock.h>
+
+#include "project_fixture.h"
+#include "support/test_data.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+// A file of the newest format with one of its lines replaced, counted from 1.
+std::string WithLine(std::size_t number, const std::string& text) {
+  const std::string bytes = ReadTestData("projects/orby_105.orb");
+  std::size_t start = 0;
+  for (std::size_t line = 1; line < number; ++line) start = bytes.find("\r\n", start) + 2;
+  std::string changed = bytes;
+  return changed.replace(start, bytes.find("\r\n", start) - start, text);
+}
+
+constexpr std::size_t LinesAheadOfData = 9;
+
+std::string WithDataLine(std::size_t number, const std::string& text) {
+  return WithLine(LinesAheadOfData + number, text);
+}
+
+const std::string RefusalText = "Invalid ORBY file format. File can not be opened.";
+
+TEST(ProjectFile, OpeningSetsTheStateOfASavedProject) {
+  TestProject project;
+  project.program.WorkParmsCopy.DepthofCover = 777;
+  project.program.OutBuf[1] = "report";
+
+  EXPECT_TRUE(project.Open(ReadTestData("projects/orby_104.orb")));
+
+  EXPECT_TRUE(project.program.FileSaved);
+  EXPECT_FALSE(project.program.FileEmpty);
+  EXPECT_TRUE(project.program.UnitsLocked);
+  EXPECT_EQ(project.program.CurrentFile, ProjectPath);
+  EXPECT_EQ(project.program.OutBuf[1], "");
+  EXPECT_EQ(project.program.WorkParmsCopy.DepthofCover, 777);
+  EXPECT_FALSE(project.platform.windows.waitCursor);
+  EXPECT_EQ(project.program.history.Text,
+            "1. File initialized. Use Edit-Project Parameters to enter data\r\n2. Opening: /designs/panel3.orb\r\n");
+}
+
+TEST(ProjectFile, TheHeaderMismatchMovesTitleAndMarkerIntoTheDescription) {
+  TestProject project;
+  FileNew(project.program, false, true);
+  project.program.ProjectTitle = "T";
+  project.program.ProjectDescription = "D1\r\nD2";
+
+  ASSERT_TRUE(project.Save());
+  ASSERT_TRUE(project.Open());
+
+  EXPECT_EQ(project.program.ProjectTitle, " 0 ");
+  EXPECT_EQ(project.program.ProjectDescription, "T\r\n##StartDesc##\r\nD1\r\nD2\r\n");
+  EXPECT_EQ(project.program.DescLines, 5);
+}
+
+TEST(ProjectFile, EverySaveAndOpenLetsTheDescriptionGrowAndMovesNoValue) {
+  TestProject project;
+  FileNew(project.program, false, true);
+  project.program.ProjectTitle = "T";
+  project.program.ProjectDescription = "D1\r\nD2";
+  ASSERT_TRUE(project.Save());
+  const std::string saved = project.File();
+  const std::string data = saved.substr(saved.find("##EndDesc##"));
+
+  ASSERT_TRUE(project.Open());
+  ASSERT_TRUE(project.Save());
+  ASSERT_TRUE(project.Open());
+  EXPECT_EQ(project.program.ProjectTitle, " 0 ");
+  EXPECT_EQ(project.program.ProjectDescription, " 0 \r\n##StartDesc##\r\nT\r\n##StartDesc##\r\nD1\r\nD2\r\n");
+
+  ASSERT_TRUE(project.Save());
+  ASSERT_TRUE(project.Open());
+  EXPECT_EQ(project.program.ProjectTitle, " 0 ");
+  EXPECT_EQ(project.program.ProjectDescription,
+            " 0 \r\n##StartDesc##\r\n0 \r\n##StartDesc##\r\nT\r\n##StartDesc##\r\nD1\r\nD2\r\n");
+
+  ASSERT_TRUE(project.Save());
+  EXPECT_EQ(project.File().substr(project.File().find("##EndDesc##")), data);
+}
+
+TEST(ProjectFile, ABlankTitleMovesTheMarkerAlone) {
+  TestProject project;
+  FileNew(project.program, false, true);
+
+  ASSERT_TRUE(project.Save());
+  ASSERT_TRUE(project.Open());
+
+  EXPECT_EQ(project.program.ProjectTitle, " 0 ");
+  EXPECT_EQ(project.program.ProjectDescription, "##StartDesc##\r\n");
+}
+
+TEST(ProjectFile, TheTableChoiceIsWrittenButNeverRead) {
+  TestProject project;
+  FileNew(project.program, false, true);
+  project.program.UseAUSStandardTable = 1;
+
+  ASSERT_TRUE(project.Save());
+  project.program.UseAUSStandardTable = 0;
+  ASSERT_TRUE(project.Open());
+
+  EXPECT_EQ(project.program.UseAUSStandardTable, 0);
+  EXPECT_EQ(project.program.ProjectTitle, " 1 ");
+}
+
+TEST(ProjectFile, TheIntersectionsSupportModeComesBackAsTheEntrys) {
+  TestProject project;
+  FileNew(project.program, false, true);
+  project.program.WorkParms.SupportTypeModeSecEntry = 0;
+  project.program.WorkParms.SupportTypeModeSecInter = 1;
+
+  ASSERT_TRUE(project.Save());
+  ASSERT_TRUE(project.Open());
+
+  EXPECT_EQ(project.program.WorkParms.SupportTypeModeSecEntry, 1);
+  EXPECT_EQ(project.program.WorkParms.SupportTypeModeSecInter, 0);
+}
+
+TEST(ProjectFile, CommaInABoltDescriptionShiftsTheFieldsBehindIt) {
+  TestProject project;
+
+  ASSERT_TRUE(project.Open(WithDataLine(18, "Rebar, 6 ft")));
+
+  const ProjectRecord& record = project.program.WorkParms;
+  EXPECT_EQ(record.BoltDescPrimary, "Rebar");
+  EXPECT_EQ(record.BoltDiameterModePrimary, 6);
+  EXPECT_EQ(record.BoltDiameterStdPrimary, 0);  // "ft"
+  EXPECT_EQ(record.BoltDiameterManualPrimary, 119);
+  EXPECT_EQ(record.BoltGradeModePrimary, 20);  // 20.25 as a whole number
+  EXPECT_EQ(record.BoltGradeStdPrimary, 21.25F);
+}
+
+TEST(ProjectFile, CommasAndQuotesInASupportNameAreSafe) {
+  TestProject project;
+
+  ASSERT_TRUE(project.Open(WithDataLine(60, " \"Crib\", 4-point ")));
+
+  EXPECT_EQ(project.program.WorkParms.SupportTypeNameSecEntry, " \"Crib\", 4-point ");
+  EXPECT_EQ(project.program.WorkParms.SupportCapSecEntry, 61.25F);
+  EXPECT_EQ(project.program.WorkParms.CostWeeksYear, 120.25F);
+}
+
+TEST(ProjectFile, ANumberThatIsNoneReadsAsZero) {
+  TestProject project;
+
+  ASSERT_TRUE(project.Open(WithDataLine(5, "deep")));
+
+  EXPECT_EQ(project.program.WorkParms.DepthofCover, 0);
+  EXPECT_EQ(project.program.WorkParms.UnitWeight, 6.25F);
+}
+
+TEST(ProjectFile, ExponentFormIsTakenBack) {
+  TestProject project;
+
+  ASSERT_TRUE(project.Open(WithDataLine(5, "3.333334E-02")));
+
+  EXPECT_EQ(project.program.WorkParms.DepthofCover, 3.333334E-02F);
+}
+
+TEST(ProjectFile, AUnitSystemThatIsNoneBecomesEnglish) {
+  for (const char* units : {" 2 ", "-1 ", " 32767 "}) {
+    TestProject project;
+    project.program.settings.UnitsDefault = Metric;
+
+    ASSERT_TRUE(project.Open(WithLine(2, units)));
+
+    EXPECT_EQ(project.program.Units, English) << units;
+  }
+}
+
+TEST(ProjectFile, AnyLineEndWillDo) {
+  std::string bytes = ReadTestData("projects/orby_104.orb");
+  std::erase(bytes, '\r');
+  for (const char lineEnd : {'\n', '\r'}) {
+    std::replace(bytes.begin(), bytes.end(), '\n', lineEnd);
+    TestProject project;
+
+    ASSERT_TRUE(project.Open(bytes));
+
+    EXPECT_EQ(project.program.ProjectTitle, "Tailgate crosscuts, panel 3");
+    EXPECT_EQ(project.program.WorkParms.SupportTypeNameSecInter, "Pumped crib \"96\"");
+    EXPECT_EQ(project.program.WorkParms.CostAdvance, 222);
+  }
+}
+
+class RefusedFile : public testing::TestWithParam<const char*> {};
+
+TEST_P(RefusedFile, IsToldAndLeavesANewProjectUnderItsName) {
+  TestProject project;
+  project.program.FileVersion = 102;
+  project.program.WorkParms.DepthofCover = 777;
+  project.program.UnitsLocked = true;
+
+  EXPECT_FALSE(project.Open(GetParam()));
+
+  EXPECT_THAT(project.platform.boxes.Texts(), ElementsAre(RefusalText));
+  EXPECT_EQ(project.platform.boxes.shown.front().style, box_style::Ok);
+  EXPECT_EQ(project.program.WorkParms.DepthofCover, 400);
+  EXPECT_TRUE(project.program.FileSaved);
+  EXPECT_TRUE(project.program.FileEmpty);
+  EXPECT_FALSE(project.program.UnitsLocked);
+  EXPECT_EQ(project.program.FileVersion, 102);
+  EXPECT_EQ(project.program.CurrentFile, ProjectPath);
+  EXPECT_FALSE(project.platform.windows.waitCursor);
+}
+
+INSTANTIATE_TEST_SUITE_P(Labels, RefusedFile,
+                         testing::Values("ORBY_101\r\n 0 \r\n", "ORBY_106\r\n 0 \r\n", "orby_105\r\n 0 \r\n",
+                                         "ORBY_105 \r\n 0 \r\n", "ORBY_1055\r\n", "\r\nORBY_105\r\n", "ORBY_10",
+                                         "\xEF\xBB\xBFORBY_105\r\n"));
+
+TEST(ProjectFile, TheLabelEndsAtAComma) {
+  TestProject project;
+
+  // The rest of the first line takes the place of the unit system, and that the place of the strength mode.
+  ASSERT_TRUE(project.Open(WithLine(1, "ORBY_105,1")));
+
+  EXPECT_EQ(project.program.FileVersion, 104);
+  EXPECT_EQ(project.program.BoltStrengthMode, 1);
+  EXPECT_EQ(project.program.ProjectTitle, " 1 ");
+}
+
+TEST(ProjectFile, TheLabelMayStandInQuotesBehindBlanks) {
+  TestProject project;
+
+  EXPECT_TRUE(project.Open(WithLine(1, "  \"ORBY_105\" ")));
+}
+
+TEST(ProjectFile, AnEmptyFileIsTheEndOfFileError) {
+  TestProject project;
+
+  EXPECT_EQ(ErrorNumberOf([&] { project.Open(""); }), 62);
+  EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
+}
+
+TEST(ProjectFile, AMissingFileIsToldByItsErrorWithANewProjectBehind) {
+  TestProject project;
+  project.program.WorkParms.DepthofCover = 777;
+
+  EXPECT_EQ(ErrorNumberOf([&] { project.Open(); }), 53);
+
+  EXPECT_EQ(project.program.WorkParms.DepthofCover, 400);
+  EXPECT_TRUE(project.program.FileEmpty);
+}
+
+TEST(ProjectFile, AFileCutShortAnywhereEndsInTheEndOfFileErrorAndKeepsWhatWasRead) {
+  const std::string bytes = ReadTestData("projects/orby_105.orb");
+  const std::string lastValue = " 222 \r\n";
+  for (std::size_t length = 0; length <= bytes.size() - lastValue.size(); ++length) {
+    TestProject project;
+    project.File() = bytes.substr(0, length);
+    bool ok = true;
+
+    const int error = ErrorNumberOf([&] { FileOpen(project.program, ok); });
+
+    const bool labelIsCut = length > 0 && length < 8;
+    EXPECT_EQ(error, labelIsCut ? 0 : 62) << length;
+    EXPECT_EQ(project.platform.boxes.Texts().size(), labelIsCut ? 1U : 0U) << length;
+    EXPECT_FALSE(ok);
+    EXPECT_TRUE(project.program.FileEmpty);
+    EXPECT_FALSE(project.program.UnitsLocked);
+  }
+}
+
+TEST(ProjectFile, FieldsReadBeforeAnErrorStay) {
+  const std::string bytes = ReadTestData("projects/orby_105.orb");
+  TestProject project;
+  project.File() = bytes.substr(0, bytes.find("6.25"));
+
+  EXPECT_EQ(ErrorNumberOf([&] { project.Open(); }), 62);
+
+  EXPECT_EQ(project.program.WorkParms.DepthofCover, 5.25F);
+  EXPECT_EQ(project.program.WorkParms.UnitWeight, 162);
+}
+
+TEST(ProjectFile, AValueBeyondItsFieldIsAnOverflow) {
+  TestProject project;
+
+  EXPECT_EQ(ErrorNumberOf([&] { project.Open(WithDataLine(1, "40000")); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { project.Open(WithDataLine(5, "1E39")); }), 6);
+}
+
+TEST(ProjectFile, TheWaitCursorStaysUntilTheCommandsTrapWhenReadingFails) {
+  TestProject project;
+
+  EXPECT_EQ(ErrorNumberOf([&] { project.Open("ORBY_105\r\n"); }), 62);
+
+  EXPECT_TRUE(project.platform.windows.waitCursor);
+}
+
+TEST(ProjectFile, CodePageFilesAreRead) {
+  TestProject project;
+
+  ASSERT_TRUE(project.Open(WithDataLine(60, "St\xFCtze \x80 5")));
+
+  EXPECT_EQ(project.program.WorkParms.SupportTypeNameSecEntry, "St\xC3\xBCtze \xE2\x82\xAC 5");
+}
+
+TEST(ProjectFile, Utf8FilesAreRead) {
+  TestProject project;
+
+  ASSERT_TRUE(project.Open(WithDataLine(60, "\xE6\x94\xAF\xE6\x9F\xB1")));
+
+  EXPECT_EQ(project.program.WorkParms.SupportTypeNameSecEntry, "\xE6\x94\xAF\xE6\x9F\xB1");
+}
+
+// An open project with unsaved changes, and another one chosen to be opened.
+struct ChangedProject : TestProject {
+  ChangedProject() {
+    FileNew(program, false, true);
+    program.WorkParms.DepthofCover = 777;
+    program.FileSaved = false;
+    program.PreviousFile = "/designs/previous.orb";
+    File() = ReadTestData("projects/orby_104.orb");
+  }
+};
+
+TEST(ProjectFile, UnsavedChangesAreAskedAboutUnderThePreviousName) {
+  ChangedProject project;
+  project.platform.boxes.answers = {box_result::No};
+
+  EXPECT_TRUE(project.Open());
+
+  ASSERT_EQ(project.platform.boxes.shown.size(), 1U);
+  EXPECT_EQ(project.platform.boxes.shown[0].text, "Save changes to: /designs/previous.orb?");
+  EXPECT_EQ(project.platform.boxes.shown[0].style, 4 + 32 + 256);
+  EXPECT_THAT(project.platform.files.created, IsEmpty());
+}
+
+TEST(ProjectFile, YesSavesThePreviousProjectFirst) {
+  ChangedProject project;
+  project.platform.boxes.answers = {box_result::Yes};
+
+  EXPECT_TRUE(project.Open());
+
+  EXPECT_THAT(project.platform.files.created, ElementsAre("/designs/previous.orb"));
+  EXPECT_THAT(project.platform.files.files["/designs/previous.orb"], HasSubstr("\r\n777\r\n"));
+  EXPECT_EQ(project.program.CurrentFile, ProjectPath);
+  EXPECT_EQ(project.program.PreviousFile, "/designs/previous.orb");
+  EXPECT_EQ(project.program.WorkParms.DepthofCover, 5.25F);
+}
+
+TEST(ProjectFile, YesForAnUntitledProjectAsksForItsNameAndStillOpensTheChosenFile) {
+  ChangedProject project;
+  project.program.PreviousFile = "Untitled";
+  project.platform.boxes.answers = {box_result::Yes};
+  project.platform.fileDialogs.answers = {"/designs/named.orb"};
+
+  EXPECT_TRUE(project.Open());
+
+  EXPECT_THAT(project.platform.files.files["/designs/named.orb"], HasSubstr("\r\n777\r\n"));
+  EXPECT_EQ(project.program.CurrentFile, ProjectPath);
+}
+
+TEST(ProjectFile, ASaveThatFailsDoesNotStopTheOpen) {
+  ChangedProject project;
+  project.platform.boxes.answers = {box_result::Yes, box_result::Cancel};
+  project.platform.files.Fail(MemoryFiles::Step::Create, error_number::PermissionDenied);
+
+  EXPECT_TRUE(project.Open());
+
+  EXPECT_THAT(project.platform.boxes.Texts(),
+              ElementsAre("Save changes to: /designs/previous.orb?", "Error occurred: Permission denied (70)"));
+  EXPECT_EQ(project.program.WorkParms.DepthofCover, 5.25F);
+}
+
+TEST(ProjectFile, ASavedProjectIsNotAskedAbout) {
+  ChangedProject project;
+  project.program.FileSaved = true;
+
+  EXPECT_TRUE(project.Open());
+
+  EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
+}
+
+}  // namespace
+}  // namespace orby::test

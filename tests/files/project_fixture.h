@@ -1,0 +1,57 @@
+// A program with a small standing support list, on a platform of memory.
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "core/messages.h"
+#include "files/new_project.h"
+#include "files/project_file.h"
+#include "support/recording_platform.h"
+
+namespace orby::test {
+
+inline const std::string ProjectPath = "/designs/panel3.orb";
+inline const std::string TemporaryDescription = "/tmp/~tmpdesc.tmp";
+
+struct TestProject {
+  TestProject() {
+    program.catalogs.StandSupports.HighestIndex = 1;
+    program.catalogs.StandSupports.DefaultStandSupportType = {"Four-point timber crib", "Pumped crib"};
+    program.CurrentFile = ProjectPath;
+  }
+
+  std::string& File() { return platform.files.files[ProjectPath]; }
+
+  bool Save() {
+    bool ok = false;
+    FileSave(program, ok);
+    return ok;
+  }
+
+  bool Open() {
+    bool ok = false;
+    FileOpen(program, ok);
+    return ok;
+  }
+
+  bool Open(std::string bytes) {
+    File() = std::move(bytes);
+    return Open();
+  }
+
+  RecordingPlatform platform;
+  Program program{platform.Doors()};
+};
+
+// The lines joined, each ended by CR LF.
+inline std::string Lines(std::initializer_list<std::string_view> lines) {
+  std::string text;
+  for (const auto line : lines) {
+    text += line;
+    text += "\r\n";
+  }
+  return text;
+}
+
+}  // namespace orby::test

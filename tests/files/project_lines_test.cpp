@@ -1,0 +1,109 @@
+// Which line of a file holds which field, for each format.
+
+#include "files/project_lines.h"
+
+#include <gmock/gmock.h>
+
+#include <set>
+
+#include "project_fixture.h"
+#include "saved_fields.h"
+#include "support/test_data.h"
+
+namespace orby::test {
+namespace {
+
+const std::set<std::string> MissingBefore105{
+    "BoltOptionsPrimary",        "BoltTableRowPrimary",    "BoltTableDiameterPrimary", "BoltTableGradePrimary",
+    "BoltDescPrimary",           "BoltOptionsSecEntry",    "BoltTableRowSecEntry",     "BoltTableDiameterSecEntry",
+    "BoltTableGradeSecEntry",    "BoltDescSecEntry",       "BoltOptionsSecInter",      "BoltTableRowSecInter",
+    "BoltTableDiameterSecInter", "BoltTableGradeSecInter", "BoltDescSecInter"};
+const std::set<std::string> MissingBefore104{"CableCapacitySecEntry", "CableCapacityManualSecEntry",
+                                             "CableCapacitySecInter", "CableCapacityManualSecInter"};
+
+struct Format {
+  const char* file;
+  Integer fileVersion;
+  Integer boltStrengthMode;  // what the file leaves it at, 0 being the default
+  const char* title;
+  const char* description;
+};
+
+class FileFormats : public testing::TestWithParam<Format> {};
+
+TEST_P(FileFormats, EveryLineLandsInItsField) {
+  const Format& format = GetParam();
+  TestProject project;
+  FileNew(project.program, false, true);
+  const ProjectRecord fresh = project.program.WorkParms;
+
+  ASSERT_TRUE(project.Open(ReadTestData(format.file)));
+
+  const ProjectRecord& record = project.program.WorkParms;
+  int compared = 0;
+  for (const auto& row : ReadTable("projects/data_lines.tsv")) {
+    const std::string& name = row.fields[1];
+    std::string expected = row.fields[2];
+    if (format.fileVersion < 104 && MissingBefore105.contains(name)) expected = ValueOf(fresh, name);
+    if (format.fileVersion < 103 && MissingBefore104.contains(name)) expected = ValueOf(fresh, name);
+    if (name == "SupportTypeModeSecEntry") expected = "195";
+    if (name == "SupportTypeModeSecInter") expected = "0";
+    EXPECT_EQ(ValueOf(record, name), expected) << name;
+    ++compared;
+  }
+  EXPECT_EQ(compared, 122);
+  EXPECT_EQ(project.program.FileVersion, format.fileVersion);
+  EXPECT_EQ(project.program.Units, Metric);
+  EXPECT_EQ(project.program.BoltStrengthMode, format.boltStrengthMode);
+  EXPECT_EQ(project.program.UseAUSStandardTable, 0);
+  EXPECT_EQ(project.program.ProjectTitle, format.title);
+  EXPECT_EQ(project.program.ProjectDescription, format.description);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Labels, FileFormats,
+    testing::Values(Format{"projects/orby_102.orb", 101, 0, "Tailgate crosscuts, panel 3",
+                           "Shale roof with thin coal bands\r\nWater at two crosscuts\r\n"},
+                    Format{"projects/orby_103.orb", 102, 1, "Tailgate crosscuts, panel 3",
+                           "Shale roof with thin coal bands\r\nWater at two crosscuts\r\n"},
+                    Format{"projects/orby_104.orb", 103, 1, "Tailgate crosscuts, panel 3",
+                           "Shale roof with thin coal bands\r\nWater at two crosscuts\r\n"},
+                    Format{"projects/orby_105.orb", 104, 1, " 0 ",
+                           "Tailgate crosscuts, panel 3\r\n##StartDesc##\r\nShale roof with thin coal bands\r\n"
+                           "Water at two crosscuts\r\n"}));
+
+TEST(FileFormats, ThereAre122DataLines) { EXPECT_EQ(ProjectLines.size(), 122U); }
+
+TEST(FileFormats, WhatAnOlderFileLacksIsInTheDefaultUnitsAndStaysWhenSavedAnew) {
+  TestProject project;
+  ASSERT_TRUE(project.Open(ReadTestData("projects/orby_103.orb")));
+  ASSERT_EQ(project.program.Units, Metric);
+  EXPECT_EQ(project.program.WorkParms.CableCapacityManualSecEntry, 27);
+
+  ASSERT_TRUE(project.Save());
+  ASSERT_TRUE(project.Open());
+
+  EXPECT_EQ(project.program.FileVersion, 104);
+  EXPECT_EQ(project.program.Units, Metric);
+  EXPECT_EQ(project.program.WorkParms.CableCapacityManualSecEntry, 27);
+  EXPECT_EQ(project.program.WorkParms.CableCapacityManualSecInter, 27);
+  EXPECT_EQ(project.program.WorkParms.CableCapacitySecEntry, 0);
+  EXPECT_EQ(project.program.WorkParms.BoltTableDiameterPrimary, 0);
+  EXPECT_EQ(project.program.WorkParms.BoltDescSecInter, "");
+}
+
+TEST(FileFormats, AnOldFileOverAProjectLeavesNothingOfItInTheMissingLines) {
+  TestProject project;
+  ASSERT_TRUE(project.Open(ReadTestData("projects/orby_105.orb")));
+  ASSERT_EQ(project.program.WorkParms.BoltDescPrimary, "Rebar no. 6 row 18");
+
+  ASSERT_TRUE(project.Open(ReadTestData("projects/orby_102.orb")));
+
+  EXPECT_EQ(project.program.WorkParms.BoltDescPrimary, "");
+  EXPECT_EQ(project.program.WorkParms.BoltTableDiameterSecEntry, 0);
+  EXPECT_EQ(project.program.WorkParms.CableCapacityManualSecInter, 27);
+  EXPECT_EQ(project.program.BoltStrengthMode, 0);
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,212 @@
+#include "files/project_writer.h"
+
+#include <gmock/gmock.h>
+
+#include "project_fixture.h"
+#include "support/test_data.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::StartsWith;
+using Step = MemoryFiles::Step;
+
+struct NewProject : TestProject {
+  NewProject() { FileNew(program, false, true); }
+};
+
+std::string DataLine(const std::string& bytes, int number) {
+  std::string_view rest = bytes;
+  rest.remove_prefix(rest.find("##EndDesc##") + 13);
+  for (int line = 1; line < number; ++line) rest.remove_prefix(rest.find("\r\n") + 2);
+  return std::string(rest.substr(0, rest.find("\r\n")));
+}
+
+TEST(ProjectWriter, SavingWritesTheFileAndSetsTheState) {
+  NewProject project;
+  project.program.FileSaved = false;
+  project.program.FileEmpty = true;
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_EQ(project.File(), ReadTestData("projects/new_english.orb"));
+  EXPECT_TRUE(project.program.FileSaved);
+  EXPECT_TRUE(project.program.FileEmpty);
+  EXPECT_FALSE(project.platform.windows.waitCursor);
+  EXPECT_THAT(project.program.history.Text, HasSubstr("2. Saving: /designs/panel3.orb\r\n"));
+}
+
+TEST(ProjectWriter, TheHeaderHoldsUnitsStrengthModeTableChoiceTitleAndDescription) {
+  NewProject project;
+  project.program.Units = Metric;
+  project.program.BoltStrengthMode = 1;
+  project.program.UseAUSStandardTable = 1;
+  project.program.ProjectTitle = "Panel 3";
+  project.program.ProjectDescription = "Shale roof\r\n\r\nWater";
+
+  project.Save();
+
+  EXPECT_THAT(project.File(), StartsWith("ORBY_105\r\n 1 \r\n 1 \r\n 1 \r\nPanel 3\r\n##StartDesc##\r\nShale roof\r\n"
+                                         "Water\r\n##EndDesc##\r\n45\r\n"));
+  EXPECT_EQ(project.program.ProjectDescription, "Shale roof\r\nWater");
+}
+
+TEST(ProjectWriter, NumbersAreGeneralTextWithAPoint) {
+  NewProject project;
+  ProjectRecord& record = project.program.WorkParms;
+  record.DepthofCover = 12.5F;
+  record.UnitWeight = 0.7F;
+  record.ActualSpanDiagonals = 1.0F / 30;
+  record.EntryWidth = -0.0F;
+  record.StabilityFactor = 1E7F;
+  record.CMRR = -3;
+
+  const std::string bytes = ProjectFileBytes(project.program);
+
+  EXPECT_EQ(DataLine(bytes, 1), "-3");
+  EXPECT_EQ(DataLine(bytes, 5), "12.5");
+  EXPECT_EQ(DataLine(bytes, 6), "0.7");
+  EXPECT_EQ(DataLine(bytes, 7), "3.333334E-02");
+  EXPECT_EQ(DataLine(bytes, 8), "0");
+  EXPECT_EQ(DataLine(bytes, 12), "1E+07");
+}
+
+TEST(ProjectWriter, TheLastTwoLinesArePadded) {
+  NewProject project;
+  project.program.WorkParms.CostProduction = 0;
+  project.program.WorkParms.CostAdvance = -1;
+
+  const std::string bytes = ProjectFileBytes(project.program);
+
+  EXPECT_EQ(DataLine(bytes, 121), " 0 ");
+  EXPECT_EQ(DataLine(bytes, 122), "-1 ");
+  EXPECT_TRUE(bytes.ends_with("\r\n 0 \r\n-1 \r\n"));
+}
+
+TEST(ProjectWriter, BothSupportModesAreWritten) {
+  NewProject project;
+  project.program.WorkParms.SupportTypeModeSecEntry = 0;
+  project.program.WorkParms.SupportTypeModeSecInter = 1;
+
+  const std::string bytes = ProjectFileBytes(project.program);
+
+  EXPECT_EQ(DataLine(bytes, 59), "0");
+  EXPECT_EQ(DataLine(bytes, 95), "1");
+}
+
+TEST(ProjectWriter, ComputedFieldsAreNotInTheFile) {
+  NewProject project;
+  project.program.WorkParms.RockLoadEntry1 = 98765;
+  project.program.WorkParms.StabFactorInter4 = 98765;
+  project.program.WorkParms.SupportCapEntry2 = 98765;
+
+  EXPECT_EQ(ProjectFileBytes(project.program), ReadTestData("projects/new_english.orb"));
+}
+
+TEST(ProjectWriter, TextsAreWrittenRaw) {
+  NewProject project;
+  project.program.WorkParms.BoltDescPrimary = " Rebar, \"no. 6\" ";
+  project.program.WorkParms.SupportTypeNameSecInter = "Crib, 4-point";
+
+  const std::string bytes = ProjectFileBytes(project.program);
+
+  EXPECT_EQ(DataLine(bytes, 18), " Rebar, \"no. 6\" ");
+  EXPECT_EQ(DataLine(bytes, 96), "Crib, 4-point");
+}
+
+TEST(ProjectWriter, WesternTextsAreWrittenInTheCodePage) {
+  NewProject project;
+  project.program.ProjectTitle =
+      "Gr\xC3\xBC"
+      "be";
+  project.program.ProjectDescription = "5 \xE2\x82\xAC";
+
+  project.Save();
+
+  EXPECT_THAT(project.File(), HasSubstr("\r\nGr\xFC"
+                                        "be\r\n##StartDesc##\r\n5 \x80\r\n##EndDesc##\r\n"));
+}
+
+TEST(ProjectWriter, OneCharacterOutsideTheCodePageMakesTheWholeFileUtf8) {
+  NewProject project;
+  project.program.ProjectTitle =
+      "Gr\xC3\xBC"
+      "be";
+  project.program.WorkParms.SupportTypeNameSecInter = "\xE6\x94\xAF\xE6\x9F\xB1";
+
+  project.Save();
+
+  EXPECT_THAT(project.File(), HasSubstr("\r\nGr\xC3\xBC"
+                                        "be\r\n"));
+  EXPECT_THAT(project.File(), HasSubstr("\r\n\xE6\x94\xAF\xE6\x9F\xB1\r\n"));
+  EXPECT_EQ(project.File(), ProjectFileBytes(project.program));
+}
+
+TEST(ProjectWriter, TheTargetIsEmptiedAtOnce) {
+  NewProject project;
+  project.program.FileSaved = false;
+  project.File() = "an older project";
+  project.platform.files.Fail(Step::Write, error_number::DiskFull);
+  bool ok = true;
+
+  EXPECT_EQ(ErrorNumberOf([&] { FileSave(project.program, ok); }), 61);
+
+  EXPECT_EQ(project.File(), "");
+  EXPECT_FALSE(ok);
+  EXPECT_FALSE(project.program.FileSaved);
+}
+
+TEST(ProjectWriter, AFailureOnTheWayLeavesAShortFile) {
+  NewProject project;
+  project.platform.files.Fail(Step::Write, error_number::DiskFull, 2);
+  bool ok = true;
+
+  EXPECT_EQ(ErrorNumberOf([&] { FileSave(project.program, ok); }), 61);
+
+  EXPECT_EQ(project.File(), "ORBY_105\r\n 0 \r\n 0 \r\n 0 \r\n\r\n##StartDesc##\r\n\r\n##EndDesc##\r\n");
+  EXPECT_FALSE(ok);
+}
+
+TEST(ProjectWriter, AHeaderThatCannotBeWrittenLeavesTheDescriptionAsTyped) {
+  NewProject project;
+  project.program.ProjectDescription = "Shale\r\n\r\nWater";
+  project.platform.files.Fail(Step::Write, error_number::DiskFull);
+
+  EXPECT_EQ(ErrorNumberOf([&] { project.Save(); }), 61);
+
+  EXPECT_EQ(project.program.ProjectDescription, "Shale\r\n\r\nWater");
+}
+
+TEST(ProjectWriter, AFileThatCannotBeClosedIsNotSaved) {
+  NewProject project;
+  project.program.FileSaved = false;
+  project.platform.files.Fail(Step::Close, error_number::DiskFull);
+
+  EXPECT_EQ(ErrorNumberOf([&] { project.Save(); }), 61);
+
+  EXPECT_FALSE(project.program.FileSaved);
+}
+
+TEST(ProjectWriter, ATemporaryFileThatFailsDoesNotStopTheSave) {
+  NewProject project;
+  project.program.ProjectDescription = "Shale\r\n\r\nWater";
+  project.platform.files.Fail(Step::Read, error_number::PermissionDenied);
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_THAT(project.File(), HasSubstr("##StartDesc##\r\nShale\r\n\r\nWater\r\n##EndDesc##\r\n"));
+}
+
+TEST(ProjectWriter, TheTargetIsOpenedBeforeTheTemporaryFile) {
+  NewProject project;
+  project.program.ProjectDescription = "Shale";
+
+  project.Save();
+
+  EXPECT_THAT(project.platform.files.created, ElementsAre(ProjectPath, TemporaryDescription));
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,176 @@
+#include "files/save_command.h"
+
+#include <gmock/gmock.h>
+
+#include "project_fixture.h"
+#include "support/test_data.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using Step = MemoryFiles::Step;
+
+TEST(SaveCommand, ANamedProjectIsSavedWithoutAQuestion) {
+  TestProject project;
+  FileNew(project.program, false, true);
+
+  EXPECT_TRUE(FileMenuSave(project.program, false));
+
+  EXPECT_THAT(project.platform.fileDialogs.asked, IsEmpty());
+  EXPECT_EQ(project.File(), ReadTestData("projects/new_english.orb"));
+}
+
+class NamelessProject : public testing::TestWithParam<const char*> {};
+
+TEST_P(NamelessProject, IsAskedForItsName) {
+  TestProject project;
+  project.program.CurrentFile = GetParam();
+  project.platform.fileDialogs.answers = {"/designs/named.orb"};
+
+  EXPECT_TRUE(FileMenuSave(project.program, false));
+
+  EXPECT_EQ(project.program.CurrentFile, "/designs/named.orb");
+  EXPECT_TRUE(project.platform.files.files.contains("/designs/named.orb"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, NamelessProject, testing::Values("", "Untitled", "UNTITLED", "untitled"));
+
+TEST(SaveCommand, SaveAsOffersTheBareNameInTheDataFolder) {
+  TestProject project;
+  project.program.settings.DataPath = "/home/designs/";
+  project.platform.fileDialogs.answers = {"/designs/copy.orb"};
+
+  EXPECT_TRUE(FileMenuSave(project.program, true));
+
+  ASSERT_EQ(project.platform.fileDialogs.asked.size(), 1U);
+  const FileQuestion& question = project.platform.fileDialogs.asked.front();
+  EXPECT_EQ(question.fileName, "panel3.orb");
+  EXPECT_EQ(question.folder, "/home/designs");
+  EXPECT_EQ(question.filterName, "Orby Roof Support Workbench (*.ORB)");
+  EXPECT_EQ(question.defaultExtension, "ORB");
+  EXPECT_EQ(project.program.CurrentFile, "/designs/copy.orb");
+  EXPECT_THAT(project.platform.files.created, ElementsAre("/designs/copy.orb"));
+}
+
+TEST(SaveCommand, TheFilterTakesTheConfiguredExtension) {
+  TestProject project;
+  project.program.settings.FileExtension = "RSW";
+  project.program.settings.DataPath = "D:\\mine\\";
+  project.platform.fileDialogs.answers = {"/designs/copy.rsw"};
+
+  AskFileName(project.program, FileDialogMode::Open);
+
+  const FileQuestion& question = project.platform.fileDialogs.asked.front();
+  EXPECT_EQ(question.filterName, "Orby Roof Support Workbench (*.RSW)");
+  EXPECT_EQ(question.defaultExtension, "RSW");
+  EXPECT_EQ(question.folder, "D:\\mine");
+}
+
+TEST(SaveCommand, ABlankNameIsNotOffered) {
+  TestProject project;
+  project.program.CurrentFile = "  ";
+  project.platform.fileDialogs.answers = {"/designs/named.orb"};
+
+  AskFileName(project.program, FileDialogMode::Save);
+
+  EXPECT_EQ(project.platform.fileDialogs.asked.front().fileName, "");
+}
+
+TEST(SaveCommand, ACancelledDialogSavesNothingAndIsOnlyLogged) {
+  TestProject project;
+
+  EXPECT_FALSE(FileMenuSave(project.program, true));
+
+  EXPECT_EQ(project.program.CurrentFile, ProjectPath);
+  EXPECT_THAT(project.platform.files.created, IsEmpty());
+  EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
+  EXPECT_EQ(project.program.history.Text, "1. Cancel was selected.\r\n");
+}
+
+TEST(SaveCommand, AskingThrowsTheCancelErrorForTheCallersTrap) {
+  TestProject project;
+
+  EXPECT_EQ(ErrorNumberOf([&] { AskFileName(project.program, FileDialogMode::Open); }), 32755);
+}
+
+struct FailingStep {
+  Step step;
+  int after;
+  const char* shortFile;  // what is left of the target
+};
+
+class FailingSave : public testing::TestWithParam<FailingStep> {};
+
+TEST_P(FailingSave, IsToldAndGivenUpOnCancel) {
+  TestProject project;
+  FileNew(project.program, false, true);
+  project.program.FileSaved = false;
+  project.platform.files.Fail(GetParam().step, error_number::DiskFull, GetParam().after);
+  project.platform.boxes.answers = {box_result::Cancel};
+
+  EXPECT_FALSE(FileMenuSave(project.program, false));
+
+  EXPECT_THAT(project.platform.boxes.Texts(), ElementsAre("Error occurred: Disk full (61)"));
+  EXPECT_EQ(project.platform.boxes.shown.front().style, box_style::RetryCancel);
+  EXPECT_FALSE(project.program.FileSaved);
+  EXPECT_FALSE(project.platform.windows.waitCursor);
+  EXPECT_EQ(project.File(), GetParam().shortFile == nullptr ? ReadTestData("projects/new_english.orb")
+                                                            : std::string(GetParam().shortFile));
+}
+
+// The user makes room on the disk before answering.
+class MendingBoxes : public MessageBoxes {
+ public:
+  MendingBoxes(MemoryFiles& filesGiven, Step stepGiven) : files(filesGiven), step(stepGiven) {}
+
+  int Show(const MessageBox&) override {
+    constexpr int Never = 1'000'000;
+    ++shown;
+    files.Fail(step, error_number::DiskFull, Never);
+    return box_result::Retry;
+  }
+
+  MemoryFiles& files;
+  Step step;
+  int shown = 0;
+};
+
+TEST_P(FailingSave, StartsOverOnRetry) {
+  RecordingPlatform platform;
+  MendingBoxes boxes(platform.files, GetParam().step);
+  Program program({boxes, platform.files, platform.fileDialogs, platform.windows, platform.fonts, platform.locale});
+  program.catalogs.StandSupports = {0, {"Four-point timber crib"}, {}};
+  program.CurrentFile = ProjectPath;
+  FileNew(program, false, true);
+  program.FileSaved = false;
+  platform.files.Fail(GetParam().step, error_number::DiskFull, GetParam().after);
+
+  EXPECT_TRUE(FileMenuSave(program, false));
+
+  EXPECT_EQ(boxes.shown, 1);
+  EXPECT_TRUE(program.FileSaved);
+  EXPECT_FALSE(platform.windows.waitCursor);
+  EXPECT_EQ(platform.files.files[ProjectPath], ReadTestData("projects/new_english.orb"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    EachStep, FailingSave,
+    testing::Values(FailingStep{Step::Create, 0, ""}, FailingStep{Step::Write, 0, ""},
+                    FailingStep{Step::Write, 1, "ORBY_105\r\n 0 \r\n 0 \r\n 0 \r\n\r\n"},
+                    FailingStep{Step::Write, 2,
+                                "ORBY_105\r\n 0 \r\n 0 \r\n 0 \r\n\r\n##StartDesc##\r\n\r\n##EndDesc##\r\n"},
+                    FailingStep{Step::Close, 0, nullptr}));
+
+TEST(SaveCommand, APathThatCannotBeWrittenIsTerminatedWithoutARetry) {
+  TestProject project;
+  project.platform.files.Fail(Step::Create, error_number::PathNotFound);
+
+  EXPECT_FALSE(FileMenuSave(project.program, false));
+
+  EXPECT_THAT(project.platform.boxes.Texts(), ElementsAre("Error occurred: Path not found (76). Procedure Terminated"));
+}
+
+}  // namespace
+}  // namespace orby::test
