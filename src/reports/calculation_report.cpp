@@ -1,0 +1,23 @@
+#include "reports/calculation_report.h"
+
+#include "reports/primary_report.h"
+#include "reports/report_text.h"
+#include "reports/secondary_report.h"
+#include "reports/support_fields.h"
+#include "reports/working_values.h"
+
+namespace orby {
+
+void CalculationReport(Program& program) {
+  const ProjectRecord& record = program.WorkParms;
+  const WorkingValues working = BuildWorkingValues(program);
+  ReportText page(program.Units);
+  page.Line("[ORBY CALCULATIONS]");
+  if (record.PrimSupport == 1) ReportPrimarySupport(page, program, working);
+  if (record.*EntrySupport.Analysed == 1) ReportEntrySupport(page, program, working);
+  if (record.*IntersectionSupport.Analysed == 1) ReportIntersectionSupport(page, program, working);
+  program.OutBuf[1] = page.Take();
+  program.LastPage = 1;
+}
+
+}  // namespace orby

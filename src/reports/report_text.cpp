@@ -1,0 +1,40 @@
+#include "reports/report_text.h"
+
+#include <utility>
+
+#include "base/text.h"
+#include "core/units.h"
+
+namespace orby {
+namespace {
+
+constexpr std::size_t UsualPageSize = 8192;
+
+std::string_view UnitText(int unit, Integer units) {
+  if (unit == report_unit::None) return {};
+  if (unit == report_unit::Degrees) return " (deg)";
+  return UnitLabel(unit, units);
+}
+
+}  // namespace
+
+ReportText::ReportText(Integer projectUnits) : units(projectUnits) { page.reserve(UsualPageSize); }
+
+void ReportText::Line(std::string_view text) {
+  page += text;
+  page += LineEnd;
+}
+
+void ReportText::Value(std::string_view label, std::string_view value, int unit) {
+  page += PadDots(label, ReportWidth);
+  page += value;
+  Line(UnitText(unit, units));
+}
+
+void ReportText::Words(std::string_view label, std::string_view text) { Line(DotLeader(label, text, ReportWidth)); }
+
+void ReportText::Wrapped(std::string_view text, std::size_t width) { Line(WordWrapText(text, width)); }
+
+std::string ReportText::Take() { return std::exchange(page, {}); }
+
+}  // namespace orby

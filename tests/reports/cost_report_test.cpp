@@ -1,0 +1,114 @@
+#include "reports/cost_report.h"
+
+#include <gtest/gtest.h>
+
+#include "reports/designs.h"
+#include "support/test_data.h"
+
+namespace orby::test {
+namespace {
+
+// The desk of a new English design whose costs are those that the cost dialog opens with.
+struct CostDesk : Desk {
+  CostDesk() { Costs() = program.WorkParms.Cost(); }
+  CostGroup& Costs() { return program.WorkParmsCopy.Cost(); }
+  std::string Page() {
+    EXPECT_TRUE(CostReport(program));
+    return program.OutBuf[1];
+  }
+  // The row that starts with the label.
+  std::string Row(std::string_view label) {
+    for (const std::string& line : LinesOf(Page())) {
+      if (line.starts_with(label)) return line;
+    }
+    return "no such row";
+  }
+};
+
+TEST(CostReport, EnglishDefaults) {
+  CostDesk desk;
+
+  EXPECT_EQ(desk.Page(), ReadTestData("reports/cost_english_defaults.txt"));
+}
+
+TEST(CostReport, AllInputsZeroGivesATableOfZeros) {
+  CostDesk desk;
+  desk.Costs() = {};
+
+  EXPECT_EQ(desk.Page(), ReadTestData("reports/cost_all_zero.txt"));
+}
+
+TEST(CostReport, ReplacesTheCalculationsAndBecomesTheLastPage) {
+  CostDesk desk;
+  desk.program.OutBuf[0] = "the inputs";
+  desk.program.OutBuf[1] = "the calculations";
+  desk.program.LastPage = 4;
+
+  const std::string page = desk.Page();
+
+  EXPECT_EQ(page.find("the calculations"), std::string::npos);
+  EXPECT_EQ(desk.program.OutBuf[0], "the inputs");
+  EXPECT_EQ(desk.program.LastPage, 1);
+}
+
+TEST(CostReport, ShowsTheCostsAsEditedNotAsCommitted) {
+  CostDesk desk;
+  desk.program.WorkParms.CostBoltCost = 100;
+
+  EXPECT_EQ(desk.Row("TOTAL COST:"), "TOTAL COST:                  9.22      9.22   2766.17      2.31");
+}
+
+TEST(CostReport, NoRowSpacingLeavesCostsPerFootAndPerTonAtZero) {
+  CostDesk desk;
+  desk.Costs().CostRowSpacing = 0;
+
+  EXPECT_EQ(desk.Row("Consumables Cost:"), "Consumables Cost:            5.72      0.00   1717.00      0.00");
+  EXPECT_EQ(desk.Row("TOTAL COST:"), "TOTAL COST:                  9.22      0.00   2766.17      0.00");
+}
+
+TEST(CostReport, NoShiftsLeavesMaintenanceAndOwnershipAtZero) {
+  CostDesk desk;
+  desk.Costs().CostShiftsWeek = 0;
+
+  EXPECT_EQ(desk.Row("Maintenance Cost:"), "Maintenance Cost:            0.00      0.00      0.00      0.00");
+  EXPECT_EQ(desk.Row("Transportation Cost:"), "Transportation Cost:         0.33      0.33    100.00      0.08");
+  EXPECT_EQ(desk.Row("Machine Ownership Cost:"), "Machine Ownership Cost:      0.00      0.00      0.00      0.00");
+}
+
+TEST(CostReport, NoYearsOfDepreciationLeavesOwnershipAloneAtZero) {
+  CostDesk desk;
+  desk.Costs().CostYearsDepr = 0;
+
+  EXPECT_EQ(desk.Row("Maintenance Cost:"), "Maintenance Cost:            0.19      0.19     55.83      0.05");
+  EXPECT_EQ(desk.Row("Machine Ownership Cost:"), "Machine Ownership Cost:      0.00      0.00      0.00      0.00");
+}
+
+TEST(CostReport, TheAdvanceFieldsOfTheDialogTakeNoPart) {
+  CostDesk desk;
+  const std::string before = desk.Page();
+
+  desk.Costs().CostAdvance = 0;
+  desk.Costs().CostAdvanceShift = 77;
+
+  EXPECT_EQ(desk.Page(), before);
+}
+
+TEST(CostReport, AFigureWiderThanItsColumnStandsUncut) {
+  CostDesk desk;
+  desk.Costs().CostBoltCost = 0;
+  desk.Costs().CostTranspCost = 123456792;
+
+  EXPECT_EQ(desk.Row("Transportation Cost:"), "Transportation Cost:    411522.60 411522.60123456800.00 102880.70");
+}
+
+TEST(CostReport, AFigureBeyondASingleEndsTheReportAndKeepsThePage) {
+  CostDesk desk;
+  desk.program.OutBuf[1] = "as it was";
+  desk.Costs().CostTotalLabor = 3e38F;
+
+  EXPECT_EQ(ErrorNumberOf([&] { CostReport(desk.program); }), 6);
+  EXPECT_EQ(desk.program.OutBuf[1], "as it was");
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,61 @@
+#include "reports/designs.h"
+
+#include "base/text.h"
+#include "catalogs/catalogs.h"
+#include "files/new_project.h"
+
+namespace orby::test {
+
+Desk::Desk(Integer units, Integer strengthMode) : program(machine.Doors()) {
+  SetBuiltInCatalogs(program.catalogs);
+  program.settings.UnitsDefault = units;
+  program.settings.BoltGradeAsUltimateDefault = strengthMode;
+  FileNew(program, true, true);
+}
+
+void PickBolt(ProjectRecord& record, Single diameter, Single grade) {
+  for (const BoltFields* set : {&PrimaryBolt, &SecEntryBolt, &SecInterBolt}) {
+    record.*set->Options = 1;
+    record.*set->DiameterMode = 0;
+    record.*set->DiameterStd = diameter;
+    record.*set->GradeMode = 0;
+    record.*set->GradeStd = grade;
+  }
+}
+
+void UseEverySystem(ProjectRecord& record) {
+  record.SecEntryUseCable = record.SecEntryUseTruss = record.SecEntryUseBolt = record.SecEntryUseStanding = 1;
+  record.SecInterUseCable = record.SecInterUseTruss = record.SecInterUseBolt = record.SecInterUseStanding = 1;
+}
+
+std::vector<std::string> LinesOf(const std::string& page) {
+  std::vector<std::string> lines;
+  std::size_t start = 0;
+  for (std::size_t end = page.find(LineEnd); end != std::string::npos; end = page.find(LineEnd, start)) {
+    lines.push_back(page.substr(start, end - start));
+    start = end + LineEnd.size();
+  }
+  if (start < page.size()) lines.push_back(page.substr(start));
+  return lines;
+}
+
+std::string ValueOf(const std::string& page, std::string_view label) {
+  const std::string start = PadDots(label, 58);
+  for (const std::string& line : LinesOf(page)) {
+    if (line.starts_with(start)) return line.substr(start.size());
+  }
+  return "no such line";
+}
+
+std::vector<std::string> SectionOf(const std::string& page, std::string_view heading) {
+  std::vector<std::string> section;
+  bool inside = false;
+  for (const std::string& line : LinesOf(page)) {
+    if (inside && line.starts_with("[") && !line.starts_with("[Warning")) break;
+    if (inside) section.push_back(line);
+    if (line == heading) inside = true;
+  }
+  return section;
+}
+
+}  // namespace orby::test

@@ -1,0 +1,35 @@
+#include <gtest/gtest.h>
+
+#include "reports/calculation_report.h"
+#include "reports/golden_designs.h"
+#include "reports/input_echo.h"
+#include "support/test_data.h"
+
+namespace orby::test {
+namespace {
+
+class GoldenPages : public testing::TestWithParam<std::string> {};
+
+TEST_P(GoldenPages, TheInputPageIsToTheLetter) {
+  Desk desk(GoldenUnits(GetParam()), GoldenStrengthMode(GetParam()));
+  BuildGolden(desk, GetParam());
+
+  LoadOutBuf0(desk.program);
+
+  EXPECT_EQ(desk.program.OutBuf[0], ReadTestData("reports/" + GetParam() + "_input.txt"));
+}
+
+TEST_P(GoldenPages, TheCalculationPageIsToTheLetter) {
+  Desk desk(GoldenUnits(GetParam()), GoldenStrengthMode(GetParam()));
+  BuildGolden(desk, GetParam());
+
+  CalculationReport(desk.program);
+
+  EXPECT_EQ(desk.program.OutBuf[1], ReadTestData("reports/" + GetParam() + "_calculations.txt"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Designs, GoldenPages, testing::ValuesIn(GoldenNames()),
+                         [](const auto& golden) { return golden.param; });
+
+}  // namespace
+}  // namespace orby::test

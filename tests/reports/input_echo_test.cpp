@@ -1,0 +1,293 @@
+#include "reports/input_echo.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "reports/designs.h"
+
+namespace orby::test {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
+
+std::string InputPage(Desk& desk) {
+  LoadOutBuf0(desk.program);
+  return desk.program.OutBuf[0];
+}
+
+// The lines from the project file on up to the next empty line.
+std::vector<std::string> FileLines(Desk& desk) {
+  const std::vector<std::string> lines = LinesOf(InputPage(desk));
+  std::vector<std::string> file;
+  for (std::size_t i = 1; i < lines.size() && !lines[i].empty(); ++i) file.push_back(lines[i]);
+  return file;
+}
+
+std::vector<std::string> Geology(Desk& desk) { return SectionOf(InputPage(desk), "[GEOLOGY PARAMETERS]"); }
+
+TEST(InputEcho, WithoutTheHeaderThePageStartsWithTheTitle) {
+  Desk desk;
+  desk.program.settings.PrintModuleHeader = 0;
+
+  EXPECT_THAT(InputPage(desk), StartsWith("[PROJECT TITLE]\r\n"));
+}
+
+TEST(InputEcho, OnlyTheSettingOnePrintsTheHeader) {
+  Desk desk;
+  desk.program.settings.PrintModuleHeader = 2;
+
+  EXPECT_THAT(InputPage(desk), StartsWith("[PROJECT TITLE]\r\n"));
+}
+
+TEST(InputEcho, ALongFileNameWrapsAtItsBlanks) {
+  Desk desk;
+  desk.program.CurrentFile = "/designs/cedar hollow/north mains/crosscut nine/belt entry under the old works.ORB";
+
+  EXPECT_THAT(FileLines(desk), ElementsAre("Project File: /designs/cedar hollow/north mains/crosscut nine/belt",
+                                           "entry under the old works.ORB"));
+}
+
+TEST(InputEcho, ALongFileNameWithoutBlanksIsCutToItsEnd) {
+  Desk desk;
+  desk.program.CurrentFile = "/designs/cedar_hollow/north_mains/crosscut_nine/belt_entry_under_the_old_works.ORB";
+
+  EXPECT_THAT(FileLines(desk),
+              ElementsAre("Project File:", "...hollow/north_mains/crosscut_nine/belt_entry_under_the_old_works.ORB"));
+}
+
+TEST(InputEcho, WithAllAnalysesOffThePageEndsBehindTheOptions) {
+  Desk desk;
+  desk.program.WorkParms.PrimSupport = 0;
+  desk.program.WorkParms.SecondSupEntries = 0;
+  desk.program.WorkParms.SecondSupInter = 0;
+
+  const std::string page = InputPage(desk);
+
+  EXPECT_TRUE(page.ends_with("Analysis of Secondary Support: Intersections............NO\r\n\r\n\r\n"));
+}
+
+TEST(InputEcho, TheUseOfASystemIsOneAndNothingElse) {
+  Desk desk;
+  desk.program.WorkParms.SecEntryUseTruss = 2;
+  desk.program.WorkParms.SecondSupInter = 2;
+
+  const std::string page = InputPage(desk);
+
+  EXPECT_THAT(LinesOf(page), Contains("Analysis of Secondary Support: Intersections............NO"));
+  EXPECT_THAT(SectionOf(page, "[SECONDARY ENTRY SUPPORT - TRUSSES]"), IsEmpty());
+  EXPECT_THAT(LinesOf(page), Not(Contains("[SECONDARY INTERSECTION SUPPORT]")));
+}
+
+TEST(InputEcho, IntersectionsAloneStillStandBehindAnEmptyLine) {
+  Desk desk;
+  desk.program.WorkParms.PrimSupport = 0;
+  desk.program.WorkParms.SecondSupEntries = 0;
+
+  EXPECT_NE(InputPage(desk).find("...YES\r\n\r\n\r\n\r\n[SECONDARY INTERSECTION SUPPORT]\r\n"), std::string::npos);
+}
+
+TEST(InputEcho, ARatingTypedByHandNamesNeitherRegionNorRock) {
+  Desk desk;
+  desk.program.WorkParms.CMRRManual = 1;
+
+  EXPECT_THAT(Geology(desk),
+              ElementsAre("CMRR......................................................45",
+                          "CMRR Region...............................Manual Selection",
+                          "CMRR Rock Type............................Manual Selection",
+                          "Depth of Cover............................................400 (ft)",
+                          "Unit Weight of Rock.......................................162 (pcf)", "", ""));
+}
+
+TEST(InputEcho, ARegionOutsideTheTableHasNoRowsAtAll) {
+  for (const Integer region : std::array<Integer, 2>{-1, 6}) {
+    Desk desk;
+    desk.program.WorkParms.CMRRRegionIndex = region;
+
+    EXPECT_THAT(Geology(desk),
+                ElementsAre("CMRR......................................................45",
+                            "Depth of Cover............................................400 (ft)",
+                            "Unit Weight of Rock.......................................162 (pcf)", "", ""));
+  }
+}
+
+TEST(InputEcho, ARockTypeOutsideTheTableHasNoRow) {
+  for (const Integer rockType : std::array<Integer, 2>{-1, 8}) {
+    Desk desk;
+    desk.program.WorkParms.CMRRRegionIndex = 5;
+    desk.program.WorkParms.CMRRRockTypeIndex = rockType;
+
+    const auto geology = Geology(desk);
+
+    EXPECT_THAT(geology, Contains("CMRR Region..................................Other Western"));
+    EXPECT_THAT(geology, Not(Contains(StartsWith("CMRR Rock Type"))));
+  }
+}
+
+TEST(InputEcho, TheEighthRockTypeOfARegionWithSevenHasNoName) {
+  Desk desk;
+  desk.program.WorkParms.CMRRRegionIndex = 5;
+  desk.program.WorkParms.CMRRRockTypeIndex = 7;
+
+  EXPECT_THAT(Geology(desk), Contains("CMRR Rock Type............................................"));
+}
+
+TEST(InputEcho, ANewProjectHasNoBoltYet) {
+  Desk desk;
+
+  EXPECT_THAT(SectionOf(InputPage(desk), "[PRIMARY SUPPORT - ROOF BOLTS]"),
+              ElementsAre("Roof Bolt Length..........................................6 (ft)",
+                          "Number of Roof Bolts per Row..............................4",
+                          "Roof Bolt Row Spacing.....................................4 (ft)",
+                          "Target Stability Factor...................................1",
+                          "Roof Bolt Option................Select from Standard Table",
+                          "Bolt Description..........................................",
+                          "Roof Bolt Diameter........................................0 (in)",
+                          "Roof Bolt Grade...........................................0 (ksi)",
+                          "Roof Bolt Yield Capacity..................................0.0 (tons)",
+                          "Roof Bolt Ultimate Capacity...............................0.0 (tons)", "", ""));
+}
+
+TEST(InputEcho, ABoltTypedByHandIsTheTypedOne) {
+  Desk desk;
+  ProjectRecord& record = desk.program.WorkParms;
+  PickBolt(record, 0.75F, 75);
+  record.BoltDiameterModePrimary = 1;
+  record.BoltDiameterManualPrimary = 1.125F;
+  record.BoltGradeModePrimary = 1;
+  record.BoltGradeManualPrimary = 62.5F;
+
+  const std::string page = InputPage(desk);
+
+  // 62.5 x 0.99402 / 2 and (0.9 x 62.5 + 35) x 0.99402 / 2
+  EXPECT_EQ(ValueOf(page, "Roof Bolt Diameter"), "1.125 (in)");
+  EXPECT_EQ(ValueOf(page, "Roof Bolt Grade"), "62.5 (ksi)");
+  EXPECT_EQ(ValueOf(page, "Roof Bolt Yield Capacity"), "31.1 (tons)");
+  EXPECT_EQ(ValueOf(page, "Roof Bolt Ultimate Capacity"), "45.4 (tons)");
+}
+
+TEST(InputEcho, AnUnknownBoltOptionReadsManualButTakesTheTableRow) {
+  Desk desk;
+  ProjectRecord& record = desk.program.WorkParms;
+  record.BoltOptionsPrimary = 2;
+  record.BoltTableDiameterPrimary = 0.625F;
+  record.BoltTableGradePrimary = 60;
+
+  const std::string page = InputPage(desk);
+
+  EXPECT_THAT(LinesOf(page), Contains("Roof Bolt Option..........................Manual Selection"));
+  EXPECT_EQ(ValueOf(page, "Roof Bolt Diameter"), "0.625 (in)");
+  EXPECT_EQ(ValueOf(page, "Roof Bolt Grade"), "60 (ksi)");
+}
+
+TEST(InputEcho, ALongBoltDescriptionJoinsItsLabelWithoutADot) {
+  Desk desk;
+  desk.program.WorkParms.BoltDescPrimary = "fully grouted rebar, grade 60, M22 threads";
+
+  EXPECT_THAT(LinesOf(InputPage(desk)), Contains("Bolt Descriptionfully grouted rebar, grade 60, M22 threads"));
+}
+
+TEST(InputEcho, MetricGradesMeantAsUltimateStrengthsDifferBetweenPrimaryAndSecondaryBolts) {
+  Desk desk(Metric, 1);
+  ProjectRecord& record = desk.program.WorkParms;
+  PickBolt(record, 20, 690);
+  UseEverySystem(record);
+
+  const std::string page = InputPage(desk);
+
+  const auto capacities = [&](std::string_view heading) {
+    const auto rows = SectionOf(page, heading);
+    std::vector<std::string> found;
+    for (const auto& row : rows) {
+      if (row.starts_with("Roof Bolt Yield") || row.starts_with("Roof Bolt Ultimate")) found.push_back(row.substr(58));
+    }
+    return found;
+  };
+  EXPECT_THAT(capacities("[PRIMARY SUPPORT - ROOF BOLTS]"), ElementsAre("157 (kN)", "217 (kN)"));
+  EXPECT_THAT(capacities("[SECONDARY ENTRY SUPPORT - ROOF BOLTS]"), ElementsAre("-340 (kN)", "-230 (kN)"));
+  EXPECT_THAT(capacities("[SECONDARY INTERSECTION SUPPORT - ROOF BOLTS]"), ElementsAre("-340 (kN)", "-230 (kN)"));
+}
+
+TEST(InputEcho, TheCapacityOfACableIsTheSelectedFieldEvenWhenItGoesByTheDiameter) {
+  Desk desk;
+  ProjectRecord& record = desk.program.WorkParms;
+  record.SecondSupInter = 0;
+  record.CableCapacitySecEntry = 1;
+  record.CableCapacityStdSecEntry = 26.4F;
+  record.CableCapacityManualSecEntry = 29.5F;
+
+  const std::string page = InputPage(desk);
+
+  EXPECT_EQ(ValueOf(page, "Cable Bolt Diameter"), "0.6 (in)");
+  EXPECT_EQ(ValueOf(page, "Cable Bolt Capacity"), "29.5 (tons)");
+}
+
+TEST(InputEcho, ACableOfGivenCapacityHasNoDiameter) {
+  Desk desk;
+  ProjectRecord& record = desk.program.WorkParms;
+  record.SecondSupInter = 0;
+  record.CableCapModeSecEntry = 1;
+
+  const std::string page = InputPage(desk);
+
+  EXPECT_EQ(ValueOf(page, "Cable Bolt Diameter"), "no such line");
+  EXPECT_EQ(ValueOf(page, "Cable Bolt Capacity"), "27 (tons)");
+}
+
+TEST(InputEcho, MakingAReportTidiesTheDescriptionOfTheProject) {
+  Desk desk;
+  desk.program.ProjectDescription = "Belt entry\r\n\r\nReturn entry\r\n";
+
+  const std::string page = InputPage(desk);
+
+  EXPECT_EQ(desk.program.ProjectDescription, "Belt entry\r\nReturn entry");
+  EXPECT_EQ(desk.program.DescLines, 4);
+  EXPECT_NE(page.find("[PROJECT DESCRIPTION]\r\nBelt entry\r\nReturn entry\r\n\r\n[GEOLOGY"), std::string::npos);
+}
+
+TEST(InputEcho, ADescriptionThatCannotBeTidiedIsPrintedAsItStands) {
+  Desk desk;
+  desk.program.ProjectDescription = "Belt entry\r\n\r\nReturn entry";
+  desk.machine.files.Fail(MemoryFiles::Step::Create, 61);
+
+  const std::string page = InputPage(desk);
+
+  EXPECT_NE(page.find("[PROJECT DESCRIPTION]\r\nBelt entry\r\n\r\nReturn entry\r\n\r\n[GEOLOGY"), std::string::npos);
+}
+
+TEST(InputEcho, RebuildsItsOwnPageAndLeavesTheOthers) {
+  Desk desk;
+  desk.program.OutBuf[0] = "yesterday's page";
+  desk.program.OutBuf[1] = "the calculations";
+  desk.program.LastPage = 4;
+
+  const std::string once = InputPage(desk);
+  const std::string twice = InputPage(desk);
+
+  EXPECT_THAT(once, StartsWith("ORBY module build: 201030\r\n"));
+  EXPECT_EQ(twice, once);
+  EXPECT_EQ(desk.program.OutBuf[1], "the calculations");
+  EXPECT_EQ(desk.program.LastPage, 4);
+}
+
+TEST(InputEcho, ShowsTheCommittedDesign) {
+  Desk desk;
+  desk.program.WorkParmsCopy.EntryWidth = 17;
+
+  EXPECT_EQ(ValueOf(InputPage(desk), "Entry Width"), "20 (ft)");
+}
+
+TEST(InputEcho, AUnitSystemThatDoesNotExistEndsTheReport) {
+  Desk desk;
+  desk.program.Units = 2;
+
+  EXPECT_EQ(ErrorNumberOf([&] { LoadOutBuf0(desk.program); }), 9);
+}
+
+}  // namespace
+}  // namespace orby::test

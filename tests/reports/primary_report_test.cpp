@@ -1,0 +1,312 @@
+#include "reports/primary_report.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "reports/calculation_report.h"
+#include "reports/designs.h"
+
+namespace orby::test {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsSupersetOf;
+using testing::Not;
+
+// A new design with the bolt that its defaults name, primary support alone.
+struct PrimaryDesk : Desk {
+  explicit PrimaryDesk(Integer units = English) : Desk(units) {
+    if (units == Metric) {
+      PickBolt(Parms(), 20, 520);
+    } else {
+      PickBolt(Parms(), 0.75F, 75);
+    }
+    Parms().SecondSupEntries = 0;
+    Parms().SecondSupInter = 0;
+  }
+  ProjectRecord& Parms() { return program.WorkParms; }
+  std::string Page() {
+    CalculationReport(program);
+    return program.OutBuf[1];
+  }
+  std::vector<std::string> Span() { return SectionOf(Page(), "[INTERSECTION SPAN INFORMATION]"); }
+  std::vector<std::string> Bolts() { return SectionOf(Page(), "[PRIMARY SUPPORT - ROOF BOLTS]"); }
+  std::vector<std::string> Design() { return SectionOf(Page(), "[ORBY DESIGN]"); }
+};
+
+TEST(CalculationReport, ReplacesItsPageAndMakesItTheLast) {
+  PrimaryDesk desk;
+  desk.program.OutBuf[0] = "the inputs";
+  desk.program.OutBuf[1] = "a cost table";
+  desk.program.LastPage = 4;
+
+  const std::string page = desk.Page();
+
+  EXPECT_TRUE(page.starts_with("[ORBY CALCULATIONS]\r\n"));
+  EXPECT_EQ(page.find("a cost table"), std::string::npos);
+  EXPECT_EQ(desk.program.OutBuf[0], "the inputs");
+  EXPECT_EQ(desk.program.LastPage, 1);
+}
+
+TEST(CalculationReport, WithEveryAnalysisOffHoldsItsHeadingAlone) {
+  PrimaryDesk desk;
+  desk.Parms().PrimSupport = 0;
+
+  EXPECT_EQ(desk.Page(), "[ORBY CALCULATIONS]\r\n");
+}
+
+TEST(CalculationReport, AnAnalysisIsOnWhenItsFlagIsOneAndNothingElse) {
+  PrimaryDesk desk;
+  desk.Parms().PrimSupport = 2;
+  desk.Parms().SecondSupEntries = -1;
+  desk.Parms().SecondSupInter = 2;
+
+  EXPECT_EQ(desk.Page(), "[ORBY CALCULATIONS]\r\n");
+}
+
+TEST(CalculationReport, JudgesTheCommittedDesign) {
+  PrimaryDesk desk;
+  desk.program.WorkParmsCopy.ActualSpanDiagonals = 90;
+
+  EXPECT_EQ(ValueOf(desk.Page(), "Actual Sum of Diagonals"), "60.0 (ft)");
+}
+
+TEST(SpanReport, ASpanThatFitsIsOK) {
+  PrimaryDesk desk;
+
+  EXPECT_THAT(desk.Span(), ElementsAre("Suggested Sum of Diagonals................................63.2 (ft)",
+                                       "Actual Sum of Diagonals...................................60.0 (ft)",
+                                       "Intersection Span: OK.", ""));
+}
+
+TEST(SpanReport, ASpanEqualToTheSuggestedOneIsOK) {
+  PrimaryDesk desk;
+  desk.Parms().ActualSpanDiagonals = 63.2F;
+
+  EXPECT_THAT(desk.Span(), Contains("Intersection Span: OK."));
+}
+
+TEST(SpanReport, ASpanThatIsTooLargeAloneLeavesAnEmptyLineBehindItsWarning) {
+  PrimaryDesk desk;
+  desk.Parms().ActualSpanDiagonals = 64;
+
+  EXPECT_THAT(desk.Span(),
+              ElementsAre("Suggested Sum of Diagonals................................63.2 (ft)",
+                          "Actual Sum of Diagonals...................................64.0 (ft)", "[Warning]",
+                          "Actual sum of diagonals exceeds suggested sum of diagonals.", "", ""));
+}
+
+TEST(SpanReport, AMismatchAloneIsAHeadingWithoutAMessage) {
+  PrimaryDesk desk;
+  desk.Parms().ActualSpanDiagonals = 32;
+
+  EXPECT_THAT(desk.Span(),
+              ElementsAre("Suggested Sum of Diagonals................................63.2 (ft)",
+                          "Actual Sum of Diagonals...................................32.0 (ft)", "[Warning]", ""));
+}
+
+TEST(SpanReport, TooLargeAndMismatchedGivesBothWarnings) {
+  PrimaryDesk desk;
+  desk.Parms().ActualSpanDiagonals = 64;
+  desk.Parms().EntryWidth = 43;
+
+  EXPECT_THAT(desk.Span(), ElementsAre("Suggested Sum of Diagonals................................63.2 (ft)",
+                                       "Actual Sum of Diagonals...................................64.0 (ft)",
+                                       "[Warnings]", "Actual sum of diagonals exceeds suggested sum of diagonals.",
+                                       "Intersection diagonals and entry width may not match.", ""));
+}
+
+TEST(SpanReport, AMetricSpanIsJudgedWithAMarginOfFourMetres) {
+  PrimaryDesk desk(Metric);
+  desk.Parms().ActualSpanDiagonals = 12.7F;
+
+  const auto narrow = desk.Span();
+  desk.Parms().ActualSpanDiagonals = 12.8F;
+  const auto wide = desk.Span();
+
+  // sqrt(2) x 6.2 m + 4 m = 12.77 m
+  EXPECT_THAT(narrow, Contains("[Warning]"));
+  EXPECT_THAT(wide, Contains("Intersection Span: OK."));
+}
+
+TEST(SpanReport, ALengthBelowOneHasNoZeroBeforeThePoint) {
+  PrimaryDesk desk;
+  desk.Parms().ActualSpanDiagonals = 0.5F;
+
+  EXPECT_EQ(ValueOf(desk.Page(), "Actual Sum of Diagonals"), ".5 (ft)");
+}
+
+TEST(SpanReport, ALengthOfZeroIsAPointAndAZero) {
+  PrimaryDesk desk;
+  desk.Parms().BoltLengthPrimary = 0;
+
+  EXPECT_EQ(ValueOf(desk.Page(), "Actual Roof Bolt Length"), ".0 (ft)");
+}
+
+TEST(BoltReport, ALengthBetweenTheSuggestedOneAndTwoFeetMoreIsOK) {
+  PrimaryDesk desk;
+
+  EXPECT_THAT(desk.Bolts(), ElementsAre("Actual Roof Bolt Yield Capacity...........................16.6 (tons)",
+                                        "Actual Roof Bolt Length...................................6.0 (ft)",
+                                        "Suggested Minimum Roof Bolt Length........................4.9 (ft)",
+                                        "Roof Bolt Length OK.", ""));
+}
+
+TEST(BoltReport, ABoltShorterThanSuggestedIsWarnedOf) {
+  PrimaryDesk desk;
+  desk.Parms().BoltLengthPrimary = 4.8F;
+
+  EXPECT_THAT(desk.Bolts(),
+              ElementsAre("Actual Roof Bolt Yield Capacity...........................16.6 (tons)",
+                          "Actual Roof Bolt Length...................................4.8 (ft)",
+                          "Suggested Minimum Roof Bolt Length........................4.9 (ft)", "[Warning]",
+                          "The actual roof bolt length is shorter than the suggested length", ""));
+}
+
+TEST(BoltReport, ExactlyTwoFeetMoreIsOKAndAnInchMoreIsTooLong) {
+  PrimaryDesk desk;
+  desk.Parms().CMRR = 80;  // a roof this strong needs no more than 4 ft
+  desk.Parms().BoltLengthPrimary = 6;
+
+  const auto atLimit = desk.Bolts();
+  desk.Parms().BoltLengthPrimary = 6.083F;
+  const auto beyond = desk.Bolts();
+
+  EXPECT_THAT(atLimit, Contains("Roof Bolt Length OK."));
+  EXPECT_THAT(beyond, IsSupersetOf({"[Warning]", "The actual roof bolt length is longer than the suggested",
+                                    "length by more than 2 feet"}));
+  EXPECT_THAT(beyond, Not(Contains("Roof Bolt Length OK.")));
+}
+
+TEST(BoltReport, AMetricBoltSixtyCentimetresTooLongIsWarnedOf) {
+  PrimaryDesk desk(Metric);
+  desk.Parms().BoltLengthPrimary = 2.2F;  // 1.689 m are suggested
+
+  const auto within = desk.Bolts();
+  desk.Parms().BoltLengthPrimary = 2.3F;
+  const auto beyond = desk.Bolts();
+
+  EXPECT_THAT(within, Contains("Roof Bolt Length OK."));
+  EXPECT_THAT(beyond, IsSupersetOf({"[Warning]", "The actual roof bolt length is longer than the suggested",
+                                    "length by more than 60 cm"}));
+}
+
+TEST(BoltReport, SixtyCentimetresAreTheSingleNearestToThem) {
+  EXPECT_EQ(JudgeLength(0.85F, 0.25F, Metric), LengthVerdict::Fine);  // 0.60000002 m more
+  EXPECT_EQ(JudgeLength(2.1F, 1.5F, Metric), LengthVerdict::Fine);    // 0.5999999 m more
+  EXPECT_EQ(JudgeLength(2.1000001F, 1.5F, Metric), LengthVerdict::TooLong);
+}
+
+TEST(BoltReport, LengthsAreJudgedToTheLastBit) {
+  EXPECT_EQ(JudgeLength(6, 4, English), LengthVerdict::Fine);
+  EXPECT_EQ(JudgeLength(6.0000005F, 4, English), LengthVerdict::TooLong);
+  EXPECT_EQ(JudgeLength(4, 4, English), LengthVerdict::Fine);
+  EXPECT_EQ(JudgeLength(3.9999998F, 4, English), LengthVerdict::TooShort);
+}
+
+TEST(BoltReport, ABoltBelowTheASTMMinimumIsWarnedOf) {
+  PrimaryDesk desk;
+  PickBolt(desk.Parms(), 0.625F, 55);
+
+  EXPECT_THAT(desk.Bolts(),
+              ElementsAre("Actual Roof Bolt Yield Capacity...........................8.4 (tons)",
+                          "Actual Roof Bolt Length...................................6.0 (ft)",
+                          "Suggested Minimum Roof Bolt Length........................4.9 (ft)", "[Warning]",
+                          "Bolt capacity may not meet ASTM minimum standards for roof support", ""));
+}
+
+TEST(BoltReport, AShortAndWeakBoltHasWarnings) {
+  PrimaryDesk desk;
+  PickBolt(desk.Parms(), 0.625F, 55);
+  desk.Parms().BoltLengthPrimary = 4;
+
+  EXPECT_THAT(desk.Bolts(),
+              ElementsAre("Actual Roof Bolt Yield Capacity...........................8.4 (tons)",
+                          "Actual Roof Bolt Length...................................4.0 (ft)",
+                          "Suggested Minimum Roof Bolt Length........................4.9 (ft)", "[Warnings]",
+                          "The actual roof bolt length is shorter than the suggested length",
+                          "Bolt capacity may not meet ASTM minimum standards for roof support", ""));
+}
+
+TEST(BoltReport, TheASTMMinimaAreTheSinglesNearestToThem) {
+  EXPECT_FALSE(FailsASTM({0.75F, 38.253773F}, English));  // 8.45 tons as a Single, which is less than 8.45
+  EXPECT_TRUE(FailsASTM({0.75F, 38.253769F}, English));
+  EXPECT_FALSE(FailsASTM({0.75F, 42.418861F}, Metric));  // 83.36 kN
+  EXPECT_TRUE(FailsASTM({0.75F, 42.418858F}, Metric));
+}
+
+TEST(DesignReport, EnoughSupportIsOK) {
+  PrimaryDesk desk;
+
+  EXPECT_THAT(desk.Design(),
+              ElementsAre("Suggested PSUP for this location..........................7.6",
+                          "Actual PSUP for this design...............................9.9", "Actual PSUP OK", "",
+                          "Reinforcement Density Index (RDI).........................192.2",
+                          "PRSUP.....................................................13.3", ""));
+}
+
+TEST(DesignReport, TooLittleSupportIsWarnedOf) {
+  PrimaryDesk desk;
+  desk.Parms().BoltsperRowPrimary = 3;
+
+  EXPECT_THAT(desk.Design(),
+              ElementsAre("Suggested PSUP for this location..........................7.6",
+                          "Actual PSUP for this design...............................7.5", "[Warning]",
+                          "The actual PSUP for this design is less than the suggested",
+                          "PSUP. Try changing the roof bolt length, bolt diameter, bolt grade", "or row spacing.", "",
+                          "Reinforcement Density Index (RDI).........................144.1",
+                          "PRSUP.....................................................9.9", ""));
+}
+
+TEST(DesignReport, ASuggestionOfExactlyTwelveNeedsNoSupplement) {
+  PrimaryDesk desk;
+  desk.Parms().StabilityFactor = 1.5775279F;
+
+  const auto twelve = desk.Design();
+  desk.Parms().StabilityFactor = 1.577528F;  // 12.000001
+  const auto more = desk.Design();
+
+  EXPECT_THAT(twelve, Contains("Suggested PSUP for this location..........................12.0"));
+  EXPECT_THAT(twelve, Not(Contains("Consider using supplemental support for roof control")));
+  EXPECT_THAT(more, ElementsAre("Suggested PSUP for this location..........................12.0",
+                                "Actual PSUP for this design...............................9.9", "[Warning]",
+                                "The actual PSUP for this design is less than the suggested",
+                                "PSUP. Try changing the roof bolt length, bolt diameter, bolt grade", "or row spacing.",
+                                "", "Consider using supplemental support for roof control", "",
+                                "Reinforcement Density Index (RDI).........................192.2",
+                                "PRSUP.....................................................13.3", ""));
+}
+
+TEST(DesignReport, ARoofThatIsAtItsWeakestIsSuggestedThree) {
+  PrimaryDesk desk;
+  desk.Parms().CMRR = 20;
+
+  EXPECT_THAT(desk.Design(),
+              IsSupersetOf({"Suggested PSUP for this location..........................3.0", "Actual PSUP OK"}));
+}
+
+TEST(DesignReport, ASuggestionBelowThreeIsAMatterOfSkinControl) {
+  EXPECT_EQ(JudgePsup(2.9999998F, 9), PsupVerdict::SkinControl);
+  EXPECT_EQ(JudgePsup(0, 0), PsupVerdict::SkinControl);
+  EXPECT_EQ(JudgePsup(3, 2.9F), PsupVerdict::TooLow);
+  EXPECT_EQ(JudgePsup(3, 3), PsupVerdict::Fine);
+  EXPECT_EQ(PsupMessage(PsupVerdict::SkinControl), "Bolt reinforcement mechanism is skin control or suspension.");
+}
+
+TEST(DesignReport, NoDepthEndsTheReport) {
+  PrimaryDesk desk;
+  desk.Parms().DepthofCover = 0;
+
+  EXPECT_EQ(ErrorNumberOf([&] { CalculationReport(desk.program); }), 5);
+}
+
+TEST(DesignReport, NoRowSpacingEndsTheReport) {
+  PrimaryDesk desk;
+  desk.Parms().RowSpacingPrimary = 0;
+
+  EXPECT_EQ(ErrorNumberOf([&] { CalculationReport(desk.program); }), 11);
+}
+
+}  // namespace
+}  // namespace orby::test
