@@ -51,7 +51,7 @@ RoundedDigits RoundByLibrary(double magnitude, int places) {
   return result;
 }
 
-// mantissa / 2^shift x 10^decimals as the nearest whole number, an exact tie upwards. Decimals from 0 on need a shift.
+// mantissa / 2^shift x 10^decimals as the nearest whole number, an exact tie upwards.
 std::uint64_t ScaledToWhole(std::uint64_t mantissa, int shift, int decimals) {
   __extension__ using Wide = unsigned __int128;
   Wide product = mantissa;
@@ -61,7 +61,7 @@ std::uint64_t ScaledToWhole(std::uint64_t mantissa, int shift, int decimals) {
   }
   for (; decimals > 19; decimals -= 19) product *= PowerOfTen(19);
   product *= PowerOfTen(decimals);
-  return static_cast<std::uint64_t>((product + (Wide{1} << (shift - 1))) >> shift);
+  return static_cast<std::uint64_t>((product + (Wide{1} << shift) / 2) >> shift);
 }
 
 // Values of everyday size, scaled exactly in integers; an exact tie goes away from zero.

@@ -1,0 +1,30 @@
+#include "dialogs/convert_dialog.h"
+
+#include "core/dialog_helpers.h"
+#include "core/messages.h"
+#include "files/conversion.h"
+
+namespace orby {
+
+ConvertDialog::ConvertDialog(Program& program) : program_(program) {
+  Command2.Click = [this] { Convert(); };
+  Command1.Click = [this] { Close(); };
+}
+
+void ConvertDialog::OnOpen() {
+  PrepareForm(program_, message_module::Conversion);
+  AddHistoryLine(program_, "Loading File Conversion Form");
+  const Integer other = program_.Units == English ? Metric : English;
+  Option1.SetMemberEnabled(static_cast<std::size_t>(English), other == English);
+  Option1.SetMemberEnabled(static_cast<std::size_t>(Metric), other == Metric);
+  SetArrayIndex(program_, Option1, other);
+}
+
+void ConvertDialog::Convert() {
+  const bool converted = ConvertProject(program_, GetArrayIndex(Option1));
+  ShowMessage(program_, converted ? "Conversion Completed: The conversion form will be closed"
+                                  : "Error in the Conversion Procedure. Call technical support");
+  Close();
+}
+
+}  // namespace orby

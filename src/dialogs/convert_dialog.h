@@ -1,0 +1,39 @@
+// The file conversion utility: asks for the other unit system and converts the open project into it.
+#pragma once
+
+#include "controls/controls.h"
+#include "core/program.h"
+
+namespace orby {
+
+class ConvertControls : public Form {
+ public:
+  ConvertControls() : Form("frmConvert", "File Conversion Utility") {}
+
+  Frame fraUnits{*this, "fraUnits", "Units"};
+  OptionArray Option1{*this, "Option1", {{"feet, psi, pcf"}, {"meters, MPa, kN/m3"}}};
+  Frame fraFileOptions{*this, "fraFileOptions", "File options"};
+  // The converted project is the open one whatever is chosen here.
+  OptionArray Option2{*this, "Option2", {{"Keep original project"}, {"Load converted project "}}};
+
+  // commands
+  Button Command2{*this, "Command2", "Convert"};
+  Button Command1{*this, "Command1", "Cancel"};
+  Button Command3{*this, "Command3", "Help"};
+};
+
+class ConvertDialog : public ConvertControls {
+ public:
+  explicit ConvertDialog(Program& program);
+
+ protected:
+  void OnOpen() override;
+  void OnClose() override {}
+
+ private:
+  void Convert();
+
+  Program& program_;
+};
+
+}  // namespace orby

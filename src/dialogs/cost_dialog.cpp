@@ -1,0 +1,174 @@
+#include "dialogs/cost_dialog.h"
+
+#include <array>
+#include <cmath>
+
+#include "base/arithmetic.h"
+#include "base/number_text.h"
+#include "core/dialog_helpers.h"
+#include "core/messages.h"
+#include "dialogs/history_texts.h"
+#include "engine/cost.h"
+#include "reports/cost_report.h"
+#include "reports/input_echo.h"
+
+namespace orby {
+namespace {
+
+struct CostField {
+  TextBox CostControls::*Box;
+  Single CostGroup::*Field;
+  std::string_view Fault;
+};
+
+// In the order in which they are checked.
+constexpr std::array CostFields{
+    CostField{&CostControls::txtBoltCost, &CostGroup::CostBoltCost, "Invalid cost per bolt"},
+    CostField{&CostControls::txtPlateCost, &CostGroup::CostPlateCost, "Invalid cost per plate"},
+    CostField{&CostControls::txtResinCost, &CostGroup::CostResinCost, "Invalid cost per resin"},
+    CostField{&CostControls::txtBitCost, &CostGroup::CostBitCost, "Invalid cost per bit"},
+    CostField{&CostControls::txtHeaderCost, &CostGroup::CostHeaderCost, "Invalid header cost"},
+    CostField{&CostControls::txtStrapCost, &CostGroup::CostStrapCost, "Invalid strap/mesh cost"},
+    CostField{&CostControls::txtnboltsShift, &CostGroup::CostNboltsShift, "Invalid number of bolts per shift"},
+    CostField{&CostControls::txtnBoltsRow, &CostGroup::CostNBoltsRow, "Invalid number of bolts per row"},
+    CostField{&CostControls::txtRowSpacing, &CostGroup::CostRowSpacing, "Invalid roof bolt row spacing"},
+    CostField{&CostControls::txtnOperShift, &CostGroup::CostNOperShift, "Invalid number of operators per shift"},
+    CostField{&CostControls::txtTotalLabor, &CostGroup::CostTotalLabor, "Invalid total labor cost per shift"},
+    CostField{&CostControls::txtHoursShift, &CostGroup::CostHoursShift, "Invalid hours per shift"},
+    CostField{&CostControls::txtMaintainHrs, &CostGroup::CostMaintainHrs, "Invalid maintenance hours"},
+    CostField{&CostControls::txtMaintainCost, &CostGroup::CostMaintainCost, "Invalid maintenance cost"},
+    CostField{&CostControls::txtTranspCost, &CostGroup::CostTranspCost, "Invalid transportation cost"},
+    CostField{&CostControls::txtCapitalCost, &CostGroup::CostCapitalCost, "Invalid machine capital cost"},
+    CostField{&CostControls::txtYearsDepr, &CostGroup::CostYearsDepr, "Invalid number of depreciation years"},
+    CostField{&CostControls::txtAdvanceShift, &CostGroup::CostAdvanceShift, "Invalid advance per shift"},
+    CostField{&CostControls::txtAdvanceRate, &CostGroup::CostAdvanceRate, "Invalid advance rate"},
+    CostField{&CostControls::txtCleanProduction, &CostGroup::CostCleanProduction, "Invalid clean production"},
+    CostField{&CostControls::txtShiftsWeek, &CostGroup::CostShiftsWeek, "Invalid number of shifts per week"},
+    CostField{&CostControls::txtWeeksYear, &CostGroup::CostWeeksYear, "Invalid number of weeks per year"},
+};
+
+// The text of a computed figure. A product beyond a Double has none.
+std::string FigureText(double figure) {
+  if (!std::isfinite(figure)) throw RuntimeError(error_number::Overflow);
+  return NumberText(figure);
+}
+
+}  // namespace
+
+CostDialog::CostDialog(Program& program) : program_(program) {
+  TieEvents();
+  TieCommands();
+}
+
+void CostDialog::TieEvents() {
+  for (TextBox* box : {&txtnboltsShift, &txtnBoltsRow, &txtRowSpacing}) {
+    box->Change = [this] {
+      if (!HoldEvents) CalcAdvance();
+    };
+  }
+  for (TextBox* box : {&txtAdvanceRate, &txtAdvanceShift}) {
+    box->Change = [this] {
+      if (!HoldEvents) CalcProduction();
+    };
+  }
+}
+
+void CostDialog::TieCommands() {
+  Command2.Click = [this] {
+    if (!ValidateCost()) return;
+    CommitOnClose = true;
+    Close();
+  };
+  Command1.Click = [this] { Close(); };
+  cmdresults.Click = [this] {
+    if (!ValidateCost() || !BuildReport()) return;
+    program_.platform.windows.ShowResults();
+  };
+  Command3.Click = [this] { ContextHelpHint(program_); };
+}
+
+void CostDialog::OnOpen() {
+  program_.DialogOpen = true;
+  PrepareForm(program_, message_module::Parameters);
+  HoldEvents = true;
+  CommitOnClose = false;
+  WasCommitted = false;
+  program_.ReportCaller = report_caller::Cost;
+  FillFields();
+  AppendUnits(*this, program_.Units);
+  CalcAdvance();
+  CalcProduction();
+  AddHistoryLine(program_, history_text::EditingParameters);
+  HoldEvents = false;
+  program_.platform.windows.CenterForm(*this);
+}
+
+void CostDialog::OnClose() {
+  if (CommitOnClose) {
+    SaveWorkParms();
+    program_.UnitsLocked = true;
+  }
+  AddHistoryLine(program_, WasCommitted ? history_text::ParametersModified : history_text::ParametersNotModified);
+  program_.DialogOpen = false;
+}
+
+void CostDialog::FillFields() {
+  const CostGroup& cost = program_.WorkParms.Cost();
+  for (const CostField& row : CostFields) (this->*row.Box).SetText(NumberText(cost.*row.Field));
+  chkProduction.SetValue(cost.CostProduction);
+  chkAdvance.SetValue(cost.CostAdvance);
+}
+
+CostGroup CostDialog::TypedCost() const {
+  CostGroup cost;
+  for (const CostField& row : CostFields) cost.*row.Field = ToSingle((this->*row.Box).Value());
+  cost.CostProduction = chkProduction.Value();
+  cost.CostAdvance = chkAdvance.Value();
+  return cost;
+}
+
+void CostDialog::CalcAdvance() {
+  const double rowSpacing = txtRowSpacing.Value();
+  if (!(rowSpacing > 0)) return;
+  std::string advance = FigureText(AdvancePerShift(txtnBoltsRow.Value(), rowSpacing, txtnboltsShift.Value()));
+  if (advance == txtAdvanceShiftCalc.Text()) return;
+  txtAdvanceShiftCalc.SetText(std::move(advance));
+  if (!HoldEvents) CalcProduction();
+}
+
+void CostDialog::CalcProduction() {
+  txtCleanProductionCalc.SetText(FigureText(txtAdvanceShiftCalc.Value() * txtAdvanceRate.Value()));
+}
+
+bool CostDialog::ValidateCost() {
+  for (const CostField& row : CostFields) {
+    TextBox& box = this->*row.Box;
+    if (box.Value() >= 0) continue;
+    ShowMessage(program_, std::string(row.Fault), box_style::Critical, program_.titles.RangeErrorTitle);
+    RequestFocus(box);
+    return false;
+  }
+  return true;
+}
+
+void CostDialog::SaveWorkParms() {
+  program_.WorkParms.Cost() = TypedCost();
+  program_.FileSaved = false;
+  program_.FileEmpty = false;
+  WasCommitted = true;
+}
+
+void CostDialog::CopyCostToWorkParmsCopy() { program_.WorkParmsCopy.Cost() = TypedCost(); }
+
+bool CostDialog::BuildReport() {
+  CopyCostToWorkParmsCopy();
+  if (!CostReport(program_)) return false;
+  const CostGroup committed = program_.WorkParms.Cost();
+  program_.WorkParms.Cost() = program_.WorkParmsCopy.Cost();
+  program_.ReportCaller = report_caller::Cost;
+  LoadOutBuf0(program_);
+  program_.WorkParms.Cost() = committed;
+  return true;
+}
+
+}  // namespace orby

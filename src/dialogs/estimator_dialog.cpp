@@ -1,0 +1,88 @@
+#include "dialogs/estimator_dialog.h"
+
+#include "base/arithmetic.h"
+#include "base/number_text.h"
+#include "core/dialog_helpers.h"
+#include "core/messages.h"
+#include "dialogs/history_texts.h"
+
+namespace orby {
+namespace {
+
+constexpr int NumberColumn = 0;
+constexpr int NameColumn = 1;
+constexpr int RatingColumn = 2;
+constexpr int ColumnCount = 3;
+
+}  // namespace
+
+EstimatorDialog::EstimatorDialog(Program& program) : program_(program) {
+  optLocation.Click = [this](Integer region) { ShowRegion(region); };
+  VSFlexGrid1.Change = [this] {
+    if (!HoldEvents) ShowEstimate();
+  };
+  Command2.Click = [this] {
+    CommitOnClose = true;
+    Close();
+  };
+  Command1.Click = [this] { Close(); };
+}
+
+void EstimatorDialog::OnOpen() {
+  PrepareForm(program_, message_module::Description);
+  AddHistoryLine(program_, history_text::EditingDescription);
+  HoldEvents = true;
+  CommitOnClose = false;
+  const EstimatorState& estimator = program_.estimator;
+  SetArrayIndex(program_, optLocation, estimator.EstimatorRegion);
+  // A project file can hold any number here; one that is no row of the grid leaves the first row selected.
+  const int row = estimator.EstimatorRockType;
+  if (row >= 0 && row < VSFlexGrid1.Rows()) VSFlexGrid1.SetRow(row);
+  ShowEstimate();
+  HoldEvents = false;
+  program_.platform.windows.CenterForm(*this);
+}
+
+void EstimatorDialog::OnClose() {
+  if (CommitOnClose) {
+    EstimatorState& estimator = program_.estimator;
+    estimator.EstimatedCMRR = ToInteger(txtCMRR.Value());
+    estimator.EstimatorRegion = GetArrayIndex(optLocation);
+    estimator.EstimatorRockType = static_cast<Integer>(VSFlexGrid1.Row());
+    program_.FileSaved = false;
+    program_.FileEmpty = false;
+  }
+  AddHistoryLine(program_, "CMRR Form Modified");
+}
+
+// The rating on view stays that of the row chosen before, until a row of this region is chosen.
+void EstimatorDialog::ShowRegion(Integer region) {
+  for (Picture& picture : Picture1) picture.SetVisible(false);
+  Picture1[static_cast<std::size_t>(region)].SetVisible(true);
+
+  const auto types = RockTypes(region);
+  VSFlexGrid1.SetSize(static_cast<int>(types.size()), ColumnCount, 0);
+  VSFlexGrid1.SetColumnWidths({360, 2950, 360});
+  int row = 0;
+  for (const RockType& type : types) {
+    VSFlexGrid1.SetCell(row, NumberColumn, NumberText(row + 1));
+    VSFlexGrid1.SetCell(row, NameColumn, std::string(type.Name));
+    VSFlexGrid1.SetCell(row, RatingColumn, std::string(type.CMRR));
+    ++row;
+  }
+  const Integer manualValue = program_.estimator.EstimatorManualValue;
+  if (manualValue != 0) VSFlexGrid1.SetCell(row - 1, RatingColumn, NumberText(manualValue));
+}
+
+void EstimatorDialog::ClickRow(int row) {
+  VSFlexGrid1.SetRow(row);
+  ShowEstimate();
+}
+
+void EstimatorDialog::ShowEstimate() {
+  const int row = VSFlexGrid1.Row();
+  txtCMRR.SetText(VSFlexGrid1.Cell(row, RatingColumn));
+  program_.estimator.EstimatorManual = row == VSFlexGrid1.Rows() - 1;
+}
+
+}  // namespace orby

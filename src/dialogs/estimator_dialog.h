@@ -1,0 +1,56 @@
+// The roof rating estimator: a coalfield and its rock types, each with the CMRR to start from.
+#pragma once
+
+#include <array>
+
+#include "controls/controls.h"
+#include "core/program.h"
+#include "engine/estimator.h"
+
+namespace orby {
+
+class EstimatorControls : public Form {
+ public:
+  EstimatorControls() : Form("frmCMRREst", "The Coal Mine Roof Rating (CMRR) Estimator for HAMB") {}
+
+  Frame fraLocation{*this, "fraLocation", "Coalfield Location"};
+  OptionArray optLocation{
+      *this,
+      "optLocation",
+      {{RegionNames[0]}, {RegionNames[1]}, {RegionNames[2]}, {RegionNames[3]}, {RegionNames[4]}, {RegionNames[5]}}};
+  Grid VSFlexGrid1{*this, "VSFlexGrid1"};
+  TextBox txtCMRR{*this, "txtCMRR", TextKind::Output};
+  std::array<Picture, RegionNames.size()> Picture1{Picture(*this, "Picture1_0"), Picture(*this, "Picture1_1"),
+                                                   Picture(*this, "Picture1_2"), Picture(*this, "Picture1_3"),
+                                                   Picture(*this, "Picture1_4"), Picture(*this, "Picture1_5")};
+
+  // commands
+  Button Command2{*this, "Command2", "OK"};
+  Button Command1{*this, "Command1", "Cancel"};
+  Button Command3{*this, "Command3", "Help"};
+};
+
+class EstimatorDialog : public EstimatorControls {
+ public:
+  explicit EstimatorDialog(Program& program);
+
+  // The user's click on a rock type, which counts on the selected row too. Throws RuntimeError 9 outside the grid.
+  void ClickRow(int row);
+
+  // Shows the rating of the selected rock type and notes whether it is the region's manual row.
+  void ShowEstimate();
+
+  bool HoldEvents = false;  // holds the estimate back
+  bool CommitOnClose = false;
+
+ protected:
+  void OnOpen() override;
+  void OnClose() override;
+
+ private:
+  void ShowRegion(Integer region);
+
+  Program& program_;
+};
+
+}  // namespace orby

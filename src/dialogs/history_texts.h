@@ -1,0 +1,16 @@
+// What the history says of dialogs that share their words.
+#pragma once
+
+#include <string_view>
+
+namespace orby::history_text {
+
+// The parameters and the cost dialog.
+inline constexpr std::string_view EditingParameters = "Editing Project Parameters";
+inline constexpr std::string_view ParametersModified = "Project Parameters Modified";
+inline constexpr std::string_view ParametersNotModified = "Project Parameters Not Modified";
+
+// The estimator and the description dialog.
+inline constexpr std::string_view EditingDescription = "Editing Project Description";
+
+}  // namespace orby::history_text

@@ -1,0 +1,246 @@
+#include "dialogs/parameters_dialog.h"
+
+#include <cmath>
+#include <limits>
+
+#include "base/arithmetic.h"
+#include "base/number_text.h"
+#include "base/runtime_error.h"
+#include "catalogs/catalogs.h"
+#include "core/dialog_helpers.h"
+#include "core/messages.h"
+#include "dialogs/estimator_dialog.h"
+#include "dialogs/history_texts.h"
+#include "reports/calculation_report.h"
+#include "reports/input_echo.h"
+
+namespace orby {
+namespace {
+
+constexpr int FirstColumnWidths[] = {300, 2200, 600, 600};
+constexpr int GridMargin = 480;
+
+std::vector<ComboItem> NumberItems(const CatalogList& list) {
+  std::vector<ComboItem> items;
+  items.reserve(list.Count());
+  for (std::size_t i = 0; i < list.Count(); ++i) items.push_back({NumberText(list[i])});
+  return items;
+}
+
+// A capacity as the whole number that its item carries.
+int WholeCapacity(Single capacity) {
+  const double whole = RoundHalfEven(capacity);
+  if (std::abs(whole) > std::numeric_limits<int>::max()) throw RuntimeError(error_number::Overflow);
+  return static_cast<int>(whole);
+}
+
+std::vector<ComboItem> SupportItems(const Program& program) {
+  const StandingSupports& supports = program.catalogs.StandSupports;
+  std::vector<ComboItem> items;
+  const auto count = static_cast<std::size_t>(supports.HighestIndex + 1);
+  items.reserve(count);
+  for (std::size_t i = 0; i < count; ++i) {
+    items.push_back({supports.DefaultStandSupportType[i], WholeCapacity(StandSupportCap(program, i))});
+  }
+  return items;
+}
+
+void FillGrid(Grid& grid, const BoltTable& table) {
+  grid.SetSize(static_cast<int>(table.size()) + 1, 4, 1);
+  grid.SetColumnWidths({std::begin(FirstColumnWidths), std::end(FirstColumnWidths)});
+  int width = GridMargin;
+  for (const int column : FirstColumnWidths) width += column;
+  grid.SetWidth(width);
+  int column = 0;
+  for (const auto* title : {"No", "Description", "Dia.", "Grade"}) grid.SetCell(0, column++, title);
+  int row = 1;
+  for (const auto& bolt : table) {
+    grid.SetCell(row, 0, NumberText(row));
+    grid.SetCell(row, BoltColumn::Description, bolt.Name);
+    grid.SetCell(row, BoltColumn::Diameter, bolt.Diameter);
+    grid.SetCell(row, BoltColumn::Grade, bolt.Grade);
+    ++row;
+  }
+}
+
+}  // namespace
+
+ParametersDialog::ParametersDialog(Program& program)
+    : PrimaryBoltControls{PrimaryBolt,
+                          optBoltOptionsPrimary,
+                          VSFlexGridPrimary,
+                          fraBoltOptionsPrimary1,
+                          fraBoltOptionsPrimary0,
+                          optBoltDiameterPrimary,
+                          cmbBoltDiameterPrimary,
+                          txtBoltDiameterPrimary,
+                          optBoltGradePrimary,
+                          cmbBoltGradePrimary,
+                          txtBoltGradePrimary,
+                          fraBoltGradePrimary,
+                          SSTab1,
+                          1},
+      EntryBoltControls{SecEntryBolt,
+                        optBoltOptionsSecEntry,
+                        VSFlexGridEntry,
+                        fraBoltOptionsSecEntry1,
+                        fraBoltOptionsSecEntry0,
+                        optBoltDiameterSecEntry,
+                        cmbBoltDiameterSecEntry,
+                        txtBoltDiameterSecEntry,
+                        optBoltGradeSecEntry,
+                        cmbBoltGradeSecEntry,
+                        txtBoltGradeSecEntry,
+                        fraBoltGradeSecEntry,
+                        SSTab2,
+                        2},
+      InterBoltControls{SecInterBolt,
+                        optBoltOptionsSecInter,
+                        VSFlexGridInter,
+                        fraBoltOptionsSecInter1,
+                        fraBoltOptionsSecInter0,
+                        optBoltDiameterSecInter,
+                        cmbBoltDiameterSecInter,
+                        txtBoltDiameterSecInter,
+                        optBoltGradeSecInter,
+                        cmbBoltGradeSecInter,
+                        txtBoltGradeSecInter,
+                        fraBoltGradeSecInter,
+                        SSTab3,
+                        2},
+      EntryCableControls{SecEntryCable,        optCableCapModeSecEntry,  optCableCapacitySecEntry, fraCableSpecEntry,
+                         cmbCableDiamSecEntry, cmbCableCapacitySecEntry, txtCableCapacitySecEntry},
+      InterCableControls{SecInterCable,        optCableCapModeSecInter,  optCableCapacitySecInter, fraCableSpecInter,
+                         cmbCableDiamSecInter, cmbCableCapacitySecInter, txtCableCapacitySecInter},
+      EntryStandingControls{optSupportTypeSecEntry,
+                            cmbSupportTypeSecEntry,
+                            txtSupportTypeSecEntry,
+                            txtSupportCapSecEntry,
+                            &ProjectRecord::SupportTypeModeSecEntry,
+                            &ProjectRecord::SupportTypeNameSecEntry,
+                            &ProjectRecord::SupportCapSecEntry,
+                            true},
+      InterStandingControls{optSupportTypeSecInter,
+                            cmbSupportTypeSecInter,
+                            txtSupportTypeSecInter,
+                            txtSupportCapSecInter,
+                            &ProjectRecord::SupportTypeModeSecInter,
+                            &ProjectRecord::SupportTypeNameSecInter,
+                            &ProjectRecord::SupportCapSecInter,
+                            false},
+      program_(program) {
+  for (const OutputControls& outputs : {EntryOutputs, InterOutputs}) {
+    for (std::size_t i = 0; i < SystemCount; ++i) {
+      for (TextBox* box : {&outputs.RockLoad[i], &outputs.SupportCap[i], &outputs.StabFactor[i]}) box->SetText("---");
+    }
+  }
+  txtRegion.SetVisible(false);
+  txtOption.SetVisible(false);
+  txtMessage.SetVisible(false);
+  TieEvents();
+  TieCommands();
+}
+
+void ParametersDialog::TieCommands() {
+  Command2.Click = [this] {
+    if (!ValidateParameters()) return;
+    CommitOnClose = true;
+    Close();
+  };
+  Command1.Click = [this] { Close(); };
+  cmdresults.Click = [this] {
+    if (!ValidateParameters()) return;
+    BuildReport();
+    program_.platform.windows.ShowResults();
+  };
+  Command3.Click = [this] { ContextHelpHint(program_); };
+  cmdCMRR.Click = [this] { Estimate(); };
+}
+
+void ParametersDialog::OnOpen() {
+  program_.DialogOpen = true;
+  PrepareForm(program_, message_module::Parameters);
+  HoldEvents = true;
+  CommitOnClose = false;
+  WasCommitted = false;
+  program_.ReportCaller = report_caller::Parameters;
+  for (TabSet* tabs : {&SSTab1, &SSTab2, &SSTab3}) {
+    tabs->SetTab(0);
+    for (int tab = 1; tab < tabs->Count(); ++tab) tabs->SetTabEnabled(tab, false);
+  }
+  if (Units() == Metric) {
+    for (const CableControls& cable : {EntryCableControls, InterCableControls}) {
+      program_.WorkParms.*cable.Fields.CapMode = 1;
+      cable.CapMode.SetMemberEnabled(0, false);
+    }
+  }
+  FillLists();
+  InitParameters();
+  AddHistoryLine(program_, history_text::EditingParameters);
+  HoldEvents = false;
+  ShowSuggested();
+  ShowActualPSUP();
+  ShowEntries();
+  ShowIntersections();
+  program_.platform.windows.CenterForm(*this);
+}
+
+void ParametersDialog::FillLists() {
+  const BoltTable& table = LoadBoltTable(program_);
+  const auto diameters = NumberItems(BoltDiameters(program_));
+  const auto grades = NumberItems(BoltGrades(program_));
+  for (const BoltControls& bolt : {PrimaryBoltControls, EntryBoltControls, InterBoltControls}) {
+    FillGrid(bolt.Table, table);
+    bolt.DiameterStd.Fill(diameters);
+    bolt.GradeStd.Fill(grades);
+    if (program_.BoltStrengthMode == 1) bolt.GradeFrame.SetCaption("Roof Bolt Ultimate Grade");
+  }
+  const auto cableDiameters = NumberItems(CableDiameters(program_));
+  const auto cableCapacities = NumberItems(CableCapacities(program_));
+  for (const CableControls& cable : {EntryCableControls, InterCableControls}) {
+    cable.Diam.Fill(cableDiameters);
+    cable.CapacityStd.Fill(cableCapacities);
+  }
+  const auto supports = SupportItems(program_);
+  cmbSupportTypeSecEntry.Fill(supports);
+  cmbSupportTypeSecInter.Fill(supports);
+}
+
+void ParametersDialog::OnClose() {
+  if (CommitOnClose) {
+    SaveWorkParms();
+    program_.UnitsLocked = true;
+  }
+  AddHistoryLine(program_, WasCommitted ? history_text::ParametersModified : history_text::ParametersNotModified);
+  program_.DialogOpen = false;
+}
+
+void ParametersDialog::BuildReport() {
+  CopyToWorkParmsCopy();
+  const DesignGroups committed = program_.WorkParms.Design();
+  program_.WorkParms.Design() = program_.WorkParmsCopy.Design();
+  program_.ReportCaller = report_caller::Parameters;
+  LoadOutBuf0(program_);
+  CalculationReport(program_);
+  program_.WorkParms.Design() = committed;
+}
+
+void ParametersDialog::Estimate() {
+  constexpr Integer ParametersCaller = 2;
+  EstimatorState& estimator = program_.estimator;
+  estimator.EstimatedCMRR = 0;
+  estimator.CallerCode = ParametersCaller;
+  EstimatorDialog dialog(program_);
+  ShowForm(program_, dialog);
+  if (!dialog.CommitOnClose) return;
+  if (!estimator.EstimatorManual && estimator.EstimatedCMRR == 0) return;
+  txtRegion.SetText(NumberText(estimator.EstimatorRegion));
+  txtOption.SetText(NumberText(estimator.EstimatorRockType));
+  if (estimator.EstimatorManual) {
+    chkCMRRManual.SetValue(1);
+  } else {
+    txtCMRR.SetText(NumberText(estimator.EstimatedCMRR));
+  }
+}
+
+}  // namespace orby

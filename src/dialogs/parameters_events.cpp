@@ -1,0 +1,184 @@
+// The event rules of the parameters dialog: what a click enables, shows and hides, and which results a change
+// refreshes.
+#include "base/number_text.h"
+#include "dialogs/parameters_dialog.h"
+
+namespace orby {
+namespace {
+
+// A table is on view on its own tab only.
+void ShowBoltFrames(const BoltControls& bolt) {
+  const bool manual = GetArrayIndex(bolt.Options) == 1;
+  bolt.TableFrame.SetVisible(!manual && bolt.Tabs.Tab() == bolt.Tab);
+  bolt.ManualFrame.SetVisible(manual);
+}
+
+void ShowListOrText(Integer mode, Combo& list, TextBox& text) {
+  list.SetVisible(mode == 0);
+  text.SetVisible(mode == 1);
+}
+
+void ApplyCableRule(const CableControls& cable) {
+  const bool byCapacity = GetArrayIndex(cable.CapMode) == 1;
+  const bool typed = GetArrayIndex(cable.Capacity) == 1;
+  cable.Diam.SetEnabled(!byCapacity);
+  cable.SpecificationFrame.SetEnabled(byCapacity);
+  cable.Capacity.SetAllEnabled(byCapacity);
+  cable.CapacityStd.SetVisible(byCapacity && !typed);
+  cable.CapacityManual.SetVisible(byCapacity && typed);
+}
+
+void ApplyStandingRule(const StandingControls& standing, Integer mode) {
+  const bool typed = mode == 1;
+  standing.TypeStd.SetEnabled(!typed);
+  standing.TypeManual.SetEnabled(typed);
+  standing.Capacity.SetEnabled(typed);
+  if (typed) {
+    standing.TypeStd.BlankText();
+  } else if (standing.RestoresText && standing.TypeStd.HasSelection()) {
+    standing.TypeStd.SetListIndex(standing.TypeStd.ListIndex());
+  }
+}
+
+void TakeCapacity(const StandingControls& standing) {
+  if (!standing.TypeStd.HasSelection()) return;
+  const auto index = static_cast<std::size_t>(standing.TypeStd.ListIndex());
+  standing.Capacity.SetText(NumberText(standing.TypeStd.Items()[index].data));
+}
+
+}  // namespace
+
+// The gaps are known to the users: the entry width does not refresh the suggestions or the intersections, the lengths
+// of secondary bolts and truss members refresh nothing.
+struct ParametersDialog::RefreshTable {
+  using D = ParametersDialog;
+  static constexpr Refreshes Nothing{};
+  static constexpr Refreshes Suggested{&D::ShowSuggested};
+  static constexpr Refreshes Span{&D::ShowSuggested, &D::ShowIntersections};
+  static constexpr Refreshes StabilityFactor{&D::ShowSuggested, &D::ShowActualPSUP};
+  static constexpr Refreshes EntryWidth{&D::ShowEntries, &D::ShowActualPSUP};
+  static constexpr Refreshes UnitWeight{&D::ShowEntries, &D::ShowIntersections};
+  static constexpr Refreshes Actual{&D::ShowActualPSUP};
+  static constexpr Refreshes Entries{&D::ShowEntries};
+  static constexpr Refreshes Intersections{&D::ShowIntersections};
+};
+
+void ParametersDialog::Run(const Refreshes& refreshes) {
+  if (HoldEvents) return;
+  if (refreshes.first != nullptr) (this->*refreshes.first)();
+  if (refreshes.second != nullptr) (this->*refreshes.second)();
+}
+
+void ParametersDialog::Tie(const Refreshes& refreshes, std::initializer_list<Event*> events) {
+  for (Event* event : events) *event = [this, &refreshes] { Run(refreshes); };
+}
+
+void ParametersDialog::TieEvents() {
+  TieFields();
+  TieGeneral();
+  TieBolt(PrimaryBoltControls, RefreshTable::Nothing);
+  TieBolt(EntryBoltControls, RefreshTable::Entries);
+  TieBolt(InterBoltControls, RefreshTable::Intersections);
+  TieCable(EntryCableControls, RefreshTable::Entries);
+  TieCable(InterCableControls, RefreshTable::Intersections);
+  TieStanding(EntryStandingControls, RefreshTable::Entries);
+  TieStanding(InterStandingControls, RefreshTable::Intersections);
+  TieSystems(chkSecEntries, SSTab2, RefreshTable::Entries);
+  TieSystems(chkSecInter, SSTab3, RefreshTable::Intersections);
+}
+
+void ParametersDialog::TieFields() {
+  using R = RefreshTable;
+  Tie(R::Suggested, {&txtCMRR.Change, &txtDepthofCover.Change});
+  Tie(R::Span, {&txtActualSpanDiagonals.Change});
+  Tie(R::StabilityFactor, {&txtStabilityFactor.Change});
+  Tie(R::EntryWidth, {&txtEntryWidth.Change});
+  Tie(R::UnitWeight, {&txtUnitWeight.Change});
+  Tie(R::Actual, {&txtBoltLengthPrimary.Change, &txtBoltsperRowPrimary.Change, &txtRowSpacingPrimary.Change,
+                  &txtBoltDiameterPrimary.Change, &txtBoltGradePrimary.Change, &cmbBoltDiameterPrimary.Change,
+                  &cmbBoltGradePrimary.Change, &VSFlexGridPrimary.Change});
+  Tie(R::Entries, {&txtRockLoadHeight.Change,
+                   &txtRockFallAngle.Change,
+                   &txtCableLengthSecEntry.Change,
+                   &txtCableCapacitySecEntry.Change,
+                   &txtCableBoltsPerRowSecEntry.Change,
+                   &txtCableRowSpacingSecEntry.Change,
+                   &txtTrussAngleSecEntry.Change,
+                   &txtTrussCapacitySecEntry.Change,
+                   &txtTrussSpacingSecEntry.Change,
+                   &txtBoltDiameterSecEntry.Change,
+                   &txtBoltGradeSecEntry.Change,
+                   &txtBoltsperRowSecEntry.Change,
+                   &txtRowSpacingSecEntry.Change,
+                   &txtSupportCapSecEntry.Change,
+                   &txtNumberSupPerRowSecEntry.Change,
+                   &txtSupportRowSpacingSecEntry.Change,
+                   &cmbBoltDiameterSecEntry.Change,
+                   &cmbBoltGradeSecEntry.Change,
+                   &cmbCableDiamSecEntry.Change,
+                   &cmbCableCapacitySecEntry.Change,
+                   &VSFlexGridEntry.Change});
+  Tie(R::Intersections,
+      {&txtRockLoadHeightInter.Change, &txtRockFallAngleEntry.Change, &txtRockFallAngleXcut.Change,
+       &txtCableLengthSecInter.Change, &txtCableCapacitySecInter.Change, &txtCableNumberSecInter.Change,
+       &txtTrussAngleSecInter.Change, &txtTrussCapacitySecInter.Change, &txtTrussNumberSecInter.Change,
+       &txtBoltDiameterSecInter.Change, &txtBoltGradeSecInter.Change, &txtBoltNumberSecInter.Change,
+       &txtSupportCapSecInter.Change, &txtSupportNumberSecInter.Change, &cmbBoltDiameterSecInter.Change,
+       &cmbBoltGradeSecInter.Change, &cmbCableDiamSecInter.Change, &cmbCableCapacitySecInter.Change,
+       &VSFlexGridInter.Change});
+}
+
+void ParametersDialog::ApplyManualRating() {
+  txtCMRR.SetEnabled(chkCMRRManual.Checked());
+  cmdCMRR.SetEnabled(!chkCMRRManual.Checked());
+}
+
+void ParametersDialog::TieGeneral() {
+  chkCMRRManual.Click = [this] { ApplyManualRating(); };
+  chkPrimSupport.Click = [this] { SSTab1.SetTabEnabled(1, chkPrimSupport.Checked()); };
+  chkSecondSupEntries.Click = [this] { SSTab1.SetTabEnabled(2, chkSecondSupEntries.Checked()); };
+  chkSecondSupInter.Click = [this] { SSTab1.SetTabEnabled(3, chkSecondSupInter.Checked()); };
+}
+
+void ParametersDialog::TieBolt(const BoltControls& bolt, const Refreshes& refreshes) {
+  bolt.Options.Click = [&bolt](Integer) { ShowBoltFrames(bolt); };
+  bolt.Tabs.Click = [&bolt] { ShowBoltFrames(bolt); };
+  bolt.DiameterMode.Click = [this, &bolt, &refreshes](Integer mode) {
+    ShowListOrText(mode, bolt.DiameterStd, bolt.DiameterManual);
+    Run(refreshes);
+  };
+  bolt.GradeMode.Click = [this, &bolt, &refreshes](Integer mode) {
+    ShowListOrText(mode, bolt.GradeStd, bolt.GradeManual);
+    Run(refreshes);
+  };
+}
+
+void ParametersDialog::TieCable(const CableControls& cable, const Refreshes& refreshes) {
+  for (OptionArray* options : {&cable.CapMode, &cable.Capacity}) {
+    options->Click = [this, &cable, &refreshes](Integer) {
+      ApplyCableRule(cable);
+      Run(refreshes);
+    };
+  }
+}
+
+void ParametersDialog::TieStanding(const StandingControls& standing, const Refreshes& refreshes) {
+  standing.TypeMode.Click = [this, &standing, &refreshes](Integer mode) {
+    ApplyStandingRule(standing, mode);
+    Run(refreshes);
+  };
+  standing.TypeStd.Change = [&standing] { TakeCapacity(standing); };
+}
+
+void ParametersDialog::TieSystems(std::array<CheckBox, SystemCount>& boxes, TabSet& tabs, const Refreshes& refreshes) {
+  int tab = 0;
+  for (CheckBox& box : boxes) {
+    box.Click = [this, &box, &tabs, &refreshes, tab] {
+      tabs.SetTabEnabled(tab, box.Checked());
+      Run(refreshes);
+    };
+    ++tab;
+  }
+}
+
+}  // namespace orby

@@ -1,0 +1,169 @@
+#include "dialogs/convert_dialog.h"
+
+#include <gmock/gmock.h>
+
+#include <string>
+
+#include "support/recording_platform.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// A saved design in English units.
+struct AConversion : testing::Test {
+  AConversion() {
+    program.CurrentFile = "/designs/panel3.ORB";
+    program.FileSaved = true;
+    program.FileEmpty = false;
+    program.WorkParms.DepthofCover = 401.25F;
+    program.WorkParms.EntryWidth = 20;
+    program.WorkParms.BoltGradeStdPrimary = 75;
+    program.WorkParms.CMRR = 45;
+  }
+
+  void ConvertOnce() {
+    ConvertDialog other(program);
+    other.Open();
+    other.Command2.Press();
+  }
+
+  RecordingPlatform platform;
+  Program program{platform.Doors()};
+  ConvertDialog dialog{program};
+};
+
+TEST_F(AConversion, OffersMetricUnitsToAnEnglishDesign) {
+  dialog.Open();
+
+  EXPECT_FALSE(dialog.Option1.MemberEnabled(0));
+  EXPECT_TRUE(dialog.Option1.MemberEnabled(1));
+  EXPECT_FALSE(dialog.Option1.Value(0));
+  EXPECT_TRUE(dialog.Option1.Value(1));
+}
+
+TEST_F(AConversion, OffersEnglishUnitsToAMetricDesign) {
+  program.Units = Metric;
+
+  dialog.Open();
+
+  EXPECT_TRUE(dialog.Option1.MemberEnabled(0));
+  EXPECT_FALSE(dialog.Option1.MemberEnabled(1));
+  EXPECT_TRUE(dialog.Option1.Value(0));
+  EXPECT_FALSE(dialog.Option1.Value(1));
+}
+
+TEST_F(AConversion, IsLoggedWhenItOpens) {
+  dialog.Open();
+
+  EXPECT_EQ(program.history.Text, "1. Loading File Conversion Form\r\n");
+  EXPECT_EQ(program.titles.RangeErrorTitle, "Range Error");
+}
+
+TEST_F(AConversion, NamesItselfItsOptionsAndItsCommands) {
+  EXPECT_EQ(dialog.Name(), "frmConvert");
+  EXPECT_EQ(dialog.Caption(), "File Conversion Utility");
+  EXPECT_EQ(dialog.fraUnits.Caption(), "Units");
+  EXPECT_EQ(dialog.Option1.Caption(0), "feet, psi, pcf");
+  EXPECT_EQ(dialog.Option1.Caption(1), "meters, MPa, kN/m3");
+  EXPECT_EQ(dialog.fraFileOptions.Caption(), "File options");
+  EXPECT_EQ(dialog.Option2.Caption(0), "Keep original project");
+  EXPECT_EQ(dialog.Option2.Caption(1), "Load converted project ");
+  EXPECT_EQ(dialog.Command2.Caption(), "Convert");
+  EXPECT_EQ(dialog.Command1.Caption(), "Cancel");
+  EXPECT_EQ(dialog.Command3.Caption(), "Help");
+}
+
+TEST_F(AConversion, MakesTheDesignAnUnsavedMetricOneAndCloses) {
+  dialog.Open();
+
+  dialog.Command2.Press();
+
+  EXPECT_EQ(program.Units, Metric);
+  EXPECT_EQ(program.CurrentFile, "Metric_panel3.ORB");
+  EXPECT_FALSE(program.FileSaved);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 122.3F);
+  EXPECT_EQ(program.WorkParms.EntryWidth, 6.1F);
+  EXPECT_EQ(program.WorkParms.BoltGradeStdPrimary, 517.0F);
+  EXPECT_EQ(program.WorkParms.CMRR, 45);
+  EXPECT_FALSE(dialog.IsOpen());
+  EXPECT_THAT(platform.files.created, IsEmpty());
+}
+
+TEST_F(AConversion, TellsThatItIsDone) {
+  dialog.Open();
+
+  dialog.Command2.Press();
+
+  ASSERT_EQ(platform.boxes.shown.size(), 1U);
+  EXPECT_EQ(platform.boxes.shown[0].text, "Conversion Completed: The conversion form will be closed");
+  EXPECT_EQ(platform.boxes.shown[0].title, "Orby Roof Support Workbench");
+  EXPECT_EQ(platform.boxes.shown[0].style, box_style::Ok);
+  EXPECT_EQ(program.history.Text,
+            "1. Loading File Conversion Form\r\n"
+            "2. Message: Conversion Completed: The conversion form will be closed\r\n");
+}
+
+TEST_F(AConversion, TellsOfANumberThatNoLongerFitsAndClosesAllTheSame) {
+  program.WorkParms.BoltGradeStdPrimary = 3e38F;
+  dialog.Open();
+
+  dialog.Command2.Press();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error in the Conversion Procedure. Call technical support"));
+  EXPECT_FALSE(dialog.IsOpen());
+  EXPECT_EQ(program.Units, English);
+  EXPECT_EQ(program.CurrentFile, "/designs/panel3.ORB");
+  EXPECT_TRUE(program.FileSaved);
+}
+
+TEST_F(AConversion, IsTheSameWhateverIsChosenForTheFile) {
+  for (const int choice : {0, 1}) {
+    program.Units = English;
+    program.CurrentFile = "/designs/panel3.ORB";
+    program.WorkParms.EntryWidth = 20;
+    ConvertDialog other(program);
+    other.Open();
+    other.Option2.SetValue(choice, true);
+
+    other.Command2.Press();
+
+    EXPECT_EQ(program.Units, Metric) << choice;
+    EXPECT_EQ(program.CurrentFile, "Metric_panel3.ORB") << choice;
+    EXPECT_EQ(program.WorkParms.EntryWidth, 6.1F) << choice;
+  }
+}
+
+TEST_F(AConversion, ThereAndBackLeavesOneDecimalOfTheDepth) {
+  ConvertOnce();
+  ConvertOnce();
+
+  EXPECT_EQ(program.Units, English);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 401.2F);
+}
+
+TEST_F(AConversion, RepeatedPilesThePrefixesUp) {
+  ConvertOnce();
+  ConvertOnce();
+  ConvertOnce();
+
+  EXPECT_EQ(program.CurrentFile, "Metric_English_Metric_panel3.ORB");
+}
+
+TEST_F(AConversion, CancelledChangesNothing) {
+  dialog.Open();
+
+  dialog.Command1.Press();
+
+  EXPECT_FALSE(dialog.IsOpen());
+  EXPECT_EQ(program.Units, English);
+  EXPECT_EQ(program.CurrentFile, "/designs/panel3.ORB");
+  EXPECT_TRUE(program.FileSaved);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 401.25F);
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+}  // namespace
+}  // namespace orby::test

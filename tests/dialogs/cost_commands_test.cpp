@@ -1,0 +1,300 @@
+#include <utility>
+
+#include "dialogs/cost_dialog_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+// ---- checks ---------------------------------------------------------------------------------------------------------
+
+struct Fault {
+  std::string_view name;
+  std::string_view message;
+};
+
+// In the order in which the user is told.
+constexpr std::array<Fault, 22> Faults{{
+    {"txtBoltCost", "Invalid cost per bolt"},
+    {"txtPlateCost", "Invalid cost per plate"},
+    {"txtResinCost", "Invalid cost per resin"},
+    {"txtBitCost", "Invalid cost per bit"},
+    {"txtHeaderCost", "Invalid header cost"},
+    {"txtStrapCost", "Invalid strap/mesh cost"},
+    {"txtnboltsShift", "Invalid number of bolts per shift"},
+    {"txtnBoltsRow", "Invalid number of bolts per row"},
+    {"txtRowSpacing", "Invalid roof bolt row spacing"},
+    {"txtnOperShift", "Invalid number of operators per shift"},
+    {"txtTotalLabor", "Invalid total labor cost per shift"},
+    {"txtHoursShift", "Invalid hours per shift"},
+    {"txtMaintainHrs", "Invalid maintenance hours"},
+    {"txtMaintainCost", "Invalid maintenance cost"},
+    {"txtTranspCost", "Invalid transportation cost"},
+    {"txtCapitalCost", "Invalid machine capital cost"},
+    {"txtYearsDepr", "Invalid number of depreciation years"},
+    {"txtAdvanceShift", "Invalid advance per shift"},
+    {"txtAdvanceRate", "Invalid advance rate"},
+    {"txtCleanProduction", "Invalid clean production"},
+    {"txtShiftsWeek", "Invalid number of shifts per week"},
+    {"txtWeeksYear", "Invalid number of weeks per year"},
+}};
+
+TEST_F(ACostDialog, TellsOfTheFirstNegativeNumberAlone) {
+  dialog.Open();
+  for (const Fault& fault : Faults) Box(fault.name).SetText("-0.01");
+
+  for (const Fault& fault : Faults) {
+    platform.boxes.shown.clear();
+    EXPECT_FALSE(dialog.ValidateCost()) << fault.name;
+    ASSERT_EQ(platform.boxes.shown.size(), 1U) << fault.name;
+    EXPECT_EQ(platform.boxes.shown[0].text, fault.message);
+    EXPECT_EQ(platform.boxes.shown[0].title, "Project Parameters: Range Error");
+    EXPECT_EQ(platform.boxes.shown[0].style, box_style::Critical);
+    EXPECT_EQ(dialog.FocusRequest(), &Box(fault.name));
+    Box(fault.name).SetText("0");
+  }
+  platform.boxes.shown.clear();
+
+  EXPECT_TRUE(dialog.ValidateCost());
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(ACostDialog, AcceptsZeroInEveryField) {
+  dialog.Open();
+  for (const FieldCase& field : CostFieldCases) Box(field.name).SetText("0");
+
+  EXPECT_TRUE(dialog.ValidateCost());
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(ACostDialog, CountsATextThatIsNoNumberAsZero) {
+  dialog.Open();
+  for (const FieldCase& field : CostFieldCases) Box(field.name).SetText("none");
+  Box("txtBitCost").SetText("");
+
+  dialog.Command2.Press();
+
+  EXPECT_FALSE(dialog.IsOpen());
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  for (const FieldCase& field : CostFieldCases) EXPECT_EQ(program.WorkParms.*field.field, 0.0F) << field.name;
+}
+
+// ---- OK and Cancel --------------------------------------------------------------------------------------------------
+
+TEST_F(ACostDialog, WritesEveryFieldOnOk) {
+  dialog.Open();
+  for (const FieldCase& field : CostFieldCases) Box(field.name).SetText(std::string(field.text));
+  dialog.chkAdvance.SetValue(0);
+  dialog.chkProduction.SetValue(0);
+
+  dialog.Command2.Press();
+
+  for (const FieldCase& field : CostFieldCases) EXPECT_EQ(program.WorkParms.*field.field, field.value) << field.name;
+  EXPECT_EQ(program.WorkParms.CostAdvance, 0);
+  EXPECT_EQ(program.WorkParms.CostProduction, 0);
+}
+
+TEST_F(ACostDialog, KeepsTheTwoBoxesApart) {
+  program.WorkParms.CostAdvance = 0;
+  program.WorkParms.CostProduction = 0;
+  dialog.Open();
+  dialog.chkProduction.SetValue(1);
+
+  dialog.Command2.Press();
+
+  EXPECT_EQ(program.WorkParms.CostAdvance, 0);
+  EXPECT_EQ(program.WorkParms.CostProduction, 1);
+}
+
+TEST_F(ACostDialog, LeavesTheRestOfTheDesignAloneOnOk) {
+  program.WorkParms.RowSpacingPrimary = 4.5F;
+  program.WorkParms.BoltsperRowPrimary = 6;
+  dialog.Open();
+  dialog.txtRowSpacing.SetText("3.5");
+
+  dialog.Command2.Press();
+
+  EXPECT_EQ(program.WorkParms.RowSpacingPrimary, 4.5F);
+  EXPECT_EQ(program.WorkParms.BoltsperRowPrimary, 6.0F);
+}
+
+TEST_F(ACostDialog, MakesTheProjectUnsavedAndLocksItsUnitsOnOk) {
+  program.FileEmpty = true;
+  dialog.Open();
+
+  dialog.Command2.Press();
+
+  EXPECT_FALSE(dialog.IsOpen());
+  EXPECT_FALSE(program.FileSaved);
+  EXPECT_FALSE(program.FileEmpty);
+  EXPECT_TRUE(program.UnitsLocked);
+  EXPECT_FALSE(program.DialogOpen);
+  EXPECT_EQ(program.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Modified\r\n");
+}
+
+TEST_F(ACostDialog, StaysOpenWhenOkFindsANegativeNumber) {
+  dialog.Open();
+  dialog.txtHoursShift.SetText("-8");
+  dialog.txtTotalLabor.SetText("40");
+
+  dialog.Command2.Press();
+
+  EXPECT_TRUE(dialog.IsOpen());
+  EXPECT_FALSE(dialog.CommitOnClose);
+  EXPECT_EQ(program.WorkParms.CostTotalLabor, 35.0F);
+  EXPECT_TRUE(program.FileSaved);
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid hours per shift"));
+}
+
+TEST_F(ACostDialog, ForgetsEverythingOnCancel) {
+  program.FileEmpty = true;
+  dialog.Open();
+  for (const FieldCase& field : CostFieldCases) Box(field.name).SetText("77");
+  dialog.chkAdvance.SetValue(0);
+
+  dialog.Command1.Press();
+
+  EXPECT_FALSE(dialog.IsOpen());
+  EXPECT_EQ(program.WorkParms.CostBoltCost, 3.0F);
+  EXPECT_EQ(program.WorkParms.CostWeeksYear, 50.0F);
+  EXPECT_EQ(program.WorkParms.CostAdvance, 1);
+  EXPECT_TRUE(program.FileSaved);
+  EXPECT_TRUE(program.FileEmpty);
+  EXPECT_FALSE(program.UnitsLocked);
+  EXPECT_FALSE(program.DialogOpen);
+  EXPECT_EQ(program.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Not Modified\r\n");
+}
+
+TEST_F(ACostDialog, TreatsTheWindowsCloseAsCancel) {
+  dialog.Open();
+  dialog.txtBoltCost.SetText("9");
+
+  dialog.Close();
+
+  EXPECT_EQ(program.WorkParms.CostBoltCost, 3.0F);
+  EXPECT_TRUE(program.FileSaved);
+  EXPECT_THAT(program.history.Text, EndsWith("2. Project Parameters Not Modified\r\n"));
+}
+
+TEST_F(ACostDialog, FailsOnANumberThatNoDesignCanHoldAndWritesNothing) {
+  dialog.Open();
+  dialog.txtBoltCost.SetText("9");
+  dialog.txtWeeksYear.SetText("1E39");
+
+  EXPECT_EQ(ErrorNumberOf([this] { dialog.Command2.Press(); }), 6);
+
+  EXPECT_EQ(program.WorkParms.CostBoltCost, 3.0F);
+  EXPECT_TRUE(program.FileSaved);
+}
+
+TEST_F(ACostDialog, TellsHowToGetHelp) {
+  dialog.Open();
+
+  dialog.Command3.Press();
+
+  ASSERT_EQ(platform.boxes.shown.size(), 1U);
+  EXPECT_EQ(platform.boxes.shown[0].title, "Help");
+  EXPECT_THAT(platform.boxes.shown[0].text, EndsWith("press F1 for context-sensitive Help"));
+  EXPECT_TRUE(dialog.IsOpen());
+}
+
+// ---- results --------------------------------------------------------------------------------------------------------
+
+TEST_F(ACostDialog, ShowsTheCostTableOfTheTypedNumbers) {
+  program.WorkParms.Cost() = CostGroup{};
+  dialog.Open();
+  for (const auto& [name, text] : {std::pair{"txtBoltCost", "3"},
+                                   {"txtPlateCost", "1"},
+                                   {"txtResinCost", "1.5"},
+                                   {"txtBitCost", "67"},
+                                   {"txtnboltsShift", "300"},
+                                   {"txtnBoltsRow", "4"},
+                                   {"txtRowSpacing", "4"},
+                                   {"txtTranspCost", "100"},
+                                   {"txtCleanProduction", "1200"}}) {
+    Box(name).SetText(text);
+  }
+  std::string shown;
+  platform.windows.onResults = [&] { shown = program.OutBuf[1]; };
+
+  dialog.cmdresults.Press();
+
+  EXPECT_EQ(platform.windows.resultsShown, 1);
+  EXPECT_THAT(shown, StartsWith("[TULK COST CALCULATIONS]\r\n"));
+  EXPECT_THAT(shown, HasSubstr("Consumables Cost:            5.72      5.72   1717.00      1.43\r\n"));
+  EXPECT_THAT(shown, HasSubstr("Transportation Cost:         0.33      0.33    100.00      0.08\r\n"));
+  EXPECT_THAT(shown, HasSubstr("TOTAL COST:                  6.06      6.06   1817.00      1.51\r\n"));
+}
+
+TEST_F(ACostDialog, ShowsTheInputsBesideTheCostTable) {
+  program.ProjectTitle = "Panel 3 belt entry";
+  dialog.Open();
+  program.OutBuf[0] = "an older report";
+
+  dialog.cmdresults.Press();
+
+  EXPECT_THAT(program.OutBuf[0], StartsWith("ORBY module build: "));
+  EXPECT_THAT(program.OutBuf[0], HasSubstr("Panel 3 belt entry"));
+}
+
+TEST_F(ACostDialog, CommitsNothingByShowingResults) {
+  program.WorkParms.CMRR = 45;
+  program.WorkParmsCopy.CMRR = 60;
+  dialog.Open();
+  for (const FieldCase& field : CostFieldCases) Box(field.name).SetText(std::string(field.text));
+  dialog.chkAdvance.SetValue(0);
+  dialog.chkProduction.SetValue(0);
+  program.ReportCaller = report_caller::None;
+
+  dialog.cmdresults.Press();
+
+  for (const FieldCase& field : CostFieldCases)
+    EXPECT_EQ(program.WorkParmsCopy.*field.field, field.value) << field.name;
+  EXPECT_EQ(program.WorkParmsCopy.CostAdvance, 0);
+  EXPECT_EQ(program.WorkParmsCopy.CostProduction, 0);
+  EXPECT_EQ(program.WorkParmsCopy.CMRR, 60);
+  EXPECT_EQ(program.WorkParms.CostBoltCost, 3.0F);
+  EXPECT_EQ(program.WorkParms.CostWeeksYear, 50.0F);
+  EXPECT_EQ(program.WorkParms.CostAdvance, 1);
+  EXPECT_EQ(program.WorkParms.CostProduction, 1);
+  EXPECT_EQ(program.WorkParms.CMRR, 45);
+  EXPECT_EQ(program.ReportCaller, report_caller::Cost);
+  EXPECT_TRUE(program.FileSaved);
+  EXPECT_FALSE(program.UnitsLocked);
+  EXPECT_TRUE(dialog.IsOpen());
+}
+
+TEST_F(ACostDialog, LeavesTheDesignAsItWasByCancelAfterResults) {
+  dialog.Open();
+  dialog.txtBoltCost.SetText("4.2");
+  dialog.chkProduction.SetValue(0);
+  dialog.cmdresults.Press();
+
+  dialog.Command1.Press();
+
+  EXPECT_EQ(program.WorkParms.CostBoltCost, 3.0F);
+  EXPECT_EQ(program.WorkParms.CostProduction, 1);
+  EXPECT_TRUE(program.FileSaved);
+  EXPECT_THAT(program.history.Text, EndsWith("Project Parameters Not Modified\r\n"));
+}
+
+TEST_F(ACostDialog, ShowsNoResultsOfANegativeNumber) {
+  dialog.Open();
+  program.OutBuf[1] = "an older report";
+  dialog.txtYearsDepr.SetText("-5");
+
+  dialog.cmdresults.Press();
+
+  EXPECT_EQ(platform.windows.resultsShown, 0);
+  EXPECT_EQ(program.OutBuf[1], "an older report");
+  EXPECT_EQ(program.WorkParmsCopy.CostBoltCost, 0.0F);
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid number of depreciation years"));
+}
+
+}  // namespace
+}  // namespace orby::test

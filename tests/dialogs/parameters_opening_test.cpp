@@ -1,0 +1,279 @@
+#include "parameters_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using OpeningParameters = AParametersDialog;
+using ClosingParameters = AParametersDialog;
+
+// ---- opening --------------------------------------------------------------------------------------------------------
+
+TEST_F(OpeningParameters, IsLoggedCentredAndFreeOfTheWaitCursor) {
+  program.platform.windows.SetWaitCursor(true);
+
+  dialog.Open();
+
+  EXPECT_EQ(program.history.Text, "1. Editing Project Parameters\r\n");
+  EXPECT_EQ(platform.windows.centered, 1);
+  EXPECT_FALSE(platform.windows.waitCursor);
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(OpeningParameters, TakesTheDialogsFlagsTitlesAndReport) {
+  dialog.HoldEvents = dialog.CommitOnClose = dialog.WasCommitted = true;
+  program.ReportCaller = report_caller::Cost;
+
+  dialog.Open();
+
+  EXPECT_TRUE(program.DialogOpen);
+  EXPECT_FALSE(dialog.HoldEvents);
+  EXPECT_FALSE(dialog.CommitOnClose);
+  EXPECT_FALSE(dialog.WasCommitted);
+  EXPECT_EQ(program.ReportCaller, 1);
+  EXPECT_EQ(program.titles.RangeErrorTitle, "Project Parameters: Range Error");
+}
+
+TEST_F(OpeningParameters, LeavesTheDesignAndItsFlagsAlone) {
+  dialog.Open();
+
+  EXPECT_TRUE(program.FileSaved);
+  EXPECT_TRUE(program.FileEmpty);
+  EXPECT_FALSE(program.UnitsLocked);
+  EXPECT_EQ(program.WorkParms.CMRR, 45);
+  EXPECT_EQ(program.WorkParms.RockLoadEntry1, 0);
+}
+
+TEST_F(OpeningParameters, ShowsTheGeneralTabAndTheCableTabs) {
+  dialog.SSTab1.SetTab(3);
+  dialog.SSTab2.SetTab(2);
+  dialog.SSTab3.SetTab(1);
+
+  dialog.Open();
+
+  EXPECT_EQ(dialog.SSTab1.Tab(), 0);
+  EXPECT_EQ(dialog.SSTab2.Tab(), 0);
+  EXPECT_EQ(dialog.SSTab3.Tab(), 0);
+}
+
+std::vector<bool> EnabledTabs(const TabSet& tabs) {
+  std::vector<bool> enabled;
+  for (int tab = 0; tab < tabs.Count(); ++tab) enabled.push_back(tabs.TabEnabled(tab));
+  return enabled;
+}
+
+TEST_F(OpeningParameters, EnablesTheTabsOfWhatIsAnalysed) {
+  program.WorkParms.SecondSupEntries = 0;
+  program.WorkParms.SecEntryUseTruss = 1;
+  program.WorkParms.SecInterUseStanding = 1;
+
+  dialog.Open();
+
+  EXPECT_THAT(EnabledTabs(dialog.SSTab1), ElementsAre(true, true, false, true));
+  EXPECT_THAT(EnabledTabs(dialog.SSTab2), ElementsAre(true, true, false, false));
+  EXPECT_THAT(EnabledTabs(dialog.SSTab3), ElementsAre(true, false, false, true));
+}
+
+TEST_F(OpeningParameters, LeavesTheCableTabOpenWhenNoSystemIsChosen) {
+  program.WorkParms.PrimSupport = program.WorkParms.SecondSupInter = 0;
+  program.WorkParms.SecEntryUseCable = program.WorkParms.SecInterUseCable = 0;
+
+  dialog.Open();
+
+  EXPECT_THAT(EnabledTabs(dialog.SSTab1), ElementsAre(true, false, true, false));
+  EXPECT_THAT(EnabledTabs(dialog.SSTab2), ElementsAre(true, false, false, false));
+  EXPECT_THAT(EnabledTabs(dialog.SSTab3), ElementsAre(true, false, false, false));
+}
+
+TEST_F(OpeningParameters, ForcesAMetricDesignToSpecifyCablesByCapacity) {
+  StartDesign(Metric);
+  ASSERT_EQ(program.WorkParms.CableCapModeSecEntry, 0);
+  ASSERT_EQ(program.WorkParms.CableCapModeSecInter, 0);
+
+  dialog.Open();
+
+  EXPECT_EQ(program.WorkParms.CableCapModeSecEntry, 1);
+  EXPECT_EQ(program.WorkParms.CableCapModeSecInter, 1);
+  for (const OptionArray* options : {&dialog.optCableCapModeSecEntry, &dialog.optCableCapModeSecInter}) {
+    EXPECT_FALSE(options->MemberEnabled(0)) << options->Name();
+    EXPECT_TRUE(options->MemberEnabled(1)) << options->Name();
+    EXPECT_TRUE(options->Value(1)) << options->Name();
+  }
+}
+
+TEST_F(OpeningParameters, LeavesAnEnglishDesignTheChoiceOfCableDiameters) {
+  dialog.Open();
+
+  for (const OptionArray* options : {&dialog.optCableCapModeSecEntry, &dialog.optCableCapModeSecInter}) {
+    EXPECT_TRUE(options->MemberEnabled(0)) << options->Name();
+    EXPECT_TRUE(options->Value(0)) << options->Name();
+  }
+}
+
+TEST_F(OpeningParameters, HandsTheRatingsOriginToTheEstimator) {
+  program.WorkParms.CMRRRegionIndex = 4;
+  program.WorkParms.CMRRRockTypeIndex = 3;
+
+  dialog.Open();
+
+  EXPECT_EQ(program.estimator.EstimatorRegion, 4);
+  EXPECT_EQ(program.estimator.EstimatorRockType, 3);
+  EXPECT_EQ(dialog.txtRegion.Text(), "");
+  EXPECT_EQ(dialog.txtOption.Text(), "");
+}
+
+TEST_F(OpeningParameters, ShowsTheFourLiveResultsOnce) {
+  dialog.Open();
+
+  EXPECT_EQ(dialog.txtSugPSUP.Text(), "7.6");
+  EXPECT_EQ(dialog.txtActualPSUP.Text(), "5.1");
+  EXPECT_EQ(dialog.txtRockLoadEntry[0].Text(), "10.0");
+  EXPECT_EQ(dialog.txtRockLoadInter[0].Text(), "183");
+}
+
+TEST_F(OpeningParameters, RunsNoRefreshWhileTheFieldsAreFilled) {
+  // A depth of 0 stops the first of the four refreshes, so the outputs show whether any ran before.
+  program.WorkParms.DepthofCover = 0;
+
+  EXPECT_EQ(ErrorNumberOf([this] { dialog.Open(); }), 5);
+
+  EXPECT_EQ(dialog.txtSupportRowSpacingSecEntry.Text(), "8");
+  EXPECT_EQ(dialog.txtSugPSUP.Text(), "");
+  EXPECT_EQ(dialog.txtActualPSUP.Text(), "");
+  EXPECT_THAT(TextsOf(dialog.txtRockLoadEntry), ElementsAre("---", "---", "---", "---"));
+  EXPECT_THAT(TextsOf(dialog.txtRockLoadInter), ElementsAre("---", "---", "---", "---"));
+}
+
+TEST_F(OpeningParameters, TellsOfAnOptionThatDoesNotExistAndFails) {
+  const std::vector<Integer ProjectRecord::*> fields{
+      &ProjectRecord::BoltOptionsPrimary,       &ProjectRecord::BoltDiameterModePrimary,
+      &ProjectRecord::BoltGradeModePrimary,     &ProjectRecord::BoltOptionsSecEntry,
+      &ProjectRecord::BoltDiameterModeSecEntry, &ProjectRecord::BoltGradeModeSecEntry,
+      &ProjectRecord::BoltOptionsSecInter,      &ProjectRecord::BoltDiameterModeSecInter,
+      &ProjectRecord::BoltGradeModeSecInter,    &ProjectRecord::CableCapModeSecEntry,
+      &ProjectRecord::CableCapacitySecEntry,    &ProjectRecord::CableCapModeSecInter,
+      &ProjectRecord::CableCapacitySecInter,    &ProjectRecord::SupportTypeModeSecEntry,
+      &ProjectRecord::SupportTypeModeSecInter};
+  for (const auto field : fields) {
+    for (const Integer index : {Integer{2}, Integer{-1}}) {
+      StartDesign(English);
+      program.WorkParms.*field = index;
+      platform.boxes.shown.clear();
+      ParametersDialog other(program);
+
+      EXPECT_EQ(ErrorNumberOf([&other] { other.Open(); }), 9) << index;
+
+      ASSERT_EQ(platform.boxes.shown.size(), 1U) << index;
+      EXPECT_EQ(platform.boxes.shown[0].text, "Internal Error: SetArrayIndex. Check input/form data.");
+      EXPECT_EQ(platform.boxes.shown[0].title, "Project Parameters: Range Error");
+    }
+  }
+}
+
+TEST_F(OpeningParameters, LetsOnlyTheMarkedFieldsFilterKeys) {
+  dialog.Open();
+
+  std::vector<std::string> filtered;
+  for (Control* control : dialog.Controls()) {
+    const auto* box = dynamic_cast<TextBox*>(control);
+    if (box == nullptr || box->Kind() == TextKind::Output) continue;
+    if (box->KeyPress('x') == 0) filtered.emplace_back(box->Name());
+  }
+
+  EXPECT_THAT(filtered, ElementsAre("txtCMRR", "txtDepthofCover", "txtUnitWeight", "txtActualSpanDiagonals",
+                                    "txtEntryWidth", "txtStabilityFactor"));
+}
+
+TEST_F(OpeningParameters, SelectsTheWholeTextOfTheFieldThatGetsTheFocus) {
+  dialog.Open();
+  dialog.RequestFocus(dialog.txtDepthofCover);
+
+  SelectAllText(dialog);
+
+  EXPECT_EQ(dialog.txtDepthofCover.SelectionStart(), 0U);
+  EXPECT_EQ(dialog.txtDepthofCover.SelectionLength(), 3U);
+}
+
+// ---- closing --------------------------------------------------------------------------------------------------------
+
+TEST_F(ClosingParameters, WithOkCommitsAndLocksTheUnits) {
+  dialog.Open();
+  Do("txtEntryWidth=19");
+
+  dialog.Command2.Press();
+
+  EXPECT_FALSE(dialog.IsOpen());
+  EXPECT_TRUE(dialog.WasCommitted);
+  EXPECT_EQ(program.WorkParms.EntryWidth, 19);
+  EXPECT_TRUE(program.UnitsLocked);
+  EXPECT_FALSE(program.FileSaved);
+  EXPECT_FALSE(program.FileEmpty);
+  EXPECT_FALSE(program.DialogOpen);
+  EXPECT_EQ(program.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Modified\r\n");
+}
+
+TEST_F(ClosingParameters, WithOkCountsAsAModificationEvenWithoutAChange) {
+  dialog.Open();
+
+  dialog.Command2.Press();
+
+  EXPECT_FALSE(program.FileSaved);
+  EXPECT_EQ(program.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Modified\r\n");
+}
+
+TEST_F(ClosingParameters, WithCancelOrTheWindowsCloseSavesNothing) {
+  for (const bool cancelled : {true, false}) {
+    StartDesign(English);
+    ParametersDialog other(program);
+    other.Open();
+    Edit(other, "txtEntryWidth=19");
+
+    if (cancelled) {
+      other.Command1.Press();
+    } else {
+      other.Close();
+    }
+
+    EXPECT_FALSE(other.IsOpen());
+    EXPECT_FALSE(other.WasCommitted);
+    EXPECT_EQ(program.WorkParms.EntryWidth, 20);
+    EXPECT_FALSE(program.UnitsLocked);
+    EXPECT_TRUE(program.FileSaved);
+    EXPECT_TRUE(program.FileEmpty);
+    EXPECT_FALSE(program.DialogOpen);
+    EXPECT_EQ(program.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Not Modified\r\n");
+  }
+}
+
+TEST_F(ClosingParameters, IsRefusedByOkWhileAFieldIsWrong) {
+  dialog.Open();
+  Do("txtCMRR=100");
+
+  dialog.Command2.Press();
+
+  EXPECT_TRUE(dialog.IsOpen());
+  EXPECT_FALSE(dialog.CommitOnClose);
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid CMRR"));
+  EXPECT_TRUE(program.FileSaved);
+  EXPECT_EQ(dialog.txtCMRR.Text(), "100");
+}
+
+TEST_F(ClosingParameters, IsNotDoneByViewCopyClipOrHelp) {
+  dialog.Open();
+
+  dialog.cmdView.Press();
+  dialog.Command5.Press();
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  dialog.Command3.Press();
+
+  EXPECT_TRUE(dialog.IsOpen());
+  ASSERT_EQ(platform.boxes.shown.size(), 1U);
+  EXPECT_EQ(platform.boxes.shown[0].text,
+            "Position the cursor on any item on the form and press F1 for context-sensitive Help");
+  EXPECT_EQ(platform.boxes.shown[0].title, "Help");
+}
+
+}  // namespace
+}  // namespace orby::test
