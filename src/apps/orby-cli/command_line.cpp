@@ -1,0 +1,62 @@
+#include "apps/orby-cli/command_line.h"
+
+namespace orby::cli {
+namespace {
+
+// Takes the words off one by one.
+class Words {
+ public:
+  explicit Words(const std::vector<std::string>& words) : words_(words) {}
+
+  bool Done() const { return at_ == words_.size(); }
+  const std::string& Take() { return words_[at_++]; }
+  std::optional<std::string> TakeValue() {
+    if (Done()) return std::nullopt;
+    return Take();
+  }
+
+ private:
+  const std::vector<std::string>& words_;
+  std::size_t at_ = 0;
+};
+
+// False for an option that does not exist or lacks its value.
+bool TakeOption(const std::string& option, Words& words, CommandLine& line) {
+  if (option == "--help" || option == "-h") return line.Help = true;
+  if (option == "--validate") return line.Validate = true;
+  if (option == "--aus") return line.AustralianTable = true;
+  if (option == "--name") return (line.Name = words.TakeValue()).has_value();
+  if (option == "--config") return (line.Config = words.TakeValue()).has_value();
+  if (option == "--page") {
+    const auto page = words.TakeValue();
+    if (page != "0" && page != "1") return false;
+    line.Page = *page == "0" ? 0 : 1;
+    return true;
+  }
+  return false;
+}
+
+bool IsOption(const std::string& word) { return word.size() > 1 && word.front() == '-'; }
+
+}  // namespace
+
+std::optional<CommandLine> ParseCommandLine(const std::vector<std::string>& words) {
+  CommandLine line;
+  Words rest(words);
+  bool optionsEnded = false;
+  while (!rest.Done()) {
+    const std::string& word = rest.Take();
+    if (!optionsEnded && word == "--") {
+      optionsEnded = true;
+    } else if (!optionsEnded && IsOption(word)) {
+      if (!TakeOption(word, rest, line)) return std::nullopt;
+    } else if (line.Command.empty()) {
+      line.Command = word;
+    } else {
+      line.Operands.push_back(word);
+    }
+  }
+  return line;
+}
+
+}  // namespace orby::cli

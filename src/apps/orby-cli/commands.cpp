@@ -1,0 +1,253 @@
+#include "apps/orby-cli/commands.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdio>
+
+#include "apps/orby-cli/script_platform.h"
+#include "base/runtime_error.h"
+#include "base/text.h"
+#include "dialogs/convert_dialog.h"
+#include "dialogs/cost_dialog.h"
+#include "dialogs/parameters_dialog.h"
+#include "engine/curves.h"
+#include "files/project_file.h"
+#include "files/project_writer.h"
+#include "shell/start_up.h"
+
+namespace orby::cli {
+
+const std::string_view UsageText = R"(usage: orby-cli COMMAND [OPTION]... FILE...
+
+  report [--page 0|1] [--validate] FILE...   the pages of the calculation results
+  cost FILE...                               the cost table
+  curve N FILE                               the points of curve N (0 to 9), a line "x,y" each
+  live FILE                                  the outputs of the parameters dialog as it opens
+  validate FILE                              what is wrong with the design, a line each
+  save FILE OUT                              the project written anew to OUT
+  convert FILE OUT                           the project in the other unit system, written to OUT
+
+  --name TEXT     the file name that the report shows
+  --aus           the Australian bolt table (Metric projects)
+  --config INI    defaults and catalogs from this configuration file
+  --help          this text
+
+exit status: 0 done, 1 usage, 2 not a project file, 3 run-time error, 4 validation messages;
+with several files the highest.
+)";
+
+namespace {
+
+void Print(std::string_view text) {
+  if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) throw RuntimeError(error_number::DiskFull);
+}
+
+// One run of the program on one file.
+struct Session {
+  Session(ScriptPlatform& platformGiven, const Program& start, const CommandLine& lineGiven)
+      : platform(platformGiven), program(start), line(lineGiven) {}
+
+  ScriptPlatform& platform;
+  Program program;
+  const CommandLine& line;
+};
+
+// False when the file is no project.
+bool OpenProject(Session& session, const std::string& file) {
+  session.program.CurrentFile = file;
+  bool opened = false;
+  FileOpen(session.program, opened);
+  if (opened && session.line.Name) session.program.CurrentFile = *session.line.Name;
+  return opened;
+}
+
+void SaveAs(Session& session, const std::string& file) {
+  session.program.CurrentFile = file;
+  bool saved = false;
+  FileSave(session.program, saved);
+}
+
+int Report(Session& session, const std::string&) {
+  ParametersDialog dialog(session.program);
+  dialog.Open();
+  if (session.line.Validate && !dialog.ValidateParameters()) return exit_code::Invalid;
+  dialog.BuildReport();
+  for (const int page : {0, 1}) {
+    if (session.line.Page.value_or(page) == page) Print(session.program.OutBuf[static_cast<std::size_t>(page)]);
+  }
+  return exit_code::Done;
+}
+
+int Cost(Session& session, const std::string&) {
+  CostDialog dialog(session.program);
+  dialog.Open();
+  dialog.BuildReport();
+  Print(session.program.OutBuf[1]);
+  return exit_code::Done;
+}
+
+void AppendSingle(std::string& text, Single value) {
+  std::array<char, 32> digits{};
+  const auto end =
+      std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::general, 9).ptr;
+  text.append(digits.data(), end);
+}
+
+int CurveOf(Session& session, const std::string& number) {
+  ParametersDialog dialog(session.program);
+  dialog.Open();
+  dialog.BuildReport();
+  GenerateCurve(session.program, static_cast<Integer>(number.front() - '0'));
+  const Curve& curve = session.program.curve;
+  std::string text;
+  for (std::size_t i = 0; i < static_cast<std::size_t>(curve.CurvePointCount); ++i) {
+    AppendSingle(text, curve.CurvePoints[0][i]);
+    text += ',';
+    AppendSingle(text, curve.CurvePoints[1][i]);
+    text += '\n';
+  }
+  Print(text);
+  return exit_code::Done;
+}
+
+void AppendOutput(std::string& text, const TextBox& box) {
+  text += box.Name();
+  text += '=';
+  for (const char c : box.Text()) {
+    if (c == '\r') {
+      text += "\\r";
+    } else if (c == '\n') {
+      text += "\\n";
+    } else {
+      text += c;
+    }
+  }
+  text += '\n';
+}
+
+int Live(Session& session, const std::string&) {
+  ParametersDialog dialog(session.program);
+  dialog.Open();
+  std::string text;
+  for (const Control* control : dialog.Controls()) {
+    const auto* box = dynamic_cast<const TextBox*>(control);
+    if (box != nullptr && box->Kind() == TextKind::Output) AppendOutput(text, *box);
+  }
+  text += dialog.txtMessage.Name();
+  text += dialog.txtMessage.Visible() ? ".Visible=1\n" : ".Visible=0\n";
+  Print(text);
+  return exit_code::Done;
+}
+
+int Validate(Session& session, const std::string&) {
+  ParametersDialog dialog(session.program);
+  dialog.Open();
+  session.platform.boxes.Keeps = true;
+  const bool valid = dialog.ValidateParameters();
+  for (const std::string& message : session.platform.boxes.Kept) Print(message + "\n");
+  return valid ? exit_code::Done : exit_code::Invalid;
+}
+
+int Save(Session& session, const std::string& out) {
+  SaveAs(session, out);
+  return exit_code::Done;
+}
+
+int Convert(Session& session, const std::string& out) {
+  const Integer before = session.program.Units;
+  ConvertDialog dialog(session.program);
+  dialog.Open();
+  dialog.Command2.Press();
+  if (session.program.Units == before) return exit_code::RunTimeError;
+  SaveAs(session, out);
+  return exit_code::Done;
+}
+
+bool IsCurveNumber(const std::string& word) { return word.size() == 1 && word[0] >= '0' && word[0] <= '9'; }
+
+// How a command's operands stand: files alone, or one file with another word before or behind it.
+enum class Shape { Files, OneFile, NumberFile, FileOut };
+
+struct Command {
+  std::string_view name;
+  Shape shape;
+  // Runs on an opened project; extra is the word beside the file, if the command takes one.
+  int (*run)(Session& session, const std::string& extra);
+};
+
+constexpr std::array Commands{
+    Command{"report", Shape::Files, Report},       Command{"cost", Shape::Files, Cost},
+    Command{"curve", Shape::NumberFile, CurveOf},  Command{"live", Shape::OneFile, Live},
+    Command{"validate", Shape::OneFile, Validate}, Command{"save", Shape::FileOut, Save},
+    Command{"convert", Shape::FileOut, Convert},
+};
+
+bool FitsShape(const std::vector<std::string>& operands, Shape shape) {
+  switch (shape) {
+    case Shape::Files: return !operands.empty();
+    case Shape::OneFile: return operands.size() == 1;
+    case Shape::NumberFile: return operands.size() == 2 && IsCurveNumber(operands[0]);
+    case Shape::FileOut: return operands.size() == 2;
+  }
+  return false;
+}
+
+int TellError(const RuntimeError& error) {
+  const std::string text = std::string(error.what()) + "\n";
+  std::fwrite(text.data(), 1, text.size(), stderr);
+  return exit_code::RunTimeError;
+}
+
+int RunOnFile(const Command& command, Session session, const std::string& file, const std::string& extra) {
+  try {
+    return OpenProject(session, file) ? command.run(session, extra) : exit_code::Refused;
+  } catch (const RuntimeError& error) {
+    return TellError(error);
+  }
+}
+
+int RunOnOperands(const Command& command, const CommandLine& line) {
+  ScriptPlatform platform;
+  Program start(platform.Doors());
+  if (line.Config) {
+    const IniText configuration = IniText::FromFileBytes(platform.files.ReadFile(*line.Config));
+    StartProgram(start, &configuration);
+  } else {
+    StartProgram(start, nullptr);
+  }
+  if (line.AustralianTable) start.UseAUSStandardTable = 1;
+
+  const auto& operands = line.Operands;
+  const auto run = [&](const std::string& file, const std::string& extra) {
+    return RunOnFile(command, Session(platform, start, line), file, extra);
+  };
+  switch (command.shape) {
+    case Shape::NumberFile: return run(operands[1], operands[0]);
+    case Shape::FileOut: return run(operands[0], operands[1]);
+    default: break;
+  }
+  int worst = exit_code::Done;
+  for (const std::string& file : operands) worst = std::max(worst, run(file, {}));
+  return worst;
+}
+
+}  // namespace
+
+int RunCommand(const CommandLine& line) {
+  const auto* command = std::find_if(Commands.begin(), Commands.end(),
+                                     [&line](const Command& entry) { return entry.name == line.Command; });
+  if (command == Commands.end() || !FitsShape(line.Operands, command->shape)) {
+    std::fwrite(UsageText.data(), 1, UsageText.size(), stderr);
+    return exit_code::Usage;
+  }
+  try {
+    const int code = RunOnOperands(*command, line);
+    if (std::fflush(stdout) != 0) throw RuntimeError(error_number::DiskFull);
+    return code;
+  } catch (const RuntimeError& error) {
+    return TellError(error);
+  }
+}
+
+}  // namespace orby::cli

@@ -1,0 +1,68 @@
+#include "apps/orby-cli/script_platform.h"
+
+#include <cstdio>
+
+#include "base/runtime_error.h"
+
+namespace orby::cli {
+namespace {
+
+// A folder that no path of the machine reaches.
+constexpr std::string_view ScratchFolder{"\0scratch", 8};
+
+bool IsScratch(const std::string& path) { return path.starts_with(ScratchFolder); }
+
+class ScratchFile : public OutputFile {
+ public:
+  explicit ScratchFile(std::string& text) : text_(text) {}
+  void Write(std::string_view bytes) override { text_ += bytes; }
+  void Close() override {}
+
+ private:
+  std::string& text_;
+};
+
+}  // namespace
+
+int ScriptBoxes::Show(const MessageBox& box) {
+  if (Keeps) {
+    Kept.push_back(box.text);
+  } else {
+    const std::string line = "message: " + box.text + "\n";
+    std::fwrite(line.data(), 1, line.size(), stderr);
+  }
+  // Nobody is there to retry or to agree to anything.
+  const bool asks = (box.style & box_style::RetryCancel) != 0;
+  return asks ? box_result::Cancel : box_result::Ok;
+}
+
+bool ScriptFiles::Finds(const std::string& path, bool foldersToo) {
+  if (IsScratch(path)) return path == ScratchFolder ? foldersToo : scratch_.contains(path);
+  return DiskFiles::Finds(path, foldersToo);
+}
+
+std::string ScriptFiles::ReadFile(const std::string& path) {
+  return IsScratch(path) ? scratch_.at(path) : DiskFiles::ReadFile(path);
+}
+
+std::unique_ptr<OutputFile> ScriptFiles::CreateFile(const std::string& path) {
+  if (!IsScratch(path)) return DiskFiles::CreateFile(path);
+  std::string& text = scratch_[path];
+  text.clear();
+  return std::make_unique<ScratchFile>(text);
+}
+
+void ScriptFiles::RemoveFile(const std::string& path) {
+  if (IsScratch(path)) {
+    scratch_.erase(path);
+  } else {
+    DiskFiles::RemoveFile(path);
+  }
+}
+
+std::string ScriptFiles::TemporaryFolder() { return std::string(ScratchFolder); }
+
+std::string ScriptFileDialogs::AskOpenName(const FileQuestion&) { throw RuntimeError(error_number::Cancelled); }
+std::string ScriptFileDialogs::AskSaveName(const FileQuestion&) { throw RuntimeError(error_number::Cancelled); }
+
+}  // namespace orby::cli

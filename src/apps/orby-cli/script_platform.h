@@ -1,0 +1,73 @@
+// The platform of a script: no windows, messages on standard error, temporary files in memory.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/disk_files.h"
+#include "platform/platform.h"
+
+namespace orby::cli {
+
+// Tells messages on standard error as "message: text", or keeps them for whoever asked for them.
+class ScriptBoxes : public MessageBoxes {
+ public:
+  int Show(const MessageBox& box) override;
+
+  bool Keeps = false;
+  std::vector<std::string> Kept;
+};
+
+// The machine's files, but for the temporary ones: nothing is written that was not asked for.
+class ScriptFiles : public DiskFiles {
+ public:
+  ScriptFiles() : DiskFiles(".") {}
+
+  bool Finds(const std::string& path, bool foldersToo) override;
+  std::string ReadFile(const std::string& path) override;
+  std::unique_ptr<OutputFile> CreateFile(const std::string& path) override;
+  void RemoveFile(const std::string& path) override;
+  std::string TemporaryFolder() override;
+
+ private:
+  std::map<std::string, std::string> scratch_;
+};
+
+class ScriptFileDialogs : public FileDialogs {
+ public:
+  std::string AskOpenName(const FileQuestion& question) override;
+  std::string AskSaveName(const FileQuestion& question) override;
+};
+
+class NoWindows : public Windows {
+ public:
+  void ShowModal(Form&) override {}
+  void ShowResults() override {}
+  void CenterForm(Form&) override {}
+  void SetWaitCursor(bool) override {}
+};
+
+class NoFonts : public Fonts {
+ public:
+  std::vector<std::string> ScreenFonts() override { return {}; }
+  std::vector<std::string> PrinterFonts() override { return {}; }
+};
+
+class PointLocale : public Locale {
+ public:
+  std::string DecimalSeparator() override { return "."; }
+};
+
+struct ScriptPlatform {
+  ScriptBoxes boxes;
+  ScriptFiles files;
+  ScriptFileDialogs fileDialogs;
+  NoWindows windows;
+  NoFonts fonts;
+  PointLocale locale;
+
+  Platform Doors() { return {boxes, files, fileDialogs, windows, fonts, locale}; }
+};
+
+}  // namespace orby::cli

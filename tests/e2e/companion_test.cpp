@@ -1,0 +1,213 @@
+// The command line: its words, its exit codes, and what it leaves alone.
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "companion_run.h"
+
+namespace orby::test {
+namespace {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+class Companion : public CompanionTest {};
+
+TEST_F(Companion, TellsHowItIsUsedOnRequest) {
+  const Outcome outcome = Run({"--help"});
+
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_THAT(outcome.out, StartsWith("usage: orby-cli COMMAND"));
+  EXPECT_EQ(outcome.err, "");
+}
+
+TEST_F(Companion, EndsWithTheUsageWhenTheWordsMakeNoSense) {
+  const std::string file = Example("weak-roof");
+  const std::vector<std::vector<std::string>> lines{
+      {},
+      {"reprot", file},
+      {"report"},
+      {"report", "--page", "2", file},
+      {"report", "--page"},
+      {"report", file, "--name"},
+      {"report", "--colour", file},
+      {"curve", file},
+      {"curve", "10", file},
+      {"curve", "x", file},
+      {"live", file, file},
+      {"save", file},
+      {"convert", file, Path("a.ORB"), Path("b.ORB")},
+  };
+
+  for (const auto& words : lines) {
+    const Outcome outcome = Run(words);
+    EXPECT_EQ(outcome.exitCode, 1) << testing::PrintToString(words);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_THAT(outcome.err, StartsWith("usage: "));
+  }
+}
+
+TEST_F(Companion, PrintsOnePageOfTheReportOrBothWithNothingBetween) {
+  const std::string file = Example("development-entry");
+
+  const Outcome both = Run({"report", file});
+  const Outcome echo = Run({"report", "--page", "0", file});
+  const Outcome calculations = Run({"report", "--page", "1", file});
+
+  EXPECT_EQ(both.exitCode, 0);
+  EXPECT_THAT(echo.out, StartsWith("ORBY module build: 201030\r\n"));
+  EXPECT_THAT(calculations.out, StartsWith("[ORBY CALCULATIONS]\r\n"));
+  EXPECT_EQ(both.out, echo.out + calculations.out);
+}
+
+TEST_F(Companion, ShowsTheGivenNameInTheReport) {
+  const std::string file = Example("development-entry");
+
+  EXPECT_THAT(Run({"report", "--page", "0", file}).out, HasSubstr("development-entry.ORB\r\n"));
+  EXPECT_THAT(Run({"report", "--page", "0", "--name", "east.ORB", file}).out, HasSubstr("Project File: east.ORB\r\n"));
+}
+
+TEST_F(Companion, PrintsTheReportsOfSeveralFilesOneBehindTheOther) {
+  const std::string first = Example("development-entry");
+  const std::string second = Example("weak-roof");
+
+  const Outcome together = Run({"report", first, second});
+
+  EXPECT_EQ(together.out, Run({"report", first}).out + Run({"report", second}).out);
+}
+
+TEST_F(Companion, GivesTheHighestExitCodeOfSeveralFiles) {
+  const std::string good = Example("development-entry");
+  const std::string refused = Write("old.ORB", "ORBY_101\r\n");
+
+  const Outcome outcome = Run({"report", good, refused, Path("missing.ORB"), good});
+
+  EXPECT_EQ(outcome.exitCode, 3);
+  EXPECT_THAT(outcome.err, HasSubstr("Invalid ORBY file format. File can not be opened."));
+  EXPECT_THAT(outcome.err, EndsWith("run-time error 53: File not found\n"));
+  const std::string report = Run({"report", good}).out;
+  EXPECT_EQ(outcome.out, report + report);
+}
+
+TEST_F(Companion, TellsWhatOkWouldComplainAboutALineEach) {
+  std::string bytes = Read(Example("development-entry"));
+  const std::string depth = "\r\n650\r\n162\r\n";
+  bytes.replace(bytes.find(depth), depth.size(), "\r\n650\r\n99\r\n");
+  const std::string width = "\r\n6\r\n30\r\n";  // rock load height and fall angle of the entry
+  bytes.replace(bytes.find(width), width.size(), "\r\n6\r\n61\r\n");
+  const std::string file = Write("light.ORB", bytes);
+
+  const Outcome outcome = Run({"validate", file});
+
+  EXPECT_EQ(outcome.exitCode, 4);
+  EXPECT_EQ(outcome.out, "Invalid Unit Weight for Rock. Valid range 100-200 lbs/cf\nInvalid roof fall angle\n");
+  EXPECT_EQ(outcome.err, "");
+}
+
+TEST_F(Companion, PrintsNoReportOfADesignThatFailsItsValidation) {
+  std::string bytes = Read(Example("development-entry"));
+  const std::string depth = "\r\n650\r\n162\r\n";
+  bytes.replace(bytes.find(depth), depth.size(), "\r\n650\r\n99\r\n");
+  const std::string file = Write("light.ORB", bytes);
+
+  const Outcome checked = Run({"report", "--validate", file});
+
+  EXPECT_EQ(checked.exitCode, 4);
+  EXPECT_EQ(checked.out, "");
+  EXPECT_EQ(checked.err, "message: Invalid Unit Weight for Rock. Valid range 100-200 lbs/cf\n");
+  EXPECT_EQ(Run({"report", file}).exitCode, 0);
+}
+
+TEST_F(Companion, PrintsTheTenCurvesAroundADesign) {
+  const std::string file = Example("belt-entry-trusses");
+  const std::vector<int> points{9, 11, 11, 4, 28, 22, 61, 33, 81, 61};
+
+  for (int curve = 0; curve < 10; ++curve) {
+    const Outcome outcome = Run({"curve", std::to_string(curve), file});
+
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_EQ(std::count(outcome.out.begin(), outcome.out.end(), '\n'), points[static_cast<std::size_t>(curve)]);
+  }
+}
+
+TEST_F(Companion, TellsOnStandardErrorThatACurveWasTrimmed) {
+  const Outcome outcome = Run({"curve", "0", Example("development-entry")});
+
+  EXPECT_EQ(outcome.err, "message: Upper limit for CMRR trimmed to 51\n");
+  EXPECT_THAT(outcome.out, StartsWith("40,"));
+}
+
+TEST_F(Companion, ShowsTheAustralianBoltsInMetricProjectsOnly) {
+  std::string bytes = Read(Example("gateroad-standing-supports"));
+  const std::string row = "#7 special rebar - grade 75";
+  ASSERT_NE(bytes.find(row), std::string::npos);
+  const std::string metric = Write("metric.ORB", bytes);
+
+  EXPECT_THAT(Run({"report", metric}).out, HasSubstr(row));
+  EXPECT_THAT(Run({"report", "--aus", metric}).out, HasSubstr("Bolt 1\r\n"));
+  EXPECT_EQ(Run({"report", "--aus", Example("weak-roof")}).out, Run({"report", Example("weak-roof")}).out);
+}
+
+TEST_F(Companion, TakesDefaultsAndCatalogsFromAConfigurationFileAndLeavesItAlone) {
+  const std::string settings =
+      "[ORBYDefaults]\r\nDefaultCMRR=45\r\n[ORBYBoltParams]\r\nDefaultCableIndexENG=0\r\n"
+      "DefaultCableCapArrayENG0=40\r\nDefaultCableDiamArrayENG0=0.6\r\n";
+  const std::string ini = Write("ORBY.INI", settings);
+
+  const Outcome builtIn = Run({"live", Example("development-entry")});
+  const Outcome configured = Run({"live", "--config", ini, Example("development-entry")});
+
+  EXPECT_THAT(builtIn.out, HasSubstr("txtSupportCapEntry1=10.6\n"));
+  EXPECT_THAT(configured.out, HasSubstr("txtSupportCapEntry1=16.0\n"));
+  EXPECT_EQ(Read(ini), settings);
+  EXPECT_EQ(Run({"live", "--config", Path("none.INI"), Example("development-entry")}).exitCode, 3);
+}
+
+TEST_F(Companion, WritesNoFileThatWasNotAskedFor) {
+  const auto count = [this] {
+    const std::filesystem::directory_iterator files(Path("."));
+    return std::distance(begin(files), end(files));
+  };
+  Run({"report", Example("development-entry")});
+  const auto before = count();
+
+  for (const char* command : {"report", "cost", "live", "validate"}) Run({command, Example("belt-entry-trusses")});
+  Run({"curve", "4", Example("belt-entry-trusses")});
+
+  EXPECT_EQ(count(), before);
+}
+
+TEST_F(Companion, TellsThatTheTargetCannotBeWritten) {
+  const Outcome outcome = Run({"save", Example("weak-roof"), Path("no-such-folder/out.ORB")});
+
+  EXPECT_EQ(outcome.exitCode, 3);
+  EXPECT_EQ(outcome.err, "run-time error 76: Path not found\n");
+}
+
+TEST_F(Companion, TellsThatARunTimeErrorEndedTheReport) {
+  std::string bytes = Read(Example("development-entry"));
+  const std::string cablesOnly = "\r\n1\r\n0\r\n0\r\n0\r\n12\r\n";
+  ASSERT_NE(bytes.find(cablesOnly), std::string::npos);
+  bytes.replace(bytes.find(cablesOnly), cablesOnly.size(), "\r\n0\r\n0\r\n1\r\n0\r\n12\r\n");
+
+  const Outcome outcome = Run({"report", Write("bolts-alone.ORB", bytes)});
+
+  EXPECT_EQ(outcome.exitCode, 3);
+  EXPECT_EQ(outcome.err, "run-time error 11: Division by zero\n");
+  EXPECT_EQ(outcome.out, "");
+}
+
+TEST_F(Companion, NeedsNoOptionOrderAndTakesFileNamesBehindTwoDashes) {
+  const std::string file = Write("-odd.ORB", Read(Example("weak-roof")));
+
+  EXPECT_EQ(Run({"--page", "1", "report", Example("weak-roof")}).out,
+            Run({"report", Example("weak-roof"), "--page", "1"}).out);
+  EXPECT_EQ(Run({"validate", "--", file}).exitCode, 0);
+  EXPECT_THAT(Run({"report", "--name", "x", file}).out, Not(HasSubstr("-odd")));
+}
+
+}  // namespace
+}  // namespace orby::test
