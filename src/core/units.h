@@ -13,6 +13,7 @@ inline constexpr Integer Metric = 1;
 inline constexpr double FeetPerMetre = 3.280839895013123;
 inline constexpr double MillimetresPerInch = 25.4;
 inline constexpr double MPaPerKsi = 6894.757293 / 1000000 * 1000;
+inline constexpr double PoundsPerTon = 2000;
 inline constexpr double KilonewtonsPerTon = 8.896443;
 inline constexpr double KilonewtonsPerPound = 0.004448220489393218;
 inline constexpr double PcfPerKilonewtonCubicMetre = 6.3663022639200495;

@@ -12,7 +12,6 @@ namespace {
 constexpr Single PsupFloor = 3;
 constexpr Single LengthFloor = 4;
 constexpr double IndexPerDensity = 14.5;  // support density to reinforcement density index
-constexpr double PoundsPerTon = 2000;
 constexpr Single UnlimitedHeight = 100;
 
 double AreaTimesGrade(Single grade, Single diameter) { return grade * Pi / 4 * Square(diameter); }
@@ -44,9 +43,6 @@ double UltimateDensity(const BoltPattern& pattern, const GradeBasis& basis) {
                               : CapacityFromGrade(pattern.Grade, pattern.Diameter);
   return Density(pattern.Length, pattern.BoltsPerRow, capacity, pattern.RowSpacing, pattern.EntryWidth);
 }
-
-// Side of the square whose two diagonals sum up to the span.
-double SideOfSpan(Single span) { return SquareRoot(Square(span / 2.0) / 2); }
 
 }  // namespace
 
@@ -160,6 +156,8 @@ Single RockLoadEntry(Single angle, Single width, Single unitWeight, Single& heig
   const double load = area * unitWeight / PoundsPerTon;
   return load <= 0 ? 0 : ToSingle(load);
 }
+
+double SideOfSpan(Single span) { return SquareRoot(Square(span / 2.0) / 2); }
 
 Single RockLoadIntersection(Single angle, Single span, Single unitWeight, Single height) {
   const double side = SideOfSpan(span);

@@ -112,6 +112,9 @@ Single BoltSRDI(const SupportPattern& pattern);
 // of the triangle, in the caller's variable too. Not below 0.
 Single RockLoadEntry(Single angle, Single width, Single unitWeight, Single& height);
 
+// Side of the square whose two diagonals sum up to the span, in the unit of the span; not rounded.
+double SideOfSpan(Single span);
+
 // Rock load of an intersection, tons: a frustum over the square whose diagonals sum up to the span, ft. Not below 0.
 Single RockLoadIntersection(Single angle, Single span, Single unitWeight, Single height);
 

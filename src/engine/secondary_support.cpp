@@ -8,8 +8,6 @@
 namespace orby {
 namespace {
 
-constexpr double PoundsPerTon = 2000;
-
 double Radians(Single angle) { return angle * RadiansPerDegree; }
 
 bool IsFallAngle(Single angle) { return Radians(angle) >= 0 && Radians(angle) < Pi / 2; }
@@ -69,7 +67,7 @@ std::optional<Single> IntersectionRockLoad(const RockInputs& rock, Integer units
   if (rock.Width <= 0) return std::nullopt;
   if (rock.Span <= rock.Width) return std::nullopt;
 
-  const double side = SquareRoot(Square(rock.Span / 2.0) / 2);
+  const double side = SideOfSpan(rock.Span);
   double height = rock.Height;
   const auto topAt = [&](Single angle) { return side - 2 * height * std::tan(Radians(angle)); };
   if (topAt(rock.EntryAngle) < 0 || topAt(rock.CrosscutAngle) < 0) {
