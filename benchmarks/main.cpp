@@ -1,0 +1,121 @@
+// Does one step of the program between the marks of the instruction counter.
+#include <valgrind/callgrind.h>
+
+#include <cstdio>
+#include <functional>
+#include <map>
+#include <string>
+
+#include "dialogs/parameters_dialog.h"
+#include "engine/curves.h"
+#include "files/project_reader.h"
+#include "files/project_writer.h"
+#include "reports/calculation_report.h"
+#include "reports/input_echo.h"
+#include "shell/start_up.h"
+#include "support/recording_platform.h"
+
+namespace {
+
+using namespace orby;
+
+// A design with every support system in use, so that every output and every block of the report is there.
+struct Bench {
+  Bench() {
+    StartProgram(program, nullptr);
+    ProjectRecord& design = program.WorkParms;
+    for (auto use :
+         {&ProjectRecord::SecEntryUseTruss, &ProjectRecord::SecEntryUseBolt, &ProjectRecord::SecEntryUseStanding}) {
+      design.*use = 1;
+    }
+    for (auto use :
+         {&ProjectRecord::SecInterUseTruss, &ProjectRecord::SecInterUseBolt, &ProjectRecord::SecInterUseStanding}) {
+      design.*use = 1;
+    }
+    program.ProjectTitle = "Belt entry, north mains";
+    program.ProjectDescription = "Four bolts a row, cables and trusses through the intersections.";
+  }
+
+  test::RecordingPlatform platform;
+  Program program{platform.Doors()};
+};
+
+// Prepares nothing, measures the act.
+template <class Act>
+void Measured(const Act& act) {
+  CALLGRIND_START_INSTRUMENTATION;
+  act();
+  CALLGRIND_STOP_INSTRUMENTATION;
+}
+
+void LiveRefresh() {
+  Bench bench;
+  ParametersDialog dialog(bench.program);
+  dialog.Open();
+  Measured([&] {
+    dialog.ShowSuggested();
+    dialog.ShowActualPSUP();
+    dialog.ShowEntries();
+    dialog.ShowIntersections();
+  });
+}
+
+void ReportPages() {
+  Bench bench;
+  ParametersDialog dialog(bench.program);
+  dialog.Open();
+  dialog.SaveWorkParms();
+  dialog.BuildReport();
+  Measured([&] {
+    LoadOutBuf0(bench.program);
+    CalculationReport(bench.program);
+  });
+}
+
+void ReadOneProject() {
+  Bench bench;
+  const std::string bytes = ProjectFileBytes(bench.program);
+  Measured([&] {
+    const ItemReader reader(bytes);
+    if (CheckFileFormat(bench.program, reader)) ReadProject(bench.program, reader);
+  });
+}
+
+void DefaultCurve() {
+  Bench bench;
+  bench.program.WorkParmsCopy = bench.program.WorkParms;
+  constexpr Integer DepthOfCover = 1;
+  Measured([&] { GenerateCurve(bench.program, DepthOfCover); });
+}
+
+void KeyPress() {
+  Bench bench;
+  ParametersDialog dialog(bench.program);
+  dialog.Open();
+  Measured([&] {
+    if (dialog.txtDepthofCover.KeyPress('5') == '5') dialog.txtDepthofCover.SetText("4005");
+  });
+}
+
+const std::map<std::string, std::function<void()>> Steps{{"live_refresh", LiveRefresh},
+                                                         {"report_pages", ReportPages},
+                                                         {"read_project", ReadOneProject},
+                                                         {"default_curve", DefaultCurve},
+                                                         {"key_press", KeyPress}};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const std::string word = argc > 1 ? argv[1] : "";
+  if (word == "list") {
+    for (const auto& [name, step] : Steps) std::puts(name.c_str());
+    return 0;
+  }
+  const auto step = Steps.find(argc > 2 ? argv[2] : "");
+  if (word != "run" || step == Steps.end()) {
+    std::fputs("usage: orby-bench list | run NAME\n", stderr);
+    return 1;
+  }
+  step->second();
+  return 0;
+}

@@ -1,0 +1,98 @@
+// Bytes of a project file: opened, saved, opened and saved again.
+#include "files/project_file.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+#include "base/code_page.h"
+#include "base/runtime_error.h"
+#include "base/text.h"
+#include "files/description.h"
+#include "support/recording_platform.h"
+
+namespace {
+
+using orby::Program;
+
+const std::string Path = "/designs/panel.orb";
+
+void Expect(bool holds) {
+  if (!holds) std::abort();
+}
+
+std::string Save(Program& program, orby::test::RecordingPlatform& platform) {
+  bool ok = false;
+  orby::FileSave(program, ok);
+  Expect(ok);
+  return platform.files.files[Path];
+}
+
+// A line that may be taken for the end marker, or for more than a line, once it passes through the item reader.
+bool IsPlain(std::string_view description) {
+  return description.find(orby::EndOfDescription) == std::string_view::npos &&
+         description.find('"') == std::string_view::npos;
+}
+
+bool ReadsBackAsAnItem(std::string_view text) {
+  return !text.starts_with(' ') && !text.starts_with('"') && text.find_first_of(",\r\n") == std::string_view::npos;
+}
+
+// Whether the format can hold the project at all.
+bool CanBeHeld(const Program& program, const std::string& saved) {
+  constexpr orby::Integer FewLines = 30000;
+  const orby::ProjectRecord& record = program.WorkParms;
+  if (program.DescLines > FewLines || !IsPlain(program.ProjectDescription) || !IsPlain(program.ProjectTitle)) {
+    return false;
+  }
+  for (const auto* text : {&record.BoltDescPrimary, &record.BoltDescSecEntry, &record.BoltDescSecInter}) {
+    if (!ReadsBackAsAnItem(*text)) return false;
+  }
+  // Bytes of the code page that together read as UTF-8 come back as other characters.
+  const std::string text = orby::TextFromFileBytes(saved);
+  for (const auto* held :
+       {&program.ProjectTitle, &program.ProjectDescription, &record.BoltDescPrimary, &record.BoltDescSecEntry,
+        &record.BoltDescSecInter, &record.SupportTypeNameSecEntry, &record.SupportTypeNameSecInter}) {
+    if (text.find(*held) == std::string::npos) return false;
+  }
+  return true;
+}
+
+// The data lines, the one of the entry's support mode left out: it comes back as the intersection's.
+std::string DataLines(const std::string& saved) {
+  constexpr int SupportModeLine = 59;
+  std::string_view rest = saved;
+  rest.remove_prefix(saved.find(orby::EndOfDescription));
+  std::string lines;
+  for (int number = 0; !rest.empty(); ++number) {
+    const std::string_view line = orby::TakeLine(rest);
+    if (number != SupportModeLine) lines.append(line).push_back('\n');
+  }
+  return lines;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  orby::test::RecordingPlatform platform;
+  Program program(platform.Doors());
+  program.CurrentFile = Path;
+  platform.files.files[Path] = std::string(data, data + size);
+  bool ok = false;
+  try {
+    orby::FileOpen(program, ok);
+  } catch (const orby::RuntimeError&) {
+    return 0;
+  }
+  const std::string first = Save(program, platform);
+  if (!CanBeHeld(program, first)) return 0;
+
+  orby::FileOpen(program, ok);
+  Expect(ok);
+  const std::string second = Save(program, platform);
+
+  Expect(DataLines(first) == DataLines(second));
+  return 0;
+}
