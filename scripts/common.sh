@@ -1,0 +1,80 @@
+# shellcheck shell=bash disable=SC2034,SC2191
+# What ./orby, ./check and ./bench share. To be sourced; $top is the folder that holds the project.
+
+top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+
+# package=probe: the package counts as present when its probe is a command or a path (a pattern) that exists.
+build_packages=(g++=g++ cmake=cmake ninja-build=ninja)
+test_packages=(libgtest-dev=/usr/include/gtest/gtest.h libgmock-dev=/usr/include/gmock/gmock.h
+  librapidcheck-dev=/usr/include/rapidcheck.h)
+format_packages=(clang-format=clang-format)
+lint_packages=(clang-tidy=clang-tidy cppcheck=cppcheck)
+locale_packages=(locales=/usr/share/i18n/locales/de_DE)
+fuzz_packages=(clang=clang++ "libclang-rt-dev=/usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.fuzzer-*.a")
+coverage_packages=(gcovr=gcovr)
+bench_packages=(valgrind=valgrind time=/usr/bin/time)
+
+say() { printf '%s\n' "$*" >&2; }
+
+is_present() {
+  case $1 in
+    /*) compgen -G "$1" >/dev/null ;;
+    *) command -v "$1" >/dev/null ;;
+  esac
+}
+
+# install_missing package=probe...: installs the packages whose probe fails; nothing happens when all are there.
+install_missing() {
+  local entry missing=() log="$top/build/install.log" as_root=()
+  for entry in "$@"; do
+    is_present "${entry#*=}" || missing+=("${entry%%=*}")
+  done
+  [ ${#missing[@]} -gt 0 ] || return 0
+  if ! command -v apt-get >/dev/null; then
+    say "These Debian packages are missing, please install what matches them here: ${missing[*]}"
+    return 1
+  fi
+  if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null; then
+      say "Missing packages; please run as root: apt-get install ${missing[*]}"
+      return 1
+    fi
+    as_root=(sudo)
+  fi
+  say "Installing ${missing[*]} ..."
+  mkdir -p "$top/build"
+  local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -y -o DPkg::Lock::Timeout=300)
+  if ! { "${apt[@]}" update && "${apt[@]}" install --no-install-recommends "${missing[@]}"; } \
+    >"$log" 2>&1 </dev/null; then
+    tail -n 40 "$log" >&2
+    say "The installation failed."
+    return 1
+  fi
+}
+
+# configure PRESET [cmake option...]: only when the preset was never configured, its presets changed, or an option
+# is given; the generated build looks after every later change of a CMakeLists.txt itself.
+configure() {
+  local preset=$1 ninja_file="$top/build/$1/build.ninja" launcher=()
+  shift
+  if [ $# -eq 0 ] && [ -e "$ninja_file" ] && [ ! "$top/CMakePresets.json" -nt "$ninja_file" ]; then return 0; fi
+  if command -v ccache >/dev/null; then launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache); fi
+  (cd "$top" && cmake --preset "$preset" "${launcher[@]}" "$@")
+}
+
+# build PRESET [cmake --build argument...]
+build() {
+  local preset=$1
+  shift
+  cmake --build "$top/build/$preset" "$@"
+}
+
+# quietly LOG command...: what it prints goes to the log and is shown only when it fails.
+quietly() {
+  local log=$1
+  shift
+  mkdir -p "$(dirname "$log")"
+  "$@" >"$log" 2>&1 </dev/null && return 0
+  cat "$log" >&2
+  return 1
+}

@@ -1,0 +1,105 @@
+# shellcheck shell=bash disable=SC2154
+# The steps of ./check: each is run, timed, logged and counted. To be sourced after common.sh.
+
+logs="$top/build/check"
+passed=0
+failed=0
+failures=()
+
+start_steps() {
+  rm -rf "$logs"
+  mkdir -p "$logs"
+}
+
+log_of() { printf '%s/%s.log' "$logs" "$(tr -c 'A-Za-z0-9\n' '-' <<<"$1")"; }
+
+# note NAME GOOD BAD SECONDS LOG: one line of the outcome, and the end of the log when anything failed.
+note() {
+  passed=$((passed + $2))
+  failed=$((failed + $3))
+  if [ "$3" -eq 0 ]; then
+    printf 'pass  %s: %s (%s s)\n' "$1" "$2" "$4"
+    return 0
+  fi
+  printf 'FAIL  %s: %s passed, %s failed (%s s)\n' "$1" "$2" "$3" "$4"
+  failures+=("$1")
+  tail -n 80 "$5" | sed 's/^/      /'
+  return 1
+}
+
+# step NAME command...: counts as one; its status is the command's.
+step() {
+  local name=$1 log began=$SECONDS
+  log=$(log_of "$name")
+  shift
+  if "$@" >"$log" 2>&1 </dev/null; then
+    note "$name" 1 0 $((SECONDS - began)) "$log"
+  else
+    note "$name" 0 1 $((SECONDS - began)) "$log"
+  fi
+}
+
+# The figure of an attribute, as tests="12", in the first element of an XML result that has it; 0 without one.
+xml_figure() {
+  local figure
+  figure=$(grep -o -m 1 "\b$2=\"[0-9]*\"" "$1" 2>/dev/null | head -n 1 | tr -dc '0-9')
+  printf '%s' "${figure:-0}"
+}
+
+# count_tests NAME STATUS RESULT SECONDS LOG: the tests of one result file. A test that did not run did not pass, and
+# a run that ended badly without saying which test it was counts as one failure.
+count_tests() {
+  local all bad
+  all=$(xml_figure "$3" tests)
+  bad=$(($(xml_figure "$3" failures) + $(xml_figure "$3" errors) + $(xml_figure "$3" skipped) + \
+    $(xml_figure "$3" disabled)))
+  if [ "$all" -eq 0 ] || { [ "$2" -ne 0 ] && [ "$bad" -eq 0 ]; }; then
+    note "$1" "$all" 1 "$4" "$5"
+  else
+    note "$1" $((all - bad)) "$bad" "$4" "$5"
+  fi
+}
+
+# run_ctest NAME PRESET [wrapper]: all tests of a build, each in a process of its own, in any order.
+run_ctest() {
+  local name=$1 preset=$2 log result began=$SECONDS status
+  log=$(log_of "$name")
+  result="${log%.log}.xml"
+  shift 2
+  "$@" ctest --test-dir "$top/build/$preset" -j "$(nproc)" --schedule-random --timeout 120 --output-on-failure \
+    --output-junit "$result" >"$log" 2>&1 </dev/null
+  status=$?
+  count_tests "$name" $status "$result" $((SECONDS - began)) "$log"
+}
+
+# run_shuffled NAME PRESET SEED: each test program as one process, its tests in the order of the seed.
+run_shuffled() {
+  local name=$1 log result began=$SECONDS status program wrong all=0 bad=0
+  log=$(log_of "$name")
+  result="${log%.log}.xml"
+  for program in "$top/build/$2"/tests/*/test_*; do
+    [ -f "$program" ] && [ -x "$program" ] || continue
+    rm -f "$result"
+    timeout 120 "$program" --gtest_shuffle --gtest_random_seed="$3" --gtest_brief=1 --gtest_output="xml:$result" \
+      >>"$log" 2>&1 </dev/null
+    status=$?
+    all=$((all + $(xml_figure "$result" tests)))
+    wrong=$(($(xml_figure "$result" failures) + $(xml_figure "$result" disabled)))
+    if [ $status -ne 0 ] && [ $wrong -eq 0 ]; then
+      echo "$program ended with status $status" >>"$log"
+      wrong=1 all=$((all + 1))
+    fi
+    bad=$((bad + wrong))
+  done
+  [ $all -gt 0 ] || { echo "no test program" >>"$log"; bad=1 all=1; }
+  note "$name" $((all - bad)) $bad $((SECONDS - began)) "$log"
+}
+
+# The last line, alone, and the exit status.
+report_steps() {
+  local name
+  for name in "${failures[@]}"; do printf 'failed: %s\n' "$name"; done
+  printf 'took %s s\n' "$SECONDS"
+  printf '%s passed, %s failed\n' "$passed" "$failed"
+  [ "$failed" -eq 0 ]
+}

@@ -1,0 +1,186 @@
+#include "architecture/rules.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <optional>
+#include <set>
+#include <string_view>
+
+namespace orby::test {
+namespace {
+
+struct Room {
+  std::string_view folder;
+  int floor;
+};
+
+constexpr std::array<Room, 14> Rooms = {{{"base", 0},
+                                         {"platform", 1},
+                                         {"controls", 1},
+                                         {"core", 2},
+                                         {"engine", 3},
+                                         {"catalogs", 3},
+                                         {"config", 4},
+                                         {"files", 4},
+                                         {"reports", 4},
+                                         {"graphs", 4},
+                                         {"dialogs", 5},
+                                         {"shell", 6},
+                                         {"qt", 7},
+                                         {"apps", 8}}};
+
+constexpr long MostLines = 400;
+
+// Looked for without regard to case, at the start of a word. Written in halves, so that this file does not hold them
+// itself.
+struct StrayWord {
+  std::string_view text;
+  bool whole;  // nothing but the end of the word may follow
+};
+
+constexpr std::array<StrayWord, 6> Strays = {{{"TO"
+                                               "DO",
+                                               true},
+                                              {"FIX"
+                                               "ME",
+                                               true},
+                                              {"XX"
+                                               "X",
+                                               true},
+                                              {"not imple"
+                                               "mented",
+                                               true},
+                                              {"DISABLED"
+                                               "_",
+                                               false},
+                                              {"GTEST"
+                                               "_SKIP",
+                                               true}}};
+
+std::optional<int> FloorOf(std::string_view folder) {
+  const auto* room = std::ranges::find(Rooms, folder, &Room::folder);
+  if (room == Rooms.end()) return std::nullopt;
+  return room->floor;
+}
+
+std::string Place(const std::string& path, long line) { return path + ":" + std::to_string(line) + ": "; }
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+bool IsWordCharacter(char c) { return IsDigit(c) || c == '_' || (Lower(c) >= 'a' && Lower(c) <= 'z'); }
+
+bool StandsAt(std::string_view text, std::size_t at, const StrayWord& word) {
+  if (text.size() - at < word.text.size()) return false;
+  if (at > 0 && IsWordCharacter(word.text.front()) && IsWordCharacter(text[at - 1])) return false;
+  for (std::size_t i = 0; i < word.text.size(); ++i) {
+    if (Lower(word.text[i]) != Lower(text[at + i])) return false;
+  }
+  const std::size_t end = at + word.text.size();
+  return !word.whole || end == text.size() || !IsWordCharacter(text[end]);
+}
+
+class CircleSearch {
+ public:
+  explicit CircleSearch(const Tree& tree) {
+    for (const auto& file : tree) {
+      if (!IsSource(file)) continue;
+      auto& targets = graph[BelowSrc(file)];
+      for (const auto& include : IncludesOf(file)) {
+        if (include.quoted) targets.push_back(include.target);
+      }
+    }
+  }
+
+  std::vector<std::string> Run() {
+    for (const auto& [file, targets] : graph) Visit(file);
+    return circles;
+  }
+
+ private:
+  void Visit(const std::string& file) {
+    const auto onTrail = std::ranges::find(trail, file);
+    if (onTrail != trail.end()) {
+      std::string circle;
+      for (auto step = onTrail; step != trail.end(); ++step) circle += *step + " -> ";
+      circles.push_back(circle + file);
+      return;
+    }
+    const auto node = graph.find(file);
+    if (node == graph.end() || !visited.insert(file).second) return;
+    trail.push_back(file);
+    for (const auto& target : node->second) Visit(target);
+    trail.pop_back();
+  }
+
+  std::map<std::string, std::vector<std::string>> graph;
+  std::set<std::string> visited;
+  std::vector<std::string> trail;
+  std::vector<std::string> circles;
+};
+
+std::string WrongArrow(const std::string& from, const std::string& to) {
+  if (to.empty()) return "names no folder";
+  if (!FloorOf(from)) return "lies in " + from + ", a folder without a floor";
+  if (!FloorOf(to)) return "leads to " + to + ", a folder without a floor";
+  if (from == to || *FloorOf(to) < *FloorOf(from)) return {};
+  return "leads from " + from + (*FloorOf(to) == *FloorOf(from) ? " sideways to " : " up to ") + to;
+}
+
+}  // namespace
+
+std::vector<std::string> WrongArrows(const Tree& tree) {
+  std::vector<std::string> wrong;
+  for (const auto& file : tree) {
+    if (!IsSource(file)) continue;
+    for (const auto& include : IncludesOf(file)) {
+      if (!include.quoted) continue;
+      const auto what = WrongArrow(FolderOf(BelowSrc(file)), FolderOf(include.target));
+      if (!what.empty()) wrong.push_back(Place(file.path, include.line) + "\"" + include.target + "\" " + what);
+    }
+  }
+  return wrong;
+}
+
+std::vector<std::string> Circles(const Tree& tree) { return CircleSearch(tree).Run(); }
+
+std::vector<std::string> ToolkitOutside(const Tree& tree) {
+  std::vector<std::string> wrong;
+  for (const auto& file : tree) {
+    if (!IsSource(file)) continue;
+    const auto folder = FolderOf(BelowSrc(file));
+    if (folder == "qt" || folder == "apps") continue;
+    for (const auto& include : IncludesOf(file)) {
+      // No header of the standard library begins with this letter.
+      if (!include.target.empty() && Lower(include.target.front()) == 'q' && FolderOf(include.target) != "qt") {
+        wrong.push_back(Place(file.path, include.line) + include.target);
+      }
+    }
+  }
+  return wrong;
+}
+
+std::vector<std::string> StrayWords(const Tree& tree) {
+  std::vector<std::string> found;
+  for (const auto& file : tree) {
+    long line = 1;
+    for (std::size_t at = 0; at < file.text.size(); ++at) {
+      if (file.text[at] == '\n') ++line;
+      for (const auto& word : Strays) {
+        if (StandsAt(file.text, at, word)) found.push_back(Place(file.path, line) + std::string(word.text));
+      }
+    }
+  }
+  return found;
+}
+
+std::vector<std::string> LongFiles(const Tree& tree) {
+  std::vector<std::string> found;
+  for (const auto& file : tree) {
+    const auto lines = std::ranges::count(file.text, '\n');
+    if (IsSource(file) && lines > MostLines) found.push_back(file.path + ": " + std::to_string(lines) + " lines");
+  }
+  return found;
+}
+
+}  // namespace orby::test

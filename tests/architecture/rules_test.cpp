@@ -1,0 +1,159 @@
+// The rules of the house, tried on small made-up trees that keep or break them.
+#include "architecture/rules.h"
+
+#include <gmock/gmock.h>
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(Arrows, DownwardsAndWithinAFolderAreFine) {
+  const Tree tree = {{"src/files/reader.cpp", "#include \"files/reader.h\"\n#include \"core/units.h\"\n"},
+                     {"src/apps/orby-cli/main.cpp", "#include \"shell/menu.h\"\n#include \"qt/window.h\"\n"}};
+
+  EXPECT_THAT(WrongArrows(tree), IsEmpty());
+}
+
+TEST(Arrows, UpwardsIsWrong) {
+  const Tree tree = {{"src/base/text.h", "#pragma once\n\n#include \"core/units.h\"\n"}};
+
+  EXPECT_THAT(WrongArrows(tree), ElementsAre("src/base/text.h:3: \"core/units.h\" leads from base up to core"));
+}
+
+TEST(Arrows, SidewaysIsWrong) {
+  const Tree tree = {{"src/platform/boxes.h", "#include \"controls/form.h\"\n"},
+                     {"src/config/ini.cpp", "#include \"files/reader.h\"\n"},
+                     {"src/reports/report.cpp", "#include \"config/ini.h\"\n"}};
+
+  EXPECT_THAT(WrongArrows(tree),
+              ElementsAre("src/platform/boxes.h:1: \"controls/form.h\" leads from platform sideways to controls",
+                          "src/config/ini.cpp:1: \"files/reader.h\" leads from config sideways to files",
+                          "src/reports/report.cpp:1: \"config/ini.h\" leads from reports sideways to config"));
+}
+
+TEST(Arrows, FolderWithoutAFloorIsWrongAtBothEnds) {
+  const Tree tree = {{"src/cellar/wine.cpp", "#include \"base/text.h\"\n"},
+                     {"src/shell/menu.cpp", "#include \"cellar/wine.h\"\n"}};
+
+  EXPECT_THAT(WrongArrows(tree),
+              ElementsAre("src/cellar/wine.cpp:1: \"base/text.h\" lies in cellar, a folder without a floor",
+                          "src/shell/menu.cpp:1: \"cellar/wine.h\" leads to cellar, a folder without a floor"));
+}
+
+TEST(Arrows, NeighbourWithoutItsFolderIsWrong) {
+  const Tree tree = {{"src/base/text.cpp", "#include \"text.h\"\n"}};
+
+  EXPECT_THAT(WrongArrows(tree), ElementsAre("src/base/text.cpp:1: \"text.h\" names no folder"));
+}
+
+TEST(Arrows, BlanksAroundTheHashAndTheQuotesHideNothing) {
+  const Tree tree = {{"src/base/text.h", "\n  #  include\t\"shell/menu.h\"  // the menu\n"}};
+
+  EXPECT_THAT(WrongArrows(tree), ElementsAre("src/base/text.h:2: \"shell/menu.h\" leads from base up to shell"));
+}
+
+TEST(Arrows, CommentsAndTestsAreNotMeant) {
+  const Tree tree = {{"src/base/text.h", "// #include \"shell/menu.h\"\n"},
+                     {"tests/base/text_test.cpp", "#include \"support/test_data.h\"\n"},
+                     {"src/base/CMakeLists.txt", "#include \"shell/menu.h\"\n"}};
+
+  EXPECT_THAT(WrongArrows(tree), IsEmpty());
+}
+
+TEST(CirclesOfFiles, DiamondIsNone) {
+  const Tree tree = {{"src/base/a.h", "#include \"base/b.h\"\n#include \"base/c.h\"\n"},
+                     {"src/base/b.h", "#include \"base/d.h\"\n"},
+                     {"src/base/c.h", "#include \"base/d.h\"\n"},
+                     {"src/base/d.h", "#include <string>\n"}};
+
+  EXPECT_THAT(Circles(tree), IsEmpty());
+}
+
+TEST(CirclesOfFiles, ThreeFilesInARingAreOneCircle) {
+  const Tree tree = {{"src/base/a.h", "#include \"base/b.h\"\n"},
+                     {"src/base/b.h", "#include \"base/c.h\"\n"},
+                     {"src/base/c.h", "#include \"base/a.h\"\n"}};
+
+  EXPECT_THAT(Circles(tree), ElementsAre("base/a.h -> base/b.h -> base/c.h -> base/a.h"));
+}
+
+TEST(CirclesOfFiles, WayIntoARingIsNotPartOfIt) {
+  const Tree tree = {{"src/base/a.cpp", "#include \"base/b.h\"\n"},
+                     {"src/base/b.h", "#include \"base/c.h\"\n"},
+                     {"src/base/c.h", "#include \"base/b.h\"\n"}};
+
+  EXPECT_THAT(Circles(tree), ElementsAre("base/b.h -> base/c.h -> base/b.h"));
+}
+
+TEST(CirclesOfFiles, FileThatIncludesItselfIsOne) {
+  const Tree tree = {{"src/base/a.h", "#include \"base/a.h\"\n"}};
+
+  EXPECT_THAT(Circles(tree), ElementsAre("base/a.h -> base/a.h"));
+}
+
+TEST(Toolkit, HasItsPlaceInItsRoomAndInThePrograms) {
+  const Tree tree = {{"src/qt/binder.cpp", "#include <QWidget>\n"},
+                     {"src/apps/orby/main.cpp", "#include <QApplication>\n"},
+                     {"src/core/units.cpp", "#include <array>\n"}};
+
+  EXPECT_THAT(ToolkitOutside(tree), IsEmpty());
+}
+
+TEST(Toolkit, IsWrongAnywhereElseHoweverItIsWritten) {
+  const Tree tree = {{"src/dialogs/cost.h", "#include <QtWidgets/QLabel>\n"},
+                     {"src/shell/menu.cpp", "#include <qmenu.h>\n"},
+                     {"src/base/text.h", "#include \"qcustomplot.h\"\n"}};
+
+  EXPECT_THAT(ToolkitOutside(tree), ElementsAre("src/dialogs/cost.h:1: QtWidgets/QLabel",
+                                                "src/shell/menu.cpp:1: qmenu.h", "src/base/text.h:1: qcustomplot.h"));
+}
+
+TEST(Words, MarkOfOpenWorkIsFoundWithItsLine) {
+  const Tree tree = {{"src/core/units.cpp",
+                      "// Feet.\n// TO"
+                      "DO: metres\n"}};
+
+  EXPECT_THAT(StrayWords(tree), ElementsAre("src/core/units.cpp:2: TO"
+                                            "DO"));
+}
+
+TEST(Words, SwitchedOffTestIsFound) {
+  const Tree tree = {{"tests/core/units_test.cpp",
+                      "TEST(Units, DISABLED"
+                      "_Feet) {}\n"}};
+
+  EXPECT_THAT(StrayWords(tree), ElementsAre("tests/core/units_test.cpp:1: DISABLED"
+                                            "_"));
+}
+
+TEST(Words, CaseDoesNotHideThem) {
+  const Tree tree = {{"docs/architecture.md",
+                      "Metres are Not Imple"
+                      "mented.\n"}};
+
+  EXPECT_THAT(StrayWords(tree), ElementsAre("docs/architecture.md:1: not imple"
+                                            "mented"));
+}
+
+TEST(Words, InsideLongerWordsTheyAreFine) {
+  const Tree tree = {{"src/core/units.cpp", "// mastodon, stodoxy, prefixmeter\n"}};
+
+  EXPECT_THAT(StrayWords(tree), IsEmpty());
+}
+
+TEST(Length, FourHundredLinesAreFineAndOneMoreIsNot) {
+  const Tree tree = {{"src/core/long.cpp", std::string(400, '\n')}, {"src/core/longer.cpp", std::string(401, '\n')}};
+
+  EXPECT_THAT(LongFiles(tree), ElementsAre("src/core/longer.cpp: 401 lines"));
+}
+
+TEST(Length, TablesUnderTestsMayBeLong) {
+  const Tree tree = {{"tests/data/vectors/format.tsv", std::string(5000, '\n')}};
+
+  EXPECT_THAT(LongFiles(tree), IsEmpty());
+}
+
+}  // namespace
+}  // namespace orby::test
