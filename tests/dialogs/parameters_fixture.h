@@ -21,9 +21,9 @@ namespace orby::test {
 // check box, the row of a grid.
 inline void SetControl(Form& form, std::string_view name, const std::string& value) {
   Control* control = form.Find(name);
-  const auto number = static_cast<int>(TextValue(value));
   if (auto* box = dynamic_cast<TextBox*>(control)) return box->SetText(value);
   if (auto* combo = dynamic_cast<Combo*>(control)) return combo->SetText(value);
+  const auto number = static_cast<int>(TextValue(value));
   if (auto* options = dynamic_cast<OptionArray*>(control)) return options->SetValue(number, true);
   if (auto* check = dynamic_cast<CheckBox*>(control)) return check->SetValue(static_cast<Integer>(number));
   if (auto* grid = dynamic_cast<Grid*>(control)) return grid->SetRow(number);
