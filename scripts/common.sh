@@ -10,7 +10,8 @@ test_packages=(libgtest-dev=/usr/include/gtest/gtest.h libgmock-dev=/usr/include
 format_packages=(clang-format=clang-format)
 lint_packages=(clang-tidy=clang-tidy cppcheck=cppcheck)
 locale_packages=(locales=/usr/share/i18n/locales/de_DE)
-fuzz_packages=(clang=clang++ "libclang-rt-dev=/usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.fuzzer-*.a")
+sanitizer_packages=(clang=clang++ llvm=llvm-symbolizer
+  "libclang-rt-dev=/usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.fuzzer-*.a")
 coverage_packages=(gcovr=gcovr)
 bench_packages=(valgrind=valgrind time=/usr/bin/time)
 

@@ -17,7 +17,7 @@
 namespace orby {
 namespace {
 
-constexpr int FirstColumnWidths[] = {300, 2200, 600, 600};
+constexpr int ColumnWidthsOfBolts[] = {300, 2200, 600, 600};
 constexpr int GridMargin = 480;
 
 std::vector<ComboItem> NumberItems(const CatalogList& list) {
@@ -47,9 +47,9 @@ std::vector<ComboItem> SupportItems(const Program& program) {
 
 void FillGrid(Grid& grid, const BoltTable& table) {
   grid.SetSize(static_cast<int>(table.size()) + 1, 4, 1);
-  grid.SetColumnWidths({std::begin(FirstColumnWidths), std::end(FirstColumnWidths)});
+  grid.SetColumnWidths({std::begin(ColumnWidthsOfBolts), std::end(ColumnWidthsOfBolts)});
   int width = GridMargin;
-  for (const int column : FirstColumnWidths) width += column;
+  for (const int column : ColumnWidthsOfBolts) width += column;
   grid.SetWidth(width);
   int column = 0;
   for (const auto* title : {"No", "Description", "Dia.", "Grade"}) grid.SetCell(0, column++, title);

@@ -16,7 +16,7 @@ struct RatingEstimate : AParametersDialog {
 
   // Opens the estimator, chooses there and ends it by the button; Cancel and the window's close are the others.
   void Choose(int region, int row, Button EstimatorControls::*button) {
-    platform.windows.onModal = [=, this](Form& form) {
+    platform.windows.onModal = [=](Form& form) {
       auto& estimator = dynamic_cast<EstimatorDialog&>(form);
       estimator.optLocation.SetValue(region, true);
       estimator.ClickRow(row);
