@@ -10,7 +10,7 @@
 #include "base/code_page.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
-#include "files/description.h"
+#include "files/description_reader.h"
 #include "support/recording_platform.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include "files/project_reader.h"
 
 #include "core/messages.h"
-#include "files/description.h"
+#include "files/description_reader.h"
 #include "files/project_lines.h"
 
 namespace orby {

@@ -7,7 +7,7 @@
 #include "base/text.h"
 #include "core/description.h"
 #include "core/messages.h"
-#include "files/description.h"
+#include "files/description_reader.h"
 #include "files/project_lines.h"
 
 namespace orby {

@@ -7,7 +7,7 @@
 #include "base/arithmetic.h"
 #include "base/number_text.h"
 #include "core/description.h"
-#include "files/description.h"
+#include "files/description_reader.h"
 #include "project_fixture.h"
 #include "saved_fields.h"
 

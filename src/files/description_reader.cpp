@@ -1,4 +1,4 @@
-#include "files/description.h"
+#include "files/description_reader.h"
 
 #include <string>
 
