@@ -7,6 +7,7 @@
 #include "base/number_text.h"
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
+#include "dialogs/fault_texts.h"
 #include "dialogs/history_texts.h"
 #include "engine/cost.h"
 #include "reports/cost_report.h"
@@ -30,8 +31,8 @@ constexpr std::array CostFields{
     CostField{&CostControls::txtHeaderCost, &CostGroup::CostHeaderCost, "Invalid header cost"},
     CostField{&CostControls::txtStrapCost, &CostGroup::CostStrapCost, "Invalid strap/mesh cost"},
     CostField{&CostControls::txtnboltsShift, &CostGroup::CostNboltsShift, "Invalid number of bolts per shift"},
-    CostField{&CostControls::txtnBoltsRow, &CostGroup::CostNBoltsRow, "Invalid number of bolts per row"},
-    CostField{&CostControls::txtRowSpacing, &CostGroup::CostRowSpacing, "Invalid roof bolt row spacing"},
+    CostField{&CostControls::txtnBoltsRow, &CostGroup::CostNBoltsRow, fault_text::BoltsPerRow},
+    CostField{&CostControls::txtRowSpacing, &CostGroup::CostRowSpacing, fault_text::RowSpacing},
     CostField{&CostControls::txtnOperShift, &CostGroup::CostNOperShift, "Invalid number of operators per shift"},
     CostField{&CostControls::txtTotalLabor, &CostGroup::CostTotalLabor, "Invalid total labor cost per shift"},
     CostField{&CostControls::txtHoursShift, &CostGroup::CostHoursShift, "Invalid hours per shift"},

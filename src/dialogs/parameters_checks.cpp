@@ -5,6 +5,7 @@
 
 #include "base/number_text.h"
 #include "core/messages.h"
+#include "dialogs/fault_texts.h"
 #include "dialogs/parameters_dialog.h"
 
 namespace orby {
@@ -51,7 +52,6 @@ std::string ThickestBoltText(const D& d) { return NumberText(ThickestBolt(d)); }
 // ---- messages that several sections share --------------------------------------------------------------------------
 
 constexpr std::string_view BadBoltLength = "Invalid actual bolt length. Maximum length allowed is ";
-constexpr std::string_view BadRowSpacing = "Invalid roof bolt row spacing";
 constexpr std::string_view NoDiameterSelected = "Roof bolt diameter NOT selected from available options";
 constexpr std::string_view NoGradeSelected = "Roof bolt grade NOT selected from available options";
 constexpr std::string_view BadSecondaryDiameter = "Invalid roof bolt diameter. Valid Range: max 1 in or 25 mm";
@@ -165,8 +165,8 @@ constexpr Rule GeneralRules[] = {
 constexpr Rule PrimaryRules[] = {
     AboveZero<&D::txtStabilityFactor>("Invalid stability factor"),
     BoltLength<&D::txtBoltLengthPrimary>(),
-    AboveZero<&D::txtBoltsperRowPrimary>("Invalid number of bolts per row"),
-    AboveZero<&D::txtRowSpacingPrimary>(BadRowSpacing),
+    AboveZero<&D::txtBoltsperRowPrimary>(fault_text::BoltsPerRow),
+    AboveZero<&D::txtRowSpacingPrimary>(fault_text::RowSpacing),
     {NothingSelected<&D::optBoltOptionsPrimary, &D::optBoltDiameterPrimary, &D::cmbBoltDiameterPrimary>,
      NoDiameterSelected, At<&D::cmbBoltDiameterPrimary>},
     {NothingSelected<&D::optBoltOptionsPrimary, &D::optBoltGradePrimary, &D::cmbBoltGradePrimary>, NoGradeSelected,
@@ -204,7 +204,7 @@ constexpr Rule EntryTrussRules[] = {
 constexpr Rule EntryBoltRules[] = {
     BoltLength<&D::txtBoltLengthSecEntry>(),
     AboveZero<&D::txtBoltsperRowSecEntry>("Invalid number of roof bolts per row"),
-    AboveZero<&D::txtRowSpacingSecEntry>(BadRowSpacing),
+    AboveZero<&D::txtRowSpacingSecEntry>(fault_text::RowSpacing),
     {NothingSelected<&D::optBoltOptionsSecEntry, &D::optBoltDiameterSecEntry, &D::cmbBoltDiameterSecEntry>,
      NoDiameterSelected, At<&D::cmbBoltDiameterSecEntry>},
     {NothingSelected<&D::optBoltOptionsSecEntry, &D::optBoltGradeSecEntry, &D::cmbBoltGradeSecEntry>, NoGradeSelected,

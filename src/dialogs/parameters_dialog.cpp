@@ -55,7 +55,7 @@ void FillGrid(Grid& grid, const BoltTable& table) {
   for (const auto* title : {"No", "Description", "Dia.", "Grade"}) grid.SetCell(0, column++, title);
   int row = 1;
   for (const auto& bolt : table) {
-    grid.SetCell(row, 0, NumberText(row));
+    grid.SetCell(row, BoltColumn::Number, NumberText(row));
     grid.SetCell(row, BoltColumn::Description, bolt.Name);
     grid.SetCell(row, BoltColumn::Diameter, bolt.Diameter);
     grid.SetCell(row, BoltColumn::Grade, bolt.Grade);
