@@ -31,6 +31,8 @@ double SquareRoot(double x) {
   return std::sqrt(x);
 }
 
+double Multiply(double a, double b) { return WithinDouble(a * b); }
+
 double Square(double x) { return WithinDouble(std::pow(x, 2)); }
 
 Single ToSingle(double value) {

@@ -19,6 +19,9 @@ double Logarithm(double x);
 // Throws RuntimeError 5 when x is negative.
 double SquareRoot(double x);
 
+// Throws RuntimeError 6 when the product is beyond a Double.
+double Multiply(double a, double b);
+
 // x times itself. Throws RuntimeError 6 when that is beyond a Double.
 double Square(double x);
 

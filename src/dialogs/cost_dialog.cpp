@@ -1,7 +1,6 @@
 #include "dialogs/cost_dialog.h"
 
 #include <array>
-#include <cmath>
 
 #include "base/arithmetic.h"
 #include "base/number_text.h"
@@ -47,12 +46,6 @@ constexpr std::array CostFields{
     CostField{&CostControls::txtShiftsWeek, &CostGroup::CostShiftsWeek, "Invalid number of shifts per week"},
     CostField{&CostControls::txtWeeksYear, &CostGroup::CostWeeksYear, "Invalid number of weeks per year"},
 };
-
-// The text of a computed figure. A product beyond a Double has none.
-std::string FigureText(double figure) {
-  if (!std::isfinite(figure)) throw RuntimeError(error_number::Overflow);
-  return NumberText(figure);
-}
 
 }  // namespace
 
@@ -131,14 +124,15 @@ CostGroup CostDialog::TypedCost() const {
 void CostDialog::CalcAdvance() {
   const double rowSpacing = txtRowSpacing.Value();
   if (!(rowSpacing > 0)) return;
-  std::string advance = FigureText(AdvancePerShift(txtnBoltsRow.Value(), rowSpacing, txtnboltsShift.Value()));
+  std::string advance = NumberText(AdvancePerShift(txtnBoltsRow.Value(), rowSpacing, txtnboltsShift.Value()));
   if (advance == txtAdvanceShiftCalc.Text()) return;
   txtAdvanceShiftCalc.SetText(std::move(advance));
   if (!HoldEvents) CalcProduction();
 }
 
 void CostDialog::CalcProduction() {
-  txtCleanProductionCalc.SetText(FigureText(txtAdvanceShiftCalc.Value() * txtAdvanceRate.Value()));
+  txtCleanProductionCalc.SetText(
+      NumberText(CleanProductionPerShift(txtAdvanceShiftCalc.Value(), txtAdvanceRate.Value())));
 }
 
 bool CostDialog::ValidateCost() {

@@ -34,14 +34,16 @@ Single ProductionPerShift(const CostGroup& in) {
   if (in.CostProduction != 1) return in.CostCleanProduction;
   if (in.CostRowSpacing <= 0) return 0;
   const Single advance = ToSingle(AdvancePerShift(in.CostNBoltsRow, in.CostRowSpacing, in.CostNboltsShift));
-  return ToSingle(static_cast<double>(advance) * in.CostAdvanceRate);
+  return ToSingle(CleanProductionPerShift(advance, in.CostAdvanceRate));
 }
 
 }  // namespace
 
 double AdvancePerShift(double boltsPerRow, double rowSpacing, double boltsPerShift) {
-  return Divide(boltsPerRow, rowSpacing) * boltsPerShift;
+  return Multiply(Divide(boltsPerRow, rowSpacing), boltsPerShift);
 }
+
+double CleanProductionPerShift(double advance, double advanceRate) { return Multiply(advance, advanceRate); }
 
 CostTable AnalyseCost(const CostGroup& inputs) {
   const Single shiftsPerYear = ToSingle(static_cast<double>(inputs.CostShiftsWeek) * inputs.CostWeeksYear);

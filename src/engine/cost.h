@@ -21,6 +21,10 @@ struct CostTable {
 CostTable AnalyseCost(const CostGroup& inputs);
 
 // Advance per shift, in the unit of the row spacing: bolts per row over row spacing, times bolts per shift.
+// Throws RuntimeError 11 when the spacing is 0, 6 when the result is beyond a Double.
 double AdvancePerShift(double boltsPerRow, double rowSpacing, double boltsPerShift);
+
+// Tons of clean coal per shift: the advance times the tons per unit of it. Throws RuntimeError 6 beyond a Double.
+double CleanProductionPerShift(double advance, double advanceRate);
 
 }  // namespace orby

@@ -30,6 +30,12 @@ TEST(Divide, AQuotientBeyondADoubleIsAnOverflow) {
   EXPECT_EQ(ErrorNumberOf([] { Divide(1E308, 1E-10); }), error_number::Overflow);
 }
 
+TEST(Multiply, GivesTheProduct) { EXPECT_EQ(Multiply(300, 4), 1200); }
+
+TEST(Multiply, BeyondADoubleIsAnOverflow) {
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(Multiply(1E200, 1E200)); }), 6);
+}
+
 TEST(Square, GivesTheProductWithItself) { EXPECT_EQ(Square(-6), 36); }
 
 TEST(Square, BeyondADoubleIsAnOverflow) {

@@ -179,6 +179,7 @@ TEST(Advance, IsBoltsPerRowOverSpacingTimesBoltsPerShift) {
   EXPECT_DOUBLE_EQ(AdvancePerShift(4, 4, 300), 300);
   EXPECT_DOUBLE_EQ(AdvancePerShift(4, 1.2, 300), 1000);
   EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(AdvancePerShift(4, 0, 300)); }), 11);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(AdvancePerShift(1E200, 1, 1E200)); }), 6);
 }
 
 }  // namespace
