@@ -39,9 +39,12 @@ std::string_view ErrorDescription(int number) {
   return row == ErrorTexts.end() ? "Application-defined or object-defined error" : row->description;
 }
 
-RuntimeError::RuntimeError(int errorNumber) : number_(errorNumber) {
-  what_ = "run-time error " + std::to_string(errorNumber) + ": ";
-  what_ += ErrorDescription(errorNumber);
+RuntimeError::RuntimeError(int errorNumber) : RuntimeError(errorNumber, {}) {}
+
+RuntimeError::RuntimeError(int errorNumber, std::string_view remark)
+    : number_(errorNumber), description_(ErrorDescription(errorNumber)) {
+  description_ += remark;
+  what_ = "run-time error " + std::to_string(errorNumber) + ": " + description_;
 }
 
 }  // namespace orby

@@ -34,14 +34,17 @@ std::string_view ErrorDescription(int number);
 class RuntimeError : public std::exception {
  public:
   explicit RuntimeError(int errorNumber);
+  // The number's description is followed by what the user needs to know besides.
+  RuntimeError(int errorNumber, std::string_view remark);
 
   int number() const { return number_; }
-  std::string_view description() const { return ErrorDescription(number_); }
+  std::string_view description() const { return description_; }
   // "run-time error 11: Division by zero"
   const char* what() const noexcept override { return what_.c_str(); }
 
  private:
   int number_;
+  std::string description_;
   std::string what_;
 };
 

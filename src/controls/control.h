@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string_view>
+#include <utility>
 
 namespace orby {
 
@@ -20,9 +21,20 @@ class Control {
   Form& Owner() const { return *form_; }
 
   bool Enabled() const { return enabled_; }
-  void SetEnabled(bool enabled) { enabled_ = enabled; }
+  void SetEnabled(bool enabled) { Mirror(enabled_, enabled); }
   bool Visible() const { return visible_; }
-  void SetVisible(bool visible) { visible_ = visible; }
+  void SetVisible(bool visible) { Mirror(visible_, visible); }
+
+ protected:
+  // Tells the view of the form, if it is on the screen, that something it shows of this control differs.
+  void Touch() const;
+  // Stores a value that the view shows; nothing happens when it is there already.
+  template <class T>
+  void Mirror(T& stored, T value) {
+    if (stored == value) return;
+    stored = std::move(value);
+    Touch();
+  }
 
  private:
   Form* form_;

@@ -28,6 +28,7 @@ int IndexWithin(int listIndex, const std::vector<ComboItem>& items) {
 void TextBox::SetText(std::string text) {
   if (text == text_) return;
   text_ = std::move(text);
+  Touch();
   if (kind_ != TextKind::Output) Fire(Change);
 }
 
@@ -38,11 +39,13 @@ int TextBox::KeyPress(int key) const { return kind_ == TextKind::Number ? Numeri
 void TextBox::Select(std::size_t start, std::size_t length) {
   selectionStart_ = start;
   selectionLength_ = length;
+  Touch();
 }
 
 void CheckBox::SetValue(Integer value) {
   if (value == value_) return;
   value_ = value;
+  Touch();
   Fire(Click);
 }
 
@@ -53,7 +56,7 @@ OptionArray::OptionArray(Form& form, std::string_view name, std::initializer_lis
 }
 
 void OptionArray::SetAllEnabled(bool enabled) {
-  for (auto& member : members_) member.enabled = enabled;
+  for (std::size_t i = 0; i < members_.size(); ++i) SetMemberEnabled(i, enabled);
 }
 
 void OptionArray::SetValue(int index, bool value) {
@@ -61,10 +64,12 @@ void OptionArray::SetValue(int index, bool value) {
   if (member.value == value) return;
   if (!value) {
     member.value = false;
+    Touch();
     return;
   }
   for (auto& other : members_) other.value = false;
   member.value = true;
+  Touch();
   if (Click) Click(static_cast<Integer>(index));
 }
 
@@ -79,6 +84,7 @@ Integer GetArrayIndex(const OptionArray& options) {
 void Combo::Fill(std::vector<ComboItem> items) {
   items_ = std::move(items);
   listIndex_ = IndexWithin(listIndex_, items_);
+  Touch();
 }
 
 void Combo::SetText(std::string text) {
@@ -101,6 +107,7 @@ void Combo::Assign(std::string text, int listIndex) {
   if (text == text_ && listIndex == listIndex_) return;
   text_ = std::move(text);
   listIndex_ = listIndex;
+  Touch();
   Fire(Change);
 }
 
@@ -110,6 +117,7 @@ void Grid::SetSize(int rows, int columns, int fixedRows) {
   fixedRows_ = fixedRows;
   row_ = std::min(fixedRows, rows - 1);
   cells_.assign(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns), {});
+  Touch();
 }
 
 std::size_t Grid::Index(int row, int column) const {
@@ -119,18 +127,20 @@ std::size_t Grid::Index(int row, int column) const {
 
 const std::string& Grid::Cell(int row, int column) const { return cells_[Index(row, column)]; }
 
-void Grid::SetCell(int row, int column, std::string text) { cells_[Index(row, column)] = std::move(text); }
+void Grid::SetCell(int row, int column, std::string text) { Mirror(cells_[Index(row, column)], std::move(text)); }
 
 void Grid::EditCell(int row, int column, std::string text) {
   std::string& cell = cells_[Index(row, column)];
   if (cell == text) return;
   cell = std::move(text);
+  Touch();
   Fire(Change);
 }
 
 void Grid::SetRow(int row) {
   if (row == row_) return;
   row_ = static_cast<int>(Position(row, static_cast<std::size_t>(rows_)));
+  Touch();
   Fire(Change);
 }
 
@@ -145,6 +155,7 @@ TabSet::Page& TabSet::At(int tab) { return tabs_[Position(tab, tabs_.size())]; }
 void TabSet::SetTab(int tab) {
   if (tab == tab_) return;
   tab_ = static_cast<int>(Position(tab, tabs_.size()));
+  Touch();
   Fire(Click);
 }
 
@@ -155,11 +166,34 @@ void TabSet::ClickTab(int tab) {
 void List::Fill(std::vector<ComboItem> items) {
   items_ = std::move(items);
   listIndex_ = IndexWithin(listIndex_, items_);
+  Touch();
 }
 
 void List::ClickItem(int index) {
   listIndex_ = static_cast<int>(Position(index, items_.size()));
+  Touch();
   Fire(Click);
+}
+
+ActionArray::ActionArray(Form& form, std::string_view name, std::initializer_list<std::string_view> captions)
+    : Control(form, name) {
+  for (const auto caption : captions) items_.push_back({std::string(caption)});
+}
+
+const ActionArray::Item& ActionArray::At(int index) const { return items_[Position(index, items_.size())]; }
+ActionArray::Item& ActionArray::At(int index) { return items_[Position(index, items_.size())]; }
+
+void ActionArray::ClickItem(int index) const {
+  const Item& item = At(index);
+  if (Enabled() && item.enabled && item.visible && Click) Click(static_cast<Integer>(index));
+}
+
+void Slider::SetValue(int value) {
+  value = std::clamp(value, minimum_, maximum_);
+  if (value == value_) return;
+  value_ = value;
+  Touch();
+  Fire(Change);
 }
 
 }  // namespace orby

@@ -25,7 +25,7 @@ class Label : public Control {
       : Control(form, name), caption_(caption), unitRow_(unitRow) {}
 
   const std::string& Caption() const { return caption_; }
-  void SetCaption(std::string_view caption) { caption_ = caption; }
+  void SetCaption(std::string_view caption) { Mirror(caption_, std::string(caption)); }
   int UnitRow() const { return unitRow_; }
 
  private:
@@ -39,11 +39,18 @@ class Frame : public Label {
   using Label::Label;
 };
 
+// A menu of the menu bar; its entries are those of an ActionArray.
+class Menu : public Label {
+ public:
+  using Label::Label;
+};
+
 class Button : public Control {
  public:
   Button(Form& form, std::string_view name, std::string_view caption) : Control(form, name), caption_(caption) {}
 
   const std::string& Caption() const { return caption_; }
+  void SetCaption(std::string_view caption) { Mirror(caption_, std::string(caption)); }
   // The user's press; a disabled button does not answer.
   void Press() const {
     if (Enabled() && Click) Click();
@@ -59,6 +66,14 @@ enum class TextKind {
   Free,    // any text
   Number,  // keys pass the numeric key filter
   Output,  // shown only, never typed into; fires nothing
+};
+
+struct FontChoice {
+  std::string name;  // empty: the font of the desktop
+  int size = 10;     // points
+  bool bold = false;
+  bool italic = false;
+  bool operator==(const FontChoice&) const = default;
 };
 
 class TextBox : public Control {
@@ -78,11 +93,15 @@ class TextBox : public Control {
   std::size_t SelectionLength() const { return selectionLength_; }  // in characters
   void Select(std::size_t start, std::size_t length);
 
+  const FontChoice& Font() const { return font_; }
+  void SetFont(FontChoice font) { Mirror(font_, std::move(font)); }
+
   Event Change;  // the text differs from before
 
  private:
   std::string text_;
   TextKind kind_;
+  FontChoice font_;
   std::size_t selectionStart_ = 0;
   std::size_t selectionLength_ = 0;
 };
@@ -115,10 +134,12 @@ class OptionArray : public Control {
 
   std::size_t Count() const { return members_.size(); }
   const std::string& Caption(std::size_t index) const { return members_[index].caption; }
-  void SetCaption(std::size_t index, std::string_view caption) { members_[index].caption = caption; }
+  void SetCaption(std::size_t index, std::string_view caption) {
+    Mirror(members_[index].caption, std::string(caption));
+  }
   int UnitRow(std::size_t index) const { return members_[index].unitRow; }
   bool MemberEnabled(std::size_t index) const { return members_[index].enabled; }
-  void SetMemberEnabled(std::size_t index, bool enabled) { members_[index].enabled = enabled; }
+  void SetMemberEnabled(std::size_t index, bool enabled) { Mirror(members_[index].enabled, enabled); }
   void SetAllEnabled(bool enabled);
 
   bool Value(std::size_t index) const { return members_[index].value; }
@@ -190,7 +211,7 @@ class Grid : public Control {
   int Rows() const { return rows_; }
   int Columns() const { return columns_; }
   int FixedRows() const { return fixedRows_; }
-  void SetColumnWidths(std::vector<int> widths) { columnWidths_ = std::move(widths); }
+  void SetColumnWidths(std::vector<int> widths) { Mirror(columnWidths_, std::move(widths)); }
   const std::vector<int>& ColumnWidths() const { return columnWidths_; }
   int Width() const { return width_; }
   void SetWidth(int width) { width_ = width; }
@@ -226,7 +247,7 @@ class TabSet : public Control {
   int Count() const { return static_cast<int>(tabs_.size()); }
   const std::string& Caption(int tab) const { return At(tab).caption; }
   bool TabEnabled(int tab) const { return At(tab).enabled; }
-  void SetTabEnabled(int tab, bool enabled) { At(tab).enabled = enabled; }
+  void SetTabEnabled(int tab, bool enabled) { Mirror(At(tab).enabled, enabled); }
 
   int Tab() const { return tab_; }
   // Code may go to a disabled tab. Throws RuntimeError 9 outside the set.
@@ -265,6 +286,63 @@ class List : public Control {
  private:
   std::vector<ComboItem> items_;
   int listIndex_ = Combo::Nothing;
+};
+
+// The entries of a menu or the buttons of a tool bar, counted from 0. A caption of "-" is a separator, an empty one no
+// entry at all.
+class ActionArray : public Control {
+ public:
+  ActionArray(Form& form, std::string_view name, std::initializer_list<std::string_view> captions);
+
+  static constexpr std::string_view Separator = "-";
+
+  int Count() const { return static_cast<int>(items_.size()); }
+  const std::string& Caption(int index) const { return At(index).caption; }
+  void SetCaption(int index, std::string_view caption) { Mirror(At(index).caption, std::string(caption)); }
+  bool ItemEnabled(int index) const { return At(index).enabled; }
+  void SetItemEnabled(int index, bool enabled) { Mirror(At(index).enabled, enabled); }
+  bool ItemVisible(int index) const { return At(index).visible; }
+  void SetItemVisible(int index, bool visible) { Mirror(At(index).visible, visible); }
+  bool ItemChecked(int index) const { return At(index).checked; }
+  void SetItemChecked(int index, bool checked) { Mirror(At(index).checked, checked); }
+
+  // The user's choice of an entry; one that is disabled or not shown does not answer. Throws RuntimeError 9 outside the
+  // array.
+  void ClickItem(int index) const;
+
+  std::function<void(Integer index)> Click;
+
+ private:
+  struct Item {
+    std::string caption;
+    bool enabled = true;
+    bool visible = true;
+    bool checked = false;
+  };
+  const Item& At(int index) const;
+  Item& At(int index);
+
+  std::vector<Item> items_;
+};
+
+// A whole number between two others.
+class Slider : public Control {
+ public:
+  Slider(Form& form, std::string_view name, int minimum, int maximum)
+      : Control(form, name), minimum_(minimum), maximum_(maximum), value_(minimum) {}
+
+  int Minimum() const { return minimum_; }
+  int Maximum() const { return maximum_; }
+  int Value() const { return value_; }
+  // A value outside the range becomes its nearer end.
+  void SetValue(int value);
+
+  Event Change;  // the value differs from before
+
+ private:
+  int minimum_;
+  int maximum_;
+  int value_;
 };
 
 // A stored picture of which only the visibility changes.

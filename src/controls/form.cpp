@@ -10,6 +10,20 @@ namespace orby {
 
 Control::Control(Form& form, std::string_view name) : form_(&form), name_(name) { form.controls_.push_back(this); }
 
+void Control::Touch() const {
+  if (FormView* view = form_->View()) view->ControlChanged(*this);
+}
+
+void Form::SetCaption(std::string caption) {
+  caption_ = std::move(caption);
+  if (view_ != nullptr) view_->CaptionChanged();
+}
+
+void Form::RequestFocus(Control& control) {
+  focus_ = &control;
+  if (view_ != nullptr) view_->FocusRequested(control);
+}
+
 Control* Form::Find(std::string_view name) const {
   const auto found = std::find_if(controls_.begin(), controls_.end(),
                                   [name](const Control* control) { return control->Name() == name; });
@@ -26,6 +40,7 @@ void Form::Close() {
   if (!open_) return;
   open_ = false;
   OnClose();
+  if (view_ != nullptr) view_->Closed();
 }
 
 void SelectAllText(Form& form) {

@@ -1,6 +1,7 @@
 // A dialog as a model: its controls, its caption, and the one opening and closing it goes through.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -9,6 +10,16 @@ namespace orby {
 
 class Control;
 class TextBox;
+
+// What shows a form on the screen. It is told of each change before the events of the change run.
+class FormView {
+ public:
+  virtual ~FormView() = default;
+  virtual void ControlChanged(const Control& control) = 0;
+  virtual void CaptionChanged() = 0;
+  virtual void FocusRequested(Control& control) = 0;
+  virtual void Closed() = 0;
+};
 
 class Form {
  public:
@@ -19,7 +30,7 @@ class Form {
 
   std::string_view Name() const { return name_; }
   const std::string& Caption() const { return caption_; }
-  void SetCaption(std::string caption) { caption_ = std::move(caption); }
+  void SetCaption(std::string caption);
 
   // In the order of their declaration, which is the order of the tab key.
   const std::vector<Control*>& Controls() const { return controls_; }
@@ -34,7 +45,14 @@ class Form {
 
   // The control that has the focus, or that is to get it as soon as it can be seen and used.
   Control* FocusRequest() const { return focus_; }
-  void RequestFocus(Control& control) { focus_ = &control; }
+  void RequestFocus(Control& control);
+
+  // The one view, or nullptr; it unties itself before it goes.
+  void SetView(FormView* view) { view_ = view; }
+  FormView* View() const { return view_; }
+
+  // Runs once the form has dealt with an act of the user, such as a key or a click.
+  std::function<void()> Acted;
 
  protected:
   virtual void OnOpen() = 0;
@@ -47,6 +65,7 @@ class Form {
   std::string caption_;
   std::vector<Control*> controls_;
   Control* focus_ = nullptr;
+  FormView* view_ = nullptr;
   bool open_ = false;
 };
 

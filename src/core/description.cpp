@@ -16,7 +16,9 @@ constexpr std::size_t LongestLine = 60;
 // The text after a trip through the temporary file, which is gone afterwards.
 std::string ThroughTemporaryFile(Program& program, std::string_view text) {
   FileSystem& files = program.platform.files;
-  const std::string path = GetTempDirectory(program) + "~tmpdesc.tmp";
+  const std::string& folder = program.folders.ProgramTemporary;
+  // Until the user's folders are known, the machine's own serves.
+  const std::string path = (folder.empty() ? GetTempDirectory(program) : folder) + "~tmpdesc.tmp";
   const auto file = files.CreateFile(path);
   file->Write(text);
   file->Close();

@@ -89,6 +89,16 @@ void TrimHistory(std::string& text) {
   text.erase(0, start);
 }
 
+void AppendHistoryLine(History& history, Integer maxDisplaySize, std::string_view text) {
+  constexpr Integer LastLineNumber = 16384;
+  if (CharacterCount(history.Text) >= static_cast<std::size_t>(maxDisplaySize)) TrimHistory(history.Text);
+  if (++history.HistoryLineCounter > LastLineNumber) history.HistoryLineCounter = 1;
+  history.Text += NumberText(history.HistoryLineCounter);
+  history.Text += ". ";
+  history.Text += text;
+  history.Text += LineEnd;
+}
+
 }  // namespace
 
 int ShowMessage(Program& program, const std::string& text, int style, const std::string& title,
@@ -113,17 +123,9 @@ void ContextHelpHint(Program& program) {
 }
 
 void AddHistoryLine(Program& program, std::string_view text) {
-  constexpr Integer LastLineNumber = 16384;
-  if (program.settings.DisplayHistoryWin != 1) return;
   History& history = program.history;
-  if (CharacterCount(history.Text) >= static_cast<std::size_t>(program.settings.MaxDisplaySize)) {
-    TrimHistory(history.Text);
-  }
-  if (++history.HistoryLineCounter > LastLineNumber) history.HistoryLineCounter = 1;
-  history.Text += NumberText(history.HistoryLineCounter);
-  history.Text += ". ";
-  history.Text += text;
-  history.Text += LineEnd;
+  if (program.settings.DisplayHistoryWin == 1) AppendHistoryLine(history, program.settings.MaxDisplaySize, text);
+  if (history.Changed) history.Changed();
 }
 
 int ErrorDecision(Program& program, const RuntimeError& error, bool showMessage) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,6 +33,7 @@ struct MessageTitles {
 struct History {
   std::string Text;
   Integer HistoryLineCounter = 0;
+  std::function<void()> Changed;  // a line was asked for, whether or not it was added
 };
 
 // What the roof rating estimator last chose.
@@ -87,6 +89,12 @@ struct Program {
 
   Catalogs catalogs;
   Settings settings;
+  TextBrowseSettings textBrowse;
+  OptionSettings options;
+  GraphSettings graph;
+  RecentFiles recentFiles;
+  Folders folders;
+  std::string IniFilePath;
   DesignDefaults defaults;
   MessageTitles titles;
   History history;

@@ -1,20 +1,101 @@
 // The user's settings and the values that a new design starts from.
 #pragma once
 
+#include <array>
 #include <string>
+#include <string_view>
 
 #include "base/types.h"
 
 namespace orby {
 
+inline constexpr std::string_view BuiltInExtension = "ORB";
+inline constexpr std::string_view BuiltInViewer = "Notepad.exe";
+
+// Flags are 0 and 1 but for the font flags, which are 0 and -1.
 struct Settings {
   Integer UnitsDefault = 0;
-  Integer BoltGradeAsUltimateDefault = 0;
   Integer DisplayHistoryWin = 1;
-  Integer MaxDisplaySize = 4096;  // length at which the history is trimmed
+  Integer MaxDisplaySize = 2048;  // length at which the history is trimmed, characters
+  std::string DisplayFontName;
+  Single DisplayFontSize = 10;
+  Integer DisplayFontBold = 0;
+  Integer DisplayFontItalic = 0;
+  Integer KeepFileNames = 1;
+  Integer ShowDisclaim = 1;
+  Integer MaxMainMenu = 0;
+  Integer EnableMainMenuToolbar = 1;
+  Integer ShortRecentFiles = 0;
+  Integer LoadLastInputFile = 0;
+  Integer RemindAnnualUpdates = 1;
+  Integer CopyExampleFiles = 1;
+  std::string ExternalEditor{BuiltInViewer};
+  std::string DataPath;  // ends in a separator
+  std::string FileExtension{BuiltInExtension};
+};
+
+struct TextBrowseSettings {
+  std::string BrowseFontName;
+  Single BrowseFontSize = 10;
+  Integer BrowseFontBold = 0;
+  Integer BrowseFontItalic = 0;
+  std::string BrowseDefaultFilter;
+  Integer BrowseUseNotepad = 0;
+};
+
+// Choices that last until the program ends: they are written to a section that is never read.
+struct OptionSettings {
+  Integer BoltGradeAsUltimateDefault = 0;  // 1: the grades of a new design are ultimate strengths
+  Integer OutputStrUnits = 0;
+  Integer OutputStrGradUnits = 0;
+  Integer ShowInputScreenOnLoad = 1;
+  Integer ViewChildWindow = 1;
   Integer PrintModuleHeader = 1;
-  std::string DataPath;
-  std::string FileExtension = "ORB";
+  Integer AskOfficeInstall = 1;
+};
+
+// The files that the File menu offers again, the newest first.
+struct RecentFiles {
+  static constexpr Integer Capacity = 4;
+  struct Entry {
+    std::string LastFile;  // as the menu shows it
+    Integer LastFileMode = 0;
+    std::string LastFileLong;  // the path
+  };
+  Integer MaxLastFiles = 0;  // entries in use
+  std::array<Entry, Capacity> Entries;
+};
+
+namespace grid_style {
+inline constexpr Integer Horizontal = 1;
+inline constexpr Integer Vertical = 2;
+}  // namespace grid_style
+
+namespace graph_style {
+inline constexpr Integer LinesOnly = 1;
+inline constexpr Integer SymbolsOnly = 2;
+inline constexpr Integer LinesAndSymbols = 3;
+}  // namespace graph_style
+
+// How curves are drawn.
+struct GraphSettings {
+  Integer GraphSetParams = 0;  // 0 the default format, 1 the last one used
+  Integer GridStyle = grid_style::Horizontal + grid_style::Vertical;
+  Integer GraphStyle = graph_style::LinesAndSymbols;
+  Integer CurveLegend = 1;
+  Integer SymbolSize = 6;
+  Integer GraphUnits = 0;  // the unit system that the axis titles were composed in
+  std::string GraphTitle;
+  std::array<std::string, 10> XAxisTitle;  // one a curve
+  std::array<std::string, 3> YAxisTitle;   // one a dependent variable
+};
+
+// Where the program keeps what belongs to the user; each path ends in a separator.
+struct Folders {
+  std::string Group;
+  std::string GroupTemporary;
+  std::string ProgramData;
+  std::string ProgramTemporary;
 };
 
 // Values of a new design. Pairs are Metric and English.

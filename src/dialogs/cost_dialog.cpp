@@ -8,6 +8,7 @@
 #include "core/messages.h"
 #include "dialogs/fault_texts.h"
 #include "dialogs/history_texts.h"
+#include "dialogs/results_window.h"
 #include "engine/cost.h"
 #include "reports/cost_report.h"
 #include "reports/input_echo.h"
@@ -76,7 +77,7 @@ void CostDialog::TieCommands() {
   Command1.Click = [this] { Close(); };
   cmdresults.Click = [this] {
     if (!ValidateCost() || !BuildReport()) return;
-    program_.platform.windows.ShowResults();
+    ShowResults(program_);
   };
   Command3.Click = [this] { ContextHelpHint(program_); };
 }

@@ -11,6 +11,7 @@
 #include "core/messages.h"
 #include "dialogs/estimator_dialog.h"
 #include "dialogs/history_texts.h"
+#include "dialogs/results_window.h"
 #include "reports/calculation_report.h"
 #include "reports/input_echo.h"
 
@@ -151,7 +152,7 @@ void ParametersDialog::TieCommands() {
   cmdresults.Click = [this] {
     if (!ValidateParameters()) return;
     BuildReport();
-    program_.platform.windows.ShowResults();
+    ShowResults(program_);
   };
   Command3.Click = [this] { ContextHelpHint(program_); };
   cmdCMRR.Click = [this] { Estimate(); };

@@ -169,7 +169,7 @@ void FileNew(Program& program, bool untitled, bool resetUnits) {
   if (untitled) program.CurrentFile = UntitledName;
   if (resetUnits) {
     program.Units = program.settings.UnitsDefault;
-    program.BoltStrengthMode = program.settings.BoltGradeAsUltimateDefault;
+    program.BoltStrengthMode = program.options.BoltGradeAsUltimateDefault;
   }
   program.FileSaved = true;
   program.FileEmpty = true;

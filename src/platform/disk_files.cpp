@@ -1,5 +1,7 @@
 #include "platform/disk_files.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -69,6 +71,17 @@ class DiskOutputFile : public OutputFile {
   FileHandle file_;
 };
 
+class DiskFileMark : public FileMark {
+ public:
+  explicit DiskFileMark(int file) : file_(file) {}
+  ~DiskFileMark() override { close(file_); }
+  DiskFileMark(const DiskFileMark&) = delete;
+  DiskFileMark& operator=(const DiskFileMark&) = delete;
+
+ private:
+  int file_;
+};
+
 }  // namespace
 
 DiskFiles::DiskFiles(std::string programFolder) : programFolder_(std::move(programFolder)) {}
@@ -105,6 +118,42 @@ std::unique_ptr<OutputFile> DiskFiles::CreateFile(const std::string& path) {
 void DiskFiles::RemoveFile(const std::string& path) {
   CheckName(path);
   if (unlink(path.c_str()) != 0) throw FileError(errno, path);
+}
+
+void DiskFiles::RenameFile(const std::string& path, const std::string& newPath) {
+  CheckName(path);
+  CheckName(newPath);
+  if (std::rename(path.c_str(), newPath.c_str()) != 0) throw FileError(errno, path);
+}
+
+void DiskFiles::MakeFolder(const std::string& path) {
+  CheckName(path);
+  std::error_code problem;
+  std::filesystem::create_directories(path, problem);
+  if (problem) throw FileError(problem.value(), path);
+}
+
+bool DiskFiles::CanWriteTo(const std::string& folder) { return access(folder.c_str(), W_OK | X_OK) == 0; }
+
+void DiskFiles::SetWorkingFolder(const std::string& path) {
+  CheckName(path);
+  if (chdir(path.c_str()) != 0) throw FileError(errno, path);
+}
+
+std::string DiskFiles::AbsolutePath(const std::string& path) {
+  std::error_code problem;
+  auto absolute = std::filesystem::absolute(path, problem);
+  return problem ? path : absolute.lexically_normal().string();
+}
+
+std::unique_ptr<FileMark> DiskFiles::TryMark(const std::string& path) {
+  CheckName(path);
+  const int file = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
+  if (file < 0) return nullptr;
+  // The system takes the lock away from a program that has ended, however it ended.
+  if (flock(file, LOCK_EX | LOCK_NB) == 0) return std::make_unique<DiskFileMark>(file);
+  close(file);
+  return nullptr;
 }
 
 std::string DiskFiles::TemporaryFolder() {

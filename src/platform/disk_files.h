@@ -13,6 +13,12 @@ class DiskFiles : public FileSystem {
   std::string ReadFile(const std::string& path) override;
   std::unique_ptr<OutputFile> CreateFile(const std::string& path) override;
   void RemoveFile(const std::string& path) override;
+  void RenameFile(const std::string& path, const std::string& newPath) override;
+  void MakeFolder(const std::string& path) override;
+  bool CanWriteTo(const std::string& folder) override;
+  void SetWorkingFolder(const std::string& path) override;
+  std::string AbsolutePath(const std::string& path) override;
+  std::unique_ptr<FileMark> TryMark(const std::string& path) override;
   std::string TemporaryFolder() override;
   std::string ProgramFolder() override;
 

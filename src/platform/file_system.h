@@ -17,6 +17,12 @@ class OutputFile {
   virtual void Close() = 0;
 };
 
+// A file marked as in use.
+class FileMark {
+ public:
+  virtual ~FileMark() = default;
+};
+
 class FileSystem {
  public:
   virtual ~FileSystem() = default;
@@ -28,6 +34,18 @@ class FileSystem {
   // Opens the file for writing; an existing one is emptied at once.
   virtual std::unique_ptr<OutputFile> CreateFile(const std::string& path) = 0;
   virtual void RemoveFile(const std::string& path) = 0;
+  // Takes the place of whatever has the new name, in one step.
+  virtual void RenameFile(const std::string& path, const std::string& newPath) = 0;
+  // Makes the folder and those above it; one that is there already is no error.
+  virtual void MakeFolder(const std::string& path) = 0;
+  // Whether files can be made in the folder.
+  virtual bool CanWriteTo(const std::string& folder) = 0;
+  virtual void SetWorkingFolder(const std::string& path) = 0;
+  // The path from the root of the file system.
+  virtual std::string AbsolutePath(const std::string& path) = 0;
+  // Marks the file as in use by this program until the mark is destroyed or the program ends in whatever way; the file
+  // is made when it is missing. Nothing when another program has it, or when it cannot be made.
+  virtual std::unique_ptr<FileMark> TryMark(const std::string& path) = 0;
 
   // The folder for temporary files, without the separator at its end unless the system gives one.
   virtual std::string TemporaryFolder() = 0;

@@ -1,9 +1,12 @@
 // The one door to the outside, handed in at start. Everything that blocks, shows, stores or fetches goes through it.
 #pragma once
 
+#include "platform/clipboard.h"
+#include "platform/documents.h"
 #include "platform/file_dialogs.h"
 #include "platform/file_system.h"
 #include "platform/message_boxes.h"
+#include "platform/printer.h"
 #include "platform/surroundings.h"
 #include "platform/windows.h"
 
@@ -16,6 +19,11 @@ struct Platform {
   Windows& windows;
   Fonts& fonts;
   Locale& locale;
+  Clock& clock;
+  UserFolders& userFolders;
+  Clipboard& clipboard;
+  Printer& printer;
+  Documents& documents;
 };
 
 }  // namespace orby

@@ -1,6 +1,8 @@
-// Fonts and locale of the machine.
+// Fonts, locale, clock and folders of the machine.
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,6 +19,28 @@ class Locale {
  public:
   virtual ~Locale() = default;
   virtual std::string DecimalSeparator() = 0;
+};
+
+struct Date {
+  int year = 0;
+  int month = 0;  // 1..12
+  int day = 0;    // 1..31
+};
+
+class Clock {
+ public:
+  virtual ~Clock() = default;
+  virtual Date Today() = 0;
+  // Runs the act once, from the event loop, when so many milliseconds have passed.
+  virtual void CallLater(int milliseconds, std::function<void()> act) = 0;
+};
+
+// The user's own folders; nothing when the desktop does not know them.
+class UserFolders {
+ public:
+  virtual ~UserFolders() = default;
+  virtual std::optional<std::string> Documents() = 0;
+  virtual std::optional<std::string> Desktop() = 0;
 };
 
 }  // namespace orby

@@ -172,7 +172,7 @@ void Echo::Rows(NumberRows rows) {
 
 void Echo::Header() {
   constexpr std::size_t FileNameWidth = 70;
-  if (program.settings.PrintModuleHeader != 1) return;
+  if (program.options.PrintModuleHeader != 1) return;
   page.Line("ORBY module build: " + std::string(BuildStamp));
   page.Wrapped("Project File: " + program.CurrentFile, FileNameWidth);
   std::string units = "Input Units: ";

@@ -131,7 +131,7 @@ class SmallDisk : public MemoryFiles {
 TEST(IniFileOnAFullDisk, KeepsWhatItHeld) {
   RecordingPlatform platform;
   SmallDisk disk(40);
-  Platform doors{platform.boxes, disk, platform.fileDialogs, platform.windows, platform.fonts, platform.locale};
+  const Platform doors = platform.DoorsWith(disk);
   Program program(doors);
   disk.files[IniPath] = "[Version]\r\nINIFileVersion=201030\r\n";
 

@@ -208,7 +208,7 @@ struct NamedFolders : MemoryFiles {
 
 struct Folders : FileBench {
   NamedFolders files;
-  Program elsewhere{{platform.boxes, files, platform.fileDialogs, platform.windows, platform.fonts, platform.locale}};
+  Program elsewhere{platform.DoorsWith(files)};
 };
 
 TEST_F(Folders, TheTemporaryOneEndsInOneSeparator) {

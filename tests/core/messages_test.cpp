@@ -32,7 +32,7 @@ TEST_F(ShowMessageBox, IsLoggedBeforeItIsAnswered) {
     Program* program = nullptr;
     std::string logWhenShown;
   } boxes;
-  Program asking({boxes, platform.files, platform.fileDialogs, platform.windows, platform.fonts, platform.locale});
+  Program asking(platform.DoorsWith(boxes));
   boxes.program = &asking;
 
   ShowMessage(asking, "Save changes?", box_style::YesNoCancel, "Save");

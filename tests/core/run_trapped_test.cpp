@@ -73,7 +73,7 @@ TEST_F(CommandStep, HasTheNormalCursorBackBeforeTheUserIsAsked) {
     const RecordingWindows& windows;
     std::vector<bool> waitingWhenShown;
   } boxes(platform.windows);
-  Program watched({boxes, platform.files, platform.fileDialogs, platform.windows, platform.fonts, platform.locale});
+  Program watched(platform.DoorsWith(boxes));
 
   RunTrapped(watched, [this] {
     platform.windows.SetWaitCursor(true);

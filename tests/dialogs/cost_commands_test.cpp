@@ -220,11 +220,11 @@ TEST_F(ACostDialog, ShowsTheCostTableOfTheTypedNumbers) {
     Box(name).SetText(text);
   }
   std::string shown;
-  platform.windows.onResults = [&] { shown = program.OutBuf[1]; };
+  platform.windows.onModal = [&](Form&) { shown = program.OutBuf[1]; };
 
   dialog.cmdresults.Press();
 
-  EXPECT_EQ(platform.windows.resultsShown, 1);
+  EXPECT_EQ(platform.windows.modalForms, 1);
   EXPECT_THAT(shown, StartsWith("[TULK COST CALCULATIONS]\r\n"));
   EXPECT_THAT(shown, HasSubstr("Consumables Cost:            5.72      5.72   1717.00      1.43\r\n"));
   EXPECT_THAT(shown, HasSubstr("Transportation Cost:         0.33      0.33    100.00      0.08\r\n"));
@@ -290,7 +290,7 @@ TEST_F(ACostDialog, ShowsNoResultsOfANegativeNumber) {
 
   dialog.cmdresults.Press();
 
-  EXPECT_EQ(platform.windows.resultsShown, 0);
+  EXPECT_EQ(platform.windows.modalForms, 0);
   EXPECT_EQ(program.OutBuf[1], "an older report");
   EXPECT_EQ(program.WorkParmsCopy.CostBoltCost, 0.0F);
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid number of depreciation years"));

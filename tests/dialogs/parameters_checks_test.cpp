@@ -172,7 +172,7 @@ struct WatchingBoxes : MessageBoxes {
 
 TEST_F(ParameterChecks, TellTheFaultBeforeTheyGoToIt) {
   WatchingBoxes boxes;
-  Program watched{{boxes, platform.files, platform.fileDialogs, platform.windows, platform.fonts, platform.locale}};
+  Program watched{platform.DoorsWith(boxes)};
   SetBuiltInCatalogs(watched.catalogs);
   FileNew(watched, true, true);
   ParametersDialog opened(watched);

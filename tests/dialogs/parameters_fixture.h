@@ -77,7 +77,7 @@ struct AParametersDialog : testing::Test {
   // A new design; ultimate: grades are ultimate strengths.
   void StartDesign(Integer units, Integer ultimate = 0) {
     program.settings.UnitsDefault = units;
-    program.settings.BoltGradeAsUltimateDefault = ultimate;
+    program.options.BoltGradeAsUltimateDefault = ultimate;
     FileNew(program, true, true);
     program.history = {};
   }

@@ -101,7 +101,7 @@ TEST_F(ParameterPreview, ShowsTheResultsOfTheFieldsAsTheyStand) {
 
   dialog.cmdresults.Press();
 
-  EXPECT_EQ(platform.windows.resultsShown, 1);
+  EXPECT_EQ(platform.windows.modalForms, 1);
   EXPECT_THAT(program.OutBuf[0], HasSubstr("512.5 (ft)"));
   EXPECT_THAT(program.OutBuf[1], HasSubstr("[ORBY CALCULATIONS]"));
   EXPECT_EQ(program.ReportCaller, 1);
@@ -113,7 +113,7 @@ TEST_F(ParameterPreview, HasRestoredTheDesignBeforeTheResultsAreOnView) {
   dialog.Open();
   Do("txtDepthofCover=512.5|chkPrimSupport=0|optBoltOptionsSecEntry=1|txtTrussCapacitySecInter=44");
   bool shown = false;
-  platform.windows.onResults = [&] {
+  platform.windows.onModal = [&](Form&) {
     shown = true;
     EXPECT_EQ(program.WorkParms.DepthofCover, 400);
     EXPECT_EQ(program.WorkParms.PrimSupport, 1);
@@ -139,7 +139,7 @@ TEST_F(ParameterPreview, GivesTheSameReportTwice) {
   dialog.cmdresults.Press();
 
   EXPECT_EQ(program.OutBuf, first);
-  EXPECT_EQ(platform.windows.resultsShown, 2);
+  EXPECT_EQ(platform.windows.modalForms, 2);
 }
 
 TEST_F(ParameterPreview, LeavesTheDialogOpenAndTheFileUnchanged) {
@@ -169,7 +169,7 @@ TEST_F(ParameterPreview, IsRefusedWhileAFieldIsWrong) {
   dialog.cmdresults.Press();
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid roof fall angle"));
-  EXPECT_EQ(platform.windows.resultsShown, 0);
+  EXPECT_EQ(platform.windows.modalForms, 0);
   EXPECT_EQ(program.OutBuf, before);
   EXPECT_EQ(program.WorkParmsCopy.RockFallAngle, 0);
 }
@@ -182,7 +182,7 @@ TEST_F(ParameterPreview, CanBeBuiltWithoutTheChecks) {
 
   EXPECT_THAT(platform.boxes.Texts(), IsEmpty());
   EXPECT_THAT(program.OutBuf[0], HasSubstr("61 (deg)"));
-  EXPECT_EQ(platform.windows.resultsShown, 0);
+  EXPECT_EQ(platform.windows.modalForms, 0);
   EXPECT_EQ(program.WorkParms.RockFallAngle, 30);
 }
 

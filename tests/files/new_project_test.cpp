@@ -27,7 +27,7 @@ TEST(NewProject, MetricDefaultsAreTheseToTheLetter) {
 
 TEST(NewProject, UltimateStrengthTakesTheUltimateGrade) {
   TestProject project;
-  project.program.settings.BoltGradeAsUltimateDefault = 1;
+  project.program.options.BoltGradeAsUltimateDefault = 1;
 
   FileNew(project.program, true, true);
   EXPECT_EQ(project.program.BoltStrengthMode, 1);

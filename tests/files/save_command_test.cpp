@@ -140,7 +140,7 @@ class MendingBoxes : public MessageBoxes {
 TEST_P(FailingSave, StartsOverOnRetry) {
   RecordingPlatform platform;
   MendingBoxes boxes(platform.files, GetParam().step);
-  Program program({boxes, platform.files, platform.fileDialogs, platform.windows, platform.fonts, platform.locale});
+  Program program(platform.DoorsWith(boxes));
   program.catalogs.StandSupports = {0, {"Four-point timber crib"}, {}};
   program.CurrentFile = ProjectPath;
   FileNew(program, false, true);

@@ -9,7 +9,7 @@ namespace orby::test {
 Desk::Desk(Integer units, Integer strengthMode) : program(machine.Doors()) {
   SetBuiltInCatalogs(program.catalogs);
   program.settings.UnitsDefault = units;
-  program.settings.BoltGradeAsUltimateDefault = strengthMode;
+  program.options.BoltGradeAsUltimateDefault = strengthMode;
   FileNew(program, true, true);
 }
 

@@ -307,7 +307,7 @@ void AllWarningsMetric(Program& program) {
 }
 
 void EverythingOff(Program& program) {
-  program.settings.PrintModuleHeader = 0;
+  program.options.PrintModuleHeader = 0;
   program.WorkParms.PrimSupport = 0;
   program.WorkParms.SecondSupEntries = 0;
   program.WorkParms.SecondSupInter = 0;

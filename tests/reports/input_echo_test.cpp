@@ -33,14 +33,14 @@ std::vector<std::string> Geology(Desk& desk) { return SectionOf(InputPage(desk),
 
 TEST(InputEcho, WithoutTheHeaderThePageStartsWithTheTitle) {
   Desk desk;
-  desk.program.settings.PrintModuleHeader = 0;
+  desk.program.options.PrintModuleHeader = 0;
 
   EXPECT_THAT(InputPage(desk), StartsWith("[PROJECT TITLE]\r\n"));
 }
 
 TEST(InputEcho, OnlyTheSettingOnePrintsTheHeader) {
   Desk desk;
-  desk.program.settings.PrintModuleHeader = 2;
+  desk.program.options.PrintModuleHeader = 2;
 
   EXPECT_THAT(InputPage(desk), StartsWith("[PROJECT TITLE]\r\n"));
 }

@@ -5,10 +5,15 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "base/paths.h"
 #include "base/runtime_error.h"
+#include "controls/control.h"
+#include "controls/form.h"
 #include "platform/platform.h"
 
 namespace orby::test {
@@ -37,14 +42,14 @@ class RecordingBoxes : public MessageBoxes {
 // Files in memory. Any step of a file's life can be made to fail with a run-time error.
 class MemoryFiles : public FileSystem {
  public:
-  enum class Step { Find, Read, Create, Write, Close, Remove };
+  enum class Step { Find, Read, Create, Write, Close, Remove, Rename, MakeFolder };
 
   // The step fails with this error, as soon as it has succeeded `after` times.
   void Fail(Step step, int errorNumber, int after = 0) { failures[step] = {errorNumber, after}; }
 
   bool Finds(const std::string& path, bool foldersToo) override {
     Meet(Step::Find);
-    return files.contains(path) || (foldersToo && (path == "/tmp" || path == "/program"));
+    return files.contains(path) || (foldersToo && folders.contains(WithoutSeparator(path)));
   }
 
   std::string ReadFile(const std::string& path) override {
@@ -66,10 +71,37 @@ class MemoryFiles : public FileSystem {
     if (files.erase(path) == 0) throw RuntimeError(error_number::FileNotFound);
   }
 
+  void RenameFile(const std::string& path, const std::string& newPath) override {
+    Meet(Step::Rename);
+    files[newPath] = ReadFile(path);
+    files.erase(path);
+  }
+
+  void MakeFolder(const std::string& path) override {
+    Meet(Step::MakeFolder);
+    folders.emplace(WithoutSeparator(path));
+  }
+
+  bool CanWriteTo(const std::string& folder) override { return !readOnly.contains(WithoutSeparator(folder)); }
+  void SetWorkingFolder(const std::string& path) override { workingFolder = path; }
+  std::string AbsolutePath(const std::string& path) override {
+    return path.starts_with('/') ? path : workingFolder + "/" + path;
+  }
+
+  std::unique_ptr<FileMark> TryMark(const std::string& path) override {
+    if (marked.contains(path)) return nullptr;
+    files.try_emplace(path);
+    return std::make_unique<MemoryMark>(*this, path);
+  }
+
   std::string TemporaryFolder() override { return "/tmp"; }
   std::string ProgramFolder() override { return "/program"; }
 
   std::map<std::string, std::string> files;
+  std::set<std::string, std::less<>> folders{"/tmp", "/program"};
+  std::set<std::string, std::less<>> readOnly;  // folders
+  std::set<std::string> marked;                 // files in use by a program
+  std::string workingFolder = "/work";
   std::vector<std::string> created;
 
  private:
@@ -86,6 +118,20 @@ class MemoryFiles : public FileSystem {
       owner_.files[path_] += bytes;
     }
     void Close() override { owner_.Meet(Step::Close); }
+
+   private:
+    MemoryFiles& owner_;
+    std::string path_;
+  };
+
+  class MemoryMark : public FileMark {
+   public:
+    MemoryMark(MemoryFiles& owner, std::string path) : owner_(owner), path_(std::move(path)) {
+      owner_.marked.insert(path_);
+    }
+    ~MemoryMark() override { owner_.marked.erase(path_); }
+    MemoryMark(const MemoryMark&) = delete;
+    MemoryMark& operator=(const MemoryMark&) = delete;
 
    private:
     MemoryFiles& owner_;
@@ -128,17 +174,15 @@ class RecordingWindows : public Windows {
     ++modalForms;
     if (onModal) onModal(form);
   }
-  void ShowResults() override {
-    ++resultsShown;
-    if (onResults) onResults();
-  }
+  void Show(Form& form) override { shown.push_back(&form); }
+  void ShowMainWindow(bool visible) override { mainWindowShown = visible; }
   void CenterForm(Form&) override { ++centered; }
   void SetWaitCursor(bool waiting) override { waitCursor = waiting; }
 
   std::function<void(Form&)> onModal;
-  std::function<void()> onResults;
   int modalForms = 0;
-  int resultsShown = 0;
+  std::vector<Form*> shown;
+  bool mainWindowShown = true;
   int centered = 0;
   bool waitCursor = false;
 };
@@ -159,6 +203,96 @@ class ScriptedLocale : public Locale {
   std::string separator = ".";
 };
 
+// A day that never changes, and acts that wait until the test lets time pass.
+class StandingClock : public Clock {
+ public:
+  Date Today() override { return today; }
+  void CallLater(int milliseconds, std::function<void()> act) override {
+    waiting.push_back({milliseconds, std::move(act)});
+  }
+
+  // Runs what waits, in the order in which it was asked for.
+  void Pass() {
+    for (auto& [milliseconds, act] : std::exchange(waiting, {})) act();
+  }
+
+  Date today{2031, 3, 9};
+  std::vector<std::pair<int, std::function<void()>>> waiting;
+};
+
+class ScriptedUserFolders : public UserFolders {
+ public:
+  std::optional<std::string> Documents() override { return documents; }
+  std::optional<std::string> Desktop() override { return desktop; }
+
+  std::optional<std::string> documents = "/home/user/Documents";
+  std::optional<std::string> desktop = "/home/user/Desktop";
+};
+
+class RecordingClipboard : public Clipboard {
+ public:
+  void Clear() override { text.clear(); }
+  void SetText(const std::string& given) override { text = given; }
+  void SetPicture(const Control& chart) override { pictured = chart.Name(); }
+  void SetPicture(const Form& form) override { pictured = form.Name(); }
+
+  std::string text;
+  std::string pictured;
+};
+
+// Every step fails with the error that is set.
+class RecordingPrinter : public Printer {
+ public:
+  void Choose() override {
+    ++chosen;
+    Meet();
+  }
+  void SetUp() override {
+    ++setUp;
+    Meet();
+  }
+  void PrintPages(const std::vector<std::string>& given, const std::string& name, const std::string& font) override {
+    Meet();
+    pages = given;
+    documentName = name;
+    fontName = font;
+  }
+  void PrintChart(const Control& chart) override {
+    Meet();
+    printedChart = chart.Name();
+  }
+
+  std::vector<std::string> pages;
+  std::string documentName;
+  std::string fontName;
+  std::string printedChart;
+  int chosen = 0;
+  int setUp = 0;
+  int error = 0;
+
+ private:
+  void Meet() const {
+    if (error != 0) throw RuntimeError(error);
+  }
+};
+
+class RecordingDocuments : public Documents {
+ public:
+  bool Open(const std::string& path) override {
+    opened.push_back(path);
+    return opens;
+  }
+  void OpenSheet(const Sheet& given, const std::string& path) override {
+    sheet = given;
+    opened.push_back(path);
+    if (!opens) throw RuntimeError(error_number::Automation, ". " + path);
+  }
+
+  Sheet sheet;
+  std::vector<std::string> opened;
+  bool opens = true;
+};
+
 struct RecordingPlatform {
   RecordingBoxes boxes;
   MemoryFiles files;
@@ -166,8 +300,22 @@ struct RecordingPlatform {
   RecordingWindows windows;
   ListedFonts fonts;
   ScriptedLocale locale;
+  StandingClock clock;
+  ScriptedUserFolders userFolders;
+  RecordingClipboard clipboard;
+  RecordingPrinter printer;
+  RecordingDocuments documents;
 
-  Platform Doors() { return {boxes, files, fileDialogs, windows, fonts, locale}; }
+  Platform Doors() { return Doors(boxes, files); }
+  // With other message boxes, or another file system, in their place.
+  Platform DoorsWith(MessageBoxes& others) { return Doors(others, files); }
+  Platform DoorsWith(FileSystem& others) { return Doors(boxes, others); }
+
+ private:
+  Platform Doors(MessageBoxes& usedBoxes, FileSystem& usedFiles) {
+    return {usedBoxes, usedFiles,   fileDialogs, windows, fonts,    locale,
+            clock,     userFolders, clipboard,   printer, documents};
+  }
 };
 
 // Runs the act and gives the number of the run-time error it throws, or 0.

@@ -62,7 +62,4 @@ void ScriptFiles::RemoveFile(const std::string& path) {
 
 std::string ScriptFiles::TemporaryFolder() { return std::string(ScratchFolder); }
 
-std::string ScriptFileDialogs::AskOpenName(const FileQuestion&) { throw RuntimeError(error_number::Cancelled); }
-std::string ScriptFileDialogs::AskSaveName(const FileQuestion&) { throw RuntimeError(error_number::Cancelled); }
-
 }  // namespace orby::cli

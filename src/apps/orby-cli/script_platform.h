@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/disk_files.h"
-#include "platform/platform.h"
+#include "platform/no_desktop.h"
 
 namespace orby::cli {
 
@@ -34,26 +34,6 @@ class ScriptFiles : public DiskFiles {
   std::map<std::string, std::string> scratch_;
 };
 
-class ScriptFileDialogs : public FileDialogs {
- public:
-  std::string AskOpenName(const FileQuestion& question) override;
-  std::string AskSaveName(const FileQuestion& question) override;
-};
-
-class NoWindows : public Windows {
- public:
-  void ShowModal(Form&) override {}
-  void ShowResults() override {}
-  void CenterForm(Form&) override {}
-  void SetWaitCursor(bool) override {}
-};
-
-class NoFonts : public Fonts {
- public:
-  std::vector<std::string> ScreenFonts() override { return {}; }
-  std::vector<std::string> PrinterFonts() override { return {}; }
-};
-
 class PointLocale : public Locale {
  public:
   std::string DecimalSeparator() override { return "."; }
@@ -62,12 +42,19 @@ class PointLocale : public Locale {
 struct ScriptPlatform {
   ScriptBoxes boxes;
   ScriptFiles files;
-  ScriptFileDialogs fileDialogs;
+  NoFileDialogs fileDialogs;
   NoWindows windows;
   NoFonts fonts;
   PointLocale locale;
+  NoClock clock;
+  NoUserFolders userFolders;
+  NoClipboard clipboard;
+  NoPrinter printer;
+  NoDocuments documents;
 
-  Platform Doors() { return {boxes, files, fileDialogs, windows, fonts, locale}; }
+  Platform Doors() {
+    return {boxes, files, fileDialogs, windows, fonts, locale, clock, userFolders, clipboard, printer, documents};
+  }
 };
 
 }  // namespace orby::cli

@@ -1,0 +1,63 @@
+// A chart of lines and symbols over two axes.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "controls/control.h"
+
+namespace orby {
+
+struct ChartSeries {
+  std::vector<double> x;
+  std::vector<double> y;
+  std::string legend;
+  int colour = 0;  // blue * 65536 + green * 256 + red
+  int width = 1;   // of the line
+  bool hasLine = true;
+  bool hasSymbols = true;
+  int symbolSize = 1;
+  bool operator==(const ChartSeries&) const = default;
+};
+
+struct ChartAxis {
+  std::string title;
+  bool grid = false;  // the grid lines that stand on this axis
+  bool operator==(const ChartAxis&) const = default;
+};
+
+// What lies under the pointer.
+struct ChartHit {
+  bool inPlot = false;
+  int series = -1;  // of the nearest point, counted from 0; -1 without one
+  int point = -1;
+  double distance = 0;  // to that point, pixels
+};
+
+class Chart : public Control {
+ public:
+  using Control::Control;
+
+  const std::string& Heading() const { return heading_; }
+  void SetHeading(std::string heading) { Mirror(heading_, std::move(heading)); }
+  const ChartAxis& AxisX() const { return axes_[0]; }
+  void SetAxisX(ChartAxis axis) { Mirror(axes_[0], std::move(axis)); }
+  const ChartAxis& AxisY() const { return axes_[1]; }
+  void SetAxisY(ChartAxis axis) { Mirror(axes_[1], std::move(axis)); }
+  bool LegendShown() const { return legendShown_; }
+  void SetLegendShown(bool shown) { Mirror(legendShown_, shown); }
+  const std::vector<ChartSeries>& Series() const { return series_; }
+  void SetSeries(std::vector<ChartSeries> series) { Mirror(series_, std::move(series)); }
+
+  std::function<void(const ChartHit& hit)> MouseMove;
+
+ private:
+  std::string heading_;
+  std::array<ChartAxis, 2> axes_;
+  bool legendShown_ = false;
+  std::vector<ChartSeries> series_;
+};
+
+}  // namespace orby

@@ -1,0 +1,21 @@
+// The clipboard of the desktop.
+#pragma once
+
+#include <string>
+
+namespace orby {
+
+class Control;
+class Form;
+
+class Clipboard {
+ public:
+  virtual ~Clipboard() = default;
+  virtual void Clear() = 0;
+  virtual void SetText(const std::string& text) = 0;
+  // The picture of a chart, or of a form as it is on the screen.
+  virtual void SetPicture(const Control& chart) = 0;
+  virtual void SetPicture(const Form& form) = 0;
+};
+
+}  // namespace orby

@@ -1,0 +1,66 @@
+// The surroundings of a program that runs without a desktop: nothing is shown, asked, printed or handed on.
+#pragma once
+
+#include "base/runtime_error.h"
+#include "platform/platform.h"
+
+namespace orby {
+
+class NoWindows : public Windows {
+ public:
+  void ShowModal(Form&) override {}
+  void Show(Form&) override {}
+  void ShowMainWindow(bool) override {}
+  void CenterForm(Form&) override {}
+  void SetWaitCursor(bool) override {}
+};
+
+class NoFileDialogs : public FileDialogs {
+ public:
+  std::string AskOpenName(const FileQuestion&) override { throw RuntimeError(error_number::Cancelled); }
+  std::string AskSaveName(const FileQuestion&) override { throw RuntimeError(error_number::Cancelled); }
+};
+
+class NoFonts : public Fonts {
+ public:
+  std::vector<std::string> ScreenFonts() override { return {}; }
+  std::vector<std::string> PrinterFonts() override { return {}; }
+};
+
+class NoClock : public Clock {
+ public:
+  Date Today() override { return {}; }
+  void CallLater(int, std::function<void()>) override {}
+};
+
+class NoUserFolders : public UserFolders {
+ public:
+  std::optional<std::string> Documents() override { return std::nullopt; }
+  std::optional<std::string> Desktop() override { return std::nullopt; }
+};
+
+class NoClipboard : public Clipboard {
+ public:
+  void Clear() override {}
+  void SetText(const std::string&) override {}
+  void SetPicture(const Control&) override {}
+  void SetPicture(const Form&) override {}
+};
+
+class NoPrinter : public Printer {
+ public:
+  void Choose() override { throw RuntimeError(error_number::Printer); }
+  void SetUp() override { throw RuntimeError(error_number::Printer); }
+  void PrintPages(const std::vector<std::string>&, const std::string&, const std::string&) override {
+    throw RuntimeError(error_number::Printer);
+  }
+  void PrintChart(const Control&) override { throw RuntimeError(error_number::Printer); }
+};
+
+class NoDocuments : public Documents {
+ public:
+  bool Open(const std::string&) override { return false; }
+  void OpenSheet(const Sheet&, const std::string&) override { throw RuntimeError(error_number::Automation); }
+};
+
+}  // namespace orby
