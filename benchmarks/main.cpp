@@ -22,7 +22,7 @@ using namespace orby;
 // A design with every support system in use, so that every output and every block of the report is there.
 struct Bench {
   Bench() {
-    StartProgram(program, nullptr);
+    StartApart(program, nullptr);
     ProjectRecord& design = program.WorkParms;
     for (auto use :
          {&ProjectRecord::SecEntryUseTruss, &ProjectRecord::SecEntryUseBolt, &ProjectRecord::SecEntryUseStanding}) {

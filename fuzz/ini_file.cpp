@@ -1,4 +1,5 @@
-// Bytes of a configuration file: "section", "key" and "value" on the first three lines, the file behind them.
+// Bytes of a configuration file: read by every section; and "section", "key" and "value" on the first three lines, the
+// file behind them.
 #include "config/ini_file.h"
 
 #include <cstdint>
@@ -12,6 +13,9 @@
 
 #include "base/code_page.h"
 #include "base/text.h"
+#include "config/catalog_sections.h"
+#include "config/settings_sections.h"
+#include "support/recording_platform.h"
 
 namespace {
 
@@ -100,6 +104,35 @@ void CheckEdit(std::string_view section, std::string_view key, std::string_view 
   if (IsPlainValue(value)) Expect(after.Find(section, key).value_or("missing") == value);
 }
 
+bool IsWithin(orby::Single value, orby::Single minimum, orby::Single maximum) {
+  return value >= minimum && value <= maximum;
+}
+
+// No text in the file may stop a start: every section is read, and written again.
+void CheckSections(const std::string& bytes) {
+  orby::test::RecordingPlatform platform;
+  orby::Program program(platform.Doors());
+  program.folders.ProgramData = "/data/";
+  program.IniFilePath = "/data/ORBY.INI";
+  platform.files.files[program.IniFilePath] = bytes;
+  platform.files.folders.clear();
+  const IniText ini = orby::ReadIniFile(program, program.IniFilePath);
+
+  orby::ReadDefaults(program, ini);
+  for (const int section :
+       {orby::catalog_section::Defaults, orby::catalog_section::BoltParams, orby::catalog_section::StandSupports}) {
+    orby::ReadCatalogSection(program, ini, section);
+  }
+
+  Expect(IsWithin(program.settings.MaxDisplaySize, 4096, 16384));
+  Expect(IsWithin(program.settings.DisplayFontSize, 7, 24) && IsWithin(program.textBrowse.BrowseFontSize, 7, 24));
+  Expect(IsWithin(program.graph.GraphStyle, 1, 3) && IsWithin(program.graph.SymbolSize, 3, 20));
+  Expect(IsWithin(program.recentFiles.MaxLastFiles, 0, orby::RecentFiles::Capacity));
+  Expect(program.settings.DataPath == "/data/" && platform.boxes.shown.empty());
+  orby::WriteNewIniFile(program);
+  Expect(orby::ReadIniVersion(program) == orby::BuildStamp);
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -111,6 +144,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view value = orby::TakeLine(rest);
 
   CheckEdit(section, key, value, std::string(rest));
+  CheckSections(bytes);
 
   const IniText ini = IniText::FromFileBytes(bytes);
   static_cast<void>(orby::ReadIniInteger(ini, section, key));

@@ -2,49 +2,45 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
 #include <string>
 #include <string_view>
-#include <variant>
+#include <vector>
 
 #include "base/arithmetic.h"
 #include "base/number_text.h"
 #include "catalogs/catalogs.h"
+#include "config/ini_row.h"
 
 namespace orby {
 namespace {
 
 constexpr std::string_view DefaultsSection = "ORBYDefaults";
 constexpr std::string_view BoltParamsSection = "ORBYBoltParams";
+constexpr std::string_view StandSupportSection = "ORBYStandSupportParams";
 
-struct DefaultKey {
-  std::string_view Key;
-  std::variant<Integer DesignDefaults::*, Single DesignDefaults::*> Member;
-  std::optional<IniRange> Range = std::nullopt;
-};
-
-constexpr std::array DefaultKeys{
-    DefaultKey{"DefaultCMRR", &DesignDefaults::DefaultCMRR, IniRange{0, 100}},
-    DefaultKey{"DefaultMETDepthofCover", &DesignDefaults::DefaultMETDepthofCover},
-    DefaultKey{"DefaultENGDepthofCover", &DesignDefaults::DefaultENGDepthofCover},
-    DefaultKey{"DefaultMETUnitWeight", &DesignDefaults::DefaultMETUnitWeight},
-    DefaultKey{"DefaultENGUnitWeight", &DesignDefaults::DefaultENGUnitWeight},
-    DefaultKey{"DefaultStabilityFactor", &DesignDefaults::DefaultStabilityFactor},
-    DefaultKey{"DefaultMETActualBoltLength", &DesignDefaults::DefaultMETActualBoltLength},
-    DefaultKey{"DefaultENGActualBoltLength", &DesignDefaults::DefaultENGActualBoltLength},
-    DefaultKey{"DefaultMETboltDiameter", &DesignDefaults::DefaultMETboltDiameter},
-    DefaultKey{"DefaultENGboltDiameter", &DesignDefaults::DefaultENGboltDiameter},
-    DefaultKey{"DefaultMETBoltGrade", &DesignDefaults::DefaultMETBoltGrade},
-    DefaultKey{"DefaultENGBoltGrade", &DesignDefaults::DefaultENGBoltGrade},
-    DefaultKey{"DefaultMETBoltUTS", &DesignDefaults::DefaultMETBoltUTS},
-    DefaultKey{"DefaultENGBoltUTS", &DesignDefaults::DefaultENGBoltUTS},
-    DefaultKey{"DefaultNumberBoltsPerRow", &DesignDefaults::DefaultNumberBoltsPerRow},
-    DefaultKey{"DefaultMETrowSpacing", &DesignDefaults::DefaultMETrowSpacing},
-    DefaultKey{"DefaultENGrowSpacing", &DesignDefaults::DefaultENGrowSpacing},
-    DefaultKey{"DefaultMETActualInterSpan", &DesignDefaults::DefaultMETActualInterSpan},
-    DefaultKey{"DefaultENGActualInterSpan", &DesignDefaults::DefaultENGActualInterSpan},
-    DefaultKey{"DefaultMETEntryWidth", &DesignDefaults::DefaultMETEntryWidth},
-    DefaultKey{"DefaultENGEntryWidth", &DesignDefaults::DefaultENGEntryWidth},
+using DefaultRow = IniRow<DesignDefaults>;
+constexpr std::array DefaultRows{
+    DefaultRow{"DefaultCMRR", &DesignDefaults::DefaultCMRR, IniRange{0, 100}},
+    DefaultRow{"DefaultMETDepthofCover", &DesignDefaults::DefaultMETDepthofCover},
+    DefaultRow{"DefaultENGDepthofCover", &DesignDefaults::DefaultENGDepthofCover},
+    DefaultRow{"DefaultMETUnitWeight", &DesignDefaults::DefaultMETUnitWeight},
+    DefaultRow{"DefaultENGUnitWeight", &DesignDefaults::DefaultENGUnitWeight},
+    DefaultRow{"DefaultStabilityFactor", &DesignDefaults::DefaultStabilityFactor},
+    DefaultRow{"DefaultMETActualBoltLength", &DesignDefaults::DefaultMETActualBoltLength},
+    DefaultRow{"DefaultENGActualBoltLength", &DesignDefaults::DefaultENGActualBoltLength},
+    DefaultRow{"DefaultMETboltDiameter", &DesignDefaults::DefaultMETboltDiameter},
+    DefaultRow{"DefaultENGboltDiameter", &DesignDefaults::DefaultENGboltDiameter},
+    DefaultRow{"DefaultMETBoltGrade", &DesignDefaults::DefaultMETBoltGrade},
+    DefaultRow{"DefaultENGBoltGrade", &DesignDefaults::DefaultENGBoltGrade},
+    DefaultRow{"DefaultMETBoltUTS", &DesignDefaults::DefaultMETBoltUTS},
+    DefaultRow{"DefaultENGBoltUTS", &DesignDefaults::DefaultENGBoltUTS},
+    DefaultRow{"DefaultNumberBoltsPerRow", &DesignDefaults::DefaultNumberBoltsPerRow},
+    DefaultRow{"DefaultMETrowSpacing", &DesignDefaults::DefaultMETrowSpacing},
+    DefaultRow{"DefaultENGrowSpacing", &DesignDefaults::DefaultENGrowSpacing},
+    DefaultRow{"DefaultMETActualInterSpan", &DesignDefaults::DefaultMETActualInterSpan},
+    DefaultRow{"DefaultENGActualInterSpan", &DesignDefaults::DefaultENGActualInterSpan},
+    DefaultRow{"DefaultMETEntryWidth", &DesignDefaults::DefaultMETEntryWidth},
+    DefaultRow{"DefaultENGEntryWidth", &DesignDefaults::DefaultENGEntryWidth},
 };
 
 // One list of numbers; the key of an entry is this key and the entry's index.
@@ -58,8 +54,7 @@ struct ListGroup {
   std::string_view IndexKey;
   std::array<ListKey, 3> Lists;
   Integer Capacity = BoltListCapacity;
-  // The reader asks for this index with a blank behind the name, the writer writes it without. The value comes back
-  // only because blanks around a name do not count; without that rule the list would shrink to its first entry.
+  // As in IniRow; were the blank to count, the list would shrink to its first entry.
   bool ReaderAddsBlank = false;
 };
 
@@ -87,40 +82,30 @@ constexpr std::array ListGroups{
               GrowingListCapacity},
 };
 
-void ReadDefault(DesignDefaults& defaults, const IniText& ini, const DefaultKey& row) {
-  if (const auto* single = std::get_if<Single DesignDefaults::*>(&row.Member)) {
-    defaults.** single = ReadIniSingle(ini, DefaultsSection, row.Key);
-    return;
-  }
-  defaults.*std::get<Integer DesignDefaults::*>(row.Member) =
-      row.Range ? ReadIniInteger(ini, DefaultsSection, row.Key, *row.Range)
-                : ReadIniInteger(ini, DefaultsSection, row.Key);
-}
+std::string NumberedKey(std::string_view key, Integer index) { return std::string(key) + NumberText(index); }
 
-void WriteDefault(const DesignDefaults& defaults, IniText& ini, const DefaultKey& row) {
-  const auto write = [&](auto member) { WriteIniValue(ini, DefaultsSection, row.Key, defaults.*member); };
-  std::visit(write, row.Member);
+Integer ReadHighestIndex(const IniText& ini, std::string_view section, std::string_view key, Integer capacity) {
+  return ToInteger(std::clamp<double>(ReadIniNumber(ini, section, key), -1, capacity - 1));
 }
-
-std::string EntryKey(const ListKey& list, Integer index) { return std::string(list.Key) + NumberText(index); }
 
 void ReadListGroup(Catalogs& catalogs, const IniText& ini, const ListGroup& group) {
   const std::string indexKey = std::string(group.IndexKey) + (group.ReaderAddsBlank ? " " : "");
-  const double index = ReadIniNumber(ini, BoltParamsSection, indexKey);
-  const Integer highest = ToInteger(std::clamp<double>(index, -1, group.Capacity - 1));
+  const Integer highest = ReadHighestIndex(ini, BoltParamsSection, indexKey, group.Capacity);
   for (const ListKey& row : group.Lists) {
     if (row.List == nullptr) break;
     CatalogList& list = catalogs.*row.List;
     list.HighestIndex = highest;
     for (Integer i = 0; i <= highest; ++i) {
-      list.Set(static_cast<std::size_t>(i), ReadIniSingle(ini, BoltParamsSection, EntryKey(row, i)));
+      list.Set(static_cast<std::size_t>(i), ReadIniSingle(ini, BoltParamsSection, NumberedKey(row.Key, i)));
     }
   }
 }
 
-Single EntryOrZero(const CatalogList& list, Integer index) {
+// What stands at the index, an empty value when the list is shorter.
+template <class Value>
+Value EntryOrNone(const std::vector<Value>& values, Integer index) {
   const auto position = static_cast<std::size_t>(index);
-  return position < list.Values.size() ? list.Values[position] : 0;
+  return position < values.size() ? values[position] : Value{};
 }
 
 void WriteListGroup(const Catalogs& catalogs, IniText& ini, const ListGroup& group) {
@@ -129,7 +114,48 @@ void WriteListGroup(const Catalogs& catalogs, IniText& ini, const ListGroup& gro
   for (const ListKey& row : group.Lists) {
     if (row.List == nullptr) break;
     for (Integer i = 0; i <= highest; ++i) {
-      WriteIniValue(ini, BoltParamsSection, EntryKey(row, i), EntryOrZero(catalogs.*row.List, i));
+      WriteIniValue(ini, BoltParamsSection, NumberedKey(row.Key, i), EntryOrNone((catalogs.*row.List).Values, i));
+    }
+  }
+}
+
+constexpr std::string_view SupportIndexKey = "DefaultStandSupportIndex";
+constexpr std::string_view SupportNameKey = "DefaultStandSupportType";
+constexpr std::string_view SupportCapacityKey = "DefaultStandSupportCap";
+constexpr std::array<Integer, 2> UnitColumns{0, 1};
+
+std::string NumberedKey(std::string_view key, Integer index, Integer column) {
+  return NumberedKey(key, index) + "_" + NumberText(column);
+}
+
+// No run asks for this section, so the standing supports of every start are the built-in ones. Were it read, names
+// would turn into the numbers that they begin with, and capacities, asked for under the key of the name, into 0.
+void ReadStandSupports(StandingSupports& supports, const IniText& ini) {
+  supports.HighestIndex = ReadHighestIndex(ini, StandSupportSection, SupportIndexKey, GrowingListCapacity);
+  const std::size_t size = std::max({supports.DefaultStandSupportType.size(), supports.DefaultStandSupportCap.size(),
+                                     static_cast<std::size_t>(supports.HighestIndex + 1)});
+  supports.DefaultStandSupportType.resize(size);
+  supports.DefaultStandSupportCap.resize(size);
+  for (Integer i = 0; i <= supports.HighestIndex; ++i) {
+    const auto row = static_cast<std::size_t>(i);
+    const std::string nameKey = NumberedKey(SupportNameKey, i);
+    supports.DefaultStandSupportType[row] = NumberText(ReadIniNumber(ini, StandSupportSection, nameKey));
+    for (const Integer column : UnitColumns) {
+      supports.DefaultStandSupportCap[row][static_cast<std::size_t>(column)] =
+          ReadIniSingle(ini, StandSupportSection, NumberedKey(SupportNameKey, i, column));
+    }
+  }
+}
+
+void WriteStandSupports(const StandingSupports& supports, IniText& ini) {
+  WriteIniValue(ini, StandSupportSection, SupportIndexKey, supports.HighestIndex);
+  for (Integer i = 0; i <= supports.HighestIndex; ++i) {
+    const std::string name = EntryOrNone(supports.DefaultStandSupportType, i);
+    WriteIniValue(ini, StandSupportSection, NumberedKey(SupportNameKey, i), name);
+    const auto capacities = EntryOrNone(supports.DefaultStandSupportCap, i);
+    for (const Integer column : UnitColumns) {
+      WriteIniValue(ini, StandSupportSection, NumberedKey(SupportCapacityKey, i, column),
+                    capacities[static_cast<std::size_t>(column)]);
     }
   }
 }
@@ -138,17 +164,21 @@ void WriteListGroup(const Catalogs& catalogs, IniText& ini, const ListGroup& gro
 
 void ReadCatalogSection(Program& program, const IniText& ini, int selector) {
   if (selector == catalog_section::Defaults) {
-    for (const DefaultKey& row : DefaultKeys) ReadDefault(program.defaults, ini, row);
+    for (const auto& row : DefaultRows) ReadIniRow(program, program.defaults, ini, DefaultsSection, row);
   } else if (selector == catalog_section::BoltParams) {
     for (const ListGroup& group : ListGroups) ReadListGroup(program.catalogs, ini, group);
+  } else if (selector == catalog_section::StandSupports) {
+    ReadStandSupports(program.catalogs.StandSupports, ini);
   }
 }
 
 void WriteCatalogSection(const Program& program, IniText& ini, int selector) {
   if (selector == catalog_section::Defaults) {
-    for (const DefaultKey& row : DefaultKeys) WriteDefault(program.defaults, ini, row);
+    for (const auto& row : DefaultRows) WriteIniRow(program.defaults, ini, DefaultsSection, row);
   } else if (selector == catalog_section::BoltParams) {
     for (const ListGroup& group : ListGroups) WriteListGroup(program.catalogs, ini, group);
+  } else if (selector == catalog_section::StandSupports) {
+    WriteStandSupports(program.catalogs.StandSupports, ini);
   }
 }
 

@@ -1,4 +1,4 @@
-// The sections of the configuration file that hold the values of a new design and the bolt and cable lists.
+// The sections of the configuration file that hold the values of a new design and the lists that users can edit.
 #pragma once
 
 #include "config/ini_file.h"
@@ -7,8 +7,9 @@
 namespace orby {
 
 namespace catalog_section {
-inline constexpr int Defaults = 10;    // [ORBYDefaults], the DesignDefaults
-inline constexpr int BoltParams = 11;  // [ORBYBoltParams], the bolt and cable lists
+inline constexpr int Defaults = 10;       // [ORBYDefaults], the DesignDefaults
+inline constexpr int BoltParams = 11;     // [ORBYBoltParams], the bolt and cable lists
+inline constexpr int StandSupports = 12;  // [ORBYStandSupportParams], the standing supports; written, never read
 }  // namespace catalog_section
 
 // Takes the section's values over into the program. A missing or unreadable value reads as 0. A list's highest index

@@ -11,6 +11,7 @@
 #include "base/number_text.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
+#include "config/whole_file.h"
 
 namespace orby {
 namespace {
@@ -219,17 +220,6 @@ std::optional<std::string> BytesToEdit(FileSystem& files, const std::string& fil
   }
 }
 
-bool TryWriteFile(FileSystem& files, const std::string& file, std::string_view bytes) {
-  try {
-    const auto output = files.CreateFile(file);
-    output->Write(bytes);
-    output->Close();
-    return true;
-  } catch (const RuntimeError&) {
-    return false;
-  }
-}
-
 }  // namespace
 
 IniText ReadIniFile(Program& program, const std::string& file) {
@@ -246,9 +236,7 @@ void EditIniFile(Program& program, const std::string& file, const std::function<
   if (!bytes) return;
   IniText ini = IniText::FromFileBytes(*bytes);
   edit(ini);
-  if (!ini.IsChanged()) return;
-  // Opening the file empties it: if the disk then is too full for the new text, there still is room for the old one.
-  if (!TryWriteFile(files, file, ini.FileBytes()) && !bytes->empty()) TryWriteFile(files, file, *bytes);
+  if (ini.IsChanged()) TryWriteWhole(files, file, ini.FileBytes());
 }
 
 std::string ReadIniValue(Program& program, std::string_view section, std::string_view key, const std::string& file,

@@ -144,6 +144,11 @@ void Grid::SetRow(int row) {
   Fire(Change);
 }
 
+void Grid::ClickRow(int row) {
+  SetRow(row);
+  Fire(Click);
+}
+
 TabSet::TabSet(Form& form, std::string_view name, std::initializer_list<std::string_view> captions)
     : Control(form, name) {
   for (const auto caption : captions) tabs_.push_back({std::string(caption)});

@@ -168,9 +168,16 @@ struct ComboItem {
 
 // A list to choose from with a text of its own. The text and the selected item are two states: a text that is no item
 // stays, with nothing selected.
+enum class ComboKind {
+  FreeText,  // a text counts key by key
+  ListOnly,  // a text is meant to be an item: it counts once it has been typed to its end
+};
+
 class Combo : public Control {
  public:
-  Combo(Form& form, std::string_view name) : Control(form, name) {}
+  Combo(Form& form, std::string_view name, ComboKind kind = ComboKind::FreeText) : Control(form, name), kind_(kind) {}
+
+  ComboKind Kind() const { return kind_; }
 
   static constexpr int Nothing = -1;
 
@@ -196,6 +203,7 @@ class Combo : public Control {
  private:
   void Assign(std::string text, int listIndex);
 
+  ComboKind kind_;
   std::vector<ComboItem> items_;
   std::string text_;
   int listIndex_ = Nothing;
@@ -224,8 +232,11 @@ class Grid : public Control {
 
   int Row() const { return row_; }
   void SetRow(int row);
+  // The user's click on a row, which counts on the selected one too.
+  void ClickRow(int row);
 
   Event Change;  // another row is selected, or a cell was edited
+  Event Click;
 
  private:
   std::size_t Index(int row, int column) const;

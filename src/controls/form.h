@@ -42,6 +42,8 @@ class Form {
   // Runs the closing sequence; does nothing on a form that is not open.
   void Close();
   bool IsOpen() const { return open_; }
+  // Whether the user may close the form now; asks first where something would be lost.
+  virtual bool MayClose() { return true; }
 
   // The control that has the focus, or that is to get it as soon as it can be seen and used.
   Control* FocusRequest() const { return focus_; }

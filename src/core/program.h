@@ -51,6 +51,8 @@ struct Curve {
   std::array<std::vector<Single>, 2> CurvePoints;
   Integer CurvePointCount = 0;  // filled columns
   Integer CurveIndex = 0;
+  Integer CurveCount = 0;    // series in the chart
+  bool GraphClosed = false;  // the graph window was on the screen and is so no longer
 };
 
 // Which input dialog asked for the report on view.
@@ -86,6 +88,7 @@ struct Program {
   Integer LastPage = 4;
   Integer ReportCaller = report_caller::None;
   bool DialogOpen = false;
+  std::function<void(Integer)> OpenInputDialog;  // opens the dialog of this report_caller, as the Input menu does
 
   Catalogs catalogs;
   Settings settings;

@@ -1,6 +1,7 @@
 #include "dialogs/convert_dialog.h"
 
 #include "core/dialog_helpers.h"
+#include "core/help.h"
 #include "core/messages.h"
 #include "files/conversion.h"
 
@@ -9,6 +10,7 @@ namespace orby {
 ConvertDialog::ConvertDialog(Program& program) : program_(program) {
   Command2.Click = [this] { Convert(); };
   Command1.Click = [this] { Close(); };
+  Command3.Click = [this] { OpenHelp(program_); };
 }
 
 void ConvertDialog::OnOpen() {

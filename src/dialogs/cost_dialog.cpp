@@ -6,6 +6,7 @@
 #include "base/number_text.h"
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
+#include "dialogs/copy_clip.h"
 #include "dialogs/fault_texts.h"
 #include "dialogs/history_texts.h"
 #include "dialogs/results_window.h"
@@ -79,6 +80,7 @@ void CostDialog::TieCommands() {
     if (!ValidateCost() || !BuildReport()) return;
     ShowResults(program_);
   };
+  Command5.Click = [this] { CopyClip(program_, *this); };
   Command3.Click = [this] { ContextHelpHint(program_); };
 }
 
@@ -147,8 +149,14 @@ bool CostDialog::ValidateCost() {
   return true;
 }
 
+ProjectRecord CostDialog::EditedDesign() const {
+  ProjectRecord design = program_.WorkParms;
+  design.Cost() = TypedCost();
+  return design;
+}
+
 void CostDialog::SaveWorkParms() {
-  program_.WorkParms.Cost() = TypedCost();
+  program_.WorkParms = EditedDesign();
   program_.FileSaved = false;
   program_.FileEmpty = false;
   WasCommitted = true;

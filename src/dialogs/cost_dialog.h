@@ -99,8 +99,11 @@ class CostDialog : public CostControls {
   // Refuses numbers below 0: tells of the first field that holds one, and gives it the focus.
   bool ValidateCost();
 
-  // Reads the fields into the committed design. Throws RuntimeError 6, nothing being changed, when a number does not
-  // fit the record.
+  // The design as a commit of the fields would leave it; nothing is committed. Throws RuntimeError 6 when a number does
+  // not fit the record.
+  ProjectRecord EditedDesign() const;
+
+  // Reads the fields into the committed design. Throws as EditedDesign does, nothing being changed.
   void SaveWorkParms();
 
   // The same into the scratch design, for previews.

@@ -3,6 +3,7 @@
 #include "base/arithmetic.h"
 #include "base/number_text.h"
 #include "core/dialog_helpers.h"
+#include "core/help.h"
 #include "core/messages.h"
 #include "dialogs/history_texts.h"
 
@@ -21,11 +22,13 @@ EstimatorDialog::EstimatorDialog(Program& program) : program_(program) {
   VSFlexGrid1.Change = [this] {
     if (!HoldEvents) ShowEstimate();
   };
+  VSFlexGrid1.Click = [this] { ShowEstimate(); };
   Command2.Click = [this] {
     CommitOnClose = true;
     Close();
   };
   Command1.Click = [this] { Close(); };
+  Command3.Click = [this] { OpenHelp(program_); };
 }
 
 void EstimatorDialog::OnOpen() {
@@ -72,11 +75,6 @@ void EstimatorDialog::ShowRegion(Integer region) {
   }
   const Integer manualValue = program_.estimator.EstimatorManualValue;
   if (manualValue != 0) VSFlexGrid1.SetCell(row - 1, RatingColumn, NumberText(manualValue));
-}
-
-void EstimatorDialog::ClickRow(int row) {
-  VSFlexGrid1.SetRow(row);
-  ShowEstimate();
 }
 
 void EstimatorDialog::ShowEstimate() {

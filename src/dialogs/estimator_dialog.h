@@ -19,6 +19,7 @@ class EstimatorControls : public Form {
       "optLocation",
       {{RegionNames[0]}, {RegionNames[1]}, {RegionNames[2]}, {RegionNames[3]}, {RegionNames[4]}, {RegionNames[5]}}};
   Grid VSFlexGrid1{*this, "VSFlexGrid1"};
+  Label lblCMRR{*this, "lblCMRR", "CMRR"};
   TextBox txtCMRR{*this, "txtCMRR", TextKind::Output};
   std::array<Picture, RegionNames.size()> Picture1{Picture(*this, "Picture1_0"), Picture(*this, "Picture1_1"),
                                                    Picture(*this, "Picture1_2"), Picture(*this, "Picture1_3"),
@@ -33,9 +34,6 @@ class EstimatorControls : public Form {
 class EstimatorDialog : public EstimatorControls {
  public:
   explicit EstimatorDialog(Program& program);
-
-  // The user's click on a rock type, which counts on the selected row too. Throws RuntimeError 9 outside the grid.
-  void ClickRow(int row);
 
   // Shows the rating of the selected rock type and notes whether it is the region's manual row.
   void ShowEstimate();

@@ -12,5 +12,7 @@ inline constexpr std::string_view ParametersNotModified = "Project Parameters No
 
 // The estimator and the description dialog.
 inline constexpr std::string_view EditingDescription = "Editing Project Description";
+inline constexpr std::string_view DescriptionModified = "Project Description Modified";
+inline constexpr std::string_view DescriptionNotModified = "Project Description Not Modified";
 
 }  // namespace orby::history_text

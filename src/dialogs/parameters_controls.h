@@ -27,15 +27,10 @@ class ParametersControls : public Form {
  public:
   ParametersControls() : Form("frmPENVParm", "Parameters") {}
 
-  // tab sets
   TabSet SSTab1{
       *this,
       "SSTab1",
       {"General", "Primary Support: Roof Bolts", "Secondary Support: Entries", "Secondary Support: Intersections"}};
-  TabSet SSTab2{
-      *this, "SSTab2", {SupportTabCaptions[0], SupportTabCaptions[1], SupportTabCaptions[2], SupportTabCaptions[3]}};
-  TabSet SSTab3{
-      *this, "SSTab3", {SupportTabCaptions[0], SupportTabCaptions[1], SupportTabCaptions[2], SupportTabCaptions[3]}};
 
   // general
   Frame fraGeology{*this, "fraGeology", "Geology"};
@@ -60,6 +55,7 @@ class ParametersControls : public Form {
   CheckBox chkSecondSupEntries{*this, "chkSecondSupEntries", "Analysis of Secondary Support: Entries"};
   CheckBox chkSecondSupInter{*this, "chkSecondSupInter", "Analysis of Secondary Support: Intersections"};
   TextBox txtMessage{*this, "txtMessage", TextKind::Output};
+  Picture Picture1{*this, "Picture1"};
 
   // primary support
   Frame fraPrimarySupport{*this, "fraPrimarySupport", "Primary Support Parameters"};
@@ -93,6 +89,7 @@ class ParametersControls : public Form {
   Label lblSugSumDiagonals{*this, "lblSugSumDiagonals", "Suggested Intersection Sum of the diagonals",
                            unit_row::Length};
   TextBox txtSugSumDiagonals{*this, "txtSugSumDiagonals", TextKind::Output};
+  Picture Image1{*this, "Image1"};
 
   // secondary support: entries
   Frame fraRockLoadEntry{*this, "fraRockLoadEntry", "Rock Load Parameters"};
@@ -105,6 +102,8 @@ class ParametersControls : public Form {
                                                   CheckBox(*this, "chkSecEntries_1", SupportTabCaptions[1]),
                                                   CheckBox(*this, "chkSecEntries_2", SupportTabCaptions[2]),
                                                   CheckBox(*this, "chkSecEntries_3", SupportTabCaptions[3])};
+  TabSet SSTab2{
+      *this, "SSTab2", {SupportTabCaptions[0], SupportTabCaptions[1], SupportTabCaptions[2], SupportTabCaptions[3]}};
 
   // entries: cable bolts
   Label lblCableLengthSecEntry{*this, "lblCableLengthSecEntry", "Cable Bolt Length", unit_row::Length};
@@ -197,6 +196,8 @@ class ParametersControls : public Form {
   std::array<CheckBox, SystemCount> chkSecInter{
       CheckBox(*this, "chkSecInter_0", SupportTabCaptions[0]), CheckBox(*this, "chkSecInter_1", SupportTabCaptions[1]),
       CheckBox(*this, "chkSecInter_2", SupportTabCaptions[2]), CheckBox(*this, "chkSecInter_3", SupportTabCaptions[3])};
+  TabSet SSTab3{
+      *this, "SSTab3", {SupportTabCaptions[0], SupportTabCaptions[1], SupportTabCaptions[2], SupportTabCaptions[3]}};
 
   // intersections: cable bolts
   Label lblCableLengthSecInter{*this, "lblCableLengthSecInter", "Cable Bolt Length", unit_row::Length};

@@ -9,6 +9,7 @@
 #include "catalogs/catalogs.h"
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
+#include "dialogs/copy_clip.h"
 #include "dialogs/estimator_dialog.h"
 #include "dialogs/history_texts.h"
 #include "dialogs/results_window.h"
@@ -154,6 +155,7 @@ void ParametersDialog::TieCommands() {
     BuildReport();
     ShowResults(program_);
   };
+  Command5.Click = [this] { CopyClip(program_, *this); };
   Command3.Click = [this] { ContextHelpHint(program_); };
   cmdCMRR.Click = [this] { Estimate(); };
 }

@@ -20,7 +20,11 @@ class ParametersDialog : public ParametersControls {
   // last fault.
   bool ValidateParameters();
 
-  // Reads the fields into the committed design.
+  // The design as a commit of the fields would leave it; nothing is committed. Throws RuntimeError 6 when a number does
+  // not fit the record.
+  ProjectRecord EditedDesign() const;
+
+  // Reads the fields into the committed design. Throws as EditedDesign does, nothing being changed.
   void SaveWorkParms();
 
   // Reads the fields into the scratch design, for previews and curves. Manual bolt selections of all three sets come

@@ -218,8 +218,14 @@ void ParametersDialog::StoreFields(ProjectRecord& record, const BoltControls& ma
 }
 
 // A commit makes the intersections' manual bolts those of the entries tab.
+ProjectRecord ParametersDialog::EditedDesign() const {
+  ProjectRecord design = program_.WorkParms;
+  StoreFields(design, EntryBoltControls, EntryBoltControls);
+  return design;
+}
+
 void ParametersDialog::SaveWorkParms() {
-  StoreFields(program_.WorkParms, EntryBoltControls, EntryBoltControls);
+  program_.WorkParms = EditedDesign();
   program_.FileSaved = false;
   program_.FileEmpty = false;
   WasCommitted = true;

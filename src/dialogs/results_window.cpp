@@ -1,8 +1,116 @@
 #include "dialogs/results_window.h"
 
+#include <array>
+#include <string>
+
 #include "core/dialog_helpers.h"
+#include "core/help.h"
+#include "core/messages.h"
+#include "dialogs/graph_window.h"
+#include "engine/curves.h"
+#include "reports/printing.h"
 
 namespace orby {
+namespace {
+
+// By the index of the curve.
+constexpr std::array<std::string_view, CurveCount> CurveNames{"Suggested PSUP vs CMRR",
+                                                              "Suggested PSUP vs Depth of Cover",
+                                                              "Suggested PSUP vs Stability Factor",
+                                                              "Suggested PSUP vs Sum of Diagonals",
+                                                              "Rock Load vs Rock Load Height (Entries)",
+                                                              "Rock Load vs Entry Width (Entries)",
+                                                              "Rock Load vs Roof Fall Angle (Entries)",
+                                                              "Rock Load vs Rock Load Height (Intersections)",
+                                                              "Rock Load vs Sum of Diagonals (Intersections)",
+                                                              "Rock Load vs Roof Fall Angle (Intersections)"};
+
+std::vector<ComboItem> CurveItems() {
+  std::vector<ComboItem> items;
+  for (const std::string_view name : CurveNames) items.push_back({std::string(name), static_cast<int>(items.size())});
+  return items;
+}
+
+}  // namespace
+
+ResultsWindow::ResultsWindow(Program& program) : program_(program) { TieCommands(); }
+
+ResultsWindow::~ResultsWindow() = default;
+
+void ResultsWindow::TieCommands() {
+  Command1.Click = [this] { Close(); };
+  Command3.Click = [this] {
+    AddHistoryLine(program_, "Current page printed");
+    Print(pager_.Page(), pager_.Page());
+  };
+  Command6.Click = [this] {
+    AddHistoryLine(program_, "All pages printed");
+    Print(0, program_.LastPage);
+  };
+  Command7.Click = [this] { CopyAll(); };
+  Command8.Click = [this] { OpenHelp(program_); };
+  Command9.Click = [this] { ShowMessage(program_, "Option not active yet"); };
+  cmdGraph.Click = [this] { lstGraphs.SetVisible(!lstGraphs.Visible()); };
+  cmdChangeInput.Click = [this] { ChangeInput(); };
+  lstGraphs.Click = [this] { DrawChosenCurve(); };
+}
+
+void ResultsWindow::OnOpen() {
+  program_.platform.windows.ShowMainWindow(false);
+  lstGraphs.Fill(CurveItems());
+  lstGraphs.SetVisible(false);
+  pager_.Restart();
+  AddHistoryLine(program_, "Results displayed");
+  program_.platform.windows.CenterForm(*this);
+}
+
+void ResultsWindow::OnClose() {
+  if (graph_) graph_->Close();
+  program_.platform.windows.ShowMainWindow(true);
+}
+
+void ResultsWindow::CopyAll() {
+  program_.platform.clipboard.SetText(JoinedPages(program_, 0, program_.LastPage));
+  AddHistoryLine(program_, "Output copied to clipboard");
+}
+
+void ResultsWindow::Print(Integer first, Integer last) {
+  if (ChoosePrinter()) {
+    RunTrapped(program_, [&] { PrintText(program_, JoinedPages(program_, first, last)); });
+  }
+  pager_.Loadbuffer();
+}
+
+bool ResultsWindow::ChoosePrinter() {
+  bool aborted = false;
+  const StepOutcome outcome = RunTrapped(program_, [&] {
+    try {
+      program_.platform.printer.Choose();
+    } catch (const RuntimeError& error) {
+      if (error.number() != error_number::Cancelled) throw;
+      aborted = true;
+    }
+  });
+  if (aborted) AddHistoryLine(program_, "Printing aborted");
+  return outcome == StepOutcome::Done && !aborted;
+}
+
+void ResultsWindow::DrawChosenCurve() {
+  const auto index = static_cast<Integer>(lstGraphs.Items()[static_cast<std::size_t>(lstGraphs.ListIndex())].data);
+  const StepOutcome outcome = RunTrapped(program_, [&] {
+    GenerateCurve(program_, index);
+    if (!graph_) graph_ = std::make_unique<GraphWindow>(program_);
+    graph_->ShowCurve(index);
+  });
+  if (outcome != StepOutcome::GivenUp) lstGraphs.SetVisible(false);
+}
+
+void ResultsWindow::ChangeInput() {
+  Close();
+  // A dialog that is still open comes back by itself.
+  if (program_.DialogOpen || program_.ReportCaller == report_caller::None) return;
+  if (program_.OpenInputDialog) program_.OpenInputDialog(program_.ReportCaller);
+}
 
 void ShowResults(Program& program) {
   ResultsWindow window(program);

@@ -1,10 +1,15 @@
 // The results window: the pages of the report, one at a time, and the list of curves around the design.
 #pragma once
 
+#include <memory>
+
 #include "controls/controls.h"
 #include "core/program.h"
+#include "dialogs/report_pager.h"
 
 namespace orby {
+
+class GraphWindow;
 
 class ResultsControls : public Form {
  public:
@@ -14,9 +19,9 @@ class ResultsControls : public Form {
   List lstGraphs{*this, "lstGraphs"};
 
   // commands
-  Button Command5{*this, "Command5", "P&revious Page"};
-  Button Command4{*this, "Command4", "&Next Page"};
-  Button Command2{*this, "Command2", "&Copy Page"};
+  Button Command5{*this, "Command5", page_caption::Previous};
+  Button Command4{*this, "Command4", page_caption::Next};
+  Button Command2{*this, "Command2", page_caption::Copy};
   Button Command7{*this, "Command7", "Cop&y All"};
   Button Command3{*this, "Command3", "&Print Page"};
   Button Command6{*this, "Command6", "Print &All"};
@@ -24,19 +29,30 @@ class ResultsControls : public Form {
   Button cmdGraph{*this, "cmdGraph", "Generate Graphs"};
   Button cmdChangeInput{*this, "cmdChangeInput", "Change &Input"};
   Button Command8{*this, "Command8", "Help"};
-  Button Command1{*this, "Command1", "Close"};
+  Button Command1{*this, "Command1", page_caption::Close};
 };
 
 class ResultsWindow : public ResultsControls {
  public:
-  explicit ResultsWindow(Program& program) : program_(program) {}
+  explicit ResultsWindow(Program& program);
+  ~ResultsWindow() override;
 
  protected:
-  void OnOpen() override {}
-  void OnClose() override {}
+  void OnOpen() override;
+  void OnClose() override;
 
  private:
+  void TieCommands();
+  void CopyAll();
+  // Prints the pages first..last on a printer of the user's choice. Faults of the printer are told, none is thrown.
+  void Print(Integer first, Integer last);
+  bool ChoosePrinter();
+  void DrawChosenCurve();
+  void ChangeInput();
+
   Program& program_;
+  ReportPager pager_{program_, RichTextBox1, Command4, Command5, Command2};
+  std::unique_ptr<GraphWindow> graph_;  // made for the first curve
 };
 
 // Shows the pages of the report until the user closes them.

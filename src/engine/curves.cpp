@@ -155,20 +155,23 @@ void GenerateCurve(Program& program, Integer index) {
   const Integer columns = ToInteger(Divide(static_cast<double>(range.upper) - range.lower, range.step) + 2);
   if (columns < 1) throw RuntimeError(error_number::Subscript);
 
-  Curve& curve = program.curve;
-  curve.CurveIndex = index;
-  curve.CurvePointCount = 0;
-  auto& [xs, ys] = curve.CurvePoints;
+  // A sweep that fails leaves the curve before it.
+  std::array<std::vector<Single>, 2> points;
+  Integer count = 0;
+  auto& [xs, ys] = points;
   xs.assign(static_cast<std::size_t>(columns), 0);
   ys.assign(static_cast<std::size_t>(columns), 0);
   const auto isInside = [&](Single x) { return range.step > 0 ? x <= range.upper : x >= range.upper; };
   for (Single x = range.lower; isInside(x); x += range.step) {
-    if (curve.CurvePointCount >= columns) throw RuntimeError(error_number::Subscript);
-    const auto column = static_cast<std::size_t>(curve.CurvePointCount++);
+    if (count >= columns) throw RuntimeError(error_number::Subscript);
+    const auto column = static_cast<std::size_t>(count++);
     values.*rule.swept = x;
     xs[column] = InProjectUnits(x, rule.sweptMeasure, program.Units);
     ys[column] = InProjectUnits(rule.result(values), rule.resultMeasure, program.Units);
   }
+  program.curve.CurvePoints = std::move(points);
+  program.curve.CurvePointCount = count;
+  program.curve.CurveIndex = index;
 }
 
 }  // namespace orby

@@ -8,7 +8,6 @@
 #include "core/description.h"
 #include "core/messages.h"
 #include "files/description_reader.h"
-#include "files/project_lines.h"
 
 namespace orby {
 namespace {
@@ -21,13 +20,6 @@ void AppendLine(std::string& text, std::string_view line) {
 std::string PaddedNumber(Integer value) {
   const std::string digits = NumberText(value);
   return (value < 0 ? "" : " ") + digits + " ";
-}
-
-std::string LineText(const ProjectRecord& record, const ProjectLine& line) {
-  if (const auto* text = std::get_if<TextField>(&line.Field)) return record.**text;
-  if (const auto* single = std::get_if<SingleField>(&line.Field)) return NormalizeDecimalText(record.**single);
-  const Integer value = record.*std::get<IntegerField>(line.Field);
-  return line.Form == LineForm::Padded ? PaddedNumber(value) : NormalizeDecimalText(value);
 }
 
 std::string HeaderText(const Program& program) {
@@ -52,7 +44,7 @@ std::string DataText(const ProjectRecord& record) {
   constexpr std::size_t UsualSize = 2048;
   std::string text;
   text.reserve(UsualSize);
-  for (const ProjectLine& line : ProjectLines) AppendLine(text, LineText(record, line));
+  for (const ProjectLine& line : ProjectLines) AppendLine(text, DataLineText(record, line));
   return text;
 }
 
@@ -60,6 +52,13 @@ std::string DataText(const ProjectRecord& record) {
 bool IsHeldAsItStands(std::string_view text) { return FileBytesFromText(text) == text; }
 
 }  // namespace
+
+std::string DataLineText(const ProjectRecord& record, const ProjectLine& line) {
+  if (const auto* text = std::get_if<TextField>(&line.Field)) return record.**text;
+  if (const auto* single = std::get_if<SingleField>(&line.Field)) return NormalizeDecimalText(record.**single);
+  const Integer value = record.*std::get<IntegerField>(line.Field);
+  return line.Form == LineForm::Padded ? PaddedNumber(value) : NormalizeDecimalText(value);
+}
 
 std::string ProjectFileBytes(const Program& program) {
   return FileBytesFromText(HeaderText(program) + DescriptionText(program) + DataText(program.WorkParms));

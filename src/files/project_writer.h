@@ -4,8 +4,12 @@
 #include <string>
 
 #include "core/program.h"
+#include "files/project_lines.h"
 
 namespace orby {
+
+// A data line of the file, without its end.
+std::string DataLineText(const ProjectRecord& record, const ProjectLine& line);
 
 // The project as the bytes of a file, the description as it stands.
 std::string ProjectFileBytes(const Program& program);

@@ -5,11 +5,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
 #include <system_error>
 
+#include "base/paths.h"
 #include "base/runtime_error.h"
 
 namespace orby {
@@ -123,7 +125,11 @@ void DiskFiles::RemoveFile(const std::string& path) {
 void DiskFiles::RenameFile(const std::string& path, const std::string& newPath) {
   CheckName(path);
   CheckName(newPath);
-  if (std::rename(path.c_str(), newPath.c_str()) != 0) throw FileError(errno, path);
+  // The system asks for no more than leave to write to the folder.
+  if (access(newPath.c_str(), W_OK) != 0 && errno != ENOENT) throw FileError(errno, newPath);
+  if (std::rename(path.c_str(), newPath.c_str()) == 0) return;
+  const int systemError = errno;
+  throw FileError(systemError, access(path.c_str(), F_OK) == 0 ? newPath : path);
 }
 
 void DiskFiles::MakeFolder(const std::string& path) {
@@ -135,9 +141,22 @@ void DiskFiles::MakeFolder(const std::string& path) {
 
 bool DiskFiles::CanWriteTo(const std::string& folder) { return access(folder.c_str(), W_OK | X_OK) == 0; }
 
+std::vector<std::string> DiskFiles::FilesIn(const std::string& folder) {
+  std::vector<std::string> files;
+  std::error_code problem;
+  std::filesystem::directory_iterator entry(folder, problem);
+  for (; !problem && entry != std::filesystem::directory_iterator(); entry.increment(problem)) {
+    std::error_code unknown;
+    if (entry->is_regular_file(unknown)) files.push_back(entry->path().string());
+  }
+  std::ranges::sort(files);
+  return files;
+}
+
 void DiskFiles::SetWorkingFolder(const std::string& path) {
   CheckName(path);
-  if (chdir(path.c_str()) != 0) throw FileError(errno, path);
+  // A folder that is missing is a path that is missing, not a file.
+  if (chdir(path.c_str()) != 0) throw FileError(errno, WithSeparator(path));
 }
 
 std::string DiskFiles::AbsolutePath(const std::string& path) {

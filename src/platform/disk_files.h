@@ -16,6 +16,7 @@ class DiskFiles : public FileSystem {
   void RenameFile(const std::string& path, const std::string& newPath) override;
   void MakeFolder(const std::string& path) override;
   bool CanWriteTo(const std::string& folder) override;
+  std::vector<std::string> FilesIn(const std::string& folder) override;
   void SetWorkingFolder(const std::string& path) override;
   std::string AbsolutePath(const std::string& path) override;
   std::unique_ptr<FileMark> TryMark(const std::string& path) override;

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace orby {
 
@@ -34,12 +35,14 @@ class FileSystem {
   // Opens the file for writing; an existing one is emptied at once.
   virtual std::unique_ptr<OutputFile> CreateFile(const std::string& path) = 0;
   virtual void RemoveFile(const std::string& path) = 0;
-  // Takes the place of whatever has the new name, in one step.
+  // Takes the place of a file that has the new name, in one step; one that may not be written stays and is error 70.
   virtual void RenameFile(const std::string& path, const std::string& newPath) = 0;
   // Makes the folder and those above it; one that is there already is no error.
   virtual void MakeFolder(const std::string& path) = 0;
   // Whether files can be made in the folder.
   virtual bool CanWriteTo(const std::string& folder) = 0;
+  // The full paths of the files in the folder, not of the folders in it, sorted; empty when it cannot be read.
+  virtual std::vector<std::string> FilesIn(const std::string& folder) = 0;
   virtual void SetWorkingFolder(const std::string& path) = 0;
   // The path from the root of the file system.
   virtual std::string AbsolutePath(const std::string& path) = 0;

@@ -322,6 +322,7 @@ void LoadOutBuf0(Program& program) {
   echo.Primary();
   echo.Secondary();
   program.OutBuf[0] = echo.Take();
+  program.LastPage = 1;
 }
 
 }  // namespace orby

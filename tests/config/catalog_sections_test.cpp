@@ -15,6 +15,7 @@ namespace {
 
 using catalog_section::BoltParams;
 using catalog_section::Defaults;
+using catalog_section::StandSupports;
 using testing::ElementsAre;
 
 struct CatalogSections : testing::Test {
@@ -311,6 +312,75 @@ TEST_F(CatalogSections, EntriesBeyondAnEmptiedListStayInTheFile) {
 
   EXPECT_EQ(ini.Find("ORBYBoltParams", "DefaultBoltGradeIndexENG"), "-1");
   EXPECT_EQ(ini.Find("ORBYBoltParams", "DefaultBoltGradeArrayENG2"), "75");
+}
+
+TEST_F(CatalogSections, TheStandingSupportsAreWrittenWithBothCapacitiesEach) {
+  catalogs.StandSupports = {1, {"4-point Hardwood Crib", "Can, 24in"}, {{{58.5F, 520}, {120, 1068}}}};
+  IniText ini;
+
+  WriteCatalogSection(program, ini, StandSupports);
+
+  EXPECT_EQ(ini.Text(),
+            "[ORBYStandSupportParams]\r\n"
+            "DefaultStandSupportIndex=1\r\n"
+            "DefaultStandSupportType0=4-point Hardwood Crib\r\n"
+            "DefaultStandSupportCap0_0=58.5\r\n"
+            "DefaultStandSupportCap0_1=520\r\n"
+            "DefaultStandSupportType1=Can, 24in\r\n"
+            "DefaultStandSupportCap1_0=120\r\n"
+            "DefaultStandSupportCap1_1=1068\r\n");
+}
+
+TEST_F(CatalogSections, AStandingSupportWithoutNameOrCapacityIsWrittenAsNoneOfEither) {
+  catalogs.StandSupports = {1, {"Can, 24in"}, {}};
+  IniText ini;
+
+  WriteCatalogSection(program, ini, StandSupports);
+
+  EXPECT_EQ(ini.Find("ORBYStandSupportParams", "DefaultStandSupportType0"), "Can, 24in");
+  EXPECT_EQ(ini.Find("ORBYStandSupportParams", "DefaultStandSupportCap0_1"), "0");
+  EXPECT_EQ(ini.Find("ORBYStandSupportParams", "DefaultStandSupportType1"), "");
+}
+
+TEST_F(CatalogSections, AnEmptyListOfStandingSupportsIsItsIndexAlone) {
+  IniText ini;
+
+  WriteCatalogSection(program, ini, StandSupports);
+
+  EXPECT_EQ(ini.Text(), "[ORBYStandSupportParams]\r\nDefaultStandSupportIndex=-1\r\n");
+}
+
+TEST_F(CatalogSections, ReadingTheStandingSupportsTurnsNamesIntoNumbersAndLosesTheCapacities) {
+  const StandingSupports written{1, {"4-point Hardwood Crib", "Can, 24in"}, {{{58.5F, 520}, {120, 1068}}}};
+  catalogs.StandSupports = written;
+  IniText ini;
+  WriteCatalogSection(program, ini, StandSupports);
+  catalogs.StandSupports = {2, {"a", "b", "Prop Setter"}, {{{1, 2}, {3, 4}, {5, 6}}}};
+
+  ReadCatalogSection(program, ini, StandSupports);
+
+  EXPECT_EQ(catalogs.StandSupports.HighestIndex, 1);
+  EXPECT_THAT(catalogs.StandSupports.DefaultStandSupportType, ElementsAre("4", "0", "Prop Setter"));
+  EXPECT_THAT(catalogs.StandSupports.DefaultStandSupportCap,
+              ElementsAre(ElementsAre(0, 0), ElementsAre(0, 0), ElementsAre(5, 6)));
+}
+
+TEST_F(CatalogSections, TheCapacitiesAreAskedForUnderTheKeyOfTheName) {
+  Read(StandSupports,
+       "[ORBYStandSupportParams]\r\nDefaultStandSupportIndex=0\r\nDefaultStandSupportType0_1=520\r\n"
+       "DefaultStandSupportCap0_0=58.5\r\n");
+
+  EXPECT_THAT(catalogs.StandSupports.DefaultStandSupportCap, ElementsAre(ElementsAre(0, 520)));
+}
+
+TEST_F(CatalogSections, TheIndexOfTheStandingSupportsStaysWithinWhatTheListHolds) {
+  Read(StandSupports, "[ORBYStandSupportParams]\r\nDefaultStandSupportIndex=500\r\n");
+  EXPECT_EQ(catalogs.StandSupports.HighestIndex, 98);
+  EXPECT_EQ(catalogs.StandSupports.DefaultStandSupportType.size(), 99U);
+
+  Read(StandSupports, "[ORBYStandSupportParams]\r\nDefaultStandSupportIndex=-5\r\n");
+  EXPECT_EQ(catalogs.StandSupports.HighestIndex, -1);
+  EXPECT_EQ(catalogs.StandSupports.DefaultStandSupportType.size(), 99U);
 }
 
 TEST_F(CatalogSections, AnUnknownSelectorReadsAndWritesNothing) {

@@ -78,7 +78,30 @@ TEST_F(IniFile, AFileThatCannotBeClosedIsNoError) {
 
   WriteIniValue(program, "Version", "INIFileVersion", "201030", IniPath);
 
+  EXPECT_TRUE(platform.files.files.empty());
   EXPECT_TRUE(platform.boxes.shown.empty());
+}
+
+TEST_F(IniFile, AFileThatMayNotBeReplacedStaysAsItWas) {
+  Bytes() = "[Version]\r\nINIFileVersion=201030\r\n";
+  platform.files.Fail(Step::Rename, error_number::PermissionDenied);
+
+  WriteIniValue(program, "Version", "INIFileVersion", "201031", IniPath);
+
+  EXPECT_THAT(platform.files.files,
+              testing::ElementsAre(testing::Pair(IniPath, "[Version]\r\nINIFileVersion=201030\r\n")));
+  EXPECT_TRUE(platform.boxes.shown.empty());
+}
+
+TEST_F(IniFile, ARunThatIsCutOffWhileItWritesLosesNothing) {
+  Bytes() = "[Version]\r\nINIFileVersion=201030\r\n";
+  platform.files.Fail(Step::Write, error_number::DiskFull);
+  platform.files.Fail(Step::Remove, error_number::PermissionDenied);
+
+  WriteIniValue(program, "Version", "INIFileVersion", "201031", IniPath);
+
+  EXPECT_EQ(Bytes(), "[Version]\r\nINIFileVersion=201030\r\n");
+  EXPECT_EQ(ReadIniValue(program, "Version", "INIFileVersion", IniPath), "201030");
 }
 
 TEST_F(IniFile, AnEditThatChangesNothingDoesNotTouchTheFile) {
@@ -97,7 +120,8 @@ TEST_F(IniFile, SeveralKeysAreWrittenAtOnce) {
   });
 
   EXPECT_EQ(Bytes(), "[FileMenu]\r\nMaxLastFiles=1\r\nLastFile1=one.ORB\r\n");
-  EXPECT_THAT(platform.files.created, testing::ElementsAre(IniPath));
+  EXPECT_THAT(platform.files.created, testing::SizeIs(1));
+  EXPECT_THAT(platform.files.files, testing::SizeIs(1)) << "nothing is left beside it";
 }
 
 // A disk with room for so many bytes of the file and no more.
@@ -137,7 +161,7 @@ TEST(IniFileOnAFullDisk, KeepsWhatItHeld) {
 
   WriteIniValue(program, "Settings", "ExternalEditor", "Notepad.exe", IniPath);
 
-  EXPECT_EQ(disk.files[IniPath], "[Version]\r\nINIFileVersion=201030\r\n");
+  EXPECT_THAT(disk.files, testing::ElementsAre(testing::Pair(IniPath, "[Version]\r\nINIFileVersion=201030\r\n")));
 }
 
 }  // namespace

@@ -7,6 +7,8 @@
 #include <filesystem>
 #include <optional>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 #include "base/runtime_error.h"
 #include "support/recording_platform.h"
@@ -43,6 +45,12 @@ class Disk : public testing::Test {
   }
   int ErrorOfRemoving(const std::string& path) {
     return ErrorNumberOf([&] { files.RemoveFile(path); });
+  }
+  int ErrorOfRenaming(const std::string& path, const std::string& newPath) {
+    return ErrorNumberOf([&] { files.RenameFile(path, newPath); });
+  }
+  int ErrorOfMaking(const std::string& path) {
+    return ErrorNumberOf([&] { files.MakeFolder(path); });
   }
   int ErrorOfSearching(const std::string& path) {
     return ErrorNumberOf([&] { static_cast<void>(files.Finds(path, true)); });
@@ -255,6 +263,176 @@ TEST_F(Disk, MissesATemporaryFolderThatIsNoFolder) {
     const TemporaryFolderVariable variable(At("panel.ORB"));
     EXPECT_EQ(ErrorNumberOf([this] { static_cast<void>(files.TemporaryFolder()); }), 76);
   }
+}
+
+TEST_F(Disk, RenamesAFileOverAnother) {
+  Store(At("panel.tmp"), "new");
+  Store(At("panel.ORB"), "old");
+
+  files.RenameFile(At("panel.tmp"), At("panel.ORB"));
+
+  EXPECT_EQ(files.ReadFile(At("panel.ORB")), "new");
+  EXPECT_FALSE(files.Finds(At("panel.tmp"), true));
+}
+
+TEST_F(Disk, RenamesAFileToANameThatIsFree) {
+  Store(At("panel.tmp"), "new");
+
+  files.RenameFile(At("panel.tmp"), At("panel.ORB"));
+
+  EXPECT_EQ(files.ReadFile(At("panel.ORB")), "new");
+}
+
+TEST_F(Disk, RefusesToRenameWhatIsNotThereOrWhereNothingCanBe) {
+  Store(At("panel.tmp"), "new");
+  std::filesystem::create_directory(At("folder"));
+
+  EXPECT_EQ(ErrorOfRenaming(At("missing.tmp"), At("panel.ORB")), 53);
+  EXPECT_EQ(ErrorOfRenaming(At("panel.tmp"), At("nowhere/panel.ORB")), 76);
+  EXPECT_EQ(ErrorOfRenaming(At("panel.tmp"), At("panel.tmp/panel.ORB")), 76);
+  EXPECT_EQ(ErrorOfRenaming(At("panel.tmp"), At("folder")), 75);
+  EXPECT_EQ(ErrorOfRenaming(At("panel.tmp"), ""), 52);
+  EXPECT_EQ(ErrorOfRenaming("", At("panel.ORB")), 52);
+
+  EXPECT_EQ(files.ReadFile(At("panel.tmp")), "new");
+}
+
+TEST_F(Disk, DoesNotReplaceAFileThatNobodyMayWrite) {
+  Store(At("panel.tmp"), "new");
+
+  EXPECT_EQ(ErrorOfRenaming(At("panel.tmp"), "/proc/sys/kernel/ostype"), 70);
+}
+
+TEST_F(Disk, MakesAFolderAndThoseAboveIt) {
+  files.MakeFolder(At("MyStrataDesk/ORBY/Temp/"));
+
+  EXPECT_TRUE(std::filesystem::is_directory(At("MyStrataDesk/ORBY/Temp")));
+}
+
+TEST_F(Disk, KeepsAFolderThatIsThere) {
+  files.MakeFolder(At("MyStrataDesk"));
+  Store(At("MyStrataDesk/panel.ORB"), "x");
+
+  files.MakeFolder(At("MyStrataDesk/"));
+
+  EXPECT_EQ(files.ReadFile(At("MyStrataDesk/panel.ORB")), "x");
+}
+
+TEST_F(Disk, RefusesToMakeAFolderWhereAFileIs) {
+  Store(At("panel.ORB"), "x");
+
+  EXPECT_EQ(ErrorOfMaking(At("panel.ORB")), 76);
+  EXPECT_EQ(ErrorOfMaking(At("panel.ORB/Temp")), 76);
+  EXPECT_EQ(ErrorOfMaking(""), 52);
+  EXPECT_EQ(files.ReadFile(At("panel.ORB")), "x");
+}
+
+TEST_F(Disk, TellsAFolderThatCanBeWrittenFromOneThatCannot) {
+  Store(At("panel.ORB"), "x");
+
+  EXPECT_TRUE(files.CanWriteTo(folder));
+  EXPECT_TRUE(files.CanWriteTo(folder + "/"));
+  EXPECT_FALSE(files.CanWriteTo("/proc/sys/kernel"));
+  EXPECT_FALSE(files.CanWriteTo(At("nowhere")));
+  EXPECT_FALSE(files.CanWriteTo(At("panel.ORB")));
+}
+
+// Goes back to where it was when the test ends.
+class WorkingFolderKeeper {
+ public:
+  WorkingFolderKeeper() : before_(std::filesystem::current_path()) {}
+  ~WorkingFolderKeeper() {
+    std::error_code ignored;
+    std::filesystem::current_path(before_, ignored);
+  }
+  WorkingFolderKeeper(const WorkingFolderKeeper&) = delete;
+  WorkingFolderKeeper& operator=(const WorkingFolderKeeper&) = delete;
+
+ private:
+  std::filesystem::path before_;
+};
+
+TEST_F(Disk, FindsRelativePathsFromTheWorkingFolder) {
+  const WorkingFolderKeeper keeper;
+  Store(At("panel.ORB"), "x");
+
+  files.SetWorkingFolder(folder);
+
+  EXPECT_EQ(files.ReadFile("panel.ORB"), "x");
+  EXPECT_EQ(files.AbsolutePath("panel.ORB"), std::filesystem::current_path().string() + "/panel.ORB");
+  EXPECT_EQ(std::filesystem::canonical(files.AbsolutePath("panel.ORB")), std::filesystem::canonical(At("panel.ORB")));
+}
+
+TEST_F(Disk, StaysInTheWorkingFolderWhenTheNextIsNone) {
+  const WorkingFolderKeeper keeper;
+  files.SetWorkingFolder(folder);
+  const auto before = std::filesystem::current_path();
+  Store(At("panel.ORB"), "x");
+
+  EXPECT_EQ(ErrorNumberOf([this] { files.SetWorkingFolder(At("nowhere")); }), 76);
+  EXPECT_EQ(ErrorNumberOf([this] { files.SetWorkingFolder(At("panel.ORB")); }), 76);
+  EXPECT_EQ(ErrorNumberOf([this] { files.SetWorkingFolder(""); }), 52);
+
+  EXPECT_EQ(std::filesystem::current_path(), before);
+}
+
+TEST_F(Disk, LeavesAnAbsolutePathAsItIsButForDetours) {
+  EXPECT_EQ(files.AbsolutePath("/designs/North Mains.ORB"), "/designs/North Mains.ORB");
+  EXPECT_EQ(files.AbsolutePath("/designs/./old/../panel.ORB"), "/designs/panel.ORB");
+}
+
+TEST_F(Disk, GivesAMarkToOneAtATime) {
+  auto first = files.TryMark(At("run.lock"));
+  const auto second = files.TryMark(At("run.lock"));
+
+  EXPECT_NE(first, nullptr);
+  EXPECT_EQ(second, nullptr) << "the first still lives";
+
+  first.reset();
+
+  EXPECT_NE(files.TryMark(At("run.lock")), nullptr);
+}
+
+TEST_F(Disk, MarksTwoFilesApart) {
+  const auto first = files.TryMark(At("first.lock"));
+  const auto second = files.TryMark(At("second.lock"));
+
+  EXPECT_NE(first, nullptr);
+  EXPECT_NE(second, nullptr);
+}
+
+TEST_F(Disk, GivesNoMarkWhereNoFileCanBe) {
+  EXPECT_EQ(files.TryMark(At("nowhere/run.lock")), nullptr);
+  EXPECT_EQ(files.TryMark(folder), nullptr);
+}
+
+TEST_F(Disk, MarksAFileWithoutChangingIt) {
+  Store(At("panel.ORB"), "x");
+
+  const auto mark = files.TryMark(At("panel.ORB"));
+
+  EXPECT_NE(mark, nullptr);
+  EXPECT_EQ(files.ReadFile(At("panel.ORB")), "x");
+}
+
+TEST_F(Disk, ListsTheFilesOfAFolderSortedAndWithoutTheFoldersInIt) {
+  Store(At("weak-roof.ORB"), "x");
+  Store(At("belt-entry.ORB"), "x");
+  Store(At("North.ORB"), "x");
+  std::filesystem::create_directory(At("old"));
+  Store(At("old/older.ORB"), "x");
+
+  const std::vector<std::string> expected{At("North.ORB"), At("belt-entry.ORB"), At("weak-roof.ORB")};
+  EXPECT_EQ(files.FilesIn(folder), expected);
+  EXPECT_EQ(files.FilesIn(folder + "/"), expected);
+}
+
+TEST_F(Disk, ListsNothingWhereNothingCanBeListed) {
+  Store(At("panel.ORB"), "x");
+
+  EXPECT_TRUE(files.FilesIn(At("nowhere")).empty());
+  EXPECT_TRUE(files.FilesIn(At("panel.ORB")).empty());
+  EXPECT_TRUE(files.FilesIn("").empty());
 }
 
 TEST_F(Disk, KnowsTheFolderOfTheProgram) { EXPECT_EQ(files.ProgramFolder(), "/opt/orby"); }

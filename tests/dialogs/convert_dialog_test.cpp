@@ -165,5 +165,14 @@ TEST_F(AConversion, CancelledChangesNothing) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
+TEST_F(AConversion, OpensTheHelp) {
+  platform.files.files["/program/ORBY.CHM"] = "help";
+  dialog.Open();
+
+  dialog.Command3.Press();
+
+  EXPECT_THAT(platform.documents.opened, ElementsAre("/program/ORBY.CHM"));
+}
+
 }  // namespace
 }  // namespace orby::test

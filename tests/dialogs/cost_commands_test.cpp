@@ -296,5 +296,43 @@ TEST_F(ACostDialog, ShowsNoResultsOfANegativeNumber) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid number of depreciation years"));
 }
 
+// ---- the picture, and the design as it is being edited --------------------------------------------------------------
+
+TEST_F(ACostDialog, CopiesItsPictureToTheClipboard) {
+  dialog.Open();
+
+  dialog.Command5.Press();
+
+  EXPECT_EQ(platform.clipboard.pictured, "frmTULKCost");
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Screenshot of dialog copied to clipboard"));
+  EXPECT_EQ(platform.boxes.shown[0].title, "Message");
+}
+
+TEST_F(ACostDialog, GivesTheDesignThatOkWouldStoreWithoutCommittingIt) {
+  program.FileEmpty = true;
+  program.WorkParms.DepthofCover = 512.5F;
+  dialog.Open();
+  dialog.txtBoltCost.SetText("3.25");
+  dialog.chkAdvance.SetValue(0);
+
+  const ProjectRecord edited = dialog.EditedDesign();
+
+  EXPECT_EQ(edited.CostBoltCost, 3.25F);
+  EXPECT_EQ(edited.CostAdvance, 0);
+  EXPECT_EQ(edited.CostPlateCost, 1.0F);
+  EXPECT_EQ(edited.DepthofCover, 512.5F);
+  EXPECT_EQ(program.WorkParms.CostBoltCost, 3.0F);
+  EXPECT_TRUE(program.FileSaved);
+  EXPECT_TRUE(program.FileEmpty);
+  EXPECT_FALSE(dialog.WasCommitted);
+}
+
+TEST_F(ACostDialog, FailsToGiveADesignThatNoRecordCanHold) {
+  dialog.Open();
+  dialog.txtWeeksYear.SetText("1E39");
+
+  EXPECT_EQ(ErrorNumberOf([this] { dialog.EditedDesign(); }), 6);
+}
+
 }  // namespace
 }  // namespace orby::test

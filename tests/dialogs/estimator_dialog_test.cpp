@@ -95,7 +95,7 @@ TEST_F(AnEstimator, RatesEveryRockTypeOfEveryCoalfield) {
     ASSERT_EQ(dialog.VSFlexGrid1.Rows(), static_cast<int>(rocks.size())) << region;
     int row = 0;
     for (const Rock& rock : rocks) {
-      dialog.ClickRow(row);
+      dialog.VSFlexGrid1.ClickRow(row);
       EXPECT_EQ(dialog.VSFlexGrid1.Cell(row, 1), rock.name) << region;
       EXPECT_EQ(dialog.VSFlexGrid1.Cell(row, 2), rock.rating) << region << ' ' << rock.name;
       EXPECT_EQ(dialog.txtCMRR.Text(), rock.rating) << region << ' ' << rock.name;
@@ -114,10 +114,10 @@ TEST_F(AnEstimator, FlagsTheLastRowOfEveryCoalfieldAndNoOther) {
     dialog.optLocation.SetValue(region, true);
     const int manualRow = manualRows[static_cast<std::size_t>(region)];
     for (int row = 0; row < manualRow; ++row) {
-      dialog.ClickRow(row);
+      dialog.VSFlexGrid1.ClickRow(row);
       EXPECT_FALSE(program.estimator.EstimatorManual) << region << ' ' << row;
     }
-    dialog.ClickRow(manualRow);
+    dialog.VSFlexGrid1.ClickRow(manualRow);
     EXPECT_TRUE(program.estimator.EstimatorManual) << region;
   }
 }
@@ -250,7 +250,7 @@ TEST_F(AnEstimator, RatesTheRowThatIsSelectedAlreadyWhenItIsClicked) {
   dialog.optLocation.SetValue(1, true);
   ASSERT_EQ(dialog.VSFlexGrid1.Row(), 0);
 
-  dialog.ClickRow(0);
+  dialog.VSFlexGrid1.ClickRow(0);
 
   EXPECT_EQ(dialog.txtCMRR.Text(), "40");
   EXPECT_FALSE(program.estimator.EstimatorManual);
@@ -267,7 +267,7 @@ TEST_F(AnEstimator, FollowsARowThatIsReachedWithoutAClick) {
 TEST_F(AnEstimator, RefusesAClickOutsideItsRows) {
   OpenOn(4, 2);
 
-  EXPECT_EQ(ErrorNumberOf([this] { dialog.ClickRow(7); }), 9);
+  EXPECT_EQ(ErrorNumberOf([this] { dialog.VSFlexGrid1.ClickRow(7); }), 9);
 
   EXPECT_EQ(dialog.VSFlexGrid1.Row(), 2);
   EXPECT_EQ(dialog.txtCMRR.Text(), "55");
@@ -280,7 +280,7 @@ TEST_F(AnEstimator, HandsOutRatingCoalfieldAndRockTypeOnOk) {
   program.FileEmpty = true;
   OpenOn(0, 0);
   dialog.optLocation.SetValue(3, true);
-  dialog.ClickRow(4);
+  dialog.VSFlexGrid1.ClickRow(4);
 
   dialog.Command2.Press();
 
@@ -300,7 +300,7 @@ TEST_F(AnEstimator, LeavesTheDesignItselfToTheDialogThatAsked) {
   program.WorkParms.CMRRRegionIndex = 1;
   program.WorkParms.CMRRRockTypeIndex = 2;
   OpenOn(1, 2);
-  dialog.ClickRow(5);
+  dialog.VSFlexGrid1.ClickRow(5);
 
   dialog.Command2.Press();
 
@@ -314,7 +314,7 @@ TEST_F(AnEstimator, LeavesTheEstimateAsItWasOnCancel) {
   program.FileEmpty = true;
   OpenOn(1, 1);
   dialog.optLocation.SetValue(3, true);
-  dialog.ClickRow(5);
+  dialog.VSFlexGrid1.ClickRow(5);
 
   dialog.Command1.Press();
 
@@ -337,13 +337,22 @@ TEST_F(AnEstimator, IsLoggedAsModifiedEvenOnCancel) {
 
 TEST_F(AnEstimator, TreatsTheWindowsCloseAsCancel) {
   OpenOn(0, 0);
-  dialog.ClickRow(4);
+  dialog.VSFlexGrid1.ClickRow(4);
 
   dialog.Close();
 
   EXPECT_FALSE(dialog.CommitOnClose);
   EXPECT_EQ(program.estimator.EstimatedCMRR, 0);
   EXPECT_EQ(program.estimator.EstimatorRockType, 0);
+}
+
+TEST_F(AnEstimator, OpensTheHelp) {
+  platform.files.files["/program/ORBY.CHM"] = "help";
+  dialog.Open();
+
+  dialog.Command3.Press();
+
+  EXPECT_THAT(platform.documents.opened, ElementsAre("/program/ORBY.CHM"));
 }
 
 }  // namespace

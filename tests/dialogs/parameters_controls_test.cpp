@@ -54,6 +54,7 @@ const std::vector<ControlCase> GeneralControls{
     {"chkSecondSupEntries", "check box", "Analysis of Secondary Support: Entries", ""},
     {"chkSecondSupInter", "check box", "Analysis of Secondary Support: Intersections", ""},
     {"txtMessage", "output", "", ""},
+    {"Picture1", "picture", "", ""},
     {"Command2", "button", "OK", ""},
     {"Command1", "button", "Cancel", ""},
     {"cmdresults", "button", "Results", ""},
@@ -81,6 +82,7 @@ const std::vector<ControlCase> PrimaryControls{
     {"txtSuggestBoltLength", "output", "", ""},
     {"lblSugSumDiagonals", "label", "Suggested Intersection Sum of the diagonals", "length"},
     {"txtSugSumDiagonals", "output", "", ""},
+    {"Image1", "picture", "", ""},
 };
 
 const std::vector<ControlCase> EntryControls{
@@ -243,6 +245,7 @@ std::string KindOf(const Control* control) {
   if (dynamic_cast<const OptionArray*>(control) != nullptr) return "option array";
   if (dynamic_cast<const Button*>(control) != nullptr) return "button";
   if (dynamic_cast<const TabSet*>(control) != nullptr) return "tabs";
+  if (dynamic_cast<const Picture*>(control) != nullptr) return "picture";
   if (dynamic_cast<const Frame*>(control) != nullptr) return "frame";
   return dynamic_cast<const Label*>(control) != nullptr ? "label" : "something else";
 }

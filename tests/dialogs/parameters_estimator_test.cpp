@@ -19,7 +19,7 @@ struct RatingEstimate : AParametersDialog {
     platform.windows.onModal = [=](Form& form) {
       auto& estimator = dynamic_cast<EstimatorDialog&>(form);
       estimator.optLocation.SetValue(region, true);
-      estimator.ClickRow(row);
+      estimator.VSFlexGrid1.ClickRow(row);
       if (button != nullptr) (estimator.*button).Press();
     };
     dialog.cmdCMRR.Press();
@@ -89,7 +89,7 @@ TEST_F(RatingEstimate, IsNoneWhenTheEstimatorIsCancelledOrClosed) {
 TEST_F(RatingEstimate, OfNothingIsNotTaken) {
   platform.windows.onModal = [](Form& form) {
     auto& estimator = dynamic_cast<EstimatorDialog&>(form);
-    estimator.ClickRow(5);
+    estimator.VSFlexGrid1.ClickRow(5);
     estimator.txtCMRR.SetText("");
     estimator.Command2.Press();
   };

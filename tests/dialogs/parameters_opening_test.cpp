@@ -264,15 +264,27 @@ TEST_F(ClosingParameters, IsNotDoneByViewCopyClipOrHelp) {
   dialog.Open();
 
   dialog.cmdView.Press();
-  dialog.Command5.Press();
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  dialog.Command5.Press();
   dialog.Command3.Press();
 
   EXPECT_TRUE(dialog.IsOpen());
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("Screenshot of dialog copied to clipboard",
+                          "Position the cursor on any item on the form and press F1 for context-sensitive Help"));
+  EXPECT_EQ(platform.boxes.shown[1].title, "Help");
+}
+
+TEST_F(OpeningParameters, CopiesItsPictureToTheClipboard) {
+  dialog.Open();
+
+  dialog.Command5.Press();
+
+  EXPECT_EQ(platform.clipboard.pictured, "frmPENVParm");
   ASSERT_EQ(platform.boxes.shown.size(), 1U);
-  EXPECT_EQ(platform.boxes.shown[0].text,
-            "Position the cursor on any item on the form and press F1 for context-sensitive Help");
-  EXPECT_EQ(platform.boxes.shown[0].title, "Help");
+  EXPECT_EQ(platform.boxes.shown[0].text, "Screenshot of dialog copied to clipboard");
+  EXPECT_EQ(platform.boxes.shown[0].title, "Message");
+  EXPECT_EQ(platform.boxes.shown[0].style, box_style::Ok);
 }
 
 }  // namespace

@@ -302,5 +302,39 @@ TEST_F(SavingParameters, TakesTheRatingsOriginFromTheEstimatorAndNotFromTheHidde
   EXPECT_EQ(program.WorkParms.CMRRRockTypeIndex, 5);
 }
 
+// ---- the design as it is being edited -------------------------------------------------------------------------------
+
+TEST_F(SavingParameters, GivesTheDesignThatACommitWouldStoreWithoutCommittingIt) {
+  dialog.Open();
+  Do("txtDepthofCover=512.5|cmbBoltGradeSecEntry=60|cmbBoltGradeSecInter=100|chkSecEntries_3=1");
+  program.estimator.EstimatorRegion = 3;
+  program.WorkParms.CostBoltCost = 3.75F;
+
+  const ProjectRecord edited = dialog.EditedDesign();
+
+  EXPECT_EQ(edited.DepthofCover, 512.5F);
+  EXPECT_EQ(edited.BoltGradeStdSecInter, 60);
+  EXPECT_EQ(edited.SecEntryUseStanding, 1);
+  EXPECT_EQ(edited.CMRRRegionIndex, 3);
+  EXPECT_EQ(edited.StabFactorEntry1, 1.06F);
+  EXPECT_EQ(edited.CostBoltCost, 3.75F);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_EQ(program.WorkParms.StabFactorEntry1, 0);
+  EXPECT_TRUE(program.FileSaved);
+  EXPECT_TRUE(program.FileEmpty);
+  EXPECT_FALSE(dialog.WasCommitted);
+}
+
+TEST_F(SavingParameters, FailsToGiveADesignThatNoRecordCanHold) {
+  dialog.Open();
+  DoQuietly("txtDepthofCover=512.5|txtTrussCapacitySecInter=1E39");
+
+  EXPECT_EQ(ErrorNumberOf([this] { dialog.EditedDesign(); }), 6);
+  EXPECT_EQ(ErrorNumberOf([this] { dialog.SaveWorkParms(); }), 6);
+
+  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_TRUE(program.FileSaved);
+}
+
 }  // namespace
 }  // namespace orby::test

@@ -272,7 +272,7 @@ TEST(InputEcho, RebuildsItsOwnPageAndLeavesTheOthers) {
   EXPECT_THAT(once, StartsWith("ORBY module build: 201030\r\n"));
   EXPECT_EQ(twice, once);
   EXPECT_EQ(desk.program.OutBuf[1], "the calculations");
-  EXPECT_EQ(desk.program.LastPage, 4);
+  EXPECT_EQ(desk.program.LastPage, 1);
 }
 
 TEST(InputEcho, ShowsTheCommittedDesign) {

@@ -1,20 +1,197 @@
 #include "shell/start_up.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
+#include "base/runtime_error.h"
 #include "config/catalog_sections.h"
+#include "config/settings_sections.h"
 #include "support/recording_platform.h"
 
 namespace orby::test {
 namespace {
 
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
+
+constexpr const char* IniPath = "/home/user/Documents/MyStrataDesk/ORBY/ORBY.INI";
+
 struct StartUp : testing::Test {
+  RecordingPlatform platform;
+  Program program{platform.Doors()};
+
+  std::string& Ini() { return platform.files.files[IniPath]; }
+};
+
+TEST_F(StartUp, MakesAMissingConfigurationFileAndStartsWithTheDefaults) {
+  StartProgram(program);
+
+  EXPECT_EQ(program.IniFilePath, IniPath);
+  EXPECT_THAT(Ini(), StartsWith("[Version]\r\nINIFileVersion=201030\r\n[Settings]\r\nDefaultUnits=0\r\n"));
+  EXPECT_THAT(Ini(), HasSubstr("[ORBYDefaults]\r\nDefaultCMRR=45\r\n"));
+  EXPECT_THAT(Ini(), HasSubstr("[ORBYBoltParams]\r\nDefaultBoltGradeIndexENG="));
+  EXPECT_THAT(Ini(), Not(HasSubstr("ORBYStandSupportParams")));
+  EXPECT_EQ(program.defaults.DefaultENGDepthofCover, 400);
+  EXPECT_EQ(program.settings.DisplayHistoryWin, 1);
+  EXPECT_EQ(program.settings.DataPath, "/home/user/Documents/MyStrataDesk/ORBY/");
+  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_EQ(program.CurrentFile, "Untitled");
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(StartUp, TellsTheHistoryWhereItKeepsTheDefaultsThatItMade) {
+  StartProgram(program);
+
+  EXPECT_EQ(program.history.Text,
+            "1. Saving default settings to file: /home/user/Documents/MyStrataDesk/ORBY/ORBY.INI\r\n"
+            "2. File initialized. Use Edit-Project Parameters to enter data\r\n");
+}
+
+TEST_F(StartUp, ReadsANewFileBackLikeAnyOther) {
+  StartProgram(program);
+
+  EXPECT_THAT(Ini(), HasSubstr("MaxDisplaySize=2048\r\n"));
+  EXPECT_EQ(program.settings.MaxDisplaySize, 4096);
+}
+
+TEST_F(StartUp, HoldsTheSameListsOnTheFirstAndOnTheSecondRun) {
+  StartProgram(program);
+  const std::string written = Ini();
+  Program next(platform.Doors());
+
+  StartProgram(next);
+
+  EXPECT_EQ(Ini(), written);
+  EXPECT_EQ(next.catalogs.DefaultBoltUTSArrayENG.Count(), program.catalogs.DefaultBoltUTSArrayENG.Count());
+  EXPECT_EQ(next.catalogs.DefaultBoltUTSArrayENG.Values, program.catalogs.DefaultBoltUTSArrayENG.Values);
+  EXPECT_GT(next.catalogs.DefaultBoltUTSArrayENG.Count(), 1U);
+  EXPECT_EQ(next.history.Text, "1. File initialized. Use Edit-Project Parameters to enter data\r\n");
+}
+
+TEST_F(StartUp, TakesOverWhatTheFileHolds) {
+  Ini() =
+      "[Version]\r\nINIFileVersion=201030\r\n[Settings]\r\nDefaultUnits=1\r\nDisplayHistoryWin=1\r\n"
+      "[FileMenu]\r\nMaxLastFiles=1\r\nLastFile1=panel.ORB\r\nLastFileLong1=/designs/panel.ORB\r\n"
+      "[ORBYDefaults]\r\nDefaultMETDepthofCover=310\r\n"
+      "[ORBYBoltParams]\r\nDefaultBoltGradeIndexMET=1\r\nDefaultBoltGradeArrayMET1=420\r\n";
+  const std::string before = Ini();
+
+  StartProgram(program);
+
+  EXPECT_EQ(program.Units, Metric);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 310);
+  EXPECT_EQ(program.recentFiles.Entries[0].LastFileLong, "/designs/panel.ORB");
+  EXPECT_EQ(program.catalogs.DefaultBoltGradeArrayMET.Count(), 2U);
+  EXPECT_EQ(Ini(), before) << "reading writes nothing";
+}
+
+TEST_F(StartUp, DeletesAndRebuildsAFileOfAnotherVersion) {
+  for (const char* version :
+       {"INIFileVersion=201029\r\n", "INIFileVersion=201031\r\n", "INIFileVersion=0201030\r\n", ""}) {
+    Ini() = std::string("[Version]\r\n") + version +
+            "Extra=1\r\n[Settings]\r\nDefaultUnits=1\r\n[ORBYDefaults]\r\nDefaultENGDepthofCover=900\r\n";
+    Program next(platform.Doors());
+
+    StartProgram(next);
+
+    EXPECT_THAT(Ini(), StartsWith("[Version]\r\nINIFileVersion=201030\r\n[Settings]\r\n")) << version;
+    EXPECT_THAT(Ini(), Not(HasSubstr("Extra"))) << version;
+    EXPECT_EQ(next.settings.UnitsDefault, 0) << version;
+    EXPECT_EQ(next.WorkParms.DepthofCover, 400) << version;
+  }
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(StartUp, EndsWhenAFileOfAnotherVersionCannotBeDeleted) {
+  Ini() = "[Version]\r\nINIFileVersion=201029\r\n";
+  platform.files.Fail(MemoryFiles::Step::Remove, error_number::PermissionDenied);
+
+  EXPECT_EQ(ErrorNumberOf([this] { StartProgram(program); }), 70);
+}
+
+TEST_F(StartUp, TakesTheStandingSupportsFromTheBuiltInTableWhateverTheFileSays) {
+  StartProgram(program);
+  program.catalogs.StandSupports = {0, {"Can, 24in"}, {{{120, 1068}}}};
+  EditIniFile(program, program.IniFilePath,
+              [this](IniText& ini) { WriteCatalogSection(program, ini, catalog_section::StandSupports); });
+  Program next(platform.Doors());
+
+  StartProgram(next);
+
+  EXPECT_THAT(Ini(), HasSubstr("DefaultStandSupportType0=Can, 24in\r\n"));
+  EXPECT_EQ(next.catalogs.StandSupports.DefaultStandSupportType[0],
+            "4-point Hardwood Crib (8in x 8in timbers, 5' height)");
+}
+
+TEST_F(StartUp, ForgetsTheOptionsOfTheLastRun) {
+  StartProgram(program);
+  program.options.BoltGradeAsUltimateDefault = 1;
+  WriteDefaults(program, settings_section::Options);
+  Program next(platform.Doors());
+
+  StartProgram(next);
+
+  EXPECT_THAT(Ini(), HasSubstr("DefaultSteelStrength=1\r\n"));
+  EXPECT_EQ(next.options.BoltGradeAsUltimateDefault, 0);
+  EXPECT_EQ(next.BoltStrengthMode, 0);
+}
+
+TEST_F(StartUp, KeepsTheConfigurationInTheProgramsFolderWithoutDocuments) {
+  platform.userFolders.documents.reset();
+
+  StartProgram(program);
+
+  EXPECT_EQ(program.IniFilePath, "/program/ORBY.INI");
+  EXPECT_TRUE(platform.files.files.contains("/program/ORBY.INI"));
+  EXPECT_EQ(program.settings.DataPath, "/program/");
+}
+
+// What is not in the file reads as nothing, also when there is no file.
+TEST_F(StartUp, ReadsEmptyListsWhereNoFileCanBeWritten) {
+  platform.files.Fail(MemoryFiles::Step::Create, error_number::DiskFull);
+
+  StartProgram(program);
+
+  EXPECT_THAT(platform.files.files, IsEmpty());
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  EXPECT_EQ(program.settings.CopyExampleFiles, 1);
+  EXPECT_EQ(program.defaults.DefaultENGDepthofCover, 0);
+}
+
+TEST_F(StartUp, NamesAFontThatTheMachineHas) {
+  platform.fonts.screen = {"DejaVu Sans", "Courier New"};
+
+  StartProgram(program);
+
+  EXPECT_EQ(program.settings.DisplayFontName, "Courier New");
+  EXPECT_EQ(program.textBrowse.BrowseFontName, "Courier New");
+  EXPECT_THAT(Ini(), HasSubstr("DisplayFontName=Courier New\r\n"));
+}
+
+TEST_F(StartUp, EndsInTheProgramsFolder) {
+  StartProgram(program);
+
+  EXPECT_EQ(platform.files.workingFolder, "/program/");
+}
+
+TEST_F(StartUp, RecordsAMachinesCommaAndKeepsThePoint) {
+  platform.locale.separator = ",";
+
+  StartProgram(program);
+
+  EXPECT_EQ(program.SavedDecimalSeparator, ",");
+  EXPECT_THAT(Ini(), HasSubstr("DefaultENGboltDiameter=0.75\r\n"));
+}
+
+struct StartOfAScript : testing::Test {
   RecordingPlatform platform;
   Program program{platform.Doors()};
 };
 
-TEST_F(StartUp, BeginsANewEnglishDesignWithTheBuiltInCatalogs) {
-  StartProgram(program, nullptr);
+TEST_F(StartOfAScript, BeginsANewEnglishDesignWithTheBuiltInCatalogs) {
+  StartApart(program, nullptr);
 
   EXPECT_EQ(program.CurrentFile, "Untitled");
   EXPECT_TRUE(program.FileSaved);
@@ -26,38 +203,73 @@ TEST_F(StartUp, BeginsANewEnglishDesignWithTheBuiltInCatalogs) {
   EXPECT_EQ(program.history.Text, "1. File initialized. Use Edit-Project Parameters to enter data\r\n");
 }
 
-TEST_F(StartUp, RecordsAMachinesCommaAndKeepsThePoint) {
+TEST_F(StartOfAScript, WritesNothingAndStaysWhereItIs) {
+  StartApart(program, nullptr);
+
+  EXPECT_THAT(platform.files.files, IsEmpty());
+  EXPECT_THAT(platform.files.folders, ElementsAre("/program", "/tmp"));
+  EXPECT_EQ(platform.files.workingFolder, "/work");
+  EXPECT_EQ(program.folders.ProgramData, "");
+}
+
+TEST_F(StartOfAScript, RecordsAMachinesCommaAndKeepsThePoint) {
   platform.locale.separator = ",";
 
-  StartProgram(program, nullptr);
+  StartApart(program, nullptr);
 
   EXPECT_EQ(program.SavedDecimalSeparator, ",");
 }
 
-TEST_F(StartUp, TakesTheNewDesignFromTheConfiguredDefaults) {
-  StartProgram(program, nullptr);
+TEST_F(StartOfAScript, TakesTheNewDesignFromTheConfiguredDefaults) {
+  StartApart(program, nullptr);
   IniText configuration;
   program.defaults.DefaultENGDepthofCover = 725;
   WriteCatalogSection(program, configuration, catalog_section::Defaults);
   WriteCatalogSection(program, configuration, catalog_section::BoltParams);
   Program next(platform.Doors());
 
-  StartProgram(next, &configuration);
+  StartApart(next, &configuration);
 
   EXPECT_EQ(next.WorkParms.DepthofCover, 725);
   EXPECT_EQ(next.WorkParms.EntryWidth, 20);
   EXPECT_EQ(next.catalogs.DefaultBoltGradeArrayENG.Values, program.catalogs.DefaultBoltGradeArrayENG.Values);
 }
 
-TEST_F(StartUp, OffersOnlyTheEntriesThatTheConfigurationCounts) {
+TEST_F(StartOfAScript, OffersOnlyTheEntriesThatTheConfigurationCounts) {
   const IniText configuration(
       "[ORBYBoltParams]\r\nDefaultBoltGradeIndexENG=2\r\nDefaultBoltGradeArrayENG0=40\r\n"
       "DefaultBoltGradeArrayENG1=55\r\nDefaultBoltGradeArrayENG2=60\r\n");
 
-  StartProgram(program, &configuration);
+  StartApart(program, &configuration);
 
   EXPECT_EQ(program.catalogs.DefaultBoltGradeArrayENG.Count(), 3U);
   EXPECT_EQ(program.catalogs.DefaultBoltGradeArrayENG[4], 90) << "still in the list, no longer offered";
+}
+
+struct CommandLineOfARun : testing::Test {
+  RecordingPlatform platform;
+  Program program{platform.Doors()};
+};
+
+TEST_F(CommandLineOfARun, MayBeEmpty) {
+  EXPECT_EQ(CommandLineFile(program, {}), "");
+  EXPECT_EQ(CommandLineFile(program, {""}), "");
+  EXPECT_EQ(CommandLineFile(program, {"\"\""}), "");
+}
+
+TEST_F(CommandLineOfARun, NamesAFileFromTheRoot) {
+  EXPECT_EQ(CommandLineFile(program, {"/designs/panel.ORB"}), "/designs/panel.ORB");
+  EXPECT_EQ(CommandLineFile(program, {"panel.ORB"}), "/work/panel.ORB");
+}
+
+TEST_F(CommandLineOfARun, LosesItsDoubleQuotesWhereverTheyStand) {
+  EXPECT_EQ(CommandLineFile(program, {"\"/designs/north mains.ORB\""}), "/designs/north mains.ORB");
+  EXPECT_EQ(CommandLineFile(program, {"/des\"igns\"/panel.ORB"}), "/designs/panel.ORB");
+}
+
+TEST_F(CommandLineOfARun, IsOneNameHoweverManyArgumentsItHas) {
+  EXPECT_EQ(CommandLineFile(program, {"\"/designs/north", "mains.ORB\""}), "/designs/north mains.ORB");
+  EXPECT_EQ(CommandLineFile(program, {"north", "", "-mains.ORB"}), "/work/north  -mains.ORB");
 }
 
 }  // namespace

@@ -42,7 +42,7 @@ class RecordingBoxes : public MessageBoxes {
 // Files in memory. Any step of a file's life can be made to fail with a run-time error.
 class MemoryFiles : public FileSystem {
  public:
-  enum class Step { Find, Read, Create, Write, Close, Remove, Rename, MakeFolder };
+  enum class Step { Find, Read, Create, Write, Close, Remove, Rename, MakeFolder, EnterFolder };
 
   // The step fails with this error, as soon as it has succeeded `after` times.
   void Fail(Step step, int errorNumber, int after = 0) { failures[step] = {errorNumber, after}; }
@@ -83,7 +83,18 @@ class MemoryFiles : public FileSystem {
   }
 
   bool CanWriteTo(const std::string& folder) override { return !readOnly.contains(WithoutSeparator(folder)); }
-  void SetWorkingFolder(const std::string& path) override { workingFolder = path; }
+  std::vector<std::string> FilesIn(const std::string& folder) override {
+    std::vector<std::string> found;
+    for (const auto& [path, bytes] : files) {
+      const std::string_view name = NameBehindSeparator(path);
+      if (path.substr(0, path.size() - name.size()) == WithSeparator(folder)) found.push_back(path);
+    }
+    return found;
+  }
+  void SetWorkingFolder(const std::string& path) override {
+    Meet(Step::EnterFolder);
+    workingFolder = path;
+  }
   std::string AbsolutePath(const std::string& path) override {
     return path.starts_with('/') ? path : workingFolder + "/" + path;
   }

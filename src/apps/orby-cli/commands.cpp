@@ -212,9 +212,9 @@ int RunOnOperands(const Command& command, const CommandLine& line) {
   Program start(platform.Doors());
   if (line.Config) {
     const IniText configuration = IniText::FromFileBytes(platform.files.ReadFile(*line.Config));
-    StartProgram(start, &configuration);
+    StartApart(start, &configuration);
   } else {
-    StartProgram(start, nullptr);
+    StartApart(start, nullptr);
   }
   if (line.AustralianTable) start.UseAUSStandardTable = 1;
 

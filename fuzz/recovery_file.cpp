@@ -1,0 +1,63 @@
+// Bytes as a recovery file: what is read from them is a whole project that writes them again. And bytes as the texts of
+// a project: they come back as they were.
+#include "files/recovery_file.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+#include "base/code_page.h"
+#include "files/project_file.h"
+#include "support/recording_platform.h"
+
+namespace {
+
+using orby::UnsavedProject;
+
+void Expect(bool holds) {
+  if (!holds) std::abort();
+}
+
+void ReadAsFile(const std::string& bytes) {
+  const auto project = orby::ReadRecovery(bytes);
+  if (!project) return;
+  orby::test::RecordingPlatform platform;
+  orby::Program program(platform.Doors());
+
+  orby::RestoreProject(program, *project);
+
+  Expect(!program.FileSaved);
+  Expect(orby::RecoveryBytes(orby::CommittedProject(program)) == bytes);
+  Expect(!orby::ProjectFileBytes(program).empty());
+}
+
+void KeepAsTexts(const std::string& text) {
+  UnsavedProject project;
+  project.CurrentFile = text;
+  if (orby::IsValidUtf8(text)) {
+    project.ProjectTitle = text;
+    project.ProjectDescription = text;
+    project.WorkParms.BoltDescSecInter = text;
+    project.WorkParms.SupportTypeNameSecEntry = text;
+  }
+  const std::string bytes = orby::RecoveryBytes(project);
+
+  const auto read = orby::ReadRecovery(bytes);
+
+  Expect(read.has_value());
+  Expect(read->CurrentFile == project.CurrentFile);
+  Expect(read->ProjectTitle == project.ProjectTitle);
+  Expect(read->ProjectDescription == project.ProjectDescription);
+  Expect(read->WorkParms.BoltDescSecInter == project.WorkParms.BoltDescSecInter);
+  Expect(read->WorkParms.SupportTypeNameSecEntry == project.WorkParms.SupportTypeNameSecEntry);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string bytes(data, data + size);
+  ReadAsFile(bytes);
+  KeepAsTexts(bytes);
+  return 0;
+}

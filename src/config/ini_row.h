@@ -1,0 +1,56 @@
+// A key of the configuration file and the member that it fills, walked by a section's reader and its writer.
+#pragma once
+
+#include <concepts>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <variant>
+
+#include "config/ini_file.h"
+
+namespace orby {
+
+template <class Group>
+struct IniRow {
+  std::string_view Key;
+  std::variant<Integer Group::*, Single Group::*, std::string Group::*> Member;
+  std::optional<IniRange> Range = std::nullopt;  // a Single that has one is read as a whole number
+  std::string_view Default = {};                 // what an empty or missing value reads as
+  // What becomes of a text that was read.
+  std::string (*Accepted)(Program& program, const std::string& read) = nullptr;
+  // The reader asks for the key with a blank behind its name, the writer writes it without. The value comes back only
+  // because blanks around a name do not count.
+  bool ReaderAddsBlank = false;
+};
+
+// `suffix` stands behind the key's name: the number of an entry in a list.
+template <class Group>
+void ReadIniRow(Program& program, Group& group, const IniText& ini, std::string_view section, const IniRow<Group>& row,
+                std::string_view suffix = {}) {
+  const std::string key = std::string(row.Key).append(suffix) + (row.ReaderAddsBlank ? " " : "");
+  const auto read = [&](auto member) {
+    using Value = std::remove_reference_t<decltype(group.*member)>;
+    if constexpr (std::same_as<Value, std::string>) {
+      const std::string text = ReadIniValue(ini, section, key, row.Default);
+      group.*member = row.Accepted != nullptr ? row.Accepted(program, text) : text;
+    } else if (row.Range) {
+      group.*member = ReadIniInteger(ini, section, key, *row.Range, row.Default);
+    } else if constexpr (std::same_as<Value, Single>) {
+      group.*member = ReadIniSingle(ini, section, key);
+    } else {
+      group.*member = ReadIniInteger(ini, section, key, row.Default);
+    }
+  };
+  std::visit(read, row.Member);
+}
+
+template <class Group>
+void WriteIniRow(const Group& group, IniText& ini, std::string_view section, const IniRow<Group>& row,
+                 std::string_view suffix = {}) {
+  const std::string key = std::string(row.Key).append(suffix);
+  std::visit([&](auto member) { WriteIniValue(ini, section, key, group.*member); }, row.Member);
+}
+
+}  // namespace orby

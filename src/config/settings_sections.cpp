@@ -1,0 +1,231 @@
+#include "config/settings_sections.h"
+
+#include <array>
+
+#include "base/arithmetic.h"
+#include "base/number_text.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "config/catalog_sections.h"
+#include "config/ini_row.h"
+#include "core/dialog_helpers.h"
+#include "core/file_helpers.h"
+#include "core/messages.h"
+
+namespace orby {
+namespace {
+
+constexpr std::string_view VersionSection = "Version";
+constexpr std::string_view VersionKey = "INIFileVersion";
+constexpr std::string_view SettingsSection = "Settings";
+constexpr std::string_view FileMenuSection = "FileMenu";
+constexpr std::string_view TextBrowseSection = "TextBrowse";
+constexpr std::string_view GraphSection = "Graph";
+// Two names for one section: what is written is never found again, so the options last until the program ends.
+constexpr std::string_view WrittenOptionsSection = "TULKOptions";
+constexpr std::string_view ReadOptionsSection = "PENVOptions";
+
+constexpr IniRange OnOff{0, 1};
+constexpr IniRange FontFlag{-1, 0};
+constexpr IniRange FontSize{7, 24};
+
+// Stands for a text that was never set.
+constexpr std::string_view NoText = "0";
+
+std::string AcceptedFont(Program& program, const std::string& read) {
+  return read.empty() ? ChooseDisplayFont(program) : read;
+}
+
+std::string AcceptedDataPath(Program& program, const std::string& read) {
+  if (read.empty() || read == NoText) return program.folders.ProgramData;
+  const std::string path = WithSeparator(Trim(read));
+  return ValidPath(program, path, true) ? path : program.folders.ProgramData;
+}
+
+std::string AcceptedExtension(Program&, const std::string& read) {
+  return read == NoText ? std::string(BuiltInExtension) : read;
+}
+
+using SettingsRow = IniRow<Settings>;
+constexpr std::array SettingsRows{
+    SettingsRow{"DefaultUnits", &Settings::UnitsDefault, OnOff},
+    SettingsRow{"DisplayHistoryWin", &Settings::DisplayHistoryWin, OnOff},
+    // The length that the program starts with lies below the range: reading the first file back makes it 4096.
+    SettingsRow{"MaxDisplaySize", &Settings::MaxDisplaySize, IniRange{4096, 16384}},
+    SettingsRow{"DisplayFontName", &Settings::DisplayFontName, {}, {}, AcceptedFont},
+    SettingsRow{"DisplayFontSize", &Settings::DisplayFontSize, FontSize},
+    SettingsRow{"DisplayFontBold", &Settings::DisplayFontBold, FontFlag},
+    SettingsRow{"DisplayFontItalic", &Settings::DisplayFontItalic, FontFlag},
+    SettingsRow{"KeepFileNames", &Settings::KeepFileNames, OnOff},
+    SettingsRow{"ShowDisclaim", &Settings::ShowDisclaim, OnOff},
+    SettingsRow{"MaxMainMenu", &Settings::MaxMainMenu, OnOff},
+    SettingsRow{"EnableMainMenuToolbar", &Settings::EnableMainMenuToolbar, OnOff},
+    SettingsRow{"ShortRecentFiles", &Settings::ShortRecentFiles, OnOff},
+    SettingsRow{"LoadLastInputFile", &Settings::LoadLastInputFile, OnOff},
+    SettingsRow{"RemindAnnualUpdates", &Settings::RemindAnnualUpdates, OnOff},
+    SettingsRow{"CopyExampleFiles", &Settings::CopyExampleFiles, OnOff, "1"},
+    SettingsRow{"ExternalEditor", &Settings::ExternalEditor},
+    SettingsRow{"DataPath", &Settings::DataPath, {}, {}, AcceptedDataPath},
+    SettingsRow{"FileExtension", &Settings::FileExtension, {}, {}, AcceptedExtension},
+};
+
+// Despite its name the count of entries in use, not the most there can be.
+constexpr std::string_view RecentCountKey = "MaxLastFiles";
+constexpr IniRange RecentCount{0, RecentFiles::Capacity};
+
+using RecentRow = IniRow<RecentFiles::Entry>;
+constexpr std::array RecentRows{
+    RecentRow{"LastFile", &RecentFiles::Entry::LastFile},
+    RecentRow{"LastFileMode", &RecentFiles::Entry::LastFileMode},
+    RecentRow{"LastFileLong", &RecentFiles::Entry::LastFileLong},
+};
+
+using BrowseRow = IniRow<TextBrowseSettings>;
+constexpr std::array TextBrowseRows{
+    BrowseRow{"BrowseFontName", &TextBrowseSettings::BrowseFontName, {}, {}, AcceptedFont},
+    BrowseRow{"BrowseFontSize", &TextBrowseSettings::BrowseFontSize, FontSize},
+    BrowseRow{"BrowseFontBold", &TextBrowseSettings::BrowseFontBold, FontFlag},
+    BrowseRow{"BrowseFontItalic", &TextBrowseSettings::BrowseFontItalic, FontFlag},
+    BrowseRow{"BrowseDefaultFilter", &TextBrowseSettings::BrowseDefaultFilter},
+    BrowseRow{"BrowseUseNotepad", &TextBrowseSettings::BrowseUseNotepad, OnOff},
+};
+
+using GraphRow = IniRow<GraphSettings>;
+constexpr std::array GraphRows{
+    GraphRow{"GraphSetParams", &GraphSettings::GraphSetParams, OnOff},
+    GraphRow{"GridStyle", &GraphSettings::GridStyle, IniRange{0, 3}},
+    GraphRow{"GraphStyle", &GraphSettings::GraphStyle, IniRange{1, 3}},
+    GraphRow{"CurveLegend", &GraphSettings::CurveLegend, OnOff},
+    GraphRow{"SymbolSize", &GraphSettings::SymbolSize, IniRange{3, 20}, {}, {}, true},
+    GraphRow{"GraphUnits", &GraphSettings::GraphUnits, OnOff},
+    GraphRow{"GraphTitle", &GraphSettings::GraphTitle},
+};
+
+// The titles of the axes stand behind the rows.
+template <class Graph, class Act>
+void ForEachAxisTitle(Graph& graph, const Act& act) {
+  const auto walk = [&act](const std::string& key, auto& titles) {
+    for (int i = 0; auto& title : titles) act(key + NumberText(i++), title);
+  };
+  walk("XAxisTitle", graph.XAxisTitle);
+  walk("YAxisTitle", graph.YAxisTitle);
+}
+
+using OptionRow = IniRow<OptionSettings>;
+constexpr std::array OptionRows{
+    OptionRow{"DefaultSteelStrength", &OptionSettings::BoltGradeAsUltimateDefault, OnOff, "0"},
+    OptionRow{"OutputStrUnits", &OptionSettings::OutputStrUnits, OnOff, "0"},
+    OptionRow{"OutputStrGradUnits", &OptionSettings::OutputStrGradUnits, OnOff, "0"},
+    OptionRow{"ShowInputScreenOnLoad", &OptionSettings::ShowInputScreenOnLoad, OnOff, "1"},
+    OptionRow{"ViewChildWindow", &OptionSettings::ViewChildWindow, OnOff, "1"},
+    OptionRow{"PrintModuleHeader", &OptionSettings::PrintModuleHeader, OnOff, "1"},
+    OptionRow{"AskOfficeInstall", &OptionSettings::AskOfficeInstall, OnOff, "1"},
+};
+
+void ReadRecentFiles(Program& program, const IniText& ini) {
+  RecentFiles& recent = program.recentFiles;
+  recent.MaxLastFiles = ReadIniInteger(ini, FileMenuSection, RecentCountKey, RecentCount);
+  for (Integer i = 0; i < recent.MaxLastFiles; ++i) {
+    RecentFiles::Entry& entry = recent.Entries[static_cast<std::size_t>(i)];
+    for (const auto& row : RecentRows) ReadIniRow(program, entry, ini, FileMenuSection, row, NumberText(i + 1));
+  }
+}
+
+void WriteRecentFiles(const RecentFiles& recent, IniText& ini) {
+  WriteIniValue(ini, FileMenuSection, RecentCountKey, recent.MaxLastFiles);
+  double inUse = recent.MaxLastFiles;
+  const Integer count = ClampRange(inUse, RecentCount.Minimum, RecentCount.Maximum);
+  for (Integer i = 0; i < count; ++i) {
+    const RecentFiles::Entry& entry = recent.Entries[static_cast<std::size_t>(i)];
+    for (const auto& row : RecentRows) WriteIniRow(entry, ini, FileMenuSection, row, NumberText(i + 1));
+  }
+}
+
+void ReadGraph(Program& program, const IniText& ini) {
+  for (const auto& row : GraphRows) ReadIniRow(program, program.graph, ini, GraphSection, row);
+  ForEachAxisTitle(program.graph, [&ini](const std::string& key, std::string& title) {
+    title = ReadIniValue(ini, GraphSection, key);
+  });
+}
+
+void WriteGraph(const GraphSettings& graph, IniText& ini) {
+  for (const auto& row : GraphRows) WriteIniRow(graph, ini, GraphSection, row);
+  ForEachAxisTitle(graph, [&ini](const std::string& key, const std::string& title) {
+    WriteIniValue(ini, GraphSection, key, title);
+  });
+}
+
+constexpr std::array AllSections{settings_section::Settings, settings_section::FileMenu, settings_section::TextBrowse,
+                                 settings_section::Graph, settings_section::Options};
+
+// Tells the history before the edit: a file that cannot be written is told like any other.
+void EditDefaults(Program& program, const std::function<void(IniText&)>& edit) {
+  AddHistoryLine(program, "Saving default settings to file: " + program.IniFilePath);
+  EditIniFile(program, program.IniFilePath, edit);
+}
+
+}  // namespace
+
+void SetBuiltInSettings(Program& program) {
+  program.settings.DisplayFontName = ChooseDisplayFont(program);
+  program.textBrowse.BrowseFontName = program.settings.DisplayFontName;
+  program.settings.DataPath = program.folders.ProgramData;
+}
+
+void ReadSettings(Program& program, const IniText& ini, int selector) {
+  const auto readRows = [&](auto& group, std::string_view section, const auto& rows) {
+    for (const auto& row : rows) ReadIniRow(program, group, ini, section, row);
+  };
+  switch (selector) {
+    case settings_section::All:
+      for (const int section : AllSections) ReadSettings(program, ini, section);
+      break;
+    case settings_section::Settings: readRows(program.settings, SettingsSection, SettingsRows); break;
+    case settings_section::FileMenu: ReadRecentFiles(program, ini); break;
+    case settings_section::TextBrowse: readRows(program.textBrowse, TextBrowseSection, TextBrowseRows); break;
+    case settings_section::Graph: ReadGraph(program, ini); break;
+    case settings_section::Options: readRows(program.options, ReadOptionsSection, OptionRows); break;
+    default: break;
+  }
+}
+
+void WriteSettings(const Program& program, IniText& ini, int selector) {
+  const auto writeRows = [&](const auto& group, std::string_view section, const auto& rows) {
+    for (const auto& row : rows) WriteIniRow(group, ini, section, row);
+  };
+  switch (selector) {
+    case settings_section::All:
+      for (const int section : AllSections) WriteSettings(program, ini, section);
+      break;
+    case settings_section::Settings: writeRows(program.settings, SettingsSection, SettingsRows); break;
+    case settings_section::FileMenu: WriteRecentFiles(program.recentFiles, ini); break;
+    case settings_section::TextBrowse: writeRows(program.textBrowse, TextBrowseSection, TextBrowseRows); break;
+    case settings_section::Graph: WriteGraph(program.graph, ini); break;
+    case settings_section::Options: writeRows(program.options, WrittenOptionsSection, OptionRows); break;
+    default: break;
+  }
+}
+
+std::string ReadIniVersion(Program& program) {
+  return ReadIniValue(program, VersionSection, VersionKey, program.IniFilePath);
+}
+
+void WriteIniVersion(IniText& ini) { WriteIniValue(ini, VersionSection, VersionKey, BuildStamp); }
+
+void ReadDefaults(Program& program, const IniText& ini) { ReadSettings(program, ini, settings_section::All); }
+
+void WriteDefaults(Program& program, int what) {
+  EditDefaults(program, [&](IniText& ini) { WriteSettings(program, ini, what); });
+}
+
+// In one edit: a file that told its version but lacked the rest would start the next run with zeros.
+void WriteNewIniFile(Program& program) {
+  EditDefaults(program, [&](IniText& ini) {
+    WriteIniVersion(ini);
+    WriteSettings(program, ini, settings_section::All);
+    WriteCatalogSection(program, ini, catalog_section::Defaults);
+    WriteCatalogSection(program, ini, catalog_section::BoltParams);
+  });
+}
+
+}  // namespace orby

@@ -1,0 +1,46 @@
+// The sections of the configuration file that hold what the user chose: the settings, the recent files, the browser's
+// font, how curves are drawn, the options.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "config/ini_file.h"
+#include "core/program.h"
+
+namespace orby {
+
+namespace settings_section {
+inline constexpr int All = 1;
+inline constexpr int Settings = 2;    // [Settings]
+inline constexpr int FileMenu = 3;    // [FileMenu], the recent files
+inline constexpr int TextBrowse = 4;  // [TextBrowse]
+inline constexpr int Graph = 5;       // [Graph]
+inline constexpr int Options = 6;     // written to [TULKOptions], read from [PENVOptions]
+}  // namespace settings_section
+
+// Sets what a program holds before any file is read and that only its surroundings know: the fonts and the data path.
+void SetBuiltInSettings(Program& program);
+
+// Takes one section's values, or those of all, over into the program. A number outside its range, or missing, reads as
+// the range's minimum; a missing text as the empty one, but for fonts, data path and extension, which fall back to what
+// the program has built in. Any other selector does nothing.
+void ReadSettings(Program& program, const IniText& ini, int selector);
+
+// Sets the section's keys in table order; all sections in the order of their selectors.
+void WriteSettings(const Program& program, IniText& ini, int selector);
+
+// The version that the configuration file at IniFilePath was written by; empty when it tells none.
+std::string ReadIniVersion(Program& program);
+void WriteIniVersion(IniText& ini);
+
+// Reads all of the settings.
+void ReadDefaults(Program& program, const IniText& ini);
+
+// Writes one section, or all, to the configuration file at IniFilePath, and tells so in the history first.
+void WriteDefaults(Program& program, int what);
+
+// Writes a whole new configuration file: the version, all of the settings, the values of a new design and the lists.
+void WriteNewIniFile(Program& program);
+
+}  // namespace orby

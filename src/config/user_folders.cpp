@@ -1,0 +1,85 @@
+#include "config/user_folders.h"
+
+#include <string>
+#include <string_view>
+
+#include "base/paths.h"
+#include "base/runtime_error.h"
+#include "config/whole_file.h"
+#include "core/file_helpers.h"
+#include "core/program_names.h"
+
+namespace orby {
+namespace {
+
+constexpr std::string_view GroupFolderName = "MyStrataDesk";
+constexpr std::string_view TemporaryFolderName = "Temp";
+constexpr std::string_view ExamplesFolderName = "examples";
+
+std::string Below(const std::string& folder, std::string_view name) {
+  return WithSeparator(folder).append(name) + FolderSeparator;
+}
+
+template <class Act>
+void IgnoringErrors(const Act& act) {
+  try {
+    act();
+  } catch (const RuntimeError&) {
+    return;
+  }
+}
+
+bool IsThere(FileSystem& files, const std::string& folder) {
+  try {
+    return files.Finds(folder, true);
+  } catch (const RuntimeError&) {
+    return false;
+  }
+}
+
+// The folder, made when it is missing; the program's own when it cannot be had.
+std::string Settled(Program& program, const std::string& folder) {
+  FileSystem& files = program.platform.files;
+  IgnoringErrors([&] { files.MakeFolder(folder); });
+  return IsThere(files, folder) ? folder : AppDirectory(program);
+}
+
+void CopyMissing(FileSystem& files, const std::string& source, const std::string& target) {
+  if (files.Finds(target, true)) return;
+  TryWriteWhole(files, target, files.ReadFile(source));
+}
+
+}  // namespace
+
+void FindUserFolders(Program& program) {
+  const auto documents = program.platform.userFolders.Documents();
+  const auto desktop = program.platform.userFolders.Desktop();
+  Folders& folders = program.folders;
+  if (!documents || !desktop) {
+    const std::string own = AppDirectory(program);
+    folders = {own, own, own, own};
+    return;
+  }
+  const std::string group = Below(*documents, GroupFolderName);
+  folders.Group = Settled(program, group);
+  folders.GroupTemporary = Settled(program, Below(group, TemporaryFolderName));
+  folders.ProgramData = Settled(program, Below(group, ProgramShortName));
+  folders.ProgramTemporary = Settled(program, Below(folders.ProgramData, TemporaryFolderName));
+}
+
+void CopyExamples(Program& program) {
+  if (program.settings.CopyExampleFiles != 1) return;
+  FileSystem& files = program.platform.files;
+  for (const std::string& source : files.FilesIn(AppDirectory(program).append(ExamplesFolderName))) {
+    const std::string target = WithSeparator(program.settings.DataPath).append(NameBehindSeparator(source));
+    IgnoringErrors([&] { CopyMissing(files, source, target); });
+  }
+}
+
+void EnterWorkingFolder(Program& program) {
+  FileSystem& files = program.platform.files;
+  const std::string own = AppDirectory(program);
+  IgnoringErrors([&] { files.SetWorkingFolder(files.CanWriteTo(own) ? own : program.folders.ProgramData); });
+}
+
+}  // namespace orby

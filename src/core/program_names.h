@@ -1,0 +1,11 @@
+// The names that the program goes by in the user's folders.
+#pragma once
+
+#include <string_view>
+
+namespace orby {
+
+inline constexpr std::string_view ProgramShortName = "ORBY";
+inline constexpr std::string_view IniFileName = "ORBY.INI";  // in the user's program data folder
+
+}  // namespace orby

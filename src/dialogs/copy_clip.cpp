@@ -1,0 +1,12 @@
+#include "dialogs/copy_clip.h"
+
+#include "core/messages.h"
+
+namespace orby {
+
+void CopyClip(Program& program, const Form& form) {
+  program.platform.clipboard.SetPicture(form);
+  ShowMessage(program, "Screenshot of dialog copied to clipboard", box_style::Ok, program.titles.MessageTitle);
+}
+
+}  // namespace orby

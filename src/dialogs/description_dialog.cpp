@@ -1,0 +1,78 @@
+#include "dialogs/description_dialog.h"
+
+#include "core/dialog_helpers.h"
+#include "core/help.h"
+#include "core/messages.h"
+#include "dialogs/history_texts.h"
+#include "files/new_project.h"
+
+namespace orby {
+namespace {
+
+// Offers one choice of two: the present one always, the other unless the project's choices are locked.
+void Offer(Program& program, OptionArray& options, Integer present) {
+  options.SetAllEnabled(!program.UnitsLocked);
+  SetArrayIndex(program, options, present);
+  options.SetMemberEnabled(static_cast<std::size_t>(present), true);
+}
+
+// A choice that differs starts the design anew, from the values that go with it.
+void Choose(Program& program, Integer& choice, Integer chosen) {
+  if (chosen == choice) return;
+  choice = chosen;
+  FileNew(program, false, false);
+}
+
+}  // namespace
+
+DescriptionDialog::DescriptionDialog(Program& program) : program_(program) {
+  // The table is one of metric bolts.
+  Option1.Click = [this](Integer units) {
+    if (units == English) Check1.SetValue(0);
+    Check1.SetEnabled(units == Metric);
+  };
+  Command2.Click = [this] {
+    CommitOnClose = true;
+    Close();
+  };
+  Command1.Click = [this] { Close(); };
+  Command4.Click = [this] {
+    CommitOnClose = true;
+    OpensParameters = true;
+    Close();
+  };
+  Command3.Click = [this] { OpenHelp(program_); };
+}
+
+void DescriptionDialog::OnOpen() {
+  PrepareForm(program_, message_module::Description);
+  AddHistoryLine(program_, history_text::EditingDescription);
+  CommitOnClose = false;
+  OpensParameters = false;
+  Text1.SetText(program_.ProjectTitle);
+  Text2.SetText(program_.ProjectDescription);
+  Offer(program_, Option1, program_.Units);
+  Offer(program_, Option2, program_.BoltStrengthMode);
+  // Feet leave the box empty, whatever was chosen in a metric project before.
+  if (Check1.Enabled()) Check1.SetValue(program_.UseAUSStandardTable);
+  program_.platform.windows.CenterForm(*this);
+}
+
+void DescriptionDialog::OnClose() {
+  if (CommitOnClose) Commit();
+  AddHistoryLine(program_, CommitOnClose ? history_text::DescriptionModified : history_text::DescriptionNotModified);
+}
+
+// A design that starts anew has neither title nor description: what was typed along with the other choice is lost.
+void DescriptionDialog::Commit() {
+  program_.ProjectTitle = Text1.Text();
+  program_.ProjectDescription = Text2.Text();
+  Choose(program_, program_.Units, GetArrayIndex(Option1));
+  Choose(program_, program_.BoltStrengthMode, GetArrayIndex(Option2));
+  program_.UseAUSStandardTable = Check1.Value();
+  program_.FileSaved = false;
+  program_.FileEmpty = false;
+  program_.UnitsLocked = true;
+}
+
+}  // namespace orby

@@ -1,0 +1,47 @@
+// The description dialog: title and description of the project, and the three choices that its numbers depend on.
+#pragma once
+
+#include "controls/controls.h"
+#include "core/program.h"
+
+namespace orby {
+
+class DescriptionControls : public Form {
+ public:
+  DescriptionControls() : Form("frmTULKDesc", "Project Description") {}
+
+  Frame fraTitle{*this, "fraTitle", "Title and description"};
+  Label lblTitle{*this, "lblTitle", "Title"};
+  TextBox Text1{*this, "Text1"};
+  TextBox Text2{*this, "Text2"};
+  Frame fraUnits{*this, "fraUnits", "Current units"};
+  OptionArray Option1{*this, "Option1", {{"feet, lbs"}, {"meters, kN"}}};
+  Frame fraStrength{*this, "fraStrength", "Roof bolt steel strength"};
+  OptionArray Option2{*this, "Option2", {{"Yield Strength (US)"}, {"Ultimate Strength (AUS)"}}};
+  CheckBox Check1{*this, "Check1", "Use AUS Standard Table"};
+
+  // commands
+  Button Command2{*this, "Command2", "OK"};
+  Button Command1{*this, "Command1", "Cancel"};
+  Button Command4{*this, "Command4", "Next Form"};
+  Button Command3{*this, "Command3", "Help"};
+};
+
+class DescriptionDialog : public DescriptionControls {
+ public:
+  explicit DescriptionDialog(Program& program);
+
+  bool CommitOnClose = false;
+  bool OpensParameters = false;  // once closed: the parameters dialog is to be opened next
+
+ protected:
+  void OnOpen() override;
+  void OnClose() override;
+
+ private:
+  void Commit();
+
+  Program& program_;
+};
+
+}  // namespace orby

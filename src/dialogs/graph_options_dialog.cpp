@@ -1,0 +1,114 @@
+#include "dialogs/graph_options_dialog.h"
+
+#include "base/number_text.h"
+#include "config/settings_sections.h"
+#include "core/dialog_helpers.h"
+#include "core/help.h"
+#include "core/messages.h"
+#include "graphs/graph.h"
+
+namespace orby {
+namespace {
+
+constexpr Integer DefaultFormat = 0;
+constexpr Integer LastUsedFormat = 1;
+
+// Graph styles count from 1, the items of their list from 0.
+constexpr Integer FirstStyle = graph_style::LinesOnly;
+
+}  // namespace
+
+GraphOptionsDialog::GraphOptionsDialog(Program& program, Chart& chart) : program_(program), chart_(chart) {
+  Option1.Click = [this](Integer option) { ChooseFormat(option); };
+  Combo1.Change = [this] { KeepToItems(Combo1, lastGridItem_); };
+  Combo2.Change = [this] {
+    KeepToItems(Combo2, lastStyleItem_);
+    EnableSymbolSize();
+  };
+  HScroll1.Change = [this] { txtSS.SetText(NumberText(HScroll1.Value())); };
+  Command2.Click = [this] { Accept(); };
+  Command1.Click = [this] { Close(); };
+  Command3.Click = [this] { OpenHelp(program_); };
+}
+
+void GraphOptionsDialog::OnOpen() {
+  PrepareForm(program_, message_module::GraphOptions);
+  Combo1.Fill({{"None"}, {"Horizontal"}, {"Vertical"}, {"Horizontal & Vertical"}});
+  Combo2.Fill({{"Lines Only"}, {"Symbols Only"}, {"Lines & Symbols"}});
+  FillFields();
+  SetArrayIndex(program_, Option1, program_.graph.GraphSetParams);
+  const Integer curve = program_.curve.CurveIndex;
+  for (std::size_t i = 0; i < Text2.size(); ++i) Text2[i].SetVisible(static_cast<int>(i) == curve);
+  for (std::size_t i = 0; i < Text3.size(); ++i) Text3[i].SetVisible(static_cast<int>(i) == DependentVariable(curve));
+}
+
+void GraphOptionsDialog::FillFields() {
+  const GraphSettings& graph = program_.graph;
+  Text1.SetText(graph.GraphTitle);
+  for (std::size_t i = 0; i < Text2.size(); ++i) Text2[i].SetText(graph.XAxisTitle[i]);
+  for (std::size_t i = 0; i < Text3.size(); ++i) Text3[i].SetText(graph.YAxisTitle[i]);
+  Combo1.SetListIndex(graph.GridStyle);
+  Combo2.SetListIndex(graph.GraphStyle - FirstStyle);
+  Check1.SetValue(graph.CurveLegend);
+  HScroll1.SetValue(graph.SymbolSize);
+  txtSS.SetText(NumberText(HScroll1.Value()));
+}
+
+void GraphOptionsDialog::ChooseFormat(Integer option) {
+  if (option == DefaultFormat) {
+    // The default titles are in force from here on; a cancelled dialog does not bring the others back.
+    program_.graph.GraphSetParams = DefaultFormat;
+    ComposeAxisTitles(program_);
+    FillFields();
+  }
+  EnableFields(option == LastUsedFormat);
+}
+
+void GraphOptionsDialog::EnableFields(bool enabled) {
+  Text1.SetEnabled(enabled);
+  for (TextBox& box : Text2) box.SetEnabled(enabled);
+  for (TextBox& box : Text3) box.SetEnabled(enabled);
+  Combo1.SetEnabled(enabled);
+  Combo2.SetEnabled(enabled);
+  Check1.SetEnabled(enabled);
+  EnableSymbolSize();
+}
+
+void GraphOptionsDialog::EnableSymbolSize() {
+  const bool drawsSymbols = Combo2.ListIndex() + FirstStyle != graph_style::LinesOnly;
+  lblSymbolSize.SetEnabled(drawsSymbols);
+  txtSS.SetEnabled(drawsSymbols && Combo2.Enabled());
+  HScroll1.SetEnabled(drawsSymbols && Combo2.Enabled());
+}
+
+void GraphOptionsDialog::KeepToItems(Combo& list, int& lastValid) {
+  if (list.HasSelection()) {
+    lastValid = list.ListIndex();
+    return;
+  }
+  ShowMessage(program_, "Please select a valid entry");
+  list.SetListIndex(lastValid);
+}
+
+void GraphOptionsDialog::ReadFields() const {
+  GraphSettings& graph = program_.graph;
+  const auto curve = static_cast<std::size_t>(program_.curve.CurveIndex);
+  const auto dependent = static_cast<std::size_t>(DependentVariable(program_.curve.CurveIndex));
+  graph.GraphTitle = Text1.Text();
+  graph.XAxisTitle[curve] = Text2[curve].Text();
+  graph.YAxisTitle[dependent] = Text3[dependent].Text();
+  graph.GridStyle = static_cast<Integer>(Combo1.ListIndex());
+  graph.GraphStyle = static_cast<Integer>(Combo2.ListIndex() + FirstStyle);
+  graph.CurveLegend = Check1.Value();
+  graph.SymbolSize = static_cast<Integer>(HScroll1.Value());
+  graph.GraphSetParams = GetArrayIndex(Option1);
+}
+
+void GraphOptionsDialog::Accept() {
+  ReadFields();
+  WriteDefaults(program_, settings_section::Graph);
+  Reformat(program_.graph, program_.curve.CurveIndex, chart_);
+  Close();
+}
+
+}  // namespace orby

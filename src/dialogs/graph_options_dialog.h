@@ -1,0 +1,69 @@
+// The options of the graph: titles, grid lines, style, legend and symbol size of the curve on view.
+#pragma once
+
+#include <array>
+
+#include "controls/chart.h"
+#include "controls/controls.h"
+#include "core/program.h"
+
+namespace orby {
+
+class GraphOptionsControls : public Form {
+ public:
+  GraphOptionsControls() : Form("frmGraphOpt", "Graph Parameters and Options") {}
+
+  Frame Frame1{*this, "Frame1", "Options"};
+  OptionArray Option1{*this, "Option1", {{"Set default format parameters"}, {"Set format parameters to last used"}}};
+
+  Frame Frame2{*this, "Frame2", "Basic Formatting Parameters"};
+  Label lblGraphTitle{*this, "lblGraphTitle", "Graph Title"};
+  TextBox Text1{*this, "Text1"};
+  Label lblXAxisTitle{*this, "lblXAxisTitle", "X-axis Title"};
+  std::array<TextBox, 10> Text2{TextBox{*this, "Text2_0"}, TextBox{*this, "Text2_1"}, TextBox{*this, "Text2_2"},
+                                TextBox{*this, "Text2_3"}, TextBox{*this, "Text2_4"}, TextBox{*this, "Text2_5"},
+                                TextBox{*this, "Text2_6"}, TextBox{*this, "Text2_7"}, TextBox{*this, "Text2_8"},
+                                TextBox{*this, "Text2_9"}};  // by curve
+  Label lblYAxisTitle{*this, "lblYAxisTitle", "Y-axis Title"};
+  std::array<TextBox, 3> Text3{TextBox{*this, "Text3_0"}, TextBox{*this, "Text3_1"},
+                               TextBox{*this, "Text3_2"}};  // by dependent variable
+  Label lblGridStyle{*this, "lblGridStyle", "Grid Style"};
+  Combo Combo1{*this, "Combo1", ComboKind::ListOnly};
+  Label lblGraphStyle{*this, "lblGraphStyle", "Graph Style"};
+  Combo Combo2{*this, "Combo2", ComboKind::ListOnly};
+  CheckBox Check1{*this, "Check1", "Curve Legend"};
+  Label lblSymbolSize{*this, "lblSymbolSize", "Symbol Size"};
+  Slider HScroll1{*this, "HScroll1", 3, 20};
+  TextBox txtSS{*this, "txtSS", TextKind::Output};
+
+  // commands
+  Button Command2{*this, "Command2", "OK"};
+  Button Command1{*this, "Command1", "Cancel"};
+  Button Command3{*this, "Command3", "Help"};
+};
+
+class GraphOptionsDialog : public GraphOptionsControls {
+ public:
+  // The chart shows the curve `program.curve.CurveIndex`; OK gives it the format chosen.
+  GraphOptionsDialog(Program& program, Chart& chart);
+
+ protected:
+  void OnOpen() override;
+  void OnClose() override {}
+
+ private:
+  void FillFields();
+  void ChooseFormat(Integer option);
+  void EnableFields(bool enabled);
+  void EnableSymbolSize();
+  void KeepToItems(Combo& list, int& lastValid);
+  void ReadFields() const;
+  void Accept();
+
+  Program& program_;
+  Chart& chart_;
+  int lastGridItem_ = 0;
+  int lastStyleItem_ = 0;
+};
+
+}  // namespace orby

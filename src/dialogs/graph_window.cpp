@@ -1,0 +1,174 @@
+#include "dialogs/graph_window.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+#include <vector>
+
+#include "base/arithmetic.h"
+#include "base/number_text.h"
+#include "base/runtime_error.h"
+#include "core/dialog_helpers.h"
+#include "core/messages.h"
+#include "dialogs/graph_options_dialog.h"
+#include "graphs/graph.h"
+
+namespace orby {
+namespace {
+
+namespace file_item {
+constexpr Integer Print = 0;
+constexpr Integer Export = 2;
+constexpr Integer Exit = 4;
+}  // namespace file_item
+
+namespace options_item {
+constexpr Integer PointID = 0;
+constexpr Integer BasicOptions = 1;
+}  // namespace options_item
+
+constexpr double ReadOutDistance = 4;  // pixels
+constexpr double HoleValue = 1e308;    // stands for a point that is not there
+constexpr NumberPattern CoordinateFormat{"##0.00"};
+
+// The points that were swept, both coordinates of each in double precision.
+ChartSeries PointsOf(const Curve& curve) {
+  const auto count = static_cast<std::size_t>(curve.CurvePointCount);
+  const auto& [xs, ys] = curve.CurvePoints;
+  if (count > xs.size() || count > ys.size()) throw RuntimeError(error_number::Subscript);
+  ChartSeries series;
+  std::copy_n(xs.begin(), count, std::back_inserter(series.x));
+  std::copy_n(ys.begin(), count, std::back_inserter(series.y));
+  return series;
+}
+
+bool IsPoint(const std::vector<ChartSeries>& all, const ChartHit& hit) {
+  if (hit.series < 0 || static_cast<std::size_t>(hit.series) >= all.size() || hit.point < 0) return false;
+  const ChartSeries& series = all[static_cast<std::size_t>(hit.series)];
+  const auto point = static_cast<std::size_t>(hit.point);
+  return point < series.x.size() && series.x[point] != HoleValue && series.y[point] != HoleValue;
+}
+
+}  // namespace
+
+GraphWindow::GraphWindow(Program& program) : program_(program) {
+  graph1.MouseMove = [this](const ChartHit& hit) { ReadOut(hit); };
+  GraphFileItem.Click = [this](Integer item) {
+    if (item == file_item::Print) Print();
+    if (item == file_item::Export) AskAndExport();
+    if (item == file_item::Exit) Close();
+  };
+  GraphEditItem.Click = [this](Integer) { program_.platform.clipboard.SetPicture(graph1); };
+  GraphOptionsItem.Click = [this](Integer item) {
+    if (item == options_item::PointID) TogglePointID();
+    if (item == options_item::BasicOptions) EditOptions();
+  };
+}
+
+void GraphWindow::ShowCurve(Integer index) {
+  GraphInit(index);
+  DrawCurve();
+  Open();
+  program_.platform.windows.Show(*this);
+}
+
+void GraphWindow::OnOpen() {
+  program_.curve.GraphClosed = false;
+  GraphOptionsItem.SetItemChecked(options_item::PointID, false);
+  Frame1.SetVisible(false);
+  ClearReadOut();
+}
+
+void GraphWindow::OnClose() {
+  StoreFormat(graph1, program_.curve.CurveIndex, program_.graph);
+  program_.curve.GraphClosed = true;
+}
+
+void GraphWindow::GraphInit(Integer index) {
+  PrepareAxisTitles(program_, index);
+  program_.curve.CurveIndex = index;
+  ApplyTitlesAndGrid(program_.graph, index, graph1);
+  program_.curve.CurveCount = 1;
+}
+
+void GraphWindow::DrawCurve() {
+  const Curve& curve = program_.curve;
+  std::vector<ChartSeries> drawn;
+  for (Integer number = 1; number <= curve.CurveCount; ++number) {
+    ChartSeries series = PointsOf(curve);
+    series.colour = CurveColors(number);
+    series.legend = LegendText(curve.CurveIndex);
+    ApplyStyle(program_.graph, series);
+    drawn.push_back(std::move(series));
+  }
+  graph1.SetSeries(std::move(drawn));
+  graph1.SetLegendShown(program_.graph.CurveLegend == 1);
+}
+
+void GraphWindow::ClearGraph() {
+  graph1.SetSeries({});
+  program_.curve.CurveCount = 0;
+}
+
+void GraphWindow::ReadOut(const ChartHit& hit) {
+  if (!GraphOptionsItem.ItemChecked(options_item::PointID) || !Frame1.Visible()) return;
+  if (!hit.inPlot) {
+    ClearReadOut();
+    return;
+  }
+  // Away from every point the last one read off stays.
+  if (!IsPoint(graph1.Series(), hit) || hit.distance >= ReadOutDistance) return;
+  const ChartSeries& series = graph1.Series()[static_cast<std::size_t>(hit.series)];
+  const auto point = static_cast<std::size_t>(hit.point);
+  lblX.SetCaption(FormatNumber(ToSingle(series.x[point]), CoordinateFormat));
+  lblSF.SetCaption(FormatNumber(ToSingle(series.y[point]), CoordinateFormat));
+  lblCurve.SetCaption(ShortCurveName(program_.curve.CurveIndex));
+}
+
+void GraphWindow::ClearReadOut() {
+  for (Label* label : {&lblX, &lblSF, &lblCurve}) label->SetCaption({});
+}
+
+void GraphWindow::Print() {
+  const auto outcome = RunTrapped(program_, [this] { program_.platform.printer.Choose(); });
+  if (outcome != StepOutcome::Done) return;
+  AddHistoryLine(program_, "Printing Graph");
+  RunTrapped(program_, [this] { program_.platform.printer.PrintChart(graph1); });
+}
+
+void GraphWindow::AskAndExport() {
+  if (program_.options.AskOfficeInstall == 0) {
+    const int answer =
+        ShowMessage(program_, "This option will only work if Microsoft Excel is installed on this computer. Proceed?",
+                    box_style::YesNo);
+    if (answer != box_result::Yes) return;
+  }
+  Export();
+}
+
+void GraphWindow::Export() {
+  const Integer index = program_.curve.CurveIndex;
+  Sheet sheet{graph1.Heading(), graph1.AxisX().title, graph1.AxisY().title, {}};
+  for (const ChartSeries& series : graph1.Series()) {
+    sheet.series.push_back({"X-coord", ShortCurveName(index), series.x, series.y});
+  }
+  const std::string path = program_.folders.ProgramTemporary + "ORBY " + CurveTitle(index) + ".xlsx";
+  const auto outcome = RunTrapped(program_, [&] { program_.platform.documents.OpenSheet(sheet, path); });
+  if (outcome != StepOutcome::Done) return;
+  const auto count = static_cast<int>(sheet.series.size());
+  ShowMessage(program_, "Exported " + NumberText(count) + (count == 1 ? " Curve" : " Curves"));
+}
+
+void GraphWindow::TogglePointID() {
+  const bool shown = !GraphOptionsItem.ItemChecked(options_item::PointID);
+  GraphOptionsItem.SetItemChecked(options_item::PointID, shown);
+  Frame1.SetVisible(shown);
+}
+
+void GraphWindow::EditOptions() {
+  StoreFormat(graph1, program_.curve.CurveIndex, program_.graph);
+  GraphOptionsDialog dialog(program_, graph1);
+  ShowForm(program_, dialog);
+}
+
+}  // namespace orby

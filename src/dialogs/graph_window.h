@@ -1,0 +1,67 @@
+// The graph window: the curve that was swept last, its points read off with the pointer, printed, copied, exported to a
+// spreadsheet, and the way to the options of the graph.
+#pragma once
+
+#include "controls/chart.h"
+#include "controls/controls.h"
+#include "core/program.h"
+
+namespace orby {
+
+class GraphControls : public Form {
+ public:
+  GraphControls() : Form("frmGraph", "Graph") {}
+
+  Menu GraphFile{*this, "GraphFile", "&File"};
+  ActionArray GraphFileItem{
+      *this, "GraphFileItem", {"&Print", ActionArray::Separator, "Export", ActionArray::Separator, "E&xit"}};
+  Menu GraphEdit{*this, "GraphEdit", "&Edit"};
+  ActionArray GraphEditItem{*this, "GraphEditItem", {"Copy "}};
+  Menu GraphOptions{*this, "GraphOptions", "&Options"};
+  ActionArray GraphOptionsItem{*this, "GraphOptionsItem", {"Point ID", "Basic &Options"}};
+
+  Chart graph1{*this, "graph1"};
+
+  // read-out of the point under the pointer
+  Frame Frame1{*this, "Frame1", "Point ID"};
+  Label lblXCaption{*this, "lblXCaption", "X-coord:"};
+  Label lblX{*this, "lblX", ""};
+  Label lblSFCaption{*this, "lblSFCaption", "Y-Coord:"};
+  Label lblSF{*this, "lblSF", ""};
+  Label lblCurveCaption{*this, "lblCurveCaption", "Curve:"};
+  Label lblCurve{*this, "lblCurve", ""};
+};
+
+class GraphWindow : public GraphControls {
+ public:
+  explicit GraphWindow(Program& program);
+
+  // Draws the points in `program.curve` as the curve of this index and brings the window to the front, opening it
+  // first if it is not open. Throws RuntimeError 9 for an index outside 0..9.
+  void ShowCurve(Integer index);
+
+  // Prepares titles, grid lines and heading of the chart for one curve. Throws RuntimeError 9 for an index outside
+  // 0..9.
+  void GraphInit(Integer index);
+  // Loads the points into the chart, `program.curve.CurveCount` times. Throws RuntimeError 9 beyond the sixth series,
+  // which has no colour.
+  void DrawCurve();
+  void ClearGraph();
+
+ protected:
+  void OnOpen() override;
+  void OnClose() override;
+
+ private:
+  void ReadOut(const ChartHit& hit);
+  void ClearReadOut();
+  void Print();
+  void AskAndExport();
+  void Export();
+  void TogglePointID();
+  void EditOptions();
+
+  Program& program_;
+};
+
+}  // namespace orby

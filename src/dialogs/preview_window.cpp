@@ -1,0 +1,21 @@
+#include "dialogs/preview_window.h"
+
+#include "core/dialog_helpers.h"
+
+namespace orby {
+
+PreviewWindow::PreviewWindow(Program& program) : program_(program) {
+  Command1.Click = [this] { Close(); };
+}
+
+void PreviewWindow::OnOpen() {
+  pager_.Restart();
+  program_.platform.windows.CenterForm(*this);
+}
+
+void ShowPreview(Program& program) {
+  PreviewWindow window(program);
+  ShowForm(program, window);
+}
+
+}  // namespace orby

@@ -1,0 +1,165 @@
+#include "files/recovery_file.h"
+
+#include <array>
+#include <utility>
+#include <variant>
+
+#include "base/arithmetic.h"
+#include "base/code_page.h"
+#include "base/number_text.h"
+#include "base/runtime_error.h"
+#include "base/text.h"
+#include "files/project_lines.h"
+#include "files/project_writer.h"
+
+namespace orby {
+namespace {
+
+constexpr std::string_view RecoveryLabel = "ORBY_RECOVERY_1";
+constexpr char Escape = '\\';
+
+using HeaderField = std::variant<std::string UnsavedProject::*, Integer UnsavedProject::*, bool UnsavedProject::*>;
+
+struct HeaderLine {
+  std::string_view Key;
+  HeaderField Field;
+};
+
+constexpr std::array HeaderLines{HeaderLine{"CurrentFile", &UnsavedProject::CurrentFile},
+                                 HeaderLine{"Units", &UnsavedProject::Units},
+                                 HeaderLine{"BoltStrengthMode", &UnsavedProject::BoltStrengthMode},
+                                 HeaderLine{"UseAUSStandardTable", &UnsavedProject::UseAUSStandardTable},
+                                 HeaderLine{"ProjectTitle", &UnsavedProject::ProjectTitle},
+                                 HeaderLine{"ProjectDescription", &UnsavedProject::ProjectDescription},
+                                 HeaderLine{"FileEmpty", &UnsavedProject::FileEmpty},
+                                 HeaderLine{"UnitsLocked", &UnsavedProject::UnitsLocked}};
+
+std::string Escaped(std::string_view text) {
+  std::string line;
+  line.reserve(text.size());
+  for (const char byte : text) {
+    switch (byte) {
+      case Escape: line += "\\\\"; break;
+      case '\r': line += "\\r"; break;
+      case '\n': line += "\\n"; break;
+      default: line += byte;
+    }
+  }
+  return line;
+}
+
+std::string Unescaped(std::string_view line) {
+  std::string text;
+  text.reserve(line.size());
+  for (std::size_t at = 0; at < line.size(); ++at) {
+    if (line[at] != Escape || at + 1 == line.size()) {
+      text += line[at];
+      continue;
+    }
+    ++at;
+    text += line[at] == 'r' ? '\r' : line[at] == 'n' ? '\n' : line[at];
+  }
+  return text;
+}
+
+std::string ValueText(const UnsavedProject& project, const HeaderField& field) {
+  if (const auto* text = std::get_if<std::string UnsavedProject::*>(&field)) return Escaped(project.**text);
+  if (const auto* flag = std::get_if<bool UnsavedProject::*>(&field)) return project.**flag ? "1" : "0";
+  return NumberText(project.*std::get<Integer UnsavedProject::*>(field));
+}
+
+void ReadValue(UnsavedProject& project, const HeaderField& field, std::string_view value) {
+  if (const auto* text = std::get_if<std::string UnsavedProject::*>(&field)) {
+    project.** text = Unescaped(value);
+  } else if (const auto* flag = std::get_if<bool UnsavedProject::*>(&field)) {
+    project.** flag = value == "1";
+  } else {
+    project.*std::get<Integer UnsavedProject::*>(field) = ToInteger(TextValue(value));
+  }
+}
+
+void ReadData(ProjectRecord& record, const RecordField& field, std::string_view line) {
+  if (const auto* text = std::get_if<TextField>(&field)) {
+    record.** text = Unescaped(line);
+  } else if (const auto* single = std::get_if<SingleField>(&field)) {
+    record.** single = ToSingle(TextValue(line));
+  } else {
+    record.*std::get<IntegerField>(field) = ToInteger(TextValue(line));
+  }
+}
+
+// A path is whatever the machine's disks hold; all other texts are UTF-8.
+bool HoldsTexts(std::string_view bytes) {
+  TakeLine(bytes);
+  TakeLine(bytes);
+  return IsValidUtf8(bytes);
+}
+
+UnsavedProject ReadLines(std::string_view rest) {
+  UnsavedProject project;
+  TakeLine(rest);
+  for (const HeaderLine& header : HeaderLines) {
+    const std::string_view line = TakeLine(rest);
+    ReadValue(project, header.Field, line.substr(line.find('=') + 1));
+  }
+  for (const ProjectLine& line : ProjectLines) ReadData(project.WorkParms, line.Field, TakeLine(rest));
+  return project;
+}
+
+}  // namespace
+
+UnsavedProject CommittedProject(const Program& program) {
+  return {program.CurrentFile,         program.Units,        program.BoltStrengthMode,
+          program.UseAUSStandardTable, program.ProjectTitle, program.ProjectDescription,
+          program.FileEmpty,           program.UnitsLocked,  program.WorkParms};
+}
+
+UnsavedProject EditedProject(const Program& program, ProjectRecord design) {
+  UnsavedProject project = CommittedProject(program);
+  project.FileEmpty = false;
+  project.UnitsLocked = true;
+  project.WorkParms = std::move(design);
+  return project;
+}
+
+std::string RecoveryBytes(const UnsavedProject& project) {
+  std::string text(RecoveryLabel);
+  text += LineEnd;
+  for (const HeaderLine& header : HeaderLines) {
+    text += header.Key;
+    text += '=';
+    text += ValueText(project, header.Field);
+    text += LineEnd;
+  }
+  for (const ProjectLine& line : ProjectLines) {
+    text += Escaped(DataLineText(project.WorkParms, line));
+    text += LineEnd;
+  }
+  return text;
+}
+
+std::optional<UnsavedProject> ReadRecovery(std::string_view bytes) {
+  try {
+    UnsavedProject project = ReadLines(bytes);
+    const bool isSystem = project.Units == English || project.Units == Metric;
+    if (isSystem && HoldsTexts(bytes) && RecoveryBytes(project) == bytes) return project;
+  } catch (const RuntimeError&) {
+    // A number beyond its type stands in no file that the program wrote.
+  }
+  return std::nullopt;
+}
+
+void RestoreProject(Program& program, const UnsavedProject& project) {
+  program.CurrentFile = project.CurrentFile;
+  program.Units = project.Units;
+  program.BoltStrengthMode = project.BoltStrengthMode;
+  program.UseAUSStandardTable = project.UseAUSStandardTable;
+  program.ProjectTitle = project.ProjectTitle;
+  program.ProjectDescription = project.ProjectDescription;
+  program.FileEmpty = project.FileEmpty;
+  program.UnitsLocked = project.UnitsLocked;
+  program.WorkParms = project.WorkParms;
+  program.FileSaved = false;
+}
+
+}  // namespace orby

@@ -1,0 +1,44 @@
+// The recovery file: a project that was never saved, kept so that the end of a run by an error or from outside loses
+// nothing of it.
+//
+// The first line is a label; lines "key=value" with the project's name, choices, texts and flags follow, then the same
+// data lines as in a project file, always in UTF-8. Texts stand on one line each: "\r", "\n" and "\\" are a carriage
+// return, a line feed and a backslash. So any text comes back as it was, and each line comes back into its own field.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/program.h"
+
+namespace orby {
+
+// What a recovery file holds.
+struct UnsavedProject {
+  std::string CurrentFile;
+  Integer Units = English;
+  Integer BoltStrengthMode = 0;
+  Integer UseAUSStandardTable = 0;
+  std::string ProjectTitle;
+  std::string ProjectDescription;
+  bool FileEmpty = false;
+  bool UnitsLocked = false;
+  ProjectRecord WorkParms;
+};
+
+// The project of the program as it was last committed.
+UnsavedProject CommittedProject(const Program& program);
+
+// The project as it will be once this design is committed.
+UnsavedProject EditedProject(const Program& program, ProjectRecord design);
+
+std::string RecoveryBytes(const UnsavedProject& project);
+
+// The project that the bytes hold; nothing when they are damaged, which is when they are not what would be written.
+std::optional<UnsavedProject> ReadRecovery(std::string_view bytes);
+
+// Makes the project the open one, with unsaved changes.
+void RestoreProject(Program& program, const UnsavedProject& project);
+
+}  // namespace orby

@@ -1,0 +1,91 @@
+#include "reports/printing.h"
+
+#include <utility>
+
+#include "base/number_text.h"
+#include "base/paths.h"
+#include "base/runtime_error.h"
+#include "base/text.h"
+#include "core/dialog_helpers.h"
+#include "core/version.h"
+
+namespace orby {
+namespace {
+
+std::string DateText(const Date& date) {
+  return NumberText(date.month) + "/" + NumberText(date.day) + "/" + NumberText(date.year);
+}
+
+// Both texts on one line, the second at its end.
+std::string TableRow(std::string_view left, std::string_view right) {
+  return PadSpaces(left, PrintedWidth - CharacterCount(right)) + std::string(right);
+}
+
+// The name alone, as short as captions show it: a path could reach into the column of the page number.
+std::string FileName(const Program& program) { return ShortenedPath(NameBehindSeparator(program.CurrentFile)); }
+
+std::vector<std::string> PageHeader(const Program& program, std::size_t page) {
+  return {TableRow("File Name: " + FileName(program), "Page: " + NumberText(static_cast<double>(page))),
+          TableRow("Current Units: " + std::string(UnitSummary(program.Units)),
+                   "Date/Time: " + DateText(program.platform.clock.Today())),
+          std::string(ProgramTitle) + ", Version: " + VersionText(true), std::string(PrintedWidth, '-'), std::string()};
+}
+
+// Fills sheets line by line, starting a new one with its header when the last is full.
+class SheetWriter {
+ public:
+  explicit SheetWriter(const Program& program) : program_(program) { StartSheet(); }
+
+  void Text(std::string_view text) {
+    while (!text.empty()) Paragraph(TakeLine(text));
+  }
+  std::vector<std::string> Take() { return std::exchange(sheets_, {}); }
+
+ private:
+  void StartSheet() {
+    sheets_.emplace_back();
+    lines_ = 0;
+    for (const std::string& line : PageHeader(program_, sheets_.size())) Append(line);
+  }
+
+  void Paragraph(std::string_view line) {
+    for (;;) {
+      const std::size_t cut = CharacterOffset(line, PrintedWidth);
+      if (lines_ == PrintedLines) StartSheet();
+      Append(line.substr(0, cut));
+      if (cut == line.size()) return;
+      line.remove_prefix(cut);
+    }
+  }
+
+  void Append(std::string_view line) {
+    sheets_.back() += line;
+    sheets_.back() += LineEnd;
+    ++lines_;
+  }
+
+  const Program& program_;
+  std::vector<std::string> sheets_;
+  std::size_t lines_ = 0;  // of the last sheet
+};
+
+}  // namespace
+
+std::string JoinedPages(const Program& program, Integer first, Integer last) {
+  if (first < 0 || static_cast<std::size_t>(last) >= program.OutBuf.size()) throw RuntimeError(error_number::Subscript);
+  std::string text;
+  for (Integer page = first; page <= last; ++page) text += program.OutBuf[static_cast<std::size_t>(page)];
+  return text;
+}
+
+std::vector<std::string> PrintSheets(const Program& program, std::string_view text) {
+  SheetWriter sheets(program);
+  sheets.Text(text);
+  return sheets.Take();
+}
+
+void PrintText(Program& program, std::string_view text) {
+  program.platform.printer.PrintPages(PrintSheets(program, text), FileName(program), ChoosePrinterFont(program));
+}
+
+}  // namespace orby

@@ -1,0 +1,25 @@
+// Reports on paper: a text as sheets, each under a header that tells the file, the day, the page and the program.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/program.h"
+
+namespace orby {
+
+inline constexpr std::size_t PrintedLines = 60;  // of a sheet, its header among them
+inline constexpr std::size_t PrintedWidth = 78;  // characters; the rest of a longer line stands on the next one
+
+// The report pages first..last as one text. Throws RuntimeError 9 beyond the pages there are.
+std::string JoinedPages(const Program& program, Integer first, Integer last);
+
+// The text as the sheets it is printed on; one sheet with its header alone without any text. Lines end in CR LF.
+std::vector<std::string> PrintSheets(const Program& program, std::string_view text);
+
+// Prints the text, in the printer font, under the name of the project's file. Throws RuntimeError 482.
+void PrintText(Program& program, std::string_view text);
+
+}  // namespace orby

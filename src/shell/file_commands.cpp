@@ -1,0 +1,104 @@
+// The commands of the File menu.
+#include "config/settings_sections.h"
+#include "dialogs/preview_window.h"
+#include "files/new_project.h"
+#include "files/project_file.h"
+#include "files/save_command.h"
+#include "reports/input_echo.h"
+#include "reports/printing.h"
+#include "shell/main_window.h"
+#include "shell/recent_files.h"
+
+namespace orby {
+namespace {
+
+// Whether the command goes on behind the step.
+bool GoesOn(StepOutcome outcome) { return outcome == StepOutcome::Done || outcome == StepOutcome::PassedOver; }
+
+}  // namespace
+
+void MainWindow::FileCommand(Integer item) {
+  switch (item) {
+    case file_item::New: NewProject(); break;
+    case file_item::Open: OpenProject(); break;
+    case file_item::Save: SaveProject(false); break;
+    case file_item::SaveAs: SaveProject(true); break;
+    case file_item::PrinterSetup: Run(Trap::Set, [this] { program_.platform.printer.SetUp(); }); break;
+    case file_item::Print: PrintProject(true); break;
+    case file_item::Preview: PreviewProject(); break;
+    case file_item::Exit: Exit(); break;
+    default: break;
+  }
+}
+
+void MainWindow::NewProject() {
+  FileNew(program_, true, true);
+  recovery_.Discard();
+  RefreshCaption();
+  if (program_.options.ShowInputScreenOnLoad == 1) EditCommand(edit_item::Parameters, Trap::Set);
+}
+
+void MainWindow::OpenProject() {
+  program_.PreviousFile = program_.CurrentFile;
+  const auto outcome = Run(Trap::Set, [this] { AskFileName(program_, FileDialogMode::Open); });
+  if (outcome == StepOutcome::Done) LoadProjFile(Trap::Set);
+}
+
+void MainWindow::OpenRecent(Integer item) {
+  if (item < 1) return;
+  OpenFile(program_.recentFiles.Entries[static_cast<std::size_t>(item - 1)].LastFileLong, Trap::Set);
+}
+
+void MainWindow::OpenFile(const std::string& path, Trap trap) {
+  program_.PreviousFile = program_.CurrentFile;
+  program_.CurrentFile = path;
+  LoadProjFile(trap);
+}
+
+// A refused file leaves the caption as it is.
+void MainWindow::LoadProjFile(Trap trap) {
+  bool ok = false;
+  Run(trap, [&] { FileOpen(program_, ok); });
+  recovery_.Committed();
+  if (!ok) return;
+  UpdateRecentFiles();
+  RefreshCaption();
+  if (program_.options.ShowInputScreenOnLoad == 1) EditCommand(edit_item::Parameters, trap);
+}
+
+void MainWindow::SaveProject(bool saveAs) {
+  if (!FileMenuSave(program_, saveAs)) return;
+  recovery_.Discard();
+  UpdateRecentFiles();
+  RefreshCaption();
+}
+
+void MainWindow::UpdateRecentFiles() {
+  if (!EnterRecentFile(program_)) return;
+  ShowRecentFiles(program_.recentFiles, mnuFileArray);
+  WriteDefaults(program_, settings_section::FileMenu);
+}
+
+bool MainWindow::MayPrint() {
+  return !program_.FileEmpty || ShowMessage(program_, "Current file is empty. Continue?",
+                                            box_style::YesNo | box_style::SecondButtonDefault) == box_result::Yes;
+}
+
+// Behind the echo of the committed design stands whatever the last results left.
+void MainWindow::PrintProject(bool choosesPrinter) {
+  if (!MayPrint()) return;
+  if (choosesPrinter && !GoesOn(Run(Trap::Set, [this] { program_.platform.printer.Choose(); }))) return;
+  if (!GoesOn(Run(Trap::Set, [this] { LoadOutBuf0(program_); }))) return;
+  Run(Trap::Set, [this] { PrintText(program_, JoinedPages(program_, 0, 1)); });
+}
+
+void MainWindow::PreviewProject() {
+  if (!MayPrint()) return;
+  if (GoesOn(Run(Trap::Set, [this] { LoadOutBuf0(program_); }))) ShowPreview(program_);
+}
+
+void MainWindow::Exit() {
+  if (MayClose()) Close();
+}
+
+}  // namespace orby

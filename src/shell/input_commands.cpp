@@ -1,0 +1,68 @@
+// The commands of the Input menu.
+#include <memory>
+
+#include "core/dialog_helpers.h"
+#include "dialogs/cost_dialog.h"
+#include "dialogs/description_dialog.h"
+#include "dialogs/parameters_dialog.h"
+#include "shell/main_window.h"
+
+namespace orby {
+
+void MainWindow::EditCommand(Integer item, Trap trap) {
+  switch (item) {
+    case edit_item::Description: EditDescription(); break;
+    case edit_item::Parameters: EditDesign<ParametersDialog>(trap); break;
+    case edit_item::Cost: EditDesign<CostDialog>(trap); break;
+    default: break;
+  }
+}
+
+void MainWindow::EditDescription() {
+  program_.platform.windows.SetWaitCursor(true);
+  DescriptionDialog dialog(program_);
+  ShowForm(program_, dialog);
+  recovery_.Committed();
+  RefreshCaption();
+  if (dialog.OpensParameters) EditCommand(edit_item::Parameters, Trap::None);
+}
+
+template <class Dialog>
+void MainWindow::EditDesign(Trap trap) {
+  Windows& windows = program_.platform.windows;
+  std::unique_ptr<Dialog> dialog;
+  const auto outcome = Run(trap, [&] {
+    windows.SetWaitCursor(true);
+    dialog = std::make_unique<Dialog>(program_);
+    dialog->Open();
+    windows.SetWaitCursor(false);
+  });
+  if (outcome != StepOutcome::Done) {
+    program_.DialogOpen = false;
+    return;
+  }
+  KeepEdits(*dialog);
+  windows.ShowMainWindow(false);
+  ShowForm(program_, *dialog);
+  windows.ShowMainWindow(true);
+  recovery_.Committed();
+  RefreshCaption();
+}
+
+// After each act of the user, for the case that one of the next ends the run.
+template <class Dialog>
+void MainWindow::KeepEdits(Dialog& dialog) {
+  const auto tell = [this, &dialog](void (Recovery::*routine)(const ProjectRecord&)) {
+    try {
+      (recovery_.*routine)(dialog.EditedDesign());
+    } catch (const RuntimeError&) {
+      // Fields that could not be committed leave the last ones that could.
+    }
+  };
+  tell(&Recovery::DesignShown);
+  dialog.Acted = [&dialog, tell] {
+    if (dialog.IsOpen()) tell(&Recovery::DesignChanged);
+  };
+}
+
+}  // namespace orby

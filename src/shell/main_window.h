@@ -1,0 +1,76 @@
+// The main window: all work starts from its menus, and its pane shows the history of the run.
+//
+// A command of the File menu runs under a trap, step by step: a step that fails is told and done again, passed over or
+// given up, as the user says. The file of the command line and the input dialogs of the menu have no trap.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "core/messages.h"
+#include "core/program.h"
+#include "shell/main_controls.h"
+#include "shell/recovery.h"
+
+namespace orby {
+
+class MainWindow : public MainControls {
+ public:
+  // Takes over the history of the program and the asking for input dialogs, for as long as the window lives.
+  explicit MainWindow(Program& program);
+  ~MainWindow() override;
+
+  // What a run begins with, once the window is on the screen: the work that an earlier run lost, the file that was open
+  // last, the file of the command line. Throws the RuntimeError of the latter's opening.
+  void OpenFirstFiles(const std::string& commandLineFile);
+
+  // Opens a file that was dropped on the window.
+  void Dropped(const std::string& path);
+
+  // Asks what to do with unsaved changes; false when the window is to stay.
+  bool MayClose() override;
+
+  // Keeps what is being edited for the next start. For the end of a run by an error.
+  void KeepUnsavedWork() { recovery_.Flush(); }
+
+ protected:
+  void OnOpen() override;
+  void OnClose() override;
+
+ private:
+  enum class Trap { None, Set };
+  using Step = std::function<void()>;
+  StepOutcome Run(Trap trap, const Step& step);
+
+  void TieCommands();
+  void TieHistory();
+  void ShowHistory(bool visible);
+  void RefreshCaption();
+
+  // file_commands.cpp
+  void FileCommand(Integer item);
+  void NewProject();
+  void OpenProject();
+  void OpenRecent(Integer item);
+  void OpenFile(const std::string& path, Trap trap);
+  void LoadProjFile(Trap trap);
+  void SaveProject(bool saveAs);
+  void UpdateRecentFiles();
+  bool MayPrint();
+  void PrintProject(bool choosesPrinter);
+  void PreviewProject();
+  void Exit();
+
+  // input_commands.cpp
+  void EditCommand(Integer item, Trap trap);
+  void EditDescription();
+  template <class Dialog>
+  void EditDesign(Trap trap);
+  template <class Dialog>
+  void KeepEdits(Dialog& dialog);
+
+  Program& program_;
+  Recovery recovery_;
+};
+
+}  // namespace orby

@@ -1,0 +1,507 @@
+// What the user chose, in the configuration file.
+#include "config/settings_sections.h"
+
+#include <gmock/gmock.h>
+
+#include <string>
+#include <vector>
+
+#include "base/runtime_error.h"
+#include "base/text.h"
+#include "support/recording_platform.h"
+
+namespace orby::test {
+namespace {
+
+namespace section = settings_section;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+constexpr const char* IniPath = "/data/ORBY.INI";
+
+struct SettingsSections : testing::Test {
+  SettingsSections() {
+    platform.fonts.screen = {"Courier New", "Arial"};
+    program.folders.ProgramData = "/data/";
+    program.IniFilePath = IniPath;
+    SetBuiltInSettings(program);
+  }
+
+  RecordingPlatform platform;
+  Program program{platform.Doors()};
+  Settings& settings = program.settings;
+  TextBrowseSettings& textBrowse = program.textBrowse;
+  GraphSettings& graph = program.graph;
+  OptionSettings& options = program.options;
+  RecentFiles& recent = program.recentFiles;
+
+  void Read(int selector, const std::string& text) { ReadSettings(program, IniText(text), selector); }
+  void ReadKeys(const std::string& keys) { Read(section::Settings, "[Settings]\r\n" + keys); }
+  std::string Written(int selector) const {
+    IniText ini;
+    WriteSettings(program, ini, selector);
+    return ini.Text();
+  }
+  std::string& FileBytes() { return platform.files.files[IniPath]; }
+};
+
+constexpr const char* BuiltInSettingsText =
+    "[Settings]\r\n"
+    "DefaultUnits=0\r\n"
+    "DisplayHistoryWin=1\r\n"
+    "MaxDisplaySize=2048\r\n"
+    "DisplayFontName=Arial\r\n"
+    "DisplayFontSize=10\r\n"
+    "DisplayFontBold=0\r\n"
+    "DisplayFontItalic=0\r\n"
+    "KeepFileNames=1\r\n"
+    "ShowDisclaim=1\r\n"
+    "MaxMainMenu=0\r\n"
+    "EnableMainMenuToolbar=1\r\n"
+    "ShortRecentFiles=0\r\n"
+    "LoadLastInputFile=0\r\n"
+    "RemindAnnualUpdates=1\r\n"
+    "CopyExampleFiles=1\r\n"
+    "ExternalEditor=Notepad.exe\r\n"
+    "DataPath=/data/\r\n"
+    "FileExtension=ORB\r\n";
+
+TEST_F(SettingsSections, TheBuiltInSettingsAreWrittenInTableOrder) {
+  EXPECT_EQ(Written(section::Settings), BuiltInSettingsText);
+}
+
+TEST_F(SettingsSections, ANewFileHasNoRecentFiles) {
+  EXPECT_EQ(Written(section::FileMenu), "[FileMenu]\r\nMaxLastFiles=0\r\n");
+}
+
+TEST_F(SettingsSections, TheBuiltInBrowserSettingsAreWrittenInTableOrder) {
+  EXPECT_EQ(Written(section::TextBrowse),
+            "[TextBrowse]\r\n"
+            "BrowseFontName=Arial\r\n"
+            "BrowseFontSize=10\r\n"
+            "BrowseFontBold=0\r\n"
+            "BrowseFontItalic=0\r\n"
+            "BrowseDefaultFilter=\r\n"
+            "BrowseUseNotepad=0\r\n");
+}
+
+TEST_F(SettingsSections, TheBuiltInGraphFormatIsWrittenInTableOrder) {
+  EXPECT_EQ(Written(section::Graph),
+            "[Graph]\r\n"
+            "GraphSetParams=0\r\n"
+            "GridStyle=3\r\n"
+            "GraphStyle=3\r\n"
+            "CurveLegend=1\r\n"
+            "SymbolSize=6\r\n"
+            "GraphUnits=0\r\n"
+            "GraphTitle=\r\n"
+            "XAxisTitle0=\r\nXAxisTitle1=\r\nXAxisTitle2=\r\nXAxisTitle3=\r\nXAxisTitle4=\r\n"
+            "XAxisTitle5=\r\nXAxisTitle6=\r\nXAxisTitle7=\r\nXAxisTitle8=\r\nXAxisTitle9=\r\n"
+            "YAxisTitle0=\r\nYAxisTitle1=\r\nYAxisTitle2=\r\n");
+}
+
+TEST_F(SettingsSections, TheOptionsAreWrittenUnderTheNameThatNobodyReads) {
+  EXPECT_EQ(Written(section::Options),
+            "[TULKOptions]\r\n"
+            "DefaultSteelStrength=0\r\n"
+            "OutputStrUnits=0\r\n"
+            "OutputStrGradUnits=0\r\n"
+            "ShowInputScreenOnLoad=1\r\n"
+            "ViewChildWindow=1\r\n"
+            "PrintModuleHeader=1\r\n"
+            "AskOfficeInstall=1\r\n");
+}
+
+TEST_F(SettingsSections, TheSectionsStandInTheOrderOfTheirSelectors) {
+  const std::string text = Written(section::All);
+
+  std::vector<std::string> names;
+  for (std::string_view rest = text; !rest.empty();) {
+    const std::string_view line = TakeLine(rest);
+    if (line.starts_with('[')) names.emplace_back(line);
+  }
+  EXPECT_THAT(names, ElementsAre("[Settings]", "[FileMenu]", "[TextBrowse]", "[Graph]", "[TULKOptions]"));
+  EXPECT_THAT(text, StartsWith(BuiltInSettingsText));
+}
+
+TEST_F(SettingsSections, AnUnknownSelectorReadsAndWritesNothing) {
+  Read(7, "[Settings]\r\nDefaultUnits=1\r\n");
+
+  EXPECT_EQ(settings.UnitsDefault, 0);
+  EXPECT_EQ(Written(7), "");
+}
+
+TEST_F(SettingsSections, EverySettingIsReadIntoItsOwnPlace) {
+  platform.files.folders.insert("/designs");
+
+  ReadKeys(
+      "DefaultUnits=1\r\nDisplayHistoryWin=0\r\nMaxDisplaySize=8192\r\nDisplayFontName=Terminal\r\n"
+      "DisplayFontSize=14\r\nDisplayFontBold=-1\r\nDisplayFontItalic=-1\r\nKeepFileNames=0\r\nShowDisclaim=0\r\n"
+      "MaxMainMenu=1\r\nEnableMainMenuToolbar=0\r\nShortRecentFiles=1\r\nLoadLastInputFile=1\r\n"
+      "RemindAnnualUpdates=0\r\nCopyExampleFiles=0\r\nExternalEditor=gedit\r\nDataPath=/designs\r\n"
+      "FileExtension=DAT\r\n");
+
+  EXPECT_EQ(settings.UnitsDefault, 1);
+  EXPECT_EQ(settings.DisplayHistoryWin, 0);
+  EXPECT_EQ(settings.MaxDisplaySize, 8192);
+  EXPECT_EQ(settings.DisplayFontName, "Terminal");
+  EXPECT_EQ(settings.DisplayFontSize, 14);
+  EXPECT_EQ(settings.DisplayFontBold, -1);
+  EXPECT_EQ(settings.DisplayFontItalic, -1);
+  EXPECT_EQ(settings.KeepFileNames, 0);
+  EXPECT_EQ(settings.ShowDisclaim, 0);
+  EXPECT_EQ(settings.MaxMainMenu, 1);
+  EXPECT_EQ(settings.EnableMainMenuToolbar, 0);
+  EXPECT_EQ(settings.ShortRecentFiles, 1);
+  EXPECT_EQ(settings.LoadLastInputFile, 1);
+  EXPECT_EQ(settings.RemindAnnualUpdates, 0);
+  EXPECT_EQ(settings.CopyExampleFiles, 0);
+  EXPECT_EQ(settings.ExternalEditor, "gedit");
+  EXPECT_EQ(settings.DataPath, "/designs/");
+  EXPECT_EQ(settings.FileExtension, "DAT");
+}
+
+TEST_F(SettingsSections, MissingFlagsAreOffButForTheCopyOfExamples) {
+  ReadKeys("");
+
+  EXPECT_EQ(settings.CopyExampleFiles, 1);
+  EXPECT_EQ(settings.DisplayHistoryWin, 0);
+  EXPECT_EQ(settings.KeepFileNames, 0);
+  EXPECT_EQ(settings.ShowDisclaim, 0);
+  EXPECT_EQ(settings.MaxMainMenu, 0);
+  EXPECT_EQ(settings.EnableMainMenuToolbar, 0);
+  EXPECT_EQ(settings.ShortRecentFiles, 0);
+  EXPECT_EQ(settings.LoadLastInputFile, 0);
+  EXPECT_EQ(settings.RemindAnnualUpdates, 0);
+  EXPECT_EQ(settings.DisplayFontBold, 0);
+  EXPECT_EQ(settings.DisplayFontItalic, 0);
+}
+
+TEST_F(SettingsSections, AFlagOutsideItsRangeIsOff) {
+  ReadKeys("KeepFileNames=-1\r\nShowDisclaim=2\r\nMaxMainMenu=99999\r\nCopyExampleFiles=1E999\r\n");
+
+  EXPECT_EQ(settings.KeepFileNames, 0);
+  EXPECT_EQ(settings.ShowDisclaim, 0);
+  EXPECT_EQ(settings.MaxMainMenu, 0);
+  EXPECT_EQ(settings.CopyExampleFiles, 0);
+}
+
+TEST_F(SettingsSections, AFontFlagIsOnBelowZero) {
+  ReadKeys("DisplayFontBold=-1\r\nDisplayFontItalic=1\r\n");
+
+  EXPECT_EQ(settings.DisplayFontBold, -1);
+  EXPECT_EQ(settings.DisplayFontItalic, -1) << "outside the range, so its minimum";
+}
+
+TEST_F(SettingsSections, TheLengthOfTheHistoryFallsToItsMinimum) {
+  ReadKeys("MaxDisplaySize=2048\r\n");
+  EXPECT_EQ(settings.MaxDisplaySize, 4096) << "what a new file receives lies outside the range";
+
+  ReadKeys("MaxDisplaySize=16384\r\n");
+  EXPECT_EQ(settings.MaxDisplaySize, 16384);
+
+  ReadKeys("MaxDisplaySize=16385\r\n");
+  EXPECT_EQ(settings.MaxDisplaySize, 4096);
+}
+
+TEST_F(SettingsSections, FontSizesAreWhole) {
+  ReadKeys("DisplayFontSize=10.5\r\n");
+  EXPECT_EQ(settings.DisplayFontSize, 10);
+
+  ReadKeys("DisplayFontSize=11.5\r\n");
+  EXPECT_EQ(settings.DisplayFontSize, 12);
+
+  Read(section::TextBrowse, "[TextBrowse]\r\nBrowseFontSize=10.5\r\n");
+  EXPECT_EQ(textBrowse.BrowseFontSize, 10);
+}
+
+TEST_F(SettingsSections, AFontSizeOutsideItsRangeIsTheSmallest) {
+  Read(section::TextBrowse, "[TextBrowse]\r\nBrowseFontSize=100\r\n");
+  EXPECT_EQ(textBrowse.BrowseFontSize, 7);
+
+  ReadKeys("DisplayFontSize=6\r\n");
+  EXPECT_EQ(settings.DisplayFontSize, 7);
+}
+
+TEST_F(SettingsSections, AFontWithoutANameIsOneThatTheMachineHas) {
+  settings.DisplayFontName = "Terminal";
+  textBrowse.BrowseFontName = "Terminal";
+
+  ReadKeys("DisplayFontName=\r\n");
+  Read(section::TextBrowse, "");
+
+  EXPECT_EQ(settings.DisplayFontName, "Arial");
+  EXPECT_EQ(textBrowse.BrowseFontName, "Arial");
+}
+
+TEST_F(SettingsSections, TheExtensionZeroIsTheBuiltInOne) {
+  ReadKeys("FileExtension=0\r\n");
+
+  EXPECT_EQ(settings.FileExtension, "ORB");
+}
+
+TEST_F(SettingsSections, AnEmptyExtensionStaysEmpty) {
+  ReadKeys("FileExtension=\r\n");
+
+  EXPECT_EQ(settings.FileExtension, "");
+}
+
+TEST_F(SettingsSections, ADataPathThatWasNeverSetIsTheProgramDataFolder) {
+  for (const char* keys : {"", "DataPath=\r\n", "DataPath=0\r\n", "DataPath=\"\"\r\n"}) {
+    settings.DataPath = "/elsewhere/";
+
+    ReadKeys(keys);
+
+    EXPECT_EQ(settings.DataPath, "/data/") << keys;
+  }
+}
+
+TEST_F(SettingsSections, ADataPathIsTrimmedAndEndsInASeparator) {
+  platform.files.folders.insert({"/designs/north mains", "/panels"});
+
+  ReadKeys("DataPath= \" /designs/north mains \" \r\n");
+  EXPECT_EQ(settings.DataPath, "/designs/north mains/");
+
+  ReadKeys("DataPath=/panels/\r\n");
+  EXPECT_EQ(settings.DataPath, "/panels/");
+}
+
+TEST_F(SettingsSections, ADataPathThatIsNotThereFallsBackQuietly) {
+  ReadKeys("DataPath=/gone\r\n");
+
+  EXPECT_EQ(settings.DataPath, "/data/");
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(SettingsSections, ADataPathThatIsNoPathFallsBackQuietly) {
+  platform.files.Fail(MemoryFiles::Step::Find, error_number::BadFileName);
+
+  ReadKeys("DataPath=/designs\r\n");
+
+  EXPECT_EQ(settings.DataPath, "/data/");
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(SettingsSections, TextsAreCutWhereTheReadersBufferEnds) {
+  ReadKeys("ExternalEditor=" + std::string(300, 'e') + "\r\n");
+
+  EXPECT_EQ(settings.ExternalEditor, std::string(254, 'e'));
+}
+
+TEST_F(SettingsSections, TheRecentFilesComeBack) {
+  recent.MaxLastFiles = 2;
+  recent.Entries[0] = {"Belt entry.ORB", 1, "/designs/Belt entry.ORB"};
+  recent.Entries[1] = {"weak-roof.ORB", 0, "/designs/weak-roof.ORB"};
+  const std::string text = Written(section::FileMenu);
+  recent = {};
+
+  Read(section::FileMenu, text);
+
+  EXPECT_EQ(text,
+            "[FileMenu]\r\n"
+            "MaxLastFiles=2\r\n"
+            "LastFile1=Belt entry.ORB\r\n"
+            "LastFileMode1=1\r\n"
+            "LastFileLong1=/designs/Belt entry.ORB\r\n"
+            "LastFile2=weak-roof.ORB\r\n"
+            "LastFileMode2=0\r\n"
+            "LastFileLong2=/designs/weak-roof.ORB\r\n");
+  EXPECT_EQ(recent.MaxLastFiles, 2);
+  EXPECT_EQ(recent.Entries[0].LastFile, "Belt entry.ORB");
+  EXPECT_EQ(recent.Entries[0].LastFileMode, 1);
+  EXPECT_EQ(recent.Entries[0].LastFileLong, "/designs/Belt entry.ORB");
+  EXPECT_EQ(recent.Entries[1].LastFileLong, "/designs/weak-roof.ORB");
+  EXPECT_EQ(recent.Entries[2].LastFileLong, "");
+}
+
+TEST_F(SettingsSections, TooManyRecentFilesAreNone) {
+  Read(section::FileMenu, "[FileMenu]\r\nMaxLastFiles=9\r\nLastFile1=a.ORB\r\nLastFileLong1=/designs/a.ORB\r\n");
+
+  EXPECT_EQ(recent.MaxLastFiles, 0);
+  EXPECT_EQ(recent.Entries[0].LastFile, "");
+}
+
+TEST_F(SettingsSections, TheModeOfARecentFileMayBeAnyInteger) {
+  Read(section::FileMenu,
+       "[FileMenu]\r\nMaxLastFiles=2\r\nLastFileMode1=-300\r\nLastFileMode2=99999\r\nLastFile2=b.ORB\r\n");
+
+  EXPECT_EQ(recent.Entries[0].LastFileMode, -300);
+  EXPECT_EQ(recent.Entries[1].LastFileMode, 0);
+  EXPECT_EQ(recent.Entries[1].LastFile, "b.ORB");
+}
+
+TEST_F(SettingsSections, RecentFilesBeyondTheCountStayInTheFileAndAreIgnored) {
+  IniText ini("[FileMenu]\r\nMaxLastFiles=2\r\nLastFile1=a.ORB\r\nLastFile2=b.ORB\r\n");
+  recent.MaxLastFiles = 1;
+  recent.Entries[0].LastFile = "c.ORB";
+
+  WriteSettings(program, ini, section::FileMenu);
+  recent = {};
+  ReadSettings(program, ini, section::FileMenu);
+
+  EXPECT_EQ(ini.Find("FileMenu", "LastFile2"), "b.ORB");
+  EXPECT_EQ(recent.Entries[0].LastFile, "c.ORB");
+  EXPECT_EQ(recent.Entries[1].LastFile, "");
+}
+
+TEST_F(SettingsSections, ACountBeyondTheListIsWrittenAsItIsAndItsEntriesAreNot) {
+  recent.MaxLastFiles = 5;
+  recent.Entries[0].LastFile = "a.ORB";
+
+  EXPECT_EQ(Written(section::FileMenu), "[FileMenu]\r\nMaxLastFiles=5\r\n");
+}
+
+TEST_F(SettingsSections, EveryBrowserSettingIsReadIntoItsOwnPlace) {
+  Read(section::TextBrowse,
+       "[TextBrowse]\r\nBrowseFontName=Courier New\r\nBrowseFontSize=12\r\nBrowseFontBold=-1\r\n"
+       "BrowseFontItalic=0\r\nBrowseDefaultFilter=*.TXT\r\nBrowseUseNotepad=1\r\n");
+
+  EXPECT_EQ(textBrowse.BrowseFontName, "Courier New");
+  EXPECT_EQ(textBrowse.BrowseFontSize, 12);
+  EXPECT_EQ(textBrowse.BrowseFontBold, -1);
+  EXPECT_EQ(textBrowse.BrowseFontItalic, 0);
+  EXPECT_EQ(textBrowse.BrowseDefaultFilter, "*.TXT");
+  EXPECT_EQ(textBrowse.BrowseUseNotepad, 1);
+}
+
+TEST_F(SettingsSections, TheGraphFormatComesBack) {
+  graph = {1, 2, 1, 0, 12, 1, "Suggested support", {}, {}};
+  graph.XAxisTitle[0] = "CMRR";
+  graph.XAxisTitle[9] = "Roof Fall Angle (deg)";
+  graph.YAxisTitle[0] = "Suggested PSUP";
+  graph.YAxisTitle[2] = "Rock Load Intersections (tons)";
+  const std::string text = Written(section::Graph);
+  graph = {};
+
+  Read(section::Graph, text);
+
+  EXPECT_EQ(graph.GraphSetParams, 1);
+  EXPECT_EQ(graph.GridStyle, 2);
+  EXPECT_EQ(graph.GraphStyle, 1);
+  EXPECT_EQ(graph.CurveLegend, 0);
+  EXPECT_EQ(graph.SymbolSize, 12);
+  EXPECT_EQ(graph.GraphUnits, 1);
+  EXPECT_EQ(graph.GraphTitle, "Suggested support");
+  EXPECT_EQ(graph.XAxisTitle[0], "CMRR");
+  EXPECT_EQ(graph.XAxisTitle[9], "Roof Fall Angle (deg)");
+  EXPECT_EQ(graph.YAxisTitle[0], "Suggested PSUP");
+  EXPECT_EQ(graph.YAxisTitle[2], "Rock Load Intersections (tons)");
+}
+
+TEST_F(SettingsSections, TheSymbolSizeIsFoundThoughItIsAskedForWithABlank) {
+  Read(section::Graph, "[Graph]\r\nSymbolSize=14\r\n");
+  EXPECT_EQ(graph.SymbolSize, 14);
+
+  Read(section::Graph, "[Graph]\r\nSymbolSize = 15\r\n");
+  EXPECT_EQ(graph.SymbolSize, 15);
+
+  EXPECT_THAT(Written(section::Graph), HasSubstr("\r\nSymbolSize=15\r\n"));
+}
+
+TEST_F(SettingsSections, AGraphKeyOutsideItsRangeFallsToItsMinimum) {
+  Read(section::Graph, "[Graph]\r\nGraphStyle=0\r\nGridStyle=4\r\nSymbolSize=21\r\nCurveLegend=5\r\n");
+
+  EXPECT_EQ(graph.GraphStyle, 1);
+  EXPECT_EQ(graph.GridStyle, 0);
+  EXPECT_EQ(graph.SymbolSize, 3);
+  EXPECT_EQ(graph.CurveLegend, 0);
+}
+
+TEST_F(SettingsSections, TheOptionsNeverSurviveARestart) {
+  options = {1, 1, 1, 0, 0, 0, 0};
+  const std::string text = Written(section::Options);
+
+  Read(section::Options, text);
+
+  EXPECT_THAT(text, HasSubstr("DefaultSteelStrength=1\r\n"));
+  EXPECT_EQ(options.BoltGradeAsUltimateDefault, 0);
+  EXPECT_EQ(options.OutputStrUnits, 0);
+  EXPECT_EQ(options.OutputStrGradUnits, 0);
+  EXPECT_EQ(options.ShowInputScreenOnLoad, 1);
+  EXPECT_EQ(options.ViewChildWindow, 1);
+  EXPECT_EQ(options.PrintModuleHeader, 1);
+  EXPECT_EQ(options.AskOfficeInstall, 1);
+}
+
+TEST_F(SettingsSections, OptionsAreReadFromASectionThatOnlyTheUserCanWrite) {
+  Read(section::Options, "[PENVOptions]\r\nDefaultSteelStrength=1\r\nAskOfficeInstall=0\r\nViewChildWindow=7\r\n");
+
+  EXPECT_EQ(options.BoltGradeAsUltimateDefault, 1);
+  EXPECT_EQ(options.AskOfficeInstall, 0);
+  EXPECT_EQ(options.ViewChildWindow, 0);
+  EXPECT_EQ(options.PrintModuleHeader, 1);
+}
+
+TEST_F(SettingsSections, AllSectionsAreReadTogether) {
+  ReadDefaults(program, IniText("[Settings]\r\nDefaultUnits=1\r\n[FileMenu]\r\nMaxLastFiles=1\r\nLastFile1=a.ORB\r\n"
+                                "[TextBrowse]\r\nBrowseUseNotepad=1\r\n[Graph]\r\nGraphTitle=PSUP\r\n"
+                                "[PENVOptions]\r\nOutputStrUnits=1\r\n"));
+
+  EXPECT_EQ(settings.UnitsDefault, 1);
+  EXPECT_EQ(recent.Entries[0].LastFile, "a.ORB");
+  EXPECT_EQ(textBrowse.BrowseUseNotepad, 1);
+  EXPECT_EQ(graph.GraphTitle, "PSUP");
+  EXPECT_EQ(options.OutputStrUnits, 1);
+}
+
+TEST_F(SettingsSections, WritingOneSectionLeavesTheOthersInTheFile) {
+  FileBytes() = "[Version]\r\nINIFileVersion=201030\r\n[Settings]\r\nDefaultUnits=1\r\n";
+  recent.MaxLastFiles = 1;
+  recent.Entries[0] = {"a.ORB", 1, "/designs/a.ORB"};
+
+  WriteDefaults(program, section::FileMenu);
+
+  EXPECT_EQ(FileBytes(),
+            "[Version]\r\nINIFileVersion=201030\r\n[Settings]\r\nDefaultUnits=1\r\n"
+            "[FileMenu]\r\nMaxLastFiles=1\r\nLastFile1=a.ORB\r\nLastFileMode1=1\r\nLastFileLong1=/designs/a.ORB\r\n");
+}
+
+TEST_F(SettingsSections, TheHistoryTellsOfEachWriting) {
+  WriteDefaults(program, section::Graph);
+
+  EXPECT_EQ(program.history.Text, "1. Saving default settings to file: /data/ORBY.INI\r\n");
+}
+
+TEST_F(SettingsSections, TheHistoryTellsOfAWritingThatFails) {
+  platform.files.Fail(MemoryFiles::Step::Create, error_number::PermissionDenied);
+
+  WriteDefaults(program, section::All);
+
+  EXPECT_EQ(program.history.Text, "1. Saving default settings to file: /data/ORBY.INI\r\n");
+  EXPECT_THAT(platform.files.files, IsEmpty());
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(SettingsSections, TheVersionOfAFileIsReadBack) {
+  IniText ini;
+  WriteIniVersion(ini);
+  FileBytes() = ini.FileBytes();
+
+  EXPECT_EQ(FileBytes(), "[Version]\r\nINIFileVersion=201030\r\n");
+  EXPECT_EQ(ReadIniVersion(program), "201030");
+}
+
+TEST_F(SettingsSections, AFileWithoutAVersionTellsNone) {
+  FileBytes() = "[Settings]\r\nDefaultUnits=1\r\n";
+
+  EXPECT_EQ(ReadIniVersion(program), "");
+}
+
+TEST_F(SettingsSections, ANewFileHoldsItsVersionFirstAndEverySectionThatAStartReads) {
+  WriteNewIniFile(program);
+
+  std::vector<std::string> names;
+  for (std::string_view rest = FileBytes(); !rest.empty();) {
+    const std::string_view line = TakeLine(rest);
+    if (line.starts_with('[')) names.emplace_back(line);
+  }
+  EXPECT_THAT(names, ElementsAre("[Version]", "[Settings]", "[FileMenu]", "[TextBrowse]", "[Graph]", "[TULKOptions]",
+                                 "[ORBYDefaults]", "[ORBYBoltParams]"));
+  EXPECT_EQ(program.history.Text, "1. Saving default settings to file: /data/ORBY.INI\r\n");
+  EXPECT_EQ(platform.files.created.size(), 1U) << "a run that is cut off leaves no file with a part of it";
+}
+
+}  // namespace
+}  // namespace orby::test

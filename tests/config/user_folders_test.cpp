@@ -1,0 +1,217 @@
+// The folders under the user's documents, and the examples that are copied there.
+#include "config/user_folders.h"
+
+#include <gmock/gmock.h>
+
+#include "base/runtime_error.h"
+#include "support/recording_platform.h"
+
+namespace orby::test {
+namespace {
+
+using Step = MemoryFiles::Step;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Pair;
+
+struct UserFolder : testing::Test {
+  RecordingPlatform platform;
+  Program program{platform.Doors()};
+  Folders& folders = program.folders;
+  MemoryFiles& files = platform.files;
+
+  void ExpectAllInTheProgramsFolder() const {
+    EXPECT_EQ(folders.Group, "/program/");
+    EXPECT_EQ(folders.GroupTemporary, "/program/");
+    EXPECT_EQ(folders.ProgramData, "/program/");
+    EXPECT_EQ(folders.ProgramTemporary, "/program/");
+  }
+};
+
+TEST_F(UserFolder, LiesUnderTheDocuments) {
+  FindUserFolders(program);
+
+  EXPECT_EQ(folders.Group, "/home/user/Documents/MyStrataDesk/");
+  EXPECT_EQ(folders.GroupTemporary, "/home/user/Documents/MyStrataDesk/Temp/");
+  EXPECT_EQ(folders.ProgramData, "/home/user/Documents/MyStrataDesk/ORBY/");
+  EXPECT_EQ(folders.ProgramTemporary, "/home/user/Documents/MyStrataDesk/ORBY/Temp/");
+}
+
+TEST_F(UserFolder, IsMadeWhenItIsMissing) {
+  files.folders.clear();
+
+  FindUserFolders(program);
+
+  EXPECT_THAT(files.folders,
+              ElementsAre("/home/user/Documents/MyStrataDesk", "/home/user/Documents/MyStrataDesk/ORBY",
+                          "/home/user/Documents/MyStrataDesk/ORBY/Temp", "/home/user/Documents/MyStrataDesk/Temp"));
+}
+
+TEST_F(UserFolder, OfDocumentsThatEndInASeparatorGetsNoSecondOne) {
+  platform.userFolders.documents = "/mnt/share/";
+
+  FindUserFolders(program);
+
+  EXPECT_EQ(folders.ProgramData, "/mnt/share/MyStrataDesk/ORBY/");
+}
+
+TEST_F(UserFolder, IsTheProgramsFolderWithoutDocuments) {
+  platform.userFolders.documents.reset();
+
+  FindUserFolders(program);
+
+  ExpectAllInTheProgramsFolder();
+}
+
+TEST_F(UserFolder, IsTheProgramsFolderWithoutADesktopToo) {
+  platform.userFolders.desktop.reset();
+
+  FindUserFolders(program);
+
+  ExpectAllInTheProgramsFolder();
+  EXPECT_THAT(files.folders, ElementsAre("/program", "/tmp")) << "nothing is made";
+}
+
+TEST_F(UserFolder, IsTheProgramsFolderWhereNothingCanBeMade) {
+  files.Fail(Step::MakeFolder, error_number::PermissionDenied);
+
+  FindUserFolders(program);
+
+  ExpectAllInTheProgramsFolder();
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(UserFolder, ThatIsThereServesThoughNothingCanBeMade) {
+  files.folders.insert({"/home/user/Documents/MyStrataDesk", "/home/user/Documents/MyStrataDesk/ORBY"});
+  files.Fail(Step::MakeFolder, error_number::PathFileAccess);
+
+  FindUserFolders(program);
+
+  EXPECT_EQ(folders.Group, "/home/user/Documents/MyStrataDesk/");
+  EXPECT_EQ(folders.GroupTemporary, "/program/") << "this one alone falls back";
+  EXPECT_EQ(folders.ProgramData, "/home/user/Documents/MyStrataDesk/ORBY/");
+  EXPECT_EQ(folders.ProgramTemporary, "/program/");
+}
+
+TEST_F(UserFolder, ForTemporaryFilesLiesInTheDataFolderThatWasHad) {
+  files.Fail(Step::MakeFolder, error_number::PermissionDenied);
+  files.folders.insert("/program/Temp");
+
+  FindUserFolders(program);
+
+  EXPECT_EQ(folders.ProgramData, "/program/");
+  EXPECT_EQ(folders.ProgramTemporary, "/program/Temp/");
+}
+
+TEST_F(UserFolder, ThatCannotBeLookedForIsTheProgramsFolder) {
+  files.Fail(Step::Find, error_number::PermissionDenied);
+
+  FindUserFolders(program);
+
+  ExpectAllInTheProgramsFolder();
+}
+
+struct Examples : testing::Test {
+  Examples() {
+    program.settings.DataPath = "/data/";
+    files.files["/program/examples/belt-entry.ORB"] = "ORBY_105\r\n";
+    files.files["/program/examples/weak-roof.ORB"] = std::string("\x80\0\xFF\n", 4);
+  }
+
+  RecordingPlatform platform;
+  Program program{platform.Doors()};
+  MemoryFiles& files = platform.files;
+};
+
+TEST_F(Examples, AreCopiedByteForByte) {
+  CopyExamples(program);
+
+  EXPECT_EQ(files.files["/data/belt-entry.ORB"], "ORBY_105\r\n");
+  EXPECT_EQ(files.files["/data/weak-roof.ORB"], std::string("\x80\0\xFF\n", 4));
+  EXPECT_EQ(files.files.size(), 4U);
+}
+
+TEST_F(Examples, ThatTheUserChangedStay) {
+  files.files["/data/belt-entry.ORB"] = "mine";
+
+  CopyExamples(program);
+
+  EXPECT_EQ(files.files["/data/belt-entry.ORB"], "mine");
+  EXPECT_TRUE(files.files.contains("/data/weak-roof.ORB"));
+}
+
+TEST_F(Examples, StayWhereTheyAreWhenTheSettingIsOff) {
+  program.settings.CopyExampleFiles = 0;
+
+  CopyExamples(program);
+
+  EXPECT_EQ(files.files.size(), 2U);
+}
+
+TEST_F(Examples, BelowTheirFolderAreNotCopied) {
+  files.files["/program/examples/old/old.ORB"] = "ORBY_104\r\n";
+
+  CopyExamples(program);
+
+  EXPECT_EQ(files.files.size(), 5U);
+  EXPECT_FALSE(files.files.contains("/data/old.ORB"));
+}
+
+TEST_F(Examples, ThatCannotBeReadAreLeftOut) {
+  files.Fail(Step::Read, error_number::PermissionDenied);
+
+  CopyExamples(program);
+
+  EXPECT_EQ(files.files.size(), 2U);
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(Examples, LeaveNoHalfFileOnAFullDisk) {
+  files.Fail(Step::Write, error_number::DiskFull, 1);
+
+  CopyExamples(program);
+
+  EXPECT_EQ(files.files.size(), 3U);
+  EXPECT_EQ(files.files["/data/belt-entry.ORB"], "ORBY_105\r\n");
+}
+
+TEST_F(Examples, OfAProgramWithoutAnyAreNoError) {
+  files.files.clear();
+
+  CopyExamples(program);
+
+  EXPECT_THAT(files.files, IsEmpty());
+}
+
+struct WorkingFolder : testing::Test {
+  RecordingPlatform platform;
+  Program program{platform.Doors()};
+
+  WorkingFolder() { program.folders.ProgramData = "/home/user/Documents/MyStrataDesk/ORBY/"; }
+};
+
+TEST_F(WorkingFolder, IsTheProgramsOwn) {
+  EnterWorkingFolder(program);
+
+  EXPECT_EQ(platform.files.workingFolder, "/program/");
+}
+
+TEST_F(WorkingFolder, IsTheDataFolderWhenTheProgramsCannotBeWritten) {
+  platform.files.readOnly.insert("/program");
+
+  EnterWorkingFolder(program);
+
+  EXPECT_EQ(platform.files.workingFolder, "/home/user/Documents/MyStrataDesk/ORBY/");
+}
+
+TEST_F(WorkingFolder, StaysWhenNoneCanBeEntered) {
+  platform.files.Fail(Step::EnterFolder, error_number::PathNotFound);
+
+  EnterWorkingFolder(program);
+
+  EXPECT_EQ(platform.files.workingFolder, "/work");
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+}  // namespace
+}  // namespace orby::test

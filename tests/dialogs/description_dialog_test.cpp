@@ -1,0 +1,356 @@
+#include "dialogs/description_dialog.h"
+
+#include <gmock/gmock.h>
+
+#include <string>
+#include <vector>
+
+#include "catalogs/catalogs.h"
+#include "files/new_project.h"
+#include "support/recording_platform.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// A saved English design, its units still open to choice.
+struct ADescriptionDialog : testing::Test {
+  ADescriptionDialog() {
+    SetBuiltInCatalogs(program.catalogs);
+    FileNew(program, true, true);
+    program.CurrentFile = "/designs/panel3.ORB";
+    program.ProjectTitle = "Panel 3";
+    program.ProjectDescription = "Headgate\r\nSecond cut";
+    program.WorkParms.CMRR = 52;
+    program.WorkParms.DepthofCover = 512.5F;
+    program.FileEmpty = false;
+    program.history = {};
+  }
+
+  RecordingPlatform platform;
+  Program program{platform.Doors()};
+  DescriptionDialog dialog{program};
+};
+
+TEST_F(ADescriptionDialog, NamesItselfItsFieldsAndItsCommands) {
+  EXPECT_EQ(dialog.Name(), "frmTULKDesc");
+  EXPECT_EQ(dialog.Caption(), "Project Description");
+  EXPECT_EQ(dialog.fraTitle.Caption(), "Title and description");
+  EXPECT_EQ(dialog.lblTitle.Caption(), "Title");
+  EXPECT_EQ(dialog.fraUnits.Caption(), "Current units");
+  EXPECT_EQ(dialog.Option1.Caption(0), "feet, lbs");
+  EXPECT_EQ(dialog.Option1.Caption(1), "meters, kN");
+  EXPECT_EQ(dialog.fraStrength.Caption(), "Roof bolt steel strength");
+  EXPECT_EQ(dialog.Option2.Caption(0), "Yield Strength (US)");
+  EXPECT_EQ(dialog.Option2.Caption(1), "Ultimate Strength (AUS)");
+  EXPECT_EQ(dialog.Check1.Caption(), "Use AUS Standard Table");
+  EXPECT_EQ(dialog.Command2.Caption(), "OK");
+  EXPECT_EQ(dialog.Command1.Caption(), "Cancel");
+  EXPECT_EQ(dialog.Command4.Caption(), "Next Form");
+  EXPECT_EQ(dialog.Command3.Caption(), "Help");
+}
+
+// ---- opening --------------------------------------------------------------------------------------------------------
+
+TEST_F(ADescriptionDialog, ShowsTheProject) {
+  program.Units = Metric;
+  program.BoltStrengthMode = 1;
+  program.UseAUSStandardTable = 1;
+
+  dialog.Open();
+
+  EXPECT_EQ(dialog.Text1.Text(), "Panel 3");
+  EXPECT_EQ(dialog.Text2.Text(), "Headgate\r\nSecond cut");
+  EXPECT_TRUE(dialog.Option1.Value(1));
+  EXPECT_FALSE(dialog.Option1.Value(0));
+  EXPECT_TRUE(dialog.Option2.Value(1));
+  EXPECT_FALSE(dialog.Option2.Value(0));
+  EXPECT_TRUE(dialog.Check1.Checked());
+}
+
+TEST_F(ADescriptionDialog, PreparesItsMessagesTheCursorAndItsPlace) {
+  platform.windows.waitCursor = true;
+
+  dialog.Open();
+
+  EXPECT_EQ(program.titles.RangeErrorTitle, "Project Description: Range Error");
+  EXPECT_FALSE(platform.windows.waitCursor);
+  EXPECT_EQ(platform.windows.centered, 1);
+  EXPECT_EQ(program.history.Text, "1. Editing Project Description\r\n");
+  EXPECT_FALSE(dialog.CommitOnClose);
+}
+
+TEST_F(ADescriptionDialog, OffersBothUnitSystemsAndBothStrengthsOfANewProject) {
+  dialog.Open();
+
+  for (const OptionArray* options : {&dialog.Option1, &dialog.Option2}) {
+    EXPECT_TRUE(options->MemberEnabled(0)) << options->Name();
+    EXPECT_TRUE(options->MemberEnabled(1)) << options->Name();
+  }
+}
+
+TEST_F(ADescriptionDialog, KeepsTheUnitsOfAnOpenedFile) {
+  program.UnitsLocked = true;
+
+  dialog.Open();
+
+  EXPECT_TRUE(dialog.Option1.MemberEnabled(0));
+  EXPECT_FALSE(dialog.Option1.MemberEnabled(1));
+  EXPECT_TRUE(dialog.Option2.MemberEnabled(0));
+  EXPECT_FALSE(dialog.Option2.MemberEnabled(1));
+}
+
+TEST_F(ADescriptionDialog, KeepsMetricUnitsAndUltimateStrengthsOfAnOpenedFile) {
+  program.UnitsLocked = true;
+  program.Units = Metric;
+  program.BoltStrengthMode = 1;
+
+  dialog.Open();
+
+  EXPECT_FALSE(dialog.Option1.MemberEnabled(0));
+  EXPECT_TRUE(dialog.Option1.MemberEnabled(1));
+  EXPECT_FALSE(dialog.Option2.MemberEnabled(0));
+  EXPECT_TRUE(dialog.Option2.MemberEnabled(1));
+}
+
+TEST_F(ADescriptionDialog, OffersBothAgainOnceANewProjectHasBegun) {
+  program.UnitsLocked = true;
+  dialog.Open();
+  dialog.Close();
+  FileNew(program, true, true);
+
+  dialog.Open();
+
+  EXPECT_TRUE(dialog.Option1.MemberEnabled(1));
+  EXPECT_TRUE(dialog.Option2.MemberEnabled(1));
+}
+
+TEST_F(ADescriptionDialog, FailsOnUnitsThatNoProjectHas) {
+  program.Units = 2;
+
+  EXPECT_EQ(ErrorNumberOf([this] { dialog.Open(); }), 9);
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Internal Error: SetArrayIndex. Check input/form data."));
+}
+
+// ---- the Australian table -------------------------------------------------------------------------------------------
+
+TEST_F(ADescriptionDialog, OffersTheAustralianTableToMetricProjectsOnly) {
+  dialog.Open();
+  EXPECT_FALSE(dialog.Check1.Enabled());
+
+  dialog.Option1.SetValue(Metric, true);
+  EXPECT_TRUE(dialog.Check1.Enabled());
+  dialog.Check1.SetValue(1);
+
+  dialog.Option1.SetValue(English, true);
+  EXPECT_FALSE(dialog.Check1.Enabled());
+  EXPECT_FALSE(dialog.Check1.Checked());
+}
+
+TEST_F(ADescriptionDialog, LeavesTheBoxEmptyUnderFeetWhateverAnEarlierProjectUsed) {
+  program.UseAUSStandardTable = 1;
+
+  dialog.Open();
+
+  EXPECT_FALSE(dialog.Check1.Checked());
+  EXPECT_FALSE(dialog.Check1.Enabled());
+}
+
+TEST_F(ADescriptionDialog, StoresTheTableChoiceOnOk) {
+  program.Units = Metric;
+  dialog.Open();
+  dialog.Check1.SetValue(1);
+
+  dialog.Command2.Press();
+
+  EXPECT_EQ(program.UseAUSStandardTable, 1);
+}
+
+TEST_F(ADescriptionDialog, ClearsTheTableChoiceOfAProjectInFeetOnOk) {
+  program.UseAUSStandardTable = 1;
+  dialog.Open();
+
+  dialog.Command2.Press();
+
+  EXPECT_EQ(program.UseAUSStandardTable, 0);
+}
+
+TEST_F(ADescriptionDialog, KeepsTheTableChoiceThatGoesWithNewUnits) {
+  dialog.Open();
+  dialog.Option1.SetValue(Metric, true);
+  dialog.Check1.SetValue(1);
+
+  dialog.Command2.Press();
+
+  EXPECT_EQ(program.Units, Metric);
+  EXPECT_EQ(program.UseAUSStandardTable, 1);
+}
+
+// ---- OK -------------------------------------------------------------------------------------------------------------
+
+TEST_F(ADescriptionDialog, StoresTitleAndDescriptionOnOk) {
+  dialog.Open();
+  dialog.Text1.SetText("Panel 4");
+  dialog.Text2.SetText("Tailgate");
+
+  dialog.Command2.Press();
+
+  EXPECT_FALSE(dialog.IsOpen());
+  EXPECT_EQ(program.ProjectTitle, "Panel 4");
+  EXPECT_EQ(program.ProjectDescription, "Tailgate");
+  EXPECT_EQ(program.WorkParms.DepthofCover, 512.5F);
+  EXPECT_EQ(program.CurrentFile, "/designs/panel3.ORB");
+  EXPECT_FALSE(dialog.OpensParameters);
+}
+
+TEST_F(ADescriptionDialog, MakesTheProjectUnsavedAndLocksItsUnitsOnOk) {
+  program.FileEmpty = true;
+  dialog.Open();
+
+  dialog.Command2.Press();
+
+  EXPECT_FALSE(program.FileSaved);
+  EXPECT_FALSE(program.FileEmpty);
+  EXPECT_TRUE(program.UnitsLocked);
+  EXPECT_EQ(program.history.Text, "1. Editing Project Description\r\n2. Project Description Modified\r\n");
+}
+
+TEST_F(ADescriptionDialog, CanNoLongerChangeTheUnitsOnceItWasAccepted) {
+  dialog.Open();
+  dialog.Command2.Press();
+
+  dialog.Open();
+
+  EXPECT_TRUE(dialog.Option1.MemberEnabled(0));
+  EXPECT_FALSE(dialog.Option1.MemberEnabled(1));
+}
+
+TEST_F(ADescriptionDialog, LosesTheTypedTitleWhenTheUnitsChange) {
+  dialog.Open();
+  dialog.Text1.SetText("Panel 4");
+  dialog.Text2.SetText("Tailgate");
+  dialog.Option1.SetValue(Metric, true);
+
+  dialog.Command2.Press();
+
+  EXPECT_EQ(program.ProjectTitle, "");
+  EXPECT_EQ(program.ProjectDescription, "");
+  EXPECT_EQ(program.Units, Metric);
+  EXPECT_EQ(program.CurrentFile, "/designs/panel3.ORB");
+  EXPECT_EQ(program.WorkParms.CMRR, 45);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 150);
+  EXPECT_EQ(program.WorkParms.BoltDiameterStdPrimary, 20);
+  EXPECT_EQ(program.WorkParms.BoltGradeStdPrimary, 520);
+}
+
+TEST_F(ADescriptionDialog, LosesTheTypedTitleWhenTheStrengthModeChanges) {
+  dialog.Open();
+  dialog.Text1.SetText("Panel 4");
+  dialog.Option2.SetValue(1, true);
+
+  dialog.Command2.Press();
+
+  EXPECT_EQ(program.ProjectTitle, "");
+  EXPECT_EQ(program.BoltStrengthMode, 1);
+  EXPECT_EQ(program.Units, English);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_EQ(program.WorkParms.BoltGradeStdPrimary, 100);
+}
+
+TEST_F(ADescriptionDialog, StartsAnewForUnitsAndForStrengthsAndIsUnsavedAllTheSame) {
+  dialog.Open();
+  dialog.Option1.SetValue(Metric, true);
+  dialog.Option2.SetValue(1, true);
+
+  dialog.Command2.Press();
+
+  EXPECT_EQ(program.history.Text,
+            "1. Editing Project Description\r\n"
+            "2. File initialized. Use Edit-Project Parameters to enter data\r\n"
+            "3. File initialized. Use Edit-Project Parameters to enter data\r\n"
+            "4. Project Description Modified\r\n");
+  EXPECT_EQ(program.WorkParms.BoltGradeStdPrimary, 690);
+  EXPECT_FALSE(program.FileSaved);
+  EXPECT_FALSE(program.FileEmpty);
+  EXPECT_TRUE(program.UnitsLocked);
+}
+
+TEST_F(ADescriptionDialog, KeepsTheDesignWhenUnitsAreChangedThereAndBack) {
+  dialog.Open();
+  dialog.Option1.SetValue(Metric, true);
+  dialog.Option1.SetValue(English, true);
+
+  dialog.Command2.Press();
+
+  EXPECT_EQ(program.ProjectTitle, "Panel 3");
+  EXPECT_EQ(program.WorkParms.DepthofCover, 512.5F);
+}
+
+// ---- the other commands ---------------------------------------------------------------------------------------------
+
+TEST_F(ADescriptionDialog, ForgetsEverythingOnCancel) {
+  dialog.Open();
+  dialog.Text1.SetText("Panel 4");
+  dialog.Option1.SetValue(Metric, true);
+  dialog.Check1.SetValue(1);
+
+  dialog.Command1.Press();
+
+  EXPECT_FALSE(dialog.IsOpen());
+  EXPECT_EQ(program.ProjectTitle, "Panel 3");
+  EXPECT_EQ(program.Units, English);
+  EXPECT_EQ(program.UseAUSStandardTable, 0);
+  EXPECT_TRUE(program.FileSaved);
+  EXPECT_FALSE(program.UnitsLocked);
+  EXPECT_EQ(program.history.Text, "1. Editing Project Description\r\n2. Project Description Not Modified\r\n");
+}
+
+TEST_F(ADescriptionDialog, TreatsTheWindowsCloseAsCancel) {
+  dialog.Open();
+  dialog.Text1.SetText("Panel 4");
+
+  dialog.Close();
+
+  EXPECT_EQ(program.ProjectTitle, "Panel 3");
+  EXPECT_TRUE(program.FileSaved);
+}
+
+TEST_F(ADescriptionDialog, CommitsAndAsksForTheParametersOnNextForm) {
+  dialog.Open();
+  dialog.Text1.SetText("Panel 4");
+
+  dialog.Command4.Press();
+
+  EXPECT_FALSE(dialog.IsOpen());
+  EXPECT_EQ(program.ProjectTitle, "Panel 4");
+  EXPECT_FALSE(program.FileSaved);
+  EXPECT_TRUE(dialog.OpensParameters);
+}
+
+TEST_F(ADescriptionDialog, AsksForTheParametersOnceOnly) {
+  dialog.Open();
+  dialog.Command4.Press();
+  dialog.Open();
+
+  dialog.Command1.Press();
+
+  EXPECT_FALSE(dialog.OpensParameters);
+  EXPECT_FALSE(dialog.CommitOnClose);
+}
+
+TEST_F(ADescriptionDialog, OpensTheHelp) {
+  platform.files.files["/program/ORBY.CHM"] = "help";
+  dialog.Open();
+
+  dialog.Command3.Press();
+
+  EXPECT_THAT(platform.documents.opened, ElementsAre("/program/ORBY.CHM"));
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  EXPECT_TRUE(dialog.IsOpen());
+}
+
+}  // namespace
+}  // namespace orby::test

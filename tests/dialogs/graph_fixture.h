@@ -1,0 +1,29 @@
+// A design of typical numbers, with the graph window and the points of a curve to draw.
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include "core/program.h"
+#include "dialogs/graph_window.h"
+#include "support/recording_platform.h"
+
+namespace orby::test {
+
+struct GraphBench : testing::Test {
+  GraphBench() {
+    program.folders.ProgramTemporary = "/tmp/orby/";
+    program.IniFilePath = "/home/user/ORBY.INI";
+    // Suggested PSUP over depths of cover; the last column is an empty one.
+    program.curve.CurvePoints[0] = {200, 240, 280.5F, 0};
+    program.curve.CurvePoints[1] = {3.25F, 4.125F, 5.005F, 0};
+    program.curve.CurvePointCount = 3;
+  }
+
+  const ChartSeries& Drawn() const { return window.graph1.Series().front(); }
+
+  RecordingPlatform platform;
+  Program program{platform.Doors()};
+  GraphWindow window{program};
+};
+
+}  // namespace orby::test

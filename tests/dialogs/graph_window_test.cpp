@@ -1,0 +1,550 @@
+#include "dialogs/graph_window.h"
+
+#include "base/runtime_error.h"
+#include "dialogs/graph_fixture.h"
+#include "engine/curves.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+constexpr int Print = 0;
+constexpr int Export = 2;
+constexpr int Exit = 4;
+constexpr int PointID = 0;
+constexpr int BasicOptions = 1;
+
+struct GraphOfACurve : GraphBench {
+  // The pointer in the plot, so many pixels from a point of the first series.
+  void Point(int point, double distance, int series = 0) { window.graph1.MouseMove({true, series, point, distance}); }
+  void LeaveThePlot() { window.graph1.MouseMove({false, -1, -1, 0}); }
+  std::vector<std::string> ReadOut() const {
+    return {window.lblX.Caption(), window.lblSF.Caption(), window.lblCurve.Caption()};
+  }
+};
+
+TEST_F(GraphOfACurve, NamesItselfItsMenusAndItsReadOut) {
+  EXPECT_EQ(window.Name(), "frmGraph");
+  EXPECT_EQ(window.Caption(), "Graph");
+  EXPECT_EQ(window.GraphFile.Caption(), "&File");
+  EXPECT_EQ(window.GraphFileItem.Caption(0), "&Print");
+  EXPECT_EQ(window.GraphFileItem.Caption(1), "-");
+  EXPECT_EQ(window.GraphFileItem.Caption(2), "Export");
+  EXPECT_EQ(window.GraphFileItem.Caption(3), "-");
+  EXPECT_EQ(window.GraphFileItem.Caption(4), "E&xit");
+  EXPECT_EQ(window.GraphEdit.Caption(), "&Edit");
+  EXPECT_EQ(window.GraphEditItem.Caption(0), "Copy ");
+  EXPECT_EQ(window.GraphOptions.Caption(), "&Options");
+  EXPECT_EQ(window.GraphOptionsItem.Caption(0), "Point ID");
+  EXPECT_EQ(window.GraphOptionsItem.Caption(1), "Basic &Options");
+  EXPECT_EQ(window.Frame1.Caption(), "Point ID");
+  EXPECT_EQ(window.lblXCaption.Caption(), "X-coord:");
+  EXPECT_EQ(window.lblSFCaption.Caption(), "Y-Coord:");
+  EXPECT_EQ(window.lblCurveCaption.Caption(), "Curve:");
+}
+
+TEST_F(GraphOfACurve, OpensWithoutTheReadOutAndComesToTheFront) {
+  window.ShowCurve(1);
+
+  EXPECT_TRUE(window.IsOpen());
+  EXPECT_THAT(platform.windows.shown, ElementsAre(&window));
+  EXPECT_FALSE(window.Frame1.Visible());
+  EXPECT_FALSE(window.GraphOptionsItem.ItemChecked(PointID));
+  EXPECT_EQ(program.curve.CurveIndex, 1);
+  EXPECT_EQ(program.curve.CurveCount, 1);
+  EXPECT_FALSE(program.curve.GraphClosed);
+}
+
+TEST_F(GraphOfACurve, TakesAnotherCurveWhileItIsOpen) {
+  window.ShowCurve(1);
+  window.GraphOptionsItem.ClickItem(PointID);
+  program.curve.CurvePoints[1] = {12, 14, 16, 0};
+
+  window.ShowCurve(5);
+
+  EXPECT_THAT(platform.windows.shown, SizeIs(2));
+  EXPECT_TRUE(window.Frame1.Visible());
+  EXPECT_EQ(window.graph1.AxisX().title, "Entry Width (ft)");
+  EXPECT_EQ(window.graph1.AxisY().title, "Rock Load Entries (tons/ft)");
+  EXPECT_THAT(Drawn().y, ElementsAre(12, 14, 16));
+}
+
+TEST_F(GraphOfACurve, FailsForACurveThatDoesNotExistAndStaysAsItWas) {
+  window.ShowCurve(3);
+
+  EXPECT_EQ(ErrorNumberOf([&] { window.ShowCurve(10); }), 9);
+  EXPECT_EQ(ErrorNumberOf([&] { window.ShowCurve(-1); }), 9);
+
+  EXPECT_EQ(program.curve.CurveIndex, 3);
+  EXPECT_EQ(window.graph1.AxisX().title, "Sum of Diagonals (ft)");
+}
+
+TEST_F(GraphOfACurve, IsHeadedByTheTitleOfTheGraph) {
+  program.graph.GraphTitle = "Panel 3, tailgate";
+
+  window.ShowCurve(1);
+
+  EXPECT_EQ(window.graph1.Heading(), "Panel 3, tailgate");
+}
+
+TEST_F(GraphOfACurve, KeepsTitlesOfTheUnitsThatTheyWereComposedIn) {
+  program.graph.XAxisTitle[1] = "Cover above the seam";
+  program.graph.YAxisTitle[0] = "PSUP, suggested";
+
+  window.ShowCurve(1);
+
+  EXPECT_EQ(window.graph1.AxisX().title, "Cover above the seam");
+  EXPECT_EQ(window.graph1.AxisY().title, "PSUP, suggested");
+}
+
+TEST_F(GraphOfACurve, InMetricAfterOneInEnglishNamesAllAxesAnew) {
+  window.ShowCurve(4);
+  program.Units = Metric;
+
+  window.ShowCurve(7);
+
+  EXPECT_EQ(window.graph1.AxisX().title, "Rock Load Height (m)");
+  EXPECT_EQ(window.graph1.AxisY().title, "Rock Load Intersections (kN)");
+  EXPECT_EQ(program.graph.XAxisTitle[1], "Depth of Cover (m)");
+  EXPECT_EQ(program.graph.YAxisTitle[1], "Rock Load Entries (kN/m)");
+  EXPECT_EQ(program.graph.GraphUnits, Metric);
+}
+
+TEST_F(GraphOfACurve, HasTheGridLinesOfItsStyle) {
+  struct Row {
+    Integer style;
+    bool x;
+    bool y;
+  };
+  for (const Row& row : {Row{0, false, false}, Row{1, false, true}, Row{2, true, false}, Row{3, true, true}}) {
+    program.graph.GridStyle = row.style;
+
+    window.GraphInit(1);
+
+    EXPECT_EQ(window.graph1.AxisX().grid, row.x) << row.style;
+    EXPECT_EQ(window.graph1.AxisY().grid, row.y) << row.style;
+  }
+}
+
+TEST_F(GraphOfACurve, DrawsTheFilledColumnsOnly) {
+  window.ShowCurve(1);
+
+  ASSERT_THAT(window.graph1.Series(), SizeIs(1));
+  EXPECT_THAT(Drawn().x, ElementsAre(200, 240, 280.5));
+  EXPECT_THAT(Drawn().y, ElementsAre(3.25, 4.125, static_cast<double>(5.005F)));
+}
+
+TEST_F(GraphOfACurve, DrawsColumnsThatWereLeftEmptyAsZeroWhenTheyCount) {
+  program.curve.CurvePointCount = 4;
+
+  window.ShowCurve(1);
+
+  EXPECT_THAT(Drawn().x, ElementsAre(200, 240, 280.5, 0));
+  EXPECT_EQ(Drawn().y.back(), 0);
+}
+
+TEST_F(GraphOfACurve, WithoutAPointIsEmpty) {
+  program.curve.CurvePointCount = 0;
+
+  window.ShowCurve(1);
+
+  ASSERT_THAT(window.graph1.Series(), SizeIs(1));
+  EXPECT_THAT(Drawn().x, IsEmpty());
+  EXPECT_THAT(Drawn().y, IsEmpty());
+}
+
+TEST_F(GraphOfACurve, FailsForMorePointsThanThereAreColumns) {
+  program.curve.CurvePointCount = 5;
+
+  EXPECT_EQ(ErrorNumberOf([&] { window.ShowCurve(1); }), 9);
+}
+
+TEST_F(GraphOfACurve, IsABlueLineOfTheStoredWidth) {
+  program.graph.SymbolSize = 9;
+
+  window.ShowCurve(1);
+
+  EXPECT_EQ(Drawn().colour, 16711680);
+  EXPECT_EQ(Drawn().width, 9);
+  EXPECT_EQ(Drawn().symbolSize, 9);
+}
+
+TEST_F(GraphOfACurve, ShowsLinesAndSymbolsByItsStyle) {
+  struct Row {
+    Integer style;
+    bool line;
+    bool symbols;
+  };
+  for (const Row& row : {Row{1, true, false}, Row{2, false, true}, Row{3, true, true}}) {
+    program.graph.GraphStyle = row.style;
+
+    window.ShowCurve(1);
+
+    EXPECT_EQ(Drawn().hasLine, row.line) << row.style;
+    EXPECT_EQ(Drawn().hasSymbols, row.symbols) << row.style;
+  }
+}
+
+TEST_F(GraphOfACurve, HasALegendThatTellsEntriesFromIntersections) {
+  window.ShowCurve(3);
+  EXPECT_EQ(Drawn().legend, "Sug.PSUP");
+
+  window.ShowCurve(4);
+  EXPECT_EQ(Drawn().legend, "Rock Load Straights");
+
+  window.ShowCurve(9);
+  EXPECT_EQ(Drawn().legend, "Rock Load Intersections");
+}
+
+TEST_F(GraphOfACurve, ShowsItsLegendWhenThatIsOn) {
+  window.ShowCurve(1);
+  EXPECT_TRUE(window.graph1.LegendShown());
+
+  program.graph.CurveLegend = 0;
+  window.ShowCurve(1);
+  EXPECT_FALSE(window.graph1.LegendShown());
+}
+
+TEST_F(GraphOfACurve, HasColoursForSixSeries) {
+  window.GraphInit(1);
+  program.curve.CurveCount = 6;
+
+  window.DrawCurve();
+
+  ASSERT_THAT(window.graph1.Series(), SizeIs(6));
+  EXPECT_EQ(window.graph1.Series()[5].colour, 5);
+}
+
+TEST_F(GraphOfACurve, FailsAtTheSeventhSeries) {
+  window.GraphInit(1);
+  program.curve.CurveCount = 7;
+
+  EXPECT_EQ(ErrorNumberOf([&] { window.DrawCurve(); }), 9);
+}
+
+TEST_F(GraphOfACurve, ClearedHasNoSeries) {
+  window.ShowCurve(1);
+
+  window.ClearGraph();
+
+  EXPECT_THAT(window.graph1.Series(), IsEmpty());
+  EXPECT_EQ(program.curve.CurveCount, 0);
+}
+
+TEST_F(GraphOfACurve, ReadsOffThePointUnderThePointer) {
+  window.ShowCurve(1);
+  window.GraphOptionsItem.ClickItem(PointID);
+
+  Point(1, 3.9);
+
+  EXPECT_THAT(ReadOut(), ElementsAre("240.00", "4.13", "Sug.PSUP"));
+}
+
+TEST_F(GraphOfACurve, RoundsTheDigitsThatAreShownEverywhereElse) {
+  window.ShowCurve(1);
+  window.GraphOptionsItem.ClickItem(PointID);
+
+  Point(2, 0);
+
+  EXPECT_THAT(ReadOut(), ElementsAre("280.50", "5.01", "Sug.PSUP"));
+}
+
+TEST_F(GraphOfACurve, CallsBothRockLoadsTheSameInTheReadOut) {
+  for (const Integer index : {Integer{4}, Integer{9}}) {
+    window.ShowCurve(index);
+    if (!window.Frame1.Visible()) window.GraphOptionsItem.ClickItem(PointID);
+
+    Point(0, 0);
+
+    EXPECT_EQ(window.lblCurve.Caption(), "RockLoad") << index;
+  }
+}
+
+TEST_F(GraphOfACurve, ReadsNothingOffUntilAskedTo) {
+  window.ShowCurve(1);
+
+  Point(1, 0);
+
+  EXPECT_THAT(ReadOut(), ElementsAre("", "", ""));
+}
+
+TEST_F(GraphOfACurve, KeepsTheReadOutAwayFromAPointAndInThePlot) {
+  window.ShowCurve(1);
+  window.GraphOptionsItem.ClickItem(PointID);
+  Point(1, 0);
+
+  Point(2, 4);
+  EXPECT_THAT(ReadOut(), ElementsAre("240.00", "4.13", "Sug.PSUP"));
+
+  Point(-1, 0);
+  Point(3, 0);
+  Point(2, 0, -1);
+  Point(2, 0, 1);
+  EXPECT_THAT(ReadOut(), ElementsAre("240.00", "4.13", "Sug.PSUP"));
+}
+
+TEST_F(GraphOfACurve, KeepsTheReadOutOverAHole) {
+  window.ShowCurve(1);
+  window.GraphOptionsItem.ClickItem(PointID);
+  Point(1, 0);
+  ChartSeries holed = Drawn();
+  holed.y[2] = 1e308;
+  window.graph1.SetSeries({holed});
+
+  Point(2, 0);
+
+  EXPECT_THAT(ReadOut(), ElementsAre("240.00", "4.13", "Sug.PSUP"));
+}
+
+TEST_F(GraphOfACurve, ClearsTheReadOutOutsideThePlot) {
+  window.ShowCurve(1);
+  window.GraphOptionsItem.ClickItem(PointID);
+  Point(1, 0);
+
+  LeaveThePlot();
+
+  EXPECT_THAT(ReadOut(), ElementsAre("", "", ""));
+}
+
+TEST_F(GraphOfACurve, ShowsAndHidesTheReadOut) {
+  window.ShowCurve(1);
+
+  window.GraphOptionsItem.ClickItem(PointID);
+  EXPECT_TRUE(window.GraphOptionsItem.ItemChecked(PointID));
+  EXPECT_TRUE(window.Frame1.Visible());
+
+  window.GraphOptionsItem.ClickItem(PointID);
+  EXPECT_FALSE(window.GraphOptionsItem.ItemChecked(PointID));
+  EXPECT_FALSE(window.Frame1.Visible());
+}
+
+TEST_F(GraphOfACurve, OpensAnewWithoutTheReadOut) {
+  window.ShowCurve(1);
+  window.GraphOptionsItem.ClickItem(PointID);
+  Point(1, 0);
+  window.Close();
+
+  window.ShowCurve(1);
+
+  EXPECT_FALSE(window.GraphOptionsItem.ItemChecked(PointID));
+  EXPECT_FALSE(window.Frame1.Visible());
+  EXPECT_THAT(ReadOut(), ElementsAre("", "", ""));
+  EXPECT_FALSE(program.curve.GraphClosed);
+}
+
+TEST_F(GraphOfACurve, IsPrintedOnThePrinterChosen) {
+  window.ShowCurve(1);
+
+  window.GraphFileItem.ClickItem(Print);
+
+  EXPECT_EQ(platform.printer.chosen, 1);
+  EXPECT_EQ(platform.printer.printedChart, "graph1");
+  EXPECT_EQ(program.history.Text, "1. Printing Graph\r\n");
+}
+
+TEST_F(GraphOfACurve, IsNotPrintedWhenThePrinterDialogIsCancelled) {
+  window.ShowCurve(1);
+  platform.printer.error = error_number::Cancelled;
+
+  window.GraphFileItem.ClickItem(Print);
+
+  EXPECT_EQ(platform.printer.printedChart, "");
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  EXPECT_EQ(program.history.Text, "1. Cancel was selected.\r\n");
+}
+
+TEST_F(GraphOfACurve, OffersToTryAPrinterThatFailsAgain) {
+  window.ShowCurve(1);
+  platform.printer.error = error_number::Printer;
+  platform.boxes.answers = {box_result::Retry, box_result::Cancel};
+
+  window.GraphFileItem.ClickItem(Print);
+
+  EXPECT_EQ(platform.printer.chosen, 2);
+  EXPECT_EQ(platform.printer.printedChart, "");
+  ASSERT_THAT(platform.boxes.shown, SizeIs(2));
+  EXPECT_EQ(platform.boxes.shown[0].text, "Error occurred: Printer error (482)");
+  EXPECT_EQ(platform.boxes.shown[0].style, box_style::RetryCancel);
+  EXPECT_TRUE(window.IsOpen());
+}
+
+TEST_F(GraphOfACurve, IsCopiedAsAPicture) {
+  window.ShowCurve(1);
+
+  window.GraphEditItem.ClickItem(0);
+
+  EXPECT_EQ(platform.clipboard.pictured, "graph1");
+}
+
+TEST_F(GraphOfACurve, IsExportedUnderHeadersBesideItsTitles) {
+  program.graph.GraphTitle = "Panel 3";
+  window.ShowCurve(1);
+
+  window.GraphFileItem.ClickItem(Export);
+
+  EXPECT_THAT(platform.documents.opened, ElementsAre("/tmp/orby/ORBY Suggested PSUP vs Depth of Cover.xlsx"));
+  const Sheet& sheet = platform.documents.sheet;
+  EXPECT_EQ(sheet.title, "Panel 3");
+  EXPECT_EQ(sheet.xTitle, "Depth of Cover (ft)");
+  EXPECT_EQ(sheet.yTitle, "Suggested PSUP");
+  ASSERT_THAT(sheet.series, SizeIs(1));
+  EXPECT_EQ(sheet.series[0].xHeader, "X-coord");
+  EXPECT_EQ(sheet.series[0].yHeader, "Sug.PSUP");
+  EXPECT_THAT(sheet.series[0].x, ElementsAre(200, 240, 280.5));
+  EXPECT_THAT(sheet.series[0].y, ElementsAre(3.25, 4.125, static_cast<double>(5.005F)));
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Exported 1 Curve"));
+}
+
+TEST_F(GraphOfACurve, OfTwentyTwoPointsExportsAllOfThem) {
+  program.curve.CurvePoints[0].assign(24, 30);
+  program.curve.CurvePoints[1].assign(24, 8.5F);
+  program.curve.CurvePointCount = 22;
+  window.ShowCurve(6);
+
+  window.GraphFileItem.ClickItem(Export);
+
+  ASSERT_THAT(platform.documents.sheet.series, SizeIs(1));
+  EXPECT_THAT(platform.documents.sheet.series[0].x, SizeIs(22));
+  EXPECT_THAT(platform.documents.sheet.series[0].y, SizeIs(22));
+  EXPECT_EQ(platform.documents.sheet.series[0].yHeader, "RockLoad");
+}
+
+TEST_F(GraphOfACurve, ExportsEverySeries) {
+  window.GraphInit(8);
+  program.curve.CurveCount = 2;
+  window.DrawCurve();
+
+  window.GraphFileItem.ClickItem(Export);
+
+  ASSERT_THAT(platform.documents.sheet.series, SizeIs(2));
+  EXPECT_EQ(platform.documents.sheet.series[1].xHeader, "X-coord");
+  EXPECT_EQ(platform.documents.sheet.series[1].yHeader, "RockLoad");
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Exported 2 Curves"));
+}
+
+TEST_F(GraphOfACurve, AsksBeforeTheExportWhenItIsToAsk) {
+  program.options.AskOfficeInstall = 0;
+  platform.boxes.answers = {box_result::Yes};
+  window.ShowCurve(1);
+
+  window.GraphFileItem.ClickItem(Export);
+
+  ASSERT_THAT(platform.boxes.shown, SizeIs(2));
+  EXPECT_EQ(platform.boxes.shown[0].text,
+            "This option will only work if Microsoft Excel is installed on this computer. Proceed?");
+  EXPECT_EQ(platform.boxes.shown[0].style, box_style::YesNo);
+  EXPECT_THAT(platform.documents.opened, SizeIs(1));
+}
+
+TEST_F(GraphOfACurve, IsNotExportedAfterANo) {
+  program.options.AskOfficeInstall = 0;
+  platform.boxes.answers = {box_result::No};
+  window.ShowCurve(1);
+
+  window.GraphFileItem.ClickItem(Export);
+
+  EXPECT_THAT(platform.documents.opened, IsEmpty());
+  EXPECT_THAT(platform.boxes.shown, SizeIs(1));
+}
+
+TEST_F(GraphOfACurve, TellsOfASpreadsheetThatCannotBeOpened) {
+  platform.documents.opens = false;
+  window.ShowCurve(0);
+
+  window.GraphFileItem.ClickItem(Export);
+
+  ASSERT_THAT(platform.boxes.shown, SizeIs(1));
+  EXPECT_THAT(platform.boxes.shown[0].text, testing::HasSubstr("/tmp/orby/ORBY Suggested PSUP vs CMRR.xlsx (429)"));
+  EXPECT_THAT(platform.boxes.shown[0].text, testing::EndsWith(". Procedure Terminated"));
+  EXPECT_TRUE(window.IsOpen());
+}
+
+TEST_F(GraphOfACurve, ClosesByItsMenu) {
+  window.ShowCurve(1);
+
+  window.GraphFileItem.ClickItem(Exit);
+
+  EXPECT_FALSE(window.IsOpen());
+  EXPECT_TRUE(program.curve.GraphClosed);
+}
+
+TEST_F(GraphOfACurve, KeepsWhatWasEditedInTheChartWhenItCloses) {
+  window.ShowCurve(5);
+  window.graph1.SetHeading("Tailgate");
+  window.graph1.SetAxisX({"Width of the entry", true});
+  window.graph1.SetAxisY({"Load", false});
+  window.graph1.SetLegendShown(false);
+  ChartSeries series = Drawn();
+  series.symbolSize = 12;
+  window.graph1.SetSeries({series});
+
+  window.Close();
+
+  EXPECT_EQ(program.graph.GraphTitle, "Tailgate");
+  EXPECT_EQ(program.graph.XAxisTitle[5], "Width of the entry");
+  EXPECT_EQ(program.graph.XAxisTitle[4], "Rock Load Height (ft)");
+  EXPECT_EQ(program.graph.YAxisTitle[1], "Load");
+  EXPECT_EQ(program.graph.YAxisTitle[2], "Rock Load Intersections (tons)");
+  EXPECT_EQ(program.graph.GridStyle, 2);
+  EXPECT_EQ(program.graph.CurveLegend, 0);
+  EXPECT_EQ(program.graph.SymbolSize, 12);
+}
+
+TEST_F(GraphOfACurve, StoresEachGridStyleAsItIsDrawn) {
+  for (Integer style = 0; style <= 3; ++style) {
+    program.graph.GridStyle = style;
+    window.ShowCurve(1);
+    program.graph.GridStyle = -1;
+
+    window.Close();
+
+    EXPECT_EQ(program.graph.GridStyle, style);
+  }
+}
+
+TEST_F(GraphOfACurve, ClearedKeepsTheSymbolSizeWhenItCloses) {
+  program.graph.SymbolSize = 8;
+  window.ShowCurve(1);
+  window.ClearGraph();
+
+  window.Close();
+
+  EXPECT_EQ(program.graph.SymbolSize, 8);
+}
+
+TEST_F(GraphOfACurve, KeepsTheTitleOfTheCurveOnViewWhenAnotherCannotBeSwept) {
+  window.ShowCurve(1);
+  window.graph1.SetAxisX({"Cover above the seam", true});
+  program.WorkParmsCopy.CMRR = 45;
+  program.WorkParmsCopy.DepthofCover = 400;
+  program.WorkParmsCopy.ActualSpanDiagonals = 60;
+  program.WorkParmsCopy.StabilityFactor = 2e38F;
+  ASSERT_EQ(ErrorNumberOf([&] { GenerateCurve(program, 2); }), 6);
+
+  window.Close();
+
+  EXPECT_EQ(program.graph.XAxisTitle[1], "Cover above the seam");
+  EXPECT_EQ(program.graph.XAxisTitle[2], "Stability Factor");
+}
+
+TEST_F(GraphOfACurve, OpensItsOptionsOnTheChartAsItIs) {
+  window.ShowCurve(1);
+  window.graph1.SetHeading("Tailgate");
+  std::string asked;
+  platform.windows.onModal = [&](Form& form) {
+    asked = form.Name();
+    EXPECT_TRUE(form.IsOpen());
+    EXPECT_EQ(program.graph.GraphTitle, "Tailgate");
+  };
+
+  window.GraphOptionsItem.ClickItem(BasicOptions);
+
+  EXPECT_EQ(asked, "frmGraphOpt");
+  EXPECT_EQ(platform.windows.modalForms, 1);
+}
+
+}  // namespace
+}  // namespace orby::test

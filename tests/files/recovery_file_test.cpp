@@ -1,0 +1,259 @@
+#include "files/recovery_file.h"
+
+#include <gmock/gmock.h>
+#include <rapidcheck.h>
+#include <rapidcheck/gtest.h>
+
+#include "base/arithmetic.h"
+#include "base/number_text.h"
+#include "project_fixture.h"
+#include "saved_fields.h"
+#include "support/test_data.h"
+
+namespace orby::test {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+struct RecoveryFile : testing::Test {
+  RecoveryFile() {
+    FileNew(project.program, false, true);
+    project.program.FileSaved = false;
+    project.program.FileEmpty = false;
+  }
+
+  std::string Bytes() const { return RecoveryBytes(CommittedProject(project.program)); }
+
+  TestProject project;
+};
+
+TEST_F(RecoveryFile, OpensWithItsLabelTheProjectAndItsChoices) {
+  project.program.Units = Metric;
+  project.program.BoltStrengthMode = 1;
+  project.program.UseAUSStandardTable = 1;
+  project.program.ProjectTitle = "Panel 3";
+  project.program.ProjectDescription = "Belt entry\r\nsouth";
+  project.program.UnitsLocked = true;
+
+  const std::string bytes = Bytes();
+
+  EXPECT_THAT(bytes, StartsWith("ORBY_RECOVERY_1\r\n"
+                                "CurrentFile=/designs/panel3.orb\r\n"
+                                "Units=1\r\n"
+                                "BoltStrengthMode=1\r\n"
+                                "UseAUSStandardTable=1\r\n"
+                                "ProjectTitle=Panel 3\r\n"
+                                "ProjectDescription=Belt entry\\r\\nsouth\r\n"
+                                "FileEmpty=0\r\n"
+                                "UnitsLocked=1\r\n"
+                                "45\r\n"));
+}
+
+TEST_F(RecoveryFile, GoesOnWithTheDataLinesOfTheProjectFile) {
+  ASSERT_TRUE(project.Save());
+  const std::string& file = project.File();
+  const std::string dataLines = file.substr(file.find("##EndDesc##\r\n") + 13);
+
+  const std::string bytes = Bytes();
+
+  EXPECT_TRUE(bytes.ends_with("UnitsLocked=0\r\n" + dataLines));
+}
+
+TEST_F(RecoveryFile, TakesAnEditedDesignAsItsCommitWould) {
+  project.program.FileEmpty = true;
+  ProjectRecord design = project.program.WorkParms;
+  design.DepthofCover = 725;
+
+  const UnsavedProject edited = EditedProject(project.program, design);
+
+  EXPECT_EQ(edited.WorkParms.DepthofCover, 725);
+  EXPECT_FALSE(edited.FileEmpty);
+  EXPECT_TRUE(edited.UnitsLocked);
+  EXPECT_EQ(project.program.WorkParms.DepthofCover, 400);
+}
+
+TEST_F(RecoveryFile, BringsTheModeOfTheIntersectionsStandingSupportBackIntoItsOwnField) {
+  project.program.WorkParms.SupportTypeModeSecEntry = 0;
+  project.program.WorkParms.SupportTypeModeSecInter = 1;
+
+  const auto read = ReadRecovery(Bytes());
+
+  ASSERT_TRUE(read.has_value());
+  EXPECT_EQ(read->WorkParms.SupportTypeModeSecEntry, 0);
+  EXPECT_EQ(read->WorkParms.SupportTypeModeSecInter, 1);
+}
+
+TEST_F(RecoveryFile, KeepsCommasAndQuotesOfABoltDescription) {
+  project.program.WorkParms.BoltDescPrimary = "  #6, 3/4\" \"forged\", 5' long\\";
+
+  const auto read = ReadRecovery(Bytes());
+
+  ASSERT_TRUE(read.has_value());
+  EXPECT_EQ(read->WorkParms.BoltDescPrimary, "  #6, 3/4\" \"forged\", 5' long\\");
+}
+
+TEST_F(RecoveryFile, IsUtf8EvenWhereTheCodePageWouldDo) {
+  project.program.ProjectTitle =
+      "Gr\xC3\xBC"
+      "n";
+
+  EXPECT_THAT(Bytes(), HasSubstr("ProjectTitle=Gr\xC3\xBC"
+                                 "n\r\n"));
+}
+
+TEST_F(RecoveryFile, KeepsAPathThatIsNotUtf8) {
+  project.program.CurrentFile =
+      "/designs/gr\xFC"
+      "n.orb";
+
+  const auto read = ReadRecovery(Bytes());
+
+  ASSERT_TRUE(read.has_value());
+  EXPECT_EQ(read->CurrentFile,
+            "/designs/gr\xFC"
+            "n.orb");
+}
+
+TEST_F(RecoveryFile, RestoresAnUnsavedProjectUnderItsOldName) {
+  project.program.ProjectTitle = "Panel 3";
+  project.program.ProjectDescription = "\r\n  a line, kept as it is\r\n\r\n";
+  project.program.WorkParms.DepthofCover = 725;
+  project.program.UnitsLocked = true;
+  const auto read = ReadRecovery(Bytes());
+  ASSERT_TRUE(read.has_value());
+  TestProject next;
+  FileNew(next.program, true, true);
+
+  RestoreProject(next.program, *read);
+
+  EXPECT_EQ(next.program.CurrentFile, "/designs/panel3.orb");
+  EXPECT_EQ(next.program.ProjectTitle, "Panel 3");
+  EXPECT_EQ(next.program.ProjectDescription, "\r\n  a line, kept as it is\r\n\r\n");
+  EXPECT_EQ(next.program.WorkParms.DepthofCover, 725);
+  EXPECT_FALSE(next.program.FileSaved);
+  EXPECT_FALSE(next.program.FileEmpty);
+  EXPECT_TRUE(next.program.UnitsLocked);
+}
+
+TEST(RecoveryFileOnDisk, IsReadWholeAndWrittenAlike) {
+  const std::string bytes = ReadTestData("recovery/panel3.tmp");
+
+  const auto project = ReadRecovery(bytes);
+
+  ASSERT_TRUE(project.has_value());
+  EXPECT_EQ(project->CurrentFile, "/designs/panel3.orb");
+  EXPECT_EQ(project->ProjectTitle, "Panel 3");
+  EXPECT_EQ(project->ProjectDescription, "Weak roof\r\nunder the \\ north mains");
+  EXPECT_TRUE(project->UnitsLocked);
+  EXPECT_EQ(project->WorkParms.CMRR, 25);
+  EXPECT_EQ(project->WorkParms.DepthofCover, 1200);
+  EXPECT_EQ(RecoveryBytes(*project), bytes);
+}
+
+struct Damage {
+  const char* name;
+  const char* from;
+  const char* to;
+};
+
+class DamagedRecoveryFile : public testing::TestWithParam<Damage> {};
+
+TEST_P(DamagedRecoveryFile, IsNotRead) {
+  TestProject project;
+  FileNew(project.program, false, true);
+  std::string bytes = RecoveryBytes(CommittedProject(project.program));
+  const std::size_t at = bytes.find(GetParam().from);
+  ASSERT_NE(at, std::string::npos);
+  bytes.replace(at, std::string_view(GetParam().from).size(), GetParam().to);
+
+  EXPECT_FALSE(ReadRecovery(bytes).has_value());
+}
+
+INSTANTIATE_TEST_SUITE_P(Damages, DamagedRecoveryFile,
+                         testing::Values(Damage{"AnotherLabel", "ORBY_RECOVERY_1", "ORBY_105"},
+                                         Damage{"AnotherKey", "Units=", "System="},
+                                         Damage{"UnknownUnits", "Units=0", "Units=2"},
+                                         Damage{"NoFlag", "FileEmpty=1", "FileEmpty=2"},
+                                         Damage{"NumberWithALetter", "\r\n400\r\n", "\r\n4x0\r\n"},
+                                         Damage{"NumberBeyondAnInteger", "\r\n45\r\n", "\r\n32768\r\n"},
+                                         Damage{"NumberBeyondASingle", "\r\n400\r\n", "\r\n4E+39\r\n"},
+                                         Damage{"LineMissing", "\r\n400\r\n", "\r\n"},
+                                         Damage{"LineTooMany", "\r\n400\r\n", "\r\n400\r\n\r\n"},
+                                         Damage{"LineEndOfAnotherSystem", "\r\n400\r\n", "\n400\n"},
+                                         Damage{"TextOfAnotherEncoding", "ProjectTitle=", "ProjectTitle=\xFC"},
+                                         Damage{"EscapeOfNothing", "ProjectTitle=", "ProjectTitle=\\x"}),
+                         [](const testing::TestParamInfo<Damage>& damage) { return damage.param.name; });
+
+TEST_F(RecoveryFile, CutShortAnywhereIsNotRead) {
+  const std::string bytes = Bytes();
+
+  for (std::size_t length = 0; length < bytes.size(); ++length) {
+    EXPECT_FALSE(ReadRecovery(std::string_view(bytes).substr(0, length)).has_value()) << length;
+  }
+}
+
+TEST_F(RecoveryFile, WithSomethingBehindItsEndIsNotRead) { EXPECT_FALSE(ReadRecovery(Bytes() + "1\r\n").has_value()); }
+
+// Values with up to seven significant digits: what a user can type and a file keeps.
+rc::Gen<Single> AnySingle() {
+  return rc::gen::map(rc::gen::pair(rc::gen::inRange(-9'999'999, 10'000'000), rc::gen::inRange(-6, 31)),
+                      [](const std::pair<int, int>& parts) {
+                        return ToSingle(TextValue(NumberText(parts.first) + "E" + NumberText(parts.second)));
+                      });
+}
+
+rc::Gen<std::string> AnyText() {
+  const std::vector<std::string> characters{
+      "a", "\\", "r", "n", " ", ",", "\"", "=", "#", "\r", "\n", "\xC3\xBC", "\xE2\x82\xAC", "\xE4\xB8\xAD"};
+  return rc::gen::map(rc::gen::container<std::vector<std::string>>(rc::gen::elementOf(characters)),
+                      [](const std::vector<std::string>& parts) {
+                        std::string text;
+                        for (const auto& part : parts) text += part;
+                        return text;
+                      });
+}
+
+UnsavedProject AnyProject() {
+  UnsavedProject project;
+  for (std::string* text : {&project.CurrentFile, &project.ProjectTitle, &project.ProjectDescription}) {
+    *text = *AnyText();
+  }
+  project.Units = *rc::gen::element(English, Metric);
+  project.BoltStrengthMode = *rc::gen::arbitrary<Integer>();
+  project.UseAUSStandardTable = *rc::gen::arbitrary<Integer>();
+  project.FileEmpty = *rc::gen::arbitrary<bool>();
+  project.UnitsLocked = *rc::gen::arbitrary<bool>();
+  for (const auto& saved : SavedFields) {
+    if (const auto* integer = std::get_if<IntegerField>(&saved.field)) {
+      project.WorkParms.** integer = *rc::gen::arbitrary<Integer>();
+    } else if (const auto* single = std::get_if<SingleField>(&saved.field)) {
+      project.WorkParms.** single = *AnySingle();
+    } else {
+      project.WorkParms.*std::get<TextField>(saved.field) = *AnyText();
+    }
+  }
+  return project;
+}
+
+RC_GTEST_PROP(RecoveryRoundTrip, AnyProjectComesBackAsItWas, ()) {
+  const UnsavedProject project = AnyProject();
+
+  const auto read = ReadRecovery(RecoveryBytes(project));
+
+  RC_ASSERT(read.has_value());
+  RC_ASSERT(read->CurrentFile == project.CurrentFile);
+  RC_ASSERT(read->Units == project.Units);
+  RC_ASSERT(read->BoltStrengthMode == project.BoltStrengthMode);
+  RC_ASSERT(read->UseAUSStandardTable == project.UseAUSStandardTable);
+  RC_ASSERT(read->ProjectTitle == project.ProjectTitle);
+  RC_ASSERT(read->ProjectDescription == project.ProjectDescription);
+  RC_ASSERT(read->FileEmpty == project.FileEmpty);
+  RC_ASSERT(read->UnitsLocked == project.UnitsLocked);
+  for (const auto& saved : SavedFields) {
+    if (ValueText(read->WorkParms, saved.field) != ValueText(project.WorkParms, saved.field)) RC_FAIL(saved.name);
+  }
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,133 @@
+// Closing the main window, with each answer of the user.
+
+#include "main_window_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+struct Closing : MainWindowTest {
+  void Exit() { window.mnuFileItem.ClickItem(file_item::Exit); }
+};
+
+TEST_F(Closing, ASavedProjectAsksNothing) {
+  OpenByDialog(Panel3);
+  platform.boxes.shown.clear();
+
+  Exit();
+
+  EXPECT_FALSE(window.IsOpen());
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(Closing, AnUnsavedProjectAsks) {
+  EditPanel3();
+  platform.boxes.answers = {box_result::Cancel};
+
+  Exit();
+
+  ASSERT_EQ(platform.boxes.shown.size(), 1U);
+  EXPECT_EQ(platform.boxes.shown.front().text, "Save changes to: /designs/panel3.orb?");
+  EXPECT_EQ(platform.boxes.shown.front().style, 35);
+}
+
+TEST_F(Closing, IsStoppedByCancel) {
+  EditPanel3();
+  platform.boxes.answers = {box_result::Cancel};
+
+  Exit();
+
+  EXPECT_TRUE(window.IsOpen());
+  EXPECT_FALSE(program.FileSaved);
+}
+
+TEST_F(Closing, WithoutSavingIsANo) {
+  EditPanel3();
+  platform.boxes.answers = {box_result::No};
+
+  Exit();
+
+  EXPECT_FALSE(window.IsOpen());
+  EXPECT_EQ(FileAt(Panel3), DesignAt(725));
+}
+
+TEST_F(Closing, SavesOnYes) {
+  EditPanel3();
+  platform.boxes.answers = {box_result::Yes};
+
+  Exit();
+
+  EXPECT_FALSE(window.IsOpen());
+  EXPECT_NE(FileAt(Panel3), DesignAt(725));
+  EXPECT_THAT(FileAt(Panel3), HasSubstr("\r\n800\r\n"));
+}
+
+TEST_F(Closing, AsksAnUntitledProjectForItsName) {
+  program.FileSaved = false;
+  platform.boxes.answers = {box_result::Yes};
+  platform.fileDialogs.answers = {"/designs/new.orb"};
+
+  Exit();
+
+  EXPECT_FALSE(window.IsOpen());
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Save changes to: Untitled?"));
+  EXPECT_EQ(FileAt("/designs/new.orb"), DesignAt(400));
+  EXPECT_EQ(program.recentFiles.Entries[0].LastFileLong, "/designs/new.orb");
+  EXPECT_THAT(FileAt(IniPath), HasSubstr("LastFileLong1=/designs/new.orb\r\n"));
+}
+
+TEST_F(Closing, IsStoppedWhenTheNameIsNotGiven) {
+  program.FileSaved = false;
+  platform.boxes.answers = {box_result::Yes};
+
+  Exit();
+
+  EXPECT_TRUE(window.IsOpen());
+}
+
+TEST_F(Closing, IsStoppedByASaveThatFails) {
+  EditPanel3();
+  platform.boxes.answers = {box_result::Yes, box_result::Cancel};
+  platform.files.Fail(MemoryFiles::Step::Create, error_number::DiskFull);
+
+  Exit();
+
+  EXPECT_TRUE(window.IsOpen());
+  EXPECT_FALSE(program.FileSaved);
+}
+
+TEST_F(Closing, AsksForAnUnsavedProjectThoughItIsEmpty) {
+  program.FileSaved = false;
+  program.FileEmpty = true;
+  platform.boxes.answers = {box_result::Cancel};
+
+  EXPECT_FALSE(window.MayClose());
+}
+
+TEST_F(Closing, WritesTheRecentFilesAndNothingElse) {
+  OpenByDialog(Panel3);
+  platform.files.files.erase(IniPath);
+
+  Exit();
+
+  EXPECT_EQ(FileAt(IniPath),
+            "[FileMenu]\r\nMaxLastFiles=1\r\nLastFile1=/designs/panel3.orb\r\nLastFileMode1=1\r\n"
+            "LastFileLong1=/designs/panel3.orb\r\n");
+}
+
+TEST_F(Closing, LeavesNothingToRecover) {
+  EditPanel3();
+  window.mnuEditItem.ClickItem(edit_item::Parameters);
+  ASSERT_TRUE(Exists(RecoveryPath));
+  platform.boxes.answers = {box_result::No};
+
+  Exit();
+
+  EXPECT_FALSE(Exists(RecoveryPath));
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,102 @@
+// A save that fails at any of its steps: the program lives on, says what happened, and saves when asked again.
+
+#include "main_window_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using Step = MemoryFiles::Step;
+
+struct FailingStep {
+  const char* name;
+  Step step;
+  int after;  // steps of the kind that succeed first
+};
+
+// The user makes room on the disk while the box is up, then answers it.
+class MendingBoxes : public MessageBoxes {
+ public:
+  explicit MendingBoxes(MemoryFiles& files) : files_(files) {}
+
+  int Show(const MessageBox& box) override {
+    constexpr int Never = 1'000'000;
+    texts.push_back(box.text);
+    for (const Step step : {Step::Create, Step::Write, Step::Close}) files_.Fail(step, error_number::DiskFull, Never);
+    return answer;
+  }
+
+  std::vector<std::string> texts;
+  int answer = box_result::Retry;
+
+ private:
+  MemoryFiles& files_;
+};
+
+class SaveThatFails : public testing::TestWithParam<FailingStep> {
+ protected:
+  static Program Started(RecordingPlatform& platform, MessageBoxes& boxes) {
+    Program program(platform.DoorsWith(boxes));
+    program.folders.ProgramTemporary = TemporaryFolder;
+    program.IniFilePath = IniPath;
+    program.options.ShowInputScreenOnLoad = 0;
+    StartApart(program, nullptr);
+    return program;
+  }
+
+  SaveThatFails() {
+    window.Open();
+    program.CurrentFile = Panel3;
+    program.ProjectTitle = "Panel 3";
+    platform.windows.onModal = [](Form& form) {
+      dynamic_cast<TextBox&>(*form.Find("txtDepthofCover")).SetText("810");
+      dynamic_cast<Button&>(*form.Find("Command2")).Press();
+    };
+    window.mnuEditItem.ClickItem(edit_item::Parameters);
+    platform.files.Fail(GetParam().step, error_number::DiskFull, GetParam().after);
+  }
+
+  RecordingPlatform platform;
+  MendingBoxes boxes{platform.files};
+  Program program = Started(platform, boxes);
+  MainWindow window{program};
+};
+
+TEST_P(SaveThatFails, CompletesOnRetry) {
+  window.mnuFileItem.ClickItem(file_item::Save);
+
+  EXPECT_THAT(boxes.texts, ElementsAre("Error occurred: Disk full (61)"));
+  EXPECT_TRUE(program.FileSaved);
+  EXPECT_EQ(platform.files.files[Panel3], ProjectFileBytes(program));
+  EXPECT_THAT(platform.files.files[Panel3], HasSubstr("\r\n810\r\n"));
+  EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb");
+  EXPECT_FALSE(platform.windows.waitCursor);
+  EXPECT_FALSE(platform.files.files.contains(RecoveryPath));
+}
+
+TEST_P(SaveThatFails, LeavesAnUnsavedProjectThatIsSavedLater) {
+  boxes.answer = box_result::Cancel;
+  window.mnuFileItem.ClickItem(file_item::Save);
+
+  EXPECT_FALSE(program.FileSaved);
+  EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb*");
+  EXPECT_FALSE(platform.windows.waitCursor);
+  EXPECT_TRUE(platform.files.files.contains(RecoveryPath)) << "killed now, nothing would be lost";
+
+  window.mnuFileItem.ClickItem(file_item::Save);
+
+  EXPECT_TRUE(program.FileSaved);
+  EXPECT_EQ(platform.files.files[Panel3], ProjectFileBytes(program));
+}
+
+INSTANTIATE_TEST_SUITE_P(Steps, SaveThatFails,
+                         testing::Values(FailingStep{"Create", Step::Create, 0},
+                                         FailingStep{"WriteOfTheHeader", Step::Write, 0},
+                                         FailingStep{"WriteOfTheDescription", Step::Write, 1},
+                                         FailingStep{"WriteOfTheData", Step::Write, 2},
+                                         FailingStep{"Close", Step::Close, 0}),
+                         [](const testing::TestParamInfo<FailingStep>& step) { return step.param.name; });
+
+}  // namespace
+}  // namespace orby::test

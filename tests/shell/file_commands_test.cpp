@@ -1,0 +1,299 @@
+// The commands of the File menu and what they leave behind.
+
+#include "main_window_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+using Step = MemoryFiles::Step;
+
+struct FileMenu : MainWindowTest {
+  void Choose(Integer item) { window.mnuFileItem.ClickItem(item); }
+};
+
+// ---- New ------------------------------------------------------------------------------------------------------------
+
+TEST_F(FileMenu, NewBeginsAnUntitledDesignWithoutAQuestion) {
+  EditPanel3();
+
+  Choose(file_item::New);
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  EXPECT_EQ(program.CurrentFile, "Untitled");
+  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_TRUE(program.FileSaved);
+  EXPECT_TRUE(program.FileEmpty);
+  EXPECT_FALSE(program.UnitsLocked);
+  EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: Untitled");
+}
+
+TEST_F(FileMenu, NewLeavesNothingToRecover) {
+  EditPanel3();
+  window.mnuEditItem.ClickItem(edit_item::Parameters);
+  ASSERT_TRUE(Exists(RecoveryPath));
+
+  Choose(file_item::New);
+
+  EXPECT_FALSE(Exists(RecoveryPath));
+}
+
+TEST_F(FileMenu, NewShowsTheParametersWhenTheOptionsWantIt) {
+  program.options.ShowInputScreenOnLoad = 1;
+
+  Choose(file_item::New);
+
+  EXPECT_EQ(platform.windows.modalForms, 1);
+}
+
+// ---- Open -----------------------------------------------------------------------------------------------------------
+
+TEST_F(FileMenu, OpenTakesTheChosenFile) {
+  OpenByDialog(Panel3);
+
+  EXPECT_EQ(program.PreviousFile, "Untitled");
+  EXPECT_EQ(program.WorkParms.DepthofCover, 725);
+  EXPECT_TRUE(program.FileSaved);
+  EXPECT_FALSE(program.FileEmpty);
+  EXPECT_TRUE(program.UnitsLocked);
+  EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb");
+  EXPECT_EQ(window.mnuFileArray.Caption(1), Panel3);
+  EXPECT_TRUE(window.mnuFileArray.ItemVisible(0));
+  EXPECT_TRUE(window.mnuFileArray.ItemVisible(1));
+  EXPECT_EQ(platform.windows.modalForms, 0);
+}
+
+TEST_F(FileMenu, OpenShowsTheParametersWhenTheOptionsWantIt) {
+  program.options.ShowInputScreenOnLoad = 1;
+
+  OpenByDialog(Panel3);
+
+  EXPECT_EQ(platform.windows.modalForms, 1);
+}
+
+TEST_F(FileMenu, OpenWritesTheRecentFilesAtOnce) {
+  OpenByDialog(Panel3);
+
+  EXPECT_THAT(FileAt(IniPath), HasSubstr("LastFileLong1=/designs/panel3.orb\r\n"));
+}
+
+TEST_F(FileMenu, OpenThatIsCancelledChangesNothing) {
+  EditPanel3();
+
+  Choose(file_item::Open);
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  EXPECT_EQ(program.CurrentFile, Panel3);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 800);
+  EXPECT_FALSE(program.FileSaved);
+}
+
+TEST_F(FileMenu, OpenAsksToSaveTheProjectBefore) {
+  EditPanel3();
+  platform.boxes.answers = {box_result::Yes};
+
+  OpenByDialog(Panel4);
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Save changes to: /designs/panel3.orb?"));
+  EXPECT_THAT(FileAt(Panel3), HasSubstr("\r\n800\r\n"));
+  EXPECT_EQ(program.CurrentFile, Panel4);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 980);
+}
+
+TEST_F(FileMenu, OpenGoesOnThoughTheProjectBeforeCannotBeSaved) {
+  EditPanel3();
+  platform.boxes.answers = {box_result::Yes, box_result::Cancel};
+  platform.files.Fail(Step::Create, error_number::DiskFull);
+
+  OpenByDialog(Panel4);
+
+  EXPECT_EQ(program.CurrentFile, Panel4);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 980);
+}
+
+TEST_F(FileMenu, ARefusedFileLeavesANewDesignUnderItsNameAndTheOldCaption) {
+  OpenByDialog(Panel3);
+  platform.files.files["/notes.txt"] = "bolts are in stock\r\n";
+
+  OpenByDialog("/notes.txt");
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid ORBY file format. File can not be opened."));
+  EXPECT_EQ(program.CurrentFile, "/notes.txt");
+  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_TRUE(program.FileSaved);
+  EXPECT_TRUE(program.FileEmpty);
+  EXPECT_FALSE(program.UnitsLocked);
+  EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb");
+  EXPECT_EQ(program.recentFiles.MaxLastFiles, 1);
+}
+
+TEST_F(FileMenu, SaveAfterARefusedFileWritesOverItWithoutAQuestion) {
+  platform.files.files["/notes.txt"] = "bolts are in stock\r\n";
+  OpenByDialog("/notes.txt");
+  platform.boxes.shown.clear();
+
+  Choose(file_item::Save);
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  EXPECT_EQ(FileAt("/notes.txt"), DesignAt(400));
+}
+
+TEST_F(FileMenu, AFileThatCannotBeReadIsToldAndLeft) {
+  platform.boxes.answers = {box_result::Cancel};
+
+  OpenByDialog("/designs/missing.orb");
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error occurred: File not found (53)"));
+  EXPECT_EQ(platform.boxes.shown.front().style, 5);
+  EXPECT_FALSE(platform.windows.waitCursor);
+  EXPECT_EQ(program.recentFiles.MaxLastFiles, 0);
+}
+
+TEST_F(FileMenu, OpeningLeavesNothingToRecover) {
+  EditPanel3();
+  window.mnuEditItem.ClickItem(edit_item::Parameters);
+  ASSERT_TRUE(Exists(RecoveryPath));
+  platform.boxes.answers = {box_result::No};
+
+  OpenByDialog(Panel4);
+
+  EXPECT_FALSE(Exists(RecoveryPath));
+}
+
+TEST_F(FileMenu, AFileDroppedOnTheWindowIsOpened) {
+  EditPanel3();
+  platform.boxes.answers = {box_result::No};
+
+  window.Dropped(Panel4);
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Save changes to: /designs/panel3.orb?"));
+  EXPECT_EQ(program.CurrentFile, Panel4);
+  EXPECT_EQ(program.PreviousFile, Panel3);
+  EXPECT_EQ(window.mnuFileArray.Caption(1), Panel4);
+}
+
+// ---- recent files ---------------------------------------------------------------------------------------------------
+
+TEST_F(FileMenu, ARecentFileIsOpenedAgain) {
+  OpenByDialog(Panel3);
+  OpenByDialog(Panel4);
+
+  window.mnuFileArray.ClickItem(2);
+
+  EXPECT_EQ(program.PreviousFile, Panel4);
+  EXPECT_EQ(program.CurrentFile, Panel3);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 725);
+  EXPECT_EQ(window.mnuFileArray.Caption(1), Panel3);
+  EXPECT_EQ(window.mnuFileArray.Caption(2), Panel4);
+}
+
+TEST_F(FileMenu, ARecentFileThatHasGoneStaysInTheList) {
+  OpenByDialog(Panel3);
+  platform.files.files.erase(Panel3);
+  platform.boxes.answers = {box_result::Cancel};
+
+  window.mnuFileArray.ClickItem(1);
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error occurred: File not found (53)"));
+  EXPECT_TRUE(window.mnuFileArray.ItemVisible(1));
+}
+
+TEST_F(FileMenu, TheSeparatorOfTheRecentFilesDoesNothing) {
+  OpenByDialog(Panel3);
+
+  window.mnuFileArray.ClickItem(0);
+
+  EXPECT_EQ(program.PreviousFile, "Untitled");
+}
+
+TEST_F(FileMenu, NothingEntersAListThatIsSwitchedOff) {
+  program.settings.KeepFileNames = 0;
+
+  OpenByDialog(Panel3);
+  Choose(file_item::Save);
+
+  EXPECT_FALSE(window.mnuFileArray.ItemVisible(0));
+  EXPECT_FALSE(Exists(IniPath));
+}
+
+// ---- Save -----------------------------------------------------------------------------------------------------------
+
+TEST_F(FileMenu, SaveWritesTheProjectAndTakesTheStarAway) {
+  OpenByDialog(Panel3);
+  platform.windows.onModal = [](Form& form) {
+    dynamic_cast<TextBox&>(*form.Find("txtDepthofCover")).SetText("800");
+    dynamic_cast<Button&>(*form.Find("Command2")).Press();
+  };
+  window.mnuEditItem.ClickItem(edit_item::Parameters);
+  ASSERT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb*");
+  ASSERT_TRUE(Exists(RecoveryPath));
+
+  Choose(file_item::Save);
+
+  EXPECT_THAT(FileAt(Panel3), HasSubstr("\r\n800\r\n"));
+  EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb");
+  EXPECT_FALSE(Exists(RecoveryPath));
+}
+
+TEST_F(FileMenu, SaveAsTakesTheNewName) {
+  OpenByDialog(Panel3);
+  platform.fileDialogs.answers = {"/designs/copy.orb"};
+
+  Choose(file_item::SaveAs);
+
+  EXPECT_THAT(FileAt("/designs/copy.orb"), HasSubstr("\r\n725\r\n"));
+  EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/copy.orb");
+  EXPECT_EQ(window.mnuFileArray.Caption(1), "/designs/copy.orb");
+  EXPECT_EQ(window.mnuFileArray.Caption(2), Panel3);
+}
+
+TEST_F(FileMenu, SaveAsThatIsCancelledChangesNothing) {
+  EditPanel3();
+
+  Choose(file_item::SaveAs);
+
+  EXPECT_EQ(program.CurrentFile, Panel3);
+  EXPECT_FALSE(program.FileSaved);
+  EXPECT_EQ(program.recentFiles.MaxLastFiles, 1);
+}
+
+struct CaptionPath {
+  const char* path;
+  const char* shown;
+};
+
+class LongPaths : public MainWindowTest, public testing::WithParamInterface<CaptionPath> {};
+
+TEST_P(LongPaths, AreShortenedInTheCaption) {
+  platform.fileDialogs.answers = {GetParam().path};
+
+  window.mnuFileItem.ClickItem(file_item::SaveAs);
+
+  EXPECT_EQ(window.Caption(), std::string("Orby Roof Support Workbench: ") + GetParam().shown);
+}
+
+INSTANTIATE_TEST_SUITE_P(FiftyAndFiftyOneCharacters, LongPaths,
+                         testing::Values(CaptionPath{"/designs/north-mains/2031/panel3/gateroad/last.orb",
+                                                     "/designs/north-mains/2031/panel3/gateroad/last.orb"},
+                                         CaptionPath{"/designs/north-mains/2031/panel3/gateroad/final.orb",
+                                                     "/designs/n...-mains/2031/panel3/gateroad/final.orb"}));
+
+// ---- tool bar -------------------------------------------------------------------------------------------------------
+
+TEST_F(FileMenu, TheToolBarOpensAndSaves) {
+  platform.fileDialogs.answers = {Panel3};
+  window.Toolbar1.ClickItem(tool_button::Open);
+  program.WorkParms.DepthofCover = 800;
+
+  window.Toolbar1.ClickItem(tool_button::Save);
+
+  EXPECT_EQ(program.CurrentFile, Panel3);
+  EXPECT_THAT(FileAt(Panel3), HasSubstr("\r\n800\r\n"));
+  EXPECT_THAT(FileAt(Panel3), StartsWith("ORBY_105\r\n"));
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,118 @@
+// What a run opens by itself once its window is on the screen.
+
+#include "main_window_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+struct FirstFiles : MainWindowTest {
+  void RememberPanel4() {
+    program.settings.LoadLastInputFile = 1;
+    program.recentFiles.MaxLastFiles = 1;
+    program.recentFiles.Entries[0] = {Panel4, 1, Panel4};
+  }
+
+  // Leaves the work of a run that was killed.
+  void Lose() {
+    program.CurrentFile = "/designs/lost.orb";
+    program.WorkParms.DepthofCover = 1234;
+    program.FileSaved = false;
+    window.mnuEditItem.ClickItem(edit_item::Parameters);
+    lost = FileAt(RecoveryPath);
+  }
+
+  std::string lost;
+};
+
+TEST_F(FirstFiles, AreNoneByDefault) {
+  RememberPanel4();
+  program.settings.LoadLastInputFile = 0;
+
+  window.OpenFirstFiles("");
+
+  EXPECT_EQ(program.CurrentFile, "Untitled");
+}
+
+TEST_F(FirstFiles, AreTheLastFileWhenTheSettingsWantIt) {
+  RememberPanel4();
+
+  window.OpenFirstFiles("");
+
+  EXPECT_EQ(program.CurrentFile, Panel4);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 980);
+}
+
+TEST_F(FirstFiles, WithoutAnyRecentFileOpenNothing) {
+  program.settings.LoadLastInputFile = 1;
+
+  window.OpenFirstFiles("");
+
+  EXPECT_EQ(program.CurrentFile, "Untitled");
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(FirstFiles, EndWithTheOneOfTheCommandLine) {
+  RememberPanel4();
+
+  window.OpenFirstFiles("/designs/panel3.orb");
+
+  EXPECT_EQ(program.CurrentFile, Panel3);
+  EXPECT_EQ(program.PreviousFile, Panel4);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 725);
+  EXPECT_EQ(program.recentFiles.Entries[0].LastFile, Panel3);
+  EXPECT_EQ(program.recentFiles.Entries[1].LastFile, Panel4);
+}
+
+TEST_F(FirstFiles, AreToldWhenTheLastFileHasGone) {
+  RememberPanel4();
+  platform.files.files.erase(Panel4);
+  platform.boxes.answers = {box_result::Cancel};
+
+  window.OpenFirstFiles("");
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error occurred: File not found (53)"));
+}
+
+TEST_F(FirstFiles, EndTheRunWhenTheOneOfTheCommandLineIsMissing) {
+  EXPECT_EQ(ErrorNumberOf([&] { window.OpenFirstFiles("/designs/missing.orb"); }), 53);
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(FirstFiles, ComeAfterTheQuestionForLostWork) {
+  Lose();
+  RecordingPlatform restarted;
+  restarted.files.files = platform.files.files;
+  restarted.files.files[RecoveryPath] = lost;
+  Program next = StartedProgram(restarted);
+  MainWindow nextWindow(next);
+  nextWindow.Open();
+  restarted.boxes.answers = {box_result::Yes, box_result::No};
+
+  nextWindow.OpenFirstFiles(Panel3);
+
+  EXPECT_THAT(restarted.boxes.Texts(), ElementsAre("Orby ended unexpectedly. Recover the unsaved project?",
+                                                   "Save changes to: /designs/lost.orb?"));
+  EXPECT_EQ(next.CurrentFile, Panel3);
+}
+
+TEST_F(FirstFiles, BringLostWorkBackAsUnsaved) {
+  Lose();
+  RecordingPlatform restarted;
+  restarted.files.files[RecoveryPath] = lost;
+  Program next = StartedProgram(restarted);
+  MainWindow nextWindow(next);
+  nextWindow.Open();
+  restarted.boxes.answers = {box_result::Yes};
+
+  nextWindow.OpenFirstFiles("");
+
+  EXPECT_EQ(nextWindow.Caption(), "Orby Roof Support Workbench: /designs/lost.orb*");
+  EXPECT_EQ(next.WorkParms.DepthofCover, 1234);
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,249 @@
+// The commands of the Input menu, and what is kept of a design while it is edited.
+
+#include "dialogs/cost_dialog.h"
+#include "dialogs/description_dialog.h"
+#include "dialogs/parameters_dialog.h"
+#include "files/recovery_file.h"
+#include "main_window_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+
+struct InputMenu : MainWindowTest {
+  void Choose(Integer item) { window.mnuEditItem.ClickItem(item); }
+
+  // Plays the user in each form that is shown, in turn.
+  template <class Dialog>
+  void InDialog(std::function<void(Dialog&)> user) {
+    platform.windows.onModal = [user = std::move(user)](Form& form) { user(dynamic_cast<Dialog&>(form)); };
+  }
+
+  // A key of the user, and what the view does once it was dealt with.
+  static void Type(Form& form, TextBox& box, const std::string& text) {
+    box.SetText(text);
+    form.Acted();
+  }
+
+  std::optional<UnsavedProject> Kept() {
+    return Exists(RecoveryPath) ? ReadRecovery(FileAt(RecoveryPath)) : std::nullopt;
+  }
+};
+
+TEST_F(InputMenu, ShowsEachDialog) {
+  std::vector<std::string> names;
+  platform.windows.onModal = [&](Form& form) { names.emplace_back(form.Name()); };
+
+  for (const Integer item : {edit_item::Description, edit_item::Parameters, edit_item::Cost}) Choose(item);
+  window.Toolbar1.ClickItem(tool_button::Description);
+  window.Toolbar1.ClickItem(tool_button::Parameters);
+
+  EXPECT_THAT(names, ElementsAre("frmTULKDesc", "frmPENVParm", "frmTULKCost", "frmTULKDesc", "frmPENVParm"));
+}
+
+TEST_F(InputMenu, HidesTheMainWindowBehindTheParameters) {
+  bool shown = true;
+  bool waiting = true;
+  InDialog<ParametersDialog>([&](ParametersDialog&) {
+    shown = platform.windows.mainWindowShown;
+    waiting = platform.windows.waitCursor;
+  });
+
+  Choose(edit_item::Parameters);
+
+  EXPECT_FALSE(shown);
+  EXPECT_FALSE(waiting);
+  EXPECT_TRUE(platform.windows.mainWindowShown);
+}
+
+TEST_F(InputMenu, LeavesTheMainWindowBehindTheDescription) {
+  bool shown = false;
+  InDialog<DescriptionDialog>([&](DescriptionDialog&) { shown = platform.windows.mainWindowShown; });
+
+  Choose(edit_item::Description);
+
+  EXPECT_TRUE(shown);
+  EXPECT_FALSE(platform.windows.waitCursor);
+}
+
+TEST_F(InputMenu, MarksACommittedChangeInTheCaption) {
+  InDialog<CostDialog>([](CostDialog& dialog) { dialog.Command2.Press(); });
+
+  Choose(edit_item::Cost);
+
+  EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: Untitled*");
+}
+
+TEST_F(InputMenu, LeavesTheCaptionAfterCancel) {
+  InDialog<CostDialog>([](CostDialog& dialog) { dialog.Command1.Press(); });
+
+  Choose(edit_item::Cost);
+
+  EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: Untitled");
+}
+
+TEST_F(InputMenu, GoesOnFromTheDescriptionToTheParameters) {
+  std::vector<std::string> names;
+  platform.windows.onModal = [&](Form& form) {
+    names.emplace_back(form.Name());
+    if (auto* dialog = dynamic_cast<DescriptionDialog*>(&form)) dialog->Command4.Press();
+  };
+
+  Choose(edit_item::Description);
+
+  EXPECT_THAT(names, ElementsAre("frmTULKDesc", "frmPENVParm"));
+}
+
+TEST_F(InputMenu, IsWhereTheResultsReturnTo) {
+  std::vector<std::string> names;
+  platform.windows.onModal = [&](Form& form) { names.emplace_back(form.Name()); };
+
+  program.OpenInputDialog(report_caller::Parameters);
+  program.OpenInputDialog(report_caller::Cost);
+
+  EXPECT_THAT(names, ElementsAre("frmPENVParm", "frmTULKCost"));
+}
+
+TEST_F(InputMenu, EndsTheRunWithTheErrorOfADesignThatCannotBeShown) {
+  program.WorkParms.DepthofCover = 0;
+
+  EXPECT_EQ(ErrorNumberOf([&] { Choose(edit_item::Parameters); }), 5);
+}
+
+TEST_F(InputMenu, IsToldOnTheRoadOfOpenThatADesignCannotBeShown) {
+  program.options.ShowInputScreenOnLoad = 1;
+  platform.files.files[Panel3] = DesignAt(0);
+
+  OpenByDialog(Panel3);
+
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("Error occurred: Invalid procedure call or argument (5). Procedure Terminated"));
+  EXPECT_EQ(program.CurrentFile, Panel3);
+  EXPECT_TRUE(platform.windows.mainWindowShown);
+  EXPECT_FALSE(program.DialogOpen);
+}
+
+// ---- what is kept ---------------------------------------------------------------------------------------------------
+
+struct EditedWork : InputMenu {};
+
+TEST_F(EditedWork, IsKeptFromTheMomentOfTheCommit) {
+  OpenByDialog(Panel3);
+  InDialog<ParametersDialog>([](ParametersDialog& dialog) {
+    dialog.txtDepthofCover.SetText("810");
+    dialog.Command2.Press();
+  });
+
+  Choose(edit_item::Parameters);
+
+  ASSERT_TRUE(Kept().has_value());
+  EXPECT_EQ(Kept()->WorkParms.DepthofCover, 810);
+  EXPECT_EQ(Kept()->CurrentFile, Panel3);
+}
+
+TEST_F(EditedWork, OfAnOpenDialogIsKeptWithinASecond) {
+  InDialog<ParametersDialog>([&](ParametersDialog& dialog) {
+    Type(dialog, dialog.txtDepthofCover, "81");
+    Type(dialog, dialog.txtDepthofCover, "810");
+    EXPECT_FALSE(Kept().has_value());
+    platform.clock.Pass();
+    ASSERT_TRUE(Kept().has_value());
+    EXPECT_EQ(Kept()->WorkParms.DepthofCover, 810);
+    EXPECT_FALSE(Kept()->FileEmpty);
+    EXPECT_EQ(program.WorkParms.DepthofCover, 400) << "nothing is committed";
+  });
+
+  Choose(edit_item::Parameters);
+
+  EXPECT_EQ(platform.windows.modalForms, 1);
+}
+
+TEST_F(EditedWork, OfTheCostDialogIsKeptWithinASecond) {
+  InDialog<CostDialog>([&](CostDialog& dialog) {
+    Type(dialog, dialog.txtBoltCost, "4.25");
+    platform.clock.Pass();
+    ASSERT_TRUE(Kept().has_value());
+    EXPECT_EQ(Kept()->WorkParms.CostBoltCost, 4.25F);
+  });
+
+  Choose(edit_item::Cost);
+
+  EXPECT_EQ(platform.windows.modalForms, 1);
+}
+
+TEST_F(EditedWork, IsNoneWhenTheUserOnlyLooks) {
+  OpenByDialog(Panel3);
+  InDialog<ParametersDialog>([&](ParametersDialog& dialog) {
+    dialog.SSTab1.ClickTab(0);
+    dialog.Acted();
+    platform.clock.Pass();
+    EXPECT_FALSE(Kept().has_value());
+  });
+
+  Choose(edit_item::Parameters);
+
+  EXPECT_EQ(platform.windows.modalForms, 1);
+}
+
+TEST_F(EditedWork, IsWhatStoodBeforeTheKeyThatEndsTheRun) {
+  InDialog<ParametersDialog>([&](ParametersDialog& dialog) {
+    Type(dialog, dialog.txtDepthofCover, "810");
+    dialog.txtDepthofCover.SetText("");  // throws, so the view gets no further
+  });
+
+  EXPECT_EQ(ErrorNumberOf([&] { Choose(edit_item::Parameters); }), 5);
+  window.KeepUnsavedWork();
+
+  ASSERT_TRUE(Kept().has_value());
+  EXPECT_EQ(Kept()->WorkParms.DepthofCover, 810);
+}
+
+TEST_F(EditedWork, IsTheLastThatCouldBeCommitted) {
+  InDialog<ParametersDialog>([&](ParametersDialog& dialog) {
+    Type(dialog, dialog.txtDepthofCover, "810");
+    Type(dialog, dialog.txtCMRR, "99999");  // beyond the record's field
+    platform.clock.Pass();
+    ASSERT_TRUE(Kept().has_value());
+    EXPECT_EQ(Kept()->WorkParms.DepthofCover, 810);
+    EXPECT_EQ(Kept()->WorkParms.CMRR, 45);
+  });
+
+  Choose(edit_item::Parameters);
+
+  EXPECT_EQ(platform.windows.modalForms, 1);
+}
+
+TEST_F(EditedWork, GoesWithACancelledDialog) {
+  OpenByDialog(Panel3);
+  InDialog<ParametersDialog>([&](ParametersDialog& dialog) {
+    Type(dialog, dialog.txtDepthofCover, "810");
+    platform.clock.Pass();
+    ASSERT_TRUE(Kept().has_value());
+    Type(dialog, dialog.txtDepthofCover, "820");
+    dialog.Command1.Press();
+    dialog.Acted();
+  });
+
+  Choose(edit_item::Parameters);
+  platform.clock.Pass();
+
+  EXPECT_FALSE(Exists(RecoveryPath));
+}
+
+TEST_F(EditedWork, OfTheDescriptionIsKeptWithItsTitle) {
+  InDialog<DescriptionDialog>([](DescriptionDialog& dialog) {
+    dialog.Text1.SetText("Panel 3, gateroad");
+    dialog.Text2.SetText("North mains\r\n\r\n  as driven");
+    dialog.Command2.Press();
+  });
+
+  Choose(edit_item::Description);
+
+  ASSERT_TRUE(Kept().has_value());
+  EXPECT_EQ(Kept()->ProjectTitle, "Panel 3, gateroad");
+  EXPECT_EQ(Kept()->ProjectDescription, "North mains\r\n\r\n  as driven");
+}
+
+}  // namespace
+}  // namespace orby::test

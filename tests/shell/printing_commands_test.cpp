@@ -1,0 +1,159 @@
+// Printing and preview from the File menu and the tool bar.
+
+#include "main_window_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+struct Printing : MainWindowTest {
+  Printing() { program.OutBuf[1] = "CALCULATIONS\r\n"; }
+
+  void Choose(Integer item) { window.mnuFileItem.ClickItem(item); }
+
+  std::string Printed() const {
+    std::string text;
+    for (const std::string& page : platform.printer.pages) text += page;
+    return text;
+  }
+};
+
+TEST_F(Printing, AsksFirstWhenTheProjectIsEmpty) {
+  platform.boxes.answers = {box_result::No};
+
+  Choose(file_item::Print);
+
+  ASSERT_EQ(platform.boxes.shown.size(), 1U);
+  EXPECT_EQ(platform.boxes.shown.front().text, "Current file is empty. Continue?");
+  EXPECT_EQ(platform.boxes.shown.front().style, 260);
+  EXPECT_EQ(platform.printer.chosen, 0);
+}
+
+TEST_F(Printing, PrintsAnEmptyProjectOnYes) {
+  platform.boxes.answers = {box_result::Yes};
+
+  Choose(file_item::Print);
+
+  EXPECT_EQ(platform.printer.chosen, 1);
+  EXPECT_THAT(Printed(), HasSubstr("CALCULATIONS"));
+}
+
+TEST_F(Printing, PrintsTheInputAndWhatTheLastResultsLeft) {
+  OpenByDialog(Panel3);
+  program.OutBuf[1] = "CALCULATIONS\r\n";
+
+  Choose(file_item::Print);
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  EXPECT_EQ(platform.printer.chosen, 1);
+  EXPECT_THAT(Printed(), HasSubstr("725"));
+  EXPECT_THAT(Printed(), HasSubstr("CALCULATIONS"));
+}
+
+TEST_F(Printing, PrintsTheInputAloneAfterOpening) {
+  OpenByDialog(Panel3);
+
+  Choose(file_item::Print);
+
+  EXPECT_EQ(program.OutBuf[1], "");
+  EXPECT_THAT(Printed(), HasSubstr("725"));
+}
+
+TEST_F(Printing, IsLeftWithThePrinterDialog) {
+  OpenByDialog(Panel3);
+  platform.printer.error = error_number::Cancelled;
+
+  Choose(file_item::Print);
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  EXPECT_THAT(platform.printer.pages, IsEmpty());
+}
+
+TEST_F(Printing, OfTheToolBarAsksForNoPrinter) {
+  OpenByDialog(Panel3);
+
+  window.Toolbar1.ClickItem(tool_button::Print);
+
+  EXPECT_EQ(platform.printer.chosen, 0);
+  EXPECT_THAT(Printed(), HasSubstr("725"));
+}
+
+TEST_F(Printing, OfTheToolBarAsksAlikeWhenTheProjectIsEmpty) {
+  platform.boxes.answers = {box_result::No};
+
+  window.Toolbar1.ClickItem(tool_button::Print);
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Current file is empty. Continue?"));
+  EXPECT_THAT(platform.printer.pages, IsEmpty());
+}
+
+TEST_F(Printing, IsToldAndGivenUpWithoutAPrinter) {
+  OpenByDialog(Panel3);
+  platform.printer.error = error_number::Printer;
+  platform.boxes.answers = {box_result::Cancel};
+
+  window.Toolbar1.ClickItem(tool_button::Print);
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error occurred: Printer error (482)"));
+}
+
+TEST_F(Printing, GoesOnBehindAPrinterDialogThatFailed) {
+  OpenByDialog(Panel3);
+  platform.printer.error = error_number::Printer;
+  platform.boxes.answers = {box_result::Cancel, box_result::Cancel};
+
+  Choose(file_item::Print);
+
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("Error occurred: Printer error (482)", "Error occurred: Printer error (482)"));
+}
+
+TEST_F(Printing, SetsThePrinterUp) {
+  Choose(file_item::PrinterSetup);
+
+  EXPECT_EQ(platform.printer.setUp, 1);
+}
+
+TEST_F(Printing, SetUpThatIsCancelledIsOnlyLogged) {
+  platform.printer.error = error_number::Cancelled;
+
+  Choose(file_item::PrinterSetup);
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  EXPECT_EQ(program.history.Text, "2. Cancel was selected.\r\n");
+}
+
+TEST_F(Printing, IsPreviewedPageByPage) {
+  OpenByDialog(Panel3);
+  program.OutBuf[1] = "CALCULATIONS\r\n";
+  std::vector<std::string> pages;
+  platform.windows.onModal = [&](Form& form) {
+    const auto& text = dynamic_cast<TextBox&>(*form.Find("RichTextBox1"));
+    pages.push_back(text.Text());
+    dynamic_cast<Button&>(*form.Find("Command4")).Press();
+    pages.push_back(text.Text());
+    EXPECT_FALSE(form.Find("Command4")->Enabled());
+  };
+
+  Choose(file_item::Preview);
+
+  ASSERT_EQ(pages.size(), 2U);
+  EXPECT_EQ(pages[0], program.OutBuf[0]);
+  EXPECT_THAT(pages[0], HasSubstr("725"));
+  EXPECT_EQ(pages[1], "CALCULATIONS\r\n");
+}
+
+TEST_F(Printing, PreviewAsksAlikeWhenTheProjectIsEmpty) {
+  platform.boxes.answers = {box_result::No};
+
+  Choose(file_item::Preview);
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Current file is empty. Continue?"));
+  EXPECT_EQ(platform.windows.modalForms, 0);
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,314 @@
+#include "shell/recovery.h"
+
+#include <gmock/gmock.h>
+
+#include "files/recovery_file.h"
+#include "shell/start_up.h"
+#include "support/recording_platform.h"
+
+namespace orby::test {
+namespace {
+
+using testing::IsEmpty;
+using Step = MemoryFiles::Step;
+
+const std::string Folder = "/home/user/Documents/Orby/Temp/";
+const std::string FirstFile = Folder + "~recover1.tmp";
+const std::string SecondFile = Folder + "~recover2.tmp";
+
+// Runs that share the user's folder.
+struct UnsavedWork : testing::Test {
+  // A program in the middle of an unsaved design of this depth.
+  Program Editing(Single depth, const std::string& file = "/designs/panel3.orb") {
+    Program program = Started();
+    program.CurrentFile = file;
+    program.WorkParms.DepthofCover = depth;
+    program.FileSaved = false;
+    program.FileEmpty = false;
+    return program;
+  }
+
+  Program Started() {
+    Program program(platform.Doors());
+    program.folders.ProgramTemporary = Folder;
+    StartApart(program, nullptr);
+    return program;
+  }
+
+  // Leaves the file of a run that ended in the middle of a design.
+  void Lose(Single depth) {
+    Program program = Editing(depth);
+    Recovery(program).Committed();
+  }
+
+  // The depth of cover that the file holds; -1 when there is none.
+  Single DepthIn(const std::string& path) {
+    const auto found = platform.files.files.find(path);
+    if (found == platform.files.files.end()) return -1;
+    const auto project = ReadRecovery(found->second);
+    return project ? project->WorkParms.DepthofCover : 0;
+  }
+
+  bool Exists(const std::string& path) const { return platform.files.files.contains(path); }
+
+  RecordingPlatform platform;
+};
+
+TEST_F(UnsavedWork, IsWrittenAtOnceWhenItIsCommitted) {
+  Program program = Editing(725);
+  Recovery recovery(program);
+
+  recovery.Committed();
+
+  EXPECT_EQ(DepthIn(FirstFile), 725);
+}
+
+TEST_F(UnsavedWork, GoesWithTheLastChange) {
+  Program program = Editing(725);
+  Recovery recovery(program);
+  recovery.Committed();
+  program.FileSaved = true;
+
+  recovery.Committed();
+
+  EXPECT_FALSE(Exists(FirstFile));
+}
+
+TEST_F(UnsavedWork, IsWrittenASecondAfterTheFirstChangeAsItIsByThen) {
+  Program program = Started();
+  Recovery recovery(program);
+  ProjectRecord design = program.WorkParms;
+  recovery.DesignShown(design);
+  design.DepthofCover = 72;
+  recovery.DesignChanged(design);
+  design.DepthofCover = 725;
+  recovery.DesignChanged(design);
+
+  ASSERT_EQ(platform.clock.waiting.size(), 1U);
+  EXPECT_EQ(platform.clock.waiting.front().first, 1000);
+  EXPECT_FALSE(Exists(FirstFile));
+  platform.clock.Pass();
+
+  EXPECT_EQ(DepthIn(FirstFile), 725);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+}
+
+TEST_F(UnsavedWork, WaitsAnotherSecondForTheNextChange) {
+  Program program = Started();
+  Recovery recovery(program);
+  ProjectRecord design = program.WorkParms;
+  design.DepthofCover = 725;
+  recovery.DesignChanged(design);
+  platform.clock.Pass();
+  design.DepthofCover = 980;
+
+  recovery.DesignChanged(design);
+
+  EXPECT_EQ(platform.clock.waiting.size(), 1U);
+  EXPECT_EQ(DepthIn(FirstFile), 725);
+  platform.clock.Pass();
+  EXPECT_EQ(DepthIn(FirstFile), 980);
+}
+
+TEST_F(UnsavedWork, IsWrittenBeforeItsSecondWhenTheRunEnds) {
+  Program program = Started();
+  Recovery recovery(program);
+  ProjectRecord design = program.WorkParms;
+  design.DepthofCover = 725;
+  recovery.DesignChanged(design);
+
+  recovery.Flush();
+
+  EXPECT_EQ(DepthIn(FirstFile), 725);
+}
+
+TEST_F(UnsavedWork, IsNoneWhereTheDialogShowsWhatItOpenedWith) {
+  Program program = Started();
+  Recovery recovery(program);
+  recovery.DesignShown(program.WorkParms);
+
+  recovery.DesignChanged(program.WorkParms);
+  platform.clock.Pass();
+
+  EXPECT_FALSE(Exists(FirstFile));
+}
+
+TEST_F(UnsavedWork, OfADialogGoesWhenItsChangesAreTakenBack) {
+  Program program = Started();
+  Recovery recovery(program);
+  const ProjectRecord opened = program.WorkParms;
+  ProjectRecord edited = opened;
+  edited.DepthofCover = 725;
+  recovery.DesignShown(opened);
+  recovery.DesignChanged(edited);
+  platform.clock.Pass();
+  ASSERT_TRUE(Exists(FirstFile));
+
+  recovery.DesignChanged(opened);
+  platform.clock.Pass();
+
+  EXPECT_FALSE(Exists(FirstFile));
+}
+
+TEST_F(UnsavedWork, OfACancelledDialogIsTheCommittedDesignAgain) {
+  Program program = Editing(725);
+  Recovery recovery(program);
+  ProjectRecord edited = program.WorkParms;
+  edited.DepthofCover = 980;
+  recovery.DesignChanged(edited);
+  platform.clock.Pass();
+  recovery.DesignChanged(edited);
+
+  recovery.Committed();
+  platform.clock.Pass();
+
+  EXPECT_EQ(DepthIn(FirstFile), 725);
+}
+
+TEST_F(UnsavedWork, IsOfferedToTheNextRun) {
+  Lose(725);
+  Program next = Started();
+  platform.boxes.answers = {box_result::Yes};
+
+  EXPECT_TRUE(Recovery(next).Ask());
+
+  ASSERT_EQ(platform.boxes.shown.size(), 1U);
+  EXPECT_EQ(platform.boxes.shown.front().text, "Orby ended unexpectedly. Recover the unsaved project?");
+  EXPECT_EQ(platform.boxes.shown.front().style, 36);
+  EXPECT_EQ(next.WorkParms.DepthofCover, 725);
+  EXPECT_EQ(next.CurrentFile, "/designs/panel3.orb");
+  EXPECT_FALSE(next.FileSaved);
+  EXPECT_TRUE(Exists(FirstFile)) << "it is still unsaved";
+}
+
+TEST_F(UnsavedWork, IsDeletedOnNo) {
+  Lose(725);
+  Program next = Started();
+  platform.boxes.answers = {box_result::No};
+
+  EXPECT_FALSE(Recovery(next).Ask());
+
+  EXPECT_FALSE(Exists(FirstFile));
+  EXPECT_EQ(next.WorkParms.DepthofCover, 400);
+  EXPECT_TRUE(next.FileSaved);
+}
+
+TEST_F(UnsavedWork, IsNotAskedForWhenThereIsNone) {
+  Program program = Started();
+
+  EXPECT_FALSE(Recovery(program).Ask());
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(UnsavedWork, ThatCannotBeReadAnyMoreIsDeletedWithoutAQuestion) {
+  platform.files.files[FirstFile] = "ORBY_RECOVERY_1\r\nCurrentFile=/designs/pan";
+  Program program = Started();
+
+  EXPECT_FALSE(Recovery(program).Ask());
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  EXPECT_FALSE(Exists(FirstFile));
+}
+
+TEST_F(UnsavedWork, OfTwoProgramsStandsInTwoFiles) {
+  Program first = Editing(725);
+  Program second = Editing(980);
+  Recovery ofFirst(first);
+  Recovery ofSecond(second);
+
+  ofFirst.Committed();
+  ofSecond.Committed();
+
+  EXPECT_EQ(DepthIn(FirstFile), 725);
+  EXPECT_EQ(DepthIn(SecondFile), 980);
+}
+
+TEST_F(UnsavedWork, OfARunningProgramIsNotOfferedToAnother) {
+  Program first = Editing(725);
+  Recovery ofFirst(first);
+  ofFirst.Committed();
+  Program second = Started();
+
+  EXPECT_FALSE(Recovery(second).Ask());
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  EXPECT_EQ(DepthIn(FirstFile), 725);
+}
+
+TEST_F(UnsavedWork, ThatWasLostGoesBeforeAFreeFile) {
+  platform.files.files[SecondFile] = RecoveryBytes(CommittedProject(Editing(980)));
+  Program next = Started();
+  platform.boxes.answers = {box_result::Yes};
+
+  EXPECT_TRUE(Recovery(next).Ask());
+
+  EXPECT_EQ(next.WorkParms.DepthofCover, 980);
+}
+
+TEST_F(UnsavedWork, OfATenthProgramIsNotKept) {
+  for (const char digit : std::string("123456789")) platform.files.marked.insert(Folder + "~recover" + digit + ".lck");
+  Program program = Editing(725);
+  Recovery recovery(program);
+
+  recovery.Committed();
+  recovery.DesignChanged(program.WorkParms);
+
+  EXPECT_THAT(platform.files.created, IsEmpty());
+  EXPECT_THAT(platform.clock.waiting, IsEmpty());
+}
+
+TEST_F(UnsavedWork, IsNotKeptWithoutAFolder) {
+  Program program = Editing(725);
+  program.folders.ProgramTemporary.clear();
+  Recovery recovery(program);
+
+  recovery.Committed();
+
+  EXPECT_FALSE(recovery.Ask());
+  EXPECT_THAT(platform.files.created, IsEmpty());
+}
+
+class UnsavedWorkOnAFailingDisk : public UnsavedWork, public testing::WithParamInterface<Step> {};
+
+TEST_P(UnsavedWorkOnAFailingDisk, StaysAsItWasWrittenLastAndNobodyIsTold) {
+  Program program = Editing(725);
+  Recovery recovery(program);
+  recovery.Committed();
+  program.WorkParms.DepthofCover = 980;
+  platform.files.Fail(GetParam(), error_number::DiskFull);
+
+  recovery.Committed();
+
+  EXPECT_EQ(DepthIn(FirstFile), 725);
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Steps, UnsavedWorkOnAFailingDisk,
+                         testing::Values(Step::Create, Step::Write, Step::Close, Step::Rename));
+
+TEST_F(UnsavedWork, ThatCannotBeRemovedIsNoError) {
+  Program program = Editing(725);
+  Recovery recovery(program);
+  recovery.Committed();
+  platform.files.Fail(Step::Remove, error_number::PermissionDenied);
+
+  EXPECT_NO_THROW(recovery.Discard());
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(UnsavedWork, ThatWaitsForItsSecondOutlivesNoWindow) {
+  Program program = Editing(725);
+  {
+    Recovery recovery(program);
+    recovery.DesignChanged(program.WorkParms);
+  }
+
+  platform.clock.Pass();
+
+  EXPECT_FALSE(Exists(FirstFile));
+}
+
+}  // namespace
+}  // namespace orby::test
