@@ -38,13 +38,18 @@ function(orby_library name)
   endif()
 endfunction()
 
-# orby_test(name SOURCES file... LINKS folder...)
-# One test program per folder of tests/, named test_<name>; each of its tests is a test of ctest.
+# orby_test(name [OWN_MAIN] SOURCES file... LINKS folder...)
+# One test program per folder of tests/, named test_<name>; each of its tests is a test of ctest. OWN_MAIN: the sources
+# have a main of their own.
 function(orby_test name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "OWN_MAIN" "" "SOURCES;LINKS" ${ARGN})
   list(TRANSFORM ARG_LINKS PREPEND orby_)
+  set(runner GTest::gmock_main)
+  if(ARG_OWN_MAIN)
+    set(runner GTest::gmock)
+  endif()
   add_executable(test_${name} ${ARG_SOURCES})
-  target_link_libraries(test_${name} PRIVATE orby_options orby_test_support ${ARG_LINKS} GTest::gmock_main)
+  target_link_libraries(test_${name} PRIVATE orby_options orby_test_support ${ARG_LINKS} ${runner})
   target_compile_definitions(test_${name} PRIVATE
     TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data" EXAMPLES_DIR="${CMAKE_SOURCE_DIR}/examples")
   gtest_discover_tests(test_${name} TEST_PREFIX "${name}/" DISCOVERY_MODE PRE_TEST)

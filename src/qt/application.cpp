@@ -1,0 +1,65 @@
+#include "qt/application.h"
+
+#include <QApplication>
+#include <cstdlib>
+
+#include "qt/boundary.h"
+#include "qt/desktop.h"
+#include "qt/main_view.h"
+#include "shell/main_window.h"
+#include "shell/start_up.h"
+
+namespace orby {
+namespace {
+
+// The names that the toolkit and the desktop know the program by; no argument of the user's reaches the toolkit.
+class ToolkitStart {
+ public:
+  ToolkitStart() : application_(count_, names_) {
+    QApplication::setApplicationName("orby");
+    QApplication::setApplicationDisplayName(QString());
+    QApplication::setDesktopFileName("orby");
+    QApplication::setQuitOnLastWindowClosed(false);
+  }
+
+ private:
+  int count_ = 1;
+  char name_[5] = "orby";
+  char* names_[2] = {name_, nullptr};
+  QApplication application_;
+};
+
+// Nothing more is asked, saved or written but what is kept for the next start.
+[[noreturn]] void EndRun(Desktop& desktop, MainWindow* window, const RuntimeError& error) {
+  if (window != nullptr) window->KeepUnsavedWork();
+  desktop.windows.SetWaitCursor(false);
+  const std::string text =
+      "Run-time error '" + std::to_string(error.number()) + "':\r\n\r\n" + std::string(error.description());
+  desktop.boxes.Show({text, box_style::Critical, std::string(ProgramTitle), {}, 0});
+  std::_Exit(EXIT_FAILURE);
+}
+
+}  // namespace
+
+int RunProgram(const std::string& programFolder, const std::vector<std::string>& arguments) {
+  const ToolkitStart toolkit;
+  Desktop desktop(programFolder);
+  Program program(desktop.Doors());
+  std::unique_ptr<MainWindow> window;
+  SetErrorHandler([&](const RuntimeError& error) { EndRun(desktop, window.get(), error); });
+  std::string file;
+  RunGuarded([&] {
+    file = CommandLineFile(program, arguments);
+    StartProgram(program);
+    window = std::make_unique<MainWindow>(program);
+    window->Open();
+    desktop.windows.ShowMain(*window, program.settings.MaxMainMenu == 1);
+    DressMainWindow(desktop.windows.Main(), *window);
+  });
+  // Once the window has been painted.
+  QMetaObject::invokeMethod(
+      qApp, [&] { RunGuarded([&] { window->OpenFirstFiles(file); }); }, Qt::QueuedConnection);
+  return QApplication::exec();
+}
+
+}  // namespace orby

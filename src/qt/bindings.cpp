@@ -1,0 +1,46 @@
+#include "qt/bindings.h"
+
+#include <stdexcept>
+
+#include "controls/chart.h"
+
+namespace orby {
+namespace {
+
+// Tries the kinds one by one; a kind stands before those that it is derived from.
+template <class T, class Make>
+BindingPointer As(Control& control, const Make& make) {
+  auto* typed = dynamic_cast<T*>(&control);
+  return typed == nullptr ? nullptr : make(*typed);
+}
+
+}  // namespace
+
+QObject& FindObject(const BindingHost& host, const std::string& name) {
+  const QString wanted = QString::fromStdString(name);
+  if (host.Root().objectName() == wanted) return host.Root();
+  auto* found = host.Root().findChild<QObject*>(wanted);
+  if (found == nullptr) throw std::logic_error("no widget " + name);
+  return *found;
+}
+
+std::string MemberName(const Control& control, int index) {
+  return std::string(control.Name()) + "_" + std::to_string(index);
+}
+
+BindingPointer Bind(BindingHost& host, Control& control) {
+  const auto with = [&host](auto* bind) { return [&host, bind](auto& typed) { return bind(host, typed); }; };
+  BindingPointer found;
+  const auto fits = [&found](BindingPointer binding) { return (found = std::move(binding)) != nullptr; };
+  fits(As<Menu>(control, with(BindMenu))) || fits(As<Frame>(control, with(BindFrame))) ||
+      fits(As<Label>(control, with(BindLabel))) || fits(As<Button>(control, with(BindButton))) ||
+      fits(As<TextBox>(control, with(BindTextBox))) || fits(As<CheckBox>(control, with(BindCheckBox))) ||
+      fits(As<OptionArray>(control, with(BindOptionArray))) || fits(As<Combo>(control, with(BindCombo))) ||
+      fits(As<List>(control, with(BindList))) || fits(As<Slider>(control, with(BindSlider))) ||
+      fits(As<Grid>(control, with(BindGrid))) || fits(As<TabSet>(control, with(BindTabSet))) ||
+      fits(As<ActionArray>(control, with(BindActionArray))) || fits(As<Chart>(control, with(BindChart))) ||
+      fits(BindPlain(host, control));
+  return found;
+}
+
+}  // namespace orby

@@ -1,0 +1,240 @@
+// What the user chooses from: boxes, options, lists.
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCompleter>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QWheelEvent>
+
+#include "qt/bindings.h"
+#include "qt/mnemonics.h"
+#include "qt/texts.h"
+
+namespace orby {
+namespace {
+
+class CheckBinding : public Binding {
+ public:
+  CheckBinding(BindingHost& host, CheckBox& box)
+      : host_(host), box_(box), widget_(FindNamed<QCheckBox>(host, std::string(box.Name()))) {
+    QObject::connect(&widget_, &QCheckBox::toggled, &widget_,
+                     [this](bool on) { host_.Act([this, on] { box_.SetValue(on ? 1 : 0); }); });
+  }
+
+  void Show() override {
+    const QSignalBlocker quiet(widget_);
+    widget_.setEnabled(box_.Enabled());
+    widget_.setVisible(box_.Visible());
+    widget_.setText(host_.Letters().Marked(&widget_, 0, box_.Caption()));
+    widget_.setChecked(box_.Checked());
+  }
+  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
+  std::vector<CaptionSlot> Captions() const override { return {{&widget_, 0, &widget_, box_.Caption()}}; }
+
+ private:
+  BindingHost& host_;
+  CheckBox& box_;
+  QCheckBox& widget_;
+};
+
+// Exclusive buttons do not let themselves be switched off.
+void SwitchOff(QRadioButton& member) {
+  const auto set = [&member](bool exclusive) {
+    member.setAutoExclusive(exclusive);
+    if (member.group() != nullptr) member.group()->setExclusive(exclusive);
+  };
+  set(false);
+  member.setChecked(false);
+  set(true);
+}
+
+class OptionBinding : public Binding {
+ public:
+  OptionBinding(BindingHost& host, OptionArray& options) : host_(host), options_(options) {
+    for (std::size_t i = 0; i < options.Count(); ++i) {
+      const int index = static_cast<int>(i);
+      auto& member = FindNamed<QRadioButton>(host, MemberName(options, index));
+      members_.push_back(&member);
+      QObject::connect(&member, &QRadioButton::toggled, &member, [this, index](bool on) {
+        if (on) host_.Act([this, index] { options_.SetValue(index, true); });
+      });
+    }
+  }
+
+  void Show() override {
+    for (std::size_t i = 0; i < members_.size(); ++i) {
+      QRadioButton& member = *members_[i];
+      const QSignalBlocker quiet(member);
+      member.setEnabled(options_.Enabled() && options_.MemberEnabled(i));
+      member.setVisible(options_.Visible());
+      member.setText(host_.Letters().Marked(&member, 0, options_.Caption(i)));
+      if (options_.Value(i)) {
+        member.setChecked(true);
+      } else if (member.isChecked()) {
+        SwitchOff(member);
+      }
+    }
+  }
+  std::vector<QWidget*> Widgets() const override { return {members_.begin(), members_.end()}; }
+  std::vector<CaptionSlot> Captions() const override {
+    std::vector<CaptionSlot> captions;
+    for (std::size_t i = 0; i < members_.size(); ++i) {
+      captions.push_back({members_[i], 0, members_[i], options_.Caption(i)});
+    }
+    return captions;
+  }
+  QWidget* FocusWidget() const override { return members_[static_cast<std::size_t>(GetArrayIndex(options_))]; }
+
+ private:
+  BindingHost& host_;
+  OptionArray& options_;
+  std::vector<QRadioButton*> members_;
+};
+
+// A list with a text of its own: neither completes nor corrects what is typed.
+class ComboBinding : public QObject, public Binding {
+ public:
+  ComboBinding(BindingHost& host, Combo& combo)
+      : host_(host), combo_(combo), widget_(FindNamed<QComboBox>(host, std::string(combo.Name()))) {
+    widget_.setInsertPolicy(QComboBox::NoInsert);
+    widget_.setCompleter(nullptr);
+    widget_.installEventFilter(this);
+    const auto commit = [this] { host_.Act([this, text = FromQt(widget_.currentText())] { combo_.SetText(text); }); };
+    if (combo.Kind() == ComboKind::FreeText) {
+      connect(&widget_, &QComboBox::editTextChanged, this, commit);
+    } else {
+      connect(widget_.lineEdit(), &QLineEdit::editingFinished, this, commit);
+    }
+    connect(&widget_, &QComboBox::activated, this,
+            [this](int index) { host_.Act([this, index] { combo_.SetListIndex(index); }); });
+  }
+
+  void Show() override {
+    const QSignalBlocker quiet(widget_);
+    widget_.setEnabled(combo_.Enabled());
+    widget_.setVisible(combo_.Visible());
+    ShowItems();
+    ShowText();
+  }
+  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
+  bool KeepsPlace() const override { return true; }
+
+  // The wheel scrolls the dialog and does not change a list that it happens to pass over.
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Wheel && !widget_.hasFocus()) {
+      event->ignore();
+      return true;
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  void ShowItems() {
+    const auto& items = combo_.Items();
+    bool same = widget_.count() == static_cast<int>(items.size());
+    for (std::size_t i = 0; same && i < items.size(); ++i) {
+      same = widget_.itemText(static_cast<int>(i)) == ToQt(items[i].text);
+    }
+    if (same) return;
+    widget_.clear();
+    for (const ComboItem& item : items) widget_.addItem(ToQt(item.text));
+  }
+
+  // Selecting an item, or none, changes the text too. What is being typed keeps its cursor.
+  void ShowText() {
+    const QString text = ToQt(combo_.Text());
+    const bool isShown = widget_.currentText() == text;
+    if (isShown && widget_.currentIndex() == combo_.ListIndex()) return;
+    const int cursor = isShown ? widget_.lineEdit()->cursorPosition() : 0;
+    widget_.setCurrentIndex(combo_.ListIndex());
+    if (widget_.currentText() != text) widget_.setEditText(text);
+    widget_.lineEdit()->setCursorPosition(cursor);
+  }
+
+  BindingHost& host_;
+  Combo& combo_;
+  QComboBox& widget_;
+};
+
+// The Enter key chooses as a click does. The toolkit's own activation would follow a double click too, the first press
+// of which has been a click already.
+class ListBinding : public QObject, public Binding {
+ public:
+  ListBinding(BindingHost& host, List& list)
+      : host_(host), list_(list), widget_(FindNamed<QListWidget>(host, std::string(list.Name()))) {
+    widget_.installEventFilter(this);
+    connect(&widget_, &QListWidget::itemClicked, this, [this](const QListWidgetItem* item) { Choose(*item); });
+  }
+
+  void Show() override {
+    const QSignalBlocker quiet(widget_);
+    widget_.setEnabled(list_.Enabled());
+    widget_.setVisible(list_.Visible());
+    if (widget_.count() != static_cast<int>(list_.Items().size())) {
+      widget_.clear();
+      for (const ComboItem& item : list_.Items()) widget_.addItem(ToQt(item.text));
+    }
+    widget_.setCurrentRow(list_.ListIndex());
+  }
+  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::KeyPress && widget_.currentItem() != nullptr) {
+      const int key = dynamic_cast<QKeyEvent*>(event)->key();
+      if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        Choose(*widget_.currentItem());
+        return true;
+      }
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  void Choose(const QListWidgetItem& item) {
+    const int index = widget_.row(&item);
+    host_.ActLater([this, index] { list_.ClickItem(index); });
+  }
+
+  BindingHost& host_;
+  List& list_;
+  QListWidget& widget_;
+};
+
+class SliderBinding : public Binding {
+ public:
+  SliderBinding(BindingHost& host, Slider& slider)
+      : slider_(slider), widget_(FindNamed<QSlider>(host, std::string(slider.Name()))) {
+    widget_.setRange(slider.Minimum(), slider.Maximum());
+    QObject::connect(&widget_, &QSlider::valueChanged, &widget_,
+                     [this, &host](int value) { host.Act([this, value] { slider_.SetValue(value); }); });
+  }
+
+  void Show() override {
+    const QSignalBlocker quiet(widget_);
+    widget_.setEnabled(slider_.Enabled());
+    widget_.setVisible(slider_.Visible());
+    widget_.setValue(slider_.Value());
+  }
+  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
+
+ private:
+  Slider& slider_;
+  QSlider& widget_;
+};
+
+}  // namespace
+
+BindingPointer BindCheckBox(BindingHost& host, CheckBox& box) { return std::make_unique<CheckBinding>(host, box); }
+BindingPointer BindOptionArray(BindingHost& host, OptionArray& options) {
+  return std::make_unique<OptionBinding>(host, options);
+}
+BindingPointer BindCombo(BindingHost& host, Combo& combo) { return std::make_unique<ComboBinding>(host, combo); }
+BindingPointer BindList(BindingHost& host, List& list) { return std::make_unique<ListBinding>(host, list); }
+BindingPointer BindSlider(BindingHost& host, Slider& slider) { return std::make_unique<SliderBinding>(host, slider); }
+
+}  // namespace orby

@@ -1,0 +1,205 @@
+// Captions, buttons and text boxes.
+#include <QApplication>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+#include "qt/bindings.h"
+#include "qt/mnemonics.h"
+#include "qt/texts.h"
+
+namespace orby {
+namespace {
+
+void ShowState(QWidget& widget, const Control& control) {
+  widget.setEnabled(control.Enabled());
+  widget.setVisible(control.Visible());
+}
+
+class LabelBinding : public Binding {
+ public:
+  LabelBinding(BindingHost& host, const Label& label)
+      : host_(host), label_(label), widget_(FindNamed<QLabel>(host, std::string(label.Name()))) {}
+
+  void Show() override {
+    ShowState(widget_, label_);
+    widget_.setText(host_.Letters().Marked(&widget_, 0, label_.Caption()));
+  }
+  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
+  std::vector<CaptionSlot> Captions() const override {
+    // Nobody goes to a field that only shows something.
+    if (widget_.buddy() == nullptr || widget_.buddy()->property("readOnly").toBool()) return {};
+    return {{&widget_, 0, &widget_, label_.Caption()}};
+  }
+
+ private:
+  BindingHost& host_;
+  const Label& label_;
+  QLabel& widget_;
+};
+
+class FrameBinding : public Binding {
+ public:
+  FrameBinding(BindingHost& host, const Frame& frame)
+      : frame_(frame), widget_(FindNamed<QGroupBox>(host, std::string(frame.Name()))) {}
+
+  void Show() override {
+    ShowState(widget_, frame_);
+    widget_.setTitle(ToQt(frame_.Caption()));
+  }
+  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
+  bool KeepsPlace() const override { return true; }
+
+ private:
+  const Frame& frame_;
+  QGroupBox& widget_;
+};
+
+class ButtonBinding : public Binding {
+ public:
+  ButtonBinding(BindingHost& host, const Button& button)
+      : host_(host), button_(button), widget_(FindNamed<QPushButton>(host, std::string(button.Name()))) {
+    QObject::connect(&widget_, &QPushButton::clicked, &widget_,
+                     [this] { host_.ActLater([this] { button_.Press(); }); });
+  }
+
+  void Show() override {
+    ShowState(widget_, button_);
+    widget_.setText(host_.Letters().Marked(&widget_, 0, button_.Caption()));
+  }
+  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
+  std::vector<CaptionSlot> Captions() const override { return {{&widget_, 0, &widget_, button_.Caption()}}; }
+
+ private:
+  BindingHost& host_;
+  const Button& button_;
+  QPushButton& widget_;
+};
+
+// An output is a text on the window's own ground.
+void ShowAsOutput(QWidget& widget) {
+  QPalette palette = QApplication::palette(&widget);
+  palette.setBrush(QPalette::Base, palette.window());
+  widget.setPalette(palette);
+}
+
+QFont FontOf(const FontChoice& choice, const QWidget& widget) {
+  if (choice.name.empty()) return widget.font();
+  QFont font(ToQt(choice.name), choice.size, choice.bold ? QFont::Bold : QFont::Normal, choice.italic);
+  // The machine may lack the font; what takes its place must have the same pitch, and no two letters drawn as one.
+  if (font.family().startsWith("Courier", Qt::CaseInsensitive)) {
+    font.setStyleHint(QFont::TypeWriter, QFont::PreferNoShaping);
+  }
+  return font;
+}
+
+// A line to type into. A key that the field refuses never reaches it, and a field that gets the focus comes up with its
+// text selected.
+class LineEditBinding : public QObject, public Binding {
+ public:
+  LineEditBinding(BindingHost& host, TextBox& box, QLineEdit& widget) : host_(host), box_(box), widget_(widget) {
+    widget_.setReadOnly(box.Kind() == TextKind::Output);
+    widget_.installEventFilter(this);
+    connect(&widget_, &QLineEdit::textEdited, this,
+            [this](const QString& text) { host_.Act([this, text] { box_.SetText(FromQt(text)); }); });
+  }
+
+  void Show() override {
+    ShowState(widget_, box_);
+    const QString text = ToQt(box_.Text());
+    if (widget_.text() == text) return;
+    widget_.setText(text);
+    widget_.setCursorPosition(0);
+  }
+  void ShowTheme() override {
+    if (box_.Kind() == TextKind::Output) ShowAsOutput(widget_);
+  }
+  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
+  bool KeepsPlace() const override { return true; }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::FocusIn) {
+      // After the press of the mouse that brought the focus, which would take the selection away again.
+      QMetaObject::invokeMethod(&widget_, &QLineEdit::selectAll, Qt::QueuedConnection);
+    } else if (event->type() == QEvent::KeyPress) {
+      return IsRefused(*dynamic_cast<QKeyEvent*>(event));
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  // Only keys that bring a character are judged; shortcuts, Enter and Tab are none of the text's.
+  bool IsRefused(const QKeyEvent& key) const {
+    const QString text = key.text();
+    if (text.size() != 1 || (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) return false;
+    const int code = text[0].unicode();
+    constexpr int Tab = 9;
+    constexpr int Enter = 13;
+    constexpr int Escape = 27;
+    if (code == Tab || code == Enter || code == Escape) return false;
+    return box_.KeyPress(code) == 0;
+  }
+
+  BindingHost& host_;
+  TextBox& box_;
+  QLineEdit& widget_;
+};
+
+// A text of several lines. An output is shown from its top, or where its selection stands.
+class TextAreaBinding : public QObject, public Binding {
+ public:
+  TextAreaBinding(BindingHost& host, TextBox& box, QPlainTextEdit& widget) : host_(host), box_(box), widget_(widget) {
+    widget_.setReadOnly(box.Kind() == TextKind::Output);
+    widget_.setTabChangesFocus(true);
+    connect(&widget_, &QPlainTextEdit::textChanged, this, [this] {
+      if (!widget_.isReadOnly()) host_.Act([this] { box_.SetText(FromQtLines(widget_.toPlainText())); });
+    });
+  }
+
+  void Show() override {
+    ShowState(widget_, box_);
+    if (box_.Font() != shownFont_) {
+      shownFont_ = box_.Font();
+      widget_.setFont(FontOf(shownFont_, widget_));
+    }
+    const QString text = ToQtLines(box_.Text());
+    if (widget_.toPlainText() == text && box_.SelectionStart() == shownStart_) return;
+    const QSignalBlocker quiet(widget_);
+    if (widget_.toPlainText() != text) widget_.setPlainText(text);
+    shownStart_ = box_.SelectionStart();
+    if (shownStart_ > 0) widget_.moveCursor(QTextCursor::End);
+    widget_.ensureCursorVisible();
+  }
+  void ShowTheme() override {
+    if (box_.Kind() == TextKind::Output) ShowAsOutput(widget_);
+  }
+  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
+  bool KeepsPlace() const override { return true; }
+
+ private:
+  BindingHost& host_;
+  TextBox& box_;
+  QPlainTextEdit& widget_;
+  FontChoice shownFont_;
+  std::size_t shownStart_ = 0;
+};
+
+}  // namespace
+
+BindingPointer BindLabel(BindingHost& host, const Label& label) { return std::make_unique<LabelBinding>(host, label); }
+BindingPointer BindFrame(BindingHost& host, const Frame& frame) { return std::make_unique<FrameBinding>(host, frame); }
+BindingPointer BindButton(BindingHost& host, const Button& button) {
+  return std::make_unique<ButtonBinding>(host, button);
+}
+
+BindingPointer BindTextBox(BindingHost& host, TextBox& box) {
+  QObject& object = FindObject(host, std::string(box.Name()));
+  if (auto* line = dynamic_cast<QLineEdit*>(&object)) return std::make_unique<LineEditBinding>(host, box, *line);
+  return std::make_unique<TextAreaBinding>(host, box, dynamic_cast<QPlainTextEdit&>(object));
+}
+
+}  // namespace orby

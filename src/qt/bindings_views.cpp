@@ -1,0 +1,230 @@
+// Grids, tabs, menus, tool bars, and widgets that are only shown.
+#include <QAction>
+#include <QApplication>
+#include <QHeaderView>
+#include <QMenu>
+#include <QSignalBlocker>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QToolBar>
+#include <QToolButton>
+#include <algorithm>
+
+#include "qt/bindings.h"
+#include "qt/chart_view.h"
+#include "qt/mnemonics.h"
+#include "qt/texts.h"
+
+namespace orby {
+namespace {
+
+// The models measure columns in twentieths of a point.
+constexpr int TwipsPerInch = 1440;
+
+// The column with the names takes the room that the numbers leave.
+constexpr int NameColumn = 1;
+
+// The blanks at the end of a caption are for the models alone; of two marked letters the first counts.
+QString EntryText(const QString& caption) {
+  QString text;
+  bool isMarked = false;
+  for (const QChar letter : caption.trimmed()) {
+    const bool isMark = letter == '&' && !text.endsWith('&');
+    if (!isMark || !isMarked) text += letter;
+    isMarked = isMarked || isMark;
+  }
+  return text;
+}
+
+class GridBinding : public Binding {
+ public:
+  GridBinding(BindingHost& host, Grid& grid)
+      : host_(host), grid_(grid), widget_(FindNamed<QTableWidget>(host, std::string(grid.Name()))) {
+    widget_.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    widget_.setSelectionBehavior(QAbstractItemView::SelectRows);
+    widget_.setSelectionMode(QAbstractItemView::SingleSelection);
+    widget_.setTabKeyNavigation(false);
+    widget_.verticalHeader()->hide();
+    widget_.verticalHeader()->setDefaultSectionSize(widget_.fontMetrics().height() * 3 / 2);
+    widget_.horizontalHeader()->setHighlightSections(false);
+    QObject::connect(&widget_, &QTableWidget::currentCellChanged, &widget_, [this](int row, int, int before, int) {
+      if (row >= 0 && row != before) host_.Act([this, row] { grid_.SetRow(row + grid_.FixedRows()); });
+    });
+    QObject::connect(&widget_, &QTableWidget::cellClicked, &widget_,
+                     [this](int row, int) { host_.Act([this, row] { grid_.ClickRow(row + grid_.FixedRows()); }); });
+  }
+
+  void Show() override {
+    const QSignalBlocker quiet(widget_);
+    widget_.setEnabled(grid_.Enabled());
+    widget_.setVisible(grid_.Visible());
+    const int rows = grid_.Rows() - grid_.FixedRows();
+    widget_.setRowCount(rows);
+    widget_.setColumnCount(grid_.Columns());
+    widget_.horizontalHeader()->setVisible(grid_.FixedRows() > 0);
+    if (grid_.Columns() > 1) widget_.horizontalHeader()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
+    for (int column = 0; column < grid_.Columns(); ++column) ShowColumn(column, rows);
+    const int row = grid_.Row() - grid_.FixedRows();
+    if (row != widget_.currentRow()) widget_.setCurrentCell(row, 0);
+  }
+  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
+
+ private:
+  void ShowColumn(int column, int rows) {
+    if (grid_.FixedRows() > 0) {
+      widget_.setHorizontalHeaderItem(column, new QTableWidgetItem(ToQt(grid_.Cell(0, column))));
+    }
+    for (int row = 0; row < rows; ++row) {
+      const QString text = ToQt(grid_.Cell(row + grid_.FixedRows(), column));
+      if (QTableWidgetItem* item = widget_.item(row, column)) {
+        item->setText(text);
+      } else {
+        widget_.setItem(row, column, new QTableWidgetItem(text));
+      }
+    }
+    const auto& widths = grid_.ColumnWidths();
+    const auto index = static_cast<std::size_t>(column);
+    const int wanted = index < widths.size() ? widths[index] * widget_.logicalDpiX() / TwipsPerInch : 0;
+    widget_.resizeColumnToContents(column);
+    widget_.setColumnWidth(column, std::max(wanted, widget_.columnWidth(column)));
+  }
+
+  BindingHost& host_;
+  Grid& grid_;
+  QTableWidget& widget_;
+};
+
+class TabBinding : public Binding {
+ public:
+  TabBinding(BindingHost& host, TabSet& tabs)
+      : host_(host), tabs_(tabs), widget_(FindNamed<QTabWidget>(host, std::string(tabs.Name()))) {
+    QObject::connect(&widget_, &QTabWidget::currentChanged, &widget_,
+                     [this](int tab) { host_.Act([this, tab] { tabs_.ClickTab(tab); }); });
+  }
+
+  void Show() override {
+    const QSignalBlocker quiet(widget_);
+    widget_.setEnabled(tabs_.Enabled());
+    widget_.setVisible(tabs_.Visible());
+    for (int tab = 0; tab < tabs_.Count(); ++tab) {
+      widget_.setTabText(tab, host_.Letters().Marked(&widget_, tab, tabs_.Caption(tab)));
+      widget_.setTabEnabled(tab, tabs_.TabEnabled(tab));
+    }
+    // Switching a tab off makes the widget leave it, which the model does not.
+    widget_.setCurrentIndex(tabs_.Tab());
+  }
+  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
+  std::vector<CaptionSlot> Captions() const override {
+    std::vector<CaptionSlot> captions;
+    for (int tab = 0; tab < tabs_.Count(); ++tab) captions.push_back({&widget_, tab, &widget_, tabs_.Caption(tab)});
+    return captions;
+  }
+
+ private:
+  BindingHost& host_;
+  TabSet& tabs_;
+  QTabWidget& widget_;
+};
+
+class MenuBinding : public Binding {
+ public:
+  MenuBinding(BindingHost& host, const Menu& menu)
+      : menu_(menu), widget_(FindNamed<QMenu>(host, std::string(menu.Name()))) {}
+
+  void Show() override { widget_.setTitle(ToQt(menu_.Caption())); }
+  std::vector<QWidget*> Widgets() const override { return {}; }
+  std::vector<CaptionSlot> Captions() const override { return {{&widget_, 0, &widget_, menu_.Caption()}}; }
+
+ private:
+  const Menu& menu_;
+  QMenu& widget_;
+};
+
+// The entries of a menu, or the buttons of a tool bar, which bears the name of the array then.
+class ActionBinding : public Binding {
+ public:
+  ActionBinding(BindingHost& host, const ActionArray& actions)
+      : host_(host), actions_(actions), bar_(host.Root().findChild<QToolBar*>(ToQt(actions.Name()))) {
+    for (int i = 0; i < actions.Count(); ++i) {
+      const auto* entry = host.Root().findChild<QAction*>(QString::fromStdString(MemberName(actions, i)));
+      if (entry == nullptr) continue;
+      QObject::connect(entry, &QAction::triggered, entry,
+                       [this, i] { host_.ActLater([this, i] { actions_.ClickItem(i); }); });
+    }
+  }
+
+  void Show() override {
+    if (bar_ != nullptr) bar_->setVisible(actions_.Visible());
+    for (int i = 0; i < actions_.Count(); ++i) {
+      auto* entry = host_.Root().findChild<QAction*>(QString::fromStdString(MemberName(actions_, i)));
+      if (entry != nullptr) ShowEntry(*entry, i);
+    }
+  }
+  std::vector<QWidget*> Widgets() const override {
+    if (bar_ == nullptr) return {};
+    return {bar_};
+  }
+
+ private:
+  void ShowEntry(QAction& entry, int index) {
+    entry.setSeparator(actions_.Caption(index) == ActionArray::Separator);
+    const QString text = EntryText(ToQt(actions_.Caption(index)));
+    // The letter of an entry that cannot be chosen would stand in the way of another's.
+    if (!entry.isSeparator()) entry.setText(actions_.ItemEnabled(index) ? text : QString(text).remove('&'));
+    entry.setVisible(actions_.Visible() && actions_.ItemVisible(index));
+    entry.setEnabled(actions_.Enabled() && actions_.ItemEnabled(index));
+    if (entry.isCheckable()) entry.setChecked(actions_.ItemChecked(index));
+  }
+
+  BindingHost& host_;
+  const ActionArray& actions_;
+  QToolBar* bar_;
+};
+
+class PlainBinding : public Binding {
+ public:
+  PlainBinding(BindingHost& host, const Control& control)
+      : control_(control), widget_(FindNamed<QWidget>(host, std::string(control.Name()))) {}
+
+  void Show() override { widget_.setVisible(control_.Visible()); }
+  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
+  bool KeepsPlace() const override { return true; }
+
+ private:
+  const Control& control_;
+  QWidget& widget_;
+};
+
+class ChartBinding : public Binding {
+ public:
+  ChartBinding(BindingHost& host, const Chart& chart)
+      : chart_(chart), widget_(FindNamed<ChartView>(host, std::string(chart.Name()))) {
+    widget_.SetMouseHandler([this, &host](const ChartHit& hit) {
+      host.Act([this, &hit] {
+        if (chart_.MouseMove) chart_.MouseMove(hit);
+      });
+    });
+  }
+
+  void Show() override { widget_.ShowChart(chart_); }
+  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
+
+ private:
+  const Chart& chart_;
+  ChartView& widget_;
+};
+
+}  // namespace
+
+BindingPointer BindGrid(BindingHost& host, Grid& grid) { return std::make_unique<GridBinding>(host, grid); }
+BindingPointer BindTabSet(BindingHost& host, TabSet& tabs) { return std::make_unique<TabBinding>(host, tabs); }
+BindingPointer BindMenu(BindingHost& host, const Menu& menu) { return std::make_unique<MenuBinding>(host, menu); }
+BindingPointer BindActionArray(BindingHost& host, const ActionArray& actions) {
+  return std::make_unique<ActionBinding>(host, actions);
+}
+BindingPointer BindPlain(BindingHost& host, const Control& control) {
+  return std::make_unique<PlainBinding>(host, control);
+}
+BindingPointer BindChart(BindingHost& host, const Chart& chart) { return std::make_unique<ChartBinding>(host, chart); }
+
+}  // namespace orby

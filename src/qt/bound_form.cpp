@@ -1,0 +1,183 @@
+#include "qt/bound_form.h"
+
+#include <QDialog>
+#include <QEvent>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QToolBar>
+#include <algorithm>
+
+#include "qt/boundary.h"
+#include "qt/texts.h"
+
+namespace orby {
+namespace {
+
+bool ShowsControlNames() { return qEnvironmentVariable("ORBY_ACCESSIBLE_IDS") == "1"; }
+
+// What a screen reader says of a field that has no label of its own: the frame around it, else the window.
+QString PlaceCaption(const QWidget& widget) {
+  for (const QWidget* at = widget.parentWidget(); at != nullptr; at = at->parentWidget()) {
+    if (const auto* frame = dynamic_cast<const QGroupBox*>(at)) return frame->title();
+  }
+  return widget.window()->windowTitle();
+}
+
+void NameAfterLabel(const QLabel& label) {
+  if (label.buddy() != nullptr) label.buddy()->setAccessibleName(label.text().remove('&'));
+}
+
+// Buttons choose their letters first: they stand at the end of the way of the tab key. Options choose last: the arrows
+// reach them from the one that is on.
+int LetterRank(const CaptionSlot& slot) {
+  if (dynamic_cast<const QPushButton*>(slot.key) != nullptr) return 0;
+  return dynamic_cast<const QRadioButton*>(slot.key) == nullptr ? 1 : 2;
+}
+
+}  // namespace
+
+BoundForm::BoundForm(Form& form, QWidget& root) : form_(form), root_(root) {
+  BindControls();
+  AssignLetters();
+  for (const Control* control : form.Controls()) bindings_.at(control)->Show();
+  CaptionChanged();
+  KeepPlaces();
+  OrderTabs();
+  NameForReaders();
+  ShowTheme();
+  root.installEventFilter(this);
+  form.SetView(this);
+}
+
+BoundForm::~BoundForm() { Untie(); }
+
+void BoundForm::Untie() {
+  if (tied_ && form_.View() == this) form_.SetView(nullptr);
+  tied_ = false;
+}
+
+void BoundForm::ShowTheme() {
+  for (const auto& [control, binding] : bindings_) binding->ShowTheme();
+}
+
+bool BoundForm::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::PaletteChange) ShowTheme();
+  return QObject::eventFilter(watched, event);
+}
+
+void BoundForm::BindControls() {
+  for (Control* control : form_.Controls()) bindings_.emplace(control, Bind(*this, *control));
+}
+
+void BoundForm::AssignLetters() {
+  std::vector<CaptionSlot> captions;
+  for (const Control* control : form_.Controls()) {
+    for (CaptionSlot& slot : bindings_.at(control)->Captions()) captions.push_back(std::move(slot));
+  }
+  std::ranges::stable_sort(captions, {}, LetterRank);
+  letters_.Assign(captions);
+}
+
+// In a dialog nothing moves when something appears. In a window with a view that fills it, the view gets the place.
+void BoundForm::KeepPlaces() {
+  if (dynamic_cast<QDialog*>(&root_) == nullptr) return;
+  for (const auto& [control, binding] : bindings_) {
+    if (!binding->KeepsPlace()) continue;
+    for (QWidget* widget : binding->Widgets()) {
+      QSizePolicy policy = widget->sizePolicy();
+      policy.setRetainSizeWhenHidden(true);
+      widget->setSizePolicy(policy);
+    }
+  }
+}
+
+void BoundForm::OrderTabs() {
+  QWidget* before = nullptr;
+  for (const Control* control : form_.Controls()) {
+    for (QWidget* widget : bindings_.at(control)->Widgets()) {
+      if (widget->focusPolicy() == Qt::NoFocus) continue;
+      if (before != nullptr) QWidget::setTabOrder(before, widget);
+      before = widget;
+    }
+  }
+}
+
+void BoundForm::NameForReaders() {
+  const bool ids = ShowsControlNames();
+  for (const Control* control : form_.Controls()) {
+    for (QWidget* widget : bindings_.at(control)->Widgets()) {
+      if (const auto* label = dynamic_cast<const QLabel*>(widget)) NameAfterLabel(*label);
+      if (ids) widget->setAccessibleDescription(widget->objectName());
+    }
+  }
+  for (const Control* control : form_.Controls()) {
+    for (QWidget* widget : bindings_.at(control)->Widgets()) {
+      const bool hasText = widget->property("text").isValid() && dynamic_cast<QLineEdit*>(widget) == nullptr;
+      if (hasText || !widget->accessibleName().isEmpty() || widget->focusPolicy() == Qt::NoFocus) continue;
+      widget->setAccessibleName(PlaceCaption(*widget));
+    }
+  }
+}
+
+QWidget* BoundForm::WidgetOf(const Control& control) const {
+  const auto found = bindings_.find(&control);
+  if (found == bindings_.end() || found->second->Widgets().empty()) return nullptr;
+  return found->second->Widgets().front();
+}
+
+void BoundForm::ControlChanged(const Control& control) {
+  const auto found = bindings_.find(&control);
+  if (found == bindings_.end()) return;
+  found->second->Show();
+}
+
+void BoundForm::CaptionChanged() { root_.setWindowTitle(ToQt(form_.Caption())); }
+
+// Obeyed only where the control can be seen and used.
+void BoundForm::FocusRequested(Control& control) {
+  const auto found = bindings_.find(&control);
+  QWidget* widget = found == bindings_.end() ? nullptr : found->second->FocusWidget();
+  if (widget != nullptr && widget->isVisible() && widget->isEnabled()) widget->setFocus(Qt::OtherFocusReason);
+}
+
+void BoundForm::ShowFocus() {
+  if (Control* wanted = form_.FocusRequest()) FocusRequested(*wanted);
+}
+
+void BoundForm::CloseByUser() {
+  Act([this] {
+    if (form_.MayClose()) form_.Close();
+  });
+}
+
+void BoundForm::Closed() {
+  Untie();
+  if (Finished) Finished();
+}
+
+void BoundForm::Act(const std::function<void()>& act) {
+  if (RunGuarded(act) && form_.Acted && form_.IsOpen()) RunGuarded(form_.Acted);
+}
+
+void BoundForm::ActLater(std::function<void()> act) {
+  // A second press that waits behind the one that closes the form has nothing to act on.
+  const auto actIfOpen = [this, act = std::move(act)] {
+    if (tied_) Act(act);
+  };
+  QMetaObject::invokeMethod(this, actIfOpen, Qt::QueuedConnection);
+}
+
+QWidget* WidgetOnScreen(const Control& control) {
+  const auto* view = dynamic_cast<const BoundForm*>(control.Owner().View());
+  return view == nullptr ? nullptr : view->WidgetOf(control);
+}
+
+QWidget* WindowOnScreen(const Form& form) {
+  const auto* view = dynamic_cast<const BoundForm*>(form.View());
+  return view == nullptr ? nullptr : &view->Root();
+}
+
+}  // namespace orby

@@ -1,0 +1,35 @@
+// Everything that the program asks of the desktop, in one.
+#pragma once
+
+#include "platform/disk_files.h"
+#include "platform/platform.h"
+#include "qt/documents.h"
+#include "qt/file_dialogs.h"
+#include "qt/message_boxes.h"
+#include "qt/printer.h"
+#include "qt/surroundings.h"
+#include "qt/windows.h"
+
+namespace orby {
+
+struct Desktop {
+  explicit Desktop(const std::string& programFolder) : files(programFolder) {}
+
+  QtMessageBoxes boxes;
+  DiskFiles files;
+  QtFileDialogs fileDialogs;
+  QtWindows windows;
+  QtFonts fonts;
+  QtLocale locale;
+  QtClock clock;
+  QtUserFolders userFolders;
+  QtClipboard clipboard;
+  QtPrinter printer;
+  QtDocuments documents;
+
+  Platform Doors() {
+    return {boxes, files, fileDialogs, windows, fonts, locale, clock, userFolders, clipboard, printer, documents};
+  }
+};
+
+}  // namespace orby

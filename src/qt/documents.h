@@ -1,0 +1,14 @@
+// Other programs of the desktop, found by its own rules for what opens which file.
+#pragma once
+
+#include "platform/documents.h"
+
+namespace orby {
+
+class QtDocuments : public Documents {
+ public:
+  bool Open(const std::string& path) override;
+  void OpenSheet(const Sheet& sheet, const std::string& path) override;
+};
+
+}  // namespace orby

@@ -1,0 +1,93 @@
+#include "qt/main_view.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QScreen>
+#include <QToolBar>
+#include <QUrl>
+#include <array>
+
+#include "qt/boundary.h"
+#include "qt/pictures.h"
+#include "qt/texts.h"
+#include "shell/main_window.h"
+
+namespace orby {
+namespace {
+
+struct Dress {
+  const char* action;
+  const char* icon;
+  const char* shortcut;
+};
+
+constexpr std::array Dresses{
+    Dress{"mnuFileItem_0", nullptr, "Ctrl+N"},     Dress{"mnuFileItem_1", "open", "Ctrl+O"},
+    Dress{"mnuFileItem_2", "save", "Ctrl+S"},      Dress{"mnuFileItem_3", nullptr, "Ctrl+Shift+S"},
+    Dress{"mnuFileItem_6", "print", "Ctrl+P"},     Dress{"mnuEditItem_0", "description", nullptr},
+    Dress{"mnuEditItem_1", "parameters", nullptr}, Dress{"mnuHelpItem_0", nullptr, "F1"},
+    Dress{"Toolbar1_1", "open", nullptr},          Dress{"Toolbar1_2", "save", nullptr},
+    Dress{"Toolbar1_3", "print", nullptr},         Dress{"Toolbar1_4", "description", nullptr},
+    Dress{"Toolbar1_5", "parameters", nullptr},
+};
+
+// Takes the one file that is dropped on the window.
+class DropTarget : public QObject {
+ public:
+  DropTarget(QMainWindow& window, MainWindow& model) : QObject(&window), model_(model) {
+    window.setAcceptDrops(true);
+    window.installEventFilter(this);
+    // The pane would take the name of the file as a text.
+    for (auto* pane : window.findChildren<QPlainTextEdit*>()) pane->setAcceptDrops(false);
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::DragEnter) {
+      auto& drag = *dynamic_cast<QDragEnterEvent*>(event);
+      if (!FileOf(*drag.mimeData()).isEmpty()) drag.acceptProposedAction();
+      return true;
+    }
+    if (event->type() == QEvent::Drop) {
+      auto& drop = *dynamic_cast<QDropEvent*>(event);
+      drop.acceptProposedAction();
+      // The program that the file comes from waits for the drop to end; opening may ask questions.
+      QMetaObject::invokeMethod(
+          this, [this, file = FileOf(*drop.mimeData())] { RunGuarded([&] { model_.Dropped(FromQt(file)); }); },
+          Qt::QueuedConnection);
+      return true;
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  static QString FileOf(const QMimeData& data) {
+    const QList<QUrl> urls = data.urls();
+    if (urls.size() != 1 || !urls.front().isLocalFile()) return {};
+    const QString path = urls.front().toLocalFile();
+    return QFileInfo(path).isFile() ? path : QString();
+  }
+
+  MainWindow& model_;
+};
+
+}  // namespace
+
+void DressMainWindow(QMainWindow& window, MainWindow& model) {
+  QApplication::setWindowIcon(ThemedIcon("orby"));
+  for (const Dress& dress : Dresses) {
+    auto* action = window.findChild<QAction*>(dress.action);
+    if (dress.icon != nullptr) action->setIcon(ThemedIcon(dress.icon));
+    if (dress.shortcut != nullptr) action->setShortcut(QKeySequence(dress.shortcut));
+  }
+  // The icons have made the tool bar longer than the window was made for.
+  const QSize whole(window.findChild<QToolBar*>()->sizeHint().width(), 0);
+  if (!window.isMaximized()) window.resize(window.size().expandedTo(whole).boundedTo(window.screen()->size()));
+  new DropTarget(window, model);
+}
+
+}  // namespace orby

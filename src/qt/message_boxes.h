@@ -1,0 +1,13 @@
+// Message boxes of the desktop.
+#pragma once
+
+#include "platform/message_boxes.h"
+
+namespace orby {
+
+class QtMessageBoxes : public MessageBoxes {
+ public:
+  int Show(const MessageBox& box) override;
+};
+
+}  // namespace orby

@@ -1,0 +1,99 @@
+#include "qt/mnemonics.h"
+
+#include <QTabWidget>
+#include <algorithm>
+#include <array>
+
+#include "qt/texts.h"
+
+namespace orby {
+namespace {
+
+// The pages of tab sets around a widget, the outermost first: two captions can be on view together when the pages of
+// one begin with those of the other.
+using Pages = std::vector<const QWidget*>;
+
+Pages PagesAround(const QWidget* widget) {
+  Pages pages;
+  for (const QWidget* at = widget; at != nullptr; at = at->parentWidget()) {
+    const auto* stack = at->parentWidget();
+    const auto* tabs = stack == nullptr ? nullptr : dynamic_cast<const QTabWidget*>(stack->parentWidget());
+    if (tabs != nullptr && tabs->indexOf(at) >= 0) pages.insert(pages.begin(), at);
+  }
+  return pages;
+}
+
+bool CanMeet(const Pages& a, const Pages& b) {
+  const auto common = static_cast<Pages::difference_type>(std::min(a.size(), b.size()));
+  return std::equal(a.begin(), a.begin() + common, b.begin());
+}
+
+struct Taken {
+  Pages pages;
+  QChar letter;
+};
+
+// Enter and Escape reach these.
+bool NeedsNoLetter(std::string_view caption) {
+  constexpr std::array<std::string_view, 2> Keys{"OK", "Cancel"};
+  return std::ranges::find(Keys, caption) != Keys.end();
+}
+
+// The first letter of a word if one is free, else the first free letter at all.
+QChar FreeLetter(const QString& caption, const std::vector<Taken>& taken, const Pages& pages) {
+  const auto isFree = [&](QChar letter) {
+    return std::ranges::none_of(
+        taken, [&](const Taken& entry) { return entry.letter == letter && CanMeet(entry.pages, pages); });
+  };
+  for (const bool wordStartsOnly : {true, false}) {
+    for (qsizetype i = 0; i < caption.size(); ++i) {
+      const bool startsWord = i == 0 || !caption[i - 1].isLetter();
+      if (!caption[i].isLetter() || (wordStartsOnly && !startsWord)) continue;
+      if (isFree(caption[i].toLower())) return caption[i].toLower();
+    }
+  }
+  return {};
+}
+
+}  // namespace
+
+QChar OwnLetter(const QString& caption) {
+  const qsizetype at = caption.indexOf('&');
+  return at >= 0 && at + 1 < caption.size() && caption[at + 1] != '&' ? caption[at + 1].toLower() : QChar();
+}
+
+void Mnemonics::Assign(const std::vector<CaptionSlot>& captions) {
+  std::vector<Taken> taken;
+  std::vector<std::pair<Pages, const CaptionSlot*>> open;
+  for (const CaptionSlot& slot : captions) {
+    const QChar own = OwnLetter(ToQt(slot.caption));
+    Pages pages = PagesAround(slot.place);
+    if (!own.isNull()) {
+      taken.push_back({std::move(pages), own});
+    } else if (!NeedsNoLetter(slot.caption)) {
+      open.emplace_back(std::move(pages), &slot);
+    }
+  }
+  std::ranges::stable_sort(open, {}, [](const auto& entry) { return entry.first.size(); });
+  for (auto& [pages, slot] : open) {
+    const QChar letter = FreeLetter(ToQt(slot->caption), taken, pages);
+    if (letter.isNull()) continue;
+    letters_[{slot->key, slot->index}] = letter;
+    taken.push_back({std::move(pages), letter});
+  }
+}
+
+QString Mnemonics::Marked(const QObject* key, int index, std::string_view caption) const {
+  QString text = ToQt(caption);
+  const auto found = letters_.find({key, index});
+  if (found == letters_.end()) return text;
+  for (const bool wordStartsOnly : {true, false}) {
+    for (qsizetype i = 0; i < text.size(); ++i) {
+      const bool startsWord = i == 0 || !text[i - 1].isLetter();
+      if (text[i].toLower() == found->second && (startsWord || !wordStartsOnly)) return text.insert(i, '&');
+    }
+  }
+  return text;
+}
+
+}  // namespace orby

@@ -1,0 +1,64 @@
+#include "qt/surroundings.h"
+
+#include <QClipboard>
+#include <QDate>
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QLocale>
+#include <QStandardPaths>
+#include <QTimer>
+
+#include "qt/bound_form.h"
+#include "qt/boundary.h"
+#include "qt/chart_view.h"
+#include "qt/texts.h"
+
+namespace orby {
+namespace {
+
+std::optional<std::string> Folder(QStandardPaths::StandardLocation location) {
+  const QString path = QStandardPaths::writableLocation(location);
+  if (path.isEmpty()) return std::nullopt;
+  return FromQt(path);
+}
+
+}  // namespace
+
+std::vector<std::string> QtFonts::ScreenFonts() {
+  // The desktop's own font comes first: it is what stands in for a font that is not there.
+  std::vector<std::string> names{FromQt(QGuiApplication::font().family())};
+  for (const QString& family : QFontDatabase::families()) names.push_back(FromQt(family));
+  return names;
+}
+
+// What is on the screen can be printed.
+std::vector<std::string> QtFonts::PrinterFonts() { return ScreenFonts(); }
+
+std::string QtLocale::DecimalSeparator() { return FromQt(QLocale::system().decimalPoint()); }
+
+Date QtClock::Today() {
+  const QDate today = QDate::currentDate();
+  return {today.year(), today.month(), today.day()};
+}
+
+void QtClock::CallLater(int milliseconds, std::function<void()> act) {
+  QTimer::singleShot(milliseconds, qApp, [act = std::move(act)] { RunGuarded(act); });
+}
+
+std::optional<std::string> QtUserFolders::Documents() { return Folder(QStandardPaths::DocumentsLocation); }
+std::optional<std::string> QtUserFolders::Desktop() { return Folder(QStandardPaths::DesktopLocation); }
+
+void QtClipboard::Clear() { QGuiApplication::clipboard()->clear(); }
+void QtClipboard::SetText(const std::string& text) { QGuiApplication::clipboard()->setText(ToQt(text)); }
+
+void QtClipboard::SetPicture(const Control& chart) {
+  if (const auto* view = dynamic_cast<const ChartView*>(WidgetOnScreen(chart))) {
+    QGuiApplication::clipboard()->setPixmap(view->Picture(view->width(), view->height()));
+  }
+}
+
+void QtClipboard::SetPicture(const Form& form) {
+  if (QWidget* window = WindowOnScreen(form)) QGuiApplication::clipboard()->setPixmap(window->grab());
+}
+
+}  // namespace orby

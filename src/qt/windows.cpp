@@ -1,0 +1,205 @@
+#include "qt/windows.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDialog>
+#include <QMainWindow>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <array>
+#include <stdexcept>
+
+#include <ui_cost_dialog.h>
+#include <ui_description_dialog.h>
+#include <ui_estimator_dialog.h>
+#include <ui_graph_options_dialog.h>
+#include <ui_graph_window.h>
+#include <ui_main_window.h>
+#include <ui_parameters_dialog.h>
+#include <ui_preview_window.h>
+#include <ui_results_window.h>
+#include "core/dialog_helpers.h"
+
+namespace orby {
+namespace {
+
+// A window that asks its form before it closes.
+template <class Base>
+class AskingWindow : public Base {
+ public:
+  using Base::Base;
+
+  void SetView(BoundForm* view) { view_ = view; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override {
+    if (view_ == nullptr || !view_->Model().IsOpen()) return Base::closeEvent(event);
+    event->ignore();
+    view_->CloseByUser();
+  }
+
+ private:
+  BoundForm* view_ = nullptr;
+};
+
+class DialogWindow : public AskingWindow<QDialog> {
+ public:
+  using AskingWindow::AskingWindow;
+
+  // The Escape key closes as the window's own button does.
+  void reject() override { close(); }
+};
+
+using MainOrGraphWindow = AskingWindow<QMainWindow>;
+
+template <class Layout, class Window>
+std::unique_ptr<QWidget> Make(QWidget* parent) {
+  auto window = std::make_unique<Window>(parent);
+  Layout layout;
+  layout.setupUi(window.get());
+  return window;
+}
+
+struct LayoutEntry {
+  std::string_view form;
+  std::unique_ptr<QWidget> (*make)(QWidget* parent);
+};
+
+constexpr std::array Layouts{
+    LayoutEntry{"frmMain", Make<Ui::frmMain, MainOrGraphWindow>},
+    LayoutEntry{"frmPENVParm", Make<Ui::frmPENVParm, DialogWindow>},
+    LayoutEntry{"frmTULKCost", Make<Ui::frmTULKCost, DialogWindow>},
+    LayoutEntry{"frmTULKDesc", Make<Ui::frmTULKDesc, DialogWindow>},
+    LayoutEntry{"frmCMRREst", Make<Ui::frmCMRREst, DialogWindow>},
+    LayoutEntry{"frmResTxtPlt", Make<Ui::frmResTxtPlt, DialogWindow>},
+    LayoutEntry{"frmPreview", Make<Ui::frmPreview, DialogWindow>},
+    LayoutEntry{"frmGraph", Make<Ui::frmGraph, MainOrGraphWindow>},
+    LayoutEntry{"frmGraphOpt", Make<Ui::frmGraphOpt, DialogWindow>},
+};
+
+void TieClosing(QWidget& window, BoundForm& view) {
+  if (auto* dialog = dynamic_cast<DialogWindow*>(&window)) {
+    dialog->SetView(&view);
+  } else {
+    dynamic_cast<MainOrGraphWindow&>(window).SetView(&view);
+  }
+}
+
+// The size in which all of the window shows, what lies in its scroll area included.
+QSize WholeSize(QWidget& window) {
+  for (QWidget* child : window.findChildren<QWidget*>()) child->ensurePolished();
+  window.ensurePolished();
+  QSize size = window.sizeHint();
+  if (const auto* scroll = window.findChild<QScrollArea*>("viewScroll")) {
+    size += scroll->widget()->sizeHint() - scroll->sizeHint();
+  }
+  return size;
+}
+
+// In the middle of the screen, and no larger than it.
+void Place(QWidget& window) {
+  const QRect screen = window.screen()->availableGeometry();
+  window.resize(WholeSize(window).boundedTo(screen.size()));
+  const Position at = CenterForm({window.width(), window.height()}, {screen.width(), screen.height()});
+  window.move(screen.left() + at.left, screen.top() + at.top);
+}
+
+// The window that a new one stands on: the dialog in use or the window in use that stands on it, such as a graph, else
+// the main window while it is on view.
+QWidget* WindowBelow(QWidget* mainWindow) {
+  if (QWidget* modal = QApplication::activeModalWidget()) {
+    QWidget* active = QApplication::activeWindow();
+    return active != nullptr && active->isVisible() && active->parentWidget() == modal ? active : modal;
+  }
+  return mainWindow != nullptr && mainWindow->isVisible() ? mainWindow : nullptr;
+}
+
+}  // namespace
+
+std::unique_ptr<QWidget> MakeWindow(const Form& form, QWidget* parent) {
+  const auto* entry = std::ranges::find(Layouts, form.Name(), &LayoutEntry::form);
+  if (entry == Layouts.end()) throw std::logic_error("no layout for " + std::string(form.Name()));
+  return entry->make(parent);
+}
+
+QtWindows::QtWindows() = default;
+QtWindows::~QtWindows() = default;
+
+QtWindows::Shown QtWindows::MakeShown(Form& form, QWidget* parent) {
+  Shown shown;
+  shown.window = MakeWindow(form, parent);
+  shown.view = std::make_unique<BoundForm>(form, *shown.window);
+  TieClosing(*shown.window, *shown.view);
+  Place(*shown.window);
+  return shown;
+}
+
+void QtWindows::ShowMain(Form& form, bool maximized) {
+  main_ = MakeShown(form, nullptr);
+  main_.view->Finished = [] { QApplication::quit(); };
+  if (maximized) {
+    main_.window->showMaximized();
+  } else {
+    main_.window->show();
+  }
+}
+
+QMainWindow& QtWindows::Main() const { return dynamic_cast<QMainWindow&>(*main_.window); }
+
+void QtWindows::ShowModal(Form& form) {
+  const QPointer<QWidget> below(WindowBelow(main_.window.get()));
+  Shown shown = MakeShown(form, below);
+  auto& dialog = dynamic_cast<QDialog&>(*shown.window);
+  shown.view->Finished = [&dialog] { dialog.done(QDialog::Accepted); };
+  dialog.setModal(true);
+  dialog.show();
+  shown.view->ShowFocus();
+  if (form.IsOpen()) dialog.exec();
+  // A main window that has come back meanwhile must not cover what is in use again.
+  shown.window->hide();
+  if (below == nullptr || !below->isVisible()) return;
+  below->raise();
+  below->activateWindow();
+}
+
+void QtWindows::Show(Form& form) {
+  auto found = modeless_.find(&form);
+  if (found == modeless_.end()) {
+    found = modeless_.emplace(&form, MakeShown(form, WindowBelow(main_.window.get()))).first;
+    // A window manager keeps only dialogs above the window that they belong to.
+    found->second.window->setWindowFlag(Qt::Dialog);
+    found->second.view->Finished = [this, &form] {
+      // It may be one of the window's own events that closes it. Until it is gone it must be no window to stand on.
+      auto node = modeless_.extract(&form);
+      node.mapped().window->hide();
+      node.mapped().window.release()->deleteLater();
+      node.mapped().view.release()->deleteLater();
+    };
+  }
+  QWidget& window = *found->second.window;
+  window.show();
+  window.raise();
+  window.activateWindow();
+}
+
+// The place on the screen survives.
+void QtWindows::ShowMainWindow(bool visible) {
+  if (!main_.window || main_.window->isVisible() == visible) return;
+  const QByteArray place = main_.window->saveGeometry();
+  main_.window->setVisible(visible);
+  main_.window->restoreGeometry(place);
+}
+
+void QtWindows::SetWaitCursor(bool waiting) {
+  if (waiting == waiting_) return;
+  waiting_ = waiting;
+  if (waiting) {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QGuiApplication::restoreOverrideCursor();
+  }
+}
+
+}  // namespace orby

@@ -1,0 +1,151 @@
+// Opening files with the programs of the desktop, which two scripts stand in for.
+#include "qt/documents.h"
+
+#include <QFile>
+#include <QTextStream>
+
+#include "gui/report_bench.h"
+#include "gui/sheet_bench.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::Eq;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+// A desktop that knows no program, until it is given its tools.
+class FakeDesktop {
+ public:
+  FakeDesktop() : path_(qgetenv("PATH")) { qputenv("PATH", folder_.path().toUtf8()); }
+  ~FakeDesktop() { qputenv("PATH", path_); }
+  FakeDesktop(const FakeDesktop&) = delete;
+  FakeDesktop& operator=(const FakeDesktop&) = delete;
+
+  // The program that the desktop names for a spreadsheet; empty for none.
+  void AddTypes(const QString& program) { AddScript("xdg-mime", "echo '" + program + "'"); }
+  void AddOpener() { AddScript("xdg-open", "printf '%s' \"$1\" > '" + OpenedFile() + "'"); }
+
+  // The file that was opened last; waits for it, for the opener runs by itself.
+  std::string Opened() const {
+    QByteArray opened;
+    const auto isThere = [&] {
+      QFile file(OpenedFile());
+      if (file.open(QIODevice::ReadOnly)) opened = file.readAll();
+      return !opened.isEmpty();
+    };
+    return QTest::qWaitFor(isThere) ? opened.toStdString() : std::string();
+  }
+
+  QString File(const QString& name) const { return folder_.filePath(name); }
+
+ private:
+  QString OpenedFile() const { return folder_.filePath("opened"); }
+  void AddScript(const QString& name, const QString& command) const {
+    QFile script(folder_.filePath(name));
+    if (!script.open(QIODevice::WriteOnly)) throw std::logic_error("no script");
+    QTextStream(&script) << "#!/bin/sh\n" << command << "\n";
+    script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+  }
+
+  QTemporaryDir folder_;
+  QByteArray path_;
+};
+
+class OpeningDocuments : public testing::Test {
+ protected:
+  // The error of the sheet's opening, and its words.
+  std::pair<int, std::string> ErrorOfSheet() {
+    try {
+      documents.OpenSheet({"", "Depth of Cover (ft)", "Suggested PSUP", {{"X-coord", "Sug.PSUP", {200}, {3.25}}}},
+                          sheet);
+      return {};
+    } catch (const RuntimeError& error) {
+      return {error.number(), std::string(error.description())};
+    }
+  }
+
+  FakeDesktop desktop;
+  const std::string sheet = desktop.File("ORBY curve.xlsx").toStdString();
+  QtDocuments documents;
+};
+
+TEST_F(OpeningDocuments, HandsAFileToTheDesktop) {
+  desktop.AddOpener();
+
+  EXPECT_TRUE(documents.Open("/program/ORBY.PDF"));
+
+  EXPECT_THAT(desktop.Opened(), Eq("/program/ORBY.PDF"));
+}
+
+TEST_F(OpeningDocuments, TellsWhenTheDesktopHasNoOpener) { EXPECT_FALSE(documents.Open("/program/ORBY.PDF")); }
+
+TEST_F(OpeningDocuments, WritesASheetAndOpensIt) {
+  desktop.AddTypes("calc.desktop");
+  desktop.AddOpener();
+
+  EXPECT_EQ(ErrorOfSheet().first, 0);
+
+  EXPECT_THAT(desktop.Opened(), Eq(sheet));
+  EXPECT_TRUE(QFile::exists(ToQt(sheet)));
+}
+
+TEST_F(OpeningDocuments, SaysWhereTheSheetIsWhenNoProgramOpensIt) {
+  desktop.AddTypes("");
+  desktop.AddOpener();
+
+  const auto [number, words] = ErrorOfSheet();
+
+  EXPECT_EQ(number, 429);
+  EXPECT_THAT(words, HasSubstr(sheet));
+  EXPECT_TRUE(QFile::exists(ToQt(sheet)));
+}
+
+TEST_F(OpeningDocuments, SaysWhereTheSheetIsOnADesktopWithoutTools) {
+  const auto [number, words] = ErrorOfSheet();
+
+  EXPECT_EQ(number, 429);
+  EXPECT_THAT(words, HasSubstr(sheet));
+}
+
+// ---- the export of the graph ----------------------------------------------------------------------------------------
+
+class GraphExport : public GraphViewTest {
+ protected:
+  GraphExport() : GraphViewTest({.documents = &documents}) {
+    program.folders.ProgramTemporary = desktop.File("").toStdString() + "/";
+  }
+  // By the keys: the entry below Print has no letter.
+  void Export() {
+    Press(Qt::Key_F, Qt::AltModifier);
+    PressInMenu(Qt::Key_Down);
+    PressInMenu(Qt::Key_Return);
+  }
+
+  FakeDesktop desktop;
+  QtDocuments documents;
+};
+
+TEST_F(GraphExport, OpensTheCurveInASpreadsheet) {
+  desktop.AddTypes("calc.desktop");
+  desktop.AddOpener();
+
+  Export();
+
+  const std::string opened = desktop.Opened();
+  EXPECT_THAT(opened, testing::EndsWith("/ORBY Suggested PSUP vs Depth of Cover.xlsx"));
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Exported 1 Curve"));
+}
+
+TEST_F(GraphExport, TellsWhereTheFileIsWithoutASpreadsheetProgram) {
+  platform.boxes.answers = {box_result::Cancel};
+
+  Export();
+
+  ASSERT_THAT(platform.boxes.shown, testing::Not(IsEmpty()));
+  EXPECT_THAT(platform.boxes.shown[0].text, HasSubstr("ORBY Suggested PSUP vs Depth of Cover.xlsx"));
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,150 @@
+// The graph window as its user sees it.
+#include <QAction>
+#include <QClipboard>
+#include <QGroupBox>
+#include <QImage>
+
+#include "gui/report_bench.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsNull;
+
+class GraphView : public GraphViewTest {
+ protected:
+  GraphView() : GraphViewTest({.clipboard = &clipboard}) {}
+
+  void ShowPointID() {
+    Press(Qt::Key_O, Qt::AltModifier);
+    PressInMenu(Qt::Key_Return);
+  }
+  // The pointer so many pixels beside a point.
+  void PointAt(int point, int beside) { MoveOver(View(), Drawn().PlaceOf(0, point).toPoint() + QPoint(beside, 0)); }
+  std::vector<std::string> ReadOut() {
+    return {TextOn(View(), "lblX"), TextOn(View(), "lblSF"), TextOn(View(), "lblCurve")};
+  }
+
+  QtClipboard clipboard;
+};
+
+TEST_F(GraphView, DrawsThePointsOfTheCurve) {
+  const auto data = Plot().graph(0)->data();
+  std::vector<std::pair<double, double>> points;
+  for (const QCPGraphData& point : *data) points.emplace_back(point.key, point.value);
+
+  EXPECT_EQ(Plot().graphCount(), 1);
+  EXPECT_THAT(points, ElementsAre(std::pair(200.0, 3.25), std::pair(240.0, 4.5), std::pair(300.0, 5.75)));
+  EXPECT_EQ(Plot().xAxis->label(), "Depth of Cover (ft)");
+  EXPECT_EQ(Plot().yAxis->label(), "Suggested PSUP");
+  EXPECT_EQ(Plot().graph(0)->name(), "Sug.PSUP");
+}
+
+TEST_F(GraphView, KeepsEveryPointInsideThePlot) {
+  const QRect plot = Plot().axisRect()->rect();
+
+  for (int point = 0; point < 3; ++point) {
+    EXPECT_TRUE(plot.contains(Plot().mapFrom(&Drawn(), Drawn().PlaceOf(0, point).toPoint()))) << point;
+  }
+}
+
+TEST_F(GraphView, KeepsTheLegendAwayFromTheCurve) {
+  const QRect legend = Plot().legend->rect();
+
+  ASSERT_TRUE(Plot().legend->visible());
+  for (int point = 0; point < 3; ++point) {
+    EXPECT_FALSE(legend.contains(Plot().mapFrom(&Drawn(), Drawn().PlaceOf(0, point).toPoint()))) << point;
+  }
+}
+
+TEST_F(GraphView, ReadsOutAPointWithinFourPixels) {
+  ShowPointID();
+
+  PointAt(1, 3);
+
+  EXPECT_THAT(ReadOut(), ElementsAre("240.00", "4.50", "Sug.PSUP"));
+}
+
+TEST_F(GraphView, DoesNotReadOutAPointFartherAway) {
+  ShowPointID();
+
+  PointAt(1, 5);
+
+  EXPECT_THAT(ReadOut(), ElementsAre("", "", ""));
+}
+
+TEST_F(GraphView, KeepsTheReadOutAwayFromEveryPointInsideThePlot) {
+  ShowPointID();
+  PointAt(2, 0);
+
+  PointAt(2, -40);
+
+  EXPECT_THAT(ReadOut(), ElementsAre("300.00", "5.75", "Sug.PSUP"));
+}
+
+TEST_F(GraphView, ClearsTheReadOutOutsideThePlot) {
+  ShowPointID();
+  PointAt(2, 0);
+
+  MoveOver(View(), QPoint(2, 2));
+
+  EXPECT_THAT(ReadOut(), ElementsAre("", "", ""));
+}
+
+TEST_F(GraphView, ShowsTheReadOutOnlyWhenAsked) {
+  const auto& frame = Find<QGroupBox>(View(), "Frame1");
+  const auto* entry = View().findChild<QAction*>("GraphOptionsItem_0");
+  EXPECT_FALSE(frame.isVisible());
+
+  ShowPointID();
+  EXPECT_TRUE(frame.isVisible());
+  EXPECT_TRUE(entry->isChecked());
+
+  ShowPointID();
+  EXPECT_FALSE(frame.isVisible());
+  EXPECT_FALSE(entry->isChecked());
+}
+
+TEST_F(GraphView, CopiesThePictureInTheColoursOfPaper) {
+  Press(Qt::Key_E, Qt::AltModifier);
+  PressInMenu(Qt::Key_Return);
+
+  const QImage picture = QGuiApplication::clipboard()->image();
+  EXPECT_EQ(picture.size(), Drawn().size() * Drawn().devicePixelRatio());
+  EXPECT_EQ(picture.pixelColor(1, 1), QColor(Qt::white));
+}
+
+TEST_F(GraphView, FollowsADarkDesktop) {
+  const QPalette light = QApplication::palette();
+  QPalette dark(QColor(0x30, 0x30, 0x30));
+  QApplication::setPalette(dark);
+  Settle();
+
+  const QColor ground = Drawn().grab().toImage().pixelColor(1, 1);
+  const QColor text = Plot().xAxis->labelColor();
+  QApplication::setPalette(light);
+  Settle();
+
+  EXPECT_LT(ground.lightness(), 80);
+  EXPECT_GT(text.lightness(), 180);
+  EXPECT_GT(Drawn().grab().toImage().pixelColor(1, 1).lightness(), 180);
+}
+
+TEST_F(GraphView, PrintsTheChart) {
+  Press(Qt::Key_F, Qt::AltModifier);
+  PressInMenu(Qt::Key_P);
+
+  EXPECT_EQ(platform.printer.printedChart, "graph1");
+}
+
+TEST_F(GraphView, ClosesByItsExitEntry) {
+  Press(Qt::Key_F, Qt::AltModifier);
+  PressInMenu(Qt::Key_X);
+
+  EXPECT_THAT(WindowOnView("frmGraph"), IsNull());
+  EXPECT_FALSE(graph.IsOpen());
+}
+
+}  // namespace
+}  // namespace orby::test

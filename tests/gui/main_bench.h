@@ -1,0 +1,86 @@
+// The main window on the screen, and the graph window over the results: what the tests of the larger windows share.
+#pragma once
+
+#include <QApplication>
+#include <QDir>
+#include <QMainWindow>
+#include <QTemporaryDir>
+#include <fstream>
+#include <iterator>
+
+#include "gui/gui_bench.h"
+#include "qt/main_view.h"
+#include "qt/texts.h"
+#include "shell/main_window.h"
+
+namespace orby::test {
+
+inline std::string BytesOf(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// A key for the menu that is open, else for what has the keyboard.
+inline void PressInMenu(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+  if (QWidget* menu = QApplication::activePopupWidget()) {
+    QTest::keyClick(menu, key, modifiers);
+    Settle();
+  } else {
+    Press(key, modifiers);
+  }
+}
+
+// The window of that name, wherever it stands; nullptr when none is on view.
+inline QWidget* WindowOnView(std::string_view name) {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->objectName() == ToQt(name) && window->isVisible()) return window;
+  }
+  return nullptr;
+}
+
+// The main window as a run begins, over a new design that no input dialog opens by itself.
+class MainViewTest : public GuiTest {
+ protected:
+  explicit MainViewTest(const RealDoors& real = {}) : GuiTest(real) {
+    program.folders.ProgramTemporary = "/home/user/Documents/Orby/Temp/";
+    program.IniFilePath = "/home/user/Documents/Orby/ORBY.INI";
+    program.options.ShowInputScreenOnLoad = 0;
+    model.Open();
+    platform.screen.ShowMain(model, false);
+    DressMainWindow(View(), model);
+    View().activateWindow();
+    Settle();
+    if (!QTest::qWaitForWindowActive(&View())) throw std::logic_error("the main window never got the keyboard");
+  }
+  ~MainViewTest() override { model.Close(); }
+
+  QMainWindow& View() { return platform.screen.Main(); }
+  std::string Caption() { return View().windowTitle().toStdString(); }
+
+  // Puts a copy of an example where the program finds it, and gives its path.
+  std::string Example(const std::string& name) {
+    const std::string path = std::string(EXAMPLES_DIR) + "/" + name;
+    platform.files.files[path] = BytesOf(path);
+    return path;
+  }
+
+  // Opens the file as the user does, by the command and the dialog.
+  void OpenFile(const std::string& path) {
+    platform.fileDialogs.answers.push_back(path);
+    Press(Qt::Key_O, Qt::ControlModifier);
+  }
+
+  // A change that is not saved yet.
+  void EditDescription(const std::string& title) {
+    scripts.Add([title](QDialog& window) {
+      TypeInto(window, "Text1", title);
+      Press(Qt::Key_Enter);
+    });
+    Press(Qt::Key_I, Qt::AltModifier);
+    PressInMenu(Qt::Key_D);
+  }
+
+  MainWindow model{program};
+};
+
+}  // namespace orby::test

@@ -1,0 +1,124 @@
+// The drawings of the program in light and dark.
+#include "qt/pictures.h"
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QIcon>
+#include <QImage>
+#include <QPainter>
+#include <QPalette>
+
+#include "qt/picture_view.h"
+
+namespace orby::test {
+namespace {
+
+// The colours that a drawing is made of, without the blends at its edges.
+bool HasColor(const QImage& image, const QColor& color) {
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      if (image.pixelColor(x, y) == color) return true;
+    }
+  }
+  return false;
+}
+
+QImage Drawn(const QString& resource, const QColor& lines) {
+  QImage image(400, 400, QImage::Format_ARGB32);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  LoadPicture(resource, lines)->render(&painter);
+  return image;
+}
+
+// The palette of the desktop for the length of a test.
+class Desktop {
+ public:
+  explicit Desktop(const QColor& text) : before_(QApplication::palette()) {
+    QPalette palette = before_;
+    palette.setColor(QPalette::WindowText, text);
+    QApplication::setPalette(palette);
+  }
+  ~Desktop() { QApplication::setPalette(before_); }
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+
+ private:
+  QPalette before_;
+};
+
+class EveryPicture : public testing::TestWithParam<const char*> {};
+
+TEST_P(EveryPicture, TakesTheColourOfTheTextForItsLines) {
+  const QString resource = QString(":/pictures/%1.svg").arg(GetParam());
+
+  EXPECT_TRUE(LoadPicture(resource, Qt::black)->isValid());
+  EXPECT_TRUE(HasColor(Drawn(resource, QColor(0xfe, 0xdc, 0xba)), QColor(0xfe, 0xdc, 0xba)));
+  EXPECT_FALSE(HasColor(Drawn(resource, QColor(0xfe, 0xdc, 0xba)), Qt::black));
+}
+
+INSTANTIATE_TEST_SUITE_P(Pictures, EveryPicture,
+                         testing::Values("open", "save", "print", "description", "parameters", "entry_section",
+                                         "intersection_plan", "region_0", "region_1", "region_2", "region_3",
+                                         "region_4", "region_5"),
+                         [](const auto& entry) { return std::string(entry.param); });
+
+TEST(Pictures, MarkAnotherRegionEach) {
+  std::vector<QImage> regions;
+  for (int region = 0; region < 6; ++region) {
+    regions.push_back(Drawn(QString(":/pictures/region_%1.svg").arg(region), Qt::black));
+  }
+
+  for (std::size_t i = 0; i < regions.size(); ++i) {
+    for (std::size_t j = 0; j < i; ++j) EXPECT_NE(regions[i], regions[j]) << i << " and " << j;
+  }
+}
+
+TEST(Icons, AreDrawnInTheColourOfTheDesktopsText) {
+  const QIcon icon = ThemedIcon("save");
+  const QColor dark(0x11, 0x22, 0x33);
+  const QColor light(0xdd, 0xee, 0xff);
+  QImage onLight;
+  QImage onDark;
+
+  {
+    const Desktop desktop(dark);
+    onLight = icon.pixmap(QSize(64, 64), 1.0).toImage().convertToFormat(QImage::Format_ARGB32);
+  }
+  {
+    const Desktop desktop(light);
+    onDark = icon.pixmap(QSize(64, 64), 1.0).toImage().convertToFormat(QImage::Format_ARGB32);
+  }
+
+  EXPECT_TRUE(HasColor(onLight, dark));
+  EXPECT_FALSE(HasColor(onLight, light));
+  EXPECT_TRUE(HasColor(onDark, light));
+  EXPECT_FALSE(HasColor(onDark, dark));
+}
+
+TEST(Icons, AreDrawnInEverySizeAskedFor) {
+  for (const int size : {16, 24, 96}) {
+    EXPECT_EQ(ThemedIcon("open").pixmap(QSize(size, size), 2.0).size(), QSize(2 * size, 2 * size));
+  }
+}
+
+TEST(PictureOfADialog, FollowsTheThemeWhileItIsShown) {
+  PictureView view;
+  view.setProperty("picture", ":/pictures/entry_section.svg");
+  view.resize(view.sizeHint());
+  const QColor light(0xdd, 0xee, 0xff);
+  const bool before = HasColor(view.grab().toImage(), light);
+
+  QPalette palette = view.palette();
+  palette.setColor(QPalette::WindowText, light);
+  palette.setColor(QPalette::Window, Qt::black);
+  view.setPalette(palette);
+
+  EXPECT_FALSE(before);
+  EXPECT_TRUE(HasColor(view.grab().toImage(), light));
+}
+
+}  // namespace
+}  // namespace orby::test

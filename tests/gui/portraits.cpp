@@ -1,0 +1,309 @@
+// Takes a picture of every window of the program, in both unit systems, light and dark, for the eye to judge:
+//
+//   portraits folder [size of the text in points]
+//
+// The scale is that of QT_SCALE_FACTOR.
+#include <gmock/gmock.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTemporaryFile>
+#include <algorithm>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+
+#include "catalogs/catalogs.h"
+#include "core/dialog_helpers.h"
+#include "dialogs/cost_dialog.h"
+#include "dialogs/description_dialog.h"
+#include "dialogs/estimator_dialog.h"
+#include "dialogs/graph_options_dialog.h"
+#include "dialogs/graph_window.h"
+#include "dialogs/parameters_dialog.h"
+#include "dialogs/preview_window.h"
+#include "dialogs/results_window.h"
+#include "engine/curves.h"
+#include "files/new_project.h"
+#include "files/project_file.h"
+#include "gui/gui_bench.h"
+#include "qt/boundary.h"
+#include "qt/chart_view.h"
+#include "qt/main_view.h"
+#include "qt/message_boxes.h"
+#include "reports/calculation_report.h"
+#include "reports/input_echo.h"
+#include "shell/main_window.h"
+
+namespace orby::test {
+namespace {
+
+QPalette DarkPalette() {
+  const QColor window(0x2b, 0x2b, 0x2b);
+  const QColor base(0x1f, 0x1f, 0x1f);
+  const QColor text(0xe6, 0xe6, 0xe6);
+  QPalette dark(QColor(0x3a, 0x3a, 0x3a), window);
+  dark.setColor(QPalette::Base, base);
+  dark.setColor(QPalette::AlternateBase, window);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    dark.setColor(role, text);
+    dark.setColor(QPalette::Disabled, role, QColor(0x80, 0x80, 0x80));
+  }
+  dark.setColor(QPalette::Highlight, QColor(0x2f, 0x7f, 0xc1));
+  return dark;
+}
+
+std::string BytesOf(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+class Photographer {
+ public:
+  Photographer(const QString& folder, const QString& series) : folder_(folder), series_(series) {}
+
+  void Take(QWidget& window, const std::string& name) const {
+    Settle();
+    window.grab().save(folder_.filePath(series_ + "-" + QString::fromStdString(name) + ".png"));
+  }
+
+ private:
+  QDir folder_;
+  QString series_;
+};
+
+QTabWidget* TabsIn(const QWidget& page) {
+  for (auto* tabs : page.findChildren<QTabWidget*>()) {
+    if (tabs->isVisible()) return tabs;
+  }
+  return nullptr;
+}
+
+// Every page of the tabs, and of the tabs on the pages.
+void TakePages(const Photographer& photographer, QDialog& window, QTabWidget& tabs, const std::string& name) {
+  for (int page = 0; page < tabs.count(); ++page) {
+    if (!tabs.isTabEnabled(page)) continue;
+    tabs.setCurrentIndex(page);
+    Settle();
+    const std::string pageName = name + "-" + std::to_string(page);
+    if (QTabWidget* inner = TabsIn(*tabs.widget(page))) {
+      TakePages(photographer, window, *inner, pageName);
+    } else {
+      photographer.Take(window, pageName);
+    }
+  }
+}
+
+// The program with an example open, all of whose windows are shown one after the other.
+class Sitting {
+ public:
+  Sitting(const Photographer& photographer, Integer units) : photographer_(photographer), program_(Doors()) {
+    SetBuiltInCatalogs(program_.catalogs);
+    program_.settings.UnitsDefault = units;
+    program_.settings.DisplayFontName = "Arial";
+    program_.folders.ProgramTemporary = "/home/user/Documents/Orby/Temp/";
+    program_.IniFilePath = "/home/user/Documents/Orby/ORBY.INI";
+    FileNew(program_, true, true);
+    const std::string file = units == Metric ? "australian-grade-metric.ORB" : "intersection-secondary-bolts.ORB";
+    const std::string path = "/home/user/Documents/Orby/" + file;
+    platform_.files.files[path] = BytesOf(std::string(EXAMPLES_DIR) + "/" + file);
+    window_ = std::make_unique<MainWindow>(program_);
+    window_->Open();
+    platform_.screen.ShowMain(*window_, false);
+    DressMainWindow(platform_.screen.Main(), *window_);
+    program_.options.ShowInputScreenOnLoad = 0;
+    platform_.fileDialogs.answers.push_back(path);
+    window_->mnuFileItem.ClickItem(file_item::Open);
+    LoadOutBuf0(program_);
+    CalculationReport(program_);
+    program_.WorkParmsCopy = program_.WorkParms;
+  }
+  ~Sitting() { window_->Close(); }
+  Sitting(const Sitting&) = delete;
+  Sitting& operator=(const Sitting&) = delete;
+
+  void TakeAll() {
+    photographer_.Take(platform_.screen.Main(), "main");
+    TakeDescription();
+    TakeParameters();
+    TakeDialog<CostDialog>("cost");
+    TakeEstimator();
+    TakeReport();
+    TakeMessages();
+  }
+
+ private:
+  Platform Doors() {
+    RealDoors real;
+    real.boxes = &boxes_;
+    return platform_.Doors(real);
+  }
+
+  template <class Model>
+  void TakeDialog(const std::string& name) {
+    scripts_.Add([&](QDialog& window) {
+      photographer_.Take(window, name);
+      window.close();
+    });
+    Model dialog(program_);
+    ShowForm(program_, dialog);
+  }
+
+  void TakeDescription() {
+    program_.ProjectDescription =
+        "North mains, panel 3.\r\nRoof of thinly bedded shale; the cutters start at the crosscuts.";
+    TakeDialog<DescriptionDialog>("description");
+  }
+
+  void TakeParameters() {
+    scripts_.Add([&](QDialog& window) {
+      for (auto* box : window.findChildren<QCheckBox*>()) {
+        if (box->objectName() != "chkCMRRManual") box->setChecked(true);
+      }
+      auto& tabs = Find<QTabWidget>(window, "SSTab1");
+      for (const char* member : {"_0", "_1"}) {
+        for (auto* option : window.findChildren<QRadioButton*>()) {
+          if (option->objectName().endsWith(member)) option->setChecked(true);
+        }
+        Settle();
+        TakePages(photographer_, window, tabs, std::string("parameters") + member);
+      }
+      Click(window, "Command1");
+    });
+    ParametersDialog dialog(program_);
+    ShowForm(program_, dialog);
+  }
+
+  void TakeEstimator() {
+    scripts_.Add([&](QDialog& window) {
+      for (auto* region : window.findChildren<QRadioButton*>()) {
+        region->setChecked(true);
+        photographer_.Take(window, "estimator-" + region->objectName().right(1).toStdString());
+      }
+      Click(window, "Command1");
+    });
+    EstimatorDialog dialog(program_);
+    ShowForm(program_, dialog);
+  }
+
+  void TakeReport() {
+    TakeDialog<PreviewWindow>("preview");
+    scripts_.Add([&](QDialog& window) {
+      photographer_.Take(window, "results-0");
+      Click(window, "Command4");
+      photographer_.Take(window, "results-1");
+      Click(window, "cmdGraph");
+      photographer_.Take(window, "results-list");
+      window.close();
+    });
+    ShowResults(program_);
+    TakeGraphs();
+  }
+
+  void TakeGraphs() {
+    GraphWindow graph(program_);
+    for (const Integer curve : {Integer{1}, Integer{5}, Integer{8}}) {
+      GenerateCurve(program_, curve);
+      graph.ShowCurve(curve);
+      photographer_.Take(*WindowOnScreen(graph), "graph-" + std::to_string(curve));
+    }
+    graph.GraphOptionsItem.ClickItem(0);
+    Settle();
+    const auto& chart = Find<ChartView>(*WindowOnScreen(graph), "graph1");
+    graph.graph1.MouseMove(chart.HitAt(chart.PlaceOf(0, 7).toPoint()));
+    photographer_.Take(*WindowOnScreen(graph), "graph-point");
+    scripts_.Add([&](QDialog& window) {
+      Click(window, "Option1_1");
+      photographer_.Take(window, "graph-options");
+      Click(window, "Command1");
+    });
+    graph.GraphOptionsItem.ClickItem(1);
+    graph.Close();
+    Settle();
+  }
+
+  void TakeMessages() {
+    program_.FileSaved = false;
+    scripts_.Add([&](QDialog& window) {
+      photographer_.Take(window, "message-question");
+      Press(Qt::Key_Escape);
+    });
+    window_->MayClose();
+    program_.FileSaved = true;
+    scripts_.Add([&](QDialog& window) {
+      photographer_.Take(window, "message-range");
+      Press(Qt::Key_Enter);
+    });
+    program_.titles.RangeErrorTitle = "Parameters Range Error";
+    RangeCheck(program_, "9999", 0, 100, "CMRR");
+  }
+
+  const Photographer& photographer_;
+  ModalScripts scripts_;
+  GuiPlatform platform_;
+  QtMessageBoxes boxes_;
+  Program program_;
+  std::unique_ptr<MainWindow> window_;
+};
+
+int TakePortraits(const QString& folder) {
+  QDir().mkpath(folder);
+  const QPalette light = QApplication::palette();
+  for (const bool dark : {false, true}) {
+    QApplication::setPalette(dark ? DarkPalette() : light);
+    for (const Integer units : {English, Metric}) {
+      const QString series = QString(units == Metric ? "metric" : "english") + (dark ? "-dark" : "-light");
+      const Photographer photographer(folder, series);
+      Sitting sitting(photographer, units);
+      sitting.TakeAll();
+    }
+  }
+  return testing::UnitTest::GetInstance()->ad_hoc_test_result().Failed() ? 1 : 0;
+}
+
+}  // namespace
+}  // namespace orby::test
+
+// A screen of 1366 x 768 at the scale in use, unless there is a real one.
+class UsualScreen {
+ public:
+  UsualScreen() {
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || !file_.open()) return;
+    const double scale = std::max(1.0, qEnvironmentVariable("QT_SCALE_FACTOR", "1").toDouble());
+    const QJsonObject screen{{"name", "usual"},       {"x", 0},   {"y", 0},           {"width", 1366 * scale},
+                             {"height", 768 * scale}, {"dpr", 1}, {"logicalDpi", 96}, {"logicalBaseDpi", 96}};
+    file_.write(QJsonDocument(QJsonObject{{"screens", QJsonArray{screen}}}).toJson());
+    file_.close();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file_.fileName().toUtf8());
+  }
+
+ private:
+  QTemporaryFile file_;
+};
+
+int main(int argc, char** argv) {
+  testing::InitGoogleMock(&argc, argv);
+  const UsualScreen screen;
+  const QApplication application(argc, argv);
+  QApplication::setStyle("Fusion");
+  QApplication::setQuitOnLastWindowClosed(false);
+  const QStringList arguments = QApplication::arguments();
+  if (arguments.size() < 2) {
+    std::cerr << "usage: portraits folder [size of the text in points]\n";
+    return 2;
+  }
+  if (arguments.size() > 2) {
+    QFont font = QApplication::font();
+    font.setPointSizeF(arguments[2].toDouble());
+    QApplication::setFont(font);
+  }
+  orby::SetErrorHandler([](const orby::RuntimeError& error) { ADD_FAILURE() << "error " << error.number(); });
+  return orby::test::TakePortraits(arguments[1]);
+}

@@ -1,0 +1,184 @@
+// Printing in earnest: to a PDF file, as the user finds it.
+#include <QApplication>
+#include <QFile>
+#include <QPrintDialog>
+#include <QProcess>
+#include <algorithm>
+
+#include "gui/report_bench.h"
+#include "qt/printer.h"
+#include "reports/printing.h"
+
+namespace orby::test {
+namespace {
+
+using testing::EndsWith;
+using testing::Eq;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+// The text of a PDF file as it stands on its pages, one page a string.
+std::vector<std::string> PdfPages(const QString& path) {
+  QProcess reader;
+  reader.start("pdftotext", {"-layout", path, "-"});
+  if (!reader.waitForFinished()) throw std::logic_error("pdftotext does not run");
+  std::vector<std::string> pages;
+  for (const QString& page : QString::fromUtf8(reader.readAllStandardOutput()).split('\f', Qt::SkipEmptyParts)) {
+    pages.push_back(page.toStdString());
+  }
+  return pages;
+}
+
+// A desktop without any printer.
+struct NoPrinters {
+  NoPrinters() { qputenv("CUPS_SERVER", "/nowhere/cups.sock"); }
+};
+
+class Printing : private NoPrinters, public ReportTest {
+ protected:
+  Printing() : ReportTest({.printer = &printer}) {
+    program.settings.ShortRecentFiles = 1;
+    program.CurrentFile = "/designs/panel3.orb";
+  }
+
+  // From here on everything is printed to this file.
+  void PrintToFile() {
+    printer.Device().setOutputFormat(QPrinter::PdfFormat);
+    printer.Device().setOutputFileName(path);
+  }
+
+  QTemporaryDir folder;
+  const QString path = folder.filePath("report.pdf");
+  QtPrinter printer;
+};
+
+std::string NumberedLines(int count) {
+  std::string text;
+  for (int i = 1; i <= count; ++i) text += "Line " + std::to_string(i) + " of the report\r\n";
+  return text;
+}
+
+TEST_F(Printing, MakesRealTextOfEveryLine) {
+  PrintToFile();
+
+  PrintText(program, NumberedLines(40));
+
+  const std::vector<std::string> pages = PdfPages(path);
+  ASSERT_THAT(pages, testing::SizeIs(1));
+  for (int i = 1; i <= 40; ++i) {
+    EXPECT_THAT(pages[0], HasSubstr("Line " + std::to_string(i) + " of the report\n"));
+  }
+}
+
+TEST_F(Printing, PutsAHeaderOnEachPage) {
+  PrintToFile();
+
+  PrintText(program, NumberedLines(130));
+
+  const std::vector<std::string> pages = PdfPages(path);
+  ASSERT_THAT(pages, testing::SizeIs(3));
+  for (int page = 1; page <= 3; ++page) {
+    const std::string& text = pages[static_cast<std::size_t>(page - 1)];
+    EXPECT_THAT(text, HasSubstr("File Name: panel3.orb"));
+    EXPECT_THAT(text, HasSubstr("Page: " + std::to_string(page) + "\n"));
+    EXPECT_THAT(text, HasSubstr("Current Units: ft, in, lbs, psi, pcf"));
+    EXPECT_THAT(text, HasSubstr("Date/Time: 3/9/2031\n"));
+    EXPECT_THAT(text, HasSubstr("Orby Roof Support Workbench, Version: 1.0.00"));
+  }
+  EXPECT_THAT(pages[1], HasSubstr("Line 56 of the report\n"));
+  EXPECT_THAT(pages[2], HasSubstr("Line 130 of the report\n"));
+}
+
+TEST_F(Printing, KeepsTheWholeWidthOfALineOnThePaper) {
+  PrintToFile();
+  const std::string widest = std::string(77, '-') + "|";
+
+  PrintText(program, widest + "\r\n");
+
+  EXPECT_THAT(PdfPages(path).at(0), HasSubstr(widest));
+}
+
+TEST_F(Printing, PrintsTheChartWithItsTitlesAsText) {
+  PrintToFile();
+  GraphWindow graph(program);
+  program.curve.CurvePoints[0] = {200, 240, 300};
+  program.curve.CurvePoints[1] = {3.25F, 4.5F, 5.75F};
+  program.curve.CurvePointCount = 3;
+  graph.ShowCurve(1);
+  Settle();
+
+  printer.PrintChart(graph.graph1);
+  graph.Close();
+  Settle();
+
+  const std::vector<std::string> pages = PdfPages(path);
+  ASSERT_THAT(pages, testing::SizeIs(1));
+  EXPECT_THAT(pages[0], HasSubstr("Depth of Cover (ft)"));
+  EXPECT_THAT(pages[0], HasSubstr("Sug.PSUP"));
+}
+
+TEST_F(Printing, PrintsTheSecondReportInAFileOfItsOwn) {
+  PrintToFile();
+  PrintText(program, "The first report\r\n");
+  printer.Device().setOutputFileName(folder.filePath("second.pdf"));
+
+  PrintText(program, "The second report\r\n");
+
+  EXPECT_THAT(PdfPages(path).at(0), HasSubstr("The first report"));
+  EXPECT_THAT(PdfPages(folder.filePath("second.pdf")).at(0), Not(HasSubstr("The first report")));
+}
+
+TEST_F(Printing, FailsWithoutAPrinter) {
+  EXPECT_EQ(ErrorNumberOf([&] { PrintText(program, "A line\r\n"); }), 482);
+}
+
+TEST_F(Printing, FailsWhenTheFileCannotBeWritten) {
+  printer.Device().setOutputFormat(QPrinter::PdfFormat);
+  printer.Device().setOutputFileName(folder.filePath("missing/report.pdf"));
+
+  EXPECT_EQ(ErrorNumberOf([&] { PrintText(program, "A line\r\n"); }), 482);
+}
+
+TEST_F(Printing, IsCancelledInItsDialog) {
+  scripts.Add([](QDialog& window) {
+    EXPECT_NE(qobject_cast<QPrintDialog*>(&window), nullptr);
+    window.reject();
+  });
+
+  EXPECT_EQ(ErrorNumberOf([&] { printer.Choose(); }), 32755);
+}
+
+TEST_F(Printing, TellsTheHistoryThatItWasCancelled) {
+  scripts.Add([&](QDialog& results) {
+    scripts.Add([](QDialog& dialog) { dialog.reject(); });
+    PressLetterOf(results, "Command3");
+    results.close();
+  });
+
+  ShowResults(program);
+
+  EXPECT_THAT(program.history.Text, HasSubstr("Current page printed\r\n"));
+  EXPECT_THAT(program.history.Text, EndsWith("Printing aborted\r\n"));
+  EXPECT_THAT(platform.boxes.Texts(), IsEmpty());
+}
+
+TEST_F(Printing, PrintsAllPagesOfTheResultsThroughItsDialog) {
+  PrintToFile();
+  scripts.Add([&](QDialog& results) {
+    scripts.Add([](QDialog& dialog) { dialog.accept(); });
+    PressLetterOf(results, "Command6");
+    results.close();
+  });
+
+  ShowResults(program);
+
+  std::string text;
+  for (const std::string& page : PdfPages(path)) text += page;
+  EXPECT_THAT(text, HasSubstr("[GEOLOGY PARAMETERS]\n"));
+  EXPECT_THAT(text, HasSubstr("[ORBY CALCULATIONS]\n"));
+  EXPECT_THAT(platform.boxes.Texts(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace orby::test

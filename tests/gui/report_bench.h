@@ -1,0 +1,80 @@
+// A report of two pages, and the results window or the graph of its design on the screen.
+#pragma once
+
+#include <qcustomplot.h>
+
+#include "dialogs/graph_window.h"
+#include "dialogs/results_window.h"
+#include "gui/main_bench.h"
+#include "qt/chart_view.h"
+#include "qt/surroundings.h"
+#include "reports/calculation_report.h"
+#include "reports/input_echo.h"
+
+namespace orby::test {
+
+class ReportTest : public GuiTest {
+ protected:
+  explicit ReportTest(const RealDoors& real = {}) : GuiTest(real) {
+    program.WorkParmsCopy = program.WorkParms;
+    LoadOutBuf0(program);
+    CalculationReport(program);
+    program.history = {};
+  }
+
+  // Shows the results until they are closed, the script playing the user.
+  void UseResults(ModalScripts::Script script) {
+    scripts.Add(std::move(script));
+    ShowResults(program);
+    Settle();
+  }
+};
+
+// The graph window; throws std::logic_error when there is none on view.
+inline QWidget& GraphOnView() {
+  QWidget* window = WindowOnView("frmGraph");
+  if (window == nullptr) throw std::logic_error("no graph is on view");
+  return *window;
+}
+
+// The graph of three points: suggested PSUP over depths of cover.
+class GraphViewTest : public GuiTest {
+ protected:
+  explicit GraphViewTest(const RealDoors& real = {}) : GuiTest(real) {
+    program.folders.ProgramTemporary = "/home/user/Documents/Orby/Temp/";
+    program.IniFilePath = "/home/user/Documents/Orby/ORBY.INI";
+    program.curve.CurvePoints[0] = {200, 240, 300};
+    program.curve.CurvePoints[1] = {3.25F, 4.5F, 5.75F};
+    program.curve.CurvePointCount = 3;
+    Draw(1);
+  }
+  ~GraphViewTest() override {
+    graph.Close();
+    Settle();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+
+  void Draw(Integer curve) {
+    graph.ShowCurve(curve);
+    if (!QTest::qWaitForWindowActive(&View())) throw std::logic_error("the graph never got the keyboard");
+  }
+  static QWidget& View() { return GraphOnView(); }
+  ChartView& Drawn() { return Find<ChartView>(View(), "graph1"); }
+  QCustomPlot& Plot() { return Find<QCustomPlot>(View(), "viewPlot"); }
+
+  void OpenOptions() {
+    Press(Qt::Key_O, Qt::AltModifier);
+    PressInMenu(Qt::Key_O);
+  }
+
+  GraphWindow graph{program};
+};
+
+// Moves the pointer over the chart of the window, as the window system tells it.
+inline void MoveOver(QWidget& window, const QPoint& inChart) {
+  const auto& chart = Find<ChartView>(window, "graph1");
+  QTest::mouseMove(window.windowHandle(), chart.mapTo(&window, inChart));
+  Settle();
+}
+
+}  // namespace orby::test

@@ -1,0 +1,226 @@
+// The results window as its user sees it.
+#include <QClipboard>
+#include <QFontInfo>
+#include <QFontMetrics>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+
+#include "gui/report_bench.h"
+
+namespace orby::test {
+namespace {
+
+using testing::Eq;
+using testing::HasSubstr;
+using testing::IsNull;
+using testing::NotNull;
+using testing::StartsWith;
+
+class ResultsView : public ReportTest {
+ protected:
+  ResultsView() : ReportTest({.clipboard = &clipboard}) {}
+
+  static bool CanPress(const QDialog& window, std::string_view button) {
+    return Find<QPushButton>(window, button).isEnabled();
+  }
+  // The list of curves, reached by the keyboard.
+  static void GoToCurves(const QDialog& window) {
+    PressLetterOf(window, "cmdGraph");
+    for (int i = 0; i < 20 && FocusName() != "lstGraphs"; ++i) Press(Qt::Key_Tab);
+    EXPECT_EQ(FocusName(), "lstGraphs") << window.windowTitle().toStdString();
+  }
+
+  QtClipboard clipboard;
+};
+
+TEST_F(ResultsView, TurnsPagesByTheirLetters) {
+  UseResults([&](QDialog& window) {
+    const std::string first = TextOn(window, "RichTextBox1");
+    PressLetterOf(window, "Command4");
+    const std::string second = TextOn(window, "RichTextBox1");
+    PressLetterOf(window, "Command5");
+
+    EXPECT_THAT(first, StartsWith("ORBY module build: 201030\n"));
+    EXPECT_THAT(second, StartsWith("[ORBY CALCULATIONS]\n"));
+    EXPECT_THAT(TextOn(window, "RichTextBox1"), Eq(first));
+    Press(Qt::Key_Escape);
+  });
+}
+
+TEST_F(ResultsView, OffersOnlyPagesThatThereAre) {
+  UseResults([&](QDialog& window) {
+    EXPECT_FALSE(CanPress(window, "Command5"));
+    EXPECT_TRUE(CanPress(window, "Command4"));
+
+    Click(window, "Command4");
+
+    EXPECT_TRUE(CanPress(window, "Command5"));
+    EXPECT_FALSE(CanPress(window, "Command4"));
+    Press(Qt::Key_Escape);
+  });
+}
+
+TEST_F(ResultsView, ShowsTheReportInLettersOfOneWidth) {
+  UseResults([&](QDialog& window) {
+    const QFont font = Find<QPlainTextEdit>(window, "RichTextBox1").font();
+    const QFontMetrics metrics(font);
+
+    EXPECT_TRUE(QFontInfo(font).fixedPitch());
+    EXPECT_EQ(metrics.horizontalAdvance("iiii"), metrics.horizontalAdvance("WWWW"));
+    Press(Qt::Key_Escape);
+  });
+}
+
+TEST_F(ResultsView, ShowsAPageFromItsTopWheneverItIsTurnedTo) {
+  UseResults([&](QDialog& window) {
+    auto& report = Find<QPlainTextEdit>(window, "RichTextBox1");
+    report.setFocus();
+    Press(Qt::Key_PageDown);
+    const int below = report.verticalScrollBar()->value();
+
+    Click(window, "Command4");
+    Click(window, "Command5");
+
+    EXPECT_GT(below, 0);
+    EXPECT_EQ(report.verticalScrollBar()->value(), 0);
+    EXPECT_EQ(report.horizontalScrollBar()->value(), 0);
+    Press(Qt::Key_Escape);
+  });
+}
+
+TEST_F(ResultsView, CopiesThePageOnView) {
+  UseResults([&](QDialog& window) {
+    PressLetterOf(window, "Command4");
+    PressLetterOf(window, "Command2");
+    Press(Qt::Key_Escape);
+  });
+
+  EXPECT_THAT(QGuiApplication::clipboard()->text().toStdString(), Eq(program.OutBuf[1]));
+  EXPECT_THAT(program.history.Text, HasSubstr("Page 1 copied to clipboard"));
+}
+
+TEST_F(ResultsView, CopiesAllPagesWithNothingBetweenThem) {
+  UseResults([&](QDialog& window) {
+    PressLetterOf(window, "Command7");
+    Press(Qt::Key_Escape);
+  });
+
+  EXPECT_THAT(QGuiApplication::clipboard()->text().toStdString(), Eq(program.OutBuf[0] + program.OutBuf[1]));
+}
+
+TEST_F(ResultsView, HasTheTextReadOnly) {
+  UseResults([&](QDialog& window) {
+    const std::string before = TextOn(window, "RichTextBox1");
+    Find(window, "RichTextBox1").setFocus();
+    Type("overwritten");
+
+    EXPECT_THAT(TextOn(window, "RichTextBox1"), Eq(before));
+    Press(Qt::Key_Escape);
+  });
+}
+
+TEST_F(ResultsView, ChangesTheInputInTheDialogThatAskedForTheReport) {
+  std::vector<Integer> reopened;
+  program.ReportCaller = report_caller::Cost;
+  program.OpenInputDialog = [&](Integer caller) { reopened.push_back(caller); };
+
+  UseResults([&](QDialog& window) { PressLetterOf(window, "cmdChangeInput"); });
+
+  EXPECT_THAT(reopened, testing::ElementsAre(report_caller::Cost));
+}
+
+// ---- curves ---------------------------------------------------------------------------------------------------------
+
+TEST_F(ResultsView, ListsItsTenCurvesOnlyWhenAsked) {
+  UseResults([&](QDialog& window) {
+    const auto& list = Find<QListWidget>(window, "lstGraphs");
+    EXPECT_FALSE(list.isVisible());
+
+    PressLetterOf(window, "cmdGraph");
+    EXPECT_TRUE(list.isVisible());
+    EXPECT_EQ(list.count(), 10);
+
+    PressLetterOf(window, "cmdGraph");
+    EXPECT_FALSE(list.isVisible());
+    Press(Qt::Key_Escape);
+  });
+}
+
+TEST_F(ResultsView, DrawsTheCurveChosenByTheKeyboard) {
+  UseResults([&](QDialog& window) {
+    GoToCurves(window);
+    Press(Qt::Key_Home);
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Enter);
+
+    EXPECT_EQ(program.curve.CurveIndex, 1);
+    EXPECT_THAT(WindowOnView("frmGraph"), NotNull());
+    EXPECT_FALSE(Find(window, "lstGraphs").isVisible());
+    window.close();
+  });
+}
+
+TEST_F(ResultsView, DrawsTheCurveThatIsClicked) {
+  UseResults([&](QDialog& window) {
+    Click(window, "cmdGraph");
+    auto& list = Find<QListWidget>(window, "lstGraphs");
+    const QRect place = list.visualItemRect(list.item(5));
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, place.center());
+    Settle();
+
+    EXPECT_EQ(program.curve.CurveIndex, 5);
+    EXPECT_FALSE(list.isVisible());
+    window.close();
+  });
+}
+
+TEST_F(ResultsView, TakesTheGraphAlongWhenItCloses) {
+  UseResults([&](QDialog& window) {
+    GoToCurves(window);
+    Press(Qt::Key_Enter);
+    EXPECT_THAT(WindowOnView("frmGraph"), NotNull());
+    window.close();
+  });
+
+  EXPECT_THAT(WindowOnView("frmGraph"), IsNull());
+  EXPECT_TRUE(program.curve.GraphClosed);
+}
+
+TEST_F(ResultsView, LeavesTheGraphUsableBesideIt) {
+  UseResults([&](QDialog& window) {
+    GoToCurves(window);
+    Press(Qt::Key_Home);
+    Press(Qt::Key_Enter);
+    QWidget& graph = GraphOnView();
+    graph.findChild<QAction*>("GraphOptionsItem_0")->trigger();
+    Settle();
+
+    MoveOver(graph, Find<ChartView>(graph, "graph1").PlaceOf(0, 2).toPoint());
+
+    EXPECT_EQ(TextOn(graph, "lblCurve"), "Sug.PSUP");
+    window.close();
+  });
+}
+
+TEST_F(ResultsView, DrawsAgainAfterTheGraphWasClosed) {
+  UseResults([&](QDialog& window) {
+    GoToCurves(window);
+    Press(Qt::Key_Enter);
+    GraphOnView().close();
+    Settle();
+    EXPECT_THAT(WindowOnView("frmGraph"), IsNull());
+    window.activateWindow();
+    Settle();
+
+    GoToCurves(window);
+    Press(Qt::Key_Enter);
+
+    EXPECT_THAT(WindowOnView("frmGraph"), NotNull());
+    window.close();
+  });
+}
+
+}  // namespace
+}  // namespace orby::test

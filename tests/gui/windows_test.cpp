@@ -1,0 +1,138 @@
+// How windows stand on each other and on the screen.
+#include "qt/windows.h"
+
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QTableWidget>
+
+#include "dialogs/description_dialog.h"
+#include "dialogs/estimator_dialog.h"
+#include "dialogs/parameters_dialog.h"
+#include "gui/main_bench.h"
+#include "qt/message_boxes.h"
+
+namespace orby::test {
+namespace {
+
+using testing::Eq;
+
+class WindowsOnScreen : public MainViewTest {
+ protected:
+  WindowsOnScreen() : MainViewTest({.boxes = &boxes}) {}
+
+  QtMessageBoxes boxes;
+};
+
+TEST_F(WindowsOnScreen, AMessageBelongsToTheMainWindowWhenNoDialogIsOpen) {
+  const QWidget* parent = nullptr;
+  scripts.Add([&](QDialog& window) {
+    parent = window.parentWidget();
+    Press(Qt::Key_Enter);
+  });
+
+  ShowMessage(program, "Option not active yet");
+
+  EXPECT_EQ(parent, &View());
+}
+
+TEST_F(WindowsOnScreen, AMessageBelongsToTheDialogInUse) {
+  DescriptionDialog dialog(program);
+  const QWidget* parent = nullptr;
+
+  Use(dialog, [&](QDialog& window) {
+    scripts.Add([&](QDialog& box) {
+      parent = box.parentWidget();
+      Press(Qt::Key_Enter);
+    });
+    ShowMessage(program, "Option not active yet");
+    EXPECT_EQ(parent, &window);
+    window.close();
+  });
+}
+
+TEST_F(WindowsOnScreen, ADialogBelongsToTheMainWindow) {
+  DescriptionDialog dialog(program);
+  const QWidget* parent = nullptr;
+
+  Use(dialog, [&](QDialog& window) {
+    parent = window.parentWidget();
+    window.close();
+  });
+
+  EXPECT_EQ(parent, &View());
+}
+
+TEST_F(WindowsOnScreen, ADialogBelongsToTheDialogItWasOpenedFrom) {
+  DescriptionDialog below(program);
+  EstimatorDialog above(program);
+  const QWidget* parent = nullptr;
+
+  Use(below, [&](QDialog& window) {
+    Use(above, [&](QDialog& second) {
+      parent = second.parentWidget();
+      second.close();
+    });
+    EXPECT_EQ(parent, &window);
+    EXPECT_EQ(QApplication::activeWindow(), &window);
+    window.close();
+  });
+}
+
+TEST_F(WindowsOnScreen, ADialogStandsInTheMiddleOfTheScreen) {
+  DescriptionDialog dialog(program);
+
+  Use(dialog, [&](QDialog& window) {
+    const QPoint way = window.geometry().center() - window.screen()->availableGeometry().center();
+    constexpr int FrameWidth = 4;  // of the window system
+    EXPECT_LE(std::abs(way.x()), FrameWidth);
+    EXPECT_LE(std::abs(way.y()), FrameWidth);
+    window.close();
+  });
+}
+
+// Letters of three times the size for the length of a test.
+class LargeLetters {
+ public:
+  LargeLetters() : before_(QApplication::font()) {
+    QFont large = before_;
+    large.setPointSizeF(3 * before_.pointSizeF());
+    QApplication::setFont(large);
+  }
+  ~LargeLetters() { QApplication::setFont(before_); }
+  LargeLetters(const LargeLetters&) = delete;
+  LargeLetters& operator=(const LargeLetters&) = delete;
+
+ private:
+  QFont before_;
+};
+
+TEST_F(WindowsOnScreen, ADialogIsNoHigherThanTheScreenAndKeepsItsButtonsOnIt) {
+  const LargeLetters letters;
+  ParametersDialog dialog(program);
+
+  Use(dialog, [&](QDialog& window) {
+    const auto& ok = Find<QPushButton>(window, "Command2");
+    const int bottom = ok.mapToGlobal(QPoint(0, ok.height())).y();
+    EXPECT_LE(window.height(), window.screen()->availableGeometry().height());
+    EXPECT_LE(bottom, window.screen()->availableGeometry().bottom() + 1);
+    window.close();
+  });
+}
+
+TEST_F(WindowsOnScreen, ATableShowsTheWholeOfItsNames) {
+  EstimatorDialog dialog(program);
+
+  Use(dialog, [&](QDialog& window) {
+    Click(window, "optLocation_1");  // the region with the longest name of a rock
+    const auto& table = Find<QTableWidget>(window, "VSFlexGrid1");
+    const QString name = table.item(2, 1)->text();
+    EXPECT_EQ(name, "Stackrock (laminated sandstone/shale)");
+    EXPECT_GT(table.columnWidth(1), table.fontMetrics().horizontalAdvance(name));
+    window.close();
+  });
+}
+
+}  // namespace
+}  // namespace orby::test
