@@ -1,0 +1,133 @@
+"""The tree of accessible objects of a running program, asked over the bus that screen readers use."""
+
+import gi
+
+gi.require_version("Gio", "2.0")
+from gi.repository import Gio, GLib
+
+ACCESSIBLE = "org.a11y.atspi.Accessible"
+ACTION = "org.a11y.atspi.Action"
+COMPONENT = "org.a11y.atspi.Component"
+TEXT = "org.a11y.atspi.Text"
+PROPERTIES = "org.freedesktop.DBus.Properties"
+
+ROOT = "/org/a11y/atspi/accessible/root"
+CALL_TIMEOUT = 5000  # milliseconds
+
+# Bits of the state.
+ACTIVE = 1
+CHECKED = 4
+ENABLED = 8
+FOCUSED = 12
+SHOWING = 25
+
+# Roles.
+ALERT = 2
+COMBO_BOX = 11
+DIALOG = 16
+FRAME = 23
+LABEL = 29
+MENU = 35  # and its entries
+PAGE_TAB_LIST = 38
+PUSH_BUTTON = 43
+TABLE = 55
+WINDOW_ROLES = (ALERT, DIALOG, FRAME)
+CLOSED_ROLES = (COMBO_BOX, TABLE)  # what they hold is no control
+
+
+class Gone(Exception):
+    """The object, or the program that it belongs to, is no longer there."""
+
+
+class Bus:
+    """The bus of the accessible objects of this display."""
+
+    def __init__(self):
+        session = Gio.bus_get_sync(Gio.BusType.SESSION, None)
+        (address,) = session.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None,
+                                       Gio.DBusCallFlags.NONE, CALL_TIMEOUT, None)
+        flags = Gio.DBusConnectionFlags
+        self.connection = Gio.DBusConnection.new_for_address_sync(
+            address, flags.AUTHENTICATION_CLIENT | flags.MESSAGE_BUS_CONNECTION, None, None)
+
+    def call(self, owner, path, interface, method, signature="()", *arguments):
+        try:
+            answer = self.connection.call_sync(owner, path, interface, method, GLib.Variant(signature, arguments),
+                                               None, Gio.DBusCallFlags.NONE, CALL_TIMEOUT, None)
+        except GLib.Error as error:
+            raise Gone(f"{interface}.{method}: {error.message}") from error
+        return answer.unpack()
+
+    def process_of(self, owner):
+        return self.call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+                         "GetConnectionUnixProcessID", "(s)", owner)[0]
+
+    def application(self, process):
+        """The root of the program with this process id; None while it has not announced itself."""
+        root = Node(self, "org.a11y.atspi.Registry", ROOT)
+        for child in root.children():
+            try:
+                if self.process_of(child.owner) == process:
+                    return child
+            except Gone:
+                continue
+        return None
+
+
+class Node:
+    """One accessible object."""
+
+    def __init__(self, bus, owner, path):
+        self.bus, self.owner, self.path = bus, owner, path
+
+    def call(self, interface, method, signature="()", *arguments):
+        return self.bus.call(self.owner, self.path, interface, method, signature, *arguments)
+
+    def get(self, interface, name):
+        return self.call(PROPERTIES, "Get", "(ss)", interface, name)[0]
+
+    def children(self):
+        return [Node(self.bus, owner, path) for owner, path in self.call(ACCESSIBLE, "GetChildren")[0]]
+
+    @property
+    def name(self):
+        return self.get(ACCESSIBLE, "Name")
+
+    @property
+    def description(self):
+        return self.get(ACCESSIBLE, "Description")
+
+    @property
+    def role(self):
+        return self.call(ACCESSIBLE, "GetRole")[0]
+
+    def has(self, state):
+        words = self.call(ACCESSIBLE, "GetState")[0]
+        return bool(words[state // 32] >> state % 32 & 1)
+
+    @property
+    def text(self):
+        return self.call(TEXT, "GetText", "(ii)", 0, -1)[0]
+
+    def grab_focus(self):
+        return self.call(COMPONENT, "GrabFocus")[0]
+
+    @property
+    def box(self):
+        """Left, top, width and height on the screen."""
+        return self.call(COMPONENT, "GetExtents", "(u)", 0)[0]
+
+    def act(self, *wanted):
+        """Does the first of these actions that the object knows."""
+        known = [entry[0] for entry in self.call(ACTION, "GetActions")[0]]
+        for name in wanted:
+            if name in known:
+                return self.call(ACTION, "DoAction", "(i)", known.index(name))[0]
+        raise AssertionError(f"{self.name} knows {known}, not {wanted}")
+
+    def walk(self):
+        """All objects below."""
+        for child in self.children():
+            yield child
+            if child.role not in CLOSED_ROLES:
+                yield from child.walk()

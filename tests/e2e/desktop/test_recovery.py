@@ -1,0 +1,95 @@
+"""Work that is not lost when the program ends in the middle of it."""
+
+import os
+
+from orby import DesktopTest, press_keys, until
+
+QUESTION = "Orby ended unexpectedly. Recover the unsaved project?"
+
+
+class Recovery(DesktopTest):
+    def edit(self, depth, *arguments):
+        """A run whose parameters dialog is open with another depth of cover, which has been kept."""
+        run = self.start(*arguments)
+        if not arguments:
+            run.keys("ctrl+n")
+        parameters = run.window("Parameters")
+        parameters.type("txtDepthofCover", depth)
+        until(lambda: any(depth in self.kept(name) for name in self.recovery_files()), "the recovery file")
+        return run
+
+    def kept(self, name):
+        with open(os.path.join(self.data, "Temp", name), encoding="utf-8") as file:
+            return file.read().split("\n")
+
+    def depth_of(self, run):
+        run.keys("alt+i", "p")
+        parameters = run.window("Parameters")
+        depth = parameters.text("txtDepthofCover")
+        parameters.press("Command1")
+        parameters.wait_gone()
+        return depth
+
+    def quit_unsaved(self, run, name):
+        run.quit()
+        run.answer(f"Save changes to: {name}?", "No")
+        self.assertEqual(run.wait_end(), 0)
+
+    def test_brings_back_a_changed_field_of_the_open_dialog_after_a_kill(self):
+        file = self.copy_example("development-entry", "entry.ORB")
+        self.edit("777", file).kill()
+
+        run = self.start()
+        run.answer(QUESTION, "Yes")
+
+        until(lambda: run.caption().endswith("entry.ORB*"), "the old name with the mark of unsaved changes")
+        self.assertEqual(self.depth_of(run), "777")
+        self.quit_unsaved(run, file)
+        self.assertEqual(self.recovery_files(), [])
+
+    def test_no_deletes_what_was_kept(self):
+        self.edit("777").kill()
+
+        run = self.start()
+        run.answer(QUESTION, "No")
+
+        until(lambda: not self.recovery_files(), "the end of the recovery file")
+        self.assertEqual(self.depth_of(run), "400")
+        run.quit()
+        self.assertEqual(run.wait_end(), 0)
+        again = self.start()
+        self.assertEqual(self.depth_of(again), "400")
+
+    def test_keeps_the_work_of_two_programs_apart(self):
+        first = self.edit("771")
+        second = self.edit("772")
+        first.kill()
+        second.kill()
+        self.assertEqual(self.recovery_files(), ["~recover1.tmp", "~recover2.tmp"])
+
+        depths = [self.recovered_depth() for _ in range(2)]
+
+        self.assertEqual(depths, ["771", "772"])
+
+    def recovered_depth(self):
+        """What a program brings back that goes on beside the others."""
+        run = self.start()
+        run.answer(QUESTION, "Yes")
+        return self.depth_of(run)
+
+    def test_brings_back_the_last_good_fields_after_a_run_time_error(self):
+        run = self.edit("777")
+        parameters = run.window("Parameters")
+        parameters.type("txtUnitWeight", "158")
+        parameters.focus("txtDepthofCover")
+        press_keys("ctrl+a", "BackSpace")
+
+        run.answer("Run-time error '5':\n\nInvalid procedure call or argument", "OK")
+
+        self.assertEqual(run.wait_end(), 1)
+        again = self.start()
+        again.answer(QUESTION, "Yes")
+        again.keys("alt+i", "p")
+        parameters = again.window("Parameters")
+        self.assertEqual(parameters.text("txtDepthofCover"), "777")
+        self.assertEqual(parameters.text("txtUnitWeight"), "158")
