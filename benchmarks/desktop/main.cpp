@@ -1,0 +1,186 @@
+// Does one thing at the desktop, for the comparison with what the toolkit alone needs for the like of it:
+//
+//   empty-start   a window without anything in it, until it is painted
+//   start         the program, until its window is painted
+//   empty-key     a key in a line of an empty dialog, until it is painted
+//   key           the same key in the depth of cover, until it and all outputs are painted
+//   dialogs       prints the growth of memory, in bytes, over 450 openings of each dialog after the first 50
+//
+// The two keys stand between the marks of the instruction counter.
+#include <malloc.h>
+#include <valgrind/callgrind.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <map>
+#include <string>
+
+#include "dialogs/cost_dialog.h"
+#include "dialogs/description_dialog.h"
+#include "dialogs/estimator_dialog.h"
+#include "dialogs/graph_options_dialog.h"
+#include "dialogs/graph_window.h"
+#include "dialogs/parameters_dialog.h"
+#include "dialogs/preview_window.h"
+#include "dialogs/results_window.h"
+#include "qt/boundary.h"
+#include "qt/desktop.h"
+#include "qt/main_view.h"
+#include "shell/main_window.h"
+#include "shell/start_up.h"
+
+namespace {
+
+using namespace orby;
+
+// Ends the program as soon as the window has been painted.
+class EndAfterPaint : public QObject {
+ public:
+  explicit EndAfterPaint(QWidget& window) { window.installEventFilter(this); }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Paint) QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+    return QObject::eventFilter(watched, event);
+  }
+};
+
+struct Run {
+  Run() {
+    SetErrorHandler([](const RuntimeError& error) {
+      std::fputs(error.what(), stderr);
+      std::_Exit(EXIT_FAILURE);
+    });
+  }
+
+  Desktop desktop{"."};
+  Program program{desktop.Doors()};
+};
+
+int EmptyStart() {
+  QMainWindow window;
+  const EndAfterPaint end(window);
+  window.show();
+  return QApplication::exec();
+}
+
+int Start() {
+  Run run;
+  StartProgram(run.program);
+  MainWindow window(run.program);
+  window.Open();
+  run.desktop.windows.ShowMain(window, false);
+  DressMainWindow(run.desktop.windows.Main(), window);
+  const EndAfterPaint end(run.desktop.windows.Main());
+  return QApplication::exec();
+}
+
+void Paint() {
+  QCoreApplication::sendPostedEvents();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QCoreApplication::processEvents();
+}
+
+// The field is in use already; what is measured is one more key.
+void MeasureKey(QLineEdit& field) {
+  field.setFocus();
+  field.end(false);
+  const auto press = [&field](int key, const char* text) {
+    QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(&field, &down);
+    QKeyEvent up(QEvent::KeyRelease, key, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(&field, &up);
+    Paint();
+  };
+  Paint();
+  press(Qt::Key_5, "5");
+  CALLGRIND_START_INSTRUMENTATION;
+  press(Qt::Key_6, "6");
+  CALLGRIND_STOP_INSTRUMENTATION;
+}
+
+int EmptyKey() {
+  QDialog dialog;
+  auto* layout = new QVBoxLayout(&dialog);
+  auto* field = new QLineEdit("40", &dialog);
+  layout->addWidget(field);
+  dialog.show();
+  MeasureKey(*field);
+  return EXIT_SUCCESS;
+}
+
+int Key() {
+  Run run;
+  StartApart(run.program, nullptr);
+  run.program.WorkParms.DepthofCover = 40;
+  ParametersDialog dialog(run.program);
+  dialog.Open();
+  const auto window = MakeWindow(dialog, nullptr);
+  const BoundForm view(dialog, *window);
+  window->show();
+  MeasureKey(*window->findChild<QLineEdit*>("txtDepthofCover"));
+  return EXIT_SUCCESS;
+}
+
+// Opens the form's window, lets it be painted, and closes it.
+template <class Dialog>
+void OpenAndClose(Run& run) {
+  Dialog dialog(run.program);
+  dialog.Open();
+  {
+    const auto window = MakeWindow(dialog, nullptr);
+    const BoundForm view(dialog, *window);
+    window->show();
+    Paint();
+  }
+  dialog.Close();
+}
+
+std::size_t BytesInUse() { return mallinfo2().uordblks; }
+
+template <class Dialog>
+void MeasureGrowth(Run& run, const char* name) {
+  constexpr int Warming = 50;
+  constexpr int Openings = 500;
+  for (int i = 0; i < Warming; ++i) OpenAndClose<Dialog>(run);
+  const std::size_t before = BytesInUse();
+  for (int i = Warming; i < Openings; ++i) OpenAndClose<Dialog>(run);
+  std::printf("%-20s %12td\n", name, static_cast<std::ptrdiff_t>(BytesInUse() - before));
+}
+
+int Dialogs() {
+  Run run;
+  StartApart(run.program, nullptr);
+  MeasureGrowth<ParametersDialog>(run, "parameters");
+  MeasureGrowth<CostDialog>(run, "cost");
+  MeasureGrowth<DescriptionDialog>(run, "description");
+  MeasureGrowth<EstimatorDialog>(run, "estimator");
+  MeasureGrowth<ResultsWindow>(run, "results");
+  MeasureGrowth<PreviewWindow>(run, "preview");
+  MeasureGrowth<GraphWindow>(run, "graph");
+  return EXIT_SUCCESS;
+}
+
+const std::map<std::string, int (*)()> Things{
+    {"empty-start", EmptyStart}, {"start", Start}, {"empty-key", EmptyKey}, {"key", Key}, {"dialogs", Dialogs}};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const auto found = argc == 2 ? Things.find(argv[1]) : Things.end();
+  if (found == Things.end()) {
+    std::fputs("usage: orby-desktop-bench empty-start|start|empty-key|key|dialogs\n", stderr);
+    return EXIT_FAILURE;
+  }
+  const QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  return found->second();
+}
