@@ -167,6 +167,7 @@ class ListBinding : public QObject, public Binding {
  public:
   ListBinding(BindingHost& host, List& list)
       : host_(host), list_(list), widget_(FindNamed<QListWidget>(host, std::string(list.Name()))) {
+    widget_.setSpacing(2);
     widget_.installEventFilter(this);
     connect(&widget_, &QListWidget::itemClicked, this, [this](const QListWidgetItem* item) { Choose(*item); });
   }

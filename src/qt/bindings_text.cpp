@@ -97,12 +97,16 @@ QFont FontOf(const FontChoice& choice, const QWidget& widget) {
   return font;
 }
 
+// What a field shows even in a window that is as small as it can be: a number of seven digits, and its frame.
+constexpr int LeastCharacters = 10;
+
 // A line to type into. A key that the field refuses never reaches it, and a field that gets the focus comes up with its
 // text selected.
 class LineEditBinding : public QObject, public Binding {
  public:
   LineEditBinding(BindingHost& host, TextBox& box, QLineEdit& widget) : host_(host), box_(box), widget_(widget) {
     widget_.setReadOnly(box.Kind() == TextKind::Output);
+    widget_.setMinimumWidth(widget_.fontMetrics().averageCharWidth() * LeastCharacters);
     widget_.installEventFilter(this);
     connect(&widget_, &QLineEdit::textEdited, this,
             [this](const QString& text) { host_.Act([this, text] { box_.SetText(FromQt(text)); }); });
