@@ -116,6 +116,7 @@ class TabBinding : public Binding {
   std::vector<QWidget*> Widgets() const override { return {&widget_}; }
   std::vector<CaptionSlot> Captions() const override {
     std::vector<CaptionSlot> captions;
+    captions.reserve(static_cast<std::size_t>(tabs_.Count()));
     for (int tab = 0; tab < tabs_.Count(); ++tab) captions.push_back({&widget_, tab, &widget_, tabs_.Caption(tab)});
     return captions;
   }

@@ -12,7 +12,7 @@
 
 namespace orby {
 
-class BoundForm : public QObject, public FormView, public BindingHost {
+class BoundForm final : public QObject, public FormView, public BindingHost {
  public:
   // The form must live until it is closed, the window as long as this. Throws std::logic_error when a control has no
   // widget.

@@ -26,6 +26,8 @@ struct FormMaker {
   std::unique_ptr<Form> (*make)(Program& program);
 };
 
+inline void PrintTo(const FormMaker& maker, std::ostream* out) { *out << maker.name; }
+
 template <class Model>
 std::unique_ptr<Form> Plain(Program& program) {
   return std::make_unique<Model>(program);
