@@ -1,6 +1,7 @@
 #include "qt/printer.h"
 
 #include <QApplication>
+#include <QFontDatabase>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinterInfo>
@@ -26,7 +27,7 @@ constexpr double ChartMargin = 1.0 / 40;  // of the chart's width
 
 // The largest size in which a sheet of text fits the paper.
 QFont SheetFont(const QString& name, QPrinter& paper) {
-  QFont font(name);
+  QFont font = name.isEmpty() ? QFontDatabase::systemFont(QFontDatabase::FixedFont) : QFont(name);
   font.setStyleHint(QFont::TypeWriter, QFont::PreferNoShaping);  // two letters drawn as one would shift the columns
   const QRectF area = paper.pageRect(QPrinter::DevicePixel);
   for (int size = LargestSize; size > 4; --size) {

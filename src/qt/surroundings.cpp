@@ -22,17 +22,20 @@ std::optional<std::string> Folder(QStandardPaths::StandardLocation location) {
   return FromQt(path);
 }
 
-}  // namespace
-
-std::vector<std::string> QtFonts::ScreenFonts() {
-  // The desktop's own font comes first: it is what stands in for a font that is not there.
-  std::vector<std::string> names{FromQt(QGuiApplication::font().family())};
+std::vector<std::string> FontsAfter(const QFont& first) {
+  std::vector<std::string> names{FromQt(first.family())};
   for (const QString& family : QFontDatabase::families()) names.push_back(FromQt(family));
   return names;
 }
 
-// What is on the screen can be printed.
-std::vector<std::string> QtFonts::PrinterFonts() { return ScreenFonts(); }
+}  // namespace
+
+// The first font is what stands in where the wanted ones are not there: the desktop's own on the screen, and one of
+// fixed pitch on paper, where columns must stand.
+std::vector<std::string> QtFonts::ScreenFonts() { return FontsAfter(QGuiApplication::font()); }
+std::vector<std::string> QtFonts::PrinterFonts() {
+  return FontsAfter(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+}
 
 std::string QtLocale::DecimalSeparator() { return FromQt(QLocale::system().decimalPoint()); }
 

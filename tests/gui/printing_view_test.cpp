@@ -7,6 +7,7 @@
 
 #include "gui/report_bench.h"
 #include "qt/printer.h"
+#include "qt/surroundings.h"
 #include "reports/printing.h"
 
 namespace orby::test {
@@ -88,6 +89,22 @@ TEST_F(Printing, PutsAHeaderOnEachPage) {
   }
   EXPECT_THAT(pages[1], HasSubstr("Line 56 of the report\n"));
   EXPECT_THAT(pages[2], HasSubstr("Line 130 of the report\n"));
+}
+
+// Where none of the wanted fonts is there, columns still stand under each other.
+TEST(PrinterFonts, BeginWithOneOfFixedPitch) {
+  const std::vector<std::string> names = QtFonts().PrinterFonts();
+
+  ASSERT_FALSE(names.empty());
+  const QFontMetricsF metrics(QFont(QString::fromStdString(names.front())));
+  EXPECT_EQ(metrics.horizontalAdvance("iiiiiiii"), metrics.horizontalAdvance("WWWWWWWW"));
+}
+
+TEST(ScreenFonts, BeginWithTheDesktopsOwn) {
+  const std::vector<std::string> names = QtFonts().ScreenFonts();
+
+  ASSERT_FALSE(names.empty());
+  EXPECT_EQ(names.front(), QApplication::font().family().toStdString());
 }
 
 TEST_F(Printing, KeepsTheWholeWidthOfALineOnThePaper) {
