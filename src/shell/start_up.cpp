@@ -24,6 +24,8 @@ void SettleConfiguration(Program& program) {
     if (ReadIniVersion(program) == BuildStamp) return;
     program.platform.files.RemoveFile(program.IniFilePath);
   }
+  // Here alone, not at every start: to ask the machine for its fonts takes longer than all the rest.
+  SetBuiltInSettings(program);
   WriteNewIniFile(program);
 }
 
@@ -47,7 +49,6 @@ void StartProgram(Program& program) {
   SetBuiltInValues(program);
   FindUserFolders(program);
   program.IniFilePath = program.folders.ProgramData + std::string(IniFileName);
-  SetBuiltInSettings(program);
   SettleConfiguration(program);
   ReadConfiguration(program);
   BeginNewDesign(program);

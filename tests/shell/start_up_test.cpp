@@ -170,6 +170,18 @@ TEST_F(StartUp, NamesAFontThatTheMachineHas) {
   EXPECT_THAT(Ini(), HasSubstr("DisplayFontName=Courier New\r\n"));
 }
 
+TEST_F(StartUp, LosesNoTimeOverFontsOnceOneIsChosen) {
+  platform.fonts.screen = {"Verdana", "Arial"};
+  StartProgram(program);
+  platform.fonts.asked = 0;
+  Program second(platform.Doors());
+
+  StartProgram(second);
+
+  EXPECT_EQ(platform.fonts.asked, 0);
+  EXPECT_EQ(second.settings.DisplayFontName, "Arial");
+}
+
 TEST_F(StartUp, EndsInTheProgramsFolder) {
   StartProgram(program);
 

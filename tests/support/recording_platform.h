@@ -200,11 +200,15 @@ class RecordingWindows : public Windows {
 
 class ListedFonts : public Fonts {
  public:
-  std::vector<std::string> ScreenFonts() override { return screen; }
+  std::vector<std::string> ScreenFonts() override {
+    ++asked;
+    return screen;
+  }
   std::vector<std::string> PrinterFonts() override { return printer; }
 
   std::vector<std::string> screen;
   std::vector<std::string> printer;
+  int asked = 0;  // for the fonts of the screen
 };
 
 class ScriptedLocale : public Locale {
