@@ -61,6 +61,12 @@ T& FindNamed(const BindingHost& host, const std::string& name) {
   return dynamic_cast<T&>(FindObject(host, name));
 }
 
+// Shows whether the control can be used and seen.
+inline void ShowState(QWidget& widget, const Control& control) {
+  widget.setEnabled(control.Enabled());
+  widget.setVisible(control.Visible());
+}
+
 // The name of a member of an array: "optUnits_1".
 std::string MemberName(const Control& control, int index);
 

@@ -28,8 +28,7 @@ class CheckBinding : public Binding {
 
   void Show() override {
     const QSignalBlocker quiet(widget_);
-    widget_.setEnabled(box_.Enabled());
-    widget_.setVisible(box_.Visible());
+    ShowState(widget_, box_);
     widget_.setText(host_.Letters().Marked(&widget_, 0, box_.Caption()));
     widget_.setChecked(box_.Checked());
   }
@@ -116,8 +115,7 @@ class ComboBinding : public QObject, public Binding {
 
   void Show() override {
     const QSignalBlocker quiet(widget_);
-    widget_.setEnabled(combo_.Enabled());
-    widget_.setVisible(combo_.Visible());
+    ShowState(widget_, combo_);
     ShowItems();
     ShowText();
   }
@@ -174,8 +172,7 @@ class ListBinding : public QObject, public Binding {
 
   void Show() override {
     const QSignalBlocker quiet(widget_);
-    widget_.setEnabled(list_.Enabled());
-    widget_.setVisible(list_.Visible());
+    ShowState(widget_, list_);
     if (widget_.count() != static_cast<int>(list_.Items().size())) {
       widget_.clear();
       for (const ComboItem& item : list_.Items()) widget_.addItem(ToQt(item.text));
@@ -217,8 +214,7 @@ class SliderBinding : public Binding {
 
   void Show() override {
     const QSignalBlocker quiet(widget_);
-    widget_.setEnabled(slider_.Enabled());
-    widget_.setVisible(slider_.Visible());
+    ShowState(widget_, slider_);
     widget_.setValue(slider_.Value());
   }
   std::vector<QWidget*> Widgets() const override { return {&widget_}; }

@@ -15,11 +15,6 @@
 namespace orby {
 namespace {
 
-void ShowState(QWidget& widget, const Control& control) {
-  widget.setEnabled(control.Enabled());
-  widget.setVisible(control.Visible());
-}
-
 class LabelBinding : public Binding {
  public:
   LabelBinding(BindingHost& host, const Label& label)

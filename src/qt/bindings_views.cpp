@@ -56,8 +56,7 @@ class GridBinding : public Binding {
 
   void Show() override {
     const QSignalBlocker quiet(widget_);
-    widget_.setEnabled(grid_.Enabled());
-    widget_.setVisible(grid_.Visible());
+    ShowState(widget_, grid_);
     const int rows = grid_.Rows() - grid_.FixedRows();
     widget_.setRowCount(rows);
     widget_.setColumnCount(grid_.Columns());
@@ -104,8 +103,7 @@ class TabBinding : public Binding {
 
   void Show() override {
     const QSignalBlocker quiet(widget_);
-    widget_.setEnabled(tabs_.Enabled());
-    widget_.setVisible(tabs_.Visible());
+    ShowState(widget_, tabs_);
     for (int tab = 0; tab < tabs_.Count(); ++tab) {
       widget_.setTabText(tab, host_.Letters().Marked(&widget_, tab, tabs_.Caption(tab)));
       widget_.setTabEnabled(tab, tabs_.TabEnabled(tab));
