@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/attempt.h"
 #include "base/paths.h"
-#include "base/runtime_error.h"
 #include "config/whole_file.h"
 #include "core/file_helpers.h"
 #include "core/program_names.h"
@@ -20,27 +20,15 @@ std::string Below(const std::string& folder, std::string_view name) {
   return WithSeparator(folder).append(name) + FolderSeparator;
 }
 
-template <class Act>
-void IgnoringErrors(const Act& act) {
-  try {
-    act();
-  } catch (const RuntimeError&) {
-    return;
-  }
-}
-
 bool IsThere(FileSystem& files, const std::string& folder) {
-  try {
-    return files.Finds(folder, true);
-  } catch (const RuntimeError&) {
-    return false;
-  }
+  bool found = false;
+  return Succeeds([&] { found = files.Finds(folder, true); }) && found;
 }
 
 // The folder, made when it is missing; the program's own when it cannot be had.
 std::string Settled(Program& program, const std::string& folder) {
   FileSystem& files = program.platform.files;
-  IgnoringErrors([&] { files.MakeFolder(folder); });
+  Succeeds([&] { files.MakeFolder(folder); });
   return IsThere(files, folder) ? folder : AppDirectory(program);
 }
 
@@ -72,14 +60,14 @@ void CopyExamples(Program& program) {
   FileSystem& files = program.platform.files;
   for (const std::string& source : files.FilesIn(AppDirectory(program).append(ExamplesFolderName))) {
     const std::string target = WithSeparator(program.settings.DataPath).append(NameBehindSeparator(source));
-    IgnoringErrors([&] { CopyMissing(files, source, target); });
+    Succeeds([&] { CopyMissing(files, source, target); });
   }
 }
 
 void EnterWorkingFolder(Program& program) {
   FileSystem& files = program.platform.files;
   const std::string own = AppDirectory(program);
-  IgnoringErrors([&] { files.SetWorkingFolder(files.CanWriteTo(own) ? own : program.folders.ProgramData); });
+  Succeeds([&] { files.SetWorkingFolder(files.CanWriteTo(own) ? own : program.folders.ProgramData); });
 }
 
 }  // namespace orby

@@ -1,13 +1,11 @@
 // Grids, tabs, menus, tool bars, and widgets that are only shown.
 #include <QAction>
-#include <QApplication>
 #include <QHeaderView>
 #include <QMenu>
 #include <QSignalBlocker>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QToolBar>
-#include <QToolButton>
 #include <algorithm>
 
 #include "qt/bindings.h"

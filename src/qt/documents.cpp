@@ -1,7 +1,6 @@
 #include "qt/documents.h"
 
 #include <QProcess>
-#include <QStandardPaths>
 
 #include "base/runtime_error.h"
 #include "qt/sheet_file.h"

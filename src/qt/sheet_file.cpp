@@ -2,7 +2,6 @@
 
 #include <xlsxwriter.h>
 
-#include <algorithm>
 #include <clocale>
 
 #include "base/runtime_error.h"

@@ -1,7 +1,7 @@
 #include "shell/recovery.h"
 
+#include "base/attempt.h"
 #include "base/number_text.h"
-#include "base/runtime_error.h"
 #include "config/whole_file.h"
 #include "core/file_helpers.h"
 #include "core/messages.h"
@@ -19,17 +19,6 @@ std::string SlotPath(const Program& program, int number, std::string_view extens
 
 constexpr std::string_view FileExtension = ".tmp";
 constexpr std::string_view MarkExtension = ".lck";
-
-// What cannot be kept is not worth an error of its own.
-template <class Act>
-bool Succeeds(const Act& act) {
-  try {
-    act();
-    return true;
-  } catch (const RuntimeError&) {
-    return false;
-  }
-}
 
 }  // namespace
 

@@ -44,6 +44,17 @@ struct GraphFormat : GraphBench {
   GraphOptionsDialog dialog{program, window.graph1};
 };
 
+// With the sixth curve on view.
+void EditEveryField(GraphOptionsDialog& dialog) {
+  dialog.Text1.SetText("Tailgate");
+  dialog.Text2[5].SetText("Span of the entry");
+  dialog.Text3[1].SetText("Weight of the rock");
+  dialog.Combo1.SetListIndex(1);
+  dialog.Combo2.SetListIndex(1);
+  dialog.Check1.SetValue(0);
+  dialog.HScroll1.SetValue(10);
+}
+
 TEST_F(GraphFormat, NamesItselfItsFieldsAndItsCommands) {
   EXPECT_EQ(dialog.Name(), "frmGraphOpt");
   EXPECT_EQ(dialog.Caption(), "Graph Parameters and Options");
@@ -255,13 +266,7 @@ TEST_F(GraphFormat, TakesATypedItem) {
 
 TEST_F(GraphFormat, IsStoredWithOK) {
   dialog.Open();
-  dialog.Text1.SetText("Tailgate");
-  dialog.Text2[5].SetText("Span of the entry");
-  dialog.Text3[1].SetText("Weight of the rock");
-  dialog.Combo1.SetListIndex(1);
-  dialog.Combo2.SetListIndex(1);
-  dialog.Check1.SetValue(0);
-  dialog.HScroll1.SetValue(10);
+  EditEveryField(dialog);
 
   dialog.Command2.Press();
 
@@ -305,13 +310,7 @@ TEST_F(GraphFormat, LeavesTheTitlesOfOtherCurvesAlone) {
 
 TEST_F(GraphFormat, ReachesTheOpenChartWithOK) {
   dialog.Open();
-  dialog.Text1.SetText("Tailgate");
-  dialog.Text2[5].SetText("Span of the entry");
-  dialog.Text3[1].SetText("Weight of the rock");
-  dialog.Combo1.SetListIndex(1);
-  dialog.Combo2.SetListIndex(1);
-  dialog.Check1.SetValue(0);
-  dialog.HScroll1.SetValue(10);
+  EditEveryField(dialog);
 
   dialog.Command2.Press();
 

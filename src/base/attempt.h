@@ -1,0 +1,19 @@
+// Acts whose failure has an answer of its own.
+#pragma once
+
+#include "base/runtime_error.h"
+
+namespace orby {
+
+// Runs the act and gives whether it came to its end; a RuntimeError on the way is the whole of the answer.
+template <class Act>
+bool Succeeds(const Act& act) {
+  try {
+    act();
+    return true;
+  } catch (const RuntimeError&) {
+    return false;
+  }
+}
+
+}  // namespace orby
