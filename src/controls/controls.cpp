@@ -116,6 +116,7 @@ void Grid::SetSize(int rows, int columns, int fixedRows) {
   columns_ = columns;
   fixedRows_ = fixedRows;
   row_ = std::min(fixedRows, rows - 1);
+  column_ = 0;
   cells_.assign(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns), {});
   Touch();
 }
@@ -137,15 +138,34 @@ void Grid::EditCell(int row, int column, std::string text) {
   Fire(Change);
 }
 
-void Grid::SetRow(int row) {
-  if (row == row_) return;
-  row_ = static_cast<int>(Position(row, static_cast<std::size_t>(rows_)));
+void Grid::AddRow() {
+  ++rows_;
+  cells_.resize(cells_.size() + static_cast<std::size_t>(columns_));
+  if (row_ < fixedRows_) row_ = fixedRows_;
+  Touch();
+}
+
+void Grid::RemoveRow(int row) {
+  const auto first = cells_.begin() + static_cast<std::ptrdiff_t>(Index(row, 0));
+  cells_.erase(first, first + columns_);
+  --rows_;
+  row_ = std::min(row_, rows_ - 1);
+  Touch();
+}
+
+void Grid::SelectCell(int row, int column) {
+  if (row == row_ && column == column_) return;
+  Index(row, column);
+  row_ = row;
+  column_ = column;
   Touch();
   Fire(Change);
 }
 
-void Grid::ClickRow(int row) {
-  SetRow(row);
+void Grid::ClickRow(int row) { ClickCell(row, column_); }
+
+void Grid::ClickCell(int row, int column) {
+  SelectCell(row, column);
   Fire(Click);
 }
 
@@ -199,6 +219,19 @@ void Slider::SetValue(int value) {
   value_ = value;
   Touch();
   Fire(Change);
+}
+
+void ProgressBar::SetValue(int value) { Mirror(value_, std::clamp(value, 0, Whole)); }
+
+void TextPane::Clear(std::size_t expected) {
+  bytes_ = {};
+  bytes_.reserve(expected);
+  Touch();
+}
+
+void TextPane::Append(std::string_view bytes) {
+  bytes_ += bytes;
+  Touch();
 }
 
 }  // namespace orby

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/font_choice.h"
 #include "base/types.h"
 #include "controls/control.h"
 #include "controls/form.h"
@@ -66,14 +67,6 @@ enum class TextKind {
   Free,    // any text
   Number,  // keys pass the numeric key filter
   Output,  // shown only, never typed into; fires nothing
-};
-
-struct FontChoice {
-  std::string name;  // empty: the font of the desktop
-  int size = 10;     // points
-  bool bold = false;
-  bool italic = false;
-  bool operator==(const FontChoice&) const = default;
 };
 
 class TextBox : public Control {
@@ -209,13 +202,18 @@ class Combo : public Control {
   int listIndex_ = Nothing;
 };
 
-// Cells of text under fixed header rows, one row of them selected.
+// Cells of text under fixed header rows, one row of them selected, and one cell in it.
 class Grid : public Control {
  public:
   Grid(Form& form, std::string_view name) : Control(form, name) {}
 
-  // Sizes the grid, empties its cells and selects the first row below the header, if there is one.
+  // Sizes the grid, empties its cells and selects the first cell below the header, if there is one.
   void SetSize(int rows, int columns, int fixedRows);
+  // One more row of empty cells at the end.
+  void AddRow();
+  // Those behind it move up; the selection stays at its place, or goes to the last row. Throws RuntimeError 9 outside
+  // the grid.
+  void RemoveRow(int row);
   int Rows() const { return rows_; }
   int Columns() const { return columns_; }
   int FixedRows() const { return fixedRows_; }
@@ -231,11 +229,19 @@ class Grid : public Control {
   void EditCell(int row, int column, std::string text);
 
   int Row() const { return row_; }
-  void SetRow(int row);
+  void SetRow(int row) { SelectCell(row, column_); }
+  int Column() const { return column_; }
+  // Throws RuntimeError 9 outside the grid.
+  void SelectCell(int row, int column);
   // The user's click on a row, which counts on the selected one too.
   void ClickRow(int row);
+  void ClickCell(int row, int column);
 
-  Event Change;  // another row is selected, or a cell was edited
+  // A text box that lies over the selected cell while the grid has the keyboard; none: the cells are only shown.
+  void SetOverlay(TextBox& overlay) { overlay_ = &overlay; }
+  TextBox* Overlay() const { return overlay_; }
+
+  Event Change;  // another row, or another cell, is selected, or a cell was edited
   Event Click;
 
  private:
@@ -245,7 +251,9 @@ class Grid : public Control {
   int columns_ = 0;
   int fixedRows_ = 0;
   int row_ = 0;
+  int column_ = 0;
   int width_ = 0;
+  TextBox* overlay_ = nullptr;
   std::vector<int> columnWidths_;
   std::vector<std::string> cells_;
 };
@@ -354,6 +362,39 @@ class Slider : public Control {
   int minimum_;
   int maximum_;
   int value_;
+};
+
+// How far a long piece of work has come.
+class ProgressBar : public Control {
+ public:
+  using Control::Control;
+
+  static constexpr int Whole = 100;
+
+  int Value() const { return value_; }  // percent
+  // A value outside 0..100 becomes its nearer end.
+  void SetValue(int value);
+
+ private:
+  int value_ = 0;
+};
+
+// A text that may be as long as a file, shown line by line as it stands: bytes, not yet known to be text.
+class TextPane : public Control {
+ public:
+  using Control::Control;
+
+  const std::string& Bytes() const { return bytes_; }
+  // Empties the pane and gets ready for so many bytes.
+  void Clear(std::size_t expected = 0);
+  void Append(std::string_view bytes);
+
+  const FontChoice& Font() const { return font_; }
+  void SetFont(FontChoice font) { Mirror(font_, std::move(font)); }
+
+ private:
+  std::string bytes_;
+  FontChoice font_;
 };
 
 // A stored picture of which only the visibility changes.

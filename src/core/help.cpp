@@ -2,18 +2,51 @@
 
 #include <string>
 
+#include "controls/control.h"
+#include "controls/form.h"
 #include "core/file_helpers.h"
 #include "core/messages.h"
 
 namespace orby {
+namespace {
 
-void OpenHelp(Program& program, std::string_view fileName) {
-  const std::string path = AppDirectory(program) + std::string(fileName);
-  if (!FileExists(program, path)) {
-    ShowMessage(program, "Help file (" + path + ") not available");
-  } else if (!program.platform.documents.Open(path)) {
+// open: takes the whole path, and gives whether the file has been opened.
+template <class Open>
+void OpenFound(Program& program, std::string_view kind, std::string_view path, std::string_view shown,
+               const Open& open) {
+  const std::string wholePath = AppDirectory(program).append(path);
+  if (!FileExists(program, wholePath)) {
+    const std::string name(shown.empty() ? wholePath : shown);
+    ShowMessage(program, std::string(kind) + " (" + name + ") not available");
+  } else if (!open(wholePath)) {
     ShowMessage(program, "Operation Failed");
   }
+}
+
+template <class Open>
+void OpenHelp(Program& program, const Open& open) {
+  OpenFound(program, "Help file", HelpFile, {}, open);
+}
+
+}  // namespace
+
+void OpenHelpContents(Program& program) {
+  OpenHelp(program, [&](const std::string& path) { return program.platform.help.ShowContents(path); });
+}
+
+void OpenHelpIndex(Program& program) {
+  OpenHelp(program, [&](const std::string& path) { return program.platform.help.ShowIndex(path); });
+}
+
+void OpenHelpTopic(Program& program, const Form& form, const Control* control) {
+  std::string topic(form.Name());
+  if (control != nullptr) topic.append(".").append(control->Name());
+  OpenHelp(program, [&](const std::string& path) { return program.platform.help.ShowTopic(path, topic); });
+}
+
+void OpenDocument(Program& program, std::string_view kind, std::string_view path, std::string_view shown) {
+  OpenFound(program, kind, path, shown,
+            [&](const std::string& found) { return program.platform.documents.Open(found); });
 }
 
 }  // namespace orby

@@ -16,6 +16,7 @@ inline constexpr int Parameters = 2;
 inline constexpr int Options = 7;
 inline constexpr int Settings = 10;
 inline constexpr int GraphOptions = 11;
+inline constexpr int TextBrowser = 11;
 inline constexpr int Calculator = 12;
 inline constexpr int Conversion = 13;
 }  // namespace message_module

@@ -10,7 +10,7 @@ namespace orby {
 ConvertDialog::ConvertDialog(Program& program) : program_(program) {
   Command2.Click = [this] { Convert(); };
   Command1.Click = [this] { Close(); };
-  Command3.Click = [this] { OpenHelp(program_); };
+  Command3.Click = [this] { OpenHelpTopic(program_, *this); };
 }
 
 void ConvertDialog::OnOpen() {

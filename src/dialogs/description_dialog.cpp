@@ -41,7 +41,7 @@ DescriptionDialog::DescriptionDialog(Program& program) : program_(program) {
     OpensParameters = true;
     Close();
   };
-  Command3.Click = [this] { OpenHelp(program_); };
+  Command3.Click = [this] { OpenHelpTopic(program_, *this); };
 }
 
 void DescriptionDialog::OnOpen() {

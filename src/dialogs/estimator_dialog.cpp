@@ -28,7 +28,7 @@ EstimatorDialog::EstimatorDialog(Program& program) : program_(program) {
     Close();
   };
   Command1.Click = [this] { Close(); };
-  Command3.Click = [this] { OpenHelp(program_); };
+  Command3.Click = [this] { OpenHelpTopic(program_, *this); };
 }
 
 void EstimatorDialog::OnOpen() {

@@ -28,7 +28,7 @@ GraphOptionsDialog::GraphOptionsDialog(Program& program, Chart& chart) : program
   HScroll1.Change = [this] { txtSS.SetText(NumberText(HScroll1.Value())); };
   Command2.Click = [this] { Accept(); };
   Command1.Click = [this] { Close(); };
-  Command3.Click = [this] { OpenHelp(program_); };
+  Command3.Click = [this] { OpenHelpTopic(program_, *this); };
 }
 
 void GraphOptionsDialog::OnOpen() {

@@ -49,7 +49,7 @@ void ResultsWindow::TieCommands() {
     Print(0, program_.LastPage);
   };
   Command7.Click = [this] { CopyAll(); };
-  Command8.Click = [this] { OpenHelp(program_); };
+  Command8.Click = [this] { OpenHelpTopic(program_, *this); };
   Command9.Click = [this] { ShowMessage(program_, "Option not active yet"); };
   cmdGraph.Click = [this] { lstGraphs.SetVisible(!lstGraphs.Visible()); };
   cmdChangeInput.Click = [this] { ChangeInput(); };

@@ -16,7 +16,8 @@ FileQuestion ProjectFileQuestion(Program& program) {
   FileQuestion question;
   if (!Trim(program.CurrentFile).empty()) question.fileName = FileNameFromPath(program, program.CurrentFile, false);
   question.folder = WithoutSeparator(settings.DataPath);
-  question.filterName = std::string(ProgramTitle) + " (*." + settings.FileExtension + ")";
+  const std::string pattern = "*." + settings.FileExtension;
+  question.filters = {{std::string(ProgramTitle) + " (" + pattern + ")", pattern}, {"All Files (*.*)", "*"}};
   question.defaultExtension = settings.FileExtension;
   return question;
 }

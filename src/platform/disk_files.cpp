@@ -73,6 +73,29 @@ class DiskOutputFile : public OutputFile {
   FileHandle file_;
 };
 
+struct stat FactsOf(std::FILE& file, const std::string& path) {
+  struct stat facts {};
+  if (fstat(fileno(&file), &facts) != 0) throw FileError(errno, path);
+  if (S_ISDIR(facts.st_mode)) throw RuntimeError(error_number::PathFileAccess);
+  return facts;
+}
+
+class DiskInputFile : public InputFile {
+ public:
+  explicit DiskInputFile(const std::string& path) : path_(path), file_(Open(path, "rb")) { FactsOf(*file_, path_); }
+
+  std::string Read(std::size_t most) override {
+    std::string bytes(most, '\0');
+    bytes.resize(std::fread(bytes.data(), 1, most, file_.get()));
+    if (std::ferror(file_.get()) != 0) throw FileError(errno, path_);
+    return bytes;
+  }
+
+ private:
+  std::string path_;
+  FileHandle file_;
+};
+
 class DiskFileMark : public FileMark {
  public:
   explicit DiskFileMark(int file) : file_(file) {}
@@ -100,9 +123,7 @@ bool DiskFiles::Finds(const std::string& path, bool foldersToo) {
 
 std::string DiskFiles::ReadFile(const std::string& path) {
   const FileHandle file = Open(path, "rb");
-  struct stat facts {};
-  if (fstat(fileno(file.get()), &facts) != 0) throw FileError(errno, path);
-  if (S_ISDIR(facts.st_mode)) throw RuntimeError(error_number::PathFileAccess);
+  const struct stat facts = FactsOf(*file, path);
   std::string bytes;
   if (facts.st_size > 0) bytes.resize(static_cast<std::size_t>(facts.st_size));
   bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file.get()));
@@ -111,6 +132,17 @@ std::string DiskFiles::ReadFile(const std::string& path) {
   for (std::size_t count = 0; (count = std::fread(more, 1, sizeof more, file.get())) > 0;) bytes.append(more, count);
   if (std::ferror(file.get()) != 0) throw FileError(errno, path);
   return bytes;
+}
+
+std::unique_ptr<InputFile> DiskFiles::OpenFile(const std::string& path) {
+  return std::make_unique<DiskInputFile>(path);
+}
+
+std::uint64_t DiskFiles::FileLength(const std::string& path) {
+  CheckName(path);
+  struct stat facts {};
+  if (stat(path.c_str(), &facts) != 0) throw FileError(errno, path);
+  return S_ISREG(facts.st_mode) ? static_cast<std::uint64_t>(facts.st_size) : 0;
 }
 
 std::unique_ptr<OutputFile> DiskFiles::CreateFile(const std::string& path) {
@@ -153,9 +185,43 @@ std::vector<std::string> DiskFiles::FilesIn(const std::string& folder) {
   return files;
 }
 
+std::vector<std::string> DiskFiles::FoldersIn(const std::string& folder) {
+  CheckName(folder);
+  std::vector<std::string> folders;
+  std::error_code problem;
+  std::filesystem::directory_iterator entry(folder, problem);
+  // A folder that is missing is a path that is missing, not a file.
+  if (problem) throw FileError(problem.value(), WithSeparator(folder));
+  for (; !problem && entry != std::filesystem::directory_iterator(); entry.increment(problem)) {
+    std::error_code unknown;
+    const std::string name = entry->path().filename().string();
+    if (!name.starts_with('.') && entry->is_directory(unknown)) folders.push_back(name);
+  }
+  std::ranges::sort(folders);
+  return folders;
+}
+
+// What the desktop attaches lies two or three folders down, by the name of the user and of the disk.
+std::vector<std::string> DiskFiles::Drives() {
+  std::vector<std::string> drives{"/"};
+  std::error_code problem;
+  for (const char* place : {"/media", "/mnt", "/run/media"}) {
+    std::filesystem::recursive_directory_iterator entry(place, problem);
+    for (; !problem && entry != std::filesystem::recursive_directory_iterator(); entry.increment(problem)) {
+      if (entry.depth() >= 1) entry.disable_recursion_pending();
+      struct stat facts {};
+      struct stat above {};
+      const std::string path = entry->path().string();
+      if (stat(path.c_str(), &facts) != 0 || stat((path + "/..").c_str(), &above) != 0) continue;
+      if (facts.st_dev != above.st_dev) drives.push_back(path);
+    }
+  }
+  std::ranges::sort(drives);
+  return drives;
+}
+
 void DiskFiles::SetWorkingFolder(const std::string& path) {
   CheckName(path);
-  // A folder that is missing is a path that is missing, not a file.
   if (chdir(path.c_str()) != 0) throw FileError(errno, WithSeparator(path));
 }
 

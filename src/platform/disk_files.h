@@ -11,12 +11,16 @@ class DiskFiles : public FileSystem {
 
   bool Finds(const std::string& path, bool foldersToo) override;
   std::string ReadFile(const std::string& path) override;
+  std::unique_ptr<InputFile> OpenFile(const std::string& path) override;
+  std::uint64_t FileLength(const std::string& path) override;
   std::unique_ptr<OutputFile> CreateFile(const std::string& path) override;
   void RemoveFile(const std::string& path) override;
   void RenameFile(const std::string& path, const std::string& newPath) override;
   void MakeFolder(const std::string& path) override;
   bool CanWriteTo(const std::string& folder) override;
   std::vector<std::string> FilesIn(const std::string& folder) override;
+  std::vector<std::string> FoldersIn(const std::string& folder) override;
+  std::vector<std::string> Drives() override;
   void SetWorkingFolder(const std::string& path) override;
   std::string AbsolutePath(const std::string& path) override;
   std::unique_ptr<FileMark> TryMark(const std::string& path) override;

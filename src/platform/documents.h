@@ -29,6 +29,10 @@ class Documents {
   // Writes the sheet as a spreadsheet file and opens it. Throws RuntimeError 429, which names the file, when there is
   // no program for it, and the file's RuntimeError when it cannot be written.
   virtual void OpenSheet(const Sheet& sheet, const std::string& path) = 0;
+  // Starts a program, a path or a name that the system looks up; false when it does not start.
+  virtual bool Start(const std::string& program, const std::vector<std::string>& arguments) = 0;
+  // Runs a program to its end, a few seconds at most; false when it does not start, takes longer, or reports a failure.
+  virtual bool RunToEnd(const std::string& program, const std::vector<std::string>& arguments) = 0;
 };
 
 }  // namespace orby

@@ -2,6 +2,8 @@
 // 70 permission, 75 access, 76 path not found.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -18,6 +20,14 @@ class OutputFile {
   virtual void Close() = 0;
 };
 
+// A file open for reading.
+class InputFile {
+ public:
+  virtual ~InputFile() = default;
+  // The next bytes, so many at most; none at the end of the file.
+  virtual std::string Read(std::size_t most) = 0;
+};
+
 // A file marked as in use.
 class FileMark {
  public:
@@ -32,6 +42,10 @@ class FileSystem {
   virtual bool Finds(const std::string& path, bool foldersToo) = 0;
   // The whole file, byte for byte.
   virtual std::string ReadFile(const std::string& path) = 0;
+  // Opens the file for reading.
+  virtual std::unique_ptr<InputFile> OpenFile(const std::string& path) = 0;
+  // Bytes of the file; 0 for what has no length, such as a pipe.
+  virtual std::uint64_t FileLength(const std::string& path) = 0;
   // Opens the file for writing; an existing one is emptied at once.
   virtual std::unique_ptr<OutputFile> CreateFile(const std::string& path) = 0;
   virtual void RemoveFile(const std::string& path) = 0;
@@ -43,6 +57,10 @@ class FileSystem {
   virtual bool CanWriteTo(const std::string& folder) = 0;
   // The full paths of the files in the folder, not of the folders in it, sorted; empty when it cannot be read.
   virtual std::vector<std::string> FilesIn(const std::string& folder) = 0;
+  // The names of the folders in the folder, sorted, those that the system hides left out.
+  virtual std::vector<std::string> FoldersIn(const std::string& folder) = 0;
+  // The folders at which the user's disks begin: the root of the file system first, then what else is attached.
+  virtual std::vector<std::string> Drives() = 0;
   virtual void SetWorkingFolder(const std::string& path) = 0;
   // The path from the root of the file system.
   virtual std::string AbsolutePath(const std::string& path) = 0;

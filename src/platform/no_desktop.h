@@ -19,12 +19,16 @@ class NoFileDialogs : public FileDialogs {
  public:
   std::string AskOpenName(const FileQuestion&) override { throw RuntimeError(error_number::Cancelled); }
   std::string AskSaveName(const FileQuestion&) override { throw RuntimeError(error_number::Cancelled); }
+  std::string AskFolder(const std::string&, const std::string&) override {
+    throw RuntimeError(error_number::Cancelled);
+  }
 };
 
 class NoFonts : public Fonts {
  public:
   std::vector<std::string> ScreenFonts() override { return {}; }
   std::vector<std::string> PrinterFonts() override { return {}; }
+  std::vector<std::string> FixedPitchFonts() override { return {}; }
 };
 
 class NoClock : public Clock {
@@ -37,6 +41,7 @@ class NoUserFolders : public UserFolders {
  public:
   std::optional<std::string> Documents() override { return std::nullopt; }
   std::optional<std::string> Desktop() override { return std::nullopt; }
+  std::optional<std::string> Data() override { return std::nullopt; }
 };
 
 class NoClipboard : public Clipboard {
@@ -61,6 +66,21 @@ class NoDocuments : public Documents {
  public:
   bool Open(const std::string&) override { return false; }
   void OpenSheet(const Sheet&, const std::string&) override { throw RuntimeError(error_number::Automation); }
+  bool Start(const std::string&, const std::vector<std::string>&) override { return false; }
+  bool RunToEnd(const std::string&, const std::vector<std::string>&) override { return false; }
+};
+
+class NoHelpViewer : public HelpViewer {
+ public:
+  bool ShowContents(const std::string&) override { return false; }
+  bool ShowIndex(const std::string&) override { return false; }
+  bool ShowTopic(const std::string&, const std::string&) override { return false; }
+  void Close() override {}
+};
+
+class NoDownloads : public Downloads {
+ public:
+  std::unique_ptr<Fetch> Start(const FetchRequest&, FetchEvents) override { return nullptr; }
 };
 
 }  // namespace orby

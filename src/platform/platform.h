@@ -3,8 +3,10 @@
 
 #include "platform/clipboard.h"
 #include "platform/documents.h"
+#include "platform/downloads.h"
 #include "platform/file_dialogs.h"
 #include "platform/file_system.h"
+#include "platform/help_viewer.h"
 #include "platform/message_boxes.h"
 #include "platform/printer.h"
 #include "platform/surroundings.h"
@@ -24,6 +26,8 @@ struct Platform {
   Clipboard& clipboard;
   Printer& printer;
   Documents& documents;
+  HelpViewer& help;
+  Downloads& downloads;
 };
 
 }  // namespace orby

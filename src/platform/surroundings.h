@@ -13,6 +13,7 @@ class Fonts {
   virtual ~Fonts() = default;
   virtual std::vector<std::string> ScreenFonts() = 0;
   virtual std::vector<std::string> PrinterFonts() = 0;
+  virtual std::vector<std::string> FixedPitchFonts() = 0;  // those of the screen whose letters are equally wide
 };
 
 class Locale {
@@ -41,6 +42,8 @@ class UserFolders {
   virtual ~UserFolders() = default;
   virtual std::optional<std::string> Documents() = 0;
   virtual std::optional<std::string> Desktop() = 0;
+  // Where programs keep what they add to the desktop for this user: types of files, menu entries, icons.
+  virtual std::optional<std::string> Data() = 0;
 };
 
 }  // namespace orby

@@ -84,6 +84,7 @@ BindingPointer BindTabSet(BindingHost& host, TabSet& tabs);
 BindingPointer BindMenu(BindingHost& host, const Menu& menu);
 BindingPointer BindActionArray(BindingHost& host, const ActionArray& actions);
 BindingPointer BindPlain(BindingHost& host, const Control& control);  // shown, and nothing else
+BindingPointer BindProgressBar(BindingHost& host, const ProgressBar& bar);
 BindingPointer BindChart(BindingHost& host, const Chart& chart);
 
 // The binding that fits the kind of the control.

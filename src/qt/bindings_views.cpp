@@ -2,6 +2,7 @@
 #include <QAction>
 #include <QHeaderView>
 #include <QMenu>
+#include <QProgressBar>
 #include <QSignalBlocker>
 #include <QTabWidget>
 #include <QTableWidget>
@@ -192,6 +193,25 @@ class PlainBinding : public Binding {
   QWidget& widget_;
 };
 
+class ProgressBinding : public Binding {
+ public:
+  ProgressBinding(BindingHost& host, const ProgressBar& bar)
+      : bar_(bar), widget_(FindNamed<QProgressBar>(host, std::string(bar.Name()))) {
+    widget_.setRange(0, ProgressBar::Whole);
+  }
+
+  void Show() override {
+    ShowState(widget_, bar_);
+    widget_.setValue(bar_.Value());
+  }
+  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
+  bool KeepsPlace() const override { return true; }
+
+ private:
+  const ProgressBar& bar_;
+  QProgressBar& widget_;
+};
+
 class ChartBinding : public Binding {
  public:
   ChartBinding(BindingHost& host, const Chart& chart)
@@ -221,6 +241,9 @@ BindingPointer BindActionArray(BindingHost& host, const ActionArray& actions) {
 }
 BindingPointer BindPlain(BindingHost& host, const Control& control) {
   return std::make_unique<PlainBinding>(host, control);
+}
+BindingPointer BindProgressBar(BindingHost& host, const ProgressBar& bar) {
+  return std::make_unique<ProgressBinding>(host, bar);
 }
 BindingPointer BindChart(BindingHost& host, const Chart& chart) { return std::make_unique<ChartBinding>(host, chart); }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/disk_files.h"
+#include "platform/no_desktop.h"
 #include "platform/platform.h"
 #include "qt/documents.h"
 #include "qt/file_dialogs.h"
@@ -26,9 +27,12 @@ struct Desktop {
   QtClipboard clipboard;
   QtPrinter printer;
   QtDocuments documents;
+  NoHelpViewer help;
+  NoDownloads downloads;
 
   Platform Doors() {
-    return {boxes, files, fileDialogs, windows, fonts, locale, clock, userFolders, clipboard, printer, documents};
+    return {boxes,       files,     fileDialogs, windows,   fonts, locale,   clock,
+            userFolders, clipboard, printer,     documents, help,  downloads};
   }
 };
 

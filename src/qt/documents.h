@@ -8,6 +8,8 @@ namespace orby {
 class QtDocuments : public Documents {
  public:
   bool Open(const std::string& path) override;
+  bool Start(const std::string& program, const std::vector<std::string>& arguments) override;
+  bool RunToEnd(const std::string& program, const std::vector<std::string>& arguments) override;
   void OpenSheet(const Sheet& sheet, const std::string& path) override;
 };
 

@@ -14,27 +14,41 @@ namespace {
 constexpr int LongestName = 300;
 
 // The pattern in the second brackets is for the dialog alone; what stands before them is shown.
-QString Filter(const QString& shown, const QString& pattern) { return shown + " (" + pattern + ")"; }
+QStringList NameFilters(const std::vector<FileFilter>& filters) {
+  QStringList texts;
+  for (const FileFilter& filter : filters) texts.append(ToQt(filter.name + " (" + filter.pattern + ")"));
+  return texts;
+}
 
-std::string Ask(const FileQuestion& question, QFileDialog::AcceptMode mode) {
-  const QString extension = ToQt(question.defaultExtension);
-  QFileDialog dialog(QApplication::activeWindow(), ToQt(question.title), ToQt(question.folder));
-  dialog.setAcceptMode(mode);
-  dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-  dialog.setOption(QFileDialog::HideNameFilterDetails);
-  dialog.setNameFilters({Filter(ToQt(question.filterName), "*." + extension), Filter("All Files (*.*)", "*")});
-  dialog.setDefaultSuffix(extension);
-  if (!question.fileName.empty()) dialog.selectFile(ToQt(question.fileName));
-  if (auto* name = dialog.findChild<QLineEdit*>("fileNameEdit")) name->setMaxLength(LongestName);
+std::string Answer(QFileDialog& dialog) {
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
     throw RuntimeError(error_number::Cancelled);
   }
   return FromQt(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
 }
 
+std::string Ask(const FileQuestion& question, QFileDialog::AcceptMode mode) {
+  QFileDialog dialog(QApplication::activeWindow(), ToQt(question.title), ToQt(question.folder));
+  dialog.setAcceptMode(mode);
+  dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+  dialog.setOption(QFileDialog::HideNameFilterDetails);
+  dialog.setNameFilters(NameFilters(question.filters));
+  dialog.setDefaultSuffix(ToQt(question.defaultExtension));
+  if (!question.fileName.empty()) dialog.selectFile(ToQt(question.fileName));
+  if (auto* name = dialog.findChild<QLineEdit*>("fileNameEdit")) name->setMaxLength(LongestName);
+  return Answer(dialog);
+}
+
 }  // namespace
 
 std::string QtFileDialogs::AskOpenName(const FileQuestion& question) { return Ask(question, QFileDialog::AcceptOpen); }
 std::string QtFileDialogs::AskSaveName(const FileQuestion& question) { return Ask(question, QFileDialog::AcceptSave); }
+
+std::string QtFileDialogs::AskFolder(const std::string& title, const std::string& folder) {
+  QFileDialog dialog(QApplication::activeWindow(), ToQt(title), ToQt(folder));
+  dialog.setFileMode(QFileDialog::Directory);
+  dialog.setOption(QFileDialog::ShowDirsOnly);
+  return Answer(dialog);
+}
 
 }  // namespace orby

@@ -37,6 +37,14 @@ std::vector<std::string> QtFonts::PrinterFonts() {
   return FontsAfter(QFontDatabase::systemFont(QFontDatabase::FixedFont));
 }
 
+std::vector<std::string> QtFonts::FixedPitchFonts() {
+  std::vector<std::string> names;
+  for (const QString& family : QFontDatabase::families()) {
+    if (QFontDatabase::isFixedPitch(family)) names.push_back(FromQt(family));
+  }
+  return names;
+}
+
 std::string QtLocale::DecimalSeparator() { return FromQt(QLocale::system().decimalPoint()); }
 
 Date QtClock::Today() {
@@ -50,6 +58,7 @@ void QtClock::CallLater(int milliseconds, std::function<void()> act) {
 
 std::optional<std::string> QtUserFolders::Documents() { return Folder(QStandardPaths::DocumentsLocation); }
 std::optional<std::string> QtUserFolders::Desktop() { return Folder(QStandardPaths::DesktopLocation); }
+std::optional<std::string> QtUserFolders::Data() { return Folder(QStandardPaths::GenericDataLocation); }
 
 void QtClipboard::Clear() { QGuiApplication::clipboard()->clear(); }
 void QtClipboard::SetText(const std::string& text) { QGuiApplication::clipboard()->setText(ToQt(text)); }

@@ -10,6 +10,7 @@ class QtFonts : public Fonts {
  public:
   std::vector<std::string> ScreenFonts() override;
   std::vector<std::string> PrinterFonts() override;
+  std::vector<std::string> FixedPitchFonts() override;
 };
 
 class QtLocale : public Locale {
@@ -27,6 +28,7 @@ class QtUserFolders : public UserFolders {
  public:
   std::optional<std::string> Documents() override;
   std::optional<std::string> Desktop() override;
+  std::optional<std::string> Data() override;
 };
 
 class QtClipboard : public Clipboard {

@@ -37,7 +37,7 @@ void MainWindow::TieCommands() {
   mnuFileItem.Click = [this](Integer item) { FileCommand(item); };
   mnuFileArray.Click = [this](Integer item) { OpenRecent(item); };
   mnuEditItem.Click = [this](Integer item) { EditCommand(item, Trap::None); };
-  mnuHelpItem.Click = [this](Integer item) { OpenHelp(program_, item == help_item::Manual ? ManualFile : HelpFile); };
+  mnuHelpItem.Click = [this](Integer item) { HelpCommand(item); };
   Toolbar1.Click = [this](Integer button) {
     switch (button) {
       case tool_button::Open: FileCommand(file_item::Open); break;
@@ -69,6 +69,15 @@ void MainWindow::TieHistory() {
       default: break;
     }
   };
+}
+
+void MainWindow::HelpCommand(Integer item) {
+  switch (item) {
+    case help_item::Contents: OpenHelpContents(program_); break;
+    case help_item::Index: OpenHelpIndex(program_); break;
+    case help_item::Manual: OpenDocument(program_, "Help file", ManualFile); break;
+    default: break;
+  }
 }
 
 void MainWindow::ShowHistory(bool visible) {

@@ -45,6 +45,7 @@ class MainWindow : public MainControls {
   void TieCommands();
   void TieHistory();
   void ShowHistory(bool visible);
+  void HelpCommand(Integer item);
   void RefreshCaption();
 
   // file_commands.cpp

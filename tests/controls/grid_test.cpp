@@ -123,6 +123,57 @@ TEST_F(AGrid, KeepsTheWidthsItIsGiven) {
   EXPECT_EQ(grid.Width(), 240);
 }
 
+TEST_F(AGrid, GrowsByAnEmptyRowAndKeepsWhatItHasChosen) {
+  grid.SelectCell(2, 1);
+  changes = 0;
+
+  grid.AddRow();
+
+  EXPECT_EQ(grid.Rows(), 5);
+  EXPECT_EQ(grid.Cell(4, 0), "");
+  EXPECT_EQ(grid.Cell(3, 1), "0.875");
+  EXPECT_EQ(grid.Row(), 2);
+  EXPECT_EQ(grid.Column(), 1);
+  EXPECT_EQ(changes, 0);
+}
+
+TEST_F(AGrid, ChoosesTheFirstRowThatItGets) {
+  grid.SetSize(1, 2, 1);
+
+  grid.AddRow();
+
+  EXPECT_EQ(grid.Row(), 1);
+}
+
+TEST_F(AGrid, MovesTheRowsBehindARemovedOneUp) {
+  grid.SetRow(2);
+
+  grid.RemoveRow(1);
+
+  EXPECT_EQ(grid.Rows(), 3);
+  EXPECT_EQ(grid.Cell(1, 0), "#6 grade 60");
+  EXPECT_EQ(grid.Cell(2, 1), "0.875");
+  EXPECT_EQ(grid.Row(), 2);
+}
+
+TEST_F(AGrid, ChoosesTheLastRowWhenTheOneBehindItIsRemoved) {
+  grid.SetRow(3);
+
+  grid.RemoveRow(3);
+
+  EXPECT_EQ(grid.Row(), 2);
+  EXPECT_EQ(ErrorNumberOf([this] { grid.RemoveRow(3); }), 9);
+}
+
+TEST_F(AGrid, TellsOfAnotherCellInTheSameRowOnce) {
+  grid.ClickCell(1, 1);
+  grid.ClickCell(1, 1);
+
+  EXPECT_EQ(grid.Column(), 1);
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(ErrorNumberOf([this] { grid.SelectCell(1, 2); }), 9);
+}
+
 TEST_F(AGrid, WithoutARuleTakesRowAndTextAllTheSame) {
   grid.Change = nullptr;
 

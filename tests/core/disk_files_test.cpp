@@ -435,6 +435,39 @@ TEST_F(Disk, ListsNothingWhereNothingCanBeListed) {
   EXPECT_TRUE(files.FilesIn("").empty());
 }
 
+TEST_F(Disk, ReadsAFilePieceByPiece) {
+  Store(At("log.txt"), "depth 400");
+
+  const auto file = files.OpenFile(At("log.txt"));
+
+  EXPECT_EQ(files.FileLength(At("log.txt")), 9U);
+  EXPECT_EQ(file->Read(6), "depth ");
+  EXPECT_EQ(file->Read(6), "400");
+  EXPECT_EQ(file->Read(6), "");
+}
+
+TEST_F(Disk, ReadsNoFolderPieceByPiece) {
+  EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(files.OpenFile(folder)); }), error_number::PathFileAccess);
+  EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(files.OpenFile(At("log.txt"))); }), error_number::FileNotFound);
+  EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(files.FileLength(At("log.txt"))); }), error_number::FileNotFound);
+  EXPECT_EQ(files.FileLength(folder), 0U);
+}
+
+TEST_F(Disk, ListsTheFoldersOfAFolderButTheHiddenOnes) {
+  files.MakeFolder(At("panel 3"));
+  files.MakeFolder(At("belt entry"));
+  files.MakeFolder(At(".cache"));
+  Store(At("design.ORB"), "");
+
+  EXPECT_THAT(files.FoldersIn(folder), testing::ElementsAre("belt entry", "panel 3"));
+}
+
+TEST_F(Disk, SaysWhyTheFoldersOfAFolderCannotBeListed) {
+  EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(files.FoldersIn(At("gone"))); }), error_number::PathNotFound);
+}
+
+TEST_F(Disk, BeginsItsDrivesAtTheRoot) { EXPECT_EQ(files.Drives().front(), "/"); }
+
 TEST_F(Disk, KnowsTheFolderOfTheProgram) { EXPECT_EQ(files.ProgramFolder(), "/opt/orby"); }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "core/help.h"
 
+#include "controls/controls.h"
 #include "core/program_bench.h"
 
 namespace orby::test {
@@ -8,40 +9,88 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-using Help = ProgramBench;
+class Window : public Form {
+ public:
+  Window() : Form("frmGraph", "Graph") {}
+  TextBox txtXYPoint{*this, "txtXYPoint"};
 
-TEST_F(Help, OpensTheHelpFileInTheProgramsFolder) {
-  platform.files.files["/program/ORBY.CHM"] = "help";
+ protected:
+  void OnOpen() override {}
+  void OnClose() override {}
+};
 
-  OpenHelp(program);
+class Help : public ProgramBench {
+ protected:
+  Help() { platform.files.files["/program/ORBY.CHM"] = "help"; }
 
-  EXPECT_THAT(platform.documents.opened, ElementsAre("/program/ORBY.CHM"));
+  Window window;
+};
+
+TEST_F(Help, OpensAtItsContents) {
+  OpenHelpContents(program);
+
+  EXPECT_THAT(platform.help.shown, ElementsAre("contents /program/ORBY.CHM"));
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(Help, OpensTheManualOnRequest) {
-  platform.files.files["/program/ORBY.PDF"] = "manual";
+TEST_F(Help, OpensAtItsIndex) {
+  OpenHelpIndex(program);
 
-  OpenHelp(program, ManualFile);
+  EXPECT_THAT(platform.help.shown, ElementsAre("index /program/ORBY.CHM"));
+}
 
-  EXPECT_THAT(platform.documents.opened, ElementsAre("/program/ORBY.PDF"));
+TEST_F(Help, OpensAtTheTopicOfTheWindow) {
+  OpenHelpTopic(program, window);
+
+  EXPECT_THAT(platform.help.shown, ElementsAre("topic /program/ORBY.CHM frmGraph"));
+}
+
+TEST_F(Help, OpensAtTheTopicOfTheField) {
+  OpenHelpTopic(program, window, &window.txtXYPoint);
+
+  EXPECT_THAT(platform.help.shown, ElementsAre("topic /program/ORBY.CHM frmGraph.txtXYPoint"));
 }
 
 TEST_F(Help, TellsOfAFileThatIsNotThere) {
-  OpenHelp(program);
+  platform.files.files.clear();
 
-  EXPECT_THAT(platform.documents.opened, IsEmpty());
+  OpenHelpContents(program);
+
+  EXPECT_THAT(platform.help.shown, IsEmpty());
   EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Help file (/program/ORBY.CHM) not available", box_style::Ok,
                                                       "Orby Roof Support Workbench")));
 }
 
-TEST_F(Help, TellsWhenNoProgramOpensTheFile) {
-  platform.files.files["/program/ORBY.CHM"] = "help";
-  platform.documents.opens = false;
+TEST_F(Help, TellsOfAFileThatIsNoHelp) {
+  platform.help.opens = false;
 
-  OpenHelp(program);
+  OpenHelpTopic(program, window);
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Operation Failed"));
+}
+
+TEST_F(Help, OpensTheManualWithTheProgramOfTheDesktop) {
+  platform.files.files["/program/ORBY.PDF"] = "manual";
+
+  OpenDocument(program, "Help file", ManualFile);
+
+  EXPECT_THAT(platform.documents.opened, ElementsAre("/program/ORBY.PDF"));
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(Help, TellsWhenNoProgramOpensTheManual) {
+  platform.files.files["/program/ORBY.PDF"] = "manual";
+  platform.documents.opens = false;
+
+  OpenDocument(program, "Help file", ManualFile);
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Operation Failed"));
+}
+
+TEST_F(Help, NamesADocumentThatIsNotThereByItsFileAlone) {
+  OpenDocument(program, "Resource file", "resources/pull-tests.pdf", "pull-tests.pdf");
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Resource file (pull-tests.pdf) not available"));
 }
 
 }  // namespace

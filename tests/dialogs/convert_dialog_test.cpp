@@ -171,7 +171,7 @@ TEST_F(AConversion, OpensTheHelp) {
 
   dialog.Command3.Press();
 
-  EXPECT_THAT(platform.documents.opened, ElementsAre("/program/ORBY.CHM"));
+  EXPECT_THAT(platform.help.shown, ElementsAre("topic /program/ORBY.CHM frmConvert"));
 }
 
 }  // namespace

@@ -347,7 +347,7 @@ TEST_F(ADescriptionDialog, OpensTheHelp) {
 
   dialog.Command3.Press();
 
-  EXPECT_THAT(platform.documents.opened, ElementsAre("/program/ORBY.CHM"));
+  EXPECT_THAT(platform.help.shown, ElementsAre("topic /program/ORBY.CHM frmTULKDesc"));
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
   EXPECT_TRUE(dialog.IsOpen());
 }

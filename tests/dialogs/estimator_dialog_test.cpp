@@ -352,7 +352,7 @@ TEST_F(AnEstimator, OpensTheHelp) {
 
   dialog.Command3.Press();
 
-  EXPECT_THAT(platform.documents.opened, ElementsAre("/program/ORBY.CHM"));
+  EXPECT_THAT(platform.help.shown, ElementsAre("topic /program/ORBY.CHM frmCMRREst"));
 }
 
 }  // namespace

@@ -379,7 +379,7 @@ TEST_F(GraphFormat, HasItsHelp) {
 
   dialog.Command3.Press();
 
-  EXPECT_THAT(platform.documents.opened, ElementsAre(HasSubstr("ORBY.CHM")));
+  EXPECT_THAT(platform.help.shown, ElementsAre("topic /program/ORBY.CHM frmGraphOpt"));
   EXPECT_TRUE(dialog.IsOpen());
 }
 

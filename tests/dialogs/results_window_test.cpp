@@ -260,7 +260,8 @@ TEST_F(AResultsWindow, PrintsAgainOnThePrinterThatWasChosenWhenItJams) {
   JammedPrinter jammed;
   Platform doors = platform.Doors();
   Program other(Platform{doors.boxes, doors.files, doors.fileDialogs, doors.windows, doors.fonts, doors.locale,
-                         doors.clock, doors.userFolders, doors.clipboard, jammed, doors.documents});
+                         doors.clock, doors.userFolders, doors.clipboard, jammed, doors.documents, doors.help,
+                         doors.downloads});
   other.OutBuf = program.OutBuf;
   other.LastPage = 1;
   platform.boxes.answers = {box_result::Retry};

@@ -48,7 +48,7 @@ TEST(SaveCommand, SaveAsOffersTheBareNameInTheDataFolder) {
   const FileQuestion& question = project.platform.fileDialogs.asked.front();
   EXPECT_EQ(question.fileName, "panel3.orb");
   EXPECT_EQ(question.folder, "/home/designs");
-  EXPECT_EQ(question.filterName, "Orby Roof Support Workbench (*.ORB)");
+  EXPECT_EQ(question.filters.front().name, "Orby Roof Support Workbench (*.ORB)");
   EXPECT_EQ(question.defaultExtension, "ORB");
   EXPECT_EQ(project.program.CurrentFile, "/designs/copy.orb");
   EXPECT_THAT(project.platform.files.created, ElementsAre("/designs/copy.orb"));
@@ -63,7 +63,7 @@ TEST(SaveCommand, TheFilterTakesTheConfiguredExtension) {
   AskFileName(project.program, FileDialogMode::Open);
 
   const FileQuestion& question = project.platform.fileDialogs.asked.front();
-  EXPECT_EQ(question.filterName, "Orby Roof Support Workbench (*.RSW)");
+  EXPECT_EQ(question.filters.front().name, "Orby Roof Support Workbench (*.RSW)");
   EXPECT_EQ(question.defaultExtension, "RSW");
   EXPECT_EQ(question.folder, "D:\\mine");
 }

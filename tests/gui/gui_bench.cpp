@@ -61,7 +61,9 @@ Platform GuiPlatform::Doors(const RealDoors& real) {
           userFolders,
           RealOr<Clipboard>(real.clipboard, clipboard),
           RealOr<Printer>(real.printer, printer),
-          RealOr<Documents>(real.documents, documents)};
+          RealOr<Documents>(real.documents, documents),
+          RealOr<HelpViewer>(real.help, help),
+          RealOr<Downloads>(real.downloads, downloads)};
 }
 
 ModalScripts::ModalScripts() { qApp->installEventFilter(this); }

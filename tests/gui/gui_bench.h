@@ -33,6 +33,8 @@ struct RealDoors {
   Fonts* fonts = nullptr;
   Printer* printer = nullptr;
   Documents* documents = nullptr;
+  HelpViewer* help = nullptr;
+  Downloads* downloads = nullptr;
 };
 
 // The windows are real; all else answers from scripts, unless told otherwise.

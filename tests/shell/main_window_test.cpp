@@ -62,7 +62,8 @@ TEST_F(Menus, OpenTheHelpAndTheManual) {
     window.mnuHelpItem.ClickItem(item);
   }
 
-  EXPECT_THAT(platform.documents.opened, ElementsAre("/program/ORBY.CHM", "/program/ORBY.CHM", "/program/ORBY.PDF"));
+  EXPECT_THAT(platform.help.shown, ElementsAre("contents /program/ORBY.CHM", "index /program/ORBY.CHM"));
+  EXPECT_THAT(platform.documents.opened, ElementsAre("/program/ORBY.PDF"));
 }
 
 TEST_F(Menus, TellThatTheManualIsMissing) {

@@ -42,7 +42,7 @@ class RecordingBoxes : public MessageBoxes {
 // Files in memory. Any step of a file's life can be made to fail with a run-time error.
 class MemoryFiles : public FileSystem {
  public:
-  enum class Step { Find, Read, Create, Write, Close, Remove, Rename, MakeFolder, EnterFolder };
+  enum class Step { Find, Read, Create, Write, Close, Remove, Rename, MakeFolder, EnterFolder, ListFolders };
 
   // The step fails with this error, as soon as it has succeeded `after` times.
   void Fail(Step step, int errorNumber, int after = 0) { failures[step] = {errorNumber, after}; }
@@ -58,6 +58,11 @@ class MemoryFiles : public FileSystem {
     if (found == files.end()) throw RuntimeError(error_number::FileNotFound);
     return found->second;
   }
+
+  std::unique_ptr<InputFile> OpenFile(const std::string& path) override {
+    return std::make_unique<MemoryInput>(*this, ReadFile(path));
+  }
+  std::uint64_t FileLength(const std::string& path) override { return ReadFile(path).size(); }
 
   std::unique_ptr<OutputFile> CreateFile(const std::string& path) override {
     Meet(Step::Create);
@@ -91,6 +96,17 @@ class MemoryFiles : public FileSystem {
     }
     return found;
   }
+  std::vector<std::string> FoldersIn(const std::string& folder) override {
+    Meet(Step::ListFolders);
+    if (!folders.contains(WithoutSeparator(folder))) throw RuntimeError(error_number::PathNotFound);
+    std::vector<std::string> found;
+    for (const std::string& path : folders) {
+      const std::string_view name = NameBehindSeparator(path);
+      if (!name.empty() && path.substr(0, path.size() - name.size()) == WithSeparator(folder)) found.emplace_back(name);
+    }
+    return found;
+  }
+  std::vector<std::string> Drives() override { return drives; }
   void SetWorkingFolder(const std::string& path) override {
     Meet(Step::EnterFolder);
     workingFolder = path;
@@ -112,6 +128,7 @@ class MemoryFiles : public FileSystem {
   std::set<std::string, std::less<>> folders{"/tmp", "/program"};
   std::set<std::string, std::less<>> readOnly;  // folders
   std::set<std::string> marked;                 // files in use by a program
+  std::vector<std::string> drives{"/"};
   std::string workingFolder = "/work";
   std::vector<std::string> created;
 
@@ -133,6 +150,22 @@ class MemoryFiles : public FileSystem {
    private:
     MemoryFiles& owner_;
     std::string path_;
+  };
+
+  class MemoryInput : public InputFile {
+   public:
+    MemoryInput(MemoryFiles& owner, std::string bytes) : owner_(owner), bytes_(std::move(bytes)) {}
+    std::string Read(std::size_t most) override {
+      owner_.Meet(Step::Read);
+      const std::string next = bytes_.substr(place_, most);
+      place_ += next.size();
+      return next;
+    }
+
+   private:
+    MemoryFiles& owner_;
+    std::string bytes_;
+    std::size_t place_ = 0;
   };
 
   class MemoryMark : public FileMark {
@@ -164,6 +197,12 @@ class ScriptedFileDialogs : public FileDialogs {
  public:
   std::string AskOpenName(const FileQuestion& question) override { return Answer(question); }
   std::string AskSaveName(const FileQuestion& question) override { return Answer(question); }
+  std::string AskFolder(const std::string& title, const std::string& folder) override {
+    FileQuestion question;
+    question.title = title;
+    question.folder = folder;
+    return Answer(question);
+  }
 
   std::vector<FileQuestion> asked;
   std::deque<std::string> answers;
@@ -205,9 +244,11 @@ class ListedFonts : public Fonts {
     return screen;
   }
   std::vector<std::string> PrinterFonts() override { return printer; }
+  std::vector<std::string> FixedPitchFonts() override { return fixedPitch; }
 
   std::vector<std::string> screen;
   std::vector<std::string> printer;
+  std::vector<std::string> fixedPitch;
   int asked = 0;  // for the fonts of the screen
 };
 
@@ -239,9 +280,11 @@ class ScriptedUserFolders : public UserFolders {
  public:
   std::optional<std::string> Documents() override { return documents; }
   std::optional<std::string> Desktop() override { return desktop; }
+  std::optional<std::string> Data() override { return data; }
 
   std::optional<std::string> documents = "/home/user/Documents";
   std::optional<std::string> desktop = "/home/user/Desktop";
+  std::optional<std::string> data = "/home/user/.local/share";
 };
 
 class RecordingClipboard : public Clipboard {
@@ -303,9 +346,77 @@ class RecordingDocuments : public Documents {
     if (!opens) throw RuntimeError(error_number::Automation, ". " + path);
   }
 
+  bool Start(const std::string& program, const std::vector<std::string>& arguments) override {
+    return Take(started, program, arguments);
+  }
+  bool RunToEnd(const std::string& program, const std::vector<std::string>& arguments) override {
+    return Take(ran, program, arguments);
+  }
+
   Sheet sheet;
   std::vector<std::string> opened;
+  std::vector<std::vector<std::string>> started;  // programs with their arguments
+  std::vector<std::vector<std::string>> ran;
   bool opens = true;
+
+ private:
+  bool Take(std::vector<std::vector<std::string>>& list, const std::string& program,
+            const std::vector<std::string>& arguments) const {
+    list.push_back({program});
+    list.back().insert(list.back().end(), arguments.begin(), arguments.end());
+    return opens;
+  }
+};
+
+// Records what was asked for, one text a call: "contents /program/ORBY.CHM", "topic /program/ORBY.CHM frmGraph".
+class RecordingHelp : public HelpViewer {
+ public:
+  bool ShowContents(const std::string& path) override { return Take("contents " + path); }
+  bool ShowIndex(const std::string& path) override { return Take("index " + path); }
+  bool ShowTopic(const std::string& path, const std::string& topic) override {
+    return Take("topic " + path + " " + topic);
+  }
+  void Close() override { shown.emplace_back("close"); }
+
+  std::vector<std::string> shown;
+  bool opens = true;
+
+ private:
+  bool Take(std::string call) {
+    shown.push_back(std::move(call));
+    return opens;
+  }
+};
+
+// Fetches that the test carries on and ends.
+class ScriptedDownloads : public Downloads {
+ public:
+  struct Asked {
+    FetchRequest request;
+    FetchEvents events;
+    bool stopped = false;  // the fetch was destroyed
+  };
+
+  std::unique_ptr<Fetch> Start(const FetchRequest& request, FetchEvents events) override {
+    if (!works) return nullptr;
+    asked.push_back({request, std::move(events)});
+    return std::make_unique<ScriptedFetch>(asked.back());
+  }
+
+  std::deque<Asked> asked;
+  bool works = true;
+
+ private:
+  class ScriptedFetch : public Fetch {
+   public:
+    explicit ScriptedFetch(Asked& asked) : asked_(asked) {}
+    ~ScriptedFetch() override { asked_.stopped = true; }
+    ScriptedFetch(const ScriptedFetch&) = delete;
+    ScriptedFetch& operator=(const ScriptedFetch&) = delete;
+
+   private:
+    Asked& asked_;
+  };
 };
 
 struct RecordingPlatform {
@@ -320,6 +431,8 @@ struct RecordingPlatform {
   RecordingClipboard clipboard;
   RecordingPrinter printer;
   RecordingDocuments documents;
+  RecordingHelp help;
+  ScriptedDownloads downloads;
 
   Platform Doors() { return Doors(boxes, files); }
   // With other message boxes, or another file system, in their place.
@@ -328,8 +441,8 @@ struct RecordingPlatform {
 
  private:
   Platform Doors(MessageBoxes& usedBoxes, FileSystem& usedFiles) {
-    return {usedBoxes, usedFiles,   fileDialogs, windows, fonts,    locale,
-            clock,     userFolders, clipboard,   printer, documents};
+    return {usedBoxes,   usedFiles, fileDialogs, windows,   fonts, locale,   clock,
+            userFolders, clipboard, printer,     documents, help,  downloads};
   }
 };
 

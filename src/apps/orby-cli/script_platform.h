@@ -51,9 +51,12 @@ struct ScriptPlatform {
   NoClipboard clipboard;
   NoPrinter printer;
   NoDocuments documents;
+  NoHelpViewer help;
+  NoDownloads downloads;
 
   Platform Doors() {
-    return {boxes, files, fileDialogs, windows, fonts, locale, clock, userFolders, clipboard, printer, documents};
+    return {boxes,       files,     fileDialogs, windows,   fonts, locale,   clock,
+            userFolders, clipboard, printer,     documents, help,  downloads};
   }
 };
 

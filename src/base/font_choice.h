@@ -1,0 +1,16 @@
+// A font as the user chooses it.
+#pragma once
+
+#include <string>
+
+namespace orby {
+
+struct FontChoice {
+  std::string name;  // empty: the font of the desktop
+  int size = 10;     // points
+  bool bold = false;
+  bool italic = false;
+  bool operator==(const FontChoice&) const = default;
+};
+
+}  // namespace orby

@@ -1,0 +1,33 @@
+#include <gmock/gmock.h>
+
+#include "controls/controls.h"
+#include "controls/plain_form.h"
+
+namespace orby::test {
+namespace {
+
+TEST(AProgressBar, StaysBetweenNothingAndAll) {
+  PlainForm form;
+  ProgressBar bar{form, "ProgressBar1"};
+
+  bar.SetValue(140);
+  EXPECT_EQ(bar.Value(), 100);
+
+  bar.SetValue(-3);
+  EXPECT_EQ(bar.Value(), 0);
+}
+
+TEST(ATextPane, GrowsPieceByPieceAndBeginsAnew) {
+  PlainForm form;
+  TextPane pane{form, "RichTextBox1"};
+
+  pane.Append("roof bolt");
+  pane.Append("s\r\n");
+  EXPECT_EQ(pane.Bytes(), "roof bolts\r\n");
+
+  pane.Clear();
+  EXPECT_EQ(pane.Bytes(), "");
+}
+
+}  // namespace
+}  // namespace orby::test
