@@ -6,18 +6,22 @@ top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 # package=probe: the package counts as present when its probe is a command or a path (a pattern) that exists.
 build_packages=(g++=g++ cmake=cmake ninja-build=ninja)
 toolkit_packages=(qt6-base-dev=/usr/lib/*/cmake/Qt6Widgets qt6-svg-dev=/usr/lib/*/cmake/Qt6Svg
-  libqcustomplot-dev=/usr/lib/*/cmake/QCustomPlotQt6 libxlsxwriter-dev=/usr/include/xlsxwriter.h)
+  libqcustomplot-dev=/usr/lib/*/cmake/QCustomPlotQt6 libxlsxwriter-dev=/usr/include/xlsxwriter.h
+  libchm-dev=/usr/include/chm_lib.h)
 test_packages=(libgtest-dev=/usr/include/gtest/gtest.h libgmock-dev=/usr/include/gmock/gmock.h
   librapidcheck-dev=/usr/include/rapidcheck.h unzip=unzip)
 desktop_packages=(xvfb=Xvfb openbox=openbox xdotool=xdotool xclip=xclip imagemagick=import poppler-utils=pdftotext
   at-spi2-core=/usr/libexec/at-spi-bus-launcher dbus-daemon=dbus-run-session
-  python3-gi=/usr/lib/python3/dist-packages/gi)
+  python3-gi=/usr/lib/python3/dist-packages/gi xdg-utils=xdg-mime desktop-file-utils=desktop-file-validate
+  shared-mime-info=update-mime-database)
 format_packages=(clang-format=clang-format)
 lint_packages=(clang-tidy=clang-tidy cppcheck=cppcheck)
 locale_packages=(locales=/usr/share/i18n/locales/de_DE)
 sanitizer_packages=(clang=clang++ llvm=llvm-symbolizer
   "libclang-rt-dev=/usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.fuzzer-*.a")
 coverage_packages=(gcovr=gcovr)
+package_packages=(dpkg-dev=dpkg-shlibdeps file=file)
+package_check_packages=(lintian=lintian appstream=appstreamcli)
 bench_packages=(valgrind=valgrind time=/usr/bin/time)
 
 say() { printf '%s\n' "$*" >&2; }

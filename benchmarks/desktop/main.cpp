@@ -4,6 +4,11 @@
 //   start         the program, until its window is painted
 //   empty-key     a key in a line of an empty dialog, until it is painted
 //   key           the same key in the depth of cover, until it and all outputs are painted
+//   empty-browser a window with an empty page view, until it is painted
+//   help          the help of the folder "help", until its first page is painted
+//   browse        the file browser until it shows a file of 50 MB; prints the growth of the peak of memory in kB, the
+//   size
+//                 of the file in kB, and the longest time between two events in milliseconds
 //   dialogs       prints the growth of memory, in bytes, over 450 openings of each dialog after the first 50
 //
 // The two keys stand between the marks of the instruction counter.
@@ -12,14 +17,19 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QElapsedTimer>
+#include <QEventLoop>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QProgressBar>
 #include <QTemporaryDir>
+#include <QTextBrowser>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <cstdio>
 #include <cstdlib>
+#include <fstream>
 #include <functional>
 #include <map>
 #include <string>
@@ -34,9 +44,11 @@
 #include "dialogs/results_window.h"
 #include "qt/boundary.h"
 #include "qt/desktop.h"
+#include "qt/help_viewer.h"
 #include "qt/main_view.h"
 #include "shell/main_window.h"
 #include "shell/start_up.h"
+#include "shell/text_browser.h"
 
 namespace {
 
@@ -75,11 +87,28 @@ int EmptyStart() {
 int Start() {
   Run run;
   StartProgram(run.program);
+  run.program.settings.ShowDisclaim = 0;  // nobody is there to accept it
   MainWindow window(run.program);
   window.Open();
   run.desktop.windows.ShowMain(window, false);
   DressMainWindow(run.desktop.windows.Main(), window);
   const EndAfterPaint end(run.desktop.windows.Main());
+  return QApplication::exec();
+}
+
+int EmptyBrowser() {
+  QMainWindow window;
+  auto* page = new QTextBrowser(&window);
+  window.setCentralWidget(page);
+  const EndAfterPaint end(*page->viewport());
+  window.show();
+  return QApplication::exec();
+}
+
+int Help() {
+  QtHelpViewer viewer;
+  if (!viewer.ShowContents("help/ORBY.CHM")) return EXIT_FAILURE;
+  const EndAfterPaint end(*viewer.Window()->Browser().viewport());
   return QApplication::exec();
 }
 
@@ -145,6 +174,66 @@ void OpenAndClose(Run& run) {
   dialog.Close();
 }
 
+constexpr std::size_t BrowsedBytes = 50'000'000;
+
+// Lines of 80 characters.
+bool WriteLongFile(const std::string& path) {
+  std::ofstream file(path, std::ios::binary);
+  const std::string line = std::string(78, 'x') + "\r\n";
+  for (std::size_t size = 0; size < BrowsedBytes; size += line.size()) file << line;
+  return file.flush().good();
+}
+
+// The most memory that the process has had, in kB.
+long PeakKilobytes() {
+  std::ifstream status("/proc/self/status");
+  for (std::string word; status >> word;) {
+    long kilobytes = 0;
+    if (word == "VmHWM:" && status >> kilobytes) return kilobytes;
+  }
+  return 0;
+}
+
+// Runs the events until the condition holds, and gives the longest time between two beats of a clock, in milliseconds.
+qint64 LongestPause(const std::function<bool()>& isDone) {
+  QEventLoop loop;
+  QElapsedTimer since;
+  qint64 longest = 0;
+  QTimer clock;
+  QObject::connect(&clock, &QTimer::timeout, [&] {
+    longest = std::max(longest, since.restart());
+    if (isDone()) loop.quit();
+  });
+  since.start();
+  clock.start(1);
+  loop.exec();
+  return longest;
+}
+
+int Browse() {
+  const QTemporaryDir folder;
+  const std::string path = folder.filePath("long.txt").toStdString();
+  if (!WriteLongFile(path)) return EXIT_FAILURE;
+  Run run;
+  StartApart(run.program, nullptr);
+  run.program.IniFilePath = folder.filePath("orby.ini").toStdString();
+  run.program.textBrowse.LastFolder = folder.path().toStdString();
+  run.program.textBrowse.BrowseDefaultFilter = "*.txt";
+  TextBrowser browser(run.program);
+  browser.Open();
+  const auto window = MakeWindow(browser, nullptr);
+  const BoundForm view(browser, *window);
+  window->show();
+  Paint();
+  const long before = PeakKilobytes();
+  browser.File1.ClickItem(0);
+  const qint64 longest = LongestPause([&browser] { return !browser.prgLoading.Visible(); });
+  Paint();
+  const bool isWhole = browser.RichTextBox1.Bytes().size() >= BrowsedBytes;
+  std::printf("%ld %zu %lld\n", PeakKilobytes() - before, BrowsedBytes / 1024, static_cast<long long>(longest));
+  return isWhole ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
 std::size_t BytesInUse() { return mallinfo2().uordblks; }
 
 template <class Dialog>
@@ -171,14 +260,15 @@ int Dialogs() {
 }
 
 const std::map<std::string, int (*)()> Things{
-    {"empty-start", EmptyStart}, {"start", Start}, {"empty-key", EmptyKey}, {"key", Key}, {"dialogs", Dialogs}};
+    {"empty-start", EmptyStart},     {"start", Start}, {"empty-key", EmptyKey}, {"key", Key},
+    {"empty-browser", EmptyBrowser}, {"help", Help},   {"browse", Browse},      {"dialogs", Dialogs}};
 
 }  // namespace
 
 int main(int argc, char** argv) {
   const auto found = argc == 2 ? Things.find(argv[1]) : Things.end();
   if (found == Things.end()) {
-    std::fputs("usage: orby-desktop-bench empty-start|start|empty-key|key|dialogs\n", stderr);
+    std::fputs("usage: orby-desktop-bench empty-start|start|empty-key|key|empty-browser|help|browse|dialogs\n", stderr);
     return EXIT_FAILURE;
   }
   const QApplication application(argc, argv);

@@ -8,16 +8,6 @@
 namespace orby {
 namespace {
 
-void Fire(const Event& event) {
-  if (event) event();
-}
-
-// The index as a position in a list of so many. Throws RuntimeError 9 outside it.
-std::size_t Position(int index, std::size_t count) {
-  if (index < 0 || static_cast<std::size_t>(index) >= count) throw RuntimeError(error_number::Subscript);
-  return static_cast<std::size_t>(index);
-}
-
 // The selection that is left once these items have taken the place of others.
 int IndexWithin(int listIndex, const std::vector<ComboItem>& items) {
   return listIndex < static_cast<int>(items.size()) ? listIndex : Combo::Nothing;
@@ -60,7 +50,7 @@ void OptionArray::SetAllEnabled(bool enabled) {
 }
 
 void OptionArray::SetValue(int index, bool value) {
-  Member& member = members_[Position(index, members_.size())];
+  Member& member = members_[CheckedIndex(index, members_.size())];
   if (member.value == value) return;
   if (!value) {
     member.value = false;
@@ -99,7 +89,7 @@ void Combo::SetListIndex(int index) {
   if (index == Nothing) {
     Assign(text_, Nothing);
   } else {
-    Assign(items_[Position(index, items_.size())].text, index);
+    Assign(items_[CheckedIndex(index, items_.size())].text, index);
   }
 }
 
@@ -111,75 +101,17 @@ void Combo::Assign(std::string text, int listIndex) {
   Fire(Change);
 }
 
-void Grid::SetSize(int rows, int columns, int fixedRows) {
-  rows_ = rows;
-  columns_ = columns;
-  fixedRows_ = fixedRows;
-  row_ = std::min(fixedRows, rows - 1);
-  column_ = 0;
-  cells_.assign(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns), {});
-  Touch();
-}
-
-std::size_t Grid::Index(int row, int column) const {
-  const std::size_t line = Position(row, static_cast<std::size_t>(rows_));
-  return line * static_cast<std::size_t>(columns_) + Position(column, static_cast<std::size_t>(columns_));
-}
-
-const std::string& Grid::Cell(int row, int column) const { return cells_[Index(row, column)]; }
-
-void Grid::SetCell(int row, int column, std::string text) { Mirror(cells_[Index(row, column)], std::move(text)); }
-
-void Grid::EditCell(int row, int column, std::string text) {
-  std::string& cell = cells_[Index(row, column)];
-  if (cell == text) return;
-  cell = std::move(text);
-  Touch();
-  Fire(Change);
-}
-
-void Grid::AddRow() {
-  ++rows_;
-  cells_.resize(cells_.size() + static_cast<std::size_t>(columns_));
-  if (row_ < fixedRows_) row_ = fixedRows_;
-  Touch();
-}
-
-void Grid::RemoveRow(int row) {
-  const auto first = cells_.begin() + static_cast<std::ptrdiff_t>(Index(row, 0));
-  cells_.erase(first, first + columns_);
-  --rows_;
-  row_ = std::min(row_, rows_ - 1);
-  Touch();
-}
-
-void Grid::SelectCell(int row, int column) {
-  if (row == row_ && column == column_) return;
-  Index(row, column);
-  row_ = row;
-  column_ = column;
-  Touch();
-  Fire(Change);
-}
-
-void Grid::ClickRow(int row) { ClickCell(row, column_); }
-
-void Grid::ClickCell(int row, int column) {
-  SelectCell(row, column);
-  Fire(Click);
-}
-
 TabSet::TabSet(Form& form, std::string_view name, std::initializer_list<std::string_view> captions)
     : Control(form, name) {
   for (const auto caption : captions) tabs_.push_back({std::string(caption)});
 }
 
-const TabSet::Page& TabSet::At(int tab) const { return tabs_[Position(tab, tabs_.size())]; }
-TabSet::Page& TabSet::At(int tab) { return tabs_[Position(tab, tabs_.size())]; }
+const TabSet::Page& TabSet::At(int tab) const { return tabs_[CheckedIndex(tab, tabs_.size())]; }
+TabSet::Page& TabSet::At(int tab) { return tabs_[CheckedIndex(tab, tabs_.size())]; }
 
 void TabSet::SetTab(int tab) {
   if (tab == tab_) return;
-  tab_ = static_cast<int>(Position(tab, tabs_.size()));
+  tab_ = static_cast<int>(CheckedIndex(tab, tabs_.size()));
   Touch();
   Fire(Click);
 }
@@ -195,7 +127,7 @@ void List::Fill(std::vector<ComboItem> items) {
 }
 
 void List::ClickItem(int index) {
-  listIndex_ = static_cast<int>(Position(index, items_.size()));
+  listIndex_ = static_cast<int>(CheckedIndex(index, items_.size()));
   Touch();
   Fire(Click);
 }
@@ -205,8 +137,8 @@ ActionArray::ActionArray(Form& form, std::string_view name, std::initializer_lis
   for (const auto caption : captions) items_.push_back({std::string(caption)});
 }
 
-const ActionArray::Item& ActionArray::At(int index) const { return items_[Position(index, items_.size())]; }
-ActionArray::Item& ActionArray::At(int index) { return items_[Position(index, items_.size())]; }
+const ActionArray::Item& ActionArray::At(int index) const { return items_[CheckedIndex(index, items_.size())]; }
+ActionArray::Item& ActionArray::At(int index) { return items_[CheckedIndex(index, items_.size())]; }
 
 void ActionArray::ClickItem(int index) const {
   const Item& item = At(index);

@@ -10,11 +10,10 @@
 #include "base/font_choice.h"
 #include "base/types.h"
 #include "controls/control.h"
+#include "controls/event.h"
 #include "controls/form.h"
 
 namespace orby {
-
-using Event = std::function<void()>;
 
 // Row of the unit label table, for captions that end in a unit.
 inline constexpr int NoUnit = -1;
@@ -74,6 +73,8 @@ class TextBox : public Control {
   TextBox(Form& form, std::string_view name, TextKind kind = TextKind::Free) : Control(form, name), kind_(kind) {}
 
   TextKind Kind() const { return kind_; }
+  // What the keys typed from now on are judged by.
+  void SetKind(TextKind kind) { kind_ = kind; }
   const std::string& Text() const { return text_; }
   void SetText(std::string text);
   // The text's leading number.
@@ -99,10 +100,17 @@ class TextBox : public Control {
   std::size_t selectionLength_ = 0;
 };
 
+enum class ClickKind {
+  Quiet,   // a click changes values
+  MayAsk,  // a click may open a dialog and wait for it
+};
+
 class CheckBox : public Control {
  public:
-  CheckBox(Form& form, std::string_view name, std::string_view caption) : Control(form, name), caption_(caption) {}
+  CheckBox(Form& form, std::string_view name, std::string_view caption, ClickKind kind = ClickKind::Quiet)
+      : Control(form, name), kind_(kind), caption_(caption) {}
 
+  ClickKind Kind() const { return kind_; }
   const std::string& Caption() const { return caption_; }
   Integer Value() const { return value_; }  // 0 or 1
   bool Checked() const { return value_ == 1; }
@@ -111,6 +119,7 @@ class CheckBox : public Control {
   Event Click;  // the value differs from before
 
  private:
+  ClickKind kind_;
   std::string caption_;
   Integer value_ = 0;
 };
@@ -202,62 +211,6 @@ class Combo : public Control {
   int listIndex_ = Nothing;
 };
 
-// Cells of text under fixed header rows, one row of them selected, and one cell in it.
-class Grid : public Control {
- public:
-  Grid(Form& form, std::string_view name) : Control(form, name) {}
-
-  // Sizes the grid, empties its cells and selects the first cell below the header, if there is one.
-  void SetSize(int rows, int columns, int fixedRows);
-  // One more row of empty cells at the end.
-  void AddRow();
-  // Those behind it move up; the selection stays at its place, or goes to the last row. Throws RuntimeError 9 outside
-  // the grid.
-  void RemoveRow(int row);
-  int Rows() const { return rows_; }
-  int Columns() const { return columns_; }
-  int FixedRows() const { return fixedRows_; }
-  void SetColumnWidths(std::vector<int> widths) { Mirror(columnWidths_, std::move(widths)); }
-  const std::vector<int>& ColumnWidths() const { return columnWidths_; }
-  int Width() const { return width_; }
-  void SetWidth(int width) { width_ = width; }
-
-  // Throw RuntimeError 9 outside the grid.
-  const std::string& Cell(int row, int column) const;
-  void SetCell(int row, int column, std::string text);
-  // The user's edit of a cell.
-  void EditCell(int row, int column, std::string text);
-
-  int Row() const { return row_; }
-  void SetRow(int row) { SelectCell(row, column_); }
-  int Column() const { return column_; }
-  // Throws RuntimeError 9 outside the grid.
-  void SelectCell(int row, int column);
-  // The user's click on a row, which counts on the selected one too.
-  void ClickRow(int row);
-  void ClickCell(int row, int column);
-
-  // A text box that lies over the selected cell while the grid has the keyboard; none: the cells are only shown.
-  void SetOverlay(TextBox& overlay) { overlay_ = &overlay; }
-  TextBox* Overlay() const { return overlay_; }
-
-  Event Change;  // another row, or another cell, is selected, or a cell was edited
-  Event Click;
-
- private:
-  std::size_t Index(int row, int column) const;
-
-  int rows_ = 0;
-  int columns_ = 0;
-  int fixedRows_ = 0;
-  int row_ = 0;
-  int column_ = 0;
-  int width_ = 0;
-  TextBox* overlay_ = nullptr;
-  std::vector<int> columnWidths_;
-  std::vector<std::string> cells_;
-};
-
 // Pages of which one is on view, counted from 0.
 class TabSet : public Control {
  public:
@@ -288,11 +241,17 @@ class TabSet : public Control {
   int tab_ = 0;
 };
 
+enum class ListKind {
+  Commands,  // an item does something: the arrow keys only pass over it
+  Choices,   // an item is chosen: by the arrow keys too
+};
+
 // A plain list of which one item is selected.
 class List : public Control {
  public:
-  List(Form& form, std::string_view name) : Control(form, name) {}
+  List(Form& form, std::string_view name, ListKind kind = ListKind::Commands) : Control(form, name), kind_(kind) {}
 
+  ListKind Kind() const { return kind_; }
   const std::vector<ComboItem>& Items() const { return items_; }
   // A selection beyond the end of the new list is dropped.
   void Fill(std::vector<ComboItem> items);
@@ -303,6 +262,7 @@ class List : public Control {
   Event Click;
 
  private:
+  ListKind kind_;
   std::vector<ComboItem> items_;
   int listIndex_ = Combo::Nothing;
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 
 #include "base/number_text.h"
 #include "base/paths.h"
@@ -11,7 +12,9 @@
 namespace orby {
 namespace {
 
-std::string ChooseFont(const std::vector<std::string>& installed, std::initializer_list<std::string_view> wanted) {
+constexpr std::array<std::string_view, 3> PrinterFonts{"Courier New", "Courier", "Arial"};
+
+std::string ChooseFont(const std::vector<std::string>& installed, std::span<const std::string_view> wanted) {
   for (const auto name : wanted) {
     const int index = FontIndexOf(name, installed);
     if (index >= 0) return installed[static_cast<std::size_t>(index)];
@@ -88,11 +91,11 @@ int FontIndexOf(std::string_view name, const std::vector<std::string>& fontList)
 }
 
 std::string ChooseDisplayFont(Program& program) {
-  return ChooseFont(program.platform.fonts.ScreenFonts(), {"Arial", "Courier New", "System", "Terminal"});
+  return ChooseFont(program.platform.fonts.ScreenFonts(), DisplayFonts);
 }
 
 std::string ChoosePrinterFont(Program& program) {
-  return ChooseFont(program.platform.fonts.PrinterFonts(), {"Courier New", "Courier", "Arial"});
+  return ChooseFont(program.platform.fonts.PrinterFonts(), PrinterFonts);
 }
 
 void FixDecimalSeparator(Program& program) {

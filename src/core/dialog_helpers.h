@@ -1,6 +1,7 @@
 // What dialogs share: option arrays, range checks, captions, placement, fonts.
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -42,6 +43,9 @@ std::string SetFormCaption(std::string_view tag, std::string_view path, bool fil
 
 // The position of a font in a list, without regard to case; -1 when it is not there.
 int FontIndexOf(std::string_view name, const std::vector<std::string>& fontList);
+
+// The fonts for texts on the screen, the one that is wanted most first.
+inline constexpr std::array<std::string_view, 4> DisplayFonts{"Arial", "Courier New", "System", "Terminal"};
 
 // The first of the fixed choices that is installed, otherwise the first font there is; empty when there is none.
 std::string ChooseDisplayFont(Program& program);

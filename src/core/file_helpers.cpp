@@ -1,11 +1,47 @@
 #include "core/file_helpers.h"
 
+#include <algorithm>
+
 #include "base/paths.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "core/messages.h"
 
 namespace orby {
+namespace {
+
+// What is read of a file at a time: it may be longer than the memory.
+constexpr std::size_t PieceBytes = std::size_t{1} << 20U;
+
+// Writes a text that comes in pieces, every line ended by CR LF.
+class LineCopier {
+ public:
+  explicit LineCopier(OutputFile& target) : target_(target) {}
+
+  void Take(std::string_view piece) {
+    while (!piece.empty()) {
+      const std::size_t end = std::min(piece.find_first_of(LineEnd), piece.size());
+      const bool isSecondOfPair = end == 0 && last_ == '\r' && piece.front() == '\n';
+      if (end > 0) target_.Write(piece.substr(0, end));
+      inLine_ = end == piece.size();
+      if (!inLine_ && !isSecondOfPair) target_.Write(LineEnd);
+      last_ = piece[inLine_ ? end - 1 : end];
+      piece.remove_prefix(std::min(end + 1, piece.size()));
+    }
+  }
+
+  // A last line without an end gets one too.
+  void End() {
+    if (inLine_) target_.Write(LineEnd);
+  }
+
+ private:
+  OutputFile& target_;
+  char last_ = '\0';
+  bool inLine_ = false;
+};
+
+}  // namespace
 
 bool FileExists(Program& program, const std::string& path) {
   try {
@@ -44,12 +80,11 @@ bool CopyTextFile(Program& program, const std::string& source, const std::string
     return false;
   }
   try {
-    const std::string text = program.platform.files.ReadFile(source);
+    const auto file = program.platform.files.OpenFile(source);
     const auto copy = program.platform.files.CreateFile(target);
-    for (std::string_view rest = text; !rest.empty();) {
-      copy->Write(TakeLine(rest));
-      copy->Write(LineEnd);
-    }
+    LineCopier copier(*copy);
+    for (std::string piece; !(piece = file->Read(PieceBytes)).empty();) copier.Take(piece);
+    copier.End();
     copy->Close();
     return true;
   } catch (const RuntimeError&) {

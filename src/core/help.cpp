@@ -6,6 +6,7 @@
 #include "controls/form.h"
 #include "core/file_helpers.h"
 #include "core/messages.h"
+#include "core/shared_texts.h"
 
 namespace orby {
 namespace {
@@ -19,7 +20,7 @@ void OpenFound(Program& program, std::string_view kind, std::string_view path, s
     const std::string name(shown.empty() ? wholePath : shown);
     ShowMessage(program, std::string(kind) + " (" + name + ") not available");
   } else if (!open(wholePath)) {
-    ShowMessage(program, "Operation Failed");
+    ShowMessage(program, std::string(OperationFailed));
   }
 }
 

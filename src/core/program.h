@@ -99,10 +99,12 @@ struct Program {
   RecentFiles recentFiles;
   Folders folders;
   std::string IniFilePath;
+  std::string UpdateServer;  // the address that new versions are published under; empty: there is none
   DesignDefaults defaults;
   MessageTitles titles;
   History history;
   EstimatorState estimator;
+  Integer OptionsTab = 0;  // the page of the options dialog that was chosen last
   Curve curve;
   std::string SavedDecimalSeparator;
 };

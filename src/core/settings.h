@@ -32,6 +32,7 @@ struct Settings {
   std::string ExternalEditor{BuiltInViewer};
   std::string DataPath;  // ends in a separator
   std::string FileExtension{BuiltInExtension};
+  bool operator==(const Settings&) const = default;
 };
 
 struct TextBrowseSettings {
@@ -41,6 +42,7 @@ struct TextBrowseSettings {
   Integer BrowseFontItalic = 0;
   std::string BrowseDefaultFilter;
   Integer BrowseUseNotepad = 0;
+  std::string LastFolder;  // for this run alone; empty: the data path
 };
 
 // Choices that last until the program ends: they are written to a section that is never read.

@@ -1,4 +1,4 @@
-// Texts that a dialog's caption and a report's line share.
+// Texts that more than one place shows: a dialog's caption and a report's line, messages of one kind of failure.
 #pragma once
 
 #include <string_view>
@@ -7,5 +7,6 @@ namespace orby {
 
 inline constexpr std::string_view TableSelection = "Select from Standard Table";
 inline constexpr std::string_view ManualSelection = "Manual Selection";
+inline constexpr std::string_view OperationFailed = "Operation Failed";
 
 }  // namespace orby

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "controls/controls.h"
+#include "controls/grid.h"
 #include "core/program.h"
 #include "engine/estimator.h"
 

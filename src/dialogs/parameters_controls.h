@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "controls/controls.h"
+#include "controls/grid.h"
 #include "core/project_record.h"
 #include "core/shared_texts.h"
 #include "core/units.h"

@@ -86,6 +86,7 @@ class DiskInputFile : public InputFile {
 
   std::string Read(std::size_t most) override {
     std::string bytes(most, '\0');
+    std::clearerr(file_.get());  // a read may be tried again
     bytes.resize(std::fread(bytes.data(), 1, most, file_.get()));
     if (std::ferror(file_.get()) != 0) throw FileError(errno, path_);
     return bytes;

@@ -1,11 +1,15 @@
 #include "qt/application.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <cstdlib>
 
+#include "core/help.h"
 #include "qt/boundary.h"
 #include "qt/desktop.h"
 #include "qt/main_view.h"
+#include "qt/pictures.h"
+#include "qt/update_server.h"
 #include "shell/main_window.h"
 #include "shell/start_up.h"
 
@@ -20,6 +24,9 @@ class ToolkitStart {
     QApplication::setApplicationDisplayName(QString());
     QApplication::setDesktopFileName("orby");
     QApplication::setQuitOnLastWindowClosed(false);
+    // The texts are English and the numbers have a point on every desktop; so lines run from left to right on all.
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    QLocale::setDefault(QLocale::c());
   }
 
  private:
@@ -43,10 +50,20 @@ class ToolkitStart {
 
 int RunProgram(const std::string& programFolder, const std::vector<std::string>& arguments) {
   const ToolkitStart toolkit;
+  QApplication::setWindowIcon(ThemedIcon("orby"));
   Desktop desktop(programFolder);
   Program program(desktop.Doors());
   std::unique_ptr<MainWindow> window;
   SetErrorHandler([&](const RuntimeError& error) { EndRun(desktop, window.get(), error); });
+  // What was being edited is kept for the next start.
+  program.EndAtOnce = [&] {
+    if (window) window->KeepUnsavedWork();
+    std::_Exit(EXIT_SUCCESS);
+  };
+  desktop.windows.HelpRequested = [&](const Form& form, const Control* control) {
+    OpenHelpTopic(program, form, control);
+  };
+  program.UpdateServer = UpdateServer();
   std::string file;
   RunGuarded([&] {
     file = CommandLineFile(program, arguments);

@@ -1,6 +1,7 @@
 // What ties one control of a form to its widgets: it shows the control as it stands, and hands on what the user does.
 #pragma once
 
+#include <QFont>
 #include <QString>
 #include <QWidget>
 #include <functional>
@@ -9,6 +10,7 @@
 #include <vector>
 
 #include "controls/controls.h"
+#include "controls/grid.h"
 
 namespace orby {
 
@@ -67,6 +69,9 @@ inline void ShowState(QWidget& widget, const Control& control) {
   widget.setVisible(control.Visible());
 }
 
+// The font of the user's choice for the widget, or what takes its place on a machine without it.
+QFont FontOf(const FontChoice& choice, const QWidget& widget);
+
 // The name of a member of an array: "optUnits_1".
 std::string MemberName(const Control& control, int index);
 
@@ -85,6 +90,7 @@ BindingPointer BindMenu(BindingHost& host, const Menu& menu);
 BindingPointer BindActionArray(BindingHost& host, const ActionArray& actions);
 BindingPointer BindPlain(BindingHost& host, const Control& control);  // shown, and nothing else
 BindingPointer BindProgressBar(BindingHost& host, const ProgressBar& bar);
+BindingPointer BindTextPane(BindingHost& host, const TextPane& pane);
 BindingPointer BindChart(BindingHost& host, const Chart& chart);
 
 // The binding that fits the kind of the control.

@@ -10,6 +10,8 @@
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QWheelEvent>
+#include <algorithm>
+#include <iterator>
 
 #include "qt/bindings.h"
 #include "qt/mnemonics.h"
@@ -22,8 +24,10 @@ class CheckBinding : public Binding {
  public:
   CheckBinding(BindingHost& host, CheckBox& box)
       : host_(host), box_(box), widget_(FindNamed<QCheckBox>(host, std::string(box.Name()))) {
-    QObject::connect(&widget_, &QCheckBox::toggled, &widget_,
-                     [this](bool on) { host_.Act([this, on] { box_.SetValue(on ? 1 : 0); }); });
+    QObject::connect(&widget_, &QCheckBox::toggled, &widget_, [this](bool on) {
+      const auto set = [this, on] { box_.SetValue(on ? 1 : 0); };
+      box_.Kind() == ClickKind::MayAsk ? host_.ActLater(set) : host_.Act(set);
+    });
   }
 
   void Show() override {
@@ -52,13 +56,16 @@ void SwitchOff(QRadioButton& member) {
   set(true);
 }
 
+// A member without a caption has no button.
 class OptionBinding : public Binding {
  public:
-  OptionBinding(BindingHost& host, OptionArray& options) : host_(host), options_(options) {
+  OptionBinding(BindingHost& host, OptionArray& options)
+      : host_(host), options_(options), members_(options.Count(), nullptr) {
     for (std::size_t i = 0; i < options.Count(); ++i) {
+      if (options.Caption(i).empty()) continue;
       const int index = static_cast<int>(i);
       auto& member = FindNamed<QRadioButton>(host, MemberName(options, index));
-      members_.push_back(&member);
+      members_[i] = &member;
       QObject::connect(&member, &QRadioButton::toggled, &member, [this, index](bool on) {
         if (on) host_.Act([this, index] { options_.SetValue(index, true); });
       });
@@ -67,6 +74,7 @@ class OptionBinding : public Binding {
 
   void Show() override {
     for (std::size_t i = 0; i < members_.size(); ++i) {
+      if (members_[i] == nullptr) continue;
       QRadioButton& member = *members_[i];
       const QSignalBlocker quiet(member);
       member.setEnabled(options_.Enabled() && options_.MemberEnabled(i));
@@ -79,11 +87,15 @@ class OptionBinding : public Binding {
       }
     }
   }
-  std::vector<QWidget*> Widgets() const override { return {members_.begin(), members_.end()}; }
+  std::vector<QWidget*> Widgets() const override {
+    std::vector<QWidget*> widgets;
+    std::ranges::copy_if(members_, std::back_inserter(widgets), [](const auto* member) { return member != nullptr; });
+    return widgets;
+  }
   std::vector<CaptionSlot> Captions() const override {
     std::vector<CaptionSlot> captions;
     for (std::size_t i = 0; i < members_.size(); ++i) {
-      captions.push_back({members_[i], 0, members_[i], options_.Caption(i)});
+      if (members_[i] != nullptr) captions.push_back({members_[i], 0, members_[i], options_.Caption(i)});
     }
     return captions;
   }
@@ -159,21 +171,30 @@ class ComboBinding : public QObject, public Binding {
   QComboBox& widget_;
 };
 
-// The Enter key chooses as a click does. The toolkit's own activation would follow a double click too, the first press
-// of which has been a click already.
+// Of commands, the Enter key chooses as a click does. The toolkit's own activation would follow a double click too, the
+// first press of which has been a click already.
 class ListBinding : public QObject, public Binding {
  public:
   ListBinding(BindingHost& host, List& list)
       : host_(host), list_(list), widget_(FindNamed<QListWidget>(host, std::string(list.Name()))) {
     widget_.setSpacing(2);
+    if (list.Kind() == ListKind::Choices) {
+      connect(&widget_, &QListWidget::itemSelectionChanged, this, [this] {
+        const auto selected = widget_.selectedItems();
+        if (selected.isEmpty()) return;
+        host_.Act([this, index = widget_.row(selected.constFirst())] { list_.ClickItem(index); });
+      });
+      return;
+    }
     widget_.installEventFilter(this);
+    widget_.viewport()->installEventFilter(this);
     connect(&widget_, &QListWidget::itemClicked, this, [this](const QListWidgetItem* item) { Choose(*item); });
   }
 
   void Show() override {
     const QSignalBlocker quiet(widget_);
     ShowState(widget_, list_);
-    if (widget_.count() != static_cast<int>(list_.Items().size())) {
+    if (!ShowsItems()) {
       widget_.clear();
       for (const ComboItem& item : list_.Items()) widget_.addItem(ToQt(item.text));
     }
@@ -182,6 +203,8 @@ class ListBinding : public QObject, public Binding {
   std::vector<QWidget*> Widgets() const override { return {&widget_}; }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
+    // The first click may have filled the list anew: the second must not choose what stands there by now.
+    if (event->type() == QEvent::MouseButtonDblClick) return true;
     if (event->type() == QEvent::KeyPress && widget_.currentItem() != nullptr) {
       const int key = dynamic_cast<QKeyEvent*>(event)->key();
       if (key == Qt::Key_Return || key == Qt::Key_Enter) {
@@ -193,6 +216,15 @@ class ListBinding : public QObject, public Binding {
   }
 
  private:
+  bool ShowsItems() const {
+    const auto& items = list_.Items();
+    if (widget_.count() != static_cast<int>(items.size())) return false;
+    for (int i = 0; i < widget_.count(); ++i) {
+      if (widget_.item(i)->text() != ToQt(items[static_cast<std::size_t>(i)].text)) return false;
+    }
+    return true;
+  }
+
   void Choose(const QListWidgetItem& item) {
     const int index = widget_.row(&item);
     host_.ActLater([this, index] { list_.ClickItem(index); });

@@ -82,16 +82,6 @@ void ShowAsOutput(QWidget& widget) {
   widget.setPalette(palette);
 }
 
-QFont FontOf(const FontChoice& choice, const QWidget& widget) {
-  if (choice.name.empty()) return widget.font();
-  QFont font(ToQt(choice.name), choice.size, choice.bold ? QFont::Bold : QFont::Normal, choice.italic);
-  // The machine may lack the font; what takes its place must have the same pitch, and no two letters drawn as one.
-  if (font.family().startsWith("Courier", Qt::CaseInsensitive)) {
-    font.setStyleHint(QFont::TypeWriter, QFont::PreferNoShaping);
-  }
-  return font;
-}
-
 // What a field shows even in a window that is as small as it can be: a number of seven digits, and its frame.
 constexpr int LeastCharacters = 10;
 
@@ -188,6 +178,16 @@ class TextAreaBinding : public QObject, public Binding {
 };
 
 }  // namespace
+
+QFont FontOf(const FontChoice& choice, const QWidget& widget) {
+  if (choice.name.empty()) return widget.font();
+  QFont font(ToQt(choice.name), choice.size, choice.bold ? QFont::Bold : QFont::Normal, choice.italic);
+  // The machine may lack the font; what takes its place must have the same pitch, and no two letters drawn as one.
+  if (font.family().startsWith("Courier", Qt::CaseInsensitive)) {
+    font.setStyleHint(QFont::TypeWriter, QFont::PreferNoShaping);
+  }
+  return font;
+}
 
 BindingPointer BindLabel(BindingHost& host, const Label& label) { return std::make_unique<LabelBinding>(host, label); }
 BindingPointer BindFrame(BindingHost& host, const Frame& frame) { return std::make_unique<FrameBinding>(host, frame); }

@@ -1,13 +1,10 @@
-// Grids, tabs, menus, tool bars, and widgets that are only shown.
+// Tabs, menus, tool bars, and widgets that are only shown.
 #include <QAction>
-#include <QHeaderView>
 #include <QMenu>
 #include <QProgressBar>
 #include <QSignalBlocker>
 #include <QTabWidget>
-#include <QTableWidget>
 #include <QToolBar>
-#include <algorithm>
 
 #include "qt/bindings.h"
 #include "qt/chart_view.h"
@@ -16,12 +13,6 @@
 
 namespace orby {
 namespace {
-
-// The models measure columns in twentieths of a point.
-constexpr int TwipsPerInch = 1440;
-
-// The column with the names takes the room that the numbers leave.
-constexpr int NameColumn = 1;
 
 // The blanks at the end of a caption are for the models alone; of two marked letters the first counts.
 QString EntryText(const QString& caption) {
@@ -34,63 +25,6 @@ QString EntryText(const QString& caption) {
   }
   return text;
 }
-
-class GridBinding : public Binding {
- public:
-  GridBinding(BindingHost& host, Grid& grid)
-      : host_(host), grid_(grid), widget_(FindNamed<QTableWidget>(host, std::string(grid.Name()))) {
-    widget_.setEditTriggers(QAbstractItemView::NoEditTriggers);
-    widget_.setSelectionBehavior(QAbstractItemView::SelectRows);
-    widget_.setSelectionMode(QAbstractItemView::SingleSelection);
-    widget_.setTabKeyNavigation(false);
-    widget_.verticalHeader()->hide();
-    widget_.verticalHeader()->setDefaultSectionSize(widget_.fontMetrics().height() * 3 / 2);
-    widget_.horizontalHeader()->setHighlightSections(false);
-    QObject::connect(&widget_, &QTableWidget::currentCellChanged, &widget_, [this](int row, int, int before, int) {
-      if (row >= 0 && row != before) host_.Act([this, row] { grid_.SetRow(row + grid_.FixedRows()); });
-    });
-    QObject::connect(&widget_, &QTableWidget::cellClicked, &widget_,
-                     [this](int row, int) { host_.Act([this, row] { grid_.ClickRow(row + grid_.FixedRows()); }); });
-  }
-
-  void Show() override {
-    const QSignalBlocker quiet(widget_);
-    ShowState(widget_, grid_);
-    const int rows = grid_.Rows() - grid_.FixedRows();
-    widget_.setRowCount(rows);
-    widget_.setColumnCount(grid_.Columns());
-    widget_.horizontalHeader()->setVisible(grid_.FixedRows() > 0);
-    if (grid_.Columns() > 1) widget_.horizontalHeader()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
-    for (int column = 0; column < grid_.Columns(); ++column) ShowColumn(column, rows);
-    const int row = grid_.Row() - grid_.FixedRows();
-    if (row != widget_.currentRow()) widget_.setCurrentCell(row, 0);
-  }
-  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
-
- private:
-  void ShowColumn(int column, int rows) {
-    if (grid_.FixedRows() > 0) {
-      widget_.setHorizontalHeaderItem(column, new QTableWidgetItem(ToQt(grid_.Cell(0, column))));
-    }
-    for (int row = 0; row < rows; ++row) {
-      const QString text = ToQt(grid_.Cell(row + grid_.FixedRows(), column));
-      if (QTableWidgetItem* item = widget_.item(row, column)) {
-        item->setText(text);
-      } else {
-        widget_.setItem(row, column, new QTableWidgetItem(text));
-      }
-    }
-    const auto& widths = grid_.ColumnWidths();
-    const auto index = static_cast<std::size_t>(column);
-    const int wanted = index < widths.size() ? widths[index] * widget_.logicalDpiX() / TwipsPerInch : 0;
-    widget_.resizeColumnToContents(column);
-    widget_.setColumnWidth(column, std::max(wanted, widget_.columnWidth(column)));
-  }
-
-  BindingHost& host_;
-  Grid& grid_;
-  QTableWidget& widget_;
-};
 
 class TabBinding : public Binding {
  public:
@@ -233,7 +167,6 @@ class ChartBinding : public Binding {
 
 }  // namespace
 
-BindingPointer BindGrid(BindingHost& host, Grid& grid) { return std::make_unique<GridBinding>(host, grid); }
 BindingPointer BindTabSet(BindingHost& host, TabSet& tabs) { return std::make_unique<TabBinding>(host, tabs); }
 BindingPointer BindMenu(BindingHost& host, const Menu& menu) { return std::make_unique<MenuBinding>(host, menu); }
 BindingPointer BindActionArray(BindingHost& host, const ActionArray& actions) {

@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QEvent>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -28,6 +29,12 @@ QString PlaceCaption(const QWidget& widget) {
 
 void NameAfterLabel(const QLabel& label) {
   if (label.buddy() != nullptr) label.buddy()->setAccessibleName(label.text().remove('&'));
+}
+
+bool IsHelpKey(const QEvent& event) {
+  if (event.type() != QEvent::KeyPress) return false;
+  const auto& key = dynamic_cast<const QKeyEvent&>(event);
+  return key.key() == Qt::Key_F1 && key.modifiers() == Qt::NoModifier;
 }
 
 // Buttons choose their letters first: they stand at the end of the way of the tab key. Options choose last: the arrows
@@ -65,7 +72,29 @@ void BoundForm::ShowTheme() {
 
 bool BoundForm::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::PaletteChange) ShowTheme();
+  // No widget of a form has a use for this key, so it comes up to the window.
+  if (IsHelpKey(*event)) {
+    AskForHelp();
+    return true;
+  }
   return QObject::eventFilter(watched, event);
+}
+
+const Control* BoundForm::ControlInUse() const {
+  for (const QWidget* at = root_.focusWidget(); at != nullptr; at = at->parentWidget()) {
+    for (const auto& [control, binding] : bindings_) {
+      if (std::ranges::count(binding->Widgets(), at) > 0) return control;
+    }
+  }
+  return nullptr;
+}
+
+// What cannot be shown is told in a modal box.
+void BoundForm::AskForHelp() {
+  const auto ask = [this, control = ControlInUse()] {
+    if (tied_ && HelpRequested) RunGuarded([&] { HelpRequested(control); });
+  };
+  QMetaObject::invokeMethod(this, ask, Qt::QueuedConnection);
 }
 
 void BoundForm::BindControls() {

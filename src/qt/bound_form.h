@@ -27,8 +27,13 @@ class BoundForm final : public QObject, public FormView, public BindingHost {
   // The user wants the window closed.
   void CloseByUser();
 
+  // The control whose widget has the keyboard; nullptr when none has it.
+  const Control* ControlInUse() const;
+
   // Runs when the form has closed.
   std::function<void()> Finished;
+  // Runs when the user asks for help on a control, or on the window when no control has the keyboard.
+  std::function<void(const Control* control)> HelpRequested;
 
   void ControlChanged(const Control& control) override;
   void CaptionChanged() override;
@@ -46,6 +51,7 @@ class BoundForm final : public QObject, public FormView, public BindingHost {
   // From here on the form and its view know nothing of each other.
   void Untie();
   void ShowTheme();
+  void AskForHelp();
   void BindControls();
   void AssignLetters();
   void KeepPlaces();

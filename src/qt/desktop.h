@@ -5,7 +5,9 @@
 #include "platform/no_desktop.h"
 #include "platform/platform.h"
 #include "qt/documents.h"
+#include "qt/downloads.h"
 #include "qt/file_dialogs.h"
+#include "qt/help_viewer.h"
 #include "qt/message_boxes.h"
 #include "qt/printer.h"
 #include "qt/surroundings.h"
@@ -27,8 +29,8 @@ struct Desktop {
   QtClipboard clipboard;
   QtPrinter printer;
   QtDocuments documents;
-  NoHelpViewer help;
-  NoDownloads downloads;
+  QtHelpViewer help;
+  QtDownloads downloads;
 
   Platform Doors() {
     return {boxes,       files,     fileDialogs, windows,   fonts, locale,   clock,

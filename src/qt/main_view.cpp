@@ -78,7 +78,6 @@ class DropTarget : public QObject {
 }  // namespace
 
 void DressMainWindow(QMainWindow& window, MainWindow& model) {
-  QApplication::setWindowIcon(ThemedIcon("orby"));
   for (const Dress& dress : Dresses) {
     auto* action = window.findChild<QAction*>(dress.action);
     if (dress.icon != nullptr) action->setIcon(ThemedIcon(dress.icon));

@@ -31,6 +31,7 @@ bool CanMeet(const Pages& a, const Pages& b) {
 struct Taken {
   Pages pages;
   QChar letter;
+  const CaptionSlot* slot = nullptr;  // none: the letter is marked in the caption
 };
 
 // Enter and Escape reach these.
@@ -55,6 +56,21 @@ QChar FreeLetter(const QString& caption, const std::vector<Taken>& taken, const 
   return {};
 }
 
+// A letter that becomes free when the one caption that has it takes another.
+QChar FreedLetter(const QString& caption, std::vector<Taken>& taken, const Pages& pages) {
+  for (const QChar letter : caption.toLower()) {
+    const auto holds = [&](const Taken& entry) { return entry.letter == letter && CanMeet(entry.pages, pages); };
+    if (std::ranges::count_if(taken, holds) != 1) continue;
+    const auto holder = std::ranges::find_if(taken, holds);
+    if (holder->slot == nullptr) continue;
+    const QChar other = FreeLetter(ToQt(holder->slot->caption), taken, holder->pages);
+    if (other.isNull()) continue;
+    holder->letter = other;
+    return letter;
+  }
+  return {};
+}
+
 }  // namespace
 
 QChar OwnLetter(const QString& caption) {
@@ -69,17 +85,20 @@ void Mnemonics::Assign(const std::vector<CaptionSlot>& captions) {
     const QChar own = OwnLetter(ToQt(slot.caption));
     Pages pages = PagesAround(slot.place);
     if (!own.isNull()) {
-      taken.push_back({std::move(pages), own});
+      taken.push_back({std::move(pages), own, nullptr});
     } else if (!NeedsNoLetter(slot.caption)) {
       open.emplace_back(std::move(pages), &slot);
     }
   }
   std::ranges::stable_sort(open, {}, [](const auto& entry) { return entry.first.size(); });
   for (auto& [pages, slot] : open) {
-    const QChar letter = FreeLetter(ToQt(slot->caption), taken, pages);
-    if (letter.isNull()) continue;
-    letters_[{slot->key, slot->index}] = letter;
-    taken.push_back({std::move(pages), letter});
+    const QString caption = ToQt(slot->caption);
+    QChar letter = FreeLetter(caption, taken, pages);
+    if (letter.isNull()) letter = FreedLetter(caption, taken, pages);
+    if (!letter.isNull()) taken.push_back({std::move(pages), letter, slot});
+  }
+  for (const Taken& entry : taken) {
+    if (entry.slot != nullptr) letters_[{entry.slot->key, entry.slot->index}] = entry.letter;
   }
 }
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
+#include <QLayout>
 #include <QMainWindow>
 #include <QPointer>
 #include <QPushButton>
@@ -11,15 +12,24 @@
 #include <array>
 #include <stdexcept>
 
+#include <ui_convert_dialog.h>
 #include <ui_cost_dialog.h>
 #include <ui_description_dialog.h>
+#include <ui_disclaimer.h>
 #include <ui_estimator_dialog.h>
+#include <ui_font_dialog.h>
 #include <ui_graph_options_dialog.h>
 #include <ui_graph_window.h>
 #include <ui_main_window.h>
+#include <ui_options_dialog.h>
 #include <ui_parameters_dialog.h>
 #include <ui_preview_window.h>
+#include <ui_resource_files.h>
 #include <ui_results_window.h>
+#include <ui_settings_dialog.h>
+#include <ui_text_browser.h>
+#include <ui_unit_calculator.h>
+#include <ui_update_dialog.h>
 #include "core/dialog_helpers.h"
 
 namespace orby {
@@ -77,6 +87,15 @@ constexpr std::array Layouts{
     LayoutEntry{"frmPreview", Make<Ui::frmPreview, DialogWindow>},
     LayoutEntry{"frmGraph", Make<Ui::frmGraph, MainOrGraphWindow>},
     LayoutEntry{"frmGraphOpt", Make<Ui::frmGraphOpt, DialogWindow>},
+    LayoutEntry{"frmTULKOpts", Make<Ui::frmTULKOpts, DialogWindow>},
+    LayoutEntry{"frmConvert", Make<Ui::frmConvert, DialogWindow>},
+    LayoutEntry{"frmUnits", Make<Ui::frmUnits, DialogWindow>},
+    LayoutEntry{"frmTextBrow", Make<Ui::frmTextBrow, DialogWindow>},
+    LayoutEntry{"frmUpdate", Make<Ui::frmUpdate, DialogWindow>},
+    LayoutEntry{"frmSet", Make<Ui::frmSet, DialogWindow>},
+    LayoutEntry{"frmFont", Make<Ui::frmFont, DialogWindow>},
+    LayoutEntry{"frmDisclaimer", Make<Ui::frmDisclaimer, DialogWindow>},
+    LayoutEntry{"frmResource", Make<Ui::frmResource, DialogWindow>},
 };
 
 void TieClosing(QWidget& window, BoundForm& view) {
@@ -87,12 +106,22 @@ void TieClosing(QWidget& window, BoundForm& view) {
   }
 }
 
+// Texts and fonts that came after a layout had been measured count, the innermost first.
+void LayOutAnew(QWidget& widget) {
+  for (QWidget* child : widget.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) LayOutAnew(*child);
+  widget.updateGeometry();
+  if (widget.layout() == nullptr) return;
+  widget.layout()->invalidate();
+  widget.layout()->activate();
+}
+
 // The size in which all of the window shows, what lies in its scroll area included.
 QSize WholeSize(QWidget& window) {
   for (QWidget* child : window.findChildren<QWidget*>()) child->ensurePolished();
   window.ensurePolished();
   QSize size = window.sizeHint();
   if (const auto* scroll = window.findChild<QScrollArea*>("viewScroll")) {
+    LayOutAnew(*scroll->widget());
     size += scroll->widget()->sizeHint() - scroll->sizeHint();
   }
   return size;
@@ -131,6 +160,9 @@ QtWindows::Shown QtWindows::MakeShown(Form& form, QWidget* parent) {
   Shown shown;
   shown.window = MakeWindow(form, parent);
   shown.view = std::make_unique<BoundForm>(form, *shown.window);
+  shown.view->HelpRequested = [this, &form](const Control* control) {
+    if (HelpRequested) HelpRequested(form, control);
+  };
   TieClosing(*shown.window, *shown.view);
   Place(*shown.window);
   return shown;

@@ -23,6 +23,9 @@ class QtWindows : public Windows {
   // The main window, once it is shown.
   QMainWindow& Main() const;
 
+  // Runs when the user asks for help in a window, on one of its controls or on the window.
+  std::function<void(const Form& form, const Control* control)> HelpRequested;
+
   void ShowModal(Form& form) override;
   void Show(Form& form) override;
   void ShowMainWindow(bool visible) override;

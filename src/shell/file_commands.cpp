@@ -8,6 +8,7 @@
 #include "reports/printing.h"
 #include "shell/main_window.h"
 #include "shell/recent_files.h"
+#include "shell/text_browser.h"
 
 namespace orby {
 namespace {
@@ -26,6 +27,7 @@ void MainWindow::FileCommand(Integer item) {
     case file_item::PrinterSetup: Run(Trap::Set, [this] { program_.platform.printer.SetUp(); }); break;
     case file_item::Print: PrintProject(true); break;
     case file_item::Preview: PreviewProject(); break;
+    case file_item::ViewSourceFiles: ShowNew<TextBrowser>(); break;
     case file_item::Exit: Exit(); break;
     default: break;
   }

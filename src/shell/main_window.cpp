@@ -4,23 +4,15 @@
 #include "config/settings_sections.h"
 #include "config/user_folders.h"
 #include "core/dialog_helpers.h"
-#include "core/help.h"
 #include "core/version.h"
 #include "files/save_command.h"
+#include "shell/disclaimer.h"
 #include "shell/recent_files.h"
 
 namespace orby {
 
-MainWindow::MainWindow(Program& program) : program_(program), recovery_(program) {
+MainWindow::MainWindow(Program& program) : program_(program), recovery_(program), updateCheck_(program) {
   lblver.SetCaption("Version: " + VersionText(true));
-  for (const Integer item :
-       {util_item::Settings, util_item::Options, util_item::UnitConversions, util_item::FileConversion}) {
-    mnuUtilItem.SetItemEnabled(item, false);
-  }
-  for (const Integer item : {help_item::ResourceFiles, help_item::Disclaimer, help_item::Updates, help_item::About}) {
-    mnuHelpItem.SetItemEnabled(item, false);
-  }
-  mnuFileItem.SetItemEnabled(file_item::ViewSourceFiles, false);
   TieCommands();
   TieHistory();
   program_.OpenInputDialog = [this](Integer caller) {
@@ -37,6 +29,7 @@ void MainWindow::TieCommands() {
   mnuFileItem.Click = [this](Integer item) { FileCommand(item); };
   mnuFileArray.Click = [this](Integer item) { OpenRecent(item); };
   mnuEditItem.Click = [this](Integer item) { EditCommand(item, Trap::None); };
+  mnuUtilItem.Click = [this](Integer item) { UtilityCommand(item); };
   mnuHelpItem.Click = [this](Integer item) { HelpCommand(item); };
   Toolbar1.Click = [this](Integer button) {
     switch (button) {
@@ -55,29 +48,6 @@ void MainWindow::TieHistory() {
     txtMain.SetText(program_.history.Text);
     txtMain.Select(CharacterCount(program_.history.Text), 0);
   };
-  mnuUtilItem.Click = [this](Integer item) {
-    switch (item) {
-      case util_item::ClearHistory:
-        program_.history.Text.clear();
-        txtMain.SetText({});
-        break;
-      case util_item::ToggleHistory: ShowHistory(!txtMain.Visible()); break;
-      case util_item::CopyHistory:
-        program_.platform.clipboard.Clear();
-        program_.platform.clipboard.SetText(txtMain.Text());
-        break;
-      default: break;
-    }
-  };
-}
-
-void MainWindow::HelpCommand(Integer item) {
-  switch (item) {
-    case help_item::Contents: OpenHelpContents(program_); break;
-    case help_item::Index: OpenHelpIndex(program_); break;
-    case help_item::Manual: OpenDocument(program_, "Help file", ManualFile); break;
-    default: break;
-  }
 }
 
 void MainWindow::ShowHistory(bool visible) {
@@ -85,17 +55,24 @@ void MainWindow::ShowHistory(bool visible) {
   mnuUtilItem.SetCaption(util_item::ToggleHistory, visible ? CloseHistory : RestoreHistory);
 }
 
-void MainWindow::OnOpen() {
+void MainWindow::ShowSettings() {
   const Settings& settings = program_.settings;
   txtMain.SetFont({settings.DisplayFontName, static_cast<int>(settings.DisplayFontSize), settings.DisplayFontBold != 0,
                    settings.DisplayFontItalic != 0});
-  program_.history.Changed();
   ShowHistory(settings.DisplayHistoryWin == 1);
   Toolbar1.SetVisible(settings.EnableMainMenuToolbar == 1);
+}
+
+// Nothing of the user's is touched before the disclaimer is accepted.
+void MainWindow::OnOpen() {
+  if (program_.settings.ShowDisclaim == 1) ShowNew<Disclaimer>();
+  ShowSettings();
+  program_.history.Changed();
   ShowRecentFiles(program_.recentFiles, mnuFileArray);
   CopyExamples(program_);
   RefreshCaption();
   program_.platform.windows.CenterForm(*this);
+  updateCheck_.Start();
 }
 
 void MainWindow::OpenFirstFiles(const std::string& commandLineFile) {
@@ -119,6 +96,7 @@ bool MainWindow::MayClose() {
 }
 
 void MainWindow::OnClose() {
+  program_.platform.help.Close();
   recovery_.Discard();
   WriteDefaults(program_, settings_section::FileMenu);
 }

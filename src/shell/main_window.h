@@ -7,10 +7,12 @@
 #include <functional>
 #include <string>
 
+#include "core/dialog_helpers.h"
 #include "core/messages.h"
 #include "core/program.h"
 #include "shell/main_controls.h"
 #include "shell/recovery.h"
+#include "shell/update_check.h"
 
 namespace orby {
 
@@ -45,7 +47,7 @@ class MainWindow : public MainControls {
   void TieCommands();
   void TieHistory();
   void ShowHistory(bool visible);
-  void HelpCommand(Integer item);
+  void ShowSettings();
   void RefreshCaption();
 
   // file_commands.cpp
@@ -70,8 +72,22 @@ class MainWindow : public MainControls {
   template <class Dialog>
   void KeepEdits(Dialog& dialog);
 
+  // utility_commands.cpp
+  void UtilityCommand(Integer item);
+  void HelpCommand(Integer item);
+  void EditSettings();
+  void ConvertFile();
+
+  // Makes a dialog of this kind and shows it until it is closed.
+  template <class Dialog>
+  void ShowNew() {
+    Dialog dialog(program_);
+    ShowForm(program_, dialog);
+  }
+
   Program& program_;
   Recovery recovery_;
+  UpdateCheck updateCheck_;
 };
 
 }  // namespace orby

@@ -41,7 +41,7 @@ TEST_F(House, FilesKeepToOneSubject) { EXPECT_THAT(LongFiles(*tree), IsEmpty());
 
 TEST_F(House, CommandsCanBeRun) {
   using std::filesystem::perms;
-  for (const auto* command : {"orby", "check", "bench", ".ci/run"}) {
+  for (const auto* command : {"orby", "check", "bench", ".ci/run", "help/build", "scripts/take-pictures"}) {
     const auto status = std::filesystem::status(std::filesystem::path(HOUSE_DIR) / command);
 
     EXPECT_TRUE(std::filesystem::is_regular_file(status)) << command;

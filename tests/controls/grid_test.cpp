@@ -2,6 +2,7 @@
 
 #include "base/runtime_error.h"
 #include "controls/controls.h"
+#include "controls/grid.h"
 #include "controls/plain_form.h"
 #include "support/recording_platform.h"
 
@@ -172,6 +173,15 @@ TEST_F(AGrid, TellsOfAnotherCellInTheSameRowOnce) {
   EXPECT_EQ(grid.Column(), 1);
   EXPECT_EQ(changes, 1);
   EXPECT_EQ(ErrorNumberOf([this] { grid.SelectCell(1, 2); }), 9);
+}
+
+TEST_F(AGrid, BeginsBehindTheColumnsThatAreOnlyShown) {
+  grid.SetFixedColumns(1);
+
+  grid.SetSize(4, 2, 1);
+
+  EXPECT_EQ(grid.Row(), 1);
+  EXPECT_EQ(grid.Column(), 1);
 }
 
 TEST_F(AGrid, WithoutARuleTakesRowAndTextAllTheSame) {

@@ -157,6 +157,15 @@ TEST_F(TextFileCopy, OfAnEmptyFileIsEmpty) {
   EXPECT_EQ(platform.files.files["/tmp/copy.txt"], "");
 }
 
+TEST_F(TextFileCopy, KeepsALineEndTogetherWhereverTheFileIsCutWhileItIsRead) {
+  const std::string piece((std::size_t{1} << 20U) - 1, 'x');
+  platform.files.files["/mine/notes.txt"] = piece + "\r\nend";
+
+  EXPECT_TRUE(CopyTextFile(program, "/mine/notes.txt", "/tmp/copy.txt"));
+
+  EXPECT_TRUE(platform.files.files["/tmp/copy.txt"] == piece + "\r\nend\r\n");
+}
+
 TEST_F(TextFileCopy, LeavesTheSourceAsItIs) {
   platform.files.files["/mine/notes.txt"] = "one\ntwo";
 

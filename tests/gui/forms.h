@@ -9,15 +9,24 @@
 #include <vector>
 
 #include "core/program.h"
+#include "dialogs/convert_dialog.h"
 #include "dialogs/cost_dialog.h"
 #include "dialogs/description_dialog.h"
 #include "dialogs/estimator_dialog.h"
+#include "dialogs/font_dialog.h"
 #include "dialogs/graph_options_dialog.h"
 #include "dialogs/graph_window.h"
+#include "dialogs/options_dialog.h"
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/preview_window.h"
 #include "dialogs/results_window.h"
+#include "dialogs/settings_dialog.h"
+#include "shell/disclaimer.h"
 #include "shell/main_window.h"
+#include "shell/resource_files.h"
+#include "shell/text_browser.h"
+#include "shell/unit_calculator.h"
+#include "shell/update_dialog.h"
 
 namespace orby::test {
 
@@ -44,7 +53,11 @@ class OptionsOfAChart : private ChartOfItsOwn, public GraphOptionsDialog {
 };
 
 inline constexpr std::array FormMakers{
-    FormMaker{"frmMain", Plain<MainWindow>},
+    FormMaker{"frmMain",
+              [](Program& program) {
+                program.settings.ShowDisclaim = 0;  // it would ask before the window is there
+                return Plain<MainWindow>(program);
+              }},
     FormMaker{"frmPENVParm", Plain<ParametersDialog>},
     FormMaker{"frmTULKCost", Plain<CostDialog>},
     FormMaker{"frmTULKDesc", Plain<DescriptionDialog>},
@@ -52,8 +65,22 @@ inline constexpr std::array FormMakers{
     FormMaker{"frmResTxtPlt", Plain<ResultsWindow>},
     FormMaker{"frmPreview", Plain<PreviewWindow>},
     FormMaker{"frmGraph", Plain<GraphWindow>},
+    FormMaker{"frmConvert", Plain<ConvertDialog>},
+    FormMaker{"frmUnits", Plain<UnitCalculator>},
+    FormMaker{"frmTextBrow", Plain<TextBrowser>},
+    FormMaker{"frmUpdate", Plain<UpdateDialog>},
+    FormMaker{"frmTULKOpts", Plain<OptionsDialog>},
     FormMaker{"frmGraphOpt",
               [](Program& program) -> std::unique_ptr<Form> { return std::make_unique<OptionsOfAChart>(program); }},
+    FormMaker{
+        "frmSet",
+        [](Program& program) -> std::unique_ptr<Form> { return std::make_unique<SettingsDialog>(program, nullptr); }},
+    FormMaker{"frmFont",
+              [](Program& program) -> std::unique_ptr<Form> {
+                return std::make_unique<FontDialog>(program, FontChoice{}, std::vector<std::string>{"Courier New"});
+              }},
+    FormMaker{"frmDisclaimer", Plain<Disclaimer>},
+    FormMaker{"frmResource", Plain<ResourceFiles>},
 };
 
 }  // namespace orby::test

@@ -52,7 +52,7 @@ void PressLetter(const QString& caption) {
 
 Platform GuiPlatform::Doors(const RealDoors& real) {
   return {RealOr<MessageBoxes>(real.boxes, boxes),
-          files,
+          RealOr<FileSystem>(real.files, files),
           fileDialogs,
           screen,
           RealOr<Fonts>(real.fonts, fonts),

@@ -35,6 +35,7 @@ struct RealDoors {
   Documents* documents = nullptr;
   HelpViewer* help = nullptr;
   Downloads* downloads = nullptr;
+  FileSystem* files = nullptr;
 };
 
 // The windows are real; all else answers from scripts, unless told otherwise.

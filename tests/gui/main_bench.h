@@ -45,6 +45,7 @@ class MainViewTest : public GuiTest {
     program.folders.ProgramTemporary = "/home/user/Documents/Orby/Temp/";
     program.IniFilePath = "/home/user/Documents/Orby/ORBY.INI";
     program.options.ShowInputScreenOnLoad = 0;
+    program.settings.ShowDisclaim = 0;
     model.Open();
     platform.screen.ShowMain(model, false);
     DressMainWindow(View(), model);

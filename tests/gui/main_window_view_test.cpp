@@ -71,7 +71,10 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(Keys{Qt::Key_F, Qt::Key_N, {}, "mnuFileItem", 0}, Keys{Qt::Key_F, Qt::Key_O, {}, "mnuFileItem", 1},
                     Keys{Qt::Key_F, Qt::Key_S, {}, "mnuFileItem", 2}, Keys{Qt::Key_F, Qt::Key_A, {}, "mnuFileItem", 3},
                     Keys{Qt::Key_F, Qt::Key_U, {}, "mnuFileItem", 5}, Keys{Qt::Key_F, Qt::Key_P, {}, "mnuFileItem", 6},
-                    Keys{Qt::Key_F, Qt::Key_V, {}, "mnuFileItem", 7}, Keys{Qt::Key_F, Qt::Key_X, {}, "mnuFileItem", 11},
+                    Keys{Qt::Key_F, Qt::Key_X, {}, "mnuFileItem", 11}, Keys{Qt::Key_U, Qt::Key_S, {}, "mnuUtilItem", 0},
+                    Keys{Qt::Key_U, Qt::Key_O, {}, "mnuUtilItem", 1}, Keys{Qt::Key_U, Qt::Key_U, {}, "mnuUtilItem", 2},
+                    Keys{Qt::Key_U, Qt::Key_F, {}, "mnuUtilItem", 3}, Keys{Qt::Key_H, Qt::Key_R, {}, "mnuHelpItem", 4},
+                    Keys{Qt::Key_H, Qt::Key_D, {}, "mnuHelpItem", 6}, Keys{Qt::Key_H, Qt::Key_A, {}, "mnuHelpItem", 10},
                     Keys{Qt::Key_I, Qt::Key_D, {}, "mnuEditItem", 0}, Keys{Qt::Key_I, Qt::Key_P, {}, "mnuEditItem", 1},
                     Keys{Qt::Key_I, Qt::Key_C, {}, "mnuEditItem", 2}, Keys{Qt::Key_U, Qt::Key_C, {}, "mnuUtilItem", 5},
                     Keys{Qt::Key_U, Qt::Key_W, {}, "mnuUtilItem", 6}, Keys{Qt::Key_U, Qt::Key_P, {}, "mnuUtilItem", 7},
@@ -89,7 +92,24 @@ INSTANTIATE_TEST_SUITE_P(Shortcuts, MainKeys,
                                          Keys{NoKey, Qt::Key_F1, {}, "mnuHelpItem", 0}),
                          NameOf);
 
+TEST_F(MainCommands, GoInTurnByALetterThatTwoEntriesShare) {
+  Press(Qt::Key_F, Qt::AltModifier);
+  PressInMenu(Qt::Key_V);
+  PressInMenu(Qt::Key_Return);
+  Press(Qt::Key_F, Qt::AltModifier);
+  PressInMenu(Qt::Key_V);
+  PressInMenu(Qt::Key_V);
+  PressInMenu(Qt::Key_Return);
+
+  EXPECT_THAT(chosen,
+              ElementsAre(Pair("mnuFileItem", file_item::Preview), Pair("mnuFileItem", file_item::ViewSourceFiles)));
+}
+
 TEST_F(MainCommands, AreNotChosenByTheLetterOfADisabledEntry) {
+  for (const Integer item :
+       {util_item::Settings, util_item::Options, util_item::UnitConversions, util_item::FileConversion}) {
+    model.mnuUtilItem.SetItemEnabled(item, false);
+  }
   for (const Qt::Key letter : {Qt::Key_S, Qt::Key_O, Qt::Key_U, Qt::Key_F}) {
     Press(Qt::Key_U, Qt::AltModifier);
     PressInMenu(letter);

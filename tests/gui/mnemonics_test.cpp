@@ -59,6 +59,15 @@ TEST_F(LettersOfAWindow, AreFromInsideAWordWhereNoFirstLetterIsLeft) {
   EXPECT_EQ(Marked(label, "Drill"), "D&rill");
 }
 
+TEST_F(LettersOfAWindow, AreTakenFromACaptionThatHasOthers) {
+  const auto* delivery = Add("Delivery");
+  Add("&Apply");
+  const auto* add = Add("Add");
+
+  EXPECT_EQ(Marked(add, "Add"), "A&dd");
+  EXPECT_EQ(Marked(delivery, "Delivery"), "D&elivery");
+}
+
 TEST_F(LettersOfAWindow, LeaveThoseThatACaptionBringsAlone) {
   const auto* label = Add("Cost");
   const auto* own = Add("&Copy Clip");

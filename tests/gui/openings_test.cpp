@@ -18,7 +18,11 @@ class Openings : public GuiTest, public testing::WithParamInterface<FormMaker> {
  protected:
   void OpenAndClose(int times) {
     for (int i = 0; i < times; ++i) {
-      scripts.Add([](QDialog& window) { window.close(); });
+      scripts.Add([](QDialog& window) {
+        window.close();
+        // The disclaimer has no way out but its buttons.
+        if (window.isVisible()) Click(window, "cmdNoAccept");
+      });
       const auto form = GetParam().make(program);
       ShowForm(program, *form);
       program.history.Text.clear();

@@ -62,7 +62,8 @@ TEST_P(EveryPicture, TakesTheColourOfTheTextForItsLines) {
 INSTANTIATE_TEST_SUITE_P(Pictures, EveryPicture,
                          testing::Values("open", "save", "print", "description", "parameters", "entry_section",
                                          "intersection_plan", "region_0", "region_1", "region_2", "region_3",
-                                         "region_4", "region_5"),
+                                         "region_4", "region_5", "back", "forward", "contents", "find", "zoom_in",
+                                         "zoom_out"),
                          [](const auto& entry) { return std::string(entry.param); });
 
 TEST(Pictures, MarkAnotherRegionEach) {

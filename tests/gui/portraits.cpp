@@ -22,14 +22,18 @@
 
 #include "catalogs/catalogs.h"
 #include "core/dialog_helpers.h"
+#include "dialogs/convert_dialog.h"
 #include "dialogs/cost_dialog.h"
 #include "dialogs/description_dialog.h"
 #include "dialogs/estimator_dialog.h"
+#include "dialogs/font_dialog.h"
 #include "dialogs/graph_options_dialog.h"
 #include "dialogs/graph_window.h"
+#include "dialogs/options_dialog.h"
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/preview_window.h"
 #include "dialogs/results_window.h"
+#include "dialogs/settings_dialog.h"
 #include "engine/curves.h"
 #include "files/new_project.h"
 #include "files/project_file.h"
@@ -40,7 +44,12 @@
 #include "qt/message_boxes.h"
 #include "reports/calculation_report.h"
 #include "reports/input_echo.h"
+#include "shell/disclaimer.h"
 #include "shell/main_window.h"
+#include "shell/resource_files.h"
+#include "shell/text_browser.h"
+#include "shell/unit_calculator.h"
+#include "shell/update_dialog.h"
 
 namespace orby::test {
 namespace {
@@ -108,6 +117,7 @@ class Sitting {
     SetBuiltInCatalogs(program_.catalogs);
     program_.settings.UnitsDefault = units;
     program_.settings.DisplayFontName = "Arial";
+    program_.settings.ShowDisclaim = 0;
     program_.folders.ProgramTemporary = "/home/user/Documents/Orby/Temp/";
     program_.IniFilePath = "/home/user/Documents/Orby/ORBY.INI";
     FileNew(program_, true, true);
@@ -135,7 +145,12 @@ class Sitting {
     TakeParameters();
     TakeDialog<CostDialog>("cost");
     TakeEstimator();
+    TakeOptions();
+    TakeSettings();
     TakeReport();
+    TakeDialog<ConvertDialog>("convert");
+    TakeCalculator();
+    TakeBrowser();
     TakeMessages();
   }
 
@@ -178,6 +193,39 @@ class Sitting {
       Click(window, "Command1");
     });
     ParametersDialog dialog(program_);
+    ShowForm(program_, dialog);
+  }
+
+  // A form that is left by this button.
+  void TakeForm(Form& form, const std::string& name, std::string_view button) {
+    scripts_.Add([&](QDialog& window) {
+      photographer_.Take(window, name);
+      Click(window, button);
+    });
+    ShowForm(program_, form);
+  }
+
+  void TakeSettings() {
+    program_.settings.DataPath = "/home/user/Documents/MyStrataDesk/ORBY/";
+    SettingsDialog settings(program_, nullptr);
+    TakeForm(settings, "settings", "cmdCancel");
+    FontDialog font(program_, {"DejaVu Sans Mono", 14}, {"Arial", "Courier New", "DejaVu Sans", "DejaVu Sans Mono"});
+    TakeForm(font, "font", "cmdCancel");
+    program_.settings.ShowDisclaim = 1;
+    Disclaimer disclaimer(program_);
+    TakeForm(disclaimer, "disclaimer", "Command1");
+    ResourceFiles resources(program_);
+    TakeForm(resources, "resources", "Command1");
+    UpdateDialog updates(program_);
+    TakeForm(updates, "updates", "Command1");
+  }
+
+  void TakeOptions() {
+    scripts_.Add([&](QDialog& window) {
+      TakePages(photographer_, window, Find<QTabWidget>(window, "SSTab1"), "options");
+      Click(window, "cmdCancel");
+    });
+    OptionsDialog dialog(program_);
     ShowForm(program_, dialog);
   }
 
@@ -227,6 +275,45 @@ class Sitting {
     graph.GraphOptionsItem.ClickItem(1);
     graph.Close();
     Settle();
+  }
+
+  void TakeCalculator() {
+    scripts_.Add([&](QDialog& window) {
+      Type("6.2");
+      TakePages(photographer_, window, Find<QTabWidget>(window, "SSTab1"), "units");
+      Click(window, "Command1");
+    });
+    UnitCalculator calculator(program_);
+    ShowForm(program_, calculator);
+  }
+
+  // A folder below others, and a file in it on its way.
+  void TakeBrowser() {
+    platform_.files.folders = {"",
+                               "/home",
+                               "/home/user",
+                               "/home/user/Documents",
+                               "/home/user/Documents/Orby",
+                               "/home/user/Documents/Orby/Mines",
+                               "/home/user/Documents/Orby/Temp"};
+    std::string report;
+    while (report.size() < 2 * TextBrowser::PieceBytes) report += program_.OutBuf[0];
+    platform_.files.files["/home/user/Documents/Orby/echo.ORB"] = report;
+    program_.settings.DataPath = "/home/user/Documents/Orby/";
+    program_.textBrowse.BrowseFontName = "Courier New";
+    scripts_.Add([&](QDialog& window) {
+      Find(window, "File1").setFocus();
+      Press(Qt::Key_Home);
+      Press(Qt::Key_Down);
+      Press(Qt::Key_Enter);
+      platform_.clock.Pass();
+      photographer_.Take(window, "browser");
+      Click(window, "Check1");
+      photographer_.Take(window, "browser-outside");
+      Click(window, "Command1");
+    });
+    TextBrowser browser(program_);
+    ShowForm(program_, browser);
   }
 
   void TakeMessages() {

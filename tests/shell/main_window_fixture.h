@@ -18,12 +18,14 @@ inline const std::string IniPath = "/home/user/Documents/Orby/ORBY.INI";
 inline const std::string Panel3 = "/designs/panel3.orb";
 inline const std::string Panel4 = "/designs/panel4.orb";
 
-// A run as its start leaves it, but for the parameters dialog, which no file opens by itself.
+// A run as its start leaves it, but for the disclaimer, which is not shown, and the parameters dialog, which no file
+// opens by itself.
 inline Program StartedProgram(RecordingPlatform& platform) {
   Program program(platform.Doors());
   program.folders.ProgramTemporary = TemporaryFolder;
   program.IniFilePath = IniPath;
   program.options.ShowInputScreenOnLoad = 0;
+  program.settings.ShowDisclaim = 0;
   StartApart(program, nullptr);
   return program;
 }

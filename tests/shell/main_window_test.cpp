@@ -1,5 +1,7 @@
 #include "shell/main_window.h"
 
+#include "dialogs/convert_dialog.h"
+#include "dialogs/settings_dialog.h"
 #include "main_window_fixture.h"
 
 namespace orby::test {
@@ -40,18 +42,106 @@ TEST_F(Menus, AreNamedInTheMenuBar) {
   EXPECT_EQ(window.lblver.Caption(), "Version: 1.0.00");
 }
 
-TEST_F(Menus, OfferNothingThatTheProgramHasNot) {
-  std::vector<std::string> disabled;
+TEST(MainWindowStart, ShowsTheDisclaimerBeforeAnythingOfTheUsersIsTouched) {
+  RecordingPlatform platform;
+  Program program = StartedProgram(platform);
+  program.settings.ShowDisclaim = 1;
+  program.settings.DataPath = "/designs/";
+  platform.files.files["/program/examples/weak-roof.ORB"] = "ORBY_105";
+  std::vector<std::string> shown;
+  bool copied = true;
+  platform.windows.onModal = [&](Form& form) {
+    shown.emplace_back(form.Name());
+    copied = platform.files.files.contains("/designs/weak-roof.ORB");
+  };
+  MainWindow window(program);
+
+  window.Open();
+
+  EXPECT_THAT(shown, ElementsAre("frmDisclaimer"));
+  EXPECT_FALSE(copied);
+  EXPECT_TRUE(platform.files.files.contains("/designs/weak-roof.ORB"));
+}
+
+TEST_F(Menus, OfferAllOfTheirEntries) {
   for (const ActionArray* menu :
        {&window.mnuFileItem, &window.mnuEditItem, &window.mnuUtilItem, &window.mnuHelpItem, &window.Toolbar1}) {
-    for (int i = 0; i < menu->Count(); ++i) {
-      if (!menu->ItemEnabled(i)) disabled.push_back(menu->Caption(i));
-    }
+    for (int i = 0; i < menu->Count(); ++i) EXPECT_TRUE(menu->ItemEnabled(i)) << menu->Caption(i);
   }
+}
 
-  EXPECT_THAT(disabled, ElementsAre("&View Source Files...", "&Settings...", "&Options...", "&Unit Conversions...",
-                                    "&File Conversion...", "&Resource Files...", "&Disclaimer...", "Program Updates...",
-                                    "&About the Program..."));
+// The forms that the entries of a menu show, one after the other.
+std::vector<std::string> FormsShownBy(RecordingPlatform& platform, const ActionArray& menu,
+                                      std::initializer_list<Integer> items) {
+  std::vector<std::string> shown;
+  platform.windows.onModal = [&shown](Form& form) { shown.emplace_back(form.Name()); };
+  for (const Integer item : items) menu.ClickItem(item);
+  return shown;
+}
+
+TEST_F(Menus, ShowTheDialogsOfTheUtilities) {
+  EXPECT_THAT(
+      FormsShownBy(platform, window.mnuUtilItem, {util_item::Settings, util_item::Options, util_item::UnitConversions}),
+      ElementsAre("frmSet", "frmTULKOpts", "frmUnits"));
+}
+
+TEST_F(Menus, ShowTheDialogsOfTheHelp) {
+  EXPECT_THAT(
+      FormsShownBy(platform, window.mnuHelpItem, {help_item::ResourceFiles, help_item::Disclaimer, help_item::Updates}),
+      ElementsAre("frmResource", "frmDisclaimer", "frmUpdate"));
+}
+
+TEST_F(Menus, ShowTheBrowserOfTextFiles) {
+  EXPECT_THAT(FormsShownBy(platform, window.mnuFileItem, {file_item::ViewSourceFiles}), ElementsAre("frmTextBrow"));
+}
+
+TEST_F(Menus, TellAboutTheProgram) {
+  window.mnuHelpItem.ClickItem(help_item::About);
+
+  ASSERT_THAT(platform.boxes.shown, testing::SizeIs(1));
+  EXPECT_EQ(platform.boxes.shown.front().title, "About the Orby Roof Support Workbench Program");
+}
+
+TEST_F(Menus, ConvertNoEmptyProject) {
+  window.mnuUtilItem.ClickItem(util_item::FileConversion);
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Current file is empty"));
+  EXPECT_EQ(platform.windows.modalForms, 0);
+}
+
+TEST_F(Menus, ConvertNoProjectThatIsNotSaved) {
+  EditPanel3();
+
+  window.mnuUtilItem.ClickItem(util_item::FileConversion);
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Save Current File before accessing this option"));
+  EXPECT_EQ(platform.windows.modalForms, 0);
+}
+
+TEST_F(Menus, ConvertASavedProjectUnderANewName) {
+  OpenByDialog(Panel3);
+  platform.windows.onModal = [](Form& form) { dynamic_cast<ConvertDialog&>(form).Command2.Press(); };
+
+  window.mnuUtilItem.ClickItem(util_item::FileConversion);
+
+  EXPECT_EQ(program.Units, Metric);
+  EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: Metric_panel3.orb*");
+}
+
+TEST_F(Menus, SettingsActOnTheWindowAtOnce) {
+  platform.windows.onModal = [](Form& form) {
+    auto& settings = dynamic_cast<SettingsDialog&>(form);
+    settings.chkEnableTB.SetValue(0);
+    settings.chkDispHist.SetValue(0);
+    settings.Text2.SetText("/tmp");
+    settings.Text3.SetText("4096");
+    settings.cmdOK.Press();
+  };
+
+  window.mnuUtilItem.ClickItem(util_item::Settings);
+
+  EXPECT_FALSE(window.Toolbar1.Visible());
+  EXPECT_FALSE(window.txtMain.Visible());
 }
 
 TEST_F(Menus, OpenTheHelpAndTheManual) {

@@ -177,14 +177,21 @@ class Run:
         window.wait_active()
         return window
 
-    def main(self):
-        def find():
-            for node in self.windows():
-                if node.role == atspi.FRAME and node.name.startswith(TITLE):
-                    return Window(node)
-            return None
+    def find_main(self):
+        for node in self.windows():
+            if node.role == atspi.FRAME and node.name.startswith(TITLE):
+                return Window(node)
+        return None
 
-        return until(find, "the main window")
+    def main(self):
+        return until(self.find_main, "the main window")
+
+    def accept_disclaimer(self):
+        """Accepts the disclaimer if the program begins with it."""
+        first = until(lambda: self.find("Disclaimer") or self.find_main(), "the first window")
+        if first.node.name == "Disclaimer":
+            first.press("Command1")
+            first.wait_gone()
 
     def caption(self):
         return self.main().node.name
@@ -259,9 +266,12 @@ class DesktopTest(unittest.TestCase):
             if run.process.poll() is None:
                 run.kill()
 
-    def start(self, *arguments, **environment):
+    def start(self, *arguments, accepts=True, **environment):
+        """Starts the program; what it begins with is accepted unless the test is about that."""
         run = Run(self.bus, self.home, arguments, {"HOME": self.home, **environment})
         self.runs.append(run)
+        if accepts:
+            run.accept_disclaimer()
         return run
 
     def path(self, *parts):

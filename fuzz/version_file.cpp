@@ -1,0 +1,49 @@
+// Bytes of a version file that a server sent.
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+#include "shell/update_source.h"
+#include "support/recording_platform.h"
+
+namespace {
+
+void Expect(bool holds) {
+  if (!holds) std::abort();
+}
+
+bool HasOnly(std::string_view text, std::string_view characters) {
+  return text.find_first_not_of(characters) == std::string_view::npos;
+}
+
+constexpr std::string_view Digits = "0123456789abcdefABCDEF";
+constexpr std::string_view VersionCharacters = "0123456789.-_+abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
+
+// Whatever the server says, the setup file lies in the folder for downloads and on the server.
+void CheckPlaces(std::string_view version) {
+  orby::test::RecordingPlatform platform;
+  orby::Program program(platform.Doors());
+  program.UpdateServer = "https://updates.example.org";
+  program.folders.Group = "/home/user/Documents/MyStrataDesk/";
+  const std::string path = orby::SetupFilePath(program, version);
+  Expect(path.starts_with("/home/user/Downloads/ORBY") && path.ends_with(".exe"));
+  Expect(path.rfind('/') == std::string_view("/home/user/Downloads").size());
+  const std::string address = orby::SetupFileAddress(program, version);
+  Expect(address.starts_with("https://updates.example.org/wp-content/uploads/2020/04/ORBY"));
+  Expect(address.find_first_of("?#%@\\ ") == std::string::npos);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string bytes(data, data + size);
+
+  const auto offered = orby::ReadVersionFile(bytes);
+
+  if (!offered) return 0;
+  Expect(!offered->version.empty() && bytes.starts_with(offered->version));
+  Expect(HasOnly(offered->version, VersionCharacters) && offered->version.find("..") == std::string::npos);
+  Expect(offered->sha256.empty() || (offered->sha256.size() == 64 && HasOnly(offered->sha256, Digits)));
+  CheckPlaces(offered->version);
+  return 0;
+}

@@ -1,0 +1,153 @@
+#include "config/file_association.h"
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+#include "base/attempt.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "config/whole_file.h"
+#include "core/file_helpers.h"
+#include "core/messages.h"
+
+namespace orby {
+namespace {
+
+constexpr std::string_view ProgramFile = "orby";  // in the program's folder
+constexpr std::string_view IconFile = "orby.svg";
+constexpr std::string_view IconName = "orby";
+constexpr std::string_view DesktopEntry = "orby.desktop";
+
+// What the characters that mean something to a format are written as.
+struct Escape {
+  char Letter;
+  std::string_view Written;
+};
+
+template <std::size_t count>
+std::string Escaped(std::string_view text, const Escape (&escapes)[count]) {
+  std::string escaped;
+  for (const char letter : text) {
+    const auto* found = std::ranges::find(escapes, letter, &Escape::Letter);
+    if (found == std::end(escapes)) {
+      escaped += letter;
+    } else {
+      escaped += found->Written;
+    }
+  }
+  return escaped;
+}
+
+std::string XmlText(std::string_view text) {
+  return Escaped(text, {{'&', "&amp;"}, {'<', "&lt;"}, {'>', "&gt;"}, {'"', "&quot;"}, {'\'', "&apos;"}});
+}
+
+// An argument of a command line in quotes, which is itself the value of a key: each backslash counts twice.
+std::string QuotedArgument(std::string_view text) {
+  const std::string quoted = Escaped(text, {{'"', "\\\""}, {'`', "\\`"}, {'$', "\\$"}, {'\\', "\\\\"}, {'%', "%%"}});
+  return '"' + Escaped(quoted, {{'\\', "\\\\"}, {'\n', "\\n"}, {'\r', "\\r"}, {'\t', "\\t"}}) + '"';
+}
+
+// The extension as a part of a type's name: small letters, digits, "+", "-" and "."; any other byte is a "-".
+std::string TypePart(std::string_view extension) {
+  std::string part;
+  for (const char letter : extension) {
+    if (letter >= 'A' && letter <= 'Z') {
+      part += static_cast<char>(letter - 'A' + 'a');
+    } else {
+      const bool isPlain = (letter >= 'a' && letter <= 'z') || (letter >= '0' && letter <= '9') || letter == '+' ||
+                           letter == '-' || letter == '.';
+      part += isPlain ? letter : '-';
+    }
+  }
+  return part;
+}
+
+// How the desktop knows the files of an extension.
+class FileType {
+ public:
+  explicit FileType(std::string extension)
+      : extension_(std::move(extension)), subtype_("x-orby-" + TypePart(extension_)) {}
+
+  std::string Name() const { return "application/" + subtype_; }
+  std::string DescriptionFile() const { return subtype_ + ".xml"; }
+  std::string IconFile() const { return "application-" + subtype_ + ".svg"; }
+
+  // Names are matched without regard to case.
+  std::string Description() const {
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+           "<mime-info xmlns=\"http://www.freedesktop.org/standards/shared-mime-info\">\n"
+           "  <mime-type type=\"" +
+           Name() + "\">\n    <comment>" + XmlText(UpperCase(extension_) + "_File") +
+           "</comment>\n    <glob pattern=\"" + XmlText("*." + extension_) + "\"/>\n  </mime-type>\n</mime-info>\n";
+  }
+
+ private:
+  std::string extension_;
+  std::string subtype_;
+};
+
+std::string EntryText(const std::string& programPath, const FileType& type, bool hasIcon) {
+  std::string text = "[Desktop Entry]\nType=Application\nName=" + std::string(ProgramTitle) +
+                     "\nComment=Roof support design for underground coal mines\nExec=" + QuotedArgument(programPath) +
+                     " %f\n";
+  if (hasIcon) text.append("Icon=").append(IconName).append("\n");
+  return text + "Terminal=false\nCategories=Science;Engineering;\nMimeType=" + type.Name() + ";\n";
+}
+
+// The user's folder for what programs add to the desktop.
+class DesktopData {
+ public:
+  DesktopData(FileSystem& files, std::string_view folder) : files_(files), folder_(WithSeparator(folder)) {}
+
+  std::string PathOf(std::string_view folder) const { return folder_ + std::string(folder); }
+
+  void Write(std::string_view folder, std::string_view name, std::string_view bytes) {
+    const std::string path = PathOf(folder);
+    Succeeds([&] { files_.MakeFolder(path); });
+    TryWriteWhole(files_, WithSeparator(path).append(name), bytes);
+  }
+
+ private:
+  FileSystem& files_;
+  std::string folder_;
+};
+
+void Record(Program& program, const FileType& type, const std::string& dataFolder) {
+  FileSystem& files = program.platform.files;
+  DesktopData data(files, dataFolder);
+  std::string icon;
+  const bool hasIcon = Succeeds([&] { icon = files.ReadFile(AppDirectory(program).append(IconFile)); });
+  if (hasIcon) {
+    data.Write("icons/hicolor/scalable/apps", IconFile, icon);
+    data.Write("icons/hicolor/scalable/mimetypes", type.IconFile(), icon);
+  }
+  data.Write("mime/packages", type.DescriptionFile(), type.Description());
+  data.Write("applications", DesktopEntry, EntryText(AppDirectory(program).append(ProgramFile), type, hasIcon));
+  Documents& programs = program.platform.documents;
+  programs.RunToEnd("update-mime-database", {data.PathOf("mime")});
+  programs.RunToEnd("update-desktop-database", {data.PathOf("applications")});
+  programs.RunToEnd("xdg-mime", {"default", std::string(DesktopEntry), type.Name()});
+}
+
+}  // namespace
+
+void AssociateFileExtension(Program& program) {
+  const std::string extension = program.settings.FileExtension;
+  const int answer = ShowMessage(program,
+                                 "This operation may break an existing association of file extension " + extension +
+                                     " with other programs on this computer. Proceed?",
+                                 box_style::YesNo);
+  if (answer != box_result::Yes) return;
+  program.platform.windows.SetWaitCursor(true);
+  if (const auto folder = program.platform.userFolders.Data()) Record(program, FileType(extension), *folder);
+  program.platform.windows.SetWaitCursor(false);
+  const std::string outcome = "The " + extension + " file extensions has been associated to " + AppDirectory(program);
+  ShowMessage(program, outcome + std::string(LineEnd) + std::string(LineEnd) +
+                           "Note: if order for this function to be successfully completed the user needs to have "
+                           "access to the registry");
+  AddHistoryLine(program, outcome);
+}
+
+}  // namespace orby

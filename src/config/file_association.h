@@ -1,0 +1,12 @@
+// The project files of the user's desktop: what opens them, and the icon that they bear.
+#pragma once
+
+#include "core/program.h"
+
+namespace orby {
+
+// Asks, and on Yes makes this program the one that the desktop opens files of the configured extension with. What
+// cannot be written or run is left out without a word: the user is told that it is done in any case.
+void AssociateFileExtension(Program& program);
+
+}  // namespace orby

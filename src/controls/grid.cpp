@@ -1,0 +1,65 @@
+#include "controls/grid.h"
+
+#include <algorithm>
+
+namespace orby {
+
+void Grid::SetSize(int rows, int columns, int fixedRows) {
+  rows_ = rows;
+  columns_ = columns;
+  fixedRows_ = fixedRows;
+  row_ = std::min(fixedRows, rows - 1);
+  column_ = std::min(fixedColumns_, columns - 1);
+  cells_.assign(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns), {});
+  Touch();
+}
+
+std::size_t Grid::Index(int row, int column) const {
+  const std::size_t line = CheckedIndex(row, static_cast<std::size_t>(rows_));
+  return line * static_cast<std::size_t>(columns_) + CheckedIndex(column, static_cast<std::size_t>(columns_));
+}
+
+const std::string& Grid::Cell(int row, int column) const { return cells_[Index(row, column)]; }
+
+void Grid::SetCell(int row, int column, std::string text) { Mirror(cells_[Index(row, column)], std::move(text)); }
+
+void Grid::EditCell(int row, int column, std::string text) {
+  std::string& cell = cells_[Index(row, column)];
+  if (cell == text) return;
+  cell = std::move(text);
+  Touch();
+  Fire(Change);
+}
+
+void Grid::AddRow() {
+  ++rows_;
+  cells_.resize(cells_.size() + static_cast<std::size_t>(columns_));
+  if (row_ < fixedRows_) row_ = fixedRows_;
+  Touch();
+}
+
+void Grid::RemoveRow(int row) {
+  const auto first = cells_.begin() + static_cast<std::ptrdiff_t>(Index(row, 0));
+  cells_.erase(first, first + columns_);
+  --rows_;
+  row_ = std::min(row_, rows_ - 1);
+  Touch();
+}
+
+void Grid::SelectCell(int row, int column) {
+  if (row == row_ && column == column_) return;
+  Index(row, column);
+  row_ = row;
+  column_ = column;
+  Touch();
+  Fire(Change);
+}
+
+void Grid::ClickRow(int row) { ClickCell(row, column_); }
+
+void Grid::ClickCell(int row, int column) {
+  SelectCell(row, column);
+  Fire(Click);
+}
+
+}  // namespace orby

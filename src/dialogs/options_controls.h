@@ -1,0 +1,196 @@
+// The controls of the options dialog.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <string_view>
+
+#include "controls/controls.h"
+#include "controls/grid.h"
+
+namespace orby {
+
+// The catalogs of bolts that the dialog edits.
+namespace bolt_catalog {
+inline constexpr std::size_t English = 0;
+inline constexpr std::size_t Metric = 1;
+inline constexpr std::size_t Australian = 2;
+inline constexpr std::size_t Count = 3;
+}  // namespace bolt_catalog
+
+// The lists of a catalog of bolts, in the order of the options that choose one.
+namespace bolt_list {
+inline constexpr std::size_t Grade = 0;
+inline constexpr std::size_t UTS = 1;
+inline constexpr std::size_t Diameter = 2;
+inline constexpr std::size_t Count = 3;
+}  // namespace bolt_list
+
+// The lists of one catalog of bolts and the commands on the list that the options choose.
+struct BoltListControls {
+  struct Names {
+    std::string_view fraBolts;
+    std::string_view caption;
+    std::string_view optBolt;
+    std::array<OptionCaption, bolt_list::Count> options;
+    std::array<std::string_view, bolt_list::Count> lists;  // empty: the catalog has no such list
+    std::string_view txtItem;
+    std::string_view cmdAddBolt;
+    std::string_view cmdDeleteBolt;
+    std::string_view cmdSetDefaultBolt;
+    std::string_view resetCaption;
+  };
+
+  BoltListControls(Form& form, const Names& names)
+      : fraBolts(form, names.fraBolts, names.caption),
+        optBolt(form, names.optBolt, {names.options[0], names.options[1], names.options[2]}),
+        lists{MakeList(form, names.lists[0]), MakeList(form, names.lists[1]), MakeList(form, names.lists[2])},
+        txtItem(form, names.txtItem, TextKind::Number),
+        cmdAddBolt(form, names.cmdAddBolt, "Add"),
+        cmdDeleteBolt(form, names.cmdDeleteBolt, "Delete"),
+        cmdSetDefaultBolt(form, names.cmdSetDefaultBolt, names.resetCaption) {}
+
+  Frame fraBolts;
+  OptionArray optBolt;
+  std::array<std::unique_ptr<List>, bolt_list::Count> lists;  // none where the catalog has no such list
+  TextBox txtItem;
+  Button cmdAddBolt;
+  Button cmdDeleteBolt;
+  Button cmdSetDefaultBolt;
+
+ private:
+  static std::unique_ptr<List> MakeList(Form& form, std::string_view name) {
+    return name.empty() ? nullptr : std::make_unique<List>(form, name, ListKind::Choices);
+  }
+};
+
+// What exists once for each unit system is an array: English, Metric.
+class OptionsControls : public Form {
+ public:
+  using Names = std::array<std::string_view, 2>;
+  using Labels = std::array<Label, 2>;
+  using Numbers = std::array<TextBox, 2>;
+  using Buttons = std::array<Button, 2>;
+
+  OptionsControls() : Form("frmTULKOpts", "Options") {}
+
+  TabSet SSTab1{*this,
+                "SSTab1",
+                {"Edit / Print Options", "Default Parameters (English)", "Default Parameters (Metric)",
+                 "Default Parameters (Standing Supports)"}};
+
+  // Edit / Print Options
+  CheckBox Check1{*this, "Check1", "Load the input form on file open / file new"};
+  CheckBox Check2{*this, "Check2", "View project file in child window"};
+  CheckBox Check3{*this, "Check3", "Print module version information"};
+  CheckBox chkOffice{*this, "chkOffice", "Do not ask if Microsoft Office is installed"};
+  Frame fraStrength{*this, "fraStrength", "Default Setting for Steel Strength"};
+  OptionArray optStrength{*this, "optStrength", {{"Yield Strength (US)"}, {"Ultimate Strength (AUS)"}}};
+  Button cmdFileAssoc{*this, "cmdFileAssoc", "Create File Association"};
+
+  // Default Parameters (English) and (Metric)
+  Labels lblCMRR = Captions({"lblCMRR_0", "lblCMRR_1"}, "Coal Mine Roof Rating");
+  Numbers txtCMRR = Fields({"txtCMRR_0", "txtCMRR_1"});
+  Labels lblDepthofCover = Captions({"lblDepthofCover_0", "lblDepthofCover_1"}, "Depth of Cover");
+  Numbers txtDepthofCover = Fields({"txtDepthofCover_0", "txtDepthofCover_1"});
+  Labels lblUnitWeight = Captions({"lblUnitWeight_0", "lblUnitWeight_1"}, "Unit Weight");
+  Numbers txtUnitWeight = Fields({"txtUnitWeight_0", "txtUnitWeight_1"});
+  Labels lblActualSpan = Captions({"lblActualSpan_0", "lblActualSpan_1"}, "Actual Intersection Sum of Diagonals");
+  Numbers txtActualSpan = Fields({"txtActualSpan_0", "txtActualSpan_1"});
+  Labels lblEntryWidth = Captions({"lblEntryWidth_0", "lblEntryWidth_1"}, "Entry Width");
+  Numbers txtEntryWidth = Fields({"txtEntryWidth_0", "txtEntryWidth_1"});
+  Labels lblStabilityFactor = Captions({"lblStabilityFactor_0", "lblStabilityFactor_1"}, "Stability Factor");
+  Numbers txtStabilityFactor = Fields({"txtStabilityFactor_0", "txtStabilityFactor_1"});
+  Labels lblActualBoltLength = Captions({"lblActualBoltLength_0", "lblActualBoltLength_1"}, "Actual Bolt Length");
+  Numbers txtActualBoltLength = Fields({"txtActualBoltLength_0", "txtActualBoltLength_1"});
+  Labels lblBoltDiameter = Captions({"lblBoltDiameter_0", "lblBoltDiameter_1"}, "Bolt Diameter");
+  Numbers txtBoltDiameter = Fields({"txtBoltDiameter_0", "txtBoltDiameter_1"});
+  Labels lblBoltGrade = Captions({"lblBoltGrade_0", "lblBoltGrade_1"}, "Bolt Grade");
+  Numbers txtBoltGrade = Fields({"txtBoltGrade_0", "txtBoltGrade_1"});
+  Labels lblBoltUTS = Captions({"lblBoltUTS_0", "lblBoltUTS_1"}, "Bolt UTS");
+  Numbers txtBoltUTS = Fields({"txtBoltUTS_0", "txtBoltUTS_1"});
+  Labels lblBoltsperRow = Captions({"lblBoltsperRow_0", "lblBoltsperRow_1"}, "Number of Bolts per Row");
+  Numbers txtBoltsperRow = Fields({"txtBoltsperRow_0", "txtBoltsperRow_1"});
+  Labels lblRowSpacing = Captions({"lblRowSpacing_0", "lblRowSpacing_1"}, "Row Spacing");
+  Numbers txtRowSpacing = Fields({"txtRowSpacing_0", "txtRowSpacing_1"});
+  std::array<BoltListControls, bolt_catalog::Count> bolts{
+      BoltListControls{*this,
+                       {"fraBolts_0",
+                        "Bolt grade and UTS (ksi) and diameter (in) specifications",
+                        "optBoltEng",
+                        {{{GradeOption}, {UTSOption}, {DiameterOption}}},
+                        {"lstBoltGrade_0", "lstBoltUTS_0", "lstBoltDiam_0"},
+                        "txtItem_0",
+                        "cmdAddBolt_0",
+                        "cmdDeleteBolt_0",
+                        "cmdSetDefaultBolt_0",
+                        ResetUS}},
+      BoltListControls{*this,
+                       {"fraBolts_1",
+                        "Bolt grade and UTS (MPa) and diameter (mm) specifications",
+                        "optBoltMet",
+                        {{{GradeOption}, {UTSOption}, {DiameterOption}}},
+                        {"lstBoltGrade_1", "lstBoltUTS_1", "lstBoltDiam_1"},
+                        "txtItem_1",
+                        "cmdAddBolt_1",
+                        "cmdDeleteBolt_1",
+                        "cmdSetDefaultBolt_1",
+                        ResetUS}},
+      BoltListControls{*this,
+                       {"fraBolts_2",
+                        "Bolt UTS and Diameter (AUS)",
+                        "optBoltMetAUS",
+                        {{{""}, {UTSOption}, {"Bolt Dia"}}},
+                        {"", "lstBoltUTS_2", "lstBoltDiam_2"},
+                        "txtItem_2",
+                        "cmdAddBolt_2",
+                        "cmdDeleteBolt_2",
+                        "cmdSetDefaultBolt_2",
+                        "Reset Default (AUS)"}},
+  };
+  std::array<Frame, 2> fraCables{
+      Frame{*this, "fraCables_0", "Cable bolt capacity (tons) and diameter (in) specifications"},
+      Frame{*this, "fraCables_1", "Cable bolt capacity (kN) and diameter (mm) specifications"}};
+  Grid VSFlexGridEng{*this, "VSFlexGridEng"};
+  TextBox txtCableEng{*this, "txtCableEng", TextKind::Number};
+  Grid VSFlexGridMet{*this, "VSFlexGridMet"};
+  TextBox txtCableMet{*this, "txtCableMet", TextKind::Number};
+  Buttons cmdAddCable = Commands({"cmdAddCable_0", "cmdAddCable_1"}, AddRow);
+  Buttons cmdDeleteCable = Commands({"cmdDeleteCable_0", "cmdDeleteCable_1"}, DeleteRow);
+  Buttons cmdSetDefaultCable = Commands({"cmdSetDefaultCable_0", "cmdSetDefaultCable_1"}, ResetDefault);
+
+  // Default Parameters (Standing Supports)
+  Frame fraStand{*this, "fraStand", "Standing Support Specifications"};
+  Grid VSFlexGridStand{*this, "VSFlexGridStand"};
+  TextBox txtStand{*this, "txtStand"};
+  Button cmdAddStandSupport{*this, "cmdAddStandSupport", AddRow};
+  Button cmdDeleteRow{*this, "cmdDeleteRow", DeleteRow};
+  Button cmdSetDefaultStandSupport{*this, "cmdSetDefaultStandSupport", ResetDefault};
+
+  // commands
+  Button cmdOK{*this, "cmdOK", "OK"};
+  Button cmdCancel{*this, "cmdCancel", "Cancel"};
+  Button cmdHelp{*this, "cmdHelp", "Help"};
+
+ private:
+  static constexpr std::string_view GradeOption = "Bolt Grade";
+  static constexpr std::string_view UTSOption = "Bolt UTS";
+  static constexpr std::string_view DiameterOption = "Bolt Diameter";
+  static constexpr std::string_view ResetUS = "Reset Default (US)";
+  static constexpr std::string_view AddRow = "Add Row";
+  static constexpr std::string_view DeleteRow = "Delete Row";
+  static constexpr std::string_view ResetDefault = "Reset Default";
+
+  Labels Captions(const Names& names, std::string_view caption) {
+    return {Label{*this, names[0], caption}, Label{*this, names[1], caption}};
+  }
+  Numbers Fields(const Names& names) {
+    return {TextBox{*this, names[0], TextKind::Number}, TextBox{*this, names[1], TextKind::Number}};
+  }
+  Buttons Commands(const Names& names, std::string_view caption) {
+    return {Button{*this, names[0], caption}, Button{*this, names[1], caption}};
+  }
+};
+
+}  // namespace orby

@@ -1,0 +1,165 @@
+// The grids of cables and of standing supports in the options dialog.
+#include <cmath>
+#include <string>
+
+#include "base/arithmetic.h"
+#include "base/number_text.h"
+#include "catalogs/catalogs.h"
+#include "dialogs/options_dialog.h"
+
+namespace orby {
+namespace {
+
+// The columns of the grids, behind the number of the row.
+constexpr int CableDiameter = 0;
+constexpr int CableCapacity = 1;
+constexpr int SupportName = 0;
+constexpr int SupportCapacity = 1;
+
+struct CableCatalog {
+  OverlayEditing::Texts Headers;
+  CatalogList Catalogs::*Diameters;
+  CatalogList Catalogs::*Capacities;
+  CatalogList Catalogs::*Strengths;
+  void (*SetBuiltIn)(Catalogs& catalogs);
+
+  std::array<CatalogList Catalogs::*, 3> Lists() const { return {Diameters, Capacities, Strengths}; }
+};
+
+// English, Metric.
+const CableCatalog& CableCatalogOf(std::size_t units) {
+  static const std::array<CableCatalog, 2> table{{
+      {{"(in)", "(tons)"},
+       &Catalogs::DefaultCableDiamArrayENG,
+       &Catalogs::DefaultCableCapArrayENG,
+       &Catalogs::DefaultCableUTSArrayENG,
+       SetDefaultCablesENG},
+      {{"(mm)", "(kN)"},
+       &Catalogs::DefaultCableDiamArrayMET,
+       &Catalogs::DefaultCableCapArrayMET,
+       &Catalogs::DefaultCableUTSArrayMET,
+       SetDefaultCablesMET},
+  }};
+  return table[units];
+}
+
+Single NumberAt(const OverlayEditing& grid, int entry, int column) {
+  return ToSingle(TextValue(grid.Text(entry, column)));
+}
+
+Integer HighestIndexOf(const OverlayEditing& grid) { return ToInteger(grid.Entries() - 1); }
+
+// A capacity in tons and kN, the latter in whole kN as in the built-in catalog.
+std::array<Single, 2> BothCapacities(Single capacity, Integer units) {
+  if (units == Metric) return {ToSingle(capacity / KilonewtonsPerTon), capacity};
+  return {capacity, ToSingle(std::floor(capacity * KilonewtonsPerTon))};
+}
+
+}  // namespace
+
+// ---- cables --------------------------------------------------------------------------------------------------------
+
+void OptionsDialog::TieCables(std::size_t units) {
+  cmdAddCable[units].Click = [this, units] {
+    cables_[units].AddEntry();
+    ResizeCables(units);
+  };
+  cmdDeleteCable[units].Click = [this, units] {
+    cables_[units].RemoveEntry();
+    ResizeCables(units);
+  };
+  cmdSetDefaultCable[units].Click = [this, units] {
+    CableCatalogOf(units).SetBuiltIn(program_.catalogs);
+    FillCables(units);
+  };
+}
+
+void OptionsDialog::FillCables(std::size_t units) {
+  const CableCatalog& catalog = CableCatalogOf(units);
+  const CatalogList& diameters = program_.catalogs.*catalog.Diameters;
+  const CatalogList& capacities = program_.catalogs.*catalog.Capacities;
+  std::vector<OverlayEditing::Texts> entries;
+  for (std::size_t i = 0; i < capacities.Count(); ++i) {
+    entries.push_back({NumberText(diameters[i]), NumberText(capacities[i])});
+  }
+  cables_[units].Fill(catalog.Headers, entries);
+}
+
+void OptionsDialog::ResizeCables(std::size_t units) {
+  for (const auto list : CableCatalogOf(units).Lists()) {
+    CatalogList& values = program_.catalogs.*list;
+    values.HighestIndex = HighestIndexOf(cables_[units]);
+    values.Values.resize(values.Count());
+  }
+}
+
+// A cable is as strong as its capacity says.
+void OptionsDialog::StoreCables(Catalogs& catalogs) const {
+  for (std::size_t units = 0; units < cables_.size(); ++units) {
+    const OverlayEditing& grid = cables_[units];
+    const CableCatalog& catalog = CableCatalogOf(units);
+    for (int entry = 0; entry < grid.Entries(); ++entry) {
+      const auto index = static_cast<std::size_t>(entry);
+      (catalogs.*catalog.Diameters).Set(index, NumberAt(grid, entry, CableDiameter));
+      (catalogs.*catalog.Capacities).Set(index, NumberAt(grid, entry, CableCapacity));
+      (catalogs.*catalog.Strengths).Set(index, NumberAt(grid, entry, CableCapacity));
+    }
+  }
+}
+
+// ---- standing supports ---------------------------------------------------------------------------------------------
+
+void OptionsDialog::TieStands() {
+  cmdAddStandSupport.Click = [this] {
+    stands_.AddEntry();
+    standCapacities_.push_back({});
+    ResizeStands();
+  };
+  cmdDeleteRow.Click = [this] {
+    const int removed = stands_.RemoveEntry();
+    if (removed >= 0) standCapacities_.erase(standCapacities_.begin() + removed);
+    ResizeStands();
+  };
+  cmdSetDefaultStandSupport.Click = [this] {
+    SetDefaultStandSupportNames(program_.catalogs);
+    SetDefaultStandSupportCapsENG(program_.catalogs);
+    SetDefaultStandSupportCapsMET(program_.catalogs);
+    FillStands();
+  };
+}
+
+// Capacities are shown in the units of the project.
+void OptionsDialog::FillStands() {
+  const StandingSupports& supports = program_.catalogs.StandSupports;
+  const auto count = static_cast<std::ptrdiff_t>(supports.HighestIndex) + 1;
+  standCapacities_.assign(supports.DefaultStandSupportCap.begin(), supports.DefaultStandSupportCap.begin() + count);
+  std::vector<OverlayEditing::Texts> entries;
+  for (std::size_t i = 0; i < standCapacities_.size(); ++i) {
+    entries.push_back({supports.DefaultStandSupportType[i], NumberText(StandSupportCap(program_, i))});
+  }
+  stands_.Fill({"Support Type", "Capacity" + std::string(UnitLabel(unit_row::Force, program_.Units))}, entries);
+}
+
+void OptionsDialog::ResizeStands() {
+  StandingSupports& supports = program_.catalogs.StandSupports;
+  supports.HighestIndex = HighestIndexOf(stands_);
+  const auto count = static_cast<std::size_t>(stands_.Entries());
+  supports.DefaultStandSupportType.resize(count);
+  supports.DefaultStandSupportCap.resize(count);
+}
+
+// A capacity that has been changed counts in both unit systems, the others keep the pair that they came with.
+void OptionsDialog::StoreStands(Catalogs& catalogs) const {
+  StandingSupports& supports = catalogs.StandSupports;
+  const Integer units = program_.Units;
+  for (int entry = 0; entry < stands_.Entries(); ++entry) {
+    const auto index = static_cast<std::size_t>(entry);
+    const auto& before = standCapacities_[index];
+    const Single capacity = NumberAt(stands_, entry, SupportCapacity);
+    const bool isKept = NumberText(capacity) == NumberText(before[static_cast<std::size_t>(units)]);
+    supports.DefaultStandSupportType[index] = stands_.Text(entry, SupportName);
+    supports.DefaultStandSupportCap[index] = isKept ? before : BothCapacities(capacity, units);
+  }
+}
+
+}  // namespace orby

@@ -1,0 +1,135 @@
+// The lists of bolts in the options dialog.
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+#include "base/arithmetic.h"
+#include "base/number_text.h"
+#include "base/text.h"
+#include "catalogs/catalogs.h"
+#include "core/dialog_helpers.h"
+#include "core/messages.h"
+#include "dialogs/options_dialog.h"
+
+namespace orby {
+namespace {
+
+struct BoltCatalog {
+  std::array<CatalogList Catalogs::*, bolt_list::Count> Lists;  // none where the catalog has no such list
+  void (*SetBuiltIn)(Catalogs& catalogs);
+};
+
+constexpr std::array<BoltCatalog, bolt_catalog::Count> BoltCatalogs{{
+    {{&Catalogs::DefaultBoltGradeArrayENG, &Catalogs::DefaultBoltUTSArrayENG, &Catalogs::DefaultBoltDiamArrayENG},
+     SetDefaultBoltsENG},
+    {{&Catalogs::DefaultBoltGradeArrayMET, &Catalogs::DefaultBoltUTSArrayMET, &Catalogs::DefaultBoltDiamArrayMET},
+     SetDefaultBoltsMET},
+    // These two hold each other's contents.
+    {{nullptr, &Catalogs::DefaultBoltDiamArrayMETAUS, &Catalogs::DefaultBoltUTSArrayMETAUS}, SetDefaultBoltsMET},
+}};
+
+// What the messages call the lists, inside a sentence and at its beginning.
+struct ListName {
+  std::string_view Inside;
+  std::string_view First;
+};
+
+constexpr std::array<ListName, bolt_list::Count> ListNames{
+    {{"grade", "Grade"}, {"UTS", "UTS"}, {"diameter", "Diameter"}}};
+
+std::size_t ChosenList(const BoltListControls& controls) {
+  return static_cast<std::size_t>(GetArrayIndex(controls.optBolt));
+}
+
+// Why the text cannot join the list; empty when it can. A full list says so even to what it holds already.
+std::string Objection(const BoltListControls& controls, std::size_t list) {
+  const std::string& text = controls.txtItem.Text();
+  const auto& items = controls.lists[list]->Items();
+  if (Trim(text).empty()) return "Please enter a value in the text box above.";
+  if (items.size() >= BoltListCapacity) {
+    return "Maximum " + std::string(ListNames[list].Inside) + " entries have been reached. Please delete a value first";
+  }
+  if (std::ranges::find(items, text, &ComboItem::text) != items.end()) {
+    return std::string(ListNames[list].First) + " entry exists. New value not added";
+  }
+  return {};
+}
+
+}  // namespace
+
+void OptionsDialog::TieBolts(std::size_t catalog) {
+  BoltListControls& controls = bolts[catalog];
+  controls.cmdAddBolt.Click = [this, catalog] { AddBolt(catalog); };
+  controls.cmdDeleteBolt.Click = [this, catalog] { DeleteBolt(catalog); };
+  controls.cmdSetDefaultBolt.Click = [this, catalog] { ResetBolts(catalog); };
+}
+
+void OptionsDialog::FillBolts(std::size_t catalog) {
+  for (std::size_t list = 0; list < bolt_list::Count; ++list) {
+    if (!bolts[catalog].lists[list]) continue;
+    const CatalogList& values = program_.catalogs.*BoltCatalogs[catalog].Lists[list];
+    std::vector<ComboItem> items;
+    for (std::size_t entry = 0; entry < values.Count(); ++entry) items.push_back({NumberText(values[entry])});
+    bolts[catalog].lists[list]->Fill(std::move(items));
+  }
+}
+
+void OptionsDialog::ChooseFirstBolts(std::size_t catalog) {
+  BoltListControls& controls = bolts[catalog];
+  SetArrayIndex(program_, controls.optBolt, controls.lists[bolt_list::Grade] ? bolt_list::Grade : bolt_list::UTS);
+}
+
+void OptionsDialog::AddBolt(std::size_t catalog) {
+  BoltListControls& controls = bolts[catalog];
+  const std::size_t chosen = ChosenList(controls);
+  if (const std::string objection = Objection(controls, chosen); !objection.empty()) {
+    ShowMessage(program_, objection);
+    return;
+  }
+  List& list = *controls.lists[chosen];
+  std::vector<ComboItem> items = list.Items();
+  items.push_back({controls.txtItem.Text()});
+  list.Fill(std::move(items));
+  list.ClickItem(static_cast<int>(list.Items().size()) - 1);
+}
+
+// The selection stays at its place, or goes to the last entry.
+void OptionsDialog::DeleteBolt(std::size_t catalog) {
+  BoltListControls& controls = bolts[catalog];
+  const std::size_t chosen = ChosenList(controls);
+  List& list = *controls.lists[chosen];
+  if (list.ListIndex() == Combo::Nothing) {
+    ShowMessage(program_, "Please select a " + std::string(ListNames[chosen].Inside) + " value to delete");
+    return;
+  }
+  std::vector<ComboItem> items = list.Items();
+  items.erase(items.begin() + list.ListIndex());
+  list.Fill(std::move(items));
+  if (list.ListIndex() == Combo::Nothing && !list.Items().empty()) {
+    list.ClickItem(static_cast<int>(list.Items().size()) - 1);
+  }
+}
+
+// The built-in values of the other catalogs that come with these stay out of it.
+void OptionsDialog::ResetBolts(std::size_t catalog) {
+  Catalogs builtIn = program_.catalogs;
+  BoltCatalogs[catalog].SetBuiltIn(builtIn);
+  for (const auto list : BoltCatalogs[catalog].Lists) {
+    if (list != nullptr) program_.catalogs.*list = builtIn.*list;
+  }
+  FillBolts(catalog);
+}
+
+void OptionsDialog::StoreBolts(Catalogs& catalogs) const {
+  for (std::size_t catalog = 0; catalog < bolts.size(); ++catalog) {
+    for (std::size_t list = 0; list < bolt_list::Count; ++list) {
+      if (!bolts[catalog].lists[list]) continue;
+      const auto& items = bolts[catalog].lists[list]->Items();
+      CatalogList& values = catalogs.*BoltCatalogs[catalog].Lists[list];
+      for (std::size_t i = 0; i < items.size(); ++i) values.Set(i, ToSingle(TextValue(items[i].text)));
+      values.HighestIndex = static_cast<Integer>(static_cast<int>(items.size()) - 1);
+    }
+  }
+}
+
+}  // namespace orby

@@ -1,0 +1,57 @@
+#include "engine/unit_calculator.h"
+
+#include <array>
+#include <span>
+
+#include "base/arithmetic.h"
+
+namespace orby {
+namespace {
+
+enum class Step { Multiply, Divide };
+
+// How a unit is reached from one that stands before it in its group.
+struct UnitRow {
+  std::size_t from;
+  Step step;
+  double factor;
+};
+
+// The first unit of a group is reached from nothing.
+constexpr UnitRow First{0, Step::Multiply, 1};
+
+constexpr std::array Length{First, UnitRow{0, Step::Divide, 12}, UnitRow{0, Step::Multiply, 2.54},
+                            UnitRow{2, Step::Divide, 100}};
+constexpr std::array Load{First, UnitRow{0, Step::Divide, 2000}, UnitRow{0, Step::Multiply, 0.004448220489393218},
+                          UnitRow{2, Step::Divide, 1000}, UnitRow{0, Step::Divide, 1000}};
+constexpr std::array LoadGradient{First, UnitRow{0, Step::Divide, 0.08333333333333333},
+                                  UnitRow{1, Step::Multiply, 0.014593899243416069}, UnitRow{2, Step::Divide, 1000}};
+constexpr std::array Stress{First, UnitRow{0, Step::Divide, 1000}, UnitRow{0, Step::Divide, 0.006944444444444444},
+                            UnitRow{0, Step::Multiply, 6894.757293}, UnitRow{3, Step::Divide, 1000000}};
+constexpr std::array StressGradient{First, UnitRow{0, Step::Divide, 0.08333333333333333},
+                                    UnitRow{0, Step::Multiply, 271447.137519685}, UnitRow{2, Step::Divide, 1000000}};
+
+// By UnitGroup.
+constexpr std::array<std::span<const UnitRow>, 5> Groups{Length, Load, LoadGradient, Stress, StressGradient};
+
+double Reach(const UnitRow& row, double value) {
+  return row.step == Step::Multiply ? Multiply(value, row.factor) : Divide(value, row.factor);
+}
+
+double GoBack(const UnitRow& row, double value) {
+  return row.step == Step::Multiply ? Divide(value, row.factor) : Multiply(value, row.factor);
+}
+
+}  // namespace
+
+std::vector<double> ConvertUnits(UnitGroup group, double value, std::size_t unit) {
+  const auto rows = Groups[static_cast<std::size_t>(group)];
+  double first = value;
+  for (std::size_t at = unit; at != 0; at = rows[at].from) first = GoBack(rows[at], first);
+  std::vector<double> results{first};
+  for (std::size_t i = 1; i < rows.size(); ++i) results.push_back(Reach(rows[i], results[rows[i].from]));
+  results[unit] = value;
+  return results;
+}
+
+}  // namespace orby

@@ -1,0 +1,198 @@
+// Grids, and the editing of their cells.
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QTableWidget>
+#include <algorithm>
+
+#include "qt/bindings.h"
+#include "qt/texts.h"
+
+namespace orby {
+namespace {
+
+// The models measure columns in twentieths of a point.
+constexpr int TwipsPerInch = 1440;
+
+// The column with the names takes the room that the numbers leave.
+constexpr int NameColumn = 1;
+
+// The text box that lies over the selected cell. It has the keyboard in place of the grid: Enter, Up and Down go to
+// another row, Tab to the next cell and out of the grid behind the last one, and Escape gives the cell its old text
+// back.
+class CellEditor : public QObject {
+ public:
+  CellEditor(BindingHost& host, Grid& grid, QTableWidget& widget)
+      : host_(host),
+        grid_(grid),
+        widget_(widget),
+        edit_(FindNamed<QLineEdit>(host, std::string(grid.Overlay()->Name()))) {
+    widget_.setFocusPolicy(Qt::NoFocus);
+    widget_.setSelectionBehavior(QAbstractItemView::SelectItems);
+    edit_.setParent(widget_.viewport());
+    edit_.installEventFilter(this);
+    widget_.viewport()->installEventFilter(this);
+    // The columns find their widths one by one.
+    const auto placeLater = [this] { PlaceLater(); };
+    for (const QHeaderView* header : {widget_.horizontalHeader(), widget_.verticalHeader()}) {
+      connect(header, &QHeaderView::sectionResized, this, placeLater);
+    }
+    for (const QScrollBar* bar : {widget_.horizontalScrollBar(), widget_.verticalScrollBar()}) {
+      connect(bar, &QScrollBar::valueChanged, this, [this] { Place(); });
+    }
+  }
+
+  // Lies exactly over the selected cell, wherever that is now.
+  void Place() {
+    const QModelIndex cell = Cell();
+    if (!cell.isValid()) return;
+    // A field of its own shows more than a narrow column does.
+    edit_.setMinimumWidth(0);
+    edit_.setGeometry(widget_.visualRect(cell));
+    edit_.setAccessibleName(ToQt(grid_.Cell(0, grid_.Column()) + " " + grid_.Cell(grid_.Row(), 0)));
+  }
+
+  void TakeKeyboard() {
+    edit_.setFocus(Qt::OtherFocusReason);
+    edit_.selectAll();
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == &edit_ && event->type() == QEvent::KeyPress) return Take(dynamic_cast<QKeyEvent*>(event)->key());
+    if (watched == &edit_ && event->type() == QEvent::FocusIn) widget_.scrollTo(Cell());
+    if (watched != &edit_ && event->type() == QEvent::Resize) PlaceLater();
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  void PlaceLater() { QMetaObject::invokeMethod(this, &CellEditor::Place, Qt::QueuedConnection); }
+
+  QModelIndex Cell() const { return widget_.model()->index(grid_.Row() - grid_.FixedRows(), grid_.Column()); }
+
+  // Whether the key is one of the grid's.
+  bool Take(int key) {
+    switch (key) {
+      case Qt::Key_Return:
+      case Qt::Key_Enter:
+      case Qt::Key_Down: Go(grid_.Row() + 1, grid_.Column()); return true;
+      case Qt::Key_Up: Go(grid_.Row() - 1, grid_.Column()); return true;
+      case Qt::Key_Tab: return GoOn();
+      case Qt::Key_Backtab: return GoBack();
+      case Qt::Key_Escape: return Restore();
+      default: return false;
+    }
+  }
+
+  bool GoOn() {
+    if (grid_.Column() + 1 < grid_.Columns()) return Go(grid_.Row(), grid_.Column() + 1);
+    return Go(grid_.Row() + 1, grid_.FixedColumns());
+  }
+
+  bool GoBack() {
+    if (grid_.Column() > grid_.FixedColumns()) return Go(grid_.Row(), grid_.Column() - 1);
+    return Go(grid_.Row() - 1, grid_.Columns() - 1);
+  }
+
+  // Whether there is such a row.
+  bool Go(int row, int column) {
+    if (row < grid_.FixedRows() || row >= grid_.Rows()) return false;
+    host_.Act([this, row, column] { grid_.SelectCell(row, column); });
+    widget_.scrollTo(Cell());
+    edit_.selectAll();
+    return true;
+  }
+
+  // Whether there was anything to take back.
+  bool Restore() {
+    const std::string before = grid_.Cell(grid_.Row(), grid_.Column());
+    if (grid_.Overlay()->Text() == before) return false;
+    host_.Act([this, &before] { grid_.Overlay()->SetText(before); });
+    edit_.selectAll();
+    return true;
+  }
+
+  BindingHost& host_;
+  Grid& grid_;
+  QTableWidget& widget_;
+  QLineEdit& edit_;
+};
+
+class GridBinding : public Binding {
+ public:
+  GridBinding(BindingHost& host, Grid& grid)
+      : host_(host), grid_(grid), widget_(FindNamed<QTableWidget>(host, std::string(grid.Name()))) {
+    widget_.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    widget_.setSelectionBehavior(QAbstractItemView::SelectRows);
+    widget_.setSelectionMode(QAbstractItemView::SingleSelection);
+    widget_.setTabKeyNavigation(false);
+    widget_.verticalHeader()->hide();
+    widget_.verticalHeader()->setDefaultSectionSize(widget_.fontMetrics().height() * 3 / 2);
+    widget_.horizontalHeader()->setHighlightSections(false);
+    if (grid.Overlay() != nullptr) editor_ = std::make_unique<CellEditor>(host, grid, widget_);
+    QObject::connect(&widget_, &QTableWidget::currentCellChanged, &widget_, [this](int row, int column, int, int) {
+      if (row >= 0) Select(row, column);
+    });
+    QObject::connect(&widget_, &QTableWidget::cellClicked, &widget_, [this](int row, int column) {
+      host_.Act([this, row, column] { grid_.ClickCell(row + grid_.FixedRows(), ColumnToSelect(column)); });
+      if (editor_) editor_->TakeKeyboard();
+    });
+  }
+
+  void Show() override {
+    const QSignalBlocker quiet(widget_);
+    ShowState(widget_, grid_);
+    const int rows = grid_.Rows() - grid_.FixedRows();
+    widget_.setRowCount(rows);
+    widget_.setColumnCount(grid_.Columns());
+    widget_.horizontalHeader()->setVisible(grid_.FixedRows() > 0);
+    if (grid_.Columns() > 1) widget_.horizontalHeader()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
+    for (int column = 0; column < grid_.Columns(); ++column) ShowColumn(column, rows);
+    const int row = grid_.Row() - grid_.FixedRows();
+    const int column = editor_ ? grid_.Column() : 0;
+    if (row != widget_.currentRow() || (editor_ && column != widget_.currentColumn())) {
+      widget_.setCurrentCell(row, column);
+    }
+    if (editor_) editor_->Place();
+  }
+  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
+
+ private:
+  // A grid of rows keeps its column.
+  int ColumnToSelect(int column) const { return editor_ ? std::max(column, grid_.FixedColumns()) : grid_.Column(); }
+
+  void Select(int row, int column) {
+    host_.Act([this, row, column] { grid_.SelectCell(row + grid_.FixedRows(), ColumnToSelect(column)); });
+  }
+
+  void ShowColumn(int column, int rows) {
+    if (grid_.FixedRows() > 0) {
+      widget_.setHorizontalHeaderItem(column, new QTableWidgetItem(ToQt(grid_.Cell(0, column))));
+    }
+    for (int row = 0; row < rows; ++row) {
+      const QString text = ToQt(grid_.Cell(row + grid_.FixedRows(), column));
+      if (QTableWidgetItem* item = widget_.item(row, column)) {
+        item->setText(text);
+      } else {
+        widget_.setItem(row, column, new QTableWidgetItem(text));
+      }
+    }
+    const auto& widths = grid_.ColumnWidths();
+    const auto index = static_cast<std::size_t>(column);
+    const int wanted = index < widths.size() ? widths[index] * widget_.logicalDpiX() / TwipsPerInch : 0;
+    widget_.resizeColumnToContents(column);
+    widget_.setColumnWidth(column, std::max(wanted, widget_.columnWidth(column)));
+  }
+
+  BindingHost& host_;
+  Grid& grid_;
+  QTableWidget& widget_;
+  std::unique_ptr<CellEditor> editor_;  // none where the cells are only shown
+};
+
+}  // namespace
+
+BindingPointer BindGrid(BindingHost& host, Grid& grid) { return std::make_unique<GridBinding>(host, grid); }
+
+}  // namespace orby

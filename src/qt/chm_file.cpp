@@ -1,0 +1,106 @@
+#include "qt/chm_file.h"
+
+#include <chm_lib.h>
+
+#include <QFile>
+#include <array>
+
+#include "qt/texts.h"
+
+namespace orby {
+namespace {
+
+constexpr std::array<std::uint32_t, 256> MakeCheckTable() {
+  constexpr std::uint32_t Polynomial = 0xEDB88320U;
+  std::array<std::uint32_t, 256> table{};
+  for (std::uint32_t i = 0; i < table.size(); ++i) {
+    std::uint32_t value = i;
+    for (int bit = 0; bit < 8; ++bit) value = (value >> 1U) ^ ((value & 1U) != 0 ? Polynomial : 0U);
+    table[i] = value;
+  }
+  return table;
+}
+
+constexpr auto CheckTable = MakeCheckTable();
+
+// Where the header of a help file holds the date that we use for the check sum, low byte first.
+constexpr qsizetype CheckPlace = 16;
+constexpr qsizetype CheckWidth = 4;
+constexpr qsizetype HeaderWidth = 96;
+constexpr qsizetype PieceWidth = 1 << 16;
+
+std::string_view View(const QByteArray& bytes) { return {bytes.constData(), static_cast<std::size_t>(bytes.size())}; }
+
+std::uint32_t StoredSum(const QByteArray& header) {
+  std::uint32_t sum = 0;
+  for (qsizetype i = CheckWidth - 1; i >= 0; --i) sum = (sum << 8U) | static_cast<std::uint8_t>(header[CheckPlace + i]);
+  return sum;
+}
+
+// The sum is that of the file with zeros in its own place.
+bool IsWhole(const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return false;
+  QByteArray piece = file.read(HeaderWidth);
+  if (piece.size() < HeaderWidth || !piece.startsWith("ITSF")) return false;
+  const std::uint32_t stored = StoredSum(piece);
+  piece.replace(CheckPlace, CheckWidth, QByteArray(CheckWidth, '\0'));
+  std::uint32_t sum = 0;
+  for (; !piece.isEmpty(); piece = file.read(PieceWidth)) sum = CheckSum(View(piece), sum);
+  return sum == stored;
+}
+
+// Where a file inside lies.
+std::optional<chmUnitInfo> Located(chmFile& file, const std::string& name) {
+  const std::string path = "/" + name;
+  chmUnitInfo unit{};
+  const bool isFile = !name.empty() && name.back() != '/' && path.size() <= CHM_MAX_PATHLEN;
+  if (!isFile) return std::nullopt;
+  if (chm_resolve_object(&file, path.c_str(), &unit) != CHM_RESOLVE_SUCCESS) return std::nullopt;
+  return unit;
+}
+
+int NoteName(chmFile*, chmUnitInfo* unit, void* names) {
+  // The names of the builder's own begin with a sign.
+  const std::string_view name(unit->path);
+  const bool isOurs = name.size() > 1 && name[1] != '#' && name[1] != '$' && name[1] != '_';
+  if (isOurs) static_cast<std::vector<std::string>*>(names)->emplace_back(name.substr(1));
+  return CHM_ENUMERATOR_CONTINUE;
+}
+
+}  // namespace
+
+std::uint32_t CheckSum(std::string_view bytes, std::uint32_t before) {
+  std::uint32_t sum = ~before;
+  for (const char byte : bytes) sum = (sum >> 8U) ^ CheckTable[(sum ^ static_cast<std::uint8_t>(byte)) & 0xFFU];
+  return ~sum;
+}
+
+void ChmFile::Closer::operator()(chmFile* file) const { chm_close(file); }
+
+std::unique_ptr<ChmFile> ChmFile::Open(const std::string& path) {
+  if (!IsWhole(ToQt(path))) return nullptr;
+  chmFile* file = chm_open(path.c_str());
+  return file == nullptr ? nullptr : std::unique_ptr<ChmFile>(new ChmFile(file));
+}
+
+std::optional<std::string> ChmFile::Read(const std::string& name) const {
+  std::optional<chmUnitInfo> unit = Located(*file_, name);
+  if (!unit || unit->length > MostBytes) return std::nullopt;
+  std::string bytes(static_cast<std::size_t>(unit->length), '\0');
+  if (bytes.empty()) return bytes;
+  auto* target = reinterpret_cast<unsigned char*>(bytes.data());
+  const auto length = static_cast<LONGINT64>(unit->length);
+  if (chm_retrieve_object(file_.get(), &*unit, target, 0, length) != length) return std::nullopt;
+  return bytes;
+}
+
+bool ChmFile::Has(const std::string& name) const { return Located(*file_, name).has_value(); }
+
+std::vector<std::string> ChmFile::Names() const {
+  std::vector<std::string> names;
+  chm_enumerate(file_.get(), CHM_ENUMERATE_NORMAL | CHM_ENUMERATE_FILES, NoteName, &names);
+  return names;
+}
+
+}  // namespace orby

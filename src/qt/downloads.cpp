@@ -1,0 +1,53 @@
+#include "qt/downloads.h"
+
+#include <QNetworkAccessManager>
+#include <QNetworkProxyFactory>
+#include <utility>
+
+#include "qt/transfer.h"
+
+namespace orby {
+namespace {
+
+// The desktop's own proxies, but for this machine itself: what goes to it must not leave it.
+class Proxies : public QNetworkProxyFactory {
+ public:
+  QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& query) override {
+    if (IsThisMachine(query.peerHostName())) return {QNetworkProxy(QNetworkProxy::NoProxy)};
+    return systemProxyForQuery(query);
+  }
+};
+
+class QtFetch : public Fetch {
+ public:
+  explicit QtFetch(Transfer* transfer) : transfer_(transfer) {}
+  ~QtFetch() override {
+    if (!transfer_) return;
+    transfer_->Stop();
+    // One of its own events may be what ends it.
+    transfer_->deleteLater();
+  }
+  QtFetch(const QtFetch&) = delete;
+  QtFetch& operator=(const QtFetch&) = delete;
+
+ private:
+  QPointer<Transfer> transfer_;
+};
+
+}  // namespace
+
+QtDownloads::QtDownloads(std::chrono::milliseconds patience) : patience_(patience) {}
+QtDownloads::~QtDownloads() = default;
+
+std::unique_ptr<Fetch> QtDownloads::Start(const FetchRequest& request, FetchEvents events) {
+  if (!network_) {
+    network_ = std::make_unique<QNetworkAccessManager>();
+    network_->setProxyFactory(new Proxies);  // the manager's own from here on
+  }
+  auto* transfer = new Transfer(*network_, request, std::move(events), patience_);  // a child of the manager
+  QMetaObject::invokeMethod(
+      transfer, [transfer] { transfer->Begin(); }, Qt::QueuedConnection);
+  return std::make_unique<QtFetch>(transfer);
+}
+
+}  // namespace orby

@@ -1,0 +1,66 @@
+// One fetch under way: an address, the addresses that it leads to, and the file that its bytes go into.
+#pragma once
+
+#include <QNetworkReply>
+#include <QObject>
+#include <QPointer>
+#include <QUrl>
+#include <chrono>
+#include <memory>
+
+#include "platform/downloads.h"
+#include "qt/arriving_file.h"
+
+class QNetworkAccessManager;
+
+namespace orby {
+
+bool IsThisMachine(const QString& host);
+
+// Whether the program may fetch from there: https, or http with this machine itself.
+bool MayFetchFrom(const QUrl& address);
+
+class Transfer : public QObject {
+ public:
+  // A child of the network. patience: a server that sends nothing for so long is given up.
+  Transfer(QNetworkAccessManager& network, FetchRequest request, FetchEvents events,
+           std::chrono::milliseconds patience);
+
+  void Begin();
+  // No event follows.
+  void Stop();
+
+ private:
+  void SumUp();
+  void Ask(const QUrl& address);
+  void TakeBytes();
+  void TakeEnd();
+
+  // What the head of an answer leads to; false when its body is not wanted.
+  bool TakeHead();
+  bool TakeWhole();
+  bool TakeRest();
+  bool Follow();
+  bool AskAnew();
+
+  bool IsTooLong(quint64 bytes) const { return request_.mostBytes != 0 && bytes > request_.mostBytes; }
+  void LetGo();
+  // Always gives false.
+  bool End(FetchEnd end);
+  bool DropAndFail();
+  void Tell(FetchOutcome outcome);
+
+  QNetworkAccessManager& network_;
+  FetchRequest request_;
+  FetchEvents events_;
+  std::chrono::milliseconds patience_;
+  QUrl address_;  // asked last
+  int hops_ = 0;
+  QPointer<QNetworkReply> reply_;
+  std::unique_ptr<ArrivingFile> file_;
+  bool headTaken_ = false;
+  quint64 total_ = 0;  // bytes of the whole file; 0: the server does not say
+  bool ended_ = false;
+};
+
+}  // namespace orby

@@ -1,0 +1,43 @@
+// The disclaimer, which can guard the start of the program.
+//
+// It closes by its buttons alone. The window's cross and the Escape key do nothing: at the start they would lead past
+// the question into the program.
+#pragma once
+
+#include "controls/controls.h"
+#include "core/program.h"
+
+namespace orby {
+
+class DisclaimerControls : public Form {
+ public:
+  DisclaimerControls() : Form("frmDisclaimer", "Disclaimer") {}
+
+  Label lblHeading{*this, "lblHeading", "Disclaimer of Liability Clause"};
+  TextBox txtDisclaimer{*this, "txtDisclaimer", TextKind::Output};
+  CheckBox chkShow{*this, "chkShow", "Show disclaimer at start-up"};
+
+  // commands
+  Button Command1{*this, "Command1", "I accept"};
+  Button cmdNoAccept{*this, "cmdNoAccept", "I do not accept"};
+};
+
+class Disclaimer : public DisclaimerControls {
+ public:
+  explicit Disclaimer(Program& program);
+
+  bool MayClose() override { return false; }
+
+ protected:
+  void OnOpen() override;
+  // Stores whether the disclaimer is to be shown at the next start, once it has been accepted.
+  void OnClose() override;
+
+ private:
+  void Refuse();
+
+  Program& program_;
+  bool accepted_ = false;
+};
+
+}  // namespace orby

@@ -1,0 +1,93 @@
+// The text file browser: shows any file of the machine as text, in its own pane or in the external viewer.
+//
+// A file comes into the pane piece by piece between the user's other acts, however long it is. Choosing another file,
+// or closing the form, ends that.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "controls/controls.h"
+#include "core/program.h"
+
+namespace orby {
+
+class TextBrowserControls : public Form {
+ public:
+  TextBrowserControls() : Form("frmTextBrow", "View Source Files") {}
+
+  Label lblDrive{*this, "lblDrive", "Select Drive:"};
+  Combo Drive1{*this, "Drive1", ComboKind::ListOnly};
+  Label lblFolder{*this, "lblFolder", "Select Folder:"};
+  List Dir1{*this, "Dir1"};  // the folders from the drive down to the one on view, then those in it
+  Label lblFile{*this, "lblFile", "Select File:"};
+  List File1{*this, "File1"};
+  Label lblPattern{*this, "lblPattern", "Pattern:"};
+  TextBox Text2{*this, "Text2"};
+
+  Label lblCurrentFile{*this, "lblCurrentFile", "Current file:"};
+  TextBox Label1{*this, "Label1", TextKind::Output};
+  Label lblView{*this, "lblView", "View of Selected File"};
+  TextPane RichTextBox1{*this, "RichTextBox1"};
+
+  CheckBox Check1{*this, "Check1", "Use external viewer"};
+  ProgressBar prgLoading{*this, "prgLoading"};
+
+  // commands
+  Button cmdSetFont{*this, "cmdSetFont", "Set &Font"};
+  Button Command1{*this, "Command1", "Close"};
+};
+
+class TextBrowser : public TextBrowserControls {
+ public:
+  explicit TextBrowser(Program& program);
+
+  // A longer file is refused.
+  static constexpr std::uint64_t MostBytes = std::uint64_t{1} << 30U;
+  // What is read of a file at a time.
+  static constexpr std::size_t PieceBytes = std::size_t{1} << 21U;
+
+ protected:
+  void OnOpen() override;
+  void OnClose() override;
+
+ private:
+  // A file on its way into the pane.
+  struct Loading {
+    std::unique_ptr<InputFile> file;
+    std::uint64_t length = 0;
+  };
+
+  // folders
+  void GoToLastFolder();
+  void ChangeDrive();
+  void ChangeFolder(int item);
+  // Throws the file system's RuntimeError, and changes nothing then.
+  void OpenFolder(const std::string& folder);
+  void ShowFolders(const std::vector<std::string>& folders);
+  void SelectDrive();
+  void ShowFiles();
+
+  // the chosen file
+  void ViewFile(int item);
+  void TellItIsTooLong();
+  void ViewOutside(const std::string& path);
+  void StartLoading(const std::string& path);
+  void LoadNextPiece(const Loading& loading);
+  void LoadLater();
+  void StopLoading();
+
+  void ShowViewer();
+  void ChooseFont();
+
+  Program& program_;
+  std::vector<std::string> drives_;
+  std::string folder_;                    // on view
+  std::vector<std::string> folderPaths_;  // by item of Dir1
+  std::vector<std::string> filePaths_;    // by item of File1
+  std::shared_ptr<Loading> loading_;      // what waits for its turn looks for it, and finds nothing when it has ended
+};
+
+}  // namespace orby

@@ -1,0 +1,39 @@
+#include "shell/unit_calculator.h"
+
+#include "base/number_text.h"
+#include "core/dialog_helpers.h"
+#include "core/help.h"
+#include "core/messages.h"
+
+namespace orby {
+
+UnitCalculator::UnitCalculator(Program& program)
+    : program_(program),
+      pages_{Page{UnitGroup::Length, txtLength, Option2, LengthResults},
+             Page{UnitGroup::Load, txtLoad, Option5, LoadResults},
+             Page{UnitGroup::LoadGradient, txtLoadGrad, Option4, LoadGradResults},
+             Page{UnitGroup::Stress, txtStress, Option1, StressResults},
+             Page{UnitGroup::StressGradient, txtStressGrad, Option3, StressGradResults}} {
+  for (const Page& page : pages_) {
+    page.input.Change = [&page] { Convert(page); };
+    page.units.Click = [&page](Integer) { Convert(page); };
+  }
+  SSTab1.Click = [this] { RequestFocus(pages_[static_cast<std::size_t>(SSTab1.Tab())].input); };
+  Command1.Click = [this] { Close(); };
+  Command3.Click = [this] { OpenHelpTopic(program_, *this); };
+}
+
+void UnitCalculator::OnOpen() {
+  PrepareForm(program_, message_module::Calculator);
+  AddHistoryLine(program_, "Loading Unit Conversion Form");
+  for (const Page& page : pages_) SetArrayIndex(program_, page.units, 0);
+  RequestFocus(txtLength);
+}
+
+void UnitCalculator::Convert(const Page& page) {
+  const auto unit = static_cast<std::size_t>(GetArrayIndex(page.units));
+  const std::vector<double> values = ConvertUnits(page.group, page.input.Value(), unit);
+  for (std::size_t i = 0; i < values.size(); ++i) page.results[i].SetText(NumberText(values[i]));
+}
+
+}  // namespace orby

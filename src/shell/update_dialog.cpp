@@ -1,0 +1,220 @@
+#include "shell/update_dialog.h"
+
+#include "base/attempt.h"
+#include "base/number_text.h"
+#include "base/text.h"
+#include "config/settings_sections.h"
+#include "core/dates.h"
+#include "core/file_helpers.h"
+#include "core/messages.h"
+#include "core/shared_texts.h"
+#include "core/version.h"
+
+namespace orby {
+namespace {
+
+constexpr std::uint64_t MostSetupBytes = 2'000'000'000;
+
+constexpr std::string_view NoConnection = "Internet Connection Failed";
+
+constexpr std::string_view ReleaseMonth = "07";
+constexpr std::string_view ReleaseDay = "05";
+constexpr std::string_view ReleaseYear = "2023";
+
+int WholeNumber(std::string_view text) { return static_cast<int>(TextValue(text)); }
+
+Date ReleaseDate() { return {WholeNumber(ReleaseYear), WholeNumber(ReleaseMonth), WholeNumber(ReleaseDay)}; }
+
+std::string InfoText() {
+  return "Current Program Version: " + VersionText(true) + " for " + std::string(ProgramTitle) + std::string(LineEnd) +
+         "Current Revision Date: " + DayMonthYear(ReleaseDate());
+}
+
+std::string AgeText(Date today) {
+  return "This version was released " + NumberText(DaysBetween(ReleaseDate(), today)) +
+         " days ago. Although major updates may not be scheduled, interim updates may be released with bug fixes. "
+         "Check for an updated version by visiting the program web page below or click on 'Check for updates'.  ";
+}
+
+// "12,345", the last thousand begun counting as a whole one.
+std::string Thousands(std::uint64_t bytes) {
+  const std::uint64_t thousands = (bytes + 999) / 1000;
+  std::string digits = NumberText(static_cast<double>(thousands));
+  for (std::size_t at = digits.size(); at > 3;) {
+    at -= 3;
+    digits.insert(at, ",");
+  }
+  return digits;
+}
+
+std::string ProgressText(std::uint64_t received, std::uint64_t total) {
+  return Thousands(received) + (total == 0 ? "" : " of " + Thousands(total)) + " kB";
+}
+
+}  // namespace
+
+UpdateDialog::UpdateDialog(Program& program) : program_(program) {
+  cmdCheck.Click = [this] { AskServer([this] { Compare(); }); };
+  cmdDownUpdate.Click = [this] { Download(); };
+  cmdInstall.Click = [this] { Install(); };
+  cmdWebPage.Click = [this] { OpenWebPage(); };
+  chkShow.Click = [this] { program_.settings.RemindAnnualUpdates = chkShow.Checked() ? 0 : 1; };
+  Command1.Click = [this] { Close(); };
+}
+
+void UpdateDialog::OnOpen() {
+  lblInfo.SetCaption(InfoText());
+  lblUpdate.SetCaption(AgeText(program_.platform.clock.Today()));
+  chkShow.SetValue(program_.settings.RemindAnnualUpdates == 0 ? 1 : 0);
+  cmdWebPage.SetEnabled(HasUpdateServer(program_));
+}
+
+void UpdateDialog::OnClose() {
+  fetch_.reset();
+  WriteDefaults(program_, settings_section::Settings);
+}
+
+void UpdateDialog::SetBusy(bool busy) {
+  for (Button* button : {&cmdCheck, &cmdDownUpdate, &cmdInstall}) button->SetEnabled(!busy);
+}
+
+void UpdateDialog::TellNoConnection(FetchEnd end) {
+  ShowMessage(program_, end == FetchEnd::NoService ? "An error occurred calling InternetOpen function"
+                                                   : "An error occurred calling InternetOpenUrl function");
+  ShowMessage(program_, std::string(NoConnection));
+}
+
+// ---- the server's version ------------------------------------------------------------------------------------------
+
+void UpdateDialog::AskServer(const Step& next) {
+  if (!HasUpdateServer(program_)) {
+    ShowMessage(program_, std::string(NoConnection));
+    return;
+  }
+  SetBusy(true);
+  lblStatus.SetCaption("Checking for updates...");
+  fetch_ = FetchVersion(program_, [this, next](const VersionAnswer& answer) {
+    fetch_.reset();
+    lblStatus.SetCaption({});
+    SetBusy(false);
+    if (Accept(answer)) next();
+  });
+  if (fetch_) return;
+  lblStatus.SetCaption({});
+  SetBusy(false);
+  TellNoConnection(FetchEnd::NoService);
+}
+
+bool UpdateDialog::Accept(const VersionAnswer& answer) {
+  if (answer.end == FetchEnd::NoService || answer.end == FetchEnd::NoConnection) {
+    TellNoConnection(answer.end);
+    return false;
+  }
+  if (!answer.offered) {
+    ShowMessage(program_, "Invalid information for new version. Check with developer.");
+    return false;
+  }
+  if (offered_ != answer.offered) verifiedFile_.clear();
+  offered_ = answer.offered;
+  lblLastVer.SetCaption("Server Version: " + offered_->version + " / Current Version: " + VersionText(true));
+  return true;
+}
+
+void UpdateDialog::Compare() {
+  constexpr int Style = box_style::YesNoCancel | box_style::Question;
+  if (!IsNewer(*offered_)) {
+    ShowMessage(program_, "Program is up to date");
+  } else if (ShowMessage(program_, "A new version is available. Download?", Style) == box_result::Yes) {
+    FetchSetup();
+  }
+}
+
+// ---- the setup file ------------------------------------------------------------------------------------------------
+
+void UpdateDialog::Download() {
+  if (offered_) {
+    FetchSetup();
+  } else {
+    AskServer([this] { FetchSetup(); });
+  }
+}
+
+void UpdateDialog::FetchSetup() {
+  verifiedFile_.clear();
+  ProgressBar1.SetValue(0);
+  lblbytes.SetCaption({});
+  const std::string folder = DownloadFolder(program_);
+  if (!Succeeds([&] { program_.platform.files.MakeFolder(folder); })) {
+    return EndDownload("Download failed: no files can be kept in " + folder);
+  }
+  const std::string path = SetupFilePath(program_, offered_->version);
+  FetchEvents events;
+  events.Progress = [this](std::uint64_t received, std::uint64_t total) { SetupProgress(received, total); };
+  events.Finished = [this, path](const FetchOutcome& outcome) {
+    fetch_.reset();
+    SetBusy(false);
+    SetupArrived(path, outcome);
+  };
+  SetBusy(true);
+  lblStatus.SetCaption("Downloading " + SetupFileAddress(program_, offered_->version));
+  fetch_ = program_.platform.downloads.Start(
+      {SetupFileAddress(program_, offered_->version), path, MostSetupBytes, true}, std::move(events));
+  if (fetch_) return;
+  SetBusy(false);
+  SetupArrived(path, {FetchEnd::NoService, {}});
+}
+
+void UpdateDialog::SetupProgress(std::uint64_t received, std::uint64_t total) {
+  if (total != 0) ProgressBar1.SetValue(static_cast<int>(received * ProgressBar::Whole / total));
+  lblbytes.SetCaption(ProgressText(received, total));
+}
+
+void UpdateDialog::SetupArrived(const std::string& path, const FetchOutcome& outcome) {
+  if (outcome.end == FetchEnd::NoService || outcome.end == FetchEnd::NoConnection) {
+    lblStatus.SetCaption(NoConnection);
+    return TellNoConnection(outcome.end);
+  }
+  if (outcome.end != FetchEnd::Done) {
+    return EndDownload("Download failed: " + SetupFileAddress(program_, offered_->version) +
+                       " is not there, or did not arrive as a whole. Try again later.");
+  }
+  if (!offered_->sha256.empty() && !SameWithoutCase(outcome.sha256, offered_->sha256)) {
+    const bool isDeleted = Succeeds([&] { program_.platform.files.RemoveFile(path); });
+    return EndDownload(std::string("Download failed: the file that arrived is not the one that was published") +
+                       (isDeleted ? ", and was deleted: " : ". Delete it: ") + path);
+  }
+  verifiedFile_ = path;
+  ProgressBar1.SetValue(ProgressBar::Whole);
+  lblStatus.SetCaption("Download completed. Program at: " + path);
+}
+
+void UpdateDialog::EndDownload(const std::string& status) {
+  lblStatus.SetCaption(status);
+  ShowMessage(program_, status, box_style::Exclamation);
+}
+
+void UpdateDialog::Install() {
+  const std::string file = SetupFilePath(program_, offered_ ? offered_->version : std::string());
+  if (!FileExists(program_, file)) {
+    ShowMessage(program_, "Update file: " + file + " not found");
+  } else if (file != verifiedFile_) {
+    ShowMessage(program_, "Update file: " + file + " has not been checked. Please download it again.");
+  } else {
+    ShowMessage(program_,
+                "ORBY will now close to install the new update. You may be asked to grant permission to Windows to "
+                "allow installation of the new version. ");
+    if (program_.platform.documents.Open(file)) {
+      program_.EndAtOnce();
+    } else {
+      ShowMessage(program_, std::string(OperationFailed));
+    }
+  }
+}
+
+void UpdateDialog::OpenWebPage() {
+  if (!program_.platform.documents.Open(WebPageAddress(program_))) {
+    ShowMessage(program_, std::string(OperationFailed));
+  }
+}
+
+}  // namespace orby

@@ -1,0 +1,77 @@
+// The dialog of program updates: asks the server for its version, fetches the setup program of that version, starts it.
+//
+// A setup program is started only when it has been downloaded in this run to its last byte and, where the server tells
+// the SHA-256 of it, is the very file that was published.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "controls/controls.h"
+#include "core/program.h"
+#include "shell/update_source.h"
+#include "shell/version_fetch.h"
+
+namespace orby {
+
+class UpdateControls : public Form {
+ public:
+  UpdateControls() : Form("frmUpdate", "Program Updates") {}
+
+  Label lblInfo{*this, "lblInfo", {}};
+  Label lblUpdate{*this, "lblUpdate", {}};
+  Label lblManual{*this, "lblManual",
+                  "You may manually update the program by downloading and installing the new setup file."};
+  Button cmdWebPage{*this, "cmdWebPage", "Program Web Page"};
+  Label lblLastVer{*this, "lblLastVer", {}};
+  ProgressBar ProgressBar1{*this, "ProgressBar1"};
+  Label lblbytes{*this, "lblbytes", {}};
+  Label lblStatus{*this, "lblStatus", {}};
+  CheckBox chkShow{*this, "chkShow", "Disable check for program updates"};
+
+  // commands
+  Button cmdCheck{*this, "cmdCheck", "Check for Updates"};
+  Button cmdDownUpdate{*this, "cmdDownUpdate", "Download Update"};
+  Button cmdInstall{*this, "cmdInstall", "Install Update"};
+  Button Command1{*this, "Command1", "Close"};
+};
+
+class UpdateDialog : public UpdateControls {
+ public:
+  explicit UpdateDialog(Program& program);
+
+ protected:
+  void OnOpen() override;
+  // A download under way is stopped; what has arrived waits for the next one.
+  void OnClose() override;
+
+ private:
+  using Step = std::function<void()>;
+
+  // Asks the server for its version; `next` runs when it has given one.
+  void AskServer(const Step& next);
+  bool Accept(const VersionAnswer& answer);
+  void Compare();
+
+  void Download();
+  void FetchSetup();
+  void SetupProgress(std::uint64_t received, std::uint64_t total);
+  void SetupArrived(const std::string& path, const FetchOutcome& outcome);
+  void EndDownload(const std::string& status);
+
+  void Install();
+  void OpenWebPage();
+
+  void TellNoConnection(FetchEnd end);
+  // While something is being fetched nothing else can be begun.
+  void SetBusy(bool busy);
+
+  Program& program_;
+  std::optional<OfferedVersion> offered_;
+  std::string verifiedFile_;  // may be started; empty: none
+  std::unique_ptr<Fetch> fetch_;
+};
+
+}  // namespace orby

@@ -1,0 +1,46 @@
+// Where newer versions of the program are published, what the server tells about them, and which files they are here.
+//
+// The server has a small text file: the version that it offers, and behind a comma the SHA-256 of that version's setup
+// file, which older files of this kind lack. All of it comes from outside and is believed only as far as it has the
+// right form.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/program.h"
+
+namespace orby {
+
+// A version that the server offers.
+struct OfferedVersion {
+  std::string version;  // a part of a file name
+  std::string sha256;   // of its setup file, 64 hexadecimal digits in any case; empty when the server tells none
+
+  bool operator==(const OfferedVersion&) const = default;
+};
+
+// What the bytes of a version file say. Nothing when there is no version, when it could not stand in a file name, or
+// when the sum is none.
+std::optional<OfferedVersion> ReadVersionFile(std::string_view bytes);
+
+// Whether the offered version is newer than this program: compared as texts, so "1.10.00" is older than "1.9.00".
+bool IsNewer(const OfferedVersion& offered);
+
+// Whether the program knows of a server at all.
+bool HasUpdateServer(const Program& program);
+
+// Addresses on the program's server.
+std::string VersionFileAddress(const Program& program);
+std::string SetupFileAddress(const Program& program, std::string_view version);
+std::string WebPageAddress(const Program& program);
+
+// Where the version file is kept.
+std::string VersionFilePath(const Program& program);
+// The user's folder for downloads, beside the one for documents; ends in a separator.
+std::string DownloadFolder(const Program& program);
+// The setup file of a version in the folder for downloads.
+std::string SetupFilePath(const Program& program, std::string_view version);
+
+}  // namespace orby

@@ -1,0 +1,66 @@
+// The commands of the Utilities and the Help menu.
+#include "core/dialog_helpers.h"
+#include "core/help.h"
+#include "core/messages.h"
+#include "dialogs/convert_dialog.h"
+#include "dialogs/options_dialog.h"
+#include "dialogs/settings_dialog.h"
+#include "shell/about.h"
+#include "shell/disclaimer.h"
+#include "shell/main_window.h"
+#include "shell/resource_files.h"
+#include "shell/unit_calculator.h"
+#include "shell/update_dialog.h"
+
+namespace orby {
+
+void MainWindow::UtilityCommand(Integer item) {
+  switch (item) {
+    case util_item::Settings: EditSettings(); break;
+    case util_item::Options: ShowNew<OptionsDialog>(); break;
+    case util_item::UnitConversions: ShowNew<UnitCalculator>(); break;
+    case util_item::FileConversion: ConvertFile(); break;
+    case util_item::ClearHistory:
+      program_.history.Text.clear();
+      txtMain.SetText({});
+      break;
+    case util_item::ToggleHistory: ShowHistory(!txtMain.Visible()); break;
+    case util_item::CopyHistory:
+      program_.platform.clipboard.Clear();
+      program_.platform.clipboard.SetText(txtMain.Text());
+      break;
+    default: break;
+  }
+}
+
+void MainWindow::EditSettings() {
+  SettingsDialog dialog(program_, [this] { ShowSettings(); });
+  ShowForm(program_, dialog);
+}
+
+void MainWindow::ConvertFile() {
+  if (program_.FileEmpty) {
+    ShowMessage(program_, "Current file is empty");
+  } else if (!program_.FileSaved) {
+    ShowMessage(program_, "Save Current File before accessing this option");
+  } else {
+    ShowNew<ConvertDialog>();
+    recovery_.Committed();
+    RefreshCaption();
+  }
+}
+
+void MainWindow::HelpCommand(Integer item) {
+  switch (item) {
+    case help_item::Contents: OpenHelpContents(program_); break;
+    case help_item::Index: OpenHelpIndex(program_); break;
+    case help_item::Manual: OpenDocument(program_, "Help file", ManualFile); break;
+    case help_item::ResourceFiles: ShowNew<ResourceFiles>(); break;
+    case help_item::Disclaimer: ShowNew<Disclaimer>(); break;
+    case help_item::Updates: ShowNew<UpdateDialog>(); break;
+    case help_item::About: ShowAbout(program_); break;
+    default: break;
+  }
+}
+
+}  // namespace orby

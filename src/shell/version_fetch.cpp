@@ -1,0 +1,31 @@
+#include "shell/version_fetch.h"
+
+#include <string>
+#include <utility>
+
+#include "base/attempt.h"
+
+namespace orby {
+namespace {
+
+constexpr std::uint64_t MostVersionBytes = 64 * 1024;
+
+VersionAnswer AnswerOf(Program& program, FetchEnd end) {
+  VersionAnswer answer{end, std::nullopt};
+  if (end != FetchEnd::Done) return answer;  // what lies there then is of another day
+  Succeeds([&] { answer.offered = ReadVersionFile(program.platform.files.ReadFile(VersionFilePath(program))); });
+  return answer;
+}
+
+}  // namespace
+
+std::unique_ptr<Fetch> FetchVersion(Program& program, std::function<void(const VersionAnswer&)> then) {
+  FetchEvents events;
+  events.Finished = [&program, then = std::move(then)](const FetchOutcome& outcome) {
+    then(AnswerOf(program, outcome.end));
+  };
+  return program.platform.downloads.Start({VersionFileAddress(program), VersionFilePath(program), MostVersionBytes},
+                                          std::move(events));
+}
+
+}  // namespace orby

@@ -1,0 +1,414 @@
+#include "dialogs/options_dialog.h"
+
+#include "base/runtime_error.h"
+#include "dialogs/options_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::Field;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+using Options = OptionsFixture;
+
+constexpr std::string_view RatingWarning =
+    "WARNING:  CMRR outside range of case history data base.  ORBY may not be valid.  Accept Value ?";
+constexpr std::string_view StabilityWarning = "WARNING:  Stability Factor is less than 1.0 ORBY is probably not valid.";
+
+// ---- opening -------------------------------------------------------------------------------------------------------
+
+TEST_F(Options, ShowThePreferencesOfTheProgram) {
+  program.options.ShowInputScreenOnLoad = 0;
+  program.options.ViewChildWindow = 1;
+  program.options.PrintModuleHeader = 0;
+  program.options.AskOfficeInstall = 1;
+  program.options.BoltGradeAsUltimateDefault = 1;
+
+  dialog.Open();
+
+  EXPECT_FALSE(dialog.Check1.Checked());
+  EXPECT_TRUE(dialog.Check2.Checked());
+  EXPECT_FALSE(dialog.Check3.Checked());
+  EXPECT_TRUE(dialog.chkOffice.Checked());
+  EXPECT_TRUE(dialog.optStrength.Value(1));
+}
+
+TEST_F(Options, ShowWhatANewDesignStartsWith) {
+  dialog.Open();
+
+  EXPECT_EQ(dialog.txtCMRR[English].Text(), "45");
+  EXPECT_EQ(dialog.txtDepthofCover[English].Text(), "400");
+  EXPECT_EQ(dialog.txtUnitWeight[English].Text(), "162");
+  EXPECT_EQ(dialog.txtActualSpan[English].Text(), "60");
+  EXPECT_EQ(dialog.txtEntryWidth[English].Text(), "20");
+  EXPECT_EQ(dialog.txtStabilityFactor[English].Text(), "1");
+  EXPECT_EQ(dialog.txtActualBoltLength[English].Text(), "6");
+  EXPECT_EQ(dialog.txtBoltDiameter[English].Text(), "0.75");
+  EXPECT_EQ(dialog.txtBoltGrade[English].Text(), "75");
+  EXPECT_EQ(dialog.txtBoltUTS[English].Text(), "100");
+  EXPECT_EQ(dialog.txtBoltsperRow[English].Text(), "4");
+  EXPECT_EQ(dialog.txtRowSpacing[English].Text(), "4");
+}
+
+TEST_F(Options, ShowWhatANewMetricDesignStartsWith) {
+  dialog.Open();
+
+  EXPECT_EQ(dialog.txtCMRR[Metric].Text(), "45");
+  EXPECT_EQ(dialog.txtDepthofCover[Metric].Text(), "150");
+  EXPECT_EQ(dialog.txtUnitWeight[Metric].Text(), "25");
+  EXPECT_EQ(dialog.txtActualSpan[Metric].Text(), "20");
+  EXPECT_EQ(dialog.txtEntryWidth[Metric].Text(), "6.2");
+  EXPECT_EQ(dialog.txtStabilityFactor[Metric].Text(), "1");
+  EXPECT_EQ(dialog.txtActualBoltLength[Metric].Text(), "2");
+  EXPECT_EQ(dialog.txtBoltDiameter[Metric].Text(), "20");
+  EXPECT_EQ(dialog.txtBoltGrade[Metric].Text(), "520");
+  EXPECT_EQ(dialog.txtBoltUTS[Metric].Text(), "690");
+  EXPECT_EQ(dialog.txtBoltsperRow[Metric].Text(), "4");
+  EXPECT_EQ(dialog.txtRowSpacing[Metric].Text(), "1.2");
+}
+
+TEST_F(Options, AreLoggedWhenTheyOpen) {
+  dialog.Open();
+
+  EXPECT_THAT(program.history.Text, HasSubstr("Editing ORBY Options"));
+  EXPECT_EQ(program.titles.RangeErrorTitle, "Program Options: Range Error");
+}
+
+TEST_F(Options, OpenOnThePageThatWasChosenLast) {
+  dialog.Open();
+  dialog.SSTab1.ClickTab(3);
+  dialog.cmdCancel.Press();
+
+  OptionsDialog next(program);
+  next.Open();
+
+  EXPECT_EQ(next.SSTab1.Tab(), 3);
+}
+
+TEST_F(Options, OpenOnTheFirstPageInANewRun) {
+  dialog.Open();
+
+  EXPECT_EQ(dialog.SSTab1.Tab(), 0);
+}
+
+TEST_F(Options, TellHowToGetHelpOnAField) {
+  dialog.Open();
+
+  dialog.cmdHelp.Press();
+
+  EXPECT_EQ(platform.boxes.shown.size(), 1U);
+  EXPECT_THAT(platform.help.shown, IsEmpty());
+}
+
+TEST_F(Options, AskBeforeTheyAssociateTheExtension) {
+  platform.boxes.answers = {box_result::No};
+  dialog.Open();
+
+  dialog.cmdFileAssoc.Press();
+
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("This operation may break an existing association of file extension ORB with other programs "
+                          "on this computer. Proceed?"));
+}
+
+// ---- leaving -------------------------------------------------------------------------------------------------------
+
+TEST_F(Options, StayAsTheyAreWhenTheDialogIsCancelled) {
+  dialog.Open();
+  dialog.Check1.SetValue(0);
+  dialog.txtDepthofCover[English].SetText("900");
+
+  dialog.cmdCancel.Press();
+
+  EXPECT_EQ(program.options.ShowInputScreenOnLoad, 1);
+  EXPECT_EQ(program.defaults.DefaultENGDepthofCover, 400);
+  EXPECT_THAT(program.history.Text, HasSubstr("Options Not Modified"));
+  EXPECT_THAT(platform.files.files, IsEmpty());
+}
+
+TEST_F(Options, AreStoredOnOK) {
+  dialog.Open();
+  dialog.Check1.SetValue(0);
+  dialog.Check2.SetValue(0);
+  dialog.Check3.SetValue(0);
+  dialog.chkOffice.SetValue(0);
+  dialog.optStrength.SetValue(1, true);
+
+  Accept();
+
+  EXPECT_FALSE(dialog.IsOpen());
+  EXPECT_EQ(program.options.ShowInputScreenOnLoad, 0);
+  EXPECT_EQ(program.options.ViewChildWindow, 0);
+  EXPECT_EQ(program.options.PrintModuleHeader, 0);
+  EXPECT_EQ(program.options.AskOfficeInstall, 0);
+  EXPECT_EQ(program.options.BoltGradeAsUltimateDefault, 1);
+  EXPECT_THAT(program.history.Text, Not(HasSubstr("Options Not Modified")));
+}
+
+TEST_F(Options, StoreTheEnglishDefaultsWhereNewDesignsFindThem) {
+  dialog.Open();
+  dialog.txtCMRR[English].SetText("52");
+  dialog.txtDepthofCover[English].SetText("650.5");
+  dialog.txtUnitWeight[English].SetText("158");
+  dialog.txtActualSpan[English].SetText("62.5");
+  dialog.txtEntryWidth[English].SetText("18");
+  dialog.txtStabilityFactor[English].SetText("1.3");
+  dialog.txtActualBoltLength[English].SetText("8");
+  dialog.txtBoltDiameter[English].SetText("0.875");
+  dialog.txtBoltGrade[English].SetText("60");
+  dialog.txtBoltUTS[English].SetText("90");
+  dialog.txtBoltsperRow[English].SetText("5");
+  dialog.txtRowSpacing[English].SetText("4.5");
+
+  Accept();
+
+  const DesignDefaults& defaults = program.defaults;
+  EXPECT_EQ(defaults.DefaultCMRR, 52);
+  EXPECT_EQ(defaults.DefaultENGDepthofCover, 650.5F);
+  EXPECT_EQ(defaults.DefaultENGUnitWeight, 158);
+  EXPECT_EQ(defaults.DefaultENGActualInterSpan, 62.5F);
+  EXPECT_EQ(defaults.DefaultENGEntryWidth, 18);
+  EXPECT_EQ(defaults.DefaultStabilityFactor, 1.3F);
+  EXPECT_EQ(defaults.DefaultENGActualBoltLength, 8);
+  EXPECT_EQ(defaults.DefaultENGboltDiameter, 0.875F);
+  EXPECT_EQ(defaults.DefaultENGBoltGrade, 60);
+  EXPECT_EQ(defaults.DefaultENGBoltUTS, 90);
+  EXPECT_EQ(defaults.DefaultNumberBoltsPerRow, 5);
+  EXPECT_EQ(defaults.DefaultENGrowSpacing, 4.5F);
+  EXPECT_EQ(defaults.DefaultMETDepthofCover, 150);
+  EXPECT_EQ(defaults.DefaultMETBoltUTS, 690);
+}
+
+TEST_F(Options, StoreTheMetricDefaultsWhereNewDesignsFindThem) {
+  dialog.Open();
+  dialog.txtDepthofCover[Metric].SetText("210.5");
+  dialog.txtUnitWeight[Metric].SetText("24.2");
+  dialog.txtActualSpan[Metric].SetText("19");
+  dialog.txtEntryWidth[Metric].SetText("5.8");
+  dialog.txtActualBoltLength[Metric].SetText("2.4");
+  dialog.txtBoltDiameter[Metric].SetText("22");
+  dialog.txtBoltGrade[Metric].SetText("420");
+  dialog.txtBoltUTS[Metric].SetText("620");
+  dialog.txtRowSpacing[Metric].SetText("1.4");
+
+  Accept();
+
+  const DesignDefaults& defaults = program.defaults;
+  EXPECT_EQ(defaults.DefaultMETDepthofCover, 210.5F);
+  EXPECT_EQ(defaults.DefaultMETUnitWeight, 24.2F);
+  EXPECT_EQ(defaults.DefaultMETActualInterSpan, 19);
+  EXPECT_EQ(defaults.DefaultMETEntryWidth, 5.8F);
+  EXPECT_EQ(defaults.DefaultMETActualBoltLength, 2.4F);
+  EXPECT_EQ(defaults.DefaultMETboltDiameter, 22);
+  EXPECT_EQ(defaults.DefaultMETBoltGrade, 420);
+  EXPECT_EQ(defaults.DefaultMETBoltUTS, 620);
+  EXPECT_EQ(defaults.DefaultMETrowSpacing, 1.4F);
+  EXPECT_EQ(defaults.DefaultENGDepthofCover, 400);
+  EXPECT_EQ(defaults.DefaultENGBoltUTS, 100);
+}
+
+TEST_F(Options, TakeTheEnglishValueWhereBothPagesEditOne) {
+  dialog.Open();
+  dialog.txtCMRR[Metric].SetText("61");
+  dialog.txtStabilityFactor[Metric].SetText("1.7");
+  dialog.txtBoltsperRow[Metric].SetText("6");
+
+  Accept();
+
+  EXPECT_EQ(program.defaults.DefaultCMRR, 45);
+  EXPECT_EQ(program.defaults.DefaultStabilityFactor, 1);
+  EXPECT_EQ(program.defaults.DefaultNumberBoltsPerRow, 4);
+}
+
+TEST_F(Options, DropTheFractionsOfRatingAndBoltsPerRow) {
+  dialog.Open();
+  dialog.txtCMRR[English].SetText("52.9");
+  dialog.txtBoltsperRow[English].SetText("5.9");
+
+  Accept();
+
+  EXPECT_EQ(program.defaults.DefaultCMRR, 52);
+  EXPECT_EQ(program.defaults.DefaultNumberBoltsPerRow, 5);
+}
+
+TEST_F(Options, ChangeNothingWhenANumberHasNoPlaceInTheProgram) {
+  dialog.Open();
+  dialog.Check1.SetValue(0);
+  dialog.txtDepthofCover[English].SetText("650");
+  dialog.txtBoltsperRow[English].SetText("40000");
+
+  EXPECT_EQ(ErrorNumberOf([this] { Accept(); }), error_number::Overflow);
+
+  EXPECT_EQ(program.defaults.DefaultENGDepthofCover, 400);
+  EXPECT_EQ(program.options.ShowInputScreenOnLoad, 1);
+  EXPECT_THAT(platform.files.files, IsEmpty());
+}
+
+TEST_F(Options, AreWrittenToTheConfigurationFile) {
+  dialog.Open();
+  dialog.Check1.SetValue(0);
+  dialog.txtDepthofCover[English].SetText("650");
+
+  Accept();
+
+  EXPECT_EQ(Written("TULKOptions", "ShowInputScreenOnLoad"), "0");
+  EXPECT_EQ(Written("ORBYDefaults", "DefaultENGDepthofCover"), "650");
+  EXPECT_EQ(Written("ORBYBoltParams", "DefaultBoltGradeIndexENG"), "5");
+  EXPECT_EQ(Written("ORBYStandSupportParams", "DefaultStandSupportIndex"), "15");
+  EXPECT_THAT(program.history.Text, HasSubstr("Saving default settings to file: /home/user/ORBY.INI"));
+}
+
+// ---- checks --------------------------------------------------------------------------------------------------------
+
+struct Fault {
+  OptionsControls::Numbers OptionsControls::*Boxes;
+  std::string Text;
+  std::string Message;
+};
+
+void PrintTo(const Fault& fault, std::ostream* out) { *out << fault.Message << " " << fault.Text; }
+
+struct RefusedDefault : OptionsFixture, testing::WithParamInterface<Fault> {
+  void ExpectRefusal(std::size_t page, int tab) {
+    dialog.Open();
+    TextBox& field = (dialog.*GetParam().Boxes)[page];
+    field.SetText(GetParam().Text);
+
+    Accept();
+
+    EXPECT_TRUE(dialog.IsOpen());
+    EXPECT_THAT(platform.boxes.shown, ElementsAre(AllOf(Field(&MessageBox::text, GetParam().Message),
+                                                        Field(&MessageBox::style, box_style::Critical),
+                                                        Field(&MessageBox::title, "Program Options: Range Error"))));
+    EXPECT_EQ(dialog.SSTab1.Tab(), tab);
+    EXPECT_EQ(dialog.FocusRequest(), &field);
+  }
+};
+
+TEST_P(RefusedDefault, IsShownOnTheEnglishPage) { ExpectRefusal(English, 1); }
+TEST_P(RefusedDefault, IsShownOnTheMetricPage) { ExpectRefusal(Metric, 2); }
+
+INSTANTIATE_TEST_SUITE_P(
+    Of, RefusedDefault,
+    testing::Values(Fault{&OptionsControls::txtStabilityFactor, "0", "Invalid stability factor"},
+                    Fault{&OptionsControls::txtActualBoltLength, "-1", "Invalid actual bolt length"},
+                    Fault{&OptionsControls::txtBoltDiameter, "", "Invalid bolt diameter"},
+                    Fault{&OptionsControls::txtBoltGrade, "0", "Invalid bolt grade"},
+                    Fault{&OptionsControls::txtBoltsperRow, "0", "Invalid number of roof bolts per row"},
+                    Fault{&OptionsControls::txtRowSpacing, "0", "Invalid roof bolt row spacing"},
+                    Fault{&OptionsControls::txtCMRR, "0", "Invalid CMRR"},
+                    Fault{&OptionsControls::txtCMRR, "100.5", "Invalid CMRR"},
+                    Fault{&OptionsControls::txtDepthofCover, "0", "Invalid depth of cover"},
+                    Fault{&OptionsControls::txtActualSpan, "0", "Invalid actual intersection span"},
+                    Fault{&OptionsControls::txtEntryWidth, "0", "Invalid entry width"}));
+
+TEST_F(Options, TellOfOneFaultOnlyTheFirstOfTheEnglishPage) {
+  dialog.Open();
+  dialog.txtStabilityFactor[Metric].SetText("0");
+  dialog.txtEntryWidth[English].SetText("0");
+  dialog.txtCMRR[English].SetText("0");
+
+  Accept();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid CMRR"));
+}
+
+TEST_F(Options, LetAnyUnitWeightAndBoltStrengthPass) {
+  dialog.Open();
+  dialog.txtUnitWeight[English].SetText("0");
+  dialog.txtBoltUTS[Metric].SetText("");
+
+  Accept();
+
+  EXPECT_FALSE(dialog.IsOpen());
+  EXPECT_EQ(program.defaults.DefaultENGUnitWeight, 0);
+  EXPECT_EQ(program.defaults.DefaultMETBoltUTS, 0);
+}
+
+TEST_F(Options, AcceptARoofRatingOf100) {
+  dialog.Open();
+  dialog.txtCMRR[English].SetText("100");
+
+  Accept();
+
+  EXPECT_EQ(program.defaults.DefaultCMRR, 100);
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(Options, AskAboutALowRoofRatingOnTheMetricPage) {
+  platform.boxes.answers = {box_result::Yes};
+  dialog.Open();
+  dialog.txtCMRR[Metric].SetText("34");
+
+  Accept();
+
+  EXPECT_THAT(platform.boxes.shown,
+              ElementsAre(AllOf(Field(&MessageBox::text, RatingWarning), Field(&MessageBox::style, box_style::YesNo),
+                                Field(&MessageBox::title, "Program Options: Range Warning"))));
+  EXPECT_FALSE(dialog.IsOpen());
+}
+
+TEST_F(Options, StayOnTheFieldOfARefusedRoofRating) {
+  platform.boxes.answers = {box_result::No};
+  dialog.Open();
+  dialog.txtCMRR[Metric].SetText("34");
+
+  Accept();
+
+  EXPECT_TRUE(dialog.IsOpen());
+  EXPECT_EQ(dialog.SSTab1.Tab(), 2);
+  EXPECT_EQ(dialog.FocusRequest(), &dialog.txtCMRR[Metric]);
+  EXPECT_EQ(program.defaults.DefaultCMRR, 45);
+}
+
+TEST_F(Options, AskAboutEachUnusualValue) {
+  platform.boxes.answers = {box_result::Yes, box_result::Yes, box_result::No};
+  dialog.Open();
+  dialog.txtCMRR[English].SetText("30");
+  dialog.txtStabilityFactor[English].SetText("0.9");
+  dialog.txtStabilityFactor[Metric].SetText("0.5");
+
+  Accept();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre(RatingWarning, StabilityWarning, StabilityWarning));
+  EXPECT_TRUE(dialog.IsOpen());
+  EXPECT_EQ(dialog.FocusRequest(), &dialog.txtStabilityFactor[Metric]);
+}
+
+TEST_F(Options, AskNothingAtTheLimits) {
+  dialog.Open();
+  dialog.txtCMRR[English].SetText("35");
+  dialog.txtStabilityFactor[English].SetText("1");
+
+  Accept();
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(Options, TellOfFaultsBeforeTheyAsk) {
+  dialog.Open();
+  dialog.txtCMRR[English].SetText("30");
+  dialog.txtRowSpacing[Metric].SetText("0");
+
+  Accept();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid roof bolt row spacing"));
+}
+
+TEST_F(Options, KeepTheCellThatIsBeingEditedWhenAFaultStopsThem) {
+  dialog.Open();
+  Edit(dialog.VSFlexGridEng, 1, 2, "28");
+  dialog.txtEntryWidth[English].SetText("0");
+
+  Accept();
+
+  EXPECT_EQ(dialog.VSFlexGridEng.Cell(1, 2), "28");
+  EXPECT_EQ(program.catalogs.DefaultCableCapArrayENG[0], 26.4F);
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,58 @@
+// The options dialog on the built-in catalogs and a configuration file of its own.
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include <string>
+#include <vector>
+
+#include "catalogs/catalogs.h"
+#include "config/ini_file.h"
+#include "core/program.h"
+#include "dialogs/options_dialog.h"
+#include "support/recording_platform.h"
+
+namespace orby::test {
+
+struct OptionsFixture : testing::Test {
+  OptionsFixture() {
+    SetBuiltInCatalogs(program.catalogs);
+    program.IniFilePath = "/home/user/ORBY.INI";
+  }
+
+  void Accept() { dialog.cmdOK.Press(); }
+
+  // The entries of a list of bolts.
+  std::vector<std::string> Entries(std::size_t catalog, std::size_t list) const {
+    std::vector<std::string> texts;
+    for (const ComboItem& item : dialog.bolts[catalog].lists[list]->Items()) texts.push_back(item.text);
+    return texts;
+  }
+
+  // The numbers in use of a list of the program.
+  static std::vector<Single> Values(const CatalogList& list) {
+    return {list.Values.begin(), list.Values.begin() + static_cast<std::ptrdiff_t>(list.Count())};
+  }
+
+  static std::vector<std::string> Row(const Grid& grid, int row) {
+    std::vector<std::string> texts;
+    for (int column = 0; column < grid.Columns(); ++column) texts.push_back(grid.Cell(row, column));
+    return texts;
+  }
+
+  // The user's edit of a cell.
+  static void Edit(Grid& grid, int row, int column, std::string text) {
+    grid.ClickCell(row, column);
+    grid.Overlay()->SetText(std::move(text));
+  }
+
+  std::string Written(std::string_view section, std::string_view key) {
+    return ReadIniValue(program, section, key, program.IniFilePath);
+  }
+
+  RecordingPlatform platform;
+  Program program{platform.Doors()};
+  OptionsDialog dialog{program};
+};
+
+}  // namespace orby::test

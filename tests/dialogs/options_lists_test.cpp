@@ -1,0 +1,288 @@
+#include "dialogs/options_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using bolt_catalog::Australian;
+using bolt_list::Diameter;
+using bolt_list::Grade;
+using bolt_list::UTS;
+
+struct BoltLists : OptionsFixture {
+  // Presses "Add" with this in the entry field.
+  void Add(std::size_t catalog, std::size_t list, std::string text) {
+    dialog.bolts[catalog].optBolt.SetValue(static_cast<int>(list), true);
+    dialog.bolts[catalog].txtItem.SetText(std::move(text));
+    dialog.bolts[catalog].cmdAddBolt.Press();
+  }
+
+  void Delete(std::size_t catalog, std::size_t list) {
+    dialog.bolts[catalog].optBolt.SetValue(static_cast<int>(list), true);
+    dialog.bolts[catalog].cmdDeleteBolt.Press();
+  }
+};
+
+TEST_F(BoltLists, ShowTheCatalogs) {
+  dialog.Open();
+
+  EXPECT_THAT(Entries(English, Grade), ElementsAre("40", "55", "60", "75", "90", "100"));
+  EXPECT_THAT(Entries(English, UTS), ElementsAre("70", "85", "90", "100", "116", "125"));
+  EXPECT_THAT(Entries(English, Diameter), ElementsAre("0.625", "0.75", "0.875", "0.688", "0.804"));
+  EXPECT_THAT(Entries(Metric, Grade), ElementsAre("280", "390", "420", "520", "620", "690"));
+  EXPECT_THAT(Entries(Metric, UTS), ElementsAre("480", "590", "620", "690", "800", "860"));
+  EXPECT_THAT(Entries(Metric, Diameter), ElementsAre("15.88", "19", "22.22", "17.48", "20.42"));
+}
+
+TEST_F(BoltLists, ShowTheAustralianStrengthsAndDiametersUnderTheirOwnNames) {
+  dialog.Open();
+
+  EXPECT_EQ(dialog.bolts[Australian].lists[Grade], nullptr);
+  EXPECT_THAT(Entries(Australian, UTS), ElementsAre("840", "440"));
+  EXPECT_THAT(Entries(Australian, Diameter), ElementsAre("21.7", "21.7"));
+}
+
+TEST_F(BoltLists, ShowOnlyTheEntriesInUse) {
+  program.catalogs.DefaultBoltGradeArrayENG.HighestIndex = 2;
+
+  dialog.Open();
+
+  EXPECT_THAT(Entries(English, Grade), ElementsAre("40", "55", "60"));
+}
+
+TEST_F(BoltLists, BeginWithTheFirstListOfEachCatalog) {
+  dialog.Open();
+
+  EXPECT_TRUE(dialog.bolts[English].optBolt.Value(Grade));
+  EXPECT_TRUE(dialog.bolts[Metric].optBolt.Value(Grade));
+  EXPECT_TRUE(dialog.bolts[Australian].optBolt.Value(UTS));
+}
+
+// ---- adding --------------------------------------------------------------------------------------------------------
+
+TEST_F(BoltLists, TakeANewEntryAtTheirEndAndSelectIt) {
+  dialog.Open();
+
+  Add(Metric, UTS, "950");
+
+  EXPECT_THAT(Entries(Metric, UTS), ElementsAre("480", "590", "620", "690", "800", "860", "950"));
+  EXPECT_EQ(dialog.bolts[Metric].lists[UTS]->ListIndex(), 6);
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(BoltLists, KeepAnAddedEntryFromTheProgramUntilOK) {
+  dialog.Open();
+
+  Add(English, Grade, "80");
+
+  EXPECT_EQ(program.catalogs.DefaultBoltGradeArrayENG.HighestIndex, 5);
+  Accept();
+  EXPECT_THAT(Values(program.catalogs.DefaultBoltGradeArrayENG), ElementsAre(40, 55, 60, 75, 90, 100, 80));
+}
+
+TEST_F(BoltLists, WantAValue) {
+  dialog.Open();
+
+  Add(English, Diameter, "  ");
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Please enter a value in the text box above."));
+  EXPECT_EQ(Entries(English, Diameter).size(), 5U);
+}
+
+TEST_F(BoltLists, RefuseTheEntryThatTheyHold) {
+  dialog.Open();
+
+  Add(English, Grade, "60");
+  Add(English, UTS, "90");
+  Add(English, Diameter, "0.75");
+
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("Grade entry exists. New value not added", "UTS entry exists. New value not added",
+                          "Diameter entry exists. New value not added"));
+  EXPECT_EQ(Entries(English, Grade).size(), 6U);
+}
+
+TEST_F(BoltLists, CompareEntriesAsTexts) {
+  dialog.Open();
+  Add(English, Diameter, "0.50");
+
+  Add(English, Diameter, "0.5");
+
+  EXPECT_THAT(Entries(English, Diameter), ElementsAre("0.625", "0.75", "0.875", "0.688", "0.804", "0.50", "0.5"));
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(BoltLists, SaySoWhenTheyAreFullEvenToWhatTheyHold) {
+  dialog.Open();
+  for (const char* grade : {"101", "102", "103", "104"}) Add(English, Grade, grade);
+  for (const char* strength : {"131", "132", "133", "134"}) Add(English, UTS, strength);
+  for (const char* diameter : {"1", "1.1", "1.2", "1.3", "1.4"}) Add(English, Diameter, diameter);
+
+  Add(English, Grade, "60");
+  Add(English, UTS, "140");
+  Add(English, Diameter, "1.5");
+
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("Maximum grade entries have been reached. Please delete a value first",
+                          "Maximum UTS entries have been reached. Please delete a value first",
+                          "Maximum diameter entries have been reached. Please delete a value first"));
+  EXPECT_EQ(Entries(English, Grade).size(), 10U);
+}
+
+TEST_F(BoltLists, HoldTenAustralianEntries) {
+  dialog.Open();
+
+  for (const char* strength : {"450", "460", "470", "480", "490", "500", "510", "520"}) {
+    Add(Australian, UTS, strength);
+  }
+  Add(Australian, UTS, "530");
+
+  EXPECT_EQ(Entries(Australian, UTS).size(), 10U);
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("Maximum UTS entries have been reached. Please delete a value first"));
+}
+
+// ---- deleting ------------------------------------------------------------------------------------------------------
+
+TEST_F(BoltLists, WantASelectionToDelete) {
+  dialog.Open();
+
+  Delete(Metric, Grade);
+  Delete(Metric, UTS);
+  Delete(Metric, Diameter);
+
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("Please select a grade value to delete", "Please select a UTS value to delete",
+                          "Please select a diameter value to delete"));
+}
+
+TEST_F(BoltLists, LoseTheSelectedEntryAndSelectTheOneBehindIt) {
+  dialog.Open();
+  dialog.bolts[English].lists[Grade]->ClickItem(1);
+
+  Delete(English, Grade);
+
+  EXPECT_THAT(Entries(English, Grade), ElementsAre("40", "60", "75", "90", "100"));
+  EXPECT_EQ(dialog.bolts[English].lists[Grade]->ListIndex(), 1);
+}
+
+TEST_F(BoltLists, SelectTheLastEntryOnceTheOneBehindItIsGone) {
+  dialog.Open();
+  dialog.bolts[English].lists[Diameter]->ClickItem(4);
+
+  Delete(English, Diameter);
+
+  EXPECT_EQ(dialog.bolts[English].lists[Diameter]->ListIndex(), 3);
+}
+
+TEST_F(BoltLists, CanBeEmptied) {
+  dialog.Open();
+  dialog.bolts[Australian].lists[Diameter]->ClickItem(0);
+
+  Delete(Australian, Diameter);
+  Delete(Australian, Diameter);
+  Delete(Australian, Diameter);
+  Accept();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Please select a diameter value to delete"));
+  EXPECT_EQ(program.catalogs.DefaultBoltUTSArrayMETAUS.HighestIndex, -1);
+  EXPECT_THAT(Values(program.catalogs.DefaultBoltDiamArrayMETAUS), ElementsAre(840, 440));
+}
+
+TEST_F(BoltLists, KeepADeletedEntryInTheProgramUntilOK) {
+  dialog.Open();
+  dialog.bolts[English].lists[UTS]->ClickItem(0);
+
+  Delete(English, UTS);
+
+  EXPECT_EQ(program.catalogs.DefaultBoltUTSArrayENG[0], 70);
+  Accept();
+  EXPECT_THAT(Values(program.catalogs.DefaultBoltUTSArrayENG), ElementsAre(85, 90, 100, 116, 125));
+}
+
+// ---- storing and resetting -----------------------------------------------------------------------------------------
+
+TEST_F(BoltLists, StoreEachListInItsCatalog) {
+  dialog.Open();
+  Add(English, Grade, "80");
+  Add(English, UTS, "130");
+  Add(English, Diameter, "1");
+  Add(Metric, Grade, "550");
+  Add(Metric, UTS, "900");
+  Add(Metric, Diameter, "25");
+
+  Accept();
+
+  EXPECT_THAT(Values(program.catalogs.DefaultBoltGradeArrayENG), ElementsAre(40, 55, 60, 75, 90, 100, 80));
+  EXPECT_THAT(Values(program.catalogs.DefaultBoltUTSArrayENG), ElementsAre(70, 85, 90, 100, 116, 125, 130));
+  EXPECT_THAT(Values(program.catalogs.DefaultBoltDiamArrayENG), ElementsAre(0.625F, 0.75F, 0.875F, 0.688F, 0.804F, 1));
+  EXPECT_THAT(Values(program.catalogs.DefaultBoltGradeArrayMET), ElementsAre(280, 390, 420, 520, 620, 690, 550));
+  EXPECT_THAT(Values(program.catalogs.DefaultBoltUTSArrayMET), ElementsAre(480, 590, 620, 690, 800, 860, 900));
+  EXPECT_THAT(Values(program.catalogs.DefaultBoltDiamArrayMET), ElementsAre(15.88F, 19, 22.22F, 17.48F, 20.42F, 25));
+  EXPECT_EQ(Written("ORBYBoltParams", "DefaultBoltGradeIndexENG"), "6");
+  EXPECT_EQ(Written("ORBYBoltParams", "DefaultBoltGradeArrayENG6"), "80");
+}
+
+TEST_F(BoltLists, StoreAustralianValuesUnderEachOthersNames) {
+  dialog.Open();
+  Add(Australian, UTS, "650");
+  Add(Australian, Diameter, "24");
+
+  Accept();
+
+  EXPECT_THAT(Values(program.catalogs.DefaultBoltDiamArrayMETAUS), ElementsAre(840, 440, 650));
+  EXPECT_THAT(Values(program.catalogs.DefaultBoltUTSArrayMETAUS), ElementsAre(21.7F, 21.7F, 24));
+  EXPECT_EQ(Written("ORBYBoltParams", "DefaultBoltUTSArrayMETAUS2"), "24");
+}
+
+TEST_F(BoltLists, AreResetAtOnceEvenWhenTheDialogIsCancelled) {
+  program.catalogs.DefaultBoltDiamArrayENG.HighestIndex = 1;
+  program.catalogs.DefaultBoltGradeArrayENG.Set(0, 44);
+  dialog.Open();
+
+  dialog.bolts[English].cmdSetDefaultBolt.Press();
+  dialog.cmdCancel.Press();
+
+  EXPECT_THAT(Entries(English, Diameter), ElementsAre("0.625", "0.75", "0.875", "0.688", "0.804"));
+  EXPECT_THAT(Entries(English, Grade), ElementsAre("40", "55", "60", "75", "90", "100"));
+  EXPECT_THAT(Values(program.catalogs.DefaultBoltDiamArrayENG), ElementsAre(0.625F, 0.75F, 0.875F, 0.688F, 0.804F));
+  EXPECT_EQ(program.catalogs.DefaultBoltGradeArrayENG[0], 40);
+}
+
+TEST_F(BoltLists, AreResetCatalogByCatalog) {
+  dialog.Open();
+  Add(Metric, Grade, "550");
+  Add(Australian, UTS, "650");
+  program.catalogs.DefaultBoltGradeArrayMET.Set(0, 300);
+
+  dialog.bolts[Australian].cmdSetDefaultBolt.Press();
+
+  EXPECT_THAT(Entries(Australian, UTS), ElementsAre("840", "440"));
+  EXPECT_THAT(Entries(Metric, Grade), ElementsAre("280", "390", "420", "520", "620", "690", "550"));
+  EXPECT_EQ(program.catalogs.DefaultBoltGradeArrayMET[0], 300);
+}
+
+TEST_F(BoltLists, KeepTheOptionWhenTheyAreReset) {
+  dialog.Open();
+  dialog.bolts[Metric].optBolt.SetValue(Diameter, true);
+
+  dialog.bolts[Metric].cmdSetDefaultBolt.Press();
+
+  EXPECT_TRUE(dialog.bolts[Metric].optBolt.Value(Diameter));
+}
+
+TEST_F(BoltLists, LetNumbersOnlyIntoTheEntryField) {
+  EXPECT_EQ(dialog.bolts[English].txtItem.KeyPress('x'), 0);
+  EXPECT_EQ(dialog.bolts[English].txtItem.KeyPress('7'), '7');
+}
+
+TEST_F(BoltLists, BearTheCaptionsOfTheirResetButtons) {
+  EXPECT_EQ(dialog.bolts[English].cmdSetDefaultBolt.Caption(), "Reset Default (US)");
+  EXPECT_EQ(dialog.bolts[Metric].cmdSetDefaultBolt.Caption(), "Reset Default (US)");
+  EXPECT_EQ(dialog.bolts[Australian].cmdSetDefaultBolt.Caption(), "Reset Default (AUS)");
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,203 @@
+"""New versions from a server on this machine: asked about, fetched, and started only when they are what they should be."""
+
+import hashlib
+import http.server
+import os
+import threading
+
+from orby import DesktopTest, until
+
+FILES = "/wp-content/uploads/2020/04/"
+SETUP = b"#!/bin/sh\nexit 0\n" * 1000
+SUM = hashlib.sha256(SETUP).hexdigest()
+QUESTION = ("A new ORBY version is available. \nNote that in order to download and install you may need administrator "
+            "priviledges and/or Windows may ask you for permission to do so. \nProceed with Download and Install?")
+CLOSING = ("ORBY will now close to install the new update. You may be asked to grant permission to Windows to allow "
+           "installation of the new version. ")
+
+
+class Server(http.server.ThreadingHTTPServer):
+    """Files by their names, at a port that the system chooses."""
+
+    def __init__(self):
+        self.files = {}
+        self.asked = []
+        super().__init__(("127.0.0.1", 0), Handler)
+
+    @property
+    def address(self):
+        return f"http://127.0.0.1:{self.server_address[1]}"
+
+
+class Handler(http.server.BaseHTTPRequestHandler):
+    def do_GET(self):
+        self.server.asked.append(self.path)
+        body = self.server.files.get(self.path.removeprefix(FILES))
+        self.send_response(404 if body is None else 200)
+        self.send_header("Content-Length", str(len(body or b"")))
+        self.end_headers()
+        self.wfile.write(body or b"")
+
+    def log_message(self, *words):
+        pass
+
+
+class Update(DesktopTest):
+    def setUp(self):
+        super().setUp()
+        self.server = Server()
+        thread = threading.Thread(target=self.server.serve_forever)
+        thread.start()
+        self.addCleanup(thread.join)
+        self.addCleanup(self.server.server_close)
+        self.addCleanup(self.server.shutdown)
+        self.opened = self.path("opened")
+        self.setup_file = self.path("Downloads", "ORBY1.0.01.exe")
+        self.make_opener()
+
+    def make_opener(self):
+        """The desktop's way to open files, which only notes down what it is given."""
+        folder = self.path("bin")
+        os.mkdir(folder)
+        tool = os.path.join(folder, "xdg-open")
+        with open(tool, "w", encoding="utf-8") as file:
+            file.write(f"#!/bin/sh\necho \"$1\" >> '{self.opened}'\n")
+        os.chmod(tool, 0o700)
+        self.tools = folder + os.pathsep + os.environ["PATH"]
+
+    def offer(self, text, setup=None):
+        self.server.files["orby_version.txt"] = text.encode()
+        if setup is not None:
+            self.server.files["ORBY1.0.01.exe"] = setup
+
+    def start_with_server(self):
+        return self.start(ORBY_UPDATE_SERVER=self.server.address, PATH=self.tools)
+
+    def open_updates(self, run):
+        run.main().wait_active()
+        run.main().choose("Help", "Program Updates...")
+        return run.window("Program Updates")
+
+    def opened_files(self):
+        if not os.path.exists(self.opened):
+            return []
+        with open(self.opened, encoding="utf-8") as file:
+            return file.read().splitlines()
+
+    def end(self, run):
+        run.quit()
+        self.assertEqual(run.wait_end(), 0)
+
+    def test_is_asked_about_at_the_start(self):
+        self.offer("1.0.01\r\n")
+
+        run = self.start_with_server()
+        run.answer(QUESTION, "No")
+
+        self.assertIn("Server/Current: 1.0.01/1.0.00", run.main().text("txtMain"))
+        with open(os.path.join(self.data, "orby_version.txt"), "rb") as file:
+            self.assertEqual(file.read(), b"1.0.01\r\n")
+        self.end(run)
+
+    def test_comes_up_when_the_user_wants_it(self):
+        self.offer("1.0.01\r\n")
+
+        run = self.start_with_server()
+        run.answer(QUESTION, "Yes")
+
+        updates = run.window("Program Updates")
+        updates.press("Command1")
+        updates.wait_gone()
+        self.end(run)
+
+    def test_is_not_mentioned_when_there_is_none(self):
+        self.offer("1.0.00\r\n")
+
+        run = self.start_with_server()
+        until(lambda: "Server/Current: 1.0.00/1.0.00" in run.main().text("txtMain"), "the look at the server")
+
+        self.assertEqual(len(run.windows()), 1)
+        self.end(run)
+
+    def test_is_not_looked_for_once_it_is_switched_off(self):
+        self.offer("1.0.00\r\n")
+        run = self.start_with_server()
+        updates = self.open_updates(run)
+        updates.press("chkShow")
+        until(lambda: updates.is_checked("chkShow"), "a ticked box")
+        updates.press("Command1")
+        updates.wait_gone()
+        self.end(run)
+        self.assertIn("RemindAnnualUpdates=0\r\n", self.configuration())
+        self.server.asked.clear()
+
+        self.end(self.start_with_server())
+
+        self.assertEqual(self.server.asked, [])
+
+    def test_is_no_matter_without_a_server(self):
+        run = self.start(ORBY_UPDATE_SERVER="")
+        updates = self.open_updates(run)
+
+        updates.press("cmdCheck")
+        run.answer("Internet Connection Failed", "OK")
+
+        updates.press("Command1")
+        updates.wait_gone()
+        self.end(run)
+
+    def test_is_downloaded_and_started(self):
+        self.offer(f"1.0.01,{SUM.upper()}\r\n", SETUP)
+        run = self.start_with_server()
+        run.answer(QUESTION, "No")
+        updates = self.open_updates(run)
+
+        updates.press("cmdCheck")
+        run.answer("A new version is available. Download?", "Yes")
+        done = "Download completed. Program at: " + self.setup_file
+        until(lambda: updates.label("lblStatus") == done, "the setup file")
+        updates.press("cmdInstall")
+        run.answer(CLOSING, "OK")
+
+        self.assertEqual(run.wait_end(), 0)
+        until(lambda: self.opened_files() == [self.setup_file], "the start of the setup file")
+        with open(self.setup_file, "rb") as file:
+            self.assertEqual(file.read(), SETUP)
+
+    def test_is_never_started_when_it_is_not_the_published_one(self):
+        self.offer(f"1.0.01,{SUM}\r\n", SETUP.replace(b"0", b"1"))
+        run = self.start_with_server()
+        run.answer(QUESTION, "No")
+        updates = self.open_updates(run)
+
+        updates.press("cmdDownUpdate")
+        run.answer("Download failed: the file that arrived is not the one that was published, and was deleted: " +
+                   self.setup_file, "OK")
+        updates.press("cmdInstall")
+        run.answer(f"Update file: {self.setup_file} not found", "OK")
+
+        self.assertEqual(os.listdir(self.path("Downloads")), [])
+        updates.press("Command1")
+        updates.wait_gone()
+        self.end(run)
+        self.assertEqual(self.opened_files(), [])
+
+    def test_is_never_started_when_it_did_not_arrive(self):
+        self.offer("1.0.01\r\n")
+        os.mkdir(self.path("Downloads"))
+        with open(self.setup_file, "wb") as file:
+            file.write(b"of another day")
+        run = self.start_with_server()
+        run.answer(QUESTION, "No")
+        updates = self.open_updates(run)
+
+        updates.press("cmdDownUpdate")
+        run.answer(f"Download failed: {self.server.address}{FILES}ORBY1.0.01.exe is not there, or did not arrive as a "
+                   "whole. Try again later.", "OK")
+        updates.press("cmdInstall")
+        run.answer(f"Update file: {self.setup_file} has not been checked. Please download it again.", "OK")
+
+        updates.press("Command1")
+        updates.wait_gone()
+        self.end(run)
+        self.assertEqual(self.opened_files(), [])

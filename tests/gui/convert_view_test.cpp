@@ -1,0 +1,77 @@
+// The file conversion utility as its user sees it.
+#include <QRadioButton>
+
+#include "dialogs/convert_dialog.h"
+#include "gui/gui_bench.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class ConvertView : public GuiTest {
+ protected:
+  ConvertView() {
+    program.CurrentFile = "/designs/panel3.ORB";
+    program.FileEmpty = false;
+  }
+
+  // The user converts the open design, in a dialog of its own.
+  void Convert() {
+    ConvertDialog dialog(program);
+    Use(dialog, [](QDialog& window) { Click(window, "Command2"); });
+  }
+};
+
+TEST_F(ConvertView, OffersTheOtherUnitsAlone) {
+  ConvertDialog dialog(program);
+  Use(dialog, [](QDialog& window) {
+    EXPECT_EQ(window.windowTitle(), "File Conversion Utility");
+    EXPECT_EQ(CaptionOn(window, "fraUnits"), "Units");
+    EXPECT_EQ(CaptionOn(window, "Option1_0"), "feet, psi, pcf");
+    EXPECT_EQ(CaptionOn(window, "Option1_1"), "meters, MPa, kN/m3");
+    EXPECT_FALSE(Find(window, "Option1_0").isEnabled());
+    EXPECT_TRUE(Find<QRadioButton>(window, "Option1_1").isChecked());
+    Press(Qt::Key_Escape);
+  });
+}
+
+TEST_F(ConvertView, ConvertsAndCloses) {
+  program.WorkParms.DepthofCover = 400;
+
+  Convert();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Conversion Completed: The conversion form will be closed"));
+  EXPECT_EQ(program.Units, Metric);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 121.92F);
+  EXPECT_EQ(program.CurrentFile, "Metric_panel3.ORB");
+}
+
+TEST_F(ConvertView, ConvertsBackByTheEnterKey) {
+  program.WorkParms.DepthofCover = 400;
+  Convert();
+  ConvertDialog dialog(program);
+
+  Use(dialog, [](QDialog& window) {
+    EXPECT_FALSE(Find(window, "Option1_1").isEnabled());
+    Press(Qt::Key_Enter);
+  });
+
+  EXPECT_EQ(program.Units, English);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_EQ(program.CurrentFile, "English_Metric_panel3.ORB");
+}
+
+TEST_F(ConvertView, LeavesTheDesignAloneWhenItIsCancelled) {
+  ConvertDialog dialog(program);
+
+  Use(dialog, [](QDialog& window) { Click(window, "Command1"); });
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  EXPECT_EQ(program.Units, English);
+  EXPECT_EQ(program.CurrentFile, "/designs/panel3.ORB");
+}
+
+}  // namespace
+}  // namespace orby::test

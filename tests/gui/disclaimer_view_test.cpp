@@ -1,0 +1,66 @@
+// The disclaimer as its user meets it.
+#include <QPlainTextEdit>
+
+#include "gui/gui_bench.h"
+#include "shell/disclaimer.h"
+
+namespace orby::test {
+namespace {
+
+using testing::IsEmpty;
+using testing::Not;
+
+class DisclaimerView : public GuiTest {
+ protected:
+  DisclaimerView() { program.IniFilePath = "/home/user/Documents/Orby/ORBY.INI"; }
+
+  Disclaimer disclaimer{program};
+};
+
+TEST_F(DisclaimerView, WrapsItsTextAndLetsNobodyChangeIt) {
+  Use(disclaimer, [](QDialog& window) {
+    const auto& text = Find<QPlainTextEdit>(window, "txtDisclaimer");
+    EXPECT_TRUE(text.isReadOnly());
+    EXPECT_EQ(text.lineWrapMode(), QPlainTextEdit::WidgetWidth);
+    EXPECT_EQ(text.accessibleName(), "Disclaimer of Liability Clause");
+    Click(window, "Command1");
+  });
+}
+
+TEST_F(DisclaimerView, IsNotPassedByEscapeOrTheCrossOfItsWindow) {
+  Use(disclaimer, [](QDialog& window) {
+    Press(Qt::Key_Escape);
+    EXPECT_TRUE(window.isVisible());
+    window.close();
+    Settle();
+    EXPECT_TRUE(window.isVisible());
+    Click(window, "Command1");
+  });
+}
+
+TEST_F(DisclaimerView, IsAcceptedByTheKeyboard) {
+  Use(disclaimer, [](QDialog& window) {
+    PressLetterOf(window, "chkShow");
+    PressLetterOf(window, "Command1");
+  });
+
+  EXPECT_EQ(program.settings.ShowDisclaim, 0);
+  EXPECT_THAT(platform.files.created, Not(IsEmpty()));
+}
+
+TEST_F(DisclaimerView, EndsTheProgramWhenItIsRefused) {
+  int ended = 0;
+  program.EndAtOnce = [&] { ++ended; };
+
+  Use(disclaimer, [](QDialog& window) {
+    Click(window, "chkShow");
+    Click(window, "cmdNoAccept");
+  });
+
+  EXPECT_EQ(ended, 1);
+  EXPECT_EQ(program.settings.ShowDisclaim, 1);
+  EXPECT_THAT(platform.files.created, IsEmpty());
+}
+
+}  // namespace
+}  // namespace orby::test

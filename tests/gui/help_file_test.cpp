@@ -1,0 +1,268 @@
+// The committed help read back: it is whole, it is what its pages say, and it has a topic for everything.
+#include <QDirIterator>
+#include <map>
+#include <random>
+#include <set>
+
+#include "gui/forms.h"
+#include "gui/gui_bench.h"
+#include "gui/help_bench.h"
+#include "shell/markup.h"
+
+namespace orby::test {
+namespace {
+
+using testing::Contains;
+using testing::IsEmpty;
+using testing::UnorderedElementsAreArray;
+
+// Anchors, links and pictures of a page.
+struct PageParts {
+  std::set<std::string> anchors;
+  std::vector<std::string> links;
+  std::vector<std::string> pictures;
+  std::string title;
+};
+
+PageParts PartsOf(std::string_view source) {
+  PageParts parts;
+  std::string before;
+  while (!source.empty()) {
+    const MarkupPiece piece = TakeMarkup(source);
+    if (piece.tag == "/TITLE") parts.title = DecodedText(piece.text);
+    if (piece.tag == "IMG") parts.pictures.push_back(AttributeOf(piece, "src"));
+    if (piece.tag != "A") continue;
+    if (const std::string name = AttributeOf(piece, "name"); !name.empty()) parts.anchors.insert(name);
+    if (const std::string link = AttributeOf(piece, "href"); !link.empty()) parts.links.push_back(link);
+  }
+  return parts;
+}
+
+// The files under a folder of the help, by their names in it.
+std::vector<std::string> FilesUnder(const std::string& folder) {
+  std::vector<std::string> names;
+  QDirIterator files(ToQt(folder), QDir::Files, QDirIterator::Subdirectories);
+  while (files.hasNext()) names.push_back(FromQt(files.next().mid(static_cast<qsizetype>(folder.size()) + 1)));
+  return names;
+}
+
+class HelpFile : public testing::Test, protected CommittedBook {
+ protected:
+  HelpFile() {
+    for (const HelpEntry& entry : AllEntries(book.Contents())) {
+      if (!entry.place.empty()) parts[entry.place] = PartsOf(file->Read(entry.place).value_or(""));
+    }
+  }
+
+  std::map<std::string, PageParts> parts;
+};
+
+TEST_F(HelpFile, HoldsThePagesAndPicturesAsTheyAreAndNothingElse) {
+  const std::string pages = HelpFolder + "/pages";
+  std::vector<std::string> wanted = FilesUnder(pages);
+
+  for (const std::string& name : wanted) {
+    EXPECT_EQ(file->Read(name), FileBytes(pages + "/" + name).toStdString()) << name;
+  }
+  for (const char* own : {"ORBY.hhc", "ORBY.hhk", "topics.txt"}) wanted.emplace_back(own);
+  EXPECT_THAT(file->Names(), UnorderedElementsAreArray(wanted));
+}
+
+TEST_F(HelpFile, HasTheOutlineForItsContents) {
+  std::vector<std::string> wanted;
+  for (const QByteArray& line : FileBytes(HelpFolder + "/contents.txt").split('\n')) {
+    const std::string text = line.trimmed().toStdString();
+    if (!text.empty()) wanted.push_back(text.ends_with(".html") ? text : text + " (heading)");
+  }
+
+  std::vector<std::string> found;
+  for (const HelpEntry& entry : AllEntries(book.Contents())) {
+    found.push_back(entry.place.empty() ? entry.title + " (heading)" : entry.place);
+    if (!entry.place.empty()) {
+      EXPECT_EQ(parts[entry.place].title, entry.title);
+    }
+  }
+
+  EXPECT_EQ(found, wanted);
+  EXPECT_GE(parts.size(), 42U);
+}
+
+TEST_F(HelpFile, LeadsNoLinkAstray) {
+  for (const auto& [name, page] : parts) {
+    for (const std::string& link : page.links) {
+      const std::string target(link.starts_with('#') ? name : std::string(PageOf(link)));
+      ASSERT_TRUE(parts.contains(target)) << name << ": " << link;
+      if (const auto at = link.find('#'); at != std::string::npos) {
+        EXPECT_THAT(parts[target].anchors, Contains(link.substr(at + 1))) << name;
+      }
+    }
+  }
+}
+
+TEST_F(HelpFile, HasEveryPictureOfItsPages) {
+  for (const auto& [name, page] : parts) {
+    for (const std::string& picture : page.pictures) {
+      const auto bytes = file->Read(picture);
+      ASSERT_TRUE(bytes) << name << ": " << picture;
+      EXPECT_FALSE(QImage::fromData(QByteArray::fromStdString(*bytes)).isNull()) << picture;
+    }
+  }
+}
+
+TEST_F(HelpFile, LeadsFromEachKeywordOfItsIndexToAPlace) {
+  EXPECT_GE(book.Index().size(), 100U);
+  for (const HelpKeyword& keyword : book.Index()) {
+    for (const std::string& place : keyword.places) {
+      const std::string page(PageOf(place));
+      ASSERT_TRUE(parts.contains(page)) << keyword.keyword << ": " << place;
+      if (place != page) {
+        EXPECT_THAT(parts[page].anchors, Contains(place.substr(page.size() + 1)));
+      }
+    }
+  }
+}
+
+TEST_F(HelpFile, HasItsIndexInTheOrderOfTheAlphabet) {
+  QStringList keywords;
+  for (const HelpKeyword& keyword : book.Index()) keywords.append(ToQt(keyword.keyword).toCaseFolded());
+
+  EXPECT_TRUE(std::is_sorted(keywords.begin(), keywords.end()));
+}
+
+TEST_F(HelpFile, HasALimitForWhatIsReadOfIt) {
+  EXPECT_EQ(file->Read("no-such-page.html"), std::nullopt);
+  EXPECT_EQ(file->Read(""), std::nullopt);
+  EXPECT_EQ(file->Read(std::string(600, 'x')), std::nullopt);
+  EXPECT_EQ(file->Read("pictures"), std::nullopt);
+}
+
+// ---- topics --------------------------------------------------------------------------------------------------------
+
+class TopicsOf : public GuiTest, public testing::WithParamInterface<FormMaker>, protected CommittedBook {
+ protected:
+  bool IsItsOwn(const std::string& place, const std::string& topic) {
+    const std::string end = "#" + topic;
+    return place.ends_with(end) && PartsOf(file->Read(std::string(PageOf(place))).value_or("")).anchors.contains(topic);
+  }
+};
+
+TEST_P(TopicsOf, TheForm) {
+  const std::string topic(GetParam().name);
+
+  EXPECT_TRUE(IsItsOwn(book.PlaceOf(topic), topic)) << topic;
+}
+
+// F1 in a field must not end at the top of a page.
+TEST_P(TopicsOf, EveryControlThatTheKeyboardReaches) {
+  program.settings.ShowDisclaim = 0;
+  const auto form = GetParam().make(program);
+  form->Open();
+  const auto window = MakeWindow(*form, nullptr);
+  const BoundForm view(*form, *window);
+
+  std::vector<std::string> missing;
+  for (const Control* control : form->Controls()) {
+    const QWidget* widget = view.WidgetOf(*control);
+    if (widget == nullptr || widget->focusPolicy() == Qt::NoFocus) continue;
+    const std::string topic = std::string(form->Name()) + "." + std::string(control->Name());
+    const std::string place = book.PlaceOf(topic);
+    const std::string array = topic.substr(0, topic.find_last_of('_'));
+    if (!IsItsOwn(place, topic) && !IsItsOwn(place, array)) missing.push_back(topic);
+  }
+
+  EXPECT_THAT(missing, IsEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, TopicsOf, testing::ValuesIn(FormMakers),
+                         [](const auto& maker) { return std::string(maker.param.name); });
+
+// ---- files that are not whole --------------------------------------------------------------------------------------
+
+class BrokenHelp : public testing::Test {
+ protected:
+  // Whether a file of these bytes opens.
+  bool Opens(const QByteArray& bytes) {
+    QFile copy(folder.filePath("copy.chm"));
+    EXPECT_TRUE(copy.open(QIODevice::WriteOnly));
+    copy.write(bytes);
+    copy.close();
+    return ChmFile::Open(FromQt(copy.fileName())) != nullptr;
+  }
+
+  QTemporaryDir folder;
+  const QByteArray whole = FileBytes(CommittedHelp);
+};
+
+TEST_F(BrokenHelp, OpensWhenItIsWhole) { EXPECT_TRUE(Opens(whole)); }
+
+TEST_F(BrokenHelp, DoesNotOpenWhenItIsNotThere) {
+  EXPECT_EQ(ChmFile::Open(FromQt(folder.filePath("none.chm"))), nullptr);
+  EXPECT_EQ(ChmFile::Open(FromQt(folder.path())), nullptr);
+}
+
+TEST_F(BrokenHelp, DoesNotOpenWhenItIsCutAnywhere) {
+  for (const int length : {0, 3, 95, 96, 97, 4096, 5000}) EXPECT_FALSE(Opens(whole.left(length))) << length;
+  for (int part = 1; part < 40; ++part) EXPECT_FALSE(Opens(whole.left(whole.size() * part / 40))) << part;
+  EXPECT_FALSE(Opens(whole.chopped(1)));
+  EXPECT_FALSE(Opens(whole + '\0'));
+}
+
+TEST_F(BrokenHelp, DoesNotOpenWithAnyBitTurned) {
+  std::mt19937 random(7);  // NOLINT: the same places each time
+  std::uniform_int_distribution<qsizetype> place(0, whole.size() - 1);
+  for (int i = 0; i < 100; ++i) {
+    // The directory at the beginning is what a reader trusts most.
+    const qsizetype at = i % 2 == 0 ? place(random) : place(random) % 5000;
+    QByteArray turned = whole;
+    turned[at] = static_cast<char>(turned[at] ^ (1 << i % 8));
+    EXPECT_FALSE(Opens(turned)) << at;
+  }
+}
+
+TEST_F(BrokenHelp, DoesNotOpenAsAnotherKindOfFile) {
+  EXPECT_FALSE(Opens(QByteArray("ITSF")));
+  EXPECT_FALSE(Opens(QByteArray(5000, 'x')));
+  EXPECT_FALSE(Opens(FileBytes(HelpFolder + "/contents.txt")));
+}
+
+TEST(CheckSum, IsTheUsualOne) {
+  EXPECT_EQ(CheckSum("123456789"), 0xCBF43926U);
+  EXPECT_EQ(CheckSum("6789", CheckSum("12345")), 0xCBF43926U);
+  EXPECT_EQ(CheckSum(""), 0U);
+}
+
+// ---- manual and documents ------------------------------------------------------------------------------------------
+
+// The pages of a PDF file that the toolkit has written: "/Count N" of its list of pages.
+int PageCount(const QByteArray& file) {
+  const qsizetype at = file.indexOf("/Count ");
+  return at < 0 ? 0 : file.mid(at + 7, 8).trimmed().split('\n').front().trimmed().toInt();
+}
+
+TEST(Manual, HasAChapterForEachPageOfTheHelp) {
+  const QByteArray manual = FileBytes(HelpFolder + "/ORBY.PDF");
+
+  EXPECT_TRUE(manual.startsWith("%PDF-"));
+  EXPECT_GE(PageCount(manual), 60);
+  EXPECT_LE(PageCount(manual), 200);
+  EXPECT_FALSE(manual.contains("/S /URI")) << "a link that leads out of the manual";
+  EXPECT_GE(manual.count("/S /GoTo"), 42);
+}
+
+class Document : public testing::TestWithParam<const char*> {};
+
+TEST_P(Document, HasAFewPages) {
+  const QByteArray paper = FileBytes(HelpFolder + "/resources/" + GetParam() + ".pdf");
+
+  EXPECT_TRUE(paper.startsWith("%PDF-"));
+  EXPECT_GE(PageCount(paper), 2);
+  EXPECT_LE(PageCount(paper), 12);
+}
+
+INSTANTIATE_TEST_SUITE_P(Resources, Document,
+                         testing::Values("bolt-design", "bolting-history", "intersections", "pull-tests",
+                                         "reading-curves", "roof-screening", "standing-supports", "weak-ground"),
+                         [](const auto& entry) { return ToQt(entry.param).replace('-', '_').toStdString(); });
+
+}  // namespace
+}  // namespace orby::test

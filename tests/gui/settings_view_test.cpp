@@ -1,0 +1,202 @@
+// The settings as their user sees them, and the font dialog behind one of their buttons.
+#include <QCheckBox>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+
+#include "core/dialog_helpers.h"
+#include "dialogs/settings_dialog.h"
+#include "gui/gui_bench.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+class SettingsView : public GuiTest {
+ protected:
+  SettingsView() {
+    platform.fonts.screen = {"Arial", "Courier New", "Sans"};
+    platform.files.folders.insert("/home/user/Documents/Orby");
+    platform.files.folders.insert("/designs");
+    program.IniFilePath = "/home/user/Documents/Orby/ORBY.INI";
+    program.settings.MaxDisplaySize = 4096;
+    program.settings.DataPath = "/home/user/Documents/Orby/";
+    program.settings.DisplayFontName = "Courier New";
+  }
+
+  int modified = 0;
+  SettingsDialog settings{program, [this] { ++modified; }};
+};
+
+TEST_F(SettingsView, AreSetByTheKeyboardAlone) {
+  Use(settings, [](QDialog& window) {
+    Find(window, "optUnits_0").setFocus(Qt::TabFocusReason);
+    Press(Qt::Key_Right);
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(FocusName(), "Text1");
+    Type("RS7");
+    Press(Qt::Key_Tab);
+    Type("/designs");
+    PressLetterOf(window, "cmdSetDefault");
+    PressLetterOf(window, "chkEnableTB");
+    PressLetterOf(window, "Text3");
+    Type("8000");
+    Press(Qt::Key_Enter);
+  });
+
+  EXPECT_EQ(program.settings.UnitsDefault, Metric);
+  EXPECT_EQ(program.settings.FileExtension, "RS7");
+  EXPECT_EQ(program.settings.DataPath, "/designs/");
+  EXPECT_EQ(program.settings.EnableMainMenuToolbar, 0);
+  EXPECT_EQ(program.settings.MaxDisplaySize, 8000);
+  EXPECT_EQ(modified, 1);
+}
+
+TEST_F(SettingsView, StayAsTheyWereAfterEscape) {
+  Use(settings, [](QDialog& window) {
+    Click(window, "chkMaxMenu");
+    Press(Qt::Key_Escape);
+  });
+
+  EXPECT_EQ(program.settings.MaxMainMenu, 0);
+  EXPECT_EQ(modified, 0);
+}
+
+TEST_F(SettingsView, TakeOnlyNumbersForTheSizeOfTheHistory) {
+  Use(settings, [](QDialog& window) {
+    TypeInto(window, "Text3", "5z0?00");
+    EXPECT_EQ(TextOn(window, "Text3"), "5000");
+    Click(window, "cmdOK");
+  });
+
+  EXPECT_EQ(program.settings.MaxDisplaySize, 5000);
+}
+
+TEST_F(SettingsView, GiveTheKeyboardToTheFieldAtFault) {
+  Use(settings, [this](QDialog& window) {
+    TypeInto(window, "Text2", "/nowhere");
+    Click(window, "cmdOK");
+    EXPECT_EQ(FocusName(), "Text2");
+    TypeInto(window, "Text2", "/designs");
+    TypeInto(window, "Text3", "4095");
+    Click(window, "cmdOK");
+    EXPECT_EQ(FocusName(), "Text3");
+    TypeInto(window, "Text3", "4096");
+    TypeInto(window, "Text1", "O.B");
+    Click(window, "cmdOK");
+    EXPECT_EQ(FocusName(), "Text1");
+    EXPECT_THAT(platform.boxes.shown, SizeIs(3));
+    Press(Qt::Key_Escape);
+  });
+}
+
+TEST_F(SettingsView, ComeUpWithoutAMessage) {
+  program.settings.ShortRecentFiles = 1;
+
+  Use(settings, [this](QDialog& window) {
+    EXPECT_TRUE(Find<QCheckBox>(window, "chkShortNames").isChecked());
+    EXPECT_THAT(platform.boxes.shown, IsEmpty());
+    Press(Qt::Key_Escape);
+  });
+}
+
+TEST_F(SettingsView, LetTheClickOnABoxEndBeforeTheyTellWhatItMeans) {
+  Use(settings, [this](QDialog& window) {
+    auto& box = Find<QCheckBox>(window, "chkShortNames");
+
+    box.click();
+    EXPECT_TRUE(box.isChecked());
+    EXPECT_THAT(platform.boxes.shown, IsEmpty());
+    Settle();
+
+    EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Option will take effect upon restarting this program"));
+    EXPECT_TRUE(box.isChecked());
+    Click(window, "cmdOK");
+  });
+
+  EXPECT_EQ(program.settings.ShortRecentFiles, 1);
+}
+
+TEST_F(SettingsView, TakeAFolderThatIsPointedAt) {
+  platform.fileDialogs.answers = {"/designs"};
+
+  Use(settings, [](QDialog& window) {
+    Click(window, "cmdSetPath");
+    EXPECT_EQ(TextOn(window, "Text2"), "/designs");
+    Click(window, "cmdOK");
+  });
+
+  EXPECT_EQ(program.settings.DataPath, "/designs/");
+}
+
+// ---- the font ------------------------------------------------------------------------------------------------------
+
+TEST_F(SettingsView, ChooseTheFontOfTheHistoryByTheArrowKeys) {
+  scripts.Add([](QDialog& settingsWindow) {
+    PressLetterOf(settingsWindow, "Command5");
+    Click(settingsWindow, "cmdOK");
+  });
+  scripts.Add([](QDialog& window) {
+    auto& list = Find<QListWidget>(window, "lstFont");
+    const auto& sample = Find<QPlainTextEdit>(window, "txtSample");
+    EXPECT_EQ(list.currentItem()->text(), "Courier New");
+    EXPECT_TRUE(list.currentItem()->isSelected());
+    EXPECT_EQ(sample.font().family(), "Courier New");
+    PressLetterOf(window, "lstFont");
+    Press(Qt::Key_Down);
+    EXPECT_EQ(sample.font().family(), "Sans");
+    TypeInto(window, "txtSize", "14");
+    EXPECT_EQ(sample.font().pointSize(), 14);
+    PressLetterOf(window, "chkItalic");
+    EXPECT_TRUE(sample.font().italic());
+    Press(Qt::Key_Enter);
+  });
+
+  ShowForm(program, settings);
+
+  EXPECT_EQ(program.settings.DisplayFontName, "Sans");
+  EXPECT_EQ(program.settings.DisplayFontSize, 14);
+  EXPECT_EQ(program.settings.DisplayFontItalic, -1);
+}
+
+TEST_F(SettingsView, ChooseAFontByTheMouse) {
+  scripts.Add([](QDialog& settingsWindow) {
+    Click(settingsWindow, "Command5");
+    Click(settingsWindow, "cmdOK");
+  });
+  scripts.Add([](QDialog& window) {
+    auto& list = Find<QListWidget>(window, "lstFont");
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, list.visualItemRect(list.item(0)).center());
+    Settle();
+    EXPECT_EQ(Find<QPlainTextEdit>(window, "txtSample").font().family(), "Arial");
+    Click(window, "cmdOK");
+  });
+
+  ShowForm(program, settings);
+
+  EXPECT_EQ(program.settings.DisplayFontName, "Arial");
+}
+
+TEST_F(SettingsView, LeaveAFontThatIsNotOfferedAloneWhenTheListGetsTheKeyboard) {
+  program.settings.DisplayFontName = "Terminal";
+  scripts.Add([](QDialog& settingsWindow) {
+    Click(settingsWindow, "Command5");
+    Press(Qt::Key_Escape);
+  });
+  scripts.Add([this](QDialog& window) {
+    Find(window, "lstFont").setFocus(Qt::TabFocusReason);
+    Settle();
+    EXPECT_TRUE(Find<QListWidget>(window, "lstFont").selectedItems().isEmpty());
+    Click(window, "cmdOK");
+    EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid font selection"));
+    Press(Qt::Key_Escape);
+  });
+
+  ShowForm(program, settings);
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,64 @@
+// A web server on this machine, at a port that the system chooses, in the event loop of the test.
+#pragma once
+
+#include <QHash>
+#include <QPointer>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace orby::test {
+
+struct WebRequest {
+  QByteArray path;
+  QHash<QByteArray, QByteArray> headers;  // names in lower case
+};
+
+class WebServer {
+ public:
+  using Answer = std::function<void(const WebRequest& request, QTcpSocket& socket)>;
+
+  WebServer();
+  WebServer(const WebServer&) = delete;
+  WebServer& operator=(const WebServer&) = delete;
+
+  std::string Address(const QByteArray& path) const;
+
+  // What is answered under this path; any other path is not found.
+  void Serve(const QByteArray& path, Answer answer) { answers_[path] = std::move(answer); }
+  // A file, and the rest of it to who asks for the rest of this very file. mark: a header line, such as "ETag: \"1\"".
+  void ServeFile(const QByteArray& path, const QByteArray& bytes, const QByteArray& mark = {});
+  // The head of the file and so many of its bytes; then the connection breaks.
+  void ServeBroken(const QByteArray& path, const QByteArray& bytes, qsizetype sent, const QByteArray& mark = {});
+  void ServeRedirection(const QByteArray& path, const QByteArray& location);
+  // An answer without an end. length: its header line, if any.
+  void ServeEndless(const QByteArray& path, const QByteArray& length = {});
+  // The head alone; the body comes by Send.
+  void ServeSlowly(const QByteArray& path, qsizetype length);
+  void Send(const QByteArray& bytes);
+  bool IsAskedSlowly() const { return slow_ != nullptr; }
+  // Whether the client has hung up on the slow answer.
+  bool IsLeft() const { return slow_ == nullptr || slow_->state() == QAbstractSocket::UnconnectedState; }
+
+  const std::vector<WebRequest>& Requests() const { return requests_; }
+  qint64 BodyBytes() const { return bodyBytes_; }  // of all files and endless answers so far
+
+  // A whole answer; the connection ends with it.
+  static void Reply(QTcpSocket& socket, const QByteArray& status, const QByteArray& headers, const QByteArray& body);
+
+ private:
+  void Read(QTcpSocket& socket);
+  void Handle(const QByteArray& head, QTcpSocket& socket);
+
+  QTcpServer server_;
+  std::map<QByteArray, Answer> answers_;
+  std::map<QTcpSocket*, QByteArray> heads_;
+  std::vector<WebRequest> requests_;
+  QPointer<QTcpSocket> slow_;
+  qint64 bodyBytes_ = 0;
+};
+
+}  // namespace orby::test

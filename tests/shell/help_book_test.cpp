@@ -1,0 +1,200 @@
+#include "shell/help_book.h"
+
+#include <gmock/gmock.h>
+
+#include "shell/markup.h"
+
+namespace orby::test {
+namespace {
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::Field;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+constexpr const char* Contents = R"(<!DOCTYPE HTML PUBLIC "-//IETF//DTD HTML//EN">
+<HTML><HEAD><!-- contents --></HEAD><BODY>
+<UL>
+<LI><OBJECT type="text/sitemap"><param name="Name" value="Getting started"></OBJECT>
+<UL>
+<LI><OBJECT type="text/sitemap"><param name="Name" value="Welcome"><param name="Local" value="welcome.html"></OBJECT>
+</UL>
+<LI><OBJECT type="text/sitemap"><param name="Name" value="Windows &amp; dialogs"></OBJECT>
+<UL>
+<LI><OBJECT type="text/sitemap"><param name="Name" value="Graph"><param name="Local" value="graph.html"></OBJECT>
+<LI><OBJECT type="text/sitemap"><param name="Name" value="Cost"><param name="Local" value="cost.html"></OBJECT>
+</UL>
+</UL></BODY></HTML>)";
+
+constexpr const char* Index = R"(<UL>
+<LI><OBJECT type="text/sitemap"><param name="Name" value="bolt"><param name="Local" value="cost.html"></OBJECT>
+<LI><OBJECT type="text/sitemap"><param name="Name" value="Bolt"><param name="Local" value="graph.html#frmGraph"></OBJECT>
+<LI><OBJECT type="text/sitemap"><param name="Name" value="crew"><param name="Local" value="cost.html"></OBJECT>
+</UL>)";
+
+HelpBook BookOf(std::map<std::string, std::string> files) {
+  return HelpBook([files = std::move(files)](const std::string& name) -> std::optional<std::string> {
+    const auto found = files.find(name);
+    if (found == files.end()) return std::nullopt;
+    return found->second;
+  });
+}
+
+HelpBook MineBook() {
+  return BookOf({
+      {"ORBY.hhc", Contents},
+      {"ORBY.hhk", Index},
+      {"topics.txt",
+       "frmGraph\tgraph.html\nfrmGraph.cmdPrint\tgraph.html\nfrmGraph.Text1\tgraph.html\n"
+       "frmTULKCost.txtnboltsRow\tcost.html\n"},
+      {"welcome.html", "<html><head><title>Welcome bolt</title></head><body><h1>Welcome</h1><p>Roof support."},
+      {"graph.html", "<h1>Graph</h1><p>A curve of a roof <b>b</b>olt, and of bolts.</p><ul><li>Roof<li>x</ul>"},
+      {"cost.html", "<h1>Cost</h1><p>Roof&nbsp;bolts cost money; a BOLT costs 5.72.</p>"},
+  });
+}
+
+// ---- contents and index --------------------------------------------------------------------------------------------
+
+TEST(HelpContents, AreATreeOfHeadingsAndPages) {
+  EXPECT_THAT(ReadSitemap(Contents),
+              ElementsAre(HelpEntry{"Getting started", "", {HelpEntry{"Welcome", "welcome.html", {}}}},
+                          HelpEntry{"Windows & dialogs",
+                                    "",
+                                    {HelpEntry{"Graph", "graph.html", {}}, HelpEntry{"Cost", "cost.html", {}}}}));
+}
+
+TEST(HelpContents, MayLackQuotesEndsAndOrder) {
+  EXPECT_THAT(ReadSitemap("<ul><li><object><param value=Welcome name=Name><PARAM NAME='local' VALUE='w.html'></object"),
+              ElementsAre(HelpEntry{"Welcome", "w.html", {}}));
+  EXPECT_THAT(ReadSitemap("</ul></ul><object><param name=\"Name\" value=\"a > b\"></object>"),
+              ElementsAre(HelpEntry{"a > b", "", {}}));
+}
+
+TEST(HelpContents, LeaveOutWhatHasNoTitle) {
+  EXPECT_THAT(ReadSitemap("<ul><object><param name=\"Local\" value=\"w.html\"></object></ul>"), IsEmpty());
+  EXPECT_THAT(ReadSitemap(""), IsEmpty());
+  EXPECT_THAT(ReadSitemap("<"), IsEmpty());
+  EXPECT_THAT(ReadSitemap("<object><param name=\"Name"), IsEmpty());
+}
+
+TEST(HelpContents, OfABrokenFileAreNoDeeperThanABook) {
+  std::string source;
+  for (int i = 0; i < 100000; ++i) source += "<ul><object><param name=Name value=x></object>";
+
+  std::size_t depth = 0;
+  const auto entries = ReadSitemap(source);
+  for (const auto* at = &entries; !at->empty(); at = &at->front().entries) ++depth;
+
+  EXPECT_EQ(depth, 15U);
+}
+
+TEST(HelpIndex, HasAKeywordOfSeveralPlacesOnce) {
+  EXPECT_THAT(ReadIndex(Index), ElementsAre(HelpKeyword{"bolt", {"cost.html", "graph.html#frmGraph"}},
+                                            HelpKeyword{"crew", {"cost.html"}}));
+}
+
+// ---- places --------------------------------------------------------------------------------------------------------
+
+TEST(HelpPlaces, BeginWithTheFirstPage) {
+  EXPECT_EQ(MineBook().FirstPage(), "welcome.html");
+  EXPECT_EQ(BookOf({}).FirstPage(), "");
+}
+
+TEST(HelpPlaces, AreNotTakenFromALineWithoutATopic) {
+  HelpBook book = BookOf({{"ORBY.hhc", Contents}, {"topics.txt", "\tgraph.html\nfrmGraph\n"}});
+
+  EXPECT_EQ(book.PlaceOf("frmGraph"), "welcome.html");
+}
+
+TEST(HelpPlaces, HaveTheTitleOfTheirPage) {
+  EXPECT_EQ(MineBook().TitleOf("graph.html#frmGraph.Text1"), "Graph");
+  EXPECT_EQ(MineBook().TitleOf("else.html#x"), "else.html");
+}
+
+struct TopicCase {
+  const char* what;
+  const char* topic;
+  const char* place;
+};
+
+class HelpTopic : public testing::TestWithParam<TopicCase> {};
+
+TEST_P(HelpTopic, IsFound) { EXPECT_EQ(MineBook().PlaceOf(GetParam().topic), GetParam().place); }
+
+INSTANTIATE_TEST_SUITE_P(
+    Topics, HelpTopic,
+    testing::Values(TopicCase{"OfAForm", "frmGraph", "graph.html#frmGraph"},
+                    TopicCase{"OfAControl", "frmGraph.cmdPrint", "graph.html#frmGraph.cmdPrint"},
+                    TopicCase{"OfAnArrayForItsMember", "frmGraph.Text1_2", "graph.html#frmGraph.Text1"},
+                    TopicCase{"OfAnArrayForItsTenthMember", "frmGraph.Text1_10", "graph.html#frmGraph.Text1"},
+                    TopicCase{"OfTheFormForAControlWithoutOne", "frmGraph.cmdClose", "graph.html#frmGraph"},
+                    TopicCase{"OfTheFormForAMemberWithoutOne", "frmGraph.Text7_1", "graph.html#frmGraph"},
+                    TopicCase{"AsTheFirstPageForAFormWithoutOne", "frmTULKCost.txtCrew", "welcome.html"},
+                    TopicCase{"AsTheFirstPageForNothing", "", "welcome.html"},
+                    TopicCase{"WithTheCaseOfItsLetters", "frmTULKCost.txtnboltsRow",
+                              "cost.html#frmTULKCost.txtnboltsRow"}),
+    [](const auto& entry) { return std::string(entry.param.what); });
+
+// ---- search --------------------------------------------------------------------------------------------------------
+
+TEST(HelpSearch, PutsThePageWithMostHitsFirstAndEqualOnesByTitle) {
+  const auto found = MineBook().Search("roof");
+
+  EXPECT_THAT(found, ElementsAre(AllOf(Field(&HelpHit::title, "Graph"), Field(&HelpHit::hits, 2)),
+                                 AllOf(Field(&HelpHit::title, "Cost"), Field(&HelpHit::hits, 1)),
+                                 AllOf(Field(&HelpHit::title, "Welcome"), Field(&HelpHit::hits, 1))));
+}
+
+TEST(HelpSearch, ShowsTheWordsAroundTheFirstHit) {
+  EXPECT_EQ(MineBook().Search("money").front().snippet, "Cost Roof bolts cost money; a BOLT costs 5.72.");
+}
+
+TEST(HelpSearch, WantsAllWords) {
+  EXPECT_THAT(MineBook().Search("roof curve"), ElementsAre(Field(&HelpHit::place, "graph.html")));
+  EXPECT_THAT(MineBook().Search("curve money"), IsEmpty());
+}
+
+TEST(HelpSearch, TakesNoNoticeOfTheCase) { EXPECT_THAT(MineBook().Search("ROOF"), SizeIs(3)); }
+
+TEST(HelpSearch, CountsTheBeginningOfAWordAndNotItsMiddle) {
+  EXPECT_THAT(MineBook().Search("mon"), SizeIs(1));
+  EXPECT_THAT(MineBook().Search("oney"), IsEmpty());
+}
+
+TEST(HelpSearch, CountsAWordThatIsGivenTwiceOnce) { EXPECT_EQ(MineBook().Search("curve, Curve").front().hits, 1); }
+
+TEST(HelpSearch, FindsNothingWithoutAWord) {
+  EXPECT_THAT(MineBook().Search(""), IsEmpty());
+  EXPECT_THAT(MineBook().Search(" ; - "), IsEmpty());
+}
+
+TEST(HelpSearch, DoesNotSeeWhatStandsInTheHeadOfAPage) { EXPECT_THAT(MineBook().Search("welcome bolt"), IsEmpty()); }
+
+TEST(HelpSearch, CutsLongPagesAtWords) {
+  std::string page = "<p>";
+  for (int i = 0; i < 40; ++i) page += "lagging ";
+  page += "truss";
+  for (int i = 0; i < 40; ++i) page += " lagging";
+  HelpBook book = BookOf({{"ORBY.hhc", Contents}, {"cost.html", page}});
+
+  const auto found = book.Search("truss");
+
+  ASSERT_THAT(found, SizeIs(1));
+  EXPECT_THAT(found.front().snippet, HasSubstr("lagging truss lagging"));
+  EXPECT_TRUE(found.front().snippet.starts_with("...lagging "));
+  EXPECT_TRUE(found.front().snippet.ends_with(" lagging..."));
+}
+
+// ---- the text of a page --------------------------------------------------------------------------------------------
+
+TEST(HelpPage, IsReadAsItsWords) {
+  EXPECT_EQ(TextOfPage("<body><p>4 &lt; 5 &amp;amp;</p><td>a</td><td>b</td>c<br>d<!-- <p>e --> f<sub>g</sub>"),
+            "4 < 5 &amp; a b c d fg");
+}
+
+TEST(HelpPage, KeepsAnEntityThatItDoesNotKnow) { EXPECT_EQ(TextOfPage("a &frac12; & b"), "a &frac12; & b"); }
+
+}  // namespace
+}  // namespace orby::test

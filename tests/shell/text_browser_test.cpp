@@ -1,0 +1,527 @@
+#include "shell/text_browser.h"
+
+#include <gmock/gmock.h>
+
+#include "core/messages.h"
+#include "support/recording_platform.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using Step = MemoryFiles::Step;
+
+std::vector<std::string> ItemsOf(const List& list) {
+  std::vector<std::string> items;
+  for (const ComboItem& item : list.Items()) items.push_back(item.text);
+  return items;
+}
+
+// A machine with two disks, and designs in the user's documents.
+struct ABrowser : testing::Test {
+  ABrowser() {
+    platform.files.drives = {"/", "/media/stick"};
+    platform.files.folders = {
+        "",     "/home",  "/home/user",   "/home/user/Documents", "/home/user/Documents/Mines", "/etc",
+        "/tmp", "/media", "/media/stick", "/media/stick/old",     "/home/user/Documents/Scans"};
+    platform.files.files["/home/user/Documents/panel3.ORB"] = "cover\r\n400\r\n";
+    platform.files.files["/home/user/Documents/panel4.orb"] = "cover\r\n980\r\n";
+    platform.files.files["/home/user/Documents/notes.txt"] = "one\ntwo";
+    platform.files.files["/home/user/Documents/Mines/list"] = "North\n";
+    platform.files.files["/home/user/Documents/Mines/east.orb"] = "east\n";
+    platform.files.files["/root.orb"] = "root\n";
+    platform.files.files["/media/stick/stick.orb"] = "stick\n";
+    program.settings.DataPath = "/home/user/Documents/";
+    program.settings.ExternalEditor = "/usr/bin/viewer";
+    program.folders.ProgramTemporary = "/tmp/";
+    program.IniFilePath = "/home/user/ORBY.INI";
+    program.textBrowse.BrowseFontName = "Courier New";
+  }
+
+  void Open() {
+    browser.Open();
+    program.history.Text.clear();
+  }
+
+  int ItemOf(const List& list, const std::string& text) {
+    const auto items = ItemsOf(list);
+    return static_cast<int>(std::ranges::find(items, text) - items.begin());
+  }
+  void ClickFolder(const std::string& text) { browser.Dir1.ClickItem(ItemOf(browser.Dir1, text)); }
+  void ClickFile(const std::string& name) { browser.File1.ClickItem(ItemOf(browser.File1, name)); }
+  // Lets the file come in to its end.
+  void Wait() {
+    while (!platform.clock.waiting.empty()) platform.clock.Pass();
+  }
+
+  RecordingPlatform platform;
+  Program program{platform.Doors()};
+  TextBrowser browser{program};
+};
+
+// ---- opening and closing -------------------------------------------------------------------------------------------
+
+TEST_F(ABrowser, StartsInTheDataFolder) {
+  Open();
+
+  EXPECT_EQ(browser.Drive1.Text(), "/");
+  EXPECT_THAT(ItemsOf(browser.Dir1),
+              ElementsAre("/", "  home", "    user", "      Documents", "        Mines", "        Scans"));
+  EXPECT_EQ(browser.Dir1.ListIndex(), 3);
+  EXPECT_THAT(ItemsOf(browser.File1), ElementsAre("panel3.ORB", "panel4.orb"));
+  EXPECT_EQ(browser.File1.ListIndex(), -1);
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(ABrowser, TitlesItsMessagesWithTheBareWords) {
+  Open();
+
+  EXPECT_EQ(program.titles.ErrorTitle, "Error");
+}
+
+TEST_F(ABrowser, StartsInTheLastFolderOfTheRun) {
+  program.textBrowse.LastFolder = "/media/stick/old";
+
+  Open();
+
+  EXPECT_EQ(browser.Drive1.Text(), "/media/stick");
+  EXPECT_THAT(ItemsOf(browser.Dir1), ElementsAre("/media/stick", "  old"));
+  EXPECT_EQ(browser.Dir1.ListIndex(), 1);
+}
+
+TEST_F(ABrowser, StartsAboveALastFolderThatIsGone) {
+  program.textBrowse.LastFolder = "/home/user/Documents/Gone/Deep";
+
+  Open();
+
+  EXPECT_EQ(ItemsOf(browser.Dir1)[3], "      Documents");
+  EXPECT_EQ(browser.Dir1.ListIndex(), 3);
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(ABrowser, StandsEmptyOnAMachineThatCannotBeRead) {
+  platform.files.Fail(Step::ListFolders, 70);
+
+  Open();
+
+  EXPECT_THAT(browser.Dir1.Items(), IsEmpty());
+  EXPECT_THAT(browser.File1.Items(), IsEmpty());
+}
+
+TEST_F(ABrowser, OffersTheFilesOfTheProgramUnlessAFilterIsStored) {
+  program.settings.FileExtension = "ORB";
+  Open();
+
+  EXPECT_EQ(browser.Text2.Text(), "*.ORB");
+}
+
+TEST_F(ABrowser, TakesTheStoredFilterFontAndViewer) {
+  program.textBrowse = {"Terminal", 14, -1, 0, "*.txt", 1, {}};
+
+  Open();
+
+  EXPECT_EQ(browser.Text2.Text(), "*.txt");
+  EXPECT_THAT(ItemsOf(browser.File1), ElementsAre("notes.txt"));
+  EXPECT_EQ(browser.RichTextBox1.Font(), (FontChoice{"Terminal", 14, true, false}));
+  EXPECT_TRUE(browser.Check1.Checked());
+}
+
+TEST_F(ABrowser, StoresWhatTheUserChose) {
+  Open();
+  ClickFolder("        Mines");
+  browser.Text2.SetText("*.txt");
+  browser.Check1.SetValue(1);
+  browser.RichTextBox1.SetFont({"Terminal", 14, true, true});
+
+  browser.Command1.Press();
+
+  EXPECT_FALSE(browser.IsOpen());
+  EXPECT_EQ(program.textBrowse.LastFolder, "/home/user/Documents/Mines");
+  EXPECT_EQ(platform.files.files.at("/home/user/ORBY.INI"),
+            "[TextBrowse]\r\nBrowseFontName=Terminal\r\nBrowseFontSize=14\r\nBrowseFontBold=-1\r\n"
+            "BrowseFontItalic=-1\r\nBrowseDefaultFilter=*.txt\r\nBrowseUseNotepad=1\r\n");
+}
+
+// ---- drives and folders --------------------------------------------------------------------------------------------
+
+TEST_F(ABrowser, ListsTheDrives) {
+  Open();
+
+  ASSERT_EQ(browser.Drive1.Items().size(), 2U);
+  EXPECT_EQ(browser.Drive1.Items()[0].text, "/");
+  EXPECT_EQ(browser.Drive1.Items()[1].text, "/media/stick");
+}
+
+TEST_F(ABrowser, GoesToTheTopOfAnotherDrive) {
+  Open();
+
+  browser.Drive1.SetListIndex(1);
+
+  EXPECT_THAT(ItemsOf(browser.Dir1), ElementsAre("/media/stick", "  old"));
+  EXPECT_EQ(browser.Dir1.ListIndex(), 0);
+  EXPECT_THAT(ItemsOf(browser.File1), ElementsAre("stick.orb"));
+}
+
+TEST_F(ABrowser, GoesBackToTheLastDriveWhenAnotherCannotBeRead) {
+  Open();
+  platform.files.folders.erase("/media/stick");
+
+  browser.Drive1.SetListIndex(1);
+
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("Windows is unable to read selected drive. Make sure the door is closed and the disk is "
+                          "formatted and free of errors"));
+  EXPECT_EQ(browser.Drive1.Text(), "/");
+  EXPECT_EQ(browser.Drive1.ListIndex(), 0);
+  EXPECT_EQ(browser.Dir1.ListIndex(), 3);
+  EXPECT_THAT(ItemsOf(browser.File1), ElementsAre("panel3.ORB", "panel4.orb"));
+}
+
+TEST_F(ABrowser, CannotReadADriveThatIsNotThere) {
+  Open();
+
+  browser.Drive1.SetText("C:");
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre(HasSubstr("unable to read selected drive")));
+  EXPECT_EQ(browser.Drive1.Text(), "/");
+}
+
+TEST_F(ABrowser, OpensAFolderInside) {
+  Open();
+
+  ClickFolder("        Mines");
+
+  EXPECT_THAT(ItemsOf(browser.Dir1), ElementsAre("/", "  home", "    user", "      Documents", "        Mines"));
+  EXPECT_EQ(browser.Dir1.ListIndex(), 4);
+  EXPECT_THAT(ItemsOf(browser.File1), ElementsAre("east.orb"));
+}
+
+TEST_F(ABrowser, OpensAFolderAbove) {
+  Open();
+
+  ClickFolder("/");
+
+  EXPECT_THAT(ItemsOf(browser.Dir1), ElementsAre("/", "  etc", "  home", "  media", "  tmp"));
+  EXPECT_EQ(browser.Dir1.ListIndex(), 0);
+  EXPECT_THAT(ItemsOf(browser.File1), ElementsAre("root.orb"));
+}
+
+TEST_F(ABrowser, FollowsTheFoldersToAnotherDrive) {
+  Open();
+  ClickFolder("/");
+  ClickFolder("  media");
+
+  ClickFolder("    stick");
+
+  EXPECT_EQ(browser.Drive1.Text(), "/media/stick");
+  EXPECT_EQ(browser.Drive1.ListIndex(), 1);
+  EXPECT_THAT(ItemsOf(browser.Dir1), ElementsAre("/media/stick", "  old"));
+}
+
+TEST_F(ABrowser, StaysWhereItIsWhenAFolderCannotBeRead) {
+  Open();
+  platform.files.Fail(Step::ListFolders, 70);
+  platform.boxes.answers.push_back(box_result::Cancel);
+
+  ClickFolder("        Mines");
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error occurred: Permission denied (70)"));
+  EXPECT_EQ(browser.Dir1.ListIndex(), 3);
+  EXPECT_THAT(ItemsOf(browser.File1), ElementsAre("panel3.ORB", "panel4.orb"));
+}
+
+TEST_F(ABrowser, TriesAFolderAgainOnRequest) {
+  Open();
+  platform.files.folders.erase("/home/user/Documents/Mines");
+  platform.boxes.answers.push_back(box_result::Ok);
+
+  ClickFolder("        Mines");
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error occurred: Path not found (76). Procedure Terminated"));
+  EXPECT_EQ(browser.Dir1.ListIndex(), 3);
+}
+
+TEST_F(ABrowser, FiltersTheFilesAsThePatternIsTyped) {
+  Open();
+
+  browser.Text2.SetText("*.t");
+  EXPECT_THAT(browser.File1.Items(), IsEmpty());
+  browser.Text2.SetText("*.txt;*3.orb");
+  EXPECT_THAT(ItemsOf(browser.File1), ElementsAre("notes.txt", "panel3.ORB"));
+  browser.Text2.SetText("");
+  EXPECT_THAT(ItemsOf(browser.File1), ElementsAre("notes.txt", "panel3.ORB", "panel4.orb"));
+  browser.Text2.SetText("*.*");
+  EXPECT_THAT(ItemsOf(browser.File1), ElementsAre("notes.txt", "panel3.ORB", "panel4.orb"));
+}
+
+// ---- in the pane ---------------------------------------------------------------------------------------------------
+
+TEST_F(ABrowser, ShowsAFile) {
+  Open();
+
+  ClickFile("panel3.ORB");
+  Wait();
+
+  EXPECT_EQ(browser.Label1.Text(), "/home/user/Documents/panel3.ORB");
+  EXPECT_EQ(browser.RichTextBox1.Bytes(), "cover\r\n400\r\n");
+  EXPECT_FALSE(browser.prgLoading.Visible());
+}
+
+TEST_F(ABrowser, AddsNoSecondSeparatorAtTheTopOfADrive) {
+  Open();
+  ClickFolder("/");
+
+  ClickFile("root.orb");
+  Wait();
+
+  EXPECT_EQ(browser.Label1.Text(), "/root.orb");
+  EXPECT_EQ(browser.RichTextBox1.Bytes(), "root\n");
+}
+
+TEST_F(ABrowser, ShowsALongFilePieceByPieceAndHowFarItIs) {
+  const std::string bytes(TextBrowser::PieceBytes * 2, 'x');
+  platform.files.files["/home/user/Documents/long.orb"] = bytes;
+  Open();
+
+  ClickFile("long.orb");
+
+  EXPECT_TRUE(browser.prgLoading.Visible());
+  EXPECT_EQ(browser.prgLoading.Value(), 0);
+  EXPECT_EQ(browser.RichTextBox1.Bytes().size(), 0U);
+  platform.clock.Pass();
+  EXPECT_EQ(browser.prgLoading.Value(), 50);
+  EXPECT_EQ(browser.RichTextBox1.Bytes().size(), TextBrowser::PieceBytes);
+  platform.clock.Pass();
+  EXPECT_EQ(browser.prgLoading.Value(), 100);
+  EXPECT_TRUE(browser.prgLoading.Visible());
+  Wait();
+  EXPECT_FALSE(browser.prgLoading.Visible());
+  EXPECT_EQ(browser.RichTextBox1.Bytes(), bytes);
+}
+
+TEST_F(ABrowser, LeavesAFileForAnother) {
+  platform.files.files["/home/user/Documents/long.orb"] = std::string(TextBrowser::PieceBytes * 3, 'x');
+  Open();
+  ClickFile("long.orb");
+  platform.clock.Pass();
+
+  ClickFile("panel4.orb");
+  Wait();
+
+  EXPECT_EQ(browser.RichTextBox1.Bytes(), "cover\r\n980\r\n");
+  EXPECT_EQ(browser.Label1.Text(), "/home/user/Documents/panel4.orb");
+}
+
+TEST_F(ABrowser, ReadsNoFurtherOnceItIsClosed) {
+  platform.files.files["/home/user/Documents/long.orb"] = std::string(TextBrowser::PieceBytes * 3, 'x');
+  Open();
+  ClickFile("long.orb");
+  platform.clock.Pass();
+
+  browser.Close();
+  Wait();
+
+  EXPECT_EQ(browser.RichTextBox1.Bytes().size(), TextBrowser::PieceBytes);
+}
+
+TEST_F(ABrowser, MayBeGoneBeforeItsFileIs) {
+  platform.files.files["/home/user/Documents/long.orb"] = std::string(TextBrowser::PieceBytes * 3, 'x');
+  {
+    TextBrowser other(program);
+    other.Open();
+    other.File1.ClickItem(0);
+    ASSERT_THAT(platform.clock.waiting, Not(IsEmpty()));
+  }
+
+  Wait();
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(ABrowser, TellsOfAFileThatCannotBeOpened) {
+  Open();
+  platform.files.files.erase("/home/user/Documents/panel3.ORB");
+  platform.boxes.answers.push_back(box_result::Cancel);
+
+  ClickFile("panel3.ORB");
+  Wait();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error occurred: File not found (53)"));
+  EXPECT_EQ(platform.boxes.shown[0].style, box_style::RetryCancel);
+  EXPECT_EQ(browser.RichTextBox1.Bytes(), "");
+  EXPECT_FALSE(browser.prgLoading.Visible());
+}
+
+TEST_F(ABrowser, KeepsWhatItHasOfAFileThatCannotBeReadToItsEnd) {
+  platform.files.files["/home/user/Documents/long.orb"] = std::string(TextBrowser::PieceBytes * 3, 'x');
+  Open();
+  ClickFile("long.orb");
+  platform.clock.Pass();
+  platform.files.Fail(Step::Read, 75);
+
+  Wait();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error occurred: Path/File access error (75). Procedure Terminated"));
+  EXPECT_EQ(browser.RichTextBox1.Bytes().size(), TextBrowser::PieceBytes);
+  EXPECT_FALSE(browser.prgLoading.Visible());
+}
+
+// A file system that knows of one long file, most of which is never read.
+struct LongFiles : MemoryFiles {
+  std::uint64_t FileLength(const std::string& path) override {
+    return path == "/home/user/Documents/panel3.ORB" ? length : MemoryFiles::FileLength(path);
+  }
+  std::uint64_t length = 0;
+};
+
+struct ALongFile : ABrowser {
+  ALongFile() {
+    files.files = platform.files.files;
+    files.folders = platform.files.folders;
+  }
+
+  LongFiles files;
+  Program longProgram = [this] {
+    Program other(platform.DoorsWith(files));
+    other.settings = program.settings;
+    other.folders = program.folders;
+    return other;
+  }();
+  TextBrowser longBrowser{longProgram};
+};
+
+TEST_F(ALongFile, IsRefusedPlainly) {
+  files.length = TextBrowser::MostBytes + 1;
+  longBrowser.Open();
+
+  longBrowser.File1.ClickItem(0);
+  Wait();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("The file is too long to be viewed here, it has more than 1 GB: "
+                                                  "/home/user/Documents/panel3.ORB"));
+  EXPECT_EQ(longBrowser.RichTextBox1.Bytes(), "");
+}
+
+TEST_F(ALongFile, IsRefusedForTheExternalViewerToo) {
+  files.length = TextBrowser::MostBytes + 1;
+  longProgram.textBrowse.BrowseUseNotepad = 1;
+  longBrowser.Open();
+
+  longBrowser.File1.ClickItem(0);
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre(HasSubstr("more than 1 GB")));
+  EXPECT_THAT(platform.documents.started, IsEmpty());
+}
+
+// ---- in the external viewer ----------------------------------------------------------------------------------------
+
+TEST_F(ABrowser, HidesThePaneForTheExternalViewer) {
+  Open();
+  EXPECT_TRUE(browser.RichTextBox1.Visible());
+  EXPECT_TRUE(browser.cmdSetFont.Enabled());
+
+  browser.Check1.SetValue(1);
+  EXPECT_FALSE(browser.RichTextBox1.Visible());
+  EXPECT_FALSE(browser.lblView.Visible());
+  EXPECT_FALSE(browser.cmdSetFont.Enabled());
+
+  browser.Check1.SetValue(0);
+  EXPECT_TRUE(browser.RichTextBox1.Visible());
+  EXPECT_TRUE(browser.cmdSetFont.Enabled());
+}
+
+TEST_F(ABrowser, OpensHiddenForTheExternalViewer) {
+  program.textBrowse.BrowseUseNotepad = 1;
+
+  Open();
+
+  EXPECT_FALSE(browser.RichTextBox1.Visible());
+  EXPECT_FALSE(browser.cmdSetFont.Enabled());
+}
+
+struct AnExternalViewer : ABrowser {
+  AnExternalViewer() {
+    program.textBrowse.BrowseUseNotepad = 1;
+    program.textBrowse.BrowseDefaultFilter = "*.*";
+    Open();
+  }
+};
+
+TEST_F(AnExternalViewer, GetsACopyWithItsLineEndsMadeEven) {
+  ClickFile("notes.txt");
+
+  EXPECT_THAT(platform.documents.started, ElementsAre(ElementsAre("/usr/bin/viewer", "/tmp/~tmpbr.tmp")));
+  EXPECT_EQ(platform.files.files.at("/tmp/~tmpbr.tmp"), "one\r\ntwo\r\n");
+  EXPECT_EQ(browser.Label1.Text(), "/home/user/Documents/notes.txt");
+  EXPECT_FALSE(browser.RichTextBox1.Visible());
+  EXPECT_EQ(browser.RichTextBox1.Bytes(), "");
+  EXPECT_FALSE(platform.windows.waitCursor);
+}
+
+TEST_F(AnExternalViewer, IsNotStartedForAFileThatIsGone) {
+  platform.files.files.erase("/home/user/Documents/notes.txt");
+
+  ClickFile("notes.txt");
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Requested File not found: /home/user/Documents/notes.txt"));
+  EXPECT_THAT(platform.documents.started, IsEmpty());
+}
+
+TEST_F(AnExternalViewer, ThatDoesNotStartIsNamed) {
+  platform.documents.opens = false;
+
+  ClickFile("notes.txt");
+
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("Shell operation failed. Check status of External Viewer: /usr/bin/viewer"));
+}
+
+// ---- the font ------------------------------------------------------------------------------------------------------
+
+struct AFontOfTheBrowser : ABrowser {
+  AFontOfTheBrowser() {
+    platform.fonts.screen = {"Arial", "Courier New", "Symbol"};
+    platform.fonts.fixedPitch = {"Courier New"};
+    Open();
+  }
+};
+
+TEST_F(AFontOfTheBrowser, IsTheOneChosen) {
+  platform.windows.onModal = [](Form& form) {
+    dynamic_cast<List&>(*form.Find("lstFont")).ClickItem(0);
+    dynamic_cast<TextBox&>(*form.Find("txtSize")).SetText("12");
+    dynamic_cast<Button&>(*form.Find("cmdOK")).Press();
+  };
+
+  browser.cmdSetFont.Press();
+
+  EXPECT_EQ(browser.RichTextBox1.Font(), (FontChoice{"Arial", 12, false, false}));
+}
+
+TEST_F(AFontOfTheBrowser, StaysWhenTheDialogIsCancelled) {
+  platform.windows.onModal = [](Form& form) {
+    dynamic_cast<List&>(*form.Find("lstFont")).ClickItem(0);
+    dynamic_cast<Button&>(*form.Find("cmdCancel")).Press();
+  };
+
+  browser.cmdSetFont.Press();
+
+  EXPECT_EQ(platform.windows.modalForms, 1);
+  EXPECT_EQ(browser.RichTextBox1.Font(), (FontChoice{"Courier New", 10, false, false}));
+}
+
+TEST_F(AFontOfTheBrowser, MustBeThereOnTheMachine) {
+  browser.RichTextBox1.SetFont({"Terminal", 10, false, false});
+  platform.windows.onModal = [](Form& form) { dynamic_cast<Button&>(*form.Find("cmdOK")).Press(); };
+
+  browser.cmdSetFont.Press();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid font selection"));
+  EXPECT_EQ(browser.RichTextBox1.Font().name, "Terminal");
+}
+
+}  // namespace
+}  // namespace orby::test

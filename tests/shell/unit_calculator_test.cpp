@@ -1,0 +1,140 @@
+#include "shell/unit_calculator.h"
+
+#include <gmock/gmock.h>
+
+#include "support/recording_platform.h"
+
+namespace orby::test {
+namespace {
+
+using testing::Each;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+template <std::size_t Count>
+std::vector<std::string> TextsOf(const std::array<TextBox, Count>& boxes) {
+  std::vector<std::string> texts;
+  for (const TextBox& box : boxes) texts.push_back(box.Text());
+  return texts;
+}
+
+struct ACalculator : testing::Test {
+  ACalculator() { calculator.Open(); }
+
+  RecordingPlatform platform;
+  Program program{platform.Doors()};
+  UnitCalculator calculator{program};
+};
+
+TEST_F(ACalculator, IsLoggedWhenItOpens) {
+  EXPECT_THAT(program.history.Text, HasSubstr("Loading Unit Conversion Form"));
+}
+
+TEST_F(ACalculator, TitlesItsMessagesWithTheBareWords) {
+  EXPECT_EQ(program.titles.MessageTitle, "Message");
+  EXPECT_EQ(program.titles.ErrorTitle, "Error");
+}
+
+TEST_F(ACalculator, StartsWithTheFirstUnitOfEachKindAndTheFirstTab) {
+  for (const OptionArray* units :
+       {&calculator.Option1, &calculator.Option2, &calculator.Option3, &calculator.Option4, &calculator.Option5}) {
+    EXPECT_TRUE(units->Value(0)) << units->Name();
+  }
+  EXPECT_EQ(calculator.SSTab1.Tab(), 0);
+  EXPECT_EQ(calculator.FocusRequest(), &calculator.txtLength);
+}
+
+TEST_F(ACalculator, ShowsZerosForABlankInput) {
+  EXPECT_THAT(TextsOf(calculator.LengthResults), Each("0"));
+  EXPECT_THAT(TextsOf(calculator.LoadResults), Each("0"));
+  EXPECT_THAT(TextsOf(calculator.LoadGradResults), Each("0"));
+  EXPECT_THAT(TextsOf(calculator.StressResults), Each("0"));
+  EXPECT_THAT(TextsOf(calculator.StressGradResults), Each("0"));
+}
+
+TEST_F(ACalculator, ShowsOneFootInAllLengths) {
+  calculator.txtLength.SetText("1");
+  calculator.Option2.SetValue(1, true);
+
+  EXPECT_THAT(TextsOf(calculator.LengthResults), ElementsAre("12", "1", "30.48", "0.3048"));
+}
+
+TEST_F(ACalculator, FollowsTheInputAsItIsTyped) {
+  calculator.Option5.SetValue(1, true);
+  calculator.txtLoad.SetText("2");
+  calculator.txtLoad.SetText("27");
+
+  EXPECT_THAT(TextsOf(calculator.LoadResults),
+              ElementsAre("54000", "27", "240.203906427234", "0.240203906427234", "54"));
+}
+
+TEST_F(ACalculator, ConvertsTheKindsApartFromEachOther) {
+  calculator.txtLoadGrad.SetText("75");
+  calculator.txtStress.SetText("145");
+  calculator.txtStressGrad.SetText("0.09375");
+
+  EXPECT_THAT(TextsOf(calculator.LoadGradResults),
+              ElementsAre("75", "900", "13.1345093190745", "1.31345093190745E-02"));
+  EXPECT_THAT(TextsOf(calculator.StressResults),
+              ElementsAre("145", "0.145", "20880", "999739.807485", "0.999739807485"));
+  EXPECT_THAT(TextsOf(calculator.StressGradResults),
+              ElementsAre("0.09375", "1.125", "25448.1691424705", "2.54481691424705E-02"));
+  EXPECT_THAT(TextsOf(calculator.LengthResults), Each("0"));
+}
+
+TEST_F(ACalculator, ReadsANumberUpToItsSecondPoint) {
+  calculator.txtLength.SetText("1.5.5");
+
+  EXPECT_EQ(calculator.LengthResults[0].Text(), "1.5");
+  EXPECT_EQ(calculator.LengthResults[1].Text(), "0.125");
+}
+
+TEST_F(ACalculator, LetsNumbersAndASecondPointPassButNoLetters) {
+  for (TextBox* input : {&calculator.txtLength, &calculator.txtLoad, &calculator.txtLoadGrad, &calculator.txtStress,
+                         &calculator.txtStressGrad}) {
+    input->SetText("1.5");
+    EXPECT_EQ(input->KeyPress('7'), '7') << input->Name();
+    EXPECT_EQ(input->KeyPress('.'), '.') << input->Name();
+    EXPECT_EQ(input->KeyPress('x'), 0) << input->Name();
+  }
+}
+
+TEST_F(ACalculator, PutsTheFocusIntoTheInputOfANewTabAndClearsNothing) {
+  calculator.txtLength.SetText("6");
+  const std::array<const TextBox*, 5> inputs{&calculator.txtLength, &calculator.txtLoad, &calculator.txtLoadGrad,
+                                             &calculator.txtStress, &calculator.txtStressGrad};
+
+  for (const int tab : {1, 2, 3, 4, 0}) {
+    calculator.SSTab1.ClickTab(tab);
+    EXPECT_EQ(calculator.FocusRequest(), inputs[static_cast<std::size_t>(tab)]);
+  }
+
+  EXPECT_EQ(calculator.txtLength.Text(), "6");
+  EXPECT_EQ(calculator.LengthResults[1].Text(), "0.5");
+}
+
+TEST_F(ACalculator, EndsTheRunOnANumberBeyondADoubleAndLeavesTheResults) {
+  calculator.txtStress.SetText("145");
+
+  EXPECT_EQ(ErrorNumberOf([this] { calculator.txtStress.SetText("1E306"); }), 6);
+
+  EXPECT_EQ(calculator.StressResults[0].Text(), "145");
+  EXPECT_EQ(calculator.StressResults[2].Text(), "20880");
+}
+
+TEST_F(ACalculator, OpensItsHelp) {
+  platform.files.files["/program/ORBY.CHM"] = "help";
+
+  calculator.Command3.Press();
+
+  EXPECT_THAT(platform.help.shown, ElementsAre("topic /program/ORBY.CHM frmUnits"));
+}
+
+TEST_F(ACalculator, Closes) {
+  calculator.Command1.Press();
+
+  EXPECT_FALSE(calculator.IsOpen());
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,123 @@
+#include "shell/update_check.h"
+
+#include "shell/update_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using testing::IsEmpty;
+
+struct ACheckAtStart : UpdateTest {
+  void CheckBringing(const std::string& bytes) {
+    check.Start();
+    Bring(bytes);
+  }
+
+  UpdateCheck check{program};
+};
+
+TEST_F(ACheckAtStart, FetchesAShortVersionFile) {
+  check.Start();
+
+  ASSERT_EQ(platform.downloads.asked.size(), 1U);
+  EXPECT_EQ(LastAsked().request.address, UpdateFiles + "orby_version.txt");
+  EXPECT_EQ(LastAsked().request.path, VersionFileAt);
+  EXPECT_EQ(LastAsked().request.mostBytes, 65536U);
+  EXPECT_FALSE(LastAsked().request.resumes);
+}
+
+TEST_F(ACheckAtStart, IsLeftOutWhenTheUserHasSwitchedItOff) {
+  program.settings.RemindAnnualUpdates = 0;
+
+  check.Start();
+
+  EXPECT_THAT(platform.downloads.asked, IsEmpty());
+}
+
+TEST_F(ACheckAtStart, IsLeftOutWithoutAServer) {
+  program.UpdateServer.clear();
+
+  check.Start();
+
+  EXPECT_THAT(platform.downloads.asked, IsEmpty());
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(ACheckAtStart, AsksAboutANewerVersion) {
+  platform.boxes.answers = {box_result::No};
+
+  CheckBringing("1.0.01\r\n");
+
+  ASSERT_EQ(platform.boxes.shown.size(), 1U);
+  EXPECT_EQ(platform.boxes.shown[0].text,
+            "A new ORBY version is available. \r\n"
+            "Note that in order to download and install you may need administrator priviledges and/or Windows may ask "
+            "you for permission to do so. \r\n"
+            "Proceed with Download and Install?");
+  EXPECT_EQ(platform.boxes.shown[0].style, box_style::YesNo);
+  EXPECT_EQ(platform.windows.modalForms, 0);
+}
+
+TEST_F(ACheckAtStart, TellsTheHistoryBothVersions) {
+  CheckBringing("1.0.00\r\n");
+
+  EXPECT_EQ(program.history.Text, "1. Server/Current: 1.0.00/1.0.00\r\n");
+}
+
+TEST_F(ACheckAtStart, OpensTheUpdatesOnYesAndSaysNothingElse) {
+  std::string opened;
+  platform.windows.onModal = [&](Form& form) { opened = form.Name(); };
+  platform.boxes.answers = {box_result::Yes};
+
+  CheckBringing("1.0.01");
+
+  EXPECT_EQ(opened, "frmUpdate");
+  EXPECT_EQ(platform.boxes.shown.size(), 1U);
+  EXPECT_EQ(platform.downloads.asked.size(), 1U);
+}
+
+TEST_F(ACheckAtStart, IsSilentAboutTheSameOrAnOlderVersion) {
+  for (const char* bytes : {"1.0.00", "1.0.00\r\n", "1.0.00\n", "0.9.00", "1.0.0"}) CheckBringing(bytes);
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(ACheckAtStart, IsSilentAboutAFileThatIsNone) {
+  for (const char* bytes : {"", "\r\n", "../../x", "<!DOCTYPE html>"}) CheckBringing(bytes);
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  EXPECT_EQ(program.history.Text, "");
+}
+
+TEST_F(ACheckAtStart, IsSilentWhenTheFetchFailsWhateverLiesThereOfAnotherDay) {
+  platform.files.files[VersionFileAt] = "7.0.00";
+
+  for (const FetchEnd end : {FetchEnd::NoService, FetchEnd::NoConnection, FetchEnd::Failed}) {
+    check.Start();
+    Fail(end);
+  }
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  EXPECT_EQ(program.history.Text, "");
+}
+
+TEST_F(ACheckAtStart, IsSilentWhenTheFileCannotBeReadOrNothingFetched) {
+  check.Start();
+  LastAsked().events.Finished({FetchEnd::Done, {}});
+  platform.downloads.works = false;
+  check.Start();
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(ACheckAtStart, StopsWithTheWindowThatHasIt) {
+  {
+    UpdateCheck other(program);
+    other.Start();
+  }
+
+  EXPECT_TRUE(LastAsked().stopped);
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,497 @@
+#include "shell/update_dialog.h"
+
+#include "shell/update_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+const std::string NewSetup = DownloadsFolder + "ORBY1.0.01.exe";
+const std::string NewVersion = "1.0.01\r\n";
+const std::string NewVersionWithSum = "1.0.01," + SumOfSetup + "\r\n";
+const std::string OtherSum = "60303ae22b998861bce3b28f33eec1be758a213c86c93c076dbe9f558c11c752";
+
+struct AnUpdateDialog : UpdateTest {
+  AnUpdateDialog() { dialog.Open(); }
+
+  void Check(const std::string& bytes) {
+    dialog.cmdCheck.Press();
+    Bring(bytes);
+  }
+
+  // Looks for the version, says Yes, and has the file brought with this sum.
+  void DownloadNewVersion(const std::string& versionFile, const std::string& sum) {
+    platform.boxes.answers = {box_result::Yes};
+    Check(versionFile);
+    Bring("setup", sum);
+    platform.boxes.shown.clear();
+  }
+
+  const std::string& Status() const { return dialog.lblStatus.Caption(); }
+
+  UpdateDialog dialog{program};
+};
+
+// ---- what it shows at first ----------------------------------------------------------------------------------------
+
+TEST_F(AnUpdateDialog, NamesItselfAndItsCommands) {
+  EXPECT_EQ(dialog.Name(), "frmUpdate");
+  EXPECT_EQ(dialog.Caption(), "Program Updates");
+  EXPECT_EQ(dialog.cmdCheck.Caption(), "Check for Updates");
+  EXPECT_EQ(dialog.cmdDownUpdate.Caption(), "Download Update");
+  EXPECT_EQ(dialog.cmdInstall.Caption(), "Install Update");
+  EXPECT_EQ(dialog.chkShow.Caption(), "Disable check for program updates");
+  EXPECT_EQ(dialog.cmdWebPage.Caption(), "Program Web Page");
+  EXPECT_EQ(dialog.Command1.Caption(), "Close");
+}
+
+TEST_F(AnUpdateDialog, TellsTheVersionAndItsDate) {
+  EXPECT_EQ(dialog.lblInfo.Caption(),
+            "Current Program Version: 1.0.00 for Orby Roof Support Workbench\r\n"
+            "Current Revision Date: 05-Jul-2023");
+}
+
+TEST_F(AnUpdateDialog, TellsTheAgeOfTheVersion) {
+  EXPECT_EQ(dialog.lblUpdate.Caption(),
+            "This version was released 20 days ago. Although major updates may not be scheduled, interim updates may "
+            "be released with bug fixes. Check for an updated version by visiting the program web page below or click "
+            "on 'Check for updates'.  ");
+  EXPECT_EQ(dialog.lblManual.Caption(),
+            "You may manually update the program by downloading and installing the new setup file.");
+}
+
+TEST_F(AnUpdateDialog, HasNothingToTellOfTheServerYet) {
+  EXPECT_EQ(dialog.lblLastVer.Caption(), "");
+  EXPECT_EQ(dialog.lblStatus.Caption(), "");
+  EXPECT_EQ(dialog.lblbytes.Caption(), "");
+  EXPECT_EQ(dialog.ProgressBar1.Value(), 0);
+  EXPECT_THAT(platform.downloads.asked, IsEmpty());
+}
+
+// ---- the check at start --------------------------------------------------------------------------------------------
+
+TEST_F(AnUpdateDialog, SwitchesTheCheckAtStartOffAndOn) {
+  EXPECT_FALSE(dialog.chkShow.Checked());
+
+  dialog.chkShow.SetValue(1);
+  EXPECT_EQ(program.settings.RemindAnnualUpdates, 0);
+
+  dialog.chkShow.SetValue(0);
+  EXPECT_EQ(program.settings.RemindAnnualUpdates, 1);
+}
+
+TEST_F(AnUpdateDialog, ShowsThatTheCheckAtStartIsOff) {
+  program.settings.RemindAnnualUpdates = 0;
+  UpdateDialog other(program);
+
+  other.Open();
+
+  EXPECT_TRUE(other.chkShow.Checked());
+}
+
+TEST_F(AnUpdateDialog, SavesTheSettingsWhenItCloses) {
+  dialog.chkShow.SetValue(1);
+
+  dialog.Command1.Press();
+
+  EXPECT_FALSE(dialog.IsOpen());
+  EXPECT_THAT(platform.files.files[program.IniFilePath], HasSubstr("RemindAnnualUpdates=0\r\n"));
+}
+
+// ---- looking for a version -----------------------------------------------------------------------------------------
+
+TEST_F(AnUpdateDialog, FetchesTheVersionFileOnRequest) {
+  dialog.cmdCheck.Press();
+
+  ASSERT_EQ(platform.downloads.asked.size(), 1U);
+  EXPECT_EQ(LastAsked().request.address, UpdateFiles + "orby_version.txt");
+  EXPECT_EQ(LastAsked().request.path, VersionFileAt);
+}
+
+TEST_F(AnUpdateDialog, LooksEvenWhenTheCheckAtStartIsOff) {
+  program.settings.RemindAnnualUpdates = 0;
+
+  dialog.cmdCheck.Press();
+
+  EXPECT_EQ(platform.downloads.asked.size(), 1U);
+}
+
+TEST_F(AnUpdateDialog, DoesOneThingAtATime) {
+  dialog.cmdCheck.Press();
+
+  EXPECT_FALSE(dialog.cmdCheck.Enabled());
+  EXPECT_FALSE(dialog.cmdDownUpdate.Enabled());
+  EXPECT_FALSE(dialog.cmdInstall.Enabled());
+  EXPECT_TRUE(dialog.Command1.Enabled());
+
+  Bring("1.0.00");
+
+  EXPECT_TRUE(dialog.cmdCheck.Enabled());
+  EXPECT_TRUE(dialog.cmdDownUpdate.Enabled());
+  EXPECT_TRUE(dialog.cmdInstall.Enabled());
+}
+
+TEST_F(AnUpdateDialog, IsUpToDateWithTheSameVersion) {
+  Check("1.0.00\r\n");
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Program is up to date"));
+  EXPECT_EQ(dialog.lblLastVer.Caption(), "Server Version: 1.0.00 / Current Version: 1.0.00");
+  EXPECT_EQ(Status(), "");
+}
+
+TEST_F(AnUpdateDialog, IsUpToDateWithAnOlderVersion) {
+  Check("0.9.12");
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Program is up to date"));
+}
+
+TEST_F(AnUpdateDialog, AsksWhetherToDownloadANewerVersion) {
+  platform.boxes.answers = {box_result::No};
+
+  Check(NewVersion);
+
+  ASSERT_EQ(platform.boxes.shown.size(), 1U);
+  EXPECT_EQ(platform.boxes.shown[0].text, "A new version is available. Download?");
+  EXPECT_EQ(platform.boxes.shown[0].style, 35);
+  EXPECT_EQ(dialog.lblLastVer.Caption(), "Server Version: 1.0.01 / Current Version: 1.0.00");
+  EXPECT_EQ(platform.downloads.asked.size(), 1U);
+}
+
+TEST_F(AnUpdateDialog, DownloadsAtOnceOnYesAndNotOnCancel) {
+  platform.boxes.answers = {box_result::Cancel, box_result::Yes};
+
+  Check(NewVersion);
+  EXPECT_EQ(platform.downloads.asked.size(), 1U);
+
+  Check(NewVersion);
+  ASSERT_EQ(platform.downloads.asked.size(), 3U);
+  EXPECT_EQ(LastAsked().request.address, UpdateFiles + "ORBY1.0.01.exe");
+}
+
+TEST_F(AnUpdateDialog, SaysThatTheInformationIsInvalid) {
+  for (const std::string bytes : {"", "\r\n", "../../.bashrc", "1.0.01,abc"}) {
+    platform.boxes.shown.clear();
+
+    Check(bytes);
+
+    EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid information for new version. Check with developer."))
+        << bytes;
+    EXPECT_EQ(dialog.lblLastVer.Caption(), "");
+  }
+}
+
+TEST_F(AnUpdateDialog, SaysThatTheInformationIsInvalidWhenThereIsNoSuchFile) {
+  dialog.cmdCheck.Press();
+  Fail(FetchEnd::Failed);
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid information for new version. Check with developer."));
+}
+
+TEST_F(AnUpdateDialog, HasNoConnectionWithoutAServer) {
+  program.UpdateServer.clear();
+  UpdateDialog other(program);
+  other.Open();
+
+  other.cmdCheck.Press();
+  other.cmdDownUpdate.Press();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Internet Connection Failed", "Internet Connection Failed"));
+  EXPECT_THAT(platform.downloads.asked, IsEmpty());
+  EXPECT_FALSE(other.cmdWebPage.Enabled());
+}
+
+TEST_F(AnUpdateDialog, TellsWhenNothingCanBeFetchedAtAll) {
+  dialog.cmdCheck.Press();
+  Fail(FetchEnd::NoService);
+
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("An error occurred calling InternetOpen function", "Internet Connection Failed"));
+  EXPECT_TRUE(dialog.cmdCheck.Enabled());
+}
+
+TEST_F(AnUpdateDialog, TellsWhenTheMachineHasNoNetwork) {
+  platform.downloads.works = false;
+
+  dialog.cmdCheck.Press();
+
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("An error occurred calling InternetOpen function", "Internet Connection Failed"));
+  EXPECT_TRUE(dialog.cmdCheck.Enabled());
+  EXPECT_EQ(Status(), "");
+}
+
+TEST_F(AnUpdateDialog, TellsWhenNobodyAnswers) {
+  dialog.cmdCheck.Press();
+  Fail(FetchEnd::NoConnection);
+
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("An error occurred calling InternetOpenUrl function", "Internet Connection Failed"));
+}
+
+// ---- downloading ---------------------------------------------------------------------------------------------------
+
+TEST_F(AnUpdateDialog, DownloadsTheSetupFileIntoTheFolderForDownloads) {
+  platform.boxes.answers = {box_result::No};
+  Check(NewVersion);
+
+  dialog.cmdDownUpdate.Press();
+
+  ASSERT_EQ(platform.downloads.asked.size(), 2U);
+  EXPECT_EQ(LastAsked().request.address, UpdateFiles + "ORBY1.0.01.exe");
+  EXPECT_EQ(LastAsked().request.path, NewSetup);
+  EXPECT_TRUE(LastAsked().request.resumes);
+  EXPECT_EQ(LastAsked().request.mostBytes, 2'000'000'000U);
+  EXPECT_TRUE(platform.files.folders.contains("/home/user/Downloads"));
+  EXPECT_FALSE(dialog.cmdDownUpdate.Enabled());
+}
+
+TEST_F(AnUpdateDialog, FindsOutTheVersionFirstWhenItIsNotKnown) {
+  dialog.cmdDownUpdate.Press();
+  EXPECT_EQ(LastAsked().request.path, VersionFileAt);
+
+  Bring("1.0.00");
+
+  EXPECT_EQ(LastAsked().request.path, DownloadsFolder + "ORBY1.0.00.exe");
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(AnUpdateDialog, ShowsHowFarTheDownloadIs) {
+  DownloadNewVersion(NewVersion, {});
+  dialog.cmdDownUpdate.Press();
+
+  EXPECT_EQ(dialog.ProgressBar1.Value(), 0);
+  EXPECT_EQ(dialog.lblbytes.Caption(), "");
+
+  LastAsked().events.Progress(1'234'000, 5'678'000);
+  EXPECT_EQ(dialog.ProgressBar1.Value(), 21);
+  EXPECT_EQ(dialog.lblbytes.Caption(), "1,234 of 5,678 kB");
+
+  LastAsked().events.Progress(1'999'999'999, 2'000'000'000);
+  EXPECT_EQ(dialog.ProgressBar1.Value(), 99);
+  EXPECT_EQ(dialog.lblbytes.Caption(), "2,000,000 of 2,000,000 kB");
+}
+
+TEST_F(AnUpdateDialog, ShowsTheBytesAloneWhenTheirNumberIsNotKnown) {
+  DownloadNewVersion(NewVersion, {});
+  dialog.cmdDownUpdate.Press();
+
+  LastAsked().events.Progress(800, 0);
+  EXPECT_EQ(dialog.lblbytes.Caption(), "1 kB");
+
+  LastAsked().events.Progress(123'456'789, 0);
+  EXPECT_EQ(dialog.ProgressBar1.Value(), 0);
+  EXPECT_EQ(dialog.lblbytes.Caption(), "123,457 kB");
+}
+
+TEST_F(AnUpdateDialog, TellsWhereTheProgramIs) {
+  DownloadNewVersion(NewVersion, {});
+
+  EXPECT_EQ(Status(), "Download completed. Program at: /home/user/Downloads/ORBY1.0.01.exe");
+  EXPECT_EQ(dialog.ProgressBar1.Value(), 100);
+  EXPECT_TRUE(dialog.cmdInstall.Enabled());
+}
+
+TEST_F(AnUpdateDialog, TellsThatADownloadBroke) {
+  platform.boxes.answers = {box_result::Yes};
+  Check(NewVersion);
+  platform.boxes.shown.clear();
+
+  Fail(FetchEnd::Failed);
+
+  EXPECT_EQ(Status(),
+            "Download failed: https://updates.example.org/wp-content/uploads/2020/04/ORBY1.0.01.exe is not there, or "
+            "did not arrive as a whole. Try again later.");
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre(Status()));
+  EXPECT_TRUE(dialog.cmdDownUpdate.Enabled());
+}
+
+TEST_F(AnUpdateDialog, TellsThatTheServerOfADownloadIsGone) {
+  platform.boxes.answers = {box_result::Yes};
+  Check(NewVersion);
+  platform.boxes.shown.clear();
+
+  Fail(FetchEnd::NoConnection);
+
+  EXPECT_EQ(Status(), "Internet Connection Failed");
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("An error occurred calling InternetOpenUrl function", "Internet Connection Failed"));
+}
+
+TEST_F(AnUpdateDialog, TellsThatThereIsNoFolderForDownloads) {
+  platform.files.Fail(MemoryFiles::Step::MakeFolder, error_number::PermissionDenied);
+  platform.boxes.answers = {box_result::Yes};
+
+  Check(NewVersion);
+
+  EXPECT_EQ(Status(), "Download failed: no files can be kept in /home/user/Downloads/");
+  EXPECT_EQ(platform.downloads.asked.size(), 1U);
+  EXPECT_TRUE(dialog.cmdDownUpdate.Enabled());
+}
+
+TEST_F(AnUpdateDialog, StopsTheDownloadWhenItCloses) {
+  platform.boxes.answers = {box_result::Yes};
+  Check(NewVersion);
+
+  dialog.Command1.Press();
+
+  EXPECT_TRUE(LastAsked().stopped);
+}
+
+TEST_F(AnUpdateDialog, DeletesAFileThatIsNotThePublishedOne) {
+  platform.boxes.answers = {box_result::Yes};
+  Check(NewVersionWithSum);
+  platform.boxes.shown.clear();
+
+  Bring("something else", OtherSum);
+
+  EXPECT_EQ(Status(),
+            "Download failed: the file that arrived is not the one that was published, and was deleted: "
+            "/home/user/Downloads/ORBY1.0.01.exe");
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre(Status()));
+  EXPECT_FALSE(platform.files.files.contains(NewSetup));
+}
+
+TEST_F(AnUpdateDialog, AcceptsTheSumInAnyCase) {
+  DownloadNewVersion("1.0.01,9F86D081884C7D659A2FEAA0C55AD015A3BF4F1B2B0B822CD15D6C15B0F00A08", SumOfSetup);
+
+  EXPECT_EQ(Status(), "Download completed. Program at: /home/user/Downloads/ORBY1.0.01.exe");
+  EXPECT_TRUE(platform.files.files.contains(NewSetup));
+}
+
+// ---- installing ----------------------------------------------------------------------------------------------------
+
+TEST_F(AnUpdateDialog, StartsTheSetupFileAndEndsTheProgram) {
+  DownloadNewVersion(NewVersionWithSum, SumOfSetup);
+
+  dialog.cmdInstall.Press();
+
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("ORBY will now close to install the new update. You may be asked to grant permission to "
+                          "Windows to allow installation of the new version. "));
+  EXPECT_THAT(platform.documents.opened, ElementsAre(NewSetup));
+  EXPECT_EQ(ended, 1);
+}
+
+TEST_F(AnUpdateDialog, StartsAWholeSetupFileWhenTheServerTellsNoSum) {
+  DownloadNewVersion(NewVersion, OtherSum);
+
+  dialog.cmdInstall.Press();
+
+  EXPECT_THAT(platform.documents.opened, ElementsAre(NewSetup));
+  EXPECT_EQ(ended, 1);
+}
+
+TEST_F(AnUpdateDialog, GoesOnWhenTheSetupFileDoesNotStart) {
+  DownloadNewVersion(NewVersionWithSum, SumOfSetup);
+  platform.documents.opens = false;
+
+  dialog.cmdInstall.Press();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre(HasSubstr("ORBY will now close"), "Operation Failed"));
+  EXPECT_EQ(ended, 0);
+  EXPECT_TRUE(dialog.IsOpen());
+}
+
+TEST_F(AnUpdateDialog, SaysThatThereIsNoSetupFile) {
+  platform.boxes.answers = {box_result::No};
+  Check(NewVersion);
+  platform.boxes.shown.clear();
+
+  dialog.cmdInstall.Press();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Update file: /home/user/Downloads/ORBY1.0.01.exe not found"));
+  EXPECT_THAT(platform.documents.opened, IsEmpty());
+}
+
+TEST_F(AnUpdateDialog, SaysThatThereIsNoSetupFileBeforeAnyVersionIsKnown) {
+  dialog.cmdInstall.Press();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Update file: /home/user/Downloads/ORBY.exe not found"));
+}
+
+TEST_F(AnUpdateDialog, NeverStartsAFileWithAWrongSum) {
+  DownloadNewVersion(NewVersionWithSum, OtherSum);
+  platform.files.files[NewSetup] = "put back by somebody";
+
+  dialog.cmdInstall.Press();
+
+  EXPECT_THAT(platform.documents.opened, IsEmpty());
+  EXPECT_EQ(ended, 0);
+}
+
+TEST_F(AnUpdateDialog, NeverStartsAFileWithAWrongSumThatCannotBeDeleted) {
+  platform.files.Fail(MemoryFiles::Step::Remove, error_number::PermissionDenied);
+  DownloadNewVersion(NewVersionWithSum, OtherSum);
+  EXPECT_EQ(Status(),
+            "Download failed: the file that arrived is not the one that was published. Delete it: "
+            "/home/user/Downloads/ORBY1.0.01.exe");
+
+  dialog.cmdInstall.Press();
+
+  EXPECT_THAT(platform.documents.opened, IsEmpty());
+}
+
+TEST_F(AnUpdateDialog, NeverStartsAFileOfAnotherDay) {
+  platform.files.files[NewSetup] = "of last week";
+  platform.boxes.answers = {box_result::No};
+  Check(NewVersion);
+  platform.boxes.shown.clear();
+
+  dialog.cmdInstall.Press();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Update file: /home/user/Downloads/ORBY1.0.01.exe has not been "
+                                                  "checked. Please download it again."));
+  EXPECT_THAT(platform.documents.opened, IsEmpty());
+}
+
+TEST_F(AnUpdateDialog, NeverStartsAFileWhoseNextDownloadBroke) {
+  DownloadNewVersion(NewVersion, {});
+  dialog.cmdDownUpdate.Press();
+  Fail(FetchEnd::Failed);
+
+  dialog.cmdInstall.Press();
+
+  EXPECT_THAT(platform.documents.opened, IsEmpty());
+}
+
+TEST_F(AnUpdateDialog, NeverStartsAFileOnceTheServerTellsAnotherSum) {
+  DownloadNewVersion(NewVersionWithSum, SumOfSetup);
+  platform.boxes.answers = {box_result::No};
+  Check("1.0.01," + OtherSum);
+
+  dialog.cmdInstall.Press();
+
+  EXPECT_THAT(platform.documents.opened, IsEmpty());
+}
+
+TEST_F(AnUpdateDialog, StillStartsTheFileAfterAnotherLookAtTheSameVersion) {
+  DownloadNewVersion(NewVersionWithSum, SumOfSetup);
+  platform.boxes.answers = {box_result::No};
+  Check(NewVersionWithSum);
+
+  dialog.cmdInstall.Press();
+
+  EXPECT_THAT(platform.documents.opened, ElementsAre(NewSetup));
+}
+
+// ---- the web page --------------------------------------------------------------------------------------------------
+
+TEST_F(AnUpdateDialog, OpensTheWebPage) {
+  dialog.cmdWebPage.Press();
+
+  EXPECT_THAT(platform.documents.opened, ElementsAre("https://updates.example.org/roof-support/"));
+}
+
+TEST_F(AnUpdateDialog, TellsWhenThereIsNoBrowser) {
+  platform.documents.opens = false;
+
+  dialog.cmdWebPage.Press();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Operation Failed"));
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,42 @@
+// A program with a server for its updates, on a platform of memory.
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include <string>
+
+#include "core/program.h"
+#include "support/recording_platform.h"
+
+namespace orby::test {
+
+inline const std::string UpdateFiles = "https://updates.example.org/wp-content/uploads/2020/04/";
+inline const std::string VersionFileAt = "/home/user/Documents/MyStrataDesk/ORBY/orby_version.txt";
+inline const std::string DownloadsFolder = "/home/user/Downloads/";
+inline const std::string SumOfSetup = "9f86d081884c7d659a2feaa0c55ad015a3bf4f1b2b0b822cd15d6c15b0f00a08";
+
+struct UpdateTest : testing::Test {
+  UpdateTest() {
+    program.UpdateServer = "https://updates.example.org";
+    program.folders.Group = "/home/user/Documents/MyStrataDesk/";
+    program.folders.ProgramData = "/home/user/Documents/MyStrataDesk/ORBY/";
+    program.IniFilePath = "/home/user/Documents/MyStrataDesk/ORBY/ORBY.INI";
+    program.EndAtOnce = [this] { ++ended; };
+    platform.clock.today = {2023, 7, 25};
+  }
+
+  ScriptedDownloads::Asked& LastAsked() { return platform.downloads.asked.back(); }
+
+  // The fetch that was begun last brings these bytes.
+  void Bring(const std::string& bytes, const std::string& sha256 = {}) {
+    platform.files.files[LastAsked().request.path] = bytes;
+    LastAsked().events.Finished({FetchEnd::Done, sha256});
+  }
+  void Fail(FetchEnd end) { LastAsked().events.Finished({end, {}}); }
+
+  RecordingPlatform platform;
+  Program program{platform.Doors()};
+  int ended = 0;
+};
+
+}  // namespace orby::test

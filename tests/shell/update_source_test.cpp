@@ -1,0 +1,102 @@
+#include "shell/update_source.h"
+
+#include "shell/update_fixture.h"
+
+namespace orby::test {
+namespace {
+
+std::string VersionIn(std::string_view bytes) {
+  const auto offered = ReadVersionFile(bytes);
+  return offered ? offered->version : "nothing";
+}
+
+std::string SumIn(std::string_view bytes) {
+  const auto offered = ReadVersionFile(bytes);
+  return offered ? offered->sha256 : "nothing";
+}
+
+TEST(VersionFile, HoldsTheVersionUpToTheFirstCommaOrLineEnd) {
+  EXPECT_EQ(VersionIn("1.0.01"), "1.0.01");
+  EXPECT_EQ(VersionIn("1.0.01\r\n"), "1.0.01");
+  EXPECT_EQ(VersionIn("1.0.01\n"), "1.0.01");
+  EXPECT_EQ(VersionIn("1.0.01\r"), "1.0.01");
+  EXPECT_EQ(VersionIn("1.0.01,"), "1.0.01");
+  EXPECT_EQ(VersionIn("1.0.01," + SumOfSetup + "\r\nmore"), "1.0.01");
+  EXPECT_EQ(VersionIn("2"), "2");
+}
+
+TEST(VersionFile, TellsTheSumOfTheSetupFileInItsSecondField) {
+  EXPECT_EQ(SumIn("1.0.01," + SumOfSetup), SumOfSetup);
+  EXPECT_EQ(SumIn("1.0.01," + SumOfSetup + "\r\n"), SumOfSetup);
+  EXPECT_EQ(SumIn("1.0.01, " + SumOfSetup + " ,05-Jul-2023"), SumOfSetup);
+  EXPECT_EQ(SumIn("1.0.01\r\n" + SumOfSetup + "\r\n"), SumOfSetup);
+}
+
+TEST(VersionFile, MayLackTheSum) {
+  EXPECT_EQ(SumIn("1.0.01\r\n"), "");
+  EXPECT_EQ(SumIn("1.0.01,\r\n"), "");
+}
+
+TEST(VersionFile, IsNoneWhenItIsEmpty) {
+  for (const char* bytes : {"", "\n", "\r\n", ",", ",1.0.01", "\r\n1.0.01"}) EXPECT_EQ(VersionIn(bytes), "nothing");
+}
+
+TEST(VersionFile, IsNoneWhenItsVersionCouldLeadElsewhere) {
+  for (const char* bytes : {"../1.0.01", "1/2", "1\\2", "1..2", "..", "1.0.01 ", "1.0.01\x1B", "1.0\t1", "~", "1:2",
+                            "1%2F2", "1?x", "1#x", "<html>", "\"1.0.01\"", "1.0.0\xC3\xA4"}) {
+    EXPECT_EQ(VersionIn(bytes), "nothing") << bytes;
+  }
+  EXPECT_EQ(VersionIn(std::string_view("1.0\0.01", 7)), "nothing");
+  EXPECT_EQ(VersionIn(std::string(64, '1')), std::string(64, '1'));
+  EXPECT_EQ(VersionIn(std::string(65, '1')), "nothing");
+}
+
+TEST(VersionFile, IsNoneWhenItsSecondFieldIsNoSum) {
+  EXPECT_EQ(VersionIn("1.0.01,9f86d0"), "nothing");
+  EXPECT_EQ(VersionIn("1.0.01," + SumOfSetup + "0"), "nothing");
+  EXPECT_EQ(VersionIn("1.0.01,g" + SumOfSetup.substr(1)), "nothing");
+}
+
+TEST(OfferedVersions, AreComparedAsTexts) {
+  EXPECT_TRUE(IsNewer({"1.0.01", {}}));
+  EXPECT_TRUE(IsNewer({"1.0.1", {}}));
+  EXPECT_TRUE(IsNewer({"9", {}}));
+  EXPECT_TRUE(IsNewer({"1.0.00b", {}}));
+  EXPECT_TRUE(IsNewer({"v1", {}}));
+  EXPECT_FALSE(IsNewer({"1.0.00", {}}));
+  EXPECT_FALSE(IsNewer({"1.0.0", {}}));
+  EXPECT_FALSE(IsNewer({"0.9.99", {}}));
+  EXPECT_FALSE(IsNewer({"1", {}}));
+  EXPECT_FALSE(IsNewer({"1.0.+5", {}}));
+}
+
+struct UpdatePlaces : UpdateTest {};
+
+TEST_F(UpdatePlaces, LieOnTheServer) {
+  EXPECT_TRUE(HasUpdateServer(program));
+  EXPECT_EQ(VersionFileAddress(program), "https://updates.example.org/wp-content/uploads/2020/04/orby_version.txt");
+  EXPECT_EQ(SetupFileAddress(program, "1.0.01"),
+            "https://updates.example.org/wp-content/uploads/2020/04/ORBY1.0.01.exe");
+  EXPECT_EQ(WebPageAddress(program), "https://updates.example.org/roof-support/");
+}
+
+TEST_F(UpdatePlaces, AreTheSameWithASlashBehindTheServer) {
+  program.UpdateServer = "https://updates.example.org/";
+
+  EXPECT_EQ(WebPageAddress(program), "https://updates.example.org/roof-support/");
+}
+
+TEST_F(UpdatePlaces, AreMissingWithoutAServer) {
+  program.UpdateServer.clear();
+
+  EXPECT_FALSE(HasUpdateServer(program));
+}
+
+TEST_F(UpdatePlaces, AreTheProgramsAndTheUsersFolders) {
+  EXPECT_EQ(VersionFilePath(program), "/home/user/Documents/MyStrataDesk/ORBY/orby_version.txt");
+  EXPECT_EQ(DownloadFolder(program), "/home/user/Downloads/");
+  EXPECT_EQ(SetupFilePath(program, "1.0.01"), "/home/user/Downloads/ORBY1.0.01.exe");
+}
+
+}  // namespace
+}  // namespace orby::test
