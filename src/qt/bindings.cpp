@@ -37,10 +37,10 @@ BindingPointer Bind(BindingHost& host, Control& control) {
       fits(As<TextBox>(control, with(BindTextBox))) || fits(As<CheckBox>(control, with(BindCheckBox))) ||
       fits(As<OptionArray>(control, with(BindOptionArray))) || fits(As<Combo>(control, with(BindCombo))) ||
       fits(As<List>(control, with(BindList))) || fits(As<Slider>(control, with(BindSlider))) ||
-      fits(As<TextPane>(control, with(BindTextPane))) ||
-      fits(As<ProgressBar>(control, with(BindProgressBar))) || fits(As<Grid>(control, with(BindGrid))) ||
-      fits(As<TabSet>(control, with(BindTabSet))) || fits(As<ActionArray>(control, with(BindActionArray))) ||
-      fits(As<Chart>(control, with(BindChart))) || fits(BindPlain(host, control));
+      fits(As<TextPane>(control, with(BindTextPane))) || fits(As<ProgressBar>(control, with(BindProgressBar))) ||
+      fits(As<Grid>(control, with(BindGrid))) || fits(As<TabSet>(control, with(BindTabSet))) ||
+      fits(As<ActionArray>(control, with(BindActionArray))) || fits(As<Chart>(control, with(BindChart))) ||
+      fits(BindPlain(host, control));
   return found;
 }
 
