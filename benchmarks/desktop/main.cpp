@@ -6,9 +6,8 @@
 //   key           the same key in the depth of cover, until it and all outputs are painted
 //   empty-browser a window with an empty page view, until it is painted
 //   help          the help of the folder "help", until its first page is painted
-//   browse        the file browser until it shows a file of 50 MB; prints the growth of the peak of memory in kB, the
-//   size
-//                 of the file in kB, and the longest time between two events in milliseconds
+//   browse        the file browser until it shows a file of 50 MB; prints the growth of the peak of memory in kB,
+//                 the size of the file in kB, and the longest time between two events in milliseconds
 //   dialogs       prints the growth of memory, in bytes, over 450 openings of each dialog after the first 50
 //
 // The two keys stand between the marks of the instruction counter.

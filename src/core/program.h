@@ -89,7 +89,8 @@ struct Program {
   Integer ReportCaller = report_caller::None;
   bool DialogOpen = false;
   std::function<void(Integer)> OpenInputDialog;  // opens the dialog of this report_caller, as the Input menu does
-  std::function<void()> EndAtOnce;  // ends the run: no question, nothing saved; unsaved work is kept for the next start
+  std::function<void()> EndAtOnce = [] {
+  };  // ends the run: no question, nothing saved; unsaved work is kept for the next start
 
   Catalogs catalogs;
   Settings settings;

@@ -44,7 +44,7 @@ class SettingsControls : public Form {
   Frame fraHistory{*this, "fraHistory", "Command history"};
   CheckBox chkDispHist{*this, "chkDispHist", "Display command history window"};
   Label lblHistorySize{*this, "lblHistorySize", "Size of command history window (chars)"};
-  TextBox Text3{*this, "Text3", TextKind::Number};
+  TextBox Text3{*this, "Text3"};
   Button Command5{*this, "Command5", "&History Font"};
 
   // commands

@@ -225,9 +225,12 @@ class ListBinding : public QObject, public Binding {
     return true;
   }
 
+  // An act that waits before this one may fill the list anew: then what was meant is not there any more.
   void Choose(const QListWidgetItem& item) {
-    const int index = widget_.row(&item);
-    host_.ActLater([this, index] { list_.ClickItem(index); });
+    host_.ActLater([this, index = widget_.row(&item), text = item.text()] {
+      const QListWidgetItem* there = widget_.item(index);
+      if (there != nullptr && there->text() == text) list_.ClickItem(index);
+    });
   }
 
   BindingHost& host_;

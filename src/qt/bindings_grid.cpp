@@ -60,7 +60,7 @@ class CellEditor : public QObject {
   }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
-    if (watched == &edit_ && event->type() == QEvent::KeyPress) return Take(dynamic_cast<QKeyEvent*>(event)->key());
+    if (watched == &edit_ && event->type() == QEvent::KeyPress) return Take(*dynamic_cast<QKeyEvent*>(event));
     if (watched == &edit_ && event->type() == QEvent::FocusIn) widget_.scrollTo(Cell());
     if (watched != &edit_ && event->type() == QEvent::Resize) PlaceLater();
     return QObject::eventFilter(watched, event);
@@ -71,9 +71,10 @@ class CellEditor : public QObject {
 
   QModelIndex Cell() const { return widget_.model()->index(grid_.Row() - grid_.FixedRows(), grid_.Column()); }
 
-  // Whether the key is one of the grid's.
-  bool Take(int key) {
-    switch (key) {
+  // Whether the key is one of the grid's. Beside Ctrl or Alt it is the window's: Ctrl+Tab goes to the next page.
+  bool Take(const QKeyEvent& key) {
+    if ((key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) return false;
+    switch (key.key()) {
       case Qt::Key_Return:
       case Qt::Key_Enter:
       case Qt::Key_Down: Go(grid_.Row() + 1, grid_.Column()); return true;

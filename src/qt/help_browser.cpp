@@ -1,6 +1,8 @@
 #include "qt/help_browser.h"
 
+#include <QEvent>
 #include <QImage>
+#include <QScrollBar>
 
 #include "qt/chm_file.h"
 #include "qt/texts.h"
@@ -13,6 +15,16 @@ constexpr const char* Scheme = "help";
 
 QUrl Root() { return QUrl(QString(Scheme) + ":/"); }
 
+// Many a dark theme has no colour for links, and leaves them the dark blue of a light one.
+QColor LinkColor(const QPalette& palette) {
+  constexpr int Middle = 128;
+  constexpr int Least = 185;
+  const QColor color = palette.color(QPalette::Link);
+  const bool isDark = palette.color(QPalette::Base).lightness() < Middle;
+  if (!isDark || color.lightness() >= Least) return color;
+  return QColor::fromHsl(color.hslHue(), color.hslSaturation(), Least);
+}
+
 // The name of the file inside.
 std::string NameIn(const QUrl& url) { return FromQt(url.path().mid(1)); }
 
@@ -22,6 +34,21 @@ HelpBrowser::HelpBrowser(const ChmFile& file, QWidget* parent) : QTextBrowser(pa
   setOpenExternalLinks(false);
   // A picture is fitted to the page before it is known whether the page needs the bar.
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  ShowTheme();
+}
+
+// The page takes the colour when it is read.
+void HelpBrowser::ShowTheme() {
+  document()->setDefaultStyleSheet("a { color: " + LinkColor(palette()).name() + " }");
+  if (source().isEmpty()) return;
+  const int before = verticalScrollBar()->value();
+  reload();
+  verticalScrollBar()->setValue(before);
+}
+
+void HelpBrowser::changeEvent(QEvent* event) {
+  QTextBrowser::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) ShowTheme();
 }
 
 void HelpBrowser::GoTo(const std::string& place) { setSource(Root().resolved(QUrl(ToQt(place)))); }

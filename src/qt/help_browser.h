@@ -23,8 +23,10 @@ class HelpBrowser : public QTextBrowser {
 
  protected:
   void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
+  void changeEvent(QEvent* event) override;
 
  private:
+  void ShowTheme();
   QImage FittingPicture(const std::string& bytes) const;
 
   const ChmFile& file_;

@@ -22,6 +22,8 @@ QTreeWidget* NewTree(QWidget& pane, const QString& nameForReaders) {
 
 QTreeWidgetItem* NewItem(const std::string& text, const std::string& place) {
   auto* item = new QTreeWidgetItem({ToQt(text)});
+  // For the titles that are wider than the pane.
+  item->setToolTip(0, ToQt(text));
   item->setData(0, PlaceRole, ToQt(place));
   return item;
 }
@@ -155,6 +157,7 @@ SearchPane::SearchPane(HelpBook& book, QWidget* parent) : HelpPane(book, parent)
   list_->setAccessibleName("Pages found");
   list_->setWordWrap(true);
   list_->setAlternatingRowColors(true);
+  list_->setSpacing(fontMetrics().height() / 4);
   const auto choose = [this](QListWidgetItem* item) {
     if (item != nullptr) Choose(item->data(PlaceRole).toString());
   };

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 
@@ -13,12 +14,21 @@
 namespace orby {
 namespace {
 
-constexpr QSize FirstSize(960, 640);
-constexpr int PanesWidth = 300;
+// In characters and in lines of the font.
+constexpr int FirstColumns = 166;
+constexpr int FirstLines = 46;
+constexpr int PanesColumns = 60;
 constexpr int ZoomStep = 1;  // points
 
 // The page about this window.
 constexpr const char* OwnPage = "help-window.html";
+
+// No larger than the screen.
+QSize FirstSize(const QWidget& window) {
+  const QFontMetrics font = window.fontMetrics();
+  const QSize wanted(font.averageCharWidth() * FirstColumns, font.lineSpacing() * FirstLines);
+  return wanted.boundedTo(window.screen()->availableSize());
+}
 
 }  // namespace
 
@@ -34,7 +44,9 @@ HelpWindow::HelpWindow(std::unique_ptr<ChmFile> file)
   browser_->setObjectName("helpPage");
   browser_->setAccessibleName("Page");
   splitter->setStretchFactor(1, 1);
-  splitter->setSizes({PanesWidth, FirstSize.width() - PanesWidth});
+  const QSize size = FirstSize(*this);
+  const int panesWidth = fontMetrics().averageCharWidth() * PanesColumns;
+  splitter->setSizes({panesWidth, size.width() - panesWidth});
   setCentralWidget(splitter);
   MakePanes(*panes_);
   MakeToolBar();
@@ -43,7 +55,7 @@ HelpWindow::HelpWindow(std::unique_ptr<ChmFile> file)
           [this](const QUrl& url) { contents_->Mark(HelpBrowser::PlaceAt(url)); });
   connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &HelpWindow::Escape);
   connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, [this] { GoTo(OwnPage); });
-  resize(FirstSize);
+  resize(size);
 }
 
 HelpWindow::~HelpWindow() = default;

@@ -156,6 +156,7 @@ QRegion LinesView::visualRegionForSelection(const QItemSelection& selection) con
   return region;
 }
 
+// NOLINTBEGIN(bugprone-parent-virtual-call): see the header.
 void LinesView::updateGeometries() {
   QScrollBar& down = *verticalScrollBar();
   down.setSingleStep(1);
@@ -182,6 +183,7 @@ void LinesView::currentChanged(const QModelIndex& current, const QModelIndex& pr
   event.setChild(current.row());
   QAccessible::updateAccessibility(&event);
 }
+// NOLINTEND(bugprone-parent-virtual-call)
 
 void LinesView::scrollContentsBy(int dx, int dy) {
   viewport()->scroll(dx, static_cast<int>(std::clamp(qint64{dy} * LineHeight(), -FarBelow, FarBelow)));

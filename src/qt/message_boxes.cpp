@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMessageBox>
+#include <algorithm>
 #include <array>
 
 #include "qt/texts.h"
@@ -73,11 +74,20 @@ class Box : public QMessageBox {
   bool mustAnswer_;
 };
 
+// The window that the box stands on. While another program has the keyboard none of the program's windows is active.
+QWidget* WindowInUse() {
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  const auto visible = std::ranges::find_if(windows, [](const QWidget* window) { return window->isVisible(); });
+  return visible == windows.end() ? nullptr : *visible;
+}
+
 }  // namespace
 
 int QtMessageBoxes::Show(const MessageBox& box) {
   const ButtonSet& set = ButtonsOf(box.style);
-  Box shown(QApplication::activeWindow(), set.escape == None);
+  Box shown(WindowInUse(), set.escape == None);
   shown.setIcon(IconOf(box.style));
   shown.setTextFormat(Qt::PlainText);
   shown.setText(ToQtLines(box.text));

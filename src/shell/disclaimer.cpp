@@ -51,7 +51,7 @@ void Disclaimer::OnOpen() {
 }
 
 void Disclaimer::Refuse() {
-  if (program_.EndAtOnce) program_.EndAtOnce();
+  program_.EndAtOnce();
   Close();
 }
 

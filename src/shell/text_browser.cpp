@@ -51,6 +51,7 @@ std::string FolderName(const std::string& path) {
 
 std::vector<ComboItem> NamesOf(const std::vector<std::string>& paths) {
   std::vector<ComboItem> names;
+  names.reserve(paths.size());
   for (const std::string& path : paths) names.push_back({std::string(NameBehindSeparator(path))});
   return names;
 }

@@ -1,5 +1,6 @@
 // The help's window, and the way to it by F1 from the fields of the program.
 #include <QTableWidget>
+#include <QTextBlock>
 #include <QTextBrowser>
 
 #include "core/help.h"
@@ -69,6 +70,33 @@ TEST_F(HelpOnScreen, GoesToThePageOfALineOfTheContents) {
   Press(Qt::Key_Return);
 
   EXPECT_EQ(Place(), "workflow.html");
+}
+
+// The colour of the first link of the page.
+QColor LinkOn(const HelpBrowser& page) {
+  for (QTextBlock block = page.document()->begin(); block.isValid(); block = block.next()) {
+    for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
+      const QTextCharFormat format = piece.fragment().charFormat();
+      if (!format.anchorHref().isEmpty()) return format.foreground().color();
+    }
+  }
+  throw std::logic_error("no link");
+}
+
+TEST_F(HelpOnScreen, LightensItsLinksOnADarkGround) {
+  OpenContents();
+  const QPalette light = QApplication::palette();
+  EXPECT_EQ(LinkOn(Window().Browser()).name(), "#0000ff");
+
+  QApplication::setPalette(QPalette(QColor(0x30, 0x30, 0x30)));
+  Settle();
+  const QColor onDark = LinkOn(Window().Browser());
+  QApplication::setPalette(light);
+  Settle();
+
+  EXPECT_GT(onDark.lightness(), 180);
+  EXPECT_EQ(LinkOn(Window().Browser()).name(), "#0000ff");
+  EXPECT_EQ(Place(), "welcome.html");
 }
 
 TEST_F(HelpOnScreen, DoesNotFetchWhatIsNotInTheFile) {

@@ -195,6 +195,18 @@ TEST_F(OptionsView, GoesToOtherRowsByEnterAndArrows) {
   });
 }
 
+TEST_F(OptionsView, LeavesAGridForTheNextPageByControlAndTab) {
+  UsePage(EnglishPage, [](QDialog& window) {
+    ClickCell(window, "VSFlexGridEng", 0, 1);
+
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+    Settle();
+
+    EXPECT_EQ(Find<QTabWidget>(window, "SSTab1").currentIndex(), MetricPage);
+    EXPECT_EQ(TextOn(window, "txtCableEng"), "0.6");
+  });
+}
+
 TEST_F(OptionsView, StaysInTheLastRowOnEnter) {
   UsePage(EnglishPage, [](QDialog& window) {
     ClickCell(window, "VSFlexGridEng", 1, 1);

@@ -40,6 +40,8 @@
 #include "gui/gui_bench.h"
 #include "qt/boundary.h"
 #include "qt/chart_view.h"
+#include "qt/help_viewer.h"
+#include "qt/help_window.h"
 #include "qt/main_view.h"
 #include "qt/message_boxes.h"
 #include "reports/calculation_report.h"
@@ -151,6 +153,7 @@ class Sitting {
     TakeDialog<ConvertDialog>("convert");
     TakeCalculator();
     TakeBrowser();
+    TakeHelp();
     TakeMessages();
   }
 
@@ -314,6 +317,27 @@ class Sitting {
     });
     TextBrowser browser(program_);
     ShowForm(program_, browser);
+  }
+
+  void TakeHelp() {
+    QtHelpViewer viewer;
+    viewer.ShowContents(HELP_DIR "/ORBY.CHM");
+    HelpWindow& window = *viewer.Window();
+    photographer_.Take(window, "help-contents");
+    window.Browser().GoTo("parameters-primary.html");
+    Press(Qt::Key_F, Qt::ControlModifier);
+    Type("bolt");
+    photographer_.Take(window, "help-find");
+    auto& panes = Find<QTabWidget>(window, "helpPanes");
+    panes.setCurrentIndex(1);
+    photographer_.Take(window, "help-index");
+    panes.setCurrentIndex(2);
+    panes.currentWidget()->setFocus();
+    Type("cable bolt");
+    Press(Qt::Key_Return);
+    photographer_.Take(window, "help-search");
+    viewer.Close();
+    Settle();
   }
 
   void TakeMessages() {

@@ -142,6 +142,25 @@ TEST_F(BrowserView, OpensNoFurtherFolderByTheSecondClickOfTwo) {
   });
 }
 
+// As when the window has not answered for a while.
+TEST_F(BrowserView, ForgetsAClickOnAFolderThatAClickBeforeItTookOffTheList) {
+  Browse([this](QDialog& window) {
+    auto& folders = Find<QListWidget>(window, "Dir1");
+    const auto clickRow = [&folders](int row) {
+      const QPoint at = folders.visualItemRect(folders.item(row)).center();
+      QTest::mouseClick(folders.viewport(), Qt::LeftButton, Qt::NoModifier, at);
+    };
+    ASSERT_THAT(ItemsOn(window, "Dir1"), ElementsAre("/", "  designs", "    east", "    west"));
+
+    clickRow(2);
+    clickRow(3);
+    Settle();
+
+    EXPECT_THAT(ItemsOn(window, "Dir1"), ElementsAre("/", "  designs", "    east"));
+    EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  });
+}
+
 TEST_F(BrowserView, OpensAFolderByTheKeyboard) {
   Browse([](QDialog& window) {
     Find(window, "Dir1").setFocus();

@@ -15,6 +15,7 @@
 #include <memory>
 #include <stdexcept>
 
+#include "apps/orby-book/page_breaks.h"
 #include "apps/orby-book/pdf_file.h"
 
 namespace orby {
@@ -30,9 +31,11 @@ constexpr double MillimetresPerInch = 25.4;
 
 constexpr const char* Style =
     "h1 { font-size: 20pt; } h2 { font-size: 14pt; } h3 { font-size: 12pt; }"
+    "p { margin-top: 8px; margin-bottom: 8px; }"
     "code { font-family: 'DejaVu Sans Mono'; }"
     "a { color: #1f5f99; text-decoration: none; }"
     "td, th { padding: 3px; }"
+    ".entry { padding: 1px; font-size: 10pt; }"
     ".cover { font-size: 30pt; } .under { font-size: 14pt; }";
 
 // Nothing of the machine's own: the same letters everywhere.
@@ -84,8 +87,10 @@ class Printout {
     for (QTextFrame* frame : document_.rootFrame()->childFrames()) {
       if (auto* table = qobject_cast<QTextTable*>(frame)) DressTable(*table);
     }
+    IndentDefinitions(document_, Resolution / PixelsPerInch);
     changes.endEditBlock();
     document_.setPageSize(page_);
+    KeepTogether(document_, Resolution / PixelsPerInch);
     places_ = FindPlaces();
   }
 
@@ -96,14 +101,14 @@ class Printout {
     for (const BookChapter& chapter : std::as_const(book_.chapters)) {
       const QString indent = QString("&nbsp;").repeated(5 * chapter.level);
       if (chapter.place.isEmpty()) {
-        rows += "<tr><td><b>" + chapter.title + "</b></td><td></td></tr>";
+        rows += "<tr><td class=\"entry\"><b>" + chapter.title + "</b></td><td class=\"entry\"></td></tr>";
         continue;
       }
       const QString link = "<a href=\"" + LinkAddress(static_cast<int>(book_.links.size())) + "\">";
       book_.links.append(chapter.place);
       const int page = places_.value(chapter.place).page + 1;
-      rows += "<tr><td>" + indent + link + chapter.title + "</a></td><td align=\"right\">" + link +
-              QString::number(page) + "</a></td></tr>";
+      rows += "<tr><td class=\"entry\">" + indent + link + chapter.title +
+              "</a></td><td class=\"entry\" align=\"right\">" + link + QString::number(page) + "</a></td></tr>";
     }
     return "<h1>Contents</h1><table width=\"100%\">" + rows + "</table>";
   }
