@@ -141,6 +141,7 @@ void UpdateDialog::Download() {
 
 void UpdateDialog::FetchSetup() {
   verifiedFile_.clear();
+  downloadFailed_ = true;  // until it has come to its end
   ProgressBar1.SetValue(0);
   lblbytes.SetCaption({});
   const std::string folder = DownloadFolder(program_);
@@ -184,6 +185,7 @@ void UpdateDialog::SetupArrived(const std::string& path, const FetchOutcome& out
                        (isDeleted ? ", and was deleted: " : ". Delete it: ") + path);
   }
   verifiedFile_ = path;
+  downloadFailed_ = false;
   ProgressBar1.SetValue(ProgressBar::Whole);
   lblStatus.SetCaption("Download completed. Program at: " + path);
 }
@@ -195,8 +197,8 @@ void UpdateDialog::EndDownload(const std::string& status) {
 
 void UpdateDialog::Install() {
   const std::string file = SetupFilePath(program_, offered_ ? offered_->version : std::string());
-  // Without a sum to hold against it, a file counts once it is there: a download that broke off has another name.
-  const bool isTrusted = file == verifiedFile_ || (offered_ && offered_->sha256.empty());
+  // Where the server tells no sum, a file of another day counts too, unless it was to be replaced and could not be.
+  const bool isTrusted = file == verifiedFile_ || (offered_ && offered_->sha256.empty() && !downloadFailed_);
   if (!FileExists(program_, file)) {
     ShowMessage(program_, "Update file: " + file + " not found");
   } else if (!isTrusted) {

@@ -1,7 +1,7 @@
 // The dialog of program updates: asks the server for its version, fetches the setup program of that version, starts it.
 //
-// A setup program is started only when it has been downloaded in this run to its last byte and, where the server tells
-// the SHA-256 of it, is the very file that was published.
+// Where the server tells the SHA-256 of a setup program, it is started only when it has been downloaded in this run and
+// is the very file that was published. One whose download failed is never started.
 #pragma once
 
 #include <functional>
@@ -71,6 +71,7 @@ class UpdateDialog : public UpdateControls {
   Program& program_;
   std::optional<OfferedVersion> offered_;
   std::string verifiedFile_;  // may be started; empty: none
+  bool downloadFailed_ = false;
   std::unique_ptr<Fetch> fetch_;
 };
 

@@ -434,10 +434,20 @@ TEST_F(AnUpdateDialog, NeverStartsAFileWithAWrongSumThatCannotBeDeleted) {
   EXPECT_THAT(platform.documents.opened, IsEmpty());
 }
 
-TEST_F(AnUpdateDialog, NeverStartsAFileOfAnotherDay) {
+TEST_F(AnUpdateDialog, StartsAFileOfAnotherDayWhenTheServerTellsNoSum) {
   platform.files.files[NewSetup] = "of last week";
   platform.boxes.answers = {box_result::No};
   Check(NewVersion);
+
+  dialog.cmdInstall.Press();
+
+  EXPECT_THAT(platform.documents.opened, ElementsAre(NewSetup));
+}
+
+TEST_F(AnUpdateDialog, NeverStartsAFileOfAnotherDayWhenTheServerTellsASum) {
+  platform.files.files[NewSetup] = "of last week";
+  platform.boxes.answers = {box_result::No};
+  Check(NewVersionWithSum);
   platform.boxes.shown.clear();
 
   dialog.cmdInstall.Press();
