@@ -2,7 +2,6 @@
 #pragma once
 
 #include "platform/disk_files.h"
-#include "platform/no_desktop.h"
 #include "platform/platform.h"
 #include "qt/documents.h"
 #include "qt/downloads.h"
