@@ -13,6 +13,12 @@ start_steps() {
 
 log_of() { printf '%s/%s.log' "$logs" "$(tr -c 'A-Za-z0-9\n' '-' <<<"$1")"; }
 
+# What a log says of failures: the outputs of the tests that failed, and its end.
+digest() {
+  awk '/Test +#[0-9]+:/ { shown = /\*\*\*/ } /^ *Start +[0-9]+:/ { shown = 0 } shown' "$1" | head -n 200
+  grep -v 'This plugin does not support' "$1" | tail -n 60
+}
+
 # note NAME GOOD BAD SECONDS LOG: one line of the outcome, and the end of the log when anything failed.
 note() {
   passed=$((passed + $2))
@@ -23,7 +29,7 @@ note() {
   fi
   printf 'FAIL  %s: %s passed, %s failed (%s s)\n' "$1" "$2" "$3" "$4"
   failures+=("$1")
-  tail -n 80 "$5" | sed 's/^/      /'
+  digest "$5" | sed 's/^/      /'
   return 1
 }
 
@@ -60,13 +66,14 @@ count_tests() {
   fi
 }
 
-# run_ctest NAME PRESET [wrapper]: all tests of a build, each in a process of its own, in any order.
+# run_ctest NAME PRESET [wrapper]: all tests of a build, each in a process of its own, in any order. Those at a desktop
+# wait for windows most of the time, so there is work for more tests than processors.
 run_ctest() {
   local name=$1 preset=$2 log result began=$SECONDS status
   log=$(log_of "$name")
   result="${log%.log}.xml"
   shift 2
-  "$@" ctest --test-dir "$top/build/$preset" -j "$(nproc)" --schedule-random --timeout 120 --output-on-failure \
+  "$@" ctest --test-dir "$top/build/$preset" -j "$((2 * $(nproc)))" --schedule-random --timeout 120 --output-on-failure \
     --output-junit "$result" >"$log" 2>&1 </dev/null
   status=$?
   count_tests "$name" $status "$result" $((SECONDS - began)) "$log"

@@ -43,6 +43,12 @@ def press_keys(*keys):
     xdotool("key", "--delay", "2", *keys)
 
 
+def front_window():
+    """The title of the window that the window manager gives the keys to."""
+    answer = subprocess.run(["xdotool", "getactivewindow", "getwindowname"], capture_output=True, timeout=PATIENCE)
+    return answer.stdout.decode().removesuffix("\n")
+
+
 def clipboard():
     """The text of the clipboard; empty while there is none."""
     answer = subprocess.run(["xclip", "-o", "-selection", "clipboard"], capture_output=True, timeout=PATIENCE)
@@ -136,7 +142,9 @@ class Window:
         until(lambda: node.text == text, f"the text in {name}")
 
     def wait_active(self):
-        until(lambda: self.node.has(atspi.ACTIVE), f"window {self.node.name!r} in front")
+        """Waits until the window is in front for the program and for the window manager: a key is lost in between."""
+        until(lambda: self.node.has(atspi.ACTIVE) and front_window() == self.node.name,
+              f"window {self.node.name!r} in front")
 
     def wait_gone(self):
         def gone():
