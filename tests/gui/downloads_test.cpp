@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QSslConfiguration>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -355,6 +356,78 @@ TEST_F(Downloading, CannotUseAnAddressThatIsUnsafe) {
   for (const char* address : {"", "updates", "http://example.invalid/", "ftp://127.0.0.1/", "file:///etc/hostname"}) {
     EXPECT_EQ(EndOf(address), FetchEnd::NoService) << address;
   }
+}
+
+// ---- safe lines ----------------------------------------------------------------------------------------------------
+
+class DownloadingSafely : public Downloading {
+ protected:
+  // Of all certificates, the one of the server here is trusted.
+  DownloadingSafely() {
+    QSslConfiguration trusting = usual_;
+    trusting.setCaCertificates({WebServer::CertificateOf("here")});
+    QSslConfiguration::setDefaultConfiguration(trusting);
+  }
+  ~DownloadingSafely() override { QSslConfiguration::setDefaultConfiguration(usual_); }
+
+  WebServer safe{"here"};
+
+ private:
+  QSslConfiguration usual_ = QSslConfiguration::defaultConfiguration();
+};
+
+TEST_F(DownloadingSafely, BringsAFileFromAServerThatIsTrusted) {
+  const QByteArray bytes = BytesOf(1'234'567);
+  safe.ServeFile("/setup", bytes, "ETag: \"1\"");
+
+  const FetchOutcome ended = Fetch(To(safe.Address("/setup"), true));
+
+  EXPECT_EQ(ended.end, FetchEnd::Done);
+  EXPECT_EQ(ended.sha256, Sha256Of(bytes));
+  EXPECT_TRUE(Arrived() == bytes);
+}
+
+TEST_F(DownloadingSafely, FollowsASafeServerToAnother) {
+  WebServer other{"here"};
+  other.ServeFile("/there", "abc");
+  safe.ServeRedirection("/file", QByteArray::fromStdString(other.Address("/there")));
+
+  EXPECT_EQ(EndOf(safe.Address("/file")), FetchEnd::Done);
+
+  EXPECT_EQ(Arrived(), "abc");
+}
+
+TEST_F(DownloadingSafely, IsNotLedToALineThatAnybodyCanRead) {
+  server.ServeFile("/open", "abc");
+  safe.ServeRedirection("/file", QByteArray::fromStdString(server.Address("/open")));
+
+  EXPECT_EQ(EndOf(safe.Address("/file")), FetchEnd::Failed);
+
+  EXPECT_THAT(server.Requests(), IsEmpty());
+  EXPECT_THAT(FilesThere(), IsEmpty());
+}
+
+TEST_F(DownloadingSafely, TakesNothingFromAServerWithTheCertificateOfAnother) {
+  QSslConfiguration trusting = QSslConfiguration::defaultConfiguration();
+  trusting.addCaCertificate(WebServer::CertificateOf("elsewhere"));
+  QSslConfiguration::setDefaultConfiguration(trusting);
+  WebServer pretender{"elsewhere"};
+  pretender.ServeFile("/file", "abc");
+
+  EXPECT_EQ(EndOf(pretender.Address("/file")), FetchEnd::NoConnection);
+
+  EXPECT_THAT(pretender.Requests(), IsEmpty());
+  EXPECT_THAT(FilesThere(), IsEmpty());
+}
+
+TEST_F(Downloading, TakesNothingFromAServerThatNobodyVouchesFor) {
+  WebServer stranger{"here"};
+  stranger.ServeFile("/file", "abc");
+
+  EXPECT_EQ(EndOf(stranger.Address("/file")), FetchEnd::NoConnection);
+
+  EXPECT_THAT(stranger.Requests(), IsEmpty());
+  EXPECT_THAT(FilesThere(), IsEmpty());
 }
 
 // ---- going on ------------------------------------------------------------------------------------------------------

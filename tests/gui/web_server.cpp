@@ -1,6 +1,11 @@
 #include "gui/web_server.h"
 
+#include <QFile>
+#include <QSslConfiguration>
+#include <QSslKey>
+#include <QSslServer>
 #include <stdexcept>
+#include <utility>
 
 namespace orby::test {
 namespace {
@@ -27,19 +32,45 @@ WebRequest RequestIn(const QByteArray& head) {
   return request;
 }
 
+QByteArray ReadData(const QString& name) {
+  QFile file(QStringLiteral(TEST_DATA_DIR "/certificates/") + name);
+  if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error("no file " + name.toStdString());
+  return file.readAll();
+}
+
+std::unique_ptr<QTcpServer> SafeServer(const QString& certificate) {
+  QSslConfiguration safety = QSslConfiguration::defaultConfiguration();
+  safety.setLocalCertificate(WebServer::CertificateOf(certificate));
+  safety.setPrivateKey(QSslKey(ReadData(certificate + ".key"), QSsl::Ec));
+  auto server = std::make_unique<QSslServer>();
+  server->setSslConfiguration(safety);
+  return server;
+}
+
 }  // namespace
 
-WebServer::WebServer() {
-  if (!server_.listen(QHostAddress::LocalHost, 0)) throw std::runtime_error("no port for a server");
-  QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this] {
-    while (QTcpSocket* socket = server_.nextPendingConnection()) {
+WebServer::WebServer() : WebServer(std::make_unique<QTcpServer>(), "http") {}
+
+WebServer::WebServer(const QString& certificate) : WebServer(SafeServer(certificate), "https") {}
+
+WebServer::WebServer(std::unique_ptr<QTcpServer> server, std::string scheme)
+    : server_(std::move(server)), scheme_(std::move(scheme)) {
+  if (!server_->listen(QHostAddress::LocalHost, 0)) throw std::runtime_error("no port for a server");
+  QObject::connect(server_.get(), &QTcpServer::pendingConnectionAvailable, server_.get(), [this] {
+    while (QTcpSocket* socket = server_->nextPendingConnection()) {
       QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] { Read(*socket); });
+      // What came along with the last step of making the line safe.
+      if (socket->bytesAvailable() > 0) Read(*socket);
     }
   });
 }
 
+QSslCertificate WebServer::CertificateOf(const QString& certificate) {
+  return QSslCertificate(ReadData(certificate + ".crt"));
+}
+
 std::string WebServer::Address(const QByteArray& path) const {
-  return "http://127.0.0.1:" + std::to_string(server_.serverPort()) + path.toStdString();
+  return scheme_ + "://127.0.0.1:" + std::to_string(server_->serverPort()) + path.toStdString();
 }
 
 void WebServer::Read(QTcpSocket& socket) {

@@ -3,10 +3,12 @@
 
 #include <QHash>
 #include <QPointer>
+#include <QSslCertificate>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -22,10 +24,15 @@ class WebServer {
   using Answer = std::function<void(const WebRequest& request, QTcpSocket& socket)>;
 
   WebServer();
+  // Speaks https with a certificate of tests/data/certificates.
+  explicit WebServer(const QString& certificate);
   WebServer(const WebServer&) = delete;
   WebServer& operator=(const WebServer&) = delete;
 
   std::string Address(const QByteArray& path) const;
+
+  // The certificate that makes a client of this process trust the server of this name.
+  static QSslCertificate CertificateOf(const QString& certificate);
 
   // What is answered under this path; any other path is not found.
   void Serve(const QByteArray& path, Answer answer) { answers_[path] = std::move(answer); }
@@ -50,10 +57,12 @@ class WebServer {
   static void Reply(QTcpSocket& socket, const QByteArray& status, const QByteArray& headers, const QByteArray& body);
 
  private:
+  WebServer(std::unique_ptr<QTcpServer> server, std::string scheme);
   void Read(QTcpSocket& socket);
   void Handle(const QByteArray& head, QTcpSocket& socket);
 
-  QTcpServer server_;
+  std::unique_ptr<QTcpServer> server_;
+  std::string scheme_;
   std::map<QByteArray, Answer> answers_;
   std::map<QTcpSocket*, QByteArray> heads_;
   std::vector<WebRequest> requests_;
