@@ -38,7 +38,7 @@ class ToolkitStart {
 
 // Nothing more is asked, saved or written but what is kept for the next start.
 [[noreturn]] void EndRun(Desktop& desktop, MainWindow* window, const RuntimeError& error) {
-  if (window != nullptr) window->KeepUnsavedWork();
+  if (window != nullptr) window->LeaveAtOnce();
   desktop.windows.SetWaitCursor(false);
   const std::string text =
       "Run-time error '" + std::to_string(error.number()) + "':\r\n\r\n" + std::string(error.description());
@@ -57,7 +57,7 @@ int RunProgram(const std::string& programFolder, const std::vector<std::string>&
   SetErrorHandler([&](const RuntimeError& error) { EndRun(desktop, window.get(), error); });
   // What was being edited is kept for the next start.
   program.EndAtOnce = [&] {
-    if (window) window->KeepUnsavedWork();
+    if (window) window->LeaveAtOnce();
     std::_Exit(EXIT_SUCCESS);
   };
   desktop.windows.HelpRequested = [&](const Form& form, const Control* control) {

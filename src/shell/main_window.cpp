@@ -101,6 +101,11 @@ void MainWindow::OnClose() {
   WriteDefaults(program_, settings_section::FileMenu);
 }
 
+void MainWindow::LeaveAtOnce() {
+  recovery_.Flush();
+  updateCheck_.Stop();
+}
+
 void MainWindow::RefreshCaption() {
   SetCaption(SetFormCaption(ProgramTitle, program_.CurrentFile, program_.FileSaved));
 }

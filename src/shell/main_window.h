@@ -32,8 +32,9 @@ class MainWindow : public MainControls {
   // Asks what to do with unsaved changes; false when the window is to stay.
   bool MayClose() override;
 
-  // Keeps what is being edited for the next start. For the end of a run by an error.
-  void KeepUnsavedWork() { recovery_.Flush(); }
+  // For a run that ends without closing the window: keeps what is being edited for the next start, and nothing of what
+  // has been fetched in part.
+  void LeaveAtOnce();
 
  protected:
   void OnOpen() override;
@@ -76,6 +77,7 @@ class MainWindow : public MainControls {
   void UtilityCommand(Integer item);
   void HelpCommand(Integer item);
   void EditSettings();
+  void ShowUpdates();
   void ConvertFile();
 
   // Makes a dialog of this kind and shows it until it is closed.

@@ -18,6 +18,9 @@ class UpdateCheck {
   // every failure is silent.
   void Start();
 
+  // No answer is wanted any more.
+  void Stop() { fetch_.reset(); }
+
  private:
   void Compare(const OfferedVersion& offered);
 

@@ -50,6 +50,12 @@ void MainWindow::ConvertFile() {
   }
 }
 
+// The dialog looks for itself; the question of the start is not to come up over it.
+void MainWindow::ShowUpdates() {
+  updateCheck_.Stop();
+  ShowNew<UpdateDialog>();
+}
+
 void MainWindow::HelpCommand(Integer item) {
   switch (item) {
     case help_item::Contents: OpenHelpContents(program_); break;
@@ -57,7 +63,7 @@ void MainWindow::HelpCommand(Integer item) {
     case help_item::Manual: OpenDocument(program_, "Help file", ManualFile); break;
     case help_item::ResourceFiles: ShowNew<ResourceFiles>(); break;
     case help_item::Disclaimer: ShowNew<Disclaimer>(); break;
-    case help_item::Updates: ShowNew<UpdateDialog>(); break;
+    case help_item::Updates: ShowUpdates(); break;
     case help_item::About: ShowAbout(program_); break;
     default: break;
   }

@@ -193,7 +193,7 @@ TEST_F(EditedWork, IsWhatStoodBeforeTheKeyThatEndsTheRun) {
   });
 
   EXPECT_EQ(ErrorNumberOf([&] { Choose(edit_item::Parameters); }), 5);
-  window.KeepUnsavedWork();
+  window.LeaveAtOnce();
 
   ASSERT_TRUE(Kept().has_value());
   EXPECT_EQ(Kept()->WorkParms.DepthofCover, 810);

@@ -1,5 +1,6 @@
 #include "shell/update_check.h"
 
+#include "shell/main_window_fixture.h"
 #include "shell/update_fixture.h"
 
 namespace orby::test {
@@ -117,6 +118,37 @@ TEST_F(ACheckAtStart, StopsWithTheWindowThatHasIt) {
   }
 
   EXPECT_TRUE(LastAsked().stopped);
+}
+
+struct AWindowThatLooksForUpdates : testing::Test {
+  AWindowThatLooksForUpdates() {
+    program.UpdateServer = "https://updates.example.org";
+    window.Open();
+  }
+
+  const ScriptedDownloads::Asked& CheckAtStart() const { return platform.downloads.asked.at(0); }
+
+  RecordingPlatform platform;
+  Program program = StartedProgram(platform);
+  MainWindow window{program};
+};
+
+TEST_F(AWindowThatLooksForUpdates, DoesNotAskOverTheUpdatesThatTheUserHasOpened) {
+  ASSERT_FALSE(CheckAtStart().stopped);
+  bool wasStopped = false;
+  platform.windows.onModal = [&](Form&) { wasStopped = CheckAtStart().stopped; };
+
+  window.mnuHelpItem.ClickItem(help_item::Updates);
+
+  EXPECT_TRUE(wasStopped);
+}
+
+TEST_F(AWindowThatLooksForUpdates, LeavesNothingFetchedInPartWhenTheRunEndsAtOnce) {
+  ASSERT_FALSE(CheckAtStart().stopped);
+
+  window.LeaveAtOnce();
+
+  EXPECT_TRUE(CheckAtStart().stopped);
 }
 
 }  // namespace
