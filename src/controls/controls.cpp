@@ -122,7 +122,7 @@ void TabSet::ClickTab(int tab) {
 
 void List::Fill(std::vector<ComboItem> items) {
   items_ = std::move(items);
-  listIndex_ = IndexWithin(listIndex_, items_);
+  listIndex_ = Combo::Nothing;
   Touch();
 }
 

@@ -253,7 +253,7 @@ class List : public Control {
 
   ListKind Kind() const { return kind_; }
   const std::vector<ComboItem>& Items() const { return items_; }
-  // A selection beyond the end of the new list is dropped.
+  // Nothing is selected afterwards.
   void Fill(std::vector<ComboItem> items);
   int ListIndex() const { return listIndex_; }
   // The user's click on an item; fires each time. Throws RuntimeError 9 outside the list.

@@ -80,6 +80,7 @@ bool CopyTextFile(Program& program, const std::string& source, const std::string
     return false;
   }
   try {
+    if (source == target) throw RuntimeError(error_number::FileAlreadyOpen);
     const auto file = program.platform.files.OpenFile(source);
     const auto copy = program.platform.files.CreateFile(target);
     LineCopier copier(*copy);

@@ -1,5 +1,7 @@
 #include "dialogs/convert_dialog.h"
 
+#include <utility>
+
 #include "core/dialog_helpers.h"
 #include "core/help.h"
 #include "core/messages.h"
@@ -7,7 +9,8 @@
 
 namespace orby {
 
-ConvertDialog::ConvertDialog(Program& program) : program_(program) {
+ConvertDialog::ConvertDialog(Program& program, std::function<void()> converted)
+    : program_(program), converted_(std::move(converted)) {
   Command2.Click = [this] { Convert(); };
   Command1.Click = [this] { Close(); };
   Command3.Click = [this] { OpenHelpTopic(program_, *this); };
@@ -24,6 +27,7 @@ void ConvertDialog::OnOpen() {
 
 void ConvertDialog::Convert() {
   const bool converted = ConvertProject(program_, GetArrayIndex(Option1));
+  if (converted) converted_();
   ShowMessage(program_, converted ? "Conversion Completed: The conversion form will be closed"
                                   : "Error in the Conversion Procedure. Call technical support");
   Close();

@@ -1,6 +1,8 @@
 // The file conversion utility: asks for the other unit system and converts the open project into it.
 #pragma once
 
+#include <functional>
+
 #include "controls/controls.h"
 #include "core/program.h"
 
@@ -24,7 +26,9 @@ class ConvertControls : public Form {
 
 class ConvertDialog : public ConvertControls {
  public:
-  explicit ConvertDialog(Program& program);
+  // converted: runs once the project is another one, before the user is told.
+  explicit ConvertDialog(
+      Program& program, std::function<void()> converted = [] {});
 
  protected:
   void OnOpen() override;
@@ -34,6 +38,7 @@ class ConvertDialog : public ConvertControls {
   void Convert();
 
   Program& program_;
+  std::function<void()> converted_;
 };
 
 }  // namespace orby

@@ -9,6 +9,7 @@
 #include "dialogs/copy_clip.h"
 #include "dialogs/fault_texts.h"
 #include "dialogs/history_texts.h"
+#include "dialogs/preview.h"
 #include "dialogs/results_window.h"
 #include "engine/cost.h"
 #include "reports/cost_report.h"
@@ -167,11 +168,9 @@ void CostDialog::CopyCostToWorkParmsCopy() { program_.WorkParmsCopy.Cost() = Typ
 bool CostDialog::BuildReport() {
   CopyCostToWorkParmsCopy();
   if (!CostReport(program_)) return false;
-  const CostGroup committed = program_.WorkParms.Cost();
-  program_.WorkParms.Cost() = program_.WorkParmsCopy.Cost();
+  const Preview preview(program_.WorkParms.Cost(), program_.WorkParmsCopy.Cost());
   program_.ReportCaller = report_caller::Cost;
   LoadOutBuf0(program_);
-  program_.WorkParms.Cost() = committed;
   return true;
 }
 

@@ -1,5 +1,8 @@
 #include "dialogs/estimator_dialog.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "base/arithmetic.h"
 #include "base/number_text.h"
 #include "core/dialog_helpers.h"
@@ -58,12 +61,14 @@ void EstimatorDialog::OnClose() {
   AddHistoryLine(program_, "CMRR Form Modified");
 }
 
-// The rating on view stays that of the row chosen before, until a row of this region is chosen.
+// The row stays selected, or the last one where there are fewer, and the rating on view stays that of the row chosen
+// before, until a row of this region is chosen.
 void EstimatorDialog::ShowRegion(Integer region) {
   for (Picture& picture : Picture1) picture.SetVisible(false);
   Picture1[static_cast<std::size_t>(region)].SetVisible(true);
 
   const auto types = RockTypes(region);
+  const int selected = VSFlexGrid1.Row();
   VSFlexGrid1.SetSize(static_cast<int>(types.size()), ColumnCount, 0);
   VSFlexGrid1.SetColumnWidths({360, 2950, 360});
   int row = 0;
@@ -75,6 +80,9 @@ void EstimatorDialog::ShowRegion(Integer region) {
   }
   const Integer manualValue = program_.estimator.EstimatorManualValue;
   if (manualValue != 0) VSFlexGrid1.SetCell(row - 1, RatingColumn, NumberText(manualValue));
+  const bool held = std::exchange(HoldEvents, true);
+  VSFlexGrid1.SetRow(std::min(selected, row - 1));
+  HoldEvents = held;
 }
 
 void EstimatorDialog::ShowEstimate() {

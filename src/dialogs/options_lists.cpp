@@ -102,12 +102,12 @@ void OptionsDialog::DeleteBolt(std::size_t catalog) {
     ShowMessage(program_, "Please select a " + std::string(ListNames[chosen].Inside) + " value to delete");
     return;
   }
+  const int deleted = list.ListIndex();
   std::vector<ComboItem> items = list.Items();
-  items.erase(items.begin() + list.ListIndex());
+  items.erase(items.begin() + deleted);
+  const int last = static_cast<int>(items.size()) - 1;
   list.Fill(std::move(items));
-  if (list.ListIndex() == Combo::Nothing && !list.Items().empty()) {
-    list.ClickItem(static_cast<int>(list.Items().size()) - 1);
-  }
+  if (last >= 0) list.ClickItem(std::min(deleted, last));
 }
 
 // The built-in values of the other catalogs that come with these stay out of it.

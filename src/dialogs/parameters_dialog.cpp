@@ -12,6 +12,7 @@
 #include "dialogs/copy_clip.h"
 #include "dialogs/estimator_dialog.h"
 #include "dialogs/history_texts.h"
+#include "dialogs/preview.h"
 #include "dialogs/results_window.h"
 #include "reports/calculation_report.h"
 #include "reports/input_echo.h"
@@ -220,12 +221,10 @@ void ParametersDialog::OnClose() {
 
 void ParametersDialog::BuildReport() {
   CopyToWorkParmsCopy();
-  const DesignGroups committed = program_.WorkParms.Design();
-  program_.WorkParms.Design() = program_.WorkParmsCopy.Design();
+  const Preview preview(program_.WorkParms.Design(), program_.WorkParmsCopy.Design());
   program_.ReportCaller = report_caller::Parameters;
   LoadOutBuf0(program_);
   CalculationReport(program_);
-  program_.WorkParms.Design() = committed;
 }
 
 void ParametersDialog::Estimate() {

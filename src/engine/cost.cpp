@@ -29,12 +29,15 @@ std::array<Single, CostHeads> CostPerBolt(const CostGroup& in, Single shiftsPerY
   return cost;
 }
 
-// Tons of clean coal per shift that the cost is spread over; 0 or less for none.
+// Tons of clean coal per shift that the cost is spread over; 0 or less for none. The calculated ones must be numbers
+// even when those that were typed count.
 Single ProductionPerShift(const CostGroup& in) {
-  if (in.CostProduction != 1) return in.CostCleanProduction;
-  if (in.CostRowSpacing <= 0) return 0;
-  const Single advance = ToSingle(AdvancePerShift(in.CostNBoltsRow, in.CostRowSpacing, in.CostNboltsShift));
-  return ToSingle(CleanProductionPerShift(advance, in.CostAdvanceRate));
+  Single calculated = 0;
+  if (in.CostRowSpacing > 0) {
+    const Single advance = ToSingle(AdvancePerShift(in.CostNBoltsRow, in.CostRowSpacing, in.CostNboltsShift));
+    calculated = ToSingle(CleanProductionPerShift(advance, in.CostAdvanceRate));
+  }
+  return in.CostProduction == 1 ? calculated : in.CostCleanProduction;
 }
 
 }  // namespace

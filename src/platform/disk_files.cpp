@@ -118,6 +118,8 @@ bool DiskFiles::Finds(const std::string& path, bool foldersToo) {
   std::error_code problem;
   const auto status = std::filesystem::status(path, problem);
   if (status.type() == std::filesystem::file_type::not_found) return false;
+  // A folder on the way that may not be entered makes it no usable path, which is not a file that may not be used.
+  if (problem == std::errc::permission_denied) throw RuntimeError(error_number::PathFileAccess);
   if (problem) throw FileError(problem.value(), path);
   return foldersToo || status.type() != std::filesystem::file_type::directory;
 }

@@ -181,7 +181,8 @@ class ListBinding : public QObject, public Binding {
     if (list.Kind() == ListKind::Choices) {
       connect(&widget_, &QListWidget::itemSelectionChanged, this, [this] {
         const auto selected = widget_.selectedItems();
-        if (selected.isEmpty()) return;
+        // An item that is clicked with the Control key stays chosen.
+        if (selected.isEmpty()) return Show();
         host_.Act([this, index = widget_.row(selected.constFirst())] { list_.ClickItem(index); });
       });
       return;

@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <utility>
 
 #include "qt/bindings.h"
 #include "qt/mnemonics.h"
@@ -111,7 +112,9 @@ class LineEditBinding : public QObject, public Binding {
   bool KeepsPlace() const override { return true; }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() == QEvent::FocusIn) {
+    if (event->type() == QEvent::FocusOut) {
+      isLent_ = IsLending(*dynamic_cast<QFocusEvent*>(event));
+    } else if (event->type() == QEvent::FocusIn && !std::exchange(isLent_, false)) {
       // After the press of the mouse that brought the focus, which would take the selection away again.
       QMetaObject::invokeMethod(&widget_, &QLineEdit::selectAll, Qt::QueuedConnection);
     } else if (event->type() == QEvent::KeyPress) {
@@ -121,7 +124,13 @@ class LineEditBinding : public QObject, public Binding {
   }
 
  private:
-  // Only keys that bring a character are judged; shortcuts, Enter and Tab are none of the text's.
+  // Whether the keyboard goes to a menu of the field or to another window, and comes back to where it was.
+  static bool IsLending(const QFocusEvent& leaving) {
+    return leaving.reason() == Qt::PopupFocusReason || leaving.reason() == Qt::ActiveWindowFocusReason;
+  }
+
+  // Only keys that bring a character are judged; shortcuts, Enter and Tab are none of the text's, and the Delete key,
+  // for which some desktops send a control character, edits it.
   bool IsRefused(const QKeyEvent& key) const {
     const QString text = key.text();
     if (text.size() != 1 || (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) return false;
@@ -129,13 +138,15 @@ class LineEditBinding : public QObject, public Binding {
     constexpr int Tab = 9;
     constexpr int Enter = 13;
     constexpr int Escape = 27;
-    if (code == Tab || code == Enter || code == Escape) return false;
+    constexpr int Delete = 127;
+    if (code == Tab || code == Enter || code == Escape || code == Delete) return false;
     return box_.KeyPress(code) == 0;
   }
 
   BindingHost& host_;
   TextBox& box_;
   QLineEdit& widget_;
+  bool isLent_ = false;
 };
 
 // A text of several lines. An output is shown from its top, or where its selection stands.
@@ -156,11 +167,12 @@ class TextAreaBinding : public QObject, public Binding {
       widget_.setFont(FontOf(shownFont_, widget_));
     }
     const QString text = ToQtLines(box_.Text());
-    if (widget_.toPlainText() == text && box_.SelectionStart() == shownStart_) return;
+    const bool isSame = widget_.toPlainText() == text;
+    // The place in what is being typed is the user's.
+    if (isSame && !widget_.isReadOnly()) return;
     const QSignalBlocker quiet(widget_);
-    if (widget_.toPlainText() != text) widget_.setPlainText(text);
-    shownStart_ = box_.SelectionStart();
-    if (shownStart_ > 0) widget_.moveCursor(QTextCursor::End);
+    if (!isSame) widget_.setPlainText(text);
+    widget_.moveCursor(box_.SelectionStart() > 0 ? QTextCursor::End : QTextCursor::Start);
     widget_.ensureCursorVisible();
   }
   void ShowTheme() override {
@@ -174,7 +186,6 @@ class TextAreaBinding : public QObject, public Binding {
   TextBox& box_;
   QPlainTextEdit& widget_;
   FontChoice shownFont_;
-  std::size_t shownStart_ = 0;
 };
 
 }  // namespace

@@ -27,8 +27,21 @@ QString PlaceCaption(const QWidget& widget) {
   return widget.window()->windowTitle();
 }
 
-void NameAfterLabel(const QLabel& label) {
-  if (label.buddy() != nullptr) label.buddy()->setAccessibleName(label.text().remove('&'));
+// Of an array that shows one member at a time, the one on view.
+QWidget* MemberOnView(QWidget& member) {
+  const QString name = member.objectName();
+  const QString array = name.left(name.lastIndexOf('_') + 1);
+  if (!member.isHidden() || array.isEmpty()) return &member;
+  for (auto* sibling : member.parentWidget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    if (sibling->objectName().startsWith(array) && !sibling->isHidden()) return sibling;
+  }
+  return &member;
+}
+
+void NameAfterLabel(QLabel& label) {
+  if (label.buddy() == nullptr) return;
+  label.setBuddy(MemberOnView(*label.buddy()));
+  label.buddy()->setAccessibleName(label.text().remove('&'));
 }
 
 bool IsHelpKey(const QEvent& event) {
@@ -138,7 +151,7 @@ void BoundForm::NameForReaders() {
   const bool ids = ShowsControlNames();
   for (const Control* control : form_.Controls()) {
     for (QWidget* widget : bindings_.at(control)->Widgets()) {
-      if (const auto* label = dynamic_cast<const QLabel*>(widget)) NameAfterLabel(*label);
+      if (auto* label = dynamic_cast<QLabel*>(widget)) NameAfterLabel(*label);
       if (ids) widget->setAccessibleDescription(widget->objectName());
     }
   }

@@ -1,6 +1,11 @@
 #include "qt/documents.h"
 
+#include <QDeadlineTimer>
+#include <QFile>
 #include <QProcess>
+#include <QTemporaryDir>
+#include <QThread>
+#include <chrono>
 
 #include "base/runtime_error.h"
 #include "qt/sheet_file.h"
@@ -27,7 +32,22 @@ QStringList ToQtList(const std::vector<std::string>& texts) {
 
 }  // namespace
 
-bool QtDocuments::Open(const std::string& path) { return Start("xdg-open", {path}); }
+// What opens files on a desktop fails at once, and otherwise either ends at once or stays as long as the file is open:
+// how it ended is looked for a moment only, and it may go on after this program.
+bool QtDocuments::Open(const std::string& path) {
+  constexpr std::chrono::milliseconds MostToFail{1500};
+  constexpr unsigned long MillisecondsBetween = 10;
+  const QTemporaryDir folder;
+  const QString ending = folder.filePath("ending");
+  const QString script = R"(xdg-open "$1"; { echo $? >"$2"; } 2>/dev/null)";
+  if (!QProcess::startDetached("/bin/sh", {"-c", script, "sh", ToQt(path), ending})) return false;
+  for (const QDeadlineTimer patience(MostToFail); !patience.hasExpired(); QThread::msleep(MillisecondsBetween)) {
+    QFile file(ending);
+    if (!file.open(QIODevice::ReadOnly)) continue;
+    if (const QByteArray status = file.readAll(); status.endsWith('\n')) return status == "0\n";
+  }
+  return true;
+}
 
 bool QtDocuments::Start(const std::string& program, const std::vector<std::string>& arguments) {
   return QProcess::startDetached(ToQt(program), ToQtList(arguments));

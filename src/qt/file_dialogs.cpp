@@ -33,7 +33,8 @@ std::string Ask(const FileQuestion& question, QFileDialog::AcceptMode mode) {
   dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setNameFilters(NameFilters(question.filters));
-  dialog.setDefaultSuffix(ToQt(question.defaultExtension));
+  // A file that is there is opened by the name that it has.
+  if (mode == QFileDialog::AcceptSave) dialog.setDefaultSuffix(ToQt(question.defaultExtension));
   if (!question.fileName.empty()) dialog.selectFile(ToQt(question.fileName));
   if (auto* name = dialog.findChild<QLineEdit*>("fileNameEdit")) name->setMaxLength(LongestName);
   return Answer(dialog);

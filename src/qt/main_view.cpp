@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QToolBar>
 #include <QUrl>
+#include <algorithm>
 #include <array>
 
 #include "qt/boundary.h"
@@ -34,6 +35,31 @@ constexpr std::array Dresses{
     Dress{"Toolbar1_1", "open", nullptr},          Dress{"Toolbar1_2", "save", nullptr},
     Dress{"Toolbar1_3", "print", nullptr},         Dress{"Toolbar1_4", "description", nullptr},
     Dress{"Toolbar1_5", "parameters", nullptr},
+};
+
+// However its size comes about, no part of the window is left outside the screens that could be inside.
+class StayInView : public QObject {
+ public:
+  explicit StayInView(QMainWindow& window) : QObject(&window), window_(window) { window.installEventFilter(this); }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Resize && !window_.isMaximized() && !window_.isFullScreen()) BringBack();
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  void BringBack() {
+    const QRect screens = window_.screen()->availableVirtualGeometry();
+    QRect frame = window_.frameGeometry();
+    const QPoint place = frame.topLeft();
+    frame.moveRight(std::min(frame.right(), screens.right()));
+    frame.moveBottom(std::min(frame.bottom(), screens.bottom()));
+    frame.moveLeft(std::max(frame.left(), screens.left()));
+    frame.moveTop(std::max(frame.top(), screens.top()));
+    if (frame.topLeft() != place) window_.move(frame.topLeft());
+  }
+
+  QMainWindow& window_;
 };
 
 // Takes the one file that is dropped on the window.
@@ -83,6 +109,7 @@ void DressMainWindow(QMainWindow& window, MainWindow& model) {
     if (dress.icon != nullptr) action->setIcon(ThemedIcon(dress.icon));
     if (dress.shortcut != nullptr) action->setShortcut(QKeySequence(dress.shortcut));
   }
+  new StayInView(window);
   // The icons have made the tool bar longer than the window was made for.
   const QSize whole(window.findChild<QToolBar*>()->sizeHint().width(), 0);
   if (!window.isMaximized()) window.resize(window.size().expandedTo(whole).boundedTo(window.screen()->size()));

@@ -216,12 +216,17 @@ void QtWindows::Show(Form& form) {
   window.activateWindow();
 }
 
-// The place on the screen survives.
+// The place on the screen survives. A window that comes back, or is there already, is in use again.
 void QtWindows::ShowMainWindow(bool visible) {
-  if (!main_.window || main_.window->isVisible() == visible) return;
-  const QByteArray place = main_.window->saveGeometry();
-  main_.window->setVisible(visible);
-  main_.window->restoreGeometry(place);
+  if (!main_.window) return;
+  if (main_.window->isVisible() != visible) {
+    const QByteArray place = main_.window->saveGeometry();
+    main_.window->setVisible(visible);
+    main_.window->restoreGeometry(place);
+  }
+  if (!visible) return;
+  main_.window->raise();
+  main_.window->activateWindow();
 }
 
 void QtWindows::SetWaitCursor(bool waiting) {

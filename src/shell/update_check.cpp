@@ -35,7 +35,7 @@ void UpdateCheck::Start() {
 void UpdateCheck::Compare(const OfferedVersion& offered) {
   AddHistoryLine(program_, "Server/Current: " + offered.version + "/" + VersionText(true));
   if (!IsNewer(offered) || ShowMessage(program_, Question(), box_style::YesNo) != box_result::Yes) return;
-  UpdateDialog dialog(program_);
+  UpdateDialog dialog(program_, offered);
   ShowForm(program_, dialog);
 }
 

@@ -1,5 +1,7 @@
 #include "shell/update_dialog.h"
 
+#include <utility>
+
 #include "base/attempt.h"
 #include "base/number_text.h"
 #include "base/text.h"
@@ -53,7 +55,8 @@ std::string ProgressText(std::uint64_t received, std::uint64_t total) {
 
 }  // namespace
 
-UpdateDialog::UpdateDialog(Program& program) : program_(program) {
+UpdateDialog::UpdateDialog(Program& program, std::optional<OfferedVersion> offered)
+    : program_(program), offered_(std::move(offered)) {
   cmdCheck.Click = [this] { AskServer([this] { Compare(); }); };
   cmdDownUpdate.Click = [this] { Download(); };
   cmdInstall.Click = [this] { Install(); };

@@ -40,7 +40,8 @@ class UpdateControls : public Form {
 
 class UpdateDialog : public UpdateControls {
  public:
-  explicit UpdateDialog(Program& program);
+  // offered: what the server is known to offer, if it has been asked.
+  explicit UpdateDialog(Program& program, std::optional<OfferedVersion> offered = std::nullopt);
 
  protected:
   void OnOpen() override;

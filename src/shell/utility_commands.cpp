@@ -44,9 +44,11 @@ void MainWindow::ConvertFile() {
   } else if (!program_.FileSaved) {
     ShowMessage(program_, "Save Current File before accessing this option");
   } else {
-    ShowNew<ConvertDialog>();
-    recovery_.Committed();
-    RefreshCaption();
+    ConvertDialog dialog(program_, [this] {
+      recovery_.Committed();
+      RefreshCaption();
+    });
+    ShowForm(program_, dialog);
   }
 }
 

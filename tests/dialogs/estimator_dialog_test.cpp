@@ -247,13 +247,30 @@ TEST_F(AnEstimator, KeepsTheRatingOnViewInAnotherCoalfieldUntilARowIsClicked) {
 
 TEST_F(AnEstimator, RatesTheRowThatIsSelectedAlreadyWhenItIsClicked) {
   OpenOn(0, 7);
-  dialog.optLocation.SetValue(1, true);
-  ASSERT_EQ(dialog.VSFlexGrid1.Row(), 0);
+  dialog.optLocation.SetValue(5, true);
+  ASSERT_EQ(dialog.VSFlexGrid1.Row(), 6);
 
-  dialog.VSFlexGrid1.ClickRow(0);
+  dialog.VSFlexGrid1.ClickRow(6);
 
-  EXPECT_EQ(dialog.txtCMRR.Text(), "40");
-  EXPECT_FALSE(program.estimator.EstimatorManual);
+  EXPECT_EQ(dialog.txtCMRR.Text(), "35");
+  EXPECT_TRUE(program.estimator.EstimatorManual);
+}
+
+TEST_F(AnEstimator, KeepsTheRowInAnotherCoalfieldAndTakesTheLastWhereThereAreFewer) {
+  OpenOn(0, 3);
+
+  dialog.optLocation.SetValue(2, true);
+  EXPECT_EQ(dialog.VSFlexGrid1.Row(), 3);
+  dialog.VSFlexGrid1.ClickRow(7);
+  dialog.optLocation.SetValue(4, true);
+  EXPECT_EQ(dialog.VSFlexGrid1.Row(), 6);
+  dialog.optLocation.SetValue(3, true);
+  dialog.Command2.Press();
+
+  EXPECT_EQ(program.estimator.EstimatorRegion, 3);
+  EXPECT_EQ(program.estimator.EstimatorRockType, 6);
+  EXPECT_EQ(program.estimator.EstimatedCMRR, 45);
+  EXPECT_TRUE(program.estimator.EstimatorManual);
 }
 
 TEST_F(AnEstimator, FollowsARowThatIsReachedWithoutAClick) {

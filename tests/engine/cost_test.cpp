@@ -175,6 +175,13 @@ TEST(Cost, BeyondTheRangeOfASingleFails) {
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(AnalyseCost(costs)); }), 6);
 }
 
+TEST(Cost, OfATypedProductionStillNeedsOneThatCanBeCalculated) {
+  CostGroup costs = With(&CostGroup::CostAdvanceRate, 1E38F);
+  costs.CostProduction = 0;
+
+  EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(AnalyseCost(costs)); }), 6);
+}
+
 TEST(Advance, IsBoltsPerRowOverSpacingTimesBoltsPerShift) {
   EXPECT_DOUBLE_EQ(AdvancePerShift(4, 4, 300), 300);
   EXPECT_DOUBLE_EQ(AdvancePerShift(4, 1.2, 300), 1000);

@@ -26,6 +26,9 @@ class FakeDesktop {
   // The program that the desktop names for a spreadsheet; empty for none.
   void AddTypes(const QString& program) { AddScript("xdg-mime", "echo '" + program + "'"); }
   void AddOpener() { AddScript("xdg-open", "printf '%s' \"$1\" > '" + OpenedFile() + "'"); }
+  // One that stays until the file is closed, after it has done this.
+  void AddLastingOpener() { AddScript("xdg-open", "printf '%s' \"$1\" > '" + OpenedFile() + "'; exec /bin/sleep 60"); }
+  void AddFailingOpener() { AddScript("xdg-open", "exit 3"); }
 
   // The file that was opened last; waits for it, for the opener runs by itself.
   std::string Opened() const {
@@ -80,6 +83,20 @@ TEST_F(OpeningDocuments, HandsAFileToTheDesktop) {
 }
 
 TEST_F(OpeningDocuments, TellsWhenTheDesktopHasNoOpener) { EXPECT_FALSE(documents.Open("/program/ORBY.PDF")); }
+
+TEST_F(OpeningDocuments, TellsWhenTheDesktopHasNoProgramForTheFile) {
+  desktop.AddFailingOpener();
+
+  EXPECT_FALSE(documents.Open("/program/ORBY.PDF"));
+}
+
+TEST_F(OpeningDocuments, GoesOnWhileTheFileIsOpen) {
+  desktop.AddLastingOpener();
+
+  EXPECT_TRUE(documents.Open("/program/ORBY.PDF"));
+
+  EXPECT_THAT(desktop.Opened(), Eq("/program/ORBY.PDF"));
+}
 
 TEST_F(OpeningDocuments, WritesASheetAndOpensIt) {
   desktop.AddTypes("calc.desktop");

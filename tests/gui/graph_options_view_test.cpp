@@ -52,6 +52,20 @@ TEST_F(GraphOptionsView, ShowsTheTitlesOfTheCurveOnViewOnly) {
   });
 }
 
+TEST_F(GraphOptionsView, LeadsTheLettersOfTheTitlesToTheFieldsOnView) {
+  Draw(5);
+
+  ChooseOptions([](QDialog& window) {
+    PressLetterOf(window, "Text2_5");
+    EXPECT_EQ(FocusName(), "Text2_5");
+    PressLetterOf(window, "Text3_1");
+    EXPECT_EQ(FocusName(), "Text3_1");
+    EXPECT_EQ(Find(window, "Text2_5").accessibleName(), "X-axis Title");
+    EXPECT_EQ(Find(window, "Text3_1").accessibleName(), "Y-axis Title");
+    Press(Qt::Key_Escape);
+  });
+}
+
 TEST_F(GraphOptionsView, ChangesGridStyleLegendAndSymbols) {
   ChooseOptions([](QDialog& window) {
     PressIn(window, "Combo1", Qt::Key_Up);  // from both to the vertical lines

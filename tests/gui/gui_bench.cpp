@@ -132,7 +132,13 @@ void Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   QWidget* widget = QApplication::focusWidget();
   if (widget == nullptr) widget = QApplication::activeWindow();
   if (widget == nullptr) throw std::logic_error("no window has the keyboard");
-  QTest::keyClick(widget, key, modifiers);
+  // Window systems send the Delete key with a control character, the test's own keys come without.
+  const QString text = key == Qt::Key_Delete ? QString(QChar(127)) : QString();
+  if (text.isEmpty()) {
+    QTest::keyClick(widget, key, modifiers);
+  } else {
+    QTest::sendKeyEvent(QTest::Click, widget, key, text, modifiers);
+  }
   Settle();
 }
 
@@ -151,7 +157,7 @@ void Type(std::string_view text) {
   QWidget* widget = QApplication::focusWidget();
   if (widget == nullptr) throw std::logic_error("no field has the keyboard");
   QTest::keyClick(widget, Qt::Key_A, Qt::ControlModifier);
-  if (text.empty()) QTest::keyClick(widget, Qt::Key_Delete);
+  if (text.empty()) return Press(Qt::Key_Delete);
   QTest::keyClicks(widget, QString::fromStdString(std::string(text)));
   Settle();
 }

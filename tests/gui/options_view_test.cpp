@@ -134,6 +134,21 @@ TEST_F(OptionsView, DeletesWhatTheMouseChoosesInAList) {
   });
 }
 
+TEST_F(OptionsView, ShowsTheItemThatIsChosenWhateverIsClicked) {
+  UsePage(MetricPage, [](QDialog& window) {
+    auto& list = Find<QListWidget>(window, "lstBoltUTS_1");
+    const QPoint second = list.visualItemRect(list.item(1)).center();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, second);
+    Settle();
+
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, second);
+    Settle();
+
+    ASSERT_EQ(list.selectedItems().size(), 1);
+    EXPECT_EQ(list.row(list.selectedItems().front()), 1);
+  });
+}
+
 TEST_F(OptionsView, ShowsTheListsAnewAfterAReset) {
   program.catalogs.DefaultBoltGradeArrayENG.Set(0, 44);
   UsePage(EnglishPage, [](QDialog& window) {

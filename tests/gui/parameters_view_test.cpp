@@ -2,9 +2,10 @@
 #include "dialogs/parameters_dialog.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
-#include <QGuiApplication>
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <QTabWidget>
 #include <QTableWidget>
@@ -116,6 +117,38 @@ TEST_F(ParametersView, TakesTheEditingKeysInANumber) {
     EXPECT_EQ(TextOn(window, "txtDepthofCover"), "50");
     Press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(TextOn(window, "txtDepthofCover"), "450");
+    TypeInto(window, "txtUnitWeight", "158");
+    Press(Qt::Key_A, Qt::ControlModifier);
+    Press(Qt::Key_Delete, Qt::ShiftModifier);
+    EXPECT_EQ(TextOn(window, "txtUnitWeight"), "");
+    Press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(TextOn(window, "txtUnitWeight"), "158");
+  });
+}
+
+TEST_F(ParametersView, SelectsANumberWhenTheKeyboardComesToIt) {
+  Work([](QDialog& window) {
+    TypeInto(window, "txtDepthofCover", "612");
+    Find(window, "txtUnitWeight").setFocus(Qt::TabFocusReason);
+    Settle();
+    Find(window, "txtDepthofCover").setFocus(Qt::BacktabFocusReason);
+    Settle();
+    EXPECT_EQ(Find<QLineEdit>(window, "txtDepthofCover").selectedText(), "612");
+  });
+}
+
+TEST_F(ParametersView, GoesOnWhereItWasInANumberAfterItsOwnMenu) {
+  Work([](QDialog& window) {
+    TypeInto(window, "txtDepthofCover", "61");
+    auto& field = Find<QLineEdit>(window, "txtDepthofCover");
+    for (const QEvent::Type type : {QEvent::FocusOut, QEvent::FocusIn}) {
+      QFocusEvent event(type, Qt::PopupFocusReason);
+      QApplication::sendEvent(&field, &event);
+    }
+    Settle();
+    EXPECT_FALSE(field.hasSelectedText());
+    QTest::keyClicks(&field, "2");
+    EXPECT_EQ(TextOn(window, "txtDepthofCover"), "612");
   });
 }
 

@@ -90,6 +90,22 @@ TEST_F(ResultsView, ShowsAPageFromItsTopWheneverItIsTurnedTo) {
   });
 }
 
+TEST_F(ResultsView, ShowsThePageFromItsTopOnceItIsPrinted) {
+  for (const char* command : {"Command3", "Command6"}) {
+    UseResults([&](QDialog& window) {
+      auto& report = Find<QPlainTextEdit>(window, "RichTextBox1");
+      report.setFocus();
+      Press(Qt::Key_PageDown);
+      EXPECT_GT(report.verticalScrollBar()->value(), 0);
+
+      Click(window, command);
+
+      EXPECT_EQ(report.verticalScrollBar()->value(), 0) << command;
+      Press(Qt::Key_Escape);
+    });
+  }
+}
+
 TEST_F(ResultsView, CopiesThePageOnView) {
   UseResults([&](QDialog& window) {
     PressLetterOf(window, "Command4");

@@ -80,6 +80,34 @@ TEST_F(WindowsOnScreen, ADialogBelongsToTheDialogItWasOpenedFrom) {
   });
 }
 
+TEST_F(WindowsOnScreen, TheMainWindowIsInUseOnceItIsShownAgain) {
+  for (const bool wasHidden : {true, false}) {
+    QDialog other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    if (wasHidden) platform.screen.ShowMainWindow(false);
+
+    platform.screen.ShowMainWindow(true);
+
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&View()));
+    EXPECT_EQ(QApplication::activeWindow(), &View());
+  }
+}
+
+TEST_F(WindowsOnScreen, TheMainWindowComesBackOntoTheScreenWhenItsSizeChanges) {
+  const QRect screen = View().screen()->availableGeometry();
+  View().move(screen.right() - 100, screen.bottom() - 100);
+  Settle();
+
+  View().resize(View().size() + QSize(20, 20));
+  Settle();
+
+  const QRect frame = View().frameGeometry();
+  EXPECT_TRUE(screen.contains(frame)) << frame.right() << " of " << screen.right() << ", " << frame.bottom() << " of "
+                                      << screen.bottom();
+}
+
 TEST_F(WindowsOnScreen, ADialogStandsInTheMiddleOfTheScreen) {
   DescriptionDialog dialog(program);
 

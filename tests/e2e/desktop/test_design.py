@@ -6,7 +6,7 @@ import subprocess
 import zipfile
 from xml.etree import ElementTree
 
-from orby import DesktopTest, clipboard, companion, lines, until, xdotool
+from orby import DesktopTest, clipboard, companion, lines, press_keys, until, xdotool
 
 TITLE = "East Mains"
 DESCRIPTION = "Belt entry from 2 Right to the overcast"
@@ -18,6 +18,14 @@ TYPED = (
     ("txtActualSpanDiagonals", "64", {"txtSugPSUP": "7.2", "txtSuggestBoltLength": "4.8", "txtRockLoadInter1": "215"}),
     ("txtUnitWeight", "158", {"txtRockLoadEntry1": "9.7", "txtStabFactorEntry1": "1.09", "txtRockLoadInter1": "209"}),
     ("txtEntryWidth", "19", {"txtActualPSUP": "5.3", "txtRockLoadEntry1": "9.1", "txtStabFactorEntry1": "1.16"}),
+)
+
+# Keys in a field with 12345, and what is left of it.
+EDITED = (
+    (("Home", "Delete"), "2345"),
+    (("End", "BackSpace"), "1234"),
+    (("End", "shift+Left", "shift+Delete"), "1234"),
+    (("ctrl+a", "Delete", "7"), "7"),
 )
 
 DEPTH_CURVE = 1
@@ -92,6 +100,15 @@ class Design(DesktopTest):
         self.save_and_quit(run)
         self.check_saved_file(pages)
         self.find_it_again(pages)
+
+    def test_a_number_is_edited_by_the_keys_of_a_real_keyboard(self):
+        run = self.start()
+        run.keys("ctrl+n")
+        parameters = run.window("Parameters")
+        for keys, left in EDITED:
+            parameters.type("txtUnitWeight", "12345")
+            press_keys(*keys)
+            parameters.wait_text("txtUnitWeight", left)
 
     def describe(self, run):
         run.keys("ctrl+n")

@@ -1,0 +1,119 @@
+// The dialogs that ask for a file, over a folder of the disk.
+#include "qt/file_dialogs.h"
+
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+
+#include "base/runtime_error.h"
+#include "gui/gui_bench.h"
+#include "qt/texts.h"
+
+namespace orby::test {
+namespace {
+
+using testing::Eq;
+
+class AskingForAFile : public GuiTest {
+ protected:
+  AskingForAFile() {
+    for (const char* name : {"belt.ORB", "design", "notes.txt"}) {
+      QFile file(folder.filePath(name));
+      if (!file.open(QIODevice::WriteOnly)) throw std::logic_error("no file to ask for");
+    }
+  }
+
+  FileQuestion Question() const {
+    return {"Select a Project",
+            "",
+            FromQt(folder.path()),
+            {{"Orby Roof Support Workbench (*.ORB)", "*.ORB"}, {"All Files (*.*)", "*"}},
+            "ORB"};
+  }
+  std::string PathOf(const QString& name) const { return FromQt(folder.filePath(name)); }
+
+  // The user types a name and presses Enter.
+  void AnswerWith(const std::string& name) {
+    scripts.Add([name](QDialog& window) {
+      Find<QLineEdit>(window, "fileNameEdit").setFocus();
+      Type(name);
+      Press(Qt::Key_Return);
+    });
+  }
+  // The box that comes up over the dialog; gives what it says.
+  void AnswerBox(std::string& text, QMessageBox::StandardButton button) {
+    scripts.Add([&text, button](QDialog& window) {
+      auto& box = dynamic_cast<QMessageBox&>(window);
+      text = box.text().toStdString();
+      box.button(button)->click();
+    });
+  }
+
+  QTemporaryDir folder;
+  QtFileDialogs dialogs;
+};
+
+TEST_F(AskingForAFile, OpensAFileByTheNameThatItHas) {
+  for (const char* name : {"belt.ORB", "design", "notes.txt"}) {
+    AnswerWith(name);
+
+    EXPECT_EQ(dialogs.AskOpenName(Question()), PathOf(name));
+  }
+}
+
+TEST_F(AskingForAFile, GivesANameToSaveUnderItsExtensionWhenItHasNone) {
+  AnswerWith("panel3");
+  EXPECT_EQ(dialogs.AskSaveName(Question()), PathOf("panel3.ORB"));
+
+  AnswerWith("panel3.txt");
+  EXPECT_EQ(dialogs.AskSaveName(Question()), PathOf("panel3.txt"));
+}
+
+TEST_F(AskingForAFile, AsksBeforeAFileIsOverwrittenAlsoUnderTheExtensionItGave) {
+  std::string question;
+  AnswerWith("belt");
+  AnswerBox(question, QMessageBox::Yes);
+
+  EXPECT_EQ(dialogs.AskSaveName(Question()), PathOf("belt.ORB"));
+
+  EXPECT_THAT(question, testing::HasSubstr("belt.ORB already exists"));
+}
+
+TEST_F(AskingForAFile, OpensOnlyAFileThatIsThere) {
+  std::string remark;
+  scripts.Add([&](QDialog& window) {
+    AnswerBox(remark, QMessageBox::Ok);
+    Find<QLineEdit>(window, "fileNameEdit").setFocus();
+    Type("missing.ORB");
+    Press(Qt::Key_Return);
+    window.reject();
+  });
+
+  EXPECT_EQ(ErrorNumberOf([&] { dialogs.AskOpenName(Question()); }), error_number::Cancelled);
+
+  EXPECT_THAT(remark, testing::HasSubstr("missing.ORB"));
+}
+
+TEST_F(AskingForAFile, ShowsTheTitleTheFolderTheFiltersAndTheNameOffered) {
+  FileQuestion question = Question();
+  question.fileName = "offered.ORB";
+  scripts.Add([&](QDialog& window) {
+    auto& dialog = dynamic_cast<QFileDialog&>(window);
+    EXPECT_EQ(dialog.windowTitle(), "Select a Project");
+    EXPECT_EQ(dialog.directory().path(), folder.path());
+    EXPECT_EQ(dialog.nameFilters().size(), 2);
+    EXPECT_TRUE(dialog.selectedNameFilter().startsWith("Orby Roof Support Workbench (*.ORB)"));
+    const auto& name = Find<QLineEdit>(window, "fileNameEdit");
+    EXPECT_EQ(name.text(), "offered.ORB");
+    EXPECT_EQ(name.maxLength(), 300);
+    window.reject();
+  });
+
+  EXPECT_EQ(ErrorNumberOf([&] { dialogs.AskSaveName(question); }), error_number::Cancelled);
+}
+
+}  // namespace
+}  // namespace orby::test
