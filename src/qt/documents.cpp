@@ -39,7 +39,7 @@ bool QtDocuments::Open(const std::string& path) {
   constexpr unsigned long MillisecondsBetween = 10;
   const QTemporaryDir folder;
   const QString ending = folder.filePath("ending");
-  const QString script = R"(xdg-open "$1"; { echo $? >"$2"; } 2>/dev/null)";
+  const QString script = R"(exec </dev/null >/dev/null 2>&1; xdg-open "$1"; echo $? >"$2")";
   if (!QProcess::startDetached("/bin/sh", {"-c", script, "sh", ToQt(path), ending})) return false;
   for (const QDeadlineTimer patience(MostToFail); !patience.hasExpired(); QThread::msleep(MillisecondsBetween)) {
     QFile file(ending);

@@ -275,13 +275,16 @@ TEST_F(SettingsSections, ADataPathThatIsNotThereFallsBackQuietly) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(SettingsSections, ADataPathThatIsNoPathFallsBackQuietly) {
-  platform.files.Fail(MemoryFiles::Step::Find, error_number::BadFileName);
+TEST_F(SettingsSections, ADataPathThatIsNoPathOrMayNotBeEnteredFallsBackQuietly) {
+  for (const int error : {error_number::BadFileName, error_number::PathFileAccess}) {
+    platform.files.Fail(MemoryFiles::Step::Find, error);
+    settings.DataPath = "/elsewhere/";
 
-  ReadKeys("DataPath=/designs\r\n");
+    ReadKeys("DataPath=/designs\r\n");
 
-  EXPECT_EQ(settings.DataPath, "/data/");
-  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+    EXPECT_EQ(settings.DataPath, "/data/") << error;
+    EXPECT_THAT(platform.boxes.shown, IsEmpty()) << error;
+  }
 }
 
 TEST_F(SettingsSections, TextsAreCutWhereTheReadersBufferEnds) {

@@ -43,12 +43,13 @@ TEST_F(AList, HasNoItemOutsideItsBounds) {
   EXPECT_EQ(clicks, 0);
 }
 
-TEST_F(AList, DropsASelectionBeyondTheNewList) {
-  list.ClickItem(1);
+TEST_F(AList, HasNothingSelectedOnceItIsFilledAnew) {
+  list.ClickItem(0);
 
-  list.Fill({{"Western basin", 2}});
+  list.Fill({{"Western basin", 2}, {"Eastern basin", 3}});
 
   EXPECT_EQ(list.ListIndex(), -1);
+  EXPECT_EQ(clicks, 1);
 }
 
 TEST_F(AList, WithoutARuleSelectsAllTheSame) {

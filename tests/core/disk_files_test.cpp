@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 #include <stdlib.h>
+#include <sys/fsuid.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <optional>
@@ -216,6 +218,37 @@ TEST_F(Disk, FindsNothingWhereNothingIs) {
   EXPECT_FALSE(files.Finds(At("panel.ORB/missing.ORB"), true));
   EXPECT_FALSE(files.Finds(At("link"), true));
   EXPECT_FALSE(files.Finds("", true));
+}
+
+// Reaches for files as a user without rights of his own for as long as it lives: the administrator may enter any
+// folder.
+class UserWithoutRights {
+ public:
+  UserWithoutRights() { setfsuid(Nobody); }
+  ~UserWithoutRights() { setfsuid(geteuid()); }
+  UserWithoutRights(const UserWithoutRights&) = delete;
+  UserWithoutRights& operator=(const UserWithoutRights&) = delete;
+
+ private:
+  static constexpr uid_t Nobody = 65534;
+};
+
+TEST_F(Disk, SearchesNoFolderThatMayNotBeEntered) {
+  files.MakeFolder(At("locked"));
+  Store(At("locked/panel.ORB"), "x");
+  std::filesystem::permissions(At("locked"), std::filesystem::perms::none);
+  int errorOfAFile = 0;
+  int errorOfNothing = 0;
+
+  {
+    const UserWithoutRights user;
+    errorOfAFile = ErrorOfSearching(At("locked/panel.ORB"));
+    errorOfNothing = ErrorOfSearching(At("locked/missing.ORB"));
+  }
+
+  EXPECT_EQ(errorOfAFile, 75);
+  EXPECT_EQ(errorOfNothing, 75);
+  std::filesystem::permissions(At("locked"), std::filesystem::perms::owner_all);
 }
 
 TEST_F(Disk, KeepsTheCaseOfNamesAndTakesAnyCharacterInThem) {

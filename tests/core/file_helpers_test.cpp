@@ -206,6 +206,16 @@ TEST_F(TextFileCopy, TellsOfADiskThatFillsUpOnTheWay) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("File I/O problem with TMP file: "));
 }
 
+TEST_F(TextFileCopy, OntoItselfIsRefusedAndLeavesTheFileAsItIs) {
+  platform.files.files["/mine/notes.txt"] = "one\ntwo";
+
+  EXPECT_FALSE(CopyTextFile(program, "/mine/notes.txt", "/mine/notes.txt"));
+
+  EXPECT_THAT(platform.boxes.shown,
+              ElementsAre(IsBox("File I/O problem with TMP file: ", 0, "Program Options: Error")));
+  EXPECT_EQ(platform.files.files["/mine/notes.txt"], "one\ntwo");
+}
+
 // Files whose folders are named otherwise.
 struct NamedFolders : MemoryFiles {
   std::string TemporaryFolder() override { return temporary; }

@@ -67,7 +67,7 @@ TEST(UnitSystem, IsToldInAFewWords) {
 TEST(UnitSystem, HasTheFactorsThatDesignsWereMadeWith) {
   EXPECT_EQ(FeetPerMetre, 3.280839895013123);
   EXPECT_EQ(MillimetresPerInch, 25.4);
-  EXPECT_DOUBLE_EQ(MPaPerKsi, 6.894757293);
+  EXPECT_EQ(MPaPerKsi, 6.894757293);
   EXPECT_EQ(KilonewtonsPerTon, 8.896443);
   EXPECT_EQ(KilonewtonsPerPound, 0.004448220489393218);
   EXPECT_EQ(PcfPerKilonewtonCubicMetre, 6.3663022639200495);

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <string>
+#include <vector>
 
 #include "support/recording_platform.h"
 
@@ -117,6 +118,38 @@ TEST_F(AConversion, TellsOfANumberThatNoLongerFitsAndClosesAllTheSame) {
   EXPECT_EQ(program.Units, English);
   EXPECT_EQ(program.CurrentFile, "/designs/panel3.ORB");
   EXPECT_TRUE(program.FileSaved);
+}
+
+// A conversion that notes, each time its caller is told, the file by then and how many boxes the user has seen.
+struct AToldConversion : AConversion {
+  ConvertDialog told{program, [this] {
+                       files.push_back(program.CurrentFile);
+                       boxesBefore = platform.boxes.shown.size();
+                     }};
+  std::vector<std::string> files;
+  std::size_t boxesBefore = 99;
+};
+
+TEST_F(AToldConversion, TellsItsCallerOfTheNewProjectBeforeItTellsTheUser) {
+  told.Open();
+
+  told.Command2.Press();
+
+  EXPECT_THAT(files, ElementsAre("Metric_panel3.ORB"));
+  EXPECT_EQ(boxesBefore, 0U);
+  EXPECT_EQ(platform.boxes.shown.size(), 1U);
+}
+
+TEST_F(AToldConversion, TellsItsCallerNothingWhenItFailsOrIsCancelled) {
+  told.Open();
+  told.Command1.Press();
+  program.WorkParms.BoltGradeStdPrimary = 3e38F;
+  told.Open();
+
+  told.Command2.Press();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error in the Conversion Procedure. Call technical support"));
+  EXPECT_THAT(files, IsEmpty());
 }
 
 TEST_F(AConversion, IsTheSameWhateverIsChosenForTheFile) {

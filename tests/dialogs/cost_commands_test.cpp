@@ -269,6 +269,40 @@ TEST_F(ACostDialog, CommitsNothingByShowingResults) {
   EXPECT_TRUE(dialog.IsOpen());
 }
 
+TEST_F(ACostDialog, HasRestoredTheCostsBeforeTheResultsAreOnView) {
+  dialog.Open();
+  for (const FieldCase& field : CostFieldCases) Box(field.name).SetText(std::string(field.text));
+  dialog.chkProduction.SetValue(0);
+  CostGroup behind;
+  platform.windows.onModal = [&](Form&) { behind = program.WorkParms.Cost(); };
+
+  dialog.cmdresults.Press();
+
+  EXPECT_EQ(platform.windows.modalForms, 1);
+  EXPECT_EQ(behind.CostBoltCost, 3.0F);
+  EXPECT_EQ(behind.CostTotalLabor, 35.0F);
+  EXPECT_EQ(behind.CostWeeksYear, 50.0F);
+  EXPECT_EQ(behind.CostProduction, 1);
+}
+
+// The report of the costs tells the inputs of the design too.
+TEST_F(ACostDialog, LeavesTheCostsAsTheyWereWhenTheReportFails) {
+  program.WorkParms.PrimSupport = 1;
+  program.WorkParms.BoltOptionsPrimary = 1;
+  program.WorkParms.BoltDiameterModePrimary = 1;
+  program.WorkParms.BoltDiameterManualPrimary = 1E30F;
+  program.WorkParms.BoltGradeModePrimary = 1;
+  program.WorkParms.BoltGradeManualPrimary = 75;
+  dialog.Open();
+  dialog.txtBoltCost.SetText("9");
+
+  EXPECT_EQ(ErrorNumberOf([this] { dialog.cmdresults.Press(); }), 6);
+
+  EXPECT_EQ(program.WorkParms.CostBoltCost, 3.0F);
+  EXPECT_EQ(program.WorkParmsCopy.CostBoltCost, 9.0F);
+  EXPECT_EQ(platform.windows.modalForms, 0);
+}
+
 TEST_F(ACostDialog, LeavesTheDesignAsItWasByCancelAfterResults) {
   dialog.Open();
   dialog.txtBoltCost.SetText("4.2");

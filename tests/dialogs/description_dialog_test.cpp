@@ -169,6 +169,31 @@ TEST_F(ADescriptionDialog, StoresTheTableChoiceOnOk) {
   EXPECT_EQ(program.UseAUSStandardTable, 1);
 }
 
+TEST_F(ADescriptionDialog, LetsAMetricProjectChooseItsTableThoughItsUnitsAreKept) {
+  program.UnitsLocked = true;
+  program.Units = Metric;
+  dialog.Open();
+  EXPECT_TRUE(dialog.Check1.Enabled());
+  dialog.Check1.SetValue(1);
+
+  dialog.Command2.Press();
+
+  EXPECT_EQ(program.UseAUSStandardTable, 1);
+}
+
+TEST_F(ADescriptionDialog, LeavesTheTableChoiceAsItWasOnCancel) {
+  for (const Integer units : {English, Metric}) {
+    program.Units = units;
+    program.UseAUSStandardTable = 1;
+    dialog.Open();
+    dialog.Check1.SetValue(0);
+
+    dialog.Command1.Press();
+
+    EXPECT_EQ(program.UseAUSStandardTable, 1) << units;
+  }
+}
+
 TEST_F(ADescriptionDialog, ClearsTheTableChoiceOfAProjectInFeetOnOk) {
   program.UseAUSStandardTable = 1;
   dialog.Open();

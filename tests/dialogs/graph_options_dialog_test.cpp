@@ -326,6 +326,23 @@ TEST_F(GraphFormat, ReachesTheOpenChartWithOK) {
   EXPECT_THAT(Drawn().x, ElementsAre(200, 240, 280.5));
 }
 
+TEST_F(GraphFormat, EntersTheConfigurationBeforeItReachesTheChart) {
+  dialog.Open();
+  EditEveryField(dialog);
+  std::vector<std::string> headings;
+  std::vector<std::string> legends;
+  program.history.Changed = [&] {
+    headings.push_back(window.graph1.Heading());
+    legends.push_back(Drawn().legend);
+  };
+
+  dialog.Command2.Press();
+
+  EXPECT_THAT(headings, ElementsAre("Panel 3"));
+  EXPECT_THAT(legends, ElementsAre("Rock Load Straights"));
+  EXPECT_EQ(window.graph1.Heading(), "Tailgate");
+}
+
 TEST_F(GraphFormat, RenamesARockLoadInTheLegendUntilTheCurveIsDrawnAnew) {
   dialog.Open();
 

@@ -2,6 +2,7 @@
 
 #include "base/runtime_error.h"
 #include "dialogs/graph_fixture.h"
+#include "dialogs/jammed_printer.h"
 #include "engine/curves.h"
 
 namespace orby::test {
@@ -203,9 +204,11 @@ TEST_F(GraphOfACurve, ShowsItsLegendWhenThatIsOn) {
   window.ShowCurve(1);
   EXPECT_TRUE(window.graph1.LegendShown());
 
-  program.graph.CurveLegend = 0;
-  window.ShowCurve(1);
-  EXPECT_FALSE(window.graph1.LegendShown());
+  for (const Integer off : {Integer{0}, Integer{2}}) {
+    program.graph.CurveLegend = off;
+    window.ShowCurve(1);
+    EXPECT_FALSE(window.graph1.LegendShown()) << off;
+  }
 }
 
 TEST_F(GraphOfACurve, HasColoursForSixSeries) {
@@ -371,6 +374,23 @@ TEST_F(GraphOfACurve, OffersToTryAPrinterThatFailsAgain) {
   EXPECT_TRUE(window.IsOpen());
 }
 
+TEST_F(GraphOfACurve, IsPrintedAgainOnThePrinterThatWasChosenWhenItJams) {
+  JammedPrinter jammed;
+  Program other(DoorsWith(platform, platform.clipboard, jammed));
+  other.curve = program.curve;
+  GraphWindow graph(other);
+  graph.ShowCurve(1);
+  platform.boxes.answers = {box_result::Retry};
+
+  graph.GraphFileItem.ClickItem(Print);
+
+  EXPECT_EQ(jammed.chosen, 1);
+  EXPECT_EQ(jammed.printedChart, "graph1");
+  ASSERT_THAT(platform.boxes.shown, SizeIs(1));
+  EXPECT_EQ(platform.boxes.shown[0].text, "Error occurred: Printer error (482)");
+  EXPECT_EQ(platform.boxes.shown[0].style, box_style::RetryCancel);
+}
+
 TEST_F(GraphOfACurve, IsCopiedAsAPicture) {
   window.ShowCurve(1);
 
@@ -437,6 +457,16 @@ TEST_F(GraphOfACurve, AsksBeforeTheExportWhenItIsToAsk) {
             "This option will only work if Microsoft Excel is installed on this computer. Proceed?");
   EXPECT_EQ(platform.boxes.shown[0].style, box_style::YesNo);
   EXPECT_THAT(platform.documents.opened, SizeIs(1));
+}
+
+TEST_F(GraphOfACurve, IsExportedAtOnceByAnySettingButTheOneThatAsks) {
+  program.options.AskOfficeInstall = 2;
+  window.ShowCurve(1);
+
+  window.GraphFileItem.ClickItem(Export);
+
+  EXPECT_THAT(platform.documents.opened, SizeIs(1));
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Exported 1 Curve"));
 }
 
 TEST_F(GraphOfACurve, IsNotExportedAfterANo) {

@@ -1,5 +1,8 @@
 #include "dialogs/options_dialog.h"
 
+#include <string_view>
+#include <vector>
+
 #include "base/runtime_error.h"
 #include "dialogs/options_fixture.h"
 
@@ -18,6 +21,74 @@ using Options = OptionsFixture;
 constexpr std::string_view RatingWarning =
     "WARNING:  CMRR outside range of case history data base.  ORBY may not be valid.  Accept Value ?";
 constexpr std::string_view StabilityWarning = "WARNING:  Stability Factor is less than 1.0 ORBY is probably not valid.";
+
+// ---- captions ------------------------------------------------------------------------------------------------------
+
+// Of a label, a frame, a box or a button; of options and of tabs all of them, a bar between two.
+std::string CaptionOf(const Control& control) {
+  if (const auto* label = dynamic_cast<const Label*>(&control)) return label->Caption();
+  if (const auto* box = dynamic_cast<const CheckBox*>(&control)) return box->Caption();
+  if (const auto* button = dynamic_cast<const Button*>(&control)) return button->Caption();
+  std::string captions;
+  if (const auto* options = dynamic_cast<const OptionArray*>(&control)) {
+    for (std::size_t i = 0; i < options->Count(); ++i) captions += (i == 0 ? "" : "|") + options->Caption(i);
+  } else if (const auto* tabs = dynamic_cast<const TabSet*>(&control)) {
+    for (int i = 0; i < tabs->Count(); ++i) captions += (i == 0 ? "" : "|") + tabs->Caption(i);
+  }
+  return captions;
+}
+
+struct CaptionCase {
+  std::vector<std::string_view> names;  // of the controls that bear it
+  std::string_view caption;
+};
+
+const std::vector<CaptionCase> Captions{
+    {{"SSTab1"},
+     "Edit / Print Options|Default Parameters (English)|Default Parameters (Metric)|"
+     "Default Parameters (Standing Supports)"},
+    {{"Check1"}, "Load the input form on file open / file new"},
+    {{"Check2"}, "View project file in child window"},
+    {{"Check3"}, "Print module version information"},
+    {{"chkOffice"}, "Do not ask if Microsoft Office is installed"},
+    {{"fraStrength"}, "Default Setting for Steel Strength"},
+    {{"optStrength"}, "Yield Strength (US)|Ultimate Strength (AUS)"},
+    {{"cmdFileAssoc"}, "Create File Association"},
+    {{"lblCMRR_0", "lblCMRR_1"}, "Coal Mine Roof Rating"},
+    {{"lblDepthofCover_0", "lblDepthofCover_1"}, "Depth of Cover"},
+    {{"lblUnitWeight_0", "lblUnitWeight_1"}, "Unit Weight"},
+    {{"lblActualSpan_0", "lblActualSpan_1"}, "Actual Intersection Sum of Diagonals"},
+    {{"lblEntryWidth_0", "lblEntryWidth_1"}, "Entry Width"},
+    {{"lblStabilityFactor_0", "lblStabilityFactor_1"}, "Stability Factor"},
+    {{"lblActualBoltLength_0", "lblActualBoltLength_1"}, "Actual Bolt Length"},
+    {{"lblBoltDiameter_0", "lblBoltDiameter_1"}, "Bolt Diameter"},
+    {{"lblBoltGrade_0", "lblBoltGrade_1"}, "Bolt Grade"},
+    {{"lblBoltUTS_0", "lblBoltUTS_1"}, "Bolt UTS"},
+    {{"lblBoltsperRow_0", "lblBoltsperRow_1"}, "Number of Bolts per Row"},
+    {{"lblRowSpacing_0", "lblRowSpacing_1"}, "Row Spacing"},
+    {{"fraBolts_0"}, "Bolt grade and UTS (ksi) and diameter (in) specifications"},
+    {{"fraBolts_1"}, "Bolt grade and UTS (MPa) and diameter (mm) specifications"},
+    {{"fraBolts_2"}, "Bolt UTS and Diameter (AUS)"},
+    {{"optBoltEng", "optBoltMet"}, "Bolt Grade|Bolt UTS|Bolt Diameter"},
+    {{"optBoltMetAUS"}, "|Bolt UTS|Bolt Dia"},
+    {{"cmdAddBolt_0", "cmdAddBolt_1", "cmdAddBolt_2"}, "Add"},
+    {{"cmdDeleteBolt_0", "cmdDeleteBolt_1", "cmdDeleteBolt_2"}, "Delete"},
+    {{"fraCables_0"}, "Cable bolt capacity (tons) and diameter (in) specifications"},
+    {{"fraCables_1"}, "Cable bolt capacity (kN) and diameter (mm) specifications"},
+    {{"fraStand"}, "Standing Support Specifications"},
+    {{"cmdAddCable_0", "cmdAddCable_1", "cmdAddStandSupport"}, "Add Row"},
+    {{"cmdDeleteCable_0", "cmdDeleteCable_1", "cmdDeleteRow"}, "Delete Row"},
+    {{"cmdSetDefaultCable_0", "cmdSetDefaultCable_1", "cmdSetDefaultStandSupport"}, "Reset Default"},
+};
+
+TEST_F(Options, BearTheirCaptions) {
+  dialog.Open();
+
+  EXPECT_EQ(dialog.Caption(), "Options");
+  for (const auto& [names, caption] : Captions) {
+    for (const std::string_view name : names) EXPECT_EQ(CaptionOf(*dialog.Find(name)), caption) << name;
+  }
+}
 
 // ---- opening -------------------------------------------------------------------------------------------------------
 

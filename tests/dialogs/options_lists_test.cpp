@@ -264,6 +264,21 @@ TEST_F(BoltLists, AreResetCatalogByCatalog) {
   EXPECT_EQ(program.catalogs.DefaultBoltGradeArrayMET[0], 300);
 }
 
+TEST_F(BoltLists, HaveNothingSelectedToDeleteOnceTheyAreReset) {
+  dialog.Open();
+  dialog.bolts[English].lists[Grade]->ClickItem(2);
+  dialog.bolts[English].lists[UTS]->ClickItem(0);
+
+  dialog.bolts[English].cmdSetDefaultBolt.Press();
+  Delete(English, Grade);
+  Delete(English, UTS);
+
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("Please select a grade value to delete", "Please select a UTS value to delete"));
+  EXPECT_THAT(Entries(English, Grade), ElementsAre("40", "55", "60", "75", "90", "100"));
+  EXPECT_THAT(Entries(English, UTS), ElementsAre("70", "85", "90", "100", "116", "125"));
+}
+
 TEST_F(BoltLists, KeepTheOptionWhenTheyAreReset) {
   dialog.Open();
   dialog.bolts[Metric].optBolt.SetValue(Diameter, true);

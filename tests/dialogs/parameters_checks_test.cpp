@@ -157,6 +157,42 @@ TEST_F(ParameterChecks, LeaveTheLastFaultOnView) {
   EXPECT_EQ(opened->FocusRequest()->Name(), "txtTrussSpacingSecEntry");
 }
 
+struct DisabledTab {
+  std::string edits;  // that disable the tab and make the fault
+  std::string message;
+  int outer;
+  TabSet ParametersControls::*tabs;
+  int tab;
+  std::string focus;
+};
+
+TEST_F(ParameterChecks, TurnEvenToATabThatIsDisabled) {
+  const std::string noSupport = "optSupportTypeSecEntry=0|cmbSupportTypeSecEntry=Stone pack";
+  const std::vector<DisabledTab> cases{
+      {"chkSecInter_3=0|" + noSupport, "Invalid standing support specification", 2, &ParametersDialog::SSTab3, 3,
+       "cmbSupportTypeSecEntry"},
+      {"chkSecEntries_0=0|optCableCapModeSecInter=0|cmbCableDiamSecInter=0.65",
+       "Cable Diameter not Selected from Available Options", 3, &ParametersDialog::SSTab2, 0, "cmbCableDiamSecInter"},
+      {"chkSecEntries_0=0|optCableCapModeSecInter=1|cmbCableCapacitySecInter=31",
+       "Cable Capacity not Selected from Available Options", 3, &ParametersDialog::SSTab2, 0,
+       "cmbCableCapacitySecInter"}};
+  for (const DisabledTab& disabled : cases) {
+    const auto opened = ValidDesign(English);
+    Edit(*opened, disabled.edits);
+    TabSet& tabs = (*opened).*disabled.tabs;
+    ASSERT_FALSE(tabs.TabEnabled(disabled.tab)) << disabled.edits;
+    tabs.SetTab(1);
+
+    EXPECT_FALSE(opened->ValidateParameters()) << disabled.edits;
+
+    EXPECT_THAT(platform.boxes.Texts(), ElementsAre(disabled.message)) << disabled.edits;
+    EXPECT_EQ(opened->SSTab1.Tab(), disabled.outer) << disabled.edits;
+    EXPECT_EQ(tabs.Tab(), disabled.tab) << disabled.edits;
+    EXPECT_FALSE(tabs.TabEnabled(disabled.tab)) << disabled.edits;
+    EXPECT_EQ(opened->FocusRequest()->Name(), disabled.focus) << disabled.edits;
+  }
+}
+
 // Notes what is on view when a box comes up.
 struct WatchingBoxes : MessageBoxes {
   int Show(const MessageBox&) override {

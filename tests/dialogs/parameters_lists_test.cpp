@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "parameters_fixture.h"
 
 namespace orby::test {
@@ -128,6 +130,23 @@ TEST_F(ParameterFields, AStoredRowOutsideTheTableOpensOnTheFirst) {
     EXPECT_EQ(other.VSFlexGridPrimary.Row(), 1) << row;
     EXPECT_EQ(other.VSFlexGridEntry.Row(), 1) << row;
     EXPECT_EQ(other.VSFlexGridInter.Row(), 1) << row;
+  }
+}
+
+TEST_F(ParameterFields, AStoredRowOfTheLongTableOpensOnTheFirstOfTheAustralianOne) {
+  StartDesign(Metric);
+  program.UseAUSStandardTable = 1;
+  for (const auto& [stored, row] : {std::pair{1, 2}, {2, 1}, {3, 1}, {4, 1}, {5, 1}, {6, 1}, {7, 1}, {8, 1}, {9, 1}}) {
+    for (const BoltFields* bolt : {&PrimaryBolt, &SecEntryBolt, &SecInterBolt}) {
+      program.WorkParms.*bolt->TableRow = static_cast<Integer>(stored);
+    }
+    ParametersDialog other(program);
+
+    other.Open();
+
+    EXPECT_EQ(other.VSFlexGridPrimary.Row(), row) << stored;
+    EXPECT_EQ(other.VSFlexGridEntry.Row(), row) << stored;
+    EXPECT_EQ(other.VSFlexGridInter.Row(), row) << stored;
   }
 }
 

@@ -89,12 +89,19 @@ TEST_F(Suggestions, WarnOfBoth) {
 
 TEST_F(Suggestions, TakeTheirWarningsBackWhenTheSpanFits) {
   dialog.Open();
-  Do("txtActualSpanDiagonals=66");
 
-  Do("txtActualSpanDiagonals=60");
+  for (const std::string_view tooLargeOrNotMatchingOrBoth : {"txtActualSpanDiagonals=66", "txtActualSpanDiagonals=30",
+                                                             "txtCMRR=10|txtEntryWidth=46|txtActualSpanDiagonals=66"}) {
+    DoQuietly(tooLargeOrNotMatchingOrBoth);
+    dialog.ShowSuggested();
+    ASSERT_TRUE(dialog.txtMessage.Visible()) << tooLargeOrNotMatchingOrBoth;
+    DoQuietly("txtCMRR=45|txtEntryWidth=20");
 
-  EXPECT_EQ(dialog.txtMessage.Text(), "WARNINGS:\r\n");
-  EXPECT_FALSE(dialog.txtMessage.Visible());
+    Do("txtActualSpanDiagonals=60");
+
+    EXPECT_EQ(dialog.txtMessage.Text(), "WARNINGS:\r\n") << tooLargeOrNotMatchingOrBoth;
+    EXPECT_FALSE(dialog.txtMessage.Visible()) << tooLargeOrNotMatchingOrBoth;
+  }
 }
 
 TEST_F(Suggestions, LeaveTheWarningsOfAMetricDesignAlone) {

@@ -33,6 +33,13 @@ struct SecondaryResultsShown : AParametersDialog {
     return all;
   }
 
+  // Opens the dialog, lets it show every system, and then leaves only this one in use.
+  static void UseOnly(ParametersDialog& other, std::array<CheckBox, SystemCount>& boxes, std::size_t system) {
+    other.Open();
+    Edit(other, AllSystems);
+    for (std::size_t i = 0; i < SystemCount; ++i) boxes[i].SetValue(i == system ? 1 : 0);
+  }
+
  private:
   static Texts ResultOf(const OutputControls& outputs, std::size_t system) {
     return {outputs.RockLoad[system].Text(), outputs.SupportCap[system].Text(), outputs.StabFactor[system].Text()};
@@ -141,6 +148,24 @@ TEST_F(EntryResults, OfASystemOutOfUseStayAsTheyWereButForTheLoad) {
   EXPECT_EQ(Entry(3)[1], "15.0");
 }
 
+TEST_F(EntryResults, OfASystemFollowItsOwnBoxAlone) {
+  const std::array<Texts, SystemCount> expected{{{"21.1", "10.6", "8.4", "12.5"},
+                                                 {"10.6", "21.2", "8.4", "12.5"},
+                                                 {"10.6", "10.6", "16.9", "12.5"},
+                                                 {"10.6", "10.6", "8.4", "25.0"}}};
+
+  for (std::size_t inUse = 0; inUse < SystemCount; ++inUse) {
+    ParametersDialog other(program);
+    UseOnly(other, other.chkSecEntries, inUse);
+
+    Edit(other,
+         "txtCableBoltsPerRowSecEntry=4|txtTrussCapacitySecEntry=60|"
+         "txtBoltsperRowSecEntry=8|txtSupportCapSecEntry=100");
+
+    EXPECT_EQ(TextsOf(other.txtSupportCapEntry), expected[inUse]) << inUse;
+  }
+}
+
 TEST_F(EntryResults, OfASystemWithoutSpacingOrBoltsStayAsTheyWere) {
   OpenWithAllSystems();
 
@@ -192,6 +217,17 @@ TEST_F(EntryResults, TakeTheCableByDiameterFromTheListOrAsTyped) {
   EXPECT_THAT(Entry(0), ElementsAre("10.0", "10.8", "1.08"));
   Do("txtCableCapacitySecEntry=30|optCableCapacitySecEntry=1");
   EXPECT_THAT(Entry(0), ElementsAre("10.0", "12.0", "1.2"));
+}
+
+TEST_F(EntryResults, OfAMetricDesignTakeTheCableByDiameterFromTheMetricList) {
+  StartDesign(Metric);
+  dialog.Open();
+
+  // Metric designs open with the capacity given; the diameter counts as soon as its option is on.
+  Do("optCableCapModeSecEntry=0|cmbCableDiamSecEntry=28.6");
+  EXPECT_THAT(Entry(0), ElementsAre("335.1", "776.0", "2.32"));
+  Do("cmbCableDiamSecEntry=0.6");
+  EXPECT_THAT(Entry(0), ElementsAre("335.1", "0.0", "0.0"));
 }
 
 TEST_F(EntryResults, TakeTheBoltFromTheTableTheListsOrAsTyped) {
@@ -329,6 +365,23 @@ TEST_F(IntersectionResults, OfASystemOutOfUseStayAsTheyWereButForTheLoad) {
   EXPECT_EQ(Intersection(0)[1], "132");
 }
 
+TEST_F(IntersectionResults, OfASystemFollowItsOwnBoxAlone) {
+  const std::array<Texts, SystemCount> expected{{{"528", "170", "84", "200"},
+                                                 {"264", "339", "84", "200"},
+                                                 {"264", "170", "169", "200"},
+                                                 {"264", "170", "84", "400"}}};
+
+  for (std::size_t inUse = 0; inUse < SystemCount; ++inUse) {
+    ParametersDialog other(program);
+    UseOnly(other, other.chkSecInter, inUse);
+
+    Edit(other,
+         "txtCableNumberSecInter=20|txtTrussNumberSecInter=8|txtBoltNumberSecInter=20|txtSupportNumberSecInter=8");
+
+    EXPECT_EQ(TextsOf(other.txtSupportCapInter), expected[inUse]) << inUse;
+  }
+}
+
 TEST_F(IntersectionResults, NeedNoCountsToBeGiven) {
   OpenWithAllSystems();
 
@@ -349,6 +402,17 @@ TEST_F(IntersectionResults, TakeTheCableByDiameterFromTheListOrAsTyped) {
   EXPECT_THAT(Intersection(0), ElementsAre("183", "270", "1.48"));
   Do("txtCableCapacitySecInter=30|optCableCapacitySecInter=1");
   EXPECT_THAT(Intersection(0), ElementsAre("183", "300", "1.64"));
+}
+
+TEST_F(IntersectionResults, OfAMetricDesignTakeTheCableByDiameterFromTheMetricList) {
+  StartDesign(Metric);
+  dialog.Open();
+
+  // Metric designs open with the capacity given; the diameter counts as soon as its option is on.
+  Do("optCableCapModeSecInter=0|cmbCableDiamSecInter=28.6");
+  EXPECT_THAT(Intersection(0), ElementsAre("2213", "3880", "1.75"));
+  Do("cmbCableDiamSecInter=0.6");
+  EXPECT_THAT(Intersection(0), ElementsAre("2213", "0", "0.0"));
 }
 
 TEST_F(IntersectionResults, TakeTheBoltFromTheTableTheListsOrAsTyped) {

@@ -247,6 +247,19 @@ TEST_F(ClosingParameters, WithCancelOrTheWindowsCloseSavesNothing) {
   }
 }
 
+TEST_F(ClosingParameters, WithCancelKeepsTheCableModeThatAMetricDesignIsForcedTo) {
+  StartDesign(Metric);
+  ASSERT_EQ(program.WorkParms.CableCapModeSecEntry, 0);
+  ASSERT_EQ(program.WorkParms.CableCapModeSecInter, 0);
+  dialog.Open();
+
+  dialog.Command1.Press();
+
+  EXPECT_EQ(program.WorkParms.CableCapModeSecEntry, 1);
+  EXPECT_EQ(program.WorkParms.CableCapModeSecInter, 1);
+  EXPECT_TRUE(program.FileSaved);
+}
+
 TEST_F(ClosingParameters, IsRefusedByOkWhileAFieldIsWrong) {
   dialog.Open();
   Do("txtCMRR=100");

@@ -129,6 +129,19 @@ TEST_F(ParameterPreview, HasRestoredTheDesignBeforeTheResultsAreOnView) {
   EXPECT_TRUE(shown);
 }
 
+TEST_F(ParameterPreview, LeavesTheDesignAsItWasWhenTheReportFails) {
+  dialog.Open();
+  DoQuietly("txtDepthofCover=512.5|txtTrussCapacitySecInter=44|txtRockFallAngle=0");
+
+  EXPECT_EQ(ErrorNumberOf([this] { dialog.cmdresults.Press(); }), 11);
+
+  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_EQ(program.WorkParms.TrussCapacitySecInter, 30);
+  EXPECT_EQ(program.WorkParms.RockFallAngle, 30);
+  EXPECT_EQ(program.WorkParmsCopy.DepthofCover, 512.5F);
+  EXPECT_EQ(platform.windows.modalForms, 0);
+}
+
 TEST_F(ParameterPreview, GivesTheSameReportTwice) {
   dialog.Open();
   Do(AllSystems);

@@ -6,6 +6,7 @@
 
 #include "core/messages.h"
 #include "dialogs/graph_window.h"
+#include "dialogs/jammed_printer.h"
 #include "support/recording_platform.h"
 
 namespace orby::test {
@@ -173,6 +174,26 @@ TEST_F(AResultsWindow, CopiesThePageOnView) {
             "1. Results displayed\r\n2. Page 0 copied to clipboard\r\n3. Page 1 copied to clipboard\r\n");
 }
 
+// Notes what is done to it, in turn.
+struct NotingClipboard : RecordingClipboard {
+  void Clear() override { acts.emplace_back("clear"); }
+  void SetText(const std::string& given) override { acts.push_back(given); }
+
+  std::vector<std::string> acts;
+};
+
+TEST_F(AResultsWindow, ClearsTheClipboardBeforeItCopiesAPage) {
+  NotingClipboard clipboard;
+  Program other(DoorsWith(platform, clipboard, platform.printer));
+  other.OutBuf = program.OutBuf;
+  ResultsWindow results(other);
+  results.Open();
+
+  results.Command2.Press();
+
+  EXPECT_THAT(clipboard.acts, ElementsAre("clear", "inputs\r\n"));
+}
+
 TEST_F(AResultsWindow, CopiesAllPagesWithNothingBetweenThem) {
   program.OutBuf[2] = "left over";
   window.Open();
@@ -242,26 +263,9 @@ TEST_F(AResultsWindow, AsksToTryAgainWithoutAPrinterAndStaysOpen) {
   EXPECT_TRUE(window.IsOpen());
 }
 
-// Prints at the second attempt only.
-class JammedPrinter : public RecordingPrinter {
- public:
-  void PrintPages(const std::vector<std::string>& given, const std::string& name, const std::string& font) override {
-    if (jammed) {
-      jammed = false;
-      throw RuntimeError(error_number::Printer);
-    }
-    RecordingPrinter::PrintPages(given, name, font);
-  }
-
-  bool jammed = true;
-};
-
 TEST_F(AResultsWindow, PrintsAgainOnThePrinterThatWasChosenWhenItJams) {
   JammedPrinter jammed;
-  Platform doors = platform.Doors();
-  Program other(Platform{doors.boxes, doors.files, doors.fileDialogs, doors.windows, doors.fonts, doors.locale,
-                         doors.clock, doors.userFolders, doors.clipboard, jammed, doors.documents, doors.help,
-                         doors.downloads});
+  Program other(DoorsWith(platform, platform.clipboard, jammed));
   other.OutBuf = program.OutBuf;
   other.LastPage = 1;
   platform.boxes.answers = {box_result::Retry};

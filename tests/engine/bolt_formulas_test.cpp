@@ -36,7 +36,14 @@ TEST(BoltGrade, OutsideTheListFollowsTheStraightLine) {
 }
 
 TEST(BoltGrade, OneBitBesideTheListFollowsTheStraightLine) {
-  EXPECT_EQ(UltimateFromYieldKsi(74.9999924F, BuiltInLists()), 102.499992F);
+  const Catalogs lists = BuiltInLists();
+
+  EXPECT_EQ(UltimateFromYieldKsi(74.9999924F, lists), 102.499992F);
+  EXPECT_EQ(UltimateFromYieldKsi(75.0000076F, lists), 102.500008F);
+  EXPECT_EQ(YieldFromUltimateKsi(99.9999924F, lists), 72.2222137F);
+  EXPECT_EQ(YieldFromUltimateKsi(100.000008F, lists), 72.222229F);
+  EXPECT_EQ(YieldFromUltimateMPa(689.999939F, lists), 498.53714F);
+  EXPECT_EQ(YieldFromUltimateMPa(690.000061F, lists), 498.537292F);
 }
 
 TEST(BoltGrade, ThatStandsTwiceTakesTheFirstPartner) {
@@ -135,6 +142,7 @@ constexpr PatternRow Patterns[] = {
     {{6, 4, 0.75F, 75, 4, 20}, Ultimate, 5.89048576F, 9.94019508F, 144.132828F},
     {{5, 5, 0.875F, 60, 3.5F, 18}, Yield, 14.3171539F, 21.4757309F, 311.398102F},
     {{5, 5, 0.875F, 60, 3.5F, 18}, Ultimate, 6.62831211F, 14.3171539F, 207.598724F},
+    {{6, 4, 0.75F, 75, 4, 20}, 2, 5.89048576F, 9.94019508F, 144.132828F},
     {{6, 4, 0.75F, 80, 4, 20}, Yield, 10.6028757F, 14.1813459F, 205.629517F},
     {{6, 4, 0.75F, 80, 4, 20}, Ultimate, 6.62679672F, 10.6028757F, 153.741699F},
 };
@@ -207,6 +215,15 @@ TEST(CableCapacity, OfAnUnlistedDiameterIsZero) {
   EXPECT_EQ(CableCapacityFromDiameter(0.65F, English, lists), 0.0F);
   EXPECT_EQ(CableCapacityFromDiameter(21.8F, English, lists), 0.0F);
   EXPECT_EQ(CableCapacityFromDiameter(0.6F, Metric, lists), 0.0F);
+}
+
+TEST(CableCapacity, OfADiameterOneBitBesideTheListIsZero) {
+  const Catalogs lists = BuiltInLists();
+
+  EXPECT_EQ(CableCapacityFromDiameter(0.599999964F, English, lists), 0.0F);
+  EXPECT_EQ(CableCapacityFromDiameter(0.600000083F, English, lists), 0.0F);
+  EXPECT_EQ(CableCapacityFromDiameter(30.9999981F, Metric, lists), 0.0F);
+  EXPECT_EQ(CableCapacityFromDiameter(31.0000019F, Metric, lists), 0.0F);
 }
 
 TEST(CableCapacity, EndsWithTheListsLastEntryInUse) {

@@ -24,6 +24,58 @@ TEST_F(CurveLimits, ARatingOf40StartsAt35) {
   EXPECT_THAT(platform.boxes.Texts(), IsEmpty());
 }
 
+struct TrimmedRow {
+  Single depth;
+  std::size_t points;
+};
+constexpr TrimmedRow TrimmedRows[] = {
+    // A sweep from 35 by twos reaches 51 from 360.18 ft on, and 37 from 21.83 ft on.
+    {360, 8}, {361, 9}, {360.18158F, 8}, {360.18161F, 9}, {21.8338432F, 1}, {21.8338451F, 2},
+};
+
+TEST_F(CurveLimits, ARatingIsTrimmedByTheDepth) {
+  for (const auto& [depth, points] : TrimmedRows) {
+    design.DepthofCover = depth;
+
+    GenerateCurve(program, 0);
+
+    EXPECT_EQ(Points(), points) << depth;
+  }
+}
+
+struct UpperEndRow {
+  Integer index;
+  Single ProjectRecord::*swept;
+  Single value;
+  std::size_t points;
+};
+constexpr UpperEndRow UpperEndRows[] = {
+    // In each pair the first sweep just reaches its end and the second one just does not.
+    {1, &ProjectRecord::DepthofCover, 340, 11},
+    {1, &ProjectRecord::DepthofCover, 58, 10},
+    {2, &ProjectRecord::StabilityFactor, 1.1F, 11},
+    {2, &ProjectRecord::StabilityFactor, 1.15F, 10},
+    {3, &ProjectRecord::ActualSpanDiagonals, 25.0000057F, 9},
+    {3, &ProjectRecord::ActualSpanDiagonals, 25.0000019F, 8},
+    {5, &ProjectRecord::EntryWidth, 20, 25},
+    {5, &ProjectRecord::EntryWidth, 19.9999962F, 24},
+    {6, &ProjectRecord::RockFallAngle, 42.5F, 86},
+    {6, &ProjectRecord::RockFallAngle, 29.9999981F, 60},
+    {9, &ProjectRecord::RockFallAngle, 42.5F, 86},
+    {9, &ProjectRecord::RockFallAngle, 29.9999981F, 60},
+};
+
+TEST_F(CurveLimits, ASweepEndsAtItsUpperEndToTheLastBit) {
+  for (const auto& [index, swept, value, points] : UpperEndRows) {
+    design = EnglishDesign();
+    design.*swept = value;
+
+    GenerateCurve(program, index);
+
+    EXPECT_EQ(Points(), points) << "curve " << index << " around " << value;
+  }
+}
+
 TEST_F(CurveLimits, ARatingUnderEnormousDepthIsNotTrimmed) {
   design.DepthofCover = 1E12F;
 
@@ -202,10 +254,34 @@ TEST_F(CurveLimits, AnIntersectionHeightUnderVerticalSidesEndsAtTheEntryWidth) {
   EXPECT_EQ(LastPoint(), Point(20, 729));
 }
 
-TEST_F(CurveLimits, MorePointsThanCanBeNumberedFail) {
-  design.EntryWidth = 50000;
+struct LongRow {
+  Integer index;
+  Single width;
+  Single angle;
+};
 
-  EXPECT_EQ(ErrorOf(5), 6);
+TEST_F(CurveLimits, AsManyColumnsAsCanBeNumberedWork) {
+  const auto columnsOf = [this](const LongRow& row) {
+    design.EntryWidth = row.width;
+    design.RockFallAngle = row.angle;
+    GenerateCurve(program, row.index);
+    return Columns();
+  };
+
+  EXPECT_EQ(columnsOf({4, 20, 0.04F}), 28646U);
+  EXPECT_EQ(Points(), 28644U);
+  EXPECT_EQ(columnsOf({5, 27304, 30}), 32767U);
+  EXPECT_EQ(columnsOf({7, 16384.5F, 0.01F}), 32767U);
+}
+
+TEST_F(CurveLimits, MoreColumnsThanCanBeNumberedFail) {
+  for (const auto& [index, width, angle] :
+       {LongRow{4, 20, 0.03F}, LongRow{5, 27305, 30}, LongRow{5, 50000, 30}, LongRow{7, 16385, 0.01F}}) {
+    design.EntryWidth = width;
+    design.RockFallAngle = angle;
+
+    EXPECT_EQ(ErrorOf(index), 6) << "curve " << index << " over " << width;
+  }
 }
 
 TEST_F(CurveLimits, ACurveThatDoesNotExistFails) {

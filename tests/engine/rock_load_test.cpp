@@ -51,6 +51,12 @@ TEST(EntryRock, AboveTheLimitOfTheAngleIsATriangle) {
   EXPECT_EQ(EntryRockLoad(With(MetricRock, &RockInputs::Height, 8), Metric), 416.125153F);
 }
 
+TEST(EntryRock, JustBelowTheLimitOfTheAngleIsStillATrapezoid) {
+  EXPECT_EQ(EntryRockLoad(With(EnglishRock, &RockInputs::Height, 17.3F), English), 14.0295916F);
+  EXPECT_EQ(EntryRockLoad(With(EnglishRock, &RockInputs::Height, 17.32F), English), 14.0296116F);
+  EXPECT_EQ(EntryRockLoad(With(EnglishRock, &RockInputs::Height, 17.3205F), English), 14.0296116F);
+}
+
 struct Guard {
   Single RockInputs::*member;
   Single value;

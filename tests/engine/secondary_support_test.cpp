@@ -92,6 +92,13 @@ TEST(EntrySupport, OfBoltsWithAnUnlistedUltimateStrengthFollowsTheStraightLine) 
               Gives(533.702454F, 1.59268451F));
 }
 
+TEST(EntrySupport, OfBoltsTakesGradesAsUltimateStrengthsInModeOneAlone) {
+  SupportSystems systems;
+  systems.RoofBolt = {{0.75F, 75}, 4, 4};
+
+  EXPECT_THAT(SupportEntry(EnglishEntryLoad, systems, English, Grades(2)).Systems[2], Gives(16.5669918F, 1.66218173F));
+}
+
 TEST(EntrySupport, ByCablesAtASpacingOfZeroIsPassedOver) {
   SupportSystems systems = EnglishEntrySystems();
   systems.Cable->Spacing = 0;

@@ -27,7 +27,7 @@ class FakeDesktop {
   void AddTypes(const QString& program) { AddScript("xdg-mime", "echo '" + program + "'"); }
   void AddOpener() { AddScript("xdg-open", "printf '%s' \"$1\" > '" + OpenedFile() + "'"); }
   // One that stays until the file is closed, after it has done this.
-  void AddLastingOpener() { AddScript("xdg-open", "printf '%s' \"$1\" > '" + OpenedFile() + "'; exec /bin/sleep 60"); }
+  void AddLastingOpener() { AddScript("xdg-open", "printf '%s' \"$1\" > '" + OpenedFile() + "'; /bin/sleep 3"); }
   void AddFailingOpener() { AddScript("xdg-open", "exit 3"); }
 
   // The file that was opened last; waits for it, for the opener runs by itself.

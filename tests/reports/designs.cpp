@@ -23,9 +23,9 @@ void PickBolt(ProjectRecord& record, Single diameter, Single grade) {
   }
 }
 
-void UseEverySystem(ProjectRecord& record) {
-  record.SecEntryUseCable = record.SecEntryUseTruss = record.SecEntryUseBolt = record.SecEntryUseStanding = 1;
-  record.SecInterUseCable = record.SecInterUseTruss = record.SecInterUseBolt = record.SecInterUseStanding = 1;
+void UseEverySystem(ProjectRecord& record, Integer flag) {
+  record.SecEntryUseCable = record.SecEntryUseTruss = record.SecEntryUseBolt = record.SecEntryUseStanding = flag;
+  record.SecInterUseCable = record.SecInterUseTruss = record.SecInterUseBolt = record.SecInterUseStanding = flag;
 }
 
 std::vector<std::string> LinesOf(const std::string& page) {

@@ -12,7 +12,8 @@ namespace {
 
 using testing::Contains;
 using testing::ElementsAre;
-using testing::IsEmpty;
+using testing::HasSubstr;
+using testing::IsSupersetOf;
 using testing::Not;
 using testing::StartsWith;
 
@@ -72,16 +73,40 @@ TEST(InputEcho, WithAllAnalysesOffThePageEndsBehindTheOptions) {
   EXPECT_TRUE(page.ends_with("Analysis of Secondary Support: Intersections............NO\r\n\r\n\r\n"));
 }
 
-TEST(InputEcho, TheUseOfASystemIsOneAndNothingElse) {
-  Desk desk;
-  desk.program.WorkParms.SecEntryUseTruss = 2;
-  desk.program.WorkParms.SecondSupInter = 2;
+TEST(InputEcho, AnAnalysisIsMadeWhenItsFlagIsOneAndNothingElse) {
+  for (const Integer flag : std::array<Integer, 2>{2, -1}) {
+    Desk desk;
+    ProjectRecord& record = desk.program.WorkParms;
+    record.PrimSupport = record.SecondSupEntries = record.SecondSupInter = flag;
 
-  const std::string page = InputPage(desk);
+    EXPECT_TRUE(
+        InputPage(desk).ends_with("[ROOF SUPPORT ANALYSIS OPTIONS]\r\n"
+                                  "Analysis of Primary Roof Bolts..........................NO\r\n"
+                                  "Analysis of Secondary Support: Entries..................NO\r\n"
+                                  "Analysis of Secondary Support: Intersections............NO\r\n\r\n\r\n"))
+        << flag;
+  }
+}
 
-  EXPECT_THAT(LinesOf(page), Contains("Analysis of Secondary Support: Intersections............NO"));
-  EXPECT_THAT(SectionOf(page, "[SECONDARY ENTRY SUPPORT - TRUSSES]"), IsEmpty());
-  EXPECT_THAT(LinesOf(page), Not(Contains("[SECONDARY INTERSECTION SUPPORT]")));
+TEST(InputEcho, ASystemIsInUseWhenItsFlagIsOneAndNothingElse) {
+  for (const Integer flag : std::array<Integer, 2>{2, -1}) {
+    Desk desk;
+    desk.program.WorkParms.PrimSupport = 0;
+    UseEverySystem(desk.program.WorkParms, flag);
+
+    const std::string page = InputPage(desk);
+
+    EXPECT_THAT(LinesOf(page), Not(Contains(HasSubstr("SUPPORT - ")))) << flag;
+    for (const auto* options :
+         {"[SECONDARY ENTRY SUPPORT ANALYSIS OPTIONS]", "[SECONDARY INTERSECTION SUPPORT ANALYSIS OPTIONS]"}) {
+      EXPECT_THAT(SectionOf(page, options),
+                  IsSupersetOf({"Evaluation of Cable Bolt Systems........................NO",
+                                "Evaluation of Truss Systems.............................NO",
+                                "Evaluation of Roof Bolt Systems.........................NO",
+                                "Evaluation of Standing Support Systems..................NO"}))
+          << flag;
+    }
+  }
 }
 
 TEST(InputEcho, IntersectionsAloneStillStandBehindAnEmptyLine) {
@@ -102,6 +127,16 @@ TEST(InputEcho, ARatingTypedByHandNamesNeitherRegionNorRock) {
                           "CMRR Rock Type............................Manual Selection",
                           "Depth of Cover............................................400 (ft)",
                           "Unit Weight of Rock.......................................162 (pcf)", "", ""));
+}
+
+TEST(InputEcho, ARatingIsTypedByHandInModeOneAlone) {
+  Desk desk;
+  desk.program.WorkParms.CMRRManual = 2;
+  desk.program.WorkParms.CMRRRegionIndex = 5;
+  desk.program.WorkParms.CMRRRockTypeIndex = 3;
+
+  EXPECT_THAT(Geology(desk), IsSupersetOf({"CMRR Region..................................Other Western",
+                                           "CMRR Rock Type............................Bedded Sandstone"}));
 }
 
 TEST(InputEcho, ARegionOutsideTheTableHasNoRowsAtAll) {
@@ -213,6 +248,24 @@ TEST(InputEcho, MetricGradesMeantAsUltimateStrengthsDifferBetweenPrimaryAndSecon
   EXPECT_THAT(capacities("[SECONDARY INTERSECTION SUPPORT - ROOF BOLTS]"), ElementsAre("-340 (kN)", "-230 (kN)"));
 }
 
+TEST(InputEcho, GradesOfAnUnknownKindAreConvertedLikeUltimateStrengthsButNotCalledSo) {
+  Desk english;
+  english.program.BoltStrengthMode = 2;
+  PickBolt(english.program.WorkParms, 0.75F, 100);
+  Desk metric(Metric);
+  metric.program.BoltStrengthMode = 2;
+  PickBolt(metric.program.WorkParms, 20, 690);
+
+  const std::string inTons = InputPage(english);
+  const std::string inKilonewtons = InputPage(metric);
+
+  EXPECT_THAT(inTons, Not(HasSubstr("Ultimate Strength")));
+  EXPECT_EQ(ValueOf(inTons, "Roof Bolt Yield Capacity"), "16.6 (tons)");
+  EXPECT_EQ(ValueOf(inTons, "Roof Bolt Ultimate Capacity"), "22.1 (tons)");
+  EXPECT_EQ(ValueOf(inKilonewtons, "Roof Bolt Yield Capacity"), "157 (kN)");
+  EXPECT_EQ(ValueOf(inKilonewtons, "Roof Bolt Ultimate Capacity"), "217 (kN)");
+}
+
 TEST(InputEcho, TheCapacityOfACableIsTheSelectedFieldEvenWhenItGoesByTheDiameter) {
   Desk desk;
   ProjectRecord& record = desk.program.WorkParms;
@@ -237,6 +290,20 @@ TEST(InputEcho, ACableOfGivenCapacityHasNoDiameter) {
 
   EXPECT_EQ(ValueOf(page, "Cable Bolt Diameter"), "no such line");
   EXPECT_EQ(ValueOf(page, "Cable Bolt Capacity"), "27 (tons)");
+}
+
+TEST(InputEcho, ACableOfAnUnknownKindIsOfTheCapacityTypedIn) {
+  Desk desk;
+  ProjectRecord& record = desk.program.WorkParms;
+  record.SecondSupInter = 0;
+  record.CableCapModeSecEntry = 2;
+  record.CableCapacitySecEntry = 2;
+  record.CableCapacityManualSecEntry = 29.5F;
+
+  const std::string page = InputPage(desk);
+
+  EXPECT_EQ(ValueOf(page, "Cable Bolt Diameter"), "no such line");
+  EXPECT_EQ(ValueOf(page, "Cable Bolt Capacity"), "29.5 (tons)");
 }
 
 TEST(InputEcho, MakingAReportTidiesTheDescriptionOfTheProject) {

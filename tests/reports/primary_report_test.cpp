@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "reports/calculation_report.h"
 #include "reports/designs.h"
 
@@ -214,6 +216,22 @@ TEST(BoltReport, ABoltBelowTheASTMMinimumIsWarnedOf) {
                           "Actual Roof Bolt Length...................................6.0 (ft)",
                           "Suggested Minimum Roof Bolt Length........................4.9 (ft)", "[Warning]",
                           "Bolt capacity may not meet ASTM minimum standards for roof support", ""));
+}
+
+TEST(BoltReport, ABoltWhoseGradeIsNoYieldStrengthIsLabelledByItsUltimateCapacity) {
+  for (const Integer mode : std::array<Integer, 2>{1, 2}) {
+    PrimaryDesk desk;
+    PickBolt(desk.Parms(), 0.75F, 100);
+    desk.program.BoltStrengthMode = mode;
+
+    const std::string page = desk.Page();
+
+    // The number is the yield capacity all the same: 75 x 0.44179 / 2
+    EXPECT_EQ(ValueOf(page, "Actual Roof Bolt Yield Capacity"), "no such line") << mode;
+    EXPECT_EQ(ValueOf(page, "Actual Roof Bolt Ultimate Capacity"), "16.6 (tons)") << mode;
+    EXPECT_EQ(ValueOf(page, "Actual PSUP for this design"), "9.9") << mode;
+    EXPECT_EQ(ValueOf(page, "PRSUP"), "13.3") << mode;
+  }
 }
 
 TEST(BoltReport, AShortAndWeakBoltHasWarnings) {

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "reports/calculation_report.h"
 #include "reports/designs.h"
 
@@ -97,7 +99,7 @@ TEST(EntryReport, ACableHoldsWhenFourFeetOfItReachAboveTheRock) {
   desk.Parms().CableLengthSecEntry = 12;
 
   const auto anchored = desk.Section(EntryCables);
-  desk.Parms().CableLengthSecEntry = 11.9F;
+  desk.Parms().CableLengthSecEntry = 11.999999F;
   const auto loose = desk.Section(EntryCables);
 
   EXPECT_THAT(anchored, Not(Contains("[Warning]")));
@@ -112,11 +114,15 @@ TEST(EntryReport, AMetricCableHoldsWhenOnePointThreeMetresOfItReachAboveTheRock)
   desk.Parms().CableLengthSecEntry = 4.3F;
 
   const auto anchored = desk.Section(EntryCables);
-  desk.Parms().CableLengthSecEntry = 4.29F;
+  desk.Parms().CableLengthSecEntry = 4.2999997F;
   const auto loose = desk.Section(EntryCables);
+  desk.Parms().CableLengthSecEntry = 3.3F;  // 3.29999995 m
+  desk.Parms().RockLoadHeight = 2;
+  const auto shortByARounding = desk.Section(EntryCables);
 
   EXPECT_THAT(anchored, Not(Contains("[Warning]")));
   EXPECT_THAT(loose, Contains("[Warning]"));
+  EXPECT_THAT(shortByARounding, Contains("[Warning]"));
 }
 
 TEST(EntryReport, TheCapacityOfACableGoesByItsDiameterUnlessItIsGiven) {
@@ -134,6 +140,20 @@ TEST(EntryReport, TheCapacityOfACableGoesByItsDiameterUnlessItIsGiven) {
 
   EXPECT_EQ(byDiameter, "148.1");
   EXPECT_EQ(unknownDiameter, "0.0");
+  EXPECT_EQ(standard, "151.4");
+  EXPECT_EQ(typed, "176.7");
+}
+
+TEST(EntryReport, TheCapacityOfACableIsGivenAndTypedInByAnyFlagButZero) {
+  EntryDesk desk;
+  constexpr auto Srdi = "Secondary Reinforcement Density Index (SRDI)";
+  desk.Parms().CableCapacityManualSecEntry = 31.5F;
+
+  desk.Parms().CableCapModeSecEntry = 2;
+  const std::string standard = ValueOf(desk.Page(), Srdi);  // 27 tons
+  desk.Parms().CableCapacitySecEntry = 2;
+  const std::string typed = ValueOf(desk.Page(), Srdi);  // 31.5 tons
+
   EXPECT_EQ(standard, "151.4");
   EXPECT_EQ(typed, "176.7");
 }
@@ -161,11 +181,13 @@ TEST(EntryReport, TheSecondaryPRSUPOfCablesGoesByTheLengthOfThePrimaryBolts) {
 }
 
 TEST(EntryReport, RoofBoltsWithoutCableBoltsEndTheReport) {
-  EntryDesk desk;
-  desk.Parms().SecEntryUseCable = 0;
-  desk.Parms().SecEntryUseBolt = 1;
+  for (const Integer noCables : std::array<Integer, 3>{0, 2, -1}) {
+    EntryDesk desk;
+    desk.Parms().SecEntryUseCable = noCables;
+    desk.Parms().SecEntryUseBolt = 1;
 
-  EXPECT_EQ(desk.Error(), 11);
+    EXPECT_EQ(desk.Error(), 11) << noCables;
+  }
 }
 
 TEST(EntryReport, RoofBoltsBesideCableBolts) {
@@ -189,7 +211,7 @@ TEST(EntryReport, ARoofBoltHoldsWhenAFootOfItReachesAboveTheRock) {
   desk.Parms().BoltLengthSecEntry = 6;
 
   const auto anchored = desk.Section(EntryBolts);
-  desk.Parms().BoltLengthSecEntry = 5.9F;
+  desk.Parms().BoltLengthSecEntry = 5.9999995F;
   const auto loose = desk.Section(EntryBolts);
 
   EXPECT_THAT(anchored, Not(Contains("[Warning]")));
@@ -205,7 +227,7 @@ TEST(EntryReport, AMetricRoofBoltHoldsWhenThirtyPointFiveCentimetresOfItReachAbo
   desk.Parms().BoltLengthSecEntry = 2.105F;
 
   const auto anchored = desk.Section(EntryBolts);
-  desk.Parms().BoltLengthSecEntry = 2.104F;
+  desk.Parms().BoltLengthSecEntry = 2.1049998F;
   const auto loose = desk.Section(EntryBolts);
 
   EXPECT_THAT(anchored, Not(Contains("[Warning]")));
@@ -364,6 +386,23 @@ TEST(IntersectionReport, FollowsStandingSupportsOfTheEntriesWithoutAnEmptyLine) 
   EXPECT_NE(desk.Page().find("Standing Support System Stability Factor..................0.00\r\n"
                              "[SECONDARY INTERSECTION SUPPORT]\r\n"),
             std::string::npos);
+}
+
+TEST(SecondaryReport, ASystemIsUsedWhenItsFlagIsOneAndNothingElse) {
+  for (const Integer flag : std::array<Integer, 2>{2, -1}) {
+    SecondaryDesk desk;
+    UseEverySystem(desk.Parms(), flag);
+
+    EXPECT_EQ(desk.Page(),
+              "[ORBY CALCULATIONS]\r\n"
+              "[SECONDARY ENTRY SUPPORT]\r\n"
+              "Rock Load.................................................0.0 (tons/ft)\r\n"
+              "\r\n"
+              "[SECONDARY INTERSECTION SUPPORT]\r\n"
+              "Rock Load.................................................0 (tons)\r\n"
+              "\r\n")
+        << flag;
+  }
 }
 
 TEST(IntersectionReport, SystemsThatAreNotUsedAreLeftOut) {

@@ -118,6 +118,17 @@ TEST_F(Closing, WritesTheRecentFilesAndNothingElse) {
             "LastFileLong1=/designs/panel3.orb\r\n");
 }
 
+TEST_F(Closing, TakesTheHelpWithIt) {
+  EditPanel3();
+  platform.boxes.answers = {box_result::Cancel, box_result::No};
+
+  Exit();
+  EXPECT_THAT(platform.help.shown, IsEmpty()) << "the window stays";
+  Exit();
+
+  EXPECT_THAT(platform.help.shown, ElementsAre("close"));
+}
+
 TEST_F(Closing, LeavesNothingToRecover) {
   EditPanel3();
   window.mnuEditItem.ClickItem(edit_item::Parameters);

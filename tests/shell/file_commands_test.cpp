@@ -1,5 +1,8 @@
 // The commands of the File menu and what they leave behind.
 
+#include <array>
+
+#include "acting_boxes.h"
 #include "main_window_fixture.h"
 
 namespace orby::test {
@@ -150,6 +153,93 @@ TEST_F(FileMenu, AFileThatCannotBeReadIsToldAndLeft) {
   EXPECT_EQ(platform.boxes.shown.front().style, 5);
   EXPECT_FALSE(platform.windows.waitCursor);
   EXPECT_EQ(program.recentFiles.MaxLastFiles, 0);
+}
+
+TEST_F(FileMenu, AFileThatHasGoneIsOpenedOnRetryOnceItIsBack) {
+  ActingBoxes boxes;
+  boxes.answers = {box_result::Retry};
+  boxes.meanwhile = [this] { platform.files.files["/designs/back.orb"] = DesignAt(610); };
+  Program retried = StartedProgram(platform.DoorsWith(boxes));
+  MainWindow other(retried);
+  platform.fileDialogs.answers = {"/designs/back.orb"};
+
+  other.mnuFileItem.ClickItem(file_item::Open);
+
+  EXPECT_THAT(boxes.Texts(), ElementsAre("Error occurred: File not found (53)"));
+  EXPECT_EQ(retried.WorkParms.DepthofCover, 610);
+  EXPECT_TRUE(retried.FileSaved);
+  EXPECT_EQ(other.Caption(), "Orby Roof Support Workbench: /designs/back.orb");
+  EXPECT_EQ(other.mnuFileArray.Caption(1), "/designs/back.orb");
+  EXPECT_FALSE(platform.windows.waitCursor);
+}
+
+struct BrokenFile {
+  const char* name;
+  const char* from;  // the first such text in the file, and all behind it,
+  const char* to;    // gives way to this text
+  const char* message;
+  int style;
+};
+
+class ABrokenFile : public MainWindowTest, public testing::WithParamInterface<BrokenFile> {};
+
+TEST_P(ABrokenFile, IsToldAndLeavesTheCaptionAndTheRecentFiles) {
+  const BrokenFile& broken = GetParam();
+  OpenByDialog(Panel3);
+  const std::string whole = FileAt(Panel4);
+  ASSERT_NE(whole.find(broken.from), std::string::npos);
+  platform.files.files[Panel4] = whole.substr(0, whole.find(broken.from)) + broken.to;
+  program.options.ShowInputScreenOnLoad = 1;
+  platform.boxes.answers = {box_result::Cancel};
+
+  OpenByDialog(Panel4);
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre(broken.message));
+  EXPECT_EQ(platform.boxes.shown.front().style, broken.style);
+  EXPECT_FALSE(platform.windows.waitCursor);
+  EXPECT_EQ(program.CurrentFile, Panel4);
+  EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb");
+  EXPECT_EQ(program.recentFiles.MaxLastFiles, 1);
+  EXPECT_EQ(window.mnuFileArray.Caption(1), Panel3);
+  EXPECT_EQ(platform.windows.modalForms, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    By, ABrokenFile,
+    testing::Values(BrokenFile{"ARatingThatIsNoInteger", "\r\n45\r\n", "\r\n40000\r\n1\r\n",
+                               "Error occurred: Overflow (6). Procedure Terminated", box_style::Ok},
+                    BrokenFile{"AnEndInTheMiddle", "\r\n980\r\n", "\r\n980\r\n",
+                               "Error occurred: Input past end of file (62)", box_style::RetryCancel}),
+    [](const auto& tested) { return tested.param.name; });
+
+TEST_F(FileMenu, OpenOffersTheFilesOfTheProgramAndThenAllFiles) {
+  Choose(file_item::Open);
+
+  ASSERT_EQ(platform.fileDialogs.asked.size(), 1U);
+  const std::vector<FileFilter>& filters = platform.fileDialogs.asked[0].filters;
+  ASSERT_EQ(filters.size(), 2U);
+  EXPECT_EQ(filters[0].name, "Orby Roof Support Workbench (*.ORB)");
+  EXPECT_EQ(filters[0].pattern, "*.ORB");
+  EXPECT_EQ(filters[1].name, "All Files (*.*)");
+  EXPECT_EQ(filters[1].pattern, "*");
+}
+
+TEST_F(FileMenu, OpenLeavesWhatWasComputedOfTheProjectBefore) {
+  constexpr std::array<Single ProjectRecord::*, 18> Computed{
+      &ProjectRecord::RockLoadEntry1,   &ProjectRecord::SupportCapEntry1, &ProjectRecord::SupportCapEntry2,
+      &ProjectRecord::SupportCapEntry3, &ProjectRecord::SupportCapEntry4, &ProjectRecord::StabFactorEntry1,
+      &ProjectRecord::StabFactorEntry2, &ProjectRecord::StabFactorEntry3, &ProjectRecord::StabFactorEntry4,
+      &ProjectRecord::RockLoadInter1,   &ProjectRecord::SupportCapInter1, &ProjectRecord::SupportCapInter2,
+      &ProjectRecord::SupportCapInter3, &ProjectRecord::SupportCapInter4, &ProjectRecord::StabFactorInter1,
+      &ProjectRecord::StabFactorInter2, &ProjectRecord::StabFactorInter3, &ProjectRecord::StabFactorInter4};
+  Single value = 11.5F;
+  for (const auto field : Computed) program.WorkParms.*field = value++;
+
+  OpenByDialog(Panel3);
+
+  EXPECT_EQ(program.WorkParms.DepthofCover, 725);
+  value = 11.5F;
+  for (const auto field : Computed) EXPECT_EQ(program.WorkParms.*field, value++);
 }
 
 TEST_F(FileMenu, OpeningLeavesNothingToRecover) {

@@ -54,6 +54,17 @@ TEST_F(FirstFiles, WithoutAnyRecentFileOpenNothing) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
+TEST_F(FirstFiles, AreNoneWhereTheLastFileHasANameWithoutAPath) {
+  RememberPanel4();
+  program.recentFiles.Entries[0].LastFileLong.clear();
+
+  window.OpenFirstFiles("");
+
+  EXPECT_EQ(program.CurrentFile, "Untitled");
+  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
 TEST_F(FirstFiles, EndWithTheOneOfTheCommandLine) {
   RememberPanel4();
 

@@ -67,6 +67,36 @@ TEST_F(InputMenu, LeavesTheMainWindowBehindTheDescription) {
   EXPECT_FALSE(platform.windows.waitCursor);
 }
 
+// Notes each change of the cursor.
+struct CursorWindows : RecordingWindows {
+  void SetWaitCursor(bool waiting) override {
+    cursors.push_back(waiting);
+    RecordingWindows::SetWaitCursor(waiting);
+  }
+
+  std::vector<bool> cursors;
+};
+
+TEST_F(InputMenu, ShowsTheWaitCursorWhileADialogIsLoaded) {
+  CursorWindows windows;
+  const Platform doors = platform.Doors();
+  Program waited = StartedProgram(Platform{doors.boxes, doors.files, doors.fileDialogs, windows, doors.fonts,
+                                           doors.locale, doors.clock, doors.userFolders, doors.clipboard, doors.printer,
+                                           doors.documents, doors.help, doors.downloads});
+  MainWindow other(waited);
+  bool isWaiting = true;
+  windows.onModal = [&](Form&) { isWaiting = windows.waitCursor; };
+
+  for (const Integer item : {edit_item::Description, edit_item::Parameters, edit_item::Cost}) {
+    windows.cursors.clear();
+    other.mnuEditItem.ClickItem(item);
+
+    ASSERT_FALSE(windows.cursors.empty()) << item;
+    EXPECT_TRUE(windows.cursors.front()) << item;
+    EXPECT_FALSE(isWaiting) << item;
+  }
+}
+
 TEST_F(InputMenu, MarksACommittedChangeInTheCaption) {
   InDialog<CostDialog>([](CostDialog& dialog) { dialog.Command2.Press(); });
 

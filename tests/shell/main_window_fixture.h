@@ -20,8 +20,8 @@ inline const std::string Panel4 = "/designs/panel4.orb";
 
 // A run as its start leaves it, but for the disclaimer, which is not shown, and the parameters dialog, which no file
 // opens by itself.
-inline Program StartedProgram(RecordingPlatform& platform) {
-  Program program(platform.Doors());
+inline Program StartedProgram(const Platform& doors) {
+  Program program(doors);
   program.folders.ProgramTemporary = TemporaryFolder;
   program.IniFilePath = IniPath;
   program.options.ShowInputScreenOnLoad = 0;
@@ -29,6 +29,8 @@ inline Program StartedProgram(RecordingPlatform& platform) {
   StartApart(program, nullptr);
   return program;
 }
+
+inline Program StartedProgram(RecordingPlatform& platform) { return StartedProgram(platform.Doors()); }
 
 struct MainWindowTest : testing::Test {
   MainWindowTest() {

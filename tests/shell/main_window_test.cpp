@@ -1,5 +1,6 @@
 #include "shell/main_window.h"
 
+#include "acting_boxes.h"
 #include "dialogs/convert_dialog.h"
 #include "dialogs/settings_dialog.h"
 #include "main_window_fixture.h"
@@ -126,6 +127,27 @@ TEST_F(Menus, ConvertASavedProjectUnderANewName) {
 
   EXPECT_EQ(program.Units, Metric);
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: Metric_panel3.orb*");
+}
+
+TEST_F(Menus, HaveConvertedTheProjectBehindTheMessageThatItIsDone) {
+  ActingBoxes boxes;
+  Program behind = StartedProgram(platform.DoorsWith(boxes));
+  MainWindow windowBehind(behind);
+  windowBehind.Open();
+  windowBehind.Dropped(Panel3);
+  std::string caption;
+  bool isKept = false;
+  boxes.meanwhile = [&] {
+    caption = windowBehind.Caption();
+    isKept = Exists(TemporaryFolder + "~recover2.tmp");  // the run of the test has the first file
+  };
+  platform.windows.onModal = [](Form& form) { dynamic_cast<ConvertDialog&>(form).Command2.Press(); };
+
+  windowBehind.mnuUtilItem.ClickItem(util_item::FileConversion);
+
+  EXPECT_THAT(boxes.Texts(), ElementsAre("Conversion Completed: The conversion form will be closed"));
+  EXPECT_EQ(caption, "Orby Roof Support Workbench: Metric_panel3.orb*");
+  EXPECT_TRUE(isKept);
 }
 
 TEST_F(Menus, SettingsActOnTheWindowAtOnce) {

@@ -123,6 +123,8 @@ TEST_F(StartUp, TakesTheStandingSupportsFromTheBuiltInTableWhateverTheFileSays) 
   EXPECT_THAT(Ini(), HasSubstr("DefaultStandSupportType0=Can, 24in\r\n"));
   EXPECT_EQ(next.catalogs.StandSupports.DefaultStandSupportType[0],
             "4-point Hardwood Crib (8in x 8in timbers, 5' height)");
+  EXPECT_EQ(next.catalogs.StandSupports.HighestIndex, 15);
+  EXPECT_EQ(next.catalogs.StandSupports.DefaultStandSupportType[15], "Concrete Crib (24in x 24in)");
 }
 
 TEST_F(StartUp, ForgetsTheOptionsOfTheLastRun) {

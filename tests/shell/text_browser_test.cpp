@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "acting_boxes.h"
 #include "core/messages.h"
 #include "support/recording_platform.h"
 
@@ -52,6 +53,15 @@ struct ABrowser : testing::Test {
   }
   void ClickFolder(const std::string& text) { browser.Dir1.ClickItem(ItemOf(browser.Dir1, text)); }
   void ClickFile(const std::string& name) { browser.File1.ClickItem(ItemOf(browser.File1, name)); }
+
+  // A program with the same settings behind other doors.
+  Program ProgramOn(const Platform& doors) {
+    Program other(doors);
+    other.settings = program.settings;
+    other.folders = program.folders;
+    return other;
+  }
+
   // Lets the file come in to its end.
   void Wait() {
     while (!platform.clock.waiting.empty()) platform.clock.Pass();
@@ -233,10 +243,9 @@ TEST_F(ABrowser, StaysWhereItIsWhenAFolderCannotBeRead) {
   EXPECT_THAT(ItemsOf(browser.File1), ElementsAre("panel3.ORB", "panel4.orb"));
 }
 
-TEST_F(ABrowser, TriesAFolderAgainOnRequest) {
+TEST_F(ABrowser, StaysWhereItIsWhenAFolderIsGone) {
   Open();
   platform.files.folders.erase("/home/user/Documents/Mines");
-  platform.boxes.answers.push_back(box_result::Ok);
 
   ClickFolder("        Mines");
 
@@ -355,6 +364,41 @@ TEST_F(ABrowser, TellsOfAFileThatCannotBeOpened) {
   EXPECT_FALSE(browser.prgLoading.Visible());
 }
 
+// What is wrong is put right while the user is asked, who then wants to try again.
+struct AnotherTry : ABrowser {
+  AnotherTry() {
+    boxes.answers = {box_result::Retry};
+    again.Open();
+  }
+
+  ActingBoxes boxes;
+  Program mended = ProgramOn(platform.DoorsWith(boxes));
+  TextBrowser again{mended};
+};
+
+TEST_F(AnotherTry, OpensAFolderThatCanBeReadByThen) {
+  constexpr int Never = 1'000'000;
+  platform.files.Fail(Step::ListFolders, 70);
+  boxes.meanwhile = [this] { platform.files.Fail(Step::ListFolders, 70, Never); };
+
+  again.Dir1.ClickItem(ItemOf(again.Dir1, "        Mines"));
+
+  EXPECT_THAT(boxes.Texts(), ElementsAre("Error occurred: Permission denied (70)"));
+  EXPECT_EQ(again.Dir1.ListIndex(), 4);
+  EXPECT_THAT(ItemsOf(again.File1), ElementsAre("east.orb"));
+}
+
+TEST_F(AnotherTry, ShowsAFileThatIsThereByThen) {
+  platform.files.files.erase("/home/user/Documents/panel3.ORB");
+  boxes.meanwhile = [this] { platform.files.files["/home/user/Documents/panel3.ORB"] = "cover\r\n725\r\n"; };
+
+  again.File1.ClickItem(0);
+  Wait();
+
+  EXPECT_THAT(boxes.Texts(), ElementsAre("Error occurred: File not found (53)"));
+  EXPECT_EQ(again.RichTextBox1.Bytes(), "cover\r\n725\r\n");
+}
+
 TEST_F(ABrowser, KeepsWhatItHasOfAFileThatCannotBeReadToItsEnd) {
   platform.files.files["/home/user/Documents/long.orb"] = std::string(TextBrowser::PieceBytes * 3, 'x');
   Open();
@@ -384,12 +428,7 @@ struct ALongFile : ABrowser {
   }
 
   LongFiles files;
-  Program longProgram = [this] {
-    Program other(platform.DoorsWith(files));
-    other.settings = program.settings;
-    other.folders = program.folders;
-    return other;
-  }();
+  Program longProgram = ProgramOn(platform.DoorsWith(files));
   TextBrowser longBrowser{longProgram};
 };
 

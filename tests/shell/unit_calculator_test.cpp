@@ -35,6 +35,25 @@ TEST_F(ACalculator, TitlesItsMessagesWithTheBareWords) {
   EXPECT_EQ(program.titles.ErrorTitle, "Error");
 }
 
+TEST_F(ACalculator, NamesItsKindsAndTheirUnits) {
+  struct Kind {
+    std::string_view tab;
+    const Frame& units;
+    std::string_view caption;
+  };
+  const std::array<Kind, 5> kinds{{{"Length", calculator.fraLengthUnits, "Length units"},
+                                   {"Load", calculator.fraLoadUnits, "Load units"},
+                                   {"Load Grad", calculator.fraLoadGradUnits, "Load gradient units"},
+                                   {"Stress", calculator.fraStressUnits, "Pressure/stress units"},
+                                   {"Stress Grad", calculator.fraStressGradUnits, "Pressure/stress gradient units"}}};
+  ASSERT_EQ(calculator.SSTab1.Count(), 5);
+  for (int tab = 0; tab < calculator.SSTab1.Count(); ++tab) {
+    const Kind& kind = kinds[static_cast<std::size_t>(tab)];
+    EXPECT_EQ(calculator.SSTab1.Caption(tab), kind.tab);
+    EXPECT_EQ(kind.units.Caption(), kind.caption);
+  }
+}
+
 TEST_F(ACalculator, StartsWithTheFirstUnitOfEachKindAndTheFirstTab) {
   for (const OptionArray* units :
        {&calculator.Option1, &calculator.Option2, &calculator.Option3, &calculator.Option4, &calculator.Option5}) {

@@ -1,6 +1,7 @@
 #include "shell/update_check.h"
 
 #include "shell/main_window_fixture.h"
+#include "shell/update_dialog.h"
 #include "shell/update_fixture.h"
 
 namespace orby::test {
@@ -74,6 +75,17 @@ TEST_F(ACheckAtStart, OpensTheUpdatesOnYesAndSaysNothingElse) {
 
   EXPECT_EQ(opened, "frmUpdate");
   EXPECT_EQ(platform.boxes.shown.size(), 1U);
+  EXPECT_EQ(platform.downloads.asked.size(), 1U);
+}
+
+TEST_F(ACheckAtStart, LetsTheUpdatesKnowTheVersionThatItFound) {
+  platform.windows.onModal = [](Form& form) { dynamic_cast<UpdateDialog&>(form).cmdInstall.Press(); };
+  platform.boxes.answers = {box_result::Yes};
+
+  CheckBringing("1.0.01");
+
+  ASSERT_EQ(platform.boxes.shown.size(), 2U);
+  EXPECT_EQ(platform.boxes.shown[1].text, "Update file: /home/user/Downloads/ORBY1.0.01.exe not found");
   EXPECT_EQ(platform.downloads.asked.size(), 1U);
 }
 

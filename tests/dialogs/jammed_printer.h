@@ -1,0 +1,37 @@
+// A printer that fails at its first attempt only, and the doors of a platform that has it.
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "support/recording_platform.h"
+
+namespace orby::test {
+
+class JammedPrinter : public RecordingPrinter {
+ public:
+  void PrintPages(const std::vector<std::string>& given, const std::string& name, const std::string& font) override {
+    Jam();
+    RecordingPrinter::PrintPages(given, name, font);
+  }
+  void PrintChart(const Control& chart) override {
+    Jam();
+    RecordingPrinter::PrintChart(chart);
+  }
+
+ private:
+  void Jam() {
+    if (std::exchange(jammed_, false)) throw RuntimeError(error_number::Printer);
+  }
+
+  bool jammed_ = true;
+};
+
+inline Platform DoorsWith(RecordingPlatform& platform, Clipboard& clipboard, Printer& printer) {
+  const Platform doors = platform.Doors();
+  return {doors.boxes,       doors.files, doors.fileDialogs, doors.windows,   doors.fonts, doors.locale,   doors.clock,
+          doors.userFolders, clipboard,   printer,           doors.documents, doors.help,  doors.downloads};
+}
+
+}  // namespace orby::test

@@ -1,0 +1,19 @@
+// Boxes behind which something happens, or is looked at, before the user answers.
+#pragma once
+
+#include <functional>
+
+#include "support/recording_platform.h"
+
+namespace orby::test {
+
+struct ActingBoxes : RecordingBoxes {
+  int Show(const MessageBox& box) override {
+    if (meanwhile) meanwhile();
+    return RecordingBoxes::Show(box);
+  }
+
+  std::function<void()> meanwhile;
+};
+
+}  // namespace orby::test
