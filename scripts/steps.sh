@@ -79,27 +79,42 @@ run_ctest() {
   count_tests "$name" $status "$result" $((SECONDS - began)) "$log"
 }
 
-# run_shuffled NAME PRESET SEED: each test program as one process, its tests in the order of the seed.
-run_shuffled() {
-  local name=$1 log result began=$SECONDS status program wrong all=0 bad=0
-  log=$(log_of "$name")
-  result="${log%.log}.xml"
-  for program in "$top/build/$2"/tests/*/test_*; do
+# shuffle PRESET SEED LOG: each test program as one process, its tests in the order of the seed. Leaves beside the log how
+# many passed, how many failed and the seconds that it took.
+shuffle() {
+  local result="${3%.log}.xml" began=$SECONDS status program wrong all=0 bad=0
+  for program in "$top/build/$1"/tests/*/test_*; do
     [ -f "$program" ] && [ -x "$program" ] || continue
     rm -f "$result"
-    timeout 120 "$program" --gtest_shuffle --gtest_random_seed="$3" --gtest_brief=1 --gtest_output="xml:$result" \
-      >>"$log" 2>&1 </dev/null
+    timeout 120 "$program" --gtest_shuffle --gtest_random_seed="$2" --gtest_brief=1 --gtest_output="xml:$result" \
+      >>"$3" 2>&1 </dev/null
     status=$?
     all=$((all + $(xml_figure "$result" tests)))
     wrong=$(($(xml_figure "$result" failures) + $(xml_figure "$result" disabled)))
     if [ $status -ne 0 ] && [ $wrong -eq 0 ]; then
-      echo "$program ended with status $status" >>"$log"
+      echo "$program ended with status $status" >>"$3"
       wrong=1 all=$((all + 1))
     fi
     bad=$((bad + wrong))
   done
-  [ $all -gt 0 ] || { echo "no test program" >>"$log"; bad=1 all=1; }
-  note "$name" $((all - bad)) $bad $((SECONDS - began)) "$log"
+  [ $all -gt 0 ] || { echo "no test program" >>"$3"; bad=1 all=1; }
+  echo "$((all - bad)) $bad $((SECONDS - began))" >"${3%.log}.counts"
+}
+
+# run_shuffled PRESET SEED...: as many orders at a time as there are processors.
+run_shuffled() {
+  local preset=$1 seed name log good bad seconds
+  shift
+  for seed in "$@"; do
+    while [ "$(jobs -rp | wc -l)" -ge "$(nproc)" ]; do wait -n; done
+    shuffle "$preset" "$seed" "$(log_of "tests, shuffled by $seed")" &
+  done
+  wait
+  for seed in "$@"; do
+    name="tests, shuffled by $seed" log=$(log_of "tests, shuffled by $seed")
+    read -r good bad seconds <"${log%.log}.counts" || good=0 bad=1 seconds=0
+    note "$name" "$good" "$bad" "$seconds" "$log"
+  done
 }
 
 # The last line, alone, and the exit status.

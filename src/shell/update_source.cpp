@@ -19,17 +19,11 @@ constexpr std::string_view WayToDownloads = "../../Downloads/";  // from the gro
 constexpr std::size_t MostVersionLength = 64;
 constexpr std::size_t SumLength = 64;
 
-// The next field of a version file: as far as a comma or the end of the line.
-std::string_view TakeField(std::string_view& rest) {
-  std::string_view line = rest;
-  const std::string_view whole = TakeLine(line);
-  const std::size_t comma = whole.find(',');
-  if (comma == std::string_view::npos) {
-    rest = line;
-    return whole;
-  }
-  rest.remove_prefix(comma + 1);
-  return whole.substr(0, comma);
+// The next field of a line, as far as a comma.
+std::string_view TakeField(std::string_view& line) {
+  const std::string_view field = line.substr(0, line.find(','));
+  line.remove_prefix(std::min(field.size() + 1, line.size()));
+  return field;
 }
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
@@ -56,9 +50,15 @@ std::string SetupFileName(std::string_view version) {
 }  // namespace
 
 std::optional<OfferedVersion> ReadVersionFile(std::string_view bytes) {
-  const std::string_view version = TakeField(bytes);
-  const std::string_view sum = Trim(TakeField(bytes));
+  std::string_view line = TakeLine(bytes);
+  const std::string_view version = TakeField(line);
+  std::string_view sum = Trim(TakeField(line));
   if (!IsVersion(version) || (!sum.empty() && !IsSum(sum))) return std::nullopt;
+  if (sum.empty()) {
+    // On the next line it is taken for the sum only when it can be one, for remarks may stand there.
+    line = TakeLine(bytes);
+    if (const std::string_view next = Trim(TakeField(line)); IsSum(next)) sum = next;
+  }
   return OfferedVersion{std::string(version), std::string(sum)};
 }
 

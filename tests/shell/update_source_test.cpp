@@ -37,6 +37,12 @@ TEST(VersionFile, MayLackTheSum) {
   EXPECT_EQ(SumIn("1.0.01,\r\n"), "");
 }
 
+TEST(VersionFile, MayHoldRemarksBelowTheVersion) {
+  EXPECT_EQ(VersionIn("1.0.01\r\nMends the printing of curves, and more.\r\n"), "1.0.01");
+  EXPECT_EQ(SumIn("1.0.01\r\nMends the printing of curves, and more.\r\n"), "");
+  EXPECT_EQ(SumIn("1.0.01," + SumOfSetup + "\r\nMends the printing of curves.\r\n"), SumOfSetup);
+}
+
 TEST(VersionFile, IsNoneWhenItIsEmpty) {
   for (const char* bytes : {"", "\n", "\r\n", ",", ",1.0.01", "\r\n1.0.01"}) EXPECT_EQ(VersionIn(bytes), "nothing");
 }
