@@ -1,8 +1,8 @@
 // Where newer versions of the program are published, what the server tells about them, and which files they are here.
 //
 // The server has a small text file: the version that it offers, and behind a comma or on the next line the SHA-256 of
-// that version's setup file, which older files of this kind lack. All of it comes from outside and is believed only as far as it has the
-// right form.
+// that version's setup file, which older files of this kind lack. All of it comes from outside and is believed only as
+// far as it has the right form.
 #pragma once
 
 #include <optional>
