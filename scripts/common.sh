@@ -13,7 +13,7 @@ test_packages=(libgtest-dev=/usr/include/gtest/gtest.h libgmock-dev=/usr/include
 desktop_packages=(xvfb=Xvfb openbox=openbox xdotool=xdotool xclip=xclip imagemagick=import poppler-utils=pdftotext
   at-spi2-core=/usr/libexec/at-spi-bus-launcher dbus-daemon=dbus-run-session
   python3-gi=/usr/lib/python3/dist-packages/gi xdg-utils=xdg-mime desktop-file-utils=desktop-file-validate
-  shared-mime-info=update-mime-database)
+  shared-mime-info=update-mime-database libfile-mimeinfo-perl=mimetype)
 format_packages=(clang-format=clang-format)
 lint_packages=(clang-tidy=clang-tidy cppcheck=cppcheck)
 locale_packages=(locales=/usr/share/i18n/locales/de_DE)
