@@ -52,6 +52,8 @@ function(orby_test name)
   target_link_libraries(test_${name} PRIVATE orby_options orby_test_support ${ARG_LINKS} ${runner})
   target_compile_definitions(test_${name} PRIVATE
     TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data" EXAMPLES_DIR="${CMAKE_SOURCE_DIR}/examples")
+  # A test needs its lines in a trace, not the whole of the templates that it is made of.
+  target_compile_options(test_${name} PRIVATE $<$<CONFIG:Debug>:-g1>)
   # Every test includes it, and it takes longer than most tests themselves.
   target_precompile_headers(test_${name} PRIVATE <gmock/gmock.h>)
   gtest_discover_tests(test_${name} TEST_PREFIX "${name}/" DISCOVERY_MODE PRE_TEST)
