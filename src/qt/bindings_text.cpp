@@ -7,7 +7,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <utility>
 
 #include "qt/bindings.h"
 #include "qt/mnemonics.h"
@@ -114,9 +113,10 @@ class LineEditBinding : public QObject, public Binding {
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::FocusOut) {
       isLent_ = IsLending(*dynamic_cast<QFocusEvent*>(event));
-    } else if (event->type() == QEvent::FocusIn && !std::exchange(isLent_, false)) {
+    } else if (event->type() == QEvent::FocusIn) {
+      const bool comesBack = isLent_ && IsLending(*dynamic_cast<QFocusEvent*>(event));
       // After the press of the mouse that brought the focus, which would take the selection away again.
-      QMetaObject::invokeMethod(&widget_, &QLineEdit::selectAll, Qt::QueuedConnection);
+      if (!comesBack) QMetaObject::invokeMethod(&widget_, &QLineEdit::selectAll, Qt::QueuedConnection);
     } else if (event->type() == QEvent::KeyPress) {
       return IsRefused(*dynamic_cast<QKeyEvent*>(event));
     }
@@ -124,9 +124,9 @@ class LineEditBinding : public QObject, public Binding {
   }
 
  private:
-  // Whether the keyboard goes to a menu of the field or to another window, and comes back to where it was.
-  static bool IsLending(const QFocusEvent& leaving) {
-    return leaving.reason() == Qt::PopupFocusReason || leaving.reason() == Qt::ActiveWindowFocusReason;
+  // Whether the keyboard goes to a menu of the field or to another window, or comes from there.
+  static bool IsLending(const QFocusEvent& focus) {
+    return focus.reason() == Qt::PopupFocusReason || focus.reason() == Qt::ActiveWindowFocusReason;
   }
 
   // Only keys that bring a character are judged; shortcuts, Enter and Tab are none of the text's, and the Delete key,

@@ -152,6 +152,19 @@ TEST_F(ParametersView, GoesOnWhereItWasInANumberAfterItsOwnMenu) {
   });
 }
 
+TEST_F(ParametersView, SelectsANumberThatIsReachedByTabAfterAMessageHasLedElsewhere) {
+  Work([](QDialog& window) {
+    TypeInto(window, "txtDepthofCover", "612");
+    auto& field = Find<QLineEdit>(window, "txtDepthofCover");
+    QFocusEvent toTheMessage(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QApplication::sendEvent(&field, &toTheMessage);
+    QFocusEvent byTab(QEvent::FocusIn, Qt::TabFocusReason);
+    QApplication::sendEvent(&field, &byTab);
+    Settle();
+    EXPECT_EQ(field.selectedText(), "612");
+  });
+}
+
 TEST_F(ParametersView, CopiesANumberFromFieldToField) {
   Work([this](QDialog& window) {
     TypeInto(window, "txtDepthofCover", "612.5");
