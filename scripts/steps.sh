@@ -13,10 +13,10 @@ start_steps() {
 
 log_of() { printf '%s/%s.log' "$logs" "$(tr -c 'A-Za-z0-9\n' '-' <<<"$1")"; }
 
-# What a log says of failures: the outputs of the tests that failed, and its end.
+# What a log says of failures: its end, and the outputs of the tests that failed.
 digest() {
+  grep -v 'This plugin does not support' "$1" | tail -n 30
   awk '/Test +#[0-9]+:/ { shown = /\*\*\*/ } /^ *Start +[0-9]+:/ { shown = 0 } shown' "$1" | head -n 200
-  grep -v 'This plugin does not support' "$1" | tail -n 60
 }
 
 # note NAME GOOD BAD SECONDS LOG: one line of the outcome, and the end of the log when anything failed.
@@ -29,7 +29,7 @@ note() {
   fi
   printf 'FAIL  %s: %s passed, %s failed (%s s)\n' "$1" "$2" "$3" "$4"
   failures+=("$1")
-  digest "$5" | sed 's/^/      /'
+  digest "$5" | sed -E 's/\.{4,}/ .. /; s/^/      /'
   return 1
 }
 

@@ -20,7 +20,22 @@ QStringList NameFilters(const std::vector<FileFilter>& filters) {
   return texts;
 }
 
+QLineEdit* NameField(const QFileDialog& dialog) { return dialog.findChild<QLineEdit*>("fileNameEdit"); }
+
+// A key may reach the name while the list of completions is still handing the keyboard back. Without the keyboard, the
+// dialog would put the file that it highlights for the typed part in the place of what is typed.
+void KeepKeyboard(QFileDialog& dialog) {
+  auto* name = NameField(dialog);
+  if (name == nullptr) return;
+  QObject::connect(name, &QLineEdit::textEdited, &dialog, [&dialog, name] {
+    if (name->hasFocus()) return;
+    QApplication::setActiveWindow(&dialog);
+    name->setFocus();
+  });
+}
+
 std::string Answer(QFileDialog& dialog) {
+  KeepKeyboard(dialog);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
     throw RuntimeError(error_number::Cancelled);
   }
@@ -36,7 +51,7 @@ std::string Ask(const FileQuestion& question, QFileDialog::AcceptMode mode) {
   // A file that is there is opened by the name that it has.
   if (mode == QFileDialog::AcceptSave) dialog.setDefaultSuffix(ToQt(question.defaultExtension));
   if (!question.fileName.empty()) dialog.selectFile(ToQt(question.fileName));
-  if (auto* name = dialog.findChild<QLineEdit*>("fileNameEdit")) name->setMaxLength(LongestName);
+  if (auto* name = NameField(dialog)) name->setMaxLength(LongestName);
   return Answer(dialog);
 }
 

@@ -1,12 +1,16 @@
 // The dialogs that ask for a file, over a folder of the disk.
 #include "qt/file_dialogs.h"
 
+#include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include "base/runtime_error.h"
 #include "gui/gui_bench.h"
@@ -33,6 +37,11 @@ class AskingForAFile : public GuiTest {
             {{"Orby Roof Support Workbench (*.ORB)", "*.ORB"}, {"All Files (*.*)", "*"}},
             "ORB"};
   }
+  FileQuestion QuestionAbove() const {
+    FileQuestion question = Question();
+    question.folder = FromQt(QFileInfo(folder.path()).path());
+    return question;
+  }
   std::string PathOf(const QString& name) const { return FromQt(folder.filePath(name)); }
 
   // The user types a name and presses Enter.
@@ -41,6 +50,19 @@ class AskingForAFile : public GuiTest {
       Find<QLineEdit>(window, "fileNameEdit").setFocus();
       Type(name);
       Press(Qt::Key_Return);
+    });
+  }
+  // The list of completions takes the keyboard from the field for a moment when it comes and goes.
+  void AnswerWithoutKeyboardAfter(const QString& first, const QString& rest) {
+    scripts.Add([first, rest](QDialog& window) {
+      auto& name = Find<QLineEdit>(window, "fileNameEdit");
+      name.setFocus();
+      Type(FromQt(first));
+      Find<QComboBox>(window, "fileTypeCombo").setFocus();
+      QTest::keyClicks(&name, rest);
+      name.setFocus();
+      Press(Qt::Key_Return);
+      if (window.isVisible()) window.reject();
     });
   }
   // The box that comes up over the dialog; gives what it says.
@@ -95,6 +117,19 @@ TEST_F(AskingForAFile, OpensOnlyAFileThatIsThere) {
   EXPECT_EQ(ErrorNumberOf([&] { dialogs.AskOpenName(Question()); }), error_number::Cancelled);
 
   EXPECT_THAT(remark, testing::HasSubstr("missing.ORB"));
+}
+
+TEST_F(AskingForAFile, OpensWhatWasTypedWhenTheFieldLostTheKeyboardAfterAFolder) {
+  AnswerWithoutKeyboardAfter(folder.path(), "/belt.ORB");
+
+  EXPECT_EQ(dialogs.AskOpenName(QuestionAbove()), PathOf("belt.ORB"));
+}
+
+TEST_F(AskingForAFile, GivesTheFolderTypedWhenTheFieldLostTheKeyboardAfterTheOneAbove) {
+  ASSERT_TRUE(QDir(folder.path()).mkdir("panel"));
+  AnswerWithoutKeyboardAfter(folder.path(), "/panel");
+
+  EXPECT_EQ(dialogs.AskFolder("Select a Folder", QuestionAbove().folder), PathOf("panel"));
 }
 
 TEST_F(AskingForAFile, ShowsTheTitleTheFolderTheFiltersAndTheNameOffered) {

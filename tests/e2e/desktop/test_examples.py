@@ -18,8 +18,11 @@ class Examples(DesktopTest):
         self.assertEqual(len(names), 6)
         run = self.start()
         for name in names:
-            with self.subTest(name):
+            try:
                 self.compare(run, os.path.join(EXAMPLES, name))
+            except AssertionError as error:
+                error.add_note(name)
+                raise
 
     def compare(self, run, file):
         run.keys("ctrl+o")
