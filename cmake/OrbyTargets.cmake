@@ -10,6 +10,8 @@ target_include_directories(orby_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # -Wrestrict of g++ 12 warns of string concatenation inside the standard library.
   target_compile_options(orby_options INTERFACE -Wduplicated-cond -Wlogical-op -Wno-restrict)
+else()
+  target_compile_options(orby_options INTERFACE -Wreserved-identifier)
 endif()
 if(ORBY_SANITIZE)
   target_compile_options(orby_options INTERFACE
@@ -38,11 +40,14 @@ function(orby_library name)
   endif()
 endfunction()
 
-# orby_test(name [OWN_MAIN] SOURCES file... LINKS folder...)
+# A test needs its lines in a trace, not the whole of the templates that it is made of.
+set(ORBY_TEST_OPTIONS $<$<CONFIG:Debug>:-g1>)
+
+# orby_test(name [OWN_MAIN] SOURCES file... LINKS folder... [HEADERS header...])
 # One test program per folder of tests/, named test_<name>; each of its tests is a test of ctest. OWN_MAIN: the sources
-# have a main of their own.
+# have a main of their own. HEADERS: what most of the tests include besides the test library, compiled once.
 function(orby_test name)
-  cmake_parse_arguments(ARG "OWN_MAIN" "" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "OWN_MAIN" "" "SOURCES;LINKS;HEADERS" ${ARGN})
   list(TRANSFORM ARG_LINKS PREPEND orby_)
   set(runner GTest::gmock_main)
   if(ARG_OWN_MAIN)
@@ -50,12 +55,12 @@ function(orby_test name)
   endif()
   add_executable(test_${name} ${ARG_SOURCES})
   target_link_libraries(test_${name} PRIVATE orby_options orby_test_support ${ARG_LINKS} ${runner})
-  target_compile_definitions(test_${name} PRIVATE
-    TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data" EXAMPLES_DIR="${CMAKE_SOURCE_DIR}/examples")
-  # A test needs its lines in a trace, not the whole of the templates that it is made of.
-  target_compile_options(test_${name} PRIVATE $<$<CONFIG:Debug>:-g1>)
-  # Every test includes it, and it takes longer than most tests themselves.
-  target_precompile_headers(test_${name} PRIVATE <gmock/gmock.h>)
+  target_compile_options(test_${name} PRIVATE ${ORBY_TEST_OPTIONS})
+  if(ARG_HEADERS)
+    target_precompile_headers(test_${name} PRIVATE <gmock/gmock.h> ${ARG_HEADERS})
+  else()
+    target_precompile_headers(test_${name} REUSE_FROM orby_test_support)
+  endif()
   gtest_discover_tests(test_${name} TEST_PREFIX "${name}/" DISCOVERY_MODE PRE_TEST)
 endfunction()
 
