@@ -376,7 +376,7 @@ TEST_F(GraphOfACurve, OffersToTryAPrinterThatFailsAgain) {
 
 TEST_F(GraphOfACurve, IsPrintedAgainOnThePrinterThatWasChosenWhenItJams) {
   JammedPrinter jammed;
-  Program other(DoorsWith(platform, platform.clipboard, jammed));
+  Program other(platform.DoorsWith(jammed));
   other.curve = program.curve;
   GraphWindow graph(other);
   graph.ShowCurve(1);

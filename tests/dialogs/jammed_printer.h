@@ -1,4 +1,4 @@
-// A printer that fails at its first attempt only, and the doors of a platform that has it.
+// A printer that fails at its first attempt only.
 #pragma once
 
 #include <string>
@@ -27,11 +27,5 @@ class JammedPrinter : public RecordingPrinter {
 
   bool jammed_ = true;
 };
-
-inline Platform DoorsWith(RecordingPlatform& platform, Clipboard& clipboard, Printer& printer) {
-  const Platform doors = platform.Doors();
-  return {doors.boxes,       doors.files, doors.fileDialogs, doors.windows,   doors.fonts, doors.locale,   doors.clock,
-          doors.userFolders, clipboard,   printer,           doors.documents, doors.help,  doors.downloads};
-}
 
 }  // namespace orby::test

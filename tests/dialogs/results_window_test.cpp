@@ -184,7 +184,7 @@ struct NotingClipboard : RecordingClipboard {
 
 TEST_F(AResultsWindow, ClearsTheClipboardBeforeItCopiesAPage) {
   NotingClipboard clipboard;
-  Program other(DoorsWith(platform, clipboard, platform.printer));
+  Program other(platform.DoorsWith(clipboard));
   other.OutBuf = program.OutBuf;
   ResultsWindow results(other);
   results.Open();
@@ -265,7 +265,7 @@ TEST_F(AResultsWindow, AsksToTryAgainWithoutAPrinterAndStaysOpen) {
 
 TEST_F(AResultsWindow, PrintsAgainOnThePrinterThatWasChosenWhenItJams) {
   JammedPrinter jammed;
-  Program other(DoorsWith(platform, platform.clipboard, jammed));
+  Program other(platform.DoorsWith(jammed));
   other.OutBuf = program.OutBuf;
   other.LastPage = 1;
   platform.boxes.answers = {box_result::Retry};

@@ -79,10 +79,7 @@ struct CursorWindows : RecordingWindows {
 
 TEST_F(InputMenu, ShowsTheWaitCursorWhileADialogIsLoaded) {
   CursorWindows windows;
-  const Platform doors = platform.Doors();
-  Program waited = StartedProgram(Platform{doors.boxes, doors.files, doors.fileDialogs, windows, doors.fonts,
-                                           doors.locale, doors.clock, doors.userFolders, doors.clipboard, doors.printer,
-                                           doors.documents, doors.help, doors.downloads});
+  Program waited = StartedProgram(platform.DoorsWith(windows));
   MainWindow other(waited);
   bool isWaiting = true;
   windows.onModal = [&](Form&) { isWaiting = windows.waitCursor; };

@@ -7,6 +7,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -434,15 +435,37 @@ struct RecordingPlatform {
   RecordingHelp help;
   ScriptedDownloads downloads;
 
-  Platform Doors() { return Doors(boxes, files); }
-  // With other message boxes, or another file system, in their place.
-  Platform DoorsWith(MessageBoxes& others) { return Doors(others, files); }
-  Platform DoorsWith(FileSystem& others) { return Doors(boxes, others); }
+  Platform Doors() { return DoorsWith(); }
+  // With others, as other message boxes or another file system, in the place of its own of that kind.
+  template <class... Others>
+  Platform DoorsWith(Others&... others) {
+    return {Door<MessageBoxes>(boxes, others...),
+            Door<FileSystem>(files, others...),
+            Door<FileDialogs>(fileDialogs, others...),
+            Door<Windows>(windows, others...),
+            Door<Fonts>(fonts, others...),
+            Door<Locale>(locale, others...),
+            Door<Clock>(clock, others...),
+            Door<UserFolders>(userFolders, others...),
+            Door<Clipboard>(clipboard, others...),
+            Door<Printer>(printer, others...),
+            Door<Documents>(documents, others...),
+            Door<HelpViewer>(help, others...),
+            Door<Downloads>(downloads, others...)};
+  }
 
  private:
-  Platform Doors(MessageBoxes& usedBoxes, FileSystem& usedFiles) {
-    return {usedBoxes,   usedFiles, fileDialogs, windows,   fonts, locale,   clock,
-            userFolders, clipboard, printer,     documents, help,  downloads};
+  template <class Kind>
+  static Kind& Door(Kind& own) {
+    return own;
+  }
+  template <class Kind, class First, class... Rest>
+  static Kind& Door(Kind& own, First& first, Rest&... rest) {
+    if constexpr (std::is_base_of_v<Kind, First>) {
+      return first;
+    } else {
+      return Door<Kind>(own, rest...);
+    }
   }
 };
 
