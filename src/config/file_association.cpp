@@ -7,9 +7,9 @@
 #include "base/attempt.h"
 #include "base/paths.h"
 #include "base/text.h"
-#include "config/whole_file.h"
 #include "core/file_helpers.h"
 #include "core/messages.h"
+#include "platform/whole_file.h"
 
 namespace orby {
 namespace {

@@ -11,7 +11,7 @@
 #include "base/number_text.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
-#include "config/whole_file.h"
+#include "platform/whole_file.h"
 
 namespace orby {
 namespace {

@@ -5,9 +5,9 @@
 
 #include "base/attempt.h"
 #include "base/paths.h"
-#include "config/whole_file.h"
 #include "core/file_helpers.h"
 #include "core/program_names.h"
+#include "platform/whole_file.h"
 
 namespace orby {
 namespace {

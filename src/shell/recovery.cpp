@@ -2,10 +2,10 @@
 
 #include "base/attempt.h"
 #include "base/number_text.h"
-#include "config/whole_file.h"
 #include "core/file_helpers.h"
 #include "core/messages.h"
 #include "files/recovery_file.h"
+#include "platform/whole_file.h"
 
 namespace orby {
 namespace {

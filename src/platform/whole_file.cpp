@@ -1,4 +1,4 @@
-#include "config/whole_file.h"
+#include "platform/whole_file.h"
 
 #include "base/attempt.h"
 
