@@ -28,6 +28,14 @@ std::string DayMonthYear(Date date) {
       .append(NumberText(date.year));
 }
 
+std::string MomentText(const Moment& moment) {
+  const auto& [date, hour, minute, second] = moment;
+  std::string text = NumberText(date.year);
+  text.append("-").append(AtLeastTwoDigits(date.month)).append("-").append(AtLeastTwoDigits(date.day));
+  text.append(" ").append(AtLeastTwoDigits(hour)).append(":").append(AtLeastTwoDigits(minute));
+  return text.append(":").append(AtLeastTwoDigits(second));
+}
+
 int DaysBetween(Date from, Date to) { return static_cast<int>((DayOf(to) - DayOf(from)).count()); }
 
 }  // namespace orby

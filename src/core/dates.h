@@ -11,6 +11,9 @@ namespace orby {
 // month outside 1..12.
 std::string DayMonthYear(Date date);
 
+// "2031-03-09 14:05:07".
+std::string MomentText(const Moment& moment);
+
 // Days from one date to the other, below 0 when the other lies before it.
 int DaysBetween(Date from, Date to);
 

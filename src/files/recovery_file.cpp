@@ -9,6 +9,7 @@
 #include "base/number_text.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
+#include "files/escaped_line.h"
 #include "files/project_lines.h"
 #include "files/project_writer.h"
 
@@ -16,7 +17,6 @@ namespace orby {
 namespace {
 
 constexpr std::string_view RecoveryLabel = "ORBY_RECOVERY_1";
-constexpr char Escape = '\\';
 
 using HeaderField = std::variant<std::string UnsavedProject::*, Integer UnsavedProject::*, bool UnsavedProject::*>;
 
@@ -33,34 +33,6 @@ constexpr std::array HeaderLines{HeaderLine{"CurrentFile", &UnsavedProject::Curr
                                  HeaderLine{"ProjectDescription", &UnsavedProject::ProjectDescription},
                                  HeaderLine{"FileEmpty", &UnsavedProject::FileEmpty},
                                  HeaderLine{"UnitsLocked", &UnsavedProject::UnitsLocked}};
-
-std::string Escaped(std::string_view text) {
-  std::string line;
-  line.reserve(text.size());
-  for (const char byte : text) {
-    switch (byte) {
-      case Escape: line += "\\\\"; break;
-      case '\r': line += "\\r"; break;
-      case '\n': line += "\\n"; break;
-      default: line += byte;
-    }
-  }
-  return line;
-}
-
-std::string Unescaped(std::string_view line) {
-  std::string text;
-  text.reserve(line.size());
-  for (std::size_t at = 0; at < line.size(); ++at) {
-    if (line[at] != Escape || at + 1 == line.size()) {
-      text += line[at];
-      continue;
-    }
-    ++at;
-    text += line[at] == 'r' ? '\r' : line[at] == 'n' ? '\n' : line[at];
-  }
-  return text;
-}
 
 std::string ValueText(const UnsavedProject& project, const HeaderField& field) {
   if (const auto* text = std::get_if<std::string UnsavedProject::*>(&field)) return Escaped(project.**text);
@@ -147,6 +119,13 @@ std::optional<UnsavedProject> ReadRecovery(std::string_view bytes) {
     // A number beyond its type stands in no file that the program wrote.
   }
   return std::nullopt;
+}
+
+std::string ProjectNamedIn(std::string_view bytes) {
+  const std::string key = std::string(HeaderLines.front().Key) + "=";
+  TakeLine(bytes);
+  const std::string_view line = TakeLine(bytes);
+  return line.starts_with(key) ? Unescaped(line.substr(key.size())) : std::string();
 }
 
 void RestoreProject(Program& program, const UnsavedProject& project) {

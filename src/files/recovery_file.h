@@ -38,6 +38,9 @@ std::string RecoveryBytes(const UnsavedProject& project);
 // The project that the bytes hold; nothing when they are damaged, which is when they are not what would be written.
 std::optional<UnsavedProject> ReadRecovery(std::string_view bytes);
 
+// The name of the project in bytes that may be damaged; empty when they tell none.
+std::string ProjectNamedIn(std::string_view bytes);
+
 // Makes the project the open one, with unsaved changes.
 void RestoreProject(Program& program, const UnsavedProject& project);
 

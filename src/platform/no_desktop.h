@@ -34,6 +34,7 @@ class NoFonts : public Fonts {
 class NoClock : public Clock {
  public:
   Date Today() override { return {}; }
+  Moment Now() override { return {}; }
   void CallLater(int, std::function<void()>) override {}
 };
 

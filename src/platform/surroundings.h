@@ -28,10 +28,19 @@ struct Date {
   int day = 0;    // 1..31
 };
 
+// A time of day on the user's own clock.
+struct Moment {
+  Date date;
+  int hour = 0;    // 0..23
+  int minute = 0;  // 0..59
+  int second = 0;  // 0..59, 60 in a leap second
+};
+
 class Clock {
  public:
   virtual ~Clock() = default;
   virtual Date Today() = 0;
+  virtual Moment Now() = 0;
   // Runs the act once, from the event loop, when so many milliseconds have passed.
   virtual void CallLater(int milliseconds, std::function<void()> act) = 0;
 };

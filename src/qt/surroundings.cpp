@@ -1,7 +1,7 @@
 #include "qt/surroundings.h"
 
 #include <QClipboard>
-#include <QDate>
+#include <QDateTime>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QLocale>
@@ -47,9 +47,13 @@ std::vector<std::string> QtFonts::FixedPitchFonts() {
 
 std::string QtLocale::DecimalSeparator() { return FromQt(QLocale::system().decimalPoint()); }
 
-Date QtClock::Today() {
-  const QDate today = QDate::currentDate();
-  return {today.year(), today.month(), today.day()};
+Date QtClock::Today() { return Now().date; }
+
+Moment QtClock::Now() {
+  const QDateTime now = QDateTime::currentDateTime();
+  const QDate day = now.date();
+  const QTime time = now.time();
+  return {{day.year(), day.month(), day.day()}, time.hour(), time.minute(), time.second()};
 }
 
 void QtClock::CallLater(int milliseconds, std::function<void()> act) {

@@ -21,6 +21,7 @@ class QtLocale : public Locale {
 class QtClock : public Clock {
  public:
   Date Today() override;
+  Moment Now() override;
   void CallLater(int milliseconds, std::function<void()> act) override;
 };
 

@@ -25,6 +25,11 @@ TEST(WrittenDate, HasNoThirteenthMonth) {
   EXPECT_EQ(ErrorNumberOf([] { DayMonthYear({2024, 0, 1}); }), 9);
 }
 
+TEST(WrittenMoment, HasTheDayFirstAndTwoDigitsOfEverything) {
+  EXPECT_EQ(MomentText({{2031, 3, 9}, 4, 5, 7}), "2031-03-09 04:05:07");
+  EXPECT_EQ(MomentText({{2031, 12, 31}, 23, 59, 59}), "2031-12-31 23:59:59");
+}
+
 TEST(DaysBetweenDates, CountsAcrossMonthsAndYears) {
   EXPECT_EQ(DaysBetween({2023, 7, 5}, {2023, 7, 5}), 0);
   EXPECT_EQ(DaysBetween({2023, 7, 5}, {2023, 8, 5}), 31);

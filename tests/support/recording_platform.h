@@ -260,10 +260,11 @@ class ScriptedLocale : public Locale {
   std::string separator = ".";
 };
 
-// A day that never changes, and acts that wait until the test lets time pass.
+// A time that changes only when the test says so, and acts that wait until the test lets time pass.
 class StandingClock : public Clock {
  public:
   Date Today() override { return today; }
+  Moment Now() override { return {today, hour, minute, second}; }
   void CallLater(int milliseconds, std::function<void()> act) override {
     waiting.push_back({milliseconds, std::move(act)});
   }
@@ -274,6 +275,9 @@ class StandingClock : public Clock {
   }
 
   Date today{2031, 3, 9};
+  int hour = 14;
+  int minute = 5;
+  int second = 7;
   std::vector<std::pair<int, std::function<void()>>> waiting;
 };
 

@@ -1,0 +1,247 @@
+#include "files/backups.h"
+
+#include <gmock/gmock.h>
+
+#include "base/number_text.h"
+#include "core/dates.h"
+#include "project_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::IsEmpty;
+using testing::SizeIs;
+using Step = MemoryFiles::Step;
+
+const std::string DataFolder = "/home/user/Documents/Orby/";
+const std::string Store = DataFolder + "Backups/";
+const std::string OtherPath = "/designs/panel4.orb";
+
+struct Backups : testing::Test {
+  Backups() { program().folders.ProgramData = DataFolder; }
+
+  Program& program() { return project.program; }
+  MemoryFiles& files() { return project.platform.files; }
+
+  std::optional<std::string> Keep(std::string_view bytes, const std::string& path = ProjectPath,
+                                  BackupReason reason = BackupReason::Overwritten) {
+    return KeepBackup(program(), path, bytes, reason);
+  }
+
+  // The kept bytes, the newest first.
+  std::vector<std::string> Kept() {
+    std::vector<std::string> kept;
+    for (const Backup& entry : ListBackups(program())) kept.push_back(files().files.at(entry.Path));
+    return kept;
+  }
+
+  TestProject project;
+};
+
+TEST_F(Backups, HoldTheBytesUnderTheTimeANumberAndTheProjectsName) {
+  const auto path = Keep("as it was");
+
+  EXPECT_EQ(path, Store + "2031-03-09 14.05.07 00001 panel3.orb");
+  EXPECT_EQ(files().files.at(*path), "as it was");
+  EXPECT_TRUE(files().folders.contains(Store.substr(0, Store.size() - 1)));
+}
+
+TEST_F(Backups, AreListedWithProjectTimeReasonAndSize) {
+  Keep("as it was", ProjectPath, BackupReason::ChangedOnDisk);
+
+  const std::vector<Backup> entries = ListBackups(program());
+
+  ASSERT_THAT(entries, SizeIs(1));
+  EXPECT_EQ(entries[0].Project, ProjectPath);
+  EXPECT_EQ(MomentText(entries[0].Time), "2031-03-09 14:05:07");
+  EXPECT_EQ(entries[0].Reason, BackupReason::ChangedOnDisk);
+  EXPECT_EQ(entries[0].Bytes, 9U);
+}
+
+TEST_F(Backups, OfOneSecondKeepTheirOrder) {
+  Keep("first");
+  Keep("second");
+  Keep("third");
+
+  EXPECT_THAT(Kept(), ElementsAre("third", "second", "first"));
+}
+
+TEST_F(Backups, KeepTheirOrderWhenTheClockIsPutBack) {
+  Keep("first");
+  project.platform.clock.today.year = 2029;
+  Keep("second");
+
+  EXPECT_THAT(Kept(), ElementsAre("second", "first"));
+}
+
+TEST_F(Backups, OfUnchangedBytesAreNotMadeTwice) {
+  const auto first = Keep("same");
+  project.platform.clock.hour = 16;
+
+  const auto second = Keep("same");
+
+  EXPECT_EQ(second, first);
+  EXPECT_THAT(Kept(), ElementsAre("same"));
+}
+
+TEST_F(Backups, OfBytesThatComeBackLaterAreMadeAgain) {
+  Keep("one");
+  Keep("two");
+  Keep("one");
+
+  EXPECT_THAT(Kept(), ElementsAre("one", "two", "one"));
+}
+
+TEST_F(Backups, OfEqualBytesOfTwoProjectsAreBothMade) {
+  Keep("same", ProjectPath);
+  Keep("same", "/other/panel3.orb");
+
+  EXPECT_THAT(Kept(), SizeIs(2));
+}
+
+TEST_F(Backups, AreTheNewestTwentyOfOneProject) {
+  Keep("another project", OtherPath);
+  for (int number = 1; number <= 22; ++number) Keep("version " + NumberText(number));
+
+  const auto kept = Kept();
+
+  ASSERT_THAT(kept, SizeIs(21));
+  EXPECT_EQ(kept.front(), "version 22");
+  EXPECT_EQ(kept[19], "version 3");
+  EXPECT_EQ(kept[20], "another project");
+}
+
+TEST_F(Backups, AreFiveHundredAltogether) {
+  for (int number = 1; number <= 503; ++number) Keep("bytes", "/designs/p" + NumberText(number) + ".orb");
+
+  const auto entries = ListBackups(program());
+
+  ASSERT_THAT(entries, SizeIs(500));
+  EXPECT_EQ(entries.front().Project, "/designs/p503.orb");
+  EXPECT_EQ(entries.back().Project, "/designs/p4.orb");
+  EXPECT_EQ(files().FilesIn(Store).size(), 1000U);
+}
+
+TEST_F(Backups, AreFiftyMegabytesAltogether) {
+  const std::string tenMegabytes(LargestBackup, 'x');
+  for (int number = 1; number <= 6; ++number) Keep(tenMegabytes, "/designs/p" + NumberText(number) + ".orb");
+
+  const auto entries = ListBackups(program());
+
+  ASSERT_THAT(entries, SizeIs(5));
+  EXPECT_EQ(entries.back().Project, "/designs/p2.orb");
+}
+
+TEST_F(Backups, DoNotTakeAFileOfMoreThanTenMegabytes) {
+  EXPECT_EQ(Keep(std::string(LargestBackup + 1, 'x')), std::nullopt);
+  EXPECT_THAT(Kept(), IsEmpty());
+}
+
+TEST_F(Backups, AreNotMadeWithoutAProgramDataFolder) {
+  program().folders.ProgramData.clear();
+
+  EXPECT_EQ(Keep("as it was"), std::nullopt);
+  EXPECT_THAT(project.platform.files.files, IsEmpty());
+  EXPECT_THAT(ListBackups(program()), IsEmpty());
+}
+
+TEST_F(Backups, ThatTheDiskRefusesLeaveNothingAndThrowNothing) {
+  for (const Step step : {Step::Create, Step::Write, Step::Close, Step::Rename}) {
+    TestProject other;
+    other.program.folders.ProgramData = DataFolder;
+    other.platform.files.Fail(step, error_number::DiskFull);
+
+    EXPECT_EQ(KeepBackup(other.program, ProjectPath, "as it was", BackupReason::Overwritten), std::nullopt);
+    EXPECT_THAT(other.platform.files.files, IsEmpty());
+  }
+}
+
+TEST_F(Backups, AreListedByTheirFileNameWhenWhatStandsBesideThemIsDamaged) {
+  const auto first = Keep("first");
+  const auto second = Keep("second");
+  files().files[Store + "2031-03-09 14.05.07 00001.about"] = "Project=/designs/elsewhere.orb\r\nReason=Overwritten\r\n";
+  files().files[Store + "2031-03-09 14.05.07 00002.about"] = "Project";
+
+  const auto entries = ListBackups(program());
+
+  ASSERT_THAT(entries, SizeIs(2));
+  for (const Backup& entry : entries) {
+    EXPECT_EQ(entry.Project, "panel3.orb");
+    EXPECT_EQ(entry.Reason, std::nullopt);
+    EXPECT_EQ(MomentText(entry.Time), "2031-03-09 14:05:07");
+  }
+}
+
+TEST_F(Backups, LeaveOtherFilesOfTheFolderAlone) {
+  files().files[Store + "notes.txt"] = "mine";
+  files().files[Store + "2031-03-09 panel3.orb"] = "mine";
+  files().files[Store + "2031-03-09 14.05.07 panel3.orb"] = "mine";
+
+  for (int number = 1; number <= 25; ++number) Keep(NumberText(number));
+
+  EXPECT_THAT(Kept(), SizeIs(20));
+  EXPECT_TRUE(files().files.contains(Store + "notes.txt"));
+  EXPECT_TRUE(files().files.contains(Store + "2031-03-09 panel3.orb"));
+  EXPECT_TRUE(files().files.contains(Store + "2031-03-09 14.05.07 panel3.orb"));
+}
+
+TEST_F(Backups, HaveNamesThatEveryDiskTakes) {
+  EXPECT_THAT(*Keep("a", "/designs/what?\n*.orb"), EndsWith(" 00001 what___.orb"));
+  const auto longest = Keep("b", "/designs/" + std::string(90, 'x') + "\xC3\xA9" + std::string(95, 'y') + ".orb");
+  EXPECT_THAT(*longest, EndsWith(" 00002 " + std::string(95, 'y') + ".orb"));
+  EXPECT_THAT(*Keep("c", "/designs/"), EndsWith(" 00003 Untitled"));
+  EXPECT_EQ(ListBackups(program())[2].Project, "/designs/what?\n*.orb");
+}
+
+TEST_F(Backups, OfADroppedDesignAreRecoveryFiles) {
+  FileNew(program(), false, true);
+  program().WorkParms.DepthofCover = 725;
+
+  const auto path = KeepDropped(program(), CommittedProject(program()), BackupReason::Dropped);
+
+  ASSERT_TRUE(path);
+  EXPECT_THAT(*path, EndsWith(" panel3.orb.recovery"));
+  const auto read = ReadRecovery(files().files.at(*path));
+  ASSERT_TRUE(read);
+  EXPECT_EQ(read->WorkParms.DepthofCover, 725);
+  EXPECT_EQ(ListBackups(program()).front().Project, ProjectPath);
+}
+
+TEST_F(Backups, OfADamagedRecoveryFileAreNamedAfterTheProjectThatItStillTells) {
+  FileNew(program(), false, true);
+  const std::string whole = RecoveryBytes(CommittedProject(program()));
+
+  EXPECT_THAT(*KeepDamaged(program(), whole.substr(0, 60)), EndsWith(" 00001 panel3.orb.recovery"));
+  EXPECT_THAT(*KeepDamaged(program(), "nothing"), EndsWith(" 00002 Untitled.recovery"));
+  EXPECT_EQ(ListBackups(program())[1].Reason, BackupReason::Damaged);
+}
+
+TEST_F(Backups, GoWithWhatStandsBesideThem) {
+  Keep("as it was");
+
+  EXPECT_TRUE(RemoveBackup(program(), ListBackups(program()).front()));
+
+  EXPECT_THAT(files().files, IsEmpty());
+}
+
+TEST_F(Backups, ThatCannotBeRemovedStay) {
+  Keep("as it was");
+  files().Fail(Step::Remove, error_number::PermissionDenied);
+
+  EXPECT_FALSE(RemoveBackup(program(), ListBackups(program()).front()));
+
+  EXPECT_THAT(Kept(), ElementsAre("as it was"));
+}
+
+TEST_F(Backups, TellWhyTheyWereKept) {
+  EXPECT_EQ(ReasonText(BackupReason::Overwritten), "Overwritten by a save");
+  EXPECT_EQ(ReasonText(BackupReason::ChangedOnDisk), "Changed by another program, then overwritten");
+  EXPECT_EQ(ReasonText(BackupReason::Dropped), "Not saved");
+  EXPECT_EQ(ReasonText(BackupReason::Declined), "Recovery declined");
+  EXPECT_EQ(ReasonText(BackupReason::Damaged), "Damaged recovery file");
+}
+
+}  // namespace
+}  // namespace orby::test
