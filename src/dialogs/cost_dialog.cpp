@@ -167,6 +167,8 @@ void CostDialog::CopyCostToWorkParmsCopy() { program_.WorkParmsCopy.Cost() = Typ
 
 bool CostDialog::BuildReport() {
   CopyCostToWorkParmsCopy();
+  // The curves of the results window are those of the project, not of a design that was shown before.
+  program_.WorkParmsCopy.Design() = program_.WorkParms.Design();
   if (!CostReport(program_)) return false;
   const Preview preview(program_.WorkParms.Cost(), program_.WorkParmsCopy.Cost());
   program_.ReportCaller = report_caller::Cost;

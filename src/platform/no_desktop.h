@@ -6,6 +6,11 @@
 
 namespace orby {
 
+class NoMessageBoxes : public MessageBoxes {
+ public:
+  int Show(const MessageBox&) override { return box_result::Cancel; }
+};
+
 class NoWindows : public Windows {
  public:
   void ShowModal(Form&) override {}

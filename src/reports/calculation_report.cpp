@@ -1,5 +1,7 @@
 #include "reports/calculation_report.h"
 
+#include <string_view>
+
 #include "reports/primary_report.h"
 #include "reports/report_text.h"
 #include "reports/secondary_report.h"
@@ -7,17 +9,33 @@
 #include "reports/working_values.h"
 
 namespace orby {
+namespace {
+
+constexpr std::string_view Heading = "[ORBY CALCULATIONS]";
+
+void SetPage(Program& program, ReportText& page) {
+  program.OutBuf[1] = page.Take();
+  program.LastPage = 1;
+}
+
+}  // namespace
 
 void CalculationReport(Program& program) {
   const ProjectRecord& record = program.WorkParms;
   const WorkingValues working = BuildWorkingValues(program);
   ReportText page(program.Units);
-  page.Line("[ORBY CALCULATIONS]");
+  page.Line(Heading);
   if (record.PrimSupport == 1) ReportPrimarySupport(page, program, working);
   if (record.*EntrySupport.Analysed == 1) ReportEntrySupport(page, program, working);
   if (record.*IntersectionSupport.Analysed == 1) ReportIntersectionSupport(page, program, working);
-  program.OutBuf[1] = page.Take();
-  program.LastPage = 1;
+  SetPage(program, page);
+}
+
+void NoCalculationReport(Program& program) {
+  ReportText page(program.Units);
+  page.Line(Heading);
+  page.Line("The results cannot be computed from these inputs.");
+  SetPage(program, page);
 }
 
 }  // namespace orby

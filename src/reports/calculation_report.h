@@ -13,4 +13,7 @@ namespace orby {
 // 0 or less under primary support.
 void CalculationReport(Program& program);
 
+// Writes the page of a design whose calculations cannot be computed: the heading, and a line that says so.
+void NoCalculationReport(Program& program);
+
 }  // namespace orby

@@ -1,10 +1,10 @@
 // The commands of the File menu.
 #include "config/settings_sections.h"
 #include "dialogs/preview_window.h"
+#include "dialogs/project_report.h"
 #include "files/new_project.h"
 #include "files/project_file.h"
 #include "files/save_command.h"
-#include "reports/input_echo.h"
 #include "reports/printing.h"
 #include "shell/main_window.h"
 #include "shell/recent_files.h"
@@ -86,17 +86,19 @@ bool MainWindow::MayPrint() {
                                             box_style::YesNo | box_style::SecondButtonDefault) == box_result::Yes;
 }
 
-// Behind the echo of the committed design stands whatever the last results left.
+bool MainWindow::BuildPages() {
+  return GoesOn(Run(Trap::Set, [this] { BuildProjectReport(program_); }));
+}
+
 void MainWindow::PrintProject(bool choosesPrinter) {
   if (!MayPrint()) return;
   if (choosesPrinter && !GoesOn(Run(Trap::Set, [this] { program_.platform.printer.Choose(); }))) return;
-  if (!GoesOn(Run(Trap::Set, [this] { LoadOutBuf0(program_); }))) return;
+  if (!BuildPages()) return;
   Run(Trap::Set, [this] { PrintText(program_, JoinedPages(program_, 0, 1)); });
 }
 
 void MainWindow::PreviewProject() {
-  if (!MayPrint()) return;
-  if (GoesOn(Run(Trap::Set, [this] { LoadOutBuf0(program_); }))) ShowPreview(program_);
+  if (MayPrint() && BuildPages()) ShowPreview(program_);
 }
 
 void MainWindow::Exit() {

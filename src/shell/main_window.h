@@ -61,6 +61,8 @@ class MainWindow : public MainControls {
   void SaveProject(bool saveAs);
   void UpdateRecentFiles();
   bool MayPrint();
+  // Builds the report of the committed design. Returns true if the command goes on.
+  bool BuildPages();
   void PrintProject(bool choosesPrinter);
   void PreviewProject();
   void Exit();

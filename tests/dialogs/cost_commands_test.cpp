@@ -1,6 +1,7 @@
 #include <utility>
 
 #include "dialogs/cost_dialog_fixture.h"
+#include "dialogs/results_window.h"
 
 namespace orby::test {
 namespace {
@@ -244,7 +245,6 @@ TEST_F(ACostDialog, ShowsTheInputsBesideTheCostTable) {
 
 TEST_F(ACostDialog, CommitsNothingByShowingResults) {
   program.WorkParms.CMRR = 45;
-  program.WorkParmsCopy.CMRR = 60;
   dialog.Open();
   for (const FieldCase& field : CostFieldCases) Box(field.name).SetText(std::string(field.text));
   dialog.chkAdvance.SetValue(0);
@@ -257,7 +257,6 @@ TEST_F(ACostDialog, CommitsNothingByShowingResults) {
     EXPECT_EQ(program.WorkParmsCopy.*field.field, field.value) << field.name;
   EXPECT_EQ(program.WorkParmsCopy.CostAdvance, 0);
   EXPECT_EQ(program.WorkParmsCopy.CostProduction, 0);
-  EXPECT_EQ(program.WorkParmsCopy.CMRR, 60);
   EXPECT_EQ(program.WorkParms.CostBoltCost, 3.0F);
   EXPECT_EQ(program.WorkParms.CostWeeksYear, 50.0F);
   EXPECT_EQ(program.WorkParms.CostAdvance, 1);
@@ -267,6 +266,20 @@ TEST_F(ACostDialog, CommitsNothingByShowingResults) {
   EXPECT_TRUE(program.FileSaved);
   EXPECT_FALSE(program.UnitsLocked);
   EXPECT_TRUE(dialog.IsOpen());
+}
+
+TEST_F(ACostDialog, ShowsItsResultsWithTheCurvesOfTheProject) {
+  program.WorkParms.StabilityFactor = 1.2F;
+  program.WorkParms.DepthofCover = 400;
+  program.WorkParmsCopy.StabilityFactor = 2;  // of a design that was shown before, and not accepted
+  dialog.Open();
+  platform.windows.onModal = [](Form& form) {
+    if (auto* results = dynamic_cast<ResultsWindow*>(&form)) results->lstGraphs.ClickItem(2);
+  };
+
+  dialog.cmdresults.Press();
+
+  EXPECT_EQ(program.curve.CurvePoints[0].front(), 0.6F);
 }
 
 TEST_F(ACostDialog, HasRestoredTheCostsBeforeTheResultsAreOnView) {

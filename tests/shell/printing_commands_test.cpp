@@ -8,10 +8,9 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::StartsWith;
 
 struct Printing : MainWindowTest {
-  Printing() { program.OutBuf[1] = "CALCULATIONS\r\n"; }
-
   void Choose(Integer item) { window.mnuFileItem.ClickItem(item); }
 
   std::string Printed() const {
@@ -38,28 +37,18 @@ TEST_F(Printing, PrintsAnEmptyProjectOnYes) {
   Choose(file_item::Print);
 
   EXPECT_EQ(platform.printer.chosen, 1);
-  EXPECT_THAT(Printed(), HasSubstr("CALCULATIONS"));
+  EXPECT_THAT(Printed(), HasSubstr("[ORBY CALCULATIONS]\r\n"));
 }
 
-TEST_F(Printing, PrintsTheInputAndWhatTheLastResultsLeft) {
+TEST_F(Printing, PrintsTheInputAndTheResultsOfTheProject) {
   OpenByDialog(Panel3);
-  program.OutBuf[1] = "CALCULATIONS\r\n";
 
   Choose(file_item::Print);
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
   EXPECT_EQ(platform.printer.chosen, 1);
   EXPECT_THAT(Printed(), HasSubstr("725"));
-  EXPECT_THAT(Printed(), HasSubstr("CALCULATIONS"));
-}
-
-TEST_F(Printing, PrintsTheInputAloneAfterOpening) {
-  OpenByDialog(Panel3);
-
-  Choose(file_item::Print);
-
-  EXPECT_EQ(program.OutBuf[1], "");
-  EXPECT_THAT(Printed(), HasSubstr("725"));
+  EXPECT_THAT(Printed(), HasSubstr("[ORBY CALCULATIONS]\r\n"));
 }
 
 TEST_F(Printing, IsLeftWithThePrinterDialog) {
@@ -128,7 +117,6 @@ TEST_F(Printing, SetUpThatIsCancelledIsOnlyLogged) {
 
 TEST_F(Printing, IsPreviewedPageByPage) {
   OpenByDialog(Panel3);
-  program.OutBuf[1] = "CALCULATIONS\r\n";
   std::vector<std::string> pages;
   platform.windows.onModal = [&](Form& form) {
     const auto& text = dynamic_cast<TextBox&>(*form.Find("RichTextBox1"));
@@ -143,7 +131,7 @@ TEST_F(Printing, IsPreviewedPageByPage) {
   ASSERT_EQ(pages.size(), 2U);
   EXPECT_EQ(pages[0], program.OutBuf[0]);
   EXPECT_THAT(pages[0], HasSubstr("725"));
-  EXPECT_EQ(pages[1], "CALCULATIONS\r\n");
+  EXPECT_THAT(pages[1], StartsWith("[ORBY CALCULATIONS]\r\n"));
 }
 
 TEST_F(Printing, PreviewAsksAlikeWhenTheProjectIsEmpty) {

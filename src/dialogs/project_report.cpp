@@ -1,0 +1,62 @@
+#include "dialogs/project_report.h"
+
+#include "base/attempt.h"
+#include "dialogs/parameters_dialog.h"
+#include "dialogs/preview.h"
+#include "platform/no_desktop.h"
+#include "reports/calculation_report.h"
+#include "reports/input_echo.h"
+
+namespace orby {
+namespace {
+
+// A program that holds what the calculations are made from, and shows nothing of what it does.
+class ProgramApart {
+ public:
+  explicit ProgramApart(const Program& program) : apart_(Quiet(program.platform)) {
+    apart_.WorkParms = program.WorkParms;
+    apart_.Units = program.Units;
+    apart_.BoltStrengthMode = program.BoltStrengthMode;
+    apart_.UseAUSStandardTable = program.UseAUSStandardTable;
+    apart_.catalogs = program.catalogs;
+  }
+
+  Program& operator*() { return apart_; }
+
+ private:
+  Platform Quiet(const Platform& doors) {
+    return {boxes_,          doors.files, doors.fileDialogs, windows_,        doors.fonts,
+            doors.locale,    doors.clock, doors.userFolders, doors.clipboard, doors.printer,
+            doors.documents, doors.help,  doors.downloads};
+  }
+
+  NoMessageBoxes boxes_;
+  NoWindows windows_;
+  Program apart_;
+};
+
+// Makes the design the one that the dialog shows: it computes the loads, capacities and factors that the report prints.
+void TakeShownDesign(Program& program) {
+  ParametersDialog dialog(program);
+  dialog.Open();
+  dialog.CopyToWorkParmsCopy();
+  program.WorkParms.Design() = program.WorkParmsCopy.Design();
+}
+
+}  // namespace
+
+// Pages that are kept could be of other inputs, so each report is made of the project anew.
+void BuildProjectReport(Program& program) {
+  ProgramApart programApart(program);
+  Program& apart = *programApart;
+  const bool isComputed = Succeeds([&] {
+    TakeShownDesign(apart);
+    CalculationReport(apart);
+  });
+  if (!isComputed) NoCalculationReport(apart);
+  program.OutBuf[1] = apart.OutBuf[1];
+  const Preview preview(program.WorkParms.Design(), apart.WorkParms.Design());
+  LoadOutBuf0(program);
+}
+
+}  // namespace orby

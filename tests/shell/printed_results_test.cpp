@@ -1,0 +1,238 @@
+// The results that the main window prints are those of the project, whatever was shown before.
+
+#include "dialogs/cost_dialog.h"
+#include "dialogs/parameters_dialog.h"
+#include "main_window_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
+
+// The suggested PSUP of the project at 725 ft, of a design at 900 ft, and of a new design, which is at 400 ft.
+const std::string Psup725 = "Suggested PSUP for this location..........................10.3\r\n";
+const std::string Psup900 = "Suggested PSUP for this location..........................11.2\r\n";
+const std::string Psup400 = "Suggested PSUP for this location..........................7.6\r\n";
+
+class PrintedResults : public MainWindowTest {
+ protected:
+  PrintedResults() { OpenByDialog(Panel3); }
+
+  // All sheets of the File menu's Print.
+  std::string Printed() {
+    platform.printer.pages.clear();
+    window.mnuFileItem.ClickItem(file_item::Print);
+    std::string text;
+    for (const std::string& page : platform.printer.pages) text += page;
+    return text;
+  }
+
+  // Opens the parameters dialog, the user acting in it.
+  void InParameters(const std::function<void(ParametersDialog&)>& user) {
+    platform.windows.onModal = [&](Form& form) {
+      if (auto* dialog = dynamic_cast<ParametersDialog*>(&form)) user(*dialog);
+    };
+    window.mnuEditItem.ClickItem(edit_item::Parameters);
+  }
+
+  // Presses Results in the parameters dialog and leaves it as it is; gives the page of results.
+  std::string PageOfResults() {
+    InParameters([](ParametersDialog& dialog) { dialog.cmdresults.Press(); });
+    return program.OutBuf[1];
+  }
+};
+
+TEST_F(PrintedResults, AreThoseOfAProjectWhoseResultsWereNeverShown) {
+  const std::string text = Printed();
+
+  EXPECT_THAT(text, HasSubstr("Depth of Cover............................................725 (ft)\r\n"));
+  EXPECT_THAT(text, HasSubstr(Psup725));
+  EXPECT_THAT(text, HasSubstr("Cable Bolt System Stability Factor........................1.06\r\n"));
+}
+
+TEST_F(PrintedResults, StayAsResultsShowedThem) {
+  const std::string shown = PageOfResults();
+
+  Printed();
+
+  EXPECT_THAT(shown, HasSubstr(Psup725));
+  EXPECT_EQ(program.OutBuf[1], shown);
+}
+
+// A design that no dialog has accepted yet has no row of the bolt table in it, and the first one is shown.
+TEST_F(PrintedResults, StandUnderTheInputsThatTheyWereComputedFrom) {
+  PageOfResults();
+  const std::string inputs = program.OutBuf[0];
+
+  Printed();
+
+  EXPECT_THAT(inputs, HasSubstr("Roof Bolt Yield Capacity..................................8.4 (tons)\r\n"));
+  EXPECT_EQ(program.OutBuf[0], inputs);
+  EXPECT_EQ(program.WorkParms.BoltTableDiameterPrimary, 0);
+}
+
+TEST_F(PrintedResults, AreNotThoseOfEditsThatWereCancelled) {
+  InParameters([](ParametersDialog& dialog) {
+    dialog.txtDepthofCover.SetText("900");
+    dialog.cmdresults.Press();
+    dialog.Command1.Press();
+  });
+  ASSERT_THAT(program.OutBuf[1], HasSubstr(Psup900));
+
+  const std::string text = Printed();
+
+  EXPECT_THAT(text, HasSubstr(Psup725));
+  EXPECT_THAT(text, Not(HasSubstr(Psup900)));
+}
+
+TEST_F(PrintedResults, AreThoseOfEditsThatWereAccepted) {
+  InParameters([](ParametersDialog& dialog) {
+    dialog.cmdresults.Press();
+    dialog.txtDepthofCover.SetText("900");
+    dialog.Command2.Press();
+  });
+
+  EXPECT_THAT(Printed(), HasSubstr(Psup900));
+}
+
+// The accepted design has the cable diameter of the entries in its intersections too.
+TEST_F(PrintedResults, FollowTheCablesOfTheAcceptedDesign) {
+  InParameters([](ParametersDialog& dialog) {
+    dialog.cmbCableDiamSecInter.SetText("0.7");
+    dialog.cmdresults.Press();
+    dialog.Command2.Press();
+  });
+  const std::string shown = program.OutBuf[1];
+
+  Printed();
+
+  EXPECT_THAT(shown, Not(HasSubstr("Cable Bolt System Stability Factor........................1.44\r\n")));
+  EXPECT_THAT(program.OutBuf[1], HasSubstr("Cable Bolt System Stability Factor........................1.44\r\n"));
+}
+
+TEST_F(PrintedResults, AreNotThoseOfTheProjectBefore) {
+  PageOfResults();
+
+  window.mnuFileItem.ClickItem(file_item::New);
+
+  EXPECT_THAT(Printed(), IsEmpty());  // not agreed to
+  platform.boxes.answers = {box_result::Yes};
+  EXPECT_THAT(Printed(), HasSubstr(Psup400));
+}
+
+TEST_F(PrintedResults, StandInPlaceOfTheCostTable) {
+  platform.windows.onModal = [](Form& form) {
+    if (auto* dialog = dynamic_cast<CostDialog*>(&form)) dialog->cmdresults.Press();
+  };
+  window.mnuEditItem.ClickItem(edit_item::Cost);
+  ASSERT_THAT(program.OutBuf[1], StartsWith("[TULK COST CALCULATIONS]"));
+
+  const std::string text = Printed();
+
+  EXPECT_THAT(text, HasSubstr(Psup725));
+  EXPECT_THAT(text, Not(HasSubstr("TOTAL COST")));
+}
+
+TEST_F(PrintedResults, FollowTheBasisOfTheBoltStrength) {
+  PageOfResults();
+  program.BoltStrengthMode = 1;
+
+  EXPECT_THAT(Printed(), HasSubstr("Actual Roof Bolt Ultimate Capacity"));
+}
+
+TEST_F(PrintedResults, FollowTheUnits) {
+  PageOfResults();
+  program.Units = Metric;
+
+  EXPECT_THAT(Printed(), HasSubstr("Actual Sum of Diagonals...................................60.0 (m)\r\n"));
+}
+
+TEST_F(PrintedResults, FollowTheListOfCables) {
+  ASSERT_THAT(PageOfResults(), HasSubstr("Cable Bolt System Support Capacity........................10.6 (tons/ft)"));
+  for (Single& capacity : program.catalogs.DefaultCableCapArrayENG.Values) capacity *= 2;
+
+  EXPECT_THAT(Printed(), HasSubstr("Cable Bolt System Support Capacity........................21.1 (tons/ft)"));
+}
+
+TEST_F(PrintedResults, FollowTheTableOfBolts) {
+  program.Units = Metric;
+  program.WorkParms.BoltTableRowPrimary = 1;
+  const std::string before = PageOfResults();
+  program.UseAUSStandardTable = 1;
+
+  Printed();
+
+  EXPECT_THAT(program.OutBuf[1], Not(testing::Eq(before)));
+}
+
+TEST_F(PrintedResults, ThatCannotBeComputedAreALineOfThePage) {
+  PageOfResults();
+  program.WorkParms.RowSpacingPrimary = 0;
+
+  const std::string text = Printed();
+
+  EXPECT_THAT(text, HasSubstr("Roof Bolt Row Spacing.....................................0 (ft)\r\n"));
+  EXPECT_EQ(program.OutBuf[1], "[ORBY CALCULATIONS]\r\nThe results cannot be computed from these inputs.\r\n");
+  EXPECT_THAT(text, HasSubstr(program.OutBuf[1]));
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(PrintedResults, ThatCannotBeShownInTheDialogAreALineToo) {
+  program.WorkParms.BoltOptionsPrimary = 7;  // an option that there is not
+
+  EXPECT_THAT(Printed(), HasSubstr("The results cannot be computed from these inputs.\r\n"));
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(PrintedResults, LeaveTheProjectAsItWas) {
+  program.WorkParms.SupportCapEntry1 = 3;  // of the file; the dialog computes another
+  program.WorkParmsCopy.DepthofCover = 900;
+  program.estimator.EstimatorRegion = 4;
+  program.ReportCaller = report_caller::Cost;
+  program.history.Text.clear();
+
+  Printed();
+
+  EXPECT_EQ(program.WorkParms.SupportCapEntry1, 3);
+  EXPECT_EQ(program.WorkParmsCopy.DepthofCover, 900);
+  EXPECT_EQ(program.estimator.EstimatorRegion, 4);
+  EXPECT_EQ(program.ReportCaller, report_caller::Cost);
+  EXPECT_FALSE(program.DialogOpen);
+  EXPECT_TRUE(program.FileSaved);
+  EXPECT_EQ(program.history.Text, "");
+}
+
+TEST_F(PrintedResults, AreOnViewInThePreview) {
+  InParameters([](ParametersDialog& dialog) {
+    dialog.txtDepthofCover.SetText("900");
+    dialog.cmdresults.Press();
+    dialog.Command1.Press();
+  });
+  std::string second;
+  platform.windows.onModal = [&](Form& form) {
+    dynamic_cast<Button&>(*form.Find("Command4")).Press();
+    second = dynamic_cast<TextBox&>(*form.Find("RichTextBox1")).Text();
+  };
+
+  window.mnuFileItem.ClickItem(file_item::Preview);
+
+  EXPECT_THAT(second, HasSubstr(Psup725));
+}
+
+TEST_F(PrintedResults, GoToPaperFromTheToolBarAlike) {
+  InParameters([](ParametersDialog& dialog) {
+    dialog.txtDepthofCover.SetText("900");
+    dialog.cmdresults.Press();
+    dialog.Command1.Press();
+  });
+
+  window.Toolbar1.ClickItem(tool_button::Print);
+
+  EXPECT_THAT(platform.printer.pages.at(1), HasSubstr(Psup725));
+}
+
+}  // namespace
+}  // namespace orby::test
