@@ -13,41 +13,16 @@
 
 #include "base/paths.h"
 #include "base/runtime_error.h"
+#include "platform/file_errors.h"
+#include "platform/replaced_file.h"
 
 namespace orby {
 namespace {
-
-// The run-time error that fits a system error met on this path.
-RuntimeError FileError(int systemError, const std::string& path) {
-  switch (systemError) {
-    case ENOENT: {
-      const auto folder = std::filesystem::path(path).parent_path();
-      std::error_code ignored;
-      const bool folderIsMissing = !folder.empty() && !std::filesystem::is_directory(folder, ignored);
-      return RuntimeError(folderIsMissing ? error_number::PathNotFound : error_number::FileNotFound);
-    }
-    case ENOTDIR: return RuntimeError(error_number::PathNotFound);
-    case ENOSPC:
-    case EDQUOT: return RuntimeError(error_number::DiskFull);
-    case EACCES:
-    case EPERM:
-    case EROFS: return RuntimeError(error_number::PermissionDenied);
-    case ENAMETOOLONG:
-    case EINVAL: return RuntimeError(error_number::BadFileName);
-    case ENOMEM: return RuntimeError(error_number::OutOfMemory);
-    default: return RuntimeError(error_number::PathFileAccess);
-  }
-}
 
 struct FileCloser {
   void operator()(std::FILE* file) const { std::fclose(file); }
 };
 using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
-
-// The system would take a name only up to its first NUL, and so meet another file than the one that was named.
-void CheckName(const std::string& path) {
-  if (path.empty() || path.find('\0') != std::string::npos) throw RuntimeError(error_number::BadFileName);
-}
 
 FileHandle Open(const std::string& path, const char* mode) {
   CheckName(path);
@@ -166,6 +141,8 @@ void DiskFiles::RenameFile(const std::string& path, const std::string& newPath) 
   const int systemError = errno;
   throw FileError(systemError, access(path.c_str(), F_OK) == 0 ? newPath : path);
 }
+
+void DiskFiles::ReplaceFile(const std::string& path, std::string_view bytes) { ReplaceFileOnDisk(path, bytes); }
 
 void DiskFiles::MakeFolder(const std::string& path) {
   CheckName(path);

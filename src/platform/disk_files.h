@@ -16,6 +16,7 @@ class DiskFiles : public FileSystem {
   std::unique_ptr<OutputFile> CreateFile(const std::string& path) override;
   void RemoveFile(const std::string& path) override;
   void RenameFile(const std::string& path, const std::string& newPath) override;
+  void ReplaceFile(const std::string& path, std::string_view bytes) override;
   void MakeFolder(const std::string& path) override;
   bool CanWriteTo(const std::string& folder) override;
   std::vector<std::string> FilesIn(const std::string& folder) override;

@@ -51,6 +51,10 @@ class FileSystem {
   virtual void RemoveFile(const std::string& path) = 0;
   // Takes the place of a file that has the new name, in one step; one that may not be written stays and is error 70.
   virtual void RenameFile(const std::string& path, const std::string& newPath) = 0;
+  // Gives the file these bytes in one step: whatever happens meanwhile, it holds its old bytes or the new ones, and the
+  // new ones are on the disk once this returns. A symbolic link stays and the file that it leads to is replaced; a file
+  // keeps its permissions. After an error the file is as it was and nothing is left beside it.
+  virtual void ReplaceFile(const std::string& path, std::string_view bytes) = 0;
   // Makes the folder and those above it; one that is there already is no error.
   virtual void MakeFolder(const std::string& path) = 0;
   // Whether files can be made in the folder.

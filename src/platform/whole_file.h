@@ -8,8 +8,7 @@
 
 namespace orby {
 
-// Writes the bytes into a file beside the path and then puts it in the path's place, so that whatever happens meanwhile
-// the path holds its old bytes or the new ones. False, with the path as it was, when that fails.
+// Replaces the file in one step, as FileSystem::ReplaceFile does. False, with the path as it was, when that fails.
 bool TryWriteWhole(FileSystem& files, const std::string& path, std::string_view bytes);
 
 }  // namespace orby

@@ -83,6 +83,19 @@ class MemoryFiles : public FileSystem {
     files.erase(path);
   }
 
+  void ReplaceFile(const std::string& path, std::string_view bytes) override {
+    const std::string beside = path + ".tmp";
+    try {
+      const auto file = CreateFile(beside);
+      file->Write(bytes);
+      file->Close();
+      RenameFile(beside, path);
+    } catch (const RuntimeError&) {
+      files.erase(beside);
+      throw;
+    }
+  }
+
   void MakeFolder(const std::string& path) override {
     Meet(Step::MakeFolder);
     folders.emplace(WithoutSeparator(path));

@@ -1,0 +1,154 @@
+#include "platform/replaced_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <optional>
+#include <system_error>
+
+#include "platform/file_errors.h"
+
+namespace orby {
+namespace {
+
+constexpr mode_t OwnerOnly = S_IRUSR | S_IWUSR;
+constexpr mode_t AsTheUserGives = OwnerOnly | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;  // less what the mask takes
+constexpr mode_t Permissions = 07777;
+
+// A file open by its number.
+class Handle {
+ public:
+  Handle(int file, const std::string& path) : file_(file), path_(path) {
+    if (file_ < 0) throw FileError(errno, path_);
+  }
+  ~Handle() {
+    if (file_ >= 0) close(file_);
+  }
+  Handle(const Handle&) = delete;
+  Handle& operator=(const Handle&) = delete;
+
+  int Number() const { return file_; }
+
+  void Write(std::string_view bytes) {
+    while (!bytes.empty()) {
+      const ssize_t written = write(file_, bytes.data(), bytes.size());
+      if (written >= 0) {
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+      } else if (errno != EINTR) {
+        throw FileError(errno, path_);
+      }
+    }
+  }
+
+  void Flush() {
+    if (fsync(file_) != 0) throw FileError(errno, path_);
+  }
+
+  // A write that failed late is reported here.
+  void Close() {
+    const int file = file_;
+    file_ = -1;
+    if (close(file) != 0) throw FileError(errno, path_);
+  }
+
+ private:
+  int file_;
+  std::string path_;
+};
+
+// The path that a chain of symbolic links leads to, be there a file or not.
+std::string BehindLinks(const std::string& path) {
+  constexpr int MostLinks = 40;
+  std::filesystem::path target = path;
+  for (int links = 0; links <= MostLinks; ++links) {
+    std::error_code isNoLink;
+    const auto next = std::filesystem::read_symlink(target, isNoLink);
+    if (isNoLink) return target.string();
+    target = target.parent_path() / next;
+  }
+  throw FileError(ELOOP, path);
+}
+
+// What is known of the file; nothing when there is none.
+std::optional<struct stat> FactsOf(const std::string& path) {
+  struct stat facts {};
+  if (stat(path.c_str(), &facts) == 0) return facts;
+  if (errno == ENOENT) return std::nullopt;
+  throw FileError(errno, path);
+}
+
+// A file that takes the place of another one once it is whole, and is gone when that does not come about.
+class Replacement {
+ public:
+  Replacement(std::string path, const std::optional<struct stat>& replaced) : path_(std::move(path)) {
+    const mode_t mode = replaced ? OwnerOnly : AsTheUserGives;
+    for (int number = 0; !file_; ++number) {
+      beside_ = FolderPart() + ".orby-" + std::to_string(getpid()) + "-" + std::to_string(number);
+      const int file = open(beside_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+      if (file >= 0 || errno != EEXIST) file_.emplace(file, path_);
+    }
+    if (replaced) TakeOver(*replaced);
+  }
+  ~Replacement() {
+    if (file_) unlink(beside_.c_str());
+  }
+  Replacement(const Replacement&) = delete;
+  Replacement& operator=(const Replacement&) = delete;
+
+  void Fill(std::string_view bytes) {
+    file_->Write(bytes);
+    file_->Flush();
+    file_->Close();
+  }
+
+  void TakeItsPlace() {
+    if (std::rename(beside_.c_str(), path_.c_str()) != 0) throw FileError(errno, path_);
+    file_.reset();
+    // The new name is as lasting as the folder's own entry. A folder that may not be read cannot be flushed.
+    const std::string folder = FolderPart().empty() ? "." : FolderPart();
+    const int handle = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0) return;
+    fsync(handle);
+    close(handle);
+  }
+
+ private:
+  std::string FolderPart() const { return path_.substr(0, path_.rfind('/') + 1); }
+
+  // Only the administrator may give a file to another owner; everybody else owns what he replaces, or may only write
+  // to it and owns it from here on.
+  void TakeOver(const struct stat& replaced) {
+    static_cast<void>(fchown(file_->Number(), replaced.st_uid, replaced.st_gid) == 0 ||
+                      fchown(file_->Number(), static_cast<uid_t>(-1), replaced.st_gid) == 0);
+    if (fchmod(file_->Number(), replaced.st_mode & Permissions) != 0) throw FileError(errno, path_);
+  }
+
+  std::string path_;
+  std::string beside_;
+  std::optional<Handle> file_;  // until it has its place
+};
+
+}  // namespace
+
+void ReplaceFileOnDisk(const std::string& path, std::string_view bytes) {
+  CheckName(path);
+  const std::string target = BehindLinks(path);
+  const auto replaced = FactsOf(target);
+  // The system asks for no more than leave to write to the folder.
+  if (replaced && access(target.c_str(), W_OK) != 0) throw FileError(errno, path);
+  if (replaced && !S_ISREG(replaced->st_mode)) {
+    // A pipe or a device has nothing to lose and cannot be replaced; a folder is refused here.
+    Handle file(open(target.c_str(), O_WRONLY | O_CLOEXEC), path);
+    file.Write(bytes);
+    return file.Close();
+  }
+  Replacement replacement(target, replaced);
+  replacement.Fill(bytes);
+  replacement.TakeItsPlace();
+}
+
+}  // namespace orby

@@ -1,0 +1,209 @@
+// Files of the disk that are replaced in one step.
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <signal.h>
+#include <sys/fsuid.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "platform/disk_files.h"
+#include "support/recording_platform.h"
+#include "support/temporary_folder.h"
+
+namespace {
+
+// What was flushed to the disk, by the names that the files had then.
+std::vector<std::string>& Flushed() {
+  static std::vector<std::string> names;
+  return names;
+}
+
+}  // namespace
+
+// Stands before the system's own.
+extern "C" int fsync(int file) {
+  const std::string number = "/proc/self/fd/" + std::to_string(file);
+  Flushed().push_back(std::filesystem::read_symlink(number).filename().string());
+  return static_cast<int>(syscall(SYS_fsync, file));
+}
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::StartsWith;
+
+struct ReplacedFile : testing::Test {
+  int ErrorOfReplacing(const std::string& path, std::string_view bytes = "new") {
+    return ErrorNumberOf([&] { files.ReplaceFile(path, bytes); });
+  }
+  mode_t ModeOf(const std::string& name) const {
+    struct stat facts {};
+    stat(folder.At(name).c_str(), &facts);
+    return facts.st_mode & 07777;
+  }
+
+  TemporaryFolder folder;
+  DiskFiles files{"/opt/orby"};
+};
+
+TEST_F(ReplacedFile, HoldsTheNewBytesAndHasNothingBesideIt) {
+  folder.Store("ORBY.INI", "a longer text than the new one");
+
+  files.ReplaceFile(folder.At("ORBY.INI"), std::string_view("new\0bytes", 9));
+
+  EXPECT_EQ(folder.Read("ORBY.INI"), std::string("new\0bytes", 9));
+  EXPECT_THAT(folder.Names(), ElementsAre("ORBY.INI"));
+}
+
+TEST_F(ReplacedFile, MayBeOneThatWasNotThere) {
+  files.ReplaceFile(folder.At("ORBY.INI"), "new");
+
+  EXPECT_EQ(folder.Read("ORBY.INI"), "new");
+  EXPECT_THAT(folder.Names(), ElementsAre("ORBY.INI"));
+}
+
+TEST_F(ReplacedFile, IsOnTheDiskBeforeItHasItsName) {
+  Flushed().clear();
+
+  files.ReplaceFile(folder.At("ORBY.INI"), "new");
+
+  EXPECT_THAT(Flushed(), ElementsAre(StartsWith(".orby-"), std::filesystem::path(folder.Path()).filename().string()));
+}
+
+TEST_F(ReplacedFile, KeepsThePermissionsThatItHad) {
+  for (const mode_t mode : {0600U, 0640U, 0664U, 0755U}) {
+    folder.Store("ORBY.INI", "old");
+    chmod(folder.At("ORBY.INI").c_str(), mode);
+
+    files.ReplaceFile(folder.At("ORBY.INI"), "new");
+
+    EXPECT_EQ(ModeOf("ORBY.INI"), mode);
+    EXPECT_EQ(folder.Read("ORBY.INI"), "new");
+  }
+}
+
+TEST_F(ReplacedFile, IsReadByThoseThatAnyNewFileIsReadBy) {
+  const mode_t before = umask(027);
+
+  files.ReplaceFile(folder.At("ORBY.INI"), "new");
+
+  umask(before);
+  EXPECT_EQ(ModeOf("ORBY.INI"), 0640U);
+}
+
+TEST_F(ReplacedFile, IsTheOneThatALinkLeadsTo) {
+  std::filesystem::create_directory(folder.At("real"));
+  folder.Store("real/settings.ini", "old");
+  std::filesystem::create_symlink("real/settings.ini", folder.At("second"));
+  std::filesystem::create_symlink("second", folder.At("ORBY.INI"));
+
+  files.ReplaceFile(folder.At("ORBY.INI"), "new");
+
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.At("ORBY.INI")));
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.At("second")));
+  EXPECT_EQ(folder.Read("real/settings.ini"), "new");
+  EXPECT_FALSE(std::filesystem::is_symlink(folder.At("real/settings.ini")));
+}
+
+TEST_F(ReplacedFile, IsMadeWhereALinkLeadsToNothing) {
+  std::filesystem::create_symlink("settings.ini", folder.At("ORBY.INI"));
+
+  files.ReplaceFile(folder.At("ORBY.INI"), "new");
+
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.At("ORBY.INI")));
+  EXPECT_EQ(folder.Read("settings.ini"), "new");
+}
+
+TEST_F(ReplacedFile, IsFoundAsTheSystemFindsItBehindALinkedFolder) {
+  std::filesystem::create_directories(folder.At("far/away"));
+  std::filesystem::create_symlink("far/away", folder.At("near"));
+  std::filesystem::create_symlink("../settings.ini", folder.At("far/away/ORBY.INI"));
+
+  files.ReplaceFile(folder.At("near/ORBY.INI"), "new");
+
+  EXPECT_EQ(folder.Read("far/settings.ini"), "new");
+}
+
+TEST_F(ReplacedFile, MayHaveANameAsLongAsNamesCanBe) {
+  const std::string name(255, 'n');
+
+  files.ReplaceFile(folder.At(name), "new");
+
+  EXPECT_EQ(folder.Read(name), "new");
+}
+
+TEST_F(ReplacedFile, IsRefusedWhereItCannotBe) {
+  std::filesystem::create_directory(folder.At("folder"));
+  std::filesystem::create_symlink("round", folder.At("round"));
+  folder.Store("file", "x");
+
+  EXPECT_EQ(ErrorOfReplacing(folder.At("missing/ORBY.INI")), 76);
+  EXPECT_EQ(ErrorOfReplacing(folder.At("file/ORBY.INI")), 76);
+  EXPECT_EQ(ErrorOfReplacing(folder.At("folder")), 75);
+  EXPECT_EQ(ErrorOfReplacing(folder.At("round")), 75);
+  EXPECT_EQ(ErrorOfReplacing(""), 52);
+  EXPECT_EQ(ErrorOfReplacing(folder.At(std::string("file\0.INI", 9))), 52);
+  EXPECT_EQ(ErrorOfReplacing("/proc/sys/kernel/ostype"), 70);
+  EXPECT_EQ(folder.Read("file"), "x");
+  EXPECT_THAT(folder.Names(), ElementsAre("file", "folder", "round"));
+}
+
+TEST_F(ReplacedFile, StaysAsItWasInAFolderThatNobodyMayWriteTo) {
+  folder.Store("ORBY.INI", "old");
+  chmod(folder.At("ORBY.INI").c_str(), 0666);
+  chmod(folder.Path().c_str(), 0555);
+  int error = 0;
+
+  setfsuid(65534);  // the administrator may write anywhere
+  error = ErrorOfReplacing(folder.At("ORBY.INI"));
+  setfsuid(geteuid());
+  chmod(folder.Path().c_str(), 0755);
+
+  EXPECT_EQ(error, 70);
+  EXPECT_EQ(folder.Read("ORBY.INI"), "old");
+  EXPECT_THAT(folder.Names(), ElementsAre("ORBY.INI"));
+}
+
+TEST_F(ReplacedFile, StaysAsItWasWhenTheNewBytesAreTooMany) {
+  folder.Store("ORBY.INI", "old");
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit small{1000, before.rlim_max};
+  const auto handler = signal(SIGXFSZ, SIG_IGN);
+
+  setrlimit(RLIMIT_FSIZE, &small);
+  const int error = ErrorOfReplacing(folder.At("ORBY.INI"), std::string(5000, 'x'));
+  setrlimit(RLIMIT_FSIZE, &before);
+  signal(SIGXFSZ, handler);
+
+  EXPECT_EQ(error, 61);
+  EXPECT_EQ(folder.Read("ORBY.INI"), "old");
+  EXPECT_THAT(folder.Names(), ElementsAre("ORBY.INI"));
+}
+
+TEST_F(ReplacedFile, LeavesAForeignFileThatHasTheNameOfItsOwnHelper) {
+  const std::string foreign = ".orby-" + std::to_string(getpid()) + "-0";
+  folder.Store(foreign, "foreign");
+
+  files.ReplaceFile(folder.At("ORBY.INI"), "new");
+
+  EXPECT_EQ(folder.Read(foreign), "foreign");
+  EXPECT_EQ(folder.Read("ORBY.INI"), "new");
+}
+
+TEST_F(ReplacedFile, IsWrittenStraightWhenItIsADevice) {
+  files.ReplaceFile("/dev/null", "new");
+
+  EXPECT_EQ(ErrorOfReplacing("/dev/full"), 61);
+  EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
+}
+
+}  // namespace
+}  // namespace orby::test
