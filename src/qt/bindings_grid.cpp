@@ -120,7 +120,7 @@ class CellEditor : public QObject {
   QLineEdit& edit_;
 };
 
-class GridBinding : public Binding {
+class GridBinding : public QObject, public Binding {
  public:
   GridBinding(BindingHost& host, Grid& grid)
       : host_(host), grid_(grid), widget_(FindNamed<QTableWidget>(host, std::string(grid.Name()))) {
@@ -132,13 +132,17 @@ class GridBinding : public Binding {
     widget_.verticalHeader()->setDefaultSectionSize(widget_.fontMetrics().height() * 3 / 2);
     widget_.horizontalHeader()->setHighlightSections(false);
     if (grid.Overlay() != nullptr) editor_ = std::make_unique<CellEditor>(host, grid, widget_);
-    QObject::connect(&widget_, &QTableWidget::currentCellChanged, &widget_, [this](int row, int column, int, int) {
+    connect(&widget_, &QTableWidget::currentCellChanged, this, [this](int row, int column, int, int) {
       if (row >= 0) Select(row, column);
     });
-    QObject::connect(&widget_, &QTableWidget::cellClicked, &widget_, [this](int row, int column) {
+    connect(&widget_, &QTableWidget::cellClicked, this, [this](int row, int column) {
       host_.Act([this, row, column] { grid_.ClickCell(row + grid_.FixedRows(), ColumnToSelect(column)); });
       if (editor_) editor_->TakeKeyboard();
     });
+    // Screen readers, clicks beside Ctrl and clicks below the last row mark and unmark without going anywhere. By the
+    // time the mark is looked at, a key or a plain click has come to its end.
+    connect(widget_.selectionModel(), &QItemSelectionModel::selectionChanged, this, &GridBinding::FollowMark,
+            Qt::QueuedConnection);
   }
 
   void Show() override {
@@ -150,16 +154,32 @@ class GridBinding : public Binding {
     widget_.horizontalHeader()->setVisible(grid_.FixedRows() > 0);
     if (grid_.Columns() > 1) widget_.horizontalHeader()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
     for (int column = 0; column < grid_.Columns(); ++column) ShowColumn(column, rows);
-    const int row = grid_.Row() - grid_.FixedRows();
-    const int column = editor_ ? grid_.Column() : 0;
-    if (row != widget_.currentRow() || (editor_ && column != widget_.currentColumn())) {
-      widget_.setCurrentCell(row, column);
-    }
+    if (Row() != widget_.currentRow() || (editor_ && grid_.Column() != widget_.currentColumn())) MarkSelected();
     if (editor_) editor_->Place();
   }
   std::vector<QWidget*> Widgets() const override { return {&widget_}; }
 
  private:
+  // Selects what is marked. A grid always has its selected row, so that a mark that is gone comes back.
+  void FollowMark() {
+    const QModelIndexList marked = widget_.selectionModel()->selectedIndexes();
+    const bool isMarked = std::ranges::any_of(marked, [this](const QModelIndex& cell) { return IsSelected(cell); });
+    if (isMarked && IsUsable(widget_)) return;
+    if (!marked.isEmpty() && IsUsable(widget_)) Select(marked.constFirst().row(), marked.constFirst().column());
+    MarkSelected();
+  }
+
+  bool IsSelected(const QModelIndex& cell) const {
+    return cell.row() == Row() && (!editor_ || cell.column() == grid_.Column());
+  }
+
+  int Row() const { return grid_.Row() - grid_.FixedRows(); }  // of the widget
+
+  void MarkSelected() {
+    const QSignalBlocker quiet(widget_);
+    widget_.setCurrentCell(Row(), editor_ ? grid_.Column() : 0);
+  }
+
   // A grid of rows keeps its column.
   int ColumnToSelect(int column) const { return editor_ ? std::max(column, grid_.FixedColumns()) : grid_.Column(); }
 

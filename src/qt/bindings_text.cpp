@@ -1,12 +1,15 @@
 // Captions, buttons and text boxes.
 #include <QApplication>
 #include <QGroupBox>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <algorithm>
+#include <utility>
 
 #include "qt/bindings.h"
 #include "qt/mnemonics.h"
@@ -85,22 +88,26 @@ void ShowAsOutput(QWidget& widget) {
 // What a field shows even in a window that is as small as it can be: a number of seven digits, and its frame.
 constexpr int LeastCharacters = 10;
 
-// A line to type into. A key that the field refuses never reaches it, and a field that gets the focus comes up with its
-// text selected.
+// A line to type into. A character that the field refuses never reaches it, and a field that gets the focus comes up
+// with its text selected.
 class LineEditBinding : public QObject, public Binding {
  public:
   LineEditBinding(BindingHost& host, TextBox& box, QLineEdit& widget) : host_(host), box_(box), widget_(widget) {
     widget_.setReadOnly(box.Kind() == TextKind::Output);
     widget_.setMinimumWidth(widget_.fontMetrics().averageCharWidth() * LeastCharacters);
     widget_.installEventFilter(this);
-    connect(&widget_, &QLineEdit::textEdited, this,
-            [this](const QString& text) { host_.Act([this, text] { box_.SetText(FromQt(text)); }); });
+    // Keys, menus, input methods and screen readers all come this way.
+    connect(&widget_, &QLineEdit::textChanged, this, [this] {
+      if (!IsUsable(widget_) || widget_.isReadOnly()) return Show();
+      host_.Act([this] { box_.SetText(FromQt(widget_.text())); });
+    });
   }
 
   void Show() override {
     ShowState(widget_, box_);
     const QString text = ToQt(box_.Text());
     if (widget_.text() == text) return;
+    const QSignalBlocker quiet(widget_);
     widget_.setText(text);
     widget_.setCursorPosition(0);
   }
@@ -119,6 +126,8 @@ class LineEditBinding : public QObject, public Binding {
       if (!comesBack) QMetaObject::invokeMethod(&widget_, &QLineEdit::selectAll, Qt::QueuedConnection);
     } else if (event->type() == QEvent::KeyPress) {
       return IsRefused(*dynamic_cast<QKeyEvent*>(event));
+    } else if (event->type() == QEvent::InputMethod) {
+      return TakeComposed(*dynamic_cast<QInputMethodEvent*>(event));
     }
     return QObject::eventFilter(watched, event);
   }
@@ -133,20 +142,40 @@ class LineEditBinding : public QObject, public Binding {
   // for which some desktops send a control character, edits it.
   bool IsRefused(const QKeyEvent& key) const {
     const QString text = key.text();
-    if (text.size() != 1 || (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) return false;
-    const int code = text[0].unicode();
-    constexpr int Tab = 9;
-    constexpr int Enter = 13;
-    constexpr int Escape = 27;
-    constexpr int Delete = 127;
-    if (code == Tab || code == Enter || code == Escape || code == Delete) return false;
-    return box_.KeyPress(code) == 0;
+    if ((key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) return false;
+    constexpr QChar Tab(9);
+    constexpr QChar Enter(13);
+    constexpr QChar Escape(27);
+    constexpr QChar Delete(127);
+    if (text == Tab || text == Enter || text == Escape || text == Delete) return false;
+    return std::ranges::any_of(text, [this](QChar character) { return IsRefused(character); });
+  }
+  bool IsRefused(QChar character) const { return box_.KeyPress(character.unicode()) == 0; }
+
+  // What dead keys or an input method have composed is judged as typed keys are. Each character gets an event of its
+  // own, because it is judged by the text before it.
+  bool TakeComposed(const QInputMethodEvent& composed) {
+    if (isTaking_ || box_.Kind() != TextKind::Number || composed.commitString().isEmpty()) return false;
+    isTaking_ = true;
+    int from = composed.replacementStart();
+    int length = composed.replacementLength();
+    for (const QChar character : composed.commitString()) {
+      if (IsRefused(character)) continue;
+      QInputMethodEvent one;
+      one.setCommitString(character, std::exchange(from, 0), std::exchange(length, 0));
+      QCoreApplication::sendEvent(&widget_, &one);
+    }
+    QInputMethodEvent open(composed.preeditString(), composed.attributes());
+    QCoreApplication::sendEvent(&widget_, &open);
+    isTaking_ = false;
+    return true;
   }
 
   BindingHost& host_;
   TextBox& box_;
   QLineEdit& widget_;
   bool isLent_ = false;
+  bool isTaking_ = false;  // the characters of a composed text, one by one
 };
 
 // A text of several lines. An output is shown from its top, or where its selection stands.
@@ -156,7 +185,8 @@ class TextAreaBinding : public QObject, public Binding {
     widget_.setReadOnly(box.Kind() == TextKind::Output);
     widget_.setTabChangesFocus(true);
     connect(&widget_, &QPlainTextEdit::textChanged, this, [this] {
-      if (!widget_.isReadOnly()) host_.Act([this] { box_.SetText(FromQtLines(widget_.toPlainText())); });
+      if (!IsUsable(widget_) || widget_.isReadOnly()) return Show();
+      host_.Act([this] { box_.SetText(FromQtLines(widget_.toPlainText())); });
     });
   }
 

@@ -1,13 +1,16 @@
 #include "qt/bound_form.h"
 
+#include <QComboBox>
 #include <QDialog>
 #include <QEvent>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QToolBar>
 #include <algorithm>
 
@@ -22,7 +25,8 @@ bool ShowsControlNames() { return qEnvironmentVariable("ORBY_ACCESSIBLE_IDS") ==
 // What a screen reader says of a field that has no label of its own: the frame around it, else the window.
 QString PlaceCaption(const QWidget& widget) {
   for (const QWidget* at = widget.parentWidget(); at != nullptr; at = at->parentWidget()) {
-    if (const auto* frame = dynamic_cast<const QGroupBox*>(at)) return frame->title();
+    const auto* frame = dynamic_cast<const QGroupBox*>(at);
+    if (frame != nullptr && !frame->title().isEmpty()) return frame->title();
   }
   return widget.window()->windowTitle();
 }
@@ -42,6 +46,12 @@ void NameAfterLabel(QLabel& label) {
   if (label.buddy() == nullptr) return;
   label.setBuddy(MemberOnView(*label.buddy()));
   label.buddy()->setAccessibleName(label.text().remove('&'));
+}
+
+// What is typed next takes the place of what stands there.
+void SelectText(QWidget& widget) {
+  if (auto* line = dynamic_cast<QLineEdit*>(&widget)) line->selectAll();
+  if (const auto* combo = dynamic_cast<QComboBox*>(&widget)) combo->lineEdit()->selectAll();
 }
 
 bool IsHelpKey(const QEvent& event) {
@@ -178,11 +188,25 @@ void BoundForm::ControlChanged(const Control& control) {
 
 void BoundForm::CaptionChanged() { root_.setWindowTitle(ToQt(form_.Caption())); }
 
-// Obeyed only where the control can be seen and used.
+// At once, and again when a page that was turned to meanwhile has been laid out.
+void BoundForm::BringOnView(QWidget& widget) {
+  auto* scroll = root_.findChild<QScrollArea*>("viewScroll");
+  if (scroll == nullptr || !scroll->widget()->isAncestorOf(&widget)) return;
+  const auto bring = [scroll, shown = QPointer(&widget)] {
+    if (shown != nullptr) scroll->ensureWidgetVisible(shown);
+  };
+  bring();
+  QMetaObject::invokeMethod(scroll, bring, Qt::QueuedConnection);
+}
+
+// Obeyed only where the control can be seen and used. A field that has the focus already comes up as if it got it anew.
 void BoundForm::FocusRequested(Control& control) {
   const auto found = bindings_.find(&control);
   QWidget* widget = found == bindings_.end() ? nullptr : found->second->FocusWidget();
-  if (widget != nullptr && widget->isVisible() && widget->isEnabled()) widget->setFocus(Qt::OtherFocusReason);
+  if (widget == nullptr || !widget->isVisible() || !widget->isEnabled()) return;
+  widget->setFocus(Qt::OtherFocusReason);
+  SelectText(*widget);
+  BringOnView(*widget);
 }
 
 void BoundForm::ShowFocus() {

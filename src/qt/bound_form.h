@@ -57,6 +57,7 @@ class BoundForm final : public QObject, public FormView, public BindingHost {
   void KeepPlaces();
   void OrderTabs();
   void NameForReaders();
+  void BringOnView(QWidget& widget);
 
   Form& form_;
   bool tied_ = true;

@@ -1,0 +1,229 @@
+// What a field does with the keyboard: what it takes, what it refuses, and what of it is on view and selected.
+#include <QApplication>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTabWidget>
+#include <QTableWidget>
+
+#include "dialogs/description_dialog.h"
+#include "dialogs/parameters_dialog.h"
+#include "gui/gui_bench.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+
+constexpr int PrimaryTab = 1;
+constexpr int EntriesTab = 2;
+
+class Fields : public GuiTest {
+ protected:
+  // Shows the parameters with their primary support opened; they are cancelled after the script.
+  void Work(const ModalScripts::Script& script) {
+    program.WorkParms.PrimSupport = 1;
+    Use(dialog, [&](QDialog& window) {
+      script(window);
+      Settle();
+      window.close();
+    });
+  }
+
+  ParametersDialog dialog{program};
+};
+
+// ---- a field that a check has refused ------------------------------------------------------------------------------
+
+TEST_F(Fields, SelectTheWholeOfARefusedNumberThatHasTheKeyboardAlready) {
+  Work([this](QDialog& window) {
+    dialog.SSTab1.SetTab(PrimaryTab);
+    TypeInto(window, "txtRowSpacingPrimary", "0");
+
+    Press(Qt::Key_Enter);
+
+    EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid roof bolt row spacing"));
+    EXPECT_EQ(FocusName(), "txtRowSpacingPrimary");
+    EXPECT_EQ(Find<QLineEdit>(window, "txtRowSpacingPrimary").selectedText(), "0");
+  });
+}
+
+TEST_F(Fields, SelectTheWholeOfARefusedListThatHasTheKeyboardAlready) {
+  Work([this](QDialog& window) {
+    dialog.SSTab1.SetTab(PrimaryTab);
+    dialog.optBoltOptionsPrimary.SetValue(1, true);
+    TypeInto(window, "cmbBoltDiameterPrimary", "0.80");
+
+    Press(Qt::Key_Enter);
+
+    EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Roof bolt diameter NOT selected from available options"));
+    EXPECT_EQ(FocusName(), "cmbBoltDiameterPrimary");
+    EXPECT_EQ(Find<QComboBox>(window, "cmbBoltDiameterPrimary").lineEdit()->selectedText(), "0.80");
+  });
+}
+
+bool IsWhollyOnView(const QWidget& widget) { return widget.visibleRegion().boundingRect() == widget.rect(); }
+
+// As on a screen that does not hold the dialog.
+void Shrink(QDialog& window) {
+  window.resize(window.minimumSizeHint().width(), 260);
+  Settle();
+}
+
+TEST_F(Fields, ScrollIntoViewWhenACheckRefusesThemInASmallWindow) {
+  Work([this](QDialog& window) {
+    dialog.optBoltOptionsPrimary.SetValue(1, true);
+    dialog.optBoltGradePrimary.SetValue(1, true);
+    dialog.txtBoltGradePrimary.SetText("0");
+    Shrink(window);
+    Find(window, "txtDepthofCover").setFocus(Qt::TabFocusReason);
+
+    Press(Qt::Key_Enter);
+
+    EXPECT_EQ(FocusName(), "txtBoltGradePrimary");
+    EXPECT_TRUE(IsWhollyOnView(Find(window, "txtBoltGradePrimary")));
+  });
+}
+
+TEST_F(Fields, ScrollBackIntoViewWhenTheyHadTheKeyboardAlready) {
+  Work([this](QDialog& window) {
+    dialog.SSTab1.SetTab(PrimaryTab);
+    Shrink(window);
+    TypeInto(window, "txtRowSpacingPrimary", "0");
+    auto& bar = *Find<QScrollArea>(window, "viewScroll").verticalScrollBar();
+    bar.setValue(bar.maximum());
+    ASSERT_FALSE(IsWhollyOnView(Find(window, "txtRowSpacingPrimary")));
+
+    Press(Qt::Key_Enter);
+
+    EXPECT_TRUE(IsWhollyOnView(Find(window, "txtRowSpacingPrimary")));
+  });
+}
+
+// ---- characters that an input method composes ----------------------------------------------------------------------
+
+// What an input method brings to the field that has the keyboard: text that is settled, and text that is not yet.
+void Compose(const QString& settled, const QString& open = {}) {
+  QInputMethodEvent event(open, {});
+  event.setCommitString(settled);
+  QApplication::sendEvent(QApplication::focusWidget(), &event);
+  Settle();
+}
+
+TEST_F(Fields, LetNoComposedLetterIntoANumber) {
+  Work([this](QDialog& window) {
+    TypeInto(window, "txtDepthofCover", "72");
+
+    Compose(QString(QChar(0xE9)));
+
+    EXPECT_EQ(TextOn(window, "txtDepthofCover"), "72");
+    EXPECT_EQ(dialog.txtDepthofCover.Text(), "72");
+  });
+}
+
+TEST_F(Fields, TakeTheDigitsOfAComposedTextIntoANumber) {
+  Work([this](QDialog& window) {
+    TypeInto(window, "txtDepthofCover", "72");
+
+    Compose("5ft.5");
+
+    EXPECT_EQ(TextOn(window, "txtDepthofCover"), "725.5");
+    EXPECT_EQ(dialog.txtDepthofCover.Text(), "725.5");
+  });
+}
+
+TEST_F(Fields, KeepTheSelectionOfANumberWhenAComposedLetterIsRefused) {
+  Work([](QDialog& window) {
+    TypeInto(window, "txtDepthofCover", "725");
+    Press(Qt::Key_A, Qt::ControlModifier);
+
+    Compose(QString(QChar(0xF1)));
+
+    EXPECT_EQ(Find<QLineEdit>(window, "txtDepthofCover").selectedText(), "725");
+  });
+}
+
+TEST_F(Fields, TakeComposedLettersIntoATextThatIsNoNumber) {
+  DescriptionDialog description(program);
+  Use(description, [&](QDialog& window) {
+    TypeInto(window, "Text1", "Galer");
+
+    Compose(QString(QChar(0xED)) + "a 4");
+
+    EXPECT_EQ(description.Text1.Text(), "Galer\u00EDa 4");
+    window.close();
+  });
+}
+
+TEST_F(Fields, KeepFromTheModelWhatIsNotComposedToItsEnd) {
+  DescriptionDialog description(program);
+  Use(description, [&](QDialog& window) {
+    TypeInto(window, "Text1", "Main");
+    Compose({}, "s");
+    EXPECT_EQ(description.Text1.Text(), "Main");
+    Compose("s");
+    EXPECT_EQ(description.Text1.Text(), "Mains");
+    Find<QPlainTextEdit>(window, "Text2").setFocus(Qt::TabFocusReason);
+    const std::string before = description.Text2.Text();
+    Compose({}, "belt");
+    EXPECT_EQ(description.Text2.Text(), before);
+    window.close();
+  });
+}
+
+TEST_F(Fields, RefuseAKeyThatBringsSeveralCharactersWhenOneIsNoPartOfANumber) {
+  Work([this](QDialog& window) {
+    TypeInto(window, "txtDepthofCover", "72");
+    QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), Qt::Key_unknown, "ft", Qt::NoModifier);
+
+    EXPECT_EQ(dialog.txtDepthofCover.Text(), "72");
+  });
+}
+
+// ---- the row of a table --------------------------------------------------------------------------------------------
+
+void ClickRow(QTableWidget& table, int row, Qt::KeyboardModifiers modifiers) {
+  table.scrollToItem(table.item(row, 1));
+  QTest::mouseClick(table.viewport(), Qt::LeftButton, modifiers, table.visualItemRect(table.item(row, 1)).center());
+  Settle();
+}
+
+TEST_F(Fields, KeepTheMarkOfABoltThatIsClickedWithTheControlKey) {
+  Work([this](QDialog& window) {
+    dialog.SSTab1.SetTab(PrimaryTab);
+    auto& table = Find<QTableWidget>(window, "VSFlexGridPrimary");
+    ClickRow(table, 3, Qt::NoModifier);
+
+    ClickRow(table, 3, Qt::ControlModifier);
+
+    EXPECT_EQ(table.selectedItems().size(), 4);
+    EXPECT_EQ(table.currentRow(), 3);
+    EXPECT_EQ(dialog.VSFlexGridPrimary.Row(), 4);
+  });
+}
+
+TEST_F(Fields, KeepTheMarkOfABoltWhenTheSpaceBelowTheTableIsClicked) {
+  program.WorkParms.SecondSupEntries = 1;
+  program.WorkParms.SecEntryUseBolt = 1;
+  Work([this](QDialog& window) {
+    dialog.SSTab1.SetTab(EntriesTab);
+    dialog.SSTab2.SetTab(2);
+    auto& table = Find<QTableWidget>(window, "VSFlexGridEntry");
+    ClickRow(table, 1, Qt::NoModifier);
+    table.verticalHeader()->setDefaultSectionSize(4);
+    Settle();
+
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(20, table.viewport()->height() - 2));
+    Settle();
+
+    EXPECT_EQ(table.selectedItems().size(), 4);
+    EXPECT_EQ(dialog.VSFlexGridEntry.Row(), 2);
+  });
+}
+
+}  // namespace
+}  // namespace orby::test
