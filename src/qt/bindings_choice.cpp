@@ -115,14 +115,16 @@ class ComboBinding : public QObject, public Binding {
     widget_.setInsertPolicy(QComboBox::NoInsert);
     widget_.setCompleter(nullptr);
     widget_.installEventFilter(this);
-    const auto commit = [this] { host_.Act([this, text = FromQt(widget_.currentText())] { combo_.SetText(text); }); };
     if (combo.Kind() == ComboKind::FreeText) {
-      connect(&widget_, &QComboBox::editTextChanged, this, commit);
+      connect(&widget_, &QComboBox::editTextChanged, this, &ComboBinding::TakeText);
     } else {
-      connect(widget_.lineEdit(), &QLineEdit::editingFinished, this, commit);
+      connect(widget_.lineEdit(), &QLineEdit::editingFinished, this, &ComboBinding::TakeText);
+      connect(widget_.lineEdit(), &QLineEdit::textEdited, this, [this] { isTyped_ = true; });
+      connect(widget_.lineEdit(), &QLineEdit::textChanged, this, &ComboBinding::TakeWholeText);
     }
-    connect(&widget_, &QComboBox::activated, this,
-            [this](int index) { host_.Act([this, index] { combo_.SetListIndex(index); }); });
+    connect(&widget_, &QComboBox::activated, this, &ComboBinding::Choose);
+    connect(widget_.view()->selectionModel(), &QItemSelectionModel::selectionChanged, this, &ComboBinding::FollowMark,
+            Qt::QueuedConnection);
   }
 
   void Show() override {
@@ -144,6 +146,33 @@ class ComboBinding : public QObject, public Binding {
   }
 
  private:
+  void TakeText() {
+    if (!IsUsable(widget_)) return Show();
+    host_.Act([this] { combo_.SetText(FromQt(widget_.currentText())); });
+  }
+
+  // A text that a screen reader sets has come to its end at once. That of an item is followed by its choice.
+  void TakeWholeText() {
+    const bool isTyped = std::exchange(isTyped_, false);
+    if (!isTyped && widget_.currentText() != widget_.itemText(widget_.currentIndex())) TakeText();
+  }
+
+  void Choose(int index) {
+    host_.Act([this, index] { combo_.SetListIndex(index); });
+  }
+
+  // Screen readers mark an item without going to it. In a list that has dropped down the arrows and the mouse go to the
+  // item that they mark, and choose none before Enter or a click.
+  void FollowMark() {
+    const QAbstractItemView& list = *widget_.view();
+    const QModelIndexList marked = list.selectionModel()->selectedIndexes();
+    if (marked.isEmpty() || (list.isVisible() && marked.constFirst() == list.currentIndex()) || !IsUsable(widget_))
+      return;
+    if (marked.constFirst().row() == widget_.currentIndex()) return;
+    widget_.hidePopup();
+    Choose(marked.constFirst().row());
+  }
+
   void ShowItems() {
     const auto& items = combo_.Items();
     bool same = widget_.count() == static_cast<int>(items.size());
@@ -169,6 +198,7 @@ class ComboBinding : public QObject, public Binding {
   BindingHost& host_;
   Combo& combo_;
   QComboBox& widget_;
+  bool isTyped_ = false;  // the change of the text that comes next
 };
 
 // Of commands, the Enter key chooses as a click does. The toolkit's own activation would follow a double click too, the
@@ -181,15 +211,18 @@ class ListBinding : public QObject, public Binding {
     if (list.Kind() == ListKind::Choices) {
       connect(&widget_, &QListWidget::itemSelectionChanged, this, [this] {
         const auto selected = widget_.selectedItems();
-        // An item that is clicked with the Control key stays chosen.
-        if (selected.isEmpty()) return Show();
-        host_.Act([this, index = widget_.row(selected.constFirst())] { list_.ClickItem(index); });
+        if (selected.isEmpty() || !IsUsable(widget_)) {
+          QMetaObject::invokeMethod(this, &ListBinding::Show, Qt::QueuedConnection);
+        } else {
+          host_.Act([this, index = widget_.row(selected.constFirst())] { list_.ClickItem(index); });
+        }
       });
       return;
     }
     widget_.installEventFilter(this);
     widget_.viewport()->installEventFilter(this);
     connect(&widget_, &QListWidget::itemClicked, this, [this](const QListWidgetItem* item) { Choose(*item); });
+    connect(&widget_, &QListWidget::itemSelectionChanged, this, &ListBinding::FollowMark);
   }
 
   void Show() override {
@@ -204,6 +237,7 @@ class ListBinding : public QObject, public Binding {
   std::vector<QWidget*> Widgets() const override { return {&widget_}; }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->isInputEvent()) NoteHand();
     // The first click may have filled the list anew: the second must not choose what stands there by now.
     if (event->type() == QEvent::MouseButtonDblClick) return true;
     if (event->type() == QEvent::KeyPress && widget_.currentItem() != nullptr) {
@@ -217,6 +251,23 @@ class ListBinding : public QObject, public Binding {
   }
 
  private:
+  // Until the event of the key or the mouse has come to its end.
+  void NoteHand() {
+    isByHand_ = true;
+    const auto forget = [this] { isByHand_ = false; };
+    QMetaObject::invokeMethod(this, forget, Qt::QueuedConnection);
+  }
+
+  // Keys and the mouse only pass over what they mark on their way; what a screen reader marks is meant.
+  void FollowMark() {
+    const auto marked = widget_.selectedItems();
+    if (!IsUsable(widget_)) {
+      QMetaObject::invokeMethod(this, &ListBinding::Show, Qt::QueuedConnection);
+    } else if (!isByHand_ && !marked.isEmpty()) {
+      Choose(*marked.constFirst());
+    }
+  }
+
   bool ShowsItems() const {
     const auto& items = list_.Items();
     if (widget_.count() != static_cast<int>(items.size())) return false;
@@ -237,6 +288,7 @@ class ListBinding : public QObject, public Binding {
   BindingHost& host_;
   List& list_;
   QListWidget& widget_;
+  bool isByHand_ = false;
 };
 
 class SliderBinding : public Binding {
@@ -244,8 +296,10 @@ class SliderBinding : public Binding {
   SliderBinding(BindingHost& host, Slider& slider)
       : slider_(slider), widget_(FindNamed<QSlider>(host, std::string(slider.Name()))) {
     widget_.setRange(slider.Minimum(), slider.Maximum());
-    QObject::connect(&widget_, &QSlider::valueChanged, &widget_,
-                     [this, &host](int value) { host.Act([this, value] { slider_.SetValue(value); }); });
+    QObject::connect(&widget_, &QSlider::valueChanged, &widget_, [this, &host](int value) {
+      if (!IsUsable(widget_)) return Show();
+      host.Act([this, value] { slider_.SetValue(value); });
+    });
   }
 
   void Show() override {

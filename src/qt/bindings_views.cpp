@@ -30,8 +30,7 @@ class TabBinding : public Binding {
  public:
   TabBinding(BindingHost& host, TabSet& tabs)
       : host_(host), tabs_(tabs), widget_(FindNamed<QTabWidget>(host, std::string(tabs.Name()))) {
-    QObject::connect(&widget_, &QTabWidget::currentChanged, &widget_,
-                     [this](int tab) { host_.Act([this, tab] { tabs_.ClickTab(tab); }); });
+    QObject::connect(&widget_, &QTabWidget::currentChanged, &widget_, [this](int tab) { Turn(tab); });
   }
 
   void Show() override {
@@ -53,6 +52,12 @@ class TabBinding : public Binding {
   }
 
  private:
+  // A screen reader can press the tab of a page that is disabled.
+  void Turn(int tab) {
+    host_.Act([this, tab] { tabs_.ClickTab(tab); });
+    if (widget_.currentIndex() != tabs_.Tab()) Show();
+  }
+
   BindingHost& host_;
   TabSet& tabs_;
   QTabWidget& widget_;

@@ -15,6 +15,7 @@
 #include <algorithm>
 
 #include "qt/boundary.h"
+#include "qt/frame_reader.h"
 #include "qt/texts.h"
 
 namespace orby {
@@ -158,6 +159,7 @@ void BoundForm::OrderTabs() {
 }
 
 void BoundForm::NameForReaders() {
+  InstallFrameReader();
   const bool ids = ShowsControlNames();
   for (const Control* control : form_.Controls()) {
     for (QWidget* widget : bindings_.at(control)->Widgets()) {
