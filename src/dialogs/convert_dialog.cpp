@@ -26,7 +26,12 @@ void ConvertDialog::OnOpen() {
 }
 
 void ConvertDialog::Convert() {
-  const bool converted = ConvertProject(program_, GetArrayIndex(Option1));
+  try {
+    ConvertProject(program_, GetArrayIndex(Option1));
+  } catch (const RuntimeError& error) {
+    failure_ = error;
+  }
+  const bool converted = !failure_;
   if (converted) converted_();
   ShowMessage(program_, converted ? "Conversion Completed: The conversion form will be closed"
                                   : "Error in the Conversion Procedure. Call technical support");

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
+#include "base/runtime_error.h"
 #include "controls/controls.h"
 #include "core/program.h"
 
@@ -30,6 +32,9 @@ class ConvertDialog : public ConvertControls {
   explicit ConvertDialog(
       Program& program, std::function<void()> converted = [] {});
 
+  // Why the project could not be converted, if it could not.
+  const std::optional<RuntimeError>& Failure() const { return failure_; }
+
  protected:
   void OnOpen() override;
   void OnClose() override {}
@@ -39,6 +44,7 @@ class ConvertDialog : public ConvertControls {
 
   Program& program_;
   std::function<void()> converted_;
+  std::optional<RuntimeError> failure_;
 };
 
 }  // namespace orby

@@ -114,22 +114,17 @@ Single Rounded(double value, int decimals) {
 
 }  // namespace
 
-bool ConvertProject(Program& program, Integer target) {
-  try {
-    for (const ConversionRow& row : Conversions) {
-      Single& field = program.WorkParms.*row.Field;
-      const double value = field;
-      field = target == Metric ? Rounded(ToMetric(row.Quantity, value), row.MetricDecimals)
-                               : Rounded(ToEnglish(row.Quantity, value), row.EnglishDecimals);
-    }
-  } catch (const RuntimeError&) {
-    return false;
+void ConvertProject(Program& program, Integer target) {
+  for (const ConversionRow& row : Conversions) {
+    Single& field = program.WorkParms.*row.Field;
+    const double value = field;
+    field = target == Metric ? Rounded(ToMetric(row.Quantity, value), row.MetricDecimals)
+                             : Rounded(ToEnglish(row.Quantity, value), row.EnglishDecimals);
   }
   program.CurrentFile =
       (target == Metric ? "Metric_" : "English_") + FileNameFromPath(program, program.CurrentFile, false);
   program.Units = target;
   program.FileSaved = false;
-  return true;
 }
 
 }  // namespace orby

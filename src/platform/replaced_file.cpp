@@ -136,17 +136,16 @@ class Replacement {
 
 void ReplaceFileOnDisk(const std::string& path, std::string_view bytes) {
   CheckName(path);
-  const std::string target = BehindLinks(path);
-  const auto replaced = FactsOf(target);
+  const auto replaced = FactsOf(path);
   // The system asks for no more than leave to write to the folder.
-  if (replaced && access(target.c_str(), W_OK) != 0) throw FileError(errno, path);
+  if (replaced && access(path.c_str(), W_OK) != 0) throw FileError(errno, path);
   if (replaced && !S_ISREG(replaced->st_mode)) {
     // A pipe or a device has nothing to lose and cannot be replaced; a folder is refused here.
-    Handle file(open(target.c_str(), O_WRONLY | O_CLOEXEC), path);
+    Handle file(open(path.c_str(), O_WRONLY | O_CLOEXEC), path);
     file.Write(bytes);
     return file.Close();
   }
-  Replacement replacement(target, replaced);
+  Replacement replacement(BehindLinks(path), replaced);
   replacement.Fill(bytes);
   replacement.TakeItsPlace();
 }

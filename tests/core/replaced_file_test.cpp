@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "platform/disk_files.h"
+#include "platform/file_size_limit.h"
 #include "support/recording_platform.h"
 #include "support/temporary_folder.h"
 
@@ -176,12 +177,12 @@ TEST_F(ReplacedFile, StaysAsItWasWhenTheNewBytesAreTooMany) {
   rlimit before{};
   getrlimit(RLIMIT_FSIZE, &before);
   const rlimit small{1000, before.rlim_max};
-  const auto handler = signal(SIGXFSZ, SIG_IGN);
+  SurviveFileSizeLimit();
 
   setrlimit(RLIMIT_FSIZE, &small);
   const int error = ErrorOfReplacing(folder.At("ORBY.INI"), std::string(5000, 'x'));
   setrlimit(RLIMIT_FSIZE, &before);
-  signal(SIGXFSZ, handler);
+  signal(SIGXFSZ, SIG_DFL);
 
   EXPECT_EQ(error, 61);
   EXPECT_EQ(folder.Read("ORBY.INI"), "old");
@@ -196,6 +197,18 @@ TEST_F(ReplacedFile, LeavesAForeignFileThatHasTheNameOfItsOwnHelper) {
 
   EXPECT_EQ(folder.Read(foreign), "foreign");
   EXPECT_EQ(folder.Read("ORBY.INI"), "new");
+}
+
+TEST_F(ReplacedFile, IsWrittenStraightWhenItIsAPipe) {
+  int ends[2];
+  ASSERT_EQ(pipe(ends), 0);
+
+  files.ReplaceFile("/proc/self/fd/" + std::to_string(ends[1]), "new");
+
+  char bytes[8];
+  EXPECT_EQ(read(ends[0], bytes, sizeof bytes), 3);
+  close(ends[0]);
+  close(ends[1]);
 }
 
 TEST_F(ReplacedFile, IsWrittenStraightWhenItIsADevice) {

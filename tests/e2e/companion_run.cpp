@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -23,6 +24,19 @@ CompanionTest::CompanionTest() {
 CompanionTest::~CompanionTest() { std::filesystem::remove_all(folder_); }
 
 Outcome CompanionTest::Run(const std::vector<std::string>& words) const {
+  std::vector<std::string> arguments{ORBY_CLI};
+  arguments.insert(arguments.end(), words.begin(), words.end());
+  return Start(std::move(arguments));
+}
+
+Outcome CompanionTest::RunWithSmallFiles(int blocks, const std::vector<std::string>& words) const {
+  std::vector<std::string> arguments{"/bin/sh", "-c", "ulimit -f " + std::to_string(blocks) + "; exec \"$@\"", "sh",
+                                     ORBY_CLI};
+  arguments.insert(arguments.end(), words.begin(), words.end());
+  return Start(std::move(arguments));
+}
+
+Outcome CompanionTest::Start(std::vector<std::string> arguments) const {
   const std::string outPath = Path("stdout.txt");
   const std::string errPath = Path("stderr.txt");
   posix_spawn_file_actions_t actions;
@@ -30,14 +44,12 @@ Outcome CompanionTest::Run(const std::vector<std::string>& words) const {
   constexpr int CreateAnew = O_WRONLY | O_CREAT | O_TRUNC;
   posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, outPath.c_str(), CreateAnew, 0600);
   posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, errPath.c_str(), CreateAnew, 0600);
-  std::vector<std::string> arguments{ORBY_CLI};
-  arguments.insert(arguments.end(), words.begin(), words.end());
   std::vector<char*> argv;
   for (std::string& argument : arguments) argv.push_back(argument.data());
   argv.push_back(nullptr);
 
   pid_t child = 0;
-  const int failed = posix_spawn(&child, ORBY_CLI, &actions, nullptr, argv.data(), environ);
+  const int failed = posix_spawn(&child, argv.front(), &actions, nullptr, argv.data(), environ);
   posix_spawn_file_actions_destroy(&actions);
   if (failed != 0) throw std::runtime_error("orby-cli could not be started");
   int status = 0;
@@ -56,6 +68,16 @@ std::string CompanionTest::Read(const std::string& path) {
   std::ostringstream bytes;
   bytes << file.rdbuf();
   return bytes.str();
+}
+
+std::vector<std::string> CompanionTest::Names() const {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
+    const std::string name = entry.path().filename().string();
+    if (name != "stdout.txt" && name != "stderr.txt") names.push_back(name);
+  }
+  std::ranges::sort(names);
+  return names;
 }
 
 bool CompanionTest::Exists(const std::string& path) { return std::filesystem::exists(path); }

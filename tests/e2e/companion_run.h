@@ -20,6 +20,8 @@ class CompanionTest : public testing::Test {
   ~CompanionTest() override;
 
   Outcome Run(const std::vector<std::string>& words) const;
+  // With files of at most so many blocks of 512 bytes.
+  Outcome RunWithSmallFiles(int blocks, const std::vector<std::string>& words) const;
 
   // A path in the test's folder.
   std::string Path(const std::string& name) const { return folder_ + "/" + name; }
@@ -28,7 +30,12 @@ class CompanionTest : public testing::Test {
   static bool Exists(const std::string& path);
   static std::string Example(const std::string& name) { return std::string(EXAMPLES_DIR) + "/" + name + ".ORB"; }
 
+  // The names in the test's folder, sorted, but for what the companion printed.
+  std::vector<std::string> Names() const;
+
  private:
+  Outcome Start(std::vector<std::string> arguments) const;
+
   std::string folder_;
 };
 

@@ -9,6 +9,7 @@
 namespace orby::test {
 namespace {
 
+using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
@@ -185,6 +186,74 @@ TEST_F(Companion, TellsThatTheTargetCannotBeWritten) {
 
   EXPECT_EQ(outcome.exitCode, 3);
   EXPECT_EQ(outcome.err, "run-time error 76: Path not found\n");
+}
+
+TEST_F(Companion, LeavesTheTargetAsItWasWhenItCannotBeWrittenWhole) {
+  const std::string out = Write("out.ORB", "the project of yesterday");
+
+  const Outcome outcome = RunWithSmallFiles(1, {"save", Example("weak-roof"), out});
+
+  EXPECT_EQ(outcome.exitCode, 3);
+  EXPECT_EQ(outcome.err, "run-time error 61: Disk full\n");
+  EXPECT_EQ(Read(out), "the project of yesterday");
+  EXPECT_THAT(Names(), ElementsAre("out.ORB"));
+}
+
+TEST_F(Companion, TellsThatTheDiskIsFull) {
+  const Outcome outcome = Run({"save", Example("weak-roof"), "/dev/full"});
+
+  EXPECT_EQ(outcome.exitCode, 3);
+  EXPECT_EQ(outcome.err, "run-time error 61: Disk full\n");
+}
+
+TEST_F(Companion, TellsThatItsOutputDoesNotFit) {
+  const Outcome outcome = RunWithSmallFiles(1, {"report", Example("weak-roof")});
+
+  EXPECT_EQ(outcome.exitCode, 3);
+  EXPECT_EQ(outcome.err, "run-time error 61: Disk full\n");
+}
+
+TEST_F(Companion, WritesTheFileThatALinkLeadsToAndKeepsItsPermissions) {
+  const std::string real = Write("real.ORB", "old");
+  std::filesystem::permissions(real, std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+  std::filesystem::create_symlink("real.ORB", Path("out.ORB"));
+
+  for (const char* command : {"save", "convert"}) {
+    EXPECT_EQ(Run({command, Example("weak-roof"), Path("out.ORB")}).exitCode, 0);
+
+    EXPECT_THAT(Read(real), StartsWith("ORBY_105\r\n")) << command;
+    EXPECT_TRUE(std::filesystem::is_symlink(Path("out.ORB"))) << command;
+    EXPECT_EQ(std::filesystem::status(real).permissions(),
+              std::filesystem::perms::owner_read | std::filesystem::perms::owner_write)
+        << command;
+    EXPECT_THAT(Names(), ElementsAre("out.ORB", "real.ORB")) << command;
+  }
+}
+
+TEST_F(Companion, MayWriteTheProjectOverItself) {
+  const std::string file = Write("panel.ORB", Read(Example("weak-roof")));
+
+  EXPECT_EQ(Run({"convert", file, file}).exitCode, 0);
+
+  EXPECT_THAT(Read(file), StartsWith("ORBY_105\r\n 1 \r\n"));
+  EXPECT_THAT(Names(), ElementsAre("panel.ORB"));
+}
+
+TEST_F(Companion, TellsWhyAProjectCannotBeConvertedAndWritesNothing) {
+  std::string bytes = Read(Example("development-entry"));
+  const std::string depth = "\r\n650\r\n162\r\n";
+  ASSERT_NE(bytes.find(depth), std::string::npos);
+  bytes.replace(bytes.find(depth), depth.size(), "\r\n650\r\n3E38\r\n");
+  const std::string file = Write("heavy.ORB", "ORBY_105\r\n 1" + bytes.substr(bytes.find(" \r\n")));
+  const std::string out = Write("out.ORB", "the project of yesterday");
+
+  const Outcome outcome = Run({"convert", file, out});
+
+  EXPECT_EQ(outcome.exitCode, 3);
+  EXPECT_EQ(outcome.err,
+            "message: Error in the Conversion Procedure. Call technical support\nrun-time error 6: Overflow\n");
+  EXPECT_EQ(Read(out), "the project of yesterday");
+  EXPECT_THAT(Names(), ElementsAre("heavy.ORB", "out.ORB"));
 }
 
 TEST_F(Companion, TellsThatARunTimeErrorEndedTheReport) {

@@ -83,7 +83,7 @@ TEST(Conversion, EveryFieldToMetricWithItsOwnDecimals) {
   TestProject project;
   for (const auto& row : Expectations) project.program.WorkParms.*row.field = row.english;
 
-  EXPECT_TRUE(ConvertProject(project.program, Metric));
+  ConvertProject(project.program, Metric);
 
   for (const auto& row : Expectations) EXPECT_EQ(project.program.WorkParms.*row.field, row.metric) << row.name;
 }
@@ -93,7 +93,7 @@ TEST(Conversion, EveryFieldToEnglishWithItsOwnDecimals) {
   project.program.Units = Metric;
   for (const auto& row : Expectations) project.program.WorkParms.*row.field = 123.4567F;
 
-  EXPECT_TRUE(ConvertProject(project.program, English));
+  ConvertProject(project.program, English);
 
   for (const auto& row : Expectations) EXPECT_EQ(project.program.WorkParms.*row.field, row.backAgain) << row.name;
 }
@@ -158,7 +158,7 @@ TEST(Conversion, TheResultIsAnUnsavedProjectUnderItsBareNameWithAPrefix) {
   TestProject project;
   project.program.FileSaved = true;
 
-  EXPECT_TRUE(ConvertProject(project.program, Metric));
+  ConvertProject(project.program, Metric);
 
   EXPECT_EQ(project.program.CurrentFile, "Metric_panel3.orb");
   EXPECT_EQ(project.program.Units, Metric);
@@ -184,7 +184,7 @@ TEST(Conversion, AnOverflowEndsItAndKeepsWhatWasConverted) {
   project.program.WorkParms.BoltGradeStdPrimary = 75;
   project.program.FileSaved = true;
 
-  EXPECT_FALSE(ConvertProject(project.program, Metric));
+  EXPECT_EQ(ErrorNumberOf([&] { ConvertProject(project.program, Metric); }), 6);
 
   EXPECT_EQ(project.program.WorkParms.DepthofCover, 121.92F);
   EXPECT_EQ(project.program.WorkParms.CableDiamSecEntry, 3E38F);

@@ -155,11 +155,10 @@ int Save(Session& session, const std::string& out) {
 }
 
 int Convert(Session& session, const std::string& out) {
-  const Integer before = session.program.Units;
   ConvertDialog dialog(session.program);
   dialog.Open();
   dialog.Command2.Press();
-  if (session.program.Units == before) return exit_code::RunTimeError;
+  if (dialog.Failure()) throw RuntimeError(*dialog.Failure());
   SaveAs(session, out);
   return exit_code::Done;
 }

@@ -4,9 +4,11 @@
 
 #include "apps/orby-cli/commands.h"
 #include "base/runtime_error.h"
+#include "platform/file_size_limit.h"
 
 int main(int argc, char** argv) {
   using namespace orby::cli;
+  orby::SurviveFileSizeLimit();
   try {
     const auto line = ParseCommandLine({argv + 1, argv + argc});
     if (line && line->Help) {

@@ -1,6 +1,7 @@
 #include "apps/orby-cli/script_platform.h"
 
 #include <cstdio>
+#include <utility>
 
 #include "base/runtime_error.h"
 
@@ -20,6 +21,18 @@ class ScratchFile : public OutputFile {
 
  private:
   std::string& text_;
+};
+
+class WholeFile : public OutputFile {
+ public:
+  WholeFile(FileSystem& files, std::string path) : files_(files), path_(std::move(path)) {}
+  void Write(std::string_view bytes) override { bytes_ += bytes; }
+  void Close() override { files_.ReplaceFile(path_, bytes_); }
+
+ private:
+  FileSystem& files_;
+  std::string path_;
+  std::string bytes_;
 };
 
 }  // namespace
@@ -46,7 +59,7 @@ std::string ScriptFiles::ReadFile(const std::string& path) {
 }
 
 std::unique_ptr<OutputFile> ScriptFiles::CreateFile(const std::string& path) {
-  if (!IsScratch(path)) return DiskFiles::CreateFile(path);
+  if (!IsScratch(path)) return std::make_unique<WholeFile>(*this, path);
   std::string& text = scratch_[path];
   text.clear();
   return std::make_unique<ScratchFile>(text);

@@ -19,7 +19,8 @@ class ScriptBoxes : public MessageBoxes {
   std::vector<std::string> Kept;
 };
 
-// The machine's files, but for the temporary ones: nothing is written that was not asked for.
+// The machine's files, but for the temporary ones: nothing is written that was not asked for. A file that is written
+// takes the place of the one before as a whole, when it is closed; one that is not closed leaves that one as it was.
 class ScriptFiles : public DiskFiles {
  public:
   ScriptFiles() : DiskFiles(".") {}

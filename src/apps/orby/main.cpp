@@ -3,6 +3,7 @@
 #include <exception>
 #include <filesystem>
 
+#include "platform/file_size_limit.h"
 #include "qt/application.h"
 
 namespace {
@@ -29,6 +30,7 @@ int main(int argc, char** argv) {
     std::fputs("orby: there is no display to show the program on; orby-cli prints reports without one.\n", stderr);
     return EXIT_FAILURE;
   }
+  orby::SurviveFileSizeLimit();
   try {
     return orby::RunProgram(ProgramFolder(), {argv + 1, argv + argc});
   } catch (const std::exception& error) {
