@@ -1,6 +1,8 @@
 // Acts whose failure has an answer of its own.
 #pragma once
 
+#include <optional>
+
 #include "base/runtime_error.h"
 
 namespace orby {
@@ -13,6 +15,16 @@ bool Succeeds(const Act& act) {
     return true;
   } catch (const RuntimeError&) {
     return false;
+  }
+}
+
+// What the computation gives, an optional; nothing when it ends in a RuntimeError. Costs nothing while it does not.
+template <class Compute>
+auto OrNothing(const Compute& compute) -> decltype(compute()) {
+  try {
+    return compute();
+  } catch (const RuntimeError&) {
+    return std::nullopt;
   }
 }
 

@@ -4,6 +4,8 @@
 #include <array>
 #include <span>
 
+#include "base/arithmetic.h"
+#include "base/attempt.h"
 #include "base/number_text.h"
 #include "base/paths.h"
 #include "base/text.h"
@@ -35,6 +37,14 @@ void SetArrayIndex(Program& program, OptionArray& options, Integer index) {
   options.SetValue(index, true);
 }
 
+std::optional<double> FittingNumber(std::string_view text) {
+  return OrNothing([text] {
+    const double number = TextValue(text);
+    static_cast<void>(ToSingle(number));
+    return std::optional(number);
+  });
+}
+
 bool RangeCheck(Program& program, std::string_view text, double minimum, double maximum, std::string_view fieldName) {
   const std::string_view trimmed = Trim(text);
   std::string message(fieldName);
@@ -42,8 +52,8 @@ bool RangeCheck(Program& program, std::string_view text, double minimum, double 
   if (trimmed.empty()) {
     message += "Blank field not allowed";
   } else {
-    const double value = TextValue(text);
-    if (value >= minimum && value <= maximum) return true;
+    const auto value = FittingNumber(text);
+    if (value && *value >= minimum && *value <= maximum) return true;
     message += "Value '" + std::string(trimmed) + "' is outside input range" + std::string(LineEnd) +
                "Valid range is: " + NumberText(minimum) + "-" + NumberText(maximum);
   }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,6 +15,9 @@ namespace orby {
 // Selects the member, clicking it once even when it was selected before. An index outside the array is told to the user
 // and then throws RuntimeError 9.
 void SetArrayIndex(Program& program, OptionArray& options, Integer index);
+
+// The text's leading number as a check judges it. Nothing when it lies beyond a Single: then it is outside every limit.
+std::optional<double> FittingNumber(std::string_view text);
 
 // Whether the text's number lies inside minimum..maximum; tells the user when it does not or when the text is blank.
 bool RangeCheck(Program& program, std::string_view text, double minimum, double maximum, std::string_view fieldName);

@@ -3,9 +3,11 @@
 #include <array>
 
 #include "base/arithmetic.h"
+#include "base/attempt.h"
 #include "base/number_text.h"
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
+#include "core/shared_texts.h"
 #include "dialogs/copy_clip.h"
 #include "dialogs/fault_texts.h"
 #include "dialogs/history_texts.h"
@@ -49,6 +51,12 @@ constexpr std::array CostFields{
     CostField{&CostControls::txtShiftsWeek, &CostGroup::CostShiftsWeek, "Invalid number of shifts per week"},
     CostField{&CostControls::txtWeeksYear, &CostGroup::CostWeeksYear, "Invalid number of weeks per year"},
 };
+
+template <class Compute>
+std::string FigureText(const Compute& compute) {
+  const auto figure = OrNothing([&] { return std::optional(compute()); });
+  return figure ? NumberText(*figure) : std::string(NoResult);
+}
 
 }  // namespace
 
@@ -117,32 +125,35 @@ void CostDialog::FillFields() {
   chkAdvance.SetValue(cost.CostAdvance);
 }
 
-CostGroup CostDialog::TypedCost() const {
-  CostGroup cost;
-  for (const CostField& row : CostFields) cost.*row.Field = ToSingle((this->*row.Box).Value());
+void CostDialog::ReadCost(CostGroup& cost) const {
+  for (const CostField& row : CostFields) {
+    if (const auto number = FittingNumber((this->*row.Box).Text())) cost.*row.Field = ToSingle(*number);
+  }
   cost.CostProduction = chkProduction.Value();
   cost.CostAdvance = chkAdvance.Value();
-  return cost;
 }
 
 void CostDialog::CalcAdvance() {
-  const double rowSpacing = txtRowSpacing.Value();
-  if (!(rowSpacing > 0)) return;
-  std::string advance = NumberText(AdvancePerShift(txtnBoltsRow.Value(), rowSpacing, txtnboltsShift.Value()));
+  const auto rowSpacing = OrNothing([this] { return std::optional(txtRowSpacing.Value()); });
+  if (rowSpacing && !(*rowSpacing > 0)) return;
+  std::string advance = FigureText(
+      [this] { return AdvancePerShift(txtnBoltsRow.Value(), txtRowSpacing.Value(), txtnboltsShift.Value()); });
   if (advance == txtAdvanceShiftCalc.Text()) return;
   txtAdvanceShiftCalc.SetText(std::move(advance));
   if (!HoldEvents) CalcProduction();
 }
 
 void CostDialog::CalcProduction() {
+  if (txtAdvanceShiftCalc.Text() == NoResult) return txtCleanProductionCalc.SetText(std::string(NoResult));
   txtCleanProductionCalc.SetText(
-      NumberText(CleanProductionPerShift(txtAdvanceShiftCalc.Value(), txtAdvanceRate.Value())));
+      FigureText([this] { return CleanProductionPerShift(txtAdvanceShiftCalc.Value(), txtAdvanceRate.Value()); }));
 }
 
 bool CostDialog::ValidateCost() {
   for (const CostField& row : CostFields) {
     TextBox& box = this->*row.Box;
-    if (box.Value() >= 0) continue;
+    const auto number = FittingNumber(box.Text());
+    if (number && *number >= 0) continue;
     ShowMessage(program_, std::string(row.Fault), box_style::Critical, program_.titles.RangeErrorTitle);
     RequestFocus(box);
     return false;
@@ -150,20 +161,16 @@ bool CostDialog::ValidateCost() {
   return true;
 }
 
-ProjectRecord CostDialog::EditedDesign() const {
-  ProjectRecord design = program_.WorkParms;
-  design.Cost() = TypedCost();
-  return design;
-}
+void CostDialog::ReadEdits(ProjectRecord& design) const { ReadCost(design.Cost()); }
 
 void CostDialog::SaveWorkParms() {
-  program_.WorkParms = EditedDesign();
+  ReadEdits(program_.WorkParms);
   program_.FileSaved = false;
   program_.FileEmpty = false;
   WasCommitted = true;
 }
 
-void CostDialog::CopyCostToWorkParmsCopy() { program_.WorkParmsCopy.Cost() = TypedCost(); }
+void CostDialog::CopyCostToWorkParmsCopy() { ReadCost(program_.WorkParmsCopy.Cost()); }
 
 bool CostDialog::BuildReport() {
   CopyCostToWorkParmsCopy();

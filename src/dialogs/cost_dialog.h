@@ -90,20 +90,22 @@ class CostDialog : public CostControls {
   explicit CostDialog(Program& program);
 
   // The advance per shift out of bolts and row spacing, and the clean production that follows from it. A spacing that
-  // is not above 0 leaves both figures as they are. Throws RuntimeError 6 when a figure lies beyond a Double.
+  // is not above 0 leaves both figures as they are. "--" when it cannot be computed.
   void CalcAdvance();
 
-  // The clean production out of the calculated advance and the advance rate. Throws as CalcAdvance does.
+  // The clean production out of the calculated advance and the advance rate. "--" when it, or the advance, cannot be
+  // computed.
   void CalcProduction();
 
-  // Refuses numbers below 0: tells of the first field that holds one, and gives it the focus.
+  // Refuses numbers below 0 and those that a project cannot hold: tells of the first field with one, and gives it the
+  // focus.
   bool ValidateCost();
 
-  // The design as a commit of the fields would leave it; nothing is committed. Throws RuntimeError 6 when a number does
-  // not fit the record.
-  ProjectRecord EditedDesign() const;
+  // Reads the fields into a design as a commit would. A number that the design cannot hold leaves the one it has there;
+  // one that has passed the checks always fits.
+  void ReadEdits(ProjectRecord& design) const;
 
-  // Reads the fields into the committed design. Throws as EditedDesign does, nothing being changed.
+  // Reads the fields into the committed design.
   void SaveWorkParms();
 
   // The same into the scratch design, for previews.
@@ -125,7 +127,7 @@ class CostDialog : public CostControls {
   void TieEvents();
   void TieCommands();
   void FillFields();
-  CostGroup TypedCost() const;
+  void ReadCost(CostGroup& cost) const;
 
   Program& program_;
 };

@@ -1,11 +1,22 @@
 // What the dialogs complain about in the same words.
 #pragma once
 
+#include <string>
 #include <string_view>
+
+#include "base/text.h"
 
 namespace orby::fault_text {
 
 inline constexpr std::string_view BoltsPerRow = "Invalid number of bolts per row";
 inline constexpr std::string_view RowSpacing = "Invalid roof bolt row spacing";
+
+// Of a field whose number lies beyond what a project can hold; text: what the field shows, empty for a row of a table.
+inline std::string TooLarge(std::string_view caption, std::string_view text) {
+  std::string message(caption);
+  message += ": ";
+  message += text.empty() ? "A value in the selected row" : "Value '" + std::string(Trim(text)) + "'";
+  return message + " is too large";
+}
 
 }  // namespace orby::fault_text

@@ -3,7 +3,9 @@
 #include <cmath>
 #include <span>
 
+#include "base/attempt.h"
 #include "base/number_text.h"
+#include "core/dialog_helpers.h"
 #include "core/messages.h"
 #include "dialogs/fault_texts.h"
 #include "dialogs/parameters_dialog.h"
@@ -75,9 +77,12 @@ Control& At(D& d) {
   return d.*member;
 }
 
+// Throws RuntimeError 6 when no Single holds the number: the rule that asks for it fails then.
 template <Box box>
 double Value(const D& d) {
-  return (d.*box).Value();
+  const auto value = FittingNumber((d.*box).Text());
+  if (!value) throw RuntimeError(error_number::Overflow);
+  return *value;
 }
 
 template <Options options>
@@ -111,6 +116,12 @@ bool NothingSelected(const D& d) {
   return Is<mode>(d, 0) && !(d.*list).HasSelection();
 }
 
+// A blanked list keeps its selection, but shows nothing to go by.
+template <Options mode, List list>
+bool NothingShown(const D& d) {
+  return NothingSelected<mode, list>(d) || (Is<mode>(d, 0) && (d.*list).Text().empty());
+}
+
 // The upper limit counts with the table as source too: a stale typed diameter stops a design from the table.
 template <Options source, Options mode, Box typed>
 bool BadTypedDiameter(const D& d) {
@@ -136,29 +147,34 @@ constexpr Rule BoltLength() {
 }
 
 constexpr Rule GeneralRules[] = {
-    {[](const D& d) { return d.txtCMRR.Value() <= 0 || d.txtCMRR.Value() >= 100; }, "Invalid CMRR", At<&D::txtCMRR>},
+    {[](const D& d) { return Value<&D::txtCMRR>(d) <= 0 || Value<&D::txtCMRR>(d) >= 100; }, "Invalid CMRR",
+     At<&D::txtCMRR>},
     {[](const D& d) {
-       return d.Units() == English && (d.txtUnitWeight.Value() < 100 || d.txtUnitWeight.Value() > 200);
+       return d.Units() == English && (Value<&D::txtUnitWeight>(d) < 100 || Value<&D::txtUnitWeight>(d) > 200);
      },
      "Invalid Unit Weight for Rock. Valid range 100-200 lbs/cf", At<&D::txtUnitWeight>},
-    {[](const D& d) { return d.Units() == Metric && (d.txtUnitWeight.Value() < 15 || d.txtUnitWeight.Value() > 30); },
+    {[](const D& d) {
+       return d.Units() == Metric && (Value<&D::txtUnitWeight>(d) < 15 || Value<&D::txtUnitWeight>(d) > 30);
+     },
      "Invalid Unit Weight for Rock. Valid range 15-30 kN/m3", At<&D::txtUnitWeight>},
     AboveZero<&D::txtDepthofCover>("Invalid depth of cover"),
-    {[](const D& d) { return d.txtEntryWidth.Value() * std::sqrt(2.0) >= d.txtActualSpanDiagonals.Value(); },
+    {[](const D& d) { return Value<&D::txtEntryWidth>(d) * std::sqrt(2.0) >= Value<&D::txtActualSpanDiagonals>(d); },
      "Invalid sum of diagonals at intersection. Should be greater than 1.4 x Entry Width",
      At<&D::txtActualSpanDiagonals>},
     {[](const D& d) {
-       return d.Units() == English && (d.txtActualSpanDiagonals.Value() < 40 || d.txtActualSpanDiagonals.Value() > 80);
+       return d.Units() == English &&
+              (Value<&D::txtActualSpanDiagonals>(d) < 40 || Value<&D::txtActualSpanDiagonals>(d) > 80);
      },
      "Invalid sum of diagonals at intersection. Should be between 40 and 80 feet", At<&D::txtActualSpanDiagonals>},
     {[](const D& d) {
-       return d.Units() == Metric && (d.txtActualSpanDiagonals.Value() < 13 || d.txtActualSpanDiagonals.Value() > 27);
+       return d.Units() == Metric &&
+              (Value<&D::txtActualSpanDiagonals>(d) < 13 || Value<&D::txtActualSpanDiagonals>(d) > 27);
      },
      "Invalid sum of diagonals at intersection. Should be between 13 and 27 m", At<&D::txtActualSpanDiagonals>},
-    {[](const D& d) { return d.Units() == English && d.txtEntryWidth.Value() <= 10; },
+    {[](const D& d) { return d.Units() == English && Value<&D::txtEntryWidth>(d) <= 10; },
      "Invalid entry width. Should be greater than 10 ft", At<&D::txtEntryWidth>},
     // The limit is in metres although the words say feet.
-    {[](const D& d) { return d.Units() == Metric && d.txtEntryWidth.Value() <= 3.3; },
+    {[](const D& d) { return d.Units() == Metric && Value<&D::txtEntryWidth>(d) <= 3.3; },
      "Invalid entry width. Should be greater than 3.3 ft", At<&D::txtEntryWidth>},
 };
 
@@ -217,7 +233,7 @@ constexpr Rule EntryBoltRules[] = {
 
 constexpr Rule EntryStandingRules[] = {
     // A missing choice turns the intersections' inner tabs instead of the entries'.
-    {NothingSelected<&D::optSupportTypeSecEntry, &D::cmbSupportTypeSecEntry>,
+    {NothingShown<&D::optSupportTypeSecEntry, &D::cmbSupportTypeSecEntry>,
      BadStandingType,
      At<&D::cmbSupportTypeSecEntry>,
      nullptr,
@@ -276,7 +292,7 @@ constexpr Rule InterBoltRules[] = {
 };
 
 constexpr Rule InterStandingRules[] = {
-    {NothingSelected<&D::optSupportTypeSecInter, &D::cmbSupportTypeSecInter>, BadStandingType,
+    {NothingShown<&D::optSupportTypeSecInter, &D::cmbSupportTypeSecInter>, BadStandingType,
      At<&D::cmbSupportTypeSecInter>},
     {NotAboveZero<&D::txtSupportCapSecInter>, BadStandingCapacity,
      [](D& d) -> Control& {
@@ -316,6 +332,11 @@ constexpr Section Sections[] = {
     {InterSystem<3>, 3, {&D::SSTab3, 3}, InterStandingRules},
 };
 
+// What cannot be judged, because a number is too large for any limit, fails.
+bool Fails(const Rule& rule, const D& dialog) {
+  return OrNothing([&] { return std::optional(rule.fails(dialog)); }).value_or(true);
+}
+
 void Tell(Program& program, D& dialog, const Section& section, const Rule& rule) {
   std::string message(rule.message);
   if (rule.suffix != nullptr) message += rule.suffix(dialog);
@@ -333,7 +354,7 @@ bool ParametersDialog::ValidateParameters() {
   for (const Section& section : Sections) {
     if (!section.applies(*this)) continue;
     for (const Rule& rule : section.rules) {
-      if (!rule.fails(*this)) continue;
+      if (!Fails(rule, *this)) continue;
       Tell(program_, *this, section, rule);
       passed = false;
       break;

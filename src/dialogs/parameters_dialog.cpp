@@ -146,14 +146,13 @@ ParametersDialog::ParametersDialog(Program& program)
 
 void ParametersDialog::TieCommands() {
   Command2.Click = [this] {
-    if (!ValidateParameters()) return;
+    if (!ValidateParameters() || !MayCommit()) return;
     CommitOnClose = true;
     Close();
   };
   Command1.Click = [this] { Close(); };
   cmdresults.Click = [this] {
-    if (!ValidateParameters()) return;
-    BuildReport();
+    if (!ValidateParameters() || !BuildReport()) return;
     ShowResults(program_);
   };
   Command5.Click = [this] { CopyClip(program_, *this); };
@@ -211,20 +210,18 @@ void ParametersDialog::FillLists() {
 }
 
 void ParametersDialog::OnClose() {
-  if (CommitOnClose) {
-    SaveWorkParms();
-    program_.UnitsLocked = true;
-  }
+  if (CommitOnClose && SaveWorkParms()) program_.UnitsLocked = true;
   AddHistoryLine(program_, WasCommitted ? history_text::ParametersModified : history_text::ParametersNotModified);
   program_.DialogOpen = false;
 }
 
-void ParametersDialog::BuildReport() {
-  CopyToWorkParmsCopy();
+bool ParametersDialog::BuildReport() {
+  if (!CopyToWorkParmsCopy()) return false;
   const Preview preview(program_.WorkParms.Design(), program_.WorkParmsCopy.Design());
   program_.ReportCaller = report_caller::Parameters;
   LoadOutBuf0(program_);
   CalculationReport(program_);
+  return true;
 }
 
 void ParametersDialog::Estimate() {

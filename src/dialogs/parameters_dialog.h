@@ -6,7 +6,9 @@
 
 #include <array>
 #include <initializer_list>
+#include <optional>
 
+#include "base/number_text.h"
 #include "core/program.h"
 #include "dialogs/parameters_controls.h"
 
@@ -20,21 +22,23 @@ class ParametersDialog : public ParametersControls {
   // last fault.
   bool ValidateParameters();
 
-  // The design as a commit of the fields would leave it; nothing is committed. Throws RuntimeError 6 when a number does
-  // not fit the record.
-  ProjectRecord EditedDesign() const;
+  // Reads the fields into a design as a commit would. A number that the design cannot hold leaves the one it has there.
+  void ReadEdits(ProjectRecord& design) const;
 
-  // Reads the fields into the committed design. Throws as EditedDesign does, nothing being changed.
-  void SaveWorkParms();
+  // Reads the fields into the committed design. A number that it cannot hold is told, its field gets the focus, and
+  // nothing is changed; false then.
+  bool SaveWorkParms();
 
-  // Reads the fields into the scratch design, for previews and curves. Manual bolt selections of all three sets come
-  // from the primary tab here.
-  void CopyToWorkParmsCopy();
+  // Reads the fields into the scratch design, for previews and curves; refuses as SaveWorkParms does. Manual bolt
+  // selections of all three sets come from the primary tab here.
+  bool CopyToWorkParmsCopy();
 
-  // Builds the report pages of the fields as they stand, without committing or checking them.
-  void BuildReport();
+  // Builds the report pages of the fields as they stand, without committing or checking them; false when the fields
+  // were refused. Throws what a report throws that cannot be computed.
+  bool BuildReport();
 
-  // The four refreshes. Each computes first and writes its outputs last; a run-time error leaves them as they were.
+  // The four refreshes. Each computes first and writes its outputs last. None throws: what cannot be computed, for
+  // whatever run-time error, shows "--" in its place.
   void ShowSuggested();
   void ShowActualPSUP();
   void ShowEntries();
@@ -85,14 +89,36 @@ class ParametersDialog : public ParametersControls {
 
   void FillLists();
   void InitParameters();
-  // manualEntry, manualInter: the controls that the manual bolt selections of these two sets are read from.
-  void StoreFields(ProjectRecord& record, const BoltControls& manualEntry, const BoltControls& manualInter) const;
+  // Reads the fields into the record, as far as it can hold them, and gives the first field whose number it cannot, or
+  // nullptr. manualEntry, manualInter: the controls that the manual bolt selections of these two sets are read from.
+  const Control* StoreFields(ProjectRecord& record, const BoltControls& manualEntry,
+                             const BoltControls& manualInter) const;
+  // The same for the user's command: all fields or, when one is refused, none.
+  bool TakeFields(ProjectRecord& record, const BoltControls& manualEntry, const BoltControls& manualInter);
+  // Whether a commit would take all fields; tells what is refused.
+  bool MayCommit();
+  void TellRefused(const Control& field);
 
   RockInputs TypedEntryRock() const;
-  RockInputs TypedIntersectionRock() const;
-  SupportSystems TypedEntrySystems() const;
-  SupportSystems TypedIntersectionSystems() const;
+  RockInputs TypedIntersectionRock(Single unitWeight) const;
   Single TypedCableCapacity(const CableControls& cable) const;
+
+  // What a support system gives under a rock load; nothing when it is passed over. Throw what the engine throws.
+  using SystemRule = std::optional<SupportResult> (ParametersDialog::*)(Single rockLoad) const;
+  std::optional<SupportResult> CableInEntry(Single rockLoad) const;
+  std::optional<SupportResult> TrussInEntry(Single rockLoad) const;
+  std::optional<SupportResult> RoofBoltInEntry(Single rockLoad) const;
+  std::optional<SupportResult> StandingInEntry(Single rockLoad) const;
+  std::optional<SupportResult> CableInIntersection(Single rockLoad) const;
+  std::optional<SupportResult> TrussInIntersection(Single rockLoad) const;
+  std::optional<SupportResult> RoofBoltInIntersection(Single rockLoad) const;
+  std::optional<SupportResult> StandingInIntersection(Single rockLoad) const;
+  struct SystemFigures;
+  // Shows the rock load, and what each system in use gives.
+  void ShowSystems(const OutputControls& outputs, const std::array<CheckBox, SystemCount>& boxes,
+                   const std::array<SystemRule, SystemCount>& rules, Single rockLoad,
+                   const NumberPattern& pattern) const;
+
   GradeBasis Basis() const { return {program_.BoltStrengthMode, program_.catalogs}; }
 
   // Asks the estimator for a roof rating.

@@ -1,14 +1,16 @@
 // The live results of the parameters dialog: from the fields as typed to the outputs.
+// A field is read when the rule at hand needs it: what is typed into another one does not matter then.
 #include "base/arithmetic.h"
+#include "base/attempt.h"
 #include "base/number_text.h"
 #include "base/text.h"
+#include "core/shared_texts.h"
 #include "dialogs/parameters_dialog.h"
 #include "engine/primary_support.h"
 
 namespace orby {
 namespace {
 
-constexpr std::string_view NoResult = "--";
 constexpr NumberPattern OneDecimal{"0.0"};
 constexpr NumberPattern WholeNumber{"0"};
 constexpr NumberPattern FactorPattern{"0.#0"};
@@ -38,24 +40,41 @@ void Clear(const OutputControls& outputs) {
   }
 }
 
-// A system that was not computed keeps what its outputs show.
-void Write(const OutputControls& outputs, const SecondaryResults& results, const NumberPattern& pattern) {
-  const std::string rockLoad = FormatNumber(results.RockLoad, pattern);
-  for (TextBox& box : outputs.RockLoad) box.SetText(rockLoad);
+}  // namespace
+
+// What a refresh has found out about a support system.
+struct ParametersDialog::SystemFigures {
+  bool Fails = false;                   // it cannot be computed
+  std::optional<SupportResult> Result;  // nothing: its outputs keep what they show
+};
+
+void ParametersDialog::ShowSystems(const OutputControls& outputs, const std::array<CheckBox, SystemCount>& boxes,
+                                   const std::array<SystemRule, SystemCount>& rules, Single rockLoad,
+                                   const NumberPattern& pattern) const {
+  std::array<SystemFigures, SystemCount> systems;
   for (std::size_t i = 0; i < SystemCount; ++i) {
-    const auto& system = results.Systems[i];
-    if (!system) continue;
-    outputs.SupportCap[i].SetText(FormatNumber(system->Capacity, pattern));
-    outputs.StabFactor[i].SetText(FormatNumber(system->StabilityFactor, FactorPattern));
+    if (!boxes[i].Checked()) continue;
+    systems[i].Fails = !Succeeds([&] { systems[i].Result = (this->*rules[i])(rockLoad); });
+  }
+  const std::string load = FormatNumber(rockLoad, pattern);
+  for (TextBox& box : outputs.RockLoad) box.SetText(load);
+  for (std::size_t i = 0; i < SystemCount; ++i) {
+    if (systems[i].Fails) {
+      Show(outputs.SupportCap[i], NoResult);
+      Show(outputs.StabFactor[i], NoResult);
+    } else if (const auto& result = systems[i].Result) {
+      outputs.SupportCap[i].SetText(FormatNumber(result->Capacity, pattern));
+      outputs.StabFactor[i].SetText(FormatNumber(result->StabilityFactor, FactorPattern));
+    }
   }
 }
 
-}  // namespace
-
 void ParametersDialog::ShowSuggested() {
-  const auto live = SuggestLive({Typed(txtStabilityFactor), Typed(txtCMRR), Typed(txtDepthofCover),
-                                 Typed(txtActualSpanDiagonals), Typed(txtEntryWidth)},
-                                Units());
+  const auto live = OrNothing([this] {
+    return SuggestLive({Typed(txtStabilityFactor), Typed(txtCMRR), Typed(txtDepthofCover),
+                        Typed(txtActualSpanDiagonals), Typed(txtEntryWidth)},
+                       Units());
+  });
   if (!live) return Show(txtSugPSUP, NoResult);
   // Metric designs have no live span warnings; the box stays as it is.
   if (Units() == English) {
@@ -78,10 +97,12 @@ void ParametersDialog::ShowSuggested() {
 }
 
 void ParametersDialog::ShowActualPSUP() {
-  const Bolt bolt = TypedBolt(PrimaryBoltControls);
-  const auto psup = ActualLive({Typed(txtBoltLengthPrimary), Typed(txtBoltsperRowPrimary), bolt.Diameter, bolt.Grade,
-                                Typed(txtRowSpacingPrimary), Typed(txtEntryWidth)},
-                               Units(), Basis());
+  const auto psup = OrNothing([this] {
+    const Bolt bolt = TypedBolt(PrimaryBoltControls);
+    return ActualLive({Typed(txtBoltLengthPrimary), Typed(txtBoltsperRowPrimary), bolt.Diameter, bolt.Grade,
+                       Typed(txtRowSpacingPrimary), Typed(txtEntryWidth)},
+                      Units(), Basis());
+  });
   Show(txtActualPSUP, psup ? FormatNumber(*psup, OneDecimal) : NoResult);
 }
 
@@ -94,9 +115,10 @@ RockInputs ParametersDialog::TypedEntryRock() const {
   return rock;
 }
 
-RockInputs ParametersDialog::TypedIntersectionRock() const {
-  return {Typed(txtUnitWeight),        Typed(txtRockLoadHeightInter), Typed(txtRockFallAngleEntry),
-          Typed(txtRockFallAngleXcut), Typed(txtEntryWidth),          Typed(txtActualSpanDiagonals)};
+RockInputs ParametersDialog::TypedIntersectionRock(Single unitWeight) const {
+  return {
+      unitWeight,           Typed(txtRockLoadHeightInter), Typed(txtRockFallAngleEntry), Typed(txtRockFallAngleXcut),
+      Typed(txtEntryWidth), Typed(txtActualSpanDiagonals)};
 }
 
 Single ParametersDialog::TypedCableCapacity(const CableControls& cable) const {
@@ -106,55 +128,77 @@ Single ParametersDialog::TypedCableCapacity(const CableControls& cable) const {
   return GetArrayIndex(cable.Capacity) == 0 ? Typed(cable.CapacityStd) : Typed(cable.CapacityManual);
 }
 
-SupportSystems ParametersDialog::TypedEntrySystems() const {
-  SupportSystems systems;
-  if (chkSecEntries[0].Checked()) {
-    systems.Cable = {TypedCableCapacity(EntryCableControls), Typed(txtCableBoltsPerRowSecEntry),
-                     Typed(txtCableRowSpacingSecEntry)};
-  }
-  if (chkSecEntries[1].Checked()) {
-    systems.Truss = {Typed(txtTrussCapacitySecEntry), Typed(txtTrussAngleSecEntry), 0, Typed(txtTrussSpacingSecEntry)};
-  }
-  if (chkSecEntries[2].Checked()) {
-    systems.RoofBolt = {TypedBolt(EntryBoltControls), Typed(txtBoltsperRowSecEntry), Typed(txtRowSpacingSecEntry)};
-  }
-  systems.StandingSpacing = Typed(txtSupportRowSpacingSecEntry);
-  if (chkSecEntries[3].Checked()) {
-    systems.Standing = {Typed(txtSupportCapSecEntry), Typed(txtNumberSupPerRowSecEntry), systems.StandingSpacing};
-  }
-  return systems;
+// ---- entries: a system without a number that decides on it is passed over -----------------------------------------
+
+std::optional<SupportResult> ParametersDialog::CableInEntry(Single rockLoad) const {
+  const Single spacing = Typed(txtCableRowSpacingSecEntry);
+  if (spacing == 0) return std::nullopt;
+  return SupportEntry(
+      rockLoad, CountedSystem{TypedCableCapacity(EntryCableControls), Typed(txtCableBoltsPerRowSecEntry), spacing});
 }
 
-SupportSystems ParametersDialog::TypedIntersectionSystems() const {
-  SupportSystems systems;
-  if (chkSecInter[0].Checked()) {
-    systems.Cable = {TypedCableCapacity(InterCableControls), Typed(txtCableNumberSecInter), 0};
-  }
-  if (chkSecInter[1].Checked()) {
-    systems.Truss = {Typed(txtTrussCapacitySecInter), Typed(txtTrussAngleSecInter), Typed(txtTrussNumberSecInter), 0};
-  }
-  if (chkSecInter[2].Checked()) {
-    systems.RoofBolt = {TypedBolt(InterBoltControls), Typed(txtBoltNumberSecInter), 0};
-  }
-  if (chkSecInter[3].Checked()) {
-    systems.Standing = {Typed(txtSupportCapSecInter), Typed(txtSupportNumberSecInter), 0};
-  }
-  return systems;
+// The standing supports' spacing decides on the trusses too: at 0 their last figures stay.
+std::optional<SupportResult> ParametersDialog::TrussInEntry(Single rockLoad) const {
+  if (Typed(txtSupportRowSpacingSecEntry) == 0) return std::nullopt;
+  return SupportEntry(rockLoad, TrussSystem{Typed(txtTrussCapacitySecEntry), Typed(txtTrussAngleSecEntry), 0,
+                                            Typed(txtTrussSpacingSecEntry)});
+}
+
+std::optional<SupportResult> ParametersDialog::RoofBoltInEntry(Single rockLoad) const {
+  const Single count = Typed(txtBoltsperRowSecEntry);
+  if (count == 0) return std::nullopt;
+  return SupportEntry(rockLoad, BoltSystem{TypedBolt(EntryBoltControls), count, Typed(txtRowSpacingSecEntry)}, Units(),
+                      Basis());
+}
+
+std::optional<SupportResult> ParametersDialog::StandingInEntry(Single rockLoad) const {
+  const Single spacing = Typed(txtSupportRowSpacingSecEntry);
+  if (spacing == 0) return std::nullopt;
+  return SupportEntry(rockLoad,
+                      CountedSystem{Typed(txtSupportCapSecEntry), Typed(txtNumberSupPerRowSecEntry), spacing});
 }
 
 void ParametersDialog::ShowEntries() {
-  const auto rockLoad = EntryRockLoad(TypedEntryRock(), Units());
+  const auto rockLoad = OrNothing([this] { return EntryRockLoad(TypedEntryRock(), Units()); });
   if (!rockLoad) return Clear(EntryOutputs);
-  Write(EntryOutputs, SupportEntry(*rockLoad, TypedEntrySystems(), Units(), Basis()), OneDecimal);
+  using D = ParametersDialog;
+  ShowSystems(EntryOutputs, chkSecEntries,
+              {&D::CableInEntry, &D::TrussInEntry, &D::RoofBoltInEntry, &D::StandingInEntry}, *rockLoad, OneDecimal);
+}
+
+// ---- intersections -------------------------------------------------------------------------------------------------
+
+std::optional<SupportResult> ParametersDialog::CableInIntersection(Single rockLoad) const {
+  return SupportIntersection(rockLoad,
+                             CountedSystem{TypedCableCapacity(InterCableControls), Typed(txtCableNumberSecInter), 0});
+}
+
+std::optional<SupportResult> ParametersDialog::TrussInIntersection(Single rockLoad) const {
+  return SupportIntersection(rockLoad, TrussSystem{Typed(txtTrussCapacitySecInter), Typed(txtTrussAngleSecInter),
+                                                   Typed(txtTrussNumberSecInter), 0});
+}
+
+std::optional<SupportResult> ParametersDialog::RoofBoltInIntersection(Single rockLoad) const {
+  return SupportIntersection(rockLoad, BoltSystem{TypedBolt(InterBoltControls), Typed(txtBoltNumberSecInter), 0},
+                             Units(), Basis());
+}
+
+std::optional<SupportResult> ParametersDialog::StandingInIntersection(Single rockLoad) const {
+  return SupportIntersection(rockLoad, CountedSystem{Typed(txtSupportCapSecInter), Typed(txtSupportNumberSecInter), 0});
 }
 
 void ParametersDialog::ShowIntersections() {
-  const RockInputs rock = TypedIntersectionRock();
+  const auto unitWeight = OrNothing([this] { return std::optional(Typed(txtUnitWeight)); });
+  if (!unitWeight) return Clear(InterOutputs);
   // A bad unit weight clears the entries' results and leaves the intersections' as they are.
-  if (!UnitWeightIsPlausible(rock.UnitWeight, Units())) return Clear(EntryOutputs);
-  const auto rockLoad = IntersectionRockLoad(rock, Units());
+  if (!UnitWeightIsPlausible(*unitWeight, Units())) return Clear(EntryOutputs);
+  const auto rockLoad = OrNothing([&] { return IntersectionRockLoad(TypedIntersectionRock(*unitWeight), Units()); });
   if (!rockLoad) return Clear(InterOutputs);
-  Write(InterOutputs, SupportIntersection(*rockLoad, TypedIntersectionSystems(), Units(), Basis()), WholeNumber);
+  using D = ParametersDialog;
+  ShowSystems(
+      InterOutputs, chkSecInter,
+      {&D::CableInIntersection, &D::TrussInIntersection, &D::RoofBoltInIntersection, &D::StandingInIntersection},
+      *rockLoad, WholeNumber);
 }
 
 }  // namespace orby

@@ -1,5 +1,6 @@
 // The parameters dialog and the project record: filling the fields, and reading them back.
 #include "base/arithmetic.h"
+#include "base/attempt.h"
 #include "base/number_text.h"
 #include "core/dialog_helpers.h"
 #include "dialogs/parameters_dialog.h"
@@ -87,8 +88,27 @@ constexpr SystemFields InterSystemFields{
     {&R::SupportCapInter1, &R::SupportCapInter2, &R::SupportCapInter3, &R::SupportCapInter4},
     {&R::StabFactorInter1, &R::StabFactorInter2, &R::StabFactorInter3, &R::StabFactorInter4}};
 
-Single SingleOf(const TextBox& box) { return ToSingle(box.Value()); }
-Single SingleOf(const Combo& combo) { return ToSingle(combo.Value()); }
+// Reads numbers into a record and remembers the first control whose number did not fit.
+class NumberReader {
+ public:
+  void Read(Single& field, const TextBox& box) { Read(field, box, box.Text()); }
+  void Read(Single& field, const Combo& combo) { Read(field, combo, combo.Text()); }
+  void Read(Single& field, const Control& control, std::string_view text) {
+    Keep(control, [&] { field = ToSingle(TextValue(text)); });
+  }
+  void Read(Integer& field, const TextBox& box) {
+    Keep(box, [&] { field = ToInteger(box.Value()); });
+  }
+  const Control* Refused() const { return refused_; }
+
+ private:
+  template <class Reading>
+  void Keep(const Control& control, const Reading& reading) {
+    if (!Succeeds(reading) && refused_ == nullptr) refused_ = &control;
+  }
+
+  const Control* refused_ = nullptr;
+};
 
 void LoadBolt(Program& program, const BoltControls& bolt) {
   const ProjectRecord& record = program.WorkParms;
@@ -125,47 +145,49 @@ void LoadStanding(Program& program, const StandingControls& standing) {
   standing.Capacity.SetText(NumberText(record.*standing.CapacityField));
 }
 
-void StoreBoltSource(ProjectRecord& record, const BoltControls& bolt) {
+void StoreBoltSource(ProjectRecord& record, NumberReader& reader, const BoltControls& bolt) {
   const BoltFields& fields = bolt.Fields;
   const Grid& table = bolt.Table;
   record.*fields.Options = GetArrayIndex(bolt.Options);
   record.*fields.TableRow = static_cast<Integer>(table.Row() - 1);
   record.*fields.Desc = table.Cell(table.Row(), BoltColumn::Description);
-  record.*fields.TableDiameter = ToSingle(TextValue(table.Cell(table.Row(), BoltColumn::Diameter)));
-  record.*fields.TableGrade = ToSingle(TextValue(table.Cell(table.Row(), BoltColumn::Grade)));
+  reader.Read(record.*fields.TableDiameter, table, table.Cell(table.Row(), BoltColumn::Diameter));
+  reader.Read(record.*fields.TableGrade, table, table.Cell(table.Row(), BoltColumn::Grade));
 }
 
 // manual: the controls whose manual selection is taken.
-void StoreBoltManual(ProjectRecord& record, const BoltFields& fields, const BoltControls& manual) {
+void StoreBoltManual(ProjectRecord& record, NumberReader& reader, const BoltFields& fields,
+                     const BoltControls& manual) {
   record.*fields.DiameterMode = GetArrayIndex(manual.DiameterMode);
-  record.*fields.DiameterStd = SingleOf(manual.DiameterStd);
-  record.*fields.DiameterManual = SingleOf(manual.DiameterManual);
+  reader.Read(record.*fields.DiameterStd, manual.DiameterStd);
+  reader.Read(record.*fields.DiameterManual, manual.DiameterManual);
   record.*fields.GradeMode = GetArrayIndex(manual.GradeMode);
-  record.*fields.GradeStd = SingleOf(manual.GradeStd);
-  record.*fields.GradeManual = SingleOf(manual.GradeManual);
+  reader.Read(record.*fields.GradeStd, manual.GradeStd);
+  reader.Read(record.*fields.GradeManual, manual.GradeManual);
 }
 
-void StoreCable(ProjectRecord& record, const CableControls& cable, const Combo& diameter) {
+void StoreCable(ProjectRecord& record, NumberReader& reader, const CableControls& cable, const Combo& diameter) {
   record.*cable.Fields.CapMode = GetArrayIndex(cable.CapMode);
   record.*cable.Fields.Capacity = GetArrayIndex(cable.Capacity);
-  record.*cable.Fields.Diam = SingleOf(diameter);
-  record.*cable.Fields.CapacityStd = SingleOf(cable.CapacityStd);
-  record.*cable.Fields.CapacityManual = SingleOf(cable.CapacityManual);
+  reader.Read(record.*cable.Fields.Diam, diameter);
+  reader.Read(record.*cable.Fields.CapacityStd, cable.CapacityStd);
+  reader.Read(record.*cable.Fields.CapacityManual, cable.CapacityManual);
 }
 
-void StoreStanding(ProjectRecord& record, const StandingControls& standing) {
+void StoreStanding(ProjectRecord& record, NumberReader& reader, const StandingControls& standing) {
   const Integer mode = GetArrayIndex(standing.TypeMode);
   record.*standing.ModeField = mode;
   record.*standing.NameField = mode == 0 ? standing.TypeStd.Text() : standing.TypeManual.Text();
-  record.*standing.CapacityField = SingleOf(standing.Capacity);
+  reader.Read(record.*standing.CapacityField, standing.Capacity);
 }
 
 // The outputs are read back as they are shown, rounded; "--" reads as 0.
-void StoreOutputs(ProjectRecord& record, const SystemFields& fields, const OutputControls& outputs) {
-  record.*fields.rockLoad = SingleOf(outputs.RockLoad[0]);
+void StoreOutputs(ProjectRecord& record, NumberReader& reader, const SystemFields& fields,
+                  const OutputControls& outputs) {
+  reader.Read(record.*fields.rockLoad, outputs.RockLoad[0]);
   for (std::size_t i = 0; i < SystemCount; ++i) {
-    record.*fields.supportCap[i] = SingleOf(outputs.SupportCap[i]);
-    record.*fields.stabFactor[i] = SingleOf(outputs.StabFactor[i]);
+    reader.Read(record.*fields.supportCap[i], outputs.SupportCap[i]);
+    reader.Read(record.*fields.stabFactor[i], outputs.StabFactor[i]);
   }
 }
 
@@ -192,48 +214,65 @@ void ParametersDialog::InitParameters() {
   AppendUnits(*this, Units());
 }
 
-void ParametersDialog::StoreFields(ProjectRecord& record, const BoltControls& manualEntry,
-                                   const BoltControls& manualInter) const {
-  record.CMRR = ToInteger(txtCMRR.Value());
+const Control* ParametersDialog::StoreFields(ProjectRecord& record, const BoltControls& manualEntry,
+                                             const BoltControls& manualInter) const {
+  NumberReader reader;
+  reader.Read(record.CMRR, txtCMRR);
   record.CMRRRegionIndex = program_.estimator.EstimatorRegion;
   record.CMRRRockTypeIndex = program_.estimator.EstimatorRockType;
-  for (const auto& [control, field] : NumberFields) record.*field = SingleOf(this->*control);
+  for (const auto& [control, field] : NumberFields) reader.Read(record.*field, this->*control);
   for (const auto& [control, field] : FlagFields) record.*field = (this->*control).Value();
   for (const BoltControls* bolt : {&PrimaryBoltControls, &EntryBoltControls, &InterBoltControls}) {
-    StoreBoltSource(record, *bolt);
+    StoreBoltSource(record, reader, *bolt);
   }
-  StoreBoltManual(record, PrimaryBolt, PrimaryBoltControls);
-  StoreBoltManual(record, SecEntryBolt, manualEntry);
-  StoreBoltManual(record, SecInterBolt, manualInter);
+  StoreBoltManual(record, reader, PrimaryBolt, PrimaryBoltControls);
+  StoreBoltManual(record, reader, SecEntryBolt, manualEntry);
+  StoreBoltManual(record, reader, SecInterBolt, manualInter);
   // Both cable diameters are the entries tab's; the intersections tab's own serves the live results alone.
-  StoreCable(record, EntryCableControls, cmbCableDiamSecEntry);
-  StoreCable(record, InterCableControls, cmbCableDiamSecEntry);
-  StoreStanding(record, EntryStandingControls);
-  StoreStanding(record, InterStandingControls);
+  StoreCable(record, reader, EntryCableControls, cmbCableDiamSecEntry);
+  StoreCable(record, reader, InterCableControls, cmbCableDiamSecEntry);
+  StoreStanding(record, reader, EntryStandingControls);
+  StoreStanding(record, reader, InterStandingControls);
   for (const SystemFields* fields : {&EntrySystemFields, &InterSystemFields}) {
     for (std::size_t i = 0; i < SystemCount; ++i) record.*fields->use[i] = (this->*fields->boxes)[i].Value();
   }
-  StoreOutputs(record, EntrySystemFields, EntryOutputs);
-  StoreOutputs(record, InterSystemFields, InterOutputs);
+  StoreOutputs(record, reader, EntrySystemFields, EntryOutputs);
+  StoreOutputs(record, reader, InterSystemFields, InterOutputs);
+  return reader.Refused();
 }
 
 // A commit makes the intersections' manual bolts those of the entries tab.
-ProjectRecord ParametersDialog::EditedDesign() const {
-  ProjectRecord design = program_.WorkParms;
+void ParametersDialog::ReadEdits(ProjectRecord& design) const {
   StoreFields(design, EntryBoltControls, EntryBoltControls);
-  return design;
 }
 
-void ParametersDialog::SaveWorkParms() {
-  program_.WorkParms = EditedDesign();
+bool ParametersDialog::TakeFields(ProjectRecord& record, const BoltControls& manualEntry,
+                                  const BoltControls& manualInter) {
+  ProjectRecord taken = record;
+  if (const Control* refused = StoreFields(taken, manualEntry, manualInter)) {
+    TellRefused(*refused);
+    return false;
+  }
+  record = std::move(taken);
+  return true;
+}
+
+bool ParametersDialog::MayCommit() {
+  ProjectRecord design = program_.WorkParms;
+  return TakeFields(design, EntryBoltControls, EntryBoltControls);
+}
+
+bool ParametersDialog::SaveWorkParms() {
+  if (!TakeFields(program_.WorkParms, EntryBoltControls, EntryBoltControls)) return false;
   program_.FileSaved = false;
   program_.FileEmpty = false;
   WasCommitted = true;
+  return true;
 }
 
 // A preview judges all secondary bolts with the primary tab's manual selection.
-void ParametersDialog::CopyToWorkParmsCopy() {
-  StoreFields(program_.WorkParmsCopy, PrimaryBoltControls, PrimaryBoltControls);
+bool ParametersDialog::CopyToWorkParmsCopy() {
+  return TakeFields(program_.WorkParmsCopy, PrimaryBoltControls, PrimaryBoltControls);
 }
 
 }  // namespace orby

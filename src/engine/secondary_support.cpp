@@ -80,41 +80,28 @@ std::optional<Single> IntersectionRockLoad(const RockInputs& rock, Integer units
   return LoadOf(volume, rock.UnitWeight, units);
 }
 
-SecondaryResults SupportEntry(Single rockLoad, const SupportSystems& systems, Integer units, const GradeBasis& basis) {
-  SecondaryResults results{rockLoad, {}};
-  if (const auto& cable = systems.Cable; cable && cable->Spacing != 0) {
-    results.Systems[0] = Judge(Divide(static_cast<double>(cable->Capacity) * cable->Count, cable->Spacing), rockLoad);
-  }
-  // The standing supports' spacing decides on the trusses too: at 0 their last figures stay.
-  if (const auto& truss = systems.Truss; truss && systems.StandingSpacing != 0) {
-    results.Systems[1] = Judge(Divide(TrussPairCapacity(*truss), truss->Spacing), rockLoad);
-  }
-  if (const auto& bolts = systems.RoofBolt; bolts && bolts->Count != 0) {
-    results.Systems[2] = Judge(Divide(BoltYieldCapacity(*bolts, units, basis), bolts->Spacing), rockLoad);
-  }
-  if (const auto& standing = systems.Standing; standing && standing->Spacing != 0) {
-    results.Systems[3] =
-        Judge(Divide(static_cast<double>(standing->Capacity) * standing->Count, standing->Spacing), rockLoad);
-  }
-  return results;
+SupportResult SupportEntry(Single rockLoad, const CountedSystem& system) {
+  return Judge(Divide(static_cast<double>(system.Capacity) * system.Count, system.Spacing), rockLoad);
 }
 
-SecondaryResults SupportIntersection(Single rockLoad, const SupportSystems& systems, Integer units,
-                                     const GradeBasis& basis) {
-  SecondaryResults results{rockLoad, {}};
-  if (const auto& cable = systems.Cable) {
-    results.Systems[0] = Judge(static_cast<double>(cable->Capacity) * cable->Count, rockLoad);
-  }
-  if (const auto& truss = systems.Truss) {
-    results.Systems[1] = Judge(TrussPairCapacity(*truss) * truss->Count, rockLoad);
-  }
-  if (const auto& bolts = systems.RoofBolt) {
-    results.Systems[2] = Judge(BoltYieldCapacity(*bolts, units, basis), rockLoad);
-  }
-  if (const auto& standing = systems.Standing) {
-    results.Systems[3] = Judge(static_cast<double>(standing->Capacity) * standing->Count, rockLoad);
-  }
-  return results;
+SupportResult SupportEntry(Single rockLoad, const TrussSystem& trusses) {
+  return Judge(Divide(TrussPairCapacity(trusses), trusses.Spacing), rockLoad);
+}
+
+SupportResult SupportEntry(Single rockLoad, const BoltSystem& bolts, Integer units, const GradeBasis& basis) {
+  return Judge(Divide(BoltYieldCapacity(bolts, units, basis), bolts.Spacing), rockLoad);
+}
+
+SupportResult SupportIntersection(Single rockLoad, const CountedSystem& system) {
+  return Judge(static_cast<double>(system.Capacity) * system.Count, rockLoad);
+}
+
+SupportResult SupportIntersection(Single rockLoad, const TrussSystem& trusses) {
+  return Judge(TrussPairCapacity(trusses) * trusses.Count, rockLoad);
+}
+
+SupportResult SupportIntersection(Single rockLoad, const BoltSystem& bolts, Integer units, const GradeBasis& basis) {
+  return Judge(BoltYieldCapacity(bolts, units, basis), rockLoad);
 }
 
 }  // namespace orby

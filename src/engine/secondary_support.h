@@ -1,9 +1,9 @@
 // Secondary support of entries and intersections: rock load, and capacity and stability factor of each support system.
-// Everything is in the project's units: ft, tons, pcf, in, ksi, or m, kN, kN/m3, mm, MPa. A bolt row spacing or a truss
-// spacing of 0 throws RuntimeError 11.
+// Everything is in the project's units: ft, tons, pcf, in, ksi, or m, kN, kN/m3, mm, MPa. What cannot be
+// computed throws its RuntimeError.
 #pragma once
 
-#include <array>
+#include <cstddef>
 #include <optional>
 
 #include "core/project_record.h"
@@ -21,8 +21,9 @@ struct RockInputs {
   Single Span = 0;           // sum of the diagonals; intersections only
 };
 
-// A support system: its count is per row in an entry, the total in an intersection, where the spacing is not used.
-struct CableSystem {
+// Cable bolts or standing supports: the count is per row in an entry, the total in an intersection, where the spacing
+// is not used.
+struct CountedSystem {
   Single Capacity = 0;
   Single Count = 0;
   Single Spacing = 0;
@@ -38,31 +39,13 @@ struct BoltSystem {
   Single Count = 0;
   Single Spacing = 0;
 };
-struct StandingSystem {
-  Single Capacity = 0;
-  Single Count = 0;
-  Single Spacing = 0;
-};
 
-// The systems in use; one that is absent is not computed.
-struct SupportSystems {
-  std::optional<CableSystem> Cable;
-  std::optional<TrussSystem> Truss;
-  std::optional<BoltSystem> RoofBolt;
-  std::optional<StandingSystem> Standing;
-  Single StandingSpacing = 0;  // the standing supports' row spacing, which decides on the trusses of an entry too
-};
-
-struct SupportResult {
-  Single Capacity = 0;
-  Single StabilityFactor = 0;  // capacity / rock load
-};
-
+// Cable bolts, trusses, roof bolts, standing supports.
 inline constexpr std::size_t SystemCount = 4;
 
-struct SecondaryResults {
-  Single RockLoad = 0;  // tons/ft or kN/m in an entry, tons or kN in an intersection
-  std::array<std::optional<SupportResult>, SystemCount> Systems;  // cable, truss, roof bolt, standing
+struct SupportResult {
+  Single Capacity = 0;         // per length of entry, or of the whole intersection
+  Single StabilityFactor = 0;  // capacity / rock load
 };
 
 // At least 100 pcf, or 15 kN/m3.
@@ -77,12 +60,14 @@ std::optional<Single> EntryRockLoad(const RockInputs& rock, Integer units);
 // the entry angle is 0.
 std::optional<Single> IntersectionRockLoad(const RockInputs& rock, Integer units);
 
-// Capacity per length of entry. Cables and standing supports at a spacing of 0 and no bolts per row are passed over;
-// so are the trusses when the standing supports' spacing is 0.
-SecondaryResults SupportEntry(Single rockLoad, const SupportSystems& systems, Integer units, const GradeBasis& basis);
+// What a system gives per length of entry. Throws RuntimeError 11 at a spacing of 0, 6 beyond a Single.
+SupportResult SupportEntry(Single rockLoad, const CountedSystem& system);
+SupportResult SupportEntry(Single rockLoad, const TrussSystem& trusses);
+SupportResult SupportEntry(Single rockLoad, const BoltSystem& bolts, Integer units, const GradeBasis& basis);
 
-// Capacity of all units in the intersection.
-SecondaryResults SupportIntersection(Single rockLoad, const SupportSystems& systems, Integer units,
-                                     const GradeBasis& basis);
+// What all units of a system in an intersection give. Throws RuntimeError 6 beyond a Single.
+SupportResult SupportIntersection(Single rockLoad, const CountedSystem& system);
+SupportResult SupportIntersection(Single rockLoad, const TrussSystem& trusses);
+SupportResult SupportIntersection(Single rockLoad, const BoltSystem& bolts, Integer units, const GradeBasis& basis);
 
 }  // namespace orby

@@ -4,6 +4,7 @@
 #include <span>
 
 #include "base/arithmetic.h"
+#include "base/attempt.h"
 
 namespace orby {
 namespace {
@@ -34,21 +35,25 @@ constexpr std::array StressGradient{First, UnitRow{0, Step::Divide, 0.0833333333
 // By UnitGroup.
 constexpr std::array<std::span<const UnitRow>, 5> Groups{Length, Load, LoadGradient, Stress, StressGradient};
 
-double Reach(const UnitRow& row, double value) {
-  return row.step == Step::Multiply ? Multiply(value, row.factor) : Divide(value, row.factor);
+using Result = std::optional<double>;
+
+Result Reach(const UnitRow& row, const Result& value) {
+  if (!value) return std::nullopt;
+  return OrNothing(
+      [&] { return Result(row.step == Step::Multiply ? Multiply(*value, row.factor) : Divide(*value, row.factor)); });
 }
 
-double GoBack(const UnitRow& row, double value) {
-  return row.step == Step::Multiply ? Divide(value, row.factor) : Multiply(value, row.factor);
+UnitRow Inverse(const UnitRow& row) {
+  return {row.from, row.step == Step::Multiply ? Step::Divide : Step::Multiply, row.factor};
 }
 
 }  // namespace
 
-std::vector<double> ConvertUnits(UnitGroup group, double value, std::size_t unit) {
+std::vector<std::optional<double>> ConvertUnits(UnitGroup group, double value, std::size_t unit) {
   const auto rows = Groups[static_cast<std::size_t>(group)];
-  double first = value;
-  for (std::size_t at = unit; at != 0; at = rows[at].from) first = GoBack(rows[at], first);
-  std::vector<double> results{first};
+  Result first = value;
+  for (std::size_t at = unit; at != 0; at = rows[at].from) first = Reach(Inverse(rows[at]), first);
+  std::vector<Result> results{first};
   for (std::size_t i = 1; i < rows.size(); ++i) results.push_back(Reach(rows[i], results[rows[i].from]));
   results[unit] = value;
   return results;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 namespace orby {
@@ -16,8 +17,8 @@ enum class UnitGroup {
   StressGradient,  // psi/in, psi/ft, Pa/m, MPa/m        0.08333333333333333, 271447.137519685 (Pa/m)/(psi/in)
 };
 
-// The value, given in one unit of the group, in each of its units. In its own unit it stays as it is.
-// Throws RuntimeError 6 when a result is beyond a Double.
-std::vector<double> ConvertUnits(UnitGroup group, double value, std::size_t unit);
+// The value, given in one unit of the group, in each of its units. In its own unit it stays as it is. Nothing for a
+// unit in which it is beyond a Double, and for those reached from there.
+std::vector<std::optional<double>> ConvertUnits(UnitGroup group, double value, std::size_t unit);
 
 }  // namespace orby

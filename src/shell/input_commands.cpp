@@ -49,19 +49,17 @@ void MainWindow::EditDesign(Trap trap) {
   RefreshCaption();
 }
 
-// After each act of the user, for the case that one of the next ends the run.
+// After each act of the user, for the case that one of the next ends the run. A number that the project cannot hold
+// leaves the last one in its field that could be held.
 template <class Dialog>
 void MainWindow::KeepEdits(Dialog& dialog) {
-  const auto tell = [this, &dialog](void (Recovery::*routine)(const ProjectRecord&)) {
-    try {
-      (recovery_.*routine)(dialog.EditedDesign());
-    } catch (const RuntimeError&) {
-      // Fields that could not be committed leave the last ones that could.
-    }
+  auto read = [&dialog, kept = program_.WorkParms]() mutable -> const ProjectRecord& {
+    dialog.ReadEdits(kept);
+    return kept;
   };
-  tell(&Recovery::DesignShown);
-  dialog.Acted = [&dialog, tell] {
-    if (dialog.IsOpen()) tell(&Recovery::DesignChanged);
+  recovery_.DesignShown(read());
+  dialog.Acted = [this, &dialog, read]() mutable {
+    if (dialog.IsOpen()) recovery_.DesignChanged(read());
   };
 }
 

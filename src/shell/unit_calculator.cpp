@@ -1,9 +1,11 @@
 #include "shell/unit_calculator.h"
 
+#include "base/attempt.h"
 #include "base/number_text.h"
 #include "core/dialog_helpers.h"
 #include "core/help.h"
 #include "core/messages.h"
+#include "core/shared_texts.h"
 
 namespace orby {
 
@@ -32,8 +34,12 @@ void UnitCalculator::OnOpen() {
 
 void UnitCalculator::Convert(const Page& page) {
   const auto unit = static_cast<std::size_t>(GetArrayIndex(page.units));
-  const std::vector<double> values = ConvertUnits(page.group, page.input.Value(), unit);
-  for (std::size_t i = 0; i < values.size(); ++i) page.results[i].SetText(NumberText(values[i]));
+  const auto value = OrNothing([&page] { return std::optional(page.input.Value()); });
+  std::vector<std::optional<double>> results(page.results.size());
+  if (value) results = ConvertUnits(page.group, *value, unit);
+  for (std::size_t i = 0; i < results.size(); ++i) {
+    page.results[i].SetText(results[i] ? NumberText(*results[i]) : std::string(NoResult));
+  }
 }
 
 }  // namespace orby

@@ -182,12 +182,22 @@ TEST_F(ACostDialog, TreatsTheWindowsCloseAsCancel) {
   EXPECT_THAT(program.history.Text, EndsWith("2. Project Parameters Not Modified\r\n"));
 }
 
-TEST_F(ACostDialog, FailsOnANumberThatNoDesignCanHoldAndWritesNothing) {
+TEST_F(ACostDialog, RefusesANumberThatNoDesignCanHold) {
   dialog.Open();
   dialog.txtBoltCost.SetText("9");
-  dialog.txtWeeksYear.SetText("1E39");
+  for (const char* number : {"1E39", "-1E39", "1E400"}) {
+    dialog.txtWeeksYear.SetText(number);
 
-  EXPECT_EQ(ErrorNumberOf([this] { dialog.Command2.Press(); }), 6);
+    dialog.Command2.Press();
+    dialog.cmdresults.Press();
+
+    EXPECT_THAT(platform.boxes.Texts(),
+                ElementsAre("Invalid number of weeks per year", "Invalid number of weeks per year"))
+        << number;
+    EXPECT_EQ(dialog.FocusRequest(), &dialog.txtWeeksYear) << number;
+    EXPECT_TRUE(dialog.IsOpen()) << number;
+    platform.boxes.shown.clear();
+  }
 
   EXPECT_EQ(program.WorkParms.CostBoltCost, 3.0F);
   EXPECT_TRUE(program.FileSaved);
@@ -362,7 +372,8 @@ TEST_F(ACostDialog, GivesTheDesignThatOkWouldStoreWithoutCommittingIt) {
   dialog.txtBoltCost.SetText("3.25");
   dialog.chkAdvance.SetValue(0);
 
-  const ProjectRecord edited = dialog.EditedDesign();
+  ProjectRecord edited = program.WorkParms;
+  dialog.ReadEdits(edited);
 
   EXPECT_EQ(edited.CostBoltCost, 3.25F);
   EXPECT_EQ(edited.CostAdvance, 0);
@@ -374,11 +385,17 @@ TEST_F(ACostDialog, GivesTheDesignThatOkWouldStoreWithoutCommittingIt) {
   EXPECT_FALSE(dialog.WasCommitted);
 }
 
-TEST_F(ACostDialog, FailsToGiveADesignThatNoRecordCanHold) {
+TEST_F(ACostDialog, GivesTheNumbersThatADesignCanHoldAndLeavesTheOthers) {
   dialog.Open();
+  dialog.txtBoltCost.SetText("3.25");
   dialog.txtWeeksYear.SetText("1E39");
+  ProjectRecord design;
+  design.CostWeeksYear = 48;
 
-  EXPECT_EQ(ErrorNumberOf([this] { dialog.EditedDesign(); }), 6);
+  dialog.ReadEdits(design);
+
+  EXPECT_EQ(design.CostBoltCost, 3.25F);
+  EXPECT_EQ(design.CostWeeksYear, 48);
 }
 
 }  // namespace

@@ -264,15 +264,33 @@ TEST_F(ACostDialog, KeepsItsInputFieldsOpenWhateverIsCalculated) {
   }
 }
 
-TEST_F(ACostDialog, FailsOnAFigureBeyondEveryNumberAndKeepsTheLastOne) {
+TEST_F(ACostDialog, ShowsADashForAFigureBeyondEveryNumber) {
   dialog.Open();
   dialog.txtnBoltsRow.SetText("1E200");
 
-  EXPECT_EQ(ErrorNumberOf([this] { dialog.txtnboltsShift.SetText("1E200"); }), 6);
-
+  dialog.txtAdvanceRate.SetText("1E200");
   EXPECT_EQ(dialog.txtAdvanceShiftCalc.Text(), "7.5E+201");
-  EXPECT_EQ(ErrorNumberOf([this] { dialog.txtAdvanceRate.SetText("1E200"); }), 6);
-  EXPECT_EQ(dialog.txtCleanProductionCalc.Text(), "3E+202");
+  EXPECT_EQ(dialog.txtCleanProductionCalc.Text(), "--");
+
+  dialog.txtnboltsShift.SetText("1E200");
+  EXPECT_EQ(dialog.txtAdvanceShiftCalc.Text(), "--");
+  EXPECT_EQ(dialog.txtCleanProductionCalc.Text(), "--");
+
+  dialog.txtAdvanceRate.SetText("4");
+  EXPECT_EQ(dialog.txtCleanProductionCalc.Text(), "--") << "there is no advance to compute it from";
+
+  dialog.txtnboltsShift.SetText("30");
+  EXPECT_EQ(dialog.txtAdvanceShiftCalc.Text(), "7.5E+200");
+  EXPECT_EQ(dialog.txtCleanProductionCalc.Text(), "3E+201");
+}
+
+TEST_F(ACostDialog, ShowsADashForARowSpacingThatIsNoNumberAtAll) {
+  dialog.Open();
+
+  dialog.txtRowSpacing.SetText("1E400");
+
+  EXPECT_EQ(dialog.txtAdvanceShiftCalc.Text(), "--");
+  EXPECT_EQ(dialog.txtCleanProductionCalc.Text(), "--");
 }
 
 }  // namespace

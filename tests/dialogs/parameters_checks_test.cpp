@@ -344,8 +344,11 @@ TEST_F(ParameterChecks, LeaveEveryFieldAsTyped) {
   EXPECT_TRUE(opened->IsOpen());
 }
 
-TEST_F(ParameterChecks, KeepASelectionWhoseTextWasBlanked) {
-  EXPECT_THAT(Faults(English, "optSupportTypeSecInter=1|optSupportTypeSecInter=0"), IsEmpty());
+TEST_F(ParameterChecks, CountASupportTypeThatShowsNothingAsNotChosen) {
+  EXPECT_THAT(Faults(English, "optSupportTypeSecInter=1|optSupportTypeSecInter=0"),
+              ElementsAre("Invalid standing support specification"));
+  EXPECT_THAT(Faults(English, "optSupportTypeSecEntry=1|optSupportTypeSecEntry=0"), IsEmpty())
+      << "the entries bring the name of the chosen one back";
 }
 
 }  // namespace

@@ -188,24 +188,6 @@ TEST_F(EntryResults, OfTrussesStayAsTheyWereWithoutASpacingOfStandingSupports) {
   EXPECT_EQ(Entry(1)[1], "21.2");
 }
 
-TEST_F(EntryResults, FailOnASpacingOfZeroAndStayAsTheyWere) {
-  for (const std::string_view bad :
-       {"txtTrussSpacingSecEntry=0", "txtTrussSpacingSecEntry=", "txtRowSpacingSecEntry=0", "txtRowSpacingSecEntry="}) {
-    ParametersDialog other(program);
-    other.Open();
-    Edit(other, AllSystems);
-    other.HoldEvents = true;
-    Edit(other, "txtUnitWeight=100|txtCableBoltsPerRowSecEntry=4");
-    other.HoldEvents = false;
-
-    EXPECT_EQ(ErrorNumberOf([&] { Edit(other, bad); }), 11) << bad;
-
-    EXPECT_THAT(All(other.EntryOutputs), ElementsAre("10.0", "10.6", "1.06", "10.0", "10.6", "1.06",  //
-                                                     "10.0", "8.4", "0.85", "10.0", "12.5", "1.25"))
-        << bad;
-  }
-}
-
 TEST_F(EntryResults, TakeTheCableByDiameterFromTheListOrAsTyped) {
   dialog.Open();
 
@@ -342,16 +324,6 @@ TEST_F(IntersectionResults, LimitTheHeightByTheEntryAngle) {
   Do("txtRockFallAngleXcut=0");
   EXPECT_EQ(Intersection(0)[0], "335");
   EXPECT_EQ(dialog.txtRockLoadHeightInter.Text(), "40");
-}
-
-TEST_F(IntersectionResults, FailOnALimitedHeightWithoutAnEntryAngleAndStayAsTheyWere) {
-  OpenWithAllSystems();
-  DoQuietly("txtRockLoadHeightInter=40");
-
-  EXPECT_EQ(ErrorNumberOf([this] { Do("txtRockFallAngleEntry=0"); }), 11);
-
-  EXPECT_THAT(Intersection(0), ElementsAre("183", "264", "1.44"));
-  EXPECT_THAT(Intersection(3), ElementsAre("183", "200", "1.09"));
 }
 
 TEST_F(IntersectionResults, OfASystemOutOfUseStayAsTheyWereButForTheLoad) {

@@ -134,16 +134,29 @@ TEST_F(OpeningParameters, ShowsTheFourLiveResultsOnce) {
 }
 
 TEST_F(OpeningParameters, RunsNoRefreshWhileTheFieldsAreFilled) {
-  // A depth of 0 stops the first of the four refreshes, so the outputs show whether any ran before.
+  // The depth cannot be computed with, so what it is refreshed with while the fields are filled would stay.
   program.WorkParms.DepthofCover = 0;
 
-  EXPECT_EQ(ErrorNumberOf([this] { dialog.Open(); }), 5);
+  dialog.Open();
 
-  EXPECT_EQ(dialog.txtSupportRowSpacingSecEntry.Text(), "8");
-  EXPECT_EQ(dialog.txtSugPSUP.Text(), "");
-  EXPECT_EQ(dialog.txtActualPSUP.Text(), "");
-  EXPECT_THAT(TextsOf(dialog.txtRockLoadEntry), ElementsAre("---", "---", "---", "---"));
-  EXPECT_THAT(TextsOf(dialog.txtRockLoadInter), ElementsAre("---", "---", "---", "---"));
+  EXPECT_EQ(dialog.txtSugPSUP.Text(), "--");
+  EXPECT_EQ(dialog.txtSugSumDiagonals.Text(), "");
+  EXPECT_EQ(dialog.txtSuggestBoltLength.Text(), "");
+}
+
+TEST_F(OpeningParameters, WithADepthOfZeroLeavesItToBeRepaired) {
+  program.WorkParms.DepthofCover = 0;
+  dialog.Open();
+  dialog.Command2.Press();
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid depth of cover"));
+  EXPECT_TRUE(dialog.IsOpen());
+
+  Do("txtDepthofCover=400");
+  EXPECT_EQ(dialog.txtSugPSUP.Text(), "7.6");
+  dialog.Command2.Press();
+
+  EXPECT_FALSE(dialog.IsOpen());
+  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
 }
 
 TEST_F(OpeningParameters, TellsOfAnOptionThatDoesNotExistAndFails) {

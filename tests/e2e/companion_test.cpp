@@ -269,6 +269,26 @@ TEST_F(Companion, TellsThatARunTimeErrorEndedTheReport) {
   EXPECT_EQ(outcome.out, "");
 }
 
+TEST_F(Companion, GoesOnWithADesignWithoutADepthUntilItsReport) {
+  std::string bytes = Read(Example("development-entry"));
+  const std::string depth = "\r\n650\r\n162\r\n";
+  ASSERT_NE(bytes.find(depth), std::string::npos);
+  bytes.replace(bytes.find(depth), depth.size(), "\r\n0\r\n162\r\n");
+  const std::string file = Write("no-depth.ORB", bytes);
+
+  const Outcome live = Run({"live", file});
+  EXPECT_EQ(live.exitCode, 0);
+  EXPECT_THAT(live.out, HasSubstr("txtSugPSUP=--\n"));
+  EXPECT_THAT(live.out, HasSubstr("txtActualPSUP=8.0\n"));
+  const Outcome validate = Run({"validate", file});
+  EXPECT_EQ(validate.exitCode, 4);
+  EXPECT_EQ(validate.out, "Invalid depth of cover\n");
+  const Outcome report = Run({"report", file});
+  EXPECT_EQ(report.exitCode, 3);
+  EXPECT_EQ(report.err, "run-time error 5: Invalid procedure call or argument\n");
+  EXPECT_EQ(report.out, "");
+}
+
 TEST_F(Companion, NeedsNoOptionOrderAndTakesFileNamesBehindTwoDashes) {
   const std::string file = Write("-odd.ORB", Read(Example("weak-roof")));
 

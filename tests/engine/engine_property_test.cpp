@@ -94,20 +94,16 @@ RC_GTEST_PROP(LimitedHeightProperty, IsNeverAboveTheOneAskedFor, ()) {
 
 RC_GTEST_PROP(StabilityFactorProperty, TimesTheRockLoadIsTheCapacity, ()) {
   const Single rockLoad = *Typed(1, 500);
-  SupportSystems systems;
-  systems.Cable = {*Typed(1, 100), *Typed(1, 10), *Typed(1, 10)};
-  systems.Truss = {*Typed(1, 100), *Typed(0, 89), *Typed(1, 10), *Typed(1, 10)};
-  systems.RoofBolt = {{*Typed(1, 2), *Typed(36, 120)}, *Typed(1, 10), *Typed(1, 10)};
-  systems.Standing = {*Typed(1, 500), *Typed(1, 10), *Typed(1, 10)};
-  systems.StandingSpacing = systems.Standing->Spacing;
+  const CountedSystem counted{*Typed(1, 100), *Typed(1, 10), *Typed(1, 10)};
+  const TrussSystem trusses{*Typed(1, 100), *Typed(0, 89), *Typed(1, 10), *Typed(1, 10)};
+  const BoltSystem bolts{{*Typed(1, 2), *Typed(36, 120)}, *Typed(1, 10), *Typed(1, 10)};
 
   for (const Integer mode : {Yield, Ultimate}) {
-    for (const auto& results : {SupportEntry(rockLoad, systems, English, Grades(mode)),
-                                SupportIntersection(rockLoad, systems, English, Grades(mode))}) {
-      for (const auto& system : results.Systems) {
-        RC_ASSERT(system.has_value());
-        RC_ASSERT(AgreesWithin(1E-6, system->Capacity, static_cast<double>(system->StabilityFactor) * rockLoad));
-      }
+    for (const SupportResult& system :
+         {SupportEntry(rockLoad, counted), SupportEntry(rockLoad, trusses),
+          SupportEntry(rockLoad, bolts, English, Grades(mode)), SupportIntersection(rockLoad, counted),
+          SupportIntersection(rockLoad, trusses), SupportIntersection(rockLoad, bolts, English, Grades(mode))}) {
+      RC_ASSERT(AgreesWithin(1E-6, system.Capacity, static_cast<double>(system.StabilityFactor) * rockLoad));
     }
   }
 }

@@ -18,6 +18,12 @@ using testing::IsEmpty;
 
 class Boundary : public GuiTest {
  protected:
+  // A design that passes the checks and that no report can be computed of.
+  void MakeReportFail() {
+    program.WorkParms.PrimSupport = 1;
+    program.WorkParms.StabilityFactor = 1E38F;
+  }
+
   ParametersDialog dialog{program};
 };
 
@@ -36,10 +42,22 @@ TEST_F(Boundary, LeavesAProgrammersMistakeAlone) {
   EXPECT_THROW(RunGuarded([] { throw std::logic_error("no widget"); }), std::logic_error);
 }
 
-TEST_F(Boundary, MeetsTheErrorOfABlankDepth) {
+TEST_F(Boundary, MeetsTheErrorOfAReportThatCannotBeComputed) {
+  MakeReportFail();
   Use(dialog, [this](QDialog& window) {
-    TypeInto(window, "txtDepthofCover", "");
-    EXPECT_THAT(TakeErrors(), ElementsAre(5));
+    PressLetterOf(window, "cmdresults");
+    EXPECT_THAT(TakeErrors(), ElementsAre(6));
+    Press(Qt::Key_Escape);
+  });
+}
+
+TEST_F(Boundary, IsNotReachedByWhatIsTypedIntoAField) {
+  Use(dialog, [this](QDialog& window) {
+    for (const char* text : {"", "0.9", "-", "1E40", "1E400"}) {
+      TypeInto(window, "txtDepthofCover", text);
+      EXPECT_EQ(TextOn(window, "txtDepthofCover"), text);
+    }
+    EXPECT_THAT(TakeErrors(), IsEmpty());
     Press(Qt::Key_Escape);
   });
 }
@@ -60,11 +78,12 @@ TEST_F(Boundary, TellsOfEachActThatIsDone) {
 
 TEST_F(Boundary, DoesNotTellOfAnActThatFails) {
   int acts = 0;
+  MakeReportFail();
   dialog.Acted = [&] { ++acts; };
   Use(dialog, [&](QDialog& window) {
-    TypeInto(window, "txtDepthofCover", "");
+    PressLetterOf(window, "cmdresults");
     EXPECT_EQ(acts, 0);
-    EXPECT_THAT(TakeErrors(), ElementsAre(5));
+    EXPECT_THAT(TakeErrors(), ElementsAre(6));
     Press(Qt::Key_Escape);
   });
 }

@@ -132,20 +132,32 @@ TEST_F(InputMenu, IsWhereTheResultsReturnTo) {
   EXPECT_THAT(names, ElementsAre("frmPENVParm", "frmTULKCost"));
 }
 
-TEST_F(InputMenu, EndsTheRunWithTheErrorOfADesignThatCannotBeShown) {
+TEST_F(InputMenu, ShowsADesignWithoutADepth) {
   program.WorkParms.DepthofCover = 0;
+  InDialog<ParametersDialog>([](ParametersDialog& dialog) { EXPECT_EQ(dialog.txtSugPSUP.Text(), "--"); });
 
-  EXPECT_EQ(ErrorNumberOf([&] { Choose(edit_item::Parameters); }), 5);
+  Choose(edit_item::Parameters);
+
+  EXPECT_EQ(platform.windows.modalForms, 1);
+}
+
+TEST_F(InputMenu, EndsTheRunWithTheErrorOfADesignThatCannotBeShown) {
+  program.WorkParms.BoltOptionsPrimary = 2;
+
+  EXPECT_EQ(ErrorNumberOf([&] { Choose(edit_item::Parameters); }), 9);
 }
 
 TEST_F(InputMenu, IsToldOnTheRoadOfOpenThatADesignCannotBeShown) {
   program.options.ShowInputScreenOnLoad = 1;
-  platform.files.files[Panel3] = DesignAt(0);
+  Program other(platform.Doors());
+  StartApart(other, nullptr);
+  other.WorkParms.BoltOptionsPrimary = 2;
+  platform.files.files[Panel3] = ProjectFileBytes(other);
 
   OpenByDialog(Panel3);
 
-  EXPECT_THAT(platform.boxes.Texts(),
-              ElementsAre("Error occurred: Invalid procedure call or argument (5). Procedure Terminated"));
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Internal Error: SetArrayIndex. Check input/form data.",
+                                                  "Error occurred: Subscript out of range (9). Procedure Terminated"));
   EXPECT_EQ(program.CurrentFile, Panel3);
   EXPECT_TRUE(platform.windows.mainWindowShown);
   EXPECT_FALSE(program.DialogOpen);
@@ -213,27 +225,35 @@ TEST_F(EditedWork, IsNoneWhenTheUserOnlyLooks) {
   EXPECT_EQ(platform.windows.modalForms, 1);
 }
 
-TEST_F(EditedWork, IsWhatStoodBeforeTheKeyThatEndsTheRun) {
+TEST_F(EditedWork, IsWhatStoodBeforeTheActThatEndsTheRun) {
   InDialog<ParametersDialog>([&](ParametersDialog& dialog) {
     Type(dialog, dialog.txtDepthofCover, "810");
-    dialog.txtDepthofCover.SetText("");  // throws, so the view gets no further
+    dialog.txtStabilityFactor.SetText("1E38");
+    dialog.chkPrimSupport.SetValue(1);
+    dialog.cmdresults.Press();  // throws, so the view gets no further
   });
 
-  EXPECT_EQ(ErrorNumberOf([&] { Choose(edit_item::Parameters); }), 5);
+  EXPECT_EQ(ErrorNumberOf([&] { Choose(edit_item::Parameters); }), 6);
   window.LeaveAtOnce();
 
   ASSERT_TRUE(Kept().has_value());
   EXPECT_EQ(Kept()->WorkParms.DepthofCover, 810);
+  EXPECT_EQ(Kept()->WorkParms.StabilityFactor, 1);
 }
 
-TEST_F(EditedWork, IsTheLastThatCouldBeCommitted) {
+TEST_F(EditedWork, IsFieldByFieldTheLastThatAProjectCanHold) {
   InDialog<ParametersDialog>([&](ParametersDialog& dialog) {
     Type(dialog, dialog.txtDepthofCover, "810");
-    Type(dialog, dialog.txtCMRR, "99999");  // beyond the record's field
+    Type(dialog, dialog.txtCMRR, "52");
+    Type(dialog, dialog.txtCMRR, "99999");
+    Type(dialog, dialog.txtEntryWidth, "1E40");
+    Type(dialog, dialog.txtUnitWeight, "158");
     platform.clock.Pass();
     ASSERT_TRUE(Kept().has_value());
     EXPECT_EQ(Kept()->WorkParms.DepthofCover, 810);
-    EXPECT_EQ(Kept()->WorkParms.CMRR, 45);
+    EXPECT_EQ(Kept()->WorkParms.CMRR, 52);
+    EXPECT_EQ(Kept()->WorkParms.EntryWidth, 20);
+    EXPECT_EQ(Kept()->WorkParms.UnitWeight, 158);
   });
 
   Choose(edit_item::Parameters);

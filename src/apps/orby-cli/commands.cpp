@@ -68,11 +68,16 @@ void SaveAs(Session& session, const std::string& file) {
   FileSave(session.program, saved);
 }
 
+// Numbers come from the project or the catalogs here: one that a project cannot hold is no fault of what was typed.
+void BuildPages(ParametersDialog& dialog) {
+  if (!dialog.BuildReport()) throw RuntimeError(error_number::Overflow);
+}
+
 int Report(Session& session, const std::string&) {
   ParametersDialog dialog(session.program);
   dialog.Open();
   if (session.line.Validate && !dialog.ValidateParameters()) return exit_code::Invalid;
-  dialog.BuildReport();
+  BuildPages(dialog);
   for (const int page : {0, 1}) {
     if (session.line.Page.value_or(page) == page) Print(session.program.OutBuf[static_cast<std::size_t>(page)]);
   }
@@ -97,7 +102,7 @@ void AppendSingle(std::string& text, Single value) {
 int CurveOf(Session& session, const std::string& number) {
   ParametersDialog dialog(session.program);
   dialog.Open();
-  dialog.BuildReport();
+  BuildPages(dialog);
   GenerateCurve(session.program, static_cast<Integer>(number.front() - '0'));
   const Curve& curve = session.program.curve;
   std::string text;

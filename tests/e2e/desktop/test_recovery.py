@@ -2,7 +2,7 @@
 
 import os
 
-from orby import DesktopTest, press_keys, until
+from orby import DesktopTest, until
 
 QUESTION = "Orby ended unexpectedly. Recover the unsaved project?"
 
@@ -77,14 +77,15 @@ class Recovery(DesktopTest):
         run.answer(QUESTION, "Yes")
         return self.depth_of(run)
 
-    def test_brings_back_the_last_good_fields_after_a_run_time_error(self):
+    def test_brings_back_the_fields_after_a_run_time_error(self):
         run = self.edit("777")
         parameters = run.window("Parameters")
         parameters.type("txtUnitWeight", "158")
-        parameters.focus("txtDepthofCover")
-        press_keys("ctrl+a", "BackSpace")
+        parameters.choose_tab("SSTab1", "Primary Support: Roof Bolts")
+        parameters.type("txtStabilityFactor", "9" + 37 * "0")  # more than a report can be computed with
+        parameters.press("cmdresults")
 
-        run.answer("Run-time error '5':\n\nInvalid procedure call or argument", "OK")
+        run.answer("Run-time error '6':\n\nOverflow", "OK")
 
         self.assertEqual(run.wait_end(), 1)
         again = self.start()

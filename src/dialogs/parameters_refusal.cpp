@@ -1,0 +1,63 @@
+// What the parameters dialog says when a number is typed that the project cannot hold, and where it takes the user.
+#include "base/text.h"
+#include "core/messages.h"
+#include "dialogs/fault_texts.h"
+#include "dialogs/parameters_dialog.h"
+
+namespace orby {
+namespace {
+
+// The first control of a page, in the order of the controls.
+struct PageStart {
+  std::string_view control;
+  int outerTab;
+  TabSet ParametersControls::*inner = nullptr;
+  int innerTab = 0;
+};
+
+using C = ParametersControls;
+
+constexpr PageStart Pages[] = {
+    {"fraGeology", 0},
+    {"fraPrimarySupport", 1},
+    {"fraRockLoadEntry", 2},
+    {"lblCableLengthSecEntry", 2, &C::SSTab2, 0},
+    {"lblTrussLengthMemberSecEntry", 2, &C::SSTab2, 1},
+    {"lblBoltLengthSecEntry", 2, &C::SSTab2, 2},
+    {"fraSupportSelectionEntry", 2, &C::SSTab2, 3},
+    {"lblRockLoadEntry1", 2},
+    {"fraRockLoadInter", 3},
+    {"lblCableLengthSecInter", 3, &C::SSTab3, 0},
+    {"lblTrussLengthMemberSecInter", 3, &C::SSTab3, 1},
+    {"lblBoltLengthSecInter", 3, &C::SSTab3, 2},
+    {"fraSupportSelectionInter", 3, &C::SSTab3, 3},
+    {"lblRockLoadInter1", 3},
+};
+
+std::string ShownText(const Control& control) {
+  if (const auto* box = dynamic_cast<const TextBox*>(&control)) return box->Text();
+  if (const auto* combo = dynamic_cast<const Combo*>(&control)) return combo->Text();
+  return {};
+}
+
+}  // namespace
+
+// A field's label, or the frame that it stands in, is the nearest one before it.
+void ParametersDialog::TellRefused(const Control& field) {
+  const PageStart* page = Pages;
+  std::string_view caption;
+  for (Control* control : Controls()) {
+    for (const PageStart& start : Pages) {
+      if (start.control == control->Name()) page = &start;
+    }
+    if (const auto* label = dynamic_cast<const Label*>(control)) caption = label->Caption();
+    if (control != &field) continue;
+    ShowMessage(program_, fault_text::TooLarge(caption, ShownText(field)), box_style::Critical,
+                program_.titles.RangeErrorTitle);
+    SSTab1.SetTab(page->outerTab);
+    if (page->inner != nullptr) (this->*page->inner).SetTab(page->innerTab);
+    return RequestFocus(*control);
+  }
+}
+
+}  // namespace orby
