@@ -39,7 +39,7 @@ class ProgramApart {
 void TakeShownDesign(Program& program) {
   ParametersDialog dialog(program);
   dialog.Open();
-  dialog.CopyToWorkParmsCopy();
+  if (!dialog.CopyToWorkParmsCopy()) throw RuntimeError(error_number::Overflow);
   program.WorkParms.Design() = program.WorkParmsCopy.Design();
 }
 
