@@ -129,7 +129,7 @@ void CheckSections(const std::string& bytes) {
   Expect(IsWithin(program.graph.GraphStyle, 1, 3) && IsWithin(program.graph.SymbolSize, 3, 20));
   Expect(IsWithin(program.recentFiles.MaxLastFiles, 0, orby::RecentFiles::Capacity));
   Expect(program.settings.DataPath == "/data/" && platform.boxes.shown.empty());
-  orby::WriteNewIniFile(program);
+  orby::WriteNewIniFile(program, orby::NewIniText(program));
   Expect(orby::ReadIniVersion(program) == orby::BuildStamp);
 }
 

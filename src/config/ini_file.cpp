@@ -179,10 +179,12 @@ std::string ReadIniValue(const IniText& ini, std::string_view section, std::stri
 }
 
 double ReadIniNumber(const IniText& ini, std::string_view section, std::string_view key, std::string_view defaultText) {
+  const std::string text = ReadIniValue(ini, section, key, defaultText);
   try {
-    return TextValue(ReadIniValue(ini, section, key, defaultText));
+    return TextValue(text);
   } catch (const RuntimeError&) {
-    return 0;
+    const bool isNegative = TrimBlanks(text).starts_with('-');
+    return isNegative ? std::numeric_limits<double>::lowest() : std::numeric_limits<double>::max();
   }
 }
 

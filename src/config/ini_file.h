@@ -96,7 +96,8 @@ void WriteIniValue(IniText& ini, std::string_view section, std::string_view key,
 std::string ReadIniValue(const IniText& ini, std::string_view section, std::string_view key,
                          std::string_view defaultText = {});
 
-// The number that the value starts with, 0 when there is none or when it lies beyond the range of a Double.
+// The number that the value starts with, 0 when there is none. One beyond the range of a Double reads as the outermost
+// Double of its sign, which lies outside the range of every key.
 double ReadIniNumber(const IniText& ini, std::string_view section, std::string_view key,
                      std::string_view defaultText = {});
 

@@ -9,6 +9,7 @@
 #include <variant>
 
 #include "config/ini_file.h"
+#include "config/path_value.h"
 
 namespace orby {
 
@@ -23,6 +24,7 @@ struct IniRow {
   // The reader asks for the key with a blank behind its name, the writer writes it without. The value comes back only
   // because blanks around a name do not count.
   bool ReaderAddsBlank = false;
+  bool IsPath = false;  // a text that a file system gave, whatever its bytes
 };
 
 // `suffix` stands behind the key's name: the number of an entry in a list.
@@ -33,7 +35,8 @@ void ReadIniRow(Program& program, Group& group, const IniText& ini, std::string_
   const auto read = [&](auto member) {
     using Value = std::remove_reference_t<decltype(group.*member)>;
     if constexpr (std::same_as<Value, std::string>) {
-      const std::string text = ReadIniValue(ini, section, key, row.Default);
+      std::string text = ReadIniValue(ini, section, key, row.Default);
+      if (row.IsPath) text = PathFromValue(text);
       group.*member = row.Accepted != nullptr ? row.Accepted(program, text) : text;
     } else if (row.Range) {
       group.*member = ReadIniInteger(ini, section, key, *row.Range, row.Default);
@@ -50,7 +53,14 @@ template <class Group>
 void WriteIniRow(const Group& group, IniText& ini, std::string_view section, const IniRow<Group>& row,
                  std::string_view suffix = {}) {
   const std::string key = std::string(row.Key).append(suffix);
-  std::visit([&](auto member) { WriteIniValue(ini, section, key, group.*member); }, row.Member);
+  const auto write = [&](auto member) {
+    if constexpr (std::same_as<std::remove_cvref_t<decltype(group.*member)>, std::string>) {
+      WriteIniValue(ini, section, key, row.IsPath ? ValueFromPath(group.*member) : group.*member);
+    } else {
+      WriteIniValue(ini, section, key, group.*member);
+    }
+  };
+  std::visit(write, row.Member);
 }
 
 }  // namespace orby

@@ -64,8 +64,8 @@ constexpr std::array SettingsRows{
     SettingsRow{"LoadLastInputFile", &Settings::LoadLastInputFile, OnOff},
     SettingsRow{"RemindAnnualUpdates", &Settings::RemindAnnualUpdates, OnOff},
     SettingsRow{"CopyExampleFiles", &Settings::CopyExampleFiles, OnOff, "1"},
-    SettingsRow{"ExternalEditor", &Settings::ExternalEditor},
-    SettingsRow{"DataPath", &Settings::DataPath, {}, {}, AcceptedDataPath},
+    SettingsRow{.Key = "ExternalEditor", .Member = &Settings::ExternalEditor, .IsPath = true},
+    SettingsRow{.Key = "DataPath", .Member = &Settings::DataPath, .Accepted = AcceptedDataPath, .IsPath = true},
     SettingsRow{"FileExtension", &Settings::FileExtension, {}, {}, AcceptedExtension},
 };
 
@@ -75,9 +75,9 @@ constexpr IniRange RecentCount{0, RecentFiles::Capacity};
 
 using RecentRow = IniRow<RecentFiles::Entry>;
 constexpr std::array RecentRows{
-    RecentRow{"LastFile", &RecentFiles::Entry::LastFile},
+    RecentRow{.Key = "LastFile", .Member = &RecentFiles::Entry::LastFile, .IsPath = true},
     RecentRow{"LastFileMode", &RecentFiles::Entry::LastFileMode},
-    RecentRow{"LastFileLong", &RecentFiles::Entry::LastFileLong},
+    RecentRow{.Key = "LastFileLong", .Member = &RecentFiles::Entry::LastFileLong, .IsPath = true},
 };
 
 using BrowseRow = IniRow<TextBrowseSettings>;
@@ -158,10 +158,8 @@ void WriteGraph(const GraphSettings& graph, IniText& ini) {
 constexpr std::array AllSections{settings_section::Settings, settings_section::FileMenu, settings_section::TextBrowse,
                                  settings_section::Graph, settings_section::Options};
 
-// Tells the history before the edit: a file that cannot be written is told like any other.
-void EditDefaults(Program& program, const std::function<void(IniText&)>& edit) {
+void TellSaving(Program& program) {
   AddHistoryLine(program, "Saving default settings to file: " + program.IniFilePath);
-  EditIniFile(program, program.IniFilePath, edit);
 }
 
 }  // namespace
@@ -206,26 +204,33 @@ void WriteSettings(const Program& program, IniText& ini, int selector) {
   }
 }
 
-std::string ReadIniVersion(Program& program) {
-  return ReadIniValue(program, VersionSection, VersionKey, program.IniFilePath);
-}
+std::string IniVersion(const IniText& ini) { return ReadIniValue(ini, VersionSection, VersionKey); }
+
+std::string ReadIniVersion(Program& program) { return IniVersion(ReadIniFile(program, program.IniFilePath)); }
 
 void WriteIniVersion(IniText& ini) { WriteIniValue(ini, VersionSection, VersionKey, BuildStamp); }
 
 void ReadDefaults(Program& program, const IniText& ini) { ReadSettings(program, ini, settings_section::All); }
 
 void WriteDefaults(Program& program, int what) {
-  EditDefaults(program, [&](IniText& ini) { WriteSettings(program, ini, what); });
+  // Before the edit: a file that cannot be written is told like any other.
+  TellSaving(program);
+  EditIniFile(program, program.IniFilePath, [&](IniText& ini) { WriteSettings(program, ini, what); });
 }
 
-// In one edit: a file that told its version but lacked the rest would start the next run with zeros.
-void WriteNewIniFile(Program& program) {
-  EditDefaults(program, [&](IniText& ini) {
-    WriteIniVersion(ini);
-    WriteSettings(program, ini, settings_section::All);
-    WriteCatalogSection(program, ini, catalog_section::Defaults);
-    WriteCatalogSection(program, ini, catalog_section::BoltParams);
-  });
+IniText NewIniText(const Program& program) {
+  IniText ini;
+  WriteIniVersion(ini);
+  WriteSettings(program, ini, settings_section::All);
+  WriteCatalogSection(program, ini, catalog_section::Defaults);
+  WriteCatalogSection(program, ini, catalog_section::BoltParams);
+  return ini;
+}
+
+// At once: a file that told its version but lacked the rest would start the next run with zeros.
+void WriteNewIniFile(Program& program, const IniText& ini) {
+  TellSaving(program);
+  program.platform.files.ReplaceFile(program.IniFilePath, ini.FileBytes());
 }
 
 }  // namespace orby

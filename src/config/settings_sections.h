@@ -30,7 +30,8 @@ void ReadSettings(Program& program, const IniText& ini, int selector);
 // Sets the section's keys in table order; all sections in the order of their selectors.
 void WriteSettings(const Program& program, IniText& ini, int selector);
 
-// The version that the configuration file at IniFilePath was written by; empty when it tells none.
+// The version that the configuration, or the file at IniFilePath, was written by; empty when it tells none.
+std::string IniVersion(const IniText& ini);
 std::string ReadIniVersion(Program& program);
 void WriteIniVersion(IniText& ini);
 
@@ -40,7 +41,11 @@ void ReadDefaults(Program& program, const IniText& ini);
 // Writes one section, or all, to the configuration file at IniFilePath, and tells so in the history first.
 void WriteDefaults(Program& program, int what);
 
-// Writes a whole new configuration file: the version, all of the settings, the values of a new design and the lists.
-void WriteNewIniFile(Program& program);
+// A whole new configuration: the version, all of the settings, the values of a new design and the lists.
+IniText NewIniText(const Program& program);
+
+// Makes it the configuration file, and tells so in the history first. Throws the RuntimeError of a file that cannot be
+// written.
+void WriteNewIniFile(Program& program, const IniText& ini);
 
 }  // namespace orby

@@ -1,12 +1,15 @@
 #include "shell/start_up.h"
 
+#include <optional>
+#include <utility>
+
 #include "base/text.h"
 #include "catalogs/catalogs.h"
 #include "config/catalog_sections.h"
 #include "config/settings_sections.h"
 #include "config/user_folders.h"
 #include "core/dialog_helpers.h"
-#include "core/file_helpers.h"
+#include "core/messages.h"
 #include "core/program_names.h"
 #include "files/new_project.h"
 
@@ -18,15 +21,41 @@ void SetBuiltInValues(Program& program) {
   SetBuiltInCatalogs(program.catalogs);
 }
 
-// A file of any other version, older or newer, is thrown away with all that the user chose.
-void SettleConfiguration(Program& program) {
-  if (FileExists(program, program.IniFilePath)) {
-    if (ReadIniVersion(program) == BuildStamp) return;
-    program.platform.files.RemoveFile(program.IniFilePath);
+// What the last run left; nothing when there is none. A file of any other version, older or newer, is replaced with all
+// that the user chose.
+std::optional<IniText> StoredConfiguration(Program& program) {
+  FileSystem& files = program.platform.files;
+  if (!files.Finds(program.IniFilePath, true)) return std::nullopt;
+  IniText ini = IniText::FromFileBytes(files.ReadFile(program.IniFilePath));
+  if (IniVersion(ini) != BuildStamp) return std::nullopt;
+  return ini;
+}
+
+void TellThatNoneCanBeKept(Program& program, const RuntimeError& error) {
+  const std::string trouble = "Configuration file cannot be used: " + program.IniFilePath + " (" +
+                              std::string(error.description()) + "). Built-in settings are in force";
+  AddHistoryLine(program, trouble);
+  ShowMessage(program, trouble + " and changes to them may be lost.", box_style::Exclamation,
+              std::string(ProgramTitle));
+}
+
+IniText SettledConfiguration(Program& program) {
+  std::optional<RuntimeError> trouble;
+  try {
+    if (auto stored = StoredConfiguration(program)) return std::move(*stored);
+  } catch (const RuntimeError& error) {
+    trouble = error;
   }
   // Here alone, not at every start: to ask the machine for its fonts takes longer than all the rest.
   SetBuiltInSettings(program);
-  WriteNewIniFile(program);
+  IniText ini = NewIniText(program);
+  try {
+    if (!trouble) WriteNewIniFile(program, ini);
+  } catch (const RuntimeError& error) {
+    trouble = error;
+  }
+  if (trouble) TellThatNoneCanBeKept(program, *trouble);
+  return ini;
 }
 
 void ReadCatalogSections(Program& program, const IniText& ini) {
@@ -34,9 +63,8 @@ void ReadCatalogSections(Program& program, const IniText& ini) {
   ReadCatalogSection(program, ini, catalog_section::BoltParams);
 }
 
-// A new file is read back too, so that the first run holds what later ones will.
-void ReadConfiguration(Program& program) {
-  const IniText ini = ReadIniFile(program, program.IniFilePath);
+// A new configuration is read back too, so that the first run holds what later ones will.
+void ReadConfiguration(Program& program, const IniText& ini) {
   ReadDefaults(program, ini);
   ReadCatalogSections(program, ini);
 }
@@ -49,8 +77,7 @@ void StartProgram(Program& program) {
   SetBuiltInValues(program);
   FindUserFolders(program);
   program.IniFilePath = program.folders.ProgramData + std::string(IniFileName);
-  SettleConfiguration(program);
-  ReadConfiguration(program);
+  ReadConfiguration(program, SettledConfiguration(program));
   BeginNewDesign(program);
   EnterWorkingFolder(program);
 }

@@ -10,8 +10,8 @@
 namespace orby {
 
 // Starts a run at the desktop: finds the user's folders, reads the configuration file, made anew when it is missing or
-// of another version, begins a new design, and enters the working folder. A configuration file that should go but
-// cannot be removed is the RuntimeError of its removal.
+// of another version, begins a new design, and enters the working folder. Where no configuration file can be read or
+// written, what a new one would hold is in force, and the user is told.
 void StartProgram(Program& program);
 
 // Starts a run apart from the user: it looks at none of the user's folders and writes nothing. Values of a new design

@@ -295,8 +295,15 @@ TEST_F(CatalogSections, TheCableListsGrowBeyondTheBoltLists) {
   EXPECT_EQ(catalogs.DefaultCableDiamArrayMET[14], 28.6F);
 }
 
+TEST_F(CatalogSections, AnIndexBeyondADoubleFillsTheListOrEmptiesIt) {
+  ReadBolts("DefaultBoltDiamIndexMET=1E999\r\nDefaultBoltGradeIndexMET=-1E999\r\n");
+
+  EXPECT_EQ(catalogs.DefaultBoltDiamArrayMET.Count(), 10U);
+  EXPECT_EQ(catalogs.DefaultBoltGradeArrayMET.Count(), 0U);
+}
+
 TEST_F(CatalogSections, AnUnreadableIndexOrEntryReadsAsZero) {
-  ReadBolts("DefaultBoltDiamIndexMET=1E999\r\nDefaultBoltDiamArrayMET0=1E39\r\nDefaultBoltGradeIndexMET=many\r\n");
+  ReadBolts("DefaultBoltDiamIndexMET=none\r\nDefaultBoltDiamArrayMET0=1E39\r\nDefaultBoltGradeIndexMET=many\r\n");
 
   EXPECT_EQ(catalogs.DefaultBoltDiamArrayMET.HighestIndex, 0);
   EXPECT_THAT(catalogs.DefaultBoltDiamArrayMET.Values, ElementsAre(0));

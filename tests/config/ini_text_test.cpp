@@ -212,7 +212,9 @@ TEST(IniValues, AClampedIntegerOutsideItsRangeFallsToTheMinimum) {
   EXPECT_EQ(read("-1", flag), -1);
   EXPECT_EQ(read("1", flag), -1);
   EXPECT_EQ(read("99999", flag), -1);
-  EXPECT_EQ(read("1E999", flag), 0);
+  EXPECT_EQ(read("1E999", flag), -1);
+  EXPECT_EQ(read("-1E999", flag), -1);
+  EXPECT_EQ(read("1E999", fontSize), 7);
 }
 
 TEST(IniValues, ASingleBeyondItsRangeIsZero) {
@@ -221,6 +223,7 @@ TEST(IniValues, ASingleBeyondItsRangeIsZero) {
   EXPECT_EQ(read("6.2"), 6.2F);
   EXPECT_EQ(read(".75"), 0.75F);
   EXPECT_EQ(read("1E39"), 0);
+  EXPECT_EQ(read("1E999"), 0);
   EXPECT_EQ(read("-1E999"), 0);
   EXPECT_EQ(read("none"), 0);
 }

@@ -493,7 +493,7 @@ TEST_F(SettingsSections, AFileWithoutAVersionTellsNone) {
 }
 
 TEST_F(SettingsSections, ANewFileHoldsItsVersionFirstAndEverySectionThatAStartReads) {
-  WriteNewIniFile(program);
+  WriteNewIniFile(program, NewIniText(program));
 
   std::vector<std::string> names;
   for (std::string_view rest = FileBytes(); !rest.empty();) {

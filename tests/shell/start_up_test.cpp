@@ -2,10 +2,14 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
+
 #include "base/runtime_error.h"
 #include "config/catalog_sections.h"
 #include "config/settings_sections.h"
+#include "platform/disk_files.h"
 #include "support/recording_platform.h"
+#include "support/temporary_folder.h"
 
 namespace orby::test {
 namespace {
@@ -23,6 +27,22 @@ struct StartUp : testing::Test {
   Program program{platform.Doors()};
 
   std::string& Ini() { return platform.files.files[IniPath]; }
+
+  // What a first run holds is in force, and the user has been told why it is not kept.
+  void ExpectBuiltInSettings(const std::string& reason) {
+    EXPECT_EQ(program.defaults.DefaultENGDepthofCover, 400);
+    EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+    EXPECT_EQ(program.settings.DisplayHistoryWin, 1);
+    EXPECT_EQ(program.settings.FileExtension, "ORB");
+    EXPECT_EQ(program.settings.MaxDisplaySize, 4096);
+    EXPECT_EQ(program.graph.SymbolSize, 6);
+    EXPECT_EQ(program.catalogs.DefaultBoltUTSArrayENG.Count(), 6U);
+    EXPECT_EQ(program.catalogs.DefaultCableCapArrayMET.Count(), 6U);
+    const std::string trouble = "Configuration file cannot be used: " + std::string(IniPath) + " (" + reason +
+                                "). Built-in settings are in force";
+    EXPECT_THAT(platform.boxes.Texts(), ElementsAre(trouble + " and changes to them may be lost."));
+    EXPECT_THAT(program.history.Text, HasSubstr(trouble + "\r\n"));
+  }
 };
 
 TEST_F(StartUp, MakesAMissingConfigurationFileAndStartsWithTheDefaults) {
@@ -104,11 +124,15 @@ TEST_F(StartUp, DeletesAndRebuildsAFileOfAnotherVersion) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(StartUp, EndsWhenAFileOfAnotherVersionCannotBeDeleted) {
-  Ini() = "[Version]\r\nINIFileVersion=201029\r\n";
-  platform.files.Fail(MemoryFiles::Step::Remove, error_number::PermissionDenied);
+TEST_F(StartUp, KeepsAFileOfAnotherVersionThatCannotBeReplaced) {
+  Ini() = "[Version]\r\nINIFileVersion=201029\r\n[ORBYDefaults]\r\nDefaultENGDepthofCover=900\r\n";
+  const std::string before = Ini();
+  platform.files.Fail(MemoryFiles::Step::Rename, error_number::PermissionDenied);
 
-  EXPECT_EQ(ErrorNumberOf([this] { StartProgram(program); }), 70);
+  StartProgram(program);
+
+  EXPECT_EQ(Ini(), before);
+  ExpectBuiltInSettings("Permission denied");
 }
 
 TEST_F(StartUp, TakesTheStandingSupportsFromTheBuiltInTableWhateverTheFileSays) {
@@ -150,16 +174,60 @@ TEST_F(StartUp, KeepsTheConfigurationInTheProgramsFolderWithoutDocuments) {
   EXPECT_EQ(program.settings.DataPath, "/program/");
 }
 
-// What is not in the file reads as nothing, also when there is no file.
-TEST_F(StartUp, ReadsEmptyListsWhereNoFileCanBeWritten) {
+TEST_F(StartUp, WorksWithTheBuiltInSettingsWhereNoFileCanBeWritten) {
   platform.files.Fail(MemoryFiles::Step::Create, error_number::DiskFull);
 
   StartProgram(program);
 
   EXPECT_THAT(platform.files.files, IsEmpty());
+  ExpectBuiltInSettings("Disk full");
+}
+
+TEST_F(StartUp, LeavesAFileThatItCannotReadAndWorksWithTheBuiltInSettings) {
+  Ini() = "[Version]\r\nINIFileVersion=201030\r\n[ORBYDefaults]\r\nDefaultENGDepthofCover=900\r\n";
+  const std::string before = Ini();
+  platform.files.Fail(MemoryFiles::Step::Read, error_number::PermissionDenied);
+
+  StartProgram(program);
+
+  EXPECT_EQ(Ini(), before);
+  ExpectBuiltInSettings("Permission denied");
+}
+
+TEST(StartOnADisk, WorksWithTheBuiltInSettingsWhereAFolderHasTheNameOfTheFile) {
+  const TemporaryFolder home;
+  DiskFiles files(home.Path());
+  RecordingPlatform platform;
+  platform.userFolders.documents = home.Path();
+  std::filesystem::create_directories(home.At("MyStrataDesk/ORBY/ORBY.INI/kept"));
+  Program program(platform.DoorsWith(files));
+  const auto workingFolder = std::filesystem::current_path();
+
+  StartProgram(program);
+
+  std::filesystem::current_path(workingFolder);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre(HasSubstr("Configuration file cannot be used: ")));
+  EXPECT_TRUE(std::filesystem::exists(home.At("MyStrataDesk/ORBY/ORBY.INI/kept")));
+}
+
+TEST(StartOnADisk, KeepsTheLinkToAConfigurationFileOfAnotherVersion) {
+  const TemporaryFolder home;
+  DiskFiles files(home.Path());
+  RecordingPlatform platform;
+  platform.userFolders.documents = home.Path();
+  std::filesystem::create_directories(home.At("MyStrataDesk/ORBY"));
+  home.Store("settings.ini", "[Version]\r\nINIFileVersion=201029\r\n");
+  std::filesystem::create_symlink("../../settings.ini", home.At("MyStrataDesk/ORBY/ORBY.INI"));
+  Program program(platform.DoorsWith(files));
+  const auto workingFolder = std::filesystem::current_path();
+
+  StartProgram(program);
+
+  std::filesystem::current_path(workingFolder);
+  EXPECT_TRUE(std::filesystem::is_symlink(home.At("MyStrataDesk/ORBY/ORBY.INI")));
+  EXPECT_THAT(home.Read("settings.ini"), StartsWith("[Version]\r\nINIFileVersion=201030\r\n[Settings]\r\n"));
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(program.settings.CopyExampleFiles, 1);
-  EXPECT_EQ(program.defaults.DefaultENGDepthofCover, 0);
 }
 
 TEST_F(StartUp, NamesAFontThatTheMachineHas) {
