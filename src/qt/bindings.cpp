@@ -1,5 +1,6 @@
 #include "qt/bindings.h"
 
+#include <QApplication>
 #include <stdexcept>
 
 #include "controls/chart.h"
@@ -22,6 +23,16 @@ QObject& FindObject(const BindingHost& host, const std::string& name) {
   auto* found = host.Root().findChild<QObject*>(wanted);
   if (found == nullptr) throw std::logic_error("no widget " + name);
   return *found;
+}
+
+bool IsUsable(const QWidget& widget) {
+  if (!widget.isEnabled() || widget.isHidden()) return false;
+  const QWidget* modal = QApplication::activeModalWidget();
+  if (modal == nullptr) return true;
+  for (const QWidget* window = widget.window(); window != nullptr; window = window->parentWidget()) {
+    if (window == modal) return true;
+  }
+  return false;
 }
 
 std::string MemberName(const Control& control, int index) {

@@ -69,9 +69,9 @@ inline void ShowState(QWidget& widget, const Control& control) {
   widget.setVisible(control.Visible());
 }
 
-// Whether the user can change the widget now. The toolkit lets screen readers change any widget, so it is asked on
-// every change.
-inline bool IsUsable(const QWidget& widget) { return widget.isEnabled() && !widget.isHidden(); }
+// Whether the user can change the widget now: it is enabled and shown, and no modal window stands before its own. The
+// toolkit lets screen readers change any widget, so it is asked on every change.
+bool IsUsable(const QWidget& widget);
 
 // The font of the user's choice for the widget, or what takes its place on a machine without it.
 QFont FontOf(const FontChoice& choice, const QWidget& widget);

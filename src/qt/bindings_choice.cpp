@@ -25,6 +25,7 @@ class CheckBinding : public Binding {
   CheckBinding(BindingHost& host, CheckBox& box)
       : host_(host), box_(box), widget_(FindNamed<QCheckBox>(host, std::string(box.Name()))) {
     QObject::connect(&widget_, &QCheckBox::toggled, &widget_, [this](bool on) {
+      if (!IsUsable(widget_)) return Show();
       const auto set = [this, on] { box_.SetValue(on ? 1 : 0); };
       box_.Kind() == ClickKind::MayAsk ? host_.ActLater(set) : host_.Act(set);
     });
@@ -66,8 +67,10 @@ class OptionBinding : public Binding {
       const int index = static_cast<int>(i);
       auto& member = FindNamed<QRadioButton>(host, MemberName(options, index));
       members_[i] = &member;
-      QObject::connect(&member, &QRadioButton::toggled, &member, [this, index](bool on) {
-        if (on) host_.Act([this, index] { options_.SetValue(index, true); });
+      QObject::connect(&member, &QRadioButton::toggled, &member, [this, &member, index](bool on) {
+        if (!on) return;
+        if (!IsUsable(member)) return Show();
+        host_.Act([this, index] { options_.SetValue(index, true); });
       });
     }
   }

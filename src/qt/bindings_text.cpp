@@ -61,8 +61,9 @@ class ButtonBinding : public Binding {
  public:
   ButtonBinding(BindingHost& host, const Button& button)
       : host_(host), button_(button), widget_(FindNamed<QPushButton>(host, std::string(button.Name()))) {
-    QObject::connect(&widget_, &QPushButton::clicked, &widget_,
-                     [this] { host_.ActLater([this] { button_.Press(); }); });
+    QObject::connect(&widget_, &QPushButton::clicked, &widget_, [this] {
+      if (IsUsable(widget_)) host_.ActLater([this] { button_.Press(); });
+    });
   }
 
   void Show() override {

@@ -54,7 +54,7 @@ class TabBinding : public Binding {
  private:
   // A screen reader can press the tab of a page that is disabled.
   void Turn(int tab) {
-    host_.Act([this, tab] { tabs_.ClickTab(tab); });
+    if (IsUsable(widget_)) host_.Act([this, tab] { tabs_.ClickTab(tab); });
     if (widget_.currentIndex() != tabs_.Tab()) Show();
   }
 
@@ -85,8 +85,9 @@ class ActionBinding : public Binding {
     for (int i = 0; i < actions.Count(); ++i) {
       const auto* entry = host.Root().findChild<QAction*>(QString::fromStdString(MemberName(actions, i)));
       if (entry == nullptr) continue;
-      QObject::connect(entry, &QAction::triggered, entry,
-                       [this, i] { host_.ActLater([this, i] { actions_.ClickItem(i); }); });
+      QObject::connect(entry, &QAction::triggered, entry, [this, i] {
+        if (IsUsable(host_.Root())) host_.ActLater([this, i] { actions_.ClickItem(i); });
+      });
     }
   }
 

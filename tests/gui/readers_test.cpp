@@ -240,6 +240,30 @@ TEST_F(Readers, CannotUseWhatIsDisabled) {
   EXPECT_EQ(Find<QSlider>(window, "hsbSize").value(), 3);
 }
 
+TEST_F(Readers, CannotUseAWindowBehindAModalOne) {
+  QDialog box(&window);
+  box.setModal(true);
+  box.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
+
+  SetText(Widget("txtName"), "East Mains");
+  SetText(LineOf("cmbHeight"), "2.7");
+  SelectRow(Widget("grdBolts"), 2);
+  SelectRow(Widget("lstShifts"), 1);
+  SelectRow(Widget("lstSheets"), 1);
+  SelectRow(*Find<QComboBox>(window, "cmbSeam").view(), 1);
+  Do(TabOf(1), QAccessibleActionInterface::pressAction());
+  Do(ReaderOf(Widget("chkWet")), QAccessibleActionInterface::toggleAction());
+  Do(ReaderOf(Widget("optUnits_1")), QAccessibleActionInterface::toggleAction());
+  PressButton(Widget("cmdDraw"));
+  Do(*ReaderOf(*mnuFile).child(1), QAccessibleActionInterface::pressAction());
+
+  EXPECT_THAT(form.happened, IsEmpty());
+  EXPECT_EQ(TextOn(window, "txtName"), "");
+  EXPECT_FALSE(Find<QCheckBox>(window, "chkWet").isChecked());
+  EXPECT_FALSE(Find<QRadioButton>(window, "optUnits_1").isChecked());
+}
+
 TEST_F(Readers, MoveASlider) {
   ReaderOf(Widget("hsbSize")).valueInterface()->setCurrentValue(12);
 
