@@ -8,6 +8,8 @@ from gi.repository import Gio, GLib
 ACCESSIBLE = "org.a11y.atspi.Accessible"
 ACTION = "org.a11y.atspi.Action"
 COMPONENT = "org.a11y.atspi.Component"
+EDITABLE_TEXT = "org.a11y.atspi.EditableText"
+TABLE = "org.a11y.atspi.Table"
 TEXT = "org.a11y.atspi.Text"
 PROPERTIES = "org.freedesktop.DBus.Properties"
 
@@ -21,6 +23,9 @@ ENABLED = 8
 FOCUSED = 12
 SHOWING = 25
 
+# Relations.
+LABELLED_BY = 2
+
 # Roles.
 ALERT = 2
 COMBO_BOX = 11
@@ -29,10 +34,12 @@ FRAME = 23
 LABEL = 29
 MENU = 35  # and its entries
 PAGE_TAB_LIST = 38
+PANEL = 39  # a frame around controls
 PUSH_BUTTON = 43
-TABLE = 55
+TABLE_VIEW = 55
+TEXT_FIELD = 61
 WINDOW_ROLES = (ALERT, DIALOG, FRAME)
-CLOSED_ROLES = (COMBO_BOX, TABLE)  # what they hold is no control
+CLOSED_ROLES = (COMBO_BOX, TABLE_VIEW)  # what they hold is no control
 
 
 class Gone(Exception):
@@ -108,6 +115,28 @@ class Node:
     @property
     def text(self):
         return self.call(TEXT, "GetText", "(ii)", 0, -1)[0]
+
+    def set_text(self, text):
+        return self.call(EDITABLE_TEXT, "SetTextContents", "(s)", text)[0]
+
+    def insert_text(self, place, text):
+        return self.call(EDITABLE_TEXT, "InsertText", "(isi)", place, text, len(text))[0]
+
+    def delete_text(self, first, end):
+        return self.call(EDITABLE_TEXT, "DeleteText", "(ii)", first, end)[0]
+
+    def select_row(self, row):
+        """Selects a row of a table or a list, as the toolkit lets it be selected: by the interface of tables."""
+        return self.call(TABLE, "AddRowSelection", "(i)", row)[0]
+
+    def is_row_selected(self, row):
+        return self.call(TABLE, "IsRowSelected", "(i)", row)[0]
+
+    @property
+    def labels(self):
+        """The objects that this one is labelled by."""
+        relations = dict(self.call(ACCESSIBLE, "GetRelationSet")[0])
+        return [Node(self.bus, owner, path) for owner, path in relations.get(LABELLED_BY, [])]
 
     def grab_focus(self):
         return self.call(COMPONENT, "GrabFocus")[0]

@@ -73,6 +73,11 @@ def lines(text):
     return text.replace("\r\n", "\n")
 
 
+def data_part(report):
+    """The report without the name of its file, the title and the description."""
+    return report[report.index("[GEOLOGY PARAMETERS]"):]
+
+
 class Window:
     """A window on the screen; its controls are found by their names."""
 

@@ -6,7 +6,7 @@ import subprocess
 import zipfile
 from xml.etree import ElementTree
 
-from orby import DesktopTest, clipboard, companion, lines, press_keys, until, xdotool
+from orby import DesktopTest, clipboard, companion, data_part, lines, press_keys, until, xdotool
 
 TITLE = "East Mains"
 DESCRIPTION = "Belt entry from 2 Right to the overcast"
@@ -39,11 +39,6 @@ DESKTOP_TOOLS = {
 }
 
 SHEET_NAMESPACE = "{http://schemas.openxmlformats.org/spreadsheetml/2006/main}"
-
-
-def data_part(report):
-    """The report without the name of its file, the title and the description."""
-    return report[report.index("[GEOLOGY PARAMETERS]"):]
 
 
 def curve_points(number, file):
