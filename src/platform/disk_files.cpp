@@ -14,6 +14,7 @@
 #include "base/paths.h"
 #include "base/runtime_error.h"
 #include "platform/file_errors.h"
+#include "platform/in_place_file.h"
 #include "platform/replaced_file.h"
 
 namespace orby {
@@ -22,11 +23,11 @@ namespace {
 struct FileCloser {
   void operator()(std::FILE* file) const { std::fclose(file); }
 };
-using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
+using StreamHandle = std::unique_ptr<std::FILE, FileCloser>;
 
-FileHandle Open(const std::string& path, const char* mode) {
+StreamHandle Open(const std::string& path, const char* mode) {
   CheckName(path);
-  FileHandle file(std::fopen(path.c_str(), mode));
+  StreamHandle file(std::fopen(path.c_str(), mode));
   if (!file) throw FileError(errno, path);
   return file;
 }
@@ -45,7 +46,7 @@ class DiskOutputFile : public OutputFile {
 
  private:
   std::string path_;
-  FileHandle file_;
+  StreamHandle file_;
 };
 
 struct stat FactsOf(std::FILE& file, const std::string& path) {
@@ -69,7 +70,7 @@ class DiskInputFile : public InputFile {
 
  private:
   std::string path_;
-  FileHandle file_;
+  StreamHandle file_;
 };
 
 class DiskFileMark : public FileMark {
@@ -82,6 +83,14 @@ class DiskFileMark : public FileMark {
  private:
   int file_;
 };
+
+// Behind a link this is the folder above the one that the link leads to.
+std::filesystem::path FolderAbove(const std::filesystem::path& folder) {
+  std::error_code problem;
+  if (!std::filesystem::is_symlink(folder, problem)) return folder.parent_path();
+  const auto target = std::filesystem::canonical(folder, problem);
+  return problem ? folder / ".." : target.parent_path();
+}
 
 }  // namespace
 
@@ -100,7 +109,7 @@ bool DiskFiles::Finds(const std::string& path, bool foldersToo) {
 }
 
 std::string DiskFiles::ReadFile(const std::string& path) {
-  const FileHandle file = Open(path, "rb");
+  const StreamHandle file = Open(path, "rb");
   const struct stat facts = FactsOf(*file, path);
   std::string bytes;
   if (facts.st_size > 0) bytes.resize(static_cast<std::size_t>(facts.st_size));
@@ -125,6 +134,10 @@ std::uint64_t DiskFiles::FileLength(const std::string& path) {
 
 std::unique_ptr<OutputFile> DiskFiles::CreateFile(const std::string& path) {
   return std::make_unique<DiskOutputFile>(path);
+}
+
+std::unique_ptr<OutputFile> DiskFiles::OpenInPlace(const std::string& path, std::uint64_t length) {
+  return OpenFileInPlace(path, length);
 }
 
 void DiskFiles::RemoveFile(const std::string& path) {
@@ -207,8 +220,17 @@ void DiskFiles::SetWorkingFolder(const std::string& path) {
 
 std::string DiskFiles::AbsolutePath(const std::string& path) {
   std::error_code problem;
-  auto absolute = std::filesystem::absolute(path, problem);
-  return problem ? path : absolute.lexically_normal().string();
+  const auto absolute = std::filesystem::absolute(path, problem);
+  if (problem) return path;
+  std::filesystem::path resolved;
+  for (const auto& part : absolute) {
+    if (part == "..") {
+      resolved = FolderAbove(resolved);
+    } else if (part != ".") {
+      resolved /= part;
+    }
+  }
+  return resolved.string();
 }
 
 std::unique_ptr<FileMark> DiskFiles::TryMark(const std::string& path) {

@@ -14,6 +14,7 @@ class DiskFiles : public FileSystem {
   std::unique_ptr<InputFile> OpenFile(const std::string& path) override;
   std::uint64_t FileLength(const std::string& path) override;
   std::unique_ptr<OutputFile> CreateFile(const std::string& path) override;
+  std::unique_ptr<OutputFile> OpenInPlace(const std::string& path, std::uint64_t length) override;
   void RemoveFile(const std::string& path) override;
   void RenameFile(const std::string& path, const std::string& newPath) override;
   void ReplaceFile(const std::string& path, std::string_view bytes) override;

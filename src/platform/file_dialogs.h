@@ -16,7 +16,8 @@ struct FileQuestion {
   std::string fileName;             // offered at first, without its folder
   std::string folder;               // where the dialog starts
   std::vector<FileFilter> filters;  // the first is in force
-  std::string defaultExtension;     // without the point; appended on save when the name has none
+  // Without the point. Appended when the name has none: always on save, on open when no file has the bare name.
+  std::string defaultExtension;
 };
 
 class FileDialogs {

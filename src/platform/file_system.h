@@ -48,6 +48,11 @@ class FileSystem {
   virtual std::uint64_t FileLength(const std::string& path) = 0;
   // Opens the file for writing; an existing one is emptied at once.
   virtual std::unique_ptr<OutputFile> CreateFile(const std::string& path) = 0;
+  // Opens the file to be written over with so many bytes: an existing one keeps its old bytes until new ones take their
+  // places, its mode and the links that lead to it. A disk that is known to lack the room is error 61, nothing being
+  // touched. Close cuts the file to what was written and returns once the bytes, and the name of a new file, are safe
+  // from a power cut.
+  virtual std::unique_ptr<OutputFile> OpenInPlace(const std::string& path, std::uint64_t length) = 0;
   virtual void RemoveFile(const std::string& path) = 0;
   // Takes the place of a file that has the new name, in one step; one that may not be written stays and is error 70.
   virtual void RenameFile(const std::string& path, const std::string& newPath) = 0;
@@ -66,7 +71,7 @@ class FileSystem {
   // The folders at which the user's disks begin: the root of the file system first, then what else is attached.
   virtual std::vector<std::string> Drives() = 0;
   virtual void SetWorkingFolder(const std::string& path) = 0;
-  // The path from the root of the file system.
+  // The path from the root of the file system, without "." and "..", which go where the system would go.
   virtual std::string AbsolutePath(const std::string& path) = 0;
   // Marks the file as in use by this program until the mark is destroyed or the program ends in whatever way; the file
   // is made when it is missing. Nothing when another program has it, or when it cannot be made.

@@ -11,6 +11,7 @@
 #include <system_error>
 
 #include "platform/file_errors.h"
+#include "platform/file_handle.h"
 
 namespace orby {
 namespace {
@@ -18,47 +19,6 @@ namespace {
 constexpr mode_t OwnerOnly = S_IRUSR | S_IWUSR;
 constexpr mode_t AsTheUserGives = OwnerOnly | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;  // less what the mask takes
 constexpr mode_t Permissions = 07777;
-
-// A file open by its number.
-class Handle {
- public:
-  Handle(int file, const std::string& path) : file_(file), path_(path) {
-    if (file_ < 0) throw FileError(errno, path_);
-  }
-  ~Handle() {
-    if (file_ >= 0) close(file_);
-  }
-  Handle(const Handle&) = delete;
-  Handle& operator=(const Handle&) = delete;
-
-  int Number() const { return file_; }
-
-  void Write(std::string_view bytes) {
-    while (!bytes.empty()) {
-      const ssize_t written = write(file_, bytes.data(), bytes.size());
-      if (written >= 0) {
-        bytes.remove_prefix(static_cast<std::size_t>(written));
-      } else if (errno != EINTR) {
-        throw FileError(errno, path_);
-      }
-    }
-  }
-
-  void Flush() {
-    if (fsync(file_) != 0) throw FileError(errno, path_);
-  }
-
-  // A write that failed late is reported here.
-  void Close() {
-    const int file = file_;
-    file_ = -1;
-    if (close(file) != 0) throw FileError(errno, path_);
-  }
-
- private:
-  int file_;
-  std::string path_;
-};
 
 // The path that a chain of symbolic links leads to, be there a file or not.
 std::string BehindLinks(const std::string& path) {
@@ -129,7 +89,7 @@ class Replacement {
 
   std::string path_;
   std::string beside_;
-  std::optional<Handle> file_;  // until it has its place
+  std::optional<FileHandle> file_;  // until it has its place
 };
 
 }  // namespace
@@ -141,7 +101,7 @@ void ReplaceFileOnDisk(const std::string& path, std::string_view bytes) {
   if (replaced && access(path.c_str(), W_OK) != 0) throw FileError(errno, path);
   if (replaced && !S_ISREG(replaced->st_mode)) {
     // A pipe or a device has nothing to lose and cannot be replaced; a folder is refused here.
-    Handle file(open(path.c_str(), O_WRONLY | O_CLOEXEC), path);
+    FileHandle file(open(path.c_str(), O_WRONLY | O_CLOEXEC), path);
     file.Write(bytes);
     return file.Close();
   }

@@ -14,24 +14,14 @@
 
 #include "base/runtime_error.h"
 #include "support/recording_platform.h"
+#include "support/temporary_folder.h"
 
 namespace orby::test {
 namespace {
 
-// A folder of its own for each test, gone when the test ends.
 class Disk : public testing::Test {
  public:
-  Disk() {
-    std::string name = (std::filesystem::temp_directory_path() / "orby-disk-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-    folder = name;
-  }
-  ~Disk() override {
-    std::error_code ignored;
-    std::filesystem::remove_all(folder, ignored);
-  }
-
-  std::string At(const std::string& name) const { return folder + "/" + name; }
+  std::string At(const std::string& name) const { return own.At(name); }
 
   void Store(const std::string& path, std::string_view bytes) {
     const auto file = files.CreateFile(path);
@@ -58,7 +48,8 @@ class Disk : public testing::Test {
     return ErrorNumberOf([&] { static_cast<void>(files.Finds(path, true)); });
   }
 
-  std::string folder;
+  TemporaryFolder own;
+  std::string folder = own.Path();
   DiskFiles files{"/opt/orby"};
 };
 
@@ -412,6 +403,31 @@ TEST_F(Disk, StaysInTheWorkingFolderWhenTheNextIsNone) {
 TEST_F(Disk, LeavesAnAbsolutePathAsItIsButForDetours) {
   EXPECT_EQ(files.AbsolutePath("/designs/North Mains.ORB"), "/designs/North Mains.ORB");
   EXPECT_EQ(files.AbsolutePath("/designs/./old/../panel.ORB"), "/designs/panel.ORB");
+}
+
+TEST_F(Disk, GoesUpFromWhereALinkLeads) {
+  std::filesystem::create_directories(At("archive/2031/north"));
+  std::filesystem::create_directory_symlink(At("archive/2031/north"), At("current"));
+  Store(At("archive/2031/panel.ORB"), "the one that is meant");
+  Store(At("panel.ORB"), "another one");
+
+  const std::string path = files.AbsolutePath(At("current/../panel.ORB"));
+
+  EXPECT_EQ(files.ReadFile(path), "the one that is meant");
+  EXPECT_EQ(path, std::filesystem::canonical(At("archive/2031/panel.ORB")));
+}
+
+TEST_F(Disk, KeepsTheNameOfALinkThatIsNotGoneUpFrom) {
+  std::filesystem::create_directory(At("archive"));
+  std::filesystem::create_directory_symlink(At("archive"), At("current"));
+
+  EXPECT_EQ(files.AbsolutePath(At("current/./old/../panel.ORB")), At("current/panel.ORB"));
+}
+
+TEST_F(Disk, LeavesAWayUpFromABrokenLinkToTheSystem) {
+  std::filesystem::create_directory_symlink(At("gone"), At("current"));
+
+  EXPECT_EQ(ErrorOfReading(files.AbsolutePath(At("current/../panel.ORB"))), 76);
 }
 
 TEST_F(Disk, GivesAMarkToOneAtATime) {

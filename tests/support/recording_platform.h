@@ -1,9 +1,12 @@
 // A platform without a screen or a disk: it answers from scripts, records what was asked, and fails on demand.
 #pragma once
 
+#include <algorithm>
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <set>
 #include <string>
@@ -40,13 +43,36 @@ class RecordingBoxes : public MessageBoxes {
   std::deque<int> answers;
 };
 
-// Files in memory. Any step of a file's life can be made to fail with a run-time error.
+// The power goes at a step of the files: nothing after it happens, and nothing below the test catches this.
+struct PowerCut {};
+
+// Files in memory. Any step of a file's life can be made to fail with a run-time error, or to be the last before the
+// power goes.
 class MemoryFiles : public FileSystem {
  public:
-  enum class Step { Find, Read, Create, Write, Close, Remove, Rename, MakeFolder, EnterFolder, ListFolders };
+  enum class Step {
+    Find,
+    Read,
+    Create,
+    Reserve,
+    Write,
+    Cut,
+    Flush,
+    Close,
+    Remove,
+    Rename,
+    MakeFolder,
+    EnterFolder,
+    ListFolders
+  };
 
   // The step fails with this error, as soon as it has succeeded `after` times.
   void Fail(Step step, int errorNumber, int after = 0) { failures[step] = {errorNumber, after}; }
+
+  // The step after so many others fails with this error, whatever it is.
+  void FailNext(int errorNumber, int after) { next = {errorNumber, after}; }
+  // The power goes at the step after so many others.
+  void CutPower(int after) { next = {PowerIsCut, after}; }
 
   bool Finds(const std::string& path, bool foldersToo) override {
     Meet(Step::Find);
@@ -72,15 +98,32 @@ class MemoryFiles : public FileSystem {
     return std::make_unique<MemoryOutput>(*this, path);
   }
 
+  std::unique_ptr<OutputFile> OpenInPlace(const std::string& path, std::uint64_t) override {
+    Meet(Step::Create);
+    const bool isNew = files.try_emplace(path).second;
+    try {
+      Meet(Step::Reserve);
+    } catch (const RuntimeError&) {
+      if (isNew) files.erase(path);
+      throw;
+    }
+    created.push_back(path);
+    return std::make_unique<MemoryInPlace>(*this, path);
+  }
+
   void RemoveFile(const std::string& path) override {
     Meet(Step::Remove);
     if (files.erase(path) == 0) throw RuntimeError(error_number::FileNotFound);
+    onDisk.erase(path);
   }
 
   void RenameFile(const std::string& path, const std::string& newPath) override {
     Meet(Step::Rename);
     files[newPath] = ReadFile(path);
     files.erase(path);
+    // The disk has the new name at once, the bytes only if they were waited for.
+    onDisk[newPath] = onDisk[path];
+    onDisk.erase(path);
   }
 
   void ReplaceFile(const std::string& path, std::string_view bytes) override {
@@ -88,6 +131,8 @@ class MemoryFiles : public FileSystem {
     try {
       const auto file = CreateFile(beside);
       file->Write(bytes);
+      Meet(Step::Flush);
+      onDisk[beside] = files[beside];
       file->Close();
       RenameFile(beside, path);
     } catch (const RuntimeError&) {
@@ -139,12 +184,14 @@ class MemoryFiles : public FileSystem {
   std::string ProgramFolder() override { return "/program"; }
 
   std::map<std::string, std::string> files;
+  std::map<std::string, std::string> onDisk;  // what is sure to be there after a power cut
   std::set<std::string, std::less<>> folders{"/tmp", "/program"};
   std::set<std::string, std::less<>> readOnly;  // folders
   std::set<std::string> marked;                 // files in use by a program
   std::vector<std::string> drives{"/"};
   std::string workingFolder = "/work";
   std::vector<std::string> created;
+  std::size_t bytesRead = 0;  // from files that were read piece by piece
 
  private:
   struct Failure {
@@ -166,6 +213,35 @@ class MemoryFiles : public FileSystem {
     std::string path_;
   };
 
+  // A write that fails has written the first half.
+  class MemoryInPlace : public OutputFile {
+   public:
+    MemoryInPlace(MemoryFiles& owner, std::string path) : owner_(owner), path_(std::move(path)) {}
+    void Write(std::string_view bytes) override {
+      Put(bytes.substr(0, bytes.size() / 2));
+      owner_.Meet(Step::Write);
+      Put(bytes.substr(bytes.size() / 2));
+    }
+    void Close() override {
+      owner_.Meet(Step::Cut);
+      owner_.files[path_].resize(written_);
+      owner_.Meet(Step::Flush);
+      owner_.onDisk[path_] = owner_.files[path_];
+      owner_.Meet(Step::Close);
+    }
+
+   private:
+    void Put(std::string_view bytes) {
+      std::string& file = owner_.files[path_];
+      file.replace(std::min(written_, file.size()), bytes.size(), bytes);
+      written_ += bytes.size();
+    }
+
+    MemoryFiles& owner_;
+    std::string path_;
+    std::size_t written_ = 0;
+  };
+
   class MemoryInput : public InputFile {
    public:
     MemoryInput(MemoryFiles& owner, std::string bytes) : owner_(owner), bytes_(std::move(bytes)) {}
@@ -173,6 +249,7 @@ class MemoryFiles : public FileSystem {
       owner_.Meet(Step::Read);
       const std::string next = bytes_.substr(place_, most);
       place_ += next.size();
+      owner_.bytesRead += next.size();
       return next;
     }
 
@@ -197,13 +274,21 @@ class MemoryFiles : public FileSystem {
   };
 
   void Meet(Step step) {
+    if (next.errorNumber != 0 && next.after-- == 0) {
+      const int errorNumber = std::exchange(next.errorNumber, 0);
+      if (errorNumber == PowerIsCut) throw PowerCut();
+      throw RuntimeError(errorNumber);
+    }
     const auto found = failures.find(step);
     if (found == failures.end()) return;
     if (found->second.after-- > 0) return;
     throw RuntimeError(found->second.errorNumber);
   }
 
+  static constexpr int PowerIsCut = -1;
+
   std::map<Step, Failure> failures;
+  Failure next;  // of whatever step; none: no error number
 };
 
 // File dialogs answer from the queue; an empty queue, or an empty name, is a cancelled dialog.

@@ -1,0 +1,30 @@
+// A file of the system, open by its number.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace orby {
+
+// Each routine throws the RuntimeError of what the system reports.
+class FileHandle {
+ public:
+  // Takes over what the system's open returned for the path: below 0 is its error.
+  FileHandle(int file, const std::string& path);
+  ~FileHandle();
+  FileHandle(const FileHandle&) = delete;
+  FileHandle& operator=(const FileHandle&) = delete;
+
+  int Number() const { return file_; }
+  void Write(std::string_view bytes);
+  // Returns once the disk has what was written.
+  void Flush();
+  // Reports a write that failed late.
+  void Close();
+
+ private:
+  int file_;
+  std::string path_;
+};
+
+}  // namespace orby

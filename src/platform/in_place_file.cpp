@@ -1,0 +1,100 @@
+#include "platform/in_place_file.h"
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <string_view>
+#include <system_error>
+
+#include "platform/file_errors.h"
+#include "platform/file_handle.h"
+
+namespace orby {
+namespace {
+
+constexpr int ToWrite = O_WRONLY | O_CLOEXEC;
+constexpr mode_t UsualMode = 0666;  // less what the user's mask takes away
+
+bool CannotReserve(int systemError) {
+  return systemError == EOPNOTSUPP || systemError == ENOSYS || systemError == EINVAL || systemError == ENODEV;
+}
+
+class InPlaceFile : public OutputFile {
+ public:
+  InPlaceFile(const std::string& path, std::uint64_t length, bool isNew)
+      : path_(path), isNew_(isNew), file_(open(path.c_str(), isNew ? ToWrite | O_CREAT : ToWrite, UsualMode), path) {
+    try {
+      if (fstat(file_.Number(), &facts_) != 0) throw FileError(errno, path_);
+      if (IsRegular()) Reserve(length);
+    } catch (const RuntimeError&) {
+      if (isNew_) unlink(OwnPath().c_str());
+      throw;
+    }
+  }
+
+  void Write(std::string_view bytes) override {
+    file_.Write(bytes);
+    written_ += bytes.size();
+  }
+
+  void Close() override {
+    if (IsRegular()) {
+      if (ftruncate(file_.Number(), static_cast<off_t>(written_)) != 0) throw FileError(errno, path_);
+      file_.Flush();
+    }
+    file_.Close();
+    if (isNew_) FlushFolder();
+  }
+
+ private:
+  // A pipe or a device has no length and nothing to lose.
+  bool IsRegular() const { return S_ISREG(facts_.st_mode); }
+
+  // Finds out whether there is room. The length of the file stays: until new bytes are written, it is what it was.
+  void Reserve(std::uint64_t length) const {
+    const auto held = static_cast<std::uint64_t>(facts_.st_size);
+    if (length <= held) return;
+    rlimit limit{};
+    if (getrlimit(RLIMIT_FSIZE, &limit) == 0 && length > limit.rlim_cur) throw FileError(EFBIG, path_);
+    if (fallocate(file_.Number(), FALLOC_FL_KEEP_SIZE, 0, static_cast<off_t>(length)) == 0) return;
+    if (!CannotReserve(errno)) throw FileError(errno, path_);
+    struct statvfs disk {};
+    if (fstatvfs(file_.Number(), &disk) != 0 || disk.f_blocks == 0) return;
+    if (static_cast<std::uint64_t>(disk.f_bavail) * disk.f_frsize < length - held) throw FileError(ENOSPC, path_);
+  }
+
+  // The path behind all links; empty when the file has gone.
+  std::filesystem::path OwnPath() const {
+    std::error_code problem;
+    return std::filesystem::canonical(path_, problem);
+  }
+
+  // The name of a new file is as lasting as the folder's own entry. A folder that may not be read cannot be flushed.
+  void FlushFolder() const {
+    const int handle = open(OwnPath().parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0) return;
+    fsync(handle);
+    close(handle);
+  }
+
+  std::string path_;
+  bool isNew_;
+  FileHandle file_;
+  struct stat facts_ {};  // as the file was opened
+  std::uint64_t written_ = 0;
+};
+
+}  // namespace
+
+std::unique_ptr<OutputFile> OpenFileInPlace(const std::string& path, std::uint64_t length) {
+  CheckName(path);
+  const bool isNew = access(path.c_str(), F_OK) != 0 && errno == ENOENT;
+  return std::make_unique<InPlaceFile>(path, length, isNew);
+}
+
+}  // namespace orby
