@@ -6,17 +6,36 @@
 
 namespace orby {
 
+namespace {
+
+// Enough to tell what a file is; most projects end before.
+constexpr std::size_t HeadBytes = std::size_t{64} * 1024;
+constexpr std::size_t PieceBytes = std::size_t{1} << 20U;
+// No project comes near it: what lies beyond is not read.
+constexpr std::size_t LongestFile = std::size_t{256} * 1024 * 1024;
+
+void ReadRest(InputFile& file, std::string& bytes) {
+  while (bytes.size() < LongestFile) {
+    const std::string piece = file.Read(PieceBytes);
+    if (piece.empty()) return;
+    bytes += piece;
+  }
+}
+
+}  // namespace
+
 void FileOpen(Program& program, bool& ok) {
   ok = false;
-  if (!program.FileSaved) SaveChangesOfPreviousFile(program);
+  if (!program.FileSaved && !SaveChangesOfPreviousFile(program)) return;
   program.platform.windows.SetWaitCursor(true);
   FileNew(program, false, true);
   AddHistoryLine(program, "Opening: " + program.CurrentFile);
 
-  const std::string bytes = program.platform.files.ReadFile(program.CurrentFile);
-  const ItemReader reader(bytes);
-  if (CheckFileFormat(program, reader)) {
-    ReadProject(program, reader);
+  const auto file = program.platform.files.OpenFile(program.CurrentFile);
+  std::string bytes = file->Read(HeadBytes);
+  if (CheckFileFormat(program, ItemReader(bytes))) {
+    ReadRest(*file, bytes);
+    ReadProject(program, ItemReader(bytes));
     program.FileSaved = true;
     program.FileEmpty = false;
     program.UnitsLocked = true;

@@ -44,13 +44,14 @@ bool FileMenuSave(Program& program, bool saveAs) {
   return ok;
 }
 
-void SaveChangesOfPreviousFile(Program& program) {
+bool SaveChangesOfPreviousFile(Program& program) {
   const int answer = ShowMessage(program, "Save changes to: " + program.PreviousFile + "?",
                                  box_style::YesNo | box_style::Question | box_style::SecondButtonDefault);
-  if (answer != box_result::Yes) return;
+  if (answer != box_result::Yes) return true;
   std::string fileToOpen = std::exchange(program.CurrentFile, program.PreviousFile);
-  FileMenuSave(program, false);
-  program.CurrentFile = std::move(fileToOpen);
+  const bool isSaved = FileMenuSave(program, false);
+  program.CurrentFile = isSaved ? std::move(fileToOpen) : program.PreviousFile;
+  return isSaved;
 }
 
 }  // namespace orby

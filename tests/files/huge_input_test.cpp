@@ -15,9 +15,33 @@ int OpenError(const std::string& bytes) {
   return ErrorNumberOf([&] { project.Open(); });
 }
 
-TEST(HugeInput, OneEndlessLine) { EXPECT_EQ(OpenError(std::string(Huge, 'x')), 7); }
+class NoProject : public testing::TestWithParam<std::string> {};
 
-TEST(HugeInput, AnUnclosedQuote) { EXPECT_EQ(OpenError("\"" + std::string(Huge, '\n')), 7); }
+TEST_P(NoProject, IsRefusedByItsHeadAndNotReadFurther) {
+  TestProject project;
+  project.File() = GetParam();
+
+  EXPECT_FALSE(project.Open());
+
+  EXPECT_THAT(project.platform.boxes.Texts(),
+              testing::ElementsAre("Invalid ORBY file format. File can not be opened."));
+  EXPECT_LE(project.platform.files.bytesRead, 64U * 1024);
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, NoProject,
+                         testing::Values(std::string(Huge, 'x'), std::string(Huge, '\0'),
+                                         "\"" + std::string(Huge, '\n'), "a letter\n" + std::string(Huge, 'x')));
+
+TEST(HugeInput, WhatLiesBeyondTheLongestProjectIsNotRead) {
+  constexpr std::size_t Longest = std::size_t{256} * 1024 * 1024;
+  TestProject project;
+  ASSERT_TRUE(project.Save());
+  project.File().resize(Longest + Huge);
+
+  EXPECT_TRUE(project.Open());
+
+  EXPECT_LE(project.platform.files.bytesRead, Longest + 1024 * 1024);
+}
 
 TEST(HugeInput, AnEndlessTitle) { EXPECT_EQ(OpenError("ORBY_104\n0\n0\n" + std::string(Huge, 'x')), 7); }
 

@@ -359,16 +359,43 @@ TEST(ProjectFile, YesForAnUntitledProjectAsksForItsNameAndStillOpensTheChosenFil
   EXPECT_EQ(project.program.CurrentFile, ProjectPath);
 }
 
-TEST(ProjectFile, ASaveThatFailsDoesNotStopTheOpen) {
+TEST(ProjectFile, ASaveThatFailsStopsTheOpen) {
   ChangedProject project;
   project.platform.boxes.answers = {box_result::Yes, box_result::Cancel};
   project.platform.files.Fail(MemoryFiles::Step::Create, error_number::PermissionDenied);
 
-  EXPECT_TRUE(project.Open());
+  EXPECT_FALSE(project.Open());
 
   EXPECT_THAT(project.platform.boxes.Texts(),
               ElementsAre("Save changes to: /designs/previous.orb?", "Error occurred: Permission denied (70)"));
-  EXPECT_EQ(project.program.WorkParms.DepthofCover, 5.25F);
+  EXPECT_EQ(project.program.CurrentFile, "/designs/previous.orb");
+  EXPECT_EQ(project.program.WorkParms.DepthofCover, 777);
+  EXPECT_FALSE(project.program.FileSaved);
+  EXPECT_FALSE(project.platform.windows.waitCursor);
+}
+
+TEST(ProjectFile, ASaveThatIsCancelledStopsTheOpen) {
+  ChangedProject project;
+  project.program.PreviousFile = "Untitled";
+  project.platform.boxes.answers = {box_result::Yes};
+
+  EXPECT_FALSE(project.Open());
+
+  EXPECT_EQ(project.program.CurrentFile, "Untitled");
+  EXPECT_EQ(project.program.WorkParms.DepthofCover, 777);
+  EXPECT_FALSE(project.program.FileSaved);
+}
+
+TEST(ProjectFile, ASaveUnderANewNameThatFailsKeepsTheNameItHad) {
+  ChangedProject project;
+  project.program.PreviousFile = "Untitled";
+  project.platform.boxes.answers = {box_result::Yes, box_result::Cancel};
+  project.platform.fileDialogs.answers = {"/designs/named.orb"};
+  project.platform.files.Fail(MemoryFiles::Step::Create, error_number::PermissionDenied);
+
+  EXPECT_FALSE(project.Open());
+
+  EXPECT_EQ(project.program.CurrentFile, "Untitled");
 }
 
 TEST(ProjectFile, ASavedProjectIsNotAskedAbout) {

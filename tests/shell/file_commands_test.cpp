@@ -106,15 +106,39 @@ TEST_F(FileMenu, OpenAsksToSaveTheProjectBefore) {
   EXPECT_EQ(program.WorkParms.DepthofCover, 980);
 }
 
-TEST_F(FileMenu, OpenGoesOnThoughTheProjectBeforeCannotBeSaved) {
-  EditPanel3();
+TEST_F(FileMenu, OpenIsStoppedWhenTheProjectBeforeCannotBeSaved) {
+  OpenByDialog(Panel3);
+  platform.windows.onModal = [](Form& form) {
+    dynamic_cast<TextBox&>(*form.Find("txtDepthofCover")).SetText("800");
+    dynamic_cast<Button&>(*form.Find("Command2")).Press();
+  };
+  window.mnuEditItem.ClickItem(edit_item::Parameters);
+  const std::string kept = FileAt(RecoveryPath);
   platform.boxes.answers = {box_result::Yes, box_result::Cancel};
   platform.files.Fail(Step::Create, error_number::DiskFull);
 
   OpenByDialog(Panel4);
 
-  EXPECT_EQ(program.CurrentFile, Panel4);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 980);
+  EXPECT_EQ(program.CurrentFile, Panel3);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 800);
+  EXPECT_FALSE(program.FileSaved);
+  EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb*");
+  EXPECT_EQ(FileAt(RecoveryPath), kept);
+  EXPECT_EQ(window.mnuFileArray.Caption(1), Panel3);
+}
+
+TEST_F(FileMenu, ARecentFileIsNotOpenedWhenTheSaveBeforeIsCancelled) {
+  OpenByDialog(Panel4);
+  window.mnuFileItem.ClickItem(file_item::New);
+  program.WorkParms.DepthofCover = 800;
+  program.FileSaved = false;
+  platform.boxes.answers = {box_result::Yes};
+
+  window.mnuFileArray.ClickItem(1);
+
+  EXPECT_EQ(program.CurrentFile, "Untitled");
+  EXPECT_EQ(program.WorkParms.DepthofCover, 800);
+  EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: Untitled");
 }
 
 TEST_F(FileMenu, ARefusedFileLeavesANewDesignUnderItsNameAndTheOldCaption) {
