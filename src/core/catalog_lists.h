@@ -22,6 +22,7 @@ struct CatalogList {
     if (index >= Values.size()) Values.resize(index + 1);
     Values[index] = value;
   }
+  bool operator==(const CatalogList&) const = default;
 };
 
 // One row of the fixed bolt table, as texts.
@@ -29,6 +30,7 @@ struct BoltTableRow {
   std::string Name;
   std::string Diameter;
   std::string Grade;
+  bool operator==(const BoltTableRow&) const = default;
 };
 using BoltTable = std::vector<BoltTableRow>;
 
@@ -36,6 +38,7 @@ struct StandingSupports {
   Integer HighestIndex = -1;
   std::vector<std::string> DefaultStandSupportType;
   std::vector<std::array<Single, 2>> DefaultStandSupportCap;  // tons, kN
+  bool operator==(const StandingSupports&) const = default;
 };
 
 struct Catalogs {
@@ -59,6 +62,7 @@ struct Catalogs {
   StandingSupports StandSupports;
   BoltTable BoltTableENG;  // in, ksi
   BoltTable BoltTableMET;  // mm, MPa
+  bool operator==(const Catalogs&) const = default;
 };
 
 }  // namespace orby

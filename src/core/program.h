@@ -3,6 +3,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -62,6 +63,22 @@ inline constexpr Integer Parameters = 1;
 inline constexpr Integer Cost = 2;
 }  // namespace report_caller
 
+// What the calculations of a report are made from.
+struct ReportBasis {
+  DesignGroups Design;
+  Integer Units = English;
+  Integer BoltStrengthMode = 0;
+  bool UsesAustralianTable = false;
+  Catalogs catalogs;
+  bool operator==(const ReportBasis&) const = default;
+};
+
+// The calculations that the Results button of the parameters showed last.
+struct ShownResults {
+  ReportBasis MadeFrom;
+  std::string Page;
+};
+
 struct Program {
   explicit Program(Platform platformGiven) : platform(platformGiven) {}
 
@@ -86,6 +103,7 @@ struct Program {
 
   std::array<std::string, 5> OutBuf;  // report pages: 0 the input echo, 1 the calculations or the cost table
   Integer LastPage = 4;
+  std::optional<ShownResults> LastResults;
   Integer ReportCaller = report_caller::None;
   bool DialogOpen = false;
   std::function<void(Integer)> OpenInputDialog;  // opens the dialog of this report_caller, as the Input menu does

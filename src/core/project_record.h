@@ -23,6 +23,7 @@ struct GeologyGroup {
   Integer PrimSupport = 0;  // 1: primary support is analysed
   Integer SecondSupEntries = 0;
   Integer SecondSupInter = 0;
+  bool operator==(const GeologyGroup&) const = default;
 };
 
 // Primary support: the roof bolt pattern.
@@ -42,6 +43,7 @@ struct PrimaryGroup {
   Single BoltGradeManualPrimary = 0;
   Single BoltsperRowPrimary = 0;
   Single RowSpacingPrimary = 0;
+  bool operator==(const PrimaryGroup&) const = default;
 };
 
 // Secondary support in entries. Loads, capacities and stability factors are what the dialog last computed.
@@ -92,6 +94,7 @@ struct EntryGroup {
   Single SupportRowSpacingSecEntry = 0;
   Single SupportCapEntry4 = 0;
   Single StabFactorEntry4 = 0;
+  bool operator==(const EntryGroup&) const = default;
 };
 
 // Secondary support in intersections, sized by the number of units in the whole intersection.
@@ -140,6 +143,7 @@ struct IntersectionGroup {
   Single SupportNumberSecInter = 0;
   Single SupportCapInter4 = 0;
   Single StabFactorInter4 = 0;
+  bool operator==(const IntersectionGroup&) const = default;
 };
 
 // Cost of one bolting operation, in dollars and the project's lengths.
@@ -171,10 +175,13 @@ struct CostGroup {
 };
 
 // The four groups that a preview of results copies between records; the cost group takes no part in it.
-struct DesignGroups : GeologyGroup, PrimaryGroup, EntryGroup, IntersectionGroup {};
+struct DesignGroups : GeologyGroup, PrimaryGroup, EntryGroup, IntersectionGroup {
+  bool operator==(const DesignGroups&) const = default;
+};
 
 struct ProjectRecord : DesignGroups, CostGroup {
   DesignGroups& Design() { return *this; }
+  const DesignGroups& Design() const { return *this; }
   CostGroup& Cost() { return *this; }
 };
 

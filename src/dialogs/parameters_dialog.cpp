@@ -221,6 +221,7 @@ bool ParametersDialog::BuildReport() {
   program_.ReportCaller = report_caller::Parameters;
   LoadOutBuf0(program_);
   CalculationReport(program_);
+  KeepShownResults(program_);
   return true;
 }
 

@@ -45,8 +45,8 @@ void TakeShownDesign(Program& program) {
 
 }  // namespace
 
-// Pages that are kept could be of other inputs, so each report is made of the project anew.
 void BuildProjectReport(Program& program) {
+  if (RestoreShownResults(program)) return LoadOutBuf0(program);
   ProgramApart programApart(program);
   Program& apart = *programApart;
   const bool isComputed = Succeeds([&] {

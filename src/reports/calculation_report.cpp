@@ -18,6 +18,11 @@ void SetPage(Program& program, ReportText& page) {
   program.LastPage = 1;
 }
 
+ReportBasis BasisOf(const Program& program) {
+  return {program.WorkParms.Design(), program.Units, program.BoltStrengthMode, UsesAustralianTable(program),
+          program.catalogs};
+}
+
 }  // namespace
 
 void CalculationReport(Program& program) {
@@ -36,6 +41,15 @@ void NoCalculationReport(Program& program) {
   page.Line(Heading);
   page.Line("The results cannot be computed from these inputs.");
   SetPage(program, page);
+}
+
+void KeepShownResults(Program& program) { program.LastResults = {BasisOf(program), program.OutBuf[1]}; }
+
+bool RestoreShownResults(Program& program) {
+  if (!program.LastResults || program.LastResults->MadeFrom != BasisOf(program)) return false;
+  program.OutBuf[1] = program.LastResults->Page;
+  program.LastPage = 1;
+  return true;
 }
 
 }  // namespace orby

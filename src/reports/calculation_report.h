@@ -16,4 +16,11 @@ void CalculationReport(Program& program);
 // Writes the page of a design whose calculations cannot be computed: the heading, and a line that says so.
 void NoCalculationReport(Program& program);
 
+// Keeps page 1, made from program.WorkParms, as the results that were shown last.
+void KeepShownResults(Program& program);
+
+// Makes the results that were shown last page 1 again. Returns false, and changes nothing, unless they were made from
+// the design, units, strength basis and lists that are in force now.
+bool RestoreShownResults(Program& program);
+
 }  // namespace orby

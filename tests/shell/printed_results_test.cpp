@@ -98,19 +98,41 @@ TEST_F(PrintedResults, AreThoseOfEditsThatWereAccepted) {
   EXPECT_THAT(Printed(), HasSubstr(Psup900));
 }
 
-// The accepted design has the cable diameter of the entries in its intersections too.
-TEST_F(PrintedResults, FollowTheCablesOfTheAcceptedDesign) {
-  InParameters([](ParametersDialog& dialog) {
+// The intersections' rock load does not follow the width of the entry, so Results shows that of the width before. The
+// printed sheet agrees with what was seen and accepted.
+TEST_F(PrintedResults, StayAsResultsShowedThemWhenTheShownDesignIsAccepted) {
+  std::string shown;
+  InParameters([&](ParametersDialog& dialog) {
     dialog.cmbCableDiamSecInter.SetText("0.7");
+    dialog.txtEntryWidth.SetText("19");
     dialog.cmdresults.Press();
+    shown = program.OutBuf[1];
     dialog.Command2.Press();
   });
-  const std::string shown = program.OutBuf[1];
 
   Printed();
 
   EXPECT_THAT(shown, Not(HasSubstr("Cable Bolt System Stability Factor........................1.44\r\n")));
-  EXPECT_THAT(program.OutBuf[1], HasSubstr("Cable Bolt System Stability Factor........................1.44\r\n"));
+  EXPECT_EQ(program.OutBuf[1], shown);
+}
+
+TEST_F(PrintedResults, StayAsResultsShowedThemAfterTheCostTableWasShown) {
+  std::string shown;
+  InParameters([&](ParametersDialog& dialog) {
+    dialog.cmbCableDiamSecInter.SetText("0.7");
+    dialog.cmdresults.Press();
+    shown = program.OutBuf[1];
+    dialog.Command2.Press();
+  });
+  platform.windows.onModal = [](Form& form) {
+    if (auto* dialog = dynamic_cast<CostDialog*>(&form)) dialog->cmdresults.Press();
+  };
+  window.mnuEditItem.ClickItem(edit_item::Cost);
+  ASSERT_THAT(program.OutBuf[1], HasSubstr("TOTAL COST"));
+
+  Printed();
+
+  EXPECT_EQ(program.OutBuf[1], shown);
 }
 
 TEST_F(PrintedResults, AreNotThoseOfTheProjectBefore) {
