@@ -18,12 +18,25 @@ QColor ColorOf(int blueGreenRed) {
   return {blueGreenRed & 0xFF, (blueGreenRed >> 8) & 0xFF, (blueGreenRed >> 16) & 0xFF};
 }
 
+// The share of white light that a part of a colour gives, 0 to 1.
+double Linear(float part) { return part <= 0.04045F ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4); }
+
+double Luminance(const QColor& color) {
+  return 0.2126 * Linear(color.redF()) + 0.7152 * Linear(color.greenF()) + 0.0722 * Linear(color.blueF());
+}
+
 // A curve that is dark on paper is lifted until it stands out on a dark window.
 QColor Readable(const QColor& color, const QColor& background) {
   constexpr int Middle = 128;
-  constexpr int Least = 160;
-  if (background.lightness() >= Middle || color.lightness() >= Least) return color;
-  return QColor::fromHsl(color.hslHue(), color.hslSaturation(), Least);
+  constexpr int Brightest = 255;
+  constexpr double LeastContrast = 4.5;
+  if (background.lightness() >= Middle) return color;
+  const double least = LeastContrast * (Luminance(background) + 0.05) - 0.05;
+  QColor lifted = color;
+  for (int lightness = color.lightness(); Luminance(lifted) < least && lightness <= Brightest; ++lightness) {
+    lifted = QColor::fromHsl(color.hslHue(), color.hslSaturation(), lightness);
+  }
+  return lifted;
 }
 
 // A letter of so many pixels grows with a picture that is scaled; one of so many points would grow with the resolution
@@ -105,18 +118,13 @@ void ShowSeries(QCustomPlot& plot, const ChartSeries& series) {
                                           : QCPScatterStyle::ssNone);
 }
 
-// A little air around the points; a curve of one point or one height gets some too.
+// A little air around the points. A curve of one point or one height keeps the width of the range that the axis had,
+// and one without points all of it, so that is not left to the curve before.
 void ShowWhole(QCustomPlot& plot) {
   constexpr double Air = 1.08;
+  for (QCPAxis* axis : {plot.xAxis, plot.yAxis}) axis->setRange(0, 2);
   plot.rescaleAxes();
-  for (QCPAxis* axis : {plot.xAxis, plot.yAxis}) {
-    if (axis->range().size() > 0) {
-      axis->scaleRange(Air);
-    } else {
-      const double middle = axis->range().center();
-      axis->setRange(middle - 1, middle + 1);
-    }
-  }
+  for (QCPAxis* axis : {plot.xAxis, plot.yAxis}) axis->scaleRange(Air);
 }
 
 // How far along the axis a value lies: 0 at its start, 1 at its end.

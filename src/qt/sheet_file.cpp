@@ -2,6 +2,7 @@
 
 #include <xlsxwriter.h>
 
+#include <algorithm>
 #include <clocale>
 
 #include "base/runtime_error.h"
@@ -36,7 +37,8 @@ void WriteColumn(lxw_worksheet* worksheet, lxw_col_t column, const std::string& 
 }
 
 void AddSeries(lxw_chart* chart, const SheetSeries& series, lxw_col_t column) {
-  const auto last = static_cast<lxw_row_t>(series.x.size());
+  // A series without points has one empty row: a range cannot end before it starts.
+  const auto last = static_cast<lxw_row_t>(std::max<std::size_t>(series.x.size(), 1));
   lxw_chart_series* added = chart_add_series(chart, nullptr, nullptr);
   chart_series_set_categories(added, SheetName, 1, column, last, column);
   const auto yColumn = static_cast<lxw_col_t>(column + 1);

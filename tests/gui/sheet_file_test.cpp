@@ -79,6 +79,19 @@ TEST_F(SheetFile, GivesEachSeriesTheNextTwoColumns) {
   EXPECT_THAT(cells.at("D2"), Eq("4.25"));
 }
 
+TEST_F(SheetFile, RefersToOneEmptyRowForACurveWithoutPoints) {
+  Sheet sheet = CurveOf22Points();
+  sheet.series[0].x.clear();
+  sheet.series[0].y.clear();
+
+  Write(sheet);
+
+  const std::string chart = SheetPart(path, "xl/charts/chart1.xml").toStdString();
+  EXPECT_THAT(chart, testing::HasSubstr("<c:f>Curve!$A$2</c:f>"));
+  EXPECT_THAT(chart, testing::HasSubstr("<c:f>Curve!$B$2</c:f>"));
+  EXPECT_THAT(SheetCells(path), SizeIs(2));
+}
+
 TEST_F(SheetFile, FailsInAFolderThatIsNotThere) {
   const std::string nowhere = folder.filePath("missing/curve.xlsx").toStdString();
 
