@@ -12,6 +12,7 @@
 #include "core/messages.h"
 #include "dialogs/graph_options_dialog.h"
 #include "graphs/graph.h"
+#include "reports/printing.h"
 
 namespace orby {
 namespace {
@@ -130,10 +131,12 @@ void GraphWindow::ClearReadOut() {
 }
 
 void GraphWindow::Print() {
-  const auto outcome = RunTrapped(program_, [this] { program_.platform.printer.Choose(); });
+  const std::string title = CurveTitle(program_.curve.CurveIndex);
+  const auto outcome =
+      RunTrapped(program_, [&] { program_.platform.printer.Choose(PrintedName(program_) + " " + title); });
   if (outcome != StepOutcome::Done) return;
   AddHistoryLine(program_, "Printing Graph");
-  RunTrapped(program_, [this] { program_.platform.printer.PrintChart(graph1); });
+  RunTrapped(program_, [&] { program_.platform.printer.PrintChart(graph1, title); });
 }
 
 void GraphWindow::AskAndExport() {

@@ -86,7 +86,7 @@ bool ResultsWindow::ChoosePrinter() {
   bool aborted = false;
   const StepOutcome outcome = RunTrapped(program_, [&] {
     try {
-      program_.platform.printer.Choose();
+      program_.platform.printer.Choose(PrintedName(program_));
     } catch (const RuntimeError& error) {
       if (error.number() != error_number::Cancelled) throw;
       aborted = true;

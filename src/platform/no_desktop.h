@@ -60,12 +60,12 @@ class NoClipboard : public Clipboard {
 
 class NoPrinter : public Printer {
  public:
-  void Choose() override { throw RuntimeError(error_number::Printer); }
+  void Choose(const std::string&) override { throw RuntimeError(error_number::Printer); }
   void SetUp() override { throw RuntimeError(error_number::Printer); }
-  void PrintPages(const std::vector<std::string>&, const std::string&, const std::string&) override {
+  std::string PrintPages(const std::vector<std::string>&, const std::string&, const std::string&) override {
     throw RuntimeError(error_number::Printer);
   }
-  void PrintChart(const Control&) override { throw RuntimeError(error_number::Printer); }
+  void PrintChart(const Control&, const std::string&) override { throw RuntimeError(error_number::Printer); }
 };
 
 class NoDocuments : public Documents {

@@ -12,14 +12,16 @@ class Printer {
  public:
   virtual ~Printer() = default;
 
-  // Lets the user choose the printer for what is printed from now on. Throws RuntimeError 32755 when cancelled.
-  virtual void Choose() = 0;
+  // Lets the user choose the printer for what is printed from now on. fileName: what a PDF file is proposed to be
+  // called, without its extension. Throws RuntimeError 32755 when cancelled.
+  virtual void Choose(const std::string& fileName) = 0;
   // The same without anything being about to be printed.
   virtual void SetUp() = 0;
-  // One text a sheet, in the printer font, its lines as they stand.
-  virtual void PrintPages(const std::vector<std::string>& pages, const std::string& documentName,
-                          const std::string& fontName) = 0;
-  virtual void PrintChart(const Control& chart) = 0;
+  // Prints one text a sheet, in the printer font, its lines as they stand. Returns the file that was printed to, empty
+  // for paper. Only the first print after Choose replaces a file; others take a new name.
+  virtual std::string PrintPages(const std::vector<std::string>& pages, const std::string& title,
+                                 const std::string& fontName) = 0;
+  virtual void PrintChart(const Control& chart, const std::string& title) = 0;
 };
 
 }  // namespace orby

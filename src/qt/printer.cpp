@@ -1,6 +1,8 @@
 #include "qt/printer.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QPainter>
 #include <QPrintDialog>
@@ -9,17 +11,18 @@
 
 #include "base/runtime_error.h"
 #include "base/text.h"
+#include "core/program.h"
+#include "core/version.h"
 #include "qt/bound_form.h"
 #include "qt/chart_view.h"
 #include "qt/texts.h"
+#include "reports/printing.h"
 
 namespace orby {
 namespace {
 
-// What a sheet of text has room for.
-constexpr int LinesPerSheet = 66;
-constexpr int ColumnsPerSheet = 84;
-constexpr int LargestSize = 11;  // points
+constexpr QMarginsF Margins{20, 15, 20, 15};  // of a sheet, mm
+constexpr int LargestSize = 11;               // points
 
 constexpr int ChartWidth = 800;
 constexpr int ChartHeight = 1000;
@@ -33,8 +36,8 @@ QFont SheetFont(const QString& name, QPrinter& paper) {
   for (int size = LargestSize; size > 4; --size) {
     font.setPointSize(size);
     const QFontMetricsF metrics(font, &paper);
-    const bool fits = metrics.horizontalAdvance('0') * ColumnsPerSheet <= area.width() &&
-                      metrics.lineSpacing() * LinesPerSheet <= area.height();
+    const bool fits = metrics.horizontalAdvance('0') * PrintedWidth <= area.width() &&
+                      metrics.lineSpacing() * PrintedLines <= area.height();
     if (fits) break;
   }
   return font;
@@ -49,35 +52,87 @@ void PaintLines(QPainter& painter, std::string_view text) {
   }
 }
 
+bool IsFile(const QPrinter& device) {
+  return device.outputFormat() == QPrinter::PdfFormat && !device.outputFileName().isEmpty();
+}
+
+// The path itself if nothing is there, else the first of "NAME (2).pdf", "NAME (3).pdf" and so on that is free.
+QString NewName(const QString& path) {
+  const QFileInfo file(path);
+  QString name = path;
+  for (int number = 2; QFileInfo::exists(name); ++number) {
+    name = file.dir().filePath(QString("%1 (%2).%3").arg(file.completeBaseName()).arg(number).arg(file.suffix()));
+  }
+  return name;
+}
+
 }  // namespace
 
+// One document on its way to the device, as far as this lives. It has the margins of a sheet.
+class QtPrinter::Job {
+ public:
+  Job(QtPrinter& printer, const std::string& title) : device_(printer.Device()), chosenFile_(device_.outputFileName()) {
+    const bool toFile = IsFile(device_);
+    if (!toFile && QPrinterInfo::defaultPrinter().isNull() && device_.printerName().isEmpty()) {
+      throw RuntimeError(error_number::Printer);
+    }
+    device_.setDocName(ToQt(title));
+    device_.setPageMargins(Margins, QPageLayout::Millimeter);
+    if (toFile && !printer.mayReplace_) device_.setOutputFileName(NewName(chosenFile_));
+  }
+  Job(const Job&) = delete;
+  Job& operator=(const Job&) = delete;
+  ~Job() {
+    if (device_.outputFileName() != chosenFile_) device_.setOutputFileName(chosenFile_);
+  }
+
+  QPrinter& Device() { return device_; }
+  std::string File() const { return FromQt(device_.outputFileName()); }
+
+ private:
+  QPrinter& device_;
+  QString chosenFile_;
+};
+
 QPrinter& QtPrinter::Device() {
-  if (!device_) device_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  if (!device_) {
+    device_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    device_->setCreator(ToQt(std::string(ProgramTitle) + " " + VersionText(true)));
+  }
   return *device_;
 }
 
-QPrinter& QtPrinter::ReadyDevice() {
-  QPrinter& device = Device();
-  const bool toFile = device.outputFormat() == QPrinter::PdfFormat && !device.outputFileName().isEmpty();
-  if (!toFile && QPrinterInfo::defaultPrinter().isNull() && device.printerName().isEmpty()) {
-    throw RuntimeError(error_number::Printer);
-  }
-  return device;
-}
-
-void QtPrinter::Choose() {
+void QtPrinter::ShowDialog() {
   QPrintDialog dialog(&Device(), QApplication::activeWindow());
   if (dialog.exec() != QDialog::Accepted) throw RuntimeError(error_number::Cancelled);
 }
 
-void QtPrinter::SetUp() { Choose(); }
+// The dialog proposes a file by the name of the document, until there is a file.
+void QtPrinter::Choose(const std::string& fileName) {
+  const QString name = ToQt(fileName) + ".pdf";
+  QPrinter& device = Device();
+  const QString before = device.outputFileName();
+  device.setDocName(name);
+  if (IsFile(device)) device.setOutputFileName(QFileInfo(before).dir().filePath(name));
+  try {
+    ShowDialog();
+  } catch (const RuntimeError&) {
+    if (device.outputFileName() != before) device.setOutputFileName(before);
+    throw;
+  }
+  mayReplace_ = true;
+}
 
-void QtPrinter::PrintPages(const std::vector<std::string>& pages, const std::string& documentName,
-                           const std::string& fontName) {
-  QPrinter& device = ReadyDevice();
-  device.setDocName(ToQt(documentName));
+void QtPrinter::SetUp() { ShowDialog(); }
+
+std::string QtPrinter::PrintPages(const std::vector<std::string>& pages, const std::string& title,
+                                  const std::string& fontName) {
+  Job job(*this, title);
+  QPrinter& device = job.Device();
   QPainter painter;
   if (!painter.begin(&device)) throw RuntimeError(error_number::Printer);
+  // The device still has the scale of a chart that was printed before.
+  painter.setWorldTransform({});
   painter.setFont(SheetFont(ToQt(fontName), device));
   bool first = true;
   for (const std::string& page : pages) {
@@ -85,18 +140,21 @@ void QtPrinter::PrintPages(const std::vector<std::string>& pages, const std::str
     PaintLines(painter, page);
   }
   if (!painter.end()) throw RuntimeError(error_number::Printer);
+  mayReplace_ = false;
+  return job.File();
 }
 
-void QtPrinter::PrintChart(const Control& chart) {
+void QtPrinter::PrintChart(const Control& chart, const std::string& title) {
   const auto* view = dynamic_cast<const ChartView*>(WidgetOnScreen(chart));
   if (view == nullptr) return;
-  QPrinter& device = ReadyDevice();
-  device.setDocName(QString());
+  Job job(*this, title);
+  QPrinter& device = job.Device();
   const QRectF area = device.pageRect(QPrinter::DevicePixel);
   const double margin = area.width() * ChartMargin;
   const double scale = std::min((area.width() - 2 * margin) / ChartWidth, (area.height() - 2 * margin) / ChartHeight);
   const QRectF place(margin, margin, ChartWidth * scale, ChartHeight * scale);
   if (!view->PaintOn(device, place, ChartWidth, ChartHeight)) throw RuntimeError(error_number::Printer);
+  mayReplace_ = false;
 }
 
 }  // namespace orby

@@ -10,19 +10,23 @@ namespace orby {
 
 class QtPrinter : public Printer {
  public:
-  void Choose() override;
+  void Choose(const std::string& fileName) override;
   void SetUp() override;
-  void PrintPages(const std::vector<std::string>& pages, const std::string& documentName,
-                  const std::string& fontName) override;
-  void PrintChart(const Control& chart) override;
+  std::string PrintPages(const std::vector<std::string>& pages, const std::string& title,
+                         const std::string& fontName) override;
+  void PrintChart(const Control& chart, const std::string& title) override;
 
   // What is printed to, made when it is first asked for.
   QPrinter& Device();
 
  private:
-  QPrinter& ReadyDevice();
+  class Job;
+
+  // Throws RuntimeError 32755 when cancelled.
+  void ShowDialog();
 
   std::unique_ptr<QPrinter> device_;
+  bool mayReplace_ = false;  // the user has agreed to the file name in the dialog
 };
 
 }  // namespace orby

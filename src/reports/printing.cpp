@@ -24,11 +24,31 @@ std::string TableRow(std::string_view left, std::string_view right) {
 // The name alone, as short as captions show it: a path could reach into the column of the page number.
 std::string FileName(const Program& program) { return ShortenedPath(NameBehindSeparator(program.CurrentFile)); }
 
+// The file and, if it has one, the title of the project.
+std::string DocumentTitle(const Program& program) {
+  const std::string_view title = Trim(program.ProjectTitle);
+  return title.empty() ? FileName(program) : FileName(program) + " - " + std::string(title);
+}
+
 std::vector<std::string> PageHeader(const Program& program, std::size_t page) {
   return {TableRow("File Name: " + FileName(program), "Page: " + NumberText(static_cast<double>(page))),
           TableRow("Current Units: " + std::string(UnitSummary(program.Units)),
                    "Date/Time: " + DateText(program.platform.clock.Today())),
           std::string(ProgramTitle) + ", Version: " + VersionText(true), std::string(PrintedWidth, '-'), std::string()};
+}
+
+bool IsHeading(std::string_view line) { return line.starts_with('[') && line.ends_with(']'); }
+
+// The number of lines from the start of the text to the first that is neither a heading nor empty, that one included;
+// all lines if there is none.
+std::size_t LinesToContent(std::string_view text) {
+  std::size_t lines = 0;
+  while (!text.empty()) {
+    const std::string_view line = TakeLine(text);
+    ++lines;
+    if (!line.empty() && !IsHeading(line)) break;
+  }
+  return lines;
 }
 
 // Fills sheets line by line, starting a new one with its header when the last is full.
@@ -37,7 +57,11 @@ class SheetWriter {
   explicit SheetWriter(const Program& program) : program_(program) { StartSheet(); }
 
   void Text(std::string_view text) {
-    while (!text.empty()) Paragraph(TakeLine(text));
+    while (!text.empty()) {
+      const std::string_view line = TakeLine(text);
+      if (IsHeading(line)) KeepTogether(1 + LinesToContent(text));
+      Paragraph(line);
+    }
   }
   std::vector<std::string> Take() { return std::exchange(sheets_, {}); }
 
@@ -46,6 +70,12 @@ class SheetWriter {
     sheets_.emplace_back();
     lines_ = 0;
     for (const std::string& line : PageHeader(program_, sheets_.size())) Append(line);
+    headerLines_ = lines_;
+  }
+
+  // Starts a new sheet if it has room for the next lines and this one has not.
+  void KeepTogether(std::size_t count) {
+    if (lines_ + count > PrintedLines && headerLines_ + count <= PrintedLines) StartSheet();
   }
 
   void Paragraph(std::string_view line) {
@@ -67,6 +97,7 @@ class SheetWriter {
   const Program& program_;
   std::vector<std::string> sheets_;
   std::size_t lines_ = 0;  // of the last sheet
+  std::size_t headerLines_ = 0;
 };
 
 }  // namespace
@@ -84,8 +115,15 @@ std::vector<std::string> PrintSheets(const Program& program, std::string_view te
   return sheets.Take();
 }
 
-void PrintText(Program& program, std::string_view text) {
-  program.platform.printer.PrintPages(PrintSheets(program, text), FileName(program), ChoosePrinterFont(program));
+std::string PrintedName(const Program& program) {
+  const std::string_view name = NameBehindSeparator(program.CurrentFile);
+  const std::size_t point = name.rfind('.');
+  return std::string(point == 0 ? name : name.substr(0, point));
+}
+
+std::string PrintText(Program& program, std::string_view text) {
+  return program.platform.printer.PrintPages(PrintSheets(program, text), DocumentTitle(program),
+                                             ChoosePrinterFont(program));
 }
 
 }  // namespace orby

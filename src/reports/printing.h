@@ -16,10 +16,15 @@ inline constexpr std::size_t PrintedWidth = 78;  // characters; the rest of a lo
 // The report pages first..last as one text. Throws RuntimeError 9 beyond the pages there are.
 std::string JoinedPages(const Program& program, Integer first, Integer last);
 
-// The text as the sheets it is printed on; one sheet with its header alone without any text. Lines end in CR LF.
+// The text as the sheets it is printed on; one sheet with its header alone without any text. Lines end in CR LF. A
+// heading in brackets stands on the same sheet as the first line under it.
 std::vector<std::string> PrintSheets(const Program& program, std::string_view text);
 
-// Prints the text, in the printer font, under the name of the project's file. Throws RuntimeError 482.
-void PrintText(Program& program, std::string_view text);
+// What a PDF file of the project is proposed to be called: its file's name without the extension.
+std::string PrintedName(const Program& program);
+
+// Prints the text, in the printer font, under the project's file name and title. Returns the file that was printed to,
+// empty for paper. Throws RuntimeError 482.
+std::string PrintText(Program& program, std::string_view text);
 
 }  // namespace orby

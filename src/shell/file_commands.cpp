@@ -92,9 +92,12 @@ bool MainWindow::BuildPages() {
 
 void MainWindow::PrintProject(bool choosesPrinter) {
   if (!MayPrint()) return;
-  if (choosesPrinter && !GoesOn(Run(Trap::Set, [this] { program_.platform.printer.Choose(); }))) return;
+  if (choosesPrinter && !GoesOn(Run(Trap::Set, [this] { program_.platform.printer.Choose(PrintedName(program_)); })))
+    return;
   if (!BuildPages()) return;
-  Run(Trap::Set, [this] { PrintText(program_, JoinedPages(program_, 0, 1)); });
+  std::string file;
+  Run(Trap::Set, [&] { file = PrintText(program_, JoinedPages(program_, 0, 1)); });
+  if (!choosesPrinter && !file.empty()) AddHistoryLine(program_, "Report printed to " + file);
 }
 
 void MainWindow::PreviewProject() {

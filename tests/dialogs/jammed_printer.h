@@ -11,13 +11,14 @@ namespace orby::test {
 
 class JammedPrinter : public RecordingPrinter {
  public:
-  void PrintPages(const std::vector<std::string>& given, const std::string& name, const std::string& font) override {
+  std::string PrintPages(const std::vector<std::string>& given, const std::string& name,
+                         const std::string& font) override {
     Jam();
-    RecordingPrinter::PrintPages(given, name, font);
+    return RecordingPrinter::PrintPages(given, name, font);
   }
-  void PrintChart(const Control& chart) override {
+  void PrintChart(const Control& chart, const std::string& name) override {
     Jam();
-    RecordingPrinter::PrintChart(chart);
+    RecordingPrinter::PrintChart(chart, name);
   }
 
  private:

@@ -3,6 +3,8 @@
 #include <QClipboard>
 #include <QGroupBox>
 #include <QImage>
+#include <algorithm>
+#include <cmath>
 
 #include "gui/report_bench.h"
 
@@ -131,11 +133,88 @@ TEST_F(GraphView, FollowsADarkDesktop) {
   EXPECT_GT(Drawn().grab().toImage().pixelColor(1, 1).lightness(), 180);
 }
 
+// By the formula of the Web Content Accessibility Guidelines.
+double ContrastOf(const QColor& one, const QColor& other) {
+  const auto luminance = [](const QColor& color) {
+    const auto linear = [](int part) {
+      const double share = part / 255.0;
+      return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.red()) + 0.7152 * linear(color.green()) + 0.0722 * linear(color.blue());
+  };
+  const double first = luminance(one);
+  const double second = luminance(other);
+  return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+}
+
+TEST_F(GraphView, DrawsEveryCurveSoThatItStandsOutOnADarkGround) {
+  const QPalette light = QApplication::palette();
+  program.curve.CurveCount = 6;
+  graph.DrawCurve();
+  for (const QColor& ground :
+       {QColor(0x00, 0x00, 0x00), QColor(0x1e, 0x1e, 0x1e), QColor(0x30, 0x30, 0x30), QColor(0x4d, 0x4d, 0x4d)}) {
+    QPalette dark(ground);
+    dark.setColor(QPalette::Base, ground);
+    QApplication::setPalette(dark);
+    Settle();
+
+    for (int series = 0; series < 6; ++series) {
+      EXPECT_GE(ContrastOf(Plot().graph(series)->pen().color(), ground), 3)
+          << series + 1 << " on " << ground.name().toStdString();
+    }
+  }
+  QApplication::setPalette(light);
+  Settle();
+}
+
+TEST_F(GraphView, PutsASymbolOnTheDarkGroundThatCanBeSeen) {
+  const QPalette light = QApplication::palette();
+  QPalette dark(QColor(0x30, 0x30, 0x30));
+  dark.setColor(QPalette::Base, QColor(0x30, 0x30, 0x30));
+  QApplication::setPalette(dark);
+  Settle();
+  Plot().replot();
+
+  const QImage picture = Drawn().grab().toImage();
+  const QPoint point = Drawn().PlaceOf(0, 1).toPoint();
+  const QPoint ground = Plot().mapTo(&Drawn(), Plot().axisRect()->rect().bottomRight() - QPoint(12, 12));
+  EXPECT_EQ(picture.pixelColor(ground), QColor(0x30, 0x30, 0x30));
+  QApplication::setPalette(light);
+  Settle();
+
+  EXPECT_GE(ContrastOf(picture.pixelColor(point), picture.pixelColor(ground)), 3);
+}
+
+TEST_F(GraphView, ShowsACurveOfOnePointAndItsSurroundingsAlone) {
+  program.curve.CurvePoints[0] = {0};
+  program.curve.CurvePoints[1] = {4};
+  program.curve.CurvePointCount = 1;
+
+  Draw(6);
+
+  EXPECT_NEAR(Plot().xAxis->range().lower, -1.08, 0.001);
+  EXPECT_NEAR(Plot().xAxis->range().upper, 1.08, 0.001);
+  EXPECT_NEAR(Plot().yAxis->range().lower, 2.92, 0.001);
+  EXPECT_NEAR(Plot().yAxis->range().upper, 5.08, 0.001);
+}
+
+TEST_F(GraphView, KeepsNoRangeOfTheCurveBeforeForOneWithoutPoints) {
+  program.curve.CurvePointCount = 0;
+
+  Draw(6);
+
+  EXPECT_LT(Plot().xAxis->range().upper, 3);
+  EXPECT_GT(Plot().xAxis->range().lower, -1);
+  EXPECT_LT(Plot().yAxis->range().upper, 3);
+}
+
 TEST_F(GraphView, PrintsTheChart) {
   Press(Qt::Key_F, Qt::AltModifier);
   PressInMenu(Qt::Key_P);
 
   EXPECT_EQ(platform.printer.printedChart, "graph1");
+  EXPECT_EQ(platform.printer.title, "Suggested PSUP vs Depth of Cover");
+  EXPECT_EQ(platform.printer.proposedName, "Untitled Suggested PSUP vs Depth of Cover");
 }
 
 TEST_F(GraphView, ClosesByItsExitEntry) {

@@ -1,6 +1,7 @@
 // Printing in earnest: to a PDF file, as the user finds it.
 #include <QApplication>
 #include <QFile>
+#include <QLineEdit>
 #include <QPrintDialog>
 #include <QProcess>
 #include <algorithm>
@@ -53,6 +54,33 @@ class Printing : private NoPrinters, public ReportTest {
   const QString path = folder.filePath("report.pdf");
   QtPrinter printer;
 };
+
+// What a program that reads the PDF file prints about it.
+std::string Answer(const QString& program, const QStringList& arguments) {
+  QProcess reader;
+  reader.start(program, arguments);
+  if (!reader.waitForFinished()) throw std::logic_error(program.toStdString() + " does not run");
+  return reader.readAllStandardOutput().toStdString();
+}
+
+// The first page as a picture of so many dots per inch.
+QImage Rendered(const QString& path, int resolution) {
+  QImage picture;
+  const std::string bytes = Answer("pdftoppm", {"-r", QString::number(resolution), "-f", "1", "-l", "1", path});
+  picture.loadFromData(reinterpret_cast<const uchar*>(bytes.data()), static_cast<int>(bytes.size()));
+  return picture;
+}
+
+// The part of the picture that is not white.
+QRect InkOn(const QImage& picture) {
+  QRect ink;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      if (picture.pixelColor(x, y).lightness() < 128) ink |= QRect(x, y, 1, 1);
+    }
+  }
+  return ink;
+}
 
 std::string NumberedLines(int count) {
   std::string text;
@@ -116,23 +144,126 @@ TEST_F(Printing, KeepsTheWholeWidthOfALineOnThePaper) {
   EXPECT_THAT(PdfPages(path).at(0), HasSubstr(widest));
 }
 
-TEST_F(Printing, PrintsTheChartWithItsTitlesAsText) {
-  PrintToFile();
-  GraphWindow graph(program);
-  program.curve.CurvePoints[0] = {200, 240, 300};
-  program.curve.CurvePoints[1] = {3.25F, 4.5F, 5.75F};
-  program.curve.CurvePointCount = 3;
-  graph.ShowCurve(1);
-  Settle();
+// The graph of three points, which the test prints.
+class ChartPrinting : public Printing {
+ protected:
+  ChartPrinting() {
+    PrintToFile();
+    program.curve.CurvePoints[0] = {200, 240, 300};
+    program.curve.CurvePoints[1] = {3.25F, 4.5F, 5.75F};
+    program.curve.CurvePointCount = 3;
+    graph.ShowCurve(1);
+    Settle();
+  }
+  ~ChartPrinting() override {
+    graph.Close();
+    Settle();
+  }
 
-  printer.PrintChart(graph.graph1);
-  graph.Close();
-  Settle();
+  GraphWindow graph{program};
+};
+
+TEST_F(ChartPrinting, MakesTextOfTheTitles) {
+  printer.PrintChart(graph.graph1, "Suggested PSUP");
 
   const std::vector<std::string> pages = PdfPages(path);
   ASSERT_THAT(pages, testing::SizeIs(1));
   EXPECT_THAT(pages[0], HasSubstr("Depth of Cover (ft)"));
   EXPECT_THAT(pages[0], HasSubstr("Sug.PSUP"));
+}
+
+TEST_F(ChartPrinting, LeavesTheReportsAfterItTheirSize) {
+  PrintText(program, NumberedLines(40));
+  const QImage before = Rendered(path, 60);
+  printer.Device().setOutputFileName(folder.filePath("chart.pdf"));
+  printer.PrintChart(graph.graph1, "Suggested PSUP");
+  const QString after = folder.filePath("after.pdf");
+  printer.Device().setOutputFileName(after);
+
+  PrintText(program, NumberedLines(40));
+
+  EXPECT_FALSE(before.isNull());
+  EXPECT_EQ(Rendered(after, 60), before);
+}
+
+TEST_F(ChartPrinting, NamesTheChartInTheProperties) {
+  printer.PrintChart(graph.graph1, "Suggested PSUP vs Depth of Cover");
+
+  EXPECT_THAT(Answer("pdfinfo", {path}), testing::ContainsRegex("Title: +Suggested PSUP vs Depth of Cover\n"));
+}
+
+TEST_F(Printing, NamesProjectAndProgramInTheProperties) {
+  PrintToFile();
+  program.ProjectTitle = " Belt entry of panel 3 ";
+
+  PrintText(program, "A line\r\n");
+
+  const std::string properties = Answer("pdfinfo", {path});
+  EXPECT_THAT(properties, testing::ContainsRegex("Title: +panel3.orb - Belt entry of panel 3\n"));
+  EXPECT_THAT(properties, testing::ContainsRegex("Creator: +Orby Roof Support Workbench 1.0.00\n"));
+}
+
+TEST_F(Printing, LeavesAMarginAroundFullSheets) {
+  PrintToFile();
+  const std::string widest = std::string(78, 'W') + "\r\n";
+  std::string text;
+  for (int line = 0; line < 55; ++line) text += widest;
+
+  PrintText(program, text);
+
+  const QImage sheet = Rendered(path, 254);  // ten dots are a millimetre
+  const QRect ink = InkOn(sheet);
+  EXPECT_THAT(PdfPages(path), testing::SizeIs(1));
+  EXPECT_GE(ink.left(), 199);
+  EXPECT_LE(ink.left(), 210);
+  EXPECT_GE(sheet.width() - 1 - ink.right(), 199);
+  EXPECT_GE(ink.top(), 149);
+  EXPECT_LE(ink.top(), 180);
+  EXPECT_GE(sheet.height() - 1 - ink.bottom(), 149);
+}
+
+TEST_F(Printing, TakesANewNameWhenNobodyAgreedToReplaceTheFile) {
+  PrintToFile();
+  PrintText(program, "The first report\r\n");
+
+  const std::string second = PrintText(program, "The second report\r\n");
+  const std::string third = PrintText(program, "The third report\r\n");
+
+  EXPECT_EQ(second, folder.filePath("report (2).pdf").toStdString());
+  EXPECT_EQ(third, folder.filePath("report (3).pdf").toStdString());
+  EXPECT_THAT(PdfPages(path).at(0), HasSubstr("The first report"));
+  EXPECT_THAT(PdfPages(folder.filePath("report (2).pdf")).at(0), HasSubstr("The second report"));
+}
+
+TEST_F(Printing, ReplacesTheFileThatTheDialogWasAcceptedWith) {
+  PrintToFile();
+  PrintText(program, "The first report\r\n");
+  scripts.Add([&](QDialog& dialog) {
+    // The dialog's own question about a file that is there is answered by the name of the file alone.
+    QFile::rename(path, folder.filePath("away.pdf"));
+    dialog.accept();
+  });
+  printer.Choose("report");
+  QFile::rename(folder.filePath("away.pdf"), path);
+
+  EXPECT_EQ(PrintText(program, "The second report\r\n"), path.toStdString());
+  EXPECT_THAT(PdfPages(path).at(0), HasSubstr("The second report"));
+}
+
+TEST_F(Printing, ProposesTheNameOfTheProjectInTheFolderOfTheLastFile) {
+  PrintToFile();
+  QString proposed;
+  scripts.Add([&](QDialog& dialog) {
+    for (const auto* field : dialog.findChildren<QLineEdit*>()) {
+      if (field->text().endsWith(".pdf")) proposed = field->text();
+    }
+    dialog.reject();
+  });
+
+  EXPECT_EQ(ErrorNumberOf([&] { printer.Choose("panel 3.5"); }), 32755);
+
+  EXPECT_EQ(proposed, folder.filePath("panel 3.5.pdf"));
+  EXPECT_EQ(printer.Device().outputFileName(), path);
 }
 
 TEST_F(Printing, PrintsTheSecondReportInAFileOfItsOwn) {
@@ -163,7 +294,7 @@ TEST_F(Printing, IsCancelledInItsDialog) {
     window.reject();
   });
 
-  EXPECT_EQ(ErrorNumberOf([&] { printer.Choose(); }), 32755);
+  EXPECT_EQ(ErrorNumberOf([&] { printer.Choose("panel3"); }), 32755);
 }
 
 TEST_F(Printing, TellsTheHistoryThatItWasCancelled) {
@@ -191,7 +322,7 @@ TEST_F(Printing, PrintsAllPagesOfTheResultsThroughItsDialog) {
   ShowResults(program);
 
   std::string text;
-  for (const std::string& page : PdfPages(path)) text += page;
+  for (const std::string& page : PdfPages(folder.filePath("panel3.pdf"))) text += page;
   EXPECT_THAT(text, HasSubstr("[GEOLOGY PARAMETERS]\n"));
   EXPECT_THAT(text, HasSubstr("[ORBY CALCULATIONS]\n"));
   EXPECT_THAT(platform.boxes.Texts(), IsEmpty());

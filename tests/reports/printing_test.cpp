@@ -109,6 +109,65 @@ TEST(Printing, CarriesALineThatIsWiderThanThePaperOnToTheNext) {
               ElementsAre(std::string(77, 'x') + "\xC3\xA9", "rest of the title", std::string(78, 'y')));
 }
 
+// The text on the last of the sheets.
+std::vector<std::string> LastSheet(const Desk& desk, const std::string& text) {
+  return TextOn(PrintSheets(desk.program, text).back());
+}
+
+TEST(Printing, StartsTheNextSheetWithAHeadingThatWouldBeTheLastLine) {
+  Desk desk;
+
+  const auto sheets = PrintSheets(desk.program, LinesNumbered(TextLines - 1) + "[GEOLOGY PARAMETERS]\r\nCMRR\r\n");
+
+  ASSERT_THAT(sheets, SizeIs(2));
+  EXPECT_EQ(TextOn(sheets[0]).back(), "line 54");
+  EXPECT_THAT(TextOn(sheets[1]), ElementsAre("[GEOLOGY PARAMETERS]", "CMRR"));
+}
+
+TEST(Printing, KeepsAHeadingOnASheetThatHasRoomForTheLineUnderIt) {
+  Desk desk;
+
+  const auto sheets = PrintSheets(desk.program, LinesNumbered(TextLines - 2) + "[GEOLOGY PARAMETERS]\r\nCMRR\r\n");
+
+  ASSERT_THAT(sheets, SizeIs(1));
+  EXPECT_EQ(TextOn(sheets[0]).back(), "CMRR");
+}
+
+TEST(Printing, KeepsHeadingsThatFollowEachOtherWithTheLineUnderThem) {
+  Desk desk;
+  const std::string headings = "[ORBY CALCULATIONS]\r\n\r\n[INTERSECTION SPAN INFORMATION]\r\nSpan\r\n";
+
+  EXPECT_THAT(LastSheet(desk, LinesNumbered(TextLines - 3) + headings),
+              ElementsAre("[ORBY CALCULATIONS]", "", "[INTERSECTION SPAN INFORMATION]", "Span"));
+  EXPECT_THAT(PrintSheets(desk.program, LinesNumbered(TextLines - 4) + headings), SizeIs(1));
+}
+
+TEST(Printing, FillsItsSheetsAlsoWithHeadingsAlone) {
+  Desk desk;
+  std::string text;
+  for (std::size_t i = 0; i < 2 * TextLines; ++i) text += "[Panel]\r\n";
+
+  EXPECT_THAT(PrintSheets(desk.program, text), SizeIs(2));
+}
+
+TEST(Printing, ProposesTheNameOfTheFileWithoutItsExtension) {
+  Desk desk;
+  EXPECT_EQ(PrintedName(desk.program), "Untitled");
+
+  desk.program.CurrentFile = "/designs/panel 3.5.ORB";
+  EXPECT_EQ(PrintedName(desk.program), "panel 3.5");
+}
+
+TEST(Printing, CallsTheDocumentByFileAndTitle) {
+  Desk desk;
+  desk.program.CurrentFile = "/designs/weak-roof.ORB";
+  desk.program.ProjectTitle = "  Headgate 4 ";
+
+  PrintText(desk.program, "roof bolts\r\n");
+
+  EXPECT_EQ(desk.machine.printer.title, "weak-roof.ORB - Headgate 4");
+}
+
 TEST(Printing, JoinsPagesWithNothingBetweenThem) {
   Desk desk;
   desk.program.OutBuf = {"inputs\r\n", "calculations\r\n", "", "", ""};
@@ -128,7 +187,7 @@ TEST(Printing, SendsTheSheetsToThePrinterInItsFont) {
 
   EXPECT_THAT(desk.machine.printer.pages, SizeIs(2));
   EXPECT_THAT(desk.machine.printer.pages.at(1), EndsWith("line 56\r\n"));
-  EXPECT_EQ(desk.machine.printer.documentName, "weak-roof.ORB");
+  EXPECT_EQ(desk.machine.printer.title, "weak-roof.ORB");
   EXPECT_EQ(desk.machine.printer.fontName, "Courier New");
 }
 

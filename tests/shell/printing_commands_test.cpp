@@ -70,6 +70,24 @@ TEST_F(Printing, OfTheToolBarAsksForNoPrinter) {
   EXPECT_THAT(Printed(), HasSubstr("725"));
 }
 
+TEST_F(Printing, OfTheToolBarTellsTheFileThatItPrintedTo) {
+  OpenByDialog(Panel3);
+  platform.printer.file = "/designs/panel3 (2).pdf";
+
+  window.Toolbar1.ClickItem(tool_button::Print);
+
+  EXPECT_THAT(program.history.Text, testing::EndsWith("Report printed to /designs/panel3 (2).pdf\r\n"));
+}
+
+TEST_F(Printing, ProposesTheNameOfTheProjectForAFile) {
+  OpenByDialog(Panel3);
+
+  Choose(file_item::Print);
+
+  EXPECT_EQ(platform.printer.proposedName, "panel3");
+  EXPECT_THAT(program.history.Text, testing::Not(HasSubstr("printed")));
+}
+
 TEST_F(Printing, OfTheToolBarAsksAlikeWhenTheProjectIsEmpty) {
   platform.boxes.answers = {box_result::No};
 

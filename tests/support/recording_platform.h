@@ -404,29 +404,35 @@ class RecordingClipboard : public Clipboard {
 // Every step fails with the error that is set.
 class RecordingPrinter : public Printer {
  public:
-  void Choose() override {
+  void Choose(const std::string& fileName) override {
     ++chosen;
+    proposedName = fileName;
     Meet();
   }
   void SetUp() override {
     ++setUp;
     Meet();
   }
-  void PrintPages(const std::vector<std::string>& given, const std::string& name, const std::string& font) override {
+  std::string PrintPages(const std::vector<std::string>& given, const std::string& name,
+                         const std::string& font) override {
     Meet();
     pages = given;
-    documentName = name;
+    title = name;
     fontName = font;
+    return file;
   }
-  void PrintChart(const Control& chart) override {
+  void PrintChart(const Control& chart, const std::string& name) override {
     Meet();
     printedChart = chart.Name();
+    title = name;
   }
 
   std::vector<std::string> pages;
-  std::string documentName;
+  std::string title;
   std::string fontName;
   std::string printedChart;
+  std::string proposedName;
+  std::string file;  // that is printed to
   int chosen = 0;
   int setUp = 0;
   int error = 0;

@@ -1,8 +1,10 @@
 """A report on paper, where there is no printer but a file."""
 
+import re
 import subprocess
 
-from orby import DesktopTest, companion, press_keys, until
+import atspi
+from orby import DesktopTest, companion, press_keys, until, xdotool
 
 
 def words_of(pdf):
@@ -22,9 +24,90 @@ class Printing(DesktopTest):
         press_keys("Return")
 
         dialog.wait_gone()
-        words = until(lambda: words_of(self.path("print.pdf")), "the PDF file")
+        words = until(lambda: words_of(self.path("weak-roof.pdf")), "the PDF file")
         self.assertEqual(words[:3], ["File", "Name:", "weak-roof.ORB"])
         # Each sheet has its header between the lines of the report.
         rest = iter(words)
         for word in companion("report", example).split():
             self.assertIn(word, rest)
+
+
+def first_words(pdf):
+    """The words of the first page of a PDF file, each with its place and size; nothing while it is not whole."""
+    answer = subprocess.run(["pdftotext", "-bbox", "-l", "1", pdf, "-"], capture_output=True)
+    return re.findall("<word .*</word>", answer.stdout.decode()) if answer.returncode == 0 else None
+
+
+def picture_of(pdf):
+    """The first page of a PDF file as a small picture."""
+    return subprocess.run(["pdftoppm", "-r", "50", "-l", "1", pdf], capture_output=True, check=True).stdout
+
+
+def field_with(dialog, text):
+    """The field of the dialog that has this text."""
+    for node in dialog.node.walk():
+        try:
+            if node.text == text:
+                return node
+        except atspi.Gone:
+            continue  # it has no text
+    return None
+
+
+class ChartThenReport(DesktopTest):
+    """A chart, the report of the results window, and the report of the main window, printed one after the other."""
+
+    def print_to(self, run, proposed, name):
+        """Accepts the printer dialog with a file of this name beside the one that it proposes."""
+        dialog = run.window("Print")
+        field = until(lambda: field_with(dialog, self.path(proposed)), f"the proposed file {proposed}")
+        field.grab_focus()
+        until(lambda: field.has(atspi.FOCUSED), "the field of the file name")
+        xdotool("key", "ctrl+a", "type", "--delay", "2", self.path(name))
+        press_keys("Return")
+        dialog.wait_gone()
+        return self.path(name)
+
+    def print_report(self, run, name):
+        """Prints the results of a run that is in its parameters dialog."""
+        run.window("Parameters").press("cmdresults")
+        results = run.window("Calculation Results")
+        results.press("Command6")
+        return results, self.print_to(run, "weak-roof.pdf", name)
+
+    def test_all_have_the_text_and_the_size_of_a_fresh_run(self):
+        example = self.example("weak-roof")
+        fresh_run = self.start(example)
+        _, fresh = self.print_report(fresh_run, "fresh.pdf")
+        until(lambda: first_words(fresh), "the report of a fresh run")
+        fresh_run.kill()
+
+        run = self.start(example)
+        parameters = run.window("Parameters")
+        parameters.press("cmdresults")
+        results = run.window("Calculation Results")
+        results.choose_curve(1)
+        graph = run.window("Graph")
+        graph.choose("File", "Print")
+        chart = self.print_to(run, "weak-roof Suggested PSUP vs Depth of Cover.pdf", "chart.pdf")
+        graph.choose("File", "Exit")
+        graph.wait_gone()
+        results.press("Command6")
+        report = self.print_to(run, "weak-roof.pdf", "report.pdf")
+        results.press("Command1")
+        results.wait_gone()
+        parameters.press("Command1")
+        parameters.wait_gone()
+        run.keys("ctrl+p")
+        printed = self.print_to(run, "weak-roof.pdf", "printed.pdf")
+
+        expected = until(lambda: first_words(fresh), "the first report")
+        self.assertEqual(until(lambda: first_words(report), "the second report"), expected)
+        self.assertEqual(until(lambda: first_words(printed), "the report of the main window"), expected)
+        self.assertEqual(picture_of(report), picture_of(fresh))
+        self.assertEqual(picture_of(printed), picture_of(fresh))
+        self.assertEqual(words_of(printed), words_of(fresh))
+        self.assertIn("PSUP", until(lambda: words_of(chart), "the chart"))
+        properties = subprocess.run(["pdfinfo", printed], capture_output=True).stdout.decode()
+        self.assertIn("weak-roof.ORB", properties)
+        self.assertIn("Orby Roof Support Workbench", properties)
