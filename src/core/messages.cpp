@@ -103,9 +103,13 @@ void AppendHistoryLine(History& history, Integer maxDisplaySize, std::string_vie
 
 int ShowMessage(Program& program, const std::string& text, int style, const std::string& title,
                 const std::string& helpFile, int helpContext) {
-  AddHistoryLine(program, (title.empty() ? "Message" : title) + ": " + text);
-  return program.platform.boxes.Show(
-      {text, style, title.empty() ? std::string(ProgramTitle) : title, helpFile, helpContext});
+  return ShowMessage(program, MessageBox{text, style, title, helpFile, helpContext, {}});
+}
+
+int ShowMessage(Program& program, MessageBox box) {
+  AddHistoryLine(program, (box.title.empty() ? "Message" : box.title) + ": " + box.text);
+  if (box.title.empty()) box.title = ProgramTitle;
+  return program.platform.boxes.Show(box);
 }
 
 void SetMessageTitles(Program& program, int moduleIndex) {

@@ -26,6 +26,9 @@ inline constexpr int Conversion = 13;
 int ShowMessage(Program& program, const std::string& text, int style = box_style::Ok, const std::string& title = {},
                 const std::string& helpFile = {}, int helpContext = 0);
 
+// The same for a box whose buttons have captions of their own.
+int ShowMessage(Program& program, MessageBox box);
+
 // Sets the titles to the module's prefix and each title's word. Throws RuntimeError 9 outside 1..13.
 void SetMessageTitles(Program& program, int moduleIndex);
 

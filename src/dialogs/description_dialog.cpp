@@ -4,6 +4,7 @@
 #include "core/help.h"
 #include "core/messages.h"
 #include "dialogs/history_texts.h"
+#include "files/backups.h"
 #include "files/new_project.h"
 
 namespace orby {
@@ -63,10 +64,15 @@ void DescriptionDialog::OnClose() {
   AddHistoryLine(program_, CommitOnClose ? history_text::DescriptionModified : history_text::DescriptionNotModified);
 }
 
-// A design that starts anew has neither title nor description: what was typed along with the other choice is lost.
+// A design that starts anew has neither title nor description: what was typed along with the other choice is in
+// the backups alone.
 void DescriptionDialog::Commit() {
+  const bool hasNewTexts = Text1.Text() != program_.ProjectTitle || Text2.Text() != program_.ProjectDescription;
+  const bool startsAnew =
+      GetArrayIndex(Option1) != program_.Units || GetArrayIndex(Option2) != program_.BoltStrengthMode;
   program_.ProjectTitle = Text1.Text();
   program_.ProjectDescription = Text2.Text();
+  if (startsAnew && (hasNewTexts || !program_.FileSaved)) KeepChanges(program_, CommittedProject(program_));
   Choose(program_, program_.Units, GetArrayIndex(Option1));
   Choose(program_, program_.BoltStrengthMode, GetArrayIndex(Option2));
   program_.UseAUSStandardTable = Check1.Value();

@@ -9,6 +9,7 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "core/dates.h"
+#include "core/messages.h"
 #include "files/escaped_line.h"
 #include "platform/whole_file.h"
 
@@ -233,6 +234,16 @@ std::optional<std::string> KeepDamaged(Program& program, std::string_view bytes)
   const std::string project = ProjectNamedIn(bytes);
   return Keep(program, project.empty() ? std::string(UntitledName) : project, bytes, BackupReason::Damaged,
               RecoveryEnding);
+}
+
+void KeepChanges(Program& program, const UnsavedProject& project, BackupReason reason) {
+  if (BackupFolder(program).empty()) return;
+  if (KeepDropped(program, project, reason)) {
+    AddHistoryLine(program, "Unsaved changes kept in Backups: " + project.CurrentFile);
+  } else {
+    ShowMessage(program, "The unsaved changes could not be kept in Backups: " + project.CurrentFile,
+                box_style::Exclamation);
+  }
 }
 
 std::vector<Backup> ListBackups(Program& program) {

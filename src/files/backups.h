@@ -44,6 +44,10 @@ std::optional<std::string> KeepDropped(Program& program, const UnsavedProject& p
 // Keeps the bytes of a recovery file that cannot be read. Returns what KeepBackup returns.
 std::optional<std::string> KeepDamaged(Program& program, std::string_view bytes);
 
+// Keeps the changes of a project that is about to be dropped, and adds a line to the history that says so; where they
+// cannot be kept one message says it. Does nothing for a program without a data folder.
+void KeepChanges(Program& program, const UnsavedProject& project, BackupReason reason = BackupReason::Dropped);
+
 struct Backup {
   std::string Path;                    // of the kept file
   std::string Project;                 // path of the project; only its name when the entry is damaged

@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "core/file_helpers.h"
 #include "core/messages.h"
+#include "files/backups.h"
 #include "files/project_writer.h"
 
 namespace orby {
@@ -47,7 +48,12 @@ bool FileMenuSave(Program& program, bool saveAs) {
 bool SaveChangesOfPreviousFile(Program& program) {
   const int answer = ShowMessage(program, "Save changes to: " + program.PreviousFile + "?",
                                  box_style::YesNo | box_style::Question | box_style::SecondButtonDefault);
-  if (answer != box_result::Yes) return true;
+  if (answer != box_result::Yes) {
+    UnsavedProject dropped = CommittedProject(program);
+    dropped.CurrentFile = program.PreviousFile;
+    KeepChanges(program, dropped);
+    return true;
+  }
   std::string fileToOpen = std::exchange(program.CurrentFile, program.PreviousFile);
   const bool isSaved = FileMenuSave(program, false);
   program.CurrentFile = isSaved ? std::move(fileToOpen) : program.PreviousFile;

@@ -15,8 +15,9 @@ void AskFileName(Program& program, FileDialogMode mode);
 // when the user cancelled or when the save failed, which was told then.
 bool FileMenuSave(Program& program, bool saveAs);
 
-// Asks whether to save the changes of PreviousFile and saves them there. Gives whether CurrentFile, which comes out as
-// it went in, is to be opened: a save that is cancelled or fails keeps the project, and CurrentFile is PreviousFile.
+// Asks whether to save the changes of PreviousFile and saves them there; those not saved are kept as a backup. Gives
+// whether CurrentFile, which comes out as it went in, is to be opened: a save that is cancelled or fails keeps the
+// project, and CurrentFile is PreviousFile.
 bool SaveChangesOfPreviousFile(Program& program);
 
 }  // namespace orby

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <ctime>
 #include <filesystem>
 #include <system_error>
 
@@ -130,6 +131,13 @@ std::uint64_t DiskFiles::FileLength(const std::string& path) {
   struct stat facts {};
   if (stat(path.c_str(), &facts) != 0) throw FileError(errno, path);
   return S_ISREG(facts.st_mode) ? static_cast<std::uint64_t>(facts.st_size) : 0;
+}
+
+std::optional<Moment> DiskFiles::WrittenAt(const std::string& path) {
+  struct stat facts {};
+  struct tm time {};
+  if (stat(path.c_str(), &facts) != 0 || localtime_r(&facts.st_mtime, &time) == nullptr) return std::nullopt;
+  return Moment{{time.tm_year + 1900, time.tm_mon + 1, time.tm_mday}, time.tm_hour, time.tm_min, time.tm_sec};
 }
 
 std::unique_ptr<OutputFile> DiskFiles::CreateFile(const std::string& path) {

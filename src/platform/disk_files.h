@@ -13,6 +13,7 @@ class DiskFiles : public FileSystem {
   std::string ReadFile(const std::string& path) override;
   std::unique_ptr<InputFile> OpenFile(const std::string& path) override;
   std::uint64_t FileLength(const std::string& path) override;
+  std::optional<Moment> WrittenAt(const std::string& path) override;
   std::unique_ptr<OutputFile> CreateFile(const std::string& path) override;
   std::unique_ptr<OutputFile> OpenInPlace(const std::string& path, std::uint64_t length) override;
   void RemoveFile(const std::string& path) override;

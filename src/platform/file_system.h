@@ -5,9 +5,12 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "platform/surroundings.h"
 
 namespace orby {
 
@@ -46,6 +49,8 @@ class FileSystem {
   virtual std::unique_ptr<InputFile> OpenFile(const std::string& path) = 0;
   // Bytes of the file; 0 for what has no length, such as a pipe.
   virtual std::uint64_t FileLength(const std::string& path) = 0;
+  // When the file was written last; nothing when that cannot be told.
+  virtual std::optional<Moment> WrittenAt(const std::string& path) = 0;
   // Opens the file for writing; an existing one is emptied at once.
   virtual std::unique_ptr<OutputFile> CreateFile(const std::string& path) = 0;
   // Opens the file to be written over with so many bytes: an existing one keeps its old bytes until new ones take their

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace orby {
 
@@ -31,6 +32,7 @@ struct MessageBox {
   std::string title;
   std::string helpFile;
   int helpContext = 0;
+  std::vector<std::string> captions = {};  // of its buttons in their order, where they differ from the usual ones
 };
 
 class MessageBoxes {

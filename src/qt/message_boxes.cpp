@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMessageBox>
+#include <QPushButton>
 #include <algorithm>
 #include <array>
 
@@ -94,6 +95,9 @@ int QtMessageBoxes::Show(const MessageBox& box) {
   shown.setWindowTitle(ToQt(box.title));
   for (const auto button : set.buttons) {
     if (button != None) shown.addButton(button);
+  }
+  for (std::size_t at = 0; at < std::min(box.captions.size(), set.buttons.size()); ++at) {
+    if (auto* button = shown.button(set.buttons[at])) button->setText("&" + ToQt(box.captions[at]).replace("&", "&&"));
   }
   shown.setDefaultButton(set.buttons[(box.style & box_style::SecondButtonDefault) != 0 ? 1 : 0]);
   if (set.escape != None) shown.setEscapeButton(shown.button(set.escape));

@@ -2,6 +2,7 @@
 #include "config/settings_sections.h"
 #include "dialogs/preview_window.h"
 #include "dialogs/project_report.h"
+#include "files/backups.h"
 #include "files/new_project.h"
 #include "files/project_file.h"
 #include "files/save_command.h"
@@ -34,6 +35,7 @@ void MainWindow::FileCommand(Integer item) {
 }
 
 void MainWindow::NewProject() {
+  if (!program_.FileSaved) KeepChanges(program_, CommittedProject(program_));
   FileNew(program_, true, true);
   recovery_.Discard();
   RefreshCaption();

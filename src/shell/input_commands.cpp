@@ -45,7 +45,7 @@ void MainWindow::EditDesign(Trap trap) {
   windows.ShowMainWindow(false);
   ShowForm(program_, *dialog);
   windows.ShowMainWindow(true);
-  recovery_.Committed();
+  recovery_.DialogClosed();
   RefreshCaption();
 }
 

@@ -5,6 +5,7 @@
 #include "config/user_folders.h"
 #include "core/dialog_helpers.h"
 #include "core/version.h"
+#include "files/backups.h"
 #include "files/save_command.h"
 #include "shell/disclaimer.h"
 #include "shell/recent_files.h"
@@ -76,7 +77,7 @@ void MainWindow::OnOpen() {
 }
 
 void MainWindow::OpenFirstFiles(const std::string& commandLineFile) {
-  if (recovery_.Ask()) RefreshCaption();
+  if (recovery_.Ask(commandLineFile)) return RefreshCaption();
   if (program_.settings.LoadLastInputFile == 1 && !program_.recentFiles.Entries.front().LastFileLong.empty()) {
     OpenRecent(1);
   }
@@ -89,7 +90,10 @@ bool MainWindow::MayClose() {
   if (program_.FileSaved) return true;
   const int answer = ShowMessage(program_, "Save changes to: " + program_.CurrentFile + "?",
                                  box_style::YesNoCancel | box_style::Question);
-  if (answer == box_result::No) return true;
+  if (answer == box_result::No) {
+    KeepChanges(program_, CommittedProject(program_));
+    return true;
+  }
   if (answer != box_result::Yes || !FileMenuSave(program_, false)) return false;
   UpdateRecentFiles();
   return true;

@@ -22,8 +22,9 @@ class MainWindow : public MainControls {
   explicit MainWindow(Program& program);
   ~MainWindow() override;
 
-  // What a run begins with, once the window is on the screen: the work that an earlier run lost, the file that was open
-  // last, the file of the command line. Throws the RuntimeError of the latter's opening.
+  // What a run begins with, once the window is on the screen: the work that an earlier run lost, and where there is
+  // none or the user declines it, the file that was open last and the file of the command line. Throws the RuntimeError
+  // of the latter's opening.
   void OpenFirstFiles(const std::string& commandLineFile);
 
   // Opens a file that was dropped on the window.

@@ -2,9 +2,12 @@
 
 #include "base/attempt.h"
 #include "base/number_text.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "core/dates.h"
 #include "core/file_helpers.h"
 #include "core/messages.h"
-#include "files/recovery_file.h"
+#include "files/backups.h"
 #include "platform/whole_file.h"
 
 namespace orby {
@@ -43,27 +46,80 @@ bool Recovery::TryTake(int number) {
   return true;
 }
 
-bool Recovery::Ask() {
-  if (path_.empty() || !FileExists(program_, path_)) return false;
+std::optional<UnsavedProject> Recovery::TakeLostProject() {
+  if (path_.empty() || !FileExists(program_, path_)) return std::nullopt;
   std::string bytes;
-  if (!Succeeds([&] { bytes = program_.platform.files.ReadFile(path_); })) return false;
+  if (!Succeeds([&] { bytes = program_.platform.files.ReadFile(path_); })) return std::nullopt;
   written_ = bytes;
-  const std::optional<UnsavedProject> project = ReadRecovery(bytes);
-  constexpr auto Question = "Orby ended unexpectedly. Recover the unsaved project?";
-  if (!project || ShowMessage(program_, Question, box_style::YesNo | box_style::Question) != box_result::Yes) {
-    Discard();
-    return false;
+  std::optional<UnsavedProject> project = ReadRecovery(bytes);
+  if (!project) KeepDamagedFile();
+  return project;
+}
+
+// A file that the backups do not take stays where it is until this run has something to write.
+void Recovery::KeepDamagedFile() {
+  if (!BackupFolder(program_).empty()) {
+    const auto kept = KeepDamaged(program_, written_);
+    if (!kept) {
+      ShowMessage(program_, "A damaged recovery file could not be kept in Backups: " + path_, box_style::Exclamation);
+      return;
+    }
+    AddHistoryLine(program_, "Damaged recovery file kept in Backups: " + *kept);
   }
-  RestoreProject(program_, *project);
-  return true;
+  Discard();
+}
+
+std::string Recovery::Question(const UnsavedProject& project) const {
+  std::string text = "Orby ended unexpectedly. Recover the unsaved project?";
+  text.append(LineEnd).append(LineEnd).append(project.CurrentFile);
+  const auto written = program_.platform.files.WrittenAt(path_);
+  if (written) text.append(" of ").append(MomentText(*written));
+  return text;
+}
+
+bool Recovery::Ask(const std::string& otherFile) {
+  const std::optional<UnsavedProject> project = TakeLostProject();
+  if (!project) return false;
+  MessageBox box;
+  box.text = Question(*project);
+  box.style = box_style::YesNo | box_style::Question;
+  if (!otherFile.empty()) {
+    box.captions = {"Recover", "Open " + std::string(NameBehindSeparator(otherFile)) + " instead"};
+  }
+  if (ShowMessage(program_, box) == box_result::Yes) {
+    RestoreProject(program_, *project);
+    return true;
+  }
+  KeepChanges(program_, *project, BackupReason::Declined);
+  Discard();
+  return false;
+}
+
+bool Recovery::Recover() {
+  const std::optional<UnsavedProject> project = TakeLostProject();
+  if (project) RestoreProject(program_, *project);
+  return project.has_value();
 }
 
 void Recovery::DesignShown(const ProjectRecord& design) {
   changed_.reset();
+  edited_.reset();
   shown_ = RecoveryBytes(EditedProject(program_, design));
 }
 
+void Recovery::DialogClosed() {
+  if (edited_) {
+    const UnsavedProject edited = EditedProject(program_, *edited_);
+    const std::string bytes = RecoveryBytes(edited);
+    const bool isCommitted = bytes == RecoveryBytes(EditedProject(program_, program_.WorkParms));
+    if (bytes != shown_ && !isCommitted) KeepChanges(program_, edited);
+    edited_.reset();
+  }
+  Committed();
+}
+
 void Recovery::DesignChanged(const ProjectRecord& design) {
+  edited_ = design;
   if (path_.empty()) return;
   changed_ = design;
   if (*waiting_) return;

@@ -1,6 +1,8 @@
 // Keeps unsaved work in a file of the program's temporary folder, for the next start after a run that ended in the
 // middle of it.
 //
+// What the user turns down goes into the backups, so nothing that stood in the file is gone.
+//
 // Programs that run side by side take different files: each marks one of nine as its own for as long as it runs, first
 // of all one that a run left behind. Where no file can be had or written nothing is kept, and nobody is told.
 #pragma once
@@ -10,6 +12,7 @@
 #include <string>
 
 #include "core/program.h"
+#include "files/recovery_file.h"
 
 namespace orby {
 
@@ -17,9 +20,12 @@ class Recovery {
  public:
   explicit Recovery(Program& program);
 
-  // Asks whether to recover what a run left behind, if there is anything. Yes makes it the open project, unsaved under
-  // its old name; No deletes it. Gives whether the open project is another one now.
-  bool Ask();
+  // Asks whether to recover what a run left behind, if there is anything, or to open the other file instead, if there
+  // is one. Gives whether the open project is the recovered one now; what the user declines goes into the backups.
+  bool Ask(const std::string& otherFile);
+
+  // Recovers what a run left behind without asking. Gives whether there was anything.
+  bool Recover();
 
   // An input dialog shows this design, nothing being changed yet.
   void DesignShown(const ProjectRecord& design);
@@ -31,6 +37,9 @@ class Recovery {
   // Writes at once what DesignChanged was told and has not been written.
   void Flush();
 
+  // The input dialog is closed: edits that it did not commit go into the backups. Then as Committed.
+  void DialogClosed();
+
   // The project is what was committed last, whatever an input dialog showed: it is written at once when it has unsaved
   // changes, and nothing is kept of one that has none.
   void Committed();
@@ -39,6 +48,10 @@ class Recovery {
   void Discard();
 
  private:
+  // What a run left behind, if anything; a file that cannot be read any more goes into the backups.
+  std::optional<UnsavedProject> TakeLostProject();
+  std::string Question(const UnsavedProject& project) const;
+  void KeepDamagedFile();
   void TakeSlot();
   bool TryTake(int number);
   void Write(const std::string& bytes);
@@ -49,6 +62,7 @@ class Recovery {
   std::string written_;  // what the file holds; empty: there is none of this run
   std::string shown_;    // what the design in the open dialog started from
   std::optional<ProjectRecord> changed_;
+  std::optional<ProjectRecord> edited_;  // what the open dialog showed last
   // Shared with the act that waits for its second; true while one waits.
   std::shared_ptr<bool> waiting_ = std::make_shared<bool>(false);
 };

@@ -1,11 +1,13 @@
 #include "platform/disk_files.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <stdlib.h>
 #include <sys/fsuid.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <ctime>
 #include <filesystem>
 #include <optional>
 #include <stdexcept>
@@ -13,6 +15,7 @@
 #include <vector>
 
 #include "base/runtime_error.h"
+#include "core/dates.h"
 #include "support/recording_platform.h"
 #include "support/temporary_folder.h"
 
@@ -500,6 +503,26 @@ TEST_F(Disk, ReadsNoFolderPieceByPiece) {
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(files.OpenFile(At("log.txt"))); }), error_number::FileNotFound);
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(files.FileLength(At("log.txt"))); }), error_number::FileNotFound);
   EXPECT_EQ(files.FileLength(folder), 0U);
+}
+
+TEST_F(Disk, TellsWhenAFileWasWrittenOnTheClockOnTheWall) {
+  Store(At("panel.ORB"), "x");
+  struct tm local {};
+  local.tm_year = 131;
+  local.tm_mon = 2;
+  local.tm_mday = 9;
+  local.tm_hour = 14;
+  local.tm_min = 5;
+  local.tm_sec = 7;
+  local.tm_isdst = -1;
+  const struct timespec times[] = {{mktime(&local), 0}, {mktime(&local), 0}};
+  ASSERT_EQ(utimensat(AT_FDCWD, At("panel.ORB").c_str(), times, 0), 0);
+
+  const auto written = files.WrittenAt(At("panel.ORB"));
+
+  ASSERT_TRUE(written);
+  EXPECT_EQ(MomentText(*written), "2031-03-09 14:05:07");
+  EXPECT_EQ(files.WrittenAt(At("nowhere.ORB")), std::nullopt);
 }
 
 TEST_F(Disk, ListsTheFoldersOfAFolderButTheHiddenOnes) {

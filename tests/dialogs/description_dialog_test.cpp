@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "catalogs/catalogs.h"
+#include "files/backups.h"
 #include "files/new_project.h"
 #include "support/recording_platform.h"
 
@@ -375,6 +376,50 @@ TEST_F(ADescriptionDialog, OpensTheHelp) {
   EXPECT_THAT(platform.help.shown, ElementsAre("topic /program/ORBY.CHM frmTULKDesc"));
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
   EXPECT_TRUE(dialog.IsOpen());
+}
+
+// ---- what starting anew drops ---------------------------------------------------------------------------------------
+
+TEST_F(ADescriptionDialog, KeepsWhatWasTypedAlongWithOtherUnits) {
+  program.folders.ProgramData = "/home/user/Documents/Orby/";
+  dialog.Open();
+  dialog.Text1.SetText("Panel 4");
+  dialog.Option1.SetValue(Metric, true);
+
+  dialog.Command2.Press();
+
+  const auto backups = ListBackups(program);
+  ASSERT_EQ(backups.size(), 1U);
+  const auto kept = ReadRecovery(platform.files.files.at(backups.front().Path));
+  ASSERT_TRUE(kept);
+  EXPECT_EQ(kept->ProjectTitle, "Panel 4");
+  EXPECT_EQ(kept->ProjectDescription, "Headgate\r\nSecond cut");
+  EXPECT_EQ(kept->WorkParms.DepthofCover, 512.5F);
+  EXPECT_EQ(kept->Units, English);
+}
+
+TEST_F(ADescriptionDialog, KeepsTheUnsavedDesignThatAnotherStrengthWipes) {
+  program.folders.ProgramData = "/home/user/Documents/Orby/";
+  program.FileSaved = false;
+  dialog.Open();
+  dialog.Option2.SetValue(1, true);
+
+  dialog.Command2.Press();
+
+  EXPECT_EQ(ListBackups(program).size(), 1U);
+}
+
+TEST_F(ADescriptionDialog, KeepsNothingOfASavedDesignNorWithoutAnotherChoice) {
+  program.folders.ProgramData = "/home/user/Documents/Orby/";
+  dialog.Open();
+  dialog.Option1.SetValue(Metric, true);
+  dialog.Command2.Press();
+  EXPECT_THAT(ListBackups(program), IsEmpty());
+
+  dialog.Open();
+  dialog.Text1.SetText("Panel 4");
+  dialog.Command2.Press();
+  EXPECT_THAT(ListBackups(program), IsEmpty());
 }
 
 }  // namespace

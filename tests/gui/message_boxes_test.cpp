@@ -18,7 +18,7 @@ class MessageBoxesView : public GuiTest {
   int Ask(int style, const std::function<void(QMessageBox& box)>& act) {
     scripts.Add([&](QDialog& window) { act(dynamic_cast<QMessageBox&>(window)); });
     QtMessageBoxes boxes;
-    return boxes.Show({"Save changes to: /designs/panel3.orb?\r\nThey would be lost.", style, "Orby", {}, 0});
+    return boxes.Show({"Save changes to: /designs/panel3.orb?\r\nThey would be lost.", style, "Orby", {}, 0, {}});
   }
 };
 
@@ -39,6 +39,20 @@ TEST_F(MessageBoxesView, ShowTheirTextLineByLineAndTheirTitle) {
   });
 }
 
+TEST_F(MessageBoxesView, ShowCaptionsOfTheirOwnWhichTheirLettersReach) {
+  for (const auto& [key, answer] : {std::pair(Qt::Key_R, box_result::Yes), std::pair(Qt::Key_O, box_result::No)}) {
+    scripts.Add([key = key](QDialog& window) {
+      const auto& box = dynamic_cast<QMessageBox&>(window);
+      EXPECT_EQ(box.button(QMessageBox::Yes)->text(), "&Recover");
+      EXPECT_EQ(box.button(QMessageBox::No)->text(), "&Open a&&b.orb instead");
+      Press(key, Qt::AltModifier);
+    });
+    QtMessageBoxes boxes;
+
+    EXPECT_EQ(boxes.Show({"Recover?", box_style::YesNo, "Orby", {}, 0, {"Recover", "Open a&b.orb instead"}}), answer);
+  }
+}
+
 TEST_F(MessageBoxesView, ShowAngleBracketsAsTheyAre) {
   scripts.Add([](QDialog& window) {
     EXPECT_EQ(dynamic_cast<QMessageBox&>(window).textFormat(), Qt::PlainText);
@@ -46,7 +60,7 @@ TEST_F(MessageBoxesView, ShowAngleBracketsAsTheyAre) {
   });
 
   QtMessageBoxes boxes;
-  boxes.Show({"<b>panel</b>", box_style::Ok, "Orby", {}, 0});
+  boxes.Show({"<b>panel</b>", box_style::Ok, "Orby", {}, 0, {}});
 }
 
 struct Style {

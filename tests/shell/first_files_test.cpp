@@ -93,36 +93,57 @@ TEST_F(FirstFiles, EndTheRunWhenTheOneOfTheCommandLineIsMissing) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(FirstFiles, ComeAfterTheQuestionForLostWork) {
-  Lose();
+// The next run, after one that was killed in the middle of a design.
+struct NextRun : FirstFiles {
+  NextRun() {
+    Lose();
+    restarted.files.files = platform.files.files;
+    restarted.files.files[RecoveryPath] = lost;
+    next.settings.LoadLastInputFile = 1;
+    next.recentFiles.MaxLastFiles = 1;
+    next.recentFiles.Entries[0] = {Panel4, 1, Panel4};
+    nextWindow.Open();
+  }
+
   RecordingPlatform restarted;
-  restarted.files.files = platform.files.files;
-  restarted.files.files[RecoveryPath] = lost;
   Program next = StartedProgram(restarted);
-  MainWindow nextWindow(next);
-  nextWindow.Open();
-  restarted.boxes.answers = {box_result::Yes, box_result::No};
+  MainWindow nextWindow{next};
+};
 
-  nextWindow.OpenFirstFiles(Panel3);
-
-  EXPECT_THAT(restarted.boxes.Texts(), ElementsAre("Orby ended unexpectedly. Recover the unsaved project?",
-                                                   "Save changes to: /designs/lost.orb?"));
-  EXPECT_EQ(next.CurrentFile, Panel3);
-}
-
-TEST_F(FirstFiles, BringLostWorkBackAsUnsaved) {
-  Lose();
-  RecordingPlatform restarted;
-  restarted.files.files[RecoveryPath] = lost;
-  Program next = StartedProgram(restarted);
-  MainWindow nextWindow(next);
-  nextWindow.Open();
+TEST_F(NextRun, BringsLostWorkBackAsUnsaved) {
   restarted.boxes.answers = {box_result::Yes};
 
   nextWindow.OpenFirstFiles("");
 
   EXPECT_EQ(nextWindow.Caption(), "Orby Roof Support Workbench: /designs/lost.orb*");
   EXPECT_EQ(next.WorkParms.DepthofCover, 1234);
+}
+
+TEST_F(NextRun, OpensNothingElseOnceLostWorkIsBack) {
+  restarted.boxes.answers = {box_result::Yes};
+
+  nextWindow.OpenFirstFiles(Panel3);
+
+  EXPECT_EQ(restarted.boxes.shown.size(), 1U);
+  EXPECT_EQ(next.CurrentFile, "/designs/lost.orb");
+}
+
+TEST_F(NextRun, OpensTheFileOfTheCommandLineInstead) {
+  restarted.boxes.answers = {box_result::No};
+
+  nextWindow.OpenFirstFiles(Panel3);
+
+  ASSERT_EQ(restarted.boxes.shown.size(), 1U);
+  EXPECT_THAT(restarted.boxes.shown.front().captions, ElementsAre("Recover", "Open panel3.orb instead"));
+  EXPECT_EQ(next.CurrentFile, Panel3);
+}
+
+TEST_F(NextRun, OpensTheLastFileWhenLostWorkIsDeclined) {
+  restarted.boxes.answers = {box_result::No};
+
+  nextWindow.OpenFirstFiles("");
+
+  EXPECT_EQ(next.CurrentFile, Panel4);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "files/backups.h"
 #include "files/recovery_file.h"
 #include "shell/start_up.h"
 #include "support/recording_platform.h"
@@ -9,10 +10,13 @@
 namespace orby::test {
 namespace {
 
+using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 using Step = MemoryFiles::Step;
 
 const std::string Folder = "/home/user/Documents/Orby/Temp/";
+const std::string DataFolder = "/home/user/Documents/Orby/";
 const std::string FirstFile = Folder + "~recover1.tmp";
 const std::string SecondFile = Folder + "~recover2.tmp";
 
@@ -170,23 +174,145 @@ TEST_F(UnsavedWork, IsOfferedToTheNextRun) {
   Program next = Started();
   platform.boxes.answers = {box_result::Yes};
 
-  EXPECT_TRUE(Recovery(next).Ask());
+  EXPECT_TRUE(Recovery(next).Ask(""));
 
   ASSERT_EQ(platform.boxes.shown.size(), 1U);
-  EXPECT_EQ(platform.boxes.shown.front().text, "Orby ended unexpectedly. Recover the unsaved project?");
+  EXPECT_EQ(platform.boxes.shown.front().text,
+            "Orby ended unexpectedly. Recover the unsaved project?\r\n\r\n/designs/panel3.orb");
   EXPECT_EQ(platform.boxes.shown.front().style, 36);
+  EXPECT_THAT(platform.boxes.shown.front().captions, IsEmpty());
   EXPECT_EQ(next.WorkParms.DepthofCover, 725);
   EXPECT_EQ(next.CurrentFile, "/designs/panel3.orb");
   EXPECT_FALSE(next.FileSaved);
   EXPECT_TRUE(Exists(FirstFile)) << "it is still unsaved";
 }
 
-TEST_F(UnsavedWork, IsDeletedOnNo) {
+TEST_F(UnsavedWork, IsOfferedWithTheTimeOfItsFile) {
+  Lose(725);
+  platform.files.times[FirstFile] = {{2031, 3, 8}, 22, 41, 5};
+  Program next = Started();
+
+  Recovery(next).Ask("");
+
+  EXPECT_EQ(platform.boxes.shown.front().text,
+            "Orby ended unexpectedly. Recover the unsaved project?\r\n\r\n"
+            "/designs/panel3.orb of 2031-03-08 22:41:05");
+}
+
+TEST_F(UnsavedWork, IsOfferedBesideTheFileThatWasToBeOpened) {
   Lose(725);
   Program next = Started();
   platform.boxes.answers = {box_result::No};
 
-  EXPECT_FALSE(Recovery(next).Ask());
+  EXPECT_FALSE(Recovery(next).Ask("/designs/panel4.orb"));
+
+  EXPECT_THAT(platform.boxes.shown.front().captions, ElementsAre("Recover", "Open panel4.orb instead"));
+}
+
+TEST_F(UnsavedWork, ComesBackWithoutAQuestionWhenTheRunIsStartedAnew) {
+  Lose(725);
+  Program next = Started();
+
+  EXPECT_TRUE(Recovery(next).Recover());
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  EXPECT_EQ(next.WorkParms.DepthofCover, 725);
+  EXPECT_FALSE(next.FileSaved);
+}
+
+TEST_F(UnsavedWork, ThatIsNotThereDoesNotComeBack) {
+  Program program = Started();
+
+  EXPECT_FALSE(Recovery(program).Recover());
+
+  EXPECT_TRUE(program.FileSaved);
+}
+
+TEST_F(UnsavedWork, IsInTheBackupsOnNo) {
+  Lose(725);
+  Program next = Started();
+  next.folders.ProgramData = DataFolder;
+  platform.boxes.answers = {box_result::No};
+
+  EXPECT_FALSE(Recovery(next).Ask(""));
+
+  const auto backups = ListBackups(next);
+  ASSERT_EQ(backups.size(), 1U);
+  EXPECT_EQ(backups.front().Project, "/designs/panel3.orb");
+  EXPECT_EQ(backups.front().Reason, BackupReason::Declined);
+  EXPECT_EQ(DepthIn(backups.front().Path), 725);
+  EXPECT_THAT(next.history.Text, HasSubstr("Unsaved changes kept in Backups: /designs/panel3.orb"));
+}
+
+TEST_F(UnsavedWork, ThatCannotBeReadAnyMoreIsInTheBackups) {
+  platform.files.files[FirstFile] = "ORBY_RECOVERY_1\r\nCurrentFile=/designs/pan";
+  Program program = Started();
+  program.folders.ProgramData = DataFolder;
+
+  EXPECT_FALSE(Recovery(program).Ask(""));
+
+  const auto backups = ListBackups(program);
+  ASSERT_EQ(backups.size(), 1U);
+  EXPECT_EQ(backups.front().Reason, BackupReason::Damaged);
+  EXPECT_EQ(platform.files.files.at(backups.front().Path), "ORBY_RECOVERY_1\r\nCurrentFile=/designs/pan");
+  EXPECT_FALSE(Exists(FirstFile));
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(UnsavedWork, ThatCannotBeReadNorKeptStaysWhereItIs) {
+  platform.files.files[FirstFile] = "damaged";
+  Program program = Started();
+  program.folders.ProgramData = DataFolder;
+  platform.files.Fail(Step::Create, error_number::DiskFull);
+
+  EXPECT_FALSE(Recovery(program).Ask(""));
+
+  EXPECT_TRUE(Exists(FirstFile));
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("A damaged recovery file could not be kept in Backups: " + FirstFile));
+}
+
+TEST_F(UnsavedWork, OfACancelledDialogIsInTheBackups) {
+  Program program = Editing(725);
+  program.folders.ProgramData = DataFolder;
+  Recovery recovery(program);
+  recovery.DesignShown(program.WorkParms);
+  ProjectRecord edited = program.WorkParms;
+  edited.DepthofCover = 980;
+  recovery.DesignChanged(edited);
+  recovery.Flush();
+
+  recovery.DialogClosed();
+
+  const auto backups = ListBackups(program);
+  ASSERT_EQ(backups.size(), 1U);
+  EXPECT_EQ(backups.front().Reason, BackupReason::Dropped);
+  EXPECT_EQ(DepthIn(backups.front().Path), 980);
+  EXPECT_EQ(DepthIn(FirstFile), 725);
+}
+
+TEST_F(UnsavedWork, ThatADialogCommittedOrDidNotChangeIsInNoBackup) {
+  Program program = Editing(725);
+  program.folders.ProgramData = DataFolder;
+  Recovery recovery(program);
+  recovery.DesignShown(program.WorkParms);
+  recovery.DesignChanged(program.WorkParms);
+  recovery.DialogClosed();
+  EXPECT_THAT(ListBackups(program), IsEmpty());
+
+  recovery.DesignShown(program.WorkParms);
+  program.WorkParms.DepthofCover = 980;
+  recovery.DesignChanged(program.WorkParms);
+  recovery.DialogClosed();
+  EXPECT_THAT(ListBackups(program), IsEmpty());
+}
+
+TEST_F(UnsavedWork, IsDeletedOnNoWithoutAFolderForBackups) {
+  Lose(725);
+  Program next = Started();
+  platform.boxes.answers = {box_result::No};
+
+  EXPECT_FALSE(Recovery(next).Ask(""));
 
   EXPECT_FALSE(Exists(FirstFile));
   EXPECT_EQ(next.WorkParms.DepthofCover, 400);
@@ -196,16 +322,16 @@ TEST_F(UnsavedWork, IsDeletedOnNo) {
 TEST_F(UnsavedWork, IsNotAskedForWhenThereIsNone) {
   Program program = Started();
 
-  EXPECT_FALSE(Recovery(program).Ask());
+  EXPECT_FALSE(Recovery(program).Ask(""));
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(UnsavedWork, ThatCannotBeReadAnyMoreIsDeletedWithoutAQuestion) {
+TEST_F(UnsavedWork, ThatCannotBeReadAnyMoreIsDeletedWithoutAFolderForBackups) {
   platform.files.files[FirstFile] = "ORBY_RECOVERY_1\r\nCurrentFile=/designs/pan";
   Program program = Started();
 
-  EXPECT_FALSE(Recovery(program).Ask());
+  EXPECT_FALSE(Recovery(program).Ask(""));
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
   EXPECT_FALSE(Exists(FirstFile));
@@ -230,7 +356,7 @@ TEST_F(UnsavedWork, OfARunningProgramIsNotOfferedToAnother) {
   ofFirst.Committed();
   Program second = Started();
 
-  EXPECT_FALSE(Recovery(second).Ask());
+  EXPECT_FALSE(Recovery(second).Ask(""));
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
   EXPECT_EQ(DepthIn(FirstFile), 725);
@@ -241,7 +367,7 @@ TEST_F(UnsavedWork, ThatWasLostGoesBeforeAFreeFile) {
   Program next = Started();
   platform.boxes.answers = {box_result::Yes};
 
-  EXPECT_TRUE(Recovery(next).Ask());
+  EXPECT_TRUE(Recovery(next).Ask(""));
 
   EXPECT_EQ(next.WorkParms.DepthofCover, 980);
 }
@@ -265,7 +391,7 @@ TEST_F(UnsavedWork, IsNotKeptWithoutAFolder) {
 
   recovery.Committed();
 
-  EXPECT_FALSE(recovery.Ask());
+  EXPECT_FALSE(recovery.Ask(""));
   EXPECT_THAT(platform.files.created, IsEmpty());
 }
 

@@ -90,6 +90,10 @@ class MemoryFiles : public FileSystem {
     return std::make_unique<MemoryInput>(*this, ReadFile(path));
   }
   std::uint64_t FileLength(const std::string& path) override { return ReadFile(path).size(); }
+  std::optional<Moment> WrittenAt(const std::string& path) override {
+    const auto found = times.find(path);
+    return found == times.end() ? std::nullopt : std::optional(found->second);
+  }
 
   std::unique_ptr<OutputFile> CreateFile(const std::string& path) override {
     Meet(Step::Create);
@@ -185,6 +189,7 @@ class MemoryFiles : public FileSystem {
 
   std::map<std::string, std::string> files;
   std::map<std::string, std::string> onDisk;  // what is sure to be there after a power cut
+  std::map<std::string, Moment> times;        // when they were written last
   std::set<std::string, std::less<>> folders{"/tmp", "/program"};
   std::set<std::string, std::less<>> readOnly;  // folders
   std::set<std::string> marked;                 // files in use by a program

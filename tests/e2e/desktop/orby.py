@@ -224,9 +224,9 @@ class Run:
         return node, text, {part.name: part for part in parts if part.role == atspi.PUSH_BUTTON}
 
     def answer(self, text, button):
-        """Presses a button of the message box that says this."""
+        """Presses a button of the message box that says this, a text or a pattern of the whole text."""
         node, shown, buttons = self.box()
-        if shown != text:
+        if not (text.fullmatch(shown) if isinstance(text, re.Pattern) else shown == text):
             raise AssertionError(f"the box says {shown!r}, not {text!r}")
         buttons[button].act("Press")
         Window(node).wait_gone()

@@ -1,10 +1,14 @@
 """Work that is not lost when the program ends in the middle of it."""
 
 import os
+import re
 
 from orby import DesktopTest, until
 
-QUESTION = "Orby ended unexpectedly. Recover the unsaved project?"
+QUESTION = re.compile(
+    r"Orby ended unexpectedly\. Recover the unsaved project\?\n\n"
+    r"(Untitled|/.*\.ORB) of \d{4}-\d\d-\d\d \d\d:\d\d:\d\d"
+)
 
 
 class Recovery(DesktopTest):
@@ -47,18 +51,33 @@ class Recovery(DesktopTest):
         self.quit_unsaved(run, file)
         self.assertEqual(self.recovery_files(), [])
 
-    def test_no_deletes_what_was_kept(self):
+    def test_no_moves_what_was_kept_into_the_backups(self):
         self.edit("777").kill()
 
         run = self.start()
         run.answer(QUESTION, "No")
 
         until(lambda: not self.recovery_files(), "the end of the recovery file")
+        (kept,) = (name for name in os.listdir(os.path.join(self.data, "Backups")) if name.endswith(".recovery"))
+        self.assertRegex(kept, r"^\d{4}-\d\d-\d\d \d\d\.\d\d\.\d\d 00001 Untitled\.recovery$")
         self.assertEqual(self.depth_of(run), "400")
         run.quit()
         self.assertEqual(run.wait_end(), 0)
         again = self.start()
         self.assertEqual(self.depth_of(again), "400")
+
+    def test_offers_the_file_of_the_command_line_in_the_question(self):
+        self.edit("777").kill()
+        file = self.copy_example("development-entry", "entry.ORB")
+
+        run = self.start(file)
+        run.answer(QUESTION, "Open entry.ORB instead")
+
+        parameters = run.window("Parameters")
+        self.assertNotEqual(parameters.text("txtDepthofCover"), "777")
+        parameters.press("Command1")
+        parameters.wait_gone()
+        self.assertTrue(run.caption().endswith("entry.ORB"))
 
     def test_keeps_the_work_of_two_programs_apart(self):
         first = self.edit("771")

@@ -1,0 +1,162 @@
+// What becomes of changes that the user drops: they are in the backups.
+
+#include "base/number_text.h"
+#include "dialogs/cost_dialog.h"
+#include "dialogs/parameters_dialog.h"
+#include "files/backups.h"
+#include "main_window_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+struct DroppedChanges : MainWindowTest {
+  DroppedChanges() { program.folders.ProgramData = "/home/user/Documents/Orby/"; }
+
+  // "/designs/panel3.orb at 800", one text for each backup, the newest first.
+  std::vector<std::string> Kept() {
+    std::vector<std::string> kept;
+    for (const Backup& entry : ListBackups(program)) {
+      const auto project = ReadRecovery(FileAt(entry.Path));
+      kept.push_back(entry.Project + " at " +
+                     (project ? NumberText(project->WorkParms.DepthofCover) : std::string("nothing")));
+    }
+    return kept;
+  }
+
+  // Opens the dialog, types another depth of cover and closes it.
+  template <class Dialog>
+  void EditAndCancel(Integer item, const std::function<void(Dialog&)>& edit) {
+    platform.windows.onModal = [&](Form& form) {
+      edit(dynamic_cast<Dialog&>(form));
+      form.Acted();
+      form.Close();
+    };
+    window.mnuEditItem.ClickItem(item);
+  }
+};
+
+TEST_F(DroppedChanges, AreKeptByNew) {
+  EditPanel3();
+
+  window.mnuFileItem.ClickItem(file_item::New);
+
+  EXPECT_THAT(Kept(), ElementsAre("/designs/panel3.orb at 800"));
+  EXPECT_EQ(ListBackups(program).front().Reason, BackupReason::Dropped);
+  EXPECT_THAT(program.history.Text, HasSubstr("Unsaved changes kept in Backups: /designs/panel3.orb"));
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(DroppedChanges, AreKeptByOpenOnNo) {
+  EditPanel3();
+  platform.boxes.answers = {box_result::No};
+
+  OpenByDialog(Panel4);
+
+  EXPECT_THAT(Kept(), ElementsAre("/designs/panel3.orb at 800"));
+  EXPECT_EQ(program.CurrentFile, Panel4);
+}
+
+TEST_F(DroppedChanges, AreKeptByARecentFileOnNo) {
+  OpenByDialog(Panel4);
+  EditPanel3();
+  platform.boxes.answers = {box_result::No};
+
+  window.mnuFileArray.ClickItem(2);
+
+  EXPECT_THAT(Kept(), ElementsAre("/designs/panel3.orb at 800"));
+  EXPECT_EQ(program.CurrentFile, Panel4);
+}
+
+TEST_F(DroppedChanges, AreKeptByADroppedFileOnNo) {
+  EditPanel3();
+  platform.boxes.answers = {box_result::No};
+
+  window.Dropped(Panel4);
+
+  EXPECT_THAT(Kept(), ElementsAre("/designs/panel3.orb at 800"));
+}
+
+TEST_F(DroppedChanges, AreKeptByTheFileOfTheCommandLineOnNo) {
+  EditPanel3();
+  platform.boxes.answers = {box_result::No};
+
+  window.OpenFirstFiles(Panel4);
+
+  EXPECT_THAT(Kept(), ElementsAre("/designs/panel3.orb at 800"));
+}
+
+TEST_F(DroppedChanges, AreKeptByClosingOnNo) {
+  EditPanel3();
+  platform.boxes.answers = {box_result::No};
+
+  window.mnuFileItem.ClickItem(file_item::Exit);
+
+  EXPECT_THAT(Kept(), ElementsAre("/designs/panel3.orb at 800"));
+}
+
+TEST_F(DroppedChanges, AreKeptWhenTheParametersAreCancelled) {
+  OpenByDialog(Panel3);
+
+  EditAndCancel<ParametersDialog>(edit_item::Parameters, [](auto& dialog) { dialog.txtDepthofCover.SetText("910"); });
+
+  EXPECT_THAT(Kept(), ElementsAre("/designs/panel3.orb at 910"));
+  EXPECT_EQ(program.WorkParms.DepthofCover, 725);
+}
+
+TEST_F(DroppedChanges, AreKeptWhenTheCostsAreCancelled) {
+  OpenByDialog(Panel3);
+
+  EditAndCancel<CostDialog>(edit_item::Cost, [](auto& dialog) { dialog.txtBoltCost.SetText("7.5"); });
+
+  ASSERT_EQ(Kept().size(), 1U);
+  EXPECT_EQ(ReadRecovery(FileAt(ListBackups(program).front().Path))->WorkParms.CostBoltCost, 7.5F);
+}
+
+TEST_F(DroppedChanges, AreNoneOfADialogThatIsCancelledUnchanged) {
+  OpenByDialog(Panel3);
+
+  EditAndCancel<ParametersDialog>(edit_item::Parameters, [](auto&) {});
+  EditAndCancel<CostDialog>(edit_item::Cost, [](auto&) {});
+
+  EXPECT_THAT(Kept(), IsEmpty());
+}
+
+TEST_F(DroppedChanges, AreNoneOfADialogThatIsAccepted) {
+  OpenByDialog(Panel3);
+
+  EditAndCancel<ParametersDialog>(edit_item::Parameters, [](ParametersDialog& dialog) {
+    dialog.txtDepthofCover.SetText("910");
+    dialog.Acted();
+    dialog.Command2.Press();
+  });
+
+  EXPECT_EQ(program.WorkParms.DepthofCover, 910);
+  EXPECT_THAT(Kept(), IsEmpty());
+}
+
+TEST_F(DroppedChanges, AreNoneOfASavedProject) {
+  OpenByDialog(Panel3);
+  window.mnuFileItem.ClickItem(file_item::New);
+  OpenByDialog(Panel4);
+  window.mnuFileItem.ClickItem(file_item::Exit);
+
+  EXPECT_THAT(Kept(), IsEmpty());
+}
+
+TEST_F(DroppedChanges, AreToldOnceWhenTheyCannotBeKept) {
+  EditPanel3();
+  platform.files.Fail(MemoryFiles::Step::Create, error_number::DiskFull);
+
+  window.mnuFileItem.ClickItem(file_item::New);
+
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("The unsaved changes could not be kept in Backups: /designs/panel3.orb"));
+  EXPECT_EQ(program.CurrentFile, "Untitled");
+}
+
+}  // namespace
+}  // namespace orby::test
