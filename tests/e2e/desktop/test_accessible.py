@@ -173,9 +173,9 @@ class Accessible(DesktopTest):
         parameters.press("chkCMRRManual")
         for field, text in (("txtCMRR", "52"), ("txtDepthofCover", "820"), ("txtActualSpanDiagonals", "64")):
             node = parameters.control(field)
+            node.delete_text(0, len(node.text))
             node.insert_text(0, text[0])
             node.insert_text(1, text[1:])
-            node.delete_text(len(text), len(node.text))
             self.assertEqual(node.text, text)
         parameters.wait_text("txtSugPSUP", "7.2")
 
