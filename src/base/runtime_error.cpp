@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace orby {
 namespace {
@@ -45,6 +46,10 @@ RuntimeError::RuntimeError(int errorNumber, std::string_view remark)
     : number_(errorNumber), description_(ErrorDescription(errorNumber)) {
   description_ += remark;
   what_ = "run-time error " + std::to_string(errorNumber) + ": " + description_;
+}
+
+void RuntimeError::SayCircumstance(std::string words) {
+  if (circumstance_.empty()) circumstance_ = std::move(words);
 }
 
 }  // namespace orby

@@ -39,12 +39,17 @@ class RuntimeError : public std::exception {
 
   int number() const { return number_; }
   std::string_view description() const { return description_; }
+  // What failed, "while the report was made"; empty until somebody has said it.
+  const std::string& circumstance() const { return circumstance_; }
+  // The first one that is said stands: it is the nearest to the failure.
+  void SayCircumstance(std::string words);
   // "run-time error 11: Division by zero"
   const char* what() const noexcept override { return what_.c_str(); }
 
  private:
   int number_;
   std::string description_;
+  std::string circumstance_;
   std::string what_;
 };
 

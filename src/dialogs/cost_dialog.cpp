@@ -5,6 +5,7 @@
 #include "base/arithmetic.h"
 #include "base/attempt.h"
 #include "base/number_text.h"
+#include "core/act.h"
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
 #include "core/shared_texts.h"
@@ -86,7 +87,7 @@ void CostDialog::TieCommands() {
   };
   Command1.Click = [this] { Close(); };
   cmdresults.Click = [this] {
-    if (!ValidateCost() || !BuildReport()) return;
+    if (!ValidateCost() || !While(Act::Report, [this] { return BuildReport(); })) return;
     ShowResults(program_);
   };
   Command5.Click = [this] { CopyClip(program_, *this); };
@@ -111,7 +112,7 @@ void CostDialog::OnOpen() {
 
 void CostDialog::OnClose() {
   if (CommitOnClose) {
-    SaveWorkParms();
+    While(Act::TakeCosts, [this] { SaveWorkParms(); });
     program_.UnitsLocked = true;
   }
   AddHistoryLine(program_, WasCommitted ? history_text::ParametersModified : history_text::ParametersNotModified);

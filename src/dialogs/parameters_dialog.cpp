@@ -7,6 +7,7 @@
 #include "base/number_text.h"
 #include "base/runtime_error.h"
 #include "catalogs/catalogs.h"
+#include "core/act.h"
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
 #include "dialogs/copy_clip.h"
@@ -152,7 +153,7 @@ void ParametersDialog::TieCommands() {
   };
   Command1.Click = [this] { Close(); };
   cmdresults.Click = [this] {
-    if (!ValidateParameters() || !BuildReport()) return;
+    if (!ValidateParameters() || !While(Act::Report, [this] { return BuildReport(); })) return;
     ShowResults(program_);
   };
   Command5.Click = [this] { CopyClip(program_, *this); };
@@ -210,7 +211,7 @@ void ParametersDialog::FillLists() {
 }
 
 void ParametersDialog::OnClose() {
-  if (CommitOnClose && SaveWorkParms()) program_.UnitsLocked = true;
+  if (CommitOnClose && While(Act::TakeParameters, [this] { return SaveWorkParms(); })) program_.UnitsLocked = true;
   AddHistoryLine(program_, WasCommitted ? history_text::ParametersModified : history_text::ParametersNotModified);
   program_.DialogOpen = false;
 }

@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "core/act.h"
 #include "core/dialog_helpers.h"
 #include "core/help.h"
 #include "core/messages.h"
@@ -99,9 +100,11 @@ bool ResultsWindow::ChoosePrinter() {
 void ResultsWindow::DrawChosenCurve() {
   const auto index = static_cast<Integer>(lstGraphs.Items()[static_cast<std::size_t>(lstGraphs.ListIndex())].data);
   const StepOutcome outcome = RunTrapped(program_, [&] {
-    GenerateCurve(program_, index);
-    if (!graph_) graph_ = std::make_unique<GraphWindow>(program_);
-    graph_->ShowCurve(index);
+    While(Act::Curve, std::string(CurveNames[static_cast<std::size_t>(index)]), [&] {
+      GenerateCurve(program_, index);
+      if (!graph_) graph_ = std::make_unique<GraphWindow>(program_);
+      graph_->ShowCurve(index);
+    });
   });
   if (outcome != StepOutcome::GivenUp) lstGraphs.SetVisible(false);
 }

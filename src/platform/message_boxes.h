@@ -12,6 +12,7 @@ inline constexpr int Ok = 0;
 inline constexpr int YesNoCancel = 3;
 inline constexpr int YesNo = 4;
 inline constexpr int RetryCancel = 5;
+inline constexpr int OkRetry = 7;
 inline constexpr int Critical = 16;
 inline constexpr int Question = 32;
 inline constexpr int Exclamation = 48;

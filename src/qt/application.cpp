@@ -4,11 +4,13 @@
 #include <QLocale>
 #include <cstdlib>
 
+#include "core/act.h"
 #include "core/help.h"
 #include "qt/boundary.h"
 #include "qt/desktop.h"
 #include "qt/main_view.h"
 #include "qt/pictures.h"
+#include "qt/start_again.h"
 #include "qt/update_server.h"
 #include "shell/main_window.h"
 #include "shell/start_up.h"
@@ -36,19 +38,25 @@ class ToolkitStart {
   QApplication application_;
 };
 
-// Nothing more is asked, saved or written but what is kept for the next start.
+// Nothing is saved or written but what is kept for the next start.
 [[noreturn]] void EndRun(Desktop& desktop, MainWindow* window, const RuntimeError& error) {
-  if (window != nullptr) window->LeaveAtOnce();
+  std::optional<RunEnd> end;
+  if (window != nullptr) end = window->LeaveAtOnce();
   desktop.windows.SetWaitCursor(false);
-  const std::string text =
-      "Run-time error '" + std::to_string(error.number()) + "':\r\n\r\n" + std::string(error.description());
-  desktop.boxes.Show({text, box_style::Critical, std::string(ProgramTitle), {}, 0});
+  if (desktop.boxes.Show(RunEndBox(error, end)) == StartAgainButton) {
+    window->Release();
+    if (!StartAgain(QCoreApplication::applicationFilePath(), end->Next)) {
+      desktop.boxes.Show(
+          {"The program could not be started again.", box_style::Critical, std::string(ProgramTitle), {}, 0});
+    }
+  }
   std::_Exit(EXIT_FAILURE);
 }
 
 }  // namespace
 
 int RunProgram(const std::string& programFolder, const std::vector<std::string>& arguments) {
+  const std::optional<Restart> restart = TakeRestart();
   const ToolkitStart toolkit;
   QApplication::setWindowIcon(ThemedIcon("orby"));
   Desktop desktop(programFolder);
@@ -67,8 +75,8 @@ int RunProgram(const std::string& programFolder, const std::vector<std::string>&
   std::string file;
   RunGuarded([&] {
     file = CommandLineFile(program, arguments);
-    StartProgram(program);
-    window = std::make_unique<MainWindow>(program);
+    While(Act::Start, [&] { StartProgram(program); });
+    window = std::make_unique<MainWindow>(program, restart);
     window->Open();
     desktop.windows.ShowMain(*window, program.settings.MaxMainMenu == 1);
     DressMainWindow(desktop.windows.Main(), *window);

@@ -25,6 +25,7 @@ constexpr std::array ButtonSets{
     ButtonSet{box_style::YesNoCancel, {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel}, QMessageBox::Cancel},
     ButtonSet{box_style::YesNo, {QMessageBox::Yes, QMessageBox::No, None}, None},
     ButtonSet{box_style::RetryCancel, {QMessageBox::Retry, QMessageBox::Cancel, None}, QMessageBox::Cancel},
+    ButtonSet{box_style::OkRetry, {QMessageBox::Ok, QMessageBox::Retry, None}, QMessageBox::Ok},
 };
 
 constexpr int ButtonBits = 15;

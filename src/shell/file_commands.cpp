@@ -1,5 +1,6 @@
 // The commands of the File menu.
 #include "config/settings_sections.h"
+#include "core/act.h"
 #include "dialogs/preview_window.h"
 #include "dialogs/project_report.h"
 #include "files/backups.h"
@@ -62,7 +63,7 @@ void MainWindow::OpenFile(const std::string& path, Trap trap) {
 // A refused file leaves the caption as it is.
 void MainWindow::LoadProjFile(Trap trap) {
   bool ok = false;
-  Run(trap, [&] { FileOpen(program_, ok); });
+  Run(trap, [&] { While(Act::OpenFile, program_.CurrentFile, [&] { FileOpen(program_, ok); }); });
   recovery_.Committed();
   if (!ok) return;
   UpdateRecentFiles();

@@ -1,6 +1,7 @@
 // The commands of the Input menu.
 #include <memory>
 
+#include "core/act.h"
 #include "core/dialog_helpers.h"
 #include "dialogs/cost_dialog.h"
 #include "dialogs/description_dialog.h"
@@ -34,7 +35,7 @@ void MainWindow::EditDesign(Trap trap) {
   const auto outcome = Run(trap, [&] {
     windows.SetWaitCursor(true);
     dialog = std::make_unique<Dialog>(program_);
-    dialog->Open();
+    While(Act::ShowDialog, [&] { dialog->Open(); });
     windows.SetWaitCursor(false);
   });
   if (outcome != StepOutcome::Done) {

@@ -1,9 +1,12 @@
 #include "shell/main_window.h"
 
+#include <utility>
+
 #include "base/text.h"
 #include "config/settings_sections.h"
 #include "config/user_folders.h"
 #include "core/dialog_helpers.h"
+#include "core/file_helpers.h"
 #include "core/version.h"
 #include "files/backups.h"
 #include "files/save_command.h"
@@ -12,7 +15,11 @@
 
 namespace orby {
 
-MainWindow::MainWindow(Program& program) : program_(program), recovery_(program), updateCheck_(program) {
+MainWindow::MainWindow(Program& program, std::optional<Restart> restart)
+    : program_(program),
+      restart_(std::move(restart)),
+      recovery_(program, restart_ ? restart_->Slot : 0),
+      updateCheck_(program) {
   lblver.SetCaption("Version: " + VersionText(true));
   TieCommands();
   TieHistory();
@@ -77,11 +84,20 @@ void MainWindow::OnOpen() {
 }
 
 void MainWindow::OpenFirstFiles(const std::string& commandLineFile) {
+  if (restart_) return BringBack();
   if (recovery_.Ask(commandLineFile)) return RefreshCaption();
   if (program_.settings.LoadLastInputFile == 1 && !program_.recentFiles.Entries.front().LastFileLong.empty()) {
     OpenRecent(1);
   }
   if (!commandLineFile.empty()) OpenFile(commandLineFile, Trap::None);
+}
+
+void MainWindow::BringBack() {
+  if (restart_->Slot != 0) {
+    if (recovery_.Recover()) RefreshCaption();
+  } else if (!restart_->File.empty()) {
+    OpenFile(restart_->File, Trap::Set);
+  }
 }
 
 void MainWindow::Dropped(const std::string& path) { OpenFile(path, Trap::Set); }
@@ -105,9 +121,15 @@ void MainWindow::OnClose() {
   WriteDefaults(program_, settings_section::FileMenu);
 }
 
-void MainWindow::LeaveAtOnce() {
+// A project that is not kept may still be had as its file has it.
+RunEnd MainWindow::LeaveAtOnce() {
   recovery_.Flush();
   updateCheck_.Stop();
+  RunEnd end{recovery_.Kept(), {recovery_.KeptSlot(), {}}};
+  if (end.Next.Slot == 0 && !program_.FileEmpty && FileExists(program_, program_.CurrentFile)) {
+    end.Next.File = program_.platform.files.AbsolutePath(program_.CurrentFile);
+  }
+  return end;
 }
 
 void MainWindow::RefreshCaption() {

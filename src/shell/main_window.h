@@ -5,6 +5,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "core/dialog_helpers.h"
@@ -12,6 +13,7 @@
 #include "core/program.h"
 #include "shell/main_controls.h"
 #include "shell/recovery.h"
+#include "shell/run_end.h"
 #include "shell/update_check.h"
 
 namespace orby {
@@ -19,12 +21,13 @@ namespace orby {
 class MainWindow : public MainControls {
  public:
   // Takes over the history of the program and the asking for input dialogs, for as long as the window lives.
-  explicit MainWindow(Program& program);
+  // restart: what this run brings back by itself, where the run before it ended by an error.
+  explicit MainWindow(Program& program, std::optional<Restart> restart = std::nullopt);
   ~MainWindow() override;
 
   // What a run begins with, once the window is on the screen: the work that an earlier run lost, and where there is
   // none or the user declines it, the file that was open last and the file of the command line. Throws the RuntimeError
-  // of the latter's opening.
+  // of the latter's opening. A run that was started again brings back what it was told, and nothing else.
   void OpenFirstFiles(const std::string& commandLineFile);
 
   // Opens a file that was dropped on the window.
@@ -35,7 +38,9 @@ class MainWindow : public MainControls {
 
   // For a run that ends without closing the window: keeps what is being edited for the next start, and nothing of what
   // has been fetched in part.
-  void LeaveAtOnce();
+  RunEnd LeaveAtOnce();
+  // After that: lets the next run have what is kept while this one has not ended yet.
+  void Release() { recovery_.Release(); }
 
  protected:
   void OnOpen() override;
@@ -51,6 +56,7 @@ class MainWindow : public MainControls {
   void ShowHistory(bool visible);
   void ShowSettings();
   void RefreshCaption();
+  void BringBack();
 
   // file_commands.cpp
   void FileCommand(Integer item);
@@ -91,6 +97,7 @@ class MainWindow : public MainControls {
   }
 
   Program& program_;
+  std::optional<Restart> restart_;
   Recovery recovery_;
   UpdateCheck updateCheck_;
 };

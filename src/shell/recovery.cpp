@@ -25,12 +25,13 @@ constexpr std::string_view MarkExtension = ".lck";
 
 }  // namespace
 
-Recovery::Recovery(Program& program) : program_(program) {
+Recovery::Recovery(Program& program, int keptSlot) : program_(program), keptSlot_(keptSlot) {
   Succeeds([this] { TakeSlot(); });
 }
 
 void Recovery::TakeSlot() {
   if (program_.folders.ProgramTemporary.empty()) return;
+  if (keptSlot_ != 0 && TryTake(keptSlot_)) return;
   for (int number = 1; number <= Slots; ++number) {
     if (FileExists(program_, SlotPath(program_, number, FileExtension)) && TryTake(number)) return;
   }
@@ -42,6 +43,7 @@ void Recovery::TakeSlot() {
 bool Recovery::TryTake(int number) {
   mark_ = program_.platform.files.TryMark(SlotPath(program_, number, MarkExtension));
   if (!mark_) return false;
+  slot_ = number;
   path_ = SlotPath(program_, number, FileExtension);
   return true;
 }
@@ -96,9 +98,12 @@ bool Recovery::Ask(const std::string& otherFile) {
 }
 
 bool Recovery::Recover() {
+  if (keptSlot_ != 0 && slot_ != keptSlot_) return false;
   const std::optional<UnsavedProject> project = TakeLostProject();
-  if (project) RestoreProject(program_, *project);
-  return project.has_value();
+  if (!project) return false;
+  RestoreProject(program_, *project);
+  AddHistoryLine(program_, "Recovered: " + program_.CurrentFile + ", with its unsaved changes");
+  return true;
 }
 
 void Recovery::DesignShown(const ProjectRecord& design) {
@@ -120,9 +125,8 @@ void Recovery::DialogClosed() {
 
 void Recovery::DesignChanged(const ProjectRecord& design) {
   edited_ = design;
-  if (path_.empty()) return;
   changed_ = design;
-  if (*waiting_) return;
+  if (path_.empty() || *waiting_) return;
   *waiting_ = true;
   program_.platform.clock.CallLater(WriteDelay, [this, alive = std::weak_ptr<bool>(waiting_)] {
     const auto waiting = alive.lock();
@@ -133,7 +137,10 @@ void Recovery::DesignChanged(const ProjectRecord& design) {
 }
 
 void Recovery::Flush() {
-  if (!changed_) return;
+  if (!changed_) {
+    if (!program_.FileSaved && written_.empty()) Committed();
+    return;
+  }
   const std::string bytes = RecoveryBytes(EditedProject(program_, *changed_));
   if (bytes == shown_) {
     Committed();
@@ -154,13 +161,22 @@ void Recovery::Committed() {
 
 void Recovery::Discard() {
   changed_.reset();
+  failed_ = false;
   if (written_.empty()) return;
   if (Succeeds([this] { program_.platform.files.RemoveFile(path_); })) written_.clear();
 }
 
 void Recovery::Write(const std::string& bytes) {
-  if (path_.empty() || bytes == written_) return;
-  if (TryWriteWhole(program_.platform.files, path_, bytes)) written_ = bytes;
+  failed_ = bytes != written_ && (path_.empty() || !TryWriteWhole(program_.platform.files, path_, bytes));
+  if (!failed_) written_ = bytes;
 }
+
+KeptWork Recovery::Kept() const {
+  if (failed_) return written_.empty() ? KeptWork::Nothing : KeptWork::Earlier;
+  if (!written_.empty()) return KeptWork::All;
+  return program_.FileSaved ? KeptWork::NoneNeeded : KeptWork::Nothing;
+}
+
+void Recovery::Release() { mark_.reset(); }
 
 }  // namespace orby

@@ -13,18 +13,21 @@
 
 #include "core/program.h"
 #include "files/recovery_file.h"
+#include "shell/run_end.h"
 
 namespace orby {
 
 class Recovery {
  public:
-  explicit Recovery(Program& program);
+  // keptSlot: what a run left behind in this slot comes first; 0 where no slot does.
+  explicit Recovery(Program& program, int keptSlot = 0);
 
   // Asks whether to recover what a run left behind, if there is anything, or to open the other file instead, if there
   // is one. Gives whether the open project is the recovered one now; what the user declines goes into the backups.
   bool Ask(const std::string& otherFile);
 
-  // Recovers what a run left behind without asking. Gives whether there was anything.
+  // Recovers what a run left behind, in the kept slot if one was named, without asking. Gives whether there was
+  // anything.
   bool Recover();
 
   // An input dialog shows this design, nothing being changed yet.
@@ -47,6 +50,14 @@ class Recovery {
   // Nothing is worth keeping any more.
   void Discard();
 
+  // What is kept of the unsaved changes by now.
+  KeptWork Kept() const;
+  // The slot that keeps them; 0 when none does.
+  int KeptSlot() const { return written_.empty() ? 0 : slot_; }
+
+  // Leaves the slot, with what it keeps, to the next run.
+  void Release();
+
  private:
   // What a run left behind, if anything; a file that cannot be read any more goes into the backups.
   std::optional<UnsavedProject> TakeLostProject();
@@ -58,8 +69,11 @@ class Recovery {
 
   Program& program_;
   std::unique_ptr<FileMark> mark_;
+  int keptSlot_;
+  int slot_ = 0;
   std::string path_;     // empty: no file can be had
   std::string written_;  // what the file holds; empty: there is none of this run
+  bool failed_ = false;  // the last changes could not be written
   std::string shown_;    // what the design in the open dialog started from
   std::optional<ProjectRecord> changed_;
   std::optional<ProjectRecord> edited_;  // what the open dialog showed last

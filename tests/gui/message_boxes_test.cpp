@@ -95,6 +95,12 @@ const std::vector<Style> Styles{
      {"Retry", "Cancel"},
      box_result::Retry,
      box_result::Cancel},
+    {"OkRetry",
+     box_style::OkRetry | box_style::Critical,
+     QMessageBox::Critical,
+     {"OK", "Retry"},
+     box_result::Ok,
+     box_result::Ok},
 };
 
 class BoxStyle : public MessageBoxesView, public testing::WithParamInterface<Style> {};

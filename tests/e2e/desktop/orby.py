@@ -166,12 +166,47 @@ class Window:
         take_picture(name, "-crop", f"{width}x{height}+{left}+{top}", "+repage")
 
 
+class Grandchild:
+    """A process that the program started, with the part of Popen that a run needs."""
+
+    def __init__(self, process):
+        self.pid = process
+
+    def poll(self):
+        """None while it runs. Its status is known to its own parent alone."""
+        try:
+            with open(f"/proc/{self.pid}/stat", encoding="utf-8") as file:
+                return 0 if file.read().rpartition(")")[2].split()[0] == "Z" else None
+        except FileNotFoundError:
+            return 0
+
+    def send_signal(self, number):
+        os.kill(self.pid, number)
+
+    def wait(self, _patience=PATIENCE):
+        until(lambda: self.poll() is not None, "the end of a process")
+
+
+def started_again(home):
+    """The run in this home that was started by one that ended by an error; None while there is none."""
+    for name in filter(str.isdigit, os.listdir("/proc")):
+        try:
+            with open(f"/proc/{name}/environ", "rb") as file:
+                variables = file.read().split(b"\0")
+        except OSError:
+            continue
+        is_told = any(variable.startswith(b"ORBY_START_AGAIN=") for variable in variables)
+        if is_told and b"HOME=" + home.encode() in variables:
+            return Grandchild(int(name))
+    return None
+
+
 class Run:
     """One start of the program."""
 
-    def __init__(self, bus, home, arguments, environment):
+    def __init__(self, bus, process):
         self.bus = bus
-        self.process = subprocess.Popen([PROGRAM, *arguments], cwd=home, env={**os.environ, **environment})
+        self.process = process
         self.root = until(lambda: self.bus.application(self.process.pid), "the program")
 
     def windows(self):
@@ -281,10 +316,18 @@ class DesktopTest(unittest.TestCase):
 
     def start(self, *arguments, accepts=True, **environment):
         """Starts the program; what it begins with is accepted unless the test is about that."""
-        run = Run(self.bus, self.home, arguments, {"HOME": self.home, **environment})
+        environment = {**os.environ, "HOME": self.home, **environment}
+        run = Run(self.bus, subprocess.Popen([PROGRAM, *arguments], cwd=self.home, env=environment))
         self.runs.append(run)
         if accepts:
             run.accept_disclaimer()
+        return run
+
+    def next_run(self):
+        """The run that the program has started by itself."""
+        run = Run(self.bus, until(lambda: started_again(self.home), "the program started again"))
+        self.runs.append(run)
+        run.accept_disclaimer()
         return run
 
     def path(self, *parts):

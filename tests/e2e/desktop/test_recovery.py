@@ -3,12 +3,15 @@
 import os
 import re
 
-from orby import DesktopTest, until
+from orby import DesktopTest, take_picture, until
 
 QUESTION = re.compile(
     r"Orby ended unexpectedly\. Recover the unsaved project\?\n\n"
     r"(Untitled|/.*\.ORB) of \d{4}-\d\d-\d\d \d\d:\d\d:\d\d"
 )
+ERROR = ("Run-time error '11':\n\nDivision by zero\n\nThe error happened while the report was made.\n\n"
+         "Your project is kept with its unsaved changes.\n"
+         "Start Again brings it back now; after OK the next start offers it.")
 
 
 class Recovery(DesktopTest):
@@ -96,20 +99,42 @@ class Recovery(DesktopTest):
         run.answer(QUESTION, "Yes")
         return self.depth_of(run)
 
-    def test_brings_back_the_fields_after_a_run_time_error(self):
-        run = self.edit("777")
+    def end_by_error(self, *arguments):
+        """A run with changes, which has ended by a report that cannot be made; its box is on the screen."""
+        run = self.edit("777", *arguments)
         parameters = run.window("Parameters")
         parameters.type("txtUnitWeight", "158")
-        parameters.choose_tab("SSTab1", "Primary Support: Roof Bolts")
-        parameters.type("txtStabilityFactor", "9" + 37 * "0")  # more than a report can be computed with
+        parameters.choose_tab("SSTab1", "Secondary Support: Entries")
+        parameters.type("txtRockFallAngle", "0")
         parameters.press("cmdresults")
+        run.box()
+        return run
 
-        run.answer("Run-time error '6':\n\nOverflow", "OK")
-
-        self.assertEqual(run.wait_end(), 1)
-        again = self.start()
-        again.answer(QUESTION, "Yes")
-        again.keys("alt+i", "p")
-        parameters = again.window("Parameters")
+    def assert_brought_back(self, run):
+        run.keys("alt+i", "p")
+        parameters = run.window("Parameters")
         self.assertEqual(parameters.text("txtDepthofCover"), "777")
         self.assertEqual(parameters.text("txtUnitWeight"), "158")
+
+    def test_brings_back_the_fields_after_a_run_time_error(self):
+        self.end_by_error().answer(ERROR, "OK")
+
+        self.assertEqual(self.runs[0].wait_end(), 1)
+        again = self.start()
+        again.answer(QUESTION, "Yes")
+        self.assert_brought_back(again)
+
+    def test_starts_again_with_the_project_and_without_a_question(self):
+        file = self.copy_example("development-entry", "entry.ORB")
+        run = self.end_by_error(file)
+        before = self.configuration()
+
+        take_picture("error")
+        run.answer(ERROR, "Start Again")
+
+        self.assertEqual(run.wait_end(), 1)
+        self.assertEqual(self.configuration(), before)
+        again = self.next_run()
+        until(lambda: again.caption().endswith("entry.ORB*"), "the old name with the mark of unsaved changes")
+        self.assertIn(f"Recovered: {file}, with its unsaved changes", again.main().text("txtMain"))
+        self.assert_brought_back(again)
