@@ -87,6 +87,7 @@ class NoHelpViewer : public HelpViewer {
 class NoDownloads : public Downloads {
  public:
   std::unique_ptr<Fetch> Start(const FetchRequest&, FetchEvents) override { return nullptr; }
+  std::optional<std::string> CheckedCopy(const std::string&, const std::string&) override { return std::nullopt; }
 };
 
 }  // namespace orby

@@ -4,6 +4,7 @@
 #include <QNetworkProxyFactory>
 #include <utility>
 
+#include "qt/private_copy.h"
 #include "qt/transfer.h"
 
 namespace orby {
@@ -48,6 +49,10 @@ std::unique_ptr<Fetch> QtDownloads::Start(const FetchRequest& request, FetchEven
   QMetaObject::invokeMethod(
       transfer, [transfer] { transfer->Begin(); }, Qt::QueuedConnection);
   return std::make_unique<QtFetch>(transfer);
+}
+
+std::optional<std::string> QtDownloads::CheckedCopy(const std::string& path, const std::string& sha256) {
+  return PrivateCopy(path, sha256);
 }
 
 }  // namespace orby

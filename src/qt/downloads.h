@@ -19,6 +19,7 @@ class QtDownloads : public Downloads {
   ~QtDownloads() override;
 
   std::unique_ptr<Fetch> Start(const FetchRequest& request, FetchEvents events) override;
+  std::optional<std::string> CheckedCopy(const std::string& path, const std::string& sha256) override;
 
  private:
   std::chrono::milliseconds patience_;

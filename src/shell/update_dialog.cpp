@@ -78,7 +78,8 @@ void UpdateDialog::OnClose() {
 }
 
 void UpdateDialog::SetBusy(bool busy) {
-  for (Button* button : {&cmdCheck, &cmdDownUpdate, &cmdInstall}) button->SetEnabled(!busy);
+  for (Button* button : {&cmdCheck, &cmdDownUpdate}) button->SetEnabled(!busy);
+  cmdInstall.SetEnabled(!busy && !checkFailed_);
 }
 
 void UpdateDialog::TellNoConnection(FetchEnd end) {
@@ -91,6 +92,7 @@ void UpdateDialog::TellNoConnection(FetchEnd end) {
 
 void UpdateDialog::AskServer(const Step& next) {
   if (!HasUpdateServer(program_)) {
+    ForgetAnswer();
     ShowMessage(program_, std::string(NoConnection));
     return;
   }
@@ -105,10 +107,20 @@ void UpdateDialog::AskServer(const Step& next) {
   if (fetch_) return;
   lblStatus.SetCaption({});
   SetBusy(false);
+  ForgetAnswer();
   TellNoConnection(FetchEnd::NoService);
 }
 
+void UpdateDialog::ForgetAnswer() {
+  offered_.reset();
+  downloadedSum_.clear();
+  checkFailed_ = true;
+  lblLastVer.SetCaption({});
+  cmdInstall.SetEnabled(false);
+}
+
 bool UpdateDialog::Accept(const VersionAnswer& answer) {
+  if (!answer.offered) ForgetAnswer();
   if (answer.end == FetchEnd::NoService || answer.end == FetchEnd::NoConnection) {
     TellNoConnection(answer.end);
     return false;
@@ -117,8 +129,10 @@ bool UpdateDialog::Accept(const VersionAnswer& answer) {
     ShowMessage(program_, "Invalid information for new version. Check with developer.");
     return false;
   }
-  if (offered_ != answer.offered) verifiedFile_.clear();
+  if (offered_ != answer.offered) downloadedSum_.clear();
   offered_ = answer.offered;
+  checkFailed_ = false;
+  cmdInstall.SetEnabled(true);
   lblLastVer.SetCaption("Server Version: " + offered_->version + " / Current Version: " + VersionText(true));
   return true;
 }
@@ -143,7 +157,7 @@ void UpdateDialog::Download() {
 }
 
 void UpdateDialog::FetchSetup() {
-  verifiedFile_.clear();
+  downloadedSum_.clear();
   downloadFailed_ = true;  // until it has come to its end
   ProgressBar1.SetValue(0);
   lblbytes.SetCaption({});
@@ -187,7 +201,7 @@ void UpdateDialog::SetupArrived(const std::string& path, const FetchOutcome& out
     return EndDownload(std::string("Download failed: the file that arrived is not the one that was published") +
                        (isDeleted ? ", and was deleted: " : ". Delete it: ") + path);
   }
-  verifiedFile_ = path;
+  downloadedSum_ = outcome.sha256;
   downloadFailed_ = false;
   ProgressBar1.SetValue(ProgressBar::Whole);
   lblStatus.SetCaption("Download completed. Program at: " + path);
@@ -198,23 +212,35 @@ void UpdateDialog::EndDownload(const std::string& status) {
   ShowMessage(program_, status, box_style::Exclamation);
 }
 
+std::string UpdateDialog::FileToStart(const std::string& setupFile) {
+  const auto refuse = [&](std::string_view reason) {
+    ShowMessage(program_, "Update file: " + setupFile + std::string(reason));
+    return std::string();
+  };
+  if (!FileExists(program_, setupFile)) return refuse(" not found");
+  const std::string sum = offered_ && !offered_->sha256.empty() ? offered_->sha256 : downloadedSum_;
+  if (sum.empty()) {
+    if (offered_ && !downloadFailed_) return setupFile;
+    return refuse(" has not been checked. Please download it again.");
+  }
+  program_.platform.windows.SetWaitCursor(true);
+  std::optional<std::string> copy;
+  const bool isCopied = Succeeds([&] { copy = program_.platform.downloads.CheckedCopy(setupFile, sum); });
+  program_.platform.windows.SetWaitCursor(false);
+  if (!isCopied) return refuse(" could not be copied for its check.");
+  return copy ? *copy : refuse(" is not the one that was published. Please download it again.");
+}
+
 void UpdateDialog::Install() {
-  const std::string file = SetupFilePath(program_, offered_ ? offered_->version : std::string());
-  // Where the server tells no sum, a file of another day counts too, unless it was to be replaced and could not be.
-  const bool isTrusted = file == verifiedFile_ || (offered_ && offered_->sha256.empty() && !downloadFailed_);
-  if (!FileExists(program_, file)) {
-    ShowMessage(program_, "Update file: " + file + " not found");
-  } else if (!isTrusted) {
-    ShowMessage(program_, "Update file: " + file + " has not been checked. Please download it again.");
+  const std::string file = FileToStart(SetupFilePath(program_, offered_ ? offered_->version : std::string()));
+  if (file.empty()) return;
+  ShowMessage(program_,
+              "ORBY will now close to install the new update. You may be asked to grant permission to Windows to "
+              "allow installation of the new version. ");
+  if (program_.platform.documents.Open(file)) {
+    program_.EndAtOnce();
   } else {
-    ShowMessage(program_,
-                "ORBY will now close to install the new update. You may be asked to grant permission to Windows to "
-                "allow installation of the new version. ");
-    if (program_.platform.documents.Open(file)) {
-      program_.EndAtOnce();
-    } else {
-      ShowMessage(program_, std::string(OperationFailed));
-    }
+    ShowMessage(program_, std::string(OperationFailed));
   }
 }
 

@@ -1,7 +1,8 @@
 // The dialog of program updates: asks the server for its version, fetches the setup program of that version, starts it.
 //
-// Where the server tells the SHA-256 of a setup program, it is started only when it has been downloaded in this run and
-// is the very file that was published. One whose download failed is never started.
+// What is started has the SHA-256 that the server tells, or else that of what was downloaded in this run: the check and
+// the start are of a copy that nobody can exchange in between. Without either sum a file of another day is started as
+// it is, unless it was to be replaced and could not be.
 #pragma once
 
 #include <functional>
@@ -54,6 +55,8 @@ class UpdateDialog : public UpdateControls {
   // Asks the server for its version; `next` runs when it has given one.
   void AskServer(const Step& next);
   bool Accept(const VersionAnswer& answer);
+  // Nothing that the server has said before counts any more.
+  void ForgetAnswer();
   void Compare();
 
   void Download();
@@ -63,6 +66,8 @@ class UpdateDialog : public UpdateControls {
   void EndDownload(const std::string& status);
 
   void Install();
+  // The file that may be started in the place of the setup file; empty when there is none, which has been told.
+  std::string FileToStart(const std::string& setupFile);
   void OpenWebPage();
 
   void TellNoConnection(FetchEnd end);
@@ -71,7 +76,8 @@ class UpdateDialog : public UpdateControls {
 
   Program& program_;
   std::optional<OfferedVersion> offered_;
-  std::string verifiedFile_;  // may be started; empty: none
+  bool checkFailed_ = false;   // the last answer, so that there is nothing to install
+  std::string downloadedSum_;  // of the setup file that was downloaded in this run; empty: none
   bool downloadFailed_ = false;
   std::unique_ptr<Fetch> fetch_;
 };

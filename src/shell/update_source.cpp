@@ -19,11 +19,20 @@ constexpr std::string_view WayToDownloads = "../../Downloads/";  // from the gro
 constexpr std::size_t MostVersionLength = 64;
 constexpr std::size_t SumLength = 64;
 
+constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
+
+// What editors and spreadsheets like to put around a text.
+std::string_view WithoutWrapping(std::string_view text) {
+  constexpr std::string_view Wrapping = " \t\"'";
+  text.remove_prefix(std::min(text.find_first_not_of(Wrapping), text.size()));
+  return text.substr(0, text.find_last_not_of(Wrapping) + 1);
+}
+
 // The next field of a line, as far as a comma.
 std::string_view TakeField(std::string_view& line) {
   const std::string_view field = line.substr(0, line.find(','));
   line.remove_prefix(std::min(field.size() + 1, line.size()));
-  return field;
+  return WithoutWrapping(field);
 }
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
@@ -50,16 +59,20 @@ std::string SetupFileName(std::string_view version) {
 }  // namespace
 
 std::optional<OfferedVersion> ReadVersionFile(std::string_view bytes) {
+  if (bytes.starts_with(Utf8Mark)) bytes.remove_prefix(Utf8Mark.size());
   std::string_view line = TakeLine(bytes);
   const std::string_view version = TakeField(line);
-  std::string_view sum = Trim(TakeField(line));
-  if (!IsVersion(version) || (!sum.empty() && !IsSum(sum))) return std::nullopt;
-  if (sum.empty()) {
-    // On the next line it is taken for the sum only when it can be one, for remarks may stand there.
+  const std::string_view second = TakeField(line);
+  if (!IsVersion(version)) return std::nullopt;
+  // Without one it may be the first of the next line, where remarks may stand too.
+  std::string_view sum = second;
+  if (!IsSum(sum)) {
     line = TakeLine(bytes);
-    if (const std::string_view next = Trim(TakeField(line)); IsSum(next)) sum = next;
+    sum = TakeField(line);
   }
-  return OfferedVersion{std::string(version), std::string(sum)};
+  OfferedVersion offered{std::string(version), {}, !second.empty() && !IsSum(second)};
+  if (IsSum(sum)) offered.sha256 = sum;
+  return offered;
 }
 
 bool IsNewer(const OfferedVersion& offered) { return offered.version > VersionText(true); }

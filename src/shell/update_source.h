@@ -15,14 +15,15 @@ namespace orby {
 
 // A version that the server offers.
 struct OfferedVersion {
-  std::string version;  // a part of a file name
-  std::string sha256;   // of its setup file, 64 hexadecimal digits in any case; empty when the server tells none
+  std::string version;         // a part of a file name
+  std::string sha256;          // of its setup file, 64 hexadecimal digits in any case; empty when the server tells none
+  bool hasOtherField = false;  // the second field is no sum and counts for nothing
 
   bool operator==(const OfferedVersion&) const = default;
 };
 
-// What the bytes of a version file say. Nothing when there is no version, when it could not stand in a file name, or
-// when the sum is none.
+// What the bytes of a version file say. Blanks and quotation marks around a field do not count. Nothing when there is
+// no version, or when it could not stand in a file name.
 std::optional<OfferedVersion> ReadVersionFile(std::string_view bytes);
 
 // Whether the offered version is newer than this program: compared as texts, so "1.10.00" is older than "1.9.00".

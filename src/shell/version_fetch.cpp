@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/attempt.h"
+#include "core/messages.h"
 
 namespace orby {
 namespace {
@@ -14,6 +15,9 @@ VersionAnswer AnswerOf(Program& program, FetchEnd end) {
   VersionAnswer answer{end, std::nullopt};
   if (end != FetchEnd::Done) return answer;  // what lies there then is of another day
   Succeeds([&] { answer.offered = ReadVersionFile(program.platform.files.ReadFile(VersionFilePath(program))); });
+  if (answer.offered && answer.offered->hasOtherField) {
+    AddHistoryLine(program, "Second field of the version file is no checksum and is ignored");
+  }
   return answer;
 }
 

@@ -5,6 +5,7 @@
 #include <QProgressBar>
 #include <QTemporaryDir>
 
+#include "gui/cache_in_folder.h"
 #include "gui/gui_bench.h"
 #include "gui/web_server.h"
 #include "platform/disk_files.h"
@@ -20,6 +21,7 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::MatchesRegex;
 
 constexpr int Patience = 20'000;  // milliseconds until what does not happen counts as a failure
 
@@ -31,6 +33,7 @@ struct UpdateDoors {
   DiskFiles files{"/program"};
   QtDownloads downloads;
   QTemporaryDir home;
+  CacheInFolder cache{home.filePath("cache")};
 };
 
 class UpdateView : protected UpdateDoors, public GuiTest {
@@ -165,8 +168,27 @@ TEST_F(UpdateView, DownloadsANewerVersionAndInstallsIt) {
   });
 
   EXPECT_EQ(files.ReadFile(NewSetup()), SetupBytes.toStdString());
-  EXPECT_THAT(platform.documents.opened, ElementsAre(NewSetup()));
+  ASSERT_EQ(platform.documents.opened.size(), 1U);
+  const std::string started = platform.documents.opened[0];
+  EXPECT_THAT(started, MatchesRegex(InHome("cache") + "/.*/setup-[^/]*/ORBY1\\.0\\.01\\.exe"));
+  EXPECT_EQ(files.ReadFile(started), SetupBytes.toStdString());
   EXPECT_EQ(ended, 1);
+}
+
+TEST_F(UpdateView, NeverStartsAFileThatWasExchangedSinceItsDownload) {
+  OfferVersion("1.0.01," + SumOf(SetupBytes));
+
+  UseDialog([this](QDialog& window) {
+    PressLetterOf(window, "cmdDownUpdate");
+    WaitForText(window, "lblStatus", "Download completed. Program at: " + NewSetup());
+    files.ReplaceFile(NewSetup(), std::string(10'000, 'x'));
+    PressLetterOf(window, "cmdInstall");
+  });
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Update file: " + NewSetup() +
+                                                  " is not the one that was published. Please download it again."));
+  EXPECT_THAT(platform.documents.opened, IsEmpty());
+  EXPECT_EQ(ended, 0);
 }
 
 TEST_F(UpdateView, DeletesAndNeverStartsAFileThatIsNotThePublishedOne) {

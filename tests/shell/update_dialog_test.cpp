@@ -10,6 +10,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 const std::string NewSetup = DownloadsFolder + "ORBY1.0.01.exe";
+const std::string CopyOfNewSetup = "/private/ORBY1.0.01.exe";
 const std::string NewVersion = "1.0.01\r\n";
 const std::string NewVersionWithSum = "1.0.01," + SumOfSetup + "\r\n";
 const std::string OtherSum = "60303ae22b998861bce3b28f33eec1be758a213c86c93c076dbe9f558c11c752";
@@ -172,7 +173,7 @@ TEST_F(AnUpdateDialog, DownloadsAtOnceOnYesAndNotOnCancel) {
 }
 
 TEST_F(AnUpdateDialog, SaysThatTheInformationIsInvalid) {
-  for (const std::string bytes : {"", "\r\n", "../../.bashrc", "1.0.01,abc"}) {
+  for (const std::string bytes : {"", "\r\n", "../../.bashrc", "\"\",1.0.01"}) {
     platform.boxes.shown.clear();
 
     Check(bytes);
@@ -363,7 +364,7 @@ TEST_F(AnUpdateDialog, AcceptsTheSumInAnyCase) {
 
 // ---- installing ----------------------------------------------------------------------------------------------------
 
-TEST_F(AnUpdateDialog, StartsTheSetupFileAndEndsTheProgram) {
+TEST_F(AnUpdateDialog, StartsACheckedCopyOfTheSetupFileAndEndsTheProgram) {
   DownloadNewVersion(NewVersionWithSum, SumOfSetup);
 
   dialog.cmdInstall.Press();
@@ -371,17 +372,44 @@ TEST_F(AnUpdateDialog, StartsTheSetupFileAndEndsTheProgram) {
   EXPECT_THAT(platform.boxes.Texts(),
               ElementsAre("ORBY will now close to install the new update. You may be asked to grant permission to "
                           "Windows to allow installation of the new version. "));
-  EXPECT_THAT(platform.documents.opened, ElementsAre(NewSetup));
+  EXPECT_THAT(platform.documents.opened, ElementsAre(CopyOfNewSetup));
   EXPECT_EQ(ended, 1);
+  EXPECT_FALSE(platform.windows.waitCursor);
 }
 
-TEST_F(AnUpdateDialog, StartsAWholeSetupFileWhenTheServerTellsNoSum) {
+TEST_F(AnUpdateDialog, StartsWhatWasDownloadedWhenTheServerTellsNoSum) {
   DownloadNewVersion(NewVersion, OtherSum);
 
   dialog.cmdInstall.Press();
 
-  EXPECT_THAT(platform.documents.opened, ElementsAre(NewSetup));
+  EXPECT_THAT(platform.documents.opened, ElementsAre(CopyOfNewSetup));
   EXPECT_EQ(ended, 1);
+}
+
+TEST_F(AnUpdateDialog, NeverStartsAFileThatWasExchangedSinceItsDownload) {
+  for (const std::string& versionFile : {NewVersion, NewVersionWithSum}) {
+    DownloadNewVersion(versionFile, SumOfSetup);
+    platform.downloads.sums[NewSetup] = OtherSum;
+
+    dialog.cmdInstall.Press();
+
+    EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Update file: /home/user/Downloads/ORBY1.0.01.exe is not the one "
+                                                    "that was published. Please download it again."));
+    EXPECT_THAT(platform.documents.opened, IsEmpty());
+    EXPECT_EQ(ended, 0);
+  }
+}
+
+TEST_F(AnUpdateDialog, StartsNothingThatCannotBeCopiedForItsCheck) {
+  DownloadNewVersion(NewVersionWithSum, SumOfSetup);
+  platform.downloads.copyError = error_number::DiskFull;
+
+  dialog.cmdInstall.Press();
+
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("Update file: /home/user/Downloads/ORBY1.0.01.exe could not be copied for its check."));
+  EXPECT_THAT(platform.documents.opened, IsEmpty());
+  EXPECT_FALSE(platform.windows.waitCursor);
 }
 
 TEST_F(AnUpdateDialog, GoesOnWhenTheSetupFileDoesNotStart) {
@@ -444,17 +472,23 @@ TEST_F(AnUpdateDialog, StartsAFileOfAnotherDayWhenTheServerTellsNoSum) {
   EXPECT_THAT(platform.documents.opened, ElementsAre(NewSetup));
 }
 
-TEST_F(AnUpdateDialog, NeverStartsAFileOfAnotherDayWhenTheServerTellsASum) {
+TEST_F(AnUpdateDialog, StartsAFileOfAnotherDayOnlyWhenItIsTheOneOfTheSum) {
   platform.files.files[NewSetup] = "of last week";
+  platform.downloads.sums[NewSetup] = OtherSum;
   platform.boxes.answers = {box_result::No};
   Check(NewVersionWithSum);
   platform.boxes.shown.clear();
 
   dialog.cmdInstall.Press();
 
-  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Update file: /home/user/Downloads/ORBY1.0.01.exe has not been "
-                                                  "checked. Please download it again."));
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Update file: /home/user/Downloads/ORBY1.0.01.exe is not the one "
+                                                  "that was published. Please download it again."));
   EXPECT_THAT(platform.documents.opened, IsEmpty());
+
+  platform.downloads.sums[NewSetup] = SumOfSetup;
+  dialog.cmdInstall.Press();
+
+  EXPECT_THAT(platform.documents.opened, ElementsAre(CopyOfNewSetup));
 }
 
 TEST_F(AnUpdateDialog, NeverStartsAFileWhoseNextDownloadBroke) {
@@ -484,7 +518,72 @@ TEST_F(AnUpdateDialog, StillStartsTheFileAfterAnotherLookAtTheSameVersion) {
 
   dialog.cmdInstall.Press();
 
-  EXPECT_THAT(platform.documents.opened, ElementsAre(NewSetup));
+  EXPECT_THAT(platform.documents.opened, ElementsAre(CopyOfNewSetup));
+}
+
+// ---- a check that failed -------------------------------------------------------------------------------------------
+
+struct AFailedCheck : AnUpdateDialog {
+  AFailedCheck() { DownloadNewVersion(NewVersionWithSum, SumOfSetup); }
+
+  void ExpectNothingToInstall() {
+    EXPECT_FALSE(dialog.cmdInstall.Enabled());
+    EXPECT_TRUE(dialog.cmdCheck.Enabled());
+    EXPECT_TRUE(dialog.cmdDownUpdate.Enabled());
+    EXPECT_EQ(dialog.lblLastVer.Caption(), "");
+  }
+};
+
+TEST_F(AFailedCheck, LeavesNothingToInstallAfterAnAnswerThatIsNone) {
+  Check("<html>");
+
+  ExpectNothingToInstall();
+}
+
+TEST_F(AFailedCheck, LeavesNothingToInstallWhenNobodyAnswers) {
+  for (const FetchEnd end : {FetchEnd::NoConnection, FetchEnd::NoService, FetchEnd::Failed}) {
+    dialog.cmdCheck.Press();
+    Fail(end);
+
+    ExpectNothingToInstall();
+  }
+}
+
+TEST_F(AFailedCheck, LeavesNothingToInstallWithoutANetworkOrAServer) {
+  platform.downloads.works = false;
+  dialog.cmdCheck.Press();
+  ExpectNothingToInstall();
+
+  program.UpdateServer.clear();
+  dialog.cmdCheck.Press();
+  ExpectNothingToInstall();
+}
+
+TEST_F(AFailedCheck, MakesTheNextDownloadAskForTheVersionAgain) {
+  Check("<html>");
+
+  dialog.cmdDownUpdate.Press();
+
+  EXPECT_EQ(LastAsked().request.path, VersionFileAt);
+}
+
+TEST_F(AFailedCheck, IsMadeGoodByTheNextAnswer) {
+  Check("<html>");
+  platform.boxes.answers = {box_result::No};
+  Check(NewVersionWithSum);
+
+  EXPECT_TRUE(dialog.cmdInstall.Enabled());
+  dialog.cmdInstall.Press();
+  EXPECT_THAT(platform.documents.opened, ElementsAre(CopyOfNewSetup));
+}
+
+TEST_F(AnUpdateDialog, TellsTheHistoryOfASecondFieldThatIsNoSum) {
+  platform.boxes.answers = {box_result::No};
+
+  Check("1.0.01,05-Jul-2024\r\n");
+
+  EXPECT_EQ(platform.boxes.shown[0].text, "A new version is available. Download?");
+  EXPECT_THAT(program.history.Text, HasSubstr("1. Second field of the version file is no checksum and is ignored\r\n"));
 }
 
 // ---- the web page --------------------------------------------------------------------------------------------------

@@ -30,6 +30,7 @@ struct UpdateTest : testing::Test {
   // The fetch that was begun last brings these bytes.
   void Bring(const std::string& bytes, const std::string& sha256 = {}) {
     platform.files.files[LastAsked().request.path] = bytes;
+    platform.downloads.sums[LastAsked().request.path] = sha256;
     LastAsked().events.Finished({FetchEnd::Done, sha256});
   }
   void Fail(FetchEnd end) { LastAsked().events.Finished({end, {}}); }

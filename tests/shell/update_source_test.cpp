@@ -48,8 +48,8 @@ TEST(VersionFile, IsNoneWhenItIsEmpty) {
 }
 
 TEST(VersionFile, IsNoneWhenItsVersionCouldLeadElsewhere) {
-  for (const char* bytes : {"../1.0.01", "1/2", "1\\2", "1..2", "..", "1.0.01 ", "1.0.01\x1B", "1.0\t1", "~", "1:2",
-                            "1%2F2", "1?x", "1#x", "<html>", "\"1.0.01\"", "1.0.0\xC3\xA4"}) {
+  for (const char* bytes : {"../1.0.01", "1/2", "1\\2", "1..2", "..", "1.0.01\x1B", "1.0\t1", "1.0 1", "1\"0", "~",
+                            "1:2", "1%2F2", "1?x", "1#x", "<html>", "\"../1\"", "1.0.0\xC3\xA4", "1\xEF\xBB\xBF"}) {
     EXPECT_EQ(VersionIn(bytes), "nothing") << bytes;
   }
   EXPECT_EQ(VersionIn(std::string_view("1.0\0.01", 7)), "nothing");
@@ -57,23 +57,41 @@ TEST(VersionFile, IsNoneWhenItsVersionCouldLeadElsewhere) {
   EXPECT_EQ(VersionIn(std::string(65, '1')), "nothing");
 }
 
-TEST(VersionFile, IsNoneWhenItsSecondFieldIsNoSum) {
-  EXPECT_EQ(VersionIn("1.0.01,9f86d0"), "nothing");
-  EXPECT_EQ(VersionIn("1.0.01," + SumOfSetup + "0"), "nothing");
-  EXPECT_EQ(VersionIn("1.0.01,g" + SumOfSetup.substr(1)), "nothing");
+TEST(VersionFile, MayHaveBlanksQuotesAndAMarkOfUtf8AroundTheVersion) {
+  for (const char* bytes : {"1.0.01 ", " 1.0.01\r\n", "\t1.0.01\t,", "\"1.0.01\"", "'1.0.01'\r\n", " \" 1.0.01 \" ",
+                            "\xEF\xBB\xBF"
+                            "1.0.01\r\n",
+                            "\xEF\xBB\xBF \"1.0.01\"\r\n"}) {
+    EXPECT_EQ(VersionIn(bytes), "1.0.01") << bytes;
+  }
+  EXPECT_EQ(SumIn("\xEF\xBB\xBF\"1.0.01\",\"" + SumOfSetup + "\"\r\n"), SumOfSetup);
+}
+
+TEST(VersionFile, MayHaveASecondFieldThatIsNoSum) {
+  for (const std::string& field : {std::string("9f86d0"), SumOfSetup + "0", "g" + SumOfSetup.substr(1)}) {
+    const auto offered = ReadVersionFile("1.0.01," + field + "\r\n");
+
+    ASSERT_TRUE(offered);
+    EXPECT_EQ(offered->version, "1.0.01");
+    EXPECT_EQ(offered->sha256, "");
+    EXPECT_TRUE(offered->hasOtherField);
+  }
+  EXPECT_EQ(SumIn("1.0.01,05-Jul-2024\r\n" + SumOfSetup), SumOfSetup);
+  EXPECT_FALSE(ReadVersionFile("1.0.01," + SumOfSetup)->hasOtherField);
+  EXPECT_FALSE(ReadVersionFile("1.0.01,\r\nRemarks")->hasOtherField);
 }
 
 TEST(OfferedVersions, AreComparedAsTexts) {
-  EXPECT_TRUE(IsNewer({"1.0.01", {}}));
-  EXPECT_TRUE(IsNewer({"1.0.1", {}}));
-  EXPECT_TRUE(IsNewer({"9", {}}));
-  EXPECT_TRUE(IsNewer({"1.0.00b", {}}));
-  EXPECT_TRUE(IsNewer({"v1", {}}));
-  EXPECT_FALSE(IsNewer({"1.0.00", {}}));
-  EXPECT_FALSE(IsNewer({"1.0.0", {}}));
-  EXPECT_FALSE(IsNewer({"0.9.99", {}}));
-  EXPECT_FALSE(IsNewer({"1", {}}));
-  EXPECT_FALSE(IsNewer({"1.0.+5", {}}));
+  EXPECT_TRUE(IsNewer({"1.0.01", {}, false}));
+  EXPECT_TRUE(IsNewer({"1.0.1", {}, false}));
+  EXPECT_TRUE(IsNewer({"9", {}, false}));
+  EXPECT_TRUE(IsNewer({"1.0.00b", {}, false}));
+  EXPECT_TRUE(IsNewer({"v1", {}, false}));
+  EXPECT_FALSE(IsNewer({"1.0.00", {}, false}));
+  EXPECT_FALSE(IsNewer({"1.0.0", {}, false}));
+  EXPECT_FALSE(IsNewer({"0.9.99", {}, false}));
+  EXPECT_FALSE(IsNewer({"1", {}, false}));
+  EXPECT_FALSE(IsNewer({"1.0.+5", {}, false}));
 }
 
 struct UpdatePlaces : UpdateTest {};

@@ -160,9 +160,33 @@ class Update(DesktopTest):
         run.answer(CLOSING, "OK")
 
         self.assertEqual(run.wait_end(), 0)
-        until(lambda: self.opened_files() == [self.setup_file], "the start of the setup file")
-        with open(self.setup_file, "rb") as file:
-            self.assertEqual(file.read(), SETUP)
+        until(lambda: len(self.opened_files()) == 1, "the start of the setup file")
+        started = self.opened_files()[0]
+        self.assertEqual(os.path.basename(started), "ORBY1.0.01.exe")
+        self.assertNotEqual(started, self.setup_file)
+        self.assertEqual(os.stat(os.path.dirname(started)).st_mode & 0o777, 0o700)
+        for path in (started, self.setup_file):
+            with open(path, "rb") as file:
+                self.assertEqual(file.read(), SETUP)
+
+    def test_is_never_started_when_it_was_exchanged(self):
+        self.offer(f"1.0.01,{SUM}\r\n", SETUP)
+        run = self.start_with_server()
+        run.answer(QUESTION, "No")
+        updates = self.open_updates(run)
+
+        updates.press("cmdDownUpdate")
+        done = "Download completed. Program at: " + self.setup_file
+        until(lambda: updates.label("lblStatus") == done, "the setup file")
+        with open(self.setup_file, "wb") as file:
+            file.write(b"something else")
+        updates.press("cmdInstall")
+        run.answer(f"Update file: {self.setup_file} is not the one that was published. Please download it again.", "OK")
+
+        updates.press("Command1")
+        updates.wait_gone()
+        self.end(run)
+        self.assertEqual(self.opened_files(), [])
 
     def test_is_never_started_when_it_is_not_the_published_one(self):
         self.offer(f"1.0.01,{SUM}\r\n", SETUP.replace(b"0", b"1"))

@@ -1,0 +1,23 @@
+// The user's folder for what programs can make anew, moved to another place for as long as this lives.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QtGlobal>
+
+namespace orby::test {
+
+class CacheInFolder {
+ public:
+  explicit CacheInFolder(const QString& folder) : before_(qgetenv(Name)) { qputenv(Name, folder.toUtf8()); }
+  ~CacheInFolder() { before_.isNull() ? qunsetenv(Name) : qputenv(Name, before_); }
+  CacheInFolder(const CacheInFolder&) = delete;
+  CacheInFolder& operator=(const CacheInFolder&) = delete;
+
+ private:
+  static constexpr const char* Name = "XDG_CACHE_HOME";
+
+  QByteArray before_;
+};
+
+}  // namespace orby::test
