@@ -47,12 +47,13 @@ void FontDialog::OnOpen() {
   ShowSample();
 }
 
-// A size outside the range counts as its nearer end: it may be one that is still being typed.
+// A size outside the range counts as its nearer end: it may be one that is still being typed. One beyond a Single
+// counts as the least.
 FontChoice FontDialog::Chosen() const {
   const int index = lstFont.ListIndex();
-  return {index < 0 ? present_.name : offered_[static_cast<std::size_t>(index)],
-          static_cast<int>(RoundHalfEven(std::clamp(txtSize.Value(), SmallestSize, LargestSize))), chkBold.Checked(),
-          chkItalic.Checked()};
+  const double size = std::clamp(FittingNumber(txtSize.Text()).value_or(SmallestSize), SmallestSize, LargestSize);
+  return {index < 0 ? present_.name : offered_[static_cast<std::size_t>(index)], static_cast<int>(RoundHalfEven(size)),
+          chkBold.Checked(), chkItalic.Checked()};
 }
 
 void FontDialog::ShowSample() { txtSample.SetFont(Chosen()); }

@@ -25,11 +25,13 @@ using Default = std::variant<Integer DesignDefaults::*, Single DesignDefaults::*
 struct DefaultField {
   OptionsControls::Numbers OptionsControls::*Boxes;
   std::array<Default, 2> Members;  // English, Metric; the same one twice where both pages edit it
-  std::string_view Fault = {};     // none: any value will do
+  std::string_view Fault = {};     // none: any value that can be stored will do
   double Highest = std::numeric_limits<double>::infinity();
+  OptionsControls::Labels OptionsControls::*Captions = nullptr;  // where there is no fault
 };
 
 constexpr double HighestRoofRating = 100;
+constexpr double MostBolts = std::numeric_limits<Integer>::max();
 
 using C = OptionsControls;
 using D = DesignDefaults;
@@ -46,7 +48,8 @@ constexpr std::array DefaultFields{
     DefaultField{&C::txtBoltGrade, {&D::DefaultENGBoltGrade, &D::DefaultMETBoltGrade}, "Invalid bolt grade"},
     DefaultField{&C::txtBoltsperRow,
                  {&D::DefaultNumberBoltsPerRow, &D::DefaultNumberBoltsPerRow},
-                 "Invalid number of roof bolts per row"},
+                 "Invalid number of roof bolts per row",
+                 MostBolts},
     DefaultField{&C::txtRowSpacing, {&D::DefaultENGrowSpacing, &D::DefaultMETrowSpacing}, fault_text::RowSpacing},
     DefaultField{&C::txtCMRR, {&D::DefaultCMRR, &D::DefaultCMRR}, "Invalid CMRR", HighestRoofRating},
     DefaultField{
@@ -55,8 +58,11 @@ constexpr std::array DefaultFields{
                  {&D::DefaultENGActualInterSpan, &D::DefaultMETActualInterSpan},
                  "Invalid actual intersection span"},
     DefaultField{&C::txtEntryWidth, {&D::DefaultENGEntryWidth, &D::DefaultMETEntryWidth}, "Invalid entry width"},
-    DefaultField{&C::txtUnitWeight, {&D::DefaultENGUnitWeight, &D::DefaultMETUnitWeight}},
-    DefaultField{&C::txtBoltUTS, {&D::DefaultENGBoltUTS, &D::DefaultMETBoltUTS}},
+    DefaultField{.Boxes = &C::txtUnitWeight,
+                 .Members = {&D::DefaultENGUnitWeight, &D::DefaultMETUnitWeight},
+                 .Captions = &C::lblUnitWeight},
+    DefaultField{
+        .Boxes = &C::txtBoltUTS, .Members = {&D::DefaultENGBoltUTS, &D::DefaultMETBoltUTS}, .Captions = &C::lblBoltUTS},
 };
 
 struct Warning {
@@ -86,8 +92,6 @@ constexpr std::array Preferences{
 constexpr std::array<std::size_t, 2> Pages{English, Metric};
 // Where both pages edit one value, the English page has the last word.
 constexpr std::array<std::size_t, 2> PagesAsStored{Metric, English};
-
-constexpr int FirstParameterTab = 1;
 
 // Of the grids of cables, so that diameters and capacities share their room.
 constexpr int CapacityColumnWidth = 2000;
@@ -150,14 +154,19 @@ void OptionsDialog::GoTo(std::size_t page, TextBox& field) {
   RequestFocus(field);
 }
 
+void OptionsDialog::TellFault(std::string fault) {
+  ShowMessage(program_, std::move(fault), box_style::Critical, program_.titles.RangeErrorTitle);
+}
+
 bool OptionsDialog::CheckFaults() {
   for (const std::size_t page : Pages) {
     for (const DefaultField& row : DefaultFields) {
-      if (row.Fault.empty()) continue;
       TextBox& field = (this->*row.Boxes)[page];
-      const double value = field.Value();
-      if (value > 0 && value <= row.Highest) continue;
-      ShowMessage(program_, std::string(row.Fault), box_style::Critical, program_.titles.RangeErrorTitle);
+      const auto value = FittingNumber(field.Text());
+      const bool isChecked = !row.Fault.empty();
+      if (value && (!isChecked || (*value > 0 && *value <= row.Highest))) continue;
+      TellFault(isChecked ? std::string(row.Fault)
+                          : fault_text::TooLarge((this->*row.Captions)[page].Caption(), field.Text()));
       GoTo(page, field);
       return false;
     }
@@ -181,7 +190,7 @@ bool OptionsDialog::CheckWarnings() {
   return true;
 }
 
-bool OptionsDialog::CheckOptions() { return CheckFaults() && CheckWarnings(); }
+bool OptionsDialog::CheckOptions() { return CheckFaults() && CheckCells() && CheckWarnings(); }
 
 // ---- leaving -------------------------------------------------------------------------------------------------------
 
@@ -204,7 +213,7 @@ DesignDefaults OptionsDialog::EditedDefaults() const {
   return defaults;
 }
 
-// All or nothing: a number that is too large for its place ends the run before anything has changed.
+// All or nothing.
 void OptionsDialog::Store() {
   const DesignDefaults defaults = EditedDefaults();
   Catalogs catalogs = program_.catalogs;

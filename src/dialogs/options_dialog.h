@@ -1,10 +1,12 @@
 // The options dialog: preferences of the program, the values that a new design starts with, and the catalogs.
 //
-// Leaving it by OK stores all of it and writes it to the configuration file. The resetting and the resizing of a list
-// count at once, whichever way the dialog is left.
+// A click into a list of bolts makes it the one that Add and Delete act on. Leaving it by OK stores all of it and
+// writes it to the configuration file. The resetting and the resizing of a list count at once, whichever way the dialog
+// is left.
 #pragma once
 
 #include <array>
+#include <string>
 #include <vector>
 
 #include "core/program.h"
@@ -31,6 +33,7 @@ class OptionsDialog : public OptionsControls {
   void TieCommands();
   void FillFields();
   void GoTo(std::size_t page, TextBox& field);
+  void TellFault(std::string fault);
   bool CheckFaults();
   bool CheckWarnings();
   void Accept();
@@ -41,12 +44,15 @@ class OptionsDialog : public OptionsControls {
   void TieBolts(std::size_t catalog);
   void FillBolts(std::size_t catalog);
   void ChooseFirstBolts(std::size_t catalog);
+  void ChooseBolts(std::size_t catalog, std::size_t list);
   void AddBolt(std::size_t catalog);
   void DeleteBolt(std::size_t catalog);
   void ResetBolts(std::size_t catalog);
   void StoreBolts(Catalogs& catalogs) const;
 
   // options_grids.cpp
+  bool CheckCells();
+  bool CheckCell(OverlayEditing& grid, int entry, int column, const Frame& frame);
   void TieCables(std::size_t units);
   void TieStands();
   void FillCables(std::size_t units);
@@ -55,6 +61,9 @@ class OptionsDialog : public OptionsControls {
   void ResizeStands();
   void StoreCables(Catalogs& catalogs) const;
   void StoreStands(Catalogs& catalogs) const;
+
+  static constexpr int FirstParameterTab = 1;
+  static constexpr int StandingSupportTab = 3;
 
   Program& program_;
   std::array<OverlayEditing, 2> cables_;

@@ -3,8 +3,11 @@
 #include <string>
 
 #include "base/arithmetic.h"
+#include "base/attempt.h"
 #include "base/number_text.h"
 #include "catalogs/catalogs.h"
+#include "core/dialog_helpers.h"
+#include "dialogs/fault_texts.h"
 #include "dialogs/options_dialog.h"
 
 namespace orby {
@@ -55,7 +58,40 @@ std::array<Single, 2> BothCapacities(Single capacity, Integer units) {
   return {capacity, ToSingle(std::floor(capacity * KilonewtonsPerTon))};
 }
 
+// Whether the number can be stored, in the other unit system too.
+bool Fits(const std::string& text) {
+  const auto number = FittingNumber(text);
+  return number && Succeeds([&] { static_cast<void>(BothCapacities(ToSingle(*number), English)); });
+}
+
 }  // namespace
+
+// ---- checks --------------------------------------------------------------------------------------------------------
+
+bool OptionsDialog::CheckCell(OverlayEditing& grid, int entry, int column, const Frame& frame) {
+  if (Fits(grid.Text(entry, column))) return true;
+  TellFault(fault_text::TooLarge(frame.Caption(), grid.Text(entry, column)));
+  grid.GoTo(entry, column);
+  return false;
+}
+
+bool OptionsDialog::CheckCells() {
+  for (std::size_t units = 0; units < cables_.size(); ++units) {
+    for (int entry = 0; entry < cables_[units].Entries(); ++entry) {
+      for (const int column : {CableDiameter, CableCapacity}) {
+        if (CheckCell(cables_[units], entry, column, fraCables[units])) continue;
+        SSTab1.SetTab(FirstParameterTab + static_cast<int>(units));
+        return false;
+      }
+    }
+  }
+  for (int entry = 0; entry < stands_.Entries(); ++entry) {
+    if (CheckCell(stands_, entry, SupportCapacity, fraStand)) continue;
+    SSTab1.SetTab(StandingSupportTab);
+    return false;
+  }
+  return true;
+}
 
 // ---- cables --------------------------------------------------------------------------------------------------------
 

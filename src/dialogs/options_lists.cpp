@@ -9,6 +9,7 @@
 #include "catalogs/catalogs.h"
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
+#include "dialogs/fault_texts.h"
 #include "dialogs/options_dialog.h"
 
 namespace orby {
@@ -52,6 +53,7 @@ std::string Objection(const BoltListControls& controls, std::size_t list) {
   if (std::ranges::find(items, text, &ComboItem::text) != items.end()) {
     return std::string(ListNames[list].First) + " entry exists. New value not added";
   }
+  if (!FittingNumber(text)) return fault_text::TooLarge(ListNames[list].First, text);
   return {};
 }
 
@@ -62,6 +64,15 @@ void OptionsDialog::TieBolts(std::size_t catalog) {
   controls.cmdAddBolt.Click = [this, catalog] { AddBolt(catalog); };
   controls.cmdDeleteBolt.Click = [this, catalog] { DeleteBolt(catalog); };
   controls.cmdSetDefaultBolt.Click = [this, catalog] { ResetBolts(catalog); };
+  for (std::size_t list = 0; list < bolt_list::Count; ++list) {
+    if (!controls.lists[list]) continue;
+    controls.lists[list]->Click = [this, catalog, list] { ChooseBolts(catalog, list); };
+  }
+}
+
+// So Delete acts on the entry that was selected last, not on one that another list still marks.
+void OptionsDialog::ChooseBolts(std::size_t catalog, std::size_t list) {
+  SetArrayIndex(program_, bolts[catalog].optBolt, static_cast<Integer>(list));
 }
 
 void OptionsDialog::FillBolts(std::size_t catalog) {

@@ -46,7 +46,11 @@ void OverlayEditing::AddEntry() {
   Flush();
   grid_.AddRow();
   NumberRows();
-  grid_.SelectCell(grid_.Rows() - 1, NumberColumns);
+  GoTo(Entries() - 1, 0);
+}
+
+void OverlayEditing::GoTo(int entry, int column) {
+  grid_.SelectCell(entry + HeaderRows, column + NumberColumns);
   Follow();
   box_.Owner().RequestFocus(box_);
 }

@@ -31,6 +31,9 @@ class OverlayEditing {
   // none to remove.
   int RemoveEntry();
 
+  // Selects an entry's cell and asks for the keyboard there; columns as in Text.
+  void GoTo(int entry, int column);
+
   // Brings the text of the box into its cell.
   void Flush();
 

@@ -220,6 +220,11 @@ class ListBinding : public QObject, public Binding {
           host_.Act([this, index = widget_.row(selected.constFirst())] { list_.ClickItem(index); });
         }
       });
+      // A click on the item that is selected already changes no selection.
+      connect(&widget_, &QListWidget::itemClicked, this, [this](const QListWidgetItem* item) {
+        const int index = widget_.row(item);
+        if (index == list_.ListIndex()) host_.Act([this, index] { list_.ClickItem(index); });
+      });
       return;
     }
     widget_.installEventFilter(this);

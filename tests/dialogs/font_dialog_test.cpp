@@ -69,6 +69,21 @@ TEST_F(AFontChoice, ShowsTheSampleNoSmallerOrLargerThanAFontMayBe) {
   EXPECT_EQ(dialog.txtSample.Font().size, 24);
 }
 
+TEST_F(AFontChoice, RefusesASizeThatNothingCanHold) {
+  dialog.Open();
+
+  for (const char* size : {"1E40", "1E999", "-", ""}) {
+    platform.boxes.shown.clear();
+    dialog.txtSize.SetText(size);
+    EXPECT_EQ(dialog.txtSample.Font().size, 7) << size;
+
+    dialog.cmdOK.Press();
+
+    EXPECT_EQ(platform.boxes.shown.size(), 1U) << size;
+    EXPECT_TRUE(dialog.IsOpen()) << size;
+  }
+}
+
 TEST_F(AFontChoice, IsTakenOverByOk) {
   dialog.Open();
   dialog.lstFont.ClickItem(2);

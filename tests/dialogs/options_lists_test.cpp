@@ -168,6 +168,32 @@ TEST_F(BoltLists, LoseTheSelectedEntryAndSelectTheOneBehindIt) {
   EXPECT_EQ(dialog.bolts[English].lists[Grade]->ListIndex(), 1);
 }
 
+TEST_F(BoltLists, AreChosenByAClickIntoThem) {
+  dialog.Open();
+  dialog.bolts[English].lists[Diameter]->ClickItem(0);
+  dialog.bolts[English].lists[UTS]->ClickItem(5);
+
+  EXPECT_TRUE(dialog.bolts[English].optBolt.Value(UTS));
+  dialog.bolts[English].cmdDeleteBolt.Press();
+  EXPECT_THAT(Entries(English, UTS), ElementsAre("70", "85", "90", "100", "116"));
+  EXPECT_EQ(Entries(English, Diameter).size(), 5U);
+
+  dialog.bolts[English].lists[Diameter]->ClickItem(0);
+  dialog.bolts[English].cmdDeleteBolt.Press();
+  EXPECT_THAT(Entries(English, Diameter), ElementsAre("0.75", "0.875", "0.688", "0.804"));
+  EXPECT_EQ(Entries(English, UTS).size(), 5U);
+}
+
+TEST_F(BoltLists, ChooseNothingInTheOtherCatalogs) {
+  dialog.Open();
+
+  dialog.bolts[Australian].lists[Diameter]->ClickItem(1);
+
+  EXPECT_TRUE(dialog.bolts[Australian].optBolt.Value(Diameter));
+  EXPECT_TRUE(dialog.bolts[English].optBolt.Value(Grade));
+  EXPECT_TRUE(dialog.bolts[Metric].optBolt.Value(Grade));
+}
+
 TEST_F(BoltLists, SelectTheLastEntryOnceTheOneBehindItIsGone) {
   dialog.Open();
   dialog.bolts[English].lists[Diameter]->ClickItem(4);

@@ -134,6 +134,24 @@ TEST_F(OptionsView, DeletesWhatTheMouseChoosesInAList) {
   });
 }
 
+TEST_F(OptionsView, DeletesFromTheListThatWasClickedLast) {
+  UsePage(MetricPage, [](QDialog& window) {
+    const auto click = [&](const char* name, int row) {
+      auto& list = Find<QListWidget>(window, name);
+      QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, list.visualItemRect(list.item(row)).center());
+      Settle();
+    };
+    click("lstBoltUTS_1", 2);
+    click("lstBoltDiam_1", 1);
+    click("lstBoltUTS_1", 2);  // selected since the first click
+
+    Click(window, "cmdDeleteBolt_1");
+
+    EXPECT_EQ(Find<QListWidget>(window, "lstBoltUTS_1").count(), 5);
+    EXPECT_EQ(Find<QListWidget>(window, "lstBoltDiam_1").count(), 5);
+  });
+}
+
 TEST_F(OptionsView, ShowsTheItemThatIsChosenWhateverIsClicked) {
   UsePage(MetricPage, [](QDialog& window) {
     auto& list = Find<QListWidget>(window, "lstBoltUTS_1");

@@ -1,0 +1,130 @@
+// Texts that are no numbers, or numbers that nothing can hold, in the fields of the options.
+#include "dialogs/options_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+const std::vector<std::string> OddTexts{"", "-", "\xC3\xA9", "1E40", "1E400", "1E999", "-1E999"};
+
+struct OptionsNumbers : OptionsFixture {
+  struct Checked {
+    OptionsControls::Numbers OptionsControls::*Boxes;
+    const char* Message;
+  };
+};
+
+TEST_F(OptionsNumbers, BringTheMessageOfTheirFieldWhateverIsTyped) {
+  using C = OptionsControls;
+  const std::vector<Checked> fields{{&C::txtStabilityFactor, "Invalid stability factor"},
+                                    {&C::txtActualBoltLength, "Invalid actual bolt length"},
+                                    {&C::txtBoltDiameter, "Invalid bolt diameter"},
+                                    {&C::txtBoltGrade, "Invalid bolt grade"},
+                                    {&C::txtBoltsperRow, "Invalid number of roof bolts per row"},
+                                    {&C::txtRowSpacing, "Invalid roof bolt row spacing"},
+                                    {&C::txtCMRR, "Invalid CMRR"},
+                                    {&C::txtDepthofCover, "Invalid depth of cover"},
+                                    {&C::txtActualSpan, "Invalid actual intersection span"},
+                                    {&C::txtEntryWidth, "Invalid entry width"}};
+  dialog.Open();
+
+  for (const auto& [boxes, message] : fields) {
+    for (const std::size_t page : {std::size_t{English}, std::size_t{Metric}}) {
+      TextBox& field = (dialog.*boxes)[page];
+      const std::string before = field.Text();
+      for (const std::string& text : OddTexts) {
+        platform.boxes.shown.clear();
+        field.SetText(text);
+
+        Accept();
+
+        EXPECT_THAT(platform.boxes.Texts(), ElementsAre(message)) << text;
+        EXPECT_EQ(dialog.FocusRequest(), &field) << message;
+      }
+      field.SetText(before);
+    }
+  }
+  EXPECT_TRUE(dialog.IsOpen());
+  EXPECT_THAT(platform.files.files, IsEmpty());
+}
+
+TEST_F(OptionsNumbers, AreNamedWhereOnlyTheirSizeIsWrong) {
+  dialog.Open();
+  dialog.txtUnitWeight[English].SetText("1E40");
+  Accept();
+  dialog.txtUnitWeight[English].SetText("160");
+  dialog.txtBoltUTS[Metric].SetText(" 1E999");
+  Accept();
+
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("Unit Weight: Value '1E40' is too large", "Bolt UTS: Value '1E999' is too large"));
+  EXPECT_EQ(dialog.FocusRequest(), &dialog.txtBoltUTS[Metric]);
+  EXPECT_EQ(dialog.SSTab1.Tab(), 2);
+  EXPECT_TRUE(dialog.IsOpen());
+}
+
+TEST_F(OptionsNumbers, JoinNoListOfBoltsWhenTheyAreTooLarge) {
+  dialog.Open();
+
+  for (const char* text : {"1E40", "1E999"}) {
+    dialog.bolts[English].txtItem.SetText(text);
+    dialog.bolts[English].cmdAddBolt.Press();
+  }
+
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("Grade: Value '1E40' is too large", "Grade: Value '1E999' is too large"));
+  EXPECT_THAT(Entries(English, bolt_list::Grade), SizeIs(6));
+}
+
+TEST_F(OptionsNumbers, StayInTheCellOfACableThatCannotBeStored) {
+  dialog.Open();
+  Edit(dialog.VSFlexGridMet, 2, 2, "1E40");
+
+  Accept();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Cable bolt capacity (kN) and diameter (mm) specifications: Value "
+                                                  "'1E40' is too large"));
+  EXPECT_TRUE(dialog.IsOpen());
+  EXPECT_EQ(dialog.SSTab1.Tab(), 2);
+  EXPECT_EQ(dialog.VSFlexGridMet.Row(), 2);
+  EXPECT_EQ(dialog.VSFlexGridMet.Column(), 2);
+  EXPECT_EQ(dialog.FocusRequest(), &dialog.txtCableMet);
+  EXPECT_EQ(dialog.txtCableMet.Text(), "1E40");
+
+  dialog.txtCableMet.SetText("600");
+  Accept();
+
+  EXPECT_FALSE(dialog.IsOpen());
+  EXPECT_EQ(program.catalogs.DefaultCableCapArrayMET[1], 600);
+}
+
+TEST_F(OptionsNumbers, StayInTheCellOfASupportWhoseOtherUnitCannotBeStored) {
+  dialog.Open();
+  Edit(dialog.VSFlexGridStand, 3, 2, "1E38");
+
+  Accept();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Standing Support Specifications: Value '1E38' is too large"));
+  EXPECT_TRUE(dialog.IsOpen());
+  EXPECT_EQ(dialog.SSTab1.Tab(), 3);
+  EXPECT_EQ(dialog.VSFlexGridStand.Row(), 3);
+  EXPECT_EQ(dialog.FocusRequest(), &dialog.txtStand);
+}
+
+TEST_F(OptionsNumbers, MayBeNoNumbersInACell) {
+  dialog.Open();
+  Edit(dialog.VSFlexGridEng, 1, 2, "-");
+  Edit(dialog.VSFlexGridStand, 1, 2, "");
+
+  Accept();
+
+  EXPECT_FALSE(dialog.IsOpen());
+  EXPECT_EQ(program.catalogs.DefaultCableCapArrayENG[0], 0);
+  EXPECT_EQ(program.catalogs.StandSupports.DefaultStandSupportCap[0], (std::array<Single, 2>{0, 0}));
+}
+
+}  // namespace
+}  // namespace orby::test
