@@ -61,6 +61,13 @@ std::size_t LineIndex::Start(std::string_view text, std::size_t line) const {
   }
 }
 
+std::size_t LineIndex::LineAt(std::string_view text, std::size_t place) const {
+  if (count_ == 0) return 0;
+  if (place >= length_) return count_ - 1;
+  const std::size_t block = place / BlockSize;
+  return linesBefore_[block] + CountStarts(text, block * BlockSize, place + 1) - 1;
+}
+
 std::string_view LineIndex::Line(std::string_view text, std::size_t line) const {
   const std::size_t start = Start(text, line);
   std::string_view bytes = text.substr(start, Start(text, line + 1) - start);
@@ -92,6 +99,24 @@ std::string ShownLine(std::string_view bytes) {
     if (fitting < width) return shown.append(Ellipsis);
   }
   return shown;
+}
+
+std::vector<std::size_t> ShownPlaces(std::string_view bytes) {
+  const std::string_view part = ShownPart(bytes);
+  const bool isUtf8 = IsValidUtf8(part);
+  std::vector<std::size_t> places;
+  bool isCut = false;
+  for (std::size_t at = 0; at < part.size() && !isCut; ++at) {
+    if (isUtf8 && IsContinuation(part[at])) continue;
+    const std::size_t column = places.size();
+    const std::size_t width = part[at] == '\t' ? TabWidth - column % TabWidth : 1;
+    const std::size_t fitting = std::min(width, MostShownCharacters - column);
+    places.insert(places.end(), fitting, at);
+    isCut = fitting < width;
+    if (isCut) places.push_back(at);  // the ellipsis
+  }
+  places.push_back(bytes.size());
+  return places;
 }
 
 }  // namespace orby

@@ -25,6 +25,10 @@ class LineIndex {
   // text: all that is known. Empty when there is no such line.
   std::string_view Line(std::string_view text, std::size_t line) const;
 
+  // The number of the line that this byte of the text lies in, its end included; the last one for a place after it, 0
+  // in an empty text.
+  std::size_t LineAt(std::string_view text, std::size_t place) const;
+
  private:
   // Where the line begins; the end of the text when there is no such line.
   std::size_t Start(std::string_view text, std::size_t line) const;
@@ -43,5 +47,9 @@ std::string LineText(std::string_view bytes);
 // The line as it is shown: tabs reach to the next of the columns 8, 16, 24..., other control characters are blanks, and
 // a line of more than MostShownCharacters ends there in an ellipsis. Takes no longer however long the line is.
 std::string ShownLine(std::string_view bytes);
+
+// Where the bytes of each character of ShownLine stand in those of the line, and after them the length of the line. The
+// blanks of a tab all stand at the tab.
+std::vector<std::size_t> ShownPlaces(std::string_view bytes);
 
 }  // namespace orby

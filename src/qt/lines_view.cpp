@@ -1,9 +1,6 @@
 #include "qt/lines_view.h"
 
 #include <QAccessible>
-#include <QClipboard>
-#include <QGuiApplication>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
@@ -22,19 +19,31 @@ constexpr int MarginPixels = 4;  // left and right of a line
 constexpr int UsualColumns = 80;
 constexpr int UsualLines = 30;
 
+// The number of UTF-16 units that so many characters take at the start of the text.
+int UnitOf(const QString& text, int character) {
+  int unit = 0;
+  for (; character > 0 && unit < text.size(); --character) unit += text[unit].isHighSurrogate() ? 2 : 1;
+  return unit;
+}
+
 }  // namespace
 
-void LinesModel::Show(const std::string& text) {
-  if (&text != text_ || text.size() < index_.Length()) {
+bool LinesModel::Show(const std::string& text) {
+  const bool beginsAnew = &text != text_ || text.size() < index_.Length();
+  if (beginsAnew) {
     beginResetModel();
     text_ = &text;
     index_.Clear();
     endResetModel();
   }
-  if (text.size() == index_.Length()) return;
+  if (text.size() > index_.Length()) Grow();
+  return beginsAnew;
+}
+
+void LinesModel::Grow() {
   const int before = rowCount();
   LineIndex grown = std::move(index_);
-  grown.Extend(text);
+  grown.Extend(*text_);
   const int after = static_cast<int>(grown.Count());
   // The last line may have gone on.
   if (before == after) {
@@ -47,39 +56,31 @@ void LinesModel::Show(const std::string& text) {
   if (before > 0) emit dataChanged(index(before - 1), index(before - 1));
 }
 
-std::string LinesModel::WholeLine(int row) const {
-  return LineText(index_.Line(*text_, static_cast<std::size_t>(row)));
-}
-
 int LinesModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(index_.Count());
 }
 
 QVariant LinesModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid() || role != Qt::DisplayRole) return {};
-  return ToQt(ShownLine(index_.Line(*text_, static_cast<std::size_t>(index.row()))));
+  return ToQt(ShownLine(Bytes(index.row())));
 }
 
 LinesView::LinesView(QWidget* parent) : QListView(parent) {
   setModel(&lines_);
-  setSelectionMode(ExtendedSelection);
+  setSelectionMode(NoSelection);
   setEditTriggers(NoEditTriggers);
   setTabKeyNavigation(false);
   setVerticalScrollMode(ScrollPerItem);
   setHorizontalScrollMode(ScrollPerPixel);
   viewport()->setBackgroundRole(QPalette::Base);
+  viewport()->setCursor(Qt::IBeamCursor);
 }
 
-void LinesView::ShowText(const std::string& text) { lines_.Show(text); }
-
-QString LinesView::SelectedText() const {
-  QItemSelection ranges = selectionModel()->selection();
-  std::ranges::sort(ranges, {}, &QItemSelectionRange::top);
-  std::string text;
-  for (const QItemSelectionRange& range : ranges) {
-    for (int row = range.top(); row <= range.bottom(); ++row) text.append(lines_.WholeLine(row)).append("\n");
-  }
-  return ToQt(text);
+void LinesView::ShowText(const std::string& text) {
+  if (!lines_.Show(text)) return;
+  Stop();
+  selection_ = {};
+  goalX_ = -1;
 }
 
 // ---- places --------------------------------------------------------------------------------------------------------
@@ -120,40 +121,45 @@ void LinesView::scrollTo(const QModelIndex& index, ScrollHint hint) {
   }
 }
 
-QModelIndex LinesView::moveCursor(CursorAction action, Qt::KeyboardModifiers) {
-  const int last = lines_.rowCount() - 1;
-  if (last < 0) return {};
-  const int row = currentIndex().isValid() ? currentIndex().row() : 0;
-  switch (action) {
-    case MoveUp:
-    case MovePrevious: return lines_.index(std::max(row - 1, 0));
-    case MoveDown:
-    case MoveNext: return lines_.index(std::min(row + 1, last));
-    case MovePageUp: return lines_.index(std::max(row - LinesOnView(), 0));
-    case MovePageDown: return lines_.index(static_cast<int>(std::min<qint64>(qint64{row} + LinesOnView(), last)));
-    case MoveHome: return lines_.index(0);
-    case MoveEnd: return lines_.index(last);
-    case MoveLeft: horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepSub); break;
-    case MoveRight: horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepAdd); break;
-  }
-  return currentIndex();
+// ---- characters ----------------------------------------------------------------------------------------------------
+
+int LinesView::ShownRow::ColumnOf(std::size_t place) const {
+  const auto found = std::ranges::lower_bound(places, place);
+  return static_cast<int>(std::min<std::ptrdiff_t>(found - places.begin(), std::ssize(places) - 1));
 }
 
-void LinesView::setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) {
-  const QRect area = rect.normalized();
-  const int first = std::max(RowAt(area.top()), 0);
-  const int last = std::min(RowAt(area.bottom()), lines_.rowCount() - 1);
-  const QItemSelection rows =
-      first <= last ? QItemSelection(lines_.index(first), lines_.index(last)) : QItemSelection();
-  selectionModel()->select(rows, command);
+LinesView::ShownRow LinesView::RowOnView(int row) const {
+  const std::string_view bytes = lines_.Bytes(row);
+  ShownRow shown{ToQt(ShownLine(bytes)), ShownPlaces(bytes)};
+  const auto start = static_cast<std::size_t>(bytes.data() - lines_.Text().data());
+  for (std::size_t& place : shown.places) place += start;
+  return shown;
 }
 
-QRegion LinesView::visualRegionForSelection(const QItemSelection& selection) const {
-  QRegion region;
-  for (const QItemSelectionRange& range : selection) {
-    region += (visualRect(range.topLeft()) | visualRect(range.bottomRight())).intersected(viewport()->rect());
+int LinesView::XOf(const ShownRow& shown, int column) const {
+  return MarginPixels + fontMetrics().horizontalAdvance(shown.text, UnitOf(shown.text, column));
+}
+
+QRect LinesView::CharacterRect(int row, int character) const {
+  const ShownRow shown = RowOnView(row);
+  const int left = XOf(shown, character);
+  const int top = visualRect(lines_.index(row)).top();
+  return {left - horizontalOffset(), top, XOf(shown, character + 1) - left, LineHeight()};
+}
+
+// The boundary between two characters that is nearest to the point.
+std::size_t LinesView::PlaceAt(const QPoint& point) const {
+  if (lines_.rowCount() == 0) return 0;
+  const ShownRow shown = RowOnView(std::clamp(RowAt(point.y()), 0, lines_.rowCount() - 1));
+  const int x = point.x() + horizontalOffset();
+  int low = 0;
+  int high = static_cast<int>(shown.places.size()) - 1;
+  while (low < high) {
+    const int middle = (low + high) / 2;
+    const bool isLeftOf = (XOf(shown, middle) + XOf(shown, middle + 1)) / 2 < x;
+    (isLeftOf ? low : high) = isLeftOf ? middle + 1 : middle;
   }
-  return region;
+  return shown.places[static_cast<std::size_t>(low)];
 }
 
 // NOLINTBEGIN(bugprone-parent-virtual-call): see the header.
@@ -195,7 +201,7 @@ QSize LinesView::sizeHint() const {
           LineHeight() * UsualLines + around};
 }
 
-// ---- painting and keys ---------------------------------------------------------------------------------------------
+// ---- painting ------------------------------------------------------------------------------------------------------
 
 void LinesView::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
@@ -211,25 +217,35 @@ void LinesView::paintEvent(QPaintEvent* event) {
 }
 
 void LinesView::PaintLine(QPainter& painter, const QModelIndex& index) {
-  QStyleOptionViewItem option;
-  initViewItemOption(&option);
-  option.rect = visualRect(index);
-  const bool isSelected = selectionModel()->isSelected(index);
-  option.state.setFlag(QStyle::State_Selected, isSelected);
-  option.state.setFlag(QStyle::State_HasFocus, hasFocus() && index == currentIndex());
-  style()->drawPrimitive(QStyle::PE_PanelItemViewRow, &option, &painter, this);
-  if (isSelected) painter.fillRect(option.rect, option.palette.brush(QPalette::Highlight));
-  const QString text = index.data().toString();
-  painter.setPen(option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text));
-  painter.drawText(option.rect.left() + MarginPixels, option.rect.top() + fontMetrics().ascent(), text);
-  widest_ = std::max(widest_, fontMetrics().horizontalAdvance(text) + 2 * MarginPixels);
+  const QRect rect = visualRect(index);
+  const ShownRow shown = RowOnView(index.row());
+  const QPoint at(rect.left() + MarginPixels, rect.top() + fontMetrics().ascent());
+  painter.setPen(palette().color(QPalette::Text));
+  painter.drawText(at, shown.text);
+  Widen(fontMetrics().horizontalAdvance(shown.text) + 2 * MarginPixels);
+  PaintSelection(painter, rect, shown);
+  if (!hasFocus() || index.row() != lines_.RowOf(selection_.Caret)) return;
+  const int x = rect.left() + XOf(shown, shown.ColumnOf(selection_.Caret));
+  painter.fillRect(x, rect.top(), 1, rect.height(), palette().color(QPalette::Text));
 }
 
-void LinesView::keyPressEvent(QKeyEvent* event) {
-  if (!event->matches(QKeySequence::Copy)) return QAbstractItemView::keyPressEvent(event);
-  event->accept();
-  if (selectionModel()->hasSelection()) QGuiApplication::clipboard()->setText(SelectedText());
+// The part of the line that is selected, and a blank for its end.
+void LinesView::PaintSelection(QPainter& painter, const QRect& rect, const ShownRow& shown) {
+  const std::size_t end = shown.places.back();
+  const bool hasEnd = selection_.Last() > end;
+  if (selection_.IsEmpty() || selection_.First() > end || selection_.Last() <= shown.places.front()) return;
+  const int left = XOf(shown, shown.ColumnOf(selection_.First()));
+  const int right = XOf(shown, shown.ColumnOf(selection_.Last())) + (hasEnd ? fontMetrics().averageCharWidth() : 0);
+  const QRect marked(rect.left() + left, rect.top(), right - left, rect.height());
+  painter.save();
+  painter.setClipRect(marked);
+  painter.fillRect(marked, palette().brush(QPalette::Highlight));
+  painter.setPen(palette().color(QPalette::HighlightedText));
+  painter.drawText(rect.left() + MarginPixels, rect.top() + fontMetrics().ascent(), shown.text);
+  painter.restore();
 }
+
+void LinesView::Widen(int width) { widest_ = std::max(widest_, width); }
 
 void LinesView::changeEvent(QEvent* event) {
   QAbstractItemView::changeEvent(event);

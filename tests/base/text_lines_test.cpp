@@ -104,6 +104,37 @@ TEST(TheLinesOfAText, AreForgottenForAnother) {
   EXPECT_EQ(index.Line("alone", 0), "alone");
 }
 
+TEST(TheLinesOfAText, AreFoundByAnyOfTheirBytes) {
+  std::string text;
+  for (int i = 0; i < 10'000; ++i) text += "line " + std::to_string(i) + "\r\n";
+  LineIndex index;
+  index.Extend(text);
+
+  EXPECT_EQ(index.LineAt(text, 0), 0U);
+  EXPECT_EQ(index.LineAt(text, text.find("line 1\r")), 1U);
+  EXPECT_EQ(index.LineAt(text, text.find("line 1\r") - 1), 0U);
+  EXPECT_EQ(index.LineAt(text, text.find("line 7312") + 4), 7312U);
+  EXPECT_EQ(index.LineAt(text, text.find("line 7312") + 10), 7312U);
+  EXPECT_EQ(index.LineAt(text, text.size()), 9999U);
+  EXPECT_EQ(LineIndex().LineAt("", 5), 0U);
+}
+
+TEST(AShownLine, TellsWhereItsCharactersStand) {
+  EXPECT_THAT(ShownPlaces("a\tb"), ElementsAre(0, 1, 1, 1, 1, 1, 1, 1, 2, 3));
+  EXPECT_THAT(ShownPlaces("5\u00B0 x"), ElementsAre(0, 1, 3, 4, 5));
+  EXPECT_THAT(ShownPlaces("5\xB0 x"), ElementsAre(0, 1, 2, 3, 4));
+  EXPECT_THAT(ShownPlaces(""), ElementsAre(0));
+}
+
+TEST(AShownLine, TellsThatItsEllipsisStandsForTheRest) {
+  const std::vector<std::size_t> places = ShownPlaces(std::string(9000, 'x'));
+
+  ASSERT_EQ(places.size(), 4002U);
+  EXPECT_EQ(places[3999], 3999U);
+  EXPECT_EQ(places[4000], 4000U);
+  EXPECT_EQ(places[4001], 9000U);
+}
+
 TEST(AShownLine, IsReadAsUtf8WhereItIsValid) { EXPECT_EQ(ShownLine("45\xC2\xB0 dip"), "45\u00B0 dip"); }
 
 TEST(AShownLine, IsReadAsWindows1252Otherwise) { EXPECT_EQ(ShownLine("45\xB0 dip \x80 5"), "45\u00B0 dip \u20AC 5"); }

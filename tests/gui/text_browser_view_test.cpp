@@ -1,9 +1,12 @@
 // The text file browser as its user sees it.
-#include <QAccessible>
+#include <QAbstractButton>
 #include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QProgressBar>
-#include <QScrollBar>
+#include <QPushButton>
+#include <algorithm>
 
 #include "gui/gui_bench.h"
 #include "qt/lines_view.h"
@@ -215,176 +218,189 @@ TEST_F(BrowserView, TakesTheFont) {
   });
 }
 
-// ---- the pane ------------------------------------------------------------------------------------------------------
+// ---- finding -------------------------------------------------------------------------------------------------------
 
-class PaneOfLines : public testing::Test {
+TEST_F(BrowserView, FindsATextByTheKeyboard) {
+  platform.files.files["/designs/found.orb"] = "Bolt row\ncable\nbolt length\n";
+  Browse([this](QDialog& window) {
+    OpenFile(window, "found.orb");
+    const auto& field = Find<QLineEdit>(window, "viewFindText");
+    EXPECT_FALSE(field.isVisible());
+
+    Press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(field.isVisible());
+    EXPECT_TRUE(field.hasFocus());
+    Type("BOLT");
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Pane(window).Selection().First(), 0U);
+    Press(Qt::Key_F3);
+    EXPECT_EQ(Pane(window).Selection().First(), 15U);
+    EXPECT_EQ(Pane(window).Selection().Last(), 19U);
+    Press(Qt::Key_F3);
+    EXPECT_EQ(Pane(window).Selection().First(), 0U);
+    EXPECT_EQ(TextOn(window, "viewFindResult"), "Continued from the other end");
+    Press(Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(Pane(window).Selection().First(), 15U);
+
+    Press(Qt::Key_Escape);
+    EXPECT_FALSE(field.isVisible());
+    EXPECT_TRUE(Pane(window).hasFocus());
+    EXPECT_TRUE(window.isVisible());
+  });
+}
+
+TEST_F(BrowserView, SaysWhatIsNotThere) {
+  Browse([this](QDialog& window) {
+    OpenFile(window, "panel3.orb");
+    Press(Qt::Key_F, Qt::ControlModifier);
+    Type("truss");
+
+    Press(Qt::Key_Return);
+
+    EXPECT_EQ(TextOn(window, "viewFindResult"), "Not found");
+    EXPECT_TRUE(Pane(window).Selection().IsEmpty());
+  });
+}
+
+TEST_F(BrowserView, OpensTheBarByF3AsLongAsThereIsNothingToFind) {
+  Browse([this](QDialog& window) {
+    OpenFile(window, "panel3.orb");
+
+    Press(Qt::Key_F3);
+
+    EXPECT_TRUE(Find<QLineEdit>(window, "viewFindText").hasFocus());
+  });
+}
+
+TEST_F(BrowserView, GivesTheBarLettersOfItsOwn) {
+  Browse([](QDialog& window) {
+    ClickItem(window, "File1", "panel3.orb");
+    Press(Qt::Key_F, Qt::ControlModifier);
+    Find(window, "viewStop").parentWidget()->show();
+    std::string letters;
+    const auto note = [&letters](const QString& caption) {
+      const auto mark = caption.indexOf('&');
+      if (mark >= 0) letters += caption[mark + 1].toLower().toLatin1();
+    };
+    for (const auto* label : window.findChildren<QLabel*>()) note(label->text());
+    for (const auto* button : window.findChildren<QAbstractButton*>()) note(button->text());
+
+    std::ranges::sort(letters);
+    EXPECT_EQ(letters, "cefhilnoprsuv");
+  });
+}
+
+TEST_F(BrowserView, ClosesByEscWithoutABar) {
+  TextBrowser browser(program);
+  Use(browser, [](QDialog& window) {
+    Find(window, "RichTextBox1").setFocus();
+    Press(Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
+  });
+}
+
+TEST_F(BrowserView, HidesTheBarWithThePane) {
+  Browse([this](QDialog& window) {
+    OpenFile(window, "panel3.orb");
+    Press(Qt::Key_F, Qt::ControlModifier);
+
+    Click(window, "Check1");
+
+    EXPECT_FALSE(Find<QLineEdit>(window, "viewFindText").isVisible());
+    Press(Qt::Key_F3);
+    EXPECT_FALSE(Find<QLineEdit>(window, "viewFindText").isVisible());
+  });
+}
+
+// A copy or a search of a text that takes several pieces.
+class LongWork : public BrowserView {
  protected:
-  void Show(std::string bytes) {
-    text = std::move(bytes);
-    pane.ShowText(text);
-    pane.resize(400, 300);
-    pane.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&pane));
-    pane.setFocus();
-    Settle();
+  static constexpr std::size_t Size = std::size_t{10} << 20U;
+
+  LongWork() { platform.files.files["/designs/long.orb"] = std::string(Size - 5, 'x') + "\nbolt"; }
+
+  void CopyAll(QDialog& window) {
+    OpenFile(window, "long.orb");
+    QGuiApplication::clipboard()->setText("before");
+    Find(window, "RichTextBox1").setFocus();
+    QTest::keyClick(&Pane(window), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&Pane(window), Qt::Key_C, Qt::ControlModifier);
   }
-  int TopRow() const { return pane.indexAt({5, 1}).row(); }
-  void PressKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QTest::keyClick(&pane, key, modifiers);
-    Settle();
+  // A text of many lines: one line alone is copied at a time.
+  void MakeLines() {
+    std::string& text = platform.files.files["/designs/long.orb"];
+    text.clear();
+    while (text.size() < Size) text += "a line of the file\n";
   }
   static std::string Copied() { return QGuiApplication::clipboard()->text().toStdString(); }
-  static std::string Numbered(int lines) {
-    std::string numbered;
-    for (int i = 0; i < lines; ++i) numbered += "line " + std::to_string(i) + "\r\n";
-    return numbered;
-  }
-
-  std::string text;
-  LinesView pane;
 };
 
-TEST_F(PaneOfLines, GoesToItsEndsByTheKeyboard) {
-  Show(Numbered(100'000));
+TEST_F(LongWork, CopiesPieceByPieceWithABar) {
+  MakeLines();
+  Browse([this](QDialog& window) {
+    CopyAll(window);
 
-  PressKey(Qt::Key_End);
-  EXPECT_EQ(pane.currentIndex().row(), 99'999);
-  EXPECT_TRUE(pane.viewport()->rect().contains(pane.visualRect(pane.currentIndex()).center()));
-
-  PressKey(Qt::Key_Home);
-  EXPECT_EQ(pane.currentIndex().row(), 0);
-  EXPECT_EQ(TopRow(), 0);
+    const auto& bar = Find<QProgressBar>(window, "viewFindProgress");
+    EXPECT_TRUE(bar.isVisible());
+    EXPECT_GT(bar.value(), 0);
+    EXPECT_LT(bar.value(), 50);
+    EXPECT_EQ(Copied(), "before");
+    while (bar.isVisible()) Settle();
+    EXPECT_TRUE(Copied() == platform.files.files["/designs/long.orb"]);
+  });
 }
 
-TEST_F(PaneOfLines, GoesByLinesAndPages) {
-  Show(Numbered(1000));
-  PressKey(Qt::Key_Home);
-  const int page = pane.verticalScrollBar()->pageStep();
+TEST_F(LongWork, StopsByEsc) {
+  MakeLines();
+  Browse([this](QDialog& window) {
+    CopyAll(window);
 
-  PressKey(Qt::Key_Down);
-  PressKey(Qt::Key_PageDown);
+    QTest::keyClick(&Pane(window), Qt::Key_Escape);
+    Settle();
 
-  EXPECT_EQ(pane.currentIndex().row(), 1 + page);
-  PressKey(Qt::Key_Up);
-  PressKey(Qt::Key_PageUp);
-  EXPECT_EQ(pane.currentIndex().row(), 0);
+    EXPECT_FALSE(Find<QProgressBar>(window, "viewFindProgress").isVisible());
+    EXPECT_EQ(Copied(), "before");
+    EXPECT_TRUE(window.isVisible());
+  });
 }
 
-TEST_F(PaneOfLines, FollowsTheWheel) {
-  Show(Numbered(1000));
+TEST_F(LongWork, StopsByItsButton) {
+  MakeLines();
+  Browse([this](QDialog& window) {
+    CopyAll(window);
 
-  const QPointF at = pane.viewport()->rect().center();
-  QWheelEvent turn(at, pane.viewport()->mapToGlobal(at), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
-                   false);
-  QCoreApplication::sendEvent(pane.viewport(), &turn);
+    Find<QPushButton>(window, "viewStop").click();
 
-  EXPECT_EQ(TopRow(), QApplication::wheelScrollLines());
+    EXPECT_FALSE(Find<QProgressBar>(window, "viewFindProgress").isVisible());
+    EXPECT_EQ(Copied(), "before");
+  });
 }
 
-TEST_F(PaneOfLines, CopiesTheLinesThatAreSelected) {
-  Show(Numbered(1000));
-  PressKey(Qt::Key_Home);
-  PressKey(Qt::Key_Down);
-  PressKey(Qt::Key_Down, Qt::ShiftModifier);
-  PressKey(Qt::Key_Down, Qt::ShiftModifier);
+TEST_F(LongWork, EndsWithTheFileThatItIsDoneOn) {
+  MakeLines();
+  Browse([this](QDialog& window) {
+    CopyAll(window);
 
-  PressKey(Qt::Key_C, Qt::ControlModifier);
+    OpenFile(window, "panel4.orb");
 
-  EXPECT_EQ(Copied(), "line 1\nline 2\nline 3\n");
+    EXPECT_FALSE(Find<QProgressBar>(window, "viewFindProgress").isVisible());
+    EXPECT_EQ(Copied(), "before");
+    EXPECT_TRUE(Pane(window).Selection().IsEmpty());
+  });
 }
 
-TEST_F(PaneOfLines, SelectsByTheMouse) {
-  Show(Numbered(1000));
-  const auto middleOf = [this](int row) { return pane.visualRect(pane.model()->index(row, 0)).center(); };
+TEST_F(LongWork, FindsWhatIsFarAway) {
+  Browse([this](QDialog& window) {
+    OpenFile(window, "long.orb");
+    Press(Qt::Key_F, Qt::ControlModifier);
+    Type("bolt");
+    QTest::keyClick(&Find(window, "viewFindText"), Qt::Key_Return);
 
-  QTest::mouseClick(pane.viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(2));
-  QTest::mouseClick(pane.viewport(), Qt::LeftButton, Qt::ShiftModifier, middleOf(4));
-  QTest::mouseClick(pane.viewport(), Qt::LeftButton, Qt::ControlModifier, middleOf(7));
-  PressKey(Qt::Key_C, Qt::ControlModifier);
-
-  EXPECT_EQ(Copied(), "line 2\nline 3\nline 4\nline 7\n");
-}
-
-TEST_F(PaneOfLines, CopiesAllOfIt) {
-  Show("one\r\ntwo\rthree");
-
-  PressKey(Qt::Key_A, Qt::ControlModifier);
-  PressKey(Qt::Key_C, Qt::ControlModifier);
-
-  EXPECT_EQ(Copied(), "one\ntwo\nthree\n");
-}
-
-TEST_F(PaneOfLines, CopiesALongLineWholeThoughItShowsItCut) {
-  const std::string line = "a\t" + std::string(9000, 'x') + "\xB0";
-  Show(line);
-
-  PressKey(Qt::Key_A, Qt::ControlModifier);
-  PressKey(Qt::Key_C, Qt::ControlModifier);
-
-  EXPECT_EQ(Copied(), "a\t" + std::string(9000, 'x') + "\u00B0\n");
-  EXPECT_EQ(pane.model()->index(0, 0).data().toString().size(), 4001);
-}
-
-TEST_F(PaneOfLines, LeavesTheClipboardAloneWhenNothingIsSelected) {
-  QGuiApplication::clipboard()->setText("before");
-  Show(Numbered(10));
-
-  PressKey(Qt::Key_C, Qt::ControlModifier);
-
-  EXPECT_EQ(Copied(), "before");
-}
-
-TEST_F(PaneOfLines, ScrollsAcrossAsFarAsItsWidestLineNeeds) {
-  Show("short\n");
-  EXPECT_EQ(pane.horizontalScrollBar()->maximum(), 0);
-
-  text += std::string(300, 'W') + "\n";
-  pane.ShowText(text);
-  pane.viewport()->repaint();
-  Settle();
-
-  const int width = pane.fontMetrics().horizontalAdvance(QString(300, 'W'));
-  EXPECT_GE(pane.horizontalScrollBar()->maximum(), width - pane.viewport()->width());
-  PressKey(Qt::Key_Right);
-  EXPECT_GT(pane.horizontalScrollBar()->value(), 0);
-}
-
-TEST_F(PaneOfLines, GrowsWithoutMovingWhatIsOnView) {
-  Show(Numbered(1000));
-  pane.verticalScrollBar()->setValue(500);
-
-  text += "the last line\n";
-  pane.ShowText(text);
-  Settle();
-
-  EXPECT_EQ(TopRow(), 500);
-  EXPECT_EQ(pane.model()->rowCount(), 1001);
-  EXPECT_EQ(pane.model()->index(1000, 0).data().toString(), "the last line");
-}
-
-TEST_F(PaneOfLines, BeginsAnewAtTheTop) {
-  Show(Numbered(1000));
-  pane.verticalScrollBar()->setValue(500);
-
-  text.clear();
-  pane.ShowText(text);
-  text = "alone";
-  pane.ShowText(text);
-  Settle();
-
-  EXPECT_EQ(pane.model()->rowCount(), 1);
-  EXPECT_EQ(TopRow(), 0);
-  EXPECT_FALSE(pane.selectionModel()->hasSelection());
-}
-
-TEST_F(PaneOfLines, ReadsItsLinesToAScreenReader) {
-  Show("cover\n400 ft\n");
-  QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&pane);
-  ASSERT_NE(reader, nullptr);
-
-  EXPECT_EQ(reader->role(), QAccessible::List);
-  ASSERT_EQ(reader->childCount(), 2);
-  EXPECT_EQ(reader->child(1)->text(QAccessible::Name), "400 ft");
+    EXPECT_TRUE(Find<QProgressBar>(window, "viewFindProgress").isVisible());
+    while (Find<QProgressBar>(window, "viewFindProgress").isVisible()) Settle();
+    EXPECT_EQ(Pane(window).Selection().First(), Size - 4);
+    EXPECT_EQ(Pane(window).currentIndex().row(), 1);
+  });
 }
 
 }  // namespace
