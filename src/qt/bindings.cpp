@@ -25,15 +25,16 @@ QObject& FindObject(const BindingHost& host, const std::string& name) {
   return *found;
 }
 
-bool IsUsable(const QWidget& widget) {
-  if (!widget.isEnabled() || widget.isHidden()) return false;
+bool IsBlocked(const QWidget& widget) {
   const QWidget* modal = QApplication::activeModalWidget();
-  if (modal == nullptr) return true;
+  if (modal == nullptr) return false;
   for (const QWidget* window = widget.window(); window != nullptr; window = window->parentWidget()) {
-    if (window == modal) return true;
+    if (window == modal) return false;
   }
-  return false;
+  return true;
 }
+
+bool IsUsable(const QWidget& widget) { return widget.isEnabled() && !widget.isHidden() && !IsBlocked(widget); }
 
 std::string MemberName(const Control& control, int index) {
   return std::string(control.Name()) + "_" + std::to_string(index);

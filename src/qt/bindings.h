@@ -69,6 +69,9 @@ inline void ShowState(QWidget& widget, const Control& control) {
   widget.setVisible(control.Visible());
 }
 
+// Whether a modal window stands before the widget's own.
+bool IsBlocked(const QWidget& widget);
+
 // Whether the user can change the widget now: it is enabled and shown, and no modal window stands before its own. The
 // toolkit lets screen readers change any widget, so it is asked on every change.
 bool IsUsable(const QWidget& widget);

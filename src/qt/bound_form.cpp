@@ -231,9 +231,12 @@ void BoundForm::Act(const std::function<void()>& act) {
 }
 
 void BoundForm::ActLater(std::function<void()> act) {
-  // A second press that waits behind the one that closes the form has nothing to act on.
+  // A second press that waits behind the one that closes the form has nothing to act on, and one that waits behind the
+  // opening of a dialog came too late: a tick or a mark that it has left goes.
   const auto actIfOpen = [this, act = std::move(act)] {
-    if (tied_) Act(act);
+    if (!tied_) return;
+    if (!IsBlocked(root_)) return Act(act);
+    for (const auto& [control, binding] : bindings_) binding->Show();
   };
   QMetaObject::invokeMethod(this, actIfOpen, Qt::QueuedConnection);
 }

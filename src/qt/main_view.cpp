@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <array>
 
+#include "qt/bindings.h"
 #include "qt/boundary.h"
 #include "qt/pictures.h"
 #include "qt/texts.h"
@@ -65,7 +66,7 @@ class StayInView : public QObject {
 // Takes the one file that is dropped on the window.
 class DropTarget : public QObject {
  public:
-  DropTarget(QMainWindow& window, MainWindow& model) : QObject(&window), model_(model) {
+  DropTarget(QMainWindow& window, MainWindow& model) : QObject(&window), window_(window), model_(model) {
     window.setAcceptDrops(true);
     window.installEventFilter(this);
     // The pane would take the name of the file as a text.
@@ -83,14 +84,18 @@ class DropTarget : public QObject {
       drop.acceptProposedAction();
       // The program that the file comes from waits for the drop to end; opening may ask questions.
       QMetaObject::invokeMethod(
-          this, [this, file = FileOf(*drop.mimeData())] { RunGuarded([&] { model_.Dropped(FromQt(file)); }); },
-          Qt::QueuedConnection);
+          this, [this, file = FileOf(*drop.mimeData())] { Take(file); }, Qt::QueuedConnection);
       return true;
     }
     return QObject::eventFilter(watched, event);
   }
 
  private:
+  // Under a dialog that has opened meanwhile the project stays.
+  void Take(const QString& file) {
+    if (!IsBlocked(window_)) RunGuarded([&] { model_.Dropped(FromQt(file)); });
+  }
+
   static QString FileOf(const QMimeData& data) {
     const QList<QUrl> urls = data.urls();
     if (urls.size() != 1 || !urls.front().isLocalFile()) return {};
@@ -98,6 +103,7 @@ class DropTarget : public QObject {
     return QFileInfo(path).isFile() ? path : QString();
   }
 
+  QMainWindow& window_;
   MainWindow& model_;
 };
 

@@ -1,11 +1,14 @@
 // How windows stand on each other and on the screen.
 #include "qt/windows.h"
 
+#include <QDropEvent>
 #include <QLabel>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
 #include <QTableWidget>
+#include <QUrl>
 
 #include "dialogs/description_dialog.h"
 #include "dialogs/estimator_dialog.h"
@@ -50,6 +53,43 @@ TEST_F(WindowsOnScreen, AMessageBelongsToTheDialogInUse) {
     EXPECT_EQ(parent, &window);
     window.close();
   });
+}
+
+TEST_F(WindowsOnScreen, ACommandThatWaitsBehindOneThatOpensADialogIsNotObeyedUnderTheDialog) {
+  auto* parameters = View().findChild<QAction*>("mnuEditItem_1");
+  int opened = 0;
+  scripts.Add([&](QDialog& window) {
+    ++opened;
+    Settle();
+    window.close();
+  });
+
+  parameters->trigger();
+  parameters->trigger();
+  Settle();
+
+  EXPECT_EQ(opened, 1);
+}
+
+TEST_F(WindowsOnScreen, AFileDroppedJustBeforeADialogOpensDoesNotChangeTheProjectUnderIt) {
+  const std::string path = std::string(EXAMPLES_DIR) + "/development-entry.ORB";
+  platform.files.files[path] = BytesOf(path);
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(ToQt(path))});
+  QDragEnterEvent enter(View().rect().center(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(&View(), &enter);
+  QDropEvent drop(View().rect().center(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  scripts.Add([&](QDialog& window) {
+    Settle();
+    EXPECT_EQ(program.CurrentFile, UntitledName);
+    window.close();
+  });
+
+  View().findChild<QAction*>("mnuEditItem_1")->trigger();
+  QCoreApplication::sendEvent(&View(), &drop);
+  Settle();
+
+  EXPECT_EQ(program.CurrentFile, UntitledName);
 }
 
 TEST_F(WindowsOnScreen, ADialogBelongsToTheMainWindow) {
