@@ -26,6 +26,12 @@ QWidget* VisibleBelow(const QWidget* window) {
   return below == nullptr ? nullptr : below->window();
 }
 
+// Whether the window stands on the other one, directly or by way of others.
+bool StandsOn(const QWidget* window, const QWidget* other) {
+  while (window != nullptr && window != other) window = window->parentWidget();
+  return window != nullptr;
+}
+
 }  // namespace
 
 QtHelpViewer::~QtHelpViewer() { delete window_; }
@@ -76,7 +82,7 @@ bool QtHelpViewer::MakeWindow(const std::string& path) {
 
 // Keeps its place on the screen, and does not take the keyboard from the window in use.
 void QtHelpViewer::StandOn(QWidget* host) {
-  if (window_ == nullptr || host == host_ || (host != nullptr && window_->isAncestorOf(host))) return;
+  if (window_ == nullptr || host == host_ || StandsOn(host, window_)) return;
   if (host_ != nullptr) host_->removeEventFilter(this);
   host_ = host;
   if (host != nullptr) host->installEventFilter(this);

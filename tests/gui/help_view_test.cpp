@@ -474,6 +474,21 @@ TEST_F(HelpBesideWindows, FollowsADialogThatOpensAfterIt) {
   EXPECT_EQ(viewer.Window()->Browser().backwardHistoryCount(), 2);
 }
 
+TEST_F(HelpBesideWindows, StaysWhereItIsUnderADialogOfItsOwn) {
+  viewer.ShowContents(CommittedHelp);
+  Settle();
+  QDialog print(viewer.Window());
+  scripts.Add([&](QDialog& window) {
+    EXPECT_EQ(viewer.Window()->parentWidget(), &View());
+    EXPECT_EQ(window.parentWidget(), viewer.Window());
+    window.close();
+  });
+
+  print.exec();
+
+  EXPECT_TRUE(TakesClicks());
+}
+
 TEST_F(HelpBesideWindows, GoesOnWhenTheMainWindowIsAwayForAWhile) {
   viewer.ShowContents(CommittedHelp);
   Settle();
