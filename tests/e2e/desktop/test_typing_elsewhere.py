@@ -1,0 +1,69 @@
+"""Any text in any number field of the dialogs besides the parameters ends no run."""
+
+from number_fields import NumberFieldsTest
+
+UNIT_TABS = ("Length", "Load", "Load Grad", "Stress", "Stress Grad")
+# The pages of the options, their tables, and the fields that are over the cells while a table has the keyboard.
+TABLES = (("Default Parameters (English)", "VSFlexGridEng", "txtCableEng"),
+          ("Default Parameters (Metric)", "VSFlexGridMet", "txtCableMet"),
+          ("Default Parameters (Standing Supports)", "VSFlexGridStand", "txtStand"))
+
+
+class TypingElsewhere(NumberFieldsTest):
+    def start_main(self):
+        run = self.start()
+        run.main().wait_active()
+        return run
+
+    def test_in_the_costs(self):
+        run = self.start(self.copy_example("development-entry", "entry.ORB"))
+        parameters = run.window("Parameters")
+        parameters.press("Command1")
+        parameters.wait_gone()
+        run.keys("alt+i", "c")
+        self.enter(run, run.window("Cost Parameters"), "frmTULKCost")
+        self.fill_fields()
+        for box in ("chkAdvance", "chkProduction"):
+            self.window.press(box)
+        self.fill_fields()
+        self.press_and_answer("Command2")
+        self.leave("Command1")
+        self.quit()
+
+    def test_in_the_options(self):
+        run = self.start_main()
+        run.keys("alt+u", "o")
+        self.enter(run, run.window("Options"), "frmTULKOpts")
+        for page, table, field in TABLES:
+            self.window.choose_tab("SSTab1", page)
+            self.fill_fields()
+            self.fill_table(table, field)
+        self.press_and_answer("cmdOK")
+        self.leave("cmdCancel")
+        self.quit()
+
+    def test_in_the_settings_and_in_the_choice_of_a_font(self):
+        run = self.start_main()
+        run.keys("alt+u", "s")
+        settings = run.window("Settings")
+        self.enter(run, settings, "frmSet")
+        self.fill_fields()
+        self.press_and_answer("cmdOK")
+        settings.press("Command5")
+        self.enter(run, run.window("Font"), "frmFont")
+        self.fill_fields()
+        self.press_and_answer("cmdOK")
+        self.leave("cmdCancel")
+        settings.press("cmdCancel")
+        settings.wait_gone()
+        self.quit()
+
+    def test_in_the_unit_calculator(self):
+        run = self.start_main()
+        run.keys("alt+u", "u")
+        self.enter(run, run.window("Unit Conversions"), "frmUnits")
+        for page in UNIT_TABS:
+            self.window.choose_tab("SSTab1", page)
+            self.fill_fields()
+        self.leave("Command1")
+        self.quit()

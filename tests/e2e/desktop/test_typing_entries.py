@@ -1,0 +1,11 @@
+"""Any text in any number field of the parameters ends no run: the secondary support of entries."""
+
+from parameter_fields import ParameterFieldsTest, support_of
+
+
+class TypingParameters(ParameterFieldsTest):
+    def test_no_text_in_a_field_ends_the_run(self):
+        self.open_parameters(lambda name: support_of(name) == "entries")
+        self.window.choose_tab("SSTab1", "Secondary Support: Entries")
+        self.fill_supports("SSTab2")
+        self.leave_parameters()

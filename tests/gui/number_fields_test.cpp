@@ -1,0 +1,68 @@
+// The list of number fields by which the desktop test of typing knows that it has come to all of them.
+#include <set>
+#include <sstream>
+
+#include "gui/forms.h"
+#include "gui/gui_bench.h"
+#include "support/test_data.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAreArray;
+
+// What may be typed into and is no number.
+const std::set<std::string> Texts{
+    "frmPENVParm txtRegion",  // a place for the estimator, never on view
+    "frmPENVParm txtOption",  // the same
+    "frmPENVParm txtSupportTypeSecEntry",
+    "frmPENVParm txtSupportTypeSecInter",
+    "frmPENVParm cmbSupportTypeSecEntry",
+    "frmPENVParm cmbSupportTypeSecInter",
+    "frmTULKDesc Text1",  // title and description of the project
+    "frmTULKDesc Text2",
+    "frmSet Text1",  // extension, folder and viewer of files
+    "frmSet Text2",
+    "frmSet Text4",
+    "frmTextBrow Text2",  // the pattern of the files
+    "frmGraphOpt Text1",  // titles of a graph, its curves and its axes
+    "frmGraphOpt Text2_0",
+    "frmGraphOpt Text2_1",
+    "frmGraphOpt Text2_2",
+    "frmGraphOpt Text2_3",
+    "frmGraphOpt Text2_4",
+    "frmGraphOpt Text2_5",
+    "frmGraphOpt Text2_6",
+    "frmGraphOpt Text2_7",
+    "frmGraphOpt Text2_8",
+    "frmGraphOpt Text2_9",
+    "frmGraphOpt Text3_0",
+    "frmGraphOpt Text3_1",
+    "frmGraphOpt Text3_2",
+};
+
+using NumberFields = GuiTest;
+
+TEST_F(NumberFields, AreAllInTheListThatTheTestOfTypingWorksOff) {
+  std::set<std::string> fields;
+  for (const FormMaker& maker : FormMakers) {
+    const auto form = maker.make(program);
+    for (const Control* control : form->Controls()) {
+      const auto* box = dynamic_cast<const TextBox*>(control);
+      const auto* combo = dynamic_cast<const Combo*>(control);
+      const bool isField = (box != nullptr && box->Kind() != TextKind::Output) ||
+                           (combo != nullptr && combo->Kind() == ComboKind::FreeText);
+      const std::string name = std::string(maker.name) + " " + std::string(control->Name());
+      if (isField && !Texts.contains(name)) fields.insert(name);
+    }
+  }
+
+  std::set<std::string> listed;
+  std::istringstream lines(ReadTestData("number_fields.txt"));
+  for (std::string line; std::getline(lines, line);) listed.insert(line);
+
+  EXPECT_THAT(listed, ElementsAreArray(fields));
+}
+
+}  // namespace
+}  // namespace orby::test
