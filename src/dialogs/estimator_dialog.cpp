@@ -1,7 +1,8 @@
 #include "dialogs/estimator_dialog.h"
 
 #include <algorithm>
-#include <utility>
+#include <iterator>
+#include <span>
 
 #include "base/arithmetic.h"
 #include "base/number_text.h"
@@ -17,6 +18,13 @@ constexpr int NumberColumn = 0;
 constexpr int NameColumn = 1;
 constexpr int RatingColumn = 2;
 constexpr int ColumnCount = 3;
+
+// The row of the rock type of this name; the unknown roof, above the manual setting, where there is none.
+int RowOf(std::span<const RockType> types, std::string_view name) {
+  const auto found = std::ranges::find(types, name, &RockType::Name);
+  const auto unknown = std::prev(types.end(), 2);
+  return static_cast<int>((found == types.end() ? unknown : found) - types.begin());
+}
 
 }  // namespace
 
@@ -61,14 +69,14 @@ void EstimatorDialog::OnClose() {
   AddHistoryLine(program_, "CMRR Form Modified");
 }
 
-// The row stays selected, or the last one where there are fewer, and the rating on view stays that of the row chosen
-// before, until a row of this region is chosen.
+// Region, rock type and rating agree: the rock of the same name is selected in the new region, or the unknown one, and
+// the rating follows. While the dialog opens the row and the rating are still to come.
 void EstimatorDialog::ShowRegion(Integer region) {
   for (Picture& picture : Picture1) picture.SetVisible(false);
   Picture1[static_cast<std::size_t>(region)].SetVisible(true);
 
+  const std::string chosen = VSFlexGrid1.Rows() > 0 ? VSFlexGrid1.Cell(VSFlexGrid1.Row(), NameColumn) : std::string();
   const auto types = RockTypes(region);
-  const int selected = VSFlexGrid1.Row();
   VSFlexGrid1.SetSize(static_cast<int>(types.size()), ColumnCount, 0);
   VSFlexGrid1.SetColumnWidths({360, 2950, 360});
   int row = 0;
@@ -80,9 +88,9 @@ void EstimatorDialog::ShowRegion(Integer region) {
   }
   const Integer manualValue = program_.estimator.EstimatorManualValue;
   if (manualValue != 0) VSFlexGrid1.SetCell(row - 1, RatingColumn, NumberText(manualValue));
-  const bool held = std::exchange(HoldEvents, true);
-  VSFlexGrid1.SetRow(std::min(selected, row - 1));
-  HoldEvents = held;
+  if (HoldEvents) return;
+  VSFlexGrid1.SetRow(RowOf(types, chosen));
+  ShowEstimate();
 }
 
 void EstimatorDialog::ShowEstimate() {

@@ -236,41 +236,56 @@ TEST_F(AnEstimator, TellsOfACoalfieldThatDoesNotExistAndFails) {
 
 // ---- choosing -------------------------------------------------------------------------------------------------------
 
-TEST_F(AnEstimator, KeepsTheRatingOnViewInAnotherCoalfieldUntilARowIsClicked) {
-  OpenOn(0, 7);
+TEST_F(AnEstimator, GoesToTheRockOfTheSameNameInAnotherCoalfield) {
+  OpenOn(2, 4);  // bedded sandstone
+
+  dialog.optLocation.SetValue(4, true);
+  EXPECT_EQ(dialog.VSFlexGrid1.Row(), 3);
+  EXPECT_EQ(dialog.txtCMRR.Text(), "55");
+  EXPECT_FALSE(program.estimator.EstimatorManual);
 
   dialog.optLocation.SetValue(1, true);
-
-  EXPECT_EQ(dialog.txtCMRR.Text(), "38");
-  EXPECT_TRUE(program.estimator.EstimatorManual);
+  EXPECT_EQ(dialog.VSFlexGrid1.Row(), 4);
+  EXPECT_EQ(dialog.txtCMRR.Text(), "55");
 }
 
-TEST_F(AnEstimator, RatesTheRowThatIsSelectedAlreadyWhenItIsClicked) {
-  OpenOn(0, 7);
+TEST_F(AnEstimator, GoesToTheUnknownRoofWhereTheCoalfieldLacksTheRock) {
+  OpenOn(0, 5);  // limestone
+
   dialog.optLocation.SetValue(5, true);
-  ASSERT_EQ(dialog.VSFlexGrid1.Row(), 6);
-
-  dialog.VSFlexGrid1.ClickRow(6);
-
+  EXPECT_EQ(dialog.VSFlexGrid1.Row(), 5);
   EXPECT_EQ(dialog.txtCMRR.Text(), "35");
-  EXPECT_TRUE(program.estimator.EstimatorManual);
+  EXPECT_FALSE(program.estimator.EstimatorManual);
+
+  dialog.optLocation.SetValue(1, true);
+  EXPECT_EQ(dialog.VSFlexGrid1.Row(), 6) << "unknown stays unknown";
+  EXPECT_EQ(dialog.txtCMRR.Text(), "45");
 }
 
-TEST_F(AnEstimator, KeepsTheRowInAnotherCoalfieldAndTakesTheLastWhereThereAreFewer) {
-  OpenOn(0, 3);
+TEST_F(AnEstimator, KeepsTheManualSettingInAnotherCoalfield) {
+  OpenOn(0, 7);
 
-  dialog.optLocation.SetValue(2, true);
-  EXPECT_EQ(dialog.VSFlexGrid1.Row(), 3);
-  dialog.VSFlexGrid1.ClickRow(7);
   dialog.optLocation.SetValue(4, true);
   EXPECT_EQ(dialog.VSFlexGrid1.Row(), 6);
+  EXPECT_EQ(dialog.txtCMRR.Text(), "45");
+  EXPECT_TRUE(program.estimator.EstimatorManual);
+
   dialog.optLocation.SetValue(3, true);
   dialog.Command2.Press();
 
   EXPECT_EQ(program.estimator.EstimatorRegion, 3);
-  EXPECT_EQ(program.estimator.EstimatorRockType, 6);
-  EXPECT_EQ(program.estimator.EstimatedCMRR, 45);
+  EXPECT_EQ(program.estimator.EstimatorRockType, 7);
+  EXPECT_EQ(program.estimator.EstimatedCMRR, 35);
   EXPECT_TRUE(program.estimator.EstimatorManual);
+}
+
+TEST_F(AnEstimator, RatesTheRowAnewThatHappensToBeTheSame) {
+  OpenOn(0, 6);
+
+  dialog.optLocation.SetValue(3, true);
+
+  EXPECT_EQ(dialog.VSFlexGrid1.Row(), 6);
+  EXPECT_EQ(dialog.txtCMRR.Text(), "35");
 }
 
 TEST_F(AnEstimator, FollowsARowThatIsReachedWithoutAClick) {
