@@ -78,6 +78,10 @@ void Combo::Fill(std::vector<ComboItem> items) {
 }
 
 void Combo::SetText(std::string text) {
+  // Of items with the same text the selected one stays.
+  if (HasSelection() && items_[static_cast<std::size_t>(listIndex_)].text == text) {
+    return Assign(std::move(text), listIndex_);
+  }
   const auto found =
       std::find_if(items_.begin(), items_.end(), [&text](const ComboItem& item) { return item.text == text; });
   Assign(std::move(text), found == items_.end() ? Nothing : static_cast<int>(found - items_.begin()));

@@ -165,7 +165,7 @@ Integer GetArrayIndex(const OptionArray& options);
 
 struct ComboItem {
   std::string text;
-  int data = 0;
+  double data = 0;  // a whole number
 };
 
 // A list to choose from with a text of its own. The text and the selected item are two states: a text that is no item
@@ -188,7 +188,7 @@ class Combo : public Control {
   void Fill(std::vector<ComboItem> items);
 
   const std::string& Text() const { return text_; }
-  // Selects the item that is exactly equal, or none.
+  // Selects the item that is exactly equal, or none; of several the first, unless one of them is selected.
   void SetText(std::string text);
   // Empties the text and keeps the selection.
   void BlankText() { Assign({}, listIndex_); }

@@ -1,8 +1,5 @@
 #include "dialogs/parameters_dialog.h"
 
-#include <cmath>
-#include <limits>
-
 #include "base/arithmetic.h"
 #include "base/number_text.h"
 #include "base/runtime_error.h"
@@ -31,20 +28,13 @@ std::vector<ComboItem> NumberItems(const CatalogList& list) {
   return items;
 }
 
-// A capacity as the whole number that its item carries.
-int WholeCapacity(Single capacity) {
-  const double whole = RoundHalfEven(capacity);
-  if (std::abs(whole) > std::numeric_limits<int>::max()) throw RuntimeError(error_number::Overflow);
-  return static_cast<int>(whole);
-}
-
 std::vector<ComboItem> SupportItems(const Program& program) {
   const StandingSupports& supports = program.catalogs.StandSupports;
   std::vector<ComboItem> items;
   const auto count = static_cast<std::size_t>(supports.HighestIndex + 1);
   items.reserve(count);
   for (std::size_t i = 0; i < count; ++i) {
-    items.push_back({supports.DefaultStandSupportType[i], WholeCapacity(StandSupportCap(program, i))});
+    items.push_back({supports.DefaultStandSupportType[i], RoundHalfEven(StandSupportCap(program, i))});
   }
   return items;
 }

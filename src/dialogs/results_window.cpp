@@ -29,7 +29,8 @@ constexpr std::array<std::string_view, CurveCount> CurveNames{"Suggested PSUP vs
 std::vector<ComboItem> CurveItems() {
   std::vector<ComboItem> items;
   items.reserve(CurveNames.size());
-  for (const std::string_view name : CurveNames) items.push_back({std::string(name), static_cast<int>(items.size())});
+  for (const std::string_view name : CurveNames)
+    items.push_back({std::string(name), static_cast<double>(items.size())});
   return items;
 }
 

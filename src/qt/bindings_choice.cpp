@@ -151,6 +151,9 @@ class ComboBinding : public QObject, public Binding {
  private:
   void TakeText() {
     if (!IsUsable(widget_)) return Show();
+    // An item that is chosen sets its text before it tells of the choice, and others may have the same text.
+    const int index = widget_.currentIndex();
+    if (index >= 0 && widget_.itemText(index) == widget_.currentText()) return Choose(index);
     host_.Act([this] { combo_.SetText(FromQt(widget_.currentText())); });
   }
 

@@ -74,6 +74,20 @@ TEST_F(ACombo, SelectsTheFirstOfEqualItems) {
   EXPECT_EQ(combo.ListIndex(), 1);
 }
 
+TEST_F(ACombo, KeepsTheChosenOneOfEqualItemsWhenItsTextIsSetAgain) {
+  combo.Fill({{"27", 0}, {"33", 1}, {"33", 2}});
+  combo.SetListIndex(2);
+  changes = 0;
+
+  combo.SetText("33");
+  EXPECT_EQ(combo.ListIndex(), 2);
+  EXPECT_EQ(changes, 0);
+
+  combo.BlankText();
+  combo.SetText("33");
+  EXPECT_EQ(combo.ListIndex(), 2);
+}
+
 TEST_F(ACombo, KeepsATextThatTheListLacksWithNothingSelected) {
   combo.SetListIndex(0);
   changes = 0;

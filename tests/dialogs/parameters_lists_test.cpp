@@ -245,8 +245,8 @@ TEST_F(ParameterFields, AMetricDesignStartsFromABoltThatIsNotInTheList) {
 
 // ---- standing supports ----------------------------------------------------------------------------------------------
 
-std::vector<int> ItemCapacities(const Combo& combo) {
-  std::vector<int> capacities;
+std::vector<double> ItemCapacities(const Combo& combo) {
+  std::vector<double> capacities;
   for (const ComboItem& item : combo.Items()) capacities.push_back(item.data);
   return capacities;
 }
@@ -293,10 +293,30 @@ TEST_F(ParameterLists, AStandingSupportsCapacityIsRoundedToAWholeNumber) {
   EXPECT_EQ(dialog.cmbSupportTypeSecEntry.Items()[2].data, 40000);
 }
 
-TEST_F(ParameterLists, AStandingSupportBeyondAllMeasureIsAnOverflow) {
-  program.catalogs.StandSupports.DefaultStandSupportCap[0][English] = 3e9F;
+TEST_F(ParameterLists, AStandingSupportOfAnyCapacityCanBeChosen) {
+  program.catalogs.StandSupports.DefaultStandSupportCap[1][English] = 3e9F;
+  dialog.Open();
 
-  EXPECT_EQ(ErrorNumberOf([this] { dialog.Open(); }), 6);
+  dialog.cmbSupportTypeSecEntry.SetListIndex(1);
+
+  EXPECT_EQ(dialog.txtSupportCapSecEntry.Text(), "3000000000");
+}
+
+TEST_F(ParameterLists, OfTwoStandingSupportsWithOneNameEachHasItsOwnCapacity) {
+  program.catalogs.StandSupports.DefaultStandSupportType[3] = "Steel Prop";
+  program.catalogs.StandSupports.DefaultStandSupportType[4] = "Steel Prop";
+  program.catalogs.StandSupports.DefaultStandSupportCap[3] = {60, 534};
+  program.catalogs.StandSupports.DefaultStandSupportCap[4] = {85, 756};
+  dialog.Open();
+
+  dialog.cmbSupportTypeSecEntry.SetListIndex(4);
+  EXPECT_EQ(dialog.txtSupportCapSecEntry.Text(), "85");
+  dialog.cmbSupportTypeSecEntry.SetText("Steel Prop");  // a key pressed and taken back
+  EXPECT_EQ(dialog.txtSupportCapSecEntry.Text(), "85");
+  Do("optSupportTypeSecEntry=1|optSupportTypeSecEntry=0");
+  EXPECT_EQ(dialog.txtSupportCapSecEntry.Text(), "85");
+  dialog.cmbSupportTypeSecEntry.SetListIndex(3);
+  EXPECT_EQ(dialog.txtSupportCapSecEntry.Text(), "60");
 }
 
 TEST_F(ParameterFields, ANewDesignKeepsItsOwnSupportCapacityUntilATypeIsPicked) {

@@ -285,7 +285,7 @@ TEST_F(AResultsWindow, ListsTheCurvesUnderTheirNumbers) {
   window.Open();
 
   std::vector<std::string> names;
-  std::vector<int> numbers;
+  std::vector<double> numbers;
   for (const ComboItem& item : window.lstGraphs.Items()) {
     names.push_back(item.text);
     numbers.push_back(item.data);

@@ -1,4 +1,5 @@
 // What a field does with the keyboard: what it takes, what it refuses, and what of it is on view and selected.
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QHeaderView>
@@ -63,6 +64,33 @@ TEST_F(Fields, SelectTheWholeOfARefusedListThatHasTheKeyboardAlready) {
     EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Roof bolt diameter NOT selected from available options"));
     EXPECT_EQ(FocusName(), "cmbBoltDiameterPrimary");
     EXPECT_EQ(Find<QComboBox>(window, "cmbBoltDiameterPrimary").lineEdit()->selectedText(), "0.80");
+  });
+}
+
+TEST_F(Fields, TakeTheItemThatIsChosenOfTwoWithOneName) {
+  program.catalogs.StandSupports.DefaultStandSupportType[1] = "Steel Prop";
+  program.catalogs.StandSupports.DefaultStandSupportType[2] = "Steel Prop";
+  program.catalogs.StandSupports.DefaultStandSupportCap[1] = {60, 534};
+  program.catalogs.StandSupports.DefaultStandSupportCap[2] = {85, 756};
+  program.WorkParms.SecondSupEntries = 1;
+  program.WorkParms.SecEntryUseStanding = 1;
+  Work([this](QDialog& window) {
+    dialog.SSTab1.SetTab(EntriesTab);
+    dialog.SSTab2.SetTab(3);
+    auto& list = Find<QComboBox>(window, "cmbSupportTypeSecEntry");
+    list.setFocus();
+    ASSERT_EQ(list.currentIndex(), 0);
+
+    list.showPopup();
+    list.view()->setCurrentIndex(list.model()->index(2, 0));
+    QTest::keyClick(list.view(), Qt::Key_Return);
+
+    EXPECT_EQ(list.currentIndex(), 2);
+    EXPECT_EQ(TextOn(window, "txtSupportCapSecEntry"), "85");
+    QTest::keyClick(&list, Qt::Key_Up);
+    EXPECT_EQ(TextOn(window, "txtSupportCapSecEntry"), "60");
+    QTest::keyClick(&list, Qt::Key_Down);
+    EXPECT_EQ(TextOn(window, "txtSupportCapSecEntry"), "85");
   });
 }
 
