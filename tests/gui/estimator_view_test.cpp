@@ -62,11 +62,12 @@ TEST_F(EstimatorView, ShowsTheRatingOfTheClickedRock) {
   });
 }
 
-TEST_F(EstimatorView, ShowsTheRatingOfTheSelectedRockWhenItIsClickedAgain) {
+TEST_F(EstimatorView, ShowsTheRatingOfAnotherCoalfieldAtOnceAndThenOfTheClickedRock) {
   Use(dialog, [](QDialog& window) {
     PressLetterOf(window, "optLocation_1");
     auto& rocks = Find<QTableWidget>(window, "VSFlexGrid1");
-    EXPECT_EQ(TextOn(window, "txtCMRR"), "35");
+    EXPECT_EQ(rocks.currentRow(), 6) << "the region has no claystone";
+    EXPECT_EQ(TextOn(window, "txtCMRR"), "45");
 
     QTest::mouseClick(rocks.viewport(), Qt::LeftButton, Qt::NoModifier,
                       rocks.visualItemRect(rocks.item(0, 1)).center());
@@ -88,7 +89,7 @@ TEST_F(EstimatorRoundTrip, BringsTheChosenRatingBackByTheKeyboardAlone) {
       PressLetterOf(estimator, "optLocation_2");
       Press(Qt::Key_Tab);
       EXPECT_EQ(FocusName(), "VSFlexGrid1");
-      for (int i = 0; i < 5; ++i) Press(Qt::Key_Down);
+      Press(Qt::Key_Up);
       EXPECT_EQ(TextOn(estimator, "txtCMRR"), "65");
       Press(Qt::Key_Enter);
     });

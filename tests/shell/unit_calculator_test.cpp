@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include "base/number_text.h"
+#include "support/number_texts.h"
 #include "support/recording_platform.h"
 
 namespace orby::test {
@@ -145,6 +147,18 @@ TEST_F(ACalculator, ShowsDashesForANumberThatNothingHolds) {
 
   EXPECT_THAT(TextsOf(calculator.LoadResults), Each("--"));
   EXPECT_THAT(TextsOf(calculator.LengthResults), Each("0"));
+}
+
+TEST_F(ACalculator, ShowsAFigureOrADashWhateverIsTyped) {
+  EXPECT_TRUE(rc::check("each result is a number or a dash", [this] {
+    calculator.Option5.SetValue(*rc::gen::inRange(0, 5), true);
+
+    calculator.txtLoad.SetText(*FieldTexts());
+
+    for (const std::string& text : TextsOf(calculator.LoadResults)) {
+      RC_ASSERT(text == "--" || LooseNumber(text).has_value());
+    }
+  }));
 }
 
 TEST_F(ACalculator, OpensItsHelp) {

@@ -1,0 +1,143 @@
+// Whatever is typed, pasted or stored: no field ends the run.
+#include <rapidcheck.h>
+#include <rapidcheck/gtest.h>
+
+#include "base/number_text.h"
+#include "dialogs/cost_dialog.h"
+#include "parameters_fixture.h"
+#include "support/number_texts.h"
+
+namespace orby::test {
+namespace {
+
+bool IsFigureOrDash(const std::string& text) {
+  return text == "--" || text == "---" || text.empty() || LooseNumber(text).has_value();
+}
+
+// Sets one field after the other, in the order of the tab key, and presses each character as a key as well.
+void TypeEverywhere(Form& form) {
+  for (Control* control : form.Controls()) {
+    const std::string text = *FieldTexts();
+    if (auto* box = dynamic_cast<TextBox*>(control); box != nullptr && box->Kind() != TextKind::Output) {
+      box->SetText(text);
+      for (const char key : text) box->KeyPress(static_cast<unsigned char>(key));
+    } else if (auto* combo = dynamic_cast<Combo*>(control)) {
+      combo->SetText(text);
+    }
+  }
+}
+
+struct Run {
+  explicit Run(Integer units) {
+    SetBuiltInCatalogs(program.catalogs);
+    program.settings.UnitsDefault = units;
+    FileNew(program, true, true);
+  }
+
+  RecordingPlatform platform;
+  Program program{platform.Doors()};
+};
+
+RC_GTEST_PROP(TypingProperty, ShowsAFigureOrADashInTheParametersWhateverIsTyped, ()) {
+  Run run(*rc::gen::elementOf(std::vector<Integer>{English, Metric}));
+  ParametersDialog dialog(run.program);
+  dialog.Open();
+  Edit(dialog, AllSystems);
+  for (OptionArray* options :
+       {&dialog.optBoltOptionsPrimary, &dialog.optBoltDiameterPrimary, &dialog.optBoltOptionsSecEntry,
+        &dialog.optCableCapModeSecInter, &dialog.optCableCapacitySecInter, &dialog.optBoltOptionsSecInter}) {
+    options->SetValue(*rc::gen::inRange(0, 2), true);
+  }
+
+  TypeEverywhere(dialog);
+  dialog.ShowEntries();
+  dialog.ShowIntersections();
+  dialog.Command2.Press();
+
+  for (const Control* control : dialog.Controls()) {
+    const auto* box = dynamic_cast<const TextBox*>(control);
+    if (box != nullptr && box->Kind() == TextKind::Output && box != &dialog.txtMessage) {
+      RC_ASSERT(IsFigureOrDash(box->Text()));
+    }
+  }
+}
+
+RC_GTEST_PROP(TypingProperty, ShowsAFigureOrADashInTheCostsWhateverIsTyped, ()) {
+  Run run(English);
+  CostDialog dialog(run.program);
+  dialog.Open();
+
+  TypeEverywhere(dialog);
+
+  RC_ASSERT(IsFigureOrDash(dialog.txtAdvanceShiftCalc.Text()));
+  RC_ASSERT(IsFigureOrDash(dialog.txtCleanProductionCalc.Text()));
+  dialog.Command2.Press();
+}
+
+RC_GTEST_PROP(TypingProperty, KeepsTheLastNumberThatADesignCanHold, ()) {
+  Run run(English);
+  ParametersDialog dialog(run.program);
+  dialog.Open();
+  ProjectRecord kept = run.program.WorkParms;
+  int last = 400;
+
+  for (int i = 0; i < 10; ++i) {
+    if (*rc::gen::arbitrary<bool>()) {
+      last = *rc::gen::inRange(-20, 5000);
+      dialog.txtDepthofCover.SetText(std::to_string(last));
+    } else {
+      dialog.txtDepthofCover.SetText(*rc::gen::element<std::string>("1E39", "-1E39", "1E400", "9E999 ft"));
+    }
+    dialog.ReadEdits(kept);
+
+    RC_ASSERT(kept.DepthofCover == static_cast<Single>(last));
+  }
+}
+
+RC_GTEST_PROP(StoredDesignProperty, OpensWithWhateverNumbers, ()) {
+  using R = ProjectRecord;
+  Run run(*rc::gen::elementOf(std::vector<Integer>{English, Metric}));
+  R& design = run.program.WorkParms;
+  const auto stored =
+      rc::gen::oneOf(rc::gen::element<Single>(0, -1, 20, 3.4E38F, -3.4E38F, 1E-38F),
+                     rc::gen::map(rc::gen::inRange(-100, 2000), [](int n) { return static_cast<Single>(n) / 10; }));
+  const std::vector<Single R::*> fields{&R::DepthofCover,
+                                        &R::UnitWeight,
+                                        &R::ActualSpanDiagonals,
+                                        &R::EntryWidth,
+                                        &R::StabilityFactor,
+                                        &R::BoltLengthPrimary,
+                                        &R::BoltsperRowPrimary,
+                                        &R::RowSpacingPrimary,
+                                        &R::RockLoadHeight,
+                                        &R::RockFallAngle,
+                                        &R::TrussSpacingSecEntry,
+                                        &R::RowSpacingSecEntry,
+                                        &R::BoltsperRowSecEntry,
+                                        &R::SupportRowSpacingSecEntry,
+                                        &R::CableRowSpacingSecEntry,
+                                        &R::RockLoadHeightInter,
+                                        &R::RockFallAngleEntry,
+                                        &R::RockFallAngleXcut,
+                                        &R::CableNumberSecInter,
+                                        &R::TrussNumberSecInter,
+                                        &R::CableDiamSecEntry};
+  for (const auto field : fields) {
+    design.*field = *stored;
+  }
+  const std::vector<Integer R::*> uses{&R::SecEntryUseTruss, &R::SecEntryUseBolt, &R::SecEntryUseStanding,
+                                       &R::SecInterUseTruss, &R::SecInterUseBolt, &R::SecInterUseStanding};
+  for (const auto use : uses) {
+    design.*use = 1;
+  }
+  design.CMRR = *rc::gen::arbitrary<Integer>();
+  ParametersDialog dialog(run.program);
+
+  dialog.Open();
+
+  RC_ASSERT(IsFigureOrDash(dialog.txtSugPSUP.Text()));
+  RC_ASSERT(dialog.SaveWorkParms() || !run.platform.boxes.shown.empty());
+}
+
+}  // namespace
+}  // namespace orby::test
