@@ -1,5 +1,7 @@
 """The settings: what they refuse, what a box of theirs tells, and that they last."""
 
+import os
+
 import atspi
 from orby import DesktopTest, until
 
@@ -83,3 +85,26 @@ class Settings(DesktopTest):
 
         window.wait_gone()
         self.assertIn("DisplayFontSize=14\r\n", self.configuration())
+
+
+class NoSettings(DesktopTest):
+    """A user whose settings nothing can be kept in."""
+
+    def test_begin_with_the_built_in_ones_and_a_message(self):
+        file = os.path.join(self.data, "ORBY.INI")
+        os.makedirs(file)
+        trouble = f"Configuration file cannot be used: {file} (Path/File access error). Built-in settings are in force"
+
+        run = self.start(accepts=False)
+        run.answer(trouble + " and changes to them may be lost.", "OK")
+        run.accept_disclaimer()
+
+        self.assertIn(trouble, run.main().text("txtMain"))
+        run.keys("alt+i", "p")
+        parameters = run.window("Parameters")
+        self.assertEqual(parameters.text("txtDepthofCover"), "400")
+        parameters.press("Command1")
+        parameters.wait_gone()
+        run.quit()
+        self.assertEqual(run.wait_end(), 0)
+        self.assertEqual(os.listdir(file), [])
