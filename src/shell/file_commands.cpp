@@ -40,7 +40,7 @@ void MainWindow::NewProject() {
   FileNew(program_, true, true);
   recovery_.Discard();
   RefreshCaption();
-  if (program_.options.ShowInputScreenOnLoad == 1) EditCommand(edit_item::Parameters, Trap::Set);
+  if (program_.options.ShowInputScreenOnLoad == 1) EditCommand(edit_item::Parameters);
 }
 
 void MainWindow::OpenProject() {
@@ -68,7 +68,7 @@ void MainWindow::LoadProjFile(Trap trap) {
   if (!ok) return;
   UpdateRecentFiles();
   RefreshCaption();
-  if (program_.options.ShowInputScreenOnLoad == 1) EditCommand(edit_item::Parameters, trap);
+  if (program_.options.ShowInputScreenOnLoad == 1) EditCommand(edit_item::Parameters);
 }
 
 void MainWindow::SaveProject(bool saveAs) {

@@ -10,11 +10,11 @@
 
 namespace orby {
 
-void MainWindow::EditCommand(Integer item, Trap trap) {
+void MainWindow::EditCommand(Integer item) {
   switch (item) {
     case edit_item::Description: EditDescription(); break;
-    case edit_item::Parameters: EditDesign<ParametersDialog>(trap); break;
-    case edit_item::Cost: EditDesign<CostDialog>(trap); break;
+    case edit_item::Parameters: EditDesign<ParametersDialog>(); break;
+    case edit_item::Cost: EditDesign<CostDialog>(); break;
     default: break;
   }
 }
@@ -25,14 +25,15 @@ void MainWindow::EditDescription() {
   ShowForm(program_, dialog);
   recovery_.Committed();
   RefreshCaption();
-  if (dialog.OpensParameters) EditCommand(edit_item::Parameters, Trap::None);
+  if (dialog.OpensParameters) EditCommand(edit_item::Parameters);
 }
 
+// A design that cannot be shown, which only a damaged file holds, is told, and the run goes on.
 template <class Dialog>
-void MainWindow::EditDesign(Trap trap) {
+void MainWindow::EditDesign() {
   Windows& windows = program_.platform.windows;
   std::unique_ptr<Dialog> dialog;
-  const auto outcome = Run(trap, [&] {
+  const auto outcome = Run(Trap::Set, [&] {
     windows.SetWaitCursor(true);
     dialog = std::make_unique<Dialog>(program_);
     While(Act::ShowDialog, [&] { dialog->Open(); });

@@ -24,7 +24,7 @@ MainWindow::MainWindow(Program& program, std::optional<Restart> restart)
   TieCommands();
   TieHistory();
   program_.OpenInputDialog = [this](Integer caller) {
-    EditCommand(caller == report_caller::Cost ? edit_item::Cost : edit_item::Parameters, Trap::None);
+    EditCommand(caller == report_caller::Cost ? edit_item::Cost : edit_item::Parameters);
   };
 }
 
@@ -36,7 +36,7 @@ MainWindow::~MainWindow() {
 void MainWindow::TieCommands() {
   mnuFileItem.Click = [this](Integer item) { FileCommand(item); };
   mnuFileArray.Click = [this](Integer item) { OpenRecent(item); };
-  mnuEditItem.Click = [this](Integer item) { EditCommand(item, Trap::None); };
+  mnuEditItem.Click = [this](Integer item) { EditCommand(item); };
   mnuUtilItem.Click = [this](Integer item) { UtilityCommand(item); };
   mnuHelpItem.Click = [this](Integer item) { HelpCommand(item); };
   Toolbar1.Click = [this](Integer button) {
@@ -44,8 +44,8 @@ void MainWindow::TieCommands() {
       case tool_button::Open: FileCommand(file_item::Open); break;
       case tool_button::Save: FileCommand(file_item::Save); break;
       case tool_button::Print: PrintProject(false); break;
-      case tool_button::Description: EditCommand(edit_item::Description, Trap::None); break;
-      case tool_button::Parameters: EditCommand(edit_item::Parameters, Trap::None); break;
+      case tool_button::Description: EditCommand(edit_item::Description); break;
+      case tool_button::Parameters: EditCommand(edit_item::Parameters); break;
       default: break;
     }
   };

@@ -1,7 +1,7 @@
 // The main window: all work starts from its menus, and its pane shows the history of the run.
 //
 // A command of the File menu runs under a trap, step by step: a step that fails is told and done again, passed over or
-// given up, as the user says. The file of the command line and the input dialogs of the menu have no trap.
+// given up, as the user says. So does the opening of an input dialog. The file of the command line has no trap.
 #pragma once
 
 #include <functional>
@@ -75,10 +75,10 @@ class MainWindow : public MainControls {
   void Exit();
 
   // input_commands.cpp
-  void EditCommand(Integer item, Trap trap);
+  void EditCommand(Integer item);
   void EditDescription();
   template <class Dialog>
-  void EditDesign(Trap trap);
+  void EditDesign();
   template <class Dialog>
   void KeepEdits(Dialog& dialog);
 

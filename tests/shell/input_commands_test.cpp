@@ -141,10 +141,15 @@ TEST_F(InputMenu, ShowsADesignWithoutADepth) {
   EXPECT_EQ(platform.windows.modalForms, 1);
 }
 
-TEST_F(InputMenu, EndsTheRunWithTheErrorOfADesignThatCannotBeShown) {
+TEST_F(InputMenu, TellsThatADesignCannotBeShownAndGoesOn) {
   program.WorkParms.BoltOptionsPrimary = 2;
 
-  EXPECT_EQ(ErrorNumberOf([&] { Choose(edit_item::Parameters); }), 9);
+  Choose(edit_item::Parameters);
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Internal Error: SetArrayIndex. Check input/form data.",
+                                                  "Error occurred: Subscript out of range (9). Procedure Terminated"));
+  EXPECT_TRUE(platform.windows.mainWindowShown);
+  EXPECT_FALSE(program.DialogOpen);
 }
 
 TEST_F(InputMenu, IsToldOnTheRoadOfOpenThatADesignCannotBeShown) {
