@@ -51,11 +51,12 @@ std::optional<double> NumberOf(std::string_view text) {
 
 bool IsNumber(std::string_view text) { return text.find_first_not_of("0123456789.-+eE ") == std::string_view::npos; }
 
-// A text that no design can hold leaves the last one that it could. The whole numbers of the design are small ones.
-bool Fits(std::string_view text) {
+// A text that no design can hold leaves the last one that it could.
+bool Fits(std::string_view text) { return !IsNumber(text) || NumberOf(text).has_value(); }
+
+bool FitsWhole(std::string_view text) {
   constexpr double LargestWhole = 32767;
-  const auto number = NumberOf(text);
-  return number.has_value() && std::abs(*number) <= LargestWhole;
+  return !IsNumber(text) || std::abs(NumberOf(text).value_or(FLT_MAX)) <= LargestWhole;
 }
 
 // Whether the text is what a dialog that opens makes of the other one.
@@ -66,6 +67,13 @@ bool IsSame(std::string_view after, std::string_view before) {
   const double decimals = point == std::string_view::npos ? 0 : static_cast<double>(after.size() - point - 1);
   const double was = NumberOf(before).value_or(0);
   return std::abs(NumberOf(after).value_or(0) - was) <= 0.5001 * std::pow(10.0, -decimals) + std::abs(was) * 1e-6;
+}
+
+// Whether the text is one that the field may come back with.
+bool IsBack(const ShownField& field, std::string_view after) {
+  // A name may look like a number.
+  return after == field.typed.View() || IsSame(after, field.text.View()) || IsSame(after, field.settled.View()) ||
+         (!FitsWhole(field.text.View()) && IsSame(after, field.whole.View()));
 }
 
 using Texts = std::map<std::string, std::string>;
@@ -149,11 +157,13 @@ void NoteShown(ShownProject& shown) {
   int at = 0;
   for (const auto& [name, text] : fields) {
     ShownField& field = FieldNamed(shown, name, at++);
-    if (!IsNumber(text) || Fits(text)) {
+    field.typed.Set(text);
+    if (Fits(text)) {
       field.text.Set(text);
     } else {
       allFit = false;
     }
+    if (FitsWhole(text)) field.whole.Set(text);
   }
   if (!allFit) return;
   at = 0;
@@ -212,10 +222,7 @@ void Comeback::LookAtFields(QWidget& mainWindow) {
     for (int i = 0; i < shown_.fieldCount; ++i) {
       const ShownField& field = shown_.fields[static_cast<std::size_t>(i)];
       const auto found = now.find(std::string(field.name.View()));
-      if (found == now.end() || IsSame(found->second, field.text.View()) ||
-          IsSame(found->second, field.settled.View())) {
-        continue;
-      }
+      if (found == now.end() || IsBack(field, found->second)) continue;
       lost += found->first + " was '" + std::string(field.text.View()) + "', is '" + found->second + "'\n";
     }
     if (!lost.empty()) find_("the project is not back: fields of " + std::string(editor.form), lost);

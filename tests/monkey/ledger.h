@@ -72,7 +72,9 @@ struct RunRecord {
 // A field as a window showed it.
 struct ShownField {
   FixedText<48> name;
+  FixedText<120> typed;    // as it stood last
   FixedText<120> text;     // the last that is a number a design can hold, where it is one
+  FixedText<120> whole;    // the last that a whole number of a design can hold, too
   FixedText<120> settled;  // in the last state in which all of them were
 };
 
