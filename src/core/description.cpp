@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/arithmetic.h"
+#include "base/attempt.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "core/file_helpers.h"
@@ -19,12 +20,22 @@ std::string ThroughTemporaryFile(Program& program, std::string_view text) {
   const std::string& folder = program.folders.ProgramTemporary;
   // Until the user's folders are known, the machine's own serves.
   const std::string path = (folder.empty() ? GetTempDirectory(program) : folder) + "~tmpdesc.tmp";
-  const auto file = files.CreateFile(path);
-  file->Write(text);
-  file->Close();
-  std::string read = files.ReadFile(path);
-  if (FileExists(program, path)) files.RemoveFile(path);
-  return read;
+  const auto remove = [&] { files.RemoveFile(path); };
+  try {
+    const auto file = files.CreateFile(path);
+    file->Write(text);
+    file->Close();
+    std::string read = files.ReadFile(path);
+    if (FileExists(program, path)) {
+      remove();
+    } else {
+      Succeeds(remove);  // the search may have failed
+    }
+    return read;
+  } catch (const RuntimeError&) {
+    Succeeds(remove);
+    throw;
+  }
 }
 
 struct NormalDescription {

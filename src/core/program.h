@@ -79,6 +79,13 @@ struct ShownResults {
   std::string Page;
 };
 
+// A project file as this run read or saved it last.
+struct FileOnDisk {
+  std::string Path;  // empty: none
+  std::string Bytes;
+  bool IsSpoilt = false;  // a failed save has left something else there, and could not put the bytes back
+};
+
 struct Program {
   explicit Program(Platform platformGiven) : platform(platformGiven) {}
 
@@ -96,6 +103,8 @@ struct Program {
   std::string CurrentFile{UntitledName};
   std::string PreviousFile;
   Integer FileVersion = 0;  // of the last project read: one less than the number in its label
+  FileOnDisk LastFile;
+  bool ToldOfNoBackup = false;  // in this run
   bool FileSaved = true;
   bool FileEmpty = true;
   bool UnitsLocked = false;

@@ -31,10 +31,10 @@ void ConvertDialog::Convert() {
   } catch (const RuntimeError& error) {
     failure_ = error;
   }
-  const bool converted = !failure_;
-  if (converted) converted_();
-  ShowMessage(program_, converted ? "Conversion Completed: The conversion form will be closed"
-                                  : "Error in the Conversion Procedure. Call technical support");
+  // Of a conversion that failed, the fields done so far stay converted.
+  converted_();
+  ShowMessage(program_, failure_ ? "Error in the Conversion Procedure. Call technical support"
+                                 : "Conversion Completed: The conversion form will be closed");
   Close();
 }
 

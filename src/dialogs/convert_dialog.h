@@ -28,7 +28,7 @@ class ConvertControls : public Form {
 
 class ConvertDialog : public ConvertControls {
  public:
-  // converted: runs once the project is another one, before the user is told.
+  // converted: runs once the project is another one, or has been converted in part, before the user is told.
   explicit ConvertDialog(
       Program& program, std::function<void()> converted = [] {});
 

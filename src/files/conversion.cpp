@@ -115,6 +115,7 @@ Single Rounded(double value, int decimals) {
 }  // namespace
 
 void ConvertProject(Program& program, Integer target) {
+  program.FileSaved = false;
   for (const ConversionRow& row : Conversions) {
     Single& field = program.WorkParms.*row.Field;
     const double value = field;
@@ -124,7 +125,6 @@ void ConvertProject(Program& program, Integer target) {
   program.CurrentFile =
       (target == Metric ? "Metric_" : "English_") + FileNameFromPath(program, program.CurrentFile, false);
   program.Units = target;
-  program.FileSaved = false;
 }
 
 }  // namespace orby

@@ -166,7 +166,10 @@ void FillConfiguredValues(Program& program) {
 }  // namespace
 
 void FileNew(Program& program, bool untitled, bool resetUnits) {
-  if (untitled) program.CurrentFile = UntitledName;
+  if (untitled) {
+    program.CurrentFile = UntitledName;
+    program.LastFile = {};
+  }
   if (resetUnits) {
     program.Units = program.settings.UnitsDefault;
     program.BoltStrengthMode = program.options.BoltGradeAsUltimateDefault;

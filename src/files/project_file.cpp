@@ -1,6 +1,9 @@
 #include "files/project_file.h"
 
+#include <utility>
+
 #include "core/messages.h"
+#include "files/backups.h"
 #include "files/new_project.h"
 #include "files/save_command.h"
 
@@ -28,6 +31,7 @@ void FileOpen(Program& program, bool& ok) {
   ok = false;
   if (!program.FileSaved && !SaveChangesOfPreviousFile(program)) return;
   program.platform.windows.SetWaitCursor(true);
+  program.LastFile = {};
   FileNew(program, false, true);
   AddHistoryLine(program, "Opening: " + program.CurrentFile);
 
@@ -36,6 +40,8 @@ void FileOpen(Program& program, bool& ok) {
   if (CheckFileFormat(program, ItemReader(bytes))) {
     ReadRest(*file, bytes);
     ReadProject(program, ItemReader(bytes));
+    // Of a longer one it cannot be told whether it has changed.
+    if (bytes.size() <= LargestBackup) program.LastFile = {program.CurrentFile, std::move(bytes), false};
     program.FileSaved = true;
     program.FileEmpty = false;
     program.UnitsLocked = true;

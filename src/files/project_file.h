@@ -3,6 +3,7 @@
 
 #include "core/program.h"
 #include "files/project_reader.h"
+#include "files/project_save.h"
 #include "files/project_writer.h"
 
 namespace orby {

@@ -5,8 +5,6 @@
 #include "base/code_page.h"
 #include "base/number_text.h"
 #include "base/text.h"
-#include "core/description.h"
-#include "core/messages.h"
 #include "files/description_reader.h"
 
 namespace orby {
@@ -48,9 +46,6 @@ std::string DataText(const ProjectRecord& record) {
   return text;
 }
 
-// Whether a file holds the text as it stands. One character without a place in the code page makes UTF-8 of all lines.
-bool IsHeldAsItStands(std::string_view text) { return FileBytesFromText(text) == text; }
-
 }  // namespace
 
 std::string DataLineText(const ProjectRecord& record, const ProjectLine& line) {
@@ -62,28 +57,6 @@ std::string DataLineText(const ProjectRecord& record, const ProjectLine& line) {
 
 std::string ProjectFileBytes(const Program& program) {
   return FileBytesFromText(HeaderText(program) + DescriptionText(program) + DataText(program.WorkParms));
-}
-
-void FileSave(Program& program, bool& ok) {
-  ok = false;
-  AddHistoryLine(program, "Saving: " + program.CurrentFile);
-  program.platform.windows.SetWaitCursor(true);
-
-  const std::string header = HeaderText(program);
-  const std::string data = DataText(program.WorkParms);
-  const bool asItStands = IsHeldAsItStands(header + program.ProjectDescription + data);
-  const auto encoded = [asItStands](const std::string& text) { return asItStands ? text : FileBytesFromText(text); };
-
-  const auto file = program.platform.files.CreateFile(program.CurrentFile);
-  file->Write(encoded(header));
-  SaveDescription(program);
-  file->Write(encoded(DescriptionText(program)));
-  file->Write(encoded(data));
-  file->Close();
-
-  program.FileSaved = true;
-  ok = true;
-  program.platform.windows.SetWaitCursor(false);
 }
 
 }  // namespace orby

@@ -7,7 +7,7 @@
 #include "core/file_helpers.h"
 #include "core/messages.h"
 #include "files/backups.h"
-#include "files/project_writer.h"
+#include "files/project_save.h"
 
 namespace orby {
 namespace {
@@ -41,7 +41,9 @@ bool FileMenuSave(Program& program, bool saveAs) {
     if (outcome != StepOutcome::Done) return false;
   }
   bool ok = false;
-  RunTrapped(program, [&] { FileSave(program, ok); });
+  SaveRemarks remarks;
+  RunTrapped(program, [&] { FileSave(program, ok, remarks); });
+  ShowRemarks(program, remarks);
   return ok;
 }
 

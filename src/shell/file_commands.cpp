@@ -72,9 +72,11 @@ void MainWindow::LoadProjFile(Trap trap) {
 }
 
 void MainWindow::SaveProject(bool saveAs) {
-  if (!FileMenuSave(program_, saveAs)) return;
-  recovery_.Discard();
-  UpdateRecentFiles();
+  const bool isSaved = FileMenuSave(program_, saveAs);
+  if (!isSaved && program_.FileSaved) return;
+  // A save that failed makes an unsaved project also of one that was saved.
+  recovery_.Committed();
+  if (isSaved) UpdateRecentFiles();
   RefreshCaption();
 }
 

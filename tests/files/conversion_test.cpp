@@ -191,7 +191,7 @@ TEST(Conversion, AnOverflowEndsItAndKeepsWhatWasConverted) {
   EXPECT_EQ(project.program.WorkParms.BoltGradeStdPrimary, 75);
   EXPECT_EQ(project.program.CurrentFile, ProjectPath);
   EXPECT_EQ(project.program.Units, English);
-  EXPECT_TRUE(project.program.FileSaved);
+  EXPECT_FALSE(project.program.FileSaved);
 }
 
 TEST(Conversion, WorksOnTheCommittedDesignAlone) {

@@ -8,10 +8,8 @@
 namespace orby::test {
 namespace {
 
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::StartsWith;
-using Step = MemoryFiles::Step;
 
 struct NewProject : TestProject {
   NewProject() { FileNew(program, false, true); }
@@ -142,70 +140,6 @@ TEST(ProjectWriter, OneCharacterOutsideTheCodePageMakesTheWholeFileUtf8) {
                                         "be\r\n"));
   EXPECT_THAT(project.File(), HasSubstr("\r\n\xE6\x94\xAF\xE6\x9F\xB1\r\n"));
   EXPECT_EQ(project.File(), ProjectFileBytes(project.program));
-}
-
-TEST(ProjectWriter, TheTargetIsEmptiedAtOnce) {
-  NewProject project;
-  project.program.FileSaved = false;
-  project.File() = "an older project";
-  project.platform.files.Fail(Step::Write, error_number::DiskFull);
-  bool ok = true;
-
-  EXPECT_EQ(ErrorNumberOf([&] { FileSave(project.program, ok); }), 61);
-
-  EXPECT_EQ(project.File(), "");
-  EXPECT_FALSE(ok);
-  EXPECT_FALSE(project.program.FileSaved);
-}
-
-TEST(ProjectWriter, AFailureOnTheWayLeavesAShortFile) {
-  NewProject project;
-  project.platform.files.Fail(Step::Write, error_number::DiskFull, 2);
-  bool ok = true;
-
-  EXPECT_EQ(ErrorNumberOf([&] { FileSave(project.program, ok); }), 61);
-
-  EXPECT_EQ(project.File(), "ORBY_105\r\n 0 \r\n 0 \r\n 0 \r\n\r\n##StartDesc##\r\n\r\n##EndDesc##\r\n");
-  EXPECT_FALSE(ok);
-}
-
-TEST(ProjectWriter, AHeaderThatCannotBeWrittenLeavesTheDescriptionAsTyped) {
-  NewProject project;
-  project.program.ProjectDescription = "Shale\r\n\r\nWater";
-  project.platform.files.Fail(Step::Write, error_number::DiskFull);
-
-  EXPECT_EQ(ErrorNumberOf([&] { project.Save(); }), 61);
-
-  EXPECT_EQ(project.program.ProjectDescription, "Shale\r\n\r\nWater");
-}
-
-TEST(ProjectWriter, AFileThatCannotBeClosedIsNotSaved) {
-  NewProject project;
-  project.program.FileSaved = false;
-  project.platform.files.Fail(Step::Close, error_number::DiskFull);
-
-  EXPECT_EQ(ErrorNumberOf([&] { project.Save(); }), 61);
-
-  EXPECT_FALSE(project.program.FileSaved);
-}
-
-TEST(ProjectWriter, ATemporaryFileThatFailsDoesNotStopTheSave) {
-  NewProject project;
-  project.program.ProjectDescription = "Shale\r\n\r\nWater";
-  project.platform.files.Fail(Step::Read, error_number::PermissionDenied);
-
-  EXPECT_TRUE(project.Save());
-
-  EXPECT_THAT(project.File(), HasSubstr("##StartDesc##\r\nShale\r\n\r\nWater\r\n##EndDesc##\r\n"));
-}
-
-TEST(ProjectWriter, TheTargetIsOpenedBeforeTheTemporaryFile) {
-  NewProject project;
-  project.program.ProjectDescription = "Shale";
-
-  project.Save();
-
-  EXPECT_THAT(project.platform.files.created, ElementsAre(ProjectPath, TemporaryDescription));
 }
 
 }  // namespace

@@ -23,7 +23,9 @@ class MendingBoxes : public MessageBoxes {
   int Show(const MessageBox& box) override {
     constexpr int Never = 1'000'000;
     texts.push_back(box.text);
-    for (const Step step : {Step::Create, Step::Write, Step::Close}) files_.Fail(step, error_number::DiskFull, Never);
+    for (const Step step : {Step::Create, Step::Reserve, Step::Write, Step::Cut, Step::Flush, Step::Close}) {
+      files_.Fail(step, error_number::DiskFull, Never);
+    }
     return answer;
   }
 
@@ -92,9 +94,8 @@ TEST_P(SaveThatFails, LeavesAnUnsavedProjectThatIsSavedLater) {
 
 INSTANTIATE_TEST_SUITE_P(Steps, SaveThatFails,
                          testing::Values(FailingStep{"Create", Step::Create, 0},
-                                         FailingStep{"WriteOfTheHeader", Step::Write, 0},
-                                         FailingStep{"WriteOfTheDescription", Step::Write, 1},
-                                         FailingStep{"WriteOfTheData", Step::Write, 2},
+                                         FailingStep{"Reserve", Step::Reserve, 0}, FailingStep{"Write", Step::Write, 0},
+                                         FailingStep{"Cut", Step::Cut, 0}, FailingStep{"Flush", Step::Flush, 0},
                                          FailingStep{"Close", Step::Close, 0}),
                          [](const testing::TestParamInfo<FailingStep>& step) { return step.param.name; });
 

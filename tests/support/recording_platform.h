@@ -50,6 +50,8 @@ struct PowerCut {};
 // power goes.
 class MemoryFiles : public FileSystem {
  public:
+  static constexpr int Always = -1;
+
   enum class Step {
     Find,
     Read,
@@ -66,13 +68,21 @@ class MemoryFiles : public FileSystem {
     ListFolders
   };
 
-  // The step fails with this error, as soon as it has succeeded `after` times.
-  void Fail(Step step, int errorNumber, int after = 0) { failures[step] = {errorNumber, after}; }
+  // The step fails with this error, as soon as it has succeeded `after` times; so many times, or always.
+  void Fail(Step step, int errorNumber, int after = 0, int count = Always) {
+    failures[step] = {errorNumber, after, count};
+  }
+  // No step fails any more.
+  void Mend() { failures.clear(); }
 
   // The step after so many others fails with this error, whatever it is.
-  void FailNext(int errorNumber, int after) { next = {errorNumber, after}; }
+  void FailNext(int errorNumber, int after) { next = {errorNumber, after, 1}; }
+  // That step and all that follow it fail.
+  void FailFrom(int errorNumber, int after) { next = {errorNumber, after, Always}; }
   // The power goes at the step after so many others.
-  void CutPower(int after) { next = {PowerIsCut, after}; }
+  void CutPower(int after) { next = {PowerIsCut, after, 1}; }
+  // Whether that step has come.
+  bool HasFailed() const { return next.hasFailed; }
 
   bool Finds(const std::string& path, bool foldersToo) override {
     Meet(Step::Find);
@@ -202,6 +212,15 @@ class MemoryFiles : public FileSystem {
   struct Failure {
     int errorNumber = 0;
     int after = 0;
+    int times = Always;
+    bool hasFailed = false;
+
+    bool IsMet() {
+      if (errorNumber == 0 || after-- > 0 || times == 0) return false;
+      if (times > 0) --times;
+      hasFailed = true;
+      return true;
+    }
   };
 
   class MemoryOutput : public OutputFile {
@@ -279,15 +298,11 @@ class MemoryFiles : public FileSystem {
   };
 
   void Meet(Step step) {
-    if (next.errorNumber != 0 && next.after-- == 0) {
-      const int errorNumber = std::exchange(next.errorNumber, 0);
-      if (errorNumber == PowerIsCut) throw PowerCut();
-      throw RuntimeError(errorNumber);
+    for (Failure* failure : {&next, &failures[step]}) {
+      if (!failure->IsMet()) continue;
+      if (failure->errorNumber == PowerIsCut) throw PowerCut();
+      throw RuntimeError(failure->errorNumber);
     }
-    const auto found = failures.find(step);
-    if (found == failures.end()) return;
-    if (found->second.after-- > 0) return;
-    throw RuntimeError(found->second.errorNumber);
   }
 
   static constexpr int PowerIsCut = -1;

@@ -65,6 +65,11 @@ std::unique_ptr<OutputFile> ScriptFiles::CreateFile(const std::string& path) {
   return std::make_unique<ScratchFile>(text);
 }
 
+// A script has no use for half of a file: what is there stays until the new one is whole.
+std::unique_ptr<OutputFile> ScriptFiles::OpenInPlace(const std::string& path, std::uint64_t) {
+  return CreateFile(path);
+}
+
 void ScriptFiles::RemoveFile(const std::string& path) {
   if (IsScratch(path)) {
     scratch_.erase(path);

@@ -1,7 +1,9 @@
 // The platform of a script: no windows, messages on standard error, temporary files in memory.
 #pragma once
 
+#include <cstdint>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -28,6 +30,7 @@ class ScriptFiles : public DiskFiles {
   bool Finds(const std::string& path, bool foldersToo) override;
   std::string ReadFile(const std::string& path) override;
   std::unique_ptr<OutputFile> CreateFile(const std::string& path) override;
+  std::unique_ptr<OutputFile> OpenInPlace(const std::string& path, std::uint64_t length) override;
   void RemoveFile(const std::string& path) override;
   std::string TemporaryFolder() override;
 

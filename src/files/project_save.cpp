@@ -1,0 +1,71 @@
+#include "files/project_save.h"
+
+#include "core/description.h"
+#include "core/messages.h"
+#include "files/overwritten_file.h"
+#include "files/project_writer.h"
+#include "files/read_back.h"
+
+namespace orby {
+namespace {
+
+// "a, b, c and 12 more"
+std::string ListedNames(const std::vector<std::string_view>& names) {
+  constexpr std::size_t Listed = 3;
+  std::string text;
+  for (std::size_t at = 0; at < std::min(Listed, names.size()); ++at) {
+    if (at > 0) text += ", ";
+    text += names[at];
+  }
+  if (names.size() > Listed) text += " and " + std::to_string(names.size() - Listed) + " more";
+  return text;
+}
+
+void AppendFieldsThatDiffer(const Program& program, const std::string& bytes, SaveRemarks& remarks) {
+  const std::vector<std::string_view> fields = FieldsThatReadDifferently(program, bytes);
+  if (fields.empty()) return;
+  remarks.push_back(
+      program.CurrentFile +
+      " is saved, but when it is opened these fields will not be what they are now: " + ListedNames(fields) +
+      ". Look for commas and quotation marks in the bolt descriptions, the title and the description.");
+}
+
+}  // namespace
+
+void FileSave(Program& program, bool& ok, SaveRemarks& remarks) {
+  ok = false;
+  remarks.clear();
+  AddHistoryLine(program, "Saving: " + program.CurrentFile);
+  program.platform.windows.SetWaitCursor(true);
+
+  program.FileSaved = false;
+  const std::string typed = program.ProjectDescription;
+  const Integer lines = program.DescLines;
+  SaveDescription(program);
+  const std::string bytes = ProjectFileBytes(program);
+  OverwrittenFile file(program, program.CurrentFile);
+  try {
+    file.Overwrite(bytes, remarks);
+  } catch (const RuntimeError&) {
+    program.ProjectDescription = typed;
+    program.DescLines = lines;
+    throw;
+  }
+  AppendFieldsThatDiffer(program, bytes, remarks);
+
+  program.FileSaved = true;
+  ok = true;
+  program.platform.windows.SetWaitCursor(false);
+}
+
+void FileSave(Program& program, bool& ok) {
+  SaveRemarks remarks;
+  FileSave(program, ok, remarks);
+  ShowRemarks(program, remarks);
+}
+
+void ShowRemarks(Program& program, const SaveRemarks& remarks) {
+  for (const std::string& remark : remarks) ShowMessage(program, remark, box_style::Exclamation);
+}
+
+}  // namespace orby

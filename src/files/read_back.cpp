@@ -1,0 +1,49 @@
+#include "files/read_back.h"
+
+#include "base/attempt.h"
+#include "files/project_lines.h"
+#include "files/project_reader.h"
+#include "files/project_writer.h"
+
+namespace orby {
+namespace {
+
+// Gives the field another value, so that one that is never read shows.
+void Spoil(ProjectRecord& record, const RecordField& field) {
+  if (const auto* text = std::get_if<TextField>(&field)) {
+    record.** text += '?';
+  } else if (const auto* single = std::get_if<SingleField>(&field)) {
+    record.** single = record.**single == 0 ? 1.0F : 0.0F;
+  } else {
+    Integer& value = record.*std::get<IntegerField>(field);
+    value = value == 0 ? 1 : 0;
+  }
+}
+
+// Whether a line of the file comes back into its own field and no other one into it.
+bool HasOwnField(const ProjectLine& line) {
+  for (const ProjectLine& other : ProjectLines) {
+    if (other.Field != other.ReadInto && (line.Field == other.Field || line.Field == other.ReadInto)) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+std::vector<std::string_view> FieldsThatReadDifferently(const Program& program, std::string_view bytes) {
+  Program read(program.platform);
+  read.FileVersion = Version105;
+  read.WorkParms = program.WorkParms;
+  for (const ProjectLine& line : ProjectLines) Spoil(read.WorkParms, line.Field);
+  // Where the reading breaks off, the fields after it stay spoilt.
+  Succeeds([&] { ReadProject(read, ItemReader(bytes)); });
+
+  std::vector<std::string_view> names;
+  for (const ProjectLine& line : ProjectLines) {
+    if (!HasOwnField(line)) continue;
+    if (DataLineText(program.WorkParms, line) != DataLineText(read.WorkParms, line)) names.push_back(line.Name);
+  }
+  return names;
+}
+
+}  // namespace orby

@@ -1,0 +1,360 @@
+// What a save does with what lay in its file.
+#include "files/project_save.h"
+
+#include <gmock/gmock.h>
+
+#include "files/backups.h"
+#include "files/save_command.h"
+#include "project_fixture.h"
+#include "support/test_data.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+using Step = MemoryFiles::Step;
+
+const std::string OldPath = "/designs/panel3.orb.old";
+
+// An open project with a change, in a program with a data folder.
+struct ChangedProject : TestProject {
+  ChangedProject() {
+    program.folders.ProgramData = "/data/";
+    FileNew(program, false, true);
+    Save();
+    old = File();
+    program.WorkParms.DepthofCover = 810;
+    typed = ProjectFileBytes(program);
+    platform.boxes.shown.clear();
+  }
+
+  int SaveError() {
+    return ErrorNumberOf([this] { FileSave(program, ok, remarks); });
+  }
+
+  std::vector<std::string> KeptBytes() {
+    std::vector<std::string> kept;
+    for (const Backup& backup : ListBackups(program)) kept.push_back(platform.files.files.at(backup.Path));
+    return kept;
+  }
+  std::optional<BackupReason> ReasonOfNewest() { return ListBackups(program).at(0).Reason; }
+
+  // The files beside the program's data.
+  std::vector<std::string> OtherFiles() {
+    std::vector<std::string> others;
+    for (const auto& [path, bytes] : platform.files.files) {
+      if (!path.starts_with("/data/")) others.push_back(path);
+    }
+    return others;
+  }
+
+  std::string old;
+  std::string typed;
+  bool ok = true;
+  SaveRemarks remarks;
+};
+
+TEST(ProjectSave, KeepsWhatItWritesOver) {
+  ChangedProject project;
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_EQ(project.File(), project.typed);
+  EXPECT_THAT(project.KeptBytes(), ElementsAre(project.old));
+  EXPECT_EQ(project.ReasonOfNewest(), BackupReason::Overwritten);
+  EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
+  EXPECT_TRUE(project.program.FileSaved);
+}
+
+TEST(ProjectSave, KeepsNothingOfAProjectThatIsTheSame) {
+  ChangedProject project;
+  project.program.WorkParms.DepthofCover = 400;
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_EQ(project.File(), project.old);
+  EXPECT_THAT(project.KeptBytes(), IsEmpty());
+}
+
+TEST(ProjectSave, KeepsNothingOfANewFile) {
+  ChangedProject project;
+  project.program.CurrentFile = "/designs/new.orb";
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_THAT(project.KeptBytes(), IsEmpty());
+}
+
+TEST(ProjectSave, UnderAnotherNameKeepsTheFileThatHasIt) {
+  ChangedProject project;
+  project.platform.files.files["/designs/other.orb"] = "another design";
+  project.program.CurrentFile = "/designs/other.orb";
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_THAT(project.KeptBytes(), ElementsAre("another design"));
+  EXPECT_EQ(project.ReasonOfNewest(), BackupReason::Overwritten);
+  EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
+}
+
+TEST(ProjectSave, OverARefusedFileKeepsIt) {
+  ChangedProject project;
+  project.Open("bolts are in stock\r\n");
+  project.platform.boxes.shown.clear();
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_THAT(project.KeptBytes(), ElementsAre("bolts are in stock\r\n"));
+  EXPECT_EQ(project.ReasonOfNewest(), BackupReason::Overwritten);
+  EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
+}
+
+TEST(ProjectSave, KeepsAndTellsWhatAnotherProgramWroteMeanwhile) {
+  ChangedProject project;
+  project.File() = "the other's design";
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_EQ(project.File(), project.typed);
+  EXPECT_THAT(project.KeptBytes(), ElementsAre("the other's design"));
+  EXPECT_EQ(project.ReasonOfNewest(), BackupReason::ChangedOnDisk);
+  ASSERT_EQ(project.platform.boxes.shown.size(), 1U);
+  EXPECT_THAT(project.platform.boxes.shown[0].text,
+              StartsWith("/designs/panel3.orb had been changed by another program. It now holds the project as it is "
+                         "here; what the other program wrote is kept in /data/Backups/"));
+  EXPECT_THAT(project.program.history.Text, HasSubstr("had been changed by another program"));
+}
+
+TEST(ProjectSave, KnowsTheFileThatItOpened) {
+  ChangedProject project;
+  project.Open();
+  project.program.WorkParms.DepthofCover = 820;
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_EQ(project.ReasonOfNewest(), BackupReason::Overwritten);
+  EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
+}
+
+TEST(ProjectSave, TellsOfAFileThatWasChangedSinceItWasOpened) {
+  ChangedProject project;
+  project.Open();
+  project.File() += "more";
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_EQ(project.ReasonOfNewest(), BackupReason::ChangedOnDisk);
+}
+
+TEST(ProjectSave, SaysNothingOfAChangeThatIsTheSame) {
+  ChangedProject project;
+  project.File() = project.typed;
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
+  EXPECT_THAT(project.KeptBytes(), IsEmpty());
+}
+
+TEST(ProjectSave, KnowsItsOwnFileFromTheLastSave) {
+  ChangedProject project;
+  project.Save();
+  project.program.WorkParms.DepthofCover = 820;
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_EQ(project.ReasonOfNewest(), BackupReason::Overwritten);
+  EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
+}
+
+TEST(ProjectSave, ANewDesignKnowsNothingOfTheFileThatItIsSavedOver) {
+  ChangedProject project;
+  FileNew(project.program, true, true);
+  project.File() = "the other's design";
+  project.program.CurrentFile = ProjectPath;
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_EQ(project.ReasonOfNewest(), BackupReason::Overwritten);
+}
+
+class FailedSave : public testing::TestWithParam<Step> {};
+
+TEST_P(FailedSave, LeavesTheFileAsItWasAndTellsWhereTheCopyLies) {
+  ChangedProject project;
+  project.program.ProjectDescription = "Shale\r\n\r\nWater";
+  project.Save();
+  project.program.ProjectDescription = "Shale\r\n\r\nNo water";
+  const std::string before = project.File();
+  project.platform.boxes.answers = {box_result::Cancel};
+  // The backup and its note come first.
+  const bool isOfBackupToo = GetParam() == Step::Flush || GetParam() == Step::Write || GetParam() == Step::Close;
+  const int ofDescription = GetParam() == Step::Write || GetParam() == Step::Close ? 1 : 0;
+  project.platform.files.Fail(GetParam(), error_number::DiskFull,
+                              GetParam() == Step::Create ? 3
+                              : isOfBackupToo            ? 2 + ofDescription
+                                                         : 0,
+                              1);
+
+  EXPECT_FALSE(FileMenuSave(project.program, false));
+
+  EXPECT_EQ(project.File(), before);
+  EXPECT_FALSE(project.program.FileSaved);
+  EXPECT_EQ(project.program.ProjectDescription, "Shale\r\n\r\nNo water");
+  EXPECT_THAT(
+      project.platform.boxes.Texts(),
+      ElementsAre("Error occurred: Disk full (61)",
+                  StartsWith("/designs/panel3.orb is as it was before. A copy of it is kept in /data/Backups/")));
+  EXPECT_THAT(project.OtherFiles(), ElementsAre(ProjectPath)) << "no temporary file stays";
+}
+
+INSTANTIATE_TEST_SUITE_P(Steps, FailedSave,
+                         testing::Values(Step::Create, Step::Reserve, Step::Write, Step::Cut, Step::Flush,
+                                         Step::Close));
+
+TEST(ProjectSave, OfASavedProjectThatFailsLeavesItUnsaved) {
+  ChangedProject project;
+  project.program.FileSaved = true;
+  project.platform.files.Fail(Step::Reserve, error_number::DiskFull);
+
+  EXPECT_EQ(project.SaveError(), 61);
+
+  EXPECT_FALSE(project.ok);
+  EXPECT_FALSE(project.program.FileSaved);
+}
+
+TEST(ProjectSave, ThatCannotPutTheOldBytesBackTellsWhereTheyAre) {
+  ChangedProject project;
+  project.platform.files.Fail(Step::Cut, error_number::DiskFull);
+
+  EXPECT_EQ(project.SaveError(), 61);
+
+  EXPECT_THAT(project.remarks, ElementsAre(StartsWith("/designs/panel3.orb may be damaged. What it held before is kept "
+                                                      "in /data/Backups/")));
+  EXPECT_THAT(project.KeptBytes(), ElementsAre(project.old));
+}
+
+TEST(ProjectSave, AfterOneThatLeftADamagedFileDoesNotBlameAnotherProgram) {
+  ChangedProject project;
+  project.platform.files.Fail(Step::Cut, error_number::DiskFull);
+  ASSERT_EQ(project.SaveError(), 61);
+  project.platform.files.Mend();
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_EQ(project.File(), project.typed);
+  EXPECT_THAT(project.KeptBytes(), ElementsAre(project.old)) << "not the damaged file";
+  EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
+}
+
+TEST(ProjectSave, WithoutRoomForABackupGoesOnAndTellsOnce) {
+  ChangedProject project;
+  project.platform.files.Fail(Step::Rename, error_number::DiskFull);
+
+  EXPECT_TRUE(project.Save());
+  project.program.WorkParms.DepthofCover = 820;
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_THAT(project.platform.boxes.Texts(),
+              ElementsAre("No backup of what /designs/panel3.orb held before could be kept in /data/Backups/."));
+  EXPECT_THAT(project.KeptBytes(), IsEmpty());
+  EXPECT_THAT(project.File(), HasSubstr("\r\n820\r\n"));
+}
+
+TEST(ProjectSave, WithoutABackupHoldsTheOldBytesUntilTheyAreOnTheDiskAgain) {
+  ChangedProject project;
+  project.platform.files.Fail(Step::Rename, error_number::DiskFull);
+  project.platform.files.Fail(Step::Cut, error_number::DiskFull);
+  ASSERT_EQ(project.SaveError(), 61);
+  EXPECT_THAT(project.remarks,
+              ElementsAre("/designs/panel3.orb may be damaged, and no backup of it could be kept. Save the project "
+                          "before you leave the program."));
+  project.platform.files.Mend();
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_THAT(project.KeptBytes(), ElementsAre(project.old));
+}
+
+TEST(ProjectSave, RenamesAFileThatIsTooLongForABackup) {
+  ChangedProject project;
+  const std::string notes(11 * 1024 * 1024, 'x');
+  project.File() = notes;
+  project.platform.files.files[OldPath] = "an earlier one";
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_EQ(project.File(), project.typed);
+  EXPECT_EQ(project.platform.files.files[OldPath + "2"], notes);
+  EXPECT_EQ(project.platform.files.files[OldPath], "an earlier one");
+  EXPECT_THAT(project.platform.boxes.Texts(),
+              ElementsAre("The file that /designs/panel3.orb was before is too long for Backups. It is kept as "
+                          "/designs/panel3.orb.old2."));
+}
+
+TEST(ProjectSave, GivesARenamedFileItsNameBackWhenItFails) {
+  ChangedProject project;
+  const std::string notes(11 * 1024 * 1024, 'x');
+  project.File() = notes;
+  project.platform.files.Fail(Step::Flush, error_number::DiskFull);
+
+  EXPECT_EQ(project.SaveError(), 61);
+
+  EXPECT_EQ(project.File(), notes);
+  EXPECT_FALSE(project.platform.files.files.contains(OldPath));
+}
+
+TEST(ProjectSave, OfAScriptKeepsNoBackupsAndStillPutsTheOldBytesBack) {
+  ChangedProject project;
+  project.program.folders.ProgramData.clear();
+  project.platform.files.Fail(Step::Flush, error_number::DiskFull, 0, 1);
+
+  EXPECT_EQ(project.SaveError(), 61);
+
+  EXPECT_EQ(project.File(), project.old);
+  EXPECT_THAT(project.OtherFiles(), ElementsAre(ProjectPath));
+  EXPECT_THAT(project.remarks, IsEmpty());
+}
+
+TEST(ProjectSave, IsEncodedAsAWholeBeforeTheFileIsOpened) {
+  TestProject project;
+  project.program.ProjectDescription = "Shale";
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_THAT(project.platform.files.created, ElementsAre(TemporaryDescription, ProjectPath));
+  EXPECT_FALSE(project.platform.files.files.contains(TemporaryDescription));
+}
+
+TEST(ProjectSave, ATemporaryFileThatFailsDoesNotStopTheSaveAndDoesNotStay) {
+  TestProject project;
+  project.program.ProjectDescription = "Shale\r\n\r\nWater";
+  project.platform.files.Fail(Step::Read, error_number::PermissionDenied);
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_THAT(project.File(), HasSubstr("##StartDesc##\r\nShale\r\n\r\nWater\r\n##EndDesc##\r\n"));
+  EXPECT_FALSE(project.platform.files.files.contains(TemporaryDescription));
+}
+
+TEST(ProjectSave, NamesTheFieldsThatWouldNotComeBack) {
+  ChangedProject project;
+  project.program.WorkParms.BoltDescSecInter = "#6 rebar, grade 60";
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_TRUE(project.program.FileSaved);
+  ASSERT_EQ(project.platform.boxes.shown.size(), 1U);
+  EXPECT_THAT(
+      project.platform.boxes.shown[0].text,
+      StartsWith("/designs/panel3.orb is saved, but when it is opened these fields will not be what they are "
+                 "now: intersection bolt description, intersection standard bolt diameter, intersection typed bolt "
+                 "diameter and 31 more. Look for commas "));
+  EXPECT_THAT(project.KeptBytes(), ElementsAre(project.old));
+}
+
+}  // namespace
+}  // namespace orby::test

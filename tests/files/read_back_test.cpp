@@ -1,0 +1,72 @@
+// Which fields of a project would not come back from its file.
+#include "files/read_back.h"
+
+#include <gmock/gmock.h>
+
+#include "project_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+struct NewProject : TestProject {
+  NewProject() { FileNew(program, false, true); }
+
+  std::vector<std::string_view> Differing() { return FieldsThatReadDifferently(program, ProjectFileBytes(program)); }
+};
+
+TEST(ReadBack, ANewProjectComesBackWhole) {
+  NewProject project;
+
+  EXPECT_THAT(project.Differing(), IsEmpty());
+}
+
+TEST(ReadBack, TheFieldsThatTheFormatReadsIntoOthersAreLeftOut) {
+  NewProject project;
+  project.program.WorkParms.SupportTypeModeSecEntry = 1;
+  project.program.WorkParms.SupportTypeModeSecInter = 0;
+
+  EXPECT_THAT(project.Differing(), IsEmpty());
+}
+
+TEST(ReadBack, TheShiftedHeaderChangesNoField) {
+  NewProject project;
+  project.program.ProjectTitle = "Panel 3, north";
+  project.program.ProjectDescription = "Shale, wet\r\n\"quoted\" line";
+
+  EXPECT_THAT(project.Differing(), IsEmpty());
+}
+
+TEST(ReadBack, AQuotedDescriptionOfABoltLosesItsQuotesAlone) {
+  NewProject project;
+  project.program.WorkParms.BoltDescPrimary = "\"No. 6\"";
+
+  EXPECT_THAT(project.Differing(), ElementsAre("primary bolt description"));
+}
+
+TEST(ReadBack, BlanksBeforeTheDescriptionOfABoltAreLost) {
+  NewProject project;
+  project.program.WorkParms.BoltDescSecEntry = "  rebar";
+
+  EXPECT_THAT(project.Differing(), ElementsAre("entry bolt description"));
+}
+
+TEST(ReadBack, AnUnclosedQuoteTakesAllThatFollows) {
+  NewProject project;
+  project.program.WorkParms.BoltDescSecInter = "\"No. 6";
+
+  // All fields of the intersections from the description on, without the one that has no field of its own.
+  EXPECT_EQ(project.Differing().size(), 35U);
+}
+
+TEST(ReadBack, ALineOfTheDescriptionThatEndsItMovesTheFields) {
+  NewProject project;
+  project.program.ProjectDescription = "Shale\r\n##EndDesc##\r\nWater";
+
+  EXPECT_EQ(project.Differing().front(), "roof rating");
+}
+
+}  // namespace
+}  // namespace orby::test
