@@ -1,0 +1,85 @@
+"""Saves that write over something, and saves that fail."""
+
+import os
+import resource
+import signal
+
+from orby import DesktopTest, Window, until
+
+EXAMPLE = "development-entry"
+NO_LIMIT = (resource.RLIM_INFINITY, resource.RLIM_INFINITY)
+
+
+class Saving(DesktopTest):
+    def setUp(self):
+        super().setUp()
+        self.file = self.copy_example(EXAMPLE, "entry.ORB")
+        self.before = self.read(self.file)
+        self.run_ = self.start(self.file)
+        parameters = self.run_.window("Parameters")
+        parameters.type("txtDepthofCover", "715")
+        parameters.press("Command2")
+        parameters.wait_gone()
+        self.wait_unsaved()
+
+    def read(self, path):
+        with open(path, "rb") as file:
+            return file.read()
+
+    def wait_unsaved(self):
+        until(lambda: self.run_.caption().endswith("entry.ORB*"), "the mark of unsaved changes")
+
+    def save(self):
+        self.run_.keys("ctrl+s")
+        until(lambda: self.run_.caption().endswith("entry.ORB"), "the end of the mark")
+
+    def backups(self):
+        folder = os.path.join(self.data, "Backups")
+        names = os.listdir(folder) if os.path.isdir(folder) else []
+        return [os.path.join(folder, name) for name in sorted(names) if not name.endswith(".about")]
+
+    def test_what_was_written_over_is_opened_from_the_backups(self):
+        self.save()
+
+        (backup,) = self.backups()
+        self.assertEqual(self.read(backup), self.before)
+        self.run_.keys("ctrl+o")
+        self.run_.give_file_name("Open", backup)
+        self.assertEqual(self.run_.window("Parameters").text("txtDepthofCover"), "650")
+
+    def test_a_kill_right_after_the_save_loses_neither_the_old_nor_the_new_design(self):
+        self.save()
+        self.run_.kill()
+
+        self.assertIn(b"\r\n715\r\n", self.read(self.file))
+        self.assertEqual([self.read(backup) for backup in self.backups()], [self.before])
+
+    def test_a_limit_on_file_sizes_leaves_the_file_and_the_next_save_succeeds(self):
+        # The limit comes with a signal that ends whoever does not expect it.
+        resource.prlimit(self.run_.process.pid, resource.RLIMIT_FSIZE, (100, resource.RLIM_INFINITY))
+        self.run_.keys("ctrl+s")
+        self.run_.answer("Error occurred: Disk full (61)", "Cancel")
+
+        self.assertIsNone(self.run_.process.poll(), signal.SIGXFSZ)
+        self.assertEqual(self.read(self.file), self.before)
+        self.wait_unsaved()
+        resource.prlimit(self.run_.process.pid, resource.RLIMIT_FSIZE, NO_LIMIT)
+        self.save()
+        self.assertIn(b"\r\n715\r\n", self.read(self.file))
+        self.assertEqual([self.read(backup) for backup in self.backups()], [self.before])
+
+    def test_a_file_that_another_program_changed_is_kept_and_told(self):
+        others = self.before + b"a line of another program\r\n"
+        with open(self.file, "wb") as file:
+            file.write(others)
+
+        self.run_.keys("ctrl+s")
+
+        node, text, buttons = self.run_.box()
+        (backup,) = self.backups()
+        self.assertEqual(text, f"{self.file} had been changed by another program. It now holds the project as it is "
+                               f"here; what the other program wrote is kept in {backup}.")
+        buttons["OK"].act("Press")
+        Window(node).wait_gone()
+        self.assertEqual(self.read(backup), others)
+        self.assertIn(b"\r\n715\r\n", self.read(self.file))
