@@ -43,9 +43,10 @@ QWidget* WindowNamed(const char* name) {
 // A number that the text begins with; 0 for one that has none, and nothing for one that no design can hold.
 std::optional<double> NumberOf(std::string_view text) {
   while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+  constexpr double FirstTooLarge = 3.4028235677973366e38;  // all below round to what a Single holds
   double value = 0;
   const auto [end, problem] = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (problem == std::errc::result_out_of_range || std::abs(value) > FLT_MAX) return std::nullopt;
+  if (problem == std::errc::result_out_of_range || std::abs(value) >= FirstTooLarge) return std::nullopt;
   return problem == std::errc() ? value : 0;
 }
 
