@@ -33,6 +33,9 @@ class Grid : public Control {
   int FixedColumns() const { return fixedColumns_; }
   void SetColumnWidths(std::vector<int> widths) { Mirror(columnWidths_, std::move(widths)); }
   const std::vector<int>& ColumnWidths() const { return columnWidths_; }
+  // The column that takes the room that the others leave.
+  void SetStretchedColumn(int column) { stretchedColumn_ = column; }
+  int StretchedColumn() const { return stretchedColumn_; }
   int Width() const { return width_; }
   void SetWidth(int width) { width_ = width; }
 
@@ -68,6 +71,7 @@ class Grid : public Control {
   int row_ = 0;
   int column_ = 0;
   int width_ = 0;
+  int stretchedColumn_ = 1;
   TextBox* overlay_ = nullptr;
   std::vector<int> columnWidths_;
   std::vector<std::string> cells_;

@@ -59,6 +59,8 @@ NormalDescription Normalized(std::string_view text) {
 
 }  // namespace
 
+std::string NormalizedDescription(std::string_view text) { return Normalized(text).text; }
+
 void SaveDescription(Program& program) {
   program.DescLines = LinesOfEmptyDescription;
   if (program.ProjectDescription.empty()) return;

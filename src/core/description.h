@@ -1,11 +1,17 @@
 // The free description of a project, as reports print it and files hold it.
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "core/program.h"
 
 namespace orby {
 
 inline constexpr Integer LinesOfEmptyDescription = 2;
+
+// The description as reports print it and files hold it. Throws RuntimeError 6 for more lines than fit an Integer.
+std::string NormalizedDescription(std::string_view text);
 
 // Normalises ProjectDescription: blank lines are dropped, lines of more than 60 characters broken, the end of the last
 // line cut off. DescLines becomes 2 and one for every line, one more for every line that was broken.

@@ -1,5 +1,7 @@
 #include "dialogs/description_dialog.h"
 
+#include "base/attempt.h"
+#include "base/text.h"
 #include "core/dialog_helpers.h"
 #include "core/help.h"
 #include "core/messages.h"
@@ -32,16 +34,13 @@ DescriptionDialog::DescriptionDialog(Program& program) : program_(program) {
     if (units == English) Check1.SetValue(0);
     Check1.SetEnabled(units == Metric);
   };
-  Command2.Click = [this] {
-    CommitOnClose = true;
-    Close();
-  };
+  Command2.Click = [this] { Accept(); };
   Command1.Click = [this] { Close(); };
   Command4.Click = [this] {
-    CommitOnClose = true;
     OpensParameters = true;
-    Close();
+    Accept();
   };
+  cmdPutBack.Click = [this] { PutBack(); };
   Command3.Click = [this] { OpenHelpTopic(program_, *this); };
 }
 
@@ -52,11 +51,39 @@ void DescriptionDialog::OnOpen() {
   OpensParameters = false;
   Text1.SetText(program_.ProjectTitle);
   Text2.SetText(program_.ProjectDescription);
+  ShowPutBack();
   Offer(program_, Option1, program_.Units);
   Offer(program_, Option2, program_.BoltStrengthMode);
   // Feet leave the box empty, whatever was chosen in a metric project before.
   if (Check1.Enabled()) Check1.SetValue(program_.UseAUSStandardTable);
   program_.platform.windows.CenterForm(*this);
+}
+
+void DescriptionDialog::PutBack() {
+  if (const auto before = TextsBeforeTheShift(Typed())) {
+    Text1.SetText(before->Title);
+    Text2.SetText(before->Description);
+  }
+  ShowPutBack();
+}
+
+void DescriptionDialog::ShowPutBack() { cmdPutBack.SetVisible(TextsBeforeTheShift(Typed()).has_value()); }
+
+// What the dialog opened with has been told before, or came from a file that way.
+void DescriptionDialog::WarnOfLostLines() {
+  if (Text1.Text() == program_.ProjectTitle && Text2.Text() == program_.ProjectDescription) return;
+  std::optional<LostLine> lost;
+  Succeeds([&] { lost = LineThatWouldNotComeBack(Typed()); });
+  if (!lost) return;
+  std::string text = "This line will not come back as it is typed when the project is opened again:";
+  text.append(LineEnd).append(LineEnd).append(lost->Line).append(LineEnd).append(LineEnd).append(lost->Reason);
+  ShowMessage(program_, text, box_style::Exclamation, program_.titles.MessageTitle);
+}
+
+void DescriptionDialog::Accept() {
+  WarnOfLostLines();
+  CommitOnClose = true;
+  Close();
 }
 
 void DescriptionDialog::OnClose() {

@@ -3,6 +3,7 @@
 
 #include "controls/controls.h"
 #include "core/program.h"
+#include "files/texts_in_file.h"
 
 namespace orby {
 
@@ -14,6 +15,7 @@ class DescriptionControls : public Form {
   Label lblTitle{*this, "lblTitle", "Title"};
   TextBox Text1{*this, "Text1"};
   TextBox Text2{*this, "Text2"};
+  Button cmdPutBack{*this, "cmdPutBack", "Put Back Title and Description"};  // only where the file has shifted them
   Frame fraUnits{*this, "fraUnits", "Current units"};
   OptionArray Option1{*this, "Option1", {{"feet, lbs"}, {"meters, kN"}}};
   Frame fraStrength{*this, "fraStrength", "Roof bolt steel strength"};
@@ -39,7 +41,13 @@ class DescriptionDialog : public DescriptionControls {
   void OnClose() override;
 
  private:
+  void Accept();
+  void PutBack();
+  void ShowPutBack();
+  void WarnOfLostLines();
   void Commit();
+
+  ProjectTexts Typed() const { return {Text1.Text(), Text2.Text()}; }
 
   Program& program_;
 };

@@ -32,7 +32,7 @@ struct ReasonRow {
 
 constexpr std::array Reasons{
     ReasonRow{BackupReason::Overwritten, "Overwritten", "Overwritten by a save"},
-    ReasonRow{BackupReason::ChangedOnDisk, "ChangedOnDisk", "Changed by another program, then overwritten"},
+    ReasonRow{BackupReason::ChangedOnDisk, "ChangedOnDisk", "Changed by another program"},
     ReasonRow{BackupReason::Dropped, "Dropped", "Not saved"},
     ReasonRow{BackupReason::Declined, "Declined", "Recovery declined"},
     ReasonRow{BackupReason::Damaged, "Damaged", "Damaged recovery file"},

@@ -12,22 +12,32 @@ namespace {
 
 bool IsBlank(std::string_view line) { return Trim(line).empty(); }
 
-void AppendLine(Program& program, std::string_view line) {
+void AppendLine(std::string& description, Integer& count, std::string_view line) {
   if (IsBlank(line)) return;
-  std::string& description = program.ProjectDescription;
   if (description.size() + line.size() > LongestItem) throw RuntimeError(error_number::OutOfMemory);
-  program.DescLines = ToInteger(program.DescLines + 1);
+  count = ToInteger(count + 1);
   description += line;
   description += LineEnd;
 }
 
 void LoadLegacyDescription(Program& program, ItemReader& reader) {
   constexpr int LegacyLines = 5;
-  for (int i = 0; i < LegacyLines; ++i) AppendLine(program, reader.ReadLine());
+  for (int i = 0; i < LegacyLines; ++i) {
+    AppendLine(program.ProjectDescription, program.DescLines, reader.ReadLine());
+  }
   program.DescLines = LinesOfEmptyDescription + LegacyLines;
 }
 
 }  // namespace
+
+void ReadMarkedDescription(ItemReader& reader, std::string& description, Integer& count) {
+  std::string line = reader.ReadLine();
+  if (line == StartOfDescription) line = reader.ReadLine();
+  while (line != EndOfDescription) {
+    AppendLine(description, count, line);
+    line = reader.ReadText();
+  }
+}
 
 void LoadDescription(Program& program, ItemReader& reader, int mode) {
   constexpr Integer LastLegacyVersion = 49;
@@ -37,12 +47,7 @@ void LoadDescription(Program& program, ItemReader& reader, int mode) {
     return;
   }
   program.ProjectDescription.clear();
-  std::string line = reader.ReadLine();
-  if (line == StartOfDescription) line = reader.ReadLine();
-  while (line != EndOfDescription) {
-    AppendLine(program, line);
-    line = reader.ReadText();
-  }
+  ReadMarkedDescription(reader, program.ProjectDescription, program.DescLines);
 }
 
 }  // namespace orby

@@ -1,6 +1,7 @@
 // Reading the free description of a project from its file.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "core/program.h"
@@ -15,6 +16,10 @@ namespace description_mode {
 inline constexpr int Legacy = 0;  // five lines without markers
 inline constexpr int Marked = 2;
 }  // namespace description_mode
+
+// Appends the lines up to the end marker to the description, each with its end, and adds their number to the count.
+// Throws as LoadDescription does, with the lines read until then in the description.
+void ReadMarkedDescription(ItemReader& reader, std::string& description, Integer& count);
 
 // Reads ProjectDescription and its DescLines from a project file.
 // Behind the first line the description comes as text items, so that a comma ends a line, leading blanks are lost and

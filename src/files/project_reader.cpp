@@ -27,16 +27,23 @@ void ReadHeader(Program& program, ItemReader& reader) {
 
 }  // namespace
 
-bool CheckFileFormat(Program& program, ItemReader reader) {
+std::optional<Integer> FormatOf(ItemReader reader) {
   const std::string label = reader.ReadText();
   Integer version = Version105;
   for (Integer index = CurrentFileVersion; index >= 1; --index, --version) {
-    if (label != FileVersionNames[static_cast<std::size_t>(index)]) continue;
-    program.FileVersion = version;
-    return true;
+    if (label == FileVersionNames[static_cast<std::size_t>(index)]) return version;
   }
-  ShowMessage(program, "Invalid ORBY file format. File can not be opened.");
-  return false;
+  return std::nullopt;
+}
+
+bool CheckFileFormat(Program& program, ItemReader reader) {
+  const std::optional<Integer> version = FormatOf(reader);
+  if (version) {
+    program.FileVersion = *version;
+  } else {
+    ShowMessage(program, "Invalid ORBY file format. File can not be opened.");
+  }
+  return version.has_value();
 }
 
 void ReadProject(Program& program, ItemReader reader) {

@@ -1,10 +1,16 @@
 // Reading a project file of any format that is still in use.
 #pragma once
 
+#include <optional>
+
 #include "core/program.h"
 #include "files/item_reader.h"
 
 namespace orby {
+
+// The number of the format whose label the file starts with; nothing for another label. Throws RuntimeError 62 for an
+// empty file.
+std::optional<Integer> FormatOf(ItemReader reader);
 
 // Sets FileVersion from the label that the file starts with. Another label is told to the user and gives false, the
 // version staying as it was. Throws RuntimeError 62 for an empty file.

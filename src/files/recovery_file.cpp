@@ -94,6 +94,8 @@ UnsavedProject EditedProject(const Program& program, ProjectRecord design) {
   return project;
 }
 
+bool IsRecoveryFile(std::string_view bytes) { return bytes.starts_with(RecoveryLabel); }
+
 std::string RecoveryBytes(const UnsavedProject& project) {
   std::string text(RecoveryLabel);
   text += LineEnd;

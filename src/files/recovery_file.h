@@ -33,6 +33,9 @@ UnsavedProject CommittedProject(const Program& program);
 // The project as it will be once this design is committed.
 UnsavedProject EditedProject(const Program& program, ProjectRecord design);
 
+// Whether the bytes begin as those of a recovery file do.
+bool IsRecoveryFile(std::string_view bytes);
+
 std::string RecoveryBytes(const UnsavedProject& project);
 
 // The project that the bytes hold; nothing when they are damaged, which is when they are not what would be written.

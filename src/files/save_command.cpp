@@ -12,10 +12,16 @@
 namespace orby {
 namespace {
 
-FileQuestion ProjectFileQuestion(Program& program) {
+bool HasName(const Program& program) {
+  return !program.CurrentFile.empty() && !SameWithoutCase(program.CurrentFile, UntitledName);
+}
+
+}  // namespace
+
+FileQuestion ProjectFileQuestion(Program& program, const std::string& project) {
   const Settings& settings = program.settings;
   FileQuestion question;
-  if (!Trim(program.CurrentFile).empty()) question.fileName = FileNameFromPath(program, program.CurrentFile, false);
+  if (!Trim(project).empty()) question.fileName = FileNameFromPath(program, project, false);
   question.folder = WithoutSeparator(settings.DataPath);
   const std::string pattern = "*." + settings.FileExtension;
   question.filters = {{std::string(ProgramTitle) + " (" + pattern + ")", pattern}, {"All Files (*.*)", "*"}};
@@ -23,14 +29,8 @@ FileQuestion ProjectFileQuestion(Program& program) {
   return question;
 }
 
-bool HasName(const Program& program) {
-  return !program.CurrentFile.empty() && !SameWithoutCase(program.CurrentFile, UntitledName);
-}
-
-}  // namespace
-
 void AskFileName(Program& program, FileDialogMode mode) {
-  const FileQuestion question = ProjectFileQuestion(program);
+  const FileQuestion question = ProjectFileQuestion(program, program.CurrentFile);
   FileDialogs& dialogs = program.platform.fileDialogs;
   program.CurrentFile = mode == FileDialogMode::Open ? dialogs.AskOpenName(question) : dialogs.AskSaveName(question);
 }

@@ -1,11 +1,16 @@
 // The commands Save and Save As, and the question before a project is given up.
 #pragma once
 
+#include <string>
+
 #include "core/program.h"
 
 namespace orby {
 
 enum class FileDialogMode { Open, Save };
+
+// What is asked for a project file: the name of this project at first, in the data folder.
+FileQuestion ProjectFileQuestion(Program& program, const std::string& project);
 
 // Lets the user choose a project file, starting with the open project's name in the data folder, and makes it
 // CurrentFile. Throws RuntimeError 32755 when the user cancels.

@@ -16,9 +16,6 @@ namespace {
 // The models measure columns in twentieths of a point.
 constexpr int TwipsPerInch = 1440;
 
-// The column with the names takes the room that the numbers leave.
-constexpr int NameColumn = 1;
-
 // The text box that lies over the selected cell. It has the keyboard in place of the grid: Enter, Up and Down go to
 // another row, Tab to the next cell and out of the grid behind the last one, and Escape gives the cell its old text
 // back.
@@ -152,7 +149,9 @@ class GridBinding : public QObject, public Binding {
     widget_.setRowCount(rows);
     widget_.setColumnCount(grid_.Columns());
     widget_.horizontalHeader()->setVisible(grid_.FixedRows() > 0);
-    if (grid_.Columns() > 1) widget_.horizontalHeader()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
+    if (grid_.Columns() > 1) {
+      widget_.horizontalHeader()->setSectionResizeMode(grid_.StretchedColumn(), QHeaderView::Stretch);
+    }
     for (int column = 0; column < grid_.Columns(); ++column) ShowColumn(column, rows);
     if (Row() != widget_.currentRow() || (editor_ && grid_.Column() != widget_.currentColumn())) MarkSelected();
     if (editor_) editor_->Place();

@@ -12,6 +12,7 @@
 #include <array>
 #include <stdexcept>
 
+#include <ui_backups_window.h>
 #include <ui_convert_dialog.h>
 #include <ui_cost_dialog.h>
 #include <ui_description_dialog.h>
@@ -95,6 +96,7 @@ constexpr std::array Layouts{
     LayoutEntry{"frmSet", Make<Ui::frmSet, DialogWindow>},
     LayoutEntry{"frmFont", Make<Ui::frmFont, DialogWindow>},
     LayoutEntry{"frmDisclaimer", Make<Ui::frmDisclaimer, DialogWindow>},
+    LayoutEntry{"frmBackups", Make<Ui::frmBackups, DialogWindow>},
     LayoutEntry{"frmResource", Make<Ui::frmResource, DialogWindow>},
 };
 

@@ -32,6 +32,7 @@ inline constexpr Integer FileConversion = 3;
 inline constexpr Integer ClearHistory = 5;
 inline constexpr Integer ToggleHistory = 6;
 inline constexpr Integer CopyHistory = 7;
+inline constexpr Integer Backups = 9;
 }  // namespace util_item
 
 namespace help_item {
@@ -71,10 +72,11 @@ class MainControls : public Form {
   ActionArray mnuEditItem{
       *this, "mnuEditItem", {"Project &Description...", "Project &Parameters...", "&Cost Parameters..."}};
   Menu mnuUtil{*this, "mnuUtil", "&Utilities"};
-  ActionArray mnuUtilItem{*this,
-                          "mnuUtilItem",
-                          {"&Settings...", "&Options...", "&Unit Conversions...", "&File Conversion...",
-                           ActionArray::Separator, "&Clear History Window", CloseHistory, "Co&py History &Window"}};
+  ActionArray mnuUtilItem{
+      *this,
+      "mnuUtilItem",
+      {"&Settings...", "&Options...", "&Unit Conversions...", "&File Conversion...", ActionArray::Separator,
+       "&Clear History Window", CloseHistory, "Co&py History &Window", ActionArray::Separator, "&Backups..."}};
   Menu mnuHelp{*this, "mnuHelp", "&Help"};
   ActionArray mnuHelpItem{*this,
                           "mnuHelpItem",

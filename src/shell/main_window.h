@@ -85,6 +85,7 @@ class MainWindow : public MainControls {
   // utility_commands.cpp
   void UtilityCommand(Integer item);
   void HelpCommand(Integer item);
+  void ShowBackups();
   void EditSettings();
   void ShowUpdates();
   void ConvertFile();

@@ -5,7 +5,10 @@
 #include "dialogs/convert_dialog.h"
 #include "dialogs/options_dialog.h"
 #include "dialogs/settings_dialog.h"
+#include "files/new_project.h"
+#include "files/save_command.h"
 #include "shell/about.h"
+#include "shell/backups_window.h"
 #include "shell/disclaimer.h"
 #include "shell/main_window.h"
 #include "shell/resource_files.h"
@@ -29,8 +32,23 @@ void MainWindow::UtilityCommand(Integer item) {
       program_.platform.clipboard.Clear();
       program_.platform.clipboard.SetText(txtMain.Text());
       break;
+    case util_item::Backups: ShowBackups(); break;
     default: break;
   }
+}
+
+// The chosen one is opened under its old name, with unsaved changes, after the question for those of the present one.
+void MainWindow::ShowBackups() {
+  BackupsWindow backups(program_);
+  ShowForm(program_, backups);
+  if (!backups.Chosen) return;
+  program_.PreviousFile = program_.CurrentFile;
+  if (!program_.FileSaved && !SaveChangesOfPreviousFile(program_)) return;
+  FileNew(program_, false, true);
+  RestoreProject(program_, *backups.Chosen);
+  AddHistoryLine(program_, "Backup opened as an unsaved project: " + program_.CurrentFile);
+  recovery_.Committed();
+  RefreshCaption();
 }
 
 void MainWindow::EditSettings() {

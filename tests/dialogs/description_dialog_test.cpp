@@ -422,5 +422,71 @@ TEST_F(ADescriptionDialog, KeepsNothingOfASavedDesignNorWithoutAnotherChoice) {
   EXPECT_THAT(ListBackups(program), IsEmpty());
 }
 
+// ---- what the file does to the texts --------------------------------------------------------------------------------
+
+TEST_F(ADescriptionDialog, WarnsOnceOfALineThatWillNotComeBack) {
+  dialog.Open();
+  dialog.Text2.SetText("Headgate\r\n\"weak roof");
+
+  dialog.Command2.Press();
+
+  ASSERT_EQ(platform.boxes.shown.size(), 1U);
+  EXPECT_EQ(platform.boxes.shown.front().text,
+            "This line will not come back as it is typed when the project is opened again:\r\n\r\n\"weak roof\r\n\r\n"
+            "A quotation mark in front of a line takes all up to the next one, and is lost.");
+  EXPECT_EQ(platform.boxes.shown.front().title, "Message");
+  EXPECT_FALSE(dialog.IsOpen());
+  EXPECT_EQ(program.ProjectDescription, "Headgate\r\n\"weak roof");
+
+  dialog.Open();
+  dialog.Command2.Press();
+  EXPECT_EQ(platform.boxes.shown.size(), 1U) << "the text is the one that was warned of";
+}
+
+TEST_F(ADescriptionDialog, WarnsBeforeTheNextForm) {
+  dialog.Open();
+  dialog.Text1.SetText("##EndDesc##");
+
+  dialog.Command4.Press();
+
+  EXPECT_EQ(platform.boxes.shown.size(), 1U);
+  EXPECT_TRUE(dialog.OpensParameters);
+}
+
+TEST_F(ADescriptionDialog, WarnsOfNothingThatIsNotTaken) {
+  dialog.Open();
+  dialog.Text1.SetText("\"Panel");
+  dialog.Command1.Press();
+
+  dialog.Open();
+  dialog.Text1.SetText("Panel 4");
+  dialog.Command2.Press();
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(ADescriptionDialog, OffersToPutBackWhatTheFileHasShifted) {
+  program.ProjectTitle = " 0 ";
+  program.ProjectDescription = "Panel 3\r\n##StartDesc##\r\nHeadgate\r\n";
+  dialog.Open();
+  ASSERT_TRUE(dialog.cmdPutBack.Visible());
+
+  dialog.cmdPutBack.Press();
+
+  EXPECT_EQ(dialog.Text1.Text(), "Panel 3");
+  EXPECT_EQ(dialog.Text2.Text(), "Headgate\r\n");
+  EXPECT_FALSE(dialog.cmdPutBack.Visible());
+  EXPECT_EQ(program.ProjectTitle, " 0 ") << "until OK";
+  dialog.Command2.Press();
+  EXPECT_EQ(program.ProjectTitle, "Panel 3");
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(ADescriptionDialog, OffersNothingToPutBackOtherwise) {
+  dialog.Open();
+
+  EXPECT_FALSE(dialog.cmdPutBack.Visible());
+}
+
 }  // namespace
 }  // namespace orby::test

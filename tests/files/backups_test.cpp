@@ -237,7 +237,7 @@ TEST_F(Backups, ThatCannotBeRemovedStay) {
 
 TEST_F(Backups, TellWhyTheyWereKept) {
   EXPECT_EQ(ReasonText(BackupReason::Overwritten), "Overwritten by a save");
-  EXPECT_EQ(ReasonText(BackupReason::ChangedOnDisk), "Changed by another program, then overwritten");
+  EXPECT_EQ(ReasonText(BackupReason::ChangedOnDisk), "Changed by another program");
   EXPECT_EQ(ReasonText(BackupReason::Dropped), "Not saved");
   EXPECT_EQ(ReasonText(BackupReason::Declined), "Recovery declined");
   EXPECT_EQ(ReasonText(BackupReason::Damaged), "Damaged recovery file");

@@ -21,6 +21,7 @@
 #include "dialogs/preview_window.h"
 #include "dialogs/results_window.h"
 #include "dialogs/settings_dialog.h"
+#include "shell/backups_window.h"
 #include "shell/disclaimer.h"
 #include "shell/main_window.h"
 #include "shell/resource_files.h"
@@ -80,6 +81,7 @@ inline constexpr std::array FormMakers{
                 return std::make_unique<FontDialog>(program, FontChoice{}, std::vector<std::string>{"Courier New"});
               }},
     FormMaker{"frmDisclaimer", Plain<Disclaimer>},
+    FormMaker{"frmBackups", Plain<BackupsWindow>},
     FormMaker{"frmResource", Plain<ResourceFiles>},
 };
 

@@ -46,6 +46,7 @@ TEST_F(MessageBoxesView, ShowCaptionsOfTheirOwnWhichTheirLettersReach) {
       EXPECT_EQ(box.button(QMessageBox::Yes)->text(), "&Recover");
       EXPECT_EQ(box.button(QMessageBox::No)->text(), "&Open a&&b.orb instead");
       Press(key, Qt::AltModifier);
+      EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }));
     });
     QtMessageBoxes boxes;
 

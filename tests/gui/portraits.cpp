@@ -46,6 +46,7 @@
 #include "qt/message_boxes.h"
 #include "reports/calculation_report.h"
 #include "reports/input_echo.h"
+#include "shell/backups_window.h"
 #include "shell/disclaimer.h"
 #include "shell/main_window.h"
 #include "shell/resource_files.h"
@@ -155,6 +156,7 @@ class Sitting {
     TakeBrowser();
     TakeHelp();
     TakeMessages();
+    TakeBackups();
   }
 
  private:
@@ -162,6 +164,17 @@ class Sitting {
     RealDoors real;
     real.boxes = &boxes_;
     return platform_.Doors(real);
+  }
+
+  // Empty, then with an entry of each kind.
+  void TakeBackups() {
+    program_.folders.ProgramData = "/home/user/Documents/Orby/";
+    TakeDialog<BackupsWindow>("backups-empty");
+    KeepDamaged(program_, "ORBY_RECOVERY_1\r\nCurrentFile=/home/user/Documents/Orby/north panel.ORB\r\n");
+    KeepBackup(program_, program_.CurrentFile, BytesOf(std::string(EXAMPLES_DIR) + "/belt-entry-trusses.ORB"),
+               BackupReason::ChangedOnDisk);
+    KeepDropped(program_, CommittedProject(program_), BackupReason::Dropped);
+    TakeDialog<BackupsWindow>("backups");
   }
 
   template <class Model>

@@ -25,9 +25,10 @@ TEST_F(Menus, HaveTheirEntriesInOrder) {
                           "Print Pre&view...", "-", "&View Source Files...", "-", "E&xit"));
   EXPECT_THAT(Captions(window.mnuEditItem),
               ElementsAre("Project &Description...", "Project &Parameters...", "&Cost Parameters..."));
-  EXPECT_THAT(Captions(window.mnuUtilItem),
-              ElementsAre("&Settings...", "&Options...", "&Unit Conversions...", "&File Conversion...", "-",
-                          "&Clear History Window", "Close History &Window", "Co&py History &Window"));
+  EXPECT_THAT(
+      Captions(window.mnuUtilItem),
+      ElementsAre("&Settings...", "&Options...", "&Unit Conversions...", "&File Conversion...", "-",
+                  "&Clear History Window", "Close History &Window", "Co&py History &Window", "-", "&Backups..."));
   EXPECT_THAT(Captions(window.mnuHelpItem),
               ElementsAre("Help &Contents...", "Help &Index...", "Help in &PDF format...", "-", "&Resource Files...",
                           "-", "&Disclaimer...", "-", "Program Updates...", "-", "&About the Program..."));
@@ -81,9 +82,9 @@ std::vector<std::string> FormsShownBy(RecordingPlatform& platform, const ActionA
 }
 
 TEST_F(Menus, ShowTheDialogsOfTheUtilities) {
-  EXPECT_THAT(
-      FormsShownBy(platform, window.mnuUtilItem, {util_item::Settings, util_item::Options, util_item::UnitConversions}),
-      ElementsAre("frmSet", "frmTULKOpts", "frmUnits"));
+  EXPECT_THAT(FormsShownBy(platform, window.mnuUtilItem,
+                           {util_item::Settings, util_item::Options, util_item::UnitConversions, util_item::Backups}),
+              ElementsAre("frmSet", "frmTULKOpts", "frmUnits", "frmBackups"));
 }
 
 TEST_F(Menus, ShowTheDialogsOfTheHelp) {

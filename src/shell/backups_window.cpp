@@ -1,0 +1,187 @@
+#include "shell/backups_window.h"
+
+#include <algorithm>
+
+#include "base/attempt.h"
+#include "base/number_text.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "core/dates.h"
+#include "core/file_helpers.h"
+#include "core/messages.h"
+#include "engine/primary_support.h"
+#include "files/kept_project.h"
+#include "files/save_command.h"
+#include "platform/whole_file.h"
+
+namespace orby {
+namespace {
+
+constexpr int HeaderRows = 1;
+constexpr std::array<std::string_view, 4> Headers{"Project", "Time", "Why it was kept", "Size"};
+constexpr std::string_view NoResult = "--";
+
+// "812 bytes", "4.2 KB".
+std::string SizeText(std::uint64_t bytes) {
+  constexpr double Kilobyte = 1024;
+  const auto size = static_cast<double>(bytes);
+  if (size < Kilobyte) return NumberText(size) + " bytes";
+  if (size < Kilobyte * Kilobyte) return FormatNumber(size / Kilobyte, "0.0") + " KB";
+  return FormatNumber(size / Kilobyte / Kilobyte, "0.0") + " MB";
+}
+
+std::string Named(const Backup& entry) {
+  return std::string(NameBehindSeparator(entry.Project)) + " of " + MomentText(entry.Time);
+}
+
+// The figure with one decimal; "--" where there is none.
+template <class Compute>
+std::string FigureText(const Compute& compute) {
+  std::optional<Single> figure;
+  if (!Succeeds([&] { figure = compute(); }) || !figure) return std::string(NoResult);
+  return FormatNumber(*figure, "0.0");
+}
+
+std::optional<Single> SuggestedFigure(const UnsavedProject& project) {
+  const ProjectRecord& design = project.WorkParms;
+  const auto live = SuggestLive({design.StabilityFactor, static_cast<Single>(design.CMRR), design.DepthofCover,
+                                 design.ActualSpanDiagonals, design.EntryWidth},
+                                project.Units);
+  return live ? std::optional(live->SugPSUP) : std::nullopt;
+}
+
+std::optional<Single> ActualFigure(const UnsavedProject& project, const Catalogs& catalogs) {
+  const ProjectRecord& design = project.WorkParms;
+  const Bolt bolt = SelectedBolt(design, PrimaryBolt);
+  return ActualLive({design.BoltLengthPrimary, design.BoltsperRowPrimary, bolt.Diameter, bolt.Grade,
+                     design.RowSpacingPrimary, design.EntryWidth},
+                    project.Units, {project.BoltStrengthMode, catalogs});
+}
+
+}  // namespace
+
+BackupsWindow::BackupsWindow(Program& program) : program_(program) {
+  grdBackups.SetStretchedColumn(0);
+  grdBackups.Change = [this] { ShowSelected(); };
+  cmdOpen.Click = [this] {
+    Chosen = project_;
+    Close();
+  };
+  cmdSaveAs.Click = [this] { SaveAs(); };
+  cmdDelete.Click = [this] { Delete(); };
+  cmdFolder.Click = [this] { OpenFolder(); };
+  Command1.Click = [this] { Close(); };
+}
+
+void BackupsWindow::OnOpen() {
+  List();
+  program_.platform.windows.CenterForm(*this);
+}
+
+void BackupsWindow::List() {
+  entries_ = ListBackups(program_);
+  grdBackups.SetSize(HeaderRows + static_cast<int>(entries_.size()), static_cast<int>(Headers.size()), HeaderRows);
+  for (std::size_t column = 0; column < Headers.size(); ++column) {
+    grdBackups.SetCell(0, static_cast<int>(column), std::string(Headers[column]));
+  }
+  int row = HeaderRows;
+  for (const Backup& entry : entries_) {
+    grdBackups.SetCell(row, 0, std::string(NameBehindSeparator(entry.Project)));
+    grdBackups.SetCell(row, 1, MomentText(entry.Time));
+    grdBackups.SetCell(row, 2, std::string(entry.Reason ? ReasonText(*entry.Reason) : "Not known"));
+    grdBackups.SetCell(row, 3, SizeText(entry.Bytes));
+    ++row;
+  }
+  ShowSelected();
+}
+
+const Backup* BackupsWindow::Selected() const {
+  const int entry = grdBackups.Row() - HeaderRows;
+  return entry >= 0 && entry < static_cast<int>(entries_.size()) ? &entries_[static_cast<std::size_t>(entry)] : nullptr;
+}
+
+void BackupsWindow::ShowSelected() {
+  const Backup* entry = Selected();
+  project_.reset();
+  std::string bytes;
+  if (entry != nullptr && Succeeds([&] { bytes = program_.platform.files.ReadFile(entry->Path); })) {
+    project_ = ReadKeptProject(program_, bytes, entry->Project);
+  }
+  lblState.SetCaption(entry == nullptr ? "There are no backups."
+                      : project_       ? ""
+                                       : "This backup is damaged. Its file is still in the folder.");
+  txtProject.SetText(entry == nullptr ? std::string() : entry->Project);
+  if (project_) {
+    ShowProject(*project_);
+  } else {
+    ClearProject();
+  }
+  cmdOpen.SetEnabled(project_.has_value());
+  cmdSaveAs.SetEnabled(project_.has_value());
+  cmdDelete.SetEnabled(entry != nullptr);
+}
+
+void BackupsWindow::ShowProject(const UnsavedProject& project) {
+  const ProjectRecord& design = project.WorkParms;
+  const std::string length(UnitLabel(unit_row::Length, project.Units));
+  txtTitle.SetText(project.ProjectTitle);
+  txtUnits.SetText(std::string(UnitSummary(project.Units)));
+  txtCMRR.SetText(NumberText(design.CMRR));
+  txtDepthofCover.SetText(NumberText(design.DepthofCover) + length);
+  txtEntryWidth.SetText(NumberText(design.EntryWidth) + length);
+  txtSugPSUP.SetText(FigureText([&] { return SuggestedFigure(project); }));
+  txtActualPSUP.SetText(FigureText([&] { return ActualFigure(project, program_.catalogs); }));
+}
+
+void BackupsWindow::ClearProject() {
+  for (TextBox* box : {&txtTitle, &txtUnits, &txtCMRR, &txtDepthofCover, &txtEntryWidth, &txtSugPSUP, &txtActualPSUP}) {
+    box->SetText({});
+  }
+}
+
+// A file that is there already is kept first, as before every save.
+void BackupsWindow::SaveAs() {
+  RunTrapped(program_, [this] {
+    const Backup entry = *Selected();
+    FileSystem& files = program_.platform.files;
+    const auto bytes = KeptProjectAsFile(program_, files.ReadFile(entry.Path));
+    if (!bytes) return;
+    const FileQuestion question = ProjectFileQuestion(program_, entry.Project);
+    const std::string path = program_.platform.fileDialogs.AskSaveName(question);
+    if (FileExists(program_, path)) KeepBackup(program_, path, files.ReadFile(path), BackupReason::Overwritten);
+    if (TryWriteWhole(files, path, *bytes)) {
+      AddHistoryLine(program_, "Backup saved as: " + path);
+      List();
+    } else {
+      ShowMessage(program_, "The backup could not be saved: " + path, box_style::Exclamation);
+    }
+  });
+}
+
+void BackupsWindow::Delete() {
+  const Backup entry = *Selected();
+  std::string question = "Delete this backup for good?";
+  question.append(LineEnd).append(LineEnd).append(Named(entry));
+  if (ShowMessage(program_, question, box_style::YesNo | box_style::Question | box_style::SecondButtonDefault) !=
+      box_result::Yes) {
+    return;
+  }
+  if (!RemoveBackup(program_, entry)) {
+    ShowMessage(program_, "The backup could not be deleted: " + entry.Path, box_style::Exclamation);
+    return;
+  }
+  const int row = grdBackups.Row();
+  entries_.erase(entries_.begin() + (row - HeaderRows));
+  grdBackups.RemoveRow(row);
+  ShowSelected();
+}
+
+void BackupsWindow::OpenFolder() {
+  const std::string folder = BackupFolder(program_);
+  if (folder.empty()) return;
+  Succeeds([&] { program_.platform.files.MakeFolder(folder); });
+  if (program_.platform.documents.Open(std::string(WithoutSeparator(folder)))) return;
+  ShowMessage(program_, "The folder could not be opened: " + folder, box_style::Exclamation);
+}
+
+}  // namespace orby

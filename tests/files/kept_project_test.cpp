@@ -1,0 +1,91 @@
+#include "files/kept_project.h"
+
+#include <gmock/gmock.h>
+
+#include "project_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using testing::IsEmpty;
+
+struct KeptProject : testing::Test {
+  KeptProject() {
+    FileNew(project.program, false, true);
+    project.program.ProjectTitle = "Panel 3";
+    project.program.ProjectDescription = "Belt entry\r\n\r\nsouth";
+    project.program.WorkParms.DepthofCover = 725;
+    project.program.history = {};
+  }
+
+  TestProject project;
+};
+
+TEST_F(KeptProject, IsReadFromAProjectFileUnderItsOldName) {
+  const auto read = ReadKeptProject(project.program, ProjectFileBytes(project.program), "/designs/panel7.orb");
+
+  ASSERT_TRUE(read);
+  EXPECT_EQ(read->CurrentFile, "/designs/panel7.orb");
+  EXPECT_EQ(read->WorkParms.DepthofCover, 725);
+  EXPECT_FALSE(read->FileEmpty);
+  EXPECT_TRUE(read->UnitsLocked);
+}
+
+TEST_F(KeptProject, OfAnOlderFormatHasTheDefaultsForWhatItLacks) {
+  project.program.WorkParms.BoltDescPrimary = "of the open project";
+  std::string bytes = ProjectFileBytes(project.program);
+  bytes.replace(bytes.find("ORBY_105"), 8, "ORBY_104");
+
+  const auto read = ReadKeptProject(project.program, bytes, ProjectPath);
+
+  ASSERT_TRUE(read);
+  EXPECT_EQ(read->WorkParms.BoltDescPrimary, "");
+}
+
+TEST_F(KeptProject, IsReadFromARecoveryFileUnderTheNameInIt) {
+  const auto read = ReadKeptProject(project.program, RecoveryBytes(CommittedProject(project.program)), "other");
+
+  ASSERT_TRUE(read);
+  EXPECT_EQ(read->CurrentFile, ProjectPath);
+  EXPECT_EQ(read->WorkParms.DepthofCover, 725);
+}
+
+TEST_F(KeptProject, IsNoneInDamagedBytes) {
+  const std::string file = ProjectFileBytes(project.program);
+  const std::string recovery = RecoveryBytes(CommittedProject(project.program));
+
+  for (const std::string& bytes : {file.substr(0, file.size() / 2), recovery.substr(0, recovery.size() / 2),
+                                   std::string(), std::string("notes of the shift")}) {
+    EXPECT_FALSE(ReadKeptProject(project.program, bytes, ProjectPath));
+    EXPECT_FALSE(KeptProjectAsFile(project.program, bytes));
+  }
+}
+
+TEST_F(KeptProject, IsReadWithoutATraceInTheProgram) {
+  project.program.settings.DisplayHistoryWin = 1;
+
+  ReadKeptProject(project.program, "notes of the shift", ProjectPath);
+  ReadKeptProject(project.program, ProjectFileBytes(project.program), ProjectPath);
+
+  EXPECT_THAT(project.program.history.Text, IsEmpty());
+  EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
+  EXPECT_EQ(project.program.ProjectTitle, "Panel 3");
+}
+
+TEST_F(KeptProject, AsAFileIsTheProjectFileAsItWas) {
+  const std::string bytes = ProjectFileBytes(project.program);
+
+  EXPECT_EQ(KeptProjectAsFile(project.program, bytes), bytes);
+}
+
+TEST_F(KeptProject, AsAFileIsTheRecoveryFileAsASaveWouldWriteIt) {
+  const std::string recovery = RecoveryBytes(CommittedProject(project.program));
+
+  const auto bytes = KeptProjectAsFile(project.program, recovery);
+
+  ASSERT_TRUE(project.Save());
+  EXPECT_EQ(bytes, project.File());
+}
+
+}  // namespace
+}  // namespace orby::test

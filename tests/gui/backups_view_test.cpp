@@ -1,0 +1,113 @@
+// The window of the backups, as its reader uses it.
+#include <QAbstractButton>
+#include <QLineEdit>
+#include <QTableWidget>
+
+#include "files/backups.h"
+#include "files/project_writer.h"
+#include "gui/gui_bench.h"
+#include "shell/backups_window.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+struct BackupsView : GuiTest {
+  BackupsView() { program.folders.ProgramData = "/home/user/Documents/Orby/"; }
+
+  // Unsaved changes of three panels, the third the newest.
+  void KeepThree() {
+    for (const Single depth : {710.0F, 720.0F, 730.0F}) {
+      program.CurrentFile = "/designs/panel at " + std::to_string(static_cast<int>(depth)) + ".orb";
+      program.WorkParms.DepthofCover = depth;
+      KeepDropped(program, CommittedProject(program), BackupReason::Dropped);
+    }
+  }
+
+  BackupsWindow backups{program};
+};
+
+std::vector<std::string> RowOn(const QWidget& window, int row) {
+  std::vector<std::string> texts;
+  const auto& table = Find<QTableWidget>(window, "grdBackups");
+  for (int column = 0; column < table.columnCount(); ++column) {
+    texts.push_back(table.item(row, column)->text().toStdString());
+  }
+  return texts;
+}
+
+TEST_F(BackupsView, ListsThemUnderItsHeaders) {
+  KeepThree();
+
+  Use(backups, [](QDialog& window) {
+    const auto& table = Find<QTableWidget>(window, "grdBackups");
+    EXPECT_EQ(table.rowCount(), 3);
+    EXPECT_EQ(table.horizontalHeaderItem(2)->text().toStdString(), "Why it was kept");
+    EXPECT_EQ(RowOn(window, 0)[0], "panel at 730.orb");
+    EXPECT_EQ(RowOn(window, 2)[2], "Not saved");
+    EXPECT_EQ(FocusName(), "grdBackups");
+    Press(Qt::Key_Escape);
+  });
+
+  EXPECT_FALSE(backups.Chosen);
+}
+
+TEST_F(BackupsView, OpensTheOneThatTheArrowKeysReachWithEnter) {
+  KeepThree();
+
+  Use(backups, [](QDialog& window) {
+    Press(Qt::Key_Down);
+    EXPECT_EQ(TextOn(window, "txtDepthofCover"), "720 (ft)");
+    Press(Qt::Key_Down);
+    EXPECT_EQ(TextOn(window, "txtDepthofCover"), "710 (ft)");
+    EXPECT_EQ(TextOn(window, "txtProject"), "/designs/panel at 710.orb");
+    Press(Qt::Key_Return);
+  });
+
+  ASSERT_TRUE(backups.Chosen);
+  EXPECT_EQ(backups.Chosen->WorkParms.DepthofCover, 710);
+}
+
+TEST_F(BackupsView, DeletesTheSelectedOneByItsLetterAndGoesToTheNext) {
+  KeepThree();
+  platform.boxes.answers = {box_result::Yes};
+
+  Use(backups, [](QDialog& window) {
+    PressLetterOf(window, "cmdDelete");
+    EXPECT_EQ(Find<QTableWidget>(window, "grdBackups").rowCount(), 2);
+    EXPECT_EQ(TextOn(window, "txtDepthofCover"), "720 (ft)");
+    Press(Qt::Key_Escape);
+  });
+
+  EXPECT_THAT(ListBackups(program), SizeIs(2));
+}
+
+TEST_F(BackupsView, SavesTheSelectedOneByItsLetter) {
+  KeepThree();
+  platform.fileDialogs.answers = {"/designs/back.orb"};
+
+  Use(backups, [](QDialog& window) {
+    PressLetterOf(window, "cmdSaveAs");
+    EXPECT_TRUE(window.isVisible());
+    Press(Qt::Key_Escape);
+  });
+
+  EXPECT_EQ(platform.files.files.at("/designs/back.orb"), ProjectFileBytes(program));
+}
+
+TEST_F(BackupsView, ShowsAnEmptyTableWithItsHeadersAndCanBeLeft) {
+  Use(backups, [](QDialog& window) {
+    EXPECT_EQ(Find<QTableWidget>(window, "grdBackups").rowCount(), 0);
+    EXPECT_EQ(TextOn(window, "lblState"), "There are no backups.");
+    EXPECT_FALSE(Find<QAbstractButton>(window, "cmdOpen").isEnabled());
+    PressLetterOf(window, "Command1");
+  });
+
+  EXPECT_FALSE(backups.IsOpen());
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,311 @@
+#include "shell/backups_window.h"
+
+#include "files/backups.h"
+#include "main_window_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+using Step = MemoryFiles::Step;
+
+const std::string DataFolder = "/home/user/Documents/Orby/";
+const std::string Store = DataFolder + "Backups/";
+
+struct TheBackupsWindow : MainWindowTest {
+  TheBackupsWindow() {
+    program.folders.ProgramData = DataFolder;
+    program.settings.DataPath = "/designs/";
+  }
+
+  // An overwritten file of panel 4 and, newer, unsaved changes of panel 3.
+  void KeepTwo() {
+    KeepBackup(program, Panel4, DesignAt(980), BackupReason::Overwritten);
+    OpenByDialog(Panel3);
+    program.WorkParms.DepthofCover = 800;
+    program.ProjectTitle = "Belt entry";
+    program.WorkParms.BoltOptionsPrimary = 1;
+    KeepDropped(program, CommittedProject(program), BackupReason::Dropped);
+    window.mnuFileItem.ClickItem(file_item::New);
+    platform.boxes.shown.clear();
+  }
+
+  std::vector<std::string> Row(int row) {
+    std::vector<std::string> texts;
+    for (int column = 0; column < 4; ++column) texts.push_back(backups.grdBackups.Cell(row, column));
+    return texts;
+  }
+
+  // Opens the window from the menu, and this is what the user does in it.
+  void UseFromMenu(const std::function<void(BackupsWindow&)>& act) {
+    platform.windows.onModal = [&](Form& form) {
+      if (auto* shown = dynamic_cast<BackupsWindow*>(&form)) act(*shown);
+    };
+    window.mnuUtilItem.ClickItem(util_item::Backups);
+  }
+
+  BackupsWindow backups{program};
+};
+
+TEST_F(TheBackupsWindow, ListsWhatWasKeptTheNewestFirst) {
+  KeepTwo();
+
+  backups.Open();
+
+  EXPECT_THAT(Row(0), ElementsAre("Project", "Time", "Why it was kept", "Size"));
+  EXPECT_THAT(Row(1), ElementsAre("panel3.orb", "2031-03-09 14:05:07", "Not saved", "739 bytes"));
+  EXPECT_THAT(Row(2), ElementsAre("panel4.orb", "2031-03-09 14:05:07", "Overwritten by a save", "603 bytes"));
+  EXPECT_EQ(backups.grdBackups.Rows(), 3);
+  EXPECT_EQ(backups.grdBackups.Row(), 1);
+}
+
+TEST_F(TheBackupsWindow, ShowsTheFiguresOfTheSelectedOne) {
+  KeepTwo();
+  backups.Open();
+
+  EXPECT_EQ(backups.txtProject.Text(), Panel3);
+  EXPECT_EQ(backups.txtTitle.Text(), "Belt entry");
+  EXPECT_EQ(backups.txtUnits.Text(), "ft, in, lbs, psi, pcf");
+  EXPECT_EQ(backups.txtCMRR.Text(), "45");
+  EXPECT_EQ(backups.txtDepthofCover.Text(), "800 (ft)");
+  EXPECT_EQ(backups.txtEntryWidth.Text(), "20 (ft)");
+  EXPECT_EQ(backups.txtActualPSUP.Text(), "9.9");
+  EXPECT_EQ(backups.lblState.Caption(), "");
+
+  backups.grdBackups.SetRow(2);
+
+  EXPECT_EQ(backups.txtProject.Text(), Panel4);
+  EXPECT_EQ(backups.txtDepthofCover.Text(), "980 (ft)");
+}
+
+TEST_F(TheBackupsWindow, ShowsTheSuggestedSupportOfTheDefaultDesign) {
+  KeepBackup(program, Panel3, DesignAt(400), BackupReason::Overwritten);
+
+  backups.Open();
+
+  EXPECT_EQ(backups.txtSugPSUP.Text(), "7.6");
+}
+
+TEST_F(TheBackupsWindow, ShowsADashForAFigureThatCannotBeHad) {
+  program.WorkParms.EntryWidth = 0;
+  KeepDropped(program, CommittedProject(program), BackupReason::Dropped);
+
+  backups.Open();
+
+  EXPECT_EQ(backups.txtSugPSUP.Text(), "--");
+  EXPECT_EQ(backups.txtActualPSUP.Text(), "--");
+  EXPECT_TRUE(backups.cmdOpen.Enabled());
+}
+
+TEST_F(TheBackupsWindow, SaysThatThereAreNone) {
+  backups.Open();
+
+  EXPECT_EQ(backups.lblState.Caption(), "There are no backups.");
+  EXPECT_EQ(backups.txtTitle.Text(), "");
+  EXPECT_FALSE(backups.cmdOpen.Enabled());
+  EXPECT_FALSE(backups.cmdSaveAs.Enabled());
+  EXPECT_FALSE(backups.cmdDelete.Enabled());
+  EXPECT_TRUE(backups.cmdFolder.Enabled());
+}
+
+TEST_F(TheBackupsWindow, SaysThatOneIsDamaged) {
+  KeepTwo();
+  KeepDamaged(program, "ORBY_RECOVERY_1\r\nCurrentFile=/designs/pan");
+
+  backups.Open();
+
+  EXPECT_EQ(backups.lblState.Caption(), "This backup is damaged. Its file is still in the folder.");
+  EXPECT_EQ(backups.txtProject.Text(), "/designs/pan");
+  EXPECT_EQ(backups.txtTitle.Text(), "");
+  EXPECT_FALSE(backups.cmdOpen.Enabled());
+  EXPECT_FALSE(backups.cmdSaveAs.Enabled());
+  EXPECT_TRUE(backups.cmdDelete.Enabled());
+}
+
+TEST_F(TheBackupsWindow, NamesTheReasonOfADamagedEntryNotKnown) {
+  KeepTwo();
+  platform.files.files.erase(Store + "2031-03-09 14.05.07 00002.about");
+
+  backups.Open();
+
+  EXPECT_THAT(Row(1), ElementsAre("panel3.orb", "2031-03-09 14:05:07", "Not known", "739 bytes"));
+  EXPECT_EQ(backups.txtTitle.Text(), "Belt entry");
+}
+
+// ---- the ways back --------------------------------------------------------------------------------------------------
+
+TEST_F(TheBackupsWindow, OpensOneAsAnUnsavedProjectUnderItsOldName) {
+  KeepTwo();
+
+  UseFromMenu([](BackupsWindow& shown) { shown.cmdOpen.Press(); });
+
+  EXPECT_EQ(program.CurrentFile, Panel3);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 800);
+  EXPECT_EQ(program.ProjectTitle, "Belt entry");
+  EXPECT_FALSE(program.FileSaved);
+  EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb*");
+  EXPECT_TRUE(Exists(RecoveryPath)) << "it is unsaved work";
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(TheBackupsWindow, OpensAnOverwrittenFileToo) {
+  KeepTwo();
+
+  UseFromMenu([](BackupsWindow& shown) {
+    shown.grdBackups.SetRow(2);
+    shown.cmdOpen.Press();
+  });
+
+  EXPECT_EQ(program.CurrentFile, Panel4);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 980);
+  EXPECT_FALSE(program.FileSaved);
+  EXPECT_FALSE(program.FileEmpty);
+}
+
+TEST_F(TheBackupsWindow, AsksForTheUnsavedChangesOfThePresentProjectBeforeItOpensOne) {
+  KeepTwo();
+  OpenByDialog(Panel4);
+  program.WorkParms.DepthofCover = 1010;
+  program.FileSaved = false;
+  platform.boxes.answers = {box_result::No};
+
+  UseFromMenu([](BackupsWindow& shown) { shown.cmdOpen.Press(); });
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Save changes to: /designs/panel4.orb?"));
+  EXPECT_EQ(program.CurrentFile, Panel3);
+  EXPECT_EQ(ListBackups(program).front().Project, Panel4) << "what was not saved is kept in its turn";
+}
+
+TEST_F(TheBackupsWindow, KeepsThePresentProjectWhenItsChangesCannotBeSaved) {
+  KeepTwo();
+  program.FileSaved = false;
+  platform.boxes.answers = {box_result::Yes};
+
+  UseFromMenu([](BackupsWindow& shown) { shown.cmdOpen.Press(); });
+
+  EXPECT_EQ(program.CurrentFile, "Untitled");
+  EXPECT_FALSE(program.FileSaved);
+}
+
+TEST_F(TheBackupsWindow, ChangesNothingWhenItIsClosed) {
+  KeepTwo();
+  OpenByDialog(Panel4);
+
+  UseFromMenu([](BackupsWindow& shown) { shown.Command1.Press(); });
+
+  EXPECT_EQ(program.CurrentFile, Panel4);
+  EXPECT_TRUE(program.FileSaved);
+}
+
+TEST_F(TheBackupsWindow, SavesOneUnderTheNameThatTheUserGives) {
+  KeepTwo();
+  backups.Open();
+  backups.grdBackups.SetRow(2);
+  platform.fileDialogs.answers = {"/designs/old panel.orb"};
+
+  backups.cmdSaveAs.Press();
+
+  EXPECT_EQ(platform.fileDialogs.asked.back().fileName, "panel4.orb");
+  EXPECT_EQ(platform.fileDialogs.asked.back().folder, "/designs");
+  EXPECT_EQ(FileAt("/designs/old panel.orb"), DesignAt(980));
+  EXPECT_TRUE(backups.IsOpen());
+}
+
+TEST_F(TheBackupsWindow, KeepsTheFileThatItSavesOver) {
+  KeepTwo();
+  backups.Open();
+  backups.grdBackups.SetRow(2);
+  platform.fileDialogs.answers = {Panel3};
+
+  backups.cmdSaveAs.Press();
+
+  EXPECT_EQ(FileAt(Panel3), DesignAt(980));
+  EXPECT_EQ(FileAt(ListBackups(program).front().Path), DesignAt(725));
+  EXPECT_EQ(backups.grdBackups.Rows(), 4);
+}
+
+TEST_F(TheBackupsWindow, SavesNothingWhenTheNameIsNotGiven) {
+  KeepTwo();
+  backups.Open();
+  const auto before = platform.files.files;
+
+  backups.cmdSaveAs.Press();
+
+  EXPECT_EQ(platform.files.files, before);
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(TheBackupsWindow, DeletesOneAfterAQuestion) {
+  KeepTwo();
+  backups.Open();
+  platform.boxes.answers = {box_result::Yes};
+
+  backups.cmdDelete.Press();
+
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("Delete this backup for good?\r\n\r\npanel3.orb of 2031-03-09 14:05:07"));
+  EXPECT_EQ(platform.boxes.shown.front().style, 292);
+  EXPECT_EQ(backups.grdBackups.Rows(), 2);
+  EXPECT_EQ(backups.txtProject.Text(), Panel4);
+  EXPECT_THAT(ListBackups(program), SizeIs(1));
+}
+
+TEST_F(TheBackupsWindow, DeletesAllOneByOne) {
+  KeepTwo();
+  backups.Open();
+  platform.boxes.answers = {box_result::Yes, box_result::Yes};
+
+  backups.grdBackups.SetRow(2);
+  backups.cmdDelete.Press();
+  EXPECT_EQ(backups.txtProject.Text(), Panel3);
+  backups.cmdDelete.Press();
+
+  EXPECT_EQ(backups.lblState.Caption(), "There are no backups.");
+  EXPECT_FALSE(backups.cmdDelete.Enabled());
+}
+
+TEST_F(TheBackupsWindow, DeletesNothingOnNo) {
+  KeepTwo();
+  backups.Open();
+  platform.boxes.answers = {box_result::No};
+
+  backups.cmdDelete.Press();
+
+  EXPECT_THAT(ListBackups(program), SizeIs(2));
+}
+
+TEST_F(TheBackupsWindow, TellsOfOneThatCannotBeDeleted) {
+  KeepTwo();
+  backups.Open();
+  platform.boxes.answers = {box_result::Yes};
+  platform.files.Fail(Step::Remove, error_number::PermissionDenied);
+
+  backups.cmdDelete.Press();
+
+  EXPECT_EQ(platform.boxes.Texts().back(),
+            "The backup could not be deleted: " + Store + "2031-03-09 14.05.07 00002 panel3.orb.recovery");
+  EXPECT_EQ(backups.grdBackups.Rows(), 3);
+}
+
+TEST_F(TheBackupsWindow, OpensTheFolder) {
+  backups.Open();
+
+  backups.cmdFolder.Press();
+
+  EXPECT_THAT(platform.documents.opened, ElementsAre(DataFolder + "Backups"));
+  EXPECT_TRUE(platform.files.folders.contains(DataFolder + "Backups"));
+}
+
+TEST_F(TheBackupsWindow, TellsOfAFolderThatDoesNotOpen) {
+  platform.documents.opens = false;
+  backups.Open();
+
+  backups.cmdFolder.Press();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("The folder could not be opened: " + Store));
+}
+
+}  // namespace
+}  // namespace orby::test
