@@ -57,7 +57,9 @@ void ParametersDialog::ShowSystems(const OutputControls& outputs, const std::arr
     systems[i].Fails = !Succeeds([&] { systems[i].Result = (this->*rules[i])(rockLoad); });
   }
   const std::string load = FormatNumber(rockLoad, pattern);
-  for (TextBox& box : outputs.RockLoad) box.SetText(load);
+  for (TextBox& box : outputs.RockLoad) {
+    if (box.Text() != load) box.SetText(load);
+  }
   for (std::size_t i = 0; i < SystemCount; ++i) {
     if (systems[i].Fails) {
       Show(outputs.SupportCap[i], NoResult);
@@ -162,8 +164,9 @@ void ParametersDialog::ShowEntries() {
   const auto rockLoad = OrNothing([this] { return EntryRockLoad(TypedEntryRock(), Units()); });
   if (!rockLoad) return Clear(EntryOutputs);
   using D = ParametersDialog;
-  ShowSystems(EntryOutputs, chkSecEntries,
-              {&D::CableInEntry, &D::TrussInEntry, &D::RoofBoltInEntry, &D::StandingInEntry}, *rockLoad, OneDecimal);
+  static constexpr std::array<SystemRule, SystemCount> Rules{&D::CableInEntry, &D::TrussInEntry, &D::RoofBoltInEntry,
+                                                             &D::StandingInEntry};
+  ShowSystems(EntryOutputs, chkSecEntries, Rules, *rockLoad, OneDecimal);
 }
 
 // ---- intersections -------------------------------------------------------------------------------------------------
@@ -195,10 +198,9 @@ void ParametersDialog::ShowIntersections() {
   const auto rockLoad = OrNothing([&] { return IntersectionRockLoad(TypedIntersectionRock(*unitWeight), Units()); });
   if (!rockLoad) return Clear(InterOutputs);
   using D = ParametersDialog;
-  ShowSystems(
-      InterOutputs, chkSecInter,
-      {&D::CableInIntersection, &D::TrussInIntersection, &D::RoofBoltInIntersection, &D::StandingInIntersection},
-      *rockLoad, WholeNumber);
+  static constexpr std::array<SystemRule, SystemCount> Rules{&D::CableInIntersection, &D::TrussInIntersection,
+                                                             &D::RoofBoltInIntersection, &D::StandingInIntersection};
+  ShowSystems(InterOutputs, chkSecInter, Rules, *rockLoad, WholeNumber);
 }
 
 }  // namespace orby
