@@ -7,12 +7,12 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "core/dates.h"
-#include "core/file_helpers.h"
 #include "core/messages.h"
 #include "engine/primary_support.h"
 #include "files/kept_project.h"
+#include "files/overwritten_file.h"
+#include "files/project_save.h"
 #include "files/save_command.h"
-#include "platform/whole_file.h"
 
 namespace orby {
 namespace {
@@ -139,23 +139,24 @@ void BackupsWindow::ClearProject() {
   }
 }
 
-// A file that is there already is kept first, as before every save.
+// A file that is there already is kept first, as before every save. The open project has nothing to do with the file,
+// whatever its name.
 void BackupsWindow::SaveAs() {
-  RunTrapped(program_, [this] {
+  const FileOnDisk last = program_.LastFile;
+  SaveRemarks remarks;
+  RunTrapped(program_, [&] {
     const Backup entry = *Selected();
     FileSystem& files = program_.platform.files;
     const auto bytes = KeptProjectAsFile(program_, files.ReadFile(entry.Path));
     if (!bytes) return;
     const FileQuestion question = ProjectFileQuestion(program_, entry.Project);
     const std::string path = program_.platform.fileDialogs.AskSaveName(question);
-    if (FileExists(program_, path)) KeepBackup(program_, path, files.ReadFile(path), BackupReason::Overwritten);
-    if (TryWriteWhole(files, path, *bytes)) {
-      AddHistoryLine(program_, "Backup saved as: " + path);
-      List();
-    } else {
-      ShowMessage(program_, "The backup could not be saved: " + path, box_style::Exclamation);
-    }
+    OverwrittenFile(program_, path).Overwrite(*bytes, remarks);
+    AddHistoryLine(program_, "Backup saved as: " + path);
+    List();
   });
+  program_.LastFile = last;
+  ShowRemarks(program_, remarks);
 }
 
 void BackupsWindow::Delete() {

@@ -226,6 +226,33 @@ TEST_F(TheBackupsWindow, KeepsTheFileThatItSavesOver) {
   EXPECT_EQ(backups.grdBackups.Rows(), 4);
 }
 
+TEST_F(TheBackupsWindow, PutsBackTheFileThatItCannotSaveOver) {
+  KeepTwo();
+  backups.Open();
+  backups.grdBackups.SetRow(2);
+  platform.fileDialogs.answers = {Panel3};
+  platform.boxes.answers = {box_result::Cancel};
+  platform.files.Fail(Step::Close, error_number::DiskFull);
+
+  backups.cmdSaveAs.Press();
+
+  EXPECT_EQ(FileAt(Panel3), DesignAt(725));
+  ASSERT_FALSE(platform.boxes.shown.empty());
+  EXPECT_EQ(platform.boxes.Texts().front(), "Error occurred: Disk full (61)");
+}
+
+TEST_F(TheBackupsWindow, DoesNotTakeTheFileThatItSavesForTheOneOfTheOpenProject) {
+  KeepTwo();
+  OpenByDialog(Panel3);
+  backups.Open();
+  platform.fileDialogs.answers = {"/designs/old panel.orb"};
+
+  backups.cmdSaveAs.Press();
+
+  EXPECT_EQ(program.LastFile.Path, Panel3);
+  EXPECT_EQ(program.CurrentFile, Panel3);
+}
+
 TEST_F(TheBackupsWindow, SavesNothingWhenTheNameIsNotGiven) {
   KeepTwo();
   backups.Open();
