@@ -271,10 +271,10 @@ class MemoryFiles : public FileSystem {
     MemoryInput(MemoryFiles& owner, std::string bytes) : owner_(owner), bytes_(std::move(bytes)) {}
     std::string Read(std::size_t most) override {
       owner_.Meet(Step::Read);
-      const std::string next = bytes_.substr(place_, most);
-      place_ += next.size();
-      owner_.bytesRead += next.size();
-      return next;
+      const std::string piece = bytes_.substr(place_, most);
+      place_ += piece.size();
+      owner_.bytesRead += piece.size();
+      return piece;
     }
 
    private:
