@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLineEdit>
+#include <algorithm>
 
 #include "base/runtime_error.h"
 #include "qt/texts.h"
@@ -19,6 +21,27 @@ QStringList NameFilters(const std::vector<FileFilter>& filters) {
   for (const FileFilter& filter : filters) texts.append(ToQt(filter.name + " (" + filter.pattern + ")"));
   return texts;
 }
+
+// A file that is there is opened by the name that it has; else a name without an extension gets the one that makes it
+// the name of a file, in capitals or not. While one types there is none: the dialog would highlight the longer name.
+class OpenDialog : public QFileDialog {
+ public:
+  OpenDialog(QWidget* parent, const FileQuestion& question)
+      : QFileDialog(parent, ToQt(question.title), ToQt(question.folder)), extension_(ToQt(question.defaultExtension)) {}
+
+ protected:
+  void accept() override {
+    for (const QString& suffix : {QString(), extension_.toLower(), extension_}) {
+      setDefaultSuffix(suffix);
+      if (std::ranges::all_of(selectedFiles(), [](const QString& file) { return QFileInfo::exists(file); })) break;
+    }
+    QFileDialog::accept();
+    if (isVisible()) setDefaultSuffix({});
+  }
+
+ private:
+  QString extension_;
+};
 
 QLineEdit* NameField(const QFileDialog& dialog) { return dialog.findChild<QLineEdit*>("fileNameEdit"); }
 
@@ -42,14 +65,9 @@ std::string Answer(QFileDialog& dialog) {
   return FromQt(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
 }
 
-std::string Ask(const FileQuestion& question, QFileDialog::AcceptMode mode) {
-  QFileDialog dialog(QApplication::activeWindow(), ToQt(question.title), ToQt(question.folder));
-  dialog.setAcceptMode(mode);
-  dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+std::string Ask(QFileDialog& dialog, const FileQuestion& question) {
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setNameFilters(NameFilters(question.filters));
-  // A file that is there is opened by the name that it has.
-  if (mode == QFileDialog::AcceptSave) dialog.setDefaultSuffix(ToQt(question.defaultExtension));
   if (!question.fileName.empty()) dialog.selectFile(ToQt(question.fileName));
   if (auto* name = NameField(dialog)) name->setMaxLength(LongestName);
   return Answer(dialog);
@@ -57,8 +75,19 @@ std::string Ask(const FileQuestion& question, QFileDialog::AcceptMode mode) {
 
 }  // namespace
 
-std::string QtFileDialogs::AskOpenName(const FileQuestion& question) { return Ask(question, QFileDialog::AcceptOpen); }
-std::string QtFileDialogs::AskSaveName(const FileQuestion& question) { return Ask(question, QFileDialog::AcceptSave); }
+std::string QtFileDialogs::AskOpenName(const FileQuestion& question) {
+  OpenDialog dialog(QApplication::activeWindow(), question);
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  return Ask(dialog, question);
+}
+
+std::string QtFileDialogs::AskSaveName(const FileQuestion& question) {
+  QFileDialog dialog(QApplication::activeWindow(), ToQt(question.title), ToQt(question.folder));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  dialog.setDefaultSuffix(ToQt(question.defaultExtension));
+  return Ask(dialog, question);
+}
 
 std::string QtFileDialogs::AskFolder(const std::string& title, const std::string& folder) {
   QFileDialog dialog(QApplication::activeWindow(), ToQt(title), ToQt(folder));

@@ -86,6 +86,28 @@ TEST_F(AskingForAFile, OpensAFileByTheNameThatItHas) {
   }
 }
 
+TEST_F(AskingForAFile, OpensANameWithoutItsExtensionWhenNoFileHasTheBareName) {
+  AnswerWith("belt");
+  EXPECT_EQ(dialogs.AskOpenName(Question()), PathOf("belt.ORB"));
+
+  AnswerWith(PathOf("belt"));
+  EXPECT_EQ(dialogs.AskOpenName(QuestionAbove()), PathOf("belt.ORB"));
+}
+
+TEST_F(AskingForAFile, OpensTheBareNameWhenAFileOfItsExtensionIsThereToo) {
+  ASSERT_TRUE(QFile::copy(folder.filePath("belt.ORB"), folder.filePath("design.ORB")));
+  AnswerWith("design");
+
+  EXPECT_EQ(dialogs.AskOpenName(Question()), PathOf("design"));
+}
+
+TEST_F(AskingForAFile, FindsTheExtensionInSmallLettersToo) {
+  ASSERT_TRUE(QFile::rename(folder.filePath("belt.ORB"), folder.filePath("belt.orb")));
+  AnswerWith("belt");
+
+  EXPECT_EQ(dialogs.AskOpenName(Question()), PathOf("belt.orb"));
+}
+
 TEST_F(AskingForAFile, GivesANameToSaveUnderItsExtensionWhenItHasNone) {
   AnswerWith("panel3");
   EXPECT_EQ(dialogs.AskSaveName(Question()), PathOf("panel3.ORB"));
@@ -110,6 +132,21 @@ TEST_F(AskingForAFile, OpensOnlyAFileThatIsThere) {
     AnswerBox(remark, QMessageBox::Ok);
     Find<QLineEdit>(window, "fileNameEdit").setFocus();
     Type("missing.ORB");
+    Press(Qt::Key_Return);
+    window.reject();
+  });
+
+  EXPECT_EQ(ErrorNumberOf([&] { dialogs.AskOpenName(Question()); }), error_number::Cancelled);
+
+  EXPECT_THAT(remark, testing::HasSubstr("missing.ORB"));
+}
+
+TEST_F(AskingForAFile, NamesAMissingFileWithItsExtension) {
+  std::string remark;
+  scripts.Add([&](QDialog& window) {
+    AnswerBox(remark, QMessageBox::Ok);
+    Find<QLineEdit>(window, "fileNameEdit").setFocus();
+    Type("missing");
     Press(Qt::Key_Return);
     window.reject();
   });
