@@ -22,12 +22,11 @@ void OverwrittenFile::Look() {
     old_ = last.Bytes;
     return;
   }
-  std::uint64_t length = 0;
-  if (!Succeeds([&] { length = files.FileLength(path_); })) return;
+  if (!Succeeds([&] { length_ = files.FileLength(path_); })) return;
   holds_ = Holds::TooMuch;
-  if (length > LargestBackup) return;
+  if (length_ > LargestBackup) return;
   // A pipe has no length and is not to be waited for.
-  const bool isRead = length == 0 || Succeeds([&] { old_ = files.ReadFile(path_); });
+  const bool isRead = length_ == 0 || Succeeds([&] { old_ = files.ReadFile(path_); });
   holds_ = isRead ? Holds::Known : Holds::Unreadable;
   isChanged_ = isRead && last.Path == path_ && last.Bytes != old_;
 }
@@ -52,7 +51,9 @@ void OverwrittenFile::Keep(std::string_view bytes) {
   switch (holds_) {
     case Holds::Nothing: return;
     case Holds::Unreadable: lacksBackup_ = true; return;
-    case Holds::TooMuch: return MoveBeside();
+    case Holds::TooMuch:
+      if (!Succeeds([this] { MoveBeside(); })) Hold();
+      return;
     case Holds::Known: break;
   }
   isChanged_ = isChanged_ && old_ != bytes;
@@ -73,6 +74,15 @@ void OverwrittenFile::MoveBeside() {
     return;
   }
   throw RuntimeError(error_number::PathFileAccess);
+}
+
+// A file that cannot even be held in memory is not written over.
+void OverwrittenFile::Hold() {
+  constexpr std::uint64_t MostHeld = std::uint64_t{256} * 1024 * 1024;
+  if (length_ > MostHeld) throw RuntimeError(error_number::OutOfMemory);
+  old_ = program_.platform.files.ReadFile(path_);
+  holds_ = Holds::Known;
+  lacksBackup_ = true;
 }
 
 void OverwrittenFile::Write(std::string_view bytes) {
@@ -103,8 +113,14 @@ void OverwrittenFile::TellKept(std::vector<std::string>& remarks) {
   if (!beside_.empty()) {
     remarks.push_back("The file that " + path_ + " was before is too long for Backups. It is kept as " + beside_ + ".");
   }
-  if (lacksBackup_ && !std::exchange(program_.ToldOfNoBackup, true)) {
-    remarks.push_back("No backup of what " + path_ + " held before could be kept in " + BackupFolder(program_) + ".");
+  if (lacksBackup_) {
+    const std::string text =
+        "No backup of what " + path_ + " held before could be kept in " + BackupFolder(program_) + ".";
+    if (std::exchange(program_.ToldOfNoBackup, true)) {
+      AddHistoryLine(program_, text);
+    } else {
+      remarks.push_back(text);
+    }
   }
   if (isChanged_ && backup_) {
     remarks.push_back(path_ +

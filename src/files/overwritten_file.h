@@ -27,13 +27,14 @@ class OverwrittenFile {
     Nothing,     // no file is there
     Known,       // old_ has it
     Unreadable,  // a file that may not be read
-    TooMuch,     // more than a backup may have
+    TooMuch,     // more than a backup may have; length_ bytes
   };
 
   void Look();
   bool MayKeep() const;
   void Keep(std::string_view bytes);
   void MoveBeside();
+  void Hold();
   void Write(std::string_view bytes);
   void PutBack();
   void TellKept(std::vector<std::string>& remarks);
@@ -43,6 +44,7 @@ class OverwrittenFile {
   std::string path_;
   Holds holds_ = Holds::Nothing;
   std::string old_;
+  std::uint64_t length_ = 0;
   bool isChanged_ = false;             // by another program
   bool lacksBackup_ = false;           // one was needed and could not be had
   std::optional<std::string> backup_;  // where the old bytes are kept

@@ -12,6 +12,7 @@ namespace orby::test {
 namespace {
 
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
@@ -260,6 +261,7 @@ TEST(ProjectSave, WithoutRoomForABackupGoesOnAndTellsOnce) {
 
   EXPECT_THAT(project.platform.boxes.Texts(),
               ElementsAre("No backup of what /designs/panel3.orb held before could be kept in /data/Backups/."));
+  EXPECT_THAT(project.program.history.Text, EndsWith(" could be kept in /data/Backups/.\r\n")) << "but noted again";
   EXPECT_THAT(project.KeptBytes(), IsEmpty());
   EXPECT_THAT(project.File(), HasSubstr("\r\n820\r\n"));
 }
@@ -293,6 +295,22 @@ TEST(ProjectSave, RenamesAFileThatIsTooLongForABackup) {
   EXPECT_THAT(project.platform.boxes.Texts(),
               ElementsAre("The file that /designs/panel3.orb was before is too long for Backups. It is kept as "
                           "/designs/panel3.orb.old2."));
+}
+
+TEST(ProjectSave, HoldsAFileThatIsTooLongAndCannotBeRenamedUntilTheNewOneIsSafe) {
+  ChangedProject project;
+  const std::string notes(11 * 1024 * 1024, 'x');
+  project.File() = notes;
+  project.platform.files.Fail(Step::Rename, error_number::PermissionDenied);
+  project.platform.files.Fail(Step::Flush, error_number::DiskFull, 0, 1);
+  ASSERT_EQ(project.SaveError(), 61);
+  EXPECT_EQ(project.File(), notes);
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_EQ(project.File(), project.typed);
+  EXPECT_THAT(project.platform.boxes.Texts(),
+              ElementsAre("No backup of what /designs/panel3.orb held before could be kept in /data/Backups/."));
 }
 
 TEST(ProjectSave, GivesARenamedFileItsNameBackWhenItFails) {
