@@ -1,12 +1,14 @@
 """Saves that write over something, and saves that fail."""
 
 import os
+import re
 import resource
 import signal
 
-from orby import DesktopTest, Window, until
+from orby import DesktopTest, Window, press_keys, until
 
 EXAMPLE = "development-entry"
+RECOVERY = re.compile(r"Orby ended unexpectedly\. Recover the unsaved project\?\n\n/.*entry\.ORB of .*")
 NO_LIMIT = (resource.RLIM_INFINITY, resource.RLIM_INFINITY)
 
 
@@ -38,21 +40,37 @@ class Saving(DesktopTest):
         names = os.listdir(folder) if os.path.isdir(folder) else []
         return [os.path.join(folder, name) for name in sorted(names) if not name.endswith(".about")]
 
-    def test_what_was_written_over_is_opened_from_the_backups(self):
+    def open_backups(self, run):
+        run.keys("alt+u", "b")
+        return run.window("Backups")
+
+    def test_what_was_written_over_is_opened_from_the_window(self):
         self.save()
 
         (backup,) = self.backups()
         self.assertEqual(self.read(backup), self.before)
-        self.run_.keys("ctrl+o")
-        self.run_.give_file_name("Open", backup)
+        window = self.open_backups(self.run_)
+        self.assertEqual(window.text("txtDepthofCover"), "650 (ft)")
+        press_keys("Return")
+        window.wait_gone()
+        self.wait_unsaved()
+        self.run_.keys("alt+i", "p")
         self.assertEqual(self.run_.window("Parameters").text("txtDepthofCover"), "650")
 
-    def test_a_kill_right_after_the_save_loses_neither_the_old_nor_the_new_design(self):
-        self.save()
+    def test_a_kill_in_a_save_leaves_the_typed_design_and_the_old_one_in_the_window(self):
+        self.run_.keys("ctrl+s")
+        (backup,) = until(self.backups, "the backup")
         self.run_.kill()
 
-        self.assertIn(b"\r\n715\r\n", self.read(self.file))
-        self.assertEqual([self.read(backup) for backup in self.backups()], [self.before])
+        self.assertEqual(self.read(backup), self.before)
+        is_typed_state_kept = bool(self.recovery_files())
+        run = self.start()
+        if is_typed_state_kept:
+            run.answer(RECOVERY, "Yes")
+            until(lambda: run.caption().endswith("entry.ORB*"), "the typed state")
+        else:
+            self.assertIn(b"\r\n715\r\n", self.read(self.file))
+        self.assertEqual(self.open_backups(run).text("txtDepthofCover"), "650 (ft)")
 
     def test_a_limit_on_file_sizes_leaves_the_file_and_the_next_save_succeeds(self):
         # The limit comes with a signal that ends whoever does not expect it.
