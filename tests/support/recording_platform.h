@@ -76,13 +76,13 @@ class MemoryFiles : public FileSystem {
   void Mend() { failures.clear(); }
 
   // The step after so many others fails with this error, whatever it is.
-  void FailNext(int errorNumber, int after) { next = {errorNumber, after, 1}; }
+  void FailNext(int errorNumber, int after) { nextFailure = {errorNumber, after, 1}; }
   // That step and all that follow it fail.
-  void FailFrom(int errorNumber, int after) { next = {errorNumber, after, Always}; }
+  void FailFrom(int errorNumber, int after) { nextFailure = {errorNumber, after, Always}; }
   // The power goes at the step after so many others.
-  void CutPower(int after) { next = {PowerIsCut, after, 1}; }
+  void CutPower(int after) { nextFailure = {PowerIsCut, after, 1}; }
   // Whether that step has come.
-  bool HasFailed() const { return next.hasFailed; }
+  bool HasFailed() const { return nextFailure.hasFailed; }
 
   bool Finds(const std::string& path, bool foldersToo) override {
     Meet(Step::Find);
@@ -298,7 +298,7 @@ class MemoryFiles : public FileSystem {
   };
 
   void Meet(Step step) {
-    for (Failure* failure : {&next, &failures[step]}) {
+    for (Failure* failure : {&nextFailure, &failures[step]}) {
       if (!failure->IsMet()) continue;
       if (failure->errorNumber == PowerIsCut) throw PowerCut();
       throw RuntimeError(failure->errorNumber);
@@ -308,7 +308,7 @@ class MemoryFiles : public FileSystem {
   static constexpr int PowerIsCut = -1;
 
   std::map<Step, Failure> failures;
-  Failure next;  // of whatever step; none: no error number
+  Failure nextFailure;  // of whatever step; none: no error number
 };
 
 // File dialogs answer from the queue; an empty queue, or an empty name, is a cancelled dialog.
