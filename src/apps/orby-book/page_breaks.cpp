@@ -19,7 +19,8 @@ constexpr double NearlyTop = 0.1;   // of a page: nothing is gained by a new pag
 constexpr double ShortTable = 0.3;  // of a page: stays whole
 constexpr double MostOfRow = 0.5;   // of a page: higher rows may be split
 constexpr double TermToText = 3;    // pixels
-constexpr double CellEnd = 18;      // pixels: what is below the last line of a cell, less than a line
+constexpr int MovedByMargin = QTextFormat::UserProperty + 1;
+constexpr double CellEnd = 18;  // pixels: what is below the last line of a cell, less than a line
 
 bool IsDefinition(const QTextBlock& block) {
   return block.isValid() && block.blockFormat().leftMargin() > 0 && block.textList() == nullptr;
@@ -59,7 +60,7 @@ class Keeper {
     for (std::size_t i = 0; i < items_.size(); ++i) {
       if (items_[i].block.blockFormat().headingLevel() == 1) isChapterDone = false;
       if (isChapterDone) continue;
-      isChapterDone = items_[i].table != nullptr ? MendTable(i) : IsTornAt(i) && BreakBefore(i);
+      isChapterDone = items_[i].table != nullptr ? MendTable(i) : MendEmptyPage(i) || (IsTornAt(i) && BreakBefore(i));
     }
     QTextCursor changes(&document_);
     changes.beginEditBlock();
@@ -81,6 +82,27 @@ class Keeper {
     if (item.table == nullptr) return PageOfLine(item.block, 0);
     const QTextTableCell cell = item.table->cellAt(std::min(1, item.table->rows() - 1), 0);
     return PageOfLine(cell.firstCursorPosition().block(), 0);
+  }
+
+  // The page on which an item ends.
+  int LastPage(const Item& item) const {
+    const QTextBlock block = item.table == nullptr ? item.block : item.table->lastCursorPosition().block();
+    return PageOfLine(block, LastLine(block));
+  }
+
+  // Where a table ends at the foot of a page, Qt has turned that page already when it comes to what follows, and a new
+  // page would be one too many. The block is moved to the top of its page by its margin then.
+  bool MendEmptyPage(std::size_t i) {
+    const QTextBlock& block = items_[i].block;
+    const bool hasBreak = block.blockFormat().pageBreakPolicy() != QTextFormat::PageBreak_Auto;
+    if (i == 0 || !hasBreak || FirstPage(items_[i]) - LastPage(items_[i - 1]) < 2) return false;
+    changes_.emplace_back([block] {
+      QTextBlockFormat format;
+      format.setPageBreakPolicy(QTextFormat::PageBreak_Auto);
+      format.setProperty(MovedByMargin, true);
+      QTextCursor(block).mergeBlockFormat(format);
+    });
+    return true;
   }
 
   bool StaysWithNext(std::size_t i) const {
@@ -109,9 +131,14 @@ class Keeper {
       return false;
     const double top = LineTop(block, 0);
     if (top - PageOf(top) * height_ < NearlyTop * height_) return false;
-    changes_.emplace_back([block] {
+    const double rest = (PageOf(top) + 1) * height_ - top;
+    changes_.emplace_back([block, pixels = rest / dots_] {
       QTextBlockFormat format;
-      format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+      if (block.blockFormat().boolProperty(MovedByMargin)) {
+        format.setTopMargin(block.blockFormat().topMargin() + pixels);
+      } else {
+        format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+      }
       QTextCursor(block).mergeBlockFormat(format);
     });
     return true;
