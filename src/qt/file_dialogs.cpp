@@ -57,7 +57,9 @@ void KeepKeyboard(QFileDialog& dialog) {
   });
 }
 
+// The dialog names a file; what lies on the disk is not for it to delete, rename or make.
 std::string Answer(QFileDialog& dialog) {
+  dialog.setOption(QFileDialog::ReadOnly);
   KeepKeyboard(dialog);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
     throw RuntimeError(error_number::Cancelled);

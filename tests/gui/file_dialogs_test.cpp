@@ -1,6 +1,9 @@
 // The dialogs that ask for a file, over a folder of the disk.
 #include "qt/file_dialogs.h"
 
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAction>
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
@@ -154,6 +157,55 @@ TEST_F(AskingForAFile, NamesAMissingFileWithItsExtension) {
   EXPECT_EQ(ErrorNumberOf([&] { dialogs.AskOpenName(Question()); }), error_number::Cancelled);
 
   EXPECT_THAT(remark, testing::HasSubstr("missing.ORB"));
+}
+
+// What the user can do in the dialog beside naming a file.
+struct Changes {
+  bool deletes = false;
+  bool renames = false;
+  bool makesFolders = false;
+};
+
+Changes ChangesIn(const QDialog& window) {
+  const auto enabled = [&](const char* action) { return Find<QAction>(window, action).isEnabled(); };
+  const auto& view = Find<QAbstractItemView>(window, "listView");
+  const auto file = view.model()->index(0, 0, view.rootIndex());
+  return {enabled("qt_delete_action"), view.model()->flags(file).testFlag(Qt::ItemIsEditable),
+          Find<QAbstractButton>(window, "newFolderButton").isEnabled()};
+}
+
+TEST_F(AskingForAFile, ChangesNothingOnTheDisk) {
+  const std::vector<std::function<std::string()>> questions{[&] { return dialogs.AskOpenName(Question()); },
+                                                            [&] { return dialogs.AskSaveName(Question()); },
+                                                            [&] { return dialogs.AskFolder("Folder", PathOf("")); }};
+  for (const auto& ask : questions) {
+    Changes possible;
+    scripts.Add([&](QDialog& window) {
+      EXPECT_TRUE(dynamic_cast<QFileDialog&>(window).testOption(QFileDialog::ReadOnly));
+      possible = ChangesIn(window);
+      window.reject();
+    });
+
+    EXPECT_EQ(ErrorNumberOf(ask), error_number::Cancelled);
+
+    EXPECT_FALSE(possible.deletes);
+    EXPECT_FALSE(possible.renames);
+    EXPECT_FALSE(possible.makesFolders);
+  }
+}
+
+TEST_F(AskingForAFile, DeletesNoFileByTheDeleteKey) {
+  scripts.Add([&](QDialog& window) {
+    auto& view = Find<QAbstractItemView>(window, "listView");
+    view.setFocus();
+    view.setCurrentIndex(view.model()->index(0, 0, view.rootIndex()));
+    Press(Qt::Key_Delete);
+    if (window.isVisible()) window.reject();
+  });
+
+  EXPECT_EQ(ErrorNumberOf([&] { dialogs.AskOpenName(Question()); }), error_number::Cancelled);
+
+  EXPECT_TRUE(QFile::exists(folder.filePath("belt.ORB")));
 }
 
 TEST_F(AskingForAFile, OpensWhatWasTypedWhenTheFieldLostTheKeyboardAfterAFolder) {
