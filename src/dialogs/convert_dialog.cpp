@@ -8,6 +8,11 @@
 #include "files/conversion.h"
 
 namespace orby {
+namespace {
+
+constexpr Integer LoadConvertedProject = 1;
+
+}  // namespace
 
 ConvertDialog::ConvertDialog(Program& program, std::function<void()> converted)
     : program_(program), converted_(std::move(converted)) {
@@ -23,6 +28,8 @@ void ConvertDialog::OnOpen() {
   Option1.SetMemberEnabled(static_cast<std::size_t>(English), other == English);
   Option1.SetMemberEnabled(static_cast<std::size_t>(Metric), other == Metric);
   SetArrayIndex(program_, Option1, other);
+  // What a conversion does.
+  SetArrayIndex(program_, Option2, LoadConvertedProject);
 }
 
 void ConvertDialog::Convert() {

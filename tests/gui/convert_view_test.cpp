@@ -37,6 +37,16 @@ TEST_F(ConvertView, OffersTheOtherUnitsAlone) {
   });
 }
 
+TEST_F(ConvertView, OpensWithTheChoiceThatAConversionMakes) {
+  ConvertDialog dialog(program);
+  Use(dialog, [](QDialog& window) {
+    EXPECT_EQ(CaptionOn(window, "Option2_1"), "Load converted project ");
+    EXPECT_TRUE(Find<QRadioButton>(window, "Option2_1").isChecked());
+    EXPECT_FALSE(Find<QRadioButton>(window, "Option2_0").isChecked());
+    Press(Qt::Key_Escape);
+  });
+}
+
 TEST_F(ConvertView, ConvertsAndCloses) {
   program.WorkParms.DepthofCover = 400;
 
