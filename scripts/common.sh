@@ -10,7 +10,7 @@ toolkit_packages=(qt6-base-dev=/usr/lib/*/cmake/Qt6Widgets qt6-svg-dev=/usr/lib/
   libchm-dev=/usr/include/chm_lib.h)
 test_packages=(libgtest-dev=/usr/include/gtest/gtest.h libgmock-dev=/usr/include/gmock/gmock.h
   librapidcheck-dev=/usr/include/rapidcheck.h unzip=unzip)
-desktop_packages=(xvfb=Xvfb openbox=openbox xdotool=xdotool xclip=xclip imagemagick=import poppler-utils=pdftotext
+desktop_packages=(xvfb=Xvfb openbox=openbox xdotool=xdotool x11-utils=xprop xclip=xclip imagemagick=import poppler-utils=pdftotext
   at-spi2-core=/usr/libexec/at-spi-bus-launcher dbus-daemon=dbus-run-session
   python3-gi=/usr/lib/python3/dist-packages/gi xdg-utils=xdg-mime desktop-file-utils=desktop-file-validate
   shared-mime-info=update-mime-database libfile-mimeinfo-perl=mimetype)

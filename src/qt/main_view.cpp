@@ -5,6 +5,8 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileInfo>
+#include <QGridLayout>
+#include <QLabel>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QScreen>
@@ -17,10 +19,13 @@
 #include "qt/boundary.h"
 #include "qt/pictures.h"
 #include "qt/texts.h"
+#include "qt/window_frame.h"
 #include "shell/main_window.h"
 
 namespace orby {
 namespace {
+
+constexpr int SignLines = 8;  // the height of the program's sign, in lines of text
 
 struct Dress {
   const char* action;
@@ -38,17 +43,27 @@ constexpr std::array Dresses{
     Dress{"Toolbar1_5", "parameters", nullptr},
 };
 
-// However its size comes about, no part of the window is left outside the screens that could be inside.
+// However its size comes about, the window is no larger than its screen, and no part of it is left outside the screens
+// that could be inside.
 class StayInView : public QObject {
  public:
   explicit StayInView(QMainWindow& window) : QObject(&window), window_(window) { window.installEventFilter(this); }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::Resize && !window_.isMaximized() && !window_.isFullScreen()) BringBack();
+    // By then the frame is known.
+    if (event->type() == QEvent::WindowActivate) Fit();
     return QObject::eventFilter(watched, event);
   }
 
  private:
+  void Fit() {
+    if (window_.isMaximized() || window_.isFullScreen()) return;
+    const QSize most = window_.screen()->availableSize().shrunkBy(FrameOf(window_));
+    window_.resize(window_.size().boundedTo(most));
+    BringBack();
+  }
+
   void BringBack() {
     const QRect screens = window_.screen()->availableVirtualGeometry();
     QRect frame = window_.frameGeometry();
@@ -61,6 +76,36 @@ class StayInView : public QObject {
   }
 
   QMainWindow& window_;
+};
+
+// Fills the place of the history while it is hidden: the sign and the name of the program.
+class EmptyGround : public QObject {
+ public:
+  explicit EmptyGround(QMainWindow& window) : QObject(&window), ground_(*new QLabel) {
+    auto* history = window.findChild<QPlainTextEdit*>("txtMain");
+    ground_.setObjectName("viewGround");
+    ground_.setAlignment(Qt::AlignCenter);
+    ground_.setPixmap(Picture(window));
+    ground_.setAccessibleName(ToQt(ProgramTitle));
+    auto& layout = dynamic_cast<QGridLayout&>(*window.centralWidget()->layout());
+    layout.addWidget(&ground_, 0, 0, 1, layout.columnCount());
+    ground_.setVisible(history->isHidden());
+    history->installEventFilter(this);
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::ShowToParent) ground_.hide();
+    if (event->type() == QEvent::HideToParent) ground_.show();
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  static QPixmap Picture(const QWidget& window) {
+    const int side = SignLines * window.fontMetrics().lineSpacing();
+    return ThemedIcon("orby").pixmap(QSize(side, side), window.devicePixelRatio());
+  }
+
+  QLabel& ground_;
 };
 
 // Takes the one file that is dropped on the window.
@@ -118,7 +163,9 @@ void DressMainWindow(QMainWindow& window, MainWindow& model) {
   new StayInView(window);
   // The icons have made the tool bar longer than the window was made for.
   const QSize whole(window.findChild<QToolBar*>()->sizeHint().width(), 0);
-  if (!window.isMaximized()) window.resize(window.size().expandedTo(whole).boundedTo(window.screen()->size()));
+  const QSize most = window.screen()->availableSize().shrunkBy(FrameOf(window));
+  if (!window.isMaximized()) window.resize(window.size().expandedTo(whole).boundedTo(most));
+  new EmptyGround(window);
   new DropTarget(window, model);
 }
 

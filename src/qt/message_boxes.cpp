@@ -2,12 +2,14 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
 #include <algorithm>
 #include <array>
 
 #include "qt/texts.h"
+#include "qt/window_frame.h"
 
 namespace orby {
 namespace {
@@ -61,6 +63,13 @@ class Box : public QMessageBox {
   Box(QWidget* parent, bool mustAnswer) : QMessageBox(parent), mustAnswer_(mustAnswer) {}
 
  protected:
+  // The box asks its layout how wide it has to be.
+  void showEvent(QShowEvent* event) override {
+    auto& grid = dynamic_cast<QGridLayout&>(*layout());
+    auto* width = new QSpacerItem(WidthOfTitle(*this), 0, QSizePolicy::Minimum, QSizePolicy::Minimum);
+    grid.addItem(width, grid.rowCount(), 0, 1, grid.columnCount());
+    QMessageBox::showEvent(event);
+  }
   void keyPressEvent(QKeyEvent* event) override {
     if (!mustAnswer_ || event->key() != Qt::Key_Escape) QMessageBox::keyPressEvent(event);
   }

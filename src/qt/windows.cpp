@@ -32,6 +32,7 @@
 #include <ui_unit_calculator.h>
 #include <ui_update_dialog.h>
 #include "core/dialog_helpers.h"
+#include "qt/window_frame.h"
 
 namespace orby {
 namespace {
@@ -117,11 +118,16 @@ void LayOutAnew(QWidget& widget) {
   widget.layout()->activate();
 }
 
-// The size in which all of the window shows, what lies in its scroll area included.
+// The size in which all of the window shows, what lies in its scroll area included. A base size in a layout is what a
+// widget would like to have beyond what it needs.
 QSize WholeSize(QWidget& window) {
   for (QWidget* child : window.findChildren<QWidget*>()) child->ensurePolished();
   window.ensurePolished();
   QSize size = window.sizeHint();
+  for (const QWidget* child : window.findChildren<QWidget*>()) {
+    const QSize needed = child->sizeHint().expandedTo(child->minimumSize());
+    if (!child->baseSize().isEmpty()) size += (child->baseSize() - needed).expandedTo(QSize(0, 0));
+  }
   if (const auto* scroll = window.findChild<QScrollArea*>("viewScroll")) {
     LayOutAnew(*scroll->widget());
     size += scroll->widget()->sizeHint() - scroll->sizeHint();
@@ -129,11 +135,13 @@ QSize WholeSize(QWidget& window) {
   return size;
 }
 
-// In the middle of the screen, and no larger than it.
+// In the middle of the screen, and with its frame no larger than it.
 void Place(QWidget& window) {
   const QRect screen = window.screen()->availableGeometry();
-  window.resize(WholeSize(window).boundedTo(screen.size()));
-  const Position at = CenterForm({window.width(), window.height()}, {screen.width(), screen.height()});
+  const QMargins frame = FrameOf(window);
+  window.resize(WholeSize(window).boundedTo(screen.size().shrunkBy(frame)));
+  const QSize whole = window.size().grownBy(frame);
+  const Position at = CenterForm({whole.width(), whole.height()}, {screen.width(), screen.height()});
   window.move(screen.left() + at.left, screen.top() + at.top);
 }
 

@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStyle>
 
 #include "gui/gui_bench.h"
 
@@ -140,6 +141,20 @@ TEST_P(BoxStyle, IsClosedByItsFrameUnlessItMustBeAnswered) {
 
 INSTANTIATE_TEST_SUITE_P(Of, BoxStyle, testing::ValuesIn(Styles),
                          [](const auto& style) { return std::string(style.param.name); });
+
+TEST_F(MessageBoxesView, AreAsWideAsTheirTitles) {
+  const std::string title = "Project Parameters: Range Error of the Support System";
+  scripts.Add([&](QDialog& box) {
+    QFont heavy = QApplication::font();
+    heavy.setBold(true);
+    const int buttons = 4 * box.style()->pixelMetric(QStyle::PM_TitleBarHeight);  // with the icon of the title bar
+    EXPECT_GE(box.width(), QFontMetrics(heavy).horizontalAdvance(box.windowTitle()) + buttons);
+    Press(Qt::Key_Enter);
+  });
+
+  QtMessageBoxes boxes;
+  boxes.Show({"Overflow", box_style::Critical, title, {}, 0});
+}
 
 struct Answer {
   int style;

@@ -148,6 +148,41 @@ TEST_F(WindowsOnScreen, TheMainWindowComesBackOntoTheScreenWhenItsSizeChanges) {
                                       << screen.bottom();
 }
 
+TEST_F(WindowsOnScreen, TheMainWindowIsNoLargerThanTheScreenWithItsFrame) {
+  const QRect screen = View().screen()->availableGeometry();
+  View().resize(screen.size());
+  Settle();
+
+  QEvent activated(QEvent::WindowActivate);
+  QApplication::sendEvent(&View(), &activated);
+  Settle();
+
+  EXPECT_TRUE(screen.contains(View().frameGeometry()));
+}
+
+TEST_F(WindowsOnScreen, TheMainWindowKeepsASensibleSizeWithoutHistoryAndToolBar) {
+  model.mnuUtilItem.ClickItem(util_item::ToggleHistory);
+  model.Toolbar1.SetVisible(false);
+  Settle();
+
+  EXPECT_GE(View().minimumSizeHint().width(), 600);
+  EXPECT_GE(View().minimumSizeHint().height(), 340);
+}
+
+TEST_F(WindowsOnScreen, TheMainWindowShowsTheSignOfTheProgramInPlaceOfTheHistory) {
+  const auto& sign = Find<QLabel>(View(), "viewGround");
+  EXPECT_FALSE(sign.isVisible());
+
+  model.mnuUtilItem.ClickItem(util_item::ToggleHistory);
+  Settle();
+  EXPECT_TRUE(sign.isVisible());
+  EXPECT_FALSE(sign.pixmap().isNull());
+
+  model.mnuUtilItem.ClickItem(util_item::ToggleHistory);
+  Settle();
+  EXPECT_FALSE(sign.isVisible());
+}
+
 TEST_F(WindowsOnScreen, ADialogStandsInTheMiddleOfTheScreen) {
   DescriptionDialog dialog(program);
 
@@ -183,7 +218,7 @@ TEST_F(WindowsOnScreen, ADialogIsNoHigherThanTheScreenAndKeepsItsButtonsOnIt) {
   Use(dialog, [&](QDialog& window) {
     const auto& ok = Find<QPushButton>(window, "Command2");
     const int bottom = ok.mapToGlobal(QPoint(0, ok.height())).y();
-    EXPECT_LE(window.height(), window.screen()->availableGeometry().height());
+    EXPECT_LE(window.frameGeometry().height(), window.screen()->availableGeometry().height());
     EXPECT_LE(bottom, window.screen()->availableGeometry().bottom() + 1);
     window.close();
   });

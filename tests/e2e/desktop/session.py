@@ -15,10 +15,15 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 PATIENCE = 15  # seconds until something that does not start counts as a failure
 
 
-def start_display():
+# Of modules that are not about the usual screen.
+SCREENS = {"test_small_screen": "1024x600x24"}
+
+
+def start_display(module):
     """The display server and the number of its display, which it chose itself."""
+    screen = SCREENS.get(module, "1366x768x24")
     reader, writer = os.pipe()
-    server = subprocess.Popen(["Xvfb", "-displayfd", str(writer), "-screen", "0", "1366x768x24", "-nolisten", "tcp"],
+    server = subprocess.Popen(["Xvfb", "-displayfd", str(writer), "-screen", "0", screen, "-nolisten", "tcp"],
                               pass_fds=[writer], stderr=subprocess.DEVNULL)
     os.close(writer)
     with os.fdopen(reader) as numbers:
@@ -79,7 +84,7 @@ def desktop_environment(folder, display):
 def run_tests(module):
     with contextlib.ExitStack() as ending:
         folder = ending.enter_context(tempfile.TemporaryDirectory(prefix="orby-desktop-"))
-        server, display = start_display()
+        server, display = start_display(module)
         ending.callback(end, server)
         environment = desktop_environment(folder, display)
         ending.callback(end, start_window_manager(folder, environment))
