@@ -3,16 +3,24 @@
 #include <QApplication>
 #include <QEvent>
 #include <QFileDialog>
+#include <QFontMetrics>
 #include <QMessageBox>
+#include <QScreen>
 
 #include "qt/chm_file.h"
+#include "qt/help_place.h"
+#include "qt/window_frame.h"
 
 namespace orby {
 namespace {
 
-// A window manager keeps only dialogs above the window that they belong to.
-constexpr Qt::WindowFlags Kind = Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+// No dialog: a window manager keeps those above the window that they belong to.
+constexpr Qt::WindowFlags Kind = Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                                  Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint;
+
+// In characters and in lines of the font: a page can still be read.
+constexpr int LeastColumns = 70;
+constexpr int LeastLines = 18;
 
 // Questions are answered first, and nothing may cover them.
 bool IsQuestion(const QWidget& window) {
@@ -26,10 +34,17 @@ QWidget* VisibleBelow(const QWidget* window) {
   return below == nullptr ? nullptr : below->window();
 }
 
-// Whether the window stands on the other one, directly or by way of others.
-bool StandsOn(const QWidget* window, const QWidget* other) {
+// Whether a window is the other one or belongs to it, with any number of windows between.
+bool BelongsTo(const QWidget* window, const QWidget* other) {
   while (window != nullptr && window != other) window = window->parentWidget();
   return window != nullptr;
+}
+
+// The field of the window that has the keyboard; null when none has it.
+QRect FieldInUse(const QWidget& window) {
+  const QWidget* field = QApplication::focusWidget();
+  if (field == nullptr || field->window() != &window) return {};
+  return {field->mapToGlobal(QPoint()), field->size()};
 }
 
 }  // namespace
@@ -56,15 +71,30 @@ bool QtHelpViewer::Show(const std::string& path, const std::function<void(HelpWi
   if ((window_ == nullptr || path != path_) && !MakeWindow(path)) return false;
   QWidget* modal = QApplication::activeModalWidget();
   QWidget* active = QApplication::activeWindow();
-  if (modal != nullptr) {
-    StandOn(modal);
-  } else if (active != nullptr && active != window_) {
-    StandOn(active);
+  QWidget* host = modal != nullptr ? modal : active;
+  if (host != nullptr && !BelongsTo(host, window_)) {
+    const QWidget* explained = active == nullptr || BelongsTo(active, window_) ? host : active;
+    if (explained->windowType() == Qt::Dialog) KeepClearOf(*explained);
+    BelongTo(host);
   }
   show(*window_);
   window_->raise();
   window_->activateWindow();
   return true;
+}
+
+// A place that the user has chosen is left alone as long as the field can be seen.
+void QtHelpViewer::KeepClearOf(const QWidget& dialog) {
+  const QRect field = FieldInUse(dialog);
+  const bool hasPlace = window_->isVisible() || !place_.isEmpty();
+  if (hasPlace && !window_->frameGeometry().intersects(field)) return;
+  const QMargins frame = FrameOf(*window_);
+  const QFontMetrics font = window_->fontMetrics();
+  const QSize least(font.averageCharWidth() * LeastColumns, font.lineSpacing() * LeastLines);
+  const QRect place = HelpPlace({dialog.screen()->availableGeometry(), dialog.frameGeometry(), field},
+                                window_->size().grownBy(frame), least.grownBy(frame));
+  window_->setWindowState(Qt::WindowNoState);
+  window_->setGeometry(place.marginsRemoved(frame));
 }
 
 bool QtHelpViewer::MakeWindow(const std::string& path) {
@@ -81,8 +111,8 @@ bool QtHelpViewer::MakeWindow(const std::string& path) {
 }
 
 // Keeps its place on the screen, and does not take the keyboard from the window in use.
-void QtHelpViewer::StandOn(QWidget* host) {
-  if (window_ == nullptr || host == host_ || StandsOn(host, window_)) return;
+void QtHelpViewer::BelongTo(QWidget* host) {
+  if (window_ == nullptr || host == host_ || BelongsTo(host, window_)) return;
   if (host_ != nullptr) host_->removeEventFilter(this);
   host_ = host;
   if (host != nullptr) host->installEventFilter(this);
@@ -97,9 +127,16 @@ void QtHelpViewer::StandOn(QWidget* host) {
   if (host != nullptr) host->activateWindow();
 }
 
+// It is above the help, which has been shown anew.
 void QtHelpViewer::MoveToWindowInUse() {
   QWidget* modal = QApplication::activeModalWidget();
-  if (modal != nullptr && !IsQuestion(*modal)) StandOn(modal);
+  if (modal == nullptr || IsQuestion(*modal) || window_ == nullptr || BelongsTo(modal, window_)) return;
+  BelongTo(modal);
+  modal->raise();
+}
+
+void QtHelpViewer::RaiseAgain() {
+  if (window_ != nullptr) window_->raise();
 }
 
 // The window goes by itself.
@@ -121,7 +158,10 @@ bool QtHelpViewer::eventFilter(QObject* watched, QEvent* event) {
     }
   } else if (watched == host_ && event->type() == QEvent::Hide && !event->spontaneous()) {
     QWidget* modal = QApplication::activeModalWidget();
-    StandOn(modal != nullptr && modal != host_ ? modal : VisibleBelow(host_));
+    BelongTo(modal != nullptr && modal != host_ ? modal : VisibleBelow(host_));
+    // After the window that comes back in the dialog's place.
+    QMetaObject::invokeMethod(
+        this, [this] { RaiseAgain(); }, Qt::QueuedConnection);
   }
   return QObject::eventFilter(watched, event);
 }

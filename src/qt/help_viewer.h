@@ -1,7 +1,9 @@
-// The help on the desktop: one window, which always stands on the window in use.
+// The help on the desktop: one window, which always belongs to the window in use.
 //
-// While a dialog is open only the windows that stand on it take keys and clicks. So the help moves on to each dialog
-// that opens, and back to the window below when it closes.
+// While a dialog is open only the windows that belong to it take keys and clicks. So the help moves on to each dialog
+// that opens, and back to the window below when it closes. To the window manager it is a window by itself: a dialog
+// that opens later comes up above it. When it explains a dialog it stands beside that dialog, or at least not over the
+// field in use.
 #pragma once
 
 #include <QObject>
@@ -32,14 +34,16 @@ class QtHelpViewer : public QObject, public HelpViewer {
  private:
   bool Show(const std::string& path, const std::function<void(HelpWindow&)>& show);
   bool MakeWindow(const std::string& path);
-  void StandOn(QWidget* host);
+  void BelongTo(QWidget* host);
+  void KeepClearOf(const QWidget& dialog);
   void MoveToWindowInUse();
+  void RaiseAgain();
   bool Closed();
 
   QPointer<HelpWindow> window_;
   QPointer<QWidget> host_;
   std::string path_;
-  QByteArray place_;  // on the screen, where the window was closed
+  QByteArray place_;  // on the screen, where the window was closed; empty: it has not been open yet
 };
 
 }  // namespace orby

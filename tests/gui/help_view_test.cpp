@@ -452,6 +452,86 @@ TEST_F(HelpBesideWindows, OutlivesTheDialogAndMovesOnToTheWindowBelow) {
   EXPECT_TRUE(TakesClicks());
 }
 
+TEST_F(HelpBesideWindows, StandsNotOverTheFieldThatItExplains) {
+  ParametersDialog dialog(program);
+
+  Use(dialog, [&](QDialog& window) {
+    for (const char* name : {"txtDepthofCover", "txtUnitWeight", "txtEntryWidth"}) {
+      auto& field = Find(window, name);
+      field.setFocus();
+      Press(Qt::Key_F1);
+      EXPECT_FALSE(viewer.Window()->frameGeometry().intersects(QRect(field.mapToGlobal(QPoint()), field.size())))
+          << name;
+      window.activateWindow();
+      Settle();
+    }
+    window.close();
+  });
+}
+
+TEST_F(HelpBesideWindows, StaysWhereTheUserPutsItAsLongAsTheFieldCanBeSeen) {
+  ParametersDialog dialog(program);
+
+  Use(dialog, [&](QDialog& window) {
+    auto& field = Find(window, "txtDepthofCover");
+    field.setFocus();
+    Press(Qt::Key_F1);
+    viewer.Window()->setGeometry(
+        QRect(field.mapToGlobal(QPoint(0, 2 * field.height())), viewer.Window()->minimumSizeHint()));
+    const QRect place = viewer.Window()->geometry();
+    window.activateWindow();
+    Settle();
+    field.setFocus();
+    Press(Qt::Key_F1);
+    EXPECT_EQ(viewer.Window()->geometry(), place);
+    window.close();
+  });
+}
+
+// A dialog that a window manager keeps above the window that it belongs to would cover the next one for good.
+TEST_F(HelpBesideWindows, IsNoDialogOfTheWindowThatItExplains) {
+  viewer.ShowContents(CommittedHelp);
+
+  EXPECT_EQ(viewer.Window()->windowType(), Qt::Window);
+}
+
+TEST_F(HelpBesideWindows, PrintsAPage) {
+  viewer.ShowContents(CommittedHelp);
+  Settle();
+  QString title;
+  scripts.Add([&](QDialog& window) {
+    title = window.windowTitle();
+    Settle();
+    window.reject();
+  });
+
+  Press(Qt::Key_P, Qt::ControlModifier);
+
+  EXPECT_EQ(title, "Print");
+  EXPECT_EQ(viewer.Window()->parentWidget(), &View());
+  EXPECT_TRUE(TakesClicks());
+}
+
+TEST_F(HelpBesideWindows, PrintsAPageWhileADialogIsOpen) {
+  ParametersDialog dialog(program);
+  bool asked = false;
+
+  Use(dialog, [&](QDialog& window) {
+    Find(window, "txtDepthofCover").setFocus();
+    Press(Qt::Key_F1);
+    scripts.Add([&](QDialog& print) {
+      asked = true;
+      Settle();
+      print.reject();
+    });
+    Press(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(viewer.Window()->parentWidget(), &window);
+    window.close();
+  });
+
+  EXPECT_TRUE(asked);
+}
+
 TEST_F(HelpBesideWindows, FollowsADialogThatOpensAfterIt) {
   viewer.ShowContents(CommittedHelp);
   Settle();

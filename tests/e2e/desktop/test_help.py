@@ -1,7 +1,9 @@
 """The help beside the dialogs of a day's work."""
 
+import subprocess
+
 import atspi
-from orby import DesktopTest, press_keys, until, xdotool
+from orby import PATIENCE, DesktopTest, press_keys, take_picture, until, xdotool
 
 
 class Help(DesktopTest):
@@ -17,6 +19,13 @@ class Help(DesktopTest):
         left, top, width, height = line.box
         xdotool("mousemove", left + width // 2, top + height // 2, "click", "1")
 
+    def uppermost(self):
+        """The title of the window above all others, as the window manager has stacked them."""
+        numbers = subprocess.run(["xprop", "-root", "_NET_CLIENT_LIST_STACKING"], capture_output=True, check=True,
+                                 timeout=PATIENCE).stdout.decode().partition("#")[2].split(",")
+        return subprocess.run(["xdotool", "getwindowname", numbers[-1].strip()], capture_output=True, check=True,
+                              timeout=PATIENCE).stdout.decode().strip()
+
     def test_stays_usable_from_dialog_to_dialog(self):
         run = self.start()
         run.main().choose("File", "New")
@@ -26,6 +35,7 @@ class Help(DesktopTest):
         press_keys("F1")
         window = run.window("Help")
         self.wait_page(window, "Project Parameters")
+        take_picture("help-beside-parameters")
         self.click_line(window, "Welcome")
         self.wait_page(window, "Welcome")
 
@@ -33,7 +43,10 @@ class Help(DesktopTest):
         parameters.wait_gone()
         run.main().choose("Input", "Project Description...")
         description = run.window("Project Description")
-        window = until(lambda: run.find("Help"), "the help beside the next dialog")
+        description.wait_active()
+        self.assertEqual(self.uppermost(), "Project Description")
+        window = until(lambda: run.find("Help"), "the help under the next dialog")
+        xdotool("search", "--name", "^Help$", "windowactivate", "--sync")
         self.click_line(window, "How a design is made")
         self.wait_page(window, "How a design is made")
 

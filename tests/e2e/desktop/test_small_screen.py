@@ -51,6 +51,7 @@ class SmallScreen(DesktopTest):
                 ("Utilities", "Settings..."),
                 ("Utilities", "Options..."),
                 ("Utilities", "Unit Conversions..."),
+                ("Utilities", "Backups..."),
                 ("File", "View Source Files..."),
                 ("Help", "Resource Files..."),
                 ("Help", "Program Updates...")):

@@ -1,0 +1,64 @@
+#include "qt/help_place.h"
+
+#include <algorithm>
+#include <array>
+
+namespace orby {
+namespace {
+
+// The four parts of the screen beside something, each with the side of it that is nearest to the thing.
+struct Strip {
+  QRect room;
+  Qt::Alignment near;
+};
+
+std::array<Strip, 4> StripsBeside(const QRect& screen, const QRect& thing) {
+  return {{{{QPoint(thing.right() + 1, screen.top()), screen.bottomRight()}, Qt::AlignLeft | Qt::AlignTop},
+           {{screen.topLeft(), QPoint(thing.left() - 1, screen.bottom())}, Qt::AlignRight | Qt::AlignTop},
+           {{QPoint(screen.left(), thing.bottom() + 1), screen.bottomRight()}, Qt::AlignHCenter | Qt::AlignTop},
+           {{screen.topLeft(), QPoint(screen.right(), thing.top() - 1)}, Qt::AlignHCenter | Qt::AlignBottom}}};
+}
+
+int Area(const QSize& size) { return size.width() * size.height(); }
+
+// A null rectangle where the window does not fit beside the thing.
+QRect PlaceBeside(const QRect& thing, const QRect& screen, QSize wanted, QSize least, bool awayFromIt) {
+  QRect best;
+  for (const Strip& strip : StripsBeside(screen, thing)) {
+    const QSize size = wanted.boundedTo(strip.room.size());
+    if (size.width() < least.width() || size.height() < least.height() || Area(size) <= Area(best.size())) continue;
+    best = QRect(QPoint(), size);
+    const bool toTheLeft = strip.near.testFlag(Qt::AlignLeft) != awayFromIt;
+    const bool toTheTop = strip.near.testFlag(Qt::AlignTop) != awayFromIt;
+    const bool isColumn = !strip.near.testFlag(Qt::AlignHCenter);
+    if (isColumn) {
+      toTheLeft ? best.moveLeft(strip.room.left()) : best.moveRight(strip.room.right());
+      best.moveTop(std::clamp(thing.top(), screen.top(), screen.bottom() + 1 - size.height()));
+    } else {
+      toTheTop ? best.moveTop(strip.room.top()) : best.moveBottom(strip.room.bottom());
+      best.moveLeft(std::clamp(thing.left(), screen.left(), screen.right() + 1 - size.width()));
+    }
+  }
+  return best;
+}
+
+}  // namespace
+
+QRect HelpPlace(const HelpNeighbours& neighbours, QSize wanted, QSize least) {
+  const QRect& screen = neighbours.screen;
+  wanted = wanted.boundedTo(screen.size());
+  if (!neighbours.dialog.isNull()) {
+    const QRect beside = PlaceBeside(neighbours.dialog, screen, wanted, least, false);
+    if (!beside.isNull()) return beside;
+  }
+  if (!neighbours.field.isNull()) {
+    // As far from the field as can be, for the sake of what stands around it.
+    const QRect beside = PlaceBeside(neighbours.field, screen, wanted, least, true);
+    if (!beside.isNull()) return beside;
+  }
+  QRect corner(QPoint(), wanted);
+  corner.moveBottomRight(screen.bottomRight());
+  return corner;
+}
+
+}  // namespace orby
