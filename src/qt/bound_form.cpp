@@ -15,7 +15,6 @@
 #include <algorithm>
 
 #include "qt/boundary.h"
-#include "qt/frame_reader.h"
 #include "qt/texts.h"
 
 namespace orby {
@@ -159,7 +158,6 @@ void BoundForm::OrderTabs() {
 }
 
 void BoundForm::NameForReaders() {
-  InstallFrameReader();
   const bool ids = ShowsControlNames();
   for (const Control* control : form_.Controls()) {
     for (QWidget* widget : bindings_.at(control)->Widgets()) {

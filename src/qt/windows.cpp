@@ -32,6 +32,7 @@
 #include <ui_unit_calculator.h>
 #include <ui_update_dialog.h>
 #include "core/dialog_helpers.h"
+#include "qt/frame_reader.h"
 #include "qt/window_frame.h"
 
 namespace orby {
@@ -160,6 +161,8 @@ QWidget* WindowBelow(QWidget* mainWindow) {
 std::unique_ptr<QWidget> MakeWindow(const Form& form, QWidget* parent) {
   const auto* entry = std::ranges::find(Layouts, form.Name(), &LayoutEntry::form);
   if (entry == Layouts.end()) throw std::logic_error("no layout for " + std::string(form.Name()));
+  // Before its first frame: the toolkit asks for the reader of a frame as soon as it has a title, and keeps it.
+  InstallFrameReader();
   return entry->make(parent);
 }
 
