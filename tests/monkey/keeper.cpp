@@ -25,11 +25,11 @@ namespace orby::monkey {
 namespace {
 
 // Each window that the program has, and the toolkit's that it uses. A long run comes to all of them.
-constexpr std::array Windows{"frmMain",      "frmPENVParm",   "frmTULKCost",  "frmTULKDesc", "frmCMRREst",
-                             "frmResTxtPlt", "frmPreview",    "frmGraph",     "frmGraphOpt", "frmTULKOpts",
-                             "frmConvert",   "frmUnits",      "frmTextBrow",  "frmUpdate",   "frmSet",
-                             "frmFont",      "frmDisclaimer", "frmResource",  "helpWindow",  "about",
-                             "QMessageBox",  "QFileDialog",   "QPrintDialog", "QMenu"};
+constexpr std::array Windows{"frmMain",      "frmPENVParm",   "frmTULKCost", "frmTULKDesc",  "frmCMRREst",
+                             "frmResTxtPlt", "frmPreview",    "frmGraph",    "frmGraphOpt",  "frmTULKOpts",
+                             "frmConvert",   "frmUnits",      "frmTextBrow", "frmUpdate",    "frmSet",
+                             "frmFont",      "frmDisclaimer", "frmBackups",  "frmResource",  "helpWindow",
+                             "about",        "QMessageBox",   "QFileDialog", "QPrintDialog", "QMenu"};
 constexpr long LongRun = 50000;  // acts
 
 // What may end a run, by the words of the box or by the routine that failed.
