@@ -102,17 +102,17 @@ struct Program {
 
   std::string CurrentFile{UntitledName};
   std::string PreviousFile;
-  Integer FileVersion = 0;  // of the last project read: one less than the number in its label
   FileOnDisk LastFile;
-  bool ToldOfNoBackup = false;  // in this run
+  Integer FileVersion = 0;  // of the last project read: one less than the number in its label
+  Integer RecentMode = 0;
   bool FileSaved = true;
   bool FileEmpty = true;
   bool UnitsLocked = false;
-  Integer RecentMode = 0;
+  bool ToldOfNoBackup = false;  // in this run
 
   std::array<std::string, 5> OutBuf;  // report pages: 0 the input echo, 1 the calculations or the cost table
-  Integer LastPage = 4;
   std::optional<ShownResults> LastResults;
+  Integer LastPage = 4;
   Integer ReportCaller = report_caller::None;
   bool DialogOpen = false;
   std::function<void(Integer)> OpenInputDialog;  // opens the dialog of this report_caller, as the Input menu does

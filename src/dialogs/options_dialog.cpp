@@ -154,8 +154,8 @@ void OptionsDialog::GoTo(std::size_t page, TextBox& field) {
   RequestFocus(field);
 }
 
-void OptionsDialog::TellFault(std::string fault) {
-  ShowMessage(program_, std::move(fault), box_style::Critical, program_.titles.RangeErrorTitle);
+void OptionsDialog::TellFault(const std::string& fault) {
+  ShowMessage(program_, fault, box_style::Critical, program_.titles.RangeErrorTitle);
 }
 
 bool OptionsDialog::CheckFaults() {

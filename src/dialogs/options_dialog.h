@@ -33,7 +33,7 @@ class OptionsDialog : public OptionsControls {
   void TieCommands();
   void FillFields();
   void GoTo(std::size_t page, TextBox& field);
-  void TellFault(std::string fault);
+  void TellFault(const std::string& fault);
   bool CheckFaults();
   bool CheckWarnings();
   void Accept();

@@ -11,8 +11,8 @@ namespace {
 struct PageStart {
   std::string_view control;
   int outerTab;
-  TabSet ParametersControls::*inner = nullptr;
   int innerTab = 0;
+  TabSet ParametersControls::*inner = nullptr;
 };
 
 using C = ParametersControls;
@@ -21,16 +21,16 @@ constexpr PageStart Pages[] = {
     {"fraGeology", 0},
     {"fraPrimarySupport", 1},
     {"fraRockLoadEntry", 2},
-    {"lblCableLengthSecEntry", 2, &C::SSTab2, 0},
-    {"lblTrussLengthMemberSecEntry", 2, &C::SSTab2, 1},
-    {"lblBoltLengthSecEntry", 2, &C::SSTab2, 2},
-    {"fraSupportSelectionEntry", 2, &C::SSTab2, 3},
+    {"lblCableLengthSecEntry", 2, 0, &C::SSTab2},
+    {"lblTrussLengthMemberSecEntry", 2, 1, &C::SSTab2},
+    {"lblBoltLengthSecEntry", 2, 2, &C::SSTab2},
+    {"fraSupportSelectionEntry", 2, 3, &C::SSTab2},
     {"lblRockLoadEntry1", 2},
     {"fraRockLoadInter", 3},
-    {"lblCableLengthSecInter", 3, &C::SSTab3, 0},
-    {"lblTrussLengthMemberSecInter", 3, &C::SSTab3, 1},
-    {"lblBoltLengthSecInter", 3, &C::SSTab3, 2},
-    {"fraSupportSelectionInter", 3, &C::SSTab3, 3},
+    {"lblCableLengthSecInter", 3, 0, &C::SSTab3},
+    {"lblTrussLengthMemberSecInter", 3, 1, &C::SSTab3},
+    {"lblBoltLengthSecInter", 3, 2, &C::SSTab3},
+    {"fraSupportSelectionInter", 3, 3, &C::SSTab3},
     {"lblRockLoadInter1", 3},
 };
 
