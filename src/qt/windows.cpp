@@ -215,11 +215,15 @@ void QtWindows::Show(Form& form) {
     found = modeless_.emplace(&form, MakeShown(form, WindowBelow(main_.window.get()))).first;
     // A window manager keeps only dialogs above the window that they belong to.
     found->second.window->setWindowFlag(Qt::Dialog);
-    found->second.view->Finished = [this, &form] {
+    found->second.view->Finished = [this, &form, alive = QPointer(found->second.window.get())] {
       // It may be one of the window's own events that closes it. Until it is gone it must be no window to stand on.
       auto node = modeless_.extract(&form);
-      node.mapped().window->hide();
-      node.mapped().window.release()->deleteLater();
+      // It goes with the window that it stands on when that one is gone first.
+      QWidget* window = node.mapped().window.release();
+      if (alive) {
+        window->hide();
+        window->deleteLater();
+      }
       node.mapped().view.release()->deleteLater();
     };
   }
