@@ -146,14 +146,21 @@ void Place(QWidget& window) {
   window.move(screen.left() + at.left, screen.top() + at.top);
 }
 
-// The window that a new one stands on: the dialog in use or the window in use that stands on it, such as a graph, else
-// the main window while it is on view.
-QWidget* WindowBelow(QWidget* mainWindow) {
-  if (QWidget* modal = QApplication::activeModalWidget()) {
-    QWidget* active = QApplication::activeWindow();
-    return active != nullptr && active->isVisible() && active->parentWidget() == modal ? active : modal;
-  }
+// The window that a graph stands on: the dialog in use, else the main window while it is on view. Both outlive it,
+// whatever else is closed meanwhile.
+QWidget* WindowInUse(QWidget* mainWindow) {
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
   return mainWindow != nullptr && mainWindow->isVisible() ? mainWindow : nullptr;
+}
+
+// The window that a dialog stands on: a window that stands on the dialog in use, such as a graph, while it has the
+// keyboard; else the same as for a graph.
+QWidget* WindowBelow(QWidget* mainWindow) {
+  const QWidget* modal = QApplication::activeModalWidget();
+  QWidget* active = QApplication::activeWindow();
+  const bool standsOnModal =
+      modal != nullptr && active != nullptr && active->isVisible() && active->parentWidget() == modal;
+  return standsOnModal ? active : WindowInUse(mainWindow);
 }
 
 }  // namespace
@@ -212,18 +219,14 @@ void QtWindows::ShowModal(Form& form) {
 void QtWindows::Show(Form& form) {
   auto found = modeless_.find(&form);
   if (found == modeless_.end()) {
-    found = modeless_.emplace(&form, MakeShown(form, WindowBelow(main_.window.get()))).first;
+    found = modeless_.emplace(&form, MakeShown(form, WindowInUse(main_.window.get()))).first;
     // A window manager keeps only dialogs above the window that they belong to.
     found->second.window->setWindowFlag(Qt::Dialog);
-    found->second.view->Finished = [this, &form, alive = QPointer(found->second.window.get())] {
+    found->second.view->Finished = [this, &form] {
       // It may be one of the window's own events that closes it. Until it is gone it must be no window to stand on.
       auto node = modeless_.extract(&form);
-      // It goes with the window that it stands on when that one is gone first.
-      QWidget* window = node.mapped().window.release();
-      if (alive) {
-        window->hide();
-        window->deleteLater();
-      }
+      node.mapped().window->hide();
+      node.mapped().window.release()->deleteLater();
       node.mapped().view.release()->deleteLater();
     };
   }

@@ -17,12 +17,13 @@ constexpr QSizeF Page(600, 800);
 
 // A chapter with a table in its list, which begins so far down.
 QString Chapter(int down) {
-  return QString("<h1>The roof bolts</h1><ol style=\"margin-top:%1px\"><li>Stability factor: type 1.2. In the output you "
-                 "read:<table border=\"1\"><tr><th>Output</th><th>Shown</th></tr><tr><td>Suggested PSUP</td>"
-                 "<td>8.6</td></tr><tr><td>Actual PSUP</td><td>5.1</td></tr></table></li>"
-                 "<li>Actual bolt length 6, bolts in a row 4, and a row spacing of 4: leave all of them as they are. The "
-                 "bolt is longer than the suggested 4.8 ft.</li><li>Choose the first row of the standard table. It gives "
-                 "5.1, which is too little.</li></ol>")
+  return QString(
+             "<h1>The roof bolts</h1><ol style=\"margin-top:%1px\"><li>Stability factor: type 1.2. In the output you "
+             "read:<table border=\"1\"><tr><th>Output</th><th>Shown</th></tr><tr><td>Suggested PSUP</td>"
+             "<td>8.6</td></tr><tr><td>Actual PSUP</td><td>5.1</td></tr></table></li>"
+             "<li>Actual bolt length 6, bolts in a row 4, and a row spacing of 4: leave all of them as they are. The "
+             "bolt is longer than the suggested 4.8 ft.</li><li>Choose the first row of the standard table. It gives "
+             "5.1, which is too little.</li></ol>")
       .arg(down);
 }
 

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 
+#include "gui/readers_bench.h"
 #include "gui/report_bench.h"
 
 namespace orby::test {
@@ -218,6 +219,28 @@ TEST_F(ResultsView, LeavesTheGraphUsableBesideIt) {
     EXPECT_EQ(TextOn(graph, "lblCurve"), "Sug.PSUP");
     window.close();
   });
+}
+
+// A screen reader chooses a curve while the help has the keyboard.
+TEST_F(ResultsView, KeepsTheGraphWhenAWindowThatWasInUseBesideItCloses) {
+  UseResults([&](QDialog& window) {
+    PressLetterOf(window, "cmdGraph");
+    auto* beside = new QWidget(&window, Qt::Window);
+    beside->setAttribute(Qt::WA_DeleteOnClose);
+    beside->show();
+    beside->activateWindow();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == beside; }));
+    SelectRow(Find(window, "lstGraphs"), 2);
+
+    beside->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    Settle();
+
+    EXPECT_THAT(WindowOnView("frmGraph"), NotNull());
+    window.close();
+  });
+
+  EXPECT_TRUE(program.curve.GraphClosed);
 }
 
 TEST_F(ResultsView, DrawsAgainAfterTheGraphWasClosed) {

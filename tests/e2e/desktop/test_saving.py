@@ -8,6 +8,7 @@ import signal
 from orby import DesktopTest, Window, press_keys, until
 
 EXAMPLE = "development-entry"
+BACKUP = re.compile(r"[0-9-]{10} [0-9.]{8} [0-9]{5} .*\.ORB")
 RECOVERY = re.compile(r"Orby ended unexpectedly\. Recover the unsaved project\?\n\n/.*entry\.ORB of .*")
 NO_LIMIT = (resource.RLIM_INFINITY, resource.RLIM_INFINITY)
 
@@ -36,9 +37,10 @@ class Saving(DesktopTest):
         until(lambda: self.run_.caption().endswith("entry.ORB"), "the end of the mark")
 
     def backups(self):
+        """Those that are whole: what is still being written has another name."""
         folder = os.path.join(self.data, "Backups")
         names = os.listdir(folder) if os.path.isdir(folder) else []
-        return [os.path.join(folder, name) for name in sorted(names) if not name.endswith(".about")]
+        return [os.path.join(folder, name) for name in sorted(names) if BACKUP.fullmatch(name)]
 
     def open_backups(self, run):
         run.keys("alt+u", "b")
