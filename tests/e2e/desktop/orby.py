@@ -289,6 +289,12 @@ class Run:
         self.keys("alt+f", "x")
 
 
+def start_program(bus, home, *arguments, **environment):
+    """Starts the program in the home of a user."""
+    environment = {**os.environ, "HOME": home, **environment}
+    return Run(bus, subprocess.Popen([PROGRAM, *arguments], cwd=home, env=environment))
+
+
 class DesktopTest(unittest.TestCase):
     """A user with an empty home."""
 
@@ -316,8 +322,7 @@ class DesktopTest(unittest.TestCase):
 
     def start(self, *arguments, accepts=True, **environment):
         """Starts the program; what it begins with is accepted unless the test is about that."""
-        environment = {**os.environ, "HOME": self.home, **environment}
-        run = Run(self.bus, subprocess.Popen([PROGRAM, *arguments], cwd=self.home, env=environment))
+        run = start_program(self.bus, self.home, *arguments, **environment)
         self.runs.append(run)
         if accepts:
             run.accept_disclaimer()
