@@ -139,6 +139,22 @@ TEST_F(FileAssociation, KeepsAnExtensionWithOddCharactersReadable) {
   EXPECT_EQ(EntryLine("MimeType="), "MimeType=application/x-orby-a-b-2-;");
 }
 
+TEST_F(FileAssociation, KeepsLettersDigitsPlusMinusAndPointOfTheExtensionInTheNameOfItsType) {
+  program.settings.FileExtension = "AZaz09+-.";
+
+  Associate();
+
+  EXPECT_EQ(EntryLine("MimeType="), "MimeType=application/x-orby-azaz09+-.;");
+}
+
+TEST_F(FileAssociation, ReplacesTheNeighboursOfThoseCharactersByAMinus) {
+  program.settings.FileExtension = "x@[`{/:,";
+
+  Associate();
+
+  EXPECT_EQ(EntryLine("MimeType="), "MimeType=application/x-orby-x-------;");
+}
+
 TEST_F(FileAssociation, SaysThatItIsDoneEvenWhenNothingCanBeWrittenOrRun) {
   platform.files.Fail(MemoryFiles::Step::Create, 70);
   platform.files.Fail(MemoryFiles::Step::MakeFolder, 75);

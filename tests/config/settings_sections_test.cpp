@@ -319,6 +319,21 @@ TEST_F(SettingsSections, TheRecentFilesComeBack) {
   EXPECT_EQ(recent.Entries[2].LastFileLong, "");
 }
 
+TEST_F(SettingsSections, FourRecentFilesAreWrittenAndComeBack) {
+  recent.MaxLastFiles = 4;
+  recent.Entries[0] = {"a.ORB", 1, "/designs/a.ORB"};
+  recent.Entries[3] = {"d.ORB", 2, "/designs/d.ORB"};
+  const std::string text = Written(section::FileMenu);
+  recent = {};
+
+  Read(section::FileMenu, text);
+
+  EXPECT_THAT(text, HasSubstr("LastFile4=d.ORB\r\nLastFileMode4=2\r\nLastFileLong4=/designs/d.ORB\r\n"));
+  EXPECT_EQ(recent.MaxLastFiles, 4);
+  EXPECT_EQ(recent.Entries[0].LastFile, "a.ORB");
+  EXPECT_EQ(recent.Entries[3].LastFile, "d.ORB");
+}
+
 TEST_F(SettingsSections, TooManyRecentFilesAreNone) {
   Read(section::FileMenu, "[FileMenu]\r\nMaxLastFiles=9\r\nLastFile1=a.ORB\r\nLastFileLong1=/designs/a.ORB\r\n");
 

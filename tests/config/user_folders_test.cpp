@@ -140,6 +140,15 @@ TEST_F(Examples, ThatTheUserChangedStay) {
   EXPECT_TRUE(files.files.contains("/data/weak-roof.ORB"));
 }
 
+TEST_F(Examples, LeaveAFolderOfTheirNameAlone) {
+  files.folders.insert("/data/belt-entry.ORB");
+
+  CopyExamples(program);
+
+  EXPECT_FALSE(files.files.contains("/data/belt-entry.ORB"));
+  EXPECT_TRUE(files.files.contains("/data/weak-roof.ORB"));
+}
+
 TEST_F(Examples, StayWhereTheyAreWhenTheSettingIsOff) {
   program.settings.CopyExampleFiles = 0;
 
