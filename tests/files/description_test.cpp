@@ -175,6 +175,17 @@ TEST(Description, LaterLinesPassThroughTheItemReader) {
   EXPECT_EQ(loaded.lines, 5);
 }
 
+TEST(Description, IsReadInTheCodePageInEachOfItsLinesThoughAllElseIsPlain) {
+  const Loaded loaded = Load(Lines({"##StartDesc##",
+                                    "Gr\xFC"
+                                    "be",
+                                    "Stra\xDF"
+                                    "e",
+                                    "\"G\xE4nge\"", "##EndDesc##", "45"}));
+
+  EXPECT_EQ(loaded.text, "Gr\u00FCbe\r\nStra\u00DFe\r\nG\u00E4nge\r\n");
+}
+
 TEST(Description, WithoutAStartMarkerItsFirstLineCountsAndTheMarkerBecomesALine) {
   const Loaded loaded = Load(Lines({"Panel 3", "##StartDesc##", "Roof", "##EndDesc##", "45"}));
 

@@ -182,8 +182,14 @@ INSTANTIATE_TEST_SUITE_P(Damages, DamagedRecoveryFile,
                                          Damage{"LineTooMany", "\r\n400\r\n", "\r\n400\r\n\r\n"},
                                          Damage{"LineEndOfAnotherSystem", "\r\n400\r\n", "\n400\n"},
                                          Damage{"TextOfAnotherEncoding", "ProjectTitle=", "ProjectTitle=\xFC"},
+                                         Damage{"DescriptionOfAnotherEncoding", "Description=", "Description=\xFC"},
                                          Damage{"EscapeOfNothing", "ProjectTitle=", "ProjectTitle=\\x"}),
                          [](const testing::TestParamInfo<Damage>& damage) { return damage.param.name; });
+
+TEST_F(RecoveryFile, TellsItsProjectThoughAnEscapeIsCutOff) {
+  EXPECT_EQ(ProjectNamedIn("ORBY_RECOVERY_1\r\nCurrentFile=/designs/panel3\\"), "/designs/panel3\\");
+  EXPECT_EQ(ProjectNamedIn("ORBY_RECOVERY_1\r\nCurrentFile=/designs/panel3\\\r\nUnits=0\r\n"), "/designs/panel3\\");
+}
 
 TEST_F(RecoveryFile, CutShortAnywhereIsNotRead) {
   const std::string bytes = Bytes();
