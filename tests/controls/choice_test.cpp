@@ -106,6 +106,15 @@ TEST_F(AnOptionArray, MemberThatTurnsFalseIsNotClickedAndLeavesNothingChosen) {
   EXPECT_THAT(clicks, IsEmpty());
 }
 
+TEST_F(AnOptionArray, MemberThatTurnsFalseIsTakenOffTheScreen) {
+  source.SetValue(1, true);
+  const RecordingView view(form);
+
+  source.SetValue(1, false);
+
+  EXPECT_THAT(view.told, ElementsAre("optSource"));
+}
+
 TEST_F(AnOptionArray, MemberThatIsFalseAlreadyStaysSo) {
   source.SetValue(2, true);
   clicks.clear();

@@ -58,6 +58,15 @@ TEST_F(ACombo, DropsASelectionBeyondTheNewListAndKeepsTheText) {
   EXPECT_EQ(changes, 0);
 }
 
+TEST_F(ACombo, DropsASelectionJustBeyondTheNewList) {
+  combo.SetListIndex(1);
+
+  combo.Fill({{"Hardwood crib", 50}});
+
+  EXPECT_EQ(combo.ListIndex(), -1);
+  EXPECT_EQ(combo.Text(), "Steel prop");
+}
+
 TEST_F(ACombo, SelectsTheItemThatATextEquals) {
   combo.SetText("Steel prop");
 

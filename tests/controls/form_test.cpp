@@ -91,6 +91,30 @@ TEST(Form, CanBeOpenedAgainAfterItWasClosed) {
   EXPECT_EQ(form.closed, 2);
 }
 
+TEST(Form, IsClosedAlreadyWhenItsClosingSequenceRuns) {
+  struct : PlainForm {
+    void OnClose() override { wasOpen = IsOpen(); }
+    bool wasOpen = true;
+  } form;
+  form.Open();
+
+  form.Close();
+
+  EXPECT_FALSE(form.wasOpen);
+}
+
+TEST(Form, ShowsWhatItsClosingSequenceChangesBeforeItLeavesTheScreen) {
+  struct : DepthForm {
+    void OnClose() override { txtDepth.SetText("400"); }
+  } form;
+  RecordingView view(form);
+  form.Open();
+
+  form.Close();
+
+  EXPECT_THAT(view.told, ElementsAre("txtDepth", "closed"));
+}
+
 TEST(Form, RemembersTheFocusForAControlThatIsHiddenOrDisabled) {
   DepthForm form;
   EXPECT_EQ(form.FocusRequest(), nullptr);

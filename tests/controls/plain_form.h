@@ -1,6 +1,10 @@
-// A form for tests: it counts its openings and closings and has no controls of its own.
+// A form for tests, which counts its openings and closings and has no controls of its own, and a view of one.
 #pragma once
 
+#include <string>
+#include <vector>
+
+#include "controls/control.h"
 #include "controls/form.h"
 
 namespace orby::test {
@@ -13,6 +17,25 @@ struct PlainForm : Form {
 
   int opened = 0;
   int closed = 0;
+};
+
+// Notes the names of the controls whose changes it is told, and "closed".
+class RecordingView : public FormView {
+ public:
+  explicit RecordingView(Form& form) : form_(form) { form.SetView(this); }
+  ~RecordingView() override { form_.SetView(nullptr); }
+  RecordingView(const RecordingView&) = delete;
+  RecordingView& operator=(const RecordingView&) = delete;
+
+  void ControlChanged(const Control& control) override { told.emplace_back(control.Name()); }
+  void CaptionChanged() override {}
+  void FocusRequested(Control&) override {}
+  void Closed() override { told.emplace_back("closed"); }
+
+  std::vector<std::string> told;
+
+ private:
+  Form& form_;
 };
 
 }  // namespace orby::test
