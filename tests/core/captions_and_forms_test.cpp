@@ -12,6 +12,16 @@ TEST(FormPlace, IsTheMiddleOfTheScreen) {
   EXPECT_EQ(place.top, 240);
 }
 
+TEST(FormPlace, HalvesOddSizesOfFormAndScreenEachByItself) {
+  const Position place = CenterForm({801, 601}, {1920, 1080});
+  EXPECT_EQ(place.left, 560);
+  EXPECT_EQ(place.top, 240);
+
+  const Position onOddScreen = CenterForm({800, 601}, {1921, 1081});
+  EXPECT_EQ(onOddScreen.left, 560);
+  EXPECT_EQ(onOddScreen.top, 240);
+}
+
 TEST(FormPlace, OfAFormAsLargeAsTheScreenIsItsCorner) {
   const Position place = CenterForm({1024, 768}, {1024, 768});
 
