@@ -92,6 +92,10 @@ TEST(TheLinesOfAText, BeginBehindTheMarkOfUtf8) {
   EXPECT_THAT(LinesOf({"\xEF\xBB\xBFtitle\r\ntext"}), ElementsAre("title", "text"));
 }
 
+TEST(TheLinesOfAText, KeepAMarkOfUtf8ThatBeginsALaterLine) {
+  EXPECT_THAT(LinesOf({"title\r\n\xEF\xBB\xBFtext"}), ElementsAre("title", "\xEF\xBB\xBFtext"));
+}
+
 TEST(TheLinesOfAText, AreForgottenForAnother) {
   LineIndex index;
   index.Extend("one\ntwo\nthree");
