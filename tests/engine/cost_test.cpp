@@ -134,6 +134,12 @@ TEST(Cost, WithoutYearsOfDepreciationHasNoOwnershipAlone) {
       {{Consumables, Labor, Maintenance, Transportation, None, {8.10944462F, 8.10944462F, 2432.83325F, 2.02736115F}}});
 }
 
+TEST(Cost, OfHalfAYearOfDepreciationIsOwnershipTenTimesThatOfFive) {
+  const CostTable table = AnalyseCost(With(&CostGroup::CostYearsDepr, 0.5F));
+
+  EXPECT_EQ(table.Heads[4], (CostRow{11.1111107F, 11.1111107F, 3333.33325F, 2.77777767F}));
+}
+
 TEST(Cost, WithoutBoltsIsNothing) {
   ExpectTable(With(&CostGroup::CostNBoltsRow, 0.0F), {});
   ExpectTable(With(&CostGroup::CostNboltsShift, 0.0F), {});

@@ -214,6 +214,16 @@ TEST_F(CurveLimits, ASpanWithMorePointsThanColumnsFails) {
   EXPECT_EQ(ErrorOf(3), 9);
 }
 
+TEST_F(CurveLimits, ASpanWithOnePointMoreThanColumnsFailsAndOneThatFillsThemWorks) {
+  design.ActualSpanDiagonals = -1048572.5F;
+  EXPECT_EQ(ErrorOf(3), 9);
+
+  design.ActualSpanDiagonals = -1048571.25F;
+  GenerateCurve(program, 3);
+  EXPECT_EQ(Points(), 69U);
+  EXPECT_EQ(Columns(), 69U);
+}
+
 TEST_F(CurveLimits, AHeightWithoutAFallAngleFails) {
   design.RockFallAngle = 0;
 

@@ -58,11 +58,21 @@ constexpr IntersectionRow IntersectionRows[] = {
     {30, 40, 162, 0.01F, 0.161867753F}, {30, 60, 162, -2, 0},
 };
 
+// The sides meet in a point to the last bit: the height is just not too large.
+constexpr IntersectionRow ExactPyramid{60, 39.5223961F, 162, 4.03373766F, 21.2651253F};
+
 TEST(RockLoadOfAnIntersection, IsAFrustumAndNoneAboveTheLimitOfTheAngle) {
   for (const auto& row : IntersectionRows) {
     EXPECT_EQ(RockLoadIntersection(row.angle, row.span, row.unitWeight, row.height), row.load)
         << "angle " << row.angle << ", height " << row.height;
   }
+}
+
+TEST(RockLoadOfAnIntersection, IsAPyramidWhereTheSidesJustMeet) {
+  const auto& [angle, span, unitWeight, height, load] = ExactPyramid;
+
+  EXPECT_EQ(RockLoadIntersection(angle, span, unitWeight, height), load);
+  EXPECT_EQ(RockLoadIntersection(angle, span, unitWeight, height * 1.001F), 0.0F);
 }
 
 TEST(GreatestHeight, OverAnEntryIsWhereTheSidesMeet) {
