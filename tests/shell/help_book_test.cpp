@@ -187,6 +187,34 @@ TEST(HelpSearch, CutsLongPagesAtWords) {
   EXPECT_TRUE(found.front().snippet.ends_with(" lagging..."));
 }
 
+// The text around the first "truss" of a page with this text.
+std::string SnippetOf(const std::string& text) {
+  return BookOf({{"ORBY.hhc", Contents}, {"cost.html", text}}).Search("truss").front().snippet;
+}
+
+std::string Repeated(std::string_view word, int times) {
+  std::string text;
+  for (int i = 0; i < times; ++i) text += word;
+  return text;
+}
+
+TEST(HelpSearch, ShowsFortyBytesBeforeAHitAndAHundredAfterIt) {
+  const std::string page = Repeated("lagging ", 40) + "truss" + Repeated(" lagging", 40);
+
+  EXPECT_EQ(SnippetOf(page), "..." + Repeated("lagging ", 4) + "truss" + Repeated(" lagging", 12) + "...");
+}
+
+TEST(HelpSearch, ShowsAPageFromItsBeginningWhenTheHitIsFortyBytesIn) {
+  EXPECT_EQ(SnippetOf("a roof is held by bolt or cables and by truss"),
+            "a roof is held by bolt or cables and by truss");
+  EXPECT_EQ(SnippetOf("a roof is held by bolts or cables and by truss"),
+            "...roof is held by bolts or cables and by truss");
+}
+
+TEST(HelpSearch, BeginsAtTheHitWhenNoBlankStandsShortlyBeforeIt) {
+  EXPECT_EQ(SnippetOf(Repeated("-", 60) + "truss bolts"), "...truss bolts");
+}
+
 // ---- the text of a page --------------------------------------------------------------------------------------------
 
 TEST(HelpPage, IsReadAsItsWords) {
@@ -195,6 +223,11 @@ TEST(HelpPage, IsReadAsItsWords) {
 }
 
 TEST(HelpPage, KeepsAnEntityThatItDoesNotKnow) { EXPECT_EQ(TextOfPage("a &frac12; & b"), "a &frac12; & b"); }
+
+TEST(HelpPage, HasTheCharacterOfEveryEntityThatTheBookUses) {
+  EXPECT_EQ(TextOfPage("the miner&#39;s &quot;roof&quot;: 5 &gt; 4 &lt; 6 &amp; 7&nbsp;ft"),
+            "the miner's \"roof\": 5 > 4 < 6 & 7 ft");
+}
 
 }  // namespace
 }  // namespace orby::test

@@ -132,6 +132,14 @@ TEST_F(InputMenu, IsWhereTheResultsReturnTo) {
   EXPECT_THAT(names, ElementsAre("frmPENVParm", "frmTULKCost"));
 }
 
+TEST_F(InputMenu, IsNotReturnedToOnceItsWindowIsGone) {
+  Program other = StartedProgram(platform);
+  { const MainWindow gone(other); }
+
+  EXPECT_FALSE(other.OpenInputDialog);
+  EXPECT_FALSE(other.history.Changed);
+}
+
 TEST_F(InputMenu, ShowsADesignWithoutADepth) {
   program.WorkParms.DepthofCover = 0;
   InDialog<ParametersDialog>([](ParametersDialog& dialog) { EXPECT_EQ(dialog.txtSugPSUP.Text(), "--"); });

@@ -372,6 +372,26 @@ TEST_F(UnsavedWork, ThatWasLostGoesBeforeAFreeFile) {
   EXPECT_EQ(next.WorkParms.DepthofCover, 980);
 }
 
+TEST_F(UnsavedWork, OfANinthProgramIsKept) {
+  for (const char digit : std::string("12345678")) platform.files.marked.insert(Folder + "~recover" + digit + ".lck");
+  Program program = Editing(725);
+  Recovery recovery(program);
+
+  recovery.Committed();
+
+  EXPECT_EQ(DepthIn(Folder + "~recover9.tmp"), 725);
+}
+
+TEST_F(UnsavedWork, ThatWasLostInTheNinthFileIsOffered) {
+  platform.files.files[Folder + "~recover9.tmp"] = RecoveryBytes(CommittedProject(Editing(980)));
+  Program next = Started();
+  platform.boxes.answers = {box_result::Yes};
+
+  EXPECT_TRUE(Recovery(next).Ask(""));
+
+  EXPECT_EQ(next.WorkParms.DepthofCover, 980);
+}
+
 TEST_F(UnsavedWork, OfATenthProgramIsNotKept) {
   for (const char digit : std::string("123456789")) platform.files.marked.insert(Folder + "~recover" + digit + ".lck");
   Program program = Editing(725);

@@ -13,6 +13,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
+using testing::SizeIs;
 using Step = MemoryFiles::Step;
 
 std::vector<std::string> ItemsOf(const List& list) {
@@ -413,6 +414,25 @@ TEST_F(ABrowser, KeepsWhatItHasOfAFileThatCannotBeReadToItsEnd) {
   EXPECT_FALSE(browser.prgLoading.Visible());
 }
 
+TEST_F(AnotherTry, ShowsTheFileThatIsChosenWhileTheErrorOfAnotherIsShown) {
+  constexpr int Never = 1'000'000;
+  platform.files.files["/home/user/Documents/long.orb"] = std::string(TextBrowser::PieceBytes * 3, 'x');
+  again.Text2.SetText("*.orb;*.ORB");
+  again.File1.ClickItem(ItemOf(again.File1, "long.orb"));
+  platform.clock.Pass();
+  platform.files.Fail(Step::Read, 75);
+  boxes.meanwhile = [this] {
+    platform.files.Fail(Step::Read, 75, Never);
+    again.File1.ClickItem(ItemOf(again.File1, "panel4.orb"));
+  };
+
+  Wait();
+
+  EXPECT_THAT(boxes.Texts(), ElementsAre("Error occurred: Path/File access error (75). Procedure Terminated"));
+  EXPECT_EQ(again.Label1.Text(), "/home/user/Documents/panel4.orb");
+  EXPECT_EQ(again.RichTextBox1.Bytes(), "cover\r\n980\r\n");
+}
+
 // A file system that knows of one long file, most of which is never read.
 struct LongFiles : MemoryFiles {
   std::uint64_t FileLength(const std::string& path) override {
@@ -453,6 +473,17 @@ TEST_F(ALongFile, IsRefusedForTheExternalViewerToo) {
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre(HasSubstr("more than 1 GB")));
   EXPECT_THAT(platform.documents.started, IsEmpty());
+}
+
+TEST_F(ALongFile, OfExactlyOneGigabyteIsViewed) {
+  files.length = std::uint64_t{1024} * 1024 * 1024;
+  longProgram.textBrowse.BrowseUseNotepad = 1;
+  longBrowser.Open();
+
+  longBrowser.File1.ClickItem(0);
+
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+  EXPECT_THAT(platform.documents.started, SizeIs(1));
 }
 
 // ---- in the external viewer ----------------------------------------------------------------------------------------
