@@ -2,10 +2,12 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QFocusEvent>
 #include <QHeaderView>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTabWidget>
@@ -19,6 +21,7 @@ namespace orby::test {
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 constexpr int PrimaryTab = 1;
 constexpr int EntriesTab = 2;
@@ -129,6 +132,60 @@ TEST_F(Fields, ScrollBackIntoViewWhenTheyHadTheKeyboardAlready) {
     Press(Qt::Key_Enter);
 
     EXPECT_TRUE(IsWhollyOnView(Find(window, "txtRowSpacingPrimary")));
+  });
+}
+
+// ---- the keyboard that leaves a field and comes back ---------------------------------------------------------------
+
+// Tells the field that the keyboard leaves it for the first reason and comes to it for the second one.
+void LeaveAndReturn(QLineEdit& field, Qt::FocusReason leaving, Qt::FocusReason returning) {
+  QFocusEvent out(QEvent::FocusOut, leaving);
+  QFocusEvent in(QEvent::FocusIn, returning);
+  QApplication::sendEvent(&field, &out);
+  QApplication::sendEvent(&field, &in);
+  Settle();
+}
+
+TEST_F(Fields, KeepTheirSelectionWhileTheKeyboardIsAtAMenuOrAnotherWindow) {
+  Work([](QDialog& window) {
+    TypeInto(window, "txtDepthofCover", "725");
+    auto& field = Find<QLineEdit>(window, "txtDepthofCover");
+    for (const auto reason : {Qt::PopupFocusReason, Qt::ActiveWindowFocusReason}) {
+      field.setSelection(1, 2);
+
+      LeaveAndReturn(field, reason, reason);
+
+      EXPECT_EQ(field.selectedText(), "25");
+    }
+  });
+}
+
+TEST_F(Fields, AreSelectedAsAWholeWhenTheKeyboardComesOtherwise) {
+  Work([](QDialog& window) {
+    TypeInto(window, "txtDepthofCover", "725");
+    auto& field = Find<QLineEdit>(window, "txtDepthofCover");
+    field.setSelection(1, 2);
+    LeaveAndReturn(field, Qt::ActiveWindowFocusReason, Qt::OtherFocusReason);
+    EXPECT_EQ(field.selectedText(), "725");
+
+    field.setSelection(1, 2);
+    LeaveAndReturn(field, Qt::OtherFocusReason, Qt::ActiveWindowFocusReason);
+    EXPECT_EQ(field.selectedText(), "725");
+  });
+}
+
+// ---- acts that wait for one another --------------------------------------------------------------------------------
+
+TEST_F(Fields, AreNotCheckedByAnOkThatWaitsForTheCancelBeforeIt) {
+  Work([this](QDialog& window) {
+    dialog.SSTab1.SetTab(PrimaryTab);
+    TypeInto(window, "txtRowSpacingPrimary", "0");
+
+    Find<QPushButton>(window, "Command1").click();
+    Find<QPushButton>(window, "Command2").click();
+    Settle();
+
+    EXPECT_THAT(platform.boxes.shown, IsEmpty());
   });
 }
 

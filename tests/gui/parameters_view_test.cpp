@@ -335,6 +335,28 @@ TEST_F(ParametersView, ShowsATypedCableCapacityInPlaceOfTheListWithoutMovingAnyt
   });
 }
 
+// Some styles of the desktop give a list more height than a field.
+TEST_F(ParametersView, KeepsThePlaceOfAListThatIsTallerThanTheFieldThatReplacesIt) {
+  program.WorkParms.SecondSupEntries = 1;
+  program.WorkParms.SecEntryUseCable = 1;
+  program.WorkParms.CableCapModeSecEntry = 1;
+  Work([this](QDialog& window) {
+    PressLetterOfTab(window, "SSTab1", EntriesTab);
+    auto& list = Find<QComboBox>(window, "cmbCableCapacitySecEntry");
+    list.setMinimumHeight(2 * list.height());
+    Settle();
+    const auto before = Places(window);
+    EXPECT_TRUE(before.contains("cmbCableCapacitySecEntry"));
+
+    dialog.optCableCapacitySecEntry.SetValue(1, true);
+    Settle();
+
+    const auto after = Places(window);
+    EXPECT_FALSE(after.contains("cmbCableCapacitySecEntry"));
+    EXPECT_THAT(Moved(before, after), IsEmpty());
+  });
+}
+
 TEST_F(ParametersView, SwitchesTheOptionsThatBelongTogether) {
   Work([this](QDialog& window) {
     OpenPage(window, "chkPrimSupport", PrimaryTab);
