@@ -41,6 +41,13 @@ TEST(RuntimeError, NumbersWithoutATextOfTheirOwnShareOne) {
   EXPECT_EQ(RuntimeError(1004).description(), "Application-defined or object-defined error");
 }
 
+TEST(RuntimeError, SaysAfterItsTextWhatTheUserNeedsToKnowBesides) {
+  const RuntimeError error(error_number::DiskFull, ". The curve was written to /tmp/curve.xlsx");
+
+  EXPECT_EQ(error.description(), "Disk full. The curve was written to /tmp/curve.xlsx");
+  EXPECT_EQ(std::string(error.what()), "run-time error 61: Disk full. The curve was written to /tmp/curve.xlsx");
+}
+
 TEST(RuntimeError, IsCaughtAsAStandardException) {
   std::string text;
 

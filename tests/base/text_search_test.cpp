@@ -29,6 +29,8 @@ TEST(FindingAText, GivesTheFirstPlaceFromWhereItStarts) {
   EXPECT_EQ(Find("bolt", text, 11), 23);
 }
 
+TEST(FindingAText, LooksAtTheLastCharacterToo) { EXPECT_EQ(Find("t", "a bolt"), 5); }
+
 TEST(FindingAText, GoesOnFromTheTopAtTheEnd) { EXPECT_EQ(Find("bolt", "bolt row, cable", 5), 0); }
 
 TEST(FindingAText, FindsTheOneThatItStartsOnLast) { EXPECT_EQ(Find("bolt", "a bolt", 3), 2); }
