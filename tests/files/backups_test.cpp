@@ -134,6 +134,17 @@ TEST_F(Backups, AreFiftyMegabytesAltogether) {
   EXPECT_EQ(entries.back().Project, "/designs/p2.orb");
 }
 
+TEST_F(Backups, LoseTheOldestForOneByteMoreThanFiftyMegabytes) {
+  const std::string tenMegabytes(std::size_t{10} * 1024 * 1024, 'x');
+  for (int number = 1; number <= 5; ++number) Keep(tenMegabytes, "/designs/p" + NumberText(number) + ".orb");
+  Keep("y", OtherPath);
+
+  const auto entries = ListBackups(program());
+
+  ASSERT_THAT(entries, SizeIs(5));
+  EXPECT_EQ(entries.back().Project, "/designs/p2.orb");
+}
+
 TEST_F(Backups, DoNotTakeAFileOfMoreThanTenMegabytes) {
   EXPECT_EQ(Keep(std::string(LargestBackup + 1, 'x')), std::nullopt);
   EXPECT_THAT(Kept(), IsEmpty());

@@ -2,6 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <utility>
+
 #include "project_fixture.h"
 
 namespace orby::test {
@@ -96,6 +99,26 @@ TEST(Conversion, EveryFieldToEnglishWithItsOwnDecimals) {
   ConvertProject(project.program, English);
 
   for (const auto& row : Expectations) EXPECT_EQ(project.program.WorkParms.*row.field, row.backAgain) << row.name;
+}
+
+// Fields of one unit and one number of decimals share what 123.4567 becomes, and so what 80.54 does: from 264.2388 ft,
+// 512.742 pcf, 3.1709 in, 11.68134 ksi, 9.053056 tons, 2.759372 tons/ft. No digit of these is a 0 that hides a decimal.
+constexpr std::pair<Single, Single> SecondValues[] = {{405, 264.2F},  {405.04F, 264.24F}, {785.96F, 512.74F},
+                                                      {4.86F, 3.17F}, {18, 12},           {13.88F, 9.05F},
+                                                      {13.9F, 9.1F},  {4.2F, 2.8F}};
+
+TEST(Conversion, EveryFieldToEnglishHasNoDecimalFewerOrMore) {
+  TestProject project;
+  project.program.Units = Metric;
+  for (const auto& row : Expectations) project.program.WorkParms.*row.field = 80.54F;
+
+  ConvertProject(project.program, English);
+
+  for (const auto& row : Expectations) {
+    const auto* second = std::ranges::find(SecondValues, row.backAgain, &std::pair<Single, Single>::first);
+    ASSERT_NE(second, std::end(SecondValues)) << row.name;
+    EXPECT_EQ(project.program.WorkParms.*row.field, second->second) << row.name;
+  }
 }
 
 TEST(Conversion, TheTwoStandardCableCapacitiesDifferByADecimal) {
