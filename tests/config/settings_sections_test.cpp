@@ -225,6 +225,14 @@ TEST_F(SettingsSections, AFontSizeOutsideItsRangeIsTheSmallest) {
   EXPECT_EQ(settings.DisplayFontSize, 7);
 }
 
+TEST_F(SettingsSections, FontSizesAreTakenFrom7To24) {
+  for (const auto& [typed, taken] : {std::pair{"6", 7}, {"7", 7}, {"8", 8}, {"24", 24}, {"25", 7}}) {
+    ReadKeys(std::string("DisplayFontSize=") + typed + "\r\n");
+
+    EXPECT_EQ(settings.DisplayFontSize, taken) << typed;
+  }
+}
+
 TEST_F(SettingsSections, AFontWithoutANameIsOneThatTheMachineHas) {
   settings.DisplayFontName = "Terminal";
   textBrowse.BrowseFontName = "Terminal";
