@@ -64,7 +64,10 @@ class ChartThenReport(DesktopTest):
         field.grab_focus()
         until(lambda: field.has(atspi.FOCUSED), "the field of the file name")
         xdotool("key", "ctrl+a", "type", "--delay", "2", self.path(name))
-        press_keys("Return")
+        until(lambda: field.text == self.path(name), "the name of the file")
+        # Enter would go to the list of files that may have opened below the field.
+        (button,) = [node for node in dialog.node.walk() if node.role == atspi.PUSH_BUTTON and node.name == "Print"]
+        button.act("Press")
         dialog.wait_gone()
         return self.path(name)
 
