@@ -251,6 +251,32 @@ TEST(ProjectSave, AfterOneThatLeftADamagedFileDoesNotBlameAnotherProgram) {
   EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
 }
 
+TEST(ProjectSave, ThatCannotEvenBeginStillTellsOfTheFileThatOneBeforeItDamaged) {
+  ChangedProject project;
+  project.platform.files.Fail(Step::Cut, error_number::DiskFull);
+  ASSERT_EQ(project.SaveError(), 61);
+  project.platform.files.Mend();
+  project.platform.files.Fail(Step::Reserve, error_number::DiskFull);
+
+  EXPECT_EQ(project.SaveError(), 61);
+
+  EXPECT_THAT(project.remarks, ElementsAre(StartsWith("/designs/panel3.orb may be damaged. ")));
+}
+
+TEST(ProjectSave, UnderAnotherNameThatCannotBeginSaysThatThisFileIsAsItWas) {
+  ChangedProject project;
+  project.platform.files.Fail(Step::Cut, error_number::DiskFull);
+  ASSERT_EQ(project.SaveError(), 61);
+  project.platform.files.Mend();
+  project.platform.files.Fail(Step::Reserve, error_number::DiskFull);
+  project.platform.files.files["/designs/panel4.orb"] = "another design";
+  project.program.CurrentFile = "/designs/panel4.orb";
+
+  EXPECT_EQ(project.SaveError(), 61);
+
+  EXPECT_THAT(project.remarks, ElementsAre(StartsWith("/designs/panel4.orb is as it was before. ")));
+}
+
 TEST(ProjectSave, WithoutRoomForABackupGoesOnAndTellsOnce) {
   ChangedProject project;
   project.platform.files.Fail(Step::Rename, error_number::DiskFull);
