@@ -71,13 +71,14 @@ void MainWindow::LoadProjFile(Trap trap) {
   if (program_.options.ShowInputScreenOnLoad == 1) EditCommand(edit_item::Parameters);
 }
 
-void MainWindow::SaveProject(bool saveAs) {
+bool MainWindow::SaveProject(bool saveAs) {
   const bool isSaved = FileMenuSave(program_, saveAs);
-  if (!isSaved && program_.FileSaved) return;
+  if (!isSaved && program_.FileSaved) return false;
   // A save that failed makes an unsaved project also of one that was saved.
   recovery_.Committed();
   if (isSaved) UpdateRecentFiles();
   RefreshCaption();
+  return isSaved;
 }
 
 void MainWindow::UpdateRecentFiles() {

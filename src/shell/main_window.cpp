@@ -110,9 +110,7 @@ bool MainWindow::MayClose() {
     KeepChanges(program_, CommittedProject(program_));
     return true;
   }
-  if (answer != box_result::Yes || !FileMenuSave(program_, false)) return false;
-  UpdateRecentFiles();
-  return true;
+  return answer == box_result::Yes && SaveProject(false);
 }
 
 void MainWindow::OnClose() {

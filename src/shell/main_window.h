@@ -65,7 +65,8 @@ class MainWindow : public MainControls {
   void OpenRecent(Integer item);
   void OpenFile(const std::string& path, Trap trap);
   void LoadProjFile(Trap trap);
-  void SaveProject(bool saveAs);
+  // Returns true if the project was saved.
+  bool SaveProject(bool saveAs);
   void UpdateRecentFiles();
   bool MayPrint();
   // Builds the report of the committed design. Returns true if the command goes on.

@@ -65,6 +65,20 @@ TEST_F(Closing, SavesOnYes) {
   EXPECT_THAT(FileAt(Panel3), HasSubstr("\r\n800\r\n"));
 }
 
+TEST_F(Closing, ShowsTheNewNameOfAProjectThatCouldNotBeSavedUnderIt) {
+  program.FileSaved = false;
+  platform.boxes.answers = {box_result::Yes};
+  platform.fileDialogs.answers = {"/designs/new.orb"};
+  platform.files.Fail(MemoryFiles::Step::Flush, error_number::DiskFull, 0, 1);
+
+  Exit();
+
+  EXPECT_TRUE(window.IsOpen());
+  EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/new.orb*");
+  ASSERT_TRUE(Exists(RecoveryPath));
+  EXPECT_EQ(ReadRecovery(FileAt(RecoveryPath))->CurrentFile, "/designs/new.orb");
+}
+
 TEST_F(Closing, AsksAnUntitledProjectForItsName) {
   program.FileSaved = false;
   platform.boxes.answers = {box_result::Yes};
