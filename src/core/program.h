@@ -116,6 +116,9 @@ struct Program {
   Integer ReportCaller = report_caller::None;
   bool DialogOpen = false;
   std::function<void(Integer)> OpenInputDialog;  // opens the dialog of this report_caller, as the Input menu does
+  // Keeps the bytes of a recovery file where no other run takes them, as far as the disk has the room, and returns the
+  // file that has them; empty when none has.
+  std::function<std::string(const std::string&)> KeepAside;
   std::function<void()> EndAtOnce = [] {
   };  // ends the run: no question, nothing saved; unsaved work is kept for the next start
 

@@ -240,10 +240,14 @@ void KeepChanges(Program& program, const UnsavedProject& project, BackupReason r
   if (BackupFolder(program).empty()) return;
   if (KeepDropped(program, project, reason)) {
     AddHistoryLine(program, "Unsaved changes kept in Backups: " + project.CurrentFile);
-  } else {
-    ShowMessage(program, "The unsaved changes could not be kept in Backups: " + project.CurrentFile,
-                box_style::Exclamation);
+    return;
   }
+  std::string text = "The unsaved changes could not be kept in Backups: " + project.CurrentFile;
+  const std::string aside = program.KeepAside ? program.KeepAside(RecoveryBytes(project)) : std::string();
+  if (!aside.empty()) {
+    text.append(LineEnd).append(LineEnd).append("What could be kept of them is in " + aside + ".");
+  }
+  ShowMessage(program, text, box_style::Exclamation);
 }
 
 std::vector<Backup> ListBackups(Program& program) {

@@ -44,8 +44,9 @@ std::optional<std::string> KeepDropped(Program& program, const UnsavedProject& p
 // Keeps the bytes of a recovery file that cannot be read. Returns what KeepBackup returns.
 std::optional<std::string> KeepDamaged(Program& program, std::string_view bytes);
 
-// Keeps the changes of a project that is about to be dropped, and adds a line to the history that says so; where they
-// cannot be kept one message says it. Does nothing for a program without a data folder.
+// Keeps the changes of a project that is about to be dropped, and adds a line to the history that says so. If the store
+// cannot take them the program keeps them aside, and one message says where. Does nothing for a program without a data
+// folder.
 void KeepChanges(Program& program, const UnsavedProject& project, BackupReason reason = BackupReason::Dropped);
 
 struct Backup {

@@ -93,11 +93,10 @@ void MainWindow::OpenFirstFiles(const std::string& commandLineFile) {
 }
 
 void MainWindow::BringBack() {
-  if (restart_->Slot != 0) {
-    if (recovery_.Recover()) RefreshCaption();
-  } else if (!restart_->File.empty()) {
-    OpenFile(restart_->File, Trap::Set);
-  }
+  if (restart_->Slot != 0 && recovery_.Recover()) return RefreshCaption();
+  // The slot of this run may hold what another run lost.
+  if (recovery_.Ask(restart_->File)) return RefreshCaption();
+  if (!restart_->File.empty()) OpenFile(restart_->File, Trap::Set);
 }
 
 void MainWindow::Dropped(const std::string& path) { OpenFile(path, Trap::Set); }

@@ -27,7 +27,8 @@ class MainWindow : public MainControls {
 
   // What a run begins with, once the window is on the screen: the work that an earlier run lost, and where there is
   // none or the user declines it, the file that was open last and the file of the command line. Throws the RuntimeError
-  // of the latter's opening. A run that was started again brings back what it was told, and nothing else.
+  // of opening the last one. A run that was started again brings back what it was told without a question; it asks only
+  // about work that yet another run lost.
   void OpenFirstFiles(const std::string& commandLineFile);
 
   // Opens a file that was dropped on the window.

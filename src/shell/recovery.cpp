@@ -23,11 +23,25 @@ std::string SlotPath(const Program& program, int number, std::string_view extens
 constexpr std::string_view FileExtension = ".tmp";
 constexpr std::string_view MarkExtension = ".lck";
 
+// The first of "PATH.kept", "PATH.kept2" and so on that is free.
+std::string FreeNameBeside(Program& program, const std::string& path) {
+  const std::string first = path + ".kept";
+  std::string name = first;
+  for (int number = 2; FileExists(program, name); ++number) name = first + NumberText(number);
+  return name;
+}
+
 }  // namespace
 
 Recovery::Recovery(Program& program, int keptSlot) : program_(program), keptSlot_(keptSlot) {
   Succeeds([this] { TakeSlot(); });
+  program_.KeepAside = [this](const std::string& bytes) {
+    Write(bytes);
+    return written_.empty() ? std::string() : PutAside();
+  };
 }
+
+Recovery::~Recovery() { program_.KeepAside = nullptr; }
 
 void Recovery::TakeSlot() {
   if (program_.folders.ProgramTemporary.empty()) return;
@@ -37,6 +51,15 @@ void Recovery::TakeSlot() {
   }
   for (int number = 1; number <= Slots; ++number) {
     if (TryTake(number)) return;
+  }
+}
+
+void Recovery::TakeEmptySlot() {
+  mark_.reset();
+  slot_ = 0;
+  path_.clear();
+  for (int number = 1; number <= Slots; ++number) {
+    if (!FileExists(program_, SlotPath(program_, number, FileExtension)) && TryTake(number)) return;
   }
 }
 
@@ -51,24 +74,39 @@ bool Recovery::TryTake(int number) {
 std::optional<UnsavedProject> Recovery::TakeLostProject() {
   if (path_.empty() || !FileExists(program_, path_)) return std::nullopt;
   std::string bytes;
-  if (!Succeeds([&] { bytes = program_.platform.files.ReadFile(path_); })) return std::nullopt;
+  if (!Succeeds([&] { bytes = program_.platform.files.ReadFile(path_); })) {
+    ShowMessage(program_, "The unsaved work of an earlier run could not be read. It is kept in " + PutAside() + ".",
+                box_style::Exclamation);
+    return std::nullopt;
+  }
   written_ = bytes;
   std::optional<UnsavedProject> project = ReadRecovery(bytes);
   if (!project) KeepDamagedFile();
   return project;
 }
 
-// A file that the backups do not take stays where it is until this run has something to write.
 void Recovery::KeepDamagedFile() {
   if (!BackupFolder(program_).empty()) {
     const auto kept = KeepDamaged(program_, written_);
     if (!kept) {
-      ShowMessage(program_, "A damaged recovery file could not be kept in Backups: " + path_, box_style::Exclamation);
+      ShowMessage(program_, "A damaged recovery file could not be kept in Backups: " + PutAside(),
+                  box_style::Exclamation);
       return;
     }
     AddHistoryLine(program_, "Damaged recovery file kept in Backups: " + *kept);
   }
   Discard();
+}
+
+std::string Recovery::PutAside() {
+  const std::string present = path_;
+  const std::string aside = FreeNameBeside(program_, present);
+  written_.clear();
+  failed_ = false;
+  if (Succeeds([&] { program_.platform.files.RenameFile(present, aside); })) return aside;
+  // The file stays for the next start.
+  Succeeds([this] { TakeEmptySlot(); });
+  return present;
 }
 
 std::string Recovery::Question(const UnsavedProject& project) const {
@@ -86,7 +124,7 @@ bool Recovery::Ask(const std::string& otherFile) {
   box.text = Question(*project);
   box.style = box_style::YesNo | box_style::Question;
   if (!otherFile.empty()) {
-    box.captions = {"Recover", "Open " + std::string(NameBehindSeparator(otherFile)) + " instead"};
+    box.captions = {"Recover", "Open " + ShortenedPath(NameBehindSeparator(otherFile)) + " instead"};
   }
   if (ShowMessage(program_, box) == box_result::Yes) {
     RestoreProject(program_, *project);
@@ -126,6 +164,10 @@ void Recovery::DialogClosed() {
 void Recovery::DesignChanged(const ProjectRecord& design) {
   edited_ = design;
   changed_ = design;
+  FlushLater();
+}
+
+void Recovery::FlushLater() {
   if (path_.empty() || *waiting_) return;
   *waiting_ = true;
   program_.platform.clock.CallLater(WriteDelay, [this, alive = std::weak_ptr<bool>(waiting_)] {
@@ -137,8 +179,9 @@ void Recovery::DesignChanged(const ProjectRecord& design) {
 }
 
 void Recovery::Flush() {
+  if (!changed_ && failed_) changed_ = edited_;
   if (!changed_) {
-    if (!program_.FileSaved && written_.empty()) Committed();
+    if (!program_.FileSaved && (written_.empty() || failed_)) Committed();
     return;
   }
   const std::string bytes = RecoveryBytes(EditedProject(program_, *changed_));
@@ -168,7 +211,11 @@ void Recovery::Discard() {
 
 void Recovery::Write(const std::string& bytes) {
   failed_ = bytes != written_ && (path_.empty() || !TryWriteWhole(program_.platform.files, path_, bytes));
-  if (!failed_) written_ = bytes;
+  if (failed_) {
+    FlushLater();
+  } else {
+    written_ = bytes;
+  }
 }
 
 KeptWork Recovery::Kept() const {

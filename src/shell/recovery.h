@@ -1,10 +1,12 @@
 // Keeps unsaved work in a file of the program's temporary folder, for the next start after a run that ended in the
 // middle of it.
 //
-// What the user turns down goes into the backups, so nothing that stood in the file is gone.
+// What the user turns down goes into the backups. What the backups do not take stays beside the file under another
+// name, so nothing that the file held is lost.
 //
 // Programs that run side by side take different files: each marks one of nine as its own for as long as it runs, first
-// of all one that a run left behind. Where no file can be had or written nothing is kept, and nobody is told.
+// of all one that a run left behind. Where no file can be had nothing is kept, and nobody is told. A write that failed
+// is tried again every second.
 #pragma once
 
 #include <memory>
@@ -20,13 +22,17 @@ namespace orby {
 class Recovery {
  public:
   // keptSlot: what a run left behind in this slot comes first; 0 where no slot does.
+  // Lets the program put unsaved changes aside for as long as this lives.
   explicit Recovery(Program& program, int keptSlot = 0);
+  ~Recovery();
+  Recovery(const Recovery&) = delete;
+  Recovery& operator=(const Recovery&) = delete;
 
   // Asks whether to recover what a run left behind, if there is anything, or to open the other file instead, if there
-  // is one. Gives whether the open project is the recovered one now; what the user declines goes into the backups.
+  // is one. Returns true if the open project is the recovered one now. What the user declines goes into the backups.
   bool Ask(const std::string& otherFile);
 
-  // Recovers what a run left behind, in the kept slot if one was named, without asking. Gives whether there was
+  // Recovers what a run left behind, in the kept slot if one was named, without asking. Returns true if there was
   // anything.
   bool Recover();
 
@@ -37,7 +43,7 @@ class Recovery {
   // been written yet.
   void DesignChanged(const ProjectRecord& design);
 
-  // Writes at once what DesignChanged was told and has not been written.
+  // Writes at once what has not been written, or could not be.
   void Flush();
 
   // The input dialog is closed: edits that it did not commit go into the backups. Then as Committed.
@@ -59,12 +65,17 @@ class Recovery {
   void Release();
 
  private:
-  // What a run left behind, if anything; a file that cannot be read any more goes into the backups.
+  // What a run left behind, if anything. A file that is damaged goes into the backups.
   std::optional<UnsavedProject> TakeLostProject();
   std::string Question(const UnsavedProject& project) const;
   void KeepDamagedFile();
+  // Gives the file another name, which no run takes, and returns that. A file that cannot be renamed keeps its name,
+  // and this run takes another slot.
+  std::string PutAside();
   void TakeSlot();
+  void TakeEmptySlot();
   bool TryTake(int number);
+  void FlushLater();
   void Write(const std::string& bytes);
 
   Program& program_;

@@ -158,5 +158,45 @@ TEST_F(DroppedChanges, AreToldOnceWhenTheyCannotBeKept) {
   EXPECT_EQ(program.CurrentFile, "Untitled");
 }
 
+// The ways in which a project with unsaved changes is given up. In each the disk has no room for a backup of them.
+struct GivenUpOnAFullDisk : DroppedChanges {
+  GivenUpOnAFullDisk() {
+    EditPanel3();
+    window.LeaveAtOnce();
+    platform.files.Fail(MemoryFiles::Step::Create, error_number::DiskFull);
+    platform.boxes.answers = {box_result::No};
+  }
+
+  void ExpectKeptAside() {
+    const std::string aside = RecoveryPath + ".kept";
+    EXPECT_EQ(platform.boxes.Texts().back(),
+              "The unsaved changes could not be kept in Backups: /designs/panel3.orb\r\n\r\n"
+              "What could be kept of them is in " +
+                  aside + ".");
+    ASSERT_TRUE(Exists(aside));
+    EXPECT_EQ(ReadRecovery(FileAt(aside))->WorkParms.DepthofCover, 800);
+    EXPECT_FALSE(Exists(RecoveryPath));
+  }
+};
+
+TEST_F(GivenUpOnAFullDisk, ChangesAreStillThereAfterNew) {
+  window.mnuFileItem.ClickItem(file_item::New);
+
+  ExpectKeptAside();
+}
+
+TEST_F(GivenUpOnAFullDisk, ChangesAreStillThereAfterOpen) {
+  OpenByDialog(Panel4);
+
+  EXPECT_EQ(program.CurrentFile, Panel4);
+  ExpectKeptAside();
+}
+
+TEST_F(GivenUpOnAFullDisk, ChangesAreStillThereAfterClosing) {
+  window.mnuFileItem.ClickItem(file_item::Exit);
+
+  ExpectKeptAside();
+}
+
 }  // namespace
 }  // namespace orby::test

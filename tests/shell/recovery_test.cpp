@@ -209,6 +209,16 @@ TEST_F(UnsavedWork, IsOfferedBesideTheFileThatWasToBeOpened) {
   EXPECT_THAT(platform.boxes.shown.front().captions, ElementsAre("Recover", "Open panel4.orb instead"));
 }
 
+TEST_F(UnsavedWork, IsOfferedBesideALongNameOfAFileInAButtonOfUsualWidth) {
+  Lose(725);
+  Program next = Started();
+
+  Recovery(next).Ask("/designs/north mains panel three belt entry and its crosscuts, second look.orb");
+
+  EXPECT_THAT(platform.boxes.shown.front().captions,
+              ElementsAre("Recover", "Open north main...ry and its crosscuts, second look.orb instead"));
+}
+
 TEST_F(UnsavedWork, ComesBackWithoutAQuestionWhenTheRunIsStartedAnew) {
   Lose(725);
   Program next = Started();
@@ -259,17 +269,89 @@ TEST_F(UnsavedWork, ThatCannotBeReadAnyMoreIsInTheBackups) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(UnsavedWork, ThatCannotBeReadNorKeptStaysWhereItIs) {
+TEST_F(UnsavedWork, ThatIsDamagedAndNotInTheBackupsIsThereAfterTheRun) {
+  platform.files.files[FirstFile] = "damaged";
+  Program program = Started();
+  program.folders.ProgramData = DataFolder;
+  platform.files.Fail(Step::Create, error_number::DiskFull);
+  Recovery recovery(program);
+
+  EXPECT_FALSE(recovery.Ask(""));
+
+  EXPECT_EQ(recovery.KeptSlot(), 0);
+  EXPECT_EQ(recovery.Kept(), KeptWork::NoneNeeded);
+  EXPECT_THAT(platform.boxes.Texts(),
+              ElementsAre("A damaged recovery file could not be kept in Backups: " + FirstFile + ".kept"));
+  recovery.Committed();
+  recovery.Discard();
+  EXPECT_EQ(platform.files.files.at(FirstFile + ".kept"), "damaged");
+}
+
+TEST_F(UnsavedWork, ThatCannotBeReadAtAllIsNotWrittenOver) {
+  Lose(725);
+  Program program = Started();
+  program.folders.ProgramData = DataFolder;
+  platform.files.Fail(Step::Read, error_number::PermissionDenied, 0, 1);
+  Recovery recovery(program);
+
+  EXPECT_FALSE(recovery.Ask(""));
+  program.WorkParms.DepthofCover = 980;
+  program.FileSaved = false;
+  recovery.Committed();
+
+  EXPECT_THAT(
+      platform.boxes.Texts(),
+      ElementsAre("The unsaved work of an earlier run could not be read. It is kept in " + FirstFile + ".kept."));
+  EXPECT_EQ(DepthIn(FirstFile + ".kept"), 725);
+  EXPECT_EQ(DepthIn(FirstFile), 980);
+}
+
+TEST_F(UnsavedWork, ThatCannotBeRenamedEitherIsLeftToTheNextStart) {
+  Lose(725);
+  Program program = Started();
+  platform.files.Fail(Step::Read, error_number::PermissionDenied, 0, 1);
+  platform.files.Fail(Step::Rename, error_number::PermissionDenied, 0, 1);
+  Recovery recovery(program);
+
+  EXPECT_FALSE(recovery.Ask(""));
+  program.WorkParms.DepthofCover = 980;
+  program.FileSaved = false;
+  recovery.Committed();
+
+  EXPECT_EQ(DepthIn(FirstFile), 725);
+  EXPECT_EQ(DepthIn(SecondFile), 980);
+  EXPECT_FALSE(platform.files.marked.contains(Folder + "~recover1.lck"));
+}
+
+TEST_F(UnsavedWork, ThatWasDeclinedAndIsNotInTheBackupsIsThereAfterTheRun) {
+  Lose(725);
+  Program program = Started();
+  program.folders.ProgramData = DataFolder;
+  platform.boxes.answers = {box_result::No};
+  platform.files.Fail(Step::Create, error_number::DiskFull);
+  Recovery recovery(program);
+
+  EXPECT_FALSE(recovery.Ask(""));
+  recovery.Discard();
+
+  EXPECT_EQ(DepthIn(FirstFile + ".kept"), 725);
+  EXPECT_EQ(platform.boxes.Texts().back(),
+            "The unsaved changes could not be kept in Backups: /designs/panel3.orb\r\n\r\n"
+            "What could be kept of them is in " +
+                FirstFile + ".kept.");
+}
+
+TEST_F(UnsavedWork, ThatIsKeptAsideLeavesWhatWasKeptAsideBefore) {
+  platform.files.files[FirstFile + ".kept"] = "of an earlier run";
   platform.files.files[FirstFile] = "damaged";
   Program program = Started();
   program.folders.ProgramData = DataFolder;
   platform.files.Fail(Step::Create, error_number::DiskFull);
 
-  EXPECT_FALSE(Recovery(program).Ask(""));
+  Recovery(program).Ask("");
 
-  EXPECT_TRUE(Exists(FirstFile));
-  EXPECT_THAT(platform.boxes.Texts(),
-              ElementsAre("A damaged recovery file could not be kept in Backups: " + FirstFile));
+  EXPECT_EQ(platform.files.files.at(FirstFile + ".kept"), "of an earlier run");
+  EXPECT_EQ(platform.files.files.at(FirstFile + ".kept2"), "damaged");
 }
 
 TEST_F(UnsavedWork, OfACancelledDialogIsInTheBackups) {
@@ -432,6 +514,56 @@ TEST_P(UnsavedWorkOnAFailingDisk, StaysAsItWasWrittenLastAndNobodyIsTold) {
 
 INSTANTIATE_TEST_SUITE_P(Steps, UnsavedWorkOnAFailingDisk,
                          testing::Values(Step::Create, Step::Write, Step::Close, Step::Rename));
+
+TEST_F(UnsavedWork, ThatTheDiskRefusedIsWrittenASecondLater) {
+  Program program = Started();
+  Recovery recovery(program);
+  recovery.DesignShown(program.WorkParms);
+  ProjectRecord design = program.WorkParms;
+  design.DepthofCover = 980;
+  recovery.DesignChanged(design);
+  platform.files.Fail(Step::Write, error_number::DiskFull);
+  platform.clock.Pass();
+  ASSERT_FALSE(Exists(FirstFile));
+  platform.files.Mend();
+
+  platform.clock.Pass();
+
+  EXPECT_EQ(DepthIn(FirstFile), 980);
+  EXPECT_THAT(platform.clock.waiting, IsEmpty());
+}
+
+TEST_F(UnsavedWork, ThatTheDiskRefusedIsWrittenWhenTheRunEnds) {
+  Program program = Editing(725);
+  Recovery recovery(program);
+  recovery.Committed();
+  recovery.DesignShown(program.WorkParms);
+  ProjectRecord design = program.WorkParms;
+  design.DepthofCover = 980;
+  recovery.DesignChanged(design);
+  platform.files.Fail(Step::Write, error_number::DiskFull);
+  recovery.Flush();
+  platform.files.Mend();
+
+  recovery.Flush();
+
+  EXPECT_EQ(DepthIn(FirstFile), 980);
+  EXPECT_EQ(recovery.Kept(), KeptWork::All);
+}
+
+TEST_F(UnsavedWork, ThatWasCommittedOnAFullDiskIsWrittenWhenTheRunEnds) {
+  Program program = Editing(725);
+  Recovery recovery(program);
+  recovery.Committed();
+  program.WorkParms.DepthofCover = 980;
+  platform.files.Fail(Step::Write, error_number::DiskFull);
+  recovery.Committed();
+  platform.files.Mend();
+
+  recovery.Flush();
+
+  EXPECT_EQ(DepthIn(FirstFile), 980);
+}
 
 TEST_F(UnsavedWork, ThatCannotBeRemovedIsNoError) {
   Program program = Editing(725);

@@ -6,6 +6,7 @@
 
 #include "core/act.h"
 #include "dialogs/parameters_dialog.h"
+#include "files/backups.h"
 #include "main_window_fixture.h"
 
 namespace orby::test {
@@ -207,6 +208,39 @@ TEST_F(StartedAgain, TheProgramOpensAProjectWithoutUnsavedChangesFromItsFile) {
   EXPECT_EQ(restarted.WorkParms.DepthofCover, 725);
   EXPECT_TRUE(restarted.FileSaved);
   EXPECT_EQ(nextWindow->Caption(), "Orby Roof Support Workbench: /designs/panel3.orb");
+}
+
+TEST_F(StartedAgain, TheProgramOffersWhatAnotherRunLostInItsSlot) {
+  OpenByDialog(Panel3);
+  const RunEnd end = window.LeaveAtOnce();
+  EditPanel3();
+  window.LeaveAtOnce();
+  atEnd = platform.files.files;  // the recovery file stands for that of another program that was killed
+
+  restarted.folders.ProgramData = "/home/user/Documents/Orby/";
+  next.boxes.answers = {box_result::No};
+
+  StartAgain(end.Next);
+
+  ASSERT_EQ(next.boxes.shown.size(), 1U);
+  EXPECT_THAT(next.boxes.shown.front().captions, ElementsAre("Recover", "Open panel3.orb instead"));
+  EXPECT_EQ(restarted.WorkParms.DepthofCover, 725);
+  const auto backups = ListBackups(restarted);
+  ASSERT_EQ(backups.size(), 1U);
+  EXPECT_EQ(ReadRecovery(next.files.files.at(backups.front().Path))->WorkParms.DepthofCover, 800);
+}
+
+TEST_F(StartedAgain, TheProgramOffersWhatAnotherRunLostWhenItsOwnSlotIsTaken) {
+  EditPanel3();
+  window.LeaveAtOnce();
+  atEnd = platform.files.files;
+  next.files.marked.insert(TemporaryFolder + "~recover2.lck");
+  next.boxes.answers = {box_result::Yes};
+
+  StartAgain({2, {}});
+
+  EXPECT_EQ(restarted.WorkParms.DepthofCover, 800);
+  EXPECT_FALSE(restarted.FileSaved);
 }
 
 TEST_F(StartedAgain, TheProgramBeginsANewProjectWhereNothingWasBegun) {
