@@ -8,18 +8,19 @@
 #include "base/text.h"
 #include "core/dates.h"
 #include "core/messages.h"
+#include "core/shared_texts.h"
 #include "engine/primary_support.h"
 #include "files/kept_project.h"
 #include "files/overwritten_file.h"
 #include "files/project_save.h"
 #include "files/save_command.h"
+#include "files/texts_in_file.h"
 
 namespace orby {
 namespace {
 
 constexpr int HeaderRows = 1;
 constexpr std::array<std::string_view, 4> Headers{"Project", "Time", "Why it was kept", "Size"};
-constexpr std::string_view NoResult = "--";
 
 // "812 bytes", "4.2 KB".
 std::string SizeText(std::uint64_t bytes) {
@@ -34,12 +35,23 @@ std::string Named(const Backup& entry) {
   return std::string(NameBehindSeparator(entry.Project)) + " of " + MomentText(entry.Time);
 }
 
-// The figure with one decimal; "--" where there is none.
+// With one decimal; "--" where there is none or it cannot be computed.
 template <class Compute>
-std::string FigureText(const Compute& compute) {
-  std::optional<Single> figure;
-  if (!Succeeds([&] { figure = compute(); }) || !figure) return std::string(NoResult);
-  return FormatNumber(*figure, "0.0");
+std::string OneDecimal(const Compute& compute) {
+  const std::optional<Single> figure = OrNothing(compute);
+  return figure ? FormatNumber(*figure, "0.0") : std::string(NoResult);
+}
+
+// The title as the user typed it: opening a file shifts its header.
+std::string TypedTitle(const UnsavedProject& project) {
+  const auto typed = TextsBeforeTheShift({project.ProjectTitle, project.ProjectDescription});
+  return typed ? typed->Title : project.ProjectTitle;
+}
+
+// The project's path. An entry that has lost it is taken for one of the data folder.
+std::string PathOf(const Program& program, const Backup& entry) {
+  const bool hasFolder = NameBehindSeparator(entry.Project).size() < entry.Project.size();
+  return hasFolder ? entry.Project : WithSeparator(program.settings.DataPath) + entry.Project;
 }
 
 std::optional<Single> SuggestedFigure(const UnsavedProject& project) {
@@ -79,6 +91,8 @@ void BackupsWindow::OnOpen() {
 }
 
 void BackupsWindow::List() {
+  const Backup* selected = Selected();
+  const std::string path = selected == nullptr ? std::string() : selected->Path;
   entries_ = ListBackups(program_);
   grdBackups.SetSize(HeaderRows + static_cast<int>(entries_.size()), static_cast<int>(Headers.size()), HeaderRows);
   for (std::size_t column = 0; column < Headers.size(); ++column) {
@@ -90,6 +104,7 @@ void BackupsWindow::List() {
     grdBackups.SetCell(row, 1, MomentText(entry.Time));
     grdBackups.SetCell(row, 2, std::string(entry.Reason ? ReasonText(*entry.Reason) : "Not known"));
     grdBackups.SetCell(row, 3, SizeText(entry.Bytes));
+    if (entry.Path == path) grdBackups.SetRow(row);
     ++row;
   }
   ShowSelected();
@@ -105,11 +120,12 @@ void BackupsWindow::ShowSelected() {
   project_.reset();
   std::string bytes;
   if (entry != nullptr && Succeeds([&] { bytes = program_.platform.files.ReadFile(entry->Path); })) {
-    project_ = ReadKeptProject(program_, bytes, entry->Project);
+    project_ = ReadKeptProject(program_, bytes, PathOf(program_, *entry));
   }
   lblState.SetCaption(entry == nullptr ? "There are no backups."
                       : project_       ? ""
                                        : "This backup is damaged. Its file is still in the folder.");
+  lblState.SetVisible(!project_);
   txtProject.SetText(entry == nullptr ? std::string() : entry->Project);
   if (project_) {
     ShowProject(*project_);
@@ -124,13 +140,13 @@ void BackupsWindow::ShowSelected() {
 void BackupsWindow::ShowProject(const UnsavedProject& project) {
   const ProjectRecord& design = project.WorkParms;
   const std::string length(UnitLabel(unit_row::Length, project.Units));
-  txtTitle.SetText(project.ProjectTitle);
+  txtTitle.SetText(TypedTitle(project));
   txtUnits.SetText(std::string(UnitSummary(project.Units)));
   txtCMRR.SetText(NumberText(design.CMRR));
   txtDepthofCover.SetText(NumberText(design.DepthofCover) + length);
   txtEntryWidth.SetText(NumberText(design.EntryWidth) + length);
-  txtSugPSUP.SetText(FigureText([&] { return SuggestedFigure(project); }));
-  txtActualPSUP.SetText(FigureText([&] { return ActualFigure(project, program_.catalogs); }));
+  txtSugPSUP.SetText(OneDecimal([&] { return SuggestedFigure(project); }));
+  txtActualPSUP.SetText(OneDecimal([&] { return ActualFigure(project, program_.catalogs); }));
 }
 
 void BackupsWindow::ClearProject() {
@@ -140,11 +156,13 @@ void BackupsWindow::ClearProject() {
 }
 
 // A file that is there already is kept first, as before every save. The open project has nothing to do with the file,
-// whatever its name.
+// whatever its name. But the old bytes of a file that a failed save has spoilt are held for the next save, and a file
+// that now holds the backup is spoilt no more.
 void BackupsWindow::SaveAs() {
   const FileOnDisk last = program_.LastFile;
   SaveRemarks remarks;
   RunTrapped(program_, [&] {
+    remarks.clear();
     const Backup entry = *Selected();
     FileSystem& files = program_.platform.files;
     const auto bytes = KeptProjectAsFile(program_, files.ReadFile(entry.Path));
@@ -155,7 +173,11 @@ void BackupsWindow::SaveAs() {
     AddHistoryLine(program_, "Backup saved as: " + path);
     List();
   });
-  program_.LastFile = last;
+  const FileOnDisk& now = program_.LastFile;
+  const bool isHeld = now.IsSpoilt && (now.Path != last.Path || !last.IsSpoilt);
+  const bool isMended = last.IsSpoilt && now.Path == last.Path && !now.IsSpoilt;
+  if (!isHeld) program_.LastFile = last;
+  if (isMended) program_.LastFile.IsSpoilt = false;
   ShowRemarks(program_, remarks);
 }
 

@@ -72,7 +72,7 @@ TEST_F(TheBackupsWindow, ShowsTheFiguresOfTheSelectedOne) {
   EXPECT_EQ(backups.txtDepthofCover.Text(), "800 (ft)");
   EXPECT_EQ(backups.txtEntryWidth.Text(), "20 (ft)");
   EXPECT_EQ(backups.txtActualPSUP.Text(), "9.9");
-  EXPECT_EQ(backups.lblState.Caption(), "");
+  EXPECT_FALSE(backups.lblState.Visible());
 
   backups.grdBackups.SetRow(2);
 
@@ -86,6 +86,15 @@ TEST_F(TheBackupsWindow, ShowsTheSuggestedSupportOfTheDefaultDesign) {
   backups.Open();
 
   EXPECT_EQ(backups.txtSugPSUP.Text(), "7.6");
+}
+
+TEST_F(TheBackupsWindow, ShowsTheTitleOfASavedFileAsItWasTyped) {
+  program.ProjectTitle = "Belt entry";
+  KeepBackup(program, Panel3, ProjectFileBytes(program), BackupReason::Overwritten);
+
+  backups.Open();
+
+  EXPECT_EQ(backups.txtTitle.Text(), "Belt entry");
 }
 
 TEST_F(TheBackupsWindow, ShowsADashForAFigureThatCannotBeHad) {
@@ -103,6 +112,7 @@ TEST_F(TheBackupsWindow, SaysThatThereAreNone) {
   backups.Open();
 
   EXPECT_EQ(backups.lblState.Caption(), "There are no backups.");
+  EXPECT_TRUE(backups.lblState.Visible());
   EXPECT_EQ(backups.txtTitle.Text(), "");
   EXPECT_FALSE(backups.cmdOpen.Enabled());
   EXPECT_FALSE(backups.cmdSaveAs.Enabled());
@@ -162,6 +172,19 @@ TEST_F(TheBackupsWindow, OpensAnOverwrittenFileToo) {
   EXPECT_EQ(program.WorkParms.DepthofCover, 980);
   EXPECT_FALSE(program.FileSaved);
   EXPECT_FALSE(program.FileEmpty);
+}
+
+TEST_F(TheBackupsWindow, OpensAFileOfUnknownFolderAsOneOfTheDataFolder) {
+  KeepTwo();
+  platform.files.files.erase(Store + "2031-03-09 14.05.07 00001.about");
+
+  UseFromMenu([](BackupsWindow& shown) {
+    shown.grdBackups.SetRow(2);
+    shown.cmdOpen.Press();
+  });
+
+  EXPECT_EQ(program.CurrentFile, Panel4);
+  EXPECT_EQ(program.WorkParms.DepthofCover, 980);
 }
 
 TEST_F(TheBackupsWindow, AsksForTheUnsavedChangesOfThePresentProjectBeforeItOpensOne) {
@@ -226,6 +249,18 @@ TEST_F(TheBackupsWindow, KeepsTheFileThatItSavesOver) {
   EXPECT_EQ(backups.grdBackups.Rows(), 4);
 }
 
+TEST_F(TheBackupsWindow, StaysAtTheEntryThatItSaved) {
+  KeepTwo();
+  backups.Open();
+  backups.grdBackups.SetRow(2);
+  platform.fileDialogs.answers = {Panel3};
+
+  backups.cmdSaveAs.Press();
+
+  EXPECT_EQ(backups.grdBackups.Row(), 3) << "the file that was saved over is the first now";
+  EXPECT_EQ(backups.txtProject.Text(), Panel4);
+}
+
 TEST_F(TheBackupsWindow, PutsBackTheFileThatItCannotSaveOver) {
   KeepTwo();
   backups.Open();
@@ -251,6 +286,58 @@ TEST_F(TheBackupsWindow, DoesNotTakeTheFileThatItSavesForTheOneOfTheOpenProject)
 
   EXPECT_EQ(program.LastFile.Path, Panel3);
   EXPECT_EQ(program.CurrentFile, Panel3);
+}
+
+// The entry of panel 4 is saved over a file, and the disk fails halfway and for good.
+struct SpoilingBackupsWindow : TheBackupsWindow {
+  void SaveOverAndFail(const std::string& path, int failures) {
+    backups.Open();
+    backups.grdBackups.SetRow(backups.grdBackups.Rows() - 1);
+    platform.fileDialogs.answers = {path};
+    platform.boxes.answers = {box_result::Cancel};
+    platform.files.Fail(Step::Cut, error_number::DiskFull, 0, failures);
+    backups.cmdSaveAs.Press();
+    platform.files.Mend();
+  }
+};
+
+TEST_F(SpoilingBackupsWindow, HoldsTheOldBytesOfAFileThatItCouldNotPutBack) {
+  KeepTwo();
+  OpenByDialog(Panel4);
+
+  SaveOverAndFail(Panel3, 2);
+
+  EXPECT_EQ(program.LastFile.Path, Panel3);
+  EXPECT_EQ(program.LastFile.Bytes, DesignAt(725));
+  EXPECT_TRUE(program.LastFile.IsSpoilt);
+}
+
+TEST_F(SpoilingBackupsWindow, MendsTheFileOfTheOpenProjectThatASaveHadSpoilt) {
+  KeepTwo();
+  OpenByDialog(Panel3);
+  program.LastFile.IsSpoilt = true;
+  backups.Open();
+  backups.grdBackups.SetRow(backups.grdBackups.Rows() - 1);
+  platform.fileDialogs.answers = {Panel3};
+
+  backups.cmdSaveAs.Press();
+
+  EXPECT_EQ(FileAt(Panel3), DesignAt(980));
+  EXPECT_EQ(program.LastFile.Path, Panel3);
+  EXPECT_FALSE(program.LastFile.IsSpoilt);
+}
+
+TEST_F(SpoilingBackupsWindow, TellsOnlyOfTheAttemptThatCounts) {
+  KeepTwo();
+  backups.Open();
+  backups.grdBackups.SetRow(2);
+  platform.fileDialogs.answers = {Panel3, Panel3};
+  platform.boxes.answers = {box_result::Retry};
+  platform.files.Fail(Step::Cut, error_number::DiskFull, 0, 1);
+
+  backups.cmdSaveAs.Press();
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error occurred: Disk full (61)"));
 }
 
 TEST_F(TheBackupsWindow, SavesNothingWhenTheNameIsNotGiven) {
