@@ -65,6 +65,8 @@ void DescriptionDialog::PutBack() {
     Text2.SetText(before->Description);
   }
   ShowPutBack();
+  // The button has gone, and the keyboard with it.
+  RequestFocus(Text1);
 }
 
 void DescriptionDialog::ShowPutBack() { cmdPutBack.SetVisible(TextsBeforeTheShift(Typed()).has_value()); }

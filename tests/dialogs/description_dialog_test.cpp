@@ -476,6 +476,7 @@ TEST_F(ADescriptionDialog, OffersToPutBackWhatTheFileHasShifted) {
   EXPECT_EQ(dialog.Text1.Text(), "Panel 3");
   EXPECT_EQ(dialog.Text2.Text(), "Headgate\r\n");
   EXPECT_FALSE(dialog.cmdPutBack.Visible());
+  EXPECT_EQ(dialog.FocusRequest(), &dialog.Text1) << "the button that had the keyboard is hidden";
   EXPECT_EQ(program.ProjectTitle, " 0 ") << "until OK";
   dialog.Command2.Press();
   EXPECT_EQ(program.ProjectTitle, "Panel 3");
