@@ -61,6 +61,7 @@ class NoClipboard : public Clipboard {
 class NoPrinter : public Printer {
  public:
   void Choose(const std::string&) override { throw RuntimeError(error_number::Printer); }
+  void ChooseAsBefore(const std::string&) override {}
   void SetUp() override { throw RuntimeError(error_number::Printer); }
   std::string PrintPages(const std::vector<std::string>&, const std::string&, const std::string&) override {
     throw RuntimeError(error_number::Printer);

@@ -15,7 +15,10 @@ class Printer {
   // Lets the user choose the printer for what is printed from now on. fileName: what a PDF file is proposed to be
   // called, without its extension. Throws RuntimeError 32755 when cancelled.
   virtual void Choose(const std::string& fileName) = 0;
-  // The same without anything being about to be printed.
+  // Prepares a print without a question: it goes where the last one went. A file that was chosen for a print of another
+  // name gives way to one of this name in its folder.
+  virtual void ChooseAsBefore(const std::string& fileName) = 0;
+  // Lets the user choose without anything being about to be printed.
   virtual void SetUp() = 0;
   // Prints one text a sheet, in the printer font, its lines as they stand. Returns the file that was printed to, empty
   // for paper. Only the first print after Choose replaces a file; others take a new name.

@@ -56,6 +56,11 @@ bool IsFile(const QPrinter& device) {
   return device.outputFormat() == QPrinter::PdfFormat && !device.outputFileName().isEmpty();
 }
 
+// A PDF file of this name in the folder of the other one.
+QString NameBeside(const QString& other, const std::string& fileName) {
+  return QFileInfo(other).dir().filePath(ToQt(fileName) + ".pdf");
+}
+
 // The path itself if nothing is there, else the first of "NAME (2).pdf", "NAME (3).pdf" and so on that is free.
 QString NewName(const QString& path) {
   const QFileInfo file(path);
@@ -109,11 +114,10 @@ void QtPrinter::ShowDialog() {
 
 // The dialog proposes a file by the name of the document, until there is a file.
 void QtPrinter::Choose(const std::string& fileName) {
-  const QString name = ToQt(fileName) + ".pdf";
   QPrinter& device = Device();
   const QString before = device.outputFileName();
-  device.setDocName(name);
-  if (IsFile(device)) device.setOutputFileName(QFileInfo(before).dir().filePath(name));
+  device.setDocName(ToQt(fileName) + ".pdf");
+  if (IsFile(device)) device.setOutputFileName(NameBeside(before, fileName));
   try {
     ShowDialog();
   } catch (const RuntimeError&) {
@@ -121,9 +125,22 @@ void QtPrinter::Choose(const std::string& fileName) {
     throw;
   }
   mayReplace_ = true;
+  chosenFor_ = fileName;
 }
 
-void QtPrinter::SetUp() { ShowDialog(); }
+void QtPrinter::ChooseAsBefore(const std::string& fileName) {
+  mayReplace_ = false;
+  QPrinter& device = Device();
+  if (IsFile(device) && !chosenFor_.empty() && chosenFor_ != fileName) {
+    device.setOutputFileName(NameBeside(device.outputFileName(), fileName));
+  }
+  chosenFor_ = fileName;
+}
+
+void QtPrinter::SetUp() {
+  ShowDialog();
+  chosenFor_.clear();
+}
 
 std::string QtPrinter::PrintPages(const std::vector<std::string>& pages, const std::string& title,
                                   const std::string& fontName) {

@@ -11,6 +11,7 @@ namespace orby {
 class QtPrinter : public Printer {
  public:
   void Choose(const std::string& fileName) override;
+  void ChooseAsBefore(const std::string& fileName) override;
   void SetUp() override;
   std::string PrintPages(const std::vector<std::string>& pages, const std::string& title,
                          const std::string& fontName) override;
@@ -27,6 +28,7 @@ class QtPrinter : public Printer {
 
   std::unique_ptr<QPrinter> device_;
   bool mayReplace_ = false;  // the user has agreed to the file name in the dialog
+  std::string chosenFor_;    // what the file name was proposed for; empty: the user gave it without a print
 };
 
 }  // namespace orby

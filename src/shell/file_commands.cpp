@@ -15,7 +15,7 @@
 namespace orby {
 namespace {
 
-// Whether the command goes on behind the step.
+// Returns true if the command goes on after the step.
 bool GoesOn(StepOutcome outcome) { return outcome == StepOutcome::Done || outcome == StepOutcome::PassedOver; }
 
 }  // namespace
@@ -98,8 +98,13 @@ bool MainWindow::BuildPages() {
 
 void MainWindow::PrintProject(bool choosesPrinter) {
   if (!MayPrint()) return;
-  if (choosesPrinter && !GoesOn(Run(Trap::Set, [this] { program_.platform.printer.Choose(PrintedName(program_)); })))
+  Printer& printer = program_.platform.printer;
+  const std::string name = PrintedName(program_);
+  if (!choosesPrinter) {
+    printer.ChooseAsBefore(name);
+  } else if (!GoesOn(Run(Trap::Set, [&] { printer.Choose(name); }))) {
     return;
+  }
   if (!BuildPages()) return;
   std::string file;
   Run(Trap::Set, [&] { file = PrintText(program_, JoinedPages(program_, 0, 1)); });

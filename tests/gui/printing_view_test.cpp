@@ -250,6 +250,48 @@ TEST_F(Printing, ReplacesTheFileThatTheDialogWasAcceptedWith) {
   EXPECT_THAT(PdfPages(path).at(0), HasSubstr("The second report"));
 }
 
+// The user accepts the dialog with the name that it proposes.
+struct ChosenPrinting : Printing {
+  void Choose(const std::string& fileName) {
+    scripts.Add([](QDialog& dialog) { dialog.accept(); });
+    printer.Choose(fileName);
+  }
+  std::string PathOf(const QString& name) const { return folder.filePath(name).toStdString(); }
+};
+
+TEST_F(ChosenPrinting, OfAnotherCommandDoesNotReplaceTheFileThatWasChosenAndNeverPrinted) {
+  PrintToFile();
+  Choose("panel3");
+  QFile file(folder.filePath("panel3.pdf"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.close();
+
+  printer.ChooseAsBefore("panel3");
+
+  EXPECT_EQ(PrintText(program, "A line\r\n"), PathOf("panel3 (2).pdf"));
+}
+
+TEST_F(ChosenPrinting, OfAnotherProjectTakesTheNameOfThat) {
+  PrintToFile();
+  Choose("panel3");
+  PrintText(program, "A line\r\n");
+
+  printer.ChooseAsBefore("panel4");
+
+  EXPECT_EQ(PrintText(program, "A line\r\n"), PathOf("panel4.pdf"));
+}
+
+TEST_F(ChosenPrinting, KeepsANameThatTheUserGaveInThePrinterSetup) {
+  PrintToFile();
+  Choose("panel3");
+  scripts.Add([](QDialog& dialog) { dialog.accept(); });
+  printer.SetUp();
+
+  printer.ChooseAsBefore("panel4");
+
+  EXPECT_EQ(PrintText(program, "A line\r\n"), PathOf("panel3.pdf"));
+}
+
 TEST_F(Printing, ProposesTheNameOfTheProjectInTheFolderOfTheLastFile) {
   PrintToFile();
   QString proposed;

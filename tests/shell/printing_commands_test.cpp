@@ -70,6 +70,14 @@ TEST_F(Printing, OfTheToolBarAsksForNoPrinter) {
   EXPECT_THAT(Printed(), HasSubstr("725"));
 }
 
+TEST_F(Printing, OfTheToolBarNamesItsFileAfterTheProject) {
+  OpenByDialog(Panel3);
+
+  window.Toolbar1.ClickItem(tool_button::Print);
+
+  EXPECT_EQ(platform.printer.nameOfUnasked, "panel3");
+}
+
 TEST_F(Printing, OfTheToolBarTellsTheFileThatItPrintedTo) {
   OpenByDialog(Panel3);
   platform.printer.file = "/designs/panel3 (2).pdf";

@@ -429,6 +429,7 @@ class RecordingPrinter : public Printer {
     proposedName = fileName;
     Meet();
   }
+  void ChooseAsBefore(const std::string& fileName) override { nameOfUnasked = fileName; }
   void SetUp() override {
     ++setUp;
     Meet();
@@ -452,6 +453,7 @@ class RecordingPrinter : public Printer {
   std::string fontName;
   std::string printedChart;
   std::string proposedName;
+  std::string nameOfUnasked;
   std::string file;  // that is printed to
   int chosen = 0;
   int setUp = 0;
