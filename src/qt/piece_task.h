@@ -10,12 +10,13 @@ namespace orby {
 
 class PieceTask : public QObject {
  public:
-  // Does the next piece. Returns whether there is more to do.
+  // Does the next piece. Returns true if there is more to do. It may start another task, which takes its place.
   using Step = std::function<bool()>;
 
-  // Gives up what is being done, does the first piece at once, and the others later.
+  // Gives up what is being done. Does the first piece at once and the others later.
   void Start(Step step) {
     Stop();
+    ++started_;
     step_ = std::move(step);
     timer_.start(0, this);
     DoPiece();
@@ -31,13 +32,16 @@ class PieceTask : public QObject {
 
  private:
   void DoPiece() {
-    const Step step = step_;  // it may start another
+    const Step step = step_;
+    const int started = started_;
     if (!step || step()) return;
-    if (timer_.isActive()) Stop();
+    // The piece may have started other work, which goes on.
+    if (started == started_) Stop();
   }
 
   QBasicTimer timer_;
   Step step_;
+  int started_ = 0;  // tasks so far
 };
 
 }  // namespace orby
