@@ -7,7 +7,7 @@
 
 namespace orby {
 
-// Runs the act and gives whether it came to its end; a RuntimeError on the way is the whole of the answer.
+// Runs the act. Returns false if it ended in a RuntimeError, which is dropped.
 template <class Act>
 bool Succeeds(const Act& act) {
   try {

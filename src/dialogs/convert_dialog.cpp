@@ -28,7 +28,7 @@ void ConvertDialog::OnOpen() {
   Option1.SetMemberEnabled(static_cast<std::size_t>(English), other == English);
   Option1.SetMemberEnabled(static_cast<std::size_t>(Metric), other == Metric);
   SetArrayIndex(program_, Option1, other);
-  // What a conversion does.
+  // A conversion always loads the result.
   SetArrayIndex(program_, Option2, LoadConvertedProject);
 }
 

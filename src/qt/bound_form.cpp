@@ -229,8 +229,8 @@ void BoundForm::Act(const std::function<void()>& act) {
 }
 
 void BoundForm::ActLater(std::function<void()> act) {
-  // A second press that waits behind the one that closes the form has nothing to act on, and one that waits behind the
-  // opening of a dialog came too late: a tick or a mark that it has left goes.
+  // A press that was waiting when an earlier one closed the form has nothing to act on. A press that was waiting when a
+  // dialog opened is dropped, and its tick or mark is undone.
   const auto actIfOpen = [this, act = std::move(act)] {
     if (!tied_) return;
     if (!IsBlocked(root_)) return Act(act);

@@ -11,8 +11,8 @@ namespace orby {
 using ErrorHandler = std::function<void(const RuntimeError& error)>;
 void SetErrorHandler(ErrorHandler handler);
 
-// Runs what an event asks for. The toolkit must not see an exception, so every event goes through here. Gives whether
-// the act came to its end.
+// Runs what an event asks for. The toolkit must not see an exception, so every event goes through here. Returns
+// true if the act completed.
 bool RunGuarded(const std::function<void()>& act);
 
 }  // namespace orby

@@ -118,8 +118,8 @@ void ShowSeries(QCustomPlot& plot, const ChartSeries& series) {
                                           : QCPScatterStyle::ssNone);
 }
 
-// A little air around the points. A curve of one point or one height keeps the width of the range that the axis had,
-// and one without points all of it, so that is not left to the curve before.
+// Leaves a little air around the points. Starts from a fixed range, so that a curve of one point, of one height or of
+// none keeps nothing of the curve before.
 void ShowWhole(QCustomPlot& plot) {
   constexpr double Air = 1.08;
   for (QCPAxis* axis : {plot.xAxis, plot.yAxis}) axis->setRange(0, 2);

@@ -21,8 +21,8 @@ void SetBuiltInValues(Program& program) {
   SetBuiltInCatalogs(program.catalogs);
 }
 
-// What the last run left; nothing when there is none. A file of any other version, older or newer, is replaced with all
-// that the user chose.
+// What the last run left; nothing when there is none. A file of any other version, older or newer, is replaced, and the
+// user's choices in it are lost.
 std::optional<IniText> StoredConfiguration(Program& program) {
   FileSystem& files = program.platform.files;
   if (!files.Finds(program.IniFilePath, true)) return std::nullopt;
