@@ -142,6 +142,20 @@ TEST(Printing, KeepsHeadingsThatFollowEachOtherWithTheLineUnderThem) {
   EXPECT_THAT(PrintSheets(desk.program, LinesNumbered(TextLines - 4) + headings), SizeIs(1));
 }
 
+TEST(Printing, StartsANewSheetForHeadingsThatJustFillOneWithTheLineUnderThem) {
+  Desk desk;
+  std::string headings;
+  for (std::size_t i = 1; i < TextLines; ++i) headings += "[Panel]\r\n";
+
+  const auto filled = PrintSheets(desk.program, "line 1\r\n" + headings + "CMRR\r\n");
+  ASSERT_THAT(filled, SizeIs(2));
+  EXPECT_THAT(TextOn(filled[0]), ElementsAre("line 1"));
+  EXPECT_EQ(TextOn(filled[1]).back(), "CMRR");
+
+  const auto overfilled = PrintSheets(desk.program, "line 1\r\n" + headings + "[Panel]\r\nCMRR\r\n");
+  EXPECT_EQ(TextOn(overfilled[0]).at(1), "[Panel]") << "no sheet holds them all";
+}
+
 TEST(Printing, FillsItsSheetsAlsoWithHeadingsAlone) {
   Desk desk;
   std::string text;
