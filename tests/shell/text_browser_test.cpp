@@ -312,6 +312,18 @@ TEST_F(ABrowser, ShowsALongFilePieceByPieceAndHowFarItIs) {
   EXPECT_EQ(browser.RichTextBox1.Bytes(), bytes);
 }
 
+TEST_F(ABrowser, ShowsThatNothingOfTheNextFileIsThereYet) {
+  Open();
+  ClickFile("panel3.ORB");
+  Wait();
+  ASSERT_EQ(browser.prgLoading.Value(), 100);
+
+  ClickFile("panel4.orb");
+
+  EXPECT_TRUE(browser.prgLoading.Visible());
+  EXPECT_EQ(browser.prgLoading.Value(), 0);
+}
+
 TEST_F(ABrowser, LeavesAFileForAnother) {
   platform.files.files["/home/user/Documents/long.orb"] = std::string(TextBrowser::PieceBytes * 3, 'x');
   Open();

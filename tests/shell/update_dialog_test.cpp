@@ -521,6 +521,28 @@ TEST_F(AnUpdateDialog, StillStartsTheFileAfterAnotherLookAtTheSameVersion) {
   EXPECT_THAT(platform.documents.opened, ElementsAre(CopyOfNewSetup));
 }
 
+TEST_F(AnUpdateDialog, NeverStartsAFileThatWasExchangedBeforeAnotherLookAtTheSameVersion) {
+  DownloadNewVersion(NewVersion, SumOfSetup);
+  platform.downloads.sums[NewSetup] = OtherSum;
+  platform.boxes.answers = {box_result::No};
+  Check(NewVersion);
+
+  dialog.cmdInstall.Press();
+
+  EXPECT_THAT(platform.documents.opened, IsEmpty());
+}
+
+TEST_F(AnUpdateDialog, DoesNotCheckAnotherVersionAgainstTheSumOfTheLastDownload) {
+  DownloadNewVersion(NewVersion, SumOfSetup);
+  platform.files.files[DownloadsFolder + "ORBY1.0.02.exe"] = "another setup";
+  platform.boxes.answers = {box_result::No};
+  Check("1.0.02\r\n");
+
+  dialog.cmdInstall.Press();
+
+  EXPECT_THAT(platform.documents.opened, ElementsAre(DownloadsFolder + "ORBY1.0.02.exe"));
+}
+
 // ---- a check that failed -------------------------------------------------------------------------------------------
 
 struct AFailedCheck : AnUpdateDialog {
@@ -575,6 +597,16 @@ TEST_F(AFailedCheck, IsMadeGoodByTheNextAnswer) {
   EXPECT_TRUE(dialog.cmdInstall.Enabled());
   dialog.cmdInstall.Press();
   EXPECT_THAT(platform.documents.opened, ElementsAre(CopyOfNewSetup));
+}
+
+TEST_F(AFailedCheck, IsForgottenByTheDownloadThatFollowsTheNextAnswer) {
+  Check("<html>");
+  platform.boxes.answers = {box_result::Yes};
+  Check(NewVersionWithSum);
+
+  Bring("setup", SumOfSetup);
+
+  EXPECT_TRUE(dialog.cmdInstall.Enabled());
 }
 
 TEST_F(AnUpdateDialog, TellsTheHistoryOfASecondFieldThatIsNoSum) {

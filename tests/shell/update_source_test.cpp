@@ -32,6 +32,20 @@ TEST(VersionFile, TellsTheSumOfTheSetupFileInItsSecondField) {
   EXPECT_EQ(SumIn("1.0.01\r\n" + SumOfSetup + "\r\n"), SumOfSetup);
 }
 
+TEST(VersionFile, TellsASumOfAnyHexadecimalDigitsInAnyCase) {
+  const std::string digits = "0123456789abcdef0123456789ABCDEF0123456789abcdef0123456789ABCDEF";
+
+  EXPECT_EQ(SumIn("1.0.01," + digits), digits);
+  for (const char neighbour : {'/', ':', '@', 'G', '`', 'g'}) {
+    EXPECT_EQ(SumIn("1.0.01," + digits.substr(1) + neighbour), "") << neighbour;
+  }
+}
+
+TEST(VersionFile, TellsAVersionOfLettersDigitsAndFourSigns) {
+  EXPECT_EQ(VersionIn("09.azAZ-rc_1+2"), "09.azAZ-rc_1+2");
+  for (const char* bytes : {"1/", "1:", "1@", "1[", "1`", "1{"}) EXPECT_EQ(VersionIn(bytes), "nothing") << bytes;
+}
+
 TEST(VersionFile, MayLackTheSum) {
   EXPECT_EQ(SumIn("1.0.01\r\n"), "");
   EXPECT_EQ(SumIn("1.0.01,\r\n"), "");
