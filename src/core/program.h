@@ -83,7 +83,8 @@ struct ShownResults {
 struct FileOnDisk {
   std::string Path;  // empty: none
   std::string Bytes;
-  bool IsSpoilt = false;  // a failed save has left something else there, and could not put the bytes back
+  bool IsSpoilt = false;      // a failed save has left something else there, and could not put the bytes back
+  std::string SpoiltBytes{};  // what it has left there, as far as that could be read
 };
 
 struct Program {

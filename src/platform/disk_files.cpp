@@ -165,11 +165,20 @@ void DiskFiles::RenameFile(const std::string& path, const std::string& newPath) 
 
 void DiskFiles::ReplaceFile(const std::string& path, std::string_view bytes) { ReplaceFileOnDisk(path, bytes); }
 
+void DiskFiles::MakeFileLike(const std::string& path, const std::string& model) { MakeFileOnDiskLike(path, model); }
+
+std::string DiskFiles::BehindLinks(const std::string& path) { return PathBehindLinks(path); }
+
 void DiskFiles::MakeFolder(const std::string& path) {
   CheckName(path);
   std::error_code problem;
   std::filesystem::create_directories(path, problem);
   if (problem) throw FileError(problem.value(), path);
+}
+
+void DiskFiles::MakePrivateFolder(const std::string& path) {
+  MakeFolder(std::filesystem::path(WithoutSeparator(path)).parent_path().string());
+  if (mkdir(path.c_str(), S_IRWXU) != 0 && errno != EEXIST) throw FileError(errno, WithSeparator(path));
 }
 
 bool DiskFiles::CanWriteTo(const std::string& folder) { return access(folder.c_str(), W_OK | X_OK) == 0; }

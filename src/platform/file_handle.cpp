@@ -1,5 +1,6 @@
 #include "platform/file_handle.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -29,11 +30,23 @@ void FileHandle::Write(std::string_view bytes) {
 }
 
 void FileHandle::Flush() {
-  if (fsync(file_) != 0) throw FileError(errno, path_);
+  while (fsync(file_) != 0) {
+    // Some disks of a network know no such call.
+    if (errno == EINVAL || errno == ENOTSUP) return;
+    if (errno != EINTR) throw FileError(errno, path_);
+  }
 }
 
 void FileHandle::Close() {
   if (close(std::exchange(file_, -1)) != 0) throw FileError(errno, path_);
+}
+
+void FlushFolder(const std::string& path) {
+  const std::string folder = path.substr(0, path.rfind('/') + 1);
+  const int handle = open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (handle < 0) return;
+  fsync(handle);
+  close(handle);
 }
 
 }  // namespace orby

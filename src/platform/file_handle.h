@@ -27,4 +27,7 @@ class FileHandle {
   std::string path_;
 };
 
+// Puts the name of the file on the disk, which is an entry of its folder. A folder that may not be read is left alone.
+void FlushFolder(const std::string& path);
+
 }  // namespace orby

@@ -53,10 +53,9 @@ class FileSystem {
   virtual std::optional<Moment> WrittenAt(const std::string& path) = 0;
   // Opens the file for writing; an existing one is emptied at once.
   virtual std::unique_ptr<OutputFile> CreateFile(const std::string& path) = 0;
-  // Opens the file to be written over with so many bytes: an existing one keeps its old bytes until new ones take their
-  // places, its mode and the links that lead to it. A disk that is known to lack the room is error 61, nothing being
-  // touched. Close cuts the file to what was written and returns once the bytes, and the name of a new file, are safe
-  // from a power cut.
+  // Opens the file to be overwritten with `length` bytes. Old bytes, mode and links stay until they are written over. A
+  // disk that is known to lack the room is error 61, and nothing is touched. Close cuts the file to what was written.
+  // It returns once the bytes, and the name of a new file, are safe from a power cut.
   virtual std::unique_ptr<OutputFile> OpenInPlace(const std::string& path, std::uint64_t length) = 0;
   virtual void RemoveFile(const std::string& path) = 0;
   // Takes the place of a file that has the new name, in one step; one that may not be written stays and is error 70.
@@ -65,8 +64,14 @@ class FileSystem {
   // new ones are on the disk once this returns. A symbolic link stays and the file that it leads to is replaced; a file
   // keeps its permissions. After an error the file is as it was and nothing is left beside it.
   virtual void ReplaceFile(const std::string& path, std::string_view bytes) = 0;
+  // Makes an empty file with the owner and the permissions of another one. The path must be free.
+  virtual void MakeFileLike(const std::string& path, const std::string& model) = 0;
+  // The path that a chain of symbolic links leads to, be there a file or not; the path itself if it is no link.
+  virtual std::string BehindLinks(const std::string& path) = 0;
   // Makes the folder and those above it; one that is there already is no error.
   virtual void MakeFolder(const std::string& path) = 0;
+  // The same, but a folder that is made is open to its user alone. One that is there already stays as it is.
+  virtual void MakePrivateFolder(const std::string& path) = 0;
   // Whether files can be made in the folder.
   virtual bool CanWriteTo(const std::string& folder) = 0;
   // The full paths of the files in the folder, not of the folders in it, sorted; empty when it cannot be read.

@@ -48,7 +48,7 @@ class InPlaceFile : public OutputFile {
       file_.Flush();
     }
     file_.Close();
-    if (isNew_) FlushFolder();
+    if (isNew_) FlushFolder(OwnPath());
   }
 
  private:
@@ -61,25 +61,23 @@ class InPlaceFile : public OutputFile {
     if (length <= held) return;
     rlimit limit{};
     if (getrlimit(RLIMIT_FSIZE, &limit) == 0 && length > limit.rlim_cur) throw FileError(EFBIG, path_);
-    if (fallocate(file_.Number(), FALLOC_FL_KEEP_SIZE, 0, static_cast<off_t>(length)) == 0) return;
-    if (!CannotReserve(errno)) throw FileError(errno, path_);
+    while (fallocate(file_.Number(), FALLOC_FL_KEEP_SIZE, 0, static_cast<off_t>(length)) != 0) {
+      if (CannotReserve(errno)) return FindRoom(length - held);
+      if (errno != EINTR) throw FileError(errno, path_);
+    }
+  }
+
+  // Asks a disk that reserves nothing. One that does not know either has the room, as far as can be told.
+  void FindRoom(std::uint64_t bytes) const {
     struct statvfs disk {};
     if (fstatvfs(file_.Number(), &disk) != 0 || disk.f_blocks == 0) return;
-    if (static_cast<std::uint64_t>(disk.f_bavail) * disk.f_frsize < length - held) throw FileError(ENOSPC, path_);
+    if (static_cast<std::uint64_t>(disk.f_bavail) * disk.f_frsize < bytes) throw FileError(ENOSPC, path_);
   }
 
   // The path behind all links; empty when the file has gone.
   std::filesystem::path OwnPath() const {
     std::error_code problem;
     return std::filesystem::canonical(path_, problem);
-  }
-
-  // The name of a new file is as lasting as the folder's own entry. A folder that may not be read cannot be flushed.
-  void FlushFolder() const {
-    const int handle = open(OwnPath().parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0) return;
-    fsync(handle);
-    close(handle);
   }
 
   std::string path_;

@@ -20,25 +20,26 @@ constexpr mode_t OwnerOnly = S_IRUSR | S_IWUSR;
 constexpr mode_t AsTheUserGives = OwnerOnly | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;  // less what the mask takes
 constexpr mode_t Permissions = 07777;
 
-// The path that a chain of symbolic links leads to, be there a file or not.
-std::string BehindLinks(const std::string& path) {
-  constexpr int MostLinks = 40;
-  std::filesystem::path target = path;
-  for (int links = 0; links <= MostLinks; ++links) {
-    std::error_code isNoLink;
-    const auto next = std::filesystem::read_symlink(target, isNoLink);
-    if (isNoLink) return target.string();
-    target = target.parent_path() / next;
-  }
-  throw FileError(ELOOP, path);
-}
-
 // What is known of the file; nothing when there is none.
 std::optional<struct stat> FactsOf(const std::string& path) {
   struct stat facts {};
   if (stat(path.c_str(), &facts) == 0) return facts;
   if (errno == ENOENT) return std::nullopt;
   throw FileError(errno, path);
+}
+
+// Gives the file the owner and the permissions of the other one.
+//
+// Only the administrator may give a file to another owner; everybody else owns what he replaces, or may only write to
+// it and owns it from here on. Where the file cannot have the other's group either, the members of its own group may do
+// what everybody may.
+void GiveTo(const FileHandle& file, const struct stat& other, const std::string& path) {
+  mode_t mode = other.st_mode & Permissions;
+  if (fchown(file.Number(), other.st_uid, other.st_gid) != 0 &&
+      fchown(file.Number(), static_cast<uid_t>(-1), other.st_gid) != 0) {
+    mode = (mode & ~static_cast<mode_t>(S_IRWXG)) | ((mode & S_IRWXO) << 3U);
+  }
+  if (fchmod(file.Number(), mode) != 0) throw FileError(errno, path);
 }
 
 // A file that takes the place of another one once it is whole, and is gone when that does not come about.
@@ -51,13 +52,14 @@ class Replacement {
       const int file = open(beside_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
       if (file >= 0 || errno != EEXIST) file_.emplace(file, path_);
     }
-    if (replaced) TakeOver(*replaced);
   }
   ~Replacement() {
     if (file_) unlink(beside_.c_str());
   }
   Replacement(const Replacement&) = delete;
   Replacement& operator=(const Replacement&) = delete;
+
+  void TakeOver(const struct stat& replaced) { GiveTo(*file_, replaced, path_); }
 
   void Fill(std::string_view bytes) {
     file_->Write(bytes);
@@ -68,24 +70,11 @@ class Replacement {
   void TakeItsPlace() {
     if (std::rename(beside_.c_str(), path_.c_str()) != 0) throw FileError(errno, path_);
     file_.reset();
-    // The new name is as lasting as the folder's own entry. A folder that may not be read cannot be flushed.
-    const std::string folder = FolderPart().empty() ? "." : FolderPart();
-    const int handle = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0) return;
-    fsync(handle);
-    close(handle);
+    FlushFolder(beside_);
   }
 
  private:
   std::string FolderPart() const { return path_.substr(0, path_.rfind('/') + 1); }
-
-  // Only the administrator may give a file to another owner; everybody else owns what he replaces, or may only write
-  // to it and owns it from here on.
-  void TakeOver(const struct stat& replaced) {
-    static_cast<void>(fchown(file_->Number(), replaced.st_uid, replaced.st_gid) == 0 ||
-                      fchown(file_->Number(), static_cast<uid_t>(-1), replaced.st_gid) == 0);
-    if (fchmod(file_->Number(), replaced.st_mode & Permissions) != 0) throw FileError(errno, path_);
-  }
 
   std::string path_;
   std::string beside_;
@@ -93,6 +82,33 @@ class Replacement {
 };
 
 }  // namespace
+
+std::string PathBehindLinks(const std::string& path) {
+  constexpr int MostLinks = 40;
+  std::filesystem::path target = path;
+  for (int links = 0; links <= MostLinks; ++links) {
+    std::error_code isNoLink;
+    const auto next = std::filesystem::read_symlink(target, isNoLink);
+    if (isNoLink) return target.string();
+    target = target.parent_path() / next;
+  }
+  throw FileError(ELOOP, path);
+}
+
+void MakeFileOnDiskLike(const std::string& path, const std::string& model) {
+  CheckName(path);
+  const auto facts = FactsOf(model);
+  if (!facts) throw FileError(ENOENT, model);
+  FileHandle file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, OwnerOnly), path);
+  try {
+    GiveTo(file, *facts, path);
+    file.Close();
+  } catch (const RuntimeError&) {
+    unlink(path.c_str());
+    throw;
+  }
+  FlushFolder(path);
+}
 
 void ReplaceFileOnDisk(const std::string& path, std::string_view bytes) {
   CheckName(path);
@@ -105,7 +121,8 @@ void ReplaceFileOnDisk(const std::string& path, std::string_view bytes) {
     file.Write(bytes);
     return file.Close();
   }
-  Replacement replacement(BehindLinks(path), replaced);
+  Replacement replacement(PathBehindLinks(path), replaced);
+  if (replaced) replacement.TakeOver(*replaced);
   replacement.Fill(bytes);
   replacement.TakeItsPlace();
 }

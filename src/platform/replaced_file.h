@@ -6,6 +6,12 @@
 
 namespace orby {
 
+// The path that a chain of symbolic links leads to; see FileSystem::BehindLinks.
+std::string PathBehindLinks(const std::string& path);
+
+// Makes an empty file like another one; see FileSystem::MakeFileLike.
+void MakeFileOnDiskLike(const std::string& path, const std::string& model);
+
 // Gives the file of this path these bytes; see FileSystem::ReplaceFile.
 void ReplaceFileOnDisk(const std::string& path, std::string_view bytes);
 

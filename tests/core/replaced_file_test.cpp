@@ -8,6 +8,8 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <deque>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -25,10 +27,38 @@ std::vector<std::string>& Flushed() {
   return names;
 }
 
+// Errors that the next calls of each routine report instead of doing their work; 0 does it.
+struct {
+  std::deque<int> ofFlush;
+  std::deque<int> ofReserve;
+  std::deque<int> ofOwner;
+  std::deque<int> ofMode;
+} Errors;
+
+bool Fails(std::deque<int>& errors) {
+  if (errors.empty()) return false;
+  errno = errors.front();
+  errors.pop_front();
+  return errno != 0;
+}
+
 }  // namespace
 
-// Stands before the system's own.
+// These stand before the system's own.
+extern "C" int fallocate(int file, int mode, off_t offset, off_t length) {
+  return Fails(Errors.ofReserve) ? -1 : static_cast<int>(syscall(SYS_fallocate, file, mode, offset, length));
+}
+
+extern "C" int fchown(int file, uid_t owner, gid_t group) {
+  return Fails(Errors.ofOwner) ? -1 : static_cast<int>(syscall(SYS_fchown, file, owner, group));
+}
+
+extern "C" int fchmod(int file, mode_t mode) {
+  return Fails(Errors.ofMode) ? -1 : static_cast<int>(syscall(SYS_fchmod, file, mode));
+}
+
 extern "C" int fsync(int file) {
+  if (Fails(Errors.ofFlush)) return -1;
   const std::string number = "/proc/self/fd/" + std::to_string(file);
   Flushed().push_back(std::filesystem::read_symlink(number).filename().string());
   return static_cast<int>(syscall(SYS_fsync, file));
@@ -41,6 +71,8 @@ using testing::ElementsAre;
 using testing::StartsWith;
 
 struct ReplacedFile : testing::Test {
+  ~ReplacedFile() override { Errors = {}; }
+
   int ErrorOfReplacing(const std::string& path, std::string_view bytes = "new") {
     return ErrorNumberOf([&] { files.ReplaceFile(path, bytes); });
   }
@@ -197,6 +229,69 @@ TEST_F(ReplacedFile, LeavesAForeignFileThatHasTheNameOfItsOwnHelper) {
 
   EXPECT_EQ(folder.Read(foreign), "foreign");
   EXPECT_EQ(folder.Read("ORBY.INI"), "new");
+}
+
+TEST_F(ReplacedFile, LeavesNothingBesideItWhenItsPermissionsAreRefused) {
+  folder.Store("ORBY.INI", "old");
+  Errors.ofMode = {EPERM};
+
+  EXPECT_EQ(ErrorOfReplacing(folder.At("ORBY.INI")), 70);
+
+  EXPECT_EQ(folder.Read("ORBY.INI"), "old");
+  EXPECT_THAT(folder.Names(), ElementsAre("ORBY.INI"));
+}
+
+TEST_F(ReplacedFile, GivesAnotherGroupNoMoreThanEverybodyMayDo) {
+  folder.Store("ORBY.INI", "old");
+  chmod(folder.At("ORBY.INI").c_str(), 0664);
+  Errors.ofOwner = {EPERM, EPERM};
+
+  files.ReplaceFile(folder.At("ORBY.INI"), "new");
+
+  EXPECT_EQ(ModeOf("ORBY.INI"), 0644U);
+}
+
+TEST_F(ReplacedFile, OfAnotherOwnerAndTheSameGroupKeepsThePermissionsOfTheGroup) {
+  folder.Store("ORBY.INI", "old");
+  chmod(folder.At("ORBY.INI").c_str(), 0660);
+  Errors.ofOwner = {EPERM};
+
+  files.ReplaceFile(folder.At("ORBY.INI"), "new");
+
+  EXPECT_EQ(ModeOf("ORBY.INI"), 0660U);
+}
+
+TEST_F(ReplacedFile, IsFlushedAgainAfterASignal) {
+  Errors.ofFlush = {EINTR, EINTR};
+
+  EXPECT_EQ(ErrorOfReplacing(folder.At("ORBY.INI")), 0);
+
+  EXPECT_EQ(folder.Read("ORBY.INI"), "new");
+}
+
+TEST_F(ReplacedFile, MayLieOnADiskThatCannotBeFlushed) {
+  for (const int systemError : {EINVAL, ENOTSUP}) {
+    Errors.ofFlush = {systemError};
+
+    EXPECT_EQ(ErrorOfReplacing(folder.At("ORBY.INI")), 0);
+  }
+}
+
+TEST_F(ReplacedFile, IsNotReplacedWhenItsBytesDoNotReachTheDisk) {
+  folder.Store("ORBY.INI", "old");
+  Errors.ofFlush = {EIO};
+
+  EXPECT_EQ(ErrorOfReplacing(folder.At("ORBY.INI")), 75);
+
+  EXPECT_EQ(folder.Read("ORBY.INI"), "old");
+}
+
+TEST_F(ReplacedFile, IsReservedAgainAfterASignal) {
+  Errors.ofReserve = {EINTR};
+
+  const int error = ErrorNumberOf([&] { files.OpenInPlace(folder.At("panel.ORB"), 100)->Close(); });
+
+  EXPECT_EQ(error, 0);
 }
 
 TEST_F(ReplacedFile, IsWrittenStraightWhenItIsAPipe) {

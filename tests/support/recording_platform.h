@@ -155,9 +155,23 @@ class MemoryFiles : public FileSystem {
     }
   }
 
+  void MakeFileLike(const std::string& path, const std::string& model) override {
+    Meet(Step::Create);
+    files[path].clear();
+    likeOthers[path] = model;
+  }
+  std::string BehindLinks(const std::string& path) override {
+    const auto link = links.find(path);
+    return link == links.end() ? path : link->second;
+  }
+
   void MakeFolder(const std::string& path) override {
     Meet(Step::MakeFolder);
     folders.emplace(WithoutSeparator(path));
+  }
+  void MakePrivateFolder(const std::string& path) override {
+    MakeFolder(path);
+    privateFolders.emplace(WithoutSeparator(path));
   }
 
   bool CanWriteTo(const std::string& folder) override { return !readOnly.contains(WithoutSeparator(folder)); }
@@ -202,7 +216,10 @@ class MemoryFiles : public FileSystem {
   std::map<std::string, Moment> times;        // when they were written last
   std::set<std::string, std::less<>> folders{"/tmp", "/program"};
   std::set<std::string, std::less<>> readOnly;  // folders
-  std::set<std::string> marked;                 // files in use by a program
+  std::set<std::string, std::less<>> privateFolders;
+  std::map<std::string, std::string> links;       // where they lead to; only BehindLinks looks at them
+  std::map<std::string, std::string> likeOthers;  // files that were made like another one
+  std::set<std::string> marked;                   // files in use by a program
   std::vector<std::string> drives{"/"};
   std::string workingFolder = "/work";
   std::vector<std::string> created;
