@@ -203,9 +203,17 @@ std::optional<std::string> Keep(Program& program, const std::string& project, st
 
   Backup entry;
   entry.Time = program.platform.clock.Now();
-  entry.Number = entries.empty() ? 1 : entries.front().Number + 1;
-  entry.Path = folder + StampText({entry.Time, entry.Number}) + " " + FileNameOf(project) + std::string(ending);
-  Succeeds([&] { files.MakeFolder(folder); });
+  entry.Number = entries.empty() ? 0 : entries.front().Number;
+  const auto isTaken = [&](const std::string& path) {
+    bool isFound = false;
+    return Succeeds([&] { isFound = files.Finds(path, true); }) && isFound;
+  };
+  // Another program may have written its entry since the folder was listed.
+  do {
+    ++entry.Number;
+    entry.Path = folder + StampText({entry.Time, entry.Number}) + " " + FileNameOf(project) + std::string(ending);
+  } while (isTaken(entry.Path) || isTaken(AboutPath(program, entry)));
+  MakeBackupFolder(program);
   if (!TryWriteWhole(files, entry.Path, bytes)) return std::nullopt;
   TryWriteWhole(files, AboutPath(program, entry), AboutText(project, reason));
   RemoveOldest(program, entries, own, bytes.size());
@@ -221,13 +229,20 @@ std::string BackupFolder(const Program& program) {
   return data.empty() ? data : WithSeparator(data).append(FolderName) + FolderSeparator;
 }
 
+void MakeBackupFolder(Program& program) {
+  Succeeds([&] { program.platform.files.MakePrivateFolder(BackupFolder(program)); });
+}
+
 std::optional<std::string> KeepBackup(Program& program, const std::string& project, std::string_view bytes,
                                       BackupReason reason) {
   return Keep(program, project, bytes, reason, {});
 }
 
 std::optional<std::string> KeepDropped(Program& program, const UnsavedProject& project, BackupReason reason) {
-  return Keep(program, project.CurrentFile, RecoveryBytes(project), reason, RecoveryEnding);
+  const std::string& file = project.CurrentFile;
+  const bool hasName = !file.empty() && !SameWithoutCase(file, UntitledName);
+  const std::string path = hasName ? program.platform.files.AbsolutePath(file) : file;
+  return Keep(program, path, RecoveryBytes(project), reason, RecoveryEnding);
 }
 
 std::optional<std::string> KeepDamaged(Program& program, std::string_view bytes) {

@@ -6,7 +6,7 @@
 // the bytes are those of a recovery file. "2031-03-09 14.05.07 00012.about" beside it tells the project's path and why
 // it was kept. The store keeps the newest 20 entries of one project, 500 altogether, and 50 MB; the oldest go first.
 //
-// Nothing here throws for what the disk does. Other files in the folder are left alone.
+// No routine here throws for an error of the disk. Other files in the folder are left alone.
 #pragma once
 
 #include <cstddef>
@@ -31,6 +31,9 @@ inline constexpr std::size_t LargestBackup = std::size_t{10} * 1024 * 1024;
 
 // The folder of the store, with a trailing separator; empty when the program has no data folder.
 std::string BackupFolder(const Program& program);
+
+// Makes the folder of the store, open to its user alone. One that is there already stays as it is.
+void MakeBackupFolder(Program& program);
 
 // Keeps the bytes of a project file that is about to be overwritten or given up. Returns the path of the kept file, or
 // nothing when none could be kept: there is no program data folder, the bytes are more than LargestBackup, or the disk

@@ -9,6 +9,19 @@
 
 namespace orby {
 
+namespace {
+
+// True if the path holds these bytes, or nothing that can be read.
+bool HoldsNothingBut(FileSystem& files, const std::string& path, std::string_view bytes) {
+  std::string present;
+  std::uint64_t length = 0;
+  if (!Succeeds([&] { length = files.FileLength(path); })) return true;
+  if (length != bytes.size()) return false;
+  return !Succeeds([&] { present = files.ReadFile(path); }) || present == bytes;
+}
+
+}  // namespace
+
 OverwrittenFile::OverwrittenFile(Program& program, std::string path) : program_(program), path_(std::move(path)) {
   Look();
 }
@@ -16,13 +29,23 @@ OverwrittenFile::OverwrittenFile(Program& program, std::string path) : program_(
 void OverwrittenFile::Look() {
   FileSystem& files = program_.platform.files;
   const FileOnDisk& last = program_.LastFile;
-  // What a failed save has left there is worth nothing.
   if (last.IsSpoilt && last.Path == path_) {
-    holds_ = Holds::Known;
-    old_ = last.Bytes;
+    isSpoilt_ = HoldsNothingBut(files, path_, last.SpoiltBytes);
+    if (isSpoilt_) {
+      // What a failed save has left there is worth nothing.
+      holds_ = Holds::Known;
+      old_ = last.Bytes;
+      return;
+    }
+    lost_ = last.Bytes;
+  }
+  try {
+    length_ = files.FileLength(path_);
+  } catch (const RuntimeError& error) {
+    const bool isMissing = error.number() == error_number::FileNotFound || error.number() == error_number::PathNotFound;
+    holds_ = isMissing ? Holds::Nothing : Holds::Unreadable;
     return;
   }
-  if (!Succeeds([&] { length_ = files.FileLength(path_); })) return;
   holds_ = Holds::TooMuch;
   if (length_ > LargestBackup) return;
   // A pipe has no length and is not to be waited for.
@@ -43,35 +66,49 @@ void OverwrittenFile::Overwrite(std::string_view bytes, std::vector<std::string>
     TellFailed(remarks);
     throw;
   }
-  program_.LastFile = {path_, std::string(bytes), false};
+  program_.LastFile = {path_, std::string(bytes)};
   TellKept(remarks);
 }
 
 void OverwrittenFile::Keep(std::string_view bytes) {
+  if (lost_ != bytes) KeepCopy(lost_, BackupReason::Overwritten);
   switch (holds_) {
     case Holds::Nothing: return;
     case Holds::Unreadable: lacksBackup_ = true; return;
     case Holds::TooMuch:
-      if (!Succeeds([this] { MoveBeside(); })) Hold();
+      CheckThatItMayBeWritten();
+      if (!Succeeds([this] { MoveBeside(); }) && beside_.empty()) Hold();
       return;
     case Holds::Known: break;
   }
   isChanged_ = isChanged_ && old_ != bytes;
-  if (old_.empty() || old_ == bytes) return;
-  backup_ = KeepBackup(program_, program_.platform.files.AbsolutePath(path_), old_,
-                       isChanged_ ? BackupReason::ChangedOnDisk : BackupReason::Overwritten);
-  lacksBackup_ = !backup_;
+  if (old_ != bytes) backup_ = KeepCopy(old_, isChanged_ ? BackupReason::ChangedOnDisk : BackupReason::Overwritten);
 }
+
+// Returns where the bytes are kept; nothing if there are none, or if they could not be kept.
+std::optional<std::string> OverwrittenFile::KeepCopy(const std::string& bytes, BackupReason reason) {
+  if (bytes.empty()) return std::nullopt;
+  const auto kept = KeepBackup(program_, program_.platform.files.AbsolutePath(path_), bytes, reason);
+  lacksBackup_ = lacksBackup_ || !kept;
+  return kept;
+}
+
+// The folder may allow the file to be renamed although the file itself is read-only.
+void OverwrittenFile::CheckThatItMayBeWritten() { program_.platform.files.OpenInPlace(path_, 0); }
 
 void OverwrittenFile::MoveBeside() {
   constexpr int MostNames = 99;
   FileSystem& files = program_.platform.files;
+  const std::string target = files.BehindLinks(path_);
   for (int number = 1; number <= MostNames; ++number) {
-    const std::string name = path_ + ".old" + (number == 1 ? std::string() : NumberText(number));
+    const std::string name = target + ".old" + (number == 1 ? std::string() : NumberText(number));
     if (files.Finds(name, true)) continue;
-    files.RenameFile(path_, name);
+    files.RenameFile(target, name);
     beside_ = name;
-    return;
+    if (Succeeds([&] { files.MakeFileLike(target, name); })) return;
+    files.RenameFile(name, target);
+    beside_.clear();
+    break;
   }
   throw RuntimeError(error_number::PathFileAccess);
 }
@@ -95,27 +132,30 @@ void OverwrittenFile::Write(std::string_view bytes) {
 void OverwrittenFile::PutBack() {
   FileSystem& files = program_.platform.files;
   if (!beside_.empty()) {
-    isAsBefore_ = Succeeds([this, &files] { files.RenameFile(beside_, path_); });
+    isAsBefore_ = Succeeds([this, &files] { files.RenameFile(beside_, files.BehindLinks(path_)); });
   } else if (!isTouched_) {
-    isAsBefore_ = !program_.LastFile.IsSpoilt || program_.LastFile.Path != path_;
+    isAsBefore_ = !isSpoilt_;
   } else if (holds_ == Holds::Nothing) {
-    isAsBefore_ = Succeeds([this, &files] { files.RemoveFile(path_); });
+    isAsBefore_ = Succeeds([this, &files] { files.RemoveFile(files.BehindLinks(path_)); });
   } else {
     isAsBefore_ = holds_ == Holds::Known && Succeeds([this] { Write(old_); });
   }
   if (holds_ != Holds::Known) return;
   // Until they are on the disk again, the old bytes are those of the file.
-  if (!isAsBefore_) program_.LastFile = {path_, old_, true};
+  if (!isAsBefore_) {
+    program_.LastFile = {path_, old_, true};
+    Succeeds([&] { program_.LastFile.SpoiltBytes = files.ReadFile(path_); });
+  }
   if (isAsBefore_ && program_.LastFile.Path == path_) program_.LastFile.IsSpoilt = false;
 }
 
 void OverwrittenFile::TellKept(std::vector<std::string>& remarks) {
   if (!beside_.empty()) {
-    remarks.push_back("The file that " + path_ + " was before is too long for Backups. It is kept as " + beside_ + ".");
+    remarks.push_back("The old contents of " + path_ + " are too long for Backups. The old file is kept as " + beside_ +
+                      ".");
   }
   if (lacksBackup_) {
-    const std::string text =
-        "No backup of what " + path_ + " held before could be kept in " + BackupFolder(program_) + ".";
+    const std::string text = "The old contents of " + path_ + " could not be kept in " + BackupFolder(program_) + ".";
     if (std::exchange(program_.ToldOfNoBackup, true)) {
       AddHistoryLine(program_, text);
     } else {
@@ -134,13 +174,15 @@ void OverwrittenFile::TellFailed(std::vector<std::string>& remarks) const {
   if (isAsBefore_) {
     if (backup_) remarks.push_back(path_ + " is as it was before. A copy of it is kept in " + *backup_ + ".");
   } else if (!beside_.empty()) {
-    remarks.push_back(path_ + " could not be saved. The file that it was before is kept as " + beside_ + ".");
+    remarks.push_back(path_ + " could not be saved. The old file is kept as " + beside_ + ".");
   } else if (backup_) {
     remarks.push_back(path_ + " may be damaged. What it held before is kept in " + *backup_ + ".");
   } else if (holds_ == Holds::Known && !old_.empty()) {
     remarks.push_back(path_ +
                       " may be damaged, and no backup of it could be kept. Save the project before you leave "
                       "the program.");
+  } else if (isTouched_) {
+    remarks.push_back(path_ + " may be damaged.");
   }
 }
 

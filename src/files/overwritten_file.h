@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/program.h"
+#include "files/backups.h"
 
 namespace orby {
 
@@ -21,18 +22,23 @@ class OverwrittenFile {
   // Throws the RuntimeError of the file, the old bytes being put back if they can be.
   void Overwrite(std::string_view bytes, std::vector<std::string>& remarks);
 
+  // Where Overwrite has kept the old bytes; nothing if it kept none.
+  const std::optional<std::string>& Backup() const { return backup_; }
+
  private:
   // What the path holds.
   enum class Holds {
     Nothing,     // no file is there
     Known,       // old_ has it
     Unreadable,  // a file that may not be read
-    TooMuch,     // more than a backup may have; length_ bytes
+    TooMuch,     // longer than LargestBackup; length_ bytes
   };
 
   void Look();
   bool MayKeep() const;
   void Keep(std::string_view bytes);
+  std::optional<std::string> KeepCopy(const std::string& bytes, BackupReason reason);
+  void CheckThatItMayBeWritten();
   void MoveBeside();
   void Hold();
   void Write(std::string_view bytes);
@@ -45,6 +51,8 @@ class OverwrittenFile {
   Holds holds_ = Holds::Nothing;
   std::string old_;
   std::uint64_t length_ = 0;
+  std::string lost_;                   // the old bytes of a failed save, where something else has come there since
+  bool isSpoilt_ = false;              // the file is as a failed save left it
   bool isChanged_ = false;             // by another program
   bool lacksBackup_ = false;           // one was needed and could not be had
   std::optional<std::string> backup_;  // where the old bytes are kept

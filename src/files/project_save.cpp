@@ -1,5 +1,8 @@
 #include "files/project_save.h"
 
+#include <algorithm>
+
+#include "base/number_text.h"
 #include "core/description.h"
 #include "core/messages.h"
 #include "files/overwritten_file.h"
@@ -17,17 +20,19 @@ std::string ListedNames(const std::vector<std::string_view>& names) {
     if (at > 0) text += ", ";
     text += names[at];
   }
-  if (names.size() > Listed) text += " and " + std::to_string(names.size() - Listed) + " more";
+  if (names.size() > Listed) text += " and " + NumberText(static_cast<double>(names.size() - Listed)) + " more";
   return text;
 }
 
-void AppendFieldsThatDiffer(const Program& program, const std::string& bytes, SaveRemarks& remarks) {
+void AppendFieldsThatDiffer(const Program& program, const std::string& bytes, const std::optional<std::string>& backup,
+                            SaveRemarks& remarks) {
   const std::vector<std::string_view> fields = FieldsThatReadDifferently(program, bytes);
   if (fields.empty()) return;
   remarks.push_back(
       program.CurrentFile +
       " is saved, but when it is opened these fields will not be what they are now: " + ListedNames(fields) +
-      ". Look for commas and quotation marks in the bolt descriptions, the title and the description.");
+      ". Look for commas and quotation marks in the bolt descriptions, the title and the description." +
+      (backup ? " What the file held before is kept in " + *backup + "." : std::string()));
 }
 
 }  // namespace
@@ -41,17 +46,17 @@ void FileSave(Program& program, bool& ok, SaveRemarks& remarks) {
   program.FileSaved = false;
   const std::string typed = program.ProjectDescription;
   const Integer lines = program.DescLines;
-  SaveDescription(program);
-  const std::string bytes = ProjectFileBytes(program);
-  OverwrittenFile file(program, program.CurrentFile);
   try {
+    SaveDescription(program);
+    const std::string bytes = ProjectFileBytes(program);
+    OverwrittenFile file(program, program.CurrentFile);
     file.Overwrite(bytes, remarks);
+    AppendFieldsThatDiffer(program, bytes, file.Backup(), remarks);
   } catch (const RuntimeError&) {
     program.ProjectDescription = typed;
     program.DescLines = lines;
     throw;
   }
-  AppendFieldsThatDiffer(program, bytes, remarks);
 
   program.FileSaved = true;
   ok = true;

@@ -202,7 +202,7 @@ void BackupsWindow::Delete() {
 void BackupsWindow::OpenFolder() {
   const std::string folder = BackupFolder(program_);
   if (folder.empty()) return;
-  Succeeds([&] { program_.platform.files.MakeFolder(folder); });
+  MakeBackupFolder(program_);
   if (program_.platform.documents.Open(std::string(WithoutSeparator(folder)))) return;
   ShowMessage(program_, "The folder could not be opened: " + folder, box_style::Exclamation);
 }

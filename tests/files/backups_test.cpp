@@ -19,6 +19,15 @@ const std::string DataFolder = "/home/user/Documents/Orby/";
 const std::string Store = DataFolder + "Backups/";
 const std::string OtherPath = "/designs/panel4.orb";
 
+// A folder that is listed as it was before another program wrote to it.
+struct StaleListing : MemoryFiles {
+  std::vector<std::string> FilesIn(const std::string& folder) override {
+    return isStale ? std::vector<std::string>() : MemoryFiles::FilesIn(folder);
+  }
+
+  bool isStale = false;
+};
+
 struct Backups : testing::Test {
   Backups() { program().folders.ProgramData = DataFolder; }
 
@@ -74,6 +83,30 @@ TEST_F(Backups, KeepTheirOrderWhenTheClockIsPutBack) {
   Keep("second");
 
   EXPECT_THAT(Kept(), ElementsAre("second", "first"));
+}
+
+TEST_F(Backups, OfTwoProgramsInOneSecondAreBothThere) {
+  RecordingPlatform platform;
+  StaleListing disk;
+  Program other(platform.DoorsWith(disk));
+  other.folders.ProgramData = DataFolder;
+  KeepBackup(other, ProjectPath, "of one program", BackupReason::Overwritten);
+  disk.isStale = true;
+
+  KeepBackup(other, ProjectPath, "of another program", BackupReason::Overwritten);
+  KeepBackup(other, OtherPath, "another project", BackupReason::Overwritten);
+
+  disk.isStale = false;
+  std::vector<std::string> kept;
+  for (const Backup& entry : ListBackups(other)) kept.push_back(entry.Project + ": " + disk.files.at(entry.Path));
+  EXPECT_THAT(kept, ElementsAre(OtherPath + ": another project", ProjectPath + ": of another program",
+                                ProjectPath + ": of one program"));
+}
+
+TEST_F(Backups, AreReadByTheUserAlone) {
+  Keep("as it was");
+
+  EXPECT_THAT(files().privateFolders, ElementsAre(Store.substr(0, Store.size() - 1)));
 }
 
 TEST_F(Backups, OfUnchangedBytesAreNotMadeTwice) {
@@ -218,6 +251,24 @@ TEST_F(Backups, OfADroppedDesignAreRecoveryFiles) {
   ASSERT_TRUE(read);
   EXPECT_EQ(read->WorkParms.DepthofCover, 725);
   EXPECT_EQ(ListBackups(program()).front().Project, ProjectPath);
+}
+
+TEST_F(Backups, OfADroppedDesignStandUnderTheWholePathOfItsProject) {
+  FileNew(program(), false, true);
+  program().CurrentFile = "panel3.orb";
+
+  KeepDropped(program(), CommittedProject(program()), BackupReason::Dropped);
+
+  EXPECT_EQ(ListBackups(program()).front().Project, "/work/panel3.orb");
+}
+
+TEST_F(Backups, OfADroppedDesignWithoutANameAreUntitled) {
+  FileNew(program(), false, true);
+  program().CurrentFile = UntitledName;
+
+  KeepDropped(program(), CommittedProject(program()), BackupReason::Dropped);
+
+  EXPECT_EQ(ListBackups(program()).front().Project, "Untitled");
 }
 
 TEST_F(Backups, OfADamagedRecoveryFileAreNamedAfterTheProjectThatItStillTells) {

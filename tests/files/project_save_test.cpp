@@ -277,6 +277,82 @@ TEST(ProjectSave, UnderAnotherNameThatCannotBeginSaysThatThisFileIsAsItWas) {
   EXPECT_THAT(project.remarks, ElementsAre(StartsWith("/designs/panel4.orb is as it was before. ")));
 }
 
+// A project whose save failed and could not put the old bytes back.
+struct DamagedProject : ChangedProject {
+  DamagedProject() {
+    platform.files.Fail(Step::Cut, error_number::DiskFull);
+    EXPECT_EQ(SaveError(), 61);
+    platform.files.Mend();
+  }
+};
+
+TEST(ProjectSave, AfterOneThatLeftADamagedFileKeepsWhatWasPutInItsPlace) {
+  DamagedProject project;
+  project.File() = "a copy of last week, put there by hand";
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_EQ(project.File(), project.typed);
+  EXPECT_THAT(project.KeptBytes(), ElementsAre("a copy of last week, put there by hand", project.old));
+  EXPECT_EQ(project.ReasonOfNewest(), BackupReason::ChangedOnDisk);
+  ASSERT_EQ(project.platform.boxes.shown.size(), 1U);
+  EXPECT_THAT(project.platform.boxes.shown[0].text,
+              StartsWith("/designs/panel3.orb had been changed by another program."));
+}
+
+TEST(ProjectSave, AfterOneThatLeftADamagedFileAndFailsAgainPutsBackWhatWasPutInItsPlace) {
+  DamagedProject project;
+  project.File() = "a copy of last week, put there by hand";
+  project.platform.files.Fail(Step::Cut, error_number::DiskFull, 0, 1);
+
+  EXPECT_EQ(project.SaveError(), 61);
+
+  EXPECT_EQ(project.File(), "a copy of last week, put there by hand");
+}
+
+TEST(ProjectSave, SaysNothingOfADamagedFileThatWasPutRightByHand) {
+  DamagedProject project;
+  project.File() = project.old;
+
+  EXPECT_TRUE(project.Save());
+
+  EXPECT_THAT(project.KeptBytes(), ElementsAre(project.old));
+  EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
+}
+
+TEST(ProjectSave, ThatFailsLeavesAFileThatCouldNotBeLookedAt) {
+  ChangedProject project;
+  project.platform.files.Fail(Step::Read, error_number::PathFileAccess);
+  project.platform.files.Fail(Step::Write, error_number::DiskFull);
+
+  EXPECT_EQ(project.SaveError(), 61);
+
+  EXPECT_TRUE(project.platform.files.files.contains(ProjectPath));
+  EXPECT_THAT(project.remarks, ElementsAre("/designs/panel3.orb may be damaged."));
+}
+
+TEST(ProjectSave, OfAScriptThatDamagesALongFileSaysSo) {
+  ChangedProject project;
+  project.program.folders.ProgramData.clear();
+  project.File() = std::string(11 * 1024 * 1024, 'x');
+  project.platform.files.Fail(Step::Write, error_number::DiskFull);
+
+  EXPECT_EQ(project.SaveError(), 61);
+
+  EXPECT_THAT(project.remarks, ElementsAre("/designs/panel3.orb may be damaged."));
+}
+
+TEST(ProjectSave, ThatCannotRemoveTheHalfOfANewFileSaysSo) {
+  ChangedProject project;
+  project.program.CurrentFile = "/designs/new.orb";
+  project.platform.files.Fail(Step::Write, error_number::DiskFull);
+  project.platform.files.Fail(Step::Remove, error_number::PermissionDenied);
+
+  EXPECT_EQ(project.SaveError(), 61);
+
+  EXPECT_THAT(project.remarks, ElementsAre("/designs/new.orb may be damaged."));
+}
+
 TEST(ProjectSave, WithoutRoomForABackupGoesOnAndTellsOnce) {
   ChangedProject project;
   project.platform.files.Fail(Step::Rename, error_number::DiskFull);
@@ -286,8 +362,8 @@ TEST(ProjectSave, WithoutRoomForABackupGoesOnAndTellsOnce) {
   EXPECT_TRUE(project.Save());
 
   EXPECT_THAT(project.platform.boxes.Texts(),
-              ElementsAre("No backup of what /designs/panel3.orb held before could be kept in /data/Backups/."));
-  EXPECT_THAT(project.program.history.Text, EndsWith(" could be kept in /data/Backups/.\r\n")) << "but noted again";
+              ElementsAre("The old contents of /designs/panel3.orb could not be kept in /data/Backups/."));
+  EXPECT_THAT(project.program.history.Text, EndsWith(" could not be kept in /data/Backups/.\r\n")) << "but noted again";
   EXPECT_THAT(project.KeptBytes(), IsEmpty());
   EXPECT_THAT(project.File(), HasSubstr("\r\n820\r\n"));
 }
@@ -319,7 +395,7 @@ TEST(ProjectSave, RenamesAFileThatIsTooLongForABackup) {
   EXPECT_EQ(project.platform.files.files[OldPath + "2"], notes);
   EXPECT_EQ(project.platform.files.files[OldPath], "an earlier one");
   EXPECT_THAT(project.platform.boxes.Texts(),
-              ElementsAre("The file that /designs/panel3.orb was before is too long for Backups. It is kept as "
+              ElementsAre("The old contents of /designs/panel3.orb are too long for Backups. The old file is kept as "
                           "/designs/panel3.orb.old2."));
 }
 
@@ -336,7 +412,7 @@ TEST(ProjectSave, HoldsAFileThatIsTooLongAndCannotBeRenamedUntilTheNewOneIsSafe)
 
   EXPECT_EQ(project.File(), project.typed);
   EXPECT_THAT(project.platform.boxes.Texts(),
-              ElementsAre("No backup of what /designs/panel3.orb held before could be kept in /data/Backups/."));
+              ElementsAre("The old contents of /designs/panel3.orb could not be kept in /data/Backups/."));
 }
 
 TEST(ProjectSave, GivesARenamedFileItsNameBackWhenItFails) {
@@ -397,6 +473,8 @@ TEST(ProjectSave, NamesTheFieldsThatWouldNotComeBack) {
       StartsWith("/designs/panel3.orb is saved, but when it is opened these fields will not be what they are "
                  "now: intersection bolt description, intersection standard bolt diameter, intersection typed bolt "
                  "diameter and 31 more. Look for commas "));
+  EXPECT_THAT(project.platform.boxes.shown[0].text,
+              EndsWith(" What the file held before is kept in /data/Backups/2031-03-09 14.05.07 00001 panel3.orb."));
   EXPECT_THAT(project.KeptBytes(), ElementsAre(project.old));
 }
 
