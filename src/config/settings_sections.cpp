@@ -206,8 +206,6 @@ void WriteSettings(const Program& program, IniText& ini, int selector) {
 
 std::string IniVersion(const IniText& ini) { return ReadIniValue(ini, VersionSection, VersionKey); }
 
-std::string ReadIniVersion(Program& program) { return IniVersion(ReadIniFile(program, program.IniFilePath)); }
-
 void WriteIniVersion(IniText& ini) { WriteIniValue(ini, VersionSection, VersionKey, BuildStamp); }
 
 void ReadDefaults(Program& program, const IniText& ini) { ReadSettings(program, ini, settings_section::All); }

@@ -30,9 +30,8 @@ void ReadSettings(Program& program, const IniText& ini, int selector);
 // Sets the section's keys in table order; all sections in the order of their selectors.
 void WriteSettings(const Program& program, IniText& ini, int selector);
 
-// The version that the configuration, or the file at IniFilePath, was written by; empty when it tells none.
+// The version that the configuration was written by; empty when it tells none.
 std::string IniVersion(const IniText& ini);
-std::string ReadIniVersion(Program& program);
 void WriteIniVersion(IniText& ini);
 
 // Reads all of the settings.

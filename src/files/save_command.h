@@ -16,13 +16,13 @@ FileQuestion ProjectFileQuestion(Program& program, const std::string& project);
 // CurrentFile. Throws RuntimeError 32755 when the user cancels.
 void AskFileName(Program& program, FileDialogMode mode);
 
-// Saves the project, asking for its name first when it has none yet or on Save As. Gives whether it was saved: false
-// when the user cancelled or when the save failed, which was told then.
+// Saves the project, asking for its name first when it has none yet or on Save As. Returns true if it was saved; false
+// if the user cancelled or the save failed, which was told then.
 bool FileMenuSave(Program& program, bool saveAs);
 
-// Asks whether to save the changes of PreviousFile and saves them there; those not saved are kept as a backup. Gives
-// whether CurrentFile, which comes out as it went in, is to be opened: a save that is cancelled or fails keeps the
-// project, and CurrentFile is PreviousFile.
+// Asks whether to save the changes of PreviousFile and saves them there; those not saved are kept as a backup. Returns
+// true if CurrentFile, which is then as it was before the call, is to be opened. Returns false after a save that is
+// cancelled or fails: the project stays, and CurrentFile is PreviousFile.
 bool SaveChangesOfPreviousFile(Program& program);
 
 }  // namespace orby

@@ -45,9 +45,10 @@ std::string_view WithoutBlanksInFront(std::string_view line) {
 std::string_view ReasonFor(std::string_view line) {
   if (IsMarker(line)) return "The project file uses this text as a mark of its own.";
   if (line.starts_with('"')) {
-    return "A quotation mark in front of a line takes all up to the next one, and is lost.";
+    return "A quotation mark at the start of a line joins everything up to the next quotation mark, and is lost "
+           "itself.";
   }
-  return "A comma ends a line there.";
+  return "A comma splits the line in two there.";
 }
 
 bool LineComesBack(std::string_view line) {

@@ -506,13 +506,13 @@ TEST_F(SettingsSections, TheVersionOfAFileIsReadBack) {
   FileBytes() = ini.FileBytes();
 
   EXPECT_EQ(FileBytes(), "[Version]\r\nINIFileVersion=201030\r\n");
-  EXPECT_EQ(ReadIniVersion(program), "201030");
+  EXPECT_EQ(IniVersion(ReadIniFile(program, program.IniFilePath)), "201030");
 }
 
 TEST_F(SettingsSections, AFileWithoutAVersionTellsNone) {
   FileBytes() = "[Settings]\r\nDefaultUnits=1\r\n";
 
-  EXPECT_EQ(ReadIniVersion(program), "");
+  EXPECT_EQ(IniVersion(ReadIniFile(program, program.IniFilePath)), "");
 }
 
 TEST_F(SettingsSections, ANewFileHoldsItsVersionFirstAndEverySectionThatAStartReads) {

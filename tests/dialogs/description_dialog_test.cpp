@@ -431,9 +431,10 @@ TEST_F(ADescriptionDialog, WarnsOnceOfALineThatWillNotComeBack) {
   dialog.Command2.Press();
 
   ASSERT_EQ(platform.boxes.shown.size(), 1U);
-  EXPECT_EQ(platform.boxes.shown.front().text,
-            "This line will not come back as it is typed when the project is opened again:\r\n\r\n\"weak roof\r\n\r\n"
-            "A quotation mark in front of a line takes all up to the next one, and is lost.");
+  EXPECT_EQ(
+      platform.boxes.shown.front().text,
+      "This line will not come back as it is typed when the project is opened again:\r\n\r\n\"weak roof\r\n\r\n"
+      "A quotation mark at the start of a line joins everything up to the next quotation mark, and is lost itself.");
   EXPECT_EQ(platform.boxes.shown.front().title, "Message");
   EXPECT_FALSE(dialog.IsOpen());
   EXPECT_EQ(program.ProjectDescription, "Headgate\r\n\"weak roof");

@@ -54,7 +54,7 @@ TEST(LinesThatDoNotComeBack, AreTheMarksOfTheFile) {
 
 TEST(LinesThatDoNotComeBack, HoldAComma) {
   EXPECT_EQ(LostIn("Panel 3", "Belt entry, south"), "Belt entry, south");
-  EXPECT_EQ(LineThatWouldNotComeBack({"", "Belt entry, south"})->Reason, "A comma ends a line there.");
+  EXPECT_EQ(LineThatWouldNotComeBack({"", "Belt entry, south"})->Reason, "A comma splits the line in two there.");
   EXPECT_EQ(LostIn("Panel 3, north", "Belt entry"), "none") << "the title is put together again";
 }
 
