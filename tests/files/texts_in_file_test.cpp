@@ -36,7 +36,8 @@ TEST(LinesThatDoNotComeBack, BeginWithAQuotationMark) {
   EXPECT_EQ(LostIn("Panel 3", "Belt entry\r\n\"weak roof\r\nlast"), "\"weak roof");
   EXPECT_EQ(LostIn("Panel 3", "  \"weak\" roof"), "  \"weak\" roof");
   EXPECT_EQ(LostIn("\"Panel 3", "Belt entry"), "\"Panel 3");
-  EXPECT_THAT(std::string(LineThatWouldNotComeBack({"\"Panel 3", ""})->Reason), HasSubstr("A quotation mark in front"));
+  EXPECT_THAT(std::string(LineThatWouldNotComeBack({"\"Panel 3", ""})->Reason),
+              HasSubstr("A quotation mark at the start"));
 }
 
 TEST(LinesThatDoNotComeBack, BeginWithAQuotationMarkOnceALongLineIsBroken) {
