@@ -8,6 +8,10 @@
 
 namespace orby {
 
+// The lines of a project file around the description.
+inline constexpr std::string_view StartOfDescription = "##StartDesc##";
+inline constexpr std::string_view EndOfDescription = "##EndDesc##";
+
 inline constexpr Integer LinesOfEmptyDescription = 2;
 
 // The description as reports print it and files hold it. Throws RuntimeError 6 for more lines than fit an Integer.

@@ -4,13 +4,11 @@
 #include <string>
 #include <string_view>
 
+#include "core/description.h"
 #include "core/program.h"
 #include "files/item_reader.h"
 
 namespace orby {
-
-inline constexpr std::string_view StartOfDescription = "##StartDesc##";
-inline constexpr std::string_view EndOfDescription = "##EndDesc##";
 
 namespace description_mode {
 inline constexpr int Legacy = 0;  // five lines without markers

@@ -1,7 +1,6 @@
 #include "files/texts_in_file.h"
 
 #include <algorithm>
-#include <array>
 #include <initializer_list>
 
 #include "base/attempt.h"
@@ -73,28 +72,6 @@ std::optional<LostLine> LineThatWouldNotComeBack(const ProjectTexts& texts) {
     if (!LineComesBack(line)) return LostLine{std::string(line), ReasonFor(WithoutBlanksInFront(line))};
   }
   return std::nullopt;
-}
-
-std::optional<ProjectTexts> TextsBeforeTheShift(const ProjectTexts& texts) {
-  // A line of the description has lost the blank in front.
-  constexpr std::array<std::string_view, 4> PaddedChoices{" 0 ", " 1 ", "0 ", "1 "};
-  std::optional<ProjectTexts> before;
-  ProjectTexts present = texts;
-  while (std::ranges::find(PaddedChoices, present.Title) != PaddedChoices.end()) {
-    std::string_view rest = present.Description;
-    std::string title;
-    bool hasMarker = false;
-    while (!rest.empty() && !hasMarker) {
-      const std::string_view line = TakeLine(rest);
-      hasMarker = line == StartOfDescription;
-      // A comma in the title has made two lines of it.
-      if (!hasMarker) title.append(title.empty() ? "" : ", ").append(line);
-    }
-    if (!hasMarker) break;
-    present = {title, std::string(rest)};
-    before = present;
-  }
-  return before;
 }
 
 }  // namespace orby

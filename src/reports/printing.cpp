@@ -7,6 +7,7 @@
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "core/dialog_helpers.h"
+#include "core/shifted_texts.h"
 #include "core/version.h"
 
 namespace orby {
@@ -24,10 +25,16 @@ std::string TableRow(std::string_view left, std::string_view right) {
 // The name alone, as short as captions show it: a path could reach into the column of the page number.
 std::string FileName(const Program& program) { return ShortenedPath(NameBehindSeparator(program.CurrentFile)); }
 
+// The title as it was typed, also where opening the file has shifted the header.
+std::string TypedTitle(const Program& program) {
+  const auto before = TextsBeforeTheShift({program.ProjectTitle, program.ProjectDescription});
+  return before ? before->Title : program.ProjectTitle;
+}
+
 // The file and, if it has one, the title of the project.
 std::string DocumentTitle(const Program& program) {
-  const std::string_view title = Trim(program.ProjectTitle);
-  return title.empty() ? FileName(program) : FileName(program) + " - " + std::string(title);
+  const std::string title(Trim(TypedTitle(program)));
+  return title.empty() ? FileName(program) : FileName(program) + " - " + title;
 }
 
 std::vector<std::string> PageHeader(const Program& program, std::size_t page) {

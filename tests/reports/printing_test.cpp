@@ -182,6 +182,17 @@ TEST(Printing, CallsTheDocumentByFileAndTitle) {
   EXPECT_EQ(desk.machine.printer.title, "weak-roof.ORB - Headgate 4");
 }
 
+TEST(Printing, CallsTheDocumentByTheTitleThatWasTypedAfterOpeningShiftedIt) {
+  Desk desk;
+  desk.program.CurrentFile = "/designs/weak-roof.ORB";
+  desk.program.ProjectTitle = " 0 ";
+  desk.program.ProjectDescription = "Headgate 4\r\n##StartDesc##\r\nBelt entry\r\n";
+
+  PrintText(desk.program, "roof bolts\r\n");
+
+  EXPECT_EQ(desk.machine.printer.title, "weak-roof.ORB - Headgate 4");
+}
+
 TEST(Printing, JoinsPagesWithNothingBetweenThem) {
   Desk desk;
   desk.program.OutBuf = {"inputs\r\n", "calculations\r\n", "", "", ""};

@@ -1,0 +1,34 @@
+#include "core/shifted_texts.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "base/text.h"
+#include "core/description.h"
+
+namespace orby {
+
+std::optional<ProjectTexts> TextsBeforeTheShift(const ProjectTexts& texts) {
+  // A line of the description has lost the blank in front.
+  constexpr std::array<std::string_view, 4> PaddedChoices{" 0 ", " 1 ", "0 ", "1 "};
+  std::optional<ProjectTexts> before;
+  ProjectTexts present = texts;
+  while (std::ranges::find(PaddedChoices, present.Title) != PaddedChoices.end()) {
+    std::string_view rest = present.Description;
+    std::string title;
+    bool hasMarker = false;
+    while (!rest.empty() && !hasMarker) {
+      const std::string_view line = TakeLine(rest);
+      hasMarker = line == StartOfDescription;
+      // A comma in the title has made two lines of it.
+      if (!hasMarker) title.append(title.empty() ? "" : ", ").append(line);
+    }
+    if (!hasMarker) break;
+    present = {title, std::string(rest)};
+    before = present;
+  }
+  return before;
+}
+
+}  // namespace orby
