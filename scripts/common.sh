@@ -22,6 +22,9 @@ sanitizer_packages=(clang=clang++ llvm=llvm-symbolizer
 coverage_packages=(gcovr=gcovr)
 package_packages=(dpkg-dev=dpkg-shlibdeps file=file)
 package_check_packages=(lintian=lintian appstream=appstreamcli)
+book_packages=(fp-utils=chmcmd weasyprint=weasyprint
+  fonts-dejavu-core=/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf
+  fonts-dejavu-extra=/usr/share/fonts/truetype/dejavu/DejaVuSans-Oblique.ttf)
 bench_packages=(valgrind=valgrind time=/usr/bin/time)
 
 say() { printf '%s\n' "$*" >&2; }

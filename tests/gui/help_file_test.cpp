@@ -231,38 +231,5 @@ TEST(CheckSum, IsTheUsualOne) {
   EXPECT_EQ(CheckSum(""), 0U);
 }
 
-// ---- manual and documents ------------------------------------------------------------------------------------------
-
-// The pages of a PDF file that the toolkit has written: "/Count N" of its list of pages.
-int PageCount(const QByteArray& file) {
-  const qsizetype at = file.indexOf("/Count ");
-  return at < 0 ? 0 : file.mid(at + 7, 8).trimmed().split('\n').front().trimmed().toInt();
-}
-
-TEST(Manual, HasAChapterForEachPageOfTheHelp) {
-  const QByteArray manual = FileBytes(HelpFolder + "/ORBY.PDF");
-
-  EXPECT_TRUE(manual.startsWith("%PDF-"));
-  EXPECT_GE(PageCount(manual), 60);
-  EXPECT_LE(PageCount(manual), 200);
-  EXPECT_FALSE(manual.contains("/S /URI")) << "a link that leads out of the manual";
-  EXPECT_GE(manual.count("/S /GoTo"), 42);
-}
-
-class Document : public testing::TestWithParam<const char*> {};
-
-TEST_P(Document, HasAFewPages) {
-  const QByteArray paper = FileBytes(HelpFolder + "/resources/" + GetParam() + ".pdf");
-
-  EXPECT_TRUE(paper.startsWith("%PDF-"));
-  EXPECT_GE(PageCount(paper), 2);
-  EXPECT_LE(PageCount(paper), 12);
-}
-
-INSTANTIATE_TEST_SUITE_P(Resources, Document,
-                         testing::Values("bolt-design", "bolting-history", "intersections", "pull-tests",
-                                         "reading-curves", "roof-screening", "standing-supports", "weak-ground"),
-                         [](const auto& entry) { return ToQt(entry.param).replace('-', '_').toStdString(); });
-
 }  // namespace
 }  // namespace orby::test

@@ -3,9 +3,9 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QPrintDialog>
-#include <QProcess>
 #include <algorithm>
 
+#include "gui/pdf_bench.h"
 #include "gui/report_bench.h"
 #include "qt/printer.h"
 #include "qt/surroundings.h"
@@ -19,18 +19,6 @@ using testing::Eq;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
-
-// The text of a PDF file as it stands on its pages, one page a string.
-std::vector<std::string> PdfPages(const QString& path) {
-  QProcess reader;
-  reader.start("pdftotext", {"-layout", path, "-"});
-  if (!reader.waitForFinished()) throw std::logic_error("pdftotext does not run");
-  std::vector<std::string> pages;
-  for (const QString& page : QString::fromUtf8(reader.readAllStandardOutput()).split('\f', Qt::SkipEmptyParts)) {
-    pages.push_back(page.toStdString());
-  }
-  return pages;
-}
 
 // A desktop without any printer.
 struct NoPrinters {
@@ -54,14 +42,6 @@ class Printing : private NoPrinters, public ReportTest {
   const QString path = folder.filePath("report.pdf");
   QtPrinter printer;
 };
-
-// What a program that reads the PDF file prints about it.
-std::string Answer(const QString& program, const QStringList& arguments) {
-  QProcess reader;
-  reader.start(program, arguments);
-  if (!reader.waitForFinished()) throw std::logic_error(program.toStdString() + " does not run");
-  return reader.readAllStandardOutput().toStdString();
-}
 
 // The first page as a picture of so many dots per inch.
 QImage Rendered(const QString& path, int resolution) {
