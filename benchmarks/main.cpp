@@ -23,14 +23,9 @@ using namespace orby;
 struct Bench {
   Bench() {
     StartApart(program, nullptr);
-    ProjectRecord& design = program.WorkParms;
-    for (auto use :
-         {&ProjectRecord::SecEntryUseTruss, &ProjectRecord::SecEntryUseBolt, &ProjectRecord::SecEntryUseStanding}) {
-      design.*use = 1;
-    }
-    for (auto use :
-         {&ProjectRecord::SecInterUseTruss, &ProjectRecord::SecInterUseBolt, &ProjectRecord::SecInterUseStanding}) {
-      design.*use = 1;
+    Design& design = program.WorkParms;
+    for (SecondarySupport* support : {&design.Entries, &design.Intersections}) {
+      for (SupportSystem* system : support->Systems()) system->Use = 1;
     }
     program.ProjectTitle = "Belt entry, north mains";
     program.ProjectDescription = "Four bolts a row, cables and trusses through the intersections.";

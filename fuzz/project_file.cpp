@@ -43,18 +43,18 @@ bool ReadsBackAsAnItem(std::string_view text) {
 // Whether the format can hold the project at all.
 bool CanBeHeld(const Program& program, const std::string& saved) {
   constexpr orby::Integer FewLines = 30000;
-  const orby::ProjectRecord& record = program.WorkParms;
+  const orby::Design& record = program.WorkParms;
   if (program.DescLines > FewLines || !IsPlain(program.ProjectDescription) || !IsPlain(program.ProjectTitle)) {
     return false;
   }
-  for (const auto* text : {&record.BoltDescPrimary, &record.BoltDescSecEntry, &record.BoltDescSecInter}) {
+  for (const auto* text : {&record.Primary.Desc, &record.Entries.Bolt.Desc, &record.Intersections.Bolt.Desc}) {
     if (!ReadsBackAsAnItem(*text)) return false;
   }
   // Bytes of the code page that together read as UTF-8 come back as other characters.
   const std::string text = orby::TextFromFileBytes(saved);
   for (const auto* held :
-       {&program.ProjectTitle, &program.ProjectDescription, &record.BoltDescPrimary, &record.BoltDescSecEntry,
-        &record.BoltDescSecInter, &record.SupportTypeNameSecEntry, &record.SupportTypeNameSecInter}) {
+       {&program.ProjectTitle, &program.ProjectDescription, &record.Primary.Desc, &record.Entries.Bolt.Desc,
+        &record.Intersections.Bolt.Desc, &record.Entries.Standing.TypeName, &record.Intersections.Standing.TypeName}) {
     if (text.find(*held) == std::string::npos) return false;
   }
   return true;

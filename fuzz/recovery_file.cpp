@@ -38,8 +38,8 @@ void KeepAsTexts(const std::string& text) {
   if (orby::IsValidUtf8(text)) {
     project.ProjectTitle = text;
     project.ProjectDescription = text;
-    project.WorkParms.BoltDescSecInter = text;
-    project.WorkParms.SupportTypeNameSecEntry = text;
+    project.WorkParms.Intersections.Bolt.Desc = text;
+    project.WorkParms.Entries.Standing.TypeName = text;
   }
   const std::string bytes = orby::RecoveryBytes(project);
 
@@ -49,8 +49,8 @@ void KeepAsTexts(const std::string& text) {
   Expect(read->CurrentFile == project.CurrentFile);
   Expect(read->ProjectTitle == project.ProjectTitle);
   Expect(read->ProjectDescription == project.ProjectDescription);
-  Expect(read->WorkParms.BoltDescSecInter == project.WorkParms.BoltDescSecInter);
-  Expect(read->WorkParms.SupportTypeNameSecEntry == project.WorkParms.SupportTypeNameSecEntry);
+  Expect(read->WorkParms.Intersections.Bolt.Desc == project.WorkParms.Intersections.Bolt.Desc);
+  Expect(read->WorkParms.Entries.Standing.TypeName == project.WorkParms.Entries.Standing.TypeName);
 }
 
 }  // namespace

@@ -149,7 +149,7 @@ int EmptyKey() {
 int Key() {
   Run run;
   StartApart(run.program, nullptr);
-  run.program.WorkParms.DepthofCover = 40;
+  run.program.WorkParms.Place.DepthofCover = 40;
   ParametersDialog dialog(run.program);
   dialog.Open();
   const auto window = MakeWindow(dialog, nullptr);

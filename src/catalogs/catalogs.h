@@ -2,8 +2,8 @@
 // The lists are not sorted: some entries stand behind larger ones, and users know them by their place.
 #pragma once
 
-#include "core/catalog_lists.h"
 #include "core/program.h"
+#include "design/catalog_lists.h"
 
 namespace orby {
 

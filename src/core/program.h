@@ -8,10 +8,10 @@
 #include <string_view>
 #include <vector>
 
-#include "core/catalog_lists.h"
-#include "core/project_record.h"
 #include "core/settings.h"
-#include "core/units.h"
+#include "design/catalog_lists.h"
+#include "design/design.h"
+#include "design/units.h"
 #include "platform/platform.h"
 
 namespace orby {
@@ -65,7 +65,7 @@ inline constexpr Integer Cost = 2;
 
 // What the calculations of a report are made from.
 struct ReportBasis {
-  DesignGroups Design;
+  RoofSupport Support;
   Integer Units = English;
   Integer BoltStrengthMode = 0;
   bool UsesAustralianTable = false;
@@ -92,8 +92,8 @@ struct Program {
 
   Platform platform;
 
-  ProjectRecord WorkParms;      // the committed design
-  ProjectRecord WorkParmsCopy;  // what a dialog shows, for previews and curves
+  Design WorkParms;      // the committed design
+  Design WorkParmsCopy;  // what a dialog shows, for previews and curves
   Integer Units = English;
   Integer BoltStrengthMode = 0;  // 0: grades are yield strengths, 1: ultimate strengths
   Integer UseAUSStandardTable = 0;

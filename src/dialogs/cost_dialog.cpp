@@ -23,34 +23,34 @@ namespace {
 
 struct CostField {
   TextBox CostControls::*Box;
-  Single CostGroup::*Field;
+  Single CostInputs::*Field;
   std::string_view Fault;
 };
 
 // In the order in which they are checked.
 constexpr std::array CostFields{
-    CostField{&CostControls::txtBoltCost, &CostGroup::CostBoltCost, "Invalid cost per bolt"},
-    CostField{&CostControls::txtPlateCost, &CostGroup::CostPlateCost, "Invalid cost per plate"},
-    CostField{&CostControls::txtResinCost, &CostGroup::CostResinCost, "Invalid cost per resin"},
-    CostField{&CostControls::txtBitCost, &CostGroup::CostBitCost, "Invalid cost per bit"},
-    CostField{&CostControls::txtHeaderCost, &CostGroup::CostHeaderCost, "Invalid header cost"},
-    CostField{&CostControls::txtStrapCost, &CostGroup::CostStrapCost, "Invalid strap/mesh cost"},
-    CostField{&CostControls::txtnboltsShift, &CostGroup::CostNboltsShift, "Invalid number of bolts per shift"},
-    CostField{&CostControls::txtnBoltsRow, &CostGroup::CostNBoltsRow, fault_text::BoltsPerRow},
-    CostField{&CostControls::txtRowSpacing, &CostGroup::CostRowSpacing, fault_text::RowSpacing},
-    CostField{&CostControls::txtnOperShift, &CostGroup::CostNOperShift, "Invalid number of operators per shift"},
-    CostField{&CostControls::txtTotalLabor, &CostGroup::CostTotalLabor, "Invalid total labor cost per shift"},
-    CostField{&CostControls::txtHoursShift, &CostGroup::CostHoursShift, "Invalid hours per shift"},
-    CostField{&CostControls::txtMaintainHrs, &CostGroup::CostMaintainHrs, "Invalid maintenance hours"},
-    CostField{&CostControls::txtMaintainCost, &CostGroup::CostMaintainCost, "Invalid maintenance cost"},
-    CostField{&CostControls::txtTranspCost, &CostGroup::CostTranspCost, "Invalid transportation cost"},
-    CostField{&CostControls::txtCapitalCost, &CostGroup::CostCapitalCost, "Invalid machine capital cost"},
-    CostField{&CostControls::txtYearsDepr, &CostGroup::CostYearsDepr, "Invalid number of depreciation years"},
-    CostField{&CostControls::txtAdvanceShift, &CostGroup::CostAdvanceShift, "Invalid advance per shift"},
-    CostField{&CostControls::txtAdvanceRate, &CostGroup::CostAdvanceRate, "Invalid advance rate"},
-    CostField{&CostControls::txtCleanProduction, &CostGroup::CostCleanProduction, "Invalid clean production"},
-    CostField{&CostControls::txtShiftsWeek, &CostGroup::CostShiftsWeek, "Invalid number of shifts per week"},
-    CostField{&CostControls::txtWeeksYear, &CostGroup::CostWeeksYear, "Invalid number of weeks per year"},
+    CostField{&CostControls::txtBoltCost, &CostInputs::BoltCost, "Invalid cost per bolt"},
+    CostField{&CostControls::txtPlateCost, &CostInputs::PlateCost, "Invalid cost per plate"},
+    CostField{&CostControls::txtResinCost, &CostInputs::ResinCost, "Invalid cost per resin"},
+    CostField{&CostControls::txtBitCost, &CostInputs::BitCost, "Invalid cost per bit"},
+    CostField{&CostControls::txtHeaderCost, &CostInputs::HeaderCost, "Invalid header cost"},
+    CostField{&CostControls::txtStrapCost, &CostInputs::StrapCost, "Invalid strap/mesh cost"},
+    CostField{&CostControls::txtnboltsShift, &CostInputs::NboltsShift, "Invalid number of bolts per shift"},
+    CostField{&CostControls::txtnBoltsRow, &CostInputs::NBoltsRow, fault_text::BoltsPerRow},
+    CostField{&CostControls::txtRowSpacing, &CostInputs::RowSpacing, fault_text::RowSpacing},
+    CostField{&CostControls::txtnOperShift, &CostInputs::NOperShift, "Invalid number of operators per shift"},
+    CostField{&CostControls::txtTotalLabor, &CostInputs::TotalLabor, "Invalid total labor cost per shift"},
+    CostField{&CostControls::txtHoursShift, &CostInputs::HoursShift, "Invalid hours per shift"},
+    CostField{&CostControls::txtMaintainHrs, &CostInputs::MaintainHrs, "Invalid maintenance hours"},
+    CostField{&CostControls::txtMaintainCost, &CostInputs::MaintainCost, "Invalid maintenance cost"},
+    CostField{&CostControls::txtTranspCost, &CostInputs::TranspCost, "Invalid transportation cost"},
+    CostField{&CostControls::txtCapitalCost, &CostInputs::CapitalCost, "Invalid machine capital cost"},
+    CostField{&CostControls::txtYearsDepr, &CostInputs::YearsDepr, "Invalid number of depreciation years"},
+    CostField{&CostControls::txtAdvanceShift, &CostInputs::AdvanceShift, "Invalid advance per shift"},
+    CostField{&CostControls::txtAdvanceRate, &CostInputs::AdvanceRate, "Invalid advance rate"},
+    CostField{&CostControls::txtCleanProduction, &CostInputs::CleanProduction, "Invalid clean production"},
+    CostField{&CostControls::txtShiftsWeek, &CostInputs::ShiftsWeek, "Invalid number of shifts per week"},
+    CostField{&CostControls::txtWeeksYear, &CostInputs::WeeksYear, "Invalid number of weeks per year"},
 };
 
 template <class Compute>
@@ -120,18 +120,18 @@ void CostDialog::OnClose() {
 }
 
 void CostDialog::FillFields() {
-  const CostGroup& cost = program_.WorkParms.Cost();
+  const CostInputs& cost = program_.WorkParms.Cost;
   for (const CostField& row : CostFields) (this->*row.Box).SetText(NumberText(cost.*row.Field));
-  chkProduction.SetValue(cost.CostProduction);
-  chkAdvance.SetValue(cost.CostAdvance);
+  chkProduction.SetValue(cost.Production);
+  chkAdvance.SetValue(cost.Advance);
 }
 
-void CostDialog::ReadCost(CostGroup& cost) const {
+void CostDialog::ReadCost(CostInputs& cost) const {
   for (const CostField& row : CostFields) {
     if (const auto number = FittingNumber((this->*row.Box).Text())) cost.*row.Field = ToSingle(*number);
   }
-  cost.CostProduction = chkProduction.Value();
-  cost.CostAdvance = chkAdvance.Value();
+  cost.Production = chkProduction.Value();
+  cost.Advance = chkAdvance.Value();
 }
 
 void CostDialog::CalcAdvance() {
@@ -162,7 +162,7 @@ bool CostDialog::ValidateCost() {
   return true;
 }
 
-void CostDialog::ReadEdits(ProjectRecord& design) const { ReadCost(design.Cost()); }
+void CostDialog::ReadEdits(Design& design) const { ReadCost(design.Cost); }
 
 void CostDialog::SaveWorkParms() {
   ReadEdits(program_.WorkParms);
@@ -171,14 +171,14 @@ void CostDialog::SaveWorkParms() {
   WasCommitted = true;
 }
 
-void CostDialog::CopyCostToWorkParmsCopy() { ReadCost(program_.WorkParmsCopy.Cost()); }
+void CostDialog::CopyCostToWorkParmsCopy() { ReadCost(program_.WorkParmsCopy.Cost); }
 
 bool CostDialog::BuildReport() {
   CopyCostToWorkParmsCopy();
   // The curves of the results window are those of the project, not of a design that was shown before.
-  program_.WorkParmsCopy.Design() = program_.WorkParms.Design();
+  program_.WorkParmsCopy.Support() = program_.WorkParms.Support();
   if (!CostReport(program_)) return false;
-  const Preview preview(program_.WorkParms.Cost(), program_.WorkParmsCopy.Cost());
+  const Preview preview(program_.WorkParms.Cost, program_.WorkParmsCopy.Cost);
   program_.ReportCaller = report_caller::Cost;
   LoadOutBuf0(program_);
   return true;

@@ -103,7 +103,7 @@ class CostDialog : public CostControls {
 
   // Reads the fields into a design as a commit would. A number that the design cannot hold leaves the one it has there;
   // one that has passed the checks always fits.
-  void ReadEdits(ProjectRecord& design) const;
+  void ReadEdits(Design& design) const;
 
   // Reads the fields into the committed design.
   void SaveWorkParms();
@@ -127,7 +127,7 @@ class CostDialog : public CostControls {
   void TieEvents();
   void TieCommands();
   void FillFields();
-  void ReadCost(CostGroup& cost) const;
+  void ReadCost(CostInputs& cost) const;
 
   Program& program_;
 };

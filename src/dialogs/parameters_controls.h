@@ -6,9 +6,9 @@
 
 #include "controls/controls.h"
 #include "controls/grid.h"
-#include "core/project_record.h"
 #include "core/shared_texts.h"
-#include "core/units.h"
+#include "design/design.h"
+#include "design/units.h"
 #include "engine/secondary_support.h"
 
 namespace orby {
@@ -284,7 +284,6 @@ class ParametersControls : public Form {
 
 // The controls of one bolt set. The grid shows on its own tab only.
 struct BoltControls {
-  const BoltFields& Fields;
   OptionArray& Options;
   Grid& Table;
   Frame& TableFrame;
@@ -302,7 +301,7 @@ struct BoltControls {
 
 // The controls of one cable selection.
 struct CableControls {
-  const CableFields& Fields;
+  SecondarySupport RoofSupport::*Support;
   OptionArray& CapMode;
   OptionArray& Capacity;
   Frame& SpecificationFrame;
@@ -317,9 +316,6 @@ struct StandingControls {
   Combo& TypeStd;
   TextBox& TypeManual;
   TextBox& Capacity;
-  Integer ProjectRecord::*ModeField;
-  std::string ProjectRecord::*NameField;
-  Single ProjectRecord::*CapacityField;
   bool RestoresText;  // choosing from the catalog brings the selected name back
 };
 

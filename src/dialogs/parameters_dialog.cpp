@@ -60,8 +60,7 @@ void FillGrid(Grid& grid, const BoltTable& table) {
 }  // namespace
 
 ParametersDialog::ParametersDialog(Program& program)
-    : PrimaryBoltControls{PrimaryBolt,
-                          optBoltOptionsPrimary,
+    : PrimaryBoltControls{optBoltOptionsPrimary,
                           VSFlexGridPrimary,
                           fraBoltOptionsPrimary1,
                           fraBoltOptionsPrimary0,
@@ -74,8 +73,7 @@ ParametersDialog::ParametersDialog(Program& program)
                           fraBoltGradePrimary,
                           SSTab1,
                           1},
-      EntryBoltControls{SecEntryBolt,
-                        optBoltOptionsSecEntry,
+      EntryBoltControls{optBoltOptionsSecEntry,
                         VSFlexGridEntry,
                         fraBoltOptionsSecEntry1,
                         fraBoltOptionsSecEntry0,
@@ -88,8 +86,7 @@ ParametersDialog::ParametersDialog(Program& program)
                         fraBoltGradeSecEntry,
                         SSTab2,
                         2},
-      InterBoltControls{SecInterBolt,
-                        optBoltOptionsSecInter,
+      InterBoltControls{optBoltOptionsSecInter,
                         VSFlexGridInter,
                         fraBoltOptionsSecInter1,
                         fraBoltOptionsSecInter0,
@@ -102,26 +99,15 @@ ParametersDialog::ParametersDialog(Program& program)
                         fraBoltGradeSecInter,
                         SSTab3,
                         2},
-      EntryCableControls{SecEntryCable,        optCableCapModeSecEntry,  optCableCapacitySecEntry, fraCableSpecEntry,
-                         cmbCableDiamSecEntry, cmbCableCapacitySecEntry, txtCableCapacitySecEntry},
-      InterCableControls{SecInterCable,        optCableCapModeSecInter,  optCableCapacitySecInter, fraCableSpecInter,
-                         cmbCableDiamSecInter, cmbCableCapacitySecInter, txtCableCapacitySecInter},
-      EntryStandingControls{optSupportTypeSecEntry,
-                            cmbSupportTypeSecEntry,
-                            txtSupportTypeSecEntry,
-                            txtSupportCapSecEntry,
-                            &ProjectRecord::SupportTypeModeSecEntry,
-                            &ProjectRecord::SupportTypeNameSecEntry,
-                            &ProjectRecord::SupportCapSecEntry,
-                            true},
-      InterStandingControls{optSupportTypeSecInter,
-                            cmbSupportTypeSecInter,
-                            txtSupportTypeSecInter,
-                            txtSupportCapSecInter,
-                            &ProjectRecord::SupportTypeModeSecInter,
-                            &ProjectRecord::SupportTypeNameSecInter,
-                            &ProjectRecord::SupportCapSecInter,
-                            false},
+      EntryCableControls{&RoofSupport::Entries, optCableCapModeSecEntry,  optCableCapacitySecEntry, fraCableSpecEntry,
+                         cmbCableDiamSecEntry,  cmbCableCapacitySecEntry, txtCableCapacitySecEntry},
+      InterCableControls{&RoofSupport::Intersections, optCableCapModeSecInter, optCableCapacitySecInter,
+                         fraCableSpecInter,           cmbCableDiamSecInter,    cmbCableCapacitySecInter,
+                         txtCableCapacitySecInter},
+      EntryStandingControls{optSupportTypeSecEntry, cmbSupportTypeSecEntry, txtSupportTypeSecEntry,
+                            txtSupportCapSecEntry, true},
+      InterStandingControls{optSupportTypeSecInter, cmbSupportTypeSecInter, txtSupportTypeSecInter,
+                            txtSupportCapSecInter, false},
       program_(program) {
   for (const OutputControls& outputs : {EntryOutputs, InterOutputs}) {
     for (std::size_t i = 0; i < SystemCount; ++i) {
@@ -164,7 +150,7 @@ void ParametersDialog::OnOpen() {
   }
   if (Units() == Metric) {
     for (const CableControls& cable : {EntryCableControls, InterCableControls}) {
-      program_.WorkParms.*cable.Fields.CapMode = 1;
+      (program_.WorkParms.*cable.Support).Cable.CapMode = 1;
       cable.CapMode.SetMemberEnabled(0, false);
     }
   }
@@ -208,7 +194,7 @@ void ParametersDialog::OnClose() {
 
 bool ParametersDialog::BuildReport() {
   if (!CopyToWorkParmsCopy()) return false;
-  const Preview preview(program_.WorkParms.Design(), program_.WorkParmsCopy.Design());
+  const Preview preview(program_.WorkParms.Support(), program_.WorkParmsCopy.Support());
   program_.ReportCaller = report_caller::Parameters;
   LoadOutBuf0(program_);
   CalculationReport(program_);

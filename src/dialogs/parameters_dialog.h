@@ -23,7 +23,7 @@ class ParametersDialog : public ParametersControls {
   bool ValidateParameters();
 
   // Reads the fields into a design as a commit would. A number that the design cannot hold leaves the one it has there.
-  void ReadEdits(ProjectRecord& design) const;
+  void ReadEdits(Design& design) const;
 
   // Reads the fields into the committed design. A number that it cannot hold is told, its field gets the focus, and
   // nothing is changed; false then.
@@ -91,10 +91,9 @@ class ParametersDialog : public ParametersControls {
   void InitParameters();
   // Reads the fields into the record, as far as it can hold them, and gives the first field whose number it cannot, or
   // nullptr. manualEntry, manualInter: the controls that the manual bolt selections of these two sets are read from.
-  const Control* StoreFields(ProjectRecord& record, const BoltControls& manualEntry,
-                             const BoltControls& manualInter) const;
+  const Control* StoreFields(Design& record, const BoltControls& manualEntry, const BoltControls& manualInter) const;
   // The same for the user's command: all fields or, when one is refused, none.
-  bool TakeFields(ProjectRecord& record, const BoltControls& manualEntry, const BoltControls& manualInter);
+  bool TakeFields(Design& record, const BoltControls& manualEntry, const BoltControls& manualInter);
   // Whether a commit would take all fields; tells what is refused.
   bool MayCommit();
   void TellRefused(const Control& field);

@@ -3,6 +3,7 @@
 #include "base/attempt.h"
 #include "base/number_text.h"
 #include "core/dialog_helpers.h"
+#include "design/field.h"
 #include "dialogs/parameters_dialog.h"
 
 namespace orby {
@@ -10,83 +11,59 @@ namespace {
 
 struct NumberField {
   TextBox ParametersControls::*control;
-  Single ProjectRecord::*field;
+  SingleField field;
 };
 
 using C = ParametersControls;
-using R = ProjectRecord;
 
 constexpr NumberField NumberFields[] = {
-    {&C::txtDepthofCover, &R::DepthofCover},
-    {&C::txtUnitWeight, &R::UnitWeight},
-    {&C::txtActualSpanDiagonals, &R::ActualSpanDiagonals},
-    {&C::txtEntryWidth, &R::EntryWidth},
-    {&C::txtStabilityFactor, &R::StabilityFactor},
-    {&C::txtBoltLengthPrimary, &R::BoltLengthPrimary},
-    {&C::txtBoltsperRowPrimary, &R::BoltsperRowPrimary},
-    {&C::txtRowSpacingPrimary, &R::RowSpacingPrimary},
-    {&C::txtRockLoadHeight, &R::RockLoadHeight},
-    {&C::txtRockFallAngle, &R::RockFallAngle},
-    {&C::txtCableLengthSecEntry, &R::CableLengthSecEntry},
-    {&C::txtCableBoltsPerRowSecEntry, &R::CableBoltsPerRowSecEntry},
-    {&C::txtCableRowSpacingSecEntry, &R::CableRowSpacingSecEntry},
-    {&C::txtTrussLengthMemberSecEntry, &R::TrussLengthMemberSecEntry},
-    {&C::txtTrussAngleSecEntry, &R::TrussAngleSecEntry},
-    {&C::txtTrussCapacitySecEntry, &R::TrussCapacitySecEntry},
-    {&C::txtTrussSpacingSecEntry, &R::TrussSpacingSecEntry},
-    {&C::txtBoltLengthSecEntry, &R::BoltLengthSecEntry},
-    {&C::txtBoltsperRowSecEntry, &R::BoltsperRowSecEntry},
-    {&C::txtRowSpacingSecEntry, &R::RowSpacingSecEntry},
-    {&C::txtNumberSupPerRowSecEntry, &R::NumberSupPerRowSecEntry},
-    {&C::txtSupportRowSpacingSecEntry, &R::SupportRowSpacingSecEntry},
-    {&C::txtRockLoadHeightInter, &R::RockLoadHeightInter},
-    {&C::txtRockFallAngleEntry, &R::RockFallAngleEntry},
-    {&C::txtRockFallAngleXcut, &R::RockFallAngleXcut},
-    {&C::txtCableLengthSecInter, &R::CableLengthSecInter},
-    {&C::txtCableNumberSecInter, &R::CableNumberSecInter},
-    {&C::txtTrussLengthMemberSecInter, &R::TrussLengthMemberSecInter},
-    {&C::txtTrussAngleSecInter, &R::TrussAngleSecInter},
-    {&C::txtTrussCapacitySecInter, &R::TrussCapacitySecInter},
-    {&C::txtTrussNumberSecInter, &R::TrussNumberSecInter},
-    {&C::txtBoltLengthSecInter, &R::BoltLengthSecInter},
-    {&C::txtBoltNumberSecInter, &R::BoltNumberSecInter},
-    {&C::txtSupportNumberSecInter, &R::SupportNumberSecInter},
+    {&C::txtDepthofCover, [](auto& d) { return &d.Place.DepthofCover; }},
+    {&C::txtUnitWeight, [](auto& d) { return &d.Place.UnitWeight; }},
+    {&C::txtActualSpanDiagonals, [](auto& d) { return &d.Place.ActualSpanDiagonals; }},
+    {&C::txtEntryWidth, [](auto& d) { return &d.Place.EntryWidth; }},
+    {&C::txtStabilityFactor, [](auto& d) { return &d.Primary.StabilityFactor; }},
+    {&C::txtBoltLengthPrimary, [](auto& d) { return &d.Primary.Length; }},
+    {&C::txtBoltsperRowPrimary, [](auto& d) { return &d.Primary.BoltsperRow; }},
+    {&C::txtRowSpacingPrimary, [](auto& d) { return &d.Primary.RowSpacing; }},
+    {&C::txtRockLoadHeight, [](auto& d) { return &d.Entries.RockLoadHeight; }},
+    {&C::txtRockFallAngle, [](auto& d) { return &d.Entries.RockFallAngle; }},
+    {&C::txtCableLengthSecEntry, [](auto& d) { return &d.Entries.Cable.Length; }},
+    {&C::txtCableBoltsPerRowSecEntry, [](auto& d) { return &d.Entries.Cable.BoltsPerRow; }},
+    {&C::txtCableRowSpacingSecEntry, [](auto& d) { return &d.Entries.Cable.RowSpacing; }},
+    {&C::txtTrussLengthMemberSecEntry, [](auto& d) { return &d.Entries.Truss.LengthMember; }},
+    {&C::txtTrussAngleSecEntry, [](auto& d) { return &d.Entries.Truss.Angle; }},
+    {&C::txtTrussCapacitySecEntry, [](auto& d) { return &d.Entries.Truss.Capacity; }},
+    {&C::txtTrussSpacingSecEntry, [](auto& d) { return &d.Entries.Truss.Spacing; }},
+    {&C::txtBoltLengthSecEntry, [](auto& d) { return &d.Entries.Bolt.Length; }},
+    {&C::txtBoltsperRowSecEntry, [](auto& d) { return &d.Entries.Bolt.BoltsperRow; }},
+    {&C::txtRowSpacingSecEntry, [](auto& d) { return &d.Entries.Bolt.RowSpacing; }},
+    {&C::txtNumberSupPerRowSecEntry, [](auto& d) { return &d.Entries.Standing.NumberPerRow; }},
+    {&C::txtSupportRowSpacingSecEntry, [](auto& d) { return &d.Entries.Standing.RowSpacing; }},
+    {&C::txtRockLoadHeightInter, [](auto& d) { return &d.Intersections.RockLoadHeight; }},
+    {&C::txtRockFallAngleEntry, [](auto& d) { return &d.Intersections.RockFallAngle; }},
+    {&C::txtRockFallAngleXcut, [](auto& d) { return &d.Intersections.RockFallAngleXcut; }},
+    {&C::txtCableLengthSecInter, [](auto& d) { return &d.Intersections.Cable.Length; }},
+    {&C::txtCableNumberSecInter, [](auto& d) { return &d.Intersections.Cable.Number; }},
+    {&C::txtTrussLengthMemberSecInter, [](auto& d) { return &d.Intersections.Truss.LengthMember; }},
+    {&C::txtTrussAngleSecInter, [](auto& d) { return &d.Intersections.Truss.Angle; }},
+    {&C::txtTrussCapacitySecInter, [](auto& d) { return &d.Intersections.Truss.Capacity; }},
+    {&C::txtTrussNumberSecInter, [](auto& d) { return &d.Intersections.Truss.Number; }},
+    {&C::txtBoltLengthSecInter, [](auto& d) { return &d.Intersections.Bolt.Length; }},
+    {&C::txtBoltNumberSecInter, [](auto& d) { return &d.Intersections.Bolt.Number; }},
+    {&C::txtSupportNumberSecInter, [](auto& d) { return &d.Intersections.Standing.Number; }},
 };
 
 struct FlagField {
   CheckBox ParametersControls::*control;
-  Integer ProjectRecord::*field;
+  IntegerField field;
 };
 
 constexpr FlagField FlagFields[] = {
-    {&C::chkCMRRManual, &R::CMRRManual},
-    {&C::chkPrimSupport, &R::PrimSupport},
-    {&C::chkSecondSupEntries, &R::SecondSupEntries},
-    {&C::chkSecondSupInter, &R::SecondSupInter},
+    {&C::chkCMRRManual, [](auto& d) { return &d.Place.CMRRManual; }},
+    {&C::chkPrimSupport, [](auto& d) { return &d.Primary.Analysed; }},
+    {&C::chkSecondSupEntries, [](auto& d) { return &d.Entries.Analysed; }},
+    {&C::chkSecondSupInter, [](auto& d) { return &d.Intersections.Analysed; }},
 };
-
-// The fields of the four support systems of entries or intersections, by system.
-struct SystemFields {
-  std::array<CheckBox, SystemCount> ParametersControls::*boxes;
-  std::array<Integer ProjectRecord::*, SystemCount> use;
-  Single ProjectRecord::*rockLoad;
-  std::array<Single ProjectRecord::*, SystemCount> supportCap;
-  std::array<Single ProjectRecord::*, SystemCount> stabFactor;
-};
-
-constexpr SystemFields EntrySystemFields{
-    &C::chkSecEntries,
-    {&R::SecEntryUseCable, &R::SecEntryUseTruss, &R::SecEntryUseBolt, &R::SecEntryUseStanding},
-    &R::RockLoadEntry1,
-    {&R::SupportCapEntry1, &R::SupportCapEntry2, &R::SupportCapEntry3, &R::SupportCapEntry4},
-    {&R::StabFactorEntry1, &R::StabFactorEntry2, &R::StabFactorEntry3, &R::StabFactorEntry4}};
-
-constexpr SystemFields InterSystemFields{
-    &C::chkSecInter,
-    {&R::SecInterUseCable, &R::SecInterUseTruss, &R::SecInterUseBolt, &R::SecInterUseStanding},
-    &R::RockLoadInter1,
-    {&R::SupportCapInter1, &R::SupportCapInter2, &R::SupportCapInter3, &R::SupportCapInter4},
-    {&R::StabFactorInter1, &R::StabFactorInter2, &R::StabFactorInter3, &R::StabFactorInter4}};
 
 // Reads numbers into a record and remembers the first control whose number did not fit.
 class NumberReader {
@@ -110,155 +87,153 @@ class NumberReader {
   const Control* refused_ = nullptr;
 };
 
-void LoadBolt(Program& program, const BoltControls& bolt) {
-  const ProjectRecord& record = program.WorkParms;
-  const BoltFields& fields = bolt.Fields;
-  SetArrayIndex(program, bolt.Options, record.*fields.Options);
-  const int row = record.*fields.TableRow + 1;
+void LoadBolt(Program& program, const BoltSelection& set, const BoltControls& bolt) {
+  SetArrayIndex(program, bolt.Options, set.Options);
+  const int row = set.TableRow + 1;
   bolt.Table.SetRow(row >= 1 && row < bolt.Table.Rows() ? row : 1);
-  SetArrayIndex(program, bolt.DiameterMode, record.*fields.DiameterMode);
-  bolt.DiameterStd.SetText(NumberText(record.*fields.DiameterStd));
-  bolt.DiameterManual.SetText(NumberText(record.*fields.DiameterManual));
-  SetArrayIndex(program, bolt.GradeMode, record.*fields.GradeMode);
-  bolt.GradeStd.SetText(NumberText(record.*fields.GradeStd));
-  bolt.GradeManual.SetText(NumberText(record.*fields.GradeManual));
+  SetArrayIndex(program, bolt.DiameterMode, set.DiameterMode);
+  bolt.DiameterStd.SetText(NumberText(set.DiameterStd));
+  bolt.DiameterManual.SetText(NumberText(set.DiameterManual));
+  SetArrayIndex(program, bolt.GradeMode, set.GradeMode);
+  bolt.GradeStd.SetText(NumberText(set.GradeStd));
+  bolt.GradeManual.SetText(NumberText(set.GradeManual));
 }
 
-void LoadCable(Program& program, const CableControls& cable) {
-  const ProjectRecord& record = program.WorkParms;
-  SetArrayIndex(program, cable.CapMode, record.*cable.Fields.CapMode);
-  SetArrayIndex(program, cable.Capacity, record.*cable.Fields.Capacity);
-  cable.Diam.SetText(NumberText(record.*cable.Fields.Diam));
-  cable.CapacityStd.SetText(NumberText(record.*cable.Fields.CapacityStd));
-  cable.CapacityManual.SetText(NumberText(record.*cable.Fields.CapacityManual));
+void LoadCable(Program& program, const CableSelection& set, const CableControls& cable) {
+  SetArrayIndex(program, cable.CapMode, set.CapMode);
+  SetArrayIndex(program, cable.Capacity, set.Capacity);
+  cable.Diam.SetText(NumberText(set.Diam));
+  cable.CapacityStd.SetText(NumberText(set.CapacityStd));
+  cable.CapacityManual.SetText(NumberText(set.CapacityManual));
 }
 
 // The stored capacity comes last: choosing the name would put the catalog's capacity in its place.
-void LoadStanding(Program& program, const StandingControls& standing) {
-  const ProjectRecord& record = program.WorkParms;
-  SetArrayIndex(program, standing.TypeMode, record.*standing.ModeField);
-  if (record.*standing.ModeField == 0) {
-    standing.TypeStd.SetText(record.*standing.NameField);
+void LoadStanding(Program& program, const StandingSelection& set, const StandingControls& standing) {
+  SetArrayIndex(program, standing.TypeMode, set.TypeMode);
+  if (set.TypeMode == 0) {
+    standing.TypeStd.SetText(set.TypeName);
   } else {
-    standing.TypeManual.SetText(record.*standing.NameField);
+    standing.TypeManual.SetText(set.TypeName);
   }
-  standing.Capacity.SetText(NumberText(record.*standing.CapacityField));
+  standing.Capacity.SetText(NumberText(set.Capacity));
 }
 
-void StoreBoltSource(ProjectRecord& record, NumberReader& reader, const BoltControls& bolt) {
-  const BoltFields& fields = bolt.Fields;
+void StoreBoltSource(BoltSelection& set, NumberReader& reader, const BoltControls& bolt) {
   const Grid& table = bolt.Table;
-  record.*fields.Options = GetArrayIndex(bolt.Options);
-  record.*fields.TableRow = static_cast<Integer>(table.Row() - 1);
-  record.*fields.Desc = table.Cell(table.Row(), BoltColumn::Description);
-  reader.Read(record.*fields.TableDiameter, table, table.Cell(table.Row(), BoltColumn::Diameter));
-  reader.Read(record.*fields.TableGrade, table, table.Cell(table.Row(), BoltColumn::Grade));
+  set.Options = GetArrayIndex(bolt.Options);
+  set.TableRow = static_cast<Integer>(table.Row() - 1);
+  set.Desc = table.Cell(table.Row(), BoltColumn::Description);
+  reader.Read(set.TableDiameter, table, table.Cell(table.Row(), BoltColumn::Diameter));
+  reader.Read(set.TableGrade, table, table.Cell(table.Row(), BoltColumn::Grade));
 }
 
 // manual: the controls whose manual selection is taken.
-void StoreBoltManual(ProjectRecord& record, NumberReader& reader, const BoltFields& fields,
-                     const BoltControls& manual) {
-  record.*fields.DiameterMode = GetArrayIndex(manual.DiameterMode);
-  reader.Read(record.*fields.DiameterStd, manual.DiameterStd);
-  reader.Read(record.*fields.DiameterManual, manual.DiameterManual);
-  record.*fields.GradeMode = GetArrayIndex(manual.GradeMode);
-  reader.Read(record.*fields.GradeStd, manual.GradeStd);
-  reader.Read(record.*fields.GradeManual, manual.GradeManual);
+void StoreBoltManual(BoltSelection& set, NumberReader& reader, const BoltControls& manual) {
+  set.DiameterMode = GetArrayIndex(manual.DiameterMode);
+  reader.Read(set.DiameterStd, manual.DiameterStd);
+  reader.Read(set.DiameterManual, manual.DiameterManual);
+  set.GradeMode = GetArrayIndex(manual.GradeMode);
+  reader.Read(set.GradeStd, manual.GradeStd);
+  reader.Read(set.GradeManual, manual.GradeManual);
 }
 
-void StoreCable(ProjectRecord& record, NumberReader& reader, const CableControls& cable, const Combo& diameter) {
-  record.*cable.Fields.CapMode = GetArrayIndex(cable.CapMode);
-  record.*cable.Fields.Capacity = GetArrayIndex(cable.Capacity);
-  reader.Read(record.*cable.Fields.Diam, diameter);
-  reader.Read(record.*cable.Fields.CapacityStd, cable.CapacityStd);
-  reader.Read(record.*cable.Fields.CapacityManual, cable.CapacityManual);
+void StoreCable(CableSelection& set, NumberReader& reader, const CableControls& cable, const Combo& diameter) {
+  set.CapMode = GetArrayIndex(cable.CapMode);
+  set.Capacity = GetArrayIndex(cable.Capacity);
+  reader.Read(set.Diam, diameter);
+  reader.Read(set.CapacityStd, cable.CapacityStd);
+  reader.Read(set.CapacityManual, cable.CapacityManual);
 }
 
-void StoreStanding(ProjectRecord& record, NumberReader& reader, const StandingControls& standing) {
-  const Integer mode = GetArrayIndex(standing.TypeMode);
-  record.*standing.ModeField = mode;
-  record.*standing.NameField = mode == 0 ? standing.TypeStd.Text() : standing.TypeManual.Text();
-  reader.Read(record.*standing.CapacityField, standing.Capacity);
+void StoreStanding(StandingSelection& set, NumberReader& reader, const StandingControls& standing) {
+  set.TypeMode = GetArrayIndex(standing.TypeMode);
+  set.TypeName = set.TypeMode == 0 ? standing.TypeStd.Text() : standing.TypeManual.Text();
+  reader.Read(set.Capacity, standing.Capacity);
+}
+
+void LoadUse(const SecondarySupport& support, std::array<CheckBox, SystemCount>& boxes) {
+  const auto systems = support.Systems();
+  for (std::size_t i = 0; i < SystemCount; ++i) boxes[i].SetValue(systems[i]->Use);
+}
+
+void StoreUse(SecondarySupport& support, const std::array<CheckBox, SystemCount>& boxes) {
+  const auto systems = support.Systems();
+  for (std::size_t i = 0; i < SystemCount; ++i) systems[i]->Use = boxes[i].Value();
 }
 
 // The outputs are read back as they are shown, rounded; "--" reads as 0.
-void StoreOutputs(ProjectRecord& record, NumberReader& reader, const SystemFields& fields,
-                  const OutputControls& outputs) {
-  reader.Read(record.*fields.rockLoad, outputs.RockLoad[0]);
+void StoreOutputs(SecondarySupport& support, NumberReader& reader, const OutputControls& outputs) {
+  const auto systems = support.Systems();
+  reader.Read(support.RockLoad, outputs.RockLoad[0]);
   for (std::size_t i = 0; i < SystemCount; ++i) {
-    reader.Read(record.*fields.supportCap[i], outputs.SupportCap[i]);
-    reader.Read(record.*fields.stabFactor[i], outputs.StabFactor[i]);
+    reader.Read(systems[i]->SupportCap, outputs.SupportCap[i]);
+    reader.Read(systems[i]->StabFactor, outputs.StabFactor[i]);
   }
 }
 
 }  // namespace
 
 void ParametersDialog::InitParameters() {
-  const ProjectRecord& record = program_.WorkParms;
-  txtCMRR.SetText(NumberText(record.CMRR));
-  program_.estimator.EstimatorRegion = record.CMRRRegionIndex;
-  program_.estimator.EstimatorRockType = record.CMRRRockTypeIndex;
-  for (const auto& [control, field] : NumberFields) (this->*control).SetText(NumberText(record.*field));
-  for (const auto& [control, field] : FlagFields) (this->*control).SetValue(record.*field);
+  const Design& design = program_.WorkParms;
+  txtCMRR.SetText(NumberText(design.Place.CMRR));
+  program_.estimator.EstimatorRegion = design.Place.CMRRRegionIndex;
+  program_.estimator.EstimatorRockType = design.Place.CMRRRockTypeIndex;
+  for (const auto& [control, field] : NumberFields) (this->*control).SetText(NumberText(field.In(design)));
+  for (const auto& [control, field] : FlagFields) (this->*control).SetValue(field.In(design));
   ApplyManualRating();
-  for (const BoltControls* bolt : {&PrimaryBoltControls, &EntryBoltControls, &InterBoltControls}) {
-    LoadBolt(program_, *bolt);
-  }
-  for (const CableControls* cable : {&EntryCableControls, &InterCableControls}) LoadCable(program_, *cable);
-  for (const StandingControls* standing : {&EntryStandingControls, &InterStandingControls}) {
-    LoadStanding(program_, *standing);
-  }
-  for (const SystemFields* fields : {&EntrySystemFields, &InterSystemFields}) {
-    for (std::size_t i = 0; i < SystemCount; ++i) (this->*fields->boxes)[i].SetValue(record.*fields->use[i]);
-  }
+  LoadBolt(program_, design.Primary, PrimaryBoltControls);
+  LoadBolt(program_, design.Entries.Bolt, EntryBoltControls);
+  LoadBolt(program_, design.Intersections.Bolt, InterBoltControls);
+  LoadCable(program_, design.Entries.Cable, EntryCableControls);
+  LoadCable(program_, design.Intersections.Cable, InterCableControls);
+  LoadStanding(program_, design.Entries.Standing, EntryStandingControls);
+  LoadStanding(program_, design.Intersections.Standing, InterStandingControls);
+  LoadUse(design.Entries, chkSecEntries);
+  LoadUse(design.Intersections, chkSecInter);
   AppendUnits(*this, Units());
 }
 
-const Control* ParametersDialog::StoreFields(ProjectRecord& record, const BoltControls& manualEntry,
+const Control* ParametersDialog::StoreFields(Design& design, const BoltControls& manualEntry,
                                              const BoltControls& manualInter) const {
   NumberReader reader;
-  reader.Read(record.CMRR, txtCMRR);
-  record.CMRRRegionIndex = program_.estimator.EstimatorRegion;
-  record.CMRRRockTypeIndex = program_.estimator.EstimatorRockType;
-  for (const auto& [control, field] : NumberFields) reader.Read(record.*field, this->*control);
-  for (const auto& [control, field] : FlagFields) record.*field = (this->*control).Value();
-  for (const BoltControls* bolt : {&PrimaryBoltControls, &EntryBoltControls, &InterBoltControls}) {
-    StoreBoltSource(record, reader, *bolt);
-  }
-  StoreBoltManual(record, reader, PrimaryBolt, PrimaryBoltControls);
-  StoreBoltManual(record, reader, SecEntryBolt, manualEntry);
-  StoreBoltManual(record, reader, SecInterBolt, manualInter);
+  reader.Read(design.Place.CMRR, txtCMRR);
+  design.Place.CMRRRegionIndex = program_.estimator.EstimatorRegion;
+  design.Place.CMRRRockTypeIndex = program_.estimator.EstimatorRockType;
+  for (const auto& [control, field] : NumberFields) reader.Read(field.In(design), this->*control);
+  for (const auto& [control, field] : FlagFields) field.In(design) = (this->*control).Value();
+  StoreBoltSource(design.Primary, reader, PrimaryBoltControls);
+  StoreBoltSource(design.Entries.Bolt, reader, EntryBoltControls);
+  StoreBoltSource(design.Intersections.Bolt, reader, InterBoltControls);
+  StoreBoltManual(design.Primary, reader, PrimaryBoltControls);
+  StoreBoltManual(design.Entries.Bolt, reader, manualEntry);
+  StoreBoltManual(design.Intersections.Bolt, reader, manualInter);
   // Both cable diameters are the entries tab's; the intersections tab's own serves the live results alone.
-  StoreCable(record, reader, EntryCableControls, cmbCableDiamSecEntry);
-  StoreCable(record, reader, InterCableControls, cmbCableDiamSecEntry);
-  StoreStanding(record, reader, EntryStandingControls);
-  StoreStanding(record, reader, InterStandingControls);
-  for (const SystemFields* fields : {&EntrySystemFields, &InterSystemFields}) {
-    for (std::size_t i = 0; i < SystemCount; ++i) record.*fields->use[i] = (this->*fields->boxes)[i].Value();
-  }
-  StoreOutputs(record, reader, EntrySystemFields, EntryOutputs);
-  StoreOutputs(record, reader, InterSystemFields, InterOutputs);
+  StoreCable(design.Entries.Cable, reader, EntryCableControls, cmbCableDiamSecEntry);
+  StoreCable(design.Intersections.Cable, reader, InterCableControls, cmbCableDiamSecEntry);
+  StoreStanding(design.Entries.Standing, reader, EntryStandingControls);
+  StoreStanding(design.Intersections.Standing, reader, InterStandingControls);
+  StoreUse(design.Entries, chkSecEntries);
+  StoreUse(design.Intersections, chkSecInter);
+  StoreOutputs(design.Entries, reader, EntryOutputs);
+  StoreOutputs(design.Intersections, reader, InterOutputs);
   return reader.Refused();
 }
 
 // A commit makes the intersections' manual bolts those of the entries tab.
-void ParametersDialog::ReadEdits(ProjectRecord& design) const {
-  StoreFields(design, EntryBoltControls, EntryBoltControls);
-}
+void ParametersDialog::ReadEdits(Design& design) const { StoreFields(design, EntryBoltControls, EntryBoltControls); }
 
-bool ParametersDialog::TakeFields(ProjectRecord& record, const BoltControls& manualEntry,
-                                  const BoltControls& manualInter) {
-  ProjectRecord taken = record;
+bool ParametersDialog::TakeFields(Design& design, const BoltControls& manualEntry, const BoltControls& manualInter) {
+  Design taken = design;
   if (const Control* refused = StoreFields(taken, manualEntry, manualInter)) {
     TellRefused(*refused);
     return false;
   }
-  record = std::move(taken);
+  design = std::move(taken);
   return true;
 }
 
 bool ParametersDialog::MayCommit() {
-  ProjectRecord design = program_.WorkParms;
+  Design design = program_.WorkParms;
   return TakeFields(design, EntryBoltControls, EntryBoltControls);
 }
 

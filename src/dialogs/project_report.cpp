@@ -40,7 +40,7 @@ void TakeShownDesign(Program& program) {
   ParametersDialog dialog(program);
   dialog.Open();
   if (!dialog.CopyToWorkParmsCopy()) throw RuntimeError(error_number::Overflow);
-  program.WorkParms.Design() = program.WorkParmsCopy.Design();
+  program.WorkParms.Support() = program.WorkParmsCopy.Support();
 }
 
 }  // namespace
@@ -55,7 +55,7 @@ void BuildProjectReport(Program& program) {
   });
   if (!isComputed) NoCalculationReport(apart);
   program.OutBuf[1] = apart.OutBuf[1];
-  const Preview preview(program.WorkParms.Design(), apart.WorkParms.Design());
+  const Preview preview(program.WorkParms.Support(), apart.WorkParms.Support());
   LoadOutBuf0(program);
 }
 

@@ -6,23 +6,22 @@ namespace orby {
 namespace {
 
 // Cost of one bolt under each head.
-std::array<Single, CostHeads> CostPerBolt(const CostGroup& in, Single shiftsPerYear) {
+std::array<Single, CostHeads> CostPerBolt(const CostInputs& in, Single shiftsPerYear) {
   std::array<Single, CostHeads> cost{};
-  if (in.CostNBoltsRow <= 0 || in.CostNboltsShift <= 0) return cost;
-  const double perShift = in.CostNboltsShift;
-  const double labor = in.CostTotalLabor;
-  const double bolt = in.CostBoltCost;
+  if (in.NBoltsRow <= 0 || in.NboltsShift <= 0) return cost;
+  const double perShift = in.NboltsShift;
+  const double labor = in.TotalLabor;
+  const double bolt = in.BoltCost;
   auto& [consumables, operating, maintenance, transportation, ownership] = cost;
 
-  consumables = ToSingle(bolt + in.CostPlateCost + in.CostResinCost + in.CostHeaderCost + in.CostBitCost / perShift +
-                         in.CostStrapCost / static_cast<double>(in.CostNBoltsRow));
-  operating = ToSingle(labor * in.CostNOperShift * in.CostHoursShift / perShift);
-  transportation = ToSingle(in.CostTranspCost / perShift);
+  consumables = ToSingle(bolt + in.PlateCost + in.ResinCost + in.HeaderCost + in.BitCost / perShift +
+                         in.StrapCost / static_cast<double>(in.NBoltsRow));
+  operating = ToSingle(labor * in.NOperShift * in.HoursShift / perShift);
+  transportation = ToSingle(in.TranspCost / perShift);
   if (shiftsPerYear > 0) {
-    maintenance =
-        ToSingle((labor * in.CostMaintainHrs * in.CostWeeksYear + in.CostMaintainCost) / shiftsPerYear / perShift);
-    if (in.CostYearsDepr > 0) {
-      const double perYear = static_cast<double>(in.CostCapitalCost) / in.CostYearsDepr;
+    maintenance = ToSingle((labor * in.MaintainHrs * in.WeeksYear + in.MaintainCost) / shiftsPerYear / perShift);
+    if (in.YearsDepr > 0) {
+      const double perYear = static_cast<double>(in.CapitalCost) / in.YearsDepr;
       ownership = ToSingle(perYear / shiftsPerYear / perShift);
     }
   }
@@ -31,13 +30,13 @@ std::array<Single, CostHeads> CostPerBolt(const CostGroup& in, Single shiftsPerY
 
 // Tons of clean coal per shift that the cost is spread over; 0 or less for none. The calculated ones must be numbers
 // even when those that were typed count.
-Single ProductionPerShift(const CostGroup& in) {
+Single ProductionPerShift(const CostInputs& in) {
   Single calculated = 0;
-  if (in.CostRowSpacing > 0) {
-    const Single advance = ToSingle(AdvancePerShift(in.CostNBoltsRow, in.CostRowSpacing, in.CostNboltsShift));
-    calculated = ToSingle(CleanProductionPerShift(advance, in.CostAdvanceRate));
+  if (in.RowSpacing > 0) {
+    const Single advance = ToSingle(AdvancePerShift(in.NBoltsRow, in.RowSpacing, in.NboltsShift));
+    calculated = ToSingle(CleanProductionPerShift(advance, in.AdvanceRate));
   }
-  return in.CostProduction == 1 ? calculated : in.CostCleanProduction;
+  return in.Production == 1 ? calculated : in.CleanProduction;
 }
 
 }  // namespace
@@ -48,8 +47,8 @@ double AdvancePerShift(double boltsPerRow, double rowSpacing, double boltsPerShi
 
 double CleanProductionPerShift(double advance, double advanceRate) { return Multiply(advance, advanceRate); }
 
-CostTable AnalyseCost(const CostGroup& inputs) {
-  const Single shiftsPerYear = ToSingle(static_cast<double>(inputs.CostShiftsWeek) * inputs.CostWeeksYear);
+CostTable AnalyseCost(const CostInputs& inputs) {
+  const Single shiftsPerYear = ToSingle(static_cast<double>(inputs.ShiftsWeek) * inputs.WeeksYear);
   const auto perBolt = CostPerBolt(inputs, shiftsPerYear);
   const Single production = ProductionPerShift(inputs);
 
@@ -57,10 +56,10 @@ CostTable AnalyseCost(const CostGroup& inputs) {
   for (std::size_t head = 0; head < CostHeads; ++head) {
     auto& [bolt, advance, shift, ton] = table.Heads[head];
     bolt = perBolt[head];
-    if (inputs.CostRowSpacing > 0) {
-      advance = ToSingle(static_cast<double>(inputs.CostNBoltsRow) * bolt / inputs.CostRowSpacing);
+    if (inputs.RowSpacing > 0) {
+      advance = ToSingle(static_cast<double>(inputs.NBoltsRow) * bolt / inputs.RowSpacing);
     }
-    shift = ToSingle(static_cast<double>(inputs.CostNboltsShift) * bolt);
+    shift = ToSingle(static_cast<double>(inputs.NboltsShift) * bolt);
     if (production > 0) ton = ToSingle(static_cast<double>(shift) / production);
   }
   for (std::size_t column = 0; column < table.Totals.size(); ++column) {

@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "core/project_record.h"
+#include "design/design.h"
 
 namespace orby {
 
@@ -18,7 +18,7 @@ struct CostTable {
 };
 
 // A cell whose divisor is not above 0 stays 0. Throws RuntimeError 6 when a figure lies beyond a Single.
-CostTable AnalyseCost(const CostGroup& inputs);
+CostTable AnalyseCost(const CostInputs& inputs);
 
 // Advance per shift, in the unit of the row spacing: bolts per row over row spacing, times bolts per shift.
 // Throws RuntimeError 11 when the spacing is 0, 6 when the result is beyond a Double.

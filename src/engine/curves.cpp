@@ -121,17 +121,17 @@ constexpr std::array<CurveRule, CurveCount> Rules{{
     {AngleRange, &WorkingValues::Angle, Measure::Plain, IntersectionLoad, Measure::Force},
 }};
 
-WorkingValues WorkingValuesOf(const ProjectRecord& design, Integer units) {
+WorkingValues WorkingValuesOf(const Design& design, Integer units) {
   const double weightFactor = units == Metric ? PcfPerKilonewtonCubicMetre : 1;
-  return {static_cast<Single>(design.CMRR),
-          InFeet(design.DepthofCover, units),
-          design.StabilityFactor,
-          InFeet(design.ActualSpanDiagonals, units),
-          InFeet(design.EntryWidth, units),
-          InFeet(design.RockLoadHeight, units),
-          design.RockFallAngle,
-          ToSingle(design.UnitWeight * weightFactor),
-          SuggestedSumDiagonals(design.CMRR)};
+  return {static_cast<Single>(design.Place.CMRR),
+          InFeet(design.Place.DepthofCover, units),
+          design.Primary.StabilityFactor,
+          InFeet(design.Place.ActualSpanDiagonals, units),
+          InFeet(design.Place.EntryWidth, units),
+          InFeet(design.Entries.RockLoadHeight, units),
+          design.Entries.RockFallAngle,
+          ToSingle(design.Place.UnitWeight * weightFactor),
+          SuggestedSumDiagonals(design.Place.CMRR)};
 }
 
 Single InProjectUnits(Single value, Measure measure, Integer units) {

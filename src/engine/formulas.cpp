@@ -4,7 +4,7 @@
 
 #include "base/arithmetic.h"
 #include "base/runtime_error.h"
-#include "core/units.h"
+#include "design/units.h"
 
 namespace orby {
 namespace {

@@ -7,7 +7,7 @@
 #pragma once
 
 #include "base/types.h"
-#include "core/catalog_lists.h"
+#include "design/catalog_lists.h"
 
 namespace orby {
 

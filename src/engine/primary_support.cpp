@@ -4,7 +4,7 @@
 
 namespace orby {
 
-Suggestion SuggestSupport(const Site& site, Integer units) {
+Suggestion SuggestSupport(const WorkingSite& site, Integer units) {
   Suggestion suggestion;
   suggestion.SuggestedSpan = SuggestedSumDiagonals(site.CMRR);
   suggestion.MinSpan = MinimumSumDiagonals(site.Width, units);
@@ -20,14 +20,14 @@ Bolt InEnglishUnits(const Bolt& bolt, Integer units) {
 
 Single InFeet(Single length, Integer units) { return units == Metric ? ToSingle(length * FeetPerMetre) : length; }
 
-std::optional<LiveSuggestion> SuggestLive(const Site& typed, Integer units) {
+std::optional<LiveSuggestion> SuggestLive(const WorkingSite& typed, Integer units) {
   if (typed.StabilityFactor < 1) return std::nullopt;
   if (typed.CMRR < 0 || typed.CMRR > 100) return std::nullopt;
   if (typed.Width <= 0) return std::nullopt;
   if (typed.Span <= typed.Width) return std::nullopt;
   if (typed.Depth < 0) return std::nullopt;
 
-  Site site = typed;
+  WorkingSite site = typed;
   site.Depth = InFeet(typed.Depth, units);
   site.Span = InFeet(typed.Span, units);
   site.Width = InFeet(typed.Width, units);

@@ -5,14 +5,14 @@
 #include <optional>
 #include <string_view>
 
-#include "core/project_record.h"
-#include "core/units.h"
+#include "design/design.h"
+#include "design/units.h"
 #include "engine/formulas.h"
 
 namespace orby {
 
 // The site in English working units.
-struct Site {
+struct WorkingSite {
   Single StabilityFactor = 0;
   Single CMRR = 0;
   Single Depth = 0;  // ft
@@ -26,15 +26,15 @@ struct Suggestion {
   Single SugPSUP = 0;
   Single SugLength = 0;  // ft
 
-  bool SpanIsTooLarge(const Site& site) const { return site.Span > SuggestedSpan; }
-  bool SpanAndWidthMismatch(const Site& site) const { return site.Span < MinSpan; }
+  bool SpanIsTooLarge(const WorkingSite& site) const { return site.Span > SuggestedSpan; }
+  bool SpanAndWidthMismatch(const WorkingSite& site) const { return site.Span < MinSpan; }
 };
 
 // The two span warnings, in the dialog and in the report.
 inline constexpr std::string_view SpanExceedsSuggested = "Actual sum of diagonals exceeds suggested sum of diagonals.";
 inline constexpr std::string_view SpanAndWidthMayNotMatch = "Intersection diagonals and entry width may not match.";
 
-Suggestion SuggestSupport(const Site& site, Integer units);
+Suggestion SuggestSupport(const WorkingSite& site, Integer units);
 
 // A grade in ksi and a diameter in inches, from the project's units.
 Bolt InEnglishUnits(const Bolt& bolt, Integer units);
@@ -54,7 +54,7 @@ struct LiveSuggestion {
 
 // Nothing when the stability factor is below 1, the rating outside 0..100, the width not above 0, the span not above
 // the width, or the depth negative. The two span warnings are for English designs only.
-std::optional<LiveSuggestion> SuggestLive(const Site& typed, Integer units);
+std::optional<LiveSuggestion> SuggestLive(const WorkingSite& typed, Integer units);
 
 // PSUP of the pattern as typed. Nothing when there are no bolts or more than 10 in a row, the bolt is not above 0.5 in
 // or above 1.25 in thick, or the length, grade, row spacing or width is not above 0.

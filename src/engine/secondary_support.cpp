@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "base/arithmetic.h"
-#include "core/units.h"
+#include "design/units.h"
 
 namespace orby {
 namespace {

@@ -3,10 +3,9 @@
 // computed throws its RuntimeError.
 #pragma once
 
-#include <cstddef>
 #include <optional>
 
-#include "core/project_record.h"
+#include "design/design.h"
 #include "engine/formulas.h"
 
 namespace orby {
@@ -39,9 +38,6 @@ struct BoltSystem {
   Single Count = 0;
   Single Spacing = 0;
 };
-
-// Cable bolts, trusses, roof bolts, standing supports.
-inline constexpr std::size_t SystemCount = 4;
 
 struct SupportResult {
   Single Capacity = 0;         // per length of entry, or of the whole intersection

@@ -5,7 +5,7 @@
 #include "base/arithmetic.h"
 #include "base/runtime_error.h"
 #include "core/file_helpers.h"
-#include "files/record_field.h"
+#include "design/field.h"
 
 namespace orby {
 namespace {
@@ -20,65 +20,63 @@ struct ConversionRow {
   int EnglishDecimals;
 };
 
-using R = ProjectRecord;
-
 constexpr auto Conversions = std::to_array<ConversionRow>({
-    {Kind::Length, &R::DepthofCover, 2, 1},
-    {Kind::Length, &R::EntryWidth, 2, 1},
-    {Kind::Length, &R::ActualSpanDiagonals, 2, 1},
-    {Kind::Length, &R::BoltLengthPrimary, 2, 2},
-    {Kind::Length, &R::BoltLengthSecEntry, 2, 2},
-    {Kind::Length, &R::BoltLengthSecInter, 1, 2},
-    {Kind::Length, &R::RowSpacingPrimary, 1, 1},
-    {Kind::Length, &R::RockLoadHeight, 1, 1},
-    {Kind::Length, &R::CableLengthSecEntry, 1, 1},
-    {Kind::Length, &R::CableRowSpacingSecEntry, 1, 1},
-    {Kind::Length, &R::TrussLengthMemberSecEntry, 1, 1},
-    {Kind::Length, &R::TrussSpacingSecEntry, 1, 1},
-    {Kind::Length, &R::RowSpacingSecEntry, 1, 1},
-    {Kind::Length, &R::SupportRowSpacingSecEntry, 1, 1},
-    {Kind::Length, &R::RockLoadHeightInter, 1, 1},
-    {Kind::Length, &R::CableLengthSecInter, 1, 1},
-    {Kind::Length, &R::TrussLengthMemberSecInter, 1, 1},
-    {Kind::UnitWeight, &R::UnitWeight, 2, 2},
-    {Kind::Diameter, &R::BoltTableDiameterPrimary, 2, 2},
-    {Kind::Diameter, &R::BoltDiameterStdPrimary, 2, 2},
-    {Kind::Diameter, &R::BoltDiameterManualPrimary, 2, 2},
-    {Kind::Diameter, &R::CableDiamSecEntry, 2, 2},
-    {Kind::Diameter, &R::BoltTableDiameterSecEntry, 2, 2},
-    {Kind::Diameter, &R::BoltDiameterStdSecEntry, 2, 2},
-    {Kind::Diameter, &R::BoltDiameterManualSecEntry, 2, 2},
-    {Kind::Diameter, &R::CableDiamSecInter, 2, 2},
-    {Kind::Diameter, &R::BoltTableDiameterSecInter, 2, 2},
-    {Kind::Diameter, &R::BoltDiameterStdSecInter, 2, 2},
-    {Kind::Diameter, &R::BoltDiameterManualSecInter, 2, 2},
-    {Kind::Grade, &R::BoltTableGradePrimary, 0, 0},
-    {Kind::Grade, &R::BoltGradeStdPrimary, 0, 0},
-    {Kind::Grade, &R::BoltGradeManualPrimary, 0, 0},
-    {Kind::Grade, &R::BoltTableGradeSecEntry, 0, 0},
-    {Kind::Grade, &R::BoltGradeStdSecEntry, 0, 0},
-    {Kind::Grade, &R::BoltGradeManualSecEntry, 0, 0},
-    {Kind::Grade, &R::BoltTableGradeSecInter, 0, 0},
-    {Kind::Grade, &R::BoltGradeStdSecInter, 0, 0},
-    {Kind::Grade, &R::BoltGradeManualSecInter, 0, 0},
-    {Kind::Force, &R::CableCapacityStdSecEntry, 1, 2},
-    {Kind::Force, &R::CableCapacityStdSecInter, 2, 2},
-    {Kind::Force, &R::CableCapacityManualSecEntry, 1, 1},
-    {Kind::Force, &R::TrussCapacitySecEntry, 1, 1},
-    {Kind::Force, &R::SupportCapSecEntry, 1, 1},
-    {Kind::Force, &R::RockLoadInter1, 1, 1},
-    {Kind::Force, &R::CableCapacityManualSecInter, 1, 1},
-    {Kind::Force, &R::SupportCapInter1, 1, 1},
-    {Kind::Force, &R::TrussCapacitySecInter, 1, 1},
-    {Kind::Force, &R::SupportCapInter2, 1, 1},
-    {Kind::Force, &R::SupportCapInter3, 1, 1},
-    {Kind::Force, &R::SupportCapSecInter, 1, 1},
-    {Kind::Force, &R::SupportCapInter4, 1, 1},
-    {Kind::LineLoad, &R::RockLoadEntry1, 1, 1},
-    {Kind::LineLoad, &R::SupportCapEntry1, 1, 1},
-    {Kind::LineLoad, &R::SupportCapEntry2, 1, 1},
-    {Kind::LineLoad, &R::SupportCapEntry3, 1, 1},
-    {Kind::LineLoad, &R::SupportCapEntry4, 1, 1},
+    {Kind::Length, [](auto& d) { return &d.Place.DepthofCover; }, 2, 1},
+    {Kind::Length, [](auto& d) { return &d.Place.EntryWidth; }, 2, 1},
+    {Kind::Length, [](auto& d) { return &d.Place.ActualSpanDiagonals; }, 2, 1},
+    {Kind::Length, [](auto& d) { return &d.Primary.Length; }, 2, 2},
+    {Kind::Length, [](auto& d) { return &d.Entries.Bolt.Length; }, 2, 2},
+    {Kind::Length, [](auto& d) { return &d.Intersections.Bolt.Length; }, 1, 2},
+    {Kind::Length, [](auto& d) { return &d.Primary.RowSpacing; }, 1, 1},
+    {Kind::Length, [](auto& d) { return &d.Entries.RockLoadHeight; }, 1, 1},
+    {Kind::Length, [](auto& d) { return &d.Entries.Cable.Length; }, 1, 1},
+    {Kind::Length, [](auto& d) { return &d.Entries.Cable.RowSpacing; }, 1, 1},
+    {Kind::Length, [](auto& d) { return &d.Entries.Truss.LengthMember; }, 1, 1},
+    {Kind::Length, [](auto& d) { return &d.Entries.Truss.Spacing; }, 1, 1},
+    {Kind::Length, [](auto& d) { return &d.Entries.Bolt.RowSpacing; }, 1, 1},
+    {Kind::Length, [](auto& d) { return &d.Entries.Standing.RowSpacing; }, 1, 1},
+    {Kind::Length, [](auto& d) { return &d.Intersections.RockLoadHeight; }, 1, 1},
+    {Kind::Length, [](auto& d) { return &d.Intersections.Cable.Length; }, 1, 1},
+    {Kind::Length, [](auto& d) { return &d.Intersections.Truss.LengthMember; }, 1, 1},
+    {Kind::UnitWeight, [](auto& d) { return &d.Place.UnitWeight; }, 2, 2},
+    {Kind::Diameter, [](auto& d) { return &d.Primary.TableDiameter; }, 2, 2},
+    {Kind::Diameter, [](auto& d) { return &d.Primary.DiameterStd; }, 2, 2},
+    {Kind::Diameter, [](auto& d) { return &d.Primary.DiameterManual; }, 2, 2},
+    {Kind::Diameter, [](auto& d) { return &d.Entries.Cable.Diam; }, 2, 2},
+    {Kind::Diameter, [](auto& d) { return &d.Entries.Bolt.TableDiameter; }, 2, 2},
+    {Kind::Diameter, [](auto& d) { return &d.Entries.Bolt.DiameterStd; }, 2, 2},
+    {Kind::Diameter, [](auto& d) { return &d.Entries.Bolt.DiameterManual; }, 2, 2},
+    {Kind::Diameter, [](auto& d) { return &d.Intersections.Cable.Diam; }, 2, 2},
+    {Kind::Diameter, [](auto& d) { return &d.Intersections.Bolt.TableDiameter; }, 2, 2},
+    {Kind::Diameter, [](auto& d) { return &d.Intersections.Bolt.DiameterStd; }, 2, 2},
+    {Kind::Diameter, [](auto& d) { return &d.Intersections.Bolt.DiameterManual; }, 2, 2},
+    {Kind::Grade, [](auto& d) { return &d.Primary.TableGrade; }, 0, 0},
+    {Kind::Grade, [](auto& d) { return &d.Primary.GradeStd; }, 0, 0},
+    {Kind::Grade, [](auto& d) { return &d.Primary.GradeManual; }, 0, 0},
+    {Kind::Grade, [](auto& d) { return &d.Entries.Bolt.TableGrade; }, 0, 0},
+    {Kind::Grade, [](auto& d) { return &d.Entries.Bolt.GradeStd; }, 0, 0},
+    {Kind::Grade, [](auto& d) { return &d.Entries.Bolt.GradeManual; }, 0, 0},
+    {Kind::Grade, [](auto& d) { return &d.Intersections.Bolt.TableGrade; }, 0, 0},
+    {Kind::Grade, [](auto& d) { return &d.Intersections.Bolt.GradeStd; }, 0, 0},
+    {Kind::Grade, [](auto& d) { return &d.Intersections.Bolt.GradeManual; }, 0, 0},
+    {Kind::Force, [](auto& d) { return &d.Entries.Cable.CapacityStd; }, 1, 2},
+    {Kind::Force, [](auto& d) { return &d.Intersections.Cable.CapacityStd; }, 2, 2},
+    {Kind::Force, [](auto& d) { return &d.Entries.Cable.CapacityManual; }, 1, 1},
+    {Kind::Force, [](auto& d) { return &d.Entries.Truss.Capacity; }, 1, 1},
+    {Kind::Force, [](auto& d) { return &d.Entries.Standing.Capacity; }, 1, 1},
+    {Kind::Force, [](auto& d) { return &d.Intersections.RockLoad; }, 1, 1},
+    {Kind::Force, [](auto& d) { return &d.Intersections.Cable.CapacityManual; }, 1, 1},
+    {Kind::Force, [](auto& d) { return &d.Intersections.Cable.SupportCap; }, 1, 1},
+    {Kind::Force, [](auto& d) { return &d.Intersections.Truss.Capacity; }, 1, 1},
+    {Kind::Force, [](auto& d) { return &d.Intersections.Truss.SupportCap; }, 1, 1},
+    {Kind::Force, [](auto& d) { return &d.Intersections.Bolt.SupportCap; }, 1, 1},
+    {Kind::Force, [](auto& d) { return &d.Intersections.Standing.Capacity; }, 1, 1},
+    {Kind::Force, [](auto& d) { return &d.Intersections.Standing.SupportCap; }, 1, 1},
+    {Kind::LineLoad, [](auto& d) { return &d.Entries.RockLoad; }, 1, 1},
+    {Kind::LineLoad, [](auto& d) { return &d.Entries.Cable.SupportCap; }, 1, 1},
+    {Kind::LineLoad, [](auto& d) { return &d.Entries.Truss.SupportCap; }, 1, 1},
+    {Kind::LineLoad, [](auto& d) { return &d.Entries.Bolt.SupportCap; }, 1, 1},
+    {Kind::LineLoad, [](auto& d) { return &d.Entries.Standing.SupportCap; }, 1, 1},
 });
 
 double ToMetric(Kind quantity, double value) {
@@ -117,7 +115,7 @@ Single Rounded(double value, int decimals) {
 void ConvertProject(Program& program, Integer target) {
   program.FileSaved = false;
   for (const ConversionRow& row : Conversions) {
-    Single& field = program.WorkParms.*row.Field;
+    Single& field = row.Field.In(program.WorkParms);
     const double value = field;
     field = target == Metric ? Rounded(ToMetric(row.Quantity, value), row.MetricDecimals)
                              : Rounded(ToEnglish(row.Quantity, value), row.EnglishDecimals);

@@ -5,93 +5,92 @@
 
 #include "base/arithmetic.h"
 #include "core/messages.h"
-#include "files/record_field.h"
+#include "design/field.h"
 
 namespace orby {
 namespace {
 
-using R = ProjectRecord;
 using D = DesignDefaults;
 
 struct StartValue {
-  NumberField Field;
+  std::variant<IntegerField, SingleField> Field;
   Single ENG;
   Single MET;
 };
 
 constexpr auto StartValues = std::to_array<StartValue>({
-    {&R::PrimSupport, 1, 1},
-    {&R::SecondSupEntries, 1, 1},
-    {&R::SecondSupInter, 1, 1},
-    {&R::RockLoadHeight, 8, 3},
-    {&R::RockFallAngle, 30, 30},
-    {&R::SecEntryUseCable, 1, 1},
-    {&R::SecEntryUseTruss, 0, 0},
-    {&R::SecEntryUseBolt, 0, 0},
-    {&R::SecEntryUseStanding, 0, 0},
-    {&R::CableLengthSecEntry, 10, 3},
-    {&R::CableCapModeSecEntry, 0, 0},
-    {&R::CableCapacitySecEntry, 0, 0},
-    {&R::CableDiamSecEntry, 0.6F, 21.8F},
-    {&R::CableCapacityStdSecEntry, 27, 590},
-    {&R::CableCapacityManualSecEntry, 27, 590},
-    {&R::CableBoltsPerRowSecEntry, 2, 4},
-    {&R::CableRowSpacingSecEntry, 5, 5},
-    {&R::TrussLengthMemberSecEntry, 8, 2.7F},
-    {&R::TrussAngleSecEntry, 45, 45},
-    {&R::TrussCapacitySecEntry, 30, 300},
-    {&R::TrussSpacingSecEntry, 4, 4},
-    {&R::BoltsperRowSecEntry, 4, 4},
-    {&R::SupportTypeModeSecEntry, 0, 0},
-    {&R::SupportCapSecEntry, 50, 500},
-    {&R::NumberSupPerRowSecEntry, 2, 2},
-    {&R::SupportRowSpacingSecEntry, 8, 3},
-    {&R::RockLoadHeightInter, 8, 3},
-    {&R::RockFallAngleEntry, 30, 30},
-    {&R::RockFallAngleXcut, 30, 30},
-    {&R::SecInterUseCable, 1, 1},
-    {&R::SecInterUseTruss, 0, 0},
-    {&R::SecInterUseBolt, 0, 0},
-    {&R::SecInterUseStanding, 0, 0},
-    {&R::CableLengthSecInter, 10, 3},
-    {&R::CableCapModeSecInter, 0, 0},
-    {&R::CableCapacitySecInter, 0, 0},
-    {&R::CableDiamSecInter, 0.6F, 21.8F},
-    {&R::CableCapacityStdSecInter, 27, 590},
-    {&R::CableCapacityManualSecInter, 27, 590},
-    {&R::CableNumberSecInter, 10, 4},
-    {&R::TrussLengthMemberSecInter, 8, 2.7F},
-    {&R::TrussAngleSecInter, 45, 45},
-    {&R::TrussCapacitySecInter, 30, 300},
-    {&R::TrussNumberSecInter, 4, 4},
-    {&R::BoltNumberSecInter, 10, 10},
-    {&R::SupportTypeModeSecInter, 0, 0},
-    {&R::SupportCapSecInter, 50, 500},
-    {&R::SupportNumberSecInter, 4, 4},
-    {&R::CostBoltCost, 3, 3},
-    {&R::CostPlateCost, 1, 1},
-    {&R::CostResinCost, 1.5F, 1.5F},
-    {&R::CostBitCost, 67, 67},
-    {&R::CostHeaderCost, 0, 0},
-    {&R::CostStrapCost, 0, 0},
-    {&R::CostNboltsShift, 300, 300},
-    {&R::CostNBoltsRow, 4, 4},
-    {&R::CostRowSpacing, 4, 1.2F},
-    {&R::CostNOperShift, 2, 2},
-    {&R::CostTotalLabor, 35, 35},
-    {&R::CostHoursShift, 8, 8},
-    {&R::CostMaintainHrs, 2, 2},
-    {&R::CostMaintainCost, 30000, 30000},
-    {&R::CostTranspCost, 100, 100},
-    {&R::CostCapitalCost, 1000000, 1000000},
-    {&R::CostYearsDepr, 5, 5},
-    {&R::CostAdvanceShift, 300, 100},
-    {&R::CostAdvance, 1, 1},
-    {&R::CostAdvanceRate, 4, 12},
-    {&R::CostCleanProduction, 1200, 1200},
-    {&R::CostProduction, 1, 1},
-    {&R::CostShiftsWeek, 12, 12},
-    {&R::CostWeeksYear, 50, 50},
+    {[](auto& d) { return &d.Primary.Analysed; }, 1, 1},
+    {[](auto& d) { return &d.Entries.Analysed; }, 1, 1},
+    {[](auto& d) { return &d.Intersections.Analysed; }, 1, 1},
+    {[](auto& d) { return &d.Entries.RockLoadHeight; }, 8, 3},
+    {[](auto& d) { return &d.Entries.RockFallAngle; }, 30, 30},
+    {[](auto& d) { return &d.Entries.Cable.Use; }, 1, 1},
+    {[](auto& d) { return &d.Entries.Truss.Use; }, 0, 0},
+    {[](auto& d) { return &d.Entries.Bolt.Use; }, 0, 0},
+    {[](auto& d) { return &d.Entries.Standing.Use; }, 0, 0},
+    {[](auto& d) { return &d.Entries.Cable.Length; }, 10, 3},
+    {[](auto& d) { return &d.Entries.Cable.CapMode; }, 0, 0},
+    {[](auto& d) { return &d.Entries.Cable.Capacity; }, 0, 0},
+    {[](auto& d) { return &d.Entries.Cable.Diam; }, 0.6F, 21.8F},
+    {[](auto& d) { return &d.Entries.Cable.CapacityStd; }, 27, 590},
+    {[](auto& d) { return &d.Entries.Cable.CapacityManual; }, 27, 590},
+    {[](auto& d) { return &d.Entries.Cable.BoltsPerRow; }, 2, 4},
+    {[](auto& d) { return &d.Entries.Cable.RowSpacing; }, 5, 5},
+    {[](auto& d) { return &d.Entries.Truss.LengthMember; }, 8, 2.7F},
+    {[](auto& d) { return &d.Entries.Truss.Angle; }, 45, 45},
+    {[](auto& d) { return &d.Entries.Truss.Capacity; }, 30, 300},
+    {[](auto& d) { return &d.Entries.Truss.Spacing; }, 4, 4},
+    {[](auto& d) { return &d.Entries.Bolt.BoltsperRow; }, 4, 4},
+    {[](auto& d) { return &d.Entries.Standing.TypeMode; }, 0, 0},
+    {[](auto& d) { return &d.Entries.Standing.Capacity; }, 50, 500},
+    {[](auto& d) { return &d.Entries.Standing.NumberPerRow; }, 2, 2},
+    {[](auto& d) { return &d.Entries.Standing.RowSpacing; }, 8, 3},
+    {[](auto& d) { return &d.Intersections.RockLoadHeight; }, 8, 3},
+    {[](auto& d) { return &d.Intersections.RockFallAngle; }, 30, 30},
+    {[](auto& d) { return &d.Intersections.RockFallAngleXcut; }, 30, 30},
+    {[](auto& d) { return &d.Intersections.Cable.Use; }, 1, 1},
+    {[](auto& d) { return &d.Intersections.Truss.Use; }, 0, 0},
+    {[](auto& d) { return &d.Intersections.Bolt.Use; }, 0, 0},
+    {[](auto& d) { return &d.Intersections.Standing.Use; }, 0, 0},
+    {[](auto& d) { return &d.Intersections.Cable.Length; }, 10, 3},
+    {[](auto& d) { return &d.Intersections.Cable.CapMode; }, 0, 0},
+    {[](auto& d) { return &d.Intersections.Cable.Capacity; }, 0, 0},
+    {[](auto& d) { return &d.Intersections.Cable.Diam; }, 0.6F, 21.8F},
+    {[](auto& d) { return &d.Intersections.Cable.CapacityStd; }, 27, 590},
+    {[](auto& d) { return &d.Intersections.Cable.CapacityManual; }, 27, 590},
+    {[](auto& d) { return &d.Intersections.Cable.Number; }, 10, 4},
+    {[](auto& d) { return &d.Intersections.Truss.LengthMember; }, 8, 2.7F},
+    {[](auto& d) { return &d.Intersections.Truss.Angle; }, 45, 45},
+    {[](auto& d) { return &d.Intersections.Truss.Capacity; }, 30, 300},
+    {[](auto& d) { return &d.Intersections.Truss.Number; }, 4, 4},
+    {[](auto& d) { return &d.Intersections.Bolt.Number; }, 10, 10},
+    {[](auto& d) { return &d.Intersections.Standing.TypeMode; }, 0, 0},
+    {[](auto& d) { return &d.Intersections.Standing.Capacity; }, 50, 500},
+    {[](auto& d) { return &d.Intersections.Standing.Number; }, 4, 4},
+    {[](auto& d) { return &d.Cost.BoltCost; }, 3, 3},
+    {[](auto& d) { return &d.Cost.PlateCost; }, 1, 1},
+    {[](auto& d) { return &d.Cost.ResinCost; }, 1.5F, 1.5F},
+    {[](auto& d) { return &d.Cost.BitCost; }, 67, 67},
+    {[](auto& d) { return &d.Cost.HeaderCost; }, 0, 0},
+    {[](auto& d) { return &d.Cost.StrapCost; }, 0, 0},
+    {[](auto& d) { return &d.Cost.NboltsShift; }, 300, 300},
+    {[](auto& d) { return &d.Cost.NBoltsRow; }, 4, 4},
+    {[](auto& d) { return &d.Cost.RowSpacing; }, 4, 1.2F},
+    {[](auto& d) { return &d.Cost.NOperShift; }, 2, 2},
+    {[](auto& d) { return &d.Cost.TotalLabor; }, 35, 35},
+    {[](auto& d) { return &d.Cost.HoursShift; }, 8, 8},
+    {[](auto& d) { return &d.Cost.MaintainHrs; }, 2, 2},
+    {[](auto& d) { return &d.Cost.MaintainCost; }, 30000, 30000},
+    {[](auto& d) { return &d.Cost.TranspCost; }, 100, 100},
+    {[](auto& d) { return &d.Cost.CapitalCost; }, 1000000, 1000000},
+    {[](auto& d) { return &d.Cost.YearsDepr; }, 5, 5},
+    {[](auto& d) { return &d.Cost.AdvanceShift; }, 300, 100},
+    {[](auto& d) { return &d.Cost.Advance; }, 1, 1},
+    {[](auto& d) { return &d.Cost.AdvanceRate; }, 4, 12},
+    {[](auto& d) { return &d.Cost.CleanProduction; }, 1200, 1200},
+    {[](auto& d) { return &d.Cost.Production; }, 1, 1},
+    {[](auto& d) { return &d.Cost.ShiftsWeek; }, 12, 12},
+    {[](auto& d) { return &d.Cost.WeeksYear; }, 50, 50},
 });
 
 using Default = Single DesignDefaults::*;
@@ -109,13 +108,14 @@ struct ConfiguredValue {
 };
 
 constexpr auto ConfiguredValues = std::to_array<ConfiguredValue>({
-    {&R::DepthofCover, {&D::DefaultENGDepthofCover, &D::DefaultMETDepthofCover}},
-    {&R::UnitWeight, {&D::DefaultENGUnitWeight, &D::DefaultMETUnitWeight}},
-    {&R::ActualSpanDiagonals, {&D::DefaultENGActualInterSpan, &D::DefaultMETActualInterSpan}},
-    {&R::EntryWidth, {&D::DefaultENGEntryWidth, &D::DefaultMETEntryWidth}},
-    {&R::StabilityFactor, {&D::DefaultStabilityFactor, &D::DefaultStabilityFactor}},
-    {&R::RowSpacingPrimary, {&D::DefaultENGrowSpacing, &D::DefaultMETrowSpacing}},
-    {&R::RowSpacingSecEntry, {&D::DefaultENGrowSpacing, &D::DefaultMETrowSpacing}},
+    {[](auto& d) { return &d.Place.DepthofCover; }, {&D::DefaultENGDepthofCover, &D::DefaultMETDepthofCover}},
+    {[](auto& d) { return &d.Place.UnitWeight; }, {&D::DefaultENGUnitWeight, &D::DefaultMETUnitWeight}},
+    {[](auto& d) { return &d.Place.ActualSpanDiagonals; },
+     {&D::DefaultENGActualInterSpan, &D::DefaultMETActualInterSpan}},
+    {[](auto& d) { return &d.Place.EntryWidth; }, {&D::DefaultENGEntryWidth, &D::DefaultMETEntryWidth}},
+    {[](auto& d) { return &d.Primary.StabilityFactor; }, {&D::DefaultStabilityFactor, &D::DefaultStabilityFactor}},
+    {[](auto& d) { return &d.Primary.RowSpacing; }, {&D::DefaultENGrowSpacing, &D::DefaultMETrowSpacing}},
+    {[](auto& d) { return &d.Entries.Bolt.RowSpacing; }, {&D::DefaultENGrowSpacing, &D::DefaultMETrowSpacing}},
 });
 
 constexpr DefaultPair BoltLength{&D::DefaultENGActualBoltLength, &D::DefaultMETActualBoltLength};
@@ -123,44 +123,45 @@ constexpr DefaultPair BoltDiameter{&D::DefaultENGboltDiameter, &D::DefaultMETbol
 constexpr DefaultPair YieldGrade{&D::DefaultENGBoltGrade, &D::DefaultMETBoltGrade};
 constexpr DefaultPair UltimateGrade{&D::DefaultENGBoltUTS, &D::DefaultMETBoltUTS};
 
-void FillStartValues(ProjectRecord& record, Integer units) {
+void FillStartValues(Design& design, Integer units) {
   for (const StartValue& start : StartValues) {
     const Single value = units == Metric ? start.MET : start.ENG;
     if (const auto* single = std::get_if<SingleField>(&start.Field)) {
-      record.** single = value;
+      single->In(design) = value;
     } else {
-      record.*std::get<IntegerField>(start.Field) = static_cast<Integer>(value);
+      std::get<IntegerField>(start.Field).In(design) = static_cast<Integer>(value);
     }
   }
 }
 
-void FillBolts(Program& program, const BoltFields& set) {
-  const DefaultPair& grade = program.BoltStrengthMode == 1 ? UltimateGrade : YieldGrade;
+// The number of bolts and their spacing stay. Nothing of the previous project's table row may show up in the next one.
+void FillBolts(const Program& program, BoltSelection& set) {
   const DesignDefaults& defaults = program.defaults;
-  ProjectRecord& record = program.WorkParms;
-  record.*set.Length = defaults.*BoltLength.In(program.Units);
-  // Nothing of the previous project's table row may show up in the next one.
-  for (const IntegerField field : {set.Options, set.TableRow, set.DiameterMode, set.GradeMode}) record.*field = 0;
-  for (const SingleField field : {set.TableDiameter, set.TableGrade}) record.*field = 0;
-  (record.*set.Desc).clear();
-  for (const SingleField field : {set.DiameterStd, set.DiameterManual}) {
-    record.*field = defaults.*BoltDiameter.In(program.Units);
-  }
-  for (const SingleField field : {set.GradeStd, set.GradeManual}) record.*field = defaults.*grade.In(program.Units);
+  set.Length = defaults.*BoltLength.In(program.Units);
+  set.Options = 0;
+  set.TableRow = 0;
+  set.TableDiameter = 0;
+  set.TableGrade = 0;
+  set.Desc.clear();
+  set.DiameterMode = 0;
+  set.DiameterStd = set.DiameterManual = defaults.*BoltDiameter.In(program.Units);
+  set.GradeMode = 0;
+  const DefaultPair& grade = program.BoltStrengthMode == 1 ? UltimateGrade : YieldGrade;
+  set.GradeStd = set.GradeManual = defaults.*grade.In(program.Units);
 }
 
 void FillConfiguredValues(Program& program) {
   const DesignDefaults& defaults = program.defaults;
-  ProjectRecord& record = program.WorkParms;
-  for (const auto& [field, value] : ConfiguredValues) record.*field = defaults.*value.In(program.Units);
-  for (const BoltFields* set : {&PrimaryBolt, &SecEntryBolt, &SecInterBolt}) FillBolts(program, *set);
-  record.CMRR = defaults.DefaultCMRR;
-  record.BoltsperRowPrimary = defaults.DefaultNumberBoltsPerRow;
+  Design& design = program.WorkParms;
+  for (const auto& [field, value] : ConfiguredValues) field.In(design) = defaults.*value.In(program.Units);
+  for (BoltSelection* set : design.BoltSets()) FillBolts(program, *set);
+  design.Place.CMRR = defaults.DefaultCMRR;
+  design.Primary.BoltsperRow = defaults.DefaultNumberBoltsPerRow;
 
   const StandingSupports& supports = program.catalogs.StandSupports;
   const bool hasSupports = supports.HighestIndex >= 0 && !supports.DefaultStandSupportType.empty();
-  record.SupportTypeNameSecEntry = hasSupports ? supports.DefaultStandSupportType.front() : std::string();
-  record.SupportTypeNameSecInter = record.SupportTypeNameSecEntry;
+  design.Entries.Standing.TypeName = hasSupports ? supports.DefaultStandSupportType.front() : std::string();
+  design.Intersections.Standing.TypeName = design.Entries.Standing.TypeName;
 }
 
 }  // namespace

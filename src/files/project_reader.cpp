@@ -7,13 +7,14 @@
 namespace orby {
 namespace {
 
-void ReadField(ProjectRecord& record, const ProjectLine& line, ItemReader& reader) {
+void ReadField(Design& design, const ProjectLine& line, ItemReader& reader) {
   if (const auto* single = std::get_if<SingleField>(&line.ReadInto)) {
-    record.** single = reader.ReadSingle();
+    single->In(design) = reader.ReadSingle();
   } else if (const auto* integer = std::get_if<IntegerField>(&line.ReadInto)) {
-    record.** integer = reader.ReadInteger();
+    integer->In(design) = reader.ReadInteger();
   } else {
-    record.*std::get<TextField>(line.ReadInto) = line.Form == LineForm::Whole ? reader.ReadLine() : reader.ReadText();
+    std::get<TextField>(line.ReadInto).In(design) =
+        line.Form == LineForm::Whole ? reader.ReadLine() : reader.ReadText();
   }
 }
 

@@ -38,20 +38,20 @@ std::string DescriptionText(const Program& program) {
   return text;
 }
 
-std::string DataText(const ProjectRecord& record) {
+std::string DataText(const Design& design) {
   constexpr std::size_t UsualSize = 2048;
   std::string text;
   text.reserve(UsualSize);
-  for (const ProjectLine& line : ProjectLines) AppendLine(text, DataLineText(record, line));
+  for (const ProjectLine& line : ProjectLines) AppendLine(text, DataLineText(design, line));
   return text;
 }
 
 }  // namespace
 
-std::string DataLineText(const ProjectRecord& record, const ProjectLine& line) {
-  if (const auto* text = std::get_if<TextField>(&line.Field)) return record.**text;
-  if (const auto* single = std::get_if<SingleField>(&line.Field)) return NormalizeDecimalText(record.**single);
-  const Integer value = record.*std::get<IntegerField>(line.Field);
+std::string DataLineText(const Design& design, const ProjectLine& line) {
+  if (const auto* text = std::get_if<TextField>(&line.Field)) return text->In(design);
+  if (const auto* single = std::get_if<SingleField>(&line.Field)) return NormalizeDecimalText(single->In(design));
+  const Integer value = std::get<IntegerField>(line.Field).In(design);
   return line.Form == LineForm::Padded ? PaddedNumber(value) : NormalizeDecimalText(value);
 }
 

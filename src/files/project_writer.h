@@ -9,7 +9,7 @@
 namespace orby {
 
 // A data line of the file, without its end.
-std::string DataLineText(const ProjectRecord& record, const ProjectLine& line);
+std::string DataLineText(const Design& design, const ProjectLine& line);
 
 // The project as the bytes of a file, the description as it stands.
 std::string ProjectFileBytes(const Program& program);

@@ -9,13 +9,14 @@ namespace orby {
 namespace {
 
 // Gives the field another value, so that one that is never read shows.
-void Spoil(ProjectRecord& record, const RecordField& field) {
+void Spoil(Design& design, const AnyField& field) {
   if (const auto* text = std::get_if<TextField>(&field)) {
-    record.** text += '?';
+    text->In(design) += '?';
   } else if (const auto* single = std::get_if<SingleField>(&field)) {
-    record.** single = record.**single == 0 ? 1.0F : 0.0F;
+    Single& value = single->In(design);
+    value = value == 0 ? 1.0F : 0.0F;
   } else {
-    Integer& value = record.*std::get<IntegerField>(field);
+    Integer& value = std::get<IntegerField>(field).In(design);
     value = value == 0 ? 1 : 0;
   }
 }

@@ -50,13 +50,13 @@ void ReadValue(UnsavedProject& project, const HeaderField& field, std::string_vi
   }
 }
 
-void ReadData(ProjectRecord& record, const RecordField& field, std::string_view line) {
+void ReadData(Design& design, const AnyField& field, std::string_view line) {
   if (const auto* text = std::get_if<TextField>(&field)) {
-    record.** text = Unescaped(line);
+    text->In(design) = Unescaped(line);
   } else if (const auto* single = std::get_if<SingleField>(&field)) {
-    record.** single = ToSingle(TextValue(line));
+    single->In(design) = ToSingle(TextValue(line));
   } else {
-    record.*std::get<IntegerField>(field) = ToInteger(TextValue(line));
+    std::get<IntegerField>(field).In(design) = ToInteger(TextValue(line));
   }
 }
 
@@ -86,7 +86,7 @@ UnsavedProject CommittedProject(const Program& program) {
           program.FileEmpty,           program.UnitsLocked,  program.WorkParms};
 }
 
-UnsavedProject EditedProject(const Program& program, ProjectRecord design) {
+UnsavedProject EditedProject(const Program& program, Design design) {
   UnsavedProject project = CommittedProject(program);
   project.FileEmpty = false;
   project.UnitsLocked = true;

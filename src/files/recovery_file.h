@@ -24,14 +24,14 @@ struct UnsavedProject {
   std::string ProjectDescription;
   bool FileEmpty = false;
   bool UnitsLocked = false;
-  ProjectRecord WorkParms;
+  Design WorkParms;
 };
 
 // The project of the program as it was last committed.
 UnsavedProject CommittedProject(const Program& program);
 
 // The project as it will be once this design is committed.
-UnsavedProject EditedProject(const Program& program, ProjectRecord design);
+UnsavedProject EditedProject(const Program& program, Design design);
 
 // Whether the bytes begin as those of a recovery file do.
 bool IsRecoveryFile(std::string_view bytes);

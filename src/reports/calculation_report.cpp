@@ -5,7 +5,6 @@
 #include "reports/primary_report.h"
 #include "reports/report_text.h"
 #include "reports/secondary_report.h"
-#include "reports/support_fields.h"
 #include "reports/working_values.h"
 
 namespace orby {
@@ -19,20 +18,20 @@ void SetPage(Program& program, ReportText& page) {
 }
 
 ReportBasis BasisOf(const Program& program) {
-  return {program.WorkParms.Design(), program.Units, program.BoltStrengthMode, UsesAustralianTable(program),
+  return {program.WorkParms.Support(), program.Units, program.BoltStrengthMode, UsesAustralianTable(program),
           program.catalogs};
 }
 
 }  // namespace
 
 void CalculationReport(Program& program) {
-  const ProjectRecord& record = program.WorkParms;
+  const Design& design = program.WorkParms;
   const WorkingValues working = BuildWorkingValues(program);
   ReportText page(program.Units);
   page.Line(Heading);
-  if (record.PrimSupport == 1) ReportPrimarySupport(page, program, working);
-  if (record.*EntrySupport.Analysed == 1) ReportEntrySupport(page, program, working);
-  if (record.*IntersectionSupport.Analysed == 1) ReportIntersectionSupport(page, program, working);
+  if (design.Primary.Analysed == 1) ReportPrimarySupport(page, program, working);
+  if (design.Entries.Analysed == 1) ReportEntrySupport(page, program, working);
+  if (design.Intersections.Analysed == 1) ReportIntersectionSupport(page, program, working);
   SetPage(program, page);
 }
 

@@ -35,7 +35,7 @@ std::string CostLine(std::string_view label, const CostRow& costs) {
 }  // namespace
 
 bool CostReport(Program& program) {
-  const CostTable table = AnalyseCost(program.WorkParmsCopy.Cost());
+  const CostTable table = AnalyseCost(program.WorkParmsCopy.Cost);
   ReportText page(program.Units);
   page.Line("[TULK COST CALCULATIONS]");
   page.Line();

@@ -13,137 +13,122 @@
 #include "engine/formulas.h"
 #include "engine/primary_support.h"
 #include "reports/report_text.h"
-#include "reports/support_fields.h"
+#include "reports/support_headings.h"
 
 namespace orby {
 namespace {
 
-using R = ProjectRecord;
-
 struct NumberRow {
   std::string_view Label;
-  Single R::*Field;
+  Single (*Value)(const Design& design);
   int Unit = report_unit::None;
 };
-using NumberRows = std::span<const NumberRow>;
 
-struct FlagRow {
+// A number that the support of entries or of intersections has.
+struct SupportRow {
   std::string_view Label;
-  Integer R::*Field;
+  Single (*Value)(const SecondarySupport& support);
+  int Unit = report_unit::None;
 };
-
-struct SystemRow {
-  std::string_view Label;
-  SystemFields SupportFields::*System;
-};
-
-// The rows that entries and intersections have each of their own.
-struct SupportEcho {
-  const SupportFields& Fields;
-  std::string_view OptionsHeading;
-  NumberRows Rock;
-  NumberRows CableLayout;
-  NumberRows Trusses;
-  NumberRows RoofBolts;
-  NumberRows StandingSupports;
-};
-
-struct BoltEcho {
-  const BoltFields& Set;
-  // A Metric grade that is an ultimate strength is in ksi when its yield strength is asked for. The secondary sets ask
-  // as if it were MPa all the same: users know their capacities so.
-  Single (*YieldOfMetricGrade)(Single grade, const Catalogs& catalogs);
-};
-
-constexpr BoltEcho PrimaryBoltEcho{PrimaryBolt, YieldFromUltimateKsi};
+using SupportRows = std::span<const SupportRow>;
 
 constexpr auto SiteRows = std::to_array<NumberRow>({
-    {"Depth of Cover", &R::DepthofCover, unit_row::Length},
-    {"Unit Weight of Rock", &R::UnitWeight, unit_row::UnitWeight},
+    {"Depth of Cover", [](const Design& d) { return d.Place.DepthofCover; }, unit_row::Length},
+    {"Unit Weight of Rock", [](const Design& d) { return d.Place.UnitWeight; }, unit_row::UnitWeight},
 });
 constexpr auto MiningRows = std::to_array<NumberRow>({
-    {"Sum of Intersection Diagonals", &R::ActualSpanDiagonals, unit_row::Length},
-    {"Entry Width", &R::EntryWidth, unit_row::Length},
-});
-constexpr auto AnalysisRows = std::to_array<FlagRow>({
-    {"Analysis of Primary Roof Bolts", &R::PrimSupport},
-    {"Analysis of Secondary Support: Entries", &R::SecondSupEntries},
-    {"Analysis of Secondary Support: Intersections", &R::SecondSupInter},
+    {"Sum of Intersection Diagonals", [](const Design& d) { return d.Place.ActualSpanDiagonals; }, unit_row::Length},
+    {"Entry Width", [](const Design& d) { return d.Place.EntryWidth; }, unit_row::Length},
 });
 constexpr auto PrimaryRows = std::to_array<NumberRow>({
-    {"Roof Bolt Length", &R::BoltLengthPrimary, unit_row::Length},
-    {"Number of Roof Bolts per Row", &R::BoltsperRowPrimary},
-    {"Roof Bolt Row Spacing", &R::RowSpacingPrimary, unit_row::Length},
-    {"Target Stability Factor", &R::StabilityFactor},
-});
-constexpr auto SystemRows = std::to_array<SystemRow>({
-    {"Evaluation of Cable Bolt Systems", &SupportFields::CableBolts},
-    {"Evaluation of Truss Systems", &SupportFields::Trusses},
-    {"Evaluation of Roof Bolt Systems", &SupportFields::RoofBolts},
-    {"Evaluation of Standing Support Systems", &SupportFields::StandingSupports},
+    {"Roof Bolt Length", [](const Design& d) { return d.Primary.Length; }, unit_row::Length},
+    {"Number of Roof Bolts per Row", [](const Design& d) { return d.Primary.BoltsperRow; }},
+    {"Roof Bolt Row Spacing", [](const Design& d) { return d.Primary.RowSpacing; }, unit_row::Length},
+    {"Target Stability Factor", [](const Design& d) { return d.Primary.StabilityFactor; }},
 });
 
-constexpr auto EntryRockRows = std::to_array<NumberRow>({
-    {"Rock Load Height", &R::RockLoadHeight, unit_row::Length},
-    {"Rock Fall Angle", &R::RockFallAngle, report_unit::Degrees},
+using S = SecondarySupport;
+
+constexpr auto TrussRows = std::to_array<SupportRow>({
+    {"Length of Angled Truss Member", [](const S& s) { return s.Truss.LengthMember; }, unit_row::Length},
+    {"Truss Angle", [](const S& s) { return s.Truss.Angle; }, report_unit::Degrees},
+    {"Truss Capacity", [](const S& s) { return s.Truss.Capacity; }, unit_row::Force},
 });
-constexpr auto EntryCableRows = std::to_array<NumberRow>({
-    {"Number of Cable Bolts per Row", &R::CableBoltsPerRowSecEntry},
-    {"Cable Bolt Row Spacing", &R::CableRowSpacingSecEntry, unit_row::Length},
+constexpr SupportRow StandingCapacity{"Standing Support Capacity", [](const S& s) { return s.Standing.Capacity; },
+                                      unit_row::Force};
+constexpr SupportRow BoltLength{"Roof Bolt Length", [](const S& s) { return s.Bolt.Length; }, unit_row::Length};
+
+constexpr auto EntryRockRows = std::to_array<SupportRow>({
+    {"Rock Load Height", [](const S& s) { return s.RockLoadHeight; }, unit_row::Length},
+    {"Rock Fall Angle", [](const S& s) { return s.RockFallAngle; }, report_unit::Degrees},
 });
-constexpr auto EntryTrussRows = std::to_array<NumberRow>({
-    {"Length of Angled Truss Member", &R::TrussLengthMemberSecEntry, unit_row::Length},
-    {"Truss Angle", &R::TrussAngleSecEntry, report_unit::Degrees},
-    {"Truss Capacity", &R::TrussCapacitySecEntry, unit_row::Force},
-    {"Truss Spacing", &R::TrussSpacingSecEntry, unit_row::Length},
+constexpr auto EntryCableRows = std::to_array<SupportRow>({
+    {"Number of Cable Bolts per Row", [](const S& s) { return s.Cable.BoltsPerRow; }},
+    {"Cable Bolt Row Spacing", [](const S& s) { return s.Cable.RowSpacing; }, unit_row::Length},
 });
-constexpr auto EntryBoltRows = std::to_array<NumberRow>({
-    {"Number of Roof Bolts per Row", &R::BoltsperRowSecEntry},
-    {"Roof Bolt Row Spacing", &R::RowSpacingSecEntry, unit_row::Length},
-    {"Roof Bolt Length", &R::BoltLengthSecEntry, unit_row::Length},
+constexpr auto EntryTrussRows = std::to_array<SupportRow>({
+    {"Truss Spacing", [](const S& s) { return s.Truss.Spacing; }, unit_row::Length},
 });
-constexpr auto EntryStandingRows = std::to_array<NumberRow>({
-    {"Standing Support Capacity", &R::SupportCapSecEntry, unit_row::Force},
-    {"Number of Standing Supports per Row", &R::NumberSupPerRowSecEntry},
-    {"Standing Support Row Spacing", &R::SupportRowSpacingSecEntry, unit_row::Length},
+constexpr auto EntryBoltRows = std::to_array<SupportRow>({
+    {"Number of Roof Bolts per Row", [](const S& s) { return s.Bolt.BoltsperRow; }},
+    {"Roof Bolt Row Spacing", [](const S& s) { return s.Bolt.RowSpacing; }, unit_row::Length},
+    BoltLength,
 });
-constexpr SupportEcho EntryEcho{EntrySupport,     "[SECONDARY ENTRY SUPPORT ANALYSIS OPTIONS]",
+constexpr auto EntryStandingRows = std::to_array<SupportRow>({
+    StandingCapacity,
+    {"Number of Standing Supports per Row", [](const S& s) { return s.Standing.NumberPerRow; }},
+    {"Standing Support Row Spacing", [](const S& s) { return s.Standing.RowSpacing; }, unit_row::Length},
+});
+
+constexpr auto IntersectionRockRows = std::to_array<SupportRow>({
+    {"Rock Load Height", [](const S& s) { return s.RockLoadHeight; }, unit_row::Length},
+    {"Rock Fall Angle (Entry)", [](const S& s) { return s.RockFallAngle; }, report_unit::Degrees},
+    {"Rock Fall Angle (Crosscut)", [](const S& s) { return s.RockFallAngleXcut; }, report_unit::Degrees},
+});
+constexpr auto IntersectionCableRows = std::to_array<SupportRow>({
+    {"Number of Cable Bolts", [](const S& s) { return s.Cable.Number; }},
+});
+constexpr auto IntersectionTrussRows = std::to_array<SupportRow>({
+    {"Number of Trusses", [](const S& s) { return s.Truss.Number; }},
+});
+constexpr auto IntersectionBoltRows = std::to_array<SupportRow>({
+    BoltLength,
+    {"Number of Roof Bolts", [](const S& s) { return s.Bolt.Number; }},
+});
+constexpr auto IntersectionStandingRows = std::to_array<SupportRow>({
+    StandingCapacity,
+    {"Number of Standing Supports", [](const S& s) { return s.Standing.Number; }},
+});
+
+// What entries and intersections have each of their own.
+struct SupportEcho {
+  SupportHeadings Headings;
+  std::string_view OptionsHeading;
+  SupportRows Rock;
+  SupportRows CableLayout;
+  SupportRows TrussLayout;
+  SupportRows RoofBolts;
+  SupportRows StandingSupports;
+};
+
+constexpr SupportEcho EntryEcho{EntryHeadings,    "[SECONDARY ENTRY SUPPORT ANALYSIS OPTIONS]",
                                 EntryRockRows,    EntryCableRows,
                                 EntryTrussRows,   EntryBoltRows,
                                 EntryStandingRows};
-
-constexpr auto IntersectionRockRows = std::to_array<NumberRow>({
-    {"Rock Load Height", &R::RockLoadHeightInter, unit_row::Length},
-    {"Rock Fall Angle (Entry)", &R::RockFallAngleEntry, report_unit::Degrees},
-    {"Rock Fall Angle (Crosscut)", &R::RockFallAngleXcut, report_unit::Degrees},
-});
-constexpr auto IntersectionCableRows = std::to_array<NumberRow>({
-    {"Number of Cable Bolts", &R::CableNumberSecInter},
-});
-constexpr auto IntersectionTrussRows = std::to_array<NumberRow>({
-    {"Length of Angled Truss Member", &R::TrussLengthMemberSecInter, unit_row::Length},
-    {"Truss Angle", &R::TrussAngleSecInter, report_unit::Degrees},
-    {"Truss Capacity", &R::TrussCapacitySecInter, unit_row::Force},
-    {"Number of Trusses", &R::TrussNumberSecInter},
-});
-constexpr auto IntersectionBoltRows = std::to_array<NumberRow>({
-    {"Roof Bolt Length", &R::BoltLengthSecInter, unit_row::Length},
-    {"Number of Roof Bolts", &R::BoltNumberSecInter},
-});
-constexpr auto IntersectionStandingRows = std::to_array<NumberRow>({
-    {"Standing Support Capacity", &R::SupportCapSecInter, unit_row::Force},
-    {"Number of Standing Supports", &R::SupportNumberSecInter},
-});
-constexpr SupportEcho IntersectionEcho{IntersectionSupport,     "[SECONDARY INTERSECTION SUPPORT ANALYSIS OPTIONS]",
+constexpr SupportEcho IntersectionEcho{IntersectionHeadings,    "[SECONDARY INTERSECTION SUPPORT ANALYSIS OPTIONS]",
                                        IntersectionRockRows,    IntersectionCableRows,
                                        IntersectionTrussRows,   IntersectionBoltRows,
                                        IntersectionStandingRows};
+
+// A Metric grade that is an ultimate strength is in ksi when its yield strength is asked for. The secondary sets ask as
+// if it were MPa all the same: users know their capacities so.
+using YieldOfMetricGrade = Single (*)(Single grade, const Catalogs& catalogs);
 
 // Writes the parts of the page one after the other.
 class Echo {
  public:
   explicit Echo(const Program& theProgram)
-      : program(theProgram), record(theProgram.WorkParms), page(theProgram.Units) {}
+      : program(theProgram), design(theProgram.WorkParms), page(theProgram.Units) {}
 
   void Header();
   void Project();
@@ -154,20 +139,22 @@ class Echo {
   std::string Take() { return page.Take(); }
 
  private:
-  void Support(const SupportEcho& echo);
-  void Rows(NumberRows rows);
+  void Support(const SupportEcho& echo, const SecondarySupport& support);
+  template <class Rows, class Source>
+  void Numbers(const Rows& rows, const Source& source);
   void Region();
-  void Bolts(const BoltEcho& echo);
-  void BoltCapacities(const BoltEcho& echo, const Bolt& bolt);
-  void Cables(const CableFields& cable);
+  void Bolts(const BoltSelection& set, YieldOfMetricGrade yieldOf);
+  void BoltCapacities(const Bolt& bolt, YieldOfMetricGrade yieldOf);
+  void Cables(const CableSelection& cable);
 
   const Program& program;
-  const ProjectRecord& record;
+  const Design& design;
   ReportText page;
 };
 
-void Echo::Rows(NumberRows rows) {
-  for (const auto& [label, field, unit] : rows) page.Value(label, NumberText(record.*field), unit);
+template <class Rows, class Source>
+void Echo::Numbers(const Rows& rows, const Source& source) {
+  for (const auto& [label, value, unit] : rows) page.Value(label, NumberText(value(source)), unit);
 }
 
 void Echo::Header() {
@@ -194,13 +181,13 @@ void Echo::Project() {
 void Echo::Region() {
   constexpr std::string_view RegionLabel = "CMRR Region";
   constexpr std::string_view RockTypeLabel = "CMRR Rock Type";
-  if (record.CMRRManual == 1) {
+  if (design.Place.CMRRManual == 1) {
     page.Words(RegionLabel, ManualSelection);
     page.Words(RockTypeLabel, ManualSelection);
     return;
   }
-  const Integer region = record.CMRRRegionIndex;
-  const Integer rockType = record.CMRRRockTypeIndex;
+  const Integer region = design.Place.CMRRRegionIndex;
+  const Integer rockType = design.Place.CMRRRockTypeIndex;
   if (region < 0 || static_cast<std::size_t>(region) >= RegionNames.size()) return;
   page.Words(RegionLabel, RegionNames[static_cast<std::size_t>(region)]);
   if (rockType >= 0 && rockType < RockTypeCount) page.Words(RockTypeLabel, RockTypeName(region, rockType));
@@ -208,30 +195,32 @@ void Echo::Region() {
 
 void Echo::Geology() {
   page.Line("[GEOLOGY PARAMETERS]");
-  page.Value("CMRR", NumberText(record.CMRR));
+  page.Value("CMRR", NumberText(design.Place.CMRR));
   Region();
-  Rows(SiteRows);
+  Numbers(SiteRows, design);
   page.Line();
   page.Line();
   page.Line("[MINING PARAMETERS]");
-  Rows(MiningRows);
+  Numbers(MiningRows, design);
   page.Line();
   page.Line();
 }
 
 void Echo::Analyses() {
   page.Line("[ROOF SUPPORT ANALYSIS OPTIONS]");
-  for (const auto& [label, field] : AnalysisRows) page.Words(label, YesNoText(record.*field));
+  page.Words("Analysis of Primary Roof Bolts", YesNoText(design.Primary.Analysed));
+  page.Words("Analysis of Secondary Support: Entries", YesNoText(design.Entries.Analysed));
+  page.Words("Analysis of Secondary Support: Intersections", YesNoText(design.Intersections.Analysed));
   page.Line();
   page.Line();
 }
 
-void Echo::BoltCapacities(const BoltEcho& echo, const Bolt& bolt) {
+void Echo::BoltCapacities(const Bolt& bolt, YieldOfMetricGrade yieldOf) {
   const bool metric = program.Units == Metric;
   const Catalogs& catalogs = program.catalogs;
   auto [diameter, grade] = InEnglishUnits(bolt, program.Units);
   if (program.BoltStrengthMode != 0) {
-    grade = metric ? echo.YieldOfMetricGrade(grade, catalogs) : YieldFromUltimateKsi(grade, catalogs);
+    grade = metric ? yieldOf(grade, catalogs) : YieldFromUltimateKsi(grade, catalogs);
   }
   const std::string yield = metric ? FormatNumber(CapacityKN(grade, diameter), "0")
                                    : FormatNumber(CapacityFromGrade(grade, diameter) / 2, "0.0");
@@ -241,73 +230,76 @@ void Echo::BoltCapacities(const BoltEcho& echo, const Bolt& bolt) {
   page.Value("Roof Bolt Ultimate Capacity", ultimate, unit_row::Force);
 }
 
-void Echo::Bolts(const BoltEcho& echo) {
+void Echo::Bolts(const BoltSelection& set, YieldOfMetricGrade yieldOf) {
   constexpr std::string_view OptionLabel = "Roof Bolt Option";
   if (program.BoltStrengthMode == 1) page.Line("Roof Bolt Grade specified as Ultimate Strength");
-  if (record.*echo.Set.Options == 0) {
+  if (set.Options == 0) {
     page.Words(OptionLabel, TableSelection);
-    page.Words("Bolt Description", record.*echo.Set.Desc);
+    page.Words("Bolt Description", set.Desc);
   } else {
     page.Words(OptionLabel, ManualSelection);
   }
-  const Bolt bolt = SelectedBolt(record, echo.Set);
+  const Bolt bolt = SelectedBolt(set);
   page.Value("Roof Bolt Diameter", NumberText(bolt.Diameter), unit_row::Diameter);
   page.Value("Roof Bolt Grade", NumberText(bolt.Grade), unit_row::Grade);
-  BoltCapacities(echo, bolt);
+  BoltCapacities(bolt, yieldOf);
 }
 
 void Echo::Primary() {
-  if (record.PrimSupport != 1) return;
+  if (design.Primary.Analysed != 1) return;
   page.Line(PrimarySupportHeading);
-  Rows(PrimaryRows);
-  Bolts(PrimaryBoltEcho);
+  Numbers(PrimaryRows, design);
+  Bolts(design.Primary, YieldFromUltimateKsi);
   page.Line();
   page.Line();
 }
 
-void Echo::Cables(const CableFields& cable) {
-  page.Value("Cable Bolt Length", NumberText(record.*cable.Length), unit_row::Length);
-  if (record.*cable.CapMode == 0) {
-    page.Value("Cable Bolt Diameter", NumberText(record.*cable.Diam), unit_row::Diameter);
-  }
-  const Single capacity = record.*cable.Capacity == 0 ? record.*cable.CapacityStd : record.*cable.CapacityManual;
+void Echo::Cables(const CableSelection& cable) {
+  page.Value("Cable Bolt Length", NumberText(cable.Length), unit_row::Length);
+  if (cable.CapMode == 0) page.Value("Cable Bolt Diameter", NumberText(cable.Diam), unit_row::Diameter);
+  const Single capacity = cable.Capacity == 0 ? cable.CapacityStd : cable.CapacityManual;
   page.Value("Cable Bolt Capacity", NumberText(capacity), unit_row::Force);
 }
 
-void Echo::Support(const SupportEcho& echo) {
-  const SupportFields& fields = echo.Fields;
-  page.Line(fields.Heading);
-  Rows(echo.Rock);
+void Echo::Support(const SupportEcho& echo, const SecondarySupport& support) {
+  page.Line(echo.Headings.Support);
+  Numbers(echo.Rock, support);
   page.Line();
   page.Line(echo.OptionsHeading);
-  for (const auto& [label, system] : SystemRows) page.Words(label, YesNoText(record.*(fields.*system).InUse));
+  page.Words("Evaluation of Cable Bolt Systems", YesNoText(support.Cable.Use));
+  page.Words("Evaluation of Truss Systems", YesNoText(support.Truss.Use));
+  page.Words("Evaluation of Roof Bolt Systems", YesNoText(support.Bolt.Use));
+  page.Words("Evaluation of Standing Support Systems", YesNoText(support.Standing.Use));
   page.Line();
-  const auto section = [&](const SystemFields& system, const auto& rows) {
-    if (record.*system.InUse != 1) return;
-    page.Line(system.Heading);
+  const auto section = [&](const SupportSystem& system, std::string_view heading, const auto& rows) {
+    if (system.Use != 1) return;
+    page.Line(heading);
     rows();
     page.Line();
   };
-  section(fields.CableBolts, [&] {
-    Cables(fields.Cable);
-    Rows(echo.CableLayout);
+  section(support.Cable, echo.Headings.CableBolts, [&] {
+    Cables(support.Cable);
+    Numbers(echo.CableLayout, support);
   });
-  section(fields.Trusses, [&] { Rows(echo.Trusses); });
-  section(fields.RoofBolts, [&] {
-    Rows(echo.RoofBolts);
-    Bolts({fields.RoofBolt, YieldFromUltimateMPa});
+  section(support.Truss, echo.Headings.Trusses, [&] {
+    Numbers(TrussRows, support);
+    Numbers(echo.TrussLayout, support);
   });
-  section(fields.StandingSupports, [&] {
-    page.Line("Standing Support Type: " + record.*fields.StandingType);
-    Rows(echo.StandingSupports);
+  section(support.Bolt, echo.Headings.RoofBolts, [&] {
+    Numbers(echo.RoofBolts, support);
+    Bolts(support.Bolt, YieldFromUltimateMPa);
+  });
+  section(support.Standing, echo.Headings.StandingSupports, [&] {
+    page.Line("Standing Support Type: " + support.Standing.TypeName);
+    Numbers(echo.StandingSupports, support);
   });
 }
 
 void Echo::Secondary() {
-  if (record.*EntrySupport.Analysed == 1) Support(EntryEcho);
-  if (record.*IntersectionSupport.Analysed != 1) return;
+  if (design.Entries.Analysed == 1) Support(EntryEcho, design.Entries);
+  if (design.Intersections.Analysed != 1) return;
   page.Line();
-  Support(IntersectionEcho);
+  Support(IntersectionEcho, design.Intersections);
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 
 #include "base/arithmetic.h"
 #include "base/number_text.h"
-#include "reports/support_fields.h"
+#include "reports/support_headings.h"
 
 namespace orby {
 namespace {
@@ -31,10 +31,11 @@ PrimaryResults Analyse(const WorkingValues& working, Integer units) {
 
 void WarningsLine(ReportText& page, bool several) { page.Line(several ? "[Warnings]" : WarningHeading); }
 
-void ReportSpan(ReportText& page, const ProjectRecord& record, const PrimaryResults& results) {
+void ReportSpan(ReportText& page, const Design& design, const PrimaryResults& results) {
   page.Line("[INTERSECTION SPAN INFORMATION]");
   page.Value("Suggested Sum of Diagonals", FormatNumber(results.SuggestedSpan, LengthPattern), unit_row::Length);
-  page.Value("Actual Sum of Diagonals", FormatNumber(record.ActualSpanDiagonals, LengthPattern), unit_row::Length);
+  page.Value("Actual Sum of Diagonals", FormatNumber(design.Place.ActualSpanDiagonals, LengthPattern),
+             unit_row::Length);
   const bool tooLarge = results.SpanIsTooLarge;
   const bool mismatch = results.SpanAndWidthMismatch;
   if (!tooLarge && !mismatch) {
@@ -63,8 +64,8 @@ void ReportCapacity(ReportText& page, const Program& program, const BoltPattern&
   page.Value(label, FormatNumber(kips / 2, OneDecimal), unit_row::Force);
 }
 
-void ReportLength(ReportText& page, const ProjectRecord& record, Single suggested) {
-  page.Value("Actual Roof Bolt Length", FormatNumber(record.BoltLengthPrimary, LengthPattern), unit_row::Length);
+void ReportLength(ReportText& page, const Design& design, Single suggested) {
+  page.Value("Actual Roof Bolt Length", FormatNumber(design.Primary.Length, LengthPattern), unit_row::Length);
   page.Value("Suggested Minimum Roof Bolt Length", FormatNumber(suggested, LengthPattern), unit_row::Length);
 }
 
@@ -126,7 +127,7 @@ std::string_view PsupMessage(PsupVerdict verdict) {
 }
 
 void ReportPrimarySupport(ReportText& page, const Program& program, const WorkingValues& working) {
-  const ProjectRecord& record = program.WorkParms;
+  const Design& design = program.WorkParms;
   const BoltPattern& bolts = working.Primary;
   const GradeBasis basis{program.BoltStrengthMode, program.catalogs};
   const PrimaryResults results = Analyse(working, program.Units);
@@ -134,11 +135,11 @@ void ReportPrimarySupport(ReportText& page, const Program& program, const Workin
   const Single rdi = BoltRDI(bolts, basis);
   const Single prsup = BoltPRSUP(bolts, basis);
 
-  ReportSpan(page, record, results);
+  ReportSpan(page, design, results);
   page.Line(PrimarySupportHeading);
   ReportCapacity(page, program, bolts);
-  ReportLength(page, record, results.SuggestedLength);
-  ReportJudgement(page, JudgeLength(record.BoltLengthPrimary, results.SuggestedLength, program.Units),
+  ReportLength(page, design, results.SuggestedLength);
+  ReportJudgement(page, JudgeLength(design.Primary.Length, results.SuggestedLength, program.Units),
                   FailsASTM({bolts.Diameter, bolts.Grade}, program.Units), program.Units);
   ReportPsup(page, results.SuggestedPsup, actualPsup);
   page.Value("Reinforcement Density Index (RDI)", FormatNumber(rdi, OneDecimal));

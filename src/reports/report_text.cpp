@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "base/text.h"
-#include "core/units.h"
+#include "design/units.h"
 
 namespace orby {
 namespace {

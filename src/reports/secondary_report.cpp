@@ -5,20 +5,20 @@
 
 #include "base/number_text.h"
 #include "reports/primary_report.h"
-#include "reports/support_fields.h"
+#include "reports/support_headings.h"
 
 namespace orby {
 namespace {
 
 constexpr NumberPattern OneDecimal = "0.0";
 
-Single HighestOverEntry(const ProjectRecord& record) {
-  return MaxRockHeightEntry(record.EntryWidth, record.RockFallAngle);
+Single HighestOverEntry(const Design& design) {
+  return MaxRockHeightEntry(design.Place.EntryWidth, design.Entries.RockFallAngle);
 }
 
-Single HighestOverIntersection(const ProjectRecord& record) {
-  return MaxRockHeightIntersection(record.RockLoadHeightInter, record.ActualSpanDiagonals, record.RockFallAngleEntry,
-                                   record.RockFallAngleXcut);
+Single HighestOverIntersection(const Design& design) {
+  return MaxRockHeightIntersection(design.Intersections.RockLoadHeight, design.Place.ActualSpanDiagonals,
+                                   design.Intersections.RockFallAngle, design.Intersections.RockFallAngleXcut);
 }
 
 Bolt EntryBolt(const WorkingValues& working) { return {working.EntryBolts.Diameter, working.EntryBolts.Grade}; }
@@ -29,31 +29,43 @@ std::string IntersectionLoad(Single load) { return NumberText(load); }
 
 // What the blocks of entries and of intersections have each of their own.
 struct SupportBlock {
-  const SupportFields& Fields;
-  Single (*HighestRock)(const ProjectRecord& record);
+  SupportHeadings Headings;
+  SecondarySupport RoofSupport::*Support;
+  Single (*HighestRock)(const Design& design);
   Bolt (*WorkingBolt)(const WorkingValues& working);
   std::string (*LoadText)(Single load);
   int LoadUnit;
   bool ShowsDensities;
 };
 
-constexpr SupportBlock EntryBlock{EntrySupport, HighestOverEntry, EntryBolt, EntryLoad, unit_row::LineLoad, true};
-constexpr SupportBlock IntersectionBlock{IntersectionSupport, HighestOverIntersection, IntersectionBolt,
-                                         IntersectionLoad,    unit_row::Force,         false};
+constexpr SupportBlock EntryBlock{
+    EntryHeadings, &RoofSupport::Entries, HighestOverEntry, EntryBolt, EntryLoad, unit_row::LineLoad, true};
+constexpr SupportBlock IntersectionBlock{IntersectionHeadings,
+                                         &RoofSupport::Intersections,
+                                         HighestOverIntersection,
+                                         IntersectionBolt,
+                                         IntersectionLoad,
+                                         unit_row::Force,
+                                         false};
 
 class SecondaryReport {
  public:
   SecondaryReport(ReportText& thePage, const Program& theProgram, const WorkingValues& theWorking,
                   const SupportBlock& theBlock)
-      : page(thePage), program(theProgram), record(theProgram.WorkParms), working(theWorking), block(theBlock) {}
+      : page(thePage),
+        program(theProgram),
+        design(theProgram.WorkParms),
+        support(design.*theBlock.Support),
+        working(theWorking),
+        block(theBlock) {}
 
   void Write();
 
  private:
-  bool Uses(const SystemFields& system) const { return record.*system.InUse == 1; }
   void Load(std::string_view label, Single load) { page.Value(label, block.LoadText(load), block.LoadUnit); }
   void RockLoad();
-  void System(const SystemFields& system, std::string_view capacityLabel, std::string_view factorLabel);
+  void System(std::string_view heading, const SupportSystem& system, std::string_view capacityLabel,
+              std::string_view factorLabel);
   void CableBolts();
   void RoofBolts();
   void Densities(Single srdi, Single prsup);
@@ -61,26 +73,28 @@ class SecondaryReport {
 
   ReportText& page;
   const Program& program;
-  const ProjectRecord& record;
+  const Design& design;
+  const SecondarySupport& support;
   const WorkingValues& working;
   const SupportBlock& block;
 };
 
 void SecondaryReport::RockLoad() {
-  page.Line(block.Fields.Heading);
-  Load("Rock Load", record.*block.Fields.RockLoad);
-  const Single highest = block.HighestRock(record);
-  if (record.*block.Fields.RockLoadHeight > highest) {
+  page.Line(block.Headings.Support);
+  Load("Rock Load", support.RockLoad);
+  const Single highest = block.HighestRock(design);
+  if (support.RockLoadHeight > highest) {
     page.Value("(*) Rock Load Height adjusted. Maximum possible height", FormatNumber(highest, OneDecimal),
                unit_row::Length);
   }
   page.Line();
 }
 
-void SecondaryReport::System(const SystemFields& system, std::string_view capacityLabel, std::string_view factorLabel) {
-  page.Line(system.Heading);
-  Load(capacityLabel, record.*system.Capacity);
-  page.Value(factorLabel, FormatNumber(record.*system.StabilityFactor, "0.00"));
+void SecondaryReport::System(std::string_view heading, const SupportSystem& system, std::string_view capacityLabel,
+                             std::string_view factorLabel) {
+  page.Line(heading);
+  Load(capacityLabel, system.SupportCap);
+  page.Value(factorLabel, FormatNumber(system.StabFactor, "0.00"));
 }
 
 void SecondaryReport::Densities(Single srdi, Single prsup) {
@@ -96,7 +110,8 @@ void SecondaryReport::WarnOfAnchorage(double anchored, Single height, std::strin
 
 void SecondaryReport::CableBolts() {
   const double anchorage = program.Units == Metric ? 1.3 : 4;
-  System(block.Fields.CableBolts, "Cable Bolt System Support Capacity", "Cable Bolt System Stability Factor");
+  System(block.Headings.CableBolts, support.Cable, "Cable Bolt System Support Capacity",
+         "Cable Bolt System Stability Factor");
   if (block.ShowsDensities) {
     const SupportPattern& cables = working.EntryCables;
     // The PRSUP goes by the length of the primary bolts.
@@ -105,13 +120,14 @@ void SecondaryReport::CableBolts() {
     Densities(CableSRDI(cables), CablePRSUP(asLongAsBolts));
   }
   page.Line();
-  WarnOfAnchorage(record.*block.Fields.Cable.Length - anchorage, record.*block.Fields.RockLoadHeight,
+  WarnOfAnchorage(support.Cable.Length - anchorage, support.RockLoadHeight,
                   "Cable bolt may not be long enough to achieve adequate anchorage for the assumed rock load height.");
 }
 
 void SecondaryReport::RoofBolts() {
   const double anchorage = program.Units == Metric ? 0.305 : 1;
-  System(block.Fields.RoofBolts, "Roof Bolt Support System Capacity", "Roof Bolt Support System Stability Factor");
+  System(block.Headings.RoofBolts, support.Bolt, "Roof Bolt Support System Capacity",
+         "Roof Bolt Support System Stability Factor");
   if (block.ShowsDensities) {
     const BoltPattern& bolts = working.EntryBolts;
     // The SRDI takes the width that cable bolts bring along: without them the report ends in a division by zero.
@@ -123,7 +139,7 @@ void SecondaryReport::RoofBolts() {
   page.Line();
   // Intersections are warned of by the length and the rock of the entries, too.
   WarnOfAnchorage(
-      record.BoltLengthSecEntry - anchorage, record.RockLoadHeight,
+      design.Entries.Bolt.Length - anchorage, design.Entries.RockLoadHeight,
       "Secondary roof bolt may not be long enough to achieve adequate anchorage for the assumed rock load height.");
   if (!FailsASTM(block.WorkingBolt(working), program.Units)) return;
   page.Line(BelowASTM);
@@ -131,16 +147,16 @@ void SecondaryReport::RoofBolts() {
 }
 
 void SecondaryReport::Write() {
-  const SupportFields& fields = block.Fields;
   RockLoad();
-  if (Uses(fields.CableBolts)) CableBolts();
-  if (Uses(fields.Trusses)) {
-    System(fields.Trusses, "Truss System Support Capacity", "Truss Stability Factor");
+  if (support.Cable.Use == 1) CableBolts();
+  if (support.Truss.Use == 1) {
+    System(block.Headings.Trusses, support.Truss, "Truss System Support Capacity", "Truss Stability Factor");
     page.Line();
   }
-  if (Uses(fields.RoofBolts)) RoofBolts();
-  if (Uses(fields.StandingSupports)) {
-    System(fields.StandingSupports, "Standing Support System Capacity", "Standing Support System Stability Factor");
+  if (support.Bolt.Use == 1) RoofBolts();
+  if (support.Standing.Use == 1) {
+    System(block.Headings.StandingSupports, support.Standing, "Standing Support System Capacity",
+           "Standing Support System Stability Factor");
   }
 }
 

@@ -5,19 +5,16 @@
 namespace orby {
 namespace {
 
-Bolt WorkingBolt(const Program& program, const BoltFields& set) {
-  const Bolt bolt = SelectedBolt(program.WorkParms, set);
+Bolt WorkingBolt(const Program& program, const BoltSelection& set) {
+  const Bolt bolt = SelectedBolt(set);
   if (program.Units != Metric) return bolt;
   return {ToSingle(bolt.Diameter / MillimetresPerInch), ToSingle(bolt.Grade / MPaPerKsi)};
 }
 
 // Capacity of one cable in tons. The catalog is asked in the project's units.
-Single WorkingCableCapacity(const Program& program, const CableFields& cable) {
-  const ProjectRecord& record = program.WorkParms;
-  Single capacity = record.*cable.Capacity == 0 ? record.*cable.CapacityStd : record.*cable.CapacityManual;
-  if (record.*cable.CapMode == 0) {
-    capacity = CableCapacityFromDiameter(record.*cable.Diam, program.Units, program.catalogs);
-  }
+Single WorkingCableCapacity(const Program& program, const CableSelection& cable) {
+  Single capacity = cable.Capacity == 0 ? cable.CapacityStd : cable.CapacityManual;
+  if (cable.CapMode == 0) capacity = CableCapacityFromDiameter(cable.Diam, program.Units, program.catalogs);
   return program.Units == Metric ? ToSingle(capacity / KilonewtonsPerTon) : capacity;
 }
 
@@ -25,24 +22,26 @@ Single WorkingCableCapacity(const Program& program, const CableFields& cable) {
 
 WorkingValues BuildWorkingValues(const Program& program) {
   constexpr double KipsPerTon = 2;
-  const ProjectRecord& record = program.WorkParms;
+  const Design& design = program.WorkParms;
   const auto feet = [&](Single length) { return InFeet(length, program.Units); };
   WorkingValues working;
-  working.Conditions = {record.StabilityFactor, static_cast<Single>(record.CMRR), feet(record.DepthofCover),
-                        feet(record.ActualSpanDiagonals), feet(record.EntryWidth)};
+  working.Conditions = {design.Primary.StabilityFactor, static_cast<Single>(design.Place.CMRR),
+                        feet(design.Place.DepthofCover), feet(design.Place.ActualSpanDiagonals),
+                        feet(design.Place.EntryWidth)};
 
-  const Bolt primary = WorkingBolt(program, PrimaryBolt);
-  working.Primary = {feet(record.BoltLengthPrimary), record.BoltsperRowPrimary, primary.Diameter, primary.Grade,
-                     feet(record.RowSpacingPrimary), working.Conditions.Width};
-  const Bolt entry = WorkingBolt(program, SecEntryBolt);
-  working.EntryBolts = {feet(record.BoltLengthSecEntry), record.BoltsperRowSecEntry, entry.Diameter, entry.Grade,
-                        feet(record.RowSpacingSecEntry), working.Conditions.Width};
-  working.IntersectionBolt = WorkingBolt(program, SecInterBolt);
+  const Bolt primary = WorkingBolt(program, design.Primary);
+  working.Primary = {feet(design.Primary.Length),     design.Primary.BoltsperRow, primary.Diameter, primary.Grade,
+                     feet(design.Primary.RowSpacing), working.Conditions.Width};
+  const Bolt entry = WorkingBolt(program, design.Entries.Bolt);
+  working.EntryBolts = {
+      feet(design.Entries.Bolt.Length),     design.Entries.Bolt.BoltsperRow, entry.Diameter, entry.Grade,
+      feet(design.Entries.Bolt.RowSpacing), working.Conditions.Width};
+  working.IntersectionBolt = WorkingBolt(program, design.Intersections.Bolt);
 
-  working.EntryCables = {feet(record.CableLengthSecEntry), record.CableBoltsPerRowSecEntry,
-                         ToSingle(KipsPerTon * WorkingCableCapacity(program, SecEntryCable)),
-                         feet(record.CableRowSpacingSecEntry), 0};
-  if (record.SecEntryUseCable == 1) working.EntryCables.EntryWidth = working.Conditions.Width;
+  working.EntryCables = {feet(design.Entries.Cable.Length), design.Entries.Cable.BoltsPerRow,
+                         ToSingle(KipsPerTon * WorkingCableCapacity(program, design.Entries.Cable)),
+                         feet(design.Entries.Cable.RowSpacing), 0};
+  if (design.Entries.Cable.Use == 1) working.EntryCables.EntryWidth = working.Conditions.Width;
   return working;
 }
 

@@ -8,7 +8,7 @@
 namespace orby {
 
 struct WorkingValues {
-  Site Conditions;
+  WorkingSite Conditions;
   BoltPattern Primary;
   BoltPattern EntryBolts;
   Bolt IntersectionBolt;       // in, ksi

@@ -55,18 +55,18 @@ std::string PathOf(const Program& program, const Backup& entry) {
 }
 
 std::optional<Single> SuggestedFigure(const UnsavedProject& project) {
-  const ProjectRecord& design = project.WorkParms;
-  const auto live = SuggestLive({design.StabilityFactor, static_cast<Single>(design.CMRR), design.DepthofCover,
-                                 design.ActualSpanDiagonals, design.EntryWidth},
+  const Design& design = project.WorkParms;
+  const auto live = SuggestLive({design.Primary.StabilityFactor, static_cast<Single>(design.Place.CMRR),
+                                 design.Place.DepthofCover, design.Place.ActualSpanDiagonals, design.Place.EntryWidth},
                                 project.Units);
   return live ? std::optional(live->SugPSUP) : std::nullopt;
 }
 
 std::optional<Single> ActualFigure(const UnsavedProject& project, const Catalogs& catalogs) {
-  const ProjectRecord& design = project.WorkParms;
-  const Bolt bolt = SelectedBolt(design, PrimaryBolt);
-  return ActualLive({design.BoltLengthPrimary, design.BoltsperRowPrimary, bolt.Diameter, bolt.Grade,
-                     design.RowSpacingPrimary, design.EntryWidth},
+  const Design& design = project.WorkParms;
+  const Bolt bolt = SelectedBolt(design.Primary);
+  return ActualLive({design.Primary.Length, design.Primary.BoltsperRow, bolt.Diameter, bolt.Grade,
+                     design.Primary.RowSpacing, design.Place.EntryWidth},
                     project.Units, {project.BoltStrengthMode, catalogs});
 }
 
@@ -138,13 +138,13 @@ void BackupsWindow::ShowSelected() {
 }
 
 void BackupsWindow::ShowProject(const UnsavedProject& project) {
-  const ProjectRecord& design = project.WorkParms;
+  const Design& design = project.WorkParms;
   const std::string length(UnitLabel(unit_row::Length, project.Units));
   txtTitle.SetText(TypedTitle(project));
   txtUnits.SetText(std::string(UnitSummary(project.Units)));
-  txtCMRR.SetText(NumberText(design.CMRR));
-  txtDepthofCover.SetText(NumberText(design.DepthofCover) + length);
-  txtEntryWidth.SetText(NumberText(design.EntryWidth) + length);
+  txtCMRR.SetText(NumberText(design.Place.CMRR));
+  txtDepthofCover.SetText(NumberText(design.Place.DepthofCover) + length);
+  txtEntryWidth.SetText(NumberText(design.Place.EntryWidth) + length);
   txtSugPSUP.SetText(OneDecimal([&] { return SuggestedFigure(project); }));
   txtActualPSUP.SetText(OneDecimal([&] { return ActualFigure(project, program_.catalogs); }));
 }

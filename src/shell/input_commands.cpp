@@ -55,7 +55,7 @@ void MainWindow::EditDesign() {
 // leaves the last one in its field that could be held.
 template <class Dialog>
 void MainWindow::KeepEdits(Dialog& dialog) {
-  auto read = [&dialog, kept = program_.WorkParms]() mutable -> const ProjectRecord& {
+  auto read = [&dialog, kept = program_.WorkParms]() mutable -> const Design& {
     dialog.ReadEdits(kept);
     return kept;
   };

@@ -144,7 +144,7 @@ bool Recovery::Recover() {
   return true;
 }
 
-void Recovery::DesignShown(const ProjectRecord& design) {
+void Recovery::DesignShown(const Design& design) {
   changed_.reset();
   edited_.reset();
   shown_ = RecoveryBytes(EditedProject(program_, design));
@@ -161,7 +161,7 @@ void Recovery::DialogClosed() {
   Committed();
 }
 
-void Recovery::DesignChanged(const ProjectRecord& design) {
+void Recovery::DesignChanged(const Design& design) {
   edited_ = design;
   changed_ = design;
   FlushLater();

@@ -37,11 +37,11 @@ class Recovery {
   bool Recover();
 
   // An input dialog shows this design, nothing being changed yet.
-  void DesignShown(const ProjectRecord& design);
+  void DesignShown(const Design& design);
 
   // The design as the open input dialog would commit it. It is written a second after the first change that has not
   // been written yet.
-  void DesignChanged(const ProjectRecord& design);
+  void DesignChanged(const Design& design);
 
   // Writes at once what has not been written, or could not be.
   void Flush();
@@ -86,8 +86,8 @@ class Recovery {
   std::string written_;  // what the file holds; empty: there is none of this run
   bool failed_ = false;  // the last changes could not be written
   std::string shown_;    // what the design in the open dialog started from
-  std::optional<ProjectRecord> changed_;
-  std::optional<ProjectRecord> edited_;  // what the open dialog showed last
+  std::optional<Design> changed_;
+  std::optional<Design> edited_;  // what the open dialog showed last
   // Shared with the act that waits for its second; true while one waits.
   std::shared_ptr<bool> waiting_ = std::make_shared<bool>(false);
 };

@@ -15,9 +15,10 @@ struct Room {
   int floor;
 };
 
-constexpr std::array<Room, 14> Rooms = {{{"base", 0},
+constexpr std::array<Room, 15> Rooms = {{{"base", 0},
                                          {"platform", 1},
                                          {"controls", 1},
+                                         {"design", 1},
                                          {"core", 2},
                                          {"engine", 3},
                                          {"catalogs", 3},

@@ -19,10 +19,10 @@ struct AConversion : testing::Test {
     program.CurrentFile = "/designs/panel3.ORB";
     program.FileSaved = true;
     program.FileEmpty = false;
-    program.WorkParms.DepthofCover = 401.25F;
-    program.WorkParms.EntryWidth = 20;
-    program.WorkParms.BoltGradeStdPrimary = 75;
-    program.WorkParms.CMRR = 45;
+    program.WorkParms.Place.DepthofCover = 401.25F;
+    program.WorkParms.Place.EntryWidth = 20;
+    program.WorkParms.Primary.GradeStd = 75;
+    program.WorkParms.Place.CMRR = 45;
   }
 
   void ConvertOnce() {
@@ -85,10 +85,10 @@ TEST_F(AConversion, MakesTheDesignAnUnsavedMetricOneAndCloses) {
   EXPECT_EQ(program.Units, Metric);
   EXPECT_EQ(program.CurrentFile, "Metric_panel3.ORB");
   EXPECT_FALSE(program.FileSaved);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 122.3F);
-  EXPECT_EQ(program.WorkParms.EntryWidth, 6.1F);
-  EXPECT_EQ(program.WorkParms.BoltGradeStdPrimary, 517.0F);
-  EXPECT_EQ(program.WorkParms.CMRR, 45);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 122.3F);
+  EXPECT_EQ(program.WorkParms.Place.EntryWidth, 6.1F);
+  EXPECT_EQ(program.WorkParms.Primary.GradeStd, 517.0F);
+  EXPECT_EQ(program.WorkParms.Place.CMRR, 45);
   EXPECT_FALSE(dialog.IsOpen());
   EXPECT_THAT(platform.files.created, IsEmpty());
 }
@@ -108,7 +108,7 @@ TEST_F(AConversion, TellsThatItIsDone) {
 }
 
 TEST_F(AConversion, TellsOfANumberThatNoLongerFitsAndClosesAllTheSame) {
-  program.WorkParms.BoltGradeStdPrimary = 3e38F;
+  program.WorkParms.Primary.GradeStd = 3e38F;
   dialog.Open();
 
   dialog.Command2.Press();
@@ -149,7 +149,7 @@ TEST_F(AToldConversion, TellsItsCallerNothingWhenItIsCancelled) {
 }
 
 TEST_F(AToldConversion, TellsItsCallerOfAProjectThatWasConvertedInPart) {
-  program.WorkParms.BoltGradeStdPrimary = 3e38F;
+  program.WorkParms.Primary.GradeStd = 3e38F;
   told.Open();
 
   told.Command2.Press();
@@ -162,7 +162,7 @@ TEST_F(AConversion, IsTheSameWhateverIsChosenForTheFile) {
   for (const int choice : {0, 1}) {
     program.Units = English;
     program.CurrentFile = "/designs/panel3.ORB";
-    program.WorkParms.EntryWidth = 20;
+    program.WorkParms.Place.EntryWidth = 20;
     ConvertDialog other(program);
     other.Open();
     other.Option2.SetValue(choice, true);
@@ -171,7 +171,7 @@ TEST_F(AConversion, IsTheSameWhateverIsChosenForTheFile) {
 
     EXPECT_EQ(program.Units, Metric) << choice;
     EXPECT_EQ(program.CurrentFile, "Metric_panel3.ORB") << choice;
-    EXPECT_EQ(program.WorkParms.EntryWidth, 6.1F) << choice;
+    EXPECT_EQ(program.WorkParms.Place.EntryWidth, 6.1F) << choice;
   }
 }
 
@@ -180,7 +180,7 @@ TEST_F(AConversion, ThereAndBackLeavesOneDecimalOfTheDepth) {
   ConvertOnce();
 
   EXPECT_EQ(program.Units, English);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 401.2F);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 401.2F);
 }
 
 TEST_F(AConversion, RepeatedPilesThePrefixesUp) {
@@ -200,7 +200,7 @@ TEST_F(AConversion, CancelledChangesNothing) {
   EXPECT_EQ(program.Units, English);
   EXPECT_EQ(program.CurrentFile, "/designs/panel3.ORB");
   EXPECT_TRUE(program.FileSaved);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 401.25F);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 401.25F);
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 

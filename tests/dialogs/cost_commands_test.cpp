@@ -82,7 +82,7 @@ TEST_F(ACostDialog, CountsATextThatIsNoNumberAsZero) {
 
   EXPECT_FALSE(dialog.IsOpen());
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  for (const FieldCase& field : CostFieldCases) EXPECT_EQ(program.WorkParms.*field.field, 0.0F) << field.name;
+  for (const FieldCase& field : CostFieldCases) EXPECT_EQ(field.field.In(program.WorkParms), 0.0F) << field.name;
 }
 
 // ---- OK and Cancel --------------------------------------------------------------------------------------------------
@@ -95,33 +95,33 @@ TEST_F(ACostDialog, WritesEveryFieldOnOk) {
 
   dialog.Command2.Press();
 
-  for (const FieldCase& field : CostFieldCases) EXPECT_EQ(program.WorkParms.*field.field, field.value) << field.name;
-  EXPECT_EQ(program.WorkParms.CostAdvance, 0);
-  EXPECT_EQ(program.WorkParms.CostProduction, 0);
+  for (const FieldCase& field : CostFieldCases) EXPECT_EQ(field.field.In(program.WorkParms), field.value) << field.name;
+  EXPECT_EQ(program.WorkParms.Cost.Advance, 0);
+  EXPECT_EQ(program.WorkParms.Cost.Production, 0);
 }
 
 TEST_F(ACostDialog, KeepsTheTwoBoxesApart) {
-  program.WorkParms.CostAdvance = 0;
-  program.WorkParms.CostProduction = 0;
+  program.WorkParms.Cost.Advance = 0;
+  program.WorkParms.Cost.Production = 0;
   dialog.Open();
   dialog.chkProduction.SetValue(1);
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.CostAdvance, 0);
-  EXPECT_EQ(program.WorkParms.CostProduction, 1);
+  EXPECT_EQ(program.WorkParms.Cost.Advance, 0);
+  EXPECT_EQ(program.WorkParms.Cost.Production, 1);
 }
 
 TEST_F(ACostDialog, LeavesTheRestOfTheDesignAloneOnOk) {
-  program.WorkParms.RowSpacingPrimary = 4.5F;
-  program.WorkParms.BoltsperRowPrimary = 6;
+  program.WorkParms.Primary.RowSpacing = 4.5F;
+  program.WorkParms.Primary.BoltsperRow = 6;
   dialog.Open();
   dialog.txtRowSpacing.SetText("3.5");
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.RowSpacingPrimary, 4.5F);
-  EXPECT_EQ(program.WorkParms.BoltsperRowPrimary, 6.0F);
+  EXPECT_EQ(program.WorkParms.Primary.RowSpacing, 4.5F);
+  EXPECT_EQ(program.WorkParms.Primary.BoltsperRow, 6.0F);
 }
 
 TEST_F(ACostDialog, MakesTheProjectUnsavedAndLocksItsUnitsOnOk) {
@@ -147,7 +147,7 @@ TEST_F(ACostDialog, StaysOpenWhenOkFindsANegativeNumber) {
 
   EXPECT_TRUE(dialog.IsOpen());
   EXPECT_FALSE(dialog.CommitOnClose);
-  EXPECT_EQ(program.WorkParms.CostTotalLabor, 35.0F);
+  EXPECT_EQ(program.WorkParms.Cost.TotalLabor, 35.0F);
   EXPECT_TRUE(program.FileSaved);
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid hours per shift"));
 }
@@ -161,9 +161,9 @@ TEST_F(ACostDialog, ForgetsEverythingOnCancel) {
   dialog.Command1.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.WorkParms.CostBoltCost, 3.0F);
-  EXPECT_EQ(program.WorkParms.CostWeeksYear, 50.0F);
-  EXPECT_EQ(program.WorkParms.CostAdvance, 1);
+  EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3.0F);
+  EXPECT_EQ(program.WorkParms.Cost.WeeksYear, 50.0F);
+  EXPECT_EQ(program.WorkParms.Cost.Advance, 1);
   EXPECT_TRUE(program.FileSaved);
   EXPECT_TRUE(program.FileEmpty);
   EXPECT_FALSE(program.UnitsLocked);
@@ -177,7 +177,7 @@ TEST_F(ACostDialog, TreatsTheWindowsCloseAsCancel) {
 
   dialog.Close();
 
-  EXPECT_EQ(program.WorkParms.CostBoltCost, 3.0F);
+  EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3.0F);
   EXPECT_TRUE(program.FileSaved);
   EXPECT_THAT(program.history.Text, EndsWith("2. Project Parameters Not Modified\r\n"));
 }
@@ -199,7 +199,7 @@ TEST_F(ACostDialog, RefusesANumberThatNoDesignCanHold) {
     platform.boxes.shown.clear();
   }
 
-  EXPECT_EQ(program.WorkParms.CostBoltCost, 3.0F);
+  EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3.0F);
   EXPECT_TRUE(program.FileSaved);
 }
 
@@ -217,7 +217,7 @@ TEST_F(ACostDialog, TellsHowToGetHelp) {
 // ---- results --------------------------------------------------------------------------------------------------------
 
 TEST_F(ACostDialog, ShowsTheCostTableOfTheTypedNumbers) {
-  program.WorkParms.Cost() = CostGroup{};
+  program.WorkParms.Cost = CostInputs{};
   dialog.Open();
   for (const auto& [name, text] : {std::pair{"txtBoltCost", "3"},
                                    {"txtPlateCost", "1"},
@@ -254,7 +254,7 @@ TEST_F(ACostDialog, ShowsTheInputsBesideTheCostTable) {
 }
 
 TEST_F(ACostDialog, CommitsNothingByShowingResults) {
-  program.WorkParms.CMRR = 45;
+  program.WorkParms.Place.CMRR = 45;
   dialog.Open();
   for (const FieldCase& field : CostFieldCases) Box(field.name).SetText(std::string(field.text));
   dialog.chkAdvance.SetValue(0);
@@ -264,14 +264,14 @@ TEST_F(ACostDialog, CommitsNothingByShowingResults) {
   dialog.cmdresults.Press();
 
   for (const FieldCase& field : CostFieldCases)
-    EXPECT_EQ(program.WorkParmsCopy.*field.field, field.value) << field.name;
-  EXPECT_EQ(program.WorkParmsCopy.CostAdvance, 0);
-  EXPECT_EQ(program.WorkParmsCopy.CostProduction, 0);
-  EXPECT_EQ(program.WorkParms.CostBoltCost, 3.0F);
-  EXPECT_EQ(program.WorkParms.CostWeeksYear, 50.0F);
-  EXPECT_EQ(program.WorkParms.CostAdvance, 1);
-  EXPECT_EQ(program.WorkParms.CostProduction, 1);
-  EXPECT_EQ(program.WorkParms.CMRR, 45);
+    EXPECT_EQ(field.field.In(program.WorkParmsCopy), field.value) << field.name;
+  EXPECT_EQ(program.WorkParmsCopy.Cost.Advance, 0);
+  EXPECT_EQ(program.WorkParmsCopy.Cost.Production, 0);
+  EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3.0F);
+  EXPECT_EQ(program.WorkParms.Cost.WeeksYear, 50.0F);
+  EXPECT_EQ(program.WorkParms.Cost.Advance, 1);
+  EXPECT_EQ(program.WorkParms.Cost.Production, 1);
+  EXPECT_EQ(program.WorkParms.Place.CMRR, 45);
   EXPECT_EQ(program.ReportCaller, report_caller::Cost);
   EXPECT_TRUE(program.FileSaved);
   EXPECT_FALSE(program.UnitsLocked);
@@ -279,9 +279,9 @@ TEST_F(ACostDialog, CommitsNothingByShowingResults) {
 }
 
 TEST_F(ACostDialog, ShowsItsResultsWithTheCurvesOfTheProject) {
-  program.WorkParms.StabilityFactor = 1.2F;
-  program.WorkParms.DepthofCover = 400;
-  program.WorkParmsCopy.StabilityFactor = 2;  // of a design that was shown before, and not accepted
+  program.WorkParms.Primary.StabilityFactor = 1.2F;
+  program.WorkParms.Place.DepthofCover = 400;
+  program.WorkParmsCopy.Primary.StabilityFactor = 2;  // of a design that was shown before, and not accepted
   dialog.Open();
   platform.windows.onModal = [](Form& form) {
     if (auto* results = dynamic_cast<ResultsWindow*>(&form)) results->lstGraphs.ClickItem(2);
@@ -296,33 +296,33 @@ TEST_F(ACostDialog, HasRestoredTheCostsBeforeTheResultsAreOnView) {
   dialog.Open();
   for (const FieldCase& field : CostFieldCases) Box(field.name).SetText(std::string(field.text));
   dialog.chkProduction.SetValue(0);
-  CostGroup behind;
-  platform.windows.onModal = [&](Form&) { behind = program.WorkParms.Cost(); };
+  CostInputs behind;
+  platform.windows.onModal = [&](Form&) { behind = program.WorkParms.Cost; };
 
   dialog.cmdresults.Press();
 
   EXPECT_EQ(platform.windows.modalForms, 1);
-  EXPECT_EQ(behind.CostBoltCost, 3.0F);
-  EXPECT_EQ(behind.CostTotalLabor, 35.0F);
-  EXPECT_EQ(behind.CostWeeksYear, 50.0F);
-  EXPECT_EQ(behind.CostProduction, 1);
+  EXPECT_EQ(behind.BoltCost, 3.0F);
+  EXPECT_EQ(behind.TotalLabor, 35.0F);
+  EXPECT_EQ(behind.WeeksYear, 50.0F);
+  EXPECT_EQ(behind.Production, 1);
 }
 
 // The report of the costs tells the inputs of the design too.
 TEST_F(ACostDialog, LeavesTheCostsAsTheyWereWhenTheReportFails) {
-  program.WorkParms.PrimSupport = 1;
-  program.WorkParms.BoltOptionsPrimary = 1;
-  program.WorkParms.BoltDiameterModePrimary = 1;
-  program.WorkParms.BoltDiameterManualPrimary = 1E30F;
-  program.WorkParms.BoltGradeModePrimary = 1;
-  program.WorkParms.BoltGradeManualPrimary = 75;
+  program.WorkParms.Primary.Analysed = 1;
+  program.WorkParms.Primary.Options = 1;
+  program.WorkParms.Primary.DiameterMode = 1;
+  program.WorkParms.Primary.DiameterManual = 1E30F;
+  program.WorkParms.Primary.GradeMode = 1;
+  program.WorkParms.Primary.GradeManual = 75;
   dialog.Open();
   dialog.txtBoltCost.SetText("9");
 
   EXPECT_EQ(ErrorNumberOf([this] { dialog.cmdresults.Press(); }), 6);
 
-  EXPECT_EQ(program.WorkParms.CostBoltCost, 3.0F);
-  EXPECT_EQ(program.WorkParmsCopy.CostBoltCost, 9.0F);
+  EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3.0F);
+  EXPECT_EQ(program.WorkParmsCopy.Cost.BoltCost, 9.0F);
   EXPECT_EQ(platform.windows.modalForms, 0);
 }
 
@@ -334,8 +334,8 @@ TEST_F(ACostDialog, LeavesTheDesignAsItWasByCancelAfterResults) {
 
   dialog.Command1.Press();
 
-  EXPECT_EQ(program.WorkParms.CostBoltCost, 3.0F);
-  EXPECT_EQ(program.WorkParms.CostProduction, 1);
+  EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3.0F);
+  EXPECT_EQ(program.WorkParms.Cost.Production, 1);
   EXPECT_TRUE(program.FileSaved);
   EXPECT_THAT(program.history.Text, EndsWith("Project Parameters Not Modified\r\n"));
 }
@@ -349,7 +349,7 @@ TEST_F(ACostDialog, ShowsNoResultsOfANegativeNumber) {
 
   EXPECT_EQ(platform.windows.modalForms, 0);
   EXPECT_EQ(program.OutBuf[1], "an older report");
-  EXPECT_EQ(program.WorkParmsCopy.CostBoltCost, 0.0F);
+  EXPECT_EQ(program.WorkParmsCopy.Cost.BoltCost, 0.0F);
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid number of depreciation years"));
 }
 
@@ -367,19 +367,19 @@ TEST_F(ACostDialog, CopiesItsPictureToTheClipboard) {
 
 TEST_F(ACostDialog, GivesTheDesignThatOkWouldStoreWithoutCommittingIt) {
   program.FileEmpty = true;
-  program.WorkParms.DepthofCover = 512.5F;
+  program.WorkParms.Place.DepthofCover = 512.5F;
   dialog.Open();
   dialog.txtBoltCost.SetText("3.25");
   dialog.chkAdvance.SetValue(0);
 
-  ProjectRecord edited = program.WorkParms;
+  Design edited = program.WorkParms;
   dialog.ReadEdits(edited);
 
-  EXPECT_EQ(edited.CostBoltCost, 3.25F);
-  EXPECT_EQ(edited.CostAdvance, 0);
-  EXPECT_EQ(edited.CostPlateCost, 1.0F);
-  EXPECT_EQ(edited.DepthofCover, 512.5F);
-  EXPECT_EQ(program.WorkParms.CostBoltCost, 3.0F);
+  EXPECT_EQ(edited.Cost.BoltCost, 3.25F);
+  EXPECT_EQ(edited.Cost.Advance, 0);
+  EXPECT_EQ(edited.Cost.PlateCost, 1.0F);
+  EXPECT_EQ(edited.Place.DepthofCover, 512.5F);
+  EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3.0F);
   EXPECT_TRUE(program.FileSaved);
   EXPECT_TRUE(program.FileEmpty);
   EXPECT_FALSE(dialog.WasCommitted);
@@ -389,13 +389,13 @@ TEST_F(ACostDialog, GivesTheNumbersThatADesignCanHoldAndLeavesTheOthers) {
   dialog.Open();
   dialog.txtBoltCost.SetText("3.25");
   dialog.txtWeeksYear.SetText("1E39");
-  ProjectRecord design;
-  design.CostWeeksYear = 48;
+  Design design;
+  design.Cost.WeeksYear = 48;
 
   dialog.ReadEdits(design);
 
-  EXPECT_EQ(design.CostBoltCost, 3.25F);
-  EXPECT_EQ(design.CostWeeksYear, 48);
+  EXPECT_EQ(design.Cost.BoltCost, 3.25F);
+  EXPECT_EQ(design.Cost.WeeksYear, 48);
 }
 
 }  // namespace

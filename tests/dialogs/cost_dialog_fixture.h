@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "design/field.h"
 #include "dialogs/cost_dialog.h"
 #include "support/recording_platform.h"
 
@@ -14,68 +15,68 @@ namespace orby::test {
 
 struct FieldCase {
   std::string_view name;
-  Single CostGroup::*field;
+  SingleField field;
   Single value;
   std::string_view text;
 };
 
 // Every number field with a value of its own.
 inline const std::array<FieldCase, 22> CostFieldCases{{
-    {"txtBoltCost", &CostGroup::CostBoltCost, 3.25F, "3.25"},
-    {"txtPlateCost", &CostGroup::CostPlateCost, 1.1F, "1.1"},
-    {"txtResinCost", &CostGroup::CostResinCost, 1.45F, "1.45"},
-    {"txtBitCost", &CostGroup::CostBitCost, 67, "67"},
-    {"txtHeaderCost", &CostGroup::CostHeaderCost, 0.35F, "0.35"},
-    {"txtStrapCost", &CostGroup::CostStrapCost, 12.5F, "12.5"},
-    {"txtnOperShift", &CostGroup::CostNOperShift, 2, "2"},
-    {"txtTotalLabor", &CostGroup::CostTotalLabor, 38.4F, "38.4"},
-    {"txtHoursShift", &CostGroup::CostHoursShift, 8.75F, "8.75"},
-    {"txtMaintainHrs", &CostGroup::CostMaintainHrs, 2.5F, "2.5"},
-    {"txtMaintainCost", &CostGroup::CostMaintainCost, 31250, "31250"},
-    {"txtTranspCost", &CostGroup::CostTranspCost, 105, "105"},
-    {"txtCapitalCost", &CostGroup::CostCapitalCost, 1.2e7F, "1.2E+07"},
-    {"txtYearsDepr", &CostGroup::CostYearsDepr, 7, "7"},
-    {"txtnboltsShift", &CostGroup::CostNboltsShift, 280, "280"},
-    {"txtnBoltsRow", &CostGroup::CostNBoltsRow, 5, "5"},
-    {"txtRowSpacing", &CostGroup::CostRowSpacing, 4.2F, "4.2"},
-    {"txtAdvanceShift", &CostGroup::CostAdvanceShift, 310, "310"},
-    {"txtAdvanceRate", &CostGroup::CostAdvanceRate, 4.6F, "4.6"},
-    {"txtCleanProduction", &CostGroup::CostCleanProduction, 1180, "1180"},
-    {"txtShiftsWeek", &CostGroup::CostShiftsWeek, 11, "11"},
-    {"txtWeeksYear", &CostGroup::CostWeeksYear, 49, "49"},
+    {"txtBoltCost", [](auto& d) { return &d.Cost.BoltCost; }, 3.25F, "3.25"},
+    {"txtPlateCost", [](auto& d) { return &d.Cost.PlateCost; }, 1.1F, "1.1"},
+    {"txtResinCost", [](auto& d) { return &d.Cost.ResinCost; }, 1.45F, "1.45"},
+    {"txtBitCost", [](auto& d) { return &d.Cost.BitCost; }, 67, "67"},
+    {"txtHeaderCost", [](auto& d) { return &d.Cost.HeaderCost; }, 0.35F, "0.35"},
+    {"txtStrapCost", [](auto& d) { return &d.Cost.StrapCost; }, 12.5F, "12.5"},
+    {"txtnOperShift", [](auto& d) { return &d.Cost.NOperShift; }, 2, "2"},
+    {"txtTotalLabor", [](auto& d) { return &d.Cost.TotalLabor; }, 38.4F, "38.4"},
+    {"txtHoursShift", [](auto& d) { return &d.Cost.HoursShift; }, 8.75F, "8.75"},
+    {"txtMaintainHrs", [](auto& d) { return &d.Cost.MaintainHrs; }, 2.5F, "2.5"},
+    {"txtMaintainCost", [](auto& d) { return &d.Cost.MaintainCost; }, 31250, "31250"},
+    {"txtTranspCost", [](auto& d) { return &d.Cost.TranspCost; }, 105, "105"},
+    {"txtCapitalCost", [](auto& d) { return &d.Cost.CapitalCost; }, 1.2e7F, "1.2E+07"},
+    {"txtYearsDepr", [](auto& d) { return &d.Cost.YearsDepr; }, 7, "7"},
+    {"txtnboltsShift", [](auto& d) { return &d.Cost.NboltsShift; }, 280, "280"},
+    {"txtnBoltsRow", [](auto& d) { return &d.Cost.NBoltsRow; }, 5, "5"},
+    {"txtRowSpacing", [](auto& d) { return &d.Cost.RowSpacing; }, 4.2F, "4.2"},
+    {"txtAdvanceShift", [](auto& d) { return &d.Cost.AdvanceShift; }, 310, "310"},
+    {"txtAdvanceRate", [](auto& d) { return &d.Cost.AdvanceRate; }, 4.6F, "4.6"},
+    {"txtCleanProduction", [](auto& d) { return &d.Cost.CleanProduction; }, 1180, "1180"},
+    {"txtShiftsWeek", [](auto& d) { return &d.Cost.ShiftsWeek; }, 11, "11"},
+    {"txtWeeksYear", [](auto& d) { return &d.Cost.WeeksYear; }, 49, "49"},
 }};
 
 // One bolter on English units: 4 bolts a row every 4 ft, 300 bolts a shift, 4 tons/ft.
-inline CostGroup OneBolter() {
-  CostGroup cost;
-  cost.CostBoltCost = 3;
-  cost.CostPlateCost = 1;
-  cost.CostResinCost = 1.5F;
-  cost.CostBitCost = 67;
-  cost.CostNboltsShift = 300;
-  cost.CostNBoltsRow = 4;
-  cost.CostRowSpacing = 4;
-  cost.CostNOperShift = 2;
-  cost.CostTotalLabor = 35;
-  cost.CostHoursShift = 8;
-  cost.CostMaintainHrs = 2;
-  cost.CostMaintainCost = 30000;
-  cost.CostTranspCost = 100;
-  cost.CostCapitalCost = 1000000;
-  cost.CostYearsDepr = 5;
-  cost.CostAdvanceShift = 250;
-  cost.CostAdvance = 1;
-  cost.CostAdvanceRate = 4;
-  cost.CostCleanProduction = 900;
-  cost.CostProduction = 1;
-  cost.CostShiftsWeek = 12;
-  cost.CostWeeksYear = 50;
+inline CostInputs OneBolter() {
+  CostInputs cost;
+  cost.BoltCost = 3;
+  cost.PlateCost = 1;
+  cost.ResinCost = 1.5F;
+  cost.BitCost = 67;
+  cost.NboltsShift = 300;
+  cost.NBoltsRow = 4;
+  cost.RowSpacing = 4;
+  cost.NOperShift = 2;
+  cost.TotalLabor = 35;
+  cost.HoursShift = 8;
+  cost.MaintainHrs = 2;
+  cost.MaintainCost = 30000;
+  cost.TranspCost = 100;
+  cost.CapitalCost = 1000000;
+  cost.YearsDepr = 5;
+  cost.AdvanceShift = 250;
+  cost.Advance = 1;
+  cost.AdvanceRate = 4;
+  cost.CleanProduction = 900;
+  cost.Production = 1;
+  cost.ShiftsWeek = 12;
+  cost.WeeksYear = 50;
   return cost;
 }
 
 struct ACostDialog : testing::Test {
   ACostDialog() {
-    program.WorkParms.Cost() = OneBolter();
+    program.WorkParms.Cost = OneBolter();
     program.FileSaved = true;
     program.FileEmpty = false;
   }

@@ -8,7 +8,7 @@ using testing::IsEmpty;
 // ---- opening --------------------------------------------------------------------------------------------------------
 
 TEST_F(ACostDialog, ShowsEveryCostOfTheDesign) {
-  for (const FieldCase& field : CostFieldCases) program.WorkParms.*field.field = field.value;
+  for (const FieldCase& field : CostFieldCases) field.field.In(program.WorkParms) = field.value;
 
   dialog.Open();
 
@@ -16,8 +16,8 @@ TEST_F(ACostDialog, ShowsEveryCostOfTheDesign) {
 }
 
 TEST_F(ACostDialog, ShowsWhichCalculatedValuesTheDesignUses) {
-  program.WorkParms.CostAdvance = 1;
-  program.WorkParms.CostProduction = 0;
+  program.WorkParms.Cost.Advance = 1;
+  program.WorkParms.Cost.Production = 0;
 
   dialog.Open();
 
@@ -33,8 +33,8 @@ TEST_F(ACostDialog, ShowsTheCalculatedFiguresAtOnce) {
 }
 
 TEST_F(ACostDialog, TakesTheFiguresFromTheShownDecimals) {
-  program.WorkParms.CostRowSpacing = 1.2F;
-  program.WorkParms.CostAdvanceRate = 12;
+  program.WorkParms.Cost.RowSpacing = 1.2F;
+  program.WorkParms.Cost.AdvanceRate = 12;
 
   dialog.Open();
 
@@ -43,7 +43,7 @@ TEST_F(ACostDialog, TakesTheFiguresFromTheShownDecimals) {
 }
 
 TEST_F(ACostDialog, WithoutARowSpacingOpensWithoutAnAdvance) {
-  program.WorkParms.CostRowSpacing = 0;
+  program.WorkParms.Cost.RowSpacing = 0;
 
   dialog.Open();
 
@@ -149,7 +149,7 @@ TEST_F(ACostDialog, PassesOnlyTheKeysOfNumbers) {
 }
 
 TEST_F(ACostDialog, SelectsTheWholeNumberThatGetsTheFocus) {
-  for (const FieldCase& field : CostFieldCases) program.WorkParms.*field.field = field.value;
+  for (const FieldCase& field : CostFieldCases) field.field.In(program.WorkParms) = field.value;
   dialog.Open();
 
   for (const FieldCase& field : CostFieldCases) {
@@ -206,7 +206,7 @@ TEST_F(ACostDialog, AcceptsARowSpacingOfZero) {
   dialog.Command2.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.WorkParms.CostRowSpacing, 0.0F);
+  EXPECT_EQ(program.WorkParms.Cost.RowSpacing, 0.0F);
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 

@@ -24,8 +24,8 @@ struct ADescriptionDialog : testing::Test {
     program.CurrentFile = "/designs/panel3.ORB";
     program.ProjectTitle = "Panel 3";
     program.ProjectDescription = "Headgate\r\nSecond cut";
-    program.WorkParms.CMRR = 52;
-    program.WorkParms.DepthofCover = 512.5F;
+    program.WorkParms.Place.CMRR = 52;
+    program.WorkParms.Place.DepthofCover = 512.5F;
     program.FileEmpty = false;
     program.history = {};
   }
@@ -227,7 +227,7 @@ TEST_F(ADescriptionDialog, StoresTitleAndDescriptionOnOk) {
   EXPECT_FALSE(dialog.IsOpen());
   EXPECT_EQ(program.ProjectTitle, "Panel 4");
   EXPECT_EQ(program.ProjectDescription, "Tailgate");
-  EXPECT_EQ(program.WorkParms.DepthofCover, 512.5F);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 512.5F);
   EXPECT_EQ(program.CurrentFile, "/designs/panel3.ORB");
   EXPECT_FALSE(dialog.OpensParameters);
 }
@@ -266,10 +266,10 @@ TEST_F(ADescriptionDialog, LosesTheTypedTitleWhenTheUnitsChange) {
   EXPECT_EQ(program.ProjectDescription, "");
   EXPECT_EQ(program.Units, Metric);
   EXPECT_EQ(program.CurrentFile, "/designs/panel3.ORB");
-  EXPECT_EQ(program.WorkParms.CMRR, 45);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 150);
-  EXPECT_EQ(program.WorkParms.BoltDiameterStdPrimary, 20);
-  EXPECT_EQ(program.WorkParms.BoltGradeStdPrimary, 520);
+  EXPECT_EQ(program.WorkParms.Place.CMRR, 45);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 150);
+  EXPECT_EQ(program.WorkParms.Primary.DiameterStd, 20);
+  EXPECT_EQ(program.WorkParms.Primary.GradeStd, 520);
 }
 
 TEST_F(ADescriptionDialog, LosesTheTypedTitleWhenTheStrengthModeChanges) {
@@ -282,8 +282,8 @@ TEST_F(ADescriptionDialog, LosesTheTypedTitleWhenTheStrengthModeChanges) {
   EXPECT_EQ(program.ProjectTitle, "");
   EXPECT_EQ(program.BoltStrengthMode, 1);
   EXPECT_EQ(program.Units, English);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
-  EXPECT_EQ(program.WorkParms.BoltGradeStdPrimary, 100);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
+  EXPECT_EQ(program.WorkParms.Primary.GradeStd, 100);
 }
 
 TEST_F(ADescriptionDialog, StartsAnewForUnitsAndForStrengthsAndIsUnsavedAllTheSame) {
@@ -298,7 +298,7 @@ TEST_F(ADescriptionDialog, StartsAnewForUnitsAndForStrengthsAndIsUnsavedAllTheSa
             "2. File initialized. Use Edit-Project Parameters to enter data\r\n"
             "3. File initialized. Use Edit-Project Parameters to enter data\r\n"
             "4. Project Description Modified\r\n");
-  EXPECT_EQ(program.WorkParms.BoltGradeStdPrimary, 690);
+  EXPECT_EQ(program.WorkParms.Primary.GradeStd, 690);
   EXPECT_FALSE(program.FileSaved);
   EXPECT_FALSE(program.FileEmpty);
   EXPECT_TRUE(program.UnitsLocked);
@@ -312,7 +312,7 @@ TEST_F(ADescriptionDialog, KeepsTheDesignWhenUnitsAreChangedThereAndBack) {
   dialog.Command2.Press();
 
   EXPECT_EQ(program.ProjectTitle, "Panel 3");
-  EXPECT_EQ(program.WorkParms.DepthofCover, 512.5F);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 512.5F);
 }
 
 // ---- the other commands ---------------------------------------------------------------------------------------------
@@ -394,7 +394,7 @@ TEST_F(ADescriptionDialog, KeepsWhatWasTypedAlongWithOtherUnits) {
   ASSERT_TRUE(kept);
   EXPECT_EQ(kept->ProjectTitle, "Panel 4");
   EXPECT_EQ(kept->ProjectDescription, "Headgate\r\nSecond cut");
-  EXPECT_EQ(kept->WorkParms.DepthofCover, 512.5F);
+  EXPECT_EQ(kept->WorkParms.Place.DepthofCover, 512.5F);
   EXPECT_EQ(kept->Units, English);
 }
 

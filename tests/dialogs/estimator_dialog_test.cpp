@@ -328,17 +328,17 @@ TEST_F(AnEstimator, HandsOutRatingCoalfieldAndRockTypeOnOk) {
 }
 
 TEST_F(AnEstimator, LeavesTheDesignItselfToTheDialogThatAsked) {
-  program.WorkParms.CMRR = 42;
-  program.WorkParms.CMRRRegionIndex = 1;
-  program.WorkParms.CMRRRockTypeIndex = 2;
+  program.WorkParms.Place.CMRR = 42;
+  program.WorkParms.Place.CMRRRegionIndex = 1;
+  program.WorkParms.Place.CMRRRockTypeIndex = 2;
   OpenOn(1, 2);
   dialog.VSFlexGrid1.ClickRow(5);
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.CMRR, 42);
-  EXPECT_EQ(program.WorkParms.CMRRRegionIndex, 1);
-  EXPECT_EQ(program.WorkParms.CMRRRockTypeIndex, 2);
+  EXPECT_EQ(program.WorkParms.Place.CMRR, 42);
+  EXPECT_EQ(program.WorkParms.Place.CMRRRegionIndex, 1);
+  EXPECT_EQ(program.WorkParms.Place.CMRRRockTypeIndex, 2);
 }
 
 TEST_F(AnEstimator, LeavesTheEstimateAsItWasOnCancel) {

@@ -548,10 +548,10 @@ TEST_F(GraphOfACurve, ClearedKeepsTheSymbolSizeWhenItCloses) {
 TEST_F(GraphOfACurve, KeepsTheTitleOfTheCurveOnViewWhenAnotherCannotBeSwept) {
   window.ShowCurve(1);
   window.graph1.SetAxisX({"Cover above the seam", true});
-  program.WorkParmsCopy.CMRR = 45;
-  program.WorkParmsCopy.DepthofCover = 400;
-  program.WorkParmsCopy.ActualSpanDiagonals = 60;
-  program.WorkParmsCopy.StabilityFactor = 2e38F;
+  program.WorkParmsCopy.Place.CMRR = 45;
+  program.WorkParmsCopy.Place.DepthofCover = 400;
+  program.WorkParmsCopy.Place.ActualSpanDiagonals = 60;
+  program.WorkParmsCopy.Primary.StabilityFactor = 2e38F;
   ASSERT_EQ(ErrorNumberOf([&] { GenerateCurve(program, 2); }), 6);
 
   window.Close();

@@ -9,8 +9,8 @@ using testing::IsEmpty;
 // The parameters dialog, and a user at the estimator that it opens.
 struct RatingEstimate : AParametersDialog {
   RatingEstimate() {
-    program.WorkParms.CMRRRegionIndex = 1;
-    program.WorkParms.CMRRRockTypeIndex = 2;
+    program.WorkParms.Place.CMRRRegionIndex = 1;
+    program.WorkParms.Place.CMRRRockTypeIndex = 2;
     dialog.Open();
   }
 
@@ -106,10 +106,10 @@ TEST_F(RatingEstimate, IsSavedWithItsOriginOnOk) {
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.CMRR, 65);
-  EXPECT_EQ(program.WorkParms.CMRRRegionIndex, 2);
-  EXPECT_EQ(program.WorkParms.CMRRRockTypeIndex, 5);
-  EXPECT_EQ(program.WorkParms.CMRRManual, 0);
+  EXPECT_EQ(program.WorkParms.Place.CMRR, 65);
+  EXPECT_EQ(program.WorkParms.Place.CMRRRegionIndex, 2);
+  EXPECT_EQ(program.WorkParms.Place.CMRRRockTypeIndex, 5);
+  EXPECT_EQ(program.WorkParms.Place.CMRRManual, 0);
 }
 
 TEST_F(RatingEstimate, IsNotPartOfTheDesignWhenTheParametersAreCancelled) {
@@ -117,9 +117,9 @@ TEST_F(RatingEstimate, IsNotPartOfTheDesignWhenTheParametersAreCancelled) {
 
   dialog.Command1.Press();
 
-  EXPECT_EQ(program.WorkParms.CMRR, 45);
-  EXPECT_EQ(program.WorkParms.CMRRRegionIndex, 1);
-  EXPECT_EQ(program.WorkParms.CMRRRockTypeIndex, 2);
+  EXPECT_EQ(program.WorkParms.Place.CMRR, 45);
+  EXPECT_EQ(program.WorkParms.Place.CMRRRegionIndex, 1);
+  EXPECT_EQ(program.WorkParms.Place.CMRRRockTypeIndex, 2);
 }
 
 TEST_F(RatingEstimate, IsNotAskedForWhileTheRatingIsSetByHand) {

@@ -36,7 +36,7 @@ TEST_F(ParameterEvents, ARatingComesFromTheEstimatorUntilItIsSetByHand) {
 }
 
 TEST_F(ParameterEvents, ARatingSetByHandOpensForTyping) {
-  program.WorkParms.CMRRManual = 1;
+  program.WorkParms.Place.CMRRManual = 1;
   ParametersDialog other(program);
 
   other.Open();
@@ -128,7 +128,7 @@ TEST_F(ParameterEvents, ABoltsDiameterAndGradeAreChosenFromAListOrTyped) {
 }
 
 TEST_F(ParameterEvents, AStoredManualBoltOpensWithItsFieldsShown) {
-  program.WorkParms.BoltOptionsSecInter = program.WorkParms.BoltDiameterModeSecInter = 1;
+  program.WorkParms.Intersections.Bolt.Options = program.WorkParms.Intersections.Bolt.DiameterMode = 1;
   ParametersDialog other(program);
 
   other.Open();
@@ -179,7 +179,7 @@ TEST_F(ParameterEvents, ACableIsSpecifiedByDiameterOrByCapacity) {
 
 TEST_F(ParameterEvents, AMetricCableOpensByItsCapacity) {
   StartDesign(Metric);
-  program.WorkParms.CableCapacitySecInter = 1;
+  program.WorkParms.Intersections.Cable.Capacity = 1;
   ParametersDialog other(program);
 
   other.Open();

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "core/units.h"
+#include "design/units.h"
 
 namespace orby::test {
 

@@ -107,9 +107,9 @@ TEST_F(ParameterLists, TheAustralianSettingShowsNothingInAnEnglishDesign) {
 }
 
 TEST_F(ParameterFields, TheStoredTableRowIsSelected) {
-  program.WorkParms.BoltTableRowPrimary = 9;
-  program.WorkParms.BoltTableRowSecEntry = 6;
-  program.WorkParms.BoltTableRowSecInter = 3;
+  program.WorkParms.Primary.TableRow = 9;
+  program.WorkParms.Entries.Bolt.TableRow = 6;
+  program.WorkParms.Intersections.Bolt.TableRow = 3;
 
   dialog.Open();
 
@@ -120,9 +120,9 @@ TEST_F(ParameterFields, TheStoredTableRowIsSelected) {
 
 TEST_F(ParameterFields, AStoredRowOutsideTheTableOpensOnTheFirst) {
   for (const Integer row : {Integer{10}, Integer{-1}, Integer{-2}, Integer{32767}, Integer{-32768}}) {
-    program.WorkParms.BoltTableRowPrimary = row;
-    program.WorkParms.BoltTableRowSecEntry = row;
-    program.WorkParms.BoltTableRowSecInter = row;
+    program.WorkParms.Primary.TableRow = row;
+    program.WorkParms.Entries.Bolt.TableRow = row;
+    program.WorkParms.Intersections.Bolt.TableRow = row;
     ParametersDialog other(program);
 
     other.Open();
@@ -137,8 +137,8 @@ TEST_F(ParameterFields, AStoredRowOfTheLongTableOpensOnTheFirstOfTheAustralianOn
   StartDesign(Metric);
   program.UseAUSStandardTable = 1;
   for (const auto& [stored, row] : {std::pair{1, 2}, {2, 1}, {3, 1}, {4, 1}, {5, 1}, {6, 1}, {7, 1}, {8, 1}, {9, 1}}) {
-    for (const BoltFields* bolt : {&PrimaryBolt, &SecEntryBolt, &SecInterBolt}) {
-      program.WorkParms.*bolt->TableRow = static_cast<Integer>(stored);
+    for (BoltSelection* bolt : program.WorkParms.BoltSets()) {
+      bolt->TableRow = static_cast<Integer>(stored);
     }
     ParametersDialog other(program);
 
@@ -345,8 +345,8 @@ TEST_F(ParameterFields, AMetricDesignStartsWithStandingSupportsOf500) {
 }
 
 TEST_F(ParameterFields, AStoredSupportThatTheCatalogLacksKeepsItsNameAndCapacity) {
-  program.WorkParms.SupportTypeNameSecEntry = "Stone pack";
-  program.WorkParms.SupportCapSecEntry = 61.5F;
+  program.WorkParms.Entries.Standing.TypeName = "Stone pack";
+  program.WorkParms.Entries.Standing.Capacity = 61.5F;
 
   dialog.Open();
 
@@ -356,10 +356,10 @@ TEST_F(ParameterFields, AStoredSupportThatTheCatalogLacksKeepsItsNameAndCapacity
 }
 
 TEST_F(ParameterFields, AManualSupportOpensInTheTextFields) {
-  program.WorkParms.SupportTypeModeSecEntry = program.WorkParms.SupportTypeModeSecInter = 1;
-  program.WorkParms.SupportTypeNameSecEntry = "Wood Post (6in)";
-  program.WorkParms.SupportTypeNameSecInter = "Stone pack";
-  program.WorkParms.SupportCapSecInter = 33;
+  program.WorkParms.Entries.Standing.TypeMode = program.WorkParms.Intersections.Standing.TypeMode = 1;
+  program.WorkParms.Entries.Standing.TypeName = "Wood Post (6in)";
+  program.WorkParms.Intersections.Standing.TypeName = "Stone pack";
+  program.WorkParms.Intersections.Standing.Capacity = 33;
 
   dialog.Open();
 

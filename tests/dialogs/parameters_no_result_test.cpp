@@ -47,7 +47,7 @@ TEST_F(NoResultShown, OfAnEntryIsThatOfTheFailingSystemAlone) {
       // The trusses need the standing supports' spacing too.
       {"txtSupportRowSpacingSecEntry=1E40", {"10.6", "--", "16.6", "--", "1.06", "--", "1.66", "--"}},
   };
-  program.WorkParms.BoltTableRowSecEntry = 6;
+  program.WorkParms.Entries.Bolt.TableRow = 6;
   for (const FailingSystem& failing : cases) {
     ParametersDialog other(program);
     other.Open();
@@ -68,7 +68,7 @@ TEST_F(NoResultShown, OfAnIntersectionIsThatOfTheFailingSystemAlone) {
       {"txtBoltNumberSecInter=-1E400", {"264", "170", "--", "200", "1.44", "0.93", "--", "1.09"}},
       {"txtSupportNumberSecInter=1E400", {"264", "170", "166", "--", "1.44", "0.93", "0.91", "--"}},
   };
-  program.WorkParms.BoltTableRowSecInter = 6;
+  program.WorkParms.Intersections.Bolt.TableRow = 6;
   for (const FailingSystem& failing : cases) {
     ParametersDialog other(program);
     other.Open();
@@ -172,9 +172,9 @@ TEST_F(NoResultShown, IsStoredAsZero) {
 
   EXPECT_TRUE(dialog.SaveWorkParms());
 
-  EXPECT_EQ(program.WorkParms.SupportCapEntry2, 0);
-  EXPECT_EQ(program.WorkParms.StabFactorEntry2, 0);
-  EXPECT_EQ(program.WorkParms.StabFactorEntry1, 1.06F);
+  EXPECT_EQ(program.WorkParms.Entries.Truss.SupportCap, 0);
+  EXPECT_EQ(program.WorkParms.Entries.Truss.StabFactor, 0);
+  EXPECT_EQ(program.WorkParms.Entries.Cable.StabFactor, 1.06F);
 }
 
 // ---- numbers that nothing can hold ----------------------------------------------------------------------------------
@@ -233,15 +233,15 @@ TEST_F(NumbersBeyondAll, AreRefusedWithTheNameOfTheirField) {
       {"txtBoltNumberSecInter", "Number of Roof Bolts", 3, 0, 2},
       {"txtSupportNumberSecInter", "Number of Supports", 3, 0, 3},
   };
-  program.WorkParms.PrimSupport = 0;
-  program.WorkParms.SecondSupEntries = 0;
-  program.WorkParms.SecondSupInter = 0;
+  program.WorkParms.Primary.Analysed = 0;
+  program.WorkParms.Entries.Analysed = 0;
+  program.WorkParms.Intersections.Analysed = 0;
   for (const RefusedField& refused : cases) {
     for (Button ParametersDialog::*command : {&ParametersDialog::Command2, &ParametersDialog::cmdresults}) {
       ParametersDialog other(program);
       other.Open();
       Edit(other, "txtDepthofCover=512|optBoltDiameterPrimary=0|" + std::string(refused.field) + "= 1E39");
-      const Single before = program.WorkParmsCopy.DepthofCover;
+      const Single before = program.WorkParmsCopy.Place.DepthofCover;
       platform.boxes.shown.clear();
 
       (other.*command).Press();
@@ -254,8 +254,8 @@ TEST_F(NumbersBeyondAll, AreRefusedWithTheNameOfTheirField) {
       EXPECT_EQ(other.SSTab3.Tab(), refused.interTab) << refused.field;
       EXPECT_EQ(other.FocusRequest(), other.Find(refused.field));
       EXPECT_TRUE(other.IsOpen());
-      EXPECT_EQ(program.WorkParms.DepthofCover, 400);
-      EXPECT_EQ(program.WorkParmsCopy.DepthofCover, before);
+      EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
+      EXPECT_EQ(program.WorkParmsCopy.Place.DepthofCover, before);
       EXPECT_TRUE(program.FileSaved);
       EXPECT_EQ(platform.windows.modalForms, 0);
     }

@@ -1,3 +1,4 @@
+#include "design/field.h"
 #include "parameters_fixture.h"
 
 namespace orby::test {
@@ -42,8 +43,8 @@ TEST_F(OpeningParameters, LeavesTheDesignAndItsFlagsAlone) {
   EXPECT_TRUE(program.FileSaved);
   EXPECT_TRUE(program.FileEmpty);
   EXPECT_FALSE(program.UnitsLocked);
-  EXPECT_EQ(program.WorkParms.CMRR, 45);
-  EXPECT_EQ(program.WorkParms.RockLoadEntry1, 0);
+  EXPECT_EQ(program.WorkParms.Place.CMRR, 45);
+  EXPECT_EQ(program.WorkParms.Entries.RockLoad, 0);
 }
 
 TEST_F(OpeningParameters, ShowsTheGeneralTabAndTheCableTabs) {
@@ -65,9 +66,9 @@ std::vector<bool> EnabledTabs(const TabSet& tabs) {
 }
 
 TEST_F(OpeningParameters, EnablesTheTabsOfWhatIsAnalysed) {
-  program.WorkParms.SecondSupEntries = 0;
-  program.WorkParms.SecEntryUseTruss = 1;
-  program.WorkParms.SecInterUseStanding = 1;
+  program.WorkParms.Entries.Analysed = 0;
+  program.WorkParms.Entries.Truss.Use = 1;
+  program.WorkParms.Intersections.Standing.Use = 1;
 
   dialog.Open();
 
@@ -77,8 +78,8 @@ TEST_F(OpeningParameters, EnablesTheTabsOfWhatIsAnalysed) {
 }
 
 TEST_F(OpeningParameters, LeavesTheCableTabOpenWhenNoSystemIsChosen) {
-  program.WorkParms.PrimSupport = program.WorkParms.SecondSupInter = 0;
-  program.WorkParms.SecEntryUseCable = program.WorkParms.SecInterUseCable = 0;
+  program.WorkParms.Primary.Analysed = program.WorkParms.Intersections.Analysed = 0;
+  program.WorkParms.Entries.Cable.Use = program.WorkParms.Intersections.Cable.Use = 0;
 
   dialog.Open();
 
@@ -89,13 +90,13 @@ TEST_F(OpeningParameters, LeavesTheCableTabOpenWhenNoSystemIsChosen) {
 
 TEST_F(OpeningParameters, ForcesAMetricDesignToSpecifyCablesByCapacity) {
   StartDesign(Metric);
-  ASSERT_EQ(program.WorkParms.CableCapModeSecEntry, 0);
-  ASSERT_EQ(program.WorkParms.CableCapModeSecInter, 0);
+  ASSERT_EQ(program.WorkParms.Entries.Cable.CapMode, 0);
+  ASSERT_EQ(program.WorkParms.Intersections.Cable.CapMode, 0);
 
   dialog.Open();
 
-  EXPECT_EQ(program.WorkParms.CableCapModeSecEntry, 1);
-  EXPECT_EQ(program.WorkParms.CableCapModeSecInter, 1);
+  EXPECT_EQ(program.WorkParms.Entries.Cable.CapMode, 1);
+  EXPECT_EQ(program.WorkParms.Intersections.Cable.CapMode, 1);
   for (const OptionArray* options : {&dialog.optCableCapModeSecEntry, &dialog.optCableCapModeSecInter}) {
     EXPECT_FALSE(options->MemberEnabled(0)) << options->Name();
     EXPECT_TRUE(options->MemberEnabled(1)) << options->Name();
@@ -113,8 +114,8 @@ TEST_F(OpeningParameters, LeavesAnEnglishDesignTheChoiceOfCableDiameters) {
 }
 
 TEST_F(OpeningParameters, HandsTheRatingsOriginToTheEstimator) {
-  program.WorkParms.CMRRRegionIndex = 4;
-  program.WorkParms.CMRRRockTypeIndex = 3;
+  program.WorkParms.Place.CMRRRegionIndex = 4;
+  program.WorkParms.Place.CMRRRockTypeIndex = 3;
 
   dialog.Open();
 
@@ -135,7 +136,7 @@ TEST_F(OpeningParameters, ShowsTheFourLiveResultsOnce) {
 
 TEST_F(OpeningParameters, RunsNoRefreshWhileTheFieldsAreFilled) {
   // The depth cannot be computed with, so what it is refreshed with while the fields are filled would stay.
-  program.WorkParms.DepthofCover = 0;
+  program.WorkParms.Place.DepthofCover = 0;
 
   dialog.Open();
 
@@ -145,7 +146,7 @@ TEST_F(OpeningParameters, RunsNoRefreshWhileTheFieldsAreFilled) {
 }
 
 TEST_F(OpeningParameters, WithADepthOfZeroLeavesItToBeRepaired) {
-  program.WorkParms.DepthofCover = 0;
+  program.WorkParms.Place.DepthofCover = 0;
   dialog.Open();
   dialog.Command2.Press();
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid depth of cover"));
@@ -156,23 +157,29 @@ TEST_F(OpeningParameters, WithADepthOfZeroLeavesItToBeRepaired) {
   dialog.Command2.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
 }
 
 TEST_F(OpeningParameters, TellsOfAnOptionThatDoesNotExistAndFails) {
-  const std::vector<Integer ProjectRecord::*> fields{
-      &ProjectRecord::BoltOptionsPrimary,       &ProjectRecord::BoltDiameterModePrimary,
-      &ProjectRecord::BoltGradeModePrimary,     &ProjectRecord::BoltOptionsSecEntry,
-      &ProjectRecord::BoltDiameterModeSecEntry, &ProjectRecord::BoltGradeModeSecEntry,
-      &ProjectRecord::BoltOptionsSecInter,      &ProjectRecord::BoltDiameterModeSecInter,
-      &ProjectRecord::BoltGradeModeSecInter,    &ProjectRecord::CableCapModeSecEntry,
-      &ProjectRecord::CableCapacitySecEntry,    &ProjectRecord::CableCapModeSecInter,
-      &ProjectRecord::CableCapacitySecInter,    &ProjectRecord::SupportTypeModeSecEntry,
-      &ProjectRecord::SupportTypeModeSecInter};
+  const std::vector<IntegerField> fields{[](auto& d) { return &d.Primary.Options; },
+                                         [](auto& d) { return &d.Primary.DiameterMode; },
+                                         [](auto& d) { return &d.Primary.GradeMode; },
+                                         [](auto& d) { return &d.Entries.Bolt.Options; },
+                                         [](auto& d) { return &d.Entries.Bolt.DiameterMode; },
+                                         [](auto& d) { return &d.Entries.Bolt.GradeMode; },
+                                         [](auto& d) { return &d.Intersections.Bolt.Options; },
+                                         [](auto& d) { return &d.Intersections.Bolt.DiameterMode; },
+                                         [](auto& d) { return &d.Intersections.Bolt.GradeMode; },
+                                         [](auto& d) { return &d.Entries.Cable.CapMode; },
+                                         [](auto& d) { return &d.Entries.Cable.Capacity; },
+                                         [](auto& d) { return &d.Intersections.Cable.CapMode; },
+                                         [](auto& d) { return &d.Intersections.Cable.Capacity; },
+                                         [](auto& d) { return &d.Entries.Standing.TypeMode; },
+                                         [](auto& d) { return &d.Intersections.Standing.TypeMode; }};
   for (const auto field : fields) {
     for (const Integer index : {Integer{2}, Integer{-1}}) {
       StartDesign(English);
-      program.WorkParms.*field = index;
+      field.In(program.WorkParms) = index;
       platform.boxes.shown.clear();
       ParametersDialog other(program);
 
@@ -219,7 +226,7 @@ TEST_F(ClosingParameters, WithOkCommitsAndLocksTheUnits) {
 
   EXPECT_FALSE(dialog.IsOpen());
   EXPECT_TRUE(dialog.WasCommitted);
-  EXPECT_EQ(program.WorkParms.EntryWidth, 19);
+  EXPECT_EQ(program.WorkParms.Place.EntryWidth, 19);
   EXPECT_TRUE(program.UnitsLocked);
   EXPECT_FALSE(program.FileSaved);
   EXPECT_FALSE(program.FileEmpty);
@@ -251,7 +258,7 @@ TEST_F(ClosingParameters, WithCancelOrTheWindowsCloseSavesNothing) {
 
     EXPECT_FALSE(other.IsOpen());
     EXPECT_FALSE(other.WasCommitted);
-    EXPECT_EQ(program.WorkParms.EntryWidth, 20);
+    EXPECT_EQ(program.WorkParms.Place.EntryWidth, 20);
     EXPECT_FALSE(program.UnitsLocked);
     EXPECT_TRUE(program.FileSaved);
     EXPECT_TRUE(program.FileEmpty);
@@ -262,14 +269,14 @@ TEST_F(ClosingParameters, WithCancelOrTheWindowsCloseSavesNothing) {
 
 TEST_F(ClosingParameters, WithCancelKeepsTheCableModeThatAMetricDesignIsForcedTo) {
   StartDesign(Metric);
-  ASSERT_EQ(program.WorkParms.CableCapModeSecEntry, 0);
-  ASSERT_EQ(program.WorkParms.CableCapModeSecInter, 0);
+  ASSERT_EQ(program.WorkParms.Entries.Cable.CapMode, 0);
+  ASSERT_EQ(program.WorkParms.Intersections.Cable.CapMode, 0);
   dialog.Open();
 
   dialog.Command1.Press();
 
-  EXPECT_EQ(program.WorkParms.CableCapModeSecEntry, 1);
-  EXPECT_EQ(program.WorkParms.CableCapModeSecInter, 1);
+  EXPECT_EQ(program.WorkParms.Entries.Cable.CapMode, 1);
+  EXPECT_EQ(program.WorkParms.Intersections.Cable.CapMode, 1);
   EXPECT_TRUE(program.FileSaved);
 }
 

@@ -1,22 +1,21 @@
+#include "design/field.h"
 #include "parameters_fixture.h"
 
 namespace orby::test {
 namespace {
 
-using R = ProjectRecord;
-
 // What the dialog showed last is what the design keeps of its loads, capacities and stability factors.
 using SavedOutputs = AParametersDialog;
 
 struct SavedOutput {
-  Single ProjectRecord::*field;
+  SingleField field;
   Single value;
 };
 
-void ExpectOutputs(const ProjectRecord& record, const std::vector<SavedOutput>& outputs) {
+void ExpectOutputs(const Design& record, const std::vector<SavedOutput>& outputs) {
   ASSERT_EQ(outputs.size(), 18U);
   int index = 0;
-  for (const SavedOutput& output : outputs) EXPECT_EQ(record.*output.field, output.value) << index++;
+  for (const SavedOutput& output : outputs) EXPECT_EQ(output.field.In(record), output.value) << index++;
 }
 
 TEST_F(SavedOutputs, AreTheNumbersAsShown) {
@@ -25,24 +24,24 @@ TEST_F(SavedOutputs, AreTheNumbersAsShown) {
 
   dialog.SaveWorkParms();
 
-  ExpectOutputs(program.WorkParms, {{&R::RockLoadEntry1, 10},
-                                    {&R::SupportCapEntry1, 10.6F},
-                                    {&R::SupportCapEntry2, 10.6F},
-                                    {&R::SupportCapEntry3, 8.4F},
-                                    {&R::SupportCapEntry4, 12.5F},
-                                    {&R::StabFactorEntry1, 1.06F},
-                                    {&R::StabFactorEntry2, 1.06F},
-                                    {&R::StabFactorEntry3, 0.85F},
-                                    {&R::StabFactorEntry4, 1.25F},
-                                    {&R::RockLoadInter1, 183},
-                                    {&R::SupportCapInter1, 264},
-                                    {&R::SupportCapInter2, 170},
-                                    {&R::SupportCapInter3, 84},
-                                    {&R::SupportCapInter4, 200},
-                                    {&R::StabFactorInter1, 1.44F},
-                                    {&R::StabFactorInter2, 0.93F},
-                                    {&R::StabFactorInter3, 0.46F},
-                                    {&R::StabFactorInter4, 1.09F}});
+  ExpectOutputs(program.WorkParms, {{[](auto& d) { return &d.Entries.RockLoad; }, 10},
+                                    {[](auto& d) { return &d.Entries.Cable.SupportCap; }, 10.6F},
+                                    {[](auto& d) { return &d.Entries.Truss.SupportCap; }, 10.6F},
+                                    {[](auto& d) { return &d.Entries.Bolt.SupportCap; }, 8.4F},
+                                    {[](auto& d) { return &d.Entries.Standing.SupportCap; }, 12.5F},
+                                    {[](auto& d) { return &d.Entries.Cable.StabFactor; }, 1.06F},
+                                    {[](auto& d) { return &d.Entries.Truss.StabFactor; }, 1.06F},
+                                    {[](auto& d) { return &d.Entries.Bolt.StabFactor; }, 0.85F},
+                                    {[](auto& d) { return &d.Entries.Standing.StabFactor; }, 1.25F},
+                                    {[](auto& d) { return &d.Intersections.RockLoad; }, 183},
+                                    {[](auto& d) { return &d.Intersections.Cable.SupportCap; }, 264},
+                                    {[](auto& d) { return &d.Intersections.Truss.SupportCap; }, 170},
+                                    {[](auto& d) { return &d.Intersections.Bolt.SupportCap; }, 84},
+                                    {[](auto& d) { return &d.Intersections.Standing.SupportCap; }, 200},
+                                    {[](auto& d) { return &d.Intersections.Cable.StabFactor; }, 1.44F},
+                                    {[](auto& d) { return &d.Intersections.Truss.StabFactor; }, 0.93F},
+                                    {[](auto& d) { return &d.Intersections.Bolt.StabFactor; }, 0.46F},
+                                    {[](auto& d) { return &d.Intersections.Standing.StabFactor; }, 1.09F}});
 }
 
 TEST_F(SavedOutputs, ComeFromTheFirstRockLoadAndEachFromItsOwnBox) {
@@ -56,30 +55,30 @@ TEST_F(SavedOutputs, ComeFromTheFirstRockLoadAndEachFromItsOwnBox) {
 
   dialog.SaveWorkParms();
 
-  ExpectOutputs(program.WorkParms, {{&R::RockLoadEntry1, 1},
-                                    {&R::SupportCapEntry1, 5},
-                                    {&R::SupportCapEntry2, 6},
-                                    {&R::SupportCapEntry3, 7},
-                                    {&R::SupportCapEntry4, 8},
-                                    {&R::StabFactorEntry1, 9},
-                                    {&R::StabFactorEntry2, 10},
-                                    {&R::StabFactorEntry3, 11},
-                                    {&R::StabFactorEntry4, 12},
-                                    {&R::RockLoadInter1, 13},
-                                    {&R::SupportCapInter1, 17},
-                                    {&R::SupportCapInter2, 18},
-                                    {&R::SupportCapInter3, 19},
-                                    {&R::SupportCapInter4, 20},
-                                    {&R::StabFactorInter1, 21},
-                                    {&R::StabFactorInter2, 22},
-                                    {&R::StabFactorInter3, 23},
-                                    {&R::StabFactorInter4, 24}});
+  ExpectOutputs(program.WorkParms, {{[](auto& d) { return &d.Entries.RockLoad; }, 1},
+                                    {[](auto& d) { return &d.Entries.Cable.SupportCap; }, 5},
+                                    {[](auto& d) { return &d.Entries.Truss.SupportCap; }, 6},
+                                    {[](auto& d) { return &d.Entries.Bolt.SupportCap; }, 7},
+                                    {[](auto& d) { return &d.Entries.Standing.SupportCap; }, 8},
+                                    {[](auto& d) { return &d.Entries.Cable.StabFactor; }, 9},
+                                    {[](auto& d) { return &d.Entries.Truss.StabFactor; }, 10},
+                                    {[](auto& d) { return &d.Entries.Bolt.StabFactor; }, 11},
+                                    {[](auto& d) { return &d.Entries.Standing.StabFactor; }, 12},
+                                    {[](auto& d) { return &d.Intersections.RockLoad; }, 13},
+                                    {[](auto& d) { return &d.Intersections.Cable.SupportCap; }, 17},
+                                    {[](auto& d) { return &d.Intersections.Truss.SupportCap; }, 18},
+                                    {[](auto& d) { return &d.Intersections.Bolt.SupportCap; }, 19},
+                                    {[](auto& d) { return &d.Intersections.Standing.SupportCap; }, 20},
+                                    {[](auto& d) { return &d.Intersections.Cable.StabFactor; }, 21},
+                                    {[](auto& d) { return &d.Intersections.Truss.StabFactor; }, 22},
+                                    {[](auto& d) { return &d.Intersections.Bolt.StabFactor; }, 23},
+                                    {[](auto& d) { return &d.Intersections.Standing.StabFactor; }, 24}});
 }
 
 TEST_F(SavedOutputs, AreZeroWhereDashesAreShown) {
-  ProjectRecord& record = program.WorkParms;
-  record.RockLoadEntry1 = record.StabFactorEntry3 = record.SupportCapEntry4 = 7;
-  record.RockLoadInter1 = record.StabFactorInter2 = record.SupportCapInter3 = 7;
+  Design& record = program.WorkParms;
+  record.Entries.RockLoad = record.Entries.Bolt.StabFactor = record.Entries.Standing.SupportCap = 7;
+  record.Intersections.RockLoad = record.Intersections.Truss.StabFactor = record.Intersections.Bolt.SupportCap = 7;
   dialog.Open();
   Do("txtEntryWidth=0|txtActualSpanDiagonals=0");
   ASSERT_EQ(dialog.txtRockLoadEntry[0].Text(), "--");
@@ -87,23 +86,23 @@ TEST_F(SavedOutputs, AreZeroWhereDashesAreShown) {
 
   dialog.SaveWorkParms();
 
-  EXPECT_EQ(record.RockLoadEntry1, 0);
-  EXPECT_EQ(record.StabFactorEntry3, 0);
-  EXPECT_EQ(record.SupportCapEntry4, 0);
-  EXPECT_EQ(record.RockLoadInter1, 0);
-  EXPECT_EQ(record.StabFactorInter2, 0);
-  EXPECT_EQ(record.SupportCapInter3, 0);
+  EXPECT_EQ(record.Entries.RockLoad, 0);
+  EXPECT_EQ(record.Entries.Bolt.StabFactor, 0);
+  EXPECT_EQ(record.Entries.Standing.SupportCap, 0);
+  EXPECT_EQ(record.Intersections.RockLoad, 0);
+  EXPECT_EQ(record.Intersections.Truss.StabFactor, 0);
+  EXPECT_EQ(record.Intersections.Bolt.SupportCap, 0);
 }
 
 TEST_F(SavedOutputs, OfSystemsThatWereNeverComputedAreZero) {
-  program.WorkParms.StabFactorEntry2 = program.WorkParms.SupportCapInter4 = 7;
+  program.WorkParms.Entries.Truss.StabFactor = program.WorkParms.Intersections.Standing.SupportCap = 7;
   dialog.Open();
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.StabFactorEntry1, 1.06F);
-  EXPECT_EQ(program.WorkParms.StabFactorEntry2, 0);
-  EXPECT_EQ(program.WorkParms.SupportCapInter4, 0);
+  EXPECT_EQ(program.WorkParms.Entries.Cable.StabFactor, 1.06F);
+  EXPECT_EQ(program.WorkParms.Entries.Truss.StabFactor, 0);
+  EXPECT_EQ(program.WorkParms.Intersections.Standing.SupportCap, 0);
 }
 
 }  // namespace

@@ -24,14 +24,14 @@ TEST_F(ParameterPreview, JudgesAllBoltsWithThePrimaryTabsManualSelection) {
 
   dialog.CopyToWorkParmsCopy();
 
-  const ProjectRecord& copy = program.WorkParmsCopy;
-  for (const BoltFields* bolt : {&PrimaryBolt, &SecEntryBolt, &SecInterBolt}) {
-    EXPECT_EQ(copy.*bolt->DiameterMode, 1);
-    EXPECT_EQ(copy.*bolt->DiameterStd, 0.875F);
-    EXPECT_EQ(copy.*bolt->DiameterManual, 0.81F);
-    EXPECT_EQ(copy.*bolt->GradeMode, 0);
-    EXPECT_EQ(copy.*bolt->GradeStd, 90);
-    EXPECT_EQ(copy.*bolt->GradeManual, 61);
+  const Design& copy = program.WorkParmsCopy;
+  for (const BoltSelection* bolt : copy.BoltSets()) {
+    EXPECT_EQ(bolt->DiameterMode, 1);
+    EXPECT_EQ(bolt->DiameterStd, 0.875F);
+    EXPECT_EQ(bolt->DiameterManual, 0.81F);
+    EXPECT_EQ(bolt->GradeMode, 0);
+    EXPECT_EQ(bolt->GradeStd, 90);
+    EXPECT_EQ(bolt->GradeManual, 61);
   }
 }
 
@@ -42,19 +42,19 @@ TEST_F(ParameterPreview, TakesTheRestOfEachBoltFromItsOwnTab) {
 
   dialog.CopyToWorkParmsCopy();
 
-  const ProjectRecord& copy = program.WorkParmsCopy;
-  EXPECT_EQ(copy.BoltOptionsPrimary, 0);
-  EXPECT_EQ(copy.BoltTableRowPrimary, 0);
-  EXPECT_EQ(copy.BoltOptionsSecEntry, 1);
-  EXPECT_EQ(copy.BoltTableRowSecEntry, 8);
-  EXPECT_EQ(copy.BoltDescSecEntry, "#7 rebar - grade 40");
-  EXPECT_EQ(copy.BoltTableDiameterSecEntry, 0.875F);
-  EXPECT_EQ(copy.BoltTableGradeSecEntry, 40);
-  EXPECT_EQ(copy.BoltLengthSecEntry, 6.5F);
-  EXPECT_EQ(copy.BoltOptionsSecInter, 1);
-  EXPECT_EQ(copy.BoltTableRowSecInter, 6);
-  EXPECT_EQ(copy.BoltDescSecInter, "#6 smooth - grade 75");
-  EXPECT_EQ(copy.BoltLengthSecInter, 6.25F);
+  const Design& copy = program.WorkParmsCopy;
+  EXPECT_EQ(copy.Primary.Options, 0);
+  EXPECT_EQ(copy.Primary.TableRow, 0);
+  EXPECT_EQ(copy.Entries.Bolt.Options, 1);
+  EXPECT_EQ(copy.Entries.Bolt.TableRow, 8);
+  EXPECT_EQ(copy.Entries.Bolt.Desc, "#7 rebar - grade 40");
+  EXPECT_EQ(copy.Entries.Bolt.TableDiameter, 0.875F);
+  EXPECT_EQ(copy.Entries.Bolt.TableGrade, 40);
+  EXPECT_EQ(copy.Entries.Bolt.Length, 6.5F);
+  EXPECT_EQ(copy.Intersections.Bolt.Options, 1);
+  EXPECT_EQ(copy.Intersections.Bolt.TableRow, 6);
+  EXPECT_EQ(copy.Intersections.Bolt.Desc, "#6 smooth - grade 75");
+  EXPECT_EQ(copy.Intersections.Bolt.Length, 6.25F);
 }
 
 TEST_F(ParameterPreview, TakesTheCableDiameterOfBothFromTheEntries) {
@@ -63,12 +63,12 @@ TEST_F(ParameterPreview, TakesTheCableDiameterOfBothFromTheEntries) {
 
   dialog.CopyToWorkParmsCopy();
 
-  EXPECT_EQ(program.WorkParmsCopy.CableDiamSecEntry, 0.7F);
-  EXPECT_EQ(program.WorkParmsCopy.CableDiamSecInter, 0.7F);
+  EXPECT_EQ(program.WorkParmsCopy.Entries.Cable.Diam, 0.7F);
+  EXPECT_EQ(program.WorkParmsCopy.Intersections.Cable.Diam, 0.7F);
 }
 
 TEST_F(ParameterPreview, CopiesTheFieldsWithoutCommittingThem) {
-  program.WorkParmsCopy.CostBoltCost = 9;
+  program.WorkParmsCopy.Cost.BoltCost = 9;
   dialog.Open();
   Do("txtCMRR=51.5|txtDepthofCover=512.5|txtSupportNumberSecInter=7|optSupportTypeSecInter=1|"
      "txtSupportTypeSecInter=Stone pack");
@@ -77,16 +77,16 @@ TEST_F(ParameterPreview, CopiesTheFieldsWithoutCommittingThem) {
 
   dialog.CopyToWorkParmsCopy();
 
-  EXPECT_EQ(program.WorkParmsCopy.CMRR, 52);
-  EXPECT_EQ(program.WorkParmsCopy.CMRRRegionIndex, 3);
-  EXPECT_EQ(program.WorkParmsCopy.CMRRRockTypeIndex, 5);
-  EXPECT_EQ(program.WorkParmsCopy.DepthofCover, 512.5F);
-  EXPECT_EQ(program.WorkParmsCopy.SupportNumberSecInter, 7);
-  EXPECT_EQ(program.WorkParmsCopy.SupportTypeNameSecInter, "Stone pack");
-  EXPECT_EQ(program.WorkParmsCopy.StabFactorEntry1, 1.06F);
-  EXPECT_EQ(program.WorkParmsCopy.CostBoltCost, 9);
-  EXPECT_EQ(program.WorkParms.CMRR, 45);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_EQ(program.WorkParmsCopy.Place.CMRR, 52);
+  EXPECT_EQ(program.WorkParmsCopy.Place.CMRRRegionIndex, 3);
+  EXPECT_EQ(program.WorkParmsCopy.Place.CMRRRockTypeIndex, 5);
+  EXPECT_EQ(program.WorkParmsCopy.Place.DepthofCover, 512.5F);
+  EXPECT_EQ(program.WorkParmsCopy.Intersections.Standing.Number, 7);
+  EXPECT_EQ(program.WorkParmsCopy.Intersections.Standing.TypeName, "Stone pack");
+  EXPECT_EQ(program.WorkParmsCopy.Entries.Cable.StabFactor, 1.06F);
+  EXPECT_EQ(program.WorkParmsCopy.Cost.BoltCost, 9);
+  EXPECT_EQ(program.WorkParms.Place.CMRR, 45);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
   EXPECT_TRUE(program.FileSaved);
   EXPECT_TRUE(program.FileEmpty);
   EXPECT_FALSE(dialog.WasCommitted);
@@ -109,19 +109,19 @@ TEST_F(ParameterPreview, ShowsTheResultsOfTheFieldsAsTheyStand) {
 }
 
 TEST_F(ParameterPreview, HasRestoredTheDesignBeforeTheResultsAreOnView) {
-  program.WorkParms.CostBoltCost = 3.75F;
+  program.WorkParms.Cost.BoltCost = 3.75F;
   dialog.Open();
   Do("txtDepthofCover=512.5|chkPrimSupport=0|optBoltOptionsSecEntry=1|txtTrussCapacitySecInter=44");
   bool shown = false;
   platform.windows.onModal = [&](Form&) {
     shown = true;
-    EXPECT_EQ(program.WorkParms.DepthofCover, 400);
-    EXPECT_EQ(program.WorkParms.PrimSupport, 1);
-    EXPECT_EQ(program.WorkParms.BoltOptionsSecEntry, 0);
-    EXPECT_EQ(program.WorkParms.TrussCapacitySecInter, 30);
-    EXPECT_EQ(program.WorkParms.RockLoadEntry1, 0);
-    EXPECT_EQ(program.WorkParms.CostBoltCost, 3.75F);
-    EXPECT_EQ(program.WorkParmsCopy.DepthofCover, 512.5F);
+    EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
+    EXPECT_EQ(program.WorkParms.Primary.Analysed, 1);
+    EXPECT_EQ(program.WorkParms.Entries.Bolt.Options, 0);
+    EXPECT_EQ(program.WorkParms.Intersections.Truss.Capacity, 30);
+    EXPECT_EQ(program.WorkParms.Entries.RockLoad, 0);
+    EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3.75F);
+    EXPECT_EQ(program.WorkParmsCopy.Place.DepthofCover, 512.5F);
   };
 
   dialog.cmdresults.Press();
@@ -135,10 +135,10 @@ TEST_F(ParameterPreview, LeavesTheDesignAsItWasWhenTheReportFails) {
 
   EXPECT_EQ(ErrorNumberOf([this] { dialog.cmdresults.Press(); }), 11);
 
-  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
-  EXPECT_EQ(program.WorkParms.TrussCapacitySecInter, 30);
-  EXPECT_EQ(program.WorkParms.RockFallAngle, 30);
-  EXPECT_EQ(program.WorkParmsCopy.DepthofCover, 512.5F);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
+  EXPECT_EQ(program.WorkParms.Intersections.Truss.Capacity, 30);
+  EXPECT_EQ(program.WorkParms.Entries.RockFallAngle, 30);
+  EXPECT_EQ(program.WorkParmsCopy.Place.DepthofCover, 512.5F);
   EXPECT_EQ(platform.windows.modalForms, 0);
 }
 
@@ -171,7 +171,7 @@ TEST_F(ParameterPreview, LeavesTheDialogOpenAndTheFileUnchanged) {
 
   dialog.Command1.Press();
 
-  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
 }
 
 TEST_F(ParameterPreview, IsRefusedWhileAFieldIsWrong) {
@@ -184,7 +184,7 @@ TEST_F(ParameterPreview, IsRefusedWhileAFieldIsWrong) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid roof fall angle"));
   EXPECT_EQ(platform.windows.modalForms, 0);
   EXPECT_EQ(program.OutBuf, before);
-  EXPECT_EQ(program.WorkParmsCopy.RockFallAngle, 0);
+  EXPECT_EQ(program.WorkParmsCopy.Entries.RockFallAngle, 0);
 }
 
 TEST_F(ParameterPreview, CanBeBuiltWithoutTheChecks) {
@@ -196,7 +196,7 @@ TEST_F(ParameterPreview, CanBeBuiltWithoutTheChecks) {
   EXPECT_THAT(platform.boxes.Texts(), IsEmpty());
   EXPECT_THAT(program.OutBuf[0], HasSubstr("61 (deg)"));
   EXPECT_EQ(platform.windows.modalForms, 0);
-  EXPECT_EQ(program.WorkParms.RockFallAngle, 30);
+  EXPECT_EQ(program.WorkParms.Entries.RockFallAngle, 30);
 }
 
 TEST_F(ParameterPreview, OfAMetricDesignIsInItsUnits) {

@@ -1,5 +1,6 @@
 #include <utility>
 
+#include "design/field.h"
 #include "parameters_fixture.h"
 
 namespace orby::test {
@@ -7,68 +8,67 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using R = ProjectRecord;
 
 using SavingParameters = AParametersDialog;
 
 struct SavedNumber {
   std::string_view control;
   std::string_view text;
-  Single ProjectRecord::*field;
+  SingleField field;
   Single value;
 };
 
 // A value of its own for every number of a design.
 const std::vector<SavedNumber> SavedNumbers{
-    {"txtDepthofCover", "512.5", &R::DepthofCover, 512.5F},
-    {"txtUnitWeight", "158.5", &R::UnitWeight, 158.5F},
-    {"txtActualSpanDiagonals", "61.2", &R::ActualSpanDiagonals, 61.2F},
-    {"txtEntryWidth", "18.6", &R::EntryWidth, 18.6F},
-    {"txtStabilityFactor", "1.15", &R::StabilityFactor, 1.15F},
-    {"txtBoltLengthPrimary", "7.5", &R::BoltLengthPrimary, 7.5F},
-    {"txtBoltsperRowPrimary", "4.5", &R::BoltsperRowPrimary, 4.5F},
-    {"txtRowSpacingPrimary", "4.25", &R::RowSpacingPrimary, 4.25F},
-    {"cmbBoltDiameterPrimary", "0.875", &R::BoltDiameterStdPrimary, 0.875F},
-    {"txtBoltDiameterPrimary", "0.81", &R::BoltDiameterManualPrimary, 0.81F},
-    {"cmbBoltGradePrimary", "90", &R::BoltGradeStdPrimary, 90},
-    {"txtBoltGradePrimary", "61", &R::BoltGradeManualPrimary, 61},
-    {"txtRockLoadHeight", "7.25", &R::RockLoadHeight, 7.25F},
-    {"txtRockFallAngle", "25", &R::RockFallAngle, 25},
-    {"txtCableLengthSecEntry", "11", &R::CableLengthSecEntry, 11},
-    {"cmbCableDiamSecEntry", "0.7", &R::CableDiamSecEntry, 0.7F},
-    {"cmbCableCapacitySecEntry", "35.7", &R::CableCapacityStdSecEntry, 35.7F},
-    {"txtCableCapacitySecEntry", "31", &R::CableCapacityManualSecEntry, 31},
-    {"txtCableBoltsPerRowSecEntry", "3", &R::CableBoltsPerRowSecEntry, 3},
-    {"txtCableRowSpacingSecEntry", "5.5", &R::CableRowSpacingSecEntry, 5.5F},
-    {"txtTrussLengthMemberSecEntry", "8.5", &R::TrussLengthMemberSecEntry, 8.5F},
-    {"txtTrussAngleSecEntry", "40", &R::TrussAngleSecEntry, 40},
-    {"txtTrussCapacitySecEntry", "32", &R::TrussCapacitySecEntry, 32},
-    {"txtTrussSpacingSecEntry", "5", &R::TrussSpacingSecEntry, 5},
-    {"txtBoltLengthSecEntry", "6.5", &R::BoltLengthSecEntry, 6.5F},
-    {"cmbBoltDiameterSecEntry", "0.688", &R::BoltDiameterStdSecEntry, 0.688F},
-    {"txtBoltDiameterSecEntry", "0.82", &R::BoltDiameterManualSecEntry, 0.82F},
-    {"cmbBoltGradeSecEntry", "60", &R::BoltGradeStdSecEntry, 60},
-    {"txtBoltGradeSecEntry", "62", &R::BoltGradeManualSecEntry, 62},
-    {"txtBoltsperRowSecEntry", "5.2", &R::BoltsperRowSecEntry, 5.2F},
-    {"txtRowSpacingSecEntry", "4.75", &R::RowSpacingSecEntry, 4.75F},
-    {"txtSupportCapSecEntry", "52", &R::SupportCapSecEntry, 52},
-    {"txtNumberSupPerRowSecEntry", "2.5", &R::NumberSupPerRowSecEntry, 2.5F},
-    {"txtSupportRowSpacingSecEntry", "8.75", &R::SupportRowSpacingSecEntry, 8.75F},
-    {"txtRockLoadHeightInter", "9.25", &R::RockLoadHeightInter, 9.25F},
-    {"txtRockFallAngleEntry", "26", &R::RockFallAngleEntry, 26},
-    {"txtRockFallAngleXcut", "27", &R::RockFallAngleXcut, 27},
-    {"txtCableLengthSecInter", "12", &R::CableLengthSecInter, 12},
-    {"cmbCableCapacitySecInter", "26.4", &R::CableCapacityStdSecInter, 26.4F},
-    {"txtCableCapacitySecInter", "33", &R::CableCapacityManualSecInter, 33},
-    {"txtCableNumberSecInter", "13", &R::CableNumberSecInter, 13},
-    {"txtTrussLengthMemberSecInter", "9", &R::TrussLengthMemberSecInter, 9},
-    {"txtTrussAngleSecInter", "41", &R::TrussAngleSecInter, 41},
-    {"txtTrussCapacitySecInter", "34", &R::TrussCapacitySecInter, 34},
-    {"txtTrussNumberSecInter", "6", &R::TrussNumberSecInter, 6},
-    {"txtBoltLengthSecInter", "6.25", &R::BoltLengthSecInter, 6.25F},
-    {"txtBoltNumberSecInter", "14", &R::BoltNumberSecInter, 14},
-    {"txtSupportCapSecInter", "53", &R::SupportCapSecInter, 53},
-    {"txtSupportNumberSecInter", "7", &R::SupportNumberSecInter, 7},
+    {"txtDepthofCover", "512.5", [](auto& d) { return &d.Place.DepthofCover; }, 512.5F},
+    {"txtUnitWeight", "158.5", [](auto& d) { return &d.Place.UnitWeight; }, 158.5F},
+    {"txtActualSpanDiagonals", "61.2", [](auto& d) { return &d.Place.ActualSpanDiagonals; }, 61.2F},
+    {"txtEntryWidth", "18.6", [](auto& d) { return &d.Place.EntryWidth; }, 18.6F},
+    {"txtStabilityFactor", "1.15", [](auto& d) { return &d.Primary.StabilityFactor; }, 1.15F},
+    {"txtBoltLengthPrimary", "7.5", [](auto& d) { return &d.Primary.Length; }, 7.5F},
+    {"txtBoltsperRowPrimary", "4.5", [](auto& d) { return &d.Primary.BoltsperRow; }, 4.5F},
+    {"txtRowSpacingPrimary", "4.25", [](auto& d) { return &d.Primary.RowSpacing; }, 4.25F},
+    {"cmbBoltDiameterPrimary", "0.875", [](auto& d) { return &d.Primary.DiameterStd; }, 0.875F},
+    {"txtBoltDiameterPrimary", "0.81", [](auto& d) { return &d.Primary.DiameterManual; }, 0.81F},
+    {"cmbBoltGradePrimary", "90", [](auto& d) { return &d.Primary.GradeStd; }, 90},
+    {"txtBoltGradePrimary", "61", [](auto& d) { return &d.Primary.GradeManual; }, 61},
+    {"txtRockLoadHeight", "7.25", [](auto& d) { return &d.Entries.RockLoadHeight; }, 7.25F},
+    {"txtRockFallAngle", "25", [](auto& d) { return &d.Entries.RockFallAngle; }, 25},
+    {"txtCableLengthSecEntry", "11", [](auto& d) { return &d.Entries.Cable.Length; }, 11},
+    {"cmbCableDiamSecEntry", "0.7", [](auto& d) { return &d.Entries.Cable.Diam; }, 0.7F},
+    {"cmbCableCapacitySecEntry", "35.7", [](auto& d) { return &d.Entries.Cable.CapacityStd; }, 35.7F},
+    {"txtCableCapacitySecEntry", "31", [](auto& d) { return &d.Entries.Cable.CapacityManual; }, 31},
+    {"txtCableBoltsPerRowSecEntry", "3", [](auto& d) { return &d.Entries.Cable.BoltsPerRow; }, 3},
+    {"txtCableRowSpacingSecEntry", "5.5", [](auto& d) { return &d.Entries.Cable.RowSpacing; }, 5.5F},
+    {"txtTrussLengthMemberSecEntry", "8.5", [](auto& d) { return &d.Entries.Truss.LengthMember; }, 8.5F},
+    {"txtTrussAngleSecEntry", "40", [](auto& d) { return &d.Entries.Truss.Angle; }, 40},
+    {"txtTrussCapacitySecEntry", "32", [](auto& d) { return &d.Entries.Truss.Capacity; }, 32},
+    {"txtTrussSpacingSecEntry", "5", [](auto& d) { return &d.Entries.Truss.Spacing; }, 5},
+    {"txtBoltLengthSecEntry", "6.5", [](auto& d) { return &d.Entries.Bolt.Length; }, 6.5F},
+    {"cmbBoltDiameterSecEntry", "0.688", [](auto& d) { return &d.Entries.Bolt.DiameterStd; }, 0.688F},
+    {"txtBoltDiameterSecEntry", "0.82", [](auto& d) { return &d.Entries.Bolt.DiameterManual; }, 0.82F},
+    {"cmbBoltGradeSecEntry", "60", [](auto& d) { return &d.Entries.Bolt.GradeStd; }, 60},
+    {"txtBoltGradeSecEntry", "62", [](auto& d) { return &d.Entries.Bolt.GradeManual; }, 62},
+    {"txtBoltsperRowSecEntry", "5.2", [](auto& d) { return &d.Entries.Bolt.BoltsperRow; }, 5.2F},
+    {"txtRowSpacingSecEntry", "4.75", [](auto& d) { return &d.Entries.Bolt.RowSpacing; }, 4.75F},
+    {"txtSupportCapSecEntry", "52", [](auto& d) { return &d.Entries.Standing.Capacity; }, 52},
+    {"txtNumberSupPerRowSecEntry", "2.5", [](auto& d) { return &d.Entries.Standing.NumberPerRow; }, 2.5F},
+    {"txtSupportRowSpacingSecEntry", "8.75", [](auto& d) { return &d.Entries.Standing.RowSpacing; }, 8.75F},
+    {"txtRockLoadHeightInter", "9.25", [](auto& d) { return &d.Intersections.RockLoadHeight; }, 9.25F},
+    {"txtRockFallAngleEntry", "26", [](auto& d) { return &d.Intersections.RockFallAngle; }, 26},
+    {"txtRockFallAngleXcut", "27", [](auto& d) { return &d.Intersections.RockFallAngleXcut; }, 27},
+    {"txtCableLengthSecInter", "12", [](auto& d) { return &d.Intersections.Cable.Length; }, 12},
+    {"cmbCableCapacitySecInter", "26.4", [](auto& d) { return &d.Intersections.Cable.CapacityStd; }, 26.4F},
+    {"txtCableCapacitySecInter", "33", [](auto& d) { return &d.Intersections.Cable.CapacityManual; }, 33},
+    {"txtCableNumberSecInter", "13", [](auto& d) { return &d.Intersections.Cable.Number; }, 13},
+    {"txtTrussLengthMemberSecInter", "9", [](auto& d) { return &d.Intersections.Truss.LengthMember; }, 9},
+    {"txtTrussAngleSecInter", "41", [](auto& d) { return &d.Intersections.Truss.Angle; }, 41},
+    {"txtTrussCapacitySecInter", "34", [](auto& d) { return &d.Intersections.Truss.Capacity; }, 34},
+    {"txtTrussNumberSecInter", "6", [](auto& d) { return &d.Intersections.Truss.Number; }, 6},
+    {"txtBoltLengthSecInter", "6.25", [](auto& d) { return &d.Intersections.Bolt.Length; }, 6.25F},
+    {"txtBoltNumberSecInter", "14", [](auto& d) { return &d.Intersections.Bolt.Number; }, 14},
+    {"txtSupportCapSecInter", "53", [](auto& d) { return &d.Intersections.Standing.Capacity; }, 53},
+    {"txtSupportNumberSecInter", "7", [](auto& d) { return &d.Intersections.Standing.Number; }, 7},
 };
 
 // The intersections' own selection, which the entries' takes the place of.
@@ -78,33 +78,33 @@ constexpr std::string_view UnsavedSelection =
 
 struct SavedFlag {
   std::string_view control;
-  Integer ProjectRecord::*field;
+  IntegerField field;
 };
 
 const std::vector<SavedFlag> SavedFlags{
-    {"chkCMRRManual", &R::CMRRManual},
-    {"chkPrimSupport", &R::PrimSupport},
-    {"chkSecondSupEntries", &R::SecondSupEntries},
-    {"chkSecondSupInter", &R::SecondSupInter},
-    {"optBoltOptionsPrimary", &R::BoltOptionsPrimary},
-    {"optBoltDiameterPrimary", &R::BoltDiameterModePrimary},
-    {"optBoltGradePrimary", &R::BoltGradeModePrimary},
-    {"chkSecEntries_0", &R::SecEntryUseCable},
-    {"chkSecEntries_1", &R::SecEntryUseTruss},
-    {"chkSecEntries_2", &R::SecEntryUseBolt},
-    {"chkSecEntries_3", &R::SecEntryUseStanding},
-    {"optCableCapModeSecEntry", &R::CableCapModeSecEntry},
-    {"optCableCapacitySecEntry", &R::CableCapacitySecEntry},
-    {"optBoltOptionsSecEntry", &R::BoltOptionsSecEntry},
-    {"optSupportTypeSecEntry", &R::SupportTypeModeSecEntry},
-    {"chkSecInter_0", &R::SecInterUseCable},
-    {"chkSecInter_1", &R::SecInterUseTruss},
-    {"chkSecInter_2", &R::SecInterUseBolt},
-    {"chkSecInter_3", &R::SecInterUseStanding},
-    {"optCableCapModeSecInter", &R::CableCapModeSecInter},
-    {"optCableCapacitySecInter", &R::CableCapacitySecInter},
-    {"optBoltOptionsSecInter", &R::BoltOptionsSecInter},
-    {"optSupportTypeSecInter", &R::SupportTypeModeSecInter},
+    {"chkCMRRManual", [](auto& d) { return &d.Place.CMRRManual; }},
+    {"chkPrimSupport", [](auto& d) { return &d.Primary.Analysed; }},
+    {"chkSecondSupEntries", [](auto& d) { return &d.Entries.Analysed; }},
+    {"chkSecondSupInter", [](auto& d) { return &d.Intersections.Analysed; }},
+    {"optBoltOptionsPrimary", [](auto& d) { return &d.Primary.Options; }},
+    {"optBoltDiameterPrimary", [](auto& d) { return &d.Primary.DiameterMode; }},
+    {"optBoltGradePrimary", [](auto& d) { return &d.Primary.GradeMode; }},
+    {"chkSecEntries_0", [](auto& d) { return &d.Entries.Cable.Use; }},
+    {"chkSecEntries_1", [](auto& d) { return &d.Entries.Truss.Use; }},
+    {"chkSecEntries_2", [](auto& d) { return &d.Entries.Bolt.Use; }},
+    {"chkSecEntries_3", [](auto& d) { return &d.Entries.Standing.Use; }},
+    {"optCableCapModeSecEntry", [](auto& d) { return &d.Entries.Cable.CapMode; }},
+    {"optCableCapacitySecEntry", [](auto& d) { return &d.Entries.Cable.Capacity; }},
+    {"optBoltOptionsSecEntry", [](auto& d) { return &d.Entries.Bolt.Options; }},
+    {"optSupportTypeSecEntry", [](auto& d) { return &d.Entries.Standing.TypeMode; }},
+    {"chkSecInter_0", [](auto& d) { return &d.Intersections.Cable.Use; }},
+    {"chkSecInter_1", [](auto& d) { return &d.Intersections.Truss.Use; }},
+    {"chkSecInter_2", [](auto& d) { return &d.Intersections.Bolt.Use; }},
+    {"chkSecInter_3", [](auto& d) { return &d.Intersections.Standing.Use; }},
+    {"optCableCapModeSecInter", [](auto& d) { return &d.Intersections.Cable.CapMode; }},
+    {"optCableCapacitySecInter", [](auto& d) { return &d.Intersections.Cable.Capacity; }},
+    {"optBoltOptionsSecInter", [](auto& d) { return &d.Intersections.Bolt.Options; }},
+    {"optSupportTypeSecInter", [](auto& d) { return &d.Intersections.Standing.TypeMode; }},
 };
 
 // ---- fields ---------------------------------------------------------------------------------------------------------
@@ -118,7 +118,7 @@ TEST_F(SavingParameters, PutsEachNumberIntoItsField) {
 
   ASSERT_THAT(platform.boxes.Texts(), IsEmpty());
   for (const SavedNumber& saved : SavedNumbers) {
-    EXPECT_EQ(program.WorkParms.*saved.field, saved.value) << saved.control;
+    EXPECT_EQ(saved.field.In(program.WorkParms), saved.value) << saved.control;
   }
 }
 
@@ -144,7 +144,7 @@ TEST_F(SavingParameters, PutsEachChoiceIntoItsFieldAlone) {
     other.SaveWorkParms();
 
     for (const SavedFlag& saved : SavedFlags) {
-      EXPECT_EQ(program.WorkParms.*saved.field, saved.control == set.control ? 1 : 0)
+      EXPECT_EQ(saved.field.In(program.WorkParms), saved.control == set.control ? 1 : 0)
           << saved.control << " after " << set.control;
     }
   }
@@ -156,19 +156,19 @@ TEST_F(SavingParameters, KeepsTheFieldsOfSystemsOutOfUse) {
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.CableLengthSecEntry, 17);
-  EXPECT_EQ(program.WorkParms.TrussCapacitySecInter, 44);
-  EXPECT_EQ(program.WorkParms.SecEntryUseCable, 0);
+  EXPECT_EQ(program.WorkParms.Entries.Cable.Length, 17);
+  EXPECT_EQ(program.WorkParms.Intersections.Truss.Capacity, 44);
+  EXPECT_EQ(program.WorkParms.Entries.Cable.Use, 0);
 }
 
 TEST_F(SavingParameters, LeavesTheCostsAlone) {
-  program.WorkParms.CostBoltCost = 3.75F;
+  program.WorkParms.Cost.BoltCost = 3.75F;
   dialog.Open();
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.CostBoltCost, 3.75F);
-  EXPECT_EQ(program.WorkParms.CostWeeksYear, 50);
+  EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3.75F);
+  EXPECT_EQ(program.WorkParms.Cost.WeeksYear, 50);
 }
 
 // ---- the intersections' manual selection ----------------------------------------------------------------------------
@@ -181,16 +181,16 @@ TEST_F(SavingParameters, MakesTheIntersectionsManualBoltsAndCableThoseOfTheEntri
 
   dialog.Command2.Press();
 
-  const ProjectRecord& record = program.WorkParms;
-  EXPECT_EQ(record.BoltDiameterModeSecInter, 0);
-  EXPECT_EQ(record.BoltDiameterStdSecInter, 0.688F);
-  EXPECT_EQ(record.BoltDiameterManualSecInter, 0.82F);
-  EXPECT_EQ(record.BoltGradeModeSecInter, 1);
-  EXPECT_EQ(record.BoltGradeStdSecInter, 60);
-  EXPECT_EQ(record.BoltGradeManualSecInter, 62);
-  EXPECT_EQ(record.CableDiamSecInter, 0.7F);
-  EXPECT_EQ(record.BoltDiameterModeSecEntry, 0);
-  EXPECT_EQ(record.BoltGradeModeSecEntry, 1);
+  const Design& record = program.WorkParms;
+  EXPECT_EQ(record.Intersections.Bolt.DiameterMode, 0);
+  EXPECT_EQ(record.Intersections.Bolt.DiameterStd, 0.688F);
+  EXPECT_EQ(record.Intersections.Bolt.DiameterManual, 0.82F);
+  EXPECT_EQ(record.Intersections.Bolt.GradeMode, 1);
+  EXPECT_EQ(record.Intersections.Bolt.GradeStd, 60);
+  EXPECT_EQ(record.Intersections.Bolt.GradeManual, 62);
+  EXPECT_EQ(record.Intersections.Cable.Diam, 0.7F);
+  EXPECT_EQ(record.Entries.Bolt.DiameterMode, 0);
+  EXPECT_EQ(record.Entries.Bolt.GradeMode, 1);
 }
 
 TEST_F(SavingParameters, ForgetsACableDiameterChosenForIntersectionsAlone) {
@@ -200,18 +200,18 @@ TEST_F(SavingParameters, ForgetsACableDiameterChosenForIntersectionsAlone) {
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.CableDiamSecInter, 0.6F);
-  EXPECT_EQ(program.WorkParms.SupportCapInter1, 357);
+  EXPECT_EQ(program.WorkParms.Intersections.Cable.Diam, 0.6F);
+  EXPECT_EQ(program.WorkParms.Intersections.Cable.SupportCap, 357);
 }
 
 TEST_F(SavingParameters, LoadsTheIntersectionsOwnSelectionAllTheSame) {
-  ProjectRecord& record = program.WorkParms;
-  record.BoltDiameterModeSecInter = record.BoltGradeModeSecInter = 1;
-  record.BoltDiameterStdSecInter = 0.804F;
-  record.BoltDiameterManualSecInter = 0.83F;
-  record.BoltGradeStdSecInter = 100;
-  record.BoltGradeManualSecInter = 63;
-  record.CableDiamSecInter = 0.7F;
+  Design& record = program.WorkParms;
+  record.Intersections.Bolt.DiameterMode = record.Intersections.Bolt.GradeMode = 1;
+  record.Intersections.Bolt.DiameterStd = 0.804F;
+  record.Intersections.Bolt.DiameterManual = 0.83F;
+  record.Intersections.Bolt.GradeStd = 100;
+  record.Intersections.Bolt.GradeManual = 63;
+  record.Intersections.Cable.Diam = 0.7F;
 
   dialog.Open();
 
@@ -232,19 +232,19 @@ TEST_F(SavingParameters, TakesEachBoltFromItsOwnTable) {
 
   dialog.Command2.Press();
 
-  const ProjectRecord& record = program.WorkParms;
-  EXPECT_EQ(record.BoltTableRowPrimary, 3);
-  EXPECT_EQ(record.BoltDescPrimary, "#6 special rebar - grade 75");
-  EXPECT_EQ(record.BoltTableDiameterPrimary, 0.677F);
-  EXPECT_EQ(record.BoltTableGradePrimary, 75);
-  EXPECT_EQ(record.BoltTableRowSecEntry, 8);
-  EXPECT_EQ(record.BoltDescSecEntry, "#7 rebar - grade 40");
-  EXPECT_EQ(record.BoltTableDiameterSecEntry, 0.875F);
-  EXPECT_EQ(record.BoltTableGradeSecEntry, 40);
-  EXPECT_EQ(record.BoltTableRowSecInter, 6);
-  EXPECT_EQ(record.BoltDescSecInter, "#6 smooth - grade 75");
-  EXPECT_EQ(record.BoltTableDiameterSecInter, 0.75F);
-  EXPECT_EQ(record.BoltTableGradeSecInter, 75);
+  const Design& record = program.WorkParms;
+  EXPECT_EQ(record.Primary.TableRow, 3);
+  EXPECT_EQ(record.Primary.Desc, "#6 special rebar - grade 75");
+  EXPECT_EQ(record.Primary.TableDiameter, 0.677F);
+  EXPECT_EQ(record.Primary.TableGrade, 75);
+  EXPECT_EQ(record.Entries.Bolt.TableRow, 8);
+  EXPECT_EQ(record.Entries.Bolt.Desc, "#7 rebar - grade 40");
+  EXPECT_EQ(record.Entries.Bolt.TableDiameter, 0.875F);
+  EXPECT_EQ(record.Entries.Bolt.TableGrade, 40);
+  EXPECT_EQ(record.Intersections.Bolt.TableRow, 6);
+  EXPECT_EQ(record.Intersections.Bolt.Desc, "#6 smooth - grade 75");
+  EXPECT_EQ(record.Intersections.Bolt.TableDiameter, 0.75F);
+  EXPECT_EQ(record.Intersections.Bolt.TableGrade, 75);
 }
 
 TEST_F(SavingParameters, TakesASupportsNameFromTheListOrFromTheText) {
@@ -254,9 +254,9 @@ TEST_F(SavingParameters, TakesASupportsNameFromTheListOrFromTheText) {
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.SupportTypeNameSecEntry, "CAN (24in)");
-  EXPECT_EQ(program.WorkParms.SupportCapSecEntry, 95);
-  EXPECT_EQ(program.WorkParms.SupportTypeNameSecInter, "Stone pack");
+  EXPECT_EQ(program.WorkParms.Entries.Standing.TypeName, "CAN (24in)");
+  EXPECT_EQ(program.WorkParms.Entries.Standing.Capacity, 95);
+  EXPECT_EQ(program.WorkParms.Intersections.Standing.TypeName, "Stone pack");
 }
 
 TEST_F(SavingParameters, LosesTheNameOfAnIntersectionsSupportThatWasTypedInBetween) {
@@ -265,7 +265,7 @@ TEST_F(SavingParameters, LosesTheNameOfAnIntersectionsSupportThatWasTypedInBetwe
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.SupportTypeNameSecInter, "");
+  EXPECT_EQ(program.WorkParms.Intersections.Standing.TypeName, "");
 }
 
 // ---- the rating -----------------------------------------------------------------------------------------------------
@@ -276,7 +276,7 @@ TEST_F(SavingParameters, RoundsTheRatingWithTiesToTheEvenNumber) {
        {std::pair{"44.5", 44}, std::pair{"45.5", 46}, std::pair{"45.4", 45}, std::pair{"99.5", 100}}) {
     dialog.txtCMRR.SetText(text);
     dialog.SaveWorkParms();
-    EXPECT_EQ(program.WorkParms.CMRR, rating) << text;
+    EXPECT_EQ(program.WorkParms.Place.CMRR, rating) << text;
   }
 }
 
@@ -287,7 +287,7 @@ TEST_F(SavingParameters, RefusesARatingThatIsNoInteger) {
   EXPECT_FALSE(dialog.SaveWorkParms());
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("CMRR: Value '40000' is too large"));
-  EXPECT_EQ(program.WorkParms.CMRR, 45);
+  EXPECT_EQ(program.WorkParms.Place.CMRR, 45);
   EXPECT_TRUE(program.FileSaved);
   EXPECT_FALSE(dialog.WasCommitted);
 }
@@ -300,8 +300,8 @@ TEST_F(SavingParameters, TakesTheRatingsOriginFromTheEstimatorAndNotFromTheHidde
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.CMRRRegionIndex, 3);
-  EXPECT_EQ(program.WorkParms.CMRRRockTypeIndex, 5);
+  EXPECT_EQ(program.WorkParms.Place.CMRRRegionIndex, 3);
+  EXPECT_EQ(program.WorkParms.Place.CMRRRockTypeIndex, 5);
 }
 
 // ---- the design as it is being edited -------------------------------------------------------------------------------
@@ -310,19 +310,19 @@ TEST_F(SavingParameters, GivesTheDesignThatACommitWouldStoreWithoutCommittingIt)
   dialog.Open();
   Do("txtDepthofCover=512.5|cmbBoltGradeSecEntry=60|cmbBoltGradeSecInter=100|chkSecEntries_3=1");
   program.estimator.EstimatorRegion = 3;
-  program.WorkParms.CostBoltCost = 3.75F;
+  program.WorkParms.Cost.BoltCost = 3.75F;
 
-  ProjectRecord edited = program.WorkParms;
+  Design edited = program.WorkParms;
   dialog.ReadEdits(edited);
 
-  EXPECT_EQ(edited.DepthofCover, 512.5F);
-  EXPECT_EQ(edited.BoltGradeStdSecInter, 60);
-  EXPECT_EQ(edited.SecEntryUseStanding, 1);
-  EXPECT_EQ(edited.CMRRRegionIndex, 3);
-  EXPECT_EQ(edited.StabFactorEntry1, 1.06F);
-  EXPECT_EQ(edited.CostBoltCost, 3.75F);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
-  EXPECT_EQ(program.WorkParms.StabFactorEntry1, 0);
+  EXPECT_EQ(edited.Place.DepthofCover, 512.5F);
+  EXPECT_EQ(edited.Intersections.Bolt.GradeStd, 60);
+  EXPECT_EQ(edited.Entries.Standing.Use, 1);
+  EXPECT_EQ(edited.Place.CMRRRegionIndex, 3);
+  EXPECT_EQ(edited.Entries.Cable.StabFactor, 1.06F);
+  EXPECT_EQ(edited.Cost.BoltCost, 3.75F);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
+  EXPECT_EQ(program.WorkParms.Entries.Cable.StabFactor, 0);
   EXPECT_TRUE(program.FileSaved);
   EXPECT_TRUE(program.FileEmpty);
   EXPECT_FALSE(dialog.WasCommitted);
@@ -331,15 +331,15 @@ TEST_F(SavingParameters, GivesTheDesignThatACommitWouldStoreWithoutCommittingIt)
 TEST_F(SavingParameters, GivesTheNumbersThatADesignCanHoldAndLeavesTheOthers) {
   dialog.Open();
   DoQuietly("txtDepthofCover=512.5|txtTrussCapacitySecInter=1E39|txtCMRR=40000");
-  ProjectRecord design;
-  design.TrussCapacitySecInter = 28;
-  design.CMRR = 52;
+  Design design;
+  design.Intersections.Truss.Capacity = 28;
+  design.Place.CMRR = 52;
 
   dialog.ReadEdits(design);
 
-  EXPECT_EQ(design.DepthofCover, 512.5F);
-  EXPECT_EQ(design.TrussCapacitySecInter, 28);
-  EXPECT_EQ(design.CMRR, 52);
+  EXPECT_EQ(design.Place.DepthofCover, 512.5F);
+  EXPECT_EQ(design.Intersections.Truss.Capacity, 28);
+  EXPECT_EQ(design.Place.CMRR, 52);
 }
 
 }  // namespace

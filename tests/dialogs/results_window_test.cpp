@@ -27,15 +27,15 @@ struct AResultsWindow : testing::Test {
     program.ReportCaller = report_caller::Parameters;
     program.DialogOpen = true;
     program.OpenInputDialog = [this](Integer caller) { reopened.push_back(caller); };
-    ProjectRecord& design = program.WorkParmsCopy;
-    design.CMRR = 45;
-    design.DepthofCover = 400;
-    design.StabilityFactor = 1;
-    design.ActualSpanDiagonals = 60;
-    design.EntryWidth = 20;
-    design.RockLoadHeight = 8;
-    design.RockFallAngle = 30;
-    design.UnitWeight = 162;
+    Design& design = program.WorkParmsCopy;
+    design.Place.CMRR = 45;
+    design.Place.DepthofCover = 400;
+    design.Primary.StabilityFactor = 1;
+    design.Place.ActualSpanDiagonals = 60;
+    design.Place.EntryWidth = 20;
+    design.Entries.RockLoadHeight = 8;
+    design.Entries.RockFallAngle = 30;
+    design.Place.UnitWeight = 162;
   }
 
   std::string FirstSheet() const { return platform.printer.pages.empty() ? "" : platform.printer.pages.front(); }
@@ -352,7 +352,7 @@ TEST_F(AResultsWindow, DrawsEveryCurveInTheSameWindow) {
 }
 
 TEST_F(AResultsWindow, TellsOfACurveThatCannotBeSweptAndStaysOpen) {
-  program.WorkParmsCopy.CMRR = 95;
+  program.WorkParmsCopy.Place.CMRR = 95;
   window.Open();
   window.cmdGraph.Press();
 

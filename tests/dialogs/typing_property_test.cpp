@@ -3,6 +3,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "base/number_text.h"
+#include "design/field.h"
 #include "dialogs/cost_dialog.h"
 #include "parameters_fixture.h"
 #include "support/number_texts.h"
@@ -78,7 +79,7 @@ RC_GTEST_PROP(TypingProperty, KeepsTheLastNumberThatADesignCanHold, ()) {
   Run run(English);
   ParametersDialog dialog(run.program);
   dialog.Open();
-  ProjectRecord kept = run.program.WorkParms;
+  Design kept = run.program.WorkParms;
   int last = 400;
 
   for (int i = 0; i < 10; ++i) {
@@ -90,47 +91,48 @@ RC_GTEST_PROP(TypingProperty, KeepsTheLastNumberThatADesignCanHold, ()) {
     }
     dialog.ReadEdits(kept);
 
-    RC_ASSERT(kept.DepthofCover == static_cast<Single>(last));
+    RC_ASSERT(kept.Place.DepthofCover == static_cast<Single>(last));
   }
 }
 
 RC_GTEST_PROP(StoredDesignProperty, OpensWithWhateverNumbers, ()) {
-  using R = ProjectRecord;
   Run run(*rc::gen::elementOf(std::vector<Integer>{English, Metric}));
-  R& design = run.program.WorkParms;
+  Design& design = run.program.WorkParms;
   const auto stored =
       rc::gen::oneOf(rc::gen::element<Single>(0, -1, 20, 3.4E38F, -3.4E38F, 1E-38F),
                      rc::gen::map(rc::gen::inRange(-100, 2000), [](int n) { return static_cast<Single>(n) / 10; }));
-  const std::vector<Single R::*> fields{&R::DepthofCover,
-                                        &R::UnitWeight,
-                                        &R::ActualSpanDiagonals,
-                                        &R::EntryWidth,
-                                        &R::StabilityFactor,
-                                        &R::BoltLengthPrimary,
-                                        &R::BoltsperRowPrimary,
-                                        &R::RowSpacingPrimary,
-                                        &R::RockLoadHeight,
-                                        &R::RockFallAngle,
-                                        &R::TrussSpacingSecEntry,
-                                        &R::RowSpacingSecEntry,
-                                        &R::BoltsperRowSecEntry,
-                                        &R::SupportRowSpacingSecEntry,
-                                        &R::CableRowSpacingSecEntry,
-                                        &R::RockLoadHeightInter,
-                                        &R::RockFallAngleEntry,
-                                        &R::RockFallAngleXcut,
-                                        &R::CableNumberSecInter,
-                                        &R::TrussNumberSecInter,
-                                        &R::CableDiamSecEntry};
+  const std::vector<SingleField> fields{[](auto& d) { return &d.Place.DepthofCover; },
+                                        [](auto& d) { return &d.Place.UnitWeight; },
+                                        [](auto& d) { return &d.Place.ActualSpanDiagonals; },
+                                        [](auto& d) { return &d.Place.EntryWidth; },
+                                        [](auto& d) { return &d.Primary.StabilityFactor; },
+                                        [](auto& d) { return &d.Primary.Length; },
+                                        [](auto& d) { return &d.Primary.BoltsperRow; },
+                                        [](auto& d) { return &d.Primary.RowSpacing; },
+                                        [](auto& d) { return &d.Entries.RockLoadHeight; },
+                                        [](auto& d) { return &d.Entries.RockFallAngle; },
+                                        [](auto& d) { return &d.Entries.Truss.Spacing; },
+                                        [](auto& d) { return &d.Entries.Bolt.RowSpacing; },
+                                        [](auto& d) { return &d.Entries.Bolt.BoltsperRow; },
+                                        [](auto& d) { return &d.Entries.Standing.RowSpacing; },
+                                        [](auto& d) { return &d.Entries.Cable.RowSpacing; },
+                                        [](auto& d) { return &d.Intersections.RockLoadHeight; },
+                                        [](auto& d) { return &d.Intersections.RockFallAngle; },
+                                        [](auto& d) { return &d.Intersections.RockFallAngleXcut; },
+                                        [](auto& d) { return &d.Intersections.Cable.Number; },
+                                        [](auto& d) { return &d.Intersections.Truss.Number; },
+                                        [](auto& d) { return &d.Entries.Cable.Diam; }};
   for (const auto field : fields) {
-    design.*field = *stored;
+    field.In(design) = *stored;
   }
-  const std::vector<Integer R::*> uses{&R::SecEntryUseTruss, &R::SecEntryUseBolt, &R::SecEntryUseStanding,
-                                       &R::SecInterUseTruss, &R::SecInterUseBolt, &R::SecInterUseStanding};
+  const std::vector<IntegerField> uses{
+      [](auto& d) { return &d.Entries.Truss.Use; },      [](auto& d) { return &d.Entries.Bolt.Use; },
+      [](auto& d) { return &d.Entries.Standing.Use; },   [](auto& d) { return &d.Intersections.Truss.Use; },
+      [](auto& d) { return &d.Intersections.Bolt.Use; }, [](auto& d) { return &d.Intersections.Standing.Use; }};
   for (const auto use : uses) {
-    design.*use = 1;
+    use.In(design) = 1;
   }
-  design.CMRR = *rc::gen::arbitrary<Integer>();
+  design.Place.CMRR = *rc::gen::arbitrary<Integer>();
   ParametersDialog dialog(run.program);
 
   dialog.Open();

@@ -70,7 +70,7 @@ std::string DesignAt(Single depth) {
   RecordingPlatform platform;
   Program program(platform.Doors());
   StartApart(program, nullptr);
-  program.WorkParms.DepthofCover = depth;
+  program.WorkParms.Place.DepthofCover = depth;
   return ProjectFileBytes(program);
 }
 
@@ -91,7 +91,7 @@ std::string DataOf(const std::string& file) { return file.substr(std::min(file.f
 
 bool IsTypedState(const std::string& recovery) {
   const auto project = ReadRecovery(recovery);
-  return project && project->WorkParms.DepthofCover == 810;
+  return project && project->WorkParms.Place.DepthofCover == 810;
 }
 
 class EndangeredSave : public testing::Test {

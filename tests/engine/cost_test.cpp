@@ -7,43 +7,43 @@
 namespace orby::test {
 namespace {
 
-CostGroup EnglishCosts() {
-  CostGroup costs;
-  costs.CostBoltCost = 3;
-  costs.CostPlateCost = 1;
-  costs.CostResinCost = 1.5F;
-  costs.CostBitCost = 67;
-  costs.CostNboltsShift = 300;
-  costs.CostNBoltsRow = 4;
-  costs.CostRowSpacing = 4;
-  costs.CostNOperShift = 2;
-  costs.CostTotalLabor = 35;
-  costs.CostHoursShift = 8;
-  costs.CostMaintainHrs = 2;
-  costs.CostMaintainCost = 30000;
-  costs.CostTranspCost = 100;
-  costs.CostCapitalCost = 1000000;
-  costs.CostYearsDepr = 5;
-  costs.CostAdvanceShift = 300;
-  costs.CostAdvance = 1;
-  costs.CostAdvanceRate = 4;
-  costs.CostCleanProduction = 1200;
-  costs.CostProduction = 1;
-  costs.CostShiftsWeek = 12;
-  costs.CostWeeksYear = 50;
+CostInputs EnglishCosts() {
+  CostInputs costs;
+  costs.BoltCost = 3;
+  costs.PlateCost = 1;
+  costs.ResinCost = 1.5F;
+  costs.BitCost = 67;
+  costs.NboltsShift = 300;
+  costs.NBoltsRow = 4;
+  costs.RowSpacing = 4;
+  costs.NOperShift = 2;
+  costs.TotalLabor = 35;
+  costs.HoursShift = 8;
+  costs.MaintainHrs = 2;
+  costs.MaintainCost = 30000;
+  costs.TranspCost = 100;
+  costs.CapitalCost = 1000000;
+  costs.YearsDepr = 5;
+  costs.AdvanceShift = 300;
+  costs.Advance = 1;
+  costs.AdvanceRate = 4;
+  costs.CleanProduction = 1200;
+  costs.Production = 1;
+  costs.ShiftsWeek = 12;
+  costs.WeeksYear = 50;
   return costs;
 }
 
 template <class Value>
-CostGroup With(Value CostGroup::*member, Value value) {
-  CostGroup costs = EnglishCosts();
+CostInputs With(Value CostInputs::*member, Value value) {
+  CostInputs costs = EnglishCosts();
   costs.*member = value;
   return costs;
 }
 
 using Rows = std::array<CostRow, 6>;
 
-void ExpectTable(const CostGroup& costs, const Rows& expected) {
+void ExpectTable(const CostInputs& costs, const Rows& expected) {
   const CostTable table = AnalyseCost(costs);
   for (std::size_t head = 0; head < CostHeads; ++head) EXPECT_EQ(table.Heads[head], expected[head]) << "head " << head;
   EXPECT_EQ(table.Totals, expected[5]) << "totals";
@@ -66,9 +66,9 @@ TEST(Cost, OfTheEnglishDefaults) {
 }
 
 TEST(Cost, OfTheMetricDefaults) {
-  CostGroup costs = EnglishCosts();
-  costs.CostRowSpacing = 1.2F;
-  costs.CostAdvanceRate = 12;
+  CostInputs costs = EnglishCosts();
+  costs.RowSpacing = 1.2F;
+  costs.AdvanceRate = 12;
 
   ExpectTable(costs, {{{5.72333336F, 19.0777779F, 1717, 0.143083349F},
                        {1.86666667F, 6.22222185F, 560, 0.0466666706F},
@@ -79,13 +79,13 @@ TEST(Cost, OfTheMetricDefaults) {
 }
 
 TEST(Cost, SpreadsHeadersOverBoltsAndStrapsOverRows) {
-  CostGroup costs = EnglishCosts();
-  costs.CostHeaderCost = 0.25F;
-  costs.CostStrapCost = 2.5F;
-  costs.CostRowSpacing = 3.5F;
-  costs.CostNBoltsRow = 5;
-  costs.CostNboltsShift = 280;
-  costs.CostProduction = 0;
+  CostInputs costs = EnglishCosts();
+  costs.HeaderCost = 0.25F;
+  costs.StrapCost = 2.5F;
+  costs.RowSpacing = 3.5F;
+  costs.NBoltsRow = 5;
+  costs.NboltsShift = 280;
+  costs.Production = 0;
 
   ExpectTable(costs, {{{6.48928595F, 9.27040863F, 1817.00012F, 1.51416671F},
                        {2, 2.8571429F, 560, 0.466666669F},
@@ -95,20 +95,20 @@ TEST(Cost, SpreadsHeadersOverBoltsAndStrapsOverRows) {
                        {10.2363100F, 14.6232996F, 2866.16675F, 2.38847232F}}});
 }
 
-TEST(Cost, OfNothingIsNothing) { ExpectTable(CostGroup{}, {}); }
+TEST(Cost, OfNothingIsNothing) { ExpectTable(CostInputs{}, {}); }
 
 TEST(Cost, WithoutARowSpacingHasNoAdvanceAndNoCalculatedProduction) {
-  ExpectTable(With(&CostGroup::CostRowSpacing, 0.0F), {{{5.72333336F, 0, 1717, 0},
-                                                        {1.86666667F, 0, 560, 0},
-                                                        {0.186111107F, 0, 55.8333321F, 0},
-                                                        {0.333333343F, 0, 100, 0},
-                                                        {1.11111116F, 0, 333.333344F, 0},
-                                                        {9.22055531F, 0, 2766.16675F, 0}}});
+  ExpectTable(With(&CostInputs::RowSpacing, 0.0F), {{{5.72333336F, 0, 1717, 0},
+                                                     {1.86666667F, 0, 560, 0},
+                                                     {0.186111107F, 0, 55.8333321F, 0},
+                                                     {0.333333343F, 0, 100, 0},
+                                                     {1.11111116F, 0, 333.333344F, 0},
+                                                     {9.22055531F, 0, 2766.16675F, 0}}});
 }
 
 TEST(Cost, WithoutARowSpacingStillSpreadsOverAGivenProduction) {
-  CostGroup costs = With(&CostGroup::CostRowSpacing, 0.0F);
-  costs.CostProduction = 0;
+  CostInputs costs = With(&CostInputs::RowSpacing, 0.0F);
+  costs.Production = 0;
 
   const CostTable table = AnalyseCost(costs);
 
@@ -116,7 +116,7 @@ TEST(Cost, WithoutARowSpacingStillSpreadsOverAGivenProduction) {
 }
 
 TEST(Cost, WithANegativeRowSpacingHasNoAdvance) {
-  const CostTable table = AnalyseCost(With(&CostGroup::CostRowSpacing, -4.0F));
+  const CostTable table = AnalyseCost(With(&CostInputs::RowSpacing, -4.0F));
 
   EXPECT_EQ(table.Totals, (CostRow{9.22055531F, 0, 2766.16675F, 0}));
 }
@@ -124,49 +124,49 @@ TEST(Cost, WithANegativeRowSpacingHasNoAdvance) {
 TEST(Cost, WithoutShiftsHasNoMaintenanceAndNoOwnershipButTransportation) {
   const Rows expected{{Consumables, Labor, None, Transportation, None, {7.92333317F, 7.92333317F, 2377, 1.98083329F}}};
 
-  ExpectTable(With(&CostGroup::CostShiftsWeek, 0.0F), expected);
-  ExpectTable(With(&CostGroup::CostWeeksYear, 0.0F), expected);
+  ExpectTable(With(&CostInputs::ShiftsWeek, 0.0F), expected);
+  ExpectTable(With(&CostInputs::WeeksYear, 0.0F), expected);
 }
 
 TEST(Cost, WithoutYearsOfDepreciationHasNoOwnershipAlone) {
   ExpectTable(
-      With(&CostGroup::CostYearsDepr, 0.0F),
+      With(&CostInputs::YearsDepr, 0.0F),
       {{Consumables, Labor, Maintenance, Transportation, None, {8.10944462F, 8.10944462F, 2432.83325F, 2.02736115F}}});
 }
 
 TEST(Cost, OfHalfAYearOfDepreciationIsOwnershipTenTimesThatOfFive) {
-  const CostTable table = AnalyseCost(With(&CostGroup::CostYearsDepr, 0.5F));
+  const CostTable table = AnalyseCost(With(&CostInputs::YearsDepr, 0.5F));
 
   EXPECT_EQ(table.Heads[4], (CostRow{11.1111107F, 11.1111107F, 3333.33325F, 2.77777767F}));
 }
 
 TEST(Cost, WithoutBoltsIsNothing) {
-  ExpectTable(With(&CostGroup::CostNBoltsRow, 0.0F), {});
-  ExpectTable(With(&CostGroup::CostNboltsShift, 0.0F), {});
-  ExpectTable(With(&CostGroup::CostNBoltsRow, -4.0F), {});
-  ExpectTable(With(&CostGroup::CostNboltsShift, -300.0F), {});
+  ExpectTable(With(&CostInputs::NBoltsRow, 0.0F), {});
+  ExpectTable(With(&CostInputs::NboltsShift, 0.0F), {});
+  ExpectTable(With(&CostInputs::NBoltsRow, -4.0F), {});
+  ExpectTable(With(&CostInputs::NboltsShift, -300.0F), {});
 }
 
 TEST(Cost, PerTonIsZeroWithoutAProduction) {
-  CostGroup costs = With(&CostGroup::CostCleanProduction, 0.0F);
-  costs.CostProduction = 0;
+  CostInputs costs = With(&CostInputs::CleanProduction, 0.0F);
+  costs.Production = 0;
 
   EXPECT_EQ(AnalyseCost(costs).Totals, (CostRow{9.22055531F, 9.22055531F, 2766.16675F, 0}));
-  EXPECT_EQ(AnalyseCost(With(&CostGroup::CostAdvanceRate, 0.0F)).Totals,
+  EXPECT_EQ(AnalyseCost(With(&CostInputs::AdvanceRate, 0.0F)).Totals,
             (CostRow{9.22055531F, 9.22055531F, 2766.16675F, 0}));
 }
 
 TEST(Cost, TakesTheCalculatedProductionOnlyForAFlagOfOne) {
-  CostGroup costs = With<Integer>(&CostGroup::CostProduction, 2);
-  costs.CostCleanProduction = 2400;
+  CostInputs costs = With<Integer>(&CostInputs::Production, 2);
+  costs.CleanProduction = 2400;
 
   EXPECT_EQ(AnalyseCost(costs).Totals, (CostRow{9.22055531F, 9.22055531F, 2766.16675F, 1.15256941F}));
 }
 
 TEST(Cost, DoesNotDependOnTheAdvanceFields) {
-  CostGroup costs = EnglishCosts();
-  costs.CostAdvance = 0;
-  costs.CostAdvanceShift = 12;
+  CostInputs costs = EnglishCosts();
+  costs.Advance = 0;
+  costs.AdvanceShift = 12;
 
   const CostTable table = AnalyseCost(costs);
 
@@ -175,15 +175,15 @@ TEST(Cost, DoesNotDependOnTheAdvanceFields) {
 }
 
 TEST(Cost, BeyondTheRangeOfASingleFails) {
-  CostGroup costs = With(&CostGroup::CostTotalLabor, 3E38F);
-  costs.CostHoursShift = 1000;
+  CostInputs costs = With(&CostInputs::TotalLabor, 3E38F);
+  costs.HoursShift = 1000;
 
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(AnalyseCost(costs)); }), 6);
 }
 
 TEST(Cost, OfATypedProductionStillNeedsOneThatCanBeCalculated) {
-  CostGroup costs = With(&CostGroup::CostAdvanceRate, 1E38F);
-  costs.CostProduction = 0;
+  CostInputs costs = With(&CostInputs::AdvanceRate, 1E38F);
+  costs.Production = 0;
 
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(AnalyseCost(costs)); }), 6);
 }

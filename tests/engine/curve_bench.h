@@ -14,7 +14,7 @@ namespace orby::test {
 struct CurveBench : testing::Test {
   RecordingPlatform platform;
   Program program{platform.Doors()};
-  ProjectRecord& design = program.WorkParmsCopy;
+  Design& design = program.WorkParmsCopy;
 
   CurveBench() { design = EnglishDesign(); }
 

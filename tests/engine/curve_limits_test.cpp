@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "design/field.h"
 #include "engine/curve_bench.h"
 
 namespace orby::test {
@@ -14,7 +15,7 @@ using testing::IsEmpty;
 struct CurveLimits : CurveBench {};
 
 TEST_F(CurveLimits, ARatingOf40StartsAt35) {
-  design.CMRR = 40;
+  design.Place.CMRR = 40;
 
   GenerateCurve(program, 0);
 
@@ -35,7 +36,7 @@ constexpr TrimmedRow TrimmedRows[] = {
 
 TEST_F(CurveLimits, ARatingIsTrimmedByTheDepth) {
   for (const auto& [depth, points] : TrimmedRows) {
-    design.DepthofCover = depth;
+    design.Place.DepthofCover = depth;
 
     GenerateCurve(program, 0);
 
@@ -45,30 +46,30 @@ TEST_F(CurveLimits, ARatingIsTrimmedByTheDepth) {
 
 struct UpperEndRow {
   Integer index;
-  Single ProjectRecord::*swept;
+  SingleField swept;
   Single value;
   std::size_t points;
 };
 constexpr UpperEndRow UpperEndRows[] = {
     // In each pair the first sweep just reaches its end and the second one just does not.
-    {1, &ProjectRecord::DepthofCover, 340, 11},
-    {1, &ProjectRecord::DepthofCover, 58, 10},
-    {2, &ProjectRecord::StabilityFactor, 1.1F, 11},
-    {2, &ProjectRecord::StabilityFactor, 1.15F, 10},
-    {3, &ProjectRecord::ActualSpanDiagonals, 25.0000057F, 9},
-    {3, &ProjectRecord::ActualSpanDiagonals, 25.0000019F, 8},
-    {5, &ProjectRecord::EntryWidth, 20, 25},
-    {5, &ProjectRecord::EntryWidth, 19.9999962F, 24},
-    {6, &ProjectRecord::RockFallAngle, 42.5F, 86},
-    {6, &ProjectRecord::RockFallAngle, 29.9999981F, 60},
-    {9, &ProjectRecord::RockFallAngle, 42.5F, 86},
-    {9, &ProjectRecord::RockFallAngle, 29.9999981F, 60},
+    {1, [](auto& d) { return &d.Place.DepthofCover; }, 340, 11},
+    {1, [](auto& d) { return &d.Place.DepthofCover; }, 58, 10},
+    {2, [](auto& d) { return &d.Primary.StabilityFactor; }, 1.1F, 11},
+    {2, [](auto& d) { return &d.Primary.StabilityFactor; }, 1.15F, 10},
+    {3, [](auto& d) { return &d.Place.ActualSpanDiagonals; }, 25.0000057F, 9},
+    {3, [](auto& d) { return &d.Place.ActualSpanDiagonals; }, 25.0000019F, 8},
+    {5, [](auto& d) { return &d.Place.EntryWidth; }, 20, 25},
+    {5, [](auto& d) { return &d.Place.EntryWidth; }, 19.9999962F, 24},
+    {6, [](auto& d) { return &d.Entries.RockFallAngle; }, 42.5F, 86},
+    {6, [](auto& d) { return &d.Entries.RockFallAngle; }, 29.9999981F, 60},
+    {9, [](auto& d) { return &d.Entries.RockFallAngle; }, 42.5F, 86},
+    {9, [](auto& d) { return &d.Entries.RockFallAngle; }, 29.9999981F, 60},
 };
 
 TEST_F(CurveLimits, ASweepEndsAtItsUpperEndToTheLastBit) {
   for (const auto& [index, swept, value, points] : UpperEndRows) {
     design = EnglishDesign();
-    design.*swept = value;
+    swept.In(design) = value;
 
     GenerateCurve(program, index);
 
@@ -77,7 +78,7 @@ TEST_F(CurveLimits, ASweepEndsAtItsUpperEndToTheLastBit) {
 }
 
 TEST_F(CurveLimits, ARatingUnderEnormousDepthIsNotTrimmed) {
-  design.DepthofCover = 1E12F;
+  design.Place.DepthofCover = 1E12F;
 
   GenerateCurve(program, 0);
 
@@ -87,8 +88,8 @@ TEST_F(CurveLimits, ARatingUnderEnormousDepthIsNotTrimmed) {
 }
 
 TEST_F(CurveLimits, ARatingEndsAtAHundred) {
-  design.DepthofCover = 1E12F;
-  design.CMRR = 95;
+  design.Place.DepthofCover = 1E12F;
+  design.Place.CMRR = 95;
 
   GenerateCurve(program, 0);
 
@@ -99,8 +100,8 @@ TEST_F(CurveLimits, ARatingEndsAtAHundred) {
 }
 
 TEST_F(CurveLimits, ARatingOf91StaysBelowAHundredToo) {
-  design.DepthofCover = 1E12F;
-  design.CMRR = 91;
+  design.Place.DepthofCover = 1E12F;
+  design.Place.CMRR = 91;
 
   GenerateCurve(program, 0);
 
@@ -110,35 +111,35 @@ TEST_F(CurveLimits, ARatingOf91StaysBelowAHundredToo) {
 }
 
 TEST_F(CurveLimits, ARatingAboveTheTrimmedLimitFailsAfterTheMessage) {
-  design.CMRR = 95;
+  design.Place.CMRR = 95;
 
   EXPECT_EQ(ErrorOf(0), 9);
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Upper limit for CMRR trimmed to 51"));
 }
 
 TEST_F(CurveLimits, ARatingJustAboveTheTrimmedLimitIsAnEmptyCurve) {
-  design.CMRR = 62;
+  design.Place.CMRR = 62;
   GenerateCurve(program, 0);
   EXPECT_EQ(Points(), 0U);
   EXPECT_THAT(program.curve.CurvePoints[0], ElementsAre(0, 0));
 
-  design.CMRR = 64;
+  design.Place.CMRR = 64;
   GenerateCurve(program, 0);
   EXPECT_EQ(Points(), 0U);
   EXPECT_EQ(Columns(), 1U);
 
-  design.CMRR = 65;
+  design.Place.CMRR = 65;
   EXPECT_EQ(ErrorOf(0), 9);
 }
 
 TEST_F(CurveLimits, HalfAColumnGoesToTheEvenNumber) {
-  design.CMRR = 26;
+  design.Place.CMRR = 26;
   GenerateCurve(program, 0);
   EXPECT_EQ(Points(), 1U);
   EXPECT_EQ(Columns(), 2U);
   EXPECT_EQ(PointAt(0), Point(35, 20.1997395F));
 
-  design.CMRR = 28;
+  design.Place.CMRR = 28;
   GenerateCurve(program, 0);
   EXPECT_EQ(Points(), 2U);
   EXPECT_EQ(Columns(), 4U);
@@ -146,14 +147,14 @@ TEST_F(CurveLimits, HalfAColumnGoesToTheEvenNumber) {
 }
 
 TEST_F(CurveLimits, ARatingWithoutADepthFails) {
-  design.DepthofCover = 0;
+  design.Place.DepthofCover = 0;
 
   EXPECT_EQ(ErrorOf(0), 5);
   EXPECT_THAT(platform.boxes.Texts(), IsEmpty());
 }
 
 TEST_F(CurveLimits, ADepthOfZeroIsOnePoint) {
-  design.DepthofCover = 0;
+  design.Place.DepthofCover = 0;
 
   GenerateCurve(program, 1);
 
@@ -163,7 +164,7 @@ TEST_F(CurveLimits, ADepthOfZeroIsOnePoint) {
 }
 
 TEST_F(CurveLimits, ANegativeDepthIsSweptDownwards) {
-  design.DepthofCover = -400;
+  design.Place.DepthofCover = -400;
 
   GenerateCurve(program, 1);
 
@@ -173,7 +174,7 @@ TEST_F(CurveLimits, ANegativeDepthIsSweptDownwards) {
 }
 
 TEST_F(CurveLimits, AStabilityFactorOfZeroIsOnePoint) {
-  design.StabilityFactor = 0;
+  design.Primary.StabilityFactor = 0;
 
   GenerateCurve(program, 2);
 
@@ -183,7 +184,7 @@ TEST_F(CurveLimits, AStabilityFactorOfZeroIsOnePoint) {
 }
 
 TEST_F(CurveLimits, ASpanOfZeroGoesByOnes) {
-  design.ActualSpanDiagonals = 0;
+  design.Place.ActualSpanDiagonals = 0;
 
   GenerateCurve(program, 3);
 
@@ -195,7 +196,7 @@ TEST_F(CurveLimits, ASpanOfZeroGoesByOnes) {
 }
 
 TEST_F(CurveLimits, ANegativeSpanKeepsItsLimitsAndGoesByTheStepOfThree) {
-  design.ActualSpanDiagonals = -5;
+  design.Place.ActualSpanDiagonals = -5;
 
   GenerateCurve(program, 3);
 
@@ -204,44 +205,44 @@ TEST_F(CurveLimits, ANegativeSpanKeepsItsLimitsAndGoesByTheStepOfThree) {
   EXPECT_EQ(PointAt(0), Point(-15, 3));
   EXPECT_EQ(LastPoint(), Point(4.80000639F, 3));
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Lower limit for IntersectionSpan adjusted > 0"));
-  EXPECT_EQ(design.ActualSpanDiagonals, -5.0F);
+  EXPECT_EQ(design.Place.ActualSpanDiagonals, -5.0F);
 }
 
 // So far from zero the steps are rounded down, and more of them fit in than there are columns.
 TEST_F(CurveLimits, ASpanWithMorePointsThanColumnsFails) {
-  design.ActualSpanDiagonals = -3000000;
+  design.Place.ActualSpanDiagonals = -3000000;
 
   EXPECT_EQ(ErrorOf(3), 9);
 }
 
 TEST_F(CurveLimits, ASpanWithOnePointMoreThanColumnsFailsAndOneThatFillsThemWorks) {
-  design.ActualSpanDiagonals = -1048572.5F;
+  design.Place.ActualSpanDiagonals = -1048572.5F;
   EXPECT_EQ(ErrorOf(3), 9);
 
-  design.ActualSpanDiagonals = -1048571.25F;
+  design.Place.ActualSpanDiagonals = -1048571.25F;
   GenerateCurve(program, 3);
   EXPECT_EQ(Points(), 69U);
   EXPECT_EQ(Columns(), 69U);
 }
 
 TEST_F(CurveLimits, AHeightWithoutAFallAngleFails) {
-  design.RockFallAngle = 0;
+  design.Entries.RockFallAngle = 0;
 
   EXPECT_EQ(ErrorOf(4), 11);
 }
 
 TEST_F(CurveLimits, AHeightOverANarrowEntryIsAnEmptyCurveOrFails) {
-  design.EntryWidth = 2.2F;
+  design.Place.EntryWidth = 2.2F;
   GenerateCurve(program, 4);
   EXPECT_EQ(Points(), 0U);
   EXPECT_EQ(Columns(), 2U);
 
-  design.EntryWidth = 1;
+  design.Place.EntryWidth = 1;
   EXPECT_EQ(ErrorOf(4), 9);
 }
 
 TEST_F(CurveLimits, AnAngleOfZeroIsOnePointInTwoColumns) {
-  design.RockFallAngle = 0;
+  design.Entries.RockFallAngle = 0;
 
   GenerateCurve(program, 6);
   EXPECT_EQ(Points(), 1U);
@@ -255,7 +256,7 @@ TEST_F(CurveLimits, AnAngleOfZeroIsOnePointInTwoColumns) {
 }
 
 TEST_F(CurveLimits, AnIntersectionHeightUnderVerticalSidesEndsAtTheEntryWidth) {
-  design.RockFallAngle = 0;
+  design.Entries.RockFallAngle = 0;
 
   GenerateCurve(program, 7);
 
@@ -272,8 +273,8 @@ struct LongRow {
 
 TEST_F(CurveLimits, AsManyColumnsAsCanBeNumberedWork) {
   const auto columnsOf = [this](const LongRow& row) {
-    design.EntryWidth = row.width;
-    design.RockFallAngle = row.angle;
+    design.Place.EntryWidth = row.width;
+    design.Entries.RockFallAngle = row.angle;
     GenerateCurve(program, row.index);
     return Columns();
   };
@@ -287,8 +288,8 @@ TEST_F(CurveLimits, AsManyColumnsAsCanBeNumberedWork) {
 TEST_F(CurveLimits, MoreColumnsThanCanBeNumberedFail) {
   for (const auto& [index, width, angle] :
        {LongRow{4, 20, 0.03F}, LongRow{5, 27305, 30}, LongRow{5, 50000, 30}, LongRow{7, 16385, 0.01F}}) {
-    design.EntryWidth = width;
-    design.RockFallAngle = angle;
+    design.Place.EntryWidth = width;
+    design.Entries.RockFallAngle = angle;
 
     EXPECT_EQ(ErrorOf(index), 6) << "curve " << index << " over " << width;
   }
@@ -301,7 +302,7 @@ TEST_F(CurveLimits, ACurveThatDoesNotExistFails) {
 
 TEST_F(CurveLimits, ACurveThatFailsBeforeItsFirstPointLeavesTheOneBefore) {
   GenerateCurve(program, 3);
-  design.CMRR = 95;
+  design.Place.CMRR = 95;
 
   EXPECT_EQ(ErrorOf(0), 9);
 

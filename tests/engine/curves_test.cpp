@@ -123,7 +123,7 @@ TEST_F(Curves, OtherThanOfTheRatingTellNothing) {
 
 TEST_F(Curves, TakeThePreviewedDesignAndNotTheCommittedOne) {
   program.WorkParms = MetricDesign();
-  program.WorkParms.CMRR = 90;
+  program.WorkParms.Place.CMRR = 90;
 
   GenerateCurve(program, 8);
 
@@ -131,9 +131,9 @@ TEST_F(Curves, TakeThePreviewedDesignAndNotTheCommittedOne) {
 }
 
 TEST_F(Curves, OfIntersectionsUseTheEntrysHeightAndAngle) {
-  design.RockLoadHeightInter = 3;
-  design.RockFallAngleEntry = 10;
-  design.RockFallAngleXcut = 50;
+  design.Intersections.RockLoadHeight = 3;
+  design.Intersections.RockFallAngle = 10;
+  design.Intersections.RockFallAngleXcut = 50;
 
   GenerateCurve(program, 8);
 
@@ -142,7 +142,7 @@ TEST_F(Curves, OfIntersectionsUseTheEntrysHeightAndAngle) {
 
 // At the narrowest entry the angle allows 12.1 ft; the wider ones would allow the 15 ft again.
 TEST_F(Curves, OfTheWidthKeepAHeightThatWasLimitedOnce) {
-  design.RockLoadHeight = 15;
+  design.Entries.RockLoadHeight = 15;
 
   GenerateCurve(program, 5);
 
@@ -152,7 +152,7 @@ TEST_F(Curves, OfTheWidthKeepAHeightThatWasLimitedOnce) {
 }
 
 TEST_F(Curves, OfTheAngleAreLimitedToTheTriangle) {
-  design.RockLoadHeight = 15;
+  design.Entries.RockLoadHeight = 15;
 
   GenerateCurve(program, 6);
 
@@ -162,17 +162,17 @@ TEST_F(Curves, OfTheAngleAreLimitedToTheTriangle) {
 }
 
 TEST_F(Curves, LeaveTheDesignAsItIs) {
-  design.RockLoadHeight = 15;
+  design.Entries.RockLoadHeight = 15;
 
   for (Integer index = 0; index < 10; ++index) GenerateCurve(program, index);
 
-  EXPECT_EQ(design.RockLoadHeight, 15.0F);
-  EXPECT_EQ(design.CMRR, 45);
-  EXPECT_EQ(design.DepthofCover, 400.0F);
-  EXPECT_EQ(design.ActualSpanDiagonals, 60.0F);
-  EXPECT_EQ(design.EntryWidth, 20.0F);
-  EXPECT_EQ(design.StabilityFactor, 1.0F);
-  EXPECT_EQ(design.RockFallAngle, 30.0F);
+  EXPECT_EQ(design.Entries.RockLoadHeight, 15.0F);
+  EXPECT_EQ(design.Place.CMRR, 45);
+  EXPECT_EQ(design.Place.DepthofCover, 400.0F);
+  EXPECT_EQ(design.Place.ActualSpanDiagonals, 60.0F);
+  EXPECT_EQ(design.Place.EntryWidth, 20.0F);
+  EXPECT_EQ(design.Primary.StabilityFactor, 1.0F);
+  EXPECT_EQ(design.Entries.RockFallAngle, 30.0F);
 }
 
 TEST_F(Curves, ReplaceTheOneBefore) {

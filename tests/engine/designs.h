@@ -2,8 +2,8 @@
 #pragma once
 
 #include "catalogs/catalogs.h"
-#include "core/project_record.h"
-#include "core/units.h"
+#include "design/design.h"
+#include "design/units.h"
 #include "engine/formulas.h"
 
 namespace orby::test {
@@ -23,29 +23,29 @@ inline GradeBasis Grades(Integer strengthMode) {
   return {strengthMode, lists};
 }
 
-inline ProjectRecord EnglishDesign() {
-  ProjectRecord design;
-  design.CMRR = 45;
-  design.DepthofCover = 400;
-  design.UnitWeight = 162;
-  design.ActualSpanDiagonals = 60;
-  design.EntryWidth = 20;
-  design.StabilityFactor = 1;
-  design.RockLoadHeight = 8;
-  design.RockFallAngle = 30;
+inline Design EnglishDesign() {
+  Design design;
+  design.Place.CMRR = 45;
+  design.Place.DepthofCover = 400;
+  design.Place.UnitWeight = 162;
+  design.Place.ActualSpanDiagonals = 60;
+  design.Place.EntryWidth = 20;
+  design.Primary.StabilityFactor = 1;
+  design.Entries.RockLoadHeight = 8;
+  design.Entries.RockFallAngle = 30;
   return design;
 }
 
-inline ProjectRecord MetricDesign() {
-  ProjectRecord design;
-  design.CMRR = 45;
-  design.DepthofCover = 150;
-  design.UnitWeight = 25;
-  design.ActualSpanDiagonals = 20;
-  design.EntryWidth = 6.2F;
-  design.StabilityFactor = 1;
-  design.RockLoadHeight = 3;
-  design.RockFallAngle = 30;
+inline Design MetricDesign() {
+  Design design;
+  design.Place.CMRR = 45;
+  design.Place.DepthofCover = 150;
+  design.Place.UnitWeight = 25;
+  design.Place.ActualSpanDiagonals = 20;
+  design.Place.EntryWidth = 6.2F;
+  design.Primary.StabilityFactor = 1;
+  design.Entries.RockLoadHeight = 3;
+  design.Entries.RockFallAngle = 30;
   return design;
 }
 

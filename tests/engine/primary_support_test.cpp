@@ -8,10 +8,10 @@
 namespace orby::test {
 namespace {
 
-constexpr Site EnglishSite{1, 45, 400, 60, 20};
-constexpr Site MetricSite{1, 45, 150, 20, 6.2F};
+constexpr WorkingSite EnglishSite{1, 45, 400, 60, 20};
+constexpr WorkingSite MetricSite{1, 45, 150, 20, 6.2F};
 
-Site With(Site site, Single Site::*member, Single value) {
+WorkingSite With(WorkingSite site, Single WorkingSite::*member, Single value) {
   site.*member = value;
   return site;
 }
@@ -26,9 +26,9 @@ TEST(Suggestion, OfTheEnglishDefaults) {
 }
 
 TEST(Suggestion, JudgesTheSpanAgainstBothItsLimits) {
-  const Site tooLarge = With(EnglishSite, &Site::Span, 63.3F);
-  const Site tooSmall = With(EnglishSite, &Site::Span, 31);
-  const Site both{1, 15, 400, 60, 41};
+  const WorkingSite tooLarge = With(EnglishSite, &WorkingSite::Span, 63.3F);
+  const WorkingSite tooSmall = With(EnglishSite, &WorkingSite::Span, 31);
+  const WorkingSite both{1, 15, 400, 60, 41};
 
   EXPECT_FALSE(SuggestSupport(EnglishSite, English).SpanIsTooLarge(EnglishSite));
   EXPECT_FALSE(SuggestSupport(EnglishSite, English).SpanAndWidthMismatch(EnglishSite));
@@ -39,8 +39,8 @@ TEST(Suggestion, JudgesTheSpanAgainstBothItsLimits) {
 }
 
 TEST(Suggestion, DoesNotWarnOfASpanAtItsLimits) {
-  const Site atSuggested = With(EnglishSite, &Site::Span, 63.2F);
-  const Site atSmallest = With(EnglishSite, &Site::Span, 32.2842712F);
+  const WorkingSite atSuggested = With(EnglishSite, &WorkingSite::Span, 63.2F);
+  const WorkingSite atSmallest = With(EnglishSite, &WorkingSite::Span, 32.2842712F);
 
   EXPECT_FALSE(SuggestSupport(atSuggested, English).SpanIsTooLarge(atSuggested));
   EXPECT_FALSE(SuggestSupport(atSmallest, English).SpanAndWidthMismatch(atSmallest));
@@ -90,8 +90,8 @@ TEST(LiveSuggestion, OfAWideWeakIntersectionWarnsInEnglishDesigns) {
 }
 
 TEST(LiveSuggestion, NeverWarnsInMetricDesigns) {
-  const auto tooLarge = SuggestLive(With(MetricSite, &Site::Span, 25), Metric);
-  const auto tooSmall = SuggestLive(With(MetricSite, &Site::Span, 12), Metric);
+  const auto tooLarge = SuggestLive(With(MetricSite, &WorkingSite::Span, 25), Metric);
+  const auto tooSmall = SuggestLive(With(MetricSite, &WorkingSite::Span, 12), Metric);
 
   ASSERT_TRUE(tooLarge);
   EXPECT_EQ(tooLarge->SugPSUP, 15.9432173F);
@@ -102,12 +102,12 @@ TEST(LiveSuggestion, NeverWarnsInMetricDesigns) {
 }
 
 struct SiteGuard {
-  Single Site::*member;
+  Single WorkingSite::*member;
   Single value;
   bool computes;
 };
 
-void ExpectGuards(const Site& site, Integer units, std::initializer_list<SiteGuard> guards) {
+void ExpectGuards(const WorkingSite& site, Integer units, std::initializer_list<SiteGuard> guards) {
   int row = 0;
   for (const auto& [member, value, computes] : guards) {
     EXPECT_EQ(SuggestLive(With(site, member, value), units).has_value(), computes) << "row " << row << ": " << value;
@@ -117,44 +117,45 @@ void ExpectGuards(const Site& site, Integer units, std::initializer_list<SiteGua
 
 TEST(LiveSuggestion, IsGuardedInEnglishDesigns) {
   ExpectGuards(EnglishSite, English,
-               {{&Site::StabilityFactor, 0, false},
-                {&Site::StabilityFactor, 0.99F, false},
-                {&Site::StabilityFactor, 1, true},
-                {&Site::StabilityFactor, 1.01F, true},
-                {&Site::CMRR, -0.01F, false},
-                {&Site::CMRR, 0, true},
-                {&Site::CMRR, 100, true},
-                {&Site::CMRR, 100.01F, false},
-                {&Site::Width, -1, false},
-                {&Site::Width, 0, false},
-                {&Site::Width, 0.01F, true},
-                {&Site::Span, 19.99F, false},
-                {&Site::Span, 20, false},
-                {&Site::Span, 20.01F, true},
-                {&Site::Depth, -0.01F, false},
-                {&Site::Depth, 0.01F, true}});
+               {{&WorkingSite::StabilityFactor, 0, false},
+                {&WorkingSite::StabilityFactor, 0.99F, false},
+                {&WorkingSite::StabilityFactor, 1, true},
+                {&WorkingSite::StabilityFactor, 1.01F, true},
+                {&WorkingSite::CMRR, -0.01F, false},
+                {&WorkingSite::CMRR, 0, true},
+                {&WorkingSite::CMRR, 100, true},
+                {&WorkingSite::CMRR, 100.01F, false},
+                {&WorkingSite::Width, -1, false},
+                {&WorkingSite::Width, 0, false},
+                {&WorkingSite::Width, 0.01F, true},
+                {&WorkingSite::Span, 19.99F, false},
+                {&WorkingSite::Span, 20, false},
+                {&WorkingSite::Span, 20.01F, true},
+                {&WorkingSite::Depth, -0.01F, false},
+                {&WorkingSite::Depth, 0.01F, true}});
 }
 
 TEST(LiveSuggestion, IsGuardedInMetricDesigns) {
   ExpectGuards(MetricSite, Metric,
-               {{&Site::StabilityFactor, 0.99F, false},
-                {&Site::StabilityFactor, 1, true},
-                {&Site::CMRR, -0.01F, false},
-                {&Site::CMRR, 0, true},
-                {&Site::CMRR, 100, true},
-                {&Site::CMRR, 100.01F, false},
-                {&Site::Width, 0, false},
-                {&Site::Width, 0.01F, true},
-                {&Site::Span, 6.19F, false},
-                {&Site::Span, 6.2F, false},
-                {&Site::Span, 6.21F, true},
-                {&Site::Depth, -0.01F, false},
-                {&Site::Depth, 0.01F, true}});
+               {{&WorkingSite::StabilityFactor, 0.99F, false},
+                {&WorkingSite::StabilityFactor, 1, true},
+                {&WorkingSite::CMRR, -0.01F, false},
+                {&WorkingSite::CMRR, 0, true},
+                {&WorkingSite::CMRR, 100, true},
+                {&WorkingSite::CMRR, 100.01F, false},
+                {&WorkingSite::Width, 0, false},
+                {&WorkingSite::Width, 0.01F, true},
+                {&WorkingSite::Span, 6.19F, false},
+                {&WorkingSite::Span, 6.2F, false},
+                {&WorkingSite::Span, 6.21F, true},
+                {&WorkingSite::Depth, -0.01F, false},
+                {&WorkingSite::Depth, 0.01F, true}});
 }
 
 TEST(LiveSuggestion, FailsAtADepthOfZero) {
-  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(SuggestLive(With(EnglishSite, &Site::Depth, 0), English)); }), 5);
-  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(SuggestLive(With(MetricSite, &Site::Depth, 0), Metric)); }), 5);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(SuggestLive(With(EnglishSite, &WorkingSite::Depth, 0), English)); }),
+            5);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(SuggestLive(With(MetricSite, &WorkingSite::Depth, 0), Metric)); }), 5);
 }
 
 constexpr BoltPattern EnglishPattern{6, 4, 0.75F, 75, 4, 20};

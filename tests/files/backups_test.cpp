@@ -241,7 +241,7 @@ TEST_F(Backups, HaveNamesThatEveryDiskTakes) {
 
 TEST_F(Backups, OfADroppedDesignAreRecoveryFiles) {
   FileNew(program(), false, true);
-  program().WorkParms.DepthofCover = 725;
+  program().WorkParms.Place.DepthofCover = 725;
 
   const auto path = KeepDropped(program(), CommittedProject(program()), BackupReason::Dropped);
 
@@ -249,7 +249,7 @@ TEST_F(Backups, OfADroppedDesignAreRecoveryFiles) {
   EXPECT_THAT(*path, EndsWith(" panel3.orb.recovery"));
   const auto read = ReadRecovery(files().files.at(*path));
   ASSERT_TRUE(read);
-  EXPECT_EQ(read->WorkParms.DepthofCover, 725);
+  EXPECT_EQ(read->WorkParms.Place.DepthofCover, 725);
   EXPECT_EQ(ListBackups(program()).front().Project, ProjectPath);
 }
 

@@ -12,93 +12,91 @@ namespace {
 
 struct Expectation {
   const char* name;
-  Single ProjectRecord::*field;
+  SingleField field;
   Single english;    // what is stored under English units
   Single metric;     // what that becomes under Metric units
   Single backAgain;  // what a Metric value of 123.4567 becomes under English units
 };
 
-using R = ProjectRecord;
-#define FIELD(name) #name, &R::name
-
 // 123.4567 m are 405.0417 ft, kN/m3 785.9627 pcf, mm 4.8605 in, MPa 17.90588 ksi, kN 13.87708 tons, kN/m 4.229735
 // tons/ft.
 constexpr Expectation Expectations[] = {
-    {FIELD(DepthofCover), 405, 123.44F, 405},
-    {FIELD(EntryWidth), 20, 6.1F, 405},
-    {FIELD(ActualSpanDiagonals), 60, 18.29F, 405},
-    {FIELD(BoltLengthPrimary), 6.5F, 1.98F, 405.04F},
-    {FIELD(BoltLengthSecEntry), 6.5F, 1.98F, 405.04F},
-    {FIELD(BoltLengthSecInter), 6.5F, 2, 405.04F},
-    {FIELD(RowSpacingPrimary), 4, 1.2F, 405},
-    {FIELD(RockLoadHeight), 8, 2.4F, 405},
-    {FIELD(CableLengthSecEntry), 10, 3, 405},
-    {FIELD(CableRowSpacingSecEntry), 5, 1.5F, 405},
-    {FIELD(TrussLengthMemberSecEntry), 8, 2.4F, 405},
-    {FIELD(TrussSpacingSecEntry), 4, 1.2F, 405},
-    {FIELD(RowSpacingSecEntry), 4, 1.2F, 405},
-    {FIELD(SupportRowSpacingSecEntry), 8, 2.4F, 405},
-    {FIELD(RockLoadHeightInter), 8, 2.4F, 405},
-    {FIELD(CableLengthSecInter), 10, 3, 405},
-    {FIELD(TrussLengthMemberSecInter), 8, 2.4F, 405},
-    {FIELD(UnitWeight), 162, 25.45F, 785.96F},
-    {FIELD(BoltTableDiameterPrimary), 0.75F, 19.05F, 4.86F},
-    {FIELD(BoltDiameterStdPrimary), 0.75F, 19.05F, 4.86F},
-    {FIELD(BoltDiameterManualPrimary), 0.804F, 20.42F, 4.86F},
-    {FIELD(CableDiamSecEntry), 0.6F, 15.24F, 4.86F},
-    {FIELD(BoltTableDiameterSecEntry), 0.875F, 22.22F, 4.86F},
-    {FIELD(BoltDiameterStdSecEntry), 0.625F, 15.88F, 4.86F},
-    {FIELD(BoltDiameterManualSecEntry), 0.75F, 19.05F, 4.86F},
-    {FIELD(CableDiamSecInter), 0.6F, 15.24F, 4.86F},
-    {FIELD(BoltTableDiameterSecInter), 0.75F, 19.05F, 4.86F},
-    {FIELD(BoltDiameterStdSecInter), 0.75F, 19.05F, 4.86F},
-    {FIELD(BoltDiameterManualSecInter), 0.75F, 19.05F, 4.86F},
-    {FIELD(BoltTableGradePrimary), 75, 517, 18},
-    {FIELD(BoltGradeStdPrimary), 75, 517, 18},
-    {FIELD(BoltGradeManualPrimary), 100, 689, 18},
-    {FIELD(BoltTableGradeSecEntry), 60, 414, 18},
-    {FIELD(BoltGradeStdSecEntry), 75, 517, 18},
-    {FIELD(BoltGradeManualSecEntry), 75, 517, 18},
-    {FIELD(BoltTableGradeSecInter), 75, 517, 18},
-    {FIELD(BoltGradeStdSecInter), 75, 517, 18},
-    {FIELD(BoltGradeManualSecInter), 75, 517, 18},
-    {FIELD(CableCapacityStdSecEntry), 27, 240.2F, 13.88F},
-    {FIELD(CableCapacityStdSecInter), 27, 240.2F, 13.88F},
-    {FIELD(CableCapacityManualSecEntry), 29.3F, 260.7F, 13.9F},
-    {FIELD(TrussCapacitySecEntry), 30, 266.9F, 13.9F},
-    {FIELD(SupportCapSecEntry), 50, 444.8F, 13.9F},
-    {FIELD(RockLoadInter1), 182.9F, 1627.2F, 13.9F},
-    {FIELD(CableCapacityManualSecInter), 29.3F, 260.7F, 13.9F},
-    {FIELD(SupportCapInter1), 264, 2348.7F, 13.9F},
-    {FIELD(TrussCapacitySecInter), 30, 266.9F, 13.9F},
-    {FIELD(SupportCapInter2), 240, 2135.1F, 13.9F},
-    {FIELD(SupportCapInter3), 150, 1334.5F, 13.9F},
-    {FIELD(SupportCapSecInter), 50, 444.8F, 13.9F},
-    {FIELD(SupportCapInter4), 200, 1779.3F, 13.9F},
-    {FIELD(RockLoadEntry1), 10, 291.9F, 4.2F},
-    {FIELD(SupportCapEntry1), 10.6F, 309.4F, 4.2F},
-    {FIELD(SupportCapEntry2), 15, 437.8F, 4.2F},
-    {FIELD(SupportCapEntry3), 12, 350.3F, 4.2F},
-    {FIELD(SupportCapEntry4), 12.5F, 364.8F, 4.2F},
+    {"DepthofCover", [](auto& d) { return &d.Place.DepthofCover; }, 405, 123.44F, 405},
+    {"EntryWidth", [](auto& d) { return &d.Place.EntryWidth; }, 20, 6.1F, 405},
+    {"ActualSpanDiagonals", [](auto& d) { return &d.Place.ActualSpanDiagonals; }, 60, 18.29F, 405},
+    {"BoltLengthPrimary", [](auto& d) { return &d.Primary.Length; }, 6.5F, 1.98F, 405.04F},
+    {"BoltLengthSecEntry", [](auto& d) { return &d.Entries.Bolt.Length; }, 6.5F, 1.98F, 405.04F},
+    {"BoltLengthSecInter", [](auto& d) { return &d.Intersections.Bolt.Length; }, 6.5F, 2, 405.04F},
+    {"RowSpacingPrimary", [](auto& d) { return &d.Primary.RowSpacing; }, 4, 1.2F, 405},
+    {"RockLoadHeight", [](auto& d) { return &d.Entries.RockLoadHeight; }, 8, 2.4F, 405},
+    {"CableLengthSecEntry", [](auto& d) { return &d.Entries.Cable.Length; }, 10, 3, 405},
+    {"CableRowSpacingSecEntry", [](auto& d) { return &d.Entries.Cable.RowSpacing; }, 5, 1.5F, 405},
+    {"TrussLengthMemberSecEntry", [](auto& d) { return &d.Entries.Truss.LengthMember; }, 8, 2.4F, 405},
+    {"TrussSpacingSecEntry", [](auto& d) { return &d.Entries.Truss.Spacing; }, 4, 1.2F, 405},
+    {"RowSpacingSecEntry", [](auto& d) { return &d.Entries.Bolt.RowSpacing; }, 4, 1.2F, 405},
+    {"SupportRowSpacingSecEntry", [](auto& d) { return &d.Entries.Standing.RowSpacing; }, 8, 2.4F, 405},
+    {"RockLoadHeightInter", [](auto& d) { return &d.Intersections.RockLoadHeight; }, 8, 2.4F, 405},
+    {"CableLengthSecInter", [](auto& d) { return &d.Intersections.Cable.Length; }, 10, 3, 405},
+    {"TrussLengthMemberSecInter", [](auto& d) { return &d.Intersections.Truss.LengthMember; }, 8, 2.4F, 405},
+    {"UnitWeight", [](auto& d) { return &d.Place.UnitWeight; }, 162, 25.45F, 785.96F},
+    {"BoltTableDiameterPrimary", [](auto& d) { return &d.Primary.TableDiameter; }, 0.75F, 19.05F, 4.86F},
+    {"BoltDiameterStdPrimary", [](auto& d) { return &d.Primary.DiameterStd; }, 0.75F, 19.05F, 4.86F},
+    {"BoltDiameterManualPrimary", [](auto& d) { return &d.Primary.DiameterManual; }, 0.804F, 20.42F, 4.86F},
+    {"CableDiamSecEntry", [](auto& d) { return &d.Entries.Cable.Diam; }, 0.6F, 15.24F, 4.86F},
+    {"BoltTableDiameterSecEntry", [](auto& d) { return &d.Entries.Bolt.TableDiameter; }, 0.875F, 22.22F, 4.86F},
+    {"BoltDiameterStdSecEntry", [](auto& d) { return &d.Entries.Bolt.DiameterStd; }, 0.625F, 15.88F, 4.86F},
+    {"BoltDiameterManualSecEntry", [](auto& d) { return &d.Entries.Bolt.DiameterManual; }, 0.75F, 19.05F, 4.86F},
+    {"CableDiamSecInter", [](auto& d) { return &d.Intersections.Cable.Diam; }, 0.6F, 15.24F, 4.86F},
+    {"BoltTableDiameterSecInter", [](auto& d) { return &d.Intersections.Bolt.TableDiameter; }, 0.75F, 19.05F, 4.86F},
+    {"BoltDiameterStdSecInter", [](auto& d) { return &d.Intersections.Bolt.DiameterStd; }, 0.75F, 19.05F, 4.86F},
+    {"BoltDiameterManualSecInter", [](auto& d) { return &d.Intersections.Bolt.DiameterManual; }, 0.75F, 19.05F, 4.86F},
+    {"BoltTableGradePrimary", [](auto& d) { return &d.Primary.TableGrade; }, 75, 517, 18},
+    {"BoltGradeStdPrimary", [](auto& d) { return &d.Primary.GradeStd; }, 75, 517, 18},
+    {"BoltGradeManualPrimary", [](auto& d) { return &d.Primary.GradeManual; }, 100, 689, 18},
+    {"BoltTableGradeSecEntry", [](auto& d) { return &d.Entries.Bolt.TableGrade; }, 60, 414, 18},
+    {"BoltGradeStdSecEntry", [](auto& d) { return &d.Entries.Bolt.GradeStd; }, 75, 517, 18},
+    {"BoltGradeManualSecEntry", [](auto& d) { return &d.Entries.Bolt.GradeManual; }, 75, 517, 18},
+    {"BoltTableGradeSecInter", [](auto& d) { return &d.Intersections.Bolt.TableGrade; }, 75, 517, 18},
+    {"BoltGradeStdSecInter", [](auto& d) { return &d.Intersections.Bolt.GradeStd; }, 75, 517, 18},
+    {"BoltGradeManualSecInter", [](auto& d) { return &d.Intersections.Bolt.GradeManual; }, 75, 517, 18},
+    {"CableCapacityStdSecEntry", [](auto& d) { return &d.Entries.Cable.CapacityStd; }, 27, 240.2F, 13.88F},
+    {"CableCapacityStdSecInter", [](auto& d) { return &d.Intersections.Cable.CapacityStd; }, 27, 240.2F, 13.88F},
+    {"CableCapacityManualSecEntry", [](auto& d) { return &d.Entries.Cable.CapacityManual; }, 29.3F, 260.7F, 13.9F},
+    {"TrussCapacitySecEntry", [](auto& d) { return &d.Entries.Truss.Capacity; }, 30, 266.9F, 13.9F},
+    {"SupportCapSecEntry", [](auto& d) { return &d.Entries.Standing.Capacity; }, 50, 444.8F, 13.9F},
+    {"RockLoadInter1", [](auto& d) { return &d.Intersections.RockLoad; }, 182.9F, 1627.2F, 13.9F},
+    {"CableCapacityManualSecInter", [](auto& d) { return &d.Intersections.Cable.CapacityManual; }, 29.3F, 260.7F,
+     13.9F},
+    {"SupportCapInter1", [](auto& d) { return &d.Intersections.Cable.SupportCap; }, 264, 2348.7F, 13.9F},
+    {"TrussCapacitySecInter", [](auto& d) { return &d.Intersections.Truss.Capacity; }, 30, 266.9F, 13.9F},
+    {"SupportCapInter2", [](auto& d) { return &d.Intersections.Truss.SupportCap; }, 240, 2135.1F, 13.9F},
+    {"SupportCapInter3", [](auto& d) { return &d.Intersections.Bolt.SupportCap; }, 150, 1334.5F, 13.9F},
+    {"SupportCapSecInter", [](auto& d) { return &d.Intersections.Standing.Capacity; }, 50, 444.8F, 13.9F},
+    {"SupportCapInter4", [](auto& d) { return &d.Intersections.Standing.SupportCap; }, 200, 1779.3F, 13.9F},
+    {"RockLoadEntry1", [](auto& d) { return &d.Entries.RockLoad; }, 10, 291.9F, 4.2F},
+    {"SupportCapEntry1", [](auto& d) { return &d.Entries.Cable.SupportCap; }, 10.6F, 309.4F, 4.2F},
+    {"SupportCapEntry2", [](auto& d) { return &d.Entries.Truss.SupportCap; }, 15, 437.8F, 4.2F},
+    {"SupportCapEntry3", [](auto& d) { return &d.Entries.Bolt.SupportCap; }, 12, 350.3F, 4.2F},
+    {"SupportCapEntry4", [](auto& d) { return &d.Entries.Standing.SupportCap; }, 12.5F, 364.8F, 4.2F},
 };
 
 TEST(Conversion, EveryFieldToMetricWithItsOwnDecimals) {
   TestProject project;
-  for (const auto& row : Expectations) project.program.WorkParms.*row.field = row.english;
+  for (const auto& row : Expectations) row.field.In(project.program.WorkParms) = row.english;
 
   ConvertProject(project.program, Metric);
 
-  for (const auto& row : Expectations) EXPECT_EQ(project.program.WorkParms.*row.field, row.metric) << row.name;
+  for (const auto& row : Expectations) EXPECT_EQ(row.field.In(project.program.WorkParms), row.metric) << row.name;
 }
 
 TEST(Conversion, EveryFieldToEnglishWithItsOwnDecimals) {
   TestProject project;
   project.program.Units = Metric;
-  for (const auto& row : Expectations) project.program.WorkParms.*row.field = 123.4567F;
+  for (const auto& row : Expectations) row.field.In(project.program.WorkParms) = 123.4567F;
 
   ConvertProject(project.program, English);
 
-  for (const auto& row : Expectations) EXPECT_EQ(project.program.WorkParms.*row.field, row.backAgain) << row.name;
+  for (const auto& row : Expectations) EXPECT_EQ(row.field.In(project.program.WorkParms), row.backAgain) << row.name;
 }
 
 // Fields of one unit and one number of decimals share what 123.4567 becomes, and so what 80.54 does: from 264.2388 ft,
@@ -110,71 +108,71 @@ constexpr std::pair<Single, Single> SecondValues[] = {{405, 264.2F},  {405.04F, 
 TEST(Conversion, EveryFieldToEnglishHasNoDecimalFewerOrMore) {
   TestProject project;
   project.program.Units = Metric;
-  for (const auto& row : Expectations) project.program.WorkParms.*row.field = 80.54F;
+  for (const auto& row : Expectations) row.field.In(project.program.WorkParms) = 80.54F;
 
   ConvertProject(project.program, English);
 
   for (const auto& row : Expectations) {
     const auto* second = std::ranges::find(SecondValues, row.backAgain, &std::pair<Single, Single>::first);
     ASSERT_NE(second, std::end(SecondValues)) << row.name;
-    EXPECT_EQ(project.program.WorkParms.*row.field, second->second) << row.name;
+    EXPECT_EQ(row.field.In(project.program.WorkParms), second->second) << row.name;
   }
 }
 
 TEST(Conversion, TheTwoStandardCableCapacitiesDifferByADecimal) {
   TestProject project;
-  project.program.WorkParms.CableCapacityStdSecEntry = 27.11F;
-  project.program.WorkParms.CableCapacityStdSecInter = 27.11F;
+  project.program.WorkParms.Entries.Cable.CapacityStd = 27.11F;
+  project.program.WorkParms.Intersections.Cable.CapacityStd = 27.11F;
 
   ConvertProject(project.program, Metric);
 
-  EXPECT_EQ(project.program.WorkParms.CableCapacityStdSecEntry, 241.2F);
-  EXPECT_EQ(project.program.WorkParms.CableCapacityStdSecInter, 241.18F);
+  EXPECT_EQ(project.program.WorkParms.Entries.Cable.CapacityStd, 241.2F);
+  EXPECT_EQ(project.program.WorkParms.Intersections.Cable.CapacityStd, 241.18F);
 }
 
 TEST(Conversion, TiesGoToTheEvenDigit) {
   TestProject project;
-  project.program.WorkParms.BoltTableDiameterPrimary = 0.875F;  // 22.225 mm
-  project.program.WorkParms.BoltDiameterStdPrimary = 0.625F;    // 15.875 mm
+  project.program.WorkParms.Primary.TableDiameter = 0.875F;  // 22.225 mm
+  project.program.WorkParms.Primary.DiameterStd = 0.625F;    // 15.875 mm
 
   ConvertProject(project.program, Metric);
 
-  EXPECT_EQ(project.program.WorkParms.BoltTableDiameterPrimary, 22.22F);
-  EXPECT_EQ(project.program.WorkParms.BoltDiameterStdPrimary, 15.88F);
+  EXPECT_EQ(project.program.WorkParms.Primary.TableDiameter, 22.22F);
+  EXPECT_EQ(project.program.WorkParms.Primary.DiameterStd, 15.88F);
 }
 
 TEST(Conversion, ThereAndBackDoesNotRestoreADepth) {
   TestProject project;
-  project.program.WorkParms.DepthofCover = 401.37F;
+  project.program.WorkParms.Place.DepthofCover = 401.37F;
 
   ConvertProject(project.program, Metric);
   ConvertProject(project.program, English);
 
-  EXPECT_EQ(project.program.WorkParms.DepthofCover, 401.4F);
+  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 401.4F);
 }
 
 TEST(Conversion, AnglesCountsFactorsFlagsAndCostsStay) {
   TestProject project;
-  ProjectRecord& record = project.program.WorkParms;
+  Design& record = project.program.WorkParms;
   FileNew(project.program, false, true);
-  record.StabFactorEntry1 = 1.06F;
-  record.StabFactorInter4 = 1.44F;
+  record.Entries.Cable.StabFactor = 1.06F;
+  record.Intersections.Standing.StabFactor = 1.44F;
 
   ConvertProject(project.program, Metric);
 
-  EXPECT_EQ(record.RockFallAngle, 30);
-  EXPECT_EQ(record.TrussAngleSecInter, 45);
-  EXPECT_EQ(record.BoltsperRowPrimary, 4);
-  EXPECT_EQ(record.CableBoltsPerRowSecEntry, 2);
-  EXPECT_EQ(record.CableNumberSecInter, 10);
-  EXPECT_EQ(record.TrussNumberSecInter, 4);
-  EXPECT_EQ(record.StabilityFactor, 1);
-  EXPECT_EQ(record.StabFactorEntry1, 1.06F);
-  EXPECT_EQ(record.StabFactorInter4, 1.44F);
-  EXPECT_EQ(record.CMRR, 45);
-  EXPECT_EQ(record.CostRowSpacing, 4);
-  EXPECT_EQ(record.CostAdvanceShift, 300);
-  EXPECT_EQ(record.CostCapitalCost, 1000000);
+  EXPECT_EQ(record.Entries.RockFallAngle, 30);
+  EXPECT_EQ(record.Intersections.Truss.Angle, 45);
+  EXPECT_EQ(record.Primary.BoltsperRow, 4);
+  EXPECT_EQ(record.Entries.Cable.BoltsPerRow, 2);
+  EXPECT_EQ(record.Intersections.Cable.Number, 10);
+  EXPECT_EQ(record.Intersections.Truss.Number, 4);
+  EXPECT_EQ(record.Primary.StabilityFactor, 1);
+  EXPECT_EQ(record.Entries.Cable.StabFactor, 1.06F);
+  EXPECT_EQ(record.Intersections.Standing.StabFactor, 1.44F);
+  EXPECT_EQ(record.Place.CMRR, 45);
+  EXPECT_EQ(record.Cost.RowSpacing, 4);
+  EXPECT_EQ(record.Cost.AdvanceShift, 300);
+  EXPECT_EQ(record.Cost.CapitalCost, 1000000);
 }
 
 TEST(Conversion, TheResultIsAnUnsavedProjectUnderItsBareNameWithAPrefix) {
@@ -202,16 +200,16 @@ TEST(Conversion, PrefixesPileUpTheNewestFirst) {
 
 TEST(Conversion, AnOverflowEndsItAndKeepsWhatWasConverted) {
   TestProject project;
-  project.program.WorkParms.DepthofCover = 400;
-  project.program.WorkParms.CableDiamSecEntry = 3E38F;
-  project.program.WorkParms.BoltGradeStdPrimary = 75;
+  project.program.WorkParms.Place.DepthofCover = 400;
+  project.program.WorkParms.Entries.Cable.Diam = 3E38F;
+  project.program.WorkParms.Primary.GradeStd = 75;
   project.program.FileSaved = true;
 
   EXPECT_EQ(ErrorNumberOf([&] { ConvertProject(project.program, Metric); }), 6);
 
-  EXPECT_EQ(project.program.WorkParms.DepthofCover, 121.92F);
-  EXPECT_EQ(project.program.WorkParms.CableDiamSecEntry, 3E38F);
-  EXPECT_EQ(project.program.WorkParms.BoltGradeStdPrimary, 75);
+  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 121.92F);
+  EXPECT_EQ(project.program.WorkParms.Entries.Cable.Diam, 3E38F);
+  EXPECT_EQ(project.program.WorkParms.Primary.GradeStd, 75);
   EXPECT_EQ(project.program.CurrentFile, ProjectPath);
   EXPECT_EQ(project.program.Units, English);
   EXPECT_FALSE(project.program.FileSaved);
@@ -219,11 +217,11 @@ TEST(Conversion, AnOverflowEndsItAndKeepsWhatWasConverted) {
 
 TEST(Conversion, WorksOnTheCommittedDesignAlone) {
   TestProject project;
-  project.program.WorkParmsCopy.DepthofCover = 400;
+  project.program.WorkParmsCopy.Place.DepthofCover = 400;
 
   ConvertProject(project.program, Metric);
 
-  EXPECT_EQ(project.program.WorkParmsCopy.DepthofCover, 400);
+  EXPECT_EQ(project.program.WorkParmsCopy.Place.DepthofCover, 400);
 }
 
 }  // namespace

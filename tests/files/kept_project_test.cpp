@@ -14,7 +14,7 @@ struct KeptProject : testing::Test {
     FileNew(project.program, false, true);
     project.program.ProjectTitle = "Panel 3";
     project.program.ProjectDescription = "Belt entry\r\n\r\nsouth";
-    project.program.WorkParms.DepthofCover = 725;
+    project.program.WorkParms.Place.DepthofCover = 725;
     project.program.history = {};
   }
 
@@ -26,20 +26,20 @@ TEST_F(KeptProject, IsReadFromAProjectFileUnderItsOldName) {
 
   ASSERT_TRUE(read);
   EXPECT_EQ(read->CurrentFile, "/designs/panel7.orb");
-  EXPECT_EQ(read->WorkParms.DepthofCover, 725);
+  EXPECT_EQ(read->WorkParms.Place.DepthofCover, 725);
   EXPECT_FALSE(read->FileEmpty);
   EXPECT_TRUE(read->UnitsLocked);
 }
 
 TEST_F(KeptProject, OfAnOlderFormatHasTheDefaultsForWhatItLacks) {
-  project.program.WorkParms.BoltDescPrimary = "of the open project";
+  project.program.WorkParms.Primary.Desc = "of the open project";
   std::string bytes = ProjectFileBytes(project.program);
   bytes.replace(bytes.find("ORBY_105"), 8, "ORBY_104");
 
   const auto read = ReadKeptProject(project.program, bytes, ProjectPath);
 
   ASSERT_TRUE(read);
-  EXPECT_EQ(read->WorkParms.BoltDescPrimary, "");
+  EXPECT_EQ(read->WorkParms.Primary.Desc, "");
 }
 
 TEST_F(KeptProject, IsReadFromARecoveryFileUnderTheNameInIt) {
@@ -47,7 +47,7 @@ TEST_F(KeptProject, IsReadFromARecoveryFileUnderTheNameInIt) {
 
   ASSERT_TRUE(read);
   EXPECT_EQ(read->CurrentFile, ProjectPath);
-  EXPECT_EQ(read->WorkParms.DepthofCover, 725);
+  EXPECT_EQ(read->WorkParms.Place.DepthofCover, 725);
 }
 
 TEST_F(KeptProject, IsNoneInDamagedBytes) {

@@ -31,14 +31,14 @@ TEST(NewProject, UltimateStrengthTakesTheUltimateGrade) {
 
   FileNew(project.program, true, true);
   EXPECT_EQ(project.program.BoltStrengthMode, 1);
-  EXPECT_EQ(project.program.WorkParms.BoltGradeStdPrimary, 100);
-  EXPECT_EQ(project.program.WorkParms.BoltGradeManualSecInter, 100);
-  EXPECT_EQ(project.program.WorkParms.BoltTableGradePrimary, 0);
+  EXPECT_EQ(project.program.WorkParms.Primary.GradeStd, 100);
+  EXPECT_EQ(project.program.WorkParms.Intersections.Bolt.GradeManual, 100);
+  EXPECT_EQ(project.program.WorkParms.Primary.TableGrade, 0);
 
   project.program.settings.UnitsDefault = Metric;
   FileNew(project.program, true, true);
-  EXPECT_EQ(project.program.WorkParms.BoltGradeManualPrimary, 690);
-  EXPECT_EQ(project.program.WorkParms.BoltGradeStdSecEntry, 690);
+  EXPECT_EQ(project.program.WorkParms.Primary.GradeManual, 690);
+  EXPECT_EQ(project.program.WorkParms.Entries.Bolt.GradeStd, 690);
 }
 
 TEST(NewProject, TakesTheUsersOwnDefaults) {
@@ -58,23 +58,23 @@ TEST(NewProject, TakesTheUsersOwnDefaults) {
 
   FileNew(project.program, true, true);
 
-  const ProjectRecord& record = project.program.WorkParms;
-  EXPECT_EQ(record.CMRR, 52);
-  EXPECT_EQ(record.DepthofCover, 850);
-  EXPECT_EQ(record.UnitWeight, 158);
-  EXPECT_EQ(record.StabilityFactor, 1.2F);
-  EXPECT_EQ(record.BoltLengthPrimary, 8);
-  EXPECT_EQ(record.BoltLengthSecEntry, 8);
-  EXPECT_EQ(record.BoltLengthSecInter, 8);
-  EXPECT_EQ(record.BoltDiameterStdPrimary, 0.875F);
-  EXPECT_EQ(record.BoltDiameterManualSecInter, 0.875F);
-  EXPECT_EQ(record.BoltGradeManualSecEntry, 60);
-  EXPECT_EQ(record.BoltsperRowPrimary, 5);
-  EXPECT_EQ(record.BoltsperRowSecEntry, 4);
-  EXPECT_EQ(record.RowSpacingPrimary, 4.5F);
-  EXPECT_EQ(record.RowSpacingSecEntry, 4.5F);
-  EXPECT_EQ(record.ActualSpanDiagonals, 62);
-  EXPECT_EQ(record.EntryWidth, 18);
+  const Design& record = project.program.WorkParms;
+  EXPECT_EQ(record.Place.CMRR, 52);
+  EXPECT_EQ(record.Place.DepthofCover, 850);
+  EXPECT_EQ(record.Place.UnitWeight, 158);
+  EXPECT_EQ(record.Primary.StabilityFactor, 1.2F);
+  EXPECT_EQ(record.Primary.Length, 8);
+  EXPECT_EQ(record.Entries.Bolt.Length, 8);
+  EXPECT_EQ(record.Intersections.Bolt.Length, 8);
+  EXPECT_EQ(record.Primary.DiameterStd, 0.875F);
+  EXPECT_EQ(record.Intersections.Bolt.DiameterManual, 0.875F);
+  EXPECT_EQ(record.Entries.Bolt.GradeManual, 60);
+  EXPECT_EQ(record.Primary.BoltsperRow, 5);
+  EXPECT_EQ(record.Entries.Bolt.BoltsperRow, 4);
+  EXPECT_EQ(record.Primary.RowSpacing, 4.5F);
+  EXPECT_EQ(record.Entries.Bolt.RowSpacing, 4.5F);
+  EXPECT_EQ(record.Place.ActualSpanDiagonals, 62);
+  EXPECT_EQ(record.Place.EntryWidth, 18);
 }
 
 TEST(NewProject, KeepsNameAndUnitsWhenAskedTo) {
@@ -87,8 +87,8 @@ TEST(NewProject, KeepsNameAndUnitsWhenAskedTo) {
   EXPECT_EQ(project.program.CurrentFile, ProjectPath);
   EXPECT_EQ(project.program.Units, Metric);
   EXPECT_EQ(project.program.BoltStrengthMode, 1);
-  EXPECT_EQ(project.program.WorkParms.DepthofCover, 150);
-  EXPECT_EQ(project.program.WorkParms.BoltGradeStdPrimary, 690);
+  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 150);
+  EXPECT_EQ(project.program.WorkParms.Primary.GradeStd, 690);
 }
 
 TEST(NewProject, SetsTheStateOfAnUntouchedProject) {
@@ -115,60 +115,58 @@ TEST(NewProject, SetsTheStateOfAnUntouchedProject) {
 
 TEST(NewProject, LeavesNothingOfThePreviousBolts) {
   TestProject project;
-  for (const BoltFields* set : {&PrimaryBolt, &SecEntryBolt, &SecInterBolt}) {
-    ProjectRecord& record = project.program.WorkParms;
-    record.*set->Options = record.*set->TableRow = record.*set->DiameterMode = record.*set->GradeMode = 1;
-    record.*set->TableDiameter = record.*set->TableGrade = 60;
-    record.*set->Desc = "Rebar no. 6";
+  for (BoltSelection* set : project.program.WorkParms.BoltSets()) {
+    set->Options = set->TableRow = set->DiameterMode = set->GradeMode = 1;
+    set->TableDiameter = set->TableGrade = 60;
+    set->Desc = "Rebar no. 6";
   }
 
   FileNew(project.program, true, true);
 
-  for (const BoltFields* set : {&PrimaryBolt, &SecEntryBolt, &SecInterBolt}) {
-    const ProjectRecord& record = project.program.WorkParms;
-    EXPECT_EQ(record.*set->Options, 0);
-    EXPECT_EQ(record.*set->TableRow, 0);
-    EXPECT_EQ(record.*set->DiameterMode, 0);
-    EXPECT_EQ(record.*set->GradeMode, 0);
-    EXPECT_EQ(record.*set->TableDiameter, 0);
-    EXPECT_EQ(record.*set->TableGrade, 0);
-    EXPECT_EQ(record.*set->Desc, "");
+  for (const BoltSelection* set : project.program.WorkParms.BoltSets()) {
+    EXPECT_EQ(set->Options, 0);
+    EXPECT_EQ(set->TableRow, 0);
+    EXPECT_EQ(set->DiameterMode, 0);
+    EXPECT_EQ(set->GradeMode, 0);
+    EXPECT_EQ(set->TableDiameter, 0);
+    EXPECT_EQ(set->TableGrade, 0);
+    EXPECT_EQ(set->Desc, "");
   }
 }
 
 TEST(NewProject, LeavesTheEstimatorsChoiceTheComputedFieldsAndThePreviewAlone) {
   TestProject project;
   Program& program = project.program;
-  program.WorkParms.CMRRRegionIndex = 3;
-  program.WorkParms.CMRRRockTypeIndex = 2;
-  program.WorkParms.CMRRManual = 1;
-  program.WorkParms.StabFactorEntry3 = 1.25F;
-  program.WorkParms.SupportCapInter4 = 264;
-  program.WorkParms.RockLoadEntry1 = 10;
-  program.WorkParmsCopy.DepthofCover = 777;
+  program.WorkParms.Place.CMRRRegionIndex = 3;
+  program.WorkParms.Place.CMRRRockTypeIndex = 2;
+  program.WorkParms.Place.CMRRManual = 1;
+  program.WorkParms.Entries.Bolt.StabFactor = 1.25F;
+  program.WorkParms.Intersections.Standing.SupportCap = 264;
+  program.WorkParms.Entries.RockLoad = 10;
+  program.WorkParmsCopy.Place.DepthofCover = 777;
   program.UseAUSStandardTable = 1;
 
   FileNew(program, true, true);
 
-  EXPECT_EQ(program.WorkParms.CMRRRegionIndex, 3);
-  EXPECT_EQ(program.WorkParms.CMRRRockTypeIndex, 2);
-  EXPECT_EQ(program.WorkParms.CMRRManual, 1);
-  EXPECT_EQ(program.WorkParms.StabFactorEntry3, 1.25F);
-  EXPECT_EQ(program.WorkParms.SupportCapInter4, 264);
-  EXPECT_EQ(program.WorkParms.RockLoadEntry1, 10);
-  EXPECT_EQ(program.WorkParmsCopy.DepthofCover, 777);
+  EXPECT_EQ(program.WorkParms.Place.CMRRRegionIndex, 3);
+  EXPECT_EQ(program.WorkParms.Place.CMRRRockTypeIndex, 2);
+  EXPECT_EQ(program.WorkParms.Place.CMRRManual, 1);
+  EXPECT_EQ(program.WorkParms.Entries.Bolt.StabFactor, 1.25F);
+  EXPECT_EQ(program.WorkParms.Intersections.Standing.SupportCap, 264);
+  EXPECT_EQ(program.WorkParms.Entries.RockLoad, 10);
+  EXPECT_EQ(program.WorkParmsCopy.Place.DepthofCover, 777);
   EXPECT_EQ(program.UseAUSStandardTable, 1);
 }
 
 TEST(NewProject, AnEmptySupportListGivesAnEmptyName) {
   TestProject project;
-  project.program.WorkParms.SupportTypeNameSecEntry = "Pumped crib";
+  project.program.WorkParms.Entries.Standing.TypeName = "Pumped crib";
   project.program.catalogs.StandSupports.HighestIndex = -1;
 
   FileNew(project.program, true, true);
 
-  EXPECT_EQ(project.program.WorkParms.SupportTypeNameSecEntry, "");
-  EXPECT_EQ(project.program.WorkParms.SupportTypeNameSecInter, "");
+  EXPECT_EQ(project.program.WorkParms.Entries.Standing.TypeName, "");
+  EXPECT_EQ(project.program.WorkParms.Intersections.Standing.TypeName, "");
 }
 
 }  // namespace

@@ -31,7 +31,7 @@ const std::string RefusalText = "Invalid ORBY file format. File can not be opene
 
 TEST(ProjectFile, OpeningSetsTheStateOfASavedProject) {
   TestProject project;
-  project.program.WorkParmsCopy.DepthofCover = 777;
+  project.program.WorkParmsCopy.Place.DepthofCover = 777;
   project.program.OutBuf[1] = "report";
 
   EXPECT_TRUE(project.Open(ReadTestData("projects/orby_104.orb")));
@@ -41,7 +41,7 @@ TEST(ProjectFile, OpeningSetsTheStateOfASavedProject) {
   EXPECT_TRUE(project.program.UnitsLocked);
   EXPECT_EQ(project.program.CurrentFile, ProjectPath);
   EXPECT_EQ(project.program.OutBuf[1], "");
-  EXPECT_EQ(project.program.WorkParmsCopy.DepthofCover, 777);
+  EXPECT_EQ(project.program.WorkParmsCopy.Place.DepthofCover, 777);
   EXPECT_FALSE(project.platform.windows.waitCursor);
   EXPECT_EQ(project.program.history.Text,
             "1. File initialized. Use Edit-Project Parameters to enter data\r\n2. Opening: /designs/panel3.orb\r\n");
@@ -113,14 +113,14 @@ TEST(ProjectFile, TheTableChoiceIsWrittenButNeverRead) {
 TEST(ProjectFile, TheIntersectionsSupportModeComesBackAsTheEntrys) {
   TestProject project;
   FileNew(project.program, false, true);
-  project.program.WorkParms.SupportTypeModeSecEntry = 0;
-  project.program.WorkParms.SupportTypeModeSecInter = 1;
+  project.program.WorkParms.Entries.Standing.TypeMode = 0;
+  project.program.WorkParms.Intersections.Standing.TypeMode = 1;
 
   ASSERT_TRUE(project.Save());
   ASSERT_TRUE(project.Open());
 
-  EXPECT_EQ(project.program.WorkParms.SupportTypeModeSecEntry, 1);
-  EXPECT_EQ(project.program.WorkParms.SupportTypeModeSecInter, 0);
+  EXPECT_EQ(project.program.WorkParms.Entries.Standing.TypeMode, 1);
+  EXPECT_EQ(project.program.WorkParms.Intersections.Standing.TypeMode, 0);
 }
 
 TEST(ProjectFile, CommaInABoltDescriptionShiftsTheFieldsBehindIt) {
@@ -128,13 +128,13 @@ TEST(ProjectFile, CommaInABoltDescriptionShiftsTheFieldsBehindIt) {
 
   ASSERT_TRUE(project.Open(WithDataLine(18, "Rebar, 6 ft")));
 
-  const ProjectRecord& record = project.program.WorkParms;
-  EXPECT_EQ(record.BoltDescPrimary, "Rebar");
-  EXPECT_EQ(record.BoltDiameterModePrimary, 6);
-  EXPECT_EQ(record.BoltDiameterStdPrimary, 0);  // "ft"
-  EXPECT_EQ(record.BoltDiameterManualPrimary, 119);
-  EXPECT_EQ(record.BoltGradeModePrimary, 20);  // 20.25 as a whole number
-  EXPECT_EQ(record.BoltGradeStdPrimary, 21.25F);
+  const Design& record = project.program.WorkParms;
+  EXPECT_EQ(record.Primary.Desc, "Rebar");
+  EXPECT_EQ(record.Primary.DiameterMode, 6);
+  EXPECT_EQ(record.Primary.DiameterStd, 0);  // "ft"
+  EXPECT_EQ(record.Primary.DiameterManual, 119);
+  EXPECT_EQ(record.Primary.GradeMode, 20);  // 20.25 as a whole number
+  EXPECT_EQ(record.Primary.GradeStd, 21.25F);
 }
 
 TEST(ProjectFile, CommasAndQuotesInASupportNameAreSafe) {
@@ -142,9 +142,9 @@ TEST(ProjectFile, CommasAndQuotesInASupportNameAreSafe) {
 
   ASSERT_TRUE(project.Open(WithDataLine(60, " \"Crib\", 4-point ")));
 
-  EXPECT_EQ(project.program.WorkParms.SupportTypeNameSecEntry, " \"Crib\", 4-point ");
-  EXPECT_EQ(project.program.WorkParms.SupportCapSecEntry, 61.25F);
-  EXPECT_EQ(project.program.WorkParms.CostWeeksYear, 120.25F);
+  EXPECT_EQ(project.program.WorkParms.Entries.Standing.TypeName, " \"Crib\", 4-point ");
+  EXPECT_EQ(project.program.WorkParms.Entries.Standing.Capacity, 61.25F);
+  EXPECT_EQ(project.program.WorkParms.Cost.WeeksYear, 120.25F);
 }
 
 TEST(ProjectFile, ANumberThatIsNoneReadsAsZero) {
@@ -152,8 +152,8 @@ TEST(ProjectFile, ANumberThatIsNoneReadsAsZero) {
 
   ASSERT_TRUE(project.Open(WithDataLine(5, "deep")));
 
-  EXPECT_EQ(project.program.WorkParms.DepthofCover, 0);
-  EXPECT_EQ(project.program.WorkParms.UnitWeight, 6.25F);
+  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 0);
+  EXPECT_EQ(project.program.WorkParms.Place.UnitWeight, 6.25F);
 }
 
 TEST(ProjectFile, ExponentFormIsTakenBack) {
@@ -161,7 +161,7 @@ TEST(ProjectFile, ExponentFormIsTakenBack) {
 
   ASSERT_TRUE(project.Open(WithDataLine(5, "3.333334E-02")));
 
-  EXPECT_EQ(project.program.WorkParms.DepthofCover, 3.333334E-02F);
+  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 3.333334E-02F);
 }
 
 TEST(ProjectFile, AUnitSystemThatIsNoneBecomesEnglish) {
@@ -185,8 +185,8 @@ TEST(ProjectFile, AnyLineEndWillDo) {
     ASSERT_TRUE(project.Open(bytes));
 
     EXPECT_EQ(project.program.ProjectTitle, "Tailgate crosscuts, panel 3");
-    EXPECT_EQ(project.program.WorkParms.SupportTypeNameSecInter, "Pumped crib \"96\"");
-    EXPECT_EQ(project.program.WorkParms.CostAdvance, 222);
+    EXPECT_EQ(project.program.WorkParms.Intersections.Standing.TypeName, "Pumped crib \"96\"");
+    EXPECT_EQ(project.program.WorkParms.Cost.Advance, 222);
   }
 }
 
@@ -195,14 +195,14 @@ class RefusedFile : public testing::TestWithParam<const char*> {};
 TEST_P(RefusedFile, IsToldAndLeavesANewProjectUnderItsName) {
   TestProject project;
   project.program.FileVersion = 102;
-  project.program.WorkParms.DepthofCover = 777;
+  project.program.WorkParms.Place.DepthofCover = 777;
   project.program.UnitsLocked = true;
 
   EXPECT_FALSE(project.Open(GetParam()));
 
   EXPECT_THAT(project.platform.boxes.Texts(), ElementsAre(RefusalText));
   EXPECT_EQ(project.platform.boxes.shown.front().style, box_style::Ok);
-  EXPECT_EQ(project.program.WorkParms.DepthofCover, 400);
+  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 400);
   EXPECT_TRUE(project.program.FileSaved);
   EXPECT_TRUE(project.program.FileEmpty);
   EXPECT_FALSE(project.program.UnitsLocked);
@@ -242,11 +242,11 @@ TEST(ProjectFile, AnEmptyFileIsTheEndOfFileError) {
 
 TEST(ProjectFile, AMissingFileIsToldByItsErrorWithANewProjectBehind) {
   TestProject project;
-  project.program.WorkParms.DepthofCover = 777;
+  project.program.WorkParms.Place.DepthofCover = 777;
 
   EXPECT_EQ(ErrorNumberOf([&] { project.Open(); }), 53);
 
-  EXPECT_EQ(project.program.WorkParms.DepthofCover, 400);
+  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 400);
   EXPECT_TRUE(project.program.FileEmpty);
 }
 
@@ -276,8 +276,8 @@ TEST(ProjectFile, FieldsReadBeforeAnErrorStay) {
 
   EXPECT_EQ(ErrorNumberOf([&] { project.Open(); }), 62);
 
-  EXPECT_EQ(project.program.WorkParms.DepthofCover, 5.25F);
-  EXPECT_EQ(project.program.WorkParms.UnitWeight, 162);
+  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 5.25F);
+  EXPECT_EQ(project.program.WorkParms.Place.UnitWeight, 162);
 }
 
 TEST(ProjectFile, AValueBeyondItsFieldIsAnOverflow) {
@@ -300,7 +300,7 @@ TEST(ProjectFile, CodePageFilesAreRead) {
 
   ASSERT_TRUE(project.Open(WithDataLine(60, "St\xFCtze \x80 5")));
 
-  EXPECT_EQ(project.program.WorkParms.SupportTypeNameSecEntry, "St\xC3\xBCtze \xE2\x82\xAC 5");
+  EXPECT_EQ(project.program.WorkParms.Entries.Standing.TypeName, "St\xC3\xBCtze \xE2\x82\xAC 5");
 }
 
 TEST(ProjectFile, Utf8FilesAreRead) {
@@ -308,14 +308,14 @@ TEST(ProjectFile, Utf8FilesAreRead) {
 
   ASSERT_TRUE(project.Open(WithDataLine(60, "\xE6\x94\xAF\xE6\x9F\xB1")));
 
-  EXPECT_EQ(project.program.WorkParms.SupportTypeNameSecEntry, "\xE6\x94\xAF\xE6\x9F\xB1");
+  EXPECT_EQ(project.program.WorkParms.Entries.Standing.TypeName, "\xE6\x94\xAF\xE6\x9F\xB1");
 }
 
 // An open project with unsaved changes, and another one chosen to be opened.
 struct ChangedProject : TestProject {
   ChangedProject() {
     FileNew(program, false, true);
-    program.WorkParms.DepthofCover = 777;
+    program.WorkParms.Place.DepthofCover = 777;
     program.FileSaved = false;
     program.PreviousFile = "/designs/previous.orb";
     File() = ReadTestData("projects/orby_104.orb");
@@ -344,7 +344,7 @@ TEST(ProjectFile, YesSavesThePreviousProjectFirst) {
   EXPECT_THAT(project.platform.files.files["/designs/previous.orb"], HasSubstr("\r\n777\r\n"));
   EXPECT_EQ(project.program.CurrentFile, ProjectPath);
   EXPECT_EQ(project.program.PreviousFile, "/designs/previous.orb");
-  EXPECT_EQ(project.program.WorkParms.DepthofCover, 5.25F);
+  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 5.25F);
 }
 
 TEST(ProjectFile, YesForAnUntitledProjectAsksForItsNameAndStillOpensTheChosenFile) {
@@ -369,7 +369,7 @@ TEST(ProjectFile, ASaveThatFailsStopsTheOpen) {
   EXPECT_THAT(project.platform.boxes.Texts(),
               ElementsAre("Save changes to: /designs/previous.orb?", "Error occurred: Permission denied (70)"));
   EXPECT_EQ(project.program.CurrentFile, "/designs/previous.orb");
-  EXPECT_EQ(project.program.WorkParms.DepthofCover, 777);
+  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 777);
   EXPECT_FALSE(project.program.FileSaved);
   EXPECT_FALSE(project.platform.windows.waitCursor);
 }
@@ -382,7 +382,7 @@ TEST(ProjectFile, ASaveThatIsCancelledStopsTheOpen) {
   EXPECT_FALSE(project.Open());
 
   EXPECT_EQ(project.program.CurrentFile, "Untitled");
-  EXPECT_EQ(project.program.WorkParms.DepthofCover, 777);
+  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 777);
   EXPECT_FALSE(project.program.FileSaved);
 }
 

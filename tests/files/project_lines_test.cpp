@@ -35,11 +35,11 @@ TEST_P(FileFormats, EveryLineLandsInItsField) {
   const Format& format = GetParam();
   TestProject project;
   FileNew(project.program, false, true);
-  const ProjectRecord fresh = project.program.WorkParms;
+  const Design fresh = project.program.WorkParms;
 
   ASSERT_TRUE(project.Open(ReadTestData(format.file)));
 
-  const ProjectRecord& record = project.program.WorkParms;
+  const Design& record = project.program.WorkParms;
   int compared = 0;
   for (const auto& row : ReadTable("projects/data_lines.tsv")) {
     const std::string& name = row.fields[1];
@@ -78,30 +78,30 @@ TEST(FileFormats, WhatAnOlderFileLacksIsInTheDefaultUnitsAndStaysWhenSavedAnew) 
   TestProject project;
   ASSERT_TRUE(project.Open(ReadTestData("projects/orby_103.orb")));
   ASSERT_EQ(project.program.Units, Metric);
-  EXPECT_EQ(project.program.WorkParms.CableCapacityManualSecEntry, 27);
+  EXPECT_EQ(project.program.WorkParms.Entries.Cable.CapacityManual, 27);
 
   ASSERT_TRUE(project.Save());
   ASSERT_TRUE(project.Open());
 
   EXPECT_EQ(project.program.FileVersion, 104);
   EXPECT_EQ(project.program.Units, Metric);
-  EXPECT_EQ(project.program.WorkParms.CableCapacityManualSecEntry, 27);
-  EXPECT_EQ(project.program.WorkParms.CableCapacityManualSecInter, 27);
-  EXPECT_EQ(project.program.WorkParms.CableCapacitySecEntry, 0);
-  EXPECT_EQ(project.program.WorkParms.BoltTableDiameterPrimary, 0);
-  EXPECT_EQ(project.program.WorkParms.BoltDescSecInter, "");
+  EXPECT_EQ(project.program.WorkParms.Entries.Cable.CapacityManual, 27);
+  EXPECT_EQ(project.program.WorkParms.Intersections.Cable.CapacityManual, 27);
+  EXPECT_EQ(project.program.WorkParms.Entries.Cable.Capacity, 0);
+  EXPECT_EQ(project.program.WorkParms.Primary.TableDiameter, 0);
+  EXPECT_EQ(project.program.WorkParms.Intersections.Bolt.Desc, "");
 }
 
 TEST(FileFormats, AnOldFileOverAProjectLeavesNothingOfItInTheMissingLines) {
   TestProject project;
   ASSERT_TRUE(project.Open(ReadTestData("projects/orby_105.orb")));
-  ASSERT_EQ(project.program.WorkParms.BoltDescPrimary, "Rebar no. 6 row 18");
+  ASSERT_EQ(project.program.WorkParms.Primary.Desc, "Rebar no. 6 row 18");
 
   ASSERT_TRUE(project.Open(ReadTestData("projects/orby_102.orb")));
 
-  EXPECT_EQ(project.program.WorkParms.BoltDescPrimary, "");
-  EXPECT_EQ(project.program.WorkParms.BoltTableDiameterSecEntry, 0);
-  EXPECT_EQ(project.program.WorkParms.CableCapacityManualSecInter, 27);
+  EXPECT_EQ(project.program.WorkParms.Primary.Desc, "");
+  EXPECT_EQ(project.program.WorkParms.Entries.Bolt.TableDiameter, 0);
+  EXPECT_EQ(project.program.WorkParms.Intersections.Cable.CapacityManual, 27);
   EXPECT_EQ(project.program.BoltStrengthMode, 0);
 }
 

@@ -36,15 +36,15 @@ rc::Gen<std::string> AnyLine(const std::string& without) {
                       });
 }
 
-void FillWithAnything(ProjectRecord& record) {
+void FillWithAnything(Design& record) {
   for (const auto& saved : SavedFields) {
     if (const auto* integer = std::get_if<IntegerField>(&saved.field)) {
-      record.** integer = *rc::gen::arbitrary<Integer>();
+      integer->In(record) = *rc::gen::arbitrary<Integer>();
     } else if (const auto* single = std::get_if<SingleField>(&saved.field)) {
-      record.** single = *AnySingle();
+      single->In(record) = *AnySingle();
     } else {
       const bool isItem = std::string_view(saved.name).starts_with("BoltDesc");
-      record.*std::get<TextField>(saved.field) = *AnyLine(isItem ? " ,\"" : "");
+      std::get<TextField>(saved.field).In(record) = *AnyLine(isItem ? " ,\"" : "");
     }
   }
 }
@@ -55,7 +55,7 @@ RC_GTEST_PROP(ProjectRoundTrip, EveryFieldSurvives, ()) {
   FillWithAnything(project.program.WorkParms);
   project.program.ProjectTitle = *AnyLine("");
   project.program.ProjectDescription = *AnyLine("\"#");
-  const ProjectRecord before = project.program.WorkParms;
+  const Design before = project.program.WorkParms;
 
   RC_ASSERT(project.Save());
   RC_ASSERT(project.Open());
@@ -63,7 +63,7 @@ RC_GTEST_PROP(ProjectRoundTrip, EveryFieldSurvives, ()) {
   for (const auto& saved : SavedFields) {
     std::string expected = ValueText(before, saved.field);
     if (std::string_view(saved.name) == "SupportTypeModeSecEntry")
-      expected = NumberText(before.SupportTypeModeSecInter);
+      expected = NumberText(before.Intersections.Standing.TypeMode);
     if (std::string_view(saved.name) == "SupportTypeModeSecInter") expected = "0";
     if (ValueText(project.program.WorkParms, saved.field) != expected) RC_FAIL(std::string(saved.name));
   }

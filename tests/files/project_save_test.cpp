@@ -27,7 +27,7 @@ struct ChangedProject : TestProject {
     FileNew(program, false, true);
     Save();
     old = File();
-    program.WorkParms.DepthofCover = 810;
+    program.WorkParms.Place.DepthofCover = 810;
     typed = ProjectFileBytes(program);
     platform.boxes.shown.clear();
   }
@@ -72,7 +72,7 @@ TEST(ProjectSave, KeepsWhatItWritesOver) {
 
 TEST(ProjectSave, KeepsNothingOfAProjectThatIsTheSame) {
   ChangedProject project;
-  project.program.WorkParms.DepthofCover = 400;
+  project.program.WorkParms.Place.DepthofCover = 400;
 
   EXPECT_TRUE(project.Save());
 
@@ -132,7 +132,7 @@ TEST(ProjectSave, KeepsAndTellsWhatAnotherProgramWroteMeanwhile) {
 TEST(ProjectSave, KnowsTheFileThatItOpened) {
   ChangedProject project;
   project.Open();
-  project.program.WorkParms.DepthofCover = 820;
+  project.program.WorkParms.Place.DepthofCover = 820;
 
   EXPECT_TRUE(project.Save());
 
@@ -163,7 +163,7 @@ TEST(ProjectSave, SaysNothingOfAChangeThatIsTheSame) {
 TEST(ProjectSave, KnowsItsOwnFileFromTheLastSave) {
   ChangedProject project;
   project.Save();
-  project.program.WorkParms.DepthofCover = 820;
+  project.program.WorkParms.Place.DepthofCover = 820;
 
   EXPECT_TRUE(project.Save());
 
@@ -358,7 +358,7 @@ TEST(ProjectSave, WithoutRoomForABackupGoesOnAndTellsOnce) {
   project.platform.files.Fail(Step::Rename, error_number::DiskFull);
 
   EXPECT_TRUE(project.Save());
-  project.program.WorkParms.DepthofCover = 820;
+  project.program.WorkParms.Place.DepthofCover = 820;
   EXPECT_TRUE(project.Save());
 
   EXPECT_THAT(project.platform.boxes.Texts(),
@@ -462,7 +462,7 @@ TEST(ProjectSave, ATemporaryFileThatFailsDoesNotStopTheSaveAndDoesNotStay) {
 
 TEST(ProjectSave, NamesTheFieldsThatWouldNotComeBack) {
   ChangedProject project;
-  project.program.WorkParms.BoltDescSecInter = "#6 rebar, grade 60";
+  project.program.WorkParms.Intersections.Bolt.Desc = "#6 rebar, grade 60";
 
   EXPECT_TRUE(project.Save());
 

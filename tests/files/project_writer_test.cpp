@@ -53,13 +53,13 @@ TEST(ProjectWriter, TheHeaderHoldsUnitsStrengthModeTableChoiceTitleAndDescriptio
 
 TEST(ProjectWriter, NumbersAreGeneralTextWithAPoint) {
   NewProject project;
-  ProjectRecord& record = project.program.WorkParms;
-  record.DepthofCover = 12.5F;
-  record.UnitWeight = 0.7F;
-  record.ActualSpanDiagonals = 1.0F / 30;
-  record.EntryWidth = -0.0F;
-  record.StabilityFactor = 1E7F;
-  record.CMRR = -3;
+  Design& record = project.program.WorkParms;
+  record.Place.DepthofCover = 12.5F;
+  record.Place.UnitWeight = 0.7F;
+  record.Place.ActualSpanDiagonals = 1.0F / 30;
+  record.Place.EntryWidth = -0.0F;
+  record.Primary.StabilityFactor = 1E7F;
+  record.Place.CMRR = -3;
 
   const std::string bytes = ProjectFileBytes(project.program);
 
@@ -73,8 +73,8 @@ TEST(ProjectWriter, NumbersAreGeneralTextWithAPoint) {
 
 TEST(ProjectWriter, TheLastTwoLinesArePadded) {
   NewProject project;
-  project.program.WorkParms.CostProduction = 0;
-  project.program.WorkParms.CostAdvance = -1;
+  project.program.WorkParms.Cost.Production = 0;
+  project.program.WorkParms.Cost.Advance = -1;
 
   const std::string bytes = ProjectFileBytes(project.program);
 
@@ -85,8 +85,8 @@ TEST(ProjectWriter, TheLastTwoLinesArePadded) {
 
 TEST(ProjectWriter, BothSupportModesAreWritten) {
   NewProject project;
-  project.program.WorkParms.SupportTypeModeSecEntry = 0;
-  project.program.WorkParms.SupportTypeModeSecInter = 1;
+  project.program.WorkParms.Entries.Standing.TypeMode = 0;
+  project.program.WorkParms.Intersections.Standing.TypeMode = 1;
 
   const std::string bytes = ProjectFileBytes(project.program);
 
@@ -96,17 +96,17 @@ TEST(ProjectWriter, BothSupportModesAreWritten) {
 
 TEST(ProjectWriter, ComputedFieldsAreNotInTheFile) {
   NewProject project;
-  project.program.WorkParms.RockLoadEntry1 = 98765;
-  project.program.WorkParms.StabFactorInter4 = 98765;
-  project.program.WorkParms.SupportCapEntry2 = 98765;
+  project.program.WorkParms.Entries.RockLoad = 98765;
+  project.program.WorkParms.Intersections.Standing.StabFactor = 98765;
+  project.program.WorkParms.Entries.Truss.SupportCap = 98765;
 
   EXPECT_EQ(ProjectFileBytes(project.program), ReadTestData("projects/new_english.orb"));
 }
 
 TEST(ProjectWriter, TextsAreWrittenRaw) {
   NewProject project;
-  project.program.WorkParms.BoltDescPrimary = " Rebar, \"no. 6\" ";
-  project.program.WorkParms.SupportTypeNameSecInter = "Crib, 4-point";
+  project.program.WorkParms.Primary.Desc = " Rebar, \"no. 6\" ";
+  project.program.WorkParms.Intersections.Standing.TypeName = "Crib, 4-point";
 
   const std::string bytes = ProjectFileBytes(project.program);
 
@@ -132,7 +132,7 @@ TEST(ProjectWriter, OneCharacterOutsideTheCodePageMakesTheWholeFileUtf8) {
   project.program.ProjectTitle =
       "Gr\xC3\xBC"
       "be";
-  project.program.WorkParms.SupportTypeNameSecInter = "\xE6\x94\xAF\xE6\x9F\xB1";
+  project.program.WorkParms.Intersections.Standing.TypeName = "\xE6\x94\xAF\xE6\x9F\xB1";
 
   project.Save();
 

@@ -25,8 +25,8 @@ TEST(ReadBack, ANewProjectComesBackWhole) {
 
 TEST(ReadBack, TheFieldsThatTheFormatReadsIntoOthersAreLeftOut) {
   NewProject project;
-  project.program.WorkParms.SupportTypeModeSecEntry = 1;
-  project.program.WorkParms.SupportTypeModeSecInter = 0;
+  project.program.WorkParms.Entries.Standing.TypeMode = 1;
+  project.program.WorkParms.Intersections.Standing.TypeMode = 0;
 
   EXPECT_THAT(project.Differing(), IsEmpty());
 }
@@ -41,21 +41,21 @@ TEST(ReadBack, TheShiftedHeaderChangesNoField) {
 
 TEST(ReadBack, AQuotedDescriptionOfABoltLosesItsQuotesAlone) {
   NewProject project;
-  project.program.WorkParms.BoltDescPrimary = "\"No. 6\"";
+  project.program.WorkParms.Primary.Desc = "\"No. 6\"";
 
   EXPECT_THAT(project.Differing(), ElementsAre("primary bolt description"));
 }
 
 TEST(ReadBack, BlanksBeforeTheDescriptionOfABoltAreLost) {
   NewProject project;
-  project.program.WorkParms.BoltDescSecEntry = "  rebar";
+  project.program.WorkParms.Entries.Bolt.Desc = "  rebar";
 
   EXPECT_THAT(project.Differing(), ElementsAre("entry bolt description"));
 }
 
 TEST(ReadBack, AnUnclosedQuoteTakesAllThatFollows) {
   NewProject project;
-  project.program.WorkParms.BoltDescSecInter = "\"No. 6";
+  project.program.WorkParms.Intersections.Bolt.Desc = "\"No. 6";
 
   // All fields of the intersections from the description on, without the one that has no field of its own.
   EXPECT_EQ(project.Differing().size(), 35U);

@@ -62,35 +62,35 @@ TEST_F(RecoveryFile, GoesOnWithTheDataLinesOfTheProjectFile) {
 
 TEST_F(RecoveryFile, TakesAnEditedDesignAsItsCommitWould) {
   project.program.FileEmpty = true;
-  ProjectRecord design = project.program.WorkParms;
-  design.DepthofCover = 725;
+  Design design = project.program.WorkParms;
+  design.Place.DepthofCover = 725;
 
   const UnsavedProject edited = EditedProject(project.program, design);
 
-  EXPECT_EQ(edited.WorkParms.DepthofCover, 725);
+  EXPECT_EQ(edited.WorkParms.Place.DepthofCover, 725);
   EXPECT_FALSE(edited.FileEmpty);
   EXPECT_TRUE(edited.UnitsLocked);
-  EXPECT_EQ(project.program.WorkParms.DepthofCover, 400);
+  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 400);
 }
 
 TEST_F(RecoveryFile, BringsTheModeOfTheIntersectionsStandingSupportBackIntoItsOwnField) {
-  project.program.WorkParms.SupportTypeModeSecEntry = 0;
-  project.program.WorkParms.SupportTypeModeSecInter = 1;
+  project.program.WorkParms.Entries.Standing.TypeMode = 0;
+  project.program.WorkParms.Intersections.Standing.TypeMode = 1;
 
   const auto read = ReadRecovery(Bytes());
 
   ASSERT_TRUE(read.has_value());
-  EXPECT_EQ(read->WorkParms.SupportTypeModeSecEntry, 0);
-  EXPECT_EQ(read->WorkParms.SupportTypeModeSecInter, 1);
+  EXPECT_EQ(read->WorkParms.Entries.Standing.TypeMode, 0);
+  EXPECT_EQ(read->WorkParms.Intersections.Standing.TypeMode, 1);
 }
 
 TEST_F(RecoveryFile, KeepsCommasAndQuotesOfABoltDescription) {
-  project.program.WorkParms.BoltDescPrimary = "  #6, 3/4\" \"forged\", 5' long\\";
+  project.program.WorkParms.Primary.Desc = "  #6, 3/4\" \"forged\", 5' long\\";
 
   const auto read = ReadRecovery(Bytes());
 
   ASSERT_TRUE(read.has_value());
-  EXPECT_EQ(read->WorkParms.BoltDescPrimary, "  #6, 3/4\" \"forged\", 5' long\\");
+  EXPECT_EQ(read->WorkParms.Primary.Desc, "  #6, 3/4\" \"forged\", 5' long\\");
 }
 
 TEST_F(RecoveryFile, IsUtf8EvenWhereTheCodePageWouldDo) {
@@ -118,7 +118,7 @@ TEST_F(RecoveryFile, KeepsAPathThatIsNotUtf8) {
 TEST_F(RecoveryFile, RestoresAnUnsavedProjectUnderItsOldName) {
   project.program.ProjectTitle = "Panel 3";
   project.program.ProjectDescription = "\r\n  a line, kept as it is\r\n\r\n";
-  project.program.WorkParms.DepthofCover = 725;
+  project.program.WorkParms.Place.DepthofCover = 725;
   project.program.UnitsLocked = true;
   const auto read = ReadRecovery(Bytes());
   ASSERT_TRUE(read.has_value());
@@ -130,7 +130,7 @@ TEST_F(RecoveryFile, RestoresAnUnsavedProjectUnderItsOldName) {
   EXPECT_EQ(next.program.CurrentFile, "/designs/panel3.orb");
   EXPECT_EQ(next.program.ProjectTitle, "Panel 3");
   EXPECT_EQ(next.program.ProjectDescription, "\r\n  a line, kept as it is\r\n\r\n");
-  EXPECT_EQ(next.program.WorkParms.DepthofCover, 725);
+  EXPECT_EQ(next.program.WorkParms.Place.DepthofCover, 725);
   EXPECT_FALSE(next.program.FileSaved);
   EXPECT_FALSE(next.program.FileEmpty);
   EXPECT_TRUE(next.program.UnitsLocked);
@@ -146,8 +146,8 @@ TEST(RecoveryFileOnDisk, IsReadWholeAndWrittenAlike) {
   EXPECT_EQ(project->ProjectTitle, "Panel 3");
   EXPECT_EQ(project->ProjectDescription, "Weak roof\r\nunder the \\ north mains");
   EXPECT_TRUE(project->UnitsLocked);
-  EXPECT_EQ(project->WorkParms.CMRR, 25);
-  EXPECT_EQ(project->WorkParms.DepthofCover, 1200);
+  EXPECT_EQ(project->WorkParms.Place.CMRR, 25);
+  EXPECT_EQ(project->WorkParms.Place.DepthofCover, 1200);
   EXPECT_EQ(RecoveryBytes(*project), bytes);
 }
 
@@ -232,11 +232,11 @@ UnsavedProject AnyProject() {
   project.UnitsLocked = *rc::gen::arbitrary<bool>();
   for (const auto& saved : SavedFields) {
     if (const auto* integer = std::get_if<IntegerField>(&saved.field)) {
-      project.WorkParms.** integer = *rc::gen::arbitrary<Integer>();
+      integer->In(project.WorkParms) = *rc::gen::arbitrary<Integer>();
     } else if (const auto* single = std::get_if<SingleField>(&saved.field)) {
-      project.WorkParms.** single = *AnySingle();
+      single->In(project.WorkParms) = *AnySingle();
     } else {
-      project.WorkParms.*std::get<TextField>(saved.field) = *AnyText();
+      std::get<TextField>(saved.field).In(project.WorkParms) = *AnyText();
     }
   }
   return project;

@@ -22,7 +22,7 @@ struct BackupsView : GuiTest {
   void KeepThree() {
     for (const Single depth : {710.0F, 720.0F, 730.0F}) {
       program.CurrentFile = "/designs/panel at " + std::to_string(static_cast<int>(depth)) + ".orb";
-      program.WorkParms.DepthofCover = depth;
+      program.WorkParms.Place.DepthofCover = depth;
       KeepDropped(program, CommittedProject(program), BackupReason::Dropped);
     }
   }
@@ -68,7 +68,7 @@ TEST_F(BackupsView, OpensTheOneThatTheArrowKeysReachWithEnter) {
   });
 
   ASSERT_TRUE(backups.Chosen);
-  EXPECT_EQ(backups.Chosen->WorkParms.DepthofCover, 710);
+  EXPECT_EQ(backups.Chosen->WorkParms.Place.DepthofCover, 710);
 }
 
 TEST_F(BackupsView, DeletesTheSelectedOneByItsLetterAndGoesToTheNext) {

@@ -48,18 +48,18 @@ TEST_F(ConvertView, OpensWithTheChoiceThatAConversionMakes) {
 }
 
 TEST_F(ConvertView, ConvertsAndCloses) {
-  program.WorkParms.DepthofCover = 400;
+  program.WorkParms.Place.DepthofCover = 400;
 
   Convert();
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Conversion Completed: The conversion form will be closed"));
   EXPECT_EQ(program.Units, Metric);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 121.92F);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 121.92F);
   EXPECT_EQ(program.CurrentFile, "Metric_panel3.ORB");
 }
 
 TEST_F(ConvertView, ConvertsBackByTheEnterKey) {
-  program.WorkParms.DepthofCover = 400;
+  program.WorkParms.Place.DepthofCover = 400;
   Convert();
   ConvertDialog dialog(program);
 
@@ -69,7 +69,7 @@ TEST_F(ConvertView, ConvertsBackByTheEnterKey) {
   });
 
   EXPECT_EQ(program.Units, English);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
   EXPECT_EQ(program.CurrentFile, "English_Metric_panel3.ORB");
 }
 

@@ -56,12 +56,12 @@ TEST_F(CostView, IsFilledInAndAcceptedByTheKeyboardAlone) {
     EXPECT_FALSE(window.isVisible());
   });
 
-  const CostGroup& cost = program.WorkParms.Cost();
-  EXPECT_EQ(cost.CostBoltCost, 3.25F);
-  EXPECT_EQ(cost.CostPlateCost, 1.1F);
-  EXPECT_EQ(cost.CostAdvance, 0);
-  EXPECT_EQ(cost.CostProduction, 1);
-  EXPECT_EQ(cost.CostAdvanceRate, 4.6F);
+  const CostInputs& cost = program.WorkParms.Cost;
+  EXPECT_EQ(cost.BoltCost, 3.25F);
+  EXPECT_EQ(cost.PlateCost, 1.1F);
+  EXPECT_EQ(cost.Advance, 0);
+  EXPECT_EQ(cost.Production, 1);
+  EXPECT_EQ(cost.AdvanceRate, 4.6F);
   EXPECT_FALSE(program.FileSaved);
 }
 
@@ -71,7 +71,7 @@ TEST_F(CostView, ForgetsTheTypedCostsOnEscape) {
     Press(Qt::Key_Escape);
   });
 
-  EXPECT_EQ(program.WorkParms.Cost().CostBoltCost, 3);
+  EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3);
   EXPECT_TRUE(program.FileSaved);
 }
 
@@ -81,7 +81,7 @@ TEST_F(CostView, ForgetsTheTypedCostsWhenItsWindowIsClosed) {
     window.close();
   });
 
-  EXPECT_EQ(program.WorkParms.Cost().CostBoltCost, 3);
+  EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3);
   EXPECT_FALSE(dialog.IsOpen());
 }
 

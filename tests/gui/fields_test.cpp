@@ -30,7 +30,7 @@ class Fields : public GuiTest {
  protected:
   // Shows the parameters with their primary support opened; they are cancelled after the script.
   void Work(const ModalScripts::Script& script) {
-    program.WorkParms.PrimSupport = 1;
+    program.WorkParms.Primary.Analysed = 1;
     Use(dialog, [&](QDialog& window) {
       script(window);
       Settle();
@@ -75,8 +75,8 @@ TEST_F(Fields, TakeTheItemThatIsChosenOfTwoWithOneName) {
   program.catalogs.StandSupports.DefaultStandSupportType[2] = "Steel Prop";
   program.catalogs.StandSupports.DefaultStandSupportCap[1] = {60, 534};
   program.catalogs.StandSupports.DefaultStandSupportCap[2] = {85, 756};
-  program.WorkParms.SecondSupEntries = 1;
-  program.WorkParms.SecEntryUseStanding = 1;
+  program.WorkParms.Entries.Analysed = 1;
+  program.WorkParms.Entries.Standing.Use = 1;
   Work([this](QDialog& window) {
     dialog.SSTab1.SetTab(EntriesTab);
     dialog.SSTab2.SetTab(3);
@@ -292,8 +292,8 @@ TEST_F(Fields, KeepTheMarkOfABoltThatIsClickedWithTheControlKey) {
 }
 
 TEST_F(Fields, KeepTheMarkOfABoltWhenTheSpaceBelowTheTableIsClicked) {
-  program.WorkParms.SecondSupEntries = 1;
-  program.WorkParms.SecEntryUseBolt = 1;
+  program.WorkParms.Entries.Analysed = 1;
+  program.WorkParms.Entries.Bolt.Use = 1;
   Work([this](QDialog& window) {
     dialog.SSTab1.SetTab(EntriesTab);
     dialog.SSTab2.SetTab(2);

@@ -337,9 +337,9 @@ TEST_F(ParametersView, ShowsATypedCableCapacityInPlaceOfTheListWithoutMovingAnyt
 
 // Some styles of the desktop give a list more height than a field.
 TEST_F(ParametersView, KeepsThePlaceOfAListThatIsTallerThanTheFieldThatReplacesIt) {
-  program.WorkParms.SecondSupEntries = 1;
-  program.WorkParms.SecEntryUseCable = 1;
-  program.WorkParms.CableCapModeSecEntry = 1;
+  program.WorkParms.Entries.Analysed = 1;
+  program.WorkParms.Entries.Cable.Use = 1;
+  program.WorkParms.Entries.Cable.CapMode = 1;
   Work([this](QDialog& window) {
     PressLetterOfTab(window, "SSTab1", EntriesTab);
     auto& list = Find<QComboBox>(window, "cmbCableCapacitySecEntry");
@@ -375,7 +375,7 @@ class ManualBolt : public ParametersView {
  protected:
   // On the primary page with a bolt chosen by diameter and grade.
   void WorkOnIt(const ModalScripts::Script& script) {
-    program.WorkParms.BoltOptionsPrimary = 1;
+    program.WorkParms.Primary.Options = 1;
     Work([&](QDialog& window) {
       OpenPage(window, "chkPrimSupport", PrimaryTab);
       Find(window, "cmbBoltDiameterPrimary").setFocus(Qt::TabFocusReason);
@@ -467,12 +467,12 @@ TEST_F(ParametersView, CommitsOnEnter) {
     EXPECT_FALSE(window.isVisible());
   });
 
-  EXPECT_EQ(program.WorkParms.DepthofCover, 725);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 725);
   EXPECT_FALSE(program.FileSaved);
 }
 
 TEST_F(ParametersView, ForgetsTheTypedValuesOnEscape) {
-  const Single depth = program.WorkParms.DepthofCover;
+  const Single depth = program.WorkParms.Place.DepthofCover;
 
   Use(dialog, [](QDialog& window) {
     TypeInto(window, "txtDepthofCover", "725");
@@ -480,7 +480,7 @@ TEST_F(ParametersView, ForgetsTheTypedValuesOnEscape) {
     EXPECT_FALSE(window.isVisible());
   });
 
-  EXPECT_EQ(program.WorkParms.DepthofCover, depth);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, depth);
   EXPECT_TRUE(program.FileSaved);
   EXPECT_EQ(program.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Not Modified\r\n");
 }

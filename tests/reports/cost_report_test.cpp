@@ -10,8 +10,8 @@ namespace {
 
 // The desk of a new English design whose costs are those that the cost dialog opens with.
 struct CostDesk : Desk {
-  CostDesk() { Costs() = program.WorkParms.Cost(); }
-  CostGroup& Costs() { return program.WorkParmsCopy.Cost(); }
+  CostDesk() { Costs() = program.WorkParms.Cost; }
+  CostInputs& Costs() { return program.WorkParmsCopy.Cost; }
   std::string Page() {
     EXPECT_TRUE(CostReport(program));
     return program.OutBuf[1];
@@ -53,14 +53,14 @@ TEST(CostReport, ReplacesTheCalculationsAndBecomesTheLastPage) {
 
 TEST(CostReport, ShowsTheCostsAsEditedNotAsCommitted) {
   CostDesk desk;
-  desk.program.WorkParms.CostBoltCost = 100;
+  desk.program.WorkParms.Cost.BoltCost = 100;
 
   EXPECT_EQ(desk.Row("TOTAL COST:"), "TOTAL COST:                  9.22      9.22   2766.17      2.31");
 }
 
 TEST(CostReport, NoRowSpacingLeavesCostsPerFootAndPerTonAtZero) {
   CostDesk desk;
-  desk.Costs().CostRowSpacing = 0;
+  desk.Costs().RowSpacing = 0;
 
   EXPECT_EQ(desk.Row("Consumables Cost:"), "Consumables Cost:            5.72      0.00   1717.00      0.00");
   EXPECT_EQ(desk.Row("TOTAL COST:"), "TOTAL COST:                  9.22      0.00   2766.17      0.00");
@@ -68,7 +68,7 @@ TEST(CostReport, NoRowSpacingLeavesCostsPerFootAndPerTonAtZero) {
 
 TEST(CostReport, NoShiftsLeavesMaintenanceAndOwnershipAtZero) {
   CostDesk desk;
-  desk.Costs().CostShiftsWeek = 0;
+  desk.Costs().ShiftsWeek = 0;
 
   EXPECT_EQ(desk.Row("Maintenance Cost:"), "Maintenance Cost:            0.00      0.00      0.00      0.00");
   EXPECT_EQ(desk.Row("Transportation Cost:"), "Transportation Cost:         0.33      0.33    100.00      0.08");
@@ -77,7 +77,7 @@ TEST(CostReport, NoShiftsLeavesMaintenanceAndOwnershipAtZero) {
 
 TEST(CostReport, NoYearsOfDepreciationLeavesOwnershipAloneAtZero) {
   CostDesk desk;
-  desk.Costs().CostYearsDepr = 0;
+  desk.Costs().YearsDepr = 0;
 
   EXPECT_EQ(desk.Row("Maintenance Cost:"), "Maintenance Cost:            0.19      0.19     55.83      0.05");
   EXPECT_EQ(desk.Row("Machine Ownership Cost:"), "Machine Ownership Cost:      0.00      0.00      0.00      0.00");
@@ -87,16 +87,16 @@ TEST(CostReport, TheAdvanceFieldsOfTheDialogTakeNoPart) {
   CostDesk desk;
   const std::string before = desk.Page();
 
-  desk.Costs().CostAdvance = 0;
-  desk.Costs().CostAdvanceShift = 77;
+  desk.Costs().Advance = 0;
+  desk.Costs().AdvanceShift = 77;
 
   EXPECT_EQ(desk.Page(), before);
 }
 
 TEST(CostReport, AFigureWiderThanItsColumnStandsUncut) {
   CostDesk desk;
-  desk.Costs().CostBoltCost = 0;
-  desk.Costs().CostTranspCost = 123456792;
+  desk.Costs().BoltCost = 0;
+  desk.Costs().TranspCost = 123456792;
 
   EXPECT_EQ(desk.Row("Transportation Cost:"), "Transportation Cost:    411522.60 411522.60123456800.00 102880.70");
 }
@@ -104,7 +104,7 @@ TEST(CostReport, AFigureWiderThanItsColumnStandsUncut) {
 TEST(CostReport, AFigureBeyondASingleEndsTheReportAndKeepsThePage) {
   CostDesk desk;
   desk.program.OutBuf[1] = "as it was";
-  desk.Costs().CostTotalLabor = 3e38F;
+  desk.Costs().TotalLabor = 3e38F;
 
   EXPECT_EQ(ErrorNumberOf([&] { CostReport(desk.program); }), 6);
   EXPECT_EQ(desk.program.OutBuf[1], "as it was");

@@ -13,19 +13,20 @@ Desk::Desk(Integer units, Integer strengthMode) : program(machine.Doors()) {
   FileNew(program, true, true);
 }
 
-void PickBolt(ProjectRecord& record, Single diameter, Single grade) {
-  for (const BoltFields* set : {&PrimaryBolt, &SecEntryBolt, &SecInterBolt}) {
-    record.*set->Options = 1;
-    record.*set->DiameterMode = 0;
-    record.*set->DiameterStd = diameter;
-    record.*set->GradeMode = 0;
-    record.*set->GradeStd = grade;
+void PickBolt(Design& record, Single diameter, Single grade) {
+  for (BoltSelection* set : record.BoltSets()) {
+    set->Options = 1;
+    set->DiameterMode = 0;
+    set->DiameterStd = diameter;
+    set->GradeMode = 0;
+    set->GradeStd = grade;
   }
 }
 
-void UseEverySystem(ProjectRecord& record, Integer flag) {
-  record.SecEntryUseCable = record.SecEntryUseTruss = record.SecEntryUseBolt = record.SecEntryUseStanding = flag;
-  record.SecInterUseCable = record.SecInterUseTruss = record.SecInterUseBolt = record.SecInterUseStanding = flag;
+void UseEverySystem(Design& record, Integer flag) {
+  record.Entries.Cable.Use = record.Entries.Truss.Use = record.Entries.Bolt.Use = record.Entries.Standing.Use = flag;
+  record.Intersections.Cable.Use = record.Intersections.Truss.Use = record.Intersections.Bolt.Use =
+      record.Intersections.Standing.Use = flag;
 }
 
 std::vector<std::string> LinesOf(const std::string& page) {

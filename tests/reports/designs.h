@@ -19,10 +19,10 @@ struct Desk {
 };
 
 // Picks this bolt by hand in all three sets, in the project's units.
-void PickBolt(ProjectRecord& record, Single diameter, Single grade);
+void PickBolt(Design& record, Single diameter, Single grade);
 
 // Gives the flag of every system of secondary support this value; 1 switches them on.
-void UseEverySystem(ProjectRecord& record, Integer flag = 1);
+void UseEverySystem(Design& record, Integer flag = 1);
 
 // The lines of a page without their ends; a line end that is not CR LF stays in its line.
 std::vector<std::string> LinesOf(const std::string& page);

@@ -64,9 +64,9 @@ TEST(InputEcho, ALongFileNameWithoutBlanksIsCutToItsEnd) {
 
 TEST(InputEcho, WithAllAnalysesOffThePageEndsBehindTheOptions) {
   Desk desk;
-  desk.program.WorkParms.PrimSupport = 0;
-  desk.program.WorkParms.SecondSupEntries = 0;
-  desk.program.WorkParms.SecondSupInter = 0;
+  desk.program.WorkParms.Primary.Analysed = 0;
+  desk.program.WorkParms.Entries.Analysed = 0;
+  desk.program.WorkParms.Intersections.Analysed = 0;
 
   const std::string page = InputPage(desk);
 
@@ -76,8 +76,8 @@ TEST(InputEcho, WithAllAnalysesOffThePageEndsBehindTheOptions) {
 TEST(InputEcho, AnAnalysisIsMadeWhenItsFlagIsOneAndNothingElse) {
   for (const Integer flag : std::array<Integer, 2>{2, -1}) {
     Desk desk;
-    ProjectRecord& record = desk.program.WorkParms;
-    record.PrimSupport = record.SecondSupEntries = record.SecondSupInter = flag;
+    Design& record = desk.program.WorkParms;
+    record.Primary.Analysed = record.Entries.Analysed = record.Intersections.Analysed = flag;
 
     EXPECT_TRUE(
         InputPage(desk).ends_with("[ROOF SUPPORT ANALYSIS OPTIONS]\r\n"
@@ -91,7 +91,7 @@ TEST(InputEcho, AnAnalysisIsMadeWhenItsFlagIsOneAndNothingElse) {
 TEST(InputEcho, ASystemIsInUseWhenItsFlagIsOneAndNothingElse) {
   for (const Integer flag : std::array<Integer, 2>{2, -1}) {
     Desk desk;
-    desk.program.WorkParms.PrimSupport = 0;
+    desk.program.WorkParms.Primary.Analysed = 0;
     UseEverySystem(desk.program.WorkParms, flag);
 
     const std::string page = InputPage(desk);
@@ -111,15 +111,15 @@ TEST(InputEcho, ASystemIsInUseWhenItsFlagIsOneAndNothingElse) {
 
 TEST(InputEcho, IntersectionsAloneStillStandBehindAnEmptyLine) {
   Desk desk;
-  desk.program.WorkParms.PrimSupport = 0;
-  desk.program.WorkParms.SecondSupEntries = 0;
+  desk.program.WorkParms.Primary.Analysed = 0;
+  desk.program.WorkParms.Entries.Analysed = 0;
 
   EXPECT_NE(InputPage(desk).find("...YES\r\n\r\n\r\n\r\n[SECONDARY INTERSECTION SUPPORT]\r\n"), std::string::npos);
 }
 
 TEST(InputEcho, ARatingTypedByHandNamesNeitherRegionNorRock) {
   Desk desk;
-  desk.program.WorkParms.CMRRManual = 1;
+  desk.program.WorkParms.Place.CMRRManual = 1;
 
   EXPECT_THAT(Geology(desk),
               ElementsAre("CMRR......................................................45",
@@ -131,9 +131,9 @@ TEST(InputEcho, ARatingTypedByHandNamesNeitherRegionNorRock) {
 
 TEST(InputEcho, ARatingIsTypedByHandInModeOneAlone) {
   Desk desk;
-  desk.program.WorkParms.CMRRManual = 2;
-  desk.program.WorkParms.CMRRRegionIndex = 5;
-  desk.program.WorkParms.CMRRRockTypeIndex = 3;
+  desk.program.WorkParms.Place.CMRRManual = 2;
+  desk.program.WorkParms.Place.CMRRRegionIndex = 5;
+  desk.program.WorkParms.Place.CMRRRockTypeIndex = 3;
 
   EXPECT_THAT(Geology(desk), IsSupersetOf({"CMRR Region..................................Other Western",
                                            "CMRR Rock Type............................Bedded Sandstone"}));
@@ -142,7 +142,7 @@ TEST(InputEcho, ARatingIsTypedByHandInModeOneAlone) {
 TEST(InputEcho, ARegionOutsideTheTableHasNoRowsAtAll) {
   for (const Integer region : std::array<Integer, 2>{-1, 6}) {
     Desk desk;
-    desk.program.WorkParms.CMRRRegionIndex = region;
+    desk.program.WorkParms.Place.CMRRRegionIndex = region;
 
     EXPECT_THAT(Geology(desk),
                 ElementsAre("CMRR......................................................45",
@@ -154,8 +154,8 @@ TEST(InputEcho, ARegionOutsideTheTableHasNoRowsAtAll) {
 TEST(InputEcho, ARockTypeOutsideTheTableHasNoRow) {
   for (const Integer rockType : std::array<Integer, 2>{-1, 8}) {
     Desk desk;
-    desk.program.WorkParms.CMRRRegionIndex = 5;
-    desk.program.WorkParms.CMRRRockTypeIndex = rockType;
+    desk.program.WorkParms.Place.CMRRRegionIndex = 5;
+    desk.program.WorkParms.Place.CMRRRockTypeIndex = rockType;
 
     const auto geology = Geology(desk);
 
@@ -166,8 +166,8 @@ TEST(InputEcho, ARockTypeOutsideTheTableHasNoRow) {
 
 TEST(InputEcho, TheEighthRockTypeOfARegionWithSevenHasNoName) {
   Desk desk;
-  desk.program.WorkParms.CMRRRegionIndex = 5;
-  desk.program.WorkParms.CMRRRockTypeIndex = 7;
+  desk.program.WorkParms.Place.CMRRRegionIndex = 5;
+  desk.program.WorkParms.Place.CMRRRockTypeIndex = 7;
 
   EXPECT_THAT(Geology(desk), Contains("CMRR Rock Type............................................"));
 }
@@ -190,12 +190,12 @@ TEST(InputEcho, ANewProjectHasNoBoltYet) {
 
 TEST(InputEcho, ABoltTypedByHandIsTheTypedOne) {
   Desk desk;
-  ProjectRecord& record = desk.program.WorkParms;
+  Design& record = desk.program.WorkParms;
   PickBolt(record, 0.75F, 75);
-  record.BoltDiameterModePrimary = 1;
-  record.BoltDiameterManualPrimary = 1.125F;
-  record.BoltGradeModePrimary = 1;
-  record.BoltGradeManualPrimary = 62.5F;
+  record.Primary.DiameterMode = 1;
+  record.Primary.DiameterManual = 1.125F;
+  record.Primary.GradeMode = 1;
+  record.Primary.GradeManual = 62.5F;
 
   const std::string page = InputPage(desk);
 
@@ -208,10 +208,10 @@ TEST(InputEcho, ABoltTypedByHandIsTheTypedOne) {
 
 TEST(InputEcho, AnUnknownBoltOptionReadsManualButTakesTheTableRow) {
   Desk desk;
-  ProjectRecord& record = desk.program.WorkParms;
-  record.BoltOptionsPrimary = 2;
-  record.BoltTableDiameterPrimary = 0.625F;
-  record.BoltTableGradePrimary = 60;
+  Design& record = desk.program.WorkParms;
+  record.Primary.Options = 2;
+  record.Primary.TableDiameter = 0.625F;
+  record.Primary.TableGrade = 60;
 
   const std::string page = InputPage(desk);
 
@@ -222,14 +222,14 @@ TEST(InputEcho, AnUnknownBoltOptionReadsManualButTakesTheTableRow) {
 
 TEST(InputEcho, ALongBoltDescriptionJoinsItsLabelWithoutADot) {
   Desk desk;
-  desk.program.WorkParms.BoltDescPrimary = "fully grouted rebar, grade 60, M22 threads";
+  desk.program.WorkParms.Primary.Desc = "fully grouted rebar, grade 60, M22 threads";
 
   EXPECT_THAT(LinesOf(InputPage(desk)), Contains("Bolt Descriptionfully grouted rebar, grade 60, M22 threads"));
 }
 
 TEST(InputEcho, MetricGradesMeantAsUltimateStrengthsDifferBetweenPrimaryAndSecondaryBolts) {
   Desk desk(Metric, 1);
-  ProjectRecord& record = desk.program.WorkParms;
+  Design& record = desk.program.WorkParms;
   PickBolt(record, 20, 690);
   UseEverySystem(record);
 
@@ -268,11 +268,11 @@ TEST(InputEcho, GradesOfAnUnknownKindAreConvertedLikeUltimateStrengthsButNotCall
 
 TEST(InputEcho, TheCapacityOfACableIsTheSelectedFieldEvenWhenItGoesByTheDiameter) {
   Desk desk;
-  ProjectRecord& record = desk.program.WorkParms;
-  record.SecondSupInter = 0;
-  record.CableCapacitySecEntry = 1;
-  record.CableCapacityStdSecEntry = 26.4F;
-  record.CableCapacityManualSecEntry = 29.5F;
+  Design& record = desk.program.WorkParms;
+  record.Intersections.Analysed = 0;
+  record.Entries.Cable.Capacity = 1;
+  record.Entries.Cable.CapacityStd = 26.4F;
+  record.Entries.Cable.CapacityManual = 29.5F;
 
   const std::string page = InputPage(desk);
 
@@ -282,9 +282,9 @@ TEST(InputEcho, TheCapacityOfACableIsTheSelectedFieldEvenWhenItGoesByTheDiameter
 
 TEST(InputEcho, ACableOfGivenCapacityHasNoDiameter) {
   Desk desk;
-  ProjectRecord& record = desk.program.WorkParms;
-  record.SecondSupInter = 0;
-  record.CableCapModeSecEntry = 1;
+  Design& record = desk.program.WorkParms;
+  record.Intersections.Analysed = 0;
+  record.Entries.Cable.CapMode = 1;
 
   const std::string page = InputPage(desk);
 
@@ -294,11 +294,11 @@ TEST(InputEcho, ACableOfGivenCapacityHasNoDiameter) {
 
 TEST(InputEcho, ACableOfAnUnknownKindIsOfTheCapacityTypedIn) {
   Desk desk;
-  ProjectRecord& record = desk.program.WorkParms;
-  record.SecondSupInter = 0;
-  record.CableCapModeSecEntry = 2;
-  record.CableCapacitySecEntry = 2;
-  record.CableCapacityManualSecEntry = 29.5F;
+  Design& record = desk.program.WorkParms;
+  record.Intersections.Analysed = 0;
+  record.Entries.Cable.CapMode = 2;
+  record.Entries.Cable.Capacity = 2;
+  record.Entries.Cable.CapacityManual = 29.5F;
 
   const std::string page = InputPage(desk);
 
@@ -344,7 +344,7 @@ TEST(InputEcho, RebuildsItsOwnPageAndLeavesTheOthers) {
 
 TEST(InputEcho, ShowsTheCommittedDesign) {
   Desk desk;
-  desk.program.WorkParmsCopy.EntryWidth = 17;
+  desk.program.WorkParmsCopy.Place.EntryWidth = 17;
 
   EXPECT_EQ(ValueOf(InputPage(desk), "Entry Width"), "20 (ft)");
 }

@@ -24,17 +24,17 @@ struct PrimaryDesk : Desk {
     } else {
       PickBolt(Parms(), 0.75F, 75);
     }
-    Parms().SecondSupEntries = 0;
-    Parms().SecondSupInter = 0;
+    Parms().Entries.Analysed = 0;
+    Parms().Intersections.Analysed = 0;
   }
-  ProjectRecord& Parms() { return program.WorkParms; }
+  Design& Parms() { return program.WorkParms; }
   std::string Page() {
     CalculationReport(program);
     return program.OutBuf[1];
   }
   std::vector<std::string> Span() { return SectionOf(Page(), "[INTERSECTION SPAN INFORMATION]"); }
   std::vector<std::string> Bolts() { return SectionOf(Page(), "[PRIMARY SUPPORT - ROOF BOLTS]"); }
-  std::vector<std::string> Design() { return SectionOf(Page(), "[ORBY DESIGN]"); }
+  std::vector<std::string> Judgement() { return SectionOf(Page(), "[ORBY DESIGN]"); }
 };
 
 TEST(CalculationReport, ReplacesItsPageAndMakesItTheLast) {
@@ -53,23 +53,23 @@ TEST(CalculationReport, ReplacesItsPageAndMakesItTheLast) {
 
 TEST(CalculationReport, WithEveryAnalysisOffHoldsItsHeadingAlone) {
   PrimaryDesk desk;
-  desk.Parms().PrimSupport = 0;
+  desk.Parms().Primary.Analysed = 0;
 
   EXPECT_EQ(desk.Page(), "[ORBY CALCULATIONS]\r\n");
 }
 
 TEST(CalculationReport, AnAnalysisIsOnWhenItsFlagIsOneAndNothingElse) {
   PrimaryDesk desk;
-  desk.Parms().PrimSupport = 2;
-  desk.Parms().SecondSupEntries = -1;
-  desk.Parms().SecondSupInter = 2;
+  desk.Parms().Primary.Analysed = 2;
+  desk.Parms().Entries.Analysed = -1;
+  desk.Parms().Intersections.Analysed = 2;
 
   EXPECT_EQ(desk.Page(), "[ORBY CALCULATIONS]\r\n");
 }
 
 TEST(CalculationReport, JudgesTheCommittedDesign) {
   PrimaryDesk desk;
-  desk.program.WorkParmsCopy.ActualSpanDiagonals = 90;
+  desk.program.WorkParmsCopy.Place.ActualSpanDiagonals = 90;
 
   EXPECT_EQ(ValueOf(desk.Page(), "Actual Sum of Diagonals"), "60.0 (ft)");
 }
@@ -84,14 +84,14 @@ TEST(SpanReport, ASpanThatFitsIsOK) {
 
 TEST(SpanReport, ASpanEqualToTheSuggestedOneIsOK) {
   PrimaryDesk desk;
-  desk.Parms().ActualSpanDiagonals = 63.2F;
+  desk.Parms().Place.ActualSpanDiagonals = 63.2F;
 
   EXPECT_THAT(desk.Span(), Contains("Intersection Span: OK."));
 }
 
 TEST(SpanReport, ASpanThatIsTooLargeAloneLeavesAnEmptyLineBehindItsWarning) {
   PrimaryDesk desk;
-  desk.Parms().ActualSpanDiagonals = 64;
+  desk.Parms().Place.ActualSpanDiagonals = 64;
 
   EXPECT_THAT(desk.Span(),
               ElementsAre("Suggested Sum of Diagonals................................63.2 (ft)",
@@ -101,7 +101,7 @@ TEST(SpanReport, ASpanThatIsTooLargeAloneLeavesAnEmptyLineBehindItsWarning) {
 
 TEST(SpanReport, AMismatchAloneIsAHeadingWithoutAMessage) {
   PrimaryDesk desk;
-  desk.Parms().ActualSpanDiagonals = 32;
+  desk.Parms().Place.ActualSpanDiagonals = 32;
 
   EXPECT_THAT(desk.Span(),
               ElementsAre("Suggested Sum of Diagonals................................63.2 (ft)",
@@ -110,8 +110,8 @@ TEST(SpanReport, AMismatchAloneIsAHeadingWithoutAMessage) {
 
 TEST(SpanReport, TooLargeAndMismatchedGivesBothWarnings) {
   PrimaryDesk desk;
-  desk.Parms().ActualSpanDiagonals = 64;
-  desk.Parms().EntryWidth = 43;
+  desk.Parms().Place.ActualSpanDiagonals = 64;
+  desk.Parms().Place.EntryWidth = 43;
 
   EXPECT_THAT(desk.Span(), ElementsAre("Suggested Sum of Diagonals................................63.2 (ft)",
                                        "Actual Sum of Diagonals...................................64.0 (ft)",
@@ -121,10 +121,10 @@ TEST(SpanReport, TooLargeAndMismatchedGivesBothWarnings) {
 
 TEST(SpanReport, AMetricSpanIsJudgedWithAMarginOfFourMetres) {
   PrimaryDesk desk(Metric);
-  desk.Parms().ActualSpanDiagonals = 12.7F;
+  desk.Parms().Place.ActualSpanDiagonals = 12.7F;
 
   const auto narrow = desk.Span();
-  desk.Parms().ActualSpanDiagonals = 12.8F;
+  desk.Parms().Place.ActualSpanDiagonals = 12.8F;
   const auto wide = desk.Span();
 
   // sqrt(2) x 6.2 m + 4 m = 12.77 m
@@ -134,14 +134,14 @@ TEST(SpanReport, AMetricSpanIsJudgedWithAMarginOfFourMetres) {
 
 TEST(SpanReport, ALengthBelowOneHasNoZeroBeforeThePoint) {
   PrimaryDesk desk;
-  desk.Parms().ActualSpanDiagonals = 0.5F;
+  desk.Parms().Place.ActualSpanDiagonals = 0.5F;
 
   EXPECT_EQ(ValueOf(desk.Page(), "Actual Sum of Diagonals"), ".5 (ft)");
 }
 
 TEST(SpanReport, ALengthOfZeroIsAPointAndAZero) {
   PrimaryDesk desk;
-  desk.Parms().BoltLengthPrimary = 0;
+  desk.Parms().Primary.Length = 0;
 
   EXPECT_EQ(ValueOf(desk.Page(), "Actual Roof Bolt Length"), ".0 (ft)");
 }
@@ -157,7 +157,7 @@ TEST(BoltReport, ALengthBetweenTheSuggestedOneAndTwoFeetMoreIsOK) {
 
 TEST(BoltReport, ABoltShorterThanSuggestedIsWarnedOf) {
   PrimaryDesk desk;
-  desk.Parms().BoltLengthPrimary = 4.8F;
+  desk.Parms().Primary.Length = 4.8F;
 
   EXPECT_THAT(desk.Bolts(),
               ElementsAre("Actual Roof Bolt Yield Capacity...........................16.6 (tons)",
@@ -168,11 +168,11 @@ TEST(BoltReport, ABoltShorterThanSuggestedIsWarnedOf) {
 
 TEST(BoltReport, ExactlyTwoFeetMoreIsOKAndAnInchMoreIsTooLong) {
   PrimaryDesk desk;
-  desk.Parms().CMRR = 80;  // a roof this strong needs no more than 4 ft
-  desk.Parms().BoltLengthPrimary = 6;
+  desk.Parms().Place.CMRR = 80;  // a roof this strong needs no more than 4 ft
+  desk.Parms().Primary.Length = 6;
 
   const auto atLimit = desk.Bolts();
-  desk.Parms().BoltLengthPrimary = 6.083F;
+  desk.Parms().Primary.Length = 6.083F;
   const auto beyond = desk.Bolts();
 
   EXPECT_THAT(atLimit, Contains("Roof Bolt Length OK."));
@@ -183,10 +183,10 @@ TEST(BoltReport, ExactlyTwoFeetMoreIsOKAndAnInchMoreIsTooLong) {
 
 TEST(BoltReport, AMetricBoltSixtyCentimetresTooLongIsWarnedOf) {
   PrimaryDesk desk(Metric);
-  desk.Parms().BoltLengthPrimary = 2.2F;  // 1.689 m are suggested
+  desk.Parms().Primary.Length = 2.2F;  // 1.689 m are suggested
 
   const auto within = desk.Bolts();
-  desk.Parms().BoltLengthPrimary = 2.3F;
+  desk.Parms().Primary.Length = 2.3F;
   const auto beyond = desk.Bolts();
 
   EXPECT_THAT(within, Contains("Roof Bolt Length OK."));
@@ -237,7 +237,7 @@ TEST(BoltReport, ABoltWhoseGradeIsNoYieldStrengthIsLabelledByItsUltimateCapacity
 TEST(BoltReport, AShortAndWeakBoltHasWarnings) {
   PrimaryDesk desk;
   PickBolt(desk.Parms(), 0.625F, 55);
-  desk.Parms().BoltLengthPrimary = 4;
+  desk.Parms().Primary.Length = 4;
 
   EXPECT_THAT(desk.Bolts(),
               ElementsAre("Actual Roof Bolt Yield Capacity...........................8.4 (tons)",
@@ -257,7 +257,7 @@ TEST(BoltReport, TheASTMMinimaAreTheSinglesNearestToThem) {
 TEST(DesignReport, EnoughSupportIsOK) {
   PrimaryDesk desk;
 
-  EXPECT_THAT(desk.Design(),
+  EXPECT_THAT(desk.Judgement(),
               ElementsAre("Suggested PSUP for this location..........................7.6",
                           "Actual PSUP for this design...............................9.9", "Actual PSUP OK", "",
                           "Reinforcement Density Index (RDI).........................192.2",
@@ -266,9 +266,9 @@ TEST(DesignReport, EnoughSupportIsOK) {
 
 TEST(DesignReport, TooLittleSupportIsWarnedOf) {
   PrimaryDesk desk;
-  desk.Parms().BoltsperRowPrimary = 3;
+  desk.Parms().Primary.BoltsperRow = 3;
 
-  EXPECT_THAT(desk.Design(),
+  EXPECT_THAT(desk.Judgement(),
               ElementsAre("Suggested PSUP for this location..........................7.6",
                           "Actual PSUP for this design...............................7.5", "[Warning]",
                           "The actual PSUP for this design is less than the suggested",
@@ -279,11 +279,11 @@ TEST(DesignReport, TooLittleSupportIsWarnedOf) {
 
 TEST(DesignReport, ASuggestionOfExactlyTwelveNeedsNoSupplement) {
   PrimaryDesk desk;
-  desk.Parms().StabilityFactor = 1.5775279F;
+  desk.Parms().Primary.StabilityFactor = 1.5775279F;
 
-  const auto twelve = desk.Design();
-  desk.Parms().StabilityFactor = 1.577528F;  // 12.000001
-  const auto more = desk.Design();
+  const auto twelve = desk.Judgement();
+  desk.Parms().Primary.StabilityFactor = 1.577528F;  // 12.000001
+  const auto more = desk.Judgement();
 
   EXPECT_THAT(twelve, Contains("Suggested PSUP for this location..........................12.0"));
   EXPECT_THAT(twelve, Not(Contains("Consider using supplemental support for roof control")));
@@ -298,9 +298,9 @@ TEST(DesignReport, ASuggestionOfExactlyTwelveNeedsNoSupplement) {
 
 TEST(DesignReport, ARoofThatIsAtItsWeakestIsSuggestedThree) {
   PrimaryDesk desk;
-  desk.Parms().CMRR = 20;
+  desk.Parms().Place.CMRR = 20;
 
-  EXPECT_THAT(desk.Design(),
+  EXPECT_THAT(desk.Judgement(),
               IsSupersetOf({"Suggested PSUP for this location..........................3.0", "Actual PSUP OK"}));
 }
 
@@ -314,14 +314,14 @@ TEST(DesignReport, ASuggestionBelowThreeIsAMatterOfSkinControl) {
 
 TEST(DesignReport, NoDepthEndsTheReport) {
   PrimaryDesk desk;
-  desk.Parms().DepthofCover = 0;
+  desk.Parms().Place.DepthofCover = 0;
 
   EXPECT_EQ(ErrorNumberOf([&] { CalculationReport(desk.program); }), 5);
 }
 
 TEST(DesignReport, NoRowSpacingEndsTheReport) {
   PrimaryDesk desk;
-  desk.Parms().RowSpacingPrimary = 0;
+  desk.Parms().Primary.RowSpacing = 0;
 
   EXPECT_EQ(ErrorNumberOf([&] { CalculationReport(desk.program); }), 11);
 }

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/units.h"
+#include "design/units.h"
 
 namespace orby::test {
 namespace {

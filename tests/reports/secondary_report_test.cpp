@@ -30,9 +30,9 @@ struct SecondaryDesk : Desk {
     } else {
       PickBolt(Parms(), 0.75F, 75);
     }
-    Parms().PrimSupport = 0;
+    Parms().Primary.Analysed = 0;
   }
-  ProjectRecord& Parms() { return program.WorkParms; }
+  Design& Parms() { return program.WorkParms; }
   std::string Page() {
     CalculationReport(program);
     return program.OutBuf[1];
@@ -45,18 +45,18 @@ struct SecondaryDesk : Desk {
 
 // A desk with intersections alone, or with entries alone.
 struct IntersectionDesk : SecondaryDesk {
-  explicit IntersectionDesk(Integer units = English) : SecondaryDesk(units) { Parms().SecondSupEntries = 0; }
+  explicit IntersectionDesk(Integer units = English) : SecondaryDesk(units) { Parms().Entries.Analysed = 0; }
 };
 struct EntryDesk : SecondaryDesk {
-  explicit EntryDesk(Integer units = English) : SecondaryDesk(units) { Parms().SecondSupInter = 0; }
+  explicit EntryDesk(Integer units = English) : SecondaryDesk(units) { Parms().Intersections.Analysed = 0; }
 };
 
 TEST(EntryReport, CablesWithEnoughAnchorage) {
   EntryDesk desk;
-  desk.Parms().CableLengthSecEntry = 12;
-  desk.Parms().RockLoadEntry1 = 9.967F;
-  desk.Parms().SupportCapEntry1 = 10.56F;
-  desk.Parms().StabFactorEntry1 = 1.0595F;
+  desk.Parms().Entries.Cable.Length = 12;
+  desk.Parms().Entries.RockLoad = 9.967F;
+  desk.Parms().Entries.Cable.SupportCap = 10.56F;
+  desk.Parms().Entries.Cable.StabFactor = 1.0595F;
 
   EXPECT_EQ(desk.Page(),
             "[ORBY CALCULATIONS]\r\n"
@@ -73,12 +73,12 @@ TEST(EntryReport, CablesWithEnoughAnchorage) {
 
 TEST(EntryReport, ARockLoadHigherThanTheFallAngleAllowsIsTold) {
   EntryDesk desk;
-  desk.Parms().EntryWidth = 20;
-  desk.Parms().RockFallAngle = 45;
-  desk.Parms().RockLoadHeight = 10;
+  desk.Parms().Place.EntryWidth = 20;
+  desk.Parms().Entries.RockFallAngle = 45;
+  desk.Parms().Entries.RockLoadHeight = 10;
 
   const auto possible = desk.Section("[SECONDARY ENTRY SUPPORT]");
-  desk.Parms().RockLoadHeight = 10.1F;
+  desk.Parms().Entries.RockLoadHeight = 10.1F;
   const auto impossible = desk.Section("[SECONDARY ENTRY SUPPORT]");
 
   EXPECT_THAT(possible, ElementsAre("Rock Load.................................................0.0 (tons/ft)", ""));
@@ -88,18 +88,18 @@ TEST(EntryReport, ARockLoadHigherThanTheFallAngleAllowsIsTold) {
 
 TEST(EntryReport, AFallAngleOfZeroEndsTheReport) {
   EntryDesk desk;
-  desk.Parms().RockFallAngle = 0;
+  desk.Parms().Entries.RockFallAngle = 0;
 
   EXPECT_EQ(desk.Error(), 11);
 }
 
 TEST(EntryReport, ACableHoldsWhenFourFeetOfItReachAboveTheRock) {
   EntryDesk desk;
-  desk.Parms().RockLoadHeight = 8;
-  desk.Parms().CableLengthSecEntry = 12;
+  desk.Parms().Entries.RockLoadHeight = 8;
+  desk.Parms().Entries.Cable.Length = 12;
 
   const auto anchored = desk.Section(EntryCables);
-  desk.Parms().CableLengthSecEntry = 11.999999F;
+  desk.Parms().Entries.Cable.Length = 11.999999F;
   const auto loose = desk.Section(EntryCables);
 
   EXPECT_THAT(anchored, Not(Contains("[Warning]")));
@@ -110,14 +110,14 @@ TEST(EntryReport, ACableHoldsWhenFourFeetOfItReachAboveTheRock) {
 
 TEST(EntryReport, AMetricCableHoldsWhenOnePointThreeMetresOfItReachAboveTheRock) {
   EntryDesk desk(Metric);
-  desk.Parms().RockLoadHeight = 3;
-  desk.Parms().CableLengthSecEntry = 4.3F;
+  desk.Parms().Entries.RockLoadHeight = 3;
+  desk.Parms().Entries.Cable.Length = 4.3F;
 
   const auto anchored = desk.Section(EntryCables);
-  desk.Parms().CableLengthSecEntry = 4.2999997F;
+  desk.Parms().Entries.Cable.Length = 4.2999997F;
   const auto loose = desk.Section(EntryCables);
-  desk.Parms().CableLengthSecEntry = 3.3F;  // 3.29999995 m
-  desk.Parms().RockLoadHeight = 2;
+  desk.Parms().Entries.Cable.Length = 3.3F;  // 3.29999995 m
+  desk.Parms().Entries.RockLoadHeight = 2;
   const auto shortByARounding = desk.Section(EntryCables);
 
   EXPECT_THAT(anchored, Not(Contains("[Warning]")));
@@ -130,12 +130,12 @@ TEST(EntryReport, TheCapacityOfACableGoesByItsDiameterUnlessItIsGiven) {
   constexpr auto Srdi = "Secondary Reinforcement Density Index (SRDI)";
 
   const std::string byDiameter = ValueOf(desk.Page(), Srdi);  // 26.4 tons
-  desk.Parms().CableDiamSecEntry = 0.65F;
+  desk.Parms().Entries.Cable.Diam = 0.65F;
   const std::string unknownDiameter = ValueOf(desk.Page(), Srdi);
-  desk.Parms().CableCapModeSecEntry = 1;
-  desk.Parms().CableCapacityManualSecEntry = 31.5F;
+  desk.Parms().Entries.Cable.CapMode = 1;
+  desk.Parms().Entries.Cable.CapacityManual = 31.5F;
   const std::string standard = ValueOf(desk.Page(), Srdi);  // 27 tons
-  desk.Parms().CableCapacitySecEntry = 1;
+  desk.Parms().Entries.Cable.Capacity = 1;
   const std::string typed = ValueOf(desk.Page(), Srdi);  // 31.5 tons
 
   EXPECT_EQ(byDiameter, "148.1");
@@ -147,11 +147,11 @@ TEST(EntryReport, TheCapacityOfACableGoesByItsDiameterUnlessItIsGiven) {
 TEST(EntryReport, TheCapacityOfACableIsGivenAndTypedInByAnyFlagButZero) {
   EntryDesk desk;
   constexpr auto Srdi = "Secondary Reinforcement Density Index (SRDI)";
-  desk.Parms().CableCapacityManualSecEntry = 31.5F;
+  desk.Parms().Entries.Cable.CapacityManual = 31.5F;
 
-  desk.Parms().CableCapModeSecEntry = 2;
+  desk.Parms().Entries.Cable.CapMode = 2;
   const std::string standard = ValueOf(desk.Page(), Srdi);  // 27 tons
-  desk.Parms().CableCapacitySecEntry = 2;
+  desk.Parms().Entries.Cable.Capacity = 2;
   const std::string typed = ValueOf(desk.Page(), Srdi);  // 31.5 tons
 
   EXPECT_EQ(standard, "151.4");
@@ -163,8 +163,8 @@ TEST(EntryReport, TheCapacityOfAMetricCableIsTakenInTons) {
   constexpr auto Srdi = "Secondary Reinforcement Density Index (SRDI)";
 
   const std::string byDiameter = ValueOf(desk.Page(), Srdi);  // 590 kN
-  desk.Parms().CableCapModeSecEntry = 1;
-  desk.Parms().CableCapacityStdSecEntry = 635;
+  desk.Parms().Entries.Cable.CapMode = 1;
+  desk.Parms().Entries.Cable.CapacityStd = 635;
   const std::string standard = ValueOf(desk.Page(), Srdi);
 
   EXPECT_EQ(byDiameter, "219.3");
@@ -173,8 +173,8 @@ TEST(EntryReport, TheCapacityOfAMetricCableIsTakenInTons) {
 
 TEST(EntryReport, TheSecondaryPRSUPOfCablesGoesByTheLengthOfThePrimaryBolts) {
   EntryDesk desk;
-  desk.Parms().BoltLengthPrimary = 12;
-  desk.Parms().CableLengthSecEntry = 20;
+  desk.Parms().Primary.Length = 12;
+  desk.Parms().Entries.Cable.Length = 20;
 
   // 12 x 2 x 52.8 / (5 x 20)
   EXPECT_EQ(ValueOf(desk.Page(), "Secondary PRSUP"), "12.7");
@@ -183,8 +183,8 @@ TEST(EntryReport, TheSecondaryPRSUPOfCablesGoesByTheLengthOfThePrimaryBolts) {
 TEST(EntryReport, RoofBoltsWithoutCableBoltsEndTheReport) {
   for (const Integer noCables : std::array<Integer, 3>{0, 2, -1}) {
     EntryDesk desk;
-    desk.Parms().SecEntryUseCable = noCables;
-    desk.Parms().SecEntryUseBolt = 1;
+    desk.Parms().Entries.Cable.Use = noCables;
+    desk.Parms().Entries.Bolt.Use = 1;
 
     EXPECT_EQ(desk.Error(), 11) << noCables;
   }
@@ -192,10 +192,10 @@ TEST(EntryReport, RoofBoltsWithoutCableBoltsEndTheReport) {
 
 TEST(EntryReport, RoofBoltsBesideCableBolts) {
   EntryDesk desk;
-  desk.Parms().SecEntryUseBolt = 1;
-  desk.Parms().RockLoadHeight = 5;
-  desk.Parms().SupportCapEntry3 = 16.567F;
-  desk.Parms().StabFactorEntry3 = 1.5F;
+  desk.Parms().Entries.Bolt.Use = 1;
+  desk.Parms().Entries.RockLoadHeight = 5;
+  desk.Parms().Entries.Bolt.SupportCap = 16.567F;
+  desk.Parms().Entries.Bolt.StabFactor = 1.5F;
 
   EXPECT_THAT(desk.Section(EntryBolts),
               ElementsAre("Roof Bolt Support System Capacity.........................16.6 (tons/ft)",
@@ -206,12 +206,12 @@ TEST(EntryReport, RoofBoltsBesideCableBolts) {
 
 TEST(EntryReport, ARoofBoltHoldsWhenAFootOfItReachesAboveTheRock) {
   EntryDesk desk;
-  desk.Parms().SecEntryUseBolt = 1;
-  desk.Parms().RockLoadHeight = 5;
-  desk.Parms().BoltLengthSecEntry = 6;
+  desk.Parms().Entries.Bolt.Use = 1;
+  desk.Parms().Entries.RockLoadHeight = 5;
+  desk.Parms().Entries.Bolt.Length = 6;
 
   const auto anchored = desk.Section(EntryBolts);
-  desk.Parms().BoltLengthSecEntry = 5.9999995F;
+  desk.Parms().Entries.Bolt.Length = 5.9999995F;
   const auto loose = desk.Section(EntryBolts);
 
   EXPECT_THAT(anchored, Not(Contains("[Warning]")));
@@ -222,12 +222,12 @@ TEST(EntryReport, ARoofBoltHoldsWhenAFootOfItReachesAboveTheRock) {
 
 TEST(EntryReport, AMetricRoofBoltHoldsWhenThirtyPointFiveCentimetresOfItReachAboveTheRock) {
   EntryDesk desk(Metric);
-  desk.Parms().SecEntryUseBolt = 1;
-  desk.Parms().RockLoadHeight = 1.8F;
-  desk.Parms().BoltLengthSecEntry = 2.105F;
+  desk.Parms().Entries.Bolt.Use = 1;
+  desk.Parms().Entries.RockLoadHeight = 1.8F;
+  desk.Parms().Entries.Bolt.Length = 2.105F;
 
   const auto anchored = desk.Section(EntryBolts);
-  desk.Parms().BoltLengthSecEntry = 2.1049998F;
+  desk.Parms().Entries.Bolt.Length = 2.1049998F;
   const auto loose = desk.Section(EntryBolts);
 
   EXPECT_THAT(anchored, Not(Contains("[Warning]")));
@@ -236,10 +236,10 @@ TEST(EntryReport, AMetricRoofBoltHoldsWhenThirtyPointFiveCentimetresOfItReachAbo
 
 TEST(EntryReport, ARoofBoltBelowTheASTMMinimumIsWarnedOf) {
   EntryDesk desk;
-  desk.Parms().SecEntryUseBolt = 1;
-  desk.Parms().RockLoadHeight = 5;
-  desk.Parms().BoltDiameterStdSecEntry = 0.625F;
-  desk.Parms().BoltGradeStdSecEntry = 55;
+  desk.Parms().Entries.Bolt.Use = 1;
+  desk.Parms().Entries.RockLoadHeight = 5;
+  desk.Parms().Entries.Bolt.DiameterStd = 0.625F;
+  desk.Parms().Entries.Bolt.GradeStd = 55;
 
   const auto rows = desk.Section(EntryBolts);
 
@@ -251,13 +251,13 @@ TEST(EntryReport, ARoofBoltBelowTheASTMMinimumIsWarnedOf) {
 
 TEST(EntryReport, TrussesAndStandingSupports) {
   EntryDesk desk;
-  desk.Parms().SecEntryUseCable = 0;
-  desk.Parms().SecEntryUseTruss = 1;
-  desk.Parms().SecEntryUseStanding = 1;
-  desk.Parms().SupportCapEntry2 = 10.6066F;
-  desk.Parms().StabFactorEntry2 = 0.855F;
-  desk.Parms().SupportCapEntry4 = 12.5F;
-  desk.Parms().StabFactorEntry4 = 1;
+  desk.Parms().Entries.Cable.Use = 0;
+  desk.Parms().Entries.Truss.Use = 1;
+  desk.Parms().Entries.Standing.Use = 1;
+  desk.Parms().Entries.Truss.SupportCap = 10.6066F;
+  desk.Parms().Entries.Truss.StabFactor = 0.855F;
+  desk.Parms().Entries.Standing.SupportCap = 12.5F;
+  desk.Parms().Entries.Standing.StabFactor = 1;
 
   EXPECT_EQ(desk.Page(),
             "[ORBY CALCULATIONS]\r\n"
@@ -275,10 +275,10 @@ TEST(EntryReport, TrussesAndStandingSupports) {
 
 TEST(IntersectionReport, LoadsKeepTheirGeneralForm) {
   IntersectionDesk desk;
-  desk.Parms().CableLengthSecInter = 12;
-  desk.Parms().RockLoadInter1 = 12345678;
-  desk.Parms().SupportCapInter1 = 0.125F;
-  desk.Parms().StabFactorInter1 = 0.5F;
+  desk.Parms().Intersections.Cable.Length = 12;
+  desk.Parms().Intersections.RockLoad = 12345678;
+  desk.Parms().Intersections.Cable.SupportCap = 0.125F;
+  desk.Parms().Intersections.Cable.StabFactor = 0.5F;
 
   EXPECT_EQ(desk.Page(),
             "[ORBY CALCULATIONS]\r\n"
@@ -293,7 +293,7 @@ TEST(IntersectionReport, LoadsKeepTheirGeneralForm) {
 
 TEST(IntersectionReport, ARockLoadHigherThanTheFallAngleAllowsIsTold) {
   IntersectionDesk desk;
-  desk.Parms().RockFallAngleEntry = 60;
+  desk.Parms().Intersections.RockFallAngle = 60;
 
   const std::string page = desk.Page();
 
@@ -303,12 +303,12 @@ TEST(IntersectionReport, ARockLoadHigherThanTheFallAngleAllowsIsTold) {
 
 TEST(IntersectionReport, WithoutFallAnglesAHundredIsTheLimit) {
   IntersectionDesk desk;
-  desk.Parms().RockFallAngleEntry = 0;
-  desk.Parms().RockFallAngleXcut = 0;
-  desk.Parms().RockLoadHeightInter = 100;
+  desk.Parms().Intersections.RockFallAngle = 0;
+  desk.Parms().Intersections.RockFallAngleXcut = 0;
+  desk.Parms().Intersections.RockLoadHeight = 100;
 
   const std::string possible = desk.Page();
-  desk.Parms().RockLoadHeightInter = 101;
+  desk.Parms().Intersections.RockLoadHeight = 101;
   const std::string impossible = desk.Page();
 
   EXPECT_EQ(ValueOf(possible, "(*) Rock Load Height adjusted. Maximum possible height"), "no such line");
@@ -317,19 +317,19 @@ TEST(IntersectionReport, WithoutFallAnglesAHundredIsTheLimit) {
 
 TEST(IntersectionReport, ACrosscutAngleWithoutAnEntryAngleEndsTheReport) {
   IntersectionDesk desk;
-  desk.Parms().RockFallAngleEntry = 0;
+  desk.Parms().Intersections.RockFallAngle = 0;
 
   EXPECT_EQ(desk.Error(), 11);
 }
 
 TEST(IntersectionReport, CablesAreJudgedByTheRockOfTheIntersection) {
   IntersectionDesk desk;
-  desk.Parms().CableLengthSecInter = 10;
-  desk.Parms().RockLoadHeightInter = 6;
-  desk.Parms().CableLengthSecEntry = 1;
+  desk.Parms().Intersections.Cable.Length = 10;
+  desk.Parms().Intersections.RockLoadHeight = 6;
+  desk.Parms().Entries.Cable.Length = 1;
 
   const auto anchored = desk.Section(IntersectionCables);
-  desk.Parms().RockLoadHeightInter = 6.5F;
+  desk.Parms().Intersections.RockLoadHeight = 6.5F;
   const auto loose = desk.Section(IntersectionCables);
 
   EXPECT_THAT(anchored, Not(Contains("[Warning]")));
@@ -338,14 +338,14 @@ TEST(IntersectionReport, CablesAreJudgedByTheRockOfTheIntersection) {
 
 TEST(IntersectionReport, RoofBoltsAreJudgedByTheLengthAndTheRockOfTheEntries) {
   IntersectionDesk desk;
-  desk.Parms().SecInterUseBolt = 1;
-  desk.Parms().BoltLengthSecEntry = 9;
-  desk.Parms().BoltLengthSecInter = 2;
-  desk.Parms().RockLoadHeightInter = 8;
+  desk.Parms().Intersections.Bolt.Use = 1;
+  desk.Parms().Entries.Bolt.Length = 9;
+  desk.Parms().Intersections.Bolt.Length = 2;
+  desk.Parms().Intersections.RockLoadHeight = 8;
 
   const auto anchored = desk.Section(IntersectionBolts);
-  desk.Parms().RockLoadHeight = 8.1F;
-  desk.Parms().BoltLengthSecInter = 30;
+  desk.Parms().Entries.RockLoadHeight = 8.1F;
+  desk.Parms().Intersections.Bolt.Length = 30;
   const auto loose = desk.Section(IntersectionBolts);
 
   EXPECT_THAT(anchored, Not(Contains("[Warning]")));
@@ -355,9 +355,9 @@ TEST(IntersectionReport, RoofBoltsAreJudgedByTheLengthAndTheRockOfTheEntries) {
 
 TEST(IntersectionReport, RoofBoltsNeedNoCableBoltsAndHaveNoDensities) {
   IntersectionDesk desk;
-  desk.Parms().SecInterUseCable = 0;
-  desk.Parms().SecInterUseBolt = 1;
-  desk.Parms().BoltLengthSecEntry = 10;
+  desk.Parms().Intersections.Cable.Use = 0;
+  desk.Parms().Intersections.Bolt.Use = 1;
+  desk.Parms().Entries.Bolt.Length = 10;
 
   EXPECT_THAT(desk.Section(IntersectionBolts),
               ElementsAre("Roof Bolt Support System Capacity.........................0 (tons)",
@@ -366,12 +366,12 @@ TEST(IntersectionReport, RoofBoltsNeedNoCableBoltsAndHaveNoDensities) {
 
 TEST(IntersectionReport, TheASTMMinimumIsAskedOfTheIntersectionsOwnBolt) {
   IntersectionDesk desk(Metric);
-  desk.Parms().SecInterUseBolt = 1;
-  desk.Parms().BoltDiameterStdSecEntry = 12;
+  desk.Parms().Intersections.Bolt.Use = 1;
+  desk.Parms().Entries.Bolt.DiameterStd = 12;
 
   const auto strong = desk.Section(IntersectionBolts);
-  desk.Parms().BoltDiameterStdSecEntry = 20;
-  desk.Parms().BoltDiameterStdSecInter = 12;
+  desk.Parms().Entries.Bolt.DiameterStd = 20;
+  desk.Parms().Intersections.Bolt.DiameterStd = 12;
   const auto weak = desk.Section(IntersectionBolts);
 
   EXPECT_THAT(strong, Not(Contains(BelowMinimum)));
@@ -380,8 +380,8 @@ TEST(IntersectionReport, TheASTMMinimumIsAskedOfTheIntersectionsOwnBolt) {
 
 TEST(IntersectionReport, FollowsStandingSupportsOfTheEntriesWithoutAnEmptyLine) {
   SecondaryDesk desk;
-  desk.Parms().SecEntryUseStanding = 1;
-  desk.Parms().SecInterUseCable = 0;
+  desk.Parms().Entries.Standing.Use = 1;
+  desk.Parms().Intersections.Cable.Use = 0;
 
   EXPECT_NE(desk.Page().find("Standing Support System Stability Factor..................0.00\r\n"
                              "[SECONDARY INTERSECTION SUPPORT]\r\n"),
@@ -407,7 +407,7 @@ TEST(SecondaryReport, ASystemIsUsedWhenItsFlagIsOneAndNothingElse) {
 
 TEST(IntersectionReport, SystemsThatAreNotUsedAreLeftOut) {
   IntersectionDesk desk;
-  desk.Parms().SecInterUseCable = 0;
+  desk.Parms().Intersections.Cable.Use = 0;
 
   EXPECT_EQ(desk.Page(),
             "[ORBY CALCULATIONS]\r\n"

@@ -24,9 +24,9 @@ struct TheBackupsWindow : MainWindowTest {
   void KeepTwo() {
     KeepBackup(program, Panel4, DesignAt(980), BackupReason::Overwritten);
     OpenByDialog(Panel3);
-    program.WorkParms.DepthofCover = 800;
+    program.WorkParms.Place.DepthofCover = 800;
     program.ProjectTitle = "Belt entry";
-    program.WorkParms.BoltOptionsPrimary = 1;
+    program.WorkParms.Primary.Options = 1;
     KeepDropped(program, CommittedProject(program), BackupReason::Dropped);
     window.mnuFileItem.ClickItem(file_item::New);
     platform.boxes.shown.clear();
@@ -98,7 +98,7 @@ TEST_F(TheBackupsWindow, ShowsTheTitleOfASavedFileAsItWasTyped) {
 }
 
 TEST_F(TheBackupsWindow, ShowsADashForAFigureThatCannotBeHad) {
-  program.WorkParms.EntryWidth = 0;
+  program.WorkParms.Place.EntryWidth = 0;
   KeepDropped(program, CommittedProject(program), BackupReason::Dropped);
 
   backups.Open();
@@ -152,7 +152,7 @@ TEST_F(TheBackupsWindow, OpensOneAsAnUnsavedProjectUnderItsOldName) {
   UseFromMenu([](BackupsWindow& shown) { shown.cmdOpen.Press(); });
 
   EXPECT_EQ(program.CurrentFile, Panel3);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 800);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 800);
   EXPECT_EQ(program.ProjectTitle, "Belt entry");
   EXPECT_FALSE(program.FileSaved);
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb*");
@@ -169,7 +169,7 @@ TEST_F(TheBackupsWindow, OpensAnOverwrittenFileToo) {
   });
 
   EXPECT_EQ(program.CurrentFile, Panel4);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 980);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 980);
   EXPECT_FALSE(program.FileSaved);
   EXPECT_FALSE(program.FileEmpty);
 }
@@ -184,13 +184,13 @@ TEST_F(TheBackupsWindow, OpensAFileOfUnknownFolderAsOneOfTheDataFolder) {
   });
 
   EXPECT_EQ(program.CurrentFile, Panel4);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 980);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 980);
 }
 
 TEST_F(TheBackupsWindow, AsksForTheUnsavedChangesOfThePresentProjectBeforeItOpensOne) {
   KeepTwo();
   OpenByDialog(Panel4);
-  program.WorkParms.DepthofCover = 1010;
+  program.WorkParms.Place.DepthofCover = 1010;
   program.FileSaved = false;
   platform.boxes.answers = {box_result::No};
 

@@ -22,7 +22,7 @@ struct DroppedChanges : MainWindowTest {
     for (const Backup& entry : ListBackups(program)) {
       const auto project = ReadRecovery(FileAt(entry.Path));
       kept.push_back(entry.Project + " at " +
-                     (project ? NumberText(project->WorkParms.DepthofCover) : std::string("nothing")));
+                     (project ? NumberText(project->WorkParms.Place.DepthofCover) : std::string("nothing")));
     }
     return kept;
   }
@@ -104,7 +104,7 @@ TEST_F(DroppedChanges, AreKeptWhenTheParametersAreCancelled) {
   EditAndCancel<ParametersDialog>(edit_item::Parameters, [](auto& dialog) { dialog.txtDepthofCover.SetText("910"); });
 
   EXPECT_THAT(Kept(), ElementsAre("/designs/panel3.orb at 910"));
-  EXPECT_EQ(program.WorkParms.DepthofCover, 725);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 725);
 }
 
 TEST_F(DroppedChanges, AreKeptWhenTheCostsAreCancelled) {
@@ -113,7 +113,7 @@ TEST_F(DroppedChanges, AreKeptWhenTheCostsAreCancelled) {
   EditAndCancel<CostDialog>(edit_item::Cost, [](auto& dialog) { dialog.txtBoltCost.SetText("7.5"); });
 
   ASSERT_EQ(Kept().size(), 1U);
-  EXPECT_EQ(ReadRecovery(FileAt(ListBackups(program).front().Path))->WorkParms.CostBoltCost, 7.5F);
+  EXPECT_EQ(ReadRecovery(FileAt(ListBackups(program).front().Path))->WorkParms.Cost.BoltCost, 7.5F);
 }
 
 TEST_F(DroppedChanges, AreNoneOfADialogThatIsCancelledUnchanged) {
@@ -134,7 +134,7 @@ TEST_F(DroppedChanges, AreNoneOfADialogThatIsAccepted) {
     dialog.Command2.Press();
   });
 
-  EXPECT_EQ(program.WorkParms.DepthofCover, 910);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 910);
   EXPECT_THAT(Kept(), IsEmpty());
 }
 
@@ -174,7 +174,7 @@ struct GivenUpOnAFullDisk : DroppedChanges {
               "What could be kept of them is in " +
                   aside + ".");
     ASSERT_TRUE(Exists(aside));
-    EXPECT_EQ(ReadRecovery(FileAt(aside))->WorkParms.DepthofCover, 800);
+    EXPECT_EQ(ReadRecovery(FileAt(aside))->WorkParms.Place.DepthofCover, 800);
     EXPECT_FALSE(Exists(RecoveryPath));
   }
 };

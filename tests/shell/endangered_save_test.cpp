@@ -80,7 +80,7 @@ class EndangeredSave {
     if (bytes == ProjectFileBytes(program_)) return "file, as last typed";
     const auto recovery = files.find(RecoveryPath);
     const auto project = recovery == files.end() ? std::nullopt : ReadRecovery(recovery->second);
-    return project && project->WorkParms.DepthofCover == 810 ? "recovery, as last typed" : "";
+    return project && project->WorkParms.Place.DepthofCover == 810 ? "recovery, as last typed" : "";
   }
 
   // Whether Backups has the old bytes.
@@ -104,7 +104,7 @@ class EndangeredSave {
   std::string DesignAt(Single depth) {
     Program other(platform_.Doors());
     StartApart(other, nullptr);
-    other.WorkParms.DepthofCover = depth;
+    other.WorkParms.Place.DepthofCover = depth;
     return ProjectFileBytes(other);
   }
 

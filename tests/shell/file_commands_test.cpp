@@ -3,6 +3,7 @@
 #include <array>
 
 #include "acting_boxes.h"
+#include "design/field.h"
 #include "main_window_fixture.h"
 
 namespace orby::test {
@@ -27,7 +28,7 @@ TEST_F(FileMenu, NewBeginsAnUntitledDesignWithoutAQuestion) {
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
   EXPECT_EQ(program.CurrentFile, "Untitled");
-  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
   EXPECT_TRUE(program.FileSaved);
   EXPECT_TRUE(program.FileEmpty);
   EXPECT_FALSE(program.UnitsLocked);
@@ -58,7 +59,7 @@ TEST_F(FileMenu, OpenTakesTheChosenFile) {
   OpenByDialog(Panel3);
 
   EXPECT_EQ(program.PreviousFile, "Untitled");
-  EXPECT_EQ(program.WorkParms.DepthofCover, 725);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 725);
   EXPECT_TRUE(program.FileSaved);
   EXPECT_FALSE(program.FileEmpty);
   EXPECT_TRUE(program.UnitsLocked);
@@ -90,7 +91,7 @@ TEST_F(FileMenu, OpenThatIsCancelledChangesNothing) {
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
   EXPECT_EQ(program.CurrentFile, Panel3);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 800);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 800);
   EXPECT_FALSE(program.FileSaved);
 }
 
@@ -103,7 +104,7 @@ TEST_F(FileMenu, OpenAsksToSaveTheProjectBefore) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Save changes to: /designs/panel3.orb?"));
   EXPECT_THAT(FileAt(Panel3), HasSubstr("\r\n800\r\n"));
   EXPECT_EQ(program.CurrentFile, Panel4);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 980);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 980);
 }
 
 TEST_F(FileMenu, OpenIsStoppedWhenTheProjectBeforeCannotBeSaved) {
@@ -120,7 +121,7 @@ TEST_F(FileMenu, OpenIsStoppedWhenTheProjectBeforeCannotBeSaved) {
   OpenByDialog(Panel4);
 
   EXPECT_EQ(program.CurrentFile, Panel3);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 800);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 800);
   EXPECT_FALSE(program.FileSaved);
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb*");
   EXPECT_EQ(FileAt(RecoveryPath), kept);
@@ -130,14 +131,14 @@ TEST_F(FileMenu, OpenIsStoppedWhenTheProjectBeforeCannotBeSaved) {
 TEST_F(FileMenu, ARecentFileIsNotOpenedWhenTheSaveBeforeIsCancelled) {
   OpenByDialog(Panel4);
   window.mnuFileItem.ClickItem(file_item::New);
-  program.WorkParms.DepthofCover = 800;
+  program.WorkParms.Place.DepthofCover = 800;
   program.FileSaved = false;
   platform.boxes.answers = {box_result::Yes};
 
   window.mnuFileArray.ClickItem(1);
 
   EXPECT_EQ(program.CurrentFile, "Untitled");
-  EXPECT_EQ(program.WorkParms.DepthofCover, 800);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 800);
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: Untitled");
 }
 
@@ -149,7 +150,7 @@ TEST_F(FileMenu, ARefusedFileLeavesANewDesignUnderItsNameAndTheOldCaption) {
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid ORBY file format. File can not be opened."));
   EXPECT_EQ(program.CurrentFile, "/notes.txt");
-  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
   EXPECT_TRUE(program.FileSaved);
   EXPECT_TRUE(program.FileEmpty);
   EXPECT_FALSE(program.UnitsLocked);
@@ -190,7 +191,7 @@ TEST_F(FileMenu, AFileThatHasGoneIsOpenedOnRetryOnceItIsBack) {
   other.mnuFileItem.ClickItem(file_item::Open);
 
   EXPECT_THAT(boxes.Texts(), ElementsAre("Error occurred: File not found (53)"));
-  EXPECT_EQ(retried.WorkParms.DepthofCover, 610);
+  EXPECT_EQ(retried.WorkParms.Place.DepthofCover, 610);
   EXPECT_TRUE(retried.FileSaved);
   EXPECT_EQ(other.Caption(), "Orby Roof Support Workbench: /designs/back.orb");
   EXPECT_EQ(other.mnuFileArray.Caption(1), "/designs/back.orb");
@@ -249,21 +250,32 @@ TEST_F(FileMenu, OpenOffersTheFilesOfTheProgramAndThenAllFiles) {
 }
 
 TEST_F(FileMenu, OpenLeavesWhatWasComputedOfTheProjectBefore) {
-  constexpr std::array<Single ProjectRecord::*, 18> Computed{
-      &ProjectRecord::RockLoadEntry1,   &ProjectRecord::SupportCapEntry1, &ProjectRecord::SupportCapEntry2,
-      &ProjectRecord::SupportCapEntry3, &ProjectRecord::SupportCapEntry4, &ProjectRecord::StabFactorEntry1,
-      &ProjectRecord::StabFactorEntry2, &ProjectRecord::StabFactorEntry3, &ProjectRecord::StabFactorEntry4,
-      &ProjectRecord::RockLoadInter1,   &ProjectRecord::SupportCapInter1, &ProjectRecord::SupportCapInter2,
-      &ProjectRecord::SupportCapInter3, &ProjectRecord::SupportCapInter4, &ProjectRecord::StabFactorInter1,
-      &ProjectRecord::StabFactorInter2, &ProjectRecord::StabFactorInter3, &ProjectRecord::StabFactorInter4};
+  constexpr std::array<SingleField, 18> Computed{[](auto& d) { return &d.Entries.RockLoad; },
+                                                 [](auto& d) { return &d.Entries.Cable.SupportCap; },
+                                                 [](auto& d) { return &d.Entries.Truss.SupportCap; },
+                                                 [](auto& d) { return &d.Entries.Bolt.SupportCap; },
+                                                 [](auto& d) { return &d.Entries.Standing.SupportCap; },
+                                                 [](auto& d) { return &d.Entries.Cable.StabFactor; },
+                                                 [](auto& d) { return &d.Entries.Truss.StabFactor; },
+                                                 [](auto& d) { return &d.Entries.Bolt.StabFactor; },
+                                                 [](auto& d) { return &d.Entries.Standing.StabFactor; },
+                                                 [](auto& d) { return &d.Intersections.RockLoad; },
+                                                 [](auto& d) { return &d.Intersections.Cable.SupportCap; },
+                                                 [](auto& d) { return &d.Intersections.Truss.SupportCap; },
+                                                 [](auto& d) { return &d.Intersections.Bolt.SupportCap; },
+                                                 [](auto& d) { return &d.Intersections.Standing.SupportCap; },
+                                                 [](auto& d) { return &d.Intersections.Cable.StabFactor; },
+                                                 [](auto& d) { return &d.Intersections.Truss.StabFactor; },
+                                                 [](auto& d) { return &d.Intersections.Bolt.StabFactor; },
+                                                 [](auto& d) { return &d.Intersections.Standing.StabFactor; }};
   Single value = 11.5F;
-  for (const auto field : Computed) program.WorkParms.*field = value++;
+  for (const auto field : Computed) field.In(program.WorkParms) = value++;
 
   OpenByDialog(Panel3);
 
-  EXPECT_EQ(program.WorkParms.DepthofCover, 725);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 725);
   value = 11.5F;
-  for (const auto field : Computed) EXPECT_EQ(program.WorkParms.*field, value++);
+  for (const auto field : Computed) EXPECT_EQ(field.In(program.WorkParms), value++);
 }
 
 TEST_F(FileMenu, OpeningLeavesNothingToRecover) {
@@ -299,7 +311,7 @@ TEST_F(FileMenu, ARecentFileIsOpenedAgain) {
 
   EXPECT_EQ(program.PreviousFile, Panel4);
   EXPECT_EQ(program.CurrentFile, Panel3);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 725);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 725);
   EXPECT_EQ(window.mnuFileArray.Caption(1), Panel3);
   EXPECT_EQ(window.mnuFileArray.Caption(2), Panel4);
 }
@@ -400,7 +412,7 @@ INSTANTIATE_TEST_SUITE_P(FiftyAndFiftyOneCharacters, LongPaths,
 TEST_F(FileMenu, TheToolBarOpensAndSaves) {
   platform.fileDialogs.answers = {Panel3};
   window.Toolbar1.ClickItem(tool_button::Open);
-  program.WorkParms.DepthofCover = 800;
+  program.WorkParms.Place.DepthofCover = 800;
 
   window.Toolbar1.ClickItem(tool_button::Save);
 

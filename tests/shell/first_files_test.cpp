@@ -18,7 +18,7 @@ struct FirstFiles : MainWindowTest {
   // Leaves the work of a run that was killed.
   void Lose() {
     program.CurrentFile = "/designs/lost.orb";
-    program.WorkParms.DepthofCover = 1234;
+    program.WorkParms.Place.DepthofCover = 1234;
     program.FileSaved = false;
     window.mnuEditItem.ClickItem(edit_item::Parameters);
     lost = FileAt(RecoveryPath);
@@ -42,7 +42,7 @@ TEST_F(FirstFiles, AreTheLastFileWhenTheSettingsWantIt) {
   window.OpenFirstFiles("");
 
   EXPECT_EQ(program.CurrentFile, Panel4);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 980);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 980);
 }
 
 TEST_F(FirstFiles, WithoutAnyRecentFileOpenNothing) {
@@ -61,7 +61,7 @@ TEST_F(FirstFiles, AreNoneWhereTheLastFileHasANameWithoutAPath) {
   window.OpenFirstFiles("");
 
   EXPECT_EQ(program.CurrentFile, "Untitled");
-  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
@@ -72,7 +72,7 @@ TEST_F(FirstFiles, EndWithTheOneOfTheCommandLine) {
 
   EXPECT_EQ(program.CurrentFile, Panel3);
   EXPECT_EQ(program.PreviousFile, Panel4);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 725);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 725);
   EXPECT_EQ(program.recentFiles.Entries[0].LastFile, Panel3);
   EXPECT_EQ(program.recentFiles.Entries[1].LastFile, Panel4);
 }
@@ -116,7 +116,7 @@ TEST_F(NextRun, BringsLostWorkBackAsUnsaved) {
   nextWindow.OpenFirstFiles("");
 
   EXPECT_EQ(nextWindow.Caption(), "Orby Roof Support Workbench: /designs/lost.orb*");
-  EXPECT_EQ(next.WorkParms.DepthofCover, 1234);
+  EXPECT_EQ(next.WorkParms.Place.DepthofCover, 1234);
 }
 
 TEST_F(NextRun, OpensNothingElseOnceLostWorkIsBack) {

@@ -141,7 +141,7 @@ TEST_F(InputMenu, IsNotReturnedToOnceItsWindowIsGone) {
 }
 
 TEST_F(InputMenu, ShowsADesignWithoutADepth) {
-  program.WorkParms.DepthofCover = 0;
+  program.WorkParms.Place.DepthofCover = 0;
   InDialog<ParametersDialog>([](ParametersDialog& dialog) { EXPECT_EQ(dialog.txtSugPSUP.Text(), "--"); });
 
   Choose(edit_item::Parameters);
@@ -150,7 +150,7 @@ TEST_F(InputMenu, ShowsADesignWithoutADepth) {
 }
 
 TEST_F(InputMenu, TellsThatADesignCannotBeShownAndGoesOn) {
-  program.WorkParms.BoltOptionsPrimary = 2;
+  program.WorkParms.Primary.Options = 2;
 
   Choose(edit_item::Parameters);
 
@@ -164,7 +164,7 @@ TEST_F(InputMenu, IsToldOnTheRoadOfOpenThatADesignCannotBeShown) {
   program.options.ShowInputScreenOnLoad = 1;
   Program other(platform.Doors());
   StartApart(other, nullptr);
-  other.WorkParms.BoltOptionsPrimary = 2;
+  other.WorkParms.Primary.Options = 2;
   platform.files.files[Panel3] = ProjectFileBytes(other);
 
   OpenByDialog(Panel3);
@@ -190,7 +190,7 @@ TEST_F(EditedWork, IsKeptFromTheMomentOfTheCommit) {
   Choose(edit_item::Parameters);
 
   ASSERT_TRUE(Kept().has_value());
-  EXPECT_EQ(Kept()->WorkParms.DepthofCover, 810);
+  EXPECT_EQ(Kept()->WorkParms.Place.DepthofCover, 810);
   EXPECT_EQ(Kept()->CurrentFile, Panel3);
 }
 
@@ -201,9 +201,9 @@ TEST_F(EditedWork, OfAnOpenDialogIsKeptWithinASecond) {
     EXPECT_FALSE(Kept().has_value());
     platform.clock.Pass();
     ASSERT_TRUE(Kept().has_value());
-    EXPECT_EQ(Kept()->WorkParms.DepthofCover, 810);
+    EXPECT_EQ(Kept()->WorkParms.Place.DepthofCover, 810);
     EXPECT_FALSE(Kept()->FileEmpty);
-    EXPECT_EQ(program.WorkParms.DepthofCover, 400) << "nothing is committed";
+    EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400) << "nothing is committed";
   });
 
   Choose(edit_item::Parameters);
@@ -216,7 +216,7 @@ TEST_F(EditedWork, OfTheCostDialogIsKeptWithinASecond) {
     Type(dialog, dialog.txtBoltCost, "4.25");
     platform.clock.Pass();
     ASSERT_TRUE(Kept().has_value());
-    EXPECT_EQ(Kept()->WorkParms.CostBoltCost, 4.25F);
+    EXPECT_EQ(Kept()->WorkParms.Cost.BoltCost, 4.25F);
   });
 
   Choose(edit_item::Cost);
@@ -250,8 +250,8 @@ TEST_F(EditedWork, IsWhatStoodBeforeTheActThatEndsTheRun) {
   window.LeaveAtOnce();
 
   ASSERT_TRUE(Kept().has_value());
-  EXPECT_EQ(Kept()->WorkParms.DepthofCover, 810);
-  EXPECT_EQ(Kept()->WorkParms.StabilityFactor, 1);
+  EXPECT_EQ(Kept()->WorkParms.Place.DepthofCover, 810);
+  EXPECT_EQ(Kept()->WorkParms.Primary.StabilityFactor, 1);
 }
 
 TEST_F(EditedWork, IsFieldByFieldTheLastThatAProjectCanHold) {
@@ -263,10 +263,10 @@ TEST_F(EditedWork, IsFieldByFieldTheLastThatAProjectCanHold) {
     Type(dialog, dialog.txtUnitWeight, "158");
     platform.clock.Pass();
     ASSERT_TRUE(Kept().has_value());
-    EXPECT_EQ(Kept()->WorkParms.DepthofCover, 810);
-    EXPECT_EQ(Kept()->WorkParms.CMRR, 52);
-    EXPECT_EQ(Kept()->WorkParms.EntryWidth, 20);
-    EXPECT_EQ(Kept()->WorkParms.UnitWeight, 158);
+    EXPECT_EQ(Kept()->WorkParms.Place.DepthofCover, 810);
+    EXPECT_EQ(Kept()->WorkParms.Place.CMRR, 52);
+    EXPECT_EQ(Kept()->WorkParms.Place.EntryWidth, 20);
+    EXPECT_EQ(Kept()->WorkParms.Place.UnitWeight, 158);
   });
 
   Choose(edit_item::Parameters);

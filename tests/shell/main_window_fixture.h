@@ -45,7 +45,7 @@ struct MainWindowTest : testing::Test {
   std::string DesignAt(Single depth) {
     Program other(platform.Doors());
     StartApart(other, nullptr);
-    other.WorkParms.DepthofCover = depth;
+    other.WorkParms.Place.DepthofCover = depth;
     return ProjectFileBytes(other);
   }
 
@@ -58,7 +58,7 @@ struct MainWindowTest : testing::Test {
   // An open project with a change that is not saved.
   void EditPanel3() {
     OpenByDialog(Panel3);
-    program.WorkParms.DepthofCover = 800;
+    program.WorkParms.Place.DepthofCover = 800;
     program.FileSaved = false;
   }
 

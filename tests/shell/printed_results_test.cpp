@@ -71,7 +71,7 @@ TEST_F(PrintedResults, StandUnderTheInputsThatTheyWereComputedFrom) {
 
   EXPECT_THAT(inputs, HasSubstr("Roof Bolt Yield Capacity..................................8.4 (tons)\r\n"));
   EXPECT_EQ(program.OutBuf[0], inputs);
-  EXPECT_EQ(program.WorkParms.BoltTableDiameterPrimary, 0);
+  EXPECT_EQ(program.WorkParms.Primary.TableDiameter, 0);
 }
 
 TEST_F(PrintedResults, AreNotThoseOfEditsThatWereCancelled) {
@@ -181,7 +181,7 @@ TEST_F(PrintedResults, FollowTheListOfCables) {
 
 TEST_F(PrintedResults, FollowTheTableOfBolts) {
   program.Units = Metric;
-  program.WorkParms.BoltTableRowPrimary = 1;
+  program.WorkParms.Primary.TableRow = 1;
   const std::string before = PageOfResults();
   program.UseAUSStandardTable = 1;
 
@@ -192,7 +192,7 @@ TEST_F(PrintedResults, FollowTheTableOfBolts) {
 
 TEST_F(PrintedResults, ThatCannotBeComputedAreALineOfThePage) {
   PageOfResults();
-  program.WorkParms.RowSpacingPrimary = 0;
+  program.WorkParms.Primary.RowSpacing = 0;
 
   const std::string text = Printed();
 
@@ -203,23 +203,23 @@ TEST_F(PrintedResults, ThatCannotBeComputedAreALineOfThePage) {
 }
 
 TEST_F(PrintedResults, ThatCannotBeShownInTheDialogAreALineToo) {
-  program.WorkParms.BoltOptionsPrimary = 7;  // an option that there is not
+  program.WorkParms.Primary.Options = 7;  // an option that there is not
 
   EXPECT_THAT(Printed(), HasSubstr("The results cannot be computed from these inputs.\r\n"));
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
 TEST_F(PrintedResults, LeaveTheProjectAsItWas) {
-  program.WorkParms.SupportCapEntry1 = 3;  // of the file; the dialog computes another
-  program.WorkParmsCopy.DepthofCover = 900;
+  program.WorkParms.Entries.Cable.SupportCap = 3;  // of the file; the dialog computes another
+  program.WorkParmsCopy.Place.DepthofCover = 900;
   program.estimator.EstimatorRegion = 4;
   program.ReportCaller = report_caller::Cost;
   program.history.Text.clear();
 
   Printed();
 
-  EXPECT_EQ(program.WorkParms.SupportCapEntry1, 3);
-  EXPECT_EQ(program.WorkParmsCopy.DepthofCover, 900);
+  EXPECT_EQ(program.WorkParms.Entries.Cable.SupportCap, 3);
+  EXPECT_EQ(program.WorkParmsCopy.Place.DepthofCover, 900);
   EXPECT_EQ(program.estimator.EstimatorRegion, 4);
   EXPECT_EQ(program.ReportCaller, report_caller::Cost);
   EXPECT_FALSE(program.DialogOpen);

@@ -26,7 +26,7 @@ struct UnsavedWork : testing::Test {
   Program Editing(Single depth, const std::string& file = "/designs/panel3.orb") {
     Program program = Started();
     program.CurrentFile = file;
-    program.WorkParms.DepthofCover = depth;
+    program.WorkParms.Place.DepthofCover = depth;
     program.FileSaved = false;
     program.FileEmpty = false;
     return program;
@@ -50,7 +50,7 @@ struct UnsavedWork : testing::Test {
     const auto found = platform.files.files.find(path);
     if (found == platform.files.files.end()) return -1;
     const auto project = ReadRecovery(found->second);
-    return project ? project->WorkParms.DepthofCover : 0;
+    return project ? project->WorkParms.Place.DepthofCover : 0;
   }
 
   bool Exists(const std::string& path) const { return platform.files.files.contains(path); }
@@ -81,11 +81,11 @@ TEST_F(UnsavedWork, GoesWithTheLastChange) {
 TEST_F(UnsavedWork, IsWrittenASecondAfterTheFirstChangeAsItIsByThen) {
   Program program = Started();
   Recovery recovery(program);
-  ProjectRecord design = program.WorkParms;
+  Design design = program.WorkParms;
   recovery.DesignShown(design);
-  design.DepthofCover = 72;
+  design.Place.DepthofCover = 72;
   recovery.DesignChanged(design);
-  design.DepthofCover = 725;
+  design.Place.DepthofCover = 725;
   recovery.DesignChanged(design);
 
   ASSERT_EQ(platform.clock.waiting.size(), 1U);
@@ -94,17 +94,17 @@ TEST_F(UnsavedWork, IsWrittenASecondAfterTheFirstChangeAsItIsByThen) {
   platform.clock.Pass();
 
   EXPECT_EQ(DepthIn(FirstFile), 725);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
 }
 
 TEST_F(UnsavedWork, WaitsAnotherSecondForTheNextChange) {
   Program program = Started();
   Recovery recovery(program);
-  ProjectRecord design = program.WorkParms;
-  design.DepthofCover = 725;
+  Design design = program.WorkParms;
+  design.Place.DepthofCover = 725;
   recovery.DesignChanged(design);
   platform.clock.Pass();
-  design.DepthofCover = 980;
+  design.Place.DepthofCover = 980;
 
   recovery.DesignChanged(design);
 
@@ -117,8 +117,8 @@ TEST_F(UnsavedWork, WaitsAnotherSecondForTheNextChange) {
 TEST_F(UnsavedWork, IsWrittenBeforeItsSecondWhenTheRunEnds) {
   Program program = Started();
   Recovery recovery(program);
-  ProjectRecord design = program.WorkParms;
-  design.DepthofCover = 725;
+  Design design = program.WorkParms;
+  design.Place.DepthofCover = 725;
   recovery.DesignChanged(design);
 
   recovery.Flush();
@@ -140,9 +140,9 @@ TEST_F(UnsavedWork, IsNoneWhereTheDialogShowsWhatItOpenedWith) {
 TEST_F(UnsavedWork, OfADialogGoesWhenItsChangesAreTakenBack) {
   Program program = Started();
   Recovery recovery(program);
-  const ProjectRecord opened = program.WorkParms;
-  ProjectRecord edited = opened;
-  edited.DepthofCover = 725;
+  const Design opened = program.WorkParms;
+  Design edited = opened;
+  edited.Place.DepthofCover = 725;
   recovery.DesignShown(opened);
   recovery.DesignChanged(edited);
   platform.clock.Pass();
@@ -157,8 +157,8 @@ TEST_F(UnsavedWork, OfADialogGoesWhenItsChangesAreTakenBack) {
 TEST_F(UnsavedWork, OfACancelledDialogIsTheCommittedDesignAgain) {
   Program program = Editing(725);
   Recovery recovery(program);
-  ProjectRecord edited = program.WorkParms;
-  edited.DepthofCover = 980;
+  Design edited = program.WorkParms;
+  edited.Place.DepthofCover = 980;
   recovery.DesignChanged(edited);
   platform.clock.Pass();
   recovery.DesignChanged(edited);
@@ -181,7 +181,7 @@ TEST_F(UnsavedWork, IsOfferedToTheNextRun) {
             "Orby ended unexpectedly. Recover the unsaved project?\r\n\r\n/designs/panel3.orb");
   EXPECT_EQ(platform.boxes.shown.front().style, 36);
   EXPECT_THAT(platform.boxes.shown.front().captions, IsEmpty());
-  EXPECT_EQ(next.WorkParms.DepthofCover, 725);
+  EXPECT_EQ(next.WorkParms.Place.DepthofCover, 725);
   EXPECT_EQ(next.CurrentFile, "/designs/panel3.orb");
   EXPECT_FALSE(next.FileSaved);
   EXPECT_TRUE(Exists(FirstFile)) << "it is still unsaved";
@@ -226,7 +226,7 @@ TEST_F(UnsavedWork, ComesBackWithoutAQuestionWhenTheRunIsStartedAnew) {
   EXPECT_TRUE(Recovery(next).Recover());
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(next.WorkParms.DepthofCover, 725);
+  EXPECT_EQ(next.WorkParms.Place.DepthofCover, 725);
   EXPECT_FALSE(next.FileSaved);
 }
 
@@ -295,7 +295,7 @@ TEST_F(UnsavedWork, ThatCannotBeReadAtAllIsNotWrittenOver) {
   Recovery recovery(program);
 
   EXPECT_FALSE(recovery.Ask(""));
-  program.WorkParms.DepthofCover = 980;
+  program.WorkParms.Place.DepthofCover = 980;
   program.FileSaved = false;
   recovery.Committed();
 
@@ -314,7 +314,7 @@ TEST_F(UnsavedWork, ThatCannotBeRenamedEitherIsLeftToTheNextStart) {
   Recovery recovery(program);
 
   EXPECT_FALSE(recovery.Ask(""));
-  program.WorkParms.DepthofCover = 980;
+  program.WorkParms.Place.DepthofCover = 980;
   program.FileSaved = false;
   recovery.Committed();
 
@@ -359,8 +359,8 @@ TEST_F(UnsavedWork, OfACancelledDialogIsInTheBackups) {
   program.folders.ProgramData = DataFolder;
   Recovery recovery(program);
   recovery.DesignShown(program.WorkParms);
-  ProjectRecord edited = program.WorkParms;
-  edited.DepthofCover = 980;
+  Design edited = program.WorkParms;
+  edited.Place.DepthofCover = 980;
   recovery.DesignChanged(edited);
   recovery.Flush();
 
@@ -383,7 +383,7 @@ TEST_F(UnsavedWork, ThatADialogCommittedOrDidNotChangeIsInNoBackup) {
   EXPECT_THAT(ListBackups(program), IsEmpty());
 
   recovery.DesignShown(program.WorkParms);
-  program.WorkParms.DepthofCover = 980;
+  program.WorkParms.Place.DepthofCover = 980;
   recovery.DesignChanged(program.WorkParms);
   recovery.DialogClosed();
   EXPECT_THAT(ListBackups(program), IsEmpty());
@@ -397,7 +397,7 @@ TEST_F(UnsavedWork, IsDeletedOnNoWithoutAFolderForBackups) {
   EXPECT_FALSE(Recovery(next).Ask(""));
 
   EXPECT_FALSE(Exists(FirstFile));
-  EXPECT_EQ(next.WorkParms.DepthofCover, 400);
+  EXPECT_EQ(next.WorkParms.Place.DepthofCover, 400);
   EXPECT_TRUE(next.FileSaved);
 }
 
@@ -451,7 +451,7 @@ TEST_F(UnsavedWork, ThatWasLostGoesBeforeAFreeFile) {
 
   EXPECT_TRUE(Recovery(next).Ask(""));
 
-  EXPECT_EQ(next.WorkParms.DepthofCover, 980);
+  EXPECT_EQ(next.WorkParms.Place.DepthofCover, 980);
 }
 
 TEST_F(UnsavedWork, OfANinthProgramIsKept) {
@@ -471,7 +471,7 @@ TEST_F(UnsavedWork, ThatWasLostInTheNinthFileIsOffered) {
 
   EXPECT_TRUE(Recovery(next).Ask(""));
 
-  EXPECT_EQ(next.WorkParms.DepthofCover, 980);
+  EXPECT_EQ(next.WorkParms.Place.DepthofCover, 980);
 }
 
 TEST_F(UnsavedWork, OfATenthProgramIsNotKept) {
@@ -503,7 +503,7 @@ TEST_P(UnsavedWorkOnAFailingDisk, StaysAsItWasWrittenLastAndNobodyIsTold) {
   Program program = Editing(725);
   Recovery recovery(program);
   recovery.Committed();
-  program.WorkParms.DepthofCover = 980;
+  program.WorkParms.Place.DepthofCover = 980;
   platform.files.Fail(GetParam(), error_number::DiskFull);
 
   recovery.Committed();
@@ -519,8 +519,8 @@ TEST_F(UnsavedWork, ThatTheDiskRefusedIsWrittenASecondLater) {
   Program program = Started();
   Recovery recovery(program);
   recovery.DesignShown(program.WorkParms);
-  ProjectRecord design = program.WorkParms;
-  design.DepthofCover = 980;
+  Design design = program.WorkParms;
+  design.Place.DepthofCover = 980;
   recovery.DesignChanged(design);
   platform.files.Fail(Step::Write, error_number::DiskFull);
   platform.clock.Pass();
@@ -538,8 +538,8 @@ TEST_F(UnsavedWork, ThatTheDiskRefusedIsWrittenWhenTheRunEnds) {
   Recovery recovery(program);
   recovery.Committed();
   recovery.DesignShown(program.WorkParms);
-  ProjectRecord design = program.WorkParms;
-  design.DepthofCover = 980;
+  Design design = program.WorkParms;
+  design.Place.DepthofCover = 980;
   recovery.DesignChanged(design);
   platform.files.Fail(Step::Write, error_number::DiskFull);
   recovery.Flush();
@@ -555,7 +555,7 @@ TEST_F(UnsavedWork, ThatWasCommittedOnAFullDiskIsWrittenWhenTheRunEnds) {
   Program program = Editing(725);
   Recovery recovery(program);
   recovery.Committed();
-  program.WorkParms.DepthofCover = 980;
+  program.WorkParms.Place.DepthofCover = 980;
   platform.files.Fail(Step::Write, error_number::DiskFull);
   recovery.Committed();
   platform.files.Mend();

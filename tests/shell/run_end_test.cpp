@@ -166,7 +166,7 @@ TEST_F(StartedAgain, TheProgramBringsTheUnsavedProjectBackWithoutAQuestion) {
 
   EXPECT_EQ(end.Kept, KeptWork::All);
   EXPECT_THAT(next.boxes.shown, IsEmpty());
-  EXPECT_EQ(restarted.WorkParms.DepthofCover, 810);
+  EXPECT_EQ(restarted.WorkParms.Place.DepthofCover, 810);
   EXPECT_EQ(nextWindow->Caption(), "Orby Roof Support Workbench: /designs/panel3.orb*");
 }
 
@@ -182,7 +182,7 @@ TEST_F(StartedAgain, TheProgramSaysInItsHistoryWhatItBroughtBack) {
 TEST_F(StartedAgain, TheProgramTakesItsOwnWorkAndNotWhatAnotherRunLost) {
   Program other = StartedProgram(platform);
   MainWindow otherWindow(other);  // takes the second slot, as a program beside this one
-  other.WorkParms.DepthofCover = 333;
+  other.WorkParms.Place.DepthofCover = 333;
   other.FileSaved = false;
   const RunEnd end = otherWindow.LeaveAtOnce();
   atEnd = platform.files.files;
@@ -191,7 +191,7 @@ TEST_F(StartedAgain, TheProgramTakesItsOwnWorkAndNotWhatAnotherRunLost) {
   StartAgain(end.Next);
 
   EXPECT_EQ(end.Next.Slot, 2);
-  EXPECT_EQ(restarted.WorkParms.DepthofCover, 333);
+  EXPECT_EQ(restarted.WorkParms.Place.DepthofCover, 333);
   EXPECT_TRUE(next.files.marked.contains(TemporaryFolder + "~recover2.lck"));
   EXPECT_FALSE(next.files.marked.contains(TemporaryFolder + "~recover1.lck"));
 }
@@ -205,7 +205,7 @@ TEST_F(StartedAgain, TheProgramOpensAProjectWithoutUnsavedChangesFromItsFile) {
 
   EXPECT_EQ(end.Kept, KeptWork::NoneNeeded);
   EXPECT_THAT(next.boxes.shown, IsEmpty());
-  EXPECT_EQ(restarted.WorkParms.DepthofCover, 725);
+  EXPECT_EQ(restarted.WorkParms.Place.DepthofCover, 725);
   EXPECT_TRUE(restarted.FileSaved);
   EXPECT_EQ(nextWindow->Caption(), "Orby Roof Support Workbench: /designs/panel3.orb");
 }
@@ -224,10 +224,10 @@ TEST_F(StartedAgain, TheProgramOffersWhatAnotherRunLostInItsSlot) {
 
   ASSERT_EQ(next.boxes.shown.size(), 1U);
   EXPECT_THAT(next.boxes.shown.front().captions, ElementsAre("Recover", "Open panel3.orb instead"));
-  EXPECT_EQ(restarted.WorkParms.DepthofCover, 725);
+  EXPECT_EQ(restarted.WorkParms.Place.DepthofCover, 725);
   const auto backups = ListBackups(restarted);
   ASSERT_EQ(backups.size(), 1U);
-  EXPECT_EQ(ReadRecovery(next.files.files.at(backups.front().Path))->WorkParms.DepthofCover, 800);
+  EXPECT_EQ(ReadRecovery(next.files.files.at(backups.front().Path))->WorkParms.Place.DepthofCover, 800);
 }
 
 TEST_F(StartedAgain, TheProgramOffersWhatAnotherRunLostWhenItsOwnSlotIsTaken) {
@@ -239,7 +239,7 @@ TEST_F(StartedAgain, TheProgramOffersWhatAnotherRunLostWhenItsOwnSlotIsTaken) {
 
   StartAgain({2, {}});
 
-  EXPECT_EQ(restarted.WorkParms.DepthofCover, 800);
+  EXPECT_EQ(restarted.WorkParms.Place.DepthofCover, 800);
   EXPECT_FALSE(restarted.FileSaved);
 }
 

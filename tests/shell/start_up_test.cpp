@@ -31,7 +31,7 @@ struct StartUp : testing::Test {
   // What a first run holds is in force, and the user has been told why it is not kept.
   void ExpectBuiltInSettings(const std::string& reason) {
     EXPECT_EQ(program.defaults.DefaultENGDepthofCover, 400);
-    EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+    EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
     EXPECT_EQ(program.settings.DisplayHistoryWin, 1);
     EXPECT_EQ(program.settings.FileExtension, "ORB");
     EXPECT_EQ(program.settings.MaxDisplaySize, 4096);
@@ -56,7 +56,7 @@ TEST_F(StartUp, MakesAMissingConfigurationFileAndStartsWithTheDefaults) {
   EXPECT_EQ(program.defaults.DefaultENGDepthofCover, 400);
   EXPECT_EQ(program.settings.DisplayHistoryWin, 1);
   EXPECT_EQ(program.settings.DataPath, "/home/user/Documents/MyStrataDesk/ORBY/");
-  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
   EXPECT_EQ(program.CurrentFile, "Untitled");
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
@@ -101,7 +101,7 @@ TEST_F(StartUp, TakesOverWhatTheFileHolds) {
   StartProgram(program);
 
   EXPECT_EQ(program.Units, Metric);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 310);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 310);
   EXPECT_EQ(program.recentFiles.Entries[0].LastFileLong, "/designs/panel.ORB");
   EXPECT_EQ(program.catalogs.DefaultBoltGradeArrayMET.Count(), 2U);
   EXPECT_EQ(Ini(), before) << "reading writes nothing";
@@ -119,7 +119,7 @@ TEST_F(StartUp, DeletesAndRebuildsAFileOfAnotherVersion) {
     EXPECT_THAT(Ini(), StartsWith("[Version]\r\nINIFileVersion=201030\r\n[Settings]\r\n")) << version;
     EXPECT_THAT(Ini(), Not(HasSubstr("Extra"))) << version;
     EXPECT_EQ(next.settings.UnitsDefault, 0) << version;
-    EXPECT_EQ(next.WorkParms.DepthofCover, 400) << version;
+    EXPECT_EQ(next.WorkParms.Place.DepthofCover, 400) << version;
   }
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
@@ -206,7 +206,7 @@ TEST(StartOnADisk, WorksWithTheBuiltInSettingsWhereAFolderHasTheNameOfTheFile) {
   StartProgram(program);
 
   std::filesystem::current_path(workingFolder);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre(HasSubstr("Configuration file cannot be used: ")));
   EXPECT_TRUE(std::filesystem::exists(home.At("MyStrataDesk/ORBY/ORBY.INI/kept")));
 }
@@ -279,9 +279,9 @@ TEST_F(StartOfAScript, BeginsANewEnglishDesignWithTheBuiltInCatalogs) {
   EXPECT_TRUE(program.FileSaved);
   EXPECT_TRUE(program.FileEmpty);
   EXPECT_EQ(program.Units, English);
-  EXPECT_EQ(program.WorkParms.DepthofCover, 400);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
   EXPECT_EQ(program.catalogs.BoltTableENG.size(), 10U);
-  EXPECT_EQ(program.WorkParms.SupportTypeNameSecEntry, "4-point Hardwood Crib (8in x 8in timbers, 5' height)");
+  EXPECT_EQ(program.WorkParms.Entries.Standing.TypeName, "4-point Hardwood Crib (8in x 8in timbers, 5' height)");
   EXPECT_EQ(program.history.Text, "1. File initialized. Use Edit-Project Parameters to enter data\r\n");
 }
 
@@ -312,8 +312,8 @@ TEST_F(StartOfAScript, TakesTheNewDesignFromTheConfiguredDefaults) {
 
   StartApart(next, &configuration);
 
-  EXPECT_EQ(next.WorkParms.DepthofCover, 725);
-  EXPECT_EQ(next.WorkParms.EntryWidth, 20);
+  EXPECT_EQ(next.WorkParms.Place.DepthofCover, 725);
+  EXPECT_EQ(next.WorkParms.Place.EntryWidth, 20);
   EXPECT_EQ(next.catalogs.DefaultBoltGradeArrayENG.Values, program.catalogs.DefaultBoltGradeArrayENG.Values);
 }
 

@@ -1,4 +1,4 @@
-#include "core/units.h"
+#include "design/units.h"
 
 #include <array>
 

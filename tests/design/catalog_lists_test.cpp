@@ -1,0 +1,26 @@
+#include "design/catalog_lists.h"
+
+#include <gtest/gtest.h>
+
+namespace orby::test {
+namespace {
+
+TEST(CatalogListOfNumbers, GrowsAsFarAsAnEntryIsSetAndKeepsItsEnd) {
+  CatalogList diameters;
+  EXPECT_EQ(diameters.Count(), 0U);
+
+  diameters.Set(2, 22);
+  EXPECT_EQ(diameters.Count(), 0U);
+  EXPECT_EQ(diameters.Values.size(), 3U);
+  EXPECT_EQ(diameters[0], 0);
+  EXPECT_EQ(diameters[2], 22);
+
+  diameters.HighestIndex = 1;
+  diameters.Set(0, 20);
+  EXPECT_EQ(diameters.Count(), 2U);
+  EXPECT_EQ(diameters.Values.size(), 3U);
+  EXPECT_EQ(diameters[0], 20);
+}
+
+}  // namespace
+}  // namespace orby::test

@@ -1,0 +1,94 @@
+#include "design/design.h"
+
+#include <gtest/gtest.h>
+
+namespace orby::test {
+namespace {
+
+// A set that differs in every value: sizes in inches, grades in ksi.
+class BoltOfASet : public testing::Test {
+ protected:
+  Bolt Selected(Integer option, Integer diameterMode, Integer gradeMode) {
+    set.Options = option;
+    set.DiameterMode = diameterMode;
+    set.GradeMode = gradeMode;
+    return SelectedBolt(set);
+  }
+
+  static BoltSelection Different() {
+    BoltSelection set;
+    set.TableDiameter = 0.625F;
+    set.TableGrade = 60;
+    set.DiameterStd = 0.75F;
+    set.GradeStd = 75;
+    set.DiameterManual = 0.8F;
+    set.GradeManual = 72;
+    return set;
+  }
+
+  BoltSelection set = Different();
+};
+
+TEST_F(BoltOfASet, IsTheTablesWhateverTheManualModesSay) {
+  const Bolt bolt = Selected(0, 1, 1);
+
+  EXPECT_EQ(bolt.Diameter, 0.625F);
+  EXPECT_EQ(bolt.Grade, 60);
+}
+
+TEST_F(BoltOfASet, IsTheStandardOneOfAManualSelection) {
+  const Bolt bolt = Selected(1, 0, 0);
+
+  EXPECT_EQ(bolt.Diameter, 0.75F);
+  EXPECT_EQ(bolt.Grade, 75);
+}
+
+TEST_F(BoltOfASet, IsTheTypedOneOfAManualSelection) {
+  const Bolt bolt = Selected(1, 1, 1);
+
+  EXPECT_EQ(bolt.Diameter, 0.8F);
+  EXPECT_EQ(bolt.Grade, 72);
+}
+
+TEST_F(BoltOfASet, MayHaveATypedDiameterWithAStandardGradeAndTheReverse) {
+  const Bolt typedDiameter = Selected(1, 1, 0);
+  const Bolt typedGrade = Selected(1, 0, 1);
+
+  EXPECT_EQ(typedDiameter.Diameter, 0.8F);
+  EXPECT_EQ(typedDiameter.Grade, 75);
+  EXPECT_EQ(typedGrade.Diameter, 0.75F);
+  EXPECT_EQ(typedGrade.Grade, 72);
+}
+
+TEST(SecondarySystems, StandInTheOrderOfTheirTabs) {
+  SecondarySupport support;
+  support.Cable.Use = 1;
+  support.Truss.Use = 2;
+  support.Bolt.Use = 3;
+  support.Standing.Use = 4;
+
+  Integer place = 0;
+  for (const SupportSystem* system : support.Systems()) EXPECT_EQ(system->Use, ++place);
+}
+
+TEST(DesignPreview, TakesTheSupportAndLeavesTheCost) {
+  Design committed;
+  Design preview;
+  committed.Place.DepthofCover = 400;
+  committed.Primary.Length = 6;
+  committed.Entries.RockFallAngle = 55;
+  committed.Intersections.RockFallAngleXcut = 65;
+  committed.Cost.BoltCost = 5.72F;
+  preview.Cost.BoltCost = 4.5F;
+
+  preview.Support() = committed.Support();
+
+  EXPECT_EQ(preview.Place.DepthofCover, 400);
+  EXPECT_EQ(preview.Primary.Length, 6);
+  EXPECT_EQ(preview.Entries.RockFallAngle, 55);
+  EXPECT_EQ(preview.Intersections.RockFallAngleXcut, 65);
+  EXPECT_EQ(preview.Cost.BoltCost, 4.5F);
+}
+
+}  // namespace
+}  // namespace orby::test
