@@ -10,16 +10,16 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 TEST(Arrows, DownwardsAndWithinAFolderAreFine) {
-  const Tree tree = {{"src/files/reader.cpp", "#include \"files/reader.h\"\n#include \"design/units.h\"\n"},
+  const Tree tree = {{"src/files/reader.cpp", "#include \"files/reader.h\"\n#include \"core/units.h\"\n"},
                      {"src/apps/orby-cli/main.cpp", "#include \"shell/menu.h\"\n#include \"qt/window.h\"\n"}};
 
   EXPECT_THAT(WrongArrows(tree), IsEmpty());
 }
 
 TEST(Arrows, UpwardsIsWrong) {
-  const Tree tree = {{"src/base/text.h", "#pragma once\n\n#include \"design/units.h\"\n"}};
+  const Tree tree = {{"src/base/text.h", "#pragma once\n\n#include \"core/units.h\"\n"}};
 
-  EXPECT_THAT(WrongArrows(tree), ElementsAre("src/base/text.h:3: \"design/units.h\" leads from base up to core"));
+  EXPECT_THAT(WrongArrows(tree), ElementsAre("src/base/text.h:3: \"core/units.h\" leads from base up to core"));
 }
 
 TEST(Arrows, SidewaysIsWrong) {
