@@ -66,55 +66,65 @@ count_tests() {
   fi
 }
 
-# run_ctest NAME PRESET [wrapper]: all tests of a build, each in a process of its own, in any order. Those at a desktop
-# wait for windows most of the time, so there is work for more tests than processors.
-run_ctest() {
+# run_program PROGRAM SEED LOG [wrapper]: a test program as one process, its tests in the order of the seed, which chooses
+# the cases of property tests too. Leaves beside the log how many tests passed and how many failed. One that breaks off without saying where counts as one failure.
+run_program() {
+  local program=$1 seed=$2 log=$3 status all bad
+  local result="${log%.log}.xml"
+  shift 3
+  RC_PARAMS="seed=$seed" timeout 900 "$@" "$program" --gtest_shuffle --gtest_random_seed="$seed" --gtest_brief=1 \
+    --gtest_output="xml:$result" >"$log" 2>&1 </dev/null
+  status=$?
+  all=$(xml_figure "$result" tests)
+  bad=$(($(xml_figure "$result" failures) + $(xml_figure "$result" skipped) + $(xml_figure "$result" disabled)))
+  if [ "$bad" -eq 0 ] && { [ $status -ne 0 ] || [ "$all" -eq 0 ]; }; then
+    echo "$program ended with status $status" >>"$log"
+    all=$((all + 1)) bad=1
+  fi
+  echo "$((all - bad)) $bad" >"${log%.log}.counts"
+}
+
+# The test programs of a build, the largest first: they take longest.
+test_programs() { find "$top/build/$1/tests" -name 'test_*' -type f -perm -u+x -printf '%s %p\n' | sort -rn | cut -d ' ' -f 2-; }
+
+# run_programs NAME PRESET SEED [wrapper]: the test programs of a build, as many at a time as there are processors.
+run_programs() {
+  local name=$1 preset=$2 seed=$3 log part good=0 bad=0 counts began=$SECONDS
+  log=$(log_of "$name")
+  shift 3
+  rm -rf "${log%.log}" && mkdir -p "${log%.log}"
+  for program in $(test_programs "$preset"); do
+    while [ "$(jobs -rp | wc -l)" -ge "$(nproc)" ]; do wait -n; done
+    run_program "$program" "$seed" "${log%.log}/${program##*/}.log" "$@" &
+  done
+  wait
+  : >"$log"
+  for part in "${log%.log}"/*.counts; do
+    read -r -a counts <"$part" || counts=(0 1)
+    good=$((good + counts[0])) bad=$((bad + counts[1]))
+    if [ "${counts[1]}" -gt 0 ]; then cat "${part%.counts}.log" >>"$log"; fi
+  done
+  [ $((good + bad)) -gt 0 ] || { echo "no test program" >"$log"; bad=1; }
+  note "$name" $good $bad $((SECONDS - began)) "$log"
+}
+
+# run_roads NAME PRESET [wrapper]: what uses the programs from outside, each in a process of its own and in any order. It
+# waits for windows most of the time, so there is work for more of it than processors.
+run_roads() {
   local name=$1 preset=$2 log result began=$SECONDS status
   log=$(log_of "$name")
   result="${log%.log}.xml"
   shift 2
-  "$@" ctest --test-dir "$top/build/$preset" -j "$((2 * $(nproc)))" --schedule-random --timeout 120 --output-on-failure \
-    --output-junit "$result" >"$log" 2>&1 </dev/null
+  "$@" ctest --test-dir "$top/build/$preset" -R '^(Desktop|Monkey)[.]' -j "$((2 * $(nproc)))" --schedule-random \
+    --timeout 120 --output-on-failure --output-junit "$result" >"$log" 2>&1 </dev/null
   status=$?
   count_tests "$name" $status "$result" $((SECONDS - began)) "$log"
 }
 
-# shuffle PRESET SEED LOG: each test program as one process, its tests in the order of the seed. Leaves beside the log how
-# many passed, how many failed and the seconds that it took.
-shuffle() {
-  local result="${3%.log}.xml" began=$SECONDS status program wrong all=0 bad=0
-  for program in "$top/build/$1"/tests/*/test_*; do
-    [ -f "$program" ] && [ -x "$program" ] || continue
-    rm -f "$result"
-    timeout 120 "$program" --gtest_shuffle --gtest_random_seed="$2" --gtest_brief=1 --gtest_output="xml:$result" \
-      >>"$3" 2>&1 </dev/null
-    status=$?
-    all=$((all + $(xml_figure "$result" tests)))
-    wrong=$(($(xml_figure "$result" failures) + $(xml_figure "$result" disabled)))
-    if [ $status -ne 0 ] && [ $wrong -eq 0 ]; then
-      echo "$program ended with status $status" >>"$3"
-      wrong=1 all=$((all + 1))
-    fi
-    bad=$((bad + wrong))
-  done
-  [ $all -gt 0 ] || { echo "no test program" >>"$3"; bad=1 all=1; }
-  echo "$((all - bad)) $bad $((SECONDS - began))" >"${3%.log}.counts"
-}
-
-# run_shuffled PRESET SEED...: as many orders at a time as there are processors.
-run_shuffled() {
-  local preset=$1 seed name log good bad seconds
-  shift
-  for seed in "$@"; do
-    while [ "$(jobs -rp | wc -l)" -ge "$(nproc)" ]; do wait -n; done
-    shuffle "$preset" "$seed" "$(log_of "tests, shuffled by $seed")" &
-  done
-  wait
-  for seed in "$@"; do
-    name="tests, shuffled by $seed" log=$(log_of "tests, shuffled by $seed")
-    read -r good bad seconds <"${log%.log}.counts" || good=0 bad=1 seconds=0
-    note "$name" "$good" "$bad" "$seconds" "$log"
-  done
+# run_tests NAME PRESET SEED [wrapper]: all tests of a build.
+run_tests() {
+  run_programs "$1" "$2" "$3" "${@:4}"
+  run_roads "$1, from outside" "$2" "${@:4}"
 }
 
 # The last line, alone, and the exit status.

@@ -88,7 +88,7 @@ void OverwrittenFile::Keep(std::string_view bytes) {
 // Returns where the bytes are kept; nothing if there are none, or if they could not be kept.
 std::optional<std::string> OverwrittenFile::KeepCopy(const std::string& bytes, BackupReason reason) {
   if (bytes.empty()) return std::nullopt;
-  const auto kept = KeepBackup(program_, program_.platform.files.AbsolutePath(path_), bytes, reason);
+  auto kept = KeepBackup(program_, program_.platform.files.AbsolutePath(path_), bytes, reason);
   lacksBackup_ = lacksBackup_ || !kept;
   return kept;
 }
