@@ -1,8 +1,10 @@
 // Tabs, menus, tool bars, and widgets that are only shown.
 #include <QAction>
+#include <QEvent>
 #include <QMenu>
 #include <QProgressBar>
 #include <QSignalBlocker>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QToolBar>
 
@@ -26,11 +28,21 @@ QString EntryText(const QString& caption) {
   return text;
 }
 
-class TabBinding : public Binding {
+class TabBinding : public QObject, public Binding {
  public:
   TabBinding(BindingHost& host, TabSet& tabs)
       : host_(host), tabs_(tabs), widget_(FindNamed<QTabWidget>(host, std::string(tabs.Name()))) {
     QObject::connect(&widget_, &QTabWidget::currentChanged, &widget_, [this](int tab) { Turn(tab); });
+    widget_.tabBar()->installEventFilter(this);
+  }
+
+  // From a disabled tab a part of a step, as a fine wheel sends it, makes the toolkit look for the next tab for ever.
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::Wheel || widget_.isTabEnabled(widget_.currentIndex())) {
+      return QObject::eventFilter(watched, event);
+    }
+    event->ignore();
+    return true;
   }
 
   void Show() override {

@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QLineEdit>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QWheelEvent>
@@ -429,6 +430,23 @@ TEST_F(ManualBolt, LeavesTheListAloneWhenTheWheelPassesOverIt) {
     QCoreApplication::sendEvent(&list, &wheel);
 
     EXPECT_EQ(dialog.cmbBoltGradePrimary.Text(), before);
+  });
+}
+
+TEST_F(ParametersView, LeavesADisabledTabAloneWhenAFineWheelPassesOverIt) {
+  Use(dialog, [&](QDialog& window) {
+    dialog.chkSecEntries[0].SetValue(0);
+    auto& bar = *Find<QTabWidget>(window, "SSTab2").tabBar();
+    const int tab = bar.currentIndex();
+    const QPointF at = bar.rect().center();
+    QWheelEvent partOfAStep(at, bar.mapToGlobal(at), QPoint(), QPoint(0, -15), Qt::NoButton, Qt::NoModifier,
+                            Qt::NoScrollPhase, false);
+    EXPECT_FALSE(bar.isTabEnabled(tab));
+
+    QCoreApplication::sendEvent(&bar, &partOfAStep);
+
+    EXPECT_EQ(bar.currentIndex(), tab);
+    window.close();
   });
 }
 

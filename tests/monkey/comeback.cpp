@@ -70,11 +70,18 @@ bool IsSame(std::string_view after, std::string_view before) {
   return std::abs(NumberOf(after).value_or(0) - was) <= 0.5001 * std::pow(10.0, -decimals) + std::abs(was) * 1e-6;
 }
 
+// A field of numbers keeps what a text begins with, 0 if that is no number.
+bool IsNumberOf(std::string_view after, const ShownField& field) {
+  const std::string_view before = field.text.View();
+  const bool isName = field.name.View().find("SupportType") != std::string_view::npos;
+  return !isName && !IsNumber(before) && IsNumber(after) && NumberOf(after) == NumberOf(before);
+}
+
 // Whether the text is one that the field may come back with.
 bool IsBack(const ShownField& field, std::string_view after) {
   // A name may look like a number.
-  return after == field.typed.View() || IsSame(after, field.text.View()) || IsSame(after, field.settled.View()) ||
-         (!FitsWhole(field.text.View()) && IsSame(after, field.whole.View()));
+  return after == field.typed.View() || IsNumberOf(after, field) || IsSame(after, field.text.View()) ||
+         IsSame(after, field.settled.View()) || (!FitsWhole(field.text.View()) && IsSame(after, field.whole.View()));
 }
 
 using Texts = std::map<std::string, std::string>;
