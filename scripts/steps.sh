@@ -72,7 +72,7 @@ run_program() {
   local program=$1 seed=$2 log=$3 status all bad
   local result="${log%.log}.xml"
   shift 3
-  RC_PARAMS="seed=$seed" timeout 900 "$@" "$program" --gtest_shuffle --gtest_random_seed="$seed" --gtest_brief=1 \
+  RC_PARAMS="seed=$seed" "$@" timeout 900 "$program" --gtest_shuffle --gtest_random_seed="$seed" --gtest_brief=1 \
     --gtest_output="xml:$result" >"$log" 2>&1 </dev/null
   status=$?
   all=$(xml_figure "$result" tests)
