@@ -180,6 +180,11 @@ void NoteShown(ShownProject& shown) {
 
 void NoteEndedProject(ShownProject& shown) {
   shown.awaited = true;
+  // An act may have begun before what the one before it showed, such as a rating that the estimator has just given.
+  if (const QWidget* editor = WindowNamed(std::string(shown.form.View()).c_str())) {
+    int at = 0;
+    for (const auto& [name, text] : FieldsOf(*editor)) FieldNamed(shown, name, at++).typed.Set(text);
+  }
   shown.unsaved = HasKept();
   if (const QWidget* main = WindowNamed("frmMain")) shown.file.Set(FileInCaption(*main).toStdString());
   shown.title.Set(KeptTitle());
