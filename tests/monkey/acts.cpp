@@ -91,6 +91,8 @@ class Acting {
     if (qobject_cast<QMessageBox*>(window_) != nullptr) return AnswerBox();
     if (auto* dialog = qobject_cast<QFileDialog*>(window_)) return AnswerFileDialog(*dialog);
     if (window_->objectName() == "frmMain" && dice_.Percent(60)) return UseMainWindow();
+    // Its options are in its menus alone.
+    if (window_->objectName() == "frmGraph" && dice_.OneIn(2)) return UseMenu();
     ActInDialog();
   }
 
@@ -133,8 +135,13 @@ class Acting {
   void UseMainWindow() {
     if (dice_.OneIn(8)) return Drop();
     if (dice_.OneIn(6)) return Shortcut();
+    if (dice_.OneIn(6)) return ClickAt(ButtonIn(*window_, dice_));
+    UseMenu();
+  }
+
+  void UseMenu() {
     auto* bar = window_->findChild<QMenuBar*>();
-    if (bar == nullptr || !bar->isVisible() || dice_.OneIn(6)) return ClickAt(ButtonIn(*window_, dice_));
+    if (bar == nullptr || !bar->isVisible()) return ClickAt(ButtonIn(*window_, dice_));
     QAction* menu = dice_.OneOf(bar->actions());
     ClickAt({bar, bar->actionGeometry(menu).center(), "menu '" + PlainCaption(menu->text()) + "'"});
   }
