@@ -130,7 +130,7 @@ void CheckSections(const std::string& bytes) {
   Expect(IsWithin(program.recentFiles.MaxLastFiles, 0, orby::RecentFiles::Capacity));
   Expect(program.settings.DataPath == "/data/" && platform.boxes.shown.empty());
   orby::WriteNewIniFile(program, orby::NewIniText(program));
-  Expect(orby::ReadIniVersion(program) == orby::BuildStamp);
+  Expect(orby::IniVersion(orby::ReadIniFile(program, program.IniFilePath)) == orby::BuildStamp);
 }
 
 }  // namespace
