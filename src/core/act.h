@@ -18,8 +18,8 @@ inline constexpr std::string_view UnnamedAct = "during your last step";
 
 // Does the work. A RuntimeError that leaves it says what was being done. The object is copied: the work may change it.
 template <class Work>
-decltype(auto) While(Act act, std::string_view objectNow, const Work& work) {
-  const std::string object(objectNow);
+decltype(auto) While(Act act, std::string_view present, const Work& work) {
+  const std::string object(present);
   try {
     return work();
   } catch (RuntimeError& error) {

@@ -89,11 +89,11 @@ class ParametersDialog : public ParametersControls {
 
   void FillLists();
   void InitParameters();
-  // Reads the fields into the record, as far as it can hold them, and gives the first field whose number it cannot, or
+  // Reads the fields into the design, as far as it can hold them. Returns the first field whose number it cannot, or
   // nullptr. manualEntry, manualInter: the controls that the manual bolt selections of these two sets are read from.
-  const Control* StoreFields(Design& record, const BoltControls& manualEntry, const BoltControls& manualInter) const;
+  const Control* StoreFields(Design& design, const BoltControls& manualEntry, const BoltControls& manualInter) const;
   // The same for the user's command: all fields or, when one is refused, none.
-  bool TakeFields(Design& record, const BoltControls& manualEntry, const BoltControls& manualInter);
+  bool TakeFields(Design& design, const BoltControls& manualEntry, const BoltControls& manualInter);
   // Whether a commit would take all fields; tells what is refused.
   bool MayCommit();
   void TellRefused(const Control& field);

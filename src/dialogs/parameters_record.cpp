@@ -1,4 +1,4 @@
-// The parameters dialog and the project record: filling the fields, and reading them back.
+// The parameters dialog and the design: filling the fields, and reading them back.
 #include "base/arithmetic.h"
 #include "base/attempt.h"
 #include "base/number_text.h"
@@ -65,7 +65,7 @@ constexpr FlagField FlagFields[] = {
     {&C::chkSecondSupInter, [](auto& d) { return &d.Intersections.Analysed; }},
 };
 
-// Reads numbers into a record and remembers the first control whose number did not fit.
+// Reads numbers into a design and remembers the first control whose number did not fit.
 class NumberReader {
  public:
   void Read(Single& field, const TextBox& box) { Read(field, box, box.Text()); }

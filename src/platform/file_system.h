@@ -27,7 +27,7 @@ class OutputFile {
 class InputFile {
  public:
   virtual ~InputFile() = default;
-  // The next bytes, so many at most; none at the end of the file.
+  // Reads up to `most` bytes; none at the end of the file.
   virtual std::string Read(std::size_t most) = 0;
 };
 

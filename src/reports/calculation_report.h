@@ -7,7 +7,7 @@ namespace orby {
 
 // Writes the page into program.OutBuf[1] from program.WorkParms, replacing what was there, and makes it the last page.
 // Primary support and the densities of secondary support in entries are computed here; rock loads, capacities and
-// stability factors of secondary support are printed as the dialog left them in the record.
+// stability factors of secondary support are printed as the dialog left them in the design.
 // There are no guards: the inputs are those that passed the dialog's checks. Throws RuntimeError 11 for a pattern
 // without row spacing or width, and for roof bolts in entries that have no cable bolts; RuntimeError 5 for a depth of
 // 0 or less under primary support.

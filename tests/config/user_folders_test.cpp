@@ -218,7 +218,7 @@ TEST_F(WorkingFolder, StaysWhenNoneCanBeEntered) {
 
   EnterWorkingFolder(program);
 
-  EXPECT_EQ(platform.files.workingFolder, "/work");
+  EXPECT_EQ(platform.files.workingFolder, "/section");
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 

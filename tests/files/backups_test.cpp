@@ -259,7 +259,7 @@ TEST_F(Backups, OfADroppedDesignStandUnderTheWholePathOfItsProject) {
 
   KeepDropped(program(), CommittedProject(program()), BackupReason::Dropped);
 
-  EXPECT_EQ(ListBackups(program()).front().Project, "/work/panel3.orb");
+  EXPECT_EQ(ListBackups(program()).front().Project, "/section/panel3.orb");
 }
 
 TEST_F(Backups, OfADroppedDesignWithoutANameAreUntitled) {

@@ -290,7 +290,7 @@ TEST_F(StartOfAScript, WritesNothingAndStaysWhereItIs) {
 
   EXPECT_THAT(platform.files.files, IsEmpty());
   EXPECT_THAT(platform.files.folders, ElementsAre("/program", "/tmp"));
-  EXPECT_EQ(platform.files.workingFolder, "/work");
+  EXPECT_EQ(platform.files.workingFolder, "/section");
   EXPECT_EQ(program.folders.ProgramData, "");
 }
 
@@ -341,7 +341,7 @@ TEST_F(CommandLineOfARun, MayBeEmpty) {
 
 TEST_F(CommandLineOfARun, NamesAFileFromTheRoot) {
   EXPECT_EQ(CommandLineFile(program, {"/designs/panel.ORB"}), "/designs/panel.ORB");
-  EXPECT_EQ(CommandLineFile(program, {"panel.ORB"}), "/work/panel.ORB");
+  EXPECT_EQ(CommandLineFile(program, {"panel.ORB"}), "/section/panel.ORB");
 }
 
 TEST_F(CommandLineOfARun, LosesItsDoubleQuotesWhereverTheyStand) {
@@ -351,7 +351,7 @@ TEST_F(CommandLineOfARun, LosesItsDoubleQuotesWhereverTheyStand) {
 
 TEST_F(CommandLineOfARun, IsOneNameHoweverManyArgumentsItHas) {
   EXPECT_EQ(CommandLineFile(program, {"\"/designs/north", "mains.ORB\""}), "/designs/north mains.ORB");
-  EXPECT_EQ(CommandLineFile(program, {"north", "", "-mains.ORB"}), "/work/north  -mains.ORB");
+  EXPECT_EQ(CommandLineFile(program, {"north", "", "-mains.ORB"}), "/section/north  -mains.ORB");
 }
 
 }  // namespace

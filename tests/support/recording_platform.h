@@ -221,7 +221,7 @@ class MemoryFiles : public FileSystem {
   std::map<std::string, std::string> likeOthers;  // files that were made like another one
   std::set<std::string> marked;                   // files in use by a program
   std::vector<std::string> drives{"/"};
-  std::string workingFolder = "/work";
+  std::string workingFolder = "/section";
   std::vector<std::string> created;
   std::size_t bytesRead = 0;  // from files that were read piece by piece
 
