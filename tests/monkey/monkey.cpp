@@ -28,6 +28,10 @@ void GiveKeyboard() {
   if (QWidget* window = WindowInUse()) window->activateWindow();
 }
 
+// A list that pops up and is gone again can become the window in use on the offscreen platform; no desktop gives such
+// a list the keyboard.
+void LeavePopup() { QApplication::setActiveWindow(QApplication::activeModalWidget()); }
+
 }  // namespace
 
 Monkey::Monkey(Ledger& ledger, RunRecord& record, bool byItself) : ledger_(ledger), record_(record) {
@@ -59,10 +63,10 @@ void Monkey::Begin() {
 }
 
 bool Monkey::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::Show && watched->isWidgetType()) {
-    auto& widget = static_cast<QWidget&>(*watched);
-    if (widget.isWindow()) ++ledger_.windows[WindowName(widget).toStdString()];
-  }
+  if (!watched->isWidgetType()) return false;
+  auto& widget = static_cast<QWidget&>(*watched);
+  if (event->type() == QEvent::Show && widget.isWindow()) ++ledger_.windows[WindowName(widget).toStdString()];
+  if (event->type() == QEvent::WindowActivate && widget.windowType() == Qt::Popup) LeavePopup();
   return false;
 }
 
