@@ -178,8 +178,9 @@ void NoteShown(ShownProject& shown) {
   for (const auto& [name, text] : fields) FieldNamed(shown, name, at++).settled.Set(text);
 }
 
-void NoteEndedProject(ShownProject& shown) {
+void NoteEndedProject(ShownProject& shown, bool half) {
   shown.awaited = true;
+  shown.half = half;
   // An act may have begun before what the one before it showed, such as a rating that the estimator has just given.
   if (const QWidget* editor = WindowNamed(std::string(shown.form.View()).c_str())) {
     int at = 0;
@@ -214,7 +215,7 @@ bool Comeback::AnswerQuestion(QWidget& window) {
 
 void Comeback::CompareCaption(const QWidget& mainWindow) {
   // After the other button a project without changes is not opened again.
-  if (!shown_.unsaved && !byItself_) return;
+  if (shown_.half || (!shown_.unsaved && !byItself_)) return;
   const std::string file = FileInCaption(mainWindow).toStdString();
   if (file != shown_.file.View() || mainWindow.windowTitle().endsWith('*') != shown_.unsaved) {
     find_("the project is not back: its name", "shown before: " + std::string(shown_.file.View()) +
@@ -224,7 +225,7 @@ void Comeback::CompareCaption(const QWidget& mainWindow) {
 
 void Comeback::LookAtFields(QWidget& mainWindow) {
   for (const Editor& editor : Editors) {
-    if (shown_.form.View() != editor.form) continue;
+    if (shown_.half || shown_.form.View() != editor.form) continue;
     QWidget* window = WindowNamed(editor.form);
     if (window == nullptr || !window->isVisible()) {
       if (patience_++ % StepsToSettle == 0) mainWindow.findChild<QAction*>(editor.action)->trigger();

@@ -14,8 +14,9 @@ namespace orby::monkey {
 // run is not in it.
 void NoteShown(ShownProject& shown);
 
-// The run ends: what the main window and the file of unsaved work say of the project.
-void NoteEndedProject(ShownProject& shown);
+// The run ends: what the main window and the file of unsaved work say of the project. half: it is what had been read of
+// a refused file, so the next run begins with a new project.
+void NoteEndedProject(ShownProject& shown, bool half);
 
 // Looks for the project in a new run, step by step, as a user would.
 class Comeback {

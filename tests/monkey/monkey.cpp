@@ -22,6 +22,12 @@ QMessageBox* EndBox() {
              : nullptr;
 }
 
+// A file that could not be read to its end leaves what had been read of it.
+bool IsRefusal(const QWidget* window) {
+  const auto* box = qobject_cast<const QMessageBox*>(window);
+  return box != nullptr && (box->text().startsWith("Error occurred") || box->text().contains("can not be opened"));
+}
+
 // As a window manager does when the window with the keyboard goes.
 void GiveKeyboard() {
   if (QGuiApplication::focusWindow() != nullptr || QApplication::activePopupWidget() != nullptr) return;
@@ -74,6 +80,7 @@ void Monkey::Turn() {
   NoteAct();
   if (!begun_) Begin();
   if (QMessageBox* box = EndBox()) return TakeEnd(*box);
+  refused_ = refused_ || IsRefusal(QApplication::activeModalWidget());
   if (comeback_ != nullptr) {
     comeback_->Step();
     if (!ledger_.shown.awaited) comeback_.reset();
@@ -109,7 +116,7 @@ void Monkey::TakeEnd(QMessageBox& box) {
     const int number = text.section('\'', 1, 1).toInt();
     record_.trace.Set(OriginOfError(number));
     // A project that ends the run while it is being looked for is not waited for again.
-    if (comeback_ == nullptr) NoteEndedProject(ledger_.shown);
+    if (comeback_ == nullptr) NoteEndedProject(ledger_.shown, refused_ && text.contains("with a new project"));
   }
   for (QAbstractButton* button : box.buttons()) {
     if (PlainCaption(button->text()) == "Start Again") return button->click();

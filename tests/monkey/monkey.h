@@ -29,6 +29,7 @@ class Monkey : public QObject {
   Ledger& ledger_;
   RunRecord& record_;
   bool begun_ = false;
+  bool refused_ = false;  // in this run
   std::unique_ptr<Comeback> comeback_;
 };
 
