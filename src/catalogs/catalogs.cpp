@@ -73,7 +73,7 @@ void SizeSupports(StandingSupports& supports) {
 }
 
 const CatalogList& ByUnits(const Program& program, const CatalogList& english, const CatalogList& metric) {
-  return program.Units == Metric ? metric : english;
+  return program.WorkParms.Units == Metric ? metric : english;
 }
 
 }  // namespace
@@ -115,14 +115,14 @@ void SetDefaultStandSupportNames(Catalogs& catalogs) {
 void SetDefaultStandSupportCapsENG(Catalogs& catalogs) {
   SizeSupports(catalogs.StandSupports);
   for (std::size_t i = 0; i < Supports.size(); ++i) {
-    catalogs.StandSupports.DefaultStandSupportCap[i][English] = Supports[i].tons;
+    catalogs.StandSupports.DefaultStandSupportCap[i][PlaceOf(English)] = Supports[i].tons;
   }
 }
 
 void SetDefaultStandSupportCapsMET(Catalogs& catalogs) {
   SizeSupports(catalogs.StandSupports);
   for (std::size_t i = 0; i < Supports.size(); ++i) {
-    catalogs.StandSupports.DefaultStandSupportCap[i][Metric] = Supports[i].kilonewtons;
+    catalogs.StandSupports.DefaultStandSupportCap[i][PlaceOf(Metric)] = Supports[i].kilonewtons;
   }
 }
 
@@ -159,7 +159,7 @@ void SetBuiltInCatalogs(Catalogs& catalogs) {
 }
 
 const BoltTable& LoadBoltTable(Program& program) {
-  if (program.Units != Metric) return program.catalogs.BoltTableENG;
+  if (program.WorkParms.Units != Metric) return program.catalogs.BoltTableENG;
   if (UsesAustralianTable(program)) {
     SetBoltTableAUS(program.catalogs);
   } else {
@@ -174,7 +174,7 @@ const CatalogList& BoltDiameters(const Program& program) {
 
 const CatalogList& BoltGrades(const Program& program) {
   const Catalogs& lists = program.catalogs;
-  return program.BoltStrengthMode == 0
+  return program.WorkParms.Basis == StrengthBasis::Yield
              ? ByUnits(program, lists.DefaultBoltGradeArrayENG, lists.DefaultBoltGradeArrayMET)
              : ByUnits(program, lists.DefaultBoltUTSArrayENG, lists.DefaultBoltUTSArrayMET);
 }
@@ -189,7 +189,7 @@ const CatalogList& CableCapacities(const Program& program) {
 
 Single StandSupportCap(const Program& program, std::size_t index) {
   const auto& [tons, kilonewtons] = program.catalogs.StandSupports.DefaultStandSupportCap[index];
-  return program.Units == Metric ? kilonewtons : tons;
+  return program.WorkParms.Units == Metric ? kilonewtons : tons;
 }
 
 }  // namespace orby

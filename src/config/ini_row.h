@@ -16,9 +16,11 @@ namespace orby {
 template <class Group>
 struct IniRow {
   std::string_view Key;
-  std::variant<Integer Group::*, Single Group::*, std::string Group::*> Member;
-  std::optional<IniRange> Range = std::nullopt;  // a Single that has one is read as a whole number
-  std::string_view Default = {};                 // what an empty or missing value reads as
+  std::variant<Integer Group::*, Single Group::*, std::string Group::*, UnitSystem Group::*, StrengthBasis Group::*>
+      Member;
+  // A Single that has one is read as a whole number; a choice has one.
+  std::optional<IniRange> Range = std::nullopt;
+  std::string_view Default = {};  // what an empty or missing value reads as
   // What becomes of a text that was read.
   std::string (*Accepted)(Program& program, const std::string& read) = nullptr;
   // The reader asks for the key with a blank behind its name, the writer writes it without. The value comes back only
@@ -38,6 +40,8 @@ void ReadIniRow(Program& program, Group& group, const IniText& ini, std::string_
       std::string text = ReadIniValue(ini, section, key, row.Default);
       if (row.IsPath) text = PathFromValue(text);
       group.*member = row.Accepted != nullptr ? row.Accepted(program, text) : text;
+    } else if constexpr (std::is_enum_v<Value>) {
+      group.*member = Value{ReadIniInteger(ini, section, key, *row.Range, row.Default)};
     } else if (row.Range) {
       group.*member = ReadIniInteger(ini, section, key, *row.Range, row.Default);
     } else if constexpr (std::same_as<Value, Single>) {
@@ -54,7 +58,10 @@ void WriteIniRow(const Group& group, IniText& ini, std::string_view section, con
                  std::string_view suffix = {}) {
   const std::string key = std::string(row.Key).append(suffix);
   const auto write = [&](auto member) {
-    if constexpr (std::same_as<std::remove_cvref_t<decltype(group.*member)>, std::string>) {
+    using Value = std::remove_cvref_t<decltype(group.*member)>;
+    if constexpr (std::is_enum_v<Value>) {
+      WriteIniValue(ini, section, key, NumberOf(group.*member));
+    } else if constexpr (std::same_as<Value, std::string>) {
       WriteIniValue(ini, section, key, row.IsPath ? ValueFromPath(group.*member) : group.*member);
     } else {
       WriteIniValue(ini, section, key, group.*member);

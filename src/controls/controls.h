@@ -163,6 +163,12 @@ class OptionArray : public Control {
 // The index of the last member that is on; 0 when none is.
 Integer GetArrayIndex(const OptionArray& options);
 
+// The same for a choice whose options stand in the order of its values.
+template <class Choice>
+Choice Chosen(const OptionArray& options) {
+  return Choice{GetArrayIndex(options)};
+}
+
 struct ComboItem {
   std::string text;
   double data = 0;  // a whole number

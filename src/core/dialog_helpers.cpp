@@ -61,7 +61,7 @@ bool RangeCheck(Program& program, std::string_view text, double minimum, double 
   return false;
 }
 
-void AppendUnits(const Form& form, Integer units) {
+void AppendUnits(const Form& form, UnitSystem units) {
   for (Control* control : form.Controls()) {
     if (auto* label = dynamic_cast<Label*>(control)) {
       if (label->UnitRow() == NoUnit) continue;

@@ -23,7 +23,7 @@ std::optional<double> FittingNumber(std::string_view text);
 bool RangeCheck(Program& program, std::string_view text, double minimum, double maximum, std::string_view fieldName);
 
 // Appends the units of the project to every caption of the form that has one.
-void AppendUnits(const Form& form, Integer units);
+void AppendUnits(const Form& form, UnitSystem units);
 
 // What each dialog does first: the titles of its messages and the normal cursor.
 void PrepareForm(Program& program, int moduleIndex);

@@ -66,8 +66,6 @@ inline constexpr Integer Cost = 2;
 // What the calculations of a report are made from.
 struct ReportBasis {
   RoofSupport Support;
-  Integer Units = English;
-  Integer BoltStrengthMode = 0;
   bool UsesAustralianTable = false;
   Catalogs catalogs;
   bool operator==(const ReportBasis&) const = default;
@@ -94,8 +92,6 @@ struct Program {
 
   Design WorkParms;      // the committed design
   Design WorkParmsCopy;  // what a dialog shows, for previews and curves
-  Integer Units = English;
-  Integer BoltStrengthMode = 0;  // 0: grades are yield strengths, 1: ultimate strengths
   Integer UseAUSStandardTable = 0;
   std::string ProjectTitle;
   std::string ProjectDescription;
@@ -143,7 +139,7 @@ struct Program {
 
 // Whether the Australian table of bolts is the one in force: it is a variant of the Metric tables.
 inline bool UsesAustralianTable(const Program& program) {
-  return program.UseAUSStandardTable == 1 && program.Units == Metric;
+  return program.UseAUSStandardTable == 1 && program.WorkParms.Units == Metric;
 }
 
 }  // namespace orby

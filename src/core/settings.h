@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "base/types.h"
+#include "design/units.h"
 
 namespace orby {
 
@@ -14,7 +15,7 @@ inline constexpr std::string_view BuiltInViewer = "Notepad.exe";
 
 // Flags are 0 and 1 but for the font flags, which are 0 and -1.
 struct Settings {
-  Integer UnitsDefault = 0;
+  UnitSystem UnitsDefault = English;
   Integer DisplayHistoryWin = 1;
   Integer MaxDisplaySize = 2048;  // length at which the history is trimmed, characters
   std::string DisplayFontName;
@@ -47,7 +48,7 @@ struct TextBrowseSettings {
 
 // Choices that last until the program ends: they are written to a section that is never read.
 struct OptionSettings {
-  Integer BoltGradeAsUltimateDefault = 0;  // 1: the grades of a new design are ultimate strengths
+  StrengthBasis BoltGradeAsUltimateDefault = StrengthBasis::Yield;  // of a new design
   Integer OutputStrUnits = 0;
   Integer OutputStrGradUnits = 0;
   Integer ShowInputScreenOnLoad = 1;
@@ -86,7 +87,7 @@ struct GraphSettings {
   Integer GraphStyle = graph_style::LinesAndSymbols;
   Integer CurveLegend = 1;
   Integer SymbolSize = 6;
-  Integer GraphUnits = 0;  // the unit system that the axis titles were composed in
+  UnitSystem GraphUnits = English;  // the unit system that the axis titles were composed in
   std::string GraphTitle;
   std::array<std::string, 10> XAxisTitle;  // one a curve
   std::array<std::string, 3> YAxisTitle;   // one a dependent variable

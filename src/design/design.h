@@ -2,13 +2,14 @@
 // intersections, cost of bolting.
 //
 // Lengths are ft (m), stresses ksi (MPa), forces tons (kN), line loads tons/ft (kN/m), diameters in (mm), unit weight
-// pcf (kN/m3), angles degrees: English (Metric), as the project's unit system says. Flags are 0 and 1.
+// pcf (kN/m3), angles degrees: English (Metric), as the design's unit system says. Flags are 0 and 1.
 #pragma once
 
 #include <array>
 #include <string>
 
 #include "base/types.h"
+#include "design/units.h"
 
 namespace orby {
 
@@ -146,6 +147,8 @@ struct CostInputs {
 
 // What the calculations of the report depend on: a preview takes these, and leaves the cost.
 struct RoofSupport {
+  UnitSystem Units = English;
+  StrengthBasis Basis = StrengthBasis::Yield;
   Site Place;
   PrimarySupport Primary;
   SecondarySupport Entries;

@@ -36,15 +36,15 @@ constexpr std::array<LabelRow, unit_row::Count> Labels{{
 
 }  // namespace
 
-std::string_view UnitLabel(int row, Integer units) {
-  if (row < 0 || row >= unit_row::Count || units < English || units > Metric) {
+std::string_view UnitLabel(int row, UnitSystem units) {
+  if (row < 0 || row >= unit_row::Count || (units != English && units != Metric)) {
     throw RuntimeError(error_number::Subscript);
   }
   const LabelRow& labels = Labels[static_cast<std::size_t>(row)];
   return units == English ? labels.english : labels.metric;
 }
 
-std::string_view UnitSummary(Integer units) {
+std::string_view UnitSummary(UnitSystem units) {
   return units == English ? "ft, in, lbs, psi, pcf" : "m, cm, kN, MPa, kN/m3";
 }
 

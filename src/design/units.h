@@ -1,14 +1,21 @@
 // The two unit systems: conversion factors and the suffixes that captions and report lines end in.
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 #include "base/types.h"
 
 namespace orby {
 
-inline constexpr Integer English = 0;
-inline constexpr Integer Metric = 1;
+enum class UnitSystem : Integer { English, Metric };
+using enum UnitSystem;
+
+// The place of a unit system in a pair of values, one for each.
+constexpr std::size_t PlaceOf(UnitSystem units) { return static_cast<std::size_t>(units); }
+
+// How the grades of roof bolts are meant. A project file may hold another number, which stays.
+enum class StrengthBasis : Integer { Yield, Ultimate };
 
 inline constexpr double FeetPerMetre = 3.280839895013123;
 inline constexpr double MillimetresPerInch = 25.4;
@@ -33,9 +40,9 @@ inline constexpr int Count = 18;
 }  // namespace unit_row
 
 // The suffix of a row in a unit system, starting with a blank: " (ft)". Throws RuntimeError 9 outside the table.
-std::string_view UnitLabel(int row, Integer units);
+std::string_view UnitLabel(int row, UnitSystem units);
 
 // The system in a few words: "ft, in, lbs, psi, pcf".
-std::string_view UnitSummary(Integer units);
+std::string_view UnitSummary(UnitSystem units);
 
 }  // namespace orby

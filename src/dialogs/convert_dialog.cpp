@@ -24,17 +24,17 @@ ConvertDialog::ConvertDialog(Program& program, std::function<void()> converted)
 void ConvertDialog::OnOpen() {
   PrepareForm(program_, message_module::Conversion);
   AddHistoryLine(program_, "Loading File Conversion Form");
-  const Integer other = program_.Units == English ? Metric : English;
-  Option1.SetMemberEnabled(static_cast<std::size_t>(English), other == English);
-  Option1.SetMemberEnabled(static_cast<std::size_t>(Metric), other == Metric);
-  SetArrayIndex(program_, Option1, other);
+  const UnitSystem other = program_.WorkParms.Units == English ? Metric : English;
+  Option1.SetMemberEnabled(PlaceOf(English), other == English);
+  Option1.SetMemberEnabled(PlaceOf(Metric), other == Metric);
+  SetArrayIndex(program_, Option1, NumberOf(other));
   // A conversion always loads the result.
   SetArrayIndex(program_, Option2, LoadConvertedProject);
 }
 
 void ConvertDialog::Convert() {
   try {
-    ConvertProject(program_, GetArrayIndex(Option1));
+    ConvertProject(program_, Chosen<UnitSystem>(Option1));
   } catch (const RuntimeError& error) {
     failure_ = error;
   }

@@ -102,7 +102,7 @@ void CostDialog::OnOpen() {
   WasCommitted = false;
   program_.ReportCaller = report_caller::Cost;
   FillFields();
-  AppendUnits(*this, program_.Units);
+  AppendUnits(*this, program_.WorkParms.Units);
   CalcAdvance();
   CalcProduction();
   AddHistoryLine(program_, history_text::EditingParameters);

@@ -20,7 +20,8 @@ void Offer(Program& program, OptionArray& options, Integer present) {
 }
 
 // A choice that differs starts the design anew, from the values that go with it.
-void Choose(Program& program, Integer& choice, Integer chosen) {
+template <class Choice>
+void Choose(Program& program, Choice& choice, Choice chosen) {
   if (chosen == choice) return;
   choice = chosen;
   FileNew(program, false, false);
@@ -30,7 +31,8 @@ void Choose(Program& program, Integer& choice, Integer chosen) {
 
 DescriptionDialog::DescriptionDialog(Program& program) : program_(program) {
   // The table is one of metric bolts.
-  Option1.Click = [this](Integer units) {
+  Option1.Click = [this](Integer) {
+    const auto units = Chosen<UnitSystem>(Option1);
     if (units == English) Check1.SetValue(0);
     Check1.SetEnabled(units == Metric);
   };
@@ -52,8 +54,8 @@ void DescriptionDialog::OnOpen() {
   Text1.SetText(program_.ProjectTitle);
   Text2.SetText(program_.ProjectDescription);
   ShowPutBack();
-  Offer(program_, Option1, program_.Units);
-  Offer(program_, Option2, program_.BoltStrengthMode);
+  Offer(program_, Option1, NumberOf(program_.WorkParms.Units));
+  Offer(program_, Option2, NumberOf(program_.WorkParms.Basis));
   // Feet leave the box empty, whatever was chosen in a metric project before.
   if (Check1.Enabled()) Check1.SetValue(program_.UseAUSStandardTable);
   program_.platform.windows.CenterForm(*this);
@@ -97,13 +99,13 @@ void DescriptionDialog::OnClose() {
 // the backups alone.
 void DescriptionDialog::Commit() {
   const bool hasNewTexts = Text1.Text() != program_.ProjectTitle || Text2.Text() != program_.ProjectDescription;
-  const bool startsAnew =
-      GetArrayIndex(Option1) != program_.Units || GetArrayIndex(Option2) != program_.BoltStrengthMode;
+  const bool startsAnew = Chosen<UnitSystem>(Option1) != program_.WorkParms.Units ||
+                          Chosen<StrengthBasis>(Option2) != program_.WorkParms.Basis;
   program_.ProjectTitle = Text1.Text();
   program_.ProjectDescription = Text2.Text();
   if (startsAnew && (hasNewTexts || !program_.FileSaved)) KeepChanges(program_, CommittedProject(program_));
-  Choose(program_, program_.Units, GetArrayIndex(Option1));
-  Choose(program_, program_.BoltStrengthMode, GetArrayIndex(Option2));
+  Choose(program_, program_.WorkParms.Units, Chosen<UnitSystem>(Option1));
+  Choose(program_, program_.WorkParms.Basis, Chosen<StrengthBasis>(Option2));
   program_.UseAUSStandardTable = Check1.Value();
   program_.FileSaved = false;
   program_.FileEmpty = false;

@@ -89,9 +89,9 @@ constexpr std::array Preferences{
     Preference{&C::chkOffice, &OptionSettings::AskOfficeInstall},
 };
 
-constexpr std::array<std::size_t, 2> Pages{English, Metric};
+constexpr std::array<std::size_t, 2> Pages{PlaceOf(English), PlaceOf(Metric)};
 // Where both pages edit one value, the English page has the last word.
-constexpr std::array<std::size_t, 2> PagesAsStored{Metric, English};
+constexpr std::array<std::size_t, 2> PagesAsStored{PlaceOf(Metric), PlaceOf(English)};
 
 // Of the grids of cables, so that diameters and capacities share their room.
 constexpr int CapacityColumnWidth = 2000;
@@ -138,7 +138,7 @@ void OptionsDialog::OnOpen() {
 
 void OptionsDialog::FillFields() {
   for (const Preference& row : Preferences) (this->*row.Box).SetValue(program_.options.*row.Member);
-  SetArrayIndex(program_, optStrength, program_.options.BoltGradeAsUltimateDefault);
+  SetArrayIndex(program_, optStrength, NumberOf(program_.options.BoltGradeAsUltimateDefault));
   for (const DefaultField& row : DefaultFields) {
     for (const std::size_t page : Pages) {
       const auto fill = [&](auto member) { (this->*row.Boxes)[page].SetText(NumberText(program_.defaults.*member)); };
@@ -223,7 +223,7 @@ void OptionsDialog::Store() {
   program_.defaults = defaults;
   program_.catalogs = std::move(catalogs);
   for (const Preference& row : Preferences) program_.options.*row.Member = (this->*row.Box).Value();
-  program_.options.BoltGradeAsUltimateDefault = GetArrayIndex(optStrength);
+  program_.options.BoltGradeAsUltimateDefault = Chosen<StrengthBasis>(optStrength);
 }
 
 void OptionsDialog::OnClose() {

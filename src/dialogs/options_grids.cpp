@@ -53,7 +53,7 @@ Single NumberAt(const OverlayEditing& grid, int entry, int column) {
 Integer HighestIndexOf(const OverlayEditing& grid) { return ToInteger(grid.Entries() - 1); }
 
 // A capacity in tons and kN, the latter in whole kN as in the built-in catalog.
-std::array<Single, 2> BothCapacities(Single capacity, Integer units) {
+std::array<Single, 2> BothCapacities(Single capacity, UnitSystem units) {
   if (units == Metric) return {ToSingle(capacity / KilonewtonsPerTon), capacity};
   return {capacity, ToSingle(std::floor(capacity * KilonewtonsPerTon))};
 }
@@ -173,7 +173,8 @@ void OptionsDialog::FillStands() {
   for (std::size_t i = 0; i < standCapacities_.size(); ++i) {
     entries.push_back({supports.DefaultStandSupportType[i], NumberText(StandSupportCap(program_, i))});
   }
-  stands_.Fill({"Support Type", "Capacity" + std::string(UnitLabel(unit_row::Force, program_.Units))}, entries);
+  stands_.Fill({"Support Type", "Capacity" + std::string(UnitLabel(unit_row::Force, program_.WorkParms.Units))},
+               entries);
 }
 
 void OptionsDialog::ResizeStands() {
@@ -187,12 +188,12 @@ void OptionsDialog::ResizeStands() {
 // A capacity that has been changed counts in both unit systems, the others keep the pair that they came with.
 void OptionsDialog::StoreStands(Catalogs& catalogs) const {
   StandingSupports& supports = catalogs.StandSupports;
-  const Integer units = program_.Units;
+  const UnitSystem units = program_.WorkParms.Units;
   for (int entry = 0; entry < stands_.Entries(); ++entry) {
     const auto index = static_cast<std::size_t>(entry);
     const auto& before = standCapacities_[index];
     const Single capacity = NumberAt(stands_, entry, SupportCapacity);
-    const bool isKept = NumberText(capacity) == NumberText(before[static_cast<std::size_t>(units)]);
+    const bool isKept = NumberText(capacity) == NumberText(before[PlaceOf(units)]);
     supports.DefaultStandSupportType[index] = stands_.Text(entry, SupportName);
     supports.DefaultStandSupportCap[index] = isKept ? before : BothCapacities(capacity, units);
   }

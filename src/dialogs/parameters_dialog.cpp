@@ -173,7 +173,7 @@ void ParametersDialog::FillLists() {
     FillGrid(bolt.Table, table);
     bolt.DiameterStd.Fill(diameters);
     bolt.GradeStd.Fill(grades);
-    if (program_.BoltStrengthMode == 1) bolt.GradeFrame.SetCaption("Roof Bolt Ultimate Grade");
+    if (program_.WorkParms.Basis == StrengthBasis::Ultimate) bolt.GradeFrame.SetCaption("Roof Bolt Ultimate Grade");
   }
   const auto cableDiameters = NumberItems(CableDiameters(program_));
   const auto cableCapacities = NumberItems(CableCapacities(program_));

@@ -60,7 +60,7 @@ class ParametersDialog : public ParametersControls {
   OutputControls EntryOutputs{txtRockLoadEntry, txtSupportCapEntry, txtStabFactorEntry};
   OutputControls InterOutputs{txtRockLoadInter, txtSupportCapInter, txtStabFactorInter};
 
-  Integer Units() const { return program_.Units; }
+  UnitSystem Units() const { return program_.WorkParms.Units; }
 
  protected:
   void OnOpen() override;
@@ -118,7 +118,7 @@ class ParametersDialog : public ParametersControls {
                    const std::array<SystemRule, SystemCount>& rules, Single rockLoad,
                    const NumberPattern& pattern) const;
 
-  GradeBasis Basis() const { return {program_.BoltStrengthMode, program_.catalogs}; }
+  GradeBasis Basis() const { return {program_.WorkParms.Basis, program_.catalogs}; }
 
   // Asks the estimator for a roof rating.
   void Estimate();

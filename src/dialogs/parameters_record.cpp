@@ -196,6 +196,8 @@ void ParametersDialog::InitParameters() {
 const Control* ParametersDialog::StoreFields(Design& design, const BoltControls& manualEntry,
                                              const BoltControls& manualInter) const {
   NumberReader reader;
+  design.Units = Units();
+  design.Basis = program_.WorkParms.Basis;
   reader.Read(design.Place.CMRR, txtCMRR);
   design.Place.CMRRRegionIndex = program_.estimator.EstimatorRegion;
   design.Place.CMRRRockTypeIndex = program_.estimator.EstimatorRockType;

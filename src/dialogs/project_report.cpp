@@ -15,8 +15,6 @@ class ProgramApart {
  public:
   explicit ProgramApart(const Program& program) : apart_(Quiet(program.platform)) {
     apart_.WorkParms = program.WorkParms;
-    apart_.Units = program.Units;
-    apart_.BoltStrengthMode = program.BoltStrengthMode;
     apart_.UseAUSStandardTable = program.UseAUSStandardTable;
     apart_.catalogs = program.catalogs;
   }

@@ -110,7 +110,7 @@ void SettingsDialog::OnOpen() {
 
 void SettingsDialog::FillFields() {
   const Settings& settings = program_.settings;
-  SetArrayIndex(program_, optUnits, settings.UnitsDefault);
+  SetArrayIndex(program_, optUnits, NumberOf(settings.UnitsDefault));
   for (const auto& [box, flag] : FlagFields) (this->*box).SetValue(settings.*flag);
   for (const auto& [box, text] : TextFields) (this->*box).SetText(settings.*text);
   Text3.SetText(NumberText(settings.MaxDisplaySize));
@@ -168,7 +168,7 @@ bool SettingsDialog::CheckExtension() {
 
 Settings SettingsDialog::Edited() const {
   Settings edited = program_.settings;
-  edited.UnitsDefault = GetArrayIndex(optUnits);
+  edited.UnitsDefault = Chosen<UnitSystem>(optUnits);
   for (const auto& [box, flag] : FlagFields) edited.*flag = (this->*box).Value();
   for (const auto& [box, text] : TextFields) edited.*text = (this->*box).Text();
   edited.MaxDisplaySize = ToInteger(Text3.Value());

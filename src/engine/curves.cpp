@@ -121,7 +121,7 @@ constexpr std::array<CurveRule, CurveCount> Rules{{
     {AngleRange, &WorkingValues::Angle, Measure::Plain, IntersectionLoad, Measure::Force},
 }};
 
-WorkingValues WorkingValuesOf(const Design& design, Integer units) {
+WorkingValues WorkingValuesOf(const Design& design, UnitSystem units) {
   const double weightFactor = units == Metric ? PcfPerKilonewtonCubicMetre : 1;
   return {static_cast<Single>(design.Place.CMRR),
           InFeet(design.Place.DepthofCover, units),
@@ -134,7 +134,7 @@ WorkingValues WorkingValuesOf(const Design& design, Integer units) {
           SuggestedSumDiagonals(design.Place.CMRR)};
 }
 
-Single InProjectUnits(Single value, Measure measure, Integer units) {
+Single InProjectUnits(Single value, Measure measure, UnitSystem units) {
   if (units != Metric) return value;
   switch (measure) {
     case Measure::Length: return ToSingle(value / FeetPerMetre);
@@ -150,7 +150,7 @@ Single InProjectUnits(Single value, Measure measure, Integer units) {
 void GenerateCurve(Program& program, Integer index) {
   if (index < 0 || index >= CurveCount) throw RuntimeError(error_number::Subscript);
   const CurveRule& rule = Rules[static_cast<std::size_t>(index)];
-  WorkingValues values = WorkingValuesOf(program.WorkParmsCopy, program.Units);
+  WorkingValues values = WorkingValuesOf(program.WorkParmsCopy, program.WorkParms.Units);
   const Range range = rule.range(program, values);
   const Integer columns = ToInteger(Divide(static_cast<double>(range.upper) - range.lower, range.step) + 2);
   if (columns < 1) throw RuntimeError(error_number::Subscript);
@@ -166,8 +166,8 @@ void GenerateCurve(Program& program, Integer index) {
     if (count >= columns) throw RuntimeError(error_number::Subscript);
     const auto column = static_cast<std::size_t>(count++);
     values.*rule.swept = x;
-    xs[column] = InProjectUnits(x, rule.sweptMeasure, program.Units);
-    ys[column] = InProjectUnits(rule.result(values), rule.resultMeasure, program.Units);
+    xs[column] = InProjectUnits(x, rule.sweptMeasure, program.WorkParms.Units);
+    ys[column] = InProjectUnits(rule.result(values), rule.resultMeasure, program.WorkParms.Units);
   }
   program.curve.CurvePoints = std::move(points);
   program.curve.CurvePointCount = count;

@@ -38,7 +38,7 @@ double Density(double length, double count, double capacity, double spacing, dou
 }
 
 double UltimateDensity(const BoltPattern& pattern, const GradeBasis& basis) {
-  const Single capacity = basis.BoltStrengthMode == 0
+  const Single capacity = basis.Strength == StrengthBasis::Yield
                               ? UltimateCapacity(pattern.Grade, pattern.Diameter, basis.catalogs)
                               : CapacityFromGrade(pattern.Grade, pattern.Diameter);
   return Density(pattern.Length, pattern.BoltsPerRow, capacity, pattern.RowSpacing, pattern.EntryWidth);
@@ -48,7 +48,7 @@ double UltimateDensity(const BoltPattern& pattern, const GradeBasis& basis) {
 
 Single SuggestedSumDiagonals(Single cmrr) { return ToSingle(0.38 * cmrr + 46.1); }
 
-Single MinimumSumDiagonals(Single width, Integer units) {
+Single MinimumSumDiagonals(Single width, UnitSystem units) {
   const double margin = units == Metric ? 13.123359580052492 : 4;
   return ToSingle(SquareRoot(2 * Square(width)) + margin);
 }
@@ -105,15 +105,16 @@ Single UltimateCapacityKN(Single grade, Single diameter, const Catalogs& catalog
   return CapacityKN(UltimateFromYieldKsi(grade, catalogs), diameter);
 }
 
-Single BoltCapacityCheck(Single grade, Single diameter, Integer units) {
+Single BoltCapacityCheck(Single grade, Single diameter, UnitSystem units) {
   const double square = Square(diameter);
   if (units == Metric) return ToSingle(square * (grade * 1000.0) * Pi / 4 * KilonewtonsPerPound);
   return ToSingle(square * (grade * 1000.0 / PoundsPerTon) * Pi / 4);
 }
 
 Single ActualPSUP(const BoltPattern& pattern, const GradeBasis& basis) {
-  const Single capacity = basis.BoltStrengthMode == 0 ? CapacityFromGrade(pattern.Grade, pattern.Diameter)
-                                                      : YieldCapacity(pattern.Grade, pattern.Diameter, basis.catalogs);
+  const Single capacity = basis.Strength == StrengthBasis::Yield
+                              ? CapacityFromGrade(pattern.Grade, pattern.Diameter)
+                              : YieldCapacity(pattern.Grade, pattern.Diameter, basis.catalogs);
   return ToSingle(Density(pattern.Length, pattern.BoltsPerRow, capacity, pattern.RowSpacing, pattern.EntryWidth));
 }
 
@@ -183,7 +184,7 @@ Single MaxRockHeightIntersection(Single height, Single span, Single entryAngle, 
   return MinOf(MinOf(height, entryLimit), crosscutLimit);
 }
 
-Single CableCapacityFromDiameter(Single diameter, Integer units, const Catalogs& catalogs) {
+Single CableCapacityFromDiameter(Single diameter, UnitSystem units, const Catalogs& catalogs) {
   const bool metric = units == Metric;
   const CatalogList& diameters = metric ? catalogs.DefaultCableDiamArrayMET : catalogs.DefaultCableDiamArrayENG;
   const CatalogList& capacities = metric ? catalogs.DefaultCableCapArrayMET : catalogs.DefaultCableCapArrayENG;

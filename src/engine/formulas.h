@@ -8,12 +8,13 @@
 
 #include "base/types.h"
 #include "design/catalog_lists.h"
+#include "design/units.h"
 
 namespace orby {
 
 // How bolt grades are meant, and the lists that pair yield with ultimate strengths.
 struct GradeBasis {
-  Integer BoltStrengthMode;  // 0: yield strengths, 1: ultimate strengths
+  StrengthBasis Strength;
   const Catalogs& catalogs;
 };
 
@@ -43,7 +44,7 @@ Single SuggestedSumDiagonals(Single cmrr);
 
 // Smallest plausible sum of the diagonals for an entry width in ft:  sqrt(2 W^2) + 4.
 // Under Metric the margin is 4 m written in feet, 13.12, not 4 ft: Metric designs have always been judged so.
-Single MinimumSumDiagonals(Single width, Integer units);
+Single MinimumSumDiagonals(Single width, UnitSystem units);
 
 // Suggested PSUP of a roof bolt pattern, dimensionless.
 //
@@ -83,7 +84,7 @@ Single CapacityKN(Single grade, Single diameter);
 Single UltimateCapacityKN(Single grade, Single diameter, const Catalogs& catalogs);
 
 // Capacity as the ASTM minimum is stated, of a grade in ksi and a diameter in inches: tons, under Metric kN.
-Single BoltCapacityCheck(Single grade, Single diameter, Integer units);
+Single BoltCapacityCheck(Single grade, Single diameter, UnitSystem units);
 
 // ---- support densities ---------------------------------------------------------------------------------------------
 
@@ -129,7 +130,7 @@ Single MaxRockHeightIntersection(Single height, Single span, Single entryAngle, 
 
 // Capacity of the last cable of the catalog with exactly this diameter: in to tons, under Metric mm to kN; 0 without
 // one.
-Single CableCapacityFromDiameter(Single diameter, Integer units, const Catalogs& catalogs);
+Single CableCapacityFromDiameter(Single diameter, UnitSystem units, const Catalogs& catalogs);
 
 // ln x / ln 10.
 Single Log10(Single x);

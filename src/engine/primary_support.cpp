@@ -4,7 +4,7 @@
 
 namespace orby {
 
-Suggestion SuggestSupport(const WorkingSite& site, Integer units) {
+Suggestion SuggestSupport(const WorkingSite& site, UnitSystem units) {
   Suggestion suggestion;
   suggestion.SuggestedSpan = SuggestedSumDiagonals(site.CMRR);
   suggestion.MinSpan = MinimumSumDiagonals(site.Width, units);
@@ -13,14 +13,14 @@ Suggestion SuggestSupport(const WorkingSite& site, Integer units) {
   return suggestion;
 }
 
-Bolt InEnglishUnits(const Bolt& bolt, Integer units) {
+Bolt InEnglishUnits(const Bolt& bolt, UnitSystem units) {
   if (units != Metric) return bolt;
   return {ToSingle(bolt.Diameter / MillimetresPerInch), ToSingle(bolt.Grade * 1000000.0 / 6894.757293 / 1000)};
 }
 
-Single InFeet(Single length, Integer units) { return units == Metric ? ToSingle(length * FeetPerMetre) : length; }
+Single InFeet(Single length, UnitSystem units) { return units == Metric ? ToSingle(length * FeetPerMetre) : length; }
 
-std::optional<LiveSuggestion> SuggestLive(const WorkingSite& typed, Integer units) {
+std::optional<LiveSuggestion> SuggestLive(const WorkingSite& typed, UnitSystem units) {
   if (typed.StabilityFactor < 1) return std::nullopt;
   if (typed.CMRR < 0 || typed.CMRR > 100) return std::nullopt;
   if (typed.Width <= 0) return std::nullopt;
@@ -40,7 +40,7 @@ std::optional<LiveSuggestion> SuggestLive(const WorkingSite& typed, Integer unit
                         suggestion.SpanIsTooLarge(site), suggestion.SpanAndWidthMismatch(site)};
 }
 
-std::optional<Single> ActualLive(const BoltPattern& typed, Integer units, const GradeBasis& basis) {
+std::optional<Single> ActualLive(const BoltPattern& typed, UnitSystem units, const GradeBasis& basis) {
   constexpr double ThinnestRefused = 0.5;
   constexpr double ThickestTaken = 1.25;
   constexpr Single MostPerRow = 10;

@@ -34,13 +34,13 @@ struct Suggestion {
 inline constexpr std::string_view SpanExceedsSuggested = "Actual sum of diagonals exceeds suggested sum of diagonals.";
 inline constexpr std::string_view SpanAndWidthMayNotMatch = "Intersection diagonals and entry width may not match.";
 
-Suggestion SuggestSupport(const WorkingSite& site, Integer units);
+Suggestion SuggestSupport(const WorkingSite& site, UnitSystem units);
 
 // A grade in ksi and a diameter in inches, from the project's units.
-Bolt InEnglishUnits(const Bolt& bolt, Integer units);
+Bolt InEnglishUnits(const Bolt& bolt, UnitSystem units);
 
 // A length in feet, from the project's units.
-Single InFeet(Single length, Integer units);
+Single InFeet(Single length, UnitSystem units);
 
 // ---- live in the dialog: values as typed, in the project's units --------------------------------------------------
 
@@ -54,10 +54,10 @@ struct LiveSuggestion {
 
 // Nothing when the stability factor is below 1, the rating outside 0..100, the width not above 0, the span not above
 // the width, or the depth negative. The two span warnings are for English designs only.
-std::optional<LiveSuggestion> SuggestLive(const WorkingSite& typed, Integer units);
+std::optional<LiveSuggestion> SuggestLive(const WorkingSite& typed, UnitSystem units);
 
 // PSUP of the pattern as typed. Nothing when there are no bolts or more than 10 in a row, the bolt is not above 0.5 in
 // or above 1.25 in thick, or the length, grade, row spacing or width is not above 0.
-std::optional<Single> ActualLive(const BoltPattern& typed, Integer units, const GradeBasis& basis);
+std::optional<Single> ActualLive(const BoltPattern& typed, UnitSystem units, const GradeBasis& basis);
 
 }  // namespace orby

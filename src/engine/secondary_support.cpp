@@ -13,7 +13,7 @@ double Radians(Single angle) { return angle * RadiansPerDegree; }
 bool IsFallAngle(Single angle) { return Radians(angle) >= 0 && Radians(angle) < Pi / 2; }
 
 // The weight of a rock area or volume, if it is any. Metric unit weights are kN already.
-std::optional<Single> LoadOf(double amount, Single unitWeight, Integer units) {
+std::optional<Single> LoadOf(double amount, Single unitWeight, UnitSystem units) {
   const double weight = amount * unitWeight;
   // Judged as rounded: a load too small for a Single would be a divisor of 0.
   const Single load = ToSingle(units == Metric ? weight : weight / PoundsPerTon);
@@ -29,9 +29,9 @@ SupportResult Judge(double capacity, Single rockLoad) {
 double TrussPairCapacity(const TrussSystem& truss) { return 2.0 * truss.Capacity * std::cos(Radians(truss.Angle)); }
 
 // Yield capacity of so many bolts, tons or kN.
-double BoltYieldCapacity(const BoltSystem& system, Integer units, const GradeBasis& basis) {
+double BoltYieldCapacity(const BoltSystem& system, UnitSystem units, const GradeBasis& basis) {
   Single grade = system.Bolts.Grade;
-  if (basis.BoltStrengthMode == 1) {
+  if (basis.Strength == StrengthBasis::Ultimate) {
     grade = units == Metric ? YieldFromUltimateMPa(grade, basis.catalogs) : YieldFromUltimateKsi(grade, basis.catalogs);
   }
   const double diameter = system.Bolts.Diameter;
@@ -41,9 +41,9 @@ double BoltYieldCapacity(const BoltSystem& system, Integer units, const GradeBas
 
 }  // namespace
 
-bool UnitWeightIsPlausible(Single unitWeight, Integer units) { return unitWeight >= (units == Metric ? 15 : 100); }
+bool UnitWeightIsPlausible(Single unitWeight, UnitSystem units) { return unitWeight >= (units == Metric ? 15 : 100); }
 
-std::optional<Single> EntryRockLoad(const RockInputs& rock, Integer units) {
+std::optional<Single> EntryRockLoad(const RockInputs& rock, UnitSystem units) {
   if (!UnitWeightIsPlausible(rock.UnitWeight, units)) return std::nullopt;
   if (rock.Height <= 0) return std::nullopt;
   if (!IsFallAngle(rock.EntryAngle)) return std::nullopt;
@@ -60,7 +60,7 @@ std::optional<Single> EntryRockLoad(const RockInputs& rock, Integer units) {
   return LoadOf(area, rock.UnitWeight, units);
 }
 
-std::optional<Single> IntersectionRockLoad(const RockInputs& rock, Integer units) {
+std::optional<Single> IntersectionRockLoad(const RockInputs& rock, UnitSystem units) {
   if (!UnitWeightIsPlausible(rock.UnitWeight, units)) return std::nullopt;
   if (rock.Height <= 0) return std::nullopt;
   if (!IsFallAngle(rock.EntryAngle) || !IsFallAngle(rock.CrosscutAngle)) return std::nullopt;
@@ -88,7 +88,7 @@ SupportResult SupportEntry(Single rockLoad, const TrussSystem& trusses) {
   return Judge(Divide(TrussPairCapacity(trusses), trusses.Spacing), rockLoad);
 }
 
-SupportResult SupportEntry(Single rockLoad, const BoltSystem& bolts, Integer units, const GradeBasis& basis) {
+SupportResult SupportEntry(Single rockLoad, const BoltSystem& bolts, UnitSystem units, const GradeBasis& basis) {
   return Judge(Divide(BoltYieldCapacity(bolts, units, basis), bolts.Spacing), rockLoad);
 }
 
@@ -100,7 +100,7 @@ SupportResult SupportIntersection(Single rockLoad, const TrussSystem& trusses) {
   return Judge(TrussPairCapacity(trusses) * trusses.Count, rockLoad);
 }
 
-SupportResult SupportIntersection(Single rockLoad, const BoltSystem& bolts, Integer units, const GradeBasis& basis) {
+SupportResult SupportIntersection(Single rockLoad, const BoltSystem& bolts, UnitSystem units, const GradeBasis& basis) {
   return Judge(BoltYieldCapacity(bolts, units, basis), rockLoad);
 }
 

@@ -45,25 +45,25 @@ struct SupportResult {
 };
 
 // At least 100 pcf, or 15 kN/m3.
-bool UnitWeightIsPlausible(Single unitWeight, Integer units);
+bool UnitWeightIsPlausible(Single unitWeight, UnitSystem units);
 
 // The load of a trapezoid of rock over the entry, or of the triangle that the fall angle allows. Nothing when the unit
 // weight is implausible, the height or width not above 0, the angle outside 0 to below 90, or no load results.
-std::optional<Single> EntryRockLoad(const RockInputs& rock, Integer units);
+std::optional<Single> EntryRockLoad(const RockInputs& rock, UnitSystem units);
 
 // The load of a frustum of rock over the square inscribed in the span, each side falling in at its own angle. Nothing
 // on the same grounds, or when the span is not above the width. Throws RuntimeError 11 when the height is limited and
 // the entry angle is 0.
-std::optional<Single> IntersectionRockLoad(const RockInputs& rock, Integer units);
+std::optional<Single> IntersectionRockLoad(const RockInputs& rock, UnitSystem units);
 
 // What a system gives per length of entry. Throws RuntimeError 11 at a spacing of 0, 6 beyond a Single.
 SupportResult SupportEntry(Single rockLoad, const CountedSystem& system);
 SupportResult SupportEntry(Single rockLoad, const TrussSystem& trusses);
-SupportResult SupportEntry(Single rockLoad, const BoltSystem& bolts, Integer units, const GradeBasis& basis);
+SupportResult SupportEntry(Single rockLoad, const BoltSystem& bolts, UnitSystem units, const GradeBasis& basis);
 
 // What all units of a system in an intersection give. Throws RuntimeError 6 beyond a Single.
 SupportResult SupportIntersection(Single rockLoad, const CountedSystem& system);
 SupportResult SupportIntersection(Single rockLoad, const TrussSystem& trusses);
-SupportResult SupportIntersection(Single rockLoad, const BoltSystem& bolts, Integer units, const GradeBasis& basis);
+SupportResult SupportIntersection(Single rockLoad, const BoltSystem& bolts, UnitSystem units, const GradeBasis& basis);
 
 }  // namespace orby

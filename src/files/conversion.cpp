@@ -112,7 +112,7 @@ Single Rounded(double value, int decimals) {
 
 }  // namespace
 
-void ConvertProject(Program& program, Integer target) {
+void ConvertProject(Program& program, UnitSystem target) {
   program.FileSaved = false;
   for (const ConversionRow& row : Conversions) {
     Single& field = row.Field.In(program.WorkParms);
@@ -122,7 +122,7 @@ void ConvertProject(Program& program, Integer target) {
   }
   program.CurrentFile =
       (target == Metric ? "Metric_" : "English_") + FileNameFromPath(program, program.CurrentFile, false);
-  program.Units = target;
+  program.WorkParms.Units = target;
 }
 
 }  // namespace orby

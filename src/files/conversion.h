@@ -10,6 +10,6 @@ namespace orby {
 // "Metric_" or "English_" in front.
 // Throws RuntimeError 6 when a value does not fit its field any more; those converted until then stay converted, with
 // nothing of it saved, and the name and the unit system stay as they were.
-void ConvertProject(Program& program, Integer target);
+void ConvertProject(Program& program, UnitSystem target);
 
 }  // namespace orby

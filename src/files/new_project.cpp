@@ -99,7 +99,7 @@ using Default = Single DesignDefaults::*;
 struct DefaultPair {
   Default ENG;
   Default MET;
-  Default In(Integer units) const { return units == Metric ? MET : ENG; }
+  Default In(UnitSystem units) const { return units == Metric ? MET : ENG; }
 };
 
 struct ConfiguredValue {
@@ -123,7 +123,7 @@ constexpr DefaultPair BoltDiameter{&D::DefaultENGboltDiameter, &D::DefaultMETbol
 constexpr DefaultPair YieldGrade{&D::DefaultENGBoltGrade, &D::DefaultMETBoltGrade};
 constexpr DefaultPair UltimateGrade{&D::DefaultENGBoltUTS, &D::DefaultMETBoltUTS};
 
-void FillStartValues(Design& design, Integer units) {
+void FillStartValues(Design& design, UnitSystem units) {
   for (const StartValue& start : StartValues) {
     const Single value = units == Metric ? start.MET : start.ENG;
     if (const auto* single = std::get_if<SingleField>(&start.Field)) {
@@ -137,23 +137,23 @@ void FillStartValues(Design& design, Integer units) {
 // The number of bolts and their spacing stay. Nothing of the previous project's table row may show up in the next one.
 void FillBolts(const Program& program, BoltSelection& set) {
   const DesignDefaults& defaults = program.defaults;
-  set.Length = defaults.*BoltLength.In(program.Units);
+  set.Length = defaults.*BoltLength.In(program.WorkParms.Units);
   set.Options = 0;
   set.TableRow = 0;
   set.TableDiameter = 0;
   set.TableGrade = 0;
   set.Desc.clear();
   set.DiameterMode = 0;
-  set.DiameterStd = set.DiameterManual = defaults.*BoltDiameter.In(program.Units);
+  set.DiameterStd = set.DiameterManual = defaults.*BoltDiameter.In(program.WorkParms.Units);
   set.GradeMode = 0;
-  const DefaultPair& grade = program.BoltStrengthMode == 1 ? UltimateGrade : YieldGrade;
-  set.GradeStd = set.GradeManual = defaults.*grade.In(program.Units);
+  const DefaultPair& grade = program.WorkParms.Basis == StrengthBasis::Ultimate ? UltimateGrade : YieldGrade;
+  set.GradeStd = set.GradeManual = defaults.*grade.In(program.WorkParms.Units);
 }
 
 void FillConfiguredValues(Program& program) {
   const DesignDefaults& defaults = program.defaults;
   Design& design = program.WorkParms;
-  for (const auto& [field, value] : ConfiguredValues) field.In(design) = defaults.*value.In(program.Units);
+  for (const auto& [field, value] : ConfiguredValues) field.In(design) = defaults.*value.In(program.WorkParms.Units);
   for (BoltSelection* set : design.BoltSets()) FillBolts(program, *set);
   design.Place.CMRR = defaults.DefaultCMRR;
   design.Primary.BoltsperRow = defaults.DefaultNumberBoltsPerRow;
@@ -172,8 +172,8 @@ void FileNew(Program& program, bool untitled, bool resetUnits) {
     program.LastFile = {};
   }
   if (resetUnits) {
-    program.Units = program.settings.UnitsDefault;
-    program.BoltStrengthMode = program.options.BoltGradeAsUltimateDefault;
+    program.WorkParms.Units = program.settings.UnitsDefault;
+    program.WorkParms.Basis = program.options.BoltGradeAsUltimateDefault;
   }
   program.FileSaved = true;
   program.FileEmpty = true;
@@ -181,7 +181,7 @@ void FileNew(Program& program, bool untitled, bool resetUnits) {
   program.RecentMode = 1;
   // The input echo in front of them is rebuilt whenever it is printed.
   std::for_each(program.OutBuf.begin() + 1, program.OutBuf.end(), [](std::string& page) { page.clear(); });
-  FillStartValues(program.WorkParms, program.Units);
+  FillStartValues(program.WorkParms, program.WorkParms.Units);
   FillConfiguredValues(program);
   program.ProjectDescription.clear();
   program.ProjectTitle.clear();

@@ -21,8 +21,8 @@ void ReadField(Design& design, const ProjectLine& line, ItemReader& reader) {
 void ReadHeader(Program& program, ItemReader& reader) {
   reader.ReadText();
   const Integer units = reader.ReadInteger();
-  program.Units = units == Metric ? Metric : English;
-  if (program.FileVersion >= Version103) program.BoltStrengthMode = reader.ReadInteger();
+  program.WorkParms.Units = units == NumberOf(Metric) ? Metric : English;
+  if (program.FileVersion >= Version103) program.WorkParms.Basis = StrengthBasis{reader.ReadInteger()};
   program.ProjectTitle = reader.ReadLine();
 }
 

@@ -23,8 +23,8 @@ std::string PaddedNumber(Integer value) {
 std::string HeaderText(const Program& program) {
   std::string text;
   AppendLine(text, FileVersionNames[CurrentFileVersion]);
-  AppendLine(text, PaddedNumber(program.Units));
-  AppendLine(text, PaddedNumber(program.BoltStrengthMode));
+  AppendLine(text, PaddedNumber(NumberOf(program.WorkParms.Units)));
+  AppendLine(text, PaddedNumber(NumberOf(program.WorkParms.Basis)));
   AppendLine(text, PaddedNumber(program.UseAUSStandardTable));
   AppendLine(text, program.ProjectTitle);
   return text;

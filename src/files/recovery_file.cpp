@@ -18,7 +18,8 @@ namespace {
 
 constexpr std::string_view RecoveryLabel = "ORBY_RECOVERY_1";
 
-using HeaderField = std::variant<std::string UnsavedProject::*, Integer UnsavedProject::*, bool UnsavedProject::*>;
+using HeaderField = std::variant<std::string UnsavedProject::*, Integer UnsavedProject::*, bool UnsavedProject::*,
+                                 UnitSystem Design::*, StrengthBasis Design::*>;
 
 struct HeaderLine {
   std::string_view Key;
@@ -26,8 +27,8 @@ struct HeaderLine {
 };
 
 constexpr std::array HeaderLines{HeaderLine{"CurrentFile", &UnsavedProject::CurrentFile},
-                                 HeaderLine{"Units", &UnsavedProject::Units},
-                                 HeaderLine{"BoltStrengthMode", &UnsavedProject::BoltStrengthMode},
+                                 HeaderLine{"Units", &Design::Units},
+                                 HeaderLine{"BoltStrengthMode", &Design::Basis},
                                  HeaderLine{"UseAUSStandardTable", &UnsavedProject::UseAUSStandardTable},
                                  HeaderLine{"ProjectTitle", &UnsavedProject::ProjectTitle},
                                  HeaderLine{"ProjectDescription", &UnsavedProject::ProjectDescription},
@@ -37,6 +38,10 @@ constexpr std::array HeaderLines{HeaderLine{"CurrentFile", &UnsavedProject::Curr
 std::string ValueText(const UnsavedProject& project, const HeaderField& field) {
   if (const auto* text = std::get_if<std::string UnsavedProject::*>(&field)) return Escaped(project.**text);
   if (const auto* flag = std::get_if<bool UnsavedProject::*>(&field)) return project.**flag ? "1" : "0";
+  if (const auto* units = std::get_if<UnitSystem Design::*>(&field))
+    return NumberText(NumberOf(project.WorkParms.**units));
+  if (const auto* basis = std::get_if<StrengthBasis Design::*>(&field))
+    return NumberText(NumberOf(project.WorkParms.**basis));
   return NumberText(project.*std::get<Integer UnsavedProject::*>(field));
 }
 
@@ -45,6 +50,10 @@ void ReadValue(UnsavedProject& project, const HeaderField& field, std::string_vi
     project.** text = Unescaped(value);
   } else if (const auto* flag = std::get_if<bool UnsavedProject::*>(&field)) {
     project.** flag = value == "1";
+  } else if (const auto* units = std::get_if<UnitSystem Design::*>(&field)) {
+    project.WorkParms.** units = UnitSystem{ToInteger(TextValue(value))};
+  } else if (const auto* basis = std::get_if<StrengthBasis Design::*>(&field)) {
+    project.WorkParms.** basis = StrengthBasis{ToInteger(TextValue(value))};
   } else {
     project.*std::get<Integer UnsavedProject::*>(field) = ToInteger(TextValue(value));
   }
@@ -81,9 +90,8 @@ UnsavedProject ReadLines(std::string_view rest) {
 }  // namespace
 
 UnsavedProject CommittedProject(const Program& program) {
-  return {program.CurrentFile,         program.Units,        program.BoltStrengthMode,
-          program.UseAUSStandardTable, program.ProjectTitle, program.ProjectDescription,
-          program.FileEmpty,           program.UnitsLocked,  program.WorkParms};
+  return {program.CurrentFile, program.UseAUSStandardTable, program.ProjectTitle, program.ProjectDescription,
+          program.FileEmpty,   program.UnitsLocked,         program.WorkParms};
 }
 
 UnsavedProject EditedProject(const Program& program, Design design) {
@@ -115,7 +123,7 @@ std::string RecoveryBytes(const UnsavedProject& project) {
 std::optional<UnsavedProject> ReadRecovery(std::string_view bytes) {
   try {
     UnsavedProject project = ReadLines(bytes);
-    const bool isSystem = project.Units == English || project.Units == Metric;
+    const bool isSystem = project.WorkParms.Units == English || project.WorkParms.Units == Metric;
     if (isSystem && HoldsTexts(bytes) && RecoveryBytes(project) == bytes) return project;
   } catch (const RuntimeError&) {
     // A number beyond its type stands in no file that the program wrote.
@@ -132,8 +140,6 @@ std::string ProjectNamedIn(std::string_view bytes) {
 
 void RestoreProject(Program& program, const UnsavedProject& project) {
   program.CurrentFile = project.CurrentFile;
-  program.Units = project.Units;
-  program.BoltStrengthMode = project.BoltStrengthMode;
   program.UseAUSStandardTable = project.UseAUSStandardTable;
   program.ProjectTitle = project.ProjectTitle;
   program.ProjectDescription = project.ProjectDescription;

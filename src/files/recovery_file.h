@@ -17,8 +17,6 @@ namespace orby {
 // What a recovery file holds.
 struct UnsavedProject {
   std::string CurrentFile;
-  Integer Units = English;
-  Integer BoltStrengthMode = 0;
   Integer UseAUSStandardTable = 0;
   std::string ProjectTitle;
   std::string ProjectDescription;

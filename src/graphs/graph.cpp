@@ -67,7 +67,7 @@ const auto& At(const Table& table, int index) {
 
 const Dependent& DependentOf(Integer curveIndex) { return At(Dependents, DependentVariable(curveIndex)); }
 
-std::string TitleOf(const Variable& variable, Integer units) {
+std::string TitleOf(const Variable& variable, UnitSystem units) {
   std::string title(variable.label);
   switch (variable.suffix) {
     case Suffix::None: break;
@@ -84,17 +84,18 @@ Integer DependentVariable(Integer curveIndex) { return At(Independents, curveInd
 void ComposeAxisTitles(Program& program) {
   GraphSettings& graph = program.graph;
   for (std::size_t i = 0; i < Independents.size(); ++i) {
-    graph.XAxisTitle[i] = TitleOf(Independents[i].variable, program.Units);
+    graph.XAxisTitle[i] = TitleOf(Independents[i].variable, program.WorkParms.Units);
   }
   for (std::size_t i = 0; i < Dependents.size(); ++i) {
-    graph.YAxisTitle[i] = TitleOf(Dependents[i].variable, program.Units);
+    graph.YAxisTitle[i] = TitleOf(Dependents[i].variable, program.WorkParms.Units);
   }
-  graph.GraphUnits = program.Units;
+  graph.GraphUnits = program.WorkParms.Units;
 }
 
 void PrepareAxisTitles(Program& program, Integer curveIndex) {
   const GraphSettings& graph = program.graph;
-  if (At(graph.XAxisTitle, curveIndex).empty() || graph.GraphUnits != program.Units) ComposeAxisTitles(program);
+  if (At(graph.XAxisTitle, curveIndex).empty() || graph.GraphUnits != program.WorkParms.Units)
+    ComposeAxisTitles(program);
 }
 
 int CurveColors(Integer series) { return At(Colours, series - 1); }

@@ -18,8 +18,7 @@ void SetPage(Program& program, ReportText& page) {
 }
 
 ReportBasis BasisOf(const Program& program) {
-  return {program.WorkParms.Support(), program.Units, program.BoltStrengthMode, UsesAustralianTable(program),
-          program.catalogs};
+  return {program.WorkParms.Support(), UsesAustralianTable(program), program.catalogs};
 }
 
 }  // namespace
@@ -27,7 +26,7 @@ ReportBasis BasisOf(const Program& program) {
 void CalculationReport(Program& program) {
   const Design& design = program.WorkParms;
   const WorkingValues working = BuildWorkingValues(program);
-  ReportText page(program.Units);
+  ReportText page(program.WorkParms.Units);
   page.Line(Heading);
   if (design.Primary.Analysed == 1) ReportPrimarySupport(page, program, working);
   if (design.Entries.Analysed == 1) ReportEntrySupport(page, program, working);
@@ -36,7 +35,7 @@ void CalculationReport(Program& program) {
 }
 
 void NoCalculationReport(Program& program) {
-  ReportText page(program.Units);
+  ReportText page(program.WorkParms.Units);
   page.Line(Heading);
   page.Line("The results cannot be computed from these inputs.");
   SetPage(program, page);

@@ -36,7 +36,7 @@ std::string CostLine(std::string_view label, const CostRow& costs) {
 
 bool CostReport(Program& program) {
   const CostTable table = AnalyseCost(program.WorkParmsCopy.Cost);
-  ReportText page(program.Units);
+  ReportText page(program.WorkParms.Units);
   page.Line("[TULK COST CALCULATIONS]");
   page.Line();
   page.Line(HeadingRow());

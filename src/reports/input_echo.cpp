@@ -128,7 +128,7 @@ using YieldOfMetricGrade = Single (*)(Single grade, const Catalogs& catalogs);
 class Echo {
  public:
   explicit Echo(const Program& theProgram)
-      : program(theProgram), design(theProgram.WorkParms), page(theProgram.Units) {}
+      : program(theProgram), design(theProgram.WorkParms), page(theProgram.WorkParms.Units) {}
 
   void Header();
   void Project();
@@ -163,8 +163,8 @@ void Echo::Header() {
   page.Line("ORBY module build: " + std::string(BuildStamp));
   page.Wrapped("Project File: " + program.CurrentFile, FileNameWidth);
   std::string units = "Input Units: ";
-  units += UnitLabel(unit_row::Length, program.Units);
-  units += UnitLabel(unit_row::Stress, program.Units);
+  units += UnitLabel(unit_row::Length, program.WorkParms.Units);
+  units += UnitLabel(unit_row::Stress, program.WorkParms.Units);
   page.Line(units);
   page.Line();
 }
@@ -216,10 +216,10 @@ void Echo::Analyses() {
 }
 
 void Echo::BoltCapacities(const Bolt& bolt, YieldOfMetricGrade yieldOf) {
-  const bool metric = program.Units == Metric;
+  const bool metric = program.WorkParms.Units == Metric;
   const Catalogs& catalogs = program.catalogs;
-  auto [diameter, grade] = InEnglishUnits(bolt, program.Units);
-  if (program.BoltStrengthMode != 0) {
+  auto [diameter, grade] = InEnglishUnits(bolt, program.WorkParms.Units);
+  if (program.WorkParms.Basis != StrengthBasis::Yield) {
     grade = metric ? yieldOf(grade, catalogs) : YieldFromUltimateKsi(grade, catalogs);
   }
   const std::string yield = metric ? FormatNumber(CapacityKN(grade, diameter), "0")
@@ -232,7 +232,7 @@ void Echo::BoltCapacities(const Bolt& bolt, YieldOfMetricGrade yieldOf) {
 
 void Echo::Bolts(const BoltSelection& set, YieldOfMetricGrade yieldOf) {
   constexpr std::string_view OptionLabel = "Roof Bolt Option";
-  if (program.BoltStrengthMode == 1) page.Line("Roof Bolt Grade specified as Ultimate Strength");
+  if (program.WorkParms.Basis == StrengthBasis::Ultimate) page.Line("Roof Bolt Grade specified as Ultimate Strength");
   if (set.Options == 0) {
     page.Words(OptionLabel, TableSelection);
     page.Words("Bolt Description", set.Desc);

@@ -22,7 +22,7 @@ struct PrimaryResults {
   bool SpanAndWidthMismatch;
 };
 
-PrimaryResults Analyse(const WorkingValues& working, Integer units) {
+PrimaryResults Analyse(const WorkingValues& working, UnitSystem units) {
   const Suggestion suggestion = SuggestSupport(working.Conditions, units);
   const auto shown = [units](Single feet) { return units == Metric ? ToSingle(feet / FeetPerMetre) : feet; };
   return {shown(suggestion.SuggestedSpan), shown(suggestion.SugLength), suggestion.SugPSUP,
@@ -52,9 +52,9 @@ void ReportSpan(ReportText& page, const Design& design, const PrimaryResults& re
 }
 
 void ReportCapacity(ReportText& page, const Program& program, const BoltPattern& bolts) {
-  const bool yieldGrades = program.BoltStrengthMode == 0;
+  const bool yieldGrades = program.WorkParms.Basis == StrengthBasis::Yield;
   const std::string_view label = yieldGrades ? "Actual Roof Bolt Yield Capacity" : "Actual Roof Bolt Ultimate Capacity";
-  if (program.Units == Metric) {
+  if (program.WorkParms.Units == Metric) {
     page.Value(label, FormatNumber(CapacityKN(bolts.Grade, bolts.Diameter), "0"), unit_row::Force);
     return;
   }
@@ -69,7 +69,7 @@ void ReportLength(ReportText& page, const Design& design, Single suggested) {
   page.Value("Suggested Minimum Roof Bolt Length", FormatNumber(suggested, LengthPattern), unit_row::Length);
 }
 
-void ReportJudgement(ReportText& page, LengthVerdict length, bool failsASTM, Integer units) {
+void ReportJudgement(ReportText& page, LengthVerdict length, bool failsASTM, UnitSystem units) {
   if (length == LengthVerdict::Fine && !failsASTM) {
     page.Line("Roof Bolt Length OK.");
   } else {
@@ -102,7 +102,7 @@ void ReportPsup(ReportText& page, Single suggested, Single actual) {
 
 }  // namespace
 
-LengthVerdict JudgeLength(Single actual, Single suggested, Integer units) {
+LengthVerdict JudgeLength(Single actual, Single suggested, UnitSystem units) {
   constexpr Single MostFeet = 2;
   constexpr Single MostMetres = 0.6F;
   if (actual < suggested) return LengthVerdict::TooShort;
@@ -129,8 +129,8 @@ std::string_view PsupMessage(PsupVerdict verdict) {
 void ReportPrimarySupport(ReportText& page, const Program& program, const WorkingValues& working) {
   const Design& design = program.WorkParms;
   const BoltPattern& bolts = working.Primary;
-  const GradeBasis basis{program.BoltStrengthMode, program.catalogs};
-  const PrimaryResults results = Analyse(working, program.Units);
+  const GradeBasis basis{program.WorkParms.Basis, program.catalogs};
+  const PrimaryResults results = Analyse(working, program.WorkParms.Units);
   const Single actualPsup = ActualPSUP(bolts, basis);
   const Single rdi = BoltRDI(bolts, basis);
   const Single prsup = BoltPRSUP(bolts, basis);
@@ -139,8 +139,8 @@ void ReportPrimarySupport(ReportText& page, const Program& program, const Workin
   page.Line(PrimarySupportHeading);
   ReportCapacity(page, program, bolts);
   ReportLength(page, design, results.SuggestedLength);
-  ReportJudgement(page, JudgeLength(design.Primary.Length, results.SuggestedLength, program.Units),
-                  FailsASTM({bolts.Diameter, bolts.Grade}, program.Units), program.Units);
+  ReportJudgement(page, JudgeLength(design.Primary.Length, results.SuggestedLength, program.WorkParms.Units),
+                  FailsASTM({bolts.Diameter, bolts.Grade}, program.WorkParms.Units), program.WorkParms.Units);
   ReportPsup(page, results.SuggestedPsup, actualPsup);
   page.Value("Reinforcement Density Index (RDI)", FormatNumber(rdi, OneDecimal));
   page.Value("PRSUP", FormatNumber(prsup, OneDecimal));

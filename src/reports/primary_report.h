@@ -17,7 +17,7 @@ void ReportPrimarySupport(ReportText& page, const Program& program, const Workin
 enum class LengthVerdict { TooShort, Fine, TooLong };
 
 // A bolt length against the suggested one, both in the project's units.
-LengthVerdict JudgeLength(Single actual, Single suggested, Integer units);
+LengthVerdict JudgeLength(Single actual, Single suggested, UnitSystem units);
 
 enum class PsupVerdict { SkinControl, TooLow, Fine };
 

@@ -39,7 +39,7 @@ std::string DocumentTitle(const Program& program) {
 
 std::vector<std::string> PageHeader(const Program& program, std::size_t page) {
   return {TableRow("File Name: " + FileName(program), "Page: " + NumberText(static_cast<double>(page))),
-          TableRow("Current Units: " + std::string(UnitSummary(program.Units)),
+          TableRow("Current Units: " + std::string(UnitSummary(program.WorkParms.Units)),
                    "Date/Time: " + DateText(program.platform.clock.Today())),
           std::string(ProgramTitle) + ", Version: " + VersionText(true), std::string(PrintedWidth, '-'), std::string()};
 }

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t UsualPageSize = 8192;
 
-std::string_view UnitText(int unit, Integer units) {
+std::string_view UnitText(int unit, UnitSystem units) {
   if (unit == report_unit::None) return {};
   if (unit == report_unit::Degrees) return " (deg)";
   return UnitLabel(unit, units);
@@ -18,7 +18,7 @@ std::string_view UnitText(int unit, Integer units) {
 
 }  // namespace
 
-ReportText::ReportText(Integer projectUnits) : units(projectUnits) { page.reserve(UsualPageSize); }
+ReportText::ReportText(UnitSystem projectUnits) : units(projectUnits) { page.reserve(UsualPageSize); }
 
 void ReportText::Line(std::string_view text) {
   page += text;

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "base/types.h"
+#include "design/units.h"
 
 namespace orby {
 
@@ -20,7 +21,7 @@ inline constexpr int Degrees = -2;
 
 class ReportText {
  public:
-  explicit ReportText(Integer projectUnits);
+  explicit ReportText(UnitSystem projectUnits);
 
   // The text alone; an empty line without one.
   void Line(std::string_view text = {});
@@ -38,7 +39,7 @@ class ReportText {
   std::string Take();
 
  private:
-  Integer units;
+  UnitSystem units;
   std::string page;
 };
 

@@ -109,7 +109,7 @@ void SecondaryReport::WarnOfAnchorage(double anchored, Single height, std::strin
 }
 
 void SecondaryReport::CableBolts() {
-  const double anchorage = program.Units == Metric ? 1.3 : 4;
+  const double anchorage = program.WorkParms.Units == Metric ? 1.3 : 4;
   System(block.Headings.CableBolts, support.Cable, "Cable Bolt System Support Capacity",
          "Cable Bolt System Stability Factor");
   if (block.ShowsDensities) {
@@ -125,7 +125,7 @@ void SecondaryReport::CableBolts() {
 }
 
 void SecondaryReport::RoofBolts() {
-  const double anchorage = program.Units == Metric ? 0.305 : 1;
+  const double anchorage = program.WorkParms.Units == Metric ? 0.305 : 1;
   System(block.Headings.RoofBolts, support.Bolt, "Roof Bolt Support System Capacity",
          "Roof Bolt Support System Stability Factor");
   if (block.ShowsDensities) {
@@ -134,14 +134,14 @@ void SecondaryReport::RoofBolts() {
     const SupportPattern byCapacity{bolts.Length, bolts.BoltsPerRow,
                                     UltimateCapacity(bolts.Grade, bolts.Diameter, program.catalogs) / 2,
                                     bolts.RowSpacing, working.EntryCables.EntryWidth};
-    Densities(BoltSRDI(byCapacity), BoltPRSUP(bolts, {program.BoltStrengthMode, program.catalogs}));
+    Densities(BoltSRDI(byCapacity), BoltPRSUP(bolts, {program.WorkParms.Basis, program.catalogs}));
   }
   page.Line();
   // Intersections are warned of by the length and the rock of the entries, too.
   WarnOfAnchorage(
       design.Entries.Bolt.Length - anchorage, design.Entries.RockLoadHeight,
       "Secondary roof bolt may not be long enough to achieve adequate anchorage for the assumed rock load height.");
-  if (!FailsASTM(block.WorkingBolt(working), program.Units)) return;
+  if (!FailsASTM(block.WorkingBolt(working), program.WorkParms.Units)) return;
   page.Line(BelowASTM);
   page.Line();
 }

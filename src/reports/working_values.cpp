@@ -7,15 +7,15 @@ namespace {
 
 Bolt WorkingBolt(const Program& program, const BoltSelection& set) {
   const Bolt bolt = SelectedBolt(set);
-  if (program.Units != Metric) return bolt;
+  if (program.WorkParms.Units != Metric) return bolt;
   return {ToSingle(bolt.Diameter / MillimetresPerInch), ToSingle(bolt.Grade / MPaPerKsi)};
 }
 
 // Capacity of one cable in tons. The catalog is asked in the project's units.
 Single WorkingCableCapacity(const Program& program, const CableSelection& cable) {
   Single capacity = cable.Capacity == 0 ? cable.CapacityStd : cable.CapacityManual;
-  if (cable.CapMode == 0) capacity = CableCapacityFromDiameter(cable.Diam, program.Units, program.catalogs);
-  return program.Units == Metric ? ToSingle(capacity / KilonewtonsPerTon) : capacity;
+  if (cable.CapMode == 0) capacity = CableCapacityFromDiameter(cable.Diam, program.WorkParms.Units, program.catalogs);
+  return program.WorkParms.Units == Metric ? ToSingle(capacity / KilonewtonsPerTon) : capacity;
 }
 
 }  // namespace
@@ -23,7 +23,7 @@ Single WorkingCableCapacity(const Program& program, const CableSelection& cable)
 WorkingValues BuildWorkingValues(const Program& program) {
   constexpr double KipsPerTon = 2;
   const Design& design = program.WorkParms;
-  const auto feet = [&](Single length) { return InFeet(length, program.Units); };
+  const auto feet = [&](Single length) { return InFeet(length, program.WorkParms.Units); };
   WorkingValues working;
   working.Conditions = {design.Primary.StabilityFactor, static_cast<Single>(design.Place.CMRR),
                         feet(design.Place.DepthofCover), feet(design.Place.ActualSpanDiagonals),
@@ -45,7 +45,7 @@ WorkingValues BuildWorkingValues(const Program& program) {
   return working;
 }
 
-bool FailsASTM(const Bolt& bolt, Integer units) {
+bool FailsASTM(const Bolt& bolt, UnitSystem units) {
   constexpr Single SmallestTons = 8.45F;
   constexpr Single SmallestKilonewtons = 83.36F;
   return BoltCapacityCheck(bolt.Grade, bolt.Diameter, units) < (units == Metric ? SmallestKilonewtons : SmallestTons);

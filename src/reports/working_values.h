@@ -19,6 +19,6 @@ struct WorkingValues {
 WorkingValues BuildWorkingValues(const Program& program);
 
 // Whether the bolt, in English units, falls short of the ASTM minimum of the project's units.
-bool FailsASTM(const Bolt& bolt, Integer units);
+bool FailsASTM(const Bolt& bolt, UnitSystem units);
 
 }  // namespace orby

@@ -58,7 +58,7 @@ std::optional<Single> SuggestedFigure(const UnsavedProject& project) {
   const Design& design = project.WorkParms;
   const auto live = SuggestLive({design.Primary.StabilityFactor, static_cast<Single>(design.Place.CMRR),
                                  design.Place.DepthofCover, design.Place.ActualSpanDiagonals, design.Place.EntryWidth},
-                                project.Units);
+                                project.WorkParms.Units);
   return live ? std::optional(live->SugPSUP) : std::nullopt;
 }
 
@@ -67,7 +67,7 @@ std::optional<Single> ActualFigure(const UnsavedProject& project, const Catalogs
   const Bolt bolt = SelectedBolt(design.Primary);
   return ActualLive({design.Primary.Length, design.Primary.BoltsperRow, bolt.Diameter, bolt.Grade,
                      design.Primary.RowSpacing, design.Place.EntryWidth},
-                    project.Units, {project.BoltStrengthMode, catalogs});
+                    project.WorkParms.Units, {project.WorkParms.Basis, catalogs});
 }
 
 }  // namespace
@@ -139,9 +139,9 @@ void BackupsWindow::ShowSelected() {
 
 void BackupsWindow::ShowProject(const UnsavedProject& project) {
   const Design& design = project.WorkParms;
-  const std::string length(UnitLabel(unit_row::Length, project.Units));
+  const std::string length(UnitLabel(unit_row::Length, project.WorkParms.Units));
   txtTitle.SetText(TypedTitle(project));
-  txtUnits.SetText(std::string(UnitSummary(project.Units)));
+  txtUnits.SetText(std::string(UnitSummary(project.WorkParms.Units)));
   txtCMRR.SetText(NumberText(design.Place.CMRR));
   txtDepthofCover.SetText(NumberText(design.Place.DepthofCover) + length);
   txtEntryWidth.SetText(NumberText(design.Place.EntryWidth) + length);

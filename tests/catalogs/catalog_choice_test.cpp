@@ -9,8 +9,6 @@ namespace {
 
 constexpr Integer Off = 0;
 constexpr Integer On = 1;
-constexpr Integer YieldGrades = 0;
-constexpr Integer UltimateGrades = 1;
 
 struct CatalogChoice : testing::Test {
   RecordingPlatform platform;
@@ -23,11 +21,11 @@ struct CatalogChoice : testing::Test {
 TEST_F(CatalogChoice, OfTheAustralianTableNeedsMetricUnitsAndItsSetting) {
   const bool expected[2][2] = {{false, false}, {false, true}};
 
-  for (const Integer units : {English, Metric}) {
+  for (const UnitSystem units : {English, Metric}) {
     for (const Integer setting : {Off, On}) {
-      program.Units = units;
+      program.WorkParms.Units = units;
       program.UseAUSStandardTable = setting;
-      EXPECT_EQ(UsesAustralianTable(program), expected[units][setting]) << units << ", " << setting;
+      EXPECT_EQ(UsesAustralianTable(program), expected[PlaceOf(units)][setting]) << NumberOf(units) << ", " << setting;
     }
   }
 }
@@ -46,7 +44,7 @@ TEST_F(CatalogChoice, OfTheBoltTableInEnglishUnitsIsTheEnglishOneWhateverTheSett
 }
 
 TEST_F(CatalogChoice, OfTheBoltTableInMetricUnitsFollowsTheSettingBackAndForth) {
-  program.Units = Metric;
+  program.WorkParms.Units = Metric;
 
   EXPECT_EQ(LoadBoltTable(program).size(), 10U);
   EXPECT_EQ(LoadBoltTable(program)[3].Diameter, "17.2");
@@ -64,11 +62,12 @@ TEST_F(CatalogChoice, OfGradesFollowsUnitsAndMeaning) {
   const CatalogList* expected[2][2] = {{&catalogs.DefaultBoltGradeArrayENG, &catalogs.DefaultBoltUTSArrayENG},
                                        {&catalogs.DefaultBoltGradeArrayMET, &catalogs.DefaultBoltUTSArrayMET}};
 
-  for (const Integer units : {English, Metric}) {
-    for (const Integer mode : {YieldGrades, UltimateGrades}) {
-      program.Units = units;
-      program.BoltStrengthMode = mode;
-      EXPECT_EQ(&BoltGrades(program), expected[units][mode]) << units << ", " << mode;
+  for (const UnitSystem units : {English, Metric}) {
+    for (const StrengthBasis basis : {StrengthBasis::Yield, StrengthBasis::Ultimate}) {
+      program.WorkParms.Units = units;
+      program.WorkParms.Basis = basis;
+      EXPECT_EQ(&BoltGrades(program), expected[PlaceOf(units)][NumberOf(basis)])
+          << NumberOf(units) << ", " << NumberOf(basis);
     }
   }
 }
@@ -78,14 +77,14 @@ TEST_F(CatalogChoice, OfDiametersAndCablesFollowsUnits) {
   EXPECT_EQ(&CableDiameters(program), &catalogs.DefaultCableDiamArrayENG);
   EXPECT_EQ(&CableCapacities(program), &catalogs.DefaultCableCapArrayENG);
 
-  program.Units = Metric;
+  program.WorkParms.Units = Metric;
   EXPECT_EQ(&BoltDiameters(program), &catalogs.DefaultBoltDiamArrayMET);
   EXPECT_EQ(&CableDiameters(program), &catalogs.DefaultCableDiamArrayMET);
   EXPECT_EQ(&CableCapacities(program), &catalogs.DefaultCableCapArrayMET);
 }
 
 TEST_F(CatalogChoice, OfListsStaysMetricUnderTheAustralianSetting) {
-  program.Units = Metric;
+  program.WorkParms.Units = Metric;
   program.UseAUSStandardTable = 1;
 
   EXPECT_EQ(&BoltDiameters(program), &catalogs.DefaultBoltDiamArrayMET);
@@ -96,7 +95,7 @@ TEST_F(CatalogChoice, OfSupportCapacitiesFollowsUnits) {
   EXPECT_EQ(StandSupportCap(program, 0), 90.0F);
   EXPECT_EQ(StandSupportCap(program, 15), 525.0F);
 
-  program.Units = Metric;
+  program.WorkParms.Units = Metric;
   EXPECT_EQ(StandSupportCap(program, 0), 800.0F);
   EXPECT_EQ(StandSupportCap(program, 15), 4670.0F);
 }

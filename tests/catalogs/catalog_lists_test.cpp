@@ -182,7 +182,7 @@ TEST_F(StandingSupportTest, HasRoomForTwentyOne) {
 }
 
 TEST_F(StandingSupportTest, CapacityInKilonewtonsIsRoundedDown) {
-  EXPECT_EQ(supports.DefaultStandSupportCap[15][Metric], 4670.0F);  // 525 tons are 4670.6 kN
+  EXPECT_EQ(supports.DefaultStandSupportCap[15][PlaceOf(Metric)], 4670.0F);  // 525 tons are 4670.6 kN
 }
 
 TEST_F(StandingSupportTest, IsRestoredByAReset) {

@@ -129,7 +129,7 @@ TEST_F(SettingsSections, TheSectionsStandInTheOrderOfTheirSelectors) {
 TEST_F(SettingsSections, AnUnknownSelectorReadsAndWritesNothing) {
   Read(7, "[Settings]\r\nDefaultUnits=1\r\n");
 
-  EXPECT_EQ(settings.UnitsDefault, 0);
+  EXPECT_EQ(settings.UnitsDefault, English);
   EXPECT_EQ(Written(7), "");
 }
 
@@ -143,7 +143,7 @@ TEST_F(SettingsSections, EverySettingIsReadIntoItsOwnPlace) {
       "RemindAnnualUpdates=0\r\nCopyExampleFiles=0\r\nExternalEditor=gedit\r\nDataPath=/designs\r\n"
       "FileExtension=DAT\r\n");
 
-  EXPECT_EQ(settings.UnitsDefault, 1);
+  EXPECT_EQ(settings.UnitsDefault, Metric);
   EXPECT_EQ(settings.DisplayHistoryWin, 0);
   EXPECT_EQ(settings.MaxDisplaySize, 8192);
   EXPECT_EQ(settings.DisplayFontName, "Terminal");
@@ -393,7 +393,7 @@ TEST_F(SettingsSections, EveryBrowserSettingIsReadIntoItsOwnPlace) {
 }
 
 TEST_F(SettingsSections, TheGraphFormatComesBack) {
-  graph = {1, 2, 1, 0, 12, 1, "Suggested support", {}, {}};
+  graph = {1, 2, 1, 0, 12, Metric, "Suggested support", {}, {}};
   graph.XAxisTitle[0] = "CMRR";
   graph.XAxisTitle[9] = "Roof Fall Angle (deg)";
   graph.YAxisTitle[0] = "Suggested PSUP";
@@ -408,7 +408,7 @@ TEST_F(SettingsSections, TheGraphFormatComesBack) {
   EXPECT_EQ(graph.GraphStyle, 1);
   EXPECT_EQ(graph.CurveLegend, 0);
   EXPECT_EQ(graph.SymbolSize, 12);
-  EXPECT_EQ(graph.GraphUnits, 1);
+  EXPECT_EQ(graph.GraphUnits, Metric);
   EXPECT_EQ(graph.GraphTitle, "Suggested support");
   EXPECT_EQ(graph.XAxisTitle[0], "CMRR");
   EXPECT_EQ(graph.XAxisTitle[9], "Roof Fall Angle (deg)");
@@ -436,13 +436,13 @@ TEST_F(SettingsSections, AGraphKeyOutsideItsRangeFallsToItsMinimum) {
 }
 
 TEST_F(SettingsSections, TheOptionsNeverSurviveARestart) {
-  options = {1, 1, 1, 0, 0, 0, 0};
+  options = {StrengthBasis::Ultimate, 1, 1, 0, 0, 0, 0};
   const std::string text = Written(section::Options);
 
   Read(section::Options, text);
 
   EXPECT_THAT(text, HasSubstr("DefaultSteelStrength=1\r\n"));
-  EXPECT_EQ(options.BoltGradeAsUltimateDefault, 0);
+  EXPECT_EQ(options.BoltGradeAsUltimateDefault, StrengthBasis::Yield);
   EXPECT_EQ(options.OutputStrUnits, 0);
   EXPECT_EQ(options.OutputStrGradUnits, 0);
   EXPECT_EQ(options.ShowInputScreenOnLoad, 1);
@@ -454,7 +454,7 @@ TEST_F(SettingsSections, TheOptionsNeverSurviveARestart) {
 TEST_F(SettingsSections, OptionsAreReadFromASectionThatOnlyTheUserCanWrite) {
   Read(section::Options, "[PENVOptions]\r\nDefaultSteelStrength=1\r\nAskOfficeInstall=0\r\nViewChildWindow=7\r\n");
 
-  EXPECT_EQ(options.BoltGradeAsUltimateDefault, 1);
+  EXPECT_EQ(options.BoltGradeAsUltimateDefault, StrengthBasis::Ultimate);
   EXPECT_EQ(options.AskOfficeInstall, 0);
   EXPECT_EQ(options.ViewChildWindow, 0);
   EXPECT_EQ(options.PrintModuleHeader, 1);
@@ -465,7 +465,7 @@ TEST_F(SettingsSections, AllSectionsAreReadTogether) {
                                 "[TextBrowse]\r\nBrowseUseNotepad=1\r\n[Graph]\r\nGraphTitle=PSUP\r\n"
                                 "[PENVOptions]\r\nOutputStrUnits=1\r\n"));
 
-  EXPECT_EQ(settings.UnitsDefault, 1);
+  EXPECT_EQ(settings.UnitsDefault, Metric);
   EXPECT_EQ(recent.Entries[0].LastFile, "a.ORB");
   EXPECT_EQ(textBrowse.BrowseUseNotepad, 1);
   EXPECT_EQ(graph.GraphTitle, "PSUP");

@@ -9,20 +9,20 @@ using AustralianTable = ProgramBench;
 
 TEST_F(AustralianTable, IsInForceInAMetricProjectWithTheSettingOn) {
   program.UseAUSStandardTable = 1;
-  program.Units = Metric;
+  program.WorkParms.Units = Metric;
 
   EXPECT_TRUE(UsesAustralianTable(program));
 }
 
 TEST_F(AustralianTable, IsNotInForceInAnEnglishProject) {
   program.UseAUSStandardTable = 1;
-  program.Units = English;
+  program.WorkParms.Units = English;
 
   EXPECT_FALSE(UsesAustralianTable(program));
 }
 
 TEST_F(AustralianTable, IsNotInForceWithTheSettingOff) {
-  program.Units = Metric;
+  program.WorkParms.Units = Metric;
 
   EXPECT_FALSE(UsesAustralianTable(program));
 }

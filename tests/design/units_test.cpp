@@ -55,8 +55,8 @@ TEST(UnitLabels, NameTheQuantitiesOfADesign) {
 TEST(UnitLabels, EndAtTheTablesEdges) {
   EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(-1, English)); }), 9);
   EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(18, English)); }), 9);
-  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(0, -1)); }), 9);
-  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(0, 2)); }), 9);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(0, UnitSystem{-1})); }), 9);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(0, UnitSystem{2})); }), 9);
 }
 
 TEST(UnitSystem, IsToldInAFewWords) {

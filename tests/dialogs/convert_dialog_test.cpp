@@ -46,7 +46,7 @@ TEST_F(AConversion, OffersMetricUnitsToAnEnglishDesign) {
 }
 
 TEST_F(AConversion, OffersEnglishUnitsToAMetricDesign) {
-  program.Units = Metric;
+  program.WorkParms.Units = Metric;
 
   dialog.Open();
 
@@ -82,7 +82,7 @@ TEST_F(AConversion, MakesTheDesignAnUnsavedMetricOneAndCloses) {
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.Units, Metric);
+  EXPECT_EQ(program.WorkParms.Units, Metric);
   EXPECT_EQ(program.CurrentFile, "Metric_panel3.ORB");
   EXPECT_FALSE(program.FileSaved);
   EXPECT_EQ(program.WorkParms.Place.DepthofCover, 122.3F);
@@ -115,7 +115,7 @@ TEST_F(AConversion, TellsOfANumberThatNoLongerFitsAndClosesAllTheSame) {
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error in the Conversion Procedure. Call technical support"));
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.Units, English);
+  EXPECT_EQ(program.WorkParms.Units, English);
   EXPECT_EQ(program.CurrentFile, "/designs/panel3.ORB");
   EXPECT_FALSE(program.FileSaved) << "some fields are converted";
 }
@@ -160,7 +160,7 @@ TEST_F(AToldConversion, TellsItsCallerOfAProjectThatWasConvertedInPart) {
 
 TEST_F(AConversion, IsTheSameWhateverIsChosenForTheFile) {
   for (const int choice : {0, 1}) {
-    program.Units = English;
+    program.WorkParms.Units = English;
     program.CurrentFile = "/designs/panel3.ORB";
     program.WorkParms.Place.EntryWidth = 20;
     ConvertDialog other(program);
@@ -169,7 +169,7 @@ TEST_F(AConversion, IsTheSameWhateverIsChosenForTheFile) {
 
     other.Command2.Press();
 
-    EXPECT_EQ(program.Units, Metric) << choice;
+    EXPECT_EQ(program.WorkParms.Units, Metric) << choice;
     EXPECT_EQ(program.CurrentFile, "Metric_panel3.ORB") << choice;
     EXPECT_EQ(program.WorkParms.Place.EntryWidth, 6.1F) << choice;
   }
@@ -179,7 +179,7 @@ TEST_F(AConversion, ThereAndBackLeavesOneDecimalOfTheDepth) {
   ConvertOnce();
   ConvertOnce();
 
-  EXPECT_EQ(program.Units, English);
+  EXPECT_EQ(program.WorkParms.Units, English);
   EXPECT_EQ(program.WorkParms.Place.DepthofCover, 401.2F);
 }
 
@@ -197,7 +197,7 @@ TEST_F(AConversion, CancelledChangesNothing) {
   dialog.Command1.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.Units, English);
+  EXPECT_EQ(program.WorkParms.Units, English);
   EXPECT_EQ(program.CurrentFile, "/designs/panel3.ORB");
   EXPECT_TRUE(program.FileSaved);
   EXPECT_EQ(program.WorkParms.Place.DepthofCover, 401.25F);

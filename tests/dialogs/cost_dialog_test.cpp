@@ -112,7 +112,7 @@ TEST_F(ACostDialog, LabelsItsFieldsInEnglishUnits) {
 }
 
 TEST_F(ACostDialog, LabelsItsFieldsInMetricUnits) {
-  program.Units = Metric;
+  program.WorkParms.Units = Metric;
 
   dialog.Open();
 

@@ -56,8 +56,8 @@ TEST_F(ADescriptionDialog, NamesItselfItsFieldsAndItsCommands) {
 // ---- opening --------------------------------------------------------------------------------------------------------
 
 TEST_F(ADescriptionDialog, ShowsTheProject) {
-  program.Units = Metric;
-  program.BoltStrengthMode = 1;
+  program.WorkParms.Units = Metric;
+  program.WorkParms.Basis = StrengthBasis::Ultimate;
   program.UseAUSStandardTable = 1;
 
   dialog.Open();
@@ -105,8 +105,8 @@ TEST_F(ADescriptionDialog, KeepsTheUnitsOfAnOpenedFile) {
 
 TEST_F(ADescriptionDialog, KeepsMetricUnitsAndUltimateStrengthsOfAnOpenedFile) {
   program.UnitsLocked = true;
-  program.Units = Metric;
-  program.BoltStrengthMode = 1;
+  program.WorkParms.Units = Metric;
+  program.WorkParms.Basis = StrengthBasis::Ultimate;
 
   dialog.Open();
 
@@ -129,7 +129,7 @@ TEST_F(ADescriptionDialog, OffersBothAgainOnceANewProjectHasBegun) {
 }
 
 TEST_F(ADescriptionDialog, FailsOnUnitsThatNoProjectHas) {
-  program.Units = 2;
+  program.WorkParms.Units = UnitSystem{2};
 
   EXPECT_EQ(ErrorNumberOf([this] { dialog.Open(); }), 9);
 
@@ -142,11 +142,11 @@ TEST_F(ADescriptionDialog, OffersTheAustralianTableToMetricProjectsOnly) {
   dialog.Open();
   EXPECT_FALSE(dialog.Check1.Enabled());
 
-  dialog.Option1.SetValue(Metric, true);
+  dialog.Option1.SetValue(NumberOf(Metric), true);
   EXPECT_TRUE(dialog.Check1.Enabled());
   dialog.Check1.SetValue(1);
 
-  dialog.Option1.SetValue(English, true);
+  dialog.Option1.SetValue(NumberOf(English), true);
   EXPECT_FALSE(dialog.Check1.Enabled());
   EXPECT_FALSE(dialog.Check1.Checked());
 }
@@ -161,7 +161,7 @@ TEST_F(ADescriptionDialog, LeavesTheBoxEmptyUnderFeetWhateverAnEarlierProjectUse
 }
 
 TEST_F(ADescriptionDialog, StoresTheTableChoiceOnOk) {
-  program.Units = Metric;
+  program.WorkParms.Units = Metric;
   dialog.Open();
   dialog.Check1.SetValue(1);
 
@@ -172,7 +172,7 @@ TEST_F(ADescriptionDialog, StoresTheTableChoiceOnOk) {
 
 TEST_F(ADescriptionDialog, LetsAMetricProjectChooseItsTableThoughItsUnitsAreKept) {
   program.UnitsLocked = true;
-  program.Units = Metric;
+  program.WorkParms.Units = Metric;
   dialog.Open();
   EXPECT_TRUE(dialog.Check1.Enabled());
   dialog.Check1.SetValue(1);
@@ -183,15 +183,15 @@ TEST_F(ADescriptionDialog, LetsAMetricProjectChooseItsTableThoughItsUnitsAreKept
 }
 
 TEST_F(ADescriptionDialog, LeavesTheTableChoiceAsItWasOnCancel) {
-  for (const Integer units : {English, Metric}) {
-    program.Units = units;
+  for (const UnitSystem units : {English, Metric}) {
+    program.WorkParms.Units = units;
     program.UseAUSStandardTable = 1;
     dialog.Open();
     dialog.Check1.SetValue(0);
 
     dialog.Command1.Press();
 
-    EXPECT_EQ(program.UseAUSStandardTable, 1) << units;
+    EXPECT_EQ(program.UseAUSStandardTable, 1) << NumberOf(units);
   }
 }
 
@@ -206,12 +206,12 @@ TEST_F(ADescriptionDialog, ClearsTheTableChoiceOfAProjectInFeetOnOk) {
 
 TEST_F(ADescriptionDialog, KeepsTheTableChoiceThatGoesWithNewUnits) {
   dialog.Open();
-  dialog.Option1.SetValue(Metric, true);
+  dialog.Option1.SetValue(NumberOf(Metric), true);
   dialog.Check1.SetValue(1);
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.Units, Metric);
+  EXPECT_EQ(program.WorkParms.Units, Metric);
   EXPECT_EQ(program.UseAUSStandardTable, 1);
 }
 
@@ -258,13 +258,13 @@ TEST_F(ADescriptionDialog, LosesTheTypedTitleWhenTheUnitsChange) {
   dialog.Open();
   dialog.Text1.SetText("Panel 4");
   dialog.Text2.SetText("Tailgate");
-  dialog.Option1.SetValue(Metric, true);
+  dialog.Option1.SetValue(NumberOf(Metric), true);
 
   dialog.Command2.Press();
 
   EXPECT_EQ(program.ProjectTitle, "");
   EXPECT_EQ(program.ProjectDescription, "");
-  EXPECT_EQ(program.Units, Metric);
+  EXPECT_EQ(program.WorkParms.Units, Metric);
   EXPECT_EQ(program.CurrentFile, "/designs/panel3.ORB");
   EXPECT_EQ(program.WorkParms.Place.CMRR, 45);
   EXPECT_EQ(program.WorkParms.Place.DepthofCover, 150);
@@ -280,15 +280,15 @@ TEST_F(ADescriptionDialog, LosesTheTypedTitleWhenTheStrengthModeChanges) {
   dialog.Command2.Press();
 
   EXPECT_EQ(program.ProjectTitle, "");
-  EXPECT_EQ(program.BoltStrengthMode, 1);
-  EXPECT_EQ(program.Units, English);
+  EXPECT_EQ(program.WorkParms.Basis, StrengthBasis::Ultimate);
+  EXPECT_EQ(program.WorkParms.Units, English);
   EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
   EXPECT_EQ(program.WorkParms.Primary.GradeStd, 100);
 }
 
 TEST_F(ADescriptionDialog, StartsAnewForUnitsAndForStrengthsAndIsUnsavedAllTheSame) {
   dialog.Open();
-  dialog.Option1.SetValue(Metric, true);
+  dialog.Option1.SetValue(NumberOf(Metric), true);
   dialog.Option2.SetValue(1, true);
 
   dialog.Command2.Press();
@@ -306,8 +306,8 @@ TEST_F(ADescriptionDialog, StartsAnewForUnitsAndForStrengthsAndIsUnsavedAllTheSa
 
 TEST_F(ADescriptionDialog, KeepsTheDesignWhenUnitsAreChangedThereAndBack) {
   dialog.Open();
-  dialog.Option1.SetValue(Metric, true);
-  dialog.Option1.SetValue(English, true);
+  dialog.Option1.SetValue(NumberOf(Metric), true);
+  dialog.Option1.SetValue(NumberOf(English), true);
 
   dialog.Command2.Press();
 
@@ -320,14 +320,14 @@ TEST_F(ADescriptionDialog, KeepsTheDesignWhenUnitsAreChangedThereAndBack) {
 TEST_F(ADescriptionDialog, ForgetsEverythingOnCancel) {
   dialog.Open();
   dialog.Text1.SetText("Panel 4");
-  dialog.Option1.SetValue(Metric, true);
+  dialog.Option1.SetValue(NumberOf(Metric), true);
   dialog.Check1.SetValue(1);
 
   dialog.Command1.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
   EXPECT_EQ(program.ProjectTitle, "Panel 3");
-  EXPECT_EQ(program.Units, English);
+  EXPECT_EQ(program.WorkParms.Units, English);
   EXPECT_EQ(program.UseAUSStandardTable, 0);
   EXPECT_TRUE(program.FileSaved);
   EXPECT_FALSE(program.UnitsLocked);
@@ -384,7 +384,7 @@ TEST_F(ADescriptionDialog, KeepsWhatWasTypedAlongWithOtherUnits) {
   program.folders.ProgramData = "/home/user/Documents/Orby/";
   dialog.Open();
   dialog.Text1.SetText("Panel 4");
-  dialog.Option1.SetValue(Metric, true);
+  dialog.Option1.SetValue(NumberOf(Metric), true);
 
   dialog.Command2.Press();
 
@@ -395,7 +395,7 @@ TEST_F(ADescriptionDialog, KeepsWhatWasTypedAlongWithOtherUnits) {
   EXPECT_EQ(kept->ProjectTitle, "Panel 4");
   EXPECT_EQ(kept->ProjectDescription, "Headgate\r\nSecond cut");
   EXPECT_EQ(kept->WorkParms.Place.DepthofCover, 512.5F);
-  EXPECT_EQ(kept->Units, English);
+  EXPECT_EQ(kept->WorkParms.Units, English);
 }
 
 TEST_F(ADescriptionDialog, KeepsTheUnsavedDesignThatAnotherStrengthWipes) {
@@ -412,7 +412,7 @@ TEST_F(ADescriptionDialog, KeepsTheUnsavedDesignThatAnotherStrengthWipes) {
 TEST_F(ADescriptionDialog, KeepsNothingOfASavedDesignNorWithoutAnotherChoice) {
   program.folders.ProgramData = "/home/user/Documents/Orby/";
   dialog.Open();
-  dialog.Option1.SetValue(Metric, true);
+  dialog.Option1.SetValue(NumberOf(Metric), true);
   dialog.Command2.Press();
   EXPECT_THAT(ListBackups(program), IsEmpty());
 

@@ -103,7 +103,7 @@ TEST_F(GraphOfACurve, KeepsTitlesOfTheUnitsThatTheyWereComposedIn) {
 
 TEST_F(GraphOfACurve, InMetricAfterOneInEnglishNamesAllAxesAnew) {
   window.ShowCurve(4);
-  program.Units = Metric;
+  program.WorkParms.Units = Metric;
 
   window.ShowCurve(7);
 

@@ -97,7 +97,7 @@ TEST_F(Options, ShowThePreferencesOfTheProgram) {
   program.options.ViewChildWindow = 1;
   program.options.PrintModuleHeader = 0;
   program.options.AskOfficeInstall = 1;
-  program.options.BoltGradeAsUltimateDefault = 1;
+  program.options.BoltGradeAsUltimateDefault = StrengthBasis::Ultimate;
 
   dialog.Open();
 
@@ -111,35 +111,35 @@ TEST_F(Options, ShowThePreferencesOfTheProgram) {
 TEST_F(Options, ShowWhatANewDesignStartsWith) {
   dialog.Open();
 
-  EXPECT_EQ(dialog.txtCMRR[English].Text(), "45");
-  EXPECT_EQ(dialog.txtDepthofCover[English].Text(), "400");
-  EXPECT_EQ(dialog.txtUnitWeight[English].Text(), "162");
-  EXPECT_EQ(dialog.txtActualSpan[English].Text(), "60");
-  EXPECT_EQ(dialog.txtEntryWidth[English].Text(), "20");
-  EXPECT_EQ(dialog.txtStabilityFactor[English].Text(), "1");
-  EXPECT_EQ(dialog.txtActualBoltLength[English].Text(), "6");
-  EXPECT_EQ(dialog.txtBoltDiameter[English].Text(), "0.75");
-  EXPECT_EQ(dialog.txtBoltGrade[English].Text(), "75");
-  EXPECT_EQ(dialog.txtBoltUTS[English].Text(), "100");
-  EXPECT_EQ(dialog.txtBoltsperRow[English].Text(), "4");
-  EXPECT_EQ(dialog.txtRowSpacing[English].Text(), "4");
+  EXPECT_EQ(dialog.txtCMRR[EnglishPage].Text(), "45");
+  EXPECT_EQ(dialog.txtDepthofCover[EnglishPage].Text(), "400");
+  EXPECT_EQ(dialog.txtUnitWeight[EnglishPage].Text(), "162");
+  EXPECT_EQ(dialog.txtActualSpan[EnglishPage].Text(), "60");
+  EXPECT_EQ(dialog.txtEntryWidth[EnglishPage].Text(), "20");
+  EXPECT_EQ(dialog.txtStabilityFactor[EnglishPage].Text(), "1");
+  EXPECT_EQ(dialog.txtActualBoltLength[EnglishPage].Text(), "6");
+  EXPECT_EQ(dialog.txtBoltDiameter[EnglishPage].Text(), "0.75");
+  EXPECT_EQ(dialog.txtBoltGrade[EnglishPage].Text(), "75");
+  EXPECT_EQ(dialog.txtBoltUTS[EnglishPage].Text(), "100");
+  EXPECT_EQ(dialog.txtBoltsperRow[EnglishPage].Text(), "4");
+  EXPECT_EQ(dialog.txtRowSpacing[EnglishPage].Text(), "4");
 }
 
 TEST_F(Options, ShowWhatANewMetricDesignStartsWith) {
   dialog.Open();
 
-  EXPECT_EQ(dialog.txtCMRR[Metric].Text(), "45");
-  EXPECT_EQ(dialog.txtDepthofCover[Metric].Text(), "150");
-  EXPECT_EQ(dialog.txtUnitWeight[Metric].Text(), "25");
-  EXPECT_EQ(dialog.txtActualSpan[Metric].Text(), "20");
-  EXPECT_EQ(dialog.txtEntryWidth[Metric].Text(), "6.2");
-  EXPECT_EQ(dialog.txtStabilityFactor[Metric].Text(), "1");
-  EXPECT_EQ(dialog.txtActualBoltLength[Metric].Text(), "2");
-  EXPECT_EQ(dialog.txtBoltDiameter[Metric].Text(), "20");
-  EXPECT_EQ(dialog.txtBoltGrade[Metric].Text(), "520");
-  EXPECT_EQ(dialog.txtBoltUTS[Metric].Text(), "690");
-  EXPECT_EQ(dialog.txtBoltsperRow[Metric].Text(), "4");
-  EXPECT_EQ(dialog.txtRowSpacing[Metric].Text(), "1.2");
+  EXPECT_EQ(dialog.txtCMRR[MetricPage].Text(), "45");
+  EXPECT_EQ(dialog.txtDepthofCover[MetricPage].Text(), "150");
+  EXPECT_EQ(dialog.txtUnitWeight[MetricPage].Text(), "25");
+  EXPECT_EQ(dialog.txtActualSpan[MetricPage].Text(), "20");
+  EXPECT_EQ(dialog.txtEntryWidth[MetricPage].Text(), "6.2");
+  EXPECT_EQ(dialog.txtStabilityFactor[MetricPage].Text(), "1");
+  EXPECT_EQ(dialog.txtActualBoltLength[MetricPage].Text(), "2");
+  EXPECT_EQ(dialog.txtBoltDiameter[MetricPage].Text(), "20");
+  EXPECT_EQ(dialog.txtBoltGrade[MetricPage].Text(), "520");
+  EXPECT_EQ(dialog.txtBoltUTS[MetricPage].Text(), "690");
+  EXPECT_EQ(dialog.txtBoltsperRow[MetricPage].Text(), "4");
+  EXPECT_EQ(dialog.txtRowSpacing[MetricPage].Text(), "1.2");
 }
 
 TEST_F(Options, AreLoggedWhenTheyOpen) {
@@ -191,7 +191,7 @@ TEST_F(Options, AskBeforeTheyAssociateTheExtension) {
 TEST_F(Options, StayAsTheyAreWhenTheDialogIsCancelled) {
   dialog.Open();
   dialog.Check1.SetValue(0);
-  dialog.txtDepthofCover[English].SetText("900");
+  dialog.txtDepthofCover[EnglishPage].SetText("900");
 
   dialog.cmdCancel.Press();
 
@@ -216,24 +216,24 @@ TEST_F(Options, AreStoredOnOK) {
   EXPECT_EQ(program.options.ViewChildWindow, 0);
   EXPECT_EQ(program.options.PrintModuleHeader, 0);
   EXPECT_EQ(program.options.AskOfficeInstall, 0);
-  EXPECT_EQ(program.options.BoltGradeAsUltimateDefault, 1);
+  EXPECT_EQ(program.options.BoltGradeAsUltimateDefault, StrengthBasis::Ultimate);
   EXPECT_THAT(program.history.Text, Not(HasSubstr("Options Not Modified")));
 }
 
 TEST_F(Options, StoreTheEnglishDefaultsWhereNewDesignsFindThem) {
   dialog.Open();
-  dialog.txtCMRR[English].SetText("52");
-  dialog.txtDepthofCover[English].SetText("650.5");
-  dialog.txtUnitWeight[English].SetText("158");
-  dialog.txtActualSpan[English].SetText("62.5");
-  dialog.txtEntryWidth[English].SetText("18");
-  dialog.txtStabilityFactor[English].SetText("1.3");
-  dialog.txtActualBoltLength[English].SetText("8");
-  dialog.txtBoltDiameter[English].SetText("0.875");
-  dialog.txtBoltGrade[English].SetText("60");
-  dialog.txtBoltUTS[English].SetText("90");
-  dialog.txtBoltsperRow[English].SetText("5");
-  dialog.txtRowSpacing[English].SetText("4.5");
+  dialog.txtCMRR[EnglishPage].SetText("52");
+  dialog.txtDepthofCover[EnglishPage].SetText("650.5");
+  dialog.txtUnitWeight[EnglishPage].SetText("158");
+  dialog.txtActualSpan[EnglishPage].SetText("62.5");
+  dialog.txtEntryWidth[EnglishPage].SetText("18");
+  dialog.txtStabilityFactor[EnglishPage].SetText("1.3");
+  dialog.txtActualBoltLength[EnglishPage].SetText("8");
+  dialog.txtBoltDiameter[EnglishPage].SetText("0.875");
+  dialog.txtBoltGrade[EnglishPage].SetText("60");
+  dialog.txtBoltUTS[EnglishPage].SetText("90");
+  dialog.txtBoltsperRow[EnglishPage].SetText("5");
+  dialog.txtRowSpacing[EnglishPage].SetText("4.5");
 
   Accept();
 
@@ -256,15 +256,15 @@ TEST_F(Options, StoreTheEnglishDefaultsWhereNewDesignsFindThem) {
 
 TEST_F(Options, StoreTheMetricDefaultsWhereNewDesignsFindThem) {
   dialog.Open();
-  dialog.txtDepthofCover[Metric].SetText("210.5");
-  dialog.txtUnitWeight[Metric].SetText("24.2");
-  dialog.txtActualSpan[Metric].SetText("19");
-  dialog.txtEntryWidth[Metric].SetText("5.8");
-  dialog.txtActualBoltLength[Metric].SetText("2.4");
-  dialog.txtBoltDiameter[Metric].SetText("22");
-  dialog.txtBoltGrade[Metric].SetText("420");
-  dialog.txtBoltUTS[Metric].SetText("620");
-  dialog.txtRowSpacing[Metric].SetText("1.4");
+  dialog.txtDepthofCover[MetricPage].SetText("210.5");
+  dialog.txtUnitWeight[MetricPage].SetText("24.2");
+  dialog.txtActualSpan[MetricPage].SetText("19");
+  dialog.txtEntryWidth[MetricPage].SetText("5.8");
+  dialog.txtActualBoltLength[MetricPage].SetText("2.4");
+  dialog.txtBoltDiameter[MetricPage].SetText("22");
+  dialog.txtBoltGrade[MetricPage].SetText("420");
+  dialog.txtBoltUTS[MetricPage].SetText("620");
+  dialog.txtRowSpacing[MetricPage].SetText("1.4");
 
   Accept();
 
@@ -284,9 +284,9 @@ TEST_F(Options, StoreTheMetricDefaultsWhereNewDesignsFindThem) {
 
 TEST_F(Options, TakeTheEnglishValueWhereBothPagesEditOne) {
   dialog.Open();
-  dialog.txtCMRR[Metric].SetText("61");
-  dialog.txtStabilityFactor[Metric].SetText("1.7");
-  dialog.txtBoltsperRow[Metric].SetText("6");
+  dialog.txtCMRR[MetricPage].SetText("61");
+  dialog.txtStabilityFactor[MetricPage].SetText("1.7");
+  dialog.txtBoltsperRow[MetricPage].SetText("6");
 
   Accept();
 
@@ -297,8 +297,8 @@ TEST_F(Options, TakeTheEnglishValueWhereBothPagesEditOne) {
 
 TEST_F(Options, DropTheFractionsOfRatingAndBoltsPerRow) {
   dialog.Open();
-  dialog.txtCMRR[English].SetText("52.9");
-  dialog.txtBoltsperRow[English].SetText("5.9");
+  dialog.txtCMRR[EnglishPage].SetText("52.9");
+  dialog.txtBoltsperRow[EnglishPage].SetText("5.9");
 
   Accept();
 
@@ -309,8 +309,8 @@ TEST_F(Options, DropTheFractionsOfRatingAndBoltsPerRow) {
 TEST_F(Options, ChangeNothingWhenANumberHasNoPlaceInTheProgram) {
   dialog.Open();
   dialog.Check1.SetValue(0);
-  dialog.txtDepthofCover[English].SetText("650");
-  dialog.txtBoltsperRow[English].SetText("40000");
+  dialog.txtDepthofCover[EnglishPage].SetText("650");
+  dialog.txtBoltsperRow[EnglishPage].SetText("40000");
 
   Accept();
 
@@ -323,7 +323,7 @@ TEST_F(Options, ChangeNothingWhenANumberHasNoPlaceInTheProgram) {
 TEST_F(Options, AreWrittenToTheConfigurationFile) {
   dialog.Open();
   dialog.Check1.SetValue(0);
-  dialog.txtDepthofCover[English].SetText("650");
+  dialog.txtDepthofCover[EnglishPage].SetText("650");
 
   Accept();
 
@@ -361,8 +361,8 @@ struct RefusedDefault : OptionsFixture, testing::WithParamInterface<Fault> {
   }
 };
 
-TEST_P(RefusedDefault, IsShownOnTheEnglishPage) { ExpectRefusal(English, 1); }
-TEST_P(RefusedDefault, IsShownOnTheMetricPage) { ExpectRefusal(Metric, 2); }
+TEST_P(RefusedDefault, IsShownOnTheEnglishPage) { ExpectRefusal(EnglishPage, 1); }
+TEST_P(RefusedDefault, IsShownOnTheMetricPage) { ExpectRefusal(MetricPage, 2); }
 
 INSTANTIATE_TEST_SUITE_P(
     Of, RefusedDefault,
@@ -381,9 +381,9 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(Options, TellOfOneFaultOnlyTheFirstOfTheEnglishPage) {
   dialog.Open();
-  dialog.txtStabilityFactor[Metric].SetText("0");
-  dialog.txtEntryWidth[English].SetText("0");
-  dialog.txtCMRR[English].SetText("0");
+  dialog.txtStabilityFactor[MetricPage].SetText("0");
+  dialog.txtEntryWidth[EnglishPage].SetText("0");
+  dialog.txtCMRR[EnglishPage].SetText("0");
 
   Accept();
 
@@ -392,8 +392,8 @@ TEST_F(Options, TellOfOneFaultOnlyTheFirstOfTheEnglishPage) {
 
 TEST_F(Options, LetAnyUnitWeightAndBoltStrengthPass) {
   dialog.Open();
-  dialog.txtUnitWeight[English].SetText("0");
-  dialog.txtBoltUTS[Metric].SetText("");
+  dialog.txtUnitWeight[EnglishPage].SetText("0");
+  dialog.txtBoltUTS[MetricPage].SetText("");
 
   Accept();
 
@@ -404,7 +404,7 @@ TEST_F(Options, LetAnyUnitWeightAndBoltStrengthPass) {
 
 TEST_F(Options, AcceptARoofRatingOf100) {
   dialog.Open();
-  dialog.txtCMRR[English].SetText("100");
+  dialog.txtCMRR[EnglishPage].SetText("100");
 
   Accept();
 
@@ -415,7 +415,7 @@ TEST_F(Options, AcceptARoofRatingOf100) {
 TEST_F(Options, AskAboutALowRoofRatingOnTheMetricPage) {
   platform.boxes.answers = {box_result::Yes};
   dialog.Open();
-  dialog.txtCMRR[Metric].SetText("34");
+  dialog.txtCMRR[MetricPage].SetText("34");
 
   Accept();
 
@@ -428,34 +428,34 @@ TEST_F(Options, AskAboutALowRoofRatingOnTheMetricPage) {
 TEST_F(Options, StayOnTheFieldOfARefusedRoofRating) {
   platform.boxes.answers = {box_result::No};
   dialog.Open();
-  dialog.txtCMRR[Metric].SetText("34");
+  dialog.txtCMRR[MetricPage].SetText("34");
 
   Accept();
 
   EXPECT_TRUE(dialog.IsOpen());
   EXPECT_EQ(dialog.SSTab1.Tab(), 2);
-  EXPECT_EQ(dialog.FocusRequest(), &dialog.txtCMRR[Metric]);
+  EXPECT_EQ(dialog.FocusRequest(), &dialog.txtCMRR[MetricPage]);
   EXPECT_EQ(program.defaults.DefaultCMRR, 45);
 }
 
 TEST_F(Options, AskAboutEachUnusualValue) {
   platform.boxes.answers = {box_result::Yes, box_result::Yes, box_result::No};
   dialog.Open();
-  dialog.txtCMRR[English].SetText("30");
-  dialog.txtStabilityFactor[English].SetText("0.9");
-  dialog.txtStabilityFactor[Metric].SetText("0.5");
+  dialog.txtCMRR[EnglishPage].SetText("30");
+  dialog.txtStabilityFactor[EnglishPage].SetText("0.9");
+  dialog.txtStabilityFactor[MetricPage].SetText("0.5");
 
   Accept();
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre(RatingWarning, StabilityWarning, StabilityWarning));
   EXPECT_TRUE(dialog.IsOpen());
-  EXPECT_EQ(dialog.FocusRequest(), &dialog.txtStabilityFactor[Metric]);
+  EXPECT_EQ(dialog.FocusRequest(), &dialog.txtStabilityFactor[MetricPage]);
 }
 
 TEST_F(Options, AskNothingAtTheLimits) {
   dialog.Open();
-  dialog.txtCMRR[English].SetText("35");
-  dialog.txtStabilityFactor[English].SetText("1");
+  dialog.txtCMRR[EnglishPage].SetText("35");
+  dialog.txtStabilityFactor[EnglishPage].SetText("1");
 
   Accept();
 
@@ -464,8 +464,8 @@ TEST_F(Options, AskNothingAtTheLimits) {
 
 TEST_F(Options, TellOfFaultsBeforeTheyAsk) {
   dialog.Open();
-  dialog.txtCMRR[English].SetText("30");
-  dialog.txtRowSpacing[Metric].SetText("0");
+  dialog.txtCMRR[EnglishPage].SetText("30");
+  dialog.txtRowSpacing[MetricPage].SetText("0");
 
   Accept();
 
@@ -475,7 +475,7 @@ TEST_F(Options, TellOfFaultsBeforeTheyAsk) {
 TEST_F(Options, KeepTheCellThatIsBeingEditedWhenAFaultStopsThem) {
   dialog.Open();
   Edit(dialog.VSFlexGridEng, 1, 2, "28");
-  dialog.txtEntryWidth[English].SetText("0");
+  dialog.txtEntryWidth[EnglishPage].SetText("0");
 
   Accept();
 

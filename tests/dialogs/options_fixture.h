@@ -14,6 +14,10 @@
 
 namespace orby::test {
 
+// The pages of the two unit systems, and their lists of bolts.
+inline constexpr std::size_t EnglishPage = PlaceOf(English);
+inline constexpr std::size_t MetricPage = PlaceOf(Metric);
+
 struct OptionsFixture : testing::Test {
   OptionsFixture() {
     SetBuiltInCatalogs(program.catalogs);

@@ -53,7 +53,7 @@ TEST_F(OptionsGrids, GiveACableTheStrengthOfItsCapacityOnOK) {
 TEST_F(OptionsGrids, AddACableAtOnce) {
   dialog.Open();
 
-  dialog.cmdAddCable[English].Press();
+  dialog.cmdAddCable[EnglishPage].Press();
 
   EXPECT_THAT(Row(dialog.VSFlexGridEng, 3), ElementsAre("3", "", ""));
   EXPECT_THAT(Values(program.catalogs.DefaultCableCapArrayENG), ElementsAre(26.4F, 35.7F, 0));
@@ -64,7 +64,7 @@ TEST_F(OptionsGrids, AddACableAtOnce) {
 TEST_F(OptionsGrids, TakeTheKeyboardToTheRowThatIsAdded) {
   dialog.Open();
 
-  dialog.cmdAddCable[Metric].Press();
+  dialog.cmdAddCable[MetricPage].Press();
 
   EXPECT_THAT(std::pair(dialog.VSFlexGridMet.Row(), dialog.VSFlexGridMet.Column()), Pair(7, 1));
   EXPECT_EQ(dialog.FocusRequest(), &dialog.txtCableMet);
@@ -73,7 +73,7 @@ TEST_F(OptionsGrids, TakeTheKeyboardToTheRowThatIsAdded) {
 
 TEST_F(OptionsGrids, StoreAnAddedCable) {
   dialog.Open();
-  dialog.cmdAddCable[English].Press();
+  dialog.cmdAddCable[EnglishPage].Press();
   Edit(dialog.VSFlexGridEng, 3, 1, "0.9");
   Edit(dialog.VSFlexGridEng, 3, 2, "58.6");
 
@@ -87,7 +87,7 @@ TEST_F(OptionsGrids, StoreAnAddedCable) {
 TEST_F(OptionsGrids, GrowPastTenRows) {
   dialog.Open();
 
-  for (int i = 0; i < 12; ++i) dialog.cmdAddCable[English].Press();
+  for (int i = 0; i < 12; ++i) dialog.cmdAddCable[EnglishPage].Press();
 
   EXPECT_EQ(dialog.VSFlexGridEng.Rows(), 15);
   EXPECT_EQ(program.catalogs.DefaultCableCapArrayENG.HighestIndex, 13);
@@ -98,7 +98,7 @@ TEST_F(OptionsGrids, DeleteTheSelectedCableAndNumberTheOthersAnew) {
   dialog.Open();
   dialog.VSFlexGridMet.ClickCell(2, 1);
 
-  dialog.cmdDeleteCable[Metric].Press();
+  dialog.cmdDeleteCable[MetricPage].Press();
 
   EXPECT_EQ(dialog.VSFlexGridMet.Rows(), 6);
   EXPECT_THAT(Row(dialog.VSFlexGridMet, 2), ElementsAre("2", "31", "620"));
@@ -109,7 +109,7 @@ TEST_F(OptionsGrids, ShortenTheListAtOnceAndMoveItsValuesOnOK) {
   dialog.Open();
   dialog.VSFlexGridEng.ClickCell(1, 1);
 
-  dialog.cmdDeleteCable[English].Press();
+  dialog.cmdDeleteCable[EnglishPage].Press();
 
   EXPECT_THAT(Values(program.catalogs.DefaultCableCapArrayENG), ElementsAre(26.4F));
   Accept();
@@ -121,7 +121,7 @@ TEST_F(OptionsGrids, ForgetWhatWasTypedIntoADeletedRow) {
   dialog.Open();
   Edit(dialog.VSFlexGridEng, 1, 2, "99");
 
-  dialog.cmdDeleteCable[English].Press();
+  dialog.cmdDeleteCable[EnglishPage].Press();
 
   EXPECT_THAT(Row(dialog.VSFlexGridEng, 1), ElementsAre("1", "0.7", "35.7"));
   EXPECT_EQ(dialog.txtCableEng.Text(), "35.7");
@@ -129,11 +129,11 @@ TEST_F(OptionsGrids, ForgetWhatWasTypedIntoADeletedRow) {
 
 TEST_F(OptionsGrids, CanBeEmptiedAndFilledAgain) {
   dialog.Open();
-  for (int i = 0; i < 4; ++i) dialog.cmdDeleteCable[English].Press();
+  for (int i = 0; i < 4; ++i) dialog.cmdDeleteCable[EnglishPage].Press();
   EXPECT_EQ(dialog.VSFlexGridEng.Rows(), 1);
   EXPECT_EQ(program.catalogs.DefaultCableCapArrayENG.HighestIndex, -1);
 
-  dialog.cmdAddCable[English].Press();
+  dialog.cmdAddCable[EnglishPage].Press();
   Edit(dialog.VSFlexGridEng, 1, 2, "30");
   Accept();
 
@@ -142,10 +142,10 @@ TEST_F(OptionsGrids, CanBeEmptiedAndFilledAgain) {
 
 TEST_F(OptionsGrids, ResetTheCablesAtOnce) {
   dialog.Open();
-  dialog.cmdDeleteCable[Metric].Press();
+  dialog.cmdDeleteCable[MetricPage].Press();
   Edit(dialog.VSFlexGridMet, 1, 2, "1");
 
-  dialog.cmdSetDefaultCable[Metric].Press();
+  dialog.cmdSetDefaultCable[MetricPage].Press();
   dialog.cmdCancel.Press();
 
   EXPECT_THAT(Row(dialog.VSFlexGridMet, 1), ElementsAre("1", "15.2", "235"));
@@ -164,7 +164,7 @@ TEST_F(OptionsGrids, ShowTheStandingSupports) {
 }
 
 TEST_F(OptionsGrids, ShowTheStandingSupportsOfAMetricProjectInKilonewtons) {
-  program.Units = Metric;
+  program.WorkParms.Units = Metric;
 
   dialog.Open();
 
@@ -188,7 +188,7 @@ TEST_F(OptionsGrids, StoreANewStandingSupportInBothUnitSystems) {
 }
 
 TEST_F(OptionsGrids, StoreAMetricStandingSupportInBothUnitSystems) {
-  program.Units = Metric;
+  program.WorkParms.Units = Metric;
   dialog.Open();
   Edit(dialog.VSFlexGridStand, 9, 2, "889.6443");
 
@@ -199,7 +199,7 @@ TEST_F(OptionsGrids, StoreAMetricStandingSupportInBothUnitSystems) {
 }
 
 TEST_F(OptionsGrids, KeepBothCapacitiesOfTheRowsBehindADeletedOne) {
-  program.Units = Metric;
+  program.WorkParms.Units = Metric;
   dialog.Open();
   dialog.VSFlexGridStand.ClickCell(1, 2);
 

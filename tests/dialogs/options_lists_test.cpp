@@ -28,12 +28,12 @@ struct BoltLists : OptionsFixture {
 TEST_F(BoltLists, ShowTheCatalogs) {
   dialog.Open();
 
-  EXPECT_THAT(Entries(English, Grade), ElementsAre("40", "55", "60", "75", "90", "100"));
-  EXPECT_THAT(Entries(English, UTS), ElementsAre("70", "85", "90", "100", "116", "125"));
-  EXPECT_THAT(Entries(English, Diameter), ElementsAre("0.625", "0.75", "0.875", "0.688", "0.804"));
-  EXPECT_THAT(Entries(Metric, Grade), ElementsAre("280", "390", "420", "520", "620", "690"));
-  EXPECT_THAT(Entries(Metric, UTS), ElementsAre("480", "590", "620", "690", "800", "860"));
-  EXPECT_THAT(Entries(Metric, Diameter), ElementsAre("15.88", "19", "22.22", "17.48", "20.42"));
+  EXPECT_THAT(Entries(EnglishPage, Grade), ElementsAre("40", "55", "60", "75", "90", "100"));
+  EXPECT_THAT(Entries(EnglishPage, UTS), ElementsAre("70", "85", "90", "100", "116", "125"));
+  EXPECT_THAT(Entries(EnglishPage, Diameter), ElementsAre("0.625", "0.75", "0.875", "0.688", "0.804"));
+  EXPECT_THAT(Entries(MetricPage, Grade), ElementsAre("280", "390", "420", "520", "620", "690"));
+  EXPECT_THAT(Entries(MetricPage, UTS), ElementsAre("480", "590", "620", "690", "800", "860"));
+  EXPECT_THAT(Entries(MetricPage, Diameter), ElementsAre("15.88", "19", "22.22", "17.48", "20.42"));
 }
 
 TEST_F(BoltLists, ShowTheAustralianStrengthsAndDiametersUnderTheirOwnNames) {
@@ -49,14 +49,14 @@ TEST_F(BoltLists, ShowOnlyTheEntriesInUse) {
 
   dialog.Open();
 
-  EXPECT_THAT(Entries(English, Grade), ElementsAre("40", "55", "60"));
+  EXPECT_THAT(Entries(EnglishPage, Grade), ElementsAre("40", "55", "60"));
 }
 
 TEST_F(BoltLists, BeginWithTheFirstListOfEachCatalog) {
   dialog.Open();
 
-  EXPECT_TRUE(dialog.bolts[English].optBolt.Value(Grade));
-  EXPECT_TRUE(dialog.bolts[Metric].optBolt.Value(Grade));
+  EXPECT_TRUE(dialog.bolts[EnglishPage].optBolt.Value(Grade));
+  EXPECT_TRUE(dialog.bolts[MetricPage].optBolt.Value(Grade));
   EXPECT_TRUE(dialog.bolts[Australian].optBolt.Value(UTS));
 }
 
@@ -65,17 +65,17 @@ TEST_F(BoltLists, BeginWithTheFirstListOfEachCatalog) {
 TEST_F(BoltLists, TakeANewEntryAtTheirEndAndSelectIt) {
   dialog.Open();
 
-  Add(Metric, UTS, "950");
+  Add(MetricPage, UTS, "950");
 
-  EXPECT_THAT(Entries(Metric, UTS), ElementsAre("480", "590", "620", "690", "800", "860", "950"));
-  EXPECT_EQ(dialog.bolts[Metric].lists[UTS]->ListIndex(), 6);
+  EXPECT_THAT(Entries(MetricPage, UTS), ElementsAre("480", "590", "620", "690", "800", "860", "950"));
+  EXPECT_EQ(dialog.bolts[MetricPage].lists[UTS]->ListIndex(), 6);
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
 TEST_F(BoltLists, KeepAnAddedEntryFromTheProgramUntilOK) {
   dialog.Open();
 
-  Add(English, Grade, "80");
+  Add(EnglishPage, Grade, "80");
 
   EXPECT_EQ(program.catalogs.DefaultBoltGradeArrayENG.HighestIndex, 5);
   Accept();
@@ -85,50 +85,50 @@ TEST_F(BoltLists, KeepAnAddedEntryFromTheProgramUntilOK) {
 TEST_F(BoltLists, WantAValue) {
   dialog.Open();
 
-  Add(English, Diameter, "  ");
+  Add(EnglishPage, Diameter, "  ");
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Please enter a value in the text box above."));
-  EXPECT_EQ(Entries(English, Diameter).size(), 5U);
+  EXPECT_EQ(Entries(EnglishPage, Diameter).size(), 5U);
 }
 
 TEST_F(BoltLists, RefuseTheEntryThatTheyHold) {
   dialog.Open();
 
-  Add(English, Grade, "60");
-  Add(English, UTS, "90");
-  Add(English, Diameter, "0.75");
+  Add(EnglishPage, Grade, "60");
+  Add(EnglishPage, UTS, "90");
+  Add(EnglishPage, Diameter, "0.75");
 
   EXPECT_THAT(platform.boxes.Texts(),
               ElementsAre("Grade entry exists. New value not added", "UTS entry exists. New value not added",
                           "Diameter entry exists. New value not added"));
-  EXPECT_EQ(Entries(English, Grade).size(), 6U);
+  EXPECT_EQ(Entries(EnglishPage, Grade).size(), 6U);
 }
 
 TEST_F(BoltLists, CompareEntriesAsTexts) {
   dialog.Open();
-  Add(English, Diameter, "0.50");
+  Add(EnglishPage, Diameter, "0.50");
 
-  Add(English, Diameter, "0.5");
+  Add(EnglishPage, Diameter, "0.5");
 
-  EXPECT_THAT(Entries(English, Diameter), ElementsAre("0.625", "0.75", "0.875", "0.688", "0.804", "0.50", "0.5"));
+  EXPECT_THAT(Entries(EnglishPage, Diameter), ElementsAre("0.625", "0.75", "0.875", "0.688", "0.804", "0.50", "0.5"));
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
 TEST_F(BoltLists, SaySoWhenTheyAreFullEvenToWhatTheyHold) {
   dialog.Open();
-  for (const char* grade : {"101", "102", "103", "104"}) Add(English, Grade, grade);
-  for (const char* strength : {"131", "132", "133", "134"}) Add(English, UTS, strength);
-  for (const char* diameter : {"1", "1.1", "1.2", "1.3", "1.4"}) Add(English, Diameter, diameter);
+  for (const char* grade : {"101", "102", "103", "104"}) Add(EnglishPage, Grade, grade);
+  for (const char* strength : {"131", "132", "133", "134"}) Add(EnglishPage, UTS, strength);
+  for (const char* diameter : {"1", "1.1", "1.2", "1.3", "1.4"}) Add(EnglishPage, Diameter, diameter);
 
-  Add(English, Grade, "60");
-  Add(English, UTS, "140");
-  Add(English, Diameter, "1.5");
+  Add(EnglishPage, Grade, "60");
+  Add(EnglishPage, UTS, "140");
+  Add(EnglishPage, Diameter, "1.5");
 
   EXPECT_THAT(platform.boxes.Texts(),
               ElementsAre("Maximum grade entries have been reached. Please delete a value first",
                           "Maximum UTS entries have been reached. Please delete a value first",
                           "Maximum diameter entries have been reached. Please delete a value first"));
-  EXPECT_EQ(Entries(English, Grade).size(), 10U);
+  EXPECT_EQ(Entries(EnglishPage, Grade).size(), 10U);
 }
 
 TEST_F(BoltLists, HoldTenAustralianEntries) {
@@ -149,9 +149,9 @@ TEST_F(BoltLists, HoldTenAustralianEntries) {
 TEST_F(BoltLists, WantASelectionToDelete) {
   dialog.Open();
 
-  Delete(Metric, Grade);
-  Delete(Metric, UTS);
-  Delete(Metric, Diameter);
+  Delete(MetricPage, Grade);
+  Delete(MetricPage, UTS);
+  Delete(MetricPage, Diameter);
 
   EXPECT_THAT(platform.boxes.Texts(),
               ElementsAre("Please select a grade value to delete", "Please select a UTS value to delete",
@@ -160,28 +160,28 @@ TEST_F(BoltLists, WantASelectionToDelete) {
 
 TEST_F(BoltLists, LoseTheSelectedEntryAndSelectTheOneBehindIt) {
   dialog.Open();
-  dialog.bolts[English].lists[Grade]->ClickItem(1);
+  dialog.bolts[EnglishPage].lists[Grade]->ClickItem(1);
 
-  Delete(English, Grade);
+  Delete(EnglishPage, Grade);
 
-  EXPECT_THAT(Entries(English, Grade), ElementsAre("40", "60", "75", "90", "100"));
-  EXPECT_EQ(dialog.bolts[English].lists[Grade]->ListIndex(), 1);
+  EXPECT_THAT(Entries(EnglishPage, Grade), ElementsAre("40", "60", "75", "90", "100"));
+  EXPECT_EQ(dialog.bolts[EnglishPage].lists[Grade]->ListIndex(), 1);
 }
 
 TEST_F(BoltLists, AreChosenByAClickIntoThem) {
   dialog.Open();
-  dialog.bolts[English].lists[Diameter]->ClickItem(0);
-  dialog.bolts[English].lists[UTS]->ClickItem(5);
+  dialog.bolts[EnglishPage].lists[Diameter]->ClickItem(0);
+  dialog.bolts[EnglishPage].lists[UTS]->ClickItem(5);
 
-  EXPECT_TRUE(dialog.bolts[English].optBolt.Value(UTS));
-  dialog.bolts[English].cmdDeleteBolt.Press();
-  EXPECT_THAT(Entries(English, UTS), ElementsAre("70", "85", "90", "100", "116"));
-  EXPECT_EQ(Entries(English, Diameter).size(), 5U);
+  EXPECT_TRUE(dialog.bolts[EnglishPage].optBolt.Value(UTS));
+  dialog.bolts[EnglishPage].cmdDeleteBolt.Press();
+  EXPECT_THAT(Entries(EnglishPage, UTS), ElementsAre("70", "85", "90", "100", "116"));
+  EXPECT_EQ(Entries(EnglishPage, Diameter).size(), 5U);
 
-  dialog.bolts[English].lists[Diameter]->ClickItem(0);
-  dialog.bolts[English].cmdDeleteBolt.Press();
-  EXPECT_THAT(Entries(English, Diameter), ElementsAre("0.75", "0.875", "0.688", "0.804"));
-  EXPECT_EQ(Entries(English, UTS).size(), 5U);
+  dialog.bolts[EnglishPage].lists[Diameter]->ClickItem(0);
+  dialog.bolts[EnglishPage].cmdDeleteBolt.Press();
+  EXPECT_THAT(Entries(EnglishPage, Diameter), ElementsAre("0.75", "0.875", "0.688", "0.804"));
+  EXPECT_EQ(Entries(EnglishPage, UTS).size(), 5U);
 }
 
 TEST_F(BoltLists, ChooseNothingInTheOtherCatalogs) {
@@ -190,17 +190,17 @@ TEST_F(BoltLists, ChooseNothingInTheOtherCatalogs) {
   dialog.bolts[Australian].lists[Diameter]->ClickItem(1);
 
   EXPECT_TRUE(dialog.bolts[Australian].optBolt.Value(Diameter));
-  EXPECT_TRUE(dialog.bolts[English].optBolt.Value(Grade));
-  EXPECT_TRUE(dialog.bolts[Metric].optBolt.Value(Grade));
+  EXPECT_TRUE(dialog.bolts[EnglishPage].optBolt.Value(Grade));
+  EXPECT_TRUE(dialog.bolts[MetricPage].optBolt.Value(Grade));
 }
 
 TEST_F(BoltLists, SelectTheLastEntryOnceTheOneBehindItIsGone) {
   dialog.Open();
-  dialog.bolts[English].lists[Diameter]->ClickItem(4);
+  dialog.bolts[EnglishPage].lists[Diameter]->ClickItem(4);
 
-  Delete(English, Diameter);
+  Delete(EnglishPage, Diameter);
 
-  EXPECT_EQ(dialog.bolts[English].lists[Diameter]->ListIndex(), 3);
+  EXPECT_EQ(dialog.bolts[EnglishPage].lists[Diameter]->ListIndex(), 3);
 }
 
 TEST_F(BoltLists, CanBeEmptied) {
@@ -219,9 +219,9 @@ TEST_F(BoltLists, CanBeEmptied) {
 
 TEST_F(BoltLists, KeepADeletedEntryInTheProgramUntilOK) {
   dialog.Open();
-  dialog.bolts[English].lists[UTS]->ClickItem(0);
+  dialog.bolts[EnglishPage].lists[UTS]->ClickItem(0);
 
-  Delete(English, UTS);
+  Delete(EnglishPage, UTS);
 
   EXPECT_EQ(program.catalogs.DefaultBoltUTSArrayENG[0], 70);
   Accept();
@@ -232,12 +232,12 @@ TEST_F(BoltLists, KeepADeletedEntryInTheProgramUntilOK) {
 
 TEST_F(BoltLists, StoreEachListInItsCatalog) {
   dialog.Open();
-  Add(English, Grade, "80");
-  Add(English, UTS, "130");
-  Add(English, Diameter, "1");
-  Add(Metric, Grade, "550");
-  Add(Metric, UTS, "900");
-  Add(Metric, Diameter, "25");
+  Add(EnglishPage, Grade, "80");
+  Add(EnglishPage, UTS, "130");
+  Add(EnglishPage, Diameter, "1");
+  Add(MetricPage, Grade, "550");
+  Add(MetricPage, UTS, "900");
+  Add(MetricPage, Diameter, "25");
 
   Accept();
 
@@ -268,60 +268,60 @@ TEST_F(BoltLists, AreResetAtOnceEvenWhenTheDialogIsCancelled) {
   program.catalogs.DefaultBoltGradeArrayENG.Set(0, 44);
   dialog.Open();
 
-  dialog.bolts[English].cmdSetDefaultBolt.Press();
+  dialog.bolts[EnglishPage].cmdSetDefaultBolt.Press();
   dialog.cmdCancel.Press();
 
-  EXPECT_THAT(Entries(English, Diameter), ElementsAre("0.625", "0.75", "0.875", "0.688", "0.804"));
-  EXPECT_THAT(Entries(English, Grade), ElementsAre("40", "55", "60", "75", "90", "100"));
+  EXPECT_THAT(Entries(EnglishPage, Diameter), ElementsAre("0.625", "0.75", "0.875", "0.688", "0.804"));
+  EXPECT_THAT(Entries(EnglishPage, Grade), ElementsAre("40", "55", "60", "75", "90", "100"));
   EXPECT_THAT(Values(program.catalogs.DefaultBoltDiamArrayENG), ElementsAre(0.625F, 0.75F, 0.875F, 0.688F, 0.804F));
   EXPECT_EQ(program.catalogs.DefaultBoltGradeArrayENG[0], 40);
 }
 
 TEST_F(BoltLists, AreResetCatalogByCatalog) {
   dialog.Open();
-  Add(Metric, Grade, "550");
+  Add(MetricPage, Grade, "550");
   Add(Australian, UTS, "650");
   program.catalogs.DefaultBoltGradeArrayMET.Set(0, 300);
 
   dialog.bolts[Australian].cmdSetDefaultBolt.Press();
 
   EXPECT_THAT(Entries(Australian, UTS), ElementsAre("840", "440"));
-  EXPECT_THAT(Entries(Metric, Grade), ElementsAre("280", "390", "420", "520", "620", "690", "550"));
+  EXPECT_THAT(Entries(MetricPage, Grade), ElementsAre("280", "390", "420", "520", "620", "690", "550"));
   EXPECT_EQ(program.catalogs.DefaultBoltGradeArrayMET[0], 300);
 }
 
 TEST_F(BoltLists, HaveNothingSelectedToDeleteOnceTheyAreReset) {
   dialog.Open();
-  dialog.bolts[English].lists[Grade]->ClickItem(2);
-  dialog.bolts[English].lists[UTS]->ClickItem(0);
+  dialog.bolts[EnglishPage].lists[Grade]->ClickItem(2);
+  dialog.bolts[EnglishPage].lists[UTS]->ClickItem(0);
 
-  dialog.bolts[English].cmdSetDefaultBolt.Press();
-  Delete(English, Grade);
-  Delete(English, UTS);
+  dialog.bolts[EnglishPage].cmdSetDefaultBolt.Press();
+  Delete(EnglishPage, Grade);
+  Delete(EnglishPage, UTS);
 
   EXPECT_THAT(platform.boxes.Texts(),
               ElementsAre("Please select a grade value to delete", "Please select a UTS value to delete"));
-  EXPECT_THAT(Entries(English, Grade), ElementsAre("40", "55", "60", "75", "90", "100"));
-  EXPECT_THAT(Entries(English, UTS), ElementsAre("70", "85", "90", "100", "116", "125"));
+  EXPECT_THAT(Entries(EnglishPage, Grade), ElementsAre("40", "55", "60", "75", "90", "100"));
+  EXPECT_THAT(Entries(EnglishPage, UTS), ElementsAre("70", "85", "90", "100", "116", "125"));
 }
 
 TEST_F(BoltLists, KeepTheOptionWhenTheyAreReset) {
   dialog.Open();
-  dialog.bolts[Metric].optBolt.SetValue(Diameter, true);
+  dialog.bolts[MetricPage].optBolt.SetValue(Diameter, true);
 
-  dialog.bolts[Metric].cmdSetDefaultBolt.Press();
+  dialog.bolts[MetricPage].cmdSetDefaultBolt.Press();
 
-  EXPECT_TRUE(dialog.bolts[Metric].optBolt.Value(Diameter));
+  EXPECT_TRUE(dialog.bolts[MetricPage].optBolt.Value(Diameter));
 }
 
 TEST_F(BoltLists, LetNumbersOnlyIntoTheEntryField) {
-  EXPECT_EQ(dialog.bolts[English].txtItem.KeyPress('x'), 0);
-  EXPECT_EQ(dialog.bolts[English].txtItem.KeyPress('7'), '7');
+  EXPECT_EQ(dialog.bolts[EnglishPage].txtItem.KeyPress('x'), 0);
+  EXPECT_EQ(dialog.bolts[EnglishPage].txtItem.KeyPress('7'), '7');
 }
 
 TEST_F(BoltLists, BearTheCaptionsOfTheirResetButtons) {
-  EXPECT_EQ(dialog.bolts[English].cmdSetDefaultBolt.Caption(), "Reset Default (US)");
-  EXPECT_EQ(dialog.bolts[Metric].cmdSetDefaultBolt.Caption(), "Reset Default (US)");
+  EXPECT_EQ(dialog.bolts[EnglishPage].cmdSetDefaultBolt.Caption(), "Reset Default (US)");
+  EXPECT_EQ(dialog.bolts[MetricPage].cmdSetDefaultBolt.Caption(), "Reset Default (US)");
   EXPECT_EQ(dialog.bolts[Australian].cmdSetDefaultBolt.Caption(), "Reset Default (AUS)");
 }
 

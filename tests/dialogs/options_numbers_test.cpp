@@ -32,7 +32,7 @@ TEST_F(OptionsNumbers, BringTheMessageOfTheirFieldWhateverIsTyped) {
   dialog.Open();
 
   for (const auto& [boxes, message] : fields) {
-    for (const std::size_t page : {std::size_t{English}, std::size_t{Metric}}) {
+    for (const std::size_t page : {EnglishPage, MetricPage}) {
       TextBox& field = (dialog.*boxes)[page];
       const std::string before = field.Text();
       for (const std::string& text : OddTexts) {
@@ -53,15 +53,15 @@ TEST_F(OptionsNumbers, BringTheMessageOfTheirFieldWhateverIsTyped) {
 
 TEST_F(OptionsNumbers, AreNamedWhereOnlyTheirSizeIsWrong) {
   dialog.Open();
-  dialog.txtUnitWeight[English].SetText("1E40");
+  dialog.txtUnitWeight[EnglishPage].SetText("1E40");
   Accept();
-  dialog.txtUnitWeight[English].SetText("160");
-  dialog.txtBoltUTS[Metric].SetText(" 1E999");
+  dialog.txtUnitWeight[EnglishPage].SetText("160");
+  dialog.txtBoltUTS[MetricPage].SetText(" 1E999");
   Accept();
 
   EXPECT_THAT(platform.boxes.Texts(),
               ElementsAre("Unit Weight: Value '1E40' is too large", "Bolt UTS: Value '1E999' is too large"));
-  EXPECT_EQ(dialog.FocusRequest(), &dialog.txtBoltUTS[Metric]);
+  EXPECT_EQ(dialog.FocusRequest(), &dialog.txtBoltUTS[MetricPage]);
   EXPECT_EQ(dialog.SSTab1.Tab(), 2);
   EXPECT_TRUE(dialog.IsOpen());
 }
@@ -70,13 +70,13 @@ TEST_F(OptionsNumbers, JoinNoListOfBoltsWhenTheyAreTooLarge) {
   dialog.Open();
 
   for (const char* text : {"1E40", "1E999"}) {
-    dialog.bolts[English].txtItem.SetText(text);
-    dialog.bolts[English].cmdAddBolt.Press();
+    dialog.bolts[EnglishPage].txtItem.SetText(text);
+    dialog.bolts[EnglishPage].cmdAddBolt.Press();
   }
 
   EXPECT_THAT(platform.boxes.Texts(),
               ElementsAre("Grade: Value '1E40' is too large", "Grade: Value '1E999' is too large"));
-  EXPECT_THAT(Entries(English, bolt_list::Grade), SizeIs(6));
+  EXPECT_THAT(Entries(EnglishPage, bolt_list::Grade), SizeIs(6));
 }
 
 TEST_F(OptionsNumbers, StayInTheCellOfACableThatCannotBeStored) {

@@ -13,7 +13,7 @@ using testing::IsEmpty;
 struct ParameterChecks : AParametersDialog {
   // A dialog over a valid design with every analysis and every system in use. Refreshes are held back: some faults
   // cannot be computed.
-  std::unique_ptr<ParametersDialog> ValidDesign(Integer units) {
+  std::unique_ptr<ParametersDialog> ValidDesign(UnitSystem units) {
     StartDesign(units);
     platform.boxes.shown.clear();
     auto opened = std::make_unique<ParametersDialog>(program);
@@ -24,7 +24,7 @@ struct ParameterChecks : AParametersDialog {
   }
 
   // The messages about a valid design after these edits.
-  std::vector<std::string> Faults(Integer units, std::string_view edits) {
+  std::vector<std::string> Faults(UnitSystem units, std::string_view edits) {
     const auto opened = ValidDesign(units);
     Edit(*opened, edits);
     const bool passed = opened->ValidateParameters();
@@ -33,8 +33,8 @@ struct ParameterChecks : AParametersDialog {
   }
 };
 
-std::vector<Integer> UnitsOf(const Fault& fault) {
-  return fault.units == Both ? std::vector<Integer>{English, Metric} : std::vector<Integer>{fault.units};
+std::vector<UnitSystem> UnitsOf(const Fault& fault) {
+  return fault.units == Both ? std::vector{English, Metric} : std::vector{fault.units};
 }
 
 TEST_F(ParameterChecks, PassADesignThatIsInOrder) {
@@ -56,7 +56,7 @@ TEST_F(ParameterChecks, TellEachFaultOnceAndGoToItsField) {
   for (const FaultSection& section : AllFaults()) {
     for (const Fault& fault : section.faults) {
       const TabsOnView& tabs = fault.tabs.outer == Stays ? section.tabs : fault.tabs;
-      for (const Integer units : UnitsOf(fault)) {
+      for (const UnitSystem units : UnitsOf(fault)) {
         const auto opened = ValidDesign(units);
         Edit(*opened, fault.edits);
         opened->SSTab1.SetTab(TabBefore(tabs.outer));
@@ -124,7 +124,7 @@ TEST_F(ParameterChecks, TellOnlyTheFirstFaultOfASection) {
       const Fault& first = section.faults[i];
       const Fault& second = section.faults[i + 1];
       if (first.message == second.message || !CanBothBe(first, second)) continue;
-      const Integer units = UnitsOf(first.units == Both ? second : first).front();
+      const UnitSystem units = UnitsOf(first.units == Both ? second : first).front();
 
       EXPECT_THAT(Faults(units, first.edits + "|" + second.edits), ElementsAre(first.message)) << second.edits;
       ++pairs;
@@ -230,7 +230,7 @@ TEST_F(ParameterChecks, PassOverASectionThatIsSwitchedOff) {
   for (const FaultSection& section : AllFaults()) {
     for (const std::string& off : section.off) {
       for (const Fault& fault : section.faults) {
-        const Integer units = UnitsOf(fault).front();
+        const UnitSystem units = UnitsOf(fault).front();
         EXPECT_THAT(Faults(units, fault.edits + "|" + off), IsEmpty()) << fault.edits << ' ' << off;
         ++passedOver;
       }

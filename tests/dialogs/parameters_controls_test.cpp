@@ -224,7 +224,7 @@ std::vector<std::string> Split(const std::string& text) {
   return parts;
 }
 
-std::vector<std::string> ExpectedCaptions(const ControlCase& row, Integer units) {
+std::vector<std::string> ExpectedCaptions(const ControlCase& row, UnitSystem units) {
   std::vector<std::string> captions = Split(row.caption);
   if (row.kind == "tabs") return captions;
   const std::vector<std::string> suffixes = Split(row.unit);
@@ -279,7 +279,7 @@ TEST_F(ParameterControls, AreTheseAndEachIsThereOnce) {
 }
 
 TEST_F(ParameterControls, AreFoundByNameAsTheirKindUnderTheirCaptionAndUnit) {
-  for (const Integer units : {English, Metric}) {
+  for (const UnitSystem units : {English, Metric}) {
     StartDesign(units);
     ParametersDialog other(program);
     other.Open();
@@ -294,8 +294,8 @@ TEST_F(ParameterControls, AreFoundByNameAsTheirKindUnderTheirCaptionAndUnit) {
 
 TEST_F(ParameterControls, CallTheGradeUltimateWhenStrengthsAre) {
   const std::array<std::string, 2> captions{"Roof Bolt Ultimate Grade (ksi)", "Roof Bolt Ultimate Grade (MPa)"};
-  for (const Integer units : {English, Metric}) {
-    StartDesign(units, 1);
+  for (const UnitSystem units : {English, Metric}) {
+    StartDesign(units, StrengthBasis::Ultimate);
     ParametersDialog other(program);
     other.Open();
     for (const Frame* frame : {&other.fraBoltGradePrimary, &other.fraBoltGradeSecEntry, &other.fraBoltGradeSecInter}) {

@@ -9,7 +9,7 @@
 namespace orby::test {
 
 inline constexpr int Stays = -1;  // a tab set that the fault does not turn
-inline constexpr Integer Both = -1;
+inline constexpr auto Both = UnitSystem{-1};
 
 struct TabsOnView {
   int outer = Stays;
@@ -18,7 +18,7 @@ struct TabsOnView {
 };
 
 struct Fault {
-  Integer units = Both;
+  UnitSystem units = Both;
   std::string edits;  // that make it in a valid design with every system in use
   std::string message;
   std::string focus;

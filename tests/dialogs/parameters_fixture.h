@@ -75,7 +75,7 @@ struct AParametersDialog : testing::Test {
   }
 
   // A new design; ultimate: grades are ultimate strengths.
-  void StartDesign(Integer units, Integer ultimate = 0) {
+  void StartDesign(UnitSystem units, StrengthBasis ultimate = StrengthBasis::Yield) {
     program.settings.UnitsDefault = units;
     program.options.BoltGradeAsUltimateDefault = ultimate;
     FileNew(program, true, true);

@@ -153,8 +153,8 @@ TEST_F(ParameterFields, AStoredRowOfTheLongTableOpensOnTheFirstOfTheAustralianOn
 // ---- standard values ------------------------------------------------------------------------------------------------
 
 struct ListCase {
-  Integer units;
-  Integer ultimate;
+  UnitSystem units;
+  StrengthBasis ultimate;
   std::vector<std::string> diameters;
   std::vector<std::string> grades;
   std::vector<std::string> cableDiameters;
@@ -166,11 +166,30 @@ const std::vector<std::string> MillimetreDiameters{"15.88", "19", "22.22", "17.4
 const std::vector<std::string> MetricCables{"15.2", "21.8", "31", "28", "31", "28.6"};
 const std::vector<std::string> MetricCableLoads{"235", "590", "620", "635", "880", "970"};
 
-const std::vector<ListCase> ListCases{
-    {English, 0, InchDiameters, {"40", "55", "60", "75", "90", "100"}, {"0.6", "0.7"}, {"26.4", "35.7"}},
-    {English, 1, InchDiameters, {"70", "85", "90", "100", "116", "125"}, {"0.6", "0.7"}, {"26.4", "35.7"}},
-    {Metric, 0, MillimetreDiameters, {"280", "390", "420", "520", "620", "690"}, MetricCables, MetricCableLoads},
-    {Metric, 1, MillimetreDiameters, {"480", "590", "620", "690", "800", "860"}, MetricCables, MetricCableLoads}};
+const std::vector<ListCase> ListCases{{English,
+                                       StrengthBasis::Yield,
+                                       InchDiameters,
+                                       {"40", "55", "60", "75", "90", "100"},
+                                       {"0.6", "0.7"},
+                                       {"26.4", "35.7"}},
+                                      {English,
+                                       StrengthBasis::Ultimate,
+                                       InchDiameters,
+                                       {"70", "85", "90", "100", "116", "125"},
+                                       {"0.6", "0.7"},
+                                       {"26.4", "35.7"}},
+                                      {Metric,
+                                       StrengthBasis::Yield,
+                                       MillimetreDiameters,
+                                       {"280", "390", "420", "520", "620", "690"},
+                                       MetricCables,
+                                       MetricCableLoads},
+                                      {Metric,
+                                       StrengthBasis::Ultimate,
+                                       MillimetreDiameters,
+                                       {"480", "590", "620", "690", "800", "860"},
+                                       MetricCables,
+                                       MetricCableLoads}};
 
 TEST_F(ParameterLists, OfferTheStandardValuesOfUnitsAndStrength) {
   for (const ListCase& expected : ListCases) {
@@ -282,9 +301,9 @@ TEST_F(ParameterLists, StandingSupportsCarryTheirCapacityInKilonewtons) {
 
 TEST_F(ParameterLists, AStandingSupportsCapacityIsRoundedToAWholeNumber) {
   auto& capacities = program.catalogs.StandSupports.DefaultStandSupportCap;
-  capacities[0][English] = 72.5F;
-  capacities[1][English] = 73.5F;
-  capacities[2][English] = 40000.4F;
+  capacities[0][PlaceOf(English)] = 72.5F;
+  capacities[1][PlaceOf(English)] = 73.5F;
+  capacities[2][PlaceOf(English)] = 40000.4F;
 
   dialog.Open();
 
@@ -294,7 +313,7 @@ TEST_F(ParameterLists, AStandingSupportsCapacityIsRoundedToAWholeNumber) {
 }
 
 TEST_F(ParameterLists, AStandingSupportOfAnyCapacityCanBeChosen) {
-  program.catalogs.StandSupports.DefaultStandSupportCap[1][English] = 3e9F;
+  program.catalogs.StandSupports.DefaultStandSupportCap[1][PlaceOf(English)] = 3e9F;
   dialog.Open();
 
   dialog.cmbSupportTypeSecEntry.SetListIndex(1);

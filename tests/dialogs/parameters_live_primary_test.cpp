@@ -213,12 +213,12 @@ TEST_F(ActualSupport, OfAMetricDesignTakesMillimetresAndMPa) {
 }
 
 TEST_F(ActualSupport, OfUltimateGradesIsThatOfTheirYield) {
-  StartDesign(English, 1);
+  StartDesign(English, StrengthBasis::Ultimate);
   dialog.Open();
   EXPECT_EQ(dialog.txtActualPSUP.Text(), "2.0");
   EXPECT_EQ(After("optBoltOptionsPrimary=1"), "9.9");
 
-  StartDesign(Metric, 1);
+  StartDesign(Metric, StrengthBasis::Ultimate);
   program.WorkParms.Primary.Options = 1;
   ParametersDialog metric(program);
   metric.Open();

@@ -228,13 +228,13 @@ TEST_F(EntryResults, TakeTheBoltFromTheTableTheListsOrAsTyped) {
 }
 
 TEST_F(EntryResults, OfUltimateGradesAreThoseOfTheirYield) {
-  StartDesign(English, 1);
+  StartDesign(English, StrengthBasis::Ultimate);
   OpenWithAllSystems();
   EXPECT_THAT(Entry(2), ElementsAre("10.0", "3.4", "0.34"));
   Entries("optBoltOptionsSecEntry=1");
   EXPECT_THAT(Entry(2), ElementsAre("10.0", "16.6", "1.66"));
 
-  StartDesign(Metric, 1);
+  StartDesign(Metric, StrengthBasis::Ultimate);
   ParametersDialog metric(program);
   metric.Open();
   Edit(metric, AllSystems);
@@ -403,13 +403,13 @@ TEST_F(IntersectionResults, TakeTheBoltFromTheTableTheListsOrAsTyped) {
 }
 
 TEST_F(IntersectionResults, OfUltimateGradesAreThoseOfTheirYield) {
-  StartDesign(English, 1);
+  StartDesign(English, StrengthBasis::Ultimate);
   OpenWithAllSystems();
   EXPECT_THAT(Intersection(2), ElementsAre("183", "34", "0.19"));
   Intersections("optBoltOptionsSecInter=1");
   EXPECT_THAT(Intersection(2), ElementsAre("183", "166", "0.91"));
 
-  StartDesign(Metric, 1);
+  StartDesign(Metric, StrengthBasis::Ultimate);
   ParametersDialog metric(program);
   metric.Open();
   Edit(metric, AllSystems);

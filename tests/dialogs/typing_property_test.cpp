@@ -29,7 +29,7 @@ void TypeEverywhere(Form& form) {
 }
 
 struct Run {
-  explicit Run(Integer units) {
+  explicit Run(UnitSystem units) {
     SetBuiltInCatalogs(program.catalogs);
     program.settings.UnitsDefault = units;
     FileNew(program, true, true);
@@ -40,7 +40,7 @@ struct Run {
 };
 
 RC_GTEST_PROP(TypingProperty, ShowsAFigureOrADashInTheParametersWhateverIsTyped, ()) {
-  Run run(*rc::gen::elementOf(std::vector<Integer>{English, Metric}));
+  Run run(*rc::gen::elementOf(std::vector{English, Metric}));
   ParametersDialog dialog(run.program);
   dialog.Open();
   Edit(dialog, AllSystems);
@@ -96,7 +96,7 @@ RC_GTEST_PROP(TypingProperty, KeepsTheLastNumberThatADesignCanHold, ()) {
 }
 
 RC_GTEST_PROP(StoredDesignProperty, OpensWithWhateverNumbers, ()) {
-  Run run(*rc::gen::elementOf(std::vector<Integer>{English, Metric}));
+  Run run(*rc::gen::elementOf(std::vector{English, Metric}));
   Design& design = run.program.WorkParms;
   const auto stored =
       rc::gen::oneOf(rc::gen::element<Single>(0, -1, 20, 3.4E38F, -3.4E38F, 1E-38F),

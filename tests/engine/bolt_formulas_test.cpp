@@ -132,7 +132,7 @@ TEST(BoltCapacity, FailsBeyondTheRangeOfASingle) {
 
 struct PatternRow {
   BoltPattern pattern;
-  Integer mode;
+  StrengthBasis mode;
   Single psup;
   Single prsup;
   Single rdi;
@@ -142,14 +142,14 @@ constexpr PatternRow Patterns[] = {
     {{6, 4, 0.75F, 75, 4, 20}, Ultimate, 5.89048576F, 9.94019508F, 144.132828F},
     {{5, 5, 0.875F, 60, 3.5F, 18}, Yield, 14.3171539F, 21.4757309F, 311.398102F},
     {{5, 5, 0.875F, 60, 3.5F, 18}, Ultimate, 6.62831211F, 14.3171539F, 207.598724F},
-    {{6, 4, 0.75F, 75, 4, 20}, 2, 5.89048576F, 9.94019508F, 144.132828F},
+    {{6, 4, 0.75F, 75, 4, 20}, StrengthBasis{2}, 5.89048576F, 9.94019508F, 144.132828F},
     {{6, 4, 0.75F, 80, 4, 20}, Yield, 10.6028757F, 14.1813459F, 205.629517F},
     {{6, 4, 0.75F, 80, 4, 20}, Ultimate, 6.62679672F, 10.6028757F, 153.741699F},
 };
 
 TEST(BoltPatternDensity, TakesYieldForPsupAndUltimateForPrsupWhateverTheGradeMeans) {
   for (const auto& row : Patterns) {
-    SCOPED_TRACE(testing::Message() << "grade " << row.pattern.Grade << ", mode " << row.mode);
+    SCOPED_TRACE(testing::Message() << "grade " << row.pattern.Grade << ", mode " << NumberOf(row.mode));
     EXPECT_EQ(ActualPSUP(row.pattern, Grades(row.mode)), row.psup);
     EXPECT_EQ(BoltPRSUP(row.pattern, Grades(row.mode)), row.prsup);
     EXPECT_EQ(BoltRDI(row.pattern, Grades(row.mode)), row.rdi);

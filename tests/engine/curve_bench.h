@@ -20,7 +20,7 @@ struct CurveBench : testing::Test {
 
   void UseMetricDesign() {
     design = MetricDesign();
-    program.Units = Metric;
+    program.WorkParms.Units = Metric;
   }
 
   using Point = std::pair<Single, Single>;

@@ -8,8 +8,8 @@
 
 namespace orby::test {
 
-inline constexpr Integer Yield = 0;
-inline constexpr Integer Ultimate = 1;
+inline constexpr StrengthBasis Yield = StrengthBasis::Yield;
+inline constexpr StrengthBasis Ultimate = StrengthBasis::Ultimate;
 
 inline Catalogs BuiltInLists() {
   Catalogs lists;
@@ -18,7 +18,7 @@ inline Catalogs BuiltInLists() {
 }
 
 // Grades as yield or as ultimate strengths, by the built-in lists.
-inline GradeBasis Grades(Integer strengthMode) {
+inline GradeBasis Grades(StrengthBasis strengthMode) {
   static const Catalogs lists = BuiltInLists();
   return {strengthMode, lists};
 }

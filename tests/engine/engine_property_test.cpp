@@ -98,7 +98,7 @@ RC_GTEST_PROP(StabilityFactorProperty, TimesTheRockLoadIsTheCapacity, ()) {
   const TrussSystem trusses{*Typed(1, 100), *Typed(0, 89), *Typed(1, 10), *Typed(1, 10)};
   const BoltSystem bolts{{*Typed(1, 2), *Typed(36, 120)}, *Typed(1, 10), *Typed(1, 10)};
 
-  for (const Integer mode : {Yield, Ultimate}) {
+  for (const StrengthBasis mode : {Yield, Ultimate}) {
     for (const SupportResult& system :
          {SupportEntry(rockLoad, counted), SupportEntry(rockLoad, trusses),
           SupportEntry(rockLoad, bolts, English, Grades(mode)), SupportIntersection(rockLoad, counted),

@@ -107,7 +107,7 @@ struct SiteGuard {
   bool computes;
 };
 
-void ExpectGuards(const WorkingSite& site, Integer units, std::initializer_list<SiteGuard> guards) {
+void ExpectGuards(const WorkingSite& site, UnitSystem units, std::initializer_list<SiteGuard> guards) {
   int row = 0;
   for (const auto& [member, value, computes] : guards) {
     EXPECT_EQ(SuggestLive(With(site, member, value), units).has_value(), computes) << "row " << row << ": " << value;
@@ -191,7 +191,7 @@ struct PatternGuard {
   bool computes;
 };
 
-void ExpectGuards(const BoltPattern& pattern, Integer units, std::initializer_list<PatternGuard> guards) {
+void ExpectGuards(const BoltPattern& pattern, UnitSystem units, std::initializer_list<PatternGuard> guards) {
   int row = 0;
   for (const auto& [member, value, computes] : guards) {
     EXPECT_EQ(ActualLive(With(pattern, member, value), units, Grades(Yield)).has_value(), computes)

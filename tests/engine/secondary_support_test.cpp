@@ -57,7 +57,8 @@ TEST(EntrySupport, OfBoltsWithAnUnlistedUltimateStrengthFollowsTheStraightLine) 
 }
 
 TEST(EntrySupport, OfBoltsTakesGradesAsUltimateStrengthsInModeOneAlone) {
-  EXPECT_THAT(SupportEntry(EnglishEntryLoad, EnglishEntryBolts, English, Grades(2)), Gives(16.5669918F, 1.66218173F));
+  EXPECT_THAT(SupportEntry(EnglishEntryLoad, EnglishEntryBolts, English, Grades(StrengthBasis{2})),
+              Gives(16.5669918F, 1.66218173F));
 }
 
 TEST(EntrySupport, AtASpacingOfZeroFails) {

@@ -91,7 +91,7 @@ TEST(Conversion, EveryFieldToMetricWithItsOwnDecimals) {
 
 TEST(Conversion, EveryFieldToEnglishWithItsOwnDecimals) {
   TestProject project;
-  project.program.Units = Metric;
+  project.program.WorkParms.Units = Metric;
   for (const auto& row : Expectations) row.field.In(project.program.WorkParms) = 123.4567F;
 
   ConvertProject(project.program, English);
@@ -107,7 +107,7 @@ constexpr std::pair<Single, Single> SecondValues[] = {{405, 264.2F},  {405.04F, 
 
 TEST(Conversion, EveryFieldToEnglishHasNoDecimalFewerOrMore) {
   TestProject project;
-  project.program.Units = Metric;
+  project.program.WorkParms.Units = Metric;
   for (const auto& row : Expectations) row.field.In(project.program.WorkParms) = 80.54F;
 
   ConvertProject(project.program, English);
@@ -182,7 +182,7 @@ TEST(Conversion, TheResultIsAnUnsavedProjectUnderItsBareNameWithAPrefix) {
   ConvertProject(project.program, Metric);
 
   EXPECT_EQ(project.program.CurrentFile, "Metric_panel3.orb");
-  EXPECT_EQ(project.program.Units, Metric);
+  EXPECT_EQ(project.program.WorkParms.Units, Metric);
   EXPECT_FALSE(project.program.FileSaved);
   EXPECT_FALSE(project.platform.files.files.contains("Metric_panel3.orb"));
 }
@@ -195,7 +195,7 @@ TEST(Conversion, PrefixesPileUpTheNewestFirst) {
   ConvertProject(project.program, English);
 
   EXPECT_EQ(project.program.CurrentFile, "English_Metric_panel3.orb");
-  EXPECT_EQ(project.program.Units, English);
+  EXPECT_EQ(project.program.WorkParms.Units, English);
 }
 
 TEST(Conversion, AnOverflowEndsItAndKeepsWhatWasConverted) {
@@ -211,7 +211,7 @@ TEST(Conversion, AnOverflowEndsItAndKeepsWhatWasConverted) {
   EXPECT_EQ(project.program.WorkParms.Entries.Cable.Diam, 3E38F);
   EXPECT_EQ(project.program.WorkParms.Primary.GradeStd, 75);
   EXPECT_EQ(project.program.CurrentFile, ProjectPath);
-  EXPECT_EQ(project.program.Units, English);
+  EXPECT_EQ(project.program.WorkParms.Units, English);
   EXPECT_FALSE(project.program.FileSaved);
 }
 

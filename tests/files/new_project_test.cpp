@@ -27,10 +27,10 @@ TEST(NewProject, MetricDefaultsAreTheseToTheLetter) {
 
 TEST(NewProject, UltimateStrengthTakesTheUltimateGrade) {
   TestProject project;
-  project.program.options.BoltGradeAsUltimateDefault = 1;
+  project.program.options.BoltGradeAsUltimateDefault = StrengthBasis::Ultimate;
 
   FileNew(project.program, true, true);
-  EXPECT_EQ(project.program.BoltStrengthMode, 1);
+  EXPECT_EQ(project.program.WorkParms.Basis, StrengthBasis::Ultimate);
   EXPECT_EQ(project.program.WorkParms.Primary.GradeStd, 100);
   EXPECT_EQ(project.program.WorkParms.Intersections.Bolt.GradeManual, 100);
   EXPECT_EQ(project.program.WorkParms.Primary.TableGrade, 0);
@@ -79,14 +79,14 @@ TEST(NewProject, TakesTheUsersOwnDefaults) {
 
 TEST(NewProject, KeepsNameAndUnitsWhenAskedTo) {
   TestProject project;
-  project.program.Units = Metric;
-  project.program.BoltStrengthMode = 1;
+  project.program.WorkParms.Units = Metric;
+  project.program.WorkParms.Basis = StrengthBasis::Ultimate;
 
   FileNew(project.program, false, false);
 
   EXPECT_EQ(project.program.CurrentFile, ProjectPath);
-  EXPECT_EQ(project.program.Units, Metric);
-  EXPECT_EQ(project.program.BoltStrengthMode, 1);
+  EXPECT_EQ(project.program.WorkParms.Units, Metric);
+  EXPECT_EQ(project.program.WorkParms.Basis, StrengthBasis::Ultimate);
   EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 150);
   EXPECT_EQ(project.program.WorkParms.Primary.GradeStd, 690);
 }

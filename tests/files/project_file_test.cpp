@@ -171,7 +171,7 @@ TEST(ProjectFile, AUnitSystemThatIsNoneBecomesEnglish) {
 
     ASSERT_TRUE(project.Open(WithLine(2, units)));
 
-    EXPECT_EQ(project.program.Units, English) << units;
+    EXPECT_EQ(project.program.WorkParms.Units, English) << units;
   }
 }
 
@@ -223,7 +223,7 @@ TEST(ProjectFile, TheLabelEndsAtAComma) {
   ASSERT_TRUE(project.Open(WithLine(1, "ORBY_105,1")));
 
   EXPECT_EQ(project.program.FileVersion, 104);
-  EXPECT_EQ(project.program.BoltStrengthMode, 1);
+  EXPECT_EQ(project.program.WorkParms.Basis, StrengthBasis::Ultimate);
   EXPECT_EQ(project.program.ProjectTitle, " 1 ");
 }
 

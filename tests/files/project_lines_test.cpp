@@ -53,8 +53,8 @@ TEST_P(FileFormats, EveryLineLandsInItsField) {
   }
   EXPECT_EQ(compared, 122);
   EXPECT_EQ(project.program.FileVersion, format.fileVersion);
-  EXPECT_EQ(project.program.Units, Metric);
-  EXPECT_EQ(project.program.BoltStrengthMode, format.boltStrengthMode);
+  EXPECT_EQ(project.program.WorkParms.Units, Metric);
+  EXPECT_EQ(NumberOf(project.program.WorkParms.Basis), format.boltStrengthMode);
   EXPECT_EQ(project.program.UseAUSStandardTable, 0);
   EXPECT_EQ(project.program.ProjectTitle, format.title);
   EXPECT_EQ(project.program.ProjectDescription, format.description);
@@ -77,14 +77,14 @@ TEST(FileFormats, ThereAre122DataLines) { EXPECT_EQ(ProjectLines.size(), 122U); 
 TEST(FileFormats, WhatAnOlderFileLacksIsInTheDefaultUnitsAndStaysWhenSavedAnew) {
   TestProject project;
   ASSERT_TRUE(project.Open(ReadTestData("projects/orby_103.orb")));
-  ASSERT_EQ(project.program.Units, Metric);
+  ASSERT_EQ(project.program.WorkParms.Units, Metric);
   EXPECT_EQ(project.program.WorkParms.Entries.Cable.CapacityManual, 27);
 
   ASSERT_TRUE(project.Save());
   ASSERT_TRUE(project.Open());
 
   EXPECT_EQ(project.program.FileVersion, 104);
-  EXPECT_EQ(project.program.Units, Metric);
+  EXPECT_EQ(project.program.WorkParms.Units, Metric);
   EXPECT_EQ(project.program.WorkParms.Entries.Cable.CapacityManual, 27);
   EXPECT_EQ(project.program.WorkParms.Intersections.Cable.CapacityManual, 27);
   EXPECT_EQ(project.program.WorkParms.Entries.Cable.Capacity, 0);
@@ -102,7 +102,7 @@ TEST(FileFormats, AnOldFileOverAProjectLeavesNothingOfItInTheMissingLines) {
   EXPECT_EQ(project.program.WorkParms.Primary.Desc, "");
   EXPECT_EQ(project.program.WorkParms.Entries.Bolt.TableDiameter, 0);
   EXPECT_EQ(project.program.WorkParms.Intersections.Cable.CapacityManual, 27);
-  EXPECT_EQ(project.program.BoltStrengthMode, 0);
+  EXPECT_EQ(project.program.WorkParms.Basis, StrengthBasis::Yield);
 }
 
 }  // namespace

@@ -38,8 +38,8 @@ TEST(ProjectWriter, SavingWritesTheFileAndSetsTheState) {
 
 TEST(ProjectWriter, TheHeaderHoldsUnitsStrengthModeTableChoiceTitleAndDescription) {
   NewProject project;
-  project.program.Units = Metric;
-  project.program.BoltStrengthMode = 1;
+  project.program.WorkParms.Units = Metric;
+  project.program.WorkParms.Basis = StrengthBasis::Ultimate;
   project.program.UseAUSStandardTable = 1;
   project.program.ProjectTitle = "Panel 3";
   project.program.ProjectDescription = "Shale roof\r\n\r\nWater";

@@ -29,8 +29,8 @@ struct RecoveryFile : testing::Test {
 };
 
 TEST_F(RecoveryFile, OpensWithItsLabelTheProjectAndItsChoices) {
-  project.program.Units = Metric;
-  project.program.BoltStrengthMode = 1;
+  project.program.WorkParms.Units = Metric;
+  project.program.WorkParms.Basis = StrengthBasis::Ultimate;
   project.program.UseAUSStandardTable = 1;
   project.program.ProjectTitle = "Panel 3";
   project.program.ProjectDescription = "Belt entry\r\nsouth";
@@ -225,8 +225,8 @@ UnsavedProject AnyProject() {
   for (std::string* text : {&project.CurrentFile, &project.ProjectTitle, &project.ProjectDescription}) {
     *text = *AnyText();
   }
-  project.Units = *rc::gen::element(English, Metric);
-  project.BoltStrengthMode = *rc::gen::arbitrary<Integer>();
+  project.WorkParms.Units = *rc::gen::element(English, Metric);
+  project.WorkParms.Basis = StrengthBasis{*rc::gen::arbitrary<Integer>()};
   project.UseAUSStandardTable = *rc::gen::arbitrary<Integer>();
   project.FileEmpty = *rc::gen::arbitrary<bool>();
   project.UnitsLocked = *rc::gen::arbitrary<bool>();
@@ -249,8 +249,8 @@ RC_GTEST_PROP(RecoveryRoundTrip, AnyProjectComesBackAsItWas, ()) {
 
   RC_ASSERT(read.has_value());
   RC_ASSERT(read->CurrentFile == project.CurrentFile);
-  RC_ASSERT(read->Units == project.Units);
-  RC_ASSERT(read->BoltStrengthMode == project.BoltStrengthMode);
+  RC_ASSERT(read->WorkParms.Units == project.WorkParms.Units);
+  RC_ASSERT(read->WorkParms.Basis == project.WorkParms.Basis);
   RC_ASSERT(read->UseAUSStandardTable == project.UseAUSStandardTable);
   RC_ASSERT(read->ProjectTitle == project.ProjectTitle);
   RC_ASSERT(read->ProjectDescription == project.ProjectDescription);

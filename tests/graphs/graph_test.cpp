@@ -30,7 +30,7 @@ TEST_F(AGraph, NamesItsAxesInEnglishUnits) {
 }
 
 TEST_F(AGraph, NamesItsAxesInMetricUnits) {
-  program.Units = Metric;
+  program.WorkParms.Units = Metric;
 
   ComposeAxisTitles(program);
 
@@ -66,7 +66,7 @@ TEST_F(AGraph, NamesAllAxesWhenTheCurveHasNoTitle) {
 TEST_F(AGraph, NamesAllAxesAnewInTheOtherUnits) {
   program.graph.XAxisTitle.fill("Cover above the seam");
   program.graph.GraphUnits = English;
-  program.Units = Metric;
+  program.WorkParms.Units = Metric;
 
   PrepareAxisTitles(program, 1);
 

@@ -53,7 +53,7 @@ TEST_F(ConvertView, ConvertsAndCloses) {
   Convert();
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Conversion Completed: The conversion form will be closed"));
-  EXPECT_EQ(program.Units, Metric);
+  EXPECT_EQ(program.WorkParms.Units, Metric);
   EXPECT_EQ(program.WorkParms.Place.DepthofCover, 121.92F);
   EXPECT_EQ(program.CurrentFile, "Metric_panel3.ORB");
 }
@@ -68,7 +68,7 @@ TEST_F(ConvertView, ConvertsBackByTheEnterKey) {
     Press(Qt::Key_Enter);
   });
 
-  EXPECT_EQ(program.Units, English);
+  EXPECT_EQ(program.WorkParms.Units, English);
   EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
   EXPECT_EQ(program.CurrentFile, "English_Metric_panel3.ORB");
 }
@@ -79,7 +79,7 @@ TEST_F(ConvertView, LeavesTheDesignAloneWhenItIsCancelled) {
   Use(dialog, [](QDialog& window) { Click(window, "Command1"); });
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(program.Units, English);
+  EXPECT_EQ(program.WorkParms.Units, English);
   EXPECT_EQ(program.CurrentFile, "/designs/panel3.ORB");
 }
 

@@ -71,7 +71,7 @@ TEST_F(DescriptionView, ForgetsEverythingOnEscape) {
   });
 
   EXPECT_EQ(program.ProjectTitle, "");
-  EXPECT_EQ(program.Units, English);
+  EXPECT_EQ(program.WorkParms.Units, English);
   EXPECT_TRUE(program.FileSaved);
 }
 
@@ -114,8 +114,8 @@ TEST_F(DescriptionView, KeepsItsTwoChoicesApart) {
     Press(Qt::Key_Enter);
   });
 
-  EXPECT_EQ(program.BoltStrengthMode, 1);
-  EXPECT_EQ(program.Units, English);
+  EXPECT_EQ(program.WorkParms.Basis, StrengthBasis::Ultimate);
+  EXPECT_EQ(program.WorkParms.Units, English);
 }
 
 TEST_F(DescriptionView, AsksForTheParametersOnNextForm) {

@@ -186,7 +186,7 @@ GuiTest::GuiTest(const RealDoors& real) : program(platform.Doors(real)) {
 
 GuiTest::~GuiTest() { SetErrorHandler(nullptr); }
 
-void GuiTest::StartDesign(Integer units, Integer ultimate) {
+void GuiTest::StartDesign(UnitSystem units, StrengthBasis ultimate) {
   program.settings.UnitsDefault = units;
   program.options.BoltGradeAsUltimateDefault = ultimate;
   FileNew(program, true, true);

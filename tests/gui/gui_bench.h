@@ -112,7 +112,7 @@ class GuiTest : public testing::Test {
   ~GuiTest() override;
 
   // A new design; ultimate: grades are ultimate strengths.
-  void StartDesign(Integer units, Integer ultimate = 0);
+  void StartDesign(UnitSystem units, StrengthBasis ultimate = StrengthBasis::Yield);
 
   // Shows the form until it is closed, the script playing the user.
   void Use(Form& form, ModalScripts::Script script);

@@ -72,7 +72,7 @@ TEST_F(OptionsView, ChangesAPreferenceAndADefaultByTheKeyboardAlone) {
 
 TEST_F(OptionsView, TakesTheKeyboardToTheDefaultThatIsRefused) {
   Use(dialog, [this](QDialog& window) {
-    dialog.txtBoltGrade[Metric].SetText("0");
+    dialog.txtBoltGrade[PlaceOf(Metric)].SetText("0");
 
     Click(window, "cmdOK");
 

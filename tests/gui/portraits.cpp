@@ -116,7 +116,7 @@ void TakePages(const Photographer& photographer, QDialog& window, QTabWidget& ta
 // The program with an example open, all of whose windows are shown one after the other.
 class Sitting {
  public:
-  Sitting(const Photographer& photographer, Integer units) : photographer_(photographer), program_(Doors()) {
+  Sitting(const Photographer& photographer, UnitSystem units) : photographer_(photographer), program_(Doors()) {
     SetBuiltInCatalogs(program_.catalogs);
     program_.settings.UnitsDefault = units;
     program_.settings.DisplayFontName = "Arial";
@@ -382,7 +382,7 @@ int TakePortraits(const QString& folder) {
   const QPalette light = QApplication::palette();
   for (const bool dark : {false, true}) {
     QApplication::setPalette(dark ? DarkPalette() : light);
-    for (const Integer units : {English, Metric}) {
+    for (const UnitSystem units : {English, Metric}) {
       const QString series = QString(units == Metric ? "metric" : "english") + (dark ? "-dark" : "-light");
       const Photographer photographer(folder, series);
       Sitting sitting(photographer, units);

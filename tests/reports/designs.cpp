@@ -6,7 +6,7 @@
 
 namespace orby::test {
 
-Desk::Desk(Integer units, Integer strengthMode) : program(machine.Doors()) {
+Desk::Desk(UnitSystem units, StrengthBasis strengthMode) : program(machine.Doors()) {
   SetBuiltInCatalogs(program.catalogs);
   program.settings.UnitsDefault = units;
   program.options.BoltGradeAsUltimateDefault = strengthMode;

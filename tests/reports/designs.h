@@ -12,7 +12,7 @@ namespace orby::test {
 
 // A program with the built-in catalogs that holds a new design in the given unit system, nothing computed yet.
 struct Desk {
-  explicit Desk(Integer units = English, Integer strengthMode = 0);
+  explicit Desk(UnitSystem units = English, StrengthBasis strengthMode = StrengthBasis::Yield);
 
   RecordingPlatform machine;
   Program program;

@@ -314,21 +314,22 @@ void EverythingOff(Program& program) {
 }
 
 struct Golden {
-  Integer units;
-  Integer strengthMode;
+  UnitSystem units;
+  StrengthBasis strengthMode;
   void (*build)(Program& program);
 };
 
 const std::map<std::string, Golden>& Goldens() {
-  static const std::map<std::string, Golden> goldens{{"english_defaults", {English, 0, EnglishDefaults}},
-                                                     {"metric_defaults", {Metric, 0, MetricDefaults}},
-                                                     {"every_system_english", {English, 0, EverySystemEnglish}},
-                                                     {"every_system_metric", {Metric, 0, EverySystemMetric}},
-                                                     {"ultimate_english", {English, 1, UltimateEnglish}},
-                                                     {"ultimate_metric", {Metric, 1, UltimateMetric}},
-                                                     {"all_warnings_english", {English, 0, AllWarningsEnglish}},
-                                                     {"all_warnings_metric", {Metric, 0, AllWarningsMetric}},
-                                                     {"everything_off", {English, 0, EverythingOff}}};
+  using enum StrengthBasis;
+  static const std::map<std::string, Golden> goldens{{"english_defaults", {English, Yield, EnglishDefaults}},
+                                                     {"metric_defaults", {Metric, Yield, MetricDefaults}},
+                                                     {"every_system_english", {English, Yield, EverySystemEnglish}},
+                                                     {"every_system_metric", {Metric, Yield, EverySystemMetric}},
+                                                     {"ultimate_english", {English, Ultimate, UltimateEnglish}},
+                                                     {"ultimate_metric", {Metric, Ultimate, UltimateMetric}},
+                                                     {"all_warnings_english", {English, Yield, AllWarningsEnglish}},
+                                                     {"all_warnings_metric", {Metric, Yield, AllWarningsMetric}},
+                                                     {"everything_off", {English, Yield, EverythingOff}}};
   return goldens;
 }
 
@@ -341,7 +342,7 @@ std::vector<std::string> GoldenNames() {
 }
 
 void BuildGolden(Desk& desk, const std::string& name) { Goldens().at(name).build(desk.program); }
-Integer GoldenUnits(const std::string& name) { return Goldens().at(name).units; }
-Integer GoldenStrengthMode(const std::string& name) { return Goldens().at(name).strengthMode; }
+UnitSystem GoldenUnits(const std::string& name) { return Goldens().at(name).units; }
+StrengthBasis GoldenStrengthMode(const std::string& name) { return Goldens().at(name).strengthMode; }
 
 }  // namespace orby::test

@@ -11,8 +11,8 @@ namespace orby::test {
 std::vector<std::string> GoldenNames();
 
 // What the desk of a design has to be made for.
-Integer GoldenUnits(const std::string& name);
-Integer GoldenStrengthMode(const std::string& name);
+UnitSystem GoldenUnits(const std::string& name);
+StrengthBasis GoldenStrengthMode(const std::string& name);
 
 void BuildGolden(Desk& desk, const std::string& name);
 

@@ -228,7 +228,7 @@ TEST(InputEcho, ALongBoltDescriptionJoinsItsLabelWithoutADot) {
 }
 
 TEST(InputEcho, MetricGradesMeantAsUltimateStrengthsDifferBetweenPrimaryAndSecondaryBolts) {
-  Desk desk(Metric, 1);
+  Desk desk(Metric, StrengthBasis::Ultimate);
   Design& record = desk.program.WorkParms;
   PickBolt(record, 20, 690);
   UseEverySystem(record);
@@ -250,10 +250,10 @@ TEST(InputEcho, MetricGradesMeantAsUltimateStrengthsDifferBetweenPrimaryAndSecon
 
 TEST(InputEcho, GradesOfAnUnknownKindAreConvertedLikeUltimateStrengthsButNotCalledSo) {
   Desk english;
-  english.program.BoltStrengthMode = 2;
+  english.program.WorkParms.Basis = StrengthBasis{2};
   PickBolt(english.program.WorkParms, 0.75F, 100);
   Desk metric(Metric);
-  metric.program.BoltStrengthMode = 2;
+  metric.program.WorkParms.Basis = StrengthBasis{2};
   PickBolt(metric.program.WorkParms, 20, 690);
 
   const std::string inTons = InputPage(english);
@@ -351,7 +351,7 @@ TEST(InputEcho, ShowsTheCommittedDesign) {
 
 TEST(InputEcho, AUnitSystemThatDoesNotExistEndsTheReport) {
   Desk desk;
-  desk.program.Units = 2;
+  desk.program.WorkParms.Units = UnitSystem{2};
 
   EXPECT_EQ(ErrorNumberOf([&] { LoadOutBuf0(desk.program); }), 9);
 }

@@ -18,7 +18,7 @@ using testing::Not;
 
 // A new design with the bolt that its defaults name, primary support alone.
 struct PrimaryDesk : Desk {
-  explicit PrimaryDesk(Integer units = English) : Desk(units) {
+  explicit PrimaryDesk(UnitSystem units = English) : Desk(units) {
     if (units == Metric) {
       PickBolt(Parms(), 20, 520);
     } else {
@@ -219,18 +219,18 @@ TEST(BoltReport, ABoltBelowTheASTMMinimumIsWarnedOf) {
 }
 
 TEST(BoltReport, ABoltWhoseGradeIsNoYieldStrengthIsLabelledByItsUltimateCapacity) {
-  for (const Integer mode : std::array<Integer, 2>{1, 2}) {
+  for (const StrengthBasis basis : {StrengthBasis::Ultimate, StrengthBasis{2}}) {
     PrimaryDesk desk;
     PickBolt(desk.Parms(), 0.75F, 100);
-    desk.program.BoltStrengthMode = mode;
+    desk.program.WorkParms.Basis = basis;
 
     const std::string page = desk.Page();
 
     // The number is the yield capacity all the same: 75 x 0.44179 / 2
-    EXPECT_EQ(ValueOf(page, "Actual Roof Bolt Yield Capacity"), "no such line") << mode;
-    EXPECT_EQ(ValueOf(page, "Actual Roof Bolt Ultimate Capacity"), "16.6 (tons)") << mode;
-    EXPECT_EQ(ValueOf(page, "Actual PSUP for this design"), "9.9") << mode;
-    EXPECT_EQ(ValueOf(page, "PRSUP"), "13.3") << mode;
+    EXPECT_EQ(ValueOf(page, "Actual Roof Bolt Yield Capacity"), "no such line") << NumberOf(basis);
+    EXPECT_EQ(ValueOf(page, "Actual Roof Bolt Ultimate Capacity"), "16.6 (tons)") << NumberOf(basis);
+    EXPECT_EQ(ValueOf(page, "Actual PSUP for this design"), "9.9") << NumberOf(basis);
+    EXPECT_EQ(ValueOf(page, "PRSUP"), "13.3") << NumberOf(basis);
   }
 }
 

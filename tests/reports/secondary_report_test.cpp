@@ -24,7 +24,7 @@ constexpr auto BelowMinimum = "Bolt capacity may not meet ASTM minimum standards
 
 // A new design with the bolt that its defaults name, secondary support alone.
 struct SecondaryDesk : Desk {
-  explicit SecondaryDesk(Integer units = English) : Desk(units) {
+  explicit SecondaryDesk(UnitSystem units = English) : Desk(units) {
     if (units == Metric) {
       PickBolt(Parms(), 20, 520);
     } else {
@@ -45,10 +45,10 @@ struct SecondaryDesk : Desk {
 
 // A desk with intersections alone, or with entries alone.
 struct IntersectionDesk : SecondaryDesk {
-  explicit IntersectionDesk(Integer units = English) : SecondaryDesk(units) { Parms().Entries.Analysed = 0; }
+  explicit IntersectionDesk(UnitSystem units = English) : SecondaryDesk(units) { Parms().Entries.Analysed = 0; }
 };
 struct EntryDesk : SecondaryDesk {
-  explicit EntryDesk(Integer units = English) : SecondaryDesk(units) { Parms().Intersections.Analysed = 0; }
+  explicit EntryDesk(UnitSystem units = English) : SecondaryDesk(units) { Parms().Intersections.Analysed = 0; }
 };
 
 TEST(EntryReport, CablesWithEnoughAnchorage) {

@@ -126,7 +126,7 @@ TEST_F(Menus, ConvertASavedProjectUnderANewName) {
 
   window.mnuUtilItem.ClickItem(util_item::FileConversion);
 
-  EXPECT_EQ(program.Units, Metric);
+  EXPECT_EQ(program.WorkParms.Units, Metric);
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: Metric_panel3.orb*");
 }
 

@@ -160,14 +160,14 @@ TEST_F(PrintedResults, StandInPlaceOfTheCostTable) {
 
 TEST_F(PrintedResults, FollowTheBasisOfTheBoltStrength) {
   PageOfResults();
-  program.BoltStrengthMode = 1;
+  program.WorkParms.Basis = StrengthBasis::Ultimate;
 
   EXPECT_THAT(Printed(), HasSubstr("Actual Roof Bolt Ultimate Capacity"));
 }
 
 TEST_F(PrintedResults, FollowTheUnits) {
   PageOfResults();
-  program.Units = Metric;
+  program.WorkParms.Units = Metric;
 
   EXPECT_THAT(Printed(), HasSubstr("Actual Sum of Diagonals...................................60.0 (m)\r\n"));
 }
@@ -180,7 +180,7 @@ TEST_F(PrintedResults, FollowTheListOfCables) {
 }
 
 TEST_F(PrintedResults, FollowTheTableOfBolts) {
-  program.Units = Metric;
+  program.WorkParms.Units = Metric;
   program.WorkParms.Primary.TableRow = 1;
   const std::string before = PageOfResults();
   program.UseAUSStandardTable = 1;

@@ -100,7 +100,7 @@ TEST_F(StartUp, TakesOverWhatTheFileHolds) {
 
   StartProgram(program);
 
-  EXPECT_EQ(program.Units, Metric);
+  EXPECT_EQ(program.WorkParms.Units, Metric);
   EXPECT_EQ(program.WorkParms.Place.DepthofCover, 310);
   EXPECT_EQ(program.recentFiles.Entries[0].LastFileLong, "/designs/panel.ORB");
   EXPECT_EQ(program.catalogs.DefaultBoltGradeArrayMET.Count(), 2U);
@@ -118,7 +118,7 @@ TEST_F(StartUp, DeletesAndRebuildsAFileOfAnotherVersion) {
 
     EXPECT_THAT(Ini(), StartsWith("[Version]\r\nINIFileVersion=201030\r\n[Settings]\r\n")) << version;
     EXPECT_THAT(Ini(), Not(HasSubstr("Extra"))) << version;
-    EXPECT_EQ(next.settings.UnitsDefault, 0) << version;
+    EXPECT_EQ(next.settings.UnitsDefault, English) << version;
     EXPECT_EQ(next.WorkParms.Place.DepthofCover, 400) << version;
   }
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
@@ -153,15 +153,15 @@ TEST_F(StartUp, TakesTheStandingSupportsFromTheBuiltInTableWhateverTheFileSays) 
 
 TEST_F(StartUp, ForgetsTheOptionsOfTheLastRun) {
   StartProgram(program);
-  program.options.BoltGradeAsUltimateDefault = 1;
+  program.options.BoltGradeAsUltimateDefault = StrengthBasis::Ultimate;
   WriteDefaults(program, settings_section::Options);
   Program next(platform.Doors());
 
   StartProgram(next);
 
   EXPECT_THAT(Ini(), HasSubstr("DefaultSteelStrength=1\r\n"));
-  EXPECT_EQ(next.options.BoltGradeAsUltimateDefault, 0);
-  EXPECT_EQ(next.BoltStrengthMode, 0);
+  EXPECT_EQ(next.options.BoltGradeAsUltimateDefault, StrengthBasis::Yield);
+  EXPECT_EQ(next.WorkParms.Basis, StrengthBasis::Yield);
 }
 
 TEST_F(StartUp, KeepsTheConfigurationInTheProgramsFolderWithoutDocuments) {
@@ -278,7 +278,7 @@ TEST_F(StartOfAScript, BeginsANewEnglishDesignWithTheBuiltInCatalogs) {
   EXPECT_EQ(program.CurrentFile, "Untitled");
   EXPECT_TRUE(program.FileSaved);
   EXPECT_TRUE(program.FileEmpty);
-  EXPECT_EQ(program.Units, English);
+  EXPECT_EQ(program.WorkParms.Units, English);
   EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
   EXPECT_EQ(program.catalogs.BoltTableENG.size(), 10U);
   EXPECT_EQ(program.WorkParms.Entries.Standing.TypeName, "4-point Hardwood Crib (8in x 8in timbers, 5' height)");
