@@ -19,18 +19,10 @@ void MainWindow::EditCommand(Integer item) {
   }
 }
 
-void MainWindow::EditDescription() {
-  program_.platform.windows.SetWaitCursor(true);
-  DescriptionDialog dialog(program_);
-  ShowForm(program_, dialog);
-  recovery_.Committed();
-  RefreshCaption();
-  if (dialog.OpensParameters) EditCommand(edit_item::Parameters);
-}
-
-// A design that cannot be shown, which only a damaged file holds, is told, and the run goes on.
+// Returns the dialog with the project in it. A project that cannot be shown, which only a damaged file holds, is told;
+// nothing is returned then, and the run goes on.
 template <class Dialog>
-void MainWindow::EditDesign() {
+std::unique_ptr<Dialog> MainWindow::Opened() {
   Windows& windows = program_.platform.windows;
   std::unique_ptr<Dialog> dialog;
   const auto outcome = Run(Trap::Set, [&] {
@@ -39,10 +31,25 @@ void MainWindow::EditDesign() {
     While(Act::ShowDialog, [&] { dialog->Open(); });
     windows.SetWaitCursor(false);
   });
-  if (outcome != StepOutcome::Done) {
-    program_.DialogOpen = false;
-    return;
-  }
+  if (outcome == StepOutcome::Done) return dialog;
+  program_.DialogOpen = false;
+  return nullptr;
+}
+
+void MainWindow::EditDescription() {
+  const auto dialog = Opened<DescriptionDialog>();
+  if (!dialog) return;
+  ShowForm(program_, *dialog);
+  recovery_.Committed();
+  RefreshCaption();
+  if (dialog->OpensParameters) EditCommand(edit_item::Parameters);
+}
+
+template <class Dialog>
+void MainWindow::EditDesign() {
+  Windows& windows = program_.platform.windows;
+  const auto dialog = Opened<Dialog>();
+  if (!dialog) return;
   KeepEdits(*dialog);
   windows.ShowMainWindow(false);
   ShowForm(program_, *dialog);

@@ -78,6 +78,8 @@ class MainWindow : public MainControls {
 
   // input_commands.cpp
   void EditCommand(Integer item);
+  template <class Dialog>
+  std::unique_ptr<Dialog> Opened();
   void EditDescription();
   template <class Dialog>
   void EditDesign();

@@ -160,6 +160,16 @@ TEST_F(InputMenu, TellsThatADesignCannotBeShownAndGoesOn) {
   EXPECT_FALSE(program.DialogOpen);
 }
 
+TEST_F(InputMenu, TellsThatADescriptionCannotBeShownAndGoesOn) {
+  program.WorkParms.Basis = StrengthBasis{-1};
+
+  Choose(edit_item::Description);
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Internal Error: SetArrayIndex. Check input/form data.",
+                                                  "Error occurred: Subscript out of range (9). Procedure Terminated"));
+  EXPECT_EQ(platform.windows.modalForms, 0);
+}
+
 TEST_F(InputMenu, IsToldOnTheRoadOfOpenThatADesignCannotBeShown) {
   program.options.ShowInputScreenOnLoad = 1;
   Program other(platform.Doors());
