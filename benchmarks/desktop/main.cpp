@@ -41,6 +41,7 @@
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/preview_window.h"
 #include "dialogs/results_window.h"
+#include "posix/disk_files.h"
 #include "qt/boundary.h"
 #include "qt/desktop.h"
 #include "qt/help_viewer.h"
@@ -72,7 +73,8 @@ struct Run {
     });
   }
 
-  Desktop desktop{"."};
+  DiskFiles files{"."};
+  Desktop desktop{files};
   Program program{desktop.Doors()};
 };
 

@@ -4,10 +4,12 @@
 #include <string>
 #include <vector>
 
+#include "platform/file_system.h"
+
 namespace orby {
 
-// Runs the program until its window is closed, and gives its exit status: 1 after a run-time error that nothing dealt
-// with. The arguments are those behind the program's name.
-int RunProgram(const std::string& programFolder, const std::vector<std::string>& arguments);
+// Runs the program until its window is closed. Returns its exit status: 1 after a run-time error that nothing dealt
+// with. The arguments are those after the program's name.
+int RunProgram(FileSystem& files, const std::vector<std::string>& arguments);
 
 }  // namespace orby

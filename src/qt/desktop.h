@@ -1,7 +1,6 @@
-// Everything that the program asks of the desktop, in one.
+// Everything that the program asks of the desktop, in one. The files of the machine are handed in.
 #pragma once
 
-#include "platform/disk_files.h"
 #include "platform/platform.h"
 #include "qt/documents.h"
 #include "qt/downloads.h"
@@ -15,10 +14,10 @@
 namespace orby {
 
 struct Desktop {
-  explicit Desktop(const std::string& programFolder) : files(programFolder) {}
+  explicit Desktop(FileSystem& filesGiven) : files(filesGiven) {}
 
   QtMessageBoxes boxes;
-  DiskFiles files;
+  FileSystem& files;
   QtFileDialogs fileDialogs;
   QtWindows windows;
   QtFonts fonts;

@@ -8,7 +8,7 @@
 
 #include <filesystem>
 
-#include "platform/disk_files.h"
+#include "posix/disk_files.h"
 #include "support/recording_platform.h"
 #include "support/temporary_folder.h"
 

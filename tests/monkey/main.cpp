@@ -18,6 +18,7 @@
 #include "monkey/keeper.h"
 #include "monkey/monkey.h"
 #include "monkey/watch.h"
+#include "posix/disk_files.h"
 #include "qt/application.h"
 
 namespace orby::monkey {
@@ -52,7 +53,8 @@ int RunWithMonkey(const char* ledgerPath, int argc, char** argv) {
   RunRecord& record = NewRecord(ledger);
   StartWatch(record, ledger, std::atoi(std::getenv(PatienceVariable)));
   run.reset(new Run{ledger, record, byItself});
-  return RunProgram(PROGRAM_DIR, {argv + 1, argv + argc});
+  DiskFiles files(PROGRAM_DIR);
+  return RunProgram(files, {argv + 1, argv + argc});
 }
 
 template <class Number>

@@ -7,7 +7,7 @@
 #include "base/runtime_error.h"
 #include "config/catalog_sections.h"
 #include "config/settings_sections.h"
-#include "platform/disk_files.h"
+#include "posix/disk_files.h"
 #include "support/recording_platform.h"
 #include "support/temporary_folder.h"
 

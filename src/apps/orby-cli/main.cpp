@@ -4,7 +4,7 @@
 
 #include "apps/orby-cli/commands.h"
 #include "base/runtime_error.h"
-#include "platform/file_size_limit.h"
+#include "posix/file_size_limit.h"
 
 int main(int argc, char** argv) {
   using namespace orby::cli;

@@ -3,7 +3,8 @@
 #include <exception>
 #include <filesystem>
 
-#include "platform/file_size_limit.h"
+#include "posix/disk_files.h"
+#include "posix/file_size_limit.h"
 #include "qt/application.h"
 
 namespace {
@@ -32,7 +33,8 @@ int main(int argc, char** argv) {
   }
   orby::SurviveFileSizeLimit();
   try {
-    return orby::RunProgram(ProgramFolder(), {argv + 1, argv + argc});
+    orby::DiskFiles files(ProgramFolder());
+    return orby::RunProgram(files, {argv + 1, argv + argc});
   } catch (const std::exception& error) {
     std::fprintf(stderr, "orby: %s\n", error.what());
     return EXIT_FAILURE;

@@ -1,4 +1,4 @@
-#include "platform/disk_files.h"
+#include "posix/disk_files.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -14,9 +14,9 @@
 
 #include "base/paths.h"
 #include "base/runtime_error.h"
-#include "platform/file_errors.h"
-#include "platform/in_place_file.h"
-#include "platform/replaced_file.h"
+#include "posix/file_errors.h"
+#include "posix/in_place_file.h"
+#include "posix/replaced_file.h"
 
 namespace orby {
 namespace {

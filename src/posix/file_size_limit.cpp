@@ -1,4 +1,4 @@
-#include "platform/file_size_limit.h"
+#include "posix/file_size_limit.h"
 
 #include <csignal>
 

@@ -1,4 +1,4 @@
-#include "platform/file_errors.h"
+#include "posix/file_errors.h"
 
 #include <cerrno>
 #include <filesystem>

@@ -14,8 +14,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/disk_files.h"
-#include "platform/file_size_limit.h"
+#include "posix/disk_files.h"
+#include "posix/file_size_limit.h"
 #include "support/recording_platform.h"
 #include "support/temporary_folder.h"
 

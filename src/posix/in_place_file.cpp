@@ -1,4 +1,4 @@
-#include "platform/in_place_file.h"
+#include "posix/in_place_file.h"
 
 #include <fcntl.h>
 #include <sys/resource.h>
@@ -11,8 +11,8 @@
 #include <string_view>
 #include <system_error>
 
-#include "platform/file_errors.h"
-#include "platform/file_handle.h"
+#include "posix/file_errors.h"
+#include "posix/file_handle.h"
 
 namespace orby {
 namespace {

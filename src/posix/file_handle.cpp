@@ -1,4 +1,4 @@
-#include "platform/file_handle.h"
+#include "posix/file_handle.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -6,7 +6,7 @@
 #include <cerrno>
 #include <utility>
 
-#include "platform/file_errors.h"
+#include "posix/file_errors.h"
 
 namespace orby {
 

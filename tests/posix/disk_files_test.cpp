@@ -1,4 +1,4 @@
-#include "platform/disk_files.h"
+#include "posix/disk_files.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

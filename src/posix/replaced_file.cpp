@@ -1,4 +1,4 @@
-#include "platform/replaced_file.h"
+#include "posix/replaced_file.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -10,8 +10,8 @@
 #include <optional>
 #include <system_error>
 
-#include "platform/file_errors.h"
-#include "platform/file_handle.h"
+#include "posix/file_errors.h"
+#include "posix/file_handle.h"
 
 namespace orby {
 namespace {
