@@ -41,6 +41,7 @@
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/preview_window.h"
 #include "dialogs/results_window.h"
+#include "dialogs/text_browser.h"
 #include "posix/disk_files.h"
 #include "qt/boundary.h"
 #include "qt/desktop.h"
@@ -48,7 +49,6 @@
 #include "qt/main_view.h"
 #include "shell/main_window.h"
 #include "shell/start_up.h"
-#include "shell/text_browser.h"
 
 namespace {
 

@@ -29,7 +29,7 @@
 #include <ui_results_window.h>
 #include <ui_settings_dialog.h>
 #include <ui_text_browser.h>
-#include <ui_unit_calculator.h>
+#include <ui_unit_calculator_window.h>
 #include <ui_update_dialog.h>
 #include "core/dialog_helpers.h"
 #include "qt/frame_reader.h"

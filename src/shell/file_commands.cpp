@@ -3,6 +3,7 @@
 #include "core/act.h"
 #include "dialogs/preview_window.h"
 #include "dialogs/project_report.h"
+#include "dialogs/text_browser.h"
 #include "files/backups.h"
 #include "files/new_project.h"
 #include "files/project_file.h"
@@ -10,7 +11,6 @@
 #include "reports/printing.h"
 #include "shell/main_window.h"
 #include "shell/recent_files.h"
-#include "shell/text_browser.h"
 
 namespace orby {
 namespace {

@@ -8,9 +8,9 @@
 #include "core/dialog_helpers.h"
 #include "core/file_helpers.h"
 #include "core/version.h"
+#include "dialogs/disclaimer.h"
 #include "files/backups.h"
 #include "files/save_command.h"
-#include "shell/disclaimer.h"
 #include "shell/recent_files.h"
 
 namespace orby {

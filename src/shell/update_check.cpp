@@ -6,8 +6,8 @@
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
 #include "core/version.h"
-#include "shell/update_dialog.h"
-#include "shell/version_fetch.h"
+#include "dialogs/update_dialog.h"
+#include "dialogs/version_fetch.h"
 
 namespace orby {
 namespace {

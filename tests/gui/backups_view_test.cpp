@@ -3,10 +3,10 @@
 #include <QLineEdit>
 #include <QTableWidget>
 
+#include "dialogs/backups_window.h"
 #include "files/backups.h"
 #include "files/project_writer.h"
 #include "gui/gui_bench.h"
-#include "shell/backups_window.h"
 
 namespace orby::test {
 namespace {

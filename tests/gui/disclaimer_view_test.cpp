@@ -1,8 +1,8 @@
 // The disclaimer as its user meets it.
 #include <QPlainTextEdit>
 
+#include "dialogs/disclaimer.h"
 #include "gui/gui_bench.h"
-#include "shell/disclaimer.h"
 
 namespace orby::test {
 namespace {

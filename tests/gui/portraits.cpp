@@ -22,9 +22,11 @@
 
 #include "catalogs/catalogs.h"
 #include "core/dialog_helpers.h"
+#include "dialogs/backups_window.h"
 #include "dialogs/convert_dialog.h"
 #include "dialogs/cost_dialog.h"
 #include "dialogs/description_dialog.h"
+#include "dialogs/disclaimer.h"
 #include "dialogs/estimator_dialog.h"
 #include "dialogs/font_dialog.h"
 #include "dialogs/graph_options_dialog.h"
@@ -32,8 +34,12 @@
 #include "dialogs/options_dialog.h"
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/preview_window.h"
+#include "dialogs/resource_files.h"
 #include "dialogs/results_window.h"
 #include "dialogs/settings_dialog.h"
+#include "dialogs/text_browser.h"
+#include "dialogs/unit_calculator_window.h"
+#include "dialogs/update_dialog.h"
 #include "engine/curves.h"
 #include "files/new_project.h"
 #include "files/project_file.h"
@@ -46,13 +52,7 @@
 #include "qt/message_boxes.h"
 #include "reports/calculation_report.h"
 #include "reports/input_echo.h"
-#include "shell/backups_window.h"
-#include "shell/disclaimer.h"
 #include "shell/main_window.h"
-#include "shell/resource_files.h"
-#include "shell/text_browser.h"
-#include "shell/unit_calculator.h"
-#include "shell/update_dialog.h"
 
 namespace orby::test {
 namespace {

@@ -1,6 +1,6 @@
 // The documents that come with the program, as their reader finds them.
+#include "dialogs/resource_files.h"
 #include "gui/gui_bench.h"
-#include "shell/resource_files.h"
 
 namespace orby::test {
 namespace {

@@ -8,9 +8,9 @@
 #include <QPushButton>
 #include <algorithm>
 
+#include "dialogs/text_browser.h"
 #include "gui/gui_bench.h"
 #include "qt/lines_view.h"
-#include "shell/text_browser.h"
 
 namespace orby::test {
 namespace {

@@ -4,8 +4,8 @@
 #include <QTabBar>
 #include <QTabWidget>
 
+#include "dialogs/unit_calculator_window.h"
 #include "gui/gui_bench.h"
-#include "shell/unit_calculator.h"
 
 namespace orby::test {
 namespace {

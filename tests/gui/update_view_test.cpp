@@ -5,6 +5,7 @@
 #include <QProgressBar>
 #include <QTemporaryDir>
 
+#include "dialogs/update_dialog.h"
 #include "gui/cache_in_folder.h"
 #include "gui/gui_bench.h"
 #include "gui/web_server.h"
@@ -13,7 +14,6 @@
 #include "qt/texts.h"
 #include "qt/update_server.h"
 #include "shell/update_check.h"
-#include "shell/update_dialog.h"
 
 namespace orby::test {
 namespace {

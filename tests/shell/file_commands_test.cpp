@@ -2,9 +2,9 @@
 
 #include <array>
 
-#include "acting_boxes.h"
 #include "design/field.h"
 #include "main_window_fixture.h"
+#include "support/acting_boxes.h"
 
 namespace orby::test {
 namespace {

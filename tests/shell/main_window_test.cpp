@@ -1,9 +1,9 @@
 #include "shell/main_window.h"
 
-#include "acting_boxes.h"
 #include "dialogs/convert_dialog.h"
 #include "dialogs/settings_dialog.h"
 #include "main_window_fixture.h"
+#include "support/acting_boxes.h"
 
 namespace orby::test {
 namespace {

@@ -12,8 +12,8 @@
 
 #include "controls/controls.h"
 #include "core/program.h"
-#include "shell/update_source.h"
-#include "shell/version_fetch.h"
+#include "dialogs/update_source.h"
+#include "dialogs/version_fetch.h"
 
 namespace orby {
 

@@ -1,4 +1,4 @@
-#include "shell/text_browser.h"
+#include "dialogs/text_browser.h"
 
 #include <algorithm>
 #include <new>

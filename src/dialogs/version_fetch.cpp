@@ -1,4 +1,4 @@
-#include "shell/version_fetch.h"
+#include "dialogs/version_fetch.h"
 
 #include <string>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "shell/update_source.h"
+#include "dialogs/update_source.h"
 
 #include <algorithm>
 #include <filesystem>

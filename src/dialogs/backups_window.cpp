@@ -1,4 +1,4 @@
-#include "shell/backups_window.h"
+#include "dialogs/backups_window.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "shell/update_dialog.h"
+#include "dialogs/update_dialog.h"
 
 #include <utility>
 

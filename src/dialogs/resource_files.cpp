@@ -1,4 +1,4 @@
-#include "shell/resource_files.h"
+#include "dialogs/resource_files.h"
 
 #include <string>
 

@@ -1,9 +1,9 @@
-#include "shell/text_browser.h"
+#include "dialogs/text_browser.h"
 
 #include <gmock/gmock.h>
 
-#include "acting_boxes.h"
 #include "core/messages.h"
+#include "support/acting_boxes.h"
 #include "support/recording_platform.h"
 
 namespace orby::test {

@@ -1,6 +1,6 @@
-#include "shell/update_dialog.h"
+#include "dialogs/update_dialog.h"
 
-#include "shell/update_fixture.h"
+#include "dialogs/update_fixture.h"
 
 namespace orby::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "shell/disclaimer.h"
+#include "dialogs/disclaimer.h"
 
 #include "config/settings_sections.h"
 

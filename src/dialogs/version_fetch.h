@@ -5,7 +5,7 @@
 #include <memory>
 #include <optional>
 
-#include "shell/update_source.h"
+#include "dialogs/update_source.h"
 
 namespace orby {
 

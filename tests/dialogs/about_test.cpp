@@ -1,4 +1,4 @@
-#include "shell/about.h"
+#include "dialogs/about.h"
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-#include "shell/about.h"
+#include "dialogs/about.h"
 
 #include "base/number_text.h"
 #include "base/text.h"

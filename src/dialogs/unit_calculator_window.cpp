@@ -1,4 +1,4 @@
-#include "shell/unit_calculator.h"
+#include "dialogs/unit_calculator_window.h"
 
 #include "base/attempt.h"
 #include "base/number_text.h"

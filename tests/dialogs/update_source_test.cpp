@@ -1,6 +1,6 @@
-#include "shell/update_source.h"
+#include "dialogs/update_source.h"
 
-#include "shell/update_fixture.h"
+#include "dialogs/update_fixture.h"
 
 namespace orby::test {
 namespace {
