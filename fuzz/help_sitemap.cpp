@@ -6,8 +6,8 @@
 #include <string_view>
 
 #include "base/text.h"
-#include "shell/help_book.h"
-#include "shell/markup.h"
+#include "help/help_book.h"
+#include "help/markup.h"
 
 namespace {
 

@@ -4,9 +4,9 @@
 #include <QImage>
 #include <QScrollBar>
 
-#include "qt/chm_file.h"
+#include "help/chm_file.h"
+#include "help/help_book.h"
 #include "qt/texts.h"
-#include "shell/help_book.h"
 
 namespace orby {
 namespace {

@@ -4,8 +4,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "help/help_book.h"
 #include "qt/texts.h"
-#include "shell/help_book.h"
 
 namespace orby {
 namespace {

@@ -7,7 +7,7 @@
 #include <QMessageBox>
 #include <QScreen>
 
-#include "qt/chm_file.h"
+#include "help/chm_file.h"
 #include "qt/help_place.h"
 #include "qt/window_frame.h"
 

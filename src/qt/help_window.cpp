@@ -7,7 +7,7 @@
 #include <QShortcut>
 #include <QSplitter>
 
-#include "qt/chm_file.h"
+#include "help/chm_file.h"
 #include "qt/pictures.h"
 #include "qt/texts.h"
 

@@ -8,9 +8,9 @@
 #include <memory>
 #include <string>
 
+#include "help/help_book.h"
 #include "qt/help_browser.h"
 #include "qt/help_panes.h"
-#include "shell/help_book.h"
 
 namespace orby {
 

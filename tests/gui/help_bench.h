@@ -9,9 +9,9 @@
 #include <stdexcept>
 #include <string>
 
-#include "qt/chm_file.h"
+#include "help/chm_file.h"
+#include "help/help_book.h"
 #include "qt/texts.h"
-#include "shell/help_book.h"
 
 namespace orby::test {
 

@@ -1,13 +1,12 @@
 // The committed help read back: it is whole, it is what its pages say, and it has a topic for everything.
 #include <QDirIterator>
 #include <map>
-#include <random>
 #include <set>
 
 #include "gui/forms.h"
 #include "gui/gui_bench.h"
 #include "gui/help_bench.h"
-#include "shell/markup.h"
+#include "help/markup.h"
 
 namespace orby::test {
 namespace {
@@ -129,13 +128,6 @@ TEST_F(HelpFile, HasItsIndexInTheOrderOfTheAlphabet) {
   EXPECT_TRUE(std::is_sorted(keywords.begin(), keywords.end()));
 }
 
-TEST_F(HelpFile, HasALimitForWhatIsReadOfIt) {
-  EXPECT_EQ(file->Read("no-such-page.html"), std::nullopt);
-  EXPECT_EQ(file->Read(""), std::nullopt);
-  EXPECT_EQ(file->Read(std::string(600, 'x')), std::nullopt);
-  EXPECT_EQ(file->Read("pictures"), std::nullopt);
-}
-
 // ---- topics --------------------------------------------------------------------------------------------------------
 
 class TopicsOf : public GuiTest, public testing::WithParamInterface<FormMaker>, protected CommittedBook {
@@ -175,61 +167,6 @@ TEST_P(TopicsOf, EveryControlThatTheKeyboardReaches) {
 
 INSTANTIATE_TEST_SUITE_P(Of, TopicsOf, testing::ValuesIn(FormMakers),
                          [](const auto& maker) { return std::string(maker.param.name); });
-
-// ---- files that are not whole --------------------------------------------------------------------------------------
-
-class BrokenHelp : public testing::Test {
- protected:
-  // Whether a file of these bytes opens.
-  bool Opens(const QByteArray& bytes) {
-    QFile copy(folder.filePath("copy.chm"));
-    EXPECT_TRUE(copy.open(QIODevice::WriteOnly));
-    copy.write(bytes);
-    copy.close();
-    return ChmFile::Open(FromQt(copy.fileName())) != nullptr;
-  }
-
-  QTemporaryDir folder;
-  const QByteArray whole = FileBytes(CommittedHelp);
-};
-
-TEST_F(BrokenHelp, OpensWhenItIsWhole) { EXPECT_TRUE(Opens(whole)); }
-
-TEST_F(BrokenHelp, DoesNotOpenWhenItIsNotThere) {
-  EXPECT_EQ(ChmFile::Open(FromQt(folder.filePath("none.chm"))), nullptr);
-  EXPECT_EQ(ChmFile::Open(FromQt(folder.path())), nullptr);
-}
-
-TEST_F(BrokenHelp, DoesNotOpenWhenItIsCutAnywhere) {
-  for (const int length : {0, 3, 95, 96, 97, 4096, 5000}) EXPECT_FALSE(Opens(whole.left(length))) << length;
-  for (int part = 1; part < 40; ++part) EXPECT_FALSE(Opens(whole.left(whole.size() * part / 40))) << part;
-  EXPECT_FALSE(Opens(whole.chopped(1)));
-  EXPECT_FALSE(Opens(whole + '\0'));
-}
-
-TEST_F(BrokenHelp, DoesNotOpenWithAnyBitTurned) {
-  std::mt19937 random(7);  // NOLINT: the same places each time
-  std::uniform_int_distribution<qsizetype> place(0, whole.size() - 1);
-  for (int i = 0; i < 100; ++i) {
-    // The directory at the beginning is what a reader trusts most.
-    const qsizetype at = i % 2 == 0 ? place(random) : place(random) % 5000;
-    QByteArray turned = whole;
-    turned[at] = static_cast<char>(turned[at] ^ (1 << i % 8));
-    EXPECT_FALSE(Opens(turned)) << at;
-  }
-}
-
-TEST_F(BrokenHelp, DoesNotOpenAsAnotherKindOfFile) {
-  EXPECT_FALSE(Opens(QByteArray("ITSF")));
-  EXPECT_FALSE(Opens(QByteArray(5000, 'x')));
-  EXPECT_FALSE(Opens(FileBytes(HelpFolder + "/contents.txt")));
-}
-
-TEST(CheckSum, IsTheUsualOne) {
-  EXPECT_EQ(CheckSum("123456789"), 0xCBF43926U);
-  EXPECT_EQ(CheckSum("6789", CheckSum("12345")), 0xCBF43926U);
-  EXPECT_EQ(CheckSum(""), 0U);
-}
 
 }  // namespace
 }  // namespace orby::test

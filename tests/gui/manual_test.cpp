@@ -9,7 +9,7 @@
 #include "core/version.h"
 #include "gui/help_bench.h"
 #include "gui/pdf_bench.h"
-#include "shell/markup.h"
+#include "help/markup.h"
 
 namespace orby::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "shell/markup.h"
+#include "help/markup.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "shell/word_search.h"
+#include "help/word_search.h"
 
 #include <algorithm>
 

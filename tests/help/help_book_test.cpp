@@ -1,8 +1,8 @@
-#include "shell/help_book.h"
+#include "help/help_book.h"
 
 #include <gmock/gmock.h>
 
-#include "shell/markup.h"
+#include "help/markup.h"
 
 namespace orby::test {
 namespace {

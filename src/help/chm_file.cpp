@@ -1,11 +1,10 @@
-#include "qt/chm_file.h"
+#include "help/chm_file.h"
 
 #include <chm_lib.h>
 
-#include <QFile>
 #include <array>
-
-#include "qt/texts.h"
+#include <cstddef>
+#include <fstream>
 
 namespace orby {
 namespace {
@@ -24,29 +23,34 @@ constexpr std::array<std::uint32_t, 256> MakeCheckTable() {
 constexpr auto CheckTable = MakeCheckTable();
 
 // Where the header of a help file holds the date that we use for the check sum, low byte first.
-constexpr qsizetype CheckPlace = 16;
-constexpr qsizetype CheckWidth = 4;
-constexpr qsizetype HeaderWidth = 96;
-constexpr qsizetype PieceWidth = 1 << 16;
+constexpr std::size_t CheckPlace = 16;
+constexpr std::size_t CheckWidth = 4;
+constexpr std::size_t HeaderWidth = 96;
+constexpr std::size_t PieceWidth = 1U << 16U;
 
-std::string_view View(const QByteArray& bytes) { return {bytes.constData(), static_cast<std::size_t>(bytes.size())}; }
+// Up to `most` bytes; none at the end of the file, and none of a folder.
+std::string ReadPiece(std::ifstream& file, std::size_t most) {
+  std::string piece(most, '\0');
+  file.read(piece.data(), static_cast<std::streamsize>(most));
+  piece.resize(static_cast<std::size_t>(file.gcount()));
+  return piece;
+}
 
-std::uint32_t StoredSum(const QByteArray& header) {
+std::uint32_t StoredSum(std::string_view header) {
   std::uint32_t sum = 0;
-  for (qsizetype i = CheckWidth - 1; i >= 0; --i) sum = (sum << 8U) | static_cast<std::uint8_t>(header[CheckPlace + i]);
+  for (std::size_t i = CheckWidth; i-- > 0;) sum = (sum << 8U) | static_cast<std::uint8_t>(header[CheckPlace + i]);
   return sum;
 }
 
 // The sum is that of the file with zeros in its own place.
-bool IsWhole(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return false;
-  QByteArray piece = file.read(HeaderWidth);
-  if (piece.size() < HeaderWidth || !piece.startsWith("ITSF")) return false;
+bool IsWhole(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::string piece = ReadPiece(file, HeaderWidth);
+  if (piece.size() < HeaderWidth || !piece.starts_with("ITSF")) return false;
   const std::uint32_t stored = StoredSum(piece);
-  piece.replace(CheckPlace, CheckWidth, QByteArray(CheckWidth, '\0'));
+  piece.replace(CheckPlace, CheckWidth, CheckWidth, '\0');
   std::uint32_t sum = 0;
-  for (; !piece.isEmpty(); piece = file.read(PieceWidth)) sum = CheckSum(View(piece), sum);
+  for (; !piece.empty(); piece = ReadPiece(file, PieceWidth)) sum = CheckSum(piece, sum);
   return sum == stored;
 }
 
@@ -79,7 +83,7 @@ std::uint32_t CheckSum(std::string_view bytes, std::uint32_t before) {
 void ChmFile::Closer::operator()(chmFile* file) const { chm_close(file); }
 
 std::unique_ptr<ChmFile> ChmFile::Open(const std::string& path) {
-  if (!IsWhole(ToQt(path))) return nullptr;
+  if (!IsWhole(path)) return nullptr;
   chmFile* file = chm_open(path.c_str());
   return file == nullptr ? nullptr : std::unique_ptr<ChmFile>(new ChmFile(file));
 }

@@ -1,10 +1,10 @@
-#include "shell/help_book.h"
+#include "help/help_book.h"
 
 #include <algorithm>
 
 #include "base/text.h"
-#include "shell/markup.h"
-#include "shell/word_search.h"
+#include "help/markup.h"
+#include "help/word_search.h"
 
 namespace orby {
 namespace {
