@@ -8,8 +8,8 @@
 #include <chrono>
 
 #include "base/runtime_error.h"
-#include "qt/sheet_file.h"
 #include "qt/texts.h"
+#include "spreadsheet/sheet_file.h"
 
 namespace orby {
 namespace {

@@ -15,7 +15,7 @@ struct Room {
   int floor;
 };
 
-constexpr std::array<Room, 17> Rooms = {{{"base", 0},
+constexpr std::array<Room, 18> Rooms = {{{"base", 0},
                                          {"platform", 1},
                                          {"controls", 1},
                                          {"design", 1},
@@ -28,6 +28,7 @@ constexpr std::array<Room, 17> Rooms = {{{"base", 0},
                                          {"graphs", 4},
                                          {"dialogs", 5},
                                          {"help", 5},
+                                         {"spreadsheet", 5},
                                          {"shell", 6},
                                          {"posix", 7},
                                          {"qt", 7},

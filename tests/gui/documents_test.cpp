@@ -5,7 +5,6 @@
 #include <QTextStream>
 
 #include "gui/report_bench.h"
-#include "gui/sheet_bench.h"
 
 namespace orby::test {
 namespace {

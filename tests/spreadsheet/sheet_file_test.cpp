@@ -1,13 +1,12 @@
 // The spreadsheet file that a curve is exported to.
-#include "qt/sheet_file.h"
+#include "spreadsheet/sheet_file.h"
 
 #include <gmock/gmock.h>
 
-#include <QTemporaryDir>
-
 #include "base/runtime_error.h"
-#include "gui/sheet_bench.h"
+#include "spreadsheet/sheet_bench.h"
 #include "support/recording_platform.h"
+#include "support/temporary_folder.h"
 
 namespace orby::test {
 namespace {
@@ -27,10 +26,10 @@ Sheet CurveOf22Points() {
 
 class SheetFile : public testing::Test {
  protected:
-  void Write(const Sheet& sheet) { WriteSheetFile(sheet, path.toStdString()); }
+  void Write(const Sheet& sheet) { WriteSheetFile(sheet, path); }
 
-  QTemporaryDir folder;
-  const QString path = folder.filePath("ORBY Suggested PSUP vs Depth of Cover.xlsx");
+  const TemporaryFolder folder;
+  const std::string path = folder.At("ORBY Suggested PSUP vs Depth of Cover.xlsx");
 };
 
 TEST_F(SheetFile, HasTheHeadersInItsFirstRow) {
@@ -57,7 +56,7 @@ TEST_F(SheetFile, HasTwentyTwoPointsInRows2To23) {
 TEST_F(SheetFile, ChartsThePointsAgainstEachOther) {
   Write(CurveOf22Points());
 
-  const std::string chart = SheetPart(path, "xl/charts/chart1.xml").toStdString();
+  const std::string chart = SheetPart(path, "xl/charts/chart1.xml");
   EXPECT_THAT(chart, testing::HasSubstr("<c:scatterChart>"));
   EXPECT_THAT(chart, testing::HasSubstr("<c:f>Curve!$A$2:$A$23</c:f>"));
   EXPECT_THAT(chart, testing::HasSubstr("<c:f>Curve!$B$2:$B$23</c:f>"));
@@ -86,14 +85,14 @@ TEST_F(SheetFile, RefersToOneEmptyRowForACurveWithoutPoints) {
 
   Write(sheet);
 
-  const std::string chart = SheetPart(path, "xl/charts/chart1.xml").toStdString();
+  const std::string chart = SheetPart(path, "xl/charts/chart1.xml");
   EXPECT_THAT(chart, testing::HasSubstr("<c:f>Curve!$A$2</c:f>"));
   EXPECT_THAT(chart, testing::HasSubstr("<c:f>Curve!$B$2</c:f>"));
   EXPECT_THAT(SheetCells(path), SizeIs(2));
 }
 
 TEST_F(SheetFile, FailsInAFolderThatIsNotThere) {
-  const std::string nowhere = folder.filePath("missing/curve.xlsx").toStdString();
+  const std::string nowhere = folder.At("missing/curve.xlsx");
 
   EXPECT_EQ(ErrorNumberOf([&] { WriteSheetFile(CurveOf22Points(), nowhere); }), error_number::PathFileAccess);
 }

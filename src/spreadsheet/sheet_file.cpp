@@ -1,4 +1,4 @@
-#include "qt/sheet_file.h"
+#include "spreadsheet/sheet_file.h"
 
 #include <xlsxwriter.h>
 
