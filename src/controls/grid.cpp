@@ -5,13 +5,24 @@
 namespace orby {
 
 void Grid::SetSize(int rows, int columns, int fixedRows) {
+  Resize(rows, columns, fixedRows);
+  Touch();
+}
+
+void Grid::SetRows(std::vector<std::vector<std::string>> rows, int fixedRows) {
+  Resize(static_cast<int>(rows.size()), rows.empty() ? 0 : static_cast<int>(rows.front().size()), fixedRows);
+  auto cell = cells_.begin();
+  for (std::vector<std::string>& row : rows) cell = std::ranges::move(row, cell).out;
+  Touch();
+}
+
+void Grid::Resize(int rows, int columns, int fixedRows) {
   rows_ = rows;
   columns_ = columns;
   fixedRows_ = fixedRows;
   row_ = std::min(fixedRows, rows - 1);
   column_ = std::min(fixedColumns_, columns - 1);
   cells_.assign(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns), {});
-  Touch();
 }
 
 std::size_t Grid::Index(int row, int column) const {

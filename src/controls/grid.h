@@ -20,6 +20,9 @@ class Grid : public Control {
 
   // Sizes the grid, empties its cells and selects the first cell below the header, if there is one.
   void SetSize(int rows, int columns, int fixedRows);
+  // Takes these rows in the place of all, the first ones as the header, and selects the first cell below it. Rows are
+  // of one length. The view is told once, however many there are.
+  void SetRows(std::vector<std::vector<std::string>> rows, int fixedRows);
   // One more row of empty cells at the end.
   void AddRow();
   // Those behind it move up; the selection stays at its place, or goes to the last row. Throws RuntimeError 9 outside
@@ -62,6 +65,7 @@ class Grid : public Control {
   Event Click;
 
  private:
+  void Resize(int rows, int columns, int fixedRows);
   std::size_t Index(int row, int column) const;
 
   int rows_ = 0;

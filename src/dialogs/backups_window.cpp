@@ -1,6 +1,7 @@
 #include "dialogs/backups_window.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/attempt.h"
 #include "base/number_text.h"
@@ -94,19 +95,14 @@ void BackupsWindow::List() {
   const Backup* selected = Selected();
   const std::string path = selected == nullptr ? std::string() : selected->Path;
   entries_ = ListBackups(program_);
-  grdBackups.SetSize(HeaderRows + static_cast<int>(entries_.size()), static_cast<int>(Headers.size()), HeaderRows);
-  for (std::size_t column = 0; column < Headers.size(); ++column) {
-    grdBackups.SetCell(0, static_cast<int>(column), std::string(Headers[column]));
-  }
-  int row = HeaderRows;
+  std::vector<std::vector<std::string>> rows{{Headers.begin(), Headers.end()}};
   for (const Backup& entry : entries_) {
-    grdBackups.SetCell(row, 0, std::string(NameBehindSeparator(entry.Project)));
-    grdBackups.SetCell(row, 1, MomentText(entry.Time));
-    grdBackups.SetCell(row, 2, std::string(entry.Reason ? ReasonText(*entry.Reason) : "Not known"));
-    grdBackups.SetCell(row, 3, SizeText(entry.Bytes));
-    if (entry.Path == path) grdBackups.SetRow(row);
-    ++row;
+    rows.push_back({std::string(NameBehindSeparator(entry.Project)), MomentText(entry.Time),
+                    std::string(entry.Reason ? ReasonText(*entry.Reason) : "Not known"), SizeText(entry.Bytes)});
   }
+  grdBackups.SetRows(std::move(rows), HeaderRows);
+  const auto again = std::ranges::find(entries_, path, &Backup::Path);
+  if (again != entries_.end()) grdBackups.SetRow(HeaderRows + static_cast<int>(again - entries_.begin()));
   ShowSelected();
 }
 

@@ -26,6 +26,27 @@ struct AGrid : testing::Test {
   int changes = 0;
 };
 
+TEST_F(AGrid, TakesAllItsRowsAtOnceAndTellsTheViewOnce) {
+  grid.SetRow(3);
+  RecordingView view(form);
+
+  grid.SetRows({{"Bolt", "Dia."}, {"#7", "0.875"}, {"#8", "1"}}, 1);
+
+  EXPECT_THAT(view.told, ElementsAre("grdBolts"));
+  EXPECT_EQ(grid.Rows(), 3);
+  EXPECT_EQ(grid.Columns(), 2);
+  EXPECT_EQ(grid.Row(), 1);
+  EXPECT_EQ(grid.Cell(1, 1), "0.875");
+  EXPECT_EQ(grid.Cell(2, 0), "#8");
+}
+
+TEST_F(AGrid, WithoutAnyRowHasNoSelection) {
+  grid.SetRows({}, 0);
+
+  EXPECT_EQ(grid.Rows(), 0);
+  EXPECT_EQ(grid.Row(), -1);
+}
+
 TEST_F(AGrid, OpensOnTheFirstRowBelowItsHeader) {
   EXPECT_EQ(grid.Row(), 1);
   EXPECT_EQ(grid.Rows(), 4);
