@@ -12,6 +12,7 @@
 #include "design/catalog_lists.h"
 #include "design/design.h"
 #include "design/units.h"
+#include "engine/curves.h"
 #include "platform/platform.h"
 
 namespace orby {
@@ -47,10 +48,8 @@ struct EstimatorState {
   Integer CallerCode = 0;            // the dialog that opened the estimator
 };
 
-struct Curve {
-  // Row 0 holds x, row 1 y; as many columns as the sweep was sized for, empty ones at the end staying 0.
-  std::array<std::vector<Single>, 2> CurvePoints;
-  Integer CurvePointCount = 0;  // filled columns
+// The curve that was drawn last.
+struct DrawnCurve : Curve {
   Integer CurveIndex = 0;
   Integer CurveCount = 0;    // series in the chart
   bool GraphClosed = false;  // the graph window was on the screen and is so no longer
@@ -133,7 +132,7 @@ struct Program {
   History history;
   EstimatorState estimator;
   Integer OptionsTab = 0;  // the page of the options dialog that was chosen last
-  Curve curve;
+  DrawnCurve curve;
   std::string SavedDecimalSeparator;
 };
 

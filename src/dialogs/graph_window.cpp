@@ -93,7 +93,7 @@ void GraphWindow::GraphInit(Integer index) {
 }
 
 void GraphWindow::DrawCurve() {
-  const Curve& curve = program_.curve;
+  const DrawnCurve& curve = program_.curve;
   std::vector<ChartSeries> drawn;
   for (Integer number = 1; number <= curve.CurveCount; ++number) {
     ChartSeries series = PointsOf(curve);

@@ -7,30 +7,19 @@
 #include "core/dialog_helpers.h"
 #include "core/help.h"
 #include "core/messages.h"
+#include "dialogs/curve_command.h"
 #include "dialogs/graph_window.h"
-#include "engine/curves.h"
 #include "reports/printing.h"
 
 namespace orby {
 namespace {
 
-// By the index of the curve.
-constexpr std::array<std::string_view, CurveCount> CurveNames{"Suggested PSUP vs CMRR",
-                                                              "Suggested PSUP vs Depth of Cover",
-                                                              "Suggested PSUP vs Stability Factor",
-                                                              "Suggested PSUP vs Sum of Diagonals",
-                                                              "Rock Load vs Rock Load Height (Entries)",
-                                                              "Rock Load vs Entry Width (Entries)",
-                                                              "Rock Load vs Roof Fall Angle (Entries)",
-                                                              "Rock Load vs Rock Load Height (Intersections)",
-                                                              "Rock Load vs Sum of Diagonals (Intersections)",
-                                                              "Rock Load vs Roof Fall Angle (Intersections)"};
-
 std::vector<ComboItem> CurveItems() {
   std::vector<ComboItem> items;
-  items.reserve(CurveNames.size());
-  for (const std::string_view name : CurveNames)
-    items.push_back({std::string(name), static_cast<double>(items.size())});
+  items.reserve(CurveCount);
+  for (Integer i = 0; i < CurveCount; ++i) {
+    items.push_back({std::string(SubjectOfCurve(i).Name), static_cast<double>(i)});
+  }
   return items;
 }
 
@@ -101,8 +90,8 @@ bool ResultsWindow::ChoosePrinter() {
 void ResultsWindow::DrawChosenCurve() {
   const auto index = static_cast<Integer>(lstGraphs.Items()[static_cast<std::size_t>(lstGraphs.ListIndex())].data);
   const StepOutcome outcome = RunTrapped(program_, [&] {
-    While(Act::Curve, std::string(CurveNames[static_cast<std::size_t>(index)]), [&] {
-      GenerateCurve(program_, index);
+    While(Act::Curve, SubjectOfCurve(index).Name, [&] {
+      TakeCurve(program_, index);
       if (!graph_) graph_ = std::make_unique<GraphWindow>(program_);
       graph_->ShowCurve(index);
     });

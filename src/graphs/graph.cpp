@@ -11,50 +11,20 @@
 namespace orby {
 namespace {
 
-constexpr std::string_view DegreeSuffix = " (deg)";
 constexpr std::string_view PsupName = "Sug.PSUP";
 
-enum class Suffix { None, Degrees, Unit };
-
-struct Variable {
-  std::string_view label;
-  Suffix suffix = Suffix::None;
-  int unitRow = 0;  // of a Unit
-};
-
-struct Independent {
-  Variable variable;
-  Integer dependent;
-};
-
 struct Dependent {
-  Variable variable;
+  std::string_view label;
+  Measure measure;
   std::string_view legend;
   std::string_view shortName;
 };
 
-constexpr Integer Psup = 0;
-constexpr Integer EntryLoad = 1;
-constexpr Integer IntersectionLoad = 2;
-
-// By curve.
-constexpr std::array<Independent, 10> Independents{{
-    {{"CMRR"}, Psup},
-    {{"Depth of Cover", Suffix::Unit, unit_row::Length}, Psup},
-    {{"Stability Factor"}, Psup},
-    {{"Sum of Diagonals", Suffix::Unit, unit_row::Length}, Psup},
-    {{"Rock Load Height", Suffix::Unit, unit_row::Length}, EntryLoad},
-    {{"Entry Width", Suffix::Unit, unit_row::Length}, EntryLoad},
-    {{"Roof Fall Angle", Suffix::Degrees}, EntryLoad},
-    {{"Rock Load Height", Suffix::Unit, unit_row::Length}, IntersectionLoad},
-    {{"Sum of Diagonals", Suffix::Unit, unit_row::Length}, IntersectionLoad},
-    {{"Roof Fall Angle", Suffix::Degrees}, IntersectionLoad},
-}};
-
+// By CurveFigure.
 constexpr std::array<Dependent, 3> Dependents{{
-    {{"Suggested PSUP"}, PsupName, PsupName},
-    {{"Rock Load Entries", Suffix::Unit, unit_row::LineLoad}, "Rock Load Straights", "RockLoad"},
-    {{"Rock Load Intersections", Suffix::Unit, unit_row::Force}, "Rock Load Intersections", "RockLoad"},
+    {"Suggested PSUP", Measure::Plain, PsupName, PsupName},
+    {"Rock Load Entries", Measure::LineLoad, "Rock Load Straights", "RockLoad"},
+    {"Rock Load Intersections", Measure::Force, "Rock Load Intersections", "RockLoad"},
 }};
 
 constexpr std::array<int, 6> Colours{16711680, 6053069, 0, 25600, 4, 5};
@@ -67,27 +37,34 @@ const auto& At(const Table& table, int index) {
 
 const Dependent& DependentOf(Integer curveIndex) { return At(Dependents, DependentVariable(curveIndex)); }
 
-std::string TitleOf(const Variable& variable, UnitSystem units) {
-  std::string title(variable.label);
-  switch (variable.suffix) {
-    case Suffix::None: break;
-    case Suffix::Degrees: title += DegreeSuffix; break;
-    case Suffix::Unit: title += UnitLabel(variable.unitRow, units); break;
+std::string_view SuffixOf(Measure measure, UnitSystem units) {
+  switch (measure) {
+    case Measure::Degrees: return " (deg)";
+    case Measure::Length: return UnitLabel(unit_row::Length, units);
+    case Measure::LineLoad: return UnitLabel(unit_row::LineLoad, units);
+    case Measure::Force: return UnitLabel(unit_row::Force, units);
+    case Measure::Plain: break;
   }
-  return title;
+  return {};
+}
+
+std::string TitleOf(std::string_view label, Measure measure, UnitSystem units) {
+  return std::string(label).append(SuffixOf(measure, units));
 }
 
 }  // namespace
 
-Integer DependentVariable(Integer curveIndex) { return At(Independents, curveIndex).dependent; }
+Integer DependentVariable(Integer curveIndex) { return NumberOf(SubjectOfCurve(curveIndex).Figure); }
 
 void ComposeAxisTitles(Program& program) {
   GraphSettings& graph = program.graph;
-  for (std::size_t i = 0; i < Independents.size(); ++i) {
-    graph.XAxisTitle[i] = TitleOf(Independents[i].variable, program.WorkParms.Units);
+  const UnitSystem units = program.WorkParms.Units;
+  for (Integer i = 0; i < CurveCount; ++i) {
+    const CurveSubject& subject = SubjectOfCurve(i);
+    graph.XAxisTitle[static_cast<std::size_t>(i)] = TitleOf(subject.Independent, subject.IndependentMeasure, units);
   }
   for (std::size_t i = 0; i < Dependents.size(); ++i) {
-    graph.YAxisTitle[i] = TitleOf(Dependents[i].variable, program.WorkParms.Units);
+    graph.YAxisTitle[i] = TitleOf(Dependents[i].label, Dependents[i].measure, units);
   }
   graph.GraphUnits = program.WorkParms.Units;
 }
@@ -106,12 +83,12 @@ std::string ShortCurveName(Integer curveIndex) { return std::string(DependentOf(
 
 std::string ReformattedLegendText(Integer curveIndex, Integer series) {
   const std::string name = ShortCurveName(curveIndex);
-  return DependentVariable(curveIndex) == Psup ? name : name + NumberText(series);
+  return SubjectOfCurve(curveIndex).Figure == CurveFigure::Support ? name : name + NumberText(series);
 }
 
 std::string CurveTitle(Integer curveIndex) {
-  const std::string dependent(DependentOf(curveIndex).variable.label);
-  return dependent + " vs " + std::string(At(Independents, curveIndex).variable.label);
+  const std::string dependent(DependentOf(curveIndex).label);
+  return dependent + " vs " + std::string(SubjectOfCurve(curveIndex).Independent);
 }
 
 void ApplyTitlesAndGrid(const GraphSettings& graph, Integer curveIndex, Chart& chart) {

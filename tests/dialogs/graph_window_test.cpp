@@ -1,9 +1,9 @@
 #include "dialogs/graph_window.h"
 
 #include "base/runtime_error.h"
+#include "dialogs/curve_command.h"
 #include "dialogs/graph_fixture.h"
 #include "dialogs/jammed_printer.h"
-#include "engine/curves.h"
 
 namespace orby::test {
 namespace {
@@ -552,7 +552,7 @@ TEST_F(GraphOfACurve, KeepsTheTitleOfTheCurveOnViewWhenAnotherCannotBeSwept) {
   program.WorkParmsCopy.Place.DepthofCover = 400;
   program.WorkParmsCopy.Place.ActualSpanDiagonals = 60;
   program.WorkParmsCopy.Primary.StabilityFactor = 2e38F;
-  ASSERT_EQ(ErrorNumberOf([&] { GenerateCurve(program, 2); }), 6);
+  ASSERT_EQ(ErrorNumberOf([&] { TakeCurve(program, 2); }), 6);
 
   window.Close();
 

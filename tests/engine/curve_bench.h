@@ -1,4 +1,4 @@
-// A program whose previewed design is that of a new project, as the tests of curves begin.
+// The design of a new project and its curves, as the tests of curves begin.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -12,26 +12,24 @@
 namespace orby::test {
 
 struct CurveBench : testing::Test {
-  RecordingPlatform platform;
-  Program program{platform.Doors()};
-  Design& design = program.WorkParmsCopy;
+  Design design = EnglishDesign();
+  CurveSweep sweep;
 
-  CurveBench() { design = EnglishDesign(); }
-
-  void UseMetricDesign() {
-    design = MetricDesign();
-    program.WorkParms.Units = Metric;
-  }
+  void UseMetricDesign() { design = MetricDesign(); }
+  void Generate(Integer index) { sweep = GenerateCurve(design, index); }
 
   using Point = std::pair<Single, Single>;
   Point PointAt(std::size_t column) const {
-    return {program.curve.CurvePoints[0].at(column), program.curve.CurvePoints[1].at(column)};
+    return {sweep.Points.CurvePoints[0].at(column), sweep.Points.CurvePoints[1].at(column)};
   }
   Point LastPoint() const { return PointAt(Points() - 1); }
-  std::size_t Points() const { return static_cast<std::size_t>(program.curve.CurvePointCount); }
-  std::size_t Columns() const { return program.curve.CurvePoints[0].size(); }
+  std::size_t Points() const { return static_cast<std::size_t>(sweep.Points.CurvePointCount); }
+  std::size_t Columns() const { return sweep.Points.CurvePoints[0].size(); }
   int ErrorOf(Integer index) {
-    return ErrorNumberOf([&] { GenerateCurve(program, index); });
+    return ErrorNumberOf([&] {
+      Generate(index);
+      if (sweep.Failure) throw RuntimeError(*sweep.Failure);
+    });
   }
 };
 

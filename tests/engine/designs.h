@@ -38,6 +38,7 @@ inline Design EnglishDesign() {
 
 inline Design MetricDesign() {
   Design design;
+  design.Units = Metric;
   design.Place.CMRR = 45;
   design.Place.DepthofCover = 150;
   design.Place.UnitWeight = 25;

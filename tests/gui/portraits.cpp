@@ -25,6 +25,7 @@
 #include "dialogs/backups_window.h"
 #include "dialogs/convert_dialog.h"
 #include "dialogs/cost_dialog.h"
+#include "dialogs/curve_command.h"
 #include "dialogs/description_dialog.h"
 #include "dialogs/disclaimer.h"
 #include "dialogs/estimator_dialog.h"
@@ -40,7 +41,6 @@
 #include "dialogs/text_browser.h"
 #include "dialogs/unit_calculator_window.h"
 #include "dialogs/update_dialog.h"
-#include "engine/curves.h"
 #include "files/new_project.h"
 #include "files/project_file.h"
 #include "gui/gui_bench.h"
@@ -274,7 +274,7 @@ class Sitting {
   void TakeGraphs() {
     GraphWindow graph(program_);
     for (const Integer curve : {Integer{1}, Integer{5}, Integer{8}}) {
-      GenerateCurve(program_, curve);
+      TakeCurve(program_, curve);
       graph.ShowCurve(curve);
       photographer_.Take(*WindowOnScreen(graph), "graph-" + std::to_string(curve));
     }

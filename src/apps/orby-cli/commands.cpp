@@ -10,8 +10,8 @@
 #include "base/text.h"
 #include "dialogs/convert_dialog.h"
 #include "dialogs/cost_dialog.h"
+#include "dialogs/curve_command.h"
 #include "dialogs/parameters_dialog.h"
-#include "engine/curves.h"
 #include "files/project_file.h"
 #include "files/project_writer.h"
 #include "shell/start_up.h"
@@ -103,7 +103,7 @@ int CurveOf(Session& session, const std::string& number) {
   ParametersDialog dialog(session.program);
   dialog.Open();
   BuildPages(dialog);
-  GenerateCurve(session.program, static_cast<Integer>(number.front() - '0'));
+  TakeCurve(session.program, static_cast<Integer>(number.front() - '0'));
   const Curve& curve = session.program.curve;
   std::string text;
   for (std::size_t i = 0; i < static_cast<std::size_t>(curve.CurvePointCount); ++i) {

@@ -1,0 +1,81 @@
+// The curve that the user asks for: what it is drawn from, and what is told of it.
+#include "dialogs/curve_command.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "engine/designs.h"
+#include "support/recording_platform.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+struct ACurve : testing::Test {
+  RecordingPlatform platform;
+  Program program{platform.Doors()};
+  Design& design = program.WorkParmsCopy;
+
+  ACurve() { design = EnglishDesign(); }
+};
+
+TEST_F(ACurve, TellsInFixedWordsThatTheRatingWasTrimmed) {
+  TakeCurve(program, 0);
+
+  ASSERT_THAT(platform.boxes.Texts(), ElementsAre("Upper limit for CMRR trimmed to 51"));
+  EXPECT_EQ(platform.boxes.shown[0].style, 0);
+  EXPECT_EQ(platform.boxes.shown[0].title, "Orby Roof Support Workbench");
+}
+
+TEST_F(ACurve, TellsThatANegativeSpanWasAdjusted) {
+  design.Place.ActualSpanDiagonals = -5;
+
+  TakeCurve(program, 3);
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Lower limit for IntersectionSpan adjusted > 0"));
+}
+
+TEST_F(ACurve, TellsOfATrimmedRatingBeforeItFails) {
+  design.Place.CMRR = 95;
+
+  EXPECT_EQ(ErrorNumberOf([this] { TakeCurve(program, 0); }), 9);
+
+  EXPECT_THAT(platform.boxes.Texts(), SizeIs(1));
+}
+
+TEST_F(ACurve, IsThatOfThePreviewedDesignAndNotOfTheCommittedOne) {
+  program.WorkParms = MetricDesign();
+  program.WorkParms.Place.CMRR = 90;
+
+  TakeCurve(program, 8);
+
+  EXPECT_EQ(program.curve.CurvePoints[0][40], 60.0F);
+  EXPECT_EQ(program.curve.CurvePoints[1][40], 183.050446F);
+  EXPECT_THAT(platform.boxes.Texts(), IsEmpty());
+}
+
+TEST_F(ACurve, ReplacesTheOneBefore) {
+  TakeCurve(program, 8);
+
+  TakeCurve(program, 3);
+
+  EXPECT_EQ(program.curve.CurvePointCount, 4);
+  EXPECT_THAT(program.curve.CurvePoints, ElementsAre(SizeIs(5), SizeIs(5)));
+  EXPECT_EQ(program.curve.CurveIndex, 3);
+}
+
+TEST_F(ACurve, ThatFailsLeavesTheOneBefore) {
+  TakeCurve(program, 3);
+  design.Place.CMRR = 95;
+
+  EXPECT_EQ(ErrorNumberOf([this] { TakeCurve(program, 0); }), 9);
+
+  EXPECT_EQ(program.curve.CurvePointCount, 4);
+  EXPECT_EQ(program.curve.CurveIndex, 3);
+}
+
+}  // namespace
+}  // namespace orby::test
