@@ -42,6 +42,7 @@
 #include "dialogs/preview_window.h"
 #include "dialogs/results_window.h"
 #include "dialogs/text_browser.h"
+#include "platform/no_desktop.h"
 #include "posix/disk_files.h"
 #include "qt/boundary.h"
 #include "qt/desktop.h"
@@ -74,7 +75,8 @@ struct Run {
   }
 
   DiskFiles files{"."};
-  Desktop desktop{files};
+  NoFileTypes fileTypes;
+  Desktop desktop{files, fileTypes};
   Program program{desktop.Doors()};
 };
 

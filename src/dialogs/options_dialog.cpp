@@ -10,12 +10,12 @@
 #include "base/arithmetic.h"
 #include "base/number_text.h"
 #include "config/catalog_sections.h"
-#include "config/file_association.h"
 #include "config/ini_file.h"
 #include "config/settings_sections.h"
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
 #include "dialogs/fault_texts.h"
+#include "dialogs/file_association.h"
 
 namespace orby {
 namespace {

@@ -25,7 +25,7 @@ class ProgramApart {
   Platform Quiet(const Platform& doors) {
     return {boxes_,          doors.files, doors.fileDialogs, windows_,        doors.fonts,
             doors.locale,    doors.clock, doors.userFolders, doors.clipboard, doors.printer,
-            doors.documents, doors.help,  doors.downloads};
+            doors.documents, doors.help,  doors.downloads,   doors.fileTypes};
   }
 
   NoMessageBoxes boxes_;

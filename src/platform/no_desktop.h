@@ -85,6 +85,11 @@ class NoHelpViewer : public HelpViewer {
   void Close() override {}
 };
 
+class NoFileTypes : public FileTypes {
+ public:
+  void Associate(const std::string&, const std::string&) override {}
+};
+
 class NoDownloads : public Downloads {
  public:
   std::unique_ptr<Fetch> Start(const FetchRequest&, FetchEvents) override { return nullptr; }

@@ -6,6 +6,7 @@
 #include "platform/downloads.h"
 #include "platform/file_dialogs.h"
 #include "platform/file_system.h"
+#include "platform/file_types.h"
 #include "platform/help_viewer.h"
 #include "platform/message_boxes.h"
 #include "platform/printer.h"
@@ -28,6 +29,7 @@ struct Platform {
   Documents& documents;
   HelpViewer& help;
   Downloads& downloads;
+  FileTypes& fileTypes;
 };
 
 }  // namespace orby

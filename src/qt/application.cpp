@@ -55,11 +55,11 @@ class ToolkitStart {
 
 }  // namespace
 
-int RunProgram(FileSystem& files, const std::vector<std::string>& arguments) {
+int RunProgram(FileSystem& files, FileTypes& fileTypes, const std::vector<std::string>& arguments) {
   const std::optional<Restart> restart = TakeRestart();
   const ToolkitStart toolkit;
   QApplication::setWindowIcon(ThemedIcon("orby"));
-  Desktop desktop(files);
+  Desktop desktop(files, fileTypes);
   Program program(desktop.Doors());
   std::unique_ptr<MainWindow> window;
   SetErrorHandler([&](const RuntimeError& error) { EndRun(desktop, window.get(), error); });

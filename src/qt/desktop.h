@@ -1,4 +1,4 @@
-// Everything that the program asks of the desktop, in one. The files of the machine are handed in.
+// Everything that the program asks of the desktop, in one. What the toolkit has no part in is handed in.
 #pragma once
 
 #include "platform/platform.h"
@@ -14,7 +14,7 @@
 namespace orby {
 
 struct Desktop {
-  explicit Desktop(FileSystem& filesGiven) : files(filesGiven) {}
+  Desktop(FileSystem& filesGiven, FileTypes& fileTypesGiven) : files(filesGiven), fileTypes(fileTypesGiven) {}
 
   QtMessageBoxes boxes;
   FileSystem& files;
@@ -29,10 +29,11 @@ struct Desktop {
   QtDocuments documents;
   QtHelpViewer help;
   QtDownloads downloads;
+  FileTypes& fileTypes;
 
   Platform Doors() {
-    return {boxes,       files,     fileDialogs, windows,   fonts, locale,   clock,
-            userFolders, clipboard, printer,     documents, help,  downloads};
+    return {boxes,       files,     fileDialogs, windows,   fonts, locale,    clock,
+            userFolders, clipboard, printer,     documents, help,  downloads, fileTypes};
   }
 };
 

@@ -63,7 +63,8 @@ Platform GuiPlatform::Doors(const RealDoors& real) {
           RealOr<Printer>(real.printer, printer),
           RealOr<Documents>(real.documents, documents),
           RealOr<HelpViewer>(real.help, help),
-          RealOr<Downloads>(real.downloads, downloads)};
+          RealOr<Downloads>(real.downloads, downloads),
+          fileTypes};
 }
 
 ModalScripts::ModalScripts() { qApp->installEventFilter(this); }

@@ -19,7 +19,10 @@
 #include "monkey/monkey.h"
 #include "monkey/watch.h"
 #include "posix/disk_files.h"
+#include "posix/xdg_file_types.h"
 #include "qt/application.h"
+#include "qt/documents.h"
+#include "qt/surroundings.h"
 
 namespace orby::monkey {
 namespace {
@@ -54,7 +57,10 @@ int RunWithMonkey(const char* ledgerPath, int argc, char** argv) {
   StartWatch(record, ledger, std::atoi(std::getenv(PatienceVariable)));
   run.reset(new Run{ledger, record, byItself});
   DiskFiles files(PROGRAM_DIR);
-  return RunProgram(files, {argv + 1, argv + argc});
+  QtUserFolders userFolders;
+  QtDocuments documents;
+  XdgFileTypes fileTypes(files, userFolders, documents);
+  return RunProgram(files, fileTypes, {argv + 1, argv + argc});
 }
 
 template <class Number>

@@ -575,6 +575,15 @@ class ScriptedDownloads : public Downloads {
   };
 };
 
+class RecordingFileTypes : public FileTypes {
+ public:
+  void Associate(const std::string& extension, const std::string& programName) override {
+    associated.push_back(extension + " with " + programName);
+  }
+
+  std::vector<std::string> associated;
+};
+
 struct RecordingPlatform {
   RecordingBoxes boxes;
   MemoryFiles files;
@@ -589,6 +598,7 @@ struct RecordingPlatform {
   RecordingDocuments documents;
   RecordingHelp help;
   ScriptedDownloads downloads;
+  RecordingFileTypes fileTypes;
 
   Platform Doors() { return DoorsWith(); }
   // With others, as other message boxes or another file system, in the place of its own of that kind.
@@ -606,7 +616,8 @@ struct RecordingPlatform {
             Door<Printer>(printer, others...),
             Door<Documents>(documents, others...),
             Door<HelpViewer>(help, others...),
-            Door<Downloads>(downloads, others...)};
+            Door<Downloads>(downloads, others...),
+            Door<FileTypes>(fileTypes, others...)};
   }
 
  private:

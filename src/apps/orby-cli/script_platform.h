@@ -57,10 +57,11 @@ struct ScriptPlatform {
   NoDocuments documents;
   NoHelpViewer help;
   NoDownloads downloads;
+  NoFileTypes fileTypes;
 
   Platform Doors() {
-    return {boxes,       files,     fileDialogs, windows,   fonts, locale,   clock,
-            userFolders, clipboard, printer,     documents, help,  downloads};
+    return {boxes,       files,     fileDialogs, windows,   fonts, locale,    clock,
+            userFolders, clipboard, printer,     documents, help,  downloads, fileTypes};
   }
 };
 

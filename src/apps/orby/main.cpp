@@ -5,7 +5,10 @@
 
 #include "posix/disk_files.h"
 #include "posix/file_size_limit.h"
+#include "posix/xdg_file_types.h"
 #include "qt/application.h"
+#include "qt/documents.h"
+#include "qt/surroundings.h"
 
 namespace {
 
@@ -34,7 +37,10 @@ int main(int argc, char** argv) {
   orby::SurviveFileSizeLimit();
   try {
     orby::DiskFiles files(ProgramFolder());
-    return orby::RunProgram(files, {argv + 1, argv + argc});
+    orby::QtUserFolders userFolders;
+    orby::QtDocuments documents;
+    orby::XdgFileTypes fileTypes(files, userFolders, documents);
+    return orby::RunProgram(files, fileTypes, {argv + 1, argv + argc});
   } catch (const std::exception& error) {
     std::fprintf(stderr, "orby: %s\n", error.what());
     return EXIT_FAILURE;

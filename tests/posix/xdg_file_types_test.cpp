@@ -1,29 +1,28 @@
-#include "config/file_association.h"
+#include "posix/xdg_file_types.h"
 
-#include "core/program_bench.h"
+#include <gmock/gmock.h>
+
+#include "support/recording_platform.h"
 
 namespace orby::test {
 namespace {
 
-using testing::AnyOf;
-using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Key;
-using testing::Not;
 using testing::SizeIs;
 using testing::UnorderedElementsAre;
 
 const std::string Packages = "/home/user/.local/share/mime/packages/";
 const std::string Entry = "/home/user/.local/share/applications/orby.desktop";
 
-struct FileAssociation : ProgramBench {
-  FileAssociation() { platform.files.files["/program/orby.svg"] = "<svg/>"; }
+struct XdgFileAssociation : testing::Test {
+  XdgFileAssociation() { platform.files.files["/program/orby.svg"] = "<svg/>"; }
 
-  void Associate() {
-    platform.boxes.answers = {box_result::Yes};
-    AssociateFileExtension(program);
+  void Associate(const std::string& extension = "ORB") { Associate(extension, platform.files); }
+  void Associate(const std::string& extension, FileSystem& files) {
+    XdgFileTypes(files, platform.userFolders, platform.documents).Associate(extension, "Orby Roof Support Workbench");
   }
 
   std::string& File(const std::string& path) { return platform.files.files[path]; }
@@ -34,37 +33,11 @@ struct FileAssociation : ProgramBench {
     const std::size_t at = text.find("\n" + begin);
     return at == std::string::npos ? std::string() : text.substr(at + 1, text.find('\n', at + 1) - at - 1);
   }
+
+  RecordingPlatform platform;
 };
 
-TEST_F(FileAssociation, AsksFirst) {
-  AssociateFileExtension(program);
-
-  EXPECT_THAT(platform.boxes.shown,
-              ElementsAre(IsBox("This operation may break an existing association of file extension ORB with other "
-                                "programs on this computer. Proceed?",
-                                box_style::YesNo, "Orby Roof Support Workbench")));
-}
-
-TEST_F(FileAssociation, ChangesNothingOnNo) {
-  platform.boxes.answers = {box_result::No};
-
-  AssociateFileExtension(program);
-
-  EXPECT_THAT(platform.boxes.shown, SizeIs(1));
-  EXPECT_THAT(platform.files.files, ElementsAre(Key("/program/orby.svg")));
-  EXPECT_THAT(platform.documents.ran, IsEmpty());
-}
-
-TEST_F(FileAssociation, TellsWhatItHasDone) {
-  Associate();
-
-  EXPECT_EQ(platform.boxes.Texts().back(),
-            "The ORB file extensions has been associated to /program/\r\n\r\nNote: if order for this function to be "
-            "successfully completed the user needs to have access to the registry");
-  EXPECT_THAT(program.history.Text, HasSubstr("The ORB file extensions has been associated to /program/\r\n"));
-}
-
-TEST_F(FileAssociation, MakesTheExtensionATypeOfFile) {
+TEST_F(XdgFileAssociation, MakesTheExtensionATypeOfFile) {
   Associate();
 
   EXPECT_EQ(File(Packages + "x-orby-orb.xml"),
@@ -77,7 +50,7 @@ TEST_F(FileAssociation, MakesTheExtensionATypeOfFile) {
             "</mime-info>\n");
 }
 
-TEST_F(FileAssociation, MakesTheProgramOpenTheType) {
+TEST_F(XdgFileAssociation, MakesTheProgramOpenTheType) {
   Associate();
 
   EXPECT_EQ(File(Entry),
@@ -92,7 +65,7 @@ TEST_F(FileAssociation, MakesTheProgramOpenTheType) {
             "MimeType=application/x-orby-orb;\n");
 }
 
-TEST_F(FileAssociation, GivesProgramAndFilesTheirIcon) {
+TEST_F(XdgFileAssociation, GivesProgramAndFilesTheirIcon) {
   Associate();
 
   const std::string icons = "/home/user/.local/share/icons/hicolor/scalable/";
@@ -100,7 +73,7 @@ TEST_F(FileAssociation, GivesProgramAndFilesTheirIcon) {
   EXPECT_EQ(File(icons + "mimetypes/application-x-orby-orb.svg"), "<svg/>");
 }
 
-TEST_F(FileAssociation, LeavesTheIconOutWhenTheProgramCameWithoutOne) {
+TEST_F(XdgFileAssociation, LeavesTheIconOutWhenTheProgramCameWithoutOne) {
   platform.files.files.clear();
 
   Associate();
@@ -109,69 +82,57 @@ TEST_F(FileAssociation, LeavesTheIconOutWhenTheProgramCameWithoutOne) {
   EXPECT_EQ(EntryLine("Icon="), "");
 }
 
-TEST_F(FileAssociation, TellsTheDesktop) {
+TEST_F(XdgFileAssociation, TellsTheDesktop) {
   Associate();
 
   EXPECT_THAT(platform.documents.ran,
               ElementsAre(ElementsAre("update-mime-database", "/home/user/.local/share/mime"),
                           ElementsAre("update-desktop-database", "/home/user/.local/share/applications"),
                           ElementsAre("xdg-mime", "default", "orby.desktop", "application/x-orby-orb")));
-  EXPECT_FALSE(platform.windows.waitCursor);
 }
 
-TEST_F(FileAssociation, KeepsTheExtensionAsTypedAndItsTypeInCapitals) {
-  program.settings.FileExtension = "Orb";
-
-  Associate();
+TEST_F(XdgFileAssociation, KeepsTheExtensionAsTypedAndItsTypeInCapitals) {
+  Associate("Orb");
 
   EXPECT_THAT(File(Packages + "x-orby-orb.xml"), HasSubstr("<glob pattern=\"*.Orb\"/>"));
   EXPECT_THAT(File(Packages + "x-orby-orb.xml"), HasSubstr("<comment>ORB_File</comment>"));
-  EXPECT_THAT(platform.boxes.Texts().back(), HasSubstr("The Orb file extensions"));
 }
 
-TEST_F(FileAssociation, KeepsAnExtensionWithOddCharactersReadable) {
-  program.settings.FileExtension = "a&b<2;";
-
-  Associate();
+TEST_F(XdgFileAssociation, KeepsAnExtensionWithOddCharactersReadable) {
+  Associate("a&b<2;");
 
   EXPECT_THAT(File(Packages + "x-orby-a-b-2-.xml"), HasSubstr("<comment>A&amp;B&lt;2;_File</comment>"));
   EXPECT_THAT(File(Packages + "x-orby-a-b-2-.xml"), HasSubstr("<glob pattern=\"*.a&amp;b&lt;2;\"/>"));
   EXPECT_EQ(EntryLine("MimeType="), "MimeType=application/x-orby-a-b-2-;");
 }
 
-TEST_F(FileAssociation, KeepsLettersDigitsPlusMinusAndPointOfTheExtensionInTheNameOfItsType) {
-  program.settings.FileExtension = "AZaz09+-.";
-
-  Associate();
+TEST_F(XdgFileAssociation, KeepsLettersDigitsPlusMinusAndPointOfTheExtensionInTheNameOfItsType) {
+  Associate("AZaz09+-.");
 
   EXPECT_EQ(EntryLine("MimeType="), "MimeType=application/x-orby-azaz09+-.;");
 }
 
-TEST_F(FileAssociation, ReplacesTheNeighboursOfThoseCharactersByAMinus) {
-  program.settings.FileExtension = "x@[`{/:,";
-
-  Associate();
+TEST_F(XdgFileAssociation, ReplacesTheNeighboursOfThoseCharactersByAMinus) {
+  Associate("x@[`{/:,");
 
   EXPECT_EQ(EntryLine("MimeType="), "MimeType=application/x-orby-x-------;");
 }
 
-TEST_F(FileAssociation, SaysThatItIsDoneEvenWhenNothingCanBeWrittenOrRun) {
+TEST_F(XdgFileAssociation, TriesEveryStepWhenNothingCanBeWrittenOrRun) {
   platform.files.Fail(MemoryFiles::Step::Create, 70);
   platform.files.Fail(MemoryFiles::Step::MakeFolder, 75);
   platform.documents.opens = false;
 
   Associate();
 
-  EXPECT_THAT(platform.boxes.Texts().back(), HasSubstr("has been associated"));
   EXPECT_THAT(platform.documents.ran, SizeIs(3));
 }
 
-TEST_F(FileAssociation, SaysThatItIsDoneEvenWithoutAFolderForIt) {
+TEST_F(XdgFileAssociation, DoesNothingWithoutAFolderForIt) {
   platform.userFolders.data.reset();
 
   Associate();
 
-  EXPECT_THAT(platform.boxes.Texts().back(), HasSubstr("has been associated"));
   EXPECT_THAT(platform.files.files, ElementsAre(Key("/program/orby.svg")));
   EXPECT_THAT(platform.documents.ran, IsEmpty());
 }
@@ -182,12 +143,10 @@ class OddlyPlacedFiles : public MemoryFiles {
   std::string ProgramFolder() override { return "/opt/my \"tools\"/a$b`c\\d%e"; }
 };
 
-TEST_F(FileAssociation, QuotesThePathOfTheProgram) {
+TEST_F(XdgFileAssociation, QuotesThePathOfTheProgram) {
   OddlyPlacedFiles odd;
-  Program placed(platform.DoorsWith(odd));
-  platform.boxes.answers = {box_result::Yes};
 
-  AssociateFileExtension(placed);
+  Associate("ORB", odd);
 
   EXPECT_THAT(odd.files[Entry], HasSubstr("\nExec=\"/opt/my \\\\\"tools\\\\\"/a\\\\$b\\\\`c\\\\\\\\d%%e/orby\" %f\n"));
 }

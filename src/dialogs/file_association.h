@@ -5,8 +5,8 @@
 
 namespace orby {
 
-// Asks, and on Yes makes this program the one that the desktop opens files of the configured extension with. What
-// cannot be written or run is left out without a word: the user is told that it is done in any case.
+// Asks, and on Yes makes this program the one that the desktop opens files of the configured extension with. The user
+// is told that it is done in any case.
 void AssociateFileExtension(Program& program);
 
 }  // namespace orby

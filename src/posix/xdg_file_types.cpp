@@ -1,14 +1,13 @@
-#include "config/file_association.h"
+#include "posix/xdg_file_types.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "base/attempt.h"
 #include "base/paths.h"
 #include "base/text.h"
-#include "core/file_helpers.h"
-#include "core/messages.h"
 #include "platform/whole_file.h"
 
 namespace orby {
@@ -88,8 +87,9 @@ class FileType {
   std::string subtype_;
 };
 
-std::string EntryText(const std::string& programPath, const FileType& type, bool hasIcon) {
-  std::string text = "[Desktop Entry]\nType=Application\nName=" + std::string(ProgramTitle) +
+std::string EntryText(const std::string& programName, const std::string& programPath, const FileType& type,
+                      bool hasIcon) {
+  std::string text = "[Desktop Entry]\nType=Application\nName=" + programName +
                      "\nComment=Roof support design for underground coal mines\nExec=" + QuotedArgument(programPath) +
                      " %f\n";
   if (hasIcon) text.append("Icon=").append(IconName).append("\n");
@@ -114,40 +114,26 @@ class DesktopData {
   std::string folder_;
 };
 
-void Record(Program& program, const FileType& type, const std::string& dataFolder) {
-  FileSystem& files = program.platform.files;
-  DesktopData data(files, dataFolder);
+}  // namespace
+
+void XdgFileTypes::Associate(const std::string& extension, const std::string& programName) {
+  const std::optional<std::string> dataFolder = userFolders_.Data();
+  if (!dataFolder) return;
+  const FileType type(extension);
+  const std::string programFolder = WithSeparator(Trim(files_.ProgramFolder()));
+  DesktopData data(files_, *dataFolder);
   std::string icon;
-  const bool hasIcon = Succeeds([&] { icon = files.ReadFile(AppDirectory(program).append(IconFile)); });
+  const bool hasIcon = Succeeds([&] { icon = files_.ReadFile(programFolder + std::string(IconFile)); });
   if (hasIcon) {
     data.Write("icons/hicolor/scalable/apps", IconFile, icon);
     data.Write("icons/hicolor/scalable/mimetypes", type.IconFile(), icon);
   }
+  const std::string programPath = programFolder + std::string(ProgramFile);
   data.Write("mime/packages", type.DescriptionFile(), type.Description());
-  data.Write("applications", DesktopEntry, EntryText(AppDirectory(program).append(ProgramFile), type, hasIcon));
-  Documents& programs = program.platform.documents;
-  programs.RunToEnd("update-mime-database", {data.PathOf("mime")});
-  programs.RunToEnd("update-desktop-database", {data.PathOf("applications")});
-  programs.RunToEnd("xdg-mime", {"default", std::string(DesktopEntry), type.Name()});
-}
-
-}  // namespace
-
-void AssociateFileExtension(Program& program) {
-  const std::string extension = program.settings.FileExtension;
-  const int answer = ShowMessage(program,
-                                 "This operation may break an existing association of file extension " + extension +
-                                     " with other programs on this computer. Proceed?",
-                                 box_style::YesNo);
-  if (answer != box_result::Yes) return;
-  program.platform.windows.SetWaitCursor(true);
-  if (const auto folder = program.platform.userFolders.Data()) Record(program, FileType(extension), *folder);
-  program.platform.windows.SetWaitCursor(false);
-  const std::string outcome = "The " + extension + " file extensions has been associated to " + AppDirectory(program);
-  ShowMessage(program, outcome + std::string(LineEnd) + std::string(LineEnd) +
-                           "Note: if order for this function to be successfully completed the user needs to have "
-                           "access to the registry");
-  AddHistoryLine(program, outcome);
+  data.Write("applications", DesktopEntry, EntryText(programName, programPath, type, hasIcon));
+  programs_.RunToEnd("update-mime-database", {data.PathOf("mime")});
+  programs_.RunToEnd("update-desktop-database", {data.PathOf("applications")});
+  programs_.RunToEnd("xdg-mime", {"default", std::string(DesktopEntry), type.Name()});
 }
 
 }  // namespace orby

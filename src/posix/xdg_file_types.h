@@ -1,0 +1,24 @@
+// The types of files of a desktop that follows the freedesktop.org standards: what opens them, and their icon.
+#pragma once
+
+#include "platform/documents.h"
+#include "platform/file_system.h"
+#include "platform/file_types.h"
+
+namespace orby {
+
+class XdgFileTypes : public FileTypes {
+ public:
+  // Writes below the user's data folder; the programs are the tools of the desktop.
+  XdgFileTypes(FileSystem& files, UserFolders& userFolders, Documents& programs)
+      : files_(files), userFolders_(userFolders), programs_(programs) {}
+
+  void Associate(const std::string& extension, const std::string& programName) override;
+
+ private:
+  FileSystem& files_;
+  UserFolders& userFolders_;
+  Documents& programs_;
+};
+
+}  // namespace orby
