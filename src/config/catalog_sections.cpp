@@ -8,8 +8,8 @@
 
 #include "base/arithmetic.h"
 #include "base/number_text.h"
-#include "catalogs/catalogs.h"
 #include "config/ini_row.h"
+#include "design/catalogs.h"
 
 namespace orby {
 namespace {

@@ -6,9 +6,9 @@
 #include "base/arithmetic.h"
 #include "base/number_text.h"
 #include "base/text.h"
-#include "catalogs/catalogs.h"
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
+#include "design/catalogs.h"
 #include "dialogs/fault_texts.h"
 #include "dialogs/options_dialog.h"
 

@@ -4,13 +4,13 @@
 #include <utility>
 
 #include "base/text.h"
-#include "catalogs/catalogs.h"
 #include "config/catalog_sections.h"
 #include "config/settings_sections.h"
 #include "config/user_folders.h"
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
 #include "core/program_names.h"
+#include "design/catalogs.h"
 #include "files/new_project.h"
 
 namespace orby {

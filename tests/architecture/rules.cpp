@@ -15,24 +15,23 @@ struct Room {
   int floor;
 };
 
-constexpr std::array<Room, 18> Rooms = {{{"base", 0},
+constexpr std::array<Room, 17> Rooms = {{{"base", 0},
                                          {"platform", 1},
                                          {"controls", 1},
                                          {"design", 1},
-                                         {"core", 3},
                                          {"engine", 2},
-                                         {"catalogs", 4},
-                                         {"config", 5},
-                                         {"files", 5},
-                                         {"reports", 5},
-                                         {"graphs", 5},
-                                         {"dialogs", 6},
-                                         {"help", 6},
-                                         {"spreadsheet", 6},
-                                         {"shell", 7},
-                                         {"posix", 8},
-                                         {"qt", 8},
-                                         {"apps", 9}}};
+                                         {"core", 3},
+                                         {"config", 4},
+                                         {"files", 4},
+                                         {"reports", 4},
+                                         {"graphs", 4},
+                                         {"dialogs", 5},
+                                         {"help", 5},
+                                         {"spreadsheet", 5},
+                                         {"shell", 6},
+                                         {"posix", 7},
+                                         {"qt", 7},
+                                         {"apps", 8}}};
 
 constexpr long MostLines = 400;
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "catalogs/catalogs.h"
+#include "design/catalogs.h"
 #include "files/backups.h"
 #include "files/new_project.h"
 #include "support/recording_platform.h"

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "catalogs/catalogs.h"
 #include "config/ini_file.h"
 #include "core/program.h"
+#include "design/catalogs.h"
 #include "dialogs/options_dialog.h"
 #include "support/recording_platform.h"
 

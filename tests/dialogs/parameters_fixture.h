@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "base/number_text.h"
-#include "catalogs/catalogs.h"
+#include "design/catalogs.h"
 #include "dialogs/parameters_dialog.h"
 #include "files/new_project.h"
 #include "support/recording_platform.h"

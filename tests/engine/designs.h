@@ -1,7 +1,7 @@
 // What the tests of this folder share: the built-in lists and the design that a new project starts with.
 #pragma once
 
-#include "catalogs/catalogs.h"
+#include "design/catalogs.h"
 #include "design/design.h"
 #include "design/units.h"
 #include "engine/formulas.h"

@@ -10,8 +10,8 @@
 #include <algorithm>
 #include <exception>
 
-#include "catalogs/catalogs.h"
 #include "core/dialog_helpers.h"
+#include "design/catalogs.h"
 #include "files/new_project.h"
 #include "qt/boundary.h"
 

@@ -20,8 +20,8 @@
 #include <iostream>
 #include <iterator>
 
-#include "catalogs/catalogs.h"
 #include "core/dialog_helpers.h"
+#include "design/catalogs.h"
 #include "dialogs/backups_window.h"
 #include "dialogs/convert_dialog.h"
 #include "dialogs/cost_dialog.h"

@@ -1,7 +1,7 @@
 #include "reports/designs.h"
 
 #include "base/text.h"
-#include "catalogs/catalogs.h"
+#include "design/catalogs.h"
 #include "files/new_project.h"
 
 namespace orby::test {

@@ -2,7 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "catalogs/catalogs.h"
+#include "design/catalogs.h"
+#include "design/units.h"
 
 namespace orby::test {
 namespace {

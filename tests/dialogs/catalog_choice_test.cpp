@@ -1,7 +1,9 @@
 // Which lists and which bolt table a project is offered.
+#include "dialogs/catalog_choice.h"
+
 #include <gtest/gtest.h>
 
-#include "catalogs/catalogs.h"
+#include "design/catalogs.h"
 #include "support/recording_platform.h"
 
 namespace orby::test {

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "catalogs/catalogs.h"
+#include "design/catalogs.h"
 
 namespace orby::test {
 namespace {
