@@ -5,7 +5,7 @@
 #include "core/dialog_helpers.h"
 #include "core/help.h"
 #include "core/messages.h"
-#include "graphs/graph.h"
+#include "dialogs/graph.h"
 
 namespace orby {
 namespace {

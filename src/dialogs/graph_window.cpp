@@ -10,8 +10,8 @@
 #include "base/runtime_error.h"
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
+#include "dialogs/graph.h"
 #include "dialogs/graph_options_dialog.h"
-#include "graphs/graph.h"
 #include "reports/printing.h"
 
 namespace orby {

@@ -15,7 +15,7 @@ struct Room {
   int floor;
 };
 
-constexpr std::array<Room, 17> Rooms = {{{"base", 0},
+constexpr std::array<Room, 16> Rooms = {{{"base", 0},
                                          {"platform", 1},
                                          {"controls", 1},
                                          {"design", 1},
@@ -24,7 +24,6 @@ constexpr std::array<Room, 17> Rooms = {{{"base", 0},
                                          {"config", 4},
                                          {"files", 4},
                                          {"reports", 4},
-                                         {"graphs", 4},
                                          {"dialogs", 5},
                                          {"help", 5},
                                          {"spreadsheet", 5},

@@ -1,4 +1,4 @@
-#include "graphs/graph.h"
+#include "dialogs/graph.h"
 
 #include <gmock/gmock.h>
 
