@@ -35,6 +35,8 @@ TEST_F(House, NoFileIncludesItselfByWayOfOthers) { EXPECT_THAT(Circles(*tree), I
 
 TEST_F(House, OnlyTheToolkitsRoomAndTheProgramsKnowTheToolkit) { EXPECT_THAT(ToolkitOutside(*tree), IsEmpty()); }
 
+TEST_F(House, TestsMirrorTheRooms) { EXPECT_THAT(UnmirroredRooms(*tree), IsEmpty()); }
+
 TEST_F(House, NoWorkIsLeftOpenAndNoTestSwitchedOff) { EXPECT_THAT(StrayWords(*tree), IsEmpty()); }
 
 TEST_F(House, FilesKeepToOneSubject) { EXPECT_THAT(LongFiles(*tree), IsEmpty()); }

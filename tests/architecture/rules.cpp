@@ -32,6 +32,22 @@ constexpr std::array<Room, 16> Rooms = {{{"base", 0},
                                          {"qt", 7},
                                          {"apps", 8}}};
 
+// A folder of tests/ whose name is no room's.
+struct OtherTests {
+  std::string_view folder;
+  std::string_view room;  // that it tests all the same
+  std::string_view reason;
+};
+
+constexpr std::array<OtherTests, 6> OtherFolders = {{
+    {"support", "", "what the tests of several rooms share"},
+    {"data", "", "tables, projects and texts that tests read"},
+    {"architecture", "", "the rules of all rooms"},
+    {"gui", "qt", "the windows of every dialog at work, which is more than that room"},
+    {"e2e", "apps", "the finished programs, used from outside"},
+    {"monkey", "", "the whole program used at random"},
+}};
+
 constexpr long MostLines = 400;
 
 // Looked for without regard to case, at the start of a word. Written in halves, so that this file does not hold them
@@ -121,6 +137,16 @@ class CircleSearch {
   std::vector<std::string> circles;
 };
 
+// The folders below this one that hold files of this ending.
+std::set<std::string> FoldersWith(const Tree& tree, std::string_view top, std::string_view ending) {
+  std::set<std::string> folders;
+  for (const auto& file : tree) {
+    if (!file.path.starts_with(top) || !file.path.ends_with(ending)) continue;
+    if (const std::string folder = FolderOf(file.path.substr(top.size())); !folder.empty()) folders.insert(folder);
+  }
+  return folders;
+}
+
 std::string WrongArrow(const std::string& from, const std::string& to) {
   if (to.empty()) return "names no folder";
   if (!FloorOf(from)) return "lies in " + from + ", a folder without a floor";
@@ -158,6 +184,22 @@ std::vector<std::string> ToolkitOutside(const Tree& tree) {
         wrong.push_back(Place(file.path, include.line) + include.target);
       }
     }
+  }
+  return wrong;
+}
+
+std::vector<std::string> UnmirroredRooms(const Tree& tree) {
+  const auto rooms = FoldersWith(tree, "src/", "");
+  const auto tested = FoldersWith(tree, "tests/", "_test.cpp");
+  std::vector<std::string> wrong;
+  for (const auto& room : rooms) {
+    const auto* other = std::ranges::find(OtherFolders, room, &OtherTests::room);
+    const std::string tests(other == OtherFolders.end() ? room : other->folder);
+    if (!tested.contains(tests)) wrong.push_back("src/" + room + ": has no tests in tests/" + tests);
+  }
+  for (const auto& folder : FoldersWith(tree, "tests/", "")) {
+    const bool isOther = std::ranges::find(OtherFolders, folder, &OtherTests::folder) != OtherFolders.end();
+    if (!isOther && !rooms.contains(folder)) wrong.push_back("tests/" + folder + ": there is no room src/" + folder);
   }
   return wrong;
 }

@@ -17,6 +17,9 @@ std::vector<std::string> Circles(const Tree& tree);
 // Window toolkit headers outside src/qt and src/apps.
 std::vector<std::string> ToolkitOutside(const Tree& tree);
 
+// Rooms without a folder of tests of their name, and folders of tests without a room.
+std::vector<std::string> UnmirroredRooms(const Tree& tree);
+
 // Marks of work left open and of tests switched off.
 std::vector<std::string> StrayWords(const Tree& tree);
 

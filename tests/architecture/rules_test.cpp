@@ -110,6 +110,53 @@ TEST(Toolkit, IsWrongAnywhereElseHoweverItIsWritten) {
                                                 "src/shell/menu.cpp:1: qmenu.h", "src/base/text.h:1: qcustomplot.h"));
 }
 
+TEST(Mirror, RoomWithTestsOfItsNameIsFine) {
+  const Tree tree = {{"src/base/text.h", ""}, {"tests/base/text_test.cpp", ""}};
+
+  EXPECT_THAT(UnmirroredRooms(tree), IsEmpty());
+}
+
+TEST(Mirror, RoomWithoutTestsIsFound) {
+  const Tree tree = {{"src/base/text.h", ""}, {"src/cellar/wine.h", ""}, {"tests/base/text_test.cpp", ""}};
+
+  EXPECT_THAT(UnmirroredRooms(tree), ElementsAre("src/cellar: has no tests in tests/cellar"));
+}
+
+TEST(Mirror, FolderWithoutATestInItIsNoFolderOfTests) {
+  const Tree tree = {{"src/base/text.h", ""}, {"tests/base/CMakeLists.txt", ""}, {"tests/base/text_bench.h", ""}};
+
+  EXPECT_THAT(UnmirroredRooms(tree), ElementsAre("src/base: has no tests in tests/base"));
+}
+
+TEST(Mirror, TestsOfARoomThatIsGoneAreFound) {
+  const Tree tree = {{"tests/cellar/wine_test.cpp", ""}, {"tests/attic/CMakeLists.txt", ""}};
+
+  EXPECT_THAT(UnmirroredRooms(tree),
+              ElementsAre("tests/attic: there is no room src/attic", "tests/cellar: there is no room src/cellar"));
+}
+
+TEST(Mirror, ToolkitAndProgramsHaveTheirTestsUnderOtherNames) {
+  const Tree tested = {{"src/qt/window.h", ""},
+                       {"src/apps/orby/main.cpp", ""},
+                       {"tests/gui/window_test.cpp", ""},
+                       {"tests/e2e/examples_test.cpp", ""}};
+  const Tree untested = {{"src/qt/window.h", ""}, {"src/apps/orby/main.cpp", ""}};
+
+  EXPECT_THAT(UnmirroredRooms(tested), IsEmpty());
+  EXPECT_THAT(UnmirroredRooms(untested),
+              ElementsAre("src/apps: has no tests in tests/e2e", "src/qt: has no tests in tests/gui"));
+}
+
+TEST(Mirror, WhatTestsShareAndTestsOfTheWholeNeedNoRoom) {
+  const Tree tree = {{"tests/CMakeLists.txt", ""},
+                     {"tests/support/test_data.h", ""},
+                     {"tests/data/projects/panel.ORB", ""},
+                     {"tests/architecture/rules_test.cpp", ""},
+                     {"tests/monkey/main.cpp", ""}};
+
+  EXPECT_THAT(UnmirroredRooms(tree), IsEmpty());
+}
+
 TEST(Words, MarkOfOpenWorkIsFoundWithItsLine) {
   const Tree tree = {{"src/core/units.cpp",
                       "// Feet.\n// TO"
