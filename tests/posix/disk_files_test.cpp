@@ -1,7 +1,7 @@
 #include "posix/disk_files.h"
 
 #include <fcntl.h>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 #include <stdlib.h>
 #include <sys/fsuid.h>
 #include <sys/stat.h>

@@ -1,7 +1,12 @@
 #include "dialogs/backups_window.h"
 
+#include <gmock/gmock.h>
+
+#include "design/catalogs.h"
 #include "files/backups.h"
-#include "main_window_fixture.h"
+#include "files/new_project.h"
+#include "files/project_file.h"
+#include "support/recording_platform.h"
 
 namespace orby::test {
 namespace {
@@ -13,24 +18,50 @@ using Step = MemoryFiles::Step;
 
 const std::string DataFolder = "/home/user/Documents/Orby/";
 const std::string Store = DataFolder + "Backups/";
+const std::string Panel3 = "/designs/panel3.orb";
+const std::string Panel4 = "/designs/panel4.orb";
 
-struct TheBackupsWindow : MainWindowTest {
+struct TheBackupsWindow : testing::Test {
   TheBackupsWindow() {
+    Begin(program);
     program.folders.ProgramData = DataFolder;
     program.settings.DataPath = "/designs/";
+    platform.files.files[Panel3] = DesignAt(725);
+    platform.files.files[Panel4] = DesignAt(980);
+  }
+
+  static void Begin(Program& program) {
+    SetBuiltInCatalogs(program.catalogs);
+    FileNew(program, true, true);
+  }
+
+  // The bytes of a project file with this depth of cover.
+  std::string DesignAt(Single depth) {
+    Program other(platform.Doors());
+    Begin(other);
+    other.WorkParms.Place.DepthofCover = depth;
+    return ProjectFileBytes(other);
+  }
+
+  void OpenProject(const std::string& path) {
+    program.CurrentFile = path;
+    bool isRead = false;
+    FileOpen(program, isRead);
+    ASSERT_TRUE(isRead);
   }
 
   // An overwritten file of panel 4 and, newer, unsaved changes of panel 3.
   void KeepTwo() {
     KeepBackup(program, Panel4, DesignAt(980), BackupReason::Overwritten);
-    OpenByDialog(Panel3);
+    OpenProject(Panel3);
     program.WorkParms.Place.DepthofCover = 800;
     program.ProjectTitle = "Belt entry";
     program.WorkParms.Primary.Options = 1;
     KeepDropped(program, CommittedProject(program), BackupReason::Dropped);
-    window.mnuFileItem.ClickItem(file_item::New);
-    platform.boxes.shown.clear();
+    FileNew(program, true, true);
   }
+
+  const std::string& FileAt(const std::string& path) { return platform.files.files.at(path); }
 
   std::vector<std::string> Row(int row) {
     std::vector<std::string> texts;
@@ -38,14 +69,8 @@ struct TheBackupsWindow : MainWindowTest {
     return texts;
   }
 
-  // Opens the window from the menu, and this is what the user does in it.
-  void UseFromMenu(const std::function<void(BackupsWindow&)>& act) {
-    platform.windows.onModal = [&](Form& form) {
-      if (auto* shown = dynamic_cast<BackupsWindow*>(&form)) act(*shown);
-    };
-    window.mnuUtilItem.ClickItem(util_item::Backups);
-  }
-
+  RecordingPlatform platform;
+  Program program{platform.Doors()};
   BackupsWindow backups{program};
 };
 
@@ -146,82 +171,6 @@ TEST_F(TheBackupsWindow, NamesTheReasonOfADamagedEntryNotKnown) {
 
 // ---- the ways back --------------------------------------------------------------------------------------------------
 
-TEST_F(TheBackupsWindow, OpensOneAsAnUnsavedProjectUnderItsOldName) {
-  KeepTwo();
-
-  UseFromMenu([](BackupsWindow& shown) { shown.cmdOpen.Press(); });
-
-  EXPECT_EQ(program.CurrentFile, Panel3);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 800);
-  EXPECT_EQ(program.ProjectTitle, "Belt entry");
-  EXPECT_FALSE(program.FileSaved);
-  EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb*");
-  EXPECT_TRUE(Exists(RecoveryPath)) << "it is unsaved work";
-  EXPECT_THAT(platform.boxes.shown, IsEmpty());
-}
-
-TEST_F(TheBackupsWindow, OpensAnOverwrittenFileToo) {
-  KeepTwo();
-
-  UseFromMenu([](BackupsWindow& shown) {
-    shown.grdBackups.SetRow(2);
-    shown.cmdOpen.Press();
-  });
-
-  EXPECT_EQ(program.CurrentFile, Panel4);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 980);
-  EXPECT_FALSE(program.FileSaved);
-  EXPECT_FALSE(program.FileEmpty);
-}
-
-TEST_F(TheBackupsWindow, OpensAFileOfUnknownFolderAsOneOfTheDataFolder) {
-  KeepTwo();
-  platform.files.files.erase(Store + "2031-03-09 14.05.07 00001.about");
-
-  UseFromMenu([](BackupsWindow& shown) {
-    shown.grdBackups.SetRow(2);
-    shown.cmdOpen.Press();
-  });
-
-  EXPECT_EQ(program.CurrentFile, Panel4);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 980);
-}
-
-TEST_F(TheBackupsWindow, AsksForTheUnsavedChangesOfThePresentProjectBeforeItOpensOne) {
-  KeepTwo();
-  OpenByDialog(Panel4);
-  program.WorkParms.Place.DepthofCover = 1010;
-  program.FileSaved = false;
-  platform.boxes.answers = {box_result::No};
-
-  UseFromMenu([](BackupsWindow& shown) { shown.cmdOpen.Press(); });
-
-  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Save changes to: /designs/panel4.orb?"));
-  EXPECT_EQ(program.CurrentFile, Panel3);
-  EXPECT_EQ(ListBackups(program).front().Project, Panel4) << "what was not saved is kept in its turn";
-}
-
-TEST_F(TheBackupsWindow, KeepsThePresentProjectWhenItsChangesCannotBeSaved) {
-  KeepTwo();
-  program.FileSaved = false;
-  platform.boxes.answers = {box_result::Yes};
-
-  UseFromMenu([](BackupsWindow& shown) { shown.cmdOpen.Press(); });
-
-  EXPECT_EQ(program.CurrentFile, "Untitled");
-  EXPECT_FALSE(program.FileSaved);
-}
-
-TEST_F(TheBackupsWindow, ChangesNothingWhenItIsClosed) {
-  KeepTwo();
-  OpenByDialog(Panel4);
-
-  UseFromMenu([](BackupsWindow& shown) { shown.Command1.Press(); });
-
-  EXPECT_EQ(program.CurrentFile, Panel4);
-  EXPECT_TRUE(program.FileSaved);
-}
-
 TEST_F(TheBackupsWindow, SavesOneUnderTheNameThatTheUserGives) {
   KeepTwo();
   backups.Open();
@@ -278,7 +227,7 @@ TEST_F(TheBackupsWindow, PutsBackTheFileThatItCannotSaveOver) {
 
 TEST_F(TheBackupsWindow, DoesNotTakeTheFileThatItSavesForTheOneOfTheOpenProject) {
   KeepTwo();
-  OpenByDialog(Panel3);
+  OpenProject(Panel3);
   backups.Open();
   platform.fileDialogs.answers = {"/designs/old panel.orb"};
 
@@ -303,7 +252,7 @@ struct SpoilingBackupsWindow : TheBackupsWindow {
 
 TEST_F(SpoilingBackupsWindow, HoldsTheOldBytesOfAFileThatItCouldNotPutBack) {
   KeepTwo();
-  OpenByDialog(Panel4);
+  OpenProject(Panel4);
 
   SaveOverAndFail(Panel3, 2);
 
@@ -314,7 +263,7 @@ TEST_F(SpoilingBackupsWindow, HoldsTheOldBytesOfAFileThatItCouldNotPutBack) {
 
 TEST_F(SpoilingBackupsWindow, MendsTheFileOfTheOpenProjectThatASaveHadSpoilt) {
   KeepTwo();
-  OpenByDialog(Panel3);
+  OpenProject(Panel3);
   program.LastFile.IsSpoilt = true;
   backups.Open();
   backups.grdBackups.SetRow(backups.grdBackups.Rows() - 1);

@@ -1,0 +1,119 @@
+// The way from the menu to the backups and back with a project.
+#include "dialogs/backups_window.h"
+#include "files/backups.h"
+#include "main_window_fixture.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const std::string DataFolder = "/home/user/Documents/Orby/";
+const std::string Store = DataFolder + "Backups/";
+
+struct TheBackupsCommand : MainWindowTest {
+  TheBackupsCommand() {
+    program.folders.ProgramData = DataFolder;
+    program.settings.DataPath = "/designs/";
+  }
+
+  // An overwritten file of panel 4 and, newer, unsaved changes of panel 3.
+  void KeepTwo() {
+    KeepBackup(program, Panel4, DesignAt(980), BackupReason::Overwritten);
+    OpenByDialog(Panel3);
+    program.WorkParms.Place.DepthofCover = 800;
+    program.ProjectTitle = "Belt entry";
+    program.WorkParms.Primary.Options = 1;
+    KeepDropped(program, CommittedProject(program), BackupReason::Dropped);
+    window.mnuFileItem.ClickItem(file_item::New);
+    platform.boxes.shown.clear();
+  }
+
+  // Opens the window from the menu, and this is what the user does in it.
+  void UseFromMenu(const std::function<void(BackupsWindow&)>& act) {
+    platform.windows.onModal = [&](Form& form) {
+      if (auto* shown = dynamic_cast<BackupsWindow*>(&form)) act(*shown);
+    };
+    window.mnuUtilItem.ClickItem(util_item::Backups);
+  }
+};
+
+TEST_F(TheBackupsCommand, OpensOneAsAnUnsavedProjectUnderItsOldName) {
+  KeepTwo();
+
+  UseFromMenu([](BackupsWindow& shown) { shown.cmdOpen.Press(); });
+
+  EXPECT_EQ(program.CurrentFile, Panel3);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 800);
+  EXPECT_EQ(program.ProjectTitle, "Belt entry");
+  EXPECT_FALSE(program.FileSaved);
+  EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb*");
+  EXPECT_TRUE(Exists(RecoveryPath)) << "it is unsaved work";
+  EXPECT_THAT(platform.boxes.shown, IsEmpty());
+}
+
+TEST_F(TheBackupsCommand, OpensAnOverwrittenFileToo) {
+  KeepTwo();
+
+  UseFromMenu([](BackupsWindow& shown) {
+    shown.grdBackups.SetRow(2);
+    shown.cmdOpen.Press();
+  });
+
+  EXPECT_EQ(program.CurrentFile, Panel4);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 980);
+  EXPECT_FALSE(program.FileSaved);
+  EXPECT_FALSE(program.FileEmpty);
+}
+
+TEST_F(TheBackupsCommand, OpensAFileOfUnknownFolderAsOneOfTheDataFolder) {
+  KeepTwo();
+  platform.files.files.erase(Store + "2031-03-09 14.05.07 00001.about");
+
+  UseFromMenu([](BackupsWindow& shown) {
+    shown.grdBackups.SetRow(2);
+    shown.cmdOpen.Press();
+  });
+
+  EXPECT_EQ(program.CurrentFile, Panel4);
+  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 980);
+}
+
+TEST_F(TheBackupsCommand, AsksForTheUnsavedChangesOfThePresentProjectBeforeItOpensOne) {
+  KeepTwo();
+  OpenByDialog(Panel4);
+  program.WorkParms.Place.DepthofCover = 1010;
+  program.FileSaved = false;
+  platform.boxes.answers = {box_result::No};
+
+  UseFromMenu([](BackupsWindow& shown) { shown.cmdOpen.Press(); });
+
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Save changes to: /designs/panel4.orb?"));
+  EXPECT_EQ(program.CurrentFile, Panel3);
+  EXPECT_EQ(ListBackups(program).front().Project, Panel4) << "what was not saved is kept in its turn";
+}
+
+TEST_F(TheBackupsCommand, KeepsThePresentProjectWhenItsChangesCannotBeSaved) {
+  KeepTwo();
+  program.FileSaved = false;
+  platform.boxes.answers = {box_result::Yes};
+
+  UseFromMenu([](BackupsWindow& shown) { shown.cmdOpen.Press(); });
+
+  EXPECT_EQ(program.CurrentFile, "Untitled");
+  EXPECT_FALSE(program.FileSaved);
+}
+
+TEST_F(TheBackupsCommand, ChangesNothingWhenItIsClosed) {
+  KeepTwo();
+  OpenByDialog(Panel4);
+
+  UseFromMenu([](BackupsWindow& shown) { shown.Command1.Press(); });
+
+  EXPECT_EQ(program.CurrentFile, Panel4);
+  EXPECT_TRUE(program.FileSaved);
+}
+
+}  // namespace
+}  // namespace orby::test
