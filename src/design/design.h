@@ -6,6 +6,7 @@
 #pragma once
 
 #include <array>
+#include <limits>
 #include <string>
 
 #include "base/types.h"
@@ -13,9 +14,13 @@
 
 namespace orby {
 
+// In a design that was typed: a number that no Single holds.
+inline constexpr Single Unfit = std::numeric_limits<Single>::quiet_NaN();
+constexpr bool IsUnfit(Single value) { return value != value; }
+
 // Geology and layout.
 struct Site {
-  Integer CMRR = 0;  // Coal Mine Roof Rating, 0..100
+  Single CMRR = 0;  // Coal Mine Roof Rating, 0..100; a whole number once it is committed
   Integer CMRRRegionIndex = 0;
   Integer CMRRRockTypeIndex = 0;
   Integer CMRRManual = 0;  // 1: the rating is typed, 0: it comes from the estimator

@@ -10,7 +10,7 @@
 #include "core/dates.h"
 #include "core/messages.h"
 #include "core/shared_texts.h"
-#include "engine/primary_support.h"
+#include "engine/analysis.h"
 #include "files/kept_project.h"
 #include "files/overwritten_file.h"
 #include "files/project_save.h"
@@ -37,10 +37,8 @@ std::string Named(const Backup& entry) {
 }
 
 // With one decimal; "--" where there is none or it cannot be computed.
-template <class Compute>
-std::string OneDecimal(const Compute& compute) {
-  const std::optional<Single> figure = OrNothing(compute);
-  return figure ? FormatNumber(*figure, "0.0") : std::string(NoResult);
+std::string OneDecimal(const Computed<std::optional<Single>>& figure) {
+  return figure.IsThere() && figure.Value() ? FormatNumber(*figure.Value(), "0.0") : std::string(NoResult);
 }
 
 // The title as the user typed it: opening a file shifts its header.
@@ -53,22 +51,6 @@ std::string TypedTitle(const UnsavedProject& project) {
 std::string PathOf(const Program& program, const Backup& entry) {
   const bool hasFolder = NameBehindSeparator(entry.Project).size() < entry.Project.size();
   return hasFolder ? entry.Project : WithSeparator(program.settings.DataPath) + entry.Project;
-}
-
-std::optional<Single> SuggestedFigure(const UnsavedProject& project) {
-  const Design& design = project.WorkParms;
-  const auto live = SuggestLive({design.Primary.StabilityFactor, static_cast<Single>(design.Place.CMRR),
-                                 design.Place.DepthofCover, design.Place.ActualSpanDiagonals, design.Place.EntryWidth},
-                                project.WorkParms.Units);
-  return live ? std::optional(live->SugPSUP) : std::nullopt;
-}
-
-std::optional<Single> ActualFigure(const UnsavedProject& project, const Catalogs& catalogs) {
-  const Design& design = project.WorkParms;
-  const Bolt bolt = SelectedBolt(design.Primary);
-  return ActualLive({design.Primary.Length, design.Primary.BoltsperRow, bolt.Diameter, bolt.Grade,
-                     design.Primary.RowSpacing, design.Place.EntryWidth},
-                    project.WorkParms.Units, {project.WorkParms.Basis, catalogs});
 }
 
 }  // namespace
@@ -141,8 +123,8 @@ void BackupsWindow::ShowProject(const UnsavedProject& project) {
   txtCMRR.SetText(NumberText(design.Place.CMRR));
   txtDepthofCover.SetText(NumberText(design.Place.DepthofCover) + length);
   txtEntryWidth.SetText(NumberText(design.Place.EntryWidth) + length);
-  txtSugPSUP.SetText(OneDecimal([&] { return SuggestedFigure(project); }));
-  txtActualPSUP.SetText(OneDecimal([&] { return ActualFigure(project, program_.catalogs); }));
+  txtSugPSUP.SetText(OneDecimal(LiveSuggestedPSUP(design)));
+  txtActualPSUP.SetText(OneDecimal(LivePSUP(design, program_.catalogs)));
 }
 
 void BackupsWindow::ClearProject() {

@@ -6,13 +6,15 @@
 
 #include <array>
 #include <initializer_list>
-#include <optional>
 
-#include "base/number_text.h"
 #include "core/program.h"
 #include "dialogs/parameters_controls.h"
+#include "engine/analysis.h"
 
 namespace orby {
+
+// The parts of a design that the refreshes read.
+enum class DesignPart { Place, Primary, Entries, Intersections };
 
 class ParametersDialog : public ParametersControls {
  public:
@@ -98,32 +100,15 @@ class ParametersDialog : public ParametersControls {
   bool MayCommit();
   void TellRefused(const Control& field);
 
-  RockInputs TypedEntryRock() const;
-  RockInputs TypedIntersectionRock(Single unitWeight) const;
-  Single TypedCableCapacity(const CableControls& cable) const;
-
-  // What a support system gives under a rock load; nothing when it is passed over. Throw what the engine throws.
-  using SystemRule = std::optional<SupportResult> (ParametersDialog::*)(Single rockLoad) const;
-  std::optional<SupportResult> CableInEntry(Single rockLoad) const;
-  std::optional<SupportResult> TrussInEntry(Single rockLoad) const;
-  std::optional<SupportResult> RoofBoltInEntry(Single rockLoad) const;
-  std::optional<SupportResult> StandingInEntry(Single rockLoad) const;
-  std::optional<SupportResult> CableInIntersection(Single rockLoad) const;
-  std::optional<SupportResult> TrussInIntersection(Single rockLoad) const;
-  std::optional<SupportResult> RoofBoltInIntersection(Single rockLoad) const;
-  std::optional<SupportResult> StandingInIntersection(Single rockLoad) const;
-  struct SystemFigures;
-  // Shows the rock load, and what each system in use gives.
-  void ShowSystems(const OutputControls& outputs, const std::array<CheckBox, SystemCount>& boxes,
-                   const std::array<SystemRule, SystemCount>& rules, Single rockLoad,
-                   const NumberPattern& pattern) const;
-
-  GradeBasis Basis() const { return {program_.WorkParms.Basis, program_.catalogs}; }
+  // Reads the fields of the part into the typed design, as the live results need them: each set of bolts and of cables
+  // from its own tab. A number that no Single holds becomes Unfit.
+  void ReadPart(DesignPart part);
 
   // Asks the estimator for a roof rating.
   void Estimate();
 
   Program& program_;
+  Design typed_;
 };
 
 }  // namespace orby

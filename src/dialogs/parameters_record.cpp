@@ -1,4 +1,7 @@
 // The parameters dialog and the design: filling the fields, and reading them back.
+#include <array>
+#include <span>
+
 #include "base/arithmetic.h"
 #include "base/attempt.h"
 #include "base/number_text.h"
@@ -16,15 +19,21 @@ struct NumberField {
 
 using C = ParametersControls;
 
-constexpr NumberField NumberFields[] = {
+constexpr NumberField PlaceFields[] = {
     {&C::txtDepthofCover, [](auto& d) { return &d.Place.DepthofCover; }},
     {&C::txtUnitWeight, [](auto& d) { return &d.Place.UnitWeight; }},
     {&C::txtActualSpanDiagonals, [](auto& d) { return &d.Place.ActualSpanDiagonals; }},
     {&C::txtEntryWidth, [](auto& d) { return &d.Place.EntryWidth; }},
+};
+
+constexpr NumberField PrimaryFields[] = {
     {&C::txtStabilityFactor, [](auto& d) { return &d.Primary.StabilityFactor; }},
     {&C::txtBoltLengthPrimary, [](auto& d) { return &d.Primary.Length; }},
     {&C::txtBoltsperRowPrimary, [](auto& d) { return &d.Primary.BoltsperRow; }},
     {&C::txtRowSpacingPrimary, [](auto& d) { return &d.Primary.RowSpacing; }},
+};
+
+constexpr NumberField EntryFields[] = {
     {&C::txtRockLoadHeight, [](auto& d) { return &d.Entries.RockLoadHeight; }},
     {&C::txtRockFallAngle, [](auto& d) { return &d.Entries.RockFallAngle; }},
     {&C::txtCableLengthSecEntry, [](auto& d) { return &d.Entries.Cable.Length; }},
@@ -39,6 +48,9 @@ constexpr NumberField NumberFields[] = {
     {&C::txtRowSpacingSecEntry, [](auto& d) { return &d.Entries.Bolt.RowSpacing; }},
     {&C::txtNumberSupPerRowSecEntry, [](auto& d) { return &d.Entries.Standing.NumberPerRow; }},
     {&C::txtSupportRowSpacingSecEntry, [](auto& d) { return &d.Entries.Standing.RowSpacing; }},
+};
+
+constexpr NumberField IntersectionFields[] = {
     {&C::txtRockLoadHeightInter, [](auto& d) { return &d.Intersections.RockLoadHeight; }},
     {&C::txtRockFallAngleEntry, [](auto& d) { return &d.Intersections.RockFallAngle; }},
     {&C::txtRockFallAngleXcut, [](auto& d) { return &d.Intersections.RockFallAngleXcut; }},
@@ -52,6 +64,10 @@ constexpr NumberField NumberFields[] = {
     {&C::txtBoltNumberSecInter, [](auto& d) { return &d.Intersections.Bolt.Number; }},
     {&C::txtSupportNumberSecInter, [](auto& d) { return &d.Intersections.Standing.Number; }},
 };
+
+// By DesignPart.
+constexpr std::array<std::span<const NumberField>, 4> NumberFields{PlaceFields, PrimaryFields, EntryFields,
+                                                                   IntersectionFields};
 
 struct FlagField {
   CheckBox ParametersControls::*control;
@@ -70,11 +86,12 @@ class NumberReader {
  public:
   void Read(Single& field, const TextBox& box) { Read(field, box, box.Text()); }
   void Read(Single& field, const Combo& combo) { Read(field, combo, combo.Text()); }
+  // A record keeps the rating as a whole number of 16 bits.
+  void ReadRating(Single& field, const TextBox& box) {
+    Keep(box, [&] { field = ToInteger(box.Value()); });
+  }
   void Read(Single& field, const Control& control, std::string_view text) {
     Keep(control, [&] { field = ToSingle(TextValue(text)); });
-  }
-  void Read(Integer& field, const TextBox& box) {
-    Keep(box, [&] { field = ToInteger(box.Value()); });
   }
   const Control* Refused() const { return refused_; }
 
@@ -171,14 +188,73 @@ void StoreOutputs(SecondarySupport& support, NumberReader& reader, const OutputC
   }
 }
 
+// ---- as typed, for the live results ---------------------------------------------------------------------------------
+
+Single Typed(std::string_view text) {
+  return OrNothing([text] { return std::optional(ToSingle(TextValue(text))); }).value_or(Unfit);
+}
+Single Typed(const TextBox& box) { return Typed(box.Text()); }
+Single Typed(const Combo& combo) { return Typed(combo.Text()); }
+
+void ReadBolt(BoltSelection& set, const BoltControls& bolt) {
+  set.Options = GetArrayIndex(bolt.Options);
+  if (set.Options == 0) {
+    set.TableDiameter = Typed(bolt.Table.Cell(bolt.Table.Row(), BoltColumn::Diameter));
+    set.TableGrade = Typed(bolt.Table.Cell(bolt.Table.Row(), BoltColumn::Grade));
+    return;
+  }
+  set.DiameterMode = GetArrayIndex(bolt.DiameterMode);
+  set.DiameterStd = Typed(bolt.DiameterStd);
+  set.DiameterManual = Typed(bolt.DiameterManual);
+  set.GradeMode = GetArrayIndex(bolt.GradeMode);
+  set.GradeStd = Typed(bolt.GradeStd);
+  set.GradeManual = Typed(bolt.GradeManual);
+}
+
+void ReadCable(CableSelection& set, const CableControls& cable) {
+  set.CapMode = GetArrayIndex(cable.CapMode);
+  set.Capacity = GetArrayIndex(cable.Capacity);
+  set.Diam = Typed(cable.Diam);
+  set.CapacityStd = Typed(cable.CapacityStd);
+  set.CapacityManual = Typed(cable.CapacityManual);
+}
+
 }  // namespace
+
+void ParametersDialog::ReadPart(DesignPart part) {
+  for (const auto& [control, field] : NumberFields[static_cast<std::size_t>(part)]) {
+    field.In(typed_) = Typed(this->*control);
+  }
+  switch (part) {
+    case DesignPart::Place:
+      typed_.Units = Units();
+      typed_.Basis = program_.WorkParms.Basis;
+      typed_.Place.CMRR = Typed(txtCMRR);
+      break;
+    case DesignPart::Primary: ReadBolt(typed_.Primary, PrimaryBoltControls); break;
+    case DesignPart::Entries:
+      ReadBolt(typed_.Entries.Bolt, EntryBoltControls);
+      ReadCable(typed_.Entries.Cable, EntryCableControls);
+      typed_.Entries.Standing.Capacity = Typed(txtSupportCapSecEntry);
+      StoreUse(typed_.Entries, chkSecEntries);
+      break;
+    case DesignPart::Intersections:
+      ReadBolt(typed_.Intersections.Bolt, InterBoltControls);
+      ReadCable(typed_.Intersections.Cable, InterCableControls);
+      typed_.Intersections.Standing.Capacity = Typed(txtSupportCapSecInter);
+      StoreUse(typed_.Intersections, chkSecInter);
+      break;
+  }
+}
 
 void ParametersDialog::InitParameters() {
   const Design& design = program_.WorkParms;
   txtCMRR.SetText(NumberText(design.Place.CMRR));
   program_.estimator.EstimatorRegion = design.Place.CMRRRegionIndex;
   program_.estimator.EstimatorRockType = design.Place.CMRRRockTypeIndex;
-  for (const auto& [control, field] : NumberFields) (this->*control).SetText(NumberText(field.In(design)));
+  for (const auto& fields : NumberFields) {
+    for (const auto& [control, field] : fields) (this->*control).SetText(NumberText(field.In(design)));
+  }
   for (const auto& [control, field] : FlagFields) (this->*control).SetValue(field.In(design));
   ApplyManualRating();
   LoadBolt(program_, design.Primary, PrimaryBoltControls);
@@ -198,10 +274,12 @@ const Control* ParametersDialog::StoreFields(Design& design, const BoltControls&
   NumberReader reader;
   design.Units = Units();
   design.Basis = program_.WorkParms.Basis;
-  reader.Read(design.Place.CMRR, txtCMRR);
+  reader.ReadRating(design.Place.CMRR, txtCMRR);
   design.Place.CMRRRegionIndex = program_.estimator.EstimatorRegion;
   design.Place.CMRRRockTypeIndex = program_.estimator.EstimatorRockType;
-  for (const auto& [control, field] : NumberFields) reader.Read(field.In(design), this->*control);
+  for (const auto& fields : NumberFields) {
+    for (const auto& [control, field] : fields) reader.Read(field.In(design), this->*control);
+  }
   for (const auto& [control, field] : FlagFields) field.In(design) = (this->*control).Value();
   StoreBoltSource(design.Primary, reader, PrimaryBoltControls);
   StoreBoltSource(design.Entries.Bolt, reader, EntryBoltControls);

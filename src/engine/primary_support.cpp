@@ -4,7 +4,7 @@
 
 namespace orby {
 
-Suggestion SuggestSupport(const WorkingSite& site, UnitSystem units) {
+Suggestion SuggestSupport(const SiteInputs& site, UnitSystem units) {
   Suggestion suggestion;
   suggestion.SuggestedSpan = SuggestedSumDiagonals(site.CMRR);
   suggestion.MinSpan = MinimumSumDiagonals(site.Width, units);
@@ -20,24 +20,46 @@ Bolt InEnglishUnits(const Bolt& bolt, UnitSystem units) {
 
 Single InFeet(Single length, UnitSystem units) { return units == Metric ? ToSingle(length * FeetPerMetre) : length; }
 
-std::optional<LiveSuggestion> SuggestLive(const WorkingSite& typed, UnitSystem units) {
+SuggestedFigures Suggest(const SiteInputs& site, UnitSystem units) {
+  SiteInputs working = site;
+  working.Depth = InFeet(site.Depth, units);
+  working.Span = InFeet(site.Span, units);
+  working.Width = InFeet(site.Width, units);
+  const Suggestion suggestion = SuggestSupport(working, units);
+  const auto shown = [units](Single feet) { return units == Metric ? ToSingle(feet / FeetPerMetre) : feet; };
+  return {shown(suggestion.SuggestedSpan), suggestion.SugPSUP, shown(suggestion.SugLength),
+          suggestion.SpanIsTooLarge(working), suggestion.SpanAndWidthMismatch(working)};
+}
+
+LengthVerdict JudgeLength(Single actual, Single suggested, UnitSystem units) {
+  constexpr Single MostFeet = 2;
+  constexpr Single MostMetres = 0.6F;
+  if (actual < suggested) return LengthVerdict::TooShort;
+  const double difference = static_cast<double>(actual) - suggested;
+  return difference > (units == Metric ? MostMetres : MostFeet) ? LengthVerdict::TooLong : LengthVerdict::Fine;
+}
+
+PsupVerdict JudgePsup(Single suggested, Single actual) {
+  if (suggested < SmallestPsup) return PsupVerdict::SkinControl;
+  return actual < suggested ? PsupVerdict::TooLow : PsupVerdict::Fine;
+}
+
+bool FailsASTM(const Bolt& bolt, UnitSystem units) {
+  constexpr Single SmallestTons = 8.45F;
+  constexpr Single SmallestKilonewtons = 83.36F;
+  return BoltCapacityCheck(bolt.Grade, bolt.Diameter, units) < (units == Metric ? SmallestKilonewtons : SmallestTons);
+}
+
+std::optional<SuggestedFigures> SuggestLive(const SiteInputs& typed, UnitSystem units) {
   if (typed.StabilityFactor < 1) return std::nullopt;
   if (typed.CMRR < 0 || typed.CMRR > 100) return std::nullopt;
   if (typed.Width <= 0) return std::nullopt;
   if (typed.Span <= typed.Width) return std::nullopt;
   if (typed.Depth < 0) return std::nullopt;
 
-  WorkingSite site = typed;
-  site.Depth = InFeet(typed.Depth, units);
-  site.Span = InFeet(typed.Span, units);
-  site.Width = InFeet(typed.Width, units);
-  const Suggestion suggestion = SuggestSupport(site, units);
-  if (units == Metric) {
-    return LiveSuggestion{ToSingle(suggestion.SuggestedSpan / FeetPerMetre), suggestion.SugPSUP,
-                          ToSingle(suggestion.SugLength / FeetPerMetre)};
-  }
-  return LiveSuggestion{suggestion.SuggestedSpan, suggestion.SugPSUP, suggestion.SugLength,
-                        suggestion.SpanIsTooLarge(site), suggestion.SpanAndWidthMismatch(site)};
+  SuggestedFigures figures = Suggest(typed, units);
+  if (units == Metric) figures.SpanIsTooLarge = figures.SpanAndWidthMismatch = false;
+  return figures;
 }
 
 std::optional<Single> ActualLive(const BoltPattern& typed, UnitSystem units, const GradeBasis& basis) {

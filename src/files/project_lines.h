@@ -26,6 +26,7 @@ enum class LineForm {
   Plain,   // a number as it is, or a text item
   Padded,  // a whole number with a place for its sign in front and a blank behind
   Whole,   // a text that takes its whole line, commas and quotes included
+  Rating,  // a Single that a record keeps as a whole number
 };
 
 struct ProjectLine {
@@ -47,6 +48,9 @@ constexpr ProjectLine Padded(std::string_view name, IntegerField field) {
 constexpr ProjectLine WholeLine(std::string_view name, TextField field) {
   return {name, field, field, Version102, LineForm::Whole};
 }
+constexpr ProjectLine Rating(std::string_view name, SingleField field) {
+  return {name, field, field, Version102, LineForm::Rating};
+}
 constexpr ProjectLine ReadElsewhere(std::string_view name, IntegerField field, IntegerField target) {
   return {name, field, target, Version102, LineForm::Plain};
 }
@@ -54,7 +58,7 @@ constexpr ProjectLine ReadElsewhere(std::string_view name, IntegerField field, I
 // The bolt descriptions are written raw but read as items: a comma in one moves every later line by one field. The mode
 // of the intersection's standing support comes back as the entry's. Files in use have both, so they stay.
 inline constexpr std::array Lines{
-    Item("roof rating", [](auto& d) { return &d.Place.CMRR; }),
+    Rating("roof rating", [](auto& d) { return &d.Place.CMRR; }),
     Item("rock type", [](auto& d) { return &d.Place.CMRRRockTypeIndex; }),
     Item("coal region", [](auto& d) { return &d.Place.CMRRRegionIndex; }),
     Item("source of the roof rating", [](auto& d) { return &d.Place.CMRRManual; }),

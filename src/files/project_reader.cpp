@@ -9,7 +9,7 @@ namespace {
 
 void ReadField(Design& design, const ProjectLine& line, ItemReader& reader) {
   if (const auto* single = std::get_if<SingleField>(&line.ReadInto)) {
-    single->In(design) = reader.ReadSingle();
+    single->In(design) = line.Form == LineForm::Rating ? reader.ReadInteger() : reader.ReadSingle();
   } else if (const auto* integer = std::get_if<IntegerField>(&line.ReadInto)) {
     integer->In(design) = reader.ReadInteger();
   } else {

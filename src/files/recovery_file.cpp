@@ -59,13 +59,14 @@ void ReadValue(UnsavedProject& project, const HeaderField& field, std::string_vi
   }
 }
 
-void ReadData(Design& design, const AnyField& field, std::string_view line) {
-  if (const auto* text = std::get_if<TextField>(&field)) {
-    text->In(design) = Unescaped(line);
-  } else if (const auto* single = std::get_if<SingleField>(&field)) {
-    single->In(design) = ToSingle(TextValue(line));
+void ReadData(Design& design, const ProjectLine& line, std::string_view text) {
+  if (const auto* field = std::get_if<TextField>(&line.Field)) {
+    field->In(design) = Unescaped(text);
+  } else if (const auto* single = std::get_if<SingleField>(&line.Field)) {
+    const double value = TextValue(text);
+    single->In(design) = line.Form == LineForm::Rating ? ToInteger(value) : ToSingle(value);
   } else {
-    std::get<IntegerField>(field).In(design) = ToInteger(TextValue(line));
+    std::get<IntegerField>(line.Field).In(design) = ToInteger(TextValue(text));
   }
 }
 
@@ -83,7 +84,7 @@ UnsavedProject ReadLines(std::string_view rest) {
     const std::string_view line = TakeLine(rest);
     ReadValue(project, header.Field, line.substr(line.find('=') + 1));
   }
-  for (const ProjectLine& line : ProjectLines) ReadData(project.WorkParms, line.Field, TakeLine(rest));
+  for (const ProjectLine& line : ProjectLines) ReadData(project.WorkParms, line, TakeLine(rest));
   return project;
 }
 

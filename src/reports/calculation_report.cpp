@@ -1,19 +1,19 @@
 #include "reports/calculation_report.h"
 
 #include <string_view>
+#include <utility>
 
 #include "reports/primary_report.h"
 #include "reports/report_text.h"
 #include "reports/secondary_report.h"
-#include "reports/working_values.h"
 
 namespace orby {
 namespace {
 
 constexpr std::string_view Heading = "[ORBY CALCULATIONS]";
 
-void SetPage(Program& program, ReportText& page) {
-  program.OutBuf[1] = page.Take();
+void SetPage(Program& program, std::string page) {
+  program.OutBuf[1] = std::move(page);
   program.LastPage = 1;
 }
 
@@ -23,22 +23,26 @@ ReportBasis BasisOf(const Program& program) {
 
 }  // namespace
 
+std::string CalculationReport(const RoofSupport& design, const Figures& figures) {
+  figures.WorkingNumbers.Value();
+  ReportText page(design.Units);
+  page.Line(Heading);
+  if (design.Primary.Analysed == 1) ReportPrimarySupport(page, design, figures);
+  if (design.Entries.Analysed == 1) ReportEntrySupport(page, design, figures);
+  if (design.Intersections.Analysed == 1) ReportIntersectionSupport(page, design, figures);
+  return page.Take();
+}
+
 void CalculationReport(Program& program) {
   const Design& design = program.WorkParms;
-  const WorkingValues working = BuildWorkingValues(program);
-  ReportText page(program.WorkParms.Units);
-  page.Line(Heading);
-  if (design.Primary.Analysed == 1) ReportPrimarySupport(page, program, working);
-  if (design.Entries.Analysed == 1) ReportEntrySupport(page, program, working);
-  if (design.Intersections.Analysed == 1) ReportIntersectionSupport(page, program, working);
-  SetPage(program, page);
+  SetPage(program, CalculationReport(design, Analyze(design, program.catalogs)));
 }
 
 void NoCalculationReport(Program& program) {
   ReportText page(program.WorkParms.Units);
   page.Line(Heading);
   page.Line("The results cannot be computed from these inputs.");
-  SetPage(program, page);
+  SetPage(program, page.Take());
 }
 
 void KeepShownResults(Program& program) { program.LastResults = {BasisOf(program), program.OutBuf[1]}; }

@@ -1,16 +1,21 @@
 // The second page of the report: what the design's analyses give, and what they warn of.
 #pragma once
 
+#include <string>
+
 #include "core/program.h"
+#include "engine/analysis.h"
 
 namespace orby {
 
-// Writes the page into program.OutBuf[1] from program.WorkParms, replacing what was there, and makes it the last page.
-// Primary support and the densities of secondary support in entries are computed here; rock loads, capacities and
-// stability factors of secondary support are printed as the dialog left them in the design.
-// There are no guards: the inputs are those that passed the dialog's checks. Throws RuntimeError 11 for a pattern
-// without row spacing or width, and for roof bolts in entries that have no cable bolts; RuntimeError 5 for a depth of
-// 0 or less under primary support.
+// The page of a design with these figures. Primary support and the densities of secondary support in entries are those
+// of the figures; rock loads, capacities and stability factors of secondary support are printed as the design has them.
+// There are no guards: the inputs are those that passed the dialog's checks. Throws the RuntimeError of the first
+// figure of the page that cannot be computed: 11 for a pattern without row spacing or width, and for roof bolts in
+// entries that have no cable bolts, 5 for a depth of 0 or less under primary support.
+std::string CalculationReport(const RoofSupport& design, const Figures& figures);
+
+// Makes the page of program.WorkParms program.OutBuf[1], replacing what was there, and the last page.
 void CalculationReport(Program& program);
 
 // Writes the page of a design whose calculations cannot be computed: the heading, and a line that says so.

@@ -9,29 +9,12 @@
 namespace orby {
 namespace {
 
-constexpr Single SmallestPsup = 3;
 constexpr NumberPattern LengthPattern = "#.0";
 constexpr NumberPattern OneDecimal = "0.0";
 
-// What the analysis gives, in the project's units, with the verdict on the span.
-struct PrimaryResults {
-  Single SuggestedSpan;
-  Single SuggestedLength;
-  Single SuggestedPsup;
-  bool SpanIsTooLarge;
-  bool SpanAndWidthMismatch;
-};
-
-PrimaryResults Analyse(const WorkingValues& working, UnitSystem units) {
-  const Suggestion suggestion = SuggestSupport(working.Conditions, units);
-  const auto shown = [units](Single feet) { return units == Metric ? ToSingle(feet / FeetPerMetre) : feet; };
-  return {shown(suggestion.SuggestedSpan), shown(suggestion.SugLength), suggestion.SugPSUP,
-          suggestion.SpanIsTooLarge(working.Conditions), suggestion.SpanAndWidthMismatch(working.Conditions)};
-}
-
 void WarningsLine(ReportText& page, bool several) { page.Line(several ? "[Warnings]" : WarningHeading); }
 
-void ReportSpan(ReportText& page, const Design& design, const PrimaryResults& results) {
+void ReportSpan(ReportText& page, const RoofSupport& design, const SuggestedFigures& results) {
   page.Line("[INTERSECTION SPAN INFORMATION]");
   page.Value("Suggested Sum of Diagonals", FormatNumber(results.SuggestedSpan, LengthPattern), unit_row::Length);
   page.Value("Actual Sum of Diagonals", FormatNumber(design.Place.ActualSpanDiagonals, LengthPattern),
@@ -51,20 +34,13 @@ void ReportSpan(ReportText& page, const Design& design, const PrimaryResults& re
   page.Line();
 }
 
-void ReportCapacity(ReportText& page, const Program& program, const BoltPattern& bolts) {
-  const bool yieldGrades = program.WorkParms.Basis == StrengthBasis::Yield;
-  const std::string_view label = yieldGrades ? "Actual Roof Bolt Yield Capacity" : "Actual Roof Bolt Ultimate Capacity";
-  if (program.WorkParms.Units == Metric) {
-    page.Value(label, FormatNumber(CapacityKN(bolts.Grade, bolts.Diameter), "0"), unit_row::Force);
-    return;
-  }
-  // English designs get the yield capacity under either label.
-  const Single kips = yieldGrades ? CapacityFromGrade(bolts.Grade, bolts.Diameter)
-                                  : YieldCapacity(bolts.Grade, bolts.Diameter, program.catalogs);
-  page.Value(label, FormatNumber(kips / 2, OneDecimal), unit_row::Force);
+void ReportCapacity(ReportText& page, const RoofSupport& design, Single capacity) {
+  const bool yieldGrades = design.Basis == StrengthBasis::Yield;
+  page.Value(yieldGrades ? "Actual Roof Bolt Yield Capacity" : "Actual Roof Bolt Ultimate Capacity",
+             FormatNumber(capacity, design.Units == Metric ? NumberPattern("0") : OneDecimal), unit_row::Force);
 }
 
-void ReportLength(ReportText& page, const Design& design, Single suggested) {
+void ReportLength(ReportText& page, const RoofSupport& design, Single suggested) {
   page.Value("Actual Roof Bolt Length", FormatNumber(design.Primary.Length, LengthPattern), unit_row::Length);
   page.Value("Suggested Minimum Roof Bolt Length", FormatNumber(suggested, LengthPattern), unit_row::Length);
 }
@@ -85,13 +61,12 @@ void ReportJudgement(ReportText& page, LengthVerdict length, bool failsASTM, Uni
   page.Line();
 }
 
-void ReportPsup(ReportText& page, Single suggested, Single actual) {
+void ReportPsup(ReportText& page, Single suggested, Single actual, PsupVerdict verdict) {
   constexpr Single MostWithoutSupplement = 12;
   const Single atLeastSkin = std::max(suggested, SmallestPsup);
   page.Line("[ORBY DESIGN]");
   page.Value("Suggested PSUP for this location", FormatNumber(atLeastSkin, OneDecimal));
   page.Value("Actual PSUP for this design", FormatNumber(actual, OneDecimal));
-  const PsupVerdict verdict = JudgePsup(suggested, actual);
   if (verdict == PsupVerdict::TooLow) page.Line(WarningHeading);
   page.Line(PsupMessage(verdict));
   page.Line();
@@ -101,19 +76,6 @@ void ReportPsup(ReportText& page, Single suggested, Single actual) {
 }
 
 }  // namespace
-
-LengthVerdict JudgeLength(Single actual, Single suggested, UnitSystem units) {
-  constexpr Single MostFeet = 2;
-  constexpr Single MostMetres = 0.6F;
-  if (actual < suggested) return LengthVerdict::TooShort;
-  const double difference = static_cast<double>(actual) - suggested;
-  return difference > (units == Metric ? MostMetres : MostFeet) ? LengthVerdict::TooLong : LengthVerdict::Fine;
-}
-
-PsupVerdict JudgePsup(Single suggested, Single actual) {
-  if (suggested < SmallestPsup) return PsupVerdict::SkinControl;
-  return actual < suggested ? PsupVerdict::TooLow : PsupVerdict::Fine;
-}
 
 std::string_view PsupMessage(PsupVerdict verdict) {
   switch (verdict) {
@@ -126,24 +88,18 @@ std::string_view PsupMessage(PsupVerdict verdict) {
   }
 }
 
-void ReportPrimarySupport(ReportText& page, const Program& program, const WorkingValues& working) {
-  const Design& design = program.WorkParms;
-  const BoltPattern& bolts = working.Primary;
-  const GradeBasis basis{program.WorkParms.Basis, program.catalogs};
-  const PrimaryResults results = Analyse(working, program.WorkParms.Units);
-  const Single actualPsup = ActualPSUP(bolts, basis);
-  const Single rdi = BoltRDI(bolts, basis);
-  const Single prsup = BoltPRSUP(bolts, basis);
+void ReportPrimarySupport(ReportText& page, const RoofSupport& design, const Figures& figures) {
+  const SuggestedFigures& suggested = figures.Suggested.Value();
+  const PrimaryFigures& primary = figures.Primary.Value();
 
-  ReportSpan(page, design, results);
+  ReportSpan(page, design, suggested);
   page.Line(PrimarySupportHeading);
-  ReportCapacity(page, program, bolts);
-  ReportLength(page, design, results.SuggestedLength);
-  ReportJudgement(page, JudgeLength(design.Primary.Length, results.SuggestedLength, program.WorkParms.Units),
-                  FailsASTM({bolts.Diameter, bolts.Grade}, program.WorkParms.Units), program.WorkParms.Units);
-  ReportPsup(page, results.SuggestedPsup, actualPsup);
-  page.Value("Reinforcement Density Index (RDI)", FormatNumber(rdi, OneDecimal));
-  page.Value("PRSUP", FormatNumber(prsup, OneDecimal));
+  ReportCapacity(page, design, primary.Capacity);
+  ReportLength(page, design, suggested.SugLength);
+  ReportJudgement(page, primary.Length, primary.FailsASTM, design.Units);
+  ReportPsup(page, suggested.SugPSUP, primary.ActualPSUP, primary.Psup);
+  page.Value("Reinforcement Density Index (RDI)", FormatNumber(primary.RDI, OneDecimal));
+  page.Value("PRSUP", FormatNumber(primary.PRSUP, OneDecimal));
   page.Line();
 }
 

@@ -3,28 +3,18 @@
 
 #include <string_view>
 
-#include "core/program.h"
+#include "engine/analysis.h"
 #include "reports/report_text.h"
-#include "reports/working_values.h"
 
 namespace orby {
 
 inline constexpr std::string_view WarningHeading = "[Warning]";
 inline constexpr std::string_view BelowASTM = "Bolt capacity may not meet ASTM minimum standards for roof support";
 
-void ReportPrimarySupport(ReportText& page, const Program& program, const WorkingValues& working);
+// Throws the RuntimeError of the first figure that cannot be computed.
+void ReportPrimarySupport(ReportText& page, const RoofSupport& design, const Figures& figures);
 
-enum class LengthVerdict { TooShort, Fine, TooLong };
-
-// A bolt length against the suggested one, both in the project's units.
-LengthVerdict JudgeLength(Single actual, Single suggested, UnitSystem units);
-
-enum class PsupVerdict { SkinControl, TooLow, Fine };
-
-// The PSUP of a design against the suggested one. A suggestion below 3 needs no bolts but to hold the skin.
-PsupVerdict JudgePsup(Single suggested, Single actual);
-
-// What the report says of it, behind the two values.
+// What the report says of the PSUP, behind the two values.
 std::string_view PsupMessage(PsupVerdict verdict);
 
 }  // namespace orby

@@ -12,18 +12,6 @@ namespace {
 
 constexpr NumberPattern OneDecimal = "0.0";
 
-Single HighestOverEntry(const Design& design) {
-  return MaxRockHeightEntry(design.Place.EntryWidth, design.Entries.RockFallAngle);
-}
-
-Single HighestOverIntersection(const Design& design) {
-  return MaxRockHeightIntersection(design.Intersections.RockLoadHeight, design.Place.ActualSpanDiagonals,
-                                   design.Intersections.RockFallAngle, design.Intersections.RockFallAngleXcut);
-}
-
-Bolt EntryBolt(const WorkingValues& working) { return {working.EntryBolts.Diameter, working.EntryBolts.Grade}; }
-Bolt IntersectionBolt(const WorkingValues& working) { return working.IntersectionBolt; }
-
 std::string EntryLoad(Single load) { return FormatNumber(load, OneDecimal); }
 std::string IntersectionLoad(Single load) { return NumberText(load); }
 
@@ -31,33 +19,25 @@ std::string IntersectionLoad(Single load) { return NumberText(load); }
 struct SupportBlock {
   SupportHeadings Headings;
   SecondarySupport RoofSupport::*Support;
-  Single (*HighestRock)(const Design& design);
-  Bolt (*WorkingBolt)(const WorkingValues& working);
+  Computed<Reinforcement> Figures::*Added;
   std::string (*LoadText)(Single load);
   int LoadUnit;
   bool ShowsDensities;
 };
 
-constexpr SupportBlock EntryBlock{
-    EntryHeadings, &RoofSupport::Entries, HighestOverEntry, EntryBolt, EntryLoad, unit_row::LineLoad, true};
+constexpr SupportBlock EntryBlock{EntryHeadings, &RoofSupport::Entries, &Figures::EntryReinforcement,
+                                  EntryLoad,     unit_row::LineLoad,    true};
 constexpr SupportBlock IntersectionBlock{IntersectionHeadings,
                                          &RoofSupport::Intersections,
-                                         HighestOverIntersection,
-                                         IntersectionBolt,
+                                         &Figures::IntersectionReinforcement,
                                          IntersectionLoad,
                                          unit_row::Force,
                                          false};
 
 class SecondaryReport {
  public:
-  SecondaryReport(ReportText& thePage, const Program& theProgram, const WorkingValues& theWorking,
-                  const SupportBlock& theBlock)
-      : page(thePage),
-        program(theProgram),
-        design(theProgram.WorkParms),
-        support(design.*theBlock.Support),
-        working(theWorking),
-        block(theBlock) {}
+  SecondaryReport(ReportText& thePage, const RoofSupport& design, const Figures& figures, const SupportBlock& theBlock)
+      : page(thePage), support(design.*theBlock.Support), added((figures.*theBlock.Added).Value()), block(theBlock) {}
 
   void Write();
 
@@ -69,22 +49,19 @@ class SecondaryReport {
   void CableBolts();
   void RoofBolts();
   void Densities(Single srdi, Single prsup);
-  void WarnOfAnchorage(double anchored, Single height, std::string_view warning);
+  void Warn(std::string_view warning);
 
   ReportText& page;
-  const Program& program;
-  const Design& design;
   const SecondarySupport& support;
-  const WorkingValues& working;
+  const Reinforcement& added;
   const SupportBlock& block;
 };
 
 void SecondaryReport::RockLoad() {
   page.Line(block.Headings.Support);
   Load("Rock Load", support.RockLoad);
-  const Single highest = block.HighestRock(design);
-  if (support.RockLoadHeight > highest) {
-    page.Value("(*) Rock Load Height adjusted. Maximum possible height", FormatNumber(highest, OneDecimal),
+  if (added.HeightIsAdjusted) {
+    page.Value("(*) Rock Load Height adjusted. Maximum possible height", FormatNumber(added.HighestRock, OneDecimal),
                unit_row::Length);
   }
   page.Line();
@@ -102,46 +79,29 @@ void SecondaryReport::Densities(Single srdi, Single prsup) {
   page.Value("Secondary PRSUP", FormatNumber(prsup, OneDecimal));
 }
 
-void SecondaryReport::WarnOfAnchorage(double anchored, Single height, std::string_view warning) {
-  if (anchored >= height) return;
+void SecondaryReport::Warn(std::string_view warning) {
   page.Line(WarningHeading);
   page.Wrapped(warning, ReportWidth);
 }
 
 void SecondaryReport::CableBolts() {
-  const double anchorage = program.WorkParms.Units == Metric ? 1.3 : 4;
   System(block.Headings.CableBolts, support.Cable, "Cable Bolt System Support Capacity",
          "Cable Bolt System Stability Factor");
-  if (block.ShowsDensities) {
-    const SupportPattern& cables = working.EntryCables;
-    // The PRSUP goes by the length of the primary bolts.
-    SupportPattern asLongAsBolts = cables;
-    asLongAsBolts.Length = working.Primary.Length;
-    Densities(CableSRDI(cables), CablePRSUP(asLongAsBolts));
-  }
+  if (block.ShowsDensities) Densities(added.CableSRDI, added.CablePRSUP);
   page.Line();
-  WarnOfAnchorage(support.Cable.Length - anchorage, support.RockLoadHeight,
-                  "Cable bolt may not be long enough to achieve adequate anchorage for the assumed rock load height.");
+  if (!added.CablesAreShort) return;
+  Warn("Cable bolt may not be long enough to achieve adequate anchorage for the assumed rock load height.");
 }
 
 void SecondaryReport::RoofBolts() {
-  const double anchorage = program.WorkParms.Units == Metric ? 0.305 : 1;
   System(block.Headings.RoofBolts, support.Bolt, "Roof Bolt Support System Capacity",
          "Roof Bolt Support System Stability Factor");
-  if (block.ShowsDensities) {
-    const BoltPattern& bolts = working.EntryBolts;
-    // The SRDI takes the width that cable bolts bring along: without them the report ends in a division by zero.
-    const SupportPattern byCapacity{bolts.Length, bolts.BoltsPerRow,
-                                    UltimateCapacity(bolts.Grade, bolts.Diameter, program.catalogs) / 2,
-                                    bolts.RowSpacing, working.EntryCables.EntryWidth};
-    Densities(BoltSRDI(byCapacity), BoltPRSUP(bolts, {program.WorkParms.Basis, program.catalogs}));
-  }
+  if (block.ShowsDensities) Densities(added.BoltSRDI, added.BoltPRSUP);
   page.Line();
-  // Intersections are warned of by the length and the rock of the entries, too.
-  WarnOfAnchorage(
-      design.Entries.Bolt.Length - anchorage, design.Entries.RockLoadHeight,
-      "Secondary roof bolt may not be long enough to achieve adequate anchorage for the assumed rock load height.");
-  if (!FailsASTM(block.WorkingBolt(working), program.WorkParms.Units)) return;
+  if (added.BoltsAreShort) {
+    Warn("Secondary roof bolt may not be long enough to achieve adequate anchorage for the assumed rock load height.");
+  }
+  if (!added.BoltsFailASTM) return;
   page.Line(BelowASTM);
   page.Line();
 }
@@ -162,12 +122,12 @@ void SecondaryReport::Write() {
 
 }  // namespace
 
-void ReportEntrySupport(ReportText& page, const Program& program, const WorkingValues& working) {
-  SecondaryReport(page, program, working, EntryBlock).Write();
+void ReportEntrySupport(ReportText& page, const RoofSupport& design, const Figures& figures) {
+  SecondaryReport(page, design, figures, EntryBlock).Write();
 }
 
-void ReportIntersectionSupport(ReportText& page, const Program& program, const WorkingValues& working) {
-  SecondaryReport(page, program, working, IntersectionBlock).Write();
+void ReportIntersectionSupport(ReportText& page, const RoofSupport& design, const Figures& figures) {
+  SecondaryReport(page, design, figures, IntersectionBlock).Write();
 }
 
 }  // namespace orby

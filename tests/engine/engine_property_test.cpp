@@ -109,10 +109,10 @@ RC_GTEST_PROP(StabilityFactorProperty, TimesTheRockLoadIsTheCapacity, ()) {
 }
 
 RC_GTEST_PROP(UnitsProperty, AMetricDesignIsSuggestedTheSameSupport, ()) {
-  const WorkingSite feet{*Typed(1, 3), static_cast<Single>(*rc::gen::inRange(0, 101)), *Typed(1, 5000), *Typed(41, 80),
-                         *Typed(10, 40)};
-  const WorkingSite metres{feet.StabilityFactor, feet.CMRR, InMetres(feet.Depth), InMetres(feet.Span),
-                           InMetres(feet.Width)};
+  const SiteInputs feet{*Typed(1, 3), static_cast<Single>(*rc::gen::inRange(0, 101)), *Typed(1, 5000), *Typed(41, 80),
+                        *Typed(10, 40)};
+  const SiteInputs metres{feet.StabilityFactor, feet.CMRR, InMetres(feet.Depth), InMetres(feet.Span),
+                          InMetres(feet.Width)};
 
   const auto english = SuggestLive(feet, English);
   const auto metric = SuggestLive(metres, Metric);

@@ -8,10 +8,10 @@
 namespace orby::test {
 namespace {
 
-constexpr WorkingSite EnglishSite{1, 45, 400, 60, 20};
-constexpr WorkingSite MetricSite{1, 45, 150, 20, 6.2F};
+constexpr SiteInputs EnglishSite{1, 45, 400, 60, 20};
+constexpr SiteInputs MetricSite{1, 45, 150, 20, 6.2F};
 
-WorkingSite With(WorkingSite site, Single WorkingSite::*member, Single value) {
+SiteInputs With(SiteInputs site, Single SiteInputs::*member, Single value) {
   site.*member = value;
   return site;
 }
@@ -26,9 +26,9 @@ TEST(Suggestion, OfTheEnglishDefaults) {
 }
 
 TEST(Suggestion, JudgesTheSpanAgainstBothItsLimits) {
-  const WorkingSite tooLarge = With(EnglishSite, &WorkingSite::Span, 63.3F);
-  const WorkingSite tooSmall = With(EnglishSite, &WorkingSite::Span, 31);
-  const WorkingSite both{1, 15, 400, 60, 41};
+  const SiteInputs tooLarge = With(EnglishSite, &SiteInputs::Span, 63.3F);
+  const SiteInputs tooSmall = With(EnglishSite, &SiteInputs::Span, 31);
+  const SiteInputs both{1, 15, 400, 60, 41};
 
   EXPECT_FALSE(SuggestSupport(EnglishSite, English).SpanIsTooLarge(EnglishSite));
   EXPECT_FALSE(SuggestSupport(EnglishSite, English).SpanAndWidthMismatch(EnglishSite));
@@ -39,8 +39,8 @@ TEST(Suggestion, JudgesTheSpanAgainstBothItsLimits) {
 }
 
 TEST(Suggestion, DoesNotWarnOfASpanAtItsLimits) {
-  const WorkingSite atSuggested = With(EnglishSite, &WorkingSite::Span, 63.2F);
-  const WorkingSite atSmallest = With(EnglishSite, &WorkingSite::Span, 32.2842712F);
+  const SiteInputs atSuggested = With(EnglishSite, &SiteInputs::Span, 63.2F);
+  const SiteInputs atSmallest = With(EnglishSite, &SiteInputs::Span, 32.2842712F);
 
   EXPECT_FALSE(SuggestSupport(atSuggested, English).SpanIsTooLarge(atSuggested));
   EXPECT_FALSE(SuggestSupport(atSmallest, English).SpanAndWidthMismatch(atSmallest));
@@ -90,8 +90,8 @@ TEST(LiveSuggestion, OfAWideWeakIntersectionWarnsInEnglishDesigns) {
 }
 
 TEST(LiveSuggestion, NeverWarnsInMetricDesigns) {
-  const auto tooLarge = SuggestLive(With(MetricSite, &WorkingSite::Span, 25), Metric);
-  const auto tooSmall = SuggestLive(With(MetricSite, &WorkingSite::Span, 12), Metric);
+  const auto tooLarge = SuggestLive(With(MetricSite, &SiteInputs::Span, 25), Metric);
+  const auto tooSmall = SuggestLive(With(MetricSite, &SiteInputs::Span, 12), Metric);
 
   ASSERT_TRUE(tooLarge);
   EXPECT_EQ(tooLarge->SugPSUP, 15.9432173F);
@@ -102,12 +102,12 @@ TEST(LiveSuggestion, NeverWarnsInMetricDesigns) {
 }
 
 struct SiteGuard {
-  Single WorkingSite::*member;
+  Single SiteInputs::*member;
   Single value;
   bool computes;
 };
 
-void ExpectGuards(const WorkingSite& site, UnitSystem units, std::initializer_list<SiteGuard> guards) {
+void ExpectGuards(const SiteInputs& site, UnitSystem units, std::initializer_list<SiteGuard> guards) {
   int row = 0;
   for (const auto& [member, value, computes] : guards) {
     EXPECT_EQ(SuggestLive(With(site, member, value), units).has_value(), computes) << "row " << row << ": " << value;
@@ -117,45 +117,45 @@ void ExpectGuards(const WorkingSite& site, UnitSystem units, std::initializer_li
 
 TEST(LiveSuggestion, IsGuardedInEnglishDesigns) {
   ExpectGuards(EnglishSite, English,
-               {{&WorkingSite::StabilityFactor, 0, false},
-                {&WorkingSite::StabilityFactor, 0.99F, false},
-                {&WorkingSite::StabilityFactor, 1, true},
-                {&WorkingSite::StabilityFactor, 1.01F, true},
-                {&WorkingSite::CMRR, -0.01F, false},
-                {&WorkingSite::CMRR, 0, true},
-                {&WorkingSite::CMRR, 100, true},
-                {&WorkingSite::CMRR, 100.01F, false},
-                {&WorkingSite::Width, -1, false},
-                {&WorkingSite::Width, 0, false},
-                {&WorkingSite::Width, 0.01F, true},
-                {&WorkingSite::Span, 19.99F, false},
-                {&WorkingSite::Span, 20, false},
-                {&WorkingSite::Span, 20.01F, true},
-                {&WorkingSite::Depth, -0.01F, false},
-                {&WorkingSite::Depth, 0.01F, true}});
+               {{&SiteInputs::StabilityFactor, 0, false},
+                {&SiteInputs::StabilityFactor, 0.99F, false},
+                {&SiteInputs::StabilityFactor, 1, true},
+                {&SiteInputs::StabilityFactor, 1.01F, true},
+                {&SiteInputs::CMRR, -0.01F, false},
+                {&SiteInputs::CMRR, 0, true},
+                {&SiteInputs::CMRR, 100, true},
+                {&SiteInputs::CMRR, 100.01F, false},
+                {&SiteInputs::Width, -1, false},
+                {&SiteInputs::Width, 0, false},
+                {&SiteInputs::Width, 0.01F, true},
+                {&SiteInputs::Span, 19.99F, false},
+                {&SiteInputs::Span, 20, false},
+                {&SiteInputs::Span, 20.01F, true},
+                {&SiteInputs::Depth, -0.01F, false},
+                {&SiteInputs::Depth, 0.01F, true}});
 }
 
 TEST(LiveSuggestion, IsGuardedInMetricDesigns) {
   ExpectGuards(MetricSite, Metric,
-               {{&WorkingSite::StabilityFactor, 0.99F, false},
-                {&WorkingSite::StabilityFactor, 1, true},
-                {&WorkingSite::CMRR, -0.01F, false},
-                {&WorkingSite::CMRR, 0, true},
-                {&WorkingSite::CMRR, 100, true},
-                {&WorkingSite::CMRR, 100.01F, false},
-                {&WorkingSite::Width, 0, false},
-                {&WorkingSite::Width, 0.01F, true},
-                {&WorkingSite::Span, 6.19F, false},
-                {&WorkingSite::Span, 6.2F, false},
-                {&WorkingSite::Span, 6.21F, true},
-                {&WorkingSite::Depth, -0.01F, false},
-                {&WorkingSite::Depth, 0.01F, true}});
+               {{&SiteInputs::StabilityFactor, 0.99F, false},
+                {&SiteInputs::StabilityFactor, 1, true},
+                {&SiteInputs::CMRR, -0.01F, false},
+                {&SiteInputs::CMRR, 0, true},
+                {&SiteInputs::CMRR, 100, true},
+                {&SiteInputs::CMRR, 100.01F, false},
+                {&SiteInputs::Width, 0, false},
+                {&SiteInputs::Width, 0.01F, true},
+                {&SiteInputs::Span, 6.19F, false},
+                {&SiteInputs::Span, 6.2F, false},
+                {&SiteInputs::Span, 6.21F, true},
+                {&SiteInputs::Depth, -0.01F, false},
+                {&SiteInputs::Depth, 0.01F, true}});
 }
 
 TEST(LiveSuggestion, FailsAtADepthOfZero) {
-  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(SuggestLive(With(EnglishSite, &WorkingSite::Depth, 0), English)); }),
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(SuggestLive(With(EnglishSite, &SiteInputs::Depth, 0), English)); }),
             5);
-  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(SuggestLive(With(MetricSite, &WorkingSite::Depth, 0), Metric)); }), 5);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(SuggestLive(With(MetricSite, &SiteInputs::Depth, 0), Metric)); }), 5);
 }
 
 constexpr BoltPattern EnglishPattern{6, 4, 0.75F, 75, 4, 20};

@@ -47,6 +47,8 @@ void FillWithAnything(Design& record) {
       std::get<TextField>(saved.field).In(record) = *AnyLine(isItem ? " ,\"" : "");
     }
   }
+  // A record keeps the rating as a whole number.
+  record.Place.CMRR = *rc::gen::arbitrary<Integer>();
 }
 
 RC_GTEST_PROP(ProjectRoundTrip, EveryFieldSurvives, ()) {

@@ -239,6 +239,8 @@ UnsavedProject AnyProject() {
       std::get<TextField>(saved.field).In(project.WorkParms) = *AnyText();
     }
   }
+  // A record keeps the rating as a whole number.
+  project.WorkParms.Place.CMRR = *rc::gen::arbitrary<Integer>();
   return project;
 }
 

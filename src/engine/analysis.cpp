@@ -1,0 +1,289 @@
+#include "engine/analysis.h"
+
+#include "base/arithmetic.h"
+
+namespace orby {
+namespace {
+
+Single Needed(Single value) {
+  if (IsUnfit(value)) throw RuntimeError(error_number::Overflow);
+  return value;
+}
+
+GradeBasis BasisOf(const RoofSupport& design, const Catalogs& catalogs) { return {design.Basis, catalogs}; }
+
+// ---- live: the numbers as typed, in the design's units -------------------------------------------------------------
+
+SiteInputs TypedSite(const RoofSupport& design) {
+  return {Needed(design.Primary.StabilityFactor), Needed(design.Place.CMRR), Needed(design.Place.DepthofCover),
+          Needed(design.Place.ActualSpanDiagonals), Needed(design.Place.EntryWidth)};
+}
+
+Bolt TypedBolt(const BoltSelection& set) {
+  const Bolt bolt = SelectedBolt(set);
+  return {Needed(bolt.Diameter), Needed(bolt.Grade)};
+}
+
+BoltPattern TypedPattern(const RoofSupport& design) {
+  const PrimarySupport& primary = design.Primary;
+  const Bolt bolt = TypedBolt(primary);
+  return {Needed(primary.Length),     Needed(primary.BoltsperRow),    bolt.Diameter, bolt.Grade,
+          Needed(primary.RowSpacing), Needed(design.Place.EntryWidth)};
+}
+
+RockInputs EntryRock(const RoofSupport& design) {
+  RockInputs rock;
+  rock.UnitWeight = Needed(design.Place.UnitWeight);
+  rock.Height = Needed(design.Entries.RockLoadHeight);
+  rock.EntryAngle = Needed(design.Entries.RockFallAngle);
+  rock.Width = Needed(design.Place.EntryWidth);
+  return rock;
+}
+
+RockInputs IntersectionRock(const RoofSupport& design) {
+  const SecondarySupport& support = design.Intersections;
+  return {Needed(design.Place.UnitWeight),   Needed(support.RockLoadHeight),  Needed(support.RockFallAngle),
+          Needed(support.RockFallAngleXcut), Needed(design.Place.EntryWidth), Needed(design.Place.ActualSpanDiagonals)};
+}
+
+// Of one cable, in the design's units.
+Single CapacityOf(const CableSelection& cable, UnitSystem units, const Catalogs& catalogs) {
+  if (cable.CapMode == 0) return CableCapacityFromDiameter(Needed(cable.Diam), units, catalogs);
+  return Needed(cable.Capacity == 0 ? cable.CapacityStd : cable.CapacityManual);
+}
+
+// What a support system gives under a rock load; nothing when it lacks a number that decides on it.
+using SystemRule = std::optional<SupportResult> (*)(const RoofSupport& design, const Catalogs& catalogs,
+                                                    Single rockLoad);
+using SystemRules = std::array<SystemRule, SystemCount>;
+
+std::optional<SupportResult> CablesInEntry(const RoofSupport& design, const Catalogs& catalogs, Single rockLoad) {
+  const CableSelection& cable = design.Entries.Cable;
+  if (Needed(cable.RowSpacing) == 0) return std::nullopt;
+  const Single capacity = CapacityOf(cable, design.Units, catalogs);
+  return SupportEntry(rockLoad, CountedSystem{capacity, Needed(cable.BoltsPerRow), cable.RowSpacing});
+}
+
+// The standing supports' spacing decides on the trusses too: at 0 their last figures stay.
+std::optional<SupportResult> TrussesInEntry(const RoofSupport& design, const Catalogs&, Single rockLoad) {
+  const TrussSelection& truss = design.Entries.Truss;
+  if (Needed(design.Entries.Standing.RowSpacing) == 0) return std::nullopt;
+  return SupportEntry(rockLoad, TrussSystem{Needed(truss.Capacity), Needed(truss.Angle), 0, Needed(truss.Spacing)});
+}
+
+std::optional<SupportResult> BoltsInEntry(const RoofSupport& design, const Catalogs& catalogs, Single rockLoad) {
+  const SecondaryBolts& bolts = design.Entries.Bolt;
+  if (Needed(bolts.BoltsperRow) == 0) return std::nullopt;
+  return SupportEntry(rockLoad, BoltSystem{TypedBolt(bolts), bolts.BoltsperRow, Needed(bolts.RowSpacing)}, design.Units,
+                      BasisOf(design, catalogs));
+}
+
+std::optional<SupportResult> StandingInEntry(const RoofSupport& design, const Catalogs&, Single rockLoad) {
+  const StandingSelection& standing = design.Entries.Standing;
+  if (Needed(standing.RowSpacing) == 0) return std::nullopt;
+  return SupportEntry(rockLoad,
+                      CountedSystem{Needed(standing.Capacity), Needed(standing.NumberPerRow), standing.RowSpacing});
+}
+
+std::optional<SupportResult> CablesInIntersection(const RoofSupport& design, const Catalogs& catalogs,
+                                                  Single rockLoad) {
+  const CableSelection& cable = design.Intersections.Cable;
+  const Single capacity = CapacityOf(cable, design.Units, catalogs);
+  return SupportIntersection(rockLoad, CountedSystem{capacity, Needed(cable.Number), 0});
+}
+
+std::optional<SupportResult> TrussesInIntersection(const RoofSupport& design, const Catalogs&, Single rockLoad) {
+  const TrussSelection& truss = design.Intersections.Truss;
+  return SupportIntersection(rockLoad,
+                             TrussSystem{Needed(truss.Capacity), Needed(truss.Angle), Needed(truss.Number), 0});
+}
+
+std::optional<SupportResult> BoltsInIntersection(const RoofSupport& design, const Catalogs& catalogs, Single rockLoad) {
+  const SecondaryBolts& bolts = design.Intersections.Bolt;
+  return SupportIntersection(rockLoad, BoltSystem{TypedBolt(bolts), Needed(bolts.Number), 0}, design.Units,
+                             BasisOf(design, catalogs));
+}
+
+std::optional<SupportResult> StandingInIntersection(const RoofSupport& design, const Catalogs&, Single rockLoad) {
+  const StandingSelection& standing = design.Intersections.Standing;
+  return SupportIntersection(rockLoad, CountedSystem{Needed(standing.Capacity), Needed(standing.Number), 0});
+}
+
+constexpr SystemRules EntryRules{CablesInEntry, TrussesInEntry, BoltsInEntry, StandingInEntry};
+constexpr SystemRules IntersectionRules{CablesInIntersection, TrussesInIntersection, BoltsInIntersection,
+                                        StandingInIntersection};
+
+void JudgeSystems(const RoofSupport& design, const Catalogs& catalogs, const SecondarySupport& support,
+                  const SystemRules& rules, SupportFigures& figures) {
+  if (!figures.RockLoad.IsThere() || !figures.RockLoad.Value()) return;
+  const Single load = *figures.RockLoad.Value();
+  const auto systems = support.Systems();
+  for (std::size_t i = 0; i < SystemCount; ++i) {
+    if (systems[i]->Use != 1) continue;
+    figures.Systems[i] = Attempt([&] { return rules[i](design, catalogs, load); });
+  }
+}
+
+// ---- the report: English working numbers ---------------------------------------------------------------------------
+
+struct WorkingNumbers {
+  BoltPattern Primary;
+  BoltPattern EntryBolts;
+  Bolt IntersectionBolt;       // in, ksi
+  SupportPattern EntryCables;  // its width is 0 in a design without cables in entries
+};
+
+Bolt WorkingBolt(const BoltSelection& set, UnitSystem units) {
+  const Bolt bolt = SelectedBolt(set);
+  if (units != Metric) return bolt;
+  return {ToSingle(bolt.Diameter / MillimetresPerInch), ToSingle(bolt.Grade / MPaPerKsi)};
+}
+
+// Of one cable in tons. The catalog is asked in the design's units.
+Single WorkingCapacity(const CableSelection& cable, UnitSystem units, const Catalogs& catalogs) {
+  const Single capacity = CapacityOf(cable, units, catalogs);
+  return units == Metric ? ToSingle(capacity / KilonewtonsPerTon) : capacity;
+}
+
+// Of the whole design, whichever analyses it asks for. Throws RuntimeError 6 beyond a Single.
+WorkingNumbers WorkingNumbersOf(const RoofSupport& design, const Catalogs& catalogs) {
+  constexpr double KipsPerTon = 2;
+  const auto feet = [&](Single length) { return InFeet(length, design.Units); };
+  feet(design.Place.DepthofCover);
+  feet(design.Place.ActualSpanDiagonals);
+  const Single width = feet(design.Place.EntryWidth);
+  const auto pattern = [&](const BoltSelection& set, const Bolt& bolt) {
+    return BoltPattern{feet(set.Length), set.BoltsperRow, bolt.Diameter, bolt.Grade, feet(set.RowSpacing), width};
+  };
+  WorkingNumbers working;
+  working.Primary = pattern(design.Primary, WorkingBolt(design.Primary, design.Units));
+  working.EntryBolts = pattern(design.Entries.Bolt, WorkingBolt(design.Entries.Bolt, design.Units));
+  working.IntersectionBolt = WorkingBolt(design.Intersections.Bolt, design.Units);
+  const CableSelection& cable = design.Entries.Cable;
+  working.EntryCables = {feet(cable.Length), cable.BoltsPerRow,
+                         ToSingle(KipsPerTon * WorkingCapacity(cable, design.Units, catalogs)), feet(cable.RowSpacing),
+                         cable.Use == 1 ? width : 0};
+  return working;
+}
+
+// Of one bolt as the report labels it, kN or tons. English designs get the yield capacity under either label.
+Single ReportedCapacity(const BoltPattern& bolts, const RoofSupport& design, const Catalogs& catalogs) {
+  if (design.Units == Metric) return CapacityKN(bolts.Grade, bolts.Diameter);
+  return (design.Basis == StrengthBasis::Yield ? CapacityFromGrade(bolts.Grade, bolts.Diameter)
+                                               : YieldCapacity(bolts.Grade, bolts.Diameter, catalogs)) /
+         2;
+}
+
+PrimaryFigures PrimaryOf(const RoofSupport& design, const Catalogs& catalogs, const BoltPattern& bolts,
+                         const SuggestedFigures& suggested) {
+  const GradeBasis basis = BasisOf(design, catalogs);
+  PrimaryFigures figures;
+  figures.ActualPSUP = ActualPSUP(bolts, basis);
+  figures.RDI = BoltRDI(bolts, basis);
+  figures.PRSUP = BoltPRSUP(bolts, basis);
+  figures.Capacity = ReportedCapacity(bolts, design, catalogs);
+  figures.Length = JudgeLength(design.Primary.Length, suggested.SugLength, design.Units);
+  figures.Psup = JudgePsup(suggested.SugPSUP, figures.ActualPSUP);
+  figures.FailsASTM = FailsASTM({bolts.Diameter, bolts.Grade}, design.Units);
+  return figures;
+}
+
+struct Anchorage {
+  double Cables;
+  double Bolts;
+};
+constexpr Anchorage AnchorageIn(UnitSystem units) { return units == Metric ? Anchorage{1.3, 0.305} : Anchorage{4, 1}; }
+
+// What entries and intersections have in common.
+void JudgeRock(const SecondarySupport& support, Single highest, const RoofSupport& design, Reinforcement& figures) {
+  const Anchorage anchorage = AnchorageIn(design.Units);
+  figures.HighestRock = highest;
+  figures.HeightIsAdjusted = support.RockLoadHeight > highest;
+  figures.CablesAreShort = support.Cable.Length - anchorage.Cables < support.RockLoadHeight;
+  // Intersections are warned of by the length and the rock of the entries, too.
+  figures.BoltsAreShort = design.Entries.Bolt.Length - anchorage.Bolts < design.Entries.RockLoadHeight;
+}
+
+Reinforcement EntryReinforcementOf(const RoofSupport& design, const Catalogs& catalogs, const WorkingNumbers& working) {
+  const SecondarySupport& support = design.Entries;
+  Reinforcement figures;
+  JudgeRock(support, MaxRockHeightEntry(design.Place.EntryWidth, support.RockFallAngle), design, figures);
+  if (support.Cable.Use == 1) {
+    // The PRSUP goes by the length of the primary bolts.
+    SupportPattern asLongAsBolts = working.EntryCables;
+    asLongAsBolts.Length = working.Primary.Length;
+    figures.CableSRDI = CableSRDI(working.EntryCables);
+    figures.CablePRSUP = CablePRSUP(asLongAsBolts);
+  }
+  if (support.Bolt.Use == 1) {
+    const BoltPattern& bolts = working.EntryBolts;
+    // The SRDI takes the width that cable bolts bring along: without them it is a division by zero.
+    figures.BoltSRDI =
+        BoltSRDI({bolts.Length, bolts.BoltsPerRow, UltimateCapacity(bolts.Grade, bolts.Diameter, catalogs) / 2,
+                  bolts.RowSpacing, working.EntryCables.EntryWidth});
+    figures.BoltPRSUP = BoltPRSUP(bolts, BasisOf(design, catalogs));
+    figures.BoltsFailASTM = FailsASTM({bolts.Diameter, bolts.Grade}, design.Units);
+  }
+  return figures;
+}
+
+Reinforcement IntersectionReinforcementOf(const RoofSupport& design, const WorkingNumbers& working) {
+  const SecondarySupport& support = design.Intersections;
+  Reinforcement figures;
+  JudgeRock(support,
+            MaxRockHeightIntersection(support.RockLoadHeight, design.Place.ActualSpanDiagonals, support.RockFallAngle,
+                                      support.RockFallAngleXcut),
+            design, figures);
+  if (support.Bolt.Use == 1) figures.BoltsFailASTM = FailsASTM(working.IntersectionBolt, design.Units);
+  return figures;
+}
+
+}  // namespace
+
+Computed<std::optional<SuggestedFigures>> LiveSuggestion(const RoofSupport& design) noexcept {
+  return Attempt([&] { return SuggestLive(TypedSite(design), design.Units); });
+}
+
+Computed<std::optional<Single>> LiveSuggestedPSUP(const RoofSupport& design) noexcept {
+  return Attempt([&] {
+    const auto figures = SuggestLive(TypedSite(design), design.Units);
+    return figures ? std::optional(figures->SugPSUP) : std::nullopt;
+  });
+}
+
+Computed<std::optional<Single>> LivePSUP(const RoofSupport& design, const Catalogs& catalogs) noexcept {
+  return Attempt([&] { return ActualLive(TypedPattern(design), design.Units, BasisOf(design, catalogs)); });
+}
+
+SupportFigures EntryFigures(const RoofSupport& design, const Catalogs& catalogs) noexcept {
+  SupportFigures figures;
+  figures.RockLoad = Attempt([&] { return EntryRockLoad(EntryRock(design), design.Units); });
+  JudgeSystems(design, catalogs, design.Entries, EntryRules, figures);
+  return figures;
+}
+
+SupportFigures IntersectionFigures(const RoofSupport& design, const Catalogs& catalogs) noexcept {
+  SupportFigures figures;
+  figures.RockLoad = Attempt([&] { return IntersectionRockLoad(IntersectionRock(design), design.Units); });
+  JudgeSystems(design, catalogs, design.Intersections, IntersectionRules, figures);
+  return figures;
+}
+
+Figures Analyze(const RoofSupport& design, const Catalogs& catalogs) noexcept {
+  Figures figures;
+  figures.LiveSuggestion = LiveSuggestion(design);
+  figures.LivePSUP = LivePSUP(design, catalogs);
+  figures.Entries = EntryFigures(design, catalogs);
+  figures.Intersections = IntersectionFigures(design, catalogs);
+
+  const auto working = Attempt([&] { return WorkingNumbersOf(design, catalogs); });
+  figures.WorkingNumbers = Attempt([&] { return static_cast<void>(working.Value()), true; });
+  figures.Suggested = Attempt([&] { return Suggest(TypedSite(design), design.Units); });
+  figures.Primary =
+      Attempt([&] { return PrimaryOf(design, catalogs, working.Value().Primary, figures.Suggested.Value()); });
+  figures.EntryReinforcement = Attempt([&] { return EntryReinforcementOf(design, catalogs, working.Value()); });
+  figures.IntersectionReinforcement = Attempt([&] { return IntersectionReinforcementOf(design, working.Value()); });
+  return figures;
+}
+
+}  // namespace orby

@@ -1,0 +1,239 @@
+// A design's figures and judgements as one value: what each one needs, what fails with it, and from many threads.
+#include "engine/analysis.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <random>
+#include <thread>
+#include <vector>
+
+#include "engine/designs.h"
+#include "support/recording_platform.h"
+
+namespace orby::test {
+namespace {
+
+constexpr int NoError = 0;
+constexpr int BadCall = 5;
+constexpr int Overflow = 6;
+constexpr int DivisionByZero = 11;
+
+// Every analysis and every system in use.
+Design FullDesign() {
+  Design design = EnglishDesign();
+  design.Primary.Analysed = design.Entries.Analysed = design.Intersections.Analysed = 1;
+  for (BoltSelection* set : design.BoltSets()) {
+    set->Options = 1;
+    set->Length = 6;
+    set->DiameterStd = 0.75F;
+    set->GradeStd = 75;
+    set->BoltsperRow = 4;
+    set->RowSpacing = 4;
+    set->Number = 10;
+  }
+  for (SecondarySupport* support : {&design.Entries, &design.Intersections}) {
+    for (SupportSystem* system : support->Systems()) system->Use = 1;
+    support->RockLoadHeight = 8;
+    support->RockFallAngle = support->RockFallAngleXcut = 30;
+    support->Cable.Length = 10;
+    support->Cable.CapMode = 1;
+    support->Cable.CapacityStd = 27;
+    support->Cable.BoltsPerRow = 2;
+    support->Cable.RowSpacing = 5;
+    support->Cable.Number = 10;
+    support->Truss.Angle = 45;
+    support->Truss.Capacity = 30;
+    support->Truss.Spacing = support->Truss.Number = 4;
+    support->Standing.Capacity = 50;
+    support->Standing.NumberPerRow = 2;
+    support->Standing.RowSpacing = 8;
+    support->Standing.Number = 4;
+  }
+  return design;
+}
+
+const Catalogs& Lists() {
+  static const Catalogs lists = BuiltInLists();
+  return lists;
+}
+
+Figures FiguresOf(const Design& design) { return Analyze(design, Lists()); }
+
+std::array<int, SystemCount> ErrorsOf(const SupportFigures& figures) {
+  std::array<int, SystemCount> errors{};
+  for (std::size_t i = 0; i < SystemCount; ++i) errors[i] = figures.Systems[i].Error();
+  return errors;
+}
+
+TEST(Analysis, OfAFullDesignComputesEveryFigure) {
+  const Figures figures = FiguresOf(FullDesign());
+
+  EXPECT_FLOAT_EQ(figures.Suggested.Value().SugPSUP, 7.6068387F);
+  EXPECT_FLOAT_EQ(figures.Primary.Value().ActualPSUP, 9.94019508F);
+  EXPECT_FLOAT_EQ(figures.Primary.Value().PRSUP, 13.2535934F);
+  EXPECT_FLOAT_EQ(figures.Primary.Value().RDI, 192.177109F);
+  EXPECT_EQ(figures.Primary.Value().Psup, PsupVerdict::Fine);
+  EXPECT_FLOAT_EQ(*figures.Entries.RockLoad.Value(), 9.96701622F);
+  EXPECT_FLOAT_EQ(figures.Entries.Systems[0].Value()->Capacity, 10.8F);      // 27 tons, 2 in a row, 5 ft apart
+  EXPECT_FLOAT_EQ(figures.Entries.Systems[3].Value()->Capacity, 12.5F);      // 50 tons, 2 in a row, 8 ft apart
+  EXPECT_FLOAT_EQ(figures.Intersections.Systems[3].Value()->Capacity, 200);  // 4 of 50 tons
+  EXPECT_FLOAT_EQ(figures.EntryReinforcement.Value().HighestRock, 17.320508F);
+  EXPECT_GT(figures.EntryReinforcement.Value().CableSRDI, 0);
+  EXPECT_GT(figures.EntryReinforcement.Value().BoltSRDI, 0);
+  EXPECT_TRUE(figures.IntersectionReinforcement.IsThere());
+}
+
+TEST(Analysis, OfASystemThatIsNotInUseGivesNothing) {
+  Design design = FullDesign();
+  design.Entries.Truss.Use = 0;
+
+  const Figures figures = FiguresOf(design);
+
+  EXPECT_FALSE(figures.Entries.Systems[1].Value());
+  EXPECT_TRUE(figures.Intersections.Systems[1].Value());
+}
+
+TEST(Analysis, NamesTheWarningsOfAWideSpanUnderAShortBolt) {
+  Design design = FullDesign();
+  design.Place.ActualSpanDiagonals = 80;
+  design.Primary.Length = 2;
+  design.Entries.Cable.Length = 11;
+  design.Entries.Bolt.Length = 8;
+
+  const Figures figures = FiguresOf(design);
+
+  EXPECT_TRUE(figures.Suggested.Value().SpanIsTooLarge);
+  EXPECT_EQ(figures.Primary.Value().Length, LengthVerdict::TooShort);
+  EXPECT_EQ(figures.Primary.Value().Psup, PsupVerdict::TooLow);
+  EXPECT_TRUE(figures.EntryReinforcement.Value().CablesAreShort);
+  EXPECT_TRUE(figures.EntryReinforcement.Value().BoltsAreShort);
+  EXPECT_TRUE(figures.IntersectionReinforcement.Value().BoltsAreShort);
+}
+
+TEST(Analysis, WithoutADepthLacksTheSuggestionsAlone) {
+  Design design = FullDesign();
+  design.Place.DepthofCover = 0;
+
+  const Figures figures = FiguresOf(design);
+
+  EXPECT_EQ(figures.Suggested.Error(), BadCall);
+  EXPECT_EQ(figures.LiveSuggestion.Error(), BadCall);
+  EXPECT_EQ(figures.Primary.Error(), BadCall);
+  EXPECT_TRUE(figures.LivePSUP.Value());
+  EXPECT_TRUE(figures.Entries.RockLoad.Value());
+  EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(figures.Suggested.Value()); }), BadCall);
+}
+
+TEST(Analysis, OfRoofBoltsInEntriesWithoutCablesLacksTheirDensities) {
+  Design design = FullDesign();
+  design.Entries.Cable.Use = 0;
+
+  const Figures figures = FiguresOf(design);
+
+  EXPECT_EQ(figures.EntryReinforcement.Error(), DivisionByZero);
+  EXPECT_TRUE(figures.Entries.Systems[2].Value());
+}
+
+TEST(Analysis, OfANumberThatFitsNoSingleOverflowsWhereItIsNeededAndNowhereElse) {
+  Design design = FullDesign();
+  design.Entries.Truss.Capacity = Unfit;
+
+  const Figures figures = FiguresOf(design);
+
+  EXPECT_THAT(ErrorsOf(figures.Entries), testing::ElementsAre(NoError, Overflow, NoError, NoError));
+  EXPECT_THAT(ErrorsOf(figures.Intersections), testing::Each(NoError));
+  EXPECT_TRUE(figures.LiveSuggestion.Value());
+}
+
+// A cable without a matching diameter would have a capacity of 0; one whose diameter is no number has none.
+TEST(Analysis, OfACableDiameterThatFitsNoSingleOverflows) {
+  Design design = FullDesign();
+  design.Intersections.Cable.CapMode = 0;
+  design.Intersections.Cable.Diam = Unfit;
+
+  EXPECT_THAT(ErrorsOf(FiguresOf(design).Intersections), testing::ElementsAre(Overflow, NoError, NoError, NoError));
+}
+
+TEST(Analysis, TakesAnUnfitNumberForNoneThatIsNotChosen) {
+  Design design = FullDesign();
+  design.Entries.Bolt.GradeManual = Unfit;
+
+  EXPECT_THAT(ErrorsOf(FiguresOf(design).Entries), testing::Each(NoError));
+}
+
+TEST(Analysis, BeyondTheNumbersOfTheReportFailsInItsPartsAlone) {
+  Design design = FullDesign();
+  design.Units = Metric;
+  design.Entries.Bolt.Length = 2e38F;
+
+  const Figures figures = FiguresOf(design);
+
+  EXPECT_EQ(figures.WorkingNumbers.Error(), Overflow);
+  EXPECT_EQ(figures.Primary.Error(), Overflow);
+  EXPECT_EQ(figures.IntersectionReinforcement.Error(), Overflow);
+  EXPECT_TRUE(figures.Entries.RockLoad.IsThere());
+}
+
+// ---- from many threads ----------------------------------------------------------------------------------------------
+
+Design AnyDesign(std::uint32_t number) {
+  std::mt19937 random(number);
+  const auto between = [&](double low, double high) {
+    return static_cast<Single>(std::uniform_real_distribution(low, high)(random));
+  };
+  Design design = FullDesign();
+  design.Units = random() % 2 == 0 ? English : Metric;
+  design.Basis = random() % 2 == 0 ? Yield : Ultimate;
+  design.Place.CMRR = between(15, 110);
+  design.Place.DepthofCover = between(-50, 2000);
+  design.Place.UnitWeight = between(10, 180);
+  design.Place.EntryWidth = between(4, 24);
+  design.Place.ActualSpanDiagonals = between(10, 90);
+  for (SecondarySupport* support : {&design.Entries, &design.Intersections}) {
+    support->RockFallAngle = between(-5, 95);
+    for (SupportSystem* system : support->Systems()) system->Use = static_cast<Integer>(random() % 2);
+  }
+  return design;
+}
+
+// All the numbers and judgements of the figures that are there, and the errors of the others.
+std::vector<double> Listed(const Figures& figures) {
+  std::vector<double> list{static_cast<double>(figures.Suggested.Error()), static_cast<double>(figures.Primary.Error()),
+                           static_cast<double>(figures.EntryReinforcement.Error()),
+                           static_cast<double>(figures.IntersectionReinforcement.Error())};
+  if (figures.Suggested.IsThere()) list.push_back(figures.Suggested.Value().SugPSUP);
+  if (figures.Primary.IsThere()) list.push_back(figures.Primary.Value().RDI);
+  if (figures.EntryReinforcement.IsThere()) list.push_back(figures.EntryReinforcement.Value().CableSRDI);
+  if (figures.LivePSUP.IsThere()) list.push_back(figures.LivePSUP.Value().value_or(-1));
+  for (const SupportFigures* support : {&figures.Entries, &figures.Intersections}) {
+    list.push_back(support->RockLoad.IsThere() ? support->RockLoad.Value().value_or(-1) : -2);
+    for (const auto& system : support->Systems) {
+      list.push_back(system.Error());
+      if (system.IsThere() && system.Value()) list.push_back(system.Value()->StabilityFactor);
+    }
+  }
+  return list;
+}
+
+TEST(Analysis, GivesTheSameFromEightThreadsAsFromOne) {
+  constexpr std::uint32_t Designs = 400;
+  constexpr std::size_t Threads = 8;
+  std::vector<std::vector<double>> alone;
+  for (std::uint32_t i = 0; i < Designs; ++i) alone.push_back(Listed(FiguresOf(AnyDesign(i))));
+
+  std::array<std::vector<std::vector<double>>, Threads> together;
+  {
+    std::vector<std::jthread> threads;
+    for (auto& results : together) {
+      threads.emplace_back([&results] {
+        for (std::uint32_t i = 0; i < Designs; ++i) results.push_back(Listed(FiguresOf(AnyDesign(i))));
+      });
+    }
+  }
+
+  for (const auto& results : together) EXPECT_EQ(results, alone);
+}
+
+}  // namespace
+}  // namespace orby::test
