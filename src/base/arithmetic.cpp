@@ -16,11 +16,6 @@ double WithinDouble(double result) {
 
 }  // namespace
 
-double Divide(double dividend, double divisor) {
-  if (divisor == 0) throw RuntimeError(error_number::DivisionByZero);
-  return WithinDouble(dividend / divisor);
-}
-
 double Logarithm(double x) {
   if (!(x > 0)) throw RuntimeError(error_number::BadCall);
   return std::log(x);
@@ -35,12 +30,8 @@ double Multiply(double a, double b) { return WithinDouble(a * b); }
 
 double Square(double x) { return WithinDouble(std::pow(x, 2)); }
 
-Single ToSingle(double value) {
-  // From half a unit beyond the largest Single on, the nearest Single would be infinity.
-  constexpr double FirstBeyond = 3.4028235677973366e38;
-  if (!(std::abs(value) < FirstBeyond)) throw RuntimeError(error_number::Overflow);
-  return static_cast<Single>(value);
-}
+void ThrowOverflow() { throw RuntimeError(error_number::Overflow); }
+void ThrowDivisionByZero() { throw RuntimeError(error_number::DivisionByZero); }
 
 double RoundHalfEven(double value) {
   const double whole = std::floor(value);

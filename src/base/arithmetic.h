@@ -1,6 +1,7 @@
 // Checked arithmetic: what cannot be computed raises its run-time error, so no infinity and no NaN is ever stored.
 #pragma once
 
+#include <cmath>
 #include <utility>
 
 #include "base/types.h"
@@ -10,8 +11,17 @@ namespace orby {
 inline constexpr double Pi = 3.14159265358979;
 inline constexpr double RadiansPerDegree = 0.017453292519943278;
 
+// Throw RuntimeError 6 and 11.
+[[noreturn]] void ThrowOverflow();
+[[noreturn]] void ThrowDivisionByZero();
+
 // dividend / divisor. Throws RuntimeError 11 when the divisor is 0, 6 when the quotient is beyond a Double.
-double Divide(double dividend, double divisor);
+inline double Divide(double dividend, double divisor) {
+  if (divisor == 0) ThrowDivisionByZero();
+  const double quotient = dividend / divisor;
+  if (!std::isfinite(quotient)) ThrowOverflow();
+  return quotient;
+}
 
 // ln x. Throws RuntimeError 5 when x is 0 or less.
 double Logarithm(double x);
@@ -26,7 +36,12 @@ double Multiply(double a, double b);
 double Square(double x);
 
 // Nearest Single. Throws RuntimeError 6 when the value lies beyond the range of a Single or is no number.
-Single ToSingle(double value);
+inline Single ToSingle(double value) {
+  // From half a unit beyond the largest Single on, the nearest Single would be infinity.
+  constexpr double FirstBeyond = 3.4028235677973366e38;
+  if (!(std::abs(value) < FirstBeyond)) ThrowOverflow();
+  return static_cast<Single>(value);
+}
 
 // Nearest whole number, ties to even, as a 16-bit integer. Throws RuntimeError 6 outside -32768..32767.
 Integer ToInteger(double value);

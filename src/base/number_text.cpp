@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <optional>
 
 #include "base/runtime_error.h"
 
@@ -243,6 +244,33 @@ bool IsTooLarge(std::string_view number) {
   return exponent > first - point;
 }
 
+// A number of at most 15 digits without an exponent, as nearly all are: it is the quotient of two numbers that a Double
+// holds exactly. Nothing for any other text.
+std::optional<double> PlainDecimal(std::string_view text) {
+  constexpr std::size_t MostDigits = 15;
+  const bool isNegative = text.starts_with('-');
+  if (isNegative) text.remove_prefix(1);
+  if (text.empty() || text.size() > MostDigits + 1) return std::nullopt;
+  std::uint64_t digits = 0;
+  std::size_t decimals = 0;
+  std::size_t count = 0;
+  bool hasPoint = false;
+  for (const char c : text) {
+    if (IsDigit(c)) {
+      digits = digits * 10 + static_cast<std::uint64_t>(c - '0');
+      ++count;
+      if (hasPoint) ++decimals;
+    } else if (c == '.' && !hasPoint) {
+      hasPoint = true;
+    } else {
+      return std::nullopt;
+    }
+  }
+  if (count == 0 || count > MostDigits) return std::nullopt;
+  const double value = static_cast<double>(digits) / static_cast<double>(PowersOfTen[decimals]);
+  return isNegative ? -value : value;
+}
+
 double DecimalValue(std::string_view text) {
   const std::string number = LeadingDecimal(text);
   double value = 0;
@@ -269,6 +297,7 @@ std::string FormatNumber(Single value, NumberPattern pattern) { return PatternTe
 std::string FormatNumber(double value, NumberPattern pattern) { return PatternText(value, pattern); }
 
 double TextValue(std::string_view text) {
+  if (const auto plain = PlainDecimal(text)) return *plain;
   std::string compact;
   if (std::any_of(text.begin(), text.end(), IsSkipped)) {
     std::copy_if(text.begin(), text.end(), std::back_inserter(compact), [](char c) { return !IsSkipped(c); });

@@ -18,11 +18,15 @@ int IndexWithin(int listIndex, const std::vector<ComboItem>& items) {
 void TextBox::SetText(std::string text) {
   if (text == text_) return;
   text_ = std::move(text);
+  value_.reset();
   Touch();
   if (kind_ != TextKind::Output) Fire(Change);
 }
 
-double TextBox::Value() const { return TextValue(text_); }
+double TextBox::Value() const {
+  if (!value_) value_ = TextValue(text_);
+  return *value_;
+}
 
 int TextBox::KeyPress(int key) const { return kind_ == TextKind::Number ? NumericKeyFilter(key, text_) : key; }
 
@@ -87,7 +91,10 @@ void Combo::SetText(std::string text) {
   Assign(std::move(text), found == items_.end() ? Nothing : static_cast<int>(found - items_.begin()));
 }
 
-double Combo::Value() const { return TextValue(text_); }
+double Combo::Value() const {
+  if (!value_) value_ = TextValue(text_);
+  return *value_;
+}
 
 void Combo::SetListIndex(int index) {
   if (index == Nothing) {
@@ -100,6 +107,7 @@ void Combo::SetListIndex(int index) {
 void Combo::Assign(std::string text, int listIndex) {
   if (text == text_ && listIndex == listIndex_) return;
   text_ = std::move(text);
+  value_.reset();
   listIndex_ = listIndex;
   Touch();
   Fire(Change);

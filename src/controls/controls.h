@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -94,6 +95,7 @@ class TextBox : public Control {
 
  private:
   std::string text_;
+  mutable std::optional<double> value_;  // of the text, since it was asked for
   TextKind kind_;
   FontChoice font_;
   std::size_t selectionStart_ = 0;
@@ -214,6 +216,7 @@ class Combo : public Control {
   ComboKind kind_;
   std::vector<ComboItem> items_;
   std::string text_;
+  mutable std::optional<double> value_;  // of the text, since it was asked for
   int listIndex_ = Nothing;
 };
 

@@ -193,8 +193,12 @@ void StoreOutputs(SecondarySupport& support, NumberReader& reader, const OutputC
 Single Typed(std::string_view text) {
   return OrNothing([text] { return std::optional(ToSingle(TextValue(text))); }).value_or(Unfit);
 }
-Single Typed(const TextBox& box) { return Typed(box.Text()); }
-Single Typed(const Combo& combo) { return Typed(combo.Text()); }
+template <class Field>
+Single TypedIn(const Field& field) {
+  return OrNothing([&field] { return std::optional(ToSingle(field.Value())); }).value_or(Unfit);
+}
+Single Typed(const TextBox& box) { return TypedIn(box); }
+Single Typed(const Combo& combo) { return TypedIn(combo); }
 
 void ReadBolt(BoltSelection& set, const BoltControls& bolt) {
   set.Options = GetArrayIndex(bolt.Options);

@@ -271,7 +271,6 @@ SupportFigures IntersectionFigures(const RoofSupport& design, const Catalogs& ca
 
 Figures Analyze(const RoofSupport& design, const Catalogs& catalogs) noexcept {
   Figures figures;
-  figures.LiveSuggestion = LiveSuggestion(design);
   figures.LivePSUP = LivePSUP(design, catalogs);
   figures.Entries = EntryFigures(design, catalogs);
   figures.Intersections = IntersectionFigures(design, catalogs);
@@ -279,6 +278,10 @@ Figures Analyze(const RoofSupport& design, const Catalogs& catalogs) noexcept {
   const auto working = Attempt([&] { return WorkingNumbersOf(design, catalogs); });
   figures.WorkingNumbers = Attempt([&] { return static_cast<void>(working.Value()), true; });
   figures.Suggested = Attempt([&] { return Suggest(TypedSite(design), design.Units); });
+  figures.LiveSuggestion = Attempt([&] {
+    const bool isShown = IsPlausible(TypedSite(design));
+    return isShown ? std::optional(AsShown(figures.Suggested.Value(), design.Units)) : std::nullopt;
+  });
   figures.Primary =
       Attempt([&] { return PrimaryOf(design, catalogs, working.Value().Primary, figures.Suggested.Value()); });
   figures.EntryReinforcement = Attempt([&] { return EntryReinforcementOf(design, catalogs, working.Value()); });

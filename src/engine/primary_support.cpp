@@ -50,16 +50,19 @@ bool FailsASTM(const Bolt& bolt, UnitSystem units) {
   return BoltCapacityCheck(bolt.Grade, bolt.Diameter, units) < (units == Metric ? SmallestKilonewtons : SmallestTons);
 }
 
-std::optional<SuggestedFigures> SuggestLive(const SiteInputs& typed, UnitSystem units) {
-  if (typed.StabilityFactor < 1) return std::nullopt;
-  if (typed.CMRR < 0 || typed.CMRR > 100) return std::nullopt;
-  if (typed.Width <= 0) return std::nullopt;
-  if (typed.Span <= typed.Width) return std::nullopt;
-  if (typed.Depth < 0) return std::nullopt;
+bool IsPlausible(const SiteInputs& typed) {
+  return typed.StabilityFactor >= 1 && typed.CMRR >= 0 && typed.CMRR <= 100 && typed.Width > 0 &&
+         typed.Span > typed.Width && typed.Depth >= 0;
+}
 
-  SuggestedFigures figures = Suggest(typed, units);
+SuggestedFigures AsShown(SuggestedFigures figures, UnitSystem units) {
   if (units == Metric) figures.SpanIsTooLarge = figures.SpanAndWidthMismatch = false;
   return figures;
+}
+
+std::optional<SuggestedFigures> SuggestLive(const SiteInputs& typed, UnitSystem units) {
+  if (!IsPlausible(typed)) return std::nullopt;
+  return AsShown(Suggest(typed, units), units);
 }
 
 std::optional<Single> ActualLive(const BoltPattern& typed, UnitSystem units, const GradeBasis& basis) {

@@ -73,8 +73,14 @@ Single InFeet(Single length, UnitSystem units);
 
 // ---- live in the dialog: values as typed, in the project's units --------------------------------------------------
 
-// Nothing when the stability factor is below 1, the rating outside 0..100, the width not above 0, the span not above
-// the width, or the depth negative. The two span warnings are for English designs only.
+// Whether the dialog suggests support for the site: not when the stability factor is below 1, the rating outside
+// 0..100, the width not above 0, the span not above the width, or the depth negative.
+bool IsPlausible(const SiteInputs& typed);
+
+// The suggestions as the dialog shows them: the two span warnings are for English designs only.
+SuggestedFigures AsShown(SuggestedFigures figures, UnitSystem units);
+
+// What the dialog suggests for the site; nothing when it is not plausible.
 std::optional<SuggestedFigures> SuggestLive(const SiteInputs& typed, UnitSystem units);
 
 // PSUP of the pattern as typed. Nothing when there are no bolts or more than 10 in a row, the bolt is not above 0.5 in

@@ -90,6 +90,7 @@ std::string_view ItemReader::TakeUntil(const ByteSet& delimiters) {
 }
 
 void ItemReader::SkipBlanks() {
+  if (!rest_.starts_with(Blank)) return;
   const auto* end = std::find_if(rest_.begin(), rest_.end(), [](char byte) { return byte != Blank; });
   rest_.remove_prefix(static_cast<std::size_t>(end - rest_.begin()));
 }

@@ -26,7 +26,9 @@ void ReportText::Line(std::string_view text) {
 }
 
 void ReportText::Value(std::string_view label, std::string_view value, int unit) {
-  page += PadDots(label, ReportWidth);
+  const std::size_t taken = CharacterCount(label);
+  page += label;
+  if (taken < ReportWidth) page.append(ReportWidth - taken, '.');
   page += value;
   Line(UnitText(unit, units));
 }

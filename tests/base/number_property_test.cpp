@@ -5,8 +5,10 @@
 
 #include <algorithm>
 #include <bit>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <string>
 
 #include "base/arithmetic.h"
 #include "base/number_text.h"
@@ -74,6 +76,19 @@ void AssertOrderIsKept(Float a, Float b) {
   RC_ASSERT(TextValue(FormatNumber(low, "0.0")) <= TextValue(FormatNumber(high, "0.0")));
   RC_ASSERT(TextValue(FormatNumber(low, "0.#0")) <= TextValue(FormatNumber(high, "0.#0")));
   RC_ASSERT(TextValue(FormatNumber(low, "0")) <= TextValue(FormatNumber(high, "0")));
+}
+
+// Of up to 20 digits with a point anywhere, which is beyond what is read without the library.
+RC_GTEST_PROP(TextValueProperty, IsTheNearestDoubleHoweverManyDigits, ()) {
+  const auto digits = *rc::gen::nonEmpty(rc::gen::container<std::string>(rc::gen::inRange('0', ':')));
+  const auto point = *rc::gen::inRange<std::size_t>(0, digits.size() + 1);
+  const std::string text = digits.substr(0, point) + "." + digits.substr(point);
+
+  double nearest = 0;
+  std::from_chars(text.data(), text.data() + text.size(), nearest);
+
+  RC_ASSERT(TextValue(text) == nearest);
+  RC_ASSERT(TextValue("-" + text) == -nearest);
 }
 
 RC_GTEST_PROP(FormatNumberProperty, ALargerSingleNeverShowsASmallerText, ()) {

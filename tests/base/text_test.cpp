@@ -15,6 +15,9 @@ TEST(Characters, AnUmlautCountsOnce) {
   EXPECT_EQ(CharacterCount("Förderstrecke Süd"), 17U);
   EXPECT_EQ(CharacterCount("€ 北"), 3U);
   EXPECT_EQ(CharacterCount(""), 0U);
+  EXPECT_EQ(CharacterCount("Querschlag"), 10U);
+  EXPECT_EQ(CharacterCount("1234567ä90€"), 11U);  // across the eighth byte
+  EXPECT_EQ(CharacterCount("北北北北北北北"), 7U);
 }
 
 TEST(Characters, AnOffsetIsTheByteOfAPosition) {

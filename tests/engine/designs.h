@@ -50,4 +50,38 @@ inline Design MetricDesign() {
   return design;
 }
 
+// Every analysis and every system in use.
+inline Design FullDesign() {
+  Design design = EnglishDesign();
+  design.Primary.Analysed = design.Entries.Analysed = design.Intersections.Analysed = 1;
+  for (BoltSelection* set : design.BoltSets()) {
+    set->Options = 1;
+    set->Length = 6;
+    set->DiameterStd = 0.75F;
+    set->GradeStd = 75;
+    set->BoltsperRow = 4;
+    set->RowSpacing = 4;
+    set->Number = 10;
+  }
+  for (SecondarySupport* support : {&design.Entries, &design.Intersections}) {
+    for (SupportSystem* system : support->Systems()) system->Use = 1;
+    support->RockLoadHeight = 8;
+    support->RockFallAngle = support->RockFallAngleXcut = 30;
+    support->Cable.Length = 10;
+    support->Cable.CapMode = 1;
+    support->Cable.CapacityStd = 27;
+    support->Cable.BoltsPerRow = 2;
+    support->Cable.RowSpacing = 5;
+    support->Cable.Number = 10;
+    support->Truss.Angle = 45;
+    support->Truss.Capacity = 30;
+    support->Truss.Spacing = support->Truss.Number = 4;
+    support->Standing.Capacity = 50;
+    support->Standing.NumberPerRow = 2;
+    support->Standing.RowSpacing = 8;
+    support->Standing.Number = 4;
+  }
+  return design;
+}
+
 }  // namespace orby::test
