@@ -2,6 +2,7 @@
 #include <valgrind/callgrind.h>
 
 #include <cstdio>
+#include <ctime>
 #include <functional>
 #include <map>
 #include <string>
@@ -103,6 +104,21 @@ const std::map<std::string, std::function<void()>> Steps{
     {"live_refresh", LiveRefresh},    {"analyze", AnalyzeDesign},      {"report_pages", ReportPages},
     {"read_project", ReadOneProject}, {"default_curve", DefaultCurve}, {"key_press", KeyPress}};
 
+// Prints how many designs a second one core analyses, by the processor's time.
+void PrintRate() {
+  constexpr int Designs = 300000;
+  Bench bench;
+  const std::clock_t began = std::clock();
+  bool isComputed = true;
+  for (int i = 0; i < Designs; ++i) {
+    bench.program.WorkParms.Place.DepthofCover = static_cast<Single>(300 + i % 1000);
+    const Figures figures = Analyze(bench.program.WorkParms, bench.program.catalogs);
+    isComputed = isComputed && figures.Primary.IsThere();
+  }
+  const double seconds = static_cast<double>(std::clock() - began) / CLOCKS_PER_SEC;
+  std::printf("%d\n", isComputed ? static_cast<int>(Designs / seconds) : 0);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -111,9 +127,13 @@ int main(int argc, char** argv) {
     for (const auto& [name, step] : Steps) std::puts(name.c_str());
     return 0;
   }
+  if (word == "rate") {
+    PrintRate();
+    return 0;
+  }
   const auto step = Steps.find(argc > 2 ? argv[2] : "");
   if (word != "run" || step == Steps.end()) {
-    std::fputs("usage: orby-bench list | run NAME\n", stderr);
+    std::fputs("usage: orby-bench list | run NAME | rate\n", stderr);
     return 1;
   }
   step->second();

@@ -4,7 +4,7 @@ add_library(orby_options INTERFACE)
 target_compile_features(orby_options INTERFACE cxx_std_20)
 target_compile_options(orby_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
-  -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -Werror
+  -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough
   -ffp-contract=off)
 target_include_directories(orby_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
@@ -12,6 +12,9 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(orby_options INTERFACE -Wduplicated-cond -Wlogical-op -Wno-restrict)
 else()
   target_compile_options(orby_options INTERFACE -Wreserved-identifier)
+endif()
+if(ORBY_WARNINGS_ARE_ERRORS)
+  target_compile_options(orby_options INTERFACE -Werror)
 endif()
 if(ORBY_SANITIZE)
   target_compile_options(orby_options INTERFACE

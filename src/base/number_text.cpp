@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -68,10 +69,12 @@ std::uint64_t ScaledToWhole(std::uint64_t mantissa, int shift, int decimals) {
 // Values of everyday size, scaled exactly in integers; an exact tie goes away from zero.
 RoundedDigits RoundExactly(double magnitude, int places) {
   constexpr int MantissaBits = 53;
-  int binaryExponent = 0;
-  const double fraction = std::frexp(magnitude, &binaryExponent);
+  constexpr std::uint64_t LeadingBit = std::uint64_t{1} << (MantissaBits - 1);
+  constexpr int ExponentBias = 1022;
+  const auto bits = std::bit_cast<std::uint64_t>(magnitude);
+  const int binaryExponent = static_cast<int>(bits >> (MantissaBits - 1)) - ExponentBias;
   const int shift = std::max(MantissaBits - binaryExponent, 0);  // magnitude = mantissa / 2^shift, shift in 0..74
-  const auto mantissa = static_cast<std::uint64_t>(std::ldexp(fraction, binaryExponent + shift));
+  const std::uint64_t mantissa = ((bits & (LeadingBit - 1)) | LeadingBit) << std::max(binaryExponent - MantissaBits, 0);
   // floor(log10): 0.30103 is log10 of 2; one too few is mended below.
   int decimals = places - 1 - static_cast<int>(std::floor((binaryExponent - 1) * 0.30103));
   std::uint64_t digits = ScaledToWhole(mantissa, shift, decimals);

@@ -30,6 +30,8 @@ bool SameWithoutCase(std::string_view a, std::string_view b);
 // Takes the next line off the front of `rest` and gives it without its end: CR LF, LF or CR.
 std::string_view TakeLine(std::string_view& rest);
 
+// Helpers of whoever composes lines of dots; the reports write theirs in place.
+//
 // The label followed by dots up to the width; a label as long as the width or longer stays as it is.
 std::string PadDots(std::string_view label, std::size_t width);
 

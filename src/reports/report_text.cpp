@@ -26,14 +26,21 @@ void ReportText::Line(std::string_view text) {
 }
 
 void ReportText::Value(std::string_view label, std::string_view value, int unit) {
-  const std::size_t taken = CharacterCount(label);
   page += label;
-  if (taken < ReportWidth) page.append(ReportWidth - taken, '.');
+  Dots(CharacterCount(label));
   page += value;
   Line(UnitText(unit, units));
 }
 
-void ReportText::Words(std::string_view label, std::string_view text) { Line(DotLeader(label, text, ReportWidth)); }
+void ReportText::Words(std::string_view label, std::string_view text) {
+  page += label;
+  Dots(CharacterCount(label) + CharacterCount(text));
+  Line(text);
+}
+
+void ReportText::Dots(std::size_t taken) {
+  if (taken < ReportWidth) page.append(ReportWidth - taken, '.');
+}
 
 void ReportText::Wrapped(std::string_view text, std::size_t width) { Line(WordWrapText(text, width)); }
 
