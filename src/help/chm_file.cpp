@@ -1,26 +1,13 @@
 #include "help/chm_file.h"
 
 #include <chm_lib.h>
+#include <zlib.h>
 
-#include <array>
 #include <cstddef>
 #include <fstream>
 
 namespace orby {
 namespace {
-
-constexpr std::array<std::uint32_t, 256> MakeCheckTable() {
-  constexpr std::uint32_t Polynomial = 0xEDB88320U;
-  std::array<std::uint32_t, 256> table{};
-  for (std::uint32_t i = 0; i < table.size(); ++i) {
-    std::uint32_t value = i;
-    for (int bit = 0; bit < 8; ++bit) value = (value >> 1U) ^ ((value & 1U) != 0 ? Polynomial : 0U);
-    table[i] = value;
-  }
-  return table;
-}
-
-constexpr auto CheckTable = MakeCheckTable();
 
 // Where the header of a help file holds the date that we use for the check sum, low byte first.
 constexpr std::size_t CheckPlace = 16;
@@ -75,9 +62,7 @@ int NoteName(chmFile*, chmUnitInfo* unit, void* names) {
 }  // namespace
 
 std::uint32_t CheckSum(std::string_view bytes, std::uint32_t before) {
-  std::uint32_t sum = ~before;
-  for (const char byte : bytes) sum = (sum >> 8U) ^ CheckTable[(sum ^ static_cast<std::uint8_t>(byte)) & 0xFFU];
-  return ~sum;
+  return static_cast<std::uint32_t>(crc32_z(before, reinterpret_cast<const Bytef*>(bytes.data()), bytes.size()));
 }
 
 void ChmFile::Closer::operator()(chmFile* file) const { chm_close(file); }
