@@ -54,16 +54,11 @@ struct ListGroup {
   std::string_view IndexKey;
   std::array<ListKey, 3> Lists;
   Integer Capacity = BoltListCapacity;
-  // As in IniRow; were the blank to count, the list would shrink to its first entry.
-  bool ReaderAddsBlank = false;
 };
 
 constexpr std::array ListGroups{
     ListGroup{"DefaultBoltGradeIndexENG", {{{"DefaultBoltGradeArrayENG", &Catalogs::DefaultBoltGradeArrayENG}}}},
-    ListGroup{"DefaultBoltUTSIndexENG",
-              {{{"DefaultBoltUTSArrayENG", &Catalogs::DefaultBoltUTSArrayENG}}},
-              BoltListCapacity,
-              true},
+    ListGroup{"DefaultBoltUTSIndexENG", {{{"DefaultBoltUTSArrayENG", &Catalogs::DefaultBoltUTSArrayENG}}}},
     ListGroup{"DefaultBoltDiamIndexENG", {{{"DefaultBoltDiamArrayENG", &Catalogs::DefaultBoltDiamArrayENG}}}},
     ListGroup{"DefaultBoltGradeIndexMET", {{{"DefaultBoltGradeArrayMET", &Catalogs::DefaultBoltGradeArrayMET}}}},
     ListGroup{"DefaultBoltUTSIndexMET", {{{"DefaultBoltUTSArrayMET", &Catalogs::DefaultBoltUTSArrayMET}}}},
@@ -89,8 +84,7 @@ Integer ReadHighestIndex(const IniText& ini, std::string_view section, std::stri
 }
 
 void ReadListGroup(Catalogs& catalogs, const IniText& ini, const ListGroup& group) {
-  const std::string indexKey = std::string(group.IndexKey) + (group.ReaderAddsBlank ? " " : "");
-  const Integer highest = ReadHighestIndex(ini, BoltParamsSection, indexKey, group.Capacity);
+  const Integer highest = ReadHighestIndex(ini, BoltParamsSection, group.IndexKey, group.Capacity);
   for (const ListKey& row : group.Lists) {
     if (row.List == nullptr) break;
     CatalogList& list = catalogs.*row.List;

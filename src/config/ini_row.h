@@ -23,9 +23,6 @@ struct IniRow {
   std::string_view Default = {};  // what an empty or missing value reads as
   // What becomes of a text that was read.
   std::string (*Accepted)(Program& program, const std::string& read) = nullptr;
-  // The reader asks for the key with a blank behind its name, the writer writes it without. The value comes back only
-  // because blanks around a name do not count.
-  bool ReaderAddsBlank = false;
   bool IsPath = false;  // a text that a file system gave, whatever its bytes
 };
 
@@ -33,7 +30,7 @@ struct IniRow {
 template <class Group>
 void ReadIniRow(Program& program, Group& group, const IniText& ini, std::string_view section, const IniRow<Group>& row,
                 std::string_view suffix = {}) {
-  const std::string key = std::string(row.Key).append(suffix) + (row.ReaderAddsBlank ? " " : "");
+  const std::string key = std::string(row.Key).append(suffix);
   const auto read = [&](auto member) {
     using Value = std::remove_reference_t<decltype(group.*member)>;
     if constexpr (std::same_as<Value, std::string>) {

@@ -96,7 +96,7 @@ constexpr std::array GraphRows{
     GraphRow{"GridStyle", &GraphSettings::GridStyle, IniRange{0, 3}},
     GraphRow{"GraphStyle", &GraphSettings::GraphStyle, IniRange{1, 3}},
     GraphRow{"CurveLegend", &GraphSettings::CurveLegend, OnOff},
-    GraphRow{"SymbolSize", &GraphSettings::SymbolSize, IniRange{3, 20}, {}, {}, true},
+    GraphRow{"SymbolSize", &GraphSettings::SymbolSize, IniRange{3, 20}},
     GraphRow{"GraphUnits", &GraphSettings::GraphUnits, OnOff},
     GraphRow{"GraphTitle", &GraphSettings::GraphTitle},
 };
