@@ -21,6 +21,8 @@ class Computed {
 
   bool IsThere() const { return error_ == 0; }
   int Error() const { return error_; }  // 0: none
+  // Null when there is none.
+  const T* IfThere() const noexcept { return error_ == 0 ? &value_ : nullptr; }
   // Throws the RuntimeError that kept the value from being computed.
   const T& Value() const {
     if (error_ != 0) throw RuntimeError(error_);

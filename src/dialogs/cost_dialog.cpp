@@ -87,7 +87,8 @@ void CostDialog::TieCommands() {
   };
   Command1.Click = [this] { Close(); };
   cmdresults.Click = [this] {
-    if (!ValidateCost() || !While(Act::Report, [this] { return BuildReport(); })) return;
+    if (!ValidateCost()) return;
+    While(Act::Report, [this] { BuildReport(); });
     ShowResults(program_);
   };
   Command5.Click = [this] { CopyClip(program_, *this); };
@@ -173,15 +174,15 @@ void CostDialog::SaveWorkParms() {
 
 void CostDialog::CopyCostToWorkParmsCopy() { ReadCost(program_.WorkParmsCopy.Cost); }
 
-bool CostDialog::BuildReport() {
+void CostDialog::BuildReport() {
   CopyCostToWorkParmsCopy();
   // The curves of the results window are those of the project, not of a design that was shown before.
   program_.WorkParmsCopy.Support() = program_.WorkParms.Support();
-  if (!CostReport(program_)) return false;
+  program_.OutBuf[1] = CostReport(program_.WorkParmsCopy.Cost, program_.WorkParms.Units);
+  program_.LastPage = 1;
   const Preview preview(program_.WorkParms.Cost, program_.WorkParmsCopy.Cost);
   program_.ReportCaller = report_caller::Cost;
   LoadOutBuf0(program_);
-  return true;
 }
 
 }  // namespace orby

@@ -111,9 +111,9 @@ class CostDialog : public CostControls {
   // The same into the scratch design, for previews.
   void CopyCostToWorkParmsCopy();
 
-  // Builds the report pages of the fields as they stand, without committing or checking them; false when the cost
-  // table could not be built.
-  bool BuildReport();
+  // Builds the report pages of the fields as they stand, without committing or checking them. Throws what a report
+  // throws that cannot be computed.
+  void BuildReport();
 
   bool HoldEvents = false;  // holds the live figures back
   bool CommitOnClose = false;

@@ -115,12 +115,12 @@ constexpr SystemRules IntersectionRules{CablesInIntersection, TrussesInIntersect
 
 void JudgeSystems(const RoofSupport& design, const Catalogs& catalogs, const SecondarySupport& support,
                   const SystemRules& rules, SupportFigures& figures) {
-  if (!figures.RockLoad.IsThere() || !figures.RockLoad.Value()) return;
-  const Single load = *figures.RockLoad.Value();
+  const std::optional<Single>* load = figures.RockLoad.IfThere();
+  if (load == nullptr || !*load) return;
   const auto systems = support.Systems();
   for (std::size_t i = 0; i < SystemCount; ++i) {
     if (systems[i]->Use != 1) continue;
-    figures.Systems[i] = Attempt([&] { return rules[i](design, catalogs, load); });
+    figures.Systems[i] = Attempt([&] { return rules[i](design, catalogs, **load); });
   }
 }
 
@@ -275,6 +275,8 @@ Figures Analyze(const RoofSupport& design, const Catalogs& catalogs) noexcept {
   figures.Entries = EntryFigures(design, catalogs);
   figures.Intersections = IntersectionFigures(design, catalogs);
 
+  // What it throws ends in Attempt.
+  // cppcheck-suppress throwInNoexceptFunction
   const auto working = Attempt([&] { return WorkingNumbersOf(design, catalogs); });
   figures.WorkingNumbers = Attempt([&] { return static_cast<void>(working.Value()), true; });
   figures.Suggested = Attempt([&] { return Suggest(TypedSite(design), design.Units); });

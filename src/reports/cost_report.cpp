@@ -34,17 +34,15 @@ std::string CostLine(std::string_view label, const CostRow& costs) {
 
 }  // namespace
 
-bool CostReport(Program& program) {
-  const CostTable table = AnalyseCost(program.WorkParmsCopy.Cost);
-  ReportText page(program.WorkParms.Units);
+std::string CostReport(const CostInputs& costs, UnitSystem units) {
+  const CostTable table = AnalyseCost(costs);
+  ReportText page(units);
   page.Line("[TULK COST CALCULATIONS]");
   page.Line();
   page.Line(HeadingRow());
   for (std::size_t head = 0; head < CostHeads; ++head) page.Line(CostLine(HeadLabels[head], table.Heads[head]));
   page.Line(CostLine(TotalLabel, table.Totals));
-  program.OutBuf[1] = page.Take();
-  program.LastPage = 1;
-  return true;
+  return page.Take();
 }
 
 }  // namespace orby

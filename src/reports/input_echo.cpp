@@ -127,8 +127,8 @@ using YieldOfMetricGrade = Single (*)(Single grade, const Catalogs& catalogs);
 // Writes the parts of the page one after the other.
 class Echo {
  public:
-  explicit Echo(const Program& theProgram)
-      : program(theProgram), design(theProgram.WorkParms), page(theProgram.WorkParms.Units) {}
+  Echo(const Design& theDesign, const EchoedProject& theProject, const Catalogs& theCatalogs)
+      : design(theDesign), project(theProject), catalogs(theCatalogs), page(theDesign.Units) {}
 
   void Header();
   void Project();
@@ -147,8 +147,9 @@ class Echo {
   void BoltCapacities(const Bolt& bolt, YieldOfMetricGrade yieldOf);
   void Cables(const CableSelection& cable);
 
-  const Program& program;
   const Design& design;
+  const EchoedProject& project;
+  const Catalogs& catalogs;
   ReportText page;
 };
 
@@ -159,22 +160,21 @@ void Echo::Numbers(const Rows& rows, const Source& source) {
 
 void Echo::Header() {
   constexpr std::size_t FileNameWidth = 70;
-  if (program.options.PrintModuleHeader != 1) return;
   page.Line("ORBY module build: " + std::string(BuildStamp));
-  page.Wrapped("Project File: " + program.CurrentFile, FileNameWidth);
+  page.Wrapped("Project File: " + project.File, FileNameWidth);
   std::string units = "Input Units: ";
-  units += UnitLabel(unit_row::Length, program.WorkParms.Units);
-  units += UnitLabel(unit_row::Stress, program.WorkParms.Units);
+  units += UnitLabel(unit_row::Length, design.Units);
+  units += UnitLabel(unit_row::Stress, design.Units);
   page.Line(units);
   page.Line();
 }
 
 void Echo::Project() {
   page.Line("[PROJECT TITLE]");
-  page.Line(program.ProjectTitle);
+  page.Line(project.Title);
   page.Line();
   page.Line("[PROJECT DESCRIPTION]");
-  page.Line(program.ProjectDescription);
+  page.Line(project.Description);
   page.Line();
 }
 
@@ -216,10 +216,9 @@ void Echo::Analyses() {
 }
 
 void Echo::BoltCapacities(const Bolt& bolt, YieldOfMetricGrade yieldOf) {
-  const bool metric = program.WorkParms.Units == Metric;
-  const Catalogs& catalogs = program.catalogs;
-  auto [diameter, grade] = InEnglishUnits(bolt, program.WorkParms.Units);
-  if (program.WorkParms.Basis != StrengthBasis::Yield) {
+  const bool metric = design.Units == Metric;
+  auto [diameter, grade] = InEnglishUnits(bolt, design.Units);
+  if (design.Basis != StrengthBasis::Yield) {
     grade = metric ? yieldOf(grade, catalogs) : YieldFromUltimateKsi(grade, catalogs);
   }
   const std::string yield = metric ? FormatNumber(CapacityKN(grade, diameter), "0")
@@ -232,7 +231,7 @@ void Echo::BoltCapacities(const Bolt& bolt, YieldOfMetricGrade yieldOf) {
 
 void Echo::Bolts(const BoltSelection& set, YieldOfMetricGrade yieldOf) {
   constexpr std::string_view OptionLabel = "Roof Bolt Option";
-  if (program.WorkParms.Basis == StrengthBasis::Ultimate) page.Line("Roof Bolt Grade specified as Ultimate Strength");
+  if (design.Basis == StrengthBasis::Ultimate) page.Line("Roof Bolt Grade specified as Ultimate Strength");
   if (set.Options == 0) {
     page.Words(OptionLabel, TableSelection);
     page.Words("Bolt Description", set.Desc);
@@ -304,16 +303,23 @@ void Echo::Secondary() {
 
 }  // namespace
 
-void LoadOutBuf0(Program& program) {
-  SaveDescription(program);
-  Echo echo(program);
-  echo.Header();
+std::string InputEcho(const Design& design, const EchoedProject& project, const Catalogs& catalogs) {
+  Echo echo(design, project, catalogs);
+  if (project.HasModuleHeader) echo.Header();
   echo.Project();
   echo.Geology();
   echo.Analyses();
   echo.Primary();
   echo.Secondary();
-  program.OutBuf[0] = echo.Take();
+  return echo.Take();
+}
+
+void LoadOutBuf0(Program& program) {
+  SaveDescription(program);
+  const bool hasHeader = program.options.PrintModuleHeader == 1;
+  program.OutBuf[0] =
+      InputEcho(program.WorkParms, {program.CurrentFile, program.ProjectTitle, program.ProjectDescription, hasHeader},
+                program.catalogs);
   program.LastPage = 1;
 }
 

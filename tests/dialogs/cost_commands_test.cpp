@@ -251,6 +251,7 @@ TEST_F(ACostDialog, ShowsTheInputsBesideTheCostTable) {
 
   EXPECT_THAT(program.OutBuf[0], StartsWith("ORBY module build: "));
   EXPECT_THAT(program.OutBuf[0], HasSubstr("Panel 3 belt entry"));
+  EXPECT_EQ(program.LastPage, 1);
 }
 
 TEST_F(ACostDialog, CommitsNothingByShowingResults) {
@@ -324,6 +325,16 @@ TEST_F(ACostDialog, LeavesTheCostsAsTheyWereWhenTheReportFails) {
   EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3.0F);
   EXPECT_EQ(program.WorkParmsCopy.Cost.BoltCost, 9.0F);
   EXPECT_EQ(platform.windows.modalForms, 0);
+}
+
+TEST_F(ACostDialog, KeepsThePageBeforeWhenTheTableCannotBeComputed) {
+  program.OutBuf[1] = "as it was";
+  dialog.Open();
+  dialog.txtTotalLabor.SetText("3E38");
+
+  EXPECT_EQ(ErrorNumberOf([this] { dialog.cmdresults.Press(); }), 6);
+
+  EXPECT_EQ(program.OutBuf[1], "as it was");
 }
 
 TEST_F(ACostDialog, LeavesTheDesignAsItWasByCancelAfterResults) {
