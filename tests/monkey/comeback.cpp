@@ -178,8 +178,9 @@ void NoteShown(ShownProject& shown) {
   for (const auto& [name, text] : fields) FieldNamed(shown, name, at++).settled.Set(text);
 }
 
-void NoteEndedProject(ShownProject& shown, bool half) {
+void NoteEndedProject(ShownProject& shown, bool refused, bool half) {
   shown.awaited = true;
+  shown.refused = refused;
   shown.half = half;
   // An act may have begun before what the one before it showed, such as a rating that the estimator has just given.
   if (const QWidget* editor = WindowNamed(std::string(shown.form.View()).c_str())) {
@@ -215,7 +216,7 @@ bool Comeback::AnswerQuestion(QWidget& window) {
 
 void Comeback::CompareCaption(const QWidget& mainWindow) {
   // After the other button a project without changes is not opened again.
-  if (shown_.half || (!shown_.unsaved && !byItself_)) return;
+  if (shown_.refused || (!shown_.unsaved && !byItself_)) return;
   const std::string file = FileInCaption(mainWindow).toStdString();
   if (file != shown_.file.View() || mainWindow.windowTitle().endsWith('*') != shown_.unsaved) {
     find_("the project is not back: its name", "shown before: " + std::string(shown_.file.View()) +

@@ -14,9 +14,10 @@ namespace orby::monkey {
 // run is not in it.
 void NoteShown(ShownProject& shown);
 
-// The run ends: what the main window and the file of unsaved work say of the project. half: it is what had been read of
-// a refused file, so the next run begins with a new project.
-void NoteEndedProject(ShownProject& shown, bool half);
+// The run ends: what the main window and the file of unsaved work say of the project. refused: a file has
+// been refused in this run, whose name the project then bears unseen. half: nothing has been edited in what was read of
+// it, so the next run begins with a new project.
+void NoteEndedProject(ShownProject& shown, bool refused, bool half);
 
 // Looks for the project in a new run, step by step, as a user would.
 class Comeback {

@@ -82,6 +82,7 @@ struct ShownField {
 struct ShownProject {
   bool awaited;          // the next run has not shown it yet
   bool unsaved;          // something was not saved
+  bool refused;          // its name on view may be that of the one before
   bool half;             // it was half read, so that a new one follows
   FixedText<400> file;   // by the caption of the main window
   FixedText<400> title;  // by what was kept

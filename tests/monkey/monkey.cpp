@@ -116,7 +116,8 @@ void Monkey::TakeEnd(QMessageBox& box) {
     const int number = text.section('\'', 1, 1).toInt();
     record_.trace.Set(OriginOfError(number));
     // A project that ends the run while it is being looked for is not waited for again.
-    if (comeback_ == nullptr) NoteEndedProject(ledger_.shown, refused_ && text.contains("with a new project"));
+    if (comeback_ == nullptr)
+      NoteEndedProject(ledger_.shown, refused_, refused_ && text.contains("with a new project"));
   }
   for (QAbstractButton* button : box.buttons()) {
     if (PlainCaption(button->text()) == "Start Again") return button->click();
