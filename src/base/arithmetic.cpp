@@ -7,14 +7,6 @@
 #include "base/runtime_error.h"
 
 namespace orby {
-namespace {
-
-double WithinDouble(double result) {
-  if (!std::isfinite(result)) throw RuntimeError(error_number::Overflow);
-  return result;
-}
-
-}  // namespace
 
 double Logarithm(double x) {
   if (!(x > 0)) throw RuntimeError(error_number::BadCall);

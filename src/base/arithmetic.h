@@ -15,12 +15,16 @@ inline constexpr double RadiansPerDegree = 0.017453292519943278;
 [[noreturn]] void ThrowOverflow();
 [[noreturn]] void ThrowDivisionByZero();
 
+// The result. Throws RuntimeError 6 when it is beyond a Double.
+inline double WithinDouble(double result) {
+  if (!std::isfinite(result)) ThrowOverflow();
+  return result;
+}
+
 // dividend / divisor. Throws RuntimeError 11 when the divisor is 0, 6 when the quotient is beyond a Double.
 inline double Divide(double dividend, double divisor) {
   if (divisor == 0) ThrowDivisionByZero();
-  const double quotient = dividend / divisor;
-  if (!std::isfinite(quotient)) ThrowOverflow();
-  return quotient;
+  return WithinDouble(dividend / divisor);
 }
 
 // ln x. Throws RuntimeError 5 when x is 0 or less.

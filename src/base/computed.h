@@ -21,8 +21,8 @@ class Computed {
 
   bool IsThere() const { return error_ == 0; }
   int Error() const { return error_; }  // 0: none
-  // Null when there is none.
-  const T* IfThere() const noexcept { return error_ == 0 ? &value_ : nullptr; }
+  // The value, or the other one when there is none.
+  T ValueOr(T other) const noexcept { return error_ == 0 ? value_ : other; }
   // Throws the RuntimeError that kept the value from being computed.
   const T& Value() const {
     if (error_ != 0) throw RuntimeError(error_);
@@ -34,7 +34,7 @@ class Computed {
   int error_ = 0;
 };
 
-// What the computation returns, or the number of the RuntimeError that it throws.
+// Returns what the computation returns, or the number of the RuntimeError that it throws.
 template <class Compute>
 auto Attempt(const Compute& compute) -> Computed<decltype(compute())> {
   try {

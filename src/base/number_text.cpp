@@ -110,11 +110,14 @@ void AppendFixed(std::string& text, std::uint64_t digits, int decimals, int mini
   const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), digits).ptr;
   const int count = digits == 0 ? 0 : static_cast<int>(end - buffer.data());
   const int whole = std::max(count - decimals, 0);
-  text.append(static_cast<std::size_t>(std::max(minimumWhole - whole, 0)), '0');
+  const auto appendZeros = [&text](int zeros) {
+    if (zeros > 0) text.append(static_cast<std::size_t>(zeros), '0');
+  };
+  appendZeros(minimumWhole - whole);
   text.append(buffer.data(), static_cast<std::size_t>(whole));
   if (point) text.push_back('.');
   if (decimals == 0) return;
-  text.append(static_cast<std::size_t>(std::max(decimals - count, 0)), '0');
+  appendZeros(decimals - count);
   text.append(buffer.data() + whole, static_cast<std::size_t>(count - whole));
 }
 
@@ -247,8 +250,8 @@ bool IsTooLarge(std::string_view number) {
   return exponent > first - point;
 }
 
-// A number of at most 15 digits without an exponent, as nearly all are: it is the quotient of two numbers that a Double
-// holds exactly. Nothing for any other text.
+// Returns the value of a text of at most 15 digits without an exponent, nothing for any other text. A Double holds such
+// digits and the power of ten below them exactly, so their quotient is the nearest Double. Nearly all texts are so.
 std::optional<double> PlainDecimal(std::string_view text) {
   constexpr std::size_t MostDigits = 15;
   const bool isNegative = text.starts_with('-');

@@ -11,18 +11,17 @@ bool StartsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC
 
 char UpperLetter(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
-std::string Filled(std::string_view before, std::string_view after, std::size_t width, char filler) {
-  const std::size_t taken = CharacterCount(before) + CharacterCount(after);
+std::string Filled(std::string_view label, std::string_view value, std::size_t width, char filler) {
   std::string text;
-  text.reserve(std::max(width, before.size() + after.size()) + 16);
-  text += before;
-  if (taken < width) text.append(width - taken, filler);
-  text += after;
+  text.reserve(std::max(width, label.size() + value.size()) + 16);
+  AppendFilled(text, label, value, width, filler);
   return text;
 }
 
 // Whether the text has more characters than `count`, without walking all of it.
-bool IsLongerThan(std::string_view text, std::size_t count) { return CharacterOffset(text, count) < text.size(); }
+bool IsLongerThan(std::string_view text, std::size_t count) {
+  return text.size() > count && CharacterOffset(text, count) < text.size();
+}
 
 }  // namespace
 
@@ -86,6 +85,13 @@ std::string_view TakeLine(std::string_view& rest) {
     rest.remove_prefix(1);
   }
   return line;
+}
+
+void AppendFilled(std::string& text, std::string_view label, std::string_view value, std::size_t width, char filler) {
+  const std::size_t taken = CharacterCount(label) + CharacterCount(value);
+  text += label;
+  if (taken < width) text.append(width - taken, filler);
+  text += value;
 }
 
 std::string PadDots(std::string_view label, std::size_t width) { return Filled(label, {}, width, '.'); }

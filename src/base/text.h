@@ -30,8 +30,9 @@ bool SameWithoutCase(std::string_view a, std::string_view b);
 // Takes the next line off the front of `rest` and gives it without its end: CR LF, LF or CR.
 std::string_view TakeLine(std::string_view& rest);
 
-// Helpers of whoever composes lines of dots; the reports write theirs in place.
-//
+// Appends label, filler and value, filling the width together; just joins them when they fill it already.
+void AppendFilled(std::string& text, std::string_view label, std::string_view value, std::size_t width, char filler);
+
 // The label followed by dots up to the width; a label as long as the width or longer stays as it is.
 std::string PadDots(std::string_view label, std::size_t width);
 

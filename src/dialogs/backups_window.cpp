@@ -37,8 +37,8 @@ std::string Named(const Backup& entry) {
 }
 
 // With one decimal; "--" where there is none or it cannot be computed.
-std::string OneDecimal(const Computed<std::optional<Single>>& figure) {
-  return figure.IsThere() && figure.Value() ? FormatNumber(*figure.Value(), "0.0") : std::string(NoResult);
+std::string OneDecimal(std::optional<Single> figure) {
+  return figure ? FormatNumber(*figure, "0.0") : std::string(NoResult);
 }
 
 // The title as the user typed it: opening a file shifts its header.
@@ -123,8 +123,9 @@ void BackupsWindow::ShowProject(const UnsavedProject& project) {
   txtCMRR.SetText(NumberText(design.Place.CMRR));
   txtDepthofCover.SetText(NumberText(design.Place.DepthofCover) + length);
   txtEntryWidth.SetText(NumberText(design.Place.EntryWidth) + length);
-  txtSugPSUP.SetText(OneDecimal(LiveSuggestedPSUP(design)));
-  txtActualPSUP.SetText(OneDecimal(LivePSUP(design, program_.catalogs)));
+  const std::optional<SuggestedFigures> suggested = LiveSuggestion(design).ValueOr({});
+  txtSugPSUP.SetText(OneDecimal(suggested ? std::optional(suggested->SugPSUP) : std::nullopt));
+  txtActualPSUP.SetText(OneDecimal(LivePSUP(design, program_.catalogs).ValueOr({})));
 }
 
 void BackupsWindow::ClearProject() {

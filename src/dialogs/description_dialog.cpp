@@ -31,8 +31,8 @@ void Choose(Program& program, Choice& choice, Choice chosen) {
 
 DescriptionDialog::DescriptionDialog(Program& program) : program_(program) {
   // The table is one of metric bolts.
-  Option1.Click = [this](Integer) {
-    const auto units = Chosen<UnitSystem>(Option1);
+  Option1.Click = [this](Integer index) {
+    const UnitSystem units{index};
     if (units == English) Check1.SetValue(0);
     Check1.SetEnabled(units == Metric);
   };

@@ -14,7 +14,7 @@
 namespace orby {
 
 // The parts of a design that the refreshes read.
-enum class DesignPart { Place, Primary, Entries, Intersections };
+enum class DesignPart { Place, Primary, PrimaryBolt, Entries, Intersections };
 
 class ParametersDialog : public ParametersControls {
  public:
@@ -100,8 +100,8 @@ class ParametersDialog : public ParametersControls {
   bool MayCommit();
   void TellRefused(const Control& field);
 
-  // Reads the fields of the part into the typed design, as the live results need them: each set of bolts and of cables
-  // from its own tab. A number that no Single holds becomes Unfit.
+  // Reads the fields of the part into the typed design, for the live results. A number that no Single holds becomes
+  // Unfit.
   void ReadPart(DesignPart part);
 
   // Asks the estimator for a roof rating.

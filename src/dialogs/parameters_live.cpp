@@ -23,8 +23,9 @@ void Clear(const OutputControls& outputs) {
 
 // Shows the rock load and what each system in use gives; a system without a result keeps what it shows.
 void Show(const OutputControls& outputs, const SupportFigures& figures, const NumberPattern& pattern) {
-  if (!figures.RockLoad.IsThere() || !figures.RockLoad.Value()) return Clear(outputs);
-  const std::string load = FormatNumber(*figures.RockLoad.Value(), pattern);
+  const std::optional<Single> rockLoad = figures.RockLoad.ValueOr({});
+  if (!rockLoad) return Clear(outputs);
+  const std::string load = FormatNumber(*rockLoad, pattern);
   for (TextBox& box : outputs.RockLoad) {
     if (box.Text() != load) box.SetText(load);
   }
@@ -44,35 +45,34 @@ void Show(const OutputControls& outputs, const SupportFigures& figures, const Nu
 void ParametersDialog::ShowSuggested() {
   ReadPart(DesignPart::Place);
   ReadPart(DesignPart::Primary);
-  const auto live = LiveSuggestion(typed_);
-  if (!live.IsThere() || !live.Value()) return Show(txtSugPSUP, NoResult);
-  const SuggestedFigures& figures = *live.Value();
+  const std::optional<SuggestedFigures> figures = LiveSuggestion(typed_).ValueOr({});
+  if (!figures) return Show(txtSugPSUP, NoResult);
   // Metric designs have no live span warnings; the box stays as it is.
   if (Units() == English) {
     std::string warnings("WARNINGS:");
     warnings += LineEnd;
-    if (figures.SpanIsTooLarge) {
+    if (figures->SpanIsTooLarge) {
       warnings += SpanExceedsSuggested;
       warnings += LineEnd;
     }
-    if (figures.SpanAndWidthMismatch) {
+    if (figures->SpanAndWidthMismatch) {
       warnings += SpanAndWidthMayNotMatch;
       warnings += LineEnd;
     }
     txtMessage.SetText(std::move(warnings));
-    txtMessage.SetVisible(figures.SpanIsTooLarge || figures.SpanAndWidthMismatch);
+    txtMessage.SetVisible(figures->SpanIsTooLarge || figures->SpanAndWidthMismatch);
   }
-  Show(txtSugSumDiagonals, FormatNumber(figures.SuggestedSpan, OneDecimal));
-  Show(txtSuggestBoltLength, FormatNumber(figures.SugLength, OneDecimal));
-  Show(txtSugPSUP, FormatNumber(figures.SugPSUP, OneDecimal));
+  Show(txtSugSumDiagonals, FormatNumber(figures->SuggestedSpan, OneDecimal));
+  Show(txtSuggestBoltLength, FormatNumber(figures->SugLength, OneDecimal));
+  Show(txtSugPSUP, FormatNumber(figures->SugPSUP, OneDecimal));
 }
 
 void ParametersDialog::ShowActualPSUP() {
   ReadPart(DesignPart::Place);
   ReadPart(DesignPart::Primary);
-  const auto psup = LivePSUP(typed_, program_.catalogs);
-  const bool isShown = psup.IsThere() && psup.Value();
-  Show(txtActualPSUP, isShown ? FormatNumber(*psup.Value(), OneDecimal) : NoResult);
+  ReadPart(DesignPart::PrimaryBolt);
+  const std::optional<Single> psup = LivePSUP(typed_, program_.catalogs).ValueOr({});
+  Show(txtActualPSUP, psup ? FormatNumber(*psup, OneDecimal) : NoResult);
 }
 
 void ParametersDialog::ShowEntries() {

@@ -66,8 +66,8 @@ constexpr NumberField IntersectionFields[] = {
 };
 
 // By DesignPart.
-constexpr std::array<std::span<const NumberField>, 4> NumberFields{PlaceFields, PrimaryFields, EntryFields,
-                                                                   IntersectionFields};
+constexpr std::array<std::span<const NumberField>, 5> NumberFields{
+    PlaceFields, PrimaryFields, {}, EntryFields, IntersectionFields};
 
 struct FlagField {
   CheckBox ParametersControls::*control;
@@ -81,26 +81,38 @@ constexpr FlagField FlagFields[] = {
     {&C::chkSecondSupInter, [](auto& d) { return &d.Intersections.Analysed; }},
 };
 
+// What becomes of a field whose number no Single holds.
+enum class Misfit { Kept, Marked };
+
 // Reads numbers into a design and remembers the first control whose number did not fit.
 class NumberReader {
  public:
-  void Read(Single& field, const TextBox& box) { Read(field, box, box.Text()); }
-  void Read(Single& field, const Combo& combo) { Read(field, combo, combo.Text()); }
-  // A record keeps the rating as a whole number of 16 bits.
-  void ReadRating(Single& field, const TextBox& box) {
-    Keep(box, [&] { field = ToInteger(box.Value()); });
+  explicit NumberReader(Misfit misfit) : misfit_(misfit) {}
+
+  void Read(Single& field, const TextBox& box) {
+    Take(field, box, [&box] { return ToSingle(box.Value()); });
+  }
+  void Read(Single& field, const Combo& combo) {
+    Take(field, combo, [&combo] { return ToSingle(combo.Value()); });
   }
   void Read(Single& field, const Control& control, std::string_view text) {
-    Keep(control, [&] { field = ToSingle(TextValue(text)); });
+    Take(field, control, [text] { return ToSingle(TextValue(text)); });
+  }
+  // A record keeps the rating as a whole number of 16 bits.
+  void ReadRating(Single& field, const TextBox& box) {
+    Take(field, box, [&box] { return ToInteger(box.Value()); });
   }
   const Control* Refused() const { return refused_; }
 
  private:
   template <class Reading>
-  void Keep(const Control& control, const Reading& reading) {
-    if (!Succeeds(reading) && refused_ == nullptr) refused_ = &control;
+  void Take(Single& field, const Control& control, const Reading& reading) {
+    if (Succeeds([&] { field = reading(); })) return;
+    if (misfit_ == Misfit::Marked) field = Unfit;
+    if (refused_ == nullptr) refused_ = &control;
   }
 
+  Misfit misfit_;
   const Control* refused_ = nullptr;
 };
 
@@ -188,65 +200,40 @@ void StoreOutputs(SecondarySupport& support, NumberReader& reader, const OutputC
   }
 }
 
-// ---- as typed, for the live results ---------------------------------------------------------------------------------
-
-Single Typed(std::string_view text) {
-  return OrNothing([text] { return std::optional(ToSingle(TextValue(text))); }).value_or(Unfit);
-}
-template <class Field>
-Single TypedIn(const Field& field) {
-  return OrNothing([&field] { return std::optional(ToSingle(field.Value())); }).value_or(Unfit);
-}
-Single Typed(const TextBox& box) { return TypedIn(box); }
-Single Typed(const Combo& combo) { return TypedIn(combo); }
-
-void ReadBolt(BoltSelection& set, const BoltControls& bolt) {
-  set.Options = GetArrayIndex(bolt.Options);
-  if (set.Options == 0) {
-    set.TableDiameter = Typed(bolt.Table.Cell(bolt.Table.Row(), BoltColumn::Diameter));
-    set.TableGrade = Typed(bolt.Table.Cell(bolt.Table.Row(), BoltColumn::Grade));
-    return;
-  }
-  set.DiameterMode = GetArrayIndex(bolt.DiameterMode);
-  set.DiameterStd = Typed(bolt.DiameterStd);
-  set.DiameterManual = Typed(bolt.DiameterManual);
-  set.GradeMode = GetArrayIndex(bolt.GradeMode);
-  set.GradeStd = Typed(bolt.GradeStd);
-  set.GradeManual = Typed(bolt.GradeManual);
-}
-
-void ReadCable(CableSelection& set, const CableControls& cable) {
-  set.CapMode = GetArrayIndex(cable.CapMode);
-  set.Capacity = GetArrayIndex(cable.Capacity);
-  set.Diam = Typed(cable.Diam);
-  set.CapacityStd = Typed(cable.CapacityStd);
-  set.CapacityManual = Typed(cable.CapacityManual);
+// Stores a tab of secondary support as it is typed. Its manual bolts and its cable diameter are its own here.
+void StoreTyped(SecondarySupport& support, NumberReader& reader, const BoltControls& bolt, const CableControls& cable,
+                const StandingControls& standing, const std::array<CheckBox, SystemCount>& boxes) {
+  StoreBoltSource(support.Bolt, reader, bolt);
+  StoreBoltManual(support.Bolt, reader, bolt);
+  StoreCable(support.Cable, reader, cable, cable.Diam);
+  StoreStanding(support.Standing, reader, standing);
+  StoreUse(support, boxes);
 }
 
 }  // namespace
 
 void ParametersDialog::ReadPart(DesignPart part) {
+  NumberReader reader(Misfit::Marked);
   for (const auto& [control, field] : NumberFields[static_cast<std::size_t>(part)]) {
-    field.In(typed_) = Typed(this->*control);
+    reader.Read(field.In(typed_), this->*control);
   }
   switch (part) {
     case DesignPart::Place:
       typed_.Units = Units();
       typed_.Basis = program_.WorkParms.Basis;
-      typed_.Place.CMRR = Typed(txtCMRR);
+      reader.Read(typed_.Place.CMRR, txtCMRR);
       break;
-    case DesignPart::Primary: ReadBolt(typed_.Primary, PrimaryBoltControls); break;
+    case DesignPart::Primary: break;
+    case DesignPart::PrimaryBolt:
+      StoreBoltSource(typed_.Primary, reader, PrimaryBoltControls);
+      StoreBoltManual(typed_.Primary, reader, PrimaryBoltControls);
+      break;
     case DesignPart::Entries:
-      ReadBolt(typed_.Entries.Bolt, EntryBoltControls);
-      ReadCable(typed_.Entries.Cable, EntryCableControls);
-      typed_.Entries.Standing.Capacity = Typed(txtSupportCapSecEntry);
-      StoreUse(typed_.Entries, chkSecEntries);
+      StoreTyped(typed_.Entries, reader, EntryBoltControls, EntryCableControls, EntryStandingControls, chkSecEntries);
       break;
     case DesignPart::Intersections:
-      ReadBolt(typed_.Intersections.Bolt, InterBoltControls);
-      ReadCable(typed_.Intersections.Cable, InterCableControls);
-      typed_.Intersections.Standing.Capacity = Typed(txtSupportCapSecInter);
-      StoreUse(typed_.Intersections, chkSecInter);
+      StoreTyped(typed_.Intersections, reader, InterBoltControls, InterCableControls, InterStandingControls,
+                 chkSecInter);
       break;
   }
 }
@@ -275,7 +262,7 @@ void ParametersDialog::InitParameters() {
 
 const Control* ParametersDialog::StoreFields(Design& design, const BoltControls& manualEntry,
                                              const BoltControls& manualInter) const {
-  NumberReader reader;
+  NumberReader reader(Misfit::Kept);
   design.Units = Units();
   design.Basis = program_.WorkParms.Basis;
   reader.ReadRating(design.Place.CMRR, txtCMRR);

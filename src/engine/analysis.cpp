@@ -113,25 +113,18 @@ constexpr SystemRules EntryRules{CablesInEntry, TrussesInEntry, BoltsInEntry, St
 constexpr SystemRules IntersectionRules{CablesInIntersection, TrussesInIntersection, BoltsInIntersection,
                                         StandingInIntersection};
 
-void JudgeSystems(const RoofSupport& design, const Catalogs& catalogs, const SecondarySupport& support,
-                  const SystemRules& rules, SupportFigures& figures) {
-  const std::optional<Single>* load = figures.RockLoad.IfThere();
-  if (load == nullptr || !*load) return;
+SystemFigures JudgeSystems(const RoofSupport& design, const Catalogs& catalogs, const SecondarySupport& support,
+                           const SystemRules& rules, std::optional<Single> rockLoad) {
+  SystemFigures figures;
   const auto systems = support.Systems();
   for (std::size_t i = 0; i < SystemCount; ++i) {
-    if (systems[i]->Use != 1) continue;
-    figures.Systems[i] = Attempt([&] { return rules[i](design, catalogs, **load); });
+    if (!rockLoad || systems[i]->Use != 1) continue;
+    figures[i] = Attempt([&] { return rules[i](design, catalogs, *rockLoad); });
   }
+  return figures;
 }
 
 // ---- the report: English working numbers ---------------------------------------------------------------------------
-
-struct WorkingNumbers {
-  BoltPattern Primary;
-  BoltPattern EntryBolts;
-  Bolt IntersectionBolt;       // in, ksi
-  SupportPattern EntryCables;  // its width is 0 in a design without cables in entries
-};
 
 Bolt WorkingBolt(const BoltSelection& set, UnitSystem units) {
   const Bolt bolt = SelectedBolt(set);
@@ -149,13 +142,13 @@ Single WorkingCapacity(const CableSelection& cable, UnitSystem units, const Cata
 WorkingNumbers WorkingNumbersOf(const RoofSupport& design, const Catalogs& catalogs) {
   constexpr double KipsPerTon = 2;
   const auto feet = [&](Single length) { return InFeet(length, design.Units); };
-  feet(design.Place.DepthofCover);
-  feet(design.Place.ActualSpanDiagonals);
   const Single width = feet(design.Place.EntryWidth);
   const auto pattern = [&](const BoltSelection& set, const Bolt& bolt) {
     return BoltPattern{feet(set.Length), set.BoltsperRow, bolt.Diameter, bolt.Grade, feet(set.RowSpacing), width};
   };
   WorkingNumbers working;
+  working.Depth = feet(design.Place.DepthofCover);
+  working.Span = feet(design.Place.ActualSpanDiagonals);
   working.Primary = pattern(design.Primary, WorkingBolt(design.Primary, design.Units));
   working.EntryBolts = pattern(design.Entries.Bolt, WorkingBolt(design.Entries.Bolt, design.Units));
   working.IntersectionBolt = WorkingBolt(design.Intersections.Bolt, design.Units);
@@ -194,20 +187,22 @@ struct Anchorage {
 };
 constexpr Anchorage AnchorageIn(UnitSystem units) { return units == Metric ? Anchorage{1.3, 0.305} : Anchorage{4, 1}; }
 
-// What entries and intersections have in common.
-void JudgeRock(const SecondarySupport& support, Single highest, const RoofSupport& design, Reinforcement& figures) {
+// What entries and intersections have in common, under the highest rock that their fall angles allow.
+Reinforcement ReinforcementUnder(Single highest, const SecondarySupport& support, const RoofSupport& design) {
   const Anchorage anchorage = AnchorageIn(design.Units);
+  Reinforcement figures;
   figures.HighestRock = highest;
   figures.HeightIsAdjusted = support.RockLoadHeight > highest;
   figures.CablesAreShort = support.Cable.Length - anchorage.Cables < support.RockLoadHeight;
   // Intersections are warned of by the length and the rock of the entries, too.
   figures.BoltsAreShort = design.Entries.Bolt.Length - anchorage.Bolts < design.Entries.RockLoadHeight;
+  return figures;
 }
 
 Reinforcement EntryReinforcementOf(const RoofSupport& design, const Catalogs& catalogs, const WorkingNumbers& working) {
   const SecondarySupport& support = design.Entries;
-  Reinforcement figures;
-  JudgeRock(support, MaxRockHeightEntry(design.Place.EntryWidth, support.RockFallAngle), design, figures);
+  const Single highest = MaxRockHeightEntry(design.Place.EntryWidth, support.RockFallAngle);
+  Reinforcement figures = ReinforcementUnder(highest, support, design);
   if (support.Cable.Use == 1) {
     // The PRSUP goes by the length of the primary bolts.
     SupportPattern asLongAsBolts = working.EntryCables;
@@ -229,11 +224,9 @@ Reinforcement EntryReinforcementOf(const RoofSupport& design, const Catalogs& ca
 
 Reinforcement IntersectionReinforcementOf(const RoofSupport& design, const WorkingNumbers& working) {
   const SecondarySupport& support = design.Intersections;
-  Reinforcement figures;
-  JudgeRock(support,
-            MaxRockHeightIntersection(support.RockLoadHeight, design.Place.ActualSpanDiagonals, support.RockFallAngle,
-                                      support.RockFallAngleXcut),
-            design, figures);
+  const Single highest = MaxRockHeightIntersection(support.RockLoadHeight, design.Place.ActualSpanDiagonals,
+                                                   support.RockFallAngle, support.RockFallAngleXcut);
+  Reinforcement figures = ReinforcementUnder(highest, support, design);
   if (support.Bolt.Use == 1) figures.BoltsFailASTM = FailsASTM(working.IntersectionBolt, design.Units);
   return figures;
 }
@@ -244,13 +237,6 @@ Computed<std::optional<SuggestedFigures>> LiveSuggestion(const RoofSupport& desi
   return Attempt([&] { return SuggestLive(TypedSite(design), design.Units); });
 }
 
-Computed<std::optional<Single>> LiveSuggestedPSUP(const RoofSupport& design) noexcept {
-  return Attempt([&] {
-    const auto figures = SuggestLive(TypedSite(design), design.Units);
-    return figures ? std::optional(figures->SugPSUP) : std::nullopt;
-  });
-}
-
 Computed<std::optional<Single>> LivePSUP(const RoofSupport& design, const Catalogs& catalogs) noexcept {
   return Attempt([&] { return ActualLive(TypedPattern(design), design.Units, BasisOf(design, catalogs)); });
 }
@@ -258,14 +244,15 @@ Computed<std::optional<Single>> LivePSUP(const RoofSupport& design, const Catalo
 SupportFigures EntryFigures(const RoofSupport& design, const Catalogs& catalogs) noexcept {
   SupportFigures figures;
   figures.RockLoad = Attempt([&] { return EntryRockLoad(EntryRock(design), design.Units); });
-  JudgeSystems(design, catalogs, design.Entries, EntryRules, figures);
+  figures.Systems = JudgeSystems(design, catalogs, design.Entries, EntryRules, figures.RockLoad.ValueOr({}));
   return figures;
 }
 
 SupportFigures IntersectionFigures(const RoofSupport& design, const Catalogs& catalogs) noexcept {
   SupportFigures figures;
   figures.RockLoad = Attempt([&] { return IntersectionRockLoad(IntersectionRock(design), design.Units); });
-  JudgeSystems(design, catalogs, design.Intersections, IntersectionRules, figures);
+  figures.Systems =
+      JudgeSystems(design, catalogs, design.Intersections, IntersectionRules, figures.RockLoad.ValueOr({}));
   return figures;
 }
 
@@ -277,17 +264,17 @@ Figures Analyze(const RoofSupport& design, const Catalogs& catalogs) noexcept {
 
   // What it throws ends in Attempt.
   // cppcheck-suppress throwInNoexceptFunction
-  const auto working = Attempt([&] { return WorkingNumbersOf(design, catalogs); });
-  figures.WorkingNumbers = Attempt([&] { return static_cast<void>(working.Value()), true; });
+  figures.Working = Attempt([&] { return WorkingNumbersOf(design, catalogs); });
   figures.Suggested = Attempt([&] { return Suggest(TypedSite(design), design.Units); });
   figures.LiveSuggestion = Attempt([&] {
     const bool isShown = IsPlausible(TypedSite(design));
     return isShown ? std::optional(AsShown(figures.Suggested.Value(), design.Units)) : std::nullopt;
   });
   figures.Primary =
-      Attempt([&] { return PrimaryOf(design, catalogs, working.Value().Primary, figures.Suggested.Value()); });
-  figures.EntryReinforcement = Attempt([&] { return EntryReinforcementOf(design, catalogs, working.Value()); });
-  figures.IntersectionReinforcement = Attempt([&] { return IntersectionReinforcementOf(design, working.Value()); });
+      Attempt([&] { return PrimaryOf(design, catalogs, figures.Working.Value().Primary, figures.Suggested.Value()); });
+  figures.EntryReinforcement = Attempt([&] { return EntryReinforcementOf(design, catalogs, figures.Working.Value()); });
+  figures.IntersectionReinforcement =
+      Attempt([&] { return IntersectionReinforcementOf(design, figures.Working.Value()); });
   return figures;
 }
 

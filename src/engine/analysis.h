@@ -26,12 +26,14 @@ struct PrimaryFigures {
   bool FailsASTM = false;
 };
 
+using SystemFigures = std::array<Computed<std::optional<SupportResult>>, SystemCount>;
+
 // What the dialog shows of the secondary support of entries or of intersections, in the design's units.
 struct SupportFigures {
   Computed<std::optional<Single>> RockLoad;  // nothing for implausible rock, or none
   // Of the systems in use, under that load; nothing of the others, and of those that lack a number that decides on
   // them.
-  std::array<Computed<std::optional<SupportResult>>, SystemCount> Systems;
+  SystemFigures Systems;
 };
 
 // What the report adds to the secondary support. The figures of a system that is not in use stay 0.
@@ -47,6 +49,16 @@ struct Reinforcement {
   bool BoltsFailASTM = false;
 };
 
+// What the report computes from, in English units whatever the design's are.
+struct WorkingNumbers {
+  Single Depth = 0;  // ft
+  Single Span = 0;   // ft
+  BoltPattern Primary{};
+  BoltPattern EntryBolts{};
+  Bolt IntersectionBolt{};       // in, ksi
+  SupportPattern EntryCables{};  // its width is 0 in a design without cables in entries
+};
+
 struct Figures {
   // As the dialog shows them.
   Computed<std::optional<SuggestedFigures>> LiveSuggestion;
@@ -54,8 +66,8 @@ struct Figures {
   SupportFigures Entries;
   SupportFigures Intersections;
 
-  // As the report has them. Of a design that has no English working numbers all of them fail.
-  Computed<bool> WorkingNumbers;
+  // As the report has them. Of a design whose working numbers are beyond a Single all but the suggestions fail.
+  Computed<WorkingNumbers> Working;
   Computed<SuggestedFigures> Suggested;
   Computed<PrimaryFigures> Primary;
   Computed<Reinforcement> EntryReinforcement;
@@ -67,7 +79,6 @@ Figures Analyze(const RoofSupport& design, const Catalogs& catalogs) noexcept;
 // Parts of the analysis, for a dialog that refreshes one of them. A number that is Unfit is an overflow in each figure
 // that needs it.
 Computed<std::optional<SuggestedFigures>> LiveSuggestion(const RoofSupport& design) noexcept;
-Computed<std::optional<Single>> LiveSuggestedPSUP(const RoofSupport& design) noexcept;
 Computed<std::optional<Single>> LivePSUP(const RoofSupport& design, const Catalogs& catalogs) noexcept;
 SupportFigures EntryFigures(const RoofSupport& design, const Catalogs& catalogs) noexcept;
 SupportFigures IntersectionFigures(const RoofSupport& design, const Catalogs& catalogs) noexcept;

@@ -35,28 +35,26 @@ constexpr std::array HeaderLines{HeaderLine{"CurrentFile", &UnsavedProject::Curr
                                  HeaderLine{"FileEmpty", &UnsavedProject::FileEmpty},
                                  HeaderLine{"UnitsLocked", &UnsavedProject::UnitsLocked}};
 
-std::string ValueText(const UnsavedProject& project, const HeaderField& field) {
-  if (const auto* text = std::get_if<std::string UnsavedProject::*>(&field)) return Escaped(project.**text);
-  if (const auto* flag = std::get_if<bool UnsavedProject::*>(&field)) return project.**flag ? "1" : "0";
-  if (const auto* units = std::get_if<UnitSystem Design::*>(&field))
-    return NumberText(NumberOf(project.WorkParms.**units));
-  if (const auto* basis = std::get_if<StrengthBasis Design::*>(&field))
-    return NumberText(NumberOf(project.WorkParms.**basis));
-  return NumberText(project.*std::get<Integer UnsavedProject::*>(field));
+template <class Project, class Value>
+auto& In(Project& project, Value UnsavedProject::*field) {
+  return project.*field;
+}
+template <class Project, class Value>
+auto& In(Project& project, Value Design::*field) {
+  return project.WorkParms.*field;
 }
 
-void ReadValue(UnsavedProject& project, const HeaderField& field, std::string_view value) {
-  if (const auto* text = std::get_if<std::string UnsavedProject::*>(&field)) {
-    project.** text = Unescaped(value);
-  } else if (const auto* flag = std::get_if<bool UnsavedProject::*>(&field)) {
-    project.** flag = value == "1";
-  } else if (const auto* units = std::get_if<UnitSystem Design::*>(&field)) {
-    project.WorkParms.** units = UnitSystem{ToInteger(TextValue(value))};
-  } else if (const auto* basis = std::get_if<StrengthBasis Design::*>(&field)) {
-    project.WorkParms.** basis = StrengthBasis{ToInteger(TextValue(value))};
-  } else {
-    project.*std::get<Integer UnsavedProject::*>(field) = ToInteger(TextValue(value));
-  }
+std::string TextOf(const std::string& value) { return Escaped(value); }
+template <class Number>
+std::string TextOf(Number value) {
+  return NumberText(NumberOf(value));
+}
+
+void Read(std::string& value, std::string_view text) { value = Unescaped(text); }
+void Read(bool& value, std::string_view text) { value = text == "1"; }
+template <class Number>
+void Read(Number& value, std::string_view text) {
+  value = Number{ToInteger(TextValue(text))};
 }
 
 void ReadData(Design& design, const ProjectLine& line, std::string_view text) {
@@ -82,7 +80,8 @@ UnsavedProject ReadLines(std::string_view rest) {
   TakeLine(rest);
   for (const HeaderLine& header : HeaderLines) {
     const std::string_view line = TakeLine(rest);
-    ReadValue(project, header.Field, line.substr(line.find('=') + 1));
+    const std::string_view value = line.substr(line.find('=') + 1);
+    std::visit([&](auto field) { Read(In(project, field), value); }, header.Field);
   }
   for (const ProjectLine& line : ProjectLines) ReadData(project.WorkParms, line, TakeLine(rest));
   return project;
@@ -111,7 +110,7 @@ std::string RecoveryBytes(const UnsavedProject& project) {
   for (const HeaderLine& header : HeaderLines) {
     text += header.Key;
     text += '=';
-    text += ValueText(project, header.Field);
+    text += std::visit([&](auto field) { return TextOf(In(project, field)); }, header.Field);
     text += LineEnd;
   }
   for (const ProjectLine& line : ProjectLines) {

@@ -24,7 +24,7 @@ ReportBasis BasisOf(const Program& program) {
 }  // namespace
 
 std::string CalculationReport(const RoofSupport& design, const Figures& figures) {
-  figures.WorkingNumbers.Value();
+  static_cast<void>(figures.Working.Value());
   ReportText page(design.Units);
   page.Line(Heading);
   if (design.Primary.Analysed == 1) ReportPrimarySupport(page, design, figures);

@@ -26,20 +26,14 @@ void ReportText::Line(std::string_view text) {
 }
 
 void ReportText::Value(std::string_view label, std::string_view value, int unit) {
-  page += label;
-  Dots(CharacterCount(label));
+  AppendFilled(page, label, {}, ReportWidth, '.');
   page += value;
   Line(UnitText(unit, units));
 }
 
 void ReportText::Words(std::string_view label, std::string_view text) {
-  page += label;
-  Dots(CharacterCount(label) + CharacterCount(text));
-  Line(text);
-}
-
-void ReportText::Dots(std::size_t taken) {
-  if (taken < ReportWidth) page.append(ReportWidth - taken, '.');
+  AppendFilled(page, label, text, ReportWidth, '.');
+  Line();
 }
 
 void ReportText::Wrapped(std::string_view text, std::size_t width) { Line(WordWrapText(text, width)); }

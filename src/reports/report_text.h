@@ -39,9 +39,6 @@ class ReportText {
   std::string Take();
 
  private:
-  // Fills a line of ReportWidth of which so many characters are taken.
-  void Dots(std::size_t taken);
-
   UnitSystem units;
   std::string page;
 };

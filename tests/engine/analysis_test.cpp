@@ -135,7 +135,7 @@ TEST(Analysis, BeyondTheNumbersOfTheReportFailsInItsPartsAlone) {
 
   const Figures figures = FiguresOf(design);
 
-  EXPECT_EQ(figures.WorkingNumbers.Error(), Overflow);
+  EXPECT_EQ(figures.Working.Error(), Overflow);
   EXPECT_EQ(figures.Primary.Error(), Overflow);
   EXPECT_EQ(figures.IntersectionReinforcement.Error(), Overflow);
   EXPECT_TRUE(figures.Entries.RockLoad.IsThere());

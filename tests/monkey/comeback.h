@@ -14,9 +14,9 @@ namespace orby::monkey {
 // run is not in it.
 void NoteShown(ShownProject& shown);
 
-// The run ends: what the main window and the file of unsaved work say of the project. refused: a file has
-// been refused in this run, whose name the project then bears unseen. half: nothing has been edited in what was read of
-// it, so the next run begins with a new project.
+// The run ends: what the main window and the file of unsaved work say of the project.
+// refused: a file was refused in this run. The project has its name; the caption still shows the name before.
+// half: nothing of what was read of that file has been edited. The next run begins with a new project.
 void NoteEndedProject(ShownProject& shown, bool refused, bool half);
 
 // Looks for the project in a new run, step by step, as a user would.

@@ -22,7 +22,7 @@ QMessageBox* EndBox() {
              : nullptr;
 }
 
-// A file that could not be read to its end leaves what had been read of it.
+// Whether the program tells that it could not read a file to its end. What it has read until then stays.
 bool IsRefusal(const QWidget* window) {
   const auto* box = qobject_cast<const QMessageBox*>(window);
   return box != nullptr && (box->text().startsWith("Error occurred") || box->text().contains("can not be opened"));
@@ -116,8 +116,8 @@ void Monkey::TakeEnd(QMessageBox& box) {
     const int number = text.section('\'', 1, 1).toInt();
     record_.trace.Set(OriginOfError(number));
     // A project that ends the run while it is being looked for is not waited for again.
-    if (comeback_ == nullptr)
-      NoteEndedProject(ledger_.shown, refused_, refused_ && text.contains("with a new project"));
+    const bool isHalf = refused_ && text.contains("with a new project");
+    if (comeback_ == nullptr) NoteEndedProject(ledger_.shown, refused_, isHalf);
   }
   for (QAbstractButton* button : box.buttons()) {
     if (PlainCaption(button->text()) == "Start Again") return button->click();
