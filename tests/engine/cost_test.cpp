@@ -115,6 +115,19 @@ TEST(Cost, WithoutARowSpacingStillSpreadsOverAGivenProduction) {
   EXPECT_EQ(table.Totals, (CostRow{9.22055531F, 0, 2766.16675F, 2.30513883F}));
 }
 
+TEST(Cost, OfRowsLessThanOneApartIsSpreadOverTheAdvance) {
+  const CostTable table = AnalyseCost(With(&CostInputs::RowSpacing, 0.5F));
+
+  EXPECT_EQ(table.Totals, (CostRow{9.22055531F, 73.7644424F, 2766.16675F, 0.288142353F}));
+}
+
+TEST(Cost, OfLessThanOneTonAShiftIsSpreadOverIt) {
+  CostInputs costs = With(&CostInputs::CleanProduction, 0.5F);
+  costs.Production = 0;
+
+  EXPECT_EQ(AnalyseCost(costs).Totals, (CostRow{9.22055531F, 9.22055531F, 2766.16675F, 5532.3335F}));
+}
+
 TEST(Cost, WithANegativeRowSpacingHasNoAdvance) {
   const CostTable table = AnalyseCost(With(&CostInputs::RowSpacing, -4.0F));
 
