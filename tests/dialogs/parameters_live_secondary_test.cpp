@@ -5,6 +5,7 @@ namespace {
 
 using testing::Each;
 using testing::ElementsAre;
+using testing::ElementsAreArray;
 
 using Texts = std::vector<std::string>;
 
@@ -25,6 +26,9 @@ struct SecondaryResultsShown : AParametersDialog {
   // Load, capacity and factor of a system.
   Texts Entry(std::size_t system) const { return ResultOf(dialog.EntryOutputs, system); }
   Texts Intersection(std::size_t system) const { return ResultOf(dialog.InterOutputs, system); }
+  static Texts ResultOf(const OutputControls& outputs, std::size_t system) {
+    return {outputs.RockLoad[system].Text(), outputs.SupportCap[system].Text(), outputs.StabFactor[system].Text()};
+  }
   static Texts All(const OutputControls& outputs) {
     Texts all;
     for (std::size_t system = 0; system < SystemCount; ++system) {
@@ -32,51 +36,187 @@ struct SecondaryResultsShown : AParametersDialog {
     }
     return all;
   }
-
-  // Opens the dialog, lets it show every system, and then leaves only this one in use.
-  static void UseOnly(ParametersDialog& other, std::array<CheckBox, SystemCount>& boxes, std::size_t system) {
-    other.Open();
-    Edit(other, AllSystems);
-    for (std::size_t i = 0; i < SystemCount; ++i) boxes[i].SetValue(i == system ? 1 : 0);
-  }
-
- private:
-  static Texts ResultOf(const OutputControls& outputs, std::size_t system) {
-    return {outputs.RockLoad[system].Text(), outputs.SupportCap[system].Text(), outputs.StabFactor[system].Text()};
-  }
 };
 
 using EntryResults = SecondaryResultsShown;
 using IntersectionResults = SecondaryResultsShown;
 
-// ---- entries --------------------------------------------------------------------------------------------------------
+// ---- entries and intersections alike -------------------------------------------------------------------------------
 
-TEST_F(EntryResults, OfANewDesignAreThoseOfItsCables) {
+enum class Place { Entries, Intersections };
+
+// A place at a time. In edits, "@" is the word that the names of its controls have.
+struct SecondaryResults : SecondaryResultsShown, testing::WithParamInterface<Place> {
+  static bool IsEntries() { return GetParam() == Place::Entries; }
+  // What holds for the place.
+  template <class Value>
+  static Value Of(Value entries, Value intersections) {
+    return IsEntries() ? entries : intersections;
+  }
+
+  static std::string Named(std::string_view edits) {
+    std::string named(edits);
+    for (std::size_t at = named.find('@'); at != std::string::npos; at = named.find('@')) {
+      named.replace(at, 1, Of("Entry", "Inter"));
+    }
+    return named;
+  }
+  void Do(std::string_view edits) { AParametersDialog::Do(Named(edits)); }
+  // Edits that one refresh follows.
+  void DoAtOnce(std::string_view edits) { IsEntries() ? Entries(Named(edits)) : Intersections(Named(edits)); }
+
+  Texts Result(std::size_t system) const { return IsEntries() ? Entry(system) : Intersection(system); }
+  static const OutputControls& Outputs(const ParametersDialog& shown) {
+    return IsEntries() ? shown.EntryOutputs : shown.InterOutputs;
+  }
+  static const OutputControls& OtherOutputs(const ParametersDialog& shown) {
+    return IsEntries() ? shown.InterOutputs : shown.EntryOutputs;
+  }
+  static auto Shows(const Texts& entries, const Texts& intersections) {
+    return ElementsAreArray(Of(entries, intersections));
+  }
+};
+
+constexpr std::size_t Cables = 0;
+constexpr std::size_t Bolts = 2;
+
+TEST_P(SecondaryResults, OfANewDesignAreThoseOfItsCables) {
   dialog.Open();
 
-  EXPECT_THAT(Entry(0), ElementsAre("10.0", "10.6", "1.06"));
-  for (const std::size_t unused : {1U, 2U, 3U}) EXPECT_THAT(Entry(unused), ElementsAre("10.0", "---", "---"));
+  EXPECT_THAT(Result(Cables), Shows({"10.0", "10.6", "1.06"}, {"183", "264", "1.44"}));
+  for (const std::size_t unused : {1U, 2U, 3U}) {
+    EXPECT_THAT(Result(unused), Shows({"10.0", "---", "---"}, {"183", "---", "---"}));
+  }
 }
 
-TEST_F(EntryResults, OfEverySystemInEnglishUnits) {
+TEST_P(SecondaryResults, OfEverySystemInEnglishUnits) {
   OpenWithAllSystems();
 
-  EXPECT_THAT(Entry(0), ElementsAre("10.0", "10.6", "1.06"));
-  EXPECT_THAT(Entry(1), ElementsAre("10.0", "10.6", "1.06"));
-  EXPECT_THAT(Entry(2), ElementsAre("10.0", "8.4", "0.85"));
-  EXPECT_THAT(Entry(3), ElementsAre("10.0", "12.5", "1.25"));
+  EXPECT_THAT(Result(0), Shows({"10.0", "10.6", "1.06"}, {"183", "264", "1.44"}));
+  EXPECT_THAT(Result(1), Shows({"10.0", "10.6", "1.06"}, {"183", "170", "0.93"}));
+  EXPECT_THAT(Result(2), Shows({"10.0", "8.4", "0.85"}, {"183", "84", "0.46"}));
+  EXPECT_THAT(Result(3), Shows({"10.0", "12.5", "1.25"}, {"183", "200", "1.09"}));
 }
 
-TEST_F(EntryResults, OfEverySystemInMetricUnits) {
+TEST_P(SecondaryResults, OfEverySystemInMetricUnits) {
   StartDesign(Metric);
 
   OpenWithAllSystems();
 
-  EXPECT_THAT(Entry(0), ElementsAre("335.1", "472.0", "1.41"));
-  EXPECT_THAT(Entry(1), ElementsAre("335.1", "106.1", "0.32"));
-  EXPECT_THAT(Entry(2), ElementsAre("335.1", "251.0", "0.75"));
-  EXPECT_THAT(Entry(3), ElementsAre("335.1", "333.3", "0.99"));
+  EXPECT_THAT(Result(0), Shows({"335.1", "472.0", "1.41"}, {"2213", "2360", "1.07"}));
+  EXPECT_THAT(Result(1), Shows({"335.1", "106.1", "0.32"}, {"2213", "1697", "0.77"}));
+  EXPECT_THAT(Result(2), Shows({"335.1", "251.0", "0.75"}, {"2213", "753", "0.34"}));
+  EXPECT_THAT(Result(3), Shows({"335.1", "333.3", "0.99"}, {"2213", "2000", "0.9"}));
 }
+
+TEST_P(SecondaryResults, AreDashesWhereTheFieldsMakeNoSense) {
+  const Texts entries{"txtUnitWeight=99",     "txtUnitWeight=",      "txtRockLoadHeight=0",
+                      "txtRockLoadHeight=-8", "txtRockFallAngle=-1", "txtRockFallAngle=90",
+                      "txtRockFallAngle=120", "txtEntryWidth=0",     "txtEntryWidth=-20"};
+  const Texts intersections{"txtRockLoadHeightInter=0", "txtRockLoadHeightInter=-8", "txtRockFallAngleEntry=-1",
+                            "txtRockFallAngleEntry=90", "txtRockFallAngleXcut=-1",   "txtRockFallAngleXcut=90",
+                            "txtEntryWidth=0",          "txtEntryWidth=-20",         "txtActualSpanDiagonals=20",
+                            "txtActualSpanDiagonals="};
+  for (const std::string& bad : Of(entries, intersections)) {
+    ParametersDialog other(program);
+    other.Open();
+    Edit(other, AllSystems);
+
+    other.HoldEvents = true;
+    Edit(other, bad);
+    IsEntries() ? other.ShowEntries() : other.ShowIntersections();
+
+    EXPECT_THAT(All(Outputs(other)), Each("--")) << bad;
+    EXPECT_THAT(All(OtherOutputs(other)), testing::Contains(Of("183", "10.0"))) << bad;
+  }
+}
+
+TEST_P(SecondaryResults, OfASystemFollowItsOwnBoxAlone) {
+  const std::array<Texts, SystemCount> entries{{{"21.1", "10.6", "8.4", "12.5"},
+                                                {"10.6", "21.2", "8.4", "12.5"},
+                                                {"10.6", "10.6", "16.9", "12.5"},
+                                                {"10.6", "10.6", "8.4", "25.0"}}};
+  const std::array<Texts, SystemCount> intersections{{{"528", "170", "84", "200"},
+                                                      {"264", "339", "84", "200"},
+                                                      {"264", "170", "169", "200"},
+                                                      {"264", "170", "84", "400"}}};
+  for (std::size_t inUse = 0; inUse < SystemCount; ++inUse) {
+    ParametersDialog other(program);
+    other.Open();
+    Edit(other, AllSystems);
+    auto& boxes = IsEntries() ? other.chkSecEntries : other.chkSecInter;
+    for (std::size_t i = 0; i < SystemCount; ++i) boxes[i].SetValue(i == inUse ? 1 : 0);
+
+    Edit(other,
+         Of("txtCableBoltsPerRowSecEntry=4|txtTrussCapacitySecEntry=60|txtBoltsperRowSecEntry=8|"
+            "txtSupportCapSecEntry=100",
+            "txtCableNumberSecInter=20|txtTrussNumberSecInter=8|txtBoltNumberSecInter=20|txtSupportNumberSecInter=8"));
+
+    EXPECT_EQ(TextsOf(Outputs(other).SupportCap), Of(entries, intersections)[inUse]) << inUse;
+  }
+}
+
+TEST_P(SecondaryResults, TakeTheCableByDiameterFromTheListOrAsTyped) {
+  dialog.Open();
+  const Texts otherPlace = All(OtherOutputs(dialog));
+
+  Do("cmbCableDiamSec@=0.7");
+  EXPECT_THAT(Result(Cables), Shows({"10.0", "14.3", "1.43"}, {"183", "357", "1.95"}));
+  Do("cmbCableDiamSec@=0.65");
+  EXPECT_THAT(Result(Cables), Shows({"10.0", "0.0", "0.0"}, {"183", "0", "0.0"}));
+  Do("optCableCapModeSec@=1");
+  EXPECT_THAT(Result(Cables), Shows({"10.0", "10.8", "1.08"}, {"183", "270", "1.48"}));
+  Do("txtCableCapacitySec@=30|optCableCapacitySec@=1");
+  EXPECT_THAT(Result(Cables), Shows({"10.0", "12.0", "1.2"}, {"183", "300", "1.64"}));
+  EXPECT_EQ(All(OtherOutputs(dialog)), otherPlace);
+}
+
+TEST_P(SecondaryResults, OfAMetricDesignTakeTheCableByDiameterFromTheMetricList) {
+  StartDesign(Metric);
+  dialog.Open();
+
+  // Metric designs open with the capacity given; the diameter counts as soon as its option is on.
+  Do("optCableCapModeSec@=0|cmbCableDiamSec@=28.6");
+  EXPECT_THAT(Result(Cables), Shows({"335.1", "776.0", "2.32"}, {"2213", "3880", "1.75"}));
+  Do("cmbCableDiamSec@=0.6");
+  EXPECT_THAT(Result(Cables), Shows({"335.1", "0.0", "0.0"}, {"2213", "0", "0.0"}));
+}
+
+TEST_P(SecondaryResults, TakeTheBoltFromTheTableTheListsOrAsTyped) {
+  OpenWithAllSystems();
+
+  Do("VSFlexGrid@=7");
+  EXPECT_THAT(Result(Bolts), Shows({"10.0", "16.6", "1.66"}, {"183", "166", "0.91"}));
+  DoAtOnce("VSFlexGrid@=1|optBoltOptionsSec@=1");
+  EXPECT_THAT(Result(Bolts), Shows({"10.0", "16.6", "1.66"}, {"183", "166", "0.91"}));
+  DoAtOnce("txtBoltDiameterSec@=0.875|txtBoltGradeSec@=62.5|optBoltDiameterSec@=1");
+  EXPECT_THAT(Result(Bolts), Shows({"10.0", "22.5", "2.26"}, {"183", "225", "1.23"}));
+  Do("optBoltGradeSec@=1");
+  EXPECT_THAT(Result(Bolts), Shows({"10.0", "18.8", "1.89"}, {"183", "188", "1.03"}));
+  Do("optBoltDiameterSec@=0");
+  EXPECT_THAT(Result(Bolts), Shows({"10.0", "13.8", "1.39"}, {"183", "138", "0.75"}));
+}
+
+TEST_P(SecondaryResults, OfUltimateGradesAreThoseOfTheirYield) {
+  StartDesign(English, StrengthBasis::Ultimate);
+  OpenWithAllSystems();
+  EXPECT_THAT(Result(Bolts), Shows({"10.0", "3.4", "0.34"}, {"183", "34", "0.19"}));
+  DoAtOnce("optBoltOptionsSec@=1");
+  EXPECT_THAT(Result(Bolts), Shows({"10.0", "16.6", "1.66"}, {"183", "166", "0.91"}));
+
+  StartDesign(Metric, StrengthBasis::Ultimate);
+  ParametersDialog metric(program);
+  metric.Open();
+  Edit(metric, AllSystems);
+  EXPECT_EQ(Outputs(metric).SupportCap[Bolts].Text(), Of("101.4", "304"));
+  Edit(metric, Named("optBoltOptionsSec@=1|optBoltDiameterSec@=1"));
+  EXPECT_THAT(ResultOf(Outputs(metric), Bolts), Shows({"335.1", "544.5", "1.63"}, {"2213", "1634", "0.74"}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, SecondaryResults, testing::Values(Place::Entries, Place::Intersections),
+                         [](const auto& place) { return place.param == Place::Entries ? "Entries" : "Intersections"; });
+
+// ---- entries --------------------------------------------------------------------------------------------------------
 
 TEST_F(EntryResults, ShowFactorsWithOneOrTwoDecimals) {
   OpenWithAllSystems();
@@ -88,23 +228,6 @@ TEST_F(EntryResults, ShowFactorsWithOneOrTwoDecimals) {
   EXPECT_THAT(Entry(3), ElementsAre("10.0", "12.5", "1.25"));
   Entries("txtSupportCapSecEntry=20");
   EXPECT_THAT(Entry(3), ElementsAre("10.0", "10.0", "1.0"));
-}
-
-TEST_F(EntryResults, AreDashesWhereTheFieldsMakeNoSense) {
-  for (const std::string_view bad :
-       {"txtUnitWeight=99", "txtUnitWeight=", "txtRockLoadHeight=0", "txtRockLoadHeight=-8", "txtRockFallAngle=-1",
-        "txtRockFallAngle=90", "txtRockFallAngle=120", "txtEntryWidth=0", "txtEntryWidth=-20"}) {
-    ParametersDialog other(program);
-    other.Open();
-    Edit(other, AllSystems);
-
-    other.HoldEvents = true;
-    Edit(other, bad);
-    other.ShowEntries();
-
-    EXPECT_THAT(All(other.EntryOutputs), Each("--")) << bad;
-    EXPECT_THAT(All(other.InterOutputs), testing::Contains("183")) << bad;
-  }
 }
 
 TEST_F(EntryResults, AreGivenUpToTheLimitsOfUnitWeightAndAngle) {
@@ -148,24 +271,6 @@ TEST_F(EntryResults, OfASystemOutOfUseStayAsTheyWereButForTheLoad) {
   EXPECT_EQ(Entry(3)[1], "15.0");
 }
 
-TEST_F(EntryResults, OfASystemFollowItsOwnBoxAlone) {
-  const std::array<Texts, SystemCount> expected{{{"21.1", "10.6", "8.4", "12.5"},
-                                                 {"10.6", "21.2", "8.4", "12.5"},
-                                                 {"10.6", "10.6", "16.9", "12.5"},
-                                                 {"10.6", "10.6", "8.4", "25.0"}}};
-
-  for (std::size_t inUse = 0; inUse < SystemCount; ++inUse) {
-    ParametersDialog other(program);
-    UseOnly(other, other.chkSecEntries, inUse);
-
-    Edit(other,
-         "txtCableBoltsPerRowSecEntry=4|txtTrussCapacitySecEntry=60|"
-         "txtBoltsperRowSecEntry=8|txtSupportCapSecEntry=100");
-
-    EXPECT_EQ(TextsOf(other.txtSupportCapEntry), expected[inUse]) << inUse;
-  }
-}
-
 TEST_F(EntryResults, OfASystemWithoutSpacingOrBoltsStayAsTheyWere) {
   OpenWithAllSystems();
 
@@ -188,108 +293,7 @@ TEST_F(EntryResults, OfTrussesStayAsTheyWereWithoutASpacingOfStandingSupports) {
   EXPECT_EQ(Entry(1)[1], "21.2");
 }
 
-TEST_F(EntryResults, TakeTheCableByDiameterFromTheListOrAsTyped) {
-  dialog.Open();
-
-  Do("cmbCableDiamSecEntry=0.7");
-  EXPECT_THAT(Entry(0), ElementsAre("10.0", "14.3", "1.43"));
-  Do("cmbCableDiamSecEntry=0.65");
-  EXPECT_THAT(Entry(0), ElementsAre("10.0", "0.0", "0.0"));
-  Do("optCableCapModeSecEntry=1");
-  EXPECT_THAT(Entry(0), ElementsAre("10.0", "10.8", "1.08"));
-  Do("txtCableCapacitySecEntry=30|optCableCapacitySecEntry=1");
-  EXPECT_THAT(Entry(0), ElementsAre("10.0", "12.0", "1.2"));
-}
-
-TEST_F(EntryResults, OfAMetricDesignTakeTheCableByDiameterFromTheMetricList) {
-  StartDesign(Metric);
-  dialog.Open();
-
-  // Metric designs open with the capacity given; the diameter counts as soon as its option is on.
-  Do("optCableCapModeSecEntry=0|cmbCableDiamSecEntry=28.6");
-  EXPECT_THAT(Entry(0), ElementsAre("335.1", "776.0", "2.32"));
-  Do("cmbCableDiamSecEntry=0.6");
-  EXPECT_THAT(Entry(0), ElementsAre("335.1", "0.0", "0.0"));
-}
-
-TEST_F(EntryResults, TakeTheBoltFromTheTableTheListsOrAsTyped) {
-  OpenWithAllSystems();
-
-  Do("VSFlexGridEntry=7");
-  EXPECT_THAT(Entry(2), ElementsAre("10.0", "16.6", "1.66"));
-  Entries("VSFlexGridEntry=1|optBoltOptionsSecEntry=1");
-  EXPECT_THAT(Entry(2), ElementsAre("10.0", "16.6", "1.66"));
-  Entries("txtBoltDiameterSecEntry=0.875|txtBoltGradeSecEntry=62.5|optBoltDiameterSecEntry=1");
-  EXPECT_THAT(Entry(2), ElementsAre("10.0", "22.5", "2.26"));
-  Do("optBoltGradeSecEntry=1");
-  EXPECT_THAT(Entry(2), ElementsAre("10.0", "18.8", "1.89"));
-  Do("optBoltDiameterSecEntry=0");
-  EXPECT_THAT(Entry(2), ElementsAre("10.0", "13.8", "1.39"));
-}
-
-TEST_F(EntryResults, OfUltimateGradesAreThoseOfTheirYield) {
-  StartDesign(English, StrengthBasis::Ultimate);
-  OpenWithAllSystems();
-  EXPECT_THAT(Entry(2), ElementsAre("10.0", "3.4", "0.34"));
-  Entries("optBoltOptionsSecEntry=1");
-  EXPECT_THAT(Entry(2), ElementsAre("10.0", "16.6", "1.66"));
-
-  StartDesign(Metric, StrengthBasis::Ultimate);
-  ParametersDialog metric(program);
-  metric.Open();
-  Edit(metric, AllSystems);
-  EXPECT_EQ(metric.txtSupportCapEntry[2].Text(), "101.4");
-  Edit(metric, "optBoltOptionsSecEntry=1|optBoltDiameterSecEntry=1");
-  EXPECT_EQ(metric.txtSupportCapEntry[2].Text(), "544.5");
-  EXPECT_EQ(metric.txtStabFactorEntry[2].Text(), "1.63");
-}
-
 // ---- intersections --------------------------------------------------------------------------------------------------
-
-TEST_F(IntersectionResults, OfANewDesignAreThoseOfItsCables) {
-  dialog.Open();
-
-  EXPECT_THAT(Intersection(0), ElementsAre("183", "264", "1.44"));
-  for (const std::size_t unused : {1U, 2U, 3U}) EXPECT_THAT(Intersection(unused), ElementsAre("183", "---", "---"));
-}
-
-TEST_F(IntersectionResults, OfEverySystemInEnglishUnits) {
-  OpenWithAllSystems();
-
-  EXPECT_THAT(Intersection(0), ElementsAre("183", "264", "1.44"));
-  EXPECT_THAT(Intersection(1), ElementsAre("183", "170", "0.93"));
-  EXPECT_THAT(Intersection(2), ElementsAre("183", "84", "0.46"));
-  EXPECT_THAT(Intersection(3), ElementsAre("183", "200", "1.09"));
-}
-
-TEST_F(IntersectionResults, OfEverySystemInMetricUnits) {
-  StartDesign(Metric);
-
-  OpenWithAllSystems();
-
-  EXPECT_THAT(Intersection(0), ElementsAre("2213", "2360", "1.07"));
-  EXPECT_THAT(Intersection(1), ElementsAre("2213", "1697", "0.77"));
-  EXPECT_THAT(Intersection(2), ElementsAre("2213", "753", "0.34"));
-  EXPECT_THAT(Intersection(3), ElementsAre("2213", "2000", "0.9"));
-}
-
-TEST_F(IntersectionResults, AreDashesWhereTheFieldsMakeNoSense) {
-  for (const std::string_view bad :
-       {"txtRockLoadHeightInter=0", "txtRockLoadHeightInter=-8", "txtRockFallAngleEntry=-1", "txtRockFallAngleEntry=90",
-        "txtRockFallAngleXcut=-1", "txtRockFallAngleXcut=90", "txtEntryWidth=0", "txtEntryWidth=-20",
-        "txtActualSpanDiagonals=20", "txtActualSpanDiagonals="}) {
-    ParametersDialog other(program);
-    other.Open();
-    Edit(other, AllSystems);
-
-    other.HoldEvents = true;
-    Edit(other, bad);
-    other.ShowIntersections();
-
-    EXPECT_THAT(All(other.InterOutputs), Each("--")) << bad;
-    EXPECT_THAT(All(other.EntryOutputs), testing::Contains("10.0")) << bad;
-  }
-}
 
 TEST_F(IntersectionResults, OfABadUnitWeightStayAndTheEntriesGoInstead) {
   OpenWithAllSystems();
@@ -337,23 +341,6 @@ TEST_F(IntersectionResults, OfASystemOutOfUseStayAsTheyWereButForTheLoad) {
   EXPECT_EQ(Intersection(0)[1], "132");
 }
 
-TEST_F(IntersectionResults, OfASystemFollowItsOwnBoxAlone) {
-  const std::array<Texts, SystemCount> expected{{{"528", "170", "84", "200"},
-                                                 {"264", "339", "84", "200"},
-                                                 {"264", "170", "169", "200"},
-                                                 {"264", "170", "84", "400"}}};
-
-  for (std::size_t inUse = 0; inUse < SystemCount; ++inUse) {
-    ParametersDialog other(program);
-    UseOnly(other, other.chkSecInter, inUse);
-
-    Edit(other,
-         "txtCableNumberSecInter=20|txtTrussNumberSecInter=8|txtBoltNumberSecInter=20|txtSupportNumberSecInter=8");
-
-    EXPECT_EQ(TextsOf(other.txtSupportCapInter), expected[inUse]) << inUse;
-  }
-}
-
 TEST_F(IntersectionResults, NeedNoCountsToBeGiven) {
   OpenWithAllSystems();
 
@@ -362,61 +349,6 @@ TEST_F(IntersectionResults, NeedNoCountsToBeGiven) {
   for (std::size_t system = 0; system < SystemCount; ++system) {
     EXPECT_THAT(Intersection(system), ElementsAre("183", "0", "0.0")) << system;
   }
-}
-
-TEST_F(IntersectionResults, TakeTheCableByDiameterFromTheListOrAsTyped) {
-  dialog.Open();
-
-  Do("cmbCableDiamSecInter=0.7");
-  EXPECT_THAT(Intersection(0), ElementsAre("183", "357", "1.95"));
-  EXPECT_THAT(Entry(0), ElementsAre("10.0", "10.6", "1.06"));
-  Do("optCableCapModeSecInter=1");
-  EXPECT_THAT(Intersection(0), ElementsAre("183", "270", "1.48"));
-  Do("txtCableCapacitySecInter=30|optCableCapacitySecInter=1");
-  EXPECT_THAT(Intersection(0), ElementsAre("183", "300", "1.64"));
-}
-
-TEST_F(IntersectionResults, OfAMetricDesignTakeTheCableByDiameterFromTheMetricList) {
-  StartDesign(Metric);
-  dialog.Open();
-
-  // Metric designs open with the capacity given; the diameter counts as soon as its option is on.
-  Do("optCableCapModeSecInter=0|cmbCableDiamSecInter=28.6");
-  EXPECT_THAT(Intersection(0), ElementsAre("2213", "3880", "1.75"));
-  Do("cmbCableDiamSecInter=0.6");
-  EXPECT_THAT(Intersection(0), ElementsAre("2213", "0", "0.0"));
-}
-
-TEST_F(IntersectionResults, TakeTheBoltFromTheTableTheListsOrAsTyped) {
-  OpenWithAllSystems();
-
-  Do("VSFlexGridInter=7");
-  EXPECT_THAT(Intersection(2), ElementsAre("183", "166", "0.91"));
-  Intersections("VSFlexGridInter=1|optBoltOptionsSecInter=1");
-  EXPECT_THAT(Intersection(2), ElementsAre("183", "166", "0.91"));
-  Intersections("txtBoltDiameterSecInter=0.875|txtBoltGradeSecInter=62.5|optBoltDiameterSecInter=1");
-  EXPECT_THAT(Intersection(2), ElementsAre("183", "225", "1.23"));
-  Do("optBoltGradeSecInter=1");
-  EXPECT_THAT(Intersection(2), ElementsAre("183", "188", "1.03"));
-  Do("optBoltDiameterSecInter=0");
-  EXPECT_THAT(Intersection(2), ElementsAre("183", "138", "0.75"));
-}
-
-TEST_F(IntersectionResults, OfUltimateGradesAreThoseOfTheirYield) {
-  StartDesign(English, StrengthBasis::Ultimate);
-  OpenWithAllSystems();
-  EXPECT_THAT(Intersection(2), ElementsAre("183", "34", "0.19"));
-  Intersections("optBoltOptionsSecInter=1");
-  EXPECT_THAT(Intersection(2), ElementsAre("183", "166", "0.91"));
-
-  StartDesign(Metric, StrengthBasis::Ultimate);
-  ParametersDialog metric(program);
-  metric.Open();
-  Edit(metric, AllSystems);
-  EXPECT_EQ(metric.txtSupportCapInter[2].Text(), "304");
-  Edit(metric, "optBoltOptionsSecInter=1|optBoltDiameterSecInter=1");
-  EXPECT_EQ(metric.txtSupportCapInter[2].Text(), "1634");
-  EXPECT_EQ(metric.txtStabFactorInter[2].Text(), "0.74");
 }
 
 }  // namespace
