@@ -69,11 +69,15 @@ class NumberFieldsTest(DesktopTest):
             self.assert_alive()
             lines[name].grab_focus()
             until(lambda: node.has(atspi.FOCUSED) or lines[name].has(atspi.FOCUSED), f"focus in {name}")
-            act()
-            # The program may hear of the new clipboard after the keys.
-            looks = itertools.count(1)
-            until(lambda: lines[name].text == text or (next(looks) % LOOKS == 0 and act()), f"{text!r} in {name}")
+            self.act_until(act, lambda: lines[name].text == text, f"{text!r} in {name}")
         self.assert_alive()
+
+    @staticmethod
+    def act_until(act, condition, what):
+        """Presses keys until they show: the program may hear of a new clipboard after the keys that paste it."""
+        act()
+        looks = itertools.count(1)
+        until(lambda: condition() or (next(looks) % LOOKS == 0 and act()), what)
 
     def fill_table(self, table, field):
         """The same by way of the field that lies over the chosen cell while the table has the keyboard."""
@@ -82,12 +86,15 @@ class NumberFieldsTest(DesktopTest):
         xdotool("mousemove", left + width // 2, top + height // 2, "click", 1)
         for text in ("0.9", *PASTED):
             fill_clipboard(text)
-            if text == "0.9":
-                xdotool("key", "ctrl+a", "type", "--delay", "2", text)
-            else:
-                press_keys("ctrl+a", "BackSpace", "ctrl+v")
-            press_keys("Tab", "shift+Tab")
-            until(lambda: self.cell(node, 0, 1).name == text, f"{text!r} in the first cell of {table}")
+
+            def fill():
+                if text == "0.9":
+                    xdotool("key", "ctrl+a", "type", "--delay", "2", text)
+                else:
+                    press_keys("ctrl+a", "BackSpace", "ctrl+v")
+                press_keys("Tab", "shift+Tab")
+
+            self.act_until(fill, lambda: self.cell(node, 0, 1).name == text, f"{text!r} in the first cell of {table}")
             self.assert_alive()
         self.left.remove(field)
 
