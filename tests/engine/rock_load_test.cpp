@@ -1,6 +1,10 @@
 // The rock loads that the dialog judges secondary support against, and when there are none.
 #include <gtest/gtest.h>
 
+#include <array>
+#include <optional>
+#include <vector>
+
 #include "engine/designs.h"
 #include "engine/secondary_support.h"
 #include "support/recording_platform.h"
@@ -28,15 +32,80 @@ TEST(UnitWeight, IsPlausibleFromItsLimitOn) {
   EXPECT_TRUE(UnitWeightIsPlausible(15, Metric));
 }
 
-TEST(EntryRock, OfTheDefaults) {
-  EXPECT_EQ(EntryRockLoad(EnglishRock, English), 9.96701622F);
-  EXPECT_EQ(EntryRockLoad(MetricRock, Metric), 335.096161F);
+// What entries and intersections have in common.
+struct Guard {
+  Single RockInputs::*member;
+  Single value;
+  bool computes;
+};
+
+const std::vector<Guard> Guards{
+    {&RockInputs::Height, -1, false},      {&RockInputs::Height, 0, false},
+    {&RockInputs::Height, 0.01F, true},    {&RockInputs::EntryAngle, -0.01F, false},
+    {&RockInputs::EntryAngle, 0, true},    {&RockInputs::EntryAngle, 89.99F, true},
+    {&RockInputs::EntryAngle, 90, false},  {&RockInputs::EntryAngle, 91, false},
+    {&RockInputs::EntryAngle, 200, false}, {&RockInputs::Width, -1, false},
+    {&RockInputs::Width, 0, false},        {&RockInputs::Width, 0.01F, true},
+};
+
+// The crosscut's angle counts in intersections alone; a value that stops those leaves an entry's load.
+const std::vector<Guard> CrosscutGuards{
+    {&RockInputs::CrosscutAngle, -0.01F, false}, {&RockInputs::CrosscutAngle, 0, true},
+    {&RockInputs::CrosscutAngle, 60, true},      {&RockInputs::CrosscutAngle, 90, false},
+    {&RockInputs::CrosscutAngle, 200, false},
+};
+
+// A place by its load, and the loads expected there, of English and of Metric rock.
+struct RockCase {
+  const char* name;
+  std::optional<Single> (*loadOf)(const RockInputs& rock, UnitSystem units);
+  std::array<Single, 2> ofTheDefaults;
+  std::array<Single, 2> ofTheLightest;
+  bool hasCrosscut;
+};
+
+class RockLoad : public testing::TestWithParam<RockCase> {
+ protected:
+  static auto English(const RockInputs& rock) { return GetParam().loadOf(rock, orby::English); }
+  static auto Metric(const RockInputs& rock) { return GetParam().loadOf(rock, orby::Metric); }
+};
+
+TEST_P(RockLoad, OfTheDefaults) {
+  EXPECT_EQ(English(EnglishRock), GetParam().ofTheDefaults[0]);
+  EXPECT_EQ(Metric(MetricRock), GetParam().ofTheDefaults[1]);
 }
 
-TEST(EntryRock, OfTheLightestRockTaken) {
-  EXPECT_EQ(EntryRockLoad(With(EnglishRock, &RockInputs::UnitWeight, 100), English), 6.15247917F);
-  EXPECT_EQ(EntryRockLoad(With(MetricRock, &RockInputs::UnitWeight, 15), Metric), 201.057709F);
+TEST_P(RockLoad, OfTheLightestRockTaken) {
+  EXPECT_EQ(English(With(EnglishRock, &RockInputs::UnitWeight, 100)), GetParam().ofTheLightest[0]);
+  EXPECT_EQ(Metric(With(MetricRock, &RockInputs::UnitWeight, 15)), GetParam().ofTheLightest[1]);
 }
+
+TEST_P(RockLoad, IsNoneOfRockThatIsTooLight) {
+  EXPECT_FALSE(English(With(EnglishRock, &RockInputs::UnitWeight, 99)));
+  EXPECT_FALSE(Metric(With(MetricRock, &RockInputs::UnitWeight, 14.99F)));
+}
+
+TEST_P(RockLoad, IsGuardedInBothUnitSystems) {
+  for (const auto& [member, value, computes] : Guards) {
+    EXPECT_EQ(English(With(EnglishRock, member, value)).has_value(), computes) << "English " << value;
+    EXPECT_EQ(Metric(With(MetricRock, member, value)).has_value(), computes) << "Metric " << value;
+  }
+}
+
+TEST_P(RockLoad, IsGuardedAgainstTheCrosscutsAngleWhereThereIsOne) {
+  for (const auto& [member, value, computes] : CrosscutGuards) {
+    const bool isThere = computes || !GetParam().hasCrosscut;
+    EXPECT_EQ(English(With(EnglishRock, member, value)).has_value(), isThere) << "English " << value;
+    EXPECT_EQ(Metric(With(MetricRock, member, value)).has_value(), isThere) << "Metric " << value;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Of, RockLoad,
+    testing::Values(
+        RockCase{"Entries", EntryRockLoad, {9.96701622F, 335.096161F}, {6.15247917F, 201.057709F}, false},
+        RockCase{"Intersections", IntersectionRockLoad, {183.050446F, 2212.88281F}, {112.994102F, 1327.72961F}, true}),
+    [](const auto& place) { return place.param.name; });
 
 TEST(EntryRock, UnderVerticalSidesHasTheFullWidth) {
   EXPECT_EQ(EntryRockLoad(With(EnglishRock, &RockInputs::EntryAngle, 0), English), 12.96F);
@@ -57,30 +126,6 @@ TEST(EntryRock, JustBelowTheLimitOfTheAngleIsStillATrapezoid) {
   EXPECT_EQ(EntryRockLoad(With(EnglishRock, &RockInputs::Height, 17.3205F), English), 14.0296116F);
 }
 
-struct Guard {
-  Single RockInputs::*member;
-  Single value;
-  bool computes;
-};
-
-constexpr Guard EntryGuards[] = {
-    {&RockInputs::Height, -1, false},      {&RockInputs::Height, 0, false},
-    {&RockInputs::Height, 0.01F, true},    {&RockInputs::EntryAngle, -0.01F, false},
-    {&RockInputs::EntryAngle, 0, true},    {&RockInputs::EntryAngle, 89.99F, true},
-    {&RockInputs::EntryAngle, 90, false},  {&RockInputs::EntryAngle, 91, false},
-    {&RockInputs::EntryAngle, 200, false}, {&RockInputs::Width, -1, false},
-    {&RockInputs::Width, 0, false},        {&RockInputs::Width, 0.01F, true},
-};
-
-TEST(EntryRock, IsGuardedInBothUnitSystems) {
-  for (const auto& [member, value, computes] : EntryGuards) {
-    EXPECT_EQ(EntryRockLoad(With(EnglishRock, member, value), English).has_value(), computes) << "English " << value;
-    EXPECT_EQ(EntryRockLoad(With(MetricRock, member, value), Metric).has_value(), computes) << "Metric " << value;
-  }
-  EXPECT_FALSE(EntryRockLoad(With(EnglishRock, &RockInputs::UnitWeight, 99), English));
-  EXPECT_FALSE(EntryRockLoad(With(MetricRock, &RockInputs::UnitWeight, 14.99F), Metric));
-}
-
 TEST(EntryRock, DoesNotLookAtTheIntersection) {
   const RockInputs rock{162, 8, 30, -10, 20, 0};
 
@@ -88,16 +133,6 @@ TEST(EntryRock, DoesNotLookAtTheIntersection) {
 }
 
 TEST(EntryRock, TooLittleToDivideByIsNone) { EXPECT_FALSE(EntryRockLoad({162, 1E-30F, 0, 0, 1E-30F, 0}, English)); }
-
-TEST(IntersectionRock, OfTheDefaults) {
-  EXPECT_EQ(IntersectionRockLoad(EnglishRock, English), 183.050446F);
-  EXPECT_EQ(IntersectionRockLoad(MetricRock, Metric), 2212.88281F);
-}
-
-TEST(IntersectionRock, OfTheLightestRockTaken) {
-  EXPECT_EQ(IntersectionRockLoad(With(EnglishRock, &RockInputs::UnitWeight, 100), English), 112.994102F);
-  EXPECT_EQ(IntersectionRockLoad(With(MetricRock, &RockInputs::UnitWeight, 15), Metric), 1327.72961F);
-}
 
 TEST(IntersectionRock, AboveTheLimitOfTheAnglesIsAPyramid) {
   EXPECT_EQ(IntersectionRockLoad(Rock(30, 30, 30), English), 223.209747F);
@@ -134,28 +169,6 @@ TEST(IntersectionRock, ThatWouldWeighLessThanNothingIsNone) {
 TEST(IntersectionRock, FailsWhenTheHeightIsLimitedAndTheEntrysSidesAreVertical) {
   EXPECT_EQ(IntersectionRockLoad(Rock(8, 0, 45), English), 181.630753F);
   EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(IntersectionRockLoad(Rock(30, 0, 45), English)); }), 11);
-}
-
-constexpr Guard InterGuards[] = {
-    {&RockInputs::Height, -1, false},        {&RockInputs::Height, 0, false},
-    {&RockInputs::Height, 0.01F, true},      {&RockInputs::EntryAngle, -0.01F, false},
-    {&RockInputs::EntryAngle, 0, true},      {&RockInputs::EntryAngle, 89.99F, true},
-    {&RockInputs::EntryAngle, 90, false},    {&RockInputs::CrosscutAngle, -0.01F, false},
-    {&RockInputs::CrosscutAngle, 0, true},   {&RockInputs::CrosscutAngle, 60, true},
-    {&RockInputs::CrosscutAngle, 90, false}, {&RockInputs::CrosscutAngle, 200, false},
-    {&RockInputs::Width, -1, false},         {&RockInputs::Width, 0, false},
-    {&RockInputs::Width, 0.01F, true},
-};
-
-TEST(IntersectionRock, IsGuardedInBothUnitSystems) {
-  for (const auto& [member, value, computes] : InterGuards) {
-    EXPECT_EQ(IntersectionRockLoad(With(EnglishRock, member, value), English).has_value(), computes)
-        << "English " << value;
-    EXPECT_EQ(IntersectionRockLoad(With(MetricRock, member, value), Metric).has_value(), computes)
-        << "Metric " << value;
-  }
-  EXPECT_FALSE(IntersectionRockLoad(With(EnglishRock, &RockInputs::UnitWeight, 99), English));
-  EXPECT_FALSE(IntersectionRockLoad(With(MetricRock, &RockInputs::UnitWeight, 14.99F), Metric));
 }
 
 TEST(IntersectionRock, NeedsASpanAboveTheEntryWidth) {
