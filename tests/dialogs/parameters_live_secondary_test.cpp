@@ -45,6 +45,9 @@ using IntersectionResults = SecondaryResultsShown;
 
 enum class Place { Entries, Intersections };
 
+std::string NameOf(Place place) { return place == Place::Entries ? "Entries" : "Intersections"; }
+void PrintTo(Place place, std::ostream* out) { *out << NameOf(place); }
+
 // A place at a time. In edits, "@" is the word that the names of its controls have.
 struct SecondaryResults : SecondaryResultsShown, testing::WithParamInterface<Place> {
   static bool IsEntries() { return GetParam() == Place::Entries; }
@@ -214,7 +217,7 @@ TEST_P(SecondaryResults, OfUltimateGradesAreThoseOfTheirYield) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, SecondaryResults, testing::Values(Place::Entries, Place::Intersections),
-                         [](const auto& place) { return place.param == Place::Entries ? "Entries" : "Intersections"; });
+                         [](const auto& place) { return NameOf(place.param); });
 
 // ---- entries --------------------------------------------------------------------------------------------------------
 

@@ -64,6 +64,8 @@ struct RockCase {
   bool hasCrosscut;
 };
 
+void PrintTo(const RockCase& place, std::ostream* out) { *out << place.name; }
+
 class RockLoad : public testing::TestWithParam<RockCase> {
  protected:
   static auto English(const RockInputs& rock) { return GetParam().loadOf(rock, orby::English); }
