@@ -25,12 +25,12 @@ using namespace orby;
 struct Bench {
   Bench() {
     StartApart(program, nullptr);
-    Design& design = program.WorkParms;
+    Design& design = program.project.WorkParms;
     for (SecondarySupport* support : {&design.Entries, &design.Intersections}) {
       for (SupportSystem* system : support->Systems()) system->Use = 1;
     }
-    program.ProjectTitle = "Belt entry, north mains";
-    program.ProjectDescription = "Four bolts a row, cables and trusses through the intersections.";
+    program.project.ProjectTitle = "Belt entry, north mains";
+    program.project.ProjectDescription = "Four bolts a row, cables and trusses through the intersections.";
   }
 
   test::RecordingPlatform platform;
@@ -60,8 +60,8 @@ void LiveRefresh() {
 void AnalyzeDesign() {
   Bench bench;
   // The first call of a library's function looks it up.
-  static_cast<void>(Analyze(bench.program.WorkParms, bench.program.catalogs));
-  Measured([&] { static_cast<void>(Analyze(bench.program.WorkParms, bench.program.catalogs)); });
+  static_cast<void>(Analyze(bench.program.project.WorkParms, bench.program.session.catalogs));
+  Measured([&] { static_cast<void>(Analyze(bench.program.project.WorkParms, bench.program.session.catalogs)); });
 }
 
 void ReportPages() {
@@ -88,7 +88,7 @@ void ReadOneProject() {
 void DefaultCurve() {
   Bench bench;
   constexpr Integer DepthOfCover = 1;
-  Measured([&] { static_cast<void>(GenerateCurve(bench.program.WorkParms, DepthOfCover)); });
+  Measured([&] { static_cast<void>(GenerateCurve(bench.program.project.WorkParms, DepthOfCover)); });
 }
 
 void KeyPress() {
@@ -111,8 +111,8 @@ void PrintRate() {
   const std::clock_t began = std::clock();
   bool isComputed = true;
   for (int i = 0; i < Designs; ++i) {
-    bench.program.WorkParms.Place.DepthofCover = static_cast<Single>(300 + i % 1000);
-    const Figures figures = Analyze(bench.program.WorkParms, bench.program.catalogs);
+    bench.program.project.WorkParms.Place.DepthofCover = static_cast<Single>(300 + i % 1000);
+    const Figures figures = Analyze(bench.program.project.WorkParms, bench.program.session.catalogs);
     isComputed = isComputed && figures.Primary.IsThere();
   }
   const double seconds = static_cast<double>(std::clock() - began) / CLOCKS_PER_SEC;

@@ -112,11 +112,11 @@ bool IsWithin(orby::Single value, orby::Single minimum, orby::Single maximum) {
 void CheckSections(const std::string& bytes) {
   orby::test::RecordingPlatform platform;
   orby::Program program(platform.Doors());
-  program.folders.ProgramData = "/data/";
-  program.IniFilePath = "/data/ORBY.INI";
-  platform.files.files[program.IniFilePath] = bytes;
+  program.session.folders.ProgramData = "/data/";
+  program.session.IniFilePath = "/data/ORBY.INI";
+  platform.files.files[program.session.IniFilePath] = bytes;
   platform.files.folders.clear();
-  const IniText ini = orby::ReadIniFile(program, program.IniFilePath);
+  const IniText ini = orby::ReadIniFile(program, program.session.IniFilePath);
 
   orby::ReadDefaults(program, ini);
   for (const int section :
@@ -124,13 +124,14 @@ void CheckSections(const std::string& bytes) {
     orby::ReadCatalogSection(program, ini, section);
   }
 
-  Expect(IsWithin(program.settings.MaxDisplaySize, 4096, 16384));
-  Expect(IsWithin(program.settings.DisplayFontSize, 7, 24) && IsWithin(program.textBrowse.BrowseFontSize, 7, 24));
-  Expect(IsWithin(program.graph.GraphStyle, 1, 3) && IsWithin(program.graph.SymbolSize, 3, 20));
-  Expect(IsWithin(program.recentFiles.MaxLastFiles, 0, orby::RecentFiles::Capacity));
-  Expect(program.settings.DataPath == "/data/" && platform.boxes.shown.empty());
+  Expect(IsWithin(program.session.settings.MaxDisplaySize, 4096, 16384));
+  Expect(IsWithin(program.session.settings.DisplayFontSize, 7, 24) &&
+         IsWithin(program.session.textBrowse.BrowseFontSize, 7, 24));
+  Expect(IsWithin(program.session.graph.GraphStyle, 1, 3) && IsWithin(program.session.graph.SymbolSize, 3, 20));
+  Expect(IsWithin(program.session.recentFiles.MaxLastFiles, 0, orby::RecentFiles::Capacity));
+  Expect(program.session.settings.DataPath == "/data/" && platform.boxes.shown.empty());
   orby::WriteNewIniFile(program, orby::NewIniText(program));
-  Expect(orby::IniVersion(orby::ReadIniFile(program, program.IniFilePath)) == orby::BuildStamp);
+  Expect(orby::IniVersion(orby::ReadIniFile(program, program.session.IniFilePath)) == orby::BuildStamp);
 }
 
 }  // namespace

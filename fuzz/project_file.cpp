@@ -43,8 +43,9 @@ bool ReadsBackAsAnItem(std::string_view text) {
 // Whether the format can hold the project at all.
 bool CanBeHeld(const Program& program, const std::string& saved) {
   constexpr orby::Integer FewLines = 30000;
-  const orby::Design& record = program.WorkParms;
-  if (program.DescLines > FewLines || !IsPlain(program.ProjectDescription) || !IsPlain(program.ProjectTitle)) {
+  const orby::Design& record = program.project.WorkParms;
+  if (program.project.DescLines > FewLines || !IsPlain(program.project.ProjectDescription) ||
+      !IsPlain(program.project.ProjectTitle)) {
     return false;
   }
   for (const auto* text : {&record.Primary.Desc, &record.Entries.Bolt.Desc, &record.Intersections.Bolt.Desc}) {
@@ -52,9 +53,9 @@ bool CanBeHeld(const Program& program, const std::string& saved) {
   }
   // Bytes of the code page that together read as UTF-8 come back as other characters.
   const std::string text = orby::TextFromFileBytes(saved);
-  for (const auto* held :
-       {&program.ProjectTitle, &program.ProjectDescription, &record.Primary.Desc, &record.Entries.Bolt.Desc,
-        &record.Intersections.Bolt.Desc, &record.Entries.Standing.TypeName, &record.Intersections.Standing.TypeName}) {
+  for (const auto* held : {&program.project.ProjectTitle, &program.project.ProjectDescription, &record.Primary.Desc,
+                           &record.Entries.Bolt.Desc, &record.Intersections.Bolt.Desc,
+                           &record.Entries.Standing.TypeName, &record.Intersections.Standing.TypeName}) {
     if (text.find(*held) == std::string::npos) return false;
   }
   return true;
@@ -78,7 +79,7 @@ std::string DataLines(const std::string& saved) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   orby::test::RecordingPlatform platform;
   Program program(platform.Doors());
-  program.CurrentFile = Path;
+  program.project.CurrentFile = Path;
   platform.files.files[Path] = std::string(data, data + size);
   bool ok = false;
   try {

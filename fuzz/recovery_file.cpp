@@ -27,7 +27,7 @@ void ReadAsFile(const std::string& bytes) {
 
   orby::RestoreProject(program, *project);
 
-  Expect(!program.FileSaved);
+  Expect(!program.project.FileSaved);
   Expect(orby::RecoveryBytes(orby::CommittedProject(program)) == bytes);
   Expect(!orby::ProjectFileBytes(program).empty());
 }

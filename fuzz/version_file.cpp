@@ -23,8 +23,8 @@ constexpr std::string_view VersionCharacters = "0123456789.-_+abcdefghijklmnopqr
 void CheckPlaces(std::string_view version) {
   orby::test::RecordingPlatform platform;
   orby::Program program(platform.Doors());
-  program.UpdateServer = "https://updates.example.org";
-  program.folders.Group = "/home/user/Documents/MyStrataDesk/";
+  program.session.UpdateServer = "https://updates.example.org";
+  program.session.folders.Group = "/home/user/Documents/MyStrataDesk/";
   const std::string path = orby::SetupFilePath(program, version);
   Expect(path.starts_with("/home/user/Downloads/ORBY") && path.ends_with(".exe"));
   Expect(path.rfind('/') == std::string_view("/home/user/Downloads").size());

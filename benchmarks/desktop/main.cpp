@@ -90,7 +90,7 @@ int EmptyStart() {
 int Start() {
   Run run;
   StartProgram(run.program);
-  run.program.settings.ShowDisclaim = 0;  // nobody is there to accept it
+  run.program.session.settings.ShowDisclaim = 0;  // nobody is there to accept it
   MainWindow window(run.program);
   window.Open();
   run.desktop.windows.ShowMain(window, false);
@@ -153,7 +153,7 @@ int EmptyKey() {
 int Key() {
   Run run;
   StartApart(run.program, nullptr);
-  run.program.WorkParms.Place.DepthofCover = 40;
+  run.program.project.WorkParms.Place.DepthofCover = 40;
   ParametersDialog dialog(run.program);
   dialog.Open();
   const auto window = MakeWindow(dialog, nullptr);
@@ -219,9 +219,9 @@ int Browse() {
   if (!WriteLongFile(path)) return EXIT_FAILURE;
   Run run;
   StartApart(run.program, nullptr);
-  run.program.IniFilePath = folder.filePath("orby.ini").toStdString();
-  run.program.textBrowse.LastFolder = folder.path().toStdString();
-  run.program.textBrowse.BrowseDefaultFilter = "*.txt";
+  run.program.session.IniFilePath = folder.filePath("orby.ini").toStdString();
+  run.program.session.textBrowse.LastFolder = folder.path().toStdString();
+  run.program.session.textBrowse.BrowseDefaultFilter = "*.txt";
   TextBrowser browser(run.program);
   browser.Open();
   const auto window = MakeWindow(browser, nullptr);

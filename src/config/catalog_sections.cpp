@@ -158,21 +158,21 @@ void WriteStandSupports(const StandingSupports& supports, IniText& ini) {
 
 void ReadCatalogSection(Program& program, const IniText& ini, int selector) {
   if (selector == catalog_section::Defaults) {
-    for (const auto& row : DefaultRows) ReadIniRow(program, program.defaults, ini, DefaultsSection, row);
+    for (const auto& row : DefaultRows) ReadIniRow(program, program.session.defaults, ini, DefaultsSection, row);
   } else if (selector == catalog_section::BoltParams) {
-    for (const ListGroup& group : ListGroups) ReadListGroup(program.catalogs, ini, group);
+    for (const ListGroup& group : ListGroups) ReadListGroup(program.session.catalogs, ini, group);
   } else if (selector == catalog_section::StandSupports) {
-    ReadStandSupports(program.catalogs.StandSupports, ini);
+    ReadStandSupports(program.session.catalogs.StandSupports, ini);
   }
 }
 
 void WriteCatalogSection(const Program& program, IniText& ini, int selector) {
   if (selector == catalog_section::Defaults) {
-    for (const auto& row : DefaultRows) WriteIniRow(program.defaults, ini, DefaultsSection, row);
+    for (const auto& row : DefaultRows) WriteIniRow(program.session.defaults, ini, DefaultsSection, row);
   } else if (selector == catalog_section::BoltParams) {
-    for (const ListGroup& group : ListGroups) WriteListGroup(program.catalogs, ini, group);
+    for (const ListGroup& group : ListGroups) WriteListGroup(program.session.catalogs, ini, group);
   } else if (selector == catalog_section::StandSupports) {
-    WriteStandSupports(program.catalogs.StandSupports, ini);
+    WriteStandSupports(program.session.catalogs.StandSupports, ini);
   }
 }
 

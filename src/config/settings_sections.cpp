@@ -37,9 +37,9 @@ std::string AcceptedFont(Program& program, const std::string& read) {
 }
 
 std::string AcceptedDataPath(Program& program, const std::string& read) {
-  if (read.empty() || read == NoText) return program.folders.ProgramData;
+  if (read.empty() || read == NoText) return program.session.folders.ProgramData;
   const std::string path = WithSeparator(Trim(read));
-  return ValidPath(program, path, true) ? path : program.folders.ProgramData;
+  return ValidPath(program, path, true) ? path : program.session.folders.ProgramData;
 }
 
 std::string AcceptedExtension(Program&, const std::string& read) {
@@ -123,7 +123,7 @@ constexpr std::array OptionRows{
 };
 
 void ReadRecentFiles(Program& program, const IniText& ini) {
-  RecentFiles& recent = program.recentFiles;
+  RecentFiles& recent = program.session.recentFiles;
   recent.MaxLastFiles = ReadIniInteger(ini, FileMenuSection, RecentCountKey, RecentCount);
   for (Integer i = 0; i < recent.MaxLastFiles; ++i) {
     RecentFiles::Entry& entry = recent.Entries[static_cast<std::size_t>(i)];
@@ -142,8 +142,8 @@ void WriteRecentFiles(const RecentFiles& recent, IniText& ini) {
 }
 
 void ReadGraph(Program& program, const IniText& ini) {
-  for (const auto& row : GraphRows) ReadIniRow(program, program.graph, ini, GraphSection, row);
-  ForEachAxisTitle(program.graph, [&ini](const std::string& key, std::string& title) {
+  for (const auto& row : GraphRows) ReadIniRow(program, program.session.graph, ini, GraphSection, row);
+  ForEachAxisTitle(program.session.graph, [&ini](const std::string& key, std::string& title) {
     title = ReadIniValue(ini, GraphSection, key);
   });
 }
@@ -159,15 +159,15 @@ constexpr std::array AllSections{settings_section::Settings, settings_section::F
                                  settings_section::Graph, settings_section::Options};
 
 void TellSaving(Program& program) {
-  AddHistoryLine(program, "Saving default settings to file: " + program.IniFilePath);
+  AddHistoryLine(program, "Saving default settings to file: " + program.session.IniFilePath);
 }
 
 }  // namespace
 
 void SetBuiltInSettings(Program& program) {
-  program.settings.DisplayFontName = ChooseDisplayFont(program);
-  program.textBrowse.BrowseFontName = program.settings.DisplayFontName;
-  program.settings.DataPath = program.folders.ProgramData;
+  program.session.settings.DisplayFontName = ChooseDisplayFont(program);
+  program.session.textBrowse.BrowseFontName = program.session.settings.DisplayFontName;
+  program.session.settings.DataPath = program.session.folders.ProgramData;
 }
 
 void ReadSettings(Program& program, const IniText& ini, int selector) {
@@ -178,11 +178,11 @@ void ReadSettings(Program& program, const IniText& ini, int selector) {
     case settings_section::All:
       for (const int section : AllSections) ReadSettings(program, ini, section);
       break;
-    case settings_section::Settings: readRows(program.settings, SettingsSection, SettingsRows); break;
+    case settings_section::Settings: readRows(program.session.settings, SettingsSection, SettingsRows); break;
     case settings_section::FileMenu: ReadRecentFiles(program, ini); break;
-    case settings_section::TextBrowse: readRows(program.textBrowse, TextBrowseSection, TextBrowseRows); break;
+    case settings_section::TextBrowse: readRows(program.session.textBrowse, TextBrowseSection, TextBrowseRows); break;
     case settings_section::Graph: ReadGraph(program, ini); break;
-    case settings_section::Options: readRows(program.options, ReadOptionsSection, OptionRows); break;
+    case settings_section::Options: readRows(program.session.options, ReadOptionsSection, OptionRows); break;
     default: break;
   }
 }
@@ -195,11 +195,11 @@ void WriteSettings(const Program& program, IniText& ini, int selector) {
     case settings_section::All:
       for (const int section : AllSections) WriteSettings(program, ini, section);
       break;
-    case settings_section::Settings: writeRows(program.settings, SettingsSection, SettingsRows); break;
-    case settings_section::FileMenu: WriteRecentFiles(program.recentFiles, ini); break;
-    case settings_section::TextBrowse: writeRows(program.textBrowse, TextBrowseSection, TextBrowseRows); break;
-    case settings_section::Graph: WriteGraph(program.graph, ini); break;
-    case settings_section::Options: writeRows(program.options, WrittenOptionsSection, OptionRows); break;
+    case settings_section::Settings: writeRows(program.session.settings, SettingsSection, SettingsRows); break;
+    case settings_section::FileMenu: WriteRecentFiles(program.session.recentFiles, ini); break;
+    case settings_section::TextBrowse: writeRows(program.session.textBrowse, TextBrowseSection, TextBrowseRows); break;
+    case settings_section::Graph: WriteGraph(program.session.graph, ini); break;
+    case settings_section::Options: writeRows(program.session.options, WrittenOptionsSection, OptionRows); break;
     default: break;
   }
 }
@@ -213,7 +213,7 @@ void ReadDefaults(Program& program, const IniText& ini) { ReadSettings(program, 
 void WriteDefaults(Program& program, int what) {
   // Before the edit: a file that cannot be written is told like any other.
   TellSaving(program);
-  EditIniFile(program, program.IniFilePath, [&](IniText& ini) { WriteSettings(program, ini, what); });
+  EditIniFile(program, program.session.IniFilePath, [&](IniText& ini) { WriteSettings(program, ini, what); });
 }
 
 IniText NewIniText(const Program& program) {
@@ -228,7 +228,7 @@ IniText NewIniText(const Program& program) {
 // At once: a file that told its version but lacked the rest would start the next run with zeros.
 void WriteNewIniFile(Program& program, const IniText& ini) {
   TellSaving(program);
-  program.platform.files.ReplaceFile(program.IniFilePath, ini.FileBytes());
+  program.platform.files.ReplaceFile(program.session.IniFilePath, ini.FileBytes());
 }
 
 }  // namespace orby

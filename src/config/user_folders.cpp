@@ -42,7 +42,7 @@ void CopyMissing(FileSystem& files, const std::string& source, const std::string
 void FindUserFolders(Program& program) {
   const auto documents = program.platform.userFolders.Documents();
   const auto desktop = program.platform.userFolders.Desktop();
-  Folders& folders = program.folders;
+  Folders& folders = program.session.folders;
   if (!documents || !desktop) {
     const std::string own = AppDirectory(program);
     folders = {own, own, own, own};
@@ -56,10 +56,10 @@ void FindUserFolders(Program& program) {
 }
 
 void CopyExamples(Program& program) {
-  if (program.settings.CopyExampleFiles != 1) return;
+  if (program.session.settings.CopyExampleFiles != 1) return;
   FileSystem& files = program.platform.files;
   for (const std::string& source : files.FilesIn(AppDirectory(program).append(ExamplesFolderName))) {
-    const std::string target = WithSeparator(program.settings.DataPath).append(NameBehindSeparator(source));
+    const std::string target = WithSeparator(program.session.settings.DataPath).append(NameBehindSeparator(source));
     Succeeds([&] { CopyMissing(files, source, target); });
   }
 }
@@ -67,7 +67,7 @@ void CopyExamples(Program& program) {
 void EnterWorkingFolder(Program& program) {
   FileSystem& files = program.platform.files;
   const std::string own = AppDirectory(program);
-  Succeeds([&] { files.SetWorkingFolder(files.CanWriteTo(own) ? own : program.folders.ProgramData); });
+  Succeeds([&] { files.SetWorkingFolder(files.CanWriteTo(own) ? own : program.session.folders.ProgramData); });
 }
 
 }  // namespace orby

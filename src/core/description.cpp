@@ -17,7 +17,7 @@ constexpr std::size_t LongestLine = 60;
 // The text after a trip through the temporary file, which is gone afterwards.
 std::string ThroughTemporaryFile(Program& program, std::string_view text) {
   FileSystem& files = program.platform.files;
-  const std::string& folder = program.folders.ProgramTemporary;
+  const std::string& folder = program.session.folders.ProgramTemporary;
   // Until the user's folders are known, the machine's own serves.
   const std::string path = (folder.empty() ? GetTempDirectory(program) : folder) + "~tmpdesc.tmp";
   const auto remove = [&] { files.RemoveFile(path); };
@@ -62,12 +62,12 @@ NormalDescription Normalized(std::string_view text) {
 std::string NormalizedDescription(std::string_view text) { return Normalized(text).text; }
 
 void SaveDescription(Program& program) {
-  program.DescLines = LinesOfEmptyDescription;
-  if (program.ProjectDescription.empty()) return;
+  program.project.DescLines = LinesOfEmptyDescription;
+  if (program.project.ProjectDescription.empty()) return;
   try {
-    NormalDescription normal = Normalized(ThroughTemporaryFile(program, program.ProjectDescription));
-    program.ProjectDescription = std::move(normal.text);
-    program.DescLines = normal.lines;
+    NormalDescription normal = Normalized(ThroughTemporaryFile(program, program.project.ProjectDescription));
+    program.project.ProjectDescription = std::move(normal.text);
+    program.project.DescLines = normal.lines;
   } catch (const RuntimeError& error) {
     // Whatever is decided, a description that could not be rebuilt stays as the user typed it.
     ErrorDecision(program, error, false);

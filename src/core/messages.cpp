@@ -117,8 +117,9 @@ void SetMessageTitles(Program& program, int moduleIndex) {
     throw RuntimeError(error_number::Subscript);
   }
   const std::string prefix(ModulePrefixes[static_cast<std::size_t>(moduleIndex - 1)]);
-  program.titles = {"Message",        prefix + "Range Error", prefix + "Range Warning", prefix + "Invalid Character",
-                    prefix + "Error", prefix + "Logic Error"};
+  program.windows.titles = {
+      "Message",        prefix + "Range Error", prefix + "Range Warning", prefix + "Invalid Character",
+      prefix + "Error", prefix + "Logic Error"};
 }
 
 void ContextHelpHint(Program& program) {
@@ -127,8 +128,9 @@ void ContextHelpHint(Program& program) {
 }
 
 void AddHistoryLine(Program& program, std::string_view text) {
-  History& history = program.history;
-  if (program.settings.DisplayHistoryWin == 1) AppendHistoryLine(history, program.settings.MaxDisplaySize, text);
+  History& history = program.session.history;
+  if (program.session.settings.DisplayHistoryWin == 1)
+    AppendHistoryLine(history, program.session.settings.MaxDisplaySize, text);
   if (history.Changed) history.Changed();
 }
 
@@ -150,7 +152,7 @@ int ErrorDecision(Program& program, const RuntimeError& error, bool showMessage)
     ShowMessage(program, told + ". Procedure Terminated", box_style::Ok);
     return rule.decision;
   }
-  const int answer = ShowMessage(program, told, box_style::RetryCancel, program.titles.ErrorTitle);
+  const int answer = ShowMessage(program, told, box_style::RetryCancel, program.windows.titles.ErrorTitle);
   return answer == box_result::Retry ? error_decision::Retry : rule.decision;
 }
 

@@ -84,13 +84,9 @@ struct FileOnDisk {
   std::string SpoiltBytes{};  // what it has left there, as far as that could be read
 };
 
-struct Program {
-  explicit Program(Platform platformGiven) : platform(platformGiven) {}
-
-  Platform platform;
-
-  Design WorkParms;      // the committed design
-  Design WorkParmsCopy;  // what a dialog shows, for previews and curves
+// What a project file holds, and what this run knows of that file.
+struct Project {
+  Design WorkParms;  // the committed design
   Integer UseAUSStandardTable = 0;
   std::string ProjectTitle;
   std::string ProjectDescription;
@@ -100,24 +96,13 @@ struct Program {
   std::string PreviousFile;
   FileOnDisk LastFile;
   Integer FileVersion = 0;  // of the last project read: one less than the number in its label
-  Integer RecentMode = 0;
   bool FileSaved = true;
   bool FileEmpty = true;
   bool UnitsLocked = false;
-  bool ToldOfNoBackup = false;  // in this run
+};
 
-  std::array<std::string, 5> OutBuf;  // report pages: 0 the input echo, 1 the calculations or the cost table
-  std::optional<ShownResults> LastResults;
-  Integer LastPage = 4;
-  Integer ReportCaller = report_caller::None;
-  bool DialogOpen = false;
-  std::function<void(Integer)> OpenInputDialog;  // opens the dialog of this report_caller, as the Input menu does
-  // Keeps the bytes of a recovery file where no other run takes them, as far as the disk has the room, and returns the
-  // file that has them; empty when none has.
-  std::function<std::string(const std::string&)> KeepAside;
-  std::function<void()> EndAtOnce = [] {
-  };  // ends the run: no question, nothing saved; unsaved work is kept for the next start
-
+// What a run keeps beside its project.
+struct Session {
   Catalogs catalogs;
   Settings settings;
   TextBrowseSettings textBrowse;
@@ -128,17 +113,45 @@ struct Program {
   std::string IniFilePath;
   std::string UpdateServer;  // the address that new versions are published under; empty: there is none
   DesignDefaults defaults;
-  MessageTitles titles;
   History history;
-  EstimatorState estimator;
-  Integer OptionsTab = 0;  // the page of the options dialog that was chosen last
-  DrawnCurve curve;
+  std::array<std::string, 5>
+      OutBuf;  // pages of the last report: 0 the input echo, 1 the calculations or the cost table
+  std::optional<ShownResults> LastResults;
+  bool ToldOfNoBackup = false;
   std::string SavedDecimalSeparator;
 };
 
+// What the windows hold between them.
+struct WindowState {
+  Design WorkParmsCopy;  // what a dialog shows, for previews and curves
+  MessageTitles titles;
+  EstimatorState estimator;
+  DrawnCurve curve;
+  Integer LastPage = 4;
+  Integer ReportCaller = report_caller::None;
+  Integer OptionsTab = 0;  // the page of the options dialog that was chosen last
+  Integer RecentMode = 0;
+  bool DialogOpen = false;
+  std::function<void(Integer)> OpenInputDialog;  // opens the dialog of this report_caller, as the Input menu does
+};
+
+struct Program {
+  explicit Program(Platform platformGiven) : platform(platformGiven) {}
+
+  Platform platform;
+  Project project;
+  Session session;
+  WindowState windows;
+  // Keeps the bytes of a recovery file where no other run takes them, as far as the disk has the room, and returns the
+  // file that has them; empty when none has.
+  std::function<std::string(const std::string&)> KeepAside;
+  std::function<void()> EndAtOnce = [] {
+  };  // ends the run: no question, nothing saved; unsaved work is kept for the next start
+};
+
 // Whether the Australian table of bolts is the one in force: it is a variant of the Metric tables.
-inline bool UsesAustralianTable(const Program& program) {
-  return program.UseAUSStandardTable == 1 && program.WorkParms.Units == Metric;
+inline bool UsesAustralianTable(const Project& project) {
+  return project.UseAUSStandardTable == 1 && project.WorkParms.Units == Metric;
 }
 
 }  // namespace orby

@@ -50,7 +50,7 @@ std::string TypedTitle(const UnsavedProject& project) {
 // The project's path. An entry that has lost it is taken for one of the data folder.
 std::string PathOf(const Program& program, const Backup& entry) {
   const bool hasFolder = NameBehindSeparator(entry.Project).size() < entry.Project.size();
-  return hasFolder ? entry.Project : WithSeparator(program.settings.DataPath) + entry.Project;
+  return hasFolder ? entry.Project : WithSeparator(program.session.settings.DataPath) + entry.Project;
 }
 
 }  // namespace
@@ -125,7 +125,7 @@ void BackupsWindow::ShowProject(const UnsavedProject& project) {
   txtEntryWidth.SetText(NumberText(design.Place.EntryWidth) + length);
   const std::optional<SuggestedFigures> suggested = LiveSuggestion(design).ValueOr({});
   txtSugPSUP.SetText(OneDecimal(suggested ? std::optional(suggested->SugPSUP) : std::nullopt));
-  txtActualPSUP.SetText(OneDecimal(LivePSUP(design, program_.catalogs).ValueOr({})));
+  txtActualPSUP.SetText(OneDecimal(LivePSUP(design, program_.session.catalogs).ValueOr({})));
 }
 
 void BackupsWindow::ClearProject() {
@@ -138,7 +138,7 @@ void BackupsWindow::ClearProject() {
 // whatever its name. But the old bytes of a file that a failed save has spoilt are held for the next save, and a file
 // that now holds the backup is spoilt no more.
 void BackupsWindow::SaveAs() {
-  const FileOnDisk last = program_.LastFile;
+  const FileOnDisk last = program_.project.LastFile;
   SaveRemarks remarks;
   RunTrapped(program_, [&] {
     remarks.clear();
@@ -152,11 +152,11 @@ void BackupsWindow::SaveAs() {
     AddHistoryLine(program_, "Backup saved as: " + path);
     List();
   });
-  const FileOnDisk& now = program_.LastFile;
+  const FileOnDisk& now = program_.project.LastFile;
   const bool isHeld = now.IsSpoilt && (now.Path != last.Path || !last.IsSpoilt);
   const bool isMended = last.IsSpoilt && now.Path == last.Path && !now.IsSpoilt;
-  if (!isHeld) program_.LastFile = last;
-  if (isMended) program_.LastFile.IsSpoilt = false;
+  if (!isHeld) program_.project.LastFile = last;
+  if (isMended) program_.project.LastFile.IsSpoilt = false;
   ShowRemarks(program_, remarks);
 }
 

@@ -6,43 +6,46 @@ namespace orby {
 namespace {
 
 const CatalogList& ByUnits(const Program& program, const CatalogList& english, const CatalogList& metric) {
-  return program.WorkParms.Units == Metric ? metric : english;
+  return program.project.WorkParms.Units == Metric ? metric : english;
 }
 
 }  // namespace
 
 const BoltTable& LoadBoltTable(Program& program) {
-  if (program.WorkParms.Units != Metric) return program.catalogs.BoltTableENG;
-  if (UsesAustralianTable(program)) {
-    SetBoltTableAUS(program.catalogs);
+  if (program.project.WorkParms.Units != Metric) return program.session.catalogs.BoltTableENG;
+  if (UsesAustralianTable(program.project)) {
+    SetBoltTableAUS(program.session.catalogs);
   } else {
-    SetBoltTableMET(program.catalogs);
+    SetBoltTableMET(program.session.catalogs);
   }
-  return program.catalogs.BoltTableMET;
+  return program.session.catalogs.BoltTableMET;
 }
 
 const CatalogList& BoltDiameters(const Program& program) {
-  return ByUnits(program, program.catalogs.DefaultBoltDiamArrayENG, program.catalogs.DefaultBoltDiamArrayMET);
+  return ByUnits(program, program.session.catalogs.DefaultBoltDiamArrayENG,
+                 program.session.catalogs.DefaultBoltDiamArrayMET);
 }
 
 const CatalogList& BoltGrades(const Program& program) {
-  const Catalogs& lists = program.catalogs;
-  return program.WorkParms.Basis == StrengthBasis::Yield
+  const Catalogs& lists = program.session.catalogs;
+  return program.project.WorkParms.Basis == StrengthBasis::Yield
              ? ByUnits(program, lists.DefaultBoltGradeArrayENG, lists.DefaultBoltGradeArrayMET)
              : ByUnits(program, lists.DefaultBoltUTSArrayENG, lists.DefaultBoltUTSArrayMET);
 }
 
 const CatalogList& CableDiameters(const Program& program) {
-  return ByUnits(program, program.catalogs.DefaultCableDiamArrayENG, program.catalogs.DefaultCableDiamArrayMET);
+  return ByUnits(program, program.session.catalogs.DefaultCableDiamArrayENG,
+                 program.session.catalogs.DefaultCableDiamArrayMET);
 }
 
 const CatalogList& CableCapacities(const Program& program) {
-  return ByUnits(program, program.catalogs.DefaultCableCapArrayENG, program.catalogs.DefaultCableCapArrayMET);
+  return ByUnits(program, program.session.catalogs.DefaultCableCapArrayENG,
+                 program.session.catalogs.DefaultCableCapArrayMET);
 }
 
 Single StandSupportCap(const Program& program, std::size_t index) {
-  const auto& [tons, kilonewtons] = program.catalogs.StandSupports.DefaultStandSupportCap[index];
-  return program.WorkParms.Units == Metric ? kilonewtons : tons;
+  const auto& [tons, kilonewtons] = program.session.catalogs.StandSupports.DefaultStandSupportCap[index];
+  return program.project.WorkParms.Units == Metric ? kilonewtons : tons;
 }
 
 }  // namespace orby

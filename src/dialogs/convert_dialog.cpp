@@ -24,7 +24,7 @@ ConvertDialog::ConvertDialog(Program& program, std::function<void()> converted)
 void ConvertDialog::OnOpen() {
   PrepareForm(program_, message_module::Conversion);
   AddHistoryLine(program_, "Loading File Conversion Form");
-  const UnitSystem other = program_.WorkParms.Units == English ? Metric : English;
+  const UnitSystem other = program_.project.WorkParms.Units == English ? Metric : English;
   Option1.SetMemberEnabled(PlaceOf(English), other == English);
   Option1.SetMemberEnabled(PlaceOf(Metric), other == Metric);
   SetArrayIndex(program_, Option1, NumberOf(other));

@@ -96,14 +96,14 @@ void CostDialog::TieCommands() {
 }
 
 void CostDialog::OnOpen() {
-  program_.DialogOpen = true;
+  program_.windows.DialogOpen = true;
   PrepareForm(program_, message_module::Parameters);
   HoldEvents = true;
   CommitOnClose = false;
   WasCommitted = false;
-  program_.ReportCaller = report_caller::Cost;
+  program_.windows.ReportCaller = report_caller::Cost;
   FillFields();
-  AppendUnits(*this, program_.WorkParms.Units);
+  AppendUnits(*this, program_.project.WorkParms.Units);
   CalcAdvance();
   CalcProduction();
   AddHistoryLine(program_, history_text::EditingParameters);
@@ -114,14 +114,14 @@ void CostDialog::OnOpen() {
 void CostDialog::OnClose() {
   if (CommitOnClose) {
     While(Act::TakeCosts, [this] { SaveWorkParms(); });
-    program_.UnitsLocked = true;
+    program_.project.UnitsLocked = true;
   }
   AddHistoryLine(program_, WasCommitted ? history_text::ParametersModified : history_text::ParametersNotModified);
-  program_.DialogOpen = false;
+  program_.windows.DialogOpen = false;
 }
 
 void CostDialog::FillFields() {
-  const CostInputs& cost = program_.WorkParms.Cost;
+  const CostInputs& cost = program_.project.WorkParms.Cost;
   for (const CostField& row : CostFields) (this->*row.Box).SetText(NumberText(cost.*row.Field));
   chkProduction.SetValue(cost.Production);
   chkAdvance.SetValue(cost.Advance);
@@ -156,7 +156,7 @@ bool CostDialog::ValidateCost() {
     TextBox& box = this->*row.Box;
     const auto number = FittingNumber(box.Text());
     if (number && *number >= 0) continue;
-    ShowMessage(program_, std::string(row.Fault), box_style::Critical, program_.titles.RangeErrorTitle);
+    ShowMessage(program_, std::string(row.Fault), box_style::Critical, program_.windows.titles.RangeErrorTitle);
     RequestFocus(box);
     return false;
   }
@@ -166,22 +166,22 @@ bool CostDialog::ValidateCost() {
 void CostDialog::ReadEdits(Design& design) const { ReadCost(design.Cost); }
 
 void CostDialog::SaveWorkParms() {
-  ReadEdits(program_.WorkParms);
-  program_.FileSaved = false;
-  program_.FileEmpty = false;
+  ReadEdits(program_.project.WorkParms);
+  program_.project.FileSaved = false;
+  program_.project.FileEmpty = false;
   WasCommitted = true;
 }
 
-void CostDialog::CopyCostToWorkParmsCopy() { ReadCost(program_.WorkParmsCopy.Cost); }
+void CostDialog::CopyCostToWorkParmsCopy() { ReadCost(program_.windows.WorkParmsCopy.Cost); }
 
 void CostDialog::BuildReport() {
   CopyCostToWorkParmsCopy();
   // The curves of the results window are those of the project, not of a design that was shown before.
-  program_.WorkParmsCopy.Support() = program_.WorkParms.Support();
-  program_.OutBuf[1] = CostReport(program_.WorkParmsCopy.Cost, program_.WorkParms.Units);
-  program_.LastPage = 1;
-  const Preview preview(program_.WorkParms.Cost, program_.WorkParmsCopy.Cost);
-  program_.ReportCaller = report_caller::Cost;
+  program_.windows.WorkParmsCopy.Support() = program_.project.WorkParms.Support();
+  program_.session.OutBuf[1] = CostReport(program_.windows.WorkParmsCopy.Cost, program_.project.WorkParms.Units);
+  program_.windows.LastPage = 1;
+  const Preview preview(program_.project.WorkParms.Cost, program_.windows.WorkParmsCopy.Cost);
+  program_.windows.ReportCaller = report_caller::Cost;
   LoadOutBuf0(program_);
 }
 

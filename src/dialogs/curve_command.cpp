@@ -19,11 +19,11 @@ std::string_view NoticeText(CurveNotice notice) {
 }  // namespace
 
 void TakeCurve(Program& program, Integer index) {
-  CurveSweep sweep = GenerateCurve(program.WorkParmsCopy, index);
+  CurveSweep sweep = GenerateCurve(program.windows.WorkParmsCopy, index);
   if (sweep.Notice) ShowMessage(program, std::string(NoticeText(*sweep.Notice)));
   if (sweep.Failure) throw RuntimeError(*sweep.Failure);
-  static_cast<Curve&>(program.curve) = std::move(sweep.Points);
-  program.curve.CurveIndex = index;
+  static_cast<Curve&>(program.windows.curve) = std::move(sweep.Points);
+  program.windows.curve.CurveIndex = index;
 }
 
 }  // namespace orby

@@ -5,9 +5,9 @@
 
 namespace orby {
 
-// Sweeps the curve of this index over the design in `program.WorkParmsCopy`, tells what is to be told of the sweep, and
-// makes its points those in `program.curve`. A sweep that fails leaves the curve before it, and throws its
-// RuntimeError.
+// Sweeps the curve of this index over the design in `program.windows.WorkParmsCopy`, tells what is to be told of the
+// sweep, and makes its points those in `program.windows.curve`. A sweep that fails leaves the curve before it, and
+// throws its RuntimeError.
 void TakeCurve(Program& program, Integer index);
 
 }  // namespace orby

@@ -14,7 +14,7 @@ namespace {
 
 // Offers one choice of two: the present one always, the other unless the project's choices are locked.
 void Offer(Program& program, OptionArray& options, Integer present) {
-  options.SetAllEnabled(!program.UnitsLocked);
+  options.SetAllEnabled(!program.project.UnitsLocked);
   SetArrayIndex(program, options, present);
   options.SetMemberEnabled(static_cast<std::size_t>(present), true);
 }
@@ -51,13 +51,13 @@ void DescriptionDialog::OnOpen() {
   AddHistoryLine(program_, history_text::EditingDescription);
   CommitOnClose = false;
   OpensParameters = false;
-  Text1.SetText(program_.ProjectTitle);
-  Text2.SetText(program_.ProjectDescription);
+  Text1.SetText(program_.project.ProjectTitle);
+  Text2.SetText(program_.project.ProjectDescription);
   ShowPutBack();
-  Offer(program_, Option1, NumberOf(program_.WorkParms.Units));
-  Offer(program_, Option2, NumberOf(program_.WorkParms.Basis));
+  Offer(program_, Option1, NumberOf(program_.project.WorkParms.Units));
+  Offer(program_, Option2, NumberOf(program_.project.WorkParms.Basis));
   // Feet leave the box empty, whatever was chosen in a metric project before.
-  if (Check1.Enabled()) Check1.SetValue(program_.UseAUSStandardTable);
+  if (Check1.Enabled()) Check1.SetValue(program_.project.UseAUSStandardTable);
   program_.platform.windows.CenterForm(*this);
 }
 
@@ -75,13 +75,13 @@ void DescriptionDialog::ShowPutBack() { cmdPutBack.SetVisible(TextsBeforeTheShif
 
 // What the dialog opened with has been told before, or came from a file that way.
 void DescriptionDialog::WarnOfLostLines() {
-  if (Text1.Text() == program_.ProjectTitle && Text2.Text() == program_.ProjectDescription) return;
+  if (Text1.Text() == program_.project.ProjectTitle && Text2.Text() == program_.project.ProjectDescription) return;
   std::optional<LostLine> lost;
   Succeeds([&] { lost = LineThatWouldNotComeBack(Typed()); });
   if (!lost) return;
   std::string text = "This line will not come back as it is typed when the project is opened again:";
   text.append(LineEnd).append(LineEnd).append(lost->Line).append(LineEnd).append(LineEnd).append(lost->Reason);
-  ShowMessage(program_, text, box_style::Exclamation, program_.titles.MessageTitle);
+  ShowMessage(program_, text, box_style::Exclamation, program_.windows.titles.MessageTitle);
 }
 
 void DescriptionDialog::Accept() {
@@ -98,18 +98,19 @@ void DescriptionDialog::OnClose() {
 // A design that starts anew has neither title nor description: what was typed along with the other choice is in
 // the backups alone.
 void DescriptionDialog::Commit() {
-  const bool hasNewTexts = Text1.Text() != program_.ProjectTitle || Text2.Text() != program_.ProjectDescription;
-  const bool startsAnew = Chosen<UnitSystem>(Option1) != program_.WorkParms.Units ||
-                          Chosen<StrengthBasis>(Option2) != program_.WorkParms.Basis;
-  program_.ProjectTitle = Text1.Text();
-  program_.ProjectDescription = Text2.Text();
-  if (startsAnew && (hasNewTexts || !program_.FileSaved)) KeepChanges(program_, CommittedProject(program_));
-  Choose(program_, program_.WorkParms.Units, Chosen<UnitSystem>(Option1));
-  Choose(program_, program_.WorkParms.Basis, Chosen<StrengthBasis>(Option2));
-  program_.UseAUSStandardTable = Check1.Value();
-  program_.FileSaved = false;
-  program_.FileEmpty = false;
-  program_.UnitsLocked = true;
+  const bool hasNewTexts =
+      Text1.Text() != program_.project.ProjectTitle || Text2.Text() != program_.project.ProjectDescription;
+  const bool startsAnew = Chosen<UnitSystem>(Option1) != program_.project.WorkParms.Units ||
+                          Chosen<StrengthBasis>(Option2) != program_.project.WorkParms.Basis;
+  program_.project.ProjectTitle = Text1.Text();
+  program_.project.ProjectDescription = Text2.Text();
+  if (startsAnew && (hasNewTexts || !program_.project.FileSaved)) KeepChanges(program_, CommittedProject(program_));
+  Choose(program_, program_.project.WorkParms.Units, Chosen<UnitSystem>(Option1));
+  Choose(program_, program_.project.WorkParms.Basis, Chosen<StrengthBasis>(Option2));
+  program_.project.UseAUSStandardTable = Check1.Value();
+  program_.project.FileSaved = false;
+  program_.project.FileEmpty = false;
+  program_.project.UnitsLocked = true;
 }
 
 }  // namespace orby

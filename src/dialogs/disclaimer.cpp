@@ -47,7 +47,7 @@ Disclaimer::Disclaimer(Program& program) : program_(program) {
 void Disclaimer::OnOpen() {
   accepted_ = false;
   txtDisclaimer.SetText(std::string(DisclaimerText));
-  chkShow.SetValue(program_.settings.ShowDisclaim);
+  chkShow.SetValue(program_.session.settings.ShowDisclaim);
 }
 
 void Disclaimer::Refuse() {
@@ -57,7 +57,7 @@ void Disclaimer::Refuse() {
 
 void Disclaimer::OnClose() {
   if (!accepted_) return;
-  program_.settings.ShowDisclaim = chkShow.Value();
+  program_.session.settings.ShowDisclaim = chkShow.Value();
   WriteDefaults(program_, settings_section::Settings);
 }
 

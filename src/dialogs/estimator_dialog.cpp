@@ -47,7 +47,7 @@ void EstimatorDialog::OnOpen() {
   AddHistoryLine(program_, history_text::EditingDescription);
   HoldEvents = true;
   CommitOnClose = false;
-  const EstimatorState& estimator = program_.estimator;
+  const EstimatorState& estimator = program_.windows.estimator;
   SetArrayIndex(program_, optLocation, estimator.EstimatorRegion);
   // A project file can hold any number here; one that is no row of the grid leaves the first row selected.
   const int row = estimator.EstimatorRockType;
@@ -59,12 +59,12 @@ void EstimatorDialog::OnOpen() {
 
 void EstimatorDialog::OnClose() {
   if (CommitOnClose) {
-    EstimatorState& estimator = program_.estimator;
+    EstimatorState& estimator = program_.windows.estimator;
     estimator.EstimatedCMRR = ToInteger(txtCMRR.Value());
     estimator.EstimatorRegion = GetArrayIndex(optLocation);
     estimator.EstimatorRockType = static_cast<Integer>(VSFlexGrid1.Row());
-    program_.FileSaved = false;
-    program_.FileEmpty = false;
+    program_.project.FileSaved = false;
+    program_.project.FileEmpty = false;
   }
   AddHistoryLine(program_, "CMRR Form Modified");
 }
@@ -86,7 +86,7 @@ void EstimatorDialog::ShowRegion(Integer region) {
     VSFlexGrid1.SetCell(row, RatingColumn, std::string(type.CMRR));
     ++row;
   }
-  const Integer manualValue = program_.estimator.EstimatorManualValue;
+  const Integer manualValue = program_.windows.estimator.EstimatorManualValue;
   if (manualValue != 0) VSFlexGrid1.SetCell(row - 1, RatingColumn, NumberText(manualValue));
   if (HoldEvents) return;
   VSFlexGrid1.SetRow(RowOf(types, chosen));
@@ -96,7 +96,7 @@ void EstimatorDialog::ShowRegion(Integer region) {
 void EstimatorDialog::ShowEstimate() {
   const int row = VSFlexGrid1.Row();
   txtCMRR.SetText(VSFlexGrid1.Cell(row, RatingColumn));
-  program_.estimator.EstimatorManual = row == VSFlexGrid1.Rows() - 1;
+  program_.windows.estimator.EstimatorManual = row == VSFlexGrid1.Rows() - 1;
 }
 
 }  // namespace orby

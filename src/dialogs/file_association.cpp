@@ -9,7 +9,7 @@
 namespace orby {
 
 void AssociateFileExtension(Program& program) {
-  const std::string extension = program.settings.FileExtension;
+  const std::string extension = program.session.settings.FileExtension;
   const int answer = ShowMessage(program,
                                  "This operation may break an existing association of file extension " + extension +
                                      " with other programs on this computer. Proceed?",

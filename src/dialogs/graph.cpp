@@ -57,8 +57,8 @@ std::string TitleOf(std::string_view label, Measure measure, UnitSystem units) {
 Integer DependentVariable(Integer curveIndex) { return NumberOf(SubjectOfCurve(curveIndex).Figure); }
 
 void ComposeAxisTitles(Program& program) {
-  GraphSettings& graph = program.graph;
-  const UnitSystem units = program.WorkParms.Units;
+  GraphSettings& graph = program.session.graph;
+  const UnitSystem units = program.project.WorkParms.Units;
   for (Integer i = 0; i < CurveCount; ++i) {
     const CurveSubject& subject = SubjectOfCurve(i);
     graph.XAxisTitle[static_cast<std::size_t>(i)] = TitleOf(subject.Independent, subject.IndependentMeasure, units);
@@ -66,12 +66,12 @@ void ComposeAxisTitles(Program& program) {
   for (std::size_t i = 0; i < Dependents.size(); ++i) {
     graph.YAxisTitle[i] = TitleOf(Dependents[i].label, Dependents[i].measure, units);
   }
-  graph.GraphUnits = program.WorkParms.Units;
+  graph.GraphUnits = program.project.WorkParms.Units;
 }
 
 void PrepareAxisTitles(Program& program, Integer curveIndex) {
-  const GraphSettings& graph = program.graph;
-  if (At(graph.XAxisTitle, curveIndex).empty() || graph.GraphUnits != program.WorkParms.Units)
+  const GraphSettings& graph = program.session.graph;
+  if (At(graph.XAxisTitle, curveIndex).empty() || graph.GraphUnits != program.project.WorkParms.Units)
     ComposeAxisTitles(program);
 }
 

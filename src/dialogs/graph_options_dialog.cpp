@@ -36,14 +36,14 @@ void GraphOptionsDialog::OnOpen() {
   Combo1.Fill({{"None"}, {"Horizontal"}, {"Vertical"}, {"Horizontal & Vertical"}});
   Combo2.Fill({{"Lines Only"}, {"Symbols Only"}, {"Lines & Symbols"}});
   FillFields();
-  SetArrayIndex(program_, Option1, program_.graph.GraphSetParams);
-  const Integer curve = program_.curve.CurveIndex;
+  SetArrayIndex(program_, Option1, program_.session.graph.GraphSetParams);
+  const Integer curve = program_.windows.curve.CurveIndex;
   for (std::size_t i = 0; i < Text2.size(); ++i) Text2[i].SetVisible(static_cast<int>(i) == curve);
   for (std::size_t i = 0; i < Text3.size(); ++i) Text3[i].SetVisible(static_cast<int>(i) == DependentVariable(curve));
 }
 
 void GraphOptionsDialog::FillFields() {
-  const GraphSettings& graph = program_.graph;
+  const GraphSettings& graph = program_.session.graph;
   Text1.SetText(graph.GraphTitle);
   for (std::size_t i = 0; i < Text2.size(); ++i) Text2[i].SetText(graph.XAxisTitle[i]);
   for (std::size_t i = 0; i < Text3.size(); ++i) Text3[i].SetText(graph.YAxisTitle[i]);
@@ -57,7 +57,7 @@ void GraphOptionsDialog::FillFields() {
 void GraphOptionsDialog::ChooseFormat(Integer option) {
   if (option == DefaultFormat) {
     // The default titles are in force from here on; a cancelled dialog does not bring the others back.
-    program_.graph.GraphSetParams = DefaultFormat;
+    program_.session.graph.GraphSetParams = DefaultFormat;
     ComposeAxisTitles(program_);
     FillFields();
   }
@@ -91,9 +91,9 @@ void GraphOptionsDialog::KeepToItems(Combo& list, int& lastValid) {
 }
 
 void GraphOptionsDialog::ReadFields() const {
-  GraphSettings& graph = program_.graph;
-  const auto curve = static_cast<std::size_t>(program_.curve.CurveIndex);
-  const auto dependent = static_cast<std::size_t>(DependentVariable(program_.curve.CurveIndex));
+  GraphSettings& graph = program_.session.graph;
+  const auto curve = static_cast<std::size_t>(program_.windows.curve.CurveIndex);
+  const auto dependent = static_cast<std::size_t>(DependentVariable(program_.windows.curve.CurveIndex));
   graph.GraphTitle = Text1.Text();
   graph.XAxisTitle[curve] = Text2[curve].Text();
   graph.YAxisTitle[dependent] = Text3[dependent].Text();
@@ -107,7 +107,7 @@ void GraphOptionsDialog::ReadFields() const {
 void GraphOptionsDialog::Accept() {
   ReadFields();
   WriteDefaults(program_, settings_section::Graph);
-  Reformat(program_.graph, program_.curve.CurveIndex, chart_);
+  Reformat(program_.session.graph, program_.windows.curve.CurveIndex, chart_);
   Close();
 }
 

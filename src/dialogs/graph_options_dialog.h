@@ -44,7 +44,7 @@ class GraphOptionsControls : public Form {
 
 class GraphOptionsDialog : public GraphOptionsControls {
  public:
-  // The chart shows the curve `program.curve.CurveIndex`; OK gives it the format chosen.
+  // The chart shows the curve `program.windows.curve.CurveIndex`; OK gives it the format chosen.
   GraphOptionsDialog(Program& program, Chart& chart);
 
  protected:

@@ -74,41 +74,41 @@ void GraphWindow::ShowCurve(Integer index) {
 }
 
 void GraphWindow::OnOpen() {
-  program_.curve.GraphClosed = false;
+  program_.windows.curve.GraphClosed = false;
   GraphOptionsItem.SetItemChecked(options_item::PointID, false);
   Frame1.SetVisible(false);
   ClearReadOut();
 }
 
 void GraphWindow::OnClose() {
-  StoreFormat(graph1, program_.curve.CurveIndex, program_.graph);
-  program_.curve.GraphClosed = true;
+  StoreFormat(graph1, program_.windows.curve.CurveIndex, program_.session.graph);
+  program_.windows.curve.GraphClosed = true;
 }
 
 void GraphWindow::GraphInit(Integer index) {
   PrepareAxisTitles(program_, index);
-  program_.curve.CurveIndex = index;
-  ApplyTitlesAndGrid(program_.graph, index, graph1);
-  program_.curve.CurveCount = 1;
+  program_.windows.curve.CurveIndex = index;
+  ApplyTitlesAndGrid(program_.session.graph, index, graph1);
+  program_.windows.curve.CurveCount = 1;
 }
 
 void GraphWindow::DrawCurve() {
-  const DrawnCurve& curve = program_.curve;
+  const DrawnCurve& curve = program_.windows.curve;
   std::vector<ChartSeries> drawn;
   for (Integer number = 1; number <= curve.CurveCount; ++number) {
     ChartSeries series = PointsOf(curve);
     series.colour = CurveColors(number);
     series.legend = LegendText(curve.CurveIndex);
-    ApplyStyle(program_.graph, series);
+    ApplyStyle(program_.session.graph, series);
     drawn.push_back(std::move(series));
   }
   graph1.SetSeries(std::move(drawn));
-  graph1.SetLegendShown(program_.graph.CurveLegend == 1);
+  graph1.SetLegendShown(program_.session.graph.CurveLegend == 1);
 }
 
 void GraphWindow::ClearGraph() {
   graph1.SetSeries({});
-  program_.curve.CurveCount = 0;
+  program_.windows.curve.CurveCount = 0;
 }
 
 void GraphWindow::ReadOut(const ChartHit& hit) {
@@ -123,7 +123,7 @@ void GraphWindow::ReadOut(const ChartHit& hit) {
   const auto point = static_cast<std::size_t>(hit.point);
   lblX.SetCaption(FormatNumber(ToSingle(series.x[point]), CoordinateFormat));
   lblSF.SetCaption(FormatNumber(ToSingle(series.y[point]), CoordinateFormat));
-  lblCurve.SetCaption(ShortCurveName(program_.curve.CurveIndex));
+  lblCurve.SetCaption(ShortCurveName(program_.windows.curve.CurveIndex));
 }
 
 void GraphWindow::ClearReadOut() {
@@ -131,7 +131,7 @@ void GraphWindow::ClearReadOut() {
 }
 
 void GraphWindow::Print() {
-  const std::string title = CurveTitle(program_.curve.CurveIndex);
+  const std::string title = CurveTitle(program_.windows.curve.CurveIndex);
   const auto outcome =
       RunTrapped(program_, [&] { program_.platform.printer.Choose(PrintedName(program_) + " " + title); });
   if (outcome != StepOutcome::Done) return;
@@ -140,7 +140,7 @@ void GraphWindow::Print() {
 }
 
 void GraphWindow::AskAndExport() {
-  if (program_.options.AskOfficeInstall == 0) {
+  if (program_.session.options.AskOfficeInstall == 0) {
     const int answer =
         ShowMessage(program_, "This option will only work if Microsoft Excel is installed on this computer. Proceed?",
                     box_style::YesNo);
@@ -150,12 +150,12 @@ void GraphWindow::AskAndExport() {
 }
 
 void GraphWindow::Export() {
-  const Integer index = program_.curve.CurveIndex;
+  const Integer index = program_.windows.curve.CurveIndex;
   Sheet sheet{graph1.Heading(), graph1.AxisX().title, graph1.AxisY().title, {}};
   for (const ChartSeries& series : graph1.Series()) {
     sheet.series.push_back({"X-coord", ShortCurveName(index), series.x, series.y});
   }
-  const std::string path = program_.folders.ProgramTemporary + "ORBY " + CurveTitle(index) + ".xlsx";
+  const std::string path = program_.session.folders.ProgramTemporary + "ORBY " + CurveTitle(index) + ".xlsx";
   const auto outcome = RunTrapped(program_, [&] { program_.platform.documents.OpenSheet(sheet, path); });
   if (outcome != StepOutcome::Done) return;
   const auto count = static_cast<int>(sheet.series.size());
@@ -169,7 +169,7 @@ void GraphWindow::TogglePointID() {
 }
 
 void GraphWindow::EditOptions() {
-  StoreFormat(graph1, program_.curve.CurveIndex, program_.graph);
+  StoreFormat(graph1, program_.windows.curve.CurveIndex, program_.session.graph);
   GraphOptionsDialog dialog(program_, graph1);
   ShowForm(program_, dialog);
 }

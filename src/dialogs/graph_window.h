@@ -36,15 +36,15 @@ class GraphWindow : public GraphControls {
  public:
   explicit GraphWindow(Program& program);
 
-  // Draws the points in `program.curve` as the curve of this index and brings the window to the front, opening it
-  // first if it is not open. Throws RuntimeError 9 for an index outside 0..9.
+  // Draws the points in `program.windows.curve` as the curve of this index and brings the window to the front, opening
+  // it first if it is not open. Throws RuntimeError 9 for an index outside 0..9.
   void ShowCurve(Integer index);
 
   // Prepares titles, grid lines and heading of the chart for one curve. Throws RuntimeError 9 for an index outside
   // 0..9.
   void GraphInit(Integer index);
-  // Loads the points into the chart, `program.curve.CurveCount` times. Throws RuntimeError 9 beyond the sixth series,
-  // which has no colour.
+  // Loads the points into the chart, `program.windows.curve.CurveCount` times. Throws RuntimeError 9 beyond the sixth
+  // series, which has no colour.
   void DrawCurve();
   void ClearGraph();
 

@@ -114,7 +114,7 @@ OptionsDialog::OptionsDialog(Program& program)
 }
 
 void OptionsDialog::TieCommands() {
-  SSTab1.Click = [this] { program_.OptionsTab = static_cast<Integer>(SSTab1.Tab()); };
+  SSTab1.Click = [this] { program_.windows.OptionsTab = static_cast<Integer>(SSTab1.Tab()); };
   cmdFileAssoc.Click = [this] { AssociateFileExtension(program_); };
   cmdOK.Click = [this] { Accept(); };
   cmdCancel.Click = [this] { Close(); };
@@ -130,18 +130,20 @@ void OptionsDialog::OnOpen() {
   }
   for (const std::size_t units : Pages) FillCables(units);
   FillStands();
-  SSTab1.SetTab(program_.OptionsTab);
+  SSTab1.SetTab(program_.windows.OptionsTab);
   PrepareForm(program_, message_module::Options);
   AddHistoryLine(program_, "Editing ORBY Options");
   program_.platform.windows.CenterForm(*this);
 }
 
 void OptionsDialog::FillFields() {
-  for (const Preference& row : Preferences) (this->*row.Box).SetValue(program_.options.*row.Member);
-  SetArrayIndex(program_, optStrength, NumberOf(program_.options.BoltGradeAsUltimateDefault));
+  for (const Preference& row : Preferences) (this->*row.Box).SetValue(program_.session.options.*row.Member);
+  SetArrayIndex(program_, optStrength, NumberOf(program_.session.options.BoltGradeAsUltimateDefault));
   for (const DefaultField& row : DefaultFields) {
     for (const std::size_t page : Pages) {
-      const auto fill = [&](auto member) { (this->*row.Boxes)[page].SetText(NumberText(program_.defaults.*member)); };
+      const auto fill = [&](auto member) {
+        (this->*row.Boxes)[page].SetText(NumberText(program_.session.defaults.*member));
+      };
       std::visit(fill, row.Members[page]);
     }
   }
@@ -155,7 +157,7 @@ void OptionsDialog::GoTo(std::size_t page, TextBox& field) {
 }
 
 void OptionsDialog::TellFault(const std::string& fault) {
-  ShowMessage(program_, fault, box_style::Critical, program_.titles.RangeErrorTitle);
+  ShowMessage(program_, fault, box_style::Critical, program_.windows.titles.RangeErrorTitle);
 }
 
 bool OptionsDialog::CheckFaults() {
@@ -181,7 +183,7 @@ bool OptionsDialog::CheckWarnings() {
       const double value = field.Value();
       if (value <= 0 || value >= row.Least) continue;
       const int answer =
-          ShowMessage(program_, std::string(row.Question), box_style::YesNo, program_.titles.RangeWarningTitle);
+          ShowMessage(program_, std::string(row.Question), box_style::YesNo, program_.windows.titles.RangeWarningTitle);
       if (answer != box_result::No) continue;
       GoTo(page, field);
       return false;
@@ -203,7 +205,7 @@ void OptionsDialog::Accept() {
 }
 
 DesignDefaults OptionsDialog::EditedDefaults() const {
-  DesignDefaults defaults = program_.defaults;
+  DesignDefaults defaults = program_.session.defaults;
   for (const std::size_t page : PagesAsStored) {
     for (const DefaultField& row : DefaultFields) {
       const double value = (this->*row.Boxes)[page].Value();
@@ -216,21 +218,21 @@ DesignDefaults OptionsDialog::EditedDefaults() const {
 // All or nothing.
 void OptionsDialog::Store() {
   const DesignDefaults defaults = EditedDefaults();
-  Catalogs catalogs = program_.catalogs;
+  Catalogs catalogs = program_.session.catalogs;
   StoreBolts(catalogs);
   StoreCables(catalogs);
   StoreStands(catalogs);
-  program_.defaults = defaults;
-  program_.catalogs = std::move(catalogs);
-  for (const Preference& row : Preferences) program_.options.*row.Member = (this->*row.Box).Value();
-  program_.options.BoltGradeAsUltimateDefault = Chosen<StrengthBasis>(optStrength);
+  program_.session.defaults = defaults;
+  program_.session.catalogs = std::move(catalogs);
+  for (const Preference& row : Preferences) program_.session.options.*row.Member = (this->*row.Box).Value();
+  program_.session.options.BoltGradeAsUltimateDefault = Chosen<StrengthBasis>(optStrength);
 }
 
 void OptionsDialog::OnClose() {
   if (!CommitOnClose) return AddHistoryLine(program_, "Options Not Modified");
   Store();
   WriteDefaults(program_, settings_section::Options);
-  EditIniFile(program_, program_.IniFilePath, [this](IniText& ini) {
+  EditIniFile(program_, program_.session.IniFilePath, [this](IniText& ini) {
     for (const int section : {catalog_section::Defaults, catalog_section::BoltParams, catalog_section::StandSupports}) {
       WriteCatalogSection(program_, ini, section);
     }

@@ -106,15 +106,15 @@ void OptionsDialog::TieCables(std::size_t units) {
     ResizeCables(units);
   };
   cmdSetDefaultCable[units].Click = [this, units] {
-    CableCatalogOf(units).SetBuiltIn(program_.catalogs);
+    CableCatalogOf(units).SetBuiltIn(program_.session.catalogs);
     FillCables(units);
   };
 }
 
 void OptionsDialog::FillCables(std::size_t units) {
   const CableCatalog& catalog = CableCatalogOf(units);
-  const CatalogList& diameters = program_.catalogs.*catalog.Diameters;
-  const CatalogList& capacities = program_.catalogs.*catalog.Capacities;
+  const CatalogList& diameters = program_.session.catalogs.*catalog.Diameters;
+  const CatalogList& capacities = program_.session.catalogs.*catalog.Capacities;
   std::vector<OverlayEditing::Texts> entries;
   for (std::size_t i = 0; i < capacities.Count(); ++i) {
     entries.push_back({NumberText(diameters[i]), NumberText(capacities[i])});
@@ -124,7 +124,7 @@ void OptionsDialog::FillCables(std::size_t units) {
 
 void OptionsDialog::ResizeCables(std::size_t units) {
   for (const auto list : CableCatalogOf(units).Lists()) {
-    CatalogList& values = program_.catalogs.*list;
+    CatalogList& values = program_.session.catalogs.*list;
     values.HighestIndex = HighestIndexOf(cables_[units]);
     values.Values.resize(values.Count());
   }
@@ -158,28 +158,28 @@ void OptionsDialog::TieStands() {
     ResizeStands();
   };
   cmdSetDefaultStandSupport.Click = [this] {
-    SetDefaultStandSupportNames(program_.catalogs);
-    SetDefaultStandSupportCapsENG(program_.catalogs);
-    SetDefaultStandSupportCapsMET(program_.catalogs);
+    SetDefaultStandSupportNames(program_.session.catalogs);
+    SetDefaultStandSupportCapsENG(program_.session.catalogs);
+    SetDefaultStandSupportCapsMET(program_.session.catalogs);
     FillStands();
   };
 }
 
 // Capacities are shown in the units of the project.
 void OptionsDialog::FillStands() {
-  const StandingSupports& supports = program_.catalogs.StandSupports;
+  const StandingSupports& supports = program_.session.catalogs.StandSupports;
   const auto count = static_cast<std::ptrdiff_t>(supports.HighestIndex) + 1;
   standCapacities_.assign(supports.DefaultStandSupportCap.begin(), supports.DefaultStandSupportCap.begin() + count);
   std::vector<OverlayEditing::Texts> entries;
   for (std::size_t i = 0; i < standCapacities_.size(); ++i) {
     entries.push_back({supports.DefaultStandSupportType[i], NumberText(StandSupportCap(program_, i))});
   }
-  stands_.Fill({"Support Type", "Capacity" + std::string(UnitLabel(unit_row::Force, program_.WorkParms.Units))},
+  stands_.Fill({"Support Type", "Capacity" + std::string(UnitLabel(unit_row::Force, program_.project.WorkParms.Units))},
                entries);
 }
 
 void OptionsDialog::ResizeStands() {
-  StandingSupports& supports = program_.catalogs.StandSupports;
+  StandingSupports& supports = program_.session.catalogs.StandSupports;
   supports.HighestIndex = HighestIndexOf(stands_);
   const auto count = static_cast<std::size_t>(stands_.Entries());
   supports.DefaultStandSupportType.resize(count);
@@ -189,7 +189,7 @@ void OptionsDialog::ResizeStands() {
 // A capacity that has been changed counts in both unit systems, the others keep the pair that they came with.
 void OptionsDialog::StoreStands(Catalogs& catalogs) const {
   StandingSupports& supports = catalogs.StandSupports;
-  const UnitSystem units = program_.WorkParms.Units;
+  const UnitSystem units = program_.project.WorkParms.Units;
   for (int entry = 0; entry < stands_.Entries(); ++entry) {
     const auto index = static_cast<std::size_t>(entry);
     const auto& before = standCapacities_[index];

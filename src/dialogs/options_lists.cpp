@@ -78,7 +78,7 @@ void OptionsDialog::ChooseBolts(std::size_t catalog, std::size_t list) {
 void OptionsDialog::FillBolts(std::size_t catalog) {
   for (std::size_t list = 0; list < bolt_list::Count; ++list) {
     if (!bolts[catalog].lists[list]) continue;
-    const CatalogList& values = program_.catalogs.*BoltCatalogs[catalog].Lists[list];
+    const CatalogList& values = program_.session.catalogs.*BoltCatalogs[catalog].Lists[list];
     std::vector<ComboItem> items;
     for (std::size_t entry = 0; entry < values.Count(); ++entry) items.push_back({NumberText(values[entry])});
     bolts[catalog].lists[list]->Fill(std::move(items));
@@ -123,10 +123,10 @@ void OptionsDialog::DeleteBolt(std::size_t catalog) {
 
 // The built-in values of the other catalogs that come with these stay out of it.
 void OptionsDialog::ResetBolts(std::size_t catalog) {
-  Catalogs builtIn = program_.catalogs;
+  Catalogs builtIn = program_.session.catalogs;
   BoltCatalogs[catalog].SetBuiltIn(builtIn);
   for (const auto list : BoltCatalogs[catalog].Lists) {
-    if (list != nullptr) program_.catalogs.*list = builtIn.*list;
+    if (list != nullptr) program_.session.catalogs.*list = builtIn.*list;
   }
   FillBolts(catalog);
 }

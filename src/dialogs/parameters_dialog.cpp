@@ -29,7 +29,7 @@ std::vector<ComboItem> NumberItems(const CatalogList& list) {
 }
 
 std::vector<ComboItem> SupportItems(const Program& program) {
-  const StandingSupports& supports = program.catalogs.StandSupports;
+  const StandingSupports& supports = program.session.catalogs.StandSupports;
   std::vector<ComboItem> items;
   const auto count = static_cast<std::size_t>(supports.HighestIndex + 1);
   items.reserve(count);
@@ -138,19 +138,19 @@ void ParametersDialog::TieCommands() {
 }
 
 void ParametersDialog::OnOpen() {
-  program_.DialogOpen = true;
+  program_.windows.DialogOpen = true;
   PrepareForm(program_, message_module::Parameters);
   HoldEvents = true;
   CommitOnClose = false;
   WasCommitted = false;
-  program_.ReportCaller = report_caller::Parameters;
+  program_.windows.ReportCaller = report_caller::Parameters;
   for (TabSet* tabs : {&SSTab1, &SSTab2, &SSTab3}) {
     tabs->SetTab(0);
     for (int tab = 1; tab < tabs->Count(); ++tab) tabs->SetTabEnabled(tab, false);
   }
   if (Units() == Metric) {
     for (const CableControls& cable : {EntryCableControls, InterCableControls}) {
-      (program_.WorkParms.*cable.Support).Cable.CapMode = 1;
+      (program_.project.WorkParms.*cable.Support).Cable.CapMode = 1;
       cable.CapMode.SetMemberEnabled(0, false);
     }
   }
@@ -173,7 +173,8 @@ void ParametersDialog::FillLists() {
     FillGrid(bolt.Table, table);
     bolt.DiameterStd.Fill(diameters);
     bolt.GradeStd.Fill(grades);
-    if (program_.WorkParms.Basis == StrengthBasis::Ultimate) bolt.GradeFrame.SetCaption("Roof Bolt Ultimate Grade");
+    if (program_.project.WorkParms.Basis == StrengthBasis::Ultimate)
+      bolt.GradeFrame.SetCaption("Roof Bolt Ultimate Grade");
   }
   const auto cableDiameters = NumberItems(CableDiameters(program_));
   const auto cableCapacities = NumberItems(CableCapacities(program_));
@@ -187,15 +188,16 @@ void ParametersDialog::FillLists() {
 }
 
 void ParametersDialog::OnClose() {
-  if (CommitOnClose && While(Act::TakeParameters, [this] { return SaveWorkParms(); })) program_.UnitsLocked = true;
+  if (CommitOnClose && While(Act::TakeParameters, [this] { return SaveWorkParms(); }))
+    program_.project.UnitsLocked = true;
   AddHistoryLine(program_, WasCommitted ? history_text::ParametersModified : history_text::ParametersNotModified);
-  program_.DialogOpen = false;
+  program_.windows.DialogOpen = false;
 }
 
 bool ParametersDialog::BuildReport() {
   if (!CopyToWorkParmsCopy()) return false;
-  const Preview preview(program_.WorkParms.Support(), program_.WorkParmsCopy.Support());
-  program_.ReportCaller = report_caller::Parameters;
+  const Preview preview(program_.project.WorkParms.Support(), program_.windows.WorkParmsCopy.Support());
+  program_.windows.ReportCaller = report_caller::Parameters;
   LoadOutBuf0(program_);
   CalculationReport(program_);
   KeepShownResults(program_);
@@ -204,7 +206,7 @@ bool ParametersDialog::BuildReport() {
 
 void ParametersDialog::Estimate() {
   constexpr Integer ParametersCaller = 2;
-  EstimatorState& estimator = program_.estimator;
+  EstimatorState& estimator = program_.windows.estimator;
   estimator.EstimatedCMRR = 0;
   estimator.CallerCode = ParametersCaller;
   EstimatorDialog dialog(program_);

@@ -62,7 +62,7 @@ class ParametersDialog : public ParametersControls {
   OutputControls EntryOutputs{txtRockLoadEntry, txtSupportCapEntry, txtStabFactorEntry};
   OutputControls InterOutputs{txtRockLoadInter, txtSupportCapInter, txtStabFactorInter};
 
-  UnitSystem Units() const { return program_.WorkParms.Units; }
+  UnitSystem Units() const { return program_.project.WorkParms.Units; }
 
  protected:
   void OnOpen() override;

@@ -71,14 +71,14 @@ void ParametersDialog::ShowActualPSUP() {
   ReadPart(DesignPart::Place);
   ReadPart(DesignPart::Primary);
   ReadPart(DesignPart::PrimaryBolt);
-  const std::optional<Single> psup = LivePSUP(typed_, program_.catalogs).ValueOr({});
+  const std::optional<Single> psup = LivePSUP(typed_, program_.session.catalogs).ValueOr({});
   Show(txtActualPSUP, psup ? FormatNumber(*psup, OneDecimal) : NoResult);
 }
 
 void ParametersDialog::ShowEntries() {
   ReadPart(DesignPart::Place);
   ReadPart(DesignPart::Entries);
-  Show(EntryOutputs, EntryFigures(typed_, program_.catalogs), OneDecimal);
+  Show(EntryOutputs, EntryFigures(typed_, program_.session.catalogs), OneDecimal);
 }
 
 void ParametersDialog::ShowIntersections() {
@@ -87,7 +87,7 @@ void ParametersDialog::ShowIntersections() {
   const Single unitWeight = typed_.Place.UnitWeight;
   // A bad unit weight clears the entries' results and leaves the intersections' as they are.
   if (!IsUnfit(unitWeight) && !UnitWeightIsPlausible(unitWeight, Units())) return Clear(EntryOutputs);
-  Show(InterOutputs, IntersectionFigures(typed_, program_.catalogs), WholeNumber);
+  Show(InterOutputs, IntersectionFigures(typed_, program_.session.catalogs), WholeNumber);
 }
 
 }  // namespace orby

@@ -220,7 +220,7 @@ void ParametersDialog::ReadPart(DesignPart part) {
   switch (part) {
     case DesignPart::Place:
       typed_.Units = Units();
-      typed_.Basis = program_.WorkParms.Basis;
+      typed_.Basis = program_.project.WorkParms.Basis;
       reader.Read(typed_.Place.CMRR, txtCMRR);
       break;
     case DesignPart::Primary: break;
@@ -239,10 +239,10 @@ void ParametersDialog::ReadPart(DesignPart part) {
 }
 
 void ParametersDialog::InitParameters() {
-  const Design& design = program_.WorkParms;
+  const Design& design = program_.project.WorkParms;
   txtCMRR.SetText(NumberText(design.Place.CMRR));
-  program_.estimator.EstimatorRegion = design.Place.CMRRRegionIndex;
-  program_.estimator.EstimatorRockType = design.Place.CMRRRockTypeIndex;
+  program_.windows.estimator.EstimatorRegion = design.Place.CMRRRegionIndex;
+  program_.windows.estimator.EstimatorRockType = design.Place.CMRRRockTypeIndex;
   for (const auto& fields : NumberFields) {
     for (const auto& [control, field] : fields) (this->*control).SetText(NumberText(field.In(design)));
   }
@@ -264,10 +264,10 @@ const Control* ParametersDialog::StoreFields(Design& design, const BoltControls&
                                              const BoltControls& manualInter) const {
   NumberReader reader(Misfit::Kept);
   design.Units = Units();
-  design.Basis = program_.WorkParms.Basis;
+  design.Basis = program_.project.WorkParms.Basis;
   reader.ReadRating(design.Place.CMRR, txtCMRR);
-  design.Place.CMRRRegionIndex = program_.estimator.EstimatorRegion;
-  design.Place.CMRRRockTypeIndex = program_.estimator.EstimatorRockType;
+  design.Place.CMRRRegionIndex = program_.windows.estimator.EstimatorRegion;
+  design.Place.CMRRRockTypeIndex = program_.windows.estimator.EstimatorRockType;
   for (const auto& fields : NumberFields) {
     for (const auto& [control, field] : fields) reader.Read(field.In(design), this->*control);
   }
@@ -304,21 +304,21 @@ bool ParametersDialog::TakeFields(Design& design, const BoltControls& manualEntr
 }
 
 bool ParametersDialog::MayCommit() {
-  Design design = program_.WorkParms;
+  Design design = program_.project.WorkParms;
   return TakeFields(design, EntryBoltControls, EntryBoltControls);
 }
 
 bool ParametersDialog::SaveWorkParms() {
-  if (!TakeFields(program_.WorkParms, EntryBoltControls, EntryBoltControls)) return false;
-  program_.FileSaved = false;
-  program_.FileEmpty = false;
+  if (!TakeFields(program_.project.WorkParms, EntryBoltControls, EntryBoltControls)) return false;
+  program_.project.FileSaved = false;
+  program_.project.FileEmpty = false;
   WasCommitted = true;
   return true;
 }
 
 // A preview judges all secondary bolts with the primary tab's manual selection.
 bool ParametersDialog::CopyToWorkParmsCopy() {
-  return TakeFields(program_.WorkParmsCopy, PrimaryBoltControls, PrimaryBoltControls);
+  return TakeFields(program_.windows.WorkParmsCopy, PrimaryBoltControls, PrimaryBoltControls);
 }
 
 }  // namespace orby

@@ -53,7 +53,7 @@ void ParametersDialog::TellRefused(const Control& field) {
     if (const auto* label = dynamic_cast<const Label*>(control)) caption = label->Caption();
     if (control != &field) continue;
     ShowMessage(program_, fault_text::TooLarge(caption, ShownText(field)), box_style::Critical,
-                program_.titles.RangeErrorTitle);
+                program_.windows.titles.RangeErrorTitle);
     SSTab1.SetTab(page->outerTab);
     if (page->inner != nullptr) (this->*page->inner).SetTab(page->innerTab);
     return RequestFocus(*control);

@@ -14,9 +14,9 @@ namespace {
 class ProgramApart {
  public:
   explicit ProgramApart(const Program& program) : apart_(Quiet(program.platform)) {
-    apart_.WorkParms = program.WorkParms;
-    apart_.UseAUSStandardTable = program.UseAUSStandardTable;
-    apart_.catalogs = program.catalogs;
+    apart_.project.WorkParms = program.project.WorkParms;
+    apart_.project.UseAUSStandardTable = program.project.UseAUSStandardTable;
+    apart_.session.catalogs = program.session.catalogs;
   }
 
   Program& operator*() { return apart_; }
@@ -38,7 +38,7 @@ void TakeShownDesign(Program& program) {
   ParametersDialog dialog(program);
   dialog.Open();
   if (!dialog.CopyToWorkParmsCopy()) throw RuntimeError(error_number::Overflow);
-  program.WorkParms.Support() = program.WorkParmsCopy.Support();
+  program.project.WorkParms.Support() = program.windows.WorkParmsCopy.Support();
 }
 
 }  // namespace
@@ -52,8 +52,8 @@ void BuildProjectReport(Program& program) {
     CalculationReport(apart);
   });
   if (!isComputed) NoCalculationReport(apart);
-  program.OutBuf[1] = apart.OutBuf[1];
-  const Preview preview(program.WorkParms.Support(), apart.WorkParms.Support());
+  program.session.OutBuf[1] = apart.session.OutBuf[1];
+  const Preview preview(program.project.WorkParms.Support(), apart.project.WorkParms.Support());
   LoadOutBuf0(program);
 }
 

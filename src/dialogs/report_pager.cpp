@@ -27,7 +27,7 @@ void ReportPager::Restart() {
 void ReportPager::Turn(Integer pages) {
   page_ = static_cast<Integer>(page_ + pages);
   Loadbuffer();
-  next_.SetEnabled(page_ < program_.LastPage);
+  next_.SetEnabled(page_ < program_.windows.LastPage);
   previous_.SetEnabled(page_ > 0);
 }
 

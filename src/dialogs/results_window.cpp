@@ -37,7 +37,7 @@ void ResultsWindow::TieCommands() {
   };
   Command6.Click = [this] {
     AddHistoryLine(program_, "All pages printed");
-    Print(0, program_.LastPage);
+    Print(0, program_.windows.LastPage);
   };
   Command7.Click = [this] { CopyAll(); };
   Command8.Click = [this] { OpenHelpTopic(program_, *this); };
@@ -62,7 +62,7 @@ void ResultsWindow::OnClose() {
 }
 
 void ResultsWindow::CopyAll() {
-  program_.platform.clipboard.SetText(JoinedPages(program_, 0, program_.LastPage));
+  program_.platform.clipboard.SetText(JoinedPages(program_, 0, program_.windows.LastPage));
   AddHistoryLine(program_, "Output copied to clipboard");
 }
 
@@ -102,8 +102,8 @@ void ResultsWindow::DrawChosenCurve() {
 void ResultsWindow::ChangeInput() {
   Close();
   // A dialog that is still open comes back by itself.
-  if (program_.DialogOpen || program_.ReportCaller == report_caller::None) return;
-  if (program_.OpenInputDialog) program_.OpenInputDialog(program_.ReportCaller);
+  if (program_.windows.DialogOpen || program_.windows.ReportCaller == report_caller::None) return;
+  if (program_.windows.OpenInputDialog) program_.windows.OpenInputDialog(program_.windows.ReportCaller);
 }
 
 void ShowResults(Program& program) {

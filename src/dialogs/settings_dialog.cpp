@@ -109,7 +109,7 @@ void SettingsDialog::OnOpen() {
 }
 
 void SettingsDialog::FillFields() {
-  const Settings& settings = program_.settings;
+  const Settings& settings = program_.session.settings;
   SetArrayIndex(program_, optUnits, NumberOf(settings.UnitsDefault));
   for (const auto& [box, flag] : FlagFields) (this->*box).SetValue(settings.*flag);
   for (const auto& [box, text] : TextFields) (this->*box).SetText(settings.*text);
@@ -146,7 +146,7 @@ bool SettingsDialog::CheckPath() {
   // A blank path is the root of the file system.
   Text2.SetText(WithSeparator(Text2.Text()));
   if (ValidPath(program_, Text2.Text(), true)) return true;
-  ShowMessage(program_, "Invalid Path for Data Files", box_style::Ok, program_.titles.ErrorTitle);
+  ShowMessage(program_, "Invalid Path for Data Files", box_style::Ok, program_.windows.titles.ErrorTitle);
   RequestFocus(Text2);
   return false;
 }
@@ -161,13 +161,14 @@ bool SettingsDialog::CheckHistorySize() {
 
 bool SettingsDialog::CheckExtension() {
   if (std::ranges::all_of(UpperCase(Text1.Text()), IsLetterOrDigit)) return true;
-  ShowMessage(program_, "Invalid character in file extension", box_style::Ok, program_.titles.InvalidCharacterTitle);
+  ShowMessage(program_, "Invalid character in file extension", box_style::Ok,
+              program_.windows.titles.InvalidCharacterTitle);
   RequestFocus(Text1);
   return false;
 }
 
 Settings SettingsDialog::Edited() const {
-  Settings edited = program_.settings;
+  Settings edited = program_.session.settings;
   edited.UnitsDefault = Chosen<UnitSystem>(optUnits);
   for (const auto& [box, flag] : FlagFields) edited.*flag = (this->*box).Value();
   for (const auto& [box, text] : TextFields) edited.*text = (this->*box).Text();
@@ -180,14 +181,14 @@ Settings SettingsDialog::Edited() const {
 }
 
 void SettingsDialog::Commit() {
-  program_.settings = Edited();
+  program_.session.settings = Edited();
   AddHistoryLine(program_, "Settings Modified");
   if (modified_) modified_();
   WriteDefaults(program_, settings_section::Settings);
 }
 
 void SettingsDialog::OnClose() {
-  if (accepted_ && Edited() != program_.settings) return Commit();
+  if (accepted_ && Edited() != program_.session.settings) return Commit();
   AddHistoryLine(program_, "Settings Not Modified");
 }
 

@@ -83,10 +83,10 @@ TextBrowser::TextBrowser(Program& program) : program_(program) {
 
 void TextBrowser::OnOpen() {
   PrepareForm(program_, message_module::TextBrowser);
-  const TextBrowseSettings& stored = program_.textBrowse;
+  const TextBrowseSettings& stored = program_.session.textBrowse;
   prgLoading.SetVisible(false);
   GoToLastFolder();
-  Text2.SetText(stored.BrowseDefaultFilter.empty() ? "*." + program_.settings.FileExtension
+  Text2.SetText(stored.BrowseDefaultFilter.empty() ? "*." + program_.session.settings.FileExtension
                                                    : stored.BrowseDefaultFilter);
   RichTextBox1.SetFont(StoredFont(stored));
   Check1.SetValue(stored.BrowseUseNotepad);
@@ -95,7 +95,7 @@ void TextBrowser::OnOpen() {
 
 void TextBrowser::OnClose() {
   StopLoading();
-  TextBrowseSettings& stored = program_.textBrowse;
+  TextBrowseSettings& stored = program_.session.textBrowse;
   stored.LastFolder = folder_;
   stored.BrowseDefaultFilter = Text2.Text();
   stored.BrowseUseNotepad = Check1.Value();
@@ -107,12 +107,12 @@ void TextBrowser::OnClose() {
 
 // A folder that is gone by now gives way to the one above it.
 void TextBrowser::GoToLastFolder() {
-  const std::string& last = program_.textBrowse.LastFolder;
+  const std::string& last = program_.session.textBrowse.LastFolder;
   drives_ = program_.platform.files.Drives();
   std::vector<ComboItem> items;
   for (const std::string& drive : drives_) items.push_back({drive});
   Drive1.Fill(std::move(items));
-  std::string folder = FolderName(last.empty() ? program_.settings.DataPath : last);
+  std::string folder = FolderName(last.empty() ? program_.session.settings.DataPath : last);
   while (!Succeeds([&] { OpenFolder(folder); })) {
     const std::string above = FolderAbove(folder);
     if (above == folder) return;
@@ -197,11 +197,11 @@ void TextBrowser::TellItIsTooLong() {
 }
 
 void TextBrowser::ViewOutside(const std::string& path) {
-  const std::string copy = program_.folders.ProgramTemporary + std::string(TemporaryCopy);
+  const std::string copy = program_.session.folders.ProgramTemporary + std::string(TemporaryCopy);
   program_.platform.windows.SetWaitCursor(true);
   const bool copied = CopyTextFile(program_, path, copy);
   program_.platform.windows.SetWaitCursor(false);
-  const std::string& viewer = program_.settings.ExternalEditor;
+  const std::string& viewer = program_.session.settings.ExternalEditor;
   if (!copied || program_.platform.documents.Start(viewer, {copy})) return;
   ShowMessage(program_, "Shell operation failed. Check status of External Viewer: " + viewer);
 }

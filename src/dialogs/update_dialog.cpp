@@ -61,14 +61,14 @@ UpdateDialog::UpdateDialog(Program& program, std::optional<OfferedVersion> offer
   cmdDownUpdate.Click = [this] { Download(); };
   cmdInstall.Click = [this] { Install(); };
   cmdWebPage.Click = [this] { OpenWebPage(); };
-  chkShow.Click = [this] { program_.settings.RemindAnnualUpdates = chkShow.Checked() ? 0 : 1; };
+  chkShow.Click = [this] { program_.session.settings.RemindAnnualUpdates = chkShow.Checked() ? 0 : 1; };
   Command1.Click = [this] { Close(); };
 }
 
 void UpdateDialog::OnOpen() {
   lblInfo.SetCaption(InfoText());
   lblUpdate.SetCaption(AgeText(program_.platform.clock.Today()));
-  chkShow.SetValue(program_.settings.RemindAnnualUpdates == 0 ? 1 : 0);
+  chkShow.SetValue(program_.session.settings.RemindAnnualUpdates == 0 ? 1 : 0);
   cmdWebPage.SetEnabled(HasUpdateServer(program_));
 }
 

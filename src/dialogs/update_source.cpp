@@ -49,7 +49,7 @@ bool IsVersion(std::string_view text) {
 bool IsSum(std::string_view text) { return text.size() == SumLength && std::ranges::all_of(text, IsHexadecimal); }
 
 std::string OnServer(const Program& program, std::string_view path) {
-  return std::string(WithoutSeparator(program.UpdateServer)).append(path);
+  return std::string(WithoutSeparator(program.session.UpdateServer)).append(path);
 }
 
 std::string SetupFileName(std::string_view version) {
@@ -77,7 +77,7 @@ std::optional<OfferedVersion> ReadVersionFile(std::string_view bytes) {
 
 bool IsNewer(const OfferedVersion& offered) { return offered.version > VersionText(true); }
 
-bool HasUpdateServer(const Program& program) { return !program.UpdateServer.empty(); }
+bool HasUpdateServer(const Program& program) { return !program.session.UpdateServer.empty(); }
 
 std::string VersionFileAddress(const Program& program) {
   return OnServer(program, DownloadPath).append(VersionFileName);
@@ -90,11 +90,11 @@ std::string SetupFileAddress(const Program& program, std::string_view version) {
 std::string WebPageAddress(const Program& program) { return OnServer(program, WebPagePath); }
 
 std::string VersionFilePath(const Program& program) {
-  return WithSeparator(program.folders.ProgramData).append(VersionFileName);
+  return WithSeparator(program.session.folders.ProgramData).append(VersionFileName);
 }
 
 std::string DownloadFolder(const Program& program) {
-  const std::string path = WithSeparator(program.folders.Group).append(WayToDownloads);
+  const std::string path = WithSeparator(program.session.folders.Group).append(WayToDownloads);
   return std::filesystem::path(path).lexically_normal().string();
 }
 

@@ -225,7 +225,7 @@ std::optional<std::string> Keep(Program& program, const std::string& project, st
 std::string_view ReasonText(BackupReason reason) { return RowOf(reason).Text; }
 
 std::string BackupFolder(const Program& program) {
-  const std::string& data = program.folders.ProgramData;
+  const std::string& data = program.session.folders.ProgramData;
   return data.empty() ? data : WithSeparator(data).append(FolderName) + FolderSeparator;
 }
 

@@ -113,16 +113,16 @@ Single Rounded(double value, int decimals) {
 }  // namespace
 
 void ConvertProject(Program& program, UnitSystem target) {
-  program.FileSaved = false;
+  program.project.FileSaved = false;
   for (const ConversionRow& row : Conversions) {
-    Single& field = row.Field.In(program.WorkParms);
+    Single& field = row.Field.In(program.project.WorkParms);
     const double value = field;
     field = target == Metric ? Rounded(ToMetric(row.Quantity, value), row.MetricDecimals)
                              : Rounded(ToEnglish(row.Quantity, value), row.EnglishDecimals);
   }
-  program.CurrentFile =
-      (target == Metric ? "Metric_" : "English_") + FileNameFromPath(program, program.CurrentFile, false);
-  program.WorkParms.Units = target;
+  program.project.CurrentFile =
+      (target == Metric ? "Metric_" : "English_") + FileNameFromPath(program, program.project.CurrentFile, false);
+  program.project.WorkParms.Units = target;
 }
 
 }  // namespace orby

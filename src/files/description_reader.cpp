@@ -23,9 +23,9 @@ void AppendLine(std::string& description, Integer& count, std::string_view line)
 void LoadLegacyDescription(Program& program, ItemReader& reader) {
   constexpr int LegacyLines = 5;
   for (int i = 0; i < LegacyLines; ++i) {
-    AppendLine(program.ProjectDescription, program.DescLines, reader.ReadLine());
+    AppendLine(program.project.ProjectDescription, program.project.DescLines, reader.ReadLine());
   }
-  program.DescLines = LinesOfEmptyDescription + LegacyLines;
+  program.project.DescLines = LinesOfEmptyDescription + LegacyLines;
 }
 
 }  // namespace
@@ -41,13 +41,13 @@ void ReadMarkedDescription(ItemReader& reader, std::string& description, Integer
 
 void LoadDescription(Program& program, ItemReader& reader, int mode) {
   constexpr Integer LastLegacyVersion = 49;
-  program.DescLines = 1;
-  if (mode == description_mode::Legacy || program.FileVersion <= LastLegacyVersion) {
+  program.project.DescLines = 1;
+  if (mode == description_mode::Legacy || program.project.FileVersion <= LastLegacyVersion) {
     LoadLegacyDescription(program, reader);
     return;
   }
-  program.ProjectDescription.clear();
-  ReadMarkedDescription(reader, program.ProjectDescription, program.DescLines);
+  program.project.ProjectDescription.clear();
+  ReadMarkedDescription(reader, program.project.ProjectDescription, program.project.DescLines);
 }
 
 }  // namespace orby

@@ -12,13 +12,13 @@ namespace {
 // A program that reads and writes without a trace in this one.
 Program ProgramBeside(const Program& program) {
   Program beside(program.platform);
-  beside.catalogs = program.catalogs;
-  beside.defaults = program.defaults;
-  beside.settings = program.settings;
-  beside.settings.DisplayHistoryWin = 0;
-  beside.options = program.options;
-  beside.folders = program.folders;
-  beside.UseAUSStandardTable = program.UseAUSStandardTable;
+  beside.session.catalogs = program.session.catalogs;
+  beside.session.defaults = program.session.defaults;
+  beside.session.settings = program.session.settings;
+  beside.session.settings.DisplayHistoryWin = 0;
+  beside.session.options = program.session.options;
+  beside.session.folders = program.session.folders;
+  beside.project.UseAUSStandardTable = program.project.UseAUSStandardTable;
   return beside;
 }
 
@@ -29,11 +29,11 @@ std::optional<UnsavedProject> ReadProjectFile(const Program& program, std::strin
     if (!format) return std::nullopt;
     Program beside = ProgramBeside(program);
     FileNew(beside, false, true);
-    beside.FileVersion = *format;
+    beside.project.FileVersion = *format;
     ReadProject(beside, reader);
-    beside.CurrentFile = name;
-    beside.FileEmpty = false;
-    beside.UnitsLocked = true;
+    beside.project.CurrentFile = name;
+    beside.project.FileEmpty = false;
+    beside.project.UnitsLocked = true;
     return CommittedProject(beside);
   } catch (const RuntimeError&) {
     return std::nullopt;

@@ -136,29 +136,30 @@ void FillStartValues(Design& design, UnitSystem units) {
 
 // The number of bolts and their spacing stay. Nothing of the previous project's table row may show up in the next one.
 void FillBolts(const Program& program, BoltSelection& set) {
-  const DesignDefaults& defaults = program.defaults;
-  set.Length = defaults.*BoltLength.In(program.WorkParms.Units);
+  const DesignDefaults& defaults = program.session.defaults;
+  set.Length = defaults.*BoltLength.In(program.project.WorkParms.Units);
   set.Options = 0;
   set.TableRow = 0;
   set.TableDiameter = 0;
   set.TableGrade = 0;
   set.Desc.clear();
   set.DiameterMode = 0;
-  set.DiameterStd = set.DiameterManual = defaults.*BoltDiameter.In(program.WorkParms.Units);
+  set.DiameterStd = set.DiameterManual = defaults.*BoltDiameter.In(program.project.WorkParms.Units);
   set.GradeMode = 0;
-  const DefaultPair& grade = program.WorkParms.Basis == StrengthBasis::Ultimate ? UltimateGrade : YieldGrade;
-  set.GradeStd = set.GradeManual = defaults.*grade.In(program.WorkParms.Units);
+  const DefaultPair& grade = program.project.WorkParms.Basis == StrengthBasis::Ultimate ? UltimateGrade : YieldGrade;
+  set.GradeStd = set.GradeManual = defaults.*grade.In(program.project.WorkParms.Units);
 }
 
 void FillConfiguredValues(Program& program) {
-  const DesignDefaults& defaults = program.defaults;
-  Design& design = program.WorkParms;
-  for (const auto& [field, value] : ConfiguredValues) field.In(design) = defaults.*value.In(program.WorkParms.Units);
+  const DesignDefaults& defaults = program.session.defaults;
+  Design& design = program.project.WorkParms;
+  for (const auto& [field, value] : ConfiguredValues)
+    field.In(design) = defaults.*value.In(program.project.WorkParms.Units);
   for (BoltSelection* set : design.BoltSets()) FillBolts(program, *set);
   design.Place.CMRR = defaults.DefaultCMRR;
   design.Primary.BoltsperRow = defaults.DefaultNumberBoltsPerRow;
 
-  const StandingSupports& supports = program.catalogs.StandSupports;
+  const StandingSupports& supports = program.session.catalogs.StandSupports;
   const bool hasSupports = supports.HighestIndex >= 0 && !supports.DefaultStandSupportType.empty();
   design.Entries.Standing.TypeName = hasSupports ? supports.DefaultStandSupportType.front() : std::string();
   design.Intersections.Standing.TypeName = design.Entries.Standing.TypeName;
@@ -168,23 +169,24 @@ void FillConfiguredValues(Program& program) {
 
 void FileNew(Program& program, bool untitled, bool resetUnits) {
   if (untitled) {
-    program.CurrentFile = UntitledName;
-    program.LastFile = {};
+    program.project.CurrentFile = UntitledName;
+    program.project.LastFile = {};
   }
   if (resetUnits) {
-    program.WorkParms.Units = program.settings.UnitsDefault;
-    program.WorkParms.Basis = program.options.BoltGradeAsUltimateDefault;
+    program.project.WorkParms.Units = program.session.settings.UnitsDefault;
+    program.project.WorkParms.Basis = program.session.options.BoltGradeAsUltimateDefault;
   }
-  program.FileSaved = true;
-  program.FileEmpty = true;
-  program.UnitsLocked = false;
-  program.RecentMode = 1;
+  program.project.FileSaved = true;
+  program.project.FileEmpty = true;
+  program.project.UnitsLocked = false;
+  program.windows.RecentMode = 1;
   // The input echo in front of them is rebuilt whenever it is printed.
-  std::for_each(program.OutBuf.begin() + 1, program.OutBuf.end(), [](std::string& page) { page.clear(); });
-  FillStartValues(program.WorkParms, program.WorkParms.Units);
+  std::for_each(program.session.OutBuf.begin() + 1, program.session.OutBuf.end(),
+                [](std::string& page) { page.clear(); });
+  FillStartValues(program.project.WorkParms, program.project.WorkParms.Units);
   FillConfiguredValues(program);
-  program.ProjectDescription.clear();
-  program.ProjectTitle.clear();
+  program.project.ProjectDescription.clear();
+  program.project.ProjectTitle.clear();
   AddHistoryLine(program, "File initialized. Use Edit-Project Parameters to enter data");
 }
 

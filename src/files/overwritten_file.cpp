@@ -28,7 +28,7 @@ OverwrittenFile::OverwrittenFile(Program& program, std::string path) : program_(
 
 void OverwrittenFile::Look() {
   FileSystem& files = program_.platform.files;
-  const FileOnDisk& last = program_.LastFile;
+  const FileOnDisk& last = program_.project.LastFile;
   if (last.IsSpoilt && last.Path == path_) {
     isSpoilt_ = HoldsNothingBut(files, path_, last.SpoiltBytes);
     if (isSpoilt_) {
@@ -66,7 +66,7 @@ void OverwrittenFile::Overwrite(std::string_view bytes, std::vector<std::string>
     TellFailed(remarks);
     throw;
   }
-  program_.LastFile = {path_, std::string(bytes)};
+  program_.project.LastFile = {path_, std::string(bytes)};
   TellKept(remarks);
 }
 
@@ -143,10 +143,10 @@ void OverwrittenFile::PutBack() {
   if (holds_ != Holds::Known) return;
   // Until they are on the disk again, the old bytes are those of the file.
   if (!isAsBefore_) {
-    program_.LastFile = {path_, old_, true};
-    Succeeds([&] { program_.LastFile.SpoiltBytes = files.ReadFile(path_); });
+    program_.project.LastFile = {path_, old_, true};
+    Succeeds([&] { program_.project.LastFile.SpoiltBytes = files.ReadFile(path_); });
   }
-  if (isAsBefore_ && program_.LastFile.Path == path_) program_.LastFile.IsSpoilt = false;
+  if (isAsBefore_ && program_.project.LastFile.Path == path_) program_.project.LastFile.IsSpoilt = false;
 }
 
 void OverwrittenFile::TellKept(std::vector<std::string>& remarks) {
@@ -156,7 +156,7 @@ void OverwrittenFile::TellKept(std::vector<std::string>& remarks) {
   }
   if (lacksBackup_) {
     const std::string text = "The old contents of " + path_ + " could not be kept in " + BackupFolder(program_) + ".";
-    if (std::exchange(program_.ToldOfNoBackup, true)) {
+    if (std::exchange(program_.session.ToldOfNoBackup, true)) {
       AddHistoryLine(program_, text);
     } else {
       remarks.push_back(text);

@@ -29,22 +29,23 @@ void ReadRest(InputFile& file, std::string& bytes) {
 
 void FileOpen(Program& program, bool& ok) {
   ok = false;
-  if (!program.FileSaved && !SaveChangesOfPreviousFile(program)) return;
+  if (!program.project.FileSaved && !SaveChangesOfPreviousFile(program)) return;
   program.platform.windows.SetWaitCursor(true);
-  program.LastFile = {};
+  program.project.LastFile = {};
   FileNew(program, false, true);
-  AddHistoryLine(program, "Opening: " + program.CurrentFile);
+  AddHistoryLine(program, "Opening: " + program.project.CurrentFile);
 
-  const auto file = program.platform.files.OpenFile(program.CurrentFile);
+  const auto file = program.platform.files.OpenFile(program.project.CurrentFile);
   std::string bytes = file->Read(HeadBytes);
   if (CheckFileFormat(program, ItemReader(bytes))) {
     ReadRest(*file, bytes);
     ReadProject(program, ItemReader(bytes));
     // Of a longer one it cannot be told whether it has changed.
-    if (bytes.size() <= LargestBackup) program.LastFile = {program.CurrentFile, std::move(bytes), false};
-    program.FileSaved = true;
-    program.FileEmpty = false;
-    program.UnitsLocked = true;
+    if (bytes.size() <= LargestBackup)
+      program.project.LastFile = {program.project.CurrentFile, std::move(bytes), false};
+    program.project.FileSaved = true;
+    program.project.FileEmpty = false;
+    program.project.UnitsLocked = true;
     ok = true;
   }
   program.platform.windows.SetWaitCursor(false);

@@ -21,9 +21,9 @@ void ReadField(Design& design, const ProjectLine& line, ItemReader& reader) {
 void ReadHeader(Program& program, ItemReader& reader) {
   reader.ReadText();
   const Integer units = reader.ReadInteger();
-  program.WorkParms.Units = units == NumberOf(Metric) ? Metric : English;
-  if (program.FileVersion >= Version103) program.WorkParms.Basis = StrengthBasis{reader.ReadInteger()};
-  program.ProjectTitle = reader.ReadLine();
+  program.project.WorkParms.Units = units == NumberOf(Metric) ? Metric : English;
+  if (program.project.FileVersion >= Version103) program.project.WorkParms.Basis = StrengthBasis{reader.ReadInteger()};
+  program.project.ProjectTitle = reader.ReadLine();
 }
 
 }  // namespace
@@ -40,7 +40,7 @@ std::optional<Integer> FormatOf(ItemReader reader) {
 bool CheckFileFormat(Program& program, ItemReader reader) {
   const std::optional<Integer> version = FormatOf(reader);
   if (version) {
-    program.FileVersion = *version;
+    program.project.FileVersion = *version;
   } else {
     ShowMessage(program, "Invalid ORBY file format. File can not be opened.");
   }
@@ -49,10 +49,10 @@ bool CheckFileFormat(Program& program, ItemReader reader) {
 
 void ReadProject(Program& program, ItemReader reader) {
   ReadHeader(program, reader);
-  program.ProjectDescription.clear();
+  program.project.ProjectDescription.clear();
   LoadDescription(program, reader, description_mode::Marked);
   for (const ProjectLine& line : ProjectLines) {
-    if (program.FileVersion >= line.FirstVersion) ReadField(program.WorkParms, line, reader);
+    if (program.project.FileVersion >= line.FirstVersion) ReadField(program.project.WorkParms, line, reader);
   }
 }
 

@@ -29,7 +29,7 @@ void AppendFieldsThatDiffer(const Program& program, const std::string& bytes, co
   const std::vector<std::string_view> fields = FieldsThatReadDifferently(program, bytes);
   if (fields.empty()) return;
   remarks.push_back(
-      program.CurrentFile +
+      program.project.CurrentFile +
       " is saved, but when it is opened these fields will not be what they are now: " + ListedNames(fields) +
       ". Look for commas and quotation marks in the bolt descriptions, the title and the description." +
       (backup ? " What the file held before is kept in " + *backup + "." : std::string()));
@@ -40,25 +40,25 @@ void AppendFieldsThatDiffer(const Program& program, const std::string& bytes, co
 void FileSave(Program& program, bool& ok, SaveRemarks& remarks) {
   ok = false;
   remarks.clear();
-  AddHistoryLine(program, "Saving: " + program.CurrentFile);
+  AddHistoryLine(program, "Saving: " + program.project.CurrentFile);
   program.platform.windows.SetWaitCursor(true);
 
-  program.FileSaved = false;
-  const std::string typed = program.ProjectDescription;
-  const Integer lines = program.DescLines;
+  program.project.FileSaved = false;
+  const std::string typed = program.project.ProjectDescription;
+  const Integer lines = program.project.DescLines;
   try {
     SaveDescription(program);
     const std::string bytes = ProjectFileBytes(program);
-    OverwrittenFile file(program, program.CurrentFile);
+    OverwrittenFile file(program, program.project.CurrentFile);
     file.Overwrite(bytes, remarks);
     AppendFieldsThatDiffer(program, bytes, file.Backup(), remarks);
   } catch (const RuntimeError&) {
-    program.ProjectDescription = typed;
-    program.DescLines = lines;
+    program.project.ProjectDescription = typed;
+    program.project.DescLines = lines;
     throw;
   }
 
-  program.FileSaved = true;
+  program.project.FileSaved = true;
   ok = true;
   program.platform.windows.SetWaitCursor(false);
 }

@@ -23,17 +23,17 @@ std::string PaddedNumber(Integer value) {
 std::string HeaderText(const Program& program) {
   std::string text;
   AppendLine(text, FileVersionNames[CurrentFileVersion]);
-  AppendLine(text, PaddedNumber(NumberOf(program.WorkParms.Units)));
-  AppendLine(text, PaddedNumber(NumberOf(program.WorkParms.Basis)));
-  AppendLine(text, PaddedNumber(program.UseAUSStandardTable));
-  AppendLine(text, program.ProjectTitle);
+  AppendLine(text, PaddedNumber(NumberOf(program.project.WorkParms.Units)));
+  AppendLine(text, PaddedNumber(NumberOf(program.project.WorkParms.Basis)));
+  AppendLine(text, PaddedNumber(program.project.UseAUSStandardTable));
+  AppendLine(text, program.project.ProjectTitle);
   return text;
 }
 
 std::string DescriptionText(const Program& program) {
   std::string text;
   AppendLine(text, StartOfDescription);
-  AppendLine(text, program.ProjectDescription);
+  AppendLine(text, program.project.ProjectDescription);
   AppendLine(text, EndOfDescription);
   return text;
 }
@@ -56,7 +56,7 @@ std::string DataLineText(const Design& design, const ProjectLine& line) {
 }
 
 std::string ProjectFileBytes(const Program& program) {
-  return FileBytesFromText(HeaderText(program) + DescriptionText(program) + DataText(program.WorkParms));
+  return FileBytesFromText(HeaderText(program) + DescriptionText(program) + DataText(program.project.WorkParms));
 }
 
 }  // namespace orby

@@ -90,8 +90,9 @@ UnsavedProject ReadLines(std::string_view rest) {
 }  // namespace
 
 UnsavedProject CommittedProject(const Program& program) {
-  return {program.CurrentFile, program.UseAUSStandardTable, program.ProjectTitle, program.ProjectDescription,
-          program.FileEmpty,   program.UnitsLocked,         program.WorkParms};
+  return {program.project.CurrentFile,        program.project.UseAUSStandardTable, program.project.ProjectTitle,
+          program.project.ProjectDescription, program.project.FileEmpty,           program.project.UnitsLocked,
+          program.project.WorkParms};
 }
 
 UnsavedProject EditedProject(const Program& program, Design design) {
@@ -139,14 +140,14 @@ std::string ProjectNamedIn(std::string_view bytes) {
 }
 
 void RestoreProject(Program& program, const UnsavedProject& project) {
-  program.CurrentFile = project.CurrentFile;
-  program.UseAUSStandardTable = project.UseAUSStandardTable;
-  program.ProjectTitle = project.ProjectTitle;
-  program.ProjectDescription = project.ProjectDescription;
-  program.FileEmpty = project.FileEmpty;
-  program.UnitsLocked = project.UnitsLocked;
-  program.WorkParms = project.WorkParms;
-  program.FileSaved = false;
+  program.project.CurrentFile = project.CurrentFile;
+  program.project.UseAUSStandardTable = project.UseAUSStandardTable;
+  program.project.ProjectTitle = project.ProjectTitle;
+  program.project.ProjectDescription = project.ProjectDescription;
+  program.project.FileEmpty = project.FileEmpty;
+  program.project.UnitsLocked = project.UnitsLocked;
+  program.project.WorkParms = project.WorkParms;
+  program.project.FileSaved = false;
 }
 
 }  // namespace orby

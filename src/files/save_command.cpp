@@ -13,13 +13,13 @@ namespace orby {
 namespace {
 
 bool HasName(const Program& program) {
-  return !program.CurrentFile.empty() && !SameWithoutCase(program.CurrentFile, UntitledName);
+  return !program.project.CurrentFile.empty() && !SameWithoutCase(program.project.CurrentFile, UntitledName);
 }
 
 }  // namespace
 
 FileQuestion ProjectFileQuestion(Program& program, const std::string& project) {
-  const Settings& settings = program.settings;
+  const Settings& settings = program.session.settings;
   FileQuestion question;
   if (!Trim(project).empty()) question.fileName = FileNameFromPath(program, project, false);
   question.folder = WithoutSeparator(settings.DataPath);
@@ -30,9 +30,10 @@ FileQuestion ProjectFileQuestion(Program& program, const std::string& project) {
 }
 
 void AskFileName(Program& program, FileDialogMode mode) {
-  const FileQuestion question = ProjectFileQuestion(program, program.CurrentFile);
+  const FileQuestion question = ProjectFileQuestion(program, program.project.CurrentFile);
   FileDialogs& dialogs = program.platform.fileDialogs;
-  program.CurrentFile = mode == FileDialogMode::Open ? dialogs.AskOpenName(question) : dialogs.AskSaveName(question);
+  program.project.CurrentFile =
+      mode == FileDialogMode::Open ? dialogs.AskOpenName(question) : dialogs.AskSaveName(question);
 }
 
 bool FileMenuSave(Program& program, bool saveAs) {
@@ -48,17 +49,17 @@ bool FileMenuSave(Program& program, bool saveAs) {
 }
 
 bool SaveChangesOfPreviousFile(Program& program) {
-  const int answer = ShowMessage(program, "Save changes to: " + program.PreviousFile + "?",
+  const int answer = ShowMessage(program, "Save changes to: " + program.project.PreviousFile + "?",
                                  box_style::YesNo | box_style::Question | box_style::SecondButtonDefault);
   if (answer != box_result::Yes) {
     UnsavedProject dropped = CommittedProject(program);
-    dropped.CurrentFile = program.PreviousFile;
+    dropped.CurrentFile = program.project.PreviousFile;
     KeepChanges(program, dropped);
     return true;
   }
-  std::string fileToOpen = std::exchange(program.CurrentFile, program.PreviousFile);
+  std::string fileToOpen = std::exchange(program.project.CurrentFile, program.project.PreviousFile);
   const bool isSaved = FileMenuSave(program, false);
-  program.CurrentFile = isSaved ? std::move(fileToOpen) : program.PreviousFile;
+  program.project.CurrentFile = isSaved ? std::move(fileToOpen) : program.project.PreviousFile;
   return isSaved;
 }
 

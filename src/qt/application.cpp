@@ -71,14 +71,14 @@ int RunProgram(FileSystem& files, FileTypes& fileTypes, const std::vector<std::s
   desktop.windows.HelpRequested = [&](const Form& form, const Control* control) {
     OpenHelpTopic(program, form, control);
   };
-  program.UpdateServer = UpdateServer();
+  program.session.UpdateServer = UpdateServer();
   std::string file;
   RunGuarded([&] {
     file = CommandLineFile(program, arguments);
     While(Act::Start, [&] { StartProgram(program); });
     window = std::make_unique<MainWindow>(program, restart);
     window->Open();
-    desktop.windows.ShowMain(*window, program.settings.MaxMainMenu == 1);
+    desktop.windows.ShowMain(*window, program.session.settings.MaxMainMenu == 1);
     DressMainWindow(desktop.windows.Main(), *window);
   });
   // Once the window has been painted.

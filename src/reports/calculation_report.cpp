@@ -13,12 +13,12 @@ namespace {
 constexpr std::string_view Heading = "[ORBY CALCULATIONS]";
 
 void SetPage(Program& program, std::string page) {
-  program.OutBuf[1] = std::move(page);
-  program.LastPage = 1;
+  program.session.OutBuf[1] = std::move(page);
+  program.windows.LastPage = 1;
 }
 
 ReportBasis BasisOf(const Program& program) {
-  return {program.WorkParms.Support(), UsesAustralianTable(program), program.catalogs};
+  return {program.project.WorkParms.Support(), UsesAustralianTable(program.project), program.session.catalogs};
 }
 
 }  // namespace
@@ -34,23 +34,23 @@ std::string CalculationReport(const RoofSupport& design, const Figures& figures)
 }
 
 void CalculationReport(Program& program) {
-  const Design& design = program.WorkParms;
-  SetPage(program, CalculationReport(design, Analyze(design, program.catalogs)));
+  const Design& design = program.project.WorkParms;
+  SetPage(program, CalculationReport(design, Analyze(design, program.session.catalogs)));
 }
 
 void NoCalculationReport(Program& program) {
-  ReportText page(program.WorkParms.Units);
+  ReportText page(program.project.WorkParms.Units);
   page.Line(Heading);
   page.Line("The results cannot be computed from these inputs.");
   SetPage(program, page.Take());
 }
 
-void KeepShownResults(Program& program) { program.LastResults = {BasisOf(program), program.OutBuf[1]}; }
+void KeepShownResults(Program& program) { program.session.LastResults = {BasisOf(program), program.session.OutBuf[1]}; }
 
 bool RestoreShownResults(Program& program) {
-  if (!program.LastResults || program.LastResults->MadeFrom != BasisOf(program)) return false;
-  program.OutBuf[1] = program.LastResults->Page;
-  program.LastPage = 1;
+  if (!program.session.LastResults || program.session.LastResults->MadeFrom != BasisOf(program)) return false;
+  program.session.OutBuf[1] = program.session.LastResults->Page;
+  program.windows.LastPage = 1;
   return true;
 }
 

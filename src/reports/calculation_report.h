@@ -15,13 +15,13 @@ namespace orby {
 // entries that have no cable bolts, 5 for a depth of 0 or less under primary support.
 std::string CalculationReport(const RoofSupport& design, const Figures& figures);
 
-// Makes the page of program.WorkParms program.OutBuf[1], replacing what was there, and the last page.
+// Makes the page of program.project.WorkParms program.session.OutBuf[1], replacing what was there, and the last page.
 void CalculationReport(Program& program);
 
 // Writes the page of a design whose calculations cannot be computed: the heading, and a line that says so.
 void NoCalculationReport(Program& program);
 
-// Keeps page 1, made from program.WorkParms, as the results that were shown last.
+// Keeps page 1, made from program.project.WorkParms, as the results that were shown last.
 void KeepShownResults(Program& program);
 
 // Makes the results that were shown last page 1 again. Returns false, and changes nothing, unless they were made from

@@ -316,11 +316,12 @@ std::string InputEcho(const Design& design, const EchoedProject& project, const 
 
 void LoadOutBuf0(Program& program) {
   SaveDescription(program);
-  const bool hasHeader = program.options.PrintModuleHeader == 1;
-  program.OutBuf[0] =
-      InputEcho(program.WorkParms, {program.CurrentFile, program.ProjectTitle, program.ProjectDescription, hasHeader},
-                program.catalogs);
-  program.LastPage = 1;
+  const bool hasHeader = program.session.options.PrintModuleHeader == 1;
+  program.session.OutBuf[0] = InputEcho(
+      program.project.WorkParms,
+      {program.project.CurrentFile, program.project.ProjectTitle, program.project.ProjectDescription, hasHeader},
+      program.session.catalogs);
+  program.windows.LastPage = 1;
 }
 
 }  // namespace orby

@@ -23,12 +23,12 @@ std::string TableRow(std::string_view left, std::string_view right) {
 }
 
 // The name alone, as short as captions show it: a path could reach into the column of the page number.
-std::string FileName(const Program& program) { return ShortenedPath(NameBehindSeparator(program.CurrentFile)); }
+std::string FileName(const Program& program) { return ShortenedPath(NameBehindSeparator(program.project.CurrentFile)); }
 
 // The title as it was typed, also where opening the file has shifted the header.
 std::string TypedTitle(const Program& program) {
-  const auto before = TextsBeforeTheShift({program.ProjectTitle, program.ProjectDescription});
-  return before ? before->Title : program.ProjectTitle;
+  const auto before = TextsBeforeTheShift({program.project.ProjectTitle, program.project.ProjectDescription});
+  return before ? before->Title : program.project.ProjectTitle;
 }
 
 // The file and, if it has one, the title of the project.
@@ -39,7 +39,7 @@ std::string DocumentTitle(const Program& program) {
 
 std::vector<std::string> PageHeader(const Program& program, std::size_t page) {
   return {TableRow("File Name: " + FileName(program), "Page: " + NumberText(static_cast<double>(page))),
-          TableRow("Current Units: " + std::string(UnitSummary(program.WorkParms.Units)),
+          TableRow("Current Units: " + std::string(UnitSummary(program.project.WorkParms.Units)),
                    "Date/Time: " + DateText(program.platform.clock.Today())),
           std::string(ProgramTitle) + ", Version: " + VersionText(true), std::string(PrintedWidth, '-'), std::string()};
 }
@@ -110,9 +110,10 @@ class SheetWriter {
 }  // namespace
 
 std::string JoinedPages(const Program& program, Integer first, Integer last) {
-  if (first < 0 || static_cast<std::size_t>(last) >= program.OutBuf.size()) throw RuntimeError(error_number::Subscript);
+  if (first < 0 || static_cast<std::size_t>(last) >= program.session.OutBuf.size())
+    throw RuntimeError(error_number::Subscript);
   std::string text;
-  for (Integer page = first; page <= last; ++page) text += program.OutBuf[static_cast<std::size_t>(page)];
+  for (Integer page = first; page <= last; ++page) text += program.session.OutBuf[static_cast<std::size_t>(page)];
   return text;
 }
 
@@ -123,7 +124,7 @@ std::vector<std::string> PrintSheets(const Program& program, std::string_view te
 }
 
 std::string PrintedName(const Program& program) {
-  const std::string_view name = NameBehindSeparator(program.CurrentFile);
+  const std::string_view name = NameBehindSeparator(program.project.CurrentFile);
   const std::size_t point = name.rfind('.');
   return std::string(point == 0 ? name : name.substr(0, point));
 }

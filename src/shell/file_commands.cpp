@@ -36,44 +36,44 @@ void MainWindow::FileCommand(Integer item) {
 }
 
 void MainWindow::NewProject() {
-  if (!program_.FileSaved) KeepChanges(program_, CommittedProject(program_));
+  if (!program_.project.FileSaved) KeepChanges(program_, CommittedProject(program_));
   FileNew(program_, true, true);
   recovery_.Discard();
   RefreshCaption();
-  if (program_.options.ShowInputScreenOnLoad == 1) EditCommand(edit_item::Parameters);
+  if (program_.session.options.ShowInputScreenOnLoad == 1) EditCommand(edit_item::Parameters);
 }
 
 void MainWindow::OpenProject() {
-  program_.PreviousFile = program_.CurrentFile;
+  program_.project.PreviousFile = program_.project.CurrentFile;
   const auto outcome = Run(Trap::Set, [this] { AskFileName(program_, FileDialogMode::Open); });
   if (outcome == StepOutcome::Done) LoadProjFile(Trap::Set);
 }
 
 void MainWindow::OpenRecent(Integer item) {
   if (item < 1) return;
-  OpenFile(program_.recentFiles.Entries[static_cast<std::size_t>(item - 1)].LastFileLong, Trap::Set);
+  OpenFile(program_.session.recentFiles.Entries[static_cast<std::size_t>(item - 1)].LastFileLong, Trap::Set);
 }
 
 void MainWindow::OpenFile(const std::string& path, Trap trap) {
-  program_.PreviousFile = program_.CurrentFile;
-  program_.CurrentFile = path;
+  program_.project.PreviousFile = program_.project.CurrentFile;
+  program_.project.CurrentFile = path;
   LoadProjFile(trap);
 }
 
 // A refused file leaves the caption as it is.
 void MainWindow::LoadProjFile(Trap trap) {
   bool ok = false;
-  Run(trap, [&] { While(Act::OpenFile, program_.CurrentFile, [&] { FileOpen(program_, ok); }); });
+  Run(trap, [&] { While(Act::OpenFile, program_.project.CurrentFile, [&] { FileOpen(program_, ok); }); });
   recovery_.Committed();
   if (!ok) return;
   UpdateRecentFiles();
   RefreshCaption();
-  if (program_.options.ShowInputScreenOnLoad == 1) EditCommand(edit_item::Parameters);
+  if (program_.session.options.ShowInputScreenOnLoad == 1) EditCommand(edit_item::Parameters);
 }
 
 bool MainWindow::SaveProject(bool saveAs) {
   const bool isSaved = FileMenuSave(program_, saveAs);
-  if (!isSaved && program_.FileSaved) return false;
+  if (!isSaved && program_.project.FileSaved) return false;
   // A save that failed makes an unsaved project also of one that was saved.
   recovery_.Committed();
   if (isSaved) UpdateRecentFiles();
@@ -83,13 +83,14 @@ bool MainWindow::SaveProject(bool saveAs) {
 
 void MainWindow::UpdateRecentFiles() {
   if (!EnterRecentFile(program_)) return;
-  ShowRecentFiles(program_.recentFiles, mnuFileArray);
+  ShowRecentFiles(program_.session.recentFiles, mnuFileArray);
   WriteDefaults(program_, settings_section::FileMenu);
 }
 
 bool MainWindow::MayPrint() {
-  return !program_.FileEmpty || ShowMessage(program_, "Current file is empty. Continue?",
-                                            box_style::YesNo | box_style::SecondButtonDefault) == box_result::Yes;
+  return !program_.project.FileEmpty ||
+         ShowMessage(program_, "Current file is empty. Continue?", box_style::YesNo | box_style::SecondButtonDefault) ==
+             box_result::Yes;
 }
 
 bool MainWindow::BuildPages() {

@@ -32,7 +32,7 @@ std::unique_ptr<Dialog> MainWindow::Opened() {
     windows.SetWaitCursor(false);
   });
   if (outcome == StepOutcome::Done) return dialog;
-  program_.DialogOpen = false;
+  program_.windows.DialogOpen = false;
   return nullptr;
 }
 
@@ -62,7 +62,7 @@ void MainWindow::EditDesign() {
 // leaves the last one in its field that could be held.
 template <class Dialog>
 void MainWindow::KeepEdits(Dialog& dialog) {
-  auto read = [&dialog, kept = program_.WorkParms]() mutable -> const Design& {
+  auto read = [&dialog, kept = program_.project.WorkParms]() mutable -> const Design& {
     dialog.ReadEdits(kept);
     return kept;
   };

@@ -23,14 +23,14 @@ MainWindow::MainWindow(Program& program, std::optional<Restart> restart)
   lblver.SetCaption("Version: " + VersionText(true));
   TieCommands();
   TieHistory();
-  program_.OpenInputDialog = [this](Integer caller) {
+  program_.windows.OpenInputDialog = [this](Integer caller) {
     EditCommand(caller == report_caller::Cost ? edit_item::Cost : edit_item::Parameters);
   };
 }
 
 MainWindow::~MainWindow() {
-  program_.history.Changed = nullptr;
-  program_.OpenInputDialog = nullptr;
+  program_.session.history.Changed = nullptr;
+  program_.windows.OpenInputDialog = nullptr;
 }
 
 void MainWindow::TieCommands() {
@@ -52,9 +52,9 @@ void MainWindow::TieCommands() {
 }
 
 void MainWindow::TieHistory() {
-  program_.history.Changed = [this] {
-    txtMain.SetText(program_.history.Text);
-    txtMain.Select(CharacterCount(program_.history.Text), 0);
+  program_.session.history.Changed = [this] {
+    txtMain.SetText(program_.session.history.Text);
+    txtMain.Select(CharacterCount(program_.session.history.Text), 0);
   };
 }
 
@@ -64,7 +64,7 @@ void MainWindow::ShowHistory(bool visible) {
 }
 
 void MainWindow::ShowSettings() {
-  const Settings& settings = program_.settings;
+  const Settings& settings = program_.session.settings;
   txtMain.SetFont({settings.DisplayFontName, static_cast<int>(settings.DisplayFontSize), settings.DisplayFontBold != 0,
                    settings.DisplayFontItalic != 0});
   ShowHistory(settings.DisplayHistoryWin == 1);
@@ -73,10 +73,10 @@ void MainWindow::ShowSettings() {
 
 // Nothing of the user's is touched before the disclaimer is accepted.
 void MainWindow::OnOpen() {
-  if (program_.settings.ShowDisclaim == 1) ShowNew<Disclaimer>();
+  if (program_.session.settings.ShowDisclaim == 1) ShowNew<Disclaimer>();
   ShowSettings();
-  program_.history.Changed();
-  ShowRecentFiles(program_.recentFiles, mnuFileArray);
+  program_.session.history.Changed();
+  ShowRecentFiles(program_.session.recentFiles, mnuFileArray);
   CopyExamples(program_);
   RefreshCaption();
   program_.platform.windows.CenterForm(*this);
@@ -86,7 +86,8 @@ void MainWindow::OnOpen() {
 void MainWindow::OpenFirstFiles(const std::string& commandLineFile) {
   if (restart_) return BringBack();
   if (recovery_.Ask(commandLineFile)) return RefreshCaption();
-  if (program_.settings.LoadLastInputFile == 1 && !program_.recentFiles.Entries.front().LastFileLong.empty()) {
+  if (program_.session.settings.LoadLastInputFile == 1 &&
+      !program_.session.recentFiles.Entries.front().LastFileLong.empty()) {
     OpenRecent(1);
   }
   if (!commandLineFile.empty()) OpenFile(commandLineFile, Trap::None);
@@ -102,8 +103,8 @@ void MainWindow::BringBack() {
 void MainWindow::Dropped(const std::string& path) { OpenFile(path, Trap::Set); }
 
 bool MainWindow::MayClose() {
-  if (program_.FileSaved) return true;
-  const int answer = ShowMessage(program_, "Save changes to: " + program_.CurrentFile + "?",
+  if (program_.project.FileSaved) return true;
+  const int answer = ShowMessage(program_, "Save changes to: " + program_.project.CurrentFile + "?",
                                  box_style::YesNoCancel | box_style::Question);
   if (answer == box_result::No) {
     KeepChanges(program_, CommittedProject(program_));
@@ -123,14 +124,14 @@ RunEnd MainWindow::LeaveAtOnce() {
   recovery_.Flush();
   updateCheck_.Stop();
   RunEnd end{recovery_.Kept(), {recovery_.KeptSlot(), {}}};
-  if (end.Next.Slot == 0 && !program_.FileEmpty && FileExists(program_, program_.CurrentFile)) {
-    end.Next.File = program_.platform.files.AbsolutePath(program_.CurrentFile);
+  if (end.Next.Slot == 0 && !program_.project.FileEmpty && FileExists(program_, program_.project.CurrentFile)) {
+    end.Next.File = program_.platform.files.AbsolutePath(program_.project.CurrentFile);
   }
   return end;
 }
 
 void MainWindow::RefreshCaption() {
-  SetCaption(SetFormCaption(ProgramTitle, program_.CurrentFile, program_.FileSaved));
+  SetCaption(SetFormCaption(ProgramTitle, program_.project.CurrentFile, program_.project.FileSaved));
 }
 
 StepOutcome MainWindow::Run(Trap trap, const Step& step) {

@@ -18,22 +18,23 @@ std::string MenuCaption(std::string_view name) {
 }  // namespace
 
 bool EnterRecentFile(Program& program) {
-  const bool isShort = program.settings.ShortRecentFiles == 1;
-  const std::string name = isShort ? FileNameFromPath(program, program.CurrentFile, false) : program.CurrentFile;
-  if (program.settings.KeepFileNames == 0) return false;
+  const bool isShort = program.session.settings.ShortRecentFiles == 1;
+  const std::string name =
+      isShort ? FileNameFromPath(program, program.project.CurrentFile, false) : program.project.CurrentFile;
+  if (program.session.settings.KeepFileNames == 0) return false;
 
-  auto& [count, entries] = program.recentFiles;
+  auto& [count, entries] = program.session.recentFiles;
   const auto end = entries.begin() + count;
   const auto known =
       std::find_if(entries.begin(), end, [&name](const RecentFiles::Entry& entry) { return entry.LastFile == name; });
   if (known != end) {
     std::swap(*known, entries.front());
-    entries.front().LastFileLong = program.CurrentFile;
+    entries.front().LastFileLong = program.project.CurrentFile;
     return true;
   }
   if (count < RecentFiles::Capacity) ++count;
   std::rotate(entries.begin(), entries.begin() + count - 1, entries.begin() + count);
-  entries.front() = {name, program.RecentMode, program.CurrentFile};
+  entries.front() = {name, program.windows.RecentMode, program.project.CurrentFile};
   return true;
 }
 

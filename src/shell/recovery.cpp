@@ -17,7 +17,7 @@ constexpr int Slots = 9;
 constexpr int WriteDelay = 1000;  // milliseconds
 
 std::string SlotPath(const Program& program, int number, std::string_view extension) {
-  return program.folders.ProgramTemporary + "~recover" + NumberText(number) + std::string(extension);
+  return program.session.folders.ProgramTemporary + "~recover" + NumberText(number) + std::string(extension);
 }
 
 constexpr std::string_view FileExtension = ".tmp";
@@ -44,7 +44,7 @@ Recovery::Recovery(Program& program, int keptSlot) : program_(program), keptSlot
 Recovery::~Recovery() { program_.KeepAside = nullptr; }
 
 void Recovery::TakeSlot() {
-  if (program_.folders.ProgramTemporary.empty()) return;
+  if (program_.session.folders.ProgramTemporary.empty()) return;
   if (keptSlot_ != 0 && TryTake(keptSlot_)) return;
   for (int number = 1; number <= Slots; ++number) {
     if (FileExists(program_, SlotPath(program_, number, FileExtension)) && TryTake(number)) return;
@@ -140,7 +140,7 @@ bool Recovery::Recover() {
   const std::optional<UnsavedProject> project = TakeLostProject();
   if (!project) return false;
   RestoreProject(program_, *project);
-  AddHistoryLine(program_, "Recovered: " + program_.CurrentFile + ", with its unsaved changes");
+  AddHistoryLine(program_, "Recovered: " + program_.project.CurrentFile + ", with its unsaved changes");
   return true;
 }
 
@@ -154,7 +154,7 @@ void Recovery::DialogClosed() {
   if (edited_) {
     const UnsavedProject edited = EditedProject(program_, *edited_);
     const std::string bytes = RecoveryBytes(edited);
-    const bool isCommitted = bytes == RecoveryBytes(EditedProject(program_, program_.WorkParms));
+    const bool isCommitted = bytes == RecoveryBytes(EditedProject(program_, program_.project.WorkParms));
     if (bytes != shown_ && !isCommitted) KeepChanges(program_, edited);
     edited_.reset();
   }
@@ -181,7 +181,7 @@ void Recovery::FlushLater() {
 void Recovery::Flush() {
   if (!changed_ && failed_) changed_ = edited_;
   if (!changed_) {
-    if (!program_.FileSaved && (written_.empty() || failed_)) Committed();
+    if (!program_.project.FileSaved && (written_.empty() || failed_)) Committed();
     return;
   }
   const std::string bytes = RecoveryBytes(EditedProject(program_, *changed_));
@@ -195,7 +195,7 @@ void Recovery::Flush() {
 
 void Recovery::Committed() {
   changed_.reset();
-  if (program_.FileSaved) {
+  if (program_.project.FileSaved) {
     Discard();
   } else {
     Write(RecoveryBytes(CommittedProject(program_)));
@@ -221,7 +221,7 @@ void Recovery::Write(const std::string& bytes) {
 KeptWork Recovery::Kept() const {
   if (failed_) return written_.empty() ? KeptWork::Nothing : KeptWork::Earlier;
   if (!written_.empty()) return KeptWork::All;
-  return program_.FileSaved ? KeptWork::NoneNeeded : KeptWork::Nothing;
+  return program_.project.FileSaved ? KeptWork::NoneNeeded : KeptWork::Nothing;
 }
 
 void Recovery::Release() { mark_.reset(); }

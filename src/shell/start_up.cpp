@@ -18,21 +18,21 @@ namespace {
 
 void SetBuiltInValues(Program& program) {
   FixDecimalSeparator(program);
-  SetBuiltInCatalogs(program.catalogs);
+  SetBuiltInCatalogs(program.session.catalogs);
 }
 
 // What the last run left; nothing when there is none. A file of any other version, older or newer, is replaced, and the
 // user's choices in it are lost.
 std::optional<IniText> StoredConfiguration(Program& program) {
   FileSystem& files = program.platform.files;
-  if (!files.Finds(program.IniFilePath, true)) return std::nullopt;
-  IniText ini = IniText::FromFileBytes(files.ReadFile(program.IniFilePath));
+  if (!files.Finds(program.session.IniFilePath, true)) return std::nullopt;
+  IniText ini = IniText::FromFileBytes(files.ReadFile(program.session.IniFilePath));
   if (IniVersion(ini) != BuildStamp) return std::nullopt;
   return ini;
 }
 
 void TellThatNoneCanBeKept(Program& program, const RuntimeError& error) {
-  const std::string trouble = "Configuration file cannot be used: " + program.IniFilePath + " (" +
+  const std::string trouble = "Configuration file cannot be used: " + program.session.IniFilePath + " (" +
                               std::string(error.description()) + "). Built-in settings are in force";
   AddHistoryLine(program, trouble);
   ShowMessage(program, trouble + " and changes to them may be lost.", box_style::Exclamation,
@@ -76,7 +76,7 @@ void BeginNewDesign(Program& program) { FileNew(program, true, true); }
 void StartProgram(Program& program) {
   SetBuiltInValues(program);
   FindUserFolders(program);
-  program.IniFilePath = program.folders.ProgramData + std::string(IniFileName);
+  program.session.IniFilePath = program.session.folders.ProgramData + std::string(IniFileName);
   ReadConfiguration(program, SettledConfiguration(program));
   BeginNewDesign(program);
   EnterWorkingFolder(program);

@@ -24,7 +24,7 @@ void MainWindow::UtilityCommand(Integer item) {
     case util_item::UnitConversions: ShowNew<UnitCalculator>(); break;
     case util_item::FileConversion: ConvertFile(); break;
     case util_item::ClearHistory:
-      program_.history.Text.clear();
+      program_.session.history.Text.clear();
       txtMain.SetText({});
       break;
     case util_item::ToggleHistory: ShowHistory(!txtMain.Visible()); break;
@@ -42,11 +42,11 @@ void MainWindow::ShowBackups() {
   BackupsWindow backups(program_);
   ShowForm(program_, backups);
   if (!backups.Chosen) return;
-  program_.PreviousFile = program_.CurrentFile;
-  if (!program_.FileSaved && !SaveChangesOfPreviousFile(program_)) return;
+  program_.project.PreviousFile = program_.project.CurrentFile;
+  if (!program_.project.FileSaved && !SaveChangesOfPreviousFile(program_)) return;
   FileNew(program_, false, true);
   RestoreProject(program_, *backups.Chosen);
-  AddHistoryLine(program_, "Backup opened as an unsaved project: " + program_.CurrentFile);
+  AddHistoryLine(program_, "Backup opened as an unsaved project: " + program_.project.CurrentFile);
   recovery_.Committed();
   RefreshCaption();
 }
@@ -57,9 +57,9 @@ void MainWindow::EditSettings() {
 }
 
 void MainWindow::ConvertFile() {
-  if (program_.FileEmpty) {
+  if (program_.project.FileEmpty) {
     ShowMessage(program_, "Current file is empty");
-  } else if (!program_.FileSaved) {
+  } else if (!program_.project.FileSaved) {
     ShowMessage(program_, "Save Current File before accessing this option");
   } else {
     ConvertDialog dialog(program_, [this] {

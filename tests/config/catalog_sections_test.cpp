@@ -21,8 +21,8 @@ using testing::ElementsAre;
 struct CatalogSections : testing::Test {
   RecordingPlatform platform;
   Program program{platform.Doors()};
-  Catalogs& catalogs = program.catalogs;
-  DesignDefaults& defaults = program.defaults;
+  Catalogs& catalogs = program.session.catalogs;
+  DesignDefaults& defaults = program.session.defaults;
 
   void Read(int selector, const std::string& text) { ReadCatalogSection(program, IniText(text), selector); }
 

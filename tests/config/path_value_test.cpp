@@ -48,11 +48,11 @@ TEST(PathValue, TakesAnEscapeThatIsNoneForWhatItSays) {
 }
 
 struct RecentFilesOfTheConfiguration : testing::Test {
-  RecentFilesOfTheConfiguration() { program.IniFilePath = "/data/ORBY.INI"; }
+  RecentFilesOfTheConfiguration() { program.session.IniFilePath = "/data/ORBY.INI"; }
 
   void Enter(Integer place, const std::string& path) {
-    program.recentFiles.MaxLastFiles = static_cast<Integer>(place + 1);
-    program.recentFiles.Entries[static_cast<std::size_t>(place)] = {path, 0, path};
+    program.session.recentFiles.MaxLastFiles = static_cast<Integer>(place + 1);
+    program.session.recentFiles.Entries[static_cast<std::size_t>(place)] = {path, 0, path};
   }
 
   RecordingPlatform platform;
@@ -68,14 +68,14 @@ TEST_F(RecentFilesOfTheConfiguration, KeepTheirUmlautsBesideANameThatIsNoUtf8) {
   Program next(platform.Doors());
 
   WriteDefaults(program, settings_section::FileMenu);
-  ReadSettings(next, ReadIniFile(program, program.IniFilePath), settings_section::FileMenu);
+  ReadSettings(next, ReadIniFile(program, program.session.IniFilePath), settings_section::FileMenu);
 
-  EXPECT_EQ(next.recentFiles.Entries[0].LastFileLong, "/designs/fl\xF6z.ORB");
-  EXPECT_EQ(next.recentFiles.Entries[0].LastFile, "/designs/fl\xF6z.ORB");
-  EXPECT_EQ(next.recentFiles.Entries[1].LastFileLong,
+  EXPECT_EQ(next.session.recentFiles.Entries[0].LastFileLong, "/designs/fl\xF6z.ORB");
+  EXPECT_EQ(next.session.recentFiles.Entries[0].LastFile, "/designs/fl\xF6z.ORB");
+  EXPECT_EQ(next.session.recentFiles.Entries[1].LastFileLong,
             "/designs/\xC3\xBC"
             "berbau.ORB");
-  EXPECT_EQ(next.recentFiles.Entries[2].LastFileLong, "/designs/\xE2\x82\xAC.ORB");
+  EXPECT_EQ(next.session.recentFiles.Entries[2].LastFileLong, "/designs/\xE2\x82\xAC.ORB");
 }
 
 TEST_F(RecentFilesOfTheConfiguration, StayReadableInIt) {
@@ -90,17 +90,17 @@ TEST_F(RecentFilesOfTheConfiguration, StayReadableInIt) {
 }
 
 TEST_F(RecentFilesOfTheConfiguration, LeaveTheDataPathReadableThatIsNoUtf8) {
-  program.settings.DataPath = "/fl\xF6z/";
+  program.session.settings.DataPath = "/fl\xF6z/";
   platform.files.folders.insert("/fl\xF6z");
   platform.files.files["/fl\xF6z/"] = {};
-  program.settings.ExternalEditor = "/opt/\xC3\xBC";
+  program.session.settings.ExternalEditor = "/opt/\xC3\xBC";
   Program next(platform.Doors());
 
   WriteDefaults(program, settings_section::Settings);
-  ReadSettings(next, ReadIniFile(program, program.IniFilePath), settings_section::Settings);
+  ReadSettings(next, ReadIniFile(program, program.session.IniFilePath), settings_section::Settings);
 
-  EXPECT_EQ(next.settings.DataPath, "/fl\xF6z/");
-  EXPECT_EQ(next.settings.ExternalEditor, "/opt/\xC3\xBC");
+  EXPECT_EQ(next.session.settings.DataPath, "/fl\xF6z/");
+  EXPECT_EQ(next.session.settings.ExternalEditor, "/opt/\xC3\xBC");
 }
 
 }  // namespace

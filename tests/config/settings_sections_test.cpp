@@ -24,18 +24,18 @@ constexpr const char* IniPath = "/data/ORBY.INI";
 struct SettingsSections : testing::Test {
   SettingsSections() {
     platform.fonts.screen = {"Courier New", "Arial"};
-    program.folders.ProgramData = "/data/";
-    program.IniFilePath = IniPath;
+    program.session.folders.ProgramData = "/data/";
+    program.session.IniFilePath = IniPath;
     SetBuiltInSettings(program);
   }
 
   RecordingPlatform platform;
   Program program{platform.Doors()};
-  Settings& settings = program.settings;
-  TextBrowseSettings& textBrowse = program.textBrowse;
-  GraphSettings& graph = program.graph;
-  OptionSettings& options = program.options;
-  RecentFiles& recent = program.recentFiles;
+  Settings& settings = program.session.settings;
+  TextBrowseSettings& textBrowse = program.session.textBrowse;
+  GraphSettings& graph = program.session.graph;
+  OptionSettings& options = program.session.options;
+  RecentFiles& recent = program.session.recentFiles;
 
   void Read(int selector, const std::string& text) { ReadSettings(program, IniText(text), selector); }
   void ReadKeys(const std::string& keys) { Read(section::Settings, "[Settings]\r\n" + keys); }
@@ -487,7 +487,7 @@ TEST_F(SettingsSections, WritingOneSectionLeavesTheOthersInTheFile) {
 TEST_F(SettingsSections, TheHistoryTellsOfEachWriting) {
   WriteDefaults(program, section::Graph);
 
-  EXPECT_EQ(program.history.Text, "1. Saving default settings to file: /data/ORBY.INI\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. Saving default settings to file: /data/ORBY.INI\r\n");
 }
 
 TEST_F(SettingsSections, TheHistoryTellsOfAWritingThatFails) {
@@ -495,7 +495,7 @@ TEST_F(SettingsSections, TheHistoryTellsOfAWritingThatFails) {
 
   WriteDefaults(program, section::All);
 
-  EXPECT_EQ(program.history.Text, "1. Saving default settings to file: /data/ORBY.INI\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. Saving default settings to file: /data/ORBY.INI\r\n");
   EXPECT_THAT(platform.files.files, IsEmpty());
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
@@ -506,13 +506,13 @@ TEST_F(SettingsSections, TheVersionOfAFileIsReadBack) {
   FileBytes() = ini.FileBytes();
 
   EXPECT_EQ(FileBytes(), "[Version]\r\nINIFileVersion=201030\r\n");
-  EXPECT_EQ(IniVersion(ReadIniFile(program, program.IniFilePath)), "201030");
+  EXPECT_EQ(IniVersion(ReadIniFile(program, program.session.IniFilePath)), "201030");
 }
 
 TEST_F(SettingsSections, AFileWithoutAVersionTellsNone) {
   FileBytes() = "[Settings]\r\nDefaultUnits=1\r\n";
 
-  EXPECT_EQ(IniVersion(ReadIniFile(program, program.IniFilePath)), "");
+  EXPECT_EQ(IniVersion(ReadIniFile(program, program.session.IniFilePath)), "");
 }
 
 TEST_F(SettingsSections, ANewFileHoldsItsVersionFirstAndEverySectionThatAStartReads) {
@@ -525,7 +525,7 @@ TEST_F(SettingsSections, ANewFileHoldsItsVersionFirstAndEverySectionThatAStartRe
   }
   EXPECT_THAT(names, ElementsAre("[Version]", "[Settings]", "[FileMenu]", "[TextBrowse]", "[Graph]", "[TULKOptions]",
                                  "[ORBYDefaults]", "[ORBYBoltParams]"));
-  EXPECT_EQ(program.history.Text, "1. Saving default settings to file: /data/ORBY.INI\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. Saving default settings to file: /data/ORBY.INI\r\n");
   EXPECT_EQ(platform.files.created.size(), 1U) << "a run that is cut off leaves no file with a part of it";
 }
 

@@ -17,7 +17,7 @@ using testing::Pair;
 struct UserFolder : testing::Test {
   RecordingPlatform platform;
   Program program{platform.Doors()};
-  Folders& folders = program.folders;
+  Folders& folders = program.session.folders;
   MemoryFiles& files = platform.files;
 
   void ExpectAllInTheProgramsFolder() const {
@@ -113,7 +113,7 @@ TEST_F(UserFolder, ThatCannotBeLookedForIsTheProgramsFolder) {
 
 struct Examples : testing::Test {
   Examples() {
-    program.settings.DataPath = "/data/";
+    program.session.settings.DataPath = "/data/";
     files.files["/program/examples/belt-entry.ORB"] = "ORBY_105\r\n";
     files.files["/program/examples/weak-roof.ORB"] = std::string("\x80\0\xFF\n", 4);
   }
@@ -150,7 +150,7 @@ TEST_F(Examples, LeaveAFolderOfTheirNameAlone) {
 }
 
 TEST_F(Examples, StayWhereTheyAreWhenTheSettingIsOff) {
-  program.settings.CopyExampleFiles = 0;
+  program.session.settings.CopyExampleFiles = 0;
 
   CopyExamples(program);
 
@@ -196,7 +196,7 @@ struct WorkingFolder : testing::Test {
   RecordingPlatform platform;
   Program program{platform.Doors()};
 
-  WorkingFolder() { program.folders.ProgramData = "/home/user/Documents/MyStrataDesk/ORBY/"; }
+  WorkingFolder() { program.session.folders.ProgramData = "/home/user/Documents/MyStrataDesk/ORBY/"; }
 };
 
 TEST_F(WorkingFolder, IsTheProgramsOwn) {

@@ -119,7 +119,7 @@ TEST_F(DialogShowing, BeginsWithItsTitlesAndTheNormalCursor) {
 
   PrepareForm(program, 10);
 
-  EXPECT_EQ(program.titles.ErrorTitle, "Settings: Error");
+  EXPECT_EQ(program.windows.titles.ErrorTitle, "Settings: Error");
   EXPECT_FALSE(platform.windows.waitCursor);
 }
 

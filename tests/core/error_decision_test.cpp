@@ -21,7 +21,9 @@ std::string CaseName(const testing::TestParamInfo<ErrorCase>& info) {
 struct ErrorBench : ProgramBench {
   ErrorBench() { SetMessageTitles(program, message_module::Parameters); }
 
-  std::string FirstLogLine() const { return program.history.Text.substr(0, program.history.Text.find("\r\n")); }
+  std::string FirstLogLine() const {
+    return program.session.history.Text.substr(0, program.session.history.Text.find("\r\n"));
+  }
 };
 
 struct ErrorOfADevice : ErrorBench, testing::WithParamInterface<ErrorCase> {};
@@ -50,7 +52,7 @@ TEST_P(ErrorOfADevice, IsPassedOverInSilence) {
 
   EXPECT_EQ(decision, 1);
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(program.history.Text, "");
+  EXPECT_EQ(program.session.history.Text, "");
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -103,7 +105,7 @@ TEST_P(ErrorThatEndsACommand, IsGivenUpInSilence) {
 
   EXPECT_EQ(decision, 3);
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(program.history.Text, "");
+  EXPECT_EQ(program.session.history.Text, "");
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -159,7 +161,7 @@ TEST_F(CancelledDialog, IsLoggedByItsWordsAloneAndShowsNoBox) {
   const int decision = ErrorDecision(program, RuntimeError(32755), true);
 
   EXPECT_EQ(decision, 2);
-  EXPECT_EQ(program.history.Text, "1. Cancel was selected.\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. Cancel was selected.\r\n");
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
@@ -167,7 +169,7 @@ TEST_F(CancelledDialog, LeavesNoTraceInSilence) {
   const int decision = ErrorDecision(program, RuntimeError(32755), false);
 
   EXPECT_EQ(decision, 2);
-  EXPECT_EQ(program.history.Text, "");
+  EXPECT_EQ(program.session.history.Text, "");
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
@@ -189,7 +191,7 @@ TEST_F(DataBaseError, KeepsItsDecisionInSilence) {
 
   EXPECT_EQ(decision, 6);
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(program.history.Text, "");
+  EXPECT_EQ(program.session.history.Text, "");
 }
 
 using ErrorHistory = ErrorBench;
@@ -198,7 +200,7 @@ TEST_F(ErrorHistory, HoldsTheErrorFirstAndThenItsBox) {
   ErrorDecision(program, RuntimeError(53), true);
   ErrorDecision(program, RuntimeError(76), true);
 
-  EXPECT_EQ(program.history.Text,
+  EXPECT_EQ(program.session.history.Text,
             "1. Error  53:File not found\r\n"
             "2. Project Parameters: Error: Error occurred: File not found (53)\r\n"
             "3. Error  76:Path not found\r\n"

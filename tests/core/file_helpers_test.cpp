@@ -31,7 +31,7 @@ TEST_F(FileSearch, FindsNothingUnderABadPathAndSaysNothing) {
   EXPECT_FALSE(FileExists(program, "/mine/panel.ORB"));
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(program.history.Text, "");
+  EXPECT_EQ(program.session.history.Text, "");
 }
 
 using PathSearch = FileBench;
@@ -57,7 +57,7 @@ TEST_P(HopelessPathSearch, NamesTheInvalidPath) {
   EXPECT_FALSE(ValidPath(program, "/mine", false));
 
   EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Invalid path: /mine", 0, "Program Options: Error")));
-  EXPECT_EQ(program.history.Text, "1. Program Options: Error: Invalid path: /mine\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. Program Options: Error: Invalid path: /mine\r\n");
 }
 
 TEST_P(HopelessPathSearch, IsQuietOnRequest) {
@@ -66,7 +66,7 @@ TEST_P(HopelessPathSearch, IsQuietOnRequest) {
   EXPECT_FALSE(ValidPath(program, "/mine", true));
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(program.history.Text, "");
+  EXPECT_EQ(program.session.history.Text, "");
 }
 
 INSTANTIATE_TEST_SUITE_P(Error, HopelessPathSearch, testing::Values(5, 7, 9, 52, 55, 68, 75, 76),

@@ -73,17 +73,17 @@ TEST_F(DecimalSeparator, OfAMachineWithCommasIsRecordedAsAComma) {
 
   FixDecimalSeparator(program);
 
-  EXPECT_EQ(program.SavedDecimalSeparator, ",");
+  EXPECT_EQ(program.session.SavedDecimalSeparator, ",");
 }
 
 TEST_F(DecimalSeparator, OfAnyOtherMachineIsRecordedAsAPoint) {
   for (const auto* separator : {".", "'", ",,", "\xD9\xAB", ""}) {
-    program.SavedDecimalSeparator.clear();
+    program.session.SavedDecimalSeparator.clear();
     platform.locale.separator = separator;
 
     FixDecimalSeparator(program);
 
-    EXPECT_EQ(program.SavedDecimalSeparator, ".") << "separator " << separator;
+    EXPECT_EQ(program.session.SavedDecimalSeparator, ".") << "separator " << separator;
   }
 }
 

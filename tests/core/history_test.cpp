@@ -10,107 +10,107 @@ TEST_F(HistoryPane, NumbersItsLines) {
   AddHistoryLine(program, "Editing Project Parameters");
   AddHistoryLine(program, "Settings Modified");
 
-  EXPECT_EQ(program.history.Text, "1. Editing Project Parameters\r\n2. Settings Modified\r\n");
-  EXPECT_EQ(program.history.HistoryLineCounter, 2);
+  EXPECT_EQ(program.session.history.Text, "1. Editing Project Parameters\r\n2. Settings Modified\r\n");
+  EXPECT_EQ(program.session.history.HistoryLineCounter, 2);
 }
 
 TEST_F(HistoryPane, StaysAsItIsWhileItIsSwitchedOff) {
   AddHistoryLine(program, "Editing Project Parameters");
-  program.settings.DisplayHistoryWin = 0;
+  program.session.settings.DisplayHistoryWin = 0;
 
   AddHistoryLine(program, "Settings Modified");
 
-  EXPECT_EQ(program.history.Text, "1. Editing Project Parameters\r\n");
-  EXPECT_EQ(program.history.HistoryLineCounter, 1);
+  EXPECT_EQ(program.session.history.Text, "1. Editing Project Parameters\r\n");
+  EXPECT_EQ(program.session.history.HistoryLineCounter, 1);
 }
 
 TEST_F(HistoryPane, IsNotEvenTrimmedWhileItIsSwitchedOff) {
-  program.history.Text = "1. a\r\n2. b\r\n3. c\r\n";
-  program.settings.MaxDisplaySize = 4;
-  program.settings.DisplayHistoryWin = 0;
+  program.session.history.Text = "1. a\r\n2. b\r\n3. c\r\n";
+  program.session.settings.MaxDisplaySize = 4;
+  program.session.settings.DisplayHistoryWin = 0;
 
   AddHistoryLine(program, "d");
 
-  EXPECT_EQ(program.history.Text, "1. a\r\n2. b\r\n3. c\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. a\r\n2. b\r\n3. c\r\n");
 }
 
 TEST_F(HistoryPane, GoesOnCountingWhenItIsSwitchedOnAgain) {
   AddHistoryLine(program, "a");
-  program.settings.DisplayHistoryWin = 0;
+  program.session.settings.DisplayHistoryWin = 0;
   AddHistoryLine(program, "b");
-  program.settings.DisplayHistoryWin = 1;
+  program.session.settings.DisplayHistoryWin = 1;
 
   AddHistoryLine(program, "c");
 
-  EXPECT_EQ(program.history.Text, "1. a\r\n2. c\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. a\r\n2. c\r\n");
 }
 
 TEST_F(HistoryPane, KeepsItsLastTwoLinesWhenItHasGrownTooLong) {
-  program.settings.MaxDisplaySize = 24;
-  program.history.HistoryLineCounter = 4;
-  program.history.Text = "1. a\r\n2. b\r\n3. c\r\n4. d\r\n";
+  program.session.settings.MaxDisplaySize = 24;
+  program.session.history.HistoryLineCounter = 4;
+  program.session.history.Text = "1. a\r\n2. b\r\n3. c\r\n4. d\r\n";
 
   AddHistoryLine(program, "e");
 
-  EXPECT_EQ(program.history.Text, "3. c\r\n4. d\r\n5. e\r\n");
+  EXPECT_EQ(program.session.history.Text, "3. c\r\n4. d\r\n5. e\r\n");
 }
 
 TEST_F(HistoryPane, IsWholeUpToOneCharacterBelowItsLimit) {
-  program.settings.MaxDisplaySize = 25;
-  program.history.HistoryLineCounter = 4;
-  program.history.Text = "1. a\r\n2. b\r\n3. c\r\n4. d\r\n";
+  program.session.settings.MaxDisplaySize = 25;
+  program.session.history.HistoryLineCounter = 4;
+  program.session.history.Text = "1. a\r\n2. b\r\n3. c\r\n4. d\r\n";
 
   AddHistoryLine(program, "e");
 
-  EXPECT_EQ(program.history.Text, "1. a\r\n2. b\r\n3. c\r\n4. d\r\n5. e\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. a\r\n2. b\r\n3. c\r\n4. d\r\n5. e\r\n");
 }
 
 TEST_F(HistoryPane, CountsItsLengthInCharacters) {
-  program.settings.MaxDisplaySize = 19;
-  program.history.HistoryLineCounter = 3;
-  program.history.Text = "1. \xC3\xA9\r\n2. \xC3\xA9\r\n3. \xC3\xA9\r\n";
+  program.session.settings.MaxDisplaySize = 19;
+  program.session.history.HistoryLineCounter = 3;
+  program.session.history.Text = "1. \xC3\xA9\r\n2. \xC3\xA9\r\n3. \xC3\xA9\r\n";
 
   AddHistoryLine(program, "d");
 
-  EXPECT_EQ(program.history.Text, "1. \xC3\xA9\r\n2. \xC3\xA9\r\n3. \xC3\xA9\r\n4. d\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. \xC3\xA9\r\n2. \xC3\xA9\r\n3. \xC3\xA9\r\n4. d\r\n");
 }
 
 TEST_F(HistoryPane, KeepsTwoLinesHoweverLongTheyAre) {
-  program.settings.MaxDisplaySize = 5;
-  program.history.HistoryLineCounter = 2;
-  program.history.Text = "1. a\r\n2. b\r\n";
+  program.session.settings.MaxDisplaySize = 5;
+  program.session.history.HistoryLineCounter = 2;
+  program.session.history.Text = "1. a\r\n2. b\r\n";
 
   AddHistoryLine(program, "c");
 
-  EXPECT_EQ(program.history.Text, "1. a\r\n2. b\r\n3. c\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. a\r\n2. b\r\n3. c\r\n");
 }
 
 TEST_F(HistoryPane, CountsTheLinesOfALongMessageSingly) {
-  program.settings.MaxDisplaySize = 10;
-  program.history.HistoryLineCounter = 2;
-  program.history.Text = "1. a\r\n2. Value '0' is outside\r\nValid range\r\n";
+  program.session.settings.MaxDisplaySize = 10;
+  program.session.history.HistoryLineCounter = 2;
+  program.session.history.Text = "1. a\r\n2. Value '0' is outside\r\nValid range\r\n";
 
   AddHistoryLine(program, "c");
 
-  EXPECT_EQ(program.history.Text, "2. Value '0' is outside\r\nValid range\r\n3. c\r\n");
+  EXPECT_EQ(program.session.history.Text, "2. Value '0' is outside\r\nValid range\r\n3. c\r\n");
 }
 
 TEST_F(HistoryPane, CountsUpTo16384AndBeginsAgainAt1) {
-  program.history.HistoryLineCounter = 16383;
+  program.session.history.HistoryLineCounter = 16383;
 
   AddHistoryLine(program, "last");
   AddHistoryLine(program, "first");
 
-  EXPECT_EQ(program.history.Text, "16384. last\r\n1. first\r\n");
+  EXPECT_EQ(program.session.history.Text, "16384. last\r\n1. first\r\n");
 }
 
 TEST_F(HistoryPane, Shows1AgainAfter16384Lines) {
   for (int line = 0; line < 16384; ++line) AddHistoryLine(program, "File saved");
-  program.history.Text.clear();
+  program.session.history.Text.clear();
 
   AddHistoryLine(program, "File saved");
 
-  EXPECT_EQ(program.history.Text, "1. File saved\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. File saved\r\n");
 }
 
 }  // namespace

@@ -12,21 +12,21 @@ using ShowMessageBox = ProgramBench;
 TEST_F(ShowMessageBox, WithATitleIsLoggedUnderThatTitle) {
   ShowMessage(program, "Depth must be above 0", box_style::Critical, "Project Parameters: Range Error");
 
-  EXPECT_EQ(program.history.Text, "1. Project Parameters: Range Error: Depth must be above 0\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. Project Parameters: Range Error: Depth must be above 0\r\n");
   EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Depth must be above 0", 16, "Project Parameters: Range Error")));
 }
 
 TEST_F(ShowMessageBox, WithoutATitleIsLoggedAsAMessageAndBearsTheProgramsTitle) {
   ShowMessage(program, "Current file is empty");
 
-  EXPECT_EQ(program.history.Text, "1. Message: Current file is empty\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. Message: Current file is empty\r\n");
   EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Current file is empty", 0, "Orby Roof Support Workbench")));
 }
 
 TEST_F(ShowMessageBox, IsLoggedBeforeItIsAnswered) {
   struct LogReadingBoxes : RecordingBoxes {
     int Show(const MessageBox& box) override {
-      logWhenShown = program->history.Text;
+      logWhenShown = program->session.history.Text;
       return RecordingBoxes::Show(box);
     }
     Program* program = nullptr;
@@ -60,11 +60,11 @@ TEST_F(ShowMessageBox, PassesStyleAndHelpThrough) {
 }
 
 TEST_F(ShowMessageBox, IsShownAlsoWhenTheHistoryIsOff) {
-  program.settings.DisplayHistoryWin = 0;
+  program.session.settings.DisplayHistoryWin = 0;
 
   ShowMessage(program, "Current file is empty");
 
-  EXPECT_EQ(program.history.Text, "");
+  EXPECT_EQ(program.session.history.Text, "");
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Current file is empty"));
 }
 
@@ -91,16 +91,16 @@ struct ModuleTitles {
 struct MessageTitlesOfModule : ProgramBench, testing::WithParamInterface<ModuleTitles> {};
 
 TEST_P(MessageTitlesOfModule, BeginWithItsName) {
-  program.titles.MessageTitle = "Stale";
+  program.windows.titles.MessageTitle = "Stale";
 
   SetMessageTitles(program, GetParam().module);
 
-  EXPECT_EQ(program.titles.MessageTitle, "Message");
-  EXPECT_EQ(program.titles.RangeErrorTitle, GetParam().rangeError);
-  EXPECT_EQ(program.titles.RangeWarningTitle, GetParam().rangeWarning);
-  EXPECT_EQ(program.titles.InvalidCharacterTitle, GetParam().invalidCharacter);
-  EXPECT_EQ(program.titles.ErrorTitle, GetParam().error);
-  EXPECT_EQ(program.titles.LogicErrorTitle, GetParam().logicError);
+  EXPECT_EQ(program.windows.titles.MessageTitle, "Message");
+  EXPECT_EQ(program.windows.titles.RangeErrorTitle, GetParam().rangeError);
+  EXPECT_EQ(program.windows.titles.RangeWarningTitle, GetParam().rangeWarning);
+  EXPECT_EQ(program.windows.titles.InvalidCharacterTitle, GetParam().invalidCharacter);
+  EXPECT_EQ(program.windows.titles.ErrorTitle, GetParam().error);
+  EXPECT_EQ(program.windows.titles.LogicErrorTitle, GetParam().logicError);
 }
 
 constexpr const char* BareRangeError = "Range Error";
@@ -149,12 +149,12 @@ TEST_F(MessageTitlesTest, StayAsTheyAreWhenThereIsNoSuchModule) {
   EXPECT_EQ(ErrorNumberOf([this] { SetMessageTitles(program, 14); }), 9);
   EXPECT_EQ(ErrorNumberOf([this] { SetMessageTitles(program, -1); }), 9);
 
-  EXPECT_EQ(program.titles.ErrorTitle, "Settings: Error");
+  EXPECT_EQ(program.windows.titles.ErrorTitle, "Settings: Error");
 }
 
 TEST_F(MessageTitlesTest, AreEmptyBeforeTheFirstDialog) {
-  EXPECT_EQ(program.titles.RangeErrorTitle, "");
-  EXPECT_EQ(program.titles.MessageTitle, "");
+  EXPECT_EQ(program.windows.titles.RangeErrorTitle, "");
+  EXPECT_EQ(program.windows.titles.MessageTitle, "");
 }
 
 using HelpHint = ProgramBench;
@@ -165,7 +165,7 @@ TEST_F(HelpHint, TellsHowToGetHelpOnAField) {
   EXPECT_THAT(platform.boxes.shown,
               ElementsAre(IsBox("Position the cursor on any item on the form and press F1 for context-sensitive Help",
                                 48, "Help")));
-  EXPECT_EQ(program.history.Text,
+  EXPECT_EQ(program.session.history.Text,
             "1. Help: Position the cursor on any item on the form and press F1 for context-sensitive Help\r\n");
 }
 

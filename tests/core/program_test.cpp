@@ -8,23 +8,23 @@ namespace {
 using AustralianTable = ProgramBench;
 
 TEST_F(AustralianTable, IsInForceInAMetricProjectWithTheSettingOn) {
-  program.UseAUSStandardTable = 1;
-  program.WorkParms.Units = Metric;
+  program.project.UseAUSStandardTable = 1;
+  program.project.WorkParms.Units = Metric;
 
-  EXPECT_TRUE(UsesAustralianTable(program));
+  EXPECT_TRUE(UsesAustralianTable(program.project));
 }
 
 TEST_F(AustralianTable, IsNotInForceInAnEnglishProject) {
-  program.UseAUSStandardTable = 1;
-  program.WorkParms.Units = English;
+  program.project.UseAUSStandardTable = 1;
+  program.project.WorkParms.Units = English;
 
-  EXPECT_FALSE(UsesAustralianTable(program));
+  EXPECT_FALSE(UsesAustralianTable(program.project));
 }
 
 TEST_F(AustralianTable, IsNotInForceWithTheSettingOff) {
-  program.WorkParms.Units = Metric;
+  program.project.WorkParms.Units = Metric;
 
-  EXPECT_FALSE(UsesAustralianTable(program));
+  EXPECT_FALSE(UsesAustralianTable(program.project));
 }
 
 }  // namespace

@@ -18,7 +18,7 @@ TEST_F(ARangeCheck, AcceptsBothEndsOfTheRangeInSilence) {
   EXPECT_TRUE(RangeCheck(program, "3.25", 1, 5, "Depth"));
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(program.history.Text, "");
+  EXPECT_EQ(program.session.history.Text, "");
 }
 
 TEST_F(ARangeCheck, TellsFieldValueAndRange) {
@@ -90,7 +90,7 @@ TEST_F(ARangeCheck, WritesTheEndsOfTheRangeAsGeneralNumbers) {
 TEST_F(ARangeCheck, IsLoggedUnderItsTitle) {
   RangeCheck(program, "", 1, 5, "Depth");
 
-  EXPECT_EQ(program.history.Text, "1. Settings: Range Error: Depth: Blank field not allowed\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. Settings: Range Error: Depth: Blank field not allowed\r\n");
 }
 
 }  // namespace

@@ -26,7 +26,7 @@ TEST_F(CommandStep, ThatSucceedsRunsOnceAndSaysNothing) {
 
   EXPECT_EQ(runs, 1);
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(program.history.Text, "");
+  EXPECT_EQ(program.session.history.Text, "");
 }
 
 TEST_F(CommandStep, RunsAgainAsLongAsTheUserRetries) {

@@ -24,14 +24,14 @@ const std::string Panel4 = "/designs/panel4.orb";
 struct TheBackupsWindow : testing::Test {
   TheBackupsWindow() {
     Begin(program);
-    program.folders.ProgramData = DataFolder;
-    program.settings.DataPath = "/designs/";
+    program.session.folders.ProgramData = DataFolder;
+    program.session.settings.DataPath = "/designs/";
     platform.files.files[Panel3] = DesignAt(725);
     platform.files.files[Panel4] = DesignAt(980);
   }
 
   static void Begin(Program& program) {
-    SetBuiltInCatalogs(program.catalogs);
+    SetBuiltInCatalogs(program.session.catalogs);
     FileNew(program, true, true);
   }
 
@@ -39,12 +39,12 @@ struct TheBackupsWindow : testing::Test {
   std::string DesignAt(Single depth) {
     Program other(platform.Doors());
     Begin(other);
-    other.WorkParms.Place.DepthofCover = depth;
+    other.project.WorkParms.Place.DepthofCover = depth;
     return ProjectFileBytes(other);
   }
 
   void OpenProject(const std::string& path) {
-    program.CurrentFile = path;
+    program.project.CurrentFile = path;
     bool isRead = false;
     FileOpen(program, isRead);
     ASSERT_TRUE(isRead);
@@ -54,9 +54,9 @@ struct TheBackupsWindow : testing::Test {
   void KeepTwo() {
     KeepBackup(program, Panel4, DesignAt(980), BackupReason::Overwritten);
     OpenProject(Panel3);
-    program.WorkParms.Place.DepthofCover = 800;
-    program.ProjectTitle = "Belt entry";
-    program.WorkParms.Primary.Options = 1;
+    program.project.WorkParms.Place.DepthofCover = 800;
+    program.project.ProjectTitle = "Belt entry";
+    program.project.WorkParms.Primary.Options = 1;
     KeepDropped(program, CommittedProject(program), BackupReason::Dropped);
     FileNew(program, true, true);
   }
@@ -114,7 +114,7 @@ TEST_F(TheBackupsWindow, ShowsTheSuggestedSupportOfTheDefaultDesign) {
 }
 
 TEST_F(TheBackupsWindow, ShowsTheTitleOfASavedFileAsItWasTyped) {
-  program.ProjectTitle = "Belt entry";
+  program.project.ProjectTitle = "Belt entry";
   KeepBackup(program, Panel3, ProjectFileBytes(program), BackupReason::Overwritten);
 
   backups.Open();
@@ -123,7 +123,7 @@ TEST_F(TheBackupsWindow, ShowsTheTitleOfASavedFileAsItWasTyped) {
 }
 
 TEST_F(TheBackupsWindow, ShowsADashForAFigureThatCannotBeHad) {
-  program.WorkParms.Place.EntryWidth = 0;
+  program.project.WorkParms.Place.EntryWidth = 0;
   KeepDropped(program, CommittedProject(program), BackupReason::Dropped);
 
   backups.Open();
@@ -233,8 +233,8 @@ TEST_F(TheBackupsWindow, DoesNotTakeTheFileThatItSavesForTheOneOfTheOpenProject)
 
   backups.cmdSaveAs.Press();
 
-  EXPECT_EQ(program.LastFile.Path, Panel3);
-  EXPECT_EQ(program.CurrentFile, Panel3);
+  EXPECT_EQ(program.project.LastFile.Path, Panel3);
+  EXPECT_EQ(program.project.CurrentFile, Panel3);
 }
 
 // The entry of panel 4 is saved over a file, and the disk fails halfway and for good.
@@ -256,15 +256,15 @@ TEST_F(SpoilingBackupsWindow, HoldsTheOldBytesOfAFileThatItCouldNotPutBack) {
 
   SaveOverAndFail(Panel3, 2);
 
-  EXPECT_EQ(program.LastFile.Path, Panel3);
-  EXPECT_EQ(program.LastFile.Bytes, DesignAt(725));
-  EXPECT_TRUE(program.LastFile.IsSpoilt);
+  EXPECT_EQ(program.project.LastFile.Path, Panel3);
+  EXPECT_EQ(program.project.LastFile.Bytes, DesignAt(725));
+  EXPECT_TRUE(program.project.LastFile.IsSpoilt);
 }
 
 TEST_F(SpoilingBackupsWindow, MendsTheFileOfTheOpenProjectThatASaveHadSpoilt) {
   KeepTwo();
   OpenProject(Panel3);
-  program.LastFile.IsSpoilt = true;
+  program.project.LastFile.IsSpoilt = true;
   backups.Open();
   backups.grdBackups.SetRow(backups.grdBackups.Rows() - 1);
   platform.fileDialogs.answers = {Panel3};
@@ -272,8 +272,8 @@ TEST_F(SpoilingBackupsWindow, MendsTheFileOfTheOpenProjectThatASaveHadSpoilt) {
   backups.cmdSaveAs.Press();
 
   EXPECT_EQ(FileAt(Panel3), DesignAt(980));
-  EXPECT_EQ(program.LastFile.Path, Panel3);
-  EXPECT_FALSE(program.LastFile.IsSpoilt);
+  EXPECT_EQ(program.project.LastFile.Path, Panel3);
+  EXPECT_FALSE(program.project.LastFile.IsSpoilt);
 }
 
 TEST_F(SpoilingBackupsWindow, TellsOnlyOfTheAttemptThatCounts) {

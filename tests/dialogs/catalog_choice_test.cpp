@@ -15,7 +15,7 @@ constexpr Integer On = 1;
 struct CatalogChoice : testing::Test {
   RecordingPlatform platform;
   Program program{platform.Doors()};
-  Catalogs& catalogs = program.catalogs;
+  Catalogs& catalogs = program.session.catalogs;
 
   CatalogChoice() { SetBuiltInCatalogs(catalogs); }
 };
@@ -25,16 +25,17 @@ TEST_F(CatalogChoice, OfTheAustralianTableNeedsMetricUnitsAndItsSetting) {
 
   for (const UnitSystem units : {English, Metric}) {
     for (const Integer setting : {Off, On}) {
-      program.WorkParms.Units = units;
-      program.UseAUSStandardTable = setting;
-      EXPECT_EQ(UsesAustralianTable(program), expected[PlaceOf(units)][setting]) << NumberOf(units) << ", " << setting;
+      program.project.WorkParms.Units = units;
+      program.project.UseAUSStandardTable = setting;
+      EXPECT_EQ(UsesAustralianTable(program.project), expected[PlaceOf(units)][setting])
+          << NumberOf(units) << ", " << setting;
     }
   }
 }
 
 TEST_F(CatalogChoice, OfTheBoltTableInEnglishUnitsIsTheEnglishOneWhateverTheSetting) {
   for (const Integer setting : {Off, On}) {
-    program.UseAUSStandardTable = setting;
+    program.project.UseAUSStandardTable = setting;
 
     const BoltTable& table = LoadBoltTable(program);
 
@@ -46,16 +47,16 @@ TEST_F(CatalogChoice, OfTheBoltTableInEnglishUnitsIsTheEnglishOneWhateverTheSett
 }
 
 TEST_F(CatalogChoice, OfTheBoltTableInMetricUnitsFollowsTheSettingBackAndForth) {
-  program.WorkParms.Units = Metric;
+  program.project.WorkParms.Units = Metric;
 
   EXPECT_EQ(LoadBoltTable(program).size(), 10U);
   EXPECT_EQ(LoadBoltTable(program)[3].Diameter, "17.2");
 
-  program.UseAUSStandardTable = 1;
+  program.project.UseAUSStandardTable = 1;
   EXPECT_EQ(LoadBoltTable(program).size(), 2U);
   EXPECT_EQ(LoadBoltTable(program)[1].Grade, "440");
 
-  program.UseAUSStandardTable = 0;
+  program.project.UseAUSStandardTable = 0;
   EXPECT_EQ(LoadBoltTable(program).size(), 10U);
   EXPECT_EQ(&LoadBoltTable(program), &catalogs.BoltTableMET);
 }
@@ -66,8 +67,8 @@ TEST_F(CatalogChoice, OfGradesFollowsUnitsAndMeaning) {
 
   for (const UnitSystem units : {English, Metric}) {
     for (const StrengthBasis basis : {StrengthBasis::Yield, StrengthBasis::Ultimate}) {
-      program.WorkParms.Units = units;
-      program.WorkParms.Basis = basis;
+      program.project.WorkParms.Units = units;
+      program.project.WorkParms.Basis = basis;
       EXPECT_EQ(&BoltGrades(program), expected[PlaceOf(units)][NumberOf(basis)])
           << NumberOf(units) << ", " << NumberOf(basis);
     }
@@ -79,15 +80,15 @@ TEST_F(CatalogChoice, OfDiametersAndCablesFollowsUnits) {
   EXPECT_EQ(&CableDiameters(program), &catalogs.DefaultCableDiamArrayENG);
   EXPECT_EQ(&CableCapacities(program), &catalogs.DefaultCableCapArrayENG);
 
-  program.WorkParms.Units = Metric;
+  program.project.WorkParms.Units = Metric;
   EXPECT_EQ(&BoltDiameters(program), &catalogs.DefaultBoltDiamArrayMET);
   EXPECT_EQ(&CableDiameters(program), &catalogs.DefaultCableDiamArrayMET);
   EXPECT_EQ(&CableCapacities(program), &catalogs.DefaultCableCapArrayMET);
 }
 
 TEST_F(CatalogChoice, OfListsStaysMetricUnderTheAustralianSetting) {
-  program.WorkParms.Units = Metric;
-  program.UseAUSStandardTable = 1;
+  program.project.WorkParms.Units = Metric;
+  program.project.UseAUSStandardTable = 1;
 
   EXPECT_EQ(&BoltDiameters(program), &catalogs.DefaultBoltDiamArrayMET);
   EXPECT_EQ(&BoltGrades(program), &catalogs.DefaultBoltGradeArrayMET);
@@ -97,7 +98,7 @@ TEST_F(CatalogChoice, OfSupportCapacitiesFollowsUnits) {
   EXPECT_EQ(StandSupportCap(program, 0), 90.0F);
   EXPECT_EQ(StandSupportCap(program, 15), 525.0F);
 
-  program.WorkParms.Units = Metric;
+  program.project.WorkParms.Units = Metric;
   EXPECT_EQ(StandSupportCap(program, 0), 800.0F);
   EXPECT_EQ(StandSupportCap(program, 15), 4670.0F);
 }

@@ -16,13 +16,13 @@ using testing::IsEmpty;
 // A saved design in English units.
 struct AConversion : testing::Test {
   AConversion() {
-    program.CurrentFile = "/designs/panel3.ORB";
-    program.FileSaved = true;
-    program.FileEmpty = false;
-    program.WorkParms.Place.DepthofCover = 401.25F;
-    program.WorkParms.Place.EntryWidth = 20;
-    program.WorkParms.Primary.GradeStd = 75;
-    program.WorkParms.Place.CMRR = 45;
+    program.project.CurrentFile = "/designs/panel3.ORB";
+    program.project.FileSaved = true;
+    program.project.FileEmpty = false;
+    program.project.WorkParms.Place.DepthofCover = 401.25F;
+    program.project.WorkParms.Place.EntryWidth = 20;
+    program.project.WorkParms.Primary.GradeStd = 75;
+    program.project.WorkParms.Place.CMRR = 45;
   }
 
   void ConvertOnce() {
@@ -46,7 +46,7 @@ TEST_F(AConversion, OffersMetricUnitsToAnEnglishDesign) {
 }
 
 TEST_F(AConversion, OffersEnglishUnitsToAMetricDesign) {
-  program.WorkParms.Units = Metric;
+  program.project.WorkParms.Units = Metric;
 
   dialog.Open();
 
@@ -59,8 +59,8 @@ TEST_F(AConversion, OffersEnglishUnitsToAMetricDesign) {
 TEST_F(AConversion, IsLoggedWhenItOpens) {
   dialog.Open();
 
-  EXPECT_EQ(program.history.Text, "1. Loading File Conversion Form\r\n");
-  EXPECT_EQ(program.titles.RangeErrorTitle, "Range Error");
+  EXPECT_EQ(program.session.history.Text, "1. Loading File Conversion Form\r\n");
+  EXPECT_EQ(program.windows.titles.RangeErrorTitle, "Range Error");
 }
 
 TEST_F(AConversion, NamesItselfItsOptionsAndItsCommands) {
@@ -82,13 +82,13 @@ TEST_F(AConversion, MakesTheDesignAnUnsavedMetricOneAndCloses) {
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.Units, Metric);
-  EXPECT_EQ(program.CurrentFile, "Metric_panel3.ORB");
-  EXPECT_FALSE(program.FileSaved);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 122.3F);
-  EXPECT_EQ(program.WorkParms.Place.EntryWidth, 6.1F);
-  EXPECT_EQ(program.WorkParms.Primary.GradeStd, 517.0F);
-  EXPECT_EQ(program.WorkParms.Place.CMRR, 45);
+  EXPECT_EQ(program.project.WorkParms.Units, Metric);
+  EXPECT_EQ(program.project.CurrentFile, "Metric_panel3.ORB");
+  EXPECT_FALSE(program.project.FileSaved);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 122.3F);
+  EXPECT_EQ(program.project.WorkParms.Place.EntryWidth, 6.1F);
+  EXPECT_EQ(program.project.WorkParms.Primary.GradeStd, 517.0F);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRR, 45);
   EXPECT_FALSE(dialog.IsOpen());
   EXPECT_THAT(platform.files.created, IsEmpty());
 }
@@ -102,28 +102,28 @@ TEST_F(AConversion, TellsThatItIsDone) {
   EXPECT_EQ(platform.boxes.shown[0].text, "Conversion Completed: The conversion form will be closed");
   EXPECT_EQ(platform.boxes.shown[0].title, "Orby Roof Support Workbench");
   EXPECT_EQ(platform.boxes.shown[0].style, box_style::Ok);
-  EXPECT_EQ(program.history.Text,
+  EXPECT_EQ(program.session.history.Text,
             "1. Loading File Conversion Form\r\n"
             "2. Message: Conversion Completed: The conversion form will be closed\r\n");
 }
 
 TEST_F(AConversion, TellsOfANumberThatNoLongerFitsAndClosesAllTheSame) {
-  program.WorkParms.Primary.GradeStd = 3e38F;
+  program.project.WorkParms.Primary.GradeStd = 3e38F;
   dialog.Open();
 
   dialog.Command2.Press();
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error in the Conversion Procedure. Call technical support"));
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.WorkParms.Units, English);
-  EXPECT_EQ(program.CurrentFile, "/designs/panel3.ORB");
-  EXPECT_FALSE(program.FileSaved) << "some fields are converted";
+  EXPECT_EQ(program.project.WorkParms.Units, English);
+  EXPECT_EQ(program.project.CurrentFile, "/designs/panel3.ORB");
+  EXPECT_FALSE(program.project.FileSaved) << "some fields are converted";
 }
 
 // A conversion that notes, each time its caller is told, the file by then and how many boxes the user has seen.
 struct AToldConversion : AConversion {
   ConvertDialog told{program, [this] {
-                       files.push_back(program.CurrentFile);
+                       files.push_back(program.project.CurrentFile);
                        boxesBefore = platform.boxes.shown.size();
                      }};
   std::vector<std::string> files;
@@ -149,7 +149,7 @@ TEST_F(AToldConversion, TellsItsCallerNothingWhenItIsCancelled) {
 }
 
 TEST_F(AToldConversion, TellsItsCallerOfAProjectThatWasConvertedInPart) {
-  program.WorkParms.Primary.GradeStd = 3e38F;
+  program.project.WorkParms.Primary.GradeStd = 3e38F;
   told.Open();
 
   told.Command2.Press();
@@ -160,18 +160,18 @@ TEST_F(AToldConversion, TellsItsCallerOfAProjectThatWasConvertedInPart) {
 
 TEST_F(AConversion, IsTheSameWhateverIsChosenForTheFile) {
   for (const int choice : {0, 1}) {
-    program.WorkParms.Units = English;
-    program.CurrentFile = "/designs/panel3.ORB";
-    program.WorkParms.Place.EntryWidth = 20;
+    program.project.WorkParms.Units = English;
+    program.project.CurrentFile = "/designs/panel3.ORB";
+    program.project.WorkParms.Place.EntryWidth = 20;
     ConvertDialog other(program);
     other.Open();
     other.Option2.SetValue(choice, true);
 
     other.Command2.Press();
 
-    EXPECT_EQ(program.WorkParms.Units, Metric) << choice;
-    EXPECT_EQ(program.CurrentFile, "Metric_panel3.ORB") << choice;
-    EXPECT_EQ(program.WorkParms.Place.EntryWidth, 6.1F) << choice;
+    EXPECT_EQ(program.project.WorkParms.Units, Metric) << choice;
+    EXPECT_EQ(program.project.CurrentFile, "Metric_panel3.ORB") << choice;
+    EXPECT_EQ(program.project.WorkParms.Place.EntryWidth, 6.1F) << choice;
   }
 }
 
@@ -179,8 +179,8 @@ TEST_F(AConversion, ThereAndBackLeavesOneDecimalOfTheDepth) {
   ConvertOnce();
   ConvertOnce();
 
-  EXPECT_EQ(program.WorkParms.Units, English);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 401.2F);
+  EXPECT_EQ(program.project.WorkParms.Units, English);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 401.2F);
 }
 
 TEST_F(AConversion, RepeatedPilesThePrefixesUp) {
@@ -188,7 +188,7 @@ TEST_F(AConversion, RepeatedPilesThePrefixesUp) {
   ConvertOnce();
   ConvertOnce();
 
-  EXPECT_EQ(program.CurrentFile, "Metric_English_Metric_panel3.ORB");
+  EXPECT_EQ(program.project.CurrentFile, "Metric_English_Metric_panel3.ORB");
 }
 
 TEST_F(AConversion, CancelledChangesNothing) {
@@ -197,10 +197,10 @@ TEST_F(AConversion, CancelledChangesNothing) {
   dialog.Command1.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.WorkParms.Units, English);
-  EXPECT_EQ(program.CurrentFile, "/designs/panel3.ORB");
-  EXPECT_TRUE(program.FileSaved);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 401.25F);
+  EXPECT_EQ(program.project.WorkParms.Units, English);
+  EXPECT_EQ(program.project.CurrentFile, "/designs/panel3.ORB");
+  EXPECT_TRUE(program.project.FileSaved);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 401.25F);
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 

@@ -82,7 +82,8 @@ TEST_F(ACostDialog, CountsATextThatIsNoNumberAsZero) {
 
   EXPECT_FALSE(dialog.IsOpen());
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  for (const FieldCase& field : CostFieldCases) EXPECT_EQ(field.field.In(program.WorkParms), 0.0F) << field.name;
+  for (const FieldCase& field : CostFieldCases)
+    EXPECT_EQ(field.field.In(program.project.WorkParms), 0.0F) << field.name;
 }
 
 // ---- OK and Cancel --------------------------------------------------------------------------------------------------
@@ -95,47 +96,48 @@ TEST_F(ACostDialog, WritesEveryFieldOnOk) {
 
   dialog.Command2.Press();
 
-  for (const FieldCase& field : CostFieldCases) EXPECT_EQ(field.field.In(program.WorkParms), field.value) << field.name;
-  EXPECT_EQ(program.WorkParms.Cost.Advance, 0);
-  EXPECT_EQ(program.WorkParms.Cost.Production, 0);
+  for (const FieldCase& field : CostFieldCases)
+    EXPECT_EQ(field.field.In(program.project.WorkParms), field.value) << field.name;
+  EXPECT_EQ(program.project.WorkParms.Cost.Advance, 0);
+  EXPECT_EQ(program.project.WorkParms.Cost.Production, 0);
 }
 
 TEST_F(ACostDialog, KeepsTheTwoBoxesApart) {
-  program.WorkParms.Cost.Advance = 0;
-  program.WorkParms.Cost.Production = 0;
+  program.project.WorkParms.Cost.Advance = 0;
+  program.project.WorkParms.Cost.Production = 0;
   dialog.Open();
   dialog.chkProduction.SetValue(1);
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.Cost.Advance, 0);
-  EXPECT_EQ(program.WorkParms.Cost.Production, 1);
+  EXPECT_EQ(program.project.WorkParms.Cost.Advance, 0);
+  EXPECT_EQ(program.project.WorkParms.Cost.Production, 1);
 }
 
 TEST_F(ACostDialog, LeavesTheRestOfTheDesignAloneOnOk) {
-  program.WorkParms.Primary.RowSpacing = 4.5F;
-  program.WorkParms.Primary.BoltsperRow = 6;
+  program.project.WorkParms.Primary.RowSpacing = 4.5F;
+  program.project.WorkParms.Primary.BoltsperRow = 6;
   dialog.Open();
   dialog.txtRowSpacing.SetText("3.5");
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.Primary.RowSpacing, 4.5F);
-  EXPECT_EQ(program.WorkParms.Primary.BoltsperRow, 6.0F);
+  EXPECT_EQ(program.project.WorkParms.Primary.RowSpacing, 4.5F);
+  EXPECT_EQ(program.project.WorkParms.Primary.BoltsperRow, 6.0F);
 }
 
 TEST_F(ACostDialog, MakesTheProjectUnsavedAndLocksItsUnitsOnOk) {
-  program.FileEmpty = true;
+  program.project.FileEmpty = true;
   dialog.Open();
 
   dialog.Command2.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_FALSE(program.FileSaved);
-  EXPECT_FALSE(program.FileEmpty);
-  EXPECT_TRUE(program.UnitsLocked);
-  EXPECT_FALSE(program.DialogOpen);
-  EXPECT_EQ(program.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Modified\r\n");
+  EXPECT_FALSE(program.project.FileSaved);
+  EXPECT_FALSE(program.project.FileEmpty);
+  EXPECT_TRUE(program.project.UnitsLocked);
+  EXPECT_FALSE(program.windows.DialogOpen);
+  EXPECT_EQ(program.session.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Modified\r\n");
 }
 
 TEST_F(ACostDialog, StaysOpenWhenOkFindsANegativeNumber) {
@@ -147,13 +149,13 @@ TEST_F(ACostDialog, StaysOpenWhenOkFindsANegativeNumber) {
 
   EXPECT_TRUE(dialog.IsOpen());
   EXPECT_FALSE(dialog.CommitOnClose);
-  EXPECT_EQ(program.WorkParms.Cost.TotalLabor, 35.0F);
-  EXPECT_TRUE(program.FileSaved);
+  EXPECT_EQ(program.project.WorkParms.Cost.TotalLabor, 35.0F);
+  EXPECT_TRUE(program.project.FileSaved);
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid hours per shift"));
 }
 
 TEST_F(ACostDialog, ForgetsEverythingOnCancel) {
-  program.FileEmpty = true;
+  program.project.FileEmpty = true;
   dialog.Open();
   for (const FieldCase& field : CostFieldCases) Box(field.name).SetText("77");
   dialog.chkAdvance.SetValue(0);
@@ -161,14 +163,14 @@ TEST_F(ACostDialog, ForgetsEverythingOnCancel) {
   dialog.Command1.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3.0F);
-  EXPECT_EQ(program.WorkParms.Cost.WeeksYear, 50.0F);
-  EXPECT_EQ(program.WorkParms.Cost.Advance, 1);
-  EXPECT_TRUE(program.FileSaved);
-  EXPECT_TRUE(program.FileEmpty);
-  EXPECT_FALSE(program.UnitsLocked);
-  EXPECT_FALSE(program.DialogOpen);
-  EXPECT_EQ(program.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Not Modified\r\n");
+  EXPECT_EQ(program.project.WorkParms.Cost.BoltCost, 3.0F);
+  EXPECT_EQ(program.project.WorkParms.Cost.WeeksYear, 50.0F);
+  EXPECT_EQ(program.project.WorkParms.Cost.Advance, 1);
+  EXPECT_TRUE(program.project.FileSaved);
+  EXPECT_TRUE(program.project.FileEmpty);
+  EXPECT_FALSE(program.project.UnitsLocked);
+  EXPECT_FALSE(program.windows.DialogOpen);
+  EXPECT_EQ(program.session.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Not Modified\r\n");
 }
 
 TEST_F(ACostDialog, TreatsTheWindowsCloseAsCancel) {
@@ -177,9 +179,9 @@ TEST_F(ACostDialog, TreatsTheWindowsCloseAsCancel) {
 
   dialog.Close();
 
-  EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3.0F);
-  EXPECT_TRUE(program.FileSaved);
-  EXPECT_THAT(program.history.Text, EndsWith("2. Project Parameters Not Modified\r\n"));
+  EXPECT_EQ(program.project.WorkParms.Cost.BoltCost, 3.0F);
+  EXPECT_TRUE(program.project.FileSaved);
+  EXPECT_THAT(program.session.history.Text, EndsWith("2. Project Parameters Not Modified\r\n"));
 }
 
 TEST_F(ACostDialog, RefusesANumberThatNoDesignCanHold) {
@@ -199,8 +201,8 @@ TEST_F(ACostDialog, RefusesANumberThatNoDesignCanHold) {
     platform.boxes.shown.clear();
   }
 
-  EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3.0F);
-  EXPECT_TRUE(program.FileSaved);
+  EXPECT_EQ(program.project.WorkParms.Cost.BoltCost, 3.0F);
+  EXPECT_TRUE(program.project.FileSaved);
 }
 
 TEST_F(ACostDialog, TellsHowToGetHelp) {
@@ -217,7 +219,7 @@ TEST_F(ACostDialog, TellsHowToGetHelp) {
 // ---- results --------------------------------------------------------------------------------------------------------
 
 TEST_F(ACostDialog, ShowsTheCostTableOfTheTypedNumbers) {
-  program.WorkParms.Cost = CostInputs{};
+  program.project.WorkParms.Cost = CostInputs{};
   dialog.Open();
   for (const auto& [name, text] : {std::pair{"txtBoltCost", "3"},
                                    {"txtPlateCost", "1"},
@@ -231,7 +233,7 @@ TEST_F(ACostDialog, ShowsTheCostTableOfTheTypedNumbers) {
     Box(name).SetText(text);
   }
   std::string shown;
-  platform.windows.onModal = [&](Form&) { shown = program.OutBuf[1]; };
+  platform.windows.onModal = [&](Form&) { shown = program.session.OutBuf[1]; };
 
   dialog.cmdresults.Press();
 
@@ -243,46 +245,46 @@ TEST_F(ACostDialog, ShowsTheCostTableOfTheTypedNumbers) {
 }
 
 TEST_F(ACostDialog, ShowsTheInputsBesideTheCostTable) {
-  program.ProjectTitle = "Panel 3 belt entry";
+  program.project.ProjectTitle = "Panel 3 belt entry";
   dialog.Open();
-  program.OutBuf[0] = "an older report";
+  program.session.OutBuf[0] = "an older report";
 
   dialog.cmdresults.Press();
 
-  EXPECT_THAT(program.OutBuf[0], StartsWith("ORBY module build: "));
-  EXPECT_THAT(program.OutBuf[0], HasSubstr("Panel 3 belt entry"));
-  EXPECT_EQ(program.LastPage, 1);
+  EXPECT_THAT(program.session.OutBuf[0], StartsWith("ORBY module build: "));
+  EXPECT_THAT(program.session.OutBuf[0], HasSubstr("Panel 3 belt entry"));
+  EXPECT_EQ(program.windows.LastPage, 1);
 }
 
 TEST_F(ACostDialog, CommitsNothingByShowingResults) {
-  program.WorkParms.Place.CMRR = 45;
+  program.project.WorkParms.Place.CMRR = 45;
   dialog.Open();
   for (const FieldCase& field : CostFieldCases) Box(field.name).SetText(std::string(field.text));
   dialog.chkAdvance.SetValue(0);
   dialog.chkProduction.SetValue(0);
-  program.ReportCaller = report_caller::None;
+  program.windows.ReportCaller = report_caller::None;
 
   dialog.cmdresults.Press();
 
   for (const FieldCase& field : CostFieldCases)
-    EXPECT_EQ(field.field.In(program.WorkParmsCopy), field.value) << field.name;
-  EXPECT_EQ(program.WorkParmsCopy.Cost.Advance, 0);
-  EXPECT_EQ(program.WorkParmsCopy.Cost.Production, 0);
-  EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3.0F);
-  EXPECT_EQ(program.WorkParms.Cost.WeeksYear, 50.0F);
-  EXPECT_EQ(program.WorkParms.Cost.Advance, 1);
-  EXPECT_EQ(program.WorkParms.Cost.Production, 1);
-  EXPECT_EQ(program.WorkParms.Place.CMRR, 45);
-  EXPECT_EQ(program.ReportCaller, report_caller::Cost);
-  EXPECT_TRUE(program.FileSaved);
-  EXPECT_FALSE(program.UnitsLocked);
+    EXPECT_EQ(field.field.In(program.windows.WorkParmsCopy), field.value) << field.name;
+  EXPECT_EQ(program.windows.WorkParmsCopy.Cost.Advance, 0);
+  EXPECT_EQ(program.windows.WorkParmsCopy.Cost.Production, 0);
+  EXPECT_EQ(program.project.WorkParms.Cost.BoltCost, 3.0F);
+  EXPECT_EQ(program.project.WorkParms.Cost.WeeksYear, 50.0F);
+  EXPECT_EQ(program.project.WorkParms.Cost.Advance, 1);
+  EXPECT_EQ(program.project.WorkParms.Cost.Production, 1);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRR, 45);
+  EXPECT_EQ(program.windows.ReportCaller, report_caller::Cost);
+  EXPECT_TRUE(program.project.FileSaved);
+  EXPECT_FALSE(program.project.UnitsLocked);
   EXPECT_TRUE(dialog.IsOpen());
 }
 
 TEST_F(ACostDialog, ShowsItsResultsWithTheCurvesOfTheProject) {
-  program.WorkParms.Primary.StabilityFactor = 1.2F;
-  program.WorkParms.Place.DepthofCover = 400;
-  program.WorkParmsCopy.Primary.StabilityFactor = 2;  // of a design that was shown before, and not accepted
+  program.project.WorkParms.Primary.StabilityFactor = 1.2F;
+  program.project.WorkParms.Place.DepthofCover = 400;
+  program.windows.WorkParmsCopy.Primary.StabilityFactor = 2;  // of a design that was shown before, and not accepted
   dialog.Open();
   platform.windows.onModal = [](Form& form) {
     if (auto* results = dynamic_cast<ResultsWindow*>(&form)) results->lstGraphs.ClickItem(2);
@@ -290,7 +292,7 @@ TEST_F(ACostDialog, ShowsItsResultsWithTheCurvesOfTheProject) {
 
   dialog.cmdresults.Press();
 
-  EXPECT_EQ(program.curve.CurvePoints[0].front(), 0.6F);
+  EXPECT_EQ(program.windows.curve.CurvePoints[0].front(), 0.6F);
 }
 
 TEST_F(ACostDialog, HasRestoredTheCostsBeforeTheResultsAreOnView) {
@@ -298,7 +300,7 @@ TEST_F(ACostDialog, HasRestoredTheCostsBeforeTheResultsAreOnView) {
   for (const FieldCase& field : CostFieldCases) Box(field.name).SetText(std::string(field.text));
   dialog.chkProduction.SetValue(0);
   CostInputs behind;
-  platform.windows.onModal = [&](Form&) { behind = program.WorkParms.Cost; };
+  platform.windows.onModal = [&](Form&) { behind = program.project.WorkParms.Cost; };
 
   dialog.cmdresults.Press();
 
@@ -311,30 +313,30 @@ TEST_F(ACostDialog, HasRestoredTheCostsBeforeTheResultsAreOnView) {
 
 // The report of the costs tells the inputs of the design too.
 TEST_F(ACostDialog, LeavesTheCostsAsTheyWereWhenTheReportFails) {
-  program.WorkParms.Primary.Analysed = 1;
-  program.WorkParms.Primary.Options = 1;
-  program.WorkParms.Primary.DiameterMode = 1;
-  program.WorkParms.Primary.DiameterManual = 1E30F;
-  program.WorkParms.Primary.GradeMode = 1;
-  program.WorkParms.Primary.GradeManual = 75;
+  program.project.WorkParms.Primary.Analysed = 1;
+  program.project.WorkParms.Primary.Options = 1;
+  program.project.WorkParms.Primary.DiameterMode = 1;
+  program.project.WorkParms.Primary.DiameterManual = 1E30F;
+  program.project.WorkParms.Primary.GradeMode = 1;
+  program.project.WorkParms.Primary.GradeManual = 75;
   dialog.Open();
   dialog.txtBoltCost.SetText("9");
 
   EXPECT_EQ(ErrorNumberOf([this] { dialog.cmdresults.Press(); }), 6);
 
-  EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3.0F);
-  EXPECT_EQ(program.WorkParmsCopy.Cost.BoltCost, 9.0F);
+  EXPECT_EQ(program.project.WorkParms.Cost.BoltCost, 3.0F);
+  EXPECT_EQ(program.windows.WorkParmsCopy.Cost.BoltCost, 9.0F);
   EXPECT_EQ(platform.windows.modalForms, 0);
 }
 
 TEST_F(ACostDialog, KeepsThePageBeforeWhenTheTableCannotBeComputed) {
-  program.OutBuf[1] = "as it was";
+  program.session.OutBuf[1] = "as it was";
   dialog.Open();
   dialog.txtTotalLabor.SetText("3E38");
 
   EXPECT_EQ(ErrorNumberOf([this] { dialog.cmdresults.Press(); }), 6);
 
-  EXPECT_EQ(program.OutBuf[1], "as it was");
+  EXPECT_EQ(program.session.OutBuf[1], "as it was");
 }
 
 TEST_F(ACostDialog, LeavesTheDesignAsItWasByCancelAfterResults) {
@@ -345,22 +347,22 @@ TEST_F(ACostDialog, LeavesTheDesignAsItWasByCancelAfterResults) {
 
   dialog.Command1.Press();
 
-  EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3.0F);
-  EXPECT_EQ(program.WorkParms.Cost.Production, 1);
-  EXPECT_TRUE(program.FileSaved);
-  EXPECT_THAT(program.history.Text, EndsWith("Project Parameters Not Modified\r\n"));
+  EXPECT_EQ(program.project.WorkParms.Cost.BoltCost, 3.0F);
+  EXPECT_EQ(program.project.WorkParms.Cost.Production, 1);
+  EXPECT_TRUE(program.project.FileSaved);
+  EXPECT_THAT(program.session.history.Text, EndsWith("Project Parameters Not Modified\r\n"));
 }
 
 TEST_F(ACostDialog, ShowsNoResultsOfANegativeNumber) {
   dialog.Open();
-  program.OutBuf[1] = "an older report";
+  program.session.OutBuf[1] = "an older report";
   dialog.txtYearsDepr.SetText("-5");
 
   dialog.cmdresults.Press();
 
   EXPECT_EQ(platform.windows.modalForms, 0);
-  EXPECT_EQ(program.OutBuf[1], "an older report");
-  EXPECT_EQ(program.WorkParmsCopy.Cost.BoltCost, 0.0F);
+  EXPECT_EQ(program.session.OutBuf[1], "an older report");
+  EXPECT_EQ(program.windows.WorkParmsCopy.Cost.BoltCost, 0.0F);
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid number of depreciation years"));
 }
 
@@ -377,22 +379,22 @@ TEST_F(ACostDialog, CopiesItsPictureToTheClipboard) {
 }
 
 TEST_F(ACostDialog, GivesTheDesignThatOkWouldStoreWithoutCommittingIt) {
-  program.FileEmpty = true;
-  program.WorkParms.Place.DepthofCover = 512.5F;
+  program.project.FileEmpty = true;
+  program.project.WorkParms.Place.DepthofCover = 512.5F;
   dialog.Open();
   dialog.txtBoltCost.SetText("3.25");
   dialog.chkAdvance.SetValue(0);
 
-  Design edited = program.WorkParms;
+  Design edited = program.project.WorkParms;
   dialog.ReadEdits(edited);
 
   EXPECT_EQ(edited.Cost.BoltCost, 3.25F);
   EXPECT_EQ(edited.Cost.Advance, 0);
   EXPECT_EQ(edited.Cost.PlateCost, 1.0F);
   EXPECT_EQ(edited.Place.DepthofCover, 512.5F);
-  EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3.0F);
-  EXPECT_TRUE(program.FileSaved);
-  EXPECT_TRUE(program.FileEmpty);
+  EXPECT_EQ(program.project.WorkParms.Cost.BoltCost, 3.0F);
+  EXPECT_TRUE(program.project.FileSaved);
+  EXPECT_TRUE(program.project.FileEmpty);
   EXPECT_FALSE(dialog.WasCommitted);
 }
 

@@ -76,9 +76,9 @@ inline CostInputs OneBolter() {
 
 struct ACostDialog : testing::Test {
   ACostDialog() {
-    program.WorkParms.Cost = OneBolter();
-    program.FileSaved = true;
-    program.FileEmpty = false;
+    program.project.WorkParms.Cost = OneBolter();
+    program.project.FileSaved = true;
+    program.project.FileEmpty = false;
   }
 
   TextBox& Box(std::string_view name) { return dynamic_cast<TextBox&>(*dialog.Find(name)); }

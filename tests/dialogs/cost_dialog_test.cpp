@@ -8,7 +8,7 @@ using testing::IsEmpty;
 // ---- opening --------------------------------------------------------------------------------------------------------
 
 TEST_F(ACostDialog, ShowsEveryCostOfTheDesign) {
-  for (const FieldCase& field : CostFieldCases) field.field.In(program.WorkParms) = field.value;
+  for (const FieldCase& field : CostFieldCases) field.field.In(program.project.WorkParms) = field.value;
 
   dialog.Open();
 
@@ -16,8 +16,8 @@ TEST_F(ACostDialog, ShowsEveryCostOfTheDesign) {
 }
 
 TEST_F(ACostDialog, ShowsWhichCalculatedValuesTheDesignUses) {
-  program.WorkParms.Cost.Advance = 1;
-  program.WorkParms.Cost.Production = 0;
+  program.project.WorkParms.Cost.Advance = 1;
+  program.project.WorkParms.Cost.Production = 0;
 
   dialog.Open();
 
@@ -33,8 +33,8 @@ TEST_F(ACostDialog, ShowsTheCalculatedFiguresAtOnce) {
 }
 
 TEST_F(ACostDialog, TakesTheFiguresFromTheShownDecimals) {
-  program.WorkParms.Cost.RowSpacing = 1.2F;
-  program.WorkParms.Cost.AdvanceRate = 12;
+  program.project.WorkParms.Cost.RowSpacing = 1.2F;
+  program.project.WorkParms.Cost.AdvanceRate = 12;
 
   dialog.Open();
 
@@ -43,7 +43,7 @@ TEST_F(ACostDialog, TakesTheFiguresFromTheShownDecimals) {
 }
 
 TEST_F(ACostDialog, WithoutARowSpacingOpensWithoutAnAdvance) {
-  program.WorkParms.Cost.RowSpacing = 0;
+  program.project.WorkParms.Cost.RowSpacing = 0;
 
   dialog.Open();
 
@@ -56,10 +56,10 @@ TEST_F(ACostDialog, TellsTheHistoryAndTheProgramThatItIsOpen) {
 
   dialog.Open();
 
-  EXPECT_TRUE(program.DialogOpen);
-  EXPECT_EQ(program.ReportCaller, report_caller::Cost);
-  EXPECT_EQ(program.history.Text, "1. Editing Project Parameters\r\n");
-  EXPECT_EQ(program.titles.RangeErrorTitle, "Project Parameters: Range Error");
+  EXPECT_TRUE(program.windows.DialogOpen);
+  EXPECT_EQ(program.windows.ReportCaller, report_caller::Cost);
+  EXPECT_EQ(program.session.history.Text, "1. Editing Project Parameters\r\n");
+  EXPECT_EQ(program.windows.titles.RangeErrorTitle, "Project Parameters: Range Error");
   EXPECT_EQ(platform.windows.centered, 1);
   EXPECT_FALSE(platform.windows.waitCursor);
   EXPECT_FALSE(dialog.HoldEvents);
@@ -112,7 +112,7 @@ TEST_F(ACostDialog, LabelsItsFieldsInEnglishUnits) {
 }
 
 TEST_F(ACostDialog, LabelsItsFieldsInMetricUnits) {
-  program.WorkParms.Units = Metric;
+  program.project.WorkParms.Units = Metric;
 
   dialog.Open();
 
@@ -149,7 +149,7 @@ TEST_F(ACostDialog, PassesOnlyTheKeysOfNumbers) {
 }
 
 TEST_F(ACostDialog, SelectsTheWholeNumberThatGetsTheFocus) {
-  for (const FieldCase& field : CostFieldCases) field.field.In(program.WorkParms) = field.value;
+  for (const FieldCase& field : CostFieldCases) field.field.In(program.project.WorkParms) = field.value;
   dialog.Open();
 
   for (const FieldCase& field : CostFieldCases) {
@@ -206,7 +206,7 @@ TEST_F(ACostDialog, AcceptsARowSpacingOfZero) {
   dialog.Command2.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.WorkParms.Cost.RowSpacing, 0.0F);
+  EXPECT_EQ(program.project.WorkParms.Cost.RowSpacing, 0.0F);
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 

@@ -17,7 +17,7 @@ using testing::SizeIs;
 struct ACurve : testing::Test {
   RecordingPlatform platform;
   Program program{platform.Doors()};
-  Design& design = program.WorkParmsCopy;
+  Design& design = program.windows.WorkParmsCopy;
 
   ACurve() { design = EnglishDesign(); }
 };
@@ -47,13 +47,13 @@ TEST_F(ACurve, TellsOfATrimmedRatingBeforeItFails) {
 }
 
 TEST_F(ACurve, IsThatOfThePreviewedDesignAndNotOfTheCommittedOne) {
-  program.WorkParms = MetricDesign();
-  program.WorkParms.Place.CMRR = 90;
+  program.project.WorkParms = MetricDesign();
+  program.project.WorkParms.Place.CMRR = 90;
 
   TakeCurve(program, 8);
 
-  EXPECT_EQ(program.curve.CurvePoints[0][40], 60.0F);
-  EXPECT_EQ(program.curve.CurvePoints[1][40], 183.050446F);
+  EXPECT_EQ(program.windows.curve.CurvePoints[0][40], 60.0F);
+  EXPECT_EQ(program.windows.curve.CurvePoints[1][40], 183.050446F);
   EXPECT_THAT(platform.boxes.Texts(), IsEmpty());
 }
 
@@ -62,9 +62,9 @@ TEST_F(ACurve, ReplacesTheOneBefore) {
 
   TakeCurve(program, 3);
 
-  EXPECT_EQ(program.curve.CurvePointCount, 4);
-  EXPECT_THAT(program.curve.CurvePoints, ElementsAre(SizeIs(5), SizeIs(5)));
-  EXPECT_EQ(program.curve.CurveIndex, 3);
+  EXPECT_EQ(program.windows.curve.CurvePointCount, 4);
+  EXPECT_THAT(program.windows.curve.CurvePoints, ElementsAre(SizeIs(5), SizeIs(5)));
+  EXPECT_EQ(program.windows.curve.CurveIndex, 3);
 }
 
 TEST_F(ACurve, ThatFailsLeavesTheOneBefore) {
@@ -73,8 +73,8 @@ TEST_F(ACurve, ThatFailsLeavesTheOneBefore) {
 
   EXPECT_EQ(ErrorNumberOf([this] { TakeCurve(program, 0); }), 9);
 
-  EXPECT_EQ(program.curve.CurvePointCount, 4);
-  EXPECT_EQ(program.curve.CurveIndex, 3);
+  EXPECT_EQ(program.windows.curve.CurvePointCount, 4);
+  EXPECT_EQ(program.windows.curve.CurveIndex, 3);
 }
 
 }  // namespace

@@ -19,15 +19,15 @@ using testing::IsEmpty;
 // A saved English design, its units still open to choice.
 struct ADescriptionDialog : testing::Test {
   ADescriptionDialog() {
-    SetBuiltInCatalogs(program.catalogs);
+    SetBuiltInCatalogs(program.session.catalogs);
     FileNew(program, true, true);
-    program.CurrentFile = "/designs/panel3.ORB";
-    program.ProjectTitle = "Panel 3";
-    program.ProjectDescription = "Headgate\r\nSecond cut";
-    program.WorkParms.Place.CMRR = 52;
-    program.WorkParms.Place.DepthofCover = 512.5F;
-    program.FileEmpty = false;
-    program.history = {};
+    program.project.CurrentFile = "/designs/panel3.ORB";
+    program.project.ProjectTitle = "Panel 3";
+    program.project.ProjectDescription = "Headgate\r\nSecond cut";
+    program.project.WorkParms.Place.CMRR = 52;
+    program.project.WorkParms.Place.DepthofCover = 512.5F;
+    program.project.FileEmpty = false;
+    program.session.history = {};
   }
 
   RecordingPlatform platform;
@@ -56,9 +56,9 @@ TEST_F(ADescriptionDialog, NamesItselfItsFieldsAndItsCommands) {
 // ---- opening --------------------------------------------------------------------------------------------------------
 
 TEST_F(ADescriptionDialog, ShowsTheProject) {
-  program.WorkParms.Units = Metric;
-  program.WorkParms.Basis = StrengthBasis::Ultimate;
-  program.UseAUSStandardTable = 1;
+  program.project.WorkParms.Units = Metric;
+  program.project.WorkParms.Basis = StrengthBasis::Ultimate;
+  program.project.UseAUSStandardTable = 1;
 
   dialog.Open();
 
@@ -76,10 +76,10 @@ TEST_F(ADescriptionDialog, PreparesItsMessagesTheCursorAndItsPlace) {
 
   dialog.Open();
 
-  EXPECT_EQ(program.titles.RangeErrorTitle, "Project Description: Range Error");
+  EXPECT_EQ(program.windows.titles.RangeErrorTitle, "Project Description: Range Error");
   EXPECT_FALSE(platform.windows.waitCursor);
   EXPECT_EQ(platform.windows.centered, 1);
-  EXPECT_EQ(program.history.Text, "1. Editing Project Description\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. Editing Project Description\r\n");
   EXPECT_FALSE(dialog.CommitOnClose);
 }
 
@@ -93,7 +93,7 @@ TEST_F(ADescriptionDialog, OffersBothUnitSystemsAndBothStrengthsOfANewProject) {
 }
 
 TEST_F(ADescriptionDialog, KeepsTheUnitsOfAnOpenedFile) {
-  program.UnitsLocked = true;
+  program.project.UnitsLocked = true;
 
   dialog.Open();
 
@@ -104,9 +104,9 @@ TEST_F(ADescriptionDialog, KeepsTheUnitsOfAnOpenedFile) {
 }
 
 TEST_F(ADescriptionDialog, KeepsMetricUnitsAndUltimateStrengthsOfAnOpenedFile) {
-  program.UnitsLocked = true;
-  program.WorkParms.Units = Metric;
-  program.WorkParms.Basis = StrengthBasis::Ultimate;
+  program.project.UnitsLocked = true;
+  program.project.WorkParms.Units = Metric;
+  program.project.WorkParms.Basis = StrengthBasis::Ultimate;
 
   dialog.Open();
 
@@ -117,7 +117,7 @@ TEST_F(ADescriptionDialog, KeepsMetricUnitsAndUltimateStrengthsOfAnOpenedFile) {
 }
 
 TEST_F(ADescriptionDialog, OffersBothAgainOnceANewProjectHasBegun) {
-  program.UnitsLocked = true;
+  program.project.UnitsLocked = true;
   dialog.Open();
   dialog.Close();
   FileNew(program, true, true);
@@ -129,7 +129,7 @@ TEST_F(ADescriptionDialog, OffersBothAgainOnceANewProjectHasBegun) {
 }
 
 TEST_F(ADescriptionDialog, FailsOnUnitsThatNoProjectHas) {
-  program.WorkParms.Units = UnitSystem{2};
+  program.project.WorkParms.Units = UnitSystem{2};
 
   EXPECT_EQ(ErrorNumberOf([this] { dialog.Open(); }), 9);
 
@@ -152,7 +152,7 @@ TEST_F(ADescriptionDialog, OffersTheAustralianTableToMetricProjectsOnly) {
 }
 
 TEST_F(ADescriptionDialog, LeavesTheBoxEmptyUnderFeetWhateverAnEarlierProjectUsed) {
-  program.UseAUSStandardTable = 1;
+  program.project.UseAUSStandardTable = 1;
 
   dialog.Open();
 
@@ -161,47 +161,47 @@ TEST_F(ADescriptionDialog, LeavesTheBoxEmptyUnderFeetWhateverAnEarlierProjectUse
 }
 
 TEST_F(ADescriptionDialog, StoresTheTableChoiceOnOk) {
-  program.WorkParms.Units = Metric;
+  program.project.WorkParms.Units = Metric;
   dialog.Open();
   dialog.Check1.SetValue(1);
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.UseAUSStandardTable, 1);
+  EXPECT_EQ(program.project.UseAUSStandardTable, 1);
 }
 
 TEST_F(ADescriptionDialog, LetsAMetricProjectChooseItsTableThoughItsUnitsAreKept) {
-  program.UnitsLocked = true;
-  program.WorkParms.Units = Metric;
+  program.project.UnitsLocked = true;
+  program.project.WorkParms.Units = Metric;
   dialog.Open();
   EXPECT_TRUE(dialog.Check1.Enabled());
   dialog.Check1.SetValue(1);
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.UseAUSStandardTable, 1);
+  EXPECT_EQ(program.project.UseAUSStandardTable, 1);
 }
 
 TEST_F(ADescriptionDialog, LeavesTheTableChoiceAsItWasOnCancel) {
   for (const UnitSystem units : {English, Metric}) {
-    program.WorkParms.Units = units;
-    program.UseAUSStandardTable = 1;
+    program.project.WorkParms.Units = units;
+    program.project.UseAUSStandardTable = 1;
     dialog.Open();
     dialog.Check1.SetValue(0);
 
     dialog.Command1.Press();
 
-    EXPECT_EQ(program.UseAUSStandardTable, 1) << NumberOf(units);
+    EXPECT_EQ(program.project.UseAUSStandardTable, 1) << NumberOf(units);
   }
 }
 
 TEST_F(ADescriptionDialog, ClearsTheTableChoiceOfAProjectInFeetOnOk) {
-  program.UseAUSStandardTable = 1;
+  program.project.UseAUSStandardTable = 1;
   dialog.Open();
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.UseAUSStandardTable, 0);
+  EXPECT_EQ(program.project.UseAUSStandardTable, 0);
 }
 
 TEST_F(ADescriptionDialog, KeepsTheTableChoiceThatGoesWithNewUnits) {
@@ -211,8 +211,8 @@ TEST_F(ADescriptionDialog, KeepsTheTableChoiceThatGoesWithNewUnits) {
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.Units, Metric);
-  EXPECT_EQ(program.UseAUSStandardTable, 1);
+  EXPECT_EQ(program.project.WorkParms.Units, Metric);
+  EXPECT_EQ(program.project.UseAUSStandardTable, 1);
 }
 
 // ---- OK -------------------------------------------------------------------------------------------------------------
@@ -225,23 +225,23 @@ TEST_F(ADescriptionDialog, StoresTitleAndDescriptionOnOk) {
   dialog.Command2.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.ProjectTitle, "Panel 4");
-  EXPECT_EQ(program.ProjectDescription, "Tailgate");
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 512.5F);
-  EXPECT_EQ(program.CurrentFile, "/designs/panel3.ORB");
+  EXPECT_EQ(program.project.ProjectTitle, "Panel 4");
+  EXPECT_EQ(program.project.ProjectDescription, "Tailgate");
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 512.5F);
+  EXPECT_EQ(program.project.CurrentFile, "/designs/panel3.ORB");
   EXPECT_FALSE(dialog.OpensParameters);
 }
 
 TEST_F(ADescriptionDialog, MakesTheProjectUnsavedAndLocksItsUnitsOnOk) {
-  program.FileEmpty = true;
+  program.project.FileEmpty = true;
   dialog.Open();
 
   dialog.Command2.Press();
 
-  EXPECT_FALSE(program.FileSaved);
-  EXPECT_FALSE(program.FileEmpty);
-  EXPECT_TRUE(program.UnitsLocked);
-  EXPECT_EQ(program.history.Text, "1. Editing Project Description\r\n2. Project Description Modified\r\n");
+  EXPECT_FALSE(program.project.FileSaved);
+  EXPECT_FALSE(program.project.FileEmpty);
+  EXPECT_TRUE(program.project.UnitsLocked);
+  EXPECT_EQ(program.session.history.Text, "1. Editing Project Description\r\n2. Project Description Modified\r\n");
 }
 
 TEST_F(ADescriptionDialog, CanNoLongerChangeTheUnitsOnceItWasAccepted) {
@@ -262,14 +262,14 @@ TEST_F(ADescriptionDialog, LosesTheTypedTitleWhenTheUnitsChange) {
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.ProjectTitle, "");
-  EXPECT_EQ(program.ProjectDescription, "");
-  EXPECT_EQ(program.WorkParms.Units, Metric);
-  EXPECT_EQ(program.CurrentFile, "/designs/panel3.ORB");
-  EXPECT_EQ(program.WorkParms.Place.CMRR, 45);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 150);
-  EXPECT_EQ(program.WorkParms.Primary.DiameterStd, 20);
-  EXPECT_EQ(program.WorkParms.Primary.GradeStd, 520);
+  EXPECT_EQ(program.project.ProjectTitle, "");
+  EXPECT_EQ(program.project.ProjectDescription, "");
+  EXPECT_EQ(program.project.WorkParms.Units, Metric);
+  EXPECT_EQ(program.project.CurrentFile, "/designs/panel3.ORB");
+  EXPECT_EQ(program.project.WorkParms.Place.CMRR, 45);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 150);
+  EXPECT_EQ(program.project.WorkParms.Primary.DiameterStd, 20);
+  EXPECT_EQ(program.project.WorkParms.Primary.GradeStd, 520);
 }
 
 TEST_F(ADescriptionDialog, LosesTheTypedTitleWhenTheStrengthModeChanges) {
@@ -279,11 +279,11 @@ TEST_F(ADescriptionDialog, LosesTheTypedTitleWhenTheStrengthModeChanges) {
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.ProjectTitle, "");
-  EXPECT_EQ(program.WorkParms.Basis, StrengthBasis::Ultimate);
-  EXPECT_EQ(program.WorkParms.Units, English);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
-  EXPECT_EQ(program.WorkParms.Primary.GradeStd, 100);
+  EXPECT_EQ(program.project.ProjectTitle, "");
+  EXPECT_EQ(program.project.WorkParms.Basis, StrengthBasis::Ultimate);
+  EXPECT_EQ(program.project.WorkParms.Units, English);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
+  EXPECT_EQ(program.project.WorkParms.Primary.GradeStd, 100);
 }
 
 TEST_F(ADescriptionDialog, StartsAnewForUnitsAndForStrengthsAndIsUnsavedAllTheSame) {
@@ -293,15 +293,15 @@ TEST_F(ADescriptionDialog, StartsAnewForUnitsAndForStrengthsAndIsUnsavedAllTheSa
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.history.Text,
+  EXPECT_EQ(program.session.history.Text,
             "1. Editing Project Description\r\n"
             "2. File initialized. Use Edit-Project Parameters to enter data\r\n"
             "3. File initialized. Use Edit-Project Parameters to enter data\r\n"
             "4. Project Description Modified\r\n");
-  EXPECT_EQ(program.WorkParms.Primary.GradeStd, 690);
-  EXPECT_FALSE(program.FileSaved);
-  EXPECT_FALSE(program.FileEmpty);
-  EXPECT_TRUE(program.UnitsLocked);
+  EXPECT_EQ(program.project.WorkParms.Primary.GradeStd, 690);
+  EXPECT_FALSE(program.project.FileSaved);
+  EXPECT_FALSE(program.project.FileEmpty);
+  EXPECT_TRUE(program.project.UnitsLocked);
 }
 
 TEST_F(ADescriptionDialog, KeepsTheDesignWhenUnitsAreChangedThereAndBack) {
@@ -311,8 +311,8 @@ TEST_F(ADescriptionDialog, KeepsTheDesignWhenUnitsAreChangedThereAndBack) {
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.ProjectTitle, "Panel 3");
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 512.5F);
+  EXPECT_EQ(program.project.ProjectTitle, "Panel 3");
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 512.5F);
 }
 
 // ---- the other commands ---------------------------------------------------------------------------------------------
@@ -326,12 +326,12 @@ TEST_F(ADescriptionDialog, ForgetsEverythingOnCancel) {
   dialog.Command1.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.ProjectTitle, "Panel 3");
-  EXPECT_EQ(program.WorkParms.Units, English);
-  EXPECT_EQ(program.UseAUSStandardTable, 0);
-  EXPECT_TRUE(program.FileSaved);
-  EXPECT_FALSE(program.UnitsLocked);
-  EXPECT_EQ(program.history.Text, "1. Editing Project Description\r\n2. Project Description Not Modified\r\n");
+  EXPECT_EQ(program.project.ProjectTitle, "Panel 3");
+  EXPECT_EQ(program.project.WorkParms.Units, English);
+  EXPECT_EQ(program.project.UseAUSStandardTable, 0);
+  EXPECT_TRUE(program.project.FileSaved);
+  EXPECT_FALSE(program.project.UnitsLocked);
+  EXPECT_EQ(program.session.history.Text, "1. Editing Project Description\r\n2. Project Description Not Modified\r\n");
 }
 
 TEST_F(ADescriptionDialog, TreatsTheWindowsCloseAsCancel) {
@@ -340,8 +340,8 @@ TEST_F(ADescriptionDialog, TreatsTheWindowsCloseAsCancel) {
 
   dialog.Close();
 
-  EXPECT_EQ(program.ProjectTitle, "Panel 3");
-  EXPECT_TRUE(program.FileSaved);
+  EXPECT_EQ(program.project.ProjectTitle, "Panel 3");
+  EXPECT_TRUE(program.project.FileSaved);
 }
 
 TEST_F(ADescriptionDialog, CommitsAndAsksForTheParametersOnNextForm) {
@@ -351,8 +351,8 @@ TEST_F(ADescriptionDialog, CommitsAndAsksForTheParametersOnNextForm) {
   dialog.Command4.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.ProjectTitle, "Panel 4");
-  EXPECT_FALSE(program.FileSaved);
+  EXPECT_EQ(program.project.ProjectTitle, "Panel 4");
+  EXPECT_FALSE(program.project.FileSaved);
   EXPECT_TRUE(dialog.OpensParameters);
 }
 
@@ -381,7 +381,7 @@ TEST_F(ADescriptionDialog, OpensTheHelp) {
 // ---- what starting anew drops ---------------------------------------------------------------------------------------
 
 TEST_F(ADescriptionDialog, KeepsWhatWasTypedAlongWithOtherUnits) {
-  program.folders.ProgramData = "/home/user/Documents/Orby/";
+  program.session.folders.ProgramData = "/home/user/Documents/Orby/";
   dialog.Open();
   dialog.Text1.SetText("Panel 4");
   dialog.Option1.SetValue(NumberOf(Metric), true);
@@ -399,8 +399,8 @@ TEST_F(ADescriptionDialog, KeepsWhatWasTypedAlongWithOtherUnits) {
 }
 
 TEST_F(ADescriptionDialog, KeepsTheUnsavedDesignThatAnotherStrengthWipes) {
-  program.folders.ProgramData = "/home/user/Documents/Orby/";
-  program.FileSaved = false;
+  program.session.folders.ProgramData = "/home/user/Documents/Orby/";
+  program.project.FileSaved = false;
   dialog.Open();
   dialog.Option2.SetValue(1, true);
 
@@ -410,7 +410,7 @@ TEST_F(ADescriptionDialog, KeepsTheUnsavedDesignThatAnotherStrengthWipes) {
 }
 
 TEST_F(ADescriptionDialog, KeepsNothingOfASavedDesignNorWithoutAnotherChoice) {
-  program.folders.ProgramData = "/home/user/Documents/Orby/";
+  program.session.folders.ProgramData = "/home/user/Documents/Orby/";
   dialog.Open();
   dialog.Option1.SetValue(NumberOf(Metric), true);
   dialog.Command2.Press();
@@ -437,7 +437,7 @@ TEST_F(ADescriptionDialog, WarnsOnceOfALineThatWillNotComeBack) {
       "A quotation mark at the start of a line joins everything up to the next quotation mark, and is lost itself.");
   EXPECT_EQ(platform.boxes.shown.front().title, "Message");
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.ProjectDescription, "Headgate\r\n\"weak roof");
+  EXPECT_EQ(program.project.ProjectDescription, "Headgate\r\n\"weak roof");
 
   dialog.Open();
   dialog.Command2.Press();
@@ -467,8 +467,8 @@ TEST_F(ADescriptionDialog, WarnsOfNothingThatIsNotTaken) {
 }
 
 TEST_F(ADescriptionDialog, OffersToPutBackWhatTheFileHasShifted) {
-  program.ProjectTitle = " 0 ";
-  program.ProjectDescription = "Panel 3\r\n##StartDesc##\r\nHeadgate\r\n";
+  program.project.ProjectTitle = " 0 ";
+  program.project.ProjectDescription = "Panel 3\r\n##StartDesc##\r\nHeadgate\r\n";
   dialog.Open();
   ASSERT_TRUE(dialog.cmdPutBack.Visible());
 
@@ -478,9 +478,9 @@ TEST_F(ADescriptionDialog, OffersToPutBackWhatTheFileHasShifted) {
   EXPECT_EQ(dialog.Text2.Text(), "Headgate\r\n");
   EXPECT_FALSE(dialog.cmdPutBack.Visible());
   EXPECT_EQ(dialog.FocusRequest(), &dialog.Text1) << "the button that had the keyboard is hidden";
-  EXPECT_EQ(program.ProjectTitle, " 0 ") << "until OK";
+  EXPECT_EQ(program.project.ProjectTitle, " 0 ") << "until OK";
   dialog.Command2.Press();
-  EXPECT_EQ(program.ProjectTitle, "Panel 3");
+  EXPECT_EQ(program.project.ProjectTitle, "Panel 3");
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 

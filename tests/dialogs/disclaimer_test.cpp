@@ -14,7 +14,7 @@ using testing::IsEmpty;
 const std::string IniPath = "/home/user/Documents/Orby/ORBY.INI";
 
 struct ADisclaimer : testing::Test {
-  ADisclaimer() { program.IniFilePath = IniPath; }
+  ADisclaimer() { program.session.IniFilePath = IniPath; }
 
   RecordingPlatform platform;
   Program program{platform.Doors()};
@@ -35,11 +35,11 @@ TEST_F(ADisclaimer, TellsThatThereIsNoWarrantyAndWhoDecides) {
 }
 
 TEST_F(ADisclaimer, ShowsWhetherItComesUpAtTheStart) {
-  program.settings.ShowDisclaim = 0;
+  program.session.settings.ShowDisclaim = 0;
   dialog.Open();
   EXPECT_FALSE(dialog.chkShow.Checked());
 
-  program.settings.ShowDisclaim = 1;
+  program.session.settings.ShowDisclaim = 1;
   Disclaimer other(program);
   other.Open();
   EXPECT_TRUE(other.chkShow.Checked());
@@ -52,7 +52,7 @@ TEST_F(ADisclaimer, StoresOnceItIsAcceptedWhetherItIsToComeUpAgain) {
   dialog.Command1.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.settings.ShowDisclaim, 0);
+  EXPECT_EQ(program.session.settings.ShowDisclaim, 0);
   EXPECT_THAT(platform.files.files[IniPath], HasSubstr("[Settings]\r\n"));
   EXPECT_THAT(platform.files.files[IniPath], HasSubstr("ShowDisclaim=0\r\n"));
 }
@@ -88,7 +88,7 @@ TEST_F(ADisclaimer, StoresNothingWhenItIsRefusedInAProgramThatGoesOn) {
   dialog.cmdNoAccept.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.settings.ShowDisclaim, 1);
+  EXPECT_EQ(program.session.settings.ShowDisclaim, 1);
   EXPECT_THAT(platform.files.created, IsEmpty());
 }
 

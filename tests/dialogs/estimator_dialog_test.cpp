@@ -15,8 +15,8 @@ using testing::IsEmpty;
 
 struct AnEstimator : testing::Test {
   void OpenOn(Integer region, Integer rockType) {
-    program.estimator.EstimatorRegion = region;
-    program.estimator.EstimatorRockType = rockType;
+    program.windows.estimator.EstimatorRegion = region;
+    program.windows.estimator.EstimatorRockType = rockType;
     dialog.Open();
   }
 
@@ -115,10 +115,10 @@ TEST_F(AnEstimator, FlagsTheLastRowOfEveryCoalfieldAndNoOther) {
     const int manualRow = manualRows[static_cast<std::size_t>(region)];
     for (int row = 0; row < manualRow; ++row) {
       dialog.VSFlexGrid1.ClickRow(row);
-      EXPECT_FALSE(program.estimator.EstimatorManual) << region << ' ' << row;
+      EXPECT_FALSE(program.windows.estimator.EstimatorManual) << region << ' ' << row;
     }
     dialog.VSFlexGrid1.ClickRow(manualRow);
-    EXPECT_TRUE(program.estimator.EstimatorManual) << region;
+    EXPECT_TRUE(program.windows.estimator.EstimatorManual) << region;
   }
 }
 
@@ -160,7 +160,7 @@ TEST_F(AnEstimator, NamesItselfItsCoalfieldsAndItsCommands) {
 }
 
 TEST_F(AnEstimator, ShowsAManualRatingThatIsStoredInTheLastRowOnly) {
-  program.estimator.EstimatorManualValue = 52;
+  program.windows.estimator.EstimatorManualValue = 52;
   OpenOn(4, 6);
 
   EXPECT_THAT(Column(2), ElementsAre("40", "45", "55", "55", "65", "45", "52"));
@@ -175,7 +175,7 @@ TEST_F(AnEstimator, OpensOnTheRockTypeChosenLast) {
   EXPECT_EQ(GetArrayIndex(dialog.optLocation), 2);
   EXPECT_EQ(dialog.VSFlexGrid1.Row(), 5);
   EXPECT_EQ(dialog.txtCMRR.Text(), "65");
-  EXPECT_FALSE(program.estimator.EstimatorManual);
+  EXPECT_FALSE(program.windows.estimator.EstimatorManual);
   EXPECT_FALSE(dialog.HoldEvents);
 }
 
@@ -183,15 +183,15 @@ TEST_F(AnEstimator, OpensOnTheManualRowWhenThatWasChosenLast) {
   OpenOn(0, 7);
 
   EXPECT_EQ(dialog.txtCMRR.Text(), "38");
-  EXPECT_TRUE(program.estimator.EstimatorManual);
+  EXPECT_TRUE(program.windows.estimator.EstimatorManual);
 }
 
 TEST_F(AnEstimator, ForgetsTheManualRowOfAnotherDesignWhenItOpens) {
-  program.estimator.EstimatorManual = true;
+  program.windows.estimator.EstimatorManual = true;
 
   OpenOn(0, 2);
 
-  EXPECT_FALSE(program.estimator.EstimatorManual);
+  EXPECT_FALSE(program.windows.estimator.EstimatorManual);
 }
 
 TEST_F(AnEstimator, TellsTheHistoryThatItOpensAndClearsTheCursor) {
@@ -199,8 +199,8 @@ TEST_F(AnEstimator, TellsTheHistoryThatItOpensAndClearsTheCursor) {
 
   OpenOn(0, 0);
 
-  EXPECT_EQ(program.history.Text, "1. Editing Project Description\r\n");
-  EXPECT_EQ(program.titles.RangeErrorTitle, "Project Description: Range Error");
+  EXPECT_EQ(program.session.history.Text, "1. Editing Project Description\r\n");
+  EXPECT_EQ(program.windows.titles.RangeErrorTitle, "Project Description: Range Error");
   EXPECT_EQ(platform.windows.centered, 1);
   EXPECT_FALSE(platform.windows.waitCursor);
 }
@@ -208,14 +208,14 @@ TEST_F(AnEstimator, TellsTheHistoryThatItOpensAndClearsTheCursor) {
 TEST_F(AnEstimator, OpensOnTheFirstRowWhenTheStoredOneIsNotInTheGrid) {
   for (const Integer rockType : {Integer{7}, Integer{8}, Integer{-1}, Integer{32767}}) {
     EstimatorDialog other(program);
-    program.estimator.EstimatorRegion = 5;
-    program.estimator.EstimatorRockType = rockType;
+    program.windows.estimator.EstimatorRegion = 5;
+    program.windows.estimator.EstimatorRockType = rockType;
 
     other.Open();
 
     EXPECT_EQ(other.VSFlexGrid1.Row(), 0) << rockType;
     EXPECT_EQ(other.txtCMRR.Text(), "35") << rockType;
-    EXPECT_FALSE(program.estimator.EstimatorManual) << rockType;
+    EXPECT_FALSE(program.windows.estimator.EstimatorManual) << rockType;
   }
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
@@ -224,7 +224,7 @@ TEST_F(AnEstimator, TellsOfACoalfieldThatDoesNotExistAndFails) {
   for (const Integer region : {Integer{6}, Integer{-1}}) {
     EstimatorDialog other(program);
     platform.boxes.shown.clear();
-    program.estimator.EstimatorRegion = region;
+    program.windows.estimator.EstimatorRegion = region;
 
     EXPECT_EQ(ErrorNumberOf([&other] { other.Open(); }), 9) << region;
 
@@ -242,7 +242,7 @@ TEST_F(AnEstimator, GoesToTheRockOfTheSameNameInAnotherCoalfield) {
   dialog.optLocation.SetValue(4, true);
   EXPECT_EQ(dialog.VSFlexGrid1.Row(), 3);
   EXPECT_EQ(dialog.txtCMRR.Text(), "55");
-  EXPECT_FALSE(program.estimator.EstimatorManual);
+  EXPECT_FALSE(program.windows.estimator.EstimatorManual);
 
   dialog.optLocation.SetValue(1, true);
   EXPECT_EQ(dialog.VSFlexGrid1.Row(), 4);
@@ -255,7 +255,7 @@ TEST_F(AnEstimator, GoesToTheUnknownRoofWhereTheCoalfieldLacksTheRock) {
   dialog.optLocation.SetValue(5, true);
   EXPECT_EQ(dialog.VSFlexGrid1.Row(), 5);
   EXPECT_EQ(dialog.txtCMRR.Text(), "35");
-  EXPECT_FALSE(program.estimator.EstimatorManual);
+  EXPECT_FALSE(program.windows.estimator.EstimatorManual);
 
   dialog.optLocation.SetValue(1, true);
   EXPECT_EQ(dialog.VSFlexGrid1.Row(), 6) << "unknown stays unknown";
@@ -268,15 +268,15 @@ TEST_F(AnEstimator, KeepsTheManualSettingInAnotherCoalfield) {
   dialog.optLocation.SetValue(4, true);
   EXPECT_EQ(dialog.VSFlexGrid1.Row(), 6);
   EXPECT_EQ(dialog.txtCMRR.Text(), "45");
-  EXPECT_TRUE(program.estimator.EstimatorManual);
+  EXPECT_TRUE(program.windows.estimator.EstimatorManual);
 
   dialog.optLocation.SetValue(3, true);
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.estimator.EstimatorRegion, 3);
-  EXPECT_EQ(program.estimator.EstimatorRockType, 7);
-  EXPECT_EQ(program.estimator.EstimatedCMRR, 35);
-  EXPECT_TRUE(program.estimator.EstimatorManual);
+  EXPECT_EQ(program.windows.estimator.EstimatorRegion, 3);
+  EXPECT_EQ(program.windows.estimator.EstimatorRockType, 7);
+  EXPECT_EQ(program.windows.estimator.EstimatedCMRR, 35);
+  EXPECT_TRUE(program.windows.estimator.EstimatorManual);
 }
 
 TEST_F(AnEstimator, RatesTheRowAnewThatHappensToBeTheSame) {
@@ -308,8 +308,8 @@ TEST_F(AnEstimator, RefusesAClickOutsideItsRows) {
 // ---- OK and Cancel --------------------------------------------------------------------------------------------------
 
 TEST_F(AnEstimator, HandsOutRatingCoalfieldAndRockTypeOnOk) {
-  program.FileSaved = true;
-  program.FileEmpty = true;
+  program.project.FileSaved = true;
+  program.project.FileEmpty = true;
   OpenOn(0, 0);
   dialog.optLocation.SetValue(3, true);
   dialog.VSFlexGrid1.ClickRow(4);
@@ -318,32 +318,32 @@ TEST_F(AnEstimator, HandsOutRatingCoalfieldAndRockTypeOnOk) {
 
   EXPECT_FALSE(dialog.IsOpen());
   EXPECT_TRUE(dialog.CommitOnClose);
-  EXPECT_EQ(program.estimator.EstimatedCMRR, 50);
-  EXPECT_EQ(program.estimator.EstimatorRegion, 3);
-  EXPECT_EQ(program.estimator.EstimatorRockType, 4);
-  EXPECT_FALSE(program.estimator.EstimatorManual);
-  EXPECT_FALSE(program.FileSaved);
-  EXPECT_FALSE(program.FileEmpty);
-  EXPECT_EQ(program.history.Text, "1. Editing Project Description\r\n2. CMRR Form Modified\r\n");
+  EXPECT_EQ(program.windows.estimator.EstimatedCMRR, 50);
+  EXPECT_EQ(program.windows.estimator.EstimatorRegion, 3);
+  EXPECT_EQ(program.windows.estimator.EstimatorRockType, 4);
+  EXPECT_FALSE(program.windows.estimator.EstimatorManual);
+  EXPECT_FALSE(program.project.FileSaved);
+  EXPECT_FALSE(program.project.FileEmpty);
+  EXPECT_EQ(program.session.history.Text, "1. Editing Project Description\r\n2. CMRR Form Modified\r\n");
 }
 
 TEST_F(AnEstimator, LeavesTheDesignItselfToTheDialogThatAsked) {
-  program.WorkParms.Place.CMRR = 42;
-  program.WorkParms.Place.CMRRRegionIndex = 1;
-  program.WorkParms.Place.CMRRRockTypeIndex = 2;
+  program.project.WorkParms.Place.CMRR = 42;
+  program.project.WorkParms.Place.CMRRRegionIndex = 1;
+  program.project.WorkParms.Place.CMRRRockTypeIndex = 2;
   OpenOn(1, 2);
   dialog.VSFlexGrid1.ClickRow(5);
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.Place.CMRR, 42);
-  EXPECT_EQ(program.WorkParms.Place.CMRRRegionIndex, 1);
-  EXPECT_EQ(program.WorkParms.Place.CMRRRockTypeIndex, 2);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRR, 42);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRRRegionIndex, 1);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRRRockTypeIndex, 2);
 }
 
 TEST_F(AnEstimator, LeavesTheEstimateAsItWasOnCancel) {
-  program.FileSaved = true;
-  program.FileEmpty = true;
+  program.project.FileSaved = true;
+  program.project.FileEmpty = true;
   OpenOn(1, 1);
   dialog.optLocation.SetValue(3, true);
   dialog.VSFlexGrid1.ClickRow(5);
@@ -352,11 +352,11 @@ TEST_F(AnEstimator, LeavesTheEstimateAsItWasOnCancel) {
 
   EXPECT_FALSE(dialog.IsOpen());
   EXPECT_FALSE(dialog.CommitOnClose);
-  EXPECT_EQ(program.estimator.EstimatedCMRR, 0);
-  EXPECT_EQ(program.estimator.EstimatorRegion, 1);
-  EXPECT_EQ(program.estimator.EstimatorRockType, 1);
-  EXPECT_TRUE(program.FileSaved);
-  EXPECT_TRUE(program.FileEmpty);
+  EXPECT_EQ(program.windows.estimator.EstimatedCMRR, 0);
+  EXPECT_EQ(program.windows.estimator.EstimatorRegion, 1);
+  EXPECT_EQ(program.windows.estimator.EstimatorRockType, 1);
+  EXPECT_TRUE(program.project.FileSaved);
+  EXPECT_TRUE(program.project.FileEmpty);
 }
 
 TEST_F(AnEstimator, IsLoggedAsModifiedEvenOnCancel) {
@@ -364,7 +364,7 @@ TEST_F(AnEstimator, IsLoggedAsModifiedEvenOnCancel) {
 
   dialog.Command1.Press();
 
-  EXPECT_EQ(program.history.Text, "1. Editing Project Description\r\n2. CMRR Form Modified\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. Editing Project Description\r\n2. CMRR Form Modified\r\n");
 }
 
 TEST_F(AnEstimator, TreatsTheWindowsCloseAsCancel) {
@@ -374,8 +374,8 @@ TEST_F(AnEstimator, TreatsTheWindowsCloseAsCancel) {
   dialog.Close();
 
   EXPECT_FALSE(dialog.CommitOnClose);
-  EXPECT_EQ(program.estimator.EstimatedCMRR, 0);
-  EXPECT_EQ(program.estimator.EstimatorRockType, 0);
+  EXPECT_EQ(program.windows.estimator.EstimatedCMRR, 0);
+  EXPECT_EQ(program.windows.estimator.EstimatorRockType, 0);
 }
 
 TEST_F(AnEstimator, OpensTheHelp) {

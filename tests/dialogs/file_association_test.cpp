@@ -38,7 +38,7 @@ TEST_F(FileAssociation, ChangesNothingOnNo) {
 }
 
 TEST_F(FileAssociation, HandsTheDesktopTheExtensionAsItWasTyped) {
-  program.settings.FileExtension = "Orb";
+  program.session.settings.FileExtension = "Orb";
   platform.boxes.answers = {box_result::Yes};
 
   AssociateFileExtension(program);
@@ -55,7 +55,7 @@ TEST_F(FileAssociation, TellsWhatItHasDone) {
   EXPECT_EQ(platform.boxes.Texts().back(),
             "The ORB file extensions has been associated to /program/\r\n\r\nNote: if order for this function to be "
             "successfully completed the user needs to have access to the registry");
-  EXPECT_THAT(program.history.Text, HasSubstr("The ORB file extensions has been associated to /program/\r\n"));
+  EXPECT_THAT(program.session.history.Text, HasSubstr("The ORB file extensions has been associated to /program/\r\n"));
 }
 
 TEST_F(FileAssociation, ShowsThatTheUserHasToWaitUntilItIsDone) {

@@ -107,7 +107,7 @@ TEST_F(AFontChoice, IsForgottenByCancel) {
 }
 
 TEST_F(AFontChoice, RefusesASizeOutsideItsRange) {
-  program.titles.RangeErrorTitle = "Settings: Range Error";
+  program.windows.titles.RangeErrorTitle = "Settings: Range Error";
   dialog.Open();
 
   for (const char* size : {"6", "25", ""}) {

@@ -11,12 +11,12 @@ namespace orby::test {
 
 struct GraphBench : testing::Test {
   GraphBench() {
-    program.folders.ProgramTemporary = "/tmp/orby/";
-    program.IniFilePath = "/home/user/ORBY.INI";
+    program.session.folders.ProgramTemporary = "/tmp/orby/";
+    program.session.IniFilePath = "/home/user/ORBY.INI";
     // Suggested PSUP over depths of cover; the last column is an empty one.
-    program.curve.CurvePoints[0] = {200, 240, 280.5F, 0};
-    program.curve.CurvePoints[1] = {3.25F, 4.125F, 5.005F, 0};
-    program.curve.CurvePointCount = 3;
+    program.windows.curve.CurvePoints[0] = {200, 240, 280.5F, 0};
+    program.windows.curve.CurvePoints[1] = {3.25F, 4.125F, 5.005F, 0};
+    program.windows.curve.CurvePointCount = 3;
   }
 
   const ChartSeries& Drawn() const { return window.graph1.Series().front(); }

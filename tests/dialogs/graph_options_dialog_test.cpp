@@ -19,11 +19,11 @@ constexpr int LastUsedFormat = 1;
 // The rock load over the entry width is on view, in a format of the user's own.
 struct GraphFormat : GraphBench {
   GraphFormat() {
-    program.graph.GraphSetParams = LastUsedFormat;
-    program.graph.GraphTitle = "Panel 3";
+    program.session.graph.GraphSetParams = LastUsedFormat;
+    program.session.graph.GraphTitle = "Panel 3";
     window.ShowCurve(5);
-    program.graph.XAxisTitle[5] = "Width of the entry";
-    program.graph.YAxisTitle[1] = "Load";
+    program.session.graph.XAxisTitle[5] = "Width of the entry";
+    program.session.graph.YAxisTitle[1] = "Load";
   }
 
   std::vector<std::string> ItemsOf(const Combo& list) const {
@@ -75,10 +75,10 @@ TEST_F(GraphFormat, NamesItselfItsFieldsAndItsCommands) {
 }
 
 TEST_F(GraphFormat, ShowsWhatIsStored) {
-  program.graph.GridStyle = 2;
-  program.graph.GraphStyle = 2;
-  program.graph.CurveLegend = 0;
-  program.graph.SymbolSize = 11;
+  program.session.graph.GridStyle = 2;
+  program.session.graph.GraphStyle = 2;
+  program.session.graph.CurveLegend = 0;
+  program.session.graph.SymbolSize = 11;
 
   dialog.Open();
 
@@ -103,7 +103,7 @@ TEST_F(GraphFormat, OffersTheStylesInOrder) {
 }
 
 TEST_F(GraphFormat, OfLinesOnlyIsTheFirstStyleOfItsList) {
-  program.graph.GraphStyle = 1;
+  program.session.graph.GraphStyle = 1;
 
   dialog.Open();
 
@@ -118,12 +118,12 @@ TEST_F(GraphFormat, ShowsTheTitlesOfTheCurveOnView) {
 }
 
 TEST_F(GraphFormat, SetsTheTitlesOfItsMessages) {
-  program.titles.ErrorTitle = "Project Parameters: Error";
+  program.windows.titles.ErrorTitle = "Project Parameters: Error";
   platform.windows.waitCursor = true;
 
   dialog.Open();
 
-  EXPECT_EQ(program.titles.ErrorTitle, "Error");
+  EXPECT_EQ(program.windows.titles.ErrorTitle, "Error");
   EXPECT_FALSE(platform.windows.waitCursor);
 }
 
@@ -142,9 +142,9 @@ TEST_F(GraphFormat, DefaultActsAtOnce) {
 
   dialog.Option1.SetValue(DefaultFormat, true);
 
-  EXPECT_EQ(program.graph.GraphSetParams, 0);
-  EXPECT_EQ(program.graph.XAxisTitle[5], "Entry Width (ft)");
-  EXPECT_EQ(program.graph.YAxisTitle[1], "Rock Load Entries (tons/ft)");
+  EXPECT_EQ(program.session.graph.GraphSetParams, 0);
+  EXPECT_EQ(program.session.graph.XAxisTitle[5], "Entry Width (ft)");
+  EXPECT_EQ(program.session.graph.YAxisTitle[1], "Rock Load Entries (tons/ft)");
   EXPECT_EQ(dialog.Text1.Text(), "Panel 3");
   EXPECT_EQ(dialog.Text2[5].Text(), "Entry Width (ft)");
   EXPECT_EQ(dialog.Text3[1].Text(), "Rock Load Entries (tons/ft)");
@@ -162,13 +162,13 @@ TEST_F(GraphFormat, DefaultCannotBeEdited) {
 }
 
 TEST_F(GraphFormat, DefaultTakesHoldWhenTheDialogOpensOnIt) {
-  program.graph.GraphSetParams = DefaultFormat;
+  program.session.graph.GraphSetParams = DefaultFormat;
 
   dialog.Open();
 
   EXPECT_TRUE(dialog.Option1.Value(DefaultFormat));
   EXPECT_EQ(dialog.Text2[5].Text(), "Entry Width (ft)");
-  EXPECT_EQ(program.graph.XAxisTitle[5], "Entry Width (ft)");
+  EXPECT_EQ(program.session.graph.XAxisTitle[5], "Entry Width (ft)");
   EXPECT_THAT(EditingEnabled(), Each(false));
 }
 
@@ -178,8 +178,8 @@ TEST_F(GraphFormat, DefaultStaysInForceAfterCancel) {
 
   dialog.Command1.Press();
 
-  EXPECT_EQ(program.graph.GraphSetParams, 0);
-  EXPECT_EQ(program.graph.XAxisTitle[5], "Entry Width (ft)");
+  EXPECT_EQ(program.session.graph.GraphSetParams, 0);
+  EXPECT_EQ(program.session.graph.XAxisTitle[5], "Entry Width (ft)");
   EXPECT_FALSE(platform.files.files.contains("/home/user/ORBY.INI"));
 }
 
@@ -192,7 +192,7 @@ TEST_F(GraphFormat, LastUsedAfterDefaultKeepsWhatTheFieldsShow) {
   EXPECT_EQ(dialog.Text2[5].Text(), "Entry Width (ft)");
   EXPECT_THAT(EditingEnabled(), Each(true));
   EXPECT_TRUE(dialog.HScroll1.Enabled());
-  EXPECT_EQ(program.graph.GraphSetParams, 0);
+  EXPECT_EQ(program.session.graph.GraphSetParams, 0);
 }
 
 TEST_F(GraphFormat, OfLinesOnlyHasNoSymbolSizeToChoose) {
@@ -212,7 +212,7 @@ TEST_F(GraphFormat, OfLinesOnlyHasNoSymbolSizeToChoose) {
 }
 
 TEST_F(GraphFormat, OfLinesOnlyHasNoSymbolSizeToChooseWhenLastUsedIsChosenAgain) {
-  program.graph.GraphStyle = 1;
+  program.session.graph.GraphStyle = 1;
   dialog.Open();
   dialog.Option1.SetValue(DefaultFormat, true);
 
@@ -223,14 +223,14 @@ TEST_F(GraphFormat, OfLinesOnlyHasNoSymbolSizeToChooseWhenLastUsedIsChosenAgain)
 }
 
 TEST_F(GraphFormat, OfLinesOnlyKeepsTheStoredSymbolSize) {
-  program.graph.SymbolSize = 14;
+  program.session.graph.SymbolSize = 14;
   dialog.Open();
 
   dialog.Combo2.SetListIndex(0);
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.graph.GraphStyle, 1);
-  EXPECT_EQ(program.graph.SymbolSize, 14);
+  EXPECT_EQ(program.session.graph.GraphStyle, 1);
+  EXPECT_EQ(program.session.graph.SymbolSize, 14);
 }
 
 TEST_F(GraphFormat, ShowsTheSymbolSizeBesideItsSlider) {
@@ -271,14 +271,14 @@ TEST_F(GraphFormat, IsStoredWithOK) {
   dialog.Command2.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.graph.GraphSetParams, 1);
-  EXPECT_EQ(program.graph.GraphTitle, "Tailgate");
-  EXPECT_EQ(program.graph.XAxisTitle[5], "Span of the entry");
-  EXPECT_EQ(program.graph.YAxisTitle[1], "Weight of the rock");
-  EXPECT_EQ(program.graph.GridStyle, 1);
-  EXPECT_EQ(program.graph.GraphStyle, 2);
-  EXPECT_EQ(program.graph.CurveLegend, 0);
-  EXPECT_EQ(program.graph.SymbolSize, 10);
+  EXPECT_EQ(program.session.graph.GraphSetParams, 1);
+  EXPECT_EQ(program.session.graph.GraphTitle, "Tailgate");
+  EXPECT_EQ(program.session.graph.XAxisTitle[5], "Span of the entry");
+  EXPECT_EQ(program.session.graph.YAxisTitle[1], "Weight of the rock");
+  EXPECT_EQ(program.session.graph.GridStyle, 1);
+  EXPECT_EQ(program.session.graph.GraphStyle, 2);
+  EXPECT_EQ(program.session.graph.CurveLegend, 0);
+  EXPECT_EQ(program.session.graph.SymbolSize, 10);
 }
 
 TEST_F(GraphFormat, WithOKEntersTheConfiguration) {
@@ -291,7 +291,7 @@ TEST_F(GraphFormat, WithOKEntersTheConfiguration) {
   EXPECT_THAT(written, HasSubstr("[Graph]"));
   EXPECT_THAT(written, HasSubstr("Tailgate"));
   EXPECT_THAT(written, Not(HasSubstr("[Settings]")));
-  EXPECT_EQ(program.history.Text, "1. Saving default settings to file: /home/user/ORBY.INI\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. Saving default settings to file: /home/user/ORBY.INI\r\n");
 }
 
 TEST_F(GraphFormat, LeavesTheTitlesOfOtherCurvesAlone) {
@@ -301,11 +301,12 @@ TEST_F(GraphFormat, LeavesTheTitlesOfOtherCurvesAlone) {
   dialog.Text2[4].SetText("Height of the fall");
   dialog.Command2.Press();
 
-  EXPECT_THAT(program.graph.XAxisTitle,
+  EXPECT_THAT(program.session.graph.XAxisTitle,
               ElementsAre("CMRR", "Depth of Cover (ft)", "Stability Factor", "Sum of Diagonals (ft)",
                           "Height of the fall", "Width of the entry", "Roof Fall Angle (deg)", "Rock Load Height (ft)",
                           "Sum of Diagonals (ft)", "Roof Fall Angle (deg)"));
-  EXPECT_THAT(program.graph.YAxisTitle, ElementsAre("Suggested PSUP", "Load", "Rock Load Intersections (tons)"));
+  EXPECT_THAT(program.session.graph.YAxisTitle,
+              ElementsAre("Suggested PSUP", "Load", "Rock Load Intersections (tons)"));
 }
 
 TEST_F(GraphFormat, ReachesTheOpenChartWithOK) {
@@ -331,7 +332,7 @@ TEST_F(GraphFormat, EntersTheConfigurationBeforeItReachesTheChart) {
   EditEveryField(dialog);
   std::vector<std::string> headings;
   std::vector<std::string> legends;
-  program.history.Changed = [&] {
+  program.session.history.Changed = [&] {
     headings.push_back(window.graph1.Heading());
     legends.push_back(Drawn().legend);
   };
@@ -354,7 +355,7 @@ TEST_F(GraphFormat, RenamesARockLoadInTheLegendUntilTheCurveIsDrawnAnew) {
 }
 
 TEST_F(GraphFormat, NumbersTheRockLoadsOfSeveralSeries) {
-  program.curve.CurveCount = 2;
+  program.windows.curve.CurveCount = 2;
   window.DrawCurve();
   dialog.Open();
 
@@ -382,9 +383,9 @@ TEST_F(GraphFormat, CancelledStoresNothing) {
   dialog.Command1.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.graph.GraphTitle, "Panel 3");
-  EXPECT_EQ(program.graph.GridStyle, 3);
-  EXPECT_EQ(program.graph.SymbolSize, 6);
+  EXPECT_EQ(program.session.graph.GraphTitle, "Panel 3");
+  EXPECT_EQ(program.session.graph.GridStyle, 3);
+  EXPECT_EQ(program.session.graph.SymbolSize, 6);
   EXPECT_EQ(window.graph1.Heading(), "Panel 3");
   EXPECT_EQ(Drawn().legend, "Rock Load Straights");
   EXPECT_FALSE(platform.files.files.contains("/home/user/ORBY.INI"));

@@ -20,60 +20,60 @@ struct AGraph : testing::Test {
 TEST_F(AGraph, NamesItsAxesInEnglishUnits) {
   ComposeAxisTitles(program);
 
-  EXPECT_THAT(program.graph.XAxisTitle,
+  EXPECT_THAT(program.session.graph.XAxisTitle,
               ElementsAre("CMRR", "Depth of Cover (ft)", "Stability Factor", "Sum of Diagonals (ft)",
                           "Rock Load Height (ft)", "Entry Width (ft)", "Roof Fall Angle (deg)", "Rock Load Height (ft)",
                           "Sum of Diagonals (ft)", "Roof Fall Angle (deg)"));
-  EXPECT_THAT(program.graph.YAxisTitle,
+  EXPECT_THAT(program.session.graph.YAxisTitle,
               ElementsAre("Suggested PSUP", "Rock Load Entries (tons/ft)", "Rock Load Intersections (tons)"));
-  EXPECT_EQ(program.graph.GraphUnits, English);
+  EXPECT_EQ(program.session.graph.GraphUnits, English);
 }
 
 TEST_F(AGraph, NamesItsAxesInMetricUnits) {
-  program.WorkParms.Units = Metric;
+  program.project.WorkParms.Units = Metric;
 
   ComposeAxisTitles(program);
 
-  EXPECT_THAT(program.graph.XAxisTitle,
+  EXPECT_THAT(program.session.graph.XAxisTitle,
               ElementsAre("CMRR", "Depth of Cover (m)", "Stability Factor", "Sum of Diagonals (m)",
                           "Rock Load Height (m)", "Entry Width (m)", "Roof Fall Angle (deg)", "Rock Load Height (m)",
                           "Sum of Diagonals (m)", "Roof Fall Angle (deg)"));
-  EXPECT_THAT(program.graph.YAxisTitle,
+  EXPECT_THAT(program.session.graph.YAxisTitle,
               ElementsAre("Suggested PSUP", "Rock Load Entries (kN/m)", "Rock Load Intersections (kN)"));
-  EXPECT_EQ(program.graph.GraphUnits, Metric);
+  EXPECT_EQ(program.session.graph.GraphUnits, Metric);
 }
 
 TEST_F(AGraph, KeepsTheTitlesOfItsOwnUnits) {
-  program.graph.XAxisTitle.fill("Cover above the seam");
-  program.graph.YAxisTitle.fill("Load");
+  program.session.graph.XAxisTitle.fill("Cover above the seam");
+  program.session.graph.YAxisTitle.fill("Load");
 
   PrepareAxisTitles(program, 1);
 
-  EXPECT_THAT(program.graph.XAxisTitle, Each("Cover above the seam"));
-  EXPECT_THAT(program.graph.YAxisTitle, Each("Load"));
+  EXPECT_THAT(program.session.graph.XAxisTitle, Each("Cover above the seam"));
+  EXPECT_THAT(program.session.graph.YAxisTitle, Each("Load"));
 }
 
 TEST_F(AGraph, NamesAllAxesWhenTheCurveHasNoTitle) {
-  program.graph.XAxisTitle.fill("Cover above the seam");
-  program.graph.XAxisTitle[4].clear();
+  program.session.graph.XAxisTitle.fill("Cover above the seam");
+  program.session.graph.XAxisTitle[4].clear();
 
   PrepareAxisTitles(program, 4);
 
-  EXPECT_EQ(program.graph.XAxisTitle[4], "Rock Load Height (ft)");
-  EXPECT_EQ(program.graph.XAxisTitle[1], "Depth of Cover (ft)");
+  EXPECT_EQ(program.session.graph.XAxisTitle[4], "Rock Load Height (ft)");
+  EXPECT_EQ(program.session.graph.XAxisTitle[1], "Depth of Cover (ft)");
 }
 
 TEST_F(AGraph, NamesAllAxesAnewInTheOtherUnits) {
-  program.graph.XAxisTitle.fill("Cover above the seam");
-  program.graph.GraphUnits = English;
-  program.WorkParms.Units = Metric;
+  program.session.graph.XAxisTitle.fill("Cover above the seam");
+  program.session.graph.GraphUnits = English;
+  program.project.WorkParms.Units = Metric;
 
   PrepareAxisTitles(program, 1);
 
-  EXPECT_EQ(program.graph.XAxisTitle[1], "Depth of Cover (m)");
-  EXPECT_EQ(program.graph.XAxisTitle[5], "Entry Width (m)");
-  EXPECT_EQ(program.graph.YAxisTitle[2], "Rock Load Intersections (kN)");
-  EXPECT_EQ(program.graph.GraphUnits, Metric);
+  EXPECT_EQ(program.session.graph.XAxisTitle[1], "Depth of Cover (m)");
+  EXPECT_EQ(program.session.graph.XAxisTitle[5], "Entry Width (m)");
+  EXPECT_EQ(program.session.graph.YAxisTitle[2], "Rock Load Intersections (kN)");
+  EXPECT_EQ(program.session.graph.GraphUnits, Metric);
 }
 
 TEST_F(AGraph, HasNoTitleForACurveThatDoesNotExist) {

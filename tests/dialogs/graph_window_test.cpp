@@ -54,15 +54,15 @@ TEST_F(GraphOfACurve, OpensWithoutTheReadOutAndComesToTheFront) {
   EXPECT_THAT(platform.windows.shown, ElementsAre(&window));
   EXPECT_FALSE(window.Frame1.Visible());
   EXPECT_FALSE(window.GraphOptionsItem.ItemChecked(PointID));
-  EXPECT_EQ(program.curve.CurveIndex, 1);
-  EXPECT_EQ(program.curve.CurveCount, 1);
-  EXPECT_FALSE(program.curve.GraphClosed);
+  EXPECT_EQ(program.windows.curve.CurveIndex, 1);
+  EXPECT_EQ(program.windows.curve.CurveCount, 1);
+  EXPECT_FALSE(program.windows.curve.GraphClosed);
 }
 
 TEST_F(GraphOfACurve, TakesAnotherCurveWhileItIsOpen) {
   window.ShowCurve(1);
   window.GraphOptionsItem.ClickItem(PointID);
-  program.curve.CurvePoints[1] = {12, 14, 16, 0};
+  program.windows.curve.CurvePoints[1] = {12, 14, 16, 0};
 
   window.ShowCurve(5);
 
@@ -79,12 +79,12 @@ TEST_F(GraphOfACurve, FailsForACurveThatDoesNotExistAndStaysAsItWas) {
   EXPECT_EQ(ErrorNumberOf([&] { window.ShowCurve(10); }), 9);
   EXPECT_EQ(ErrorNumberOf([&] { window.ShowCurve(-1); }), 9);
 
-  EXPECT_EQ(program.curve.CurveIndex, 3);
+  EXPECT_EQ(program.windows.curve.CurveIndex, 3);
   EXPECT_EQ(window.graph1.AxisX().title, "Sum of Diagonals (ft)");
 }
 
 TEST_F(GraphOfACurve, IsHeadedByTheTitleOfTheGraph) {
-  program.graph.GraphTitle = "Panel 3, tailgate";
+  program.session.graph.GraphTitle = "Panel 3, tailgate";
 
   window.ShowCurve(1);
 
@@ -92,8 +92,8 @@ TEST_F(GraphOfACurve, IsHeadedByTheTitleOfTheGraph) {
 }
 
 TEST_F(GraphOfACurve, KeepsTitlesOfTheUnitsThatTheyWereComposedIn) {
-  program.graph.XAxisTitle[1] = "Cover above the seam";
-  program.graph.YAxisTitle[0] = "PSUP, suggested";
+  program.session.graph.XAxisTitle[1] = "Cover above the seam";
+  program.session.graph.YAxisTitle[0] = "PSUP, suggested";
 
   window.ShowCurve(1);
 
@@ -103,15 +103,15 @@ TEST_F(GraphOfACurve, KeepsTitlesOfTheUnitsThatTheyWereComposedIn) {
 
 TEST_F(GraphOfACurve, InMetricAfterOneInEnglishNamesAllAxesAnew) {
   window.ShowCurve(4);
-  program.WorkParms.Units = Metric;
+  program.project.WorkParms.Units = Metric;
 
   window.ShowCurve(7);
 
   EXPECT_EQ(window.graph1.AxisX().title, "Rock Load Height (m)");
   EXPECT_EQ(window.graph1.AxisY().title, "Rock Load Intersections (kN)");
-  EXPECT_EQ(program.graph.XAxisTitle[1], "Depth of Cover (m)");
-  EXPECT_EQ(program.graph.YAxisTitle[1], "Rock Load Entries (kN/m)");
-  EXPECT_EQ(program.graph.GraphUnits, Metric);
+  EXPECT_EQ(program.session.graph.XAxisTitle[1], "Depth of Cover (m)");
+  EXPECT_EQ(program.session.graph.YAxisTitle[1], "Rock Load Entries (kN/m)");
+  EXPECT_EQ(program.session.graph.GraphUnits, Metric);
 }
 
 TEST_F(GraphOfACurve, HasTheGridLinesOfItsStyle) {
@@ -121,7 +121,7 @@ TEST_F(GraphOfACurve, HasTheGridLinesOfItsStyle) {
     bool y;
   };
   for (const Row& row : {Row{0, false, false}, Row{1, false, true}, Row{2, true, false}, Row{3, true, true}}) {
-    program.graph.GridStyle = row.style;
+    program.session.graph.GridStyle = row.style;
 
     window.GraphInit(1);
 
@@ -139,7 +139,7 @@ TEST_F(GraphOfACurve, DrawsTheFilledColumnsOnly) {
 }
 
 TEST_F(GraphOfACurve, DrawsColumnsThatWereLeftEmptyAsZeroWhenTheyCount) {
-  program.curve.CurvePointCount = 4;
+  program.windows.curve.CurvePointCount = 4;
 
   window.ShowCurve(1);
 
@@ -148,7 +148,7 @@ TEST_F(GraphOfACurve, DrawsColumnsThatWereLeftEmptyAsZeroWhenTheyCount) {
 }
 
 TEST_F(GraphOfACurve, WithoutAPointIsEmpty) {
-  program.curve.CurvePointCount = 0;
+  program.windows.curve.CurvePointCount = 0;
 
   window.ShowCurve(1);
 
@@ -158,13 +158,13 @@ TEST_F(GraphOfACurve, WithoutAPointIsEmpty) {
 }
 
 TEST_F(GraphOfACurve, FailsForMorePointsThanThereAreColumns) {
-  program.curve.CurvePointCount = 5;
+  program.windows.curve.CurvePointCount = 5;
 
   EXPECT_EQ(ErrorNumberOf([&] { window.ShowCurve(1); }), 9);
 }
 
 TEST_F(GraphOfACurve, IsABlueLineOfTheStoredWidth) {
-  program.graph.SymbolSize = 9;
+  program.session.graph.SymbolSize = 9;
 
   window.ShowCurve(1);
 
@@ -180,7 +180,7 @@ TEST_F(GraphOfACurve, ShowsLinesAndSymbolsByItsStyle) {
     bool symbols;
   };
   for (const Row& row : {Row{1, true, false}, Row{2, false, true}, Row{3, true, true}}) {
-    program.graph.GraphStyle = row.style;
+    program.session.graph.GraphStyle = row.style;
 
     window.ShowCurve(1);
 
@@ -205,7 +205,7 @@ TEST_F(GraphOfACurve, ShowsItsLegendWhenThatIsOn) {
   EXPECT_TRUE(window.graph1.LegendShown());
 
   for (const Integer off : {Integer{0}, Integer{2}}) {
-    program.graph.CurveLegend = off;
+    program.session.graph.CurveLegend = off;
     window.ShowCurve(1);
     EXPECT_FALSE(window.graph1.LegendShown()) << off;
   }
@@ -213,7 +213,7 @@ TEST_F(GraphOfACurve, ShowsItsLegendWhenThatIsOn) {
 
 TEST_F(GraphOfACurve, HasColoursForSixSeries) {
   window.GraphInit(1);
-  program.curve.CurveCount = 6;
+  program.windows.curve.CurveCount = 6;
 
   window.DrawCurve();
 
@@ -223,7 +223,7 @@ TEST_F(GraphOfACurve, HasColoursForSixSeries) {
 
 TEST_F(GraphOfACurve, FailsAtTheSeventhSeries) {
   window.GraphInit(1);
-  program.curve.CurveCount = 7;
+  program.windows.curve.CurveCount = 7;
 
   EXPECT_EQ(ErrorNumberOf([&] { window.DrawCurve(); }), 9);
 }
@@ -234,7 +234,7 @@ TEST_F(GraphOfACurve, ClearedHasNoSeries) {
   window.ClearGraph();
 
   EXPECT_THAT(window.graph1.Series(), IsEmpty());
-  EXPECT_EQ(program.curve.CurveCount, 0);
+  EXPECT_EQ(program.windows.curve.CurveCount, 0);
 }
 
 TEST_F(GraphOfACurve, ReadsOffThePointUnderThePointer) {
@@ -335,7 +335,7 @@ TEST_F(GraphOfACurve, OpensAnewWithoutTheReadOut) {
   EXPECT_FALSE(window.GraphOptionsItem.ItemChecked(PointID));
   EXPECT_FALSE(window.Frame1.Visible());
   EXPECT_THAT(ReadOut(), ElementsAre("", "", ""));
-  EXPECT_FALSE(program.curve.GraphClosed);
+  EXPECT_FALSE(program.windows.curve.GraphClosed);
 }
 
 TEST_F(GraphOfACurve, IsPrintedOnThePrinterChosen) {
@@ -345,7 +345,7 @@ TEST_F(GraphOfACurve, IsPrintedOnThePrinterChosen) {
 
   EXPECT_EQ(platform.printer.chosen, 1);
   EXPECT_EQ(platform.printer.printedChart, "graph1");
-  EXPECT_EQ(program.history.Text, "1. Printing Graph\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. Printing Graph\r\n");
 }
 
 TEST_F(GraphOfACurve, IsNotPrintedWhenThePrinterDialogIsCancelled) {
@@ -356,7 +356,7 @@ TEST_F(GraphOfACurve, IsNotPrintedWhenThePrinterDialogIsCancelled) {
 
   EXPECT_EQ(platform.printer.printedChart, "");
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(program.history.Text, "1. Cancel was selected.\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. Cancel was selected.\r\n");
 }
 
 TEST_F(GraphOfACurve, OffersToTryAPrinterThatFailsAgain) {
@@ -377,7 +377,7 @@ TEST_F(GraphOfACurve, OffersToTryAPrinterThatFailsAgain) {
 TEST_F(GraphOfACurve, IsPrintedAgainOnThePrinterThatWasChosenWhenItJams) {
   JammedPrinter jammed;
   Program other(platform.DoorsWith(jammed));
-  other.curve = program.curve;
+  other.windows.curve = program.windows.curve;
   GraphWindow graph(other);
   graph.ShowCurve(1);
   platform.boxes.answers = {box_result::Retry};
@@ -400,7 +400,7 @@ TEST_F(GraphOfACurve, IsCopiedAsAPicture) {
 }
 
 TEST_F(GraphOfACurve, IsExportedUnderHeadersBesideItsTitles) {
-  program.graph.GraphTitle = "Panel 3";
+  program.session.graph.GraphTitle = "Panel 3";
   window.ShowCurve(1);
 
   window.GraphFileItem.ClickItem(Export);
@@ -419,9 +419,9 @@ TEST_F(GraphOfACurve, IsExportedUnderHeadersBesideItsTitles) {
 }
 
 TEST_F(GraphOfACurve, OfTwentyTwoPointsExportsAllOfThem) {
-  program.curve.CurvePoints[0].assign(24, 30);
-  program.curve.CurvePoints[1].assign(24, 8.5F);
-  program.curve.CurvePointCount = 22;
+  program.windows.curve.CurvePoints[0].assign(24, 30);
+  program.windows.curve.CurvePoints[1].assign(24, 8.5F);
+  program.windows.curve.CurvePointCount = 22;
   window.ShowCurve(6);
 
   window.GraphFileItem.ClickItem(Export);
@@ -434,7 +434,7 @@ TEST_F(GraphOfACurve, OfTwentyTwoPointsExportsAllOfThem) {
 
 TEST_F(GraphOfACurve, ExportsEverySeries) {
   window.GraphInit(8);
-  program.curve.CurveCount = 2;
+  program.windows.curve.CurveCount = 2;
   window.DrawCurve();
 
   window.GraphFileItem.ClickItem(Export);
@@ -446,7 +446,7 @@ TEST_F(GraphOfACurve, ExportsEverySeries) {
 }
 
 TEST_F(GraphOfACurve, AsksBeforeTheExportWhenItIsToAsk) {
-  program.options.AskOfficeInstall = 0;
+  program.session.options.AskOfficeInstall = 0;
   platform.boxes.answers = {box_result::Yes};
   window.ShowCurve(1);
 
@@ -460,7 +460,7 @@ TEST_F(GraphOfACurve, AsksBeforeTheExportWhenItIsToAsk) {
 }
 
 TEST_F(GraphOfACurve, IsExportedAtOnceByAnySettingButTheOneThatAsks) {
-  program.options.AskOfficeInstall = 2;
+  program.session.options.AskOfficeInstall = 2;
   window.ShowCurve(1);
 
   window.GraphFileItem.ClickItem(Export);
@@ -470,7 +470,7 @@ TEST_F(GraphOfACurve, IsExportedAtOnceByAnySettingButTheOneThatAsks) {
 }
 
 TEST_F(GraphOfACurve, IsNotExportedAfterANo) {
-  program.options.AskOfficeInstall = 0;
+  program.session.options.AskOfficeInstall = 0;
   platform.boxes.answers = {box_result::No};
   window.ShowCurve(1);
 
@@ -498,7 +498,7 @@ TEST_F(GraphOfACurve, ClosesByItsMenu) {
   window.GraphFileItem.ClickItem(Exit);
 
   EXPECT_FALSE(window.IsOpen());
-  EXPECT_TRUE(program.curve.GraphClosed);
+  EXPECT_TRUE(program.windows.curve.GraphClosed);
 }
 
 TEST_F(GraphOfACurve, KeepsWhatWasEditedInTheChartWhenItCloses) {
@@ -513,51 +513,51 @@ TEST_F(GraphOfACurve, KeepsWhatWasEditedInTheChartWhenItCloses) {
 
   window.Close();
 
-  EXPECT_EQ(program.graph.GraphTitle, "Tailgate");
-  EXPECT_EQ(program.graph.XAxisTitle[5], "Width of the entry");
-  EXPECT_EQ(program.graph.XAxisTitle[4], "Rock Load Height (ft)");
-  EXPECT_EQ(program.graph.YAxisTitle[1], "Load");
-  EXPECT_EQ(program.graph.YAxisTitle[2], "Rock Load Intersections (tons)");
-  EXPECT_EQ(program.graph.GridStyle, 2);
-  EXPECT_EQ(program.graph.CurveLegend, 0);
-  EXPECT_EQ(program.graph.SymbolSize, 12);
+  EXPECT_EQ(program.session.graph.GraphTitle, "Tailgate");
+  EXPECT_EQ(program.session.graph.XAxisTitle[5], "Width of the entry");
+  EXPECT_EQ(program.session.graph.XAxisTitle[4], "Rock Load Height (ft)");
+  EXPECT_EQ(program.session.graph.YAxisTitle[1], "Load");
+  EXPECT_EQ(program.session.graph.YAxisTitle[2], "Rock Load Intersections (tons)");
+  EXPECT_EQ(program.session.graph.GridStyle, 2);
+  EXPECT_EQ(program.session.graph.CurveLegend, 0);
+  EXPECT_EQ(program.session.graph.SymbolSize, 12);
 }
 
 TEST_F(GraphOfACurve, StoresEachGridStyleAsItIsDrawn) {
   for (Integer style = 0; style <= 3; ++style) {
-    program.graph.GridStyle = style;
+    program.session.graph.GridStyle = style;
     window.ShowCurve(1);
-    program.graph.GridStyle = -1;
+    program.session.graph.GridStyle = -1;
 
     window.Close();
 
-    EXPECT_EQ(program.graph.GridStyle, style);
+    EXPECT_EQ(program.session.graph.GridStyle, style);
   }
 }
 
 TEST_F(GraphOfACurve, ClearedKeepsTheSymbolSizeWhenItCloses) {
-  program.graph.SymbolSize = 8;
+  program.session.graph.SymbolSize = 8;
   window.ShowCurve(1);
   window.ClearGraph();
 
   window.Close();
 
-  EXPECT_EQ(program.graph.SymbolSize, 8);
+  EXPECT_EQ(program.session.graph.SymbolSize, 8);
 }
 
 TEST_F(GraphOfACurve, KeepsTheTitleOfTheCurveOnViewWhenAnotherCannotBeSwept) {
   window.ShowCurve(1);
   window.graph1.SetAxisX({"Cover above the seam", true});
-  program.WorkParmsCopy.Place.CMRR = 45;
-  program.WorkParmsCopy.Place.DepthofCover = 400;
-  program.WorkParmsCopy.Place.ActualSpanDiagonals = 60;
-  program.WorkParmsCopy.Primary.StabilityFactor = 2e38F;
+  program.windows.WorkParmsCopy.Place.CMRR = 45;
+  program.windows.WorkParmsCopy.Place.DepthofCover = 400;
+  program.windows.WorkParmsCopy.Place.ActualSpanDiagonals = 60;
+  program.windows.WorkParmsCopy.Primary.StabilityFactor = 2e38F;
   ASSERT_EQ(ErrorNumberOf([&] { TakeCurve(program, 2); }), 6);
 
   window.Close();
 
-  EXPECT_EQ(program.graph.XAxisTitle[1], "Cover above the seam");
-  EXPECT_EQ(program.graph.XAxisTitle[2], "Stability Factor");
+  EXPECT_EQ(program.session.graph.XAxisTitle[1], "Cover above the seam");
+  EXPECT_EQ(program.session.graph.XAxisTitle[2], "Stability Factor");
 }
 
 TEST_F(GraphOfACurve, OpensItsOptionsOnTheChartAsItIs) {
@@ -567,7 +567,7 @@ TEST_F(GraphOfACurve, OpensItsOptionsOnTheChartAsItIs) {
   platform.windows.onModal = [&](Form& form) {
     asked = form.Name();
     EXPECT_TRUE(form.IsOpen());
-    EXPECT_EQ(program.graph.GraphTitle, "Tailgate");
+    EXPECT_EQ(program.session.graph.GraphTitle, "Tailgate");
   };
 
   window.GraphOptionsItem.ClickItem(BasicOptions);

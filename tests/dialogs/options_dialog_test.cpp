@@ -93,11 +93,11 @@ TEST_F(Options, BearTheirCaptions) {
 // ---- opening -------------------------------------------------------------------------------------------------------
 
 TEST_F(Options, ShowThePreferencesOfTheProgram) {
-  program.options.ShowInputScreenOnLoad = 0;
-  program.options.ViewChildWindow = 1;
-  program.options.PrintModuleHeader = 0;
-  program.options.AskOfficeInstall = 1;
-  program.options.BoltGradeAsUltimateDefault = StrengthBasis::Ultimate;
+  program.session.options.ShowInputScreenOnLoad = 0;
+  program.session.options.ViewChildWindow = 1;
+  program.session.options.PrintModuleHeader = 0;
+  program.session.options.AskOfficeInstall = 1;
+  program.session.options.BoltGradeAsUltimateDefault = StrengthBasis::Ultimate;
 
   dialog.Open();
 
@@ -145,8 +145,8 @@ TEST_F(Options, ShowWhatANewMetricDesignStartsWith) {
 TEST_F(Options, AreLoggedWhenTheyOpen) {
   dialog.Open();
 
-  EXPECT_THAT(program.history.Text, HasSubstr("Editing ORBY Options"));
-  EXPECT_EQ(program.titles.RangeErrorTitle, "Program Options: Range Error");
+  EXPECT_THAT(program.session.history.Text, HasSubstr("Editing ORBY Options"));
+  EXPECT_EQ(program.windows.titles.RangeErrorTitle, "Program Options: Range Error");
 }
 
 TEST_F(Options, OpenOnThePageThatWasChosenLast) {
@@ -195,9 +195,9 @@ TEST_F(Options, StayAsTheyAreWhenTheDialogIsCancelled) {
 
   dialog.cmdCancel.Press();
 
-  EXPECT_EQ(program.options.ShowInputScreenOnLoad, 1);
-  EXPECT_EQ(program.defaults.DefaultENGDepthofCover, 400);
-  EXPECT_THAT(program.history.Text, HasSubstr("Options Not Modified"));
+  EXPECT_EQ(program.session.options.ShowInputScreenOnLoad, 1);
+  EXPECT_EQ(program.session.defaults.DefaultENGDepthofCover, 400);
+  EXPECT_THAT(program.session.history.Text, HasSubstr("Options Not Modified"));
   EXPECT_THAT(platform.files.files, IsEmpty());
 }
 
@@ -212,12 +212,12 @@ TEST_F(Options, AreStoredOnOK) {
   Accept();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.options.ShowInputScreenOnLoad, 0);
-  EXPECT_EQ(program.options.ViewChildWindow, 0);
-  EXPECT_EQ(program.options.PrintModuleHeader, 0);
-  EXPECT_EQ(program.options.AskOfficeInstall, 0);
-  EXPECT_EQ(program.options.BoltGradeAsUltimateDefault, StrengthBasis::Ultimate);
-  EXPECT_THAT(program.history.Text, Not(HasSubstr("Options Not Modified")));
+  EXPECT_EQ(program.session.options.ShowInputScreenOnLoad, 0);
+  EXPECT_EQ(program.session.options.ViewChildWindow, 0);
+  EXPECT_EQ(program.session.options.PrintModuleHeader, 0);
+  EXPECT_EQ(program.session.options.AskOfficeInstall, 0);
+  EXPECT_EQ(program.session.options.BoltGradeAsUltimateDefault, StrengthBasis::Ultimate);
+  EXPECT_THAT(program.session.history.Text, Not(HasSubstr("Options Not Modified")));
 }
 
 TEST_F(Options, StoreTheEnglishDefaultsWhereNewDesignsFindThem) {
@@ -237,7 +237,7 @@ TEST_F(Options, StoreTheEnglishDefaultsWhereNewDesignsFindThem) {
 
   Accept();
 
-  const DesignDefaults& defaults = program.defaults;
+  const DesignDefaults& defaults = program.session.defaults;
   EXPECT_EQ(defaults.DefaultCMRR, 52);
   EXPECT_EQ(defaults.DefaultENGDepthofCover, 650.5F);
   EXPECT_EQ(defaults.DefaultENGUnitWeight, 158);
@@ -268,7 +268,7 @@ TEST_F(Options, StoreTheMetricDefaultsWhereNewDesignsFindThem) {
 
   Accept();
 
-  const DesignDefaults& defaults = program.defaults;
+  const DesignDefaults& defaults = program.session.defaults;
   EXPECT_EQ(defaults.DefaultMETDepthofCover, 210.5F);
   EXPECT_EQ(defaults.DefaultMETUnitWeight, 24.2F);
   EXPECT_EQ(defaults.DefaultMETActualInterSpan, 19);
@@ -290,9 +290,9 @@ TEST_F(Options, TakeTheEnglishValueWhereBothPagesEditOne) {
 
   Accept();
 
-  EXPECT_EQ(program.defaults.DefaultCMRR, 45);
-  EXPECT_EQ(program.defaults.DefaultStabilityFactor, 1);
-  EXPECT_EQ(program.defaults.DefaultNumberBoltsPerRow, 4);
+  EXPECT_EQ(program.session.defaults.DefaultCMRR, 45);
+  EXPECT_EQ(program.session.defaults.DefaultStabilityFactor, 1);
+  EXPECT_EQ(program.session.defaults.DefaultNumberBoltsPerRow, 4);
 }
 
 TEST_F(Options, DropTheFractionsOfRatingAndBoltsPerRow) {
@@ -302,8 +302,8 @@ TEST_F(Options, DropTheFractionsOfRatingAndBoltsPerRow) {
 
   Accept();
 
-  EXPECT_EQ(program.defaults.DefaultCMRR, 52);
-  EXPECT_EQ(program.defaults.DefaultNumberBoltsPerRow, 5);
+  EXPECT_EQ(program.session.defaults.DefaultCMRR, 52);
+  EXPECT_EQ(program.session.defaults.DefaultNumberBoltsPerRow, 5);
 }
 
 TEST_F(Options, ChangeNothingWhenANumberHasNoPlaceInTheProgram) {
@@ -315,8 +315,8 @@ TEST_F(Options, ChangeNothingWhenANumberHasNoPlaceInTheProgram) {
   Accept();
 
   EXPECT_TRUE(dialog.IsOpen());
-  EXPECT_EQ(program.defaults.DefaultENGDepthofCover, 400);
-  EXPECT_EQ(program.options.ShowInputScreenOnLoad, 1);
+  EXPECT_EQ(program.session.defaults.DefaultENGDepthofCover, 400);
+  EXPECT_EQ(program.session.options.ShowInputScreenOnLoad, 1);
   EXPECT_THAT(platform.files.files, IsEmpty());
 }
 
@@ -331,7 +331,7 @@ TEST_F(Options, AreWrittenToTheConfigurationFile) {
   EXPECT_EQ(Written("ORBYDefaults", "DefaultENGDepthofCover"), "650");
   EXPECT_EQ(Written("ORBYBoltParams", "DefaultBoltGradeIndexENG"), "5");
   EXPECT_EQ(Written("ORBYStandSupportParams", "DefaultStandSupportIndex"), "15");
-  EXPECT_THAT(program.history.Text, HasSubstr("Saving default settings to file: /home/user/ORBY.INI"));
+  EXPECT_THAT(program.session.history.Text, HasSubstr("Saving default settings to file: /home/user/ORBY.INI"));
 }
 
 // ---- checks --------------------------------------------------------------------------------------------------------
@@ -398,8 +398,8 @@ TEST_F(Options, LetAnyUnitWeightAndBoltStrengthPass) {
   Accept();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.defaults.DefaultENGUnitWeight, 0);
-  EXPECT_EQ(program.defaults.DefaultMETBoltUTS, 0);
+  EXPECT_EQ(program.session.defaults.DefaultENGUnitWeight, 0);
+  EXPECT_EQ(program.session.defaults.DefaultMETBoltUTS, 0);
 }
 
 TEST_F(Options, AcceptARoofRatingOf100) {
@@ -408,7 +408,7 @@ TEST_F(Options, AcceptARoofRatingOf100) {
 
   Accept();
 
-  EXPECT_EQ(program.defaults.DefaultCMRR, 100);
+  EXPECT_EQ(program.session.defaults.DefaultCMRR, 100);
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
@@ -435,7 +435,7 @@ TEST_F(Options, StayOnTheFieldOfARefusedRoofRating) {
   EXPECT_TRUE(dialog.IsOpen());
   EXPECT_EQ(dialog.SSTab1.Tab(), 2);
   EXPECT_EQ(dialog.FocusRequest(), &dialog.txtCMRR[MetricPage]);
-  EXPECT_EQ(program.defaults.DefaultCMRR, 45);
+  EXPECT_EQ(program.session.defaults.DefaultCMRR, 45);
 }
 
 TEST_F(Options, AskAboutEachUnusualValue) {
@@ -480,7 +480,7 @@ TEST_F(Options, KeepTheCellThatIsBeingEditedWhenAFaultStopsThem) {
   Accept();
 
   EXPECT_EQ(dialog.VSFlexGridEng.Cell(1, 2), "28");
-  EXPECT_EQ(program.catalogs.DefaultCableCapArrayENG[0], 26.4F);
+  EXPECT_EQ(program.session.catalogs.DefaultCableCapArrayENG[0], 26.4F);
 }
 
 }  // namespace

@@ -20,8 +20,8 @@ inline constexpr std::size_t MetricPage = PlaceOf(Metric);
 
 struct OptionsFixture : testing::Test {
   OptionsFixture() {
-    SetBuiltInCatalogs(program.catalogs);
-    program.IniFilePath = "/home/user/ORBY.INI";
+    SetBuiltInCatalogs(program.session.catalogs);
+    program.session.IniFilePath = "/home/user/ORBY.INI";
   }
 
   void Accept() { dialog.cmdOK.Press(); }
@@ -51,7 +51,7 @@ struct OptionsFixture : testing::Test {
   }
 
   std::string Written(std::string_view section, std::string_view key) {
-    return ReadIniValue(program, section, key, program.IniFilePath);
+    return ReadIniValue(program, section, key, program.session.IniFilePath);
   }
 
   RecordingPlatform platform;

@@ -7,7 +7,7 @@ using testing::ElementsAre;
 using testing::Pair;
 
 struct OptionsGrids : OptionsFixture {
-  const StandingSupports& Stands() const { return program.catalogs.StandSupports; }
+  const StandingSupports& Stands() const { return program.session.catalogs.StandSupports; }
 };
 
 // ---- cables --------------------------------------------------------------------------------------------------------
@@ -31,12 +31,12 @@ TEST_F(OptionsGrids, StoreTheCellsOnOKTheOneThatIsBeingEditedToo) {
   Edit(dialog.VSFlexGridEng, 2, 2, "36");
   Edit(dialog.VSFlexGridMet, 6, 2, "980");
 
-  EXPECT_EQ(program.catalogs.DefaultCableDiamArrayENG[0], 0.6F);
+  EXPECT_EQ(program.session.catalogs.DefaultCableDiamArrayENG[0], 0.6F);
   Accept();
 
-  EXPECT_THAT(Values(program.catalogs.DefaultCableDiamArrayENG), ElementsAre(0.62F, 0.7F));
-  EXPECT_THAT(Values(program.catalogs.DefaultCableCapArrayENG), ElementsAre(26.4F, 36));
-  EXPECT_THAT(Values(program.catalogs.DefaultCableCapArrayMET), ElementsAre(235, 590, 620, 635, 880, 980));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultCableDiamArrayENG), ElementsAre(0.62F, 0.7F));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultCableCapArrayENG), ElementsAre(26.4F, 36));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultCableCapArrayMET), ElementsAre(235, 590, 620, 635, 880, 980));
   EXPECT_EQ(Written("ORBYBoltParams", "DefaultCableCapArrayENG1"), "36");
 }
 
@@ -46,8 +46,8 @@ TEST_F(OptionsGrids, GiveACableTheStrengthOfItsCapacityOnOK) {
 
   Accept();
 
-  EXPECT_THAT(Values(program.catalogs.DefaultCableUTSArrayENG), ElementsAre(26.4F, 36));
-  EXPECT_THAT(Values(program.catalogs.DefaultCableUTSArrayMET), ElementsAre(235, 590, 620, 635, 880, 970));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultCableUTSArrayENG), ElementsAre(26.4F, 36));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultCableUTSArrayMET), ElementsAre(235, 590, 620, 635, 880, 970));
 }
 
 TEST_F(OptionsGrids, AddACableAtOnce) {
@@ -56,9 +56,9 @@ TEST_F(OptionsGrids, AddACableAtOnce) {
   dialog.cmdAddCable[EnglishPage].Press();
 
   EXPECT_THAT(Row(dialog.VSFlexGridEng, 3), ElementsAre("3", "", ""));
-  EXPECT_THAT(Values(program.catalogs.DefaultCableCapArrayENG), ElementsAre(26.4F, 35.7F, 0));
-  EXPECT_THAT(Values(program.catalogs.DefaultCableUTSArrayENG), ElementsAre(26.4F, 35.7F, 0));
-  EXPECT_THAT(Values(program.catalogs.DefaultCableDiamArrayENG), ElementsAre(0.6F, 0.7F, 0));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultCableCapArrayENG), ElementsAre(26.4F, 35.7F, 0));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultCableUTSArrayENG), ElementsAre(26.4F, 35.7F, 0));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultCableDiamArrayENG), ElementsAre(0.6F, 0.7F, 0));
 }
 
 TEST_F(OptionsGrids, TakeTheKeyboardToTheRowThatIsAdded) {
@@ -79,8 +79,8 @@ TEST_F(OptionsGrids, StoreAnAddedCable) {
 
   Accept();
 
-  EXPECT_THAT(Values(program.catalogs.DefaultCableDiamArrayENG), ElementsAre(0.6F, 0.7F, 0.9F));
-  EXPECT_THAT(Values(program.catalogs.DefaultCableCapArrayENG), ElementsAre(26.4F, 35.7F, 58.6F));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultCableDiamArrayENG), ElementsAre(0.6F, 0.7F, 0.9F));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultCableCapArrayENG), ElementsAre(26.4F, 35.7F, 58.6F));
   EXPECT_EQ(Written("ORBYBoltParams", "DefaultCableIndexENG"), "2");
 }
 
@@ -90,8 +90,8 @@ TEST_F(OptionsGrids, GrowPastTenRows) {
   for (int i = 0; i < 12; ++i) dialog.cmdAddCable[EnglishPage].Press();
 
   EXPECT_EQ(dialog.VSFlexGridEng.Rows(), 15);
-  EXPECT_EQ(program.catalogs.DefaultCableCapArrayENG.HighestIndex, 13);
-  EXPECT_EQ(program.catalogs.DefaultCableCapArrayENG.Values.size(), 14U);
+  EXPECT_EQ(program.session.catalogs.DefaultCableCapArrayENG.HighestIndex, 13);
+  EXPECT_EQ(program.session.catalogs.DefaultCableCapArrayENG.Values.size(), 14U);
 }
 
 TEST_F(OptionsGrids, DeleteTheSelectedCableAndNumberTheOthersAnew) {
@@ -111,10 +111,10 @@ TEST_F(OptionsGrids, ShortenTheListAtOnceAndMoveItsValuesOnOK) {
 
   dialog.cmdDeleteCable[EnglishPage].Press();
 
-  EXPECT_THAT(Values(program.catalogs.DefaultCableCapArrayENG), ElementsAre(26.4F));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultCableCapArrayENG), ElementsAre(26.4F));
   Accept();
-  EXPECT_THAT(Values(program.catalogs.DefaultCableCapArrayENG), ElementsAre(35.7F));
-  EXPECT_THAT(Values(program.catalogs.DefaultCableDiamArrayENG), ElementsAre(0.7F));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultCableCapArrayENG), ElementsAre(35.7F));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultCableDiamArrayENG), ElementsAre(0.7F));
 }
 
 TEST_F(OptionsGrids, ForgetWhatWasTypedIntoADeletedRow) {
@@ -131,13 +131,13 @@ TEST_F(OptionsGrids, CanBeEmptiedAndFilledAgain) {
   dialog.Open();
   for (int i = 0; i < 4; ++i) dialog.cmdDeleteCable[EnglishPage].Press();
   EXPECT_EQ(dialog.VSFlexGridEng.Rows(), 1);
-  EXPECT_EQ(program.catalogs.DefaultCableCapArrayENG.HighestIndex, -1);
+  EXPECT_EQ(program.session.catalogs.DefaultCableCapArrayENG.HighestIndex, -1);
 
   dialog.cmdAddCable[EnglishPage].Press();
   Edit(dialog.VSFlexGridEng, 1, 2, "30");
   Accept();
 
-  EXPECT_THAT(Values(program.catalogs.DefaultCableCapArrayENG), ElementsAre(30));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultCableCapArrayENG), ElementsAre(30));
 }
 
 TEST_F(OptionsGrids, ResetTheCablesAtOnce) {
@@ -149,7 +149,7 @@ TEST_F(OptionsGrids, ResetTheCablesAtOnce) {
   dialog.cmdCancel.Press();
 
   EXPECT_THAT(Row(dialog.VSFlexGridMet, 1), ElementsAre("1", "15.2", "235"));
-  EXPECT_THAT(Values(program.catalogs.DefaultCableCapArrayMET), ElementsAre(235, 590, 620, 635, 880, 970));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultCableCapArrayMET), ElementsAre(235, 590, 620, 635, 880, 970));
 }
 
 // ---- standing supports ---------------------------------------------------------------------------------------------
@@ -164,7 +164,7 @@ TEST_F(OptionsGrids, ShowTheStandingSupports) {
 }
 
 TEST_F(OptionsGrids, ShowTheStandingSupportsOfAMetricProjectInKilonewtons) {
-  program.WorkParms.Units = Metric;
+  program.project.WorkParms.Units = Metric;
 
   dialog.Open();
 
@@ -188,7 +188,7 @@ TEST_F(OptionsGrids, StoreANewStandingSupportInBothUnitSystems) {
 }
 
 TEST_F(OptionsGrids, StoreAMetricStandingSupportInBothUnitSystems) {
-  program.WorkParms.Units = Metric;
+  program.project.WorkParms.Units = Metric;
   dialog.Open();
   Edit(dialog.VSFlexGridStand, 9, 2, "889.6443");
 
@@ -199,7 +199,7 @@ TEST_F(OptionsGrids, StoreAMetricStandingSupportInBothUnitSystems) {
 }
 
 TEST_F(OptionsGrids, KeepBothCapacitiesOfTheRowsBehindADeletedOne) {
-  program.WorkParms.Units = Metric;
+  program.project.WorkParms.Units = Metric;
   dialog.Open();
   dialog.VSFlexGridStand.ClickCell(1, 2);
 

@@ -45,7 +45,7 @@ TEST_F(BoltLists, ShowTheAustralianStrengthsAndDiametersUnderTheirOwnNames) {
 }
 
 TEST_F(BoltLists, ShowOnlyTheEntriesInUse) {
-  program.catalogs.DefaultBoltGradeArrayENG.HighestIndex = 2;
+  program.session.catalogs.DefaultBoltGradeArrayENG.HighestIndex = 2;
 
   dialog.Open();
 
@@ -77,9 +77,9 @@ TEST_F(BoltLists, KeepAnAddedEntryFromTheProgramUntilOK) {
 
   Add(EnglishPage, Grade, "80");
 
-  EXPECT_EQ(program.catalogs.DefaultBoltGradeArrayENG.HighestIndex, 5);
+  EXPECT_EQ(program.session.catalogs.DefaultBoltGradeArrayENG.HighestIndex, 5);
   Accept();
-  EXPECT_THAT(Values(program.catalogs.DefaultBoltGradeArrayENG), ElementsAre(40, 55, 60, 75, 90, 100, 80));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultBoltGradeArrayENG), ElementsAre(40, 55, 60, 75, 90, 100, 80));
 }
 
 TEST_F(BoltLists, WantAValue) {
@@ -213,8 +213,8 @@ TEST_F(BoltLists, CanBeEmptied) {
   Accept();
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Please select a diameter value to delete"));
-  EXPECT_EQ(program.catalogs.DefaultBoltUTSArrayMETAUS.HighestIndex, -1);
-  EXPECT_THAT(Values(program.catalogs.DefaultBoltDiamArrayMETAUS), ElementsAre(840, 440));
+  EXPECT_EQ(program.session.catalogs.DefaultBoltUTSArrayMETAUS.HighestIndex, -1);
+  EXPECT_THAT(Values(program.session.catalogs.DefaultBoltDiamArrayMETAUS), ElementsAre(840, 440));
 }
 
 TEST_F(BoltLists, KeepADeletedEntryInTheProgramUntilOK) {
@@ -223,9 +223,9 @@ TEST_F(BoltLists, KeepADeletedEntryInTheProgramUntilOK) {
 
   Delete(EnglishPage, UTS);
 
-  EXPECT_EQ(program.catalogs.DefaultBoltUTSArrayENG[0], 70);
+  EXPECT_EQ(program.session.catalogs.DefaultBoltUTSArrayENG[0], 70);
   Accept();
-  EXPECT_THAT(Values(program.catalogs.DefaultBoltUTSArrayENG), ElementsAre(85, 90, 100, 116, 125));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultBoltUTSArrayENG), ElementsAre(85, 90, 100, 116, 125));
 }
 
 // ---- storing and resetting -----------------------------------------------------------------------------------------
@@ -241,12 +241,15 @@ TEST_F(BoltLists, StoreEachListInItsCatalog) {
 
   Accept();
 
-  EXPECT_THAT(Values(program.catalogs.DefaultBoltGradeArrayENG), ElementsAre(40, 55, 60, 75, 90, 100, 80));
-  EXPECT_THAT(Values(program.catalogs.DefaultBoltUTSArrayENG), ElementsAre(70, 85, 90, 100, 116, 125, 130));
-  EXPECT_THAT(Values(program.catalogs.DefaultBoltDiamArrayENG), ElementsAre(0.625F, 0.75F, 0.875F, 0.688F, 0.804F, 1));
-  EXPECT_THAT(Values(program.catalogs.DefaultBoltGradeArrayMET), ElementsAre(280, 390, 420, 520, 620, 690, 550));
-  EXPECT_THAT(Values(program.catalogs.DefaultBoltUTSArrayMET), ElementsAre(480, 590, 620, 690, 800, 860, 900));
-  EXPECT_THAT(Values(program.catalogs.DefaultBoltDiamArrayMET), ElementsAre(15.88F, 19, 22.22F, 17.48F, 20.42F, 25));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultBoltGradeArrayENG), ElementsAre(40, 55, 60, 75, 90, 100, 80));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultBoltUTSArrayENG), ElementsAre(70, 85, 90, 100, 116, 125, 130));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultBoltDiamArrayENG),
+              ElementsAre(0.625F, 0.75F, 0.875F, 0.688F, 0.804F, 1));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultBoltGradeArrayMET),
+              ElementsAre(280, 390, 420, 520, 620, 690, 550));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultBoltUTSArrayMET), ElementsAre(480, 590, 620, 690, 800, 860, 900));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultBoltDiamArrayMET),
+              ElementsAre(15.88F, 19, 22.22F, 17.48F, 20.42F, 25));
   EXPECT_EQ(Written("ORBYBoltParams", "DefaultBoltGradeIndexENG"), "6");
   EXPECT_EQ(Written("ORBYBoltParams", "DefaultBoltGradeArrayENG6"), "80");
 }
@@ -258,14 +261,14 @@ TEST_F(BoltLists, StoreAustralianValuesUnderEachOthersNames) {
 
   Accept();
 
-  EXPECT_THAT(Values(program.catalogs.DefaultBoltDiamArrayMETAUS), ElementsAre(840, 440, 650));
-  EXPECT_THAT(Values(program.catalogs.DefaultBoltUTSArrayMETAUS), ElementsAre(21.7F, 21.7F, 24));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultBoltDiamArrayMETAUS), ElementsAre(840, 440, 650));
+  EXPECT_THAT(Values(program.session.catalogs.DefaultBoltUTSArrayMETAUS), ElementsAre(21.7F, 21.7F, 24));
   EXPECT_EQ(Written("ORBYBoltParams", "DefaultBoltUTSArrayMETAUS2"), "24");
 }
 
 TEST_F(BoltLists, AreResetAtOnceEvenWhenTheDialogIsCancelled) {
-  program.catalogs.DefaultBoltDiamArrayENG.HighestIndex = 1;
-  program.catalogs.DefaultBoltGradeArrayENG.Set(0, 44);
+  program.session.catalogs.DefaultBoltDiamArrayENG.HighestIndex = 1;
+  program.session.catalogs.DefaultBoltGradeArrayENG.Set(0, 44);
   dialog.Open();
 
   dialog.bolts[EnglishPage].cmdSetDefaultBolt.Press();
@@ -273,21 +276,22 @@ TEST_F(BoltLists, AreResetAtOnceEvenWhenTheDialogIsCancelled) {
 
   EXPECT_THAT(Entries(EnglishPage, Diameter), ElementsAre("0.625", "0.75", "0.875", "0.688", "0.804"));
   EXPECT_THAT(Entries(EnglishPage, Grade), ElementsAre("40", "55", "60", "75", "90", "100"));
-  EXPECT_THAT(Values(program.catalogs.DefaultBoltDiamArrayENG), ElementsAre(0.625F, 0.75F, 0.875F, 0.688F, 0.804F));
-  EXPECT_EQ(program.catalogs.DefaultBoltGradeArrayENG[0], 40);
+  EXPECT_THAT(Values(program.session.catalogs.DefaultBoltDiamArrayENG),
+              ElementsAre(0.625F, 0.75F, 0.875F, 0.688F, 0.804F));
+  EXPECT_EQ(program.session.catalogs.DefaultBoltGradeArrayENG[0], 40);
 }
 
 TEST_F(BoltLists, AreResetCatalogByCatalog) {
   dialog.Open();
   Add(MetricPage, Grade, "550");
   Add(Australian, UTS, "650");
-  program.catalogs.DefaultBoltGradeArrayMET.Set(0, 300);
+  program.session.catalogs.DefaultBoltGradeArrayMET.Set(0, 300);
 
   dialog.bolts[Australian].cmdSetDefaultBolt.Press();
 
   EXPECT_THAT(Entries(Australian, UTS), ElementsAre("840", "440"));
   EXPECT_THAT(Entries(MetricPage, Grade), ElementsAre("280", "390", "420", "520", "620", "690", "550"));
-  EXPECT_EQ(program.catalogs.DefaultBoltGradeArrayMET[0], 300);
+  EXPECT_EQ(program.session.catalogs.DefaultBoltGradeArrayMET[0], 300);
 }
 
 TEST_F(BoltLists, HaveNothingSelectedToDeleteOnceTheyAreReset) {

@@ -98,7 +98,7 @@ TEST_F(OptionsNumbers, StayInTheCellOfACableThatCannotBeStored) {
   Accept();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.catalogs.DefaultCableCapArrayMET[1], 600);
+  EXPECT_EQ(program.session.catalogs.DefaultCableCapArrayMET[1], 600);
 }
 
 TEST_F(OptionsNumbers, StayInTheCellOfASupportWhoseOtherUnitCannotBeStored) {
@@ -122,8 +122,8 @@ TEST_F(OptionsNumbers, MayBeNoNumbersInACell) {
   Accept();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.catalogs.DefaultCableCapArrayENG[0], 0);
-  EXPECT_EQ(program.catalogs.StandSupports.DefaultStandSupportCap[0], (std::array<Single, 2>{0, 0}));
+  EXPECT_EQ(program.session.catalogs.DefaultCableCapArrayENG[0], 0);
+  EXPECT_EQ(program.session.catalogs.StandSupports.DefaultStandSupportCap[0], (std::array<Single, 2>{0, 0}));
 }
 
 }  // namespace

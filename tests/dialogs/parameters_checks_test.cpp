@@ -91,7 +91,7 @@ TEST_F(ParameterChecks, ShowEachFaultAsARangeErrorOfTheParameters) {
 TEST_F(ParameterChecks, LogEachFault) {
   Faults(English, "txtCMRR=0");
 
-  EXPECT_EQ(program.history.Text,
+  EXPECT_EQ(program.session.history.Text,
             "1. Editing Project Parameters\r\n2. Project Parameters: Range Error: Invalid CMRR\r\n");
 }
 
@@ -209,7 +209,7 @@ struct WatchingBoxes : MessageBoxes {
 TEST_F(ParameterChecks, TellTheFaultBeforeTheyGoToIt) {
   WatchingBoxes boxes;
   Program watched{platform.DoorsWith(boxes)};
-  SetBuiltInCatalogs(watched.catalogs);
+  SetBuiltInCatalogs(watched.session.catalogs);
   FileNew(watched, true, true);
   ParametersDialog opened(watched);
   boxes.watched = &opened;

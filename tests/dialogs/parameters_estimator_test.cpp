@@ -9,8 +9,8 @@ using testing::IsEmpty;
 // The parameters dialog, and a user at the estimator that it opens.
 struct RatingEstimate : AParametersDialog {
   RatingEstimate() {
-    program.WorkParms.Place.CMRRRegionIndex = 1;
-    program.WorkParms.Place.CMRRRockTypeIndex = 2;
+    program.project.WorkParms.Place.CMRRRegionIndex = 1;
+    program.project.WorkParms.Place.CMRRRockTypeIndex = 2;
     dialog.Open();
   }
 
@@ -31,13 +31,13 @@ constexpr auto Cancel = &EstimatorControls::Command1;
 constexpr Button EstimatorControls::*WindowsClose = nullptr;
 
 TEST_F(RatingEstimate, StartsFromTheDesignsRockForTheParametersDialog) {
-  program.estimator.EstimatedCMRR = 77;
+  program.windows.estimator.EstimatedCMRR = 77;
   bool asked = false;
   platform.windows.onModal = [&](Form& form) {
     asked = true;
     auto& estimator = dynamic_cast<EstimatorDialog&>(form);
-    EXPECT_EQ(program.estimator.EstimatedCMRR, 0);
-    EXPECT_EQ(program.estimator.CallerCode, 2);
+    EXPECT_EQ(program.windows.estimator.EstimatedCMRR, 0);
+    EXPECT_EQ(program.windows.estimator.CallerCode, 2);
     EXPECT_EQ(GetArrayIndex(estimator.optLocation), 1);
     EXPECT_EQ(estimator.VSFlexGrid1.Row(), 2);
   };
@@ -45,7 +45,7 @@ TEST_F(RatingEstimate, StartsFromTheDesignsRockForTheParametersDialog) {
   dialog.cmdCMRR.Press();
 
   EXPECT_TRUE(asked);
-  EXPECT_EQ(program.ReportCaller, 1);
+  EXPECT_EQ(program.windows.ReportCaller, 1);
 }
 
 TEST_F(RatingEstimate, BecomesTheRatingAndRefreshesTheSuggestions) {
@@ -75,13 +75,13 @@ TEST_F(RatingEstimate, IsNoneWhenTheEstimatorIsCancelledOrClosed) {
     for (const int row : {5, 7}) {
       Choose(2, row, button);
 
-      EXPECT_EQ(program.estimator.EstimatedCMRR, 0) << row;
+      EXPECT_EQ(program.windows.estimator.EstimatedCMRR, 0) << row;
       EXPECT_EQ(dialog.txtCMRR.Text(), "45") << row;
       EXPECT_EQ(dialog.txtRegion.Text(), "") << row;
       EXPECT_EQ(dialog.txtOption.Text(), "") << row;
       EXPECT_FALSE(dialog.chkCMRRManual.Checked()) << row;
-      EXPECT_EQ(program.estimator.EstimatorRegion, 1) << row;
-      EXPECT_EQ(program.estimator.EstimatorRockType, 2) << row;
+      EXPECT_EQ(program.windows.estimator.EstimatorRegion, 1) << row;
+      EXPECT_EQ(program.windows.estimator.EstimatorRockType, 2) << row;
     }
   }
 }
@@ -106,10 +106,10 @@ TEST_F(RatingEstimate, IsSavedWithItsOriginOnOk) {
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.Place.CMRR, 65);
-  EXPECT_EQ(program.WorkParms.Place.CMRRRegionIndex, 2);
-  EXPECT_EQ(program.WorkParms.Place.CMRRRockTypeIndex, 5);
-  EXPECT_EQ(program.WorkParms.Place.CMRRManual, 0);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRR, 65);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRRRegionIndex, 2);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRRRockTypeIndex, 5);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRRManual, 0);
 }
 
 TEST_F(RatingEstimate, IsNotPartOfTheDesignWhenTheParametersAreCancelled) {
@@ -117,9 +117,9 @@ TEST_F(RatingEstimate, IsNotPartOfTheDesignWhenTheParametersAreCancelled) {
 
   dialog.Command1.Press();
 
-  EXPECT_EQ(program.WorkParms.Place.CMRR, 45);
-  EXPECT_EQ(program.WorkParms.Place.CMRRRegionIndex, 1);
-  EXPECT_EQ(program.WorkParms.Place.CMRRRockTypeIndex, 2);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRR, 45);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRRRegionIndex, 1);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRRRockTypeIndex, 2);
 }
 
 TEST_F(RatingEstimate, IsNotAskedForWhileTheRatingIsSetByHand) {

@@ -36,7 +36,7 @@ TEST_F(ParameterEvents, ARatingComesFromTheEstimatorUntilItIsSetByHand) {
 }
 
 TEST_F(ParameterEvents, ARatingSetByHandOpensForTyping) {
-  program.WorkParms.Place.CMRRManual = 1;
+  program.project.WorkParms.Place.CMRRManual = 1;
   ParametersDialog other(program);
 
   other.Open();
@@ -128,7 +128,7 @@ TEST_F(ParameterEvents, ABoltsDiameterAndGradeAreChosenFromAListOrTyped) {
 }
 
 TEST_F(ParameterEvents, AStoredManualBoltOpensWithItsFieldsShown) {
-  program.WorkParms.Intersections.Bolt.Options = program.WorkParms.Intersections.Bolt.DiameterMode = 1;
+  program.project.WorkParms.Intersections.Bolt.Options = program.project.WorkParms.Intersections.Bolt.DiameterMode = 1;
   ParametersDialog other(program);
 
   other.Open();
@@ -179,7 +179,7 @@ TEST_F(ParameterEvents, ACableIsSpecifiedByDiameterOrByCapacity) {
 
 TEST_F(ParameterEvents, AMetricCableOpensByItsCapacity) {
   StartDesign(Metric);
-  program.WorkParms.Intersections.Cable.Capacity = 1;
+  program.project.WorkParms.Intersections.Cable.Capacity = 1;
   ParametersDialog other(program);
 
   other.Open();
@@ -257,7 +257,7 @@ TEST_F(ParameterEvents, BlankingAPickedSupportBringsItsCapacityOnceMore) {
 }
 
 TEST_F(ParameterEvents, AnEmptySupportListLeavesTheNameAndTheCapacityAlone) {
-  program.catalogs.StandSupports.HighestIndex = -1;
+  program.session.catalogs.StandSupports.HighestIndex = -1;
   ParametersDialog other(program);
   other.Open();
 

@@ -70,16 +70,16 @@ inline constexpr std::string_view AllSystems =
 // A new English design with the built-in catalogs; not opened yet.
 struct AParametersDialog : testing::Test {
   AParametersDialog() {
-    SetBuiltInCatalogs(program.catalogs);
+    SetBuiltInCatalogs(program.session.catalogs);
     StartDesign(English);
   }
 
   // A new design; ultimate: grades are ultimate strengths.
   void StartDesign(UnitSystem units, StrengthBasis ultimate = StrengthBasis::Yield) {
-    program.settings.UnitsDefault = units;
-    program.options.BoltGradeAsUltimateDefault = ultimate;
+    program.session.settings.UnitsDefault = units;
+    program.session.options.BoltGradeAsUltimateDefault = ultimate;
     FileNew(program, true, true);
-    program.history = {};
+    program.session.history = {};
   }
 
   void Do(std::string_view edits) { Edit(dialog, edits); }

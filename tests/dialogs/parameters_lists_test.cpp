@@ -72,7 +72,7 @@ TEST_F(ParameterLists, AMetricDesignOffersThemInMillimetresAndMPa) {
 TEST_F(ParameterLists, TheAustralianTableOffersItsTwoBoltsToAMetricDesign) {
   const Rows bolts{{"1", "Bolt 1", "21.7", "840"}, {"2", "Bolt 2", "21.7", "440"}};
   StartDesign(Metric);
-  program.UseAUSStandardTable = 1;
+  program.project.UseAUSStandardTable = 1;
 
   dialog.Open();
 
@@ -85,10 +85,10 @@ TEST_F(ParameterLists, TheAustralianTableOffersItsTwoBoltsToAMetricDesign) {
 
 TEST_F(ParameterLists, TheMetricTableIsBackAfterTheAustralianOne) {
   StartDesign(Metric);
-  program.UseAUSStandardTable = 1;
+  program.project.UseAUSStandardTable = 1;
   dialog.Open();
   dialog.Command1.Press();
-  program.UseAUSStandardTable = 0;
+  program.project.UseAUSStandardTable = 0;
   ParametersDialog other(program);
 
   other.Open();
@@ -98,7 +98,7 @@ TEST_F(ParameterLists, TheMetricTableIsBackAfterTheAustralianOne) {
 }
 
 TEST_F(ParameterLists, TheAustralianSettingShowsNothingInAnEnglishDesign) {
-  program.UseAUSStandardTable = 1;
+  program.project.UseAUSStandardTable = 1;
 
   dialog.Open();
 
@@ -107,9 +107,9 @@ TEST_F(ParameterLists, TheAustralianSettingShowsNothingInAnEnglishDesign) {
 }
 
 TEST_F(ParameterFields, TheStoredTableRowIsSelected) {
-  program.WorkParms.Primary.TableRow = 9;
-  program.WorkParms.Entries.Bolt.TableRow = 6;
-  program.WorkParms.Intersections.Bolt.TableRow = 3;
+  program.project.WorkParms.Primary.TableRow = 9;
+  program.project.WorkParms.Entries.Bolt.TableRow = 6;
+  program.project.WorkParms.Intersections.Bolt.TableRow = 3;
 
   dialog.Open();
 
@@ -120,9 +120,9 @@ TEST_F(ParameterFields, TheStoredTableRowIsSelected) {
 
 TEST_F(ParameterFields, AStoredRowOutsideTheTableOpensOnTheFirst) {
   for (const Integer row : {Integer{10}, Integer{-1}, Integer{-2}, Integer{32767}, Integer{-32768}}) {
-    program.WorkParms.Primary.TableRow = row;
-    program.WorkParms.Entries.Bolt.TableRow = row;
-    program.WorkParms.Intersections.Bolt.TableRow = row;
+    program.project.WorkParms.Primary.TableRow = row;
+    program.project.WorkParms.Entries.Bolt.TableRow = row;
+    program.project.WorkParms.Intersections.Bolt.TableRow = row;
     ParametersDialog other(program);
 
     other.Open();
@@ -135,9 +135,9 @@ TEST_F(ParameterFields, AStoredRowOutsideTheTableOpensOnTheFirst) {
 
 TEST_F(ParameterFields, AStoredRowOfTheLongTableOpensOnTheFirstOfTheAustralianOne) {
   StartDesign(Metric);
-  program.UseAUSStandardTable = 1;
+  program.project.UseAUSStandardTable = 1;
   for (const auto& [stored, row] : {std::pair{1, 2}, {2, 1}, {3, 1}, {4, 1}, {5, 1}, {6, 1}, {7, 1}, {8, 1}, {9, 1}}) {
-    for (BoltSelection* bolt : program.WorkParms.BoltSets()) {
+    for (BoltSelection* bolt : program.project.WorkParms.BoltSets()) {
       bolt->TableRow = static_cast<Integer>(stored);
     }
     ParametersDialog other(program);
@@ -212,8 +212,8 @@ TEST_F(ParameterLists, OfferTheStandardValuesOfUnitsAndStrength) {
 }
 
 TEST_F(ParameterLists, OfferOnlyTheEntriesInUse) {
-  program.catalogs.DefaultBoltGradeArrayENG.HighestIndex = 1;
-  program.catalogs.DefaultCableDiamArrayENG.HighestIndex = -1;
+  program.session.catalogs.DefaultBoltGradeArrayENG.HighestIndex = 1;
+  program.session.catalogs.DefaultCableDiamArrayENG.HighestIndex = -1;
 
   dialog.Open();
 
@@ -300,7 +300,7 @@ TEST_F(ParameterLists, StandingSupportsCarryTheirCapacityInKilonewtons) {
 }
 
 TEST_F(ParameterLists, AStandingSupportsCapacityIsRoundedToAWholeNumber) {
-  auto& capacities = program.catalogs.StandSupports.DefaultStandSupportCap;
+  auto& capacities = program.session.catalogs.StandSupports.DefaultStandSupportCap;
   capacities[0][PlaceOf(English)] = 72.5F;
   capacities[1][PlaceOf(English)] = 73.5F;
   capacities[2][PlaceOf(English)] = 40000.4F;
@@ -313,7 +313,7 @@ TEST_F(ParameterLists, AStandingSupportsCapacityIsRoundedToAWholeNumber) {
 }
 
 TEST_F(ParameterLists, AStandingSupportOfAnyCapacityCanBeChosen) {
-  program.catalogs.StandSupports.DefaultStandSupportCap[1][PlaceOf(English)] = 3e9F;
+  program.session.catalogs.StandSupports.DefaultStandSupportCap[1][PlaceOf(English)] = 3e9F;
   dialog.Open();
 
   dialog.cmbSupportTypeSecEntry.SetListIndex(1);
@@ -322,10 +322,10 @@ TEST_F(ParameterLists, AStandingSupportOfAnyCapacityCanBeChosen) {
 }
 
 TEST_F(ParameterLists, OfTwoStandingSupportsWithOneNameEachHasItsOwnCapacity) {
-  program.catalogs.StandSupports.DefaultStandSupportType[3] = "Steel Prop";
-  program.catalogs.StandSupports.DefaultStandSupportType[4] = "Steel Prop";
-  program.catalogs.StandSupports.DefaultStandSupportCap[3] = {60, 534};
-  program.catalogs.StandSupports.DefaultStandSupportCap[4] = {85, 756};
+  program.session.catalogs.StandSupports.DefaultStandSupportType[3] = "Steel Prop";
+  program.session.catalogs.StandSupports.DefaultStandSupportType[4] = "Steel Prop";
+  program.session.catalogs.StandSupports.DefaultStandSupportCap[3] = {60, 534};
+  program.session.catalogs.StandSupports.DefaultStandSupportCap[4] = {85, 756};
   dialog.Open();
 
   dialog.cmbSupportTypeSecEntry.SetListIndex(4);
@@ -364,8 +364,8 @@ TEST_F(ParameterFields, AMetricDesignStartsWithStandingSupportsOf500) {
 }
 
 TEST_F(ParameterFields, AStoredSupportThatTheCatalogLacksKeepsItsNameAndCapacity) {
-  program.WorkParms.Entries.Standing.TypeName = "Stone pack";
-  program.WorkParms.Entries.Standing.Capacity = 61.5F;
+  program.project.WorkParms.Entries.Standing.TypeName = "Stone pack";
+  program.project.WorkParms.Entries.Standing.Capacity = 61.5F;
 
   dialog.Open();
 
@@ -375,10 +375,10 @@ TEST_F(ParameterFields, AStoredSupportThatTheCatalogLacksKeepsItsNameAndCapacity
 }
 
 TEST_F(ParameterFields, AManualSupportOpensInTheTextFields) {
-  program.WorkParms.Entries.Standing.TypeMode = program.WorkParms.Intersections.Standing.TypeMode = 1;
-  program.WorkParms.Entries.Standing.TypeName = "Wood Post (6in)";
-  program.WorkParms.Intersections.Standing.TypeName = "Stone pack";
-  program.WorkParms.Intersections.Standing.Capacity = 33;
+  program.project.WorkParms.Entries.Standing.TypeMode = program.project.WorkParms.Intersections.Standing.TypeMode = 1;
+  program.project.WorkParms.Entries.Standing.TypeName = "Wood Post (6in)";
+  program.project.WorkParms.Intersections.Standing.TypeName = "Stone pack";
+  program.project.WorkParms.Intersections.Standing.Capacity = 33;
 
   dialog.Open();
 

@@ -191,9 +191,9 @@ TEST_F(ActualSupport, FollowsTheSelectedBolt) {
 }
 
 TEST_F(ActualSupport, TakesTheBoltFromTheListsOrAsTyped) {
-  program.WorkParms.Primary.Options = 1;
-  program.WorkParms.Primary.DiameterManual = 0.625F;
-  program.WorkParms.Primary.GradeManual = 60;
+  program.project.WorkParms.Primary.Options = 1;
+  program.project.WorkParms.Primary.DiameterManual = 0.625F;
+  program.project.WorkParms.Primary.GradeManual = 60;
 
   dialog.Open();
 
@@ -205,7 +205,7 @@ TEST_F(ActualSupport, TakesTheBoltFromTheListsOrAsTyped) {
 
 TEST_F(ActualSupport, OfAMetricDesignTakesMillimetresAndMPa) {
   StartDesign(Metric);
-  program.WorkParms.Primary.Options = 1;
+  program.project.WorkParms.Primary.Options = 1;
 
   dialog.Open();
 
@@ -219,7 +219,7 @@ TEST_F(ActualSupport, OfUltimateGradesIsThatOfTheirYield) {
   EXPECT_EQ(After("optBoltOptionsPrimary=1"), "9.9");
 
   StartDesign(Metric, StrengthBasis::Ultimate);
-  program.WorkParms.Primary.Options = 1;
+  program.project.WorkParms.Primary.Options = 1;
   ParametersDialog metric(program);
   metric.Open();
   EXPECT_EQ(metric.txtActualPSUP.Text(), "11.5");

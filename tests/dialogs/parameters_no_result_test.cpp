@@ -47,7 +47,7 @@ TEST_F(NoResultShown, OfAnEntryIsThatOfTheFailingSystemAlone) {
       // The trusses need the standing supports' spacing too.
       {"txtSupportRowSpacingSecEntry=1E40", {"10.6", "--", "16.6", "--", "1.06", "--", "1.66", "--"}},
   };
-  program.WorkParms.Entries.Bolt.TableRow = 6;
+  program.project.WorkParms.Entries.Bolt.TableRow = 6;
   for (const FailingSystem& failing : cases) {
     ParametersDialog other(program);
     other.Open();
@@ -68,7 +68,7 @@ TEST_F(NoResultShown, OfAnIntersectionIsThatOfTheFailingSystemAlone) {
       {"txtBoltNumberSecInter=-1E400", {"264", "170", "--", "200", "1.44", "0.93", "--", "1.09"}},
       {"txtSupportNumberSecInter=1E400", {"264", "170", "166", "--", "1.44", "0.93", "0.91", "--"}},
   };
-  program.WorkParms.Intersections.Bolt.TableRow = 6;
+  program.project.WorkParms.Intersections.Bolt.TableRow = 6;
   for (const FailingSystem& failing : cases) {
     ParametersDialog other(program);
     other.Open();
@@ -172,9 +172,9 @@ TEST_F(NoResultShown, IsStoredAsZero) {
 
   EXPECT_TRUE(dialog.SaveWorkParms());
 
-  EXPECT_EQ(program.WorkParms.Entries.Truss.SupportCap, 0);
-  EXPECT_EQ(program.WorkParms.Entries.Truss.StabFactor, 0);
-  EXPECT_EQ(program.WorkParms.Entries.Cable.StabFactor, 1.06F);
+  EXPECT_EQ(program.project.WorkParms.Entries.Truss.SupportCap, 0);
+  EXPECT_EQ(program.project.WorkParms.Entries.Truss.StabFactor, 0);
+  EXPECT_EQ(program.project.WorkParms.Entries.Cable.StabFactor, 1.06F);
 }
 
 // ---- numbers that nothing can hold ----------------------------------------------------------------------------------
@@ -233,30 +233,30 @@ TEST_F(NumbersBeyondAll, AreRefusedWithTheNameOfTheirField) {
       {"txtBoltNumberSecInter", "Number of Roof Bolts", 3, 0, 2},
       {"txtSupportNumberSecInter", "Number of Supports", 3, 0, 3},
   };
-  program.WorkParms.Primary.Analysed = 0;
-  program.WorkParms.Entries.Analysed = 0;
-  program.WorkParms.Intersections.Analysed = 0;
+  program.project.WorkParms.Primary.Analysed = 0;
+  program.project.WorkParms.Entries.Analysed = 0;
+  program.project.WorkParms.Intersections.Analysed = 0;
   for (const RefusedField& refused : cases) {
     for (Button ParametersDialog::*command : {&ParametersDialog::Command2, &ParametersDialog::cmdresults}) {
       ParametersDialog other(program);
       other.Open();
       Edit(other, "txtDepthofCover=512|optBoltDiameterPrimary=0|" + std::string(refused.field) + "= 1E39");
-      const Single before = program.WorkParmsCopy.Place.DepthofCover;
+      const Single before = program.windows.WorkParmsCopy.Place.DepthofCover;
       platform.boxes.shown.clear();
 
       (other.*command).Press();
 
       ASSERT_THAT(platform.boxes.Texts(), ElementsAre(std::string(refused.caption) + ": Value '1E39' is too large"));
-      EXPECT_EQ(platform.boxes.shown[0].title, program.titles.RangeErrorTitle);
+      EXPECT_EQ(platform.boxes.shown[0].title, program.windows.titles.RangeErrorTitle);
       EXPECT_EQ(platform.boxes.shown[0].style, box_style::Critical);
       EXPECT_EQ(other.SSTab1.Tab(), refused.outerTab) << refused.field;
       EXPECT_EQ(other.SSTab2.Tab(), refused.entryTab) << refused.field;
       EXPECT_EQ(other.SSTab3.Tab(), refused.interTab) << refused.field;
       EXPECT_EQ(other.FocusRequest(), other.Find(refused.field));
       EXPECT_TRUE(other.IsOpen());
-      EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
-      EXPECT_EQ(program.WorkParmsCopy.Place.DepthofCover, before);
-      EXPECT_TRUE(program.FileSaved);
+      EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
+      EXPECT_EQ(program.windows.WorkParmsCopy.Place.DepthofCover, before);
+      EXPECT_TRUE(program.project.FileSaved);
       EXPECT_EQ(platform.windows.modalForms, 0);
     }
   }

@@ -17,7 +17,7 @@ TEST_F(OpeningParameters, IsLoggedCentredAndFreeOfTheWaitCursor) {
 
   dialog.Open();
 
-  EXPECT_EQ(program.history.Text, "1. Editing Project Parameters\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. Editing Project Parameters\r\n");
   EXPECT_EQ(platform.windows.centered, 1);
   EXPECT_FALSE(platform.windows.waitCursor);
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
@@ -25,26 +25,26 @@ TEST_F(OpeningParameters, IsLoggedCentredAndFreeOfTheWaitCursor) {
 
 TEST_F(OpeningParameters, TakesTheDialogsFlagsTitlesAndReport) {
   dialog.HoldEvents = dialog.CommitOnClose = dialog.WasCommitted = true;
-  program.ReportCaller = report_caller::Cost;
+  program.windows.ReportCaller = report_caller::Cost;
 
   dialog.Open();
 
-  EXPECT_TRUE(program.DialogOpen);
+  EXPECT_TRUE(program.windows.DialogOpen);
   EXPECT_FALSE(dialog.HoldEvents);
   EXPECT_FALSE(dialog.CommitOnClose);
   EXPECT_FALSE(dialog.WasCommitted);
-  EXPECT_EQ(program.ReportCaller, 1);
-  EXPECT_EQ(program.titles.RangeErrorTitle, "Project Parameters: Range Error");
+  EXPECT_EQ(program.windows.ReportCaller, 1);
+  EXPECT_EQ(program.windows.titles.RangeErrorTitle, "Project Parameters: Range Error");
 }
 
 TEST_F(OpeningParameters, LeavesTheDesignAndItsFlagsAlone) {
   dialog.Open();
 
-  EXPECT_TRUE(program.FileSaved);
-  EXPECT_TRUE(program.FileEmpty);
-  EXPECT_FALSE(program.UnitsLocked);
-  EXPECT_EQ(program.WorkParms.Place.CMRR, 45);
-  EXPECT_EQ(program.WorkParms.Entries.RockLoad, 0);
+  EXPECT_TRUE(program.project.FileSaved);
+  EXPECT_TRUE(program.project.FileEmpty);
+  EXPECT_FALSE(program.project.UnitsLocked);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRR, 45);
+  EXPECT_EQ(program.project.WorkParms.Entries.RockLoad, 0);
 }
 
 TEST_F(OpeningParameters, ShowsTheGeneralTabAndTheCableTabs) {
@@ -66,9 +66,9 @@ std::vector<bool> EnabledTabs(const TabSet& tabs) {
 }
 
 TEST_F(OpeningParameters, EnablesTheTabsOfWhatIsAnalysed) {
-  program.WorkParms.Entries.Analysed = 0;
-  program.WorkParms.Entries.Truss.Use = 1;
-  program.WorkParms.Intersections.Standing.Use = 1;
+  program.project.WorkParms.Entries.Analysed = 0;
+  program.project.WorkParms.Entries.Truss.Use = 1;
+  program.project.WorkParms.Intersections.Standing.Use = 1;
 
   dialog.Open();
 
@@ -78,8 +78,8 @@ TEST_F(OpeningParameters, EnablesTheTabsOfWhatIsAnalysed) {
 }
 
 TEST_F(OpeningParameters, LeavesTheCableTabOpenWhenNoSystemIsChosen) {
-  program.WorkParms.Primary.Analysed = program.WorkParms.Intersections.Analysed = 0;
-  program.WorkParms.Entries.Cable.Use = program.WorkParms.Intersections.Cable.Use = 0;
+  program.project.WorkParms.Primary.Analysed = program.project.WorkParms.Intersections.Analysed = 0;
+  program.project.WorkParms.Entries.Cable.Use = program.project.WorkParms.Intersections.Cable.Use = 0;
 
   dialog.Open();
 
@@ -90,13 +90,13 @@ TEST_F(OpeningParameters, LeavesTheCableTabOpenWhenNoSystemIsChosen) {
 
 TEST_F(OpeningParameters, ForcesAMetricDesignToSpecifyCablesByCapacity) {
   StartDesign(Metric);
-  ASSERT_EQ(program.WorkParms.Entries.Cable.CapMode, 0);
-  ASSERT_EQ(program.WorkParms.Intersections.Cable.CapMode, 0);
+  ASSERT_EQ(program.project.WorkParms.Entries.Cable.CapMode, 0);
+  ASSERT_EQ(program.project.WorkParms.Intersections.Cable.CapMode, 0);
 
   dialog.Open();
 
-  EXPECT_EQ(program.WorkParms.Entries.Cable.CapMode, 1);
-  EXPECT_EQ(program.WorkParms.Intersections.Cable.CapMode, 1);
+  EXPECT_EQ(program.project.WorkParms.Entries.Cable.CapMode, 1);
+  EXPECT_EQ(program.project.WorkParms.Intersections.Cable.CapMode, 1);
   for (const OptionArray* options : {&dialog.optCableCapModeSecEntry, &dialog.optCableCapModeSecInter}) {
     EXPECT_FALSE(options->MemberEnabled(0)) << options->Name();
     EXPECT_TRUE(options->MemberEnabled(1)) << options->Name();
@@ -114,13 +114,13 @@ TEST_F(OpeningParameters, LeavesAnEnglishDesignTheChoiceOfCableDiameters) {
 }
 
 TEST_F(OpeningParameters, HandsTheRatingsOriginToTheEstimator) {
-  program.WorkParms.Place.CMRRRegionIndex = 4;
-  program.WorkParms.Place.CMRRRockTypeIndex = 3;
+  program.project.WorkParms.Place.CMRRRegionIndex = 4;
+  program.project.WorkParms.Place.CMRRRockTypeIndex = 3;
 
   dialog.Open();
 
-  EXPECT_EQ(program.estimator.EstimatorRegion, 4);
-  EXPECT_EQ(program.estimator.EstimatorRockType, 3);
+  EXPECT_EQ(program.windows.estimator.EstimatorRegion, 4);
+  EXPECT_EQ(program.windows.estimator.EstimatorRockType, 3);
   EXPECT_EQ(dialog.txtRegion.Text(), "");
   EXPECT_EQ(dialog.txtOption.Text(), "");
 }
@@ -136,7 +136,7 @@ TEST_F(OpeningParameters, ShowsTheFourLiveResultsOnce) {
 
 TEST_F(OpeningParameters, RunsNoRefreshWhileTheFieldsAreFilled) {
   // The depth cannot be computed with, so what it is refreshed with while the fields are filled would stay.
-  program.WorkParms.Place.DepthofCover = 0;
+  program.project.WorkParms.Place.DepthofCover = 0;
 
   dialog.Open();
 
@@ -146,7 +146,7 @@ TEST_F(OpeningParameters, RunsNoRefreshWhileTheFieldsAreFilled) {
 }
 
 TEST_F(OpeningParameters, WithADepthOfZeroLeavesItToBeRepaired) {
-  program.WorkParms.Place.DepthofCover = 0;
+  program.project.WorkParms.Place.DepthofCover = 0;
   dialog.Open();
   dialog.Command2.Press();
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid depth of cover"));
@@ -157,7 +157,7 @@ TEST_F(OpeningParameters, WithADepthOfZeroLeavesItToBeRepaired) {
   dialog.Command2.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
 }
 
 TEST_F(OpeningParameters, TellsOfAnOptionThatDoesNotExistAndFails) {
@@ -179,7 +179,7 @@ TEST_F(OpeningParameters, TellsOfAnOptionThatDoesNotExistAndFails) {
   for (const auto field : fields) {
     for (const Integer index : {Integer{2}, Integer{-1}}) {
       StartDesign(English);
-      field.In(program.WorkParms) = index;
+      field.In(program.project.WorkParms) = index;
       platform.boxes.shown.clear();
       ParametersDialog other(program);
 
@@ -226,12 +226,12 @@ TEST_F(ClosingParameters, WithOkCommitsAndLocksTheUnits) {
 
   EXPECT_FALSE(dialog.IsOpen());
   EXPECT_TRUE(dialog.WasCommitted);
-  EXPECT_EQ(program.WorkParms.Place.EntryWidth, 19);
-  EXPECT_TRUE(program.UnitsLocked);
-  EXPECT_FALSE(program.FileSaved);
-  EXPECT_FALSE(program.FileEmpty);
-  EXPECT_FALSE(program.DialogOpen);
-  EXPECT_EQ(program.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Modified\r\n");
+  EXPECT_EQ(program.project.WorkParms.Place.EntryWidth, 19);
+  EXPECT_TRUE(program.project.UnitsLocked);
+  EXPECT_FALSE(program.project.FileSaved);
+  EXPECT_FALSE(program.project.FileEmpty);
+  EXPECT_FALSE(program.windows.DialogOpen);
+  EXPECT_EQ(program.session.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Modified\r\n");
 }
 
 TEST_F(ClosingParameters, WithOkCountsAsAModificationEvenWithoutAChange) {
@@ -239,8 +239,8 @@ TEST_F(ClosingParameters, WithOkCountsAsAModificationEvenWithoutAChange) {
 
   dialog.Command2.Press();
 
-  EXPECT_FALSE(program.FileSaved);
-  EXPECT_EQ(program.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Modified\r\n");
+  EXPECT_FALSE(program.project.FileSaved);
+  EXPECT_EQ(program.session.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Modified\r\n");
 }
 
 TEST_F(ClosingParameters, WithCancelOrTheWindowsCloseSavesNothing) {
@@ -258,26 +258,26 @@ TEST_F(ClosingParameters, WithCancelOrTheWindowsCloseSavesNothing) {
 
     EXPECT_FALSE(other.IsOpen());
     EXPECT_FALSE(other.WasCommitted);
-    EXPECT_EQ(program.WorkParms.Place.EntryWidth, 20);
-    EXPECT_FALSE(program.UnitsLocked);
-    EXPECT_TRUE(program.FileSaved);
-    EXPECT_TRUE(program.FileEmpty);
-    EXPECT_FALSE(program.DialogOpen);
-    EXPECT_EQ(program.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Not Modified\r\n");
+    EXPECT_EQ(program.project.WorkParms.Place.EntryWidth, 20);
+    EXPECT_FALSE(program.project.UnitsLocked);
+    EXPECT_TRUE(program.project.FileSaved);
+    EXPECT_TRUE(program.project.FileEmpty);
+    EXPECT_FALSE(program.windows.DialogOpen);
+    EXPECT_EQ(program.session.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Not Modified\r\n");
   }
 }
 
 TEST_F(ClosingParameters, WithCancelKeepsTheCableModeThatAMetricDesignIsForcedTo) {
   StartDesign(Metric);
-  ASSERT_EQ(program.WorkParms.Entries.Cable.CapMode, 0);
-  ASSERT_EQ(program.WorkParms.Intersections.Cable.CapMode, 0);
+  ASSERT_EQ(program.project.WorkParms.Entries.Cable.CapMode, 0);
+  ASSERT_EQ(program.project.WorkParms.Intersections.Cable.CapMode, 0);
   dialog.Open();
 
   dialog.Command1.Press();
 
-  EXPECT_EQ(program.WorkParms.Entries.Cable.CapMode, 1);
-  EXPECT_EQ(program.WorkParms.Intersections.Cable.CapMode, 1);
-  EXPECT_TRUE(program.FileSaved);
+  EXPECT_EQ(program.project.WorkParms.Entries.Cable.CapMode, 1);
+  EXPECT_EQ(program.project.WorkParms.Intersections.Cable.CapMode, 1);
+  EXPECT_TRUE(program.project.FileSaved);
 }
 
 TEST_F(ClosingParameters, IsRefusedByOkWhileAFieldIsWrong) {
@@ -289,7 +289,7 @@ TEST_F(ClosingParameters, IsRefusedByOkWhileAFieldIsWrong) {
   EXPECT_TRUE(dialog.IsOpen());
   EXPECT_FALSE(dialog.CommitOnClose);
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid CMRR"));
-  EXPECT_TRUE(program.FileSaved);
+  EXPECT_TRUE(program.project.FileSaved);
   EXPECT_EQ(dialog.txtCMRR.Text(), "100");
 }
 

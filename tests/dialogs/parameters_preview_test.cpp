@@ -24,7 +24,7 @@ TEST_F(ParameterPreview, JudgesAllBoltsWithThePrimaryTabsManualSelection) {
 
   dialog.CopyToWorkParmsCopy();
 
-  const Design& copy = program.WorkParmsCopy;
+  const Design& copy = program.windows.WorkParmsCopy;
   for (const BoltSelection* bolt : copy.BoltSets()) {
     EXPECT_EQ(bolt->DiameterMode, 1);
     EXPECT_EQ(bolt->DiameterStd, 0.875F);
@@ -42,7 +42,7 @@ TEST_F(ParameterPreview, TakesTheRestOfEachBoltFromItsOwnTab) {
 
   dialog.CopyToWorkParmsCopy();
 
-  const Design& copy = program.WorkParmsCopy;
+  const Design& copy = program.windows.WorkParmsCopy;
   EXPECT_EQ(copy.Primary.Options, 0);
   EXPECT_EQ(copy.Primary.TableRow, 0);
   EXPECT_EQ(copy.Entries.Bolt.Options, 1);
@@ -63,32 +63,32 @@ TEST_F(ParameterPreview, TakesTheCableDiameterOfBothFromTheEntries) {
 
   dialog.CopyToWorkParmsCopy();
 
-  EXPECT_EQ(program.WorkParmsCopy.Entries.Cable.Diam, 0.7F);
-  EXPECT_EQ(program.WorkParmsCopy.Intersections.Cable.Diam, 0.7F);
+  EXPECT_EQ(program.windows.WorkParmsCopy.Entries.Cable.Diam, 0.7F);
+  EXPECT_EQ(program.windows.WorkParmsCopy.Intersections.Cable.Diam, 0.7F);
 }
 
 TEST_F(ParameterPreview, CopiesTheFieldsWithoutCommittingThem) {
-  program.WorkParmsCopy.Cost.BoltCost = 9;
+  program.windows.WorkParmsCopy.Cost.BoltCost = 9;
   dialog.Open();
   Do("txtCMRR=51.5|txtDepthofCover=512.5|txtSupportNumberSecInter=7|optSupportTypeSecInter=1|"
      "txtSupportTypeSecInter=Stone pack");
-  program.estimator.EstimatorRegion = 3;
-  program.estimator.EstimatorRockType = 5;
+  program.windows.estimator.EstimatorRegion = 3;
+  program.windows.estimator.EstimatorRockType = 5;
 
   dialog.CopyToWorkParmsCopy();
 
-  EXPECT_EQ(program.WorkParmsCopy.Place.CMRR, 52);
-  EXPECT_EQ(program.WorkParmsCopy.Place.CMRRRegionIndex, 3);
-  EXPECT_EQ(program.WorkParmsCopy.Place.CMRRRockTypeIndex, 5);
-  EXPECT_EQ(program.WorkParmsCopy.Place.DepthofCover, 512.5F);
-  EXPECT_EQ(program.WorkParmsCopy.Intersections.Standing.Number, 7);
-  EXPECT_EQ(program.WorkParmsCopy.Intersections.Standing.TypeName, "Stone pack");
-  EXPECT_EQ(program.WorkParmsCopy.Entries.Cable.StabFactor, 1.06F);
-  EXPECT_EQ(program.WorkParmsCopy.Cost.BoltCost, 9);
-  EXPECT_EQ(program.WorkParms.Place.CMRR, 45);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
-  EXPECT_TRUE(program.FileSaved);
-  EXPECT_TRUE(program.FileEmpty);
+  EXPECT_EQ(program.windows.WorkParmsCopy.Place.CMRR, 52);
+  EXPECT_EQ(program.windows.WorkParmsCopy.Place.CMRRRegionIndex, 3);
+  EXPECT_EQ(program.windows.WorkParmsCopy.Place.CMRRRockTypeIndex, 5);
+  EXPECT_EQ(program.windows.WorkParmsCopy.Place.DepthofCover, 512.5F);
+  EXPECT_EQ(program.windows.WorkParmsCopy.Intersections.Standing.Number, 7);
+  EXPECT_EQ(program.windows.WorkParmsCopy.Intersections.Standing.TypeName, "Stone pack");
+  EXPECT_EQ(program.windows.WorkParmsCopy.Entries.Cable.StabFactor, 1.06F);
+  EXPECT_EQ(program.windows.WorkParmsCopy.Cost.BoltCost, 9);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRR, 45);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
+  EXPECT_TRUE(program.project.FileSaved);
+  EXPECT_TRUE(program.project.FileEmpty);
   EXPECT_FALSE(dialog.WasCommitted);
 }
 
@@ -97,31 +97,31 @@ TEST_F(ParameterPreview, CopiesTheFieldsWithoutCommittingThem) {
 TEST_F(ParameterPreview, ShowsTheResultsOfTheFieldsAsTheyStand) {
   dialog.Open();
   Do("txtDepthofCover=512.5|txtStabilityFactor=1.5");
-  program.ReportCaller = report_caller::None;
+  program.windows.ReportCaller = report_caller::None;
 
   dialog.cmdresults.Press();
 
   EXPECT_EQ(platform.windows.modalForms, 1);
-  EXPECT_THAT(program.OutBuf[0], HasSubstr("512.5 (ft)"));
-  EXPECT_THAT(program.OutBuf[1], HasSubstr("[ORBY CALCULATIONS]"));
-  EXPECT_EQ(program.ReportCaller, 1);
-  EXPECT_EQ(program.LastPage, 1);
+  EXPECT_THAT(program.session.OutBuf[0], HasSubstr("512.5 (ft)"));
+  EXPECT_THAT(program.session.OutBuf[1], HasSubstr("[ORBY CALCULATIONS]"));
+  EXPECT_EQ(program.windows.ReportCaller, 1);
+  EXPECT_EQ(program.windows.LastPage, 1);
 }
 
 TEST_F(ParameterPreview, HasRestoredTheDesignBeforeTheResultsAreOnView) {
-  program.WorkParms.Cost.BoltCost = 3.75F;
+  program.project.WorkParms.Cost.BoltCost = 3.75F;
   dialog.Open();
   Do("txtDepthofCover=512.5|chkPrimSupport=0|optBoltOptionsSecEntry=1|txtTrussCapacitySecInter=44");
   bool shown = false;
   platform.windows.onModal = [&](Form&) {
     shown = true;
-    EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
-    EXPECT_EQ(program.WorkParms.Primary.Analysed, 1);
-    EXPECT_EQ(program.WorkParms.Entries.Bolt.Options, 0);
-    EXPECT_EQ(program.WorkParms.Intersections.Truss.Capacity, 30);
-    EXPECT_EQ(program.WorkParms.Entries.RockLoad, 0);
-    EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3.75F);
-    EXPECT_EQ(program.WorkParmsCopy.Place.DepthofCover, 512.5F);
+    EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
+    EXPECT_EQ(program.project.WorkParms.Primary.Analysed, 1);
+    EXPECT_EQ(program.project.WorkParms.Entries.Bolt.Options, 0);
+    EXPECT_EQ(program.project.WorkParms.Intersections.Truss.Capacity, 30);
+    EXPECT_EQ(program.project.WorkParms.Entries.RockLoad, 0);
+    EXPECT_EQ(program.project.WorkParms.Cost.BoltCost, 3.75F);
+    EXPECT_EQ(program.windows.WorkParmsCopy.Place.DepthofCover, 512.5F);
   };
 
   dialog.cmdresults.Press();
@@ -135,10 +135,10 @@ TEST_F(ParameterPreview, LeavesTheDesignAsItWasWhenTheReportFails) {
 
   EXPECT_EQ(ErrorNumberOf([this] { dialog.cmdresults.Press(); }), 11);
 
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
-  EXPECT_EQ(program.WorkParms.Intersections.Truss.Capacity, 30);
-  EXPECT_EQ(program.WorkParms.Entries.RockFallAngle, 30);
-  EXPECT_EQ(program.WorkParmsCopy.Place.DepthofCover, 512.5F);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
+  EXPECT_EQ(program.project.WorkParms.Intersections.Truss.Capacity, 30);
+  EXPECT_EQ(program.project.WorkParms.Entries.RockFallAngle, 30);
+  EXPECT_EQ(program.windows.WorkParmsCopy.Place.DepthofCover, 512.5F);
   EXPECT_EQ(platform.windows.modalForms, 0);
 }
 
@@ -147,11 +147,11 @@ TEST_F(ParameterPreview, GivesTheSameReportTwice) {
   Do(AllSystems);
   Do("txtDepthofCover=512.5");
   dialog.cmdresults.Press();
-  const auto first = program.OutBuf;
+  const auto first = program.session.OutBuf;
 
   dialog.cmdresults.Press();
 
-  EXPECT_EQ(program.OutBuf, first);
+  EXPECT_EQ(program.session.OutBuf, first);
   EXPECT_EQ(platform.windows.modalForms, 2);
 }
 
@@ -164,27 +164,27 @@ TEST_F(ParameterPreview, LeavesTheDialogOpenAndTheFileUnchanged) {
   EXPECT_TRUE(dialog.IsOpen());
   EXPECT_FALSE(dialog.CommitOnClose);
   EXPECT_FALSE(dialog.WasCommitted);
-  EXPECT_TRUE(program.FileSaved);
-  EXPECT_TRUE(program.FileEmpty);
-  EXPECT_FALSE(program.UnitsLocked);
+  EXPECT_TRUE(program.project.FileSaved);
+  EXPECT_TRUE(program.project.FileEmpty);
+  EXPECT_FALSE(program.project.UnitsLocked);
   EXPECT_EQ(dialog.txtDepthofCover.Text(), "512.5");
 
   dialog.Command1.Press();
 
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
 }
 
 TEST_F(ParameterPreview, IsRefusedWhileAFieldIsWrong) {
   dialog.Open();
   Do("txtRockFallAngle=61");
-  const auto before = program.OutBuf;
+  const auto before = program.session.OutBuf;
 
   dialog.cmdresults.Press();
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid roof fall angle"));
   EXPECT_EQ(platform.windows.modalForms, 0);
-  EXPECT_EQ(program.OutBuf, before);
-  EXPECT_EQ(program.WorkParmsCopy.Entries.RockFallAngle, 0);
+  EXPECT_EQ(program.session.OutBuf, before);
+  EXPECT_EQ(program.windows.WorkParmsCopy.Entries.RockFallAngle, 0);
 }
 
 TEST_F(ParameterPreview, CanBeBuiltWithoutTheChecks) {
@@ -194,9 +194,9 @@ TEST_F(ParameterPreview, CanBeBuiltWithoutTheChecks) {
   dialog.BuildReport();
 
   EXPECT_THAT(platform.boxes.Texts(), IsEmpty());
-  EXPECT_THAT(program.OutBuf[0], HasSubstr("61 (deg)"));
+  EXPECT_THAT(program.session.OutBuf[0], HasSubstr("61 (deg)"));
   EXPECT_EQ(platform.windows.modalForms, 0);
-  EXPECT_EQ(program.WorkParms.Entries.RockFallAngle, 30);
+  EXPECT_EQ(program.project.WorkParms.Entries.RockFallAngle, 30);
 }
 
 TEST_F(ParameterPreview, OfAMetricDesignIsInItsUnits) {
@@ -206,7 +206,7 @@ TEST_F(ParameterPreview, OfAMetricDesignIsInItsUnits) {
   dialog.cmdresults.Press();
 
   ASSERT_THAT(platform.boxes.Texts(), IsEmpty());
-  EXPECT_THAT(program.OutBuf[0], HasSubstr("150 (m)"));
+  EXPECT_THAT(program.session.OutBuf[0], HasSubstr("150 (m)"));
 }
 
 }  // namespace

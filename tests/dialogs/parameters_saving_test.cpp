@@ -118,7 +118,7 @@ TEST_F(SavingParameters, PutsEachNumberIntoItsField) {
 
   ASSERT_THAT(platform.boxes.Texts(), IsEmpty());
   for (const SavedNumber& saved : SavedNumbers) {
-    EXPECT_EQ(saved.field.In(program.WorkParms), saved.value) << saved.control;
+    EXPECT_EQ(saved.field.In(program.project.WorkParms), saved.value) << saved.control;
   }
 }
 
@@ -144,7 +144,7 @@ TEST_F(SavingParameters, PutsEachChoiceIntoItsFieldAlone) {
     other.SaveWorkParms();
 
     for (const SavedFlag& saved : SavedFlags) {
-      EXPECT_EQ(saved.field.In(program.WorkParms), saved.control == set.control ? 1 : 0)
+      EXPECT_EQ(saved.field.In(program.project.WorkParms), saved.control == set.control ? 1 : 0)
           << saved.control << " after " << set.control;
     }
   }
@@ -156,19 +156,19 @@ TEST_F(SavingParameters, KeepsTheFieldsOfSystemsOutOfUse) {
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.Entries.Cable.Length, 17);
-  EXPECT_EQ(program.WorkParms.Intersections.Truss.Capacity, 44);
-  EXPECT_EQ(program.WorkParms.Entries.Cable.Use, 0);
+  EXPECT_EQ(program.project.WorkParms.Entries.Cable.Length, 17);
+  EXPECT_EQ(program.project.WorkParms.Intersections.Truss.Capacity, 44);
+  EXPECT_EQ(program.project.WorkParms.Entries.Cable.Use, 0);
 }
 
 TEST_F(SavingParameters, LeavesTheCostsAlone) {
-  program.WorkParms.Cost.BoltCost = 3.75F;
+  program.project.WorkParms.Cost.BoltCost = 3.75F;
   dialog.Open();
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3.75F);
-  EXPECT_EQ(program.WorkParms.Cost.WeeksYear, 50);
+  EXPECT_EQ(program.project.WorkParms.Cost.BoltCost, 3.75F);
+  EXPECT_EQ(program.project.WorkParms.Cost.WeeksYear, 50);
 }
 
 // ---- the intersections' manual selection ----------------------------------------------------------------------------
@@ -181,7 +181,7 @@ TEST_F(SavingParameters, MakesTheIntersectionsManualBoltsAndCableThoseOfTheEntri
 
   dialog.Command2.Press();
 
-  const Design& record = program.WorkParms;
+  const Design& record = program.project.WorkParms;
   EXPECT_EQ(record.Intersections.Bolt.DiameterMode, 0);
   EXPECT_EQ(record.Intersections.Bolt.DiameterStd, 0.688F);
   EXPECT_EQ(record.Intersections.Bolt.DiameterManual, 0.82F);
@@ -200,12 +200,12 @@ TEST_F(SavingParameters, ForgetsACableDiameterChosenForIntersectionsAlone) {
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.Intersections.Cable.Diam, 0.6F);
-  EXPECT_EQ(program.WorkParms.Intersections.Cable.SupportCap, 357);
+  EXPECT_EQ(program.project.WorkParms.Intersections.Cable.Diam, 0.6F);
+  EXPECT_EQ(program.project.WorkParms.Intersections.Cable.SupportCap, 357);
 }
 
 TEST_F(SavingParameters, LoadsTheIntersectionsOwnSelectionAllTheSame) {
-  Design& record = program.WorkParms;
+  Design& record = program.project.WorkParms;
   record.Intersections.Bolt.DiameterMode = record.Intersections.Bolt.GradeMode = 1;
   record.Intersections.Bolt.DiameterStd = 0.804F;
   record.Intersections.Bolt.DiameterManual = 0.83F;
@@ -232,7 +232,7 @@ TEST_F(SavingParameters, TakesEachBoltFromItsOwnTable) {
 
   dialog.Command2.Press();
 
-  const Design& record = program.WorkParms;
+  const Design& record = program.project.WorkParms;
   EXPECT_EQ(record.Primary.TableRow, 3);
   EXPECT_EQ(record.Primary.Desc, "#6 special rebar - grade 75");
   EXPECT_EQ(record.Primary.TableDiameter, 0.677F);
@@ -254,9 +254,9 @@ TEST_F(SavingParameters, TakesASupportsNameFromTheListOrFromTheText) {
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.Entries.Standing.TypeName, "CAN (24in)");
-  EXPECT_EQ(program.WorkParms.Entries.Standing.Capacity, 95);
-  EXPECT_EQ(program.WorkParms.Intersections.Standing.TypeName, "Stone pack");
+  EXPECT_EQ(program.project.WorkParms.Entries.Standing.TypeName, "CAN (24in)");
+  EXPECT_EQ(program.project.WorkParms.Entries.Standing.Capacity, 95);
+  EXPECT_EQ(program.project.WorkParms.Intersections.Standing.TypeName, "Stone pack");
 }
 
 TEST_F(SavingParameters, LosesTheNameOfAnIntersectionsSupportThatWasTypedInBetween) {
@@ -265,7 +265,7 @@ TEST_F(SavingParameters, LosesTheNameOfAnIntersectionsSupportThatWasTypedInBetwe
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.Intersections.Standing.TypeName, "");
+  EXPECT_EQ(program.project.WorkParms.Intersections.Standing.TypeName, "");
 }
 
 // ---- the rating -----------------------------------------------------------------------------------------------------
@@ -276,7 +276,7 @@ TEST_F(SavingParameters, RoundsTheRatingWithTiesToTheEvenNumber) {
        {std::pair{"44.5", 44}, std::pair{"45.5", 46}, std::pair{"45.4", 45}, std::pair{"99.5", 100}}) {
     dialog.txtCMRR.SetText(text);
     dialog.SaveWorkParms();
-    EXPECT_EQ(program.WorkParms.Place.CMRR, rating) << text;
+    EXPECT_EQ(program.project.WorkParms.Place.CMRR, rating) << text;
   }
 }
 
@@ -287,21 +287,21 @@ TEST_F(SavingParameters, RefusesARatingThatIsNoInteger) {
   EXPECT_FALSE(dialog.SaveWorkParms());
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("CMRR: Value '40000' is too large"));
-  EXPECT_EQ(program.WorkParms.Place.CMRR, 45);
-  EXPECT_TRUE(program.FileSaved);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRR, 45);
+  EXPECT_TRUE(program.project.FileSaved);
   EXPECT_FALSE(dialog.WasCommitted);
 }
 
 TEST_F(SavingParameters, TakesTheRatingsOriginFromTheEstimatorAndNotFromTheHiddenText) {
   dialog.Open();
-  program.estimator.EstimatorRegion = 3;
-  program.estimator.EstimatorRockType = 5;
+  program.windows.estimator.EstimatorRegion = 3;
+  program.windows.estimator.EstimatorRockType = 5;
   Do("txtRegion=1|txtOption=2");
 
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.WorkParms.Place.CMRRRegionIndex, 3);
-  EXPECT_EQ(program.WorkParms.Place.CMRRRockTypeIndex, 5);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRRRegionIndex, 3);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRRRockTypeIndex, 5);
 }
 
 // ---- the design as it is being edited -------------------------------------------------------------------------------
@@ -309,10 +309,10 @@ TEST_F(SavingParameters, TakesTheRatingsOriginFromTheEstimatorAndNotFromTheHidde
 TEST_F(SavingParameters, GivesTheDesignThatACommitWouldStoreWithoutCommittingIt) {
   dialog.Open();
   Do("txtDepthofCover=512.5|cmbBoltGradeSecEntry=60|cmbBoltGradeSecInter=100|chkSecEntries_3=1");
-  program.estimator.EstimatorRegion = 3;
-  program.WorkParms.Cost.BoltCost = 3.75F;
+  program.windows.estimator.EstimatorRegion = 3;
+  program.project.WorkParms.Cost.BoltCost = 3.75F;
 
-  Design edited = program.WorkParms;
+  Design edited = program.project.WorkParms;
   dialog.ReadEdits(edited);
 
   EXPECT_EQ(edited.Place.DepthofCover, 512.5F);
@@ -321,10 +321,10 @@ TEST_F(SavingParameters, GivesTheDesignThatACommitWouldStoreWithoutCommittingIt)
   EXPECT_EQ(edited.Place.CMRRRegionIndex, 3);
   EXPECT_EQ(edited.Entries.Cable.StabFactor, 1.06F);
   EXPECT_EQ(edited.Cost.BoltCost, 3.75F);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
-  EXPECT_EQ(program.WorkParms.Entries.Cable.StabFactor, 0);
-  EXPECT_TRUE(program.FileSaved);
-  EXPECT_TRUE(program.FileEmpty);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
+  EXPECT_EQ(program.project.WorkParms.Entries.Cable.StabFactor, 0);
+  EXPECT_TRUE(program.project.FileSaved);
+  EXPECT_TRUE(program.project.FileEmpty);
   EXPECT_FALSE(dialog.WasCommitted);
 }
 

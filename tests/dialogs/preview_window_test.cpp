@@ -10,8 +10,8 @@ namespace {
 // A report of two pages.
 struct APreview : testing::Test {
   APreview() {
-    program.OutBuf = {"inputs\r\n", "calculations\r\n", "", "", ""};
-    program.LastPage = 1;
+    program.session.OutBuf = {"inputs\r\n", "calculations\r\n", "", "", ""};
+    program.windows.LastPage = 1;
   }
 
   RecordingPlatform platform;
@@ -61,7 +61,7 @@ TEST_F(APreview, CopiesThePageOnView) {
   window.Command2.Press();
 
   EXPECT_EQ(platform.clipboard.text, "calculations\r\n");
-  EXPECT_EQ(program.history.Text, "1. Page 1 copied to clipboard\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. Page 1 copied to clipboard\r\n");
 }
 
 TEST_F(APreview, IsShownUntilItIsClosed) {

@@ -22,12 +22,12 @@ using testing::SizeIs;
 // A report of two pages that the parameters dialog asked for, and the default design for its curves.
 struct AResultsWindow : testing::Test {
   AResultsWindow() {
-    program.OutBuf = {"inputs\r\n", "calculations\r\n", "", "", ""};
-    program.LastPage = 1;
-    program.ReportCaller = report_caller::Parameters;
-    program.DialogOpen = true;
-    program.OpenInputDialog = [this](Integer caller) { reopened.push_back(caller); };
-    Design& design = program.WorkParmsCopy;
+    program.session.OutBuf = {"inputs\r\n", "calculations\r\n", "", "", ""};
+    program.windows.LastPage = 1;
+    program.windows.ReportCaller = report_caller::Parameters;
+    program.windows.DialogOpen = true;
+    program.windows.OpenInputDialog = [this](Integer caller) { reopened.push_back(caller); };
+    Design& design = program.windows.WorkParmsCopy;
     design.Place.CMRR = 45;
     design.Place.DepthofCover = 400;
     design.Primary.StabilityFactor = 1;
@@ -71,7 +71,7 @@ TEST_F(AResultsWindow, OpensOnTheFirstPageInPlaceOfTheMainWindow) {
   EXPECT_EQ(window.RichTextBox1.Text(), "inputs\r\n");
   EXPECT_EQ(window.RichTextBox1.Font(), (FontChoice{"Courier New", 10}));
   EXPECT_EQ(window.RichTextBox1.Kind(), TextKind::Output);
-  EXPECT_EQ(program.history.Text, "1. Results displayed\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. Results displayed\r\n");
   EXPECT_EQ(platform.windows.centered, 1);
 }
 
@@ -140,7 +140,7 @@ TEST_F(AResultsWindow, StopsAtBothEnds) {
 }
 
 TEST_F(AResultsWindow, EnablesBothButtonsOnAPageBetween) {
-  program.LastPage = 4;
+  program.windows.LastPage = 4;
   window.Open();
 
   window.Command4.Press();
@@ -170,7 +170,7 @@ TEST_F(AResultsWindow, CopiesThePageOnView) {
   window.Command4.Press();
   window.Command2.Press();
   EXPECT_EQ(platform.clipboard.text, "calculations\r\n");
-  EXPECT_EQ(program.history.Text,
+  EXPECT_EQ(program.session.history.Text,
             "1. Results displayed\r\n2. Page 0 copied to clipboard\r\n3. Page 1 copied to clipboard\r\n");
 }
 
@@ -185,7 +185,7 @@ struct NotingClipboard : RecordingClipboard {
 TEST_F(AResultsWindow, ClearsTheClipboardBeforeItCopiesAPage) {
   NotingClipboard clipboard;
   Program other(platform.DoorsWith(clipboard));
-  other.OutBuf = program.OutBuf;
+  other.session.OutBuf = program.session.OutBuf;
   ResultsWindow results(other);
   results.Open();
 
@@ -195,14 +195,14 @@ TEST_F(AResultsWindow, ClearsTheClipboardBeforeItCopiesAPage) {
 }
 
 TEST_F(AResultsWindow, CopiesAllPagesWithNothingBetweenThem) {
-  program.OutBuf[2] = "left over";
+  program.session.OutBuf[2] = "left over";
   window.Open();
   window.Command4.Press();
 
   window.Command7.Press();
 
   EXPECT_EQ(platform.clipboard.text, "inputs\r\ncalculations\r\n");
-  EXPECT_THAT(program.history.Text, EndsWith("2. Output copied to clipboard\r\n"));
+  EXPECT_THAT(program.session.history.Text, EndsWith("2. Output copied to clipboard\r\n"));
 }
 
 // ---- printing -------------------------------------------------------------------------------------------------------
@@ -219,7 +219,7 @@ TEST_F(AResultsWindow, PrintsThePageOnView) {
   EXPECT_THAT(FirstSheet(), HasSubstr("Page: 1\r\n"));
   EXPECT_THAT(FirstSheet(), EndsWith("\r\ncalculations\r\n"));
   EXPECT_THAT(FirstSheet(), Not(HasSubstr("inputs")));
-  EXPECT_THAT(program.history.Text, EndsWith("2. Current page printed\r\n"));
+  EXPECT_THAT(program.session.history.Text, EndsWith("2. Current page printed\r\n"));
   EXPECT_EQ(window.RichTextBox1.Text(), "calculations\r\n");
   EXPECT_EQ(window.RichTextBox1.SelectionStart(), 0U);
 }
@@ -232,7 +232,7 @@ TEST_F(AResultsWindow, PrintsAllPagesAsOneText) {
   EXPECT_EQ(platform.printer.chosen, 1);
   EXPECT_THAT(platform.printer.pages, SizeIs(1));
   EXPECT_THAT(FirstSheet(), EndsWith("\r\ninputs\r\ncalculations\r\n"));
-  EXPECT_THAT(program.history.Text, EndsWith("2. All pages printed\r\n"));
+  EXPECT_THAT(program.session.history.Text, EndsWith("2. All pages printed\r\n"));
 }
 
 TEST_F(AResultsWindow, PrintsNothingWhenThePrinterDialogIsCancelled) {
@@ -243,7 +243,7 @@ TEST_F(AResultsWindow, PrintsNothingWhenThePrinterDialogIsCancelled) {
 
   EXPECT_THAT(platform.printer.pages, IsEmpty());
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(program.history.Text, "1. Results displayed\r\n2. All pages printed\r\n3. Printing aborted\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. Results displayed\r\n2. All pages printed\r\n3. Printing aborted\r\n");
   EXPECT_TRUE(window.IsOpen());
 }
 
@@ -259,15 +259,15 @@ TEST_F(AResultsWindow, AsksToTryAgainWithoutAPrinterAndStaysOpen) {
   EXPECT_EQ(platform.boxes.shown[0].text, "Error occurred: Printer error (482)");
   EXPECT_EQ(platform.boxes.shown[0].style, box_style::RetryCancel);
   EXPECT_THAT(platform.printer.pages, IsEmpty());
-  EXPECT_THAT(program.history.Text, Not(HasSubstr("Printing aborted")));
+  EXPECT_THAT(program.session.history.Text, Not(HasSubstr("Printing aborted")));
   EXPECT_TRUE(window.IsOpen());
 }
 
 TEST_F(AResultsWindow, PrintsAgainOnThePrinterThatWasChosenWhenItJams) {
   JammedPrinter jammed;
   Program other(platform.DoorsWith(jammed));
-  other.OutBuf = program.OutBuf;
-  other.LastPage = 1;
+  other.session.OutBuf = program.session.OutBuf;
+  other.windows.LastPage = 1;
   platform.boxes.answers = {box_result::Retry};
   ResultsWindow results(other);
   results.Open();
@@ -318,8 +318,8 @@ TEST_F(AResultsWindow, DrawsTheChosenCurveAndHidesTheList) {
   window.lstGraphs.ClickItem(5);
 
   EXPECT_FALSE(window.lstGraphs.Visible());
-  EXPECT_EQ(program.curve.CurveIndex, 5);
-  EXPECT_EQ(program.curve.CurvePointCount, 25);
+  EXPECT_EQ(program.windows.curve.CurveIndex, 5);
+  EXPECT_EQ(program.windows.curve.CurvePointCount, 25);
   ASSERT_THAT(platform.windows.shown, SizeIs(1));
   const auto& graph = dynamic_cast<const GraphWindow&>(*platform.windows.shown[0]);
   EXPECT_TRUE(graph.IsOpen());
@@ -348,11 +348,11 @@ TEST_F(AResultsWindow, DrawsEveryCurveInTheSameWindow) {
 
   EXPECT_THAT(platform.windows.shown, ElementsAre(graph, graph, graph));
   EXPECT_TRUE(graph->IsOpen());
-  EXPECT_EQ(program.curve.CurveIndex, 8);
+  EXPECT_EQ(program.windows.curve.CurveIndex, 8);
 }
 
 TEST_F(AResultsWindow, TellsOfACurveThatCannotBeSweptAndStaysOpen) {
-  program.WorkParmsCopy.Place.CMRR = 95;
+  program.windows.WorkParmsCopy.Place.CMRR = 95;
   window.Open();
   window.cmdGraph.Press();
 
@@ -404,9 +404,9 @@ TEST_F(AResultsWindow, GoesBackToTheDialogThatIsStillOpen) {
 }
 
 TEST_F(AResultsWindow, OpensTheDialogThatAskedForTheReport) {
-  program.DialogOpen = false;
-  program.ReportCaller = report_caller::Cost;
-  program.OpenInputDialog = [this](Integer caller) {
+  program.windows.DialogOpen = false;
+  program.windows.ReportCaller = report_caller::Cost;
+  program.windows.OpenInputDialog = [this](Integer caller) {
     EXPECT_FALSE(window.IsOpen());
     reopened.push_back(caller);
   };
@@ -419,8 +419,8 @@ TEST_F(AResultsWindow, OpensTheDialogThatAskedForTheReport) {
 }
 
 TEST_F(AResultsWindow, OnlyClosesWhenNoDialogAskedForTheReport) {
-  program.DialogOpen = false;
-  program.ReportCaller = report_caller::None;
+  program.windows.DialogOpen = false;
+  program.windows.ReportCaller = report_caller::None;
   window.Open();
 
   window.cmdChangeInput.Press();

@@ -21,8 +21,8 @@ struct SettingsTest : testing::Test {
     platform.fonts.screen = {"Arial", "Courier New"};
     platform.files.folders.insert("/home/user/Documents/Orby");
     platform.files.folders.insert("/designs");
-    program.IniFilePath = IniPath;
-    Settings& settings = program.settings;
+    program.session.IniFilePath = IniPath;
+    Settings& settings = program.session.settings;
     settings.UnitsDefault = Metric;
     settings.MaxDisplaySize = 4096;
     settings.DisplayFontName = "Courier New";
@@ -35,7 +35,7 @@ struct SettingsTest : testing::Test {
   // Opens the dialog with the messages and lines of that forgotten.
   void Open() {
     dialog.Open();
-    program.history.Text.clear();
+    program.session.history.Text.clear();
   }
 
   std::string Written() { return platform.files.files[IniPath]; }
@@ -73,14 +73,14 @@ TEST_F(SettingsTest, NameTheirFieldsAndCommands) {
 TEST_F(SettingsTest, AreLoggedWhenTheyOpenAndNameTheirMessages) {
   dialog.Open();
 
-  EXPECT_EQ(program.history.Text, "1. Editing Settings\r\n");
-  EXPECT_EQ(program.titles.ErrorTitle, "Settings: Error");
-  EXPECT_EQ(program.titles.RangeErrorTitle, "Settings: Range Error");
+  EXPECT_EQ(program.session.history.Text, "1. Editing Settings\r\n");
+  EXPECT_EQ(program.windows.titles.ErrorTitle, "Settings: Error");
+  EXPECT_EQ(program.windows.titles.RangeErrorTitle, "Settings: Range Error");
   EXPECT_FALSE(platform.windows.waitCursor);
 }
 
 TEST_F(SettingsTest, ShowWhatHolds) {
-  program.settings.FileExtension = "OR2";
+  program.session.settings.FileExtension = "OR2";
 
   dialog.Open();
 
@@ -111,8 +111,8 @@ constexpr Flag Flags[] = {
 
 TEST_F(SettingsTest, ShowEachFlagInItsBoxAndTakeItFromThere) {
   for (const Flag& flag : Flags) {
-    for (const auto& other : Flags) program.settings.*(other.value) = 0;
-    program.settings.*(flag.value) = 1;
+    for (const auto& other : Flags) program.session.settings.*(other.value) = 0;
+    program.session.settings.*(flag.value) = 1;
     SettingsDialog asked(program, nullptr);
     asked.Open();
 
@@ -120,7 +120,7 @@ TEST_F(SettingsTest, ShowEachFlagInItsBoxAndTakeItFromThere) {
     (asked.*(flag.box)).SetValue(0);
     asked.cmdOK.Press();
 
-    EXPECT_EQ(program.settings.*(flag.value), 0) << flag.key;
+    EXPECT_EQ(program.session.settings.*(flag.value), 0) << flag.key;
     EXPECT_THAT(Written(), HasSubstr(std::string(flag.key) + "=0\r\n"));
   }
 }
@@ -136,11 +136,11 @@ TEST_F(SettingsTest, TakeEveryFieldOnOk) {
   dialog.cmdOK.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.settings.UnitsDefault, English);
-  EXPECT_EQ(program.settings.FileExtension, "rs7");
-  EXPECT_EQ(program.settings.DataPath, "/designs/");
-  EXPECT_EQ(program.settings.MaxDisplaySize, 16384);
-  EXPECT_EQ(program.settings.ExternalEditor, "/usr/bin/less");
+  EXPECT_EQ(program.session.settings.UnitsDefault, English);
+  EXPECT_EQ(program.session.settings.FileExtension, "rs7");
+  EXPECT_EQ(program.session.settings.DataPath, "/designs/");
+  EXPECT_EQ(program.session.settings.MaxDisplaySize, 16384);
+  EXPECT_EQ(program.session.settings.ExternalEditor, "/usr/bin/less");
   EXPECT_THAT(Written(), HasSubstr("DefaultUnits=0\r\n"));
   EXPECT_THAT(Written(), HasSubstr("DataPath=/designs/\r\n"));
 }
@@ -151,7 +151,7 @@ TEST_F(SettingsTest, AreLoggedAppliedAndWrittenOnceTheyDiffer) {
 
   dialog.cmdOK.Press();
 
-  EXPECT_EQ(program.history.Text,
+  EXPECT_EQ(program.session.history.Text,
             "2. Settings Modified\r\n3. Saving default settings to file: /home/user/Documents/Orby/ORBY.INI\r\n");
   EXPECT_EQ(modified, 1);
   EXPECT_THAT(Written(), HasSubstr("[Settings]\r\n"));
@@ -160,7 +160,7 @@ TEST_F(SettingsTest, AreLoggedAppliedAndWrittenOnceTheyDiffer) {
 
 TEST_F(SettingsTest, HoldAlreadyWhenTheMainWindowFollowsThem) {
   Integer seen = -1;
-  SettingsDialog other(program, [&] { seen = program.settings.EnableMainMenuToolbar; });
+  SettingsDialog other(program, [&] { seen = program.session.settings.EnableMainMenuToolbar; });
   other.Open();
   other.chkEnableTB.SetValue(0);
 
@@ -177,7 +177,7 @@ TEST_F(SettingsTest, AreNeitherAppliedNorWrittenWhenNothingDiffers) {
   dialog.cmdOK.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.history.Text, "2. Settings Not Modified\r\n");
+  EXPECT_EQ(program.session.history.Text, "2. Settings Not Modified\r\n");
   EXPECT_EQ(modified, 0);
   EXPECT_THAT(platform.files.created, IsEmpty());
 }
@@ -189,9 +189,9 @@ TEST_F(SettingsTest, StayAsTheyWereAfterCancel) {
 
   dialog.cmdCancel.Press();
 
-  EXPECT_EQ(program.history.Text, "2. Settings Not Modified\r\n");
-  EXPECT_EQ(program.settings.FileExtension, "ORB");
-  EXPECT_EQ(program.settings.EnableMainMenuToolbar, 1);
+  EXPECT_EQ(program.session.history.Text, "2. Settings Not Modified\r\n");
+  EXPECT_EQ(program.session.settings.FileExtension, "ORB");
+  EXPECT_EQ(program.session.settings.EnableMainMenuToolbar, 1);
   EXPECT_EQ(modified, 0);
   EXPECT_THAT(platform.files.created, IsEmpty());
 }
@@ -204,19 +204,19 @@ TEST_F(SettingsTest, OfAnOpeningBeforeDoNotCountAsAccepted) {
 
   dialog.cmdCancel.Press();
 
-  EXPECT_EQ(program.settings.EnableMainMenuToolbar, 1);
+  EXPECT_EQ(program.session.settings.EnableMainMenuToolbar, 1);
 }
 
 // ---- what a click tells --------------------------------------------------------------------------------------------
 
 TEST_F(SettingsTest, FillTheFieldsWithoutAWord) {
-  program.settings.CopyExampleFiles = 1;
-  program.settings.ShortRecentFiles = 1;
+  program.session.settings.CopyExampleFiles = 1;
+  program.session.settings.ShortRecentFiles = 1;
 
   dialog.Open();
   dialog.Close();
-  program.settings.CopyExampleFiles = 0;
-  program.settings.ShortRecentFiles = 0;
+  program.session.settings.CopyExampleFiles = 0;
+  program.session.settings.ShortRecentFiles = 0;
   dialog.Open();
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
@@ -284,7 +284,7 @@ TEST_F(SettingsTest, TakeABlankPathForTheRootOfTheFiles) {
 
   dialog.cmdOK.Press();
 
-  EXPECT_EQ(program.settings.DataPath, "/");
+  EXPECT_EQ(program.session.settings.DataPath, "/");
 }
 
 TEST_F(SettingsTest, RefuseAHistoryThatIsTooShortOrTooLong) {
@@ -312,7 +312,7 @@ TEST_F(SettingsTest, RoundTheLengthOfTheHistory) {
 
   dialog.cmdOK.Press();
 
-  EXPECT_EQ(program.settings.MaxDisplaySize, 8000);
+  EXPECT_EQ(program.session.settings.MaxDisplaySize, 8000);
 }
 
 TEST_F(SettingsTest, RefuseAnExtensionOfOtherThanLettersAndDigits) {
@@ -434,13 +434,13 @@ TEST_F(SettingsTest, TakeTheFontOfTheHistoryOnOk) {
   platform.windows.onModal = ChooseItalics;
 
   dialog.Command5.Press();
-  EXPECT_EQ(program.settings.DisplayFontName, "Courier New");
+  EXPECT_EQ(program.session.settings.DisplayFontName, "Courier New");
   dialog.cmdOK.Press();
 
-  EXPECT_EQ(program.settings.DisplayFontName, "Arial");
-  EXPECT_EQ(program.settings.DisplayFontSize, 9);
-  EXPECT_EQ(program.settings.DisplayFontBold, 0);
-  EXPECT_EQ(program.settings.DisplayFontItalic, -1);
+  EXPECT_EQ(program.session.settings.DisplayFontName, "Arial");
+  EXPECT_EQ(program.session.settings.DisplayFontSize, 9);
+  EXPECT_EQ(program.session.settings.DisplayFontBold, 0);
+  EXPECT_EQ(program.session.settings.DisplayFontItalic, -1);
   EXPECT_EQ(modified, 1);
 }
 
@@ -451,7 +451,7 @@ TEST_F(SettingsTest, ForgetTheFontOfTheHistoryOnCancel) {
   dialog.Command5.Press();
   dialog.cmdCancel.Press();
 
-  EXPECT_EQ(program.settings.DisplayFontName, "Courier New");
+  EXPECT_EQ(program.session.settings.DisplayFontName, "Courier New");
   EXPECT_EQ(modified, 0);
 }
 

@@ -36,16 +36,16 @@ struct ABrowser : testing::Test {
     platform.files.files["/home/user/Documents/Mines/east.orb"] = "east\n";
     platform.files.files["/root.orb"] = "root\n";
     platform.files.files["/media/stick/stick.orb"] = "stick\n";
-    program.settings.DataPath = "/home/user/Documents/";
-    program.settings.ExternalEditor = "/usr/bin/viewer";
-    program.folders.ProgramTemporary = "/tmp/";
-    program.IniFilePath = "/home/user/ORBY.INI";
-    program.textBrowse.BrowseFontName = "Courier New";
+    program.session.settings.DataPath = "/home/user/Documents/";
+    program.session.settings.ExternalEditor = "/usr/bin/viewer";
+    program.session.folders.ProgramTemporary = "/tmp/";
+    program.session.IniFilePath = "/home/user/ORBY.INI";
+    program.session.textBrowse.BrowseFontName = "Courier New";
   }
 
   void Open() {
     browser.Open();
-    program.history.Text.clear();
+    program.session.history.Text.clear();
   }
 
   int ItemOf(const List& list, const std::string& text) {
@@ -58,8 +58,8 @@ struct ABrowser : testing::Test {
   // A program with the same settings behind other doors.
   Program ProgramOn(const Platform& doors) {
     Program other(doors);
-    other.settings = program.settings;
-    other.folders = program.folders;
+    other.session.settings = program.session.settings;
+    other.session.folders = program.session.folders;
     return other;
   }
 
@@ -90,11 +90,11 @@ TEST_F(ABrowser, StartsInTheDataFolder) {
 TEST_F(ABrowser, TitlesItsMessagesWithTheBareWords) {
   Open();
 
-  EXPECT_EQ(program.titles.ErrorTitle, "Error");
+  EXPECT_EQ(program.windows.titles.ErrorTitle, "Error");
 }
 
 TEST_F(ABrowser, StartsInTheLastFolderOfTheRun) {
-  program.textBrowse.LastFolder = "/media/stick/old";
+  program.session.textBrowse.LastFolder = "/media/stick/old";
 
   Open();
 
@@ -104,7 +104,7 @@ TEST_F(ABrowser, StartsInTheLastFolderOfTheRun) {
 }
 
 TEST_F(ABrowser, StartsAboveALastFolderThatIsGone) {
-  program.textBrowse.LastFolder = "/home/user/Documents/Gone/Deep";
+  program.session.textBrowse.LastFolder = "/home/user/Documents/Gone/Deep";
 
   Open();
 
@@ -123,14 +123,14 @@ TEST_F(ABrowser, StandsEmptyOnAMachineThatCannotBeRead) {
 }
 
 TEST_F(ABrowser, OffersTheFilesOfTheProgramUnlessAFilterIsStored) {
-  program.settings.FileExtension = "ORB";
+  program.session.settings.FileExtension = "ORB";
   Open();
 
   EXPECT_EQ(browser.Text2.Text(), "*.ORB");
 }
 
 TEST_F(ABrowser, TakesTheStoredFilterFontAndViewer) {
-  program.textBrowse = {"Terminal", 14, -1, 0, "*.txt", 1, {}};
+  program.session.textBrowse = {"Terminal", 14, -1, 0, "*.txt", 1, {}};
 
   Open();
 
@@ -150,7 +150,7 @@ TEST_F(ABrowser, StoresWhatTheUserChose) {
   browser.Command1.Press();
 
   EXPECT_FALSE(browser.IsOpen());
-  EXPECT_EQ(program.textBrowse.LastFolder, "/home/user/Documents/Mines");
+  EXPECT_EQ(program.session.textBrowse.LastFolder, "/home/user/Documents/Mines");
   EXPECT_EQ(platform.files.files.at("/home/user/ORBY.INI"),
             "[TextBrowse]\r\nBrowseFontName=Terminal\r\nBrowseFontSize=14\r\nBrowseFontBold=-1\r\n"
             "BrowseFontItalic=-1\r\nBrowseDefaultFilter=*.txt\r\nBrowseUseNotepad=1\r\n");
@@ -478,7 +478,7 @@ TEST_F(ALongFile, IsRefusedPlainly) {
 
 TEST_F(ALongFile, IsRefusedForTheExternalViewerToo) {
   files.length = TextBrowser::MostBytes + 1;
-  longProgram.textBrowse.BrowseUseNotepad = 1;
+  longProgram.session.textBrowse.BrowseUseNotepad = 1;
   longBrowser.Open();
 
   longBrowser.File1.ClickItem(0);
@@ -489,7 +489,7 @@ TEST_F(ALongFile, IsRefusedForTheExternalViewerToo) {
 
 TEST_F(ALongFile, OfExactlyOneGigabyteIsViewed) {
   files.length = std::uint64_t{1024} * 1024 * 1024;
-  longProgram.textBrowse.BrowseUseNotepad = 1;
+  longProgram.session.textBrowse.BrowseUseNotepad = 1;
   longBrowser.Open();
 
   longBrowser.File1.ClickItem(0);
@@ -516,7 +516,7 @@ TEST_F(ABrowser, HidesThePaneForTheExternalViewer) {
 }
 
 TEST_F(ABrowser, OpensHiddenForTheExternalViewer) {
-  program.textBrowse.BrowseUseNotepad = 1;
+  program.session.textBrowse.BrowseUseNotepad = 1;
 
   Open();
 
@@ -526,8 +526,8 @@ TEST_F(ABrowser, OpensHiddenForTheExternalViewer) {
 
 struct AnExternalViewer : ABrowser {
   AnExternalViewer() {
-    program.textBrowse.BrowseUseNotepad = 1;
-    program.textBrowse.BrowseDefaultFilter = "*.*";
+    program.session.textBrowse.BrowseUseNotepad = 1;
+    program.session.textBrowse.BrowseDefaultFilter = "*.*";
     Open();
   }
 };

@@ -30,8 +30,8 @@ void TypeEverywhere(Form& form) {
 
 struct Run {
   explicit Run(UnitSystem units) {
-    SetBuiltInCatalogs(program.catalogs);
-    program.settings.UnitsDefault = units;
+    SetBuiltInCatalogs(program.session.catalogs);
+    program.session.settings.UnitsDefault = units;
     FileNew(program, true, true);
   }
 
@@ -79,7 +79,7 @@ RC_GTEST_PROP(TypingProperty, KeepsTheLastNumberThatADesignCanHold, ()) {
   Run run(English);
   ParametersDialog dialog(run.program);
   dialog.Open();
-  Design kept = run.program.WorkParms;
+  Design kept = run.program.project.WorkParms;
   int last = 400;
 
   for (int i = 0; i < 10; ++i) {
@@ -97,7 +97,7 @@ RC_GTEST_PROP(TypingProperty, KeepsTheLastNumberThatADesignCanHold, ()) {
 
 RC_GTEST_PROP(StoredDesignProperty, OpensWithWhateverNumbers, ()) {
   Run run(*rc::gen::elementOf(std::vector{English, Metric}));
-  Design& design = run.program.WorkParms;
+  Design& design = run.program.project.WorkParms;
   const auto stored =
       rc::gen::oneOf(rc::gen::element<Single>(0, -1, 20, 3.4E38F, -3.4E38F, 1E-38F),
                      rc::gen::map(rc::gen::inRange(-100, 2000), [](int n) { return static_cast<Single>(n) / 10; }));

@@ -29,12 +29,12 @@ struct ACalculator : testing::Test {
 };
 
 TEST_F(ACalculator, IsLoggedWhenItOpens) {
-  EXPECT_THAT(program.history.Text, HasSubstr("Loading Unit Conversion Form"));
+  EXPECT_THAT(program.session.history.Text, HasSubstr("Loading Unit Conversion Form"));
 }
 
 TEST_F(ACalculator, TitlesItsMessagesWithTheBareWords) {
-  EXPECT_EQ(program.titles.MessageTitle, "Message");
-  EXPECT_EQ(program.titles.ErrorTitle, "Error");
+  EXPECT_EQ(program.windows.titles.MessageTitle, "Message");
+  EXPECT_EQ(program.windows.titles.ErrorTitle, "Error");
 }
 
 TEST_F(ACalculator, NamesItsKindsAndTheirUnits) {

@@ -78,14 +78,14 @@ TEST_F(AnUpdateDialog, SwitchesTheCheckAtStartOffAndOn) {
   EXPECT_FALSE(dialog.chkShow.Checked());
 
   dialog.chkShow.SetValue(1);
-  EXPECT_EQ(program.settings.RemindAnnualUpdates, 0);
+  EXPECT_EQ(program.session.settings.RemindAnnualUpdates, 0);
 
   dialog.chkShow.SetValue(0);
-  EXPECT_EQ(program.settings.RemindAnnualUpdates, 1);
+  EXPECT_EQ(program.session.settings.RemindAnnualUpdates, 1);
 }
 
 TEST_F(AnUpdateDialog, ShowsThatTheCheckAtStartIsOff) {
-  program.settings.RemindAnnualUpdates = 0;
+  program.session.settings.RemindAnnualUpdates = 0;
   UpdateDialog other(program);
 
   other.Open();
@@ -99,7 +99,7 @@ TEST_F(AnUpdateDialog, SavesTheSettingsWhenItCloses) {
   dialog.Command1.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_THAT(platform.files.files[program.IniFilePath], HasSubstr("RemindAnnualUpdates=0\r\n"));
+  EXPECT_THAT(platform.files.files[program.session.IniFilePath], HasSubstr("RemindAnnualUpdates=0\r\n"));
 }
 
 // ---- looking for a version -----------------------------------------------------------------------------------------
@@ -113,7 +113,7 @@ TEST_F(AnUpdateDialog, FetchesTheVersionFileOnRequest) {
 }
 
 TEST_F(AnUpdateDialog, LooksEvenWhenTheCheckAtStartIsOff) {
-  program.settings.RemindAnnualUpdates = 0;
+  program.session.settings.RemindAnnualUpdates = 0;
 
   dialog.cmdCheck.Press();
 
@@ -192,7 +192,7 @@ TEST_F(AnUpdateDialog, SaysThatTheInformationIsInvalidWhenThereIsNoSuchFile) {
 }
 
 TEST_F(AnUpdateDialog, HasNoConnectionWithoutAServer) {
-  program.UpdateServer.clear();
+  program.session.UpdateServer.clear();
   UpdateDialog other(program);
   other.Open();
 
@@ -576,7 +576,7 @@ TEST_F(AFailedCheck, LeavesNothingToInstallWithoutANetworkOrAServer) {
   dialog.cmdCheck.Press();
   ExpectNothingToInstall();
 
-  program.UpdateServer.clear();
+  program.session.UpdateServer.clear();
   dialog.cmdCheck.Press();
   ExpectNothingToInstall();
 }
@@ -615,7 +615,8 @@ TEST_F(AnUpdateDialog, TellsTheHistoryOfASecondFieldThatIsNoSum) {
   Check("1.0.01,05-Jul-2024\r\n");
 
   EXPECT_EQ(platform.boxes.shown[0].text, "A new version is available. Download?");
-  EXPECT_THAT(program.history.Text, HasSubstr("1. Second field of the version file is no checksum and is ignored\r\n"));
+  EXPECT_THAT(program.session.history.Text,
+              HasSubstr("1. Second field of the version file is no checksum and is ignored\r\n"));
 }
 
 // ---- the web page --------------------------------------------------------------------------------------------------

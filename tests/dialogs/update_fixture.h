@@ -17,10 +17,10 @@ inline const std::string SumOfSetup = "9f86d081884c7d659a2feaa0c55ad015a3bf4f1b2
 
 struct UpdateTest : testing::Test {
   UpdateTest() {
-    program.UpdateServer = "https://updates.example.org";
-    program.folders.Group = "/home/user/Documents/MyStrataDesk/";
-    program.folders.ProgramData = "/home/user/Documents/MyStrataDesk/ORBY/";
-    program.IniFilePath = "/home/user/Documents/MyStrataDesk/ORBY/ORBY.INI";
+    program.session.UpdateServer = "https://updates.example.org";
+    program.session.folders.Group = "/home/user/Documents/MyStrataDesk/";
+    program.session.folders.ProgramData = "/home/user/Documents/MyStrataDesk/ORBY/";
+    program.session.IniFilePath = "/home/user/Documents/MyStrataDesk/ORBY/ORBY.INI";
     program.EndAtOnce = [this] { ++ended; };
     platform.clock.today = {2023, 7, 25};
   }

@@ -119,13 +119,13 @@ TEST_F(UpdatePlaces, LieOnTheServer) {
 }
 
 TEST_F(UpdatePlaces, AreTheSameWithASlashBehindTheServer) {
-  program.UpdateServer = "https://updates.example.org/";
+  program.session.UpdateServer = "https://updates.example.org/";
 
   EXPECT_EQ(WebPageAddress(program), "https://updates.example.org/roof-support/");
 }
 
 TEST_F(UpdatePlaces, AreMissingWithoutAServer) {
-  program.UpdateServer.clear();
+  program.session.UpdateServer.clear();
 
   EXPECT_FALSE(HasUpdateServer(program));
 }

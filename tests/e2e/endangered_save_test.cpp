@@ -38,11 +38,11 @@ constexpr int MishapDidNotHappen = 2;  // and it was saved
 class Session {
  public:
   explicit Session(const TemporaryFolder& folder) : disk_(folder.Path()) {
-    program_.folders.ProgramData = folder.At("data/");
-    program_.folders.ProgramTemporary = folder.At("data/Temp/");
-    program_.options.ShowInputScreenOnLoad = 0;
-    program_.settings.ShowDisclaim = 0;
-    program_.settings.KeepFileNames = 0;
+    program_.session.folders.ProgramData = folder.At("data/");
+    program_.session.folders.ProgramTemporary = folder.At("data/Temp/");
+    program_.session.options.ShowInputScreenOnLoad = 0;
+    program_.session.settings.ShowDisclaim = 0;
+    program_.session.settings.KeepFileNames = 0;
     StartApart(program_, nullptr);
     window_.Open();
     window_.Dropped(folder.At("panel3.orb"));
@@ -56,7 +56,7 @@ class Session {
 
   bool Save() {
     window_.mnuFileItem.ClickItem(file_item::Save);
-    return program_.FileSaved;
+    return program_.project.FileSaved;
   }
 
  private:
@@ -70,7 +70,7 @@ std::string DesignAt(Single depth) {
   RecordingPlatform platform;
   Program program(platform.Doors());
   StartApart(program, nullptr);
-  program.WorkParms.Place.DepthofCover = depth;
+  program.project.WorkParms.Place.DepthofCover = depth;
   return ProjectFileBytes(program);
 }
 

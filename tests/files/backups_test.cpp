@@ -29,7 +29,7 @@ struct StaleListing : MemoryFiles {
 };
 
 struct Backups : testing::Test {
-  Backups() { program().folders.ProgramData = DataFolder; }
+  Backups() { program().session.folders.ProgramData = DataFolder; }
 
   Program& program() { return project.program; }
   MemoryFiles& files() { return project.platform.files; }
@@ -89,7 +89,7 @@ TEST_F(Backups, OfTwoProgramsInOneSecondAreBothThere) {
   RecordingPlatform platform;
   StaleListing disk;
   Program other(platform.DoorsWith(disk));
-  other.folders.ProgramData = DataFolder;
+  other.session.folders.ProgramData = DataFolder;
   KeepBackup(other, ProjectPath, "of one program", BackupReason::Overwritten);
   disk.isStale = true;
 
@@ -184,7 +184,7 @@ TEST_F(Backups, DoNotTakeAFileOfMoreThanTenMegabytes) {
 }
 
 TEST_F(Backups, AreNotMadeWithoutAProgramDataFolder) {
-  program().folders.ProgramData.clear();
+  program().session.folders.ProgramData.clear();
 
   EXPECT_EQ(Keep("as it was"), std::nullopt);
   EXPECT_THAT(project.platform.files.files, IsEmpty());
@@ -194,7 +194,7 @@ TEST_F(Backups, AreNotMadeWithoutAProgramDataFolder) {
 TEST_F(Backups, ThatTheDiskRefusesLeaveNothingAndThrowNothing) {
   for (const Step step : {Step::Create, Step::Write, Step::Close, Step::Rename}) {
     TestProject other;
-    other.program.folders.ProgramData = DataFolder;
+    other.program.session.folders.ProgramData = DataFolder;
     other.platform.files.Fail(step, error_number::DiskFull);
 
     EXPECT_EQ(KeepBackup(other.program, ProjectPath, "as it was", BackupReason::Overwritten), std::nullopt);
@@ -241,7 +241,7 @@ TEST_F(Backups, HaveNamesThatEveryDiskTakes) {
 
 TEST_F(Backups, OfADroppedDesignAreRecoveryFiles) {
   FileNew(program(), false, true);
-  program().WorkParms.Place.DepthofCover = 725;
+  program().project.WorkParms.Place.DepthofCover = 725;
 
   const auto path = KeepDropped(program(), CommittedProject(program()), BackupReason::Dropped);
 
@@ -255,7 +255,7 @@ TEST_F(Backups, OfADroppedDesignAreRecoveryFiles) {
 
 TEST_F(Backups, OfADroppedDesignStandUnderTheWholePathOfItsProject) {
   FileNew(program(), false, true);
-  program().CurrentFile = "panel3.orb";
+  program().project.CurrentFile = "panel3.orb";
 
   KeepDropped(program(), CommittedProject(program()), BackupReason::Dropped);
 
@@ -264,7 +264,7 @@ TEST_F(Backups, OfADroppedDesignStandUnderTheWholePathOfItsProject) {
 
 TEST_F(Backups, OfADroppedDesignWithoutANameAreUntitled) {
   FileNew(program(), false, true);
-  program().CurrentFile = UntitledName;
+  program().project.CurrentFile = UntitledName;
 
   KeepDropped(program(), CommittedProject(program()), BackupReason::Dropped);
 

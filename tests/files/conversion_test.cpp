@@ -82,21 +82,23 @@ constexpr Expectation Expectations[] = {
 
 TEST(Conversion, EveryFieldToMetricWithItsOwnDecimals) {
   TestProject project;
-  for (const auto& row : Expectations) row.field.In(project.program.WorkParms) = row.english;
+  for (const auto& row : Expectations) row.field.In(project.program.project.WorkParms) = row.english;
 
   ConvertProject(project.program, Metric);
 
-  for (const auto& row : Expectations) EXPECT_EQ(row.field.In(project.program.WorkParms), row.metric) << row.name;
+  for (const auto& row : Expectations)
+    EXPECT_EQ(row.field.In(project.program.project.WorkParms), row.metric) << row.name;
 }
 
 TEST(Conversion, EveryFieldToEnglishWithItsOwnDecimals) {
   TestProject project;
-  project.program.WorkParms.Units = Metric;
-  for (const auto& row : Expectations) row.field.In(project.program.WorkParms) = 123.4567F;
+  project.program.project.WorkParms.Units = Metric;
+  for (const auto& row : Expectations) row.field.In(project.program.project.WorkParms) = 123.4567F;
 
   ConvertProject(project.program, English);
 
-  for (const auto& row : Expectations) EXPECT_EQ(row.field.In(project.program.WorkParms), row.backAgain) << row.name;
+  for (const auto& row : Expectations)
+    EXPECT_EQ(row.field.In(project.program.project.WorkParms), row.backAgain) << row.name;
 }
 
 // Fields of one unit and one number of decimals share what 123.4567 becomes, and so what 80.54 does: from 264.2388 ft,
@@ -107,53 +109,53 @@ constexpr std::pair<Single, Single> SecondValues[] = {{405, 264.2F},  {405.04F, 
 
 TEST(Conversion, EveryFieldToEnglishHasNoDecimalFewerOrMore) {
   TestProject project;
-  project.program.WorkParms.Units = Metric;
-  for (const auto& row : Expectations) row.field.In(project.program.WorkParms) = 80.54F;
+  project.program.project.WorkParms.Units = Metric;
+  for (const auto& row : Expectations) row.field.In(project.program.project.WorkParms) = 80.54F;
 
   ConvertProject(project.program, English);
 
   for (const auto& row : Expectations) {
     const auto* second = std::ranges::find(SecondValues, row.backAgain, &std::pair<Single, Single>::first);
     ASSERT_NE(second, std::end(SecondValues)) << row.name;
-    EXPECT_EQ(row.field.In(project.program.WorkParms), second->second) << row.name;
+    EXPECT_EQ(row.field.In(project.program.project.WorkParms), second->second) << row.name;
   }
 }
 
 TEST(Conversion, TheTwoStandardCableCapacitiesDifferByADecimal) {
   TestProject project;
-  project.program.WorkParms.Entries.Cable.CapacityStd = 27.11F;
-  project.program.WorkParms.Intersections.Cable.CapacityStd = 27.11F;
+  project.program.project.WorkParms.Entries.Cable.CapacityStd = 27.11F;
+  project.program.project.WorkParms.Intersections.Cable.CapacityStd = 27.11F;
 
   ConvertProject(project.program, Metric);
 
-  EXPECT_EQ(project.program.WorkParms.Entries.Cable.CapacityStd, 241.2F);
-  EXPECT_EQ(project.program.WorkParms.Intersections.Cable.CapacityStd, 241.18F);
+  EXPECT_EQ(project.program.project.WorkParms.Entries.Cable.CapacityStd, 241.2F);
+  EXPECT_EQ(project.program.project.WorkParms.Intersections.Cable.CapacityStd, 241.18F);
 }
 
 TEST(Conversion, TiesGoToTheEvenDigit) {
   TestProject project;
-  project.program.WorkParms.Primary.TableDiameter = 0.875F;  // 22.225 mm
-  project.program.WorkParms.Primary.DiameterStd = 0.625F;    // 15.875 mm
+  project.program.project.WorkParms.Primary.TableDiameter = 0.875F;  // 22.225 mm
+  project.program.project.WorkParms.Primary.DiameterStd = 0.625F;    // 15.875 mm
 
   ConvertProject(project.program, Metric);
 
-  EXPECT_EQ(project.program.WorkParms.Primary.TableDiameter, 22.22F);
-  EXPECT_EQ(project.program.WorkParms.Primary.DiameterStd, 15.88F);
+  EXPECT_EQ(project.program.project.WorkParms.Primary.TableDiameter, 22.22F);
+  EXPECT_EQ(project.program.project.WorkParms.Primary.DiameterStd, 15.88F);
 }
 
 TEST(Conversion, ThereAndBackDoesNotRestoreADepth) {
   TestProject project;
-  project.program.WorkParms.Place.DepthofCover = 401.37F;
+  project.program.project.WorkParms.Place.DepthofCover = 401.37F;
 
   ConvertProject(project.program, Metric);
   ConvertProject(project.program, English);
 
-  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 401.4F);
+  EXPECT_EQ(project.program.project.WorkParms.Place.DepthofCover, 401.4F);
 }
 
 TEST(Conversion, AnglesCountsFactorsFlagsAndCostsStay) {
   TestProject project;
-  Design& record = project.program.WorkParms;
+  Design& record = project.program.project.WorkParms;
   FileNew(project.program, false, true);
   record.Entries.Cable.StabFactor = 1.06F;
   record.Intersections.Standing.StabFactor = 1.44F;
@@ -177,51 +179,51 @@ TEST(Conversion, AnglesCountsFactorsFlagsAndCostsStay) {
 
 TEST(Conversion, TheResultIsAnUnsavedProjectUnderItsBareNameWithAPrefix) {
   TestProject project;
-  project.program.FileSaved = true;
+  project.program.project.FileSaved = true;
 
   ConvertProject(project.program, Metric);
 
-  EXPECT_EQ(project.program.CurrentFile, "Metric_panel3.orb");
-  EXPECT_EQ(project.program.WorkParms.Units, Metric);
-  EXPECT_FALSE(project.program.FileSaved);
+  EXPECT_EQ(project.program.project.CurrentFile, "Metric_panel3.orb");
+  EXPECT_EQ(project.program.project.WorkParms.Units, Metric);
+  EXPECT_FALSE(project.program.project.FileSaved);
   EXPECT_FALSE(project.platform.files.files.contains("Metric_panel3.orb"));
 }
 
 TEST(Conversion, PrefixesPileUpTheNewestFirst) {
   TestProject project;
-  project.program.CurrentFile = "C:\\designs\\panel3.orb";
+  project.program.project.CurrentFile = "C:\\designs\\panel3.orb";
 
   ConvertProject(project.program, Metric);
   ConvertProject(project.program, English);
 
-  EXPECT_EQ(project.program.CurrentFile, "English_Metric_panel3.orb");
-  EXPECT_EQ(project.program.WorkParms.Units, English);
+  EXPECT_EQ(project.program.project.CurrentFile, "English_Metric_panel3.orb");
+  EXPECT_EQ(project.program.project.WorkParms.Units, English);
 }
 
 TEST(Conversion, AnOverflowEndsItAndKeepsWhatWasConverted) {
   TestProject project;
-  project.program.WorkParms.Place.DepthofCover = 400;
-  project.program.WorkParms.Entries.Cable.Diam = 3E38F;
-  project.program.WorkParms.Primary.GradeStd = 75;
-  project.program.FileSaved = true;
+  project.program.project.WorkParms.Place.DepthofCover = 400;
+  project.program.project.WorkParms.Entries.Cable.Diam = 3E38F;
+  project.program.project.WorkParms.Primary.GradeStd = 75;
+  project.program.project.FileSaved = true;
 
   EXPECT_EQ(ErrorNumberOf([&] { ConvertProject(project.program, Metric); }), 6);
 
-  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 121.92F);
-  EXPECT_EQ(project.program.WorkParms.Entries.Cable.Diam, 3E38F);
-  EXPECT_EQ(project.program.WorkParms.Primary.GradeStd, 75);
-  EXPECT_EQ(project.program.CurrentFile, ProjectPath);
-  EXPECT_EQ(project.program.WorkParms.Units, English);
-  EXPECT_FALSE(project.program.FileSaved);
+  EXPECT_EQ(project.program.project.WorkParms.Place.DepthofCover, 121.92F);
+  EXPECT_EQ(project.program.project.WorkParms.Entries.Cable.Diam, 3E38F);
+  EXPECT_EQ(project.program.project.WorkParms.Primary.GradeStd, 75);
+  EXPECT_EQ(project.program.project.CurrentFile, ProjectPath);
+  EXPECT_EQ(project.program.project.WorkParms.Units, English);
+  EXPECT_FALSE(project.program.project.FileSaved);
 }
 
 TEST(Conversion, WorksOnTheCommittedDesignAlone) {
   TestProject project;
-  project.program.WorkParmsCopy.Place.DepthofCover = 400;
+  project.program.windows.WorkParmsCopy.Place.DepthofCover = 400;
 
   ConvertProject(project.program, Metric);
 
-  EXPECT_EQ(project.program.WorkParmsCopy.Place.DepthofCover, 400);
+  EXPECT_EQ(project.program.windows.WorkParmsCopy.Place.DepthofCover, 400);
 }
 
 }  // namespace

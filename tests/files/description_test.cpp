@@ -17,9 +17,9 @@ struct Saved {
 
 Saved Normalize(const std::string& description) {
   TestProject project;
-  project.program.ProjectDescription = description;
+  project.program.project.ProjectDescription = description;
   SaveDescription(project.program);
-  return {project.program.ProjectDescription, project.program.DescLines};
+  return {project.program.project.ProjectDescription, project.program.project.DescLines};
 }
 
 TEST(Description, AnEmptyOneStaysEmptyAndTouchesNoFile) {
@@ -27,8 +27,8 @@ TEST(Description, AnEmptyOneStaysEmptyAndTouchesNoFile) {
 
   SaveDescription(project.program);
 
-  EXPECT_EQ(project.program.ProjectDescription, "");
-  EXPECT_EQ(project.program.DescLines, 2);
+  EXPECT_EQ(project.program.project.ProjectDescription, "");
+  EXPECT_EQ(project.program.project.DescLines, 2);
   EXPECT_THAT(project.platform.files.created, testing::IsEmpty());
 }
 
@@ -95,7 +95,7 @@ TEST(Description, CharactersOutsideTheCodePageAndThoseThatLookLikeOtherBytesSurv
 
 TEST(Description, TheTemporaryFileIsGoneAfterwards) {
   TestProject project;
-  project.program.ProjectDescription = "Shale roof";
+  project.program.project.ProjectDescription = "Shale roof";
 
   SaveDescription(project.program);
 
@@ -107,15 +107,15 @@ class FailingTemporaryFile : public testing::TestWithParam<Step> {};
 
 TEST_P(FailingTemporaryFile, LeavesTheDescriptionAsItWasAndTellsNobody) {
   TestProject project;
-  project.program.ProjectDescription = "Shale roof\r\n\r\nWater";
+  project.program.project.ProjectDescription = "Shale roof\r\n\r\nWater";
   project.platform.files.Fail(GetParam(), error_number::PermissionDenied);
 
   SaveDescription(project.program);
 
-  EXPECT_EQ(project.program.ProjectDescription, "Shale roof\r\n\r\nWater");
-  EXPECT_EQ(project.program.DescLines, 2);
+  EXPECT_EQ(project.program.project.ProjectDescription, "Shale roof\r\n\r\nWater");
+  EXPECT_EQ(project.program.project.DescLines, 2);
   EXPECT_THAT(project.platform.boxes.shown, testing::IsEmpty());
-  EXPECT_EQ(project.program.history.Text, "");
+  EXPECT_EQ(project.program.session.history.Text, "");
 }
 
 INSTANTIATE_TEST_SUITE_P(AnyStep, FailingTemporaryFile,
@@ -139,12 +139,12 @@ struct Loaded {
 
 Loaded Load(const std::string& bytes, int mode = description_mode::Marked, Integer fileVersion = 103) {
   TestProject project;
-  project.program.FileVersion = fileVersion;
-  project.program.ProjectDescription = "previous";
-  if (mode == description_mode::Legacy || fileVersion < 50) project.program.ProjectDescription.clear();
+  project.program.project.FileVersion = fileVersion;
+  project.program.project.ProjectDescription = "previous";
+  if (mode == description_mode::Legacy || fileVersion < 50) project.program.project.ProjectDescription.clear();
   ItemReader reader(bytes);
   LoadDescription(project.program, reader, mode);
-  return {project.program.ProjectDescription, project.program.DescLines, reader.ReadLine()};
+  return {project.program.project.ProjectDescription, project.program.project.DescLines, reader.ReadLine()};
 }
 
 TEST(Description, IsReadBetweenItsMarkers) {

@@ -12,10 +12,10 @@ using testing::IsEmpty;
 struct KeptProject : testing::Test {
   KeptProject() {
     FileNew(project.program, false, true);
-    project.program.ProjectTitle = "Panel 3";
-    project.program.ProjectDescription = "Belt entry\r\n\r\nsouth";
-    project.program.WorkParms.Place.DepthofCover = 725;
-    project.program.history = {};
+    project.program.project.ProjectTitle = "Panel 3";
+    project.program.project.ProjectDescription = "Belt entry\r\n\r\nsouth";
+    project.program.project.WorkParms.Place.DepthofCover = 725;
+    project.program.session.history = {};
   }
 
   TestProject project;
@@ -32,7 +32,7 @@ TEST_F(KeptProject, IsReadFromAProjectFileUnderItsOldName) {
 }
 
 TEST_F(KeptProject, OfAnOlderFormatHasTheDefaultsForWhatItLacks) {
-  project.program.WorkParms.Primary.Desc = "of the open project";
+  project.program.project.WorkParms.Primary.Desc = "of the open project";
   std::string bytes = ProjectFileBytes(project.program);
   bytes.replace(bytes.find("ORBY_105"), 8, "ORBY_104");
 
@@ -62,14 +62,14 @@ TEST_F(KeptProject, IsNoneInDamagedBytes) {
 }
 
 TEST_F(KeptProject, IsReadWithoutATraceInTheProgram) {
-  project.program.settings.DisplayHistoryWin = 1;
+  project.program.session.settings.DisplayHistoryWin = 1;
 
   ReadKeptProject(project.program, "notes of the shift", ProjectPath);
   ReadKeptProject(project.program, ProjectFileBytes(project.program), ProjectPath);
 
-  EXPECT_THAT(project.program.history.Text, IsEmpty());
+  EXPECT_THAT(project.program.session.history.Text, IsEmpty());
   EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(project.program.ProjectTitle, "Panel 3");
+  EXPECT_EQ(project.program.project.ProjectTitle, "Panel 3");
 }
 
 TEST_F(KeptProject, AsAFileIsTheProjectFileAsItWas) {

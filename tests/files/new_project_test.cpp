@@ -18,7 +18,7 @@ TEST(NewProject, EnglishDefaultsAreTheseToTheLetter) {
 
 TEST(NewProject, MetricDefaultsAreTheseToTheLetter) {
   TestProject project;
-  project.program.settings.UnitsDefault = Metric;
+  project.program.session.settings.UnitsDefault = Metric;
 
   FileNew(project.program, true, true);
 
@@ -27,23 +27,23 @@ TEST(NewProject, MetricDefaultsAreTheseToTheLetter) {
 
 TEST(NewProject, UltimateStrengthTakesTheUltimateGrade) {
   TestProject project;
-  project.program.options.BoltGradeAsUltimateDefault = StrengthBasis::Ultimate;
+  project.program.session.options.BoltGradeAsUltimateDefault = StrengthBasis::Ultimate;
 
   FileNew(project.program, true, true);
-  EXPECT_EQ(project.program.WorkParms.Basis, StrengthBasis::Ultimate);
-  EXPECT_EQ(project.program.WorkParms.Primary.GradeStd, 100);
-  EXPECT_EQ(project.program.WorkParms.Intersections.Bolt.GradeManual, 100);
-  EXPECT_EQ(project.program.WorkParms.Primary.TableGrade, 0);
+  EXPECT_EQ(project.program.project.WorkParms.Basis, StrengthBasis::Ultimate);
+  EXPECT_EQ(project.program.project.WorkParms.Primary.GradeStd, 100);
+  EXPECT_EQ(project.program.project.WorkParms.Intersections.Bolt.GradeManual, 100);
+  EXPECT_EQ(project.program.project.WorkParms.Primary.TableGrade, 0);
 
-  project.program.settings.UnitsDefault = Metric;
+  project.program.session.settings.UnitsDefault = Metric;
   FileNew(project.program, true, true);
-  EXPECT_EQ(project.program.WorkParms.Primary.GradeManual, 690);
-  EXPECT_EQ(project.program.WorkParms.Entries.Bolt.GradeStd, 690);
+  EXPECT_EQ(project.program.project.WorkParms.Primary.GradeManual, 690);
+  EXPECT_EQ(project.program.project.WorkParms.Entries.Bolt.GradeStd, 690);
 }
 
 TEST(NewProject, TakesTheUsersOwnDefaults) {
   TestProject project;
-  DesignDefaults& defaults = project.program.defaults;
+  DesignDefaults& defaults = project.program.session.defaults;
   defaults.DefaultCMRR = 52;
   defaults.DefaultENGDepthofCover = 850;
   defaults.DefaultENGUnitWeight = 158;
@@ -58,7 +58,7 @@ TEST(NewProject, TakesTheUsersOwnDefaults) {
 
   FileNew(project.program, true, true);
 
-  const Design& record = project.program.WorkParms;
+  const Design& record = project.program.project.WorkParms;
   EXPECT_EQ(record.Place.CMRR, 52);
   EXPECT_EQ(record.Place.DepthofCover, 850);
   EXPECT_EQ(record.Place.UnitWeight, 158);
@@ -79,43 +79,43 @@ TEST(NewProject, TakesTheUsersOwnDefaults) {
 
 TEST(NewProject, KeepsNameAndUnitsWhenAskedTo) {
   TestProject project;
-  project.program.WorkParms.Units = Metric;
-  project.program.WorkParms.Basis = StrengthBasis::Ultimate;
+  project.program.project.WorkParms.Units = Metric;
+  project.program.project.WorkParms.Basis = StrengthBasis::Ultimate;
 
   FileNew(project.program, false, false);
 
-  EXPECT_EQ(project.program.CurrentFile, ProjectPath);
-  EXPECT_EQ(project.program.WorkParms.Units, Metric);
-  EXPECT_EQ(project.program.WorkParms.Basis, StrengthBasis::Ultimate);
-  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 150);
-  EXPECT_EQ(project.program.WorkParms.Primary.GradeStd, 690);
+  EXPECT_EQ(project.program.project.CurrentFile, ProjectPath);
+  EXPECT_EQ(project.program.project.WorkParms.Units, Metric);
+  EXPECT_EQ(project.program.project.WorkParms.Basis, StrengthBasis::Ultimate);
+  EXPECT_EQ(project.program.project.WorkParms.Place.DepthofCover, 150);
+  EXPECT_EQ(project.program.project.WorkParms.Primary.GradeStd, 690);
 }
 
 TEST(NewProject, SetsTheStateOfAnUntouchedProject) {
   TestProject project;
   Program& program = project.program;
-  program.FileSaved = program.FileEmpty = false;
-  program.UnitsLocked = true;
-  program.OutBuf = {"echo", "report", "two", "three", "four"};
-  program.ProjectTitle = "Panel 3";
-  program.ProjectDescription = "Shale roof";
+  program.project.FileSaved = program.project.FileEmpty = false;
+  program.project.UnitsLocked = true;
+  program.session.OutBuf = {"echo", "report", "two", "three", "four"};
+  program.project.ProjectTitle = "Panel 3";
+  program.project.ProjectDescription = "Shale roof";
 
   FileNew(program, true, true);
 
-  EXPECT_EQ(program.CurrentFile, "Untitled");
-  EXPECT_TRUE(program.FileSaved);
-  EXPECT_TRUE(program.FileEmpty);
-  EXPECT_FALSE(program.UnitsLocked);
-  EXPECT_EQ(program.RecentMode, 1);
-  EXPECT_THAT(program.OutBuf, testing::ElementsAre("echo", "", "", "", ""));
-  EXPECT_EQ(program.ProjectTitle, "");
-  EXPECT_EQ(program.ProjectDescription, "");
-  EXPECT_EQ(program.history.Text, "1. File initialized. Use Edit-Project Parameters to enter data\r\n");
+  EXPECT_EQ(program.project.CurrentFile, "Untitled");
+  EXPECT_TRUE(program.project.FileSaved);
+  EXPECT_TRUE(program.project.FileEmpty);
+  EXPECT_FALSE(program.project.UnitsLocked);
+  EXPECT_EQ(program.windows.RecentMode, 1);
+  EXPECT_THAT(program.session.OutBuf, testing::ElementsAre("echo", "", "", "", ""));
+  EXPECT_EQ(program.project.ProjectTitle, "");
+  EXPECT_EQ(program.project.ProjectDescription, "");
+  EXPECT_EQ(program.session.history.Text, "1. File initialized. Use Edit-Project Parameters to enter data\r\n");
 }
 
 TEST(NewProject, LeavesNothingOfThePreviousBolts) {
   TestProject project;
-  for (BoltSelection* set : project.program.WorkParms.BoltSets()) {
+  for (BoltSelection* set : project.program.project.WorkParms.BoltSets()) {
     set->Options = set->TableRow = set->DiameterMode = set->GradeMode = 1;
     set->TableDiameter = set->TableGrade = 60;
     set->Desc = "Rebar no. 6";
@@ -123,7 +123,7 @@ TEST(NewProject, LeavesNothingOfThePreviousBolts) {
 
   FileNew(project.program, true, true);
 
-  for (const BoltSelection* set : project.program.WorkParms.BoltSets()) {
+  for (const BoltSelection* set : project.program.project.WorkParms.BoltSets()) {
     EXPECT_EQ(set->Options, 0);
     EXPECT_EQ(set->TableRow, 0);
     EXPECT_EQ(set->DiameterMode, 0);
@@ -137,36 +137,36 @@ TEST(NewProject, LeavesNothingOfThePreviousBolts) {
 TEST(NewProject, LeavesTheEstimatorsChoiceTheComputedFieldsAndThePreviewAlone) {
   TestProject project;
   Program& program = project.program;
-  program.WorkParms.Place.CMRRRegionIndex = 3;
-  program.WorkParms.Place.CMRRRockTypeIndex = 2;
-  program.WorkParms.Place.CMRRManual = 1;
-  program.WorkParms.Entries.Bolt.StabFactor = 1.25F;
-  program.WorkParms.Intersections.Standing.SupportCap = 264;
-  program.WorkParms.Entries.RockLoad = 10;
-  program.WorkParmsCopy.Place.DepthofCover = 777;
-  program.UseAUSStandardTable = 1;
+  program.project.WorkParms.Place.CMRRRegionIndex = 3;
+  program.project.WorkParms.Place.CMRRRockTypeIndex = 2;
+  program.project.WorkParms.Place.CMRRManual = 1;
+  program.project.WorkParms.Entries.Bolt.StabFactor = 1.25F;
+  program.project.WorkParms.Intersections.Standing.SupportCap = 264;
+  program.project.WorkParms.Entries.RockLoad = 10;
+  program.windows.WorkParmsCopy.Place.DepthofCover = 777;
+  program.project.UseAUSStandardTable = 1;
 
   FileNew(program, true, true);
 
-  EXPECT_EQ(program.WorkParms.Place.CMRRRegionIndex, 3);
-  EXPECT_EQ(program.WorkParms.Place.CMRRRockTypeIndex, 2);
-  EXPECT_EQ(program.WorkParms.Place.CMRRManual, 1);
-  EXPECT_EQ(program.WorkParms.Entries.Bolt.StabFactor, 1.25F);
-  EXPECT_EQ(program.WorkParms.Intersections.Standing.SupportCap, 264);
-  EXPECT_EQ(program.WorkParms.Entries.RockLoad, 10);
-  EXPECT_EQ(program.WorkParmsCopy.Place.DepthofCover, 777);
-  EXPECT_EQ(program.UseAUSStandardTable, 1);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRRRegionIndex, 3);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRRRockTypeIndex, 2);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRRManual, 1);
+  EXPECT_EQ(program.project.WorkParms.Entries.Bolt.StabFactor, 1.25F);
+  EXPECT_EQ(program.project.WorkParms.Intersections.Standing.SupportCap, 264);
+  EXPECT_EQ(program.project.WorkParms.Entries.RockLoad, 10);
+  EXPECT_EQ(program.windows.WorkParmsCopy.Place.DepthofCover, 777);
+  EXPECT_EQ(program.project.UseAUSStandardTable, 1);
 }
 
 TEST(NewProject, AnEmptySupportListGivesAnEmptyName) {
   TestProject project;
-  project.program.WorkParms.Entries.Standing.TypeName = "Pumped crib";
-  project.program.catalogs.StandSupports.HighestIndex = -1;
+  project.program.project.WorkParms.Entries.Standing.TypeName = "Pumped crib";
+  project.program.session.catalogs.StandSupports.HighestIndex = -1;
 
   FileNew(project.program, true, true);
 
-  EXPECT_EQ(project.program.WorkParms.Entries.Standing.TypeName, "");
-  EXPECT_EQ(project.program.WorkParms.Intersections.Standing.TypeName, "");
+  EXPECT_EQ(project.program.project.WorkParms.Entries.Standing.TypeName, "");
+  EXPECT_EQ(project.program.project.WorkParms.Intersections.Standing.TypeName, "");
 }
 
 }  // namespace

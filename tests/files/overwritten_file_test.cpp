@@ -47,7 +47,7 @@ class DiskThatFills : public DiskFiles {
 };
 
 struct OverwrittenOnDisk : testing::Test {
-  OverwrittenOnDisk() { program.folders.ProgramData = folder.At("data/"); }
+  OverwrittenOnDisk() { program.session.folders.ProgramData = folder.At("data/"); }
 
   int ErrorOfSaving(const std::string& name) {
     return ErrorNumberOf([&] { OverwrittenFile(program, folder.At(name)).Overwrite("the new design", remarks); });

@@ -31,41 +31,41 @@ const std::string RefusalText = "Invalid ORBY file format. File can not be opene
 
 TEST(ProjectFile, OpeningSetsTheStateOfASavedProject) {
   TestProject project;
-  project.program.WorkParmsCopy.Place.DepthofCover = 777;
-  project.program.OutBuf[1] = "report";
+  project.program.windows.WorkParmsCopy.Place.DepthofCover = 777;
+  project.program.session.OutBuf[1] = "report";
 
   EXPECT_TRUE(project.Open(ReadTestData("projects/orby_104.orb")));
 
-  EXPECT_TRUE(project.program.FileSaved);
-  EXPECT_FALSE(project.program.FileEmpty);
-  EXPECT_TRUE(project.program.UnitsLocked);
-  EXPECT_EQ(project.program.CurrentFile, ProjectPath);
-  EXPECT_EQ(project.program.OutBuf[1], "");
-  EXPECT_EQ(project.program.WorkParmsCopy.Place.DepthofCover, 777);
+  EXPECT_TRUE(project.program.project.FileSaved);
+  EXPECT_FALSE(project.program.project.FileEmpty);
+  EXPECT_TRUE(project.program.project.UnitsLocked);
+  EXPECT_EQ(project.program.project.CurrentFile, ProjectPath);
+  EXPECT_EQ(project.program.session.OutBuf[1], "");
+  EXPECT_EQ(project.program.windows.WorkParmsCopy.Place.DepthofCover, 777);
   EXPECT_FALSE(project.platform.windows.waitCursor);
-  EXPECT_EQ(project.program.history.Text,
+  EXPECT_EQ(project.program.session.history.Text,
             "1. File initialized. Use Edit-Project Parameters to enter data\r\n2. Opening: /designs/panel3.orb\r\n");
 }
 
 TEST(ProjectFile, TheHeaderMismatchMovesTitleAndMarkerIntoTheDescription) {
   TestProject project;
   FileNew(project.program, false, true);
-  project.program.ProjectTitle = "T";
-  project.program.ProjectDescription = "D1\r\nD2";
+  project.program.project.ProjectTitle = "T";
+  project.program.project.ProjectDescription = "D1\r\nD2";
 
   ASSERT_TRUE(project.Save());
   ASSERT_TRUE(project.Open());
 
-  EXPECT_EQ(project.program.ProjectTitle, " 0 ");
-  EXPECT_EQ(project.program.ProjectDescription, "T\r\n##StartDesc##\r\nD1\r\nD2\r\n");
-  EXPECT_EQ(project.program.DescLines, 5);
+  EXPECT_EQ(project.program.project.ProjectTitle, " 0 ");
+  EXPECT_EQ(project.program.project.ProjectDescription, "T\r\n##StartDesc##\r\nD1\r\nD2\r\n");
+  EXPECT_EQ(project.program.project.DescLines, 5);
 }
 
 TEST(ProjectFile, EverySaveAndOpenLetsTheDescriptionGrowAndMovesNoValue) {
   TestProject project;
   FileNew(project.program, false, true);
-  project.program.ProjectTitle = "T";
-  project.program.ProjectDescription = "D1\r\nD2";
+  project.program.project.ProjectTitle = "T";
+  project.program.project.ProjectDescription = "D1\r\nD2";
   ASSERT_TRUE(project.Save());
   const std::string saved = project.File();
   const std::string data = saved.substr(saved.find("##EndDesc##"));
@@ -73,13 +73,13 @@ TEST(ProjectFile, EverySaveAndOpenLetsTheDescriptionGrowAndMovesNoValue) {
   ASSERT_TRUE(project.Open());
   ASSERT_TRUE(project.Save());
   ASSERT_TRUE(project.Open());
-  EXPECT_EQ(project.program.ProjectTitle, " 0 ");
-  EXPECT_EQ(project.program.ProjectDescription, " 0 \r\n##StartDesc##\r\nT\r\n##StartDesc##\r\nD1\r\nD2\r\n");
+  EXPECT_EQ(project.program.project.ProjectTitle, " 0 ");
+  EXPECT_EQ(project.program.project.ProjectDescription, " 0 \r\n##StartDesc##\r\nT\r\n##StartDesc##\r\nD1\r\nD2\r\n");
 
   ASSERT_TRUE(project.Save());
   ASSERT_TRUE(project.Open());
-  EXPECT_EQ(project.program.ProjectTitle, " 0 ");
-  EXPECT_EQ(project.program.ProjectDescription,
+  EXPECT_EQ(project.program.project.ProjectTitle, " 0 ");
+  EXPECT_EQ(project.program.project.ProjectDescription,
             " 0 \r\n##StartDesc##\r\n0 \r\n##StartDesc##\r\nT\r\n##StartDesc##\r\nD1\r\nD2\r\n");
 
   ASSERT_TRUE(project.Save());
@@ -93,34 +93,34 @@ TEST(ProjectFile, ABlankTitleMovesTheMarkerAlone) {
   ASSERT_TRUE(project.Save());
   ASSERT_TRUE(project.Open());
 
-  EXPECT_EQ(project.program.ProjectTitle, " 0 ");
-  EXPECT_EQ(project.program.ProjectDescription, "##StartDesc##\r\n");
+  EXPECT_EQ(project.program.project.ProjectTitle, " 0 ");
+  EXPECT_EQ(project.program.project.ProjectDescription, "##StartDesc##\r\n");
 }
 
 TEST(ProjectFile, TheTableChoiceIsWrittenButNeverRead) {
   TestProject project;
   FileNew(project.program, false, true);
-  project.program.UseAUSStandardTable = 1;
+  project.program.project.UseAUSStandardTable = 1;
 
   ASSERT_TRUE(project.Save());
-  project.program.UseAUSStandardTable = 0;
+  project.program.project.UseAUSStandardTable = 0;
   ASSERT_TRUE(project.Open());
 
-  EXPECT_EQ(project.program.UseAUSStandardTable, 0);
-  EXPECT_EQ(project.program.ProjectTitle, " 1 ");
+  EXPECT_EQ(project.program.project.UseAUSStandardTable, 0);
+  EXPECT_EQ(project.program.project.ProjectTitle, " 1 ");
 }
 
 TEST(ProjectFile, TheIntersectionsSupportModeComesBackAsTheEntrys) {
   TestProject project;
   FileNew(project.program, false, true);
-  project.program.WorkParms.Entries.Standing.TypeMode = 0;
-  project.program.WorkParms.Intersections.Standing.TypeMode = 1;
+  project.program.project.WorkParms.Entries.Standing.TypeMode = 0;
+  project.program.project.WorkParms.Intersections.Standing.TypeMode = 1;
 
   ASSERT_TRUE(project.Save());
   ASSERT_TRUE(project.Open());
 
-  EXPECT_EQ(project.program.WorkParms.Entries.Standing.TypeMode, 1);
-  EXPECT_EQ(project.program.WorkParms.Intersections.Standing.TypeMode, 0);
+  EXPECT_EQ(project.program.project.WorkParms.Entries.Standing.TypeMode, 1);
+  EXPECT_EQ(project.program.project.WorkParms.Intersections.Standing.TypeMode, 0);
 }
 
 TEST(ProjectFile, CommaInABoltDescriptionShiftsTheFieldsBehindIt) {
@@ -128,7 +128,7 @@ TEST(ProjectFile, CommaInABoltDescriptionShiftsTheFieldsBehindIt) {
 
   ASSERT_TRUE(project.Open(WithDataLine(18, "Rebar, 6 ft")));
 
-  const Design& record = project.program.WorkParms;
+  const Design& record = project.program.project.WorkParms;
   EXPECT_EQ(record.Primary.Desc, "Rebar");
   EXPECT_EQ(record.Primary.DiameterMode, 6);
   EXPECT_EQ(record.Primary.DiameterStd, 0);  // "ft"
@@ -142,9 +142,9 @@ TEST(ProjectFile, CommasAndQuotesInASupportNameAreSafe) {
 
   ASSERT_TRUE(project.Open(WithDataLine(60, " \"Crib\", 4-point ")));
 
-  EXPECT_EQ(project.program.WorkParms.Entries.Standing.TypeName, " \"Crib\", 4-point ");
-  EXPECT_EQ(project.program.WorkParms.Entries.Standing.Capacity, 61.25F);
-  EXPECT_EQ(project.program.WorkParms.Cost.WeeksYear, 120.25F);
+  EXPECT_EQ(project.program.project.WorkParms.Entries.Standing.TypeName, " \"Crib\", 4-point ");
+  EXPECT_EQ(project.program.project.WorkParms.Entries.Standing.Capacity, 61.25F);
+  EXPECT_EQ(project.program.project.WorkParms.Cost.WeeksYear, 120.25F);
 }
 
 TEST(ProjectFile, ANumberThatIsNoneReadsAsZero) {
@@ -152,8 +152,8 @@ TEST(ProjectFile, ANumberThatIsNoneReadsAsZero) {
 
   ASSERT_TRUE(project.Open(WithDataLine(5, "deep")));
 
-  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 0);
-  EXPECT_EQ(project.program.WorkParms.Place.UnitWeight, 6.25F);
+  EXPECT_EQ(project.program.project.WorkParms.Place.DepthofCover, 0);
+  EXPECT_EQ(project.program.project.WorkParms.Place.UnitWeight, 6.25F);
 }
 
 TEST(ProjectFile, ExponentFormIsTakenBack) {
@@ -161,17 +161,17 @@ TEST(ProjectFile, ExponentFormIsTakenBack) {
 
   ASSERT_TRUE(project.Open(WithDataLine(5, "3.333334E-02")));
 
-  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 3.333334E-02F);
+  EXPECT_EQ(project.program.project.WorkParms.Place.DepthofCover, 3.333334E-02F);
 }
 
 TEST(ProjectFile, AUnitSystemThatIsNoneBecomesEnglish) {
   for (const char* units : {" 2 ", "-1 ", " 32767 "}) {
     TestProject project;
-    project.program.settings.UnitsDefault = Metric;
+    project.program.session.settings.UnitsDefault = Metric;
 
     ASSERT_TRUE(project.Open(WithLine(2, units)));
 
-    EXPECT_EQ(project.program.WorkParms.Units, English) << units;
+    EXPECT_EQ(project.program.project.WorkParms.Units, English) << units;
   }
 }
 
@@ -184,9 +184,9 @@ TEST(ProjectFile, AnyLineEndWillDo) {
 
     ASSERT_TRUE(project.Open(bytes));
 
-    EXPECT_EQ(project.program.ProjectTitle, "Tailgate crosscuts, panel 3");
-    EXPECT_EQ(project.program.WorkParms.Intersections.Standing.TypeName, "Pumped crib \"96\"");
-    EXPECT_EQ(project.program.WorkParms.Cost.Advance, 222);
+    EXPECT_EQ(project.program.project.ProjectTitle, "Tailgate crosscuts, panel 3");
+    EXPECT_EQ(project.program.project.WorkParms.Intersections.Standing.TypeName, "Pumped crib \"96\"");
+    EXPECT_EQ(project.program.project.WorkParms.Cost.Advance, 222);
   }
 }
 
@@ -194,20 +194,20 @@ class RefusedFile : public testing::TestWithParam<const char*> {};
 
 TEST_P(RefusedFile, IsToldAndLeavesANewProjectUnderItsName) {
   TestProject project;
-  project.program.FileVersion = 102;
-  project.program.WorkParms.Place.DepthofCover = 777;
-  project.program.UnitsLocked = true;
+  project.program.project.FileVersion = 102;
+  project.program.project.WorkParms.Place.DepthofCover = 777;
+  project.program.project.UnitsLocked = true;
 
   EXPECT_FALSE(project.Open(GetParam()));
 
   EXPECT_THAT(project.platform.boxes.Texts(), ElementsAre(RefusalText));
   EXPECT_EQ(project.platform.boxes.shown.front().style, box_style::Ok);
-  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 400);
-  EXPECT_TRUE(project.program.FileSaved);
-  EXPECT_TRUE(project.program.FileEmpty);
-  EXPECT_FALSE(project.program.UnitsLocked);
-  EXPECT_EQ(project.program.FileVersion, 102);
-  EXPECT_EQ(project.program.CurrentFile, ProjectPath);
+  EXPECT_EQ(project.program.project.WorkParms.Place.DepthofCover, 400);
+  EXPECT_TRUE(project.program.project.FileSaved);
+  EXPECT_TRUE(project.program.project.FileEmpty);
+  EXPECT_FALSE(project.program.project.UnitsLocked);
+  EXPECT_EQ(project.program.project.FileVersion, 102);
+  EXPECT_EQ(project.program.project.CurrentFile, ProjectPath);
   EXPECT_FALSE(project.platform.windows.waitCursor);
 }
 
@@ -222,9 +222,9 @@ TEST(ProjectFile, TheLabelEndsAtAComma) {
   // The rest of the first line takes the place of the unit system, and that the place of the strength mode.
   ASSERT_TRUE(project.Open(WithLine(1, "ORBY_105,1")));
 
-  EXPECT_EQ(project.program.FileVersion, 104);
-  EXPECT_EQ(project.program.WorkParms.Basis, StrengthBasis::Ultimate);
-  EXPECT_EQ(project.program.ProjectTitle, " 1 ");
+  EXPECT_EQ(project.program.project.FileVersion, 104);
+  EXPECT_EQ(project.program.project.WorkParms.Basis, StrengthBasis::Ultimate);
+  EXPECT_EQ(project.program.project.ProjectTitle, " 1 ");
 }
 
 TEST(ProjectFile, TheLabelMayStandInQuotesBehindBlanks) {
@@ -242,12 +242,12 @@ TEST(ProjectFile, AnEmptyFileIsTheEndOfFileError) {
 
 TEST(ProjectFile, AMissingFileIsToldByItsErrorWithANewProjectBehind) {
   TestProject project;
-  project.program.WorkParms.Place.DepthofCover = 777;
+  project.program.project.WorkParms.Place.DepthofCover = 777;
 
   EXPECT_EQ(ErrorNumberOf([&] { project.Open(); }), 53);
 
-  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 400);
-  EXPECT_TRUE(project.program.FileEmpty);
+  EXPECT_EQ(project.program.project.WorkParms.Place.DepthofCover, 400);
+  EXPECT_TRUE(project.program.project.FileEmpty);
 }
 
 TEST(ProjectFile, AFileCutShortAnywhereEndsInTheEndOfFileErrorAndKeepsWhatWasRead) {
@@ -264,8 +264,8 @@ TEST(ProjectFile, AFileCutShortAnywhereEndsInTheEndOfFileErrorAndKeepsWhatWasRea
     EXPECT_EQ(error, labelIsCut ? 0 : 62) << length;
     EXPECT_EQ(project.platform.boxes.Texts().size(), labelIsCut ? 1U : 0U) << length;
     EXPECT_FALSE(ok);
-    EXPECT_TRUE(project.program.FileEmpty);
-    EXPECT_FALSE(project.program.UnitsLocked);
+    EXPECT_TRUE(project.program.project.FileEmpty);
+    EXPECT_FALSE(project.program.project.UnitsLocked);
   }
 }
 
@@ -276,8 +276,8 @@ TEST(ProjectFile, FieldsReadBeforeAnErrorStay) {
 
   EXPECT_EQ(ErrorNumberOf([&] { project.Open(); }), 62);
 
-  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 5.25F);
-  EXPECT_EQ(project.program.WorkParms.Place.UnitWeight, 162);
+  EXPECT_EQ(project.program.project.WorkParms.Place.DepthofCover, 5.25F);
+  EXPECT_EQ(project.program.project.WorkParms.Place.UnitWeight, 162);
 }
 
 TEST(ProjectFile, AValueBeyondItsFieldIsAnOverflow) {
@@ -300,7 +300,7 @@ TEST(ProjectFile, CodePageFilesAreRead) {
 
   ASSERT_TRUE(project.Open(WithDataLine(60, "St\xFCtze \x80 5")));
 
-  EXPECT_EQ(project.program.WorkParms.Entries.Standing.TypeName, "St\xC3\xBCtze \xE2\x82\xAC 5");
+  EXPECT_EQ(project.program.project.WorkParms.Entries.Standing.TypeName, "St\xC3\xBCtze \xE2\x82\xAC 5");
 }
 
 TEST(ProjectFile, Utf8FilesAreRead) {
@@ -308,16 +308,16 @@ TEST(ProjectFile, Utf8FilesAreRead) {
 
   ASSERT_TRUE(project.Open(WithDataLine(60, "\xE6\x94\xAF\xE6\x9F\xB1")));
 
-  EXPECT_EQ(project.program.WorkParms.Entries.Standing.TypeName, "\xE6\x94\xAF\xE6\x9F\xB1");
+  EXPECT_EQ(project.program.project.WorkParms.Entries.Standing.TypeName, "\xE6\x94\xAF\xE6\x9F\xB1");
 }
 
 // An open project with unsaved changes, and another one chosen to be opened.
 struct ChangedProject : TestProject {
   ChangedProject() {
     FileNew(program, false, true);
-    program.WorkParms.Place.DepthofCover = 777;
-    program.FileSaved = false;
-    program.PreviousFile = "/designs/previous.orb";
+    program.project.WorkParms.Place.DepthofCover = 777;
+    program.project.FileSaved = false;
+    program.project.PreviousFile = "/designs/previous.orb";
     File() = ReadTestData("projects/orby_104.orb");
   }
 };
@@ -342,21 +342,21 @@ TEST(ProjectFile, YesSavesThePreviousProjectFirst) {
 
   EXPECT_THAT(project.platform.files.created, ElementsAre("/designs/previous.orb"));
   EXPECT_THAT(project.platform.files.files["/designs/previous.orb"], HasSubstr("\r\n777\r\n"));
-  EXPECT_EQ(project.program.CurrentFile, ProjectPath);
-  EXPECT_EQ(project.program.PreviousFile, "/designs/previous.orb");
-  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 5.25F);
+  EXPECT_EQ(project.program.project.CurrentFile, ProjectPath);
+  EXPECT_EQ(project.program.project.PreviousFile, "/designs/previous.orb");
+  EXPECT_EQ(project.program.project.WorkParms.Place.DepthofCover, 5.25F);
 }
 
 TEST(ProjectFile, YesForAnUntitledProjectAsksForItsNameAndStillOpensTheChosenFile) {
   ChangedProject project;
-  project.program.PreviousFile = "Untitled";
+  project.program.project.PreviousFile = "Untitled";
   project.platform.boxes.answers = {box_result::Yes};
   project.platform.fileDialogs.answers = {"/designs/named.orb"};
 
   EXPECT_TRUE(project.Open());
 
   EXPECT_THAT(project.platform.files.files["/designs/named.orb"], HasSubstr("\r\n777\r\n"));
-  EXPECT_EQ(project.program.CurrentFile, ProjectPath);
+  EXPECT_EQ(project.program.project.CurrentFile, ProjectPath);
 }
 
 TEST(ProjectFile, ASaveThatFailsStopsTheOpen) {
@@ -368,39 +368,39 @@ TEST(ProjectFile, ASaveThatFailsStopsTheOpen) {
 
   EXPECT_THAT(project.platform.boxes.Texts(),
               ElementsAre("Save changes to: /designs/previous.orb?", "Error occurred: Permission denied (70)"));
-  EXPECT_EQ(project.program.CurrentFile, "/designs/previous.orb");
-  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 777);
-  EXPECT_FALSE(project.program.FileSaved);
+  EXPECT_EQ(project.program.project.CurrentFile, "/designs/previous.orb");
+  EXPECT_EQ(project.program.project.WorkParms.Place.DepthofCover, 777);
+  EXPECT_FALSE(project.program.project.FileSaved);
   EXPECT_FALSE(project.platform.windows.waitCursor);
 }
 
 TEST(ProjectFile, ASaveThatIsCancelledStopsTheOpen) {
   ChangedProject project;
-  project.program.PreviousFile = "Untitled";
+  project.program.project.PreviousFile = "Untitled";
   project.platform.boxes.answers = {box_result::Yes};
 
   EXPECT_FALSE(project.Open());
 
-  EXPECT_EQ(project.program.CurrentFile, "Untitled");
-  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 777);
-  EXPECT_FALSE(project.program.FileSaved);
+  EXPECT_EQ(project.program.project.CurrentFile, "Untitled");
+  EXPECT_EQ(project.program.project.WorkParms.Place.DepthofCover, 777);
+  EXPECT_FALSE(project.program.project.FileSaved);
 }
 
 TEST(ProjectFile, ASaveUnderANewNameThatFailsKeepsTheNameItHad) {
   ChangedProject project;
-  project.program.PreviousFile = "Untitled";
+  project.program.project.PreviousFile = "Untitled";
   project.platform.boxes.answers = {box_result::Yes, box_result::Cancel};
   project.platform.fileDialogs.answers = {"/designs/named.orb"};
   project.platform.files.Fail(MemoryFiles::Step::Create, error_number::PermissionDenied);
 
   EXPECT_FALSE(project.Open());
 
-  EXPECT_EQ(project.program.CurrentFile, "Untitled");
+  EXPECT_EQ(project.program.project.CurrentFile, "Untitled");
 }
 
 TEST(ProjectFile, ASavedProjectIsNotAskedAbout) {
   ChangedProject project;
-  project.program.FileSaved = true;
+  project.program.project.FileSaved = true;
 
   EXPECT_TRUE(project.Open());
 

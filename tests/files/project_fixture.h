@@ -16,9 +16,9 @@ inline const std::string TemporaryDescription = "/tmp/~tmpdesc.tmp";
 
 struct TestProject {
   TestProject() {
-    program.catalogs.StandSupports.HighestIndex = 1;
-    program.catalogs.StandSupports.DefaultStandSupportType = {"Four-point timber crib", "Pumped crib"};
-    program.CurrentFile = ProjectPath;
+    program.session.catalogs.StandSupports.HighestIndex = 1;
+    program.session.catalogs.StandSupports.DefaultStandSupportType = {"Four-point timber crib", "Pumped crib"};
+    program.project.CurrentFile = ProjectPath;
   }
 
   std::string& File() { return platform.files.files[ProjectPath]; }

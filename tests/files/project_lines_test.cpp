@@ -35,11 +35,11 @@ TEST_P(FileFormats, EveryLineLandsInItsField) {
   const Format& format = GetParam();
   TestProject project;
   FileNew(project.program, false, true);
-  const Design fresh = project.program.WorkParms;
+  const Design fresh = project.program.project.WorkParms;
 
   ASSERT_TRUE(project.Open(ReadTestData(format.file)));
 
-  const Design& record = project.program.WorkParms;
+  const Design& record = project.program.project.WorkParms;
   int compared = 0;
   for (const auto& row : ReadTable("projects/data_lines.tsv")) {
     const std::string& name = row.fields[1];
@@ -52,12 +52,12 @@ TEST_P(FileFormats, EveryLineLandsInItsField) {
     ++compared;
   }
   EXPECT_EQ(compared, 122);
-  EXPECT_EQ(project.program.FileVersion, format.fileVersion);
-  EXPECT_EQ(project.program.WorkParms.Units, Metric);
-  EXPECT_EQ(NumberOf(project.program.WorkParms.Basis), format.boltStrengthMode);
-  EXPECT_EQ(project.program.UseAUSStandardTable, 0);
-  EXPECT_EQ(project.program.ProjectTitle, format.title);
-  EXPECT_EQ(project.program.ProjectDescription, format.description);
+  EXPECT_EQ(project.program.project.FileVersion, format.fileVersion);
+  EXPECT_EQ(project.program.project.WorkParms.Units, Metric);
+  EXPECT_EQ(NumberOf(project.program.project.WorkParms.Basis), format.boltStrengthMode);
+  EXPECT_EQ(project.program.project.UseAUSStandardTable, 0);
+  EXPECT_EQ(project.program.project.ProjectTitle, format.title);
+  EXPECT_EQ(project.program.project.ProjectDescription, format.description);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -77,32 +77,32 @@ TEST(FileFormats, ThereAre122DataLines) { EXPECT_EQ(ProjectLines.size(), 122U); 
 TEST(FileFormats, WhatAnOlderFileLacksIsInTheDefaultUnitsAndStaysWhenSavedAnew) {
   TestProject project;
   ASSERT_TRUE(project.Open(ReadTestData("projects/orby_103.orb")));
-  ASSERT_EQ(project.program.WorkParms.Units, Metric);
-  EXPECT_EQ(project.program.WorkParms.Entries.Cable.CapacityManual, 27);
+  ASSERT_EQ(project.program.project.WorkParms.Units, Metric);
+  EXPECT_EQ(project.program.project.WorkParms.Entries.Cable.CapacityManual, 27);
 
   ASSERT_TRUE(project.Save());
   ASSERT_TRUE(project.Open());
 
-  EXPECT_EQ(project.program.FileVersion, 104);
-  EXPECT_EQ(project.program.WorkParms.Units, Metric);
-  EXPECT_EQ(project.program.WorkParms.Entries.Cable.CapacityManual, 27);
-  EXPECT_EQ(project.program.WorkParms.Intersections.Cable.CapacityManual, 27);
-  EXPECT_EQ(project.program.WorkParms.Entries.Cable.Capacity, 0);
-  EXPECT_EQ(project.program.WorkParms.Primary.TableDiameter, 0);
-  EXPECT_EQ(project.program.WorkParms.Intersections.Bolt.Desc, "");
+  EXPECT_EQ(project.program.project.FileVersion, 104);
+  EXPECT_EQ(project.program.project.WorkParms.Units, Metric);
+  EXPECT_EQ(project.program.project.WorkParms.Entries.Cable.CapacityManual, 27);
+  EXPECT_EQ(project.program.project.WorkParms.Intersections.Cable.CapacityManual, 27);
+  EXPECT_EQ(project.program.project.WorkParms.Entries.Cable.Capacity, 0);
+  EXPECT_EQ(project.program.project.WorkParms.Primary.TableDiameter, 0);
+  EXPECT_EQ(project.program.project.WorkParms.Intersections.Bolt.Desc, "");
 }
 
 TEST(FileFormats, AnOldFileOverAProjectLeavesNothingOfItInTheMissingLines) {
   TestProject project;
   ASSERT_TRUE(project.Open(ReadTestData("projects/orby_105.orb")));
-  ASSERT_EQ(project.program.WorkParms.Primary.Desc, "Rebar no. 6 row 18");
+  ASSERT_EQ(project.program.project.WorkParms.Primary.Desc, "Rebar no. 6 row 18");
 
   ASSERT_TRUE(project.Open(ReadTestData("projects/orby_102.orb")));
 
-  EXPECT_EQ(project.program.WorkParms.Primary.Desc, "");
-  EXPECT_EQ(project.program.WorkParms.Entries.Bolt.TableDiameter, 0);
-  EXPECT_EQ(project.program.WorkParms.Intersections.Cable.CapacityManual, 27);
-  EXPECT_EQ(project.program.WorkParms.Basis, StrengthBasis::Yield);
+  EXPECT_EQ(project.program.project.WorkParms.Primary.Desc, "");
+  EXPECT_EQ(project.program.project.WorkParms.Entries.Bolt.TableDiameter, 0);
+  EXPECT_EQ(project.program.project.WorkParms.Intersections.Cable.CapacityManual, 27);
+  EXPECT_EQ(project.program.project.WorkParms.Basis, StrengthBasis::Yield);
 }
 
 }  // namespace

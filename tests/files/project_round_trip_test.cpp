@@ -54,10 +54,10 @@ void FillWithAnything(Design& record) {
 RC_GTEST_PROP(ProjectRoundTrip, EveryFieldSurvives, ()) {
   TestProject project;
   FileNew(project.program, false, true);
-  FillWithAnything(project.program.WorkParms);
-  project.program.ProjectTitle = *AnyLine("");
-  project.program.ProjectDescription = *AnyLine("\"#");
-  const Design before = project.program.WorkParms;
+  FillWithAnything(project.program.project.WorkParms);
+  project.program.project.ProjectTitle = *AnyLine("");
+  project.program.project.ProjectDescription = *AnyLine("\"#");
+  const Design before = project.program.project.WorkParms;
 
   RC_ASSERT(project.Save());
   RC_ASSERT(project.Open());
@@ -67,23 +67,23 @@ RC_GTEST_PROP(ProjectRoundTrip, EveryFieldSurvives, ()) {
     if (std::string_view(saved.name) == "SupportTypeModeSecEntry")
       expected = NumberText(before.Intersections.Standing.TypeMode);
     if (std::string_view(saved.name) == "SupportTypeModeSecInter") expected = "0";
-    if (ValueText(project.program.WorkParms, saved.field) != expected) RC_FAIL(std::string(saved.name));
+    if (ValueText(project.program.project.WorkParms, saved.field) != expected) RC_FAIL(std::string(saved.name));
   }
 }
 
 RC_GTEST_PROP(ProjectRoundTrip, ADescriptionReadsBackLineByLine, ()) {
   TestProject project;
   const auto lines = *rc::gen::container<std::vector<std::string>>(AnyLine(" ,\"#"));
-  for (const auto& line : lines) project.program.ProjectDescription += line + "\r\n";
+  for (const auto& line : lines) project.program.project.ProjectDescription += line + "\r\n";
   SaveDescription(project.program);
-  const std::string saved = project.program.ProjectDescription;
+  const std::string saved = project.program.project.ProjectDescription;
   const std::string bytes = "##StartDesc##\r\n" + saved + "\r\n##EndDesc##\r\n45\r\n";
   ItemReader reader(bytes);
-  project.program.FileVersion = 103;
+  project.program.project.FileVersion = 103;
 
   LoadDescription(project.program, reader, description_mode::Marked);
 
-  RC_ASSERT(project.program.ProjectDescription == (saved.empty() ? "" : saved + "\r\n"));
+  RC_ASSERT(project.program.project.ProjectDescription == (saved.empty() ? "" : saved + "\r\n"));
   RC_ASSERT(reader.ReadInteger() == 45);
 }
 

@@ -23,11 +23,11 @@ const std::string OldPath = "/designs/panel3.orb.old";
 // An open project with a change, in a program with a data folder.
 struct ChangedProject : TestProject {
   ChangedProject() {
-    program.folders.ProgramData = "/data/";
+    program.session.folders.ProgramData = "/data/";
     FileNew(program, false, true);
     Save();
     old = File();
-    program.WorkParms.Place.DepthofCover = 810;
+    program.project.WorkParms.Place.DepthofCover = 810;
     typed = ProjectFileBytes(program);
     platform.boxes.shown.clear();
   }
@@ -67,12 +67,12 @@ TEST(ProjectSave, KeepsWhatItWritesOver) {
   EXPECT_THAT(project.KeptBytes(), ElementsAre(project.old));
   EXPECT_EQ(project.ReasonOfNewest(), BackupReason::Overwritten);
   EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
-  EXPECT_TRUE(project.program.FileSaved);
+  EXPECT_TRUE(project.program.project.FileSaved);
 }
 
 TEST(ProjectSave, KeepsNothingOfAProjectThatIsTheSame) {
   ChangedProject project;
-  project.program.WorkParms.Place.DepthofCover = 400;
+  project.program.project.WorkParms.Place.DepthofCover = 400;
 
   EXPECT_TRUE(project.Save());
 
@@ -82,7 +82,7 @@ TEST(ProjectSave, KeepsNothingOfAProjectThatIsTheSame) {
 
 TEST(ProjectSave, KeepsNothingOfANewFile) {
   ChangedProject project;
-  project.program.CurrentFile = "/designs/new.orb";
+  project.program.project.CurrentFile = "/designs/new.orb";
 
   EXPECT_TRUE(project.Save());
 
@@ -92,7 +92,7 @@ TEST(ProjectSave, KeepsNothingOfANewFile) {
 TEST(ProjectSave, UnderAnotherNameKeepsTheFileThatHasIt) {
   ChangedProject project;
   project.platform.files.files["/designs/other.orb"] = "another design";
-  project.program.CurrentFile = "/designs/other.orb";
+  project.program.project.CurrentFile = "/designs/other.orb";
 
   EXPECT_TRUE(project.Save());
 
@@ -126,13 +126,13 @@ TEST(ProjectSave, KeepsAndTellsWhatAnotherProgramWroteMeanwhile) {
   EXPECT_THAT(project.platform.boxes.shown[0].text,
               StartsWith("/designs/panel3.orb had been changed by another program. It now holds the project as it is "
                          "here; what the other program wrote is kept in /data/Backups/"));
-  EXPECT_THAT(project.program.history.Text, HasSubstr("had been changed by another program"));
+  EXPECT_THAT(project.program.session.history.Text, HasSubstr("had been changed by another program"));
 }
 
 TEST(ProjectSave, KnowsTheFileThatItOpened) {
   ChangedProject project;
   project.Open();
-  project.program.WorkParms.Place.DepthofCover = 820;
+  project.program.project.WorkParms.Place.DepthofCover = 820;
 
   EXPECT_TRUE(project.Save());
 
@@ -163,7 +163,7 @@ TEST(ProjectSave, SaysNothingOfAChangeThatIsTheSame) {
 TEST(ProjectSave, KnowsItsOwnFileFromTheLastSave) {
   ChangedProject project;
   project.Save();
-  project.program.WorkParms.Place.DepthofCover = 820;
+  project.program.project.WorkParms.Place.DepthofCover = 820;
 
   EXPECT_TRUE(project.Save());
 
@@ -175,7 +175,7 @@ TEST(ProjectSave, ANewDesignKnowsNothingOfTheFileThatItIsSavedOver) {
   ChangedProject project;
   FileNew(project.program, true, true);
   project.File() = "the other's design";
-  project.program.CurrentFile = ProjectPath;
+  project.program.project.CurrentFile = ProjectPath;
 
   EXPECT_TRUE(project.Save());
 
@@ -186,9 +186,9 @@ class FailedSave : public testing::TestWithParam<Step> {};
 
 TEST_P(FailedSave, LeavesTheFileAsItWasAndTellsWhereTheCopyLies) {
   ChangedProject project;
-  project.program.ProjectDescription = "Shale\r\n\r\nWater";
+  project.program.project.ProjectDescription = "Shale\r\n\r\nWater";
   project.Save();
-  project.program.ProjectDescription = "Shale\r\n\r\nNo water";
+  project.program.project.ProjectDescription = "Shale\r\n\r\nNo water";
   const std::string before = project.File();
   project.platform.boxes.answers = {box_result::Cancel};
   // The backup and its note come first.
@@ -203,8 +203,8 @@ TEST_P(FailedSave, LeavesTheFileAsItWasAndTellsWhereTheCopyLies) {
   EXPECT_FALSE(FileMenuSave(project.program, false));
 
   EXPECT_EQ(project.File(), before);
-  EXPECT_FALSE(project.program.FileSaved);
-  EXPECT_EQ(project.program.ProjectDescription, "Shale\r\n\r\nNo water");
+  EXPECT_FALSE(project.program.project.FileSaved);
+  EXPECT_EQ(project.program.project.ProjectDescription, "Shale\r\n\r\nNo water");
   EXPECT_THAT(
       project.platform.boxes.Texts(),
       ElementsAre("Error occurred: Disk full (61)",
@@ -218,13 +218,13 @@ INSTANTIATE_TEST_SUITE_P(Steps, FailedSave,
 
 TEST(ProjectSave, OfASavedProjectThatFailsLeavesItUnsaved) {
   ChangedProject project;
-  project.program.FileSaved = true;
+  project.program.project.FileSaved = true;
   project.platform.files.Fail(Step::Reserve, error_number::DiskFull);
 
   EXPECT_EQ(project.SaveError(), 61);
 
   EXPECT_FALSE(project.ok);
-  EXPECT_FALSE(project.program.FileSaved);
+  EXPECT_FALSE(project.program.project.FileSaved);
 }
 
 TEST(ProjectSave, ThatCannotPutTheOldBytesBackTellsWhereTheyAre) {
@@ -270,7 +270,7 @@ TEST(ProjectSave, UnderAnotherNameThatCannotBeginSaysThatThisFileIsAsItWas) {
   project.platform.files.Mend();
   project.platform.files.Fail(Step::Reserve, error_number::DiskFull);
   project.platform.files.files["/designs/panel4.orb"] = "another design";
-  project.program.CurrentFile = "/designs/panel4.orb";
+  project.program.project.CurrentFile = "/designs/panel4.orb";
 
   EXPECT_EQ(project.SaveError(), 61);
 
@@ -333,7 +333,7 @@ TEST(ProjectSave, ThatFailsLeavesAFileThatCouldNotBeLookedAt) {
 
 TEST(ProjectSave, OfAScriptThatDamagesALongFileSaysSo) {
   ChangedProject project;
-  project.program.folders.ProgramData.clear();
+  project.program.session.folders.ProgramData.clear();
   project.File() = std::string(11 * 1024 * 1024, 'x');
   project.platform.files.Fail(Step::Write, error_number::DiskFull);
 
@@ -344,7 +344,7 @@ TEST(ProjectSave, OfAScriptThatDamagesALongFileSaysSo) {
 
 TEST(ProjectSave, ThatCannotRemoveTheHalfOfANewFileSaysSo) {
   ChangedProject project;
-  project.program.CurrentFile = "/designs/new.orb";
+  project.program.project.CurrentFile = "/designs/new.orb";
   project.platform.files.Fail(Step::Write, error_number::DiskFull);
   project.platform.files.Fail(Step::Remove, error_number::PermissionDenied);
 
@@ -358,12 +358,13 @@ TEST(ProjectSave, WithoutRoomForABackupGoesOnAndTellsOnce) {
   project.platform.files.Fail(Step::Rename, error_number::DiskFull);
 
   EXPECT_TRUE(project.Save());
-  project.program.WorkParms.Place.DepthofCover = 820;
+  project.program.project.WorkParms.Place.DepthofCover = 820;
   EXPECT_TRUE(project.Save());
 
   EXPECT_THAT(project.platform.boxes.Texts(),
               ElementsAre("The old contents of /designs/panel3.orb could not be kept in /data/Backups/."));
-  EXPECT_THAT(project.program.history.Text, EndsWith(" could not be kept in /data/Backups/.\r\n")) << "but noted again";
+  EXPECT_THAT(project.program.session.history.Text, EndsWith(" could not be kept in /data/Backups/.\r\n"))
+      << "but noted again";
   EXPECT_THAT(project.KeptBytes(), IsEmpty());
   EXPECT_THAT(project.File(), HasSubstr("\r\n820\r\n"));
 }
@@ -429,7 +430,7 @@ TEST(ProjectSave, GivesARenamedFileItsNameBackWhenItFails) {
 
 TEST(ProjectSave, OfAScriptKeepsNoBackupsAndStillPutsTheOldBytesBack) {
   ChangedProject project;
-  project.program.folders.ProgramData.clear();
+  project.program.session.folders.ProgramData.clear();
   project.platform.files.Fail(Step::Flush, error_number::DiskFull, 0, 1);
 
   EXPECT_EQ(project.SaveError(), 61);
@@ -441,7 +442,7 @@ TEST(ProjectSave, OfAScriptKeepsNoBackupsAndStillPutsTheOldBytesBack) {
 
 TEST(ProjectSave, IsEncodedAsAWholeBeforeTheFileIsOpened) {
   TestProject project;
-  project.program.ProjectDescription = "Shale";
+  project.program.project.ProjectDescription = "Shale";
 
   EXPECT_TRUE(project.Save());
 
@@ -451,7 +452,7 @@ TEST(ProjectSave, IsEncodedAsAWholeBeforeTheFileIsOpened) {
 
 TEST(ProjectSave, ATemporaryFileThatFailsDoesNotStopTheSaveAndDoesNotStay) {
   TestProject project;
-  project.program.ProjectDescription = "Shale\r\n\r\nWater";
+  project.program.project.ProjectDescription = "Shale\r\n\r\nWater";
   project.platform.files.Fail(Step::Read, error_number::PermissionDenied);
 
   EXPECT_TRUE(project.Save());
@@ -462,11 +463,11 @@ TEST(ProjectSave, ATemporaryFileThatFailsDoesNotStopTheSaveAndDoesNotStay) {
 
 TEST(ProjectSave, NamesTheFieldsThatWouldNotComeBack) {
   ChangedProject project;
-  project.program.WorkParms.Intersections.Bolt.Desc = "#6 rebar, grade 60";
+  project.program.project.WorkParms.Intersections.Bolt.Desc = "#6 rebar, grade 60";
 
   EXPECT_TRUE(project.Save());
 
-  EXPECT_TRUE(project.program.FileSaved);
+  EXPECT_TRUE(project.program.project.FileSaved);
   ASSERT_EQ(project.platform.boxes.shown.size(), 1U);
   EXPECT_THAT(
       project.platform.boxes.shown[0].text,

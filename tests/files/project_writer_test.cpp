@@ -24,36 +24,36 @@ std::string DataLine(const std::string& bytes, int number) {
 
 TEST(ProjectWriter, SavingWritesTheFileAndSetsTheState) {
   NewProject project;
-  project.program.FileSaved = false;
-  project.program.FileEmpty = true;
+  project.program.project.FileSaved = false;
+  project.program.project.FileEmpty = true;
 
   EXPECT_TRUE(project.Save());
 
   EXPECT_EQ(project.File(), ReadTestData("projects/new_english.orb"));
-  EXPECT_TRUE(project.program.FileSaved);
-  EXPECT_TRUE(project.program.FileEmpty);
+  EXPECT_TRUE(project.program.project.FileSaved);
+  EXPECT_TRUE(project.program.project.FileEmpty);
   EXPECT_FALSE(project.platform.windows.waitCursor);
-  EXPECT_THAT(project.program.history.Text, HasSubstr("2. Saving: /designs/panel3.orb\r\n"));
+  EXPECT_THAT(project.program.session.history.Text, HasSubstr("2. Saving: /designs/panel3.orb\r\n"));
 }
 
 TEST(ProjectWriter, TheHeaderHoldsUnitsStrengthModeTableChoiceTitleAndDescription) {
   NewProject project;
-  project.program.WorkParms.Units = Metric;
-  project.program.WorkParms.Basis = StrengthBasis::Ultimate;
-  project.program.UseAUSStandardTable = 1;
-  project.program.ProjectTitle = "Panel 3";
-  project.program.ProjectDescription = "Shale roof\r\n\r\nWater";
+  project.program.project.WorkParms.Units = Metric;
+  project.program.project.WorkParms.Basis = StrengthBasis::Ultimate;
+  project.program.project.UseAUSStandardTable = 1;
+  project.program.project.ProjectTitle = "Panel 3";
+  project.program.project.ProjectDescription = "Shale roof\r\n\r\nWater";
 
   project.Save();
 
   EXPECT_THAT(project.File(), StartsWith("ORBY_105\r\n 1 \r\n 1 \r\n 1 \r\nPanel 3\r\n##StartDesc##\r\nShale roof\r\n"
                                          "Water\r\n##EndDesc##\r\n45\r\n"));
-  EXPECT_EQ(project.program.ProjectDescription, "Shale roof\r\nWater");
+  EXPECT_EQ(project.program.project.ProjectDescription, "Shale roof\r\nWater");
 }
 
 TEST(ProjectWriter, NumbersAreGeneralTextWithAPoint) {
   NewProject project;
-  Design& record = project.program.WorkParms;
+  Design& record = project.program.project.WorkParms;
   record.Place.DepthofCover = 12.5F;
   record.Place.UnitWeight = 0.7F;
   record.Place.ActualSpanDiagonals = 1.0F / 30;
@@ -73,8 +73,8 @@ TEST(ProjectWriter, NumbersAreGeneralTextWithAPoint) {
 
 TEST(ProjectWriter, TheLastTwoLinesArePadded) {
   NewProject project;
-  project.program.WorkParms.Cost.Production = 0;
-  project.program.WorkParms.Cost.Advance = -1;
+  project.program.project.WorkParms.Cost.Production = 0;
+  project.program.project.WorkParms.Cost.Advance = -1;
 
   const std::string bytes = ProjectFileBytes(project.program);
 
@@ -85,8 +85,8 @@ TEST(ProjectWriter, TheLastTwoLinesArePadded) {
 
 TEST(ProjectWriter, BothSupportModesAreWritten) {
   NewProject project;
-  project.program.WorkParms.Entries.Standing.TypeMode = 0;
-  project.program.WorkParms.Intersections.Standing.TypeMode = 1;
+  project.program.project.WorkParms.Entries.Standing.TypeMode = 0;
+  project.program.project.WorkParms.Intersections.Standing.TypeMode = 1;
 
   const std::string bytes = ProjectFileBytes(project.program);
 
@@ -96,17 +96,17 @@ TEST(ProjectWriter, BothSupportModesAreWritten) {
 
 TEST(ProjectWriter, ComputedFieldsAreNotInTheFile) {
   NewProject project;
-  project.program.WorkParms.Entries.RockLoad = 98765;
-  project.program.WorkParms.Intersections.Standing.StabFactor = 98765;
-  project.program.WorkParms.Entries.Truss.SupportCap = 98765;
+  project.program.project.WorkParms.Entries.RockLoad = 98765;
+  project.program.project.WorkParms.Intersections.Standing.StabFactor = 98765;
+  project.program.project.WorkParms.Entries.Truss.SupportCap = 98765;
 
   EXPECT_EQ(ProjectFileBytes(project.program), ReadTestData("projects/new_english.orb"));
 }
 
 TEST(ProjectWriter, TextsAreWrittenRaw) {
   NewProject project;
-  project.program.WorkParms.Primary.Desc = " Rebar, \"no. 6\" ";
-  project.program.WorkParms.Intersections.Standing.TypeName = "Crib, 4-point";
+  project.program.project.WorkParms.Primary.Desc = " Rebar, \"no. 6\" ";
+  project.program.project.WorkParms.Intersections.Standing.TypeName = "Crib, 4-point";
 
   const std::string bytes = ProjectFileBytes(project.program);
 
@@ -116,10 +116,10 @@ TEST(ProjectWriter, TextsAreWrittenRaw) {
 
 TEST(ProjectWriter, WesternTextsAreWrittenInTheCodePage) {
   NewProject project;
-  project.program.ProjectTitle =
+  project.program.project.ProjectTitle =
       "Gr\xC3\xBC"
       "be";
-  project.program.ProjectDescription = "5 \xE2\x82\xAC";
+  project.program.project.ProjectDescription = "5 \xE2\x82\xAC";
 
   project.Save();
 
@@ -129,10 +129,10 @@ TEST(ProjectWriter, WesternTextsAreWrittenInTheCodePage) {
 
 TEST(ProjectWriter, OneCharacterOutsideTheCodePageMakesTheWholeFileUtf8) {
   NewProject project;
-  project.program.ProjectTitle =
+  project.program.project.ProjectTitle =
       "Gr\xC3\xBC"
       "be";
-  project.program.WorkParms.Intersections.Standing.TypeName = "\xE6\x94\xAF\xE6\x9F\xB1";
+  project.program.project.WorkParms.Intersections.Standing.TypeName = "\xE6\x94\xAF\xE6\x9F\xB1";
 
   project.Save();
 

@@ -25,37 +25,37 @@ TEST(ReadBack, ANewProjectComesBackWhole) {
 
 TEST(ReadBack, TheFieldsThatTheFormatReadsIntoOthersAreLeftOut) {
   NewProject project;
-  project.program.WorkParms.Entries.Standing.TypeMode = 1;
-  project.program.WorkParms.Intersections.Standing.TypeMode = 0;
+  project.program.project.WorkParms.Entries.Standing.TypeMode = 1;
+  project.program.project.WorkParms.Intersections.Standing.TypeMode = 0;
 
   EXPECT_THAT(project.Differing(), IsEmpty());
 }
 
 TEST(ReadBack, TheShiftedHeaderChangesNoField) {
   NewProject project;
-  project.program.ProjectTitle = "Panel 3, north";
-  project.program.ProjectDescription = "Shale, wet\r\n\"quoted\" line";
+  project.program.project.ProjectTitle = "Panel 3, north";
+  project.program.project.ProjectDescription = "Shale, wet\r\n\"quoted\" line";
 
   EXPECT_THAT(project.Differing(), IsEmpty());
 }
 
 TEST(ReadBack, AQuotedDescriptionOfABoltLosesItsQuotesAlone) {
   NewProject project;
-  project.program.WorkParms.Primary.Desc = "\"No. 6\"";
+  project.program.project.WorkParms.Primary.Desc = "\"No. 6\"";
 
   EXPECT_THAT(project.Differing(), ElementsAre("primary bolt description"));
 }
 
 TEST(ReadBack, BlanksBeforeTheDescriptionOfABoltAreLost) {
   NewProject project;
-  project.program.WorkParms.Entries.Bolt.Desc = "  rebar";
+  project.program.project.WorkParms.Entries.Bolt.Desc = "  rebar";
 
   EXPECT_THAT(project.Differing(), ElementsAre("entry bolt description"));
 }
 
 TEST(ReadBack, AnUnclosedQuoteTakesAllThatFollows) {
   NewProject project;
-  project.program.WorkParms.Intersections.Bolt.Desc = "\"No. 6";
+  project.program.project.WorkParms.Intersections.Bolt.Desc = "\"No. 6";
 
   // All fields of the intersections from the description on, without the one that has no field of its own.
   EXPECT_EQ(project.Differing().size(), 35U);
@@ -63,7 +63,7 @@ TEST(ReadBack, AnUnclosedQuoteTakesAllThatFollows) {
 
 TEST(ReadBack, ALineOfTheDescriptionThatEndsItMovesTheFields) {
   NewProject project;
-  project.program.ProjectDescription = "Shale\r\n##EndDesc##\r\nWater";
+  project.program.project.ProjectDescription = "Shale\r\n##EndDesc##\r\nWater";
 
   EXPECT_EQ(project.Differing().front(), "roof rating");
 }

@@ -19,8 +19,8 @@ using testing::StartsWith;
 struct RecoveryFile : testing::Test {
   RecoveryFile() {
     FileNew(project.program, false, true);
-    project.program.FileSaved = false;
-    project.program.FileEmpty = false;
+    project.program.project.FileSaved = false;
+    project.program.project.FileEmpty = false;
   }
 
   std::string Bytes() const { return RecoveryBytes(CommittedProject(project.program)); }
@@ -29,12 +29,12 @@ struct RecoveryFile : testing::Test {
 };
 
 TEST_F(RecoveryFile, OpensWithItsLabelTheProjectAndItsChoices) {
-  project.program.WorkParms.Units = Metric;
-  project.program.WorkParms.Basis = StrengthBasis::Ultimate;
-  project.program.UseAUSStandardTable = 1;
-  project.program.ProjectTitle = "Panel 3";
-  project.program.ProjectDescription = "Belt entry\r\nsouth";
-  project.program.UnitsLocked = true;
+  project.program.project.WorkParms.Units = Metric;
+  project.program.project.WorkParms.Basis = StrengthBasis::Ultimate;
+  project.program.project.UseAUSStandardTable = 1;
+  project.program.project.ProjectTitle = "Panel 3";
+  project.program.project.ProjectDescription = "Belt entry\r\nsouth";
+  project.program.project.UnitsLocked = true;
 
   const std::string bytes = Bytes();
 
@@ -61,8 +61,8 @@ TEST_F(RecoveryFile, GoesOnWithTheDataLinesOfTheProjectFile) {
 }
 
 TEST_F(RecoveryFile, TakesAnEditedDesignAsItsCommitWould) {
-  project.program.FileEmpty = true;
-  Design design = project.program.WorkParms;
+  project.program.project.FileEmpty = true;
+  Design design = project.program.project.WorkParms;
   design.Place.DepthofCover = 725;
 
   const UnsavedProject edited = EditedProject(project.program, design);
@@ -70,12 +70,12 @@ TEST_F(RecoveryFile, TakesAnEditedDesignAsItsCommitWould) {
   EXPECT_EQ(edited.WorkParms.Place.DepthofCover, 725);
   EXPECT_FALSE(edited.FileEmpty);
   EXPECT_TRUE(edited.UnitsLocked);
-  EXPECT_EQ(project.program.WorkParms.Place.DepthofCover, 400);
+  EXPECT_EQ(project.program.project.WorkParms.Place.DepthofCover, 400);
 }
 
 TEST_F(RecoveryFile, BringsTheModeOfTheIntersectionsStandingSupportBackIntoItsOwnField) {
-  project.program.WorkParms.Entries.Standing.TypeMode = 0;
-  project.program.WorkParms.Intersections.Standing.TypeMode = 1;
+  project.program.project.WorkParms.Entries.Standing.TypeMode = 0;
+  project.program.project.WorkParms.Intersections.Standing.TypeMode = 1;
 
   const auto read = ReadRecovery(Bytes());
 
@@ -85,7 +85,7 @@ TEST_F(RecoveryFile, BringsTheModeOfTheIntersectionsStandingSupportBackIntoItsOw
 }
 
 TEST_F(RecoveryFile, KeepsCommasAndQuotesOfABoltDescription) {
-  project.program.WorkParms.Primary.Desc = "  #6, 3/4\" \"forged\", 5' long\\";
+  project.program.project.WorkParms.Primary.Desc = "  #6, 3/4\" \"forged\", 5' long\\";
 
   const auto read = ReadRecovery(Bytes());
 
@@ -94,7 +94,7 @@ TEST_F(RecoveryFile, KeepsCommasAndQuotesOfABoltDescription) {
 }
 
 TEST_F(RecoveryFile, IsUtf8EvenWhereTheCodePageWouldDo) {
-  project.program.ProjectTitle =
+  project.program.project.ProjectTitle =
       "Gr\xC3\xBC"
       "n";
 
@@ -103,7 +103,7 @@ TEST_F(RecoveryFile, IsUtf8EvenWhereTheCodePageWouldDo) {
 }
 
 TEST_F(RecoveryFile, KeepsAPathThatIsNotUtf8) {
-  project.program.CurrentFile =
+  project.program.project.CurrentFile =
       "/designs/gr\xFC"
       "n.orb";
 
@@ -116,10 +116,10 @@ TEST_F(RecoveryFile, KeepsAPathThatIsNotUtf8) {
 }
 
 TEST_F(RecoveryFile, RestoresAnUnsavedProjectUnderItsOldName) {
-  project.program.ProjectTitle = "Panel 3";
-  project.program.ProjectDescription = "\r\n  a line, kept as it is\r\n\r\n";
-  project.program.WorkParms.Place.DepthofCover = 725;
-  project.program.UnitsLocked = true;
+  project.program.project.ProjectTitle = "Panel 3";
+  project.program.project.ProjectDescription = "\r\n  a line, kept as it is\r\n\r\n";
+  project.program.project.WorkParms.Place.DepthofCover = 725;
+  project.program.project.UnitsLocked = true;
   const auto read = ReadRecovery(Bytes());
   ASSERT_TRUE(read.has_value());
   TestProject next;
@@ -127,13 +127,13 @@ TEST_F(RecoveryFile, RestoresAnUnsavedProjectUnderItsOldName) {
 
   RestoreProject(next.program, *read);
 
-  EXPECT_EQ(next.program.CurrentFile, "/designs/panel3.orb");
-  EXPECT_EQ(next.program.ProjectTitle, "Panel 3");
-  EXPECT_EQ(next.program.ProjectDescription, "\r\n  a line, kept as it is\r\n\r\n");
-  EXPECT_EQ(next.program.WorkParms.Place.DepthofCover, 725);
-  EXPECT_FALSE(next.program.FileSaved);
-  EXPECT_FALSE(next.program.FileEmpty);
-  EXPECT_TRUE(next.program.UnitsLocked);
+  EXPECT_EQ(next.program.project.CurrentFile, "/designs/panel3.orb");
+  EXPECT_EQ(next.program.project.ProjectTitle, "Panel 3");
+  EXPECT_EQ(next.program.project.ProjectDescription, "\r\n  a line, kept as it is\r\n\r\n");
+  EXPECT_EQ(next.program.project.WorkParms.Place.DepthofCover, 725);
+  EXPECT_FALSE(next.program.project.FileSaved);
+  EXPECT_FALSE(next.program.project.FileEmpty);
+  EXPECT_TRUE(next.program.project.UnitsLocked);
 }
 
 TEST(RecoveryFileOnDisk, IsReadWholeAndWrittenAlike) {

@@ -26,12 +26,12 @@ class NamelessProject : public testing::TestWithParam<const char*> {};
 
 TEST_P(NamelessProject, IsAskedForItsName) {
   TestProject project;
-  project.program.CurrentFile = GetParam();
+  project.program.project.CurrentFile = GetParam();
   project.platform.fileDialogs.answers = {"/designs/named.orb"};
 
   EXPECT_TRUE(FileMenuSave(project.program, false));
 
-  EXPECT_EQ(project.program.CurrentFile, "/designs/named.orb");
+  EXPECT_EQ(project.program.project.CurrentFile, "/designs/named.orb");
   EXPECT_TRUE(project.platform.files.files.contains("/designs/named.orb"));
 }
 
@@ -39,7 +39,7 @@ INSTANTIATE_TEST_SUITE_P(Names, NamelessProject, testing::Values("", "Untitled",
 
 TEST(SaveCommand, SaveAsOffersTheBareNameInTheDataFolder) {
   TestProject project;
-  project.program.settings.DataPath = "/home/designs/";
+  project.program.session.settings.DataPath = "/home/designs/";
   project.platform.fileDialogs.answers = {"/designs/copy.orb"};
 
   EXPECT_TRUE(FileMenuSave(project.program, true));
@@ -50,14 +50,14 @@ TEST(SaveCommand, SaveAsOffersTheBareNameInTheDataFolder) {
   EXPECT_EQ(question.folder, "/home/designs");
   EXPECT_EQ(question.filters.front().name, "Orby Roof Support Workbench (*.ORB)");
   EXPECT_EQ(question.defaultExtension, "ORB");
-  EXPECT_EQ(project.program.CurrentFile, "/designs/copy.orb");
+  EXPECT_EQ(project.program.project.CurrentFile, "/designs/copy.orb");
   EXPECT_THAT(project.platform.files.created, ElementsAre("/designs/copy.orb"));
 }
 
 TEST(SaveCommand, TheFilterTakesTheConfiguredExtension) {
   TestProject project;
-  project.program.settings.FileExtension = "RSW";
-  project.program.settings.DataPath = "D:\\mine\\";
+  project.program.session.settings.FileExtension = "RSW";
+  project.program.session.settings.DataPath = "D:\\mine\\";
   project.platform.fileDialogs.answers = {"/designs/copy.rsw"};
 
   AskFileName(project.program, FileDialogMode::Open);
@@ -70,7 +70,7 @@ TEST(SaveCommand, TheFilterTakesTheConfiguredExtension) {
 
 TEST(SaveCommand, ABlankNameIsNotOffered) {
   TestProject project;
-  project.program.CurrentFile = "  ";
+  project.program.project.CurrentFile = "  ";
   project.platform.fileDialogs.answers = {"/designs/named.orb"};
 
   AskFileName(project.program, FileDialogMode::Save);
@@ -83,10 +83,10 @@ TEST(SaveCommand, ACancelledDialogSavesNothingAndIsOnlyLogged) {
 
   EXPECT_FALSE(FileMenuSave(project.program, true));
 
-  EXPECT_EQ(project.program.CurrentFile, ProjectPath);
+  EXPECT_EQ(project.program.project.CurrentFile, ProjectPath);
   EXPECT_THAT(project.platform.files.created, IsEmpty());
   EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(project.program.history.Text, "1. Cancel was selected.\r\n");
+  EXPECT_EQ(project.program.session.history.Text, "1. Cancel was selected.\r\n");
 }
 
 TEST(SaveCommand, AskingThrowsTheCancelErrorForTheCallersTrap) {
@@ -105,7 +105,7 @@ class FailingSave : public testing::TestWithParam<FailingStep> {};
 TEST_P(FailingSave, IsToldAndGivenUpOnCancel) {
   TestProject project;
   FileNew(project.program, false, true);
-  project.program.FileSaved = false;
+  project.program.project.FileSaved = false;
   project.platform.files.Fail(GetParam().step, error_number::DiskFull, GetParam().after);
   project.platform.boxes.answers = {box_result::Cancel};
 
@@ -113,7 +113,7 @@ TEST_P(FailingSave, IsToldAndGivenUpOnCancel) {
 
   EXPECT_THAT(project.platform.boxes.Texts(), ElementsAre("Error occurred: Disk full (61)"));
   EXPECT_EQ(project.platform.boxes.shown.front().style, box_style::RetryCancel);
-  EXPECT_FALSE(project.program.FileSaved);
+  EXPECT_FALSE(project.program.project.FileSaved);
   EXPECT_FALSE(project.platform.windows.waitCursor);
   EXPECT_FALSE(project.platform.files.files.contains(ProjectPath)) << "nothing was there before";
 }
@@ -139,16 +139,16 @@ TEST_P(FailingSave, StartsOverOnRetry) {
   RecordingPlatform platform;
   MendingBoxes boxes(platform.files, GetParam().step);
   Program program(platform.DoorsWith(boxes));
-  program.catalogs.StandSupports = {0, {"Four-point timber crib"}, {}};
-  program.CurrentFile = ProjectPath;
+  program.session.catalogs.StandSupports = {0, {"Four-point timber crib"}, {}};
+  program.project.CurrentFile = ProjectPath;
   FileNew(program, false, true);
-  program.FileSaved = false;
+  program.project.FileSaved = false;
   platform.files.Fail(GetParam().step, error_number::DiskFull, GetParam().after);
 
   EXPECT_TRUE(FileMenuSave(program, false));
 
   EXPECT_EQ(boxes.shown, 1);
-  EXPECT_TRUE(program.FileSaved);
+  EXPECT_TRUE(program.project.FileSaved);
   EXPECT_FALSE(platform.windows.waitCursor);
   EXPECT_EQ(platform.files.files[ProjectPath], ReadTestData("projects/new_english.orb"));
 }

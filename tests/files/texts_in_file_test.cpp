@@ -13,13 +13,13 @@ using testing::HasSubstr;
 ProjectTexts AfterOpening(const ProjectTexts& typed, int times) {
   TestProject project;
   FileNew(project.program, false, true);
-  project.program.ProjectTitle = typed.Title;
-  project.program.ProjectDescription = typed.Description;
+  project.program.project.ProjectTitle = typed.Title;
+  project.program.project.ProjectDescription = typed.Description;
   for (int time = 0; time < times; ++time) {
     project.Save();
     project.Open();
   }
-  return {project.program.ProjectTitle, project.program.ProjectDescription};
+  return {project.program.project.ProjectTitle, project.program.project.ProjectDescription};
 }
 
 std::string LostIn(const std::string& title, const std::string& description) {

@@ -16,13 +16,13 @@ using testing::IsEmpty;
 using testing::SizeIs;
 
 struct BackupsView : GuiTest {
-  BackupsView() { program.folders.ProgramData = "/home/user/Documents/Orby/"; }
+  BackupsView() { program.session.folders.ProgramData = "/home/user/Documents/Orby/"; }
 
   // Unsaved changes of three panels, the third the newest.
   void KeepThree() {
     for (const Single depth : {710.0F, 720.0F, 730.0F}) {
-      program.CurrentFile = "/designs/panel at " + std::to_string(static_cast<int>(depth)) + ".orb";
-      program.WorkParms.Place.DepthofCover = depth;
+      program.project.CurrentFile = "/designs/panel at " + std::to_string(static_cast<int>(depth)) + ".orb";
+      program.project.WorkParms.Place.DepthofCover = depth;
       KeepDropped(program, CommittedProject(program), BackupReason::Dropped);
     }
   }

@@ -22,8 +22,8 @@ class Boundary : public GuiTest {
  protected:
   // A design that passes the checks and that no report can be computed of.
   void MakeReportFail() {
-    program.WorkParms.Primary.Analysed = 1;
-    program.WorkParms.Primary.StabilityFactor = 1E38F;
+    program.project.WorkParms.Primary.Analysed = 1;
+    program.project.WorkParms.Primary.StabilityFactor = 1E38F;
   }
 
   ParametersDialog dialog{program};

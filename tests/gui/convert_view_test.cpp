@@ -13,8 +13,8 @@ using testing::IsEmpty;
 class ConvertView : public GuiTest {
  protected:
   ConvertView() {
-    program.CurrentFile = "/designs/panel3.ORB";
-    program.FileEmpty = false;
+    program.project.CurrentFile = "/designs/panel3.ORB";
+    program.project.FileEmpty = false;
   }
 
   // The user converts the open design, in a dialog of its own.
@@ -48,18 +48,18 @@ TEST_F(ConvertView, OpensWithTheChoiceThatAConversionMakes) {
 }
 
 TEST_F(ConvertView, ConvertsAndCloses) {
-  program.WorkParms.Place.DepthofCover = 400;
+  program.project.WorkParms.Place.DepthofCover = 400;
 
   Convert();
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Conversion Completed: The conversion form will be closed"));
-  EXPECT_EQ(program.WorkParms.Units, Metric);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 121.92F);
-  EXPECT_EQ(program.CurrentFile, "Metric_panel3.ORB");
+  EXPECT_EQ(program.project.WorkParms.Units, Metric);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 121.92F);
+  EXPECT_EQ(program.project.CurrentFile, "Metric_panel3.ORB");
 }
 
 TEST_F(ConvertView, ConvertsBackByTheEnterKey) {
-  program.WorkParms.Place.DepthofCover = 400;
+  program.project.WorkParms.Place.DepthofCover = 400;
   Convert();
   ConvertDialog dialog(program);
 
@@ -68,9 +68,9 @@ TEST_F(ConvertView, ConvertsBackByTheEnterKey) {
     Press(Qt::Key_Enter);
   });
 
-  EXPECT_EQ(program.WorkParms.Units, English);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
-  EXPECT_EQ(program.CurrentFile, "English_Metric_panel3.ORB");
+  EXPECT_EQ(program.project.WorkParms.Units, English);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
+  EXPECT_EQ(program.project.CurrentFile, "English_Metric_panel3.ORB");
 }
 
 TEST_F(ConvertView, LeavesTheDesignAloneWhenItIsCancelled) {
@@ -79,8 +79,8 @@ TEST_F(ConvertView, LeavesTheDesignAloneWhenItIsCancelled) {
   Use(dialog, [](QDialog& window) { Click(window, "Command1"); });
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(program.WorkParms.Units, English);
-  EXPECT_EQ(program.CurrentFile, "/designs/panel3.ORB");
+  EXPECT_EQ(program.project.WorkParms.Units, English);
+  EXPECT_EQ(program.project.CurrentFile, "/designs/panel3.ORB");
 }
 
 }  // namespace

@@ -56,13 +56,13 @@ TEST_F(CostView, IsFilledInAndAcceptedByTheKeyboardAlone) {
     EXPECT_FALSE(window.isVisible());
   });
 
-  const CostInputs& cost = program.WorkParms.Cost;
+  const CostInputs& cost = program.project.WorkParms.Cost;
   EXPECT_EQ(cost.BoltCost, 3.25F);
   EXPECT_EQ(cost.PlateCost, 1.1F);
   EXPECT_EQ(cost.Advance, 0);
   EXPECT_EQ(cost.Production, 1);
   EXPECT_EQ(cost.AdvanceRate, 4.6F);
-  EXPECT_FALSE(program.FileSaved);
+  EXPECT_FALSE(program.project.FileSaved);
 }
 
 TEST_F(CostView, ForgetsTheTypedCostsOnEscape) {
@@ -71,8 +71,8 @@ TEST_F(CostView, ForgetsTheTypedCostsOnEscape) {
     Press(Qt::Key_Escape);
   });
 
-  EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3);
-  EXPECT_TRUE(program.FileSaved);
+  EXPECT_EQ(program.project.WorkParms.Cost.BoltCost, 3);
+  EXPECT_TRUE(program.project.FileSaved);
 }
 
 TEST_F(CostView, ForgetsTheTypedCostsWhenItsWindowIsClosed) {
@@ -81,7 +81,7 @@ TEST_F(CostView, ForgetsTheTypedCostsWhenItsWindowIsClosed) {
     window.close();
   });
 
-  EXPECT_EQ(program.WorkParms.Cost.BoltCost, 3);
+  EXPECT_EQ(program.project.WorkParms.Cost.BoltCost, 3);
   EXPECT_FALSE(dialog.IsOpen());
 }
 

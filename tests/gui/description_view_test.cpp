@@ -24,7 +24,7 @@ TEST_F(DescriptionView, TakesATypedTitleWithEnter) {
     EXPECT_FALSE(window.isVisible());
   });
 
-  EXPECT_EQ(program.ProjectTitle, "Panel 3, north mains");
+  EXPECT_EQ(program.project.ProjectTitle, "Panel 3, north mains");
 }
 
 TEST_F(DescriptionView, BeginsInTheTitle) {
@@ -49,18 +49,18 @@ TEST_F(DescriptionView, TakesADescriptionOfSeveralLines) {
     Press(Qt::Key_Return);
   });
 
-  EXPECT_EQ(program.ProjectDescription, "Headgate\r\nsecond cut");
+  EXPECT_EQ(program.project.ProjectDescription, "Headgate\r\nsecond cut");
 }
 
 TEST_F(DescriptionView, ShowsADescriptionOfSeveralLines) {
-  program.ProjectDescription = "Headgate\r\nsecond cut";
+  program.project.ProjectDescription = "Headgate\r\nsecond cut";
 
   Use(dialog, [](QDialog& window) {
     EXPECT_EQ(TextOn(window, "Text2"), "Headgate\nsecond cut");
     Press(Qt::Key_Escape);
   });
 
-  EXPECT_EQ(program.ProjectDescription, "Headgate\r\nsecond cut");
+  EXPECT_EQ(program.project.ProjectDescription, "Headgate\r\nsecond cut");
 }
 
 TEST_F(DescriptionView, ForgetsEverythingOnEscape) {
@@ -70,13 +70,13 @@ TEST_F(DescriptionView, ForgetsEverythingOnEscape) {
     Press(Qt::Key_Escape);
   });
 
-  EXPECT_EQ(program.ProjectTitle, "");
-  EXPECT_EQ(program.WorkParms.Units, English);
-  EXPECT_TRUE(program.FileSaved);
+  EXPECT_EQ(program.project.ProjectTitle, "");
+  EXPECT_EQ(program.project.WorkParms.Units, English);
+  EXPECT_TRUE(program.project.FileSaved);
 }
 
 TEST_F(DescriptionView, LocksTheUnitsAndStrengthsOfAnOpenedFile) {
-  program.UnitsLocked = true;
+  program.project.UnitsLocked = true;
 
   Use(dialog, [](QDialog& window) {
     EXPECT_TRUE(Find(window, "Option1_0").isEnabled());
@@ -114,8 +114,8 @@ TEST_F(DescriptionView, KeepsItsTwoChoicesApart) {
     Press(Qt::Key_Enter);
   });
 
-  EXPECT_EQ(program.WorkParms.Basis, StrengthBasis::Ultimate);
-  EXPECT_EQ(program.WorkParms.Units, English);
+  EXPECT_EQ(program.project.WorkParms.Basis, StrengthBasis::Ultimate);
+  EXPECT_EQ(program.project.WorkParms.Units, English);
 }
 
 TEST_F(DescriptionView, AsksForTheParametersOnNextForm) {
@@ -126,7 +126,7 @@ TEST_F(DescriptionView, AsksForTheParametersOnNextForm) {
   });
 
   EXPECT_TRUE(dialog.OpensParameters);
-  EXPECT_EQ(program.ProjectTitle, "Panel 5");
+  EXPECT_EQ(program.project.ProjectTitle, "Panel 5");
 }
 
 }  // namespace

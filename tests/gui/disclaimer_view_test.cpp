@@ -12,7 +12,7 @@ using testing::Not;
 
 class DisclaimerView : public GuiTest {
  protected:
-  DisclaimerView() { program.IniFilePath = "/home/user/Documents/Orby/ORBY.INI"; }
+  DisclaimerView() { program.session.IniFilePath = "/home/user/Documents/Orby/ORBY.INI"; }
 
   Disclaimer disclaimer{program};
 };
@@ -44,7 +44,7 @@ TEST_F(DisclaimerView, IsAcceptedByTheKeyboard) {
     PressLetterOf(window, "Command1");
   });
 
-  EXPECT_EQ(program.settings.ShowDisclaim, 0);
+  EXPECT_EQ(program.session.settings.ShowDisclaim, 0);
   EXPECT_THAT(platform.files.created, Not(IsEmpty()));
 }
 
@@ -58,7 +58,7 @@ TEST_F(DisclaimerView, EndsTheProgramWhenItIsRefused) {
   });
 
   EXPECT_EQ(ended, 1);
-  EXPECT_EQ(program.settings.ShowDisclaim, 1);
+  EXPECT_EQ(program.session.settings.ShowDisclaim, 1);
   EXPECT_THAT(platform.files.created, IsEmpty());
 }
 

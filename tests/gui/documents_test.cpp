@@ -130,7 +130,7 @@ TEST_F(OpeningDocuments, SaysWhereTheSheetIsOnADesktopWithoutTools) {
 class GraphExport : public GraphViewTest {
  protected:
   GraphExport() : GraphViewTest({.documents = &documents}) {
-    program.folders.ProgramTemporary = desktop.File("").toStdString() + "/";
+    program.session.folders.ProgramTemporary = desktop.File("").toStdString() + "/";
   }
   // By the keys: the entry below Print has no letter.
   void Export() {

@@ -102,7 +102,7 @@ TEST_F(EstimatorRoundTrip, BringsTheChosenRatingBackByTheKeyboardAlone) {
     Press(Qt::Key_Enter);
   });
 
-  EXPECT_EQ(program.WorkParms.Place.CMRR, 65);
+  EXPECT_EQ(program.project.WorkParms.Place.CMRR, 65);
 }
 
 TEST_F(EstimatorRoundTrip, OpensTheRatingForTypingAfterTheManualRow) {

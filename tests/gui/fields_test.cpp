@@ -30,7 +30,7 @@ class Fields : public GuiTest {
  protected:
   // Shows the parameters with their primary support opened; they are cancelled after the script.
   void Work(const ModalScripts::Script& script) {
-    program.WorkParms.Primary.Analysed = 1;
+    program.project.WorkParms.Primary.Analysed = 1;
     Use(dialog, [&](QDialog& window) {
       script(window);
       Settle();
@@ -71,12 +71,12 @@ TEST_F(Fields, SelectTheWholeOfARefusedListThatHasTheKeyboardAlready) {
 }
 
 TEST_F(Fields, TakeTheItemThatIsChosenOfTwoWithOneName) {
-  program.catalogs.StandSupports.DefaultStandSupportType[1] = "Steel Prop";
-  program.catalogs.StandSupports.DefaultStandSupportType[2] = "Steel Prop";
-  program.catalogs.StandSupports.DefaultStandSupportCap[1] = {60, 534};
-  program.catalogs.StandSupports.DefaultStandSupportCap[2] = {85, 756};
-  program.WorkParms.Entries.Analysed = 1;
-  program.WorkParms.Entries.Standing.Use = 1;
+  program.session.catalogs.StandSupports.DefaultStandSupportType[1] = "Steel Prop";
+  program.session.catalogs.StandSupports.DefaultStandSupportType[2] = "Steel Prop";
+  program.session.catalogs.StandSupports.DefaultStandSupportCap[1] = {60, 534};
+  program.session.catalogs.StandSupports.DefaultStandSupportCap[2] = {85, 756};
+  program.project.WorkParms.Entries.Analysed = 1;
+  program.project.WorkParms.Entries.Standing.Use = 1;
   Work([this](QDialog& window) {
     dialog.SSTab1.SetTab(EntriesTab);
     dialog.SSTab2.SetTab(3);
@@ -292,8 +292,8 @@ TEST_F(Fields, KeepTheMarkOfABoltThatIsClickedWithTheControlKey) {
 }
 
 TEST_F(Fields, KeepTheMarkOfABoltWhenTheSpaceBelowTheTableIsClicked) {
-  program.WorkParms.Entries.Analysed = 1;
-  program.WorkParms.Entries.Bolt.Use = 1;
+  program.project.WorkParms.Entries.Analysed = 1;
+  program.project.WorkParms.Entries.Bolt.Use = 1;
   Work([this](QDialog& window) {
     dialog.SSTab1.SetTab(EntriesTab);
     dialog.SSTab2.SetTab(2);

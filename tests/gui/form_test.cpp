@@ -56,7 +56,7 @@ class EveryForm : public GuiTest, public testing::WithParamInterface<FormMaker> 
  protected:
   // The form on the screen, all its tabs enabled.
   void Show() {
-    program.curve.CurvePointCount = 0;
+    program.windows.curve.CurvePointCount = 0;
     form = GetParam().make(program);
     form->Open();
     window = MakeWindow(*form, nullptr);

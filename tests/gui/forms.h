@@ -56,7 +56,7 @@ class OptionsOfAChart : private ChartOfItsOwn, public GraphOptionsDialog {
 inline constexpr std::array FormMakers{
     FormMaker{"frmMain",
               [](Program& program) {
-                program.settings.ShowDisclaim = 0;  // it would ask before the window is there
+                program.session.settings.ShowDisclaim = 0;  // it would ask before the window is there
                 return Plain<MainWindow>(program);
               }},
     FormMaker{"frmPENVParm", Plain<ParametersDialog>},

@@ -149,7 +149,7 @@ double ContrastOf(const QColor& one, const QColor& other) {
 
 TEST_F(GraphView, DrawsEveryCurveSoThatItStandsOutOnADarkGround) {
   const QPalette light = QApplication::palette();
-  program.curve.CurveCount = 6;
+  program.windows.curve.CurveCount = 6;
   graph.DrawCurve();
   for (const QColor& ground :
        {QColor(0x00, 0x00, 0x00), QColor(0x1e, 0x1e, 0x1e), QColor(0x30, 0x30, 0x30), QColor(0x4d, 0x4d, 0x4d)}) {
@@ -186,9 +186,9 @@ TEST_F(GraphView, PutsASymbolOnTheDarkGroundThatCanBeSeen) {
 }
 
 TEST_F(GraphView, ShowsACurveOfOnePointAndItsSurroundingsAlone) {
-  program.curve.CurvePoints[0] = {0};
-  program.curve.CurvePoints[1] = {4};
-  program.curve.CurvePointCount = 1;
+  program.windows.curve.CurvePoints[0] = {0};
+  program.windows.curve.CurvePoints[1] = {4};
+  program.windows.curve.CurvePointCount = 1;
 
   Draw(6);
 
@@ -199,7 +199,7 @@ TEST_F(GraphView, ShowsACurveOfOnePointAndItsSurroundingsAlone) {
 }
 
 TEST_F(GraphView, KeepsNoRangeOfTheCurveBeforeForOneWithoutPoints) {
-  program.curve.CurvePointCount = 0;
+  program.windows.curve.CurvePointCount = 0;
 
   Draw(6);
 

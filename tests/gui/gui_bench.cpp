@@ -181,17 +181,17 @@ void Click(const QWidget& window, std::string_view name) {
 
 GuiTest::GuiTest(const RealDoors& real) : program(platform.Doors(real)) {
   SetErrorHandler([this](const RuntimeError& error) { errors_.push_back(error.number()); });
-  SetBuiltInCatalogs(program.catalogs);
+  SetBuiltInCatalogs(program.session.catalogs);
   StartDesign(English);
 }
 
 GuiTest::~GuiTest() { SetErrorHandler(nullptr); }
 
 void GuiTest::StartDesign(UnitSystem units, StrengthBasis ultimate) {
-  program.settings.UnitsDefault = units;
-  program.options.BoltGradeAsUltimateDefault = ultimate;
+  program.session.settings.UnitsDefault = units;
+  program.session.options.BoltGradeAsUltimateDefault = ultimate;
   FileNew(program, true, true);
-  program.history = {};
+  program.session.history = {};
 }
 
 void GuiTest::Use(Form& form, ModalScripts::Script script) {

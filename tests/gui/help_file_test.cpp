@@ -146,7 +146,7 @@ TEST_P(TopicsOf, TheForm) {
 
 // F1 in a field must not end at the top of a page.
 TEST_P(TopicsOf, EveryControlThatTheKeyboardReaches) {
-  program.settings.ShowDisclaim = 0;
+  program.session.settings.ShowDisclaim = 0;
   const auto form = GetParam().make(program);
   form->Open();
   const auto window = MakeWindow(*form, nullptr);

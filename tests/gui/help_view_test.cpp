@@ -328,7 +328,7 @@ TEST_F(HelpKey, OpensTheTopicOfAFieldOfSeveralLines) {
 }
 
 TEST_F(HelpKey, OpensTheTopicOfAListWithAFieldOfItsOwn) {
-  program.options.ShowInputScreenOnLoad = 0;
+  program.session.options.ShowInputScreenOnLoad = 0;
   ParametersDialog dialog(program);
 
   Use(dialog, [&](QDialog& window) {
@@ -344,7 +344,7 @@ TEST_F(HelpKey, OpensTheTopicOfAListWithAFieldOfItsOwn) {
 
 TEST_F(HelpKey, OpensTheTopicOfTheFieldOverATable) {
   constexpr Integer SupportsPage = 3;
-  program.OptionsTab = SupportsPage;
+  program.windows.OptionsTab = SupportsPage;
   OptionsDialog dialog(program);
 
   Use(dialog, [&](QDialog& window) {

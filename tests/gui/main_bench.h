@@ -42,10 +42,10 @@ inline QWidget* WindowOnView(std::string_view name) {
 class MainViewTest : public GuiTest {
  protected:
   explicit MainViewTest(const RealDoors& real = {}) : GuiTest(real) {
-    program.folders.ProgramTemporary = "/home/user/Documents/Orby/Temp/";
-    program.IniFilePath = "/home/user/Documents/Orby/ORBY.INI";
-    program.options.ShowInputScreenOnLoad = 0;
-    program.settings.ShowDisclaim = 0;
+    program.session.folders.ProgramTemporary = "/home/user/Documents/Orby/Temp/";
+    program.session.IniFilePath = "/home/user/Documents/Orby/ORBY.INI";
+    program.session.options.ShowInputScreenOnLoad = 0;
+    program.session.settings.ShowDisclaim = 0;
     model.Open();
     platform.screen.ShowMain(model, false);
     DressMainWindow(View(), model);

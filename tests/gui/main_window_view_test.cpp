@@ -177,7 +177,7 @@ TEST_F(MainView, OpensADroppedProjectFile) {
   EXPECT_TRUE(Drag({QUrl::fromLocalFile(ToQt(path))}));
   Drop(path);
 
-  EXPECT_THAT(program.CurrentFile, Eq(path));
+  EXPECT_THAT(program.project.CurrentFile, Eq(path));
   EXPECT_THAT(Caption(), HasSubstr("weak-roof.ORB"));
   EXPECT_THAT(RecentEntries(), ElementsAre(path));
 }
@@ -208,7 +208,7 @@ TEST_F(MainView, OpensAFileThatItOffersAgain) {
   View().findChild<QAction*>("mnuFileArray_2")->trigger();
   Settle();
 
-  EXPECT_THAT(program.CurrentFile, Eq(first));
+  EXPECT_THAT(program.project.CurrentFile, Eq(first));
 }
 
 TEST_F(MainView, StarsTheCaptionWhileThereAreUnsavedChanges) {

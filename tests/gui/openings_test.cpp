@@ -25,7 +25,7 @@ class Openings : public GuiTest, public testing::WithParamInterface<FormMaker> {
       });
       const auto form = GetParam().make(program);
       ShowForm(program, *form);
-      program.history.Text.clear();
+      program.session.history.Text.clear();
     }
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     Settle();

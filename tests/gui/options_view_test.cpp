@@ -22,7 +22,7 @@ class OptionsView : public GuiTest {
  protected:
   // The dialog with one of its pages on view.
   void UsePage(int page, const std::function<void(QDialog& window)>& act) {
-    program.OptionsTab = static_cast<Integer>(page);
+    program.windows.OptionsTab = static_cast<Integer>(page);
     Use(dialog, [&](QDialog& window) {
       act(window);
       if (window.isVisible()) window.close();
@@ -66,8 +66,8 @@ TEST_F(OptionsView, ChangesAPreferenceAndADefaultByTheKeyboardAlone) {
     EXPECT_FALSE(window.isVisible());
   });
 
-  EXPECT_EQ(program.options.ShowInputScreenOnLoad, 0);
-  EXPECT_EQ(program.defaults.DefaultENGDepthofCover, 655);
+  EXPECT_EQ(program.session.options.ShowInputScreenOnLoad, 0);
+  EXPECT_EQ(program.session.defaults.DefaultENGDepthofCover, 655);
 }
 
 TEST_F(OptionsView, TakesTheKeyboardToTheDefaultThatIsRefused) {
@@ -102,7 +102,7 @@ TEST_F(OptionsView, AddsToTheListThatTheOptionChooses) {
     Click(window, "cmdOK");
   });
 
-  EXPECT_EQ(program.catalogs.DefaultBoltDiamArrayENG.HighestIndex, 5);
+  EXPECT_EQ(program.session.catalogs.DefaultBoltDiamArrayENG.HighestIndex, 5);
 }
 
 TEST_F(OptionsView, DeletesWhatTheArrowsChooseInAList) {
@@ -168,7 +168,7 @@ TEST_F(OptionsView, ShowsTheItemThatIsChosenWhateverIsClicked) {
 }
 
 TEST_F(OptionsView, ShowsTheListsAnewAfterAReset) {
-  program.catalogs.DefaultBoltGradeArrayENG.Set(0, 44);
+  program.session.catalogs.DefaultBoltGradeArrayENG.Set(0, 44);
   UsePage(EnglishPage, [](QDialog& window) {
     const auto& list = Find<QListWidget>(window, "lstBoltGrade_0");
     EXPECT_EQ(list.item(0)->text(), "44");
@@ -195,7 +195,7 @@ TEST_F(OptionsView, EditsTheCellThatIsClicked) {
     Click(window, "cmdOK");
   });
 
-  EXPECT_EQ(program.catalogs.DefaultCableCapArrayENG[1], 36);
+  EXPECT_EQ(program.session.catalogs.DefaultCableCapArrayENG[1], 36);
 }
 
 TEST_F(OptionsView, GoesToTheFirstCellOfARowWhoseNumberIsClicked) {
@@ -287,7 +287,7 @@ TEST_F(OptionsView, GivesTheOldTextBackOnEscapeAndClosesOnTheNext) {
     EXPECT_FALSE(window.isVisible());
   });
 
-  EXPECT_EQ(program.catalogs.DefaultCableCapArrayENG[0], 26.4F);
+  EXPECT_EQ(program.session.catalogs.DefaultCableCapArrayENG[0], 26.4F);
 }
 
 TEST_F(OptionsView, LetsLettersIntoNamesOnly) {
@@ -356,8 +356,8 @@ TEST_F(OptionsView, AddsARowAndIsReadyToFillItIn) {
     Click(window, "cmdOK");
   });
 
-  EXPECT_EQ(program.catalogs.StandSupports.HighestIndex, 16);
-  EXPECT_EQ(program.catalogs.StandSupports.DefaultStandSupportType[16], "Steel Set");
+  EXPECT_EQ(program.session.catalogs.StandSupports.HighestIndex, 16);
+  EXPECT_EQ(program.session.catalogs.StandSupports.DefaultStandSupportType[16], "Steel Set");
 }
 
 TEST_F(OptionsView, DeletesTheRowThatIsEdited) {

@@ -338,9 +338,9 @@ TEST_F(ParametersView, ShowsATypedCableCapacityInPlaceOfTheListWithoutMovingAnyt
 
 // Some styles of the desktop give a list more height than a field.
 TEST_F(ParametersView, KeepsThePlaceOfAListThatIsTallerThanTheFieldThatReplacesIt) {
-  program.WorkParms.Entries.Analysed = 1;
-  program.WorkParms.Entries.Cable.Use = 1;
-  program.WorkParms.Entries.Cable.CapMode = 1;
+  program.project.WorkParms.Entries.Analysed = 1;
+  program.project.WorkParms.Entries.Cable.Use = 1;
+  program.project.WorkParms.Entries.Cable.CapMode = 1;
   Work([this](QDialog& window) {
     PressLetterOfTab(window, "SSTab1", EntriesTab);
     auto& list = Find<QComboBox>(window, "cmbCableCapacitySecEntry");
@@ -376,7 +376,7 @@ class ManualBolt : public ParametersView {
  protected:
   // On the primary page with a bolt chosen by diameter and grade.
   void WorkOnIt(const ModalScripts::Script& script) {
-    program.WorkParms.Primary.Options = 1;
+    program.project.WorkParms.Primary.Options = 1;
     Work([&](QDialog& window) {
       OpenPage(window, "chkPrimSupport", PrimaryTab);
       Find(window, "cmbBoltDiameterPrimary").setFocus(Qt::TabFocusReason);
@@ -485,12 +485,12 @@ TEST_F(ParametersView, CommitsOnEnter) {
     EXPECT_FALSE(window.isVisible());
   });
 
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 725);
-  EXPECT_FALSE(program.FileSaved);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 725);
+  EXPECT_FALSE(program.project.FileSaved);
 }
 
 TEST_F(ParametersView, ForgetsTheTypedValuesOnEscape) {
-  const Single depth = program.WorkParms.Place.DepthofCover;
+  const Single depth = program.project.WorkParms.Place.DepthofCover;
 
   Use(dialog, [](QDialog& window) {
     TypeInto(window, "txtDepthofCover", "725");
@@ -498,9 +498,9 @@ TEST_F(ParametersView, ForgetsTheTypedValuesOnEscape) {
     EXPECT_FALSE(window.isVisible());
   });
 
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, depth);
-  EXPECT_TRUE(program.FileSaved);
-  EXPECT_EQ(program.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Not Modified\r\n");
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, depth);
+  EXPECT_TRUE(program.project.FileSaved);
+  EXPECT_EQ(program.session.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Not Modified\r\n");
 }
 
 TEST_F(ParametersView, TakesTheKeyboardToTheFieldThatIsWrong) {

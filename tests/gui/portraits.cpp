@@ -117,12 +117,12 @@ void TakePages(const Photographer& photographer, QDialog& window, QTabWidget& ta
 class Sitting {
  public:
   Sitting(const Photographer& photographer, UnitSystem units) : photographer_(photographer), program_(Doors()) {
-    SetBuiltInCatalogs(program_.catalogs);
-    program_.settings.UnitsDefault = units;
-    program_.settings.DisplayFontName = "Arial";
-    program_.settings.ShowDisclaim = 0;
-    program_.folders.ProgramTemporary = "/home/user/Documents/Orby/Temp/";
-    program_.IniFilePath = "/home/user/Documents/Orby/ORBY.INI";
+    SetBuiltInCatalogs(program_.session.catalogs);
+    program_.session.settings.UnitsDefault = units;
+    program_.session.settings.DisplayFontName = "Arial";
+    program_.session.settings.ShowDisclaim = 0;
+    program_.session.folders.ProgramTemporary = "/home/user/Documents/Orby/Temp/";
+    program_.session.IniFilePath = "/home/user/Documents/Orby/ORBY.INI";
     FileNew(program_, true, true);
     const std::string file = units == Metric ? "australian-grade-metric.ORB" : "intersection-secondary-bolts.ORB";
     const std::string path = "/home/user/Documents/Orby/" + file;
@@ -131,12 +131,12 @@ class Sitting {
     window_->Open();
     platform_.screen.ShowMain(*window_, false);
     DressMainWindow(platform_.screen.Main(), *window_);
-    program_.options.ShowInputScreenOnLoad = 0;
+    program_.session.options.ShowInputScreenOnLoad = 0;
     platform_.fileDialogs.answers.push_back(path);
     window_->mnuFileItem.ClickItem(file_item::Open);
     LoadOutBuf0(program_);
     CalculationReport(program_);
-    program_.WorkParmsCopy = program_.WorkParms;
+    program_.windows.WorkParmsCopy = program_.project.WorkParms;
   }
   ~Sitting() { window_->Close(); }
   Sitting(const Sitting&) = delete;
@@ -168,10 +168,10 @@ class Sitting {
 
   // Empty, then with an entry of each kind.
   void TakeBackups() {
-    program_.folders.ProgramData = "/home/user/Documents/Orby/";
+    program_.session.folders.ProgramData = "/home/user/Documents/Orby/";
     TakeDialog<BackupsWindow>("backups-empty");
     KeepDamaged(program_, "ORBY_RECOVERY_1\r\nCurrentFile=/home/user/Documents/Orby/north panel.ORB\r\n");
-    KeepBackup(program_, program_.CurrentFile, BytesOf(std::string(EXAMPLES_DIR) + "/belt-entry-trusses.ORB"),
+    KeepBackup(program_, program_.project.CurrentFile, BytesOf(std::string(EXAMPLES_DIR) + "/belt-entry-trusses.ORB"),
                BackupReason::ChangedOnDisk);
     KeepDropped(program_, CommittedProject(program_), BackupReason::Dropped);
     TakeDialog<BackupsWindow>("backups");
@@ -188,7 +188,7 @@ class Sitting {
   }
 
   void TakeDescription() {
-    program_.ProjectDescription =
+    program_.project.ProjectDescription =
         "North mains, panel 3.\r\nRoof of thinly bedded shale; the cutters start at the crosscuts.";
     TakeDialog<DescriptionDialog>("description");
   }
@@ -222,12 +222,12 @@ class Sitting {
   }
 
   void TakeSettings() {
-    program_.settings.DataPath = "/home/user/Documents/MyStrataDesk/ORBY/";
+    program_.session.settings.DataPath = "/home/user/Documents/MyStrataDesk/ORBY/";
     SettingsDialog settings(program_, nullptr);
     TakeForm(settings, "settings", "cmdCancel");
     FontDialog font(program_, {"DejaVu Sans Mono", 14}, {"Arial", "Courier New", "DejaVu Sans", "DejaVu Sans Mono"});
     TakeForm(font, "font", "cmdCancel");
-    program_.settings.ShowDisclaim = 1;
+    program_.session.settings.ShowDisclaim = 1;
     Disclaimer disclaimer(program_);
     TakeForm(disclaimer, "disclaimer", "Command1");
     ResourceFiles resources(program_);
@@ -313,10 +313,10 @@ class Sitting {
                                "/home/user/Documents/Orby/Mines",
                                "/home/user/Documents/Orby/Temp"};
     std::string report;
-    while (report.size() < 2 * TextBrowser::PieceBytes) report += program_.OutBuf[0];
+    while (report.size() < 2 * TextBrowser::PieceBytes) report += program_.session.OutBuf[0];
     platform_.files.files["/home/user/Documents/Orby/echo.ORB"] = report;
-    program_.settings.DataPath = "/home/user/Documents/Orby/";
-    program_.textBrowse.BrowseFontName = "Courier New";
+    program_.session.settings.DataPath = "/home/user/Documents/Orby/";
+    program_.session.textBrowse.BrowseFontName = "Courier New";
     scripts_.Add([&](QDialog& window) {
       Find(window, "File1").setFocus();
       Press(Qt::Key_Home);
@@ -354,18 +354,18 @@ class Sitting {
   }
 
   void TakeMessages() {
-    program_.FileSaved = false;
+    program_.project.FileSaved = false;
     scripts_.Add([&](QDialog& window) {
       photographer_.Take(window, "message-question");
       Press(Qt::Key_Escape);
     });
     window_->MayClose();
-    program_.FileSaved = true;
+    program_.project.FileSaved = true;
     scripts_.Add([&](QDialog& window) {
       photographer_.Take(window, "message-range");
       Press(Qt::Key_Enter);
     });
-    program_.titles.RangeErrorTitle = "Parameters Range Error";
+    program_.windows.titles.RangeErrorTitle = "Parameters Range Error";
     RangeCheck(program_, "9999", 0, 100, "CMRR");
   }
 

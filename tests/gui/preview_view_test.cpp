@@ -66,8 +66,8 @@ TEST_F(PreviewView, CopiesThePageOnView) {
     Press(Qt::Key_Escape);
   });
 
-  EXPECT_THAT(QGuiApplication::clipboard()->text().toStdString(), Eq(program.OutBuf[0]));
-  EXPECT_THAT(program.history.Text, HasSubstr("Page 0 copied to clipboard"));
+  EXPECT_THAT(QGuiApplication::clipboard()->text().toStdString(), Eq(program.session.OutBuf[0]));
+  EXPECT_THAT(program.session.history.Text, HasSubstr("Page 0 copied to clipboard"));
 }
 
 TEST_F(PreviewView, ClosesByItsButton) {

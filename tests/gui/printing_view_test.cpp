@@ -28,8 +28,8 @@ struct NoPrinters {
 class Printing : private NoPrinters, public ReportTest {
  protected:
   Printing() : ReportTest({.printer = &printer}) {
-    program.settings.ShortRecentFiles = 1;
-    program.CurrentFile = "/designs/panel3.orb";
+    program.session.settings.ShortRecentFiles = 1;
+    program.project.CurrentFile = "/designs/panel3.orb";
   }
 
   // From here on everything is printed to this file.
@@ -129,9 +129,9 @@ class ChartPrinting : public Printing {
  protected:
   ChartPrinting() {
     PrintToFile();
-    program.curve.CurvePoints[0] = {200, 240, 300};
-    program.curve.CurvePoints[1] = {3.25F, 4.5F, 5.75F};
-    program.curve.CurvePointCount = 3;
+    program.windows.curve.CurvePoints[0] = {200, 240, 300};
+    program.windows.curve.CurvePoints[1] = {3.25F, 4.5F, 5.75F};
+    program.windows.curve.CurvePointCount = 3;
     graph.ShowCurve(1);
     Settle();
   }
@@ -174,7 +174,7 @@ TEST_F(ChartPrinting, NamesTheChartInTheProperties) {
 
 TEST_F(Printing, NamesProjectAndProgramInTheProperties) {
   PrintToFile();
-  program.ProjectTitle = " Belt entry of panel 3 ";
+  program.project.ProjectTitle = " Belt entry of panel 3 ";
 
   PrintText(program, "A line\r\n");
 
@@ -328,8 +328,8 @@ TEST_F(Printing, TellsTheHistoryThatItWasCancelled) {
 
   ShowResults(program);
 
-  EXPECT_THAT(program.history.Text, HasSubstr("Current page printed\r\n"));
-  EXPECT_THAT(program.history.Text, EndsWith("Printing aborted\r\n"));
+  EXPECT_THAT(program.session.history.Text, HasSubstr("Current page printed\r\n"));
+  EXPECT_THAT(program.session.history.Text, EndsWith("Printing aborted\r\n"));
   EXPECT_THAT(platform.boxes.Texts(), IsEmpty());
 }
 

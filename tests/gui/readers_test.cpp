@@ -275,7 +275,7 @@ TEST_F(Readers, MoveASlider) {
 class FramesOf : public GuiTest, public testing::WithParamInterface<FormMaker> {};
 
 TEST_P(FramesOf, AreReadOutByTheirOwnTitles) {
-  program.curve.CurvePointCount = 0;
+  program.windows.curve.CurvePointCount = 0;
   const auto form = GetParam().make(program);
   form->Open();
   const auto window = MakeWindow(*form, nullptr);

@@ -16,10 +16,10 @@ namespace orby::test {
 class ReportTest : public GuiTest {
  protected:
   explicit ReportTest(const RealDoors& real = {}) : GuiTest(real) {
-    program.WorkParmsCopy = program.WorkParms;
+    program.windows.WorkParmsCopy = program.project.WorkParms;
     LoadOutBuf0(program);
     CalculationReport(program);
-    program.history = {};
+    program.session.history = {};
   }
 
   // Shows the results until they are closed, the script playing the user.
@@ -41,11 +41,11 @@ inline QWidget& GraphOnView() {
 class GraphViewTest : public GuiTest {
  protected:
   explicit GraphViewTest(const RealDoors& real = {}) : GuiTest(real) {
-    program.folders.ProgramTemporary = "/home/user/Documents/Orby/Temp/";
-    program.IniFilePath = "/home/user/Documents/Orby/ORBY.INI";
-    program.curve.CurvePoints[0] = {200, 240, 300};
-    program.curve.CurvePoints[1] = {3.25F, 4.5F, 5.75F};
-    program.curve.CurvePointCount = 3;
+    program.session.folders.ProgramTemporary = "/home/user/Documents/Orby/Temp/";
+    program.session.IniFilePath = "/home/user/Documents/Orby/ORBY.INI";
+    program.windows.curve.CurvePoints[0] = {200, 240, 300};
+    program.windows.curve.CurvePoints[1] = {3.25F, 4.5F, 5.75F};
+    program.windows.curve.CurvePointCount = 3;
     Draw(1);
   }
   ~GraphViewTest() override {

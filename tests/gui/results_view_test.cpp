@@ -114,8 +114,8 @@ TEST_F(ResultsView, CopiesThePageOnView) {
     Press(Qt::Key_Escape);
   });
 
-  EXPECT_THAT(QGuiApplication::clipboard()->text().toStdString(), Eq(program.OutBuf[1]));
-  EXPECT_THAT(program.history.Text, HasSubstr("Page 1 copied to clipboard"));
+  EXPECT_THAT(QGuiApplication::clipboard()->text().toStdString(), Eq(program.session.OutBuf[1]));
+  EXPECT_THAT(program.session.history.Text, HasSubstr("Page 1 copied to clipboard"));
 }
 
 TEST_F(ResultsView, CopiesAllPagesWithNothingBetweenThem) {
@@ -124,7 +124,8 @@ TEST_F(ResultsView, CopiesAllPagesWithNothingBetweenThem) {
     Press(Qt::Key_Escape);
   });
 
-  EXPECT_THAT(QGuiApplication::clipboard()->text().toStdString(), Eq(program.OutBuf[0] + program.OutBuf[1]));
+  EXPECT_THAT(QGuiApplication::clipboard()->text().toStdString(),
+              Eq(program.session.OutBuf[0] + program.session.OutBuf[1]));
 }
 
 TEST_F(ResultsView, HasTheTextReadOnly) {
@@ -140,8 +141,8 @@ TEST_F(ResultsView, HasTheTextReadOnly) {
 
 TEST_F(ResultsView, ChangesTheInputInTheDialogThatAskedForTheReport) {
   std::vector<Integer> reopened;
-  program.ReportCaller = report_caller::Cost;
-  program.OpenInputDialog = [&](Integer caller) { reopened.push_back(caller); };
+  program.windows.ReportCaller = report_caller::Cost;
+  program.windows.OpenInputDialog = [&](Integer caller) { reopened.push_back(caller); };
 
   UseResults([&](QDialog& window) { PressLetterOf(window, "cmdChangeInput"); });
 
@@ -172,7 +173,7 @@ TEST_F(ResultsView, DrawsTheCurveChosenByTheKeyboard) {
     Press(Qt::Key_Down);
     Press(Qt::Key_Enter);
 
-    EXPECT_EQ(program.curve.CurveIndex, 1);
+    EXPECT_EQ(program.windows.curve.CurveIndex, 1);
     EXPECT_THAT(WindowOnView("frmGraph"), NotNull());
     EXPECT_FALSE(Find(window, "lstGraphs").isVisible());
     window.close();
@@ -187,7 +188,7 @@ TEST_F(ResultsView, DrawsTheCurveThatIsClicked) {
     QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, place.center());
     Settle();
 
-    EXPECT_EQ(program.curve.CurveIndex, 5);
+    EXPECT_EQ(program.windows.curve.CurveIndex, 5);
     EXPECT_FALSE(list.isVisible());
     window.close();
   });
@@ -202,7 +203,7 @@ TEST_F(ResultsView, TakesTheGraphAlongWhenItCloses) {
   });
 
   EXPECT_THAT(WindowOnView("frmGraph"), IsNull());
-  EXPECT_TRUE(program.curve.GraphClosed);
+  EXPECT_TRUE(program.windows.curve.GraphClosed);
 }
 
 TEST_F(ResultsView, LeavesTheGraphUsableBesideIt) {
@@ -240,7 +241,7 @@ TEST_F(ResultsView, KeepsTheGraphWhenAWindowThatWasInUseBesideItCloses) {
     window.close();
   });
 
-  EXPECT_TRUE(program.curve.GraphClosed);
+  EXPECT_TRUE(program.windows.curve.GraphClosed);
 }
 
 TEST_F(ResultsView, DrawsAgainAfterTheGraphWasClosed) {

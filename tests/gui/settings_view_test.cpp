@@ -21,10 +21,10 @@ class SettingsView : public GuiTest {
     platform.fonts.screen = {"Arial", "Courier New", "Sans"};
     platform.files.folders.insert("/home/user/Documents/Orby");
     platform.files.folders.insert("/designs");
-    program.IniFilePath = "/home/user/Documents/Orby/ORBY.INI";
-    program.settings.MaxDisplaySize = 4096;
-    program.settings.DataPath = "/home/user/Documents/Orby/";
-    program.settings.DisplayFontName = "Courier New";
+    program.session.IniFilePath = "/home/user/Documents/Orby/ORBY.INI";
+    program.session.settings.MaxDisplaySize = 4096;
+    program.session.settings.DataPath = "/home/user/Documents/Orby/";
+    program.session.settings.DisplayFontName = "Courier New";
   }
 
   int modified = 0;
@@ -47,11 +47,11 @@ TEST_F(SettingsView, AreSetByTheKeyboardAlone) {
     Press(Qt::Key_Enter);
   });
 
-  EXPECT_EQ(program.settings.UnitsDefault, Metric);
-  EXPECT_EQ(program.settings.FileExtension, "RS7");
-  EXPECT_EQ(program.settings.DataPath, "/designs/");
-  EXPECT_EQ(program.settings.EnableMainMenuToolbar, 0);
-  EXPECT_EQ(program.settings.MaxDisplaySize, 8000);
+  EXPECT_EQ(program.session.settings.UnitsDefault, Metric);
+  EXPECT_EQ(program.session.settings.FileExtension, "RS7");
+  EXPECT_EQ(program.session.settings.DataPath, "/designs/");
+  EXPECT_EQ(program.session.settings.EnableMainMenuToolbar, 0);
+  EXPECT_EQ(program.session.settings.MaxDisplaySize, 8000);
   EXPECT_EQ(modified, 1);
 }
 
@@ -61,7 +61,7 @@ TEST_F(SettingsView, StayAsTheyWereAfterEscape) {
     Press(Qt::Key_Escape);
   });
 
-  EXPECT_EQ(program.settings.MaxMainMenu, 0);
+  EXPECT_EQ(program.session.settings.MaxMainMenu, 0);
   EXPECT_EQ(modified, 0);
 }
 
@@ -73,7 +73,7 @@ TEST_F(SettingsView, LetAnyKeyIntoTheSizeOfTheHistoryAndReadItsNumber) {
     Click(window, "cmdOK");
   });
 
-  EXPECT_EQ(program.settings.MaxDisplaySize, 5000);
+  EXPECT_EQ(program.session.settings.MaxDisplaySize, 5000);
 }
 
 TEST_F(SettingsView, GiveTheKeyboardToTheFieldAtFault) {
@@ -95,7 +95,7 @@ TEST_F(SettingsView, GiveTheKeyboardToTheFieldAtFault) {
 }
 
 TEST_F(SettingsView, ComeUpWithoutAMessage) {
-  program.settings.ShortRecentFiles = 1;
+  program.session.settings.ShortRecentFiles = 1;
 
   Use(settings, [this](QDialog& window) {
     EXPECT_TRUE(Find<QCheckBox>(window, "chkShortNames").isChecked());
@@ -118,7 +118,7 @@ TEST_F(SettingsView, LetTheClickOnABoxEndBeforeTheyTellWhatItMeans) {
     Click(window, "cmdOK");
   });
 
-  EXPECT_EQ(program.settings.ShortRecentFiles, 1);
+  EXPECT_EQ(program.session.settings.ShortRecentFiles, 1);
 }
 
 TEST_F(SettingsView, TakeAFolderThatIsPointedAt) {
@@ -130,7 +130,7 @@ TEST_F(SettingsView, TakeAFolderThatIsPointedAt) {
     Click(window, "cmdOK");
   });
 
-  EXPECT_EQ(program.settings.DataPath, "/designs/");
+  EXPECT_EQ(program.session.settings.DataPath, "/designs/");
 }
 
 // ---- the font ------------------------------------------------------------------------------------------------------
@@ -158,9 +158,9 @@ TEST_F(SettingsView, ChooseTheFontOfTheHistoryByTheArrowKeys) {
 
   ShowForm(program, settings);
 
-  EXPECT_EQ(program.settings.DisplayFontName, "Sans");
-  EXPECT_EQ(program.settings.DisplayFontSize, 14);
-  EXPECT_EQ(program.settings.DisplayFontItalic, -1);
+  EXPECT_EQ(program.session.settings.DisplayFontName, "Sans");
+  EXPECT_EQ(program.session.settings.DisplayFontSize, 14);
+  EXPECT_EQ(program.session.settings.DisplayFontItalic, -1);
 }
 
 TEST_F(SettingsView, ChooseAFontByTheMouse) {
@@ -178,11 +178,11 @@ TEST_F(SettingsView, ChooseAFontByTheMouse) {
 
   ShowForm(program, settings);
 
-  EXPECT_EQ(program.settings.DisplayFontName, "Arial");
+  EXPECT_EQ(program.session.settings.DisplayFontName, "Arial");
 }
 
 TEST_F(SettingsView, LeaveAFontThatIsNotOfferedAloneWhenTheListGetsTheKeyboard) {
-  program.settings.DisplayFontName = "Terminal";
+  program.session.settings.DisplayFontName = "Terminal";
   scripts.Add([](QDialog& settingsWindow) {
     Click(settingsWindow, "Command5");
     Press(Qt::Key_Escape);

@@ -27,10 +27,10 @@ class BrowserView : public GuiTest {
     platform.files.files["/designs/panel4.orb"] = "cover\n980\n";
     platform.files.files["/designs/notes.txt"] = "one\n";
     platform.files.files["/media/stick/stick.orb"] = "stick\n";
-    program.settings.DataPath = "/designs/";
-    program.settings.ExternalEditor = "/usr/bin/viewer";
-    program.folders.ProgramTemporary = "/tmp/";
-    program.IniFilePath = "/designs/ORBY.INI";
+    program.session.settings.DataPath = "/designs/";
+    program.session.settings.ExternalEditor = "/usr/bin/viewer";
+    program.session.folders.ProgramTemporary = "/tmp/";
+    program.session.IniFilePath = "/designs/ORBY.INI";
   }
 
   void Browse(ModalScripts::Script script) {
@@ -208,9 +208,9 @@ TEST_F(BrowserView, HidesThePaneForTheExternalViewer) {
 }
 
 TEST_F(BrowserView, TakesTheFont) {
-  program.textBrowse.BrowseFontName = "Courier New";
-  program.textBrowse.BrowseFontSize = 16;
-  program.textBrowse.BrowseFontBold = -1;
+  program.session.textBrowse.BrowseFontName = "Courier New";
+  program.session.textBrowse.BrowseFontSize = 16;
+  program.session.textBrowse.BrowseFontBold = -1;
   Browse([](QDialog& window) {
     EXPECT_EQ(Pane(window).font().family(), "Courier New");
     EXPECT_EQ(Pane(window).font().pointSize(), 16);

@@ -40,10 +40,10 @@ class UpdateView : protected UpdateDoors, public GuiTest {
  protected:
   UpdateView() : GuiTest({.downloads = &downloads, .files = &files}) {
     QDir(home.path()).mkpath("Documents/MyStrataDesk/ORBY");
-    program.UpdateServer = server.Address({});
-    program.folders.Group = InHome("Documents/MyStrataDesk/");
-    program.folders.ProgramData = InHome("Documents/MyStrataDesk/ORBY/");
-    program.IniFilePath = InHome("Documents/MyStrataDesk/ORBY/ORBY.INI");
+    program.session.UpdateServer = server.Address({});
+    program.session.folders.Group = InHome("Documents/MyStrataDesk/");
+    program.session.folders.ProgramData = InHome("Documents/MyStrataDesk/ORBY/");
+    program.session.IniFilePath = InHome("Documents/MyStrataDesk/ORBY/ORBY.INI");
     program.EndAtOnce = [this] { ++ended; };
     server.ServeFile(SetupFile, SetupBytes, "ETag: \"setup\"");
   }
@@ -138,14 +138,14 @@ TEST_F(UpdateView, SaysThatTheInformationIsInvalid) {
 }
 
 TEST_F(UpdateView, TellsWhenNobodyAnswers) {
-  program.UpdateServer = WebServer().Address({});
+  program.session.UpdateServer = WebServer().Address({});
 
   EXPECT_THAT(CheckOnce(),
               ElementsAre("An error occurred calling InternetOpenUrl function", "Internet Connection Failed"));
 }
 
 TEST_F(UpdateView, HasNothingToOfferWithoutAServer) {
-  program.UpdateServer.clear();
+  program.session.UpdateServer.clear();
 
   UseDialog([](QDialog& window) {
     EXPECT_FALSE(Find(window, "cmdWebPage").isEnabled());
@@ -250,7 +250,7 @@ TEST_F(UpdateView, StaysAliveDuringASlowDownloadAndGoesOnWithItLater) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
   EXPECT_FALSE(files.Finds(NewSetup(), false));
   EXPECT_EQ(files.FileLength(NewSetup() + ".part"), 6000U);
-  EXPECT_EQ(program.settings.RemindAnnualUpdates, 0);
+  EXPECT_EQ(program.session.settings.RemindAnnualUpdates, 0);
 
   server.ServeFile(SetupFile, SetupBytes, "ETag: \"slow\"");
   UseDialog([this](QDialog& window) {
@@ -297,7 +297,7 @@ TEST_F(UpdateView, ComesUpAtStartWhenTheUserWantsTheNewerVersion) {
   WaitFor([this] { return scripts.Left() == 0; });
   Settle();
   EXPECT_EQ(title, "Program Updates");
-  EXPECT_THAT(program.history.Text, HasSubstr("Server/Current: 1.0.01/1.0.00"));
+  EXPECT_THAT(program.session.history.Text, HasSubstr("Server/Current: 1.0.01/1.0.00"));
 }
 
 TEST_F(UpdateView, StaysAwayAtStartOnTheSameVersion) {
@@ -306,7 +306,7 @@ TEST_F(UpdateView, StaysAwayAtStartOnTheSameVersion) {
 
   check.Start();
 
-  WaitFor([this] { return !program.history.Text.empty(); });
+  WaitFor([this] { return !program.session.history.Text.empty(); });
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
@@ -320,7 +320,7 @@ TEST_F(UpdateView, StaysAwayAtStartWhenTheServerSendsTooMuch) {
   WaitFor([this] { return server.BodyBytes() > 65536; });
   Settle();
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(program.history.Text, "");
+  EXPECT_EQ(program.session.history.Text, "");
 }
 
 }  // namespace

@@ -81,7 +81,7 @@ TEST_F(WindowsOnScreen, AFileDroppedJustBeforeADialogOpensDoesNotChangeTheProjec
   QDropEvent drop(View().rect().center(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   scripts.Add([&](QDialog& window) {
     Settle();
-    EXPECT_EQ(program.CurrentFile, UntitledName);
+    EXPECT_EQ(program.project.CurrentFile, UntitledName);
     window.close();
   });
 
@@ -89,7 +89,7 @@ TEST_F(WindowsOnScreen, AFileDroppedJustBeforeADialogOpensDoesNotChangeTheProjec
   QCoreApplication::sendEvent(&View(), &drop);
   Settle();
 
-  EXPECT_EQ(program.CurrentFile, UntitledName);
+  EXPECT_EQ(program.project.CurrentFile, UntitledName);
 }
 
 TEST_F(WindowsOnScreen, ADialogBelongsToTheMainWindow) {

@@ -10,7 +10,7 @@ namespace {
 
 // The costs that the cost dialog opens with in a new English design.
 struct CostDesk : Desk {
-  CostInputs& Costs() { return program.WorkParms.Cost; }
+  CostInputs& Costs() { return program.project.WorkParms.Cost; }
   std::string Page() { return CostReport(Costs(), English); }
   // The row that starts with the label.
   std::string Row(std::string_view label) {

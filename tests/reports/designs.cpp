@@ -7,9 +7,9 @@
 namespace orby::test {
 
 Desk::Desk(UnitSystem units, StrengthBasis strengthMode) : program(machine.Doors()) {
-  SetBuiltInCatalogs(program.catalogs);
-  program.settings.UnitsDefault = units;
-  program.options.BoltGradeAsUltimateDefault = strengthMode;
+  SetBuiltInCatalogs(program.session.catalogs);
+  program.session.settings.UnitsDefault = units;
+  program.session.options.BoltGradeAsUltimateDefault = strengthMode;
   FileNew(program, true, true);
 }
 

@@ -12,7 +12,7 @@ void PickFromTable(BoltSelection& set, std::string_view name, Single diameter, S
 }
 
 void EnglishDefaults(Program& program) {
-  Design& record = program.WorkParms;
+  Design& record = program.project.WorkParms;
   PickBolt(record, 0.75F, 75);
   record.Entries.RockLoad = 10;
   record.Entries.Cable.SupportCap = 10.6F;
@@ -23,7 +23,7 @@ void EnglishDefaults(Program& program) {
 }
 
 void MetricDefaults(Program& program) {
-  Design& record = program.WorkParms;
+  Design& record = program.project.WorkParms;
   PickBolt(record, 20, 520);
   record.Entries.RockLoad = 335.1F;
   record.Entries.Cable.SupportCap = 472;
@@ -92,12 +92,13 @@ void FillEnglishIntersections(Design& record) {
 }
 
 void EverySystemEnglish(Program& program) {
-  program.CurrentFile = "/mines/cedar hollow/second north longwall headgate/intersections under the old works.ORB";
-  program.ProjectTitle = "Cedar Hollow, second north headgate";
-  program.ProjectDescription =
+  program.project.CurrentFile =
+      "/mines/cedar hollow/second north longwall headgate/intersections under the old works.ORB";
+  program.project.ProjectTitle = "Cedar Hollow, second north headgate";
+  program.project.ProjectDescription =
       "Roof of laminated siltstone under a thin rider seam; cables follow the belt.\r\n \r\n"
       "Checked against the survey of the crosscuts.\r\n";
-  Design& record = program.WorkParms;
+  Design& record = program.project.WorkParms;
   record.Place.CMRR = 52;
   record.Place.CMRRRegionIndex = 1;
   record.Place.CMRRRockTypeIndex = 3;
@@ -169,10 +170,10 @@ void FillMetricIntersections(Design& record) {
 }
 
 void EverySystemMetric(Program& program) {
-  program.CurrentFile = "Cedar Hollow.ORB";
-  program.ProjectTitle = "Cedar Hollow, second north headgate";
-  program.ProjectDescription = "Belt entry";
-  Design& record = program.WorkParms;
+  program.project.CurrentFile = "Cedar Hollow.ORB";
+  program.project.ProjectTitle = "Cedar Hollow, second north headgate";
+  program.project.ProjectDescription = "Belt entry";
+  Design& record = program.project.WorkParms;
   record.Place.CMRR = 48;
   record.Place.CMRRRegionIndex = 4;
   record.Place.CMRRRockTypeIndex = 7;
@@ -201,7 +202,7 @@ void UseUltimateGrades(Design& record) {
 }
 
 void UltimateEnglish(Program& program) {
-  Design& record = program.WorkParms;
+  Design& record = program.project.WorkParms;
   PickBolt(record, 0.75F, 100);
   UseUltimateGrades(record);
   record.Entries.Bolt.GradeManual = 95;
@@ -221,7 +222,7 @@ void UltimateEnglish(Program& program) {
 }
 
 void UltimateMetric(Program& program) {
-  Design& record = program.WorkParms;
+  Design& record = program.project.WorkParms;
   PickBolt(record, 20, 690);
   UseUltimateGrades(record);
   record.Entries.Bolt.GradeManual = 650;
@@ -241,7 +242,7 @@ void UltimateMetric(Program& program) {
 }
 
 void AllWarningsEnglish(Program& program) {
-  Design& record = program.WorkParms;
+  Design& record = program.project.WorkParms;
   UseEverySystem(record);
   PickBolt(record, 0.5F, 40);
   record.Place.CMRR = 25;
@@ -275,7 +276,7 @@ void AllWarningsEnglish(Program& program) {
 }
 
 void AllWarningsMetric(Program& program) {
-  Design& record = program.WorkParms;
+  Design& record = program.project.WorkParms;
   UseEverySystem(record);
   PickBolt(record, 12, 280);
   record.Place.CMRR = 25;
@@ -307,10 +308,10 @@ void AllWarningsMetric(Program& program) {
 }
 
 void EverythingOff(Program& program) {
-  program.options.PrintModuleHeader = 0;
-  program.WorkParms.Primary.Analysed = 0;
-  program.WorkParms.Entries.Analysed = 0;
-  program.WorkParms.Intersections.Analysed = 0;
+  program.session.options.PrintModuleHeader = 0;
+  program.project.WorkParms.Primary.Analysed = 0;
+  program.project.WorkParms.Entries.Analysed = 0;
+  program.project.WorkParms.Intersections.Analysed = 0;
 }
 
 struct Golden {

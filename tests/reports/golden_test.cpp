@@ -16,7 +16,7 @@ TEST_P(GoldenPages, TheInputPageIsToTheLetter) {
 
   LoadOutBuf0(desk.program);
 
-  EXPECT_EQ(desk.program.OutBuf[0], ReadTestData("reports/" + GetParam() + "_input.txt"));
+  EXPECT_EQ(desk.program.session.OutBuf[0], ReadTestData("reports/" + GetParam() + "_input.txt"));
 }
 
 TEST_P(GoldenPages, TheCalculationPageIsToTheLetter) {
@@ -25,7 +25,7 @@ TEST_P(GoldenPages, TheCalculationPageIsToTheLetter) {
 
   CalculationReport(desk.program);
 
-  EXPECT_EQ(desk.program.OutBuf[1], ReadTestData("reports/" + GetParam() + "_calculations.txt"));
+  EXPECT_EQ(desk.program.session.OutBuf[1], ReadTestData("reports/" + GetParam() + "_calculations.txt"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Designs, GoldenPages, testing::ValuesIn(GoldenNames()),

@@ -19,7 +19,7 @@ using testing::StartsWith;
 
 std::string InputPage(Desk& desk) {
   LoadOutBuf0(desk.program);
-  return desk.program.OutBuf[0];
+  return desk.program.session.OutBuf[0];
 }
 
 // The lines from the project file on up to the next empty line.
@@ -34,21 +34,22 @@ std::vector<std::string> Geology(Desk& desk) { return SectionOf(InputPage(desk),
 
 TEST(InputEcho, WithoutTheHeaderThePageStartsWithTheTitle) {
   Desk desk;
-  desk.program.options.PrintModuleHeader = 0;
+  desk.program.session.options.PrintModuleHeader = 0;
 
   EXPECT_THAT(InputPage(desk), StartsWith("[PROJECT TITLE]\r\n"));
 }
 
 TEST(InputEcho, OnlyTheSettingOnePrintsTheHeader) {
   Desk desk;
-  desk.program.options.PrintModuleHeader = 2;
+  desk.program.session.options.PrintModuleHeader = 2;
 
   EXPECT_THAT(InputPage(desk), StartsWith("[PROJECT TITLE]\r\n"));
 }
 
 TEST(InputEcho, ALongFileNameWrapsAtItsBlanks) {
   Desk desk;
-  desk.program.CurrentFile = "/designs/cedar hollow/north mains/crosscut nine/belt entry under the old works.ORB";
+  desk.program.project.CurrentFile =
+      "/designs/cedar hollow/north mains/crosscut nine/belt entry under the old works.ORB";
 
   EXPECT_THAT(FileLines(desk), ElementsAre("Project File: /designs/cedar hollow/north mains/crosscut nine/belt",
                                            "entry under the old works.ORB"));
@@ -56,7 +57,8 @@ TEST(InputEcho, ALongFileNameWrapsAtItsBlanks) {
 
 TEST(InputEcho, ALongFileNameWithoutBlanksIsCutToItsEnd) {
   Desk desk;
-  desk.program.CurrentFile = "/designs/cedar_hollow/north_mains/crosscut_nine/belt_entry_under_the_old_works.ORB";
+  desk.program.project.CurrentFile =
+      "/designs/cedar_hollow/north_mains/crosscut_nine/belt_entry_under_the_old_works.ORB";
 
   EXPECT_THAT(FileLines(desk),
               ElementsAre("Project File:", "...hollow/north_mains/crosscut_nine/belt_entry_under_the_old_works.ORB"));
@@ -64,9 +66,9 @@ TEST(InputEcho, ALongFileNameWithoutBlanksIsCutToItsEnd) {
 
 TEST(InputEcho, WithAllAnalysesOffThePageEndsBehindTheOptions) {
   Desk desk;
-  desk.program.WorkParms.Primary.Analysed = 0;
-  desk.program.WorkParms.Entries.Analysed = 0;
-  desk.program.WorkParms.Intersections.Analysed = 0;
+  desk.program.project.WorkParms.Primary.Analysed = 0;
+  desk.program.project.WorkParms.Entries.Analysed = 0;
+  desk.program.project.WorkParms.Intersections.Analysed = 0;
 
   const std::string page = InputPage(desk);
 
@@ -76,7 +78,7 @@ TEST(InputEcho, WithAllAnalysesOffThePageEndsBehindTheOptions) {
 TEST(InputEcho, AnAnalysisIsMadeWhenItsFlagIsOneAndNothingElse) {
   for (const Integer flag : std::array<Integer, 2>{2, -1}) {
     Desk desk;
-    Design& record = desk.program.WorkParms;
+    Design& record = desk.program.project.WorkParms;
     record.Primary.Analysed = record.Entries.Analysed = record.Intersections.Analysed = flag;
 
     EXPECT_TRUE(
@@ -91,8 +93,8 @@ TEST(InputEcho, AnAnalysisIsMadeWhenItsFlagIsOneAndNothingElse) {
 TEST(InputEcho, ASystemIsInUseWhenItsFlagIsOneAndNothingElse) {
   for (const Integer flag : std::array<Integer, 2>{2, -1}) {
     Desk desk;
-    desk.program.WorkParms.Primary.Analysed = 0;
-    UseEverySystem(desk.program.WorkParms, flag);
+    desk.program.project.WorkParms.Primary.Analysed = 0;
+    UseEverySystem(desk.program.project.WorkParms, flag);
 
     const std::string page = InputPage(desk);
 
@@ -111,15 +113,15 @@ TEST(InputEcho, ASystemIsInUseWhenItsFlagIsOneAndNothingElse) {
 
 TEST(InputEcho, IntersectionsAloneStillStandBehindAnEmptyLine) {
   Desk desk;
-  desk.program.WorkParms.Primary.Analysed = 0;
-  desk.program.WorkParms.Entries.Analysed = 0;
+  desk.program.project.WorkParms.Primary.Analysed = 0;
+  desk.program.project.WorkParms.Entries.Analysed = 0;
 
   EXPECT_NE(InputPage(desk).find("...YES\r\n\r\n\r\n\r\n[SECONDARY INTERSECTION SUPPORT]\r\n"), std::string::npos);
 }
 
 TEST(InputEcho, ARatingTypedByHandNamesNeitherRegionNorRock) {
   Desk desk;
-  desk.program.WorkParms.Place.CMRRManual = 1;
+  desk.program.project.WorkParms.Place.CMRRManual = 1;
 
   EXPECT_THAT(Geology(desk),
               ElementsAre("CMRR......................................................45",
@@ -131,9 +133,9 @@ TEST(InputEcho, ARatingTypedByHandNamesNeitherRegionNorRock) {
 
 TEST(InputEcho, ARatingIsTypedByHandInModeOneAlone) {
   Desk desk;
-  desk.program.WorkParms.Place.CMRRManual = 2;
-  desk.program.WorkParms.Place.CMRRRegionIndex = 5;
-  desk.program.WorkParms.Place.CMRRRockTypeIndex = 3;
+  desk.program.project.WorkParms.Place.CMRRManual = 2;
+  desk.program.project.WorkParms.Place.CMRRRegionIndex = 5;
+  desk.program.project.WorkParms.Place.CMRRRockTypeIndex = 3;
 
   EXPECT_THAT(Geology(desk), IsSupersetOf({"CMRR Region..................................Other Western",
                                            "CMRR Rock Type............................Bedded Sandstone"}));
@@ -142,7 +144,7 @@ TEST(InputEcho, ARatingIsTypedByHandInModeOneAlone) {
 TEST(InputEcho, ARegionOutsideTheTableHasNoRowsAtAll) {
   for (const Integer region : std::array<Integer, 2>{-1, 6}) {
     Desk desk;
-    desk.program.WorkParms.Place.CMRRRegionIndex = region;
+    desk.program.project.WorkParms.Place.CMRRRegionIndex = region;
 
     EXPECT_THAT(Geology(desk),
                 ElementsAre("CMRR......................................................45",
@@ -154,8 +156,8 @@ TEST(InputEcho, ARegionOutsideTheTableHasNoRowsAtAll) {
 TEST(InputEcho, ARockTypeOutsideTheTableHasNoRow) {
   for (const Integer rockType : std::array<Integer, 2>{-1, 8}) {
     Desk desk;
-    desk.program.WorkParms.Place.CMRRRegionIndex = 5;
-    desk.program.WorkParms.Place.CMRRRockTypeIndex = rockType;
+    desk.program.project.WorkParms.Place.CMRRRegionIndex = 5;
+    desk.program.project.WorkParms.Place.CMRRRockTypeIndex = rockType;
 
     const auto geology = Geology(desk);
 
@@ -166,8 +168,8 @@ TEST(InputEcho, ARockTypeOutsideTheTableHasNoRow) {
 
 TEST(InputEcho, TheEighthRockTypeOfARegionWithSevenHasNoName) {
   Desk desk;
-  desk.program.WorkParms.Place.CMRRRegionIndex = 5;
-  desk.program.WorkParms.Place.CMRRRockTypeIndex = 7;
+  desk.program.project.WorkParms.Place.CMRRRegionIndex = 5;
+  desk.program.project.WorkParms.Place.CMRRRockTypeIndex = 7;
 
   EXPECT_THAT(Geology(desk), Contains("CMRR Rock Type............................................"));
 }
@@ -190,7 +192,7 @@ TEST(InputEcho, ANewProjectHasNoBoltYet) {
 
 TEST(InputEcho, ABoltTypedByHandIsTheTypedOne) {
   Desk desk;
-  Design& record = desk.program.WorkParms;
+  Design& record = desk.program.project.WorkParms;
   PickBolt(record, 0.75F, 75);
   record.Primary.DiameterMode = 1;
   record.Primary.DiameterManual = 1.125F;
@@ -208,7 +210,7 @@ TEST(InputEcho, ABoltTypedByHandIsTheTypedOne) {
 
 TEST(InputEcho, AnUnknownBoltOptionReadsManualButTakesTheTableRow) {
   Desk desk;
-  Design& record = desk.program.WorkParms;
+  Design& record = desk.program.project.WorkParms;
   record.Primary.Options = 2;
   record.Primary.TableDiameter = 0.625F;
   record.Primary.TableGrade = 60;
@@ -222,14 +224,14 @@ TEST(InputEcho, AnUnknownBoltOptionReadsManualButTakesTheTableRow) {
 
 TEST(InputEcho, ALongBoltDescriptionJoinsItsLabelWithoutADot) {
   Desk desk;
-  desk.program.WorkParms.Primary.Desc = "fully grouted rebar, grade 60, M22 threads";
+  desk.program.project.WorkParms.Primary.Desc = "fully grouted rebar, grade 60, M22 threads";
 
   EXPECT_THAT(LinesOf(InputPage(desk)), Contains("Bolt Descriptionfully grouted rebar, grade 60, M22 threads"));
 }
 
 TEST(InputEcho, MetricGradesMeantAsUltimateStrengthsDifferBetweenPrimaryAndSecondaryBolts) {
   Desk desk(Metric, StrengthBasis::Ultimate);
-  Design& record = desk.program.WorkParms;
+  Design& record = desk.program.project.WorkParms;
   PickBolt(record, 20, 690);
   UseEverySystem(record);
 
@@ -250,11 +252,11 @@ TEST(InputEcho, MetricGradesMeantAsUltimateStrengthsDifferBetweenPrimaryAndSecon
 
 TEST(InputEcho, GradesOfAnUnknownKindAreConvertedLikeUltimateStrengthsButNotCalledSo) {
   Desk english;
-  english.program.WorkParms.Basis = StrengthBasis{2};
-  PickBolt(english.program.WorkParms, 0.75F, 100);
+  english.program.project.WorkParms.Basis = StrengthBasis{2};
+  PickBolt(english.program.project.WorkParms, 0.75F, 100);
   Desk metric(Metric);
-  metric.program.WorkParms.Basis = StrengthBasis{2};
-  PickBolt(metric.program.WorkParms, 20, 690);
+  metric.program.project.WorkParms.Basis = StrengthBasis{2};
+  PickBolt(metric.program.project.WorkParms, 20, 690);
 
   const std::string inTons = InputPage(english);
   const std::string inKilonewtons = InputPage(metric);
@@ -268,7 +270,7 @@ TEST(InputEcho, GradesOfAnUnknownKindAreConvertedLikeUltimateStrengthsButNotCall
 
 TEST(InputEcho, TheCapacityOfACableIsTheSelectedFieldEvenWhenItGoesByTheDiameter) {
   Desk desk;
-  Design& record = desk.program.WorkParms;
+  Design& record = desk.program.project.WorkParms;
   record.Intersections.Analysed = 0;
   record.Entries.Cable.Capacity = 1;
   record.Entries.Cable.CapacityStd = 26.4F;
@@ -282,7 +284,7 @@ TEST(InputEcho, TheCapacityOfACableIsTheSelectedFieldEvenWhenItGoesByTheDiameter
 
 TEST(InputEcho, ACableOfGivenCapacityHasNoDiameter) {
   Desk desk;
-  Design& record = desk.program.WorkParms;
+  Design& record = desk.program.project.WorkParms;
   record.Intersections.Analysed = 0;
   record.Entries.Cable.CapMode = 1;
 
@@ -294,7 +296,7 @@ TEST(InputEcho, ACableOfGivenCapacityHasNoDiameter) {
 
 TEST(InputEcho, ACableOfAnUnknownKindIsOfTheCapacityTypedIn) {
   Desk desk;
-  Design& record = desk.program.WorkParms;
+  Design& record = desk.program.project.WorkParms;
   record.Intersections.Analysed = 0;
   record.Entries.Cable.CapMode = 2;
   record.Entries.Cable.Capacity = 2;
@@ -308,18 +310,18 @@ TEST(InputEcho, ACableOfAnUnknownKindIsOfTheCapacityTypedIn) {
 
 TEST(InputEcho, MakingAReportTidiesTheDescriptionOfTheProject) {
   Desk desk;
-  desk.program.ProjectDescription = "Belt entry\r\n\r\nReturn entry\r\n";
+  desk.program.project.ProjectDescription = "Belt entry\r\n\r\nReturn entry\r\n";
 
   const std::string page = InputPage(desk);
 
-  EXPECT_EQ(desk.program.ProjectDescription, "Belt entry\r\nReturn entry");
-  EXPECT_EQ(desk.program.DescLines, 4);
+  EXPECT_EQ(desk.program.project.ProjectDescription, "Belt entry\r\nReturn entry");
+  EXPECT_EQ(desk.program.project.DescLines, 4);
   EXPECT_NE(page.find("[PROJECT DESCRIPTION]\r\nBelt entry\r\nReturn entry\r\n\r\n[GEOLOGY"), std::string::npos);
 }
 
 TEST(InputEcho, ADescriptionThatCannotBeTidiedIsPrintedAsItStands) {
   Desk desk;
-  desk.program.ProjectDescription = "Belt entry\r\n\r\nReturn entry";
+  desk.program.project.ProjectDescription = "Belt entry\r\n\r\nReturn entry";
   desk.machine.files.Fail(MemoryFiles::Step::Create, 61);
 
   const std::string page = InputPage(desk);
@@ -329,29 +331,29 @@ TEST(InputEcho, ADescriptionThatCannotBeTidiedIsPrintedAsItStands) {
 
 TEST(InputEcho, RebuildsItsOwnPageAndLeavesTheOthers) {
   Desk desk;
-  desk.program.OutBuf[0] = "yesterday's page";
-  desk.program.OutBuf[1] = "the calculations";
-  desk.program.LastPage = 4;
+  desk.program.session.OutBuf[0] = "yesterday's page";
+  desk.program.session.OutBuf[1] = "the calculations";
+  desk.program.windows.LastPage = 4;
 
   const std::string once = InputPage(desk);
   const std::string twice = InputPage(desk);
 
   EXPECT_THAT(once, StartsWith("ORBY module build: 201030\r\n"));
   EXPECT_EQ(twice, once);
-  EXPECT_EQ(desk.program.OutBuf[1], "the calculations");
-  EXPECT_EQ(desk.program.LastPage, 1);
+  EXPECT_EQ(desk.program.session.OutBuf[1], "the calculations");
+  EXPECT_EQ(desk.program.windows.LastPage, 1);
 }
 
 TEST(InputEcho, ShowsTheCommittedDesign) {
   Desk desk;
-  desk.program.WorkParmsCopy.Place.EntryWidth = 17;
+  desk.program.windows.WorkParmsCopy.Place.EntryWidth = 17;
 
   EXPECT_EQ(ValueOf(InputPage(desk), "Entry Width"), "20 (ft)");
 }
 
 TEST(InputEcho, AUnitSystemThatDoesNotExistEndsTheReport) {
   Desk desk;
-  desk.program.WorkParms.Units = UnitSystem{2};
+  desk.program.project.WorkParms.Units = UnitSystem{2};
 
   EXPECT_EQ(ErrorNumberOf([&] { LoadOutBuf0(desk.program); }), 9);
 }

@@ -27,10 +27,10 @@ struct PrimaryDesk : Desk {
     Parms().Entries.Analysed = 0;
     Parms().Intersections.Analysed = 0;
   }
-  Design& Parms() { return program.WorkParms; }
+  Design& Parms() { return program.project.WorkParms; }
   std::string Page() {
     CalculationReport(program);
-    return program.OutBuf[1];
+    return program.session.OutBuf[1];
   }
   std::vector<std::string> Span() { return SectionOf(Page(), "[INTERSECTION SPAN INFORMATION]"); }
   std::vector<std::string> Bolts() { return SectionOf(Page(), "[PRIMARY SUPPORT - ROOF BOLTS]"); }
@@ -39,16 +39,16 @@ struct PrimaryDesk : Desk {
 
 TEST(CalculationReport, ReplacesItsPageAndMakesItTheLast) {
   PrimaryDesk desk;
-  desk.program.OutBuf[0] = "the inputs";
-  desk.program.OutBuf[1] = "a cost table";
-  desk.program.LastPage = 4;
+  desk.program.session.OutBuf[0] = "the inputs";
+  desk.program.session.OutBuf[1] = "a cost table";
+  desk.program.windows.LastPage = 4;
 
   const std::string page = desk.Page();
 
   EXPECT_TRUE(page.starts_with("[ORBY CALCULATIONS]\r\n"));
   EXPECT_EQ(page.find("a cost table"), std::string::npos);
-  EXPECT_EQ(desk.program.OutBuf[0], "the inputs");
-  EXPECT_EQ(desk.program.LastPage, 1);
+  EXPECT_EQ(desk.program.session.OutBuf[0], "the inputs");
+  EXPECT_EQ(desk.program.windows.LastPage, 1);
 }
 
 TEST(CalculationReport, WithEveryAnalysisOffHoldsItsHeadingAlone) {
@@ -69,7 +69,7 @@ TEST(CalculationReport, AnAnalysisIsOnWhenItsFlagIsOneAndNothingElse) {
 
 TEST(CalculationReport, JudgesTheCommittedDesign) {
   PrimaryDesk desk;
-  desk.program.WorkParmsCopy.Place.ActualSpanDiagonals = 90;
+  desk.program.windows.WorkParmsCopy.Place.ActualSpanDiagonals = 90;
 
   EXPECT_EQ(ValueOf(desk.Page(), "Actual Sum of Diagonals"), "60.0 (ft)");
 }
@@ -222,7 +222,7 @@ TEST(BoltReport, ABoltWhoseGradeIsNoYieldStrengthIsLabelledByItsUltimateCapacity
   for (const StrengthBasis basis : {StrengthBasis::Ultimate, StrengthBasis{2}}) {
     PrimaryDesk desk;
     PickBolt(desk.Parms(), 0.75F, 100);
-    desk.program.WorkParms.Basis = basis;
+    desk.program.project.WorkParms.Basis = basis;
 
     const std::string page = desk.Page();
 

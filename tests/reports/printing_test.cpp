@@ -30,7 +30,7 @@ std::vector<std::string> TextOn(const std::string& sheet) {
 
 TEST(Printing, PutsTheHeaderOnEverySheet) {
   Desk desk;
-  desk.program.CurrentFile = "/designs/belt-entry-trusses.ORB";
+  desk.program.project.CurrentFile = "/designs/belt-entry-trusses.ORB";
   desk.machine.clock.today = {2031, 12, 31};
 
   const auto sheets = PrintSheets(desk.program, LinesNumbered(TextLines + 1));
@@ -61,7 +61,7 @@ TEST(Printing, NamesTheMetricUnitsAndADayOfOneDigit) {
 
 TEST(Printing, KeepsALongFileNameClearOfThePageNumber) {
   Desk desk;
-  desk.program.CurrentFile = "/designs/northern panel three, second headgate, revised after the fall.ORB";
+  desk.program.project.CurrentFile = "/designs/northern panel three, second headgate, revised after the fall.ORB";
 
   const auto sheets = PrintSheets(desk.program, {});
 
@@ -168,14 +168,14 @@ TEST(Printing, ProposesTheNameOfTheFileWithoutItsExtension) {
   Desk desk;
   EXPECT_EQ(PrintedName(desk.program), "Untitled");
 
-  desk.program.CurrentFile = "/designs/panel 3.5.ORB";
+  desk.program.project.CurrentFile = "/designs/panel 3.5.ORB";
   EXPECT_EQ(PrintedName(desk.program), "panel 3.5");
 }
 
 TEST(Printing, CallsTheDocumentByFileAndTitle) {
   Desk desk;
-  desk.program.CurrentFile = "/designs/weak-roof.ORB";
-  desk.program.ProjectTitle = "  Headgate 4 ";
+  desk.program.project.CurrentFile = "/designs/weak-roof.ORB";
+  desk.program.project.ProjectTitle = "  Headgate 4 ";
 
   PrintText(desk.program, "roof bolts\r\n");
 
@@ -184,9 +184,9 @@ TEST(Printing, CallsTheDocumentByFileAndTitle) {
 
 TEST(Printing, CallsTheDocumentByTheTitleThatWasTypedAfterOpeningShiftedIt) {
   Desk desk;
-  desk.program.CurrentFile = "/designs/weak-roof.ORB";
-  desk.program.ProjectTitle = " 0 ";
-  desk.program.ProjectDescription = "Headgate 4\r\n##StartDesc##\r\nBelt entry\r\n";
+  desk.program.project.CurrentFile = "/designs/weak-roof.ORB";
+  desk.program.project.ProjectTitle = " 0 ";
+  desk.program.project.ProjectDescription = "Headgate 4\r\n##StartDesc##\r\nBelt entry\r\n";
 
   PrintText(desk.program, "roof bolts\r\n");
 
@@ -195,7 +195,7 @@ TEST(Printing, CallsTheDocumentByTheTitleThatWasTypedAfterOpeningShiftedIt) {
 
 TEST(Printing, JoinsPagesWithNothingBetweenThem) {
   Desk desk;
-  desk.program.OutBuf = {"inputs\r\n", "calculations\r\n", "", "", ""};
+  desk.program.session.OutBuf = {"inputs\r\n", "calculations\r\n", "", "", ""};
 
   EXPECT_EQ(JoinedPages(desk.program, 0, 1), "inputs\r\ncalculations\r\n");
   EXPECT_EQ(JoinedPages(desk.program, 1, 1), "calculations\r\n");
@@ -205,7 +205,7 @@ TEST(Printing, JoinsPagesWithNothingBetweenThem) {
 
 TEST(Printing, SendsTheSheetsToThePrinterInItsFont) {
   Desk desk;
-  desk.program.CurrentFile = "/designs/weak-roof.ORB";
+  desk.program.project.CurrentFile = "/designs/weak-roof.ORB";
   desk.machine.fonts.printer = {"Arial", "Courier New"};
 
   PrintText(desk.program, LinesNumbered(TextLines + 1));

@@ -32,10 +32,10 @@ struct SecondaryDesk : Desk {
     }
     Parms().Primary.Analysed = 0;
   }
-  Design& Parms() { return program.WorkParms; }
+  Design& Parms() { return program.project.WorkParms; }
   std::string Page() {
     CalculationReport(program);
-    return program.OutBuf[1];
+    return program.session.OutBuf[1];
   }
   std::vector<std::string> Section(std::string_view heading) { return SectionOf(Page(), heading); }
   int Error() {

@@ -14,17 +14,17 @@ const std::string Store = DataFolder + "Backups/";
 
 struct TheBackupsCommand : MainWindowTest {
   TheBackupsCommand() {
-    program.folders.ProgramData = DataFolder;
-    program.settings.DataPath = "/designs/";
+    program.session.folders.ProgramData = DataFolder;
+    program.session.settings.DataPath = "/designs/";
   }
 
   // An overwritten file of panel 4 and, newer, unsaved changes of panel 3.
   void KeepTwo() {
     KeepBackup(program, Panel4, DesignAt(980), BackupReason::Overwritten);
     OpenByDialog(Panel3);
-    program.WorkParms.Place.DepthofCover = 800;
-    program.ProjectTitle = "Belt entry";
-    program.WorkParms.Primary.Options = 1;
+    program.project.WorkParms.Place.DepthofCover = 800;
+    program.project.ProjectTitle = "Belt entry";
+    program.project.WorkParms.Primary.Options = 1;
     KeepDropped(program, CommittedProject(program), BackupReason::Dropped);
     window.mnuFileItem.ClickItem(file_item::New);
     platform.boxes.shown.clear();
@@ -44,10 +44,10 @@ TEST_F(TheBackupsCommand, OpensOneAsAnUnsavedProjectUnderItsOldName) {
 
   UseFromMenu([](BackupsWindow& shown) { shown.cmdOpen.Press(); });
 
-  EXPECT_EQ(program.CurrentFile, Panel3);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 800);
-  EXPECT_EQ(program.ProjectTitle, "Belt entry");
-  EXPECT_FALSE(program.FileSaved);
+  EXPECT_EQ(program.project.CurrentFile, Panel3);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 800);
+  EXPECT_EQ(program.project.ProjectTitle, "Belt entry");
+  EXPECT_FALSE(program.project.FileSaved);
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb*");
   EXPECT_TRUE(Exists(RecoveryPath)) << "it is unsaved work";
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
@@ -61,10 +61,10 @@ TEST_F(TheBackupsCommand, OpensAnOverwrittenFileToo) {
     shown.cmdOpen.Press();
   });
 
-  EXPECT_EQ(program.CurrentFile, Panel4);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 980);
-  EXPECT_FALSE(program.FileSaved);
-  EXPECT_FALSE(program.FileEmpty);
+  EXPECT_EQ(program.project.CurrentFile, Panel4);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 980);
+  EXPECT_FALSE(program.project.FileSaved);
+  EXPECT_FALSE(program.project.FileEmpty);
 }
 
 TEST_F(TheBackupsCommand, OpensAFileOfUnknownFolderAsOneOfTheDataFolder) {
@@ -76,33 +76,33 @@ TEST_F(TheBackupsCommand, OpensAFileOfUnknownFolderAsOneOfTheDataFolder) {
     shown.cmdOpen.Press();
   });
 
-  EXPECT_EQ(program.CurrentFile, Panel4);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 980);
+  EXPECT_EQ(program.project.CurrentFile, Panel4);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 980);
 }
 
 TEST_F(TheBackupsCommand, AsksForTheUnsavedChangesOfThePresentProjectBeforeItOpensOne) {
   KeepTwo();
   OpenByDialog(Panel4);
-  program.WorkParms.Place.DepthofCover = 1010;
-  program.FileSaved = false;
+  program.project.WorkParms.Place.DepthofCover = 1010;
+  program.project.FileSaved = false;
   platform.boxes.answers = {box_result::No};
 
   UseFromMenu([](BackupsWindow& shown) { shown.cmdOpen.Press(); });
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Save changes to: /designs/panel4.orb?"));
-  EXPECT_EQ(program.CurrentFile, Panel3);
+  EXPECT_EQ(program.project.CurrentFile, Panel3);
   EXPECT_EQ(ListBackups(program).front().Project, Panel4) << "what was not saved is kept in its turn";
 }
 
 TEST_F(TheBackupsCommand, KeepsThePresentProjectWhenItsChangesCannotBeSaved) {
   KeepTwo();
-  program.FileSaved = false;
+  program.project.FileSaved = false;
   platform.boxes.answers = {box_result::Yes};
 
   UseFromMenu([](BackupsWindow& shown) { shown.cmdOpen.Press(); });
 
-  EXPECT_EQ(program.CurrentFile, "Untitled");
-  EXPECT_FALSE(program.FileSaved);
+  EXPECT_EQ(program.project.CurrentFile, "Untitled");
+  EXPECT_FALSE(program.project.FileSaved);
 }
 
 TEST_F(TheBackupsCommand, ChangesNothingWhenItIsClosed) {
@@ -111,8 +111,8 @@ TEST_F(TheBackupsCommand, ChangesNothingWhenItIsClosed) {
 
   UseFromMenu([](BackupsWindow& shown) { shown.Command1.Press(); });
 
-  EXPECT_EQ(program.CurrentFile, Panel4);
-  EXPECT_TRUE(program.FileSaved);
+  EXPECT_EQ(program.project.CurrentFile, Panel4);
+  EXPECT_TRUE(program.project.FileSaved);
 }
 
 }  // namespace

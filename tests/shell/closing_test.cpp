@@ -41,7 +41,7 @@ TEST_F(Closing, IsStoppedByCancel) {
   Exit();
 
   EXPECT_TRUE(window.IsOpen());
-  EXPECT_FALSE(program.FileSaved);
+  EXPECT_FALSE(program.project.FileSaved);
 }
 
 TEST_F(Closing, WithoutSavingIsANo) {
@@ -66,7 +66,7 @@ TEST_F(Closing, SavesOnYes) {
 }
 
 TEST_F(Closing, ShowsTheNewNameOfAProjectThatCouldNotBeSavedUnderIt) {
-  program.FileSaved = false;
+  program.project.FileSaved = false;
   platform.boxes.answers = {box_result::Yes};
   platform.fileDialogs.answers = {"/designs/new.orb"};
   platform.files.Fail(MemoryFiles::Step::Flush, error_number::DiskFull, 0, 1);
@@ -80,7 +80,7 @@ TEST_F(Closing, ShowsTheNewNameOfAProjectThatCouldNotBeSavedUnderIt) {
 }
 
 TEST_F(Closing, AsksAnUntitledProjectForItsName) {
-  program.FileSaved = false;
+  program.project.FileSaved = false;
   platform.boxes.answers = {box_result::Yes};
   platform.fileDialogs.answers = {"/designs/new.orb"};
 
@@ -89,12 +89,12 @@ TEST_F(Closing, AsksAnUntitledProjectForItsName) {
   EXPECT_FALSE(window.IsOpen());
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Save changes to: Untitled?"));
   EXPECT_EQ(FileAt("/designs/new.orb"), DesignAt(400));
-  EXPECT_EQ(program.recentFiles.Entries[0].LastFileLong, "/designs/new.orb");
+  EXPECT_EQ(program.session.recentFiles.Entries[0].LastFileLong, "/designs/new.orb");
   EXPECT_THAT(FileAt(IniPath), HasSubstr("LastFileLong1=/designs/new.orb\r\n"));
 }
 
 TEST_F(Closing, IsStoppedWhenTheNameIsNotGiven) {
-  program.FileSaved = false;
+  program.project.FileSaved = false;
   platform.boxes.answers = {box_result::Yes};
 
   Exit();
@@ -110,12 +110,12 @@ TEST_F(Closing, IsStoppedByASaveThatFails) {
   Exit();
 
   EXPECT_TRUE(window.IsOpen());
-  EXPECT_FALSE(program.FileSaved);
+  EXPECT_FALSE(program.project.FileSaved);
 }
 
 TEST_F(Closing, AsksForAnUnsavedProjectThoughItIsEmpty) {
-  program.FileSaved = false;
-  program.FileEmpty = true;
+  program.project.FileSaved = false;
+  program.project.FileEmpty = true;
   platform.boxes.answers = {box_result::Cancel};
 
   EXPECT_FALSE(window.MayClose());

@@ -14,7 +14,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 struct DroppedChanges : MainWindowTest {
-  DroppedChanges() { program.folders.ProgramData = "/home/user/Documents/Orby/"; }
+  DroppedChanges() { program.session.folders.ProgramData = "/home/user/Documents/Orby/"; }
 
   // "/designs/panel3.orb at 800", one text for each backup, the newest first.
   std::vector<std::string> Kept() {
@@ -46,7 +46,7 @@ TEST_F(DroppedChanges, AreKeptByNew) {
 
   EXPECT_THAT(Kept(), ElementsAre("/designs/panel3.orb at 800"));
   EXPECT_EQ(ListBackups(program).front().Reason, BackupReason::Dropped);
-  EXPECT_THAT(program.history.Text, HasSubstr("Unsaved changes kept in Backups: /designs/panel3.orb"));
+  EXPECT_THAT(program.session.history.Text, HasSubstr("Unsaved changes kept in Backups: /designs/panel3.orb"));
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
@@ -57,7 +57,7 @@ TEST_F(DroppedChanges, AreKeptByOpenOnNo) {
   OpenByDialog(Panel4);
 
   EXPECT_THAT(Kept(), ElementsAre("/designs/panel3.orb at 800"));
-  EXPECT_EQ(program.CurrentFile, Panel4);
+  EXPECT_EQ(program.project.CurrentFile, Panel4);
 }
 
 TEST_F(DroppedChanges, AreKeptByARecentFileOnNo) {
@@ -68,7 +68,7 @@ TEST_F(DroppedChanges, AreKeptByARecentFileOnNo) {
   window.mnuFileArray.ClickItem(2);
 
   EXPECT_THAT(Kept(), ElementsAre("/designs/panel3.orb at 800"));
-  EXPECT_EQ(program.CurrentFile, Panel4);
+  EXPECT_EQ(program.project.CurrentFile, Panel4);
 }
 
 TEST_F(DroppedChanges, AreKeptByADroppedFileOnNo) {
@@ -104,7 +104,7 @@ TEST_F(DroppedChanges, AreKeptWhenTheParametersAreCancelled) {
   EditAndCancel<ParametersDialog>(edit_item::Parameters, [](auto& dialog) { dialog.txtDepthofCover.SetText("910"); });
 
   EXPECT_THAT(Kept(), ElementsAre("/designs/panel3.orb at 910"));
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 725);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 725);
 }
 
 TEST_F(DroppedChanges, AreKeptWhenTheCostsAreCancelled) {
@@ -134,7 +134,7 @@ TEST_F(DroppedChanges, AreNoneOfADialogThatIsAccepted) {
     dialog.Command2.Press();
   });
 
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 910);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 910);
   EXPECT_THAT(Kept(), IsEmpty());
 }
 
@@ -155,7 +155,7 @@ TEST_F(DroppedChanges, AreToldOnceWhenTheyCannotBeKept) {
 
   EXPECT_THAT(platform.boxes.Texts(),
               ElementsAre("The unsaved changes could not be kept in Backups: /designs/panel3.orb"));
-  EXPECT_EQ(program.CurrentFile, "Untitled");
+  EXPECT_EQ(program.project.CurrentFile, "Untitled");
 }
 
 // The ways in which a project with unsaved changes is given up. In each the disk has no room for a backup of them.
@@ -188,7 +188,7 @@ TEST_F(GivenUpOnAFullDisk, ChangesAreStillThereAfterNew) {
 TEST_F(GivenUpOnAFullDisk, ChangesAreStillThereAfterOpen) {
   OpenByDialog(Panel4);
 
-  EXPECT_EQ(program.CurrentFile, Panel4);
+  EXPECT_EQ(program.project.CurrentFile, Panel4);
   ExpectKeptAside();
 }
 

@@ -30,8 +30,8 @@ void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
 class EndangeredSave {
  public:
   explicit EndangeredSave(const Row& row) : row_(row) {
-    if (row.hasBackups) program_.folders.ProgramData = "/home/user/Documents/Orby/";
-    program_.settings.KeepFileNames = 0;
+    if (row.hasBackups) program_.session.folders.ProgramData = "/home/user/Documents/Orby/";
+    program_.session.settings.KeepFileNames = 0;
     Files& files = platform_.files.files;
     files[Panel3] = DesignAt(725);
     files[Panel4] = DesignAt(980);
@@ -96,7 +96,7 @@ class EndangeredSave {
     });
   }
 
-  bool IsSaved() const { return program_.FileSaved; }
+  bool IsSaved() const { return program_.project.FileSaved; }
   bool FileIsTheProject() const { return platform_.files.files.at(row_.target) == ProjectFileBytes(program_); }
   bool FileIsOld() const { return platform_.files.files.at(row_.target) == old_; }
 
@@ -104,7 +104,7 @@ class EndangeredSave {
   std::string DesignAt(Single depth) {
     Program other(platform_.Doors());
     StartApart(other, nullptr);
-    other.WorkParms.Place.DepthofCover = depth;
+    other.project.WorkParms.Place.DepthofCover = depth;
     return ProjectFileBytes(other);
   }
 

@@ -40,17 +40,17 @@ class SaveThatFails : public testing::TestWithParam<FailingStep> {
  protected:
   static Program Started(RecordingPlatform& platform, MessageBoxes& boxes) {
     Program program(platform.DoorsWith(boxes));
-    program.folders.ProgramTemporary = TemporaryFolder;
-    program.IniFilePath = IniPath;
-    program.options.ShowInputScreenOnLoad = 0;
+    program.session.folders.ProgramTemporary = TemporaryFolder;
+    program.session.IniFilePath = IniPath;
+    program.session.options.ShowInputScreenOnLoad = 0;
     StartApart(program, nullptr);
     return program;
   }
 
   SaveThatFails() {
     window.Open();
-    program.CurrentFile = Panel3;
-    program.ProjectTitle = "Panel 3";
+    program.project.CurrentFile = Panel3;
+    program.project.ProjectTitle = "Panel 3";
     platform.windows.onModal = [](Form& form) {
       dynamic_cast<TextBox&>(*form.Find("txtDepthofCover")).SetText("810");
       dynamic_cast<Button&>(*form.Find("Command2")).Press();
@@ -69,7 +69,7 @@ TEST_P(SaveThatFails, CompletesOnRetry) {
   window.mnuFileItem.ClickItem(file_item::Save);
 
   EXPECT_THAT(boxes.texts, ElementsAre("Error occurred: Disk full (61)"));
-  EXPECT_TRUE(program.FileSaved);
+  EXPECT_TRUE(program.project.FileSaved);
   EXPECT_EQ(platform.files.files[Panel3], ProjectFileBytes(program));
   EXPECT_THAT(platform.files.files[Panel3], HasSubstr("\r\n810\r\n"));
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb");
@@ -81,14 +81,14 @@ TEST_P(SaveThatFails, LeavesAnUnsavedProjectThatIsSavedLater) {
   boxes.answer = box_result::Cancel;
   window.mnuFileItem.ClickItem(file_item::Save);
 
-  EXPECT_FALSE(program.FileSaved);
+  EXPECT_FALSE(program.project.FileSaved);
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb*");
   EXPECT_FALSE(platform.windows.waitCursor);
   EXPECT_TRUE(platform.files.files.contains(RecoveryPath)) << "killed now, nothing would be lost";
 
   window.mnuFileItem.ClickItem(file_item::Save);
 
-  EXPECT_TRUE(program.FileSaved);
+  EXPECT_TRUE(program.project.FileSaved);
   EXPECT_EQ(platform.files.files[Panel3], ProjectFileBytes(program));
 }
 

@@ -27,11 +27,11 @@ TEST_F(FileMenu, NewBeginsAnUntitledDesignWithoutAQuestion) {
   Choose(file_item::New);
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(program.CurrentFile, "Untitled");
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
-  EXPECT_TRUE(program.FileSaved);
-  EXPECT_TRUE(program.FileEmpty);
-  EXPECT_FALSE(program.UnitsLocked);
+  EXPECT_EQ(program.project.CurrentFile, "Untitled");
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
+  EXPECT_TRUE(program.project.FileSaved);
+  EXPECT_TRUE(program.project.FileEmpty);
+  EXPECT_FALSE(program.project.UnitsLocked);
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: Untitled");
 }
 
@@ -46,7 +46,7 @@ TEST_F(FileMenu, NewLeavesNothingToRecover) {
 }
 
 TEST_F(FileMenu, NewShowsTheParametersWhenTheOptionsWantIt) {
-  program.options.ShowInputScreenOnLoad = 1;
+  program.session.options.ShowInputScreenOnLoad = 1;
 
   Choose(file_item::New);
 
@@ -58,11 +58,11 @@ TEST_F(FileMenu, NewShowsTheParametersWhenTheOptionsWantIt) {
 TEST_F(FileMenu, OpenTakesTheChosenFile) {
   OpenByDialog(Panel3);
 
-  EXPECT_EQ(program.PreviousFile, "Untitled");
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 725);
-  EXPECT_TRUE(program.FileSaved);
-  EXPECT_FALSE(program.FileEmpty);
-  EXPECT_TRUE(program.UnitsLocked);
+  EXPECT_EQ(program.project.PreviousFile, "Untitled");
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 725);
+  EXPECT_TRUE(program.project.FileSaved);
+  EXPECT_FALSE(program.project.FileEmpty);
+  EXPECT_TRUE(program.project.UnitsLocked);
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb");
   EXPECT_EQ(window.mnuFileArray.Caption(1), Panel3);
   EXPECT_TRUE(window.mnuFileArray.ItemVisible(0));
@@ -71,7 +71,7 @@ TEST_F(FileMenu, OpenTakesTheChosenFile) {
 }
 
 TEST_F(FileMenu, OpenShowsTheParametersWhenTheOptionsWantIt) {
-  program.options.ShowInputScreenOnLoad = 1;
+  program.session.options.ShowInputScreenOnLoad = 1;
 
   OpenByDialog(Panel3);
 
@@ -90,9 +90,9 @@ TEST_F(FileMenu, OpenThatIsCancelledChangesNothing) {
   Choose(file_item::Open);
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(program.CurrentFile, Panel3);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 800);
-  EXPECT_FALSE(program.FileSaved);
+  EXPECT_EQ(program.project.CurrentFile, Panel3);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 800);
+  EXPECT_FALSE(program.project.FileSaved);
 }
 
 TEST_F(FileMenu, OpenAsksToSaveTheProjectBefore) {
@@ -103,8 +103,8 @@ TEST_F(FileMenu, OpenAsksToSaveTheProjectBefore) {
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Save changes to: /designs/panel3.orb?"));
   EXPECT_THAT(FileAt(Panel3), HasSubstr("\r\n800\r\n"));
-  EXPECT_EQ(program.CurrentFile, Panel4);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 980);
+  EXPECT_EQ(program.project.CurrentFile, Panel4);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 980);
 }
 
 TEST_F(FileMenu, OpenIsStoppedWhenTheProjectBeforeCannotBeSaved) {
@@ -120,9 +120,9 @@ TEST_F(FileMenu, OpenIsStoppedWhenTheProjectBeforeCannotBeSaved) {
 
   OpenByDialog(Panel4);
 
-  EXPECT_EQ(program.CurrentFile, Panel3);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 800);
-  EXPECT_FALSE(program.FileSaved);
+  EXPECT_EQ(program.project.CurrentFile, Panel3);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 800);
+  EXPECT_FALSE(program.project.FileSaved);
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb*");
   EXPECT_EQ(FileAt(RecoveryPath), kept);
   EXPECT_EQ(window.mnuFileArray.Caption(1), Panel3);
@@ -131,14 +131,14 @@ TEST_F(FileMenu, OpenIsStoppedWhenTheProjectBeforeCannotBeSaved) {
 TEST_F(FileMenu, ARecentFileIsNotOpenedWhenTheSaveBeforeIsCancelled) {
   OpenByDialog(Panel4);
   window.mnuFileItem.ClickItem(file_item::New);
-  program.WorkParms.Place.DepthofCover = 800;
-  program.FileSaved = false;
+  program.project.WorkParms.Place.DepthofCover = 800;
+  program.project.FileSaved = false;
   platform.boxes.answers = {box_result::Yes};
 
   window.mnuFileArray.ClickItem(1);
 
-  EXPECT_EQ(program.CurrentFile, "Untitled");
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 800);
+  EXPECT_EQ(program.project.CurrentFile, "Untitled");
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 800);
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: Untitled");
 }
 
@@ -149,13 +149,13 @@ TEST_F(FileMenu, ARefusedFileLeavesANewDesignUnderItsNameAndTheOldCaption) {
   OpenByDialog("/notes.txt");
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid ORBY file format. File can not be opened."));
-  EXPECT_EQ(program.CurrentFile, "/notes.txt");
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
-  EXPECT_TRUE(program.FileSaved);
-  EXPECT_TRUE(program.FileEmpty);
-  EXPECT_FALSE(program.UnitsLocked);
+  EXPECT_EQ(program.project.CurrentFile, "/notes.txt");
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
+  EXPECT_TRUE(program.project.FileSaved);
+  EXPECT_TRUE(program.project.FileEmpty);
+  EXPECT_FALSE(program.project.UnitsLocked);
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb");
-  EXPECT_EQ(program.recentFiles.MaxLastFiles, 1);
+  EXPECT_EQ(program.session.recentFiles.MaxLastFiles, 1);
 }
 
 TEST_F(FileMenu, SaveAfterARefusedFileWritesOverItWithoutAQuestion) {
@@ -177,7 +177,7 @@ TEST_F(FileMenu, AFileThatCannotBeReadIsToldAndLeft) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error occurred: File not found (53)"));
   EXPECT_EQ(platform.boxes.shown.front().style, 5);
   EXPECT_FALSE(platform.windows.waitCursor);
-  EXPECT_EQ(program.recentFiles.MaxLastFiles, 0);
+  EXPECT_EQ(program.session.recentFiles.MaxLastFiles, 0);
 }
 
 TEST_F(FileMenu, AFileThatHasGoneIsOpenedOnRetryOnceItIsBack) {
@@ -191,8 +191,8 @@ TEST_F(FileMenu, AFileThatHasGoneIsOpenedOnRetryOnceItIsBack) {
   other.mnuFileItem.ClickItem(file_item::Open);
 
   EXPECT_THAT(boxes.Texts(), ElementsAre("Error occurred: File not found (53)"));
-  EXPECT_EQ(retried.WorkParms.Place.DepthofCover, 610);
-  EXPECT_TRUE(retried.FileSaved);
+  EXPECT_EQ(retried.project.WorkParms.Place.DepthofCover, 610);
+  EXPECT_TRUE(retried.project.FileSaved);
   EXPECT_EQ(other.Caption(), "Orby Roof Support Workbench: /designs/back.orb");
   EXPECT_EQ(other.mnuFileArray.Caption(1), "/designs/back.orb");
   EXPECT_FALSE(platform.windows.waitCursor);
@@ -214,7 +214,7 @@ TEST_P(ABrokenFile, IsToldAndLeavesTheCaptionAndTheRecentFiles) {
   const std::string whole = FileAt(Panel4);
   ASSERT_NE(whole.find(broken.from), std::string::npos);
   platform.files.files[Panel4] = whole.substr(0, whole.find(broken.from)) + broken.to;
-  program.options.ShowInputScreenOnLoad = 1;
+  program.session.options.ShowInputScreenOnLoad = 1;
   platform.boxes.answers = {box_result::Cancel};
 
   OpenByDialog(Panel4);
@@ -222,9 +222,9 @@ TEST_P(ABrokenFile, IsToldAndLeavesTheCaptionAndTheRecentFiles) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre(broken.message));
   EXPECT_EQ(platform.boxes.shown.front().style, broken.style);
   EXPECT_FALSE(platform.windows.waitCursor);
-  EXPECT_EQ(program.CurrentFile, Panel4);
+  EXPECT_EQ(program.project.CurrentFile, Panel4);
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb");
-  EXPECT_EQ(program.recentFiles.MaxLastFiles, 1);
+  EXPECT_EQ(program.session.recentFiles.MaxLastFiles, 1);
   EXPECT_EQ(window.mnuFileArray.Caption(1), Panel3);
   EXPECT_EQ(platform.windows.modalForms, 0);
 }
@@ -269,13 +269,13 @@ TEST_F(FileMenu, OpenLeavesWhatWasComputedOfTheProjectBefore) {
                                                  [](auto& d) { return &d.Intersections.Bolt.StabFactor; },
                                                  [](auto& d) { return &d.Intersections.Standing.StabFactor; }};
   Single value = 11.5F;
-  for (const auto field : Computed) field.In(program.WorkParms) = value++;
+  for (const auto field : Computed) field.In(program.project.WorkParms) = value++;
 
   OpenByDialog(Panel3);
 
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 725);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 725);
   value = 11.5F;
-  for (const auto field : Computed) EXPECT_EQ(field.In(program.WorkParms), value++);
+  for (const auto field : Computed) EXPECT_EQ(field.In(program.project.WorkParms), value++);
 }
 
 TEST_F(FileMenu, OpeningLeavesNothingToRecover) {
@@ -296,8 +296,8 @@ TEST_F(FileMenu, AFileDroppedOnTheWindowIsOpened) {
   window.Dropped(Panel4);
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Save changes to: /designs/panel3.orb?"));
-  EXPECT_EQ(program.CurrentFile, Panel4);
-  EXPECT_EQ(program.PreviousFile, Panel3);
+  EXPECT_EQ(program.project.CurrentFile, Panel4);
+  EXPECT_EQ(program.project.PreviousFile, Panel3);
   EXPECT_EQ(window.mnuFileArray.Caption(1), Panel4);
 }
 
@@ -309,9 +309,9 @@ TEST_F(FileMenu, ARecentFileIsOpenedAgain) {
 
   window.mnuFileArray.ClickItem(2);
 
-  EXPECT_EQ(program.PreviousFile, Panel4);
-  EXPECT_EQ(program.CurrentFile, Panel3);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 725);
+  EXPECT_EQ(program.project.PreviousFile, Panel4);
+  EXPECT_EQ(program.project.CurrentFile, Panel3);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 725);
   EXPECT_EQ(window.mnuFileArray.Caption(1), Panel3);
   EXPECT_EQ(window.mnuFileArray.Caption(2), Panel4);
 }
@@ -332,11 +332,11 @@ TEST_F(FileMenu, TheSeparatorOfTheRecentFilesDoesNothing) {
 
   window.mnuFileArray.ClickItem(0);
 
-  EXPECT_EQ(program.PreviousFile, "Untitled");
+  EXPECT_EQ(program.project.PreviousFile, "Untitled");
 }
 
 TEST_F(FileMenu, NothingEntersAListThatIsSwitchedOff) {
-  program.settings.KeepFileNames = 0;
+  program.session.settings.KeepFileNames = 0;
 
   OpenByDialog(Panel3);
   Choose(file_item::Save);
@@ -381,9 +381,9 @@ TEST_F(FileMenu, SaveAsThatIsCancelledChangesNothing) {
 
   Choose(file_item::SaveAs);
 
-  EXPECT_EQ(program.CurrentFile, Panel3);
-  EXPECT_FALSE(program.FileSaved);
-  EXPECT_EQ(program.recentFiles.MaxLastFiles, 1);
+  EXPECT_EQ(program.project.CurrentFile, Panel3);
+  EXPECT_FALSE(program.project.FileSaved);
+  EXPECT_EQ(program.session.recentFiles.MaxLastFiles, 1);
 }
 
 struct CaptionPath {
@@ -412,11 +412,11 @@ INSTANTIATE_TEST_SUITE_P(FiftyAndFiftyOneCharacters, LongPaths,
 TEST_F(FileMenu, TheToolBarOpensAndSaves) {
   platform.fileDialogs.answers = {Panel3};
   window.Toolbar1.ClickItem(tool_button::Open);
-  program.WorkParms.Place.DepthofCover = 800;
+  program.project.WorkParms.Place.DepthofCover = 800;
 
   window.Toolbar1.ClickItem(tool_button::Save);
 
-  EXPECT_EQ(program.CurrentFile, Panel3);
+  EXPECT_EQ(program.project.CurrentFile, Panel3);
   EXPECT_THAT(FileAt(Panel3), HasSubstr("\r\n800\r\n"));
   EXPECT_THAT(FileAt(Panel3), StartsWith("ORBY_105\r\n"));
 }

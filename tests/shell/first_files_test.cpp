@@ -10,16 +10,16 @@ using testing::IsEmpty;
 
 struct FirstFiles : MainWindowTest {
   void RememberPanel4() {
-    program.settings.LoadLastInputFile = 1;
-    program.recentFiles.MaxLastFiles = 1;
-    program.recentFiles.Entries[0] = {Panel4, 1, Panel4};
+    program.session.settings.LoadLastInputFile = 1;
+    program.session.recentFiles.MaxLastFiles = 1;
+    program.session.recentFiles.Entries[0] = {Panel4, 1, Panel4};
   }
 
   // Leaves the work of a run that was killed.
   void Lose() {
-    program.CurrentFile = "/designs/lost.orb";
-    program.WorkParms.Place.DepthofCover = 1234;
-    program.FileSaved = false;
+    program.project.CurrentFile = "/designs/lost.orb";
+    program.project.WorkParms.Place.DepthofCover = 1234;
+    program.project.FileSaved = false;
     window.mnuEditItem.ClickItem(edit_item::Parameters);
     lost = FileAt(RecoveryPath);
   }
@@ -29,11 +29,11 @@ struct FirstFiles : MainWindowTest {
 
 TEST_F(FirstFiles, AreNoneByDefault) {
   RememberPanel4();
-  program.settings.LoadLastInputFile = 0;
+  program.session.settings.LoadLastInputFile = 0;
 
   window.OpenFirstFiles("");
 
-  EXPECT_EQ(program.CurrentFile, "Untitled");
+  EXPECT_EQ(program.project.CurrentFile, "Untitled");
 }
 
 TEST_F(FirstFiles, AreTheLastFileWhenTheSettingsWantIt) {
@@ -41,27 +41,27 @@ TEST_F(FirstFiles, AreTheLastFileWhenTheSettingsWantIt) {
 
   window.OpenFirstFiles("");
 
-  EXPECT_EQ(program.CurrentFile, Panel4);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 980);
+  EXPECT_EQ(program.project.CurrentFile, Panel4);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 980);
 }
 
 TEST_F(FirstFiles, WithoutAnyRecentFileOpenNothing) {
-  program.settings.LoadLastInputFile = 1;
+  program.session.settings.LoadLastInputFile = 1;
 
   window.OpenFirstFiles("");
 
-  EXPECT_EQ(program.CurrentFile, "Untitled");
+  EXPECT_EQ(program.project.CurrentFile, "Untitled");
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
 TEST_F(FirstFiles, AreNoneWhereTheLastFileHasANameWithoutAPath) {
   RememberPanel4();
-  program.recentFiles.Entries[0].LastFileLong.clear();
+  program.session.recentFiles.Entries[0].LastFileLong.clear();
 
   window.OpenFirstFiles("");
 
-  EXPECT_EQ(program.CurrentFile, "Untitled");
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
+  EXPECT_EQ(program.project.CurrentFile, "Untitled");
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
@@ -70,11 +70,11 @@ TEST_F(FirstFiles, EndWithTheOneOfTheCommandLine) {
 
   window.OpenFirstFiles("/designs/panel3.orb");
 
-  EXPECT_EQ(program.CurrentFile, Panel3);
-  EXPECT_EQ(program.PreviousFile, Panel4);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 725);
-  EXPECT_EQ(program.recentFiles.Entries[0].LastFile, Panel3);
-  EXPECT_EQ(program.recentFiles.Entries[1].LastFile, Panel4);
+  EXPECT_EQ(program.project.CurrentFile, Panel3);
+  EXPECT_EQ(program.project.PreviousFile, Panel4);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 725);
+  EXPECT_EQ(program.session.recentFiles.Entries[0].LastFile, Panel3);
+  EXPECT_EQ(program.session.recentFiles.Entries[1].LastFile, Panel4);
 }
 
 TEST_F(FirstFiles, AreToldWhenTheLastFileHasGone) {
@@ -99,9 +99,9 @@ struct NextRun : FirstFiles {
     Lose();
     restarted.files.files = platform.files.files;
     restarted.files.files[RecoveryPath] = lost;
-    next.settings.LoadLastInputFile = 1;
-    next.recentFiles.MaxLastFiles = 1;
-    next.recentFiles.Entries[0] = {Panel4, 1, Panel4};
+    next.session.settings.LoadLastInputFile = 1;
+    next.session.recentFiles.MaxLastFiles = 1;
+    next.session.recentFiles.Entries[0] = {Panel4, 1, Panel4};
     nextWindow.Open();
   }
 
@@ -116,7 +116,7 @@ TEST_F(NextRun, BringsLostWorkBackAsUnsaved) {
   nextWindow.OpenFirstFiles("");
 
   EXPECT_EQ(nextWindow.Caption(), "Orby Roof Support Workbench: /designs/lost.orb*");
-  EXPECT_EQ(next.WorkParms.Place.DepthofCover, 1234);
+  EXPECT_EQ(next.project.WorkParms.Place.DepthofCover, 1234);
 }
 
 TEST_F(NextRun, OpensNothingElseOnceLostWorkIsBack) {
@@ -125,7 +125,7 @@ TEST_F(NextRun, OpensNothingElseOnceLostWorkIsBack) {
   nextWindow.OpenFirstFiles(Panel3);
 
   EXPECT_EQ(restarted.boxes.shown.size(), 1U);
-  EXPECT_EQ(next.CurrentFile, "/designs/lost.orb");
+  EXPECT_EQ(next.project.CurrentFile, "/designs/lost.orb");
 }
 
 TEST_F(NextRun, OpensTheFileOfTheCommandLineInstead) {
@@ -135,7 +135,7 @@ TEST_F(NextRun, OpensTheFileOfTheCommandLineInstead) {
 
   ASSERT_EQ(restarted.boxes.shown.size(), 1U);
   EXPECT_THAT(restarted.boxes.shown.front().captions, ElementsAre("Recover", "Open panel3.orb instead"));
-  EXPECT_EQ(next.CurrentFile, Panel3);
+  EXPECT_EQ(next.project.CurrentFile, Panel3);
 }
 
 TEST_F(NextRun, OpensTheLastFileWhenLostWorkIsDeclined) {
@@ -143,7 +143,7 @@ TEST_F(NextRun, OpensTheLastFileWhenLostWorkIsDeclined) {
 
   nextWindow.OpenFirstFiles("");
 
-  EXPECT_EQ(next.CurrentFile, Panel4);
+  EXPECT_EQ(next.project.CurrentFile, Panel4);
 }
 
 }  // namespace

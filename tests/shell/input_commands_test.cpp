@@ -126,8 +126,8 @@ TEST_F(InputMenu, IsWhereTheResultsReturnTo) {
   std::vector<std::string> names;
   platform.windows.onModal = [&](Form& form) { names.emplace_back(form.Name()); };
 
-  program.OpenInputDialog(report_caller::Parameters);
-  program.OpenInputDialog(report_caller::Cost);
+  program.windows.OpenInputDialog(report_caller::Parameters);
+  program.windows.OpenInputDialog(report_caller::Cost);
 
   EXPECT_THAT(names, ElementsAre("frmPENVParm", "frmTULKCost"));
 }
@@ -136,12 +136,12 @@ TEST_F(InputMenu, IsNotReturnedToOnceItsWindowIsGone) {
   Program other = StartedProgram(platform);
   { const MainWindow gone(other); }
 
-  EXPECT_FALSE(other.OpenInputDialog);
-  EXPECT_FALSE(other.history.Changed);
+  EXPECT_FALSE(other.windows.OpenInputDialog);
+  EXPECT_FALSE(other.session.history.Changed);
 }
 
 TEST_F(InputMenu, ShowsADesignWithoutADepth) {
-  program.WorkParms.Place.DepthofCover = 0;
+  program.project.WorkParms.Place.DepthofCover = 0;
   InDialog<ParametersDialog>([](ParametersDialog& dialog) { EXPECT_EQ(dialog.txtSugPSUP.Text(), "--"); });
 
   Choose(edit_item::Parameters);
@@ -150,18 +150,18 @@ TEST_F(InputMenu, ShowsADesignWithoutADepth) {
 }
 
 TEST_F(InputMenu, TellsThatADesignCannotBeShownAndGoesOn) {
-  program.WorkParms.Primary.Options = 2;
+  program.project.WorkParms.Primary.Options = 2;
 
   Choose(edit_item::Parameters);
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Internal Error: SetArrayIndex. Check input/form data.",
                                                   "Error occurred: Subscript out of range (9). Procedure Terminated"));
   EXPECT_TRUE(platform.windows.mainWindowShown);
-  EXPECT_FALSE(program.DialogOpen);
+  EXPECT_FALSE(program.windows.DialogOpen);
 }
 
 TEST_F(InputMenu, TellsThatADescriptionCannotBeShownAndGoesOn) {
-  program.WorkParms.Basis = StrengthBasis{-1};
+  program.project.WorkParms.Basis = StrengthBasis{-1};
 
   Choose(edit_item::Description);
 
@@ -171,19 +171,19 @@ TEST_F(InputMenu, TellsThatADescriptionCannotBeShownAndGoesOn) {
 }
 
 TEST_F(InputMenu, IsToldOnTheRoadOfOpenThatADesignCannotBeShown) {
-  program.options.ShowInputScreenOnLoad = 1;
+  program.session.options.ShowInputScreenOnLoad = 1;
   Program other(platform.Doors());
   StartApart(other, nullptr);
-  other.WorkParms.Primary.Options = 2;
+  other.project.WorkParms.Primary.Options = 2;
   platform.files.files[Panel3] = ProjectFileBytes(other);
 
   OpenByDialog(Panel3);
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Internal Error: SetArrayIndex. Check input/form data.",
                                                   "Error occurred: Subscript out of range (9). Procedure Terminated"));
-  EXPECT_EQ(program.CurrentFile, Panel3);
+  EXPECT_EQ(program.project.CurrentFile, Panel3);
   EXPECT_TRUE(platform.windows.mainWindowShown);
-  EXPECT_FALSE(program.DialogOpen);
+  EXPECT_FALSE(program.windows.DialogOpen);
 }
 
 // ---- what is kept ---------------------------------------------------------------------------------------------------
@@ -213,7 +213,7 @@ TEST_F(EditedWork, OfAnOpenDialogIsKeptWithinASecond) {
     ASSERT_TRUE(Kept().has_value());
     EXPECT_EQ(Kept()->WorkParms.Place.DepthofCover, 810);
     EXPECT_FALSE(Kept()->FileEmpty);
-    EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400) << "nothing is committed";
+    EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400) << "nothing is committed";
   });
 
   Choose(edit_item::Parameters);

@@ -22,10 +22,10 @@ inline const std::string Panel4 = "/designs/panel4.orb";
 // opens by itself.
 inline Program StartedProgram(const Platform& doors) {
   Program program(doors);
-  program.folders.ProgramTemporary = TemporaryFolder;
-  program.IniFilePath = IniPath;
-  program.options.ShowInputScreenOnLoad = 0;
-  program.settings.ShowDisclaim = 0;
+  program.session.folders.ProgramTemporary = TemporaryFolder;
+  program.session.IniFilePath = IniPath;
+  program.session.options.ShowInputScreenOnLoad = 0;
+  program.session.settings.ShowDisclaim = 0;
   StartApart(program, nullptr);
   return program;
 }
@@ -38,14 +38,14 @@ struct MainWindowTest : testing::Test {
     platform.files.files[Panel4] = DesignAt(980);
     window.Open();
     platform.boxes.shown.clear();
-    program.history.Text.clear();
+    program.session.history.Text.clear();
   }
 
   // The bytes of a project file with this depth of cover.
   std::string DesignAt(Single depth) {
     Program other(platform.Doors());
     StartApart(other, nullptr);
-    other.WorkParms.Place.DepthofCover = depth;
+    other.project.WorkParms.Place.DepthofCover = depth;
     return ProjectFileBytes(other);
   }
 
@@ -58,8 +58,8 @@ struct MainWindowTest : testing::Test {
   // An open project with a change that is not saved.
   void EditPanel3() {
     OpenByDialog(Panel3);
-    program.WorkParms.Place.DepthofCover = 800;
-    program.FileSaved = false;
+    program.project.WorkParms.Place.DepthofCover = 800;
+    program.project.FileSaved = false;
   }
 
   const std::string& FileAt(const std::string& path) { return platform.files.files.at(path); }

@@ -47,8 +47,8 @@ TEST_F(Menus, AreNamedInTheMenuBar) {
 TEST(MainWindowStart, ShowsTheDisclaimerBeforeAnythingOfTheUsersIsTouched) {
   RecordingPlatform platform;
   Program program = StartedProgram(platform);
-  program.settings.ShowDisclaim = 1;
-  program.settings.DataPath = "/designs/";
+  program.session.settings.ShowDisclaim = 1;
+  program.session.settings.DataPath = "/designs/";
   platform.files.files["/program/examples/weak-roof.ORB"] = "ORBY_105";
   std::vector<std::string> shown;
   bool copied = true;
@@ -126,7 +126,7 @@ TEST_F(Menus, ConvertASavedProjectUnderANewName) {
 
   window.mnuUtilItem.ClickItem(util_item::FileConversion);
 
-  EXPECT_EQ(program.WorkParms.Units, Metric);
+  EXPECT_EQ(program.project.WorkParms.Units, Metric);
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: Metric_panel3.orb*");
 }
 
@@ -204,9 +204,9 @@ TEST_F(OpeningWindow, TakesOverTheHistoryOfTheStart) {
 }
 
 TEST_F(OpeningWindow, ShowsTheHistoryInTheUsersFont) {
-  program.settings.DisplayFontName = "Courier New";
-  program.settings.DisplayFontSize = 12;
-  program.settings.DisplayFontBold = -1;
+  program.session.settings.DisplayFontName = "Courier New";
+  program.session.settings.DisplayFontSize = 12;
+  program.session.settings.DisplayFontBold = -1;
   MainWindow window(program);
 
   window.Open();
@@ -215,7 +215,7 @@ TEST_F(OpeningWindow, ShowsTheHistoryInTheUsersFont) {
 }
 
 TEST_F(OpeningWindow, HidesAHistoryThatIsSwitchedOff) {
-  program.settings.DisplayHistoryWin = 0;
+  program.session.settings.DisplayHistoryWin = 0;
   MainWindow window(program);
 
   window.Open();
@@ -225,7 +225,7 @@ TEST_F(OpeningWindow, HidesAHistoryThatIsSwitchedOff) {
 }
 
 TEST_F(OpeningWindow, HidesTheToolBarThatIsSwitchedOff) {
-  program.settings.EnableMainMenuToolbar = 0;
+  program.session.settings.EnableMainMenuToolbar = 0;
   MainWindow window(program);
 
   window.Open();
@@ -234,9 +234,9 @@ TEST_F(OpeningWindow, HidesTheToolBarThatIsSwitchedOff) {
 }
 
 TEST_F(OpeningWindow, ShowsTheRecentFilesOfTheConfiguration) {
-  program.recentFiles.MaxLastFiles = 2;
-  program.recentFiles.Entries[0] = {"panel3.orb", 1, Panel3};
-  program.recentFiles.Entries[1] = {"panel4.orb", 1, Panel4};
+  program.session.recentFiles.MaxLastFiles = 2;
+  program.session.recentFiles.Entries[0] = {"panel3.orb", 1, Panel3};
+  program.session.recentFiles.Entries[1] = {"panel4.orb", 1, Panel4};
   MainWindow window(program);
 
   window.Open();
@@ -250,7 +250,7 @@ TEST_F(OpeningWindow, ShowsTheRecentFilesOfTheConfiguration) {
 
 TEST_F(OpeningWindow, CopiesTheExamplesForTheUser) {
   platform.files.files["/program/examples/weak-roof.ORB"] = "a design";
-  program.settings.DataPath = "/data/";
+  program.session.settings.DataPath = "/data/";
   MainWindow window(program);
 
   window.Open();
@@ -273,7 +273,7 @@ TEST_F(HistoryPane, ShowsEachLineAndFollowsItsEnd) {
 TEST_F(HistoryPane, MovesTheCaretThoughTheHistoryIsSwitchedOff) {
   AddHistoryLine(program, "Results displayed");
   window.txtMain.Select(3, 4);
-  program.settings.DisplayHistoryWin = 0;
+  program.session.settings.DisplayHistoryWin = 0;
 
   AddHistoryLine(program, "Output copied to clipboard");
 
@@ -296,7 +296,7 @@ TEST_F(HistoryPane, GoesAndComesBack) {
   window.mnuUtilItem.ClickItem(util_item::ToggleHistory);
   EXPECT_FALSE(window.txtMain.Visible());
   EXPECT_EQ(window.mnuUtilItem.Caption(util_item::ToggleHistory), "Restore History &Window");
-  EXPECT_EQ(program.settings.DisplayHistoryWin, 1);
+  EXPECT_EQ(program.session.settings.DisplayHistoryWin, 1);
 
   AddHistoryLine(program, "Results displayed");
   window.mnuUtilItem.ClickItem(util_item::ToggleHistory);
@@ -318,7 +318,7 @@ TEST_F(HistoryPane, StaysToTheProgramWhenTheWindowIsGone) {
   { MainWindow another(program); }
 
   EXPECT_NO_THROW(AddHistoryLine(program, "Results displayed"));
-  EXPECT_EQ(program.history.Text, "2. Results displayed\r\n");
+  EXPECT_EQ(program.session.history.Text, "2. Results displayed\r\n");
 }
 
 }  // namespace

@@ -41,7 +41,7 @@ class PrintedResults : public MainWindowTest {
   // Presses Results in the parameters dialog and leaves it as it is; gives the page of results.
   std::string PageOfResults() {
     InParameters([](ParametersDialog& dialog) { dialog.cmdresults.Press(); });
-    return program.OutBuf[1];
+    return program.session.OutBuf[1];
   }
 };
 
@@ -59,19 +59,19 @@ TEST_F(PrintedResults, StayAsResultsShowedThem) {
   Printed();
 
   EXPECT_THAT(shown, HasSubstr(Psup725));
-  EXPECT_EQ(program.OutBuf[1], shown);
+  EXPECT_EQ(program.session.OutBuf[1], shown);
 }
 
 // A design that no dialog has accepted yet has no row of the bolt table in it, and the first one is shown.
 TEST_F(PrintedResults, StandUnderTheInputsThatTheyWereComputedFrom) {
   PageOfResults();
-  const std::string inputs = program.OutBuf[0];
+  const std::string inputs = program.session.OutBuf[0];
 
   Printed();
 
   EXPECT_THAT(inputs, HasSubstr("Roof Bolt Yield Capacity..................................8.4 (tons)\r\n"));
-  EXPECT_EQ(program.OutBuf[0], inputs);
-  EXPECT_EQ(program.WorkParms.Primary.TableDiameter, 0);
+  EXPECT_EQ(program.session.OutBuf[0], inputs);
+  EXPECT_EQ(program.project.WorkParms.Primary.TableDiameter, 0);
 }
 
 TEST_F(PrintedResults, AreNotThoseOfEditsThatWereCancelled) {
@@ -80,7 +80,7 @@ TEST_F(PrintedResults, AreNotThoseOfEditsThatWereCancelled) {
     dialog.cmdresults.Press();
     dialog.Command1.Press();
   });
-  ASSERT_THAT(program.OutBuf[1], HasSubstr(Psup900));
+  ASSERT_THAT(program.session.OutBuf[1], HasSubstr(Psup900));
 
   const std::string text = Printed();
 
@@ -106,14 +106,14 @@ TEST_F(PrintedResults, StayAsResultsShowedThemWhenTheShownDesignIsAccepted) {
     dialog.cmbCableDiamSecInter.SetText("0.7");
     dialog.txtEntryWidth.SetText("19");
     dialog.cmdresults.Press();
-    shown = program.OutBuf[1];
+    shown = program.session.OutBuf[1];
     dialog.Command2.Press();
   });
 
   Printed();
 
   EXPECT_THAT(shown, Not(HasSubstr("Cable Bolt System Stability Factor........................1.44\r\n")));
-  EXPECT_EQ(program.OutBuf[1], shown);
+  EXPECT_EQ(program.session.OutBuf[1], shown);
 }
 
 TEST_F(PrintedResults, StayAsResultsShowedThemAfterTheCostTableWasShown) {
@@ -121,18 +121,18 @@ TEST_F(PrintedResults, StayAsResultsShowedThemAfterTheCostTableWasShown) {
   InParameters([&](ParametersDialog& dialog) {
     dialog.cmbCableDiamSecInter.SetText("0.7");
     dialog.cmdresults.Press();
-    shown = program.OutBuf[1];
+    shown = program.session.OutBuf[1];
     dialog.Command2.Press();
   });
   platform.windows.onModal = [](Form& form) {
     if (auto* dialog = dynamic_cast<CostDialog*>(&form)) dialog->cmdresults.Press();
   };
   window.mnuEditItem.ClickItem(edit_item::Cost);
-  ASSERT_THAT(program.OutBuf[1], HasSubstr("TOTAL COST"));
+  ASSERT_THAT(program.session.OutBuf[1], HasSubstr("TOTAL COST"));
 
   Printed();
 
-  EXPECT_EQ(program.OutBuf[1], shown);
+  EXPECT_EQ(program.session.OutBuf[1], shown);
 }
 
 TEST_F(PrintedResults, AreNotThoseOfTheProjectBefore) {
@@ -150,7 +150,7 @@ TEST_F(PrintedResults, StandInPlaceOfTheCostTable) {
     if (auto* dialog = dynamic_cast<CostDialog*>(&form)) dialog->cmdresults.Press();
   };
   window.mnuEditItem.ClickItem(edit_item::Cost);
-  ASSERT_THAT(program.OutBuf[1], StartsWith("[TULK COST CALCULATIONS]"));
+  ASSERT_THAT(program.session.OutBuf[1], StartsWith("[TULK COST CALCULATIONS]"));
 
   const std::string text = Printed();
 
@@ -160,71 +160,71 @@ TEST_F(PrintedResults, StandInPlaceOfTheCostTable) {
 
 TEST_F(PrintedResults, FollowTheBasisOfTheBoltStrength) {
   PageOfResults();
-  program.WorkParms.Basis = StrengthBasis::Ultimate;
+  program.project.WorkParms.Basis = StrengthBasis::Ultimate;
 
   EXPECT_THAT(Printed(), HasSubstr("Actual Roof Bolt Ultimate Capacity"));
 }
 
 TEST_F(PrintedResults, FollowTheUnits) {
   PageOfResults();
-  program.WorkParms.Units = Metric;
+  program.project.WorkParms.Units = Metric;
 
   EXPECT_THAT(Printed(), HasSubstr("Actual Sum of Diagonals...................................60.0 (m)\r\n"));
 }
 
 TEST_F(PrintedResults, FollowTheListOfCables) {
   ASSERT_THAT(PageOfResults(), HasSubstr("Cable Bolt System Support Capacity........................10.6 (tons/ft)"));
-  for (Single& capacity : program.catalogs.DefaultCableCapArrayENG.Values) capacity *= 2;
+  for (Single& capacity : program.session.catalogs.DefaultCableCapArrayENG.Values) capacity *= 2;
 
   EXPECT_THAT(Printed(), HasSubstr("Cable Bolt System Support Capacity........................21.1 (tons/ft)"));
 }
 
 TEST_F(PrintedResults, FollowTheTableOfBolts) {
-  program.WorkParms.Units = Metric;
-  program.WorkParms.Primary.TableRow = 1;
+  program.project.WorkParms.Units = Metric;
+  program.project.WorkParms.Primary.TableRow = 1;
   const std::string before = PageOfResults();
-  program.UseAUSStandardTable = 1;
+  program.project.UseAUSStandardTable = 1;
 
   Printed();
 
-  EXPECT_THAT(program.OutBuf[1], Not(testing::Eq(before)));
+  EXPECT_THAT(program.session.OutBuf[1], Not(testing::Eq(before)));
 }
 
 TEST_F(PrintedResults, ThatCannotBeComputedAreALineOfThePage) {
   PageOfResults();
-  program.WorkParms.Primary.RowSpacing = 0;
+  program.project.WorkParms.Primary.RowSpacing = 0;
 
   const std::string text = Printed();
 
   EXPECT_THAT(text, HasSubstr("Roof Bolt Row Spacing.....................................0 (ft)\r\n"));
-  EXPECT_EQ(program.OutBuf[1], "[ORBY CALCULATIONS]\r\nThe results cannot be computed from these inputs.\r\n");
-  EXPECT_THAT(text, HasSubstr(program.OutBuf[1]));
+  EXPECT_EQ(program.session.OutBuf[1], "[ORBY CALCULATIONS]\r\nThe results cannot be computed from these inputs.\r\n");
+  EXPECT_THAT(text, HasSubstr(program.session.OutBuf[1]));
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
 TEST_F(PrintedResults, ThatCannotBeShownInTheDialogAreALineToo) {
-  program.WorkParms.Primary.Options = 7;  // an option that there is not
+  program.project.WorkParms.Primary.Options = 7;  // an option that there is not
 
   EXPECT_THAT(Printed(), HasSubstr("The results cannot be computed from these inputs.\r\n"));
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
 TEST_F(PrintedResults, LeaveTheProjectAsItWas) {
-  program.WorkParms.Entries.Cable.SupportCap = 3;  // of the file; the dialog computes another
-  program.WorkParmsCopy.Place.DepthofCover = 900;
-  program.estimator.EstimatorRegion = 4;
-  program.ReportCaller = report_caller::Cost;
-  program.history.Text.clear();
+  program.project.WorkParms.Entries.Cable.SupportCap = 3;  // of the file; the dialog computes another
+  program.windows.WorkParmsCopy.Place.DepthofCover = 900;
+  program.windows.estimator.EstimatorRegion = 4;
+  program.windows.ReportCaller = report_caller::Cost;
+  program.session.history.Text.clear();
 
   Printed();
 
-  EXPECT_EQ(program.WorkParms.Entries.Cable.SupportCap, 3);
-  EXPECT_EQ(program.WorkParmsCopy.Place.DepthofCover, 900);
-  EXPECT_EQ(program.estimator.EstimatorRegion, 4);
-  EXPECT_EQ(program.ReportCaller, report_caller::Cost);
-  EXPECT_FALSE(program.DialogOpen);
-  EXPECT_TRUE(program.FileSaved);
-  EXPECT_EQ(program.history.Text, "");
+  EXPECT_EQ(program.project.WorkParms.Entries.Cable.SupportCap, 3);
+  EXPECT_EQ(program.windows.WorkParmsCopy.Place.DepthofCover, 900);
+  EXPECT_EQ(program.windows.estimator.EstimatorRegion, 4);
+  EXPECT_EQ(program.windows.ReportCaller, report_caller::Cost);
+  EXPECT_FALSE(program.windows.DialogOpen);
+  EXPECT_TRUE(program.project.FileSaved);
+  EXPECT_EQ(program.session.history.Text, "");
 }
 
 TEST_F(PrintedResults, AreOnViewInThePreview) {

@@ -84,7 +84,7 @@ TEST_F(Printing, OfTheToolBarTellsTheFileThatItPrintedTo) {
 
   window.Toolbar1.ClickItem(tool_button::Print);
 
-  EXPECT_THAT(program.history.Text, testing::EndsWith("Report printed to /designs/panel3 (2).pdf\r\n"));
+  EXPECT_THAT(program.session.history.Text, testing::EndsWith("Report printed to /designs/panel3 (2).pdf\r\n"));
 }
 
 TEST_F(Printing, ProposesTheNameOfTheProjectForAFile) {
@@ -93,7 +93,7 @@ TEST_F(Printing, ProposesTheNameOfTheProjectForAFile) {
   Choose(file_item::Print);
 
   EXPECT_EQ(platform.printer.proposedName, "panel3");
-  EXPECT_THAT(program.history.Text, testing::Not(HasSubstr("printed")));
+  EXPECT_THAT(program.session.history.Text, testing::Not(HasSubstr("printed")));
 }
 
 TEST_F(Printing, OfTheToolBarAsksAlikeWhenTheProjectIsEmpty) {
@@ -138,7 +138,7 @@ TEST_F(Printing, SetUpThatIsCancelledIsOnlyLogged) {
   Choose(file_item::PrinterSetup);
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(program.history.Text, "2. Cancel was selected.\r\n");
+  EXPECT_EQ(program.session.history.Text, "2. Cancel was selected.\r\n");
 }
 
 TEST_F(Printing, IsPreviewedPageByPage) {
@@ -155,7 +155,7 @@ TEST_F(Printing, IsPreviewedPageByPage) {
   Choose(file_item::Preview);
 
   ASSERT_EQ(pages.size(), 2U);
-  EXPECT_EQ(pages[0], program.OutBuf[0]);
+  EXPECT_EQ(pages[0], program.session.OutBuf[0]);
   EXPECT_THAT(pages[0], HasSubstr("725"));
   EXPECT_THAT(pages[1], StartsWith("[ORBY CALCULATIONS]\r\n"));
 }

@@ -19,16 +19,16 @@ struct MenuForm : Form {
 
 struct RecentFileList : testing::Test {
   bool Enter(const std::string& path) {
-    program.CurrentFile = path;
-    program.RecentMode = static_cast<Integer>(++mode);
+    program.project.CurrentFile = path;
+    program.windows.RecentMode = static_cast<Integer>(++mode);
     return EnterRecentFile(program);
   }
 
   // What is in use, as "name|path|mode".
   std::vector<std::string> Entries() const {
     std::vector<std::string> entries;
-    for (int i = 0; i < program.recentFiles.MaxLastFiles; ++i) {
-      const auto& entry = program.recentFiles.Entries[static_cast<std::size_t>(i)];
+    for (int i = 0; i < program.session.recentFiles.MaxLastFiles; ++i) {
+      const auto& entry = program.session.recentFiles.Entries[static_cast<std::size_t>(i)];
       entries.push_back(entry.LastFile + "|" + entry.LastFileLong + "|" + std::to_string(entry.LastFileMode));
     }
     return entries;
@@ -36,7 +36,7 @@ struct RecentFileList : testing::Test {
 
   // The captions that the menu shows.
   std::vector<std::string> Shown() {
-    ShowRecentFiles(program.recentFiles, form.menu);
+    ShowRecentFiles(program.session.recentFiles, form.menu);
     std::vector<std::string> captions;
     for (int i = 0; i < form.menu.Count(); ++i) {
       if (form.menu.ItemVisible(i)) captions.push_back(form.menu.Caption(i));
@@ -82,7 +82,7 @@ TEST_F(RecentFileList, ChangesTheFirstWithAFileOpenedAgain) {
 }
 
 TEST_F(RecentFileList, ShowsTheNameAloneWhenAskedTo) {
-  program.settings.ShortRecentFiles = 1;
+  program.session.settings.ShortRecentFiles = 1;
 
   Enter("/north/panel.orb");
 
@@ -91,7 +91,7 @@ TEST_F(RecentFileList, ShowsTheNameAloneWhenAskedTo) {
 }
 
 TEST_F(RecentFileList, TakesFilesOfOneShortNameForTheSame) {
-  program.settings.ShortRecentFiles = 1;
+  program.session.settings.ShortRecentFiles = 1;
   Enter("/north/panel.orb");
   Enter("/north/gate.orb");
 
@@ -102,7 +102,7 @@ TEST_F(RecentFileList, TakesFilesOfOneShortNameForTheSame) {
 
 TEST_F(RecentFileList, HasAFileTwiceOnceItsNameIsShownAnotherWay) {
   Enter("/north/panel.orb");
-  program.settings.ShortRecentFiles = 1;
+  program.session.settings.ShortRecentFiles = 1;
 
   Enter("/north/panel.orb");
 
@@ -111,7 +111,7 @@ TEST_F(RecentFileList, HasAFileTwiceOnceItsNameIsShownAnotherWay) {
 
 TEST_F(RecentFileList, StaysAsItIsWhenSwitchedOff) {
   EXPECT_TRUE(Enter("/a.orb"));
-  program.settings.KeepFileNames = 0;
+  program.session.settings.KeepFileNames = 0;
 
   EXPECT_FALSE(Enter("/b.orb"));
 
@@ -119,7 +119,7 @@ TEST_F(RecentFileList, StaysAsItIsWhenSwitchedOff) {
 }
 
 TEST_F(RecentFileList, TellsANameThatEndsInASeparatorAndTakesIt) {
-  program.settings.ShortRecentFiles = 1;
+  program.session.settings.ShortRecentFiles = 1;
 
   Enter("/north/");
 
@@ -134,8 +134,8 @@ TEST_F(RecentFileList, ShowsAnAmpersandOfANameAsOne) {
 }
 
 TEST_F(RecentFileList, LeavesOutAnEntryWithoutAName) {
-  program.recentFiles.MaxLastFiles = 2;
-  program.recentFiles.Entries[1].LastFile = "/b.orb";
+  program.session.recentFiles.MaxLastFiles = 2;
+  program.session.recentFiles.Entries[1].LastFile = "/b.orb";
 
   EXPECT_THAT(Shown(), ElementsAre("-", "/b.orb"));
 }

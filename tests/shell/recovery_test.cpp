@@ -25,16 +25,16 @@ struct UnsavedWork : testing::Test {
   // A program in the middle of an unsaved design of this depth.
   Program Editing(Single depth, const std::string& file = "/designs/panel3.orb") {
     Program program = Started();
-    program.CurrentFile = file;
-    program.WorkParms.Place.DepthofCover = depth;
-    program.FileSaved = false;
-    program.FileEmpty = false;
+    program.project.CurrentFile = file;
+    program.project.WorkParms.Place.DepthofCover = depth;
+    program.project.FileSaved = false;
+    program.project.FileEmpty = false;
     return program;
   }
 
   Program Started() {
     Program program(platform.Doors());
-    program.folders.ProgramTemporary = Folder;
+    program.session.folders.ProgramTemporary = Folder;
     StartApart(program, nullptr);
     return program;
   }
@@ -71,7 +71,7 @@ TEST_F(UnsavedWork, GoesWithTheLastChange) {
   Program program = Editing(725);
   Recovery recovery(program);
   recovery.Committed();
-  program.FileSaved = true;
+  program.project.FileSaved = true;
 
   recovery.Committed();
 
@@ -81,7 +81,7 @@ TEST_F(UnsavedWork, GoesWithTheLastChange) {
 TEST_F(UnsavedWork, IsWrittenASecondAfterTheFirstChangeAsItIsByThen) {
   Program program = Started();
   Recovery recovery(program);
-  Design design = program.WorkParms;
+  Design design = program.project.WorkParms;
   recovery.DesignShown(design);
   design.Place.DepthofCover = 72;
   recovery.DesignChanged(design);
@@ -94,13 +94,13 @@ TEST_F(UnsavedWork, IsWrittenASecondAfterTheFirstChangeAsItIsByThen) {
   platform.clock.Pass();
 
   EXPECT_EQ(DepthIn(FirstFile), 725);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
 }
 
 TEST_F(UnsavedWork, WaitsAnotherSecondForTheNextChange) {
   Program program = Started();
   Recovery recovery(program);
-  Design design = program.WorkParms;
+  Design design = program.project.WorkParms;
   design.Place.DepthofCover = 725;
   recovery.DesignChanged(design);
   platform.clock.Pass();
@@ -117,7 +117,7 @@ TEST_F(UnsavedWork, WaitsAnotherSecondForTheNextChange) {
 TEST_F(UnsavedWork, IsWrittenBeforeItsSecondWhenTheRunEnds) {
   Program program = Started();
   Recovery recovery(program);
-  Design design = program.WorkParms;
+  Design design = program.project.WorkParms;
   design.Place.DepthofCover = 725;
   recovery.DesignChanged(design);
 
@@ -129,9 +129,9 @@ TEST_F(UnsavedWork, IsWrittenBeforeItsSecondWhenTheRunEnds) {
 TEST_F(UnsavedWork, IsNoneWhereTheDialogShowsWhatItOpenedWith) {
   Program program = Started();
   Recovery recovery(program);
-  recovery.DesignShown(program.WorkParms);
+  recovery.DesignShown(program.project.WorkParms);
 
-  recovery.DesignChanged(program.WorkParms);
+  recovery.DesignChanged(program.project.WorkParms);
   platform.clock.Pass();
 
   EXPECT_FALSE(Exists(FirstFile));
@@ -140,7 +140,7 @@ TEST_F(UnsavedWork, IsNoneWhereTheDialogShowsWhatItOpenedWith) {
 TEST_F(UnsavedWork, OfADialogGoesWhenItsChangesAreTakenBack) {
   Program program = Started();
   Recovery recovery(program);
-  const Design opened = program.WorkParms;
+  const Design opened = program.project.WorkParms;
   Design edited = opened;
   edited.Place.DepthofCover = 725;
   recovery.DesignShown(opened);
@@ -157,7 +157,7 @@ TEST_F(UnsavedWork, OfADialogGoesWhenItsChangesAreTakenBack) {
 TEST_F(UnsavedWork, OfACancelledDialogIsTheCommittedDesignAgain) {
   Program program = Editing(725);
   Recovery recovery(program);
-  Design edited = program.WorkParms;
+  Design edited = program.project.WorkParms;
   edited.Place.DepthofCover = 980;
   recovery.DesignChanged(edited);
   platform.clock.Pass();
@@ -181,9 +181,9 @@ TEST_F(UnsavedWork, IsOfferedToTheNextRun) {
             "Orby ended unexpectedly. Recover the unsaved project?\r\n\r\n/designs/panel3.orb");
   EXPECT_EQ(platform.boxes.shown.front().style, 36);
   EXPECT_THAT(platform.boxes.shown.front().captions, IsEmpty());
-  EXPECT_EQ(next.WorkParms.Place.DepthofCover, 725);
-  EXPECT_EQ(next.CurrentFile, "/designs/panel3.orb");
-  EXPECT_FALSE(next.FileSaved);
+  EXPECT_EQ(next.project.WorkParms.Place.DepthofCover, 725);
+  EXPECT_EQ(next.project.CurrentFile, "/designs/panel3.orb");
+  EXPECT_FALSE(next.project.FileSaved);
   EXPECT_TRUE(Exists(FirstFile)) << "it is still unsaved";
 }
 
@@ -226,8 +226,8 @@ TEST_F(UnsavedWork, ComesBackWithoutAQuestionWhenTheRunIsStartedAnew) {
   EXPECT_TRUE(Recovery(next).Recover());
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(next.WorkParms.Place.DepthofCover, 725);
-  EXPECT_FALSE(next.FileSaved);
+  EXPECT_EQ(next.project.WorkParms.Place.DepthofCover, 725);
+  EXPECT_FALSE(next.project.FileSaved);
 }
 
 TEST_F(UnsavedWork, ThatIsNotThereDoesNotComeBack) {
@@ -235,13 +235,13 @@ TEST_F(UnsavedWork, ThatIsNotThereDoesNotComeBack) {
 
   EXPECT_FALSE(Recovery(program).Recover());
 
-  EXPECT_TRUE(program.FileSaved);
+  EXPECT_TRUE(program.project.FileSaved);
 }
 
 TEST_F(UnsavedWork, IsInTheBackupsOnNo) {
   Lose(725);
   Program next = Started();
-  next.folders.ProgramData = DataFolder;
+  next.session.folders.ProgramData = DataFolder;
   platform.boxes.answers = {box_result::No};
 
   EXPECT_FALSE(Recovery(next).Ask(""));
@@ -251,13 +251,13 @@ TEST_F(UnsavedWork, IsInTheBackupsOnNo) {
   EXPECT_EQ(backups.front().Project, "/designs/panel3.orb");
   EXPECT_EQ(backups.front().Reason, BackupReason::Declined);
   EXPECT_EQ(DepthIn(backups.front().Path), 725);
-  EXPECT_THAT(next.history.Text, HasSubstr("Unsaved changes kept in Backups: /designs/panel3.orb"));
+  EXPECT_THAT(next.session.history.Text, HasSubstr("Unsaved changes kept in Backups: /designs/panel3.orb"));
 }
 
 TEST_F(UnsavedWork, ThatCannotBeReadAnyMoreIsInTheBackups) {
   platform.files.files[FirstFile] = "ORBY_RECOVERY_1\r\nCurrentFile=/designs/pan";
   Program program = Started();
-  program.folders.ProgramData = DataFolder;
+  program.session.folders.ProgramData = DataFolder;
 
   EXPECT_FALSE(Recovery(program).Ask(""));
 
@@ -272,7 +272,7 @@ TEST_F(UnsavedWork, ThatCannotBeReadAnyMoreIsInTheBackups) {
 TEST_F(UnsavedWork, ThatIsDamagedAndNotInTheBackupsIsThereAfterTheRun) {
   platform.files.files[FirstFile] = "damaged";
   Program program = Started();
-  program.folders.ProgramData = DataFolder;
+  program.session.folders.ProgramData = DataFolder;
   platform.files.Fail(Step::Create, error_number::DiskFull);
   Recovery recovery(program);
 
@@ -290,13 +290,13 @@ TEST_F(UnsavedWork, ThatIsDamagedAndNotInTheBackupsIsThereAfterTheRun) {
 TEST_F(UnsavedWork, ThatCannotBeReadAtAllIsNotWrittenOver) {
   Lose(725);
   Program program = Started();
-  program.folders.ProgramData = DataFolder;
+  program.session.folders.ProgramData = DataFolder;
   platform.files.Fail(Step::Read, error_number::PermissionDenied, 0, 1);
   Recovery recovery(program);
 
   EXPECT_FALSE(recovery.Ask(""));
-  program.WorkParms.Place.DepthofCover = 980;
-  program.FileSaved = false;
+  program.project.WorkParms.Place.DepthofCover = 980;
+  program.project.FileSaved = false;
   recovery.Committed();
 
   EXPECT_THAT(
@@ -314,8 +314,8 @@ TEST_F(UnsavedWork, ThatCannotBeRenamedEitherIsLeftToTheNextStart) {
   Recovery recovery(program);
 
   EXPECT_FALSE(recovery.Ask(""));
-  program.WorkParms.Place.DepthofCover = 980;
-  program.FileSaved = false;
+  program.project.WorkParms.Place.DepthofCover = 980;
+  program.project.FileSaved = false;
   recovery.Committed();
 
   EXPECT_EQ(DepthIn(FirstFile), 725);
@@ -326,7 +326,7 @@ TEST_F(UnsavedWork, ThatCannotBeRenamedEitherIsLeftToTheNextStart) {
 TEST_F(UnsavedWork, ThatWasDeclinedAndIsNotInTheBackupsIsThereAfterTheRun) {
   Lose(725);
   Program program = Started();
-  program.folders.ProgramData = DataFolder;
+  program.session.folders.ProgramData = DataFolder;
   platform.boxes.answers = {box_result::No};
   platform.files.Fail(Step::Create, error_number::DiskFull);
   Recovery recovery(program);
@@ -345,7 +345,7 @@ TEST_F(UnsavedWork, ThatIsKeptAsideLeavesWhatWasKeptAsideBefore) {
   platform.files.files[FirstFile + ".kept"] = "of an earlier run";
   platform.files.files[FirstFile] = "damaged";
   Program program = Started();
-  program.folders.ProgramData = DataFolder;
+  program.session.folders.ProgramData = DataFolder;
   platform.files.Fail(Step::Create, error_number::DiskFull);
 
   Recovery(program).Ask("");
@@ -356,10 +356,10 @@ TEST_F(UnsavedWork, ThatIsKeptAsideLeavesWhatWasKeptAsideBefore) {
 
 TEST_F(UnsavedWork, OfACancelledDialogIsInTheBackups) {
   Program program = Editing(725);
-  program.folders.ProgramData = DataFolder;
+  program.session.folders.ProgramData = DataFolder;
   Recovery recovery(program);
-  recovery.DesignShown(program.WorkParms);
-  Design edited = program.WorkParms;
+  recovery.DesignShown(program.project.WorkParms);
+  Design edited = program.project.WorkParms;
   edited.Place.DepthofCover = 980;
   recovery.DesignChanged(edited);
   recovery.Flush();
@@ -375,16 +375,16 @@ TEST_F(UnsavedWork, OfACancelledDialogIsInTheBackups) {
 
 TEST_F(UnsavedWork, ThatADialogCommittedOrDidNotChangeIsInNoBackup) {
   Program program = Editing(725);
-  program.folders.ProgramData = DataFolder;
+  program.session.folders.ProgramData = DataFolder;
   Recovery recovery(program);
-  recovery.DesignShown(program.WorkParms);
-  recovery.DesignChanged(program.WorkParms);
+  recovery.DesignShown(program.project.WorkParms);
+  recovery.DesignChanged(program.project.WorkParms);
   recovery.DialogClosed();
   EXPECT_THAT(ListBackups(program), IsEmpty());
 
-  recovery.DesignShown(program.WorkParms);
-  program.WorkParms.Place.DepthofCover = 980;
-  recovery.DesignChanged(program.WorkParms);
+  recovery.DesignShown(program.project.WorkParms);
+  program.project.WorkParms.Place.DepthofCover = 980;
+  recovery.DesignChanged(program.project.WorkParms);
   recovery.DialogClosed();
   EXPECT_THAT(ListBackups(program), IsEmpty());
 }
@@ -397,8 +397,8 @@ TEST_F(UnsavedWork, IsDeletedOnNoWithoutAFolderForBackups) {
   EXPECT_FALSE(Recovery(next).Ask(""));
 
   EXPECT_FALSE(Exists(FirstFile));
-  EXPECT_EQ(next.WorkParms.Place.DepthofCover, 400);
-  EXPECT_TRUE(next.FileSaved);
+  EXPECT_EQ(next.project.WorkParms.Place.DepthofCover, 400);
+  EXPECT_TRUE(next.project.FileSaved);
 }
 
 TEST_F(UnsavedWork, IsNotAskedForWhenThereIsNone) {
@@ -451,7 +451,7 @@ TEST_F(UnsavedWork, ThatWasLostGoesBeforeAFreeFile) {
 
   EXPECT_TRUE(Recovery(next).Ask(""));
 
-  EXPECT_EQ(next.WorkParms.Place.DepthofCover, 980);
+  EXPECT_EQ(next.project.WorkParms.Place.DepthofCover, 980);
 }
 
 TEST_F(UnsavedWork, OfANinthProgramIsKept) {
@@ -471,7 +471,7 @@ TEST_F(UnsavedWork, ThatWasLostInTheNinthFileIsOffered) {
 
   EXPECT_TRUE(Recovery(next).Ask(""));
 
-  EXPECT_EQ(next.WorkParms.Place.DepthofCover, 980);
+  EXPECT_EQ(next.project.WorkParms.Place.DepthofCover, 980);
 }
 
 TEST_F(UnsavedWork, OfATenthProgramIsNotKept) {
@@ -480,7 +480,7 @@ TEST_F(UnsavedWork, OfATenthProgramIsNotKept) {
   Recovery recovery(program);
 
   recovery.Committed();
-  recovery.DesignChanged(program.WorkParms);
+  recovery.DesignChanged(program.project.WorkParms);
 
   EXPECT_THAT(platform.files.created, IsEmpty());
   EXPECT_THAT(platform.clock.waiting, IsEmpty());
@@ -488,7 +488,7 @@ TEST_F(UnsavedWork, OfATenthProgramIsNotKept) {
 
 TEST_F(UnsavedWork, IsNotKeptWithoutAFolder) {
   Program program = Editing(725);
-  program.folders.ProgramTemporary.clear();
+  program.session.folders.ProgramTemporary.clear();
   Recovery recovery(program);
 
   recovery.Committed();
@@ -503,7 +503,7 @@ TEST_P(UnsavedWorkOnAFailingDisk, StaysAsItWasWrittenLastAndNobodyIsTold) {
   Program program = Editing(725);
   Recovery recovery(program);
   recovery.Committed();
-  program.WorkParms.Place.DepthofCover = 980;
+  program.project.WorkParms.Place.DepthofCover = 980;
   platform.files.Fail(GetParam(), error_number::DiskFull);
 
   recovery.Committed();
@@ -518,8 +518,8 @@ INSTANTIATE_TEST_SUITE_P(Steps, UnsavedWorkOnAFailingDisk,
 TEST_F(UnsavedWork, ThatTheDiskRefusedIsWrittenASecondLater) {
   Program program = Started();
   Recovery recovery(program);
-  recovery.DesignShown(program.WorkParms);
-  Design design = program.WorkParms;
+  recovery.DesignShown(program.project.WorkParms);
+  Design design = program.project.WorkParms;
   design.Place.DepthofCover = 980;
   recovery.DesignChanged(design);
   platform.files.Fail(Step::Write, error_number::DiskFull);
@@ -537,8 +537,8 @@ TEST_F(UnsavedWork, ThatTheDiskRefusedIsWrittenWhenTheRunEnds) {
   Program program = Editing(725);
   Recovery recovery(program);
   recovery.Committed();
-  recovery.DesignShown(program.WorkParms);
-  Design design = program.WorkParms;
+  recovery.DesignShown(program.project.WorkParms);
+  Design design = program.project.WorkParms;
   design.Place.DepthofCover = 980;
   recovery.DesignChanged(design);
   platform.files.Fail(Step::Write, error_number::DiskFull);
@@ -555,7 +555,7 @@ TEST_F(UnsavedWork, ThatWasCommittedOnAFullDiskIsWrittenWhenTheRunEnds) {
   Program program = Editing(725);
   Recovery recovery(program);
   recovery.Committed();
-  program.WorkParms.Place.DepthofCover = 980;
+  program.project.WorkParms.Place.DepthofCover = 980;
   platform.files.Fail(Step::Write, error_number::DiskFull);
   recovery.Committed();
   platform.files.Mend();
@@ -580,7 +580,7 @@ TEST_F(UnsavedWork, ThatWaitsForItsSecondOutlivesNoWindow) {
   Program program = Editing(725);
   {
     Recovery recovery(program);
-    recovery.DesignChanged(program.WorkParms);
+    recovery.DesignChanged(program.project.WorkParms);
   }
 
   platform.clock.Pass();

@@ -143,10 +143,10 @@ struct StartedAgain : MainWindowTest {
   // What the next run sees: its window is open, and it was told this.
   void StartAgain(const Restart& restart) {
     next.files.files = atEnd;
-    restarted.settings.LoadLastInputFile = 1;
-    restarted.settings.DisplayHistoryWin = 1;
-    restarted.recentFiles.MaxLastFiles = 1;
-    restarted.recentFiles.Entries[0] = {Panel4, 1, Panel4};
+    restarted.session.settings.LoadLastInputFile = 1;
+    restarted.session.settings.DisplayHistoryWin = 1;
+    restarted.session.recentFiles.MaxLastFiles = 1;
+    restarted.session.recentFiles.Entries[0] = {Panel4, 1, Panel4};
     nextWindow.emplace(restarted, restart);
     nextWindow->Open();
     nextWindow->OpenFirstFiles("");
@@ -166,7 +166,7 @@ TEST_F(StartedAgain, TheProgramBringsTheUnsavedProjectBackWithoutAQuestion) {
 
   EXPECT_EQ(end.Kept, KeptWork::All);
   EXPECT_THAT(next.boxes.shown, IsEmpty());
-  EXPECT_EQ(restarted.WorkParms.Place.DepthofCover, 810);
+  EXPECT_EQ(restarted.project.WorkParms.Place.DepthofCover, 810);
   EXPECT_EQ(nextWindow->Caption(), "Orby Roof Support Workbench: /designs/panel3.orb*");
 }
 
@@ -175,15 +175,16 @@ TEST_F(StartedAgain, TheProgramSaysInItsHistoryWhatItBroughtBack) {
 
   StartAgain(EndWhileEditing("810").Next);
 
-  EXPECT_THAT(restarted.history.Text, HasSubstr("Recovered: /designs/panel3.orb, with its unsaved changes\r\n"));
-  EXPECT_THAT(restarted.history.Text, Not(HasSubstr("Opening: /designs/panel4.orb")));
+  EXPECT_THAT(restarted.session.history.Text,
+              HasSubstr("Recovered: /designs/panel3.orb, with its unsaved changes\r\n"));
+  EXPECT_THAT(restarted.session.history.Text, Not(HasSubstr("Opening: /designs/panel4.orb")));
 }
 
 TEST_F(StartedAgain, TheProgramTakesItsOwnWorkAndNotWhatAnotherRunLost) {
   Program other = StartedProgram(platform);
   MainWindow otherWindow(other);  // takes the second slot, as a program beside this one
-  other.WorkParms.Place.DepthofCover = 333;
-  other.FileSaved = false;
+  other.project.WorkParms.Place.DepthofCover = 333;
+  other.project.FileSaved = false;
   const RunEnd end = otherWindow.LeaveAtOnce();
   atEnd = platform.files.files;
   atEnd[RecoveryPath] = atEnd.at(TemporaryFolder + "~recover2.tmp");
@@ -191,7 +192,7 @@ TEST_F(StartedAgain, TheProgramTakesItsOwnWorkAndNotWhatAnotherRunLost) {
   StartAgain(end.Next);
 
   EXPECT_EQ(end.Next.Slot, 2);
-  EXPECT_EQ(restarted.WorkParms.Place.DepthofCover, 333);
+  EXPECT_EQ(restarted.project.WorkParms.Place.DepthofCover, 333);
   EXPECT_TRUE(next.files.marked.contains(TemporaryFolder + "~recover2.lck"));
   EXPECT_FALSE(next.files.marked.contains(TemporaryFolder + "~recover1.lck"));
 }
@@ -205,8 +206,8 @@ TEST_F(StartedAgain, TheProgramOpensAProjectWithoutUnsavedChangesFromItsFile) {
 
   EXPECT_EQ(end.Kept, KeptWork::NoneNeeded);
   EXPECT_THAT(next.boxes.shown, IsEmpty());
-  EXPECT_EQ(restarted.WorkParms.Place.DepthofCover, 725);
-  EXPECT_TRUE(restarted.FileSaved);
+  EXPECT_EQ(restarted.project.WorkParms.Place.DepthofCover, 725);
+  EXPECT_TRUE(restarted.project.FileSaved);
   EXPECT_EQ(nextWindow->Caption(), "Orby Roof Support Workbench: /designs/panel3.orb");
 }
 
@@ -217,14 +218,14 @@ TEST_F(StartedAgain, TheProgramOffersWhatAnotherRunLostInItsSlot) {
   window.LeaveAtOnce();
   atEnd = platform.files.files;  // the recovery file stands for that of another program that was killed
 
-  restarted.folders.ProgramData = "/home/user/Documents/Orby/";
+  restarted.session.folders.ProgramData = "/home/user/Documents/Orby/";
   next.boxes.answers = {box_result::No};
 
   StartAgain(end.Next);
 
   ASSERT_EQ(next.boxes.shown.size(), 1U);
   EXPECT_THAT(next.boxes.shown.front().captions, ElementsAre("Recover", "Open panel3.orb instead"));
-  EXPECT_EQ(restarted.WorkParms.Place.DepthofCover, 725);
+  EXPECT_EQ(restarted.project.WorkParms.Place.DepthofCover, 725);
   const auto backups = ListBackups(restarted);
   ASSERT_EQ(backups.size(), 1U);
   EXPECT_EQ(ReadRecovery(next.files.files.at(backups.front().Path))->WorkParms.Place.DepthofCover, 800);
@@ -239,8 +240,8 @@ TEST_F(StartedAgain, TheProgramOffersWhatAnotherRunLostWhenItsOwnSlotIsTaken) {
 
   StartAgain({2, {}});
 
-  EXPECT_EQ(restarted.WorkParms.Place.DepthofCover, 800);
-  EXPECT_FALSE(restarted.FileSaved);
+  EXPECT_EQ(restarted.project.WorkParms.Place.DepthofCover, 800);
+  EXPECT_FALSE(restarted.project.FileSaved);
 }
 
 TEST_F(StartedAgain, TheProgramBeginsANewProjectWhereNothingWasBegun) {
@@ -251,7 +252,7 @@ TEST_F(StartedAgain, TheProgramBeginsANewProjectWhereNothingWasBegun) {
 
   EXPECT_EQ(end.Kept, KeptWork::NoneNeeded);
   EXPECT_THAT(next.boxes.shown, IsEmpty());
-  EXPECT_EQ(restarted.CurrentFile, "Untitled");
+  EXPECT_EQ(restarted.project.CurrentFile, "Untitled");
 }
 
 TEST_F(StartedAgain, TheProgramCanHaveTheWorkAsSoonAsItIsReleased) {
@@ -288,9 +289,9 @@ TEST_F(StartedAgain, TheUserIsToldWhenOnlyEarlierChangesCouldBeWritten) {
 TEST_F(StartedAgain, TheUserIsToldThatNothingIsKeptWithoutAFolderForIt) {
   RecordingPlatform bare;
   Program program2 = StartedProgram(bare);
-  program2.folders.ProgramTemporary.clear();
+  program2.session.folders.ProgramTemporary.clear();
   MainWindow window2(program2);
-  program2.FileSaved = false;
+  program2.project.FileSaved = false;
 
   EXPECT_EQ(window2.LeaveAtOnce().Kept, KeptWork::Nothing);
 }

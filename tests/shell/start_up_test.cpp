@@ -30,41 +30,41 @@ struct StartUp : testing::Test {
 
   // What a first run holds is in force, and the user has been told why it is not kept.
   void ExpectBuiltInSettings(const std::string& reason) {
-    EXPECT_EQ(program.defaults.DefaultENGDepthofCover, 400);
-    EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
-    EXPECT_EQ(program.settings.DisplayHistoryWin, 1);
-    EXPECT_EQ(program.settings.FileExtension, "ORB");
-    EXPECT_EQ(program.settings.MaxDisplaySize, 4096);
-    EXPECT_EQ(program.graph.SymbolSize, 6);
-    EXPECT_EQ(program.catalogs.DefaultBoltUTSArrayENG.Count(), 6U);
-    EXPECT_EQ(program.catalogs.DefaultCableCapArrayMET.Count(), 6U);
+    EXPECT_EQ(program.session.defaults.DefaultENGDepthofCover, 400);
+    EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
+    EXPECT_EQ(program.session.settings.DisplayHistoryWin, 1);
+    EXPECT_EQ(program.session.settings.FileExtension, "ORB");
+    EXPECT_EQ(program.session.settings.MaxDisplaySize, 4096);
+    EXPECT_EQ(program.session.graph.SymbolSize, 6);
+    EXPECT_EQ(program.session.catalogs.DefaultBoltUTSArrayENG.Count(), 6U);
+    EXPECT_EQ(program.session.catalogs.DefaultCableCapArrayMET.Count(), 6U);
     const std::string trouble = "Configuration file cannot be used: " + std::string(IniPath) + " (" + reason +
                                 "). Built-in settings are in force";
     EXPECT_THAT(platform.boxes.Texts(), ElementsAre(trouble + " and changes to them may be lost."));
-    EXPECT_THAT(program.history.Text, HasSubstr(trouble + "\r\n"));
+    EXPECT_THAT(program.session.history.Text, HasSubstr(trouble + "\r\n"));
   }
 };
 
 TEST_F(StartUp, MakesAMissingConfigurationFileAndStartsWithTheDefaults) {
   StartProgram(program);
 
-  EXPECT_EQ(program.IniFilePath, IniPath);
+  EXPECT_EQ(program.session.IniFilePath, IniPath);
   EXPECT_THAT(Ini(), StartsWith("[Version]\r\nINIFileVersion=201030\r\n[Settings]\r\nDefaultUnits=0\r\n"));
   EXPECT_THAT(Ini(), HasSubstr("[ORBYDefaults]\r\nDefaultCMRR=45\r\n"));
   EXPECT_THAT(Ini(), HasSubstr("[ORBYBoltParams]\r\nDefaultBoltGradeIndexENG="));
   EXPECT_THAT(Ini(), Not(HasSubstr("ORBYStandSupportParams")));
-  EXPECT_EQ(program.defaults.DefaultENGDepthofCover, 400);
-  EXPECT_EQ(program.settings.DisplayHistoryWin, 1);
-  EXPECT_EQ(program.settings.DataPath, "/home/user/Documents/MyStrataDesk/ORBY/");
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
-  EXPECT_EQ(program.CurrentFile, "Untitled");
+  EXPECT_EQ(program.session.defaults.DefaultENGDepthofCover, 400);
+  EXPECT_EQ(program.session.settings.DisplayHistoryWin, 1);
+  EXPECT_EQ(program.session.settings.DataPath, "/home/user/Documents/MyStrataDesk/ORBY/");
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
+  EXPECT_EQ(program.project.CurrentFile, "Untitled");
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
 TEST_F(StartUp, TellsTheHistoryWhereItKeepsTheDefaultsThatItMade) {
   StartProgram(program);
 
-  EXPECT_EQ(program.history.Text,
+  EXPECT_EQ(program.session.history.Text,
             "1. Saving default settings to file: /home/user/Documents/MyStrataDesk/ORBY/ORBY.INI\r\n"
             "2. File initialized. Use Edit-Project Parameters to enter data\r\n");
 }
@@ -73,7 +73,7 @@ TEST_F(StartUp, ReadsANewFileBackLikeAnyOther) {
   StartProgram(program);
 
   EXPECT_THAT(Ini(), HasSubstr("MaxDisplaySize=2048\r\n"));
-  EXPECT_EQ(program.settings.MaxDisplaySize, 4096);
+  EXPECT_EQ(program.session.settings.MaxDisplaySize, 4096);
 }
 
 TEST_F(StartUp, HoldsTheSameListsOnTheFirstAndOnTheSecondRun) {
@@ -84,10 +84,12 @@ TEST_F(StartUp, HoldsTheSameListsOnTheFirstAndOnTheSecondRun) {
   StartProgram(next);
 
   EXPECT_EQ(Ini(), written);
-  EXPECT_EQ(next.catalogs.DefaultBoltUTSArrayENG.Count(), program.catalogs.DefaultBoltUTSArrayENG.Count());
-  EXPECT_EQ(next.catalogs.DefaultBoltUTSArrayENG.Values, program.catalogs.DefaultBoltUTSArrayENG.Values);
-  EXPECT_GT(next.catalogs.DefaultBoltUTSArrayENG.Count(), 1U);
-  EXPECT_EQ(next.history.Text, "1. File initialized. Use Edit-Project Parameters to enter data\r\n");
+  EXPECT_EQ(next.session.catalogs.DefaultBoltUTSArrayENG.Count(),
+            program.session.catalogs.DefaultBoltUTSArrayENG.Count());
+  EXPECT_EQ(next.session.catalogs.DefaultBoltUTSArrayENG.Values,
+            program.session.catalogs.DefaultBoltUTSArrayENG.Values);
+  EXPECT_GT(next.session.catalogs.DefaultBoltUTSArrayENG.Count(), 1U);
+  EXPECT_EQ(next.session.history.Text, "1. File initialized. Use Edit-Project Parameters to enter data\r\n");
 }
 
 TEST_F(StartUp, TakesOverWhatTheFileHolds) {
@@ -100,10 +102,10 @@ TEST_F(StartUp, TakesOverWhatTheFileHolds) {
 
   StartProgram(program);
 
-  EXPECT_EQ(program.WorkParms.Units, Metric);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 310);
-  EXPECT_EQ(program.recentFiles.Entries[0].LastFileLong, "/designs/panel.ORB");
-  EXPECT_EQ(program.catalogs.DefaultBoltGradeArrayMET.Count(), 2U);
+  EXPECT_EQ(program.project.WorkParms.Units, Metric);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 310);
+  EXPECT_EQ(program.session.recentFiles.Entries[0].LastFileLong, "/designs/panel.ORB");
+  EXPECT_EQ(program.session.catalogs.DefaultBoltGradeArrayMET.Count(), 2U);
   EXPECT_EQ(Ini(), before) << "reading writes nothing";
 }
 
@@ -118,8 +120,8 @@ TEST_F(StartUp, DeletesAndRebuildsAFileOfAnotherVersion) {
 
     EXPECT_THAT(Ini(), StartsWith("[Version]\r\nINIFileVersion=201030\r\n[Settings]\r\n")) << version;
     EXPECT_THAT(Ini(), Not(HasSubstr("Extra"))) << version;
-    EXPECT_EQ(next.settings.UnitsDefault, English) << version;
-    EXPECT_EQ(next.WorkParms.Place.DepthofCover, 400) << version;
+    EXPECT_EQ(next.session.settings.UnitsDefault, English) << version;
+    EXPECT_EQ(next.project.WorkParms.Place.DepthofCover, 400) << version;
   }
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
@@ -137,31 +139,31 @@ TEST_F(StartUp, KeepsAFileOfAnotherVersionThatCannotBeReplaced) {
 
 TEST_F(StartUp, TakesTheStandingSupportsFromTheBuiltInTableWhateverTheFileSays) {
   StartProgram(program);
-  program.catalogs.StandSupports = {0, {"Can, 24in"}, {{{120, 1068}}}};
-  EditIniFile(program, program.IniFilePath,
+  program.session.catalogs.StandSupports = {0, {"Can, 24in"}, {{{120, 1068}}}};
+  EditIniFile(program, program.session.IniFilePath,
               [this](IniText& ini) { WriteCatalogSection(program, ini, catalog_section::StandSupports); });
   Program next(platform.Doors());
 
   StartProgram(next);
 
   EXPECT_THAT(Ini(), HasSubstr("DefaultStandSupportType0=Can, 24in\r\n"));
-  EXPECT_EQ(next.catalogs.StandSupports.DefaultStandSupportType[0],
+  EXPECT_EQ(next.session.catalogs.StandSupports.DefaultStandSupportType[0],
             "4-point Hardwood Crib (8in x 8in timbers, 5' height)");
-  EXPECT_EQ(next.catalogs.StandSupports.HighestIndex, 15);
-  EXPECT_EQ(next.catalogs.StandSupports.DefaultStandSupportType[15], "Concrete Crib (24in x 24in)");
+  EXPECT_EQ(next.session.catalogs.StandSupports.HighestIndex, 15);
+  EXPECT_EQ(next.session.catalogs.StandSupports.DefaultStandSupportType[15], "Concrete Crib (24in x 24in)");
 }
 
 TEST_F(StartUp, ForgetsTheOptionsOfTheLastRun) {
   StartProgram(program);
-  program.options.BoltGradeAsUltimateDefault = StrengthBasis::Ultimate;
+  program.session.options.BoltGradeAsUltimateDefault = StrengthBasis::Ultimate;
   WriteDefaults(program, settings_section::Options);
   Program next(platform.Doors());
 
   StartProgram(next);
 
   EXPECT_THAT(Ini(), HasSubstr("DefaultSteelStrength=1\r\n"));
-  EXPECT_EQ(next.options.BoltGradeAsUltimateDefault, StrengthBasis::Yield);
-  EXPECT_EQ(next.WorkParms.Basis, StrengthBasis::Yield);
+  EXPECT_EQ(next.session.options.BoltGradeAsUltimateDefault, StrengthBasis::Yield);
+  EXPECT_EQ(next.project.WorkParms.Basis, StrengthBasis::Yield);
 }
 
 TEST_F(StartUp, KeepsTheConfigurationInTheProgramsFolderWithoutDocuments) {
@@ -169,9 +171,9 @@ TEST_F(StartUp, KeepsTheConfigurationInTheProgramsFolderWithoutDocuments) {
 
   StartProgram(program);
 
-  EXPECT_EQ(program.IniFilePath, "/program/ORBY.INI");
+  EXPECT_EQ(program.session.IniFilePath, "/program/ORBY.INI");
   EXPECT_TRUE(platform.files.files.contains("/program/ORBY.INI"));
-  EXPECT_EQ(program.settings.DataPath, "/program/");
+  EXPECT_EQ(program.session.settings.DataPath, "/program/");
 }
 
 TEST_F(StartUp, WorksWithTheBuiltInSettingsWhereNoFileCanBeWritten) {
@@ -206,7 +208,7 @@ TEST(StartOnADisk, WorksWithTheBuiltInSettingsWhereAFolderHasTheNameOfTheFile) {
   StartProgram(program);
 
   std::filesystem::current_path(workingFolder);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre(HasSubstr("Configuration file cannot be used: ")));
   EXPECT_TRUE(std::filesystem::exists(home.At("MyStrataDesk/ORBY/ORBY.INI/kept")));
 }
@@ -235,8 +237,8 @@ TEST_F(StartUp, NamesAFontThatTheMachineHas) {
 
   StartProgram(program);
 
-  EXPECT_EQ(program.settings.DisplayFontName, "Courier New");
-  EXPECT_EQ(program.textBrowse.BrowseFontName, "Courier New");
+  EXPECT_EQ(program.session.settings.DisplayFontName, "Courier New");
+  EXPECT_EQ(program.session.textBrowse.BrowseFontName, "Courier New");
   EXPECT_THAT(Ini(), HasSubstr("DisplayFontName=Courier New\r\n"));
 }
 
@@ -249,7 +251,7 @@ TEST_F(StartUp, LosesNoTimeOverFontsOnceOneIsChosen) {
   StartProgram(second);
 
   EXPECT_EQ(platform.fonts.asked, 0);
-  EXPECT_EQ(second.settings.DisplayFontName, "Arial");
+  EXPECT_EQ(second.session.settings.DisplayFontName, "Arial");
 }
 
 TEST_F(StartUp, EndsInTheProgramsFolder) {
@@ -263,7 +265,7 @@ TEST_F(StartUp, RecordsAMachinesCommaAndKeepsThePoint) {
 
   StartProgram(program);
 
-  EXPECT_EQ(program.SavedDecimalSeparator, ",");
+  EXPECT_EQ(program.session.SavedDecimalSeparator, ",");
   EXPECT_THAT(Ini(), HasSubstr("DefaultENGboltDiameter=0.75\r\n"));
 }
 
@@ -275,14 +277,15 @@ struct StartOfAScript : testing::Test {
 TEST_F(StartOfAScript, BeginsANewEnglishDesignWithTheBuiltInCatalogs) {
   StartApart(program, nullptr);
 
-  EXPECT_EQ(program.CurrentFile, "Untitled");
-  EXPECT_TRUE(program.FileSaved);
-  EXPECT_TRUE(program.FileEmpty);
-  EXPECT_EQ(program.WorkParms.Units, English);
-  EXPECT_EQ(program.WorkParms.Place.DepthofCover, 400);
-  EXPECT_EQ(program.catalogs.BoltTableENG.size(), 10U);
-  EXPECT_EQ(program.WorkParms.Entries.Standing.TypeName, "4-point Hardwood Crib (8in x 8in timbers, 5' height)");
-  EXPECT_EQ(program.history.Text, "1. File initialized. Use Edit-Project Parameters to enter data\r\n");
+  EXPECT_EQ(program.project.CurrentFile, "Untitled");
+  EXPECT_TRUE(program.project.FileSaved);
+  EXPECT_TRUE(program.project.FileEmpty);
+  EXPECT_EQ(program.project.WorkParms.Units, English);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
+  EXPECT_EQ(program.session.catalogs.BoltTableENG.size(), 10U);
+  EXPECT_EQ(program.project.WorkParms.Entries.Standing.TypeName,
+            "4-point Hardwood Crib (8in x 8in timbers, 5' height)");
+  EXPECT_EQ(program.session.history.Text, "1. File initialized. Use Edit-Project Parameters to enter data\r\n");
 }
 
 TEST_F(StartOfAScript, WritesNothingAndStaysWhereItIs) {
@@ -291,7 +294,7 @@ TEST_F(StartOfAScript, WritesNothingAndStaysWhereItIs) {
   EXPECT_THAT(platform.files.files, IsEmpty());
   EXPECT_THAT(platform.files.folders, ElementsAre("/program", "/tmp"));
   EXPECT_EQ(platform.files.workingFolder, "/section");
-  EXPECT_EQ(program.folders.ProgramData, "");
+  EXPECT_EQ(program.session.folders.ProgramData, "");
 }
 
 TEST_F(StartOfAScript, RecordsAMachinesCommaAndKeepsThePoint) {
@@ -299,22 +302,23 @@ TEST_F(StartOfAScript, RecordsAMachinesCommaAndKeepsThePoint) {
 
   StartApart(program, nullptr);
 
-  EXPECT_EQ(program.SavedDecimalSeparator, ",");
+  EXPECT_EQ(program.session.SavedDecimalSeparator, ",");
 }
 
 TEST_F(StartOfAScript, TakesTheNewDesignFromTheConfiguredDefaults) {
   StartApart(program, nullptr);
   IniText configuration;
-  program.defaults.DefaultENGDepthofCover = 725;
+  program.session.defaults.DefaultENGDepthofCover = 725;
   WriteCatalogSection(program, configuration, catalog_section::Defaults);
   WriteCatalogSection(program, configuration, catalog_section::BoltParams);
   Program next(platform.Doors());
 
   StartApart(next, &configuration);
 
-  EXPECT_EQ(next.WorkParms.Place.DepthofCover, 725);
-  EXPECT_EQ(next.WorkParms.Place.EntryWidth, 20);
-  EXPECT_EQ(next.catalogs.DefaultBoltGradeArrayENG.Values, program.catalogs.DefaultBoltGradeArrayENG.Values);
+  EXPECT_EQ(next.project.WorkParms.Place.DepthofCover, 725);
+  EXPECT_EQ(next.project.WorkParms.Place.EntryWidth, 20);
+  EXPECT_EQ(next.session.catalogs.DefaultBoltGradeArrayENG.Values,
+            program.session.catalogs.DefaultBoltGradeArrayENG.Values);
 }
 
 TEST_F(StartOfAScript, OffersOnlyTheEntriesThatTheConfigurationCounts) {
@@ -324,8 +328,8 @@ TEST_F(StartOfAScript, OffersOnlyTheEntriesThatTheConfigurationCounts) {
 
   StartApart(program, &configuration);
 
-  EXPECT_EQ(program.catalogs.DefaultBoltGradeArrayENG.Count(), 3U);
-  EXPECT_EQ(program.catalogs.DefaultBoltGradeArrayENG[4], 90) << "still in the list, no longer offered";
+  EXPECT_EQ(program.session.catalogs.DefaultBoltGradeArrayENG.Count(), 3U);
+  EXPECT_EQ(program.session.catalogs.DefaultBoltGradeArrayENG[4], 90) << "still in the list, no longer offered";
 }
 
 struct CommandLineOfARun : testing::Test {

@@ -29,7 +29,7 @@ TEST_F(ACheckAtStart, FetchesAShortVersionFile) {
 }
 
 TEST_F(ACheckAtStart, IsLeftOutWhenTheUserHasSwitchedItOff) {
-  program.settings.RemindAnnualUpdates = 0;
+  program.session.settings.RemindAnnualUpdates = 0;
 
   check.Start();
 
@@ -37,7 +37,7 @@ TEST_F(ACheckAtStart, IsLeftOutWhenTheUserHasSwitchedItOff) {
 }
 
 TEST_F(ACheckAtStart, IsLeftOutWithoutAServer) {
-  program.UpdateServer.clear();
+  program.session.UpdateServer.clear();
 
   check.Start();
 
@@ -63,7 +63,7 @@ TEST_F(ACheckAtStart, AsksAboutANewerVersion) {
 TEST_F(ACheckAtStart, TellsTheHistoryBothVersions) {
   CheckBringing("1.0.00\r\n");
 
-  EXPECT_EQ(program.history.Text, "1. Server/Current: 1.0.00/1.0.00\r\n");
+  EXPECT_EQ(program.session.history.Text, "1. Server/Current: 1.0.00/1.0.00\r\n");
 }
 
 TEST_F(ACheckAtStart, OpensTheUpdatesOnYesAndSaysNothingElse) {
@@ -99,7 +99,7 @@ TEST_F(ACheckAtStart, IsSilentAboutAFileThatIsNone) {
   for (const char* bytes : {"", "\r\n", "../../x", "<!DOCTYPE html>"}) CheckBringing(bytes);
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(program.history.Text, "");
+  EXPECT_EQ(program.session.history.Text, "");
 }
 
 TEST_F(ACheckAtStart, IsSilentWhenTheFetchFailsWhateverLiesThereOfAnotherDay) {
@@ -111,7 +111,7 @@ TEST_F(ACheckAtStart, IsSilentWhenTheFetchFailsWhateverLiesThereOfAnotherDay) {
   }
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_EQ(program.history.Text, "");
+  EXPECT_EQ(program.session.history.Text, "");
 }
 
 TEST_F(ACheckAtStart, IsSilentWhenTheFileCannotBeReadOrNothingFetched) {
@@ -134,7 +134,7 @@ TEST_F(ACheckAtStart, StopsWithTheWindowThatHasIt) {
 
 struct AWindowThatLooksForUpdates : testing::Test {
   AWindowThatLooksForUpdates() {
-    program.UpdateServer = "https://updates.example.org";
+    program.session.UpdateServer = "https://updates.example.org";
     window.Open();
   }
 

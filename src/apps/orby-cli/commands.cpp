@@ -55,15 +55,15 @@ struct Session {
 
 // False when the file is no project.
 bool OpenProject(Session& session, const std::string& file) {
-  session.program.CurrentFile = file;
+  session.program.project.CurrentFile = file;
   bool opened = false;
   FileOpen(session.program, opened);
-  if (opened && session.line.Name) session.program.CurrentFile = *session.line.Name;
+  if (opened && session.line.Name) session.program.project.CurrentFile = *session.line.Name;
   return opened;
 }
 
 void SaveAs(Session& session, const std::string& file) {
-  session.program.CurrentFile = file;
+  session.program.project.CurrentFile = file;
   bool saved = false;
   FileSave(session.program, saved);
 }
@@ -79,7 +79,7 @@ int Report(Session& session, const std::string&) {
   if (session.line.Validate && !dialog.ValidateParameters()) return exit_code::Invalid;
   BuildPages(dialog);
   for (const int page : {0, 1}) {
-    if (session.line.Page.value_or(page) == page) Print(session.program.OutBuf[static_cast<std::size_t>(page)]);
+    if (session.line.Page.value_or(page) == page) Print(session.program.session.OutBuf[static_cast<std::size_t>(page)]);
   }
   return exit_code::Done;
 }
@@ -88,7 +88,7 @@ int Cost(Session& session, const std::string&) {
   CostDialog dialog(session.program);
   dialog.Open();
   dialog.BuildReport();
-  Print(session.program.OutBuf[1]);
+  Print(session.program.session.OutBuf[1]);
   return exit_code::Done;
 }
 
@@ -104,7 +104,7 @@ int CurveOf(Session& session, const std::string& number) {
   dialog.Open();
   BuildPages(dialog);
   TakeCurve(session.program, static_cast<Integer>(number.front() - '0'));
-  const Curve& curve = session.program.curve;
+  const Curve& curve = session.program.windows.curve;
   std::string text;
   for (std::size_t i = 0; i < static_cast<std::size_t>(curve.CurvePointCount); ++i) {
     AppendSingle(text, curve.CurvePoints[0][i]);
@@ -220,7 +220,7 @@ int RunOnOperands(const Command& command, const CommandLine& line) {
   } else {
     StartApart(start, nullptr);
   }
-  if (line.AustralianTable) start.UseAUSStandardTable = 1;
+  if (line.AustralianTable) start.project.UseAUSStandardTable = 1;
 
   const auto& operands = line.Operands;
   const auto run = [&](const std::string& file, const std::string& extra) {
