@@ -71,8 +71,9 @@ void ReportPages() {
   dialog.SaveWorkParms();
   dialog.BuildReport();
   Measured([&] {
-    LoadOutBuf0(bench.program);
-    CalculationReport(bench.program);
+    LoadOutBuf0(bench.program, bench.program.project.WorkParms);
+    TakeCalculationPage(bench.program,
+                        CalculationReport(bench.program.project.WorkParms, bench.program.session.catalogs));
   });
 }
 

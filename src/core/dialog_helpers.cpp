@@ -10,6 +10,7 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "core/messages.h"
+#include "core/shared_texts.h"
 
 namespace orby {
 namespace {
@@ -30,8 +31,7 @@ int Centered(int length, int screenLength) { return length > screenLength ? 0 : 
 
 void SetArrayIndex(Program& program, OptionArray& options, Integer index) {
   if (index < 0 || static_cast<std::size_t>(index) >= options.Count()) {
-    ShowMessage(program, "Internal Error: SetArrayIndex. Check input/form data.", box_style::Ok,
-                program.windows.titles.RangeErrorTitle);
+    ShowMessage(program, std::string(UnknownChoice), box_style::Ok, program.windows.titles.RangeErrorTitle);
   }
   for (std::size_t i = 0; i < options.Count(); ++i) options.SetValue(static_cast<int>(i), false);
   options.SetValue(index, true);

@@ -11,14 +11,14 @@ const CatalogList& ByUnits(const Program& program, const CatalogList& english, c
 
 }  // namespace
 
-const BoltTable& LoadBoltTable(Program& program) {
-  if (program.project.WorkParms.Units != Metric) return program.session.catalogs.BoltTableENG;
-  if (UsesAustralianTable(program.project)) {
-    SetBoltTableAUS(program.session.catalogs);
+const BoltTable& LoadBoltTable(const Project& project, Catalogs& catalogs) {
+  if (project.WorkParms.Units != Metric) return catalogs.BoltTableENG;
+  if (UsesAustralianTable(project)) {
+    SetBoltTableAUS(catalogs);
   } else {
-    SetBoltTableMET(program.session.catalogs);
+    SetBoltTableMET(catalogs);
   }
-  return program.session.catalogs.BoltTableMET;
+  return catalogs.BoltTableMET;
 }
 
 const CatalogList& BoltDiameters(const Program& program) {

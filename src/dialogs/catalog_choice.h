@@ -8,8 +8,8 @@
 
 namespace orby {
 
-// Puts the bolt table in force that the project's units and its Australian setting ask for, and gives it.
-const BoltTable& LoadBoltTable(Program& program);
+// Puts the bolt table in force that the project's units and its Australian setting ask for, and returns it.
+const BoltTable& LoadBoltTable(const Project& project, Catalogs& catalogs);
 
 // The standard values that the project's units offer; grades are yield or ultimate strengths by the strength mode.
 const CatalogList& BoltDiameters(const Program& program);

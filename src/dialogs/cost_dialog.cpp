@@ -12,9 +12,9 @@
 #include "dialogs/copy_clip.h"
 #include "dialogs/fault_texts.h"
 #include "dialogs/history_texts.h"
-#include "dialogs/preview.h"
 #include "dialogs/results_window.h"
 #include "engine/cost.h"
+#include "reports/calculation_report.h"
 #include "reports/cost_report.h"
 #include "reports/input_echo.h"
 
@@ -172,17 +172,13 @@ void CostDialog::SaveWorkParms() {
   WasCommitted = true;
 }
 
-void CostDialog::CopyCostToWorkParmsCopy() { ReadCost(program_.windows.WorkParmsCopy.Cost); }
-
 void CostDialog::BuildReport() {
-  CopyCostToWorkParmsCopy();
-  // The curves of the results window are those of the project, not of a design that was shown before.
-  program_.windows.WorkParmsCopy.Support() = program_.project.WorkParms.Support();
-  program_.session.OutBuf[1] = CostReport(program_.windows.WorkParmsCopy.Cost, program_.project.WorkParms.Units);
-  program_.windows.LastPage = 1;
-  const Preview preview(program_.project.WorkParms.Cost, program_.windows.WorkParmsCopy.Cost);
+  Design& previewed = program_.windows.WorkParmsCopy;
+  previewed = program_.project.WorkParms;
+  ReadEdits(previewed);
+  TakeCalculationPage(program_, CostReport(previewed.Cost, previewed.Units));
   program_.windows.ReportCaller = report_caller::Cost;
-  LoadOutBuf0(program_);
+  LoadOutBuf0(program_, previewed);
 }
 
 }  // namespace orby

@@ -109,7 +109,6 @@ class CostDialog : public CostControls {
   void SaveWorkParms();
 
   // The same into the scratch design, for previews.
-  void CopyCostToWorkParmsCopy();
 
   // Builds the report pages of the fields as they stand, without committing or checking them. Throws what a report
   // throws that cannot be computed.

@@ -18,8 +18,8 @@ std::string_view NoticeText(CurveNotice notice) {
 
 }  // namespace
 
-void TakeCurve(Program& program, Integer index) {
-  CurveSweep sweep = GenerateCurve(program.windows.WorkParmsCopy, index);
+void TakeCurve(Program& program, const Design& design, Integer index) {
+  CurveSweep sweep = GenerateCurve(design, index);
   if (sweep.Notice) ShowMessage(program, std::string(NoticeText(*sweep.Notice)));
   if (sweep.Failure) throw RuntimeError(*sweep.Failure);
   static_cast<Curve&>(program.windows.curve) = std::move(sweep.Points);

@@ -10,10 +10,8 @@
 #include "dialogs/copy_clip.h"
 #include "dialogs/estimator_dialog.h"
 #include "dialogs/history_texts.h"
-#include "dialogs/preview.h"
+#include "dialogs/project_report.h"
 #include "dialogs/results_window.h"
-#include "reports/calculation_report.h"
-#include "reports/input_echo.h"
 
 namespace orby {
 namespace {
@@ -166,7 +164,7 @@ void ParametersDialog::OnOpen() {
 }
 
 void ParametersDialog::FillLists() {
-  const BoltTable& table = LoadBoltTable(program_);
+  const BoltTable& table = LoadBoltTable(program_.project, program_.session.catalogs);
   const auto diameters = NumberItems(BoltDiameters(program_));
   const auto grades = NumberItems(BoltGrades(program_));
   for (const BoltControls& bolt : {PrimaryBoltControls, EntryBoltControls, InterBoltControls}) {
@@ -196,11 +194,8 @@ void ParametersDialog::OnClose() {
 
 bool ParametersDialog::BuildReport() {
   if (!CopyToWorkParmsCopy()) return false;
-  const Preview preview(program_.project.WorkParms.Support(), program_.windows.WorkParmsCopy.Support());
   program_.windows.ReportCaller = report_caller::Parameters;
-  LoadOutBuf0(program_);
-  CalculationReport(program_);
-  KeepShownResults(program_);
+  BuildResults(program_, program_.windows.WorkParmsCopy);
   return true;
 }
 

@@ -6,12 +6,19 @@
 
 #include <array>
 #include <initializer_list>
+#include <vector>
 
 #include "core/program.h"
 #include "dialogs/parameters_controls.h"
 #include "engine/analysis.h"
 
 namespace orby {
+
+// A field whose number no record holds, and where the typed design keeps it.
+struct Misfit {
+  const Single* number;
+  const Control* field;
+};
 
 // The parts of a design that the refreshes read.
 enum class DesignPart { Place, Primary, PrimaryBolt, Entries, Intersections };
@@ -25,14 +32,13 @@ class ParametersDialog : public ParametersControls {
   bool ValidateParameters();
 
   // Reads the fields into a design as a commit would. A number that the design cannot hold leaves the one it has there.
-  void ReadEdits(Design& design) const;
+  void ReadEdits(Design& design);
 
   // Reads the fields into the committed design. A number that it cannot hold is told, its field gets the focus, and
   // nothing is changed; false then.
   bool SaveWorkParms();
 
-  // Reads the fields into the scratch design, for previews and curves; refuses as SaveWorkParms does. Manual bolt
-  // selections of all three sets come from the primary tab here.
+  // Reads the fields into the previewed design, for reports and curves; refuses as SaveWorkParms does.
   bool CopyToWorkParmsCopy();
 
   // Builds the report pages of the fields as they stand, without committing or checking them; false when the fields
@@ -91,11 +97,10 @@ class ParametersDialog : public ParametersControls {
 
   void FillLists();
   void InitParameters();
-  // Reads the fields into the design, as far as it can hold them. Returns the first field whose number it cannot, or
-  // nullptr. manualEntry, manualInter: the controls that the manual bolt selections of these two sets are read from.
-  const Control* StoreFields(Design& design, const BoltControls& manualEntry, const BoltControls& manualInter) const;
-  // The same for the user's command: all fields or, when one is refused, none.
-  bool TakeFields(Design& design, const BoltControls& manualEntry, const BoltControls& manualInter);
+  // Reads all fields into the typed design. Returns the numbers of it that are Unfit.
+  std::vector<Misfit> ReadFields();
+  // Reads all fields and takes of them what the step takes: all or, when one of these does not fit, none.
+  bool TakeFields(RoofSupport& support, Design (*step)(Design));
   // Whether a commit would take all fields; tells what is refused.
   bool MayCommit();
   void TellRefused(const Control& field);

@@ -1,15 +1,13 @@
 // The live results of the parameters dialog: from the fields as typed to the outputs.
-#include "base/number_text.h"
 #include "base/text.h"
 #include "core/shared_texts.h"
 #include "dialogs/parameters_dialog.h"
+#include "dialogs/shown_design.h"
 
 namespace orby {
 namespace {
 
 constexpr NumberPattern OneDecimal{"0.0"};
-constexpr NumberPattern WholeNumber{"0"};
-constexpr NumberPattern FactorPattern{"0.#0"};
 
 void Show(TextBox& output, std::string_view text) { output.SetText(std::string(text)); }
 
@@ -78,7 +76,7 @@ void ParametersDialog::ShowActualPSUP() {
 void ParametersDialog::ShowEntries() {
   ReadPart(DesignPart::Place);
   ReadPart(DesignPart::Entries);
-  Show(EntryOutputs, EntryFigures(typed_, program_.session.catalogs), OneDecimal);
+  Show(EntryOutputs, EntryFigures(typed_, program_.session.catalogs), EntryPattern);
 }
 
 void ParametersDialog::ShowIntersections() {
@@ -87,7 +85,7 @@ void ParametersDialog::ShowIntersections() {
   const Single unitWeight = typed_.Place.UnitWeight;
   // A bad unit weight clears the entries' results and leaves the intersections' as they are.
   if (!IsUnfit(unitWeight) && !UnitWeightIsPlausible(unitWeight, Units())) return Clear(EntryOutputs);
-  Show(InterOutputs, IntersectionFigures(typed_, program_.session.catalogs), WholeNumber);
+  Show(InterOutputs, IntersectionFigures(typed_, program_.session.catalogs), IntersectionPattern);
 }
 
 }  // namespace orby

@@ -1,6 +1,8 @@
 // The parameters dialog and the design: filling the fields, and reading them back.
 #include <array>
 #include <span>
+#include <utility>
+#include <vector>
 
 #include "base/arithmetic.h"
 #include "base/attempt.h"
@@ -8,6 +10,8 @@
 #include "core/dialog_helpers.h"
 #include "design/field.h"
 #include "dialogs/parameters_dialog.h"
+#include "dialogs/shown_design.h"
+#include "files/project_lines.h"
 
 namespace orby {
 namespace {
@@ -81,39 +85,33 @@ constexpr FlagField FlagFields[] = {
     {&C::chkSecondSupInter, [](auto& d) { return &d.Intersections.Analysed; }},
 };
 
-// What becomes of a field whose number no Single holds.
-enum class Misfit { Kept, Marked };
-
-// Reads numbers into a design and remembers the first control whose number did not fit.
+// Reads numbers into the typed design, and remembers those that do not fit.
 class NumberReader {
  public:
-  explicit NumberReader(Misfit misfit) : misfit_(misfit) {}
-
-  void Read(Single& field, const TextBox& box) {
-    Take(field, box, [&box] { return ToSingle(box.Value()); });
+  void Read(Single& number, const TextBox& box) {
+    Take(number, box, [&box] { return ToSingle(box.Value()); });
   }
-  void Read(Single& field, const Combo& combo) {
-    Take(field, combo, [&combo] { return ToSingle(combo.Value()); });
+  void Read(Single& number, const Combo& combo) {
+    Take(number, combo, [&combo] { return ToSingle(combo.Value()); });
   }
-  void Read(Single& field, const Control& control, std::string_view text) {
-    Take(field, control, [text] { return ToSingle(TextValue(text)); });
+  void Read(Single& number, const Control& field, std::string_view text) {
+    Take(number, field, [text] { return ToSingle(TextValue(text)); });
   }
   // A record keeps the rating as a whole number of 16 bits.
-  void ReadRating(Single& field, const TextBox& box) {
-    Take(field, box, [&box] { return ToInteger(box.Value()); });
+  void ReadRating(Single& number, const TextBox& box) {
+    Take(number, box, [&box] { return ToInteger(box.Value()); });
   }
-  const Control* Refused() const { return refused_; }
+  std::vector<Misfit> Misfits() && { return std::move(misfits_); }
 
  private:
   template <class Reading>
-  void Take(Single& field, const Control& control, const Reading& reading) {
-    if (Succeeds([&] { field = reading(); })) return;
-    if (misfit_ == Misfit::Marked) field = Unfit;
-    if (refused_ == nullptr) refused_ = &control;
+  void Take(Single& number, const Control& field, const Reading& reading) {
+    if (Succeeds([&] { number = reading(); })) return;
+    number = Unfit;
+    misfits_.push_back({&number, &field});
   }
 
-  Misfit misfit_;
-  const Control* refused_ = nullptr;
+  std::vector<Misfit> misfits_;
 };
 
 void LoadBolt(Program& program, const BoltSelection& set, const BoltControls& bolt) {
@@ -147,29 +145,25 @@ void LoadStanding(Program& program, const StandingSelection& set, const Standing
   standing.Capacity.SetText(NumberText(set.Capacity));
 }
 
-void StoreBoltSource(BoltSelection& set, NumberReader& reader, const BoltControls& bolt) {
+void StoreBolt(BoltSelection& set, NumberReader& reader, const BoltControls& bolt) {
   const Grid& table = bolt.Table;
   set.Options = GetArrayIndex(bolt.Options);
   set.TableRow = static_cast<Integer>(table.Row() - 1);
   set.Desc = table.Cell(table.Row(), BoltColumn::Description);
   reader.Read(set.TableDiameter, table, table.Cell(table.Row(), BoltColumn::Diameter));
   reader.Read(set.TableGrade, table, table.Cell(table.Row(), BoltColumn::Grade));
+  set.DiameterMode = GetArrayIndex(bolt.DiameterMode);
+  reader.Read(set.DiameterStd, bolt.DiameterStd);
+  reader.Read(set.DiameterManual, bolt.DiameterManual);
+  set.GradeMode = GetArrayIndex(bolt.GradeMode);
+  reader.Read(set.GradeStd, bolt.GradeStd);
+  reader.Read(set.GradeManual, bolt.GradeManual);
 }
 
-// manual: the controls whose manual selection is taken.
-void StoreBoltManual(BoltSelection& set, NumberReader& reader, const BoltControls& manual) {
-  set.DiameterMode = GetArrayIndex(manual.DiameterMode);
-  reader.Read(set.DiameterStd, manual.DiameterStd);
-  reader.Read(set.DiameterManual, manual.DiameterManual);
-  set.GradeMode = GetArrayIndex(manual.GradeMode);
-  reader.Read(set.GradeStd, manual.GradeStd);
-  reader.Read(set.GradeManual, manual.GradeManual);
-}
-
-void StoreCable(CableSelection& set, NumberReader& reader, const CableControls& cable, const Combo& diameter) {
+void StoreCable(CableSelection& set, NumberReader& reader, const CableControls& cable) {
   set.CapMode = GetArrayIndex(cable.CapMode);
   set.Capacity = GetArrayIndex(cable.Capacity);
-  reader.Read(set.Diam, diameter);
+  reader.Read(set.Diam, cable.Diam);
   reader.Read(set.CapacityStd, cable.CapacityStd);
   reader.Read(set.CapacityManual, cable.CapacityManual);
 }
@@ -200,12 +194,10 @@ void StoreOutputs(SecondarySupport& support, NumberReader& reader, const OutputC
   }
 }
 
-// Stores a tab of secondary support as it is typed. Its manual bolts and its cable diameter are its own here.
-void StoreTyped(SecondarySupport& support, NumberReader& reader, const BoltControls& bolt, const CableControls& cable,
-                const StandingControls& standing, const std::array<CheckBox, SystemCount>& boxes) {
-  StoreBoltSource(support.Bolt, reader, bolt);
-  StoreBoltManual(support.Bolt, reader, bolt);
-  StoreCable(support.Cable, reader, cable, cable.Diam);
+void StoreSystems(SecondarySupport& support, NumberReader& reader, const BoltControls& bolt, const CableControls& cable,
+                  const StandingControls& standing, const std::array<CheckBox, SystemCount>& boxes) {
+  StoreBolt(support.Bolt, reader, bolt);
+  StoreCable(support.Cable, reader, cable);
   StoreStanding(support.Standing, reader, standing);
   StoreUse(support, boxes);
 }
@@ -213,7 +205,7 @@ void StoreTyped(SecondarySupport& support, NumberReader& reader, const BoltContr
 }  // namespace
 
 void ParametersDialog::ReadPart(DesignPart part) {
-  NumberReader reader(Misfit::Marked);
+  NumberReader reader;
   for (const auto& [control, field] : NumberFields[static_cast<std::size_t>(part)]) {
     reader.Read(field.In(typed_), this->*control);
   }
@@ -224,16 +216,13 @@ void ParametersDialog::ReadPart(DesignPart part) {
       reader.Read(typed_.Place.CMRR, txtCMRR);
       break;
     case DesignPart::Primary: break;
-    case DesignPart::PrimaryBolt:
-      StoreBoltSource(typed_.Primary, reader, PrimaryBoltControls);
-      StoreBoltManual(typed_.Primary, reader, PrimaryBoltControls);
-      break;
+    case DesignPart::PrimaryBolt: StoreBolt(typed_.Primary, reader, PrimaryBoltControls); break;
     case DesignPart::Entries:
-      StoreTyped(typed_.Entries, reader, EntryBoltControls, EntryCableControls, EntryStandingControls, chkSecEntries);
+      StoreSystems(typed_.Entries, reader, EntryBoltControls, EntryCableControls, EntryStandingControls, chkSecEntries);
       break;
     case DesignPart::Intersections:
-      StoreTyped(typed_.Intersections, reader, InterBoltControls, InterCableControls, InterStandingControls,
-                 chkSecInter);
+      StoreSystems(typed_.Intersections, reader, InterBoltControls, InterCableControls, InterStandingControls,
+                   chkSecInter);
       break;
   }
 }
@@ -260,65 +249,65 @@ void ParametersDialog::InitParameters() {
   AppendUnits(*this, Units());
 }
 
-const Control* ParametersDialog::StoreFields(Design& design, const BoltControls& manualEntry,
-                                             const BoltControls& manualInter) const {
-  NumberReader reader(Misfit::Kept);
-  design.Units = Units();
-  design.Basis = program_.project.WorkParms.Basis;
-  reader.ReadRating(design.Place.CMRR, txtCMRR);
-  design.Place.CMRRRegionIndex = program_.windows.estimator.EstimatorRegion;
-  design.Place.CMRRRockTypeIndex = program_.windows.estimator.EstimatorRockType;
+std::vector<Misfit> ParametersDialog::ReadFields() {
+  NumberReader reader;
+  typed_ = program_.project.WorkParms;
+  reader.ReadRating(typed_.Place.CMRR, txtCMRR);
+  typed_.Place.CMRRRegionIndex = program_.windows.estimator.EstimatorRegion;
+  typed_.Place.CMRRRockTypeIndex = program_.windows.estimator.EstimatorRockType;
   for (const auto& fields : NumberFields) {
-    for (const auto& [control, field] : fields) reader.Read(field.In(design), this->*control);
+    for (const auto& [control, field] : fields) reader.Read(field.In(typed_), this->*control);
   }
-  for (const auto& [control, field] : FlagFields) field.In(design) = (this->*control).Value();
-  StoreBoltSource(design.Primary, reader, PrimaryBoltControls);
-  StoreBoltSource(design.Entries.Bolt, reader, EntryBoltControls);
-  StoreBoltSource(design.Intersections.Bolt, reader, InterBoltControls);
-  StoreBoltManual(design.Primary, reader, PrimaryBoltControls);
-  StoreBoltManual(design.Entries.Bolt, reader, manualEntry);
-  StoreBoltManual(design.Intersections.Bolt, reader, manualInter);
-  // Both cable diameters are the entries tab's; the intersections tab's own serves the live results alone.
-  StoreCable(design.Entries.Cable, reader, EntryCableControls, cmbCableDiamSecEntry);
-  StoreCable(design.Intersections.Cable, reader, InterCableControls, cmbCableDiamSecEntry);
-  StoreStanding(design.Entries.Standing, reader, EntryStandingControls);
-  StoreStanding(design.Intersections.Standing, reader, InterStandingControls);
-  StoreUse(design.Entries, chkSecEntries);
-  StoreUse(design.Intersections, chkSecInter);
-  StoreOutputs(design.Entries, reader, EntryOutputs);
-  StoreOutputs(design.Intersections, reader, InterOutputs);
-  return reader.Refused();
+  for (const auto& [control, field] : FlagFields) field.In(typed_) = (this->*control).Value();
+  StoreBolt(typed_.Primary, reader, PrimaryBoltControls);
+  StoreBolt(typed_.Entries.Bolt, reader, EntryBoltControls);
+  StoreBolt(typed_.Intersections.Bolt, reader, InterBoltControls);
+  StoreCable(typed_.Entries.Cable, reader, EntryCableControls);
+  StoreCable(typed_.Intersections.Cable, reader, InterCableControls);
+  StoreStanding(typed_.Entries.Standing, reader, EntryStandingControls);
+  StoreStanding(typed_.Intersections.Standing, reader, InterStandingControls);
+  StoreUse(typed_.Entries, chkSecEntries);
+  StoreUse(typed_.Intersections, chkSecInter);
+  StoreOutputs(typed_.Entries, reader, EntryOutputs);
+  StoreOutputs(typed_.Intersections, reader, InterOutputs);
+  return std::move(reader).Misfits();
 }
 
-// A commit makes the intersections' manual bolts those of the entries tab.
-void ParametersDialog::ReadEdits(Design& design) const { StoreFields(design, EntryBoltControls, EntryBoltControls); }
+void ParametersDialog::ReadEdits(Design& design) {
+  ReadFields();
+  typed_ = AsCommitted(std::move(typed_));
+  for (const ProjectLine& line : ProjectLines) {
+    const auto* number = std::get_if<SingleField>(&line.Field);
+    if (number != nullptr && IsUnfit(number->In(typed_))) number->In(typed_) = number->In(design);
+  }
+  design.Support() = typed_.Support();
+}
 
-bool ParametersDialog::TakeFields(Design& design, const BoltControls& manualEntry, const BoltControls& manualInter) {
-  Design taken = design;
-  if (const Control* refused = StoreFields(taken, manualEntry, manualInter)) {
-    TellRefused(*refused);
+bool ParametersDialog::TakeFields(RoofSupport& support, Design (*step)(Design)) {
+  const std::vector<Misfit> misfits = ReadFields();
+  typed_ = step(std::move(typed_));
+  for (const Misfit& misfit : misfits) {
+    if (!IsUnfit(*misfit.number)) continue;
+    TellRefused(*misfit.field);
     return false;
   }
-  design = std::move(taken);
+  support = std::move(typed_.Support());
   return true;
 }
 
 bool ParametersDialog::MayCommit() {
-  Design design = program_.project.WorkParms;
-  return TakeFields(design, EntryBoltControls, EntryBoltControls);
+  RoofSupport committed;
+  return TakeFields(committed, AsCommitted);
 }
 
 bool ParametersDialog::SaveWorkParms() {
-  if (!TakeFields(program_.project.WorkParms, EntryBoltControls, EntryBoltControls)) return false;
+  if (!TakeFields(program_.project.WorkParms, AsCommitted)) return false;
   program_.project.FileSaved = false;
   program_.project.FileEmpty = false;
   WasCommitted = true;
   return true;
 }
 
-// A preview judges all secondary bolts with the primary tab's manual selection.
-bool ParametersDialog::CopyToWorkParmsCopy() {
-  return TakeFields(program_.windows.WorkParmsCopy, PrimaryBoltControls, PrimaryBoltControls);
-}
+bool ParametersDialog::CopyToWorkParmsCopy() { return TakeFields(program_.windows.WorkParmsCopy, AsPreviewed); }
 
 }  // namespace orby

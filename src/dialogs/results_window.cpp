@@ -91,7 +91,7 @@ void ResultsWindow::DrawChosenCurve() {
   const auto index = static_cast<Integer>(lstGraphs.Items()[static_cast<std::size_t>(lstGraphs.ListIndex())].data);
   const StepOutcome outcome = RunTrapped(program_, [&] {
     While(Act::Curve, SubjectOfCurve(index).Name, [&] {
-      TakeCurve(program_, index);
+      TakeCurve(program_, program_.windows.WorkParmsCopy, index);
       if (!graph_) graph_ = std::make_unique<GraphWindow>(program_);
       graph_->ShowCurve(index);
     });

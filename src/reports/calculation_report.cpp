@@ -12,15 +12,6 @@ namespace {
 
 constexpr std::string_view Heading = "[ORBY CALCULATIONS]";
 
-void SetPage(Program& program, std::string page) {
-  program.session.OutBuf[1] = std::move(page);
-  program.windows.LastPage = 1;
-}
-
-ReportBasis BasisOf(const Program& program) {
-  return {program.project.WorkParms.Support(), UsesAustralianTable(program.project), program.session.catalogs};
-}
-
 }  // namespace
 
 std::string CalculationReport(const RoofSupport& design, const Figures& figures) {
@@ -33,25 +24,20 @@ std::string CalculationReport(const RoofSupport& design, const Figures& figures)
   return page.Take();
 }
 
-void CalculationReport(Program& program) {
-  const Design& design = program.project.WorkParms;
-  SetPage(program, CalculationReport(design, Analyze(design, program.session.catalogs)));
+std::string CalculationReport(const RoofSupport& design, const Catalogs& catalogs) {
+  return CalculationReport(design, Analyze(design, catalogs));
 }
 
-void NoCalculationReport(Program& program) {
-  ReportText page(program.project.WorkParms.Units);
+std::string NoCalculationReport() {
+  ReportText page(English);
   page.Line(Heading);
   page.Line("The results cannot be computed from these inputs.");
-  SetPage(program, page.Take());
+  return page.Take();
 }
 
-void KeepShownResults(Program& program) { program.session.LastResults = {BasisOf(program), program.session.OutBuf[1]}; }
-
-bool RestoreShownResults(Program& program) {
-  if (!program.session.LastResults || program.session.LastResults->MadeFrom != BasisOf(program)) return false;
-  program.session.OutBuf[1] = program.session.LastResults->Page;
+void TakeCalculationPage(Program& program, std::string page) {
+  program.session.OutBuf[1] = std::move(page);
   program.windows.LastPage = 1;
-  return true;
 }
 
 }  // namespace orby

@@ -14,18 +14,12 @@ namespace orby {
 // figure of the page that cannot be computed: 11 for a pattern without row spacing or width, and for roof bolts in
 // entries that have no cable bolts, 5 for a depth of 0 or less under primary support.
 std::string CalculationReport(const RoofSupport& design, const Figures& figures);
+std::string CalculationReport(const RoofSupport& design, const Catalogs& catalogs);  // analysed with these lists
 
-// Makes the page of program.project.WorkParms program.session.OutBuf[1], replacing what was there, and the last page.
-void CalculationReport(Program& program);
+// Returns the page of a design whose calculations cannot be computed: the heading, and a line that says so.
+std::string NoCalculationReport();
 
-// Writes the page of a design whose calculations cannot be computed: the heading, and a line that says so.
-void NoCalculationReport(Program& program);
-
-// Keeps page 1, made from program.project.WorkParms, as the results that were shown last.
-void KeepShownResults(Program& program);
-
-// Makes the results that were shown last page 1 again. Returns false, and changes nothing, unless they were made from
-// the design, units, strength basis and lists that are in force now.
-bool RestoreShownResults(Program& program);
+// Puts the page into the session, as the last one of its report.
+void TakeCalculationPage(Program& program, std::string page);
 
 }  // namespace orby

@@ -314,13 +314,13 @@ std::string InputEcho(const Design& design, const EchoedProject& project, const 
   return echo.Take();
 }
 
-void LoadOutBuf0(Program& program) {
+void LoadOutBuf0(Program& program, const Design& design) {
   SaveDescription(program);
+  const Project& project = program.project;
   const bool hasHeader = program.session.options.PrintModuleHeader == 1;
-  program.session.OutBuf[0] = InputEcho(
-      program.project.WorkParms,
-      {program.project.CurrentFile, program.project.ProjectTitle, program.project.ProjectDescription, hasHeader},
-      program.session.catalogs);
+  program.session.OutBuf[0] =
+      InputEcho(design, {project.CurrentFile, project.ProjectTitle, project.ProjectDescription, hasHeader},
+                program.session.catalogs);
   program.windows.LastPage = 1;
 }
 

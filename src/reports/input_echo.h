@@ -19,9 +19,8 @@ struct EchoedProject {
 // Single.
 std::string InputEcho(const Design& design, const EchoedProject& project, const Catalogs& catalogs);
 
-// Writes the page into program.session.OutBuf[0] from program.project.WorkParms, replacing what was there, and makes
-// the page behind it the last. The description of the project is normalised on the way, in the program's state too.
-// Throws as InputEcho does.
-void LoadOutBuf0(Program& program);
+// Puts the page of these inputs into the session, replacing what was there, and makes the page after it the last. The
+// description of the project is normalised on the way, in the program's state too. Throws as InputEcho does.
+void LoadOutBuf0(Program& program, const Design& design);
 
 }  // namespace orby

@@ -37,7 +37,7 @@ TEST_F(CatalogChoice, OfTheBoltTableInEnglishUnitsIsTheEnglishOneWhateverTheSett
   for (const Integer setting : {Off, On}) {
     program.project.UseAUSStandardTable = setting;
 
-    const BoltTable& table = LoadBoltTable(program);
+    const BoltTable& table = LoadBoltTable(program.project, program.session.catalogs);
 
     EXPECT_EQ(&table, &catalogs.BoltTableENG);
     ASSERT_EQ(table.size(), 10U);
@@ -49,16 +49,16 @@ TEST_F(CatalogChoice, OfTheBoltTableInEnglishUnitsIsTheEnglishOneWhateverTheSett
 TEST_F(CatalogChoice, OfTheBoltTableInMetricUnitsFollowsTheSettingBackAndForth) {
   program.project.WorkParms.Units = Metric;
 
-  EXPECT_EQ(LoadBoltTable(program).size(), 10U);
-  EXPECT_EQ(LoadBoltTable(program)[3].Diameter, "17.2");
+  EXPECT_EQ(LoadBoltTable(program.project, program.session.catalogs).size(), 10U);
+  EXPECT_EQ(LoadBoltTable(program.project, program.session.catalogs)[3].Diameter, "17.2");
 
   program.project.UseAUSStandardTable = 1;
-  EXPECT_EQ(LoadBoltTable(program).size(), 2U);
-  EXPECT_EQ(LoadBoltTable(program)[1].Grade, "440");
+  EXPECT_EQ(LoadBoltTable(program.project, program.session.catalogs).size(), 2U);
+  EXPECT_EQ(LoadBoltTable(program.project, program.session.catalogs)[1].Grade, "440");
 
   program.project.UseAUSStandardTable = 0;
-  EXPECT_EQ(LoadBoltTable(program).size(), 10U);
-  EXPECT_EQ(&LoadBoltTable(program), &catalogs.BoltTableMET);
+  EXPECT_EQ(LoadBoltTable(program.project, program.session.catalogs).size(), 10U);
+  EXPECT_EQ(&LoadBoltTable(program.project, program.session.catalogs), &catalogs.BoltTableMET);
 }
 
 TEST_F(CatalogChoice, OfGradesFollowsUnitsAndMeaning) {

@@ -17,13 +17,13 @@ using testing::SizeIs;
 struct ACurve : testing::Test {
   RecordingPlatform platform;
   Program program{platform.Doors()};
-  Design& design = program.windows.WorkParmsCopy;
+  Design design;
 
   ACurve() { design = EnglishDesign(); }
 };
 
 TEST_F(ACurve, TellsInFixedWordsThatTheRatingWasTrimmed) {
-  TakeCurve(program, 0);
+  TakeCurve(program, design, 0);
 
   ASSERT_THAT(platform.boxes.Texts(), ElementsAre("Upper limit for CMRR trimmed to 51"));
   EXPECT_EQ(platform.boxes.shown[0].style, 0);
@@ -33,7 +33,7 @@ TEST_F(ACurve, TellsInFixedWordsThatTheRatingWasTrimmed) {
 TEST_F(ACurve, TellsThatANegativeSpanWasAdjusted) {
   design.Place.ActualSpanDiagonals = -5;
 
-  TakeCurve(program, 3);
+  TakeCurve(program, design, 3);
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Lower limit for IntersectionSpan adjusted > 0"));
 }
@@ -41,16 +41,16 @@ TEST_F(ACurve, TellsThatANegativeSpanWasAdjusted) {
 TEST_F(ACurve, TellsOfATrimmedRatingBeforeItFails) {
   design.Place.CMRR = 95;
 
-  EXPECT_EQ(ErrorNumberOf([this] { TakeCurve(program, 0); }), 9);
+  EXPECT_EQ(ErrorNumberOf([this] { TakeCurve(program, design, 0); }), 9);
 
   EXPECT_THAT(platform.boxes.Texts(), SizeIs(1));
 }
 
-TEST_F(ACurve, IsThatOfThePreviewedDesignAndNotOfTheCommittedOne) {
+TEST_F(ACurve, IsThatOfItsDesignAndNotOfTheCommittedOne) {
   program.project.WorkParms = MetricDesign();
   program.project.WorkParms.Place.CMRR = 90;
 
-  TakeCurve(program, 8);
+  TakeCurve(program, design, 8);
 
   EXPECT_EQ(program.windows.curve.CurvePoints[0][40], 60.0F);
   EXPECT_EQ(program.windows.curve.CurvePoints[1][40], 183.050446F);
@@ -58,9 +58,9 @@ TEST_F(ACurve, IsThatOfThePreviewedDesignAndNotOfTheCommittedOne) {
 }
 
 TEST_F(ACurve, ReplacesTheOneBefore) {
-  TakeCurve(program, 8);
+  TakeCurve(program, design, 8);
 
-  TakeCurve(program, 3);
+  TakeCurve(program, design, 3);
 
   EXPECT_EQ(program.windows.curve.CurvePointCount, 4);
   EXPECT_THAT(program.windows.curve.CurvePoints, ElementsAre(SizeIs(5), SizeIs(5)));
@@ -68,10 +68,10 @@ TEST_F(ACurve, ReplacesTheOneBefore) {
 }
 
 TEST_F(ACurve, ThatFailsLeavesTheOneBefore) {
-  TakeCurve(program, 3);
+  TakeCurve(program, design, 3);
   design.Place.CMRR = 95;
 
-  EXPECT_EQ(ErrorNumberOf([this] { TakeCurve(program, 0); }), 9);
+  EXPECT_EQ(ErrorNumberOf([this] { TakeCurve(program, design, 0); }), 9);
 
   EXPECT_EQ(program.windows.curve.CurvePointCount, 4);
   EXPECT_EQ(program.windows.curve.CurveIndex, 3);

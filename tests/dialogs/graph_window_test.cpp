@@ -552,7 +552,7 @@ TEST_F(GraphOfACurve, KeepsTheTitleOfTheCurveOnViewWhenAnotherCannotBeSwept) {
   program.windows.WorkParmsCopy.Place.DepthofCover = 400;
   program.windows.WorkParmsCopy.Place.ActualSpanDiagonals = 60;
   program.windows.WorkParmsCopy.Primary.StabilityFactor = 2e38F;
-  ASSERT_EQ(ErrorNumberOf([&] { TakeCurve(program, 2); }), 6);
+  ASSERT_EQ(ErrorNumberOf([&] { TakeCurve(program, program.windows.WorkParmsCopy, 2); }), 6);
 
   window.Close();
 

@@ -35,6 +35,7 @@
 #include "dialogs/options_dialog.h"
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/preview_window.h"
+#include "dialogs/project_report.h"
 #include "dialogs/resource_files.h"
 #include "dialogs/results_window.h"
 #include "dialogs/settings_dialog.h"
@@ -134,8 +135,7 @@ class Sitting {
     program_.session.options.ShowInputScreenOnLoad = 0;
     platform_.fileDialogs.answers.push_back(path);
     window_->mnuFileItem.ClickItem(file_item::Open);
-    LoadOutBuf0(program_);
-    CalculationReport(program_);
+    BuildResults(program_, program_.project.WorkParms);
     program_.windows.WorkParmsCopy = program_.project.WorkParms;
   }
   ~Sitting() { window_->Close(); }
@@ -274,7 +274,7 @@ class Sitting {
   void TakeGraphs() {
     GraphWindow graph(program_);
     for (const Integer curve : {Integer{1}, Integer{5}, Integer{8}}) {
-      TakeCurve(program_, curve);
+      TakeCurve(program_, program_.windows.WorkParmsCopy, curve);
       graph.ShowCurve(curve);
       photographer_.Take(*WindowOnScreen(graph), "graph-" + std::to_string(curve));
     }

@@ -4,12 +4,11 @@
 #include <qcustomplot.h>
 
 #include "dialogs/graph_window.h"
+#include "dialogs/project_report.h"
 #include "dialogs/results_window.h"
 #include "gui/main_bench.h"
 #include "qt/chart_view.h"
 #include "qt/surroundings.h"
-#include "reports/calculation_report.h"
-#include "reports/input_echo.h"
 
 namespace orby::test {
 
@@ -17,8 +16,7 @@ class ReportTest : public GuiTest {
  protected:
   explicit ReportTest(const RealDoors& real = {}) : GuiTest(real) {
     program.windows.WorkParmsCopy = program.project.WorkParms;
-    LoadOutBuf0(program);
-    CalculationReport(program);
+    BuildResults(program, program.project.WorkParms);
     program.session.history = {};
   }
 

@@ -14,7 +14,7 @@ TEST_P(GoldenPages, TheInputPageIsToTheLetter) {
   Desk desk(GoldenUnits(GetParam()), GoldenStrengthMode(GetParam()));
   BuildGolden(desk, GetParam());
 
-  LoadOutBuf0(desk.program);
+  LoadOutBuf0(desk.program, desk.program.project.WorkParms);
 
   EXPECT_EQ(desk.program.session.OutBuf[0], ReadTestData("reports/" + GetParam() + "_input.txt"));
 }
@@ -23,9 +23,9 @@ TEST_P(GoldenPages, TheCalculationPageIsToTheLetter) {
   Desk desk(GoldenUnits(GetParam()), GoldenStrengthMode(GetParam()));
   BuildGolden(desk, GetParam());
 
-  CalculationReport(desk.program);
-
-  EXPECT_EQ(desk.program.session.OutBuf[1], ReadTestData("reports/" + GetParam() + "_calculations.txt"));
+  const Design& design = desk.program.project.WorkParms;
+  EXPECT_EQ(CalculationReport(design, desk.program.session.catalogs),
+            ReadTestData("reports/" + GetParam() + "_calculations.txt"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Designs, GoldenPages, testing::ValuesIn(GoldenNames()),

@@ -18,7 +18,7 @@ using testing::Not;
 using testing::StartsWith;
 
 std::string InputPage(Desk& desk) {
-  LoadOutBuf0(desk.program);
+  LoadOutBuf0(desk.program, desk.program.project.WorkParms);
   return desk.program.session.OutBuf[0];
 }
 
@@ -355,7 +355,7 @@ TEST(InputEcho, AUnitSystemThatDoesNotExistEndsTheReport) {
   Desk desk;
   desk.program.project.WorkParms.Units = UnitSystem{2};
 
-  EXPECT_EQ(ErrorNumberOf([&] { LoadOutBuf0(desk.program); }), 9);
+  EXPECT_EQ(ErrorNumberOf([&] { LoadOutBuf0(desk.program, desk.program.project.WorkParms); }), 9);
 }
 
 }  // namespace

@@ -227,8 +227,9 @@ TEST(Printing, ArrangesAWholeReportOnItsSheets) {
   const std::string name = "every_system_english";
   Desk desk(GoldenUnits(name), GoldenStrengthMode(name));
   BuildGolden(desk, name);
-  LoadOutBuf0(desk.program);
-  CalculationReport(desk.program);
+  const Design& design = desk.program.project.WorkParms;
+  LoadOutBuf0(desk.program, design);
+  TakeCalculationPage(desk.program, CalculationReport(design, desk.program.session.catalogs));
 
   std::string printed;
   for (const std::string& sheet : PrintSheets(desk.program, JoinedPages(desk.program, 0, 1))) printed += sheet + "\f";

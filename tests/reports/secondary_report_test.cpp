@@ -33,13 +33,10 @@ struct SecondaryDesk : Desk {
     Parms().Primary.Analysed = 0;
   }
   Design& Parms() { return program.project.WorkParms; }
-  std::string Page() {
-    CalculationReport(program);
-    return program.session.OutBuf[1];
-  }
+  std::string Page() { return CalculationReport(Parms(), program.session.catalogs); }
   std::vector<std::string> Section(std::string_view heading) { return SectionOf(Page(), heading); }
   int Error() {
-    return ErrorNumberOf([&] { CalculationReport(program); });
+    return ErrorNumberOf([this] { Page(); });
   }
 };
 

@@ -8,12 +8,16 @@
 #include "apps/orby-cli/script_platform.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
+#include "core/messages.h"
+#include "core/shared_texts.h"
 #include "dialogs/convert_dialog.h"
-#include "dialogs/cost_dialog.h"
 #include "dialogs/curve_command.h"
 #include "dialogs/parameters_dialog.h"
+#include "dialogs/project_report.h"
+#include "dialogs/shown_design.h"
 #include "files/project_file.h"
 #include "files/project_writer.h"
+#include "reports/cost_report.h"
 #include "shell/start_up.h"
 
 namespace orby::cli {
@@ -44,8 +48,8 @@ void Print(std::string_view text) {
 }
 
 // One run of the program on one file.
-struct Session {
-  Session(ScriptPlatform& platformGiven, const Program& start, const CommandLine& lineGiven)
+struct FileRun {
+  FileRun(ScriptPlatform& platformGiven, const Program& start, const CommandLine& lineGiven)
       : platform(platformGiven), program(start), line(lineGiven) {}
 
   ScriptPlatform& platform;
@@ -54,41 +58,44 @@ struct Session {
 };
 
 // False when the file is no project.
-bool OpenProject(Session& session, const std::string& file) {
-  session.program.project.CurrentFile = file;
+bool OpenProject(FileRun& run, const std::string& file) {
+  run.program.project.CurrentFile = file;
   bool opened = false;
-  FileOpen(session.program, opened);
-  if (opened && session.line.Name) session.program.project.CurrentFile = *session.line.Name;
+  FileOpen(run.program, opened);
+  if (opened && run.line.Name) run.program.project.CurrentFile = *run.line.Name;
   return opened;
 }
 
-void SaveAs(Session& session, const std::string& file) {
-  session.program.project.CurrentFile = file;
+void SaveAs(FileRun& run, const std::string& file) {
+  run.program.project.CurrentFile = file;
   bool saved = false;
-  FileSave(session.program, saved);
+  FileSave(run.program, saved);
 }
 
-// Numbers come from the project or the catalogs here: one that a project cannot hold is no fault of what was typed.
-void BuildPages(ParametersDialog& dialog) {
-  if (!dialog.BuildReport()) throw RuntimeError(error_number::Overflow);
+// The design that Results shows of the project, once its pages are built: one whose report fails has no curves either.
+Design BuildPages(Program& program) {
+  if (!HasKnownChoices(program.project.WorkParms)) ShowMessage(program, std::string(UnknownChoice));
+  Design design = AsReported(program.project, program.session.catalogs);
+  BuildResults(program, design);
+  return design;
 }
 
-int Report(Session& session, const std::string&) {
-  ParametersDialog dialog(session.program);
-  dialog.Open();
-  if (session.line.Validate && !dialog.ValidateParameters()) return exit_code::Invalid;
-  BuildPages(dialog);
+int Report(FileRun& run, const std::string&) {
+  if (run.line.Validate) {
+    ParametersDialog dialog(run.program);
+    dialog.Open();
+    if (!dialog.ValidateParameters()) return exit_code::Invalid;
+  }
+  BuildPages(run.program);
   for (const int page : {0, 1}) {
-    if (session.line.Page.value_or(page) == page) Print(session.program.session.OutBuf[static_cast<std::size_t>(page)]);
+    if (run.line.Page.value_or(page) == page) Print(run.program.session.OutBuf[static_cast<std::size_t>(page)]);
   }
   return exit_code::Done;
 }
 
-int Cost(Session& session, const std::string&) {
-  CostDialog dialog(session.program);
-  dialog.Open();
-  dialog.BuildReport();
-  Print(session.program.session.OutBuf[1]);
+int Cost(FileRun& run, const std::string&) {
+  const Design design = InSevenDigits(run.program.project.WorkParms);
+  Print(CostReport(design.Cost, design.Units));
   return exit_code::Done;
 }
 
@@ -99,12 +106,10 @@ void AppendSingle(std::string& text, Single value) {
   text.append(digits.data(), end);
 }
 
-int CurveOf(Session& session, const std::string& number) {
-  ParametersDialog dialog(session.program);
-  dialog.Open();
-  BuildPages(dialog);
-  TakeCurve(session.program, static_cast<Integer>(number.front() - '0'));
-  const Curve& curve = session.program.windows.curve;
+int CurveOf(FileRun& run, const std::string& number) {
+  const Design design = BuildPages(run.program);
+  TakeCurve(run.program, design, static_cast<Integer>(number.front() - '0'));
+  const Curve& curve = run.program.windows.curve;
   std::string text;
   for (std::size_t i = 0; i < static_cast<std::size_t>(curve.CurvePointCount); ++i) {
     AppendSingle(text, curve.CurvePoints[0][i]);
@@ -131,8 +136,8 @@ void AppendOutput(std::string& text, const TextBox& box) {
   text += '\n';
 }
 
-int Live(Session& session, const std::string&) {
-  ParametersDialog dialog(session.program);
+int Live(FileRun& run, const std::string&) {
+  ParametersDialog dialog(run.program);
   dialog.Open();
   std::string text;
   for (const Control* control : dialog.Controls()) {
@@ -145,26 +150,26 @@ int Live(Session& session, const std::string&) {
   return exit_code::Done;
 }
 
-int Validate(Session& session, const std::string&) {
-  ParametersDialog dialog(session.program);
+int Validate(FileRun& run, const std::string&) {
+  ParametersDialog dialog(run.program);
   dialog.Open();
-  session.platform.boxes.Keeps = true;
+  run.platform.boxes.Keeps = true;
   const bool valid = dialog.ValidateParameters();
-  for (const std::string& message : session.platform.boxes.Kept) Print(message + "\n");
+  for (const std::string& message : run.platform.boxes.Kept) Print(message + "\n");
   return valid ? exit_code::Done : exit_code::Invalid;
 }
 
-int Save(Session& session, const std::string& out) {
-  SaveAs(session, out);
+int Save(FileRun& run, const std::string& out) {
+  SaveAs(run, out);
   return exit_code::Done;
 }
 
-int Convert(Session& session, const std::string& out) {
-  ConvertDialog dialog(session.program);
+int Convert(FileRun& run, const std::string& out) {
+  ConvertDialog dialog(run.program);
   dialog.Open();
   dialog.Command2.Press();
   if (dialog.Failure()) throw RuntimeError(*dialog.Failure());
-  SaveAs(session, out);
+  SaveAs(run, out);
   return exit_code::Done;
 }
 
@@ -177,7 +182,7 @@ struct Command {
   std::string_view name;
   Shape shape;
   // Runs on an opened project; extra is the word beside the file, if the command takes one.
-  int (*run)(Session& session, const std::string& extra);
+  int (*run)(FileRun& run, const std::string& extra);
 };
 
 constexpr std::array Commands{
@@ -203,9 +208,9 @@ int TellError(const RuntimeError& error) {
   return exit_code::RunTimeError;
 }
 
-int RunOnFile(const Command& command, Session session, const std::string& file, const std::string& extra) {
+int RunOnFile(const Command& command, FileRun run, const std::string& file, const std::string& extra) {
   try {
-    return OpenProject(session, file) ? command.run(session, extra) : exit_code::Refused;
+    return OpenProject(run, file) ? command.run(run, extra) : exit_code::Refused;
   } catch (const RuntimeError& error) {
     return TellError(error);
   }
@@ -224,7 +229,7 @@ int RunOnOperands(const Command& command, const CommandLine& line) {
 
   const auto& operands = line.Operands;
   const auto run = [&](const std::string& file, const std::string& extra) {
-    return RunOnFile(command, Session(platform, start, line), file, extra);
+    return RunOnFile(command, FileRun(platform, start, line), file, extra);
   };
   switch (command.shape) {
     case Shape::NumberFile: return run(operands[1], operands[0]);

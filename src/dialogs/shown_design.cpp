@@ -1,0 +1,107 @@
+#include "dialogs/shown_design.h"
+
+#include <algorithm>
+#include <array>
+
+#include "base/arithmetic.h"
+#include "dialogs/catalog_choice.h"
+#include "engine/analysis.h"
+#include "files/project_lines.h"
+
+namespace orby {
+namespace {
+
+Single AsTyped(std::string_view text) { return ToSingle(TextValue(text)); }
+
+bool IsKnown(Integer choice) { return choice == 0 || choice == 1; }
+
+bool HasKnownChoices(const BoltSelection& set) {
+  return IsKnown(set.Options) && IsKnown(set.DiameterMode) && IsKnown(set.GradeMode);
+}
+
+// Metric designs have but one way to a cable's capacity, whatever is stored.
+bool HasKnownChoices(const SecondarySupport& support, UnitSystem units) {
+  return (units == Metric || IsKnown(support.Cable.CapMode)) && IsKnown(support.Cable.Capacity) &&
+         IsKnown(support.Standing.TypeMode);
+}
+
+void TakeRow(BoltSelection& set, const BoltTable& table) {
+  if (set.TableRow < 0 || static_cast<std::size_t>(set.TableRow) >= table.size()) set.TableRow = 0;
+  const BoltTableRow& row = table[static_cast<std::size_t>(set.TableRow)];
+  set.Desc = row.Name;
+  set.TableDiameter = AsTyped(row.Diameter);
+  set.TableGrade = AsTyped(row.Grade);
+}
+
+void TakeOutputs(SecondarySupport& support, const SupportFigures& figures, const NumberPattern& pattern) {
+  const std::optional<Single> rockLoad = figures.RockLoad.ValueOr({});
+  support.RockLoad = rockLoad ? AsTyped(FormatNumber(*rockLoad, pattern)) : 0;
+  const auto systems = support.Systems();
+  for (std::size_t i = 0; i < SystemCount; ++i) {
+    const auto result = figures.Systems[i].ValueOr({});
+    systems[i]->SupportCap = result ? AsTyped(FormatNumber(result->Capacity, pattern)) : 0;
+    systems[i]->StabFactor = result ? AsTyped(FormatNumber(result->StabilityFactor, FactorPattern)) : 0;
+  }
+}
+
+void TakeManual(BoltSelection& set, const BoltSelection& manual) {
+  set.DiameterMode = manual.DiameterMode;
+  set.DiameterStd = manual.DiameterStd;
+  set.DiameterManual = manual.DiameterManual;
+  set.GradeMode = manual.GradeMode;
+  set.GradeStd = manual.GradeStd;
+  set.GradeManual = manual.GradeManual;
+}
+
+// Both cable diameters are the entries tab's; the intersections tab's own serves the live results alone.
+void TakeCableDiameter(RoofSupport& typed) { typed.Intersections.Cable.Diam = typed.Entries.Cable.Diam; }
+
+}  // namespace
+
+bool HasKnownChoices(const Design& design) {
+  return std::ranges::all_of(design.BoltSets(), [](const BoltSelection* set) { return HasKnownChoices(*set); }) &&
+         HasKnownChoices(design.Entries, design.Units) && HasKnownChoices(design.Intersections, design.Units);
+}
+
+Design InSevenDigits(Design design) {
+  for (const ProjectLine& line : ProjectLines) {
+    if (const auto* field = std::get_if<SingleField>(&line.Field)) {
+      Single& number = field->In(design);
+      number = AsTyped(NumberText(number));
+    }
+  }
+  return design;
+}
+
+Design AsShown(const Design& design, const BoltTable& table, const Catalogs& catalogs) {
+  if (!HasKnownChoices(design)) throw RuntimeError(error_number::Subscript);
+  Design shown = InSevenDigits(design);
+  shown.Place.CMRR = ToInteger(shown.Place.CMRR);
+  for (BoltSelection* set : shown.BoltSets()) TakeRow(*set, table);
+  if (shown.Units == Metric) shown.Entries.Cable.CapMode = shown.Intersections.Cable.CapMode = 1;
+
+  TakeOutputs(shown.Entries, EntryFigures(shown, catalogs), EntryPattern);
+  TakeOutputs(shown.Intersections, IntersectionFigures(shown, catalogs), IntersectionPattern);
+  return shown;
+}
+
+Design AsPreviewed(Design typed) {
+  TakeManual(typed.Entries.Bolt, typed.Primary);
+  TakeManual(typed.Intersections.Bolt, typed.Primary);
+  TakeCableDiameter(typed);
+  return typed;
+}
+
+Design AsCommitted(Design typed) {
+  TakeManual(typed.Intersections.Bolt, typed.Entries.Bolt);
+  TakeCableDiameter(typed);
+  return typed;
+}
+
+Design AsReported(const Project& project, const Catalogs& catalogs) {
+  Catalogs offered = catalogs;
+  const BoltTable& table = LoadBoltTable(project, offered);
+  return AsPreviewed(AsShown(project.WorkParms, table, offered));
+}
+
+}  // namespace orby

@@ -1,0 +1,147 @@
+// What a report takes of a stored design without a dialog is what a dialog would show of it.
+#include "dialogs/shown_design.h"
+
+#include <rapidcheck.h>
+#include <rapidcheck/gtest.h>
+
+#include <cmath>
+
+#include "base/runtime_error.h"
+#include "dialogs/catalog_choice.h"
+#include "files/project_lines.h"
+#include "parameters_fixture.h"
+
+namespace orby::test {
+namespace {
+
+// A number, a choice or a flag for each line of a project, and a text now and then.
+Design StoredDesign(const Design& start) {
+  Design design = start;
+  for (const ProjectLine& line : ProjectLines) {
+    if (*rc::gen::inRange(0, 4) != 0) continue;
+    if (const auto* single = std::get_if<SingleField>(&line.Field)) {
+      single->In(design) =
+          *rc::gen::oneOf(rc::gen::element<Single>(0, -1, 20.0F / 3, 3.4E38F, 1E-38F),
+                          rc::gen::map(rc::gen::inRange(-100, 9000), [](int n) { return static_cast<Single>(n) / 7; }));
+    } else if (const auto* integer = std::get_if<IntegerField>(&line.Field)) {
+      integer->In(design) = *rc::gen::inRange<Integer>(0, 2);
+    } else {
+      std::get<TextField>(line.Field).In(design) =
+          *rc::gen::element<std::string>("", "Stone pack", "4-point wood crib");
+    }
+  }
+  design.Place.CMRR = static_cast<Single>(*rc::gen::inRange(-5, 110));
+  for (BoltSelection* set : design.BoltSets()) set->TableRow = *rc::gen::inRange<Integer>(-2, 12);
+  return design;
+}
+
+struct Run {
+  explicit Run(UnitSystem units) {
+    SetBuiltInCatalogs(program.session.catalogs);
+    program.session.settings.UnitsDefault = units;
+    FileNew(program, true, true);
+    program.project.UseAUSStandardTable = *rc::gen::inRange<Integer>(0, 2);
+    program.project.WorkParms = StoredDesign(program.project.WorkParms);
+  }
+
+  RecordingPlatform platform;
+  Program program{platform.Doors()};
+};
+
+RC_GTEST_PROP(ReportedDesignProperty, IsWhatTheDialogWouldPreview, ()) {
+  Run run(*rc::gen::elementOf(std::vector{English, Metric}));
+  const Design reported = AsReported(run.program.project, run.program.session.catalogs);
+
+  ParametersDialog dialog(run.program);
+  dialog.Open();
+  RC_ASSERT(dialog.CopyToWorkParmsCopy());
+
+  RC_ASSERT(reported.Support() == run.program.windows.WorkParmsCopy.Support());
+}
+
+RC_GTEST_PROP(ReportedDesignProperty, CommittedIsWhatOkWouldTakeUnchanged, ()) {
+  Run run(*rc::gen::elementOf(std::vector{English, Metric}));
+  Project& project = run.program.project;
+  Catalogs& catalogs = run.program.session.catalogs;
+  const Design committed =
+      AsCommitted(AsShown(project.WorkParms, LoadBoltTable(project, catalogs), run.program.session.catalogs));
+
+  ParametersDialog dialog(run.program);
+  dialog.Open();
+  RC_ASSERT(dialog.SaveWorkParms());
+
+  RC_ASSERT(committed.Support() == project.WorkParms.Support());
+}
+
+struct AShownDesign : testing::Test {
+  AShownDesign() {
+    SetBuiltInCatalogs(program.session.catalogs);
+    FileNew(program, true, true);
+  }
+  Design Shown() { return AsShown(design, program.session.catalogs.BoltTableENG, program.session.catalogs); }
+
+  RecordingPlatform platform;
+  Program program{platform.Doors()};
+  Design& design = program.project.WorkParms;
+};
+
+TEST_F(AShownDesign, HasNumbersOfSevenDigitsAndAWholeRating) {
+  design.Place.DepthofCover = 1234.56789F;
+  design.Place.CMRR = 52.5F;
+  design.Cost.BoltCost = 20.0F / 3;
+
+  EXPECT_EQ(Shown().Place.DepthofCover, 1234.568F);
+  EXPECT_EQ(Shown().Place.CMRR, 52);
+  EXPECT_EQ(Shown().Cost.BoltCost, 6.666667F);
+}
+
+TEST_F(AShownDesign, TakesTheFirstRowForOneThatTheTableLacks) {
+  design.Primary.TableRow = 10;
+  design.Entries.Bolt.TableRow = 9;
+
+  EXPECT_EQ(Shown().Primary.TableRow, 0);
+  EXPECT_EQ(Shown().Primary.Desc, program.session.catalogs.BoltTableENG[0].Name);
+  EXPECT_EQ(Shown().Entries.Bolt.TableRow, 9);
+}
+
+TEST_F(AShownDesign, CannotBeOfAChoiceThatIsNotThere) {
+  design.Intersections.Standing.TypeMode = 2;
+
+  EXPECT_FALSE(HasKnownChoices(design));
+  EXPECT_EQ(ErrorNumberOf([this] { Shown(); }), 9);
+}
+
+TEST_F(AShownDesign, OfMetricCablesTakesAnySourceOfTheirCapacity) {
+  design.Entries.Cable.CapMode = 7;
+  EXPECT_FALSE(HasKnownChoices(design));
+
+  design.Units = Metric;
+
+  EXPECT_TRUE(HasKnownChoices(design));
+  EXPECT_EQ(Shown().Entries.Cable.CapMode, 1);
+  EXPECT_EQ(Shown().Intersections.Cable.CapMode, 1);
+}
+
+TEST_F(AShownDesign, KeepsTheRoundingOfTheOutputs) {
+  design.Intersections.Analysed = 1;
+  design.Intersections.Cable.Use = 1;
+  const SupportFigures figures = IntersectionFigures(design, program.session.catalogs);
+
+  const Single load = Shown().Intersections.RockLoad;
+
+  EXPECT_EQ(load, std::round(load));
+  EXPECT_NEAR(load, *figures.RockLoad.Value(), 0.5);
+  EXPECT_NE(load, *figures.RockLoad.Value());
+}
+
+TEST_F(AShownDesign, HasNoFiguresOfIntersectionsUnderABadUnitWeight) {
+  design.Intersections.Cable.Use = 1;
+  design.Intersections.RockLoad = 99;
+  design.Place.UnitWeight = 99;
+
+  EXPECT_EQ(Shown().Intersections.RockLoad, 0);
+  EXPECT_EQ(Shown().Intersections.Cable.StabFactor, 0);
+}
+
+}  // namespace
+}  // namespace orby::test
