@@ -15,20 +15,27 @@ GradeBasis BasisOf(const RoofSupport& design, const Catalogs& catalogs) { return
 // ---- live: the numbers as typed, in the design's units -------------------------------------------------------------
 
 SiteInputs TypedSite(const RoofSupport& design) {
-  return {Needed(design.Primary.StabilityFactor), Needed(design.Place.CMRR), Needed(design.Place.DepthofCover),
-          Needed(design.Place.ActualSpanDiagonals), Needed(design.Place.EntryWidth)};
+  return {.StabilityFactor = Needed(design.Primary.StabilityFactor),
+          .CMRR = Needed(design.Place.CMRR),
+          .Depth = Needed(design.Place.DepthofCover),
+          .Span = Needed(design.Place.ActualSpanDiagonals),
+          .Width = Needed(design.Place.EntryWidth)};
 }
 
 Bolt TypedBolt(const BoltSelection& set) {
   const Bolt bolt = SelectedBolt(set);
-  return {Needed(bolt.Diameter), Needed(bolt.Grade)};
+  return {.Diameter = Needed(bolt.Diameter), .Grade = Needed(bolt.Grade)};
 }
 
-BoltPattern TypedPattern(const RoofSupport& design) {
+PatternInputs TypedPattern(const RoofSupport& design) {
   const PrimarySupport& primary = design.Primary;
   const Bolt bolt = TypedBolt(primary);
-  return {Needed(primary.Length),     Needed(primary.BoltsperRow),    bolt.Diameter, bolt.Grade,
-          Needed(primary.RowSpacing), Needed(design.Place.EntryWidth)};
+  return {.Length = Needed(primary.Length),
+          .BoltsPerRow = Needed(primary.BoltsperRow),
+          .Diameter = bolt.Diameter,
+          .Grade = bolt.Grade,
+          .RowSpacing = Needed(primary.RowSpacing),
+          .EntryWidth = Needed(design.Place.EntryWidth)};
 }
 
 RockInputs EntryRock(const RoofSupport& design) {
@@ -42,8 +49,12 @@ RockInputs EntryRock(const RoofSupport& design) {
 
 RockInputs IntersectionRock(const RoofSupport& design) {
   const SecondarySupport& support = design.Intersections;
-  return {Needed(design.Place.UnitWeight),   Needed(support.RockLoadHeight),  Needed(support.RockFallAngle),
-          Needed(support.RockFallAngleXcut), Needed(design.Place.EntryWidth), Needed(design.Place.ActualSpanDiagonals)};
+  return {.UnitWeight = Needed(design.Place.UnitWeight),
+          .Height = Needed(support.RockLoadHeight),
+          .EntryAngle = Needed(support.RockFallAngle),
+          .CrosscutAngle = Needed(support.RockFallAngleXcut),
+          .Width = Needed(design.Place.EntryWidth),
+          .Span = Needed(design.Place.ActualSpanDiagonals)};
 }
 
 // Of one cable, in the design's units.
@@ -61,52 +72,59 @@ std::optional<SupportResult> CablesInEntry(const RoofSupport& design, const Cata
   const CableSelection& cable = design.Entries.Cable;
   if (Needed(cable.RowSpacing) == 0) return std::nullopt;
   const Single capacity = CapacityOf(cable, design.Units, catalogs);
-  return SupportEntry(rockLoad, CountedSystem{capacity, Needed(cable.BoltsPerRow), cable.RowSpacing});
+  return SupportEntry(
+      rockLoad, CountedSystem{.Capacity = capacity, .Count = Needed(cable.BoltsPerRow), .Spacing = cable.RowSpacing});
 }
 
 // The standing supports' spacing decides on the trusses too: at 0 their last figures stay.
 std::optional<SupportResult> TrussesInEntry(const RoofSupport& design, const Catalogs&, Single rockLoad) {
   const TrussSelection& truss = design.Entries.Truss;
   if (Needed(design.Entries.Standing.RowSpacing) == 0) return std::nullopt;
-  return SupportEntry(rockLoad, TrussSystem{Needed(truss.Capacity), Needed(truss.Angle), 0, Needed(truss.Spacing)});
+  return SupportEntry(
+      rockLoad,
+      TrussSystem{.Capacity = Needed(truss.Capacity), .Angle = Needed(truss.Angle), .Spacing = Needed(truss.Spacing)});
 }
 
 std::optional<SupportResult> BoltsInEntry(const RoofSupport& design, const Catalogs& catalogs, Single rockLoad) {
   const SecondaryBolts& bolts = design.Entries.Bolt;
   if (Needed(bolts.BoltsperRow) == 0) return std::nullopt;
-  return SupportEntry(rockLoad, BoltSystem{TypedBolt(bolts), bolts.BoltsperRow, Needed(bolts.RowSpacing)}, design.Units,
-                      BasisOf(design, catalogs));
+  return SupportEntry(
+      rockLoad, BoltSystem{.Bolts = TypedBolt(bolts), .Count = bolts.BoltsperRow, .Spacing = Needed(bolts.RowSpacing)},
+      design.Units, BasisOf(design, catalogs));
 }
 
 std::optional<SupportResult> StandingInEntry(const RoofSupport& design, const Catalogs&, Single rockLoad) {
   const StandingSelection& standing = design.Entries.Standing;
   if (Needed(standing.RowSpacing) == 0) return std::nullopt;
-  return SupportEntry(rockLoad,
-                      CountedSystem{Needed(standing.Capacity), Needed(standing.NumberPerRow), standing.RowSpacing});
+  return SupportEntry(rockLoad, CountedSystem{.Capacity = Needed(standing.Capacity),
+                                              .Count = Needed(standing.NumberPerRow),
+                                              .Spacing = standing.RowSpacing});
 }
 
 std::optional<SupportResult> CablesInIntersection(const RoofSupport& design, const Catalogs& catalogs,
                                                   Single rockLoad) {
   const CableSelection& cable = design.Intersections.Cable;
   const Single capacity = CapacityOf(cable, design.Units, catalogs);
-  return SupportIntersection(rockLoad, CountedSystem{capacity, Needed(cable.Number), 0});
+  return SupportIntersection(rockLoad, CountedSystem{.Capacity = capacity, .Count = Needed(cable.Number)});
 }
 
 std::optional<SupportResult> TrussesInIntersection(const RoofSupport& design, const Catalogs&, Single rockLoad) {
   const TrussSelection& truss = design.Intersections.Truss;
-  return SupportIntersection(rockLoad,
-                             TrussSystem{Needed(truss.Capacity), Needed(truss.Angle), Needed(truss.Number), 0});
+  return SupportIntersection(
+      rockLoad,
+      TrussSystem{.Capacity = Needed(truss.Capacity), .Angle = Needed(truss.Angle), .Count = Needed(truss.Number)});
 }
 
 std::optional<SupportResult> BoltsInIntersection(const RoofSupport& design, const Catalogs& catalogs, Single rockLoad) {
   const SecondaryBolts& bolts = design.Intersections.Bolt;
-  return SupportIntersection(rockLoad, BoltSystem{TypedBolt(bolts), Needed(bolts.Number), 0}, design.Units,
-                             BasisOf(design, catalogs));
+  return SupportIntersection(rockLoad, BoltSystem{.Bolts = TypedBolt(bolts), .Count = Needed(bolts.Number)},
+                             design.Units, BasisOf(design, catalogs));
 }
 
 std::optional<SupportResult> StandingInIntersection(const RoofSupport& design, const Catalogs&, Single rockLoad) {
   const StandingSelection& standing = design.Intersections.Standing;
-  return SupportIntersection(rockLoad, CountedSystem{Needed(standing.Capacity), Needed(standing.Number), 0});
+  return SupportIntersection(rockLoad,
+                             CountedSystem{.Capacity = Needed(standing.Capacity), .Count = Needed(standing.Number)});
 }
 
 constexpr SystemRules EntryRules{CablesInEntry, TrussesInEntry, BoltsInEntry, StandingInEntry};
@@ -126,10 +144,10 @@ SystemFigures JudgeSystems(const RoofSupport& design, const Catalogs& catalogs, 
 
 // ---- the report: English working numbers ---------------------------------------------------------------------------
 
-Bolt WorkingBolt(const BoltSelection& set, UnitSystem units) {
+WorkingBolt ReportedBolt(const BoltSelection& set, UnitSystem units) {
   const Bolt bolt = SelectedBolt(set);
-  if (units != Metric) return bolt;
-  return {ToSingle(bolt.Diameter / MillimetresPerInch), ToSingle(bolt.Grade / MPaPerKsi)};
+  if (units != Metric) return {Inches(bolt.Diameter), Ksi(bolt.Grade)};
+  return {Inches(ToSingle(bolt.Diameter / MillimetresPerInch)), Ksi(ToSingle(bolt.Grade / MPaPerKsi))};
 }
 
 // Of one cable in tons. The catalog is asked in the design's units.
@@ -142,20 +160,28 @@ Single WorkingCapacity(const CableSelection& cable, UnitSystem units, const Cata
 WorkingNumbers WorkingNumbersOf(const RoofSupport& design, const Catalogs& catalogs) {
   constexpr double KipsPerTon = 2;
   const auto feet = [&](Single length) { return InFeet(length, design.Units); };
-  const Single width = feet(design.Place.EntryWidth);
-  const auto pattern = [&](const BoltSelection& set, const Bolt& bolt) {
-    return BoltPattern{feet(set.Length), set.BoltsperRow, bolt.Diameter, bolt.Grade, feet(set.RowSpacing), width};
+  const Feet width = feet(design.Place.EntryWidth);
+  const auto pattern = [&](const BoltSelection& set) {
+    const WorkingBolt bolt = ReportedBolt(set, design.Units);
+    return BoltPattern{.Length = feet(set.Length),
+                       .BoltsPerRow = set.BoltsperRow,
+                       .Diameter = bolt.Diameter,
+                       .Grade = bolt.Grade,
+                       .RowSpacing = feet(set.RowSpacing),
+                       .EntryWidth = width};
   };
   WorkingNumbers working;
   working.Depth = feet(design.Place.DepthofCover);
   working.Span = feet(design.Place.ActualSpanDiagonals);
-  working.Primary = pattern(design.Primary, WorkingBolt(design.Primary, design.Units));
-  working.EntryBolts = pattern(design.Entries.Bolt, WorkingBolt(design.Entries.Bolt, design.Units));
-  working.IntersectionBolt = WorkingBolt(design.Intersections.Bolt, design.Units);
+  working.Primary = pattern(design.Primary);
+  working.EntryBolts = pattern(design.Entries.Bolt);
+  working.IntersectionBolt = ReportedBolt(design.Intersections.Bolt, design.Units);
   const CableSelection& cable = design.Entries.Cable;
-  working.EntryCables = {feet(cable.Length), cable.BoltsPerRow,
-                         ToSingle(KipsPerTon * WorkingCapacity(cable, design.Units, catalogs)), feet(cable.RowSpacing),
-                         cable.Use == 1 ? width : 0};
+  working.EntryCables = {.Length = feet(cable.Length),
+                         .UnitsPerRow = cable.BoltsPerRow,
+                         .Capacity = ToSingle(KipsPerTon * WorkingCapacity(cable, design.Units, catalogs)),
+                         .RowSpacing = feet(cable.RowSpacing),
+                         .EntryWidth = cable.Use == 1 ? width : Feet()};
   return working;
 }
 
@@ -175,9 +201,9 @@ PrimaryFigures PrimaryOf(const RoofSupport& design, const Catalogs& catalogs, co
   figures.RDI = BoltRDI(bolts, basis);
   figures.PRSUP = BoltPRSUP(bolts, basis);
   figures.Capacity = ReportedCapacity(bolts, design, catalogs);
-  figures.Length = JudgeLength(design.Primary.Length, suggested.SugLength, design.Units);
-  figures.Psup = JudgePsup(suggested.SugPSUP, figures.ActualPSUP);
-  figures.FailsASTM = FailsASTM({bolts.Diameter, bolts.Grade}, design.Units);
+  figures.Length = JudgeLength({.Actual = design.Primary.Length, .Suggested = suggested.SugLength}, design.Units);
+  figures.Psup = JudgePsup({.Actual = figures.ActualPSUP, .Suggested = suggested.SugPSUP});
+  figures.FailsASTM = FailsASTM({.Diameter = bolts.Diameter, .Grade = bolts.Grade}, design.Units);
   return figures;
 }
 
@@ -201,7 +227,7 @@ Reinforcement ReinforcementUnder(Single highest, const SecondarySupport& support
 
 Reinforcement EntryReinforcementOf(const RoofSupport& design, const Catalogs& catalogs, const WorkingNumbers& working) {
   const SecondarySupport& support = design.Entries;
-  const Single highest = MaxRockHeightEntry(design.Place.EntryWidth, support.RockFallAngle);
+  const Single highest = MaxRockHeightEntry(design.Place.EntryWidth, FallAngle(support.RockFallAngle));
   Reinforcement figures = ReinforcementUnder(highest, support, design);
   if (support.Cable.Use == 1) {
     // The PRSUP goes by the length of the primary bolts.
@@ -213,19 +239,23 @@ Reinforcement EntryReinforcementOf(const RoofSupport& design, const Catalogs& ca
   if (support.Bolt.Use == 1) {
     const BoltPattern& bolts = working.EntryBolts;
     // The SRDI takes the width that cable bolts bring along: without them it is a division by zero.
-    figures.BoltSRDI =
-        BoltSRDI({bolts.Length, bolts.BoltsPerRow, UltimateCapacity(bolts.Grade, bolts.Diameter, catalogs) / 2,
-                  bolts.RowSpacing, working.EntryCables.EntryWidth});
+    figures.BoltSRDI = BoltSRDI({.Length = bolts.Length,
+                                 .UnitsPerRow = bolts.BoltsPerRow,
+                                 .Capacity = UltimateCapacity(bolts.Grade, bolts.Diameter, catalogs) / 2,
+                                 .RowSpacing = bolts.RowSpacing,
+                                 .EntryWidth = working.EntryCables.EntryWidth});
     figures.BoltPRSUP = BoltPRSUP(bolts, BasisOf(design, catalogs));
-    figures.BoltsFailASTM = FailsASTM({bolts.Diameter, bolts.Grade}, design.Units);
+    figures.BoltsFailASTM = FailsASTM({.Diameter = bolts.Diameter, .Grade = bolts.Grade}, design.Units);
   }
   return figures;
 }
 
 Reinforcement IntersectionReinforcementOf(const RoofSupport& design, const WorkingNumbers& working) {
   const SecondarySupport& support = design.Intersections;
-  const Single highest = MaxRockHeightIntersection(support.RockLoadHeight, design.Place.ActualSpanDiagonals,
-                                                   support.RockFallAngle, support.RockFallAngleXcut);
+  const Single highest = MaxRockHeightIntersection({.Height = support.RockLoadHeight,
+                                                    .Span = design.Place.ActualSpanDiagonals,
+                                                    .EntryAngle = FallAngle(support.RockFallAngle),
+                                                    .CrosscutAngle = FallAngle(support.RockFallAngleXcut)});
   Reinforcement figures = ReinforcementUnder(highest, support, design);
   if (support.Bolt.Use == 1) figures.BoltsFailASTM = FailsASTM(working.IntersectionBolt, design.Units);
   return figures;

@@ -51,11 +51,11 @@ struct Reinforcement {
 
 // What the report computes from, in English units whatever the design's are.
 struct WorkingNumbers {
-  Single Depth = 0;  // ft
-  Single Span = 0;   // ft
+  Feet Depth{};
+  Feet Span{};
   BoltPattern Primary{};
   BoltPattern EntryBolts{};
-  Bolt IntersectionBolt{};       // in, ksi
+  WorkingBolt IntersectionBolt{};
   SupportPattern EntryCables{};  // its width is 0 in a design without cables in entries
 };
 

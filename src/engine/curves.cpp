@@ -67,7 +67,9 @@ Range SpanRange(WorkingValues& values) {
   return range;
 }
 
-Range EntryHeightRange(WorkingValues& values) { return {2, MaxRockHeightEntry(values.Width, values.Angle), FineStep}; }
+Range EntryHeightRange(WorkingValues& values) {
+  return {2, MaxRockHeightEntry(values.Width, FallAngle(values.Angle)), FineStep};
+}
 
 Range WidthRange(WorkingValues& values) { return Around(values.Width, 0.7, 1.3, FineStep); }
 
@@ -75,23 +77,37 @@ Range AngleRange(WorkingValues& values) { return Around(values.Angle, 0.5, 1.5, 
 
 // The entry width stands in for the height to be limited, so the sweep ends there at most.
 Range IntersectionHeightRange(WorkingValues& values) {
-  return {2, MaxRockHeightIntersection(values.Width, values.Span, values.Angle, values.Angle), FineStep};
+  const FallAngle angle(values.Angle);
+  const RockAtCrossing rock{.Height = values.Width, .Span = values.Span, .EntryAngle = angle, .CrosscutAngle = angle};
+  return {2, MaxRockHeightIntersection(rock), FineStep};
 }
 
 Range FixedSpanRange(WorkingValues&) { return {40, 80, FineStep}; }
 
 Single SupportOf(WorkingValues& values) {
-  return SuggestedPSUP(values.StabilityFactor, values.SuggestedSpan, values.Span, values.Depth, values.CMRR);
+  const WorkingSite site{.StabilityFactor = values.StabilityFactor,
+                         .CMRR = values.CMRR,
+                         .Depth = Feet(values.Depth),
+                         .Span = Feet(values.Span)};
+  return SuggestedPSUP(site, Feet(values.SuggestedSpan));
+}
+
+WorkingRock RockOf(const WorkingValues& values) {
+  return {.UnitWeight = Pcf(values.UnitWeight),
+          .Height = Feet(values.Height),
+          .Angle = FallAngle(values.Angle),
+          .Width = Feet(values.Width),
+          .Span = Feet(values.Span)};
 }
 
 // A height that is limited stays so for the points that follow, unless the height is what is swept.
 Single EntryLoadOf(WorkingValues& values) {
-  return RockLoadEntry(values.Angle, values.Width, values.UnitWeight, values.Height);
+  const LimitedLoad entry = RockLoadEntry(RockOf(values));
+  values.Height = entry.Height.Value;
+  return entry.Load;
 }
 
-Single IntersectionLoadOf(WorkingValues& values) {
-  return RockLoadIntersection(values.Angle, values.Span, values.UnitWeight, values.Height);
-}
+Single IntersectionLoadOf(WorkingValues& values) { return RockLoadIntersection(RockOf(values)); }
 
 struct FigureRule {
   Single (*result)(WorkingValues& values);
@@ -140,14 +156,14 @@ WorkingValues WorkingValuesOf(const RoofSupport& design) {
   const UnitSystem units = design.Units;
   const double weightFactor = units == Metric ? PcfPerKilonewtonCubicMetre : 1;
   return {static_cast<Single>(design.Place.CMRR),
-          InFeet(design.Place.DepthofCover, units),
+          InFeet(design.Place.DepthofCover, units).Value,
           design.Primary.StabilityFactor,
-          InFeet(design.Place.ActualSpanDiagonals, units),
-          InFeet(design.Place.EntryWidth, units),
-          InFeet(design.Entries.RockLoadHeight, units),
+          InFeet(design.Place.ActualSpanDiagonals, units).Value,
+          InFeet(design.Place.EntryWidth, units).Value,
+          InFeet(design.Entries.RockLoadHeight, units).Value,
           design.Entries.RockFallAngle,
           ToSingle(design.Place.UnitWeight * weightFactor),
-          SuggestedSumDiagonals(design.Place.CMRR)};
+          SuggestedSumDiagonals(design.Place.CMRR).Value};
 }
 
 Single InProjectUnits(Single value, Measure measure, UnitSystem units) {

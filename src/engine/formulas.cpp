@@ -14,7 +14,7 @@ constexpr Single LengthFloor = 4;
 constexpr double IndexPerDensity = 14.5;  // support density to reinforcement density index
 constexpr Single UnlimitedHeight = 100;
 
-double AreaTimesGrade(Single grade, Single diameter) { return grade * Pi / 4 * Square(diameter); }
+double AreaTimesGrade(Ksi grade, Inches diameter) { return grade.Value * Pi / 4 * Square(diameter.Value); }
 
 double Ultimate(double yield) { return 0.9 * yield + 35; }
 double Yield(double ultimate) { return (ultimate - 35) / 0.9; }
@@ -37,85 +37,96 @@ double Density(double length, double count, double capacity, double spacing, dou
   return Divide(length * count * capacity, spacing * width);
 }
 
+// With the capacity of one bolt.
+double Density(const BoltPattern& pattern, Single capacity) {
+  return Density(pattern.Length.Value, pattern.BoltsPerRow, capacity, pattern.RowSpacing.Value,
+                 pattern.EntryWidth.Value);
+}
+
+// With a length that may differ from that of the pattern.
+double Density(const SupportPattern& pattern, double length) {
+  return Density(length, pattern.UnitsPerRow, pattern.Capacity, pattern.RowSpacing.Value, pattern.EntryWidth.Value);
+}
+
 double UltimateDensity(const BoltPattern& pattern, const GradeBasis& basis) {
   const Single capacity = basis.Strength == StrengthBasis::Yield
                               ? UltimateCapacity(pattern.Grade, pattern.Diameter, basis.catalogs)
                               : CapacityFromGrade(pattern.Grade, pattern.Diameter);
-  return Density(pattern.Length, pattern.BoltsPerRow, capacity, pattern.RowSpacing, pattern.EntryWidth);
+  return Density(pattern, capacity);
 }
 
 }  // namespace
 
-Single SuggestedSumDiagonals(Single cmrr) { return ToSingle(0.38 * cmrr + 46.1); }
+Feet SuggestedSumDiagonals(Single cmrr) { return Feet(ToSingle(0.38 * cmrr + 46.1)); }
 
-Single MinimumSumDiagonals(Single width, UnitSystem units) {
+Feet MinimumSumDiagonals(Feet width, UnitSystem units) {
   const double margin = units == Metric ? 13.123359580052492 : 4;
-  return ToSingle(SquareRoot(2 * Square(width)) + margin);
+  return Feet(ToSingle(SquareRoot(2 * Square(width.Value)) + margin));
 }
 
-Single SuggestedPSUP(Single stabilityFactor, Single suggestedSpan, Single actualSpan, Single depth, Single cmrr) {
-  if (cmrr <= 20) return PsupFloor;
-  if (depth <= 0) return 0;
-  const double suggestedSquare = Square(suggestedSpan);
-  const double spanRatio = Divide(Square(actualSpan) - suggestedSquare, suggestedSquare) + 1;
-  const double demand = 4.95 * Logarithm(depth) - 17.9 * Logarithm(cmrr - 20.0) + 36.4;
-  const Single psup = ToSingle(spanRatio * stabilityFactor * demand);
+Single SuggestedPSUP(const WorkingSite& site, Feet suggestedSpan) {
+  if (site.CMRR <= 20) return PsupFloor;
+  if (site.Depth.Value <= 0) return 0;
+  const double suggestedSquare = Square(suggestedSpan.Value);
+  const double spanRatio = Divide(Square(site.Span.Value) - suggestedSquare, suggestedSquare) + 1;
+  const double demand = 4.95 * Logarithm(site.Depth.Value) - 17.9 * Logarithm(site.CMRR - 20.0) + 36.4;
+  const Single psup = ToSingle(spanRatio * site.StabilityFactor * demand);
   return psup < PsupFloor ? PsupFloor : psup;
 }
 
-Single SuggestedBoltLength(Single actualSpan, Single depth, Single cmrr) {
-  const double weakness = (100.0 - cmrr) / 100;
-  const Single logDepth = Log10(depth);
+Feet SuggestedBoltLength(const WorkingSite& site) {
+  const double weakness = (100.0 - site.CMRR) / 100;
+  const Single logDepth = Log10(site.Depth.Value);
   if (weakness < 0) throw RuntimeError(error_number::BadCall);
-  const Single length = ToSingle(actualSpan / 13.0 * logDepth * std::pow(weakness, 1.5));
-  return length < LengthFloor ? LengthFloor : length;
+  const Single length = ToSingle(site.Span.Value / 13.0 * logDepth * std::pow(weakness, 1.5));
+  return Feet(length < LengthFloor ? LengthFloor : length);
 }
 
-Single UltimateFromYieldKsi(Single grade, const Catalogs& catalogs) {
-  const int index = FirstMatch(catalogs.DefaultBoltGradeArrayENG, grade);
-  return index == NotFound ? ToSingle(Ultimate(grade)) : Paired(catalogs.DefaultBoltUTSArrayENG, index);
+Ksi UltimateFromYieldKsi(Ksi grade, const Catalogs& catalogs) {
+  const int index = FirstMatch(catalogs.DefaultBoltGradeArrayENG, grade.Value);
+  return Ksi(index == NotFound ? ToSingle(Ultimate(grade.Value)) : Paired(catalogs.DefaultBoltUTSArrayENG, index));
 }
 
-Single YieldFromUltimateKsi(Single grade, const Catalogs& catalogs) {
-  const int index = FirstMatch(catalogs.DefaultBoltUTSArrayENG, grade);
-  return index == NotFound ? ToSingle(Yield(grade)) : Paired(catalogs.DefaultBoltGradeArrayENG, index);
+Ksi YieldFromUltimateKsi(Ksi grade, const Catalogs& catalogs) {
+  const int index = FirstMatch(catalogs.DefaultBoltUTSArrayENG, grade.Value);
+  return Ksi(index == NotFound ? ToSingle(Yield(grade.Value)) : Paired(catalogs.DefaultBoltGradeArrayENG, index));
 }
 
-Single YieldFromUltimateMPa(Single grade, const Catalogs& catalogs) {
-  const int index = FirstMatch(catalogs.DefaultBoltUTSArrayMET, grade);
-  return index == NotFound ? ToSingle(Yield(grade / MPaPerKsi) * MPaPerKsi)
-                           : Paired(catalogs.DefaultBoltGradeArrayMET, index);
+MPa YieldFromUltimateMPa(MPa grade, const Catalogs& catalogs) {
+  const int index = FirstMatch(catalogs.DefaultBoltUTSArrayMET, grade.Value);
+  return MPa(index == NotFound ? ToSingle(Yield(grade.Value / MPaPerKsi) * MPaPerKsi)
+                               : Paired(catalogs.DefaultBoltGradeArrayMET, index));
 }
 
-Single CapacityFromGrade(Single grade, Single diameter) { return ToSingle(AreaTimesGrade(grade, diameter)); }
+Single CapacityFromGrade(Ksi grade, Inches diameter) { return ToSingle(AreaTimesGrade(grade, diameter)); }
 
-Single UltimateCapacity(Single grade, Single diameter, const Catalogs& catalogs) {
+Single UltimateCapacity(Ksi grade, Inches diameter, const Catalogs& catalogs) {
   return CapacityFromGrade(UltimateFromYieldKsi(grade, catalogs), diameter);
 }
 
-Single YieldCapacity(Single grade, Single diameter, const Catalogs& catalogs) {
+Single YieldCapacity(Ksi grade, Inches diameter, const Catalogs& catalogs) {
   return CapacityFromGrade(YieldFromUltimateKsi(grade, catalogs), diameter);
 }
 
-Single CapacityKN(Single grade, Single diameter) {
+Single CapacityKN(Ksi grade, Inches diameter) {
   return ToSingle(AreaTimesGrade(grade, diameter) * KilonewtonsPerPound * 1000);
 }
 
-Single UltimateCapacityKN(Single grade, Single diameter, const Catalogs& catalogs) {
+Single UltimateCapacityKN(Ksi grade, Inches diameter, const Catalogs& catalogs) {
   return CapacityKN(UltimateFromYieldKsi(grade, catalogs), diameter);
 }
 
-Single BoltCapacityCheck(Single grade, Single diameter, UnitSystem units) {
-  const double square = Square(diameter);
-  if (units == Metric) return ToSingle(square * (grade * 1000.0) * Pi / 4 * KilonewtonsPerPound);
-  return ToSingle(square * (grade * 1000.0 / PoundsPerTon) * Pi / 4);
+Single BoltCapacityCheck(Ksi grade, Inches diameter, UnitSystem units) {
+  const double square = Square(diameter.Value);
+  if (units == Metric) return ToSingle(square * (grade.Value * 1000.0) * Pi / 4 * KilonewtonsPerPound);
+  return ToSingle(square * (grade.Value * 1000.0 / PoundsPerTon) * Pi / 4);
 }
 
 Single ActualPSUP(const BoltPattern& pattern, const GradeBasis& basis) {
   const Single capacity = basis.Strength == StrengthBasis::Yield
                               ? CapacityFromGrade(pattern.Grade, pattern.Diameter)
                               : YieldCapacity(pattern.Grade, pattern.Diameter, basis.catalogs);
-  return ToSingle(Density(pattern.Length, pattern.BoltsPerRow, capacity, pattern.RowSpacing, pattern.EntryWidth));
+  return ToSingle(Density(pattern, capacity));
 }
 
 Single BoltPRSUP(const BoltPattern& pattern, const GradeBasis& basis) {
@@ -126,62 +137,58 @@ Single BoltRDI(const BoltPattern& pattern, const GradeBasis& basis) {
   return ToSingle(UltimateDensity(pattern, basis) * IndexPerDensity);
 }
 
-Single CablePRSUP(const SupportPattern& pattern) {
-  return ToSingle(
-      Density(pattern.Length, pattern.UnitsPerRow, pattern.Capacity, pattern.RowSpacing, pattern.EntryWidth));
-}
+Single CablePRSUP(const SupportPattern& pattern) { return ToSingle(Density(pattern, pattern.Length.Value)); }
 
 Single CableSRDI(const SupportPattern& pattern) {
   constexpr double AnchorLoss = 0.33;  // ft
-  return ToSingle(Density(pattern.Length - AnchorLoss, pattern.UnitsPerRow, pattern.Capacity, pattern.RowSpacing,
-                          pattern.EntryWidth) *
-                  IndexPerDensity);
+  return ToSingle(Density(pattern, pattern.Length.Value - AnchorLoss) * IndexPerDensity);
 }
 
 Single BoltSRDI(const SupportPattern& pattern) {
-  return ToSingle(
-      Density(pattern.Length, pattern.UnitsPerRow, pattern.Capacity, pattern.RowSpacing, pattern.EntryWidth) *
-      IndexPerDensity);
+  return ToSingle(Density(pattern, pattern.Length.Value) * IndexPerDensity);
 }
 
-Single RockLoadEntry(Single angle, Single width, Single unitWeight, Single& height) {
-  const double tangent = std::tan(angle * RadiansPerDegree);
+LimitedLoad RockLoadEntry(const WorkingRock& rock) {
+  const Single width = rock.Width.Value;
+  Single height = rock.Height.Value;
+  const double tangent = std::tan(rock.Angle.Value * RadiansPerDegree);
   const double top = width - 2.0 * height * tangent;
   double area = 0;
   if (top >= 0) {
     area = (top + width) / 2 * height;
-  } else if (angle != 0) {
+  } else if (rock.Angle.Value != 0) {
     height = ToSingle(Divide(width, 2 * tangent));
     area = static_cast<double>(height) * width / 2;
   }
-  const double load = area * unitWeight / PoundsPerTon;
-  return load <= 0 ? 0 : ToSingle(load);
+  const double load = area * rock.UnitWeight.Value / PoundsPerTon;
+  return {load <= 0 ? 0 : ToSingle(load), Feet(height)};
 }
 
 double SideOfSpan(Single span) { return SquareRoot(Square(span / 2.0) / 2); }
 
-Single RockLoadIntersection(Single angle, Single span, Single unitWeight, Single height) {
-  const double side = SideOfSpan(span);
-  const double top = side - 2.0 * height * std::tan(angle * RadiansPerDegree);
+Single RockLoadIntersection(const WorkingRock& rock) {
+  const Single height = rock.Height.Value;
+  const double side = SideOfSpan(rock.Span.Value);
+  const double top = side - 2.0 * height * std::tan(rock.Angle.Value * RadiansPerDegree);
   if (top < 0) return 0;
   const double volume = (Square(side) + top * top + (side * top + side * top) / 2) * height / 3;
-  const double load = volume * unitWeight / PoundsPerTon;
+  const double load = volume * rock.UnitWeight.Value / PoundsPerTon;
   return load < 0 ? 0 : ToSingle(load);
 }
 
-Single MaxRockHeightEntry(Single width, Single angle) {
-  return ToSingle(Divide(width / 2.0, std::tan(angle * RadiansPerDegree)));
+Single MaxRockHeightEntry(Single width, FallAngle angle) {
+  return ToSingle(Divide(width / 2.0, std::tan(angle.Value * RadiansPerDegree)));
 }
 
-Single MaxRockHeightIntersection(Single height, Single span, Single entryAngle, Single crosscutAngle) {
-  const double side = SideOfSpan(span);
-  const auto limit = [&](Single angle) {
-    if (angle == 0) return UnlimitedHeight;
-    return ToSingle(Divide(side, 2 * std::tan(entryAngle * RadiansPerDegree)));
+Single MaxRockHeightIntersection(const RockAtCrossing& rock) {
+  const double side = SideOfSpan(rock.Span);
+  const auto limit = [&](FallAngle angle) {
+    if (angle.Value == 0) return UnlimitedHeight;
+    return ToSingle(Divide(side, 2 * std::tan(rock.EntryAngle.Value * RadiansPerDegree)));
   };
-  const Single entryLimit = limit(entryAngle);
-  const Single crosscutLimit = limit(crosscutAngle);
-  return MinOf(MinOf(height, entryLimit), crosscutLimit);
+  const Single entryLimit = limit(rock.EntryAngle);
+  const Single crosscutLimit = limit(rock.CrosscutAngle);
+  return MinOf(MinOf(rock.Height, entryLimit), crosscutLimit);
 }
 
 Single CableCapacityFromDiameter(Single diameter, UnitSystem units, const Catalogs& catalogs) {

@@ -1,14 +1,15 @@
 // The empirical relations of roof support design, as pure functions.
 //
 // Working units are English throughout: ft, in, ksi, tons, kips, pcf; callers convert Metric input first. Every
-// function takes Singles, computes in double precision and rounds once at its return. Nothing is caught: a division by
-// zero throws RuntimeError 11, a logarithm of a value not above zero RuntimeError 5, a result beyond a Single
-// RuntimeError 6.
+// function takes numbers of single precision, computes in double precision and rounds once at its return. Nothing is
+// caught: a division by zero throws RuntimeError 11, a logarithm of a value not above zero RuntimeError 5, a result
+// beyond a Single RuntimeError 6.
 #pragma once
 
 #include "base/types.h"
 #include "design/catalog_lists.h"
 #include "design/units.h"
+#include "engine/quantities.h"
 
 namespace orby {
 
@@ -18,73 +19,90 @@ struct GradeBasis {
   const Catalogs& catalogs;
 };
 
+// What the suggestions depend on.
+struct WorkingSite {
+  Single StabilityFactor = 0;  // SF
+  Single CMRR = 0;
+  Feet Depth{};  // H
+  Feet Span{};   // a, actual sum of the intersection diagonals
+  Feet Width{};  // W, of the entry
+};
+
 // A pattern of roof bolts over an entry.
 struct BoltPattern {
-  Single Length;       // L, ft
-  Single BoltsPerRow;  // N
-  Single Diameter;     // d, in
-  Single Grade;        // G, ksi
-  Single RowSpacing;   // S, ft
-  Single EntryWidth;   // W, ft
+  Feet Length{};           // L
+  Single BoltsPerRow = 0;  // N
+  Inches Diameter{};       // d
+  Ksi Grade{};             // G
+  Feet RowSpacing{};       // S
+  Feet EntryWidth{};       // W
 };
 
 // A pattern of secondary support given by the capacity of one unit.
 struct SupportPattern {
-  Single Length;       // L, ft
-  Single UnitsPerRow;  // N
-  Single Capacity;     // C, kips
-  Single RowSpacing;   // S, ft
-  Single EntryWidth;   // W, ft
+  Feet Length{};           // L
+  Single UnitsPerRow = 0;  // N
+  Single Capacity = 0;     // C, kips; of bolts for the SRDI: tons
+  Feet RowSpacing{};       // S
+  Feet EntryWidth{};       // W
+};
+
+// The rock that may fall.
+struct WorkingRock {
+  Pcf UnitWeight{};
+  Feet Height{};
+  FallAngle Angle{};  // at which its sides fall in
+  Feet Width{};       // of the entry
+  Feet Span{};        // sum of the diagonals; intersections only
 };
 
 // ---- span and suggested support ------------------------------------------------------------------------------------
 
-// Suggested sum of the intersection diagonals, ft:  0.38 CMRR + 46.1.
-Single SuggestedSumDiagonals(Single cmrr);
+// Suggested sum of the intersection diagonals:  0.38 CMRR + 46.1.
+Feet SuggestedSumDiagonals(Single cmrr);
 
-// Smallest plausible sum of the diagonals for an entry width in ft:  sqrt(2 W^2) + 4.
+// Smallest plausible sum of the diagonals for an entry width:  sqrt(2 W^2) + 4.
 // Under Metric the margin is 4 m written in feet, 13.12, not 4 ft: Metric designs have always been judged so.
-Single MinimumSumDiagonals(Single width, UnitSystem units);
+Feet MinimumSumDiagonals(Feet width, UnitSystem units);
 
 // Suggested PSUP of a roof bolt pattern, dimensionless.
 //
 //   PSUP = (a^2 / s^2) SF (4.95 ln H - 17.9 ln(CMRR - 20) + 36.4),   not below 3
 //
-// stabilityFactor SF;  suggestedSpan s and actualSpan a, ft;  depth H, ft, 0 or less gives 0;
-// cmrr 20 or less gives 3 whatever the depth.
-Single SuggestedPSUP(Single stabilityFactor, Single suggestedSpan, Single actualSpan, Single depth, Single cmrr);
+// s is the suggested span. A depth of 0 or less gives 0; a CMRR of 20 or less gives 3 whatever the depth.
+Single SuggestedPSUP(const WorkingSite& site, Feet suggestedSpan);
 
-// Suggested minimum bolt length, ft:  (a / 13) log10(H) ((100 - CMRR) / 100)^1.5,   not below 4.
-// Throws RuntimeError 5 when cmrr is above 100.
-Single SuggestedBoltLength(Single actualSpan, Single depth, Single cmrr);
+// Suggested minimum bolt length:  (a / 13) log10(H) ((100 - CMRR) / 100)^1.5,   not below 4.
+// Throws RuntimeError 5 when the CMRR is above 100.
+Feet SuggestedBoltLength(const WorkingSite& site);
 
 // ---- bolt grades and capacities ------------------------------------------------------------------------------------
 
-// Ultimate strength of a yield grade, ksi: the paired entry of the catalog, 0 when the pair is missing; a grade that is
+// Ultimate strength of a yield grade: the paired entry of the catalog, 0 when the pair is missing; a grade that is
 // not in the catalog gives 0.9 G + 35. The first entry that is exactly equal counts.
-Single UltimateFromYieldKsi(Single grade, const Catalogs& catalogs);
+Ksi UltimateFromYieldKsi(Ksi grade, const Catalogs& catalogs);
 
-// Yield strength of an ultimate grade, ksi, likewise; otherwise (G - 35) / 0.9.
-Single YieldFromUltimateKsi(Single grade, const Catalogs& catalogs);
+// Yield strength of an ultimate grade, likewise; otherwise (G - 35) / 0.9.
+Ksi YieldFromUltimateKsi(Ksi grade, const Catalogs& catalogs);
 
 // The same in MPa, by the Metric lists.
-Single YieldFromUltimateMPa(Single grade, const Catalogs& catalogs);
+MPa YieldFromUltimateMPa(MPa grade, const Catalogs& catalogs);
 
 // Area times grade, kips:  G pi/4 d^2.
-Single CapacityFromGrade(Single grade, Single diameter);
+Single CapacityFromGrade(Ksi grade, Inches diameter);
 
 // Ultimate capacity of a yield grade, kips.
-Single UltimateCapacity(Single grade, Single diameter, const Catalogs& catalogs);
+Single UltimateCapacity(Ksi grade, Inches diameter, const Catalogs& catalogs);
 
 // Yield capacity of an ultimate grade, kips.
-Single YieldCapacity(Single grade, Single diameter, const Catalogs& catalogs);
+Single YieldCapacity(Ksi grade, Inches diameter, const Catalogs& catalogs);
 
-// Area times grade, kN, of a grade in ksi and a diameter in inches.
-Single CapacityKN(Single grade, Single diameter);
-Single UltimateCapacityKN(Single grade, Single diameter, const Catalogs& catalogs);
+// Area times grade, kN.
+Single CapacityKN(Ksi grade, Inches diameter);
+Single UltimateCapacityKN(Ksi grade, Inches diameter, const Catalogs& catalogs);
 
-// Capacity as the ASTM minimum is stated, of a grade in ksi and a diameter in inches: tons, under Metric kN.
-Single BoltCapacityCheck(Single grade, Single diameter, UnitSystem units);
+// Capacity as the ASTM minimum is stated: tons, under Metric kN.
+Single BoltCapacityCheck(Ksi grade, Inches diameter, UnitSystem units);
 
 // ---- support densities ---------------------------------------------------------------------------------------------
 
@@ -108,23 +126,35 @@ Single BoltSRDI(const SupportPattern& pattern);
 
 // ---- rock loads ----------------------------------------------------------------------------------------------------
 
-// Rock load per foot of entry, tons/ft: the trapezoid of rock of this height, its sides falling in at the angle.
-// angle in degrees; width, height in ft; unitWeight in pcf. A height that the angle does not allow is reduced to that
-// of the triangle, in the caller's variable too. Not below 0.
-Single RockLoadEntry(Single angle, Single width, Single unitWeight, Single& height);
+struct LimitedLoad {
+  Single Load = 0;  // tons/ft
+  Feet Height{};    // of the rock, reduced to that of the triangle where the angle does not allow it
+};
+
+// Rock load per foot of entry: the trapezoid of rock of this height, or the triangle that the angle allows. Not below
+// 0.
+LimitedLoad RockLoadEntry(const WorkingRock& rock);
 
 // Side of the square whose two diagonals sum up to the span, in the unit of the span; not rounded.
 double SideOfSpan(Single span);
 
-// Rock load of an intersection, tons: a frustum over the square whose diagonals sum up to the span, ft. Not below 0.
-Single RockLoadIntersection(Single angle, Single span, Single unitWeight, Single height);
+// Rock load of an intersection, tons: a frustum over the square whose diagonals sum up to the span. Not below 0.
+Single RockLoadIntersection(const WorkingRock& rock);
 
 // Greatest height over an entry that the fall angle allows, in the unit of the width:  (W / 2) / tan(angle).
-Single MaxRockHeightEntry(Single width, Single angle);
+Single MaxRockHeightEntry(Single width, FallAngle angle);
 
-// The height, limited by what the fall angles allow over an intersection, in the unit of the span. An angle of 0 sets
-// its limit to 100. Both limits take the entry's angle: the crosscut's decides only whether its limit of 100 applies.
-Single MaxRockHeightIntersection(Single height, Single span, Single entryAngle, Single crosscutAngle);
+// Rock over an intersection. Its lengths are in one unit, whichever.
+struct RockAtCrossing {
+  Single Height = 0;
+  Single Span = 0;
+  FallAngle EntryAngle{};
+  FallAngle CrosscutAngle{};
+};
+
+// The height, limited by what the fall angles allow over an intersection. An angle of 0 sets its limit to 100. Both
+// limits take the entry's angle: the crosscut's decides only whether its limit of 100 applies.
+Single MaxRockHeightIntersection(const RockAtCrossing& rock);
 
 // ---- cables and helpers --------------------------------------------------------------------------------------------
 

@@ -4,47 +4,51 @@
 
 namespace orby {
 
-Suggestion SuggestSupport(const SiteInputs& site, UnitSystem units) {
+Suggestion SuggestSupport(const WorkingSite& site, UnitSystem units) {
   Suggestion suggestion;
   suggestion.SuggestedSpan = SuggestedSumDiagonals(site.CMRR);
   suggestion.MinSpan = MinimumSumDiagonals(site.Width, units);
-  suggestion.SugPSUP = SuggestedPSUP(site.StabilityFactor, suggestion.SuggestedSpan, site.Span, site.Depth, site.CMRR);
-  suggestion.SugLength = SuggestedBoltLength(site.Span, site.Depth, site.CMRR);
+  suggestion.SugPSUP = SuggestedPSUP(site, suggestion.SuggestedSpan);
+  suggestion.SugLength = SuggestedBoltLength(site);
   return suggestion;
 }
 
-Bolt InEnglishUnits(const Bolt& bolt, UnitSystem units) {
-  if (units != Metric) return bolt;
-  return {ToSingle(bolt.Diameter / MillimetresPerInch), ToSingle(bolt.Grade * 1000000.0 / 6894.757293 / 1000)};
+WorkingBolt InEnglishUnits(const Bolt& bolt, UnitSystem units) {
+  if (units != Metric) return {Inches(bolt.Diameter), Ksi(bolt.Grade)};
+  return {Inches(ToSingle(bolt.Diameter / MillimetresPerInch)),
+          Ksi(ToSingle(bolt.Grade * 1000000.0 / 6894.757293 / 1000))};
 }
 
-Single InFeet(Single length, UnitSystem units) { return units == Metric ? ToSingle(length * FeetPerMetre) : length; }
+Feet InFeet(Single length, UnitSystem units) {
+  return Feet(units == Metric ? ToSingle(length * FeetPerMetre) : length);
+}
 
 SuggestedFigures Suggest(const SiteInputs& site, UnitSystem units) {
-  SiteInputs working = site;
-  working.Depth = InFeet(site.Depth, units);
-  working.Span = InFeet(site.Span, units);
-  working.Width = InFeet(site.Width, units);
+  const WorkingSite working{.StabilityFactor = site.StabilityFactor,
+                            .CMRR = site.CMRR,
+                            .Depth = InFeet(site.Depth, units),
+                            .Span = InFeet(site.Span, units),
+                            .Width = InFeet(site.Width, units)};
   const Suggestion suggestion = SuggestSupport(working, units);
-  const auto shown = [units](Single feet) { return units == Metric ? ToSingle(feet / FeetPerMetre) : feet; };
+  const auto shown = [units](Feet feet) { return units == Metric ? ToSingle(feet.Value / FeetPerMetre) : feet.Value; };
   return {shown(suggestion.SuggestedSpan), suggestion.SugPSUP, shown(suggestion.SugLength),
           suggestion.SpanIsTooLarge(working), suggestion.SpanAndWidthMismatch(working)};
 }
 
-LengthVerdict JudgeLength(Single actual, Single suggested, UnitSystem units) {
+LengthVerdict JudgeLength(const Comparison& length, UnitSystem units) {
   constexpr Single MostFeet = 2;
   constexpr Single MostMetres = 0.6F;
-  if (actual < suggested) return LengthVerdict::TooShort;
-  const double difference = static_cast<double>(actual) - suggested;
+  if (length.Actual < length.Suggested) return LengthVerdict::TooShort;
+  const double difference = static_cast<double>(length.Actual) - length.Suggested;
   return difference > (units == Metric ? MostMetres : MostFeet) ? LengthVerdict::TooLong : LengthVerdict::Fine;
 }
 
-PsupVerdict JudgePsup(Single suggested, Single actual) {
-  if (suggested < SmallestPsup) return PsupVerdict::SkinControl;
-  return actual < suggested ? PsupVerdict::TooLow : PsupVerdict::Fine;
+PsupVerdict JudgePsup(const Comparison& psup) {
+  if (psup.Suggested < SmallestPsup) return PsupVerdict::SkinControl;
+  return psup.Actual < psup.Suggested ? PsupVerdict::TooLow : PsupVerdict::Fine;
 }
 
-bool FailsASTM(const Bolt& bolt, UnitSystem units) {
+bool FailsASTM(const WorkingBolt& bolt, UnitSystem units) {
   constexpr Single SmallestTons = 8.45F;
   constexpr Single SmallestKilonewtons = 83.36F;
   return BoltCapacityCheck(bolt.Grade, bolt.Diameter, units) < (units == Metric ? SmallestKilonewtons : SmallestTons);
@@ -65,19 +69,23 @@ std::optional<SuggestedFigures> SuggestLive(const SiteInputs& typed, UnitSystem 
   return AsShown(Suggest(typed, units), units);
 }
 
-std::optional<Single> ActualLive(const BoltPattern& typed, UnitSystem units, const GradeBasis& basis) {
+std::optional<Single> ActualLive(const PatternInputs& typed, UnitSystem units, const GradeBasis& basis) {
   constexpr double ThinnestRefused = 0.5;
   constexpr double ThickestTaken = 1.25;
   constexpr Single MostPerRow = 10;
   if (typed.BoltsPerRow <= 0 || typed.BoltsPerRow > MostPerRow) return std::nullopt;
   if (typed.Length <= 0) return std::nullopt;
-  const Bolt bolt = InEnglishUnits({typed.Diameter, typed.Grade}, units);
-  if (bolt.Diameter <= ThinnestRefused || bolt.Diameter > ThickestTaken) return std::nullopt;
-  if (bolt.Grade <= 0) return std::nullopt;
+  const WorkingBolt bolt = InEnglishUnits({.Diameter = typed.Diameter, .Grade = typed.Grade}, units);
+  if (bolt.Diameter.Value <= ThinnestRefused || bolt.Diameter.Value > ThickestTaken) return std::nullopt;
+  if (bolt.Grade.Value <= 0) return std::nullopt;
   if (typed.RowSpacing <= 0 || typed.EntryWidth <= 0) return std::nullopt;
 
-  return ActualPSUP({InFeet(typed.Length, units), typed.BoltsPerRow, bolt.Diameter, bolt.Grade,
-                     InFeet(typed.RowSpacing, units), InFeet(typed.EntryWidth, units)},
+  return ActualPSUP({.Length = InFeet(typed.Length, units),
+                     .BoltsPerRow = typed.BoltsPerRow,
+                     .Diameter = bolt.Diameter,
+                     .Grade = bolt.Grade,
+                     .RowSpacing = InFeet(typed.RowSpacing, units),
+                     .EntryWidth = InFeet(typed.EntryWidth, units)},
                     basis);
 }
 

@@ -11,7 +11,7 @@
 
 namespace orby {
 
-// What the suggestions depend on.
+// What the suggestions depend on, as typed: in the design's units.
 struct SiteInputs {
   Single StabilityFactor = 0;
   Single CMRR = 0;
@@ -20,22 +20,31 @@ struct SiteInputs {
   Single Width = 0;  // entry width
 };
 
-struct Suggestion {
-  Single SuggestedSpan = 0;  // ft
-  Single MinSpan = 0;        // ft
-  Single SugPSUP = 0;
-  Single SugLength = 0;  // ft
+// A pattern of roof bolts over an entry, as typed: in the design's units.
+struct PatternInputs {
+  Single Length = 0;
+  Single BoltsPerRow = 0;
+  Single Diameter = 0;
+  Single Grade = 0;
+  Single RowSpacing = 0;
+  Single EntryWidth = 0;
+};
 
-  bool SpanIsTooLarge(const SiteInputs& site) const { return site.Span > SuggestedSpan; }
-  bool SpanAndWidthMismatch(const SiteInputs& site) const { return site.Span < MinSpan; }
+struct Suggestion {
+  Feet SuggestedSpan{};
+  Feet MinSpan{};
+  Single SugPSUP = 0;
+  Feet SugLength{};
+
+  bool SpanIsTooLarge(const WorkingSite& site) const { return site.Span.Value > SuggestedSpan.Value; }
+  bool SpanAndWidthMismatch(const WorkingSite& site) const { return site.Span.Value < MinSpan.Value; }
 };
 
 // The two span warnings, in the dialog and in the report.
 inline constexpr std::string_view SpanExceedsSuggested = "Actual sum of diagonals exceeds suggested sum of diagonals.";
 inline constexpr std::string_view SpanAndWidthMayNotMatch = "Intersection diagonals and entry width may not match.";
 
-// site: lengths in ft.
-Suggestion SuggestSupport(const SiteInputs& site, UnitSystem units);
+Suggestion SuggestSupport(const WorkingSite& site, UnitSystem units);
 
 // The suggestions in the design's units, and the two warnings of the span.
 struct SuggestedFigures {
@@ -46,30 +55,40 @@ struct SuggestedFigures {
   bool SpanAndWidthMismatch = false;
 };
 
-// site: in the design's units.
 SuggestedFigures Suggest(const SiteInputs& site, UnitSystem units);
+
+// A figure of a design and the one that is suggested for it.
+struct Comparison {
+  Single Actual = 0;
+  Single Suggested = 0;
+};
 
 enum class LengthVerdict { TooShort, Fine, TooLong };
 
-// A bolt length against the suggested one, both in the design's units.
-LengthVerdict JudgeLength(Single actual, Single suggested, UnitSystem units);
+// Bolt lengths in the design's units.
+LengthVerdict JudgeLength(const Comparison& length, UnitSystem units);
 
 // The least PSUP that a roof is bolted for.
 inline constexpr Single SmallestPsup = 3;
 
 enum class PsupVerdict { SkinControl, TooLow, Fine };
 
-// The PSUP of a design against the suggested one. A suggestion below 3 needs no bolts but to hold the skin.
-PsupVerdict JudgePsup(Single suggested, Single actual);
+// A suggestion below 3 needs no bolts but to hold the skin.
+PsupVerdict JudgePsup(const Comparison& psup);
 
-// Whether the bolt, in English units, falls short of the ASTM minimum of the design's units.
-bool FailsASTM(const Bolt& bolt, UnitSystem units);
+struct WorkingBolt {
+  Inches Diameter{};
+  Ksi Grade{};
+};
 
-// A grade in ksi and a diameter in inches, from the project's units.
-Bolt InEnglishUnits(const Bolt& bolt, UnitSystem units);
+// Whether the bolt falls short of the ASTM minimum of the design's units.
+bool FailsASTM(const WorkingBolt& bolt, UnitSystem units);
 
-// A length in feet, from the project's units.
-Single InFeet(Single length, UnitSystem units);
+// A bolt from the project's units.
+WorkingBolt InEnglishUnits(const Bolt& bolt, UnitSystem units);
+
+// A length from the project's units.
+Feet InFeet(Single length, UnitSystem units);
 
 // ---- live in the dialog: values as typed, in the project's units --------------------------------------------------
 
@@ -85,6 +104,6 @@ std::optional<SuggestedFigures> SuggestLive(const SiteInputs& typed, UnitSystem 
 
 // PSUP of the pattern as typed. Nothing when there are no bolts or more than 10 in a row, the bolt is not above 0.5 in
 // or above 1.25 in thick, or the length, grade, row spacing or width is not above 0.
-std::optional<Single> ActualLive(const BoltPattern& typed, UnitSystem units, const GradeBasis& basis);
+std::optional<Single> ActualLive(const PatternInputs& typed, UnitSystem units, const GradeBasis& basis);
 
 }  // namespace orby

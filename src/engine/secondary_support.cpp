@@ -32,7 +32,8 @@ double TrussPairCapacity(const TrussSystem& truss) { return 2.0 * truss.Capacity
 double BoltYieldCapacity(const BoltSystem& system, UnitSystem units, const GradeBasis& basis) {
   Single grade = system.Bolts.Grade;
   if (basis.Strength == StrengthBasis::Ultimate) {
-    grade = units == Metric ? YieldFromUltimateMPa(grade, basis.catalogs) : YieldFromUltimateKsi(grade, basis.catalogs);
+    grade = units == Metric ? YieldFromUltimateMPa(MPa(grade), basis.catalogs).Value
+                            : YieldFromUltimateKsi(Ksi(grade), basis.catalogs).Value;
   }
   const double diameter = system.Bolts.Diameter;
   if (units == Metric) return system.Count * (grade * 1000.0) * Pi * Square(diameter / 1000) / 4;
@@ -55,7 +56,7 @@ std::optional<Single> EntryRockLoad(const RockInputs& rock, UnitSystem units) {
   if (top >= 0) {
     area = (width + top) / 2 * rock.Height;
   } else if (rock.EntryAngle != 0) {
-    area = width * MaxRockHeightEntry(rock.Width, rock.EntryAngle) / 2;
+    area = width * MaxRockHeightEntry(rock.Width, FallAngle(rock.EntryAngle)) / 2;
   }
   return LoadOf(area, rock.UnitWeight, units);
 }
@@ -71,7 +72,10 @@ std::optional<Single> IntersectionRockLoad(const RockInputs& rock, UnitSystem un
   double height = rock.Height;
   const auto topAt = [&](Single angle) { return side - 2 * height * std::tan(Radians(angle)); };
   if (topAt(rock.EntryAngle) < 0 || topAt(rock.CrosscutAngle) < 0) {
-    height = MaxRockHeightIntersection(rock.Height, rock.Span, rock.EntryAngle, rock.CrosscutAngle);
+    height = MaxRockHeightIntersection({.Height = rock.Height,
+                                        .Span = rock.Span,
+                                        .EntryAngle = FallAngle(rock.EntryAngle),
+                                        .CrosscutAngle = FallAngle(rock.CrosscutAngle)});
   }
   const double entryTop = topAt(rock.EntryAngle);
   const double crosscutTop = topAt(rock.CrosscutAngle);

@@ -120,9 +120,13 @@ constexpr SupportEcho IntersectionEcho{IntersectionHeadings,    "[SECONDARY INTE
                                        IntersectionTrussRows,   IntersectionBoltRows,
                                        IntersectionStandingRows};
 
+using YieldOfMetricGrade = Ksi (*)(Ksi grade, const Catalogs& catalogs);
+
 // A Metric grade that is an ultimate strength is in ksi when its yield strength is asked for. The secondary sets ask as
 // if it were MPa all the same: users know their capacities so.
-using YieldOfMetricGrade = Single (*)(Single grade, const Catalogs& catalogs);
+Ksi YieldAsIfInMPa(Ksi grade, const Catalogs& catalogs) {
+  return Ksi(YieldFromUltimateMPa(MPa(grade.Value), catalogs).Value);
+}
 
 // Writes the parts of the page one after the other.
 class Echo {
@@ -286,7 +290,7 @@ void Echo::Support(const SupportEcho& echo, const SecondarySupport& support) {
   });
   section(support.Bolt, echo.Headings.RoofBolts, [&] {
     Numbers(echo.RoofBolts, support);
-    Bolts(support.Bolt, YieldFromUltimateMPa);
+    Bolts(support.Bolt, YieldAsIfInMPa);
   });
   section(support.Standing, echo.Headings.StandingSupports, [&] {
     page.Line("Standing Support Type: " + support.Standing.TypeName);

@@ -18,32 +18,33 @@ TEST(BoltGrade, OfTheListHasTheListsPartner) {
   const Catalogs lists = BuiltInLists();
 
   for (const auto& [yield, ultimate] : KsiPairs) {
-    EXPECT_EQ(UltimateFromYieldKsi(yield, lists), ultimate) << yield;
-    EXPECT_EQ(YieldFromUltimateKsi(ultimate, lists), yield) << ultimate;
+    EXPECT_EQ(UltimateFromYieldKsi(Ksi(yield), lists).Value, ultimate) << yield;
+    EXPECT_EQ(YieldFromUltimateKsi(Ksi(ultimate), lists).Value, yield) << ultimate;
   }
-  for (const auto& [yield, ultimate] : MPaPairs) EXPECT_EQ(YieldFromUltimateMPa(ultimate, lists), yield) << ultimate;
+  for (const auto& [yield, ultimate] : MPaPairs)
+    EXPECT_EQ(YieldFromUltimateMPa(MPa(ultimate), lists).Value, yield) << ultimate;
 }
 
 TEST(BoltGrade, OutsideTheListFollowsTheStraightLine) {
   const Catalogs lists = BuiltInLists();
 
-  EXPECT_EQ(UltimateFromYieldKsi(50, lists), 80.0F);
-  EXPECT_EQ(UltimateFromYieldKsi(80, lists), 107.0F);
-  EXPECT_EQ(YieldFromUltimateKsi(80, lists), 50.0F);
-  EXPECT_EQ(YieldFromUltimateKsi(110, lists), 83.3333359F);
-  EXPECT_EQ(YieldFromUltimateMPa(550, lists), 342.981659F);
-  EXPECT_EQ(YieldFromUltimateMPa(700, lists), 509.648315F);
+  EXPECT_EQ(UltimateFromYieldKsi(Ksi(50), lists).Value, 80.0F);
+  EXPECT_EQ(UltimateFromYieldKsi(Ksi(80), lists).Value, 107.0F);
+  EXPECT_EQ(YieldFromUltimateKsi(Ksi(80), lists).Value, 50.0F);
+  EXPECT_EQ(YieldFromUltimateKsi(Ksi(110), lists).Value, 83.3333359F);
+  EXPECT_EQ(YieldFromUltimateMPa(MPa(550), lists).Value, 342.981659F);
+  EXPECT_EQ(YieldFromUltimateMPa(MPa(700), lists).Value, 509.648315F);
 }
 
 TEST(BoltGrade, OneBitBesideTheListFollowsTheStraightLine) {
   const Catalogs lists = BuiltInLists();
 
-  EXPECT_EQ(UltimateFromYieldKsi(74.9999924F, lists), 102.499992F);
-  EXPECT_EQ(UltimateFromYieldKsi(75.0000076F, lists), 102.500008F);
-  EXPECT_EQ(YieldFromUltimateKsi(99.9999924F, lists), 72.2222137F);
-  EXPECT_EQ(YieldFromUltimateKsi(100.000008F, lists), 72.222229F);
-  EXPECT_EQ(YieldFromUltimateMPa(689.999939F, lists), 498.53714F);
-  EXPECT_EQ(YieldFromUltimateMPa(690.000061F, lists), 498.537292F);
+  EXPECT_EQ(UltimateFromYieldKsi(Ksi(74.9999924F), lists).Value, 102.499992F);
+  EXPECT_EQ(UltimateFromYieldKsi(Ksi(75.0000076F), lists).Value, 102.500008F);
+  EXPECT_EQ(YieldFromUltimateKsi(Ksi(99.9999924F), lists).Value, 72.2222137F);
+  EXPECT_EQ(YieldFromUltimateKsi(Ksi(100.000008F), lists).Value, 72.222229F);
+  EXPECT_EQ(YieldFromUltimateMPa(MPa(689.999939F), lists).Value, 498.53714F);
+  EXPECT_EQ(YieldFromUltimateMPa(MPa(690.000061F), lists).Value, 498.537292F);
 }
 
 TEST(BoltGrade, ThatStandsTwiceTakesTheFirstPartner) {
@@ -52,24 +53,24 @@ TEST(BoltGrade, ThatStandsTwiceTakesTheFirstPartner) {
   lists.DefaultBoltUTSArrayENG.Values[4] = 100;
   lists.DefaultBoltUTSArrayMET.Values[4] = 690;
 
-  EXPECT_EQ(UltimateFromYieldKsi(75, lists), 100.0F);
-  EXPECT_EQ(YieldFromUltimateKsi(100, lists), 75.0F);
-  EXPECT_EQ(YieldFromUltimateMPa(690, lists), 520.0F);
+  EXPECT_EQ(UltimateFromYieldKsi(Ksi(75), lists).Value, 100.0F);
+  EXPECT_EQ(YieldFromUltimateKsi(Ksi(100), lists).Value, 75.0F);
+  EXPECT_EQ(YieldFromUltimateMPa(MPa(690), lists).Value, 520.0F);
 }
 
 TEST(BoltGrade, WithoutAPartnerInAShorterListIsZero) {
   Catalogs lists = BuiltInLists();
   lists.DefaultBoltUTSArrayENG.HighestIndex = 2;
-  EXPECT_EQ(UltimateFromYieldKsi(60, lists), 90.0F);
-  EXPECT_EQ(UltimateFromYieldKsi(75, lists), 0.0F);
+  EXPECT_EQ(UltimateFromYieldKsi(Ksi(60), lists).Value, 90.0F);
+  EXPECT_EQ(UltimateFromYieldKsi(Ksi(75), lists).Value, 0.0F);
 
   lists = BuiltInLists();
   lists.DefaultBoltGradeArrayENG.HighestIndex = 2;
   lists.DefaultBoltGradeArrayMET.HighestIndex = 2;
-  EXPECT_EQ(YieldFromUltimateKsi(90, lists), 60.0F);
-  EXPECT_EQ(YieldFromUltimateKsi(100, lists), 0.0F);
-  EXPECT_EQ(YieldFromUltimateMPa(620, lists), 420.0F);
-  EXPECT_EQ(YieldFromUltimateMPa(690, lists), 0.0F);
+  EXPECT_EQ(YieldFromUltimateKsi(Ksi(90), lists).Value, 60.0F);
+  EXPECT_EQ(YieldFromUltimateKsi(Ksi(100), lists).Value, 0.0F);
+  EXPECT_EQ(YieldFromUltimateMPa(MPa(620), lists).Value, 420.0F);
+  EXPECT_EQ(YieldFromUltimateMPa(MPa(690), lists).Value, 0.0F);
 }
 
 TEST(BoltGrade, BehindTheListsLastEntryInUseIsNotFound) {
@@ -77,13 +78,13 @@ TEST(BoltGrade, BehindTheListsLastEntryInUseIsNotFound) {
   lists.DefaultBoltGradeArrayENG.HighestIndex = 2;
   lists.DefaultBoltUTSArrayENG.HighestIndex = -1;
 
-  EXPECT_EQ(UltimateFromYieldKsi(75, lists), 102.5F);
-  EXPECT_EQ(YieldFromUltimateKsi(80, lists), 50.0F);
+  EXPECT_EQ(UltimateFromYieldKsi(Ksi(75), lists).Value, 102.5F);
+  EXPECT_EQ(YieldFromUltimateKsi(Ksi(80), lists).Value, 50.0F);
 }
 
 struct CapacityRow {
-  Single grade;
-  Single diameter;
+  Ksi grade;
+  Inches diameter;
   Single area;      // kips
   Single ultimate;  // kips
   Single yield;     // kips
@@ -92,18 +93,18 @@ struct CapacityRow {
   Single checkTons;
 };
 constexpr CapacityRow Capacities[] = {
-    {40, 0.625F, 12.2718468F, 21.4757309F, 1.70442307F, 54.5878792F, 95.5287857F, 6.13592339F},
-    {50, 0.75F, 22.089323F, 35.3429184F, 7.36310768F, 98.2581787F, 157.213089F, 11.0446615F},
-    {60, 0.875F, 36.0792274F, 54.1188431F, 16.7033463F, 160.488358F, 240.732544F, 18.0396137F},
-    {75, 0.75F, 33.1339836F, 44.1786461F, 19.6349525F, 147.387268F, 196.516357F, 16.5669918F},
-    {100, 1.25F, 122.71846F, 153.398071F, 92.0388489F, 545.878784F, 682.34845F, 61.35923F},
+    {Ksi(40), Inches(0.625F), 12.2718468F, 21.4757309F, 1.70442307F, 54.5878792F, 95.5287857F, 6.13592339F},
+    {Ksi(50), Inches(0.75F), 22.089323F, 35.3429184F, 7.36310768F, 98.2581787F, 157.213089F, 11.0446615F},
+    {Ksi(60), Inches(0.875F), 36.0792274F, 54.1188431F, 16.7033463F, 160.488358F, 240.732544F, 18.0396137F},
+    {Ksi(75), Inches(0.75F), 33.1339836F, 44.1786461F, 19.6349525F, 147.387268F, 196.516357F, 16.5669918F},
+    {Ksi(100), Inches(1.25F), 122.71846F, 153.398071F, 92.0388489F, 545.878784F, 682.34845F, 61.35923F},
 };
 
 TEST(BoltCapacity, FollowsGradeAndDiameter) {
   const Catalogs lists = BuiltInLists();
 
   for (const auto& row : Capacities) {
-    SCOPED_TRACE(row.grade);
+    SCOPED_TRACE(row.grade.Value);
     EXPECT_EQ(CapacityFromGrade(row.grade, row.diameter), row.area);
     EXPECT_EQ(UltimateCapacity(row.grade, row.diameter, lists), row.ultimate);
     EXPECT_EQ(YieldCapacity(row.grade, row.diameter, lists), row.yield);
@@ -114,20 +115,20 @@ TEST(BoltCapacity, FollowsGradeAndDiameter) {
 
 TEST(BoltCapacity, IsCheckedInTonsOrKilonewtons) {
   for (const auto& row : Capacities) {
-    EXPECT_EQ(BoltCapacityCheck(row.grade, row.diameter, English), row.checkTons) << row.grade;
-    EXPECT_EQ(BoltCapacityCheck(row.grade, row.diameter, Metric), row.areaKN) << row.grade;
+    EXPECT_EQ(BoltCapacityCheck(row.grade, row.diameter, English), row.checkTons) << row.grade.Value;
+    EXPECT_EQ(BoltCapacityCheck(row.grade, row.diameter, Metric), row.areaKN) << row.grade.Value;
   }
 }
 
 TEST(BoltCapacity, OfAnUltimateGradeOutsideTheListComesFromTheLine) {
   const Catalogs lists = BuiltInLists();
 
-  EXPECT_EQ(YieldCapacity(110, 0.75F, lists), 36.8155403F);
-  EXPECT_EQ(YieldCapacity(80, 0.688F, lists), 18.5881767F);
+  EXPECT_EQ(YieldCapacity(Ksi(110), Inches(0.75F), lists), 36.8155403F);
+  EXPECT_EQ(YieldCapacity(Ksi(80), Inches(0.688F), lists), 18.5881767F);
 }
 
 TEST(BoltCapacity, FailsBeyondTheRangeOfASingle) {
-  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(CapacityFromGrade(75, 1E20F)); }), 6);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(CapacityFromGrade(Ksi(75), Inches(1E20F))); }), 6);
 }
 
 struct PatternRow {
@@ -138,18 +139,18 @@ struct PatternRow {
   Single rdi;
 };
 constexpr PatternRow Patterns[] = {
-    {{6, 4, 0.75F, 75, 4, 20}, Yield, 9.94019508F, 13.2535934F, 192.177109F},
-    {{6, 4, 0.75F, 75, 4, 20}, Ultimate, 5.89048576F, 9.94019508F, 144.132828F},
-    {{5, 5, 0.875F, 60, 3.5F, 18}, Yield, 14.3171539F, 21.4757309F, 311.398102F},
-    {{5, 5, 0.875F, 60, 3.5F, 18}, Ultimate, 6.62831211F, 14.3171539F, 207.598724F},
-    {{6, 4, 0.75F, 75, 4, 20}, StrengthBasis{2}, 5.89048576F, 9.94019508F, 144.132828F},
-    {{6, 4, 0.75F, 80, 4, 20}, Yield, 10.6028757F, 14.1813459F, 205.629517F},
-    {{6, 4, 0.75F, 80, 4, 20}, Ultimate, 6.62679672F, 10.6028757F, 153.741699F},
+    {{Feet(6), 4, Inches(0.75F), Ksi(75), Feet(4), Feet(20)}, Yield, 9.94019508F, 13.2535934F, 192.177109F},
+    {{Feet(6), 4, Inches(0.75F), Ksi(75), Feet(4), Feet(20)}, Ultimate, 5.89048576F, 9.94019508F, 144.132828F},
+    {{Feet(5), 5, Inches(0.875F), Ksi(60), Feet(3.5F), Feet(18)}, Yield, 14.3171539F, 21.4757309F, 311.398102F},
+    {{Feet(5), 5, Inches(0.875F), Ksi(60), Feet(3.5F), Feet(18)}, Ultimate, 6.62831211F, 14.3171539F, 207.598724F},
+    {{Feet(6), 4, Inches(0.75F), Ksi(75), Feet(4), Feet(20)}, StrengthBasis{2}, 5.89048576F, 9.94019508F, 144.132828F},
+    {{Feet(6), 4, Inches(0.75F), Ksi(80), Feet(4), Feet(20)}, Yield, 10.6028757F, 14.1813459F, 205.629517F},
+    {{Feet(6), 4, Inches(0.75F), Ksi(80), Feet(4), Feet(20)}, Ultimate, 6.62679672F, 10.6028757F, 153.741699F},
 };
 
 TEST(BoltPatternDensity, TakesYieldForPsupAndUltimateForPrsupWhateverTheGradeMeans) {
   for (const auto& row : Patterns) {
-    SCOPED_TRACE(testing::Message() << "grade " << row.pattern.Grade << ", mode " << NumberOf(row.mode));
+    SCOPED_TRACE(testing::Message() << "grade " << row.pattern.Grade.Value << ", mode " << NumberOf(row.mode));
     EXPECT_EQ(ActualPSUP(row.pattern, Grades(row.mode)), row.psup);
     EXPECT_EQ(BoltPRSUP(row.pattern, Grades(row.mode)), row.prsup);
     EXPECT_EQ(BoltRDI(row.pattern, Grades(row.mode)), row.rdi);
@@ -157,8 +158,8 @@ TEST(BoltPatternDensity, TakesYieldForPsupAndUltimateForPrsupWhateverTheGradeMea
 }
 
 TEST(BoltPatternDensity, OfPairedGradesIsTheSameInBothModes) {
-  const BoltPattern byYield{6, 4, 0.75F, 75, 4, 20};
-  const BoltPattern byUltimate{6, 4, 0.75F, 100, 4, 20};
+  const BoltPattern byYield{Feet(6), 4, Inches(0.75F), Ksi(75), Feet(4), Feet(20)};
+  const BoltPattern byUltimate{Feet(6), 4, Inches(0.75F), Ksi(100), Feet(4), Feet(20)};
 
   EXPECT_EQ(ActualPSUP(byUltimate, Grades(Ultimate)), 9.94019508F);
   EXPECT_EQ(BoltPRSUP(byUltimate, Grades(Ultimate)), 13.2535934F);
@@ -166,8 +167,8 @@ TEST(BoltPatternDensity, OfPairedGradesIsTheSameInBothModes) {
 }
 
 TEST(BoltPatternDensity, FailsWithoutARowSpacingOrAWidth) {
-  const BoltPattern noSpacing{6, 4, 0.75F, 75, 0, 20};
-  const BoltPattern noWidth{6, 4, 0.75F, 75, 4, 0};
+  const BoltPattern noSpacing{Feet(6), 4, Inches(0.75F), Ksi(75), Feet(0), Feet(20)};
+  const BoltPattern noWidth{Feet(6), 4, Inches(0.75F), Ksi(75), Feet(4), Feet(0)};
 
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(ActualPSUP(noSpacing, Grades(Yield))); }), 11);
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(BoltPRSUP(noSpacing, Grades(Yield))); }), 11);
@@ -175,19 +176,19 @@ TEST(BoltPatternDensity, FailsWithoutARowSpacingOrAWidth) {
 }
 
 TEST(SecondaryDensity, OfCablesLeavesTheAnchorOut) {
-  EXPECT_EQ(CablePRSUP({10, 2, 26.4F, 5, 20}), 5.27999973F);
-  EXPECT_EQ(CableSRDI({10, 2, 26.4F, 5, 20}), 74.0335159F);
-  EXPECT_EQ(CablePRSUP({12, 3, 35.7F, 4, 18}), 17.8500004F);
-  EXPECT_EQ(CableSRDI({12, 3, 35.7F, 4, 18}), 251.707321F);
+  EXPECT_EQ(CablePRSUP({Feet(10), 2, 26.4F, Feet(5), Feet(20)}), 5.27999973F);
+  EXPECT_EQ(CableSRDI({Feet(10), 2, 26.4F, Feet(5), Feet(20)}), 74.0335159F);
+  EXPECT_EQ(CablePRSUP({Feet(12), 3, 35.7F, Feet(4), Feet(18)}), 17.8500004F);
+  EXPECT_EQ(CableSRDI({Feet(12), 3, 35.7F, Feet(4), Feet(18)}), 251.707321F);
 }
 
 TEST(SecondaryDensity, OfBoltsTakesTheWholeLength) {
-  EXPECT_EQ(BoltSRDI({10, 2, 26.4F, 5, 20}), 76.5599976F);
-  EXPECT_EQ(BoltSRDI({12, 3, 35.7F, 4, 18}), 258.825012F);
+  EXPECT_EQ(BoltSRDI({Feet(10), 2, 26.4F, Feet(5), Feet(20)}), 76.5599976F);
+  EXPECT_EQ(BoltSRDI({Feet(12), 3, 35.7F, Feet(4), Feet(18)}), 258.825012F);
 }
 
 TEST(SecondaryDensity, FailsWithoutARowSpacing) {
-  const SupportPattern pattern{10, 2, 26.4F, 0, 20};
+  const SupportPattern pattern{Feet(10), 2, 26.4F, Feet(0), Feet(20)};
 
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(CablePRSUP(pattern)); }), 11);
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(CableSRDI(pattern)); }), 11);

@@ -27,7 +27,9 @@ RC_GTEST_PROP(SuggestedPsupProperty, FallsAsTheRoofGetsStronger, ()) {
   const Single span = *Typed(40, 80);
   const Single depth = *Typed(1, 5000);
   const int rating = *rc::gen::inRange(21, 100);
-  const auto psupAt = [&](int cmrr) { return SuggestedPSUP(stability, 63.2F, span, depth, static_cast<Single>(cmrr)); };
+  const auto psupAt = [&](int cmrr) {
+    return SuggestedPSUP({stability, static_cast<Single>(cmrr), Feet(depth), Feet(span)}, Feet(63.2F));
+  };
 
   RC_ASSERT(psupAt(rating + 1) <= psupAt(rating));
   RC_ASSERT(psupAt(rating + 1) < psupAt(rating) || psupAt(rating + 1) == 3);
@@ -38,7 +40,9 @@ RC_GTEST_PROP(SuggestedPsupProperty, GrowsWithTheDepth, ()) {
   const Single depth = *Typed(1, 5000);
   const auto rating = static_cast<Single>(*rc::gen::inRange(21, 100));
 
-  RC_ASSERT(SuggestedPSUP(1, 63.2F, span, depth, rating) <= SuggestedPSUP(1, 63.2F, span, depth + 10, rating));
+  const auto psupAt = [&](Single feet) { return SuggestedPSUP({1, rating, Feet(feet), Feet(span)}, Feet(63.2F)); };
+
+  RC_ASSERT(psupAt(depth) <= psupAt(depth + 10));
 }
 
 RC_GTEST_PROP(RockLoadProperty, GrowsWithTheWidth, ()) {
@@ -60,22 +64,23 @@ RC_GTEST_PROP(RockLoadProperty, GrowsWithTheUnitWeight, ()) {
 }
 
 RC_GTEST_PROP(RockLoadProperty, IsNeverNegative, ()) {
-  const Single angle = *Typed(-200, 200);
-  const Single width = *Typed(-100, 100);
-  const Single unitWeight = *Typed(-200, 200);
-  Single height = *Typed(-100, 100);
+  const FallAngle angle(*Typed(-200, 200));
+  const Feet width(*Typed(-100, 100));
+  const Pcf unitWeight(*Typed(-200, 200));
+  const WorkingRock rock{unitWeight, Feet(*Typed(-100, 100)), angle, width, width};
 
-  RC_ASSERT(RockLoadIntersection(angle, width, unitWeight, height) >= 0);
-  RC_ASSERT(RockLoadEntry(angle, width, unitWeight, height) >= 0);
+  RC_ASSERT(RockLoadIntersection(rock) >= 0);
+  RC_ASSERT(RockLoadEntry(rock).Load >= 0);
 }
 
 RC_GTEST_PROP(RockLoadProperty, OfTheDialogIsThatOfTheCurvesForOneAngleBelowItsLimit, ()) {
   const Single angle = *Typed(0, 45);
   const RockInputs rock{*Typed(100, 200), *Typed(1, 7), angle, angle, *Typed(15, 25), *Typed(60, 80)};
-  Single height = rock.Height;
+  const WorkingRock ofCurves{Pcf(rock.UnitWeight), Feet(rock.Height), FallAngle(angle), Feet(rock.Width),
+                             Feet(rock.Span)};
 
-  const Single entry = RockLoadEntry(angle, rock.Width, rock.UnitWeight, height);
-  const Single intersection = RockLoadIntersection(angle, rock.Span, rock.UnitWeight, rock.Height);
+  const Single entry = RockLoadEntry(ofCurves).Load;
+  const Single intersection = RockLoadIntersection(ofCurves);
 
   RC_ASSERT(AgreesWithin(1E-6, entry, *EntryRockLoad(rock, English)));
   RC_ASSERT(AgreesWithin(1E-6, intersection, *IntersectionRockLoad(rock, English)));
@@ -83,13 +88,12 @@ RC_GTEST_PROP(RockLoadProperty, OfTheDialogIsThatOfTheCurvesForOneAngleBelowItsL
 
 RC_GTEST_PROP(LimitedHeightProperty, IsNeverAboveTheOneAskedFor, ()) {
   const Single asked = *Typed(0, 100);
-  const Single angle = *Typed(0, 89);
-  Single height = asked;
+  const FallAngle angle(*Typed(0, 89));
 
-  static_cast<void>(RockLoadEntry(angle, 20, 162, height));
+  const LimitedLoad limited = RockLoadEntry({Pcf(162), Feet(asked), angle, Feet(20), {}});
 
-  RC_ASSERT(height <= asked);
-  RC_ASSERT(MaxRockHeightIntersection(asked, 60, angle, angle) <= asked);
+  RC_ASSERT(limited.Height.Value <= asked);
+  RC_ASSERT(MaxRockHeightIntersection({asked, 60, angle, angle}) <= asked);
 }
 
 RC_GTEST_PROP(StabilityFactorProperty, TimesTheRockLoadIsTheCapacity, ()) {
@@ -123,14 +127,14 @@ RC_GTEST_PROP(UnitsProperty, AMetricDesignIsSuggestedTheSameSupport, ()) {
 }
 
 RC_GTEST_PROP(UnitsProperty, AMetricPatternHasTheSamePsup, ()) {
-  const BoltPattern feet{*Typed(2, 10),   *Typed(1, 10), static_cast<Single>(*rc::gen::inRange(55, 120)) / 100,
-                         *Typed(36, 120), *Typed(2, 6),  *Typed(10, 30)};
-  const BoltPattern metres{InMetres(feet.Length),
-                           feet.BoltsPerRow,
-                           static_cast<Single>(feet.Diameter * 25.4),
-                           static_cast<Single>(feet.Grade * 6.894757293),
-                           InMetres(feet.RowSpacing),
-                           InMetres(feet.EntryWidth)};
+  const PatternInputs feet{*Typed(2, 10),   *Typed(1, 10), static_cast<Single>(*rc::gen::inRange(55, 120)) / 100,
+                           *Typed(36, 120), *Typed(2, 6),  *Typed(10, 30)};
+  const PatternInputs metres{InMetres(feet.Length),
+                             feet.BoltsPerRow,
+                             static_cast<Single>(feet.Diameter * 25.4),
+                             static_cast<Single>(feet.Grade * 6.894757293),
+                             InMetres(feet.RowSpacing),
+                             InMetres(feet.EntryWidth)};
 
   RC_ASSERT(AgreesWithin(1E-5, *ActualLive(feet, English, Grades(Yield)), *ActualLive(metres, Metric, Grades(Yield))));
 }

@@ -16,22 +16,25 @@ SiteInputs With(SiteInputs site, Single SiteInputs::*member, Single value) {
   return site;
 }
 
-TEST(Suggestion, OfTheEnglishDefaults) {
-  const Suggestion suggestion = SuggestSupport(EnglishSite, English);
+constexpr WorkingSite SiteWith(Feet span) { return {1, 45, Feet(400), span, Feet(20)}; }
 
-  EXPECT_EQ(suggestion.SuggestedSpan, 63.2F);
-  EXPECT_EQ(suggestion.MinSpan, 32.2842712F);
+TEST(Suggestion, OfTheEnglishDefaults) {
+  const Suggestion suggestion = SuggestSupport(SiteWith(Feet(60)), English);
+
+  EXPECT_EQ(suggestion.SuggestedSpan.Value, 63.2F);
+  EXPECT_EQ(suggestion.MinSpan.Value, 32.2842712F);
   EXPECT_EQ(suggestion.SugPSUP, 7.6068387F);
-  EXPECT_EQ(suggestion.SugLength, 4.89856911F);
+  EXPECT_EQ(suggestion.SugLength.Value, 4.89856911F);
 }
 
 TEST(Suggestion, JudgesTheSpanAgainstBothItsLimits) {
-  const SiteInputs tooLarge = With(EnglishSite, &SiteInputs::Span, 63.3F);
-  const SiteInputs tooSmall = With(EnglishSite, &SiteInputs::Span, 31);
-  const SiteInputs both{1, 15, 400, 60, 41};
+  const WorkingSite fine = SiteWith(Feet(60));
+  const WorkingSite tooLarge = SiteWith(Feet(63.3F));
+  const WorkingSite tooSmall = SiteWith(Feet(31));
+  const WorkingSite both{1, 15, Feet(400), Feet(60), Feet(41)};
 
-  EXPECT_FALSE(SuggestSupport(EnglishSite, English).SpanIsTooLarge(EnglishSite));
-  EXPECT_FALSE(SuggestSupport(EnglishSite, English).SpanAndWidthMismatch(EnglishSite));
+  EXPECT_FALSE(SuggestSupport(fine, English).SpanIsTooLarge(fine));
+  EXPECT_FALSE(SuggestSupport(fine, English).SpanAndWidthMismatch(fine));
   EXPECT_TRUE(SuggestSupport(tooLarge, English).SpanIsTooLarge(tooLarge));
   EXPECT_TRUE(SuggestSupport(tooSmall, English).SpanAndWidthMismatch(tooSmall));
   EXPECT_TRUE(SuggestSupport(both, English).SpanIsTooLarge(both));
@@ -39,20 +42,20 @@ TEST(Suggestion, JudgesTheSpanAgainstBothItsLimits) {
 }
 
 TEST(Suggestion, DoesNotWarnOfASpanAtItsLimits) {
-  const SiteInputs atSuggested = With(EnglishSite, &SiteInputs::Span, 63.2F);
-  const SiteInputs atSmallest = With(EnglishSite, &SiteInputs::Span, 32.2842712F);
+  const WorkingSite atSuggested = SiteWith(Feet(63.2F));
+  const WorkingSite atSmallest = SiteWith(Feet(32.2842712F));
 
   EXPECT_FALSE(SuggestSupport(atSuggested, English).SpanIsTooLarge(atSuggested));
   EXPECT_FALSE(SuggestSupport(atSmallest, English).SpanAndWidthMismatch(atSmallest));
 }
 
 TEST(WorkingUnits, AreEnglishWhateverTheProjectsAre) {
-  EXPECT_EQ(InFeet(150, Metric), 492.125977F);
-  EXPECT_EQ(InFeet(400, English), 400.0F);
-  EXPECT_EQ(InEnglishUnits({20, 520}, Metric).Diameter, 0.787401557F);
-  EXPECT_EQ(InEnglishUnits({20, 520}, Metric).Grade, 75.4196243F);
-  EXPECT_EQ(InEnglishUnits({0.75F, 75}, English).Diameter, 0.75F);
-  EXPECT_EQ(InEnglishUnits({0.75F, 75}, English).Grade, 75.0F);
+  EXPECT_EQ(InFeet(150, Metric).Value, 492.125977F);
+  EXPECT_EQ(InFeet(400, English).Value, 400.0F);
+  EXPECT_EQ(InEnglishUnits({20, 520}, Metric).Diameter.Value, 0.787401557F);
+  EXPECT_EQ(InEnglishUnits({20, 520}, Metric).Grade.Value, 75.4196243F);
+  EXPECT_EQ(InEnglishUnits({0.75F, 75}, English).Diameter.Value, 0.75F);
+  EXPECT_EQ(InEnglishUnits({0.75F, 75}, English).Grade.Value, 75.0F);
 }
 
 TEST(LiveSuggestion, OfTheEnglishDefaults) {
@@ -158,10 +161,10 @@ TEST(LiveSuggestion, FailsAtADepthOfZero) {
   EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(SuggestLive(With(MetricSite, &SiteInputs::Depth, 0), Metric)); }), 5);
 }
 
-constexpr BoltPattern EnglishPattern{6, 4, 0.75F, 75, 4, 20};
-constexpr BoltPattern MetricPattern{2, 4, 20, 520, 1.2F, 6.2F};
+constexpr PatternInputs EnglishPattern{6, 4, 0.75F, 75, 4, 20};
+constexpr PatternInputs MetricPattern{2, 4, 20, 520, 1.2F, 6.2F};
 
-BoltPattern With(BoltPattern pattern, Single BoltPattern::*member, Single value) {
+PatternInputs With(PatternInputs pattern, Single PatternInputs::*member, Single value) {
   pattern.*member = value;
   return pattern;
 }
@@ -172,26 +175,26 @@ TEST(LivePsup, OfTheDefaults) {
 }
 
 TEST(LivePsup, OfUltimateGradesIsOnYield) {
-  EXPECT_EQ(ActualLive(With(EnglishPattern, &BoltPattern::Grade, 100), English, Grades(Ultimate)), 9.94019508F);
-  EXPECT_EQ(ActualLive(With(EnglishPattern, &BoltPattern::Grade, 110), English, Grades(Ultimate)), 11.0446622F);
+  EXPECT_EQ(ActualLive(With(EnglishPattern, &PatternInputs::Grade, 100), English, Grades(Ultimate)), 9.94019508F);
+  EXPECT_EQ(ActualLive(With(EnglishPattern, &PatternInputs::Grade, 110), English, Grades(Ultimate)), 11.0446622F);
   // 690 MPa are 100.08 ksi, which the English list does not have.
-  EXPECT_EQ(ActualLive(With(MetricPattern, &BoltPattern::Grade, 690), Metric, Grades(Ultimate)), 11.5396614F);
+  EXPECT_EQ(ActualLive(With(MetricPattern, &PatternInputs::Grade, 690), Metric, Grades(Ultimate)), 11.5396614F);
 }
 
 TEST(LivePsup, OfTheThickestBoltsAndTheFullestRows) {
-  EXPECT_EQ(ActualLive(With(EnglishPattern, &BoltPattern::BoltsPerRow, 10), English, Grades(Yield)), 24.8504868F);
-  EXPECT_EQ(ActualLive(With(EnglishPattern, &BoltPattern::Diameter, 1.25F), English, Grades(Yield)), 27.6116543F);
-  EXPECT_EQ(ActualLive(With(MetricPattern, &BoltPattern::BoltsPerRow, 10), Metric, Grades(Yield)), 30.0911503F);
-  EXPECT_EQ(ActualLive(With(MetricPattern, &BoltPattern::Diameter, 31.75F), Metric, Grades(Yield)), 30.3337612F);
+  EXPECT_EQ(ActualLive(With(EnglishPattern, &PatternInputs::BoltsPerRow, 10), English, Grades(Yield)), 24.8504868F);
+  EXPECT_EQ(ActualLive(With(EnglishPattern, &PatternInputs::Diameter, 1.25F), English, Grades(Yield)), 27.6116543F);
+  EXPECT_EQ(ActualLive(With(MetricPattern, &PatternInputs::BoltsPerRow, 10), Metric, Grades(Yield)), 30.0911503F);
+  EXPECT_EQ(ActualLive(With(MetricPattern, &PatternInputs::Diameter, 31.75F), Metric, Grades(Yield)), 30.3337612F);
 }
 
 struct PatternGuard {
-  Single BoltPattern::*member;
+  Single PatternInputs::*member;
   Single value;
   bool computes;
 };
 
-void ExpectGuards(const BoltPattern& pattern, UnitSystem units, std::initializer_list<PatternGuard> guards) {
+void ExpectGuards(const PatternInputs& pattern, UnitSystem units, std::initializer_list<PatternGuard> guards) {
   int row = 0;
   for (const auto& [member, value, computes] : guards) {
     EXPECT_EQ(ActualLive(With(pattern, member, value), units, Grades(Yield)).has_value(), computes)
@@ -202,52 +205,52 @@ void ExpectGuards(const BoltPattern& pattern, UnitSystem units, std::initializer
 
 TEST(LivePsup, IsGuardedInEnglishDesigns) {
   ExpectGuards(EnglishPattern, English,
-               {{&BoltPattern::BoltsPerRow, -1, false},
-                {&BoltPattern::BoltsPerRow, 0, false},
-                {&BoltPattern::BoltsPerRow, 0.1F, true},
-                {&BoltPattern::BoltsPerRow, 10, true},
-                {&BoltPattern::BoltsPerRow, 10.5F, false},
-                {&BoltPattern::Length, -1, false},
-                {&BoltPattern::Length, 0, false},
-                {&BoltPattern::Length, 0.01F, true},
-                {&BoltPattern::Diameter, 0.499F, false},
-                {&BoltPattern::Diameter, 0.5F, false},
-                {&BoltPattern::Diameter, 0.50000006F, true},
-                {&BoltPattern::Diameter, 0.501F, true},
-                {&BoltPattern::Diameter, 1.25F, true},
-                {&BoltPattern::Diameter, 1.25000012F, false},
-                {&BoltPattern::Diameter, 1.251F, false},
-                {&BoltPattern::Grade, -75, false},
-                {&BoltPattern::Grade, 0, false},
-                {&BoltPattern::Grade, 0.1F, true},
-                {&BoltPattern::RowSpacing, -4, false},
-                {&BoltPattern::RowSpacing, 0, false},
-                {&BoltPattern::RowSpacing, 0.01F, true},
-                {&BoltPattern::EntryWidth, -20, false},
-                {&BoltPattern::EntryWidth, 0, false},
-                {&BoltPattern::EntryWidth, 0.01F, true}});
+               {{&PatternInputs::BoltsPerRow, -1, false},
+                {&PatternInputs::BoltsPerRow, 0, false},
+                {&PatternInputs::BoltsPerRow, 0.1F, true},
+                {&PatternInputs::BoltsPerRow, 10, true},
+                {&PatternInputs::BoltsPerRow, 10.5F, false},
+                {&PatternInputs::Length, -1, false},
+                {&PatternInputs::Length, 0, false},
+                {&PatternInputs::Length, 0.01F, true},
+                {&PatternInputs::Diameter, 0.499F, false},
+                {&PatternInputs::Diameter, 0.5F, false},
+                {&PatternInputs::Diameter, 0.50000006F, true},
+                {&PatternInputs::Diameter, 0.501F, true},
+                {&PatternInputs::Diameter, 1.25F, true},
+                {&PatternInputs::Diameter, 1.25000012F, false},
+                {&PatternInputs::Diameter, 1.251F, false},
+                {&PatternInputs::Grade, -75, false},
+                {&PatternInputs::Grade, 0, false},
+                {&PatternInputs::Grade, 0.1F, true},
+                {&PatternInputs::RowSpacing, -4, false},
+                {&PatternInputs::RowSpacing, 0, false},
+                {&PatternInputs::RowSpacing, 0.01F, true},
+                {&PatternInputs::EntryWidth, -20, false},
+                {&PatternInputs::EntryWidth, 0, false},
+                {&PatternInputs::EntryWidth, 0.01F, true}});
 }
 
 TEST(LivePsup, IsGuardedInMetricDesigns) {
   ExpectGuards(MetricPattern, Metric,
-               {{&BoltPattern::BoltsPerRow, 0, false},
-                {&BoltPattern::BoltsPerRow, 10, true},
-                {&BoltPattern::BoltsPerRow, 10.5F, false},
-                {&BoltPattern::Length, 0, false},
-                {&BoltPattern::Length, 0.01F, true},
-                {&BoltPattern::Diameter, 0.75F, false},
-                {&BoltPattern::Diameter, 12.7F, false},
-                {&BoltPattern::Diameter, 12.7000008F, true},
-                {&BoltPattern::Diameter, 12.71F, true},
-                {&BoltPattern::Diameter, 31.75F, true},
-                {&BoltPattern::Diameter, 31.7500019F, false},
-                {&BoltPattern::Diameter, 31.76F, false},
-                {&BoltPattern::Grade, 0, false},
-                {&BoltPattern::Grade, 0.1F, true},
-                {&BoltPattern::RowSpacing, 0, false},
-                {&BoltPattern::RowSpacing, 0.01F, true},
-                {&BoltPattern::EntryWidth, 0, false},
-                {&BoltPattern::EntryWidth, 0.01F, true}});
+               {{&PatternInputs::BoltsPerRow, 0, false},
+                {&PatternInputs::BoltsPerRow, 10, true},
+                {&PatternInputs::BoltsPerRow, 10.5F, false},
+                {&PatternInputs::Length, 0, false},
+                {&PatternInputs::Length, 0.01F, true},
+                {&PatternInputs::Diameter, 0.75F, false},
+                {&PatternInputs::Diameter, 12.7F, false},
+                {&PatternInputs::Diameter, 12.7000008F, true},
+                {&PatternInputs::Diameter, 12.71F, true},
+                {&PatternInputs::Diameter, 31.75F, true},
+                {&PatternInputs::Diameter, 31.7500019F, false},
+                {&PatternInputs::Diameter, 31.76F, false},
+                {&PatternInputs::Grade, 0, false},
+                {&PatternInputs::Grade, 0.1F, true},
+                {&PatternInputs::RowSpacing, 0, false},
+                {&PatternInputs::RowSpacing, 0.01F, true},
+                {&PatternInputs::EntryWidth, 0, false},
+                {&PatternInputs::EntryWidth, 0.01F, true}});
 }
 
 }  // namespace

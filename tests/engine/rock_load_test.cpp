@@ -150,7 +150,7 @@ TEST(IntersectionRock, FallsInAtEachSidesOwnAngle) {
 
 TEST(IntersectionRock, WithDifferentAnglesIsNotWhatACurveShows) {
   EXPECT_EQ(IntersectionRockLoad(Rock(8, 30, 20), English), 199.703506F);
-  EXPECT_EQ(RockLoadIntersection(30, 60, 162, 8), 183.050446F);
+  EXPECT_EQ(RockLoadIntersection({Pcf(162), Feet(8), FallAngle(30), Feet(20), Feet(60)}), 183.050446F);
 }
 
 TEST(IntersectionRock, IsLimitedByTheEntrysAngleEvenWhenTheCrosscutsIsSteeper) {

@@ -10,90 +10,93 @@ namespace orby::test {
 namespace {
 
 TEST(SuggestedSpan, GrowsWithTheRoofRating) {
-  EXPECT_EQ(SuggestedSumDiagonals(0), 46.1F);
-  EXPECT_EQ(SuggestedSumDiagonals(20), 53.7F);
-  EXPECT_EQ(SuggestedSumDiagonals(45), 63.2F);
-  EXPECT_EQ(SuggestedSumDiagonals(100), 84.1F);
+  EXPECT_EQ(SuggestedSumDiagonals(0).Value, 46.1F);
+  EXPECT_EQ(SuggestedSumDiagonals(20).Value, 53.7F);
+  EXPECT_EQ(SuggestedSumDiagonals(45).Value, 63.2F);
+  EXPECT_EQ(SuggestedSumDiagonals(100).Value, 84.1F);
 }
 
 TEST(SmallestSpan, HasAMarginOfFourFeetInEnglishDesigns) {
-  EXPECT_EQ(MinimumSumDiagonals(0, English), 4.0F);
-  EXPECT_EQ(MinimumSumDiagonals(10, English), 18.1421356F);
-  EXPECT_EQ(MinimumSumDiagonals(18.5F, English), 30.1629505F);
-  EXPECT_EQ(MinimumSumDiagonals(20, English), 32.2842712F);
+  EXPECT_EQ(MinimumSumDiagonals(Feet(0), English).Value, 4.0F);
+  EXPECT_EQ(MinimumSumDiagonals(Feet(10), English).Value, 18.1421356F);
+  EXPECT_EQ(MinimumSumDiagonals(Feet(18.5F), English).Value, 30.1629505F);
+  EXPECT_EQ(MinimumSumDiagonals(Feet(20), English).Value, 32.2842712F);
 }
 
 TEST(SmallestSpan, HasAMarginOfFourMetresInMetricDesigns) {
-  EXPECT_EQ(MinimumSumDiagonals(0, Metric), 13.1233597F);
-  EXPECT_EQ(MinimumSumDiagonals(10, Metric), 27.2654953F);
-  EXPECT_EQ(MinimumSumDiagonals(18.5F, Metric), 39.2863121F);
-  EXPECT_EQ(MinimumSumDiagonals(20, Metric), 41.4076309F);
+  EXPECT_EQ(MinimumSumDiagonals(Feet(0), Metric).Value, 13.1233597F);
+  EXPECT_EQ(MinimumSumDiagonals(Feet(10), Metric).Value, 27.2654953F);
+  EXPECT_EQ(MinimumSumDiagonals(Feet(18.5F), Metric).Value, 39.2863121F);
+  EXPECT_EQ(MinimumSumDiagonals(Feet(20), Metric).Value, 41.4076309F);
 }
 
 TEST(SuggestedPsup, IsThatOfTheSpanDepthAndRating) {
-  EXPECT_EQ(SuggestedPSUP(1, 63.2F, 60, 400, 45), 7.6068387F);
-  EXPECT_EQ(SuggestedPSUP(2, 59.4F, 70, 1000, 35), 61.4361992F);
+  EXPECT_EQ(SuggestedPSUP({1, 45, Feet(400), Feet(60)}, Feet(63.2F)), 7.6068387F);
+  EXPECT_EQ(SuggestedPSUP({2, 35, Feet(1000), Feet(70)}, Feet(59.4F)), 61.4361992F);
 }
 
 TEST(SuggestedPsup, IsMultipliedByTheStabilityFactor) {
-  EXPECT_EQ(SuggestedPSUP(1.5F, 63.2F, 60, 400, 45), 11.4102583F);
+  EXPECT_EQ(SuggestedPSUP({1.5F, 45, Feet(400), Feet(60)}, Feet(63.2F)), 11.4102583F);
 }
 
 TEST(SuggestedPsup, TakesTheSpanAsItIsWhenItEqualsTheSuggestedOne) {
-  EXPECT_EQ(SuggestedPSUP(1, 63.2F, 63.2F, 400, 45), 8.43987179F);
-  EXPECT_EQ(SuggestedPSUP(1, 54.08F, 54.08F, 400, 21), 66.0577469F);
+  EXPECT_EQ(SuggestedPSUP({1, 45, Feet(400), Feet(63.2F)}, Feet(63.2F)), 8.43987179F);
+  EXPECT_EQ(SuggestedPSUP({1, 21, Feet(400), Feet(54.08F)}, Feet(54.08F)), 66.0577469F);
 }
 
 TEST(SuggestedPsup, IsThreeForTheWeakestRoofs) {
-  EXPECT_EQ(SuggestedPSUP(1, 53.7F, 60, 400, 20), 3.0F);
-  EXPECT_EQ(SuggestedPSUP(5, 46.1F, 60, 400, 0), 3.0F);
+  EXPECT_EQ(SuggestedPSUP({1, 20, Feet(400), Feet(60)}, Feet(53.7F)), 3.0F);
+  EXPECT_EQ(SuggestedPSUP({5, 0, Feet(400), Feet(60)}, Feet(46.1F)), 3.0F);
 }
 
 TEST(SuggestedPsup, LosesTheRatingsTermAtARatingOf21) {
-  EXPECT_EQ(SuggestedPSUP(1, 54.08F, 60, 400, 21), 81.3116684F);
-  EXPECT_EQ(SuggestedPSUP(1, 63.2F, 60, 400, 20.5F), 70.7204132F);
+  EXPECT_EQ(SuggestedPSUP({1, 21, Feet(400), Feet(60)}, Feet(54.08F)), 81.3116684F);
+  EXPECT_EQ(SuggestedPSUP({1, 20.5F, Feet(400), Feet(60)}, Feet(63.2F)), 70.7204132F);
 }
 
 TEST(SuggestedPsup, IsNoneAtTheSurfaceUnlessTheRoofIsAtItsWeakest) {
-  EXPECT_EQ(SuggestedPSUP(1, 63.2F, 60, 0, 45), 0.0F);
-  EXPECT_EQ(SuggestedPSUP(1, 63.2F, 60, -10, 45), 0.0F);
-  EXPECT_EQ(SuggestedPSUP(1, 53.7F, 60, 0, 20), 3.0F);
+  EXPECT_EQ(SuggestedPSUP({1, 45, Feet(0), Feet(60)}, Feet(63.2F)), 0.0F);
+  EXPECT_EQ(SuggestedPSUP({1, 45, Feet(-10), Feet(60)}, Feet(63.2F)), 0.0F);
+  EXPECT_EQ(SuggestedPSUP({1, 20, Feet(0), Feet(60)}, Feet(53.7F)), 3.0F);
 }
 
 TEST(SuggestedPsup, DoesNotFallBelowThree) {
-  EXPECT_EQ(SuggestedPSUP(1, 76.5F, 60, 100, 80), 3.0F);
-  EXPECT_EQ(SuggestedPSUP(1, 63.2F, 60, 1, 45), 3.0F);
+  EXPECT_EQ(SuggestedPSUP({1, 80, Feet(100), Feet(60)}, Feet(76.5F)), 3.0F);
+  EXPECT_EQ(SuggestedPSUP({1, 45, Feet(1), Feet(60)}, Feet(63.2F)), 3.0F);
 }
 
 TEST(SuggestedPsup, FailsOnASuggestedSpanOfZero) {
-  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(SuggestedPSUP(1, 0, 60, 400, 45)); }), 11);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(SuggestedPSUP({1, 45, Feet(400), Feet(60)}, Feet(0))); }), 11);
 }
 
 TEST(SuggestedPsup, FailsBeyondTheRangeOfASingle) {
-  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(SuggestedPSUP(1E30F, 63.2F, 1E10F, 400, 45)); }), 6);
+  EXPECT_EQ(ErrorNumberOf([] {
+              static_cast<void>(SuggestedPSUP({1E30F, 45, Feet(400), Feet(1E10F)}, Feet(63.2F)));
+            }),
+            6);
 }
 
 TEST(SuggestedLength, IsThatOfTheSpanDepthAndRating) {
-  EXPECT_EQ(SuggestedBoltLength(60, 400, 45), 4.89856911F);
-  EXPECT_EQ(SuggestedBoltLength(60, 1000, 35), 7.25603199F);
-  EXPECT_EQ(SuggestedBoltLength(70, 1500, 30), 10.0160093F);
-  EXPECT_EQ(SuggestedBoltLength(60, 400, 0), 12.0095081F);
+  EXPECT_EQ(SuggestedBoltLength({1, 45, Feet(400), Feet(60)}).Value, 4.89856911F);
+  EXPECT_EQ(SuggestedBoltLength({1, 35, Feet(1000), Feet(60)}).Value, 7.25603199F);
+  EXPECT_EQ(SuggestedBoltLength({1, 30, Feet(1500), Feet(70)}).Value, 10.0160093F);
+  EXPECT_EQ(SuggestedBoltLength({1, 0, Feet(400), Feet(60)}).Value, 12.0095081F);
 }
 
 TEST(SuggestedLength, IsFourFeetAtLeast) {
-  EXPECT_EQ(SuggestedBoltLength(60, 400, 80), 4.0F);
-  EXPECT_EQ(SuggestedBoltLength(60, 400, 100), 4.0F);
-  EXPECT_EQ(SuggestedBoltLength(60, 1, 45), 4.0F);
-  EXPECT_EQ(SuggestedBoltLength(60, 0.5F, 45), 4.0F);
+  EXPECT_EQ(SuggestedBoltLength({1, 80, Feet(400), Feet(60)}).Value, 4.0F);
+  EXPECT_EQ(SuggestedBoltLength({1, 100, Feet(400), Feet(60)}).Value, 4.0F);
+  EXPECT_EQ(SuggestedBoltLength({1, 45, Feet(1), Feet(60)}).Value, 4.0F);
+  EXPECT_EQ(SuggestedBoltLength({1, 45, Feet(0.5F), Feet(60)}).Value, 4.0F);
 }
 
 TEST(SuggestedLength, FailsWithoutADepth) {
-  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(SuggestedBoltLength(60, 0, 45)); }), 5);
-  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(SuggestedBoltLength(60, -1, 45)); }), 5);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(SuggestedBoltLength({1, 45, Feet(0), Feet(60)}).Value); }), 5);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(SuggestedBoltLength({1, 45, Feet(-1), Feet(60)}).Value); }), 5);
 }
 
 TEST(SuggestedLength, FailsOnARatingAboveAHundred) {
-  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(SuggestedBoltLength(60, 400, 100.5F)); }), 5);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(SuggestedBoltLength({1, 100.5F, Feet(400), Feet(60)}).Value); }), 5);
 }
 
 TEST(DecimalLogarithm, IsThatOfBaseTen) {

@@ -191,16 +191,16 @@ TEST(BoltReport, AMetricBoltSixtyCentimetresTooLongIsWarnedOf) {
 }
 
 TEST(BoltReport, SixtyCentimetresAreTheSingleNearestToThem) {
-  EXPECT_EQ(JudgeLength(0.85F, 0.25F, Metric), LengthVerdict::Fine);  // 0.60000002 m more
-  EXPECT_EQ(JudgeLength(2.1F, 1.5F, Metric), LengthVerdict::Fine);    // 0.5999999 m more
-  EXPECT_EQ(JudgeLength(2.1000001F, 1.5F, Metric), LengthVerdict::TooLong);
+  EXPECT_EQ(JudgeLength({.Actual = 0.85F, .Suggested = 0.25F}, Metric), LengthVerdict::Fine);  // 0.60000002 m more
+  EXPECT_EQ(JudgeLength({.Actual = 2.1F, .Suggested = 1.5F}, Metric), LengthVerdict::Fine);    // 0.5999999 m more
+  EXPECT_EQ(JudgeLength({.Actual = 2.1000001F, .Suggested = 1.5F}, Metric), LengthVerdict::TooLong);
 }
 
 TEST(BoltReport, LengthsAreJudgedToTheLastBit) {
-  EXPECT_EQ(JudgeLength(6, 4, English), LengthVerdict::Fine);
-  EXPECT_EQ(JudgeLength(6.0000005F, 4, English), LengthVerdict::TooLong);
-  EXPECT_EQ(JudgeLength(4, 4, English), LengthVerdict::Fine);
-  EXPECT_EQ(JudgeLength(3.9999998F, 4, English), LengthVerdict::TooShort);
+  EXPECT_EQ(JudgeLength({.Actual = 6, .Suggested = 4}, English), LengthVerdict::Fine);
+  EXPECT_EQ(JudgeLength({.Actual = 6.0000005F, .Suggested = 4}, English), LengthVerdict::TooLong);
+  EXPECT_EQ(JudgeLength({.Actual = 4, .Suggested = 4}, English), LengthVerdict::Fine);
+  EXPECT_EQ(JudgeLength({.Actual = 3.9999998F, .Suggested = 4}, English), LengthVerdict::TooShort);
 }
 
 TEST(BoltReport, ABoltBelowTheASTMMinimumIsWarnedOf) {
@@ -244,10 +244,10 @@ TEST(BoltReport, AShortAndWeakBoltHasWarnings) {
 }
 
 TEST(BoltReport, TheASTMMinimaAreTheSinglesNearestToThem) {
-  EXPECT_FALSE(FailsASTM({0.75F, 38.253773F}, English));  // 8.45 tons as a Single, which is less than 8.45
-  EXPECT_TRUE(FailsASTM({0.75F, 38.253769F}, English));
-  EXPECT_FALSE(FailsASTM({0.75F, 42.418861F}, Metric));  // 83.36 kN
-  EXPECT_TRUE(FailsASTM({0.75F, 42.418858F}, Metric));
+  EXPECT_FALSE(FailsASTM({Inches(0.75F), Ksi(38.253773F)}, English));  // 8.45 tons as a Single, which is less than 8.45
+  EXPECT_TRUE(FailsASTM({Inches(0.75F), Ksi(38.253769F)}, English));
+  EXPECT_FALSE(FailsASTM({Inches(0.75F), Ksi(42.418861F)}, Metric));  // 83.36 kN
+  EXPECT_TRUE(FailsASTM({Inches(0.75F), Ksi(42.418858F)}, Metric));
 }
 
 TEST(DesignReport, EnoughSupportIsOK) {
@@ -301,10 +301,10 @@ TEST(DesignReport, ARoofThatIsAtItsWeakestIsSuggestedThree) {
 }
 
 TEST(DesignReport, ASuggestionBelowThreeIsAMatterOfSkinControl) {
-  EXPECT_EQ(JudgePsup(2.9999998F, 9), PsupVerdict::SkinControl);
-  EXPECT_EQ(JudgePsup(0, 0), PsupVerdict::SkinControl);
-  EXPECT_EQ(JudgePsup(3, 2.9F), PsupVerdict::TooLow);
-  EXPECT_EQ(JudgePsup(3, 3), PsupVerdict::Fine);
+  EXPECT_EQ(JudgePsup({.Actual = 9, .Suggested = 2.9999998F}), PsupVerdict::SkinControl);
+  EXPECT_EQ(JudgePsup({.Actual = 0, .Suggested = 0}), PsupVerdict::SkinControl);
+  EXPECT_EQ(JudgePsup({.Actual = 2.9F, .Suggested = 3}), PsupVerdict::TooLow);
+  EXPECT_EQ(JudgePsup({.Actual = 3, .Suggested = 3}), PsupVerdict::Fine);
   EXPECT_EQ(PsupMessage(PsupVerdict::SkinControl), "Bolt reinforcement mechanism is skin control or suspension.");
 }
 
