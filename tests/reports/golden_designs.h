@@ -1,4 +1,5 @@
-// The whole designs behind the golden pages in tests/data/reports, by the pages' name.
+// The whole designs behind the golden pages in tests/data/reports: project files of the pages' names. A row of
+// golden_designs.tsv has the path that the pages show and the figures of secondary support.
 #pragma once
 
 #include <string>
@@ -10,10 +11,7 @@ namespace orby::test {
 
 std::vector<std::string> GoldenNames();
 
-// What the desk of a design has to be made for.
-UnitSystem GoldenUnits(const std::string& name);
-StrengthBasis GoldenStrengthMode(const std::string& name);
-
-void BuildGolden(Desk& desk, const std::string& name);
+// Opens the design at the desk.
+void OpenGolden(Desk& desk, const std::string& name);
 
 }  // namespace orby::test

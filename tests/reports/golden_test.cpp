@@ -11,8 +11,8 @@ namespace {
 class GoldenPages : public testing::TestWithParam<std::string> {};
 
 TEST_P(GoldenPages, TheInputPageIsToTheLetter) {
-  Desk desk(GoldenUnits(GetParam()), GoldenStrengthMode(GetParam()));
-  BuildGolden(desk, GetParam());
+  Desk desk;
+  OpenGolden(desk, GetParam());
 
   LoadOutBuf0(desk.program, desk.program.project.WorkParms);
 
@@ -20,8 +20,8 @@ TEST_P(GoldenPages, TheInputPageIsToTheLetter) {
 }
 
 TEST_P(GoldenPages, TheCalculationPageIsToTheLetter) {
-  Desk desk(GoldenUnits(GetParam()), GoldenStrengthMode(GetParam()));
-  BuildGolden(desk, GetParam());
+  Desk desk;
+  OpenGolden(desk, GetParam());
 
   const Design& design = desk.program.project.WorkParms;
   EXPECT_EQ(CalculationReport(design, desk.program.session.catalogs),

@@ -225,8 +225,8 @@ TEST(Printing, FailsWithoutAPrinter) {
 
 TEST(Printing, ArrangesAWholeReportOnItsSheets) {
   const std::string name = "every_system_english";
-  Desk desk(GoldenUnits(name), GoldenStrengthMode(name));
-  BuildGolden(desk, name);
+  Desk desk;
+  OpenGolden(desk, name);
   const Design& design = desk.program.project.WorkParms;
   LoadOutBuf0(desk.program, design);
   TakeCalculationPage(desk.program, CalculationReport(design, desk.program.session.catalogs));
