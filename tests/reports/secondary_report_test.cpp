@@ -187,6 +187,19 @@ TEST(EntryReport, RoofBoltsWithoutCableBoltsEndTheReport) {
   }
 }
 
+TEST(EntryReport, MissesTheCableBoltsBeforeItFindsARowOfBoltsTooLong) {
+  EntryDesk desk;
+  desk.Parms().Entries.Bolt.Use = 1;
+  desk.Parms().Entries.Bolt.BoltsperRow = 3E38F;
+
+  const int withCableBolts = desk.Error();
+  desk.Parms().Entries.Cable.Use = 0;
+  const int without = desk.Error();
+
+  EXPECT_EQ(withCableBolts, 6);
+  EXPECT_EQ(without, 11);
+}
+
 TEST(EntryReport, RoofBoltsBesideCableBolts) {
   EntryDesk desk;
   desk.Parms().Entries.Bolt.Use = 1;
