@@ -119,6 +119,7 @@ TEST_F(RecoveryFile, RestoresAnUnsavedProjectUnderItsOldName) {
   project.program.project.ProjectTitle = "Panel 3";
   project.program.project.ProjectDescription = "\r\n  a line, kept as it is\r\n\r\n";
   project.program.project.WorkParms.Place.DepthofCover = 725;
+  project.program.project.UseAUSStandardTable = 1;
   project.program.project.UnitsLocked = true;
   const auto read = ReadRecovery(Bytes());
   ASSERT_TRUE(read.has_value());
@@ -131,6 +132,7 @@ TEST_F(RecoveryFile, RestoresAnUnsavedProjectUnderItsOldName) {
   EXPECT_EQ(next.program.project.ProjectTitle, "Panel 3");
   EXPECT_EQ(next.program.project.ProjectDescription, "\r\n  a line, kept as it is\r\n\r\n");
   EXPECT_EQ(next.program.project.WorkParms.Place.DepthofCover, 725);
+  EXPECT_EQ(next.program.project.UseAUSStandardTable, 1);
   EXPECT_FALSE(next.program.project.FileSaved);
   EXPECT_FALSE(next.program.project.FileEmpty);
   EXPECT_TRUE(next.program.project.UnitsLocked);

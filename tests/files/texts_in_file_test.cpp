@@ -50,6 +50,7 @@ TEST(LinesThatDoNotComeBack, AreTheMarksOfTheFile) {
   EXPECT_EQ(LostIn("Panel 3", "Belt entry\r\n##EndDesc##"), "##EndDesc##");
   EXPECT_EQ(LostIn("##EndDesc##", "Belt entry"), "##EndDesc##");
   EXPECT_EQ(LostIn("##StartDesc##", "Belt entry"), "##StartDesc##");
+  EXPECT_EQ(LostIn("Panel 3,##EndDesc##", "Belt entry"), "Panel 3,##EndDesc##") << "a comma starts a line";
   EXPECT_THAT(std::string(LineThatWouldNotComeBack({"", "##EndDesc##"})->Reason), HasSubstr("a mark of its own"));
 }
 
