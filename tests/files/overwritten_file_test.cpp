@@ -136,5 +136,27 @@ TEST_F(OverwrittenOnDisk, TheCopyOfAFileIsReadByItsUserAlone) {
   EXPECT_EQ(ModeOf("data/Backups"), 0700U);
 }
 
+// A pipe has no length, and who reads it waits for what another program writes.
+class Pipe : public MemoryFiles {
+ public:
+  std::uint64_t FileLength(const std::string&) override { return 0; }
+  std::string ReadFile(const std::string&) override {
+    ++reads;
+    return {};
+  }
+
+  int reads = 0;
+};
+
+TEST(OverwrittenPipe, IsNotReadBeforeItIsWrittenTo) {
+  RecordingPlatform platform;
+  Pipe pipe;
+  Program program(platform.DoorsWith(pipe));
+
+  const OverwrittenFile file(program, "/designs/pipe");
+
+  EXPECT_EQ(pipe.reads, 0);
+}
+
 }  // namespace
 }  // namespace orby::test

@@ -54,6 +54,16 @@ TEST(SaveCommand, SaveAsOffersTheBareNameInTheDataFolder) {
   EXPECT_THAT(project.platform.files.created, ElementsAre("/designs/copy.orb"));
 }
 
+TEST(SaveCommand, AFileToOpenHasToBeThereAndOneToSaveHasNot) {
+  TestProject project;
+  project.platform.fileDialogs.answers = {ProjectPath, ProjectPath};
+
+  AskFileName(project.program, FileDialogMode::Open);
+  AskFileName(project.program, FileDialogMode::Save);
+
+  EXPECT_EQ(project.platform.fileDialogs.kinds, (std::vector<std::string>{"open", "save"}));
+}
+
 TEST(SaveCommand, TheFilterTakesTheConfiguredExtension) {
   TestProject project;
   project.program.session.settings.FileExtension = "RSW";

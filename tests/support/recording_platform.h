@@ -331,20 +331,22 @@ class MemoryFiles : public FileSystem {
 // File dialogs answer from the queue; an empty queue, or an empty name, is a cancelled dialog.
 class ScriptedFileDialogs : public FileDialogs {
  public:
-  std::string AskOpenName(const FileQuestion& question) override { return Answer(question); }
-  std::string AskSaveName(const FileQuestion& question) override { return Answer(question); }
+  std::string AskOpenName(const FileQuestion& question) override { return Answer("open", question); }
+  std::string AskSaveName(const FileQuestion& question) override { return Answer("save", question); }
   std::string AskFolder(const std::string& title, const std::string& folder) override {
     FileQuestion question;
     question.title = title;
     question.folder = folder;
-    return Answer(question);
+    return Answer("folder", question);
   }
 
   std::vector<FileQuestion> asked;
+  std::vector<std::string> kinds;  // of what was asked: "open", "save", "folder"
   std::deque<std::string> answers;
 
  private:
-  std::string Answer(const FileQuestion& question) {
+  std::string Answer(const char* kind, const FileQuestion& question) {
+    kinds.emplace_back(kind);
     asked.push_back(question);
     if (answers.empty() || answers.front().empty()) throw RuntimeError(error_number::Cancelled);
     std::string answer = answers.front();
