@@ -116,7 +116,7 @@ run_roads() {
   result="${log%.log}.xml"
   shift 2
   "$@" ctest --test-dir "$top/build/$preset" -R '^(Desktop|Monkey)[.]' -j "$((2 * $(nproc)))" --schedule-random \
-    --timeout 120 --output-on-failure --output-junit "$result" >"$log" 2>&1 </dev/null
+    --timeout 600 --output-on-failure --output-junit "$result" >"$log" 2>&1 </dev/null
   status=$?
   count_tests "$name" $status "$result" $((SECONDS - began)) "$log"
 }

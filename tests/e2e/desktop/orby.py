@@ -16,7 +16,7 @@ COMPANION = os.environ["ORBY_CLI"]
 EXAMPLES = os.environ["ORBY_EXAMPLES"]
 PICTURES = os.environ["ORBY_PICTURES"]
 
-PATIENCE = 15  # seconds until something that does not happen counts as a failure
+PATIENCE = 60  # seconds until something that does not happen counts as a failure, however loaded the machine is
 TITLE = "Orby Roof Support Workbench"
 
 

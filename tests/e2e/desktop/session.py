@@ -12,7 +12,7 @@ import time
 import unittest
 
 HERE = os.path.dirname(os.path.abspath(__file__))
-PATIENCE = 15  # seconds until something that does not start counts as a failure
+PATIENCE = 60  # seconds until something that does not start counts as a failure, however loaded the machine is
 
 
 # Of modules that are not about the usual screen.
