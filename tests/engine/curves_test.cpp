@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/curve_bench.h"
+#include "support/recording_platform.h"
 
 namespace orby::test {
 namespace {
@@ -159,6 +160,23 @@ TEST_F(Curves, LeaveTheDesignAsItIs) {
   EXPECT_EQ(design.Place.EntryWidth, 20.0F);
   EXPECT_EQ(design.Primary.StabilityFactor, 1.0F);
   EXPECT_EQ(design.Entries.RockFallAngle, 30.0F);
+}
+
+TEST(CurveSubjects, NameTheInputThatIsSweptAndTheFigure) {
+  const CurveSubject& depth = SubjectOfCurve(1);
+  const CurveSubject& angle = SubjectOfCurve(9);
+
+  EXPECT_EQ(depth.Name, "Suggested PSUP vs Depth of Cover");
+  EXPECT_EQ(depth.Independent, "Depth of Cover");
+  EXPECT_EQ(depth.Figure, CurveFigure::Support);
+  EXPECT_EQ(angle.Name, "Rock Load vs Roof Fall Angle (Intersections)");
+  EXPECT_EQ(angle.Independent, "Roof Fall Angle");
+  EXPECT_EQ(angle.Figure, CurveFigure::IntersectionLoad);
+}
+
+TEST(CurveSubjects, AreThoseOfTheTenCurvesAlone) {
+  EXPECT_EQ(ErrorNumberOf([] { SubjectOfCurve(-1); }), 9);
+  EXPECT_EQ(ErrorNumberOf([] { SubjectOfCurve(10); }), 9);
 }
 
 }  // namespace
