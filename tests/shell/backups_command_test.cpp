@@ -7,6 +7,7 @@ namespace orby::test {
 namespace {
 
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 
 const std::string DataFolder = "/home/user/Documents/Orby/";
@@ -49,6 +50,7 @@ TEST_F(TheBackupsCommand, OpensOneAsAnUnsavedProjectUnderItsOldName) {
   EXPECT_EQ(program.project.ProjectTitle, "Belt entry");
   EXPECT_FALSE(program.project.FileSaved);
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb*");
+  EXPECT_THAT(window.txtMain.Text(), HasSubstr("Backup opened as an unsaved project: /designs/panel3.orb\r\n"));
   EXPECT_TRUE(Exists(RecoveryPath)) << "it is unsaved work";
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }

@@ -115,7 +115,7 @@ TEST(RunEndBox, OffersNoStartAgainBeforeAnythingHasBegun) {
 }
 
 TEST(RestartNote, ComesBackAsItWasWritten) {
-  for (const Restart& restart : {Restart{7, {}}, Restart{0, "/designs/panel 3.orb"}, Restart{}}) {
+  for (const Restart& restart : {Restart{1, {}}, Restart{9, {}}, Restart{0, "/designs/panel 3.orb"}, Restart{}}) {
     const Restart read = ReadRestartNote(RestartNote(restart));
 
     EXPECT_EQ(read.Slot, restart.Slot);

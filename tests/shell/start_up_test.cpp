@@ -196,6 +196,17 @@ TEST_F(StartUp, LeavesAFileThatItCannotReadAndWorksWithTheBuiltInSettings) {
   ExpectBuiltInSettings("Permission denied");
 }
 
+TEST_F(StartUp, LeavesAFileThatItCannotReadForAMoment) {
+  Ini() = "[Version]\r\nINIFileVersion=201030\r\n[ORBYDefaults]\r\nDefaultENGDepthofCover=900\r\n";
+  const std::string before = Ini();
+  platform.files.Fail(MemoryFiles::Step::Read, error_number::PermissionDenied, 0, 1);
+
+  StartProgram(program);
+
+  EXPECT_EQ(Ini(), before);
+  ExpectBuiltInSettings("Permission denied");
+}
+
 TEST(StartOnADisk, WorksWithTheBuiltInSettingsWhereAFolderHasTheNameOfTheFile) {
   const TemporaryFolder home;
   DiskFiles files(home.Path());
