@@ -27,6 +27,7 @@ void BuildProjectReport(Program& program) {
   if (last && last->MadeFrom == BasisOf(program, design)) {
     TakeCalculationPage(program, last->Page);
   } else {
+    TakeMetricCables(design);  // which stays so in a design that cannot be shown
     const bool isComputed = Succeeds([&] {
       design = AsReported(program.project, program.session.catalogs);
       TakeCalculationPage(program, CalculationReport(design, program.session.catalogs));

@@ -73,12 +73,16 @@ Design InSevenDigits(Design design) {
   return design;
 }
 
+void TakeMetricCables(Design& design) {
+  if (design.Units == Metric) design.Entries.Cable.CapMode = design.Intersections.Cable.CapMode = 1;
+}
+
 Design AsShown(const Design& design, const BoltTable& table, const Catalogs& catalogs) {
   if (!HasKnownChoices(design)) throw RuntimeError(error_number::Subscript);
   Design shown = InSevenDigits(design);
   shown.Place.CMRR = ToInteger(shown.Place.CMRR);
   for (BoltSelection* set : shown.BoltSets()) TakeRow(*set, table);
-  if (shown.Units == Metric) shown.Entries.Cable.CapMode = shown.Intersections.Cable.CapMode = 1;
+  TakeMetricCables(shown);
 
   TakeOutputs(shown.Entries, EntryFigures(shown, catalogs), EntryPattern);
   TakeOutputs(shown.Intersections, IntersectionFigures(shown, catalogs), IntersectionPattern);

@@ -20,6 +20,9 @@ bool HasKnownChoices(const Design& design);
 // Returns the design with each number as its text in a field or a file says, with seven digits.
 Design InSevenDigits(Design design);
 
+// Lets the cables of a Metric design go by their capacity, the only way that the dialog has for them.
+void TakeMetricCables(Design& design);
+
 // Returns the design that the fields of a dialog hold once it has opened on this one. Its numbers have seven digits,
 // and the rating is whole. A row that the bolt table lacks becomes its first one, and the set takes over the row's
 // texts. Metric cables go by their capacity. Rock loads, capacities and stability factors are those of the outputs, as

@@ -209,6 +209,18 @@ TEST_F(PrintedResults, ThatCannotBeShownInTheDialogAreALineToo) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
+TEST_F(PrintedResults, OfAMetricProjectThatCannotBeShownGoByTheCapacityOfItsCablesToo) {
+  Design& design = program.project.WorkParms;
+  design.Units = Metric;
+  design.Entries.Cable.CapMode = design.Intersections.Cable.CapMode = 0;
+  design.Primary.Options = 7;  // an option that there is not
+
+  const std::string text = Printed();
+
+  EXPECT_THAT(text, HasSubstr("Cable Bolt Capacity"));
+  EXPECT_THAT(text, Not(HasSubstr("Cable Bolt Diameter")));
+}
+
 TEST_F(PrintedResults, LeaveTheProjectAsItWas) {
   program.project.WorkParms.Entries.Cable.SupportCap = 3;  // of the file; the dialog computes another
   program.windows.WorkParmsCopy.Place.DepthofCover = 900;
