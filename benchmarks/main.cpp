@@ -79,10 +79,10 @@ void ReportPages() {
 
 void ReadOneProject() {
   Bench bench;
-  const std::string bytes = ProjectFileBytes(bench.program);
+  const std::string bytes = ProjectFileBytes(bench.program.project);
   Measured([&] {
     const ItemReader reader(bytes);
-    if (CheckFileFormat(bench.program, reader)) ReadProject(bench.program, reader);
+    if (CheckFileFormat(bench.program, reader)) ReadProject(bench.program.project, reader);
   });
 }
 

@@ -121,7 +121,7 @@ void CheckSections(const std::string& bytes) {
   orby::ReadDefaults(program, ini);
   for (const int section :
        {orby::catalog_section::Defaults, orby::catalog_section::BoltParams, orby::catalog_section::StandSupports}) {
-    orby::ReadCatalogSection(program, ini, section);
+    orby::ReadCatalogSection(program.session, ini, section);
   }
 
   Expect(IsWithin(program.session.settings.MaxDisplaySize, 4096, 16384));
@@ -130,7 +130,7 @@ void CheckSections(const std::string& bytes) {
   Expect(IsWithin(program.session.graph.GraphStyle, 1, 3) && IsWithin(program.session.graph.SymbolSize, 3, 20));
   Expect(IsWithin(program.session.recentFiles.MaxLastFiles, 0, orby::RecentFiles::Capacity));
   Expect(program.session.settings.DataPath == "/data/" && platform.boxes.shown.empty());
-  orby::WriteNewIniFile(program, orby::NewIniText(program));
+  orby::WriteNewIniFile(program, orby::NewIniText(program.session));
   Expect(orby::IniVersion(orby::ReadIniFile(program, program.session.IniFilePath)) == orby::BuildStamp);
 }
 

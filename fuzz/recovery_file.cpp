@@ -25,11 +25,11 @@ void ReadAsFile(const std::string& bytes) {
   orby::test::RecordingPlatform platform;
   orby::Program program(platform.Doors());
 
-  orby::RestoreProject(program, *project);
+  orby::RestoreProject(program.project, *project);
 
   Expect(!program.project.FileSaved);
-  Expect(orby::RecoveryBytes(orby::CommittedProject(program)) == bytes);
-  Expect(!orby::ProjectFileBytes(program).empty());
+  Expect(orby::RecoveryBytes(orby::CommittedProject(program.project)) == bytes);
+  Expect(!orby::ProjectFileBytes(program.project).empty());
 }
 
 void KeepAsTexts(const std::string& text) {

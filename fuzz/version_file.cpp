@@ -25,10 +25,10 @@ void CheckPlaces(std::string_view version) {
   orby::Program program(platform.Doors());
   program.session.UpdateServer = "https://updates.example.org";
   program.session.folders.Group = "/home/user/Documents/MyStrataDesk/";
-  const std::string path = orby::SetupFilePath(program, version);
+  const std::string path = orby::SetupFilePath(program.session, version);
   Expect(path.starts_with("/home/user/Downloads/ORBY") && path.ends_with(".exe"));
   Expect(path.rfind('/') == std::string_view("/home/user/Downloads").size());
-  const std::string address = orby::SetupFileAddress(program, version);
+  const std::string address = orby::SetupFileAddress(program.session, version);
   Expect(address.starts_with("https://updates.example.org/wp-content/uploads/2020/04/ORBY"));
   Expect(address.find_first_of("?#%@\\ ") == std::string::npos);
 }

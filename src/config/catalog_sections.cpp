@@ -166,13 +166,13 @@ void ReadCatalogSection(Program& program, const IniText& ini, int selector) {
   }
 }
 
-void WriteCatalogSection(const Program& program, IniText& ini, int selector) {
+void WriteCatalogSection(const Session& session, IniText& ini, int selector) {
   if (selector == catalog_section::Defaults) {
-    for (const auto& row : DefaultRows) WriteIniRow(program.session.defaults, ini, DefaultsSection, row);
+    for (const auto& row : DefaultRows) WriteIniRow(session.defaults, ini, DefaultsSection, row);
   } else if (selector == catalog_section::BoltParams) {
-    for (const ListGroup& group : ListGroups) WriteListGroup(program.session.catalogs, ini, group);
+    for (const ListGroup& group : ListGroups) WriteListGroup(session.catalogs, ini, group);
   } else if (selector == catalog_section::StandSupports) {
-    WriteStandSupports(program.session.catalogs.StandSupports, ini);
+    WriteStandSupports(session.catalogs.StandSupports, ini);
   }
 }
 

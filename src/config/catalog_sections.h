@@ -18,6 +18,6 @@ inline constexpr int StandSupports = 12;  // [ORBYStandSupportParams], the stand
 void ReadCatalogSection(Program& program, const IniText& ini, int selector);
 
 // Sets the section's keys in table order, a list's highest index before its entries.
-void WriteCatalogSection(const Program& program, IniText& ini, int selector);
+void WriteCatalogSection(const Session& session, IniText& ini, int selector);
 
 }  // namespace orby

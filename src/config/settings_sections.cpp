@@ -187,19 +187,19 @@ void ReadSettings(Program& program, const IniText& ini, int selector) {
   }
 }
 
-void WriteSettings(const Program& program, IniText& ini, int selector) {
+void WriteSettings(const Session& session, IniText& ini, int selector) {
   const auto writeRows = [&](const auto& group, std::string_view section, const auto& rows) {
     for (const auto& row : rows) WriteIniRow(group, ini, section, row);
   };
   switch (selector) {
     case settings_section::All:
-      for (const int section : AllSections) WriteSettings(program, ini, section);
+      for (const int section : AllSections) WriteSettings(session, ini, section);
       break;
-    case settings_section::Settings: writeRows(program.session.settings, SettingsSection, SettingsRows); break;
-    case settings_section::FileMenu: WriteRecentFiles(program.session.recentFiles, ini); break;
-    case settings_section::TextBrowse: writeRows(program.session.textBrowse, TextBrowseSection, TextBrowseRows); break;
-    case settings_section::Graph: WriteGraph(program.session.graph, ini); break;
-    case settings_section::Options: writeRows(program.session.options, WrittenOptionsSection, OptionRows); break;
+    case settings_section::Settings: writeRows(session.settings, SettingsSection, SettingsRows); break;
+    case settings_section::FileMenu: WriteRecentFiles(session.recentFiles, ini); break;
+    case settings_section::TextBrowse: writeRows(session.textBrowse, TextBrowseSection, TextBrowseRows); break;
+    case settings_section::Graph: WriteGraph(session.graph, ini); break;
+    case settings_section::Options: writeRows(session.options, WrittenOptionsSection, OptionRows); break;
     default: break;
   }
 }
@@ -213,15 +213,15 @@ void ReadDefaults(Program& program, const IniText& ini) { ReadSettings(program, 
 void WriteDefaults(Program& program, int what) {
   // Before the edit: a file that cannot be written is told like any other.
   TellSaving(program);
-  EditIniFile(program, program.session.IniFilePath, [&](IniText& ini) { WriteSettings(program, ini, what); });
+  EditIniFile(program, program.session.IniFilePath, [&](IniText& ini) { WriteSettings(program.session, ini, what); });
 }
 
-IniText NewIniText(const Program& program) {
+IniText NewIniText(const Session& session) {
   IniText ini;
   WriteIniVersion(ini);
-  WriteSettings(program, ini, settings_section::All);
-  WriteCatalogSection(program, ini, catalog_section::Defaults);
-  WriteCatalogSection(program, ini, catalog_section::BoltParams);
+  WriteSettings(session, ini, settings_section::All);
+  WriteCatalogSection(session, ini, catalog_section::Defaults);
+  WriteCatalogSection(session, ini, catalog_section::BoltParams);
   return ini;
 }
 

@@ -28,7 +28,7 @@ void SetBuiltInSettings(Program& program);
 void ReadSettings(Program& program, const IniText& ini, int selector);
 
 // Sets the section's keys in table order; all sections in the order of their selectors.
-void WriteSettings(const Program& program, IniText& ini, int selector);
+void WriteSettings(const Session& session, IniText& ini, int selector);
 
 // The version that the configuration was written by; empty when it tells none.
 std::string IniVersion(const IniText& ini);
@@ -41,7 +41,7 @@ void ReadDefaults(Program& program, const IniText& ini);
 void WriteDefaults(Program& program, int what);
 
 // A whole new configuration: the version, all of the settings, the values of a new design and the lists.
-IniText NewIniText(const Program& program);
+IniText NewIniText(const Session& session);
 
 // Makes it the configuration file, and tells so in the history first. Throws the RuntimeError of a file that cannot be
 // written.

@@ -29,7 +29,7 @@ bool IsThere(FileSystem& files, const std::string& folder) {
 std::string Settled(Program& program, const std::string& folder) {
   FileSystem& files = program.platform.files;
   Succeeds([&] { files.MakeFolder(folder); });
-  return IsThere(files, folder) ? folder : AppDirectory(program);
+  return IsThere(files, folder) ? folder : AppDirectory(program.platform.files);
 }
 
 void CopyMissing(FileSystem& files, const std::string& source, const std::string& target) {
@@ -44,7 +44,7 @@ void FindUserFolders(Program& program) {
   const auto desktop = program.platform.userFolders.Desktop();
   Folders& folders = program.session.folders;
   if (!documents || !desktop) {
-    const std::string own = AppDirectory(program);
+    const std::string own = AppDirectory(program.platform.files);
     folders = {own, own, own, own};
     return;
   }
@@ -58,7 +58,7 @@ void FindUserFolders(Program& program) {
 void CopyExamples(Program& program) {
   if (program.session.settings.CopyExampleFiles != 1) return;
   FileSystem& files = program.platform.files;
-  for (const std::string& source : files.FilesIn(AppDirectory(program).append(ExamplesFolderName))) {
+  for (const std::string& source : files.FilesIn(AppDirectory(program.platform.files).append(ExamplesFolderName))) {
     const std::string target = WithSeparator(program.session.settings.DataPath).append(NameBehindSeparator(source));
     Succeeds([&] { CopyMissing(files, source, target); });
   }
@@ -66,7 +66,7 @@ void CopyExamples(Program& program) {
 
 void EnterWorkingFolder(Program& program) {
   FileSystem& files = program.platform.files;
-  const std::string own = AppDirectory(program);
+  const std::string own = AppDirectory(program.platform.files);
   Succeeds([&] { files.SetWorkingFolder(files.CanWriteTo(own) ? own : program.session.folders.ProgramData); });
 }
 

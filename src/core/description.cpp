@@ -19,7 +19,7 @@ std::string ThroughTemporaryFile(Program& program, std::string_view text) {
   FileSystem& files = program.platform.files;
   const std::string& folder = program.session.folders.ProgramTemporary;
   // Until the user's folders are known, the machine's own serves.
-  const std::string path = (folder.empty() ? GetTempDirectory(program) : folder) + "~tmpdesc.tmp";
+  const std::string path = (folder.empty() ? GetTempDirectory(program.platform.files) : folder) + "~tmpdesc.tmp";
   const auto remove = [&] { files.RemoveFile(path); };
   try {
     const auto file = files.CreateFile(path);

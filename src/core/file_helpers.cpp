@@ -94,15 +94,13 @@ bool CopyTextFile(Program& program, const std::string& source, const std::string
   }
 }
 
-std::string GetTempDirectory(Program& program) {
-  return WithSeparator(LongPathName(program, program.platform.files.TemporaryFolder()));
-}
+std::string GetTempDirectory(FileSystem& files) { return WithSeparator(LongPathName(files, files.TemporaryFolder())); }
 
-std::string LongPathName(Program& program, const std::string& path) {
+std::string LongPathName(FileSystem& files, const std::string& path) {
   const std::string name(WithoutSeparator(path));
-  return program.platform.files.Finds(name, true) ? name : std::string();
+  return files.Finds(name, true) ? name : std::string();
 }
 
-std::string AppDirectory(Program& program) { return WithSeparator(Trim(program.platform.files.ProgramFolder())); }
+std::string AppDirectory(FileSystem& files) { return WithSeparator(Trim(files.ProgramFolder())); }
 
 }  // namespace orby

@@ -22,12 +22,12 @@ std::string FileNameFromPath(Program& program, const std::string& path, bool str
 bool CopyTextFile(Program& program, const std::string& source, const std::string& target);
 
 // The folder for temporary files, ending in a separator.
-std::string GetTempDirectory(Program& program);
+std::string GetTempDirectory(FileSystem& files);
 
 // The path without a trailing separator; empty when nothing is found there.
-std::string LongPathName(Program& program, const std::string& path);
+std::string LongPathName(FileSystem& files, const std::string& path);
 
 // The program's folder, ending in one separator.
-std::string AppDirectory(Program& program);
+std::string AppDirectory(FileSystem& files);
 
 }  // namespace orby

@@ -15,7 +15,7 @@ namespace {
 template <class Open>
 void OpenFound(Program& program, std::string_view kind, std::string_view path, std::string_view shown,
                const Open& open) {
-  const std::string wholePath = AppDirectory(program).append(path);
+  const std::string wholePath = AppDirectory(program.platform.files).append(path);
   if (!FileExists(program, wholePath)) {
     const std::string name(shown.empty() ? wholePath : shown);
     ShowMessage(program, std::string(kind) + " (" + name + ") not available");

@@ -179,7 +179,7 @@ void BackupsWindow::Delete() {
 }
 
 void BackupsWindow::OpenFolder() {
-  const std::string folder = BackupFolder(program_);
+  const std::string folder = BackupFolder(program_.session);
   if (folder.empty()) return;
   MakeBackupFolder(program_);
   if (program_.platform.documents.Open(std::string(WithoutSeparator(folder)))) return;

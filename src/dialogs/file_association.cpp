@@ -18,7 +18,8 @@ void AssociateFileExtension(Program& program) {
   program.platform.windows.SetWaitCursor(true);
   program.platform.fileTypes.Associate(extension, std::string(ProgramTitle));
   program.platform.windows.SetWaitCursor(false);
-  const std::string outcome = "The " + extension + " file extensions has been associated to " + AppDirectory(program);
+  const std::string outcome =
+      "The " + extension + " file extensions has been associated to " + AppDirectory(program.platform.files);
   ShowMessage(program, outcome + std::string(LineEnd) + std::string(LineEnd) +
                            "Note: if order for this function to be successfully completed the user needs to have "
                            "access to the registry");

@@ -133,7 +133,7 @@ void GraphWindow::ClearReadOut() {
 void GraphWindow::Print() {
   const std::string title = CurveTitle(program_.windows.curve.CurveIndex);
   const auto outcome =
-      RunTrapped(program_, [&] { program_.platform.printer.Choose(PrintedName(program_) + " " + title); });
+      RunTrapped(program_, [&] { program_.platform.printer.Choose(PrintedName(program_.project) + " " + title); });
   if (outcome != StepOutcome::Done) return;
   AddHistoryLine(program_, "Printing Graph");
   RunTrapped(program_, [&] { program_.platform.printer.PrintChart(graph1, title); });

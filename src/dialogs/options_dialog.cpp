@@ -234,7 +234,7 @@ void OptionsDialog::OnClose() {
   WriteDefaults(program_, settings_section::Options);
   EditIniFile(program_, program_.session.IniFilePath, [this](IniText& ini) {
     for (const int section : {catalog_section::Defaults, catalog_section::BoltParams, catalog_section::StandSupports}) {
-      WriteCatalogSection(program_, ini, section);
+      WriteCatalogSection(program_.session, ini, section);
     }
   });
 }

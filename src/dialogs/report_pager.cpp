@@ -32,13 +32,13 @@ void ReportPager::Turn(Integer pages) {
 }
 
 void ReportPager::Loadbuffer() {
-  view_.SetText(JoinedPages(program_, page_, page_));
+  view_.SetText(JoinedPages(program_.session, page_, page_));
   view_.Select(0, 0);
 }
 
 void ReportPager::CopyPage() {
   program_.platform.clipboard.Clear();
-  program_.platform.clipboard.SetText(JoinedPages(program_, page_, page_));
+  program_.platform.clipboard.SetText(JoinedPages(program_.session, page_, page_));
   AddHistoryLine(program_, "Page " + NumberText(page_) + " copied to clipboard");
 }
 

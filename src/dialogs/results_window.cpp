@@ -62,13 +62,13 @@ void ResultsWindow::OnClose() {
 }
 
 void ResultsWindow::CopyAll() {
-  program_.platform.clipboard.SetText(JoinedPages(program_, 0, program_.windows.LastPage));
+  program_.platform.clipboard.SetText(JoinedPages(program_.session, 0, program_.windows.LastPage));
   AddHistoryLine(program_, "Output copied to clipboard");
 }
 
 void ResultsWindow::Print(Integer first, Integer last) {
   if (ChoosePrinter()) {
-    RunTrapped(program_, [&] { PrintText(program_, JoinedPages(program_, first, last)); });
+    RunTrapped(program_, [&] { PrintText(program_, JoinedPages(program_.session, first, last)); });
   }
   pager_.Loadbuffer();
 }
@@ -77,7 +77,7 @@ bool ResultsWindow::ChoosePrinter() {
   bool aborted = false;
   const StepOutcome outcome = RunTrapped(program_, [&] {
     try {
-      program_.platform.printer.Choose(PrintedName(program_));
+      program_.platform.printer.Choose(PrintedName(program_.project));
     } catch (const RuntimeError& error) {
       if (error.number() != error_number::Cancelled) throw;
       aborted = true;

@@ -69,7 +69,7 @@ void UpdateDialog::OnOpen() {
   lblInfo.SetCaption(InfoText());
   lblUpdate.SetCaption(AgeText(program_.platform.clock.Today()));
   chkShow.SetValue(program_.session.settings.RemindAnnualUpdates == 0 ? 1 : 0);
-  cmdWebPage.SetEnabled(HasUpdateServer(program_));
+  cmdWebPage.SetEnabled(HasUpdateServer(program_.session));
 }
 
 void UpdateDialog::OnClose() {
@@ -91,7 +91,7 @@ void UpdateDialog::TellNoConnection(FetchEnd end) {
 // ---- the server's version ------------------------------------------------------------------------------------------
 
 void UpdateDialog::AskServer(const Step& next) {
-  if (!HasUpdateServer(program_)) {
+  if (!HasUpdateServer(program_.session)) {
     ForgetAnswer();
     ShowMessage(program_, std::string(NoConnection));
     return;
@@ -161,11 +161,11 @@ void UpdateDialog::FetchSetup() {
   downloadFailed_ = true;  // until it has come to its end
   ProgressBar1.SetValue(0);
   lblbytes.SetCaption({});
-  const std::string folder = DownloadFolder(program_);
+  const std::string folder = DownloadFolder(program_.session);
   if (!Succeeds([&] { program_.platform.files.MakeFolder(folder); })) {
     return EndDownload("Download failed: no files can be kept in " + folder);
   }
-  const std::string path = SetupFilePath(program_, offered_->version);
+  const std::string path = SetupFilePath(program_.session, offered_->version);
   FetchEvents events;
   events.Progress = [this](std::uint64_t received, std::uint64_t total) { SetupProgress(received, total); };
   events.Finished = [this, path](const FetchOutcome& outcome) {
@@ -174,9 +174,9 @@ void UpdateDialog::FetchSetup() {
     SetupArrived(path, outcome);
   };
   SetBusy(true);
-  lblStatus.SetCaption("Downloading " + SetupFileAddress(program_, offered_->version));
+  lblStatus.SetCaption("Downloading " + SetupFileAddress(program_.session, offered_->version));
   fetch_ = program_.platform.downloads.Start(
-      {SetupFileAddress(program_, offered_->version), path, MostSetupBytes, true}, std::move(events));
+      {SetupFileAddress(program_.session, offered_->version), path, MostSetupBytes, true}, std::move(events));
   if (fetch_) return;
   SetBusy(false);
   SetupArrived(path, {FetchEnd::NoService, {}});
@@ -193,7 +193,7 @@ void UpdateDialog::SetupArrived(const std::string& path, const FetchOutcome& out
     return TellNoConnection(outcome.end);
   }
   if (outcome.end != FetchEnd::Done) {
-    return EndDownload("Download failed: " + SetupFileAddress(program_, offered_->version) +
+    return EndDownload("Download failed: " + SetupFileAddress(program_.session, offered_->version) +
                        " is not there, or did not arrive as a whole. Try again later.");
   }
   if (!offered_->sha256.empty() && !SameWithoutCase(outcome.sha256, offered_->sha256)) {
@@ -232,7 +232,7 @@ std::string UpdateDialog::FileToStart(const std::string& setupFile) {
 }
 
 void UpdateDialog::Install() {
-  const std::string file = FileToStart(SetupFilePath(program_, offered_ ? offered_->version : std::string()));
+  const std::string file = FileToStart(SetupFilePath(program_.session, offered_ ? offered_->version : std::string()));
   if (file.empty()) return;
   ShowMessage(program_,
               "ORBY will now close to install the new update. You may be asked to grant permission to Windows to "
@@ -245,7 +245,7 @@ void UpdateDialog::Install() {
 }
 
 void UpdateDialog::OpenWebPage() {
-  if (!program_.platform.documents.Open(WebPageAddress(program_))) {
+  if (!program_.platform.documents.Open(WebPageAddress(program_.session))) {
     ShowMessage(program_, std::string(OperationFailed));
   }
 }

@@ -48,8 +48,8 @@ bool IsVersion(std::string_view text) {
 
 bool IsSum(std::string_view text) { return text.size() == SumLength && std::ranges::all_of(text, IsHexadecimal); }
 
-std::string OnServer(const Program& program, std::string_view path) {
-  return std::string(WithoutSeparator(program.session.UpdateServer)).append(path);
+std::string OnServer(const Session& session, std::string_view path) {
+  return std::string(WithoutSeparator(session.UpdateServer)).append(path);
 }
 
 std::string SetupFileName(std::string_view version) {
@@ -77,29 +77,29 @@ std::optional<OfferedVersion> ReadVersionFile(std::string_view bytes) {
 
 bool IsNewer(const OfferedVersion& offered) { return offered.version > VersionText(true); }
 
-bool HasUpdateServer(const Program& program) { return !program.session.UpdateServer.empty(); }
+bool HasUpdateServer(const Session& session) { return !session.UpdateServer.empty(); }
 
-std::string VersionFileAddress(const Program& program) {
-  return OnServer(program, DownloadPath).append(VersionFileName);
+std::string VersionFileAddress(const Session& session) {
+  return OnServer(session, DownloadPath).append(VersionFileName);
 }
 
-std::string SetupFileAddress(const Program& program, std::string_view version) {
-  return OnServer(program, DownloadPath) + SetupFileName(version);
+std::string SetupFileAddress(const Session& session, std::string_view version) {
+  return OnServer(session, DownloadPath) + SetupFileName(version);
 }
 
-std::string WebPageAddress(const Program& program) { return OnServer(program, WebPagePath); }
+std::string WebPageAddress(const Session& session) { return OnServer(session, WebPagePath); }
 
-std::string VersionFilePath(const Program& program) {
-  return WithSeparator(program.session.folders.ProgramData).append(VersionFileName);
+std::string VersionFilePath(const Session& session) {
+  return WithSeparator(session.folders.ProgramData).append(VersionFileName);
 }
 
-std::string DownloadFolder(const Program& program) {
-  const std::string path = WithSeparator(program.session.folders.Group).append(WayToDownloads);
+std::string DownloadFolder(const Session& session) {
+  const std::string path = WithSeparator(session.folders.Group).append(WayToDownloads);
   return std::filesystem::path(path).lexically_normal().string();
 }
 
-std::string SetupFilePath(const Program& program, std::string_view version) {
-  return DownloadFolder(program) + SetupFileName(version);
+std::string SetupFilePath(const Session& session, std::string_view version) {
+  return DownloadFolder(session) + SetupFileName(version);
 }
 
 }  // namespace orby

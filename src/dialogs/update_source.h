@@ -30,18 +30,18 @@ std::optional<OfferedVersion> ReadVersionFile(std::string_view bytes);
 bool IsNewer(const OfferedVersion& offered);
 
 // Whether the program knows of a server at all.
-bool HasUpdateServer(const Program& program);
+bool HasUpdateServer(const Session& session);
 
 // Addresses on the program's server.
-std::string VersionFileAddress(const Program& program);
-std::string SetupFileAddress(const Program& program, std::string_view version);
-std::string WebPageAddress(const Program& program);
+std::string VersionFileAddress(const Session& session);
+std::string SetupFileAddress(const Session& session, std::string_view version);
+std::string WebPageAddress(const Session& session);
 
 // Where the version file is kept.
-std::string VersionFilePath(const Program& program);
+std::string VersionFilePath(const Session& session);
 // The user's folder for downloads, beside the one for documents; ends in a separator.
-std::string DownloadFolder(const Program& program);
+std::string DownloadFolder(const Session& session);
 // The setup file of a version in the folder for downloads.
-std::string SetupFilePath(const Program& program, std::string_view version);
+std::string SetupFilePath(const Session& session, std::string_view version);
 
 }  // namespace orby

@@ -14,7 +14,8 @@ constexpr std::uint64_t MostVersionBytes = 64 * 1024;
 VersionAnswer AnswerOf(Program& program, FetchEnd end) {
   VersionAnswer answer{end, std::nullopt};
   if (end != FetchEnd::Done) return answer;  // what lies there then is of another day
-  Succeeds([&] { answer.offered = ReadVersionFile(program.platform.files.ReadFile(VersionFilePath(program))); });
+  Succeeds(
+      [&] { answer.offered = ReadVersionFile(program.platform.files.ReadFile(VersionFilePath(program.session))); });
   if (answer.offered && answer.offered->hasOtherField) {
     AddHistoryLine(program, "Second field of the version file is no checksum and is ignored");
   }
@@ -28,8 +29,8 @@ std::unique_ptr<Fetch> FetchVersion(Program& program, std::function<void(const V
   events.Finished = [&program, then = std::move(then)](const FetchOutcome& outcome) {
     then(AnswerOf(program, outcome.end));
   };
-  return program.platform.downloads.Start({VersionFileAddress(program), VersionFilePath(program), MostVersionBytes},
-                                          std::move(events));
+  return program.platform.downloads.Start(
+      {VersionFileAddress(program.session), VersionFilePath(program.session), MostVersionBytes}, std::move(events));
 }
 
 }  // namespace orby

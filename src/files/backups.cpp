@@ -114,8 +114,8 @@ std::string_view NameIn(const Backup& backup) {
   return WithoutEnding(name, RecoveryEnding);
 }
 
-std::string AboutPath(const Program& program, const Backup& backup) {
-  return BackupFolder(program) + StampText({backup.Time, backup.Number}) + std::string(AboutEnding);
+std::string AboutPath(const Session& session, const Backup& backup) {
+  return BackupFolder(session) + StampText({backup.Time, backup.Number}) + std::string(AboutEnding);
 }
 
 std::string AboutText(std::string_view project, BackupReason reason) {
@@ -127,7 +127,7 @@ std::string AboutText(std::string_view project, BackupReason reason) {
 // What stands beside the entry, as long as it is about this entry.
 void ReadAbout(Program& program, Backup& backup) {
   std::string bytes;
-  if (!Succeeds([&] { bytes = program.platform.files.ReadFile(AboutPath(program, backup)); })) return;
+  if (!Succeeds([&] { bytes = program.platform.files.ReadFile(AboutPath(program.session, backup)); })) return;
   std::string_view rest = bytes;
   const std::string_view line = TakeLine(rest);
   const std::string project = Unescaped(line.substr(std::min(line.find('=') + 1, line.size())));
@@ -142,7 +142,7 @@ void ReadAbout(Program& program, Backup& backup) {
 std::vector<Backup> EntriesByName(Program& program) {
   std::vector<Backup> entries;
   FileSystem& files = program.platform.files;
-  for (const std::string& path : files.FilesIn(BackupFolder(program))) {
+  for (const std::string& path : files.FilesIn(BackupFolder(program.session))) {
     std::string_view name = NameBehindSeparator(path);
     const auto stamp = TakeStamp(name);
     if (!stamp || name.size() < 2 || name.front() != ' ') continue;
@@ -194,7 +194,7 @@ void RemoveOldest(Program& program, std::vector<Backup> entries, const std::vect
 
 std::optional<std::string> Keep(Program& program, const std::string& project, std::string_view bytes,
                                 BackupReason reason, std::string_view ending) {
-  const std::string folder = BackupFolder(program);
+  const std::string folder = BackupFolder(program.session);
   if (folder.empty() || bytes.size() > LargestBackup) return std::nullopt;
   FileSystem& files = program.platform.files;
   const std::vector<Backup> entries = EntriesByName(program);
@@ -212,10 +212,10 @@ std::optional<std::string> Keep(Program& program, const std::string& project, st
   do {
     ++entry.Number;
     entry.Path = folder + StampText({entry.Time, entry.Number}) + " " + FileNameOf(project) + std::string(ending);
-  } while (isTaken(entry.Path) || isTaken(AboutPath(program, entry)));
+  } while (isTaken(entry.Path) || isTaken(AboutPath(program.session, entry)));
   MakeBackupFolder(program);
   if (!TryWriteWhole(files, entry.Path, bytes)) return std::nullopt;
-  TryWriteWhole(files, AboutPath(program, entry), AboutText(project, reason));
+  TryWriteWhole(files, AboutPath(program.session, entry), AboutText(project, reason));
   RemoveOldest(program, entries, own, bytes.size());
   return entry.Path;
 }
@@ -224,13 +224,13 @@ std::optional<std::string> Keep(Program& program, const std::string& project, st
 
 std::string_view ReasonText(BackupReason reason) { return RowOf(reason).Text; }
 
-std::string BackupFolder(const Program& program) {
-  const std::string& data = program.session.folders.ProgramData;
+std::string BackupFolder(const Session& session) {
+  const std::string& data = session.folders.ProgramData;
   return data.empty() ? data : WithSeparator(data).append(FolderName) + FolderSeparator;
 }
 
 void MakeBackupFolder(Program& program) {
-  Succeeds([&] { program.platform.files.MakePrivateFolder(BackupFolder(program)); });
+  Succeeds([&] { program.platform.files.MakePrivateFolder(BackupFolder(program.session)); });
 }
 
 std::optional<std::string> KeepBackup(Program& program, const std::string& project, std::string_view bytes,
@@ -252,7 +252,7 @@ std::optional<std::string> KeepDamaged(Program& program, std::string_view bytes)
 }
 
 void KeepChanges(Program& program, const UnsavedProject& project, BackupReason reason) {
-  if (BackupFolder(program).empty()) return;
+  if (BackupFolder(program.session).empty()) return;
   if (KeepDropped(program, project, reason)) {
     AddHistoryLine(program, "Unsaved changes kept in Backups: " + project.CurrentFile);
     return;
@@ -266,7 +266,7 @@ void KeepChanges(Program& program, const UnsavedProject& project, BackupReason r
 }
 
 std::vector<Backup> ListBackups(Program& program) {
-  if (BackupFolder(program).empty()) return {};
+  if (BackupFolder(program.session).empty()) return {};
   std::vector<Backup> entries = EntriesByName(program);
   for (Backup& entry : entries) ReadAbout(program, entry);
   return entries;
@@ -275,7 +275,7 @@ std::vector<Backup> ListBackups(Program& program) {
 bool RemoveBackup(Program& program, const Backup& backup) {
   FileSystem& files = program.platform.files;
   if (!Succeeds([&] { files.RemoveFile(backup.Path); })) return false;
-  Succeeds([&] { files.RemoveFile(AboutPath(program, backup)); });
+  Succeeds([&] { files.RemoveFile(AboutPath(program.session, backup)); });
   return true;
 }
 

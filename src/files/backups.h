@@ -30,7 +30,7 @@ std::string_view ReasonText(BackupReason reason);
 inline constexpr std::size_t LargestBackup = std::size_t{10} * 1024 * 1024;
 
 // The folder of the store, with a trailing separator; empty when the program has no data folder.
-std::string BackupFolder(const Program& program);
+std::string BackupFolder(const Session& session);
 
 // Makes the folder of the store, open to its user alone. One that is there already stays as it is.
 void MakeBackupFolder(Program& program);

@@ -20,12 +20,12 @@ void AppendLine(std::string& description, Integer& count, std::string_view line)
   description += LineEnd;
 }
 
-void LoadLegacyDescription(Program& program, ItemReader& reader) {
+void LoadLegacyDescription(Project& project, ItemReader& reader) {
   constexpr int LegacyLines = 5;
   for (int i = 0; i < LegacyLines; ++i) {
-    AppendLine(program.project.ProjectDescription, program.project.DescLines, reader.ReadLine());
+    AppendLine(project.ProjectDescription, project.DescLines, reader.ReadLine());
   }
-  program.project.DescLines = LinesOfEmptyDescription + LegacyLines;
+  project.DescLines = LinesOfEmptyDescription + LegacyLines;
 }
 
 }  // namespace
@@ -39,15 +39,15 @@ void ReadMarkedDescription(ItemReader& reader, std::string& description, Integer
   }
 }
 
-void LoadDescription(Program& program, ItemReader& reader, int mode) {
+void LoadDescription(Project& project, ItemReader& reader, int mode) {
   constexpr Integer LastLegacyVersion = 49;
-  program.project.DescLines = 1;
-  if (mode == description_mode::Legacy || program.project.FileVersion <= LastLegacyVersion) {
-    LoadLegacyDescription(program, reader);
+  project.DescLines = 1;
+  if (mode == description_mode::Legacy || project.FileVersion <= LastLegacyVersion) {
+    LoadLegacyDescription(project, reader);
     return;
   }
-  program.project.ProjectDescription.clear();
-  ReadMarkedDescription(reader, program.project.ProjectDescription, program.project.DescLines);
+  project.ProjectDescription.clear();
+  ReadMarkedDescription(reader, project.ProjectDescription, project.DescLines);
 }
 
 }  // namespace orby

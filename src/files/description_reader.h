@@ -23,6 +23,6 @@ void ReadMarkedDescription(ItemReader& reader, std::string& description, Integer
 // Behind the first line the description comes as text items, so that a comma ends a line, leading blanks are lost and
 // double quotes disappear.
 // Throws RuntimeError 62 without an end marker, 6 beyond 32766 lines, 7 when it grows longer than LongestItem.
-void LoadDescription(Program& program, ItemReader& reader, int mode);
+void LoadDescription(Project& project, ItemReader& reader, int mode);
 
 }  // namespace orby

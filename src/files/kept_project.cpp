@@ -30,11 +30,11 @@ std::optional<UnsavedProject> ReadProjectFile(const Program& program, std::strin
     Program beside = ProgramBeside(program);
     FileNew(beside, false, true);
     beside.project.FileVersion = *format;
-    ReadProject(beside, reader);
+    ReadProject(beside.project, reader);
     beside.project.CurrentFile = name;
     beside.project.FileEmpty = false;
     beside.project.UnitsLocked = true;
-    return CommittedProject(beside);
+    return CommittedProject(beside.project);
   } catch (const RuntimeError&) {
     return std::nullopt;
   }
@@ -51,9 +51,9 @@ std::optional<std::string> KeptProjectAsFile(const Program& program, std::string
   if (!project) return std::nullopt;
   if (!IsRecoveryFile(bytes)) return std::string(bytes);
   Program beside = ProgramBeside(program);
-  RestoreProject(beside, *project);
+  RestoreProject(beside.project, *project);
   SaveDescription(beside);
-  return ProjectFileBytes(beside);
+  return ProjectFileBytes(beside.project);
 }
 
 }  // namespace orby

@@ -55,7 +55,7 @@ void OverwrittenFile::Look() {
 }
 
 // A program for scripts keeps nothing.
-bool OverwrittenFile::MayKeep() const { return !BackupFolder(program_).empty(); }
+bool OverwrittenFile::MayKeep() const { return !BackupFolder(program_.session).empty(); }
 
 void OverwrittenFile::Overwrite(std::string_view bytes, std::vector<std::string>& remarks) {
   if (MayKeep()) Keep(bytes);
@@ -155,7 +155,8 @@ void OverwrittenFile::TellKept(std::vector<std::string>& remarks) {
                       ".");
   }
   if (lacksBackup_) {
-    const std::string text = "The old contents of " + path_ + " could not be kept in " + BackupFolder(program_) + ".";
+    const std::string text =
+        "The old contents of " + path_ + " could not be kept in " + BackupFolder(program_.session) + ".";
     if (std::exchange(program_.session.ToldOfNoBackup, true)) {
       AddHistoryLine(program_, text);
     } else {

@@ -5,7 +5,6 @@
 #include "core/messages.h"
 #include "files/backups.h"
 #include "files/new_project.h"
-#include "files/save_command.h"
 
 namespace orby {
 
@@ -29,7 +28,6 @@ void ReadRest(InputFile& file, std::string& bytes) {
 
 void FileOpen(Program& program, bool& ok) {
   ok = false;
-  if (!program.project.FileSaved && !SaveChangesOfPreviousFile(program)) return;
   program.platform.windows.SetWaitCursor(true);
   program.project.LastFile = {};
   FileNew(program, false, true);
@@ -39,7 +37,7 @@ void FileOpen(Program& program, bool& ok) {
   std::string bytes = file->Read(HeadBytes);
   if (CheckFileFormat(program, ItemReader(bytes))) {
     ReadRest(*file, bytes);
-    ReadProject(program, ItemReader(bytes));
+    ReadProject(program.project, ItemReader(bytes));
     // Of a longer one it cannot be told whether it has changed.
     if (bytes.size() <= LargestBackup)
       program.project.LastFile = {program.project.CurrentFile, std::move(bytes), false};

@@ -18,12 +18,12 @@ void ReadField(Design& design, const ProjectLine& line, ItemReader& reader) {
   }
 }
 
-void ReadHeader(Program& program, ItemReader& reader) {
+void ReadHeader(Project& project, ItemReader& reader) {
   reader.ReadText();
   const Integer units = reader.ReadInteger();
-  program.project.WorkParms.Units = units == NumberOf(Metric) ? Metric : English;
-  if (program.project.FileVersion >= Version103) program.project.WorkParms.Basis = StrengthBasis{reader.ReadInteger()};
-  program.project.ProjectTitle = reader.ReadLine();
+  project.WorkParms.Units = units == NumberOf(Metric) ? Metric : English;
+  if (project.FileVersion >= Version103) project.WorkParms.Basis = StrengthBasis{reader.ReadInteger()};
+  project.ProjectTitle = reader.ReadLine();
 }
 
 }  // namespace
@@ -47,12 +47,12 @@ bool CheckFileFormat(Program& program, ItemReader reader) {
   return version.has_value();
 }
 
-void ReadProject(Program& program, ItemReader reader) {
-  ReadHeader(program, reader);
-  program.project.ProjectDescription.clear();
-  LoadDescription(program, reader, description_mode::Marked);
+void ReadProject(Project& project, ItemReader reader) {
+  ReadHeader(project, reader);
+  project.ProjectDescription.clear();
+  LoadDescription(project, reader, description_mode::Marked);
   for (const ProjectLine& line : ProjectLines) {
-    if (program.project.FileVersion >= line.FirstVersion) ReadField(program.project.WorkParms, line, reader);
+    if (project.FileVersion >= line.FirstVersion) ReadField(project.WorkParms, line, reader);
   }
 }
 

@@ -20,6 +20,6 @@ bool CheckFileFormat(Program& program, ItemReader reader);
 // the format lacks stay as they are, and so do those behind an error. UseAUSStandardTable is never read: its line
 // becomes the title, and the title and the start marker become lines of the description.
 // Throws RuntimeError 62 when the file is too short, 6 for a number beyond its type, 7 for an immense item.
-void ReadProject(Program& program, ItemReader reader);
+void ReadProject(Project& project, ItemReader reader);
 
 }  // namespace orby

@@ -26,7 +26,7 @@ std::string ListedNames(const std::vector<std::string_view>& names) {
 
 void AppendFieldsThatDiffer(const Program& program, const std::string& bytes, const std::optional<std::string>& backup,
                             SaveRemarks& remarks) {
-  const std::vector<std::string_view> fields = FieldsThatReadDifferently(program, bytes);
+  const std::vector<std::string_view> fields = FieldsThatReadDifferently(program.project, bytes);
   if (fields.empty()) return;
   remarks.push_back(
       program.project.CurrentFile +
@@ -48,7 +48,7 @@ void FileSave(Program& program, bool& ok, SaveRemarks& remarks) {
   const Integer lines = program.project.DescLines;
   try {
     SaveDescription(program);
-    const std::string bytes = ProjectFileBytes(program);
+    const std::string bytes = ProjectFileBytes(program.project);
     OverwrittenFile file(program, program.project.CurrentFile);
     file.Overwrite(bytes, remarks);
     AppendFieldsThatDiffer(program, bytes, file.Backup(), remarks);

@@ -20,20 +20,20 @@ std::string PaddedNumber(Integer value) {
   return (value < 0 ? "" : " ") + digits + " ";
 }
 
-std::string HeaderText(const Program& program) {
+std::string HeaderText(const Project& project) {
   std::string text;
   AppendLine(text, FileVersionNames[CurrentFileVersion]);
-  AppendLine(text, PaddedNumber(NumberOf(program.project.WorkParms.Units)));
-  AppendLine(text, PaddedNumber(NumberOf(program.project.WorkParms.Basis)));
-  AppendLine(text, PaddedNumber(program.project.UseAUSStandardTable));
-  AppendLine(text, program.project.ProjectTitle);
+  AppendLine(text, PaddedNumber(NumberOf(project.WorkParms.Units)));
+  AppendLine(text, PaddedNumber(NumberOf(project.WorkParms.Basis)));
+  AppendLine(text, PaddedNumber(project.UseAUSStandardTable));
+  AppendLine(text, project.ProjectTitle);
   return text;
 }
 
-std::string DescriptionText(const Program& program) {
+std::string DescriptionText(const Project& project) {
   std::string text;
   AppendLine(text, StartOfDescription);
-  AppendLine(text, program.project.ProjectDescription);
+  AppendLine(text, project.ProjectDescription);
   AppendLine(text, EndOfDescription);
   return text;
 }
@@ -55,8 +55,8 @@ std::string DataLineText(const Design& design, const ProjectLine& line) {
   return line.Form == LineForm::Padded ? PaddedNumber(value) : NormalizeDecimalText(value);
 }
 
-std::string ProjectFileBytes(const Program& program) {
-  return FileBytesFromText(HeaderText(program) + DescriptionText(program) + DataText(program.project.WorkParms));
+std::string ProjectFileBytes(const Project& project) {
+  return FileBytesFromText(HeaderText(project) + DescriptionText(project) + DataText(project.WorkParms));
 }
 
 }  // namespace orby

@@ -12,6 +12,6 @@ namespace orby {
 std::string DataLineText(const Design& design, const ProjectLine& line);
 
 // The project as the bytes of a file, the description as it stands.
-std::string ProjectFileBytes(const Program& program);
+std::string ProjectFileBytes(const Project& project);
 
 }  // namespace orby

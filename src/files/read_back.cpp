@@ -31,19 +31,18 @@ bool HasOwnField(const ProjectLine& line) {
 
 }  // namespace
 
-std::vector<std::string_view> FieldsThatReadDifferently(const Program& program, std::string_view bytes) {
-  Program read(program.platform);
-  read.project.FileVersion = Version105;
-  read.project.WorkParms = program.project.WorkParms;
-  for (const ProjectLine& line : ProjectLines) Spoil(read.project.WorkParms, line.Field);
+std::vector<std::string_view> FieldsThatReadDifferently(const Project& project, std::string_view bytes) {
+  Project read;
+  read.FileVersion = Version105;
+  read.WorkParms = project.WorkParms;
+  for (const ProjectLine& line : ProjectLines) Spoil(read.WorkParms, line.Field);
   // Where the reading breaks off, the fields after it stay spoilt.
   Succeeds([&] { ReadProject(read, ItemReader(bytes)); });
 
   std::vector<std::string_view> names;
   for (const ProjectLine& line : ProjectLines) {
     if (!HasOwnField(line)) continue;
-    if (DataLineText(program.project.WorkParms, line) != DataLineText(read.project.WorkParms, line))
-      names.push_back(line.Name);
+    if (DataLineText(project.WorkParms, line) != DataLineText(read.WorkParms, line)) names.push_back(line.Name);
   }
   return names;
 }

@@ -10,6 +10,6 @@ namespace orby {
 
 // The names of the fields whose text in the file is not what the reader makes of these bytes, in the order of the
 // file. Fields that the format itself reads into others are left out.
-std::vector<std::string_view> FieldsThatReadDifferently(const Program& program, std::string_view bytes);
+std::vector<std::string_view> FieldsThatReadDifferently(const Project& project, std::string_view bytes);
 
 }  // namespace orby

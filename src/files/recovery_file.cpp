@@ -89,18 +89,17 @@ UnsavedProject ReadLines(std::string_view rest) {
 
 }  // namespace
 
-UnsavedProject CommittedProject(const Program& program) {
-  return {program.project.CurrentFile,        program.project.UseAUSStandardTable, program.project.ProjectTitle,
-          program.project.ProjectDescription, program.project.FileEmpty,           program.project.UnitsLocked,
-          program.project.WorkParms};
+UnsavedProject CommittedProject(const Project& project) {
+  return {project.CurrentFile, project.UseAUSStandardTable, project.ProjectTitle, project.ProjectDescription,
+          project.FileEmpty,   project.UnitsLocked,         project.WorkParms};
 }
 
-UnsavedProject EditedProject(const Program& program, Design design) {
-  UnsavedProject project = CommittedProject(program);
-  project.FileEmpty = false;
-  project.UnitsLocked = true;
-  project.WorkParms = std::move(design);
-  return project;
+UnsavedProject EditedProject(const Project& project, Design design) {
+  UnsavedProject edited = CommittedProject(project);
+  edited.FileEmpty = false;
+  edited.UnitsLocked = true;
+  edited.WorkParms = std::move(design);
+  return edited;
 }
 
 bool IsRecoveryFile(std::string_view bytes) { return bytes.starts_with(RecoveryLabel); }
@@ -139,15 +138,15 @@ std::string ProjectNamedIn(std::string_view bytes) {
   return line.starts_with(key) ? Unescaped(line.substr(key.size())) : std::string();
 }
 
-void RestoreProject(Program& program, const UnsavedProject& project) {
-  program.project.CurrentFile = project.CurrentFile;
-  program.project.UseAUSStandardTable = project.UseAUSStandardTable;
-  program.project.ProjectTitle = project.ProjectTitle;
-  program.project.ProjectDescription = project.ProjectDescription;
-  program.project.FileEmpty = project.FileEmpty;
-  program.project.UnitsLocked = project.UnitsLocked;
-  program.project.WorkParms = project.WorkParms;
-  program.project.FileSaved = false;
+void RestoreProject(Project& project, const UnsavedProject& unsaved) {
+  project.CurrentFile = unsaved.CurrentFile;
+  project.UseAUSStandardTable = unsaved.UseAUSStandardTable;
+  project.ProjectTitle = unsaved.ProjectTitle;
+  project.ProjectDescription = unsaved.ProjectDescription;
+  project.FileEmpty = unsaved.FileEmpty;
+  project.UnitsLocked = unsaved.UnitsLocked;
+  project.WorkParms = unsaved.WorkParms;
+  project.FileSaved = false;
 }
 
 }  // namespace orby

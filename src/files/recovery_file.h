@@ -25,11 +25,11 @@ struct UnsavedProject {
   Design WorkParms;
 };
 
-// The project of the program as it was last committed.
-UnsavedProject CommittedProject(const Program& program);
+// The project as it was last committed.
+UnsavedProject CommittedProject(const Project& project);
 
 // The project as it will be once this design is committed.
-UnsavedProject EditedProject(const Program& program, Design design);
+UnsavedProject EditedProject(const Project& project, Design design);
 
 // Whether the bytes begin as those of a recovery file do.
 bool IsRecoveryFile(std::string_view bytes);
@@ -43,6 +43,6 @@ std::optional<UnsavedProject> ReadRecovery(std::string_view bytes);
 std::string ProjectNamedIn(std::string_view bytes);
 
 // Makes the project the open one, with unsaved changes.
-void RestoreProject(Program& program, const UnsavedProject& project);
+void RestoreProject(Project& project, const UnsavedProject& unsaved);
 
 }  // namespace orby

@@ -48,11 +48,12 @@ bool FileMenuSave(Program& program, bool saveAs) {
   return ok;
 }
 
-bool SaveChangesOfPreviousFile(Program& program) {
+bool MayLeavePreviousFile(Program& program) {
+  if (program.project.FileSaved) return true;
   const int answer = ShowMessage(program, "Save changes to: " + program.project.PreviousFile + "?",
                                  box_style::YesNo | box_style::Question | box_style::SecondButtonDefault);
   if (answer != box_result::Yes) {
-    UnsavedProject dropped = CommittedProject(program);
+    UnsavedProject dropped = CommittedProject(program.project);
     dropped.CurrentFile = program.project.PreviousFile;
     KeepChanges(program, dropped);
     return true;

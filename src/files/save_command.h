@@ -20,9 +20,9 @@ void AskFileName(Program& program, FileDialogMode mode);
 // if the user cancelled or the save failed, which was told then.
 bool FileMenuSave(Program& program, bool saveAs);
 
-// Asks whether to save the changes of PreviousFile and saves them there; those not saved are kept as a backup. Returns
-// true if CurrentFile, which is then as it was before the call, is to be opened. Returns false after a save that is
-// cancelled or fails: the project stays, and CurrentFile is PreviousFile.
-bool SaveChangesOfPreviousFile(Program& program);
+// Returns whether CurrentFile may take the place of the open project. Asks before about unsaved changes of that, which
+// is PreviousFile, and saves them there; those not saved are kept as a backup. False after a save that is cancelled or
+// fails: the project stays, and CurrentFile is PreviousFile.
+bool MayLeavePreviousFile(Program& program);
 
 }  // namespace orby

@@ -23,22 +23,22 @@ std::string TableRow(std::string_view left, std::string_view right) {
 }
 
 // The name alone, as short as captions show it: a path could reach into the column of the page number.
-std::string FileName(const Program& program) { return ShortenedPath(NameBehindSeparator(program.project.CurrentFile)); }
+std::string FileName(const Project& project) { return ShortenedPath(NameBehindSeparator(project.CurrentFile)); }
 
 // The title as it was typed, also where opening the file has shifted the header.
-std::string TypedTitle(const Program& program) {
-  const auto before = TextsBeforeTheShift({program.project.ProjectTitle, program.project.ProjectDescription});
-  return before ? before->Title : program.project.ProjectTitle;
+std::string TypedTitle(const Project& project) {
+  const auto before = TextsBeforeTheShift({project.ProjectTitle, project.ProjectDescription});
+  return before ? before->Title : project.ProjectTitle;
 }
 
 // The file and, if it has one, the title of the project.
-std::string DocumentTitle(const Program& program) {
-  const std::string title(Trim(TypedTitle(program)));
-  return title.empty() ? FileName(program) : FileName(program) + " - " + title;
+std::string DocumentTitle(const Project& project) {
+  const std::string title(Trim(TypedTitle(project)));
+  return title.empty() ? FileName(project) : FileName(project) + " - " + title;
 }
 
 std::vector<std::string> PageHeader(const Program& program, std::size_t page) {
-  return {TableRow("File Name: " + FileName(program), "Page: " + NumberText(static_cast<double>(page))),
+  return {TableRow("File Name: " + FileName(program.project), "Page: " + NumberText(static_cast<double>(page))),
           TableRow("Current Units: " + std::string(UnitSummary(program.project.WorkParms.Units)),
                    "Date/Time: " + DateText(program.platform.clock.Today())),
           std::string(ProgramTitle) + ", Version: " + VersionText(true), std::string(PrintedWidth, '-'), std::string()};
@@ -109,11 +109,10 @@ class SheetWriter {
 
 }  // namespace
 
-std::string JoinedPages(const Program& program, Integer first, Integer last) {
-  if (first < 0 || static_cast<std::size_t>(last) >= program.session.OutBuf.size())
-    throw RuntimeError(error_number::Subscript);
+std::string JoinedPages(const Session& session, Integer first, Integer last) {
+  if (first < 0 || static_cast<std::size_t>(last) >= session.OutBuf.size()) throw RuntimeError(error_number::Subscript);
   std::string text;
-  for (Integer page = first; page <= last; ++page) text += program.session.OutBuf[static_cast<std::size_t>(page)];
+  for (Integer page = first; page <= last; ++page) text += session.OutBuf[static_cast<std::size_t>(page)];
   return text;
 }
 
@@ -123,14 +122,14 @@ std::vector<std::string> PrintSheets(const Program& program, std::string_view te
   return sheets.Take();
 }
 
-std::string PrintedName(const Program& program) {
-  const std::string_view name = NameBehindSeparator(program.project.CurrentFile);
+std::string PrintedName(const Project& project) {
+  const std::string_view name = NameBehindSeparator(project.CurrentFile);
   const std::size_t point = name.rfind('.');
   return std::string(point == 0 ? name : name.substr(0, point));
 }
 
 std::string PrintText(Program& program, std::string_view text) {
-  return program.platform.printer.PrintPages(PrintSheets(program, text), DocumentTitle(program),
+  return program.platform.printer.PrintPages(PrintSheets(program, text), DocumentTitle(program.project),
                                              ChoosePrinterFont(program));
 }
 

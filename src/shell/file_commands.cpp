@@ -36,7 +36,7 @@ void MainWindow::FileCommand(Integer item) {
 }
 
 void MainWindow::NewProject() {
-  if (!program_.project.FileSaved) KeepChanges(program_, CommittedProject(program_));
+  if (!program_.project.FileSaved) KeepChanges(program_, CommittedProject(program_.project));
   FileNew(program_, true, true);
   recovery_.Discard();
   RefreshCaption();
@@ -63,7 +63,11 @@ void MainWindow::OpenFile(const std::string& path, Trap trap) {
 // A refused file leaves the caption as it is.
 void MainWindow::LoadProjFile(Trap trap) {
   bool ok = false;
-  Run(trap, [&] { While(Act::OpenFile, program_.project.CurrentFile, [&] { FileOpen(program_, ok); }); });
+  Run(trap, [&] {
+    While(Act::OpenFile, program_.project.CurrentFile, [&] {
+      if (MayLeavePreviousFile(program_)) FileOpen(program_, ok);
+    });
+  });
   recovery_.Committed();
   if (!ok) return;
   UpdateRecentFiles();
@@ -100,7 +104,7 @@ bool MainWindow::BuildPages() {
 void MainWindow::PrintProject(bool choosesPrinter) {
   if (!MayPrint()) return;
   Printer& printer = program_.platform.printer;
-  const std::string name = PrintedName(program_);
+  const std::string name = PrintedName(program_.project);
   if (!choosesPrinter) {
     printer.ChooseAsBefore(name);
   } else if (!GoesOn(Run(Trap::Set, [&] { printer.Choose(name); }))) {
@@ -108,7 +112,7 @@ void MainWindow::PrintProject(bool choosesPrinter) {
   }
   if (!BuildPages()) return;
   std::string file;
-  Run(Trap::Set, [&] { file = PrintText(program_, JoinedPages(program_, 0, 1)); });
+  Run(Trap::Set, [&] { file = PrintText(program_, JoinedPages(program_.session, 0, 1)); });
   if (!choosesPrinter && !file.empty()) AddHistoryLine(program_, "Report printed to " + file);
 }
 

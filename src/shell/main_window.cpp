@@ -107,7 +107,7 @@ bool MainWindow::MayClose() {
   const int answer = ShowMessage(program_, "Save changes to: " + program_.project.CurrentFile + "?",
                                  box_style::YesNoCancel | box_style::Question);
   if (answer == box_result::No) {
-    KeepChanges(program_, CommittedProject(program_));
+    KeepChanges(program_, CommittedProject(program_.project));
     return true;
   }
   return answer == box_result::Yes && SaveProject(false);

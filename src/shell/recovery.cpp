@@ -86,7 +86,7 @@ std::optional<UnsavedProject> Recovery::TakeLostProject() {
 }
 
 void Recovery::KeepDamagedFile() {
-  if (!BackupFolder(program_).empty()) {
+  if (!BackupFolder(program_.session).empty()) {
     const auto kept = KeepDamaged(program_, written_);
     if (!kept) {
       ShowMessage(program_, "A damaged recovery file could not be kept in Backups: " + PutAside(),
@@ -127,7 +127,7 @@ bool Recovery::Ask(const std::string& otherFile) {
     box.captions = {"Recover", "Open " + ShortenedPath(NameBehindSeparator(otherFile)) + " instead"};
   }
   if (ShowMessage(program_, box) == box_result::Yes) {
-    RestoreProject(program_, *project);
+    RestoreProject(program_.project, *project);
     return true;
   }
   KeepChanges(program_, *project, BackupReason::Declined);
@@ -139,7 +139,7 @@ bool Recovery::Recover() {
   if (keptSlot_ != 0 && slot_ != keptSlot_) return false;
   const std::optional<UnsavedProject> project = TakeLostProject();
   if (!project) return false;
-  RestoreProject(program_, *project);
+  RestoreProject(program_.project, *project);
   AddHistoryLine(program_, "Recovered: " + program_.project.CurrentFile + ", with its unsaved changes");
   return true;
 }
@@ -147,14 +147,14 @@ bool Recovery::Recover() {
 void Recovery::DesignShown(const Design& design) {
   changed_.reset();
   edited_.reset();
-  shown_ = RecoveryBytes(EditedProject(program_, design));
+  shown_ = RecoveryBytes(EditedProject(program_.project, design));
 }
 
 void Recovery::DialogClosed() {
   if (edited_) {
-    const UnsavedProject edited = EditedProject(program_, *edited_);
+    const UnsavedProject edited = EditedProject(program_.project, *edited_);
     const std::string bytes = RecoveryBytes(edited);
-    const bool isCommitted = bytes == RecoveryBytes(EditedProject(program_, program_.project.WorkParms));
+    const bool isCommitted = bytes == RecoveryBytes(EditedProject(program_.project, program_.project.WorkParms));
     if (bytes != shown_ && !isCommitted) KeepChanges(program_, edited);
     edited_.reset();
   }
@@ -184,7 +184,7 @@ void Recovery::Flush() {
     if (!program_.project.FileSaved && (written_.empty() || failed_)) Committed();
     return;
   }
-  const std::string bytes = RecoveryBytes(EditedProject(program_, *changed_));
+  const std::string bytes = RecoveryBytes(EditedProject(program_.project, *changed_));
   if (bytes == shown_) {
     Committed();
   } else {
@@ -198,7 +198,7 @@ void Recovery::Committed() {
   if (program_.project.FileSaved) {
     Discard();
   } else {
-    Write(RecoveryBytes(CommittedProject(program_)));
+    Write(RecoveryBytes(CommittedProject(program_.project)));
   }
 }
 

@@ -48,7 +48,7 @@ IniText SettledConfiguration(Program& program) {
   }
   // Here alone, not at every start: to ask the machine for its fonts takes longer than all the rest.
   SetBuiltInSettings(program);
-  IniText ini = NewIniText(program);
+  IniText ini = NewIniText(program.session);
   try {
     if (!trouble) WriteNewIniFile(program, ini);
   } catch (const RuntimeError& error) {

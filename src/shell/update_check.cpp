@@ -25,7 +25,7 @@ std::string Question() {
 }  // namespace
 
 void UpdateCheck::Start() {
-  if (program_.session.settings.RemindAnnualUpdates == 0 || !HasUpdateServer(program_)) return;
+  if (program_.session.settings.RemindAnnualUpdates == 0 || !HasUpdateServer(program_.session)) return;
   fetch_ = FetchVersion(program_, [this](const VersionAnswer& answer) {
     fetch_.reset();
     if (answer.offered) Compare(*answer.offered);

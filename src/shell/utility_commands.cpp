@@ -43,9 +43,9 @@ void MainWindow::ShowBackups() {
   ShowForm(program_, backups);
   if (!backups.Chosen) return;
   program_.project.PreviousFile = program_.project.CurrentFile;
-  if (!program_.project.FileSaved && !SaveChangesOfPreviousFile(program_)) return;
+  if (!MayLeavePreviousFile(program_)) return;
   FileNew(program_, false, true);
-  RestoreProject(program_, *backups.Chosen);
+  RestoreProject(program_.project, *backups.Chosen);
   AddHistoryLine(program_, "Backup opened as an unsaved project: " + program_.project.CurrentFile);
   recovery_.Committed();
   RefreshCaption();

@@ -118,7 +118,7 @@ constexpr const char* SomeListsText =
 TEST_F(CatalogSections, TheDefaultsAreWrittenInTableOrder) {
   IniText ini;
 
-  WriteCatalogSection(program, ini, Defaults);
+  WriteCatalogSection(program.session, ini, Defaults);
 
   EXPECT_EQ(ini.Text(), DefaultsText);
 }
@@ -127,7 +127,7 @@ TEST_F(CatalogSections, TheListsAreWrittenInTableOrderEachIndexBeforeItsEntries)
   catalogs = SomeLists();
   IniText ini;
 
-  WriteCatalogSection(program, ini, BoltParams);
+  WriteCatalogSection(program.session, ini, BoltParams);
 
   EXPECT_EQ(ini.Text(), SomeListsText);
 }
@@ -253,7 +253,7 @@ TEST_F(CatalogSections, TheEnglishStrengthIndexIsWrittenWithoutABlank) {
   catalogs.DefaultBoltUTSArrayENG = Filled({70, 90});
   IniText ini;
 
-  WriteCatalogSection(program, ini, BoltParams);
+  WriteCatalogSection(program.session, ini, BoltParams);
 
   EXPECT_THAT(ini.Text(), testing::HasSubstr("\r\nDefaultBoltUTSIndexENG=1\r\n"));
 }
@@ -315,7 +315,7 @@ TEST_F(CatalogSections, EntriesBeyondAnEmptiedListStayInTheFile) {
   catalogs = SomeLists();
   catalogs.DefaultBoltGradeArrayENG.HighestIndex = -1;
 
-  WriteCatalogSection(program, ini, BoltParams);
+  WriteCatalogSection(program.session, ini, BoltParams);
 
   EXPECT_EQ(ini.Find("ORBYBoltParams", "DefaultBoltGradeIndexENG"), "-1");
   EXPECT_EQ(ini.Find("ORBYBoltParams", "DefaultBoltGradeArrayENG2"), "75");
@@ -325,7 +325,7 @@ TEST_F(CatalogSections, TheStandingSupportsAreWrittenWithBothCapacitiesEach) {
   catalogs.StandSupports = {1, {"4-point Hardwood Crib", "Can, 24in"}, {{{58.5F, 520}, {120, 1068}}}};
   IniText ini;
 
-  WriteCatalogSection(program, ini, StandSupports);
+  WriteCatalogSection(program.session, ini, StandSupports);
 
   EXPECT_EQ(ini.Text(),
             "[ORBYStandSupportParams]\r\n"
@@ -342,7 +342,7 @@ TEST_F(CatalogSections, AStandingSupportWithoutNameOrCapacityIsWrittenAsNoneOfEi
   catalogs.StandSupports = {1, {"Can, 24in"}, {}};
   IniText ini;
 
-  WriteCatalogSection(program, ini, StandSupports);
+  WriteCatalogSection(program.session, ini, StandSupports);
 
   EXPECT_EQ(ini.Find("ORBYStandSupportParams", "DefaultStandSupportType0"), "Can, 24in");
   EXPECT_EQ(ini.Find("ORBYStandSupportParams", "DefaultStandSupportCap0_1"), "0");
@@ -352,7 +352,7 @@ TEST_F(CatalogSections, AStandingSupportWithoutNameOrCapacityIsWrittenAsNoneOfEi
 TEST_F(CatalogSections, AnEmptyListOfStandingSupportsIsItsIndexAlone) {
   IniText ini;
 
-  WriteCatalogSection(program, ini, StandSupports);
+  WriteCatalogSection(program.session, ini, StandSupports);
 
   EXPECT_EQ(ini.Text(), "[ORBYStandSupportParams]\r\nDefaultStandSupportIndex=-1\r\n");
 }
@@ -361,7 +361,7 @@ TEST_F(CatalogSections, ReadingTheStandingSupportsTurnsNamesIntoNumbersAndLosesT
   const StandingSupports written{1, {"4-point Hardwood Crib", "Can, 24in"}, {{{58.5F, 520}, {120, 1068}}}};
   catalogs.StandSupports = written;
   IniText ini;
-  WriteCatalogSection(program, ini, StandSupports);
+  WriteCatalogSection(program.session, ini, StandSupports);
   catalogs.StandSupports = {2, {"a", "b", "Prop Setter"}, {{{1, 2}, {3, 4}, {5, 6}}}};
 
   ReadCatalogSection(program, ini, StandSupports);
@@ -394,7 +394,7 @@ TEST_F(CatalogSections, AnUnknownSelectorReadsAndWritesNothing) {
   catalogs = SomeLists();
   IniText ini;
 
-  WriteCatalogSection(program, ini, 9);
+  WriteCatalogSection(program.session, ini, 9);
   ReadCatalogSection(program, ini, 9);
 
   EXPECT_EQ(ini.Text(), "");

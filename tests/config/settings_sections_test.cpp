@@ -41,7 +41,7 @@ struct SettingsSections : testing::Test {
   void ReadKeys(const std::string& keys) { Read(section::Settings, "[Settings]\r\n" + keys); }
   std::string Written(int selector) const {
     IniText ini;
-    WriteSettings(program, ini, selector);
+    WriteSettings(program.session, ini, selector);
     return ini.Text();
   }
   std::string& FileBytes() { return platform.files.files[IniPath]; }
@@ -363,7 +363,7 @@ TEST_F(SettingsSections, RecentFilesBeyondTheCountStayInTheFileAndAreIgnored) {
   recent.MaxLastFiles = 1;
   recent.Entries[0].LastFile = "c.ORB";
 
-  WriteSettings(program, ini, section::FileMenu);
+  WriteSettings(program.session, ini, section::FileMenu);
   recent = {};
   ReadSettings(program, ini, section::FileMenu);
 
@@ -516,7 +516,7 @@ TEST_F(SettingsSections, AFileWithoutAVersionTellsNone) {
 }
 
 TEST_F(SettingsSections, ANewFileHoldsItsVersionFirstAndEverySectionThatAStartReads) {
-  WriteNewIniFile(program, NewIniText(program));
+  WriteNewIniFile(program, NewIniText(program.session));
 
   std::vector<std::string> names;
   for (std::string_view rest = FileBytes(); !rest.empty();) {

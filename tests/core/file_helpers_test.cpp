@@ -231,39 +231,39 @@ struct Folders : FileBench {
 };
 
 TEST_F(Folders, TheTemporaryOneEndsInOneSeparator) {
-  EXPECT_EQ(GetTempDirectory(program), "/tmp/");
+  EXPECT_EQ(GetTempDirectory(program.platform.files), "/tmp/");
 
   files.temporary = "/tmp/";
-  EXPECT_EQ(GetTempDirectory(elsewhere), "/tmp/");
+  EXPECT_EQ(GetTempDirectory(elsewhere.platform.files), "/tmp/");
 }
 
 TEST_F(Folders, ATemporaryOneThatIsNotThereLeavesTheSeparatorAlone) {
   files.temporary = "/nowhere";
 
-  EXPECT_EQ(GetTempDirectory(elsewhere), "/");
+  EXPECT_EQ(GetTempDirectory(elsewhere.platform.files), "/");
 }
 
 TEST_F(Folders, TheProgramsOwnEndsInOneSeparatorAndHasNoBlanksAround) {
-  EXPECT_EQ(AppDirectory(program), "/program/");
+  EXPECT_EQ(AppDirectory(program.platform.files), "/program/");
 
   files.program = " /opt/roof support/ ";
-  EXPECT_EQ(AppDirectory(elsewhere), "/opt/roof support/");
+  EXPECT_EQ(AppDirectory(elsewhere.platform.files), "/opt/roof support/");
 
   files.program = "D:\\Roof\\";
-  EXPECT_EQ(AppDirectory(elsewhere), "D:\\Roof\\");
+  EXPECT_EQ(AppDirectory(elsewhere.platform.files), "D:\\Roof\\");
 }
 
 TEST_F(Folders, TheLongNameLosesItsSeparatorAndKeepsItsCase) {
   files.files["/mine/Panel"] = "";
 
-  EXPECT_EQ(LongPathName(elsewhere, "/mine/Panel/"), "/mine/Panel");
-  EXPECT_EQ(LongPathName(elsewhere, "/mine/Panel"), "/mine/Panel");
-  EXPECT_EQ(LongPathName(elsewhere, "/mine/Panel\\"), "/mine/Panel");
+  EXPECT_EQ(LongPathName(elsewhere.platform.files, "/mine/Panel/"), "/mine/Panel");
+  EXPECT_EQ(LongPathName(elsewhere.platform.files, "/mine/Panel"), "/mine/Panel");
+  EXPECT_EQ(LongPathName(elsewhere.platform.files, "/mine/Panel\\"), "/mine/Panel");
 }
 
 TEST_F(Folders, TheLongNameOfWhatIsNotThereIsEmpty) {
-  EXPECT_EQ(LongPathName(program, "/nowhere"), "");
-  EXPECT_EQ(LongPathName(program, ""), "");
+  EXPECT_EQ(LongPathName(program.platform.files, "/nowhere"), "");
+  EXPECT_EQ(LongPathName(program.platform.files, ""), "");
 }
 
 }  // namespace

@@ -40,7 +40,7 @@ struct TheBackupsWindow : testing::Test {
     Program other(platform.Doors());
     Begin(other);
     other.project.WorkParms.Place.DepthofCover = depth;
-    return ProjectFileBytes(other);
+    return ProjectFileBytes(other.project);
   }
 
   void OpenProject(const std::string& path) {
@@ -57,7 +57,7 @@ struct TheBackupsWindow : testing::Test {
     program.project.WorkParms.Place.DepthofCover = 800;
     program.project.ProjectTitle = "Belt entry";
     program.project.WorkParms.Primary.Options = 1;
-    KeepDropped(program, CommittedProject(program), BackupReason::Dropped);
+    KeepDropped(program, CommittedProject(program.project), BackupReason::Dropped);
     FileNew(program, true, true);
   }
 
@@ -115,7 +115,7 @@ TEST_F(TheBackupsWindow, ShowsTheSuggestedSupportOfTheDefaultDesign) {
 
 TEST_F(TheBackupsWindow, ShowsTheTitleOfASavedFileAsItWasTyped) {
   program.project.ProjectTitle = "Belt entry";
-  KeepBackup(program, Panel3, ProjectFileBytes(program), BackupReason::Overwritten);
+  KeepBackup(program, Panel3, ProjectFileBytes(program.project), BackupReason::Overwritten);
 
   backups.Open();
 
@@ -124,7 +124,7 @@ TEST_F(TheBackupsWindow, ShowsTheTitleOfASavedFileAsItWasTyped) {
 
 TEST_F(TheBackupsWindow, ShowsADashForAFigureThatCannotBeHad) {
   program.project.WorkParms.Place.EntryWidth = 0;
-  KeepDropped(program, CommittedProject(program), BackupReason::Dropped);
+  KeepDropped(program, CommittedProject(program.project), BackupReason::Dropped);
 
   backups.Open();
 

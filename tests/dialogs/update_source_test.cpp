@@ -111,29 +111,30 @@ TEST(OfferedVersions, AreComparedAsTexts) {
 struct UpdatePlaces : UpdateTest {};
 
 TEST_F(UpdatePlaces, LieOnTheServer) {
-  EXPECT_TRUE(HasUpdateServer(program));
-  EXPECT_EQ(VersionFileAddress(program), "https://updates.example.org/wp-content/uploads/2020/04/orby_version.txt");
-  EXPECT_EQ(SetupFileAddress(program, "1.0.01"),
+  EXPECT_TRUE(HasUpdateServer(program.session));
+  EXPECT_EQ(VersionFileAddress(program.session),
+            "https://updates.example.org/wp-content/uploads/2020/04/orby_version.txt");
+  EXPECT_EQ(SetupFileAddress(program.session, "1.0.01"),
             "https://updates.example.org/wp-content/uploads/2020/04/ORBY1.0.01.exe");
-  EXPECT_EQ(WebPageAddress(program), "https://updates.example.org/roof-support/");
+  EXPECT_EQ(WebPageAddress(program.session), "https://updates.example.org/roof-support/");
 }
 
 TEST_F(UpdatePlaces, AreTheSameWithASlashBehindTheServer) {
   program.session.UpdateServer = "https://updates.example.org/";
 
-  EXPECT_EQ(WebPageAddress(program), "https://updates.example.org/roof-support/");
+  EXPECT_EQ(WebPageAddress(program.session), "https://updates.example.org/roof-support/");
 }
 
 TEST_F(UpdatePlaces, AreMissingWithoutAServer) {
   program.session.UpdateServer.clear();
 
-  EXPECT_FALSE(HasUpdateServer(program));
+  EXPECT_FALSE(HasUpdateServer(program.session));
 }
 
 TEST_F(UpdatePlaces, AreTheProgramsAndTheUsersFolders) {
-  EXPECT_EQ(VersionFilePath(program), "/home/user/Documents/MyStrataDesk/ORBY/orby_version.txt");
-  EXPECT_EQ(DownloadFolder(program), "/home/user/Downloads/");
-  EXPECT_EQ(SetupFilePath(program, "1.0.01"), "/home/user/Downloads/ORBY1.0.01.exe");
+  EXPECT_EQ(VersionFilePath(program.session), "/home/user/Documents/MyStrataDesk/ORBY/orby_version.txt");
+  EXPECT_EQ(DownloadFolder(program.session), "/home/user/Downloads/");
+  EXPECT_EQ(SetupFilePath(program.session, "1.0.01"), "/home/user/Downloads/ORBY1.0.01.exe");
 }
 
 }  // namespace

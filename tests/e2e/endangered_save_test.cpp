@@ -71,7 +71,7 @@ std::string DesignAt(Single depth) {
   Program program(platform.Doors());
   StartApart(program, nullptr);
   program.project.WorkParms.Place.DepthofCover = depth;
-  return ProjectFileBytes(program);
+  return ProjectFileBytes(program.project);
 }
 
 // What the session saves when nothing happens to it.

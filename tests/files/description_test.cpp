@@ -143,7 +143,7 @@ Loaded Load(const std::string& bytes, int mode = description_mode::Marked, Integ
   project.program.project.ProjectDescription = "previous";
   if (mode == description_mode::Legacy || fileVersion < 50) project.program.project.ProjectDescription.clear();
   ItemReader reader(bytes);
-  LoadDescription(project.program, reader, mode);
+  LoadDescription(project.program.project, reader, mode);
   return {project.program.project.ProjectDescription, project.program.project.DescLines, reader.ReadLine()};
 }
 

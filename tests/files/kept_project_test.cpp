@@ -22,7 +22,7 @@ struct KeptProject : testing::Test {
 };
 
 TEST_F(KeptProject, IsReadFromAProjectFileUnderItsOldName) {
-  const auto read = ReadKeptProject(project.program, ProjectFileBytes(project.program), "/designs/panel7.orb");
+  const auto read = ReadKeptProject(project.program, ProjectFileBytes(project.program.project), "/designs/panel7.orb");
 
   ASSERT_TRUE(read);
   EXPECT_EQ(read->CurrentFile, "/designs/panel7.orb");
@@ -33,7 +33,7 @@ TEST_F(KeptProject, IsReadFromAProjectFileUnderItsOldName) {
 
 TEST_F(KeptProject, OfAnOlderFormatHasTheDefaultsForWhatItLacks) {
   project.program.project.WorkParms.Primary.Desc = "of the open project";
-  std::string bytes = ProjectFileBytes(project.program);
+  std::string bytes = ProjectFileBytes(project.program.project);
   bytes.replace(bytes.find("ORBY_105"), 8, "ORBY_104");
 
   const auto read = ReadKeptProject(project.program, bytes, ProjectPath);
@@ -43,7 +43,7 @@ TEST_F(KeptProject, OfAnOlderFormatHasTheDefaultsForWhatItLacks) {
 }
 
 TEST_F(KeptProject, IsReadFromARecoveryFileUnderTheNameInIt) {
-  const auto read = ReadKeptProject(project.program, RecoveryBytes(CommittedProject(project.program)), "other");
+  const auto read = ReadKeptProject(project.program, RecoveryBytes(CommittedProject(project.program.project)), "other");
 
   ASSERT_TRUE(read);
   EXPECT_EQ(read->CurrentFile, ProjectPath);
@@ -51,8 +51,8 @@ TEST_F(KeptProject, IsReadFromARecoveryFileUnderTheNameInIt) {
 }
 
 TEST_F(KeptProject, IsNoneInDamagedBytes) {
-  const std::string file = ProjectFileBytes(project.program);
-  const std::string recovery = RecoveryBytes(CommittedProject(project.program));
+  const std::string file = ProjectFileBytes(project.program.project);
+  const std::string recovery = RecoveryBytes(CommittedProject(project.program.project));
 
   for (const std::string& bytes : {file.substr(0, file.size() / 2), recovery.substr(0, recovery.size() / 2),
                                    std::string(), std::string("notes of the shift")}) {
@@ -65,7 +65,7 @@ TEST_F(KeptProject, IsReadWithoutATraceInTheProgram) {
   project.program.session.settings.DisplayHistoryWin = 1;
 
   ReadKeptProject(project.program, "notes of the shift", ProjectPath);
-  ReadKeptProject(project.program, ProjectFileBytes(project.program), ProjectPath);
+  ReadKeptProject(project.program, ProjectFileBytes(project.program.project), ProjectPath);
 
   EXPECT_THAT(project.program.session.history.Text, IsEmpty());
   EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
@@ -73,13 +73,13 @@ TEST_F(KeptProject, IsReadWithoutATraceInTheProgram) {
 }
 
 TEST_F(KeptProject, AsAFileIsTheProjectFileAsItWas) {
-  const std::string bytes = ProjectFileBytes(project.program);
+  const std::string bytes = ProjectFileBytes(project.program.project);
 
   EXPECT_EQ(KeptProjectAsFile(project.program, bytes), bytes);
 }
 
 TEST_F(KeptProject, AsAFileIsTheRecoveryFileAsASaveWouldWriteIt) {
-  const std::string recovery = RecoveryBytes(CommittedProject(project.program));
+  const std::string recovery = RecoveryBytes(CommittedProject(project.program.project));
 
   const auto bytes = KeptProjectAsFile(project.program, recovery);
 

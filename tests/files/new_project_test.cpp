@@ -13,7 +13,7 @@ TEST(NewProject, EnglishDefaultsAreTheseToTheLetter) {
 
   FileNew(project.program, true, true);
 
-  EXPECT_EQ(ProjectFileBytes(project.program), ReadTestData("projects/new_english.orb"));
+  EXPECT_EQ(ProjectFileBytes(project.program.project), ReadTestData("projects/new_english.orb"));
 }
 
 TEST(NewProject, MetricDefaultsAreTheseToTheLetter) {
@@ -22,7 +22,7 @@ TEST(NewProject, MetricDefaultsAreTheseToTheLetter) {
 
   FileNew(project.program, true, true);
 
-  EXPECT_EQ(ProjectFileBytes(project.program), ReadTestData("projects/new_metric.orb"));
+  EXPECT_EQ(ProjectFileBytes(project.program.project), ReadTestData("projects/new_metric.orb"));
 }
 
 TEST(NewProject, UltimateStrengthTakesTheUltimateGrade) {

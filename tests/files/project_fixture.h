@@ -7,6 +7,7 @@
 #include "core/messages.h"
 #include "files/new_project.h"
 #include "files/project_file.h"
+#include "files/save_command.h"
 #include "support/recording_platform.h"
 
 namespace orby::test {
@@ -31,7 +32,7 @@ struct TestProject {
 
   bool Open() {
     bool ok = false;
-    FileOpen(program, ok);
+    if (MayLeavePreviousFile(program)) FileOpen(program, ok);
     return ok;
   }
 

@@ -28,7 +28,7 @@ struct ChangedProject : TestProject {
     Save();
     old = File();
     program.project.WorkParms.Place.DepthofCover = 810;
-    typed = ProjectFileBytes(program);
+    typed = ProjectFileBytes(program.project);
     platform.boxes.shown.clear();
   }
 

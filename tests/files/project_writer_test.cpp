@@ -61,7 +61,7 @@ TEST(ProjectWriter, NumbersAreGeneralTextWithAPoint) {
   record.Primary.StabilityFactor = 1E7F;
   record.Place.CMRR = -3;
 
-  const std::string bytes = ProjectFileBytes(project.program);
+  const std::string bytes = ProjectFileBytes(project.program.project);
 
   EXPECT_EQ(DataLine(bytes, 1), "-3");
   EXPECT_EQ(DataLine(bytes, 5), "12.5");
@@ -76,7 +76,7 @@ TEST(ProjectWriter, TheLastTwoLinesArePadded) {
   project.program.project.WorkParms.Cost.Production = 0;
   project.program.project.WorkParms.Cost.Advance = -1;
 
-  const std::string bytes = ProjectFileBytes(project.program);
+  const std::string bytes = ProjectFileBytes(project.program.project);
 
   EXPECT_EQ(DataLine(bytes, 121), " 0 ");
   EXPECT_EQ(DataLine(bytes, 122), "-1 ");
@@ -88,7 +88,7 @@ TEST(ProjectWriter, BothSupportModesAreWritten) {
   project.program.project.WorkParms.Entries.Standing.TypeMode = 0;
   project.program.project.WorkParms.Intersections.Standing.TypeMode = 1;
 
-  const std::string bytes = ProjectFileBytes(project.program);
+  const std::string bytes = ProjectFileBytes(project.program.project);
 
   EXPECT_EQ(DataLine(bytes, 59), "0");
   EXPECT_EQ(DataLine(bytes, 95), "1");
@@ -100,7 +100,7 @@ TEST(ProjectWriter, ComputedFieldsAreNotInTheFile) {
   project.program.project.WorkParms.Intersections.Standing.StabFactor = 98765;
   project.program.project.WorkParms.Entries.Truss.SupportCap = 98765;
 
-  EXPECT_EQ(ProjectFileBytes(project.program), ReadTestData("projects/new_english.orb"));
+  EXPECT_EQ(ProjectFileBytes(project.program.project), ReadTestData("projects/new_english.orb"));
 }
 
 TEST(ProjectWriter, TextsAreWrittenRaw) {
@@ -108,7 +108,7 @@ TEST(ProjectWriter, TextsAreWrittenRaw) {
   project.program.project.WorkParms.Primary.Desc = " Rebar, \"no. 6\" ";
   project.program.project.WorkParms.Intersections.Standing.TypeName = "Crib, 4-point";
 
-  const std::string bytes = ProjectFileBytes(project.program);
+  const std::string bytes = ProjectFileBytes(project.program.project);
 
   EXPECT_EQ(DataLine(bytes, 18), " Rebar, \"no. 6\" ");
   EXPECT_EQ(DataLine(bytes, 96), "Crib, 4-point");
@@ -139,7 +139,7 @@ TEST(ProjectWriter, OneCharacterOutsideTheCodePageMakesTheWholeFileUtf8) {
   EXPECT_THAT(project.File(), HasSubstr("\r\nGr\xC3\xBC"
                                         "be\r\n"));
   EXPECT_THAT(project.File(), HasSubstr("\r\n\xE6\x94\xAF\xE6\x9F\xB1\r\n"));
-  EXPECT_EQ(project.File(), ProjectFileBytes(project.program));
+  EXPECT_EQ(project.File(), ProjectFileBytes(project.program.project));
 }
 
 }  // namespace

@@ -14,7 +14,9 @@ using testing::IsEmpty;
 struct NewProject : TestProject {
   NewProject() { FileNew(program, false, true); }
 
-  std::vector<std::string_view> Differing() { return FieldsThatReadDifferently(program, ProjectFileBytes(program)); }
+  std::vector<std::string_view> Differing() {
+    return FieldsThatReadDifferently(program.project, ProjectFileBytes(program.project));
+  }
 };
 
 TEST(ReadBack, ANewProjectComesBackWhole) {

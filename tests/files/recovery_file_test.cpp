@@ -23,7 +23,7 @@ struct RecoveryFile : testing::Test {
     project.program.project.FileEmpty = false;
   }
 
-  std::string Bytes() const { return RecoveryBytes(CommittedProject(project.program)); }
+  std::string Bytes() const { return RecoveryBytes(CommittedProject(project.program.project)); }
 
   TestProject project;
 };
@@ -65,7 +65,7 @@ TEST_F(RecoveryFile, TakesAnEditedDesignAsItsCommitWould) {
   Design design = project.program.project.WorkParms;
   design.Place.DepthofCover = 725;
 
-  const UnsavedProject edited = EditedProject(project.program, design);
+  const UnsavedProject edited = EditedProject(project.program.project, design);
 
   EXPECT_EQ(edited.WorkParms.Place.DepthofCover, 725);
   EXPECT_FALSE(edited.FileEmpty);
@@ -126,7 +126,7 @@ TEST_F(RecoveryFile, RestoresAnUnsavedProjectUnderItsOldName) {
   TestProject next;
   FileNew(next.program, true, true);
 
-  RestoreProject(next.program, *read);
+  RestoreProject(next.program.project, *read);
 
   EXPECT_EQ(next.program.project.CurrentFile, "/designs/panel3.orb");
   EXPECT_EQ(next.program.project.ProjectTitle, "Panel 3");
@@ -164,7 +164,7 @@ class DamagedRecoveryFile : public testing::TestWithParam<Damage> {};
 TEST_P(DamagedRecoveryFile, IsNotRead) {
   TestProject project;
   FileNew(project.program, false, true);
-  std::string bytes = RecoveryBytes(CommittedProject(project.program));
+  std::string bytes = RecoveryBytes(CommittedProject(project.program.project));
   const std::size_t at = bytes.find(GetParam().from);
   ASSERT_NE(at, std::string::npos);
   bytes.replace(at, std::string_view(GetParam().from).size(), GetParam().to);

@@ -166,10 +166,10 @@ TEST(Printing, FillsItsSheetsAlsoWithHeadingsAlone) {
 
 TEST(Printing, ProposesTheNameOfTheFileWithoutItsExtension) {
   Desk desk;
-  EXPECT_EQ(PrintedName(desk.program), "Untitled");
+  EXPECT_EQ(PrintedName(desk.program.project), "Untitled");
 
   desk.program.project.CurrentFile = "/designs/panel 3.5.ORB";
-  EXPECT_EQ(PrintedName(desk.program), "panel 3.5");
+  EXPECT_EQ(PrintedName(desk.program.project), "panel 3.5");
 }
 
 TEST(Printing, CallsTheDocumentByFileAndTitle) {
@@ -197,10 +197,10 @@ TEST(Printing, JoinsPagesWithNothingBetweenThem) {
   Desk desk;
   desk.program.session.OutBuf = {"inputs\r\n", "calculations\r\n", "", "", ""};
 
-  EXPECT_EQ(JoinedPages(desk.program, 0, 1), "inputs\r\ncalculations\r\n");
-  EXPECT_EQ(JoinedPages(desk.program, 1, 1), "calculations\r\n");
-  EXPECT_EQ(ErrorNumberOf([&] { JoinedPages(desk.program, 0, 5); }), 9);
-  EXPECT_EQ(ErrorNumberOf([&] { JoinedPages(desk.program, -1, 1); }), 9);
+  EXPECT_EQ(JoinedPages(desk.program.session, 0, 1), "inputs\r\ncalculations\r\n");
+  EXPECT_EQ(JoinedPages(desk.program.session, 1, 1), "calculations\r\n");
+  EXPECT_EQ(ErrorNumberOf([&] { JoinedPages(desk.program.session, 0, 5); }), 9);
+  EXPECT_EQ(ErrorNumberOf([&] { JoinedPages(desk.program.session, -1, 1); }), 9);
 }
 
 TEST(Printing, SendsTheSheetsToThePrinterInItsFont) {
@@ -232,7 +232,8 @@ TEST(Printing, ArrangesAWholeReportOnItsSheets) {
   TakeCalculationPage(desk.program, CalculationReport(design, desk.program.session.catalogs));
 
   std::string printed;
-  for (const std::string& sheet : PrintSheets(desk.program, JoinedPages(desk.program, 0, 1))) printed += sheet + "\f";
+  for (const std::string& sheet : PrintSheets(desk.program, JoinedPages(desk.program.session, 0, 1)))
+    printed += sheet + "\f";
 
   EXPECT_EQ(printed, ReadTestData("reports/every_system_english_printed.txt"));
 }

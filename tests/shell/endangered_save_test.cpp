@@ -76,8 +76,9 @@ class EndangeredSave {
     const auto held = files.find(row_.target);
     const std::string bytes = held == files.end() ? "" : held->second;
     if (bytes == old_) return "file, as last saved";
-    if (IsKept(files)) return bytes == ProjectFileBytes(program_) ? "file and Backups" : "Backups, as last saved";
-    if (bytes == ProjectFileBytes(program_)) return "file, as last typed";
+    if (IsKept(files))
+      return bytes == ProjectFileBytes(program_.project) ? "file and Backups" : "Backups, as last saved";
+    if (bytes == ProjectFileBytes(program_.project)) return "file, as last typed";
     const auto recovery = files.find(RecoveryPath);
     const auto project = recovery == files.end() ? std::nullopt : ReadRecovery(recovery->second);
     return project && project->WorkParms.Place.DepthofCover == 810 ? "recovery, as last typed" : "";
@@ -97,7 +98,7 @@ class EndangeredSave {
   }
 
   bool IsSaved() const { return program_.project.FileSaved; }
-  bool FileIsTheProject() const { return platform_.files.files.at(row_.target) == ProjectFileBytes(program_); }
+  bool FileIsTheProject() const { return platform_.files.files.at(row_.target) == ProjectFileBytes(program_.project); }
   bool FileIsOld() const { return platform_.files.files.at(row_.target) == old_; }
 
  private:
@@ -105,7 +106,7 @@ class EndangeredSave {
     Program other(platform_.Doors());
     StartApart(other, nullptr);
     other.project.WorkParms.Place.DepthofCover = depth;
-    return ProjectFileBytes(other);
+    return ProjectFileBytes(other.project);
   }
 
   const Row& row_;

@@ -70,7 +70,7 @@ TEST_P(SaveThatFails, CompletesOnRetry) {
 
   EXPECT_THAT(boxes.texts, ElementsAre("Error occurred: Disk full (61)"));
   EXPECT_TRUE(program.project.FileSaved);
-  EXPECT_EQ(platform.files.files[Panel3], ProjectFileBytes(program));
+  EXPECT_EQ(platform.files.files[Panel3], ProjectFileBytes(program.project));
   EXPECT_THAT(platform.files.files[Panel3], HasSubstr("\r\n810\r\n"));
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb");
   EXPECT_FALSE(platform.windows.waitCursor);
@@ -89,7 +89,7 @@ TEST_P(SaveThatFails, LeavesAnUnsavedProjectThatIsSavedLater) {
   window.mnuFileItem.ClickItem(file_item::Save);
 
   EXPECT_TRUE(program.project.FileSaved);
-  EXPECT_EQ(platform.files.files[Panel3], ProjectFileBytes(program));
+  EXPECT_EQ(platform.files.files[Panel3], ProjectFileBytes(program.project));
 }
 
 INSTANTIATE_TEST_SUITE_P(Steps, SaveThatFails,

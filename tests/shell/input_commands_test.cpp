@@ -175,7 +175,7 @@ TEST_F(InputMenu, IsToldOnTheRoadOfOpenThatADesignCannotBeShown) {
   Program other(platform.Doors());
   StartApart(other, nullptr);
   other.project.WorkParms.Primary.Options = 2;
-  platform.files.files[Panel3] = ProjectFileBytes(other);
+  platform.files.files[Panel3] = ProjectFileBytes(other.project);
 
   OpenByDialog(Panel3);
 

@@ -46,7 +46,7 @@ struct MainWindowTest : testing::Test {
     Program other(platform.Doors());
     StartApart(other, nullptr);
     other.project.WorkParms.Place.DepthofCover = depth;
-    return ProjectFileBytes(other);
+    return ProjectFileBytes(other.project);
   }
 
   // The Open command, the user choosing this file.

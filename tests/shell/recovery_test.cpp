@@ -445,7 +445,7 @@ TEST_F(UnsavedWork, OfARunningProgramIsNotOfferedToAnother) {
 }
 
 TEST_F(UnsavedWork, ThatWasLostGoesBeforeAFreeFile) {
-  platform.files.files[SecondFile] = RecoveryBytes(CommittedProject(Editing(980)));
+  platform.files.files[SecondFile] = RecoveryBytes(CommittedProject(Editing(980).project));
   Program next = Started();
   platform.boxes.answers = {box_result::Yes};
 
@@ -465,7 +465,7 @@ TEST_F(UnsavedWork, OfANinthProgramIsKept) {
 }
 
 TEST_F(UnsavedWork, ThatWasLostInTheNinthFileIsOffered) {
-  platform.files.files[Folder + "~recover9.tmp"] = RecoveryBytes(CommittedProject(Editing(980)));
+  platform.files.files[Folder + "~recover9.tmp"] = RecoveryBytes(CommittedProject(Editing(980).project));
   Program next = Started();
   platform.boxes.answers = {box_result::Yes};
 

@@ -141,7 +141,7 @@ TEST_F(StartUp, TakesTheStandingSupportsFromTheBuiltInTableWhateverTheFileSays) 
   StartProgram(program);
   program.session.catalogs.StandSupports = {0, {"Can, 24in"}, {{{120, 1068}}}};
   EditIniFile(program, program.session.IniFilePath,
-              [this](IniText& ini) { WriteCatalogSection(program, ini, catalog_section::StandSupports); });
+              [this](IniText& ini) { WriteCatalogSection(program.session, ini, catalog_section::StandSupports); });
   Program next(platform.Doors());
 
   StartProgram(next);
@@ -320,8 +320,8 @@ TEST_F(StartOfAScript, TakesTheNewDesignFromTheConfiguredDefaults) {
   StartApart(program, nullptr);
   IniText configuration;
   program.session.defaults.DefaultENGDepthofCover = 725;
-  WriteCatalogSection(program, configuration, catalog_section::Defaults);
-  WriteCatalogSection(program, configuration, catalog_section::BoltParams);
+  WriteCatalogSection(program.session, configuration, catalog_section::Defaults);
+  WriteCatalogSection(program.session, configuration, catalog_section::BoltParams);
   Program next(platform.Doors());
 
   StartApart(next, &configuration);
