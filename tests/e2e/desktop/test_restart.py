@@ -77,8 +77,9 @@ class Restart(DesktopTest):
 class WindowPlace(DesktopTest):
     def test_stays_when_a_dialog_hides_the_main_window(self):
         run = self.start()
-        before = self.place(run)
-        xdotool("search", "--name", TITLE, "windowsize", 700, 500, "windowmove", 90, 70)
+        run.main().wait_active()
+        before = self.settled(run)
+        xdotool("getactivewindow", "windowsize", 700, 500, "windowmove", 90, 70)
         until(lambda: self.place(run)[2:] == (700, 500) and self.place(run)[0] < before[0], "the window elsewhere")
         moved = self.settled(run)
 
