@@ -256,6 +256,18 @@ TEST_F(Companion, TellsWhyAProjectCannotBeConvertedAndWritesNothing) {
   EXPECT_THAT(Names(), ElementsAre("heavy.ORB", "out.ORB"));
 }
 
+TEST_F(Companion, TellsThatTheInputsOfTheCostsCannotBeWritten) {
+  std::string bytes = Read(Example("weak-roof"));
+  const std::string diameter = "#5 smooth - grade 55\r\n0\r\n0.625\r\n";
+  bytes.replace(bytes.find(diameter), diameter.size(), "#5 smooth - grade 55\r\n0\r\n1E+20\r\n");
+
+  const Outcome outcome = Run({"cost", Write("thick.ORB", bytes)});
+
+  EXPECT_EQ(outcome.exitCode, 3);
+  EXPECT_EQ(outcome.out, "");
+  EXPECT_EQ(outcome.err, "run-time error 6: Overflow\n");
+}
+
 TEST_F(Companion, TellsThatARunTimeErrorEndedTheReport) {
   std::string bytes = Read(Example("development-entry"));
   const std::string cablesOnly = "\r\n1\r\n0\r\n0\r\n0\r\n12\r\n";

@@ -18,6 +18,7 @@
 #include "files/project_file.h"
 #include "files/project_writer.h"
 #include "reports/cost_report.h"
+#include "reports/input_echo.h"
 #include "shell/start_up.h"
 
 namespace orby::cli {
@@ -95,7 +96,9 @@ int Report(FileRun& run, const std::string&) {
 
 int Cost(FileRun& run, const std::string&) {
   const Design design = InSevenDigits(run.program.project.WorkParms);
-  Print(CostReport(design.Cost, design.Units));
+  const std::string table = CostReport(design.Cost, design.Units);
+  LoadOutBuf0(run.program, design);  // the inputs go with the table: it has to be possible to write them
+  Print(table);
   return exit_code::Done;
 }
 
