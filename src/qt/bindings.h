@@ -63,6 +63,22 @@ T& FindNamed(const BindingHost& host, const std::string& name) {
   return dynamic_cast<T&>(FindObject(host, name));
 }
 
+// The binding of a control that one widget shows, by default the one that bears its name.
+template <class Widget, class Shown>
+class WidgetBinding : public Binding {
+ public:
+  WidgetBinding(BindingHost& host, Shown& control)
+      : WidgetBinding(host, control, FindNamed<Widget>(host, std::string(control.Name()))) {}
+  WidgetBinding(BindingHost& host, Shown& control, Widget& widget) : host_(host), control_(control), widget_(widget) {}
+
+  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
+
+ protected:
+  BindingHost& host_;
+  Shown& control_;
+  Widget& widget_;
+};
+
 // Shows whether the control can be used and seen.
 inline void ShowState(QWidget& widget, const Control& control) {
   widget.setEnabled(control.Enabled());

@@ -20,30 +20,23 @@
 namespace orby {
 namespace {
 
-class CheckBinding : public Binding {
+class CheckBinding : public WidgetBinding<QCheckBox, CheckBox> {
  public:
-  CheckBinding(BindingHost& host, CheckBox& box)
-      : host_(host), box_(box), widget_(FindNamed<QCheckBox>(host, std::string(box.Name()))) {
+  CheckBinding(BindingHost& host, CheckBox& box) : WidgetBinding(host, box) {
     QObject::connect(&widget_, &QCheckBox::toggled, &widget_, [this](bool on) {
       if (!IsUsable(widget_)) return Show();
-      const auto set = [this, on] { box_.SetValue(on ? 1 : 0); };
-      box_.Kind() == ClickKind::MayAsk ? host_.ActLater(set) : host_.Act(set);
+      const auto set = [this, on] { control_.SetValue(on ? 1 : 0); };
+      control_.Kind() == ClickKind::MayAsk ? host_.ActLater(set) : host_.Act(set);
     });
   }
 
   void Show() override {
     const QSignalBlocker quiet(widget_);
-    ShowState(widget_, box_);
-    widget_.setText(host_.Letters().Marked(&widget_, 0, box_.Caption()));
-    widget_.setChecked(box_.Checked());
+    ShowState(widget_, control_);
+    widget_.setText(host_.Letters().Marked(&widget_, 0, control_.Caption()));
+    widget_.setChecked(control_.Checked());
   }
-  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
-  std::vector<CaptionSlot> Captions() const override { return {{&widget_, 0, &widget_, box_.Caption()}}; }
-
- private:
-  BindingHost& host_;
-  CheckBox& box_;
-  QCheckBox& widget_;
+  std::vector<CaptionSlot> Captions() const override { return {{&widget_, 0, &widget_, control_.Caption()}}; }
 };
 
 // Exclusive buttons do not let themselves be switched off.
@@ -111,10 +104,9 @@ class OptionBinding : public Binding {
 };
 
 // A list with a text of its own: neither completes nor corrects what is typed.
-class ComboBinding : public QObject, public Binding {
+class ComboBinding : public QObject, public WidgetBinding<QComboBox, Combo> {
  public:
-  ComboBinding(BindingHost& host, Combo& combo)
-      : host_(host), combo_(combo), widget_(FindNamed<QComboBox>(host, std::string(combo.Name()))) {
+  ComboBinding(BindingHost& host, Combo& combo) : WidgetBinding(host, combo) {
     widget_.setInsertPolicy(QComboBox::NoInsert);
     widget_.setCompleter(nullptr);
     widget_.installEventFilter(this);
@@ -132,11 +124,10 @@ class ComboBinding : public QObject, public Binding {
 
   void Show() override {
     const QSignalBlocker quiet(widget_);
-    ShowState(widget_, combo_);
+    ShowState(widget_, control_);
     ShowItems();
     ShowText();
   }
-  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
   bool KeepsPlace() const override { return true; }
 
   // The wheel scrolls the dialog and does not change a list that it happens to pass over.
@@ -154,7 +145,7 @@ class ComboBinding : public QObject, public Binding {
     // An item that is chosen sets its text before it tells of the choice, and others may have the same text.
     const int index = widget_.currentIndex();
     if (index >= 0 && widget_.itemText(index) == widget_.currentText()) return Choose(index);
-    host_.Act([this] { combo_.SetText(FromQt(widget_.currentText())); });
+    host_.Act([this] { control_.SetText(FromQt(widget_.currentText())); });
   }
 
   // A text that a screen reader sets has come to its end at once. That of an item is followed by its choice.
@@ -164,7 +155,7 @@ class ComboBinding : public QObject, public Binding {
   }
 
   void Choose(int index) {
-    host_.Act([this, index] { combo_.SetListIndex(index); });
+    host_.Act([this, index] { control_.SetListIndex(index); });
   }
 
   // Screen readers mark an item without going to it. In a list that has dropped down the arrows and the mouse go to the
@@ -180,7 +171,7 @@ class ComboBinding : public QObject, public Binding {
   }
 
   void ShowItems() {
-    const auto& items = combo_.Items();
+    const auto& items = control_.Items();
     bool same = widget_.count() == static_cast<int>(items.size());
     for (std::size_t i = 0; same && i < items.size(); ++i) {
       same = widget_.itemText(static_cast<int>(i)) == ToQt(items[i].text);
@@ -192,27 +183,23 @@ class ComboBinding : public QObject, public Binding {
 
   // Selecting an item, or none, changes the text too. What is being typed keeps its cursor.
   void ShowText() {
-    const QString text = ToQt(combo_.Text());
+    const QString text = ToQt(control_.Text());
     const bool isShown = widget_.currentText() == text;
-    if (isShown && widget_.currentIndex() == combo_.ListIndex()) return;
+    if (isShown && widget_.currentIndex() == control_.ListIndex()) return;
     const int cursor = isShown ? widget_.lineEdit()->cursorPosition() : 0;
-    widget_.setCurrentIndex(combo_.ListIndex());
+    widget_.setCurrentIndex(control_.ListIndex());
     if (widget_.currentText() != text) widget_.setEditText(text);
     widget_.lineEdit()->setCursorPosition(cursor);
   }
 
-  BindingHost& host_;
-  Combo& combo_;
-  QComboBox& widget_;
   bool isTyped_ = false;  // the change of the text that comes next
 };
 
 // Of commands, the Enter key chooses as a click does. The toolkit's own activation would follow a double click too, the
 // first press of which has been a click already.
-class ListBinding : public QObject, public Binding {
+class ListBinding : public QObject, public WidgetBinding<QListWidget, List> {
  public:
-  ListBinding(BindingHost& host, List& list)
-      : host_(host), list_(list), widget_(FindNamed<QListWidget>(host, std::string(list.Name()))) {
+  ListBinding(BindingHost& host, List& list) : WidgetBinding(host, list) {
     widget_.setSpacing(2);
     if (list.Kind() == ListKind::Choices) {
       connect(&widget_, &QListWidget::itemSelectionChanged, this, [this] {
@@ -220,13 +207,13 @@ class ListBinding : public QObject, public Binding {
         if (selected.isEmpty() || !IsUsable(widget_)) {
           QMetaObject::invokeMethod(this, &ListBinding::Show, Qt::QueuedConnection);
         } else {
-          host_.Act([this, index = widget_.row(selected.constFirst())] { list_.ClickItem(index); });
+          host_.Act([this, index = widget_.row(selected.constFirst())] { control_.ClickItem(index); });
         }
       });
       // A click on the item that is selected already changes no selection.
       connect(&widget_, &QListWidget::itemClicked, this, [this](const QListWidgetItem* item) {
         const int index = widget_.row(item);
-        if (index == list_.ListIndex()) host_.Act([this, index] { list_.ClickItem(index); });
+        if (index == control_.ListIndex()) host_.Act([this, index] { control_.ClickItem(index); });
       });
       return;
     }
@@ -238,14 +225,13 @@ class ListBinding : public QObject, public Binding {
 
   void Show() override {
     const QSignalBlocker quiet(widget_);
-    ShowState(widget_, list_);
+    ShowState(widget_, control_);
     if (!ShowsItems()) {
       widget_.clear();
-      for (const ComboItem& item : list_.Items()) widget_.addItem(ToQt(item.text));
+      for (const ComboItem& item : control_.Items()) widget_.addItem(ToQt(item.text));
     }
-    widget_.setCurrentRow(list_.ListIndex());
+    widget_.setCurrentRow(control_.ListIndex());
   }
-  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->isInputEvent()) NoteHand();
@@ -280,7 +266,7 @@ class ListBinding : public QObject, public Binding {
   }
 
   bool ShowsItems() const {
-    const auto& items = list_.Items();
+    const auto& items = control_.Items();
     if (widget_.count() != static_cast<int>(items.size())) return false;
     for (int i = 0; i < widget_.count(); ++i) {
       if (widget_.item(i)->text() != ToQt(items[static_cast<std::size_t>(i)].text)) return false;
@@ -292,37 +278,28 @@ class ListBinding : public QObject, public Binding {
   void Choose(const QListWidgetItem& item) {
     host_.ActLater([this, index = widget_.row(&item), text = item.text()] {
       const QListWidgetItem* there = widget_.item(index);
-      if (there != nullptr && there->text() == text) list_.ClickItem(index);
+      if (there != nullptr && there->text() == text) control_.ClickItem(index);
     });
   }
 
-  BindingHost& host_;
-  List& list_;
-  QListWidget& widget_;
   bool isByHand_ = false;
 };
 
-class SliderBinding : public Binding {
+class SliderBinding : public WidgetBinding<QSlider, Slider> {
  public:
-  SliderBinding(BindingHost& host, Slider& slider)
-      : slider_(slider), widget_(FindNamed<QSlider>(host, std::string(slider.Name()))) {
+  SliderBinding(BindingHost& host, Slider& slider) : WidgetBinding(host, slider) {
     widget_.setRange(slider.Minimum(), slider.Maximum());
     QObject::connect(&widget_, &QSlider::valueChanged, &widget_, [this, &host](int value) {
       if (!IsUsable(widget_)) return Show();
-      host.Act([this, value] { slider_.SetValue(value); });
+      host.Act([this, value] { control_.SetValue(value); });
     });
   }
 
   void Show() override {
     const QSignalBlocker quiet(widget_);
-    ShowState(widget_, slider_);
-    widget_.setValue(slider_.Value());
+    ShowState(widget_, control_);
+    widget_.setValue(control_.Value());
   }
-  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
-
- private:
-  Slider& slider_;
-  QSlider& widget_;
 };
 
 }  // namespace

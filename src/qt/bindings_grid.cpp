@@ -117,10 +117,9 @@ class CellEditor : public QObject {
   QLineEdit& edit_;
 };
 
-class GridBinding : public QObject, public Binding {
+class GridBinding : public QObject, public WidgetBinding<QTableWidget, Grid> {
  public:
-  GridBinding(BindingHost& host, Grid& grid)
-      : host_(host), grid_(grid), widget_(FindNamed<QTableWidget>(host, std::string(grid.Name()))) {
+  GridBinding(BindingHost& host, Grid& grid) : WidgetBinding(host, grid) {
     widget_.setEditTriggers(QAbstractItemView::NoEditTriggers);
     widget_.setSelectionBehavior(QAbstractItemView::SelectRows);
     widget_.setSelectionMode(QAbstractItemView::SingleSelection);
@@ -133,7 +132,7 @@ class GridBinding : public QObject, public Binding {
       if (row >= 0) Select(row, column);
     });
     connect(&widget_, &QTableWidget::cellClicked, this, [this](int row, int column) {
-      host_.Act([this, row, column] { grid_.ClickCell(row + grid_.FixedRows(), ColumnToSelect(column)); });
+      host_.Act([this, row, column] { control_.ClickCell(row + control_.FixedRows(), ColumnToSelect(column)); });
       if (editor_) editor_->TakeKeyboard();
     });
     // Screen readers, clicks beside Ctrl and clicks below the last row mark and unmark without going anywhere. By the
@@ -144,19 +143,18 @@ class GridBinding : public QObject, public Binding {
 
   void Show() override {
     const QSignalBlocker quiet(widget_);
-    ShowState(widget_, grid_);
-    const int rows = grid_.Rows() - grid_.FixedRows();
+    ShowState(widget_, control_);
+    const int rows = control_.Rows() - control_.FixedRows();
     widget_.setRowCount(rows);
-    widget_.setColumnCount(grid_.Columns());
-    widget_.horizontalHeader()->setVisible(grid_.FixedRows() > 0);
-    if (grid_.Columns() > 1) {
-      widget_.horizontalHeader()->setSectionResizeMode(grid_.StretchedColumn(), QHeaderView::Stretch);
+    widget_.setColumnCount(control_.Columns());
+    widget_.horizontalHeader()->setVisible(control_.FixedRows() > 0);
+    if (control_.Columns() > 1) {
+      widget_.horizontalHeader()->setSectionResizeMode(control_.StretchedColumn(), QHeaderView::Stretch);
     }
-    for (int column = 0; column < grid_.Columns(); ++column) ShowColumn(column, rows);
-    if (Row() != widget_.currentRow() || (editor_ && grid_.Column() != widget_.currentColumn())) MarkSelected();
+    for (int column = 0; column < control_.Columns(); ++column) ShowColumn(column, rows);
+    if (Row() != widget_.currentRow() || (editor_ && control_.Column() != widget_.currentColumn())) MarkSelected();
     if (editor_) editor_->Place();
   }
-  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
 
  private:
   // Selects what is marked. A grid always has its selected row, so that a mark that is gone comes back.
@@ -169,45 +167,44 @@ class GridBinding : public QObject, public Binding {
   }
 
   bool IsSelected(const QModelIndex& cell) const {
-    return cell.row() == Row() && (!editor_ || cell.column() == grid_.Column());
+    return cell.row() == Row() && (!editor_ || cell.column() == control_.Column());
   }
 
-  int Row() const { return grid_.Row() - grid_.FixedRows(); }  // of the widget
+  int Row() const { return control_.Row() - control_.FixedRows(); }  // of the widget
 
   void MarkSelected() {
     const QSignalBlocker quiet(widget_);
-    widget_.setCurrentCell(Row(), editor_ ? grid_.Column() : 0);
+    widget_.setCurrentCell(Row(), editor_ ? control_.Column() : 0);
   }
 
   // A grid of rows keeps its column.
-  int ColumnToSelect(int column) const { return editor_ ? std::max(column, grid_.FixedColumns()) : grid_.Column(); }
+  int ColumnToSelect(int column) const {
+    return editor_ ? std::max(column, control_.FixedColumns()) : control_.Column();
+  }
 
   void Select(int row, int column) {
-    host_.Act([this, row, column] { grid_.SelectCell(row + grid_.FixedRows(), ColumnToSelect(column)); });
+    host_.Act([this, row, column] { control_.SelectCell(row + control_.FixedRows(), ColumnToSelect(column)); });
   }
 
   void ShowColumn(int column, int rows) {
-    if (grid_.FixedRows() > 0) {
-      widget_.setHorizontalHeaderItem(column, new QTableWidgetItem(ToQt(grid_.Cell(0, column))));
+    if (control_.FixedRows() > 0) {
+      widget_.setHorizontalHeaderItem(column, new QTableWidgetItem(ToQt(control_.Cell(0, column))));
     }
     for (int row = 0; row < rows; ++row) {
-      const QString text = ToQt(grid_.Cell(row + grid_.FixedRows(), column));
+      const QString text = ToQt(control_.Cell(row + control_.FixedRows(), column));
       if (QTableWidgetItem* item = widget_.item(row, column)) {
         item->setText(text);
       } else {
         widget_.setItem(row, column, new QTableWidgetItem(text));
       }
     }
-    const auto& widths = grid_.ColumnWidths();
+    const auto& widths = control_.ColumnWidths();
     const auto index = static_cast<std::size_t>(column);
     const int wanted = index < widths.size() ? widths[index] * widget_.logicalDpiX() / TwipsPerInch : 0;
     widget_.resizeColumnToContents(column);
     widget_.setColumnWidth(column, std::max(wanted, widget_.columnWidth(column)));
   }
 
-  BindingHost& host_;
-  Grid& grid_;
-  QTableWidget& widget_;
   std::unique_ptr<CellEditor> editor_;  // none where the cells are only shown
 };
 

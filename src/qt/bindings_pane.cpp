@@ -6,29 +6,25 @@
 namespace orby {
 namespace {
 
-class PaneBinding : public Binding {
+class PaneBinding : public WidgetBinding<LinesView, const TextPane> {
  public:
-  PaneBinding(BindingHost& host, const TextPane& pane)
-      : pane_(pane), widget_(FindNamed<LinesView>(host, std::string(pane.Name()))) {
+  PaneBinding(BindingHost& host, const TextPane& pane) : WidgetBinding(host, pane) {
     bar_ = dynamic_cast<FindBar*>(widget_.parentWidget()->findChild<QWidget*>("viewFindBar"));
     if (bar_ != nullptr) bar_->Attach(widget_);
   }
 
   void Show() override {
-    ShowState(widget_, pane_);
-    if (bar_ != nullptr) bar_->setVisible(pane_.Visible());
-    if (pane_.Font() != shownFont_) {
-      shownFont_ = pane_.Font();
+    ShowState(widget_, control_);
+    if (bar_ != nullptr) bar_->setVisible(control_.Visible());
+    if (control_.Font() != shownFont_) {
+      shownFont_ = control_.Font();
       widget_.setFont(FontOf(shownFont_, widget_));
     }
-    widget_.ShowText(pane_.Bytes());
+    widget_.ShowText(control_.Bytes());
   }
-  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
   bool KeepsPlace() const override { return true; }
 
  private:
-  const TextPane& pane_;
-  LinesView& widget_;
   FindBar* bar_ = nullptr;  // below it
   FontChoice shownFont_;
 };

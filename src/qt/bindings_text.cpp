@@ -18,65 +18,45 @@
 namespace orby {
 namespace {
 
-class LabelBinding : public Binding {
+class LabelBinding : public WidgetBinding<QLabel, const Label> {
  public:
-  LabelBinding(BindingHost& host, const Label& label)
-      : host_(host), label_(label), widget_(FindNamed<QLabel>(host, std::string(label.Name()))) {}
+  using WidgetBinding::WidgetBinding;
 
   void Show() override {
-    ShowState(widget_, label_);
-    widget_.setText(host_.Letters().Marked(&widget_, 0, label_.Caption()));
+    ShowState(widget_, control_);
+    widget_.setText(host_.Letters().Marked(&widget_, 0, control_.Caption()));
   }
-  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
   std::vector<CaptionSlot> Captions() const override {
     // Nobody goes to a field that only shows something.
     if (widget_.buddy() == nullptr || widget_.buddy()->property("readOnly").toBool()) return {};
-    return {{&widget_, 0, &widget_, label_.Caption()}};
+    return {{&widget_, 0, &widget_, control_.Caption()}};
   }
-
- private:
-  BindingHost& host_;
-  const Label& label_;
-  QLabel& widget_;
 };
 
-class FrameBinding : public Binding {
+class FrameBinding : public WidgetBinding<QGroupBox, const Frame> {
  public:
-  FrameBinding(BindingHost& host, const Frame& frame)
-      : frame_(frame), widget_(FindNamed<QGroupBox>(host, std::string(frame.Name()))) {}
+  using WidgetBinding::WidgetBinding;
 
   void Show() override {
-    ShowState(widget_, frame_);
-    widget_.setTitle(ToQt(frame_.Caption()));
+    ShowState(widget_, control_);
+    widget_.setTitle(ToQt(control_.Caption()));
   }
-  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
   bool KeepsPlace() const override { return true; }
-
- private:
-  const Frame& frame_;
-  QGroupBox& widget_;
 };
 
-class ButtonBinding : public Binding {
+class ButtonBinding : public WidgetBinding<QPushButton, const Button> {
  public:
-  ButtonBinding(BindingHost& host, const Button& button)
-      : host_(host), button_(button), widget_(FindNamed<QPushButton>(host, std::string(button.Name()))) {
+  ButtonBinding(BindingHost& host, const Button& button) : WidgetBinding(host, button) {
     QObject::connect(&widget_, &QPushButton::clicked, &widget_, [this] {
-      if (IsUsable(widget_)) host_.ActLater([this] { button_.Press(); });
+      if (IsUsable(widget_)) host_.ActLater([this] { control_.Press(); });
     });
   }
 
   void Show() override {
-    ShowState(widget_, button_);
-    widget_.setText(host_.Letters().Marked(&widget_, 0, button_.Caption()));
+    ShowState(widget_, control_);
+    widget_.setText(host_.Letters().Marked(&widget_, 0, control_.Caption()));
   }
-  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
-  std::vector<CaptionSlot> Captions() const override { return {{&widget_, 0, &widget_, button_.Caption()}}; }
-
- private:
-  BindingHost& host_;
-  const Button& button_;
-  QPushButton& widget_;
+  std::vector<CaptionSlot> Captions() const override { return {{&widget_, 0, &widget_, control_.Caption()}}; }
 };
 
 // An output is a text on the window's own ground.
@@ -91,31 +71,30 @@ constexpr int LeastCharacters = 10;
 
 // A line to type into. A character that the field refuses never reaches it, and a field that gets the focus comes up
 // with its text selected.
-class LineEditBinding : public QObject, public Binding {
+class LineEditBinding : public QObject, public WidgetBinding<QLineEdit, TextBox> {
  public:
-  LineEditBinding(BindingHost& host, TextBox& box, QLineEdit& widget) : host_(host), box_(box), widget_(widget) {
+  LineEditBinding(BindingHost& host, TextBox& box, QLineEdit& widget) : WidgetBinding(host, box, widget) {
     widget_.setReadOnly(box.Kind() == TextKind::Output);
     widget_.setMinimumWidth(widget_.fontMetrics().averageCharWidth() * LeastCharacters);
     widget_.installEventFilter(this);
     // Keys, menus, input methods and screen readers all come this way.
     connect(&widget_, &QLineEdit::textChanged, this, [this] {
       if (!IsUsable(widget_) || widget_.isReadOnly()) return Show();
-      host_.Act([this] { box_.SetText(FromQt(widget_.text())); });
+      host_.Act([this] { control_.SetText(FromQt(widget_.text())); });
     });
   }
 
   void Show() override {
-    ShowState(widget_, box_);
-    const QString text = ToQt(box_.Text());
+    ShowState(widget_, control_);
+    const QString text = ToQt(control_.Text());
     if (widget_.text() == text) return;
     const QSignalBlocker quiet(widget_);
     widget_.setText(text);
     widget_.setCursorPosition(0);
   }
   void ShowTheme() override {
-    if (box_.Kind() == TextKind::Output) ShowAsOutput(widget_);
+    if (control_.Kind() == TextKind::Output) ShowAsOutput(widget_);
   }
-  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
   bool KeepsPlace() const override { return true; }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
@@ -151,12 +130,12 @@ class LineEditBinding : public QObject, public Binding {
     if (text == Tab || text == Enter || text == Escape || text == Delete) return false;
     return std::ranges::any_of(text, [this](QChar character) { return IsRefused(character); });
   }
-  bool IsRefused(QChar character) const { return box_.KeyPress(character.unicode()) == 0; }
+  bool IsRefused(QChar character) const { return control_.KeyPress(character.unicode()) == 0; }
 
   // What dead keys or an input method have composed is judged as typed keys are. Each character gets an event of its
   // own, because it is judged by the text before it.
   bool TakeComposed(const QInputMethodEvent& composed) {
-    if (isTaking_ || box_.Kind() != TextKind::Number || composed.commitString().isEmpty()) return false;
+    if (isTaking_ || control_.Kind() != TextKind::Number || composed.commitString().isEmpty()) return false;
     isTaking_ = true;
     int from = composed.replacementStart();
     int length = composed.replacementLength();
@@ -172,50 +151,43 @@ class LineEditBinding : public QObject, public Binding {
     return true;
   }
 
-  BindingHost& host_;
-  TextBox& box_;
-  QLineEdit& widget_;
   bool isLent_ = false;
   bool isTaking_ = false;  // the characters of a composed text, one by one
 };
 
 // A text of several lines. An output is shown from its top, or where its selection stands.
-class TextAreaBinding : public QObject, public Binding {
+class TextAreaBinding : public QObject, public WidgetBinding<QPlainTextEdit, TextBox> {
  public:
-  TextAreaBinding(BindingHost& host, TextBox& box, QPlainTextEdit& widget) : host_(host), box_(box), widget_(widget) {
+  TextAreaBinding(BindingHost& host, TextBox& box, QPlainTextEdit& widget) : WidgetBinding(host, box, widget) {
     widget_.setReadOnly(box.Kind() == TextKind::Output);
     widget_.setTabChangesFocus(true);
     connect(&widget_, &QPlainTextEdit::textChanged, this, [this] {
       if (!IsUsable(widget_) || widget_.isReadOnly()) return Show();
-      host_.Act([this] { box_.SetText(FromQtLines(widget_.toPlainText())); });
+      host_.Act([this] { control_.SetText(FromQtLines(widget_.toPlainText())); });
     });
   }
 
   void Show() override {
-    ShowState(widget_, box_);
-    if (box_.Font() != shownFont_) {
-      shownFont_ = box_.Font();
+    ShowState(widget_, control_);
+    if (control_.Font() != shownFont_) {
+      shownFont_ = control_.Font();
       widget_.setFont(FontOf(shownFont_, widget_));
     }
-    const QString text = ToQtLines(box_.Text());
+    const QString text = ToQtLines(control_.Text());
     const bool isSame = widget_.toPlainText() == text;
     // The place in what is being typed is the user's.
     if (isSame && !widget_.isReadOnly()) return;
     const QSignalBlocker quiet(widget_);
     if (!isSame) widget_.setPlainText(text);
-    widget_.moveCursor(box_.SelectionStart() > 0 ? QTextCursor::End : QTextCursor::Start);
+    widget_.moveCursor(control_.SelectionStart() > 0 ? QTextCursor::End : QTextCursor::Start);
     widget_.ensureCursorVisible();
   }
   void ShowTheme() override {
-    if (box_.Kind() == TextKind::Output) ShowAsOutput(widget_);
+    if (control_.Kind() == TextKind::Output) ShowAsOutput(widget_);
   }
-  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
   bool KeepsPlace() const override { return true; }
 
  private:
-  BindingHost& host_;
-  TextBox& box_;
-  QPlainTextEdit& widget_;
   FontChoice shownFont_;
 };
 

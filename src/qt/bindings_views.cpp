@@ -28,10 +28,9 @@ QString EntryText(const QString& caption) {
   return text;
 }
 
-class TabBinding : public QObject, public Binding {
+class TabBinding : public QObject, public WidgetBinding<QTabWidget, TabSet> {
  public:
-  TabBinding(BindingHost& host, TabSet& tabs)
-      : host_(host), tabs_(tabs), widget_(FindNamed<QTabWidget>(host, std::string(tabs.Name()))) {
+  TabBinding(BindingHost& host, TabSet& tabs) : WidgetBinding(host, tabs) {
     QObject::connect(&widget_, &QTabWidget::currentChanged, &widget_, [this](int tab) { Turn(tab); });
     widget_.tabBar()->installEventFilter(this);
   }
@@ -47,46 +46,37 @@ class TabBinding : public QObject, public Binding {
 
   void Show() override {
     const QSignalBlocker quiet(widget_);
-    ShowState(widget_, tabs_);
-    for (int tab = 0; tab < tabs_.Count(); ++tab) {
-      widget_.setTabText(tab, host_.Letters().Marked(&widget_, tab, tabs_.Caption(tab)));
-      widget_.setTabEnabled(tab, tabs_.TabEnabled(tab));
+    ShowState(widget_, control_);
+    for (int tab = 0; tab < control_.Count(); ++tab) {
+      widget_.setTabText(tab, host_.Letters().Marked(&widget_, tab, control_.Caption(tab)));
+      widget_.setTabEnabled(tab, control_.TabEnabled(tab));
     }
     // Switching a tab off makes the widget leave it, which the model does not.
-    widget_.setCurrentIndex(tabs_.Tab());
+    widget_.setCurrentIndex(control_.Tab());
   }
-  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
   std::vector<CaptionSlot> Captions() const override {
     std::vector<CaptionSlot> captions;
-    captions.reserve(static_cast<std::size_t>(tabs_.Count()));
-    for (int tab = 0; tab < tabs_.Count(); ++tab) captions.push_back({&widget_, tab, &widget_, tabs_.Caption(tab)});
+    captions.reserve(static_cast<std::size_t>(control_.Count()));
+    for (int tab = 0; tab < control_.Count(); ++tab)
+      captions.push_back({&widget_, tab, &widget_, control_.Caption(tab)});
     return captions;
   }
 
  private:
   // A screen reader can press the tab of a page that is disabled.
   void Turn(int tab) {
-    if (IsUsable(widget_)) host_.Act([this, tab] { tabs_.ClickTab(tab); });
-    if (widget_.currentIndex() != tabs_.Tab()) Show();
+    if (IsUsable(widget_)) host_.Act([this, tab] { control_.ClickTab(tab); });
+    if (widget_.currentIndex() != control_.Tab()) Show();
   }
-
-  BindingHost& host_;
-  TabSet& tabs_;
-  QTabWidget& widget_;
 };
 
-class MenuBinding : public Binding {
+class MenuBinding : public WidgetBinding<QMenu, const Menu> {
  public:
-  MenuBinding(BindingHost& host, const Menu& menu)
-      : menu_(menu), widget_(FindNamed<QMenu>(host, std::string(menu.Name()))) {}
+  using WidgetBinding::WidgetBinding;
 
-  void Show() override { widget_.setTitle(ToQt(menu_.Caption())); }
+  void Show() override { widget_.setTitle(ToQt(control_.Caption())); }
   std::vector<QWidget*> Widgets() const override { return {}; }
-  std::vector<CaptionSlot> Captions() const override { return {{&widget_, 0, &widget_, menu_.Caption()}}; }
-
- private:
-  const Menu& menu_;
-  QMenu& widget_;
+  std::vector<CaptionSlot> Captions() const override { return {{&widget_, 0, &widget_, control_.Caption()}}; }
 };
 
 // The entries of a menu, or the buttons of a tool bar, which bears the name of the array then.
@@ -131,56 +121,38 @@ class ActionBinding : public Binding {
   QToolBar* bar_;
 };
 
-class PlainBinding : public Binding {
+class PlainBinding : public WidgetBinding<QWidget, const Control> {
  public:
-  PlainBinding(BindingHost& host, const Control& control)
-      : control_(control), widget_(FindNamed<QWidget>(host, std::string(control.Name()))) {}
+  using WidgetBinding::WidgetBinding;
 
   void Show() override { widget_.setVisible(control_.Visible()); }
-  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
   bool KeepsPlace() const override { return true; }
-
- private:
-  const Control& control_;
-  QWidget& widget_;
 };
 
-class ProgressBinding : public Binding {
+class ProgressBinding : public WidgetBinding<QProgressBar, const ProgressBar> {
  public:
-  ProgressBinding(BindingHost& host, const ProgressBar& bar)
-      : bar_(bar), widget_(FindNamed<QProgressBar>(host, std::string(bar.Name()))) {
+  ProgressBinding(BindingHost& host, const ProgressBar& bar) : WidgetBinding(host, bar) {
     widget_.setRange(0, ProgressBar::Whole);
   }
 
   void Show() override {
-    ShowState(widget_, bar_);
-    widget_.setValue(bar_.Value());
+    ShowState(widget_, control_);
+    widget_.setValue(control_.Value());
   }
-  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
   bool KeepsPlace() const override { return true; }
-
- private:
-  const ProgressBar& bar_;
-  QProgressBar& widget_;
 };
 
-class ChartBinding : public Binding {
+class ChartBinding : public WidgetBinding<ChartView, const Chart> {
  public:
-  ChartBinding(BindingHost& host, const Chart& chart)
-      : chart_(chart), widget_(FindNamed<ChartView>(host, std::string(chart.Name()))) {
+  ChartBinding(BindingHost& host, const Chart& chart) : WidgetBinding(host, chart) {
     widget_.SetMouseHandler([this, &host](const ChartHit& hit) {
       host.Act([this, &hit] {
-        if (chart_.MouseMove) chart_.MouseMove(hit);
+        if (control_.MouseMove) control_.MouseMove(hit);
       });
     });
   }
 
-  void Show() override { widget_.ShowChart(chart_); }
-  std::vector<QWidget*> Widgets() const override { return {&widget_}; }
-
- private:
-  const Chart& chart_;
-  ChartView& widget_;
+  void Show() override { widget_.ShowChart(control_); }
 };
 
 }  // namespace
