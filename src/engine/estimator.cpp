@@ -5,52 +5,32 @@
 namespace orby {
 namespace {
 
-constexpr std::array<RockType, 8> NorthernAppalachia{{{"Claystone", "35"},
-                                                      {"Coal/Claystone", "38"},
-                                                      {"Shale", "40"},
-                                                      {"Siltstone", "45"},
-                                                      {"Sandstone", "55"},
-                                                      {"Limestone", "55"},
-                                                      {"Unknown", "38"},
-                                                      {"Manual Setting", "38"}}};
-constexpr std::array<RockType, 8> CentralAppalachia{{{"Thick Claystone", "40"},
-                                                     {"Thick Shale", "45"},
-                                                     {"Stackrock (laminated sandstone/shale)", "45"},
-                                                     {"Siltstone", "50"},
-                                                     {"Bedded Sandstone", "55"},
-                                                     {"Massive Sandstone", "65"},
-                                                     {"Unknown", "45"},
-                                                     {"Manual Setting", "45"}}};
-constexpr std::array<RockType, 8> SouthernAppalachia{{{"Thick Claystone", "40"},
-                                                      {"Shale/Coal", "45"},
-                                                      {"Shale", "50"},
-                                                      {"Siltstone", "50"},
-                                                      {"Bedded Sandstone", "55"},
-                                                      {"Massive Sandstone", "65"},
-                                                      {"Unknown", "45"},
-                                                      {"Manual Setting", "45"}}};
-constexpr std::array<RockType, 8> IllinoisBasin{{{"Thick Claystone", "35"},
-                                                 {"Gray Shale", "38"},
-                                                 {"Black Shale", "40"},
-                                                 {"Siltstone/Sandstone", "45"},
-                                                 {"Thin Limestone (1-2ft)", "50"},
-                                                 {"Thick Limestone (>4 ft)", "65"},
-                                                 {"Unknown", "35"},
-                                                 {"Manual Setting", "35"}}};
-constexpr std::array<RockType, 7> Utah{{{"Carbonaceous Mudstone", "40"},
-                                        {"Thick Shale", "45"},
-                                        {"Siltstone", "55"},
-                                        {"Bedded Sandstone", "55"},
-                                        {"Massive Sandstone", "65"},
-                                        {"Unknown", "45"},
-                                        {"Manual Setting", "45"}}};
-constexpr std::array<RockType, 7> OtherWestern{{{"Mudstone/Claystone", "35"},
-                                                {"Thick Shale", "45"},
-                                                {"Siltstone", "55"},
-                                                {"Bedded Sandstone", "55"},
-                                                {"Massive Sandstone", "65"},
-                                                {"Unknown", "35"},
-                                                {"Manual Setting", "35"}}};
+// The rock types of a region, each with its rating, and the two rows that every region ends in.
+template <class... Rocks>
+constexpr std::array<RockType, sizeof...(Rocks) + 2> Region(std::string_view unknown, const Rocks&... rocks) {
+  return {rocks..., RockType{"Unknown", unknown}, RockType{"Manual Setting", unknown}};
+}
+
+constexpr auto NorthernAppalachia =
+    Region("38", RockType{"Claystone", "35"}, RockType{"Coal/Claystone", "38"}, RockType{"Shale", "40"},
+           RockType{"Siltstone", "45"}, RockType{"Sandstone", "55"}, RockType{"Limestone", "55"});
+constexpr auto CentralAppalachia =
+    Region("45", RockType{"Thick Claystone", "40"}, RockType{"Thick Shale", "45"},
+           RockType{"Stackrock (laminated sandstone/shale)", "45"}, RockType{"Siltstone", "50"},
+           RockType{"Bedded Sandstone", "55"}, RockType{"Massive Sandstone", "65"});
+constexpr auto SouthernAppalachia =
+    Region("45", RockType{"Thick Claystone", "40"}, RockType{"Shale/Coal", "45"}, RockType{"Shale", "50"},
+           RockType{"Siltstone", "50"}, RockType{"Bedded Sandstone", "55"}, RockType{"Massive Sandstone", "65"});
+constexpr auto IllinoisBasin =
+    Region("35", RockType{"Thick Claystone", "35"}, RockType{"Gray Shale", "38"}, RockType{"Black Shale", "40"},
+           RockType{"Siltstone/Sandstone", "45"}, RockType{"Thin Limestone (1-2ft)", "50"},
+           RockType{"Thick Limestone (>4 ft)", "65"});
+constexpr auto Utah =
+    Region("45", RockType{"Carbonaceous Mudstone", "40"}, RockType{"Thick Shale", "45"}, RockType{"Siltstone", "55"},
+           RockType{"Bedded Sandstone", "55"}, RockType{"Massive Sandstone", "65"});
+constexpr auto OtherWestern =
+    Region("35", RockType{"Mudstone/Claystone", "35"}, RockType{"Thick Shale", "45"}, RockType{"Siltstone", "55"},
+           RockType{"Bedded Sandstone", "55"}, RockType{"Massive Sandstone", "65"});
 
 constexpr std::array<std::span<const RockType>, RegionNames.size()> Regions{
     NorthernAppalachia, CentralAppalachia, SouthernAppalachia, IllinoisBasin, Utah, OtherWestern};
