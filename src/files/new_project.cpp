@@ -12,87 +12,6 @@ namespace {
 
 using D = DesignDefaults;
 
-struct StartValue {
-  std::variant<IntegerField, SingleField> Field;
-  Single ENG;
-  Single MET;
-};
-
-constexpr auto StartValues = std::to_array<StartValue>({
-    {[](auto& d) { return &d.Primary.Analysed; }, 1, 1},
-    {[](auto& d) { return &d.Entries.Analysed; }, 1, 1},
-    {[](auto& d) { return &d.Intersections.Analysed; }, 1, 1},
-    {[](auto& d) { return &d.Entries.RockLoadHeight; }, 8, 3},
-    {[](auto& d) { return &d.Entries.RockFallAngle; }, 30, 30},
-    {[](auto& d) { return &d.Entries.Cable.Use; }, 1, 1},
-    {[](auto& d) { return &d.Entries.Truss.Use; }, 0, 0},
-    {[](auto& d) { return &d.Entries.Bolt.Use; }, 0, 0},
-    {[](auto& d) { return &d.Entries.Standing.Use; }, 0, 0},
-    {[](auto& d) { return &d.Entries.Cable.Length; }, 10, 3},
-    {[](auto& d) { return &d.Entries.Cable.CapMode; }, 0, 0},
-    {[](auto& d) { return &d.Entries.Cable.Capacity; }, 0, 0},
-    {[](auto& d) { return &d.Entries.Cable.Diam; }, 0.6F, 21.8F},
-    {[](auto& d) { return &d.Entries.Cable.CapacityStd; }, 27, 590},
-    {[](auto& d) { return &d.Entries.Cable.CapacityManual; }, 27, 590},
-    {[](auto& d) { return &d.Entries.Cable.BoltsPerRow; }, 2, 4},
-    {[](auto& d) { return &d.Entries.Cable.RowSpacing; }, 5, 5},
-    {[](auto& d) { return &d.Entries.Truss.LengthMember; }, 8, 2.7F},
-    {[](auto& d) { return &d.Entries.Truss.Angle; }, 45, 45},
-    {[](auto& d) { return &d.Entries.Truss.Capacity; }, 30, 300},
-    {[](auto& d) { return &d.Entries.Truss.Spacing; }, 4, 4},
-    {[](auto& d) { return &d.Entries.Bolt.BoltsperRow; }, 4, 4},
-    {[](auto& d) { return &d.Entries.Standing.TypeMode; }, 0, 0},
-    {[](auto& d) { return &d.Entries.Standing.Capacity; }, 50, 500},
-    {[](auto& d) { return &d.Entries.Standing.NumberPerRow; }, 2, 2},
-    {[](auto& d) { return &d.Entries.Standing.RowSpacing; }, 8, 3},
-    {[](auto& d) { return &d.Intersections.RockLoadHeight; }, 8, 3},
-    {[](auto& d) { return &d.Intersections.RockFallAngle; }, 30, 30},
-    {[](auto& d) { return &d.Intersections.RockFallAngleXcut; }, 30, 30},
-    {[](auto& d) { return &d.Intersections.Cable.Use; }, 1, 1},
-    {[](auto& d) { return &d.Intersections.Truss.Use; }, 0, 0},
-    {[](auto& d) { return &d.Intersections.Bolt.Use; }, 0, 0},
-    {[](auto& d) { return &d.Intersections.Standing.Use; }, 0, 0},
-    {[](auto& d) { return &d.Intersections.Cable.Length; }, 10, 3},
-    {[](auto& d) { return &d.Intersections.Cable.CapMode; }, 0, 0},
-    {[](auto& d) { return &d.Intersections.Cable.Capacity; }, 0, 0},
-    {[](auto& d) { return &d.Intersections.Cable.Diam; }, 0.6F, 21.8F},
-    {[](auto& d) { return &d.Intersections.Cable.CapacityStd; }, 27, 590},
-    {[](auto& d) { return &d.Intersections.Cable.CapacityManual; }, 27, 590},
-    {[](auto& d) { return &d.Intersections.Cable.Number; }, 10, 4},
-    {[](auto& d) { return &d.Intersections.Truss.LengthMember; }, 8, 2.7F},
-    {[](auto& d) { return &d.Intersections.Truss.Angle; }, 45, 45},
-    {[](auto& d) { return &d.Intersections.Truss.Capacity; }, 30, 300},
-    {[](auto& d) { return &d.Intersections.Truss.Number; }, 4, 4},
-    {[](auto& d) { return &d.Intersections.Bolt.Number; }, 10, 10},
-    {[](auto& d) { return &d.Intersections.Standing.TypeMode; }, 0, 0},
-    {[](auto& d) { return &d.Intersections.Standing.Capacity; }, 50, 500},
-    {[](auto& d) { return &d.Intersections.Standing.Number; }, 4, 4},
-    {[](auto& d) { return &d.Cost.BoltCost; }, 3, 3},
-    {[](auto& d) { return &d.Cost.PlateCost; }, 1, 1},
-    {[](auto& d) { return &d.Cost.ResinCost; }, 1.5F, 1.5F},
-    {[](auto& d) { return &d.Cost.BitCost; }, 67, 67},
-    {[](auto& d) { return &d.Cost.HeaderCost; }, 0, 0},
-    {[](auto& d) { return &d.Cost.StrapCost; }, 0, 0},
-    {[](auto& d) { return &d.Cost.NboltsShift; }, 300, 300},
-    {[](auto& d) { return &d.Cost.NBoltsRow; }, 4, 4},
-    {[](auto& d) { return &d.Cost.RowSpacing; }, 4, 1.2F},
-    {[](auto& d) { return &d.Cost.NOperShift; }, 2, 2},
-    {[](auto& d) { return &d.Cost.TotalLabor; }, 35, 35},
-    {[](auto& d) { return &d.Cost.HoursShift; }, 8, 8},
-    {[](auto& d) { return &d.Cost.MaintainHrs; }, 2, 2},
-    {[](auto& d) { return &d.Cost.MaintainCost; }, 30000, 30000},
-    {[](auto& d) { return &d.Cost.TranspCost; }, 100, 100},
-    {[](auto& d) { return &d.Cost.CapitalCost; }, 1000000, 1000000},
-    {[](auto& d) { return &d.Cost.YearsDepr; }, 5, 5},
-    {[](auto& d) { return &d.Cost.AdvanceShift; }, 300, 100},
-    {[](auto& d) { return &d.Cost.Advance; }, 1, 1},
-    {[](auto& d) { return &d.Cost.AdvanceRate; }, 4, 12},
-    {[](auto& d) { return &d.Cost.CleanProduction; }, 1200, 1200},
-    {[](auto& d) { return &d.Cost.Production; }, 1, 1},
-    {[](auto& d) { return &d.Cost.ShiftsWeek; }, 12, 12},
-    {[](auto& d) { return &d.Cost.WeeksYear; }, 50, 50},
-});
-
 using Default = Single DesignDefaults::*;
 
 // A default that the user sets, for each unit system.
@@ -123,15 +42,68 @@ constexpr DefaultPair BoltDiameter{&D::DefaultENGboltDiameter, &D::DefaultMETbol
 constexpr DefaultPair YieldGrade{&D::DefaultENGBoltGrade, &D::DefaultMETBoltGrade};
 constexpr DefaultPair UltimateGrade{&D::DefaultENGBoltUTS, &D::DefaultMETBoltUTS};
 
-void FillStartValues(Design& design, UnitSystem units) {
-  for (const StartValue& start : StartValues) {
-    const Single value = units == Metric ? start.MET : start.ENG;
-    if (const auto* single = std::get_if<SingleField>(&start.Field)) {
-      single->In(design) = value;
-    } else {
-      std::get<IntegerField>(start.Field).In(design) = static_cast<Integer>(value);
-    }
-  }
+// What entries and intersections start with alike. Cables alone are in use.
+void FillSupport(SecondarySupport& support, bool isMetric) {
+  support.Analysed = 1;
+  support.RockLoadHeight = isMetric ? 3 : 8;
+  support.RockFallAngle = 30;
+  for (SupportSystem* system : support.Systems()) system->Use = 0;
+  support.Cable.Use = 1;
+  support.Cable.Length = isMetric ? 3 : 10;
+  support.Cable.CapMode = 0;
+  support.Cable.Capacity = 0;
+  support.Cable.Diam = isMetric ? 21.8F : 0.6F;
+  support.Cable.CapacityStd = support.Cable.CapacityManual = isMetric ? 590 : 27;
+  support.Truss.LengthMember = isMetric ? 2.7F : 8;
+  support.Truss.Angle = 45;
+  support.Truss.Capacity = isMetric ? 300 : 30;
+  support.Standing.TypeMode = 0;
+  support.Standing.Capacity = isMetric ? 500 : 50;
+}
+
+CostInputs StartCosts(bool isMetric) {
+  return {.BoltCost = 3,
+          .PlateCost = 1,
+          .ResinCost = 1.5F,
+          .BitCost = 67,
+          .HeaderCost = 0,
+          .StrapCost = 0,
+          .NboltsShift = 300,
+          .NBoltsRow = 4,
+          .RowSpacing = isMetric ? 1.2F : 4,
+          .NOperShift = 2,
+          .TotalLabor = 35,
+          .HoursShift = 8,
+          .MaintainHrs = 2,
+          .MaintainCost = 30000,
+          .TranspCost = 100,
+          .CapitalCost = 1000000,
+          .YearsDepr = 5,
+          .AdvanceShift = isMetric ? 100.0F : 300.0F,
+          .Advance = 1,
+          .AdvanceRate = isMetric ? 12.0F : 4.0F,
+          .CleanProduction = 1200,
+          .Production = 1,
+          .ShiftsWeek = 12,
+          .WeeksYear = 50};
+}
+
+void FillStartValues(Design& design) {
+  const bool isMetric = design.Units == Metric;
+  design.Primary.Analysed = 1;
+  for (SecondarySupport* support : {&design.Entries, &design.Intersections}) FillSupport(*support, isMetric);
+  design.Entries.Cable.BoltsPerRow = isMetric ? 4 : 2;
+  design.Entries.Cable.RowSpacing = 5;
+  design.Entries.Truss.Spacing = 4;
+  design.Entries.Bolt.BoltsperRow = 4;
+  design.Entries.Standing.NumberPerRow = 2;
+  design.Entries.Standing.RowSpacing = isMetric ? 3 : 8;
+  design.Intersections.RockFallAngleXcut = 30;
+  design.Intersections.Cable.Number = isMetric ? 4 : 10;
+  design.Intersections.Truss.Number = 4;
+  design.Intersections.Bolt.Number = 10;
+  design.Intersections.Standing.Number = 4;
+  design.Cost = StartCosts(isMetric);
 }
 
 // The number of bolts and their spacing stay. Nothing of the previous project's table row may show up in the next one.
@@ -183,7 +155,7 @@ void FileNew(Program& program, bool untitled, bool resetUnits) {
   // The input echo in front of them is rebuilt whenever it is printed.
   std::for_each(program.session.OutBuf.begin() + 1, program.session.OutBuf.end(),
                 [](std::string& page) { page.clear(); });
-  FillStartValues(program.project.WorkParms, program.project.WorkParms.Units);
+  FillStartValues(program.project.WorkParms);
   FillConfiguredValues(program);
   program.project.ProjectDescription.clear();
   program.project.ProjectTitle.clear();
