@@ -39,9 +39,10 @@ struct ProjectLine {
 
 namespace project_lines {
 
-constexpr ProjectLine Item(std::string_view name, AnyField field, Integer firstVersion = Version102) {
+constexpr ProjectLine ItemSince(Integer firstVersion, std::string_view name, AnyField field) {
   return {name, field, field, firstVersion, LineForm::Plain};
 }
+constexpr ProjectLine Item(std::string_view name, AnyField field) { return ItemSince(Version102, name, field); }
 constexpr ProjectLine Padded(std::string_view name, IntegerField field) {
   return {name, field, field, Version102, LineForm::Padded};
 }
@@ -71,16 +72,11 @@ inline constexpr std::array Lines{
     Item("secondary support in intersections", [](auto& d) { return &d.Intersections.Analysed; }),
     Item("stability factor", [](auto& d) { return &d.Primary.StabilityFactor; }),
     Item("primary bolt length", [](auto& d) { return &d.Primary.Length; }),
-    Item(
-        "primary bolt source", [](auto& d) { return &d.Primary.Options; }, Version105),
-    Item(
-        "primary row of the bolt table", [](auto& d) { return &d.Primary.TableRow; }, Version105),
-    Item(
-        "primary table diameter", [](auto& d) { return &d.Primary.TableDiameter; }, Version105),
-    Item(
-        "primary table grade", [](auto& d) { return &d.Primary.TableGrade; }, Version105),
-    Item(
-        "primary bolt description", [](auto& d) { return &d.Primary.Desc; }, Version105),
+    ItemSince(Version105, "primary bolt source", [](auto& d) { return &d.Primary.Options; }),
+    ItemSince(Version105, "primary row of the bolt table", [](auto& d) { return &d.Primary.TableRow; }),
+    ItemSince(Version105, "primary table diameter", [](auto& d) { return &d.Primary.TableDiameter; }),
+    ItemSince(Version105, "primary table grade", [](auto& d) { return &d.Primary.TableGrade; }),
+    ItemSince(Version105, "primary bolt description", [](auto& d) { return &d.Primary.Desc; }),
     Item("primary source of the bolt diameter", [](auto& d) { return &d.Primary.DiameterMode; }),
     Item("primary standard bolt diameter", [](auto& d) { return &d.Primary.DiameterStd; }),
     Item("primary typed bolt diameter", [](auto& d) { return &d.Primary.DiameterManual; }),
@@ -97,12 +93,10 @@ inline constexpr std::array Lines{
     Item("use of standing supports in entries", [](auto& d) { return &d.Entries.Standing.Use; }),
     Item("entry cable length", [](auto& d) { return &d.Entries.Cable.Length; }),
     Item("entry source of the cable capacity", [](auto& d) { return &d.Entries.Cable.CapMode; }),
-    Item(
-        "entry kind of the cable capacity", [](auto& d) { return &d.Entries.Cable.Capacity; }, Version104),
+    ItemSince(Version104, "entry kind of the cable capacity", [](auto& d) { return &d.Entries.Cable.Capacity; }),
     Item("entry cable diameter", [](auto& d) { return &d.Entries.Cable.Diam; }),
     Item("entry standard cable capacity", [](auto& d) { return &d.Entries.Cable.CapacityStd; }),
-    Item(
-        "entry typed cable capacity", [](auto& d) { return &d.Entries.Cable.CapacityManual; }, Version104),
+    ItemSince(Version104, "entry typed cable capacity", [](auto& d) { return &d.Entries.Cable.CapacityManual; }),
     Item("entry cables per row", [](auto& d) { return &d.Entries.Cable.BoltsPerRow; }),
     Item("entry cable row spacing", [](auto& d) { return &d.Entries.Cable.RowSpacing; }),
     Item("entry truss length", [](auto& d) { return &d.Entries.Truss.LengthMember; }),
@@ -110,16 +104,11 @@ inline constexpr std::array Lines{
     Item("entry truss capacity", [](auto& d) { return &d.Entries.Truss.Capacity; }),
     Item("entry truss spacing", [](auto& d) { return &d.Entries.Truss.Spacing; }),
     Item("entry bolt length", [](auto& d) { return &d.Entries.Bolt.Length; }),
-    Item(
-        "entry bolt source", [](auto& d) { return &d.Entries.Bolt.Options; }, Version105),
-    Item(
-        "entry row of the bolt table", [](auto& d) { return &d.Entries.Bolt.TableRow; }, Version105),
-    Item(
-        "entry table diameter", [](auto& d) { return &d.Entries.Bolt.TableDiameter; }, Version105),
-    Item(
-        "entry table grade", [](auto& d) { return &d.Entries.Bolt.TableGrade; }, Version105),
-    Item(
-        "entry bolt description", [](auto& d) { return &d.Entries.Bolt.Desc; }, Version105),
+    ItemSince(Version105, "entry bolt source", [](auto& d) { return &d.Entries.Bolt.Options; }),
+    ItemSince(Version105, "entry row of the bolt table", [](auto& d) { return &d.Entries.Bolt.TableRow; }),
+    ItemSince(Version105, "entry table diameter", [](auto& d) { return &d.Entries.Bolt.TableDiameter; }),
+    ItemSince(Version105, "entry table grade", [](auto& d) { return &d.Entries.Bolt.TableGrade; }),
+    ItemSince(Version105, "entry bolt description", [](auto& d) { return &d.Entries.Bolt.Desc; }),
     Item("entry source of the bolt diameter", [](auto& d) { return &d.Entries.Bolt.DiameterMode; }),
     Item("entry standard bolt diameter", [](auto& d) { return &d.Entries.Bolt.DiameterStd; }),
     Item("entry typed bolt diameter", [](auto& d) { return &d.Entries.Bolt.DiameterManual; }),
@@ -142,28 +131,23 @@ inline constexpr std::array Lines{
     Item("use of standing supports in intersections", [](auto& d) { return &d.Intersections.Standing.Use; }),
     Item("intersection cable length", [](auto& d) { return &d.Intersections.Cable.Length; }),
     Item("intersection source of the cable capacity", [](auto& d) { return &d.Intersections.Cable.CapMode; }),
-    Item(
-        "intersection kind of the cable capacity", [](auto& d) { return &d.Intersections.Cable.Capacity; }, Version104),
+    ItemSince(Version104, "intersection kind of the cable capacity",
+              [](auto& d) { return &d.Intersections.Cable.Capacity; }),
     Item("intersection cable diameter", [](auto& d) { return &d.Intersections.Cable.Diam; }),
     Item("intersection standard cable capacity", [](auto& d) { return &d.Intersections.Cable.CapacityStd; }),
-    Item(
-        "intersection typed cable capacity", [](auto& d) { return &d.Intersections.Cable.CapacityManual; }, Version104),
+    ItemSince(Version104, "intersection typed cable capacity",
+              [](auto& d) { return &d.Intersections.Cable.CapacityManual; }),
     Item("intersection number of cables", [](auto& d) { return &d.Intersections.Cable.Number; }),
     Item("intersection truss length", [](auto& d) { return &d.Intersections.Truss.LengthMember; }),
     Item("intersection truss angle", [](auto& d) { return &d.Intersections.Truss.Angle; }),
     Item("intersection truss capacity", [](auto& d) { return &d.Intersections.Truss.Capacity; }),
     Item("intersection number of trusses", [](auto& d) { return &d.Intersections.Truss.Number; }),
     Item("intersection bolt length", [](auto& d) { return &d.Intersections.Bolt.Length; }),
-    Item(
-        "intersection bolt source", [](auto& d) { return &d.Intersections.Bolt.Options; }, Version105),
-    Item(
-        "intersection row of the bolt table", [](auto& d) { return &d.Intersections.Bolt.TableRow; }, Version105),
-    Item(
-        "intersection table diameter", [](auto& d) { return &d.Intersections.Bolt.TableDiameter; }, Version105),
-    Item(
-        "intersection table grade", [](auto& d) { return &d.Intersections.Bolt.TableGrade; }, Version105),
-    Item(
-        "intersection bolt description", [](auto& d) { return &d.Intersections.Bolt.Desc; }, Version105),
+    ItemSince(Version105, "intersection bolt source", [](auto& d) { return &d.Intersections.Bolt.Options; }),
+    ItemSince(Version105, "intersection row of the bolt table", [](auto& d) { return &d.Intersections.Bolt.TableRow; }),
+    ItemSince(Version105, "intersection table diameter", [](auto& d) { return &d.Intersections.Bolt.TableDiameter; }),
+    ItemSince(Version105, "intersection table grade", [](auto& d) { return &d.Intersections.Bolt.TableGrade; }),
+    ItemSince(Version105, "intersection bolt description", [](auto& d) { return &d.Intersections.Bolt.Desc; }),
     Item("intersection source of the bolt diameter", [](auto& d) { return &d.Intersections.Bolt.DiameterMode; }),
     Item("intersection standard bolt diameter", [](auto& d) { return &d.Intersections.Bolt.DiameterStd; }),
     Item("intersection typed bolt diameter", [](auto& d) { return &d.Intersections.Bolt.DiameterManual; }),
