@@ -113,17 +113,14 @@ void Combo::Assign(std::string text, int listIndex) {
   Fire(Change);
 }
 
-TabSet::TabSet(Form& form, std::string_view name, std::initializer_list<std::string_view> captions)
+CaptionArray::CaptionArray(Form& form, std::string_view name, std::initializer_list<std::string_view> captions)
     : Control(form, name) {
-  for (const auto caption : captions) tabs_.push_back({std::string(caption)});
+  for (const auto caption : captions) items_.push_back({std::string(caption)});
 }
-
-const TabSet::Page& TabSet::At(int tab) const { return tabs_[CheckedIndex(tab, tabs_.size())]; }
-TabSet::Page& TabSet::At(int tab) { return tabs_[CheckedIndex(tab, tabs_.size())]; }
 
 void TabSet::SetTab(int tab) {
   if (tab == tab_) return;
-  tab_ = static_cast<int>(CheckedIndex(tab, tabs_.size()));
+  tab_ = static_cast<int>(CheckedIndex(tab, static_cast<std::size_t>(Count())));
   Touch();
   Fire(Click);
 }
@@ -143,14 +140,6 @@ void List::ClickItem(int index) {
   Touch();
   Fire(Click);
 }
-
-ActionArray::ActionArray(Form& form, std::string_view name, std::initializer_list<std::string_view> captions)
-    : Control(form, name) {
-  for (const auto caption : captions) items_.push_back({std::string(caption)});
-}
-
-const ActionArray::Item& ActionArray::At(int index) const { return items_[CheckedIndex(index, items_.size())]; }
-ActionArray::Item& ActionArray::At(int index) { return items_[CheckedIndex(index, items_.size())]; }
 
 void ActionArray::ClickItem(int index) const {
   const Item& item = At(index);

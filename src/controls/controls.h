@@ -48,7 +48,8 @@ class Menu : public Label {
 
 class Button : public Control {
  public:
-  Button(Form& form, std::string_view name, std::string_view caption) : Control(form, name), caption_(caption) {}
+  Button(Form& form, std::string_view name, std::string_view caption, Event click = {})
+      : Control(form, name), Click(std::move(click)), caption_(caption) {}
 
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string_view caption) { Mirror(caption_, std::string(caption)); }
@@ -100,6 +101,30 @@ class TextBox : public Control {
   FontChoice font_;
   std::size_t selectionStart_ = 0;
   std::size_t selectionLength_ = 0;
+};
+
+// The label of a field. It bears the field's name: "lblCMRR" labels "txtCMRR", and "lblText7" labels "Text7".
+class FieldLabel {
+ public:
+  const std::string& LabelCaption() const { return label_.Caption(); }
+
+ protected:
+  FieldLabel(Form& form, std::string_view field, std::string_view caption, int unitRow)
+      : name_("lbl" + std::string(field.substr(field.starts_with("txt") ? 3 : 0))),
+        label_(form, name_, caption, unitRow) {}
+
+ private:
+  std::string name_;
+  Label label_;
+};
+
+// A text box and the label before it.
+class LabelledBox : public FieldLabel, public TextBox {
+ public:
+  LabelledBox(Form& form, std::string_view name, TextKind kind, std::string_view caption, int unitRow = NoUnit)
+      : FieldLabel(form, name, caption, unitRow), TextBox(form, name, kind) {}
+  LabelledBox(Form& form, std::string_view name, std::string_view caption, int unitRow = NoUnit)
+      : LabelledBox(form, name, TextKind::Free, caption, unitRow) {}
 };
 
 enum class ClickKind {
@@ -220,15 +245,39 @@ class Combo : public Control {
   int listIndex_ = Nothing;
 };
 
-// Pages of which one is on view, counted from 0.
-class TabSet : public Control {
+// What bears captions that can be reached one by one, counted from 0. Each routine throws RuntimeError 9 outside the
+// array.
+class CaptionArray : public Control {
  public:
-  TabSet(Form& form, std::string_view name, std::initializer_list<std::string_view> captions);
+  CaptionArray(Form& form, std::string_view name, std::initializer_list<std::string_view> captions);
 
-  int Count() const { return static_cast<int>(tabs_.size()); }
-  const std::string& Caption(int tab) const { return At(tab).caption; }
-  bool TabEnabled(int tab) const { return At(tab).enabled; }
-  void SetTabEnabled(int tab, bool enabled) { Mirror(At(tab).enabled, enabled); }
+  int Count() const { return static_cast<int>(items_.size()); }
+  const std::string& Caption(int index) const { return At(index).caption; }
+  void SetCaption(int index, std::string_view caption) { Mirror(At(index).caption, std::string(caption)); }
+  bool ItemEnabled(int index) const { return At(index).enabled; }
+  void SetItemEnabled(int index, bool enabled) { Mirror(At(index).enabled, enabled); }
+
+ protected:
+  struct Item {
+    std::string caption;
+    bool enabled = true;
+    bool visible = true;
+    bool checked = false;
+  };
+  const Item& At(int index) const { return items_[CheckedIndex(index, items_.size())]; }
+  Item& At(int index) { return items_[CheckedIndex(index, items_.size())]; }
+
+ private:
+  std::vector<Item> items_;
+};
+
+// Pages of which one is on view.
+class TabSet : public CaptionArray {
+ public:
+  using CaptionArray::CaptionArray;
+
+  bool TabEnabled(int tab) const { return ItemEnabled(tab); }
+  void SetTabEnabled(int tab, bool enabled) { SetItemEnabled(tab, enabled); }
 
   int Tab() const { return tab_; }
   // Code may go to a disabled tab. Throws RuntimeError 9 outside the set.
@@ -239,14 +288,6 @@ class TabSet : public Control {
   Event Click;  // another tab is on view
 
  private:
-  struct Page {
-    std::string caption;
-    bool enabled = true;
-  };
-  const Page& At(int tab) const;
-  Page& At(int tab);
-
-  std::vector<Page> tabs_;
   int tab_ = 0;
 };
 
@@ -276,41 +317,22 @@ class List : public Control {
   int listIndex_ = Combo::Nothing;
 };
 
-// The entries of a menu or the buttons of a tool bar, counted from 0. A caption of "-" is a separator, an empty one no
-// entry at all.
-class ActionArray : public Control {
+// The entries of a menu or the buttons of a tool bar. A caption of "-" is a separator, an empty one no entry at all.
+class ActionArray : public CaptionArray {
  public:
-  ActionArray(Form& form, std::string_view name, std::initializer_list<std::string_view> captions);
+  using CaptionArray::CaptionArray;
 
   static constexpr std::string_view Separator = "-";
 
-  int Count() const { return static_cast<int>(items_.size()); }
-  const std::string& Caption(int index) const { return At(index).caption; }
-  void SetCaption(int index, std::string_view caption) { Mirror(At(index).caption, std::string(caption)); }
-  bool ItemEnabled(int index) const { return At(index).enabled; }
-  void SetItemEnabled(int index, bool enabled) { Mirror(At(index).enabled, enabled); }
   bool ItemVisible(int index) const { return At(index).visible; }
   void SetItemVisible(int index, bool visible) { Mirror(At(index).visible, visible); }
   bool ItemChecked(int index) const { return At(index).checked; }
   void SetItemChecked(int index, bool checked) { Mirror(At(index).checked, checked); }
 
-  // The user's choice of an entry; one that is disabled or not shown does not answer. Throws RuntimeError 9 outside the
-  // array.
+  // The user's choice of an entry; one that is disabled or not shown does not answer.
   void ClickItem(int index) const;
 
   std::function<void(Integer index)> Click;
-
- private:
-  struct Item {
-    std::string caption;
-    bool enabled = true;
-    bool visible = true;
-    bool checked = false;
-  };
-  const Item& At(int index) const;
-  Item& At(int index);
-
-  std::vector<Item> items_;
 };
 
 // A whole number between two others.

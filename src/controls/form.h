@@ -58,7 +58,7 @@ class Form {
 
  protected:
   virtual void OnOpen() = 0;
-  virtual void OnClose() = 0;
+  virtual void OnClose() {}
 
  private:
   friend class Control;

@@ -55,17 +55,13 @@ std::string PathOf(const Program& program, const Backup& entry) {
 
 }  // namespace
 
-BackupsWindow::BackupsWindow(Program& program) : program_(program) {
+BackupsWindow::BackupsWindow(Program& program) : ProgramForm(program, "frmBackups", "Backups") {
   grdBackups.SetStretchedColumn(0);
   grdBackups.Change = [this] { ShowSelected(); };
   cmdOpen.Click = [this] {
     Chosen = project_;
     Close();
   };
-  cmdSaveAs.Click = [this] { SaveAs(); };
-  cmdDelete.Click = [this] { Delete(); };
-  cmdFolder.Click = [this] { OpenFolder(); };
-  Command1.Click = [this] { Close(); };
 }
 
 void BackupsWindow::OnOpen() {

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "core/dialog_helpers.h"
-#include "core/help.h"
 #include "core/messages.h"
 #include "files/conversion.h"
 
@@ -15,11 +14,7 @@ constexpr Integer LoadConvertedProject = 1;
 }  // namespace
 
 ConvertDialog::ConvertDialog(Program& program, std::function<void()> converted)
-    : program_(program), converted_(std::move(converted)) {
-  Command2.Click = [this] { Convert(); };
-  Command1.Click = [this] { Close(); };
-  Command3.Click = [this] { OpenHelpTopic(program_, *this); };
-}
+    : ProgramForm(program, "frmConvert", "File Conversion Utility"), converted_(std::move(converted)) {}
 
 void ConvertDialog::OnOpen() {
   PrepareForm(program_, message_module::Conversion);

@@ -6,14 +6,12 @@
 
 #include "base/runtime_error.h"
 #include "controls/controls.h"
-#include "core/program.h"
+#include "core/program_form.h"
 
 namespace orby {
 
-class ConvertControls : public Form {
+class ConvertDialog : public ProgramForm {
  public:
-  ConvertControls() : Form("frmConvert", "File Conversion Utility") {}
-
   Frame fraUnits{*this, "fraUnits", "Units"};
   OptionArray Option1{*this, "Option1", {{"feet, psi, pcf"}, {"meters, MPa, kN/m3"}}};
   Frame fraFileOptions{*this, "fraFileOptions", "File options"};
@@ -21,13 +19,10 @@ class ConvertControls : public Form {
   OptionArray Option2{*this, "Option2", {{"Keep original project"}, {"Load converted project "}}};
 
   // commands
-  Button Command2{*this, "Command2", "Convert"};
-  Button Command1{*this, "Command1", "Cancel"};
-  Button Command3{*this, "Command3", "Help"};
-};
+  Button Command2{*this, "Command2", "Convert", [this] { Convert(); }};
+  Button Command1{*this, "Command1", "Cancel", [this] { Close(); }};
+  Button Command3{*this, "Command3", "Help", [this] { ShowHelp(); }};
 
-class ConvertDialog : public ConvertControls {
- public:
   // converted: runs once the project is another one, or has been converted in part, before the user is told.
   explicit ConvertDialog(
       Program& program, std::function<void()> converted = [] {});
@@ -37,12 +32,10 @@ class ConvertDialog : public ConvertControls {
 
  protected:
   void OnOpen() override;
-  void OnClose() override {}
 
  private:
   void Convert();
 
-  Program& program_;
   std::function<void()> converted_;
   std::optional<RuntimeError> failure_;
 };

@@ -22,35 +22,35 @@ namespace orby {
 namespace {
 
 struct CostField {
-  TextBox CostControls::*Box;
+  LabelledBox CostDialog::*Box;
   Single CostInputs::*Field;
   std::string_view Fault;
 };
 
 // In the order in which they are checked.
 constexpr std::array CostFields{
-    CostField{&CostControls::txtBoltCost, &CostInputs::BoltCost, "Invalid cost per bolt"},
-    CostField{&CostControls::txtPlateCost, &CostInputs::PlateCost, "Invalid cost per plate"},
-    CostField{&CostControls::txtResinCost, &CostInputs::ResinCost, "Invalid cost per resin"},
-    CostField{&CostControls::txtBitCost, &CostInputs::BitCost, "Invalid cost per bit"},
-    CostField{&CostControls::txtHeaderCost, &CostInputs::HeaderCost, "Invalid header cost"},
-    CostField{&CostControls::txtStrapCost, &CostInputs::StrapCost, "Invalid strap/mesh cost"},
-    CostField{&CostControls::txtnboltsShift, &CostInputs::NboltsShift, "Invalid number of bolts per shift"},
-    CostField{&CostControls::txtnBoltsRow, &CostInputs::NBoltsRow, fault_text::BoltsPerRow},
-    CostField{&CostControls::txtRowSpacing, &CostInputs::RowSpacing, fault_text::RowSpacing},
-    CostField{&CostControls::txtnOperShift, &CostInputs::NOperShift, "Invalid number of operators per shift"},
-    CostField{&CostControls::txtTotalLabor, &CostInputs::TotalLabor, "Invalid total labor cost per shift"},
-    CostField{&CostControls::txtHoursShift, &CostInputs::HoursShift, "Invalid hours per shift"},
-    CostField{&CostControls::txtMaintainHrs, &CostInputs::MaintainHrs, "Invalid maintenance hours"},
-    CostField{&CostControls::txtMaintainCost, &CostInputs::MaintainCost, "Invalid maintenance cost"},
-    CostField{&CostControls::txtTranspCost, &CostInputs::TranspCost, "Invalid transportation cost"},
-    CostField{&CostControls::txtCapitalCost, &CostInputs::CapitalCost, "Invalid machine capital cost"},
-    CostField{&CostControls::txtYearsDepr, &CostInputs::YearsDepr, "Invalid number of depreciation years"},
-    CostField{&CostControls::txtAdvanceShift, &CostInputs::AdvanceShift, "Invalid advance per shift"},
-    CostField{&CostControls::txtAdvanceRate, &CostInputs::AdvanceRate, "Invalid advance rate"},
-    CostField{&CostControls::txtCleanProduction, &CostInputs::CleanProduction, "Invalid clean production"},
-    CostField{&CostControls::txtShiftsWeek, &CostInputs::ShiftsWeek, "Invalid number of shifts per week"},
-    CostField{&CostControls::txtWeeksYear, &CostInputs::WeeksYear, "Invalid number of weeks per year"},
+    CostField{&CostDialog::txtBoltCost, &CostInputs::BoltCost, "Invalid cost per bolt"},
+    CostField{&CostDialog::txtPlateCost, &CostInputs::PlateCost, "Invalid cost per plate"},
+    CostField{&CostDialog::txtResinCost, &CostInputs::ResinCost, "Invalid cost per resin"},
+    CostField{&CostDialog::txtBitCost, &CostInputs::BitCost, "Invalid cost per bit"},
+    CostField{&CostDialog::txtHeaderCost, &CostInputs::HeaderCost, "Invalid header cost"},
+    CostField{&CostDialog::txtStrapCost, &CostInputs::StrapCost, "Invalid strap/mesh cost"},
+    CostField{&CostDialog::txtnboltsShift, &CostInputs::NboltsShift, "Invalid number of bolts per shift"},
+    CostField{&CostDialog::txtnBoltsRow, &CostInputs::NBoltsRow, fault_text::BoltsPerRow},
+    CostField{&CostDialog::txtRowSpacing, &CostInputs::RowSpacing, fault_text::RowSpacing},
+    CostField{&CostDialog::txtnOperShift, &CostInputs::NOperShift, "Invalid number of operators per shift"},
+    CostField{&CostDialog::txtTotalLabor, &CostInputs::TotalLabor, "Invalid total labor cost per shift"},
+    CostField{&CostDialog::txtHoursShift, &CostInputs::HoursShift, "Invalid hours per shift"},
+    CostField{&CostDialog::txtMaintainHrs, &CostInputs::MaintainHrs, "Invalid maintenance hours"},
+    CostField{&CostDialog::txtMaintainCost, &CostInputs::MaintainCost, "Invalid maintenance cost"},
+    CostField{&CostDialog::txtTranspCost, &CostInputs::TranspCost, "Invalid transportation cost"},
+    CostField{&CostDialog::txtCapitalCost, &CostInputs::CapitalCost, "Invalid machine capital cost"},
+    CostField{&CostDialog::txtYearsDepr, &CostInputs::YearsDepr, "Invalid number of depreciation years"},
+    CostField{&CostDialog::txtAdvanceShift, &CostInputs::AdvanceShift, "Invalid advance per shift"},
+    CostField{&CostDialog::txtAdvanceRate, &CostInputs::AdvanceRate, "Invalid advance rate"},
+    CostField{&CostDialog::txtCleanProduction, &CostInputs::CleanProduction, "Invalid clean production"},
+    CostField{&CostDialog::txtShiftsWeek, &CostInputs::ShiftsWeek, "Invalid number of shifts per week"},
+    CostField{&CostDialog::txtWeeksYear, &CostInputs::WeeksYear, "Invalid number of weeks per year"},
 };
 
 template <class Compute>
@@ -61,7 +61,7 @@ std::string FigureText(const Compute& compute) {
 
 }  // namespace
 
-CostDialog::CostDialog(Program& program) : program_(program) {
+CostDialog::CostDialog(Program& program) : ProgramForm(program, "frmTULKCost", "Cost Parameters") {
   TieEvents();
   TieCommands();
 }
@@ -85,7 +85,6 @@ void CostDialog::TieCommands() {
     CommitOnClose = true;
     Close();
   };
-  Command1.Click = [this] { Close(); };
   cmdresults.Click = [this] {
     if (!ValidateCost()) return;
     While(Act::Report, [this] { BuildReport(); });

@@ -4,89 +4,63 @@
 #include <string_view>
 
 #include "controls/controls.h"
-#include "core/program.h"
+#include "core/program_form.h"
 
 namespace orby {
 
-class CostControls : public Form {
+class CostDialog : public ProgramForm {
  public:
-  CostControls() : Form("frmTULKCost", "Cost Parameters") {}
-
   static constexpr std::string_view UseCalculated = "Use calculated value";
 
   Frame fraConsumables{*this, "fraConsumables", "Consumables"};
-  Label lblBoltCost{*this, "lblBoltCost", "Bolt cost ($/bolt)"};
-  TextBox txtBoltCost{*this, "txtBoltCost", TextKind::Number};
-  Label lblPlateCost{*this, "lblPlateCost", "Plate cost ($/plate)"};
-  TextBox txtPlateCost{*this, "txtPlateCost", TextKind::Number};
-  Label lblResinCost{*this, "lblResinCost", "Resin cost ($/bolt)"};
-  TextBox txtResinCost{*this, "txtResinCost", TextKind::Number};
-  Label lblBitCost{*this, "lblBitCost", "Bit cost ($/shift)"};
-  TextBox txtBitCost{*this, "txtBitCost", TextKind::Number};
-  Label lblHeaderCost{*this, "lblHeaderCost", "Header cost ($/bolt)"};
-  TextBox txtHeaderCost{*this, "txtHeaderCost", TextKind::Number};
-  Label lblStrapCost{*this, "lblStrapCost", "Strap/mesh cost ($/row)"};
-  TextBox txtStrapCost{*this, "txtStrapCost", TextKind::Number};
+  LabelledBox txtBoltCost{*this, "txtBoltCost", TextKind::Number, "Bolt cost ($/bolt)"};
+  LabelledBox txtPlateCost{*this, "txtPlateCost", TextKind::Number, "Plate cost ($/plate)"};
+  LabelledBox txtResinCost{*this, "txtResinCost", TextKind::Number, "Resin cost ($/bolt)"};
+  LabelledBox txtBitCost{*this, "txtBitCost", TextKind::Number, "Bit cost ($/shift)"};
+  LabelledBox txtHeaderCost{*this, "txtHeaderCost", TextKind::Number, "Header cost ($/bolt)"};
+  LabelledBox txtStrapCost{*this, "txtStrapCost", TextKind::Number, "Strap/mesh cost ($/row)"};
 
   Frame fraOperatingLabor{*this, "fraOperatingLabor", "Operating Labor"};
-  Label lblnOperShift{*this, "lblnOperShift", "Number of operators/shift"};
-  TextBox txtnOperShift{*this, "txtnOperShift", TextKind::Number};
-  Label lblTotalLabor{*this, "lblTotalLabor", "Total labor cost ($/hr)"};
-  TextBox txtTotalLabor{*this, "txtTotalLabor", TextKind::Number};
-  Label lblHoursShift{*this, "lblHoursShift", "Hours/shift"};
-  TextBox txtHoursShift{*this, "txtHoursShift", TextKind::Number};
+  LabelledBox txtnOperShift{*this, "txtnOperShift", TextKind::Number, "Number of operators/shift"};
+  LabelledBox txtTotalLabor{*this, "txtTotalLabor", TextKind::Number, "Total labor cost ($/hr)"};
+  LabelledBox txtHoursShift{*this, "txtHoursShift", TextKind::Number, "Hours/shift"};
 
   Frame fraMaintenance{*this, "fraMaintenance", "Maintenance"};
-  Label lblMaintainHrs{*this, "lblMaintainHrs", "Preventative maintenance (labor hrs/day)"};
-  TextBox txtMaintainHrs{*this, "txtMaintainHrs", TextKind::Number};
-  Label lblMaintainCost{*this, "lblMaintainCost", "Maintenance supply cost ($/yr)"};
-  TextBox txtMaintainCost{*this, "txtMaintainCost", TextKind::Number};
+  LabelledBox txtMaintainHrs{*this, "txtMaintainHrs", TextKind::Number, "Preventative maintenance (labor hrs/day)"};
+  LabelledBox txtMaintainCost{*this, "txtMaintainCost", TextKind::Number, "Maintenance supply cost ($/yr)"};
 
   Frame fraTransportation{*this, "fraTransportation", "Transportation"};
-  Label lblTranspCost{*this, "lblTranspCost", "Transportation of supplies ($/shift)"};
-  TextBox txtTranspCost{*this, "txtTranspCost", TextKind::Number};
+  LabelledBox txtTranspCost{*this, "txtTranspCost", TextKind::Number, "Transportation of supplies ($/shift)"};
 
   Frame fraMachineOwnership{*this, "fraMachineOwnership", "Machine Ownership"};
-  Label lblCapitalCost{*this, "lblCapitalCost", "Capital cost for machine ($)"};
-  TextBox txtCapitalCost{*this, "txtCapitalCost", TextKind::Number};
-  Label lblYearsDepr{*this, "lblYearsDepr", "Years to depreciate"};
-  TextBox txtYearsDepr{*this, "txtYearsDepr", TextKind::Number};
+  LabelledBox txtCapitalCost{*this, "txtCapitalCost", TextKind::Number, "Capital cost for machine ($)"};
+  LabelledBox txtYearsDepr{*this, "txtYearsDepr", TextKind::Number, "Years to depreciate"};
 
   Frame fraProduction{*this, "fraProduction", "Production"};
-  Label lblnboltsShift{*this, "lblnboltsShift", "Number of bolts installed per shift"};
-  TextBox txtnboltsShift{*this, "txtnboltsShift", TextKind::Number};
-  Label lblnBoltsRow{*this, "lblnBoltsRow", "Number of bolts per row"};
-  TextBox txtnBoltsRow{*this, "txtnBoltsRow", TextKind::Number};
-  Label lblRowSpacing{*this, "lblRowSpacing", "Spacing between rows", unit_row::Length};
-  TextBox txtRowSpacing{*this, "txtRowSpacing", TextKind::Number};
-  Label lblAdvanceShiftCalc{*this, "lblAdvanceShiftCalc", "Calculated advance per shift", unit_row::Length};
-  TextBox txtAdvanceShiftCalc{*this, "txtAdvanceShiftCalc", TextKind::Output};
-  Label lblAdvanceShift{*this, "lblAdvanceShift", "Input: Advance per shift", unit_row::Length};
-  TextBox txtAdvanceShift{*this, "txtAdvanceShift", TextKind::Number};
+  LabelledBox txtnboltsShift{*this, "txtnboltsShift", TextKind::Number, "Number of bolts installed per shift"};
+  LabelledBox txtnBoltsRow{*this, "txtnBoltsRow", TextKind::Number, "Number of bolts per row"};
+  LabelledBox txtRowSpacing{*this, "txtRowSpacing", TextKind::Number, "Spacing between rows", unit_row::Length};
+  LabelledBox txtAdvanceShiftCalc{*this, "txtAdvanceShiftCalc", TextKind::Output, "Calculated advance per shift",
+                                  unit_row::Length};
+  LabelledBox txtAdvanceShift{*this, "txtAdvanceShift", TextKind::Number, "Input: Advance per shift", unit_row::Length};
   CheckBox chkAdvance{*this, "chkAdvance", UseCalculated};
-  Label lblAdvanceRate{*this, "lblAdvanceRate", "Clean production advance rate", unit_row::ProductionRate};
-  TextBox txtAdvanceRate{*this, "txtAdvanceRate", TextKind::Number};
-  Label lblCleanProductionCalc{*this, "lblCleanProductionCalc", "Calculated clean production per shift",
-                               unit_row::ProductionMass};
-  TextBox txtCleanProductionCalc{*this, "txtCleanProductionCalc", TextKind::Output};
-  Label lblCleanProduction{*this, "lblCleanProduction", "Input: Clean production per shift", unit_row::ProductionMass};
-  TextBox txtCleanProduction{*this, "txtCleanProduction", TextKind::Number};
+  LabelledBox txtAdvanceRate{*this, "txtAdvanceRate", TextKind::Number, "Clean production advance rate",
+                             unit_row::ProductionRate};
+  LabelledBox txtCleanProductionCalc{*this, "txtCleanProductionCalc", TextKind::Output,
+                                     "Calculated clean production per shift", unit_row::ProductionMass};
+  LabelledBox txtCleanProduction{*this, "txtCleanProduction", TextKind::Number, "Input: Clean production per shift",
+                                 unit_row::ProductionMass};
   CheckBox chkProduction{*this, "chkProduction", UseCalculated};
-  Label lblShiftsWeek{*this, "lblShiftsWeek", "Production shifts/week"};
-  TextBox txtShiftsWeek{*this, "txtShiftsWeek", TextKind::Number};
-  Label lblWeeksYear{*this, "lblWeeksYear", "Production weeks/year"};
-  TextBox txtWeeksYear{*this, "txtWeeksYear", TextKind::Number};
+  LabelledBox txtShiftsWeek{*this, "txtShiftsWeek", TextKind::Number, "Production shifts/week"};
+  LabelledBox txtWeeksYear{*this, "txtWeeksYear", TextKind::Number, "Production weeks/year"};
 
   // commands
   Button Command2{*this, "Command2", "OK"};
-  Button Command1{*this, "Command1", "Cancel"};
+  Button Command1{*this, "Command1", "Cancel", [this] { Close(); }};
   Button cmdresults{*this, "cmdresults", "Results"};
   Button Command5{*this, "Command5", "&Copy Clip"};
   Button Command3{*this, "Command3", "Help"};
-};
 
-class CostDialog : public CostControls {
- public:
   explicit CostDialog(Program& program);
 
   // The advance per shift out of bolts and row spacing, and the clean production that follows from it. A spacing that
@@ -127,8 +101,6 @@ class CostDialog : public CostControls {
   void TieCommands();
   void FillFields();
   void ReadCost(CostInputs& cost) const;
-
-  Program& program_;
 };
 
 }  // namespace orby

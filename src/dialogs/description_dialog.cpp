@@ -3,7 +3,6 @@
 #include "base/attempt.h"
 #include "base/text.h"
 #include "core/dialog_helpers.h"
-#include "core/help.h"
 #include "core/messages.h"
 #include "dialogs/history_texts.h"
 #include "files/backups.h"
@@ -29,21 +28,17 @@ void Choose(Program& program, Choice& choice, Choice chosen) {
 
 }  // namespace
 
-DescriptionDialog::DescriptionDialog(Program& program) : program_(program) {
+DescriptionDialog::DescriptionDialog(Program& program) : ProgramForm(program, "frmTULKDesc", "Project Description") {
   // The table is one of metric bolts.
   Option1.Click = [this](Integer index) {
     const UnitSystem units{index};
     if (units == English) Check1.SetValue(0);
     Check1.SetEnabled(units == Metric);
   };
-  Command2.Click = [this] { Accept(); };
-  Command1.Click = [this] { Close(); };
   Command4.Click = [this] {
     OpensParameters = true;
     Accept();
   };
-  cmdPutBack.Click = [this] { PutBack(); };
-  Command3.Click = [this] { OpenHelpTopic(program_, *this); };
 }
 
 void DescriptionDialog::OnOpen() {

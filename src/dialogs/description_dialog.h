@@ -2,20 +2,19 @@
 #pragma once
 
 #include "controls/controls.h"
-#include "core/program.h"
+#include "core/program_form.h"
 #include "files/texts_in_file.h"
 
 namespace orby {
 
-class DescriptionControls : public Form {
+class DescriptionDialog : public ProgramForm {
  public:
-  DescriptionControls() : Form("frmTULKDesc", "Project Description") {}
-
   Frame fraTitle{*this, "fraTitle", "Title and description"};
   Label lblTitle{*this, "lblTitle", "Title"};
   TextBox Text1{*this, "Text1"};
   TextBox Text2{*this, "Text2"};
-  Button cmdPutBack{*this, "cmdPutBack", "Put Back Title and Description"};  // only where the file has shifted them
+  Button cmdPutBack{*this, "cmdPutBack", "Put Back Title and Description",
+                    [this] { PutBack(); }};  // only where the file has shifted them
   Frame fraUnits{*this, "fraUnits", "Current units"};
   OptionArray Option1{*this, "Option1", {{"feet, lbs"}, {"meters, kN"}}};
   Frame fraStrength{*this, "fraStrength", "Roof bolt steel strength"};
@@ -23,14 +22,11 @@ class DescriptionControls : public Form {
   CheckBox Check1{*this, "Check1", "Use AUS Standard Table"};
 
   // commands
-  Button Command2{*this, "Command2", "OK"};
-  Button Command1{*this, "Command1", "Cancel"};
+  Button Command2{*this, "Command2", "OK", [this] { Accept(); }};
+  Button Command1{*this, "Command1", "Cancel", [this] { Close(); }};
   Button Command4{*this, "Command4", "Next Form"};
-  Button Command3{*this, "Command3", "Help"};
-};
+  Button Command3{*this, "Command3", "Help", [this] { ShowHelp(); }};
 
-class DescriptionDialog : public DescriptionControls {
- public:
   explicit DescriptionDialog(Program& program);
 
   bool CommitOnClose = false;
@@ -48,8 +44,6 @@ class DescriptionDialog : public DescriptionControls {
   void Commit();
 
   ProjectTexts Typed() const { return {Text1.Text(), Text2.Text()}; }
-
-  Program& program_;
 };
 
 }  // namespace orby

@@ -36,12 +36,11 @@ constexpr std::string_view DisclaimerText =
 
 }  // namespace
 
-Disclaimer::Disclaimer(Program& program) : program_(program) {
+Disclaimer::Disclaimer(Program& program) : ProgramForm(program, "frmDisclaimer", "Disclaimer") {
   Command1.Click = [this] {
     accepted_ = true;
     Close();
   };
-  cmdNoAccept.Click = [this] { Refuse(); };
 }
 
 void Disclaimer::OnOpen() {

@@ -5,25 +5,20 @@
 #pragma once
 
 #include "controls/controls.h"
-#include "core/program.h"
+#include "core/program_form.h"
 
 namespace orby {
 
-class DisclaimerControls : public Form {
+class Disclaimer : public ProgramForm {
  public:
-  DisclaimerControls() : Form("frmDisclaimer", "Disclaimer") {}
-
   Label lblHeading{*this, "lblHeading", "Disclaimer of Liability Clause"};
   TextBox txtDisclaimer{*this, "txtDisclaimer", TextKind::Output};
   CheckBox chkShow{*this, "chkShow", "Show disclaimer at start-up"};
 
   // commands
   Button Command1{*this, "Command1", "I accept"};
-  Button cmdNoAccept{*this, "cmdNoAccept", "I do not accept"};
-};
+  Button cmdNoAccept{*this, "cmdNoAccept", "I do not accept", [this] { Refuse(); }};
 
-class Disclaimer : public DisclaimerControls {
- public:
   explicit Disclaimer(Program& program);
 
   bool MayClose() override { return false; }
@@ -36,7 +31,6 @@ class Disclaimer : public DisclaimerControls {
  private:
   void Refuse();
 
-  Program& program_;
   bool accepted_ = false;
 };
 

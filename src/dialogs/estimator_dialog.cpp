@@ -7,17 +7,13 @@
 #include "base/arithmetic.h"
 #include "base/number_text.h"
 #include "core/dialog_helpers.h"
-#include "core/help.h"
 #include "core/messages.h"
 #include "dialogs/history_texts.h"
 
 namespace orby {
 namespace {
 
-constexpr int NumberColumn = 0;
-constexpr int NameColumn = 1;
-constexpr int RatingColumn = 2;
-constexpr int ColumnCount = 3;
+enum Column : int { NumberColumn, NameColumn, RatingColumn, ColumnCount };
 
 // The row of the rock type of this name; the unknown roof, above the manual setting, where there is none.
 int RowOf(std::span<const RockType> types, std::string_view name) {
@@ -28,7 +24,8 @@ int RowOf(std::span<const RockType> types, std::string_view name) {
 
 }  // namespace
 
-EstimatorDialog::EstimatorDialog(Program& program) : program_(program) {
+EstimatorDialog::EstimatorDialog(Program& program)
+    : ProgramForm(program, "frmCMRREst", "The Coal Mine Roof Rating (CMRR) Estimator for HAMB") {
   optLocation.Click = [this](Integer region) { ShowRegion(region); };
   VSFlexGrid1.Change = [this] {
     if (!HoldEvents) ShowEstimate();
@@ -38,8 +35,6 @@ EstimatorDialog::EstimatorDialog(Program& program) : program_(program) {
     CommitOnClose = true;
     Close();
   };
-  Command1.Click = [this] { Close(); };
-  Command3.Click = [this] { OpenHelpTopic(program_, *this); };
 }
 
 void EstimatorDialog::OnOpen() {

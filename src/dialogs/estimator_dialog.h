@@ -5,35 +5,29 @@
 
 #include "controls/controls.h"
 #include "controls/grid.h"
-#include "core/program.h"
+#include "core/program_form.h"
 #include "engine/estimator.h"
 
 namespace orby {
 
-class EstimatorControls : public Form {
+class EstimatorDialog : public ProgramForm {
  public:
-  EstimatorControls() : Form("frmCMRREst", "The Coal Mine Roof Rating (CMRR) Estimator for HAMB") {}
-
   Frame fraLocation{*this, "fraLocation", "Coalfield Location"};
   OptionArray optLocation{
       *this,
       "optLocation",
       {{RegionNames[0]}, {RegionNames[1]}, {RegionNames[2]}, {RegionNames[3]}, {RegionNames[4]}, {RegionNames[5]}}};
   Grid VSFlexGrid1{*this, "VSFlexGrid1"};
-  Label lblCMRR{*this, "lblCMRR", "CMRR"};
-  TextBox txtCMRR{*this, "txtCMRR", TextKind::Output};
+  LabelledBox txtCMRR{*this, "txtCMRR", TextKind::Output, "CMRR"};
   std::array<Picture, RegionNames.size()> Picture1{Picture(*this, "Picture1_0"), Picture(*this, "Picture1_1"),
                                                    Picture(*this, "Picture1_2"), Picture(*this, "Picture1_3"),
                                                    Picture(*this, "Picture1_4"), Picture(*this, "Picture1_5")};
 
   // commands
   Button Command2{*this, "Command2", "OK"};
-  Button Command1{*this, "Command1", "Cancel"};
-  Button Command3{*this, "Command3", "Help"};
-};
+  Button Command1{*this, "Command1", "Cancel", [this] { Close(); }};
+  Button Command3{*this, "Command3", "Help", [this] { ShowHelp(); }};
 
-class EstimatorDialog : public EstimatorControls {
- public:
   explicit EstimatorDialog(Program& program);
 
   // Shows the rating of the selected rock type and notes whether it is the region's manual row.
@@ -48,8 +42,6 @@ class EstimatorDialog : public EstimatorControls {
 
  private:
   void ShowRegion(Integer region);
-
-  Program& program_;
 };
 
 }  // namespace orby

@@ -25,13 +25,13 @@ std::vector<std::string> SortedWithoutDoubles(std::vector<std::string> names) {
 }  // namespace
 
 FontDialog::FontDialog(Program& program, FontChoice present, std::vector<std::string> offered)
-    : program_(program), present_(std::move(present)), offered_(SortedWithoutDoubles(std::move(offered))) {
+    : ProgramForm(program, "frmFont", "Font"),
+      present_(std::move(present)),
+      offered_(SortedWithoutDoubles(std::move(offered))) {
   lstFont.Click = [this] { ShowSample(); };
   txtSize.Change = [this] { ShowSample(); };
   chkBold.Click = [this] { ShowSample(); };
   chkItalic.Click = [this] { ShowSample(); };
-  cmdOK.Click = [this] { Accept(); };
-  cmdCancel.Click = [this] { Close(); };
 }
 
 void FontDialog::OnOpen() {
@@ -65,7 +65,7 @@ void FontDialog::Accept() {
     RequestFocus(lstFont);
     return;
   }
-  if (!RangeCheck(program_, txtSize.Text(), SmallestSize, LargestSize, lblSize.Caption())) {
+  if (!RangeCheck(program_, txtSize.Text(), SmallestSize, LargestSize, txtSize.LabelCaption())) {
     RequestFocus(txtSize);
     return;
   }

@@ -7,30 +7,23 @@
 
 #include "base/font_choice.h"
 #include "controls/controls.h"
-#include "core/program.h"
+#include "core/program_form.h"
 
 namespace orby {
 
-class FontControls : public Form {
+class FontDialog : public ProgramForm {
  public:
-  FontControls() : Form("frmFont", "Font") {}
-
   Label lblFont{*this, "lblFont", "Font"};
   List lstFont{*this, "lstFont", ListKind::Choices};
-  Label lblSize{*this, "lblSize", "Size"};
-  TextBox txtSize{*this, "txtSize", TextKind::Number};  // points
+  LabelledBox txtSize{*this, "txtSize", TextKind::Number, "Size"};  // points
   CheckBox chkBold{*this, "chkBold", "Bold"};
   CheckBox chkItalic{*this, "chkItalic", "Italic"};
-  Label lblSample{*this, "lblSample", "Sample"};
-  TextBox txtSample{*this, "txtSample", TextKind::Output};
+  LabelledBox txtSample{*this, "txtSample", TextKind::Output, "Sample"};
 
   // commands
-  Button cmdOK{*this, "cmdOK", "OK"};
-  Button cmdCancel{*this, "cmdCancel", "Cancel"};
-};
+  Button cmdOK{*this, "cmdOK", "OK", [this] { Accept(); }};
+  Button cmdCancel{*this, "cmdCancel", "Cancel", [this] { Close(); }};
 
-class FontDialog : public FontControls {
- public:
   // present: the choice that the dialog starts from; its font stays chosen until one of those offered takes its place.
   FontDialog(Program& program, FontChoice present, std::vector<std::string> offered);
 
@@ -38,7 +31,6 @@ class FontDialog : public FontControls {
 
  protected:
   void OnOpen() override;
-  void OnClose() override {}
 
  private:
   // The font as the fields stand.
@@ -46,7 +38,6 @@ class FontDialog : public FontControls {
   void ShowSample();
   void Accept();
 
-  Program& program_;
   FontChoice present_;
   std::vector<std::string> offered_;
 };

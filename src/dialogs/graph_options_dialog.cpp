@@ -3,7 +3,6 @@
 #include "base/number_text.h"
 #include "config/settings_sections.h"
 #include "core/dialog_helpers.h"
-#include "core/help.h"
 #include "core/messages.h"
 #include "dialogs/graph.h"
 
@@ -18,7 +17,8 @@ constexpr Integer FirstStyle = graph_style::LinesOnly;
 
 }  // namespace
 
-GraphOptionsDialog::GraphOptionsDialog(Program& program, Chart& chart) : program_(program), chart_(chart) {
+GraphOptionsDialog::GraphOptionsDialog(Program& program, Chart& chart)
+    : ProgramForm(program, "frmGraphOpt", "Graph Parameters and Options"), chart_(chart) {
   Option1.Click = [this](Integer option) { ChooseFormat(option); };
   Combo1.Change = [this] { KeepToItems(Combo1, lastGridItem_); };
   Combo2.Change = [this] {
@@ -26,9 +26,6 @@ GraphOptionsDialog::GraphOptionsDialog(Program& program, Chart& chart) : program
     EnableSymbolSize();
   };
   HScroll1.Change = [this] { txtSS.SetText(NumberText(HScroll1.Value())); };
-  Command2.Click = [this] { Accept(); };
-  Command1.Click = [this] { Close(); };
-  Command3.Click = [this] { OpenHelpTopic(program_, *this); };
 }
 
 void GraphOptionsDialog::OnOpen() {

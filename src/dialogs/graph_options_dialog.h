@@ -5,14 +5,12 @@
 
 #include "controls/chart.h"
 #include "controls/controls.h"
-#include "core/program.h"
+#include "core/program_form.h"
 
 namespace orby {
 
-class GraphOptionsControls : public Form {
+class GraphOptionsDialog : public ProgramForm {
  public:
-  GraphOptionsControls() : Form("frmGraphOpt", "Graph Parameters and Options") {}
-
   Frame Frame1{*this, "Frame1", "Options"};
   OptionArray Option1{*this, "Option1", {{"Set default format parameters"}, {"Set format parameters to last used"}}};
 
@@ -37,19 +35,15 @@ class GraphOptionsControls : public Form {
   TextBox txtSS{*this, "txtSS", TextKind::Output};
 
   // commands
-  Button Command2{*this, "Command2", "OK"};
-  Button Command1{*this, "Command1", "Cancel"};
-  Button Command3{*this, "Command3", "Help"};
-};
+  Button Command2{*this, "Command2", "OK", [this] { Accept(); }};
+  Button Command1{*this, "Command1", "Cancel", [this] { Close(); }};
+  Button Command3{*this, "Command3", "Help", [this] { ShowHelp(); }};
 
-class GraphOptionsDialog : public GraphOptionsControls {
- public:
   // The chart shows the curve `program.windows.curve.CurveIndex`; OK gives it the format chosen.
   GraphOptionsDialog(Program& program, Chart& chart);
 
  protected:
   void OnOpen() override;
-  void OnClose() override {}
 
  private:
   void FillFields();
@@ -60,7 +54,6 @@ class GraphOptionsDialog : public GraphOptionsControls {
   void ReadFields() const;
   void Accept();
 
-  Program& program_;
   Chart& chart_;
   int lastGridItem_ = 0;
   int lastStyleItem_ = 0;

@@ -52,7 +52,7 @@ bool IsPoint(const std::vector<ChartSeries>& all, const ChartHit& hit) {
 
 }  // namespace
 
-GraphWindow::GraphWindow(Program& program) : program_(program) {
+GraphWindow::GraphWindow(Program& program) : ProgramForm(program, "frmGraph", "Graph") {
   graph1.MouseMove = [this](const ChartHit& hit) { ReadOut(hit); };
   GraphFileItem.Click = [this](Integer item) {
     if (item == file_item::Print) Print();

@@ -4,14 +4,12 @@
 
 #include "controls/chart.h"
 #include "controls/controls.h"
-#include "core/program.h"
+#include "core/program_form.h"
 
 namespace orby {
 
-class GraphControls : public Form {
+class GraphWindow : public ProgramForm {
  public:
-  GraphControls() : Form("frmGraph", "Graph") {}
-
   Menu GraphFile{*this, "GraphFile", "&File"};
   ActionArray GraphFileItem{
       *this, "GraphFileItem", {"&Print", ActionArray::Separator, "Export", ActionArray::Separator, "E&xit"}};
@@ -30,10 +28,7 @@ class GraphControls : public Form {
   Label lblSF{*this, "lblSF", ""};
   Label lblCurveCaption{*this, "lblCurveCaption", "Curve:"};
   Label lblCurve{*this, "lblCurve", ""};
-};
 
-class GraphWindow : public GraphControls {
- public:
   explicit GraphWindow(Program& program);
 
   // Draws the points in `program.windows.curve` as the curve of this index and brings the window to the front, opening
@@ -60,8 +55,6 @@ class GraphWindow : public GraphControls {
   void Export();
   void TogglePointID();
   void EditOptions();
-
-  Program& program_;
 };
 
 }  // namespace orby

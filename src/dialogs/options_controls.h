@@ -8,6 +8,7 @@
 
 #include "controls/controls.h"
 #include "controls/grid.h"
+#include "core/program_form.h"
 
 namespace orby {
 
@@ -66,14 +67,13 @@ struct BoltListControls {
 };
 
 // What exists once for each unit system is an array: English, Metric.
-class OptionsControls : public Form {
+class OptionsControls : public ProgramForm {
  public:
   using Names = std::array<std::string_view, 2>;
-  using Labels = std::array<Label, 2>;
-  using Numbers = std::array<TextBox, 2>;
+  using Numbers = std::array<LabelledBox, 2>;
   using Buttons = std::array<Button, 2>;
 
-  OptionsControls() : Form("frmTULKOpts", "Options") {}
+  explicit OptionsControls(Program& program) : ProgramForm(program, "frmTULKOpts", "Options") {}
 
   TabSet SSTab1{*this,
                 "SSTab1",
@@ -90,30 +90,18 @@ class OptionsControls : public Form {
   Button cmdFileAssoc{*this, "cmdFileAssoc", "Create File Association"};
 
   // Default Parameters (English) and (Metric)
-  Labels lblCMRR = Captions({"lblCMRR_0", "lblCMRR_1"}, "Coal Mine Roof Rating");
-  Numbers txtCMRR = Fields({"txtCMRR_0", "txtCMRR_1"});
-  Labels lblDepthofCover = Captions({"lblDepthofCover_0", "lblDepthofCover_1"}, "Depth of Cover");
-  Numbers txtDepthofCover = Fields({"txtDepthofCover_0", "txtDepthofCover_1"});
-  Labels lblUnitWeight = Captions({"lblUnitWeight_0", "lblUnitWeight_1"}, "Unit Weight");
-  Numbers txtUnitWeight = Fields({"txtUnitWeight_0", "txtUnitWeight_1"});
-  Labels lblActualSpan = Captions({"lblActualSpan_0", "lblActualSpan_1"}, "Actual Intersection Sum of Diagonals");
-  Numbers txtActualSpan = Fields({"txtActualSpan_0", "txtActualSpan_1"});
-  Labels lblEntryWidth = Captions({"lblEntryWidth_0", "lblEntryWidth_1"}, "Entry Width");
-  Numbers txtEntryWidth = Fields({"txtEntryWidth_0", "txtEntryWidth_1"});
-  Labels lblStabilityFactor = Captions({"lblStabilityFactor_0", "lblStabilityFactor_1"}, "Stability Factor");
-  Numbers txtStabilityFactor = Fields({"txtStabilityFactor_0", "txtStabilityFactor_1"});
-  Labels lblActualBoltLength = Captions({"lblActualBoltLength_0", "lblActualBoltLength_1"}, "Actual Bolt Length");
-  Numbers txtActualBoltLength = Fields({"txtActualBoltLength_0", "txtActualBoltLength_1"});
-  Labels lblBoltDiameter = Captions({"lblBoltDiameter_0", "lblBoltDiameter_1"}, "Bolt Diameter");
-  Numbers txtBoltDiameter = Fields({"txtBoltDiameter_0", "txtBoltDiameter_1"});
-  Labels lblBoltGrade = Captions({"lblBoltGrade_0", "lblBoltGrade_1"}, "Bolt Grade");
-  Numbers txtBoltGrade = Fields({"txtBoltGrade_0", "txtBoltGrade_1"});
-  Labels lblBoltUTS = Captions({"lblBoltUTS_0", "lblBoltUTS_1"}, "Bolt UTS");
-  Numbers txtBoltUTS = Fields({"txtBoltUTS_0", "txtBoltUTS_1"});
-  Labels lblBoltsperRow = Captions({"lblBoltsperRow_0", "lblBoltsperRow_1"}, "Number of Bolts per Row");
-  Numbers txtBoltsperRow = Fields({"txtBoltsperRow_0", "txtBoltsperRow_1"});
-  Labels lblRowSpacing = Captions({"lblRowSpacing_0", "lblRowSpacing_1"}, "Row Spacing");
-  Numbers txtRowSpacing = Fields({"txtRowSpacing_0", "txtRowSpacing_1"});
+  Numbers txtCMRR = Fields({"txtCMRR_0", "txtCMRR_1"}, "Coal Mine Roof Rating");
+  Numbers txtDepthofCover = Fields({"txtDepthofCover_0", "txtDepthofCover_1"}, "Depth of Cover");
+  Numbers txtUnitWeight = Fields({"txtUnitWeight_0", "txtUnitWeight_1"}, "Unit Weight");
+  Numbers txtActualSpan = Fields({"txtActualSpan_0", "txtActualSpan_1"}, "Actual Intersection Sum of Diagonals");
+  Numbers txtEntryWidth = Fields({"txtEntryWidth_0", "txtEntryWidth_1"}, "Entry Width");
+  Numbers txtStabilityFactor = Fields({"txtStabilityFactor_0", "txtStabilityFactor_1"}, "Stability Factor");
+  Numbers txtActualBoltLength = Fields({"txtActualBoltLength_0", "txtActualBoltLength_1"}, "Actual Bolt Length");
+  Numbers txtBoltDiameter = Fields({"txtBoltDiameter_0", "txtBoltDiameter_1"}, "Bolt Diameter");
+  Numbers txtBoltGrade = Fields({"txtBoltGrade_0", "txtBoltGrade_1"}, "Bolt Grade");
+  Numbers txtBoltUTS = Fields({"txtBoltUTS_0", "txtBoltUTS_1"}, "Bolt UTS");
+  Numbers txtBoltsperRow = Fields({"txtBoltsperRow_0", "txtBoltsperRow_1"}, "Number of Bolts per Row");
+  Numbers txtRowSpacing = Fields({"txtRowSpacing_0", "txtRowSpacing_1"}, "Row Spacing");
   std::array<BoltListControls, bolt_catalog::Count> bolts{
       BoltListControls{*this,
                        {"fraBolts_0",
@@ -170,7 +158,7 @@ class OptionsControls : public Form {
 
   // commands
   Button cmdOK{*this, "cmdOK", "OK"};
-  Button cmdCancel{*this, "cmdCancel", "Cancel"};
+  Button cmdCancel{*this, "cmdCancel", "Cancel", [this] { Close(); }};
   Button cmdHelp{*this, "cmdHelp", "Help"};
 
  private:
@@ -182,11 +170,9 @@ class OptionsControls : public Form {
   static constexpr std::string_view DeleteRow = "Delete Row";
   static constexpr std::string_view ResetDefault = "Reset Default";
 
-  Labels Captions(const Names& names, std::string_view caption) {
-    return {Label{*this, names[0], caption}, Label{*this, names[1], caption}};
-  }
-  Numbers Fields(const Names& names) {
-    return {TextBox{*this, names[0], TextKind::Number}, TextBox{*this, names[1], TextKind::Number}};
+  Numbers Fields(const Names& names, std::string_view caption) {
+    return {LabelledBox{*this, names[0], TextKind::Number, caption},
+            LabelledBox{*this, names[1], TextKind::Number, caption}};
   }
   Buttons Commands(const Names& names, std::string_view caption) {
     return {Button{*this, names[0], caption}, Button{*this, names[1], caption}};

@@ -27,7 +27,6 @@ struct DefaultField {
   std::array<Default, 2> Members;  // English, Metric; the same one twice where both pages edit it
   std::string_view Fault = {};     // none: any value that can be stored will do
   double Highest = std::numeric_limits<double>::infinity();
-  OptionsControls::Labels OptionsControls::*Captions = nullptr;  // where there is no fault
 };
 
 constexpr double HighestRoofRating = 100;
@@ -58,11 +57,8 @@ constexpr std::array DefaultFields{
                  {&D::DefaultENGActualInterSpan, &D::DefaultMETActualInterSpan},
                  "Invalid actual intersection span"},
     DefaultField{&C::txtEntryWidth, {&D::DefaultENGEntryWidth, &D::DefaultMETEntryWidth}, "Invalid entry width"},
-    DefaultField{.Boxes = &C::txtUnitWeight,
-                 .Members = {&D::DefaultENGUnitWeight, &D::DefaultMETUnitWeight},
-                 .Captions = &C::lblUnitWeight},
-    DefaultField{
-        .Boxes = &C::txtBoltUTS, .Members = {&D::DefaultENGBoltUTS, &D::DefaultMETBoltUTS}, .Captions = &C::lblBoltUTS},
+    DefaultField{&C::txtUnitWeight, {&D::DefaultENGUnitWeight, &D::DefaultMETUnitWeight}},
+    DefaultField{&C::txtBoltUTS, {&D::DefaultENGBoltUTS, &D::DefaultMETBoltUTS}},
 };
 
 struct Warning {
@@ -102,7 +98,7 @@ void Take(double value, Integer& target) { target = ToInteger(std::trunc(value))
 }  // namespace
 
 OptionsDialog::OptionsDialog(Program& program)
-    : program_(program),
+    : OptionsControls(program),
       cables_{OverlayEditing(VSFlexGridEng, txtCableEng, {TextKind::Number, TextKind::Number}),
               OverlayEditing(VSFlexGridMet, txtCableMet, {TextKind::Number, TextKind::Number})},
       stands_(VSFlexGridStand, txtStand, {TextKind::Free, TextKind::Number}) {
@@ -117,7 +113,6 @@ void OptionsDialog::TieCommands() {
   SSTab1.Click = [this] { program_.windows.OptionsTab = static_cast<Integer>(SSTab1.Tab()); };
   cmdFileAssoc.Click = [this] { AssociateFileExtension(program_); };
   cmdOK.Click = [this] { Accept(); };
-  cmdCancel.Click = [this] { Close(); };
   cmdHelp.Click = [this] { ContextHelpHint(program_); };
 }
 
@@ -163,12 +158,11 @@ void OptionsDialog::TellFault(const std::string& fault) {
 bool OptionsDialog::CheckFaults() {
   for (const std::size_t page : Pages) {
     for (const DefaultField& row : DefaultFields) {
-      TextBox& field = (this->*row.Boxes)[page];
+      LabelledBox& field = (this->*row.Boxes)[page];
       const auto value = FittingNumber(field.Text());
       const bool isChecked = !row.Fault.empty();
       if (value && (!isChecked || (*value > 0 && *value <= row.Highest))) continue;
-      TellFault(isChecked ? std::string(row.Fault)
-                          : fault_text::TooLarge((this->*row.Captions)[page].Caption(), field.Text()));
+      TellFault(isChecked ? std::string(row.Fault) : fault_text::TooLarge(field.LabelCaption(), field.Text()));
       GoTo(page, field);
       return false;
     }

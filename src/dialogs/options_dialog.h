@@ -9,7 +9,6 @@
 #include <string>
 #include <vector>
 
-#include "core/program.h"
 #include "dialogs/options_controls.h"
 #include "dialogs/overlay_editing.h"
 
@@ -65,7 +64,6 @@ class OptionsDialog : public OptionsControls {
   static constexpr int FirstParameterTab = 1;
   static constexpr int StandingSupportTab = 3;
 
-  Program& program_;
   std::array<OverlayEditing, 2> cables_;
   OverlayEditing stands_;
   // The capacities in tons and kN that the rows of the standing supports were filled from.

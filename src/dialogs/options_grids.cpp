@@ -15,10 +15,8 @@ namespace orby {
 namespace {
 
 // The columns of the grids, behind the number of the row.
-constexpr int CableDiameter = 0;
-constexpr int CableCapacity = 1;
-constexpr int SupportName = 0;
-constexpr int SupportCapacity = 1;
+enum CableColumn : int { CableDiameter, CableCapacity };
+enum SupportColumn : int { SupportName, SupportCapacity };
 
 struct CableCatalog {
   OverlayEditing::Texts Headers;

@@ -14,9 +14,9 @@ namespace orby {
 namespace {
 
 using D = ParametersDialog;
-using Box = TextBox ParametersControls::*;
-using List = Combo ParametersControls::*;
-using Options = OptionArray ParametersControls::*;
+using Bolts = BoltControls ParametersControls::*;
+using Cables = CableControls ParametersControls::*;
+using Supports = StandingControls ParametersControls::*;
 
 struct InnerTab {
   TabSet ParametersControls::*tabs = nullptr;
@@ -54,123 +54,155 @@ std::string ThickestBoltText(const D& d) { return NumberText(ThickestBolt(d)); }
 // ---- messages that several sections share --------------------------------------------------------------------------
 
 constexpr std::string_view BadBoltLength = "Invalid actual bolt length. Maximum length allowed is ";
-constexpr std::string_view NoDiameterSelected = "Roof bolt diameter NOT selected from available options";
-constexpr std::string_view NoGradeSelected = "Roof bolt grade NOT selected from available options";
-constexpr std::string_view BadSecondaryDiameter = "Invalid roof bolt diameter. Valid Range: max 1 in or 25 mm";
 constexpr std::string_view BadSecondaryGrade = "Invalid roof bolt grade";
 constexpr std::string_view BadHeight = "Invalid rock load height";
 constexpr std::string_view BadCableLength = "Invalid cable length";
-constexpr std::string_view BadCableCapacity = "Invalid cable capacity";
-constexpr std::string_view NoCableDiameter = "Cable Diameter not Selected from Available Options";
-constexpr std::string_view NoCableCapacity = "Cable Capacity not Selected from Available Options";
 constexpr std::string_view BadTrussLength = "Invalid truss member length";
-constexpr std::string_view BadTrussAngle = "Invalid truss member angle";
 constexpr std::string_view BadTrussCapacity = "Invalid truss capacity";
 constexpr std::string_view BadTrussSpacing = "Invalid truss spacing";
-constexpr std::string_view BadStandingType = "Invalid standing support specification";
-constexpr std::string_view BadStandingCapacity = "Invalid standing support capacity";
 
 // ---- tests ---------------------------------------------------------------------------------------------------------
 
-template <auto member>
+template <auto control>
 Control& At(D& d) {
-  return d.*member;
+  return d.*control;
+}
+
+template <auto set, auto control>
+Control& At(D& d) {
+  return (d.*set).*control;
 }
 
 // Throws RuntimeError 6 when no Single holds the number: the rule that asks for it fails then.
-template <Box box>
-double Value(const D& d) {
-  const auto value = FittingNumber((d.*box).Text());
+double Value(const TextBox& box) {
+  const auto value = FittingNumber(box.Text());
   if (!value) throw RuntimeError(error_number::Overflow);
   return *value;
 }
 
-template <Options options>
-bool Is(const D& d, Integer index) {
-  return GetArrayIndex(d.*options) == index;
+template <auto box>
+double Value(const D& d) {
+  return Value(d.*box);
 }
 
-template <Box box>
-bool NotAboveZero(const D& d) {
-  return Value<box>(d) <= 0;
-}
+bool Is(const OptionArray& options, Integer index) { return GetArrayIndex(options) == index; }
 
-template <Box box, int highest>
-bool OutsideZeroTo(const D& d) {
-  return Value<box>(d) < 0 || Value<box>(d) > highest;
-}
-
-template <Box box>
-bool LengthOutOfRange(const D& d) {
-  return Value<box>(d) <= 0 || Value<box>(d) > LongestBolt(d);
-}
-
-// From a list that is to be chosen from, nothing is.
-template <Options source, Options mode, List list>
-bool NothingSelected(const D& d) {
-  return Is<source>(d, 1) && Is<mode>(d, 0) && !(d.*list).HasSelection();
-}
-
-template <Options mode, List list>
-bool NothingSelected(const D& d) {
-  return Is<mode>(d, 0) && !(d.*list).HasSelection();
-}
-
-// A blanked list keeps its selection, but shows nothing to go by.
-template <Options mode, List list>
-bool NothingShown(const D& d) {
-  return NothingSelected<mode, list>(d) || (Is<mode>(d, 0) && (d.*list).Text().empty());
-}
-
-// The upper limit counts with the table as source too: a stale typed diameter stops a design from the table.
-template <Options source, Options mode, Box typed>
-bool BadTypedDiameter(const D& d) {
-  if (!Is<mode>(d, 1)) return false;
-  return (Is<source>(d, 1) && Value<typed>(d) <= 0) || Value<typed>(d) > ThickestBolt(d);
-}
-
-template <Options source, Options mode, Box typed>
-bool BadTypedGrade(const D& d) {
-  return Is<mode>(d, 1) && Is<source>(d, 1) && Value<typed>(d) <= 0;
-}
+// From the list, which is to be chosen from, nothing is.
+bool NothingSelected(const OptionArray& mode, const Combo& list) { return Is(mode, 0) && !list.HasSelection(); }
 
 // ---- rules ---------------------------------------------------------------------------------------------------------
 
-template <Box box>
+template <auto box>
 constexpr Rule AboveZero(std::string_view message) {
-  return {NotAboveZero<box>, message, At<box>};
+  return {[](const D& d) { return Value<box>(d) <= 0; }, message, At<box>};
 }
 
-template <Box box>
+template <auto box, int highest>
+constexpr Rule ZeroTo(std::string_view message, Control& (*focus)(D&) = At<box>) {
+  return {[](const D& d) { return Value<box>(d) < 0 || Value<box>(d) > highest; }, message, focus};
+}
+
+template <auto box, UnitSystem units, int least, int most>
+constexpr Rule Between(std::string_view message) {
+  return {[](const D& d) { return d.Units() == units && (Value<box>(d) < least || Value<box>(d) > most); }, message,
+          At<box>};
+}
+
+template <auto box>
 constexpr Rule BoltLength() {
-  return {LengthOutOfRange<box>, BadBoltLength, At<box>, LongestBoltText};
+  return {[](const D& d) { return Value<box>(d) <= 0 || Value<box>(d) > LongestBolt(d); }, BadBoltLength, At<box>,
+          LongestBoltText};
+}
+
+template <Bolts set>
+constexpr Rule DiameterSelected() {
+  return {[](const D& d) {
+            return Is((d.*set).Options, 1) && NothingSelected((d.*set).DiameterMode, (d.*set).DiameterStd);
+          },
+          "Roof bolt diameter NOT selected from available options", At<set, &BoltControls::DiameterStd>};
+}
+
+template <Bolts set>
+constexpr Rule GradeSelected(Control& (*focus)(D&) = At<set, &BoltControls::GradeStd>) {
+  return {[](const D& d) { return Is((d.*set).Options, 1) && NothingSelected((d.*set).GradeMode, (d.*set).GradeStd); },
+          "Roof bolt grade NOT selected from available options", focus};
+}
+
+// The upper limit counts with the table as source too: a stale typed diameter stops a design from the table.
+template <Bolts set>
+bool BadTypedDiameter(const D& d) {
+  const BoltControls& bolt = d.*set;
+  if (!Is(bolt.DiameterMode, 1)) return false;
+  return (Is(bolt.Options, 1) && Value(bolt.DiameterManual) <= 0) || Value(bolt.DiameterManual) > ThickestBolt(d);
+}
+
+template <Bolts set>
+constexpr Rule TypedDiameter() {
+  return {BadTypedDiameter<set>, "Invalid roof bolt diameter. Valid Range: max 1 in or 25 mm",
+          At<set, &BoltControls::DiameterManual>};
+}
+
+template <Bolts set>
+constexpr Rule TypedGrade(std::string_view message) {
+  return {[](const D& d) {
+            const BoltControls& bolt = d.*set;
+            return Is(bolt.GradeMode, 1) && Is(bolt.Options, 1) && Value(bolt.GradeManual) <= 0;
+          },
+          message, At<set, &BoltControls::GradeManual>};
+}
+
+template <Cables set>
+constexpr Rule CableCapacity() {
+  return {[](const D& d) { return Value((d.*set).CapacityManual) <= 0; }, "Invalid cable capacity",
+          At<set, &CableControls::CapacityManual>};
+}
+
+template <Cables set>
+constexpr Rule CableDiameterSelected(InnerTab inner = {}) {
+  return {[](const D& d) { return NothingSelected((d.*set).CapMode, (d.*set).Diam); },
+          "Cable Diameter not Selected from Available Options", At<set, &CableControls::Diam>, nullptr, inner};
+}
+
+template <Cables set>
+constexpr Rule CableCapacitySelected(InnerTab inner = {}) {
+  return {
+      [](const D& d) { return Is((d.*set).CapMode, 1) && NothingSelected((d.*set).Capacity, (d.*set).CapacityStd); },
+      "Cable Capacity not Selected from Available Options", At<set, &CableControls::CapacityStd>, nullptr, inner};
+}
+
+// A blanked list keeps its selection, but shows nothing to go by.
+template <Supports set>
+constexpr Rule SupportSelected(InnerTab inner = {}) {
+  return {[](const D& d) {
+            const StandingControls& standing = d.*set;
+            return Is(standing.TypeMode, 0) && (!standing.TypeStd.HasSelection() || standing.TypeStd.Text().empty());
+          },
+          "Invalid standing support specification", At<set, &StandingControls::TypeStd>, nullptr, inner};
+}
+
+template <Supports set>
+constexpr Rule SupportCapacity() {
+  return {[](const D& d) { return Value((d.*set).Capacity) <= 0; }, "Invalid standing support capacity",
+          [](D& d) -> Control& {
+            StandingControls& standing = d.*set;
+            if (Is(standing.TypeMode, 0)) return standing.TypeStd;
+            return standing.Capacity;
+          }};
 }
 
 constexpr Rule GeneralRules[] = {
     {[](const D& d) { return Value<&D::txtCMRR>(d) <= 0 || Value<&D::txtCMRR>(d) >= 100; }, "Invalid CMRR",
      At<&D::txtCMRR>},
-    {[](const D& d) {
-       return d.Units() == English && (Value<&D::txtUnitWeight>(d) < 100 || Value<&D::txtUnitWeight>(d) > 200);
-     },
-     "Invalid Unit Weight for Rock. Valid range 100-200 lbs/cf", At<&D::txtUnitWeight>},
-    {[](const D& d) {
-       return d.Units() == Metric && (Value<&D::txtUnitWeight>(d) < 15 || Value<&D::txtUnitWeight>(d) > 30);
-     },
-     "Invalid Unit Weight for Rock. Valid range 15-30 kN/m3", At<&D::txtUnitWeight>},
+    Between<&D::txtUnitWeight, English, 100, 200>("Invalid Unit Weight for Rock. Valid range 100-200 lbs/cf"),
+    Between<&D::txtUnitWeight, Metric, 15, 30>("Invalid Unit Weight for Rock. Valid range 15-30 kN/m3"),
     AboveZero<&D::txtDepthofCover>("Invalid depth of cover"),
     {[](const D& d) { return Value<&D::txtEntryWidth>(d) * std::sqrt(2.0) >= Value<&D::txtActualSpanDiagonals>(d); },
      "Invalid sum of diagonals at intersection. Should be greater than 1.4 x Entry Width",
      At<&D::txtActualSpanDiagonals>},
-    {[](const D& d) {
-       return d.Units() == English &&
-              (Value<&D::txtActualSpanDiagonals>(d) < 40 || Value<&D::txtActualSpanDiagonals>(d) > 80);
-     },
-     "Invalid sum of diagonals at intersection. Should be between 40 and 80 feet", At<&D::txtActualSpanDiagonals>},
-    {[](const D& d) {
-       return d.Units() == Metric &&
-              (Value<&D::txtActualSpanDiagonals>(d) < 13 || Value<&D::txtActualSpanDiagonals>(d) > 27);
-     },
-     "Invalid sum of diagonals at intersection. Should be between 13 and 27 m", At<&D::txtActualSpanDiagonals>},
+    Between<&D::txtActualSpanDiagonals, English, 40, 80>(
+        "Invalid sum of diagonals at intersection. Should be between 40 and 80 feet"),
+    Between<&D::txtActualSpanDiagonals, Metric, 13, 27>(
+        "Invalid sum of diagonals at intersection. Should be between 13 and 27 m"),
     {[](const D& d) { return d.Units() == English && Value<&D::txtEntryWidth>(d) <= 10; },
      "Invalid entry width. Should be greater than 10 ft", At<&D::txtEntryWidth>},
     // The limit is in metres although the words say feet.
@@ -183,36 +215,36 @@ constexpr Rule PrimaryRules[] = {
     BoltLength<&D::txtBoltLengthPrimary>(),
     AboveZero<&D::txtBoltsperRowPrimary>(fault_text::BoltsPerRow),
     AboveZero<&D::txtRowSpacingPrimary>(fault_text::RowSpacing),
-    {NothingSelected<&D::optBoltOptionsPrimary, &D::optBoltDiameterPrimary, &D::cmbBoltDiameterPrimary>,
-     NoDiameterSelected, At<&D::cmbBoltDiameterPrimary>},
-    {NothingSelected<&D::optBoltOptionsPrimary, &D::optBoltGradePrimary, &D::cmbBoltGradePrimary>, NoGradeSelected,
-     At<&D::cmbBoltGradePrimary>},
-    {BadTypedDiameter<&D::optBoltOptionsPrimary, &D::optBoltDiameterPrimary, &D::txtBoltDiameterPrimary>,
-     "Invalid bolt diameter. Maximum value = ", At<&D::txtBoltDiameterPrimary>, ThickestBoltText},
-    {BadTypedGrade<&D::optBoltOptionsPrimary, &D::optBoltGradePrimary, &D::txtBoltGradePrimary>, "Invalid bolt grade",
-     At<&D::txtBoltGradePrimary>},
+    DiameterSelected<&D::PrimaryBoltControls>(),
+    GradeSelected<&D::PrimaryBoltControls>(),
+    {BadTypedDiameter<&D::PrimaryBoltControls>, "Invalid bolt diameter. Maximum value = ",
+     At<&D::PrimaryBoltControls, &BoltControls::DiameterManual>, ThickestBoltText},
+    TypedGrade<&D::PrimaryBoltControls>("Invalid bolt grade"),
 };
 
 constexpr Rule EntryRockRules[] = {
     AboveZero<&D::txtRockLoadHeight>(BadHeight),
-    {OutsideZeroTo<&D::txtRockFallAngle, 60>, "Invalid roof fall angle", At<&D::txtRockFallAngle>},
+    ZeroTo<&D::txtRockFallAngle, 60>("Invalid roof fall angle"),
 };
 
 constexpr Rule EntryCableRules[] = {
     AboveZero<&D::txtCableLengthSecEntry>(BadCableLength),
-    AboveZero<&D::txtCableCapacitySecEntry>(BadCableCapacity),
+    CableCapacity<&D::EntryCableControls>(),
     AboveZero<&D::txtCableBoltsPerRowSecEntry>("Invalid cable bolts per row"),
     AboveZero<&D::txtCableRowSpacingSecEntry>("Invalid cable bolt row spacing"),
-    {NothingSelected<&D::optCableCapModeSecEntry, &D::cmbCableDiamSecEntry>, NoCableDiameter,
-     At<&D::cmbCableDiamSecEntry>},
-    {NothingSelected<&D::optCableCapModeSecEntry, &D::optCableCapacitySecEntry, &D::cmbCableCapacitySecEntry>,
-     NoCableCapacity, At<&D::cmbCableCapacitySecEntry>},
+    CableDiameterSelected<&D::EntryCableControls>(),
+    CableCapacitySelected<&D::EntryCableControls>(),
 };
 
 // A bad angle takes the user to the cable capacity of the entries, on another tab: in both truss sections.
+template <auto angle>
+constexpr Rule TrussAngle() {
+  return ZeroTo<angle, 90>("Invalid truss member angle", At<&D::EntryCableControls, &CableControls::CapacityManual>);
+}
+
 constexpr Rule EntryTrussRules[] = {
     AboveZero<&D::txtTrussLengthMemberSecEntry>(BadTrussLength),
-    {OutsideZeroTo<&D::txtTrussAngleSecEntry, 90>, BadTrussAngle, At<&D::txtCableCapacitySecEntry>},
+    TrussAngle<&D::txtTrussAngleSecEntry>(),
     AboveZero<&D::txtTrussCapacitySecEntry>(BadTrussCapacity),
     AboveZero<&D::txtTrussSpacingSecEntry>(BadTrussSpacing),
 };
@@ -221,58 +253,38 @@ constexpr Rule EntryBoltRules[] = {
     BoltLength<&D::txtBoltLengthSecEntry>(),
     AboveZero<&D::txtBoltsperRowSecEntry>("Invalid number of roof bolts per row"),
     AboveZero<&D::txtRowSpacingSecEntry>(fault_text::RowSpacing),
-    {NothingSelected<&D::optBoltOptionsSecEntry, &D::optBoltDiameterSecEntry, &D::cmbBoltDiameterSecEntry>,
-     NoDiameterSelected, At<&D::cmbBoltDiameterSecEntry>},
-    {NothingSelected<&D::optBoltOptionsSecEntry, &D::optBoltGradeSecEntry, &D::cmbBoltGradeSecEntry>, NoGradeSelected,
-     At<&D::cmbBoltGradeSecEntry>},
-    {BadTypedDiameter<&D::optBoltOptionsSecEntry, &D::optBoltDiameterSecEntry, &D::txtBoltDiameterSecEntry>,
-     BadSecondaryDiameter, At<&D::txtBoltDiameterSecEntry>},
-    {BadTypedGrade<&D::optBoltOptionsSecEntry, &D::optBoltGradeSecEntry, &D::txtBoltGradeSecEntry>, BadSecondaryGrade,
-     At<&D::txtBoltGradeSecEntry>},
+    DiameterSelected<&D::EntryBoltControls>(),
+    GradeSelected<&D::EntryBoltControls>(),
+    TypedDiameter<&D::EntryBoltControls>(),
+    TypedGrade<&D::EntryBoltControls>(BadSecondaryGrade),
 };
 
 constexpr Rule EntryStandingRules[] = {
     // A missing choice turns the intersections' inner tabs instead of the entries'.
-    {NothingShown<&D::optSupportTypeSecEntry, &D::cmbSupportTypeSecEntry>,
-     BadStandingType,
-     At<&D::cmbSupportTypeSecEntry>,
-     nullptr,
-     {&D::SSTab3, 3}},
-    {NotAboveZero<&D::txtSupportCapSecEntry>, BadStandingCapacity,
-     [](D& d) -> Control& {
-       if (Is<&D::optSupportTypeSecEntry>(d, 0)) return d.cmbSupportTypeSecEntry;
-       return d.txtSupportCapSecEntry;
-     }},
+    SupportSelected<&D::EntryStandingControls>({&D::SSTab3, 3}),
+    SupportCapacity<&D::EntryStandingControls>(),
     AboveZero<&D::txtNumberSupPerRowSecEntry>("Invalid standing supports per row"),
     AboveZero<&D::txtSupportRowSpacingSecEntry>("Invalid standing support row spacing"),
 };
 
 constexpr Rule InterRockRules[] = {
     AboveZero<&D::txtRockLoadHeightInter>(BadHeight),
-    {OutsideZeroTo<&D::txtRockFallAngleEntry, 60>, "Invalid roof fall angle for entry", At<&D::txtRockFallAngleEntry>},
-    {OutsideZeroTo<&D::txtRockFallAngleXcut, 60>, "Invalid roof fall angle for crosscut", At<&D::txtRockFallAngleXcut>},
+    ZeroTo<&D::txtRockFallAngleEntry, 60>("Invalid roof fall angle for entry"),
+    ZeroTo<&D::txtRockFallAngleXcut, 60>("Invalid roof fall angle for crosscut"),
 };
 
 constexpr Rule InterCableRules[] = {
     AboveZero<&D::txtCableLengthSecInter>(BadCableLength),
-    AboveZero<&D::txtCableCapacitySecInter>(BadCableCapacity),
+    CableCapacity<&D::InterCableControls>(),
     AboveZero<&D::txtCableNumberSecInter>("Invalid number of cable bolts"),
     // A missing choice turns the entries' inner tabs instead of the intersections'.
-    {NothingSelected<&D::optCableCapModeSecInter, &D::cmbCableDiamSecInter>,
-     NoCableDiameter,
-     At<&D::cmbCableDiamSecInter>,
-     nullptr,
-     {&D::SSTab2, 0}},
-    {NothingSelected<&D::optCableCapModeSecInter, &D::optCableCapacitySecInter, &D::cmbCableCapacitySecInter>,
-     NoCableCapacity,
-     At<&D::cmbCableCapacitySecInter>,
-     nullptr,
-     {&D::SSTab2, 0}},
+    CableDiameterSelected<&D::InterCableControls>({&D::SSTab2, 0}),
+    CableCapacitySelected<&D::InterCableControls>({&D::SSTab2, 0}),
 };
 
 constexpr Rule InterTrussRules[] = {
     AboveZero<&D::txtTrussLengthMemberSecInter>(BadTrussLength),
-    {OutsideZeroTo<&D::txtTrussAngleSecInter, 90>, BadTrussAngle, At<&D::txtCableCapacitySecEntry>},
+    TrussAngle<&D::txtTrussAngleSecInter>(),
     AboveZero<&D::txtTrussCapacitySecInter>(BadTrussCapacity),
     AboveZero<&D::txtTrussNumberSecInter>(BadTrussSpacing),
 };
@@ -280,25 +292,16 @@ constexpr Rule InterTrussRules[] = {
 constexpr Rule InterBoltRules[] = {
     BoltLength<&D::txtBoltLengthSecInter>(),
     AboveZero<&D::txtBoltNumberSecInter>("Invalid number of bolts in intersection"),
-    {NothingSelected<&D::optBoltOptionsSecInter, &D::optBoltDiameterSecInter, &D::cmbBoltDiameterSecInter>,
-     NoDiameterSelected, At<&D::cmbBoltDiameterSecInter>},
+    DiameterSelected<&D::InterBoltControls>(),
     // A missing grade takes the user to the list of diameters.
-    {NothingSelected<&D::optBoltOptionsSecInter, &D::optBoltGradeSecInter, &D::cmbBoltGradeSecInter>, NoGradeSelected,
-     At<&D::cmbBoltDiameterSecInter>},
-    {BadTypedDiameter<&D::optBoltOptionsSecInter, &D::optBoltDiameterSecInter, &D::txtBoltDiameterSecInter>,
-     BadSecondaryDiameter, At<&D::txtBoltDiameterSecInter>},
-    {BadTypedGrade<&D::optBoltOptionsSecInter, &D::optBoltGradeSecInter, &D::txtBoltGradeSecInter>, BadSecondaryGrade,
-     At<&D::txtBoltGradeSecInter>},
+    GradeSelected<&D::InterBoltControls>(At<&D::InterBoltControls, &BoltControls::DiameterStd>),
+    TypedDiameter<&D::InterBoltControls>(),
+    TypedGrade<&D::InterBoltControls>(BadSecondaryGrade),
 };
 
 constexpr Rule InterStandingRules[] = {
-    {NothingShown<&D::optSupportTypeSecInter, &D::cmbSupportTypeSecInter>, BadStandingType,
-     At<&D::cmbSupportTypeSecInter>},
-    {NotAboveZero<&D::txtSupportCapSecInter>, BadStandingCapacity,
-     [](D& d) -> Control& {
-       if (Is<&D::optSupportTypeSecInter>(d, 0)) return d.cmbSupportTypeSecInter;
-       return d.txtSupportCapSecInter;
-     }},
+    SupportSelected<&D::InterStandingControls>(),
+    SupportCapacity<&D::InterStandingControls>(),
     AboveZero<&D::txtSupportNumberSecInter>("Invalid number of standing supports in intersection"),
 };
 

@@ -57,59 +57,11 @@ void FillGrid(Grid& grid, const BoltTable& table) {
 
 }  // namespace
 
-ParametersDialog::ParametersDialog(Program& program)
-    : PrimaryBoltControls{optBoltOptionsPrimary,
-                          VSFlexGridPrimary,
-                          fraBoltOptionsPrimary1,
-                          fraBoltOptionsPrimary0,
-                          optBoltDiameterPrimary,
-                          cmbBoltDiameterPrimary,
-                          txtBoltDiameterPrimary,
-                          optBoltGradePrimary,
-                          cmbBoltGradePrimary,
-                          txtBoltGradePrimary,
-                          fraBoltGradePrimary,
-                          SSTab1,
-                          1},
-      EntryBoltControls{optBoltOptionsSecEntry,
-                        VSFlexGridEntry,
-                        fraBoltOptionsSecEntry1,
-                        fraBoltOptionsSecEntry0,
-                        optBoltDiameterSecEntry,
-                        cmbBoltDiameterSecEntry,
-                        txtBoltDiameterSecEntry,
-                        optBoltGradeSecEntry,
-                        cmbBoltGradeSecEntry,
-                        txtBoltGradeSecEntry,
-                        fraBoltGradeSecEntry,
-                        SSTab2,
-                        2},
-      InterBoltControls{optBoltOptionsSecInter,
-                        VSFlexGridInter,
-                        fraBoltOptionsSecInter1,
-                        fraBoltOptionsSecInter0,
-                        optBoltDiameterSecInter,
-                        cmbBoltDiameterSecInter,
-                        txtBoltDiameterSecInter,
-                        optBoltGradeSecInter,
-                        cmbBoltGradeSecInter,
-                        txtBoltGradeSecInter,
-                        fraBoltGradeSecInter,
-                        SSTab3,
-                        2},
-      EntryCableControls{&RoofSupport::Entries, optCableCapModeSecEntry,  optCableCapacitySecEntry, fraCableSpecEntry,
-                         cmbCableDiamSecEntry,  cmbCableCapacitySecEntry, txtCableCapacitySecEntry},
-      InterCableControls{&RoofSupport::Intersections, optCableCapModeSecInter, optCableCapacitySecInter,
-                         fraCableSpecInter,           cmbCableDiamSecInter,    cmbCableCapacitySecInter,
-                         txtCableCapacitySecInter},
-      EntryStandingControls{optSupportTypeSecEntry, cmbSupportTypeSecEntry, txtSupportTypeSecEntry,
-                            txtSupportCapSecEntry, true},
-      InterStandingControls{optSupportTypeSecInter, cmbSupportTypeSecInter, txtSupportTypeSecInter,
-                            txtSupportCapSecInter, false},
-      program_(program) {
-  for (const OutputControls& outputs : {EntryOutputs, InterOutputs}) {
+ParametersDialog::ParametersDialog(Program& program) : ParametersControls(program) {
+  for (OutputControls* outputs : {&EntryOutputs, &InterOutputs}) {
     for (std::size_t i = 0; i < SystemCount; ++i) {
-      for (TextBox* box : {&outputs.RockLoad[i], &outputs.SupportCap[i], &outputs.StabFactor[i]}) box->SetText("---");
+      for (TextBox* box : {&outputs->RockLoad[i], &outputs->SupportCap[i], &outputs->StabFactor[i]})
+        box->SetText("---");
     }
   }
   txtRegion.SetVisible(false);
@@ -125,7 +77,6 @@ void ParametersDialog::TieCommands() {
     CommitOnClose = true;
     Close();
   };
-  Command1.Click = [this] { Close(); };
   cmdresults.Click = [this] {
     if (!ValidateParameters() || !While(Act::Report, [this] { return BuildReport(); })) return;
     ShowResults(program_);
@@ -147,9 +98,9 @@ void ParametersDialog::OnOpen() {
     for (int tab = 1; tab < tabs->Count(); ++tab) tabs->SetTabEnabled(tab, false);
   }
   if (Units() == Metric) {
-    for (const CableControls& cable : {EntryCableControls, InterCableControls}) {
-      (program_.project.WorkParms.*cable.Support).Cable.CapMode = 1;
-      cable.CapMode.SetMemberEnabled(0, false);
+    for (CableControls* cable : {&EntryCableControls, &InterCableControls}) {
+      (program_.project.WorkParms.*cable->Support).Cable.CapMode = 1;
+      cable->CapMode.SetMemberEnabled(0, false);
     }
   }
   FillLists();
@@ -167,22 +118,22 @@ void ParametersDialog::FillLists() {
   const BoltTable& table = LoadBoltTable(program_.project, program_.session.catalogs);
   const auto diameters = NumberItems(BoltDiameters(program_));
   const auto grades = NumberItems(BoltGrades(program_));
-  for (const BoltControls& bolt : {PrimaryBoltControls, EntryBoltControls, InterBoltControls}) {
-    FillGrid(bolt.Table, table);
-    bolt.DiameterStd.Fill(diameters);
-    bolt.GradeStd.Fill(grades);
+  for (BoltControls* bolt : {&PrimaryBoltControls, &EntryBoltControls, &InterBoltControls}) {
+    FillGrid(bolt->Table, table);
+    bolt->DiameterStd.Fill(diameters);
+    bolt->GradeStd.Fill(grades);
     if (program_.project.WorkParms.Basis == StrengthBasis::Ultimate)
-      bolt.GradeFrame.SetCaption("Roof Bolt Ultimate Grade");
+      bolt->GradeFrame.SetCaption("Roof Bolt Ultimate Grade");
   }
   const auto cableDiameters = NumberItems(CableDiameters(program_));
   const auto cableCapacities = NumberItems(CableCapacities(program_));
-  for (const CableControls& cable : {EntryCableControls, InterCableControls}) {
-    cable.Diam.Fill(cableDiameters);
-    cable.CapacityStd.Fill(cableCapacities);
+  for (CableControls* cable : {&EntryCableControls, &InterCableControls}) {
+    cable->Diam.Fill(cableDiameters);
+    cable->CapacityStd.Fill(cableCapacities);
   }
   const auto supports = SupportItems(program_);
-  cmbSupportTypeSecEntry.Fill(supports);
-  cmbSupportTypeSecInter.Fill(supports);
+  EntryStandingControls.TypeStd.Fill(supports);
+  InterStandingControls.TypeStd.Fill(supports);
 }
 
 void ParametersDialog::OnClose() {

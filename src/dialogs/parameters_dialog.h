@@ -1,14 +1,13 @@
 // The parameters dialog: every analysis input of the design, its live results, its checks and its preview.
 //
 // Rules that the three bolt sets, the two cable selections or the two standing supports share are written once, over
-// descriptors of the controls that take part.
+// the sets of their controls.
 #pragma once
 
 #include <array>
 #include <initializer_list>
 #include <vector>
 
-#include "core/program.h"
 #include "dialogs/parameters_controls.h"
 #include "engine/analysis.h"
 
@@ -56,18 +55,6 @@ class ParametersDialog : public ParametersControls {
   bool CommitOnClose = false;
   bool WasCommitted = false;
 
-  // ---- descriptors --------------------------------------------------------------------------------------------------
-
-  BoltControls PrimaryBoltControls;
-  BoltControls EntryBoltControls;
-  BoltControls InterBoltControls;
-  CableControls EntryCableControls;
-  CableControls InterCableControls;
-  StandingControls EntryStandingControls;
-  StandingControls InterStandingControls;
-  OutputControls EntryOutputs{txtRockLoadEntry, txtSupportCapEntry, txtStabFactorEntry};
-  OutputControls InterOutputs{txtRockLoadInter, txtSupportCapInter, txtStabFactorInter};
-
   UnitSystem Units() const { return program_.project.WorkParms.Units; }
 
  protected:
@@ -88,9 +75,9 @@ class ParametersDialog : public ParametersControls {
   void TieFields();
   void TieGeneral();
   void Tie(const Refreshes& refreshes, std::initializer_list<Event*> events);
-  void TieBolt(const BoltControls& bolt, const Refreshes& refreshes);
-  void TieCable(const CableControls& cable, const Refreshes& refreshes);
-  void TieStanding(const StandingControls& standing, const Refreshes& refreshes);
+  void TieBolt(BoltControls& bolt, const Refreshes& refreshes);
+  void TieCable(CableControls& cable, const Refreshes& refreshes);
+  void TieStanding(StandingControls& standing, const Refreshes& refreshes);
   void TieSystems(std::array<CheckBox, SystemCount>& boxes, TabSet& tabs, const Refreshes& refreshes);
   void Run(const Refreshes& refreshes);
   void ApplyManualRating();
@@ -112,7 +99,6 @@ class ParametersDialog : public ParametersControls {
   // Asks the estimator for a roof rating.
   void Estimate();
 
-  Program& program_;
   Design typed_;
 };
 

@@ -7,7 +7,7 @@ namespace orby {
 namespace {
 
 // A table is on view on its own tab only.
-void ShowBoltFrames(const BoltControls& bolt) {
+void ShowBoltFrames(BoltControls& bolt) {
   const bool manual = GetArrayIndex(bolt.Options) == 1;
   bolt.TableFrame.SetVisible(!manual && bolt.Tabs.Tab() == bolt.Tab);
   bolt.ManualFrame.SetVisible(manual);
@@ -18,7 +18,7 @@ void ShowListOrText(Integer mode, Combo& list, TextBox& text) {
   text.SetVisible(mode == 1);
 }
 
-void ApplyCableRule(const CableControls& cable) {
+void ApplyCableRule(CableControls& cable) {
   const bool byCapacity = GetArrayIndex(cable.CapMode) == 1;
   const bool typed = GetArrayIndex(cable.Capacity) == 1;
   cable.Diam.SetEnabled(!byCapacity);
@@ -28,7 +28,7 @@ void ApplyCableRule(const CableControls& cable) {
   cable.CapacityManual.SetVisible(byCapacity && typed);
 }
 
-void ApplyStandingRule(const StandingControls& standing, Integer mode) {
+void ApplyStandingRule(StandingControls& standing, Integer mode) {
   const bool typed = mode == 1;
   standing.TypeStd.SetEnabled(!typed);
   standing.TypeManual.SetEnabled(typed);
@@ -40,7 +40,7 @@ void ApplyStandingRule(const StandingControls& standing, Integer mode) {
   }
 }
 
-void TakeCapacity(const StandingControls& standing) {
+void TakeCapacity(StandingControls& standing) {
   if (!standing.TypeStd.HasSelection()) return;
   const auto index = static_cast<std::size_t>(standing.TypeStd.ListIndex());
   standing.Capacity.SetText(NumberText(standing.TypeStd.Items()[index].data));
@@ -95,37 +95,38 @@ void ParametersDialog::TieFields() {
   Tie(R::EntryWidth, {&txtEntryWidth.Change});
   Tie(R::UnitWeight, {&txtUnitWeight.Change});
   Tie(R::Actual, {&txtBoltLengthPrimary.Change, &txtBoltsperRowPrimary.Change, &txtRowSpacingPrimary.Change,
-                  &txtBoltDiameterPrimary.Change, &txtBoltGradePrimary.Change, &cmbBoltDiameterPrimary.Change,
-                  &cmbBoltGradePrimary.Change, &VSFlexGridPrimary.Change});
+                  &PrimaryBoltControls.DiameterManual.Change, &PrimaryBoltControls.GradeManual.Change,
+                  &PrimaryBoltControls.DiameterStd.Change, &PrimaryBoltControls.GradeStd.Change,
+                  &PrimaryBoltControls.Table.Change});
   Tie(R::Entries, {&txtRockLoadHeight.Change,
                    &txtRockFallAngle.Change,
                    &txtCableLengthSecEntry.Change,
-                   &txtCableCapacitySecEntry.Change,
+                   &EntryCableControls.CapacityManual.Change,
                    &txtCableBoltsPerRowSecEntry.Change,
                    &txtCableRowSpacingSecEntry.Change,
                    &txtTrussAngleSecEntry.Change,
                    &txtTrussCapacitySecEntry.Change,
                    &txtTrussSpacingSecEntry.Change,
-                   &txtBoltDiameterSecEntry.Change,
-                   &txtBoltGradeSecEntry.Change,
+                   &EntryBoltControls.DiameterManual.Change,
+                   &EntryBoltControls.GradeManual.Change,
                    &txtBoltsperRowSecEntry.Change,
                    &txtRowSpacingSecEntry.Change,
-                   &txtSupportCapSecEntry.Change,
+                   &EntryStandingControls.Capacity.Change,
                    &txtNumberSupPerRowSecEntry.Change,
                    &txtSupportRowSpacingSecEntry.Change,
-                   &cmbBoltDiameterSecEntry.Change,
-                   &cmbBoltGradeSecEntry.Change,
-                   &cmbCableDiamSecEntry.Change,
-                   &cmbCableCapacitySecEntry.Change,
-                   &VSFlexGridEntry.Change});
+                   &EntryBoltControls.DiameterStd.Change,
+                   &EntryBoltControls.GradeStd.Change,
+                   &EntryCableControls.Diam.Change,
+                   &EntryCableControls.CapacityStd.Change,
+                   &EntryBoltControls.Table.Change});
   Tie(R::Intersections,
       {&txtRockLoadHeightInter.Change, &txtRockFallAngleEntry.Change, &txtRockFallAngleXcut.Change,
-       &txtCableLengthSecInter.Change, &txtCableCapacitySecInter.Change, &txtCableNumberSecInter.Change,
+       &txtCableLengthSecInter.Change, &InterCableControls.CapacityManual.Change, &txtCableNumberSecInter.Change,
        &txtTrussAngleSecInter.Change, &txtTrussCapacitySecInter.Change, &txtTrussNumberSecInter.Change,
-       &txtBoltDiameterSecInter.Change, &txtBoltGradeSecInter.Change, &txtBoltNumberSecInter.Change,
-       &txtSupportCapSecInter.Change, &txtSupportNumberSecInter.Change, &cmbBoltDiameterSecInter.Change,
-       &cmbBoltGradeSecInter.Change, &cmbCableDiamSecInter.Change, &cmbCableCapacitySecInter.Change,
-       &VSFlexGridInter.Change});
+       &InterBoltControls.DiameterManual.Change, &InterBoltControls.GradeManual.Change, &txtBoltNumberSecInter.Change,
+       &InterStandingControls.Capacity.Change, &txtSupportNumberSecInter.Change, &InterBoltControls.DiameterStd.Change,
+       &InterBoltControls.GradeStd.Change, &InterCableControls.Diam.Change, &InterCableControls.CapacityStd.Change,
+       &InterBoltControls.Table.Change});
 }
 
 void ParametersDialog::ApplyManualRating() {
@@ -140,7 +141,7 @@ void ParametersDialog::TieGeneral() {
   chkSecondSupInter.Click = [this] { SSTab1.SetTabEnabled(3, chkSecondSupInter.Checked()); };
 }
 
-void ParametersDialog::TieBolt(const BoltControls& bolt, const Refreshes& refreshes) {
+void ParametersDialog::TieBolt(BoltControls& bolt, const Refreshes& refreshes) {
   bolt.Options.Click = [&bolt](Integer) { ShowBoltFrames(bolt); };
   bolt.Tabs.Click = [&bolt] { ShowBoltFrames(bolt); };
   bolt.DiameterMode.Click = [this, &bolt, &refreshes](Integer mode) {
@@ -153,7 +154,7 @@ void ParametersDialog::TieBolt(const BoltControls& bolt, const Refreshes& refres
   };
 }
 
-void ParametersDialog::TieCable(const CableControls& cable, const Refreshes& refreshes) {
+void ParametersDialog::TieCable(CableControls& cable, const Refreshes& refreshes) {
   for (OptionArray* options : {&cable.CapMode, &cable.Capacity}) {
     options->Click = [this, &cable, &refreshes](Integer) {
       ApplyCableRule(cable);
@@ -162,7 +163,7 @@ void ParametersDialog::TieCable(const CableControls& cable, const Refreshes& ref
   }
 }
 
-void ParametersDialog::TieStanding(const StandingControls& standing, const Refreshes& refreshes) {
+void ParametersDialog::TieStanding(StandingControls& standing, const Refreshes& refreshes) {
   standing.TypeMode.Click = [this, &standing, &refreshes](Integer mode) {
     ApplyStandingRule(standing, mode);
     Run(refreshes);

@@ -11,7 +11,7 @@ constexpr NumberPattern OneDecimal{"0.0"};
 
 void Show(TextBox& output, std::string_view text) { output.SetText(std::string(text)); }
 
-void Clear(const OutputControls& outputs) {
+void Clear(OutputControls& outputs) {
   for (std::size_t i = 0; i < SystemCount; ++i) {
     Show(outputs.RockLoad[i], NoResult);
     Show(outputs.SupportCap[i], NoResult);
@@ -20,7 +20,7 @@ void Clear(const OutputControls& outputs) {
 }
 
 // Shows the rock load and what each system in use gives; a system without a result keeps what it shows.
-void Show(const OutputControls& outputs, const SupportFigures& figures, const NumberPattern& pattern) {
+void Show(OutputControls& outputs, const SupportFigures& figures, const NumberPattern& pattern) {
   const std::optional<Single> rockLoad = figures.RockLoad.ValueOr({});
   if (!rockLoad) return Clear(outputs);
   const std::string load = FormatNumber(*rockLoad, pattern);

@@ -17,7 +17,7 @@ namespace orby {
 namespace {
 
 struct NumberField {
-  TextBox ParametersControls::*control;
+  LabelledBox ParametersControls::*control;
   SingleField field;
 };
 
@@ -114,7 +114,7 @@ class NumberReader {
   std::vector<Misfit> misfits_;
 };
 
-void LoadBolt(Program& program, const BoltSelection& set, const BoltControls& bolt) {
+void LoadBolt(Program& program, const BoltSelection& set, BoltControls& bolt) {
   SetArrayIndex(program, bolt.Options, set.Options);
   const int row = set.TableRow + 1;
   bolt.Table.SetRow(row >= 1 && row < bolt.Table.Rows() ? row : 1);
@@ -126,7 +126,7 @@ void LoadBolt(Program& program, const BoltSelection& set, const BoltControls& bo
   bolt.GradeManual.SetText(NumberText(set.GradeManual));
 }
 
-void LoadCable(Program& program, const CableSelection& set, const CableControls& cable) {
+void LoadCable(Program& program, const CableSelection& set, CableControls& cable) {
   SetArrayIndex(program, cable.CapMode, set.CapMode);
   SetArrayIndex(program, cable.Capacity, set.Capacity);
   cable.Diam.SetText(NumberText(set.Diam));
@@ -135,7 +135,7 @@ void LoadCable(Program& program, const CableSelection& set, const CableControls&
 }
 
 // The stored capacity comes last: choosing the name would put the catalog's capacity in its place.
-void LoadStanding(Program& program, const StandingSelection& set, const StandingControls& standing) {
+void LoadStanding(Program& program, const StandingSelection& set, StandingControls& standing) {
   SetArrayIndex(program, standing.TypeMode, set.TypeMode);
   if (set.TypeMode == 0) {
     standing.TypeStd.SetText(set.TypeName);

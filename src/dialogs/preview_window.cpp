@@ -4,10 +4,6 @@
 
 namespace orby {
 
-PreviewWindow::PreviewWindow(Program& program) : program_(program) {
-  Command1.Click = [this] { Close(); };
-}
-
 void PreviewWindow::OnOpen() {
   pager_.Restart();
   program_.platform.windows.CenterForm(*this);

@@ -2,34 +2,27 @@
 #pragma once
 
 #include "controls/controls.h"
-#include "core/program.h"
+#include "core/program_form.h"
 #include "dialogs/report_pager.h"
 
 namespace orby {
 
-class PreviewControls : public Form {
+class PreviewWindow : public ProgramForm {
  public:
-  PreviewControls() : Form("frmPreview", "Print Preview") {}
-
   TextBox RichTextBox1{*this, "RichTextBox1", TextKind::Output};
 
   // commands
   Button Command5{*this, "Command5", page_caption::Previous};
   Button Command4{*this, "Command4", page_caption::Next};
   Button Command2{*this, "Command2", page_caption::Copy};
-  Button Command1{*this, "Command1", page_caption::Close};
-};
+  Button Command1{*this, "Command1", page_caption::Close, [this] { Close(); }};
 
-class PreviewWindow : public PreviewControls {
- public:
-  explicit PreviewWindow(Program& program);
+  explicit PreviewWindow(Program& program) : ProgramForm(program, "frmPreview", "Print Preview") {}
 
  protected:
   void OnOpen() override;
-  void OnClose() override {}
 
  private:
-  Program& program_;
   ReportPager pager_{program_, RichTextBox1, Command4, Command5, Command2};
 };
 

@@ -6,13 +6,12 @@
 
 namespace orby {
 
-ResourceFiles::ResourceFiles(Program& program) {
+ResourceFiles::ResourceFiles(Program& program) : ProgramForm(program, "frmResource", "Resource Files") {
   for (std::size_t i = 0; i < Resources.size(); ++i) {
-    cmdView[i].Click = [&program, file = Resources[i].file] {
-      OpenDocument(program, "Resource file", std::string(ResourceFolder).append(file), file);
+    cmdView[i].Click = [this, file = Resources[i].file] {
+      OpenDocument(program_, "Resource file", std::string(ResourceFolder).append(file), file);
     };
   }
-  Command1.Click = [this] { Close(); };
 }
 
 void ResourceFiles::OnOpen() {

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "controls/controls.h"
-#include "core/program.h"
+#include "core/program_form.h"
 
 namespace orby {
 
@@ -27,10 +27,8 @@ inline constexpr std::array<Resource, 8> Resources{{
     {"reading-curves.pdf", "Reading the Curves"},
 }};
 
-class ResourceControls : public Form {
+class ResourceFiles : public ProgramForm {
  public:
-  ResourceControls() : Form("frmResource", "Resource Files") {}
-
   // By resource; the captions are only places until the form shows the titles.
   std::array<Button, Resources.size()> cmdView{
       Button{*this, "cmdView_0", "Resource 1"}, Button{*this, "cmdView_1", "Resource 2"},
@@ -39,16 +37,12 @@ class ResourceControls : public Form {
       Button{*this, "cmdView_6", "Resource 7"}, Button{*this, "cmdView_7", "Resource 8"}};
 
   // commands
-  Button Command1{*this, "Command1", "Close"};
-};
+  Button Command1{*this, "Command1", "Close", [this] { Close(); }};
 
-class ResourceFiles : public ResourceControls {
- public:
   explicit ResourceFiles(Program& program);
 
  protected:
   void OnOpen() override;
-  void OnClose() override {}
 };
 
 }  // namespace orby

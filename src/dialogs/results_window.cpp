@@ -5,7 +5,6 @@
 
 #include "core/act.h"
 #include "core/dialog_helpers.h"
-#include "core/help.h"
 #include "core/messages.h"
 #include "dialogs/curve_command.h"
 #include "dialogs/graph_window.h"
@@ -25,12 +24,13 @@ std::vector<ComboItem> CurveItems() {
 
 }  // namespace
 
-ResultsWindow::ResultsWindow(Program& program) : program_(program) { TieCommands(); }
+ResultsWindow::ResultsWindow(Program& program) : ProgramForm(program, "frmResTxtPlt", "Calculation Results") {
+  TieCommands();
+}
 
 ResultsWindow::~ResultsWindow() = default;
 
 void ResultsWindow::TieCommands() {
-  Command1.Click = [this] { Close(); };
   Command3.Click = [this] {
     AddHistoryLine(program_, "Current page printed");
     Print(pager_.Page(), pager_.Page());
@@ -39,11 +39,8 @@ void ResultsWindow::TieCommands() {
     AddHistoryLine(program_, "All pages printed");
     Print(0, program_.windows.LastPage);
   };
-  Command7.Click = [this] { CopyAll(); };
-  Command8.Click = [this] { OpenHelpTopic(program_, *this); };
   Command9.Click = [this] { ShowMessage(program_, "Option not active yet"); };
   cmdGraph.Click = [this] { lstGraphs.SetVisible(!lstGraphs.Visible()); };
-  cmdChangeInput.Click = [this] { ChangeInput(); };
   lstGraphs.Click = [this] { DrawChosenCurve(); };
 }
 

@@ -4,17 +4,15 @@
 #include <memory>
 
 #include "controls/controls.h"
-#include "core/program.h"
+#include "core/program_form.h"
 #include "dialogs/report_pager.h"
 
 namespace orby {
 
 class GraphWindow;
 
-class ResultsControls : public Form {
+class ResultsWindow : public ProgramForm {
  public:
-  ResultsControls() : Form("frmResTxtPlt", "Calculation Results") {}
-
   TextBox RichTextBox1{*this, "RichTextBox1", TextKind::Output};
   List lstGraphs{*this, "lstGraphs"};
 
@@ -22,18 +20,15 @@ class ResultsControls : public Form {
   Button Command5{*this, "Command5", page_caption::Previous};
   Button Command4{*this, "Command4", page_caption::Next};
   Button Command2{*this, "Command2", page_caption::Copy};
-  Button Command7{*this, "Command7", "Cop&y All"};
+  Button Command7{*this, "Command7", "Cop&y All", [this] { CopyAll(); }};
   Button Command3{*this, "Command3", "&Print Page"};
   Button Command6{*this, "Command6", "Print &All"};
   Button Command9{*this, "Command9", "&View Plots"};
   Button cmdGraph{*this, "cmdGraph", "Generate Graphs"};
-  Button cmdChangeInput{*this, "cmdChangeInput", "Change &Input"};
-  Button Command8{*this, "Command8", "Help"};
-  Button Command1{*this, "Command1", page_caption::Close};
-};
+  Button cmdChangeInput{*this, "cmdChangeInput", "Change &Input", [this] { ChangeInput(); }};
+  Button Command8{*this, "Command8", "Help", [this] { ShowHelp(); }};
+  Button Command1{*this, "Command1", page_caption::Close, [this] { Close(); }};
 
-class ResultsWindow : public ResultsControls {
- public:
   explicit ResultsWindow(Program& program);
   ~ResultsWindow() override;
 
@@ -50,7 +45,6 @@ class ResultsWindow : public ResultsControls {
   void DrawChosenCurve();
   void ChangeInput();
 
-  Program& program_;
   ReportPager pager_{program_, RichTextBox1, Command4, Command5, Command2};
   std::unique_ptr<GraphWindow> graph_;  // made for the first curve
 };

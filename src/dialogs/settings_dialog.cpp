@@ -20,31 +20,31 @@ namespace {
 constexpr std::string_view ViewerExtension = "EXE";
 
 struct FlagField {
-  CheckBox SettingsControls::*box;
+  CheckBox SettingsDialog::*box;
   Integer Settings::*flag;
 };
 
 constexpr std::array FlagFields{
-    FlagField{&SettingsControls::chkCopyExamples, &Settings::CopyExampleFiles},
-    FlagField{&SettingsControls::chkLoadLastInputFile, &Settings::LoadLastInputFile},
-    FlagField{&SettingsControls::chkUpdate, &Settings::RemindAnnualUpdates},
-    FlagField{&SettingsControls::chkMaxMenu, &Settings::MaxMainMenu},
-    FlagField{&SettingsControls::chkShowDiscl, &Settings::ShowDisclaim},
-    FlagField{&SettingsControls::chkEnableTB, &Settings::EnableMainMenuToolbar},
-    FlagField{&SettingsControls::chkKeepRecentFL, &Settings::KeepFileNames},
-    FlagField{&SettingsControls::chkShortNames, &Settings::ShortRecentFiles},
-    FlagField{&SettingsControls::chkDispHist, &Settings::DisplayHistoryWin},
+    FlagField{&SettingsDialog::chkCopyExamples, &Settings::CopyExampleFiles},
+    FlagField{&SettingsDialog::chkLoadLastInputFile, &Settings::LoadLastInputFile},
+    FlagField{&SettingsDialog::chkUpdate, &Settings::RemindAnnualUpdates},
+    FlagField{&SettingsDialog::chkMaxMenu, &Settings::MaxMainMenu},
+    FlagField{&SettingsDialog::chkShowDiscl, &Settings::ShowDisclaim},
+    FlagField{&SettingsDialog::chkEnableTB, &Settings::EnableMainMenuToolbar},
+    FlagField{&SettingsDialog::chkKeepRecentFL, &Settings::KeepFileNames},
+    FlagField{&SettingsDialog::chkShortNames, &Settings::ShortRecentFiles},
+    FlagField{&SettingsDialog::chkDispHist, &Settings::DisplayHistoryWin},
 };
 
 struct TextField {
-  TextBox SettingsControls::*box;
+  TextBox SettingsDialog::*box;
   std::string Settings::*text;
 };
 
 constexpr std::array TextFields{
-    TextField{&SettingsControls::Text1, &Settings::FileExtension},
-    TextField{&SettingsControls::Text2, &Settings::DataPath},
-    TextField{&SettingsControls::Text4, &Settings::ExternalEditor},
+    TextField{&SettingsDialog::Text1, &Settings::FileExtension},
+    TextField{&SettingsDialog::Text2, &Settings::DataPath},
+    TextField{&SettingsDialog::Text4, &Settings::ExternalEditor},
 };
 
 bool IsLetterOrDigit(char c) { return (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9'); }
@@ -65,21 +65,17 @@ void TakeAnswer(TextBox& field, const Ask& ask) {
 }  // namespace
 
 SettingsDialog::SettingsDialog(Program& program, std::function<void()> modified)
-    : program_(program), modified_(std::move(modified)) {
+    : ProgramForm(program, "frmSet", "Settings"), modified_(std::move(modified)) {
   TieButtons();
 }
 
 void SettingsDialog::TieButtons() {
-  cmdSetPath.Click = [this] { ChangePath(); };
-  cmdSelect.Click = [this] { SelectViewer(); };
   cmdSetDefault.Click = [this] { Text4.SetText(std::string(BuiltInViewer)); };
-  Command5.Click = [this] { ChooseHistoryFont(); };
   cmdOK.Click = [this] {
     if (!Check()) return;
     accepted_ = true;
     Close();
   };
-  cmdCancel.Click = [this] { Close(); };
   cmdHelp.Click = [this] { ContextHelpHint(program_); };
 }
 

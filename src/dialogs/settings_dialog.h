@@ -5,14 +5,12 @@
 
 #include "base/font_choice.h"
 #include "controls/controls.h"
-#include "core/program.h"
+#include "core/program_form.h"
 
 namespace orby {
 
-class SettingsControls : public Form {
+class SettingsDialog : public ProgramForm {
  public:
-  SettingsControls() : Form("frmSet", "Settings") {}
-
   Frame fraUnits{*this, "fraUnits", "Units"};
   OptionArray optUnits{*this, "optUnits", {{"feet, psi, pcf"}, {"meters, MPa, kN/m3"}}};
 
@@ -21,13 +19,13 @@ class SettingsControls : public Form {
   TextBox Text1{*this, "Text1"};
   Label lblPath{*this, "lblPath", "Path:"};
   TextBox Text2{*this, "Text2"};
-  Button cmdSetPath{*this, "cmdSetPath", "Set / Change Path"};
+  Button cmdSetPath{*this, "cmdSetPath", "Set / Change Path", [this] { ChangePath(); }};
   CheckBox chkCopyExamples{*this, "chkCopyExamples", "Copy example files", ClickKind::MayAsk};
 
   Frame fraViewer{*this, "fraViewer", "Viewer of text files"};
   Label lblViewer{*this, "lblViewer", "Viewer spec:"};
   TextBox Text4{*this, "Text4"};
-  Button cmdSelect{*this, "cmdSelect", "&Select"};
+  Button cmdSelect{*this, "cmdSelect", "&Select", [this] { SelectViewer(); }};
   Button cmdSetDefault{*this, "cmdSetDefault", "Reset Default"};
 
   Frame fraStart{*this, "fraStart", "Start-up"};
@@ -45,16 +43,13 @@ class SettingsControls : public Form {
   CheckBox chkDispHist{*this, "chkDispHist", "Display command history window"};
   Label lblHistorySize{*this, "lblHistorySize", "Size of command history window (chars)"};
   TextBox Text3{*this, "Text3"};
-  Button Command5{*this, "Command5", "&History Font"};
+  Button Command5{*this, "Command5", "&History Font", [this] { ChooseHistoryFont(); }};
 
   // commands
   Button cmdOK{*this, "cmdOK", "OK"};
-  Button cmdCancel{*this, "cmdCancel", "Cancel"};
+  Button cmdCancel{*this, "cmdCancel", "Cancel", [this] { Close(); }};
   Button cmdHelp{*this, "cmdHelp", "Help"};
-};
 
-class SettingsDialog : public SettingsControls {
- public:
   // modified: what is to follow the settings once they differ, such as the main window.
   SettingsDialog(Program& program, std::function<void()> modified);
 
@@ -79,7 +74,6 @@ class SettingsDialog : public SettingsControls {
   Settings Edited() const;
   void Commit();
 
-  Program& program_;
   std::function<void()> modified_;
   FontChoice historyFont_;
   bool accepted_ = false;

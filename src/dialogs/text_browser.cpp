@@ -71,14 +71,12 @@ void StoreFont(const FontChoice& font, TextBrowseSettings& stored) {
 
 }  // namespace
 
-TextBrowser::TextBrowser(Program& program) : program_(program) {
+TextBrowser::TextBrowser(Program& program) : ProgramForm(program, "frmTextBrow", "View Source Files") {
   Drive1.Change = [this] { ChangeDrive(); };
   Dir1.Click = [this] { ChangeFolder(Dir1.ListIndex()); };
   File1.Click = [this] { ViewFile(File1.ListIndex()); };
   Text2.Change = [this] { ShowFiles(); };
   Check1.Click = [this] { ShowViewer(); };
-  cmdSetFont.Click = [this] { ChooseFont(); };
-  Command1.Click = [this] { Close(); };
 }
 
 void TextBrowser::OnOpen() {

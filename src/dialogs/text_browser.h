@@ -10,14 +10,12 @@
 #include <vector>
 
 #include "controls/controls.h"
-#include "core/program.h"
+#include "core/program_form.h"
 
 namespace orby {
 
-class TextBrowserControls : public Form {
+class TextBrowser : public ProgramForm {
  public:
-  TextBrowserControls() : Form("frmTextBrow", "View Source Files") {}
-
   Label lblDrive{*this, "lblDrive", "Select Drive:"};
   Combo Drive1{*this, "Drive1", ComboKind::ListOnly};
   Label lblFolder{*this, "lblFolder", "Select Folder:"};
@@ -36,12 +34,9 @@ class TextBrowserControls : public Form {
   ProgressBar prgLoading{*this, "prgLoading"};
 
   // commands
-  Button cmdSetFont{*this, "cmdSetFont", "Set &Font"};
-  Button Command1{*this, "Command1", "Close"};
-};
+  Button cmdSetFont{*this, "cmdSetFont", "Set &Font", [this] { ChooseFont(); }};
+  Button Command1{*this, "Command1", "Close", [this] { Close(); }};
 
-class TextBrowser : public TextBrowserControls {
- public:
   explicit TextBrowser(Program& program);
 
   // A longer file is refused.
@@ -82,7 +77,6 @@ class TextBrowser : public TextBrowserControls {
   void ShowViewer();
   void ChooseFont();
 
-  Program& program_;
   std::vector<std::string> drives_;
   std::string folder_;                    // on view
   std::vector<std::string> folderPaths_;  // by item of Dir1

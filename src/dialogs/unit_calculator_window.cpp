@@ -3,14 +3,13 @@
 #include "base/attempt.h"
 #include "base/number_text.h"
 #include "core/dialog_helpers.h"
-#include "core/help.h"
 #include "core/messages.h"
 #include "core/shared_texts.h"
 
 namespace orby {
 
 UnitCalculator::UnitCalculator(Program& program)
-    : program_(program),
+    : ProgramForm(program, "frmUnits", "Unit Conversions"),
       pages_{Page{UnitGroup::Length, txtLength, Option2, LengthResults},
              Page{UnitGroup::Load, txtLoad, Option5, LoadResults},
              Page{UnitGroup::LoadGradient, txtLoadGrad, Option4, LoadGradResults},
@@ -21,8 +20,13 @@ UnitCalculator::UnitCalculator(Program& program)
     page.units.Click = [&page](Integer) { Convert(page); };
   }
   SSTab1.Click = [this] { RequestFocus(pages_[static_cast<std::size_t>(SSTab1.Tab())].input); };
-  Command1.Click = [this] { Close(); };
-  Command3.Click = [this] { OpenHelpTopic(program_, *this); };
+}
+
+UnitCalculator::Results UnitCalculator::InEach(const OptionArray& units,
+                                               std::initializer_list<std::string_view> names) {
+  Results results;
+  for (const auto name : names) results.emplace_back(*this, name, TextKind::Output, units.Caption(results.size()));
+  return results;
 }
 
 void UnitCalculator::OnOpen() {

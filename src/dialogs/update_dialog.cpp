@@ -56,13 +56,9 @@ std::string ProgressText(std::uint64_t received, std::uint64_t total) {
 }  // namespace
 
 UpdateDialog::UpdateDialog(Program& program, std::optional<OfferedVersion> offered)
-    : program_(program), offered_(std::move(offered)) {
+    : ProgramForm(program, "frmUpdate", "Program Updates"), offered_(std::move(offered)) {
   cmdCheck.Click = [this] { AskServer([this] { Compare(); }); };
-  cmdDownUpdate.Click = [this] { Download(); };
-  cmdInstall.Click = [this] { Install(); };
-  cmdWebPage.Click = [this] { OpenWebPage(); };
   chkShow.Click = [this] { program_.session.settings.RemindAnnualUpdates = chkShow.Checked() ? 0 : 1; };
-  Command1.Click = [this] { Close(); };
 }
 
 void UpdateDialog::OnOpen() {

@@ -11,21 +11,19 @@
 #include <string>
 
 #include "controls/controls.h"
-#include "core/program.h"
+#include "core/program_form.h"
 #include "dialogs/update_source.h"
 #include "dialogs/version_fetch.h"
 
 namespace orby {
 
-class UpdateControls : public Form {
+class UpdateDialog : public ProgramForm {
  public:
-  UpdateControls() : Form("frmUpdate", "Program Updates") {}
-
   Label lblInfo{*this, "lblInfo", {}};
   Label lblUpdate{*this, "lblUpdate", {}};
   Label lblManual{*this, "lblManual",
                   "You may manually update the program by downloading and installing the new setup file."};
-  Button cmdWebPage{*this, "cmdWebPage", "Program Web Page"};
+  Button cmdWebPage{*this, "cmdWebPage", "Program Web Page", [this] { OpenWebPage(); }};
   Label lblLastVer{*this, "lblLastVer", {}};
   ProgressBar ProgressBar1{*this, "ProgressBar1"};
   Label lblbytes{*this, "lblbytes", {}};
@@ -34,13 +32,10 @@ class UpdateControls : public Form {
 
   // commands
   Button cmdCheck{*this, "cmdCheck", "Check for Updates"};
-  Button cmdDownUpdate{*this, "cmdDownUpdate", "Download Update"};
-  Button cmdInstall{*this, "cmdInstall", "Install Update"};
-  Button Command1{*this, "Command1", "Close"};
-};
+  Button cmdDownUpdate{*this, "cmdDownUpdate", "Download Update", [this] { Download(); }};
+  Button cmdInstall{*this, "cmdInstall", "Install Update", [this] { Install(); }};
+  Button Command1{*this, "Command1", "Close", [this] { Close(); }};
 
-class UpdateDialog : public UpdateControls {
- public:
   // offered: what the server is known to offer, if it has been asked.
   explicit UpdateDialog(Program& program, std::optional<OfferedVersion> offered = std::nullopt);
 
@@ -74,7 +69,6 @@ class UpdateDialog : public UpdateControls {
   // While something is being fetched nothing else can be begun.
   void SetBusy(bool busy);
 
-  Program& program_;
   std::optional<OfferedVersion> offered_;
   bool checkFailed_ = false;   // the last answer, so that there is nothing to install
   std::string downloadedSum_;  // of the setup file that was downloaded in this run; empty: none

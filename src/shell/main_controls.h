@@ -2,6 +2,7 @@
 #pragma once
 
 #include "controls/controls.h"
+#include "core/program_form.h"
 
 namespace orby {
 
@@ -53,9 +54,9 @@ inline constexpr Integer Description = 4;
 inline constexpr Integer Parameters = 5;
 }  // namespace tool_button
 
-class MainControls : public Form {
+class MainControls : public ProgramForm {
  public:
-  MainControls() : Form("frmMain", {}) {}
+  explicit MainControls(Program& program) : ProgramForm(program, "frmMain", {}) {}
 
   static constexpr std::string_view CloseHistory = "Close History &Window";
   static constexpr std::string_view RestoreHistory = "Restore History &Window";

@@ -16,7 +16,7 @@
 namespace orby {
 
 MainWindow::MainWindow(Program& program, std::optional<Restart> restart)
-    : program_(program),
+    : MainControls(program),
       restart_(std::move(restart)),
       recovery_(program, restart_ ? restart_->Slot : 0),
       updateCheck_(program) {

@@ -101,7 +101,6 @@ class MainWindow : public MainControls {
     ShowForm(program_, dialog);
   }
 
-  Program& program_;
   std::optional<Restart> restart_;
   Recovery recovery_;
   UpdateCheck updateCheck_;

@@ -340,7 +340,7 @@ TEST_F(ParameterChecks, LeaveEveryFieldAsTyped) {
 
   EXPECT_EQ(opened->txtCMRR.Text(), "12x");
   EXPECT_EQ(opened->txtStabilityFactor.Text(), "");
-  EXPECT_EQ(opened->cmbCableDiamSecEntry.Text(), "wide");
+  EXPECT_EQ(opened->EntryCableControls.Diam.Text(), "wide");
   EXPECT_TRUE(opened->IsOpen());
 }
 

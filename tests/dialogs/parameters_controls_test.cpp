@@ -298,7 +298,8 @@ TEST_F(ParameterControls, CallTheGradeUltimateWhenStrengthsAre) {
     StartDesign(units, StrengthBasis::Ultimate);
     ParametersDialog other(program);
     other.Open();
-    for (const Frame* frame : {&other.fraBoltGradePrimary, &other.fraBoltGradeSecEntry, &other.fraBoltGradeSecInter}) {
+    for (const Frame* frame : {&other.PrimaryBoltControls.GradeFrame, &other.EntryBoltControls.GradeFrame,
+                               &other.InterBoltControls.GradeFrame}) {
       EXPECT_EQ(frame->Caption(), captions[static_cast<std::size_t>(units)]) << frame->Name();
     }
   }
@@ -308,8 +309,8 @@ TEST_F(ParameterControls, HideTheEstimatorsNotesAndShowDashesUntilResultsAreKnow
   EXPECT_FALSE(dialog.txtRegion.Visible());
   EXPECT_FALSE(dialog.txtOption.Visible());
   EXPECT_FALSE(dialog.txtMessage.Visible());
-  for (const OutputControls& outputs : {dialog.EntryOutputs, dialog.InterOutputs}) {
-    for (const auto* boxes : {&outputs.RockLoad, &outputs.SupportCap, &outputs.StabFactor}) {
+  for (const OutputControls* outputs : {&dialog.EntryOutputs, &dialog.InterOutputs}) {
+    for (const auto* boxes : {&outputs->RockLoad, &outputs->SupportCap, &outputs->StabFactor}) {
       EXPECT_THAT(TextsOf(*boxes), testing::Each("---"));
     }
   }

@@ -15,7 +15,7 @@ struct RatingEstimate : AParametersDialog {
   }
 
   // Opens the estimator, chooses there and ends it by the button; Cancel and the window's close are the others.
-  void Choose(int region, int row, Button EstimatorControls::*button) {
+  void Choose(int region, int row, Button EstimatorDialog::*button) {
     platform.windows.onModal = [=](Form& form) {
       auto& estimator = dynamic_cast<EstimatorDialog&>(form);
       estimator.optLocation.SetValue(region, true);
@@ -26,9 +26,9 @@ struct RatingEstimate : AParametersDialog {
   }
 };
 
-constexpr auto Ok = &EstimatorControls::Command2;
-constexpr auto Cancel = &EstimatorControls::Command1;
-constexpr Button EstimatorControls::*WindowsClose = nullptr;
+constexpr auto Ok = &EstimatorDialog::Command2;
+constexpr auto Cancel = &EstimatorDialog::Command1;
+constexpr Button EstimatorDialog::*WindowsClose = nullptr;
 
 TEST_F(RatingEstimate, StartsFromTheDesignsRockForTheParametersDialog) {
   program.windows.estimator.EstimatedCMRR = 77;

@@ -79,7 +79,7 @@ TEST_F(ParameterEvents, ASystemOpensAndClosesItsInnerTab) {
 // ---- bolts ----------------------------------------------------------------------------------------------------------
 
 TEST_F(ParameterEvents, ABoltTableShowsOnItsOwnTabAndTheManualSelectionWhenChosen) {
-  for (const BoltControls* bolt : Bolts()) {
+  for (BoltControls* bolt : Bolts()) {
     for (int tab = 0; tab < 4; ++tab) {
       bolt->Tabs.SetTab(tab);
       for (const int source : {1, 0}) {
@@ -94,7 +94,7 @@ TEST_F(ParameterEvents, ABoltTableShowsOnItsOwnTabAndTheManualSelectionWhenChose
 }
 
 TEST_F(ParameterEvents, ABoltTableComesAndGoesWithItsTab) {
-  for (const BoltControls* bolt : Bolts()) {
+  for (BoltControls* bolt : Bolts()) {
     EXPECT_FALSE(bolt->TableFrame.Visible()) << bolt->Options.Name();
     bolt->Tabs.ClickTab(bolt->Tab);
     EXPECT_TRUE(bolt->TableFrame.Visible()) << bolt->Options.Name();
@@ -109,7 +109,7 @@ TEST_F(ParameterEvents, ABoltTableComesAndGoesWithItsTab) {
 }
 
 TEST_F(ParameterEvents, ABoltsDiameterAndGradeAreChosenFromAListOrTyped) {
-  for (const BoltControls* bolt : Bolts()) {
+  for (BoltControls* bolt : Bolts()) {
     for (const int mode : {1, 0}) {
       bolt->DiameterMode.SetValue(mode, true);
       EXPECT_EQ(bolt->DiameterStd.Visible(), mode == 0) << bolt->DiameterMode.Name();
@@ -133,17 +133,17 @@ TEST_F(ParameterEvents, AStoredManualBoltOpensWithItsFieldsShown) {
 
   other.Open();
 
-  EXPECT_TRUE(other.fraBoltOptionsSecInter0.Visible());
-  EXPECT_FALSE(other.fraBoltOptionsSecInter1.Visible());
-  EXPECT_TRUE(other.txtBoltDiameterSecInter.Visible());
-  EXPECT_FALSE(other.cmbBoltDiameterSecInter.Visible());
-  EXPECT_TRUE(other.cmbBoltGradeSecInter.Visible());
-  EXPECT_FALSE(other.txtBoltGradeSecInter.Visible());
+  EXPECT_TRUE(other.InterBoltControls.ManualFrame.Visible());
+  EXPECT_FALSE(other.InterBoltControls.TableFrame.Visible());
+  EXPECT_TRUE(other.InterBoltControls.DiameterManual.Visible());
+  EXPECT_FALSE(other.InterBoltControls.DiameterStd.Visible());
+  EXPECT_TRUE(other.InterBoltControls.GradeStd.Visible());
+  EXPECT_FALSE(other.InterBoltControls.GradeManual.Visible());
 }
 
 // ---- cables ---------------------------------------------------------------------------------------------------------
 
-void ExpectCableByDiameter(const CableControls& cable) {
+void ExpectCableByDiameter(CableControls& cable) {
   EXPECT_TRUE(cable.Diam.Enabled()) << cable.CapMode.Name();
   EXPECT_FALSE(cable.SpecificationFrame.Enabled()) << cable.CapMode.Name();
   EXPECT_FALSE(cable.Capacity.MemberEnabled(0)) << cable.CapMode.Name();
@@ -152,7 +152,7 @@ void ExpectCableByDiameter(const CableControls& cable) {
   EXPECT_FALSE(cable.CapacityManual.Visible()) << cable.CapMode.Name();
 }
 
-void ExpectCableByCapacity(const CableControls& cable, bool typed) {
+void ExpectCableByCapacity(CableControls& cable, bool typed) {
   EXPECT_FALSE(cable.Diam.Enabled()) << cable.CapMode.Name();
   EXPECT_TRUE(cable.SpecificationFrame.Enabled()) << cable.CapMode.Name();
   EXPECT_TRUE(cable.Capacity.MemberEnabled(0)) << cable.CapMode.Name();
@@ -162,7 +162,7 @@ void ExpectCableByCapacity(const CableControls& cable, bool typed) {
 }
 
 TEST_F(ParameterEvents, ACableIsSpecifiedByDiameterOrByCapacity) {
-  for (const CableControls* cable : Cables()) {
+  for (CableControls* cable : Cables()) {
     ExpectCableByDiameter(*cable);
     cable->CapMode.SetValue(1, true);
     ExpectCableByCapacity(*cable, false);
@@ -191,7 +191,7 @@ TEST_F(ParameterEvents, AMetricCableOpensByItsCapacity) {
 // ---- standing supports ----------------------------------------------------------------------------------------------
 
 TEST_F(ParameterEvents, AStandingSupportIsPickedOrTyped) {
-  for (const StandingControls* standing : {&dialog.EntryStandingControls, &dialog.InterStandingControls}) {
+  for (StandingControls* standing : {&dialog.EntryStandingControls, &dialog.InterStandingControls}) {
     for (const int mode : {1, 0}) {
       standing->TypeMode.SetValue(mode, true);
 
@@ -203,7 +203,7 @@ TEST_F(ParameterEvents, AStandingSupportIsPickedOrTyped) {
 }
 
 TEST_F(ParameterEvents, TypingASupportBlanksTheListButKeepsItsSelection) {
-  for (const StandingControls* standing : {&dialog.EntryStandingControls, &dialog.InterStandingControls}) {
+  for (StandingControls* standing : {&dialog.EntryStandingControls, &dialog.InterStandingControls}) {
     standing->TypeStd.SetListIndex(8);
 
     standing->TypeMode.SetValue(1, true);
@@ -214,15 +214,15 @@ TEST_F(ParameterEvents, TypingASupportBlanksTheListButKeepsItsSelection) {
 }
 
 TEST_F(ParameterEvents, PickingAgainBringsTheNameBackInEntriesOnly) {
-  for (const StandingControls* standing : {&dialog.EntryStandingControls, &dialog.InterStandingControls}) {
+  for (StandingControls* standing : {&dialog.EntryStandingControls, &dialog.InterStandingControls}) {
     standing->TypeStd.SetListIndex(8);
     standing->TypeMode.SetValue(1, true);
     standing->TypeMode.SetValue(0, true);
   }
 
-  EXPECT_EQ(dialog.cmbSupportTypeSecEntry.Text(), "Wood Post (8in)");
-  EXPECT_EQ(dialog.cmbSupportTypeSecInter.Text(), "");
-  EXPECT_EQ(dialog.cmbSupportTypeSecInter.ListIndex(), 8);
+  EXPECT_EQ(dialog.EntryStandingControls.TypeStd.Text(), "Wood Post (8in)");
+  EXPECT_EQ(dialog.InterStandingControls.TypeStd.Text(), "");
+  EXPECT_EQ(dialog.InterStandingControls.TypeStd.ListIndex(), 8);
 }
 
 TEST_F(ParameterEvents, PickingAgainBringsNothingBackWhenNothingWasSelected) {
@@ -231,12 +231,12 @@ TEST_F(ParameterEvents, PickingAgainBringsNothingBackWhenNothingWasSelected) {
 
   Do("optSupportTypeSecEntry=0");
 
-  EXPECT_EQ(dialog.cmbSupportTypeSecEntry.Text(), "");
-  EXPECT_FALSE(dialog.cmbSupportTypeSecEntry.HasSelection());
+  EXPECT_EQ(dialog.EntryStandingControls.TypeStd.Text(), "");
+  EXPECT_FALSE(dialog.EntryStandingControls.TypeStd.HasSelection());
 }
 
 TEST_F(ParameterEvents, APickedSupportBringsItsCapacity) {
-  for (const StandingControls* standing : {&dialog.EntryStandingControls, &dialog.InterStandingControls}) {
+  for (StandingControls* standing : {&dialog.EntryStandingControls, &dialog.InterStandingControls}) {
     standing->TypeStd.SetListIndex(6);
     EXPECT_EQ(standing->Capacity.Text(), "132") << standing->TypeStd.Name();
     standing->TypeStd.SetText("Wood Post (6in)");
@@ -247,7 +247,7 @@ TEST_F(ParameterEvents, APickedSupportBringsItsCapacity) {
 }
 
 TEST_F(ParameterEvents, BlankingAPickedSupportBringsItsCapacityOnceMore) {
-  for (const StandingControls* standing : {&dialog.EntryStandingControls, &dialog.InterStandingControls}) {
+  for (StandingControls* standing : {&dialog.EntryStandingControls, &dialog.InterStandingControls}) {
     ASSERT_EQ(standing->Capacity.Text(), "50") << standing->TypeStd.Name();
 
     standing->TypeMode.SetValue(1, true);
@@ -263,15 +263,15 @@ TEST_F(ParameterEvents, AnEmptySupportListLeavesTheNameAndTheCapacityAlone) {
 
   Edit(other, "optSupportTypeSecEntry=1|optSupportTypeSecInter=1");
 
-  EXPECT_THAT(ItemTexts(other.cmbSupportTypeSecInter), testing::IsEmpty());
-  EXPECT_EQ(other.txtSupportCapSecEntry.Text(), "50");
-  EXPECT_EQ(other.txtSupportCapSecInter.Text(), "50");
+  EXPECT_THAT(ItemTexts(other.InterStandingControls.TypeStd), testing::IsEmpty());
+  EXPECT_EQ(other.EntryStandingControls.Capacity.Text(), "50");
+  EXPECT_EQ(other.InterStandingControls.Capacity.Text(), "50");
 }
 
 // ---- holding back ---------------------------------------------------------------------------------------------------
 
 TEST_F(ParameterEvents, HeldBackEventsStillEnableShowAndFill) {
-  const std::vector<std::string> before = TextsOf(dialog.txtStabFactorEntry);
+  const std::vector<std::string> before = TextsOf(dialog.EntryOutputs.StabFactor);
   dialog.HoldEvents = true;
 
   Do("chkCMRRManual=1|chkPrimSupport=0|chkSecEntries_2=0|optBoltOptionsPrimary=1|optBoltDiameterSecEntry=1");
@@ -280,12 +280,12 @@ TEST_F(ParameterEvents, HeldBackEventsStillEnableShowAndFill) {
   EXPECT_TRUE(dialog.txtCMRR.Enabled());
   EXPECT_FALSE(dialog.SSTab1.TabEnabled(1));
   EXPECT_FALSE(dialog.SSTab2.TabEnabled(2));
-  EXPECT_TRUE(dialog.fraBoltOptionsPrimary0.Visible());
-  EXPECT_TRUE(dialog.txtBoltDiameterSecEntry.Visible());
-  EXPECT_FALSE(dialog.cmbCableDiamSecInter.Enabled());
-  EXPECT_TRUE(dialog.txtSupportTypeSecInter.Enabled());
-  EXPECT_EQ(dialog.txtSupportCapSecEntry.Text(), "66");
-  EXPECT_EQ(TextsOf(dialog.txtStabFactorEntry), before);
+  EXPECT_TRUE(dialog.PrimaryBoltControls.ManualFrame.Visible());
+  EXPECT_TRUE(dialog.EntryBoltControls.DiameterManual.Visible());
+  EXPECT_FALSE(dialog.InterCableControls.Diam.Enabled());
+  EXPECT_TRUE(dialog.InterStandingControls.TypeManual.Enabled());
+  EXPECT_EQ(dialog.EntryStandingControls.Capacity.Text(), "66");
+  EXPECT_EQ(TextsOf(dialog.EntryOutputs.StabFactor), before);
 }
 
 TEST_F(ParameterEvents, TheTabsOfUnusedAnalysesDoNotAnswerTheUser) {

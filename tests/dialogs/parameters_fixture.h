@@ -56,7 +56,7 @@ inline std::vector<std::string> ItemTexts(const Combo& combo) {
   return texts;
 }
 
-inline std::vector<std::string> TextsOf(const std::array<TextBox, SystemCount>& boxes) {
+inline std::vector<std::string> TextsOf(const OutputControls::Boxes& boxes) {
   std::vector<std::string> texts;
   for (const TextBox& box : boxes) texts.push_back(box.Text());
   return texts;

@@ -29,7 +29,8 @@ using Rows = std::vector<std::vector<std::string>>;
 TEST_F(ParameterLists, TheThreeBoltTablesAreLaidOutAlike) {
   dialog.Open();
 
-  for (const Grid* grid : {&dialog.VSFlexGridPrimary, &dialog.VSFlexGridEntry, &dialog.VSFlexGridInter}) {
+  for (const Grid* grid :
+       {&dialog.PrimaryBoltControls.Table, &dialog.EntryBoltControls.Table, &dialog.InterBoltControls.Table}) {
     EXPECT_EQ(grid->FixedRows(), 1) << grid->Name();
     EXPECT_EQ(grid->Rows(), 11) << grid->Name();
     EXPECT_THAT(Row(*grid, 0), ElementsAre("No", "Description", "Dia.", "Grade")) << grid->Name();
@@ -48,9 +49,9 @@ TEST_F(ParameterLists, AnEnglishDesignOffersBoltsInInchesAndKsi) {
 
   dialog.Open();
 
-  EXPECT_EQ(BoltRows(dialog.VSFlexGridPrimary), bolts);
-  EXPECT_EQ(BoltRows(dialog.VSFlexGridEntry), bolts);
-  EXPECT_EQ(BoltRows(dialog.VSFlexGridInter), bolts);
+  EXPECT_EQ(BoltRows(dialog.PrimaryBoltControls.Table), bolts);
+  EXPECT_EQ(BoltRows(dialog.EntryBoltControls.Table), bolts);
+  EXPECT_EQ(BoltRows(dialog.InterBoltControls.Table), bolts);
 }
 
 TEST_F(ParameterLists, AMetricDesignOffersThemInMillimetresAndMPa) {
@@ -64,9 +65,9 @@ TEST_F(ParameterLists, AMetricDesignOffersThemInMillimetresAndMPa) {
 
   dialog.Open();
 
-  EXPECT_EQ(BoltRows(dialog.VSFlexGridPrimary), bolts);
-  EXPECT_EQ(BoltRows(dialog.VSFlexGridEntry), bolts);
-  EXPECT_EQ(BoltRows(dialog.VSFlexGridInter), bolts);
+  EXPECT_EQ(BoltRows(dialog.PrimaryBoltControls.Table), bolts);
+  EXPECT_EQ(BoltRows(dialog.EntryBoltControls.Table), bolts);
+  EXPECT_EQ(BoltRows(dialog.InterBoltControls.Table), bolts);
 }
 
 TEST_F(ParameterLists, TheAustralianTableOffersItsTwoBoltsToAMetricDesign) {
@@ -76,11 +77,11 @@ TEST_F(ParameterLists, TheAustralianTableOffersItsTwoBoltsToAMetricDesign) {
 
   dialog.Open();
 
-  EXPECT_EQ(BoltRows(dialog.VSFlexGridPrimary), bolts);
-  EXPECT_EQ(BoltRows(dialog.VSFlexGridEntry), bolts);
-  EXPECT_EQ(BoltRows(dialog.VSFlexGridInter), bolts);
-  EXPECT_THAT(ItemTexts(dialog.cmbBoltDiameterPrimary), ElementsAre("15.88", "19", "22.22", "17.48", "20.42"));
-  EXPECT_THAT(ItemTexts(dialog.cmbBoltGradePrimary), ElementsAre("280", "390", "420", "520", "620", "690"));
+  EXPECT_EQ(BoltRows(dialog.PrimaryBoltControls.Table), bolts);
+  EXPECT_EQ(BoltRows(dialog.EntryBoltControls.Table), bolts);
+  EXPECT_EQ(BoltRows(dialog.InterBoltControls.Table), bolts);
+  EXPECT_THAT(ItemTexts(dialog.PrimaryBoltControls.DiameterStd), ElementsAre("15.88", "19", "22.22", "17.48", "20.42"));
+  EXPECT_THAT(ItemTexts(dialog.PrimaryBoltControls.GradeStd), ElementsAre("280", "390", "420", "520", "620", "690"));
 }
 
 TEST_F(ParameterLists, TheMetricTableIsBackAfterTheAustralianOne) {
@@ -93,8 +94,8 @@ TEST_F(ParameterLists, TheMetricTableIsBackAfterTheAustralianOne) {
 
   other.Open();
 
-  EXPECT_EQ(other.VSFlexGridPrimary.Rows(), 11);
-  EXPECT_EQ(other.VSFlexGridPrimary.Cell(1, 1), "#5 smooth - grade 55");
+  EXPECT_EQ(other.PrimaryBoltControls.Table.Rows(), 11);
+  EXPECT_EQ(other.PrimaryBoltControls.Table.Cell(1, 1), "#5 smooth - grade 55");
 }
 
 TEST_F(ParameterLists, TheAustralianSettingShowsNothingInAnEnglishDesign) {
@@ -102,8 +103,8 @@ TEST_F(ParameterLists, TheAustralianSettingShowsNothingInAnEnglishDesign) {
 
   dialog.Open();
 
-  EXPECT_EQ(dialog.VSFlexGridPrimary.Rows(), 11);
-  EXPECT_EQ(dialog.VSFlexGridPrimary.Cell(1, 2), "0.625");
+  EXPECT_EQ(dialog.PrimaryBoltControls.Table.Rows(), 11);
+  EXPECT_EQ(dialog.PrimaryBoltControls.Table.Cell(1, 2), "0.625");
 }
 
 TEST_F(ParameterFields, TheStoredTableRowIsSelected) {
@@ -113,9 +114,9 @@ TEST_F(ParameterFields, TheStoredTableRowIsSelected) {
 
   dialog.Open();
 
-  EXPECT_EQ(dialog.VSFlexGridPrimary.Row(), 10);
-  EXPECT_EQ(dialog.VSFlexGridEntry.Row(), 7);
-  EXPECT_EQ(dialog.VSFlexGridInter.Row(), 4);
+  EXPECT_EQ(dialog.PrimaryBoltControls.Table.Row(), 10);
+  EXPECT_EQ(dialog.EntryBoltControls.Table.Row(), 7);
+  EXPECT_EQ(dialog.InterBoltControls.Table.Row(), 4);
 }
 
 TEST_F(ParameterFields, AStoredRowOutsideTheTableOpensOnTheFirst) {
@@ -127,9 +128,9 @@ TEST_F(ParameterFields, AStoredRowOutsideTheTableOpensOnTheFirst) {
 
     other.Open();
 
-    EXPECT_EQ(other.VSFlexGridPrimary.Row(), 1) << row;
-    EXPECT_EQ(other.VSFlexGridEntry.Row(), 1) << row;
-    EXPECT_EQ(other.VSFlexGridInter.Row(), 1) << row;
+    EXPECT_EQ(other.PrimaryBoltControls.Table.Row(), 1) << row;
+    EXPECT_EQ(other.EntryBoltControls.Table.Row(), 1) << row;
+    EXPECT_EQ(other.InterBoltControls.Table.Row(), 1) << row;
   }
 }
 
@@ -144,9 +145,9 @@ TEST_F(ParameterFields, AStoredRowOfTheLongTableOpensOnTheFirstOfTheAustralianOn
 
     other.Open();
 
-    EXPECT_EQ(other.VSFlexGridPrimary.Row(), row) << stored;
-    EXPECT_EQ(other.VSFlexGridEntry.Row(), row) << stored;
-    EXPECT_EQ(other.VSFlexGridInter.Row(), row) << stored;
+    EXPECT_EQ(other.PrimaryBoltControls.Table.Row(), row) << stored;
+    EXPECT_EQ(other.EntryBoltControls.Table.Row(), row) << stored;
+    EXPECT_EQ(other.InterBoltControls.Table.Row(), row) << stored;
   }
 }
 
@@ -202,10 +203,10 @@ TEST_F(ParameterLists, OfferTheStandardValuesOfUnitsAndStrength) {
       EXPECT_EQ(ItemTexts(bolt->DiameterStd), expected.diameters) << bolt->DiameterStd.Name();
       EXPECT_EQ(ItemTexts(bolt->GradeStd), expected.grades) << bolt->GradeStd.Name();
     }
-    for (const Combo* combo : {&other.cmbCableDiamSecEntry, &other.cmbCableDiamSecInter}) {
+    for (const Combo* combo : {&other.EntryCableControls.Diam, &other.InterCableControls.Diam}) {
       EXPECT_EQ(ItemTexts(*combo), expected.cableDiameters) << combo->Name();
     }
-    for (const Combo* combo : {&other.cmbCableCapacitySecEntry, &other.cmbCableCapacitySecInter}) {
+    for (const Combo* combo : {&other.EntryCableControls.CapacityStd, &other.InterCableControls.CapacityStd}) {
       EXPECT_EQ(ItemTexts(*combo), expected.cableCapacities) << combo->Name();
     }
   }
@@ -217,9 +218,9 @@ TEST_F(ParameterLists, OfferOnlyTheEntriesInUse) {
 
   dialog.Open();
 
-  EXPECT_THAT(ItemTexts(dialog.cmbBoltGradeSecInter), ElementsAre("40", "55"));
-  EXPECT_THAT(ItemTexts(dialog.cmbCableDiamSecEntry), testing::IsEmpty());
-  EXPECT_EQ(dialog.cmbCableDiamSecEntry.Text(), "0.6");
+  EXPECT_THAT(ItemTexts(dialog.InterBoltControls.GradeStd), ElementsAre("40", "55"));
+  EXPECT_THAT(ItemTexts(dialog.EntryCableControls.Diam), testing::IsEmpty());
+  EXPECT_EQ(dialog.EntryCableControls.Diam.Text(), "0.6");
 }
 
 TEST_F(ParameterFields, ANewDesignSelectsWhatTheListsHave) {
@@ -240,10 +241,10 @@ TEST_F(ParameterFields, ANewDesignSelectsWhatTheListsHave) {
 TEST_F(ParameterFields, AStoredValueThatIsNotInItsListIsShownWithNothingSelected) {
   dialog.Open();
 
-  EXPECT_EQ(dialog.cmbCableCapacitySecEntry.Text(), "27");
-  EXPECT_FALSE(dialog.cmbCableCapacitySecEntry.HasSelection());
-  EXPECT_EQ(dialog.cmbCableCapacitySecInter.Text(), "27");
-  EXPECT_FALSE(dialog.cmbCableCapacitySecInter.HasSelection());
+  EXPECT_EQ(dialog.EntryCableControls.CapacityStd.Text(), "27");
+  EXPECT_FALSE(dialog.EntryCableControls.CapacityStd.HasSelection());
+  EXPECT_EQ(dialog.InterCableControls.CapacityStd.Text(), "27");
+  EXPECT_FALSE(dialog.InterCableControls.CapacityStd.HasSelection());
   EXPECT_THAT(platform.boxes.shown, testing::IsEmpty());
 }
 
@@ -258,8 +259,8 @@ TEST_F(ParameterFields, AMetricDesignStartsFromABoltThatIsNotInTheList) {
     EXPECT_EQ(bolt->GradeStd.Text(), "520");
     EXPECT_EQ(bolt->GradeStd.ListIndex(), 3);
   }
-  EXPECT_EQ(dialog.cmbCableDiamSecEntry.ListIndex(), 1);
-  EXPECT_EQ(dialog.cmbCableCapacitySecInter.ListIndex(), 1);
+  EXPECT_EQ(dialog.EntryCableControls.Diam.ListIndex(), 1);
+  EXPECT_EQ(dialog.InterCableControls.CapacityStd.ListIndex(), 1);
 }
 
 // ---- standing supports ----------------------------------------------------------------------------------------------
@@ -273,7 +274,7 @@ std::vector<double> ItemCapacities(const Combo& combo) {
 TEST_F(ParameterLists, StandingSupportsCarryTheirCapacityInTons) {
   dialog.Open();
 
-  for (const Combo* combo : {&dialog.cmbSupportTypeSecEntry, &dialog.cmbSupportTypeSecInter}) {
+  for (const Combo* combo : {&dialog.EntryStandingControls.TypeStd, &dialog.InterStandingControls.TypeStd}) {
     EXPECT_THAT(
         ItemTexts(*combo),
         ElementsAre("4-point Hardwood Crib (8in x 8in timbers, 5' height)",
@@ -293,7 +294,7 @@ TEST_F(ParameterLists, StandingSupportsCarryTheirCapacityInKilonewtons) {
 
   dialog.Open();
 
-  for (const Combo* combo : {&dialog.cmbSupportTypeSecEntry, &dialog.cmbSupportTypeSecInter}) {
+  for (const Combo* combo : {&dialog.EntryStandingControls.TypeStd, &dialog.InterStandingControls.TypeStd}) {
     EXPECT_THAT(ItemCapacities(*combo),
                 ElementsAre(800, 658, 453, 373, 836, 818, 1174, 195, 587, 489, 889, 640, 1201, 1797, 845, 4670));
   }
@@ -307,18 +308,18 @@ TEST_F(ParameterLists, AStandingSupportsCapacityIsRoundedToAWholeNumber) {
 
   dialog.Open();
 
-  EXPECT_EQ(dialog.cmbSupportTypeSecEntry.Items()[0].data, 72);
-  EXPECT_EQ(dialog.cmbSupportTypeSecEntry.Items()[1].data, 74);
-  EXPECT_EQ(dialog.cmbSupportTypeSecEntry.Items()[2].data, 40000);
+  EXPECT_EQ(dialog.EntryStandingControls.TypeStd.Items()[0].data, 72);
+  EXPECT_EQ(dialog.EntryStandingControls.TypeStd.Items()[1].data, 74);
+  EXPECT_EQ(dialog.EntryStandingControls.TypeStd.Items()[2].data, 40000);
 }
 
 TEST_F(ParameterLists, AStandingSupportOfAnyCapacityCanBeChosen) {
   program.session.catalogs.StandSupports.DefaultStandSupportCap[1][PlaceOf(English)] = 3e9F;
   dialog.Open();
 
-  dialog.cmbSupportTypeSecEntry.SetListIndex(1);
+  dialog.EntryStandingControls.TypeStd.SetListIndex(1);
 
-  EXPECT_EQ(dialog.txtSupportCapSecEntry.Text(), "3000000000");
+  EXPECT_EQ(dialog.EntryStandingControls.Capacity.Text(), "3000000000");
 }
 
 TEST_F(ParameterLists, OfTwoStandingSupportsWithOneNameEachHasItsOwnCapacity) {
@@ -328,14 +329,14 @@ TEST_F(ParameterLists, OfTwoStandingSupportsWithOneNameEachHasItsOwnCapacity) {
   program.session.catalogs.StandSupports.DefaultStandSupportCap[4] = {85, 756};
   dialog.Open();
 
-  dialog.cmbSupportTypeSecEntry.SetListIndex(4);
-  EXPECT_EQ(dialog.txtSupportCapSecEntry.Text(), "85");
-  dialog.cmbSupportTypeSecEntry.SetText("Steel Prop");  // a key pressed and taken back
-  EXPECT_EQ(dialog.txtSupportCapSecEntry.Text(), "85");
+  dialog.EntryStandingControls.TypeStd.SetListIndex(4);
+  EXPECT_EQ(dialog.EntryStandingControls.Capacity.Text(), "85");
+  dialog.EntryStandingControls.TypeStd.SetText("Steel Prop");  // a key pressed and taken back
+  EXPECT_EQ(dialog.EntryStandingControls.Capacity.Text(), "85");
   Do("optSupportTypeSecEntry=1|optSupportTypeSecEntry=0");
-  EXPECT_EQ(dialog.txtSupportCapSecEntry.Text(), "85");
-  dialog.cmbSupportTypeSecEntry.SetListIndex(3);
-  EXPECT_EQ(dialog.txtSupportCapSecEntry.Text(), "60");
+  EXPECT_EQ(dialog.EntryStandingControls.Capacity.Text(), "85");
+  dialog.EntryStandingControls.TypeStd.SetListIndex(3);
+  EXPECT_EQ(dialog.EntryStandingControls.Capacity.Text(), "60");
 }
 
 TEST_F(ParameterFields, ANewDesignKeepsItsOwnSupportCapacityUntilATypeIsPicked) {
@@ -348,10 +349,10 @@ TEST_F(ParameterFields, ANewDesignKeepsItsOwnSupportCapacityUntilATypeIsPicked) 
     EXPECT_EQ(standing->Capacity.Text(), "50");
   }
 
-  dialog.cmbSupportTypeSecEntry.SetListIndex(12);
+  dialog.EntryStandingControls.TypeStd.SetListIndex(12);
 
-  EXPECT_EQ(dialog.txtSupportCapSecEntry.Text(), "135");
-  EXPECT_EQ(dialog.txtSupportCapSecInter.Text(), "50");
+  EXPECT_EQ(dialog.EntryStandingControls.Capacity.Text(), "135");
+  EXPECT_EQ(dialog.InterStandingControls.Capacity.Text(), "50");
 }
 
 TEST_F(ParameterFields, AMetricDesignStartsWithStandingSupportsOf500) {
@@ -359,8 +360,8 @@ TEST_F(ParameterFields, AMetricDesignStartsWithStandingSupportsOf500) {
 
   dialog.Open();
 
-  EXPECT_EQ(dialog.txtSupportCapSecEntry.Text(), "500");
-  EXPECT_EQ(dialog.txtSupportCapSecInter.Text(), "500");
+  EXPECT_EQ(dialog.EntryStandingControls.Capacity.Text(), "500");
+  EXPECT_EQ(dialog.InterStandingControls.Capacity.Text(), "500");
 }
 
 TEST_F(ParameterFields, AStoredSupportThatTheCatalogLacksKeepsItsNameAndCapacity) {
@@ -369,9 +370,9 @@ TEST_F(ParameterFields, AStoredSupportThatTheCatalogLacksKeepsItsNameAndCapacity
 
   dialog.Open();
 
-  EXPECT_EQ(dialog.cmbSupportTypeSecEntry.Text(), "Stone pack");
-  EXPECT_FALSE(dialog.cmbSupportTypeSecEntry.HasSelection());
-  EXPECT_EQ(dialog.txtSupportCapSecEntry.Text(), "61.5");
+  EXPECT_EQ(dialog.EntryStandingControls.TypeStd.Text(), "Stone pack");
+  EXPECT_FALSE(dialog.EntryStandingControls.TypeStd.HasSelection());
+  EXPECT_EQ(dialog.EntryStandingControls.Capacity.Text(), "61.5");
 }
 
 TEST_F(ParameterFields, AManualSupportOpensInTheTextFields) {
@@ -382,12 +383,12 @@ TEST_F(ParameterFields, AManualSupportOpensInTheTextFields) {
 
   dialog.Open();
 
-  EXPECT_EQ(dialog.txtSupportTypeSecEntry.Text(), "Wood Post (6in)");
-  EXPECT_EQ(dialog.cmbSupportTypeSecEntry.Text(), "");
-  EXPECT_FALSE(dialog.cmbSupportTypeSecEntry.HasSelection());
-  EXPECT_EQ(dialog.txtSupportCapSecEntry.Text(), "50");
-  EXPECT_EQ(dialog.txtSupportTypeSecInter.Text(), "Stone pack");
-  EXPECT_EQ(dialog.txtSupportCapSecInter.Text(), "33");
+  EXPECT_EQ(dialog.EntryStandingControls.TypeManual.Text(), "Wood Post (6in)");
+  EXPECT_EQ(dialog.EntryStandingControls.TypeStd.Text(), "");
+  EXPECT_FALSE(dialog.EntryStandingControls.TypeStd.HasSelection());
+  EXPECT_EQ(dialog.EntryStandingControls.Capacity.Text(), "50");
+  EXPECT_EQ(dialog.InterStandingControls.TypeManual.Text(), "Stone pack");
+  EXPECT_EQ(dialog.InterStandingControls.Capacity.Text(), "33");
 }
 
 }  // namespace

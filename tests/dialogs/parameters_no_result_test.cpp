@@ -56,7 +56,7 @@ TEST_F(NoResultShown, OfAnEntryIsThatOfTheFailingSystemAlone) {
     Edit(other, failing.edit);
 
     EXPECT_EQ(Systems(other.EntryOutputs), failing.shown) << failing.edit;
-    EXPECT_THAT(TextsOf(other.txtRockLoadEntry), Each("10.0")) << failing.edit;
+    EXPECT_THAT(TextsOf(other.EntryOutputs.RockLoad), Each("10.0")) << failing.edit;
   }
 }
 
@@ -77,7 +77,7 @@ TEST_F(NoResultShown, OfAnIntersectionIsThatOfTheFailingSystemAlone) {
     Edit(other, failing.edit);
 
     EXPECT_EQ(Systems(other.InterOutputs), failing.shown) << failing.edit;
-    EXPECT_THAT(TextsOf(other.txtRockLoadInter), Each("183")) << failing.edit;
+    EXPECT_THAT(TextsOf(other.InterOutputs.RockLoad), Each("183")) << failing.edit;
   }
 }
 
@@ -91,7 +91,7 @@ TEST_F(NoResultShown, OfAnEntryIsEverythingWithoutARockLoad) {
     Edit(other, bad);
 
     EXPECT_THAT(Systems(other.EntryOutputs), Each("--")) << bad;
-    EXPECT_THAT(TextsOf(other.txtRockLoadEntry), Each("--")) << bad;
+    EXPECT_THAT(TextsOf(other.EntryOutputs.RockLoad), Each("--")) << bad;
   }
 }
 
@@ -107,7 +107,7 @@ TEST_F(NoResultShown, OfAnIntersectionIsEverythingWithoutARockLoad) {
     Edit(other, bad);
 
     EXPECT_THAT(Systems(other.InterOutputs), Each("--")) << bad;
-    EXPECT_THAT(TextsOf(other.txtRockLoadInter), Each("--")) << bad;
+    EXPECT_THAT(TextsOf(other.InterOutputs.RockLoad), Each("--")) << bad;
   }
 }
 
@@ -264,7 +264,7 @@ TEST_F(NumbersBeyondAll, AreRefusedWithTheNameOfTheirField) {
 
 TEST_F(NumbersBeyondAll, OfATableRowAreRefusedWithTheNameOfTheTable) {
   dialog.Open();
-  dialog.VSFlexGridPrimary.SetCell(2, BoltColumn::Grade, "1E39");
+  dialog.PrimaryBoltControls.Table.SetCell(2, BoltColumn::Grade, "1E39");
   Do("VSFlexGridPrimary=2");
 
   dialog.Command2.Press();
@@ -272,7 +272,7 @@ TEST_F(NumbersBeyondAll, OfATableRowAreRefusedWithTheNameOfTheTable) {
   EXPECT_EQ(dialog.txtActualPSUP.Text(), "--");
   EXPECT_THAT(platform.boxes.Texts(),
               ElementsAre("Roof Bolt Standard Table Selection: A value in the selected row is too large"));
-  EXPECT_EQ(dialog.FocusRequest(), &dialog.VSFlexGridPrimary);
+  EXPECT_EQ(dialog.FocusRequest(), &dialog.PrimaryBoltControls.Table);
   EXPECT_TRUE(dialog.IsOpen());
 }
 

@@ -97,7 +97,7 @@ TEST_F(OpeningParameters, ForcesAMetricDesignToSpecifyCablesByCapacity) {
 
   EXPECT_EQ(program.project.WorkParms.Entries.Cable.CapMode, 1);
   EXPECT_EQ(program.project.WorkParms.Intersections.Cable.CapMode, 1);
-  for (const OptionArray* options : {&dialog.optCableCapModeSecEntry, &dialog.optCableCapModeSecInter}) {
+  for (const OptionArray* options : {&dialog.EntryCableControls.CapMode, &dialog.InterCableControls.CapMode}) {
     EXPECT_FALSE(options->MemberEnabled(0)) << options->Name();
     EXPECT_TRUE(options->MemberEnabled(1)) << options->Name();
     EXPECT_TRUE(options->Value(1)) << options->Name();
@@ -107,7 +107,7 @@ TEST_F(OpeningParameters, ForcesAMetricDesignToSpecifyCablesByCapacity) {
 TEST_F(OpeningParameters, LeavesAnEnglishDesignTheChoiceOfCableDiameters) {
   dialog.Open();
 
-  for (const OptionArray* options : {&dialog.optCableCapModeSecEntry, &dialog.optCableCapModeSecInter}) {
+  for (const OptionArray* options : {&dialog.EntryCableControls.CapMode, &dialog.InterCableControls.CapMode}) {
     EXPECT_TRUE(options->MemberEnabled(0)) << options->Name();
     EXPECT_TRUE(options->Value(0)) << options->Name();
   }
@@ -130,8 +130,8 @@ TEST_F(OpeningParameters, ShowsTheFourLiveResultsOnce) {
 
   EXPECT_EQ(dialog.txtSugPSUP.Text(), "7.6");
   EXPECT_EQ(dialog.txtActualPSUP.Text(), "5.1");
-  EXPECT_EQ(dialog.txtRockLoadEntry[0].Text(), "10.0");
-  EXPECT_EQ(dialog.txtRockLoadInter[0].Text(), "183");
+  EXPECT_EQ(dialog.EntryOutputs.RockLoad[0].Text(), "10.0");
+  EXPECT_EQ(dialog.InterOutputs.RockLoad[0].Text(), "183");
 }
 
 TEST_F(OpeningParameters, RunsNoRefreshWhileTheFieldsAreFilled) {

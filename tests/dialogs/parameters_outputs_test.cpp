@@ -47,8 +47,8 @@ TEST_F(SavedOutputs, AreTheNumbersAsShown) {
 TEST_F(SavedOutputs, ComeFromTheFirstRockLoadAndEachFromItsOwnBox) {
   dialog.Open();
   int number = 1;
-  for (const OutputControls& outputs : {dialog.EntryOutputs, dialog.InterOutputs}) {
-    for (auto* boxes : {&outputs.RockLoad, &outputs.SupportCap, &outputs.StabFactor}) {
+  for (OutputControls* outputs : {&dialog.EntryOutputs, &dialog.InterOutputs}) {
+    for (auto* boxes : {&outputs->RockLoad, &outputs->SupportCap, &outputs->StabFactor}) {
       for (TextBox& box : *boxes) box.SetText(NumberText(number++));
     }
   }
@@ -81,8 +81,8 @@ TEST_F(SavedOutputs, AreZeroWhereDashesAreShown) {
   record.Intersections.RockLoad = record.Intersections.Truss.StabFactor = record.Intersections.Bolt.SupportCap = 7;
   dialog.Open();
   Do("txtEntryWidth=0|txtActualSpanDiagonals=0");
-  ASSERT_EQ(dialog.txtRockLoadEntry[0].Text(), "--");
-  ASSERT_EQ(dialog.txtRockLoadInter[0].Text(), "--");
+  ASSERT_EQ(dialog.EntryOutputs.RockLoad[0].Text(), "--");
+  ASSERT_EQ(dialog.InterOutputs.RockLoad[0].Text(), "--");
 
   dialog.SaveWorkParms();
 

@@ -1,3 +1,4 @@
+#include <initializer_list>
 #include <map>
 #include <utility>
 
@@ -15,7 +16,8 @@ struct ParameterRefreshes : AParametersDialog {
 
   void Mark() {
     for (TextBox* output :
-         {&dialog.txtSugPSUP, &dialog.txtActualPSUP, &dialog.txtRockLoadEntry[0], &dialog.txtRockLoadInter[0]}) {
+         std::initializer_list<TextBox*>{&dialog.txtSugPSUP, &dialog.txtActualPSUP, &dialog.EntryOutputs.RockLoad[0],
+                                         &dialog.InterOutputs.RockLoad[0]}) {
       output->SetText("as before");
     }
   }
@@ -24,8 +26,8 @@ struct ParameterRefreshes : AParametersDialog {
     std::string refreshed;
     if (dialog.txtSugPSUP.Text() != "as before") refreshed += 'S';
     if (dialog.txtActualPSUP.Text() != "as before") refreshed += 'A';
-    if (dialog.txtRockLoadEntry[0].Text() != "as before") refreshed += 'E';
-    if (dialog.txtRockLoadInter[0].Text() != "as before") refreshed += 'I';
+    if (dialog.EntryOutputs.RockLoad[0].Text() != "as before") refreshed += 'E';
+    if (dialog.InterOutputs.RockLoad[0].Text() != "as before") refreshed += 'I';
     return refreshed;
   }
 
@@ -143,8 +145,8 @@ TEST_F(ParameterRefreshes, FollowEachList) {
 
 TEST_F(ParameterRefreshes, FollowTheBoltTables) {
   for (const auto& [grid, expected] :
-       {std::pair{&dialog.VSFlexGridPrimary, "A"}, std::pair{&dialog.VSFlexGridEntry, "E"},
-        std::pair{&dialog.VSFlexGridInter, "I"}}) {
+       {std::pair{&dialog.PrimaryBoltControls.Table, "A"}, std::pair{&dialog.EntryBoltControls.Table, "E"},
+        std::pair{&dialog.InterBoltControls.Table, "I"}}) {
     EXPECT_EQ(RefreshedBy([table = grid] { table->SetRow(4); }), expected) << grid->Name();
     EXPECT_EQ(RefreshedBy([table = grid] { table->SetRow(4); }), "") << grid->Name();
     EXPECT_EQ(RefreshedBy([table = grid] { table->EditCell(4, 2, "0.7"); }), expected) << grid->Name();
@@ -223,8 +225,8 @@ class RefreshOrder : public FormView {
     };
     begins(dialog_.txtSugPSUP, 'S');
     begins(dialog_.txtActualPSUP, 'A');
-    begins(dialog_.txtRockLoadEntry[0], 'E');
-    begins(dialog_.txtRockLoadInter[0], 'I');
+    begins(dialog_.EntryOutputs.RockLoad[0], 'E');
+    begins(dialog_.InterOutputs.RockLoad[0], 'I');
   }
   void CaptionChanged() override {}
   void FocusRequested(Control&) override {}

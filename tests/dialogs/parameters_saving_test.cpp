@@ -196,7 +196,7 @@ TEST_F(SavingParameters, MakesTheIntersectionsManualBoltsAndCableThoseOfTheEntri
 TEST_F(SavingParameters, ForgetsACableDiameterChosenForIntersectionsAlone) {
   dialog.Open();
   Do("cmbCableDiamSecInter=0.7");
-  ASSERT_EQ(dialog.txtSupportCapInter[0].Text(), "357");
+  ASSERT_EQ(dialog.InterOutputs.SupportCap[0].Text(), "357");
 
   dialog.Command2.Press();
 

@@ -92,21 +92,21 @@ TEST_F(SettingsTest, ShowWhatHolds) {
 }
 
 struct Flag {
-  CheckBox SettingsControls::*box;
+  CheckBox SettingsDialog::*box;
   Integer Settings::*value;
   std::string_view key;
 };
 
 constexpr Flag Flags[] = {
-    {&SettingsControls::chkCopyExamples, &Settings::CopyExampleFiles, "CopyExampleFiles"},
-    {&SettingsControls::chkLoadLastInputFile, &Settings::LoadLastInputFile, "LoadLastInputFile"},
-    {&SettingsControls::chkUpdate, &Settings::RemindAnnualUpdates, "RemindAnnualUpdates"},
-    {&SettingsControls::chkShortNames, &Settings::ShortRecentFiles, "ShortRecentFiles"},
-    {&SettingsControls::chkEnableTB, &Settings::EnableMainMenuToolbar, "EnableMainMenuToolbar"},
-    {&SettingsControls::chkMaxMenu, &Settings::MaxMainMenu, "MaxMainMenu"},
-    {&SettingsControls::chkDispHist, &Settings::DisplayHistoryWin, "DisplayHistoryWin"},
-    {&SettingsControls::chkKeepRecentFL, &Settings::KeepFileNames, "KeepFileNames"},
-    {&SettingsControls::chkShowDiscl, &Settings::ShowDisclaim, "ShowDisclaim"},
+    {&SettingsDialog::chkCopyExamples, &Settings::CopyExampleFiles, "CopyExampleFiles"},
+    {&SettingsDialog::chkLoadLastInputFile, &Settings::LoadLastInputFile, "LoadLastInputFile"},
+    {&SettingsDialog::chkUpdate, &Settings::RemindAnnualUpdates, "RemindAnnualUpdates"},
+    {&SettingsDialog::chkShortNames, &Settings::ShortRecentFiles, "ShortRecentFiles"},
+    {&SettingsDialog::chkEnableTB, &Settings::EnableMainMenuToolbar, "EnableMainMenuToolbar"},
+    {&SettingsDialog::chkMaxMenu, &Settings::MaxMainMenu, "MaxMainMenu"},
+    {&SettingsDialog::chkDispHist, &Settings::DisplayHistoryWin, "DisplayHistoryWin"},
+    {&SettingsDialog::chkKeepRecentFL, &Settings::KeepFileNames, "KeepFileNames"},
+    {&SettingsDialog::chkShowDiscl, &Settings::ShowDisclaim, "ShowDisclaim"},
 };
 
 TEST_F(SettingsTest, ShowEachFlagInItsBoxAndTakeItFromThere) {

@@ -137,7 +137,7 @@ RC_GTEST_FIXTURE_PROP(AParametersDialog, ShowsTheFiguresOfTheNumbersInItsFields,
     numberOf(design) = static_cast<Single>(TextValue(text));
   }
 
-  const Figures figures = Analyze(design, program.catalogs);
+  const Figures figures = Analyze(design, program.session.catalogs);
   const auto suggestion = figures.LiveSuggestion.ValueOr({});
   ExpectShown(dialog.txtSugPSUP, suggestion ? std::optional(suggestion->SugPSUP) : std::nullopt, OneDecimal);
   ExpectShown(dialog.txtActualPSUP, figures.LivePSUP, OneDecimal);

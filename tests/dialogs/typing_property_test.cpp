@@ -44,9 +44,9 @@ RC_GTEST_PROP(TypingProperty, ShowsAFigureOrADashInTheParametersWhateverIsTyped,
   ParametersDialog dialog(run.program);
   dialog.Open();
   Edit(dialog, AllSystems);
-  for (OptionArray* options :
-       {&dialog.optBoltOptionsPrimary, &dialog.optBoltDiameterPrimary, &dialog.optBoltOptionsSecEntry,
-        &dialog.optCableCapModeSecInter, &dialog.optCableCapacitySecInter, &dialog.optBoltOptionsSecInter}) {
+  for (OptionArray* options : {&dialog.PrimaryBoltControls.Options, &dialog.PrimaryBoltControls.DiameterMode,
+                               &dialog.EntryBoltControls.Options, &dialog.InterCableControls.CapMode,
+                               &dialog.InterCableControls.Capacity, &dialog.InterBoltControls.Options}) {
     options->SetValue(*rc::gen::inRange(0, 2), true);
   }
 

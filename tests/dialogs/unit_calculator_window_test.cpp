@@ -13,8 +13,7 @@ using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-template <std::size_t Count>
-std::vector<std::string> TextsOf(const std::array<TextBox, Count>& boxes) {
+std::vector<std::string> TextsOf(const UnitCalculator::Results& boxes) {
   std::vector<std::string> texts;
   for (const TextBox& box : boxes) texts.push_back(box.Text());
   return texts;

@@ -59,7 +59,7 @@ TEST_F(Fields, SelectTheWholeOfARefusedNumberThatHasTheKeyboardAlready) {
 TEST_F(Fields, SelectTheWholeOfARefusedListThatHasTheKeyboardAlready) {
   Work([this](QDialog& window) {
     dialog.SSTab1.SetTab(PrimaryTab);
-    dialog.optBoltOptionsPrimary.SetValue(1, true);
+    dialog.PrimaryBoltControls.Options.SetValue(1, true);
     TypeInto(window, "cmbBoltDiameterPrimary", "0.80");
 
     Press(Qt::Key_Enter);
@@ -107,9 +107,9 @@ void Shrink(QDialog& window) {
 
 TEST_F(Fields, ScrollIntoViewWhenACheckRefusesThemInASmallWindow) {
   Work([this](QDialog& window) {
-    dialog.optBoltOptionsPrimary.SetValue(1, true);
-    dialog.optBoltGradePrimary.SetValue(1, true);
-    dialog.txtBoltGradePrimary.SetText("0");
+    dialog.PrimaryBoltControls.Options.SetValue(1, true);
+    dialog.PrimaryBoltControls.GradeMode.SetValue(1, true);
+    dialog.PrimaryBoltControls.GradeManual.SetText("0");
     Shrink(window);
     Find(window, "txtDepthofCover").setFocus(Qt::TabFocusReason);
 
@@ -287,7 +287,7 @@ TEST_F(Fields, KeepTheMarkOfABoltThatIsClickedWithTheControlKey) {
 
     EXPECT_EQ(table.selectedItems().size(), 4);
     EXPECT_EQ(table.currentRow(), 3);
-    EXPECT_EQ(dialog.VSFlexGridPrimary.Row(), 4);
+    EXPECT_EQ(dialog.PrimaryBoltControls.Table.Row(), 4);
   });
 }
 
@@ -306,7 +306,7 @@ TEST_F(Fields, KeepTheMarkOfABoltWhenTheSpaceBelowTheTableIsClicked) {
     Settle();
 
     EXPECT_EQ(table.selectedItems().size(), 4);
-    EXPECT_EQ(dialog.VSFlexGridEntry.Row(), 2);
+    EXPECT_EQ(dialog.EntryBoltControls.Table.Row(), 2);
   });
 }
 

@@ -349,7 +349,7 @@ TEST_F(ParametersView, KeepsThePlaceOfAListThatIsTallerThanTheFieldThatReplacesI
     const auto before = Places(window);
     EXPECT_TRUE(before.contains("cmbCableCapacitySecEntry"));
 
-    dialog.optCableCapacitySecEntry.SetValue(1, true);
+    dialog.EntryCableControls.Capacity.SetValue(1, true);
     Settle();
 
     const auto after = Places(window);
@@ -366,7 +366,7 @@ TEST_F(ParametersView, SwitchesTheOptionsThatBelongTogether) {
 
     EXPECT_TRUE(Find<QAbstractButton>(window, "optBoltOptionsPrimary_1").isChecked());
     EXPECT_FALSE(Find<QAbstractButton>(window, "optBoltOptionsPrimary_0").isChecked());
-    EXPECT_EQ(GetArrayIndex(dialog.optBoltOptionsPrimary), 1);
+    EXPECT_EQ(GetArrayIndex(dialog.PrimaryBoltControls.Options), 1);
     EXPECT_TRUE(Find<QAbstractButton>(window, "optBoltDiameterPrimary_0").isChecked());
     EXPECT_TRUE(Find<QAbstractButton>(window, "optBoltGradePrimary_0").isChecked());
   });
@@ -392,8 +392,8 @@ TEST_F(ManualBolt, KeepsATypedDiameterThatIsNotInTheList) {
 
     EXPECT_EQ(TextOn(window, "cmbBoltDiameterPrimary"), "0.66");
     EXPECT_EQ(Find<QComboBox>(window, "cmbBoltDiameterPrimary").currentIndex(), -1);
-    EXPECT_EQ(dialog.cmbBoltDiameterPrimary.Text(), "0.66");
-    EXPECT_FALSE(dialog.cmbBoltDiameterPrimary.HasSelection());
+    EXPECT_EQ(dialog.PrimaryBoltControls.DiameterStd.Text(), "0.66");
+    EXPECT_FALSE(dialog.PrimaryBoltControls.DiameterStd.HasSelection());
     Press(Qt::Key_Tab);
     EXPECT_EQ(TextOn(window, "cmbBoltDiameterPrimary"), "0.66");
   });
@@ -404,7 +404,7 @@ TEST_F(ManualBolt, SelectsTheItemThatIsTyped) {
     Type("0.625");
 
     EXPECT_EQ(TextOn(window, "cmbBoltDiameterPrimary"), "0.625");
-    EXPECT_TRUE(dialog.cmbBoltDiameterPrimary.HasSelection());
+    EXPECT_TRUE(dialog.PrimaryBoltControls.DiameterStd.HasSelection());
     EXPECT_EQ(TextOn(window, "txtActualPSUP"), "6.9");
   });
 }
@@ -414,7 +414,7 @@ TEST_F(ManualBolt, ChoosesAnItemByTheArrows) {
     Press(Qt::Key_Up);
 
     EXPECT_EQ(TextOn(window, "cmbBoltDiameterPrimary"), "0.625");
-    EXPECT_EQ(dialog.cmbBoltDiameterPrimary.Text(), "0.625");
+    EXPECT_EQ(dialog.PrimaryBoltControls.DiameterStd.Text(), "0.625");
     EXPECT_EQ(TextOn(window, "txtActualPSUP"), "6.9");
   });
 }
@@ -422,14 +422,14 @@ TEST_F(ManualBolt, ChoosesAnItemByTheArrows) {
 TEST_F(ManualBolt, LeavesTheListAloneWhenTheWheelPassesOverIt) {
   WorkOnIt([this](QDialog& window) {
     auto& list = Find<QComboBox>(window, "cmbBoltGradePrimary");
-    const std::string before = dialog.cmbBoltGradePrimary.Text();
+    const std::string before = dialog.PrimaryBoltControls.GradeStd.Text();
     const QPointF at = list.rect().center();
     QWheelEvent wheel(at, list.mapToGlobal(at), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
                       Qt::NoScrollPhase, false);
 
     QCoreApplication::sendEvent(&list, &wheel);
 
-    EXPECT_EQ(dialog.cmbBoltGradePrimary.Text(), before);
+    EXPECT_EQ(dialog.PrimaryBoltControls.GradeStd.Text(), before);
   });
 }
 
@@ -456,7 +456,7 @@ TEST_F(ParametersView, ChoosesABoltOfTheTableByTheKeyboard) {
     Find(window, "VSFlexGridPrimary").setFocus(Qt::TabFocusReason);
     for (int i = 0; i < 6; ++i) Press(Qt::Key_Down);
 
-    EXPECT_EQ(dialog.VSFlexGridPrimary.Row(), 7);
+    EXPECT_EQ(dialog.PrimaryBoltControls.Table.Row(), 7);
     EXPECT_EQ(TextOn(window, "txtActualPSUP"), "9.9");
   });
 }
@@ -470,7 +470,7 @@ TEST_F(ParametersView, ChoosesABoltOfTheTableByAClick) {
                       table.visualItemRect(table.item(6, 1)).center());
     Settle();
 
-    EXPECT_EQ(dialog.VSFlexGridPrimary.Row(), 7);
+    EXPECT_EQ(dialog.PrimaryBoltControls.Table.Row(), 7);
     EXPECT_EQ(TextOn(window, "txtActualPSUP"), "9.9");
     EXPECT_EQ(table.selectedItems().size(), 4);
   });

@@ -103,7 +103,7 @@ TEST_F(PrintedResults, AreThoseOfEditsThatWereAccepted) {
 TEST_F(PrintedResults, StayAsResultsShowedThemWhenTheShownDesignIsAccepted) {
   std::string shown;
   InParameters([&](ParametersDialog& dialog) {
-    dialog.cmbCableDiamSecInter.SetText("0.7");
+    dialog.InterCableControls.Diam.SetText("0.7");
     dialog.txtEntryWidth.SetText("19");
     dialog.cmdresults.Press();
     shown = program.session.OutBuf[1];
@@ -119,7 +119,7 @@ TEST_F(PrintedResults, StayAsResultsShowedThemWhenTheShownDesignIsAccepted) {
 TEST_F(PrintedResults, StayAsResultsShowedThemAfterTheCostTableWasShown) {
   std::string shown;
   InParameters([&](ParametersDialog& dialog) {
-    dialog.cmbCableDiamSecInter.SetText("0.7");
+    dialog.InterCableControls.Diam.SetText("0.7");
     dialog.cmdresults.Press();
     shown = program.session.OutBuf[1];
     dialog.Command2.Press();
