@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "base/number_text.h"
-#include "base/runtime_error.h"
 
 namespace orby {
 namespace {

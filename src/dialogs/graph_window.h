@@ -41,6 +41,7 @@ class GraphWindow : public ProgramForm {
   // Loads the points into the chart, `program.windows.curve.CurveCount` times. Throws RuntimeError 9 beyond the sixth
   // series, which has no colour.
   void DrawCurve();
+  // Empties the chart. Nothing calls it: each curve takes the place of the one before.
   void ClearGraph();
 
  protected:

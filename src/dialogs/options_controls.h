@@ -28,41 +28,32 @@ inline constexpr std::size_t Diameter = 2;
 inline constexpr std::size_t Count = 3;
 }  // namespace bolt_list
 
-// The lists of one catalog of bolts and the commands on the list that the options choose.
+// The lists of one catalog of bolts and the commands on the list that the options choose. Each control is made from its
+// name.
 struct BoltListControls {
-  struct Names {
-    std::string_view fraBolts;
-    std::string_view caption;
-    std::string_view optBolt;
-    std::array<OptionCaption, bolt_list::Count> options;
-    std::array<std::string_view, bolt_list::Count> lists;  // empty: the catalog has no such list
-    std::string_view txtItem;
-    std::string_view cmdAddBolt;
-    std::string_view cmdDeleteBolt;
-    std::string_view cmdSetDefaultBolt;
-    std::string_view resetCaption;
-  };
+  Form& Dialog;
+  std::string_view FrameName;
+  std::string_view FrameCaption;
+  std::string_view OptionName;
+  std::array<OptionCaption, bolt_list::Count> Options;
+  std::array<std::string_view, bolt_list::Count> ListNames;  // empty: the catalog has no such list
+  std::string_view ItemName;
+  std::string_view AddName;
+  std::string_view DeleteName;
+  std::string_view ResetName;
+  std::string_view ResetCaption;
 
-  BoltListControls(Form& form, const Names& names)
-      : fraBolts(form, names.fraBolts, names.caption),
-        optBolt(form, names.optBolt, {names.options[0], names.options[1], names.options[2]}),
-        lists{MakeList(form, names.lists[0]), MakeList(form, names.lists[1]), MakeList(form, names.lists[2])},
-        txtItem(form, names.txtItem, TextKind::Number),
-        cmdAddBolt(form, names.cmdAddBolt, "Add"),
-        cmdDeleteBolt(form, names.cmdDeleteBolt, "Delete"),
-        cmdSetDefaultBolt(form, names.cmdSetDefaultBolt, names.resetCaption) {}
+  Frame fraBolts{Dialog, FrameName, FrameCaption};
+  OptionArray optBolt{Dialog, OptionName, {Options[0], Options[1], Options[2]}};
+  // None where the catalog has no such list.
+  std::array<std::unique_ptr<List>, bolt_list::Count> lists{MakeList(0), MakeList(1), MakeList(2)};
+  TextBox txtItem{Dialog, ItemName, TextKind::Number};
+  Button cmdAddBolt{Dialog, AddName, "Add"};
+  Button cmdDeleteBolt{Dialog, DeleteName, "Delete"};
+  Button cmdSetDefaultBolt{Dialog, ResetName, ResetCaption};
 
-  Frame fraBolts;
-  OptionArray optBolt;
-  std::array<std::unique_ptr<List>, bolt_list::Count> lists;  // none where the catalog has no such list
-  TextBox txtItem;
-  Button cmdAddBolt;
-  Button cmdDeleteBolt;
-  Button cmdSetDefaultBolt;
-
- private:
-  static std::unique_ptr<List> MakeList(Form& form, std::string_view name) {
-    return name.empty() ? nullptr : std::make_unique<List>(form, name, ListKind::Choices);
+  std::unique_ptr<List> MakeList(std::size_t list) const {
+    return ListNames[list].empty() ? nullptr : std::make_unique<List>(Dialog, ListNames[list], ListKind::Choices);
   }
 };
 
@@ -104,38 +95,38 @@ class OptionsControls : public ProgramForm {
   Numbers txtRowSpacing = Fields({"txtRowSpacing_0", "txtRowSpacing_1"}, "Row Spacing");
   std::array<BoltListControls, bolt_catalog::Count> bolts{
       BoltListControls{*this,
-                       {"fraBolts_0",
-                        "Bolt grade and UTS (ksi) and diameter (in) specifications",
-                        "optBoltEng",
-                        {{{GradeOption}, {UTSOption}, {DiameterOption}}},
-                        {"lstBoltGrade_0", "lstBoltUTS_0", "lstBoltDiam_0"},
-                        "txtItem_0",
-                        "cmdAddBolt_0",
-                        "cmdDeleteBolt_0",
-                        "cmdSetDefaultBolt_0",
-                        ResetUS}},
+                       "fraBolts_0",
+                       "Bolt grade and UTS (ksi) and diameter (in) specifications",
+                       "optBoltEng",
+                       {{{GradeOption}, {UTSOption}, {DiameterOption}}},
+                       {"lstBoltGrade_0", "lstBoltUTS_0", "lstBoltDiam_0"},
+                       "txtItem_0",
+                       "cmdAddBolt_0",
+                       "cmdDeleteBolt_0",
+                       "cmdSetDefaultBolt_0",
+                       ResetUS},
       BoltListControls{*this,
-                       {"fraBolts_1",
-                        "Bolt grade and UTS (MPa) and diameter (mm) specifications",
-                        "optBoltMet",
-                        {{{GradeOption}, {UTSOption}, {DiameterOption}}},
-                        {"lstBoltGrade_1", "lstBoltUTS_1", "lstBoltDiam_1"},
-                        "txtItem_1",
-                        "cmdAddBolt_1",
-                        "cmdDeleteBolt_1",
-                        "cmdSetDefaultBolt_1",
-                        ResetUS}},
+                       "fraBolts_1",
+                       "Bolt grade and UTS (MPa) and diameter (mm) specifications",
+                       "optBoltMet",
+                       {{{GradeOption}, {UTSOption}, {DiameterOption}}},
+                       {"lstBoltGrade_1", "lstBoltUTS_1", "lstBoltDiam_1"},
+                       "txtItem_1",
+                       "cmdAddBolt_1",
+                       "cmdDeleteBolt_1",
+                       "cmdSetDefaultBolt_1",
+                       ResetUS},
       BoltListControls{*this,
-                       {"fraBolts_2",
-                        "Bolt UTS and Diameter (AUS)",
-                        "optBoltMetAUS",
-                        {{{""}, {UTSOption}, {"Bolt Dia"}}},
-                        {"", "lstBoltUTS_2", "lstBoltDiam_2"},
-                        "txtItem_2",
-                        "cmdAddBolt_2",
-                        "cmdDeleteBolt_2",
-                        "cmdSetDefaultBolt_2",
-                        "Reset Default (AUS)"}},
+                       "fraBolts_2",
+                       "Bolt UTS and Diameter (AUS)",
+                       "optBoltMetAUS",
+                       {{{""}, {UTSOption}, {"Bolt Dia"}}},
+                       {"", "lstBoltUTS_2", "lstBoltDiam_2"},
+                       "txtItem_2",
+                       "cmdAddBolt_2",
+                       "cmdDeleteBolt_2",
+                       "cmdSetDefaultBolt_2",
+                       "Reset Default (AUS)"},
   };
   std::array<Frame, 2> fraCables{
       Frame{*this, "fraCables_0", "Cable bolt capacity (tons) and diameter (in) specifications"},

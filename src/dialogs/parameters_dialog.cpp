@@ -2,7 +2,6 @@
 
 #include "base/arithmetic.h"
 #include "base/number_text.h"
-#include "base/runtime_error.h"
 #include "core/act.h"
 #include "core/dialog_helpers.h"
 #include "core/messages.h"

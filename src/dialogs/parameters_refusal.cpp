@@ -1,5 +1,4 @@
 // What the parameters dialog says when a number is typed that the project cannot hold, and where it takes the user.
-#include "base/text.h"
 #include "core/messages.h"
 #include "dialogs/fault_texts.h"
 #include "dialogs/parameters_dialog.h"

@@ -1,6 +1,5 @@
 #include "dialogs/results_window.h"
 
-#include <array>
 #include <string>
 
 #include "core/act.h"

@@ -1,6 +1,5 @@
 #include "dialogs/version_fetch.h"
 
-#include <string>
 #include <utility>
 
 #include "base/attempt.h"

@@ -3,7 +3,6 @@
 #include <array>
 
 #include "base/arithmetic.h"
-#include "base/runtime_error.h"
 #include "core/file_helpers.h"
 #include "design/field.h"
 

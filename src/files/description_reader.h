@@ -11,7 +11,7 @@
 namespace orby {
 
 namespace description_mode {
-inline constexpr int Legacy = 0;  // five lines without markers
+inline constexpr int Legacy = 0;  // five lines without markers; no project that can be opened has them
 inline constexpr int Marked = 2;
 }  // namespace description_mode
 

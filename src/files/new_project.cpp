@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "base/arithmetic.h"
 #include "core/messages.h"
 #include "design/field.h"
 

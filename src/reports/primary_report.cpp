@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "base/arithmetic.h"
 #include "base/number_text.h"
 #include "reports/support_headings.h"
 

@@ -1,7 +1,6 @@
 // How both pages of the report head the secondary support of entries and of intersections.
 #pragma once
 
-#include <array>
 #include <string_view>
 
 #include "design/design.h"

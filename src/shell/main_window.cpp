@@ -10,7 +10,6 @@
 #include "core/version.h"
 #include "dialogs/disclaimer.h"
 #include "files/backups.h"
-#include "files/save_command.h"
 #include "shell/recent_files.h"
 
 namespace orby {

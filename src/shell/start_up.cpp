@@ -3,7 +3,6 @@
 #include <optional>
 #include <utility>
 
-#include "base/text.h"
 #include "config/catalog_sections.h"
 #include "config/settings_sections.h"
 #include "config/user_folders.h"

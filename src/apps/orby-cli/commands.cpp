@@ -7,7 +7,6 @@
 
 #include "apps/orby-cli/script_platform.h"
 #include "base/runtime_error.h"
-#include "base/text.h"
 #include "core/messages.h"
 #include "core/shared_texts.h"
 #include "dialogs/convert_dialog.h"
@@ -16,7 +15,6 @@
 #include "dialogs/project_report.h"
 #include "dialogs/shown_design.h"
 #include "files/project_file.h"
-#include "files/project_writer.h"
 #include "reports/cost_report.h"
 #include "reports/input_echo.h"
 #include "shell/start_up.h"

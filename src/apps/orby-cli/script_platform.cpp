@@ -3,8 +3,6 @@
 #include <cstdio>
 #include <utility>
 
-#include "base/runtime_error.h"
-
 namespace orby::cli {
 namespace {
 
