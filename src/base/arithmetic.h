@@ -54,17 +54,17 @@ Integer ToInteger(double value);
 double RoundHalfEven(double value);
 
 // Base-10 logarithm; 1 when x is 0. Throws RuntimeError 5 when x is negative.
-double Log10Of(double x);
+double Log10Of(double x);  // a helper that nothing calls today
 
 // value, or minimum when it lies outside minimum..maximum: too much falls to the minimum as well.
 Integer ClampRange(double& value, double minimum, double maximum);
 
-Single MaxSingle(Single a, Single b);
-Integer MinInteger(Integer a, Integer b);
-Integer MaxInteger(Integer a, Integer b);
+Single MaxSingle(Single a, Single b);      // a helper that nothing calls today
+Integer MinInteger(Integer a, Integer b);  // a helper that nothing calls today
+Integer MaxInteger(Integer a, Integer b);  // a helper that nothing calls today
 
 template <class T>
-void SwapValues(T& a, T& b) {
+void SwapValues(T& a, T& b) {  // a helper that nothing calls today
   std::swap(a, b);
 }
 

@@ -18,7 +18,7 @@ bool Succeeds(const Act& act) {
   }
 }
 
-// What the computation gives, an optional; nothing when it ends in a RuntimeError. Costs nothing while it does not.
+// Returns the optional of the computation; nothing when it ends in a RuntimeError. Costs nothing while it does not.
 template <class Compute>
 auto OrNothing(const Compute& compute) -> decltype(compute()) {
   try {

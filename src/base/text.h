@@ -27,17 +27,17 @@ std::string UpperCase(std::string_view text);
 // Whether the texts are the same but for the case of the letters A to Z.
 bool SameWithoutCase(std::string_view a, std::string_view b);
 
-// Takes the next line off the front of `rest` and gives it without its end: CR LF, LF or CR.
+// Takes the next line off the front of `rest` and returns it without its end: CR LF, LF or CR.
 std::string_view TakeLine(std::string_view& rest);
 
 // Appends label, filler and value, filling the width together; just joins them when they fill it already.
 void AppendFilled(std::string& text, std::string_view label, std::string_view value, std::size_t width, char filler);
 
 // The label followed by dots up to the width; a label as long as the width or longer stays as it is.
-std::string PadDots(std::string_view label, std::size_t width);
+std::string PadDots(std::string_view label, std::size_t width);  // nothing calls it today
 
 // Label, dots, value, filling the width together; just joined when they fill it already.
-std::string DotLeader(std::string_view label, std::string_view value, std::size_t width);
+std::string DotLeader(std::string_view label, std::string_view value, std::size_t width);  // nothing calls it today
 
 // The value followed by blanks up to the width.
 std::string PadSpaces(std::string_view value, std::size_t width);
@@ -47,14 +47,14 @@ std::string AlignRight(std::string_view value, std::size_t width);
 
 // The text broken at blanks into lines shorter than or as long as the width, each ended by CR LF, the last one too.
 // A remainder with no blank in its first `width` characters becomes "..." and its last width - 3 characters.
-// A width of 20 or less gives the text back unchanged.
+// Returns the text unchanged for a width of 20 or less.
 std::string WordWrapText(std::string_view text, std::size_t width);
 
 // "YES" when the flag is 1, otherwise "NO".
 std::string_view YesNoText(int flag);
 
 // Breaks an over-long description line at 60 characters, at a blank if one stands at positions 40 to 60, the pieces
-// joined by CR LF. Gives the number of pieces plus one. A last piece that would fit is broken by the same rule.
+// joined by CR LF. Returns the number of pieces plus one. A last piece that would fit is broken by the same rule.
 int WrapDescriptionLine(std::string& line);
 
 }  // namespace orby

@@ -72,6 +72,6 @@ class Form {
 };
 
 // Selects the whole text of the control that has the focus, if it is a text box.
-void SelectAllText(Form& form);
+void SelectAllText(Form& form);  // nothing calls it: the view selects what gets the focus
 
 }  // namespace orby

@@ -27,8 +27,8 @@ class OverlayEditing {
   void Fill(const Texts& headers, const std::vector<Texts>& entries);
   // Adds an empty row, selects its first cell and asks for the keyboard there.
   void AddEntry();
-  // Empties the box, removes the selected row and gives its number among the entries, counted from 0; -1 when there is
-  // none to remove.
+  // Empties the box, removes the selected row and returns its number among the entries, counted from 0; -1 when there
+  // is none to remove.
   int RemoveEntry();
 
   // Selects an entry's cell and asks for the keyboard there; columns as in Text.

@@ -52,7 +52,7 @@ bool IsLetterOrDigit(char c) { return (c >= 'A' && c <= 'Z') || (c >= '0' && c <
 // The folder of the path; none for a bare name.
 std::string FolderOf(const std::string& path) { return path.substr(0, path.size() - NameBehindSeparator(path).size()); }
 
-// Gives the field what a dialog of the system answers; a cancelled dialog leaves it as it is.
+// Sets the field to the answer of a dialog of the system. A cancelled dialog leaves it as it is.
 template <class Ask>
 void TakeAnswer(TextBox& field, const Ask& ask) {
   try {

@@ -12,7 +12,7 @@ namespace {
 // No book is nested deeper; a broken file may be.
 constexpr std::size_t DeepestLevel = 16;
 
-// Runs through the lines of the contents in their order until the act gives true.
+// Runs through the lines of the contents in their order until the act returns true.
 template <class Act>
 bool AnyEntry(const std::vector<HelpEntry>& entries, const Act& act) {
   return std::ranges::any_of(entries,

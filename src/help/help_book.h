@@ -52,7 +52,7 @@ class HelpBook {
   static constexpr std::string_view IndexFile = "ORBY.hhk";
   static constexpr std::string_view TopicsFile = "topics.txt";
 
-  // Gives a file of the book as UTF-8, or nothing when the book has none of that name.
+  // Returns a file of the book as UTF-8; nothing if the book has none of that name.
   using Reader = std::function<std::optional<std::string>(const std::string& name)>;
 
   // Each part is read when it is first asked for.

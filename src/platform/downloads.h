@@ -49,7 +49,7 @@ class Downloads {
   virtual ~Downloads() = default;
   // Nothing on a machine that cannot fetch at all.
   virtual std::unique_ptr<Fetch> Start(const FetchRequest& request, FetchEvents events) = 0;
-  // Copies the file into a folder that only the user has access to, where nobody can exchange it any more, and gives
+  // Copies the file into a folder that only the user has access to, where nobody can exchange it any more, and returns
   // the path of the copy when its bytes have this SHA-256, in digits of any case; nothing when they have another. The
   // copy stays until the next one is asked for. Throws the RuntimeError of a file that cannot be copied.
   virtual std::optional<std::string> CheckedCopy(const std::string& path, const std::string& sha256) = 0;

@@ -28,7 +28,7 @@ std::optional<struct stat> FactsOf(const std::string& path) {
   throw FileError(errno, path);
 }
 
-// Gives the file the owner and the permissions of the other one.
+// Sets the owner and the permissions of the file to those of the other one.
 //
 // Only the administrator may give a file to another owner; everybody else owns what he replaces, or may only write to
 // it and owns it from here on. Where the file cannot have the other's group either, the members of its own group may do

@@ -12,7 +12,7 @@ std::string PathBehindLinks(const std::string& path);
 // Makes an empty file like another one; see FileSystem::MakeFileLike.
 void MakeFileOnDiskLike(const std::string& path, const std::string& model);
 
-// Gives the file of this path these bytes; see FileSystem::ReplaceFile.
+// Replaces the bytes of the file of this path; see FileSystem::ReplaceFile.
 void ReplaceFileOnDisk(const std::string& path, std::string_view bytes);
 
 }  // namespace orby

@@ -45,7 +45,7 @@ class Transfer : public QObject {
 
   bool IsTooLong(quint64 bytes) const { return request_.mostBytes != 0 && bytes > request_.mostBytes; }
   void LetGo();
-  // Always gives false.
+  // Always returns false.
   bool End(FetchEnd end);
   bool DropAndFail();
   void Tell(FetchOutcome outcome);

@@ -18,7 +18,7 @@ inline constexpr int Invalid = 4;       // validation messages
 
 extern const std::string_view UsageText;
 
-// Runs the command, writing its results to standard output, and gives the exit code.
+// Runs the command, writing its results to standard output, and returns the exit code.
 int RunCommand(const CommandLine& line);
 
 }  // namespace orby::cli
