@@ -45,7 +45,7 @@ void CheckBox::SetValue(Integer value) {
 OptionArray::OptionArray(Form& form, std::string_view name, std::initializer_list<OptionCaption> captions)
     : Control(form, name) {
   members_.reserve(captions.size());
-  for (const auto& caption : captions) members_.push_back({std::string(caption.text), caption.unitRow});
+  for (const auto& caption : captions) members_.push_back({std::string(caption.text), caption.suffix});
 }
 
 void OptionArray::SetAllEnabled(bool enabled) {

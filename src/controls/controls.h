@@ -10,28 +10,26 @@
 
 #include "base/font_choice.h"
 #include "base/types.h"
+#include "base/unit_suffix.h"
 #include "controls/control.h"
 #include "controls/event.h"
 #include "controls/form.h"
 
 namespace orby {
 
-// Row of the unit label table, for captions that end in a unit.
-inline constexpr int NoUnit = -1;
-
 class Label : public Control {
  public:
-  // unitRow: row of the unit label table that is appended to the caption, or NoUnit.
-  Label(Form& form, std::string_view name, std::string_view caption, int unitRow = NoUnit)
-      : Control(form, name), caption_(caption), unitRow_(unitRow) {}
+  // The suffix of a unit is appended to the caption.
+  Label(Form& form, std::string_view name, std::string_view caption, UnitSuffix suffix = UnitSuffix::None)
+      : Control(form, name), caption_(caption), suffix_(suffix) {}
 
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string_view caption) { Mirror(caption_, std::string(caption)); }
-  int UnitRow() const { return unitRow_; }
+  UnitSuffix Suffix() const { return suffix_; }
 
  private:
   std::string caption_;
-  int unitRow_;
+  UnitSuffix suffix_;
 };
 
 // A frame around other controls. Its caption may end in a unit as a label's does.
@@ -109,9 +107,9 @@ class FieldLabel {
   const std::string& LabelCaption() const { return label_.Caption(); }
 
  protected:
-  FieldLabel(Form& form, std::string_view field, std::string_view caption, int unitRow)
+  FieldLabel(Form& form, std::string_view field, std::string_view caption, UnitSuffix suffix)
       : name_("lbl" + std::string(field.substr(field.starts_with("txt") ? 3 : 0))),
-        label_(form, name_, caption, unitRow) {}
+        label_(form, name_, caption, suffix) {}
 
  private:
   std::string name_;
@@ -121,10 +119,11 @@ class FieldLabel {
 // A text box and the label before it.
 class LabelledBox : public FieldLabel, public TextBox {
  public:
-  LabelledBox(Form& form, std::string_view name, TextKind kind, std::string_view caption, int unitRow = NoUnit)
-      : FieldLabel(form, name, caption, unitRow), TextBox(form, name, kind) {}
-  LabelledBox(Form& form, std::string_view name, std::string_view caption, int unitRow = NoUnit)
-      : LabelledBox(form, name, TextKind::Free, caption, unitRow) {}
+  LabelledBox(Form& form, std::string_view name, TextKind kind, std::string_view caption,
+              UnitSuffix suffix = UnitSuffix::None)
+      : FieldLabel(form, name, caption, suffix), TextBox(form, name, kind) {}
+  LabelledBox(Form& form, std::string_view name, std::string_view caption, UnitSuffix suffix = UnitSuffix::None)
+      : LabelledBox(form, name, TextKind::Free, caption, suffix) {}
 };
 
 enum class ClickKind {
@@ -153,7 +152,7 @@ class CheckBox : public Control {
 
 struct OptionCaption {
   std::string_view text;
-  int unitRow = NoUnit;
+  UnitSuffix suffix = UnitSuffix::None;
 };
 
 // A group of exclusive choices, counted from 0.
@@ -166,7 +165,7 @@ class OptionArray : public Control {
   void SetCaption(std::size_t index, std::string_view caption) {
     Mirror(members_[index].caption, std::string(caption));
   }
-  int UnitRow(std::size_t index) const { return members_[index].unitRow; }
+  UnitSuffix Suffix(std::size_t index) const { return members_[index].suffix; }
   bool MemberEnabled(std::size_t index) const { return members_[index].enabled; }
   void SetMemberEnabled(std::size_t index, bool enabled) { Mirror(members_[index].enabled, enabled); }
   void SetAllEnabled(bool enabled);
@@ -180,7 +179,7 @@ class OptionArray : public Control {
  private:
   struct Member {
     std::string caption;
-    int unitRow = NoUnit;
+    UnitSuffix suffix = UnitSuffix::None;
     bool enabled = true;
     bool value = false;
   };

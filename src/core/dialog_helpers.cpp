@@ -64,12 +64,12 @@ bool RangeCheck(Program& program, std::string_view text, double minimum, double 
 void AppendUnits(const Form& form, UnitSystem units) {
   for (Control* control : form.Controls()) {
     if (auto* label = dynamic_cast<Label*>(control)) {
-      if (label->UnitRow() == NoUnit) continue;
-      label->SetCaption(label->Caption() + std::string(UnitLabel(label->UnitRow(), units)));
+      if (label->Suffix() == UnitSuffix::None) continue;
+      label->SetCaption(label->Caption() + std::string(UnitLabel(label->Suffix(), units)));
     } else if (auto* options = dynamic_cast<OptionArray*>(control)) {
       for (std::size_t i = 0; i < options->Count(); ++i) {
-        if (options->UnitRow(i) == NoUnit) continue;
-        options->SetCaption(i, options->Caption(i) + std::string(UnitLabel(options->UnitRow(i), units)));
+        if (options->Suffix(i) == UnitSuffix::None) continue;
+        options->SetCaption(i, options->Caption(i) + std::string(UnitLabel(options->Suffix(i), units)));
       }
     }
   }

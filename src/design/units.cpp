@@ -13,7 +13,7 @@ struct LabelRow {
 };
 
 // Rows 3, 6, 7 and 9 pair units of different size; a number must be in the row's own unit before it is printed.
-constexpr std::array<LabelRow, unit_row::Count> Labels{{
+constexpr auto Labels = std::to_array<LabelRow>({
     {" (ft)", " (m)"},
     {" (psi)", " (MPa)"},
     {" (pcf)", " (kN/m3)"},
@@ -32,15 +32,14 @@ constexpr std::array<LabelRow, unit_row::Count> Labels{{
     {" (kips/ft)", " (kN/m)"},
     {" (kip-ft/ft^2)", " (kN-m/m^2)"},
     {" (ton-ft/ft^2)", " (kN-m/m^2)"},
-}};
+});
 
 }  // namespace
 
-std::string_view UnitLabel(int row, UnitSystem units) {
-  if (row < 0 || row >= unit_row::Count || (units != English && units != Metric)) {
-    throw RuntimeError(error_number::Subscript);
-  }
-  const LabelRow& labels = Labels[static_cast<std::size_t>(row)];
+std::string_view UnitLabel(UnitSuffix suffix, UnitSystem units) {
+  const auto row = static_cast<std::size_t>(suffix);
+  if (row >= Labels.size() || (units != English && units != Metric)) throw RuntimeError(error_number::Subscript);
+  const LabelRow& labels = Labels[row];
   return units == English ? labels.english : labels.metric;
 }
 

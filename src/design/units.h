@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "base/types.h"
+#include "base/unit_suffix.h"
 
 namespace orby {
 
@@ -25,22 +26,8 @@ inline constexpr double KilonewtonsPerTon = 8.896443;
 inline constexpr double KilonewtonsPerPound = 0.004448220489393218;
 inline constexpr double PcfPerKilonewtonCubicMetre = 6.3663022639200495;
 
-// What a caption's suffix measures: the rows of the table that UnitLabel reads.
-namespace unit_row {
-inline constexpr int Length = 0;
-inline constexpr int Stress = 1;
-inline constexpr int UnitWeight = 2;
-inline constexpr int Force = 12;
-inline constexpr int LineLoad = 13;
-inline constexpr int Grade = 8;
-inline constexpr int Diameter = 11;
-inline constexpr int ProductionMass = 6;
-inline constexpr int ProductionRate = 10;
-inline constexpr int Count = 18;
-}  // namespace unit_row
-
 // The suffix of a row in a unit system, starting with a blank: " (ft)". Throws RuntimeError 9 outside the table.
-std::string_view UnitLabel(int row, UnitSystem units);
+std::string_view UnitLabel(UnitSuffix suffix, UnitSystem units);
 
 // The system in a few words: "ft, in, lbs, psi, pcf".
 std::string_view UnitSummary(UnitSystem units);

@@ -113,7 +113,7 @@ void BackupsWindow::ShowSelected() {
 
 void BackupsWindow::ShowProject(const UnsavedProject& project) {
   const Design& design = project.WorkParms;
-  const std::string length(UnitLabel(unit_row::Length, project.WorkParms.Units));
+  const std::string length(UnitLabel(UnitSuffix::Length, project.WorkParms.Units));
   txtTitle.SetText(TypedTitle(project));
   txtUnits.SetText(std::string(UnitSummary(project.WorkParms.Units)));
   txtCMRR.SetText(NumberText(design.Place.CMRR));

@@ -39,17 +39,18 @@ class CostDialog : public ProgramForm {
   Frame fraProduction{*this, "fraProduction", "Production"};
   LabelledBox txtnboltsShift{*this, "txtnboltsShift", TextKind::Number, "Number of bolts installed per shift"};
   LabelledBox txtnBoltsRow{*this, "txtnBoltsRow", TextKind::Number, "Number of bolts per row"};
-  LabelledBox txtRowSpacing{*this, "txtRowSpacing", TextKind::Number, "Spacing between rows", unit_row::Length};
+  LabelledBox txtRowSpacing{*this, "txtRowSpacing", TextKind::Number, "Spacing between rows", UnitSuffix::Length};
   LabelledBox txtAdvanceShiftCalc{*this, "txtAdvanceShiftCalc", TextKind::Output, "Calculated advance per shift",
-                                  unit_row::Length};
-  LabelledBox txtAdvanceShift{*this, "txtAdvanceShift", TextKind::Number, "Input: Advance per shift", unit_row::Length};
+                                  UnitSuffix::Length};
+  LabelledBox txtAdvanceShift{*this, "txtAdvanceShift", TextKind::Number, "Input: Advance per shift",
+                              UnitSuffix::Length};
   CheckBox chkAdvance{*this, "chkAdvance", UseCalculated};
   LabelledBox txtAdvanceRate{*this, "txtAdvanceRate", TextKind::Number, "Clean production advance rate",
-                             unit_row::ProductionRate};
+                             UnitSuffix::ProductionRate};
   LabelledBox txtCleanProductionCalc{*this, "txtCleanProductionCalc", TextKind::Output,
-                                     "Calculated clean production per shift", unit_row::ProductionMass};
+                                     "Calculated clean production per shift", UnitSuffix::ProductionMass};
   LabelledBox txtCleanProduction{*this, "txtCleanProduction", TextKind::Number, "Input: Clean production per shift",
-                                 unit_row::ProductionMass};
+                                 UnitSuffix::ProductionMass};
   CheckBox chkProduction{*this, "chkProduction", UseCalculated};
   LabelledBox txtShiftsWeek{*this, "txtShiftsWeek", TextKind::Number, "Production shifts/week"};
   LabelledBox txtWeeksYear{*this, "txtWeeksYear", TextKind::Number, "Production weeks/year"};

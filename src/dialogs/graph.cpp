@@ -40,9 +40,9 @@ const Dependent& DependentOf(Integer curveIndex) { return At(Dependents, Depende
 std::string_view SuffixOf(Measure measure, UnitSystem units) {
   switch (measure) {
     case Measure::Degrees: return " (deg)";
-    case Measure::Length: return UnitLabel(unit_row::Length, units);
-    case Measure::LineLoad: return UnitLabel(unit_row::LineLoad, units);
-    case Measure::Force: return UnitLabel(unit_row::Force, units);
+    case Measure::Length: return UnitLabel(UnitSuffix::Length, units);
+    case Measure::LineLoad: return UnitLabel(UnitSuffix::LineLoad, units);
+    case Measure::Force: return UnitLabel(UnitSuffix::Force, units);
     case Measure::Plain: break;
   }
   return {};

@@ -172,8 +172,9 @@ void OptionsDialog::FillStands() {
   for (std::size_t i = 0; i < standCapacities_.size(); ++i) {
     entries.push_back({supports.DefaultStandSupportType[i], NumberText(StandSupportCap(program_, i))});
   }
-  stands_.Fill({"Support Type", "Capacity" + std::string(UnitLabel(unit_row::Force, program_.project.WorkParms.Units))},
-               entries);
+  stands_.Fill(
+      {"Support Type", "Capacity" + std::string(UnitLabel(UnitSuffix::Force, program_.project.WorkParms.Units))},
+      entries);
 }
 
 void OptionsDialog::ResizeStands() {

@@ -47,7 +47,7 @@ double LongestBolt(const D& d) { return MaxBoltLength[d.Units() == Metric]; }
 double ThickestBolt(const D& d) { return MaxBoltDiameter[d.Units() == Metric]; }
 
 std::string LongestBoltText(const D& d) {
-  return NumberText(LongestBolt(d)) + std::string(UnitLabel(unit_row::Length, d.Units()));
+  return NumberText(LongestBolt(d)) + std::string(UnitLabel(UnitSuffix::Length, d.Units()));
 }
 std::string ThickestBoltText(const D& d) { return NumberText(ThickestBolt(d)); }
 

@@ -34,11 +34,11 @@ struct BoltControls {
   Frame TableFrame{Dialog, Names[1], "Roof Bolt Standard Table Selection"};
   Grid Table{Dialog, Names[2]};
   Frame ManualFrame{Dialog, Names[3], "Roof Bolt Manual Selection"};
-  Frame DiameterFrame{Dialog, Names[4], "Roof Bolt Diameter", unit_row::Diameter};
+  Frame DiameterFrame{Dialog, Names[4], "Roof Bolt Diameter", UnitSuffix::Diameter};
   OptionArray DiameterMode{Dialog, Names[5], {{StandardSelection}, {ManualInput}}};
   Combo DiameterStd{Dialog, Names[6]};
   TextBox DiameterManual{Dialog, Names[7]};
-  Frame GradeFrame{Dialog, Names[8], "Roof Bolt Yield Grade", unit_row::Grade};
+  Frame GradeFrame{Dialog, Names[8], "Roof Bolt Yield Grade", UnitSuffix::Grade};
   OptionArray GradeMode{Dialog, Names[9], {{StandardSelection}, {ManualInput}}};
   Combo GradeStd{Dialog, Names[10]};
   TextBox GradeManual{Dialog, Names[11]};
@@ -51,7 +51,8 @@ struct CableControls {
   SecondarySupport RoofSupport::*Support;
 
   Frame ModeFrame{Dialog, Names[0], "Capacity Determination"};
-  OptionArray CapMode{Dialog, Names[1], {{"Cable Diameter", unit_row::Diameter}, {"Cable Capacity", unit_row::Force}}};
+  OptionArray CapMode{
+      Dialog, Names[1], {{"Cable Diameter", UnitSuffix::Diameter}, {"Cable Capacity", UnitSuffix::Force}}};
   Combo Diam{Dialog, Names[2]};
   Frame SpecificationFrame{Dialog, Names[3], "Capacity Specification"};
   OptionArray Capacity{Dialog, Names[4], {{StandardSelection}, {ManualInput}}};
@@ -70,7 +71,7 @@ struct StandingControls {
   Frame TypeFrame{Dialog, Names[2], "Support Type"};
   Combo TypeStd{Dialog, Names[3]};
   TextBox TypeManual{Dialog, Names[4]};
-  LabelledBox Capacity{Dialog, Names[5], "Support Capacity", unit_row::Force};
+  LabelledBox Capacity{Dialog, Names[5], "Support Capacity", UnitSuffix::Force};
 };
 
 // The outputs of four support systems.
@@ -79,14 +80,14 @@ struct OutputControls {
 
   Form& Dialog;
   std::array<Names4, 3> Names;
-  int UnitRow;  // of the rock load and the capacities
+  UnitSuffix Suffix;  // of the rock load and the capacities
 
-  Boxes RockLoad = FourOf(Names[0], "Rock Load", UnitRow);
-  Boxes SupportCap = FourOf(Names[1], "Support Capacity", UnitRow);
-  Boxes StabFactor = FourOf(Names[2], "Stability Factor", NoUnit);
+  Boxes RockLoad = FourOf(Names[0], "Rock Load", Suffix);
+  Boxes SupportCap = FourOf(Names[1], "Support Capacity", Suffix);
+  Boxes StabFactor = FourOf(Names[2], "Stability Factor", UnitSuffix::None);
 
-  Boxes FourOf(const Names4& names, std::string_view caption, int unitRow) const {
-    const auto box = [&](std::size_t i) { return LabelledBox(Dialog, names[i], TextKind::Output, caption, unitRow); };
+  Boxes FourOf(const Names4& names, std::string_view caption, UnitSuffix suffix) const {
+    const auto box = [&](std::size_t i) { return LabelledBox(Dialog, names[i], TextKind::Output, caption, suffix); };
     return {box(0), box(1), box(2), box(3)};
   }
 };
@@ -108,12 +109,12 @@ class ParametersControls : public ProgramForm {
   Button cmdCMRR{*this, "cmdCMRR", "CMRR Estimator"};
   TextBox txtRegion{*this, "txtRegion"};
   TextBox txtOption{*this, "txtOption"};
-  LabelledBox txtDepthofCover{*this, "txtDepthofCover", TextKind::Number, "Depth of Cover", unit_row::Length};
-  LabelledBox txtUnitWeight{*this, "txtUnitWeight", TextKind::Number, "Unit Weight of Rock", unit_row::UnitWeight};
+  LabelledBox txtDepthofCover{*this, "txtDepthofCover", TextKind::Number, "Depth of Cover", UnitSuffix::Length};
+  LabelledBox txtUnitWeight{*this, "txtUnitWeight", TextKind::Number, "Unit Weight of Rock", UnitSuffix::UnitWeight};
   Frame fraMiningFactors{*this, "fraMiningFactors", "Mining Factors"};
   LabelledBox txtActualSpanDiagonals{*this, "txtActualSpanDiagonals", TextKind::Number, "Sum of the Diagonals",
-                                     unit_row::Length};
-  LabelledBox txtEntryWidth{*this, "txtEntryWidth", TextKind::Number, "Entry Width", unit_row::Length};
+                                     UnitSuffix::Length};
+  LabelledBox txtEntryWidth{*this, "txtEntryWidth", TextKind::Number, "Entry Width", UnitSuffix::Length};
   Frame fraAnalysisOptions{*this, "fraAnalysisOptions", "Analysis Options"};
   CheckBox chkPrimSupport{*this, "chkPrimSupport", "Analysis of Primary Roof Bolts"};
   CheckBox chkSecondSupEntries{*this, "chkSecondSupEntries", "Analysis of Secondary Support: Entries"};
@@ -124,9 +125,9 @@ class ParametersControls : public ProgramForm {
   // primary support
   Frame fraPrimarySupport{*this, "fraPrimarySupport", "Primary Support Parameters"};
   LabelledBox txtStabilityFactor{*this, "txtStabilityFactor", TextKind::Number, "Stability Factor"};
-  LabelledBox txtBoltLengthPrimary{*this, "txtBoltLengthPrimary", "Actual Bolt Length", unit_row::Length};
+  LabelledBox txtBoltLengthPrimary{*this, "txtBoltLengthPrimary", "Actual Bolt Length", UnitSuffix::Length};
   LabelledBox txtBoltsperRowPrimary{*this, "txtBoltsperRowPrimary", "Number of Roof Bolts per Row"};
-  LabelledBox txtRowSpacingPrimary{*this, "txtRowSpacingPrimary", "Roof Bolt Row Spacing", unit_row::Length};
+  LabelledBox txtRowSpacingPrimary{*this, "txtRowSpacingPrimary", "Roof Bolt Row Spacing", UnitSuffix::Length};
   BoltControls PrimaryBoltControls{
       *this,
       {"optBoltOptionsPrimary", "fraBoltOptionsPrimary1", "VSFlexGridPrimary", "fraBoltOptionsPrimary0",
@@ -140,14 +141,14 @@ class ParametersControls : public ProgramForm {
   Label lblActualPENV{*this, "lblActualPENV", "Actual PSUP"};
   TextBox txtActualPSUP{*this, "txtActualPSUP", TextKind::Output};
   LabelledBox txtSuggestBoltLength{*this, "txtSuggestBoltLength", TextKind::Output,
-                                   "Suggested Minimum Roof Bolt Length", unit_row::Length};
+                                   "Suggested Minimum Roof Bolt Length", UnitSuffix::Length};
   LabelledBox txtSugSumDiagonals{*this, "txtSugSumDiagonals", TextKind::Output,
-                                 "Suggested Intersection Sum of the diagonals", unit_row::Length};
+                                 "Suggested Intersection Sum of the diagonals", UnitSuffix::Length};
   Picture Image1{*this, "Image1"};
 
   // secondary support: entries
   Frame fraRockLoadEntry{*this, "fraRockLoadEntry", "Rock Load Parameters"};
-  LabelledBox txtRockLoadHeight{*this, "txtRockLoadHeight", "Rock Load Height", unit_row::Length};
+  LabelledBox txtRockLoadHeight{*this, "txtRockLoadHeight", "Rock Load Height", UnitSuffix::Length};
   LabelledBox txtRockFallAngle{*this, "txtRockFallAngle", "Roof Fall Angle (deg)"};
   Frame fraSupportSystemEntry{*this, "fraSupportSystemEntry", "Support System"};
   std::array<CheckBox, SystemCount> chkSecEntries{CheckBox(*this, "chkSecEntries_0", SupportTabCaptions[0]),
@@ -158,7 +159,7 @@ class ParametersControls : public ProgramForm {
       *this, "SSTab2", {SupportTabCaptions[0], SupportTabCaptions[1], SupportTabCaptions[2], SupportTabCaptions[3]}};
 
   // entries: cable bolts
-  LabelledBox txtCableLengthSecEntry{*this, "txtCableLengthSecEntry", "Cable Bolt Length", unit_row::Length};
+  LabelledBox txtCableLengthSecEntry{*this, "txtCableLengthSecEntry", "Cable Bolt Length", UnitSuffix::Length};
   CableControls EntryCableControls{
       *this,
       {"fraCableDetEntry", "optCableCapModeSecEntry", "cmbCableDiamSecEntry", "fraCableSpecEntry",
@@ -166,19 +167,19 @@ class ParametersControls : public ProgramForm {
       &RoofSupport::Entries};
   LabelledBox txtCableBoltsPerRowSecEntry{*this, "txtCableBoltsPerRowSecEntry", "Number of Bolts per Row"};
   LabelledBox txtCableRowSpacingSecEntry{*this, "txtCableRowSpacingSecEntry", "Cable Bolt Row Spacing",
-                                         unit_row::Length};
+                                         UnitSuffix::Length};
 
   // entries: trusses
   LabelledBox txtTrussLengthMemberSecEntry{*this, "txtTrussLengthMemberSecEntry", "Length of Angled Member",
-                                           unit_row::Length};
+                                           UnitSuffix::Length};
   LabelledBox txtTrussAngleSecEntry{*this, "txtTrussAngleSecEntry", "Truss Angle (deg)"};
-  LabelledBox txtTrussCapacitySecEntry{*this, "txtTrussCapacitySecEntry", "Truss Capacity", unit_row::Force};
-  LabelledBox txtTrussSpacingSecEntry{*this, "txtTrussSpacingSecEntry", "Truss Spacing", unit_row::Length};
+  LabelledBox txtTrussCapacitySecEntry{*this, "txtTrussCapacitySecEntry", "Truss Capacity", UnitSuffix::Force};
+  LabelledBox txtTrussSpacingSecEntry{*this, "txtTrussSpacingSecEntry", "Truss Spacing", UnitSuffix::Length};
 
   // entries: roof bolts
-  LabelledBox txtBoltLengthSecEntry{*this, "txtBoltLengthSecEntry", "Roof Bolt Length", unit_row::Length};
+  LabelledBox txtBoltLengthSecEntry{*this, "txtBoltLengthSecEntry", "Roof Bolt Length", UnitSuffix::Length};
   LabelledBox txtBoltsperRowSecEntry{*this, "txtBoltsperRowSecEntry", "Number of Bolts per Row"};
-  LabelledBox txtRowSpacingSecEntry{*this, "txtRowSpacingSecEntry", "Roof Bolt Row Spacing", unit_row::Length};
+  LabelledBox txtRowSpacingSecEntry{*this, "txtRowSpacingSecEntry", "Roof Bolt Row Spacing", UnitSuffix::Length};
   BoltControls EntryBoltControls{
       *this,
       {"optBoltOptionsSecEntry", "fraBoltOptionsSecEntry1", "VSFlexGridEntry", "fraBoltOptionsSecEntry0",
@@ -193,7 +194,7 @@ class ParametersControls : public ProgramForm {
                                           "cmbSupportTypeSecEntry", "txtSupportTypeSecEntry", "txtSupportCapSecEntry"},
                                          true};
   LabelledBox txtNumberSupPerRowSecEntry{*this, "txtNumberSupPerRowSecEntry", "Number of Supports Per Row"};
-  LabelledBox txtSupportRowSpacingSecEntry{*this, "txtSupportRowSpacingSecEntry", "Row Spacing", unit_row::Length};
+  LabelledBox txtSupportRowSpacingSecEntry{*this, "txtSupportRowSpacingSecEntry", "Row Spacing", UnitSuffix::Length};
 
   // entries: outputs of the four support systems
   OutputControls EntryOutputs{
@@ -201,11 +202,11 @@ class ParametersControls : public ProgramForm {
       {{{"txtRockLoadEntry1", "txtRockLoadEntry2", "txtRockLoadEntry3", "txtRockLoadEntry4"},
         {"txtSupportCapEntry1", "txtSupportCapEntry2", "txtSupportCapEntry3", "txtSupportCapEntry4"},
         {"txtStabFactorEntry1", "txtStabFactorEntry2", "txtStabFactorEntry3", "txtStabFactorEntry4"}}},
-      unit_row::LineLoad};
+      UnitSuffix::LineLoad};
 
   // secondary support: intersections
   Frame fraRockLoadInter{*this, "fraRockLoadInter", "Rock Load Parameters"};
-  LabelledBox txtRockLoadHeightInter{*this, "txtRockLoadHeightInter", "Rock Load Height", unit_row::Length};
+  LabelledBox txtRockLoadHeightInter{*this, "txtRockLoadHeightInter", "Rock Load Height", UnitSuffix::Length};
   LabelledBox txtRockFallAngleEntry{*this, "txtRockFallAngleEntry", "Roof Fall Angle Entry (deg)"};
   LabelledBox txtRockFallAngleXcut{*this, "txtRockFallAngleXcut", "Roof Fall Angle Crosscut (deg)"};
   Frame fraSupportSystemInter{*this, "fraSupportSystemInter", "Support System"};
@@ -216,7 +217,7 @@ class ParametersControls : public ProgramForm {
       *this, "SSTab3", {SupportTabCaptions[0], SupportTabCaptions[1], SupportTabCaptions[2], SupportTabCaptions[3]}};
 
   // intersections: cable bolts
-  LabelledBox txtCableLengthSecInter{*this, "txtCableLengthSecInter", "Cable Bolt Length", unit_row::Length};
+  LabelledBox txtCableLengthSecInter{*this, "txtCableLengthSecInter", "Cable Bolt Length", UnitSuffix::Length};
   CableControls InterCableControls{
       *this,
       {"fraCableDetInter", "optCableCapModeSecInter", "cmbCableDiamSecInter", "fraCableSpecInter",
@@ -226,13 +227,13 @@ class ParametersControls : public ProgramForm {
 
   // intersections: trusses
   LabelledBox txtTrussLengthMemberSecInter{*this, "txtTrussLengthMemberSecInter", "Length of Angled Member",
-                                           unit_row::Length};
+                                           UnitSuffix::Length};
   LabelledBox txtTrussAngleSecInter{*this, "txtTrussAngleSecInter", "Truss Angle (deg)"};
-  LabelledBox txtTrussCapacitySecInter{*this, "txtTrussCapacitySecInter", "Truss Capacity", unit_row::Force};
+  LabelledBox txtTrussCapacitySecInter{*this, "txtTrussCapacitySecInter", "Truss Capacity", UnitSuffix::Force};
   LabelledBox txtTrussNumberSecInter{*this, "txtTrussNumberSecInter", "Number of Trusses"};
 
   // intersections: roof bolts
-  LabelledBox txtBoltLengthSecInter{*this, "txtBoltLengthSecInter", "Roof Bolt Length", unit_row::Length};
+  LabelledBox txtBoltLengthSecInter{*this, "txtBoltLengthSecInter", "Roof Bolt Length", UnitSuffix::Length};
   LabelledBox txtBoltNumberSecInter{*this, "txtBoltNumberSecInter", "Number of Roof Bolts"};
   BoltControls InterBoltControls{
       *this,
@@ -255,7 +256,7 @@ class ParametersControls : public ProgramForm {
       {{{"txtRockLoadInter1", "txtRockLoadInter2", "txtRockLoadInter3", "txtRockLoadInter4"},
         {"txtSupportCapInter1", "txtSupportCapInter2", "txtSupportCapInter3", "txtSupportCapInter4"},
         {"txtStabFactorInter1", "txtStabFactorInter2", "txtStabFactorInter3", "txtStabFactorInter4"}}},
-      unit_row::Force};
+      UnitSuffix::Force};
 
   // commands
   Button Command2{*this, "Command2", "OK"};

@@ -21,69 +21,69 @@ namespace {
 struct NumberRow {
   std::string_view Label;
   Single (*Value)(const Design& design);
-  int Unit = report_unit::None;
+  UnitSuffix Unit = UnitSuffix::None;
 };
 
 // A number that the support of entries or of intersections has.
 struct SupportRow {
   std::string_view Label;
   Single (*Value)(const SecondarySupport& support);
-  int Unit = report_unit::None;
+  UnitSuffix Unit = UnitSuffix::None;
 };
 using SupportRows = std::span<const SupportRow>;
 
 constexpr auto SiteRows = std::to_array<NumberRow>({
-    {"Depth of Cover", [](const Design& d) { return d.Place.DepthofCover; }, unit_row::Length},
-    {"Unit Weight of Rock", [](const Design& d) { return d.Place.UnitWeight; }, unit_row::UnitWeight},
+    {"Depth of Cover", [](const Design& d) { return d.Place.DepthofCover; }, UnitSuffix::Length},
+    {"Unit Weight of Rock", [](const Design& d) { return d.Place.UnitWeight; }, UnitSuffix::UnitWeight},
 });
 constexpr auto MiningRows = std::to_array<NumberRow>({
-    {"Sum of Intersection Diagonals", [](const Design& d) { return d.Place.ActualSpanDiagonals; }, unit_row::Length},
-    {"Entry Width", [](const Design& d) { return d.Place.EntryWidth; }, unit_row::Length},
+    {"Sum of Intersection Diagonals", [](const Design& d) { return d.Place.ActualSpanDiagonals; }, UnitSuffix::Length},
+    {"Entry Width", [](const Design& d) { return d.Place.EntryWidth; }, UnitSuffix::Length},
 });
 constexpr auto PrimaryRows = std::to_array<NumberRow>({
-    {"Roof Bolt Length", [](const Design& d) { return d.Primary.Length; }, unit_row::Length},
+    {"Roof Bolt Length", [](const Design& d) { return d.Primary.Length; }, UnitSuffix::Length},
     {"Number of Roof Bolts per Row", [](const Design& d) { return d.Primary.BoltsperRow; }},
-    {"Roof Bolt Row Spacing", [](const Design& d) { return d.Primary.RowSpacing; }, unit_row::Length},
+    {"Roof Bolt Row Spacing", [](const Design& d) { return d.Primary.RowSpacing; }, UnitSuffix::Length},
     {"Target Stability Factor", [](const Design& d) { return d.Primary.StabilityFactor; }},
 });
 
 using S = SecondarySupport;
 
 constexpr auto TrussRows = std::to_array<SupportRow>({
-    {"Length of Angled Truss Member", [](const S& s) { return s.Truss.LengthMember; }, unit_row::Length},
-    {"Truss Angle", [](const S& s) { return s.Truss.Angle; }, report_unit::Degrees},
-    {"Truss Capacity", [](const S& s) { return s.Truss.Capacity; }, unit_row::Force},
+    {"Length of Angled Truss Member", [](const S& s) { return s.Truss.LengthMember; }, UnitSuffix::Length},
+    {"Truss Angle", [](const S& s) { return s.Truss.Angle; }, UnitSuffix::Degrees},
+    {"Truss Capacity", [](const S& s) { return s.Truss.Capacity; }, UnitSuffix::Force},
 });
 constexpr SupportRow StandingCapacity{"Standing Support Capacity", [](const S& s) { return s.Standing.Capacity; },
-                                      unit_row::Force};
-constexpr SupportRow BoltLength{"Roof Bolt Length", [](const S& s) { return s.Bolt.Length; }, unit_row::Length};
+                                      UnitSuffix::Force};
+constexpr SupportRow BoltLength{"Roof Bolt Length", [](const S& s) { return s.Bolt.Length; }, UnitSuffix::Length};
 
 constexpr auto EntryRockRows = std::to_array<SupportRow>({
-    {"Rock Load Height", [](const S& s) { return s.RockLoadHeight; }, unit_row::Length},
-    {"Rock Fall Angle", [](const S& s) { return s.RockFallAngle; }, report_unit::Degrees},
+    {"Rock Load Height", [](const S& s) { return s.RockLoadHeight; }, UnitSuffix::Length},
+    {"Rock Fall Angle", [](const S& s) { return s.RockFallAngle; }, UnitSuffix::Degrees},
 });
 constexpr auto EntryCableRows = std::to_array<SupportRow>({
     {"Number of Cable Bolts per Row", [](const S& s) { return s.Cable.BoltsPerRow; }},
-    {"Cable Bolt Row Spacing", [](const S& s) { return s.Cable.RowSpacing; }, unit_row::Length},
+    {"Cable Bolt Row Spacing", [](const S& s) { return s.Cable.RowSpacing; }, UnitSuffix::Length},
 });
 constexpr auto EntryTrussRows = std::to_array<SupportRow>({
-    {"Truss Spacing", [](const S& s) { return s.Truss.Spacing; }, unit_row::Length},
+    {"Truss Spacing", [](const S& s) { return s.Truss.Spacing; }, UnitSuffix::Length},
 });
 constexpr auto EntryBoltRows = std::to_array<SupportRow>({
     {"Number of Roof Bolts per Row", [](const S& s) { return s.Bolt.BoltsperRow; }},
-    {"Roof Bolt Row Spacing", [](const S& s) { return s.Bolt.RowSpacing; }, unit_row::Length},
+    {"Roof Bolt Row Spacing", [](const S& s) { return s.Bolt.RowSpacing; }, UnitSuffix::Length},
     BoltLength,
 });
 constexpr auto EntryStandingRows = std::to_array<SupportRow>({
     StandingCapacity,
     {"Number of Standing Supports per Row", [](const S& s) { return s.Standing.NumberPerRow; }},
-    {"Standing Support Row Spacing", [](const S& s) { return s.Standing.RowSpacing; }, unit_row::Length},
+    {"Standing Support Row Spacing", [](const S& s) { return s.Standing.RowSpacing; }, UnitSuffix::Length},
 });
 
 constexpr auto IntersectionRockRows = std::to_array<SupportRow>({
-    {"Rock Load Height", [](const S& s) { return s.RockLoadHeight; }, unit_row::Length},
-    {"Rock Fall Angle (Entry)", [](const S& s) { return s.RockFallAngle; }, report_unit::Degrees},
-    {"Rock Fall Angle (Crosscut)", [](const S& s) { return s.RockFallAngleXcut; }, report_unit::Degrees},
+    {"Rock Load Height", [](const S& s) { return s.RockLoadHeight; }, UnitSuffix::Length},
+    {"Rock Fall Angle (Entry)", [](const S& s) { return s.RockFallAngle; }, UnitSuffix::Degrees},
+    {"Rock Fall Angle (Crosscut)", [](const S& s) { return s.RockFallAngleXcut; }, UnitSuffix::Degrees},
 });
 constexpr auto IntersectionCableRows = std::to_array<SupportRow>({
     {"Number of Cable Bolts", [](const S& s) { return s.Cable.Number; }},
@@ -167,8 +167,8 @@ void Echo::Header() {
   page.Line("ORBY module build: " + std::string(BuildStamp));
   page.Wrapped("Project File: " + project.File, FileNameWidth);
   std::string units = "Input Units: ";
-  units += UnitLabel(unit_row::Length, design.Units);
-  units += UnitLabel(unit_row::Stress, design.Units);
+  units += UnitLabel(UnitSuffix::Length, design.Units);
+  units += UnitLabel(UnitSuffix::Stress, design.Units);
   page.Line(units);
   page.Line();
 }
@@ -229,8 +229,8 @@ void Echo::BoltCapacities(const Bolt& bolt, YieldOfMetricGrade yieldOf) {
                                    : FormatNumber(CapacityFromGrade(grade, diameter) / 2, "0.0");
   const std::string ultimate = metric ? FormatNumber(UltimateCapacityKN(grade, diameter, catalogs), "0")
                                       : FormatNumber(UltimateCapacity(grade, diameter, catalogs) / 2, "0.0");
-  page.Value("Roof Bolt Yield Capacity", yield, unit_row::Force);
-  page.Value("Roof Bolt Ultimate Capacity", ultimate, unit_row::Force);
+  page.Value("Roof Bolt Yield Capacity", yield, UnitSuffix::Force);
+  page.Value("Roof Bolt Ultimate Capacity", ultimate, UnitSuffix::Force);
 }
 
 void Echo::Bolts(const BoltSelection& set, YieldOfMetricGrade yieldOf) {
@@ -243,8 +243,8 @@ void Echo::Bolts(const BoltSelection& set, YieldOfMetricGrade yieldOf) {
     page.Words(OptionLabel, ManualSelection);
   }
   const Bolt bolt = SelectedBolt(set);
-  page.Value("Roof Bolt Diameter", NumberText(bolt.Diameter), unit_row::Diameter);
-  page.Value("Roof Bolt Grade", NumberText(bolt.Grade), unit_row::Grade);
+  page.Value("Roof Bolt Diameter", NumberText(bolt.Diameter), UnitSuffix::Diameter);
+  page.Value("Roof Bolt Grade", NumberText(bolt.Grade), UnitSuffix::Grade);
   BoltCapacities(bolt, yieldOf);
 }
 
@@ -258,10 +258,10 @@ void Echo::Primary() {
 }
 
 void Echo::Cables(const CableSelection& cable) {
-  page.Value("Cable Bolt Length", NumberText(cable.Length), unit_row::Length);
-  if (cable.CapMode == 0) page.Value("Cable Bolt Diameter", NumberText(cable.Diam), unit_row::Diameter);
+  page.Value("Cable Bolt Length", NumberText(cable.Length), UnitSuffix::Length);
+  if (cable.CapMode == 0) page.Value("Cable Bolt Diameter", NumberText(cable.Diam), UnitSuffix::Diameter);
   const Single capacity = cable.Capacity == 0 ? cable.CapacityStd : cable.CapacityManual;
-  page.Value("Cable Bolt Capacity", NumberText(capacity), unit_row::Force);
+  page.Value("Cable Bolt Capacity", NumberText(capacity), UnitSuffix::Force);
 }
 
 void Echo::Support(const SupportEcho& echo, const SecondarySupport& support) {

@@ -15,9 +15,9 @@ void WarningsLine(ReportText& page, bool several) { page.Line(several ? "[Warnin
 
 void ReportSpan(ReportText& page, const RoofSupport& design, const SuggestedFigures& results) {
   page.Line("[INTERSECTION SPAN INFORMATION]");
-  page.Value("Suggested Sum of Diagonals", FormatNumber(results.SuggestedSpan, LengthPattern), unit_row::Length);
+  page.Value("Suggested Sum of Diagonals", FormatNumber(results.SuggestedSpan, LengthPattern), UnitSuffix::Length);
   page.Value("Actual Sum of Diagonals", FormatNumber(design.Place.ActualSpanDiagonals, LengthPattern),
-             unit_row::Length);
+             UnitSuffix::Length);
   const bool tooLarge = results.SpanIsTooLarge;
   const bool mismatch = results.SpanAndWidthMismatch;
   if (!tooLarge && !mismatch) {
@@ -36,12 +36,12 @@ void ReportSpan(ReportText& page, const RoofSupport& design, const SuggestedFigu
 void ReportCapacity(ReportText& page, const RoofSupport& design, Single capacity) {
   const bool yieldGrades = design.Basis == StrengthBasis::Yield;
   page.Value(yieldGrades ? "Actual Roof Bolt Yield Capacity" : "Actual Roof Bolt Ultimate Capacity",
-             FormatNumber(capacity, design.Units == Metric ? NumberPattern("0") : OneDecimal), unit_row::Force);
+             FormatNumber(capacity, design.Units == Metric ? NumberPattern("0") : OneDecimal), UnitSuffix::Force);
 }
 
 void ReportLength(ReportText& page, const RoofSupport& design, Single suggested) {
-  page.Value("Actual Roof Bolt Length", FormatNumber(design.Primary.Length, LengthPattern), unit_row::Length);
-  page.Value("Suggested Minimum Roof Bolt Length", FormatNumber(suggested, LengthPattern), unit_row::Length);
+  page.Value("Actual Roof Bolt Length", FormatNumber(design.Primary.Length, LengthPattern), UnitSuffix::Length);
+  page.Value("Suggested Minimum Roof Bolt Length", FormatNumber(suggested, LengthPattern), UnitSuffix::Length);
 }
 
 void ReportJudgement(ReportText& page, LengthVerdict length, bool failsASTM, UnitSystem units) {

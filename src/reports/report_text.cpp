@@ -10,9 +10,9 @@ namespace {
 
 constexpr std::size_t UsualPageSize = 8192;
 
-std::string_view UnitText(int unit, UnitSystem units) {
-  if (unit == report_unit::None) return {};
-  if (unit == report_unit::Degrees) return " (deg)";
+std::string_view UnitText(UnitSuffix unit, UnitSystem units) {
+  if (unit == UnitSuffix::None) return {};
+  if (unit == UnitSuffix::Degrees) return " (deg)";
   return UnitLabel(unit, units);
 }
 
@@ -25,7 +25,7 @@ void ReportText::Line(std::string_view text) {
   page += LineEnd;
 }
 
-void ReportText::Value(std::string_view label, std::string_view value, int unit) {
+void ReportText::Value(std::string_view label, std::string_view value, UnitSuffix unit) {
   AppendFilled(page, label, {}, ReportWidth, '.');
   page += value;
   Line(UnitText(unit, units));

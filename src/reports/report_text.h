@@ -13,12 +13,6 @@ namespace orby {
 
 inline constexpr std::size_t ReportWidth = 58;  // up to the column of the values; messages wrap there
 
-// What stands behind a value besides the rows of UnitLabel.
-namespace report_unit {
-inline constexpr int None = -1;
-inline constexpr int Degrees = -2;
-}  // namespace report_unit
-
 class ReportText {
  public:
   explicit ReportText(UnitSystem projectUnits);
@@ -27,7 +21,7 @@ class ReportText {
   void Line(std::string_view text = {});
 
   // The label padded with dots to ReportWidth, the value, and the suffix of its unit. A longer label stays as it is.
-  void Value(std::string_view label, std::string_view value, int unit = report_unit::None);
+  void Value(std::string_view label, std::string_view value, UnitSuffix unit = UnitSuffix::None);
 
   // Label and text with dots between them, filling ReportWidth together; just joined when they fill it already.
   void Words(std::string_view label, std::string_view text);

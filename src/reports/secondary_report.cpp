@@ -21,18 +21,15 @@ struct SupportBlock {
   SecondarySupport RoofSupport::*Support;
   Computed<Reinforcement> Figures::*Added;
   std::string (*LoadText)(Single load);
-  int LoadUnit;
+  UnitSuffix LoadUnit;
   bool ShowsDensities;
 };
 
 constexpr SupportBlock EntryBlock{EntryHeadings, &RoofSupport::Entries, &Figures::EntryReinforcement,
-                                  EntryLoad,     unit_row::LineLoad,    true};
-constexpr SupportBlock IntersectionBlock{IntersectionHeadings,
-                                         &RoofSupport::Intersections,
-                                         &Figures::IntersectionReinforcement,
-                                         IntersectionLoad,
-                                         unit_row::Force,
-                                         false};
+                                  EntryLoad,     UnitSuffix::LineLoad,  true};
+constexpr SupportBlock IntersectionBlock{
+    IntersectionHeadings, &RoofSupport::Intersections, &Figures::IntersectionReinforcement,
+    IntersectionLoad,     UnitSuffix::Force,           false};
 
 class SecondaryReport {
  public:
@@ -62,7 +59,7 @@ void SecondaryReport::RockLoad() {
   Load("Rock Load", support.RockLoad);
   if (added.HeightIsAdjusted) {
     page.Value("(*) Rock Load Height adjusted. Maximum possible height", FormatNumber(added.HighestRock, OneDecimal),
-               unit_row::Length);
+               UnitSuffix::Length);
   }
   page.Line();
 }

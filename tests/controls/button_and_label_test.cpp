@@ -43,23 +43,23 @@ TEST(Button, WithoutACommandCanBePressed) {
 
 TEST(Label, ShowsItsCaptionAndKnowsItsUnit) {
   PlainForm form;
-  Label depth(form, "lblDepth", "Depth of cover", 0);
+  Label depth(form, "lblDepth", "Depth of cover", UnitSuffix::Length);
   const Label rating(form, "lblRating", "Roof rating");
 
   depth.SetCaption("Depth");
 
   EXPECT_EQ(depth.Caption(), "Depth");
-  EXPECT_EQ(depth.UnitRow(), 0);
+  EXPECT_EQ(depth.Suffix(), UnitSuffix::Length);
   EXPECT_EQ(rating.Caption(), "Roof rating");
-  EXPECT_EQ(rating.UnitRow(), -1);
+  EXPECT_EQ(rating.Suffix(), UnitSuffix::None);
 }
 
 TEST(Frame, HasACaptionAsALabelHas) {
   PlainForm form;
-  const Frame diameter(form, "fraDiameter", "Diameter", 11);
+  const Frame diameter(form, "fraDiameter", "Diameter", UnitSuffix::Diameter);
 
   EXPECT_EQ(diameter.Caption(), "Diameter");
-  EXPECT_EQ(diameter.UnitRow(), 11);
+  EXPECT_EQ(diameter.Suffix(), UnitSuffix::Diameter);
 }
 
 TEST(Picture, CanBeHiddenAndShown) {

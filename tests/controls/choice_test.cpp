@@ -68,7 +68,7 @@ struct AnOptionArray : testing::Test {
   }
 
   PlainForm form;
-  OptionArray source{form, "optSource", {{"Table"}, {"Diameter", 11}, {"Typed"}}};
+  OptionArray source{form, "optSource", {{"Table"}, {"Diameter", UnitSuffix::Diameter}, {"Typed"}}};
   std::vector<Integer> clicks;
 };
 
@@ -187,8 +187,8 @@ TEST_F(AnOptionArray, HasACaptionPerMemberThatMayEndInAUnit) {
 
   EXPECT_EQ(source.Caption(0), "Table");
   EXPECT_EQ(source.Caption(2), "Typed by hand");
-  EXPECT_EQ(source.UnitRow(0), NoUnit);
-  EXPECT_EQ(source.UnitRow(1), 11);
+  EXPECT_EQ(source.Suffix(0), UnitSuffix::None);
+  EXPECT_EQ(source.Suffix(1), UnitSuffix::Diameter);
 }
 
 TEST(OptionArrayChoice, NeverHasTwoMembersChosen) {

@@ -75,10 +75,10 @@ TEST(FormCaption, CountsCharactersAndNotBytes) {
 }
 
 struct LabelledForm : PlainForm {
-  Label lblDepth{*this, "lblDepth", "Depth of cover", unit_row::Length};
+  Label lblDepth{*this, "lblDepth", "Depth of cover", UnitSuffix::Length};
   Label lblRating{*this, "lblRating", "Roof rating"};
-  Frame fraDiameter{*this, "fraDiameter", "Diameter", unit_row::Diameter};
-  OptionArray optCapacity{*this, "optCapacity", {{"Capacity", unit_row::Force}, {"By diameter"}}};
+  Frame fraDiameter{*this, "fraDiameter", "Diameter", UnitSuffix::Diameter};
+  OptionArray optCapacity{*this, "optCapacity", {{"Capacity", UnitSuffix::Force}, {"By diameter"}}};
   TextBox txtDepth{*this, "txtDepth", TextKind::Number};
 };
 

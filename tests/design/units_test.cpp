@@ -35,28 +35,28 @@ constexpr LabelPair Expected[] = {
 
 TEST(UnitLabels, AreFixedForEveryQuantityInBothSystems) {
   for (int row = 0; row < 18; ++row) {
-    EXPECT_EQ(UnitLabel(row, English), Expected[row].english) << "row " << row;
-    EXPECT_EQ(UnitLabel(row, Metric), Expected[row].metric) << "row " << row;
+    EXPECT_EQ(UnitLabel(UnitSuffix{row}, English), Expected[row].english) << "row " << row;
+    EXPECT_EQ(UnitLabel(UnitSuffix{row}, Metric), Expected[row].metric) << "row " << row;
   }
 }
 
 TEST(UnitLabels, NameTheQuantitiesOfADesign) {
-  EXPECT_EQ(UnitLabel(unit_row::Length, English), " (ft)");
-  EXPECT_EQ(UnitLabel(unit_row::Stress, Metric), " (MPa)");
-  EXPECT_EQ(UnitLabel(unit_row::UnitWeight, English), " (pcf)");
-  EXPECT_EQ(UnitLabel(unit_row::Force, Metric), " (kN)");
-  EXPECT_EQ(UnitLabel(unit_row::LineLoad, English), " (tons/ft)");
-  EXPECT_EQ(UnitLabel(unit_row::Grade, English), " (ksi)");
-  EXPECT_EQ(UnitLabel(unit_row::Diameter, Metric), " (mm)");
-  EXPECT_EQ(UnitLabel(unit_row::ProductionMass, Metric), " (tn)");
-  EXPECT_EQ(UnitLabel(unit_row::ProductionRate, Metric), " (MN/m)");
+  EXPECT_EQ(UnitLabel(UnitSuffix::Length, English), " (ft)");
+  EXPECT_EQ(UnitLabel(UnitSuffix::Stress, Metric), " (MPa)");
+  EXPECT_EQ(UnitLabel(UnitSuffix::UnitWeight, English), " (pcf)");
+  EXPECT_EQ(UnitLabel(UnitSuffix::Force, Metric), " (kN)");
+  EXPECT_EQ(UnitLabel(UnitSuffix::LineLoad, English), " (tons/ft)");
+  EXPECT_EQ(UnitLabel(UnitSuffix::Grade, English), " (ksi)");
+  EXPECT_EQ(UnitLabel(UnitSuffix::Diameter, Metric), " (mm)");
+  EXPECT_EQ(UnitLabel(UnitSuffix::ProductionMass, Metric), " (tn)");
+  EXPECT_EQ(UnitLabel(UnitSuffix::ProductionRate, Metric), " (MN/m)");
 }
 
 TEST(UnitLabels, EndAtTheTablesEdges) {
-  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(-1, English)); }), 9);
-  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(18, English)); }), 9);
-  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(0, UnitSystem{-1})); }), 9);
-  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(0, UnitSystem{2})); }), 9);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(UnitSuffix{-1}, English)); }), 9);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(UnitSuffix{18}, English)); }), 9);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(UnitSuffix{0}, UnitSystem{-1})); }), 9);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(UnitSuffix{0}, UnitSystem{2})); }), 9);
 }
 
 TEST(UnitSystem, IsToldInAFewWords) {

@@ -10,7 +10,7 @@ namespace {
 TEST(ReportText, ValuesStandBehindDotsInColumn58WithTheUnitOfTheProject) {
   ReportText page(Metric);
 
-  page.Value("Entry Width", "6.2", unit_row::Length);
+  page.Value("Entry Width", "6.2", UnitSuffix::Length);
 
   EXPECT_EQ(page.Take(), "Entry Width...............................................6.2 (m)\r\n");
 }
@@ -18,7 +18,7 @@ TEST(ReportText, ValuesStandBehindDotsInColumn58WithTheUnitOfTheProject) {
 TEST(ReportText, AngleAndUnitlessValues) {
   ReportText page(English);
 
-  page.Value("Rock Fall Angle", "30", report_unit::Degrees);
+  page.Value("Rock Fall Angle", "30", UnitSuffix::Degrees);
   page.Value("PRSUP", "13.3");
 
   EXPECT_EQ(page.Take(),

@@ -1,0 +1,21 @@
+// What the suffix of a caption or of a report line measures.
+#pragma once
+
+namespace orby {
+
+// The rows of the table that UnitLabel reads, and two that are not in it.
+enum class UnitSuffix {
+  Degrees = -2,  // of reports, the same in both unit systems
+  None = -1,
+  Length = 0,
+  Stress = 1,
+  UnitWeight = 2,
+  ProductionMass = 6,
+  Grade = 8,
+  ProductionRate = 10,
+  Diameter = 11,
+  Force = 12,
+  LineLoad = 13,
+};
+
+}  // namespace orby
