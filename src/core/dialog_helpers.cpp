@@ -31,7 +31,7 @@ int Centered(int length, int screenLength) { return length > screenLength ? 0 : 
 
 void SetArrayIndex(Program& program, OptionArray& options, Integer index) {
   if (index < 0 || static_cast<std::size_t>(index) >= options.Count()) {
-    ShowMessage(program, std::string(UnknownChoice), box_style::Ok, program.windows.titles.RangeErrorTitle);
+    ShowMessage(program, std::string(UnknownChoice), BoxButtons::Ok, program.windows.titles.RangeErrorTitle);
   }
   for (std::size_t i = 0; i < options.Count(); ++i) options.SetValue(static_cast<int>(i), false);
   options.SetValue(index, true);
@@ -57,7 +57,7 @@ bool RangeCheck(Program& program, std::string_view text, double minimum, double 
     message += "Value '" + std::string(trimmed) + "' is outside input range" + std::string(LineEnd) +
                "Valid range is: " + NumberText(minimum) + "-" + NumberText(maximum);
   }
-  ShowMessage(program, message, box_style::Critical, program.windows.titles.RangeErrorTitle);
+  ShowMessage(program, message, BoxIcon::Critical, program.windows.titles.RangeErrorTitle);
   return false;
 }
 

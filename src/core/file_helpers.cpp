@@ -56,10 +56,10 @@ bool ValidPath(Program& program, const std::string& path, bool quiet) {
     return program.platform.files.Finds(path, true);
   } catch (const RuntimeError& error) {
     if (ErrorDecision(program, error, false) == error_decision::GiveUp) {
-      if (!quiet) ShowMessage(program, "Invalid path: " + path, box_style::Ok, program.windows.titles.ErrorTitle);
+      if (!quiet) ShowMessage(program, "Invalid path: " + path, BoxButtons::Ok, program.windows.titles.ErrorTitle);
       return false;
     }
-    ShowMessage(program, "Internal Error in ValidPath Function: Contact Developer", box_style::Ok,
+    ShowMessage(program, "Internal Error in ValidPath Function: Contact Developer", BoxButtons::Ok,
                 program.windows.titles.RangeErrorTitle);
     return true;
   }
@@ -67,7 +67,7 @@ bool ValidPath(Program& program, const std::string& path, bool quiet) {
 
 std::string FileNameFromPath(Program& program, const std::string& path, bool stripExtension) {
   if (EndsInSeparator(path)) {
-    ShowMessage(program, "Error in filename: " + path, box_style::Ok, program.windows.titles.ErrorTitle);
+    ShowMessage(program, "Error in filename: " + path, BoxButtons::Ok, program.windows.titles.ErrorTitle);
     return path;
   }
   const std::string_view name = NameBehindSeparator(path);
@@ -76,7 +76,7 @@ std::string FileNameFromPath(Program& program, const std::string& path, bool str
 
 bool CopyTextFile(Program& program, const std::string& source, const std::string& target) {
   if (!FileExists(program, source)) {
-    ShowMessage(program, "Requested File not found: " + source, box_style::Ok, program.windows.titles.ErrorTitle);
+    ShowMessage(program, "Requested File not found: " + source, BoxButtons::Ok, program.windows.titles.ErrorTitle);
     return false;
   }
   try {
@@ -89,7 +89,7 @@ bool CopyTextFile(Program& program, const std::string& source, const std::string
     copy->Close();
     return true;
   } catch (const RuntimeError&) {
-    ShowMessage(program, "File I/O problem with TMP file: ", box_style::Ok, program.windows.titles.ErrorTitle);
+    ShowMessage(program, "File I/O problem with TMP file: ", BoxButtons::Ok, program.windows.titles.ErrorTitle);
     return false;
   }
 }

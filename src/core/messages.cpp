@@ -101,12 +101,12 @@ void AppendHistoryLine(History& history, Integer maxDisplaySize, std::string_vie
 
 }  // namespace
 
-int ShowMessage(Program& program, const std::string& text, int style, const std::string& title,
-                const std::string& helpFile, int helpContext) {
+BoxResult ShowMessage(Program& program, const std::string& text, BoxStyle style, const std::string& title,
+                      const std::string& helpFile, int helpContext) {
   return ShowMessage(program, MessageBox{text, style, title, helpFile, helpContext, {}});
 }
 
-int ShowMessage(Program& program, MessageBox box) {
+BoxResult ShowMessage(Program& program, MessageBox box) {
   AddHistoryLine(program, (box.title.empty() ? "Message" : box.title) + ": " + box.text);
   if (box.title.empty()) box.title = ProgramTitle;
   return program.platform.boxes.Show(box);
@@ -124,7 +124,7 @@ void SetMessageTitles(Program& program, int moduleIndex) {
 
 void ContextHelpHint(Program& program) {
   ShowMessage(program, "Position the cursor on any item on the form and press F1 for context-sensitive Help",
-              box_style::Exclamation, "Help");
+              BoxIcon::Exclamation, "Help");
 }
 
 void AddHistoryLine(Program& program, std::string_view text) {
@@ -149,11 +149,11 @@ int ErrorDecision(Program& program, const RuntimeError& error, bool showMessage)
   AddHistoryLine(program, "Error " + std::string(error.number() < 0 ? "" : " ") + number + ":" + description);
   const std::string told = "Error occurred: " + description + " (" + number + ")";
   if (!rule.offersRetry) {
-    ShowMessage(program, told + ". Procedure Terminated", box_style::Ok);
+    ShowMessage(program, told + ". Procedure Terminated", BoxButtons::Ok);
     return rule.decision;
   }
-  const int answer = ShowMessage(program, told, box_style::RetryCancel, program.windows.titles.ErrorTitle);
-  return answer == box_result::Retry ? error_decision::Retry : rule.decision;
+  const BoxResult answer = ShowMessage(program, told, BoxButtons::RetryCancel, program.windows.titles.ErrorTitle);
+  return answer == BoxResult::Retry ? error_decision::Retry : rule.decision;
 }
 
 }  // namespace orby

@@ -21,13 +21,13 @@ inline constexpr int Calculator = 12;
 inline constexpr int Conversion = 13;
 }  // namespace message_module
 
-// Shows a message box after logging it as "title: text" ("Message: text" without a title), and gives the button's
-// code. style: box_style bits. An empty title becomes the program's.
-int ShowMessage(Program& program, const std::string& text, int style = box_style::Ok, const std::string& title = {},
-                const std::string& helpFile = {}, int helpContext = 0);
+// Shows a message box after logging it as "title: text" ("Message: text" without a title), and returns the
+// button that was pressed. An empty title becomes the program's.
+BoxResult ShowMessage(Program& program, const std::string& text, BoxStyle style = {}, const std::string& title = {},
+                      const std::string& helpFile = {}, int helpContext = 0);
 
 // The same for a box whose buttons have captions of their own.
-int ShowMessage(Program& program, MessageBox box);
+BoxResult ShowMessage(Program& program, MessageBox box);
 
 // Sets the titles to the module's prefix and each title's word. Throws RuntimeError 9 outside 1..13.
 void SetMessageTitles(Program& program, int moduleIndex);

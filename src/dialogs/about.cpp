@@ -33,7 +33,7 @@ void ShowAbout(Program& program) {
   ShowMessage(
       program,
       "Version: " + VersionText(true) + end + "Revision Date: " + RevisionDate() + end + end + std::string(Credits),
-      box_style::Ok, "About the " + std::string(ProgramTitle) + " Program");
+      BoxButtons::Ok, "About the " + std::string(ProgramTitle) + " Program");
 }
 
 }  // namespace orby

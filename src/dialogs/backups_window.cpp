@@ -160,12 +160,12 @@ void BackupsWindow::Delete() {
   const Backup entry = *Selected();
   std::string question = "Delete this backup for good?";
   question.append(LineEnd).append(LineEnd).append(Named(entry));
-  if (ShowMessage(program_, question, box_style::YesNo | box_style::Question | box_style::SecondButtonDefault) !=
-      box_result::Yes) {
+  if (ShowMessage(program_, question, {BoxButtons::YesNo, BoxIcon::Question, BoxDefault::SecondButton}) !=
+      BoxResult::Yes) {
     return;
   }
   if (!RemoveBackup(program_, entry)) {
-    ShowMessage(program_, "The backup could not be deleted: " + entry.Path, box_style::Exclamation);
+    ShowMessage(program_, "The backup could not be deleted: " + entry.Path, BoxIcon::Exclamation);
     return;
   }
   const int row = grdBackups.Row();
@@ -179,7 +179,7 @@ void BackupsWindow::OpenFolder() {
   if (folder.empty()) return;
   MakeBackupFolder(program_);
   if (program_.platform.documents.Open(std::string(WithoutSeparator(folder)))) return;
-  ShowMessage(program_, "The folder could not be opened: " + folder, box_style::Exclamation);
+  ShowMessage(program_, "The folder could not be opened: " + folder, BoxIcon::Exclamation);
 }
 
 }  // namespace orby

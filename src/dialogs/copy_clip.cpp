@@ -6,7 +6,7 @@ namespace orby {
 
 void CopyClip(Program& program, const Form& form) {
   program.platform.clipboard.SetPicture(form);
-  ShowMessage(program, "Screenshot of dialog copied to clipboard", box_style::Ok, program.windows.titles.MessageTitle);
+  ShowMessage(program, "Screenshot of dialog copied to clipboard", BoxButtons::Ok, program.windows.titles.MessageTitle);
 }
 
 }  // namespace orby

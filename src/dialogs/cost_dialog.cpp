@@ -155,7 +155,7 @@ bool CostDialog::ValidateCost() {
     TextBox& box = this->*row.Box;
     const auto number = FittingNumber(box.Text());
     if (number && *number >= 0) continue;
-    ShowMessage(program_, std::string(row.Fault), box_style::Critical, program_.windows.titles.RangeErrorTitle);
+    ShowMessage(program_, std::string(row.Fault), BoxIcon::Critical, program_.windows.titles.RangeErrorTitle);
     RequestFocus(box);
     return false;
   }

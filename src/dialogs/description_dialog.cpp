@@ -76,7 +76,7 @@ void DescriptionDialog::WarnOfLostLines() {
   if (!lost) return;
   std::string text = "This line will not come back as it is typed when the project is opened again:";
   text.append(LineEnd).append(LineEnd).append(lost->Line).append(LineEnd).append(LineEnd).append(lost->Reason);
-  ShowMessage(program_, text, box_style::Exclamation, program_.windows.titles.MessageTitle);
+  ShowMessage(program_, text, BoxIcon::Exclamation, program_.windows.titles.MessageTitle);
 }
 
 void DescriptionDialog::Accept() {

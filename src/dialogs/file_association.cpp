@@ -10,11 +10,11 @@ namespace orby {
 
 void AssociateFileExtension(Program& program) {
   const std::string extension = program.session.settings.FileExtension;
-  const int answer = ShowMessage(program,
-                                 "This operation may break an existing association of file extension " + extension +
-                                     " with other programs on this computer. Proceed?",
-                                 box_style::YesNo);
-  if (answer != box_result::Yes) return;
+  const BoxResult answer = ShowMessage(program,
+                                       "This operation may break an existing association of file extension " +
+                                           extension + " with other programs on this computer. Proceed?",
+                                       BoxButtons::YesNo);
+  if (answer != BoxResult::Yes) return;
   program.platform.windows.SetWaitCursor(true);
   program.platform.fileTypes.Associate(extension, std::string(ProgramTitle));
   program.platform.windows.SetWaitCursor(false);

@@ -141,10 +141,10 @@ void GraphWindow::Print() {
 
 void GraphWindow::AskAndExport() {
   if (program_.session.options.AskOfficeInstall == 0) {
-    const int answer =
+    const BoxResult answer =
         ShowMessage(program_, "This option will only work if Microsoft Excel is installed on this computer. Proceed?",
-                    box_style::YesNo);
-    if (answer != box_result::Yes) return;
+                    BoxButtons::YesNo);
+    if (answer != BoxResult::Yes) return;
   }
   Export();
 }

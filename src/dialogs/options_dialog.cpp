@@ -152,7 +152,7 @@ void OptionsDialog::GoTo(std::size_t page, TextBox& field) {
 }
 
 void OptionsDialog::TellFault(const std::string& fault) {
-  ShowMessage(program_, fault, box_style::Critical, program_.windows.titles.RangeErrorTitle);
+  ShowMessage(program_, fault, BoxIcon::Critical, program_.windows.titles.RangeErrorTitle);
 }
 
 bool OptionsDialog::CheckFaults() {
@@ -176,9 +176,9 @@ bool OptionsDialog::CheckWarnings() {
       TextBox& field = (this->*row.Boxes)[page];
       const double value = field.Value();
       if (value <= 0 || value >= row.Least) continue;
-      const int answer =
-          ShowMessage(program_, std::string(row.Question), box_style::YesNo, program_.windows.titles.RangeWarningTitle);
-      if (answer != box_result::No) continue;
+      const BoxResult answer = ShowMessage(program_, std::string(row.Question), BoxButtons::YesNo,
+                                           program_.windows.titles.RangeWarningTitle);
+      if (answer != BoxResult::No) continue;
       GoTo(page, field);
       return false;
     }

@@ -343,7 +343,7 @@ bool Fails(const Rule& rule, const D& dialog) {
 void Tell(Program& program, D& dialog, const Section& section, const Rule& rule) {
   std::string message(rule.message);
   if (rule.suffix != nullptr) message += rule.suffix(dialog);
-  ShowMessage(program, message, box_style::Critical, program.windows.titles.RangeErrorTitle);
+  ShowMessage(program, message, BoxIcon::Critical, program.windows.titles.RangeErrorTitle);
   dialog.SSTab1.SetTab(section.outerTab);
   const InnerTab& inner = rule.inner.tabs != nullptr ? rule.inner : section.inner;
   if (inner.tabs != nullptr) (dialog.*inner.tabs).SetTab(inner.tab);

@@ -51,7 +51,7 @@ void ParametersDialog::TellRefused(const Control& field) {
     }
     if (const auto* label = dynamic_cast<const Label*>(control)) caption = label->Caption();
     if (control != &field) continue;
-    ShowMessage(program_, fault_text::TooLarge(caption, ShownText(field)), box_style::Critical,
+    ShowMessage(program_, fault_text::TooLarge(caption, ShownText(field)), BoxIcon::Critical,
                 program_.windows.titles.RangeErrorTitle);
     SSTab1.SetTab(page->outerTab);
     if (page->inner != nullptr) (this->*page->inner).SetTab(page->innerTab);

@@ -142,7 +142,7 @@ bool SettingsDialog::CheckPath() {
   // A blank path is the root of the file system.
   Text2.SetText(WithSeparator(Text2.Text()));
   if (ValidPath(program_, Text2.Text(), true)) return true;
-  ShowMessage(program_, "Invalid Path for Data Files", box_style::Ok, program_.windows.titles.ErrorTitle);
+  ShowMessage(program_, "Invalid Path for Data Files", BoxButtons::Ok, program_.windows.titles.ErrorTitle);
   RequestFocus(Text2);
   return false;
 }
@@ -157,7 +157,7 @@ bool SettingsDialog::CheckHistorySize() {
 
 bool SettingsDialog::CheckExtension() {
   if (std::ranges::all_of(UpperCase(Text1.Text()), IsLetterOrDigit)) return true;
-  ShowMessage(program_, "Invalid character in file extension", box_style::Ok,
+  ShowMessage(program_, "Invalid character in file extension", BoxButtons::Ok,
               program_.windows.titles.InvalidCharacterTitle);
   RequestFocus(Text1);
   return false;

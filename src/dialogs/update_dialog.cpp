@@ -134,10 +134,10 @@ bool UpdateDialog::Accept(const VersionAnswer& answer) {
 }
 
 void UpdateDialog::Compare() {
-  constexpr int Style = box_style::YesNoCancel | box_style::Question;
+  constexpr BoxStyle Style{BoxButtons::YesNoCancel, BoxIcon::Question};
   if (!IsNewer(*offered_)) {
     ShowMessage(program_, "Program is up to date");
-  } else if (ShowMessage(program_, "A new version is available. Download?", Style) == box_result::Yes) {
+  } else if (ShowMessage(program_, "A new version is available. Download?", Style) == BoxResult::Yes) {
     FetchSetup();
   }
 }
@@ -205,7 +205,7 @@ void UpdateDialog::SetupArrived(const std::string& path, const FetchOutcome& out
 
 void UpdateDialog::EndDownload(const std::string& status) {
   lblStatus.SetCaption(status);
-  ShowMessage(program_, status, box_style::Exclamation);
+  ShowMessage(program_, status, BoxIcon::Exclamation);
 }
 
 std::string UpdateDialog::FileToStart(const std::string& setupFile) {

@@ -262,7 +262,7 @@ void KeepChanges(Program& program, const UnsavedProject& project, BackupReason r
   if (!aside.empty()) {
     text.append(LineEnd).append(LineEnd).append("What could be kept of them is in " + aside + ".");
   }
-  ShowMessage(program, text, box_style::Exclamation);
+  ShowMessage(program, text, BoxIcon::Exclamation);
 }
 
 std::vector<Backup> ListBackups(Program& program) {

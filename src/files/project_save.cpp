@@ -70,7 +70,7 @@ void FileSave(Program& program, bool& ok) {
 }
 
 void ShowRemarks(Program& program, const SaveRemarks& remarks) {
-  for (const std::string& remark : remarks) ShowMessage(program, remark, box_style::Exclamation);
+  for (const std::string& remark : remarks) ShowMessage(program, remark, BoxIcon::Exclamation);
 }
 
 }  // namespace orby

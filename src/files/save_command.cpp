@@ -50,9 +50,9 @@ bool FileMenuSave(Program& program, bool saveAs) {
 
 bool MayLeavePreviousFile(Program& program) {
   if (program.project.FileSaved) return true;
-  const int answer = ShowMessage(program, "Save changes to: " + program.project.PreviousFile + "?",
-                                 box_style::YesNo | box_style::Question | box_style::SecondButtonDefault);
-  if (answer != box_result::Yes) {
+  const BoxResult answer = ShowMessage(program, "Save changes to: " + program.project.PreviousFile + "?",
+                                       {BoxButtons::YesNo, BoxIcon::Question, BoxDefault::SecondButton});
+  if (answer != BoxResult::Yes) {
     UnsavedProject dropped = CommittedProject(program.project);
     dropped.CurrentFile = program.project.PreviousFile;
     KeepChanges(program, dropped);

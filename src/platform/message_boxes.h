@@ -6,30 +6,28 @@
 
 namespace orby {
 
-// A style is a sum of these bits; no bits mean an OK button alone.
-namespace box_style {
-inline constexpr int Ok = 0;
-inline constexpr int YesNoCancel = 3;
-inline constexpr int YesNo = 4;
-inline constexpr int RetryCancel = 5;
-inline constexpr int OkRetry = 7;
-inline constexpr int Critical = 16;
-inline constexpr int Question = 32;
-inline constexpr int Exclamation = 48;
-inline constexpr int SecondButtonDefault = 256;
-}  // namespace box_style
+enum class BoxButtons { Ok, YesNoCancel, YesNo, RetryCancel, OkRetry };
+enum class BoxIcon { None, Critical, Question, Exclamation };
+enum class BoxDefault { FirstButton, SecondButton };
 
-namespace box_result {
-inline constexpr int Ok = 1;
-inline constexpr int Cancel = 2;
-inline constexpr int Retry = 4;
-inline constexpr int Yes = 6;
-inline constexpr int No = 7;
-}  // namespace box_result
+struct BoxStyle {
+  // Converts, so that what is usual need not be named.
+  constexpr BoxStyle(BoxButtons buttons = BoxButtons::Ok, BoxIcon icon = BoxIcon::None,
+                     BoxDefault preset = BoxDefault::FirstButton)
+      : Buttons(buttons), Icon(icon), Default(preset) {}
+  constexpr BoxStyle(BoxIcon icon) : BoxStyle(BoxButtons::Ok, icon) {}
+  bool operator==(const BoxStyle&) const = default;
+
+  BoxButtons Buttons;
+  BoxIcon Icon;
+  BoxDefault Default;
+};
+
+enum class BoxResult { Ok, Cancel, Retry, Yes, No };
 
 struct MessageBox {
   std::string text;
-  int style = box_style::Ok;
+  BoxStyle style{};
   std::string title;
   std::string helpFile;
   int helpContext = 0;
@@ -39,8 +37,8 @@ struct MessageBox {
 class MessageBoxes {
  public:
   virtual ~MessageBoxes() = default;
-  // Shows the box, waits for its answer and gives the button's code (box_result).
-  virtual int Show(const MessageBox& box) = 0;
+  // Shows the box, waits for its answer and returns the button.
+  virtual BoxResult Show(const MessageBox& box) = 0;
 };
 
 }  // namespace orby

@@ -8,7 +8,7 @@ namespace orby {
 
 class NoMessageBoxes : public MessageBoxes {
  public:
-  int Show(const MessageBox&) override { return box_result::Cancel; }
+  BoxResult Show(const MessageBox&) override { return BoxResult::Cancel; }
 };
 
 class NoWindows : public Windows {

@@ -47,7 +47,7 @@ class ToolkitStart {
     window->Release();
     if (!StartAgain(QCoreApplication::applicationFilePath(), end->Next)) {
       desktop.boxes.Show(
-          {"The program could not be started again.", box_style::Critical, std::string(ProgramTitle), {}, 0});
+          {"The program could not be started again.", BoxIcon::Critical, std::string(ProgramTitle), {}, 0});
     }
   }
   std::_Exit(EXIT_FAILURE);

@@ -15,45 +15,41 @@ namespace orby {
 namespace {
 
 struct ButtonSet {
-  int style;
   std::array<QMessageBox::StandardButton, 3> buttons;  // in the order of which one is the default
   QMessageBox::StandardButton escape;                  // what the Escape key stands for
 };
 
 constexpr auto None = QMessageBox::NoButton;
 
-constexpr std::array ButtonSets{
-    ButtonSet{box_style::Ok, {QMessageBox::Ok, None, None}, QMessageBox::Ok},
-    ButtonSet{box_style::YesNoCancel, {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel}, QMessageBox::Cancel},
-    ButtonSet{box_style::YesNo, {QMessageBox::Yes, QMessageBox::No, None}, None},
-    ButtonSet{box_style::RetryCancel, {QMessageBox::Retry, QMessageBox::Cancel, None}, QMessageBox::Cancel},
-    ButtonSet{box_style::OkRetry, {QMessageBox::Ok, QMessageBox::Retry, None}, QMessageBox::Ok},
-};
-
-constexpr int ButtonBits = 15;
-constexpr int IconBits = 0x70;
-
-const ButtonSet& ButtonsOf(int style) {
-  const auto* found = std::ranges::find(ButtonSets, style & ButtonBits, &ButtonSet::style);
-  return found == ButtonSets.end() ? ButtonSets.front() : *found;
-}
-
-QMessageBox::Icon IconOf(int style) {
-  switch (style & IconBits) {
-    case box_style::Critical: return QMessageBox::Critical;
-    case box_style::Question: return QMessageBox::Question;
-    case box_style::Exclamation: return QMessageBox::Warning;
-    default: return QMessageBox::NoIcon;
+ButtonSet ButtonsOf(BoxButtons buttons) {
+  switch (buttons) {
+    case BoxButtons::Ok: break;
+    case BoxButtons::YesNoCancel:
+      return {{QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel}, QMessageBox::Cancel};
+    case BoxButtons::YesNo: return {{QMessageBox::Yes, QMessageBox::No, None}, None};
+    case BoxButtons::RetryCancel: return {{QMessageBox::Retry, QMessageBox::Cancel, None}, QMessageBox::Cancel};
+    case BoxButtons::OkRetry: return {{QMessageBox::Ok, QMessageBox::Retry, None}, QMessageBox::Ok};
   }
+  return {{QMessageBox::Ok, None, None}, QMessageBox::Ok};
 }
 
-int ResultOf(int button) {
+QMessageBox::Icon IconOf(BoxIcon icon) {
+  switch (icon) {
+    case BoxIcon::None: break;
+    case BoxIcon::Critical: return QMessageBox::Critical;
+    case BoxIcon::Question: return QMessageBox::Question;
+    case BoxIcon::Exclamation: return QMessageBox::Warning;
+  }
+  return QMessageBox::NoIcon;
+}
+
+BoxResult ResultOf(int button) {
   switch (button) {
-    case QMessageBox::Yes: return box_result::Yes;
-    case QMessageBox::No: return box_result::No;
-    case QMessageBox::Retry: return box_result::Retry;
-    case QMessageBox::Cancel: return box_result::Cancel;
-    default: return box_result::Ok;
+    case QMessageBox::Yes: return BoxResult::Yes;
+    case QMessageBox::No: return BoxResult::No;
+    case QMessageBox::Retry: return BoxResult::Retry;
+    case QMessageBox::Cancel: return BoxResult::Cancel;
+    default: return BoxResult::Ok;
   }
 }
 
@@ -96,10 +92,10 @@ QWidget* WindowInUse() {
 
 }  // namespace
 
-int QtMessageBoxes::Show(const MessageBox& box) {
-  const ButtonSet& set = ButtonsOf(box.style);
+BoxResult QtMessageBoxes::Show(const MessageBox& box) {
+  const ButtonSet set = ButtonsOf(box.style.Buttons);
   Box shown(WindowInUse(), set.escape == None);
-  shown.setIcon(IconOf(box.style));
+  shown.setIcon(IconOf(box.style.Icon));
   shown.setTextFormat(Qt::PlainText);
   shown.setText(ToQtLines(box.text));
   shown.setWindowTitle(ToQt(box.title));
@@ -109,7 +105,7 @@ int QtMessageBoxes::Show(const MessageBox& box) {
   for (std::size_t at = 0; at < std::min(box.captions.size(), set.buttons.size()); ++at) {
     if (auto* button = shown.button(set.buttons[at])) button->setText("&" + ToQt(box.captions[at]).replace("&", "&&"));
   }
-  shown.setDefaultButton(set.buttons[(box.style & box_style::SecondButtonDefault) != 0 ? 1 : 0]);
+  shown.setDefaultButton(set.buttons[box.style.Default == BoxDefault::SecondButton ? 1 : 0]);
   if (set.escape != None) shown.setEscapeButton(shown.button(set.escape));
   return ResultOf(shown.exec());
 }

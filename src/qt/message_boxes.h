@@ -7,7 +7,7 @@ namespace orby {
 
 class QtMessageBoxes : public MessageBoxes {
  public:
-  int Show(const MessageBox& box) override;
+  BoxResult Show(const MessageBox& box) override;
 };
 
 }  // namespace orby

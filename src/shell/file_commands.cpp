@@ -93,8 +93,8 @@ void MainWindow::UpdateRecentFiles() {
 
 bool MainWindow::MayPrint() {
   return !program_.project.FileEmpty ||
-         ShowMessage(program_, "Current file is empty. Continue?", box_style::YesNo | box_style::SecondButtonDefault) ==
-             box_result::Yes;
+         ShowMessage(program_, "Current file is empty. Continue?",
+                     {BoxButtons::YesNo, BoxIcon::None, BoxDefault::SecondButton}) == BoxResult::Yes;
 }
 
 bool MainWindow::BuildPages() {

@@ -103,13 +103,13 @@ void MainWindow::Dropped(const std::string& path) { OpenFile(path, Trap::Set); }
 
 bool MainWindow::MayClose() {
   if (program_.project.FileSaved) return true;
-  const int answer = ShowMessage(program_, "Save changes to: " + program_.project.CurrentFile + "?",
-                                 box_style::YesNoCancel | box_style::Question);
-  if (answer == box_result::No) {
+  const BoxResult answer = ShowMessage(program_, "Save changes to: " + program_.project.CurrentFile + "?",
+                                       {BoxButtons::YesNoCancel, BoxIcon::Question});
+  if (answer == BoxResult::No) {
     KeepChanges(program_, CommittedProject(program_.project));
     return true;
   }
-  return answer == box_result::Yes && SaveProject(false);
+  return answer == BoxResult::Yes && SaveProject(false);
 }
 
 void MainWindow::OnClose() {

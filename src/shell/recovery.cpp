@@ -76,7 +76,7 @@ std::optional<UnsavedProject> Recovery::TakeLostProject() {
   std::string bytes;
   if (!Succeeds([&] { bytes = program_.platform.files.ReadFile(path_); })) {
     ShowMessage(program_, "The unsaved work of an earlier run could not be read. It is kept in " + PutAside() + ".",
-                box_style::Exclamation);
+                BoxIcon::Exclamation);
     return std::nullopt;
   }
   written_ = bytes;
@@ -90,7 +90,7 @@ void Recovery::KeepDamagedFile() {
     const auto kept = KeepDamaged(program_, written_);
     if (!kept) {
       ShowMessage(program_, "A damaged recovery file could not be kept in Backups: " + PutAside(),
-                  box_style::Exclamation);
+                  BoxIcon::Exclamation);
       return;
     }
     AddHistoryLine(program_, "Damaged recovery file kept in Backups: " + *kept);
@@ -122,11 +122,11 @@ bool Recovery::Ask(const std::string& otherFile) {
   if (!project) return false;
   MessageBox box;
   box.text = Question(*project);
-  box.style = box_style::YesNo | box_style::Question;
+  box.style = {BoxButtons::YesNo, BoxIcon::Question};
   if (!otherFile.empty()) {
     box.captions = {"Recover", "Open " + ShortenedPath(NameBehindSeparator(otherFile)) + " instead"};
   }
-  if (ShowMessage(program_, box) == box_result::Yes) {
+  if (ShowMessage(program_, box) == BoxResult::Yes) {
     RestoreProject(program_.project, *project);
     return true;
   }

@@ -42,13 +42,13 @@ MessageBox RunEndBox(const RuntimeError& error, const std::optional<RunEnd>& end
   text += gap + "The error happened ";
   text += error.circumstance().empty() ? UnnamedAct : error.circumstance();
   text += '.';
-  MessageBox box{{}, box_style::Critical, std::string(ProgramTitle), {}, 0, {}};
+  MessageBox box{{}, BoxIcon::Critical, std::string(ProgramTitle), {}, 0, {}};
   if (end) {
     text += gap;
     text += KeptWords(end->Kept);
     text += LineEnd;
     text += NextWords(end->Next);
-    box.style |= box_style::OkRetry;
+    box.style.Buttons = BoxButtons::OkRetry;
     box.captions = {"OK", "Start Again"};
   }
   box.text = std::move(text);

@@ -36,6 +36,6 @@ struct RunEnd {
 // The box that tells the error. Its first button ends the run. Its second one, which is there where something has been
 // begun, starts the program again.
 MessageBox RunEndBox(const RuntimeError& error, const std::optional<RunEnd>& end);
-inline constexpr int StartAgainButton = box_result::Retry;
+inline constexpr BoxResult StartAgainButton = BoxResult::Retry;
 
 }  // namespace orby

@@ -34,8 +34,7 @@ void TellThatNoneCanBeKept(Program& program, const RuntimeError& error) {
   const std::string trouble = "Configuration file cannot be used: " + program.session.IniFilePath + " (" +
                               std::string(error.description()) + "). Built-in settings are in force";
   AddHistoryLine(program, trouble);
-  ShowMessage(program, trouble + " and changes to them may be lost.", box_style::Exclamation,
-              std::string(ProgramTitle));
+  ShowMessage(program, trouble + " and changes to them may be lost.", BoxIcon::Exclamation, std::string(ProgramTitle));
 }
 
 IniText SettledConfiguration(Program& program) {

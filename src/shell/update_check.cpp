@@ -34,7 +34,7 @@ void UpdateCheck::Start() {
 
 void UpdateCheck::Compare(const OfferedVersion& offered) {
   AddHistoryLine(program_, "Server/Current: " + offered.version + "/" + VersionText(true));
-  if (!IsNewer(offered) || ShowMessage(program_, Question(), box_style::YesNo) != box_result::Yes) return;
+  if (!IsNewer(offered) || ShowMessage(program_, Question(), BoxButtons::YesNo) != BoxResult::Yes) return;
   UpdateDialog dialog(program_, offered);
   ShowForm(program_, dialog);
 }

@@ -29,22 +29,24 @@ struct ErrorBench : ProgramBench {
 struct ErrorOfADevice : ErrorBench, testing::WithParamInterface<ErrorCase> {};
 
 TEST_P(ErrorOfADevice, IsRetriedWhenTheUserWishes) {
-  platform.boxes.answers = {box_result::Retry};
+  platform.boxes.answers = {BoxResult::Retry};
 
   const int decision = ErrorDecision(program, RuntimeError(GetParam().number), true);
 
   EXPECT_EQ(decision, 0);
   EXPECT_EQ(FirstLogLine(), GetParam().log);
-  EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox(GetParam().box, 5, "Project Parameters: Error")));
+  EXPECT_THAT(platform.boxes.shown,
+              ElementsAre(IsBox(GetParam().box, BoxButtons::RetryCancel, "Project Parameters: Error")));
 }
 
 TEST_P(ErrorOfADevice, IsPassedOverWhenTheUserCancels) {
-  platform.boxes.answers = {box_result::Cancel};
+  platform.boxes.answers = {BoxResult::Cancel};
 
   const int decision = ErrorDecision(program, RuntimeError(GetParam().number), true);
 
   EXPECT_EQ(decision, 1);
-  EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox(GetParam().box, 5, "Project Parameters: Error")));
+  EXPECT_THAT(platform.boxes.shown,
+              ElementsAre(IsBox(GetParam().box, BoxButtons::RetryCancel, "Project Parameters: Error")));
 }
 
 TEST_P(ErrorOfADevice, IsPassedOverInSilence) {
@@ -91,11 +93,11 @@ TEST_P(ErrorThatEndsACommand, IsToldOnceAndGivenUp) {
 
   EXPECT_EQ(decision, 3);
   EXPECT_EQ(FirstLogLine(), GetParam().log);
-  EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox(GetParam().box, 0, "Orby Roof Support Workbench")));
+  EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox(GetParam().box, BoxButtons::Ok, "Orby Roof Support Workbench")));
 }
 
 TEST_P(ErrorThatEndsACommand, IsNotRetriedWhateverTheBoxAnswers) {
-  platform.boxes.answers = {box_result::Retry};
+  platform.boxes.answers = {BoxResult::Retry};
 
   EXPECT_EQ(ErrorDecision(program, RuntimeError(GetParam().number), true), 3);
 }
@@ -183,7 +185,7 @@ TEST_F(DataBaseError, IsToldWithItsSignedNumber) {
   EXPECT_THAT(platform.boxes.shown,
               ElementsAre(IsBox("Error occurred: Application-defined or object-defined error (-2147217900). "
                                 "Procedure Terminated",
-                                0, "Orby Roof Support Workbench")));
+                                BoxButtons::Ok, "Orby Roof Support Workbench")));
 }
 
 TEST_F(DataBaseError, KeepsItsDecisionInSilence) {

@@ -56,7 +56,8 @@ TEST_P(HopelessPathSearch, NamesTheInvalidPath) {
 
   EXPECT_FALSE(ValidPath(program, "/mine", false));
 
-  EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Invalid path: /mine", 0, "Program Options: Error")));
+  EXPECT_THAT(platform.boxes.shown,
+              ElementsAre(IsBox("Invalid path: /mine", BoxButtons::Ok, "Program Options: Error")));
   EXPECT_EQ(program.session.history.Text, "1. Program Options: Error: Invalid path: /mine\r\n");
 }
 
@@ -79,8 +80,8 @@ TEST_P(UnexpectedPathTrouble, IsAnInternalErrorAndThePathCounts) {
 
   EXPECT_TRUE(ValidPath(program, "/mine", false));
 
-  EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Internal Error in ValidPath Function: Contact Developer", 0,
-                                                      "Program Options: Range Error")));
+  EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Internal Error in ValidPath Function: Contact Developer",
+                                                      BoxButtons::Ok, "Program Options: Range Error")));
 }
 
 TEST_P(UnexpectedPathTrouble, IsToldAlsoWhenQuiet) {
@@ -133,8 +134,9 @@ TEST_F(FileName, OfAPathEndingInASeparatorIsToldOnceAndThePathItself) {
   EXPECT_EQ(FileNameFromPath(program, "/mine/", true), "/mine/");
   EXPECT_EQ(FileNameFromPath(program, "C:\\mine\\", false), "C:\\mine\\");
 
-  EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Error in filename: /mine/", 0, "Program Options: Error"),
-                                                IsBox("Error in filename: C:\\mine\\", 0, "Program Options: Error")));
+  EXPECT_THAT(platform.boxes.shown,
+              ElementsAre(IsBox("Error in filename: /mine/", BoxButtons::Ok, "Program Options: Error"),
+                          IsBox("Error in filename: C:\\mine\\", BoxButtons::Ok, "Program Options: Error")));
 }
 
 using TextFileCopy = FileBench;
@@ -177,8 +179,8 @@ TEST_F(TextFileCopy, LeavesTheSourceAsItIs) {
 TEST_F(TextFileCopy, NamesASourceThatIsNotThere) {
   EXPECT_FALSE(CopyTextFile(program, "/mine/missing.txt", "/tmp/copy.txt"));
 
-  EXPECT_THAT(platform.boxes.shown,
-              ElementsAre(IsBox("Requested File not found: /mine/missing.txt", 0, "Program Options: Error")));
+  EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Requested File not found: /mine/missing.txt", BoxButtons::Ok,
+                                                      "Program Options: Error")));
   EXPECT_THAT(platform.files.created, IsEmpty());
 }
 
@@ -193,7 +195,7 @@ TEST_F(TextFileCopy, TellsOfAFailureAtAnyStep) {
     EXPECT_FALSE(CopyTextFile(copying, "/mine/notes.txt", "/tmp/copy.txt"));
 
     EXPECT_THAT(failing.boxes.shown,
-                ElementsAre(IsBox("File I/O problem with TMP file: ", 0, "Program Options: Error")));
+                ElementsAre(IsBox("File I/O problem with TMP file: ", BoxButtons::Ok, "Program Options: Error")));
   }
 }
 
@@ -212,7 +214,7 @@ TEST_F(TextFileCopy, OntoItselfIsRefusedAndLeavesTheFileAsItIs) {
   EXPECT_FALSE(CopyTextFile(program, "/mine/notes.txt", "/mine/notes.txt"));
 
   EXPECT_THAT(platform.boxes.shown,
-              ElementsAre(IsBox("File I/O problem with TMP file: ", 0, "Program Options: Error")));
+              ElementsAre(IsBox("File I/O problem with TMP file: ", BoxButtons::Ok, "Program Options: Error")));
   EXPECT_EQ(platform.files.files["/mine/notes.txt"], "one\ntwo");
 }
 

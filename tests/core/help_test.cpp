@@ -57,7 +57,7 @@ TEST_F(Help, TellsOfAFileThatIsNotThere) {
   OpenHelpContents(program);
 
   EXPECT_THAT(platform.help.shown, IsEmpty());
-  EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Help file (/program/ORBY.CHM) not available", box_style::Ok,
+  EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Help file (/program/ORBY.CHM) not available", BoxButtons::Ok,
                                                       "Orby Roof Support Workbench")));
 }
 

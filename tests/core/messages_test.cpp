@@ -10,22 +10,24 @@ using testing::ElementsAre;
 using ShowMessageBox = ProgramBench;
 
 TEST_F(ShowMessageBox, WithATitleIsLoggedUnderThatTitle) {
-  ShowMessage(program, "Depth must be above 0", box_style::Critical, "Project Parameters: Range Error");
+  ShowMessage(program, "Depth must be above 0", BoxIcon::Critical, "Project Parameters: Range Error");
 
   EXPECT_EQ(program.session.history.Text, "1. Project Parameters: Range Error: Depth must be above 0\r\n");
-  EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Depth must be above 0", 16, "Project Parameters: Range Error")));
+  EXPECT_THAT(platform.boxes.shown,
+              ElementsAre(IsBox("Depth must be above 0", BoxIcon::Critical, "Project Parameters: Range Error")));
 }
 
 TEST_F(ShowMessageBox, WithoutATitleIsLoggedAsAMessageAndBearsTheProgramsTitle) {
   ShowMessage(program, "Current file is empty");
 
   EXPECT_EQ(program.session.history.Text, "1. Message: Current file is empty\r\n");
-  EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Current file is empty", 0, "Orby Roof Support Workbench")));
+  EXPECT_THAT(platform.boxes.shown,
+              ElementsAre(IsBox("Current file is empty", BoxButtons::Ok, "Orby Roof Support Workbench")));
 }
 
 TEST_F(ShowMessageBox, IsLoggedBeforeItIsAnswered) {
   struct LogReadingBoxes : RecordingBoxes {
-    int Show(const MessageBox& box) override {
+    BoxResult Show(const MessageBox& box) override {
       logWhenShown = program->session.history.Text;
       return RecordingBoxes::Show(box);
     }
@@ -35,26 +37,28 @@ TEST_F(ShowMessageBox, IsLoggedBeforeItIsAnswered) {
   Program asking(platform.DoorsWith(boxes));
   boxes.program = &asking;
 
-  ShowMessage(asking, "Save changes?", box_style::YesNoCancel, "Save");
+  ShowMessage(asking, "Save changes?", BoxButtons::YesNoCancel, "Save");
 
   EXPECT_EQ(boxes.logWhenShown, "1. Save: Save changes?\r\n");
 }
 
 TEST_F(ShowMessageBox, GivesTheButtonThatWasPressed) {
-  platform.boxes.answers = {2, 6, 7, 4};
+  platform.boxes.answers = {BoxResult::Cancel, BoxResult::Yes, BoxResult::No, BoxResult::Retry};
 
-  EXPECT_EQ(ShowMessage(program, "Save changes?", box_style::YesNoCancel), 2);
-  EXPECT_EQ(ShowMessage(program, "Save changes?", box_style::YesNo), 6);
-  EXPECT_EQ(ShowMessage(program, "Save changes?", box_style::YesNo), 7);
-  EXPECT_EQ(ShowMessage(program, "Printer is off", box_style::RetryCancel), 4);
-  EXPECT_EQ(ShowMessage(program, "Done"), 1);
+  EXPECT_EQ(ShowMessage(program, "Save changes?", BoxButtons::YesNoCancel), BoxResult::Cancel);
+  EXPECT_EQ(ShowMessage(program, "Save changes?", BoxButtons::YesNo), BoxResult::Yes);
+  EXPECT_EQ(ShowMessage(program, "Save changes?", BoxButtons::YesNo), BoxResult::No);
+  EXPECT_EQ(ShowMessage(program, "Printer is off", BoxButtons::RetryCancel), BoxResult::Retry);
+  EXPECT_EQ(ShowMessage(program, "Done"), BoxResult::Ok);
 }
 
 TEST_F(ShowMessageBox, PassesStyleAndHelpThrough) {
-  ShowMessage(program, "Download now?", 3 + 32 + 256, "Update", "ORBY.CHM", 1200);
+  ShowMessage(program, "Download now?", {BoxButtons::YesNoCancel, BoxIcon::Question, BoxDefault::SecondButton},
+              "Update", "ORBY.CHM", 1200);
 
   ASSERT_EQ(platform.boxes.shown.size(), 1U);
-  EXPECT_EQ(platform.boxes.shown[0].style, 291);
+  EXPECT_EQ(platform.boxes.shown[0].style,
+            BoxStyle(BoxButtons::YesNoCancel, BoxIcon::Question, BoxDefault::SecondButton));
   EXPECT_EQ(platform.boxes.shown[0].helpFile, "ORBY.CHM");
   EXPECT_EQ(platform.boxes.shown[0].helpContext, 1200);
 }
@@ -66,17 +70,6 @@ TEST_F(ShowMessageBox, IsShownAlsoWhenTheHistoryIsOff) {
 
   EXPECT_EQ(program.session.history.Text, "");
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Current file is empty"));
-}
-
-TEST_F(ShowMessageBox, StylesAreTheSystemsBits) {
-  EXPECT_EQ(box_style::Ok, 0);
-  EXPECT_EQ(box_style::YesNoCancel, 3);
-  EXPECT_EQ(box_style::YesNo, 4);
-  EXPECT_EQ(box_style::RetryCancel, 5);
-  EXPECT_EQ(box_style::Critical, 16);
-  EXPECT_EQ(box_style::Question, 32);
-  EXPECT_EQ(box_style::Exclamation, 48);
-  EXPECT_EQ(box_style::SecondButtonDefault, 256);
 }
 
 struct ModuleTitles {
@@ -164,7 +157,7 @@ TEST_F(HelpHint, TellsHowToGetHelpOnAField) {
 
   EXPECT_THAT(platform.boxes.shown,
               ElementsAre(IsBox("Position the cursor on any item on the form and press F1 for context-sensitive Help",
-                                48, "Help")));
+                                BoxIcon::Exclamation, "Help")));
   EXPECT_EQ(program.session.history.Text,
             "1. Help: Position the cursor on any item on the form and press F1 for context-sensitive Help\r\n");
 }

@@ -13,7 +13,7 @@ struct ProgramBench : testing::Test {
   Program program{platform.Doors()};
 };
 
-inline auto IsBox(const std::string& text, int style, const std::string& title) {
+inline auto IsBox(const std::string& text, BoxStyle style, const std::string& title) {
   using testing::AllOf;
   using testing::Field;
   return AllOf(Field("text", &MessageBox::text, text), Field("style", &MessageBox::style, style),

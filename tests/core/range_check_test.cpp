@@ -25,7 +25,7 @@ TEST_F(ARangeCheck, TellsFieldValueAndRange) {
   EXPECT_FALSE(RangeCheck(program, "0", 1, 5, "Depth"));
 
   EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Depth: Value '0' is outside input range\r\nValid range is: 1-5",
-                                                      16, "Settings: Range Error")));
+                                                      BoxIcon::Critical, "Settings: Range Error")));
 }
 
 TEST_F(ARangeCheck, RefusesAValueAboveTheRange) {
@@ -43,7 +43,8 @@ TEST_F(ARangeCheck, QuotesTheValueWithoutTheBlanksAroundIt) {
 TEST_F(ARangeCheck, CallsAFieldOfBlanksBlankAndNotOutOfRange) {
   EXPECT_FALSE(RangeCheck(program, "   ", 0, 5, "Depth"));
 
-  EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Depth: Blank field not allowed", 16, "Settings: Range Error")));
+  EXPECT_THAT(platform.boxes.shown,
+              ElementsAre(IsBox("Depth: Blank field not allowed", BoxIcon::Critical, "Settings: Range Error")));
 }
 
 TEST_F(ARangeCheck, CallsAnEmptyFieldBlankAlsoWhen0WouldDo) {

@@ -30,7 +30,7 @@ TEST_F(CommandStep, ThatSucceedsRunsOnceAndSaysNothing) {
 }
 
 TEST_F(CommandStep, RunsAgainAsLongAsTheUserRetries) {
-  platform.boxes.answers = {box_result::Retry, box_result::Retry};
+  platform.boxes.answers = {BoxResult::Retry, BoxResult::Retry};
 
   EXPECT_EQ(Run({53, 482}), StepOutcome::Done);
 
@@ -40,7 +40,7 @@ TEST_F(CommandStep, RunsAgainAsLongAsTheUserRetries) {
 }
 
 TEST_F(CommandStep, IsPassedOverWhenTheUserDoesNotRetry) {
-  platform.boxes.answers = {box_result::Retry, box_result::Cancel};
+  platform.boxes.answers = {BoxResult::Retry, BoxResult::Cancel};
 
   EXPECT_EQ(Run({61, 61, 61}), StepOutcome::PassedOver);
 
@@ -66,7 +66,7 @@ TEST_F(CommandStep, IsGivenUpOnAnErrorOfADataBase) { EXPECT_EQ(Run({-2147217900}
 TEST_F(CommandStep, HasTheNormalCursorBackBeforeTheUserIsAsked) {
   struct CursorWatchingBoxes : RecordingBoxes {
     explicit CursorWatchingBoxes(const RecordingWindows& watched) : windows(watched) {}
-    int Show(const MessageBox& box) override {
+    BoxResult Show(const MessageBox& box) override {
       waitingWhenShown.push_back(windows.waitCursor);
       return RecordingBoxes::Show(box);
     }

@@ -54,8 +54,8 @@ TEST_F(OptionArrayIndex, BeyondTheArrayIsToldAndThenASubscriptError) {
 
   EXPECT_EQ(ErrorNumberOf([this] { SetArrayIndex(program, source, 3); }), 9);
 
-  EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Internal Error: SetArrayIndex. Check input/form data.", 0,
-                                                      "Project Parameters: Range Error")));
+  EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Internal Error: SetArrayIndex. Check input/form data.",
+                                                      BoxButtons::Ok, "Project Parameters: Range Error")));
   EXPECT_FALSE(source.Value(0) || source.Value(1) || source.Value(2));
   EXPECT_THAT(clicks, IsEmpty());
 }

@@ -215,7 +215,7 @@ TEST_F(TheBackupsWindow, PutsBackTheFileThatItCannotSaveOver) {
   backups.Open();
   backups.grdBackups.SetRow(2);
   platform.fileDialogs.answers = {Panel3};
-  platform.boxes.answers = {box_result::Cancel};
+  platform.boxes.answers = {BoxResult::Cancel};
   platform.files.Fail(Step::Close, error_number::DiskFull);
 
   backups.cmdSaveAs.Press();
@@ -243,7 +243,7 @@ struct SpoilingBackupsWindow : TheBackupsWindow {
     backups.Open();
     backups.grdBackups.SetRow(backups.grdBackups.Rows() - 1);
     platform.fileDialogs.answers = {path};
-    platform.boxes.answers = {box_result::Cancel};
+    platform.boxes.answers = {BoxResult::Cancel};
     platform.files.Fail(Step::Cut, error_number::DiskFull, 0, failures);
     backups.cmdSaveAs.Press();
     platform.files.Mend();
@@ -281,7 +281,7 @@ TEST_F(SpoilingBackupsWindow, TellsOnlyOfTheAttemptThatCounts) {
   backups.Open();
   backups.grdBackups.SetRow(2);
   platform.fileDialogs.answers = {Panel3, Panel3};
-  platform.boxes.answers = {box_result::Retry};
+  platform.boxes.answers = {BoxResult::Retry};
   platform.files.Fail(Step::Cut, error_number::DiskFull, 0, 1);
 
   backups.cmdSaveAs.Press();
@@ -303,13 +303,14 @@ TEST_F(TheBackupsWindow, SavesNothingWhenTheNameIsNotGiven) {
 TEST_F(TheBackupsWindow, DeletesOneAfterAQuestion) {
   KeepTwo();
   backups.Open();
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
 
   backups.cmdDelete.Press();
 
   EXPECT_THAT(platform.boxes.Texts(),
               ElementsAre("Delete this backup for good?\r\n\r\npanel3.orb of 2031-03-09 14:05:07"));
-  EXPECT_EQ(platform.boxes.shown.front().style, 292);
+  EXPECT_EQ(platform.boxes.shown.front().style,
+            BoxStyle(BoxButtons::YesNo, BoxIcon::Question, BoxDefault::SecondButton));
   EXPECT_EQ(backups.grdBackups.Rows(), 2);
   EXPECT_EQ(backups.txtProject.Text(), Panel4);
   EXPECT_THAT(ListBackups(program), SizeIs(1));
@@ -318,7 +319,7 @@ TEST_F(TheBackupsWindow, DeletesOneAfterAQuestion) {
 TEST_F(TheBackupsWindow, DeletesAllOneByOne) {
   KeepTwo();
   backups.Open();
-  platform.boxes.answers = {box_result::Yes, box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes, BoxResult::Yes};
 
   backups.grdBackups.SetRow(2);
   backups.cmdDelete.Press();
@@ -332,7 +333,7 @@ TEST_F(TheBackupsWindow, DeletesAllOneByOne) {
 TEST_F(TheBackupsWindow, DeletesNothingOnNo) {
   KeepTwo();
   backups.Open();
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   backups.cmdDelete.Press();
 
@@ -342,7 +343,7 @@ TEST_F(TheBackupsWindow, DeletesNothingOnNo) {
 TEST_F(TheBackupsWindow, TellsOfOneThatCannotBeDeleted) {
   KeepTwo();
   backups.Open();
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
   platform.files.Fail(Step::Remove, error_number::PermissionDenied);
 
   backups.cmdDelete.Press();

@@ -101,7 +101,7 @@ TEST_F(AConversion, TellsThatItIsDone) {
   ASSERT_EQ(platform.boxes.shown.size(), 1U);
   EXPECT_EQ(platform.boxes.shown[0].text, "Conversion Completed: The conversion form will be closed");
   EXPECT_EQ(platform.boxes.shown[0].title, "Orby Roof Support Workbench");
-  EXPECT_EQ(platform.boxes.shown[0].style, box_style::Ok);
+  EXPECT_EQ(platform.boxes.shown[0].style, BoxButtons::Ok);
   EXPECT_EQ(program.session.history.Text,
             "1. Loading File Conversion Form\r\n"
             "2. Message: Conversion Completed: The conversion form will be closed\r\n");

@@ -55,7 +55,7 @@ TEST_F(ACostDialog, TellsOfTheFirstNegativeNumberAlone) {
     ASSERT_EQ(platform.boxes.shown.size(), 1U) << fault.name;
     EXPECT_EQ(platform.boxes.shown[0].text, fault.message);
     EXPECT_EQ(platform.boxes.shown[0].title, "Project Parameters: Range Error");
-    EXPECT_EQ(platform.boxes.shown[0].style, box_style::Critical);
+    EXPECT_EQ(platform.boxes.shown[0].style, BoxIcon::Critical);
     EXPECT_EQ(dialog.FocusRequest(), &Box(fault.name));
     Box(fault.name).SetText("0");
   }

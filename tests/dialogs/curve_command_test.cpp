@@ -26,7 +26,7 @@ TEST_F(ACurve, TellsInFixedWordsThatTheRatingWasTrimmed) {
   TakeCurve(program, design, 0);
 
   ASSERT_THAT(platform.boxes.Texts(), ElementsAre("Upper limit for CMRR trimmed to 51"));
-  EXPECT_EQ(platform.boxes.shown[0].style, 0);
+  EXPECT_EQ(platform.boxes.shown[0].style, BoxButtons::Ok);
   EXPECT_EQ(platform.boxes.shown[0].title, "Orby Roof Support Workbench");
 }
 

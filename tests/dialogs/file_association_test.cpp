@@ -24,12 +24,12 @@ TEST_F(FileAssociation, AsksFirst) {
   EXPECT_EQ(platform.boxes.shown[0].text,
             "This operation may break an existing association of file extension ORB with other programs on this "
             "computer. Proceed?");
-  EXPECT_EQ(platform.boxes.shown[0].style, box_style::YesNo);
+  EXPECT_EQ(platform.boxes.shown[0].style, BoxButtons::YesNo);
   EXPECT_EQ(platform.boxes.shown[0].title, "Orby Roof Support Workbench");
 }
 
 TEST_F(FileAssociation, ChangesNothingOnNo) {
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   AssociateFileExtension(program);
 
@@ -39,7 +39,7 @@ TEST_F(FileAssociation, ChangesNothingOnNo) {
 
 TEST_F(FileAssociation, HandsTheDesktopTheExtensionAsItWasTyped) {
   program.session.settings.FileExtension = "Orb";
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
 
   AssociateFileExtension(program);
 
@@ -48,7 +48,7 @@ TEST_F(FileAssociation, HandsTheDesktopTheExtensionAsItWasTyped) {
 }
 
 TEST_F(FileAssociation, TellsWhatItHasDone) {
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
 
   AssociateFileExtension(program);
 
@@ -67,7 +67,7 @@ TEST_F(FileAssociation, ShowsThatTheUserHasToWaitUntilItIsDone) {
     bool waited = false;
   } slow(platform.windows);
   Program other(platform.DoorsWith(slow));
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
 
   AssociateFileExtension(other);
 

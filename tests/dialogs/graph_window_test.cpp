@@ -362,7 +362,7 @@ TEST_F(GraphOfACurve, IsNotPrintedWhenThePrinterDialogIsCancelled) {
 TEST_F(GraphOfACurve, OffersToTryAPrinterThatFailsAgain) {
   window.ShowCurve(1);
   platform.printer.error = error_number::Printer;
-  platform.boxes.answers = {box_result::Retry, box_result::Cancel};
+  platform.boxes.answers = {BoxResult::Retry, BoxResult::Cancel};
 
   window.GraphFileItem.ClickItem(Print);
 
@@ -370,7 +370,7 @@ TEST_F(GraphOfACurve, OffersToTryAPrinterThatFailsAgain) {
   EXPECT_EQ(platform.printer.printedChart, "");
   ASSERT_THAT(platform.boxes.shown, SizeIs(2));
   EXPECT_EQ(platform.boxes.shown[0].text, "Error occurred: Printer error (482)");
-  EXPECT_EQ(platform.boxes.shown[0].style, box_style::RetryCancel);
+  EXPECT_EQ(platform.boxes.shown[0].style, BoxButtons::RetryCancel);
   EXPECT_TRUE(window.IsOpen());
 }
 
@@ -380,7 +380,7 @@ TEST_F(GraphOfACurve, IsPrintedAgainOnThePrinterThatWasChosenWhenItJams) {
   other.windows.curve = program.windows.curve;
   GraphWindow graph(other);
   graph.ShowCurve(1);
-  platform.boxes.answers = {box_result::Retry};
+  platform.boxes.answers = {BoxResult::Retry};
 
   graph.GraphFileItem.ClickItem(Print);
 
@@ -388,7 +388,7 @@ TEST_F(GraphOfACurve, IsPrintedAgainOnThePrinterThatWasChosenWhenItJams) {
   EXPECT_EQ(jammed.printedChart, "graph1");
   ASSERT_THAT(platform.boxes.shown, SizeIs(1));
   EXPECT_EQ(platform.boxes.shown[0].text, "Error occurred: Printer error (482)");
-  EXPECT_EQ(platform.boxes.shown[0].style, box_style::RetryCancel);
+  EXPECT_EQ(platform.boxes.shown[0].style, BoxButtons::RetryCancel);
 }
 
 TEST_F(GraphOfACurve, IsCopiedAsAPicture) {
@@ -447,7 +447,7 @@ TEST_F(GraphOfACurve, ExportsEverySeries) {
 
 TEST_F(GraphOfACurve, AsksBeforeTheExportWhenItIsToAsk) {
   program.session.options.AskOfficeInstall = 0;
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
   window.ShowCurve(1);
 
   window.GraphFileItem.ClickItem(Export);
@@ -455,7 +455,7 @@ TEST_F(GraphOfACurve, AsksBeforeTheExportWhenItIsToAsk) {
   ASSERT_THAT(platform.boxes.shown, SizeIs(2));
   EXPECT_EQ(platform.boxes.shown[0].text,
             "This option will only work if Microsoft Excel is installed on this computer. Proceed?");
-  EXPECT_EQ(platform.boxes.shown[0].style, box_style::YesNo);
+  EXPECT_EQ(platform.boxes.shown[0].style, BoxButtons::YesNo);
   EXPECT_THAT(platform.documents.opened, SizeIs(1));
 }
 
@@ -471,7 +471,7 @@ TEST_F(GraphOfACurve, IsExportedAtOnceByAnySettingButTheOneThatAsks) {
 
 TEST_F(GraphOfACurve, IsNotExportedAfterANo) {
   program.session.options.AskOfficeInstall = 0;
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
   window.ShowCurve(1);
 
   window.GraphFileItem.ClickItem(Export);

@@ -176,7 +176,7 @@ TEST_F(Options, TellHowToGetHelpOnAField) {
 }
 
 TEST_F(Options, AskBeforeTheyAssociateTheExtension) {
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
   dialog.Open();
 
   dialog.cmdFileAssoc.Press();
@@ -354,7 +354,7 @@ struct RefusedDefault : OptionsFixture, testing::WithParamInterface<Fault> {
 
     EXPECT_TRUE(dialog.IsOpen());
     EXPECT_THAT(platform.boxes.shown, ElementsAre(AllOf(Field(&MessageBox::text, GetParam().Message),
-                                                        Field(&MessageBox::style, box_style::Critical),
+                                                        Field(&MessageBox::style, BoxIcon::Critical),
                                                         Field(&MessageBox::title, "Program Options: Range Error"))));
     EXPECT_EQ(dialog.SSTab1.Tab(), tab);
     EXPECT_EQ(dialog.FocusRequest(), &field);
@@ -413,20 +413,20 @@ TEST_F(Options, AcceptARoofRatingOf100) {
 }
 
 TEST_F(Options, AskAboutALowRoofRatingOnTheMetricPage) {
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
   dialog.Open();
   dialog.txtCMRR[MetricPage].SetText("34");
 
   Accept();
 
   EXPECT_THAT(platform.boxes.shown,
-              ElementsAre(AllOf(Field(&MessageBox::text, RatingWarning), Field(&MessageBox::style, box_style::YesNo),
+              ElementsAre(AllOf(Field(&MessageBox::text, RatingWarning), Field(&MessageBox::style, BoxButtons::YesNo),
                                 Field(&MessageBox::title, "Program Options: Range Warning"))));
   EXPECT_FALSE(dialog.IsOpen());
 }
 
 TEST_F(Options, StayOnTheFieldOfARefusedRoofRating) {
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
   dialog.Open();
   dialog.txtCMRR[MetricPage].SetText("34");
 
@@ -439,7 +439,7 @@ TEST_F(Options, StayOnTheFieldOfARefusedRoofRating) {
 }
 
 TEST_F(Options, AskAboutEachUnusualValue) {
-  platform.boxes.answers = {box_result::Yes, box_result::Yes, box_result::No};
+  platform.boxes.answers = {BoxResult::Yes, BoxResult::Yes, BoxResult::No};
   dialog.Open();
   dialog.txtCMRR[EnglishPage].SetText("30");
   dialog.txtStabilityFactor[EnglishPage].SetText("0.9");

@@ -84,7 +84,7 @@ TEST_F(ParameterChecks, ShowEachFaultAsARangeErrorOfTheParameters) {
   ASSERT_EQ(platform.boxes.shown.size(), 2U);
   for (const MessageBox& box : platform.boxes.shown) {
     EXPECT_EQ(box.title, "Project Parameters: Range Error");
-    EXPECT_EQ(box.style, box_style::Critical);
+    EXPECT_EQ(box.style, BoxIcon::Critical);
   }
 }
 
@@ -195,10 +195,10 @@ TEST_F(ParameterChecks, TurnEvenToATabThatIsDisabled) {
 
 // Notes what is on view when a box comes up.
 struct WatchingBoxes : MessageBoxes {
-  int Show(const MessageBox&) override {
+  BoxResult Show(const MessageBox&) override {
     tabs.push_back(watched->SSTab1.Tab());
     focused = focused || watched->FocusRequest() != nullptr;
-    return box_result::Ok;
+    return BoxResult::Ok;
   }
 
   ParametersDialog* watched = nullptr;

@@ -248,7 +248,7 @@ TEST_F(NumbersBeyondAll, AreRefusedWithTheNameOfTheirField) {
 
       ASSERT_THAT(platform.boxes.Texts(), ElementsAre(std::string(refused.caption) + ": Value '1E39' is too large"));
       EXPECT_EQ(platform.boxes.shown[0].title, program.windows.titles.RangeErrorTitle);
-      EXPECT_EQ(platform.boxes.shown[0].style, box_style::Critical);
+      EXPECT_EQ(platform.boxes.shown[0].style, BoxIcon::Critical);
       EXPECT_EQ(other.SSTab1.Tab(), refused.outerTab) << refused.field;
       EXPECT_EQ(other.SSTab2.Tab(), refused.entryTab) << refused.field;
       EXPECT_EQ(other.SSTab3.Tab(), refused.interTab) << refused.field;

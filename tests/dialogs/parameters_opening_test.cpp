@@ -317,7 +317,7 @@ TEST_F(OpeningParameters, CopiesItsPictureToTheClipboard) {
   ASSERT_EQ(platform.boxes.shown.size(), 1U);
   EXPECT_EQ(platform.boxes.shown[0].text, "Screenshot of dialog copied to clipboard");
   EXPECT_EQ(platform.boxes.shown[0].title, "Message");
-  EXPECT_EQ(platform.boxes.shown[0].style, box_style::Ok);
+  EXPECT_EQ(platform.boxes.shown[0].style, BoxButtons::Ok);
 }
 
 }  // namespace

@@ -249,7 +249,7 @@ TEST_F(AResultsWindow, PrintsNothingWhenThePrinterDialogIsCancelled) {
 
 TEST_F(AResultsWindow, AsksToTryAgainWithoutAPrinterAndStaysOpen) {
   platform.printer.error = error_number::Printer;
-  platform.boxes.answers = {box_result::Retry, box_result::Cancel};
+  platform.boxes.answers = {BoxResult::Retry, BoxResult::Cancel};
   window.Open();
 
   window.Command3.Press();
@@ -257,7 +257,7 @@ TEST_F(AResultsWindow, AsksToTryAgainWithoutAPrinterAndStaysOpen) {
   EXPECT_EQ(platform.printer.chosen, 2);
   ASSERT_THAT(platform.boxes.shown, SizeIs(2));
   EXPECT_EQ(platform.boxes.shown[0].text, "Error occurred: Printer error (482)");
-  EXPECT_EQ(platform.boxes.shown[0].style, box_style::RetryCancel);
+  EXPECT_EQ(platform.boxes.shown[0].style, BoxButtons::RetryCancel);
   EXPECT_THAT(platform.printer.pages, IsEmpty());
   EXPECT_THAT(program.session.history.Text, Not(HasSubstr("Printing aborted")));
   EXPECT_TRUE(window.IsOpen());
@@ -268,7 +268,7 @@ TEST_F(AResultsWindow, PrintsAgainOnThePrinterThatWasChosenWhenItJams) {
   Program other(platform.DoorsWith(jammed));
   other.session.OutBuf = program.session.OutBuf;
   other.windows.LastPage = 1;
-  platform.boxes.answers = {box_result::Retry};
+  platform.boxes.answers = {BoxResult::Retry};
   ResultsWindow results(other);
   results.Open();
 

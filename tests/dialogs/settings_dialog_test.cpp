@@ -302,7 +302,7 @@ TEST_F(SettingsTest, RefuseAHistoryThatIsTooShortOrTooLong) {
                   "Size of Command History Window: Value '16385' is outside input range\r\nValid range is: 4096-16384",
                   "Size of Command History Window: Blank field not allowed"));
   EXPECT_EQ(platform.boxes.shown.front().title, "Settings: Range Error");
-  EXPECT_EQ(platform.boxes.shown.front().style, 16);
+  EXPECT_EQ(platform.boxes.shown.front().style, BoxIcon::Critical);
   EXPECT_EQ(dialog.FocusRequest(), &dialog.Text3);
 }
 

@@ -235,7 +235,7 @@ TEST_F(ABrowser, FollowsTheFoldersToAnotherDrive) {
 TEST_F(ABrowser, StaysWhereItIsWhenAFolderCannotBeRead) {
   Open();
   platform.files.Fail(Step::ListFolders, 70);
-  platform.boxes.answers.push_back(box_result::Cancel);
+  platform.boxes.answers.push_back(BoxResult::Cancel);
 
   ClickFolder("        Mines");
 
@@ -366,13 +366,13 @@ TEST_F(ABrowser, MayBeGoneBeforeItsFileIs) {
 TEST_F(ABrowser, TellsOfAFileThatCannotBeOpened) {
   Open();
   platform.files.files.erase("/home/user/Documents/panel3.ORB");
-  platform.boxes.answers.push_back(box_result::Cancel);
+  platform.boxes.answers.push_back(BoxResult::Cancel);
 
   ClickFile("panel3.ORB");
   Wait();
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error occurred: File not found (53)"));
-  EXPECT_EQ(platform.boxes.shown[0].style, box_style::RetryCancel);
+  EXPECT_EQ(platform.boxes.shown[0].style, BoxButtons::RetryCancel);
   EXPECT_EQ(browser.RichTextBox1.Bytes(), "");
   EXPECT_FALSE(browser.prgLoading.Visible());
 }
@@ -380,7 +380,7 @@ TEST_F(ABrowser, TellsOfAFileThatCannotBeOpened) {
 // What is wrong is put right while the user is asked, who then wants to try again.
 struct AnotherTry : ABrowser {
   AnotherTry() {
-    boxes.answers = {box_result::Retry};
+    boxes.answers = {BoxResult::Retry};
     again.Open();
   }
 

@@ -25,7 +25,7 @@ struct AnUpdateDialog : UpdateTest {
 
   // Looks for the version, says Yes, and has the file brought with this sum.
   void DownloadNewVersion(const std::string& versionFile, const std::string& sum) {
-    platform.boxes.answers = {box_result::Yes};
+    platform.boxes.answers = {BoxResult::Yes};
     Check(versionFile);
     Bring("setup", sum);
     platform.boxes.shown.clear();
@@ -150,19 +150,19 @@ TEST_F(AnUpdateDialog, IsUpToDateWithAnOlderVersion) {
 }
 
 TEST_F(AnUpdateDialog, AsksWhetherToDownloadANewerVersion) {
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   Check(NewVersion);
 
   ASSERT_EQ(platform.boxes.shown.size(), 1U);
   EXPECT_EQ(platform.boxes.shown[0].text, "A new version is available. Download?");
-  EXPECT_EQ(platform.boxes.shown[0].style, 35);
+  EXPECT_EQ(platform.boxes.shown[0].style, BoxStyle(BoxButtons::YesNoCancel, BoxIcon::Question));
   EXPECT_EQ(dialog.lblLastVer.Caption(), "Server Version: 1.0.01 / Current Version: 1.0.00");
   EXPECT_EQ(platform.downloads.asked.size(), 1U);
 }
 
 TEST_F(AnUpdateDialog, DownloadsAtOnceOnYesAndNotOnCancel) {
-  platform.boxes.answers = {box_result::Cancel, box_result::Yes};
+  platform.boxes.answers = {BoxResult::Cancel, BoxResult::Yes};
 
   Check(NewVersion);
   EXPECT_EQ(platform.downloads.asked.size(), 1U);
@@ -235,7 +235,7 @@ TEST_F(AnUpdateDialog, TellsWhenNobodyAnswers) {
 // ---- downloading ---------------------------------------------------------------------------------------------------
 
 TEST_F(AnUpdateDialog, DownloadsTheSetupFileIntoTheFolderForDownloads) {
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
   Check(NewVersion);
 
   dialog.cmdDownUpdate.Press();
@@ -296,7 +296,7 @@ TEST_F(AnUpdateDialog, TellsWhereTheProgramIs) {
 }
 
 TEST_F(AnUpdateDialog, TellsThatADownloadBroke) {
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
   Check(NewVersion);
   platform.boxes.shown.clear();
 
@@ -310,7 +310,7 @@ TEST_F(AnUpdateDialog, TellsThatADownloadBroke) {
 }
 
 TEST_F(AnUpdateDialog, TellsThatTheServerOfADownloadIsGone) {
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
   Check(NewVersion);
   platform.boxes.shown.clear();
 
@@ -323,7 +323,7 @@ TEST_F(AnUpdateDialog, TellsThatTheServerOfADownloadIsGone) {
 
 TEST_F(AnUpdateDialog, TellsThatThereIsNoFolderForDownloads) {
   platform.files.Fail(MemoryFiles::Step::MakeFolder, error_number::PermissionDenied);
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
 
   Check(NewVersion);
 
@@ -333,7 +333,7 @@ TEST_F(AnUpdateDialog, TellsThatThereIsNoFolderForDownloads) {
 }
 
 TEST_F(AnUpdateDialog, StopsTheDownloadWhenItCloses) {
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
   Check(NewVersion);
 
   dialog.Command1.Press();
@@ -342,7 +342,7 @@ TEST_F(AnUpdateDialog, StopsTheDownloadWhenItCloses) {
 }
 
 TEST_F(AnUpdateDialog, DeletesAFileThatIsNotThePublishedOne) {
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
   Check(NewVersionWithSum);
   platform.boxes.shown.clear();
 
@@ -424,7 +424,7 @@ TEST_F(AnUpdateDialog, GoesOnWhenTheSetupFileDoesNotStart) {
 }
 
 TEST_F(AnUpdateDialog, SaysThatThereIsNoSetupFile) {
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
   Check(NewVersion);
   platform.boxes.shown.clear();
 
@@ -464,7 +464,7 @@ TEST_F(AnUpdateDialog, NeverStartsAFileWithAWrongSumThatCannotBeDeleted) {
 
 TEST_F(AnUpdateDialog, StartsAFileOfAnotherDayWhenTheServerTellsNoSum) {
   platform.files.files[NewSetup] = "of last week";
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
   Check(NewVersion);
 
   dialog.cmdInstall.Press();
@@ -475,7 +475,7 @@ TEST_F(AnUpdateDialog, StartsAFileOfAnotherDayWhenTheServerTellsNoSum) {
 TEST_F(AnUpdateDialog, StartsAFileOfAnotherDayOnlyWhenItIsTheOneOfTheSum) {
   platform.files.files[NewSetup] = "of last week";
   platform.downloads.sums[NewSetup] = OtherSum;
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
   Check(NewVersionWithSum);
   platform.boxes.shown.clear();
 
@@ -503,7 +503,7 @@ TEST_F(AnUpdateDialog, NeverStartsAFileWhoseNextDownloadBroke) {
 
 TEST_F(AnUpdateDialog, NeverStartsAFileOnceTheServerTellsAnotherSum) {
   DownloadNewVersion(NewVersionWithSum, SumOfSetup);
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
   Check("1.0.01," + OtherSum);
 
   dialog.cmdInstall.Press();
@@ -513,7 +513,7 @@ TEST_F(AnUpdateDialog, NeverStartsAFileOnceTheServerTellsAnotherSum) {
 
 TEST_F(AnUpdateDialog, StillStartsTheFileAfterAnotherLookAtTheSameVersion) {
   DownloadNewVersion(NewVersionWithSum, SumOfSetup);
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
   Check(NewVersionWithSum);
 
   dialog.cmdInstall.Press();
@@ -524,7 +524,7 @@ TEST_F(AnUpdateDialog, StillStartsTheFileAfterAnotherLookAtTheSameVersion) {
 TEST_F(AnUpdateDialog, NeverStartsAFileThatWasExchangedBeforeAnotherLookAtTheSameVersion) {
   DownloadNewVersion(NewVersion, SumOfSetup);
   platform.downloads.sums[NewSetup] = OtherSum;
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
   Check(NewVersion);
 
   dialog.cmdInstall.Press();
@@ -535,7 +535,7 @@ TEST_F(AnUpdateDialog, NeverStartsAFileThatWasExchangedBeforeAnotherLookAtTheSam
 TEST_F(AnUpdateDialog, DoesNotCheckAnotherVersionAgainstTheSumOfTheLastDownload) {
   DownloadNewVersion(NewVersion, SumOfSetup);
   platform.files.files[DownloadsFolder + "ORBY1.0.02.exe"] = "another setup";
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
   Check("1.0.02\r\n");
 
   dialog.cmdInstall.Press();
@@ -591,7 +591,7 @@ TEST_F(AFailedCheck, MakesTheNextDownloadAskForTheVersionAgain) {
 
 TEST_F(AFailedCheck, IsMadeGoodByTheNextAnswer) {
   Check("<html>");
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
   Check(NewVersionWithSum);
 
   EXPECT_TRUE(dialog.cmdInstall.Enabled());
@@ -601,7 +601,7 @@ TEST_F(AFailedCheck, IsMadeGoodByTheNextAnswer) {
 
 TEST_F(AFailedCheck, IsForgottenByTheDownloadThatFollowsTheNextAnswer) {
   Check("<html>");
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
   Check(NewVersionWithSum);
 
   Bring("setup", SumOfSetup);
@@ -610,7 +610,7 @@ TEST_F(AFailedCheck, IsForgottenByTheDownloadThatFollowsTheNextAnswer) {
 }
 
 TEST_F(AnUpdateDialog, TellsTheHistoryOfASecondFieldThatIsNoSum) {
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   Check("1.0.01,05-Jul-2024\r\n");
 

@@ -51,7 +51,7 @@ class Session {
       dynamic_cast<Button&>(*form.Find("Command2")).Press();
     };
     window_.mnuEditItem.ClickItem(edit_item::Parameters);
-    platform_.boxes.answers.assign(9, box_result::Cancel);
+    platform_.boxes.answers.assign(9, BoxResult::Cancel);
   }
 
   bool Save() {

@@ -201,7 +201,7 @@ TEST_P(RefusedFile, IsToldAndLeavesANewProjectUnderItsName) {
   EXPECT_FALSE(project.Open(GetParam()));
 
   EXPECT_THAT(project.platform.boxes.Texts(), ElementsAre(RefusalText));
-  EXPECT_EQ(project.platform.boxes.shown.front().style, box_style::Ok);
+  EXPECT_EQ(project.platform.boxes.shown.front().style, BoxButtons::Ok);
   EXPECT_EQ(project.program.project.WorkParms.Place.DepthofCover, 400);
   EXPECT_TRUE(project.program.project.FileSaved);
   EXPECT_TRUE(project.program.project.FileEmpty);
@@ -324,19 +324,20 @@ struct ChangedProject : TestProject {
 
 TEST(ProjectFile, UnsavedChangesAreAskedAboutUnderThePreviousName) {
   ChangedProject project;
-  project.platform.boxes.answers = {box_result::No};
+  project.platform.boxes.answers = {BoxResult::No};
 
   EXPECT_TRUE(project.Open());
 
   ASSERT_EQ(project.platform.boxes.shown.size(), 1U);
   EXPECT_EQ(project.platform.boxes.shown[0].text, "Save changes to: /designs/previous.orb?");
-  EXPECT_EQ(project.platform.boxes.shown[0].style, 4 + 32 + 256);
+  EXPECT_EQ(project.platform.boxes.shown[0].style,
+            BoxStyle(BoxButtons::YesNo, BoxIcon::Question, BoxDefault::SecondButton));
   EXPECT_THAT(project.platform.files.created, IsEmpty());
 }
 
 TEST(ProjectFile, YesSavesThePreviousProjectFirst) {
   ChangedProject project;
-  project.platform.boxes.answers = {box_result::Yes};
+  project.platform.boxes.answers = {BoxResult::Yes};
 
   EXPECT_TRUE(project.Open());
 
@@ -350,7 +351,7 @@ TEST(ProjectFile, YesSavesThePreviousProjectFirst) {
 TEST(ProjectFile, YesForAnUntitledProjectAsksForItsNameAndStillOpensTheChosenFile) {
   ChangedProject project;
   project.program.project.PreviousFile = "Untitled";
-  project.platform.boxes.answers = {box_result::Yes};
+  project.platform.boxes.answers = {BoxResult::Yes};
   project.platform.fileDialogs.answers = {"/designs/named.orb"};
 
   EXPECT_TRUE(project.Open());
@@ -361,7 +362,7 @@ TEST(ProjectFile, YesForAnUntitledProjectAsksForItsNameAndStillOpensTheChosenFil
 
 TEST(ProjectFile, ASaveThatFailsStopsTheOpen) {
   ChangedProject project;
-  project.platform.boxes.answers = {box_result::Yes, box_result::Cancel};
+  project.platform.boxes.answers = {BoxResult::Yes, BoxResult::Cancel};
   project.platform.files.Fail(MemoryFiles::Step::Create, error_number::PermissionDenied);
 
   EXPECT_FALSE(project.Open());
@@ -377,7 +378,7 @@ TEST(ProjectFile, ASaveThatFailsStopsTheOpen) {
 TEST(ProjectFile, ASaveThatIsCancelledStopsTheOpen) {
   ChangedProject project;
   project.program.project.PreviousFile = "Untitled";
-  project.platform.boxes.answers = {box_result::Yes};
+  project.platform.boxes.answers = {BoxResult::Yes};
 
   EXPECT_FALSE(project.Open());
 
@@ -389,7 +390,7 @@ TEST(ProjectFile, ASaveThatIsCancelledStopsTheOpen) {
 TEST(ProjectFile, ASaveUnderANewNameThatFailsKeepsTheNameItHad) {
   ChangedProject project;
   project.program.project.PreviousFile = "Untitled";
-  project.platform.boxes.answers = {box_result::Yes, box_result::Cancel};
+  project.platform.boxes.answers = {BoxResult::Yes, BoxResult::Cancel};
   project.platform.fileDialogs.answers = {"/designs/named.orb"};
   project.platform.files.Fail(MemoryFiles::Step::Create, error_number::PermissionDenied);
 

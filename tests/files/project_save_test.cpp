@@ -190,7 +190,7 @@ TEST_P(FailedSave, LeavesTheFileAsItWasAndTellsWhereTheCopyLies) {
   project.Save();
   project.program.project.ProjectDescription = "Shale\r\n\r\nNo water";
   const std::string before = project.File();
-  project.platform.boxes.answers = {box_result::Cancel};
+  project.platform.boxes.answers = {BoxResult::Cancel};
   // The backup and its note come first.
   const bool isOfBackupToo = GetParam() == Step::Flush || GetParam() == Step::Write || GetParam() == Step::Close;
   const int ofDescription = GetParam() == Step::Write || GetParam() == Step::Close ? 1 : 0;

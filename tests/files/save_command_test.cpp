@@ -117,12 +117,12 @@ TEST_P(FailingSave, IsToldAndGivenUpOnCancel) {
   FileNew(project.program, false, true);
   project.program.project.FileSaved = false;
   project.platform.files.Fail(GetParam().step, error_number::DiskFull, GetParam().after);
-  project.platform.boxes.answers = {box_result::Cancel};
+  project.platform.boxes.answers = {BoxResult::Cancel};
 
   EXPECT_FALSE(FileMenuSave(project.program, false));
 
   EXPECT_THAT(project.platform.boxes.Texts(), ElementsAre("Error occurred: Disk full (61)"));
-  EXPECT_EQ(project.platform.boxes.shown.front().style, box_style::RetryCancel);
+  EXPECT_EQ(project.platform.boxes.shown.front().style, BoxButtons::RetryCancel);
   EXPECT_FALSE(project.program.project.FileSaved);
   EXPECT_FALSE(project.platform.windows.waitCursor);
   EXPECT_FALSE(project.platform.files.files.contains(ProjectPath)) << "nothing was there before";
@@ -133,11 +133,11 @@ class MendingBoxes : public MessageBoxes {
  public:
   MendingBoxes(MemoryFiles& filesGiven, Step stepGiven) : files(filesGiven), step(stepGiven) {}
 
-  int Show(const MessageBox&) override {
+  BoxResult Show(const MessageBox&) override {
     constexpr int Never = 1'000'000;
     ++shown;
     files.Fail(step, error_number::DiskFull, Never);
-    return box_result::Retry;
+    return BoxResult::Retry;
   }
 
   MemoryFiles& files;

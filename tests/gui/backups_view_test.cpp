@@ -73,7 +73,7 @@ TEST_F(BackupsView, OpensTheOneThatTheArrowKeysReachWithEnter) {
 
 TEST_F(BackupsView, DeletesTheSelectedOneByItsLetterAndGoesToTheNext) {
   KeepThree();
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
 
   Use(backups, [](QDialog& window) {
     PressLetterOf(window, "cmdDelete");

@@ -155,7 +155,7 @@ TEST_F(GraphExport, OpensTheCurveInASpreadsheet) {
 }
 
 TEST_F(GraphExport, TellsWhereTheFileIsWithoutASpreadsheetProgram) {
-  platform.boxes.answers = {box_result::Cancel};
+  platform.boxes.answers = {BoxResult::Cancel};
 
   Export();
 

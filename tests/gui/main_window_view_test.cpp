@@ -269,7 +269,7 @@ class MainClosing : public MainView {
     EditDescription("Panel 7");
     platform.boxes.shown.clear();
   }
-  void CloseWith(int answer) {
+  void CloseWith(BoxResult answer) {
     platform.boxes.answers.push_back(answer);
     View().close();
     Settle();
@@ -279,29 +279,29 @@ class MainClosing : public MainView {
 };
 
 TEST_F(MainClosing, AsksWhetherToSave) {
-  CloseWith(box_result::Cancel);
+  CloseWith(BoxResult::Cancel);
 
   ASSERT_THAT(platform.boxes.shown, SizeIs(1));
   EXPECT_THAT(platform.boxes.shown[0].text, Eq("Save changes to: " + path + "?"));
-  EXPECT_EQ(platform.boxes.shown[0].style, 35);
+  EXPECT_EQ(platform.boxes.shown[0].style, BoxStyle(BoxButtons::YesNoCancel, BoxIcon::Question));
 }
 
 TEST_F(MainClosing, StaysWhenItIsCancelled) {
-  CloseWith(box_result::Cancel);
+  CloseWith(BoxResult::Cancel);
 
   EXPECT_TRUE(model.IsOpen());
   EXPECT_TRUE(View().isVisible());
 }
 
 TEST_F(MainClosing, SavesFirstWhenAskedTo) {
-  CloseWith(box_result::Yes);
+  CloseWith(BoxResult::Yes);
 
   EXPECT_FALSE(model.IsOpen());
   EXPECT_THAT(platform.files.files[path], HasSubstr("Panel 7"));
 }
 
 TEST_F(MainClosing, EndsWithoutSavingWhenAskedTo) {
-  CloseWith(box_result::No);
+  CloseWith(BoxResult::No);
 
   EXPECT_FALSE(model.IsOpen());
   EXPECT_THAT(platform.files.files[path], Not(HasSubstr("Panel 7")));
@@ -309,7 +309,7 @@ TEST_F(MainClosing, EndsWithoutSavingWhenAskedTo) {
 
 TEST_F(MainClosing, StaysWhenTheSaveFails) {
   platform.files.Fail(MemoryFiles::Step::Create, error_number::PathFileAccess);
-  platform.boxes.answers = {box_result::Yes, box_result::Cancel};
+  platform.boxes.answers = {BoxResult::Yes, BoxResult::Cancel};
 
   View().close();
   Settle();

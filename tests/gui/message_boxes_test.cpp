@@ -5,6 +5,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStyle>
+#include <optional>
 
 #include "gui/gui_bench.h"
 
@@ -16,7 +17,7 @@ using testing::ElementsAre;
 class MessageBoxesView : public GuiTest {
  protected:
   // Shows a box of the style to a user who does this, and gives the answer.
-  int Ask(int style, const std::function<void(QMessageBox& box)>& act) {
+  BoxResult Ask(BoxStyle style, const std::function<void(QMessageBox& box)>& act) {
     scripts.Add([&](QDialog& window) { act(dynamic_cast<QMessageBox&>(window)); });
     QtMessageBoxes boxes;
     return boxes.Show({"Save changes to: /designs/panel3.orb?\r\nThey would be lost.", style, "Orby", {}, 0, {}});
@@ -33,7 +34,7 @@ std::vector<std::string> ButtonsOn(const QMessageBox& box) {
 }
 
 TEST_F(MessageBoxesView, ShowTheirTextLineByLineAndTheirTitle) {
-  Ask(box_style::Exclamation, [](QMessageBox& box) {
+  Ask(BoxIcon::Exclamation, [](QMessageBox& box) {
     EXPECT_EQ(box.text().toStdString(), "Save changes to: /designs/panel3.orb?\nThey would be lost.");
     EXPECT_EQ(box.windowTitle().toStdString(), "Orby");
     Press(Qt::Key_Enter);
@@ -41,7 +42,7 @@ TEST_F(MessageBoxesView, ShowTheirTextLineByLineAndTheirTitle) {
 }
 
 TEST_F(MessageBoxesView, ShowCaptionsOfTheirOwnWhichTheirLettersReach) {
-  for (const auto& [key, answer] : {std::pair(Qt::Key_R, box_result::Yes), std::pair(Qt::Key_O, box_result::No)}) {
+  for (const auto& [key, answer] : {std::pair(Qt::Key_R, BoxResult::Yes), std::pair(Qt::Key_O, BoxResult::No)}) {
     scripts.Add([key = key](QDialog& window) {
       const auto& box = dynamic_cast<QMessageBox&>(window);
       EXPECT_EQ(box.button(QMessageBox::Yes)->text(), "&Recover");
@@ -51,7 +52,7 @@ TEST_F(MessageBoxesView, ShowCaptionsOfTheirOwnWhichTheirLettersReach) {
     });
     QtMessageBoxes boxes;
 
-    EXPECT_EQ(boxes.Show({"Recover?", box_style::YesNo, "Orby", {}, 0, {"Recover", "Open a&b.orb instead"}}), answer);
+    EXPECT_EQ(boxes.Show({"Recover?", BoxButtons::YesNo, "Orby", {}, 0, {"Recover", "Open a&b.orb instead"}}), answer);
   }
 }
 
@@ -62,52 +63,52 @@ TEST_F(MessageBoxesView, ShowAngleBracketsAsTheyAre) {
   });
 
   QtMessageBoxes boxes;
-  boxes.Show({"<b>panel</b>", box_style::Ok, "Orby", {}, 0, {}});
+  boxes.Show({"<b>panel</b>", BoxButtons::Ok, "Orby", {}, 0, {}});
 }
 
 struct Style {
   const char* name;
-  int style;
+  BoxStyle style;
   QMessageBox::Icon icon;
   std::vector<std::string> buttons;
-  int enter;
-  int escape;  // 0: the box must be answered
+  BoxResult enter;
+  std::optional<BoxResult> escape;  // none: the box must be answered
 };
 
 const std::vector<Style> Styles{
-    {"Ok", box_style::Ok, QMessageBox::NoIcon, {"OK"}, box_result::Ok, box_result::Ok},
-    {"Critical", box_style::Critical, QMessageBox::Critical, {"OK"}, box_result::Ok, box_result::Ok},
-    {"Exclamation", box_style::Exclamation, QMessageBox::Warning, {"OK"}, box_result::Ok, box_result::Ok},
+    {"Ok", BoxButtons::Ok, QMessageBox::NoIcon, {"OK"}, BoxResult::Ok, BoxResult::Ok},
+    {"Critical", BoxIcon::Critical, QMessageBox::Critical, {"OK"}, BoxResult::Ok, BoxResult::Ok},
+    {"Exclamation", BoxIcon::Exclamation, QMessageBox::Warning, {"OK"}, BoxResult::Ok, BoxResult::Ok},
     {"YesNoCancel",
-     box_style::YesNoCancel | box_style::Question,
+     {BoxButtons::YesNoCancel, BoxIcon::Question},
      QMessageBox::Question,
      {"Yes", "No", "Cancel"},
-     box_result::Yes,
-     box_result::Cancel},
-    {"YesNo", box_style::YesNo | box_style::Question, QMessageBox::Question, {"Yes", "No"}, box_result::Yes, 0},
+     BoxResult::Yes,
+     BoxResult::Cancel},
+    {"YesNo", {BoxButtons::YesNo, BoxIcon::Question}, QMessageBox::Question, {"Yes", "No"}, BoxResult::Yes, {}},
     {"NoYes",
-     box_style::YesNo | box_style::Exclamation | box_style::SecondButtonDefault,
+     {BoxButtons::YesNo, BoxIcon::Exclamation, BoxDefault::SecondButton},
      QMessageBox::Warning,
      {"Yes", "No"},
-     box_result::No,
-     0},
+     BoxResult::No,
+     {}},
     {"RetryCancel",
-     box_style::RetryCancel | box_style::Critical,
+     {BoxButtons::RetryCancel, BoxIcon::Critical},
      QMessageBox::Critical,
      {"Retry", "Cancel"},
-     box_result::Retry,
-     box_result::Cancel},
+     BoxResult::Retry,
+     BoxResult::Cancel},
     {"OkRetry",
-     box_style::OkRetry | box_style::Critical,
+     {BoxButtons::OkRetry, BoxIcon::Critical},
      QMessageBox::Critical,
      {"OK", "Retry"},
-     box_result::Ok,
-     box_result::Ok},
+     BoxResult::Ok,
+     BoxResult::Ok},
 };
 
-class BoxStyle : public MessageBoxesView, public testing::WithParamInterface<Style> {};
+class ABoxStyle : public MessageBoxesView, public testing::WithParamInterface<Style> {};
 
-TEST_P(BoxStyle, HasItsIconAndButtons) {
+TEST_P(ABoxStyle, HasItsIconAndButtons) {
   Ask(GetParam().style, [](QMessageBox& box) {
     EXPECT_EQ(box.icon(), GetParam().icon);
     EXPECT_EQ(ButtonsOn(box), GetParam().buttons);
@@ -115,31 +116,31 @@ TEST_P(BoxStyle, HasItsIconAndButtons) {
   });
 }
 
-TEST_P(BoxStyle, IsAnsweredByEnterWithItsDefault) {
+TEST_P(ABoxStyle, IsAnsweredByEnterWithItsDefault) {
   EXPECT_EQ(Ask(GetParam().style, [](QMessageBox&) { Press(Qt::Key_Enter); }), GetParam().enter);
 }
 
-TEST_P(BoxStyle, IsLeftByEscapeUnlessItMustBeAnswered) {
-  const int answer = Ask(GetParam().style, [](QMessageBox& box) {
+TEST_P(ABoxStyle, IsLeftByEscapeUnlessItMustBeAnswered) {
+  const BoxResult answer = Ask(GetParam().style, [](QMessageBox& box) {
     Press(Qt::Key_Escape);
-    EXPECT_EQ(box.isVisible(), GetParam().escape == 0);
+    EXPECT_EQ(box.isVisible(), !GetParam().escape);
     if (box.isVisible()) Press(Qt::Key_Enter);
   });
 
-  EXPECT_EQ(answer, GetParam().escape != 0 ? GetParam().escape : GetParam().enter);
+  EXPECT_EQ(answer, GetParam().escape.value_or(GetParam().enter));
 }
 
-TEST_P(BoxStyle, IsClosedByItsFrameUnlessItMustBeAnswered) {
-  const int answer = Ask(GetParam().style, [](QMessageBox& box) {
+TEST_P(ABoxStyle, IsClosedByItsFrameUnlessItMustBeAnswered) {
+  const BoxResult answer = Ask(GetParam().style, [](QMessageBox& box) {
     box.close();
-    EXPECT_EQ(box.isVisible(), GetParam().escape == 0);
+    EXPECT_EQ(box.isVisible(), !GetParam().escape);
     if (box.isVisible()) Press(Qt::Key_Enter);
   });
 
-  EXPECT_EQ(answer, GetParam().escape != 0 ? GetParam().escape : GetParam().enter);
+  EXPECT_EQ(answer, GetParam().escape.value_or(GetParam().enter));
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, BoxStyle, testing::ValuesIn(Styles),
+INSTANTIATE_TEST_SUITE_P(Of, ABoxStyle, testing::ValuesIn(Styles),
                          [](const auto& style) { return std::string(style.param.name); });
 
 TEST_F(MessageBoxesView, AreAsWideAsTheirTitles) {
@@ -153,31 +154,31 @@ TEST_F(MessageBoxesView, AreAsWideAsTheirTitles) {
   });
 
   QtMessageBoxes boxes;
-  boxes.Show({"Overflow", box_style::Critical, title, {}, 0});
+  boxes.Show({"Overflow", BoxIcon::Critical, title, {}, 0});
 }
 
 struct Answer {
-  int style;
+  BoxStyle style;
   QMessageBox::StandardButton button;
-  int result;
+  BoxResult result;
 };
 
 TEST_F(MessageBoxesView, GiveTheButtonThatIsPressed) {
   const std::vector<Answer> answers{
-      {box_style::YesNoCancel, QMessageBox::Yes, box_result::Yes},
-      {box_style::YesNoCancel, QMessageBox::No, box_result::No},
-      {box_style::YesNoCancel, QMessageBox::Cancel, box_result::Cancel},
-      {box_style::YesNo, QMessageBox::No, box_result::No},
-      {box_style::RetryCancel, QMessageBox::Retry, box_result::Retry},
-      {box_style::RetryCancel, QMessageBox::Cancel, box_result::Cancel},
-      {box_style::Ok, QMessageBox::Ok, box_result::Ok},
+      {BoxButtons::YesNoCancel, QMessageBox::Yes, BoxResult::Yes},
+      {BoxButtons::YesNoCancel, QMessageBox::No, BoxResult::No},
+      {BoxButtons::YesNoCancel, QMessageBox::Cancel, BoxResult::Cancel},
+      {BoxButtons::YesNo, QMessageBox::No, BoxResult::No},
+      {BoxButtons::RetryCancel, QMessageBox::Retry, BoxResult::Retry},
+      {BoxButtons::RetryCancel, QMessageBox::Cancel, BoxResult::Cancel},
+      {BoxButtons::Ok, QMessageBox::Ok, BoxResult::Ok},
   };
   for (const Answer& answer : answers) {
-    const int given = Ask(answer.style, [&](QMessageBox& box) {
+    const BoxResult given = Ask(answer.style, [&](QMessageBox& box) {
       QTest::mouseClick(box.button(answer.button), Qt::LeftButton);
       Settle();
     });
-    EXPECT_EQ(given, answer.result) << answer.style;
+    EXPECT_EQ(given, answer.result) << answer.button;
   }
 }
 

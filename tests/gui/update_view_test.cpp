@@ -113,7 +113,7 @@ TEST_F(UpdateView, IsUpToDateWithTheSameVersionAndAnOlderOne) {
 
 TEST_F(UpdateView, AsksAboutANewerVersion) {
   OfferVersion("1.0.01\r\n");
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   UseDialog([this](QDialog& window) {
     PressLetterOf(window, "cmdCheck");
@@ -157,7 +157,7 @@ TEST_F(UpdateView, HasNothingToOfferWithoutAServer) {
 
 TEST_F(UpdateView, DownloadsANewerVersionAndInstallsIt) {
   OfferVersion("1.0.01," + SumOf(SetupBytes).toUpper() + "\r\n");
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
 
   UseDialog([this](QDialog& window) {
     PressLetterOf(window, "cmdCheck");
@@ -284,7 +284,7 @@ TEST(TheUpdateServer, IsTheOneThatTheEnvironmentNames) {
 
 TEST_F(UpdateView, ComesUpAtStartWhenTheUserWantsTheNewerVersion) {
   OfferVersion("1.0.01\r\n");
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
   UpdateCheck check(program);
   std::string title;
   scripts.Add([&](QDialog& window) {

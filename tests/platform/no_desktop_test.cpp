@@ -13,7 +13,7 @@ using testing::IsEmpty;
 TEST(WithoutADesktop, EveryMessageIsCancelled) {
   NoMessageBoxes boxes;
 
-  EXPECT_EQ(boxes.Show({}), box_result::Cancel);
+  EXPECT_EQ(boxes.Show({}), BoxResult::Cancel);
 }
 
 TEST(WithoutADesktop, EveryFileDialogIsCancelled) {

@@ -87,7 +87,7 @@ TEST_F(TheBackupsCommand, AsksForTheUnsavedChangesOfThePresentProjectBeforeItOpe
   OpenByDialog(Panel4);
   program.project.WorkParms.Place.DepthofCover = 1010;
   program.project.FileSaved = false;
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   UseFromMenu([](BackupsWindow& shown) { shown.cmdOpen.Press(); });
 
@@ -99,7 +99,7 @@ TEST_F(TheBackupsCommand, AsksForTheUnsavedChangesOfThePresentProjectBeforeItOpe
 TEST_F(TheBackupsCommand, KeepsThePresentProjectWhenItsChangesCannotBeSaved) {
   KeepTwo();
   program.project.FileSaved = false;
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
 
   UseFromMenu([](BackupsWindow& shown) { shown.cmdOpen.Press(); });
 

@@ -25,18 +25,18 @@ TEST_F(Closing, ASavedProjectAsksNothing) {
 
 TEST_F(Closing, AnUnsavedProjectAsks) {
   EditPanel3();
-  platform.boxes.answers = {box_result::Cancel};
+  platform.boxes.answers = {BoxResult::Cancel};
 
   Exit();
 
   ASSERT_EQ(platform.boxes.shown.size(), 1U);
   EXPECT_EQ(platform.boxes.shown.front().text, "Save changes to: /designs/panel3.orb?");
-  EXPECT_EQ(platform.boxes.shown.front().style, 35);
+  EXPECT_EQ(platform.boxes.shown.front().style, BoxStyle(BoxButtons::YesNoCancel, BoxIcon::Question));
 }
 
 TEST_F(Closing, IsStoppedByCancel) {
   EditPanel3();
-  platform.boxes.answers = {box_result::Cancel};
+  platform.boxes.answers = {BoxResult::Cancel};
 
   Exit();
 
@@ -46,7 +46,7 @@ TEST_F(Closing, IsStoppedByCancel) {
 
 TEST_F(Closing, WithoutSavingIsANo) {
   EditPanel3();
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   Exit();
 
@@ -56,7 +56,7 @@ TEST_F(Closing, WithoutSavingIsANo) {
 
 TEST_F(Closing, SavesOnYes) {
   EditPanel3();
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
 
   Exit();
 
@@ -67,7 +67,7 @@ TEST_F(Closing, SavesOnYes) {
 
 TEST_F(Closing, ShowsTheNewNameOfAProjectThatCouldNotBeSavedUnderIt) {
   program.project.FileSaved = false;
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
   platform.fileDialogs.answers = {"/designs/new.orb"};
   platform.files.Fail(MemoryFiles::Step::Flush, error_number::DiskFull, 0, 1);
 
@@ -81,7 +81,7 @@ TEST_F(Closing, ShowsTheNewNameOfAProjectThatCouldNotBeSavedUnderIt) {
 
 TEST_F(Closing, AsksAnUntitledProjectForItsName) {
   program.project.FileSaved = false;
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
   platform.fileDialogs.answers = {"/designs/new.orb"};
 
   Exit();
@@ -95,7 +95,7 @@ TEST_F(Closing, AsksAnUntitledProjectForItsName) {
 
 TEST_F(Closing, IsStoppedWhenTheNameIsNotGiven) {
   program.project.FileSaved = false;
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
 
   Exit();
 
@@ -104,7 +104,7 @@ TEST_F(Closing, IsStoppedWhenTheNameIsNotGiven) {
 
 TEST_F(Closing, IsStoppedByASaveThatFails) {
   EditPanel3();
-  platform.boxes.answers = {box_result::Yes, box_result::Cancel};
+  platform.boxes.answers = {BoxResult::Yes, BoxResult::Cancel};
   platform.files.Fail(MemoryFiles::Step::Create, error_number::DiskFull);
 
   Exit();
@@ -116,7 +116,7 @@ TEST_F(Closing, IsStoppedByASaveThatFails) {
 TEST_F(Closing, AsksForAnUnsavedProjectThoughItIsEmpty) {
   program.project.FileSaved = false;
   program.project.FileEmpty = true;
-  platform.boxes.answers = {box_result::Cancel};
+  platform.boxes.answers = {BoxResult::Cancel};
 
   EXPECT_FALSE(window.MayClose());
 }
@@ -134,7 +134,7 @@ TEST_F(Closing, WritesTheRecentFilesAndNothingElse) {
 
 TEST_F(Closing, TakesTheHelpWithIt) {
   EditPanel3();
-  platform.boxes.answers = {box_result::Cancel, box_result::No};
+  platform.boxes.answers = {BoxResult::Cancel, BoxResult::No};
 
   Exit();
   EXPECT_THAT(platform.help.shown, IsEmpty()) << "the window stays";
@@ -147,7 +147,7 @@ TEST_F(Closing, LeavesNothingToRecover) {
   EditPanel3();
   window.mnuEditItem.ClickItem(edit_item::Parameters);
   ASSERT_TRUE(Exists(RecoveryPath));
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   Exit();
 

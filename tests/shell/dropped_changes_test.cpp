@@ -52,7 +52,7 @@ TEST_F(DroppedChanges, AreKeptByNew) {
 
 TEST_F(DroppedChanges, AreKeptByOpenOnNo) {
   EditPanel3();
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   OpenByDialog(Panel4);
 
@@ -63,7 +63,7 @@ TEST_F(DroppedChanges, AreKeptByOpenOnNo) {
 TEST_F(DroppedChanges, AreKeptByARecentFileOnNo) {
   OpenByDialog(Panel4);
   EditPanel3();
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   window.mnuFileArray.ClickItem(2);
 
@@ -73,7 +73,7 @@ TEST_F(DroppedChanges, AreKeptByARecentFileOnNo) {
 
 TEST_F(DroppedChanges, AreKeptByADroppedFileOnNo) {
   EditPanel3();
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   window.Dropped(Panel4);
 
@@ -82,7 +82,7 @@ TEST_F(DroppedChanges, AreKeptByADroppedFileOnNo) {
 
 TEST_F(DroppedChanges, AreKeptByTheFileOfTheCommandLineOnNo) {
   EditPanel3();
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   window.OpenFirstFiles(Panel4);
 
@@ -91,7 +91,7 @@ TEST_F(DroppedChanges, AreKeptByTheFileOfTheCommandLineOnNo) {
 
 TEST_F(DroppedChanges, AreKeptByClosingOnNo) {
   EditPanel3();
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   window.mnuFileItem.ClickItem(file_item::Exit);
 
@@ -164,7 +164,7 @@ struct GivenUpOnAFullDisk : DroppedChanges {
     EditPanel3();
     window.LeaveAtOnce();
     platform.files.Fail(MemoryFiles::Step::Create, error_number::DiskFull);
-    platform.boxes.answers = {box_result::No};
+    platform.boxes.answers = {BoxResult::No};
   }
 
   void ExpectKeptAside() {

@@ -45,7 +45,7 @@ class EndangeredSave {
     window_.mnuEditItem.ClickItem(edit_item::Parameters);
     // All that was written before the save has long been on the disk.
     platform_.files.onDisk = files;
-    platform_.boxes.answers.assign(9, box_result::Cancel);
+    platform_.boxes.answers.assign(9, BoxResult::Cancel);
     platform_.fileDialogs.answers = {row.target};
   }
 

@@ -20,7 +20,7 @@ class MendingBoxes : public MessageBoxes {
  public:
   explicit MendingBoxes(MemoryFiles& files) : files_(files) {}
 
-  int Show(const MessageBox& box) override {
+  BoxResult Show(const MessageBox& box) override {
     constexpr int Never = 1'000'000;
     texts.push_back(box.text);
     for (const Step step : {Step::Create, Step::Reserve, Step::Write, Step::Cut, Step::Flush, Step::Close}) {
@@ -30,7 +30,7 @@ class MendingBoxes : public MessageBoxes {
   }
 
   std::vector<std::string> texts;
-  int answer = box_result::Retry;
+  BoxResult answer = BoxResult::Retry;
 
  private:
   MemoryFiles& files_;
@@ -78,7 +78,7 @@ TEST_P(SaveThatFails, CompletesOnRetry) {
 }
 
 TEST_P(SaveThatFails, LeavesAnUnsavedProjectThatIsSavedLater) {
-  boxes.answer = box_result::Cancel;
+  boxes.answer = BoxResult::Cancel;
   window.mnuFileItem.ClickItem(file_item::Save);
 
   EXPECT_FALSE(program.project.FileSaved);

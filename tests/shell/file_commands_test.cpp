@@ -97,7 +97,7 @@ TEST_F(FileMenu, OpenThatIsCancelledChangesNothing) {
 
 TEST_F(FileMenu, OpenAsksToSaveTheProjectBefore) {
   EditPanel3();
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
 
   OpenByDialog(Panel4);
 
@@ -115,7 +115,7 @@ TEST_F(FileMenu, OpenIsStoppedWhenTheProjectBeforeCannotBeSaved) {
   };
   window.mnuEditItem.ClickItem(edit_item::Parameters);
   const std::string kept = FileAt(RecoveryPath);
-  platform.boxes.answers = {box_result::Yes, box_result::Cancel};
+  platform.boxes.answers = {BoxResult::Yes, BoxResult::Cancel};
   platform.files.Fail(Step::Create, error_number::DiskFull);
 
   OpenByDialog(Panel4);
@@ -133,7 +133,7 @@ TEST_F(FileMenu, ARecentFileIsNotOpenedWhenTheSaveBeforeIsCancelled) {
   window.mnuFileItem.ClickItem(file_item::New);
   program.project.WorkParms.Place.DepthofCover = 800;
   program.project.FileSaved = false;
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
 
   window.mnuFileArray.ClickItem(1);
 
@@ -170,19 +170,19 @@ TEST_F(FileMenu, SaveAfterARefusedFileWritesOverItWithoutAQuestion) {
 }
 
 TEST_F(FileMenu, AFileThatCannotBeReadIsToldAndLeft) {
-  platform.boxes.answers = {box_result::Cancel};
+  platform.boxes.answers = {BoxResult::Cancel};
 
   OpenByDialog("/designs/missing.orb");
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error occurred: File not found (53)"));
-  EXPECT_EQ(platform.boxes.shown.front().style, 5);
+  EXPECT_EQ(platform.boxes.shown.front().style, BoxButtons::RetryCancel);
   EXPECT_FALSE(platform.windows.waitCursor);
   EXPECT_EQ(program.session.recentFiles.MaxLastFiles, 0);
 }
 
 TEST_F(FileMenu, AFileThatHasGoneIsOpenedOnRetryOnceItIsBack) {
   ActingBoxes boxes;
-  boxes.answers = {box_result::Retry};
+  boxes.answers = {BoxResult::Retry};
   boxes.meanwhile = [this] { platform.files.files["/designs/back.orb"] = DesignAt(610); };
   Program retried = StartedProgram(platform.DoorsWith(boxes));
   MainWindow other(retried);
@@ -203,7 +203,7 @@ struct BrokenFile {
   const char* from;  // the first such text in the file, and all behind it,
   const char* to;    // gives way to this text
   const char* message;
-  int style;
+  BoxStyle style;
 };
 
 class ABrokenFile : public MainWindowTest, public testing::WithParamInterface<BrokenFile> {};
@@ -215,7 +215,7 @@ TEST_P(ABrokenFile, IsToldAndLeavesTheCaptionAndTheRecentFiles) {
   ASSERT_NE(whole.find(broken.from), std::string::npos);
   platform.files.files[Panel4] = whole.substr(0, whole.find(broken.from)) + broken.to;
   program.session.options.ShowInputScreenOnLoad = 1;
-  platform.boxes.answers = {box_result::Cancel};
+  platform.boxes.answers = {BoxResult::Cancel};
 
   OpenByDialog(Panel4);
 
@@ -232,9 +232,9 @@ TEST_P(ABrokenFile, IsToldAndLeavesTheCaptionAndTheRecentFiles) {
 INSTANTIATE_TEST_SUITE_P(
     By, ABrokenFile,
     testing::Values(BrokenFile{"ARatingThatIsNoInteger", "\r\n45\r\n", "\r\n40000\r\n1\r\n",
-                               "Error occurred: Overflow (6). Procedure Terminated", box_style::Ok},
+                               "Error occurred: Overflow (6). Procedure Terminated", BoxButtons::Ok},
                     BrokenFile{"AnEndInTheMiddle", "\r\n980\r\n", "\r\n980\r\n",
-                               "Error occurred: Input past end of file (62)", box_style::RetryCancel}),
+                               "Error occurred: Input past end of file (62)", BoxButtons::RetryCancel}),
     [](const auto& tested) { return tested.param.name; });
 
 TEST_F(FileMenu, OpenOffersTheFilesOfTheProgramAndThenAllFiles) {
@@ -282,7 +282,7 @@ TEST_F(FileMenu, OpeningLeavesNothingToRecover) {
   EditPanel3();
   window.mnuEditItem.ClickItem(edit_item::Parameters);
   ASSERT_TRUE(Exists(RecoveryPath));
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   OpenByDialog(Panel4);
 
@@ -291,7 +291,7 @@ TEST_F(FileMenu, OpeningLeavesNothingToRecover) {
 
 TEST_F(FileMenu, AFileDroppedOnTheWindowIsOpened) {
   EditPanel3();
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   window.Dropped(Panel4);
 
@@ -319,7 +319,7 @@ TEST_F(FileMenu, ARecentFileIsOpenedAgain) {
 TEST_F(FileMenu, ARecentFileThatHasGoneStaysInTheList) {
   OpenByDialog(Panel3);
   platform.files.files.erase(Panel3);
-  platform.boxes.answers = {box_result::Cancel};
+  platform.boxes.answers = {BoxResult::Cancel};
 
   window.mnuFileArray.ClickItem(1);
 

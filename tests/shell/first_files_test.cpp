@@ -80,7 +80,7 @@ TEST_F(FirstFiles, EndWithTheOneOfTheCommandLine) {
 TEST_F(FirstFiles, AreToldWhenTheLastFileHasGone) {
   RememberPanel4();
   platform.files.files.erase(Panel4);
-  platform.boxes.answers = {box_result::Cancel};
+  platform.boxes.answers = {BoxResult::Cancel};
 
   window.OpenFirstFiles("");
 
@@ -111,7 +111,7 @@ struct NextRun : FirstFiles {
 };
 
 TEST_F(NextRun, BringsLostWorkBackAsUnsaved) {
-  restarted.boxes.answers = {box_result::Yes};
+  restarted.boxes.answers = {BoxResult::Yes};
 
   nextWindow.OpenFirstFiles("");
 
@@ -120,7 +120,7 @@ TEST_F(NextRun, BringsLostWorkBackAsUnsaved) {
 }
 
 TEST_F(NextRun, OpensNothingElseOnceLostWorkIsBack) {
-  restarted.boxes.answers = {box_result::Yes};
+  restarted.boxes.answers = {BoxResult::Yes};
 
   nextWindow.OpenFirstFiles(Panel3);
 
@@ -129,7 +129,7 @@ TEST_F(NextRun, OpensNothingElseOnceLostWorkIsBack) {
 }
 
 TEST_F(NextRun, OpensTheFileOfTheCommandLineInstead) {
-  restarted.boxes.answers = {box_result::No};
+  restarted.boxes.answers = {BoxResult::No};
 
   nextWindow.OpenFirstFiles(Panel3);
 
@@ -139,7 +139,7 @@ TEST_F(NextRun, OpensTheFileOfTheCommandLineInstead) {
 }
 
 TEST_F(NextRun, OpensTheLastFileWhenLostWorkIsDeclined) {
-  restarted.boxes.answers = {box_result::No};
+  restarted.boxes.answers = {BoxResult::No};
 
   nextWindow.OpenFirstFiles("");
 

@@ -141,7 +141,7 @@ TEST_F(PrintedResults, AreNotThoseOfTheProjectBefore) {
   window.mnuFileItem.ClickItem(file_item::New);
 
   EXPECT_THAT(Printed(), IsEmpty());  // not agreed to
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
   EXPECT_THAT(Printed(), HasSubstr(Psup400));
 }
 

@@ -21,18 +21,18 @@ struct Printing : MainWindowTest {
 };
 
 TEST_F(Printing, AsksFirstWhenTheProjectIsEmpty) {
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   Choose(file_item::Print);
 
   ASSERT_EQ(platform.boxes.shown.size(), 1U);
   EXPECT_EQ(platform.boxes.shown.front().text, "Current file is empty. Continue?");
-  EXPECT_EQ(platform.boxes.shown.front().style, 260);
+  EXPECT_EQ(platform.boxes.shown.front().style, BoxStyle(BoxButtons::YesNo, BoxIcon::None, BoxDefault::SecondButton));
   EXPECT_EQ(platform.printer.chosen, 0);
 }
 
 TEST_F(Printing, PrintsAnEmptyProjectOnYes) {
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
 
   Choose(file_item::Print);
 
@@ -97,7 +97,7 @@ TEST_F(Printing, ProposesTheNameOfTheProjectForAFile) {
 }
 
 TEST_F(Printing, OfTheToolBarAsksAlikeWhenTheProjectIsEmpty) {
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   window.Toolbar1.ClickItem(tool_button::Print);
 
@@ -108,7 +108,7 @@ TEST_F(Printing, OfTheToolBarAsksAlikeWhenTheProjectIsEmpty) {
 TEST_F(Printing, IsToldAndGivenUpWithoutAPrinter) {
   OpenByDialog(Panel3);
   platform.printer.error = error_number::Printer;
-  platform.boxes.answers = {box_result::Cancel};
+  platform.boxes.answers = {BoxResult::Cancel};
 
   window.Toolbar1.ClickItem(tool_button::Print);
 
@@ -118,7 +118,7 @@ TEST_F(Printing, IsToldAndGivenUpWithoutAPrinter) {
 TEST_F(Printing, GoesOnBehindAPrinterDialogThatFailed) {
   OpenByDialog(Panel3);
   platform.printer.error = error_number::Printer;
-  platform.boxes.answers = {box_result::Cancel, box_result::Cancel};
+  platform.boxes.answers = {BoxResult::Cancel, BoxResult::Cancel};
 
   Choose(file_item::Print);
 
@@ -161,7 +161,7 @@ TEST_F(Printing, IsPreviewedPageByPage) {
 }
 
 TEST_F(Printing, PreviewAsksAlikeWhenTheProjectIsEmpty) {
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   Choose(file_item::Preview);
 

@@ -172,14 +172,14 @@ TEST_F(UnsavedWork, OfACancelledDialogIsTheCommittedDesignAgain) {
 TEST_F(UnsavedWork, IsOfferedToTheNextRun) {
   Lose(725);
   Program next = Started();
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
 
   EXPECT_TRUE(Recovery(next).Ask(""));
 
   ASSERT_EQ(platform.boxes.shown.size(), 1U);
   EXPECT_EQ(platform.boxes.shown.front().text,
             "Orby ended unexpectedly. Recover the unsaved project?\r\n\r\n/designs/panel3.orb");
-  EXPECT_EQ(platform.boxes.shown.front().style, 36);
+  EXPECT_EQ(platform.boxes.shown.front().style, BoxStyle(BoxButtons::YesNo, BoxIcon::Question));
   EXPECT_THAT(platform.boxes.shown.front().captions, IsEmpty());
   EXPECT_EQ(next.project.WorkParms.Place.DepthofCover, 725);
   EXPECT_EQ(next.project.CurrentFile, "/designs/panel3.orb");
@@ -202,7 +202,7 @@ TEST_F(UnsavedWork, IsOfferedWithTheTimeOfItsFile) {
 TEST_F(UnsavedWork, IsOfferedBesideTheFileThatWasToBeOpened) {
   Lose(725);
   Program next = Started();
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   EXPECT_FALSE(Recovery(next).Ask("/designs/panel4.orb"));
 
@@ -242,7 +242,7 @@ TEST_F(UnsavedWork, IsInTheBackupsOnNo) {
   Lose(725);
   Program next = Started();
   next.session.folders.ProgramData = DataFolder;
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   EXPECT_FALSE(Recovery(next).Ask(""));
 
@@ -327,7 +327,7 @@ TEST_F(UnsavedWork, ThatWasDeclinedAndIsNotInTheBackupsIsThereAfterTheRun) {
   Lose(725);
   Program program = Started();
   program.session.folders.ProgramData = DataFolder;
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
   platform.files.Fail(Step::Create, error_number::DiskFull);
   Recovery recovery(program);
 
@@ -392,7 +392,7 @@ TEST_F(UnsavedWork, ThatADialogCommittedOrDidNotChangeIsInNoBackup) {
 TEST_F(UnsavedWork, IsDeletedOnNoWithoutAFolderForBackups) {
   Lose(725);
   Program next = Started();
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   EXPECT_FALSE(Recovery(next).Ask(""));
 
@@ -447,7 +447,7 @@ TEST_F(UnsavedWork, OfARunningProgramIsNotOfferedToAnother) {
 TEST_F(UnsavedWork, ThatWasLostGoesBeforeAFreeFile) {
   platform.files.files[SecondFile] = RecoveryBytes(CommittedProject(Editing(980).project));
   Program next = Started();
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
 
   EXPECT_TRUE(Recovery(next).Ask(""));
 
@@ -467,7 +467,7 @@ TEST_F(UnsavedWork, OfANinthProgramIsKept) {
 TEST_F(UnsavedWork, ThatWasLostInTheNinthFileIsOffered) {
   platform.files.files[Folder + "~recover9.tmp"] = RecoveryBytes(CommittedProject(Editing(980).project));
   Program next = Started();
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
 
   EXPECT_TRUE(Recovery(next).Ask(""));
 

@@ -40,7 +40,7 @@ TEST(RunEndBox, SaysTheErrorFirstAndThenWhatWasBeingDoneAndThatTheProjectIsKept)
 TEST(RunEndBox, OffersToStartAgainBesideTheOldButton) {
   const MessageBox box = RunEndBox(FailedIn(Act::Report), RunEnd{});
 
-  EXPECT_EQ(box.style, box_style::Critical | box_style::OkRetry);
+  EXPECT_EQ(box.style, BoxStyle(BoxButtons::OkRetry, BoxIcon::Critical));
   EXPECT_THAT(box.captions, ElementsAre("OK", "Start Again"));
 }
 
@@ -109,7 +109,7 @@ TEST(RunEndBox, DoesNotClaimThatAProjectIsKeptWhenItIsNot) {
 TEST(RunEndBox, OffersNoStartAgainBeforeAnythingHasBegun) {
   const MessageBox box = RunEndBox(FailedIn(Act::Start), std::nullopt);
 
-  EXPECT_EQ(box.style, box_style::Critical);
+  EXPECT_EQ(box.style, BoxIcon::Critical);
   EXPECT_EQ(box.text,
             "Run-time error '11':\r\n\r\nDivision by zero\r\n\r\nThe error happened while the program was started.");
 }
@@ -219,7 +219,7 @@ TEST_F(StartedAgain, TheProgramOffersWhatAnotherRunLostInItsSlot) {
   atEnd = platform.files.files;  // the recovery file stands for that of another program that was killed
 
   restarted.session.folders.ProgramData = "/home/user/Documents/Orby/";
-  next.boxes.answers = {box_result::No};
+  next.boxes.answers = {BoxResult::No};
 
   StartAgain(end.Next);
 
@@ -236,7 +236,7 @@ TEST_F(StartedAgain, TheProgramOffersWhatAnotherRunLostWhenItsOwnSlotIsTaken) {
   window.LeaveAtOnce();
   atEnd = platform.files.files;
   next.files.marked.insert(TemporaryFolder + "~recover2.lck");
-  next.boxes.answers = {box_result::Yes};
+  next.boxes.answers = {BoxResult::Yes};
 
   StartAgain({2, {}});
 

@@ -46,7 +46,7 @@ TEST_F(ACheckAtStart, IsLeftOutWithoutAServer) {
 }
 
 TEST_F(ACheckAtStart, AsksAboutANewerVersion) {
-  platform.boxes.answers = {box_result::No};
+  platform.boxes.answers = {BoxResult::No};
 
   CheckBringing("1.0.01\r\n");
 
@@ -56,7 +56,7 @@ TEST_F(ACheckAtStart, AsksAboutANewerVersion) {
             "Note that in order to download and install you may need administrator priviledges and/or Windows may ask "
             "you for permission to do so. \r\n"
             "Proceed with Download and Install?");
-  EXPECT_EQ(platform.boxes.shown[0].style, box_style::YesNo);
+  EXPECT_EQ(platform.boxes.shown[0].style, BoxButtons::YesNo);
   EXPECT_EQ(platform.windows.modalForms, 0);
 }
 
@@ -69,7 +69,7 @@ TEST_F(ACheckAtStart, TellsTheHistoryBothVersions) {
 TEST_F(ACheckAtStart, OpensTheUpdatesOnYesAndSaysNothingElse) {
   std::string opened;
   platform.windows.onModal = [&](Form& form) { opened = form.Name(); };
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
 
   CheckBringing("1.0.01");
 
@@ -80,7 +80,7 @@ TEST_F(ACheckAtStart, OpensTheUpdatesOnYesAndSaysNothingElse) {
 
 TEST_F(ACheckAtStart, LetsTheUpdatesKnowTheVersionThatItFound) {
   platform.windows.onModal = [](Form& form) { dynamic_cast<UpdateDialog&>(form).cmdInstall.Press(); };
-  platform.boxes.answers = {box_result::Yes};
+  platform.boxes.answers = {BoxResult::Yes};
 
   CheckBringing("1.0.01");
 

@@ -8,7 +8,7 @@
 namespace orby::test {
 
 struct ActingBoxes : RecordingBoxes {
-  int Show(const MessageBox& box) override {
+  BoxResult Show(const MessageBox& box) override {
     if (meanwhile) meanwhile();
     return RecordingBoxes::Show(box);
   }

@@ -25,10 +25,10 @@ namespace orby::test {
 // Boxes answer from the queue, OK when it is empty.
 class RecordingBoxes : public MessageBoxes {
  public:
-  int Show(const MessageBox& box) override {
+  BoxResult Show(const MessageBox& box) override {
     shown.push_back(box);
-    if (answers.empty()) return box_result::Ok;
-    const int answer = answers.front();
+    if (answers.empty()) return BoxResult::Ok;
+    const BoxResult answer = answers.front();
     answers.pop_front();
     return answer;
   }
@@ -40,7 +40,7 @@ class RecordingBoxes : public MessageBoxes {
   }
 
   std::vector<MessageBox> shown;
-  std::deque<int> answers;
+  std::deque<BoxResult> answers;
 };
 
 // The power goes at a step of the files: nothing after it happens, and nothing below the test catches this.

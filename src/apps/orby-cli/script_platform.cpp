@@ -35,7 +35,7 @@ class WholeFile : public OutputFile {
 
 }  // namespace
 
-int ScriptBoxes::Show(const MessageBox& box) {
+BoxResult ScriptBoxes::Show(const MessageBox& box) {
   if (Keeps) {
     Kept.push_back(box.text);
   } else {
@@ -43,8 +43,7 @@ int ScriptBoxes::Show(const MessageBox& box) {
     std::fwrite(line.data(), 1, line.size(), stderr);
   }
   // Nobody is there to retry or to agree to anything.
-  const bool asks = (box.style & box_style::RetryCancel) != 0;
-  return asks ? box_result::Cancel : box_result::Ok;
+  return box.style.Buttons == BoxButtons::Ok ? BoxResult::Ok : BoxResult::Cancel;
 }
 
 bool ScriptFiles::Finds(const std::string& path, bool foldersToo) {

@@ -15,7 +15,7 @@ namespace orby::cli {
 // Tells messages on standard error as "message: text", or keeps them for whoever asked for them.
 class ScriptBoxes : public MessageBoxes {
  public:
-  int Show(const MessageBox& box) override;
+  BoxResult Show(const MessageBox& box) override;
 
   bool Keeps = false;
   std::vector<std::string> Kept;
