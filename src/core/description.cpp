@@ -70,7 +70,7 @@ void SaveDescription(Program& program) {
     program.project.DescLines = normal.lines;
   } catch (const RuntimeError& error) {
     // Whatever is decided, a description that could not be rebuilt stays as the user typed it.
-    ErrorDecision(program, error, false);
+    ErrorDecision(program, error, Telling::Silent);
   }
 }
 

@@ -75,8 +75,8 @@ void AppendUnits(const Form& form, UnitSystem units) {
   }
 }
 
-void PrepareForm(Program& program, int moduleIndex) {
-  SetMessageTitles(program, moduleIndex);
+void PrepareForm(Program& program, MessageModule module) {
+  SetMessageTitles(program, module);
   program.platform.windows.SetWaitCursor(false);
 }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "controls/controls.h"
+#include "core/messages.h"
 #include "core/program.h"
 
 namespace orby {
@@ -26,7 +27,7 @@ bool RangeCheck(Program& program, std::string_view text, double minimum, double 
 void AppendUnits(const Form& form, UnitSystem units);
 
 // What each dialog does first: the titles of its messages and the normal cursor.
-void PrepareForm(Program& program, int moduleIndex);
+void PrepareForm(Program& program, MessageModule module);
 
 // Opens a form, shows it, and closes it if the user has not.
 void ShowForm(Program& program, Form& form);

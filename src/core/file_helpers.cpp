@@ -55,7 +55,7 @@ bool ValidPath(Program& program, const std::string& path, bool quiet) {
   try {
     return program.platform.files.Finds(path, true);
   } catch (const RuntimeError& error) {
-    if (ErrorDecision(program, error, false) == error_decision::GiveUp) {
+    if (ErrorDecision(program, error, Telling::Silent) == Decision::GiveUp) {
       if (!quiet) ShowMessage(program, "Invalid path: " + path, BoxButtons::Ok, program.windows.titles.ErrorTitle);
       return false;
     }

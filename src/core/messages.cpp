@@ -67,17 +67,17 @@ int ClassOf(int number) {
 
 struct ClassRule {
   bool offersRetry;
-  int decision;  // when nothing is asked, or when the user does not retry
+  Decision decision;  // when nothing is asked, or when the user does not retry
 };
 
 constexpr std::array<ClassRule, ErrorClassCount> ClassRules{{
-    {true, error_decision::Continue},
-    {true, error_decision::Continue},
-    {false, error_decision::GiveUp},
-    {false, error_decision::GiveUp},
-    {false, error_decision::GiveUp},
-    {false, error_decision::Cancelled},
-    {false, error_decision::DataBase},
+    {true, Decision::Continue},
+    {true, Decision::Continue},
+    {false, Decision::GiveUp},
+    {false, Decision::GiveUp},
+    {false, Decision::GiveUp},
+    {false, Decision::Cancelled},
+    {false, Decision::DataBase},
 }};
 
 // Keeps the last two lines of a history that has grown too long.
@@ -112,11 +112,10 @@ BoxResult ShowMessage(Program& program, MessageBox box) {
   return program.platform.boxes.Show(box);
 }
 
-void SetMessageTitles(Program& program, int moduleIndex) {
-  if (moduleIndex < 1 || moduleIndex > static_cast<int>(ModulePrefixes.size())) {
-    throw RuntimeError(error_number::Subscript);
-  }
-  const std::string prefix(ModulePrefixes[static_cast<std::size_t>(moduleIndex - 1)]);
+void SetMessageTitles(Program& program, MessageModule module) {
+  const auto row = static_cast<std::size_t>(module) - 1;
+  if (row >= ModulePrefixes.size()) throw RuntimeError(error_number::Subscript);
+  const std::string prefix(ModulePrefixes[row]);
   program.windows.titles = {
       "Message",        prefix + "Range Error", prefix + "Range Warning", prefix + "Invalid Character",
       prefix + "Error", prefix + "Logic Error"};
@@ -134,10 +133,10 @@ void AddHistoryLine(Program& program, std::string_view text) {
   if (history.Changed) history.Changed();
 }
 
-int ErrorDecision(Program& program, const RuntimeError& error, bool showMessage) {
+Decision ErrorDecision(Program& program, const RuntimeError& error, Telling telling) {
   const int errorClass = ClassOf(error.number());
   const ClassRule& rule = ClassRules[static_cast<std::size_t>(errorClass)];
-  if (!showMessage) return rule.decision;
+  if (telling == Telling::Silent) return rule.decision;
 
   const std::string description(error.description());
   if (errorClass == ClassCancelled) {
@@ -153,7 +152,7 @@ int ErrorDecision(Program& program, const RuntimeError& error, bool showMessage)
     return rule.decision;
   }
   const BoxResult answer = ShowMessage(program, told, BoxButtons::RetryCancel, program.windows.titles.ErrorTitle);
-  return answer == BoxResult::Retry ? error_decision::Retry : rule.decision;
+  return answer == BoxResult::Retry ? Decision::Retry : rule.decision;
 }
 
 }  // namespace orby

@@ -9,17 +9,17 @@
 
 namespace orby {
 
-// Module numbers for SetMessageTitles.
-namespace message_module {
-inline constexpr int Description = 1;
-inline constexpr int Parameters = 2;
-inline constexpr int Options = 7;
-inline constexpr int Settings = 10;
-inline constexpr int GraphOptions = 11;
-inline constexpr int TextBrowser = 11;
-inline constexpr int Calculator = 12;
-inline constexpr int Conversion = 13;
-}  // namespace message_module
+// Whose titles the messages bear, by their numbers in the table of titles.
+enum class MessageModule {
+  Description = 1,
+  Parameters = 2,
+  Options = 7,
+  Settings = 10,
+  GraphOptions = 11,
+  TextBrowser = 11,
+  Calculator = 12,
+  Conversion = 13,
+};
 
 // Shows a message box after logging it as "title: text" ("Message: text" without a title), and returns the
 // button that was pressed. An empty title becomes the program's.
@@ -30,7 +30,7 @@ BoxResult ShowMessage(Program& program, const std::string& text, BoxStyle style 
 BoxResult ShowMessage(Program& program, MessageBox box);
 
 // Sets the titles to the module's prefix and each title's word. Throws RuntimeError 9 outside 1..13.
-void SetMessageTitles(Program& program, int moduleIndex);
+void SetMessageTitles(Program& program, MessageModule module);
 
 // Tells how to get help on a field.
 void ContextHelpHint(Program& program);
@@ -39,16 +39,19 @@ void ContextHelpHint(Program& program);
 // to its last two lines.
 void AddHistoryLine(Program& program, std::string_view text);
 
-namespace error_decision {
-inline constexpr int Retry = 0;      // the failed step again
-inline constexpr int Continue = 1;   // the step behind it
-inline constexpr int Cancelled = 2;  // the user cancelled a dialog
-inline constexpr int GiveUp = 3;
-inline constexpr int DataBase = 6;  // an error of a data base, unknown here
-}  // namespace error_decision
+enum class Decision {
+  Retry,      // the failed step again
+  Continue,   // the step after it
+  Cancelled,  // the user cancelled a dialog
+  GiveUp,
+  DataBase,  // an error of a data base, unknown here
+};
 
-// What is to become of a run-time error caught by a trap; told to the user and logged when showMessage is true.
-int ErrorDecision(Program& program, const RuntimeError& error, bool showMessage);
+// Whether an error is told to the user, and logged.
+enum class Telling { Loud, Silent };
+
+// What is to become of a run-time error caught by a trap.
+Decision ErrorDecision(Program& program, const RuntimeError& error, Telling telling);
 
 // How a step under a trap ended.
 enum class StepOutcome { Done, PassedOver, Cancelled, GivenUp };
@@ -63,10 +66,10 @@ StepOutcome RunTrapped(Program& program, const Step& step) {
       return StepOutcome::Done;
     } catch (const RuntimeError& error) {
       program.platform.windows.SetWaitCursor(false);
-      switch (ErrorDecision(program, error, true)) {
-        case error_decision::Retry: break;
-        case error_decision::Continue: return StepOutcome::PassedOver;
-        case error_decision::Cancelled: return StepOutcome::Cancelled;
+      switch (ErrorDecision(program, error, Telling::Loud)) {
+        case Decision::Retry: break;
+        case Decision::Continue: return StepOutcome::PassedOver;
+        case Decision::Cancelled: return StepOutcome::Cancelled;
         default: return StepOutcome::GivenUp;
       }
     }

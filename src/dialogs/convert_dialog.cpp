@@ -17,7 +17,7 @@ ConvertDialog::ConvertDialog(Program& program, std::function<void()> converted)
     : ProgramForm(program, "frmConvert", "File Conversion Utility"), converted_(std::move(converted)) {}
 
 void ConvertDialog::OnOpen() {
-  PrepareForm(program_, message_module::Conversion);
+  PrepareForm(program_, MessageModule::Conversion);
   AddHistoryLine(program_, "Loading File Conversion Form");
   const UnitSystem other = program_.project.WorkParms.Units == English ? Metric : English;
   Option1.SetMemberEnabled(PlaceOf(English), other == English);

@@ -96,7 +96,7 @@ void CostDialog::TieCommands() {
 
 void CostDialog::OnOpen() {
   program_.windows.DialogOpen = true;
-  PrepareForm(program_, message_module::Parameters);
+  PrepareForm(program_, MessageModule::Parameters);
   HoldEvents = true;
   CommitOnClose = false;
   WasCommitted = false;

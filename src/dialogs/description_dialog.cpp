@@ -42,7 +42,7 @@ DescriptionDialog::DescriptionDialog(Program& program) : ProgramForm(program, "f
 }
 
 void DescriptionDialog::OnOpen() {
-  PrepareForm(program_, message_module::Description);
+  PrepareForm(program_, MessageModule::Description);
   AddHistoryLine(program_, history_text::EditingDescription);
   CommitOnClose = false;
   OpensParameters = false;

@@ -38,7 +38,7 @@ EstimatorDialog::EstimatorDialog(Program& program)
 }
 
 void EstimatorDialog::OnOpen() {
-  PrepareForm(program_, message_module::Description);
+  PrepareForm(program_, MessageModule::Description);
   AddHistoryLine(program_, history_text::EditingDescription);
   HoldEvents = true;
   CommitOnClose = false;

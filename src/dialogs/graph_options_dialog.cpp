@@ -29,7 +29,7 @@ GraphOptionsDialog::GraphOptionsDialog(Program& program, Chart& chart)
 }
 
 void GraphOptionsDialog::OnOpen() {
-  PrepareForm(program_, message_module::GraphOptions);
+  PrepareForm(program_, MessageModule::GraphOptions);
   Combo1.Fill({{"None"}, {"Horizontal"}, {"Vertical"}, {"Horizontal & Vertical"}});
   Combo2.Fill({{"Lines Only"}, {"Symbols Only"}, {"Lines & Symbols"}});
   FillFields();

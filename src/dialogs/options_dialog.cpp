@@ -126,7 +126,7 @@ void OptionsDialog::OnOpen() {
   for (const std::size_t units : Pages) FillCables(units);
   FillStands();
   SSTab1.SetTab(program_.windows.OptionsTab);
-  PrepareForm(program_, message_module::Options);
+  PrepareForm(program_, MessageModule::Options);
   AddHistoryLine(program_, "Editing ORBY Options");
   program_.platform.windows.CenterForm(*this);
 }

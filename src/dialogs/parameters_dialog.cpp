@@ -87,7 +87,7 @@ void ParametersDialog::TieCommands() {
 
 void ParametersDialog::OnOpen() {
   program_.windows.DialogOpen = true;
-  PrepareForm(program_, message_module::Parameters);
+  PrepareForm(program_, MessageModule::Parameters);
   HoldEvents = true;
   CommitOnClose = false;
   WasCommitted = false;

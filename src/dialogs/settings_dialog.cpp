@@ -96,7 +96,7 @@ void SettingsDialog::UntieMessages() {
 }
 
 void SettingsDialog::OnOpen() {
-  PrepareForm(program_, message_module::Settings);
+  PrepareForm(program_, MessageModule::Settings);
   AddHistoryLine(program_, "Editing Settings");
   accepted_ = false;
   UntieMessages();

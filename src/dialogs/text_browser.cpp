@@ -80,7 +80,7 @@ TextBrowser::TextBrowser(Program& program) : ProgramForm(program, "frmTextBrow",
 }
 
 void TextBrowser::OnOpen() {
-  PrepareForm(program_, message_module::TextBrowser);
+  PrepareForm(program_, MessageModule::TextBrowser);
   const TextBrowseSettings& stored = program_.session.textBrowse;
   prgLoading.SetVisible(false);
   GoToLastFolder();

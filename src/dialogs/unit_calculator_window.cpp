@@ -30,7 +30,7 @@ UnitCalculator::Results UnitCalculator::InEach(const OptionArray& units,
 }
 
 void UnitCalculator::OnOpen() {
-  PrepareForm(program_, message_module::Calculator);
+  PrepareForm(program_, MessageModule::Calculator);
   AddHistoryLine(program_, "Loading Unit Conversion Form");
   for (const Page& page : pages_) SetArrayIndex(program_, page.units, 0);
   RequestFocus(txtLength);

@@ -117,7 +117,7 @@ using DialogShowing = ProgramBench;
 TEST_F(DialogShowing, BeginsWithItsTitlesAndTheNormalCursor) {
   platform.windows.SetWaitCursor(true);
 
-  PrepareForm(program, 10);
+  PrepareForm(program, MessageModule::Settings);
 
   EXPECT_EQ(program.windows.titles.ErrorTitle, "Settings: Error");
   EXPECT_FALSE(platform.windows.waitCursor);

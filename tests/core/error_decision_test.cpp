@@ -19,7 +19,7 @@ std::string CaseName(const testing::TestParamInfo<ErrorCase>& info) {
 }
 
 struct ErrorBench : ProgramBench {
-  ErrorBench() { SetMessageTitles(program, message_module::Parameters); }
+  ErrorBench() { SetMessageTitles(program, MessageModule::Parameters); }
 
   std::string FirstLogLine() const {
     return program.session.history.Text.substr(0, program.session.history.Text.find("\r\n"));
@@ -31,9 +31,9 @@ struct ErrorOfADevice : ErrorBench, testing::WithParamInterface<ErrorCase> {};
 TEST_P(ErrorOfADevice, IsRetriedWhenTheUserWishes) {
   platform.boxes.answers = {BoxResult::Retry};
 
-  const int decision = ErrorDecision(program, RuntimeError(GetParam().number), true);
+  const Decision decision = ErrorDecision(program, RuntimeError(GetParam().number), Telling::Loud);
 
-  EXPECT_EQ(decision, 0);
+  EXPECT_EQ(decision, Decision::Retry);
   EXPECT_EQ(FirstLogLine(), GetParam().log);
   EXPECT_THAT(platform.boxes.shown,
               ElementsAre(IsBox(GetParam().box, BoxButtons::RetryCancel, "Project Parameters: Error")));
@@ -42,17 +42,17 @@ TEST_P(ErrorOfADevice, IsRetriedWhenTheUserWishes) {
 TEST_P(ErrorOfADevice, IsPassedOverWhenTheUserCancels) {
   platform.boxes.answers = {BoxResult::Cancel};
 
-  const int decision = ErrorDecision(program, RuntimeError(GetParam().number), true);
+  const Decision decision = ErrorDecision(program, RuntimeError(GetParam().number), Telling::Loud);
 
-  EXPECT_EQ(decision, 1);
+  EXPECT_EQ(decision, Decision::Continue);
   EXPECT_THAT(platform.boxes.shown,
               ElementsAre(IsBox(GetParam().box, BoxButtons::RetryCancel, "Project Parameters: Error")));
 }
 
 TEST_P(ErrorOfADevice, IsPassedOverInSilence) {
-  const int decision = ErrorDecision(program, RuntimeError(GetParam().number), false);
+  const Decision decision = ErrorDecision(program, RuntimeError(GetParam().number), Telling::Silent);
 
-  EXPECT_EQ(decision, 1);
+  EXPECT_EQ(decision, Decision::Continue);
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
   EXPECT_EQ(program.session.history.Text, "");
 }
@@ -89,9 +89,9 @@ INSTANTIATE_TEST_SUITE_P(
 struct ErrorThatEndsACommand : ErrorBench, testing::WithParamInterface<ErrorCase> {};
 
 TEST_P(ErrorThatEndsACommand, IsToldOnceAndGivenUp) {
-  const int decision = ErrorDecision(program, RuntimeError(GetParam().number), true);
+  const Decision decision = ErrorDecision(program, RuntimeError(GetParam().number), Telling::Loud);
 
-  EXPECT_EQ(decision, 3);
+  EXPECT_EQ(decision, Decision::GiveUp);
   EXPECT_EQ(FirstLogLine(), GetParam().log);
   EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox(GetParam().box, BoxButtons::Ok, "Orby Roof Support Workbench")));
 }
@@ -99,13 +99,13 @@ TEST_P(ErrorThatEndsACommand, IsToldOnceAndGivenUp) {
 TEST_P(ErrorThatEndsACommand, IsNotRetriedWhateverTheBoxAnswers) {
   platform.boxes.answers = {BoxResult::Retry};
 
-  EXPECT_EQ(ErrorDecision(program, RuntimeError(GetParam().number), true), 3);
+  EXPECT_EQ(ErrorDecision(program, RuntimeError(GetParam().number), Telling::Loud), Decision::GiveUp);
 }
 
 TEST_P(ErrorThatEndsACommand, IsGivenUpInSilence) {
-  const int decision = ErrorDecision(program, RuntimeError(GetParam().number), false);
+  const Decision decision = ErrorDecision(program, RuntimeError(GetParam().number), Telling::Silent);
 
-  EXPECT_EQ(decision, 3);
+  EXPECT_EQ(decision, Decision::GiveUp);
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
   EXPECT_EQ(program.session.history.Text, "");
 }
@@ -160,17 +160,17 @@ INSTANTIATE_TEST_SUITE_P(
 using CancelledDialog = ErrorBench;
 
 TEST_F(CancelledDialog, IsLoggedByItsWordsAloneAndShowsNoBox) {
-  const int decision = ErrorDecision(program, RuntimeError(32755), true);
+  const Decision decision = ErrorDecision(program, RuntimeError(32755), Telling::Loud);
 
-  EXPECT_EQ(decision, 2);
+  EXPECT_EQ(decision, Decision::Cancelled);
   EXPECT_EQ(program.session.history.Text, "1. Cancel was selected.\r\n");
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
 TEST_F(CancelledDialog, LeavesNoTraceInSilence) {
-  const int decision = ErrorDecision(program, RuntimeError(32755), false);
+  const Decision decision = ErrorDecision(program, RuntimeError(32755), Telling::Silent);
 
-  EXPECT_EQ(decision, 2);
+  EXPECT_EQ(decision, Decision::Cancelled);
   EXPECT_EQ(program.session.history.Text, "");
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
@@ -178,9 +178,9 @@ TEST_F(CancelledDialog, LeavesNoTraceInSilence) {
 using DataBaseError = ErrorBench;
 
 TEST_F(DataBaseError, IsToldWithItsSignedNumber) {
-  const int decision = ErrorDecision(program, RuntimeError(-2147217900), true);
+  const Decision decision = ErrorDecision(program, RuntimeError(-2147217900), Telling::Loud);
 
-  EXPECT_EQ(decision, 6);
+  EXPECT_EQ(decision, Decision::DataBase);
   EXPECT_EQ(FirstLogLine(), "1. Error -2147217900:Application-defined or object-defined error");
   EXPECT_THAT(platform.boxes.shown,
               ElementsAre(IsBox("Error occurred: Application-defined or object-defined error (-2147217900). "
@@ -189,9 +189,9 @@ TEST_F(DataBaseError, IsToldWithItsSignedNumber) {
 }
 
 TEST_F(DataBaseError, KeepsItsDecisionInSilence) {
-  const int decision = ErrorDecision(program, RuntimeError(-2147217900), false);
+  const Decision decision = ErrorDecision(program, RuntimeError(-2147217900), Telling::Silent);
 
-  EXPECT_EQ(decision, 6);
+  EXPECT_EQ(decision, Decision::DataBase);
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
   EXPECT_EQ(program.session.history.Text, "");
 }
@@ -199,8 +199,8 @@ TEST_F(DataBaseError, KeepsItsDecisionInSilence) {
 using ErrorHistory = ErrorBench;
 
 TEST_F(ErrorHistory, HoldsTheErrorFirstAndThenItsBox) {
-  ErrorDecision(program, RuntimeError(53), true);
-  ErrorDecision(program, RuntimeError(76), true);
+  ErrorDecision(program, RuntimeError(53), Telling::Loud);
+  ErrorDecision(program, RuntimeError(76), Telling::Loud);
 
   EXPECT_EQ(program.session.history.Text,
             "1. Error  53:File not found\r\n"

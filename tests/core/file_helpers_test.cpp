@@ -12,7 +12,7 @@ using Step = MemoryFiles::Step;
 
 struct FileBench : ProgramBench {
   FileBench() {
-    SetMessageTitles(program, message_module::Options);
+    SetMessageTitles(program, MessageModule::Options);
     platform.files.files["/mine/panel.ORB"] = "ORBY_105\r\n";
   }
 };
@@ -190,7 +190,7 @@ TEST_F(TextFileCopy, TellsOfAFailureAtAnyStep) {
     failing.files.files["/mine/notes.txt"] = "one\r\ntwo\r\n";
     failing.files.Fail(step, 61);
     Program copying(failing.Doors());
-    SetMessageTitles(copying, message_module::Options);
+    SetMessageTitles(copying, MessageModule::Options);
 
     EXPECT_FALSE(CopyTextFile(copying, "/mine/notes.txt", "/tmp/copy.txt"));
 

@@ -73,7 +73,7 @@ TEST_F(ShowMessageBox, IsShownAlsoWhenTheHistoryIsOff) {
 }
 
 struct ModuleTitles {
-  int module;
+  MessageModule module;
   const char* rangeError;
   const char* rangeWarning;
   const char* invalidCharacter;
@@ -102,45 +102,46 @@ constexpr const char* BareInvalidCharacter = "Invalid Character";
 constexpr const char* BareError = "Error";
 constexpr const char* BareLogicError = "Logic Error";
 
-constexpr ModuleTitles BareTitles(int module) {
+constexpr ModuleTitles BareTitles(MessageModule module) {
   return {module, BareRangeError, BareRangeWarning, BareInvalidCharacter, BareError, BareLogicError};
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Module, MessageTitlesOfModule,
-    testing::Values(ModuleTitles{message_module::Description, "Project Description: Range Error",
+    testing::Values(ModuleTitles{MessageModule::Description, "Project Description: Range Error",
                                  "Project Description: Range Warning", "Project Description: Invalid Character",
                                  "Project Description: Error", "Project Description: Logic Error"},
-                    ModuleTitles{message_module::Parameters, "Project Parameters: Range Error",
+                    ModuleTitles{MessageModule::Parameters, "Project Parameters: Range Error",
                                  "Project Parameters: Range Warning", "Project Parameters: Invalid Character",
                                  "Project Parameters: Error", "Project Parameters: Logic Error"},
-                    BareTitles(3), BareTitles(4), BareTitles(5), BareTitles(6),
-                    ModuleTitles{message_module::Options, "Program Options: Range Error",
+                    BareTitles(MessageModule{3}), BareTitles(MessageModule{4}), BareTitles(MessageModule{5}),
+                    BareTitles(MessageModule{6}),
+                    ModuleTitles{MessageModule::Options, "Program Options: Range Error",
                                  "Program Options: Range Warning", "Program Options: Invalid Character",
                                  "Program Options: Error", "Program Options: Logic Error"},
-                    BareTitles(8), BareTitles(9),
-                    ModuleTitles{message_module::Settings, "Settings: Range Error", "Settings: Range Warning",
+                    BareTitles(MessageModule{8}), BareTitles(MessageModule{9}),
+                    ModuleTitles{MessageModule::Settings, "Settings: Range Error", "Settings: Range Warning",
                                  "Settings: Invalid Character", "Settings: Error", "Settings: Logic Error"},
-                    BareTitles(11), BareTitles(12), BareTitles(13)),
-    [](const auto& module) { return "Number" + std::to_string(module.param.module); });
+                    BareTitles(MessageModule{11}), BareTitles(MessageModule{12}), BareTitles(MessageModule{13})),
+    [](const auto& module) { return "Number" + std::to_string(NumberOf(module.param.module)); });
 
 using MessageTitlesTest = ProgramBench;
 
 TEST_F(MessageTitlesTest, ModulesHaveTheirFixedNumbers) {
-  EXPECT_EQ(message_module::Description, 1);
-  EXPECT_EQ(message_module::Parameters, 2);
-  EXPECT_EQ(message_module::Options, 7);
-  EXPECT_EQ(message_module::Settings, 10);
-  EXPECT_EQ(message_module::Calculator, 12);
-  EXPECT_EQ(message_module::Conversion, 13);
+  EXPECT_EQ(NumberOf(MessageModule::Description), 1);
+  EXPECT_EQ(NumberOf(MessageModule::Parameters), 2);
+  EXPECT_EQ(NumberOf(MessageModule::Options), 7);
+  EXPECT_EQ(NumberOf(MessageModule::Settings), 10);
+  EXPECT_EQ(NumberOf(MessageModule::Calculator), 12);
+  EXPECT_EQ(NumberOf(MessageModule::Conversion), 13);
 }
 
 TEST_F(MessageTitlesTest, StayAsTheyAreWhenThereIsNoSuchModule) {
-  SetMessageTitles(program, message_module::Settings);
+  SetMessageTitles(program, MessageModule::Settings);
 
-  EXPECT_EQ(ErrorNumberOf([this] { SetMessageTitles(program, 0); }), 9);
-  EXPECT_EQ(ErrorNumberOf([this] { SetMessageTitles(program, 14); }), 9);
-  EXPECT_EQ(ErrorNumberOf([this] { SetMessageTitles(program, -1); }), 9);
+  EXPECT_EQ(ErrorNumberOf([this] { SetMessageTitles(program, MessageModule{0}); }), 9);
+  EXPECT_EQ(ErrorNumberOf([this] { SetMessageTitles(program, MessageModule{14}); }), 9);
+  EXPECT_EQ(ErrorNumberOf([this] { SetMessageTitles(program, MessageModule{-1}); }), 9);
 
   EXPECT_EQ(program.windows.titles.ErrorTitle, "Settings: Error");
 }

@@ -9,7 +9,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 struct ARangeCheck : ProgramBench {
-  ARangeCheck() { SetMessageTitles(program, message_module::Settings); }
+  ARangeCheck() { SetMessageTitles(program, MessageModule::Settings); }
 };
 
 TEST_F(ARangeCheck, AcceptsBothEndsOfTheRangeInSilence) {

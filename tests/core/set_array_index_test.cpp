@@ -11,7 +11,7 @@ using testing::IsEmpty;
 
 struct OptionArrayIndex : ProgramBench {
   OptionArrayIndex() {
-    SetMessageTitles(program, message_module::Parameters);
+    SetMessageTitles(program, MessageModule::Parameters);
     source.Click = [this](Integer index) { clicks.push_back(index); };
   }
 
