@@ -79,25 +79,25 @@ Design BuildPages(Program& program) {
   return design;
 }
 
-int Report(FileRun& run, const std::string&) {
+ExitCode Report(FileRun& run, const std::string&) {
   if (run.line.Validate) {
     ParametersDialog dialog(run.program);
     dialog.Open();
-    if (!dialog.ValidateParameters()) return exit_code::Invalid;
+    if (!dialog.ValidateParameters()) return ExitCode::Invalid;
   }
   BuildPages(run.program);
   for (const int page : {0, 1}) {
     if (run.line.Page.value_or(page) == page) Print(run.program.session.OutBuf[static_cast<std::size_t>(page)]);
   }
-  return exit_code::Done;
+  return ExitCode::Done;
 }
 
-int Cost(FileRun& run, const std::string&) {
+ExitCode Cost(FileRun& run, const std::string&) {
   const Design design = InSevenDigits(run.program.project.WorkParms);
   const std::string table = CostReport(design.Cost, design.Units);
   LoadOutBuf0(run.program, design);  // the inputs go with the table: it has to be possible to write them
   Print(table);
-  return exit_code::Done;
+  return ExitCode::Done;
 }
 
 void AppendSingle(std::string& text, Single value) {
@@ -107,7 +107,7 @@ void AppendSingle(std::string& text, Single value) {
   text.append(digits.data(), end);
 }
 
-int CurveOf(FileRun& run, const std::string& number) {
+ExitCode CurveOf(FileRun& run, const std::string& number) {
   const Design design = BuildPages(run.program);
   TakeCurve(run.program, design, static_cast<Integer>(number.front() - '0'));
   const Curve& curve = run.program.windows.curve;
@@ -119,7 +119,7 @@ int CurveOf(FileRun& run, const std::string& number) {
     text += '\n';
   }
   Print(text);
-  return exit_code::Done;
+  return ExitCode::Done;
 }
 
 void AppendOutput(std::string& text, const TextBox& box) {
@@ -137,7 +137,7 @@ void AppendOutput(std::string& text, const TextBox& box) {
   text += '\n';
 }
 
-int Live(FileRun& run, const std::string&) {
+ExitCode Live(FileRun& run, const std::string&) {
   ParametersDialog dialog(run.program);
   dialog.Open();
   std::string text;
@@ -148,30 +148,30 @@ int Live(FileRun& run, const std::string&) {
   text += dialog.txtMessage.Name();
   text += dialog.txtMessage.Visible() ? ".Visible=1\n" : ".Visible=0\n";
   Print(text);
-  return exit_code::Done;
+  return ExitCode::Done;
 }
 
-int Validate(FileRun& run, const std::string&) {
+ExitCode Validate(FileRun& run, const std::string&) {
   ParametersDialog dialog(run.program);
   dialog.Open();
   run.platform.boxes.Keeps = true;
   const bool valid = dialog.ValidateParameters();
   for (const std::string& message : run.platform.boxes.Kept) Print(message + "\n");
-  return valid ? exit_code::Done : exit_code::Invalid;
+  return valid ? ExitCode::Done : ExitCode::Invalid;
 }
 
-int Save(FileRun& run, const std::string& out) {
+ExitCode Save(FileRun& run, const std::string& out) {
   SaveAs(run, out);
-  return exit_code::Done;
+  return ExitCode::Done;
 }
 
-int Convert(FileRun& run, const std::string& out) {
+ExitCode Convert(FileRun& run, const std::string& out) {
   ConvertDialog dialog(run.program);
   dialog.Open();
   dialog.Command2.Press();
   if (dialog.Failure()) throw RuntimeError(*dialog.Failure());
   SaveAs(run, out);
-  return exit_code::Done;
+  return ExitCode::Done;
 }
 
 bool IsCurveNumber(const std::string& word) { return word.size() == 1 && word[0] >= '0' && word[0] <= '9'; }
@@ -183,7 +183,7 @@ struct Command {
   std::string_view name;
   Shape shape;
   // Runs on an opened project; extra is the word beside the file, if the command takes one.
-  int (*run)(FileRun& run, const std::string& extra);
+  ExitCode (*run)(FileRun& run, const std::string& extra);
 };
 
 constexpr std::array Commands{
@@ -203,21 +203,21 @@ bool FitsShape(const std::vector<std::string>& operands, Shape shape) {
   return false;
 }
 
-int TellError(const RuntimeError& error) {
+ExitCode TellError(const RuntimeError& error) {
   const std::string text = std::string(error.what()) + "\n";
   std::fwrite(text.data(), 1, text.size(), stderr);
-  return exit_code::RunTimeError;
+  return ExitCode::RunTimeError;
 }
 
-int RunOnFile(const Command& command, FileRun run, const std::string& file, const std::string& extra) {
+ExitCode RunOnFile(const Command& command, FileRun run, const std::string& file, const std::string& extra) {
   try {
-    return OpenProject(run, file) ? command.run(run, extra) : exit_code::Refused;
+    return OpenProject(run, file) ? command.run(run, extra) : ExitCode::Refused;
   } catch (const RuntimeError& error) {
     return TellError(error);
   }
 }
 
-int RunOnOperands(const Command& command, const CommandLine& line) {
+ExitCode RunOnOperands(const Command& command, const CommandLine& line) {
   ScriptPlatform platform;
   Program start(platform.Doors());
   if (line.Config) {
@@ -237,22 +237,22 @@ int RunOnOperands(const Command& command, const CommandLine& line) {
     case Shape::FileOut: return run(operands[0], operands[1]);
     default: break;
   }
-  int worst = exit_code::Done;
+  ExitCode worst = ExitCode::Done;
   for (const std::string& file : operands) worst = std::max(worst, run(file, {}));
   return worst;
 }
 
 }  // namespace
 
-int RunCommand(const CommandLine& line) {
+ExitCode RunCommand(const CommandLine& line) {
   const auto* command = std::find_if(Commands.begin(), Commands.end(),
                                      [&line](const Command& entry) { return entry.name == line.Command; });
   if (command == Commands.end() || !FitsShape(line.Operands, command->shape)) {
     std::fwrite(UsageText.data(), 1, UsageText.size(), stderr);
-    return exit_code::Usage;
+    return ExitCode::Usage;
   }
   try {
-    const int code = RunOnOperands(*command, line);
+    const ExitCode code = RunOnOperands(*command, line);
     if (std::fflush(stdout) != 0) throw RuntimeError(error_number::DiskFull);
     return code;
   } catch (const RuntimeError& error) {

@@ -8,17 +8,18 @@
 
 namespace orby::cli {
 
-namespace exit_code {
-inline constexpr int Done = 0;
-inline constexpr int Usage = 1;
-inline constexpr int Refused = 2;       // not a project file
-inline constexpr int RunTimeError = 3;  // told on standard error
-inline constexpr int Invalid = 4;       // validation messages
-}  // namespace exit_code
+// The worst one last.
+enum class ExitCode {
+  Done,
+  Usage,
+  Refused,       // not a project file
+  RunTimeError,  // told on standard error
+  Invalid,       // validation messages
+};
 
 extern const std::string_view UsageText;
 
 // Runs the command, writing its results to standard output, and returns the exit code.
-int RunCommand(const CommandLine& line);
+ExitCode RunCommand(const CommandLine& line);
 
 }  // namespace orby::cli
