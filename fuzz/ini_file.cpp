@@ -119,9 +119,9 @@ void CheckSections(const std::string& bytes) {
   const IniText ini = orby::ReadIniFile(program, program.session.IniFilePath);
 
   orby::ReadDefaults(program, ini);
-  for (const int section :
-       {orby::catalog_section::Defaults, orby::catalog_section::BoltParams, orby::catalog_section::StandSupports}) {
-    orby::ReadCatalogSection(program.session, ini, section);
+  for (const auto section :
+       {orby::StoredCatalogs::Defaults, orby::StoredCatalogs::BoltParams, orby::StoredCatalogs::StandSupports}) {
+    orby::ReadCatalogSection(program, ini, section);
   }
 
   Expect(IsWithin(program.session.settings.MaxDisplaySize, 4096, 16384));

@@ -156,23 +156,27 @@ void WriteStandSupports(const StandingSupports& supports, IniText& ini) {
 
 }  // namespace
 
-void ReadCatalogSection(Program& program, const IniText& ini, int selector) {
-  if (selector == catalog_section::Defaults) {
-    for (const auto& row : DefaultRows) ReadIniRow(program, program.session.defaults, ini, DefaultsSection, row);
-  } else if (selector == catalog_section::BoltParams) {
-    for (const ListGroup& group : ListGroups) ReadListGroup(program.session.catalogs, ini, group);
-  } else if (selector == catalog_section::StandSupports) {
-    ReadStandSupports(program.session.catalogs.StandSupports, ini);
+void ReadCatalogSection(Program& program, const IniText& ini, StoredCatalogs what) {
+  switch (what) {
+    case StoredCatalogs::Defaults:
+      for (const auto& row : DefaultRows) ReadIniRow(program, program.session.defaults, ini, DefaultsSection, row);
+      break;
+    case StoredCatalogs::BoltParams:
+      for (const ListGroup& group : ListGroups) ReadListGroup(program.session.catalogs, ini, group);
+      break;
+    case StoredCatalogs::StandSupports: ReadStandSupports(program.session.catalogs.StandSupports, ini); break;
   }
 }
 
-void WriteCatalogSection(const Session& session, IniText& ini, int selector) {
-  if (selector == catalog_section::Defaults) {
-    for (const auto& row : DefaultRows) WriteIniRow(session.defaults, ini, DefaultsSection, row);
-  } else if (selector == catalog_section::BoltParams) {
-    for (const ListGroup& group : ListGroups) WriteListGroup(session.catalogs, ini, group);
-  } else if (selector == catalog_section::StandSupports) {
-    WriteStandSupports(session.catalogs.StandSupports, ini);
+void WriteCatalogSection(const Session& session, IniText& ini, StoredCatalogs what) {
+  switch (what) {
+    case StoredCatalogs::Defaults:
+      for (const auto& row : DefaultRows) WriteIniRow(session.defaults, ini, DefaultsSection, row);
+      break;
+    case StoredCatalogs::BoltParams:
+      for (const ListGroup& group : ListGroups) WriteListGroup(session.catalogs, ini, group);
+      break;
+    case StoredCatalogs::StandSupports: WriteStandSupports(session.catalogs.StandSupports, ini); break;
   }
 }
 

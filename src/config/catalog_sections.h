@@ -6,18 +6,17 @@
 
 namespace orby {
 
-namespace catalog_section {
-inline constexpr int Defaults = 10;       // [ORBYDefaults], the DesignDefaults
-inline constexpr int BoltParams = 11;     // [ORBYBoltParams], the bolt and cable lists
-inline constexpr int StandSupports = 12;  // [ORBYStandSupportParams], the standing supports; written, never read
-}  // namespace catalog_section
+enum class StoredCatalogs {
+  Defaults,       // [ORBYDefaults], the DesignDefaults
+  BoltParams,     // [ORBYBoltParams], the bolt and cable lists
+  StandSupports,  // [ORBYStandSupportParams], the standing supports; written, never read
+};
 
 // Takes the section's values over into the program. A missing or unreadable value reads as 0. A list's highest index
-// below 0 is an empty list, one beyond its capacity fills it; entries above the index stay as they were. Any other
-// selector does nothing.
-void ReadCatalogSection(Program& program, const IniText& ini, int selector);
+// below 0 is an empty list, one beyond its capacity fills it; entries above the index stay as they were.
+void ReadCatalogSection(Program& program, const IniText& ini, StoredCatalogs what);
 
 // Sets the section's keys in table order, a list's highest index before its entries.
-void WriteCatalogSection(const Session& session, IniText& ini, int selector);
+void WriteCatalogSection(const Session& session, IniText& ini, StoredCatalogs what);
 
 }  // namespace orby

@@ -155,8 +155,8 @@ void WriteGraph(const GraphSettings& graph, IniText& ini) {
   });
 }
 
-constexpr std::array AllSections{settings_section::Settings, settings_section::FileMenu, settings_section::TextBrowse,
-                                 settings_section::Graph, settings_section::Options};
+constexpr std::array AllSections{StoredSettings::Settings, StoredSettings::FileMenu, StoredSettings::TextBrowse,
+                                 StoredSettings::Graph, StoredSettings::Options};
 
 void TellSaving(Program& program) {
   AddHistoryLine(program, "Saving default settings to file: " + program.session.IniFilePath);
@@ -170,37 +170,35 @@ void SetBuiltInSettings(Program& program) {
   program.session.settings.DataPath = program.session.folders.ProgramData;
 }
 
-void ReadSettings(Program& program, const IniText& ini, int selector) {
+void ReadSettings(Program& program, const IniText& ini, StoredSettings what) {
   const auto readRows = [&](auto& group, std::string_view section, const auto& rows) {
     for (const auto& row : rows) ReadIniRow(program, group, ini, section, row);
   };
-  switch (selector) {
-    case settings_section::All:
-      for (const int section : AllSections) ReadSettings(program, ini, section);
+  switch (what) {
+    case StoredSettings::All:
+      for (const StoredSettings section : AllSections) ReadSettings(program, ini, section);
       break;
-    case settings_section::Settings: readRows(program.session.settings, SettingsSection, SettingsRows); break;
-    case settings_section::FileMenu: ReadRecentFiles(program, ini); break;
-    case settings_section::TextBrowse: readRows(program.session.textBrowse, TextBrowseSection, TextBrowseRows); break;
-    case settings_section::Graph: ReadGraph(program, ini); break;
-    case settings_section::Options: readRows(program.session.options, ReadOptionsSection, OptionRows); break;
-    default: break;
+    case StoredSettings::Settings: readRows(program.session.settings, SettingsSection, SettingsRows); break;
+    case StoredSettings::FileMenu: ReadRecentFiles(program, ini); break;
+    case StoredSettings::TextBrowse: readRows(program.session.textBrowse, TextBrowseSection, TextBrowseRows); break;
+    case StoredSettings::Graph: ReadGraph(program, ini); break;
+    case StoredSettings::Options: readRows(program.session.options, ReadOptionsSection, OptionRows); break;
   }
 }
 
-void WriteSettings(const Session& session, IniText& ini, int selector) {
+void WriteSettings(const Session& session, IniText& ini, StoredSettings what) {
   const auto writeRows = [&](const auto& group, std::string_view section, const auto& rows) {
     for (const auto& row : rows) WriteIniRow(group, ini, section, row);
   };
-  switch (selector) {
-    case settings_section::All:
-      for (const int section : AllSections) WriteSettings(session, ini, section);
+  switch (what) {
+    case StoredSettings::All:
+      for (const StoredSettings section : AllSections) WriteSettings(session, ini, section);
       break;
-    case settings_section::Settings: writeRows(session.settings, SettingsSection, SettingsRows); break;
-    case settings_section::FileMenu: WriteRecentFiles(session.recentFiles, ini); break;
-    case settings_section::TextBrowse: writeRows(session.textBrowse, TextBrowseSection, TextBrowseRows); break;
-    case settings_section::Graph: WriteGraph(session.graph, ini); break;
-    case settings_section::Options: writeRows(session.options, WrittenOptionsSection, OptionRows); break;
-    default: break;
+    case StoredSettings::Settings: writeRows(session.settings, SettingsSection, SettingsRows); break;
+    case StoredSettings::FileMenu: WriteRecentFiles(session.recentFiles, ini); break;
+    case StoredSettings::TextBrowse: writeRows(session.textBrowse, TextBrowseSection, TextBrowseRows); break;
+    case StoredSettings::Graph: WriteGraph(session.graph, ini); break;
+    case StoredSettings::Options: writeRows(session.options, WrittenOptionsSection, OptionRows); break;
   }
 }
 
@@ -208,9 +206,9 @@ std::string IniVersion(const IniText& ini) { return ReadIniValue(ini, VersionSec
 
 void WriteIniVersion(IniText& ini) { WriteIniValue(ini, VersionSection, VersionKey, BuildStamp); }
 
-void ReadDefaults(Program& program, const IniText& ini) { ReadSettings(program, ini, settings_section::All); }
+void ReadDefaults(Program& program, const IniText& ini) { ReadSettings(program, ini, StoredSettings::All); }
 
-void WriteDefaults(Program& program, int what) {
+void WriteDefaults(Program& program, StoredSettings what) {
   // Before the edit: a file that cannot be written is told like any other.
   TellSaving(program);
   EditIniFile(program, program.session.IniFilePath, [&](IniText& ini) { WriteSettings(program.session, ini, what); });
@@ -219,9 +217,9 @@ void WriteDefaults(Program& program, int what) {
 IniText NewIniText(const Session& session) {
   IniText ini;
   WriteIniVersion(ini);
-  WriteSettings(session, ini, settings_section::All);
-  WriteCatalogSection(session, ini, catalog_section::Defaults);
-  WriteCatalogSection(session, ini, catalog_section::BoltParams);
+  WriteSettings(session, ini, StoredSettings::All);
+  WriteCatalogSection(session, ini, StoredCatalogs::Defaults);
+  WriteCatalogSection(session, ini, StoredCatalogs::BoltParams);
   return ini;
 }
 

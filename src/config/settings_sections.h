@@ -10,25 +10,26 @@
 
 namespace orby {
 
-namespace settings_section {
-inline constexpr int All = 1;
-inline constexpr int Settings = 2;    // [Settings]
-inline constexpr int FileMenu = 3;    // [FileMenu], the recent files
-inline constexpr int TextBrowse = 4;  // [TextBrowse]
-inline constexpr int Graph = 5;       // [Graph]
-inline constexpr int Options = 6;     // written to [TULKOptions], read from [PENVOptions]
-}  // namespace settings_section
+// What a call reads or writes, by the sections of the file.
+enum class StoredSettings {
+  All = 1,
+  Settings,    // [Settings]
+  FileMenu,    // [FileMenu], the recent files
+  TextBrowse,  // [TextBrowse]
+  Graph,       // [Graph]
+  Options,     // written to [TULKOptions], read from [PENVOptions]
+};
 
 // Sets what a program holds before any file is read and that only its surroundings know: the fonts and the data path.
 void SetBuiltInSettings(Program& program);
 
 // Takes one section's values, or those of all, over into the program. A number outside its range, or missing, reads as
 // the range's minimum; a missing text as the empty one, but for fonts, data path and extension, which fall back to what
-// the program has built in. Any other selector does nothing.
-void ReadSettings(Program& program, const IniText& ini, int selector);
+// the program has built in.
+void ReadSettings(Program& program, const IniText& ini, StoredSettings what);
 
-// Sets the section's keys in table order; all sections in the order of their selectors.
-void WriteSettings(const Session& session, IniText& ini, int selector);
+// Sets the section's keys in table order; all sections in the order above.
+void WriteSettings(const Session& session, IniText& ini, StoredSettings what);
 
 // The version that the configuration was written by; empty when it tells none.
 std::string IniVersion(const IniText& ini);
@@ -38,7 +39,7 @@ void WriteIniVersion(IniText& ini);
 void ReadDefaults(Program& program, const IniText& ini);
 
 // Writes one section, or all, to the configuration file at IniFilePath, and tells so in the history first.
-void WriteDefaults(Program& program, int what);
+void WriteDefaults(Program& program, StoredSettings what);
 
 // A whole new configuration: the version, all of the settings, the values of a new design and the lists.
 IniText NewIniText(const Session& session);

@@ -57,7 +57,7 @@ void Disclaimer::Refuse() {
 void Disclaimer::OnClose() {
   if (!accepted_) return;
   program_.session.settings.ShowDisclaim = chkShow.Value();
-  WriteDefaults(program_, settings_section::Settings);
+  WriteDefaults(program_, StoredSettings::Settings);
 }
 
 }  // namespace orby

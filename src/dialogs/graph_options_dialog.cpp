@@ -103,7 +103,7 @@ void GraphOptionsDialog::ReadFields() const {
 
 void GraphOptionsDialog::Accept() {
   ReadFields();
-  WriteDefaults(program_, settings_section::Graph);
+  WriteDefaults(program_, StoredSettings::Graph);
   Reformat(program_.session.graph, program_.windows.curve.CurveIndex, chart_);
   Close();
 }

@@ -225,9 +225,9 @@ void OptionsDialog::Store() {
 void OptionsDialog::OnClose() {
   if (!CommitOnClose) return AddHistoryLine(program_, "Options Not Modified");
   Store();
-  WriteDefaults(program_, settings_section::Options);
+  WriteDefaults(program_, StoredSettings::Options);
   EditIniFile(program_, program_.session.IniFilePath, [this](IniText& ini) {
-    for (const int section : {catalog_section::Defaults, catalog_section::BoltParams, catalog_section::StandSupports}) {
+    for (const auto section : {StoredCatalogs::Defaults, StoredCatalogs::BoltParams, StoredCatalogs::StandSupports}) {
       WriteCatalogSection(program_.session, ini, section);
     }
   });

@@ -180,7 +180,7 @@ void SettingsDialog::Commit() {
   program_.session.settings = Edited();
   AddHistoryLine(program_, "Settings Modified");
   if (modified_) modified_();
-  WriteDefaults(program_, settings_section::Settings);
+  WriteDefaults(program_, StoredSettings::Settings);
 }
 
 void SettingsDialog::OnClose() {

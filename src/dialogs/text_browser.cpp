@@ -98,7 +98,7 @@ void TextBrowser::OnClose() {
   stored.BrowseDefaultFilter = Text2.Text();
   stored.BrowseUseNotepad = Check1.Value();
   StoreFont(RichTextBox1.Font(), stored);
-  WriteDefaults(program_, settings_section::TextBrowse);
+  WriteDefaults(program_, StoredSettings::TextBrowse);
 }
 
 // ---- drives and folders --------------------------------------------------------------------------------------------

@@ -70,7 +70,7 @@ void UpdateDialog::OnOpen() {
 
 void UpdateDialog::OnClose() {
   fetch_.reset();
-  WriteDefaults(program_, settings_section::Settings);
+  WriteDefaults(program_, StoredSettings::Settings);
 }
 
 void UpdateDialog::SetBusy(bool busy) {

@@ -39,10 +39,10 @@ void ReadMarkedDescription(ItemReader& reader, std::string& description, Integer
   }
 }
 
-void LoadDescription(Project& project, ItemReader& reader, int mode) {
+void LoadDescription(Project& project, ItemReader& reader, DescriptionMode mode) {
   constexpr Integer LastLegacyVersion = 49;
   project.DescLines = 1;
-  if (mode == description_mode::Legacy || project.FileVersion <= LastLegacyVersion) {
+  if (mode == DescriptionMode::Legacy || project.FileVersion <= LastLegacyVersion) {
     LoadLegacyDescription(project, reader);
     return;
   }

@@ -10,10 +10,10 @@
 
 namespace orby {
 
-namespace description_mode {
-inline constexpr int Legacy = 0;  // five lines without markers; no project that can be opened has them
-inline constexpr int Marked = 2;
-}  // namespace description_mode
+enum class DescriptionMode {
+  Legacy = 0,  // five lines without markers
+  Marked = 2,
+};
 
 // Appends the lines up to the end marker to the description, each with its end, and adds their number to the count.
 // Throws as LoadDescription does, with the lines read until then in the description.
@@ -23,6 +23,6 @@ void ReadMarkedDescription(ItemReader& reader, std::string& description, Integer
 // Behind the first line the description comes as text items, so that a comma ends a line, leading blanks are lost and
 // double quotes disappear.
 // Throws RuntimeError 62 without an end marker, 6 beyond 32766 lines, 7 when it grows longer than LongestItem.
-void LoadDescription(Project& project, ItemReader& reader, int mode);
+void LoadDescription(Project& project, ItemReader& reader, DescriptionMode mode);
 
 }  // namespace orby

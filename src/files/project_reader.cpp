@@ -50,7 +50,7 @@ bool CheckFileFormat(Program& program, ItemReader reader) {
 void ReadProject(Project& project, ItemReader reader) {
   ReadHeader(project, reader);
   project.ProjectDescription.clear();
-  LoadDescription(project, reader, description_mode::Marked);
+  LoadDescription(project, reader, DescriptionMode::Marked);
   for (const ProjectLine& line : ProjectLines) {
     if (project.FileVersion >= line.FirstVersion) ReadField(project.WorkParms, line, reader);
   }

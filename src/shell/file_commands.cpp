@@ -88,7 +88,7 @@ bool MainWindow::SaveProject(bool saveAs) {
 void MainWindow::UpdateRecentFiles() {
   if (!EnterRecentFile(program_)) return;
   ShowRecentFiles(program_.session.recentFiles, mnuFileArray);
-  WriteDefaults(program_, settings_section::FileMenu);
+  WriteDefaults(program_, StoredSettings::FileMenu);
 }
 
 bool MainWindow::MayPrint() {

@@ -115,7 +115,7 @@ bool MainWindow::MayClose() {
 void MainWindow::OnClose() {
   program_.platform.help.Close();
   recovery_.Discard();
-  WriteDefaults(program_, settings_section::FileMenu);
+  WriteDefaults(program_, StoredSettings::FileMenu);
 }
 
 // A project that is not kept may still be had as its file has it.

@@ -57,8 +57,8 @@ IniText SettledConfiguration(Program& program) {
 }
 
 void ReadCatalogSections(Program& program, const IniText& ini) {
-  ReadCatalogSection(program, ini, catalog_section::Defaults);
-  ReadCatalogSection(program, ini, catalog_section::BoltParams);
+  ReadCatalogSection(program, ini, StoredCatalogs::Defaults);
+  ReadCatalogSection(program, ini, StoredCatalogs::BoltParams);
 }
 
 // A new configuration is read back too, so that the first run holds what later ones will.

@@ -13,9 +13,7 @@
 namespace orby::test {
 namespace {
 
-using catalog_section::BoltParams;
-using catalog_section::Defaults;
-using catalog_section::StandSupports;
+using enum StoredCatalogs;
 using testing::ElementsAre;
 
 struct CatalogSections : testing::Test {
@@ -24,7 +22,7 @@ struct CatalogSections : testing::Test {
   Catalogs& catalogs = program.session.catalogs;
   DesignDefaults& defaults = program.session.defaults;
 
-  void Read(int selector, const std::string& text) { ReadCatalogSection(program, IniText(text), selector); }
+  void Read(StoredCatalogs what, const std::string& text) { ReadCatalogSection(program, IniText(text), what); }
 
   void ReadBolts(const std::string& keys) { Read(BoltParams, "[ORBYBoltParams]\r\n" + keys); }
 };
@@ -394,8 +392,8 @@ TEST_F(CatalogSections, AnUnknownSelectorReadsAndWritesNothing) {
   catalogs = SomeLists();
   IniText ini;
 
-  WriteCatalogSection(program.session, ini, 9);
-  ReadCatalogSection(program, ini, 9);
+  WriteCatalogSection(program.session, ini, StoredCatalogs{9});
+  ReadCatalogSection(program, ini, StoredCatalogs{9});
 
   EXPECT_EQ(ini.Text(), "");
   EXPECT_EQ(defaults.DefaultCMRR, 45);

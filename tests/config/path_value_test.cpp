@@ -67,8 +67,8 @@ TEST_F(RecentFilesOfTheConfiguration, KeepTheirUmlautsBesideANameThatIsNoUtf8) {
   Enter(2, "/designs/\xE2\x82\xAC.ORB");
   Program next(platform.Doors());
 
-  WriteDefaults(program, settings_section::FileMenu);
-  ReadSettings(next, ReadIniFile(program, program.session.IniFilePath), settings_section::FileMenu);
+  WriteDefaults(program, StoredSettings::FileMenu);
+  ReadSettings(next, ReadIniFile(program, program.session.IniFilePath), StoredSettings::FileMenu);
 
   EXPECT_EQ(next.session.recentFiles.Entries[0].LastFileLong, "/designs/fl\xF6z.ORB");
   EXPECT_EQ(next.session.recentFiles.Entries[0].LastFile, "/designs/fl\xF6z.ORB");
@@ -82,7 +82,7 @@ TEST_F(RecentFilesOfTheConfiguration, StayReadableInIt) {
   Enter(0, "/designs/fl\xF6z.ORB");
   Enter(1, "/designs/panel.ORB");
 
-  WriteDefaults(program, settings_section::FileMenu);
+  WriteDefaults(program, StoredSettings::FileMenu);
 
   EXPECT_THAT(platform.files.files["/data/ORBY.INI"],
               HasSubstr("LastFile1=file:/designs/fl%F6z.ORB\r\nLastFileMode1=0\r\n"
@@ -96,8 +96,8 @@ TEST_F(RecentFilesOfTheConfiguration, LeaveTheDataPathReadableThatIsNoUtf8) {
   program.session.settings.ExternalEditor = "/opt/\xC3\xBC";
   Program next(platform.Doors());
 
-  WriteDefaults(program, settings_section::Settings);
-  ReadSettings(next, ReadIniFile(program, program.session.IniFilePath), settings_section::Settings);
+  WriteDefaults(program, StoredSettings::Settings);
+  ReadSettings(next, ReadIniFile(program, program.session.IniFilePath), StoredSettings::Settings);
 
   EXPECT_EQ(next.session.settings.DataPath, "/fl\xF6z/");
   EXPECT_EQ(next.session.settings.ExternalEditor, "/opt/\xC3\xBC");

@@ -13,7 +13,7 @@
 namespace orby::test {
 namespace {
 
-namespace section = settings_section;
+using section = StoredSettings;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -37,11 +37,11 @@ struct SettingsSections : testing::Test {
   OptionSettings& options = program.session.options;
   RecentFiles& recent = program.session.recentFiles;
 
-  void Read(int selector, const std::string& text) { ReadSettings(program, IniText(text), selector); }
+  void Read(StoredSettings what, const std::string& text) { ReadSettings(program, IniText(text), what); }
   void ReadKeys(const std::string& keys) { Read(section::Settings, "[Settings]\r\n" + keys); }
-  std::string Written(int selector) const {
+  std::string Written(StoredSettings what) const {
     IniText ini;
-    WriteSettings(program.session, ini, selector);
+    WriteSettings(program.session, ini, what);
     return ini.Text();
   }
   std::string& FileBytes() { return platform.files.files[IniPath]; }
@@ -127,10 +127,10 @@ TEST_F(SettingsSections, TheSectionsStandInTheOrderOfTheirSelectors) {
 }
 
 TEST_F(SettingsSections, AnUnknownSelectorReadsAndWritesNothing) {
-  Read(7, "[Settings]\r\nDefaultUnits=1\r\n");
+  Read(StoredSettings{7}, "[Settings]\r\nDefaultUnits=1\r\n");
 
   EXPECT_EQ(settings.UnitsDefault, English);
-  EXPECT_EQ(Written(7), "");
+  EXPECT_EQ(Written(StoredSettings{7}), "");
 }
 
 TEST_F(SettingsSections, EverySettingIsReadIntoItsOwnPlace) {

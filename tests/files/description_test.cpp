@@ -137,11 +137,11 @@ struct Loaded {
   std::string behind;  // the next line of the file
 };
 
-Loaded Load(const std::string& bytes, int mode = description_mode::Marked, Integer fileVersion = 103) {
+Loaded Load(const std::string& bytes, DescriptionMode mode = DescriptionMode::Marked, Integer fileVersion = 103) {
   TestProject project;
   project.program.project.FileVersion = fileVersion;
   project.program.project.ProjectDescription = "previous";
-  if (mode == description_mode::Legacy || fileVersion < 50) project.program.project.ProjectDescription.clear();
+  if (mode == DescriptionMode::Legacy || fileVersion < 50) project.program.project.ProjectDescription.clear();
   ItemReader reader(bytes);
   LoadDescription(project.program.project, reader, mode);
   return {project.program.project.ProjectDescription, project.program.project.DescLines, reader.ReadLine()};
@@ -219,7 +219,7 @@ TEST(Description, MoreLinesThanCanBeCountedOverflow) {
 TEST(Description, TheLegacyReadingTakesFiveLinesWhole) {
   const std::string bytes = Lines({"Panel 3, east", "", "  Shale", "\"wet\"", "   ", "45"});
 
-  for (const Loaded& loaded : {Load(bytes, description_mode::Legacy), Load(bytes, description_mode::Marked, 49)}) {
+  for (const Loaded& loaded : {Load(bytes, DescriptionMode::Legacy), Load(bytes, DescriptionMode::Marked, 49)}) {
     EXPECT_EQ(loaded.text, "Panel 3, east\r\n  Shale\r\n\"wet\"\r\n");
     EXPECT_EQ(loaded.lines, 7);
     EXPECT_EQ(loaded.behind, "45");
@@ -227,7 +227,7 @@ TEST(Description, TheLegacyReadingTakesFiveLinesWhole) {
 }
 
 TEST(Description, FormatFiftyAlreadyHasMarkers) {
-  EXPECT_EQ(Load(Lines({"##StartDesc##", "Roof", "##EndDesc##", "45"}), description_mode::Marked, 50).text, "Roof\r\n");
+  EXPECT_EQ(Load(Lines({"##StartDesc##", "Roof", "##EndDesc##", "45"}), DescriptionMode::Marked, 50).text, "Roof\r\n");
 }
 
 }  // namespace

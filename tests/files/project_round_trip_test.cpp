@@ -81,7 +81,7 @@ RC_GTEST_PROP(ProjectRoundTrip, ADescriptionReadsBackLineByLine, ()) {
   ItemReader reader(bytes);
   project.program.project.FileVersion = 103;
 
-  LoadDescription(project.program.project, reader, description_mode::Marked);
+  LoadDescription(project.program.project, reader, DescriptionMode::Marked);
 
   RC_ASSERT(project.program.project.ProjectDescription == (saved.empty() ? "" : saved + "\r\n"));
   RC_ASSERT(reader.ReadInteger() == 45);

@@ -141,7 +141,7 @@ TEST_F(StartUp, TakesTheStandingSupportsFromTheBuiltInTableWhateverTheFileSays) 
   StartProgram(program);
   program.session.catalogs.StandSupports = {0, {"Can, 24in"}, {{{120, 1068}}}};
   EditIniFile(program, program.session.IniFilePath,
-              [this](IniText& ini) { WriteCatalogSection(program.session, ini, catalog_section::StandSupports); });
+              [this](IniText& ini) { WriteCatalogSection(program.session, ini, StoredCatalogs::StandSupports); });
   Program next(platform.Doors());
 
   StartProgram(next);
@@ -156,7 +156,7 @@ TEST_F(StartUp, TakesTheStandingSupportsFromTheBuiltInTableWhateverTheFileSays) 
 TEST_F(StartUp, ForgetsTheOptionsOfTheLastRun) {
   StartProgram(program);
   program.session.options.BoltGradeAsUltimateDefault = StrengthBasis::Ultimate;
-  WriteDefaults(program, settings_section::Options);
+  WriteDefaults(program, StoredSettings::Options);
   Program next(platform.Doors());
 
   StartProgram(next);
@@ -320,8 +320,8 @@ TEST_F(StartOfAScript, TakesTheNewDesignFromTheConfiguredDefaults) {
   StartApart(program, nullptr);
   IniText configuration;
   program.session.defaults.DefaultENGDepthofCover = 725;
-  WriteCatalogSection(program.session, configuration, catalog_section::Defaults);
-  WriteCatalogSection(program.session, configuration, catalog_section::BoltParams);
+  WriteCatalogSection(program.session, configuration, StoredCatalogs::Defaults);
+  WriteCatalogSection(program.session, configuration, StoredCatalogs::BoltParams);
   Program next(platform.Doors());
 
   StartApart(next, &configuration);
