@@ -17,16 +17,8 @@
 namespace orby {
 namespace {
 
-namespace file_item {
-constexpr Integer Print = 0;
-constexpr Integer Export = 2;
-constexpr Integer Exit = 4;
-}  // namespace file_item
-
-namespace options_item {
-constexpr Integer PointID = 0;
-constexpr Integer BasicOptions = 1;
-}  // namespace options_item
+enum class GraphFileEntry : Integer { Print = 0, Export = 2, Exit = 4 };
+enum class GraphOptionsEntry : Integer { PointID, BasicOptions };
 
 constexpr double ReadOutDistance = 4;  // pixels
 constexpr double HoleValue = 1e308;    // stands for a point that is not there
@@ -55,14 +47,18 @@ bool IsPoint(const std::vector<ChartSeries>& all, const ChartHit& hit) {
 GraphWindow::GraphWindow(Program& program) : ProgramForm(program, "frmGraph", "Graph") {
   graph1.MouseMove = [this](const ChartHit& hit) { ReadOut(hit); };
   GraphFileItem.Click = [this](Integer item) {
-    if (item == file_item::Print) Print();
-    if (item == file_item::Export) AskAndExport();
-    if (item == file_item::Exit) Close();
+    switch (GraphFileEntry{item}) {
+      case GraphFileEntry::Print: Print(); break;
+      case GraphFileEntry::Export: AskAndExport(); break;
+      case GraphFileEntry::Exit: Close(); break;
+    }
   };
   GraphEditItem.Click = [this](Integer) { program_.platform.clipboard.SetPicture(graph1); };
   GraphOptionsItem.Click = [this](Integer item) {
-    if (item == options_item::PointID) TogglePointID();
-    if (item == options_item::BasicOptions) EditOptions();
+    switch (GraphOptionsEntry{item}) {
+      case GraphOptionsEntry::PointID: TogglePointID(); break;
+      case GraphOptionsEntry::BasicOptions: EditOptions(); break;
+    }
   };
 }
 
@@ -75,7 +71,7 @@ void GraphWindow::ShowCurve(Integer index) {
 
 void GraphWindow::OnOpen() {
   program_.windows.curve.GraphClosed = false;
-  GraphOptionsItem.SetItemChecked(options_item::PointID, false);
+  GraphOptionsItem.SetItemChecked(NumberOf(GraphOptionsEntry::PointID), false);
   Frame1.SetVisible(false);
   ClearReadOut();
 }
@@ -112,7 +108,7 @@ void GraphWindow::ClearGraph() {
 }
 
 void GraphWindow::ReadOut(const ChartHit& hit) {
-  if (!GraphOptionsItem.ItemChecked(options_item::PointID) || !Frame1.Visible()) return;
+  if (!GraphOptionsItem.ItemChecked(NumberOf(GraphOptionsEntry::PointID)) || !Frame1.Visible()) return;
   if (!hit.inPlot) {
     ClearReadOut();
     return;
@@ -163,8 +159,8 @@ void GraphWindow::Export() {
 }
 
 void GraphWindow::TogglePointID() {
-  const bool shown = !GraphOptionsItem.ItemChecked(options_item::PointID);
-  GraphOptionsItem.SetItemChecked(options_item::PointID, shown);
+  const bool shown = !GraphOptionsItem.ItemChecked(NumberOf(GraphOptionsEntry::PointID));
+  GraphOptionsItem.SetItemChecked(NumberOf(GraphOptionsEntry::PointID), shown);
   Frame1.SetVisible(shown);
 }
 

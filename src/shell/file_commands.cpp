@@ -20,18 +20,17 @@ bool GoesOn(StepOutcome outcome) { return outcome == StepOutcome::Done || outcom
 
 }  // namespace
 
-void MainWindow::FileCommand(Integer item) {
+void MainWindow::FileCommand(FileItem item) {
   switch (item) {
-    case file_item::New: NewProject(); break;
-    case file_item::Open: OpenProject(); break;
-    case file_item::Save: SaveProject(false); break;
-    case file_item::SaveAs: SaveProject(true); break;
-    case file_item::PrinterSetup: Run(Trap::Set, [this] { program_.platform.printer.SetUp(); }); break;
-    case file_item::Print: PrintProject(true); break;
-    case file_item::Preview: PreviewProject(); break;
-    case file_item::ViewSourceFiles: ShowNew<TextBrowser>(); break;
-    case file_item::Exit: Exit(); break;
-    default: break;
+    case FileItem::New: NewProject(); break;
+    case FileItem::Open: OpenProject(); break;
+    case FileItem::Save: SaveProject(false); break;
+    case FileItem::SaveAs: SaveProject(true); break;
+    case FileItem::PrinterSetup: Run(Trap::Set, [this] { program_.platform.printer.SetUp(); }); break;
+    case FileItem::Print: PrintProject(true); break;
+    case FileItem::Preview: PreviewProject(); break;
+    case FileItem::ViewSourceFiles: ShowNew<TextBrowser>(); break;
+    case FileItem::Exit: Exit(); break;
   }
 }
 
@@ -40,7 +39,7 @@ void MainWindow::NewProject() {
   FileNew(program_, true, true);
   recovery_.Discard();
   RefreshCaption();
-  if (program_.session.options.ShowInputScreenOnLoad == 1) EditCommand(edit_item::Parameters);
+  if (program_.session.options.ShowInputScreenOnLoad == 1) EditCommand(EditItem::Parameters);
 }
 
 void MainWindow::OpenProject() {
@@ -72,7 +71,7 @@ void MainWindow::LoadProjFile(Trap trap) {
   if (!ok) return;
   UpdateRecentFiles();
   RefreshCaption();
-  if (program_.session.options.ShowInputScreenOnLoad == 1) EditCommand(edit_item::Parameters);
+  if (program_.session.options.ShowInputScreenOnLoad == 1) EditCommand(EditItem::Parameters);
 }
 
 bool MainWindow::SaveProject(bool saveAs) {

@@ -10,12 +10,11 @@
 
 namespace orby {
 
-void MainWindow::EditCommand(Integer item) {
+void MainWindow::EditCommand(EditItem item) {
   switch (item) {
-    case edit_item::Description: EditDescription(); break;
-    case edit_item::Parameters: EditDesign<ParametersDialog>(); break;
-    case edit_item::Cost: EditDesign<CostDialog>(); break;
-    default: break;
+    case EditItem::Description: EditDescription(); break;
+    case EditItem::Parameters: EditDesign<ParametersDialog>(); break;
+    case EditItem::Cost: EditDesign<CostDialog>(); break;
   }
 }
 
@@ -42,7 +41,7 @@ void MainWindow::EditDescription() {
   ShowForm(program_, *dialog);
   recovery_.Committed();
   RefreshCaption();
-  if (dialog->OpensParameters) EditCommand(edit_item::Parameters);
+  if (dialog->OpensParameters) EditCommand(EditItem::Parameters);
 }
 
 template <class Dialog>

@@ -7,52 +7,42 @@
 namespace orby {
 
 // Entries of the menus by what they do.
-namespace file_item {
-inline constexpr Integer New = 0;
-inline constexpr Integer Open = 1;
-inline constexpr Integer Save = 2;
-inline constexpr Integer SaveAs = 3;
-inline constexpr Integer PrinterSetup = 5;
-inline constexpr Integer Print = 6;
-inline constexpr Integer Preview = 7;
-inline constexpr Integer ViewSourceFiles = 9;
-inline constexpr Integer Exit = 11;
-}  // namespace file_item
+enum class FileItem : Integer {
+  New = 0,
+  Open = 1,
+  Save = 2,
+  SaveAs = 3,
+  PrinterSetup = 5,
+  Print = 6,
+  Preview = 7,
+  ViewSourceFiles = 9,
+  Exit = 11,
+};
 
-namespace edit_item {
-inline constexpr Integer Description = 0;
-inline constexpr Integer Parameters = 1;
-inline constexpr Integer Cost = 2;
-}  // namespace edit_item
+enum class EditItem : Integer { Description, Parameters, Cost };
 
-namespace util_item {
-inline constexpr Integer Settings = 0;
-inline constexpr Integer Options = 1;
-inline constexpr Integer UnitConversions = 2;
-inline constexpr Integer FileConversion = 3;
-inline constexpr Integer ClearHistory = 5;
-inline constexpr Integer ToggleHistory = 6;
-inline constexpr Integer CopyHistory = 7;
-inline constexpr Integer Backups = 9;
-}  // namespace util_item
+enum class UtilityItem : Integer {
+  Settings = 0,
+  Options = 1,
+  UnitConversions = 2,
+  FileConversion = 3,
+  ClearHistory = 5,
+  ToggleHistory = 6,
+  CopyHistory = 7,
+  Backups = 9,
+};
 
-namespace help_item {
-inline constexpr Integer Contents = 0;
-inline constexpr Integer Index = 1;
-inline constexpr Integer Manual = 2;
-inline constexpr Integer ResourceFiles = 4;
-inline constexpr Integer Disclaimer = 6;
-inline constexpr Integer Updates = 8;
-inline constexpr Integer About = 10;
-}  // namespace help_item
+enum class HelpItem : Integer {
+  Contents = 0,
+  Index = 1,
+  Manual = 2,
+  ResourceFiles = 4,
+  Disclaimer = 6,
+  Updates = 8,
+  About = 10,
+};
 
-namespace tool_button {
-inline constexpr Integer Open = 1;
-inline constexpr Integer Save = 2;
-inline constexpr Integer Print = 3;
-inline constexpr Integer Description = 4;
-inline constexpr Integer Parameters = 5;
-}  // namespace tool_button
+enum class ToolButton : Integer { Open = 1, Save, Print, Description, Parameters };
 
 class MainControls : public ProgramForm {
  public:
@@ -62,7 +52,7 @@ class MainControls : public ProgramForm {
   static constexpr std::string_view RestoreHistory = "Restore History &Window";
 
   Menu mnuFile{*this, "mnuFile", "&File"};
-  ActionArray mnuFileItem{
+  Actions<FileItem> mnuFileItem{
       *this,
       "mnuFileItem",
       {"&New", "&Open...", "&Save ", "Save &As...", ActionArray::Separator, "Printer Set&up...", "&Print",
@@ -70,21 +60,23 @@ class MainControls : public ProgramForm {
   // The recent files behind a separator; the captions are only places until there are files to name.
   ActionArray mnuFileArray{*this, "mnuFileArray", {ActionArray::Separator, "1", "2", "3", "4"}};
   Menu mnuEdit{*this, "mnuEdit", "&Input"};
-  ActionArray mnuEditItem{
+  Actions<EditItem> mnuEditItem{
       *this, "mnuEditItem", {"Project &Description...", "Project &Parameters...", "&Cost Parameters..."}};
   Menu mnuUtil{*this, "mnuUtil", "&Utilities"};
-  ActionArray mnuUtilItem{
+  Actions<UtilityItem> mnuUtilItem{
       *this,
       "mnuUtilItem",
       {"&Settings...", "&Options...", "&Unit Conversions...", "&File Conversion...", ActionArray::Separator,
        "&Clear History Window", CloseHistory, "Co&py History &Window", ActionArray::Separator, "&Backups..."}};
   Menu mnuHelp{*this, "mnuHelp", "&Help"};
-  ActionArray mnuHelpItem{*this,
-                          "mnuHelpItem",
-                          {"Help &Contents...", "Help &Index...", "Help in &PDF format...", ActionArray::Separator,
-                           "&Resource Files...", ActionArray::Separator, "&Disclaimer...", ActionArray::Separator,
-                           "Program Updates...", ActionArray::Separator, "&About the Program..."}};
-  ActionArray Toolbar1{*this, "Toolbar1", {"", "Open", "Save", "Print", "Project Description", "Project Parameters"}};
+  Actions<HelpItem> mnuHelpItem{
+      *this,
+      "mnuHelpItem",
+      {"Help &Contents...", "Help &Index...", "Help in &PDF format...", ActionArray::Separator, "&Resource Files...",
+       ActionArray::Separator, "&Disclaimer...", ActionArray::Separator, "Program Updates...", ActionArray::Separator,
+       "&About the Program..."}};
+  Actions<ToolButton> Toolbar1{
+      *this, "Toolbar1", {"", "Open", "Save", "Print", "Project Description", "Project Parameters"}};
   TextBox txtMain{*this, "txtMain", TextKind::Output};
   Label lblver{*this, "lblver", {}};
 };

@@ -23,7 +23,7 @@ MainWindow::MainWindow(Program& program, std::optional<Restart> restart)
   TieCommands();
   TieHistory();
   program_.windows.OpenInputDialog = [this](Integer caller) {
-    EditCommand(caller == report_caller::Cost ? edit_item::Cost : edit_item::Parameters);
+    EditCommand(caller == report_caller::Cost ? EditItem::Cost : EditItem::Parameters);
   };
 }
 
@@ -33,19 +33,18 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::TieCommands() {
-  mnuFileItem.Click = [this](Integer item) { FileCommand(item); };
+  mnuFileItem.Click = [this](Integer item) { FileCommand(FileItem{item}); };
   mnuFileArray.Click = [this](Integer item) { OpenRecent(item); };
-  mnuEditItem.Click = [this](Integer item) { EditCommand(item); };
-  mnuUtilItem.Click = [this](Integer item) { UtilityCommand(item); };
-  mnuHelpItem.Click = [this](Integer item) { HelpCommand(item); };
+  mnuEditItem.Click = [this](Integer item) { EditCommand(EditItem{item}); };
+  mnuUtilItem.Click = [this](Integer item) { UtilityCommand(UtilityItem{item}); };
+  mnuHelpItem.Click = [this](Integer item) { HelpCommand(HelpItem{item}); };
   Toolbar1.Click = [this](Integer button) {
-    switch (button) {
-      case tool_button::Open: FileCommand(file_item::Open); break;
-      case tool_button::Save: FileCommand(file_item::Save); break;
-      case tool_button::Print: PrintProject(false); break;
-      case tool_button::Description: EditCommand(edit_item::Description); break;
-      case tool_button::Parameters: EditCommand(edit_item::Parameters); break;
-      default: break;
+    switch (ToolButton{button}) {
+      case ToolButton::Open: FileCommand(FileItem::Open); break;
+      case ToolButton::Save: FileCommand(FileItem::Save); break;
+      case ToolButton::Print: PrintProject(false); break;
+      case ToolButton::Description: EditCommand(EditItem::Description); break;
+      case ToolButton::Parameters: EditCommand(EditItem::Parameters); break;
     }
   };
 }
@@ -59,7 +58,7 @@ void MainWindow::TieHistory() {
 
 void MainWindow::ShowHistory(bool visible) {
   txtMain.SetVisible(visible);
-  mnuUtilItem.SetCaption(util_item::ToggleHistory, visible ? CloseHistory : RestoreHistory);
+  mnuUtilItem.SetCaption(UtilityItem::ToggleHistory, visible ? CloseHistory : RestoreHistory);
 }
 
 void MainWindow::ShowSettings() {

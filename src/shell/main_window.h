@@ -60,7 +60,7 @@ class MainWindow : public MainControls {
   void BringBack();
 
   // file_commands.cpp
-  void FileCommand(Integer item);
+  void FileCommand(FileItem item);
   void NewProject();
   void OpenProject();
   void OpenRecent(Integer item);
@@ -77,7 +77,7 @@ class MainWindow : public MainControls {
   void Exit();
 
   // input_commands.cpp
-  void EditCommand(Integer item);
+  void EditCommand(EditItem item);
   template <class Dialog>
   std::unique_ptr<Dialog> Opened();
   void EditDescription();
@@ -87,8 +87,8 @@ class MainWindow : public MainControls {
   void KeepEdits(Dialog& dialog);
 
   // utility_commands.cpp
-  void UtilityCommand(Integer item);
-  void HelpCommand(Integer item);
+  void UtilityCommand(UtilityItem item);
+  void HelpCommand(HelpItem item);
   void ShowBackups();
   void EditSettings();
   void ShowUpdates();

@@ -17,23 +17,22 @@
 
 namespace orby {
 
-void MainWindow::UtilityCommand(Integer item) {
+void MainWindow::UtilityCommand(UtilityItem item) {
   switch (item) {
-    case util_item::Settings: EditSettings(); break;
-    case util_item::Options: ShowNew<OptionsDialog>(); break;
-    case util_item::UnitConversions: ShowNew<UnitCalculator>(); break;
-    case util_item::FileConversion: ConvertFile(); break;
-    case util_item::ClearHistory:
+    case UtilityItem::Settings: EditSettings(); break;
+    case UtilityItem::Options: ShowNew<OptionsDialog>(); break;
+    case UtilityItem::UnitConversions: ShowNew<UnitCalculator>(); break;
+    case UtilityItem::FileConversion: ConvertFile(); break;
+    case UtilityItem::ClearHistory:
       program_.session.history.Text.clear();
       txtMain.SetText({});
       break;
-    case util_item::ToggleHistory: ShowHistory(!txtMain.Visible()); break;
-    case util_item::CopyHistory:
+    case UtilityItem::ToggleHistory: ShowHistory(!txtMain.Visible()); break;
+    case UtilityItem::CopyHistory:
       program_.platform.clipboard.Clear();
       program_.platform.clipboard.SetText(txtMain.Text());
       break;
-    case util_item::Backups: ShowBackups(); break;
-    default: break;
+    case UtilityItem::Backups: ShowBackups(); break;
   }
 }
 
@@ -76,16 +75,15 @@ void MainWindow::ShowUpdates() {
   ShowNew<UpdateDialog>();
 }
 
-void MainWindow::HelpCommand(Integer item) {
+void MainWindow::HelpCommand(HelpItem item) {
   switch (item) {
-    case help_item::Contents: OpenHelpContents(program_); break;
-    case help_item::Index: OpenHelpIndex(program_); break;
-    case help_item::Manual: OpenDocument(program_, "Help file", ManualFile); break;
-    case help_item::ResourceFiles: ShowNew<ResourceFiles>(); break;
-    case help_item::Disclaimer: ShowNew<Disclaimer>(); break;
-    case help_item::Updates: ShowUpdates(); break;
-    case help_item::About: ShowAbout(program_); break;
-    default: break;
+    case HelpItem::Contents: OpenHelpContents(program_); break;
+    case HelpItem::Index: OpenHelpIndex(program_); break;
+    case HelpItem::Manual: OpenDocument(program_, "Help file", ManualFile); break;
+    case HelpItem::ResourceFiles: ShowNew<ResourceFiles>(); break;
+    case HelpItem::Disclaimer: ShowNew<Disclaimer>(); break;
+    case HelpItem::Updates: ShowUpdates(); break;
+    case HelpItem::About: ShowAbout(program_); break;
   }
 }
 

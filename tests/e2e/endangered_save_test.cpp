@@ -50,12 +50,12 @@ class Session {
       dynamic_cast<TextBox&>(*form.Find("txtDepthofCover")).SetText("810");
       dynamic_cast<Button&>(*form.Find("Command2")).Press();
     };
-    window_.mnuEditItem.ClickItem(edit_item::Parameters);
+    window_.mnuEditItem.ClickItem(EditItem::Parameters);
     platform_.boxes.answers.assign(9, BoxResult::Cancel);
   }
 
   bool Save() {
-    window_.mnuFileItem.ClickItem(file_item::Save);
+    window_.mnuFileItem.ClickItem(FileItem::Save);
     return program_.project.FileSaved;
   }
 

@@ -32,8 +32,9 @@ class MainCommands : public MainViewTest {
   using Choice = std::pair<std::string, int>;
 
   MainCommands() {
-    for (ActionArray* array : {&model.mnuFileItem, &model.mnuEditItem, &model.mnuUtilItem, &model.mnuHelpItem,
-                               &model.mnuFileArray, &model.Toolbar1}) {
+    ActionArray* const arrays[] = {&model.mnuFileItem, &model.mnuEditItem,  &model.mnuUtilItem,
+                                   &model.mnuHelpItem, &model.mnuFileArray, &model.Toolbar1};
+    for (ActionArray* array : arrays) {
       array->Click = [this, array](Integer item) { chosen.emplace_back(array->Name(), item); };
     }
   }
@@ -101,14 +102,14 @@ TEST_F(MainCommands, GoInTurnByALetterThatTwoEntriesShare) {
   PressInMenu(Qt::Key_V);
   PressInMenu(Qt::Key_Return);
 
-  EXPECT_THAT(chosen,
-              ElementsAre(Pair("mnuFileItem", file_item::Preview), Pair("mnuFileItem", file_item::ViewSourceFiles)));
+  EXPECT_THAT(chosen, ElementsAre(Pair("mnuFileItem", NumberOf(FileItem::Preview)),
+                                  Pair("mnuFileItem", NumberOf(FileItem::ViewSourceFiles))));
 }
 
 TEST_F(MainCommands, AreNotChosenByTheLetterOfADisabledEntry) {
-  for (const Integer item :
-       {util_item::Settings, util_item::Options, util_item::UnitConversions, util_item::FileConversion}) {
-    model.mnuUtilItem.SetItemEnabled(item, false);
+  for (const UtilityItem item :
+       {UtilityItem::Settings, UtilityItem::Options, UtilityItem::UnitConversions, UtilityItem::FileConversion}) {
+    model.mnuUtilItem.SetItemEnabled(NumberOf(item), false);
   }
   for (const Qt::Key letter : {Qt::Key_S, Qt::Key_O, Qt::Key_U, Qt::Key_F}) {
     Press(Qt::Key_U, Qt::AltModifier);

@@ -134,7 +134,7 @@ class Sitting {
     DressMainWindow(platform_.screen.Main(), *window_);
     program_.session.options.ShowInputScreenOnLoad = 0;
     platform_.fileDialogs.answers.push_back(path);
-    window_->mnuFileItem.ClickItem(file_item::Open);
+    window_->mnuFileItem.ClickItem(FileItem::Open);
     BuildResults(program_, program_.project.WorkParms);
     program_.windows.WorkParmsCopy = program_.project.WorkParms;
   }

@@ -161,7 +161,7 @@ TEST_F(WindowsOnScreen, TheMainWindowIsNoLargerThanTheScreenWithItsFrame) {
 }
 
 TEST_F(WindowsOnScreen, TheMainWindowKeepsASensibleSizeWithoutHistoryAndToolBar) {
-  model.mnuUtilItem.ClickItem(util_item::ToggleHistory);
+  model.mnuUtilItem.ClickItem(UtilityItem::ToggleHistory);
   model.Toolbar1.SetVisible(false);
   Settle();
 
@@ -173,12 +173,12 @@ TEST_F(WindowsOnScreen, TheMainWindowShowsTheSignOfTheProgramInPlaceOfTheHistory
   const auto& sign = Find<QLabel>(View(), "viewGround");
   EXPECT_FALSE(sign.isVisible());
 
-  model.mnuUtilItem.ClickItem(util_item::ToggleHistory);
+  model.mnuUtilItem.ClickItem(UtilityItem::ToggleHistory);
   Settle();
   EXPECT_TRUE(sign.isVisible());
   EXPECT_FALSE(sign.pixmap().isNull());
 
-  model.mnuUtilItem.ClickItem(util_item::ToggleHistory);
+  model.mnuUtilItem.ClickItem(UtilityItem::ToggleHistory);
   Settle();
   EXPECT_FALSE(sign.isVisible());
 }

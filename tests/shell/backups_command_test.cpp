@@ -27,7 +27,7 @@ struct TheBackupsCommand : MainWindowTest {
     program.project.ProjectTitle = "Belt entry";
     program.project.WorkParms.Primary.Options = 1;
     KeepDropped(program, CommittedProject(program.project), BackupReason::Dropped);
-    window.mnuFileItem.ClickItem(file_item::New);
+    window.mnuFileItem.ClickItem(FileItem::New);
     platform.boxes.shown.clear();
   }
 
@@ -36,7 +36,7 @@ struct TheBackupsCommand : MainWindowTest {
     platform.windows.onModal = [&](Form& form) {
       if (auto* shown = dynamic_cast<BackupsWindow*>(&form)) act(*shown);
     };
-    window.mnuUtilItem.ClickItem(util_item::Backups);
+    window.mnuUtilItem.ClickItem(UtilityItem::Backups);
   }
 };
 

@@ -10,7 +10,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 struct Closing : MainWindowTest {
-  void Exit() { window.mnuFileItem.ClickItem(file_item::Exit); }
+  void Exit() { window.mnuFileItem.ClickItem(FileItem::Exit); }
 };
 
 TEST_F(Closing, ASavedProjectAsksNothing) {
@@ -145,7 +145,7 @@ TEST_F(Closing, TakesTheHelpWithIt) {
 
 TEST_F(Closing, LeavesNothingToRecover) {
   EditPanel3();
-  window.mnuEditItem.ClickItem(edit_item::Parameters);
+  window.mnuEditItem.ClickItem(EditItem::Parameters);
   ASSERT_TRUE(Exists(RecoveryPath));
   platform.boxes.answers = {BoxResult::No};
 

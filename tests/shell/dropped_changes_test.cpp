@@ -29,7 +29,7 @@ struct DroppedChanges : MainWindowTest {
 
   // Opens the dialog, types another depth of cover and closes it.
   template <class Dialog>
-  void EditAndCancel(Integer item, const std::function<void(Dialog&)>& edit) {
+  void EditAndCancel(EditItem item, const std::function<void(Dialog&)>& edit) {
     platform.windows.onModal = [&](Form& form) {
       edit(dynamic_cast<Dialog&>(form));
       form.Acted();
@@ -42,7 +42,7 @@ struct DroppedChanges : MainWindowTest {
 TEST_F(DroppedChanges, AreKeptByNew) {
   EditPanel3();
 
-  window.mnuFileItem.ClickItem(file_item::New);
+  window.mnuFileItem.ClickItem(FileItem::New);
 
   EXPECT_THAT(Kept(), ElementsAre("/designs/panel3.orb at 800"));
   EXPECT_EQ(ListBackups(program).front().Reason, BackupReason::Dropped);
@@ -93,7 +93,7 @@ TEST_F(DroppedChanges, AreKeptByClosingOnNo) {
   EditPanel3();
   platform.boxes.answers = {BoxResult::No};
 
-  window.mnuFileItem.ClickItem(file_item::Exit);
+  window.mnuFileItem.ClickItem(FileItem::Exit);
 
   EXPECT_THAT(Kept(), ElementsAre("/designs/panel3.orb at 800"));
 }
@@ -101,7 +101,7 @@ TEST_F(DroppedChanges, AreKeptByClosingOnNo) {
 TEST_F(DroppedChanges, AreKeptWhenTheParametersAreCancelled) {
   OpenByDialog(Panel3);
 
-  EditAndCancel<ParametersDialog>(edit_item::Parameters, [](auto& dialog) { dialog.txtDepthofCover.SetText("910"); });
+  EditAndCancel<ParametersDialog>(EditItem::Parameters, [](auto& dialog) { dialog.txtDepthofCover.SetText("910"); });
 
   EXPECT_THAT(Kept(), ElementsAre("/designs/panel3.orb at 910"));
   EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 725);
@@ -110,7 +110,7 @@ TEST_F(DroppedChanges, AreKeptWhenTheParametersAreCancelled) {
 TEST_F(DroppedChanges, AreKeptWhenTheCostsAreCancelled) {
   OpenByDialog(Panel3);
 
-  EditAndCancel<CostDialog>(edit_item::Cost, [](auto& dialog) { dialog.txtBoltCost.SetText("7.5"); });
+  EditAndCancel<CostDialog>(EditItem::Cost, [](auto& dialog) { dialog.txtBoltCost.SetText("7.5"); });
 
   ASSERT_EQ(Kept().size(), 1U);
   EXPECT_EQ(ReadRecovery(FileAt(ListBackups(program).front().Path))->WorkParms.Cost.BoltCost, 7.5F);
@@ -119,8 +119,8 @@ TEST_F(DroppedChanges, AreKeptWhenTheCostsAreCancelled) {
 TEST_F(DroppedChanges, AreNoneOfADialogThatIsCancelledUnchanged) {
   OpenByDialog(Panel3);
 
-  EditAndCancel<ParametersDialog>(edit_item::Parameters, [](auto&) {});
-  EditAndCancel<CostDialog>(edit_item::Cost, [](auto&) {});
+  EditAndCancel<ParametersDialog>(EditItem::Parameters, [](auto&) {});
+  EditAndCancel<CostDialog>(EditItem::Cost, [](auto&) {});
 
   EXPECT_THAT(Kept(), IsEmpty());
 }
@@ -128,7 +128,7 @@ TEST_F(DroppedChanges, AreNoneOfADialogThatIsCancelledUnchanged) {
 TEST_F(DroppedChanges, AreNoneOfADialogThatIsAccepted) {
   OpenByDialog(Panel3);
 
-  EditAndCancel<ParametersDialog>(edit_item::Parameters, [](ParametersDialog& dialog) {
+  EditAndCancel<ParametersDialog>(EditItem::Parameters, [](ParametersDialog& dialog) {
     dialog.txtDepthofCover.SetText("910");
     dialog.Acted();
     dialog.Command2.Press();
@@ -140,9 +140,9 @@ TEST_F(DroppedChanges, AreNoneOfADialogThatIsAccepted) {
 
 TEST_F(DroppedChanges, AreNoneOfASavedProject) {
   OpenByDialog(Panel3);
-  window.mnuFileItem.ClickItem(file_item::New);
+  window.mnuFileItem.ClickItem(FileItem::New);
   OpenByDialog(Panel4);
-  window.mnuFileItem.ClickItem(file_item::Exit);
+  window.mnuFileItem.ClickItem(FileItem::Exit);
 
   EXPECT_THAT(Kept(), IsEmpty());
 }
@@ -151,7 +151,7 @@ TEST_F(DroppedChanges, AreToldOnceWhenTheyCannotBeKept) {
   EditPanel3();
   platform.files.Fail(MemoryFiles::Step::Create, error_number::DiskFull);
 
-  window.mnuFileItem.ClickItem(file_item::New);
+  window.mnuFileItem.ClickItem(FileItem::New);
 
   EXPECT_THAT(platform.boxes.Texts(),
               ElementsAre("The unsaved changes could not be kept in Backups: /designs/panel3.orb"));
@@ -180,7 +180,7 @@ struct GivenUpOnAFullDisk : DroppedChanges {
 };
 
 TEST_F(GivenUpOnAFullDisk, ChangesAreStillThereAfterNew) {
-  window.mnuFileItem.ClickItem(file_item::New);
+  window.mnuFileItem.ClickItem(FileItem::New);
 
   ExpectKeptAside();
 }
@@ -193,7 +193,7 @@ TEST_F(GivenUpOnAFullDisk, ChangesAreStillThereAfterOpen) {
 }
 
 TEST_F(GivenUpOnAFullDisk, ChangesAreStillThereAfterClosing) {
-  window.mnuFileItem.ClickItem(file_item::Exit);
+  window.mnuFileItem.ClickItem(FileItem::Exit);
 
   ExpectKeptAside();
 }

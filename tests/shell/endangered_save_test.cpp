@@ -42,7 +42,7 @@ class EndangeredSave {
       dynamic_cast<TextBox&>(*form.Find("txtDepthofCover")).SetText("810");
       dynamic_cast<Button&>(*form.Find("Command2")).Press();
     };
-    window_.mnuEditItem.ClickItem(edit_item::Parameters);
+    window_.mnuEditItem.ClickItem(EditItem::Parameters);
     // All that was written before the save has long been on the disk.
     platform_.files.onDisk = files;
     platform_.boxes.answers.assign(9, BoxResult::Cancel);
@@ -58,7 +58,7 @@ class EndangeredSave {
       case Danger::FailsFromThenOn: files.FailFrom(error_number::PermissionDenied, after); break;
     }
     try {
-      window_.mnuFileItem.ClickItem(row_.target == Panel3 ? file_item::Save : file_item::SaveAs);
+      window_.mnuFileItem.ClickItem(row_.target == Panel3 ? FileItem::Save : FileItem::SaveAs);
     } catch (const PowerCut&) {
       powerIsCut_ = true;
     }

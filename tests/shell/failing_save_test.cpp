@@ -55,7 +55,7 @@ class SaveThatFails : public testing::TestWithParam<FailingStep> {
       dynamic_cast<TextBox&>(*form.Find("txtDepthofCover")).SetText("810");
       dynamic_cast<Button&>(*form.Find("Command2")).Press();
     };
-    window.mnuEditItem.ClickItem(edit_item::Parameters);
+    window.mnuEditItem.ClickItem(EditItem::Parameters);
     platform.files.Fail(GetParam().step, error_number::DiskFull, GetParam().after);
   }
 
@@ -66,7 +66,7 @@ class SaveThatFails : public testing::TestWithParam<FailingStep> {
 };
 
 TEST_P(SaveThatFails, CompletesOnRetry) {
-  window.mnuFileItem.ClickItem(file_item::Save);
+  window.mnuFileItem.ClickItem(FileItem::Save);
 
   EXPECT_THAT(boxes.texts, ElementsAre("Error occurred: Disk full (61)"));
   EXPECT_TRUE(program.project.FileSaved);
@@ -79,14 +79,14 @@ TEST_P(SaveThatFails, CompletesOnRetry) {
 
 TEST_P(SaveThatFails, LeavesAnUnsavedProjectThatIsSavedLater) {
   boxes.answer = BoxResult::Cancel;
-  window.mnuFileItem.ClickItem(file_item::Save);
+  window.mnuFileItem.ClickItem(FileItem::Save);
 
   EXPECT_FALSE(program.project.FileSaved);
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb*");
   EXPECT_FALSE(platform.windows.waitCursor);
   EXPECT_TRUE(platform.files.files.contains(RecoveryPath)) << "killed now, nothing would be lost";
 
-  window.mnuFileItem.ClickItem(file_item::Save);
+  window.mnuFileItem.ClickItem(FileItem::Save);
 
   EXPECT_TRUE(program.project.FileSaved);
   EXPECT_EQ(platform.files.files[Panel3], ProjectFileBytes(program.project));

@@ -16,7 +16,7 @@ using testing::StartsWith;
 using Step = MemoryFiles::Step;
 
 struct FileMenu : MainWindowTest {
-  void Choose(Integer item) { window.mnuFileItem.ClickItem(item); }
+  void Choose(FileItem item) { window.mnuFileItem.ClickItem(item); }
 };
 
 // ---- New ------------------------------------------------------------------------------------------------------------
@@ -24,7 +24,7 @@ struct FileMenu : MainWindowTest {
 TEST_F(FileMenu, NewBeginsAnUntitledDesignWithoutAQuestion) {
   EditPanel3();
 
-  Choose(file_item::New);
+  Choose(FileItem::New);
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
   EXPECT_EQ(program.project.CurrentFile, "Untitled");
@@ -37,10 +37,10 @@ TEST_F(FileMenu, NewBeginsAnUntitledDesignWithoutAQuestion) {
 
 TEST_F(FileMenu, NewLeavesNothingToRecover) {
   EditPanel3();
-  window.mnuEditItem.ClickItem(edit_item::Parameters);
+  window.mnuEditItem.ClickItem(EditItem::Parameters);
   ASSERT_TRUE(Exists(RecoveryPath));
 
-  Choose(file_item::New);
+  Choose(FileItem::New);
 
   EXPECT_FALSE(Exists(RecoveryPath));
 }
@@ -48,7 +48,7 @@ TEST_F(FileMenu, NewLeavesNothingToRecover) {
 TEST_F(FileMenu, NewShowsTheParametersWhenTheOptionsWantIt) {
   program.session.options.ShowInputScreenOnLoad = 1;
 
-  Choose(file_item::New);
+  Choose(FileItem::New);
 
   EXPECT_EQ(platform.windows.modalForms, 1);
 }
@@ -87,7 +87,7 @@ TEST_F(FileMenu, OpenWritesTheRecentFilesAtOnce) {
 TEST_F(FileMenu, OpenThatIsCancelledChangesNothing) {
   EditPanel3();
 
-  Choose(file_item::Open);
+  Choose(FileItem::Open);
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
   EXPECT_EQ(program.project.CurrentFile, Panel3);
@@ -113,7 +113,7 @@ TEST_F(FileMenu, OpenIsStoppedWhenTheProjectBeforeCannotBeSaved) {
     dynamic_cast<TextBox&>(*form.Find("txtDepthofCover")).SetText("800");
     dynamic_cast<Button&>(*form.Find("Command2")).Press();
   };
-  window.mnuEditItem.ClickItem(edit_item::Parameters);
+  window.mnuEditItem.ClickItem(EditItem::Parameters);
   const std::string kept = FileAt(RecoveryPath);
   platform.boxes.answers = {BoxResult::Yes, BoxResult::Cancel};
   platform.files.Fail(Step::Create, error_number::DiskFull);
@@ -130,7 +130,7 @@ TEST_F(FileMenu, OpenIsStoppedWhenTheProjectBeforeCannotBeSaved) {
 
 TEST_F(FileMenu, ARecentFileIsNotOpenedWhenTheSaveBeforeIsCancelled) {
   OpenByDialog(Panel4);
-  window.mnuFileItem.ClickItem(file_item::New);
+  window.mnuFileItem.ClickItem(FileItem::New);
   program.project.WorkParms.Place.DepthofCover = 800;
   program.project.FileSaved = false;
   platform.boxes.answers = {BoxResult::Yes};
@@ -163,7 +163,7 @@ TEST_F(FileMenu, SaveAfterARefusedFileWritesOverItWithoutAQuestion) {
   OpenByDialog("/notes.txt");
   platform.boxes.shown.clear();
 
-  Choose(file_item::Save);
+  Choose(FileItem::Save);
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
   EXPECT_EQ(FileAt("/notes.txt"), DesignAt(400));
@@ -188,7 +188,7 @@ TEST_F(FileMenu, AFileThatHasGoneIsOpenedOnRetryOnceItIsBack) {
   MainWindow other(retried);
   platform.fileDialogs.answers = {"/designs/back.orb"};
 
-  other.mnuFileItem.ClickItem(file_item::Open);
+  other.mnuFileItem.ClickItem(FileItem::Open);
 
   EXPECT_THAT(boxes.Texts(), ElementsAre("Error occurred: File not found (53)"));
   EXPECT_EQ(retried.project.WorkParms.Place.DepthofCover, 610);
@@ -238,7 +238,7 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& tested) { return tested.param.name; });
 
 TEST_F(FileMenu, OpenOffersTheFilesOfTheProgramAndThenAllFiles) {
-  Choose(file_item::Open);
+  Choose(FileItem::Open);
 
   ASSERT_EQ(platform.fileDialogs.asked.size(), 1U);
   const std::vector<FileFilter>& filters = platform.fileDialogs.asked[0].filters;
@@ -280,7 +280,7 @@ TEST_F(FileMenu, OpenLeavesWhatWasComputedOfTheProjectBefore) {
 
 TEST_F(FileMenu, OpeningLeavesNothingToRecover) {
   EditPanel3();
-  window.mnuEditItem.ClickItem(edit_item::Parameters);
+  window.mnuEditItem.ClickItem(EditItem::Parameters);
   ASSERT_TRUE(Exists(RecoveryPath));
   platform.boxes.answers = {BoxResult::No};
 
@@ -339,7 +339,7 @@ TEST_F(FileMenu, NothingEntersAListThatIsSwitchedOff) {
   program.session.settings.KeepFileNames = 0;
 
   OpenByDialog(Panel3);
-  Choose(file_item::Save);
+  Choose(FileItem::Save);
 
   EXPECT_FALSE(window.mnuFileArray.ItemVisible(0));
   EXPECT_FALSE(Exists(IniPath));
@@ -353,11 +353,11 @@ TEST_F(FileMenu, SaveWritesTheProjectAndTakesTheStarAway) {
     dynamic_cast<TextBox&>(*form.Find("txtDepthofCover")).SetText("800");
     dynamic_cast<Button&>(*form.Find("Command2")).Press();
   };
-  window.mnuEditItem.ClickItem(edit_item::Parameters);
+  window.mnuEditItem.ClickItem(EditItem::Parameters);
   ASSERT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb*");
   ASSERT_TRUE(Exists(RecoveryPath));
 
-  Choose(file_item::Save);
+  Choose(FileItem::Save);
 
   EXPECT_THAT(FileAt(Panel3), HasSubstr("\r\n800\r\n"));
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/panel3.orb");
@@ -368,7 +368,7 @@ TEST_F(FileMenu, SaveAsTakesTheNewName) {
   OpenByDialog(Panel3);
   platform.fileDialogs.answers = {"/designs/copy.orb"};
 
-  Choose(file_item::SaveAs);
+  Choose(FileItem::SaveAs);
 
   EXPECT_THAT(FileAt("/designs/copy.orb"), HasSubstr("\r\n725\r\n"));
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: /designs/copy.orb");
@@ -379,7 +379,7 @@ TEST_F(FileMenu, SaveAsTakesTheNewName) {
 TEST_F(FileMenu, SaveAsThatIsCancelledChangesNothing) {
   EditPanel3();
 
-  Choose(file_item::SaveAs);
+  Choose(FileItem::SaveAs);
 
   EXPECT_EQ(program.project.CurrentFile, Panel3);
   EXPECT_FALSE(program.project.FileSaved);
@@ -396,7 +396,7 @@ class LongPaths : public MainWindowTest, public testing::WithParamInterface<Capt
 TEST_P(LongPaths, AreShortenedInTheCaption) {
   platform.fileDialogs.answers = {GetParam().path};
 
-  window.mnuFileItem.ClickItem(file_item::SaveAs);
+  window.mnuFileItem.ClickItem(FileItem::SaveAs);
 
   EXPECT_EQ(window.Caption(), std::string("Orby Roof Support Workbench: ") + GetParam().shown);
 }
@@ -411,10 +411,10 @@ INSTANTIATE_TEST_SUITE_P(FiftyAndFiftyOneCharacters, LongPaths,
 
 TEST_F(FileMenu, TheToolBarOpensAndSaves) {
   platform.fileDialogs.answers = {Panel3};
-  window.Toolbar1.ClickItem(tool_button::Open);
+  window.Toolbar1.ClickItem(ToolButton::Open);
   program.project.WorkParms.Place.DepthofCover = 800;
 
-  window.Toolbar1.ClickItem(tool_button::Save);
+  window.Toolbar1.ClickItem(ToolButton::Save);
 
   EXPECT_EQ(program.project.CurrentFile, Panel3);
   EXPECT_THAT(FileAt(Panel3), HasSubstr("\r\n800\r\n"));

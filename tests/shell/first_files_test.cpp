@@ -20,7 +20,7 @@ struct FirstFiles : MainWindowTest {
     program.project.CurrentFile = "/designs/lost.orb";
     program.project.WorkParms.Place.DepthofCover = 1234;
     program.project.FileSaved = false;
-    window.mnuEditItem.ClickItem(edit_item::Parameters);
+    window.mnuEditItem.ClickItem(EditItem::Parameters);
     lost = FileAt(RecoveryPath);
   }
 

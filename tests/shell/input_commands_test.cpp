@@ -12,7 +12,7 @@ namespace {
 using testing::ElementsAre;
 
 struct InputMenu : MainWindowTest {
-  void Choose(Integer item) { window.mnuEditItem.ClickItem(item); }
+  void Choose(EditItem item) { window.mnuEditItem.ClickItem(item); }
 
   // Plays the user in each form that is shown, in turn.
   template <class Dialog>
@@ -35,9 +35,9 @@ TEST_F(InputMenu, ShowsEachDialog) {
   std::vector<std::string> names;
   platform.windows.onModal = [&](Form& form) { names.emplace_back(form.Name()); };
 
-  for (const Integer item : {edit_item::Description, edit_item::Parameters, edit_item::Cost}) Choose(item);
-  window.Toolbar1.ClickItem(tool_button::Description);
-  window.Toolbar1.ClickItem(tool_button::Parameters);
+  for (const EditItem item : {EditItem::Description, EditItem::Parameters, EditItem::Cost}) Choose(item);
+  window.Toolbar1.ClickItem(ToolButton::Description);
+  window.Toolbar1.ClickItem(ToolButton::Parameters);
 
   EXPECT_THAT(names, ElementsAre("frmTULKDesc", "frmPENVParm", "frmTULKCost", "frmTULKDesc", "frmPENVParm"));
 }
@@ -50,7 +50,7 @@ TEST_F(InputMenu, HidesTheMainWindowBehindTheParameters) {
     waiting = platform.windows.waitCursor;
   });
 
-  Choose(edit_item::Parameters);
+  Choose(EditItem::Parameters);
 
   EXPECT_FALSE(shown);
   EXPECT_FALSE(waiting);
@@ -61,7 +61,7 @@ TEST_F(InputMenu, LeavesTheMainWindowBehindTheDescription) {
   bool shown = false;
   InDialog<DescriptionDialog>([&](DescriptionDialog&) { shown = platform.windows.mainWindowShown; });
 
-  Choose(edit_item::Description);
+  Choose(EditItem::Description);
 
   EXPECT_TRUE(shown);
   EXPECT_FALSE(platform.windows.waitCursor);
@@ -84,20 +84,20 @@ TEST_F(InputMenu, ShowsTheWaitCursorWhileADialogIsLoaded) {
   bool isWaiting = true;
   windows.onModal = [&](Form&) { isWaiting = windows.waitCursor; };
 
-  for (const Integer item : {edit_item::Description, edit_item::Parameters, edit_item::Cost}) {
+  for (const EditItem item : {EditItem::Description, EditItem::Parameters, EditItem::Cost}) {
     windows.cursors.clear();
     other.mnuEditItem.ClickItem(item);
 
-    ASSERT_FALSE(windows.cursors.empty()) << item;
-    EXPECT_TRUE(windows.cursors.front()) << item;
-    EXPECT_FALSE(isWaiting) << item;
+    ASSERT_FALSE(windows.cursors.empty()) << NumberOf(item);
+    EXPECT_TRUE(windows.cursors.front()) << NumberOf(item);
+    EXPECT_FALSE(isWaiting) << NumberOf(item);
   }
 }
 
 TEST_F(InputMenu, MarksACommittedChangeInTheCaption) {
   InDialog<CostDialog>([](CostDialog& dialog) { dialog.Command2.Press(); });
 
-  Choose(edit_item::Cost);
+  Choose(EditItem::Cost);
 
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: Untitled*");
 }
@@ -105,7 +105,7 @@ TEST_F(InputMenu, MarksACommittedChangeInTheCaption) {
 TEST_F(InputMenu, LeavesTheCaptionAfterCancel) {
   InDialog<CostDialog>([](CostDialog& dialog) { dialog.Command1.Press(); });
 
-  Choose(edit_item::Cost);
+  Choose(EditItem::Cost);
 
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: Untitled");
 }
@@ -117,7 +117,7 @@ TEST_F(InputMenu, GoesOnFromTheDescriptionToTheParameters) {
     if (auto* dialog = dynamic_cast<DescriptionDialog*>(&form)) dialog->Command4.Press();
   };
 
-  Choose(edit_item::Description);
+  Choose(EditItem::Description);
 
   EXPECT_THAT(names, ElementsAre("frmTULKDesc", "frmPENVParm"));
 }
@@ -144,7 +144,7 @@ TEST_F(InputMenu, ShowsADesignWithoutADepth) {
   program.project.WorkParms.Place.DepthofCover = 0;
   InDialog<ParametersDialog>([](ParametersDialog& dialog) { EXPECT_EQ(dialog.txtSugPSUP.Text(), "--"); });
 
-  Choose(edit_item::Parameters);
+  Choose(EditItem::Parameters);
 
   EXPECT_EQ(platform.windows.modalForms, 1);
 }
@@ -152,7 +152,7 @@ TEST_F(InputMenu, ShowsADesignWithoutADepth) {
 TEST_F(InputMenu, TellsThatADesignCannotBeShownAndGoesOn) {
   program.project.WorkParms.Primary.Options = 2;
 
-  Choose(edit_item::Parameters);
+  Choose(EditItem::Parameters);
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Internal Error: SetArrayIndex. Check input/form data.",
                                                   "Error occurred: Subscript out of range (9). Procedure Terminated"));
@@ -163,7 +163,7 @@ TEST_F(InputMenu, TellsThatADesignCannotBeShownAndGoesOn) {
 TEST_F(InputMenu, TellsThatADescriptionCannotBeShownAndGoesOn) {
   program.project.WorkParms.Basis = StrengthBasis{-1};
 
-  Choose(edit_item::Description);
+  Choose(EditItem::Description);
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Internal Error: SetArrayIndex. Check input/form data.",
                                                   "Error occurred: Subscript out of range (9). Procedure Terminated"));
@@ -197,7 +197,7 @@ TEST_F(EditedWork, IsKeptFromTheMomentOfTheCommit) {
     dialog.Command2.Press();
   });
 
-  Choose(edit_item::Parameters);
+  Choose(EditItem::Parameters);
 
   ASSERT_TRUE(Kept().has_value());
   EXPECT_EQ(Kept()->WorkParms.Place.DepthofCover, 810);
@@ -216,7 +216,7 @@ TEST_F(EditedWork, OfAnOpenDialogIsKeptWithinASecond) {
     EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400) << "nothing is committed";
   });
 
-  Choose(edit_item::Parameters);
+  Choose(EditItem::Parameters);
 
   EXPECT_EQ(platform.windows.modalForms, 1);
 }
@@ -229,7 +229,7 @@ TEST_F(EditedWork, OfTheCostDialogIsKeptWithinASecond) {
     EXPECT_EQ(Kept()->WorkParms.Cost.BoltCost, 4.25F);
   });
 
-  Choose(edit_item::Cost);
+  Choose(EditItem::Cost);
 
   EXPECT_EQ(platform.windows.modalForms, 1);
 }
@@ -243,7 +243,7 @@ TEST_F(EditedWork, IsNoneWhenTheUserOnlyLooks) {
     EXPECT_FALSE(Kept().has_value());
   });
 
-  Choose(edit_item::Parameters);
+  Choose(EditItem::Parameters);
 
   EXPECT_EQ(platform.windows.modalForms, 1);
 }
@@ -256,7 +256,7 @@ TEST_F(EditedWork, IsWhatStoodBeforeTheActThatEndsTheRun) {
     dialog.cmdresults.Press();  // throws, so the view gets no further
   });
 
-  EXPECT_EQ(ErrorNumberOf([&] { Choose(edit_item::Parameters); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { Choose(EditItem::Parameters); }), 6);
   window.LeaveAtOnce();
 
   ASSERT_TRUE(Kept().has_value());
@@ -279,7 +279,7 @@ TEST_F(EditedWork, IsFieldByFieldTheLastThatAProjectCanHold) {
     EXPECT_EQ(Kept()->WorkParms.Place.UnitWeight, 158);
   });
 
-  Choose(edit_item::Parameters);
+  Choose(EditItem::Parameters);
 
   EXPECT_EQ(platform.windows.modalForms, 1);
 }
@@ -295,7 +295,7 @@ TEST_F(EditedWork, GoesWithACancelledDialog) {
     dialog.Acted();
   });
 
-  Choose(edit_item::Parameters);
+  Choose(EditItem::Parameters);
   platform.clock.Pass();
 
   EXPECT_FALSE(Exists(RecoveryPath));
@@ -308,7 +308,7 @@ TEST_F(EditedWork, OfTheDescriptionIsKeptWithItsTitle) {
     dialog.Command2.Press();
   });
 
-  Choose(edit_item::Description);
+  Choose(EditItem::Description);
 
   ASSERT_TRUE(Kept().has_value());
   EXPECT_EQ(Kept()->ProjectTitle, "Panel 3, gateroad");

@@ -52,7 +52,7 @@ struct MainWindowTest : testing::Test {
   // The Open command, the user choosing this file.
   void OpenByDialog(const std::string& path) {
     platform.fileDialogs.answers.push_back(path);
-    window.mnuFileItem.ClickItem(file_item::Open);
+    window.mnuFileItem.ClickItem(FileItem::Open);
   }
 
   // An open project with a change that is not saved.

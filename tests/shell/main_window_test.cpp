@@ -66,46 +66,49 @@ TEST(MainWindowStart, ShowsTheDisclaimerBeforeAnythingOfTheUsersIsTouched) {
 }
 
 TEST_F(Menus, OfferAllOfTheirEntries) {
-  for (const ActionArray* menu :
-       {&window.mnuFileItem, &window.mnuEditItem, &window.mnuUtilItem, &window.mnuHelpItem, &window.Toolbar1}) {
+  const ActionArray* const menus[] = {&window.mnuFileItem, &window.mnuEditItem, &window.mnuUtilItem,
+                                      &window.mnuHelpItem, &window.Toolbar1};
+  for (const ActionArray* menu : menus) {
     for (int i = 0; i < menu->Count(); ++i) EXPECT_TRUE(menu->ItemEnabled(i)) << menu->Caption(i);
   }
 }
 
 // The forms that the entries of a menu show, one after the other.
-std::vector<std::string> FormsShownBy(RecordingPlatform& platform, const ActionArray& menu,
-                                      std::initializer_list<Integer> items) {
+template <class Item>
+std::vector<std::string> FormsShownBy(RecordingPlatform& platform, const Actions<Item>& menu,
+                                      std::initializer_list<Item> items) {
   std::vector<std::string> shown;
   platform.windows.onModal = [&shown](Form& form) { shown.emplace_back(form.Name()); };
-  for (const Integer item : items) menu.ClickItem(item);
+  for (const Item item : items) menu.ClickItem(item);
   return shown;
 }
 
 TEST_F(Menus, ShowTheDialogsOfTheUtilities) {
-  EXPECT_THAT(FormsShownBy(platform, window.mnuUtilItem,
-                           {util_item::Settings, util_item::Options, util_item::UnitConversions, util_item::Backups}),
-              ElementsAre("frmSet", "frmTULKOpts", "frmUnits", "frmBackups"));
+  EXPECT_THAT(
+      FormsShownBy(platform, window.mnuUtilItem,
+                   {UtilityItem::Settings, UtilityItem::Options, UtilityItem::UnitConversions, UtilityItem::Backups}),
+      ElementsAre("frmSet", "frmTULKOpts", "frmUnits", "frmBackups"));
 }
 
 TEST_F(Menus, ShowTheDialogsOfTheHelp) {
   EXPECT_THAT(
-      FormsShownBy(platform, window.mnuHelpItem, {help_item::ResourceFiles, help_item::Disclaimer, help_item::Updates}),
+      FormsShownBy(platform, window.mnuHelpItem, {HelpItem::ResourceFiles, HelpItem::Disclaimer, HelpItem::Updates}),
       ElementsAre("frmResource", "frmDisclaimer", "frmUpdate"));
 }
 
 TEST_F(Menus, ShowTheBrowserOfTextFiles) {
-  EXPECT_THAT(FormsShownBy(platform, window.mnuFileItem, {file_item::ViewSourceFiles}), ElementsAre("frmTextBrow"));
+  EXPECT_THAT(FormsShownBy(platform, window.mnuFileItem, {FileItem::ViewSourceFiles}), ElementsAre("frmTextBrow"));
 }
 
 TEST_F(Menus, TellAboutTheProgram) {
-  window.mnuHelpItem.ClickItem(help_item::About);
+  window.mnuHelpItem.ClickItem(HelpItem::About);
 
   ASSERT_THAT(platform.boxes.shown, testing::SizeIs(1));
   EXPECT_EQ(platform.boxes.shown.front().title, "About the Orby Roof Support Workbench Program");
 }
 
 TEST_F(Menus, ConvertNoEmptyProject) {
-  window.mnuUtilItem.ClickItem(util_item::FileConversion);
+  window.mnuUtilItem.ClickItem(UtilityItem::FileConversion);
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Current file is empty"));
   EXPECT_EQ(platform.windows.modalForms, 0);
@@ -114,7 +117,7 @@ TEST_F(Menus, ConvertNoEmptyProject) {
 TEST_F(Menus, ConvertNoProjectThatIsNotSaved) {
   EditPanel3();
 
-  window.mnuUtilItem.ClickItem(util_item::FileConversion);
+  window.mnuUtilItem.ClickItem(UtilityItem::FileConversion);
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Save Current File before accessing this option"));
   EXPECT_EQ(platform.windows.modalForms, 0);
@@ -124,7 +127,7 @@ TEST_F(Menus, ConvertASavedProjectUnderANewName) {
   OpenByDialog(Panel3);
   platform.windows.onModal = [](Form& form) { dynamic_cast<ConvertDialog&>(form).Command2.Press(); };
 
-  window.mnuUtilItem.ClickItem(util_item::FileConversion);
+  window.mnuUtilItem.ClickItem(UtilityItem::FileConversion);
 
   EXPECT_EQ(program.project.WorkParms.Units, Metric);
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: Metric_panel3.orb*");
@@ -144,7 +147,7 @@ TEST_F(Menus, HaveConvertedTheProjectBehindTheMessageThatItIsDone) {
   };
   platform.windows.onModal = [](Form& form) { dynamic_cast<ConvertDialog&>(form).Command2.Press(); };
 
-  windowBehind.mnuUtilItem.ClickItem(util_item::FileConversion);
+  windowBehind.mnuUtilItem.ClickItem(UtilityItem::FileConversion);
 
   EXPECT_THAT(boxes.Texts(), ElementsAre("Conversion Completed: The conversion form will be closed"));
   EXPECT_EQ(caption, "Orby Roof Support Workbench: Metric_panel3.orb*");
@@ -161,7 +164,7 @@ TEST_F(Menus, SettingsActOnTheWindowAtOnce) {
     settings.cmdOK.Press();
   };
 
-  window.mnuUtilItem.ClickItem(util_item::Settings);
+  window.mnuUtilItem.ClickItem(UtilityItem::Settings);
 
   EXPECT_FALSE(window.Toolbar1.Visible());
   EXPECT_FALSE(window.txtMain.Visible());
@@ -171,7 +174,7 @@ TEST_F(Menus, OpenTheHelpAndTheManual) {
   platform.files.files["/program/ORBY.CHM"] = "help";
   platform.files.files["/program/ORBY.PDF"] = "manual";
 
-  for (const Integer item : {help_item::Contents, help_item::Index, help_item::Manual}) {
+  for (const HelpItem item : {HelpItem::Contents, HelpItem::Index, HelpItem::Manual}) {
     window.mnuHelpItem.ClickItem(item);
   }
 
@@ -180,7 +183,7 @@ TEST_F(Menus, OpenTheHelpAndTheManual) {
 }
 
 TEST_F(Menus, TellThatTheManualIsMissing) {
-  window.mnuHelpItem.ClickItem(help_item::Manual);
+  window.mnuHelpItem.ClickItem(HelpItem::Manual);
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Help file (/program/ORBY.PDF) not available"));
 }
@@ -221,7 +224,7 @@ TEST_F(OpeningWindow, HidesAHistoryThatIsSwitchedOff) {
   window.Open();
 
   EXPECT_FALSE(window.txtMain.Visible());
-  EXPECT_EQ(window.mnuUtilItem.Caption(util_item::ToggleHistory), "Restore History &Window");
+  EXPECT_EQ(window.mnuUtilItem.Caption(UtilityItem::ToggleHistory), "Restore History &Window");
 }
 
 TEST_F(OpeningWindow, HidesTheToolBarThatIsSwitchedOff) {
@@ -285,7 +288,7 @@ TEST_F(HistoryPane, MovesTheCaretThoughTheHistoryIsSwitchedOff) {
 TEST_F(HistoryPane, IsEmptyOnceCleared) {
   AddHistoryLine(program, "Results displayed");
 
-  window.mnuUtilItem.ClickItem(util_item::ClearHistory);
+  window.mnuUtilItem.ClickItem(UtilityItem::ClearHistory);
   EXPECT_EQ(window.txtMain.Text(), "");
 
   AddHistoryLine(program, "Results displayed");
@@ -293,23 +296,23 @@ TEST_F(HistoryPane, IsEmptyOnceCleared) {
 }
 
 TEST_F(HistoryPane, GoesAndComesBack) {
-  window.mnuUtilItem.ClickItem(util_item::ToggleHistory);
+  window.mnuUtilItem.ClickItem(UtilityItem::ToggleHistory);
   EXPECT_FALSE(window.txtMain.Visible());
-  EXPECT_EQ(window.mnuUtilItem.Caption(util_item::ToggleHistory), "Restore History &Window");
+  EXPECT_EQ(window.mnuUtilItem.Caption(UtilityItem::ToggleHistory), "Restore History &Window");
   EXPECT_EQ(program.session.settings.DisplayHistoryWin, 1);
 
   AddHistoryLine(program, "Results displayed");
-  window.mnuUtilItem.ClickItem(util_item::ToggleHistory);
+  window.mnuUtilItem.ClickItem(UtilityItem::ToggleHistory);
 
   EXPECT_TRUE(window.txtMain.Visible());
-  EXPECT_EQ(window.mnuUtilItem.Caption(util_item::ToggleHistory), "Close History &Window");
+  EXPECT_EQ(window.mnuUtilItem.Caption(UtilityItem::ToggleHistory), "Close History &Window");
   EXPECT_EQ(window.txtMain.Text(), "2. Results displayed\r\n");
 }
 
 TEST_F(HistoryPane, IsCopied) {
   AddHistoryLine(program, "Results displayed");
 
-  window.mnuUtilItem.ClickItem(util_item::CopyHistory);
+  window.mnuUtilItem.ClickItem(UtilityItem::CopyHistory);
 
   EXPECT_EQ(platform.clipboard.text, "2. Results displayed\r\n");
 }

@@ -24,7 +24,7 @@ class PrintedResults : public MainWindowTest {
   // All sheets of the File menu's Print.
   std::string Printed() {
     platform.printer.pages.clear();
-    window.mnuFileItem.ClickItem(file_item::Print);
+    window.mnuFileItem.ClickItem(FileItem::Print);
     std::string text;
     for (const std::string& page : platform.printer.pages) text += page;
     return text;
@@ -35,7 +35,7 @@ class PrintedResults : public MainWindowTest {
     platform.windows.onModal = [&](Form& form) {
       if (auto* dialog = dynamic_cast<ParametersDialog*>(&form)) user(*dialog);
     };
-    window.mnuEditItem.ClickItem(edit_item::Parameters);
+    window.mnuEditItem.ClickItem(EditItem::Parameters);
   }
 
   // Presses Results in the parameters dialog and leaves it as it is; gives the page of results.
@@ -127,7 +127,7 @@ TEST_F(PrintedResults, StayAsResultsShowedThemAfterTheCostTableWasShown) {
   platform.windows.onModal = [](Form& form) {
     if (auto* dialog = dynamic_cast<CostDialog*>(&form)) dialog->cmdresults.Press();
   };
-  window.mnuEditItem.ClickItem(edit_item::Cost);
+  window.mnuEditItem.ClickItem(EditItem::Cost);
   ASSERT_THAT(program.session.OutBuf[1], HasSubstr("TOTAL COST"));
 
   Printed();
@@ -138,7 +138,7 @@ TEST_F(PrintedResults, StayAsResultsShowedThemAfterTheCostTableWasShown) {
 TEST_F(PrintedResults, AreNotThoseOfTheProjectBefore) {
   PageOfResults();
 
-  window.mnuFileItem.ClickItem(file_item::New);
+  window.mnuFileItem.ClickItem(FileItem::New);
 
   EXPECT_THAT(Printed(), IsEmpty());  // not agreed to
   platform.boxes.answers = {BoxResult::Yes};
@@ -149,7 +149,7 @@ TEST_F(PrintedResults, StandInPlaceOfTheCostTable) {
   platform.windows.onModal = [](Form& form) {
     if (auto* dialog = dynamic_cast<CostDialog*>(&form)) dialog->cmdresults.Press();
   };
-  window.mnuEditItem.ClickItem(edit_item::Cost);
+  window.mnuEditItem.ClickItem(EditItem::Cost);
   ASSERT_THAT(program.session.OutBuf[1], StartsWith("[TULK COST CALCULATIONS]"));
 
   const std::string text = Printed();
@@ -251,7 +251,7 @@ TEST_F(PrintedResults, AreOnViewInThePreview) {
     second = dynamic_cast<TextBox&>(*form.Find("RichTextBox1")).Text();
   };
 
-  window.mnuFileItem.ClickItem(file_item::Preview);
+  window.mnuFileItem.ClickItem(FileItem::Preview);
 
   EXPECT_THAT(second, HasSubstr(Psup725));
 }
@@ -263,7 +263,7 @@ TEST_F(PrintedResults, GoToPaperFromTheToolBarAlike) {
     dialog.Command1.Press();
   });
 
-  window.Toolbar1.ClickItem(tool_button::Print);
+  window.Toolbar1.ClickItem(ToolButton::Print);
 
   EXPECT_THAT(platform.printer.pages.at(1), HasSubstr(Psup725));
 }

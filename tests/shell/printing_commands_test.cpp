@@ -11,7 +11,7 @@ using testing::IsEmpty;
 using testing::StartsWith;
 
 struct Printing : MainWindowTest {
-  void Choose(Integer item) { window.mnuFileItem.ClickItem(item); }
+  void Choose(FileItem item) { window.mnuFileItem.ClickItem(item); }
 
   std::string Printed() const {
     std::string text;
@@ -23,7 +23,7 @@ struct Printing : MainWindowTest {
 TEST_F(Printing, AsksFirstWhenTheProjectIsEmpty) {
   platform.boxes.answers = {BoxResult::No};
 
-  Choose(file_item::Print);
+  Choose(FileItem::Print);
 
   ASSERT_EQ(platform.boxes.shown.size(), 1U);
   EXPECT_EQ(platform.boxes.shown.front().text, "Current file is empty. Continue?");
@@ -34,7 +34,7 @@ TEST_F(Printing, AsksFirstWhenTheProjectIsEmpty) {
 TEST_F(Printing, PrintsAnEmptyProjectOnYes) {
   platform.boxes.answers = {BoxResult::Yes};
 
-  Choose(file_item::Print);
+  Choose(FileItem::Print);
 
   EXPECT_EQ(platform.printer.chosen, 1);
   EXPECT_THAT(Printed(), HasSubstr("[ORBY CALCULATIONS]\r\n"));
@@ -43,7 +43,7 @@ TEST_F(Printing, PrintsAnEmptyProjectOnYes) {
 TEST_F(Printing, PrintsTheInputAndTheResultsOfTheProject) {
   OpenByDialog(Panel3);
 
-  Choose(file_item::Print);
+  Choose(FileItem::Print);
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
   EXPECT_EQ(platform.printer.chosen, 1);
@@ -55,7 +55,7 @@ TEST_F(Printing, IsLeftWithThePrinterDialog) {
   OpenByDialog(Panel3);
   platform.printer.error = error_number::Cancelled;
 
-  Choose(file_item::Print);
+  Choose(FileItem::Print);
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
   EXPECT_THAT(platform.printer.pages, IsEmpty());
@@ -64,7 +64,7 @@ TEST_F(Printing, IsLeftWithThePrinterDialog) {
 TEST_F(Printing, OfTheToolBarAsksForNoPrinter) {
   OpenByDialog(Panel3);
 
-  window.Toolbar1.ClickItem(tool_button::Print);
+  window.Toolbar1.ClickItem(ToolButton::Print);
 
   EXPECT_EQ(platform.printer.chosen, 0);
   EXPECT_THAT(Printed(), HasSubstr("725"));
@@ -73,7 +73,7 @@ TEST_F(Printing, OfTheToolBarAsksForNoPrinter) {
 TEST_F(Printing, OfTheToolBarNamesItsFileAfterTheProject) {
   OpenByDialog(Panel3);
 
-  window.Toolbar1.ClickItem(tool_button::Print);
+  window.Toolbar1.ClickItem(ToolButton::Print);
 
   EXPECT_EQ(platform.printer.nameOfUnasked, "panel3");
 }
@@ -82,7 +82,7 @@ TEST_F(Printing, OfTheToolBarTellsTheFileThatItPrintedTo) {
   OpenByDialog(Panel3);
   platform.printer.file = "/designs/panel3 (2).pdf";
 
-  window.Toolbar1.ClickItem(tool_button::Print);
+  window.Toolbar1.ClickItem(ToolButton::Print);
 
   EXPECT_THAT(program.session.history.Text, testing::EndsWith("Report printed to /designs/panel3 (2).pdf\r\n"));
 }
@@ -90,7 +90,7 @@ TEST_F(Printing, OfTheToolBarTellsTheFileThatItPrintedTo) {
 TEST_F(Printing, ProposesTheNameOfTheProjectForAFile) {
   OpenByDialog(Panel3);
 
-  Choose(file_item::Print);
+  Choose(FileItem::Print);
 
   EXPECT_EQ(platform.printer.proposedName, "panel3");
   EXPECT_THAT(program.session.history.Text, testing::Not(HasSubstr("printed")));
@@ -99,7 +99,7 @@ TEST_F(Printing, ProposesTheNameOfTheProjectForAFile) {
 TEST_F(Printing, OfTheToolBarAsksAlikeWhenTheProjectIsEmpty) {
   platform.boxes.answers = {BoxResult::No};
 
-  window.Toolbar1.ClickItem(tool_button::Print);
+  window.Toolbar1.ClickItem(ToolButton::Print);
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Current file is empty. Continue?"));
   EXPECT_THAT(platform.printer.pages, IsEmpty());
@@ -110,7 +110,7 @@ TEST_F(Printing, IsToldAndGivenUpWithoutAPrinter) {
   platform.printer.error = error_number::Printer;
   platform.boxes.answers = {BoxResult::Cancel};
 
-  window.Toolbar1.ClickItem(tool_button::Print);
+  window.Toolbar1.ClickItem(ToolButton::Print);
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error occurred: Printer error (482)"));
 }
@@ -120,14 +120,14 @@ TEST_F(Printing, GoesOnBehindAPrinterDialogThatFailed) {
   platform.printer.error = error_number::Printer;
   platform.boxes.answers = {BoxResult::Cancel, BoxResult::Cancel};
 
-  Choose(file_item::Print);
+  Choose(FileItem::Print);
 
   EXPECT_THAT(platform.boxes.Texts(),
               ElementsAre("Error occurred: Printer error (482)", "Error occurred: Printer error (482)"));
 }
 
 TEST_F(Printing, SetsThePrinterUp) {
-  Choose(file_item::PrinterSetup);
+  Choose(FileItem::PrinterSetup);
 
   EXPECT_EQ(platform.printer.setUp, 1);
 }
@@ -135,7 +135,7 @@ TEST_F(Printing, SetsThePrinterUp) {
 TEST_F(Printing, SetUpThatIsCancelledIsOnlyLogged) {
   platform.printer.error = error_number::Cancelled;
 
-  Choose(file_item::PrinterSetup);
+  Choose(FileItem::PrinterSetup);
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
   EXPECT_EQ(program.session.history.Text, "2. Cancel was selected.\r\n");
@@ -152,7 +152,7 @@ TEST_F(Printing, IsPreviewedPageByPage) {
     EXPECT_FALSE(form.Find("Command4")->Enabled());
   };
 
-  Choose(file_item::Preview);
+  Choose(FileItem::Preview);
 
   ASSERT_EQ(pages.size(), 2U);
   EXPECT_EQ(pages[0], program.session.OutBuf[0]);
@@ -163,7 +163,7 @@ TEST_F(Printing, IsPreviewedPageByPage) {
 TEST_F(Printing, PreviewAsksAlikeWhenTheProjectIsEmpty) {
   platform.boxes.answers = {BoxResult::No};
 
-  Choose(file_item::Preview);
+  Choose(FileItem::Preview);
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Current file is empty. Continue?"));
   EXPECT_EQ(platform.windows.modalForms, 0);

@@ -135,7 +135,7 @@ struct StartedAgain : MainWindowTest {
       end = window.LeaveAtOnce();
       atEnd = platform.files.files;
     };
-    window.mnuEditItem.ClickItem(edit_item::Parameters);
+    window.mnuEditItem.ClickItem(EditItem::Parameters);
     platform.windows.onModal = nullptr;
     return end;
   }
@@ -321,7 +321,7 @@ TEST_F(StartedAgain, AReportThatCannotBeMadeIsNamed) {
     }
   };
 
-  window.mnuEditItem.ClickItem(edit_item::Parameters);
+  window.mnuEditItem.ClickItem(EditItem::Parameters);
 
   EXPECT_EQ(words, "while the report was made");
 }

@@ -150,7 +150,7 @@ TEST_F(AWindowThatLooksForUpdates, DoesNotAskOverTheUpdatesThatTheUserHasOpened)
   bool wasStopped = false;
   platform.windows.onModal = [&](Form&) { wasStopped = CheckAtStart().stopped; };
 
-  window.mnuHelpItem.ClickItem(help_item::Updates);
+  window.mnuHelpItem.ClickItem(HelpItem::Updates);
 
   EXPECT_TRUE(wasStopped);
 }
