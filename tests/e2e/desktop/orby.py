@@ -55,6 +55,21 @@ def bring_to_front(title):
                    capture_output=True, timeout=PATIENCE)
 
 
+def settle_window_manager():
+    """Waits until the window manager has dealt with all that has happened so far.
+
+    The windows of a program have the numbers of those of a program that has ended, and what the window manager is late
+    to hear of the old ones it would do to the new ones.
+    """
+    def desktops():
+        answer = subprocess.run(["xdotool", "get_num_desktops"], capture_output=True, check=True, timeout=PATIENCE)
+        return int(answer.stdout)
+
+    other = 5 if desktops() == 4 else 4
+    xdotool("set_num_desktops", other)
+    until(lambda: desktops() == other, "an answer of the window manager")
+
+
 def clipboard():
     """The text of the clipboard; empty while there is none."""
     answer = subprocess.run(["xclip", "-o", "-selection", "clipboard"], capture_output=True, timeout=PATIENCE)
@@ -341,6 +356,7 @@ class DesktopTest(unittest.TestCase):
 
     def start(self, *arguments, accepts=True, **environment):
         """Starts the program; what it begins with is accepted unless the test is about that."""
+        settle_window_manager()
         run = start_program(self.bus, self.home, *arguments, **environment)
         self.runs.append(run)
         if accepts:
