@@ -29,5 +29,15 @@ TEST(ATextPane, GrowsPieceByPieceAndBeginsAnew) {
   EXPECT_EQ(pane.Bytes(), "");
 }
 
+TEST(ASlider, StaysInsideItsRange) {
+  PlainForm form;
+  Slider slider(form, "hsbSize", 2, 10);
+
+  slider.SetValue(11);
+  EXPECT_EQ(slider.Value(), 10);
+  slider.SetValue(-3);
+  EXPECT_EQ(slider.Value(), 2);
+}
+
 }  // namespace
 }  // namespace orby::test

@@ -60,6 +60,16 @@ TEST(Analysis, OfASystemThatIsNotInUseGivesNothing) {
   EXPECT_TRUE(figures.Intersections.Systems[1].Value());
 }
 
+TEST(Analysis, OfRoofBoltsInEntriesGivesNothingWithoutBoltsInARow) {
+  Design design = FullDesign();
+  const auto bolts = [&] { return Analyze(design, BuiltInLists()).Entries.Systems[2].Value(); };
+
+  design.Entries.Bolt.BoltsperRow = 0;
+  EXPECT_FALSE(bolts().has_value());
+  design.Entries.Bolt.BoltsperRow = 1;
+  EXPECT_TRUE(bolts().has_value());
+}
+
 TEST(Analysis, NamesTheWarningsOfAWideSpanUnderAShortBolt) {
   Design design = FullDesign();
   design.Place.ActualSpanDiagonals = 80;
