@@ -334,19 +334,6 @@ class ActionArray : public CaptionArray {
   std::function<void(Integer index)> Click;
 };
 
-// Entries whose indices are an enum.
-template <class Choice>
-class Actions : public ActionArray {
- public:
-  using ActionArray::ActionArray;
-  using ActionArray::Caption;
-  using ActionArray::ClickItem;
-  using ActionArray::SetCaption;
-  const std::string& Caption(Choice item) const { return Caption(NumberOf(item)); }
-  void SetCaption(Choice item, std::string_view caption) { SetCaption(NumberOf(item), caption); }
-  void ClickItem(Choice item) const { ClickItem(NumberOf(item)); }
-};
-
 // A whole number between two others.
 class Slider : public Control {
  public:

@@ -44,6 +44,19 @@ enum class HelpItem : Integer {
 
 enum class ToolButton : Integer { Open = 1, Save, Print, Description, Parameters };
 
+// Entries whose indices are an enum.
+template <class Choice>
+class Actions : public ActionArray {
+ public:
+  using ActionArray::ActionArray;
+  using ActionArray::Caption;
+  using ActionArray::ClickItem;
+  using ActionArray::SetCaption;
+  const std::string& Caption(Choice item) const { return Caption(NumberOf(item)); }
+  void SetCaption(Choice item, std::string_view caption) { SetCaption(NumberOf(item), caption); }
+  void ClickItem(Choice item) const { ClickItem(NumberOf(item)); }
+};
+
 class MainControls : public ProgramForm {
  public:
   explicit MainControls(Program& program) : ProgramForm(program, "frmMain", {}) {}
