@@ -48,7 +48,6 @@ struct BoltControls {
 struct CableControls {
   Form& Dialog;
   std::array<std::string_view, 7> Names;
-  SecondarySupport RoofSupport::*Support;
 
   Frame ModeFrame{Dialog, Names[0], "Capacity Determination"};
   OptionArray CapMode{
@@ -163,8 +162,7 @@ class ParametersControls : public ProgramForm {
   CableControls EntryCableControls{
       *this,
       {"fraCableDetEntry", "optCableCapModeSecEntry", "cmbCableDiamSecEntry", "fraCableSpecEntry",
-       "optCableCapacitySecEntry", "cmbCableCapacitySecEntry", "txtCableCapacitySecEntry"},
-      &RoofSupport::Entries};
+       "optCableCapacitySecEntry", "cmbCableCapacitySecEntry", "txtCableCapacitySecEntry"}};
   LabelledBox txtCableBoltsPerRowSecEntry{*this, "txtCableBoltsPerRowSecEntry", "Number of Bolts per Row"};
   LabelledBox txtCableRowSpacingSecEntry{*this, "txtCableRowSpacingSecEntry", "Cable Bolt Row Spacing",
                                          UnitSuffix::Length};
@@ -221,8 +219,7 @@ class ParametersControls : public ProgramForm {
   CableControls InterCableControls{
       *this,
       {"fraCableDetInter", "optCableCapModeSecInter", "cmbCableDiamSecInter", "fraCableSpecInter",
-       "optCableCapacitySecInter", "cmbCableCapacitySecInter", "txtCableCapacitySecInter"},
-      &RoofSupport::Intersections};
+       "optCableCapacitySecInter", "cmbCableCapacitySecInter", "txtCableCapacitySecInter"}};
   LabelledBox txtCableNumberSecInter{*this, "txtCableNumberSecInter", "Number of Cable Bolts"};
 
   // intersections: trusses

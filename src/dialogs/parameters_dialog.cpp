@@ -11,6 +11,7 @@
 #include "dialogs/history_texts.h"
 #include "dialogs/project_report.h"
 #include "dialogs/results_window.h"
+#include "dialogs/shown_design.h"
 
 namespace orby {
 namespace {
@@ -96,11 +97,9 @@ void ParametersDialog::OnOpen() {
     tabs->SetTab(0);
     for (int tab = 1; tab < tabs->Count(); ++tab) tabs->SetTabEnabled(tab, false);
   }
-  if (Units() == Metric) {
-    for (CableControls* cable : {&EntryCableControls, &InterCableControls}) {
-      (program_.project.WorkParms.*cable->Support).Cable.CapMode = 1;
-      cable->CapMode.SetMemberEnabled(0, false);
-    }
+  TakeMetricCables(program_.project.WorkParms);
+  for (CableControls* cable : {&EntryCableControls, &InterCableControls}) {
+    cable->CapMode.SetMemberEnabled(0, Units() != Metric);
   }
   FillLists();
   InitParameters();

@@ -99,8 +99,8 @@ void Recovery::KeepDamagedFile() {
 }
 
 std::string Recovery::PutAside() {
-  const std::string present = path_;
-  const std::string aside = FreeNameBeside(program_, present);
+  std::string present = path_;
+  std::string aside = FreeNameBeside(program_, present);
   written_.clear();
   failed_ = false;
   if (Succeeds([&] { program_.platform.files.RenameFile(present, aside); })) return aside;
