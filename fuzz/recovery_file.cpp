@@ -28,7 +28,7 @@ void ReadAsFile(const std::string& bytes) {
   orby::RestoreProject(program.project, *project);
 
   Expect(!program.project.FileSaved);
-  Expect(orby::RecoveryBytes(orby::CommittedProject(program.project)) == bytes);
+  Expect(orby::RecoveryBytes(program.project) == bytes);
   Expect(!orby::ProjectFileBytes(program.project).empty());
 }
 

@@ -84,21 +84,24 @@ struct FileOnDisk {
   std::string SpoiltBytes{};  // what it has left there, as far as that could be read
 };
 
-// What a project file holds, and what this run knows of that file.
-struct Project {
-  Design WorkParms;  // the committed design
+// What is kept of a project whose changes were not saved.
+struct UnsavedProject {
+  std::string CurrentFile{UntitledName};
   Integer UseAUSStandardTable = 0;
   std::string ProjectTitle;
   std::string ProjectDescription;
-  Integer DescLines = 0;
+  bool FileEmpty = true;
+  bool UnitsLocked = false;
+  Design WorkParms;  // the committed design
+};
 
-  std::string CurrentFile{UntitledName};
+// The open project, and what this run knows of its file.
+struct Project : UnsavedProject {
+  Integer DescLines = 0;
   std::string PreviousFile;
   FileOnDisk LastFile;
   Integer FileVersion = 0;  // of the last project read: one less than the number in its label
   bool FileSaved = true;
-  bool FileEmpty = true;
-  bool UnitsLocked = false;
 };
 
 // What a run keeps beside its project.

@@ -99,8 +99,7 @@ void DescriptionDialog::Commit() {
                           Chosen<StrengthBasis>(Option2) != program_.project.WorkParms.Basis;
   program_.project.ProjectTitle = Text1.Text();
   program_.project.ProjectDescription = Text2.Text();
-  if (startsAnew && (hasNewTexts || !program_.project.FileSaved))
-    KeepChanges(program_, CommittedProject(program_.project));
+  if (startsAnew && (hasNewTexts || !program_.project.FileSaved)) KeepChanges(program_, program_.project);
   Choose(program_, program_.project.WorkParms.Units, Chosen<UnitSystem>(Option1));
   Choose(program_, program_.project.WorkParms.Basis, Chosen<StrengthBasis>(Option2));
   program_.project.UseAUSStandardTable = Check1.Value();

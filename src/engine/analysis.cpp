@@ -298,7 +298,7 @@ Figures Analyze(const RoofSupport& design, const Catalogs& catalogs) noexcept {
   figures.Suggested = Attempt([&] { return Suggest(TypedSite(design), design.Units); });
   figures.LiveSuggestion = Attempt([&] {
     const bool isShown = IsPlausible(TypedSite(design));
-    return isShown ? std::optional(AsShown(figures.Suggested.Value(), design.Units)) : std::nullopt;
+    return isShown ? std::optional(WithLiveWarnings(figures.Suggested.Value(), design.Units)) : std::nullopt;
   });
   figures.Primary =
       Attempt([&] { return PrimaryOf(design, catalogs, figures.Working.Value().Primary, figures.Suggested.Value()); });

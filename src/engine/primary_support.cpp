@@ -59,14 +59,14 @@ bool IsPlausible(const SiteInputs& typed) {
          typed.Span > typed.Width && typed.Depth >= 0;
 }
 
-SuggestedFigures AsShown(SuggestedFigures figures, UnitSystem units) {
+SuggestedFigures WithLiveWarnings(SuggestedFigures figures, UnitSystem units) {
   if (units == Metric) figures.SpanIsTooLarge = figures.SpanAndWidthMismatch = false;
   return figures;
 }
 
 std::optional<SuggestedFigures> SuggestLive(const SiteInputs& typed, UnitSystem units) {
   if (!IsPlausible(typed)) return std::nullopt;
-  return AsShown(Suggest(typed, units), units);
+  return WithLiveWarnings(Suggest(typed, units), units);
 }
 
 std::optional<Single> ActualLive(const PatternInputs& typed, UnitSystem units, const GradeBasis& basis) {

@@ -96,8 +96,8 @@ Feet InFeet(Single length, UnitSystem units);
 // 0..100, the width not above 0, the span not above the width, or the depth negative.
 bool IsPlausible(const SiteInputs& typed);
 
-// The suggestions as the dialog shows them: the two span warnings are for English designs only.
-SuggestedFigures AsShown(SuggestedFigures figures, UnitSystem units);
+// Returns the suggestions with the warnings that the dialog shows: the two of the span are for English designs only.
+SuggestedFigures WithLiveWarnings(SuggestedFigures figures, UnitSystem units);
 
 // What the dialog suggests for the site; nothing when it is not plausible.
 std::optional<SuggestedFigures> SuggestLive(const SiteInputs& typed, UnitSystem units);

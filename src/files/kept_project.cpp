@@ -34,7 +34,7 @@ std::optional<UnsavedProject> ReadProjectFile(const Program& program, std::strin
     beside.project.CurrentFile = name;
     beside.project.FileEmpty = false;
     beside.project.UnitsLocked = true;
-    return CommittedProject(beside.project);
+    return beside.project;
   } catch (const RuntimeError&) {
     return std::nullopt;
   }

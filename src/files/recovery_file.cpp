@@ -89,13 +89,8 @@ UnsavedProject ReadLines(std::string_view rest) {
 
 }  // namespace
 
-UnsavedProject CommittedProject(const Project& project) {
-  return {project.CurrentFile, project.UseAUSStandardTable, project.ProjectTitle, project.ProjectDescription,
-          project.FileEmpty,   project.UnitsLocked,         project.WorkParms};
-}
-
 UnsavedProject EditedProject(const Project& project, Design design) {
-  UnsavedProject edited = CommittedProject(project);
+  UnsavedProject edited = project;
   edited.FileEmpty = false;
   edited.UnitsLocked = true;
   edited.WorkParms = std::move(design);
@@ -139,13 +134,7 @@ std::string ProjectNamedIn(std::string_view bytes) {
 }
 
 void RestoreProject(Project& project, const UnsavedProject& unsaved) {
-  project.CurrentFile = unsaved.CurrentFile;
-  project.UseAUSStandardTable = unsaved.UseAUSStandardTable;
-  project.ProjectTitle = unsaved.ProjectTitle;
-  project.ProjectDescription = unsaved.ProjectDescription;
-  project.FileEmpty = unsaved.FileEmpty;
-  project.UnitsLocked = unsaved.UnitsLocked;
-  project.WorkParms = unsaved.WorkParms;
+  static_cast<UnsavedProject&>(project) = unsaved;
   project.FileSaved = false;
 }
 

@@ -14,20 +14,6 @@
 
 namespace orby {
 
-// What a recovery file holds.
-struct UnsavedProject {
-  std::string CurrentFile;
-  Integer UseAUSStandardTable = 0;
-  std::string ProjectTitle;
-  std::string ProjectDescription;
-  bool FileEmpty = false;
-  bool UnitsLocked = false;
-  Design WorkParms;
-};
-
-// The project as it was last committed.
-UnsavedProject CommittedProject(const Project& project);
-
 // The project as it will be once this design is committed.
 UnsavedProject EditedProject(const Project& project, Design design);
 

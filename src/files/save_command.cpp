@@ -53,7 +53,7 @@ bool MayLeavePreviousFile(Program& program) {
   const BoxResult answer = ShowMessage(program, "Save changes to: " + program.project.PreviousFile + "?",
                                        {BoxButtons::YesNo, BoxIcon::Question, BoxDefault::SecondButton});
   if (answer != BoxResult::Yes) {
-    UnsavedProject dropped = CommittedProject(program.project);
+    UnsavedProject dropped = program.project;
     dropped.CurrentFile = program.project.PreviousFile;
     KeepChanges(program, dropped);
     return true;

@@ -35,7 +35,7 @@ void MainWindow::FileCommand(FileItem item) {
 }
 
 void MainWindow::NewProject() {
-  if (!program_.project.FileSaved) KeepChanges(program_, CommittedProject(program_.project));
+  if (!program_.project.FileSaved) KeepChanges(program_, program_.project);
   FileNew(program_, true, true);
   recovery_.Discard();
   RefreshCaption();

@@ -105,7 +105,7 @@ bool MainWindow::MayClose() {
   const BoxResult answer = ShowMessage(program_, "Save changes to: " + program_.project.CurrentFile + "?",
                                        {BoxButtons::YesNoCancel, BoxIcon::Question});
   if (answer == BoxResult::No) {
-    KeepChanges(program_, CommittedProject(program_.project));
+    KeepChanges(program_, program_.project);
     return true;
   }
   return answer == BoxResult::Yes && SaveProject(false);

@@ -198,7 +198,7 @@ void Recovery::Committed() {
   if (program_.project.FileSaved) {
     Discard();
   } else {
-    Write(RecoveryBytes(CommittedProject(program_.project)));
+    Write(RecoveryBytes(program_.project));
   }
 }
 

@@ -57,7 +57,7 @@ struct TheBackupsWindow : testing::Test {
     program.project.WorkParms.Place.DepthofCover = 800;
     program.project.ProjectTitle = "Belt entry";
     program.project.WorkParms.Primary.Options = 1;
-    KeepDropped(program, CommittedProject(program.project), BackupReason::Dropped);
+    KeepDropped(program, program.project, BackupReason::Dropped);
     FileNew(program, true, true);
   }
 
@@ -124,7 +124,7 @@ TEST_F(TheBackupsWindow, ShowsTheTitleOfASavedFileAsItWasTyped) {
 
 TEST_F(TheBackupsWindow, ShowsADashForAFigureThatCannotBeHad) {
   program.project.WorkParms.Place.EntryWidth = 0;
-  KeepDropped(program, CommittedProject(program.project), BackupReason::Dropped);
+  KeepDropped(program, program.project, BackupReason::Dropped);
 
   backups.Open();
 

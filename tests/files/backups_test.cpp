@@ -243,7 +243,7 @@ TEST_F(Backups, OfADroppedDesignAreRecoveryFiles) {
   FileNew(program(), false, true);
   program().project.WorkParms.Place.DepthofCover = 725;
 
-  const auto path = KeepDropped(program(), CommittedProject(program().project), BackupReason::Dropped);
+  const auto path = KeepDropped(program(), program().project, BackupReason::Dropped);
 
   ASSERT_TRUE(path);
   EXPECT_THAT(*path, EndsWith(" panel3.orb.recovery"));
@@ -257,7 +257,7 @@ TEST_F(Backups, OfADroppedDesignStandUnderTheWholePathOfItsProject) {
   FileNew(program(), false, true);
   program().project.CurrentFile = "panel3.orb";
 
-  KeepDropped(program(), CommittedProject(program().project), BackupReason::Dropped);
+  KeepDropped(program(), program().project, BackupReason::Dropped);
 
   EXPECT_EQ(ListBackups(program()).front().Project, "/section/panel3.orb");
 }
@@ -266,14 +266,14 @@ TEST_F(Backups, OfADroppedDesignWithoutANameAreUntitled) {
   FileNew(program(), false, true);
   program().project.CurrentFile = UntitledName;
 
-  KeepDropped(program(), CommittedProject(program().project), BackupReason::Dropped);
+  KeepDropped(program(), program().project, BackupReason::Dropped);
 
   EXPECT_EQ(ListBackups(program()).front().Project, "Untitled");
 }
 
 TEST_F(Backups, OfADamagedRecoveryFileAreNamedAfterTheProjectThatItStillTells) {
   FileNew(program(), false, true);
-  const std::string whole = RecoveryBytes(CommittedProject(program().project));
+  const std::string whole = RecoveryBytes(program().project);
 
   EXPECT_THAT(*KeepDamaged(program(), whole.substr(0, 60)), EndsWith(" 00001 panel3.orb.recovery"));
   EXPECT_THAT(*KeepDamaged(program(), "nothing"), EndsWith(" 00002 Untitled.recovery"));

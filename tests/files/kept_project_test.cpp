@@ -43,7 +43,7 @@ TEST_F(KeptProject, OfAnOlderFormatHasTheDefaultsForWhatItLacks) {
 }
 
 TEST_F(KeptProject, IsReadFromARecoveryFileUnderTheNameInIt) {
-  const auto read = ReadKeptProject(project.program, RecoveryBytes(CommittedProject(project.program.project)), "other");
+  const auto read = ReadKeptProject(project.program, RecoveryBytes(project.program.project), "other");
 
   ASSERT_TRUE(read);
   EXPECT_EQ(read->CurrentFile, ProjectPath);
@@ -52,7 +52,7 @@ TEST_F(KeptProject, IsReadFromARecoveryFileUnderTheNameInIt) {
 
 TEST_F(KeptProject, IsNoneInDamagedBytes) {
   const std::string file = ProjectFileBytes(project.program.project);
-  const std::string recovery = RecoveryBytes(CommittedProject(project.program.project));
+  const std::string recovery = RecoveryBytes(project.program.project);
 
   for (const std::string& bytes : {file.substr(0, file.size() / 2), recovery.substr(0, recovery.size() / 2),
                                    std::string(), std::string("notes of the shift")}) {
@@ -79,7 +79,7 @@ TEST_F(KeptProject, AsAFileIsTheProjectFileAsItWas) {
 }
 
 TEST_F(KeptProject, AsAFileIsTheRecoveryFileAsASaveWouldWriteIt) {
-  const std::string recovery = RecoveryBytes(CommittedProject(project.program.project));
+  const std::string recovery = RecoveryBytes(project.program.project);
 
   const auto bytes = KeptProjectAsFile(project.program, recovery);
 

@@ -23,7 +23,7 @@ struct RecoveryFile : testing::Test {
     project.program.project.FileEmpty = false;
   }
 
-  std::string Bytes() const { return RecoveryBytes(CommittedProject(project.program.project)); }
+  std::string Bytes() const { return RecoveryBytes(project.program.project); }
 
   TestProject project;
 };
@@ -164,7 +164,7 @@ class DamagedRecoveryFile : public testing::TestWithParam<Damage> {};
 TEST_P(DamagedRecoveryFile, IsNotRead) {
   TestProject project;
   FileNew(project.program, false, true);
-  std::string bytes = RecoveryBytes(CommittedProject(project.program.project));
+  std::string bytes = RecoveryBytes(project.program.project);
   const std::size_t at = bytes.find(GetParam().from);
   ASSERT_NE(at, std::string::npos);
   bytes.replace(at, std::string_view(GetParam().from).size(), GetParam().to);

@@ -23,7 +23,7 @@ struct BackupsView : GuiTest {
     for (const Single depth : {710.0F, 720.0F, 730.0F}) {
       program.project.CurrentFile = "/designs/panel at " + std::to_string(static_cast<int>(depth)) + ".orb";
       program.project.WorkParms.Place.DepthofCover = depth;
-      KeepDropped(program, CommittedProject(program.project), BackupReason::Dropped);
+      KeepDropped(program, program.project, BackupReason::Dropped);
     }
   }
 

@@ -173,7 +173,7 @@ class Sitting {
     KeepDamaged(program_, "ORBY_RECOVERY_1\r\nCurrentFile=/home/user/Documents/Orby/north panel.ORB\r\n");
     KeepBackup(program_, program_.project.CurrentFile, BytesOf(std::string(EXAMPLES_DIR) + "/belt-entry-trusses.ORB"),
                BackupReason::ChangedOnDisk);
-    KeepDropped(program_, CommittedProject(program_.project), BackupReason::Dropped);
+    KeepDropped(program_, program_.project, BackupReason::Dropped);
     TakeDialog<BackupsWindow>("backups");
   }
 

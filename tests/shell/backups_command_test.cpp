@@ -26,7 +26,7 @@ struct TheBackupsCommand : MainWindowTest {
     program.project.WorkParms.Place.DepthofCover = 800;
     program.project.ProjectTitle = "Belt entry";
     program.project.WorkParms.Primary.Options = 1;
-    KeepDropped(program, CommittedProject(program.project), BackupReason::Dropped);
+    KeepDropped(program, program.project, BackupReason::Dropped);
     window.mnuFileItem.ClickItem(FileItem::New);
     platform.boxes.shown.clear();
   }

@@ -445,7 +445,7 @@ TEST_F(UnsavedWork, OfARunningProgramIsNotOfferedToAnother) {
 }
 
 TEST_F(UnsavedWork, ThatWasLostGoesBeforeAFreeFile) {
-  platform.files.files[SecondFile] = RecoveryBytes(CommittedProject(Editing(980).project));
+  platform.files.files[SecondFile] = RecoveryBytes(Editing(980).project);
   Program next = Started();
   platform.boxes.answers = {BoxResult::Yes};
 
@@ -465,7 +465,7 @@ TEST_F(UnsavedWork, OfANinthProgramIsKept) {
 }
 
 TEST_F(UnsavedWork, ThatWasLostInTheNinthFileIsOffered) {
-  platform.files.files[Folder + "~recover9.tmp"] = RecoveryBytes(CommittedProject(Editing(980).project));
+  platform.files.files[Folder + "~recover9.tmp"] = RecoveryBytes(Editing(980).project);
   Program next = Started();
   platform.boxes.answers = {BoxResult::Yes};
 
