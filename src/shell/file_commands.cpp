@@ -15,7 +15,7 @@
 namespace orby {
 namespace {
 
-// Returns true if the command goes on after the step.
+// Returns true if the command continues after a step with this outcome.
 bool GoesOn(StepOutcome outcome) { return outcome == StepOutcome::Done || outcome == StepOutcome::PassedOver; }
 
 }  // namespace
@@ -59,7 +59,7 @@ void MainWindow::OpenFile(const std::string& path, Trap trap) {
   LoadProjFile(trap);
 }
 
-// A refused file leaves the caption as it is.
+// A file that is refused leaves the caption unchanged.
 void MainWindow::LoadProjFile(Trap trap) {
   bool ok = false;
   Run(trap, [&] {
@@ -77,7 +77,7 @@ void MainWindow::LoadProjFile(Trap trap) {
 bool MainWindow::SaveProject(bool saveAs) {
   const bool isSaved = FileMenuSave(program_, saveAs);
   if (!isSaved && program_.project.FileSaved) return false;
-  // A save that failed makes an unsaved project also of one that was saved.
+  // A failed save can leave a project unsaved that was saved before.
   recovery_.Committed();
   if (isSaved) UpdateRecentFiles();
   RefreshCaption();

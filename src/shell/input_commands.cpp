@@ -18,8 +18,8 @@ void MainWindow::EditCommand(EditItem item) {
   }
 }
 
-// Returns the dialog with the project in it. A project that cannot be shown, which only a damaged file holds, is told;
-// nothing is returned then, and the run goes on.
+// Returns the dialog with the project in it. Returns nothing after a message if the project cannot be shown, as with
+// some damaged files.
 template <class Dialog>
 std::unique_ptr<Dialog> MainWindow::Opened() {
   Windows& windows = program_.platform.windows;
@@ -57,8 +57,8 @@ void MainWindow::EditDesign() {
   RefreshCaption();
 }
 
-// After each act of the user, for the case that one of the next ends the run. A number that the project cannot hold
-// leaves the last one in its field that could be held.
+// Keeps the dialog's edits after each action of the user, because the next action might end the run. If a field holds a
+// number that a project cannot hold, the last valid number is kept.
 template <class Dialog>
 void MainWindow::KeepEdits(Dialog& dialog) {
   auto read = [&dialog, kept = program_.project.WorkParms]() mutable -> const Design& {

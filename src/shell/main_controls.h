@@ -1,4 +1,4 @@
-// The controls of the main window: its menus, its tool bar, the pane of the history and the version.
+// The controls of the main window: menus, tool bar, history pane and version label.
 #pragma once
 
 #include "controls/controls.h"
@@ -6,7 +6,7 @@
 
 namespace orby {
 
-// Entries of the menus by what they do.
+// Menu entries. Each number is the entry's index in its menu, where separators count too.
 enum class FileItem : Integer {
   New = 0,
   Open = 1,
@@ -44,7 +44,7 @@ enum class HelpItem : Integer {
 
 enum class ToolButton : Integer { Open = 1, Save, Print, Description, Parameters };
 
-// Entries whose indices are an enum.
+// A list of entries with an enum for its indices.
 template <class Choice>
 class Actions : public ActionArray {
  public:
@@ -70,7 +70,7 @@ class MainControls : public ProgramForm {
       "mnuFileItem",
       {"&New", "&Open...", "&Save ", "Save &As...", ActionArray::Separator, "Printer Set&up...", "&Print",
        "Print Pre&view...", ActionArray::Separator, "&View Source Files...", ActionArray::Separator, "E&xit"}};
-  // The recent files behind a separator; the captions are only places until there are files to name.
+  // The separator and the recent files. The digits are placeholders for captions.
   ActionArray mnuFileArray{*this, "mnuFileArray", {ActionArray::Separator, "1", "2", "3", "4"}};
   Menu mnuEdit{*this, "mnuEdit", "&Input"};
   Actions<EditItem> mnuEditItem{

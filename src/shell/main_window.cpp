@@ -69,7 +69,7 @@ void MainWindow::ShowSettings() {
   Toolbar1.SetVisible(settings.EnableMainMenuToolbar == 1);
 }
 
-// Nothing of the user's is touched before the disclaimer is accepted.
+// The user's files are not touched before the disclaimer is accepted.
 void MainWindow::OnOpen() {
   if (program_.session.settings.ShowDisclaim == 1) ShowNew<Disclaimer>();
   ShowSettings();
@@ -93,7 +93,7 @@ void MainWindow::OpenFirstFiles(const std::string& commandLineFile) {
 
 void MainWindow::BringBack() {
   if (restart_->Slot != 0 && recovery_.Recover()) return RefreshCaption();
-  // The slot of this run may hold what another run lost.
+  // The slot of this run may hold work that another run lost.
   if (recovery_.Ask(restart_->File)) return RefreshCaption();
   if (!restart_->File.empty()) OpenFile(restart_->File, Trap::Set);
 }
@@ -117,7 +117,7 @@ void MainWindow::OnClose() {
   WriteDefaults(program_, StoredSettings::FileMenu);
 }
 
-// A project that is not kept may still be had as its file has it.
+// If no changes are kept, the next run can still open the project's file.
 RunEnd MainWindow::LeaveAtOnce() {
   recovery_.Flush();
   updateCheck_.Stop();

@@ -1,7 +1,8 @@
-// The main window: all work starts from its menus, and its pane shows the history of the run.
+// The main window: its menus start every command, and its pane shows the history of the run.
 //
-// A command of the File menu runs under a trap, step by step: a step that fails is told and done again, passed over or
-// given up, as the user says. So does the opening of an input dialog. The file of the command line has no trap.
+// A command of the File menu runs under a trap, and so does the opening of an input dialog: after an error in a step
+// the user chooses whether to repeat the step, skip it or give up. The file of the command line is opened without a
+// trap.
 #pragma once
 
 #include <functional>
@@ -20,27 +21,27 @@ namespace orby {
 
 class MainWindow : public MainControls {
  public:
-  // Takes over the history of the program and the asking for input dialogs, for as long as the window lives.
-  // restart: what this run brings back by itself, where the run before it ended by an error.
+  // Connects the program's history and its requests for input dialogs to this window until it is destroyed. restart:
+  // what this run restores without a question, if an error ended the previous run.
   explicit MainWindow(Program& program, std::optional<Restart> restart = std::nullopt);
   ~MainWindow() override;
 
-  // What a run begins with, once the window is on the screen: the work that an earlier run lost, and where there is
-  // none or the user declines it, the file that was open last and the file of the command line. Throws the RuntimeError
-  // of opening the last one. A run that was started again brings back what it was told without a question; it asks only
-  // about work that yet another run lost.
+  // Opens the first project, once the window is on the screen. Offers the work that an earlier run lost. If there is
+  // none or the user declines it, opens the file that was open last, and then the file of the command line. Throws the
+  // RuntimeError of opening the file of the command line.
+  //
+  // A run with a `restart` restores that without a question, and asks only about work that another run lost.
   void OpenFirstFiles(const std::string& commandLineFile);
 
   // Opens a file that was dropped on the window.
   void Dropped(const std::string& path);
 
-  // Asks what to do with unsaved changes; false when the window is to stay.
+  // Asks what to do with unsaved changes. Returns false if the window must stay open.
   bool MayClose() override;
 
-  // For a run that ends without closing the window: keeps what is being edited for the next start, and nothing of what
-  // has been fetched in part.
+  // Ends a run without closing the window: saves the unsaved changes for the next start, and stops the update check.
   RunEnd LeaveAtOnce();
-  // After that: lets the next run have what is kept while this one has not ended yet.
+  // Lets the next run take the recovery file before this run has ended. Call it after LeaveAtOnce.
   void Release() { recovery_.Release(); }
 
  protected:
@@ -70,7 +71,7 @@ class MainWindow : public MainControls {
   bool SaveProject(bool saveAs);
   void UpdateRecentFiles();
   bool MayPrint();
-  // Builds the report of the committed design. Returns true if the command goes on.
+  // Builds the report of the committed design. Returns true if the command continues.
   bool BuildPages();
   void PrintProject(bool choosesPrinter);
   void PreviewProject();
@@ -94,7 +95,7 @@ class MainWindow : public MainControls {
   void ShowUpdates();
   void ConvertFile();
 
-  // Makes a dialog of this kind and shows it until it is closed.
+  // Makes a dialog of this type and shows it until it is closed.
   template <class Dialog>
   void ShowNew() {
     Dialog dialog(program_);

@@ -8,7 +8,7 @@
 namespace orby {
 namespace {
 
-// A menu takes one "&" for the mark of a letter.
+// A menu takes a single "&" for the mark of a mnemonic.
 std::string MenuCaption(std::string_view name) {
   std::string caption;
   for (const char letter : name) caption.append(letter == '&' ? 2 : 1, letter);

@@ -1,4 +1,4 @@
-// The files that the File menu offers again.
+// The recent files in the File menu.
 #pragma once
 
 #include "controls/controls.h"
@@ -6,12 +6,12 @@
 
 namespace orby {
 
-// Puts the open project first in the list, under its bare name when the settings want short names. A name that the
-// list has already changes places with the first, and its path becomes the open project's, be it another file of that
-// name. Gives false, the list staying as it is, when the settings switch it off.
+// Puts the open project first in the list, under its bare name if the settings ask for short names. If the list already
+// has that name, the two entries change places and the name then stands for the open project, even if it stood for a
+// file in another folder. Returns false and changes nothing if the settings switch the list off.
 bool EnterRecentFile(Program& program);
 
-// Shows the entries in the menu, behind its separator.
+// Shows the list in the menu, after its separator.
 void ShowRecentFiles(const RecentFiles& recentFiles, ActionArray& menu);
 
 }  // namespace orby

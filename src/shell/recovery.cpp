@@ -23,7 +23,7 @@ std::string SlotPath(const Program& program, int number, std::string_view extens
 constexpr std::string_view FileExtension = ".tmp";
 constexpr std::string_view MarkExtension = ".lck";
 
-// The first of "PATH.kept", "PATH.kept2" and so on that is free.
+// Returns the first free name of "PATH.kept", "PATH.kept2" and so on.
 std::string FreeNameBeside(Program& program, const std::string& path) {
   const std::string first = path + ".kept";
   std::string name = first;
@@ -104,7 +104,7 @@ std::string Recovery::PutAside() {
   written_.clear();
   failed_ = false;
   if (Succeeds([&] { program_.platform.files.RenameFile(present, aside); })) return aside;
-  // The file stays for the next start.
+  // The file keeps its name, so the next start finds it.
   Succeeds([this] { TakeEmptySlot(); });
   return present;
 }

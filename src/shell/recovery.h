@@ -1,12 +1,11 @@
-// Keeps unsaved work in a file of the program's temporary folder, for the next start after a run that ended in the
-// middle of it.
+// Keeps unsaved work in a recovery file, so that the next start can offer it after a run that ended unexpectedly.
 //
-// What the user turns down goes into the backups. What the backups do not take stays beside the file under another
-// name, so nothing that the file held is lost.
+// Work that the user declines goes to the backups. A file that the backups cannot take is renamed and stays in its
+// folder, so nothing is lost.
 //
-// Programs that run side by side take different files: each marks one of nine as its own for as long as it runs, first
-// of all one that a run left behind. Where no file can be had nothing is kept, and nobody is told. A write that failed
-// is tried again every second.
+// Several programs may run at once. Each locks one of nine slots while it runs, preferably a slot with a file that an
+// earlier run left. Without a free slot nothing is kept and no message is shown. A write that failed is repeated every
+// second.
 #pragma once
 
 #include <memory>
@@ -21,56 +20,56 @@ namespace orby {
 
 class Recovery {
  public:
-  // keptSlot: what a run left behind in this slot comes first; 0 where no slot does.
-  // Lets the program put unsaved changes aside for as long as this lives.
+  // keptSlot: the slot to restore first, 1..9; 0 for none. While this object lives, the program can set unsaved changes
+  // aside through it.
   explicit Recovery(Program& program, int keptSlot = 0);
   ~Recovery();
   Recovery(const Recovery&) = delete;
   Recovery& operator=(const Recovery&) = delete;
 
-  // Asks whether to recover what a run left behind, if there is anything, or to open the other file instead, if there
-  // is one. Returns true if the open project is the recovered one now. What the user declines goes into the backups.
+  // Asks whether to recover the work that an earlier run left, if there is any. The question offers `otherFile` as the
+  // alternative unless it is empty. Work that the user declines goes to the backups. Returns true if the work was
+  // recovered.
   bool Ask(const std::string& otherFile);
 
-  // Recovers what a run left behind, in the kept slot if one was named, without asking. Returns true if there was
-  // anything.
+  // Recovers the work that an earlier run left, without a question. If the constructor got a slot, only that slot
+  // counts. Returns true if there was any.
   bool Recover();
 
-  // An input dialog shows this design, nothing being changed yet.
+  // Notes the design that an input dialog shows when it opens.
   void DesignShown(const Design& design);
 
-  // The design as the open input dialog would commit it. It is written a second after the first change that has not
-  // been written yet.
+  // Notes the design that the open input dialog would commit now. A change is written within a second.
   void DesignChanged(const Design& design);
 
-  // Writes at once what has not been written, or could not be.
+  // Writes at once any change that is not written yet or could not be written.
   void Flush();
 
-  // The input dialog is closed: edits that it did not commit go into the backups. Then as Committed.
+  // Backs up the edits that the closed input dialog did not commit. Then does what Committed does.
   void DialogClosed();
 
-  // The project is what was committed last, whatever an input dialog showed: it is written at once when it has unsaved
-  // changes, and nothing is kept of one that has none.
+  // Writes the committed project at once if it has unsaved changes, and removes the file if it has none. Edits in a
+  // dialog no longer count.
   void Committed();
 
-  // Nothing is worth keeping any more.
+  // Removes the file.
   void Discard();
 
-  // What is kept of the unsaved changes by now.
+  // Returns how much of the unsaved changes is in the file.
   KeptWork Kept() const;
-  // The slot that keeps them; 0 when none does.
+  // Returns the slot that holds the unsaved changes, or 0 if none does.
   int KeptSlot() const { return written_.empty() ? 0 : slot_; }
 
-  // Leaves the slot, with what it keeps, to the next run.
+  // Unlocks the slot for the next run. The file stays.
   void Release();
 
  private:
-  // What a run left behind, if anything. A file that is damaged goes into the backups.
+  // Returns the work that an earlier run left in the slot, if any. A damaged file goes to the backups.
   std::optional<UnsavedProject> TakeLostProject();
   std::string Question(const UnsavedProject& project) const;
   void KeepDamagedFile();
-  // Gives the file another name, which no run takes, and returns that. A file that cannot be renamed keeps its name,
-  // and this run takes another slot.
+  // Renames the file so that no run takes it, and returns its new path. If it cannot be renamed, returns the present
+  // path and takes another slot.
   std::string PutAside();
   void TakeSlot();
   void TakeEmptySlot();
@@ -82,13 +81,13 @@ class Recovery {
   std::unique_ptr<FileMark> mark_;
   int keptSlot_;
   int slot_ = 0;
-  std::string path_;     // empty: no file can be had
-  std::string written_;  // what the file holds; empty: there is none of this run
+  std::string path_;     // empty if no slot could be taken
+  std::string written_;  // the contents of the file; empty if this run has none
   bool failed_ = false;  // the last changes could not be written
-  std::string shown_;    // what the design in the open dialog started from
+  std::string shown_;    // the bytes of the design with which the open dialog started
   std::optional<Design> changed_;
-  std::optional<Design> edited_;  // what the open dialog showed last
-  // Shared with the act that waits for its second; true while one waits.
+  std::optional<Design> edited_;  // the latest design of the open dialog
+  // True while a write is scheduled. The scheduled call does nothing after this object is gone.
   std::shared_ptr<bool> waiting_ = std::make_shared<bool>(false);
 };
 

@@ -25,7 +25,7 @@ std::string_view NextWords(const Restart& next) {
 
 }  // namespace
 
-// A path begins with a separator, so it is no slot.
+// A path begins with a separator, so it cannot be mistaken for a slot.
 std::string RestartNote(const Restart& restart) {
   return restart.Slot == 0 && !restart.File.empty() ? restart.File : std::to_string(restart.Slot);
 }

@@ -1,4 +1,4 @@
-// The end of a run by a run-time error: what the user is told, and what the next run brings back by itself.
+// The end of a run after a run-time error: the message to the user, and what the next run restores without a question.
 #pragma once
 
 #include <optional>
@@ -10,22 +10,22 @@
 
 namespace orby {
 
-// What the next run brings back without a question.
+// What the next run restores without a question.
 struct Restart {
-  int Slot = 0;      // the recovery slot with the unsaved project, 1..9; 0: none
-  std::string File;  // the file that is opened where no project is unsaved; empty: none
+  int Slot = 0;      // the recovery slot of the unsaved project, 1..9; 0 for none
+  std::string File;  // the file to open if no slot is named; empty for none
 };
 
-// A restart as one line of text, which hands it from run to run.
+// Converts a restart to the one line of text that is passed to the next run, and back.
 std::string RestartNote(const Restart& restart);
 Restart ReadRestartNote(std::string_view note);
 
-// What is kept of the project's unsaved changes.
+// How much of the project's unsaved changes is kept.
 enum class KeptWork {
   All,
-  Earlier,    // all but the last ones, which could not be written
+  Earlier,    // all except the last ones, which could not be written
   Nothing,    // none could be written
-  NoneNeeded  // there are none
+  NoneNeeded  // there are no unsaved changes
 };
 
 struct RunEnd {
@@ -33,8 +33,8 @@ struct RunEnd {
   Restart Next;
 };
 
-// The box that tells the error. Its first button ends the run. Its second one, which is there where something has been
-// begun, starts the program again.
+// Returns the message for the error. The first button ends the run. The second one starts the program again; it is
+// there only if `end` is.
 MessageBox RunEndBox(const RuntimeError& error, const std::optional<RunEnd>& end);
 inline constexpr BoxResult StartAgainButton = BoxResult::Retry;
 

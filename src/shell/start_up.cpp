@@ -20,8 +20,8 @@ void SetBuiltInValues(Program& program) {
   SetBuiltInCatalogs(program.session.catalogs);
 }
 
-// What the last run left; nothing when there is none. A file of any other version, older or newer, is replaced, and the
-// user's choices in it are lost.
+// Returns the configuration that the last run left, if any. A file of another version, older or newer, is replaced, and
+// the user's choices in it are lost.
 std::optional<IniText> StoredConfiguration(Program& program) {
   FileSystem& files = program.platform.files;
   if (!files.Finds(program.session.IniFilePath, true)) return std::nullopt;
@@ -44,7 +44,7 @@ IniText SettledConfiguration(Program& program) {
   } catch (const RuntimeError& error) {
     trouble = error;
   }
-  // Here alone, not at every start: to ask the machine for its fonts takes longer than all the rest.
+  // Only here, not at every start: asking the system for its fonts takes longer than the rest of the start.
   SetBuiltInSettings(program);
   IniText ini = NewIniText(program.session);
   try {
@@ -61,7 +61,7 @@ void ReadCatalogSections(Program& program, const IniText& ini) {
   ReadCatalogSection(program, ini, StoredCatalogs::BoltParams);
 }
 
-// A new configuration is read back too, so that the first run holds what later ones will.
+// A new configuration is also read back, so that the first run holds the same values as later ones.
 void ReadConfiguration(Program& program, const IniText& ini) {
   ReadDefaults(program, ini);
   ReadCatalogSections(program, ini);

@@ -1,4 +1,4 @@
-// What a run starts from, before anything is opened.
+// Prepares a run before any project is opened.
 #pragma once
 
 #include <string>
@@ -9,17 +9,17 @@
 
 namespace orby {
 
-// Starts a run at the desktop: finds the user's folders, reads the configuration file, made anew when it is missing or
-// of another version, begins a new design, and enters the working folder. Where no configuration file can be read or
-// written, what a new one would hold is in force, and the user is told.
+// Prepares a desktop run: finds the user's folders, reads the configuration file, begins a new design and enters the
+// working folder. Writes a new configuration file if there is none of this version. If the file cannot be read or
+// written, the values of a new one apply and a message says so.
 void StartProgram(Program& program);
 
-// Starts a run apart from the user: it looks at none of the user's folders and writes nothing. Values of a new design
-// and lists come from the configuration if there is one.
+// Prepares a run without a desktop: reads none of the user's folders and writes nothing. The catalogs and the values of
+// a new design come from `configuration`; null means the built-in ones.
 void StartApart(Program& program, const IniText* configuration);
 
-// The one file that a command line names: its arguments joined by blanks, without double quotes, from the root of the
-// file system; empty without arguments. To be asked before StartProgram, which changes where relative paths start.
+// Returns the absolute path of the file that the command line names: the arguments joined by spaces, without double
+// quotes. Returns an empty text if there are none. Call it before StartProgram, which changes the current folder.
 std::string CommandLineFile(Program& program, const std::vector<std::string>& arguments);
 
 }  // namespace orby

@@ -1,4 +1,4 @@
-// The look at the server that a run begins with: tells the user of a newer version, and of nothing else.
+// Asks the update server at the start of a run, and tells the user only if there is a newer version.
 #pragma once
 
 #include <memory>
@@ -8,17 +8,16 @@
 
 namespace orby {
 
-// Lives as long as the main window; destroying it stops the fetch.
+// Owned by the main window. Destroying it stops the fetch.
 class UpdateCheck {
  public:
   explicit UpdateCheck(Program& program) : program_(program) {}
 
-  // Fetches the version file without the user waiting for it, and asks about a newer version, whose installation the
-  // dialog of program updates offers. Does nothing when the user has switched the check off or there is no server;
-  // every failure is silent.
+  // Fetches the version file in the background. If it names a newer version, offers to open the update dialog. Does
+  // nothing if the user has switched the check off or there is no server. Failures are silent.
   void Start();
 
-  // No answer is wanted any more.
+  // Stops the fetch.
   void Stop() { fetch_.reset(); }
 
  private:

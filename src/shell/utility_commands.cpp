@@ -36,7 +36,7 @@ void MainWindow::UtilityCommand(UtilityItem item) {
   }
 }
 
-// The chosen one is opened under its old name, with unsaved changes, after the question for those of the present one.
+// Opens the chosen backup under its old name, with unsaved changes, after asking about those of the open project.
 void MainWindow::ShowBackups() {
   BackupsWindow backups(program_);
   ShowForm(program_, backups);
@@ -69,7 +69,7 @@ void MainWindow::ConvertFile() {
   }
 }
 
-// The dialog looks for itself; the question of the start is not to come up over it.
+// The dialog asks the server itself. Stopping the check keeps its question from appearing over the dialog.
 void MainWindow::ShowUpdates() {
   updateCheck_.Stop();
   ShowNew<UpdateDialog>();
