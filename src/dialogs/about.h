@@ -1,4 +1,4 @@
-// What the program says of itself.
+// The About message.
 #pragma once
 
 #include "core/program.h"

@@ -1,4 +1,4 @@
-// The window of the backups: what was overwritten or dropped, and the ways back.
+// The backups window: lists the projects that were overwritten or dropped, and opens, saves or deletes them.
 #pragma once
 
 #include <optional>
@@ -15,7 +15,7 @@ class BackupsWindow : public ProgramForm {
  public:
   Label lblBackups{*this, "lblBackups", "Projects that were overwritten or not saved"};
   Grid grdBackups{*this, "grdBackups"};
-  Label lblState{*this, "lblState", {}};  // why there is nothing to show of a project
+  Label lblState{*this, "lblState", {}};  // the reason why no project is shown
 
   Frame fraBackup{*this, "fraBackup", "Selected backup"};
   LabelledBox txtProject{*this, "txtProject", TextKind::Output, "Project file"};
@@ -36,14 +36,14 @@ class BackupsWindow : public ProgramForm {
 
   explicit BackupsWindow(Program& program);
 
-  std::optional<UnsavedProject> Chosen;  // once closed: the project that is to be opened
+  std::optional<UnsavedProject> Chosen;  // set when the window closes: the project to open
 
  protected:
   void OnOpen() override;
 
  private:
   void List();
-  // The selected entry; null when there is none.
+  // Returns the selected entry, or null if there is none.
   const Backup* Selected() const;
   void ShowSelected();
   void ShowProject(const UnsavedProject& project);
@@ -54,7 +54,7 @@ class BackupsWindow : public ProgramForm {
   void OpenFolder();
 
   std::vector<Backup> entries_;            // by row of the grid
-  std::optional<UnsavedProject> project_;  // of the selected entry; nothing when it is damaged
+  std::optional<UnsavedProject> project_;  // of the selected entry; empty if the backup is damaged
 };
 
 }  // namespace orby

@@ -1,4 +1,4 @@
-// Which of the catalogs a project is offered.
+// The catalogs that a project offers.
 #pragma once
 
 #include <cstddef>
@@ -8,16 +8,17 @@
 
 namespace orby {
 
-// Puts the bolt table in force that the project's units and its Australian setting ask for, and returns it.
+// Loads the bolt table for the project's units and its Australian setting, and returns it.
 const BoltTable& LoadBoltTable(const Project& project, Catalogs& catalogs);
 
-// The standard values that the project's units offer; grades are yield or ultimate strengths by the strength mode.
+// Return the standard values for the project's units. Grades are yield or ultimate strengths, depending on the strength
+// basis.
 const CatalogList& BoltDiameters(const Program& program);
 const CatalogList& BoltGrades(const Program& program);
 const CatalogList& CableDiameters(const Program& program);
 const CatalogList& CableCapacities(const Program& program);
 
-// Capacity of a standing support of the catalog, tons or kN by the project's units.
+// Returns the capacity of a standing support in the catalog, in tons or kN depending on the project's units.
 Single StandSupportCap(const Program& program, std::size_t index);
 
 }  // namespace orby

@@ -1,4 +1,4 @@
-// The file conversion utility: asks for the other unit system and converts the open project into it.
+// The file conversion dialog: converts the open project to the other unit system.
 #pragma once
 
 #include <functional>
@@ -15,7 +15,7 @@ class ConvertDialog : public ProgramForm {
   Frame fraUnits{*this, "fraUnits", "Units"};
   OptionArray Option1{*this, "Option1", {{"feet, psi, pcf"}, {"meters, MPa, kN/m3"}}};
   Frame fraFileOptions{*this, "fraFileOptions", "File options"};
-  // The converted project is the open one whatever is chosen here.
+  // The choice has no effect: the converted project always becomes the open one.
   OptionArray Option2{*this, "Option2", {{"Keep original project"}, {"Load converted project "}}};
 
   // commands
@@ -23,11 +23,11 @@ class ConvertDialog : public ProgramForm {
   Button Command1{*this, "Command1", "Cancel", [this] { Close(); }};
   Button Command3{*this, "Command3", "Help", [this] { ShowHelp(); }};
 
-  // converted: runs once the project is another one, or has been converted in part, before the user is told.
+  // converted: called after the conversion, even if it failed halfway, and before the closing message.
   explicit ConvertDialog(
       Program& program, std::function<void()> converted = [] {});
 
-  // Why the project could not be converted, if it could not.
+  // Returns the error that stopped the conversion, if any.
   const std::optional<RuntimeError>& Failure() const { return failure_; }
 
  protected:

@@ -1,4 +1,4 @@
-// The command of the input dialogs that puts their picture on the clipboard.
+// The Copy Clip command of the input dialogs.
 #pragma once
 
 #include "controls/form.h"
@@ -6,7 +6,7 @@
 
 namespace orby {
 
-// Copies the form as it is on the screen, and says so.
+// Copies a picture of the form to the clipboard and says so.
 void CopyClip(Program& program, const Form& form);
 
 }  // namespace orby

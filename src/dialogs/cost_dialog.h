@@ -1,4 +1,4 @@
-// The cost dialog: what one bolting operation consumes and produces, its live figures, its checks and its preview.
+// The cost dialog: the inputs of one bolting operation, its live figures, its checks and its preview.
 #pragma once
 
 #include <string_view>
@@ -64,32 +64,30 @@ class CostDialog : public ProgramForm {
 
   explicit CostDialog(Program& program);
 
-  // The advance per shift out of bolts and row spacing, and the clean production that follows from it. A spacing that
-  // is not above 0 leaves both figures as they are. "--" when it cannot be computed.
+  // Shows the advance per shift, computed from the bolts and the row spacing, and refreshes the clean production if it
+  // changed. Shows "--" if it cannot be computed. Does nothing if the row spacing is 0 or less.
   void CalcAdvance();
 
-  // The clean production out of the calculated advance and the advance rate. "--" when it, or the advance, cannot be
-  // computed.
+  // Shows the clean production, computed from the calculated advance and the advance rate. Shows "--" if it or the
+  // advance cannot be computed.
   void CalcProduction();
 
-  // Refuses numbers below 0 and those that a project cannot hold: tells of the first field with one, and gives it the
-  // focus.
+  // Returns true if every number is 0 or more and fits a project. Otherwise shows an error for the first field that
+  // fails, and moves the focus to it.
   bool ValidateCost();
 
-  // Reads the fields into a design as a commit would. A number that the design cannot hold leaves the one it has there;
-  // one that has passed the checks always fits.
+  // Reads the fields into a design as a commit would. A number that the design cannot hold leaves the design's own one
+  // unchanged; numbers that pass the checks always fit.
   void ReadEdits(Design& design) const;
 
   // Reads the fields into the committed design.
   void SaveWorkParms();
 
-  // The same into the scratch design, for previews.
-
-  // Builds the report pages of the fields as they stand, without committing or checking them. Throws what a report
-  // throws that cannot be computed.
+  // Builds the report pages of the fields as they are, without committing or checking them. Throws the RuntimeError of
+  // a report that cannot be computed.
   void BuildReport();
 
-  bool HoldEvents = false;  // holds the live figures back
+  bool HoldEvents = false;  // suspends the live figures
   bool CommitOnClose = false;
   bool WasCommitted = false;
 

@@ -1,12 +1,12 @@
-// The curve that the user asks for.
+// Computes the curve that the user chose.
 #pragma once
 
 #include "core/program.h"
 
 namespace orby {
 
-// Sweeps the curve of this index over the design, tells what is to be told of the sweep, and makes its points those of
-// the windows. A sweep that fails leaves the curve before it, and throws its RuntimeError.
+// Computes the curve of this index for the design, shows its notices, and stores its points for the windows. On an
+// error throws its RuntimeError and leaves the previous curve.
 void TakeCurve(Program& program, const Design& design, Integer index);
 
 }  // namespace orby

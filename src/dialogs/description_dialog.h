@@ -1,4 +1,4 @@
-// The description dialog: title and description of the project, and the three choices that its numbers depend on.
+// The description dialog: title, description, units, strength basis and the choice of the Australian bolt table.
 #pragma once
 
 #include "controls/controls.h"
@@ -14,7 +14,7 @@ class DescriptionDialog : public ProgramForm {
   TextBox Text1{*this, "Text1"};
   TextBox Text2{*this, "Text2"};
   Button cmdPutBack{*this, "cmdPutBack", "Put Back Title and Description",
-                    [this] { PutBack(); }};  // only where the file has shifted them
+                    [this] { PutBack(); }};  // shown only if the file has shifted them
   Frame fraUnits{*this, "fraUnits", "Current units"};
   OptionArray Option1{*this, "Option1", {{"feet, lbs"}, {"meters, kN"}}};
   Frame fraStrength{*this, "fraStrength", "Roof bolt steel strength"};
@@ -30,7 +30,7 @@ class DescriptionDialog : public ProgramForm {
   explicit DescriptionDialog(Program& program);
 
   bool CommitOnClose = false;
-  bool OpensParameters = false;  // once closed: the parameters dialog is to be opened next
+  bool OpensParameters = false;  // set when the dialog closes: open the parameters dialog next
 
  protected:
   void OnOpen() override;

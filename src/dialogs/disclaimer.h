@@ -1,7 +1,7 @@
-// The disclaimer, which can guard the start of the program.
+// The disclaimer. The settings can require it at the start of the program.
 //
-// It closes by its buttons alone. The window's cross and the Escape key do nothing: at the start they would lead past
-// the question into the program.
+// Only its buttons close it. The window's close button and the Escape key do nothing, because at the start they would
+// skip the question.
 #pragma once
 
 #include "controls/controls.h"
@@ -25,7 +25,7 @@ class Disclaimer : public ProgramForm {
 
  protected:
   void OnOpen() override;
-  // Stores whether the disclaimer is to be shown at the next start, once it has been accepted.
+  // After "I accept", stores whether to show the disclaimer at the next start.
   void OnClose() override;
 
  private:

@@ -1,4 +1,4 @@
-// The roof rating estimator: a coalfield and its rock types, each with the CMRR to start from.
+// The roof rating estimator: a coalfield and its rock types, each with a suggested CMRR.
 #pragma once
 
 #include <array>
@@ -30,10 +30,10 @@ class EstimatorDialog : public ProgramForm {
 
   explicit EstimatorDialog(Program& program);
 
-  // Shows the rating of the selected rock type and notes whether it is the region's manual row.
+  // Shows the rating of the selected rock type, and notes whether it is the region's manual row.
   void ShowEstimate();
 
-  bool HoldEvents = false;  // holds the estimate back
+  bool HoldEvents = false;  // suspends the estimate
   bool CommitOnClose = false;
 
  protected:

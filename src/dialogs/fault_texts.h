@@ -1,4 +1,4 @@
-// What the dialogs complain about in the same words.
+// Error messages that several dialogs share.
 #pragma once
 
 #include <string>
@@ -11,7 +11,7 @@ namespace orby::fault_text {
 inline constexpr std::string_view BoltsPerRow = "Invalid number of bolts per row";
 inline constexpr std::string_view RowSpacing = "Invalid roof bolt row spacing";
 
-// Of a field whose number lies beyond what a project can hold; text: what the field shows, empty for a row of a table.
+// The message for a number that a project cannot hold. text: the contents of the field; empty for a table row.
 inline std::string TooLarge(std::string_view caption, std::string_view text) {
   std::string message(caption);
   message += ": ";

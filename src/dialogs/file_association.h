@@ -1,12 +1,12 @@
-// The project files of the user's desktop: what opens them, and the icon that they bear.
+// Associates project files with this program on the user's desktop.
 #pragma once
 
 #include "core/program.h"
 
 namespace orby {
 
-// Asks, and on Yes makes this program the one that the desktop opens files of the configured extension with. The user
-// is told that it is done in any case.
+// Asks the user. On Yes makes the desktop open files with the configured extension in this program, and says that it is
+// done even if the desktop refused.
 void AssociateFileExtension(Program& program);
 
 }  // namespace orby

@@ -1,4 +1,4 @@
-// The font dialog: the font, size and style in which a text is shown.
+// The font dialog: font, size and style of a text.
 #pragma once
 
 #include <optional>
@@ -24,16 +24,16 @@ class FontDialog : public ProgramForm {
   Button cmdOK{*this, "cmdOK", "OK", [this] { Accept(); }};
   Button cmdCancel{*this, "cmdCancel", "Cancel", [this] { Close(); }};
 
-  // present: the choice that the dialog starts from; its font stays chosen until one of those offered takes its place.
+  // present: the initial choice. Its font stays chosen until the user picks an offered one.
   FontDialog(Program& program, FontChoice present, std::vector<std::string> offered);
 
-  std::optional<FontChoice> Accepted;  // once closed: what OK took over
+  std::optional<FontChoice> Accepted;  // set when the dialog closes by OK
 
  protected:
   void OnOpen() override;
 
  private:
-  // The font as the fields stand.
+  // Returns the choice that the fields show.
   FontChoice Chosen() const;
   void ShowSample();
   void Accept();
@@ -42,11 +42,12 @@ class FontDialog : public ProgramForm {
   std::vector<std::string> offered_;
 };
 
-// Shows the dialog; nothing when it was cancelled. A font that the machine lacks is told to the user and not accepted.
+// Shows the dialog and returns the choice, or nothing if it was cancelled. A font that the machine lacks is refused
+// with a message.
 std::optional<FontChoice> AskFont(Program& program, const FontChoice& present, const std::vector<std::string>& offered);
 
-// The fonts that long texts read well in, sorted: those of the machine whose letters are equally wide, and those of
-// "Arial", "Courier New", "System" and "Terminal" that it has.
+// Returns the fonts for long texts, sorted: the fixed-pitch fonts of the machine, and "Arial", "Courier New", "System"
+// and "Terminal" if installed.
 std::vector<std::string> ReadableFonts(Program& program);
 
 }  // namespace orby

@@ -1,7 +1,7 @@
-// What the graph of a curve shows: titles, names and colours, and the format that the chart and the settings exchange.
+// The presentation of a curve: titles, names, colours, and the format that the chart and the settings share.
 //
-// The curves are counted from 0 to 9. Three dependent variables are drawn over them: 0 suggested PSUP, 1 rock load in
-// entries, 2 rock load in intersections.
+// Curves have the indices 0..9. They show one of three dependent variables: 0 suggested PSUP, 1 rock load in entries, 2
+// rock load in intersections.
 #pragma once
 
 #include <string>
@@ -11,36 +11,35 @@
 
 namespace orby {
 
-// The dependent variable of a curve. Throws RuntimeError 9 outside 0..9.
+// Returns the dependent variable of a curve. Throws RuntimeError 9 outside 0..9.
 Integer DependentVariable(Integer curveIndex);
 
-// Sets all axis titles to the variables' labels and their units under the units of the project, which are noted.
+// Sets all axis titles to the variables' labels with the project's units, and notes these units.
 void ComposeAxisTitles(Program& program);
-// The same where the curve has no title yet or the titles are those of the other unit system. Throws RuntimeError 9
+// Does the same only if the curve has no title yet or the titles are in the other unit system. Throws RuntimeError 9
 // outside 0..9.
 void PrepareAxisTitles(Program& program, Integer curveIndex);
 
-// Blue * 65536 + green * 256 + red of a series, counted from 1. Throws RuntimeError 9 beyond the sixth: there are no
-// more colours.
+// Returns the colour of a series, counted from 1, as blue * 65536 + green * 256 + red. Throws RuntimeError 9 above 6.
 int CurveColors(Integer series);
 
-// The legend of a curve as it is drawn first.
+// Returns the legend of a newly drawn curve.
 std::string LegendText(Integer curveIndex);
-// Its name in the read-out and over the columns of a spreadsheet, the same for both rock loads.
+// Returns the name for the read-out and for spreadsheet columns. Both rock loads have the same one.
 std::string ShortCurveName(Integer curveIndex);
-// The legend of a series, counted from 1, once the chart was given another format: rock loads are numbered.
+// Returns the legend of a series, counted from 1, in a chart whose format has changed: rock loads are numbered.
 std::string ReformattedLegendText(Integer curveIndex, Integer series);
-// The curve in words: "Suggested PSUP vs Depth of Cover".
+// Returns the curve in words, such as "Suggested PSUP vs Depth of Cover".
 std::string CurveTitle(Integer curveIndex);
 
-// The chart's titles and grid lines for one curve. Throws RuntimeError 9 outside 0..9.
+// Sets the chart's titles and grid lines for one curve. Throws RuntimeError 9 outside 0..9.
 void ApplyTitlesAndGrid(const GraphSettings& graph, Integer curveIndex, Chart& chart);
-// Line and symbols of a series by graph style and symbol size.
+// Sets the line and symbols of a series by graph style and symbol size.
 void ApplyStyle(const GraphSettings& graph, ChartSeries& series);
-// The whole format to a chart that is drawn already, whose legend texts change by it.
+// Applies the whole format to a chart that is already drawn. The legend texts change with it.
 void Reformat(const GraphSettings& graph, Integer curveIndex, Chart& chart);
 
-// Reads the format back from the chart. A chart without a series leaves the symbol size as it is.
+// Reads the format back from the chart. A chart without series leaves the symbol size unchanged.
 void StoreFormat(const Chart& chart, Integer curveIndex, GraphSettings& graph);
 
 }  // namespace orby

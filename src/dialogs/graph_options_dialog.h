@@ -1,4 +1,4 @@
-// The options of the graph: titles, grid lines, style, legend and symbol size of the curve on view.
+// The graph options: titles, grid lines, style, legend and symbol size of the shown curve.
 #pragma once
 
 #include <array>
@@ -39,7 +39,7 @@ class GraphOptionsDialog : public ProgramForm {
   Button Command1{*this, "Command1", "Cancel", [this] { Close(); }};
   Button Command3{*this, "Command3", "Help", [this] { ShowHelp(); }};
 
-  // The chart shows the curve `program.windows.curve.CurveIndex`; OK gives it the format chosen.
+  // The chart shows the curve `program.windows.curve.CurveIndex`. OK applies the chosen format to it.
   GraphOptionsDialog(Program& program, Chart& chart);
 
  protected:

@@ -1,5 +1,4 @@
-// The graph window: the curve that was swept last, its points read off with the pointer, printed, copied, exported to a
-// spreadsheet, and the way to the options of the graph.
+// The graph window: shows the last computed curve, reads off its points, prints, copies and exports it.
 #pragma once
 
 #include "controls/chart.h"
@@ -31,17 +30,17 @@ class GraphWindow : public ProgramForm {
 
   explicit GraphWindow(Program& program);
 
-  // Draws the points in `program.windows.curve` as the curve of this index and brings the window to the front, opening
-  // it first if it is not open. Throws RuntimeError 9 for an index outside 0..9.
+  // Draws the points in `program.windows.curve` as the curve of this index, and opens the window or brings it to the
+  // front. Throws RuntimeError 9 for an index outside 0..9.
   void ShowCurve(Integer index);
 
   // Prepares titles, grid lines and heading of the chart for one curve. Throws RuntimeError 9 for an index outside
   // 0..9.
   void GraphInit(Integer index);
-  // Loads the points into the chart, `program.windows.curve.CurveCount` times. Throws RuntimeError 9 beyond the sixth
-  // series, which has no colour.
+  // Loads the points into the chart, `program.windows.curve.CurveCount` times. Throws RuntimeError 9 after the sixth
+  // series, because there are six colours.
   void DrawCurve();
-  // Empties the chart. Nothing calls it: each curve takes the place of the one before.
+  // Empties the chart. Nothing calls it, because each curve replaces the one before.
   void ClearGraph();
 
  protected:

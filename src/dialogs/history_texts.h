@@ -1,11 +1,11 @@
-// What the history says of dialogs that share their words.
+// History lines that several dialogs share.
 #pragma once
 
 #include <string_view>
 
 namespace orby::history_text {
 
-// The parameters and the cost dialog.
+// The parameters dialog and the cost dialog.
 inline constexpr std::string_view EditingParameters = "Editing Project Parameters";
 inline constexpr std::string_view ParametersModified = "Project Parameters Modified";
 inline constexpr std::string_view ParametersNotModified = "Project Parameters Not Modified";

@@ -12,7 +12,7 @@
 
 namespace orby {
 
-// The catalogs of bolts that the dialog edits.
+// The bolt catalogs that the dialog edits.
 namespace bolt_catalog {
 inline constexpr std::size_t English = 0;
 inline constexpr std::size_t Metric = 1;
@@ -20,7 +20,7 @@ inline constexpr std::size_t Australian = 2;
 inline constexpr std::size_t Count = 3;
 }  // namespace bolt_catalog
 
-// The lists of a catalog of bolts, in the order of the options that choose one.
+// The lists of a bolt catalog, in the order of the options that select one.
 namespace bolt_list {
 inline constexpr std::size_t Grade = 0;
 inline constexpr std::size_t UTS = 1;
@@ -28,15 +28,14 @@ inline constexpr std::size_t Diameter = 2;
 inline constexpr std::size_t Count = 3;
 }  // namespace bolt_list
 
-// The lists of one catalog of bolts and the commands on the list that the options choose. Each control is made from its
-// name.
+// The lists of one bolt catalog, and the commands on the selected list. The controls are made from their names.
 struct BoltListControls {
   Form& Dialog;
   std::string_view FrameName;
   std::string_view FrameCaption;
   std::string_view OptionName;
   std::array<OptionCaption, bolt_list::Count> Options;
-  std::array<std::string_view, bolt_list::Count> ListNames;  // empty: the catalog has no such list
+  std::array<std::string_view, bolt_list::Count> ListNames;  // empty if the catalog has no such list
   std::string_view ItemName;
   std::string_view AddName;
   std::string_view DeleteName;
@@ -45,7 +44,7 @@ struct BoltListControls {
 
   Frame fraBolts{Dialog, FrameName, FrameCaption};
   OptionArray optBolt{Dialog, OptionName, {Options[0], Options[1], Options[2]}};
-  // None where the catalog has no such list.
+  // Null if the catalog has no such list.
   std::array<std::unique_ptr<List>, bolt_list::Count> lists{MakeList(0), MakeList(1), MakeList(2)};
   TextBox txtItem{Dialog, ItemName, TextKind::Number};
   Button cmdAddBolt{Dialog, AddName, "Add"};
@@ -57,7 +56,7 @@ struct BoltListControls {
   }
 };
 
-// What exists once for each unit system is an array: English, Metric.
+// Controls that exist once per unit system are arrays: English, Metric.
 class OptionsControls : public ProgramForm {
  public:
   using Names = std::array<std::string_view, 2>;

@@ -1,8 +1,7 @@
-// The options dialog: preferences of the program, the values that a new design starts with, and the catalogs.
+// The options dialog: the program's preferences, the defaults of a new design, and the catalogs.
 //
-// A click into a list of bolts makes it the one that Add and Delete act on. Leaving it by OK stores all of it and
-// writes it to the configuration file. The resetting and the resizing of a list count at once, whichever way the dialog
-// is left.
+// A click in a list of bolts selects it for Add and Delete. OK stores everything and writes it to the configuration
+// file. Reset and resize act at once, even if the dialog is then cancelled.
 #pragma once
 
 #include <array>
@@ -18,8 +17,8 @@ class OptionsDialog : public OptionsControls {
  public:
   explicit OptionsDialog(Program& program);
 
-  // Refuses defaults that are not above 0 and asks about those that are unusual: tells of the first one, brings its
-  // page on view and gives it the focus.
+  // Returns true if every default and every cell is valid and the user confirms the unusual values. Otherwise shows an
+  // error or a question about the first one, shows its page and moves the focus to it.
   bool CheckOptions();
 
   bool CommitOnClose = false;
@@ -66,7 +65,7 @@ class OptionsDialog : public OptionsControls {
 
   std::array<OverlayEditing, 2> cables_;
   OverlayEditing stands_;
-  // The capacities in tons and kN that the rows of the standing supports were filled from.
+  // The capacities in tons and kN from which the rows of the standing supports were filled.
   std::vector<std::array<Single, 2>> standCapacities_;
 };
 

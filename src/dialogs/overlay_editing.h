@@ -1,7 +1,7 @@
-// The editing of a grid's cells in the text box that lies over the selected one.
+// Edits a grid's cells in a text box that lies over the selected cell.
 //
-// The box shows the text of the cell it stands over; the text goes to that cell once another one is selected. The first
-// column numbers the rows and is not edited. A grid without rows shows no box.
+// The box shows the text of its cell, and returns it to the cell when another one is selected. The first column numbers
+// the rows and cannot be edited. Without rows the box is hidden.
 #pragma once
 
 #include <string>
@@ -14,37 +14,36 @@ namespace orby {
 
 class OverlayEditing {
  public:
-  // A row's texts, those behind its number.
+  // The texts of a row, without its number.
   using Texts = std::vector<std::string>;
 
-  // One kind for each column behind the first: what the box lets through over its cells. Grid and box must outlive
-  // this.
+  // kinds: the characters that the box accepts in each column after the first. Grid and box must outlive this object.
   OverlayEditing(Grid& grid, TextBox& box, std::vector<TextKind> kinds);
   OverlayEditing(const OverlayEditing&) = delete;
   OverlayEditing& operator=(const OverlayEditing&) = delete;
 
-  // Fills the grid anew and selects its first cell; the text in the box is forgotten. headers: those behind the first.
+  // Refills the grid and selects its first cell. The text in the box is dropped. headers: those after the first column.
   void Fill(const Texts& headers, const std::vector<Texts>& entries);
-  // Adds an empty row, selects its first cell and asks for the keyboard there.
+  // Adds an empty row, selects its first cell and moves the focus to the box.
   void AddEntry();
-  // Empties the box, removes the selected row and returns its number among the entries, counted from 0; -1 when there
-  // is none to remove.
+  // Empties the box, removes the selected row and returns the index of its entry. Returns -1 if there is no row to
+  // remove.
   int RemoveEntry();
 
-  // Selects an entry's cell and asks for the keyboard there; columns as in Text.
+  // Selects a cell of an entry and moves the focus to the box. Columns count as in Text.
   void GoTo(int entry, int column);
 
-  // Brings the text of the box into its cell.
+  // Copies the text of the box into its cell.
   void Flush();
 
   int Entries() const { return grid_.Rows() - grid_.FixedRows(); }
-  // The text of an entry's cell, columns counted from 0 behind the row's number.
+  // Returns the text of an entry's cell. Columns count from 0 after the row number.
   const std::string& Text(int entry, int column) const;
 
  private:
   static constexpr int Nowhere = -1;
 
-  // Moves the box over the selected cell.
+  // Moves the box to the selected cell.
   void Follow();
   void LeaveCell() { row_ = Nowhere; }
   void NumberRows();
@@ -52,7 +51,7 @@ class OverlayEditing {
   Grid& grid_;
   TextBox& box_;
   std::vector<TextKind> kinds_;
-  int row_ = Nowhere;  // the cell that the box stands over
+  int row_ = Nowhere;  // the cell under the box
   int column_ = Nowhere;
 };
 

@@ -1,4 +1,4 @@
-// The controls of the parameters dialog, in the order of the tab key, and the sets of those that share rules.
+// The controls of the parameters dialog, in tab order, and the groups of controls that share rules.
 #pragma once
 
 #include <array>
@@ -21,9 +21,9 @@ inline constexpr Names4 SupportTabCaptions{"Cable Bolts", "Truss Bolts", "Roof B
 inline constexpr std::string_view StandardSelection = "Standard Selection";
 inline constexpr std::string_view ManualInput = "Manual Input";
 
-// Controls that stand in the dialog more than once are made from their names, in the order of the controls.
+// Controls that the dialog has more than once are made from their names, in the order of the controls.
 
-// The choice of a bolt: a row of the table, or a diameter and a grade. The table shows on its own tab only.
+// The choice of a bolt: a table row, or a diameter and a grade. The table shows only on its own tab.
 struct BoltControls {
   Form& Dialog;
   std::array<std::string_view, 12> Names;
@@ -44,7 +44,7 @@ struct BoltControls {
   TextBox GradeManual{Dialog, Names[11]};
 };
 
-// The choice of a cable: by its diameter, or by its capacity.
+// The choice of a cable: by diameter or by capacity.
 struct CableControls {
   Form& Dialog;
   std::array<std::string_view, 7> Names;
@@ -59,11 +59,11 @@ struct CableControls {
   TextBox CapacityManual{Dialog, Names[6]};
 };
 
-// The choice of a standing support: from the catalog, or by its name and capacity.
+// The choice of a standing support: from the catalog, or by name and capacity.
 struct StandingControls {
   Form& Dialog;
   std::array<std::string_view, 6> Names;
-  bool RestoresText;  // choosing from the catalog brings the selected name back
+  bool RestoresText;  // choosing from the catalog restores the selected name
 
   Frame ModeFrame{Dialog, Names[0], "Support Selection"};
   OptionArray TypeMode{Dialog, Names[1], {{StandardSelection}, {ManualInput}}};
@@ -73,7 +73,7 @@ struct StandingControls {
   LabelledBox Capacity{Dialog, Names[5], "Support Capacity", UnitSuffix::Force};
 };
 
-// The outputs of four support systems.
+// The outputs of the four support systems.
 struct OutputControls {
   using Boxes = std::array<LabelledBox, SystemCount>;
 

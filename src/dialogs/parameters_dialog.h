@@ -1,7 +1,6 @@
 // The parameters dialog: every analysis input of the design, its live results, its checks and its preview.
 //
-// Rules that the three bolt sets, the two cable selections or the two standing supports share are written once, over
-// the sets of their controls.
+// The three bolt sets share their rules; so do the two cable selections and the two standing supports.
 #pragma once
 
 #include <array>
@@ -13,7 +12,7 @@
 
 namespace orby {
 
-// A field whose number no record holds, and where the typed design keeps it.
+// A field with a number that no record can hold, and the place of that number in the typed design.
 struct Misfit {
   const Single* number;
   const Control* field;
@@ -26,32 +25,33 @@ class ParametersDialog : public ParametersControls {
  public:
   explicit ParametersDialog(Program& program);
 
-  // Judges the fields and tells what is wrong, section by section; true when nothing is. Leaves tab and focus at the
-  // last fault.
+  // Checks the fields and shows the faults, section by section. Returns true if there are none. Otherwise leaves tab
+  // and focus at the last fault.
   bool ValidateParameters();
 
-  // Reads the fields into a design as a commit would. A number that the design cannot hold leaves the one it has there.
+  // Reads the fields into a design as a commit would. A number that the design cannot hold leaves the design's own one
+  // unchanged.
   void ReadEdits(Design& design);
 
-  // Reads the fields into the committed design. A number that it cannot hold is told, its field gets the focus, and
-  // nothing is changed; false then.
+  // Reads the fields into the committed design and returns true. If a number does not fit, changes nothing, shows an
+  // error, moves the focus to its field, and returns false.
   bool SaveWorkParms();
 
-  // Reads the fields into the previewed design, for reports and curves; refuses as SaveWorkParms does.
+  // Reads the fields into the previewed design, for reports and curves. Fails as SaveWorkParms does.
   bool CopyToWorkParmsCopy();
 
-  // Builds the report pages of the fields as they stand, without committing or checking them; false when the fields
-  // were refused. Throws what a report throws that cannot be computed.
+  // Builds the report pages of the fields as they are, without committing or checking them. Returns false if a number
+  // does not fit. Throws the RuntimeError of a report that cannot be computed.
   bool BuildReport();
 
-  // The four refreshes. Each computes first and writes its outputs last. None throws: what cannot be computed, for
-  // whatever run-time error, shows "--" in its place.
+  // The four refreshes. Each computes its results first and then writes its outputs. None throws: an output shows "--"
+  // if it cannot be computed, whatever the error.
   void ShowSuggested();
   void ShowActualPSUP();
   void ShowEntries();
   void ShowIntersections();
 
-  bool HoldEvents = false;  // holds the refreshes back
+  bool HoldEvents = false;  // suspends the refreshes
   bool CommitOnClose = false;
   bool WasCommitted = false;
 
@@ -62,13 +62,13 @@ class ParametersDialog : public ParametersControls {
   void OnClose() override;
 
  private:
-  // What a change event refreshes, in this order.
+  // The refreshes that a change event runs, in this order.
   using Refresh = void (ParametersDialog::*)();
   struct Refreshes {
     Refresh first = nullptr;
     Refresh second = nullptr;
   };
-  struct RefreshTable;  // the sets of refreshes that events name
+  struct RefreshTable;  // the refreshes of each event
 
   void TieCommands();
   void TieEvents();
@@ -84,19 +84,20 @@ class ParametersDialog : public ParametersControls {
 
   void FillLists();
   void InitParameters();
-  // Reads all fields into the typed design. Returns the numbers of it that are Unfit.
+  // Reads all fields into the typed design. Returns those of its numbers that are Unfit.
   std::vector<Misfit> ReadFields();
-  // Reads all fields and takes of them what the step takes: all or, when one of these does not fit, none.
+  // Reads all fields and stores the result of `step` in `support`. If one of its numbers does not fit, shows an error,
+  // stores nothing and returns false.
   bool TakeFields(RoofSupport& support, Design (*step)(Design));
-  // Whether a commit would take all fields; tells what is refused.
+  // Returns true if a commit would take all fields. Otherwise shows the error for the first field that does not fit.
   bool MayCommit();
   void TellRefused(const Control& field);
 
-  // Reads the fields of the part into the typed design, for the live results. A number that no Single holds becomes
+  // Reads the fields of one part into the typed design, for the live results. A number that no Single can hold becomes
   // Unfit.
   void ReadPart(DesignPart part);
 
-  // Asks the estimator for a roof rating.
+  // Opens the estimator and takes its roof rating.
   void Estimate();
 
   Design typed_;

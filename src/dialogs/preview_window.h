@@ -1,4 +1,4 @@
-// The preview of what is going to be printed: the pages of the report, which the caller has built.
+// The print preview: shows the report pages, which the caller has built.
 #pragma once
 
 #include "controls/controls.h"
@@ -26,7 +26,7 @@ class PreviewWindow : public ProgramForm {
   ReportPager pager_{program_, RichTextBox1, Command4, Command5, Command2};
 };
 
-// Shows the pages until the user closes them.
+// Shows the pages until the user closes the window.
 void ShowPreview(Program& program);
 
 }  // namespace orby

@@ -1,4 +1,4 @@
-// One page of the report on view, with the buttons that go to its neighbours and the one that copies it.
+// Shows one page of the report, with buttons for the next page, the previous page and copying.
 #pragma once
 
 #include <string_view>
@@ -8,7 +8,7 @@
 
 namespace orby {
 
-// What the buttons of the report's windows are called.
+// Captions of the buttons in the report's windows.
 namespace page_caption {
 inline constexpr std::string_view Next = "&Next Page";
 inline constexpr std::string_view Previous = "P&revious Page";
@@ -18,12 +18,12 @@ inline constexpr std::string_view Close = "Close";
 
 class ReportPager {
  public:
-  // Makes the controls of a window, which must outlive the pager, do what they are for.
+  // Connects the controls of a window. They must outlive the pager.
   ReportPager(Program& program, TextBox& view, Button& next, Button& previous, Button& copy);
 
   // Goes back to page 0.
   void Restart();
-  // Puts the page on view, from its top.
+  // Shows the current page from its top.
   void Loadbuffer();
   Integer Page() const { return page_; }
 

@@ -1,4 +1,4 @@
-// The documents that come with the program, for reading.
+// The window of the documents that come with the program.
 #pragma once
 
 #include <array>
@@ -10,7 +10,7 @@
 namespace orby {
 
 struct Resource {
-  std::string_view file;  // in the folder of the resources
+  std::string_view file;  // in the resource folder
   std::string_view title;
 };
 
@@ -29,7 +29,7 @@ inline constexpr std::array<Resource, 8> Resources{{
 
 class ResourceFiles : public ProgramForm {
  public:
-  // By resource; the captions are only places until the form shows the titles.
+  // By resource. The form replaces these captions with the titles.
   std::array<Button, Resources.size()> cmdView{
       Button{*this, "cmdView_0", "Resource 1"}, Button{*this, "cmdView_1", "Resource 2"},
       Button{*this, "cmdView_2", "Resource 3"}, Button{*this, "cmdView_3", "Resource 4"},

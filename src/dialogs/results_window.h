@@ -1,4 +1,4 @@
-// The results window: the pages of the report, one at a time, and the list of curves around the design.
+// The results window: the report pages, one at a time, and the list of curves.
 #pragma once
 
 #include <memory>
@@ -39,7 +39,7 @@ class ResultsWindow : public ProgramForm {
  private:
   void TieCommands();
   void CopyAll();
-  // Prints the pages first..last on a printer of the user's choice. Faults of the printer are told, none is thrown.
+  // Prints the pages first..last on a printer that the user chooses. Shows a message for a printer error; never throws.
   void Print(Integer first, Integer last);
   bool ChoosePrinter();
   void DrawChosenCurve();
@@ -49,7 +49,7 @@ class ResultsWindow : public ProgramForm {
   std::unique_ptr<GraphWindow> graph_;  // made for the first curve
 };
 
-// Shows the pages of the report until the user closes them.
+// Shows the report pages until the user closes the window.
 void ShowResults(Program& program);
 
 }  // namespace orby

@@ -1,4 +1,4 @@
-// The settings dialog: how the program starts, where it keeps its files, and what its main window shows.
+// The settings dialog: the start of the program, its folders and files, and the main window.
 #pragma once
 
 #include <functional>
@@ -50,7 +50,7 @@ class SettingsDialog : public ProgramForm {
   Button cmdCancel{*this, "cmdCancel", "Cancel", [this] { Close(); }};
   Button cmdHelp{*this, "cmdHelp", "Help"};
 
-  // modified: what is to follow the settings once they differ, such as the main window.
+  // modified: called after the settings have changed, so that the main window can follow.
   SettingsDialog(Program& program, std::function<void()> modified);
 
  protected:
@@ -59,7 +59,7 @@ class SettingsDialog : public ProgramForm {
 
  private:
   void TieButtons();
-  // What a click on a box tells; the fields are filled without a word.
+  // Connect and disconnect the messages that a click on a check box shows. Filling the fields shows none.
   void TieMessages();
   void UntieMessages();
   void FillFields();
@@ -70,7 +70,7 @@ class SettingsDialog : public ProgramForm {
   bool CheckPath();
   bool CheckHistorySize();
   bool CheckExtension();
-  // The settings as the fields stand. Throws RuntimeError 6 when the size of the history is no Integer.
+  // Returns the settings that the fields show. Throws RuntimeError 6 if the history size is no Integer.
   Settings Edited() const;
   void Commit();
 

@@ -1,7 +1,6 @@
-// What the parameters dialog makes of a design: the steps between what is stored, what is shown, and what is taken
-// back.
+// The steps from a stored design to the one that the parameters dialog shows, and back.
 //
-// A report and a curve take the design that a dialog shows, so they come out alike with a dialog and without one.
+// Reports and curves use the design that a dialog would show, so their results do not depend on whether one was open.
 #pragma once
 
 #include "base/number_text.h"
@@ -9,35 +8,36 @@
 
 namespace orby {
 
-// How the outputs of secondary support are shown: figures of entries, of intersections, stability factors.
+// How the outputs of secondary support are formatted: figures of entries, figures of intersections, stability factors.
 inline constexpr NumberPattern EntryPattern{"0.0"};
 inline constexpr NumberPattern IntersectionPattern{"0"};
 inline constexpr NumberPattern FactorPattern{"0.#0"};
 
-// Whether each choice of the design that the dialog shows is one that its options have.
+// Returns true if every choice that the dialog shows is one of its options.
 bool HasKnownChoices(const Design& design);
 
-// Returns the design with each number as its text in a field or a file says, with seven digits.
+// Returns the design with each number rounded to the seven digits that a field or a file shows.
 Design InSevenDigits(Design design);
 
-// Lets the cables of a Metric design go by their capacity, the only way that the dialog has for them.
+// Makes Metric designs select cables by capacity, which is all that the dialog offers for them.
 void TakeMetricCables(Design& design);
 
-// Returns the design that the fields of a dialog hold once it has opened on this one. Its numbers have seven digits,
-// and the rating is whole. A row that the bolt table lacks becomes its first one, and the set takes over the row's
-// texts. Metric cables go by their capacity. Rock loads, capacities and stability factors are those of the outputs, as
-// rounded there, and 0 where an output shows no number. Throws RuntimeError 9 for a choice that its options lack, 6 for
-// a rating that no whole number of 16 bits holds.
+// Returns the design that the fields of a dialog hold after it has opened on `design`.
+//
+// Numbers have seven digits, and the rating is whole. A bolt row that the table lacks becomes the first row, and the
+// set takes that row's texts. Metric cables are selected by capacity. Rock loads, capacities and stability factors have
+// the rounded values of the outputs, or 0 if an output shows no number.
+//
+// Throws RuntimeError 9 for a choice that is not an option, and 6 for a rating that no 16-bit integer holds.
 Design AsShown(const Design& design, const BoltTable& table, const Catalogs& catalogs);
 
-// Returns what Results and the curves take of the fields: all secondary bolts go by the primary tab's manual selection.
+// Returns the design that Results and the curves use: all secondary bolts take the primary tab's manual selection.
 Design AsPreviewed(Design typed);
 
-// Returns what OK takes of the fields: the intersections' manual bolts are those of the entries tab.
+// Returns the design that OK commits: the intersections' bolts take the manual selection of the entries tab.
 Design AsCommitted(Design typed);
 
-// Returns the design that Results shows of a committed project, in a dialog that has just been opened on it.
-// Throws as AsShown does.
+// Returns the design that Results shows in a dialog newly opened on the committed project. Throws as AsShown does.
 Design AsReported(const Project& project, const Catalogs& catalogs);
 
 }  // namespace orby

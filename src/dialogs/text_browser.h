@@ -1,7 +1,7 @@
-// The text file browser: shows any file of the machine as text, in its own pane or in the external viewer.
+// The text file browser: shows any file as text, in its own pane or in the external viewer.
 //
-// A file comes into the pane piece by piece between the user's other acts, however long it is. Choosing another file,
-// or closing the form, ends that.
+// A file is read in pieces, so that the user can go on working. Choosing another file or closing the window stops the
+// reading.
 #pragma once
 
 #include <cstdint>
@@ -19,7 +19,7 @@ class TextBrowser : public ProgramForm {
   Label lblDrive{*this, "lblDrive", "Select Drive:"};
   Combo Drive1{*this, "Drive1", ComboKind::ListOnly};
   Label lblFolder{*this, "lblFolder", "Select Folder:"};
-  List Dir1{*this, "Dir1"};  // the folders from the drive down to the one on view, then those in it
+  List Dir1{*this, "Dir1"};  // the folders from the drive to the current one, then its subfolders
   Label lblFile{*this, "lblFile", "Select File:"};
   List File1{*this, "File1"};
   Label lblPattern{*this, "lblPattern", "Pattern:"};
@@ -39,9 +39,9 @@ class TextBrowser : public ProgramForm {
 
   explicit TextBrowser(Program& program);
 
-  // A longer file is refused.
+  // Longer files are refused.
   static constexpr std::uint64_t MostBytes = std::uint64_t{1} << 30U;
-  // What is read of a file at a time.
+  // The size of one piece.
   static constexpr std::size_t PieceBytes = std::size_t{1} << 21U;
 
  protected:
@@ -49,7 +49,7 @@ class TextBrowser : public ProgramForm {
   void OnClose() override;
 
  private:
-  // A file on its way into the pane.
+  // A file that is being read into the pane.
   struct Loading {
     std::unique_ptr<InputFile> file;
     std::uint64_t length = 0;
@@ -59,7 +59,7 @@ class TextBrowser : public ProgramForm {
   void GoToLastFolder();
   void ChangeDrive();
   void ChangeFolder(int item);
-  // Throws the file system's RuntimeError, and changes nothing then.
+  // Throws the file system's RuntimeError and then changes nothing.
   void OpenFolder(const std::string& folder);
   void ShowFolders(const std::vector<std::string>& folders);
   void SelectDrive();
@@ -78,10 +78,10 @@ class TextBrowser : public ProgramForm {
   void ChooseFont();
 
   std::vector<std::string> drives_;
-  std::string folder_;                    // on view
+  std::string folder_;                    // the current folder
   std::vector<std::string> folderPaths_;  // by item of Dir1
   std::vector<std::string> filePaths_;    // by item of File1
-  std::shared_ptr<Loading> loading_;      // what waits for its turn looks for it, and finds nothing when it has ended
+  std::shared_ptr<Loading> loading_;      // a scheduled read does nothing after this is gone
 };
 
 }  // namespace orby

@@ -1,4 +1,4 @@
-// The unit calculator: a number in one unit, shown in all units of its kind. It touches no project.
+// The unit calculator: converts a number to every unit of its kind. It does not use the project.
 #pragma once
 
 #include <array>
@@ -17,7 +17,7 @@ class UnitCalculator : public ProgramForm {
   static constexpr std::string_view InputCaption = "Value to convert";
   static constexpr std::string_view ResultsCaption = "Converted values";
 
-  // In each unit of a kind, in the order of the options.
+  // One box for each unit of a kind, in the order of the options.
   using Results = std::deque<LabelledBox>;
 
   TabSet SSTab1{*this, "SSTab1", {"Length", "Load", "Load Grad", "Stress", "Stress Grad"}};
@@ -67,7 +67,7 @@ class UnitCalculator : public ProgramForm {
   void OnOpen() override;
 
  private:
-  // A tab: what is converted, and where the results go, in the order of the options.
+  // A tab: the input, its unit and the results, in the order of the options.
   struct Page {
     UnitGroup group;
     TextBox& input;

@@ -1,8 +1,8 @@
-// The dialog of program updates: asks the server for its version, fetches the setup program of that version, starts it.
+// The update dialog: asks the server for its version, downloads that version's setup program, and starts it.
 //
-// What is started has the SHA-256 that the server tells, or else that of what was downloaded in this run: the check and
-// the start are of a copy that nobody can exchange in between. Without either sum a file of another day is started as
-// it is, unless it was to be replaced and could not be.
+// The setup file must have the SHA-256 that the server states, or else the one of the download in this run. The dialog
+// checks and starts a private copy, so that nobody can replace the file in between. If neither checksum is known, a
+// setup file from an earlier day is started unchecked, unless a new download of it failed.
 #pragma once
 
 #include <functional>
@@ -36,21 +36,21 @@ class UpdateDialog : public ProgramForm {
   Button cmdInstall{*this, "cmdInstall", "Install Update", [this] { Install(); }};
   Button Command1{*this, "Command1", "Close", [this] { Close(); }};
 
-  // offered: what the server is known to offer, if it has been asked.
+  // offered: the server's version, if it is already known.
   explicit UpdateDialog(Program& program, std::optional<OfferedVersion> offered = std::nullopt);
 
  protected:
   void OnOpen() override;
-  // A download under way is stopped; what has arrived waits for the next one.
+  // Stops a download. The next one resumes it.
   void OnClose() override;
 
  private:
   using Step = std::function<void()>;
 
-  // Asks the server for its version; `next` runs when it has given one.
+  // Asks the server for its version and then runs `next`, unless that fails.
   void AskServer(const Step& next);
   bool Accept(const VersionAnswer& answer);
-  // Nothing that the server has said before counts any more.
+  // Discards what the server has said before.
   void ForgetAnswer();
   void Compare();
 
@@ -61,17 +61,17 @@ class UpdateDialog : public ProgramForm {
   void EndDownload(const std::string& status);
 
   void Install();
-  // The file that may be started in the place of the setup file; empty when there is none, which has been told.
+  // Returns the file to start instead of the setup file. Returns an empty path after a message if there is none.
   std::string FileToStart(const std::string& setupFile);
   void OpenWebPage();
 
   void TellNoConnection(FetchEnd end);
-  // While something is being fetched nothing else can be begun.
+  // Disables the commands while a fetch is running.
   void SetBusy(bool busy);
 
   std::optional<OfferedVersion> offered_;
-  bool checkFailed_ = false;   // the last answer, so that there is nothing to install
-  std::string downloadedSum_;  // of the setup file that was downloaded in this run; empty: none
+  bool checkFailed_ = false;   // the server's last answer was unusable, so there is nothing to install
+  std::string downloadedSum_;  // SHA-256 of the setup file downloaded in this run; empty if there is none
   bool downloadFailed_ = false;
   std::unique_ptr<Fetch> fetch_;
 };

@@ -1,4 +1,4 @@
-// Asks the server which version it offers.
+// Asks the update server for its version.
 #pragma once
 
 #include <functional>
@@ -11,11 +11,11 @@ namespace orby {
 
 struct VersionAnswer {
   FetchEnd end = FetchEnd::Failed;
-  std::optional<OfferedVersion> offered;  // nothing when no usable version file came
+  std::optional<OfferedVersion> offered;  // empty if there is no usable version file
 };
 
-// Fetches the version file into the program's data folder and reads it from there. `then` runs once, from the event
-// loop, unless the fetch is destroyed before. Nothing on a machine that cannot fetch at all.
+// Fetches the version file into the program's data folder and reads it. Calls `then` once from the event loop, unless
+// the returned fetch is destroyed before. Returns null if this machine cannot fetch.
 std::unique_ptr<Fetch> FetchVersion(Program& program, std::function<void(const VersionAnswer&)> then);
 
 }  // namespace orby

@@ -21,8 +21,8 @@ namespace orby {
 
 class MainWindow : public MainControls {
  public:
-  // Connects the program's history and its requests for input dialogs to this window until it is destroyed. restart:
-  // what this run restores without a question, if an error ended the previous run.
+  // Connects the program's history and its requests for input dialogs to this window until it is destroyed.
+  // restart: what this run restores without a question, if an error ended the previous run.
   explicit MainWindow(Program& program, std::optional<Restart> restart = std::nullopt);
   ~MainWindow() override;
 

@@ -20,8 +20,8 @@ namespace orby {
 
 class Recovery {
  public:
-  // keptSlot: the slot to restore first, 1..9; 0 for none. While this object lives, the program can set unsaved changes
-  // aside through it.
+  // Lets the program set unsaved changes aside through this object until it is destroyed.
+  // keptSlot: the slot to restore first, 1..9; 0 for none.
   explicit Recovery(Program& program, int keptSlot = 0);
   ~Recovery();
   Recovery(const Recovery&) = delete;
