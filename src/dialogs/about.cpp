@@ -9,7 +9,7 @@
 namespace orby {
 namespace {
 
-// The day of the last revision, which is not the day of the release.
+// The date of the last revision, which differs from the release date.
 constexpr std::string_view RevisionYear = "2023";
 constexpr std::string_view RevisionMonth = "05";
 constexpr std::string_view RevisionDay = "07";

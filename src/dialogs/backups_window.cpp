@@ -23,7 +23,7 @@ namespace {
 constexpr int HeaderRows = 1;
 constexpr std::array<std::string_view, 4> Headers{"Project", "Time", "Why it was kept", "Size"};
 
-// "812 bytes", "4.2 KB".
+// Returns a size such as "812 bytes" or "4.2 KB".
 std::string SizeText(std::uint64_t bytes) {
   constexpr double Kilobyte = 1024;
   const auto size = static_cast<double>(bytes);
@@ -36,18 +36,18 @@ std::string Named(const Backup& entry) {
   return std::string(NameBehindSeparator(entry.Project)) + " of " + MomentText(entry.Time);
 }
 
-// With one decimal; "--" where there is none or it cannot be computed.
+// Returns the figure with one decimal, or "--" if there is none or it cannot be computed.
 std::string OneDecimal(std::optional<Single> figure) {
   return figure ? FormatNumber(*figure, "0.0") : std::string(NoResult);
 }
 
-// The title as the user typed it: opening a file shifts its header.
+// Returns the title as the user typed it. Opening a file shifts the title and description lines.
 std::string TypedTitle(const UnsavedProject& project) {
   const auto typed = TextsBeforeTheShift({project.ProjectTitle, project.ProjectDescription});
   return typed ? typed->Title : project.ProjectTitle;
 }
 
-// The project's path. An entry that has lost it is taken for one of the data folder.
+// Returns the project's path. If the entry does not know the folder, assumes the data folder.
 std::string PathOf(const Program& program, const Backup& entry) {
   const bool hasFolder = NameBehindSeparator(entry.Project).size() < entry.Project.size();
   return hasFolder ? entry.Project : WithSeparator(program.session.settings.DataPath) + entry.Project;
@@ -130,9 +130,10 @@ void BackupsWindow::ClearProject() {
   }
 }
 
-// A file that is there already is kept first, as before every save. The open project has nothing to do with the file,
-// whatever its name. But the old bytes of a file that a failed save has spoilt are held for the next save, and a file
-// that now holds the backup is spoilt no more.
+// Like every save, backs up a file that is already there. The saved file is separate from the open project, even if it
+// has the same name, so the project's record of its own file is restored. There are two exceptions: the record keeps
+// the old bytes of a file that a failed save has damaged, for the next save; and a file that now holds the backup no
+// longer counts as damaged.
 void BackupsWindow::SaveAs() {
   const FileOnDisk last = program_.project.LastFile;
   SaveRemarks remarks;

@@ -23,7 +23,7 @@ void ConvertDialog::OnOpen() {
   Option1.SetMemberEnabled(PlaceOf(English), other == English);
   Option1.SetMemberEnabled(PlaceOf(Metric), other == Metric);
   SetArrayIndex(program_, Option1, NumberOf(other));
-  // A conversion always loads the result.
+  // The converted project always becomes the open one.
   SetArrayIndex(program_, Option2, LoadConvertedProject);
 }
 
@@ -33,7 +33,7 @@ void ConvertDialog::Convert() {
   } catch (const RuntimeError& error) {
     failure_ = error;
   }
-  // Of a conversion that failed, the fields done so far stay converted.
+  // After a failed conversion, the fields converted so far stay converted.
   converted_();
   ShowMessage(program_, failure_ ? "Error in the Conversion Procedure. Call technical support"
                                  : "Conversion Completed: The conversion form will be closed");

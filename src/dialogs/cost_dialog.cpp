@@ -27,7 +27,7 @@ struct CostField {
   std::string_view Fault;
 };
 
-// In the order in which they are checked.
+// In the order of the checks.
 constexpr std::array CostFields{
     CostField{&CostDialog::txtBoltCost, &CostInputs::BoltCost, "Invalid cost per bolt"},
     CostField{&CostDialog::txtPlateCost, &CostInputs::PlateCost, "Invalid cost per plate"},

@@ -9,7 +9,7 @@ namespace {
 
 std::string_view NoticeText(CurveNotice notice) {
   switch (notice) {
-    // The words say 51 whatever the limit is; at 400 ft it is about 51.5.
+    // The text says 51 whatever the limit is. At 400 ft it is about 51.5.
     case CurveNotice::RatingLimitTrimmed: return "Upper limit for CMRR trimmed to 51";
     case CurveNotice::SpanAdjusted: break;
   }

@@ -11,14 +11,15 @@
 namespace orby {
 namespace {
 
-// Offers one choice of two: the present one always, the other unless the project's choices are locked.
+// Offers one choice of two. The present one is always enabled; the other is disabled while the project's choices are
+// locked.
 void Offer(Program& program, OptionArray& options, Integer present) {
   options.SetAllEnabled(!program.project.UnitsLocked);
   SetArrayIndex(program, options, present);
   options.SetMemberEnabled(static_cast<std::size_t>(present), true);
 }
 
-// A choice that differs starts the design anew, from the values that go with it.
+// A different choice starts a new design with the defaults for that choice.
 template <class Choice>
 void Choose(Program& program, Choice& choice, Choice chosen) {
   if (chosen == choice) return;
@@ -29,7 +30,7 @@ void Choose(Program& program, Choice& choice, Choice chosen) {
 }  // namespace
 
 DescriptionDialog::DescriptionDialog(Program& program) : ProgramForm(program, "frmTULKDesc", "Project Description") {
-  // The table is one of metric bolts.
+  // The Australian table has metric bolts only.
   Option1.Click = [this](Integer index) {
     const UnitSystem units{index};
     if (units == English) Check1.SetValue(0);
@@ -51,7 +52,7 @@ void DescriptionDialog::OnOpen() {
   ShowPutBack();
   Offer(program_, Option1, NumberOf(program_.project.WorkParms.Units));
   Offer(program_, Option2, NumberOf(program_.project.WorkParms.Basis));
-  // Feet leave the box empty, whatever was chosen in a metric project before.
+  // In feet the box stays clear, even if an earlier metric project had it set.
   if (Check1.Enabled()) Check1.SetValue(program_.project.UseAUSStandardTable);
   program_.platform.windows.CenterForm(*this);
 }
@@ -62,13 +63,13 @@ void DescriptionDialog::PutBack() {
     Text2.SetText(before->Description);
   }
   ShowPutBack();
-  // The button has gone, and the keyboard with it.
+  // The hidden button would otherwise keep the focus.
   RequestFocus(Text1);
 }
 
 void DescriptionDialog::ShowPutBack() { cmdPutBack.SetVisible(TextsBeforeTheShift(Typed()).has_value()); }
 
-// What the dialog opened with has been told before, or came from a file that way.
+// Texts that the user has not changed need no warning: they came from a file or were reported before.
 void DescriptionDialog::WarnOfLostLines() {
   if (Text1.Text() == program_.project.ProjectTitle && Text2.Text() == program_.project.ProjectDescription) return;
   std::optional<LostLine> lost;
@@ -90,8 +91,8 @@ void DescriptionDialog::OnClose() {
   AddHistoryLine(program_, CommitOnClose ? history_text::DescriptionModified : history_text::DescriptionNotModified);
 }
 
-// A design that starts anew has neither title nor description: what was typed along with the other choice is in
-// the backups alone.
+// A new design has neither title nor description. If the user typed new ones together with another choice, only the
+// backups keep them.
 void DescriptionDialog::Commit() {
   const bool hasNewTexts =
       Text1.Text() != program_.project.ProjectTitle || Text2.Text() != program_.project.ProjectDescription;

@@ -15,7 +15,7 @@ namespace {
 
 enum Column : int { NumberColumn, NameColumn, RatingColumn, ColumnCount };
 
-// The row of the rock type of this name; the unknown roof, above the manual setting, where there is none.
+// Returns the row of the rock type of this name, or of the unknown roof, which is above the manual row.
 int RowOf(std::span<const RockType> types, std::string_view name) {
   const auto found = std::ranges::find(types, name, &RockType::Name);
   const auto unknown = std::prev(types.end(), 2);
@@ -44,7 +44,7 @@ void EstimatorDialog::OnOpen() {
   CommitOnClose = false;
   const EstimatorState& estimator = program_.windows.estimator;
   SetArrayIndex(program_, optLocation, estimator.EstimatorRegion);
-  // A project file can hold any number here; one that is no row of the grid leaves the first row selected.
+  // A project file can hold any number here. If the grid has no such row, the first row stays selected.
   const int row = estimator.EstimatorRockType;
   if (row >= 0 && row < VSFlexGrid1.Rows()) VSFlexGrid1.SetRow(row);
   ShowEstimate();
@@ -64,8 +64,8 @@ void EstimatorDialog::OnClose() {
   AddHistoryLine(program_, "CMRR Form Modified");
 }
 
-// Region, rock type and rating agree: the rock of the same name is selected in the new region, or the unknown one, and
-// the rating follows. While the dialog opens the row and the rating are still to come.
+// Keeps region, rock type and rating consistent: selects the rock type of the same name in the new region, or the
+// unknown roof, and refreshes the rating. While the dialog opens, OnOpen sets row and rating afterwards.
 void EstimatorDialog::ShowRegion(Integer region) {
   for (Picture& picture : Picture1) picture.SetVisible(false);
   Picture1[static_cast<std::size_t>(region)].SetVisible(true);

@@ -47,8 +47,8 @@ void FontDialog::OnOpen() {
   ShowSample();
 }
 
-// A size outside the range counts as its nearer end: it may be one that is still being typed. One beyond a Single
-// counts as the least.
+// A size out of range counts as the nearest allowed one, because the user may still be typing. A size that no Single
+// can hold counts as the smallest.
 FontChoice FontDialog::Chosen() const {
   const int index = lstFont.ListIndex();
   const double size = std::clamp(FittingNumber(txtSize.Text()).value_or(SmallestSize), SmallestSize, LargestSize);

@@ -92,7 +92,7 @@ std::string CurveTitle(Integer curveIndex) {
 }
 
 void ApplyTitlesAndGrid(const GraphSettings& graph, Integer curveIndex, Chart& chart) {
-  // Horizontal lines stand on the vertical axis, and the other way round.
+  // Horizontal lines belong to the vertical axis, and vertical lines to the horizontal one.
   chart.SetAxisX({At(graph.XAxisTitle, curveIndex), (graph.GridStyle & grid_style::Vertical) != 0});
   chart.SetAxisY(
       {At(graph.YAxisTitle, DependentVariable(curveIndex)), (graph.GridStyle & grid_style::Horizontal) != 0});

@@ -12,7 +12,7 @@ namespace {
 constexpr Integer DefaultFormat = 0;
 constexpr Integer LastUsedFormat = 1;
 
-// Graph styles count from 1, the items of their list from 0.
+// Graph styles count from 1, the items of the list from 0.
 constexpr Integer FirstStyle = graph_style::LinesOnly;
 
 }  // namespace
@@ -53,7 +53,7 @@ void GraphOptionsDialog::FillFields() {
 
 void GraphOptionsDialog::ChooseFormat(Integer option) {
   if (option == DefaultFormat) {
-    // The default titles are in force from here on; a cancelled dialog does not bring the others back.
+    // The default titles apply at once. Cancelling the dialog does not restore the previous ones.
     program_.session.graph.GraphSetParams = DefaultFormat;
     ComposeAxisTitles(program_);
     FillFields();

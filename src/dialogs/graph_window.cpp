@@ -21,10 +21,10 @@ enum class GraphFileEntry : Integer { Print = 0, Export = 2, Exit = 4 };
 enum class GraphOptionsEntry : Integer { PointID, BasicOptions };
 
 constexpr double ReadOutDistance = 4;  // pixels
-constexpr double HoleValue = 1e308;    // stands for a point that is not there
+constexpr double HoleValue = 1e308;    // marks a missing point
 constexpr NumberPattern CoordinateFormat{"##0.00"};
 
-// The points that were swept, both coordinates of each in double precision.
+// Returns the computed points, with both coordinates in double precision.
 ChartSeries PointsOf(const Curve& curve) {
   const auto count = static_cast<std::size_t>(curve.CurvePointCount);
   const auto& [xs, ys] = curve.CurvePoints;
@@ -113,7 +113,7 @@ void GraphWindow::ReadOut(const ChartHit& hit) {
     ClearReadOut();
     return;
   }
-  // Away from every point the last one read off stays.
+  // Away from every point, the read-out keeps the last one.
   if (!IsPoint(graph1.Series(), hit) || hit.distance >= ReadOutDistance) return;
   const ChartSeries& series = graph1.Series()[static_cast<std::size_t>(hit.series)];
   const auto point = static_cast<std::size_t>(hit.point);

@@ -24,8 +24,8 @@ using Default = std::variant<Integer DesignDefaults::*, Single DesignDefaults::*
 
 struct DefaultField {
   OptionsControls::Numbers OptionsControls::*Boxes;
-  std::array<Default, 2> Members;  // English, Metric; the same one twice where both pages edit it
-  std::string_view Fault = {};     // none: any value that can be stored will do
+  std::array<Default, 2> Members;  // English, Metric; twice the same one if both pages edit it
+  std::string_view Fault = {};     // empty if every storable value is valid
   double Highest = std::numeric_limits<double>::infinity();
 };
 
@@ -35,7 +35,7 @@ constexpr double MostBolts = std::numeric_limits<Integer>::max();
 using C = OptionsControls;
 using D = DesignDefaults;
 
-// In the order in which they are checked.
+// In the order of the checks.
 constexpr std::array DefaultFields{
     DefaultField{
         &C::txtStabilityFactor, {&D::DefaultStabilityFactor, &D::DefaultStabilityFactor}, "Invalid stability factor"},
@@ -86,10 +86,10 @@ constexpr std::array Preferences{
 };
 
 constexpr std::array<std::size_t, 2> Pages{PlaceOf(English), PlaceOf(Metric)};
-// Where both pages edit one value, the English page has the last word.
+// Where both pages edit one value, the English page is stored last.
 constexpr std::array<std::size_t, 2> PagesAsStored{PlaceOf(Metric), PlaceOf(English)};
 
-// Of the grids of cables, so that diameters and capacities share their room.
+// For the cable grids, so that diameters and capacities get equal widths.
 constexpr int CapacityColumnWidth = 2000;
 
 void Take(double value, Single& target) { target = ToSingle(value); }
@@ -209,7 +209,7 @@ DesignDefaults OptionsDialog::EditedDefaults() const {
   return defaults;
 }
 
-// All or nothing.
+// Stores everything or, on an error, nothing.
 void OptionsDialog::Store() {
   const DesignDefaults defaults = EditedDefaults();
   Catalogs catalogs = program_.session.catalogs;

@@ -14,7 +14,7 @@
 namespace orby {
 namespace {
 
-// The columns of the grids, behind the number of the row.
+// The columns of the grids after the row number.
 enum CableColumn : int { CableDiameter, CableCapacity };
 enum SupportColumn : int { SupportName, SupportCapacity };
 
@@ -51,13 +51,13 @@ Single NumberAt(const OverlayEditing& grid, int entry, int column) {
 
 Integer HighestIndexOf(const OverlayEditing& grid) { return ToInteger(grid.Entries() - 1); }
 
-// A capacity in tons and kN, the latter in whole kN as in the built-in catalog.
+// Returns a capacity in tons and kN. The kN are whole, as in the built-in catalog.
 std::array<Single, 2> BothCapacities(Single capacity, UnitSystem units) {
   if (units == Metric) return {ToSingle(capacity / KilonewtonsPerTon), capacity};
   return {capacity, ToSingle(std::floor(capacity * KilonewtonsPerTon))};
 }
 
-// Whether the number can be stored, in the other unit system too.
+// Returns true if the number can be stored in both unit systems.
 bool Fits(const std::string& text) {
   const auto number = FittingNumber(text);
   return number && Succeeds([&] { static_cast<void>(BothCapacities(ToSingle(*number), English)); });
@@ -128,7 +128,7 @@ void OptionsDialog::ResizeCables(std::size_t units) {
   }
 }
 
-// A cable is as strong as its capacity says.
+// Stores the capacity as the strength of a cable, too.
 void OptionsDialog::StoreCables(Catalogs& catalogs) const {
   for (std::size_t units = 0; units < cables_.size(); ++units) {
     const OverlayEditing& grid = cables_[units];
@@ -163,7 +163,7 @@ void OptionsDialog::TieStands() {
   };
 }
 
-// Capacities are shown in the units of the project.
+// Shows capacities in the project's units.
 void OptionsDialog::FillStands() {
   const StandingSupports& supports = program_.session.catalogs.StandSupports;
   const auto count = static_cast<std::ptrdiff_t>(supports.HighestIndex) + 1;
@@ -185,7 +185,7 @@ void OptionsDialog::ResizeStands() {
   supports.DefaultStandSupportCap.resize(count);
 }
 
-// A capacity that has been changed counts in both unit systems, the others keep the pair that they came with.
+// A changed capacity is converted to the other unit system. Unchanged capacities keep their original pair.
 void OptionsDialog::StoreStands(Catalogs& catalogs) const {
   StandingSupports& supports = catalogs.StandSupports;
   const UnitSystem units = program_.project.WorkParms.Units;

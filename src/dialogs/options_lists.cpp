@@ -16,7 +16,7 @@ namespace orby {
 namespace {
 
 struct BoltCatalog {
-  std::array<CatalogList Catalogs::*, bolt_list::Count> Lists;  // none where the catalog has no such list
+  std::array<CatalogList Catalogs::*, bolt_list::Count> Lists;  // null if the catalog has no such list
   void (*SetBuiltIn)(Catalogs& catalogs);
 };
 
@@ -25,11 +25,11 @@ constexpr std::array<BoltCatalog, bolt_catalog::Count> BoltCatalogs{{
      SetDefaultBoltsENG},
     {{&Catalogs::DefaultBoltGradeArrayMET, &Catalogs::DefaultBoltUTSArrayMET, &Catalogs::DefaultBoltDiamArrayMET},
      SetDefaultBoltsMET},
-    // These two hold each other's contents.
+    // The members' names are swapped: the DiamArray holds the strengths and the UTSArray the diameters.
     {{nullptr, &Catalogs::DefaultBoltDiamArrayMETAUS, &Catalogs::DefaultBoltUTSArrayMETAUS}, SetDefaultBoltsMET},
 }};
 
-// What the messages call the lists, inside a sentence and at its beginning.
+// The names of the lists in messages: inside a sentence and at its start.
 struct ListName {
   std::string_view Inside;
   std::string_view First;
@@ -42,7 +42,8 @@ std::size_t ChosenList(const BoltListControls& controls) {
   return static_cast<std::size_t>(GetArrayIndex(controls.optBolt));
 }
 
-// Why the text cannot join the list; empty when it can. A full list says so even to what it holds already.
+// Returns the reason why the text cannot join the list, or an empty text. A full list takes precedence over a
+// duplicate.
 std::string Objection(const BoltListControls& controls, std::size_t list) {
   const std::string& text = controls.txtItem.Text();
   const auto& items = controls.lists[list]->Items();
@@ -70,7 +71,7 @@ void OptionsDialog::TieBolts(std::size_t catalog) {
   }
 }
 
-// So Delete acts on the entry that was selected last, not on one that another list still marks.
+// Selects the list, so that Delete acts on the entry selected last and not on one that another list still highlights.
 void OptionsDialog::ChooseBolts(std::size_t catalog, std::size_t list) {
   SetArrayIndex(program_, bolts[catalog].optBolt, static_cast<Integer>(list));
 }
@@ -104,7 +105,7 @@ void OptionsDialog::AddBolt(std::size_t catalog) {
   list.ClickItem(static_cast<int>(list.Items().size()) - 1);
 }
 
-// The selection stays at its place, or goes to the last entry.
+// Keeps the selected position, or selects the last entry.
 void OptionsDialog::DeleteBolt(std::size_t catalog) {
   BoltListControls& controls = bolts[catalog];
   const std::size_t chosen = ChosenList(controls);
@@ -121,7 +122,7 @@ void OptionsDialog::DeleteBolt(std::size_t catalog) {
   if (last >= 0) list.ClickItem(std::min(deleted, last));
 }
 
-// The built-in values of the other catalogs that come with these stay out of it.
+// The built-in values of the other catalogs are not taken over.
 void OptionsDialog::ResetBolts(std::size_t catalog) {
   Catalogs builtIn = program_.session.catalogs;
   BoltCatalogs[catalog].SetBuiltIn(builtIn);

@@ -1,5 +1,5 @@
-// The checks behind OK and Results of the parameters dialog: twelve sections of rules, each a table.
-// Within a section the first fault ends it; every section runs, so one press can tell up to twelve faults.
+// The checks of OK and Results in the parameters dialog: twelve sections of rules, each a table. A section ends at its
+// first fault. Every section runs, so one press can show up to twelve faults.
 #include <cmath>
 #include <span>
 
@@ -28,7 +28,7 @@ struct Rule {
   std::string_view message;
   Control& (*focus)(D&);
   std::string (*suffix)(const D&) = nullptr;  // appended to the message
-  InnerTab inner = {};                        // instead of the section's
+  InnerTab inner = {};                        // overrides the section's
 };
 
 struct Section {
@@ -73,7 +73,7 @@ Control& At(D& d) {
   return (d.*set).*control;
 }
 
-// Throws RuntimeError 6 when no Single holds the number: the rule that asks for it fails then.
+// Throws RuntimeError 6 if no Single can hold the number. The rule then counts as failed.
 double Value(const TextBox& box) {
   const auto value = FittingNumber(box.Text());
   if (!value) throw RuntimeError(error_number::Overflow);
@@ -87,7 +87,7 @@ double Value(const D& d) {
 
 bool Is(const OptionArray& options, Integer index) { return GetArrayIndex(options) == index; }
 
-// From the list, which is to be chosen from, nothing is.
+// Returns true if the value comes from the list and nothing is selected there.
 bool NothingSelected(const OptionArray& mode, const Combo& list) { return Is(mode, 0) && !list.HasSelection(); }
 
 // ---- rules ---------------------------------------------------------------------------------------------------------
@@ -128,7 +128,7 @@ constexpr Rule GradeSelected(Control& (*focus)(D&) = At<set, &BoltControls::Grad
           "Roof bolt grade NOT selected from available options", focus};
 }
 
-// The upper limit counts with the table as source too: a stale typed diameter stops a design from the table.
+// The upper limit applies even if the bolt comes from the table: an old typed diameter then blocks the design.
 template <Bolts set>
 bool BadTypedDiameter(const D& d) {
   const BoltControls& bolt = d.*set;
@@ -170,7 +170,7 @@ constexpr Rule CableCapacitySelected(InnerTab inner = {}) {
       "Cable Capacity not Selected from Available Options", At<set, &CableControls::CapacityStd>, nullptr, inner};
 }
 
-// A blanked list keeps its selection, but shows nothing to go by.
+// A list whose text was cleared keeps its selection, but shows no name to look up.
 template <Supports set>
 constexpr Rule SupportSelected(InnerTab inner = {}) {
   return {[](const D& d) {
@@ -205,7 +205,7 @@ constexpr Rule GeneralRules[] = {
         "Invalid sum of diagonals at intersection. Should be between 13 and 27 m"),
     {[](const D& d) { return d.Units() == English && Value<&D::txtEntryWidth>(d) <= 10; },
      "Invalid entry width. Should be greater than 10 ft", At<&D::txtEntryWidth>},
-    // The limit is in metres although the words say feet.
+    // The limit is in metres although the message says feet.
     {[](const D& d) { return d.Units() == Metric && Value<&D::txtEntryWidth>(d) <= 3.3; },
      "Invalid entry width. Should be greater than 3.3 ft", At<&D::txtEntryWidth>},
 };
@@ -236,7 +236,7 @@ constexpr Rule EntryCableRules[] = {
     CableCapacitySelected<&D::EntryCableControls>(),
 };
 
-// A bad angle takes the user to the cable capacity of the entries, on another tab: in both truss sections.
+// In both truss sections a bad angle moves the focus to the cable capacity of the entries, on another tab.
 template <auto angle>
 constexpr Rule TrussAngle() {
   return ZeroTo<angle, 90>("Invalid truss member angle", At<&D::EntryCableControls, &CableControls::CapacityManual>);
@@ -260,7 +260,7 @@ constexpr Rule EntryBoltRules[] = {
 };
 
 constexpr Rule EntryStandingRules[] = {
-    // A missing choice turns the intersections' inner tabs instead of the entries'.
+    // A missing choice switches the intersections' inner tabs instead of the entries'.
     SupportSelected<&D::EntryStandingControls>({&D::SSTab3, 3}),
     SupportCapacity<&D::EntryStandingControls>(),
     AboveZero<&D::txtNumberSupPerRowSecEntry>("Invalid standing supports per row"),
@@ -277,7 +277,7 @@ constexpr Rule InterCableRules[] = {
     AboveZero<&D::txtCableLengthSecInter>(BadCableLength),
     CableCapacity<&D::InterCableControls>(),
     AboveZero<&D::txtCableNumberSecInter>("Invalid number of cable bolts"),
-    // A missing choice turns the entries' inner tabs instead of the intersections'.
+    // A missing choice switches the entries' inner tabs instead of the intersections'.
     CableDiameterSelected<&D::InterCableControls>({&D::SSTab2, 0}),
     CableCapacitySelected<&D::InterCableControls>({&D::SSTab2, 0}),
 };
@@ -293,7 +293,7 @@ constexpr Rule InterBoltRules[] = {
     BoltLength<&D::txtBoltLengthSecInter>(),
     AboveZero<&D::txtBoltNumberSecInter>("Invalid number of bolts in intersection"),
     DiameterSelected<&D::InterBoltControls>(),
-    // A missing grade takes the user to the list of diameters.
+    // A missing grade moves the focus to the list of diameters.
     GradeSelected<&D::InterBoltControls>(At<&D::InterBoltControls, &BoltControls::DiameterStd>),
     TypedDiameter<&D::InterBoltControls>(),
     TypedGrade<&D::InterBoltControls>(BadSecondaryGrade),
@@ -335,7 +335,7 @@ constexpr Section Sections[] = {
     {InterSystem<3>, 3, {&D::SSTab3, 3}, InterStandingRules},
 };
 
-// What cannot be judged, because a number is too large for any limit, fails.
+// A rule that cannot be evaluated, because a number is too large, counts as failed.
 bool Fails(const Rule& rule, const D& dialog) {
   return OrNothing([&] { return std::optional(rule.fails(dialog)); }).value_or(true);
 }

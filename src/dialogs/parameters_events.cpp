@@ -6,7 +6,7 @@
 namespace orby {
 namespace {
 
-// A table is on view on its own tab only.
+// The table is visible only on its own tab.
 void ShowBoltFrames(BoltControls& bolt) {
   const bool manual = GetArrayIndex(bolt.Options) == 1;
   bolt.TableFrame.SetVisible(!manual && bolt.Tabs.Tab() == bolt.Tab);
@@ -48,8 +48,8 @@ void TakeCapacity(StandingControls& standing) {
 
 }  // namespace
 
-// The gaps are known to the users: the entry width does not refresh the suggestions or the intersections, the lengths
-// of secondary bolts and truss members refresh nothing.
+// Some changes refresh less than one would expect, and users know that: the entry width refreshes neither the
+// suggestions nor the intersections, and the lengths of secondary bolts and truss members refresh nothing.
 struct ParametersDialog::RefreshTable {
   using D = ParametersDialog;
   static constexpr Refreshes Nothing{};

@@ -1,4 +1,4 @@
-// The live results of the parameters dialog: from the fields as typed to the outputs.
+// The live results of the parameters dialog: from the typed fields to the outputs.
 #include "base/text.h"
 #include "core/shared_texts.h"
 #include "dialogs/parameters_dialog.h"
@@ -19,7 +19,7 @@ void Clear(OutputControls& outputs) {
   }
 }
 
-// Shows the rock load and what each system in use gives; a system without a result keeps what it shows.
+// Shows the rock load and the results of each system in use. A system without a result keeps its old outputs.
 void Show(OutputControls& outputs, const SupportFigures& figures, const NumberPattern& pattern) {
   const std::optional<Single> rockLoad = figures.RockLoad.ValueOr({});
   if (!rockLoad) return Clear(outputs);
@@ -45,7 +45,7 @@ void ParametersDialog::ShowSuggested() {
   ReadPart(DesignPart::Primary);
   const std::optional<SuggestedFigures> figures = LiveSuggestion(typed_).ValueOr({});
   if (!figures) return Show(txtSugPSUP, NoResult);
-  // Metric designs have no live span warnings; the box stays as it is.
+  // Metric designs have no live span warnings. The box keeps its text.
   if (Units() == English) {
     std::string warnings("WARNINGS:");
     warnings += LineEnd;
@@ -83,7 +83,7 @@ void ParametersDialog::ShowIntersections() {
   ReadPart(DesignPart::Place);
   ReadPart(DesignPart::Intersections);
   const Single unitWeight = typed_.Place.UnitWeight;
-  // A bad unit weight clears the entries' results and leaves the intersections' as they are.
+  // A bad unit weight clears the entries' results and leaves the intersections' unchanged.
   if (!IsUnfit(unitWeight) && !UnitWeightIsPlausible(unitWeight, Units())) return Clear(EntryOutputs);
   Show(InterOutputs, IntersectionFigures(typed_, program_.session.catalogs), IntersectionPattern);
 }

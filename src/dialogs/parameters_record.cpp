@@ -1,4 +1,4 @@
-// The parameters dialog and the design: filling the fields, and reading them back.
+// Transfers a design to the fields of the parameters dialog and back.
 #include <array>
 #include <span>
 #include <utility>
@@ -85,7 +85,7 @@ constexpr FlagField FlagFields[] = {
     {&C::chkSecondSupInter, [](auto& d) { return &d.Intersections.Analysed; }},
 };
 
-// Reads numbers into the typed design, and remembers those that do not fit.
+// Reads numbers into the typed design and collects those that do not fit.
 class NumberReader {
  public:
   void Read(Single& number, const TextBox& box) {
@@ -97,7 +97,7 @@ class NumberReader {
   void Read(Single& number, const Control& field, std::string_view text) {
     Take(number, field, [text] { return ToSingle(TextValue(text)); });
   }
-  // A record keeps the rating as a whole number of 16 bits.
+  // Records store the rating as a 16-bit whole number.
   void ReadRating(Single& number, const TextBox& box) {
     Take(number, box, [&box] { return ToInteger(box.Value()); });
   }
@@ -134,7 +134,7 @@ void LoadCable(Program& program, const CableSelection& set, CableControls& cable
   cable.CapacityManual.SetText(NumberText(set.CapacityManual));
 }
 
-// The stored capacity comes last: choosing the name would put the catalog's capacity in its place.
+// Sets the stored capacity last, because choosing the name replaces it by the catalog's capacity.
 void LoadStanding(Program& program, const StandingSelection& set, StandingControls& standing) {
   SetArrayIndex(program, standing.TypeMode, set.TypeMode);
   if (set.TypeMode == 0) {
@@ -184,7 +184,7 @@ void StoreUse(SecondarySupport& support, const std::array<CheckBox, SystemCount>
   for (std::size_t i = 0; i < SystemCount; ++i) systems[i]->Use = boxes[i].Value();
 }
 
-// The outputs are read back as they are shown, rounded; "--" reads as 0.
+// Reads the outputs as shown: rounded, and "--" as 0.
 void StoreOutputs(SecondarySupport& support, NumberReader& reader, const OutputControls& outputs) {
   const auto systems = support.Systems();
   reader.Read(support.RockLoad, outputs.RockLoad[0]);

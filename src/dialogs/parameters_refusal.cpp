@@ -1,4 +1,4 @@
-// What the parameters dialog says when a number is typed that the project cannot hold, and where it takes the user.
+// The refusal of a number that the project cannot hold.
 #include "core/messages.h"
 #include "dialogs/fault_texts.h"
 #include "dialogs/parameters_dialog.h"
@@ -6,7 +6,7 @@
 namespace orby {
 namespace {
 
-// The first control of a page, in the order of the controls.
+// The first control of a tab page, in the order of the controls.
 struct PageStart {
   std::string_view control;
   int outerTab;
@@ -41,7 +41,7 @@ std::string ShownText(const Control& control) {
 
 }  // namespace
 
-// A field's label, or the frame that it stands in, is the nearest one before it.
+// A field is named by the nearest label before it.
 void ParametersDialog::TellRefused(const Control& field) {
   const PageStart* page = Pages;
   std::string_view caption;

@@ -8,7 +8,7 @@
 namespace orby {
 namespace {
 
-// What the pages of this design are made from.
+// Returns the inputs from which the pages of this design are made.
 ReportBasis BasisOf(const Program& program, const Design& design) {
   return {design.Support(), UsesAustralianTable(program.project), program.session.catalogs};
 }
@@ -27,7 +27,7 @@ void BuildProjectReport(Program& program) {
   if (last && last->MadeFrom == BasisOf(program, design)) {
     TakeCalculationPage(program, last->Page);
   } else {
-    TakeMetricCables(design);  // which stays so in a design that cannot be shown
+    TakeMetricCables(design);  // applies even if the design cannot be shown
     const bool isComputed = Succeeds([&] {
       design = AsReported(program.project, program.session.catalogs);
       TakeCalculationPage(program, CalculationReport(design, program.session.catalogs));

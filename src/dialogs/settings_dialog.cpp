@@ -49,10 +49,10 @@ constexpr std::array TextFields{
 
 bool IsLetterOrDigit(char c) { return (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9'); }
 
-// The folder of the path; none for a bare name.
+// Returns the folder of the path, or an empty text for a bare name.
 std::string FolderOf(const std::string& path) { return path.substr(0, path.size() - NameBehindSeparator(path).size()); }
 
-// Sets the field to the answer of a dialog of the system. A cancelled dialog leaves it as it is.
+// Sets the field to the answer of a system dialog. If the user cancels, the field stays unchanged.
 template <class Ask>
 void TakeAnswer(TextBox& field, const Ask& ask) {
   try {
@@ -139,7 +139,7 @@ void SettingsDialog::ChooseHistoryFont() {
 bool SettingsDialog::Check() { return CheckPath() && CheckHistorySize() && CheckExtension(); }
 
 bool SettingsDialog::CheckPath() {
-  // A blank path is the root of the file system.
+  // An empty path means the root of the file system.
   Text2.SetText(WithSeparator(Text2.Text()));
   if (ValidPath(program_, Text2.Text(), true)) return true;
   ShowMessage(program_, "Invalid Path for Data Files", BoxButtons::Ok, program_.windows.titles.ErrorTitle);

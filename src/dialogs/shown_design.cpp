@@ -19,7 +19,7 @@ bool HasKnownChoices(const BoltSelection& set) {
   return IsKnown(set.Options) && IsKnown(set.DiameterMode) && IsKnown(set.GradeMode);
 }
 
-// Metric designs have but one way to a cable's capacity, whatever is stored.
+// In Metric designs the stored way of choosing a cable's capacity does not matter.
 bool HasKnownChoices(const SecondarySupport& support, UnitSystem units) {
   return (units == Metric || IsKnown(support.Cable.CapMode)) && IsKnown(support.Cable.Capacity) &&
          IsKnown(support.Standing.TypeMode);
@@ -53,7 +53,7 @@ void TakeManual(BoltSelection& set, const BoltSelection& manual) {
   set.GradeManual = manual.GradeManual;
 }
 
-// Both cable diameters are the entries tab's; the intersections tab's own serves the live results alone.
+// Both cable diameters come from the entries tab. The one on the intersections tab serves only the live results.
 void TakeCableDiameter(RoofSupport& typed) { typed.Intersections.Cable.Diam = typed.Entries.Cable.Diam; }
 
 }  // namespace

@@ -16,9 +16,9 @@ namespace orby {
 namespace {
 
 constexpr std::string_view TemporaryCopy = "~tmpbr.tmp";
-constexpr std::size_t Indent = 2;  // blanks, for each folder further down
+constexpr std::size_t Indent = 2;  // spaces per folder level
 
-// The drive that the path lies on: the innermost of those that it begins with.
+// Returns the drive of the path: the innermost drive that is a prefix of it.
 std::string DriveOf(const std::vector<std::string>& drives, const std::string& path) {
   std::string found;
   for (const std::string& drive : drives) {
@@ -27,7 +27,7 @@ std::string DriveOf(const std::vector<std::string>& drives, const std::string& p
   return found;
 }
 
-// The folders from the drive down to the path, both included.
+// Returns the folders from the drive down to the path, including both.
 std::vector<std::string> FolderChain(const std::string& drive, const std::string& path) {
   std::vector<std::string> chain{drive};
   const std::string whole = WithSeparator(path);
@@ -37,13 +37,13 @@ std::vector<std::string> FolderChain(const std::string& drive, const std::string
   return chain;
 }
 
-// The folder that the path lies in; the root lies in itself.
+// Returns the folder that contains the path. The root contains itself.
 std::string FolderAbove(const std::string& path) {
   const std::size_t end = path.size() - NameBehindSeparator(path).size();
   return end <= 1 ? std::string(1, FolderSeparator) : path.substr(0, end - 1);
 }
 
-// The one path of a folder: no separator at the end but that of the root.
+// Returns the path without a trailing separator, except for the root.
 std::string FolderName(const std::string& path) {
   const std::string name(WithoutSeparator(path));
   return name.empty() ? std::string(1, FolderSeparator) : name;
@@ -103,7 +103,7 @@ void TextBrowser::OnClose() {
 
 // ---- drives and folders --------------------------------------------------------------------------------------------
 
-// A folder that is gone by now gives way to the one above it.
+// If a folder no longer exists, opens the nearest parent that does.
 void TextBrowser::GoToLastFolder() {
   const std::string& last = program_.session.textBrowse.LastFolder;
   drives_ = program_.platform.files.Drives();
@@ -162,7 +162,7 @@ void TextBrowser::ShowFolders(const std::vector<std::string>& folders) {
 }
 
 void TextBrowser::ShowFiles() {
-  if (folder_.empty()) return;  // no folder of the machine can be read
+  if (folder_.empty()) return;  // none of the machine's folders could be read
   filePaths_ = program_.platform.files.FilesIn(folder_);
   std::erase_if(filePaths_, [this](const std::string& path) {
     return !MatchesFilePattern(NameBehindSeparator(path), Text2.Text());
@@ -230,7 +230,7 @@ void TextBrowser::LoadLater() {
   });
 }
 
-// A file may have grown since its length was asked for, and some have none beforehand.
+// Checks the length again: a file may have grown since the first check, and some report no length.
 void TextBrowser::LoadNextPiece(const Loading& loading) {
   const std::string piece = loading.file->Read(PieceBytes);
   const std::uint64_t length = RichTextBox1.Bytes().size() + piece.size();

@@ -38,7 +38,7 @@ std::string AgeText(Date today) {
          "Check for an updated version by visiting the program web page below or click on 'Check for updates'.  ";
 }
 
-// "12,345", the last thousand begun counting as a whole one.
+// Returns the thousands of bytes, rounded up, such as "12,345".
 std::string Thousands(std::uint64_t bytes) {
   const std::uint64_t thousands = (bytes + 999) / 1000;
   std::string digits = NumberText(static_cast<double>(thousands));
@@ -154,7 +154,7 @@ void UpdateDialog::Download() {
 
 void UpdateDialog::FetchSetup() {
   downloadedSum_.clear();
-  downloadFailed_ = true;  // until it has come to its end
+  downloadFailed_ = true;  // until the download completes
   ProgressBar1.SetValue(0);
   lblbytes.SetCaption({});
   const std::string folder = DownloadFolder(program_.session);

@@ -21,14 +21,14 @@ constexpr std::size_t SumLength = 64;
 
 constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
 
-// What editors and spreadsheets like to put around a text.
+// Removes the spaces and quotation marks that editors and spreadsheets put around a text.
 std::string_view WithoutWrapping(std::string_view text) {
   constexpr std::string_view Wrapping = " \t\"'";
   text.remove_prefix(std::min(text.find_first_not_of(Wrapping), text.size()));
   return text.substr(0, text.find_last_not_of(Wrapping) + 1);
 }
 
-// The next field of a line, as far as a comma.
+// Removes the field before the next comma from the line and returns it.
 std::string_view TakeField(std::string_view& line) {
   const std::string_view field = line.substr(0, line.find(','));
   line.remove_prefix(std::min(field.size() + 1, line.size()));
@@ -40,7 +40,7 @@ bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 bool IsHexadecimal(char c) { return IsDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); }
 bool IsVersionCharacter(char c) { return IsDigit(c) || IsLetter(c) || c == '.' || c == '-' || c == '_' || c == '+'; }
 
-// The version becomes a part of an address and of the name of a file that is started: nothing may lead elsewhere.
+// The version becomes part of an address and of the name of a file that is started, so it must not lead elsewhere.
 bool IsVersion(std::string_view text) {
   return !text.empty() && text.size() <= MostVersionLength && std::ranges::all_of(text, IsVersionCharacter) &&
          text.find("..") == std::string_view::npos;
@@ -64,7 +64,7 @@ std::optional<OfferedVersion> ReadVersionFile(std::string_view bytes) {
   const std::string_view version = TakeField(line);
   const std::string_view second = TakeField(line);
   if (!IsVersion(version)) return std::nullopt;
-  // Without one it may be the first of the next line, where remarks may stand too.
+  // If the second field is no checksum, the first field of the next line may be one. That line may also be a remark.
   std::string_view sum = second;
   if (!IsSum(sum)) {
     line = TakeLine(bytes);

@@ -12,7 +12,7 @@ constexpr std::uint64_t MostVersionBytes = 64 * 1024;
 
 VersionAnswer AnswerOf(Program& program, FetchEnd end) {
   VersionAnswer answer{end, std::nullopt};
-  if (end != FetchEnd::Done) return answer;  // what lies there then is of another day
+  if (end != FetchEnd::Done) return answer;  // a file there now is from an earlier fetch
   Succeeds(
       [&] { answer.offered = ReadVersionFile(program.platform.files.ReadFile(VersionFilePath(program.session))); });
   if (answer.offered && answer.offered->hasOtherField) {
