@@ -1,4 +1,5 @@
-// Checked arithmetic: what cannot be computed raises its run-time error, so no infinity and no NaN is ever stored.
+// Checked arithmetic. A result that cannot be computed is a RuntimeError, so that no infinity and no NaN is ever
+// stored.
 #pragma once
 
 #include <cmath>
@@ -15,48 +16,51 @@ inline constexpr double RadiansPerDegree = 0.017453292519943278;
 [[noreturn]] void ThrowOverflow();
 [[noreturn]] void ThrowDivisionByZero();
 
-// The result. Throws RuntimeError 6 when it is beyond a Double.
+// Returns `result`. Throws RuntimeError 6 when it is outside the range of a Double.
 inline double WithinDouble(double result) {
   if (!std::isfinite(result)) ThrowOverflow();
   return result;
 }
 
-// dividend / divisor. Throws RuntimeError 11 when the divisor is 0, 6 when the quotient is beyond a Double.
+// Returns dividend / divisor. Throws RuntimeError 11 when the divisor is 0, and 6 when the quotient is outside the
+// range of a Double.
 inline double Divide(double dividend, double divisor) {
   if (divisor == 0) ThrowDivisionByZero();
   return WithinDouble(dividend / divisor);
 }
 
-// ln x. Throws RuntimeError 5 when x is 0 or less.
+// Returns ln x. Throws RuntimeError 5 when x is 0 or less.
 double Logarithm(double x);
 
-// Throws RuntimeError 5 when x is negative.
+// Returns the square root of x. Throws RuntimeError 5 when x is negative.
 double SquareRoot(double x);
 
-// Throws RuntimeError 6 when the product is beyond a Double.
+// Returns a * b. Throws RuntimeError 6 when the product is outside the range of a Double.
 double Multiply(double a, double b);
 
-// x times itself. Throws RuntimeError 6 when that is beyond a Double.
+// Returns x * x. Throws RuntimeError 6 when the product is outside the range of a Double.
 double Square(double x);
 
-// Nearest Single. Throws RuntimeError 6 when the value lies beyond the range of a Single or is no number.
+// Returns the nearest Single. Throws RuntimeError 6 when the value is outside the range of a Single or is a NaN.
 inline Single ToSingle(double value) {
-  // From half a unit beyond the largest Single on, the nearest Single would be infinity.
+  // The largest Single plus half a unit in its last place. The nearest Single of this and of anything larger is
+  // infinity.
   constexpr double FirstBeyond = 3.4028235677973366e38;
   if (!(std::abs(value) < FirstBeyond)) ThrowOverflow();
   return static_cast<Single>(value);
 }
 
-// Nearest whole number, ties to even, as a 16-bit integer. Throws RuntimeError 6 outside -32768..32767.
+// Returns the nearest whole number as a 16-bit integer, ties to even. Throws RuntimeError 6 outside -32768..32767.
 Integer ToInteger(double value);
 
-// Nearest whole number, ties to even, however large.
+// Returns the nearest whole number, ties to even. There is no limit on its size.
 double RoundHalfEven(double value);
 
-// Base-10 logarithm; 1 when x is 0. Throws RuntimeError 5 when x is negative.
+// Returns the base-10 logarithm of x, or 1 when x is 0. Throws RuntimeError 5 when x is negative.
 double Log10Of(double x);  // a helper that nothing calls today
 
-// value, or minimum when it lies outside minimum..maximum: too much falls to the minimum as well.
+// Sets `value` to `minimum` when it is outside minimum..maximum, also when it is above the maximum. Returns it rounded
+// to the nearest whole number, ties to even. Throws RuntimeError 6 when that does not fit 16 bits.
 Integer ClampRange(double& value, double minimum, double maximum);
 
 Single MaxSingle(Single a, Single b);      // a helper that nothing calls today

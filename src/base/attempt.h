@@ -1,4 +1,4 @@
-// Acts whose failure has an answer of its own.
+// Calls whose RuntimeError is an expected result.
 #pragma once
 
 #include <optional>
@@ -7,7 +7,7 @@
 
 namespace orby {
 
-// Runs the act. Returns false if it ended in a RuntimeError, which is dropped.
+// Calls `act`. Returns true if it completed, and false if it threw a RuntimeError, which is dropped.
 template <class Act>
 bool Succeeds(const Act& act) {
   try {
@@ -18,7 +18,8 @@ bool Succeeds(const Act& act) {
   }
 }
 
-// Returns the optional of the computation; nothing when it ends in a RuntimeError. Costs nothing while it does not.
+// Returns the optional that `compute` returns, or nothing when it throws a RuntimeError. Without an error this costs no
+// more than the call.
 template <class Compute>
 auto OrNothing(const Compute& compute) -> decltype(compute()) {
   try {

@@ -9,7 +9,7 @@
 namespace orby {
 namespace {
 
-// Code points of the bytes 80 to 9F; every other byte stands for its own number.
+// Code points of the bytes 80 to 9F. Every other byte is the code point of the same number.
 constexpr std::array<char16_t, 32> UpperControls{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
                                                  0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
                                                  0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
@@ -22,7 +22,7 @@ bool IsAscii(std::string_view bytes) {
   return std::all_of(bytes.begin(), bytes.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
 }
 
-// The code point at the front of the bytes, which it takes off; nothing when they are not well-formed UTF-8.
+// Removes the first code point from `bytes` and returns it, or returns nothing when it is not well-formed UTF-8.
 std::optional<char32_t> TakeCodePoint(std::string_view& bytes) {
   const auto lead = static_cast<unsigned char>(bytes.front());
   std::size_t length = 1;
@@ -84,7 +84,7 @@ void AppendCodePoint(std::string& text, char16_t point) {
 bool IsValidUtf8(std::string_view bytes) {
   constexpr std::uint64_t HighBits = 0x8080808080808080U;
   while (!bytes.empty()) {
-    // Eight plain characters at a time: project files are nearly always ASCII.
+    // Eight bytes at a time: project files are nearly always ASCII.
     while (bytes.size() >= sizeof(std::uint64_t)) {
       std::uint64_t block = 0;
       std::memcpy(&block, bytes.data(), sizeof block);

@@ -8,13 +8,14 @@ namespace orby {
 
 bool IsValidUtf8(std::string_view bytes);
 
-// Windows-1252 bytes as UTF-8 text. The five unassigned bytes stand for the code points of the same number.
+// Converts Windows-1252 bytes to UTF-8. The five unassigned bytes become the code points of the same number.
 std::string TextFromCodePage(std::string_view bytes);
 
-// A file's bytes as UTF-8 text: as they stand when they are valid UTF-8, else read as Windows-1252.
+// Returns the bytes of a file as UTF-8: unchanged when they are valid UTF-8, otherwise converted from Windows-1252.
 std::string TextFromFileBytes(std::string bytes);
 
-// A text as a file holds it: Windows-1252 when every character has a place there, else UTF-8.
+// Returns the bytes that a file stores for a UTF-8 text: Windows-1252 if it has every character of the text, otherwise
+// the text unchanged.
 std::string FileBytesFromText(std::string_view text);
 
 }  // namespace orby

@@ -1,4 +1,4 @@
-// Figures that may be beyond computing.
+// Figures that may have no value.
 #pragma once
 
 #include <utility>
@@ -7,7 +7,7 @@
 
 namespace orby {
 
-// A value, or the run-time error that kept it from being computed.
+// A value, or the number of the run-time error that prevented its computation.
 template <class T>
 class Computed {
  public:
@@ -21,9 +21,9 @@ class Computed {
 
   bool IsThere() const { return error_ == 0; }
   int Error() const { return error_; }  // 0: none
-  // The value, or the other one when there is none.
+  // Returns the value, or `other` when there is none.
   T ValueOr(T other) const noexcept { return error_ == 0 ? value_ : other; }
-  // Throws the RuntimeError that kept the value from being computed.
+  // Returns the value. Throws the RuntimeError when there is none.
   const T& Value() const {
     if (error_ != 0) throw RuntimeError(error_);
     return value_;
@@ -34,7 +34,7 @@ class Computed {
   int error_ = 0;
 };
 
-// Returns what the computation returns, or the number of the RuntimeError that it throws.
+// Returns the result of `compute`, or the number of the RuntimeError that it throws.
 template <class Compute>
 auto Attempt(const Compute& compute) -> Computed<decltype(compute())> {
   try {

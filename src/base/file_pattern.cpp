@@ -7,24 +7,24 @@
 namespace orby {
 namespace {
 
-// Takes the first character off the text.
+// Removes the first character from the text and returns it.
 std::string_view TakeCharacter(std::string_view& text) {
   const std::string_view character = text.substr(0, CharacterOffset(text, 1));
   text.remove_prefix(character.size());
   return character;
 }
 
-// A star takes as little as it can at first; where the rest does not fit, the last one takes a character more.
+// Each star matches as few characters as possible at first. When the rest does not match, the last star takes one more.
 bool Matches(std::string_view name, std::string_view pattern) {
   std::string_view nameAtStar;
-  std::string_view patternBehindStar;
+  std::string_view patternAfterStar;
   bool hasStar = false;
   while (!name.empty() || !pattern.empty()) {
     if (pattern.starts_with('*')) {
       pattern.remove_prefix(1);
       hasStar = true;
       nameAtStar = name;
-      patternBehindStar = pattern;
+      patternAfterStar = pattern;
       continue;
     }
     if (!name.empty() && !pattern.empty()) {
@@ -34,7 +34,7 @@ bool Matches(std::string_view name, std::string_view pattern) {
     if (!hasStar || nameAtStar.empty()) return false;
     TakeCharacter(nameAtStar);
     name = nameAtStar;
-    pattern = patternBehindStar;
+    pattern = patternAfterStar;
   }
   return true;
 }

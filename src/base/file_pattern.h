@@ -1,15 +1,16 @@
-// Patterns of file names, as a list of files is filtered by them.
+// Patterns of file names, which filter a list of files.
 #pragma once
 
 #include <string_view>
 
 namespace orby {
 
-// Every file, also one whose name has no point.
+// Matches every file, also one whose name has no point.
 inline constexpr std::string_view EveryFile = "*.*";
 
-// Whether the name fits one of the patterns, which ";" separates: "*" stands for any characters, "?" for one. The case
-// of the letters A to Z does not count, nor do blanks around a pattern. Blank patterns let every file through.
+// Returns true if the name matches one of the patterns, which are separated by ";". "*" matches any number of
+// characters, "?" matches one. The case of the letters A to Z and blanks around a pattern are ignored. A blank list of
+// patterns matches every name.
 bool MatchesFilePattern(std::string_view name, std::string_view patterns);
 
 }  // namespace orby

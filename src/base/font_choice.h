@@ -1,4 +1,4 @@
-// A font as the user chooses it.
+// A font that the user has chosen.
 #pragma once
 
 #include <string>

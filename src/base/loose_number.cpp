@@ -5,13 +5,13 @@
 #include "base/number_text.h"
 #include "base/runtime_error.h"
 
-// What counts as a number:
+// The grammar of a number:
 //
 //   text     = "&" [ "H" | "O" ] digits  |  marks decimal marks
-//   decimal  = digits with commas behind the first character and one point, [ exponent ]
+//   decimal  = digits with commas after the first character and one point, [ exponent ]
 //   exponent = ( "E" | "D" ) [ sign ] digits
 //
-// Blanks stand around the parts and between marks, never inside a decimal. Marks are a sign, a dollar sign and
+// Blanks may stand around the parts and between marks, but not inside a decimal. Marks are a sign, a dollar sign and
 // brackets that mean minus.
 
 namespace orby {
@@ -42,7 +42,7 @@ std::string TakeMarks(std::string_view& rest, std::string_view allowed) {
   return marks;
 }
 
-// The exponent with its letter and sign; nothing is taken of one that lacks its digits.
+// Removes the exponent with its letter and sign, and returns it. Removes nothing when the exponent has no digits.
 std::string_view TakeExponent(std::string_view& rest) {
   if (!StartsWithOneOf(rest, "EeDd")) return {};
   const std::size_t first = StartsWithOneOf(rest.substr(1), "+-") ? 2 : 1;
@@ -53,7 +53,7 @@ std::string_view TakeExponent(std::string_view& rest) {
   return exponent;
 }
 
-// The decimal without its commas; empty when it has no digit.
+// Removes the decimal and returns it without its commas. Returns an empty text when it has no digit.
 std::string TakeDecimal(std::string_view& rest) {
   std::string decimal;
   bool hasPoint = false;
@@ -70,16 +70,17 @@ std::string TakeDecimal(std::string_view& rest) {
   return decimal;
 }
 
-// In front each mark stands once; behind, any may be repeated. A sign stands on one side only, a bracket on both.
-bool MarksAgree(std::string_view before, std::string_view behind) {
+// Before the decimal each mark occurs at most once. After it any mark may repeat. A sign occurs on one side only, a
+// bracket on both sides.
+bool MarksAgree(std::string_view before, std::string_view after) {
   const bool isRepeated = std::any_of(
       before.begin(), before.end(), [before](char mark) { return std::count(before.begin(), before.end(), mark) > 1; });
   const bool isSignTwice =
-      std::any_of(before.begin(), before.end(), [behind](char mark) { return mark != '$' && Has(behind, mark); });
-  return !isRepeated && !isSignTwice && Has(before, '(') == Has(behind, ')');
+      std::any_of(before.begin(), before.end(), [after](char mark) { return mark != '$' && Has(after, mark); });
+  return !isRepeated && !isSignTwice && Has(before, '(') == Has(after, ')');
 }
 
-// Digits behind "&" are the bits of a 32-bit number: &H80000000 is the lowest negative one.
+// The digits after "&" are the bits of a signed 32-bit number: &H80000000 is the lowest negative one.
 std::optional<double> RadixNumber(std::string_view digits) {
   const bool isHexadecimal = StartsWithOneOf(digits, "Hh");
   if (StartsWithOneOf(digits, "HhOo")) digits.remove_prefix(1);
@@ -92,7 +93,7 @@ std::optional<double> RadixNumber(std::string_view digits) {
   return static_cast<std::int32_t>(bits);
 }
 
-// Beyond the range of a Double a text is no number.
+// A text outside the range of a Double is not a number.
 std::optional<double> ValueInRange(std::string_view decimal) {
   try {
     return TextValue(decimal);
@@ -108,10 +109,10 @@ std::optional<double> LooseNumber(std::string_view text) {
   if (text.starts_with('&')) return RadixNumber(text.substr(1));
   const std::string before = TakeMarks(text, "+-($");
   const std::string decimal = TakeDecimal(text);
-  const std::string behind = TakeMarks(text, "+-)$");
-  if (decimal.empty() || !text.empty() || !MarksAgree(before, behind)) return std::nullopt;
+  const std::string after = TakeMarks(text, "+-)$");
+  if (decimal.empty() || !text.empty() || !MarksAgree(before, after)) return std::nullopt;
   const auto magnitude = ValueInRange(decimal);
-  const bool isNegative = before.find_first_of("-(") != std::string::npos || Has(behind, '-');
+  const bool isNegative = before.find_first_of("-(") != std::string::npos || Has(after, '-');
   return magnitude && isNegative ? -*magnitude : magnitude;
 }
 

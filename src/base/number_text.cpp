@@ -17,7 +17,8 @@ namespace {
 template <class Float>
 constexpr int GeneralDigits = std::numeric_limits<Float>::digits10 == 6 ? 7 : 15;
 
-// A finite value rounded to so many significant digits: digits x 10^exponent, digits having exactly that many places.
+// A finite value rounded to a number of significant digits: digits x 10^exponent. `digits` has exactly that many
+// places.
 struct RoundedDigits {
   bool negative = false;
   std::uint64_t digits = 0;  // 0 for zero
@@ -36,7 +37,7 @@ constexpr auto PowersOfTen = [] {
 
 constexpr std::uint64_t PowerOfTen(int exponent) { return PowersOfTen[static_cast<std::size_t>(exponent)]; }
 
-// The general case, by the library's exact conversion. No tie of 7 or 15 digits lies where it is used.
+// Rounds by the exact conversion of the library. Used only for values that cannot be a tie at 7 or 15 digits.
 RoundedDigits RoundByLibrary(double magnitude, int places) {
   std::array<char, 32> text{};
   const auto end =
@@ -53,7 +54,7 @@ RoundedDigits RoundByLibrary(double magnitude, int places) {
   return result;
 }
 
-// mantissa / 2^shift x 10^decimals as the nearest whole number, an exact tie upwards.
+// Returns the whole number nearest to mantissa / 2^shift x 10^decimals. An exact tie rounds up.
 std::uint64_t ScaledToWhole(std::uint64_t mantissa, int shift, int decimals) {
   __extension__ using Wide = unsigned __int128;
   Wide product = mantissa;
@@ -66,7 +67,7 @@ std::uint64_t ScaledToWhole(std::uint64_t mantissa, int shift, int decimals) {
   return static_cast<std::uint64_t>((product + (Wide{1} << shift) / 2) >> shift);
 }
 
-// Values of everyday size, scaled exactly in integers; an exact tie goes away from zero.
+// Rounds a value of everyday size by scaling it exactly in integers. An exact tie rounds away from zero.
 RoundedDigits RoundExactly(double magnitude, int places) {
   constexpr int MantissaBits = 53;
   constexpr std::uint64_t LeadingBit = std::uint64_t{1} << (MantissaBits - 1);
@@ -75,7 +76,7 @@ RoundedDigits RoundExactly(double magnitude, int places) {
   const int binaryExponent = static_cast<int>(bits >> (MantissaBits - 1)) - ExponentBias;
   const int shift = std::max(MantissaBits - binaryExponent, 0);  // magnitude = mantissa / 2^shift, shift in 0..74
   const std::uint64_t mantissa = ((bits & (LeadingBit - 1)) | LeadingBit) << std::max(binaryExponent - MantissaBits, 0);
-  // floor(log10): 0.30103 is log10 of 2; one too few is mended below.
+  // An estimate of floor(log10(magnitude)): 0.30103 is log10 of 2. If it is one too low, the line below corrects it.
   int decimals = places - 1 - static_cast<int>(std::floor((binaryExponent - 1) * 0.30103));
   std::uint64_t digits = ScaledToWhole(mantissa, shift, decimals);
   if (digits >= PowerOfTen(places)) digits = ScaledToWhole(mantissa, shift, --decimals);
@@ -83,13 +84,13 @@ RoundedDigits RoundExactly(double magnitude, int places) {
 }
 
 RoundedDigits Round(double value, int places) {
-  constexpr double SmallestExact = 0x1p-22;  // from here on the scaled mantissa and its fraction stay within 128 bits
-  constexpr double FirstBeyond = 0x1p54;     // from here on no value lies half-way between two texts
+  constexpr double SmallestExact = 0x1p-22;  // from this value up the scaled mantissa and its fraction fit 128 bits
+  constexpr double FirstBeyond = 0x1p54;     // from this value up no value is half-way between two texts
   const double magnitude = std::abs(value);
   if (magnitude == 0) return {};
   const bool isEveryday = magnitude >= SmallestExact && magnitude < FirstBeyond;
   RoundedDigits result = isEveryday ? RoundExactly(magnitude, places) : RoundByLibrary(magnitude, places);
-  // 9999999.6 rounds up to one place more.
+  // 9999999.6 rounds up to a number with one more digit.
   if (result.digits == PowerOfTen(places)) {
     result.digits /= 10;
     ++result.exponent;
@@ -104,7 +105,7 @@ void AppendDigits(std::string& text, std::uint64_t digits) {
   text.append(buffer.data(), end);
 }
 
-// digits x 10^-decimals with so many digits before and behind the point at least.
+// Appends digits x 10^-decimals with `decimals` digits after the point and at least `minimumWhole` digits before it.
 void AppendFixed(std::string& text, std::uint64_t digits, int decimals, int minimumWhole, bool point) {
   std::array<char, 20> buffer{};
   const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), digits).ptr;
@@ -186,7 +187,7 @@ std::string PatternText(Float value, const NumberPattern& pattern) {
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
-// The characters that a number field skips wherever they stand.
+// Returns true for a character that a number field skips anywhere in its text.
 bool IsSkipped(char c) { return c == ' ' || c == '\t' || c == '\n'; }
 
 double ReadRadix(std::string_view digits, int radix) {
@@ -203,7 +204,8 @@ double ReadRadix(std::string_view digits, int radix) {
   return value;
 }
 
-// The leading part of a text without blanks that is a decimal number, D written as e; empty when there is no digit.
+// Returns the decimal number at the start of a text without blanks, with "e" for the letter of its exponent. Empty when
+// there is no digit.
 std::string LeadingDecimal(std::string_view text) {
   std::string number;
   std::size_t at = 0;
@@ -234,7 +236,8 @@ std::string LeadingDecimal(std::string_view text) {
   return number;
 }
 
-// Whether a number that no Double holds is too large rather than too small: its first digit stands before 10^0.
+// Returns true if a number outside the range of a Double is too large, and false if it is too small. It is too large
+// when its first digit other than 0 is a whole digit.
 bool IsTooLarge(std::string_view number) {
   const std::size_t exponentMark = std::min(number.find('e'), number.size());
   const std::string_view mantissa = number.substr(0, exponentMark);
@@ -250,8 +253,9 @@ bool IsTooLarge(std::string_view number) {
   return exponent > first - point;
 }
 
-// Returns the value of a text of at most 15 digits without an exponent, nothing for any other text. A Double holds such
-// digits and the power of ten below them exactly, so their quotient is the nearest Double. Nearly all texts are so.
+// Returns the value of a text of at most 15 digits without an exponent, or nothing for any other text. A Double
+// represents these digits and the power of ten below them exactly, so that their quotient is the nearest Double. Nearly
+// every text in a field is of this kind.
 std::optional<double> PlainDecimal(std::string_view text) {
   constexpr std::size_t MostDigits = 15;
   const bool isNegative = text.starts_with('-');
@@ -326,7 +330,8 @@ std::string NormalizeDecimalText(std::string_view text) {
 }
 
 int NumericKeyFilter(int key, std::string_view text) {
-  // Meant as backspace, tab, clear, the arrows and delete; as characters they let "%&'(" and "." pass too.
+  // Meant as the key codes of backspace, tab, clear, the arrows and delete. As characters they also accept "%&'(" and
+  // ".".
   constexpr std::array AlwaysPassing{8, 9, 12, 37, 38, 39, 40, 46};
   if (std::find(AlwaysPassing.begin(), AlwaysPassing.end(), key) != AlwaysPassing.end()) return key;
   if (key <= 0 || key > 126) return 0;

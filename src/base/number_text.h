@@ -1,4 +1,4 @@
-// Numbers to text and back. The decimal mark is the point on every machine.
+// Conversion between numbers and text. The decimal mark is the point in every locale.
 #pragma once
 
 #include <optional>
@@ -9,9 +9,9 @@
 
 namespace orby {
 
-// General text: 7 significant digits of a Single, 15 of a Double, trailing zeros dropped, a digit before the point.
-// Fixed notation while at most 7 (15) decimals and at most 7 (15) whole digits are needed, else "1.5E+20".
-// The value must be finite. Ties go away from zero.
+// Returns the general text of a number: 7 significant digits for a Single, 15 for a Double, without trailing zeros and
+// with at least one digit before the point. Uses fixed notation when at most 7 (15) decimals and at most 7 (15) whole
+// digits are needed, otherwise "1.5E+20". Ties round away from zero. Requires a finite value.
 std::string NumberText(Single value);
 std::string NumberText(double value);
 std::string NumberText(Integer value);
@@ -39,29 +39,29 @@ struct NumberPattern {
   }
 };
 
-// The digits of the value's general text rounded half away from zero to the pattern's decimals, never in
-// exponent form. A minus sign stays on a negative value that rounds to zero.
+// Rounds the general text of the value to the decimals of the pattern, half away from zero. Never returns an exponent.
+// A negative value that rounds to zero keeps its minus sign.
 std::string FormatNumber(Single value, NumberPattern pattern);
 std::string FormatNumber(double value, NumberPattern pattern);
 
-// What a number field holds: its leading number, 0 when there is none. Blanks, tabs and line feeds are skipped
-// wherever they stand; then sign, digits, one point, exponent (E or D); "&H" and "&O" read hexadecimal and octal.
-// Throws RuntimeError 6 when the number lies beyond the range of a Double.
+// Returns the number at the start of a field's text, or 0 when there is none. Skips blanks, tabs and line feeds
+// anywhere in the text. Reads a sign, digits, one point and an exponent (E or D), or a hexadecimal number after "&H" or
+// an octal one after "&O". Throws RuntimeError 6 when the number is outside the range of a Double.
 double TextValue(std::string_view text);
 
-// The number that a whole text stands for by the loose rules of a numeric test: surrounding blanks, a sign before or
-// behind, brackets for minus, a dollar sign, commas between digits, a complete exponent. Nothing when it is no number.
+// Returns the number that the whole text is, or nothing when it is not a number. Accepts surrounding blanks, a sign
+// before or after the digits, brackets for minus, a dollar sign, commas between digits and a complete exponent.
 std::optional<double> LooseNumber(std::string_view text);
 
-// The text of a project or configuration line: a numeric text through its general text, any other as it stands, the
-// first comma replaced by a point.
+// Returns the text that a project or configuration line stores. A number becomes its general text. In any other text
+// the first comma becomes a point.
 std::string NormalizeDecimalText(Single value);
 std::string NormalizeDecimalText(double value);
 std::string NormalizeDecimalText(Integer value);
 std::string NormalizeDecimalText(std::string_view text);
 
-// The key that reaches a number field holding `text` when `key` is typed: the key itself, or 0 when it is swallowed.
-// The key is judged as if typed at the end of the text, wherever the caret stands.
+// Returns `key` if a number field that contains `text` accepts it, and 0 if the field ignores it. The key is judged as
+// if it were typed at the end of the text, wherever the caret is.
 int NumericKeyFilter(int key, std::string_view text);
 
 }  // namespace orby

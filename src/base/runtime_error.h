@@ -1,4 +1,4 @@
-// Run-time errors: what arithmetic, files and devices raise when they cannot go on.
+// Run-time errors, which arithmetic, files and devices throw when they cannot continue.
 #pragma once
 
 #include <exception>
@@ -27,21 +27,21 @@ inline constexpr int Printer = 482;
 inline constexpr int Cancelled = 32755;
 }  // namespace error_number
 
-// The text that goes with an error number; numbers outside the table share one general text.
+// Returns the text of an error number. Numbers outside the table share one general text.
 std::string_view ErrorDescription(int number);
 
-// Nothing between the event and the outermost boundary catches it unless a command is stated to have a trap.
+// Only the outermost handler of events catches it, except in commands that are documented to catch errors themselves.
 class RuntimeError : public std::exception {
  public:
   explicit RuntimeError(int errorNumber);
-  // The number's description is followed by what the user needs to know besides.
+  // The description is the text of the number followed by `remark`.
   RuntimeError(int errorNumber, std::string_view remark);
 
   int number() const { return number_; }
   std::string_view description() const { return description_; }
-  // What failed, "while the report was made"; empty until somebody has said it.
+  // What the program was doing, such as "while the report was made". Empty until SayCircumstance is called.
   const std::string& circumstance() const { return circumstance_; }
-  // The first one that is said stands: it is the nearest to the failure.
+  // Sets the circumstance. Only the first call has an effect, because it is the nearest to the failure.
   void SayCircumstance(std::string words);
   // "run-time error 11: Division by zero"
   const char* what() const noexcept override { return what_.c_str(); }

@@ -18,7 +18,7 @@ std::string Filled(std::string_view label, std::string_view value, std::size_t w
   return text;
 }
 
-// Whether the text has more characters than `count`, without walking all of it.
+// Returns true if the text has more than `count` characters. Reads no more of the text than needed.
 bool IsLongerThan(std::string_view text, std::size_t count) {
   return text.size() > count && CharacterOffset(text, count) < text.size();
 }
@@ -27,7 +27,7 @@ bool IsLongerThan(std::string_view text, std::size_t count) {
 
 std::size_t CharacterCount(std::string_view text) {
   constexpr std::uint64_t EachByte = 0x0101010101010101;
-  std::size_t inside = 0;  // bytes 10xxxxxx, which go on with a character
+  std::size_t inside = 0;  // bytes 10xxxxxx, which continue a character
   std::size_t at = 0;
   for (; at + sizeof(std::uint64_t) <= text.size(); at += sizeof(std::uint64_t)) {
     std::uint64_t eight = 0;

@@ -1,5 +1,5 @@
-// Texts: characters of UTF-8, trimming, and the padding and wrapping of report lines. A position or a width counts
-// characters, never bytes; a line end is CR LF.
+// Characters of UTF-8 texts, trimming, and the padding and wrapping of report lines. Positions and widths count
+// characters, not bytes. A line end is CR LF.
 #pragma once
 
 #include <cstddef>
@@ -12,49 +12,51 @@ inline constexpr std::string_view LineEnd = "\r\n";
 
 std::size_t CharacterCount(std::string_view text);
 
-// Byte offset of the character at this zero-based position; the text's size when it is shorter.
+// Returns the byte offset of the character at a zero-based position, or the size of the text when it is shorter.
 std::size_t CharacterOffset(std::string_view text, std::size_t position);
 
-// The last `count` characters.
+// Returns the last `count` characters.
 std::string_view LastCharacters(std::string_view text, std::size_t count);
 
-// Without leading and trailing blanks. Only the blank counts, not the tab.
+// Removes leading and trailing blanks, but not tabs.
 std::string_view Trim(std::string_view text);
 
-// Letters A to Z only: for type names and option words, never for paths.
+// Converts the letters a to z only. For type names and option words, never for paths.
 std::string UpperCase(std::string_view text);
 
-// Whether the texts are the same but for the case of the letters A to Z.
+// Returns true if the texts are equal, ignoring the case of the letters A to Z.
 bool SameWithoutCase(std::string_view a, std::string_view b);
 
-// Takes the next line off the front of `rest` and returns it without its end: CR LF, LF or CR.
+// Removes the first line from `rest` and returns it without its line end, which is CR LF, LF or CR.
 std::string_view TakeLine(std::string_view& rest);
 
-// Appends label, filler and value, filling the width together; just joins them when they fill it already.
+// Appends label, fillers and value, so that they fill the width together. Adds no filler when label and value already
+// fill it.
 void AppendFilled(std::string& text, std::string_view label, std::string_view value, std::size_t width, char filler);
 
-// The label followed by dots up to the width; a label as long as the width or longer stays as it is.
+// Returns the label followed by dots up to the width. A label that fills the width is returned unchanged.
 std::string PadDots(std::string_view label, std::size_t width);  // nothing calls it today
 
-// Label, dots, value, filling the width together; just joined when they fill it already.
+// Returns label, dots and value, which fill the width together. Adds no dot when label and value already fill it.
 std::string DotLeader(std::string_view label, std::string_view value, std::size_t width);  // nothing calls it today
 
-// The value followed by blanks up to the width.
+// Returns the value followed by blanks up to the width.
 std::string PadSpaces(std::string_view value, std::size_t width);
 
-// The value with blanks in front of it up to the width.
+// Returns the value preceded by blanks up to the width.
 std::string AlignRight(std::string_view value, std::size_t width);
 
-// The text broken at blanks into lines shorter than or as long as the width, each ended by CR LF, the last one too.
-// A remainder with no blank in its first `width` characters becomes "..." and its last width - 3 characters.
-// Returns the text unchanged for a width of 20 or less.
+// Breaks the text at blanks into lines of at most `width` characters. Each line, also the last one, ends with CR LF. A
+// remainder without a blank in its first `width` characters becomes "..." and its last width - 3 characters. Returns
+// the text unchanged when the width is 20 or less.
 std::string WordWrapText(std::string_view text, std::size_t width);
 
-// "YES" when the flag is 1, otherwise "NO".
+// Returns "YES" if the flag is 1, otherwise "NO".
 std::string_view YesNoText(int flag);
 
-// Breaks an over-long description line at 60 characters, at a blank if one stands at positions 40 to 60, the pieces
-// joined by CR LF. Returns the number of pieces plus one. A last piece that would fit is broken by the same rule.
+// Breaks a description line into pieces of at most 60 characters, separated by CR LF. A piece ends after the last blank
+// at positions 40 to 60, or at 60 characters when there is none. The last piece is broken by the same rule, although it
+// may fit. Returns the number of pieces plus one.
 int WrapDescriptionLine(std::string& line);
 
 }  // namespace orby

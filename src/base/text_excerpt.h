@@ -1,4 +1,4 @@
-// A part of a long text as it is copied: UTF-8, each line end a single line feed.
+// A part of a long text that is copied. The copy is UTF-8, and each of its line ends is a line feed.
 #pragma once
 
 #include <cstddef>
@@ -9,11 +9,11 @@ namespace orby {
 
 class TextExcerpt {
  public:
-  // The bytes from first to last, last not included.
+  // The bytes [first, last) of the text.
   TextExcerpt(std::size_t first, std::size_t last) : next_(first), last_(last) {}
 
-  // Returns the text of the next lines, as many as begin within the next `most` bytes. bytes: the whole text. Each line
-  // is read as UTF-8 where it is valid UTF-8, else as Windows-1252.
+  // Returns the lines that begin within the next `most` bytes. `bytes` is the whole text. A line that is not valid
+  // UTF-8 is read as Windows-1252.
   std::string Next(std::string_view bytes, std::size_t most);
 
   bool IsOver() const { return next_ >= last_; }

@@ -7,7 +7,7 @@
 namespace orby {
 namespace {
 
-// Bytes that are searched through for one line.
+// Bytes that are searched to find one line.
 constexpr std::size_t BlockSize = 4096;
 
 constexpr std::size_t TabWidth = 8;
@@ -15,20 +15,20 @@ constexpr std::string_view Ellipsis = "\u2026";
 constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
 constexpr std::size_t LongestCharacter = 4;  // bytes of UTF-8
 
-// Whether a line begins between the two bytes.
+// Returns true if a line begins between the two bytes.
 bool IsLineStart(char before, char at) { return before == '\n' || (before == '\r' && at != '\n'); }
 
 bool IsContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
 bool IsControl(char byte) { return static_cast<unsigned char>(byte) < ' ' || byte == '\x7F'; }
 
-// Lines that begin at first or behind it and before last.
+// Counts the lines that begin in [first, last).
 std::size_t CountStarts(std::string_view text, std::size_t first, std::size_t last) {
   std::size_t count = first == 0 && last > 0 ? 1 : 0;
   for (std::size_t at = std::max<std::size_t>(first, 1); at < last; ++at) count += IsLineStart(text[at - 1], text[at]);
   return count;
 }
 
-// The front of the bytes, long enough for all that is shown and not cut within a character of UTF-8.
+// Returns the start of the bytes. It contains everything that is shown, and does not end within a character of UTF-8.
 std::string_view ShownPart(std::string_view bytes) {
   constexpr std::size_t Enough = (MostShownCharacters + 1) * LongestCharacter;
   if (bytes.size() <= Enough) return bytes;

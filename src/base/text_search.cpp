@@ -7,16 +7,16 @@
 namespace orby {
 namespace {
 
-constexpr unsigned int ToSmall = 0x20;  // from a capital letter, in ASCII and in the accented letters
+constexpr unsigned int ToSmall = 0x20;  // lower case minus upper case, for ASCII and for the accented letters
 
 unsigned int ByteAt(std::string_view bytes, std::size_t at) { return static_cast<unsigned char>(bytes[at]); }
 
 bool IsBetween(unsigned int byte, unsigned int first, unsigned int last) { return first <= byte && byte <= last; }
 
-// The byte in small letters. In UTF-8 the accented capitals of Windows-1252 are the bytes 80 to 9E after C3.
+// Returns the byte in lower case. In UTF-8 the accented capitals of Windows-1252 are the bytes 80 to 9E after C3.
 unsigned int SmallAt(std::string_view bytes, std::size_t at, bool isUtf8) {
   constexpr unsigned int Utf8Lead = 0xC3;
-  constexpr unsigned int Utf8Times = 0x97;  // the multiplication sign stands among the letters
+  constexpr unsigned int Utf8Times = 0x97;  // the multiplication sign lies among the letters
   constexpr unsigned int Times = 0xD7;
   const unsigned int byte = ByteAt(bytes, at);
   if (byte < 0x80) return IsBetween(byte, 'A', 'Z') ? byte + ToSmall : byte;

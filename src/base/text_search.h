@@ -1,4 +1,4 @@
-// Finding a text in bytes that may be as many as those of a file, a part at a time.
+// Search for a text in the bytes of a long file, one part at a time.
 #pragma once
 
 #include <cstddef>
@@ -10,29 +10,30 @@
 namespace orby {
 
 struct TextMatch {
-  std::size_t place;   // of its first byte
+  std::size_t place;   // offset of its first byte
   std::size_t length;  // in bytes
 };
 
-// Looks for a text from one place on, forward or backward, and around the end of the bytes back to that place. Capital
-// and small letters are the same, as far as Windows-1252 has them. The bytes may be UTF-8 or Windows-1252.
+// Searches from one place, forward or backward, and continues at the other end of the bytes until it is back at that
+// place. Ignores the case of the letters that Windows-1252 has. The bytes may be UTF-8 or Windows-1252.
 class TextSearch {
  public:
   enum class Direction { Forward, Backward };
 
-  // Looks for `wanted`, which is UTF-8, in `length` bytes. Forward, the match may begin at `from` or after it;
-  // backward, it begins before it.
+  // Searches `length` bytes for `wanted`, which is UTF-8. A forward search begins at `from`, a backward search before
+  // it.
   TextSearch(std::string_view wanted, std::size_t length, std::size_t from, Direction direction);
 
-  // Looks at the next `count` places. Returns the first match among them. bytes: the whole text; it may have grown.
+  // Examines the next `count` places. Returns the first match among them. `bytes` is the whole text, which may have
+  // grown.
   std::optional<TextMatch> Next(std::string_view bytes, std::size_t count);
 
-  // Whether every place has been looked at.
+  // Returns true if every place has been examined.
   bool IsOver() const { return left_ == 0; }
-  std::size_t Left() const { return left_; }  // places still to be looked at
+  std::size_t Left() const { return left_; }  // places not yet examined
 
  private:
-  // A way to write the wanted text, in small letters.
+  // The wanted text in one encoding, in lower case.
   struct Spelling {
     std::string bytes;
     bool isUtf8;

@@ -1,4 +1,4 @@
-// The two number types of a project record, and the shorthand every module uses for them.
+// The two number types of a project record.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,7 @@ namespace orby {
 using Single = float;          // 32-bit; its rounding is part of every result
 using Integer = std::int16_t;  // 16-bit; flags, counts, indices
 
-// The number that stands for a choice in files and lists.
+// Returns the number that represents a choice in files and lists.
 template <class Choice>
 constexpr Integer NumberOf(Choice choice) {
   return static_cast<Integer>(choice);

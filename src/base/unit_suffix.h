@@ -1,11 +1,11 @@
-// What the suffix of a caption or of a report line measures.
+// Quantities whose unit is the suffix of a caption or of a report line.
 #pragma once
 
 namespace orby {
 
-// The rows of the table that UnitLabel reads, and two that are not in it.
+// The rows of the table of UnitLabel, and two values that are not in the table.
 enum class UnitSuffix {
-  Degrees = -2,  // of reports, the same in both unit systems
+  Degrees = -2,  // in reports; the same in both unit systems
   None = -1,
   Length = 0,
   Stress = 1,

@@ -15,7 +15,7 @@ std::string AllBytes() {
   return bytes;
 }
 
-TEST(CodePage, EveryByteIsOneCharacterAndComesBack) {
+TEST(CodePage, EveryByteBecomesOneCharacterAndConvertsBack) {
   const std::string text = TextFromFileBytes(AllBytes());
 
   EXPECT_TRUE(IsValidUtf8(text));
@@ -36,7 +36,7 @@ TEST(CodePage, TheFiveUnassignedBytesKeepTheirNumber) {
   EXPECT_EQ(FileBytesFromText("\xC2\x81\xC2\x8D\xC2\x8F\xC2\x90\xC2\x9D"), "\x81\x8D\x8F\x90\x9D");
 }
 
-TEST(CodePage, AnUpperControlThatTheCodePageReplacedHasNoPlaceThere) {
+TEST(CodePage, AControlCharacterWhoseByteIsAnotherCharacterHasNoByte) {
   EXPECT_EQ(FileBytesFromText("\xC2\x80"), "\xC2\x80");
 }
 
@@ -45,7 +45,7 @@ TEST(FileBytes, Utf8StaysAsItIs) {
   EXPECT_EQ(TextFromFileBytes(""), "");
 }
 
-TEST(FileBytes, BytesThatAreNotUtf8AreReadByTheCodePage) {
+TEST(FileBytes, BytesThatAreNotUtf8AreReadAsWindows1252) {
   EXPECT_EQ(TextFromFileBytes("F\xF6rderstrecke"), "Förderstrecke");
   EXPECT_EQ(TextFromFileBytes("\xC3\xB6 and \xF6"), "Ã¶ and ö");
 }
@@ -56,11 +56,9 @@ TEST(FileBytes, UmlautsAreWrittenInOneByte) {
             "d \x80");
 }
 
-TEST(FileBytes, OneCharacterOutsideTheCodePageMakesTheWholeTextUtf8) {
-  EXPECT_EQ(FileBytesFromText("Süd 北"), "Süd 北");
-}
+TEST(FileBytes, ACharacterOutsideTheCodePageMakesTheWholeTextUtf8) { EXPECT_EQ(FileBytesFromText("Süd 北"), "Süd 北"); }
 
-TEST(FileBytes, ATextThatIsNoUtf8IsWrittenAsItStands) { EXPECT_EQ(FileBytesFromText("a\xF6 b"), "a\xF6 b"); }
+TEST(FileBytes, ATextThatIsNotUtf8IsWrittenUnchanged) { EXPECT_EQ(FileBytesFromText("a\xF6 b"), "a\xF6 b"); }
 
 TEST(Utf8, WellFormedSequencesAreAccepted) {
   for (const char* text : {"", "plain", "0123456789abcdef", "\xC2\x80", "\xDF\xBF", "\xE0\xA0\x80", "\xEF\xBF\xBF",

@@ -5,18 +5,18 @@
 namespace orby::test {
 namespace {
 
-TEST(AFilePattern, WithoutStarsIsTheNameItself) {
+TEST(FilePattern, WithoutStarsMatchesOnlyThatName) {
   EXPECT_TRUE(MatchesFilePattern("panel3.ORB", "panel3.ORB"));
   EXPECT_FALSE(MatchesFilePattern("panel33.ORB", "panel3.ORB"));
   EXPECT_FALSE(MatchesFilePattern("panel.ORB", "panel3.ORB"));
 }
 
-TEST(AFilePattern, DoesNotMindTheCase) {
+TEST(FilePattern, IgnoresTheCaseOfLetters) {
   EXPECT_TRUE(MatchesFilePattern("panel3.orb", "*.ORB"));
   EXPECT_TRUE(MatchesFilePattern("PANEL3.ORB", "panel?.orb"));
 }
 
-TEST(AFilePattern, LetsAStarStandForAnyCharacters) {
+TEST(FilePattern, MatchesAnyCharactersForAStar) {
   EXPECT_TRUE(MatchesFilePattern("panel3.ORB", "p*3.*"));
   EXPECT_TRUE(MatchesFilePattern("p3.ORB", "p*3.*"));
   EXPECT_TRUE(MatchesFilePattern("a.b.txt", "*.txt"));
@@ -27,25 +27,25 @@ TEST(AFilePattern, LetsAStarStandForAnyCharacters) {
   EXPECT_FALSE(MatchesFilePattern("", "*a"));
 }
 
-TEST(AFilePattern, LetsAQuestionMarkStandForOneCharacter) {
+TEST(FilePattern, MatchesOneCharacterForAQuestionMark) {
   EXPECT_TRUE(MatchesFilePattern("panel3.ORB", "panel?.ORB"));
   EXPECT_TRUE(MatchesFilePattern("pan\u00E9l.ORB", "pan?l.ORB"));
   EXPECT_FALSE(MatchesFilePattern("panel.ORB", "panel?.ORB"));
   EXPECT_FALSE(MatchesFilePattern("panel33.ORB", "panel?.ORB"));
 }
 
-TEST(AFilePattern, StarPointStarIsEveryFile) {
+TEST(FilePattern, StarPointStarMatchesEveryFile) {
   EXPECT_TRUE(MatchesFilePattern("Makefile", "*.*"));
   EXPECT_TRUE(MatchesFilePattern("panel3.ORB", "*.*"));
 }
 
-TEST(AFilePattern, ThatIsBlankIsEveryFile) {
+TEST(FilePattern, ThatIsBlankMatchesEveryFile) {
   EXPECT_TRUE(MatchesFilePattern("Makefile", ""));
   EXPECT_TRUE(MatchesFilePattern("Makefile", "  "));
   EXPECT_TRUE(MatchesFilePattern("Makefile", " ; "));
 }
 
-TEST(AFilePattern, MayBeOneOfSeveral) {
+TEST(FilePattern, MatchesIfOneOfSeveralMatches) {
   EXPECT_TRUE(MatchesFilePattern("panel3.ORB", "*.txt;*.ORB"));
   EXPECT_TRUE(MatchesFilePattern("notes.txt", "*.txt; *.ORB;"));
   EXPECT_TRUE(MatchesFilePattern("panel3.ORB", "*.txt; *.ORB "));

@@ -20,11 +20,11 @@ TEST(NumericKeyFilter, ASecondPointPasses) {
 
 TEST(NumericKeyFilter, MinusInAnEmptyFieldIsRefused) { EXPECT_EQ(NumericKeyFilter('-', ""), Swallowed); }
 
-TEST(NumericKeyFilter, MinusBehindADigitPasses) { EXPECT_EQ(NumericKeyFilter('-', "5"), '-'); }
+TEST(NumericKeyFilter, MinusAfterADigitPasses) { EXPECT_EQ(NumericKeyFilter('-', "5"), '-'); }
 
-TEST(NumericKeyFilter, ADigitBehindATrailingMinusIsRefused) { EXPECT_EQ(NumericKeyFilter('5', "5-"), Swallowed); }
+TEST(NumericKeyFilter, ADigitAfterATrailingMinusIsRefused) { EXPECT_EQ(NumericKeyFilter('5', "5-"), Swallowed); }
 
-TEST(NumericKeyFilter, CommaPassesBehindADigitOnly) {
+TEST(NumericKeyFilter, CommaPassesAfterADigitOnly) {
   EXPECT_EQ(NumericKeyFilter(',', "1"), ',');
   EXPECT_EQ(NumericKeyFilter(',', "1,"), ',');
   EXPECT_EQ(NumericKeyFilter(',', ""), Swallowed);
@@ -38,12 +38,12 @@ TEST(NumericKeyFilter, LettersAreRefused) {
   }
 }
 
-TEST(NumericKeyFilter, AnExponentIsRefusedAtItsLetterButGoesOnBehindIt) {
+TEST(NumericKeyFilter, AnExponentLetterIsRefusedButTheDigitsAfterItPass) {
   EXPECT_EQ(NumericKeyFilter('E', "1"), Swallowed);
   EXPECT_EQ(NumericKeyFilter('5', "1E"), '5');
 }
 
-TEST(NumericKeyFilter, AHexadecimalDigitPassesBehindItsPrefix) {
+TEST(NumericKeyFilter, AHexadecimalDigitPassesAfterItsPrefix) {
   EXPECT_EQ(NumericKeyFilter('H', "&"), Swallowed);
   EXPECT_EQ(NumericKeyFilter('F', "&H"), 'F');
   EXPECT_EQ(NumericKeyFilter('G', "&H"), Swallowed);
@@ -65,7 +65,7 @@ TEST(NumericKeyFilter, TheNeighboursOfTheEditingCodesAreRefused) {
   }
 }
 
-TEST(NumericKeyFilter, BlankPassesBehindADigitOnly) {
+TEST(NumericKeyFilter, BlankPassesAfterADigitOnly) {
   EXPECT_EQ(NumericKeyFilter(' ', "7"), ' ');
   EXPECT_EQ(NumericKeyFilter(' ', ""), Swallowed);
 }
@@ -75,7 +75,7 @@ TEST(NumericKeyFilter, ClosingBracketPassesWhenItClosesANumber) {
   EXPECT_EQ(NumericKeyFilter(')', "5"), Swallowed);
 }
 
-TEST(NumericKeyFilter, ADigitThatLeavesTheRangeOfNumbersIsRefused) {
+TEST(NumericKeyFilter, ADigitThatMakesTheNumberTooLargeIsRefused) {
   EXPECT_EQ(NumericKeyFilter('8', "1E30"), '8');
   EXPECT_EQ(NumericKeyFilter('9', "1E30"), Swallowed);
 }

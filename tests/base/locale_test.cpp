@@ -1,4 +1,4 @@
-// The tests are worth nothing under a locale that never took effect.
+// Holds that the locale of the test run takes effect. Otherwise the run under a German locale would prove nothing.
 #include <gtest/gtest.h>
 
 #include <cstdio>

@@ -7,20 +7,20 @@
 namespace orby {
 namespace {
 
-TEST(LooseNumber, NoBlankStandsInsideANumber) {
+TEST(LooseNumber, ABlankInsideANumberIsRefused) {
   EXPECT_EQ(LooseNumber("1 000"), std::nullopt);
   EXPECT_EQ(LooseNumber("1 .5"), std::nullopt);
   EXPECT_EQ(LooseNumber("1e 5"), std::nullopt);
 }
 
-TEST(LooseNumber, CommasCountForNothingButNeverComeFirst) {
+TEST(LooseNumber, CommasAreIgnoredExceptAtTheStart) {
   EXPECT_EQ(LooseNumber("1,5"), 15);
   EXPECT_EQ(LooseNumber("1,00,0,,.5"), 1000.5);
   EXPECT_EQ(LooseNumber(",5"), std::nullopt);
   EXPECT_EQ(LooseNumber(".,"), std::nullopt);
 }
 
-TEST(LooseNumber, ASignStandsInFrontOrBehind) {
+TEST(LooseNumber, ASignStandsBeforeOrAfterTheDigits) {
   EXPECT_EQ(LooseNumber("-62.5"), -62.5);
   EXPECT_EQ(LooseNumber("62.5 -"), -62.5);
   EXPECT_EQ(LooseNumber("-62.5-"), std::nullopt);
@@ -39,7 +39,7 @@ TEST(LooseNumber, ADollarSignMayStandBesideAnExponent) {
   EXPECT_EQ(LooseNumber("($1,23,,3.4,,,5,,E67$)"), -1233.45e67);
 }
 
-TEST(LooseNumber, AnExponentIsComplete) {
+TEST(LooseNumber, AnIncompleteExponentIsRefused) {
   EXPECT_EQ(LooseNumber("1E"), std::nullopt);
   EXPECT_EQ(LooseNumber("1E+"), std::nullopt);
   EXPECT_EQ(LooseNumber("2.5d-1"), 0.25);
@@ -55,13 +55,13 @@ TEST(LooseNumber, HexadecimalAndOctalAreThirtyTwoBits) {
   EXPECT_EQ(LooseNumber("&"), std::nullopt);
 }
 
-TEST(LooseNumber, BeyondTheRangeOfADoubleIsNoNumber) {
+TEST(LooseNumber, ANumberBeyondTheRangeOfADoubleIsRefused) {
   EXPECT_EQ(LooseNumber("1e400"), std::nullopt);
   EXPECT_EQ(LooseNumber("-1e400"), std::nullopt);
   EXPECT_EQ(LooseNumber("1e-400"), 0);
 }
 
-TEST(LooseNumber, ANoBreakSpaceIsABlankButHalfOfOneIsNot) {
+TEST(LooseNumber, ANoBreakSpaceIsABlankButOneOfItsBytesIsNot) {
   EXPECT_EQ(LooseNumber("\xC2\xA0"
                         "1"),
             1);

@@ -1,4 +1,4 @@
-// What holds for every number: texts read back within their digits, formats keep the order.
+// Properties of every number: a text reads back to its number within its digits, and formats keep the order of numbers.
 #include <gtest/gtest.h>
 #include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
@@ -16,7 +16,8 @@
 namespace orby {
 namespace {
 
-// Every finite Double below 9E307, as likely small as large: the largest would leave the range in 15 digits.
+// Any finite Double below 9E307, with all magnitudes equally likely. Larger ones could leave the range when they are
+// rounded to 15 digits.
 rc::Gen<double> AnyDouble() {
   constexpr std::uint64_t SignBit = 1ULL << 63U;
   constexpr std::uint64_t BelowLastExponent = 0x7FE0000000000000U;
@@ -33,7 +34,7 @@ rc::Gen<Single> AnySingle() {
       [](const auto& parts) { return std::bit_cast<Single>(parts.second ? parts.first | SignBit : parts.first); });
 }
 
-// A length, load or cost as it stands in a field: up to five decimals.
+// A length, load or cost as typed into a field: up to five decimals.
 rc::Gen<double> FieldValue() {
   return rc::gen::map(rc::gen::inRange<std::int64_t>(-99999999999, 99999999999),
                       [](std::int64_t steps) { return static_cast<double>(steps) / 100000; });
@@ -54,7 +55,7 @@ RC_GTEST_PROP(NumberTextProperty, ADoubleReadsBackToTheSameText, ()) {
   const double readBack = TextValue(text);
 
   RC_ASSERT(NumberText(readBack) == text);
-  // Half of the last digit, and half of the step to the next double, in which the text is read back.
+  // Half a unit of the last digit, plus half the step to the next double, because the text is read back as a double.
   if (std::isnormal(value)) RC_ASSERT(std::abs(readBack - value) <= 5.12E-15 * std::abs(value));
 }
 
@@ -78,7 +79,7 @@ void AssertOrderIsKept(Float a, Float b) {
   RC_ASSERT(TextValue(FormatNumber(low, "0")) <= TextValue(FormatNumber(high, "0")));
 }
 
-// Of up to 20 digits with a point anywhere, which is beyond what is read without the library.
+// Texts of up to 20 digits with a point anywhere, more digits than the short cut for plain decimals reads.
 RC_GTEST_PROP(TextValueProperty, IsTheNearestDoubleHoweverManyDigits, ()) {
   const auto digits = *rc::gen::nonEmpty(rc::gen::container<std::string>(rc::gen::inRange('0', ':')));
   const auto point = *rc::gen::inRange<std::size_t>(0, digits.size() + 1);

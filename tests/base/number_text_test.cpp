@@ -43,7 +43,7 @@ TEST(NumberText, NotationOfADoubleChangesAtFifteenPlaces) {
   EXPECT_EQ(NumberText(1E100), "1E+100");
 }
 
-TEST(NumberText, RoundingUpToOneDigitMoreKeepsItsPlaces) {
+TEST(NumberText, ANumberThatRoundsUpToOneMoreDigitKeepsItsPlaces) {
   EXPECT_EQ(NumberText(9999999.6), "9999999.6");
   EXPECT_EQ(NumberText(999999999999999.75), "1E+15");
   EXPECT_EQ(NumberText(0.99999999999999989), "1");
@@ -67,12 +67,12 @@ TEST(NumberText, ExactTiesOfADoubleGoAwayFromZeroAtEverySize) {
   EXPECT_EQ(NumberText(12345678901234450.0), "1.23456789012345E+16");
 }
 
-TEST(NumberText, WholeNumbersOfBothWidths) {
+TEST(NumberText, WholeNumbersOfBothWidthsShowAllDigits) {
   EXPECT_EQ(NumberText(Integer{-32768}), "-32768");
   EXPECT_EQ(NumberText(16384), "16384");
 }
 
-TEST(FormatNumber, OneDecimalAtLeastAndTwoAtMost) {
+TEST(FormatNumber, APatternOfTwoDecimalsShowsAtLeastOneAndAtMostTwo) {
   EXPECT_EQ(FormatNumber(1.0F, "0.#0"), "1.0");
   EXPECT_EQ(FormatNumber(1.5F, "0.#0"), "1.5");
   EXPECT_EQ(FormatNumber(1.25F, "0.#0"), "1.25");
@@ -95,7 +95,7 @@ TEST(FormatNumber, RoundsTheDecimalsThatGeneralTextShows) {
   EXPECT_EQ(FormatNumber(99.949997, "0.0"), "99.9");
 }
 
-TEST(FormatNumber, AMinusSignStaysOnWhatRoundsToZero) {
+TEST(FormatNumber, ANegativeNumberThatRoundsToZeroKeepsItsSign) {
   EXPECT_EQ(FormatNumber(-0.04F, "0.0"), "-0.0");
   EXPECT_EQ(FormatNumber(-0.04F, "#.0"), "-.0");
   EXPECT_EQ(FormatNumber(-1E-30, "0.00"), "-0.00");

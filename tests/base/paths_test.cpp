@@ -20,14 +20,14 @@ TEST(Paths, ASeparatorIsAddedOnlyWhereNoneStands) {
   EXPECT_EQ(WithSeparator("C:\\Mine\\"), "C:\\Mine\\");
 }
 
-TEST(Paths, OneSeparatorIsTakenOff) {
+TEST(Paths, OneTrailingSeparatorIsRemoved) {
   EXPECT_EQ(WithoutSeparator("/home/mine/"), "/home/mine");
   EXPECT_EQ(WithoutSeparator("C:\\Mine\\"), "C:\\Mine");
   EXPECT_EQ(WithoutSeparator("/home/mine"), "/home/mine");
   EXPECT_EQ(WithoutSeparator(""), "");
 }
 
-TEST(Paths, TheNameStandsBehindTheLastSeparatorOfEitherKind) {
+TEST(Paths, TheNameFollowsTheLastSeparatorOfEitherKind) {
   EXPECT_EQ(NameBehindSeparator("/home/mine/North.ORB"), "North.ORB");
   EXPECT_EQ(NameBehindSeparator("C:\\Mine\\North.ORB"), "North.ORB");
   EXPECT_EQ(NameBehindSeparator("/home\\mine/a\\North.ORB"), "North.ORB");
@@ -43,7 +43,7 @@ TEST(Paths, TheExtensionStartsAtTheFirstPoint) {
   EXPECT_EQ(WithoutExtension(""), "");
 }
 
-TEST(Paths, APointInFrontStartsNoExtension) { EXPECT_EQ(WithoutExtension(".hidden.ORB"), ".hidden.ORB"); }
+TEST(Paths, AnInitialPointStartsNoExtension) { EXPECT_EQ(WithoutExtension(".hidden.ORB"), ".hidden.ORB"); }
 
 TEST(ShortenedPath, FiftyCharactersAreShownWhole) {
   constexpr std::string_view path = "/home/mine/Projects/North Section/Belt Entry 4.ORB";

@@ -1,5 +1,5 @@
-// The number services against tables of measured answers. Where a measured answer is doubtful the row is left out, or
-// held against the known true answer.
+// Compares the conversions of numbers with tables of measured results. A row with a doubtful result is left out, or
+// compared with the correct result where that is known.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -26,7 +26,7 @@ namespace {
 using test::ReadTable;
 using test::TableRow;
 
-// Answers of a table's doubtful rows by line; empty where the true one is not known.
+// Returns the correct results of the doubtful rows of a table, by line. Empty where the correct result is not known.
 std::map<int, std::string> DoubtfulRows(const std::string& table) {
   enum Column { Table, Line, Key, Measured, TrueAnswer };
   std::map<int, std::string> answers;
@@ -36,7 +36,7 @@ std::map<int, std::string> DoubtfulRows(const std::string& table) {
   return answers;
 }
 
-// A row that holds: its fields, and the true answer where the measured one is wrong.
+// A row that can be compared, and its correct result where the measured one is wrong.
 struct SoundRow {
   TableRow row;
   std::optional<std::string> correction;
@@ -68,7 +68,7 @@ Float FromBits(const std::string& hex) {
 Single SingleFromBits(const std::string& hex) { return FromBits<Single, std::uint32_t>(hex); }
 double DoubleFromBits(const std::string& hex) { return FromBits<double, std::uint64_t>(hex); }
 
-TEST(ReferenceTable, GeneralTextOfASingle) {
+TEST(ReferenceTable, HoldsForTheGeneralTextOfASingle) {
   const auto rows = SoundRows("general_single.tsv");
 
   EXPECT_EQ(rows.size(), 383U);
@@ -78,7 +78,7 @@ TEST(ReferenceTable, GeneralTextOfASingle) {
   }
 }
 
-TEST(ReferenceTable, GeneralTextOfADouble) {
+TEST(ReferenceTable, HoldsForTheGeneralTextOfADouble) {
   const auto rows = SoundRows("general_double.tsv");
 
   EXPECT_EQ(rows.size(), 411U);
@@ -104,14 +104,14 @@ NumberPattern PatternNamed(std::string_view name) {
   throw std::out_of_range("no such pattern: " + std::string(name));
 }
 
-// The services measured always show the second decimal of "0.#0"; a field shows it only when it is not 0.
+// The measured results always have the second decimal of "0.#0". A field shows it only when it is not 0.
 std::string ExpectedFormat(const SoundRow& row) {
   std::string text = row.correction.value_or(row.Field(3));
   if (row.Field(2) == "0.#0" && text.ends_with('0')) text.pop_back();
   return text;
 }
 
-TEST(ReferenceTable, FormatsOfSinglesAndDoubles) {
+TEST(ReferenceTable, HoldsForFormatsOfSinglesAndDoubles) {
   enum Column { Type, Bits, Pattern };
   const auto rows = SoundRows("format.tsv");
 
@@ -124,7 +124,7 @@ TEST(ReferenceTable, FormatsOfSinglesAndDoubles) {
   }
 }
 
-TEST(ReferenceTable, DoublesAsIntegers) {
+TEST(ReferenceTable, HoldsForDoublesRoundedToIntegers) {
   enum Column { Target, Value, Status, Result, Bits };
   int integers = 0;
   int overflows = 0;
@@ -147,7 +147,7 @@ TEST(ReferenceTable, DoublesAsIntegers) {
   EXPECT_GT(overflows, 0);
 }
 
-// Value of a row that is a number; nothing when only its being one is known.
+// Returns the value of a row that is a number, or nothing when the table says only that it is a number.
 std::optional<double> KnownValue(const SoundRow& row) {
   if (!row.correction) return DoubleFromBits(row.Field(4));
   double value = 0;
@@ -156,7 +156,7 @@ std::optional<double> KnownValue(const SoundRow& row) {
   return value;
 }
 
-TEST(ReferenceTable, TextsThatAreNumbers) {
+TEST(ReferenceTable, HoldsForTextsThatAreNumbers) {
   const auto rows = SoundRows("text_to_double.tsv");
   int numbers = 0;
 

@@ -41,7 +41,7 @@ TEST(RuntimeError, NumbersWithoutATextOfTheirOwnShareOne) {
   EXPECT_EQ(RuntimeError(1004).description(), "Application-defined or object-defined error");
 }
 
-TEST(RuntimeError, SaysAfterItsTextWhatTheUserNeedsToKnowBesides) {
+TEST(RuntimeError, AppendsARemarkToItsText) {
   const RuntimeError error(error_number::DiskFull, ". The curve was written to /tmp/curve.xlsx");
 
   EXPECT_EQ(error.description(), "Disk full. The curve was written to /tmp/curve.xlsx");

@@ -14,24 +14,24 @@ std::string Excerpt(std::string_view bytes, std::size_t first, std::size_t last)
   return text;
 }
 
-TEST(AnExcerpt, HasOneKindOfLineEnds) {
+TEST(TextExcerpt, HasLineFeedsForAllLineEnds) {
   const std::string_view text = "cover\r\nspan\rwidth\n\nsafety\n";
 
   EXPECT_EQ(Excerpt(text, 0, text.size()), "cover\nspan\nwidth\n\nsafety\n");
 }
 
-TEST(AnExcerpt, BeginsAndEndsWithinLines) {
+TEST(TextExcerpt, CanBeginAndEndWithinALine) {
   EXPECT_EQ(Excerpt("cover 400\nspan 60", 6, 14), "400\nspan");
   EXPECT_EQ(Excerpt("cover 400", 2, 5), "ver");
 }
 
-TEST(AnExcerpt, ReadsEachLineInItsOwnEncoding) {
+TEST(TextExcerpt, ReadsEachLineInItsOwnEncoding) {
   const std::string_view text = "45\xB0 dip\n45\u00B0 dip";
 
   EXPECT_EQ(Excerpt(text, 0, text.size()), "45\u00B0 dip\n45\u00B0 dip");
 }
 
-TEST(AnExcerpt, ComesAPartAtATime) {
+TEST(TextExcerpt, CanBeReadInParts) {
   TextExcerpt excerpt(0, 12);
   const std::string_view text = "one\ntwo\nfour";
 
@@ -41,7 +41,7 @@ TEST(AnExcerpt, ComesAPartAtATime) {
   EXPECT_TRUE(excerpt.IsOver());
 }
 
-TEST(AnExcerpt, EndsWithTheText) { EXPECT_EQ(Excerpt("one\ntwo", 4, 900), "two"); }
+TEST(TextExcerpt, EndsAtTheEndOfTheText) { EXPECT_EQ(Excerpt("one\ntwo", 4, 900), "two"); }
 
 }  // namespace
 }  // namespace orby::test

@@ -17,7 +17,7 @@ std::vector<std::string> LinesOf(const LineIndex& index, std::string_view text) 
   return lines;
 }
 
-// The lines of a text that comes in these pieces.
+// Returns the lines of a text that arrives in these pieces.
 std::vector<std::string> LinesOf(std::initializer_list<std::string_view> pieces) {
   LineIndex index;
   std::string text;
@@ -28,24 +28,24 @@ std::vector<std::string> LinesOf(std::initializer_list<std::string_view> pieces)
   return LinesOf(index, text);
 }
 
-TEST(TheLinesOfAText, EndInAnyOfTheThreeWays) {
+TEST(LineIndex, EndsALineAtCrLfAtLfAndAtCr) {
   EXPECT_THAT(LinesOf({"cover 400 ft\r\nspan 60 ft\nwidth 20 ft\rsafety 1.5"}),
               ElementsAre("cover 400 ft", "span 60 ft", "width 20 ft", "safety 1.5"));
 }
 
-TEST(TheLinesOfAText, AreNoneInAnEmptyOne) { EXPECT_THAT(LinesOf({""}), IsEmpty()); }
+TEST(LineIndex, HasNoLineForAnEmptyText) { EXPECT_THAT(LinesOf({""}), IsEmpty()); }
 
-TEST(TheLinesOfAText, DoNotGoOnBehindTheLastEnd) {
+TEST(LineIndex, HasNoLineAfterTheLastLineEnd) {
   EXPECT_THAT(LinesOf({"bolts\r\n"}), ElementsAre("bolts"));
   EXPECT_THAT(LinesOf({"bolts\n\n"}), ElementsAre("bolts", ""));
   EXPECT_THAT(LinesOf({"\r\r\n\n"}), ElementsAre("", "", ""));
 }
 
-TEST(TheLinesOfAText, MayComeInPiecesCutAnywhere) {
+TEST(LineIndex, AcceptsATextInPiecesCutAnywhere) {
   EXPECT_THAT(LinesOf({"cov", "er\r", "\nspan\r", "width", "\n", "x"}), ElementsAre("cover", "span", "width", "x"));
 }
 
-TEST(TheLinesOfAText, GrowWithALineThatGoesOn) {
+TEST(LineIndex, ExtendsALastLineThatWasNotComplete) {
   LineIndex index;
   index.Extend("roof bo");
   EXPECT_EQ(index.Line("roof bo", 0), "roof bo");
@@ -56,7 +56,7 @@ TEST(TheLinesOfAText, GrowWithALineThatGoesOn) {
   EXPECT_EQ(index.Line("roof bolt\n", 0), "roof bolt");
 }
 
-TEST(TheLinesOfAText, AreFoundFarInside) {
+TEST(LineIndex, FindsALineFarInsideALongText) {
   std::string text;
   for (int i = 0; i < 100'000; ++i) text += "line " + std::to_string(i) + "\r\n";
   LineIndex index;
@@ -70,7 +70,7 @@ TEST(TheLinesOfAText, AreFoundFarInside) {
   EXPECT_EQ(index.Line(text, 99'999), "line 99999");
 }
 
-TEST(TheLinesOfAText, AreFoundBehindALineThatIsLongerThanMany) {
+TEST(LineIndex, FindsTheLineAfterAVeryLongLine) {
   const std::string longLine(50'000, 'x');
   const std::string text = "head\n" + longLine + "\ntail";
   LineIndex index;
@@ -80,7 +80,7 @@ TEST(TheLinesOfAText, AreFoundBehindALineThatIsLongerThanMany) {
   EXPECT_THAT(LinesOf(index, text), ElementsAre("head", longLine, "tail"));
 }
 
-TEST(TheLinesOfAText, AreEmptyWhereThereAreNone) {
+TEST(LineIndex, ReturnsAnEmptyLineForANumberBeyondTheLastLine) {
   LineIndex index;
   index.Extend("one\n");
 
@@ -88,15 +88,15 @@ TEST(TheLinesOfAText, AreEmptyWhereThereAreNone) {
   EXPECT_EQ(index.Line("one\n", 500), "");
 }
 
-TEST(TheLinesOfAText, BeginBehindTheMarkOfUtf8) {
+TEST(LineIndex, SkipsTheByteOrderMarkAtTheStartOfTheText) {
   EXPECT_THAT(LinesOf({"\xEF\xBB\xBFtitle\r\ntext"}), ElementsAre("title", "text"));
 }
 
-TEST(TheLinesOfAText, KeepAMarkOfUtf8ThatBeginsALaterLine) {
+TEST(LineIndex, KeepsAByteOrderMarkAtTheStartOfALaterLine) {
   EXPECT_THAT(LinesOf({"title\r\n\xEF\xBB\xBFtext"}), ElementsAre("title", "\xEF\xBB\xBFtext"));
 }
 
-TEST(TheLinesOfAText, AreForgottenForAnother) {
+TEST(LineIndex, ClearRemovesTheLinesOfTheOldText) {
   LineIndex index;
   index.Extend("one\ntwo\nthree");
 
@@ -108,7 +108,7 @@ TEST(TheLinesOfAText, AreForgottenForAnother) {
   EXPECT_EQ(index.Line("alone", 0), "alone");
 }
 
-TEST(TheLinesOfAText, AreFoundByAnyOfTheirBytes) {
+TEST(LineIndex, FindsALineByAnyOfItsBytes) {
   std::string text;
   for (int i = 0; i < 10'000; ++i) text += "line " + std::to_string(i) + "\r\n";
   LineIndex index;
@@ -123,14 +123,14 @@ TEST(TheLinesOfAText, AreFoundByAnyOfTheirBytes) {
   EXPECT_EQ(LineIndex().LineAt("", 5), 0U);
 }
 
-TEST(AShownLine, TellsWhereItsCharactersStand) {
+TEST(ShownLine, HasAPlaceInTheFileForEachCharacter) {
   EXPECT_THAT(ShownPlaces("a\tb"), ElementsAre(0, 1, 1, 1, 1, 1, 1, 1, 2, 3));
   EXPECT_THAT(ShownPlaces("5\u00B0 x"), ElementsAre(0, 1, 3, 4, 5));
   EXPECT_THAT(ShownPlaces("5\xB0 x"), ElementsAre(0, 1, 2, 3, 4));
   EXPECT_THAT(ShownPlaces(""), ElementsAre(0));
 }
 
-TEST(AShownLine, TellsThatItsEllipsisStandsForTheRest) {
+TEST(ShownLine, PlacesItsEllipsisWhereTheLineIsCut) {
   const std::vector<std::size_t> places = ShownPlaces(std::string(9000, 'x'));
 
   ASSERT_EQ(places.size(), 4002U);
@@ -139,33 +139,35 @@ TEST(AShownLine, TellsThatItsEllipsisStandsForTheRest) {
   EXPECT_EQ(places[4001], 9000U);
 }
 
-TEST(AShownLine, IsReadAsUtf8WhereItIsValid) { EXPECT_EQ(ShownLine("45\xC2\xB0 dip"), "45\u00B0 dip"); }
+TEST(ShownLine, IsReadAsUtf8WhenItIsValid) { EXPECT_EQ(ShownLine("45\xC2\xB0 dip"), "45\u00B0 dip"); }
 
-TEST(AShownLine, IsReadAsWindows1252Otherwise) { EXPECT_EQ(ShownLine("45\xB0 dip \x80 5"), "45\u00B0 dip \u20AC 5"); }
+TEST(ShownLine, IsReadAsWindows1252WhenItIsNotValidUtf8) {
+  EXPECT_EQ(ShownLine("45\xB0 dip \x80 5"), "45\u00B0 dip \u20AC 5");
+}
 
-TEST(AShownLine, HasItsTabsExpandedToEightColumns) {
+TEST(ShownLine, ExpandsTabsToEightColumns) {
   EXPECT_EQ(ShownLine("a\tb"), "a       b");
   EXPECT_EQ(ShownLine("\tb"), "        b");
   EXPECT_EQ(ShownLine("12345678\tb"), "12345678        b");
   EXPECT_EQ(ShownLine("\u00B0\tb"), "\u00B0       b");
 }
 
-TEST(AShownLine, HasBlanksForControlCharacters) {
+TEST(ShownLine, ShowsControlCharactersAsBlanks) {
   EXPECT_EQ(ShownLine(std::string_view("page\fend\0.\x7F", 11)), "page end . ");
 }
 
-TEST(AShownLine, OfTheMostCharactersIsWhole) {
+TEST(ShownLine, Of4000CharactersIsShownWhole) {
   const std::string line(4000, 'x');
 
   EXPECT_EQ(ShownLine(line), line);
 }
 
-TEST(AShownLine, EndsInAnEllipsisWhenItIsLonger) {
+TEST(ShownLine, OfMoreThan4000CharactersEndsInAnEllipsis) {
   EXPECT_EQ(ShownLine(std::string(4001, 'x')), std::string(4000, 'x') + "\u2026");
   EXPECT_EQ(ShownLine(std::string(3996, 'x') + "\tend"), std::string(3996, 'x') + "    \u2026");
 }
 
-TEST(AShownLine, IsStillUtf8WhenItIsCutBetweenTwoOfItsBytes) {
+TEST(ShownLine, IsNotCutWithinACharacter) {
   std::string line;
   for (int i = 0; i < 20'000; ++i) line += "\u20AC";
   std::string shown;
@@ -175,7 +177,7 @@ TEST(AShownLine, IsStillUtf8WhenItIsCutBetweenTwoOfItsBytes) {
   EXPECT_EQ(ShownLine("x" + line), "x" + shown.substr(3) + "\u2026");
 }
 
-TEST(AWholeLine, KeepsItsTabsAndAllOfItsCharacters) {
+TEST(LineText, KeepsTabsAndAllCharacters) {
   const std::string line = "a\tb" + std::string(9000, 'x');
 
   EXPECT_EQ(LineText(line), line);

@@ -13,7 +13,7 @@ using testing::IsEmpty;
 
 using enum TextSearch::Direction;
 
-// The place of the first match; -1 when there is none.
+// Returns the place of the first match, or -1 when there is none.
 int Find(std::string_view wanted, std::string_view bytes, std::size_t from = 0,
          TextSearch::Direction direction = Forward) {
   TextSearch search(wanted, bytes.size(), from, direction);
@@ -21,7 +21,7 @@ int Find(std::string_view wanted, std::string_view bytes, std::size_t from = 0,
   return match ? static_cast<int>(match->place) : -1;
 }
 
-TEST(FindingAText, GivesTheFirstPlaceFromWhereItStarts) {
+TEST(TextSearch, FindsTheFirstMatchFromItsStart) {
   const std::string_view text = "bolt row, bolt length, bolt";
 
   EXPECT_EQ(Find("bolt", text), 0);
@@ -29,13 +29,13 @@ TEST(FindingAText, GivesTheFirstPlaceFromWhereItStarts) {
   EXPECT_EQ(Find("bolt", text, 11), 23);
 }
 
-TEST(FindingAText, LooksAtTheLastCharacterToo) { EXPECT_EQ(Find("t", "a bolt"), 5); }
+TEST(TextSearch, FindsAMatchAtTheLastCharacter) { EXPECT_EQ(Find("t", "a bolt"), 5); }
 
-TEST(FindingAText, GoesOnFromTheTopAtTheEnd) { EXPECT_EQ(Find("bolt", "bolt row, cable", 5), 0); }
+TEST(TextSearch, ContinuesAtTheTopAfterTheEnd) { EXPECT_EQ(Find("bolt", "bolt row, cable", 5), 0); }
 
-TEST(FindingAText, FindsTheOneThatItStartsOnLast) { EXPECT_EQ(Find("bolt", "a bolt", 3), 2); }
+TEST(TextSearch, FindsTheMatchAroundItsStartLast) { EXPECT_EQ(Find("bolt", "a bolt", 3), 2); }
 
-TEST(FindingAText, GoesBackwards) {
+TEST(TextSearch, SearchesBackward) {
   const std::string_view text = "bolt row, bolt length, bolt";
 
   EXPECT_EQ(Find("bolt", text, 23, Backward), 10);
@@ -43,19 +43,19 @@ TEST(FindingAText, GoesBackwards) {
   EXPECT_EQ(Find("bolt", text, 0, Backward), 23);
 }
 
-TEST(FindingAText, TakesCapitalAndSmallLettersForTheSame) {
+TEST(TextSearch, IgnoresTheCaseOfLetters) {
   EXPECT_EQ(Find("CAbLe", "a cable"), 2);
   EXPECT_EQ(Find("cable", "a CABLE"), 2);
   EXPECT_EQ(Find("[c", "a {C"), -1);
 }
 
-TEST(FindingAText, FindsAccentedLettersInBothEncodings) {
+TEST(TextSearch, FindsAccentedLettersInBothEncodings) {
   EXPECT_EQ(Find("r\u00FCcken", "a R\u00DCCKEN"), 2);
   EXPECT_EQ(Find("R\u00DCcken", "a r\xFC\x63ken"), 2);
   EXPECT_EQ(Find("\u00D7", "a \u00F7"), -1);
 }
 
-TEST(FindingAText, GivesTheLengthInTheBytesThatWereFound) {
+TEST(TextSearch, ReturnsTheLengthOfTheMatchInBytes) {
   const std::string text = "45\xB0 dip";
   TextSearch search("5\u00B0", text.size(), 0, Forward);
 
@@ -66,7 +66,7 @@ TEST(FindingAText, GivesTheLengthInTheBytesThatWereFound) {
   EXPECT_EQ(match->length, 2U);
 }
 
-TEST(FindingAText, IsDoneAPartAtATime) {
+TEST(TextSearch, CanBeDoneInParts) {
   const std::string text = std::string(5000, 'x') + "bolt";
   TextSearch search("bolt", text.size(), 0, Forward);
 
@@ -79,7 +79,7 @@ TEST(FindingAText, IsDoneAPartAtATime) {
   EXPECT_EQ(match->place, 5000U);
 }
 
-TEST(FindingAText, EndsWhenEveryPlaceHasBeenLookedAt) {
+TEST(TextSearch, EndsAfterEveryPlaceHasBeenExamined) {
   const std::string text(5000, 'x');
   TextSearch search("bolt", text.size(), 4000, Backward);
 
@@ -87,7 +87,7 @@ TEST(FindingAText, EndsWhenEveryPlaceHasBeenLookedAt) {
   EXPECT_TRUE(search.IsOver());
 }
 
-TEST(FindingAText, FindsNothingInNothing) {
+TEST(TextSearch, FindsNothingInAnEmptyText) {
   EXPECT_EQ(Find("bolt", ""), -1);
   EXPECT_EQ(Find("", "bolt"), -1);
   EXPECT_EQ(Find("bolts", "bolt"), -1);

@@ -16,11 +16,11 @@ TEST(Characters, AnUmlautCountsOnce) {
   EXPECT_EQ(CharacterCount("€ 北"), 3U);
   EXPECT_EQ(CharacterCount(""), 0U);
   EXPECT_EQ(CharacterCount("Querschlag"), 10U);
-  EXPECT_EQ(CharacterCount("1234567ä90€"), 11U);  // across the eighth byte
+  EXPECT_EQ(CharacterCount("1234567ä90€"), 11U);  // a character that crosses the eighth byte
   EXPECT_EQ(CharacterCount("北北北北北北北"), 7U);
 }
 
-TEST(Characters, AnOffsetIsTheByteOfAPosition) {
+TEST(Characters, AnOffsetIsTheFirstByteOfACharacter) {
   EXPECT_EQ(CharacterOffset("Süd", 0), 0U);
   EXPECT_EQ(CharacterOffset("Süd", 1), 1U);
   EXPECT_EQ(CharacterOffset("Süd", 2), 3U);
@@ -28,14 +28,14 @@ TEST(Characters, AnOffsetIsTheByteOfAPosition) {
   EXPECT_EQ(CharacterOffset("Süd", 99), 4U);
 }
 
-TEST(Characters, TheLastOnesAreCountedFromTheEnd) {
+TEST(Characters, TheLastCharactersAreCountedFromTheEnd) {
   EXPECT_EQ(LastCharacters("Strebgrößen", 5), "rößen");
   EXPECT_EQ(LastCharacters("Süd", 3), "Süd");
   EXPECT_EQ(LastCharacters("Süd", 9), "Süd");
   EXPECT_EQ(LastCharacters("Süd", 0), "");
 }
 
-TEST(Trim, TakesBlanksOffBothEndsAndNothingElse) {
+TEST(Trim, RemovesOnlyBlanksAtBothEnds) {
   EXPECT_EQ(Trim("  roof bolt "), "roof bolt");
   EXPECT_EQ(Trim("roof"), "roof");
   EXPECT_EQ(Trim("   "), "");
@@ -58,20 +58,20 @@ std::vector<std::string_view> LinesOf(std::string_view text) {
   return lines;
 }
 
-TEST(TakeLine, EveryKindOfLineEndCounts) {
+TEST(TakeLine, EndsALineAtCrLfAtLfAndAtCr) {
   EXPECT_THAT(LinesOf("one\r\ntwo\nthree\rfour"), ElementsAre("one", "two", "three", "four"));
 }
 
-TEST(TakeLine, ALineFeedAndACarriageReturnInTheWrongOrderAreTwoEnds) {
+TEST(TakeLine, ALineFeedBeforeACarriageReturnEndsTwoLines) {
   EXPECT_THAT(LinesOf("one\n\rtwo"), ElementsAre("one", "", "two"));
 }
 
-TEST(TakeLine, AnEndAtTheEndOfTheTextOpensNoFurtherLine) {
+TEST(TakeLine, ALineEndAtTheEndOfTheTextBeginsNoLine) {
   EXPECT_THAT(LinesOf("one\r\n"), ElementsAre("one"));
   EXPECT_THAT(LinesOf("one\r\n\r\n"), ElementsAre("one", ""));
 }
 
-TEST(TakeLine, TakesTheLineOffTheRest) {
+TEST(TakeLine, RemovesTheLineFromTheRest) {
   std::string_view rest = "one\r\n two";
 
   EXPECT_EQ(TakeLine(rest), "one");
@@ -90,7 +90,7 @@ TEST(Padding, LeaderDotsStandBetweenLabelAndValue) {
   EXPECT_EQ(DotLeader("Größe", "5", 8), "Größe..5");
 }
 
-TEST(Padding, LabelAndValueThatFillTheWidthAreJoined) {
+TEST(Padding, LabelAndValueThatFillTheWidthAreJoinedWithoutDots) {
   EXPECT_EQ(DotLeader("Depth", "400", 8), "Depth400");
   EXPECT_EQ(DotLeader("Depth", "400", 7), "Depth400");
   EXPECT_EQ(DotLeader("Depth", "400", 9), "Depth.400");

@@ -45,7 +45,7 @@ TEST(TextValue, OnlyThePointIsADecimalMark) {
   EXPECT_EQ(TextValue("1,000"), 1);
 }
 
-TEST(TextValue, SignsAndPointsWithoutADigitOnOneSide) {
+TEST(TextValue, SignsAreReadAndAPointNeedsADigitOnOneSideOnly) {
   EXPECT_EQ(TextValue("+7"), 7);
   EXPECT_EQ(TextValue("-.5"), -0.5);
   EXPECT_EQ(TextValue(".5"), 0.5);
@@ -60,7 +60,7 @@ TEST(TextValue, ExponentsAreWrittenWithEOrDInEitherCase) {
   EXPECT_EQ(TextValue("2.5d-1"), 0.25);
 }
 
-TEST(TextValue, AnIncompleteExponentIsLeftOut) {
+TEST(TextValue, AnIncompleteExponentIsIgnored) {
   EXPECT_EQ(TextValue("1E"), 1);
   EXPECT_EQ(TextValue("3D"), 3);
   EXPECT_EQ(TextValue("1E+"), 1);
@@ -84,7 +84,7 @@ TEST(TextValue, OctalDigitsEndAtEight) {
   EXPECT_EQ(TextValue("&O8"), 0);
 }
 
-TEST(TextValue, ThePrefixNeedsItsLetterAndStandsFirst) {
+TEST(TextValue, AnAmpersandIsAPrefixOnlyAtTheStartAndWithItsLetter) {
   EXPECT_EQ(TextValue("&17"), 0);
   EXPECT_EQ(TextValue("-&HFF"), 0);
   EXPECT_EQ(TextValue("1&HFF"), 1);

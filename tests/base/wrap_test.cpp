@@ -53,15 +53,15 @@ TEST(WordWrapText, BlanksAtABreakAreDropped) {
   EXPECT_EQ(WordWrapText("Suggested bolt       length in feet   ", 21), "Suggested bolt      \r\nlength in feet\r\n");
 }
 
-TEST(WordWrapText, ATextWithoutABlankIsShownByItsEnd) {
+TEST(WordWrapText, ATextWithoutABlankBecomesDotsAndItsEnd) {
   EXPECT_EQ(WordWrapText("abcdefghijklmnopqrstuvwxyz", 21), "...ijklmnopqrstuvwxyz\r\n");
 }
 
-TEST(WordWrapText, ARemainderWithoutABlankIsShownByItsEndBehindTheLinesBefore) {
+TEST(WordWrapText, ARemainderWithoutABlankBecomesDotsAndItsEnd) {
   EXPECT_EQ(WordWrapText("File: /projects/north/belt/entry-04.ORB", 21), "File:\r\n.../belt/entry-04.ORB\r\n");
 }
 
-TEST(WordWrapText, ABlankInFrontBreaksAnEmptyLineOff) {
+TEST(WordWrapText, ABlankAtTheStartBreaksOffAnEmptyLine) {
   EXPECT_EQ(WordWrapText(" abcdefghijklmnopqrstu", 21), "\r\nabcdefghijklmnopqrstu\r\n");
 }
 
@@ -77,7 +77,7 @@ int WrappedLine(std::string line, std::vector<std::string>& pieces) {
   return count;
 }
 
-TEST(WrapDescriptionLine, SixtyOneCharactersWithNoBlankBehindPosition39AreCutAt60) {
+TEST(WrapDescriptionLine, SixtyOneCharactersWithNoBlankAfterPosition39AreCutAt60) {
   const std::string line = std::string(38, 'a') + " " + std::string(22, 'b');
   std::vector<std::string> pieces;
 
@@ -113,7 +113,7 @@ TEST(WrapDescriptionLine, ABlankAtPosition60IsTakenBeforeAnyOther) {
   EXPECT_THAT(pieces, ElementsAre(std::string(44, 'a') + " " + std::string(14, 'b') + " ", "ccccc"));
 }
 
-TEST(WrapDescriptionLine, ARemainderThatWouldFitIsCutOnceMore) {
+TEST(WrapDescriptionLine, ARemainderThatWouldFitIsCutToo) {
   const std::string rest = std::string(41, 'b') + " " + std::string(5, 'c');
   std::vector<std::string> pieces;
 
@@ -150,7 +150,7 @@ TEST(WrapDescriptionLine, CountsCharactersNotBytes) {
   EXPECT_EQ(pieces.at(1), "ö");
 }
 
-// Words of a report text, some of them with letters of two bytes.
+// A word of a report text. Some of its letters have two bytes.
 rc::Gen<std::string> Word(int longest) {
   return rc::gen::mapcat(rc::gen::inRange(1, longest + 1), [](int length) {
     const auto letter = rc::gen::element<std::string>("a", "k", "7", ",", "ö", "ß");
