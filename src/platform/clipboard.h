@@ -13,7 +13,7 @@ class Clipboard {
   virtual ~Clipboard() = default;
   virtual void Clear() = 0;
   virtual void SetText(const std::string& text) = 0;
-  // The picture of a chart, or of a form as it is on the screen.
+  // Sets a picture of a chart, or of a form as it is on the screen.
   virtual void SetPicture(const Control& chart) = 0;
   virtual void SetPicture(const Form& form) = 0;
 };

@@ -1,6 +1,6 @@
-// Files fetched over the network, one address into one file.
+// Downloads of files.
 //
-// Only https is spoken, or http with this machine itself; an address or a redirection to anything else fails.
+// Only https is allowed, and http to this machine itself. Any other address or redirection fails.
 #pragma once
 
 #include <cstdint>
@@ -13,16 +13,16 @@ namespace orby {
 
 struct FetchRequest {
   std::string address;
-  std::string path;             // of the file, which is replaced once all has arrived
-  std::uint64_t mostBytes = 0;  // a longer answer fails; 0: any length
-  bool resumes = false;         // goes on where an earlier fetch of this path was broken off, if the server can
+  std::string path;             // of the file, which is replaced after all bytes have arrived
+  std::uint64_t mostBytes = 0;  // a longer file fails; 0: no limit
+  bool resumes = false;         // continues an interrupted fetch of this path, if the server can
 };
 
 enum class FetchEnd {
   Done,
   NoService,     // the network or the address cannot be used at all
-  NoConnection,  // nobody answers at the address
-  Failed,        // an answer that is no file, is too long, or broke off
+  NoConnection,  // no server answers at the address
+  Failed,        // the answer is not a file, is too long, or was interrupted
 };
 
 struct FetchOutcome {
@@ -30,15 +30,15 @@ struct FetchOutcome {
   std::string sha256;  // of the whole file, 64 lower-case hexadecimal digits
 };
 
-// Both run from the event loop, never inside Start.
+// Both functions are called from the event loop, never inside Start.
 struct FetchEvents {
-  // So many bytes are there, of so many; 0 when the server does not say how many there are.
+  // `received` bytes of `total` have arrived. `total` is 0 when the server does not report it.
   std::function<void(std::uint64_t received, std::uint64_t total)> Progress;
-  std::function<void(const FetchOutcome& outcome)> Finished;  // once, last
+  std::function<void(const FetchOutcome& outcome)> Finished;  // called once, as the last event
 };
 
-// A fetch under way. Destroying it stops it without a further event; what has arrived of a file that may be resumed
-// stays beside it.
+// A running fetch. Destroying it stops the fetch without another event. The bytes received so far are kept beside the
+// file if the request allows resuming.
 class Fetch {
  public:
   virtual ~Fetch() = default;
@@ -47,11 +47,11 @@ class Fetch {
 class Downloads {
  public:
   virtual ~Downloads() = default;
-  // Nothing on a machine that cannot fetch at all.
+  // Starts a fetch. Returns null on a machine that cannot fetch at all.
   virtual std::unique_ptr<Fetch> Start(const FetchRequest& request, FetchEvents events) = 0;
-  // Copies the file into a folder that only the user has access to, where nobody can exchange it any more, and returns
-  // the path of the copy when its bytes have this SHA-256, in digits of any case; nothing when they have another. The
-  // copy stays until the next one is asked for. Throws the RuntimeError of a file that cannot be copied.
+  // Copies the file into a folder that only the user can access, so that nobody can exchange it afterwards. Returns the
+  // path of the copy if it has this SHA-256, and nothing otherwise. The hexadecimal digits may have either case. The
+  // copy exists until the next call. Throws the RuntimeError of a file that cannot be copied.
   virtual std::optional<std::string> CheckedCopy(const std::string& path, const std::string& sha256) = 0;
 };
 

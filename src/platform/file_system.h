@@ -1,4 +1,4 @@
-// Files and folders. Every failure is the RuntimeError that fits it: 52 bad name, 53 file not found, 61 disk full,
+// Files and folders. Each function throws a RuntimeError when it fails: 52 bad name, 53 file not found, 61 disk full,
 // 70 permission, 75 access, 76 path not found.
 #pragma once
 
@@ -14,12 +14,12 @@
 
 namespace orby {
 
-// A file open for writing. Destroying it closes it as it is.
+// A file open for writing. The destructor closes it and reports no error.
 class OutputFile {
  public:
   virtual ~OutputFile() = default;
   virtual void Write(std::string_view bytes) = 0;
-  // Reports a write that failed late; nothing may be written afterwards.
+  // Closes the file. Throws the RuntimeError of a write that failed late. Nothing may be written afterwards.
   virtual void Close() = 0;
 };
 
@@ -27,11 +27,11 @@ class OutputFile {
 class InputFile {
  public:
   virtual ~InputFile() = default;
-  // Reads up to `most` bytes; none at the end of the file.
+  // Reads up to `most` bytes. Returns none at the end of the file.
   virtual std::string Read(std::size_t most) = 0;
 };
 
-// A file marked as in use.
+// Marks a file as in use while it exists.
 class FileMark {
  public:
   virtual ~FileMark() = default;
@@ -41,55 +41,60 @@ class FileSystem {
  public:
   virtual ~FileSystem() = default;
 
-  // Whether a search for the path finds a file, or also a folder when folders count.
+  // Returns true if the path is a file, or a folder when `foldersToo` is true.
   virtual bool Finds(const std::string& path, bool foldersToo) = 0;
-  // The whole file, byte for byte.
+  // Returns all bytes of the file.
   virtual std::string ReadFile(const std::string& path) = 0;
   // Opens the file for reading.
   virtual std::unique_ptr<InputFile> OpenFile(const std::string& path) = 0;
-  // Bytes of the file; 0 for what has no length, such as a pipe.
+  // Returns the size of the file in bytes, or 0 for one without a size, such as a pipe.
   virtual std::uint64_t FileLength(const std::string& path) = 0;
-  // When the file was written last; nothing when that cannot be told.
+  // Returns when the file was last written, or nothing when that is not known.
   virtual std::optional<Moment> WrittenAt(const std::string& path) = 0;
-  // Opens the file for writing; an existing one is emptied at once.
+  // Opens the file for writing. An existing file is emptied at once.
   virtual std::unique_ptr<OutputFile> CreateFile(const std::string& path) = 0;
-  // Opens the file to be overwritten with `length` bytes. Old bytes, mode and links stay until they are written over. A
-  // disk that is known to lack the room is error 61, and nothing is touched. Close cuts the file to what was written.
-  // It returns once the bytes, and the name of a new file, are safe from a power cut.
+  // Opens the file to be overwritten with `length` bytes. Old bytes stay until they are overwritten, and the file keeps
+  // its mode and links. Throws RuntimeError 61 and changes nothing when the disk is known to have too little room.
+  // Close cuts the file after the last byte written. It returns after the bytes, and the name of a new file, are safe
+  // from a power cut.
   virtual std::unique_ptr<OutputFile> OpenInPlace(const std::string& path, std::uint64_t length) = 0;
   virtual void RemoveFile(const std::string& path) = 0;
-  // Takes the place of a file that has the new name, in one step; one that may not be written stays and is error 70.
+  // Renames a file, and replaces a file that has the new name in one step. Throws RuntimeError 70 when that file may
+  // not be written; it then stays.
   virtual void RenameFile(const std::string& path, const std::string& newPath) = 0;
-  // Gives the file these bytes in one step: whatever happens meanwhile, it holds its old bytes or the new ones, and the
-  // new ones are on the disk once this returns. A symbolic link stays and the file that it leads to is replaced; a file
-  // keeps its permissions. After an error the file is as it was and nothing is left beside it.
+  // Replaces the bytes of the file in one step. Even after a crash it contains either the old bytes or the new ones.
+  // The new bytes are on the disk when this returns. A symbolic link stays, and the file that it leads to is replaced.
+  // A file keeps its permissions. After an error the file is unchanged and no temporary file is left.
   virtual void ReplaceFile(const std::string& path, std::string_view bytes) = 0;
-  // Makes an empty file with the owner and the permissions of another one. The path must be free.
+  // Makes an empty file with the owner and the permissions of `model`. Requires that no file has the path.
   virtual void MakeFileLike(const std::string& path, const std::string& model) = 0;
-  // The path that a chain of symbolic links leads to, be there a file or not; the path itself if it is no link.
+  // Returns the path that a chain of symbolic links leads to, also when there is no file. Returns the path itself if it
+  // is not a link.
   virtual std::string BehindLinks(const std::string& path) = 0;
-  // Makes the folder and those above it; one that is there already is no error.
+  // Makes the folder and those above it. A folder that exists already is not an error.
   virtual void MakeFolder(const std::string& path) = 0;
-  // The same, but a folder that is made is open to its user alone. One that is there already stays as it is.
+  // Makes the folder and those above it, and gives only the user access to those that it makes. An existing folder
+  // keeps its permissions.
   virtual void MakePrivateFolder(const std::string& path) = 0;
-  // Whether files can be made in the folder.
+  // Returns true if files can be made in the folder.
   virtual bool CanWriteTo(const std::string& folder) = 0;
-  // The full paths of the files in the folder, not of the folders in it, sorted; empty when it cannot be read.
+  // Returns the sorted full paths of the files in the folder, without the folders in it. Empty when it cannot be read.
   virtual std::vector<std::string> FilesIn(const std::string& folder) = 0;
-  // The names of the folders in the folder, sorted, those that the system hides left out.
+  // Returns the sorted names of the folders in the folder, without hidden ones.
   virtual std::vector<std::string> FoldersIn(const std::string& folder) = 0;
-  // The folders at which the user's disks begin: the root of the file system first, then what else is attached.
+  // Returns the root folders of the user's disks: the root of the file system first, then those of attached disks.
   virtual std::vector<std::string> Drives() = 0;
   virtual void SetWorkingFolder(const std::string& path) = 0;
-  // The path from the root of the file system, without "." and "..", which go where the system would go.
+  // Returns the path from the root of the file system, with "." and ".." resolved as the system resolves them.
   virtual std::string AbsolutePath(const std::string& path) = 0;
-  // Marks the file as in use by this program until the mark is destroyed or the program ends in whatever way; the file
-  // is made when it is missing. Nothing when another program has it, or when it cannot be made.
+  // Marks the file as in use by this program until the mark is destroyed or the program ends, also by a crash. Makes
+  // the file when it is missing. Returns null when another program has marked the file, or when the file cannot be
+  // made.
   virtual std::unique_ptr<FileMark> TryMark(const std::string& path) = 0;
 
-  // The folder for temporary files, without the separator at its end unless the system gives one.
+  // Returns the folder for temporary files, with a trailing separator only if the system has one there.
   virtual std::string TemporaryFolder() = 0;
-  // The folder that the program was started from.
+  // Returns the folder that contains the program.
   virtual std::string ProgramFolder() = 0;
 };
 

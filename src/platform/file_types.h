@@ -1,4 +1,4 @@
-// What the desktop opens files with, by their extensions.
+// The program with which the desktop opens files of an extension.
 #pragma once
 
 #include <string>
@@ -8,8 +8,8 @@ namespace orby {
 class FileTypes {
  public:
   virtual ~FileTypes() = default;
-  // Makes this program the one that the desktop opens files of the extension with. programName: how the desktop shows
-  // it. What cannot be written or run is left out, which is no error.
+  // Makes this program open files of the extension. The desktop shows it as `programName`. A step that cannot be
+  // written or run is skipped, and is not an error.
   virtual void Associate(const std::string& extension, const std::string& programName) = 0;
 };
 

@@ -1,4 +1,4 @@
-// The message box: the program's one way to tell or ask the user something.
+// Message boxes, which show a message or ask a question.
 #pragma once
 
 #include <string>
@@ -11,7 +11,7 @@ enum class BoxIcon { None, Critical, Question, Exclamation };
 enum class BoxDefault { FirstButton, SecondButton };
 
 struct BoxStyle {
-  // Converts, so that what is usual need not be named.
+  // Implicit, so that a box without an icon or with the usual buttons needs no style.
   constexpr BoxStyle(BoxButtons buttons = BoxButtons::Ok, BoxIcon icon = BoxIcon::None,
                      BoxDefault preset = BoxDefault::FirstButton)
       : Buttons(buttons), Icon(icon), Default(preset) {}
@@ -31,13 +31,13 @@ struct MessageBox {
   std::string title;
   std::string helpFile;
   int helpContext = 0;
-  std::vector<std::string> captions = {};  // of its buttons in their order, where they differ from the usual ones
+  std::vector<std::string> captions = {};  // of its buttons from left to right; empty: the usual ones
 };
 
 class MessageBoxes {
  public:
   virtual ~MessageBoxes() = default;
-  // Shows the box, waits for its answer and returns the button.
+  // Shows the box, waits until the user closes it and returns the button.
   virtual BoxResult Show(const MessageBox& box) = 0;
 };
 

@@ -1,4 +1,4 @@
-// The surroundings of a program that runs without a desktop: nothing is shown, asked, printed or handed on.
+// A platform without a desktop. Nothing is shown, asked, printed or opened.
 #pragma once
 
 #include "base/runtime_error.h"

@@ -1,4 +1,5 @@
-// The one door to the outside, handed in at start. Everything that blocks, shows, stores or fetches goes through it.
+// Everything outside the program, as interfaces that the program receives at its start. Each call that blocks, shows,
+// stores or fetches something goes through it.
 #pragma once
 
 #include "platform/clipboard.h"

@@ -13,7 +13,7 @@ class Fonts {
   virtual ~Fonts() = default;
   virtual std::vector<std::string> ScreenFonts() = 0;
   virtual std::vector<std::string> PrinterFonts() = 0;
-  virtual std::vector<std::string> FixedPitchFonts() = 0;  // those of the screen whose letters are equally wide
+  virtual std::vector<std::string> FixedPitchFonts() = 0;  // screen fonts with characters of one width
 };
 
 class Locale {
@@ -28,7 +28,7 @@ struct Date {
   int day = 0;    // 1..31
 };
 
-// A time of day on the user's own clock.
+// A date and time in the user's time zone.
 struct Moment {
   Date date;
   int hour = 0;    // 0..23
@@ -41,17 +41,17 @@ class Clock {
   virtual ~Clock() = default;
   virtual Date Today() = 0;
   virtual Moment Now() = 0;
-  // Runs the act once, from the event loop, when so many milliseconds have passed.
+  // Calls `act` once, from the event loop, after this many milliseconds.
   virtual void CallLater(int milliseconds, std::function<void()> act) = 0;
 };
 
-// The user's own folders; nothing when the desktop does not know them.
+// The user's folders. Each function returns nothing when the desktop does not know the folder.
 class UserFolders {
  public:
   virtual ~UserFolders() = default;
   virtual std::optional<std::string> Documents() = 0;
   virtual std::optional<std::string> Desktop() = 0;
-  // Where programs keep what they add to the desktop for this user: types of files, menu entries, icons.
+  // The folder for what programs add to this user's desktop: types of files, menu entries, icons.
   virtual std::optional<std::string> Data() = 0;
 };
 

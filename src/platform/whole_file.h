@@ -1,4 +1,4 @@
-// Files that are written whole or not at all.
+// Files that are written completely or not at all.
 #pragma once
 
 #include <string>
@@ -8,7 +8,8 @@
 
 namespace orby {
 
-// Replaces the file in one step, as FileSystem::ReplaceFile does. False, with the path as it was, when that fails.
+// Replaces the file in one step as FileSystem::ReplaceFile does. Returns false and leaves the file unchanged when that
+// fails.
 bool TryWriteWhole(FileSystem& files, const std::string& path, std::string_view bytes);
 
 }  // namespace orby

@@ -1,4 +1,4 @@
-// What the program asks of the window system.
+// The windows of the desktop.
 #pragma once
 
 namespace orby {
@@ -8,11 +8,11 @@ class Form;
 class Windows {
  public:
   virtual ~Windows() = default;
-  // Shows a loaded form and returns once it is closed.
+  // Shows a loaded form and returns after it is closed.
   virtual void ShowModal(Form& form) = 0;
-  // Shows a loaded form, or brings one that is on the screen to the front, and returns at once.
+  // Shows a loaded form, or raises it to the front if it is already on the screen, and returns at once.
   virtual void Show(Form& form) = 0;
-  // Hides the main window, or shows it and makes it the one in use.
+  // Hides the main window, or shows and activates it.
   virtual void ShowMainWindow(bool visible) = 0;
   virtual void CenterForm(Form& form) = 0;
   virtual void SetWaitCursor(bool waiting) = 0;

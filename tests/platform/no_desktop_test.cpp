@@ -1,4 +1,4 @@
-// What a program meets that runs without a desktop: every question is cancelled and nothing opens.
+// A program without a desktop: every question is cancelled and nothing opens.
 #include "platform/no_desktop.h"
 
 #include <gmock/gmock.h>

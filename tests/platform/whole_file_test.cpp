@@ -34,9 +34,9 @@ TEST_F(SmallFile, IsMadeWhenItIsMissing) {
   EXPECT_THAT(files.files, ElementsAre(Pair(Configuration, "[Settings]\r\n")));
 }
 
-class FailingStep : public SmallFile, public testing::WithParamInterface<Step> {};
+class FailedStep : public SmallFile, public testing::WithParamInterface<Step> {};
 
-TEST_P(FailingStep, LeavesTheOldBytesAndNothingBeside) {
+TEST_P(FailedStep, LeavesTheOldBytesAndNoTemporaryFile) {
   files.Fail(GetParam(), 61);
 
   EXPECT_FALSE(TryWriteWhole(files, Configuration, "[Settings]\r\nUnits=1\r\n"));
@@ -44,7 +44,7 @@ TEST_P(FailingStep, LeavesTheOldBytesAndNothingBeside) {
   EXPECT_THAT(files.files, ElementsAre(Pair(Configuration, "[Settings]\r\n")));
 }
 
-INSTANTIATE_TEST_SUITE_P(OfAWrite, FailingStep, testing::Values(Step::Create, Step::Write, Step::Flush, Step::Close),
+INSTANTIATE_TEST_SUITE_P(OfAWrite, FailedStep, testing::Values(Step::Create, Step::Write, Step::Flush, Step::Close),
                          [](const auto& step) { return "Step" + std::to_string(step.index); });
 
 }  // namespace
