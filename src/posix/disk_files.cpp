@@ -63,7 +63,7 @@ class DiskInputFile : public InputFile {
 
   std::string Read(std::size_t most) override {
     std::string bytes(most, '\0');
-    std::clearerr(file_.get());  // a read may be tried again
+    std::clearerr(file_.get());  // after an error a read may be tried again
     bytes.resize(std::fread(bytes.data(), 1, most, file_.get()));
     if (std::ferror(file_.get()) != 0) throw FileError(errno, path_);
     return bytes;
@@ -85,7 +85,7 @@ class DiskFileMark : public FileMark {
   int file_;
 };
 
-// Behind a link this is the folder above the one that the link leads to.
+// Returns the folder above. For a link this is the folder above its target.
 std::filesystem::path FolderAbove(const std::filesystem::path& folder) {
   std::error_code problem;
   if (!std::filesystem::is_symlink(folder, problem)) return folder.parent_path();
@@ -103,7 +103,7 @@ bool DiskFiles::Finds(const std::string& path, bool foldersToo) {
   std::error_code problem;
   const auto status = std::filesystem::status(path, problem);
   if (status.type() == std::filesystem::file_type::not_found) return false;
-  // A folder on the way that may not be entered makes it no usable path, which is not a file that may not be used.
+  // The path has a folder that may not be entered, which is error 75 and not error 70 of a file that may not be used.
   if (problem == std::errc::permission_denied) throw RuntimeError(error_number::PathFileAccess);
   if (problem) throw FileError(problem.value(), path);
   return foldersToo || status.type() != std::filesystem::file_type::directory;
@@ -115,7 +115,7 @@ std::string DiskFiles::ReadFile(const std::string& path) {
   std::string bytes;
   if (facts.st_size > 0) bytes.resize(static_cast<std::size_t>(facts.st_size));
   bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file.get()));
-  // A pipe has no size beforehand, and a file may grow while it is read.
+  // A pipe has no known size, and a file may grow while it is read.
   char more[4096];
   for (std::size_t count = 0; (count = std::fread(more, 1, sizeof more, file.get())) > 0;) bytes.append(more, count);
   if (std::ferror(file.get()) != 0) throw FileError(errno, path);
@@ -156,7 +156,7 @@ void DiskFiles::RemoveFile(const std::string& path) {
 void DiskFiles::RenameFile(const std::string& path, const std::string& newPath) {
   CheckName(path);
   CheckName(newPath);
-  // The system asks for no more than leave to write to the folder.
+  // The system itself requires only write access to the folder.
   if (access(newPath.c_str(), W_OK) != 0 && errno != ENOENT) throw FileError(errno, newPath);
   if (std::rename(path.c_str(), newPath.c_str()) == 0) return;
   const int systemError = errno;
@@ -200,7 +200,7 @@ std::vector<std::string> DiskFiles::FoldersIn(const std::string& folder) {
   std::vector<std::string> folders;
   std::error_code problem;
   std::filesystem::directory_iterator entry(folder, problem);
-  // A folder that is missing is a path that is missing, not a file.
+  // A missing folder is error 76, path not found. The separator makes it so.
   if (problem) throw FileError(problem.value(), WithSeparator(folder));
   for (; !problem && entry != std::filesystem::directory_iterator(); entry.increment(problem)) {
     std::error_code unknown;
@@ -211,7 +211,7 @@ std::vector<std::string> DiskFiles::FoldersIn(const std::string& folder) {
   return folders;
 }
 
-// What the desktop attaches lies two or three folders down, by the name of the user and of the disk.
+// The desktop attaches disks two or three folders down, in folders named after the user and the disk.
 std::vector<std::string> DiskFiles::Drives() {
   std::vector<std::string> drives{"/"};
   std::error_code problem;
@@ -254,7 +254,7 @@ std::unique_ptr<FileMark> DiskFiles::TryMark(const std::string& path) {
   CheckName(path);
   const int file = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
   if (file < 0) return nullptr;
-  // The system takes the lock away from a program that has ended, however it ended.
+  // The system releases the lock when the program ends, also after a crash.
   if (flock(file, LOCK_EX | LOCK_NB) == 0) return std::make_unique<DiskFileMark>(file);
   close(file);
   return nullptr;

@@ -1,4 +1,4 @@
-// The file system of the machine.
+// The file system of this machine.
 #pragma once
 
 #include "platform/file_system.h"

@@ -1,4 +1,4 @@
-// What the system's file calls report, as run-time errors.
+// Run-time errors for the errors of the system's file calls.
 #pragma once
 
 #include <string>
@@ -7,11 +7,11 @@
 
 namespace orby {
 
-// The run-time error that fits a system error met on this path.
+// Returns the run-time error for a system error on this path.
 RuntimeError FileError(int systemError, const std::string& path);
 
-// Throws RuntimeError 52 for an empty name and for one with a NUL in it: the system would take such a name only up to
-// its NUL, and so meet another file than the one that was named.
+// Throws RuntimeError 52 for an empty name and for one that contains a NUL. The system would read the name only up to
+// the NUL, and so access another file.
 void CheckName(const std::string& path);
 
 }  // namespace orby

@@ -31,7 +31,7 @@ void FileHandle::Write(std::string_view bytes) {
 
 void FileHandle::Flush() {
   while (fsync(file_) != 0) {
-    // Some disks of a network know no such call.
+    // Some network disks do not support this call.
     if (errno == EINVAL || errno == ENOTSUP) return;
     if (errno != EINTR) throw FileError(errno, path_);
   }

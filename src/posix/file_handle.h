@@ -1,4 +1,4 @@
-// A file of the system, open by its number.
+// An open file of the system.
 #pragma once
 
 #include <string>
@@ -6,10 +6,10 @@
 
 namespace orby {
 
-// Each routine throws the RuntimeError of what the system reports.
+// A function that fails throws the RuntimeError of the system error.
 class FileHandle {
  public:
-  // Takes over what the system's open returned for the path: below 0 is its error.
+  // Takes ownership of the file descriptor that open() returned for the path. Throws when it is below 0.
   FileHandle(int file, const std::string& path);
   ~FileHandle();
   FileHandle(const FileHandle&) = delete;
@@ -17,9 +17,9 @@ class FileHandle {
 
   int Number() const { return file_; }
   void Write(std::string_view bytes);
-  // Returns once the disk has what was written.
+  // Returns after the written bytes are on the disk.
   void Flush();
-  // Reports a write that failed late.
+  // Closes the file. Throws the RuntimeError of a write that failed late.
   void Close();
 
  private:
@@ -27,7 +27,8 @@ class FileHandle {
   std::string path_;
 };
 
-// Puts the name of the file on the disk, which is an entry of its folder. A folder that may not be read is left alone.
+// Flushes the folder of the path, so that the name of the file is on the disk. Does nothing for a folder that may not
+// be read.
 void FlushFolder(const std::string& path);
 
 }  // namespace orby

@@ -4,7 +4,7 @@
 
 namespace orby {
 
-// A signal that is ignored stays ignored in the programs that are started; one that is handled does not.
+// A handler rather than SIG_IGN: an ignored signal stays ignored in the programs that are started.
 void SurviveFileSizeLimit() {
   std::signal(SIGXFSZ, [](int) {});
 }

@@ -18,7 +18,7 @@ namespace orby {
 namespace {
 
 constexpr int ToWrite = O_WRONLY | O_CLOEXEC;
-constexpr mode_t UsualMode = 0666;  // less what the user's mask takes away
+constexpr mode_t UsualMode = 0666;  // without the bits of the user's umask
 
 bool CannotReserve(int systemError) {
   return systemError == EOPNOTSUPP || systemError == ENOSYS || systemError == EINVAL || systemError == ENODEV;
@@ -52,10 +52,11 @@ class InPlaceFile : public OutputFile {
   }
 
  private:
-  // A pipe or a device has no length and nothing to lose.
+  // A pipe or a device has no size and no old bytes.
   bool IsRegular() const { return S_ISREG(facts_.st_mode); }
 
-  // Finds out whether there is room. The length of the file stays: until new bytes are written, it is what it was.
+  // Reserves room for `length` bytes. The size of the file stays the same until new bytes are written. Throws
+  // RuntimeError 61 when there is too little room.
   void Reserve(std::uint64_t length) const {
     const auto held = static_cast<std::uint64_t>(facts_.st_size);
     if (length <= held) return;
@@ -67,14 +68,15 @@ class InPlaceFile : public OutputFile {
     }
   }
 
-  // Asks a disk that reserves nothing. One that does not know either has the room, as far as can be told.
+  // Throws RuntimeError 61 if the free space of the disk is too small. For disks that cannot reserve room. A disk that
+  // does not know its free space is assumed to have enough.
   void FindRoom(std::uint64_t bytes) const {
     struct statvfs disk {};
     if (fstatvfs(file_.Number(), &disk) != 0 || disk.f_blocks == 0) return;
     if (static_cast<std::uint64_t>(disk.f_bavail) * disk.f_frsize < bytes) throw FileError(ENOSPC, path_);
   }
 
-  // The path behind all links; empty when the file has gone.
+  // Returns the path that all links lead to. Empty when the file no longer exists.
   std::filesystem::path OwnPath() const {
     std::error_code problem;
     return std::filesystem::canonical(path_, problem);
@@ -83,7 +85,7 @@ class InPlaceFile : public OutputFile {
   std::string path_;
   bool isNew_;
   FileHandle file_;
-  struct stat facts_ {};  // as the file was opened
+  struct stat facts_ {};  // when the file was opened
   std::uint64_t written_ = 0;
 };
 

@@ -1,4 +1,4 @@
-// A file of the machine that is written over without being emptied first.
+// A file that is overwritten without being emptied first.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,7 @@
 
 namespace orby {
 
-// Opens the file to be written over with so many bytes; see FileSystem::OpenInPlace.
+// Implements FileSystem::OpenInPlace.
 std::unique_ptr<OutputFile> OpenFileInPlace(const std::string& path, std::uint64_t length);
 
 }  // namespace orby

@@ -17,10 +17,11 @@ namespace orby {
 namespace {
 
 constexpr mode_t OwnerOnly = S_IRUSR | S_IWUSR;
-constexpr mode_t AsTheUserGives = OwnerOnly | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;  // less what the mask takes
+constexpr mode_t AsTheUserGives =
+    OwnerOnly | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;  // without the bits of the user's umask
 constexpr mode_t Permissions = 07777;
 
-// What is known of the file; nothing when there is none.
+// Returns the owner, permissions and type of the file, or nothing when there is no file.
 std::optional<struct stat> FactsOf(const std::string& path) {
   struct stat facts {};
   if (stat(path.c_str(), &facts) == 0) return facts;
@@ -30,9 +31,8 @@ std::optional<struct stat> FactsOf(const std::string& path) {
 
 // Sets the owner and the permissions of the file to those of the other one.
 //
-// Only the administrator may give a file to another owner; everybody else owns what he replaces, or may only write to
-// it and owns it from here on. Where the file cannot have the other's group either, the members of its own group may do
-// what everybody may.
+// Only the administrator may give a file to another owner. A file that any other user replaces belongs to that user
+// from then on. Where the file cannot have the group of the other one, its own group gets the permissions of everybody.
 void GiveTo(const FileHandle& file, const struct stat& other, const std::string& path) {
   mode_t mode = other.st_mode & Permissions;
   if (fchown(file.Number(), other.st_uid, other.st_gid) != 0 &&
@@ -42,7 +42,7 @@ void GiveTo(const FileHandle& file, const struct stat& other, const std::string&
   if (fchmod(file.Number(), mode) != 0) throw FileError(errno, path);
 }
 
-// A file that takes the place of another one once it is whole, and is gone when that does not come about.
+// A temporary file that replaces another one when it is complete. The destructor removes it if it has not.
 class Replacement {
  public:
   Replacement(std::string path, const std::optional<struct stat>& replaced) : path_(std::move(path)) {
@@ -78,7 +78,7 @@ class Replacement {
 
   std::string path_;
   std::string beside_;
-  std::optional<FileHandle> file_;  // until it has its place
+  std::optional<FileHandle> file_;  // until it has replaced the other file
 };
 
 }  // namespace
@@ -113,10 +113,11 @@ void MakeFileOnDiskLike(const std::string& path, const std::string& model) {
 void ReplaceFileOnDisk(const std::string& path, std::string_view bytes) {
   CheckName(path);
   const auto replaced = FactsOf(path);
-  // The system asks for no more than leave to write to the folder.
+  // The system itself requires only write access to the folder.
   if (replaced && access(path.c_str(), W_OK) != 0) throw FileError(errno, path);
   if (replaced && !S_ISREG(replaced->st_mode)) {
-    // A pipe or a device has nothing to lose and cannot be replaced; a folder is refused here.
+    // A pipe or a device cannot be replaced and has no old bytes, so it is written directly. A folder fails to open
+    // here.
     FileHandle file(open(path.c_str(), O_WRONLY | O_CLOEXEC), path);
     file.Write(bytes);
     return file.Close();

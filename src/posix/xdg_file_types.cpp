@@ -18,7 +18,7 @@ constexpr std::string_view IconFile = "orby.svg";
 constexpr std::string_view IconName = "orby";
 constexpr std::string_view DesktopEntry = "orby.desktop";
 
-// What the characters that mean something to a format are written as.
+// How a character with a meaning in a format is written.
 struct Escape {
   char Letter;
   std::string_view Written;
@@ -42,13 +42,15 @@ std::string XmlText(std::string_view text) {
   return Escaped(text, {{'&', "&amp;"}, {'<', "&lt;"}, {'>', "&gt;"}, {'"', "&quot;"}, {'\'', "&apos;"}});
 }
 
-// An argument of a command line in quotes, which is itself the value of a key: each backslash counts twice.
+// Returns an argument of a command line in quotes. The command line is itself the value of a key, so each backslash is
+// escaped twice.
 std::string QuotedArgument(std::string_view text) {
   const std::string quoted = Escaped(text, {{'"', "\\\""}, {'`', "\\`"}, {'$', "\\$"}, {'\\', "\\\\"}, {'%', "%%"}});
   return '"' + Escaped(quoted, {{'\\', "\\\\"}, {'\n', "\\n"}, {'\r', "\\r"}, {'\t', "\\t"}}) + '"';
 }
 
-// The extension as a part of a type's name: small letters, digits, "+", "-" and "."; any other byte is a "-".
+// Returns the extension as a part of a type's name: lower-case letters, digits, "+", "-" and ".". Any other byte
+// becomes "-".
 std::string TypePart(std::string_view extension) {
   std::string part;
   for (const char letter : extension) {
@@ -63,7 +65,7 @@ std::string TypePart(std::string_view extension) {
   return part;
 }
 
-// How the desktop knows the files of an extension.
+// The type that the desktop gives to the files of an extension.
 class FileType {
  public:
   explicit FileType(std::string extension)
@@ -73,7 +75,7 @@ class FileType {
   std::string DescriptionFile() const { return subtype_ + ".xml"; }
   std::string IconFile() const { return "application-" + subtype_ + ".svg"; }
 
-  // Names are matched without regard to case.
+  // The desktop matches names without regard to case.
   std::string Description() const {
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
            "<mime-info xmlns=\"http://www.freedesktop.org/standards/shared-mime-info\">\n"
@@ -96,7 +98,7 @@ std::string EntryText(const std::string& programName, const std::string& program
   return text + "Terminal=false\nCategories=Science;Engineering;\nMimeType=" + type.Name() + ";\n";
 }
 
-// The user's folder for what programs add to the desktop.
+// The user's folder for additions to the desktop.
 class DesktopData {
  public:
   DesktopData(FileSystem& files, std::string_view folder) : files_(files), folder_(WithSeparator(folder)) {}

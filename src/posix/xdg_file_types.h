@@ -1,4 +1,4 @@
-// The types of files of a desktop that follows the freedesktop.org standards: what opens them, and their icon.
+// Types of files on a desktop that follows the freedesktop.org standards: the program that opens them, and their icon.
 #pragma once
 
 #include "platform/documents.h"
@@ -9,7 +9,7 @@ namespace orby {
 
 class XdgFileTypes : public FileTypes {
  public:
-  // Writes below the user's data folder; the programs are the tools of the desktop.
+  // Writes below the user's data folder. `programs` starts the tools of the desktop.
   XdgFileTypes(FileSystem& files, UserFolders& userFolders, Documents& programs)
       : files_(files), userFolders_(userFolders), programs_(programs) {}
 

@@ -56,7 +56,7 @@ class Disk : public testing::Test {
   DiskFiles files{"/opt/orby"};
 };
 
-TEST_F(Disk, GivesBackTheBytesThatWereWritten) {
+TEST_F(Disk, ReadsTheBytesThatWereWritten) {
   const std::string bytes("Title\r\n\0\x80\xFF\x1A end\n", 17);
 
   Store(At("panel.ORB"), bytes);
@@ -64,7 +64,7 @@ TEST_F(Disk, GivesBackTheBytesThatWereWritten) {
   EXPECT_EQ(files.ReadFile(At("panel.ORB")), bytes);
 }
 
-TEST_F(Disk, JoinsWhatIsWrittenPieceByPiece) {
+TEST_F(Disk, JoinsTheBytesOfSeveralWrites) {
   const auto file = files.CreateFile(At("panel.ORB"));
 
   file->Write("ORBY_105");
@@ -75,7 +75,7 @@ TEST_F(Disk, JoinsWhatIsWrittenPieceByPiece) {
   EXPECT_EQ(files.ReadFile(At("panel.ORB")), "ORBY_105\r\n");
 }
 
-TEST_F(Disk, ReadsALargeFileWhole) {
+TEST_F(Disk, ReadsAllOfALargeFile) {
   const std::string bytes(1'000'003, 'x');
   Store(At("large.txt"), bytes);
 
@@ -88,9 +88,7 @@ TEST_F(Disk, ReadsAnEmptyFileAsNothing) {
   EXPECT_EQ(files.ReadFile(At("empty.ORB")), "");
 }
 
-TEST_F(Disk, ReadsAFileWhoseSizeIsNotKnownBeforehand) {
-  EXPECT_EQ(files.ReadFile("/proc/sys/kernel/ostype"), "Linux\n");
-}
+TEST_F(Disk, ReadsAFileOfUnknownSize) { EXPECT_EQ(files.ReadFile("/proc/sys/kernel/ostype"), "Linux\n"); }
 
 TEST_F(Disk, EmptiesAnExistingFileAsSoonAsItIsOpenedForWriting) {
   Store(At("panel.ORB"), "a longer text");
@@ -100,7 +98,7 @@ TEST_F(Disk, EmptiesAnExistingFileAsSoonAsItIsOpenedForWriting) {
   EXPECT_EQ(files.ReadFile(At("panel.ORB")), "");
 }
 
-TEST_F(Disk, KeepsWhatWasWrittenToAFileThatWasNotClosed) {
+TEST_F(Disk, KeepsTheBytesOfAFileThatWasNotClosed) {
   {
     const auto file = files.CreateFile(At("panel.ORB"));
     file->Write("half");
@@ -109,26 +107,26 @@ TEST_F(Disk, KeepsWhatWasWrittenToAFileThatWasNotClosed) {
   EXPECT_EQ(files.ReadFile(At("panel.ORB")), "half");
 }
 
-TEST_F(Disk, MissesAFileThatIsNotThere) {
+TEST_F(Disk, ReportsAMissingFile) {
   EXPECT_EQ(ErrorOfReading(At("missing.ORB")), 53);
   EXPECT_EQ(ErrorOfReading("surely-missing-in-the-working-folder.ORB"), 53);
   EXPECT_EQ(ErrorOfRemoving(At("missing.ORB")), 53);
 }
 
-TEST_F(Disk, MissesAFolderThatIsNotThere) {
+TEST_F(Disk, ReportsAMissingFolder) {
   EXPECT_EQ(ErrorOfReading(At("nowhere/panel.ORB")), 76);
   EXPECT_EQ(ErrorOfCreating(At("nowhere/panel.ORB")), 76);
   EXPECT_EQ(ErrorOfRemoving(At("nowhere/panel.ORB")), 76);
 }
 
-TEST_F(Disk, TakesNoFileForAFolder) {
+TEST_F(Disk, ReportsAPathThatUsesAFileAsAFolder) {
   Store(At("panel.ORB"), "x");
 
   EXPECT_EQ(ErrorOfReading(At("panel.ORB/other.ORB")), 76);
   EXPECT_EQ(ErrorOfCreating(At("panel.ORB/other.ORB")), 76);
 }
 
-TEST_F(Disk, TakesNoFolderForAFile) {
+TEST_F(Disk, RefusesToReadWriteOrRemoveAFolderAsAFile) {
   EXPECT_EQ(ErrorOfReading(folder), 75);
   EXPECT_EQ(ErrorOfCreating(folder), 75);
   EXPECT_EQ(ErrorOfRemoving(folder), 75);
@@ -136,9 +134,9 @@ TEST_F(Disk, TakesNoFolderForAFile) {
   EXPECT_TRUE(std::filesystem::is_directory(folder));
 }
 
-TEST_F(Disk, RefusesToWriteWhereNobodyMay) { EXPECT_EQ(ErrorOfCreating("/proc/sys/kernel/ostype"), 70); }
+TEST_F(Disk, RefusesToCreateAFileWithoutPermission) { EXPECT_EQ(ErrorOfCreating("/proc/sys/kernel/ostype"), 70); }
 
-TEST_F(Disk, RefusesToGoRoundInLinks) {
+TEST_F(Disk, RefusesACircleOfLinks) {
   std::filesystem::create_symlink(At("b"), At("a"));
   std::filesystem::create_symlink(At("a"), At("b"));
 
@@ -146,9 +144,9 @@ TEST_F(Disk, RefusesToGoRoundInLinks) {
   EXPECT_EQ(ErrorOfSearching(At("a")), 75);
 }
 
-TEST_F(Disk, TellsOfAFileThatCannotBeRead) { EXPECT_EQ(ErrorOfReading("/proc/self/mem"), 75); }
+TEST_F(Disk, ReportsAFileThatCannotBeRead) { EXPECT_EQ(ErrorOfReading("/proc/self/mem"), 75); }
 
-TEST_F(Disk, RefusesNamesThatAreNone) {
+TEST_F(Disk, RefusesEmptyAndTooLongNames) {
   const std::string tooLong = At(std::string(300, 'x'));
 
   EXPECT_EQ(ErrorOfReading(""), 52);
@@ -160,7 +158,7 @@ TEST_F(Disk, RefusesNamesThatAreNone) {
   EXPECT_EQ(ErrorOfSearching(tooLong), 52);
 }
 
-TEST_F(Disk, DoesNotTouchAnotherFileByANameWithANulInIt) {
+TEST_F(Disk, RefusesANameWithANulAndLeavesTheFileNamedBeforeTheNul) {
   Store(At("panel.ORB"), "x");
   const std::string name = At("panel.ORB") + std::string(1, '\0') + "old";
 
@@ -172,14 +170,14 @@ TEST_F(Disk, DoesNotTouchAnotherFileByANameWithANulInIt) {
   EXPECT_EQ(files.ReadFile(At("panel.ORB")), "x");
 }
 
-TEST_F(Disk, IsFullAtTheCloseOfAShortFile) {
+TEST_F(Disk, ReportsAFullDiskWhenAShortFileIsClosed) {
   const auto file = files.CreateFile("/dev/full");
   file->Write("ORBY_105\r\n");
 
   EXPECT_EQ(ErrorNumberOf([&] { file->Close(); }), 61);
 }
 
-TEST_F(Disk, IsFullInTheMiddleOfALongFile) {
+TEST_F(Disk, ReportsAFullDiskWhenALongFileIsWritten) {
   const auto file = files.CreateFile("/dev/full");
 
   EXPECT_EQ(ErrorNumberOf([&] { file->Write(std::string(1'000'000, 'x')); }), 61);
@@ -193,7 +191,7 @@ TEST_F(Disk, RemovesAFile) {
   EXPECT_FALSE(files.Finds(At("panel.ORB"), true));
 }
 
-TEST_F(Disk, FindsFilesAndOnRequestFolders) {
+TEST_F(Disk, FindsFoldersOnlyOnRequest) {
   Store(At("panel.ORB"), "x");
 
   EXPECT_TRUE(files.Finds(At("panel.ORB"), false));
@@ -203,7 +201,7 @@ TEST_F(Disk, FindsFilesAndOnRequestFolders) {
   EXPECT_TRUE(files.Finds(folder + "/", true));
 }
 
-TEST_F(Disk, FindsNothingWhereNothingIs) {
+TEST_F(Disk, FindsNoMissingFile) {
   Store(At("panel.ORB"), "x");
   std::filesystem::create_symlink(At("gone"), At("link"));
 
@@ -214,8 +212,8 @@ TEST_F(Disk, FindsNothingWhereNothingIs) {
   EXPECT_FALSE(files.Finds("", true));
 }
 
-// Reaches for files as a user without rights of his own for as long as it lives: the administrator may enter any
-// folder.
+// Accesses files as a user without permissions during its lifetime. The administrator may enter any folder, so a test
+// that runs as one needs it.
 class UserWithoutRights {
  public:
   UserWithoutRights() { setfsuid(Nobody); }
@@ -227,7 +225,7 @@ class UserWithoutRights {
   static constexpr uid_t Nobody = 65534;
 };
 
-TEST_F(Disk, SearchesNoFolderThatMayNotBeEntered) {
+TEST_F(Disk, ReportsASearchInAFolderThatMayNotBeEntered) {
   files.MakeFolder(At("locked"));
   Store(At("locked/panel.ORB"), "x");
   std::filesystem::permissions(At("locked"), std::filesystem::perms::none);
@@ -245,7 +243,7 @@ TEST_F(Disk, SearchesNoFolderThatMayNotBeEntered) {
   std::filesystem::permissions(At("locked"), std::filesystem::perms::owner_all);
 }
 
-TEST_F(Disk, KeepsTheCaseOfNamesAndTakesAnyCharacterInThem) {
+TEST_F(Disk, DistinguishesTheCaseOfNamesAndAcceptsAccentedLetters) {
   Store(At("Panel \xC3\xA9.ORB"), "upper");
   Store(At("panel \xC3\xA9.ORB"), "lower");
 
@@ -253,7 +251,7 @@ TEST_F(Disk, KeepsTheCaseOfNamesAndTakesAnyCharacterInThem) {
   EXPECT_EQ(files.ReadFile(At("panel \xC3\xA9.ORB")), "lower");
 }
 
-// The variable that names the temporary folder, given back when the test ends.
+// Sets the variable that names the temporary folder. The destructor restores it.
 class TemporaryFolderVariable {
  public:
   explicit TemporaryFolderVariable(const std::string& value) {
@@ -274,13 +272,13 @@ class TemporaryFolderVariable {
   std::optional<std::string> before_;
 };
 
-TEST_F(Disk, HasTheTemporaryFolderThatTheUserNamed) {
+TEST_F(Disk, UsesTheTemporaryFolderThatTheUserNamed) {
   const TemporaryFolderVariable variable(folder);
 
   EXPECT_EQ(files.TemporaryFolder(), folder);
 }
 
-TEST_F(Disk, MissesATemporaryFolderThatIsNoFolder) {
+TEST_F(Disk, ReportsATemporaryFolderThatIsNotAFolder) {
   Store(At("panel.ORB"), "x");
   {
     const TemporaryFolderVariable variable(At("nowhere"));
@@ -310,7 +308,7 @@ TEST_F(Disk, RenamesAFileToANameThatIsFree) {
   EXPECT_EQ(files.ReadFile(At("panel.ORB")), "new");
 }
 
-TEST_F(Disk, RefusesToRenameWhatIsNotThereOrWhereNothingCanBe) {
+TEST_F(Disk, RefusesToRenameAMissingFileOrToAnImpossiblePath) {
   Store(At("panel.tmp"), "new");
   std::filesystem::create_directory(At("folder"));
 
@@ -324,7 +322,7 @@ TEST_F(Disk, RefusesToRenameWhatIsNotThereOrWhereNothingCanBe) {
   EXPECT_EQ(files.ReadFile(At("panel.tmp")), "new");
 }
 
-TEST_F(Disk, DoesNotReplaceAFileThatNobodyMayWrite) {
+TEST_F(Disk, DoesNotRenameOverAFileThatMayNotBeWritten) {
   Store(At("panel.tmp"), "new");
 
   EXPECT_EQ(ErrorOfRenaming(At("panel.tmp"), "/proc/sys/kernel/ostype"), 70);
@@ -336,7 +334,7 @@ TEST_F(Disk, MakesAFolderAndThoseAboveIt) {
   EXPECT_TRUE(std::filesystem::is_directory(At("MyStrataDesk/ORBY/Temp")));
 }
 
-TEST_F(Disk, KeepsAFolderThatIsThere) {
+TEST_F(Disk, KeepsAnExistingFolderAndItsFiles) {
   files.MakeFolder(At("MyStrataDesk"));
   Store(At("MyStrataDesk/panel.ORB"), "x");
 
@@ -354,7 +352,7 @@ TEST_F(Disk, RefusesToMakeAFolderWhereAFileIs) {
   EXPECT_EQ(files.ReadFile(At("panel.ORB")), "x");
 }
 
-TEST_F(Disk, TellsAFolderThatCanBeWrittenFromOneThatCannot) {
+TEST_F(Disk, KnowsWhetherAFolderCanBeWrittenTo) {
   Store(At("panel.ORB"), "x");
 
   EXPECT_TRUE(files.CanWriteTo(folder));
@@ -364,7 +362,7 @@ TEST_F(Disk, TellsAFolderThatCanBeWrittenFromOneThatCannot) {
   EXPECT_FALSE(files.CanWriteTo(At("panel.ORB")));
 }
 
-// Goes back to where it was when the test ends.
+// Restores the working folder in its destructor.
 class WorkingFolderKeeper {
  public:
   WorkingFolderKeeper() : before_(std::filesystem::current_path()) {}
@@ -390,7 +388,7 @@ TEST_F(Disk, FindsRelativePathsFromTheWorkingFolder) {
   EXPECT_EQ(std::filesystem::canonical(files.AbsolutePath("panel.ORB")), std::filesystem::canonical(At("panel.ORB")));
 }
 
-TEST_F(Disk, StaysInTheWorkingFolderWhenTheNextIsNone) {
+TEST_F(Disk, KeepsTheWorkingFolderWhenTheNewOneIsNotAFolder) {
   const WorkingFolderKeeper keeper;
   files.SetWorkingFolder(folder);
   const auto before = std::filesystem::current_path();
@@ -403,12 +401,12 @@ TEST_F(Disk, StaysInTheWorkingFolderWhenTheNextIsNone) {
   EXPECT_EQ(std::filesystem::current_path(), before);
 }
 
-TEST_F(Disk, LeavesAnAbsolutePathAsItIsButForDetours) {
+TEST_F(Disk, RemovesOnlyDotsFromAnAbsolutePath) {
   EXPECT_EQ(files.AbsolutePath("/designs/North Mains.ORB"), "/designs/North Mains.ORB");
   EXPECT_EQ(files.AbsolutePath("/designs/./old/../panel.ORB"), "/designs/panel.ORB");
 }
 
-TEST_F(Disk, GoesUpFromWhereALinkLeads) {
+TEST_F(Disk, ResolvesTwoDotsAfterALinkToTheFolderAboveItsTarget) {
   std::filesystem::create_directories(At("archive/2031/north"));
   std::filesystem::create_directory_symlink(At("archive/2031/north"), At("current"));
   Store(At("archive/2031/panel.ORB"), "the one that is meant");
@@ -420,20 +418,20 @@ TEST_F(Disk, GoesUpFromWhereALinkLeads) {
   EXPECT_EQ(path, std::filesystem::canonical(At("archive/2031/panel.ORB")));
 }
 
-TEST_F(Disk, KeepsTheNameOfALinkThatIsNotGoneUpFrom) {
+TEST_F(Disk, KeepsTheNameOfALinkInAnAbsolutePath) {
   std::filesystem::create_directory(At("archive"));
   std::filesystem::create_directory_symlink(At("archive"), At("current"));
 
   EXPECT_EQ(files.AbsolutePath(At("current/./old/../panel.ORB")), At("current/panel.ORB"));
 }
 
-TEST_F(Disk, LeavesAWayUpFromABrokenLinkToTheSystem) {
+TEST_F(Disk, ReportsAPathThatGoesUpFromABrokenLink) {
   std::filesystem::create_directory_symlink(At("gone"), At("current"));
 
   EXPECT_EQ(ErrorOfReading(files.AbsolutePath(At("current/../panel.ORB"))), 76);
 }
 
-TEST_F(Disk, GivesAMarkToOneAtATime) {
+TEST_F(Disk, MarksAFileForOneProgramAtATime) {
   auto first = files.TryMark(At("run.lock"));
   const auto second = files.TryMark(At("run.lock"));
 
@@ -445,7 +443,7 @@ TEST_F(Disk, GivesAMarkToOneAtATime) {
   EXPECT_NE(files.TryMark(At("run.lock")), nullptr);
 }
 
-TEST_F(Disk, MarksTwoFilesApart) {
+TEST_F(Disk, MarksTwoFilesIndependently) {
   const auto first = files.TryMark(At("first.lock"));
   const auto second = files.TryMark(At("second.lock"));
 
@@ -453,7 +451,7 @@ TEST_F(Disk, MarksTwoFilesApart) {
   EXPECT_NE(second, nullptr);
 }
 
-TEST_F(Disk, GivesNoMarkWhereNoFileCanBe) {
+TEST_F(Disk, MarksNoFileAtAnImpossiblePath) {
   EXPECT_EQ(files.TryMark(At("nowhere/run.lock")), nullptr);
   EXPECT_EQ(files.TryMark(folder), nullptr);
 }
@@ -479,7 +477,7 @@ TEST_F(Disk, ListsTheFilesOfAFolderSortedAndWithoutTheFoldersInIt) {
   EXPECT_EQ(files.FilesIn(folder + "/"), expected);
 }
 
-TEST_F(Disk, ListsNothingWhereNothingCanBeListed) {
+TEST_F(Disk, ListsNoFilesOfAMissingFolderOrOfAFile) {
   Store(At("panel.ORB"), "x");
 
   EXPECT_TRUE(files.FilesIn(At("nowhere")).empty());
@@ -487,7 +485,7 @@ TEST_F(Disk, ListsNothingWhereNothingCanBeListed) {
   EXPECT_TRUE(files.FilesIn("").empty());
 }
 
-TEST_F(Disk, ReadsAFilePieceByPiece) {
+TEST_F(Disk, ReadsAFileInParts) {
   Store(At("log.txt"), "depth 400");
 
   const auto file = files.OpenFile(At("log.txt"));
@@ -498,14 +496,14 @@ TEST_F(Disk, ReadsAFilePieceByPiece) {
   EXPECT_EQ(file->Read(6), "");
 }
 
-TEST_F(Disk, ReadsNoFolderPieceByPiece) {
+TEST_F(Disk, RefusesToOpenAFolderOrAMissingFileForReading) {
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(files.OpenFile(folder)); }), error_number::PathFileAccess);
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(files.OpenFile(At("log.txt"))); }), error_number::FileNotFound);
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(files.FileLength(At("log.txt"))); }), error_number::FileNotFound);
   EXPECT_EQ(files.FileLength(folder), 0U);
 }
 
-TEST_F(Disk, TellsWhenAFileWasWrittenOnTheClockOnTheWall) {
+TEST_F(Disk, ReportsInLocalTimeWhenAFileWasWritten) {
   Store(At("panel.ORB"), "x");
   struct tm local {};
   local.tm_year = 131;
@@ -525,7 +523,7 @@ TEST_F(Disk, TellsWhenAFileWasWrittenOnTheClockOnTheWall) {
   EXPECT_EQ(files.WrittenAt(At("nowhere.ORB")), std::nullopt);
 }
 
-TEST_F(Disk, ListsTheFoldersOfAFolderButTheHiddenOnes) {
+TEST_F(Disk, ListsTheFoldersOfAFolderWithoutHiddenOnes) {
   files.MakeFolder(At("panel 3"));
   files.MakeFolder(At("belt entry"));
   files.MakeFolder(At(".cache"));
@@ -534,11 +532,11 @@ TEST_F(Disk, ListsTheFoldersOfAFolderButTheHiddenOnes) {
   EXPECT_THAT(files.FoldersIn(folder), testing::ElementsAre("belt entry", "panel 3"));
 }
 
-TEST_F(Disk, SaysWhyTheFoldersOfAFolderCannotBeListed) {
+TEST_F(Disk, ReportsAMissingFolderWhenItsFoldersAreListed) {
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(files.FoldersIn(At("gone"))); }), error_number::PathNotFound);
 }
 
-TEST_F(Disk, BeginsItsDrivesAtTheRoot) { EXPECT_EQ(files.Drives().front(), "/"); }
+TEST_F(Disk, ListsTheRootAsTheFirstDrive) { EXPECT_EQ(files.Drives().front(), "/"); }
 
 TEST_F(Disk, KnowsTheFolderOfTheProgram) { EXPECT_EQ(files.ProgramFolder(), "/opt/orby"); }
 

@@ -1,4 +1,4 @@
-// A file of the disk that is written over in its place.
+// Files on the disk that are overwritten in place.
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -51,7 +51,7 @@ TEST_F(InPlace, AnOldFileIsUntouchedUntilNewBytesAreWritten) {
   EXPECT_EQ(files.ReadFile(At("panel.ORB")), "the design of last week");
 }
 
-TEST_F(InPlace, AShorterTextLeavesNothingOfTheOldOne) {
+TEST_F(InPlace, AShorterTextReplacesAllOfTheOldOne) {
   Store(At("panel.ORB"), "the design of last week");
 
   WriteOver(At("panel.ORB"), "today's");
@@ -68,13 +68,13 @@ TEST_F(InPlace, ALongerTextIsWrittenWhole) {
   EXPECT_EQ(files.ReadFile(At("panel.ORB")), bytes);
 }
 
-TEST_F(InPlace, AFileThatWasMissingIsMade) {
+TEST_F(InPlace, AMissingFileIsMade) {
   WriteOver(At("panel.ORB"), "new");
 
   EXPECT_EQ(files.ReadFile(At("panel.ORB")), "new");
 }
 
-TEST_F(InPlace, AFileThatIsNotClosedKeepsTheOldEnd) {
+TEST_F(InPlace, AFileThatIsNotClosedKeepsItsOldEnd) {
   Store(At("panel.ORB"), "the design");
 
   { files.OpenInPlace(At("panel.ORB"), 3)->Write("new"); }
@@ -110,7 +110,7 @@ TEST_F(InPlace, ALinkToAMissingFileMakesTheFile) {
   EXPECT_EQ(files.ReadFile(At("panel.ORB")), "new");
 }
 
-TEST_F(InPlace, EveryNameOfAFileHasTheNewText) {
+TEST_F(InPlace, EveryHardLinkOfAFileHasTheNewText) {
   Store(At("panel.ORB"), "old");
   fs::create_hard_link(At("panel.ORB"), At("same.ORB"));
 
@@ -119,13 +119,13 @@ TEST_F(InPlace, EveryNameOfAFileHasTheNewText) {
   EXPECT_EQ(files.ReadFile(At("same.ORB")), "new");
 }
 
-TEST_F(InPlace, AFullDiskIsToldAtTheWrite) {
+TEST_F(InPlace, AFullDiskIsReportedByTheWrite) {
   const auto file = files.OpenInPlace("/dev/full", 10);
 
   EXPECT_EQ(ErrorNumberOf([&] { file->Write("ORBY_105\r\n"); }), 61);
 }
 
-TEST_F(InPlace, ALackOfRoomIsFoundBeforeTheOldBytesAreTouched) {
+TEST_F(InPlace, TooLittleRoomIsReportedBeforeTheOldBytesAreChanged) {
   Store(At("panel.ORB"), "the design of last week");
   constexpr std::uint64_t MoreThanAnyDisk = std::uint64_t{1} << 61U;
 
@@ -134,7 +134,7 @@ TEST_F(InPlace, ALackOfRoomIsFoundBeforeTheOldBytesAreTouched) {
   EXPECT_EQ(files.ReadFile(At("panel.ORB")), "the design of last week");
 }
 
-TEST_F(InPlace, ALackOfRoomLeavesNoNewFileBehind) {
+TEST_F(InPlace, TooLittleRoomLeavesNoNewFile) {
   constexpr std::uint64_t MoreThanAnyDisk = std::uint64_t{1} << 61U;
 
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(files.OpenInPlace(At("panel.ORB"), MoreThanAnyDisk)); }), 61);
@@ -142,7 +142,7 @@ TEST_F(InPlace, ALackOfRoomLeavesNoNewFileBehind) {
   EXPECT_FALSE(files.Finds(At("panel.ORB"), true));
 }
 
-TEST_F(InPlace, ALimitOnTheSizeOfFilesIsAFullDiskFoundBeforehand) {
+TEST_F(InPlace, ALimitOnTheSizeOfFilesIsReportedAsAFullDiskBeforeTheWrite) {
   Store(At("panel.ORB"), "the design of last week");
   const pid_t child = fork();
   if (child == 0) {
@@ -159,7 +159,7 @@ TEST_F(InPlace, ALimitOnTheSizeOfFilesIsAFullDiskFoundBeforehand) {
   EXPECT_EQ(files.ReadFile(At("panel.ORB")), "the design of last week");
 }
 
-TEST_F(InPlace, WhatCannotBeWrittenIsRefused) {
+TEST_F(InPlace, APathThatCannotBeWrittenIsRefused) {
   EXPECT_EQ(ErrorOfOpening("/proc/sys/kernel/ostype"), 70);
   EXPECT_EQ(ErrorOfOpening(At("nowhere/panel.ORB")), 76);
   EXPECT_EQ(ErrorOfOpening(folder.Path()), 75);

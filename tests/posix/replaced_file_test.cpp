@@ -1,4 +1,4 @@
-// Files of the disk that are replaced in one step.
+// Files on the disk that are replaced in one step.
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <signal.h>
@@ -21,13 +21,13 @@
 
 namespace {
 
-// What was flushed to the disk, by the names that the files had then.
+// The files that were flushed to the disk, by the names that they had at that time.
 std::vector<std::string>& Flushed() {
   static std::vector<std::string> names;
   return names;
 }
 
-// Errors that the next calls of each routine report instead of doing their work; 0 does it.
+// Errors that the next calls of each function report. A call with 0, or without an entry, reaches the system.
 struct {
   std::deque<int> ofFlush;
   std::deque<int> ofReserve;
@@ -44,7 +44,7 @@ bool Fails(std::deque<int>& errors) {
 
 }  // namespace
 
-// These stand before the system's own.
+// These replace the functions of the C library.
 extern "C" int fallocate(int file, int mode, off_t offset, off_t length) {
   return Fails(Errors.ofReserve) ? -1 : static_cast<int>(syscall(SYS_fallocate, file, mode, offset, length));
 }
@@ -86,7 +86,7 @@ struct ReplacedFile : testing::Test {
   DiskFiles files{"/opt/orby"};
 };
 
-TEST_F(ReplacedFile, HoldsTheNewBytesAndHasNothingBesideIt) {
+TEST_F(ReplacedFile, HasTheNewBytesAndNoTemporaryFileIsLeft) {
   folder.Store("ORBY.INI", "a longer text than the new one");
 
   files.ReplaceFile(folder.At("ORBY.INI"), std::string_view("new\0bytes", 9));
@@ -95,14 +95,14 @@ TEST_F(ReplacedFile, HoldsTheNewBytesAndHasNothingBesideIt) {
   EXPECT_THAT(folder.Names(), ElementsAre("ORBY.INI"));
 }
 
-TEST_F(ReplacedFile, MayBeOneThatWasNotThere) {
+TEST_F(ReplacedFile, IsMadeWhenItIsMissing) {
   files.ReplaceFile(folder.At("ORBY.INI"), "new");
 
   EXPECT_EQ(folder.Read("ORBY.INI"), "new");
   EXPECT_THAT(folder.Names(), ElementsAre("ORBY.INI"));
 }
 
-TEST_F(ReplacedFile, IsOnTheDiskBeforeItHasItsName) {
+TEST_F(ReplacedFile, IsFlushedToTheDiskBeforeItIsRenamed) {
   Flushed().clear();
 
   files.ReplaceFile(folder.At("ORBY.INI"), "new");
@@ -110,7 +110,7 @@ TEST_F(ReplacedFile, IsOnTheDiskBeforeItHasItsName) {
   EXPECT_THAT(Flushed(), ElementsAre(StartsWith(".orby-"), std::filesystem::path(folder.Path()).filename().string()));
 }
 
-TEST_F(ReplacedFile, KeepsThePermissionsThatItHad) {
+TEST_F(ReplacedFile, KeepsItsPermissions) {
   for (const mode_t mode : {0600U, 0640U, 0664U, 0755U}) {
     folder.Store("ORBY.INI", "old");
     chmod(folder.At("ORBY.INI").c_str(), mode);
@@ -122,7 +122,7 @@ TEST_F(ReplacedFile, KeepsThePermissionsThatItHad) {
   }
 }
 
-TEST_F(ReplacedFile, IsReadByThoseThatAnyNewFileIsReadBy) {
+TEST_F(ReplacedFile, HasTheUsualPermissionsWhenItIsNew) {
   const mode_t before = umask(027);
 
   files.ReplaceFile(folder.At("ORBY.INI"), "new");
@@ -131,7 +131,7 @@ TEST_F(ReplacedFile, IsReadByThoseThatAnyNewFileIsReadBy) {
   EXPECT_EQ(ModeOf("ORBY.INI"), 0640U);
 }
 
-TEST_F(ReplacedFile, IsTheOneThatALinkLeadsTo) {
+TEST_F(ReplacedFile, IsTheTargetOfALinkAndTheLinkStays) {
   std::filesystem::create_directory(folder.At("real"));
   folder.Store("real/settings.ini", "old");
   std::filesystem::create_symlink("real/settings.ini", folder.At("second"));
@@ -145,7 +145,7 @@ TEST_F(ReplacedFile, IsTheOneThatALinkLeadsTo) {
   EXPECT_FALSE(std::filesystem::is_symlink(folder.At("real/settings.ini")));
 }
 
-TEST_F(ReplacedFile, IsMadeWhereALinkLeadsToNothing) {
+TEST_F(ReplacedFile, IsMadeAtTheTargetOfABrokenLink) {
   std::filesystem::create_symlink("settings.ini", folder.At("ORBY.INI"));
 
   files.ReplaceFile(folder.At("ORBY.INI"), "new");
@@ -154,7 +154,7 @@ TEST_F(ReplacedFile, IsMadeWhereALinkLeadsToNothing) {
   EXPECT_EQ(folder.Read("settings.ini"), "new");
 }
 
-TEST_F(ReplacedFile, IsFoundAsTheSystemFindsItBehindALinkedFolder) {
+TEST_F(ReplacedFile, IsFoundThroughARelativeLinkInALinkedFolder) {
   std::filesystem::create_directories(folder.At("far/away"));
   std::filesystem::create_symlink("far/away", folder.At("near"));
   std::filesystem::create_symlink("../settings.ini", folder.At("far/away/ORBY.INI"));
@@ -164,7 +164,7 @@ TEST_F(ReplacedFile, IsFoundAsTheSystemFindsItBehindALinkedFolder) {
   EXPECT_EQ(folder.Read("far/settings.ini"), "new");
 }
 
-TEST_F(ReplacedFile, MayHaveANameAsLongAsNamesCanBe) {
+TEST_F(ReplacedFile, MayHaveTheLongestPossibleName) {
   const std::string name(255, 'n');
 
   files.ReplaceFile(folder.At(name), "new");
@@ -172,7 +172,7 @@ TEST_F(ReplacedFile, MayHaveANameAsLongAsNamesCanBe) {
   EXPECT_EQ(folder.Read(name), "new");
 }
 
-TEST_F(ReplacedFile, IsRefusedWhereItCannotBe) {
+TEST_F(ReplacedFile, IsRefusedAtAnImpossiblePath) {
   std::filesystem::create_directory(folder.At("folder"));
   std::filesystem::create_symlink("round", folder.At("round"));
   folder.Store("file", "x");
@@ -188,7 +188,7 @@ TEST_F(ReplacedFile, IsRefusedWhereItCannotBe) {
   EXPECT_THAT(folder.Names(), ElementsAre("file", "folder", "round"));
 }
 
-TEST_F(ReplacedFile, StaysAsItWasInAFolderThatNobodyMayWriteTo) {
+TEST_F(ReplacedFile, IsUnchangedInAFolderThatMayNotBeWrittenTo) {
   folder.Store("ORBY.INI", "old");
   chmod(folder.At("ORBY.INI").c_str(), 0666);
   chmod(folder.Path().c_str(), 0555);
@@ -204,7 +204,7 @@ TEST_F(ReplacedFile, StaysAsItWasInAFolderThatNobodyMayWriteTo) {
   EXPECT_THAT(folder.Names(), ElementsAre("ORBY.INI"));
 }
 
-TEST_F(ReplacedFile, StaysAsItWasWhenTheNewBytesAreTooMany) {
+TEST_F(ReplacedFile, IsUnchangedWhenTheNewBytesExceedTheFileSizeLimit) {
   folder.Store("ORBY.INI", "old");
   rlimit before{};
   getrlimit(RLIMIT_FSIZE, &before);
@@ -221,7 +221,7 @@ TEST_F(ReplacedFile, StaysAsItWasWhenTheNewBytesAreTooMany) {
   EXPECT_THAT(folder.Names(), ElementsAre("ORBY.INI"));
 }
 
-TEST_F(ReplacedFile, LeavesAForeignFileThatHasTheNameOfItsOwnHelper) {
+TEST_F(ReplacedFile, KeepsAnotherFileThatHasTheNameOfItsTemporaryFile) {
   const std::string foreign = ".orby-" + std::to_string(getpid()) + "-0";
   folder.Store(foreign, "foreign");
 
@@ -231,7 +231,7 @@ TEST_F(ReplacedFile, LeavesAForeignFileThatHasTheNameOfItsOwnHelper) {
   EXPECT_EQ(folder.Read("ORBY.INI"), "new");
 }
 
-TEST_F(ReplacedFile, LeavesNothingBesideItWhenItsPermissionsAreRefused) {
+TEST_F(ReplacedFile, LeavesNoTemporaryFileWhenItsPermissionsCannotBeSet) {
   folder.Store("ORBY.INI", "old");
   Errors.ofMode = {EPERM};
 
@@ -241,7 +241,7 @@ TEST_F(ReplacedFile, LeavesNothingBesideItWhenItsPermissionsAreRefused) {
   EXPECT_THAT(folder.Names(), ElementsAre("ORBY.INI"));
 }
 
-TEST_F(ReplacedFile, GivesAnotherGroupNoMoreThanEverybodyMayDo) {
+TEST_F(ReplacedFile, GivesAnotherGroupOnlyThePermissionsOfEverybody) {
   folder.Store("ORBY.INI", "old");
   chmod(folder.At("ORBY.INI").c_str(), 0664);
   Errors.ofOwner = {EPERM, EPERM};
@@ -251,7 +251,7 @@ TEST_F(ReplacedFile, GivesAnotherGroupNoMoreThanEverybodyMayDo) {
   EXPECT_EQ(ModeOf("ORBY.INI"), 0644U);
 }
 
-TEST_F(ReplacedFile, OfAnotherOwnerAndTheSameGroupKeepsThePermissionsOfTheGroup) {
+TEST_F(ReplacedFile, KeepsThePermissionsOfItsGroupWhenOnlyTheOwnerChanges) {
   folder.Store("ORBY.INI", "old");
   chmod(folder.At("ORBY.INI").c_str(), 0660);
   Errors.ofOwner = {EPERM};
@@ -261,7 +261,7 @@ TEST_F(ReplacedFile, OfAnotherOwnerAndTheSameGroupKeepsThePermissionsOfTheGroup)
   EXPECT_EQ(ModeOf("ORBY.INI"), 0660U);
 }
 
-TEST_F(ReplacedFile, IsFlushedAgainAfterASignal) {
+TEST_F(ReplacedFile, IsFlushedAgainAfterAnInterruptingSignal) {
   Errors.ofFlush = {EINTR, EINTR};
 
   EXPECT_EQ(ErrorOfReplacing(folder.At("ORBY.INI")), 0);
@@ -269,7 +269,7 @@ TEST_F(ReplacedFile, IsFlushedAgainAfterASignal) {
   EXPECT_EQ(folder.Read("ORBY.INI"), "new");
 }
 
-TEST_F(ReplacedFile, MayLieOnADiskThatCannotBeFlushed) {
+TEST_F(ReplacedFile, CanBeOnADiskThatCannotBeFlushed) {
   for (const int systemError : {EINVAL, ENOTSUP}) {
     Errors.ofFlush = {systemError};
 
@@ -277,7 +277,7 @@ TEST_F(ReplacedFile, MayLieOnADiskThatCannotBeFlushed) {
   }
 }
 
-TEST_F(ReplacedFile, IsNotReplacedWhenItsBytesDoNotReachTheDisk) {
+TEST_F(ReplacedFile, IsUnchangedWhenTheNewBytesDoNotReachTheDisk) {
   folder.Store("ORBY.INI", "old");
   Errors.ofFlush = {EIO};
 
@@ -286,7 +286,7 @@ TEST_F(ReplacedFile, IsNotReplacedWhenItsBytesDoNotReachTheDisk) {
   EXPECT_EQ(folder.Read("ORBY.INI"), "old");
 }
 
-TEST_F(ReplacedFile, IsReservedAgainAfterASignal) {
+TEST_F(ReplacedFile, ReservesItsRoomAgainAfterAnInterruptingSignal) {
   Errors.ofReserve = {EINTR};
 
   const int error = ErrorNumberOf([&] { files.OpenInPlace(folder.At("panel.ORB"), 100)->Close(); });
@@ -294,7 +294,7 @@ TEST_F(ReplacedFile, IsReservedAgainAfterASignal) {
   EXPECT_EQ(error, 0);
 }
 
-TEST_F(ReplacedFile, IsWrittenStraightWhenItIsAPipe) {
+TEST_F(ReplacedFile, IsWrittenDirectlyWhenItIsAPipe) {
   int ends[2];
   ASSERT_EQ(pipe(ends), 0);
 
@@ -306,7 +306,7 @@ TEST_F(ReplacedFile, IsWrittenStraightWhenItIsAPipe) {
   close(ends[1]);
 }
 
-TEST_F(ReplacedFile, IsWrittenStraightWhenItIsADevice) {
+TEST_F(ReplacedFile, IsWrittenDirectlyWhenItIsADevice) {
   files.ReplaceFile("/dev/null", "new");
 
   EXPECT_EQ(ErrorOfReplacing("/dev/full"), 61);

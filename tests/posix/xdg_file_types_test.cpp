@@ -27,7 +27,7 @@ struct XdgFileAssociation : testing::Test {
 
   std::string& File(const std::string& path) { return platform.files.files[path]; }
 
-  // The line of the desktop entry that begins like this; empty without one.
+  // Returns the line of the desktop entry that begins with this text. Empty when there is none.
   std::string EntryLine(const std::string& begin) {
     const std::string& text = File(Entry);
     const std::size_t at = text.find("\n" + begin);
@@ -73,7 +73,7 @@ TEST_F(XdgFileAssociation, GivesProgramAndFilesTheirIcon) {
   EXPECT_EQ(File(icons + "mimetypes/application-x-orby-orb.svg"), "<svg/>");
 }
 
-TEST_F(XdgFileAssociation, LeavesTheIconOutWhenTheProgramCameWithoutOne) {
+TEST_F(XdgFileAssociation, HasNoIconWhenTheProgramHasNone) {
   platform.files.files.clear();
 
   Associate();
@@ -82,7 +82,7 @@ TEST_F(XdgFileAssociation, LeavesTheIconOutWhenTheProgramCameWithoutOne) {
   EXPECT_EQ(EntryLine("Icon="), "");
 }
 
-TEST_F(XdgFileAssociation, TellsTheDesktop) {
+TEST_F(XdgFileAssociation, UpdatesTheDatabasesOfTheDesktop) {
   Associate();
 
   EXPECT_THAT(platform.documents.ran,
@@ -106,13 +106,13 @@ TEST_F(XdgFileAssociation, KeepsAnExtensionWithOddCharactersReadable) {
   EXPECT_EQ(EntryLine("MimeType="), "MimeType=application/x-orby-a-b-2-;");
 }
 
-TEST_F(XdgFileAssociation, KeepsLettersDigitsPlusMinusAndPointOfTheExtensionInTheNameOfItsType) {
+TEST_F(XdgFileAssociation, KeepsLettersDigitsPlusMinusAndPointInTheNameOfTheType) {
   Associate("AZaz09+-.");
 
   EXPECT_EQ(EntryLine("MimeType="), "MimeType=application/x-orby-azaz09+-.;");
 }
 
-TEST_F(XdgFileAssociation, ReplacesTheNeighboursOfThoseCharactersByAMinus) {
+TEST_F(XdgFileAssociation, ReplacesOtherCharactersByAMinusInTheNameOfTheType) {
   Associate("x@[`{/:,");
 
   EXPECT_EQ(EntryLine("MimeType="), "MimeType=application/x-orby-x-------;");
@@ -128,7 +128,7 @@ TEST_F(XdgFileAssociation, TriesEveryStepWhenNothingCanBeWrittenOrRun) {
   EXPECT_THAT(platform.documents.ran, SizeIs(3));
 }
 
-TEST_F(XdgFileAssociation, DoesNothingWithoutAFolderForIt) {
+TEST_F(XdgFileAssociation, DoesNothingWithoutADataFolderOfTheUser) {
   platform.userFolders.data.reset();
 
   Associate();
@@ -137,7 +137,7 @@ TEST_F(XdgFileAssociation, DoesNothingWithoutAFolderForIt) {
   EXPECT_THAT(platform.documents.ran, IsEmpty());
 }
 
-// A folder of the program with every character that means something on a command line.
+// A program folder with every character that has a meaning on a command line.
 class OddlyPlacedFiles : public MemoryFiles {
  public:
   std::string ProgramFolder() override { return "/opt/my \"tools\"/a$b`c\\d%e"; }
