@@ -200,6 +200,15 @@ class Window:
         take_picture(name, "-crop", f"{width}x{height}+{left}+{top}", "+repage")
 
 
+def state_of(process):
+    """The letter for what a process is doing; Z once it has ended."""
+    try:
+        with open(f"/proc/{process}/stat", encoding="utf-8") as file:
+            return file.read().rpartition(")")[2].split()[0]
+    except FileNotFoundError:
+        return "Z"
+
+
 class Grandchild:
     """A process that the program started, with the part of Popen that a run needs."""
 
@@ -208,11 +217,7 @@ class Grandchild:
 
     def poll(self):
         """None while it runs. Its status is known to its own parent alone."""
-        try:
-            with open(f"/proc/{self.pid}/stat", encoding="utf-8") as file:
-                return 0 if file.read().rpartition(")")[2].split()[0] == "Z" else None
-        except FileNotFoundError:
-            return 0
+        return 0 if state_of(self.pid) == "Z" else None
 
     def send_signal(self, number):
         os.kill(self.pid, number)
@@ -315,6 +320,14 @@ class Run:
         return self.process.wait(PATIENCE)
 
     def kill(self):
+        """Stops the program at once, and kills it when the window manager has put up what the program has shown.
+
+        A window that ends before the window manager puts it up stays in the window manager's list for good. The window
+        of a later run that has the same number then never comes up.
+        """
+        self.process.send_signal(signal.SIGSTOP)
+        until(lambda: state_of(self.process.pid) in "TZ", "a stopped program")
+        settle_window_manager()
         self.process.send_signal(signal.SIGKILL)
         self.process.wait()
 
