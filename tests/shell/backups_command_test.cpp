@@ -1,4 +1,4 @@
-// The way from the menu to the backups and back with a project.
+// The Backups command of the main window, and the way back with a project.
 #include "dialogs/backups_window.h"
 #include "files/backups.h"
 #include "main_window_fixture.h"
@@ -19,7 +19,7 @@ struct TheBackupsCommand : MainWindowTest {
     program.session.settings.DataPath = "/designs/";
   }
 
-  // An overwritten file of panel 4 and, newer, unsaved changes of panel 3.
+  // Leaves two backups: an overwritten file of panel 4 and, newer, unsaved changes of panel 3.
   void KeepTwo() {
     KeepBackup(program, Panel4, DesignAt(980), BackupReason::Overwritten);
     OpenByDialog(Panel3);
@@ -31,7 +31,7 @@ struct TheBackupsCommand : MainWindowTest {
     platform.boxes.shown.clear();
   }
 
-  // Opens the window from the menu, and this is what the user does in it.
+  // Opens the window from the menu and lets the user do `act` in it.
   void UseFromMenu(const std::function<void(BackupsWindow&)>& act) {
     platform.windows.onModal = [&](Form& form) {
       if (auto* shown = dynamic_cast<BackupsWindow*>(&form)) act(*shown);
@@ -40,7 +40,7 @@ struct TheBackupsCommand : MainWindowTest {
   }
 };
 
-TEST_F(TheBackupsCommand, OpensOneAsAnUnsavedProjectUnderItsOldName) {
+TEST_F(TheBackupsCommand, OpensABackupAsAnUnsavedProjectUnderItsOldName) {
   KeepTwo();
 
   UseFromMenu([](BackupsWindow& shown) { shown.cmdOpen.Press(); });
@@ -55,7 +55,7 @@ TEST_F(TheBackupsCommand, OpensOneAsAnUnsavedProjectUnderItsOldName) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(TheBackupsCommand, OpensAnOverwrittenFileToo) {
+TEST_F(TheBackupsCommand, OpensTheBackupOfAnOverwrittenFile) {
   KeepTwo();
 
   UseFromMenu([](BackupsWindow& shown) {
@@ -69,7 +69,7 @@ TEST_F(TheBackupsCommand, OpensAnOverwrittenFileToo) {
   EXPECT_FALSE(program.project.FileEmpty);
 }
 
-TEST_F(TheBackupsCommand, OpensAFileOfUnknownFolderAsOneOfTheDataFolder) {
+TEST_F(TheBackupsCommand, OpensABackupOfUnknownFolderInTheDataFolder) {
   KeepTwo();
   platform.files.files.erase(Store + "2031-03-09 14.05.07 00001.about");
 
@@ -82,7 +82,7 @@ TEST_F(TheBackupsCommand, OpensAFileOfUnknownFolderAsOneOfTheDataFolder) {
   EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 980);
 }
 
-TEST_F(TheBackupsCommand, AsksForTheUnsavedChangesOfThePresentProjectBeforeItOpensOne) {
+TEST_F(TheBackupsCommand, AsksAboutUnsavedChangesBeforeItOpensABackup) {
   KeepTwo();
   OpenByDialog(Panel4);
   program.project.WorkParms.Place.DepthofCover = 1010;
@@ -96,7 +96,7 @@ TEST_F(TheBackupsCommand, AsksForTheUnsavedChangesOfThePresentProjectBeforeItOpe
   EXPECT_EQ(ListBackups(program).front().Project, Panel4) << "what was not saved is kept in its turn";
 }
 
-TEST_F(TheBackupsCommand, KeepsThePresentProjectWhenItsChangesCannotBeSaved) {
+TEST_F(TheBackupsCommand, StaysInTheOpenProjectIfItsChangesCannotBeSaved) {
   KeepTwo();
   program.project.FileSaved = false;
   platform.boxes.answers = {BoxResult::Yes};

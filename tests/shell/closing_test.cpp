@@ -13,7 +13,7 @@ struct Closing : MainWindowTest {
   void Exit() { window.mnuFileItem.ClickItem(FileItem::Exit); }
 };
 
-TEST_F(Closing, ASavedProjectAsksNothing) {
+TEST_F(Closing, ASavedProjectNeedsNoQuestion) {
   OpenByDialog(Panel3);
   platform.boxes.shown.clear();
 
@@ -23,7 +23,7 @@ TEST_F(Closing, ASavedProjectAsksNothing) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(Closing, AnUnsavedProjectAsks) {
+TEST_F(Closing, AnUnsavedProjectAsksWhetherToSave) {
   EditPanel3();
   platform.boxes.answers = {BoxResult::Cancel};
 
@@ -44,7 +44,7 @@ TEST_F(Closing, IsStoppedByCancel) {
   EXPECT_FALSE(program.project.FileSaved);
 }
 
-TEST_F(Closing, WithoutSavingIsANo) {
+TEST_F(Closing, LeavesTheFileUnchangedOnNo) {
   EditPanel3();
   platform.boxes.answers = {BoxResult::No};
 
@@ -79,7 +79,7 @@ TEST_F(Closing, ShowsTheNewNameOfAProjectThatCouldNotBeSavedUnderIt) {
   EXPECT_EQ(ReadRecovery(FileAt(RecoveryPath))->CurrentFile, "/designs/new.orb");
 }
 
-TEST_F(Closing, AsksAnUntitledProjectForItsName) {
+TEST_F(Closing, AsksForTheNameOfAnUntitledProject) {
   program.project.FileSaved = false;
   platform.boxes.answers = {BoxResult::Yes};
   platform.fileDialogs.answers = {"/designs/new.orb"};
@@ -93,7 +93,7 @@ TEST_F(Closing, AsksAnUntitledProjectForItsName) {
   EXPECT_THAT(FileAt(IniPath), HasSubstr("LastFileLong1=/designs/new.orb\r\n"));
 }
 
-TEST_F(Closing, IsStoppedWhenTheNameIsNotGiven) {
+TEST_F(Closing, IsStoppedIfTheUserGivesNoName) {
   program.project.FileSaved = false;
   platform.boxes.answers = {BoxResult::Yes};
 
@@ -113,7 +113,7 @@ TEST_F(Closing, IsStoppedByASaveThatFails) {
   EXPECT_FALSE(program.project.FileSaved);
 }
 
-TEST_F(Closing, AsksForAnUnsavedProjectThoughItIsEmpty) {
+TEST_F(Closing, AsksAboutAnUnsavedProjectEvenIfItIsEmpty) {
   program.project.FileSaved = false;
   program.project.FileEmpty = true;
   platform.boxes.answers = {BoxResult::Cancel};
@@ -132,7 +132,7 @@ TEST_F(Closing, WritesTheRecentFilesAndNothingElse) {
             "LastFileLong1=/designs/panel3.orb\r\n");
 }
 
-TEST_F(Closing, TakesTheHelpWithIt) {
+TEST_F(Closing, ClosesTheHelp) {
   EditPanel3();
   platform.boxes.answers = {BoxResult::Cancel, BoxResult::No};
 

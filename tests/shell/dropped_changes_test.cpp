@@ -1,4 +1,4 @@
-// What becomes of changes that the user drops: they are in the backups.
+// Changes that the user drops go to the backups.
 
 #include "base/number_text.h"
 #include "dialogs/cost_dialog.h"
@@ -16,7 +16,7 @@ using testing::IsEmpty;
 struct DroppedChanges : MainWindowTest {
   DroppedChanges() { program.session.folders.ProgramData = "/home/user/Documents/Orby/"; }
 
-  // "/designs/panel3.orb at 800", one text for each backup, the newest first.
+  // Returns a text such as "/designs/panel3.orb at 800" for each backup, the newest first.
   std::vector<std::string> Kept() {
     std::vector<std::string> kept;
     for (const Backup& entry : ListBackups(program)) {
@@ -27,7 +27,7 @@ struct DroppedChanges : MainWindowTest {
     return kept;
   }
 
-  // Opens the dialog, types another depth of cover and closes it.
+  // Opens the dialog, changes a field with `edit` and cancels.
   template <class Dialog>
   void EditAndCancel(EditItem item, const std::function<void(Dialog&)>& edit) {
     platform.windows.onModal = [&](Form& form) {
@@ -39,7 +39,7 @@ struct DroppedChanges : MainWindowTest {
   }
 };
 
-TEST_F(DroppedChanges, AreKeptByNew) {
+TEST_F(DroppedChanges, AreBackedUpByNew) {
   EditPanel3();
 
   window.mnuFileItem.ClickItem(FileItem::New);
@@ -50,7 +50,7 @@ TEST_F(DroppedChanges, AreKeptByNew) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(DroppedChanges, AreKeptByOpenOnNo) {
+TEST_F(DroppedChanges, AreBackedUpByOpenOnNo) {
   EditPanel3();
   platform.boxes.answers = {BoxResult::No};
 
@@ -60,7 +60,7 @@ TEST_F(DroppedChanges, AreKeptByOpenOnNo) {
   EXPECT_EQ(program.project.CurrentFile, Panel4);
 }
 
-TEST_F(DroppedChanges, AreKeptByARecentFileOnNo) {
+TEST_F(DroppedChanges, AreBackedUpByARecentFileOnNo) {
   OpenByDialog(Panel4);
   EditPanel3();
   platform.boxes.answers = {BoxResult::No};
@@ -71,7 +71,7 @@ TEST_F(DroppedChanges, AreKeptByARecentFileOnNo) {
   EXPECT_EQ(program.project.CurrentFile, Panel4);
 }
 
-TEST_F(DroppedChanges, AreKeptByADroppedFileOnNo) {
+TEST_F(DroppedChanges, AreBackedUpByADroppedFileOnNo) {
   EditPanel3();
   platform.boxes.answers = {BoxResult::No};
 
@@ -80,7 +80,7 @@ TEST_F(DroppedChanges, AreKeptByADroppedFileOnNo) {
   EXPECT_THAT(Kept(), ElementsAre("/designs/panel3.orb at 800"));
 }
 
-TEST_F(DroppedChanges, AreKeptByTheFileOfTheCommandLineOnNo) {
+TEST_F(DroppedChanges, AreBackedUpByTheFileOfTheCommandLineOnNo) {
   EditPanel3();
   platform.boxes.answers = {BoxResult::No};
 
@@ -89,7 +89,7 @@ TEST_F(DroppedChanges, AreKeptByTheFileOfTheCommandLineOnNo) {
   EXPECT_THAT(Kept(), ElementsAre("/designs/panel3.orb at 800"));
 }
 
-TEST_F(DroppedChanges, AreKeptByClosingOnNo) {
+TEST_F(DroppedChanges, AreBackedUpByClosingOnNo) {
   EditPanel3();
   platform.boxes.answers = {BoxResult::No};
 
@@ -98,7 +98,7 @@ TEST_F(DroppedChanges, AreKeptByClosingOnNo) {
   EXPECT_THAT(Kept(), ElementsAre("/designs/panel3.orb at 800"));
 }
 
-TEST_F(DroppedChanges, AreKeptWhenTheParametersAreCancelled) {
+TEST_F(DroppedChanges, AreBackedUpWhenTheParametersAreCancelled) {
   OpenByDialog(Panel3);
 
   EditAndCancel<ParametersDialog>(EditItem::Parameters, [](auto& dialog) { dialog.txtDepthofCover.SetText("910"); });
@@ -107,7 +107,7 @@ TEST_F(DroppedChanges, AreKeptWhenTheParametersAreCancelled) {
   EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 725);
 }
 
-TEST_F(DroppedChanges, AreKeptWhenTheCostsAreCancelled) {
+TEST_F(DroppedChanges, AreBackedUpWhenTheCostsAreCancelled) {
   OpenByDialog(Panel3);
 
   EditAndCancel<CostDialog>(EditItem::Cost, [](auto& dialog) { dialog.txtBoltCost.SetText("7.5"); });
@@ -116,7 +116,7 @@ TEST_F(DroppedChanges, AreKeptWhenTheCostsAreCancelled) {
   EXPECT_EQ(ReadRecovery(FileAt(ListBackups(program).front().Path))->WorkParms.Cost.BoltCost, 7.5F);
 }
 
-TEST_F(DroppedChanges, AreNoneOfADialogThatIsCancelledUnchanged) {
+TEST_F(DroppedChanges, DoNotIncludeADialogCancelledWithoutChanges) {
   OpenByDialog(Panel3);
 
   EditAndCancel<ParametersDialog>(EditItem::Parameters, [](auto&) {});
@@ -125,7 +125,7 @@ TEST_F(DroppedChanges, AreNoneOfADialogThatIsCancelledUnchanged) {
   EXPECT_THAT(Kept(), IsEmpty());
 }
 
-TEST_F(DroppedChanges, AreNoneOfADialogThatIsAccepted) {
+TEST_F(DroppedChanges, DoNotIncludeAnAcceptedDialog) {
   OpenByDialog(Panel3);
 
   EditAndCancel<ParametersDialog>(EditItem::Parameters, [](ParametersDialog& dialog) {
@@ -138,7 +138,7 @@ TEST_F(DroppedChanges, AreNoneOfADialogThatIsAccepted) {
   EXPECT_THAT(Kept(), IsEmpty());
 }
 
-TEST_F(DroppedChanges, AreNoneOfASavedProject) {
+TEST_F(DroppedChanges, DoNotIncludeASavedProject) {
   OpenByDialog(Panel3);
   window.mnuFileItem.ClickItem(FileItem::New);
   OpenByDialog(Panel4);
@@ -147,7 +147,7 @@ TEST_F(DroppedChanges, AreNoneOfASavedProject) {
   EXPECT_THAT(Kept(), IsEmpty());
 }
 
-TEST_F(DroppedChanges, AreToldOnceWhenTheyCannotBeKept) {
+TEST_F(DroppedChanges, AreReportedOnceIfTheyCannotBeBackedUp) {
   EditPanel3();
   platform.files.Fail(MemoryFiles::Step::Create, error_number::DiskFull);
 
@@ -158,7 +158,7 @@ TEST_F(DroppedChanges, AreToldOnceWhenTheyCannotBeKept) {
   EXPECT_EQ(program.project.CurrentFile, "Untitled");
 }
 
-// The ways in which a project with unsaved changes is given up. In each the disk has no room for a backup of them.
+// The ways to drop a project with unsaved changes, on a disk without room for a backup.
 struct GivenUpOnAFullDisk : DroppedChanges {
   GivenUpOnAFullDisk() {
     EditPanel3();

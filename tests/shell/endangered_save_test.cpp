@@ -1,5 +1,5 @@
-// A save that ends, or that meets a disk that fails, at each of its steps: afterwards the project is found as it was
-// saved last, or as it was typed last.
+// A save is cut off or meets a failing disk at each of its steps. Afterwards the project is on the disk, either as last
+// saved or as last typed.
 
 #include <cstdio>
 #include <map>
@@ -21,12 +21,12 @@ struct Row {
   const char* name;
   Danger danger;
   bool hasBackups;
-  const char* target;  // what is saved over
+  const char* target;  // the file that is saved over
 };
 
 void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
 
-// An edited project; its save is to end at a step.
+// An edited project whose save is cut off or fails at a step.
 class EndangeredSave {
  public:
   explicit EndangeredSave(const Row& row) : row_(row) {
@@ -43,13 +43,13 @@ class EndangeredSave {
       dynamic_cast<Button&>(*form.Find("Command2")).Press();
     };
     window_.mnuEditItem.ClickItem(EditItem::Parameters);
-    // All that was written before the save has long been on the disk.
+    // Everything that was written before the save is already on the disk.
     platform_.files.onDisk = files;
     platform_.boxes.answers.assign(9, BoxResult::Cancel);
     platform_.fileDialogs.answers = {row.target};
   }
 
-  // Saves until the step after so many others; false when the save has no such step.
+  // Saves and fails after this many steps. Returns false if the save has no such step.
   bool RunUntil(int after) {
     MemoryFiles& files = platform_.files;
     switch (row_.danger) {
@@ -65,13 +65,14 @@ class EndangeredSave {
     return files.HasFailed();
   }
 
-  // What is on the disk for sure, and what may be there besides.
+  // Returns the possible contents of the disk: the flushed files, and after a power cut possibly also the unflushed
+  // ones.
   std::vector<const Files*> Images() const {
     if (!powerIsCut_) return {&platform_.files.files};
     return {&platform_.files.onDisk, &platform_.files.files};
   }
 
-  // Where the last saved or the last typed state is in these files; empty: it is lost.
+  // Returns where these files hold the last saved or last typed state; empty if it is lost.
   std::string Found(const Files& files) const {
     const auto held = files.find(row_.target);
     const std::string bytes = held == files.end() ? "" : held->second;
@@ -84,7 +85,7 @@ class EndangeredSave {
     return project && project->WorkParms.Place.DepthofCover == 810 ? "recovery, as last typed" : "";
   }
 
-  // Whether Backups has the old bytes.
+  // Returns true if the backups hold the old bytes.
   bool IsKept(const Files& files) const {
     return std::ranges::any_of(files, [&](const auto& file) {
       return file.first.starts_with("/home/user/Documents/Orby/Backups/") && file.second == old_;
@@ -119,7 +120,7 @@ class EndangeredSave {
 
 class SaveInDanger : public testing::TestWithParam<Row> {};
 
-TEST_P(SaveInDanger, LosesNothingAtAnyOfItsSteps) {
+TEST_P(SaveInDanger, LosesNoDataAtAnyStep) {
   const Row& row = GetParam();
   std::map<std::string, int> table;
   int after = 0;

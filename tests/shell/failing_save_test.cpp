@@ -1,4 +1,4 @@
-// A save that fails at any of its steps: the program lives on, says what happened, and saves when asked again.
+// A save fails at each of its steps: the program continues, reports the error, and saves when asked again.
 
 #include "main_window_fixture.h"
 
@@ -12,10 +12,10 @@ using Step = MemoryFiles::Step;
 struct FailingStep {
   const char* name;
   Step step;
-  int after;  // steps of the kind that succeed first
+  int after;  // the number of successful steps of this kind before the failure
 };
 
-// The user makes room on the disk while the box is up, then answers it.
+// While a box is open, the user makes room on the disk and then answers it.
 class MendingBoxes : public MessageBoxes {
  public:
   explicit MendingBoxes(MemoryFiles& files) : files_(files) {}

@@ -1,4 +1,4 @@
-// The commands of the File menu and what they leave behind.
+// The commands of the File menu and their effects.
 
 #include <array>
 
@@ -45,7 +45,7 @@ TEST_F(FileMenu, NewLeavesNothingToRecover) {
   EXPECT_FALSE(Exists(RecoveryPath));
 }
 
-TEST_F(FileMenu, NewShowsTheParametersWhenTheOptionsWantIt) {
+TEST_F(FileMenu, NewShowsTheParametersIfTheOptionsSaySo) {
   program.session.options.ShowInputScreenOnLoad = 1;
 
   Choose(FileItem::New);
@@ -55,7 +55,7 @@ TEST_F(FileMenu, NewShowsTheParametersWhenTheOptionsWantIt) {
 
 // ---- Open -----------------------------------------------------------------------------------------------------------
 
-TEST_F(FileMenu, OpenTakesTheChosenFile) {
+TEST_F(FileMenu, OpenLoadsTheChosenFile) {
   OpenByDialog(Panel3);
 
   EXPECT_EQ(program.project.PreviousFile, "Untitled");
@@ -70,7 +70,7 @@ TEST_F(FileMenu, OpenTakesTheChosenFile) {
   EXPECT_EQ(platform.windows.modalForms, 0);
 }
 
-TEST_F(FileMenu, OpenShowsTheParametersWhenTheOptionsWantIt) {
+TEST_F(FileMenu, OpenShowsTheParametersIfTheOptionsSaySo) {
   program.session.options.ShowInputScreenOnLoad = 1;
 
   OpenByDialog(Panel3);
@@ -95,7 +95,7 @@ TEST_F(FileMenu, OpenThatIsCancelledChangesNothing) {
   EXPECT_FALSE(program.project.FileSaved);
 }
 
-TEST_F(FileMenu, OpenAsksToSaveTheProjectBefore) {
+TEST_F(FileMenu, OpenAsksToSaveTheOldProjectFirst) {
   EditPanel3();
   platform.boxes.answers = {BoxResult::Yes};
 
@@ -107,7 +107,7 @@ TEST_F(FileMenu, OpenAsksToSaveTheProjectBefore) {
   EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 980);
 }
 
-TEST_F(FileMenu, OpenIsStoppedWhenTheProjectBeforeCannotBeSaved) {
+TEST_F(FileMenu, OpenIsStoppedIfTheOldProjectCannotBeSaved) {
   OpenByDialog(Panel3);
   platform.windows.onModal = [](Form& form) {
     dynamic_cast<TextBox&>(*form.Find("txtDepthofCover")).SetText("800");
@@ -128,7 +128,7 @@ TEST_F(FileMenu, OpenIsStoppedWhenTheProjectBeforeCannotBeSaved) {
   EXPECT_EQ(window.mnuFileArray.Caption(1), Panel3);
 }
 
-TEST_F(FileMenu, ARecentFileIsNotOpenedWhenTheSaveBeforeIsCancelled) {
+TEST_F(FileMenu, ARecentFileIsNotOpenedIfTheSaveOfTheOldProjectIsCancelled) {
   OpenByDialog(Panel4);
   window.mnuFileItem.ClickItem(FileItem::New);
   program.project.WorkParms.Place.DepthofCover = 800;
@@ -158,7 +158,7 @@ TEST_F(FileMenu, ARefusedFileLeavesANewDesignUnderItsNameAndTheOldCaption) {
   EXPECT_EQ(program.session.recentFiles.MaxLastFiles, 1);
 }
 
-TEST_F(FileMenu, SaveAfterARefusedFileWritesOverItWithoutAQuestion) {
+TEST_F(FileMenu, SaveAfterARefusedFileOverwritesItWithoutAQuestion) {
   platform.files.files["/notes.txt"] = "bolts are in stock\r\n";
   OpenByDialog("/notes.txt");
   platform.boxes.shown.clear();
@@ -169,7 +169,7 @@ TEST_F(FileMenu, SaveAfterARefusedFileWritesOverItWithoutAQuestion) {
   EXPECT_EQ(FileAt("/notes.txt"), DesignAt(400));
 }
 
-TEST_F(FileMenu, AFileThatCannotBeReadIsToldAndLeft) {
+TEST_F(FileMenu, AFileThatCannotBeReadIsReportedAndNotListedAsRecent) {
   platform.boxes.answers = {BoxResult::Cancel};
 
   OpenByDialog("/designs/missing.orb");
@@ -180,7 +180,7 @@ TEST_F(FileMenu, AFileThatCannotBeReadIsToldAndLeft) {
   EXPECT_EQ(program.session.recentFiles.MaxLastFiles, 0);
 }
 
-TEST_F(FileMenu, AFileThatHasGoneIsOpenedOnRetryOnceItIsBack) {
+TEST_F(FileMenu, AMissingFileIsOpenedOnRetryAfterItIsBack) {
   ActingBoxes boxes;
   boxes.answers = {BoxResult::Retry};
   boxes.meanwhile = [this] { platform.files.files["/designs/back.orb"] = DesignAt(610); };
@@ -200,15 +200,15 @@ TEST_F(FileMenu, AFileThatHasGoneIsOpenedOnRetryOnceItIsBack) {
 
 struct BrokenFile {
   const char* name;
-  const char* from;  // the first such text in the file, and all behind it,
-  const char* to;    // gives way to this text
+  const char* from;  // the first such text in the file and everything after it
+  const char* to;    // is replaced by this text
   const char* message;
   BoxStyle style;
 };
 
 class ABrokenFile : public MainWindowTest, public testing::WithParamInterface<BrokenFile> {};
 
-TEST_P(ABrokenFile, IsToldAndLeavesTheCaptionAndTheRecentFiles) {
+TEST_P(ABrokenFile, IsReportedAndLeavesCaptionAndRecentFilesUnchanged) {
   const BrokenFile& broken = GetParam();
   OpenByDialog(Panel3);
   const std::string whole = FileAt(Panel4);
@@ -249,7 +249,7 @@ TEST_F(FileMenu, OpenOffersTheFilesOfTheProgramAndThenAllFiles) {
   EXPECT_EQ(filters[1].pattern, "*");
 }
 
-TEST_F(FileMenu, OpenLeavesWhatWasComputedOfTheProjectBefore) {
+TEST_F(FileMenu, OpenKeepsTheComputedFiguresOfTheOldProject) {
   constexpr std::array<SingleField, 18> Computed{[](auto& d) { return &d.Entries.RockLoad; },
                                                  [](auto& d) { return &d.Entries.Cable.SupportCap; },
                                                  [](auto& d) { return &d.Entries.Truss.SupportCap; },
@@ -316,7 +316,7 @@ TEST_F(FileMenu, ARecentFileIsOpenedAgain) {
   EXPECT_EQ(window.mnuFileArray.Caption(2), Panel4);
 }
 
-TEST_F(FileMenu, ARecentFileThatHasGoneStaysInTheList) {
+TEST_F(FileMenu, AMissingRecentFileStaysInTheList) {
   OpenByDialog(Panel3);
   platform.files.files.erase(Panel3);
   platform.boxes.answers = {BoxResult::Cancel};
@@ -335,7 +335,7 @@ TEST_F(FileMenu, TheSeparatorOfTheRecentFilesDoesNothing) {
   EXPECT_EQ(program.project.PreviousFile, "Untitled");
 }
 
-TEST_F(FileMenu, NothingEntersAListThatIsSwitchedOff) {
+TEST_F(FileMenu, ASwitchedOffListOfRecentFilesStaysEmpty) {
   program.session.settings.KeepFileNames = 0;
 
   OpenByDialog(Panel3);
@@ -347,7 +347,7 @@ TEST_F(FileMenu, NothingEntersAListThatIsSwitchedOff) {
 
 // ---- Save -----------------------------------------------------------------------------------------------------------
 
-TEST_F(FileMenu, SaveWritesTheProjectAndTakesTheStarAway) {
+TEST_F(FileMenu, SaveWritesTheProjectAndRemovesTheStar) {
   OpenByDialog(Panel3);
   platform.windows.onModal = [](Form& form) {
     dynamic_cast<TextBox&>(*form.Find("txtDepthofCover")).SetText("800");
@@ -364,7 +364,7 @@ TEST_F(FileMenu, SaveWritesTheProjectAndTakesTheStarAway) {
   EXPECT_FALSE(Exists(RecoveryPath));
 }
 
-TEST_F(FileMenu, SaveAsTakesTheNewName) {
+TEST_F(FileMenu, SaveAsRenamesTheProject) {
   OpenByDialog(Panel3);
   platform.fileDialogs.answers = {"/designs/copy.orb"};
 

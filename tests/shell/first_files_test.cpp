@@ -1,4 +1,4 @@
-// What a run opens by itself once its window is on the screen.
+// The files that a run opens by itself when its window is on the screen.
 
 #include "main_window_fixture.h"
 
@@ -15,7 +15,7 @@ struct FirstFiles : MainWindowTest {
     program.session.recentFiles.Entries[0] = {Panel4, 1, Panel4};
   }
 
-  // Leaves the work of a run that was killed.
+  // Leaves the recovery file of a run that was killed.
   void Lose() {
     program.project.CurrentFile = "/designs/lost.orb";
     program.project.WorkParms.Place.DepthofCover = 1234;
@@ -36,7 +36,7 @@ TEST_F(FirstFiles, AreNoneByDefault) {
   EXPECT_EQ(program.project.CurrentFile, "Untitled");
 }
 
-TEST_F(FirstFiles, AreTheLastFileWhenTheSettingsWantIt) {
+TEST_F(FirstFiles, IncludeTheLastFileIfTheSettingsSaySo) {
   RememberPanel4();
 
   window.OpenFirstFiles("");
@@ -45,7 +45,7 @@ TEST_F(FirstFiles, AreTheLastFileWhenTheSettingsWantIt) {
   EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 980);
 }
 
-TEST_F(FirstFiles, WithoutAnyRecentFileOpenNothing) {
+TEST_F(FirstFiles, AreNoneWithoutARecentFile) {
   program.session.settings.LoadLastInputFile = 1;
 
   window.OpenFirstFiles("");
@@ -54,7 +54,7 @@ TEST_F(FirstFiles, WithoutAnyRecentFileOpenNothing) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(FirstFiles, AreNoneWhereTheLastFileHasANameWithoutAPath) {
+TEST_F(FirstFiles, AreNoneIfTheLastFileHasNoPath) {
   RememberPanel4();
   program.session.recentFiles.Entries[0].LastFileLong.clear();
 
@@ -65,7 +65,7 @@ TEST_F(FirstFiles, AreNoneWhereTheLastFileHasANameWithoutAPath) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(FirstFiles, EndWithTheOneOfTheCommandLine) {
+TEST_F(FirstFiles, EndWithTheFileOfTheCommandLine) {
   RememberPanel4();
 
   window.OpenFirstFiles("/designs/panel3.orb");
@@ -77,7 +77,7 @@ TEST_F(FirstFiles, EndWithTheOneOfTheCommandLine) {
   EXPECT_EQ(program.session.recentFiles.Entries[1].LastFile, Panel4);
 }
 
-TEST_F(FirstFiles, AreToldWhenTheLastFileHasGone) {
+TEST_F(FirstFiles, ReportAMissingLastFile) {
   RememberPanel4();
   platform.files.files.erase(Panel4);
   platform.boxes.answers = {BoxResult::Cancel};
@@ -87,13 +87,13 @@ TEST_F(FirstFiles, AreToldWhenTheLastFileHasGone) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error occurred: File not found (53)"));
 }
 
-TEST_F(FirstFiles, EndTheRunWhenTheOneOfTheCommandLineIsMissing) {
+TEST_F(FirstFiles, EndTheRunIfTheFileOfTheCommandLineIsMissing) {
   EXPECT_EQ(ErrorNumberOf([&] { window.OpenFirstFiles("/designs/missing.orb"); }), 53);
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-// The next run, after one that was killed in the middle of a design.
+// The next run after one that was killed in the middle of a design.
 struct NextRun : FirstFiles {
   NextRun() {
     Lose();
@@ -110,7 +110,7 @@ struct NextRun : FirstFiles {
   MainWindow nextWindow{next};
 };
 
-TEST_F(NextRun, BringsLostWorkBackAsUnsaved) {
+TEST_F(NextRun, RestoresLostWorkAsUnsaved) {
   restarted.boxes.answers = {BoxResult::Yes};
 
   nextWindow.OpenFirstFiles("");
@@ -119,7 +119,7 @@ TEST_F(NextRun, BringsLostWorkBackAsUnsaved) {
   EXPECT_EQ(next.project.WorkParms.Place.DepthofCover, 1234);
 }
 
-TEST_F(NextRun, OpensNothingElseOnceLostWorkIsBack) {
+TEST_F(NextRun, OpensNothingElseAfterItRestoresLostWork) {
   restarted.boxes.answers = {BoxResult::Yes};
 
   nextWindow.OpenFirstFiles(Panel3);
@@ -128,7 +128,7 @@ TEST_F(NextRun, OpensNothingElseOnceLostWorkIsBack) {
   EXPECT_EQ(next.project.CurrentFile, "/designs/lost.orb");
 }
 
-TEST_F(NextRun, OpensTheFileOfTheCommandLineInstead) {
+TEST_F(NextRun, OpensTheFileOfTheCommandLineIfLostWorkIsDeclined) {
   restarted.boxes.answers = {BoxResult::No};
 
   nextWindow.OpenFirstFiles(Panel3);
@@ -138,7 +138,7 @@ TEST_F(NextRun, OpensTheFileOfTheCommandLineInstead) {
   EXPECT_EQ(next.project.CurrentFile, Panel3);
 }
 
-TEST_F(NextRun, OpensTheLastFileWhenLostWorkIsDeclined) {
+TEST_F(NextRun, OpensTheLastFileIfLostWorkIsDeclined) {
   restarted.boxes.answers = {BoxResult::No};
 
   nextWindow.OpenFirstFiles("");

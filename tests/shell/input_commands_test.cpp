@@ -1,4 +1,4 @@
-// The commands of the Input menu, and what is kept of a design while it is edited.
+// The commands of the Input menu, and the recovery of a design that is being edited.
 
 #include "dialogs/cost_dialog.h"
 #include "dialogs/description_dialog.h"
@@ -14,13 +14,13 @@ using testing::ElementsAre;
 struct InputMenu : MainWindowTest {
   void Choose(EditItem item) { window.mnuEditItem.ClickItem(item); }
 
-  // Plays the user in each form that is shown, in turn.
+  // Plays the user in the next forms.
   template <class Dialog>
   void InDialog(std::function<void(Dialog&)> user) {
     platform.windows.onModal = [user = std::move(user)](Form& form) { user(dynamic_cast<Dialog&>(form)); };
   }
 
-  // A key of the user, and what the view does once it was dealt with.
+  // Types a text, and then notifies the form as the view does after each action.
   static void Type(Form& form, TextBox& box, const std::string& text) {
     box.SetText(text);
     form.Acted();
@@ -42,7 +42,7 @@ TEST_F(InputMenu, ShowsEachDialog) {
   EXPECT_THAT(names, ElementsAre("frmTULKDesc", "frmPENVParm", "frmTULKCost", "frmTULKDesc", "frmPENVParm"));
 }
 
-TEST_F(InputMenu, HidesTheMainWindowBehindTheParameters) {
+TEST_F(InputMenu, HidesTheMainWindowWhileTheParametersAreOpen) {
   bool shown = true;
   bool waiting = true;
   InDialog<ParametersDialog>([&](ParametersDialog&) {
@@ -57,7 +57,7 @@ TEST_F(InputMenu, HidesTheMainWindowBehindTheParameters) {
   EXPECT_TRUE(platform.windows.mainWindowShown);
 }
 
-TEST_F(InputMenu, LeavesTheMainWindowBehindTheDescription) {
+TEST_F(InputMenu, KeepsTheMainWindowWhileTheDescriptionIsOpen) {
   bool shown = false;
   InDialog<DescriptionDialog>([&](DescriptionDialog&) { shown = platform.windows.mainWindowShown; });
 
@@ -67,7 +67,7 @@ TEST_F(InputMenu, LeavesTheMainWindowBehindTheDescription) {
   EXPECT_FALSE(platform.windows.waitCursor);
 }
 
-// Notes each change of the cursor.
+// Records each change of the cursor.
 struct CursorWindows : RecordingWindows {
   void SetWaitCursor(bool waiting) override {
     cursors.push_back(waiting);
@@ -102,7 +102,7 @@ TEST_F(InputMenu, MarksACommittedChangeInTheCaption) {
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: Untitled*");
 }
 
-TEST_F(InputMenu, LeavesTheCaptionAfterCancel) {
+TEST_F(InputMenu, KeepsTheCaptionAfterCancel) {
   InDialog<CostDialog>([](CostDialog& dialog) { dialog.Command1.Press(); });
 
   Choose(EditItem::Cost);
@@ -110,7 +110,7 @@ TEST_F(InputMenu, LeavesTheCaptionAfterCancel) {
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: Untitled");
 }
 
-TEST_F(InputMenu, GoesOnFromTheDescriptionToTheParameters) {
+TEST_F(InputMenu, OpensTheParametersAfterTheDescriptionsNextForm) {
   std::vector<std::string> names;
   platform.windows.onModal = [&](Form& form) {
     names.emplace_back(form.Name());
@@ -122,7 +122,7 @@ TEST_F(InputMenu, GoesOnFromTheDescriptionToTheParameters) {
   EXPECT_THAT(names, ElementsAre("frmTULKDesc", "frmPENVParm"));
 }
 
-TEST_F(InputMenu, IsWhereTheResultsReturnTo) {
+TEST_F(InputMenu, OpensTheDialogThatTheResultsReturnTo) {
   std::vector<std::string> names;
   platform.windows.onModal = [&](Form& form) { names.emplace_back(form.Name()); };
 
@@ -132,7 +132,7 @@ TEST_F(InputMenu, IsWhereTheResultsReturnTo) {
   EXPECT_THAT(names, ElementsAre("frmPENVParm", "frmTULKCost"));
 }
 
-TEST_F(InputMenu, IsNotReturnedToOnceItsWindowIsGone) {
+TEST_F(InputMenu, IsNotReturnedToAfterItsWindowIsDestroyed) {
   Program other = StartedProgram(platform);
   { const MainWindow gone(other); }
 
@@ -149,7 +149,7 @@ TEST_F(InputMenu, ShowsADesignWithoutADepth) {
   EXPECT_EQ(platform.windows.modalForms, 1);
 }
 
-TEST_F(InputMenu, TellsThatADesignCannotBeShownAndGoesOn) {
+TEST_F(InputMenu, ReportsADesignThatCannotBeShownAndContinues) {
   program.project.WorkParms.Primary.Options = 2;
 
   Choose(EditItem::Parameters);
@@ -160,7 +160,7 @@ TEST_F(InputMenu, TellsThatADesignCannotBeShownAndGoesOn) {
   EXPECT_FALSE(program.windows.DialogOpen);
 }
 
-TEST_F(InputMenu, TellsThatADescriptionCannotBeShownAndGoesOn) {
+TEST_F(InputMenu, ReportsADescriptionThatCannotBeShownAndContinues) {
   program.project.WorkParms.Basis = StrengthBasis{-1};
 
   Choose(EditItem::Description);
@@ -170,7 +170,7 @@ TEST_F(InputMenu, TellsThatADescriptionCannotBeShownAndGoesOn) {
   EXPECT_EQ(platform.windows.modalForms, 0);
 }
 
-TEST_F(InputMenu, IsToldOnTheRoadOfOpenThatADesignCannotBeShown) {
+TEST_F(InputMenu, ReportsAnOpenedDesignThatCannotBeShown) {
   program.session.options.ShowInputScreenOnLoad = 1;
   Program other(platform.Doors());
   StartApart(other, nullptr);
@@ -190,7 +190,7 @@ TEST_F(InputMenu, IsToldOnTheRoadOfOpenThatADesignCannotBeShown) {
 
 struct EditedWork : InputMenu {};
 
-TEST_F(EditedWork, IsKeptFromTheMomentOfTheCommit) {
+TEST_F(EditedWork, IsKeptAsSoonAsItIsCommitted) {
   OpenByDialog(Panel3);
   InDialog<ParametersDialog>([](ParametersDialog& dialog) {
     dialog.txtDepthofCover.SetText("810");
@@ -234,7 +234,7 @@ TEST_F(EditedWork, OfTheCostDialogIsKeptWithinASecond) {
   EXPECT_EQ(platform.windows.modalForms, 1);
 }
 
-TEST_F(EditedWork, IsNoneWhenTheUserOnlyLooks) {
+TEST_F(EditedWork, IsNotKeptIfTheUserChangesNothing) {
   OpenByDialog(Panel3);
   InDialog<ParametersDialog>([&](ParametersDialog& dialog) {
     dialog.SSTab1.ClickTab(0);
@@ -248,12 +248,12 @@ TEST_F(EditedWork, IsNoneWhenTheUserOnlyLooks) {
   EXPECT_EQ(platform.windows.modalForms, 1);
 }
 
-TEST_F(EditedWork, IsWhatStoodBeforeTheActThatEndsTheRun) {
+TEST_F(EditedWork, IsKeptAsItWasBeforeTheActionThatEndsTheRun) {
   InDialog<ParametersDialog>([&](ParametersDialog& dialog) {
     Type(dialog, dialog.txtDepthofCover, "810");
     dialog.txtStabilityFactor.SetText("1E38");
     dialog.chkPrimSupport.SetValue(1);
-    dialog.cmdresults.Press();  // throws, so the view gets no further
+    dialog.cmdresults.Press();  // throws, so the view does not notify the form
   });
 
   EXPECT_EQ(ErrorNumberOf([&] { Choose(EditItem::Parameters); }), 6);
@@ -264,7 +264,7 @@ TEST_F(EditedWork, IsWhatStoodBeforeTheActThatEndsTheRun) {
   EXPECT_EQ(Kept()->WorkParms.Primary.StabilityFactor, 1);
 }
 
-TEST_F(EditedWork, IsFieldByFieldTheLastThatAProjectCanHold) {
+TEST_F(EditedWork, KeepsTheLastValidNumberOfEachField) {
   InDialog<ParametersDialog>([&](ParametersDialog& dialog) {
     Type(dialog, dialog.txtDepthofCover, "810");
     Type(dialog, dialog.txtCMRR, "52");
@@ -284,7 +284,7 @@ TEST_F(EditedWork, IsFieldByFieldTheLastThatAProjectCanHold) {
   EXPECT_EQ(platform.windows.modalForms, 1);
 }
 
-TEST_F(EditedWork, GoesWithACancelledDialog) {
+TEST_F(EditedWork, IsDiscardedWithACancelledDialog) {
   OpenByDialog(Panel3);
   InDialog<ParametersDialog>([&](ParametersDialog& dialog) {
     Type(dialog, dialog.txtDepthofCover, "810");

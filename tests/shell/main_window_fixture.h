@@ -1,4 +1,4 @@
-// A main window on a platform of memory, over a new English design.
+// A main window on an in-memory platform, with a new English design.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -18,8 +18,7 @@ inline const std::string IniPath = "/home/user/Documents/Orby/ORBY.INI";
 inline const std::string Panel3 = "/designs/panel3.orb";
 inline const std::string Panel4 = "/designs/panel4.orb";
 
-// A run as its start leaves it, but for the disclaimer, which is not shown, and the parameters dialog, which no file
-// opens by itself.
+// Returns a program as after its start. The disclaimer is off, and opening a file does not open the parameters dialog.
 inline Program StartedProgram(const Platform& doors) {
   Program program(doors);
   program.session.folders.ProgramTemporary = TemporaryFolder;
@@ -41,7 +40,7 @@ struct MainWindowTest : testing::Test {
     program.session.history.Text.clear();
   }
 
-  // The bytes of a project file with this depth of cover.
+  // Returns the bytes of a project file with this depth of cover.
   std::string DesignAt(Single depth) {
     Program other(platform.Doors());
     StartApart(other, nullptr);
@@ -49,13 +48,13 @@ struct MainWindowTest : testing::Test {
     return ProjectFileBytes(other.project);
   }
 
-  // The Open command, the user choosing this file.
+  // Chooses Open and then this file.
   void OpenByDialog(const std::string& path) {
     platform.fileDialogs.answers.push_back(path);
     window.mnuFileItem.ClickItem(FileItem::Open);
   }
 
-  // An open project with a change that is not saved.
+  // Opens panel 3 and makes an unsaved change.
   void EditPanel3() {
     OpenByDialog(Panel3);
     program.project.WorkParms.Place.DepthofCover = 800;

@@ -44,7 +44,7 @@ TEST_F(Menus, AreNamedInTheMenuBar) {
   EXPECT_EQ(window.lblver.Caption(), "Version: 1.0.00");
 }
 
-TEST(MainWindowStart, ShowsTheDisclaimerBeforeAnythingOfTheUsersIsTouched) {
+TEST(MainWindowStart, ShowsTheDisclaimerBeforeItTouchesTheUsersFiles) {
   RecordingPlatform platform;
   Program program = StartedProgram(platform);
   program.session.settings.ShowDisclaim = 1;
@@ -73,7 +73,7 @@ TEST_F(Menus, OfferAllOfTheirEntries) {
   }
 }
 
-// The forms that the entries of a menu show, one after the other.
+// Returns the names of the forms that the menu items show, one after the other.
 template <class Item>
 std::vector<std::string> FormsShownBy(RecordingPlatform& platform, const Actions<Item>& menu,
                                       std::initializer_list<Item> items) {
@@ -100,21 +100,21 @@ TEST_F(Menus, ShowTheBrowserOfTextFiles) {
   EXPECT_THAT(FormsShownBy(platform, window.mnuFileItem, {FileItem::ViewSourceFiles}), ElementsAre("frmTextBrow"));
 }
 
-TEST_F(Menus, TellAboutTheProgram) {
+TEST_F(Menus, ShowTheAboutMessage) {
   window.mnuHelpItem.ClickItem(HelpItem::About);
 
   ASSERT_THAT(platform.boxes.shown, testing::SizeIs(1));
   EXPECT_EQ(platform.boxes.shown.front().title, "About the Orby Roof Support Workbench Program");
 }
 
-TEST_F(Menus, ConvertNoEmptyProject) {
+TEST_F(Menus, RefuseToConvertAnEmptyProject) {
   window.mnuUtilItem.ClickItem(UtilityItem::FileConversion);
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Current file is empty"));
   EXPECT_EQ(platform.windows.modalForms, 0);
 }
 
-TEST_F(Menus, ConvertNoProjectThatIsNotSaved) {
+TEST_F(Menus, RefuseToConvertAnUnsavedProject) {
   EditPanel3();
 
   window.mnuUtilItem.ClickItem(UtilityItem::FileConversion);
@@ -133,7 +133,7 @@ TEST_F(Menus, ConvertASavedProjectUnderANewName) {
   EXPECT_EQ(window.Caption(), "Orby Roof Support Workbench: Metric_panel3.orb*");
 }
 
-TEST_F(Menus, HaveConvertedTheProjectBehindTheMessageThatItIsDone) {
+TEST_F(Menus, ShowTheConvertedProjectWhileTheMessageOfCompletionIsOpen) {
   ActingBoxes boxes;
   Program behind = StartedProgram(platform.DoorsWith(boxes));
   MainWindow windowBehind(behind);
@@ -143,7 +143,7 @@ TEST_F(Menus, HaveConvertedTheProjectBehindTheMessageThatItIsDone) {
   bool isKept = false;
   boxes.meanwhile = [&] {
     caption = windowBehind.Caption();
-    isKept = Exists(TemporaryFolder + "~recover2.tmp");  // the run of the test has the first file
+    isKept = Exists(TemporaryFolder + "~recover2.tmp");  // the window of the fixture holds the first slot
   };
   platform.windows.onModal = [](Form& form) { dynamic_cast<ConvertDialog&>(form).Command2.Press(); };
 
@@ -182,7 +182,7 @@ TEST_F(Menus, OpenTheHelpAndTheManual) {
   EXPECT_THAT(platform.documents.opened, ElementsAre("/program/ORBY.PDF"));
 }
 
-TEST_F(Menus, TellThatTheManualIsMissing) {
+TEST_F(Menus, ReportAMissingManual) {
   window.mnuHelpItem.ClickItem(HelpItem::Manual);
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Help file (/program/ORBY.PDF) not available"));
@@ -195,7 +195,7 @@ struct OpeningWindow : testing::Test {
   Program program = StartedProgram(platform);
 };
 
-TEST_F(OpeningWindow, TakesOverTheHistoryOfTheStart) {
+TEST_F(OpeningWindow, ShowsTheHistoryOfTheStart) {
   MainWindow window(program);
 
   window.Open();
@@ -273,7 +273,7 @@ TEST_F(HistoryPane, ShowsEachLineAndFollowsItsEnd) {
   EXPECT_EQ(window.txtMain.SelectionLength(), 0U);
 }
 
-TEST_F(HistoryPane, MovesTheCaretThoughTheHistoryIsSwitchedOff) {
+TEST_F(HistoryPane, MovesTheCaretEvenIfTheHistoryIsSwitchedOff) {
   AddHistoryLine(program, "Results displayed");
   window.txtMain.Select(3, 4);
   program.session.settings.DisplayHistoryWin = 0;
@@ -285,7 +285,7 @@ TEST_F(HistoryPane, MovesTheCaretThoughTheHistoryIsSwitchedOff) {
   EXPECT_EQ(window.txtMain.SelectionLength(), 0U);
 }
 
-TEST_F(HistoryPane, IsEmptyOnceCleared) {
+TEST_F(HistoryPane, IsEmptyAfterClearing) {
   AddHistoryLine(program, "Results displayed");
 
   window.mnuUtilItem.ClickItem(UtilityItem::ClearHistory);
@@ -295,7 +295,7 @@ TEST_F(HistoryPane, IsEmptyOnceCleared) {
   EXPECT_EQ(window.txtMain.Text(), "3. Results displayed\r\n");
 }
 
-TEST_F(HistoryPane, GoesAndComesBack) {
+TEST_F(HistoryPane, CanBeClosedAndRestored) {
   window.mnuUtilItem.ClickItem(UtilityItem::ToggleHistory);
   EXPECT_FALSE(window.txtMain.Visible());
   EXPECT_EQ(window.mnuUtilItem.Caption(UtilityItem::ToggleHistory), "Restore History &Window");
@@ -309,7 +309,7 @@ TEST_F(HistoryPane, GoesAndComesBack) {
   EXPECT_EQ(window.txtMain.Text(), "2. Results displayed\r\n");
 }
 
-TEST_F(HistoryPane, IsCopied) {
+TEST_F(HistoryPane, IsCopiedToTheClipboard) {
   AddHistoryLine(program, "Results displayed");
 
   window.mnuUtilItem.ClickItem(UtilityItem::CopyHistory);
@@ -317,7 +317,7 @@ TEST_F(HistoryPane, IsCopied) {
   EXPECT_EQ(platform.clipboard.text, "2. Results displayed\r\n");
 }
 
-TEST_F(HistoryPane, StaysToTheProgramWhenTheWindowIsGone) {
+TEST_F(HistoryPane, IsStillRecordedAfterTheWindowIsDestroyed) {
   { MainWindow another(program); }
 
   EXPECT_NO_THROW(AddHistoryLine(program, "Results displayed"));

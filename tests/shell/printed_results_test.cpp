@@ -1,4 +1,4 @@
-// The results that the main window prints are those of the project, whatever was shown before.
+// Printing from the main window gives the results of the project, whatever was shown before.
 
 #include "dialogs/cost_dialog.h"
 #include "dialogs/parameters_dialog.h"
@@ -12,7 +12,7 @@ using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
 
-// The suggested PSUP of the project at 725 ft, of a design at 900 ft, and of a new design, which is at 400 ft.
+// The suggested PSUP of the project (725 ft), of another design (900 ft), and of a new design (400 ft).
 const std::string Psup725 = "Suggested PSUP for this location..........................10.3\r\n";
 const std::string Psup900 = "Suggested PSUP for this location..........................11.2\r\n";
 const std::string Psup400 = "Suggested PSUP for this location..........................7.6\r\n";
@@ -21,7 +21,7 @@ class PrintedResults : public MainWindowTest {
  protected:
   PrintedResults() { OpenByDialog(Panel3); }
 
-  // All sheets of the File menu's Print.
+  // Prints from the File menu and returns all sheets.
   std::string Printed() {
     platform.printer.pages.clear();
     window.mnuFileItem.ClickItem(FileItem::Print);
@@ -30,7 +30,7 @@ class PrintedResults : public MainWindowTest {
     return text;
   }
 
-  // Opens the parameters dialog, the user acting in it.
+  // Opens the parameters dialog and plays the user in it.
   void InParameters(const std::function<void(ParametersDialog&)>& user) {
     platform.windows.onModal = [&](Form& form) {
       if (auto* dialog = dynamic_cast<ParametersDialog*>(&form)) user(*dialog);
@@ -38,14 +38,14 @@ class PrintedResults : public MainWindowTest {
     window.mnuEditItem.ClickItem(EditItem::Parameters);
   }
 
-  // Presses Results in the parameters dialog and leaves it as it is; gives the page of results.
+  // Presses Results in the unchanged parameters dialog and returns the results page.
   std::string PageOfResults() {
     InParameters([](ParametersDialog& dialog) { dialog.cmdresults.Press(); });
     return program.session.OutBuf[1];
   }
 };
 
-TEST_F(PrintedResults, AreThoseOfAProjectWhoseResultsWereNeverShown) {
+TEST_F(PrintedResults, AreThoseOfTheProjectEvenIfNeverShown) {
   const std::string text = Printed();
 
   EXPECT_THAT(text, HasSubstr("Depth of Cover............................................725 (ft)\r\n"));
@@ -53,7 +53,7 @@ TEST_F(PrintedResults, AreThoseOfAProjectWhoseResultsWereNeverShown) {
   EXPECT_THAT(text, HasSubstr("Cable Bolt System Stability Factor........................1.06\r\n"));
 }
 
-TEST_F(PrintedResults, StayAsResultsShowedThem) {
+TEST_F(PrintedResults, AreTheSameAsInTheResultsWindow) {
   const std::string shown = PageOfResults();
 
   Printed();
@@ -62,8 +62,8 @@ TEST_F(PrintedResults, StayAsResultsShowedThem) {
   EXPECT_EQ(program.session.OutBuf[1], shown);
 }
 
-// A design that no dialog has accepted yet has no row of the bolt table in it, and the first one is shown.
-TEST_F(PrintedResults, StandUnderTheInputsThatTheyWereComputedFrom) {
+// A design that no dialog has accepted yet has no row of the bolt table, so the first row is shown.
+TEST_F(PrintedResults, FollowTheInputsFromWhichTheyWereComputed) {
   PageOfResults();
   const std::string inputs = program.session.OutBuf[0];
 
@@ -74,7 +74,7 @@ TEST_F(PrintedResults, StandUnderTheInputsThatTheyWereComputedFrom) {
   EXPECT_EQ(program.project.WorkParms.Primary.TableDiameter, 0);
 }
 
-TEST_F(PrintedResults, AreNotThoseOfEditsThatWereCancelled) {
+TEST_F(PrintedResults, ExcludeCancelledEdits) {
   InParameters([](ParametersDialog& dialog) {
     dialog.txtDepthofCover.SetText("900");
     dialog.cmdresults.Press();
@@ -88,7 +88,7 @@ TEST_F(PrintedResults, AreNotThoseOfEditsThatWereCancelled) {
   EXPECT_THAT(text, Not(HasSubstr(Psup900)));
 }
 
-TEST_F(PrintedResults, AreThoseOfEditsThatWereAccepted) {
+TEST_F(PrintedResults, IncludeAcceptedEdits) {
   InParameters([](ParametersDialog& dialog) {
     dialog.cmdresults.Press();
     dialog.txtDepthofCover.SetText("900");
@@ -98,9 +98,9 @@ TEST_F(PrintedResults, AreThoseOfEditsThatWereAccepted) {
   EXPECT_THAT(Printed(), HasSubstr(Psup900));
 }
 
-// The intersections' rock load does not follow the width of the entry, so Results shows that of the width before. The
-// printed sheet agrees with what was seen and accepted.
-TEST_F(PrintedResults, StayAsResultsShowedThemWhenTheShownDesignIsAccepted) {
+// The intersections' rock load does not follow the entry width, so Results shows the one for the old width. The print
+// agrees with what the user saw and accepted.
+TEST_F(PrintedResults, AreTheSameAsInTheResultsWindowAfterTheDesignIsAccepted) {
   std::string shown;
   InParameters([&](ParametersDialog& dialog) {
     dialog.InterCableControls.Diam.SetText("0.7");
@@ -116,7 +116,7 @@ TEST_F(PrintedResults, StayAsResultsShowedThemWhenTheShownDesignIsAccepted) {
   EXPECT_EQ(program.session.OutBuf[1], shown);
 }
 
-TEST_F(PrintedResults, StayAsResultsShowedThemAfterTheCostTableWasShown) {
+TEST_F(PrintedResults, AreTheSameAsInTheResultsWindowAfterTheCostTableWasShown) {
   std::string shown;
   InParameters([&](ParametersDialog& dialog) {
     dialog.InterCableControls.Diam.SetText("0.7");
@@ -135,17 +135,17 @@ TEST_F(PrintedResults, StayAsResultsShowedThemAfterTheCostTableWasShown) {
   EXPECT_EQ(program.session.OutBuf[1], shown);
 }
 
-TEST_F(PrintedResults, AreNotThoseOfTheProjectBefore) {
+TEST_F(PrintedResults, AreNotThoseOfThePreviousProject) {
   PageOfResults();
 
   window.mnuFileItem.ClickItem(FileItem::New);
 
-  EXPECT_THAT(Printed(), IsEmpty());  // not agreed to
+  EXPECT_THAT(Printed(), IsEmpty());  // the question about an empty project is answered No
   platform.boxes.answers = {BoxResult::Yes};
   EXPECT_THAT(Printed(), HasSubstr(Psup400));
 }
 
-TEST_F(PrintedResults, StandInPlaceOfTheCostTable) {
+TEST_F(PrintedResults, ReplaceTheCostTable) {
   platform.windows.onModal = [](Form& form) {
     if (auto* dialog = dynamic_cast<CostDialog*>(&form)) dialog->cmdresults.Press();
   };
@@ -190,7 +190,7 @@ TEST_F(PrintedResults, FollowTheTableOfBolts) {
   EXPECT_THAT(program.session.OutBuf[1], Not(testing::Eq(before)));
 }
 
-TEST_F(PrintedResults, ThatCannotBeComputedAreALineOfThePage) {
+TEST_F(PrintedResults, SayInALineThatTheyCannotBeComputed) {
   PageOfResults();
   program.project.WorkParms.Primary.RowSpacing = 0;
 
@@ -202,18 +202,18 @@ TEST_F(PrintedResults, ThatCannotBeComputedAreALineOfThePage) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(PrintedResults, ThatCannotBeShownInTheDialogAreALineToo) {
-  program.project.WorkParms.Primary.Options = 7;  // an option that there is not
+TEST_F(PrintedResults, SayInALineThatTheDesignCannotBeShown) {
+  program.project.WorkParms.Primary.Options = 7;  // not a valid option
 
   EXPECT_THAT(Printed(), HasSubstr("The results cannot be computed from these inputs.\r\n"));
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(PrintedResults, OfAMetricProjectThatCannotBeShownGoByTheCapacityOfItsCablesToo) {
+TEST_F(PrintedResults, ListCablesByCapacityEvenIfAMetricProjectCannotBeShown) {
   Design& design = program.project.WorkParms;
   design.Units = Metric;
   design.Entries.Cable.CapMode = design.Intersections.Cable.CapMode = 0;
-  design.Primary.Options = 7;  // an option that there is not
+  design.Primary.Options = 7;  // not a valid option
 
   const std::string text = Printed();
 
@@ -221,8 +221,8 @@ TEST_F(PrintedResults, OfAMetricProjectThatCannotBeShownGoByTheCapacityOfItsCabl
   EXPECT_THAT(text, Not(HasSubstr("Cable Bolt Diameter")));
 }
 
-TEST_F(PrintedResults, LeaveTheProjectAsItWas) {
-  program.project.WorkParms.Entries.Cable.SupportCap = 3;  // of the file; the dialog computes another
+TEST_F(PrintedResults, LeaveTheProjectUnchanged) {
+  program.project.WorkParms.Entries.Cable.SupportCap = 3;  // from the file; the dialog computes another one
   program.windows.WorkParmsCopy.Place.DepthofCover = 900;
   program.windows.estimator.EstimatorRegion = 4;
   program.windows.ReportCaller = report_caller::Cost;
@@ -239,7 +239,7 @@ TEST_F(PrintedResults, LeaveTheProjectAsItWas) {
   EXPECT_EQ(program.session.history.Text, "");
 }
 
-TEST_F(PrintedResults, AreOnViewInThePreview) {
+TEST_F(PrintedResults, AreShownInThePreview) {
   InParameters([](ParametersDialog& dialog) {
     dialog.txtDepthofCover.SetText("900");
     dialog.cmdresults.Press();
@@ -256,7 +256,7 @@ TEST_F(PrintedResults, AreOnViewInThePreview) {
   EXPECT_THAT(second, HasSubstr(Psup725));
 }
 
-TEST_F(PrintedResults, GoToPaperFromTheToolBarAlike) {
+TEST_F(PrintedResults, AreTheSameFromTheToolBar) {
   InParameters([](ParametersDialog& dialog) {
     dialog.txtDepthofCover.SetText("900");
     dialog.cmdresults.Press();

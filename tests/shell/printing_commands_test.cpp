@@ -20,7 +20,7 @@ struct Printing : MainWindowTest {
   }
 };
 
-TEST_F(Printing, AsksFirstWhenTheProjectIsEmpty) {
+TEST_F(Printing, AsksFirstIfTheProjectIsEmpty) {
   platform.boxes.answers = {BoxResult::No};
 
   Choose(FileItem::Print);
@@ -51,7 +51,7 @@ TEST_F(Printing, PrintsTheInputAndTheResultsOfTheProject) {
   EXPECT_THAT(Printed(), HasSubstr("[ORBY CALCULATIONS]\r\n"));
 }
 
-TEST_F(Printing, IsLeftWithThePrinterDialog) {
+TEST_F(Printing, IsCancelledWithThePrinterDialog) {
   OpenByDialog(Panel3);
   platform.printer.error = error_number::Cancelled;
 
@@ -61,7 +61,7 @@ TEST_F(Printing, IsLeftWithThePrinterDialog) {
   EXPECT_THAT(platform.printer.pages, IsEmpty());
 }
 
-TEST_F(Printing, OfTheToolBarAsksForNoPrinter) {
+TEST_F(Printing, FromTheToolBarAsksForNoPrinter) {
   OpenByDialog(Panel3);
 
   window.Toolbar1.ClickItem(ToolButton::Print);
@@ -70,7 +70,7 @@ TEST_F(Printing, OfTheToolBarAsksForNoPrinter) {
   EXPECT_THAT(Printed(), HasSubstr("725"));
 }
 
-TEST_F(Printing, OfTheToolBarNamesItsFileAfterTheProject) {
+TEST_F(Printing, FromTheToolBarNamesItsFileAfterTheProject) {
   OpenByDialog(Panel3);
 
   window.Toolbar1.ClickItem(ToolButton::Print);
@@ -78,7 +78,7 @@ TEST_F(Printing, OfTheToolBarNamesItsFileAfterTheProject) {
   EXPECT_EQ(platform.printer.nameOfUnasked, "panel3");
 }
 
-TEST_F(Printing, OfTheToolBarTellsTheFileThatItPrintedTo) {
+TEST_F(Printing, FromTheToolBarRecordsTheFileInTheHistory) {
   OpenByDialog(Panel3);
   platform.printer.file = "/designs/panel3 (2).pdf";
 
@@ -87,7 +87,7 @@ TEST_F(Printing, OfTheToolBarTellsTheFileThatItPrintedTo) {
   EXPECT_THAT(program.session.history.Text, testing::EndsWith("Report printed to /designs/panel3 (2).pdf\r\n"));
 }
 
-TEST_F(Printing, ProposesTheNameOfTheProjectForAFile) {
+TEST_F(Printing, SuggestsTheProjectsNameForTheFile) {
   OpenByDialog(Panel3);
 
   Choose(FileItem::Print);
@@ -96,7 +96,7 @@ TEST_F(Printing, ProposesTheNameOfTheProjectForAFile) {
   EXPECT_THAT(program.session.history.Text, testing::Not(HasSubstr("printed")));
 }
 
-TEST_F(Printing, OfTheToolBarAsksAlikeWhenTheProjectIsEmpty) {
+TEST_F(Printing, FromTheToolBarAsksFirstIfTheProjectIsEmpty) {
   platform.boxes.answers = {BoxResult::No};
 
   window.Toolbar1.ClickItem(ToolButton::Print);
@@ -105,7 +105,7 @@ TEST_F(Printing, OfTheToolBarAsksAlikeWhenTheProjectIsEmpty) {
   EXPECT_THAT(platform.printer.pages, IsEmpty());
 }
 
-TEST_F(Printing, IsToldAndGivenUpWithoutAPrinter) {
+TEST_F(Printing, ReportsThatThereIsNoPrinterAndEnds) {
   OpenByDialog(Panel3);
   platform.printer.error = error_number::Printer;
   platform.boxes.answers = {BoxResult::Cancel};
@@ -115,7 +115,7 @@ TEST_F(Printing, IsToldAndGivenUpWithoutAPrinter) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error occurred: Printer error (482)"));
 }
 
-TEST_F(Printing, GoesOnBehindAPrinterDialogThatFailed) {
+TEST_F(Printing, ContinuesAfterAPrinterDialogThatFailed) {
   OpenByDialog(Panel3);
   platform.printer.error = error_number::Printer;
   platform.boxes.answers = {BoxResult::Cancel, BoxResult::Cancel};
@@ -126,13 +126,13 @@ TEST_F(Printing, GoesOnBehindAPrinterDialogThatFailed) {
               ElementsAre("Error occurred: Printer error (482)", "Error occurred: Printer error (482)"));
 }
 
-TEST_F(Printing, SetsThePrinterUp) {
+TEST_F(Printing, OpensThePrinterSetUp) {
   Choose(FileItem::PrinterSetup);
 
   EXPECT_EQ(platform.printer.setUp, 1);
 }
 
-TEST_F(Printing, SetUpThatIsCancelledIsOnlyLogged) {
+TEST_F(Printing, OnlyRecordsAPrinterSetUpThatIsCancelled) {
   platform.printer.error = error_number::Cancelled;
 
   Choose(FileItem::PrinterSetup);
@@ -141,7 +141,7 @@ TEST_F(Printing, SetUpThatIsCancelledIsOnlyLogged) {
   EXPECT_EQ(program.session.history.Text, "2. Cancel was selected.\r\n");
 }
 
-TEST_F(Printing, IsPreviewedPageByPage) {
+TEST_F(Printing, ShowsThePreviewPageByPage) {
   OpenByDialog(Panel3);
   std::vector<std::string> pages;
   platform.windows.onModal = [&](Form& form) {
@@ -160,7 +160,7 @@ TEST_F(Printing, IsPreviewedPageByPage) {
   EXPECT_THAT(pages[1], StartsWith("[ORBY CALCULATIONS]\r\n"));
 }
 
-TEST_F(Printing, PreviewAsksAlikeWhenTheProjectIsEmpty) {
+TEST_F(Printing, AsksFirstIfThePreviewedProjectIsEmpty) {
   platform.boxes.answers = {BoxResult::No};
 
   Choose(FileItem::Preview);

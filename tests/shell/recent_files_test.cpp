@@ -24,7 +24,7 @@ struct RecentFileList : testing::Test {
     return EnterRecentFile(program);
   }
 
-  // What is in use, as "name|path|mode".
+  // Returns the entries in use, each as "name|path|mode".
   std::vector<std::string> Entries() const {
     std::vector<std::string> entries;
     for (int i = 0; i < program.session.recentFiles.MaxLastFiles; ++i) {
@@ -34,7 +34,7 @@ struct RecentFileList : testing::Test {
     return entries;
   }
 
-  // The captions that the menu shows.
+  // Returns the captions that the menu shows.
   std::vector<std::string> Shown() {
     ShowRecentFiles(program.session.recentFiles, form.menu);
     std::vector<std::string> captions;
@@ -50,7 +50,7 @@ struct RecentFileList : testing::Test {
   int mode = 0;
 };
 
-TEST_F(RecentFileList, IsNotShownWhileItIsEmpty) { EXPECT_THAT(Shown(), ElementsAre()); }
+TEST_F(RecentFileList, IsHiddenWhileItIsEmpty) { EXPECT_THAT(Shown(), ElementsAre()); }
 
 TEST_F(RecentFileList, BeginsWithTheNewestFile) {
   Enter("/a.orb");
@@ -60,20 +60,20 @@ TEST_F(RecentFileList, BeginsWithTheNewestFile) {
   EXPECT_THAT(Shown(), ElementsAre("-", "/b.orb", "/a.orb"));
 }
 
-TEST_F(RecentFileList, LosesItsOldestToAFifthFile) {
+TEST_F(RecentFileList, DropsTheOldestForAFifthFile) {
   for (const char* path : {"/a.orb", "/b.orb", "/c.orb", "/d.orb", "/e.orb"}) Enter(path);
 
   EXPECT_THAT(Entries(), ElementsAre("/e.orb|/e.orb|5", "/d.orb|/d.orb|4", "/c.orb|/c.orb|3", "/b.orb|/b.orb|2"));
   EXPECT_THAT(Shown(), ElementsAre("-", "/e.orb", "/d.orb", "/c.orb", "/b.orb"));
 }
 
-TEST_F(RecentFileList, LeavesTheOrderWhenItsFirstFileIsOpenedAgain) {
+TEST_F(RecentFileList, KeepsItsOrderIfTheFirstFileIsOpenedAgain) {
   for (const char* path : {"/a.orb", "/b.orb", "/b.orb"}) Enter(path);
 
   EXPECT_THAT(Entries(), ElementsAre("/b.orb|/b.orb|2", "/a.orb|/a.orb|1"));
 }
 
-TEST_F(RecentFileList, ChangesTheFirstWithAFileOpenedAgain) {
+TEST_F(RecentFileList, SwapsAFileOpenedAgainWithTheFirstOne) {
   for (const char* path : {"/a.orb", "/b.orb", "/c.orb", "/d.orb"}) Enter(path);
 
   Enter("/b.orb");
@@ -81,7 +81,7 @@ TEST_F(RecentFileList, ChangesTheFirstWithAFileOpenedAgain) {
   EXPECT_THAT(Entries(), ElementsAre("/b.orb|/b.orb|2", "/c.orb|/c.orb|3", "/d.orb|/d.orb|4", "/a.orb|/a.orb|1"));
 }
 
-TEST_F(RecentFileList, ShowsTheNameAloneWhenAskedTo) {
+TEST_F(RecentFileList, ShowsShortNamesIfTheSettingsSaySo) {
   program.session.settings.ShortRecentFiles = 1;
 
   Enter("/north/panel.orb");
@@ -90,7 +90,7 @@ TEST_F(RecentFileList, ShowsTheNameAloneWhenAskedTo) {
   EXPECT_THAT(Shown(), ElementsAre("-", "panel.orb"));
 }
 
-TEST_F(RecentFileList, TakesFilesOfOneShortNameForTheSame) {
+TEST_F(RecentFileList, TreatsFilesWithOneShortNameAsTheSame) {
   program.session.settings.ShortRecentFiles = 1;
   Enter("/north/panel.orb");
   Enter("/north/gate.orb");
@@ -100,7 +100,7 @@ TEST_F(RecentFileList, TakesFilesOfOneShortNameForTheSame) {
   EXPECT_THAT(Entries(), ElementsAre("panel.orb|/south/panel.orb|1", "gate.orb|/north/gate.orb|2"));
 }
 
-TEST_F(RecentFileList, HasAFileTwiceOnceItsNameIsShownAnotherWay) {
+TEST_F(RecentFileList, ListsAFileTwiceIfItsNameIsThenShownShort) {
   Enter("/north/panel.orb");
   program.session.settings.ShortRecentFiles = 1;
 
@@ -109,7 +109,7 @@ TEST_F(RecentFileList, HasAFileTwiceOnceItsNameIsShownAnotherWay) {
   EXPECT_THAT(Entries(), ElementsAre("panel.orb|/north/panel.orb|2", "/north/panel.orb|/north/panel.orb|1"));
 }
 
-TEST_F(RecentFileList, StaysAsItIsWhenSwitchedOff) {
+TEST_F(RecentFileList, DoesNotChangeWhileItIsSwitchedOff) {
   EXPECT_TRUE(Enter("/a.orb"));
   program.session.settings.KeepFileNames = 0;
 
@@ -118,7 +118,7 @@ TEST_F(RecentFileList, StaysAsItIsWhenSwitchedOff) {
   EXPECT_THAT(Entries(), ElementsAre("/a.orb|/a.orb|1"));
 }
 
-TEST_F(RecentFileList, TellsANameThatEndsInASeparatorAndTakesIt) {
+TEST_F(RecentFileList, ReportsANameThatEndsInASeparatorAndAddsIt) {
   program.session.settings.ShortRecentFiles = 1;
 
   Enter("/north/");
@@ -127,13 +127,13 @@ TEST_F(RecentFileList, TellsANameThatEndsInASeparatorAndTakesIt) {
   EXPECT_THAT(Entries(), ElementsAre("/north/|/north/|1"));
 }
 
-TEST_F(RecentFileList, ShowsAnAmpersandOfANameAsOne) {
+TEST_F(RecentFileList, ShowsTheAmpersandOfAName) {
   Enter("/cut & fill.orb");
 
   EXPECT_THAT(Shown(), ElementsAre("-", "/cut && fill.orb"));
 }
 
-TEST_F(RecentFileList, LeavesOutAnEntryWithoutAName) {
+TEST_F(RecentFileList, SkipsAnEntryWithoutAName) {
   program.session.recentFiles.MaxLastFiles = 2;
   program.session.recentFiles.Entries[1].LastFile = "/b.orb";
 

@@ -20,9 +20,9 @@ const std::string DataFolder = "/home/user/Documents/Orby/";
 const std::string FirstFile = Folder + "~recover1.tmp";
 const std::string SecondFile = Folder + "~recover2.tmp";
 
-// Runs that share the user's folder.
+// Several runs share the user's folder.
 struct UnsavedWork : testing::Test {
-  // A program in the middle of an unsaved design of this depth.
+  // Returns a program with an unsaved design of this depth.
   Program Editing(Single depth, const std::string& file = "/designs/panel3.orb") {
     Program program = Started();
     program.project.CurrentFile = file;
@@ -39,13 +39,13 @@ struct UnsavedWork : testing::Test {
     return program;
   }
 
-  // Leaves the file of a run that ended in the middle of a design.
+  // Leaves the recovery file of a run that ended in the middle of a design.
   void Lose(Single depth) {
     Program program = Editing(depth);
     Recovery(program).Committed();
   }
 
-  // The depth of cover that the file holds; -1 when there is none.
+  // Returns the depth of cover in the file; -1 if there is no file.
   Single DepthIn(const std::string& path) {
     const auto found = platform.files.files.find(path);
     if (found == platform.files.files.end()) return -1;
@@ -67,7 +67,7 @@ TEST_F(UnsavedWork, IsWrittenAtOnceWhenItIsCommitted) {
   EXPECT_EQ(DepthIn(FirstFile), 725);
 }
 
-TEST_F(UnsavedWork, GoesWithTheLastChange) {
+TEST_F(UnsavedWork, IsRemovedAfterTheProjectIsSaved) {
   Program program = Editing(725);
   Recovery recovery(program);
   recovery.Committed();
@@ -78,7 +78,7 @@ TEST_F(UnsavedWork, GoesWithTheLastChange) {
   EXPECT_FALSE(Exists(FirstFile));
 }
 
-TEST_F(UnsavedWork, IsWrittenASecondAfterTheFirstChangeAsItIsByThen) {
+TEST_F(UnsavedWork, IsWrittenOneSecondAfterTheFirstChange) {
   Program program = Started();
   Recovery recovery(program);
   Design design = program.project.WorkParms;
@@ -114,7 +114,7 @@ TEST_F(UnsavedWork, WaitsAnotherSecondForTheNextChange) {
   EXPECT_EQ(DepthIn(FirstFile), 980);
 }
 
-TEST_F(UnsavedWork, IsWrittenBeforeItsSecondWhenTheRunEnds) {
+TEST_F(UnsavedWork, IsWrittenAtOnceIfTheRunEnds) {
   Program program = Started();
   Recovery recovery(program);
   Design design = program.project.WorkParms;
@@ -126,7 +126,7 @@ TEST_F(UnsavedWork, IsWrittenBeforeItsSecondWhenTheRunEnds) {
   EXPECT_EQ(DepthIn(FirstFile), 725);
 }
 
-TEST_F(UnsavedWork, IsNoneWhereTheDialogShowsWhatItOpenedWith) {
+TEST_F(UnsavedWork, IsNotWrittenIfTheDialogShowsNoChange) {
   Program program = Started();
   Recovery recovery(program);
   recovery.DesignShown(program.project.WorkParms);
@@ -137,7 +137,7 @@ TEST_F(UnsavedWork, IsNoneWhereTheDialogShowsWhatItOpenedWith) {
   EXPECT_FALSE(Exists(FirstFile));
 }
 
-TEST_F(UnsavedWork, OfADialogGoesWhenItsChangesAreTakenBack) {
+TEST_F(UnsavedWork, OfADialogIsRemovedIfTheUserUndoesTheChanges) {
   Program program = Started();
   Recovery recovery(program);
   const Design opened = program.project.WorkParms;
@@ -154,7 +154,7 @@ TEST_F(UnsavedWork, OfADialogGoesWhenItsChangesAreTakenBack) {
   EXPECT_FALSE(Exists(FirstFile));
 }
 
-TEST_F(UnsavedWork, OfACancelledDialogIsTheCommittedDesignAgain) {
+TEST_F(UnsavedWork, OfACancelledDialogIsReplacedByTheCommittedDesign) {
   Program program = Editing(725);
   Recovery recovery(program);
   Design edited = program.project.WorkParms;
@@ -199,7 +199,7 @@ TEST_F(UnsavedWork, IsOfferedWithTheTimeOfItsFile) {
             "/designs/panel3.orb of 2031-03-08 22:41:05");
 }
 
-TEST_F(UnsavedWork, IsOfferedBesideTheFileThatWasToBeOpened) {
+TEST_F(UnsavedWork, IsOfferedAsTheAlternativeToTheFileToOpen) {
   Lose(725);
   Program next = Started();
   platform.boxes.answers = {BoxResult::No};
@@ -209,7 +209,7 @@ TEST_F(UnsavedWork, IsOfferedBesideTheFileThatWasToBeOpened) {
   EXPECT_THAT(platform.boxes.shown.front().captions, ElementsAre("Recover", "Open panel4.orb instead"));
 }
 
-TEST_F(UnsavedWork, IsOfferedBesideALongNameOfAFileInAButtonOfUsualWidth) {
+TEST_F(UnsavedWork, IsOfferedWithAShortenedNameOfTheAlternativeFile) {
   Lose(725);
   Program next = Started();
 
@@ -219,7 +219,7 @@ TEST_F(UnsavedWork, IsOfferedBesideALongNameOfAFileInAButtonOfUsualWidth) {
               ElementsAre("Recover", "Open north main...ry and its crosscuts, second look.orb instead"));
 }
 
-TEST_F(UnsavedWork, ComesBackWithoutAQuestionWhenTheRunIsStartedAnew) {
+TEST_F(UnsavedWork, IsRestoredWithoutAQuestionIfTheProgramIsStartedAgain) {
   Lose(725);
   Program next = Started();
 
@@ -230,7 +230,7 @@ TEST_F(UnsavedWork, ComesBackWithoutAQuestionWhenTheRunIsStartedAnew) {
   EXPECT_FALSE(next.project.FileSaved);
 }
 
-TEST_F(UnsavedWork, ThatIsNotThereDoesNotComeBack) {
+TEST_F(UnsavedWork, IsNotRestoredIfThereIsNone) {
   Program program = Started();
 
   EXPECT_FALSE(Recovery(program).Recover());
@@ -238,7 +238,7 @@ TEST_F(UnsavedWork, ThatIsNotThereDoesNotComeBack) {
   EXPECT_TRUE(program.project.FileSaved);
 }
 
-TEST_F(UnsavedWork, IsInTheBackupsOnNo) {
+TEST_F(UnsavedWork, IsBackedUpOnNo) {
   Lose(725);
   Program next = Started();
   next.session.folders.ProgramData = DataFolder;
@@ -254,7 +254,7 @@ TEST_F(UnsavedWork, IsInTheBackupsOnNo) {
   EXPECT_THAT(next.session.history.Text, HasSubstr("Unsaved changes kept in Backups: /designs/panel3.orb"));
 }
 
-TEST_F(UnsavedWork, ThatCannotBeReadAnyMoreIsInTheBackups) {
+TEST_F(UnsavedWork, IsBackedUpIfItIsDamaged) {
   platform.files.files[FirstFile] = "ORBY_RECOVERY_1\r\nCurrentFile=/designs/pan";
   Program program = Started();
   program.session.folders.ProgramData = DataFolder;
@@ -269,7 +269,7 @@ TEST_F(UnsavedWork, ThatCannotBeReadAnyMoreIsInTheBackups) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(UnsavedWork, ThatIsDamagedAndNotInTheBackupsIsThereAfterTheRun) {
+TEST_F(UnsavedWork, IsKeptIfItIsDamagedAndCannotBeBackedUp) {
   platform.files.files[FirstFile] = "damaged";
   Program program = Started();
   program.session.folders.ProgramData = DataFolder;
@@ -287,7 +287,7 @@ TEST_F(UnsavedWork, ThatIsDamagedAndNotInTheBackupsIsThereAfterTheRun) {
   EXPECT_EQ(platform.files.files.at(FirstFile + ".kept"), "damaged");
 }
 
-TEST_F(UnsavedWork, ThatCannotBeReadAtAllIsNotWrittenOver) {
+TEST_F(UnsavedWork, IsNotOverwrittenIfItsFileCannotBeRead) {
   Lose(725);
   Program program = Started();
   program.session.folders.ProgramData = DataFolder;
@@ -306,7 +306,7 @@ TEST_F(UnsavedWork, ThatCannotBeReadAtAllIsNotWrittenOver) {
   EXPECT_EQ(DepthIn(FirstFile), 980);
 }
 
-TEST_F(UnsavedWork, ThatCannotBeRenamedEitherIsLeftToTheNextStart) {
+TEST_F(UnsavedWork, IsLeftToTheNextStartIfItsFileCannotBeReadOrRenamed) {
   Lose(725);
   Program program = Started();
   platform.files.Fail(Step::Read, error_number::PermissionDenied, 0, 1);
@@ -323,7 +323,7 @@ TEST_F(UnsavedWork, ThatCannotBeRenamedEitherIsLeftToTheNextStart) {
   EXPECT_FALSE(platform.files.marked.contains(Folder + "~recover1.lck"));
 }
 
-TEST_F(UnsavedWork, ThatWasDeclinedAndIsNotInTheBackupsIsThereAfterTheRun) {
+TEST_F(UnsavedWork, IsKeptIfItIsDeclinedAndCannotBeBackedUp) {
   Lose(725);
   Program program = Started();
   program.session.folders.ProgramData = DataFolder;
@@ -341,7 +341,7 @@ TEST_F(UnsavedWork, ThatWasDeclinedAndIsNotInTheBackupsIsThereAfterTheRun) {
                 FirstFile + ".kept.");
 }
 
-TEST_F(UnsavedWork, ThatIsKeptAsideLeavesWhatWasKeptAsideBefore) {
+TEST_F(UnsavedWork, IsSetAsideWithoutReplacingAnEarlierFile) {
   platform.files.files[FirstFile + ".kept"] = "of an earlier run";
   platform.files.files[FirstFile] = "damaged";
   Program program = Started();
@@ -354,7 +354,7 @@ TEST_F(UnsavedWork, ThatIsKeptAsideLeavesWhatWasKeptAsideBefore) {
   EXPECT_EQ(platform.files.files.at(FirstFile + ".kept2"), "damaged");
 }
 
-TEST_F(UnsavedWork, OfACancelledDialogIsInTheBackups) {
+TEST_F(UnsavedWork, OfACancelledDialogIsBackedUp) {
   Program program = Editing(725);
   program.session.folders.ProgramData = DataFolder;
   Recovery recovery(program);
@@ -373,7 +373,7 @@ TEST_F(UnsavedWork, OfACancelledDialogIsInTheBackups) {
   EXPECT_EQ(DepthIn(FirstFile), 725);
 }
 
-TEST_F(UnsavedWork, ThatADialogCommittedOrDidNotChangeIsInNoBackup) {
+TEST_F(UnsavedWork, IsNotBackedUpIfADialogCommittedOrDidNotChangeIt) {
   Program program = Editing(725);
   program.session.folders.ProgramData = DataFolder;
   Recovery recovery(program);
@@ -389,7 +389,7 @@ TEST_F(UnsavedWork, ThatADialogCommittedOrDidNotChangeIsInNoBackup) {
   EXPECT_THAT(ListBackups(program), IsEmpty());
 }
 
-TEST_F(UnsavedWork, IsDeletedOnNoWithoutAFolderForBackups) {
+TEST_F(UnsavedWork, IsDeletedOnNoIfThereIsNoBackupFolder) {
   Lose(725);
   Program next = Started();
   platform.boxes.answers = {BoxResult::No};
@@ -401,7 +401,7 @@ TEST_F(UnsavedWork, IsDeletedOnNoWithoutAFolderForBackups) {
   EXPECT_TRUE(next.project.FileSaved);
 }
 
-TEST_F(UnsavedWork, IsNotAskedForWhenThereIsNone) {
+TEST_F(UnsavedWork, IsNotOfferedIfThereIsNone) {
   Program program = Started();
 
   EXPECT_FALSE(Recovery(program).Ask(""));
@@ -409,7 +409,7 @@ TEST_F(UnsavedWork, IsNotAskedForWhenThereIsNone) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(UnsavedWork, ThatCannotBeReadAnyMoreIsDeletedWithoutAFolderForBackups) {
+TEST_F(UnsavedWork, IsDeletedIfItIsDamagedAndThereIsNoBackupFolder) {
   platform.files.files[FirstFile] = "ORBY_RECOVERY_1\r\nCurrentFile=/designs/pan";
   Program program = Started();
 
@@ -419,7 +419,7 @@ TEST_F(UnsavedWork, ThatCannotBeReadAnyMoreIsDeletedWithoutAFolderForBackups) {
   EXPECT_FALSE(Exists(FirstFile));
 }
 
-TEST_F(UnsavedWork, OfTwoProgramsStandsInTwoFiles) {
+TEST_F(UnsavedWork, OfTwoProgramsGoesToTwoFiles) {
   Program first = Editing(725);
   Program second = Editing(980);
   Recovery ofFirst(first);
@@ -444,7 +444,7 @@ TEST_F(UnsavedWork, OfARunningProgramIsNotOfferedToAnother) {
   EXPECT_EQ(DepthIn(FirstFile), 725);
 }
 
-TEST_F(UnsavedWork, ThatWasLostGoesBeforeAFreeFile) {
+TEST_F(UnsavedWork, OfALostRunIsTakenBeforeAFreeSlot) {
   platform.files.files[SecondFile] = RecoveryBytes(Editing(980).project);
   Program next = Started();
   platform.boxes.answers = {BoxResult::Yes};
@@ -464,7 +464,7 @@ TEST_F(UnsavedWork, OfANinthProgramIsKept) {
   EXPECT_EQ(DepthIn(Folder + "~recover9.tmp"), 725);
 }
 
-TEST_F(UnsavedWork, ThatWasLostInTheNinthFileIsOffered) {
+TEST_F(UnsavedWork, IsOfferedFromTheNinthFile) {
   platform.files.files[Folder + "~recover9.tmp"] = RecoveryBytes(Editing(980).project);
   Program next = Started();
   platform.boxes.answers = {BoxResult::Yes};
@@ -499,7 +499,7 @@ TEST_F(UnsavedWork, IsNotKeptWithoutAFolder) {
 
 class UnsavedWorkOnAFailingDisk : public UnsavedWork, public testing::WithParamInterface<Step> {};
 
-TEST_P(UnsavedWorkOnAFailingDisk, StaysAsItWasWrittenLastAndNobodyIsTold) {
+TEST_P(UnsavedWorkOnAFailingDisk, StaysAsLastWrittenWithoutAMessage) {
   Program program = Editing(725);
   Recovery recovery(program);
   recovery.Committed();
@@ -515,7 +515,7 @@ TEST_P(UnsavedWorkOnAFailingDisk, StaysAsItWasWrittenLastAndNobodyIsTold) {
 INSTANTIATE_TEST_SUITE_P(Steps, UnsavedWorkOnAFailingDisk,
                          testing::Values(Step::Create, Step::Write, Step::Close, Step::Rename));
 
-TEST_F(UnsavedWork, ThatTheDiskRefusedIsWrittenASecondLater) {
+TEST_F(UnsavedWork, IsWrittenOneSecondAfterTheDiskRefusedIt) {
   Program program = Started();
   Recovery recovery(program);
   recovery.DesignShown(program.project.WorkParms);
@@ -533,7 +533,7 @@ TEST_F(UnsavedWork, ThatTheDiskRefusedIsWrittenASecondLater) {
   EXPECT_THAT(platform.clock.waiting, IsEmpty());
 }
 
-TEST_F(UnsavedWork, ThatTheDiskRefusedIsWrittenWhenTheRunEnds) {
+TEST_F(UnsavedWork, IsWrittenAtTheEndOfTheRunIfTheDiskRefusedItBefore) {
   Program program = Editing(725);
   Recovery recovery(program);
   recovery.Committed();
@@ -551,7 +551,7 @@ TEST_F(UnsavedWork, ThatTheDiskRefusedIsWrittenWhenTheRunEnds) {
   EXPECT_EQ(recovery.Kept(), KeptWork::All);
 }
 
-TEST_F(UnsavedWork, ThatWasCommittedOnAFullDiskIsWrittenWhenTheRunEnds) {
+TEST_F(UnsavedWork, IsWrittenAtTheEndOfTheRunIfTheDiskWasFullAtTheCommit) {
   Program program = Editing(725);
   Recovery recovery(program);
   recovery.Committed();
@@ -565,7 +565,7 @@ TEST_F(UnsavedWork, ThatWasCommittedOnAFullDiskIsWrittenWhenTheRunEnds) {
   EXPECT_EQ(DepthIn(FirstFile), 980);
 }
 
-TEST_F(UnsavedWork, ThatCannotBeRemovedIsNoError) {
+TEST_F(UnsavedWork, CausesNoErrorIfItCannotBeRemoved) {
   Program program = Editing(725);
   Recovery recovery(program);
   recovery.Committed();
@@ -576,7 +576,7 @@ TEST_F(UnsavedWork, ThatCannotBeRemovedIsNoError) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(UnsavedWork, ThatWaitsForItsSecondOutlivesNoWindow) {
+TEST_F(UnsavedWork, IsNotWrittenAfterTheWindowIsDestroyed) {
   Program program = Editing(725);
   {
     Recovery recovery(program);

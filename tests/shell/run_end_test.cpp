@@ -1,4 +1,4 @@
-// What the user is told when a run-time error ends the run, and what the next run brings back.
+// The message after a run-time error that ends the run, and what the next run restores.
 #include "shell/run_end.h"
 
 #include <map>
@@ -26,7 +26,7 @@ RuntimeError FailedIn(Act act, const std::string& object = {}) {
   return RuntimeError(0);
 }
 
-TEST(RunEndBox, SaysTheErrorFirstAndThenWhatWasBeingDoneAndThatTheProjectIsKept) {
+TEST(RunEndBox, NamesTheErrorThenTheActionAndSaysThatTheProjectIsKept) {
   const MessageBox box = RunEndBox(FailedIn(Act::Report), RunEnd{KeptWork::All, {3, {}}});
 
   EXPECT_EQ(box.text,
@@ -37,7 +37,7 @@ TEST(RunEndBox, SaysTheErrorFirstAndThenWhatWasBeingDoneAndThatTheProjectIsKept)
   EXPECT_EQ(box.title, "Orby Roof Support Workbench");
 }
 
-TEST(RunEndBox, OffersToStartAgainBesideTheOldButton) {
+TEST(RunEndBox, OffersToStartAgainInASecondButton) {
   const MessageBox box = RunEndBox(FailedIn(Act::Report), RunEnd{});
 
   EXPECT_EQ(box.style, BoxStyle(BoxButtons::OkRetry, BoxIcon::Critical));
@@ -50,7 +50,7 @@ struct ActCase {
   const char* sentence;
 };
 
-TEST(RunEndBox, NamesEachActInPlainWords) {
+TEST(RunEndBox, NamesEachActionInPlainWords) {
   const std::vector<ActCase> cases{
       {Act::Start, "", "The error happened while the program was started."},
       {Act::OpenFile, "/designs/panel3.orb", "The error happened while /designs/panel3.orb was opened."},
@@ -66,13 +66,13 @@ TEST(RunEndBox, NamesEachActInPlainWords) {
   }
 }
 
-TEST(RunEndBox, SpeaksOfTheLastStepWhenNobodyHasNamedIt) {
+TEST(RunEndBox, SpeaksOfTheLastStepIfTheActionHasNoName) {
   const MessageBox box = RunEndBox(RuntimeError(error_number::Overflow), RunEnd{});
 
   EXPECT_THAT(box.text, HasSubstr("'6':\r\n\r\nOverflow\r\n\r\nThe error happened during your last step.\r\n"));
 }
 
-TEST(RunEndBox, NamesTheInnermostOfTwoActs) {
+TEST(RunEndBox, NamesTheInnermostOfTwoActions) {
   std::string words;
   try {
     While(Act::OpenFile, "/designs/panel3.orb",
@@ -89,7 +89,7 @@ struct KeptCase {
   const char* sentences;
 };
 
-TEST(RunEndBox, DoesNotClaimThatAProjectIsKeptWhenItIsNot) {
+TEST(RunEndBox, DoesNotClaimThatALostProjectIsKept) {
   const std::vector<KeptCase> cases{
       {{KeptWork::Earlier, {1, {}}},
        "Your project is kept, but without your last changes: they could not be written.\r\n"
@@ -106,7 +106,7 @@ TEST(RunEndBox, DoesNotClaimThatAProjectIsKeptWhenItIsNot) {
   }
 }
 
-TEST(RunEndBox, OffersNoStartAgainBeforeAnythingHasBegun) {
+TEST(RunEndBox, OffersNoStartAgainBeforeAProjectIsOpen) {
   const MessageBox box = RunEndBox(FailedIn(Act::Start), std::nullopt);
 
   EXPECT_EQ(box.style, BoxIcon::Critical);
@@ -114,7 +114,7 @@ TEST(RunEndBox, OffersNoStartAgainBeforeAnythingHasBegun) {
             "Run-time error '11':\r\n\r\nDivision by zero\r\n\r\nThe error happened while the program was started.");
 }
 
-TEST(RestartNote, ComesBackAsItWasWritten) {
+TEST(RestartNote, IsReadBackAsItWasWritten) {
   for (const Restart& restart : {Restart{1, {}}, Restart{9, {}}, Restart{0, "/designs/panel 3.orb"}, Restart{}}) {
     const Restart read = ReadRestartNote(RestartNote(restart));
 
@@ -123,9 +123,9 @@ TEST(RestartNote, ComesBackAsItWasWritten) {
   }
 }
 
-// A run that ends by an error, and the run that is started again after it.
+// A run that ends with an error, and the run that is started again after it.
 struct StartedAgain : MainWindowTest {
-  // Ends the run in the middle of the parameters, with this depth typed.
+  // Ends the run while the parameters dialog is open with this depth typed.
   RunEnd EndWhileEditing(const std::string& depth) {
     RunEnd end;
     platform.windows.onModal = [&](Form& form) {
@@ -140,7 +140,7 @@ struct StartedAgain : MainWindowTest {
     return end;
   }
 
-  // What the next run sees: its window is open, and it was told this.
+  // Opens the window of the next run with this restart.
   void StartAgain(const Restart& restart) {
     next.files.files = atEnd;
     restarted.session.settings.LoadLastInputFile = 1;
@@ -158,7 +158,7 @@ struct StartedAgain : MainWindowTest {
   std::optional<MainWindow> nextWindow;
 };
 
-TEST_F(StartedAgain, TheProgramBringsTheUnsavedProjectBackWithoutAQuestion) {
+TEST_F(StartedAgain, TheProgramRestoresTheUnsavedProjectWithoutAQuestion) {
   OpenByDialog(Panel3);
   const RunEnd end = EndWhileEditing("810");
 
@@ -170,7 +170,7 @@ TEST_F(StartedAgain, TheProgramBringsTheUnsavedProjectBackWithoutAQuestion) {
   EXPECT_EQ(nextWindow->Caption(), "Orby Roof Support Workbench: /designs/panel3.orb*");
 }
 
-TEST_F(StartedAgain, TheProgramSaysInItsHistoryWhatItBroughtBack) {
+TEST_F(StartedAgain, TheProgramRecordsInItsHistoryWhatItRestored) {
   OpenByDialog(Panel3);
 
   StartAgain(EndWhileEditing("810").Next);
@@ -180,9 +180,9 @@ TEST_F(StartedAgain, TheProgramSaysInItsHistoryWhatItBroughtBack) {
   EXPECT_THAT(restarted.session.history.Text, Not(HasSubstr("Opening: /designs/panel4.orb")));
 }
 
-TEST_F(StartedAgain, TheProgramTakesItsOwnWorkAndNotWhatAnotherRunLost) {
+TEST_F(StartedAgain, TheProgramRestoresItsOwnWorkAndNotThatOfAnotherRun) {
   Program other = StartedProgram(platform);
-  MainWindow otherWindow(other);  // takes the second slot, as a program beside this one
+  MainWindow otherWindow(other);  // takes the second slot, as a program running beside this one
   other.project.WorkParms.Place.DepthofCover = 333;
   other.project.FileSaved = false;
   const RunEnd end = otherWindow.LeaveAtOnce();
@@ -211,12 +211,12 @@ TEST_F(StartedAgain, TheProgramOpensAProjectWithoutUnsavedChangesFromItsFile) {
   EXPECT_EQ(nextWindow->Caption(), "Orby Roof Support Workbench: /designs/panel3.orb");
 }
 
-TEST_F(StartedAgain, TheProgramOffersWhatAnotherRunLostInItsSlot) {
+TEST_F(StartedAgain, TheProgramOffersTheLostWorkOfAnotherRunInItsSlot) {
   OpenByDialog(Panel3);
   const RunEnd end = window.LeaveAtOnce();
   EditPanel3();
   window.LeaveAtOnce();
-  atEnd = platform.files.files;  // the recovery file stands for that of another program that was killed
+  atEnd = platform.files.files;  // this recovery file stands for one of another program that was killed
 
   restarted.session.folders.ProgramData = "/home/user/Documents/Orby/";
   next.boxes.answers = {BoxResult::No};
@@ -231,7 +231,7 @@ TEST_F(StartedAgain, TheProgramOffersWhatAnotherRunLostInItsSlot) {
   EXPECT_EQ(ReadRecovery(next.files.files.at(backups.front().Path))->WorkParms.Place.DepthofCover, 800);
 }
 
-TEST_F(StartedAgain, TheProgramOffersWhatAnotherRunLostWhenItsOwnSlotIsTaken) {
+TEST_F(StartedAgain, TheProgramOffersTheLostWorkOfAnotherRunIfItsOwnSlotIsTaken) {
   EditPanel3();
   window.LeaveAtOnce();
   atEnd = platform.files.files;
@@ -244,7 +244,7 @@ TEST_F(StartedAgain, TheProgramOffersWhatAnotherRunLostWhenItsOwnSlotIsTaken) {
   EXPECT_FALSE(restarted.project.FileSaved);
 }
 
-TEST_F(StartedAgain, TheProgramBeginsANewProjectWhereNothingWasBegun) {
+TEST_F(StartedAgain, TheProgramBeginsANewProjectIfNoneWasBegun) {
   const RunEnd end = window.LeaveAtOnce();
   atEnd = platform.files.files;
 
@@ -255,7 +255,7 @@ TEST_F(StartedAgain, TheProgramBeginsANewProjectWhereNothingWasBegun) {
   EXPECT_EQ(restarted.project.CurrentFile, "Untitled");
 }
 
-TEST_F(StartedAgain, TheProgramCanHaveTheWorkAsSoonAsItIsReleased) {
+TEST_F(StartedAgain, TheProgramCanRestoreTheWorkAsSoonAsItIsReleased) {
   window.LeaveAtOnce();
   ASSERT_TRUE(platform.files.marked.contains(TemporaryFolder + "~recover1.lck"));
 
@@ -264,7 +264,7 @@ TEST_F(StartedAgain, TheProgramCanHaveTheWorkAsSoonAsItIsReleased) {
   EXPECT_THAT(platform.files.marked, IsEmpty());
 }
 
-TEST_F(StartedAgain, TheUserIsToldWhenTheChangesCouldNotBeWritten) {
+TEST_F(StartedAgain, TheMessageSaysThatTheChangesCouldNotBeWritten) {
   OpenByDialog(Panel3);
   platform.files.Fail(MemoryFiles::Step::Write, error_number::DiskFull);
 
@@ -275,7 +275,7 @@ TEST_F(StartedAgain, TheUserIsToldWhenTheChangesCouldNotBeWritten) {
   EXPECT_EQ(end.Next.File, Panel3);
 }
 
-TEST_F(StartedAgain, TheUserIsToldWhenOnlyEarlierChangesCouldBeWritten) {
+TEST_F(StartedAgain, TheMessageSaysThatOnlyEarlierChangesCouldBeWritten) {
   EditPanel3();
   window.LeaveAtOnce();
   platform.files.Fail(MemoryFiles::Step::Write, error_number::DiskFull);
@@ -286,7 +286,7 @@ TEST_F(StartedAgain, TheUserIsToldWhenOnlyEarlierChangesCouldBeWritten) {
   EXPECT_EQ(end.Next.Slot, 1);
 }
 
-TEST_F(StartedAgain, TheUserIsToldThatNothingIsKeptWithoutAFolderForIt) {
+TEST_F(StartedAgain, TheMessageSaysThatNothingIsKeptWithoutAFolder) {
   RecordingPlatform bare;
   Program program2 = StartedProgram(bare);
   program2.session.folders.ProgramTemporary.clear();
@@ -296,7 +296,7 @@ TEST_F(StartedAgain, TheUserIsToldThatNothingIsKeptWithoutAFolderForIt) {
   EXPECT_EQ(window2.LeaveAtOnce().Kept, KeptWork::Nothing);
 }
 
-// The acts of the program say what failed.
+// The message names the action that failed.
 
 TEST_F(StartedAgain, AFileThatCannotBeOpenedIsNamed) {
   std::string words;

@@ -28,7 +28,7 @@ struct StartUp : testing::Test {
 
   std::string& Ini() { return platform.files.files[IniPath]; }
 
-  // What a first run holds is in force, and the user has been told why it is not kept.
+  // Expects the built-in settings, and a message with the reason why they are not stored.
   void ExpectBuiltInSettings(const std::string& reason) {
     EXPECT_EQ(program.session.defaults.DefaultENGDepthofCover, 400);
     EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
@@ -45,7 +45,7 @@ struct StartUp : testing::Test {
   }
 };
 
-TEST_F(StartUp, MakesAMissingConfigurationFileAndStartsWithTheDefaults) {
+TEST_F(StartUp, CreatesAMissingConfigurationFileAndStartsWithTheDefaults) {
   StartProgram(program);
 
   EXPECT_EQ(program.session.IniFilePath, IniPath);
@@ -61,7 +61,7 @@ TEST_F(StartUp, MakesAMissingConfigurationFileAndStartsWithTheDefaults) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(StartUp, TellsTheHistoryWhereItKeepsTheDefaultsThatItMade) {
+TEST_F(StartUp, RecordsInTheHistoryWhereItStoredTheNewDefaults) {
   StartProgram(program);
 
   EXPECT_EQ(program.session.history.Text,
@@ -76,7 +76,7 @@ TEST_F(StartUp, ReadsANewFileBackLikeAnyOther) {
   EXPECT_EQ(program.session.settings.MaxDisplaySize, 4096);
 }
 
-TEST_F(StartUp, HoldsTheSameListsOnTheFirstAndOnTheSecondRun) {
+TEST_F(StartUp, HasTheSameListsOnTheFirstAndOnTheSecondRun) {
   StartProgram(program);
   const std::string written = Ini();
   Program next(platform.Doors());
@@ -92,7 +92,7 @@ TEST_F(StartUp, HoldsTheSameListsOnTheFirstAndOnTheSecondRun) {
   EXPECT_EQ(next.session.history.Text, "1. File initialized. Use Edit-Project Parameters to enter data\r\n");
 }
 
-TEST_F(StartUp, TakesOverWhatTheFileHolds) {
+TEST_F(StartUp, UsesTheValuesOfTheFile) {
   Ini() =
       "[Version]\r\nINIFileVersion=201030\r\n[Settings]\r\nDefaultUnits=1\r\nDisplayHistoryWin=1\r\n"
       "[FileMenu]\r\nMaxLastFiles=1\r\nLastFile1=panel.ORB\r\nLastFileLong1=/designs/panel.ORB\r\n"
@@ -109,7 +109,7 @@ TEST_F(StartUp, TakesOverWhatTheFileHolds) {
   EXPECT_EQ(Ini(), before) << "reading writes nothing";
 }
 
-TEST_F(StartUp, DeletesAndRebuildsAFileOfAnotherVersion) {
+TEST_F(StartUp, ReplacesAFileOfAnotherVersion) {
   for (const char* version :
        {"INIFileVersion=201029\r\n", "INIFileVersion=201031\r\n", "INIFileVersion=0201030\r\n", ""}) {
     Ini() = std::string("[Version]\r\n") + version +
@@ -153,7 +153,7 @@ TEST_F(StartUp, TakesTheStandingSupportsFromTheBuiltInTableWhateverTheFileSays) 
   EXPECT_EQ(next.session.catalogs.StandSupports.DefaultStandSupportType[15], "Concrete Crib (24in x 24in)");
 }
 
-TEST_F(StartUp, ForgetsTheOptionsOfTheLastRun) {
+TEST_F(StartUp, StartsWithTheDefaultOptionsEvenIfOthersAreStored) {
   StartProgram(program);
   program.session.options.BoltGradeAsUltimateDefault = StrengthBasis::Ultimate;
   WriteDefaults(program, StoredSettings::Options);
@@ -176,7 +176,7 @@ TEST_F(StartUp, KeepsTheConfigurationInTheProgramsFolderWithoutDocuments) {
   EXPECT_EQ(program.session.settings.DataPath, "/program/");
 }
 
-TEST_F(StartUp, WorksWithTheBuiltInSettingsWhereNoFileCanBeWritten) {
+TEST_F(StartUp, UsesTheBuiltInSettingsIfNoFileCanBeWritten) {
   platform.files.Fail(MemoryFiles::Step::Create, error_number::DiskFull);
 
   StartProgram(program);
@@ -185,7 +185,7 @@ TEST_F(StartUp, WorksWithTheBuiltInSettingsWhereNoFileCanBeWritten) {
   ExpectBuiltInSettings("Disk full");
 }
 
-TEST_F(StartUp, LeavesAFileThatItCannotReadAndWorksWithTheBuiltInSettings) {
+TEST_F(StartUp, KeepsAnUnreadableFileAndUsesTheBuiltInSettings) {
   Ini() = "[Version]\r\nINIFileVersion=201030\r\n[ORBYDefaults]\r\nDefaultENGDepthofCover=900\r\n";
   const std::string before = Ini();
   platform.files.Fail(MemoryFiles::Step::Read, error_number::PermissionDenied);
@@ -196,7 +196,7 @@ TEST_F(StartUp, LeavesAFileThatItCannotReadAndWorksWithTheBuiltInSettings) {
   ExpectBuiltInSettings("Permission denied");
 }
 
-TEST_F(StartUp, LeavesAFileThatItCannotReadForAMoment) {
+TEST_F(StartUp, KeepsAFileThatIsUnreadableForAMoment) {
   Ini() = "[Version]\r\nINIFileVersion=201030\r\n[ORBYDefaults]\r\nDefaultENGDepthofCover=900\r\n";
   const std::string before = Ini();
   platform.files.Fail(MemoryFiles::Step::Read, error_number::PermissionDenied, 0, 1);
@@ -207,7 +207,7 @@ TEST_F(StartUp, LeavesAFileThatItCannotReadForAMoment) {
   ExpectBuiltInSettings("Permission denied");
 }
 
-TEST(StartOnADisk, WorksWithTheBuiltInSettingsWhereAFolderHasTheNameOfTheFile) {
+TEST(StartOnADisk, UsesTheBuiltInSettingsIfAFolderHasTheNameOfTheFile) {
   const TemporaryFolder home;
   DiskFiles files(home.Path());
   RecordingPlatform platform;
@@ -243,7 +243,7 @@ TEST(StartOnADisk, KeepsTheLinkToAConfigurationFileOfAnotherVersion) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(StartUp, NamesAFontThatTheMachineHas) {
+TEST_F(StartUp, ChoosesAFontThatTheMachineHas) {
   platform.fonts.screen = {"DejaVu Sans", "Courier New"};
 
   StartProgram(program);
@@ -253,7 +253,7 @@ TEST_F(StartUp, NamesAFontThatTheMachineHas) {
   EXPECT_THAT(Ini(), HasSubstr("DisplayFontName=Courier New\r\n"));
 }
 
-TEST_F(StartUp, LosesNoTimeOverFontsOnceOneIsChosen) {
+TEST_F(StartUp, AsksForNoFontsIfOneIsAlreadyChosen) {
   platform.fonts.screen = {"Verdana", "Arial"};
   StartProgram(program);
   platform.fonts.asked = 0;
@@ -271,7 +271,7 @@ TEST_F(StartUp, EndsInTheProgramsFolder) {
   EXPECT_EQ(platform.files.workingFolder, "/program/");
 }
 
-TEST_F(StartUp, RecordsAMachinesCommaAndKeepsThePoint) {
+TEST_F(StartUp, RecordsTheSystemsDecimalCommaAndUsesThePoint) {
   platform.locale.separator = ",";
 
   StartProgram(program);
@@ -308,7 +308,7 @@ TEST_F(StartOfAScript, WritesNothingAndStaysWhereItIs) {
   EXPECT_EQ(program.session.folders.ProgramData, "");
 }
 
-TEST_F(StartOfAScript, RecordsAMachinesCommaAndKeepsThePoint) {
+TEST_F(StartOfAScript, RecordsTheSystemsDecimalCommaAndUsesThePoint) {
   platform.locale.separator = ",";
 
   StartApart(program, nullptr);
@@ -316,7 +316,7 @@ TEST_F(StartOfAScript, RecordsAMachinesCommaAndKeepsThePoint) {
   EXPECT_EQ(program.session.SavedDecimalSeparator, ",");
 }
 
-TEST_F(StartOfAScript, TakesTheNewDesignFromTheConfiguredDefaults) {
+TEST_F(StartOfAScript, BeginsTheNewDesignWithTheConfiguredDefaults) {
   StartApart(program, nullptr);
   IniText configuration;
   program.session.defaults.DefaultENGDepthofCover = 725;
@@ -354,17 +354,17 @@ TEST_F(CommandLineOfARun, MayBeEmpty) {
   EXPECT_EQ(CommandLineFile(program, {"\"\""}), "");
 }
 
-TEST_F(CommandLineOfARun, NamesAFileFromTheRoot) {
+TEST_F(CommandLineOfARun, GivesAnAbsolutePath) {
   EXPECT_EQ(CommandLineFile(program, {"/designs/panel.ORB"}), "/designs/panel.ORB");
   EXPECT_EQ(CommandLineFile(program, {"panel.ORB"}), "/section/panel.ORB");
 }
 
-TEST_F(CommandLineOfARun, LosesItsDoubleQuotesWhereverTheyStand) {
+TEST_F(CommandLineOfARun, LosesItsDoubleQuotes) {
   EXPECT_EQ(CommandLineFile(program, {"\"/designs/north mains.ORB\""}), "/designs/north mains.ORB");
   EXPECT_EQ(CommandLineFile(program, {"/des\"igns\"/panel.ORB"}), "/designs/panel.ORB");
 }
 
-TEST_F(CommandLineOfARun, IsOneNameHoweverManyArgumentsItHas) {
+TEST_F(CommandLineOfARun, JoinsItsArgumentsToOneName) {
   EXPECT_EQ(CommandLineFile(program, {"\"/designs/north", "mains.ORB\""}), "/designs/north mains.ORB");
   EXPECT_EQ(CommandLineFile(program, {"north", "", "-mains.ORB"}), "/section/north  -mains.ORB");
 }

@@ -28,7 +28,7 @@ TEST_F(ACheckAtStart, FetchesAShortVersionFile) {
   EXPECT_FALSE(LastAsked().request.resumes);
 }
 
-TEST_F(ACheckAtStart, IsLeftOutWhenTheUserHasSwitchedItOff) {
+TEST_F(ACheckAtStart, IsSkippedIfTheUserHasSwitchedItOff) {
   program.session.settings.RemindAnnualUpdates = 0;
 
   check.Start();
@@ -36,7 +36,7 @@ TEST_F(ACheckAtStart, IsLeftOutWhenTheUserHasSwitchedItOff) {
   EXPECT_THAT(platform.downloads.asked, IsEmpty());
 }
 
-TEST_F(ACheckAtStart, IsLeftOutWithoutAServer) {
+TEST_F(ACheckAtStart, IsSkippedWithoutAServer) {
   program.session.UpdateServer.clear();
 
   check.Start();
@@ -60,13 +60,13 @@ TEST_F(ACheckAtStart, AsksAboutANewerVersion) {
   EXPECT_EQ(platform.windows.modalForms, 0);
 }
 
-TEST_F(ACheckAtStart, TellsTheHistoryBothVersions) {
+TEST_F(ACheckAtStart, RecordsBothVersionsInTheHistory) {
   CheckBringing("1.0.00\r\n");
 
   EXPECT_EQ(program.session.history.Text, "1. Server/Current: 1.0.00/1.0.00\r\n");
 }
 
-TEST_F(ACheckAtStart, OpensTheUpdatesOnYesAndSaysNothingElse) {
+TEST_F(ACheckAtStart, OpensTheUpdateDialogOnYesWithoutAnotherMessage) {
   std::string opened;
   platform.windows.onModal = [&](Form& form) { opened = form.Name(); };
   platform.boxes.answers = {BoxResult::Yes};
@@ -78,7 +78,7 @@ TEST_F(ACheckAtStart, OpensTheUpdatesOnYesAndSaysNothingElse) {
   EXPECT_EQ(platform.downloads.asked.size(), 1U);
 }
 
-TEST_F(ACheckAtStart, LetsTheUpdatesKnowTheVersionThatItFound) {
+TEST_F(ACheckAtStart, PassesTheFoundVersionToTheUpdateDialog) {
   platform.windows.onModal = [](Form& form) { dynamic_cast<UpdateDialog&>(form).cmdInstall.Press(); };
   platform.boxes.answers = {BoxResult::Yes};
 
@@ -95,14 +95,14 @@ TEST_F(ACheckAtStart, IsSilentAboutTheSameOrAnOlderVersion) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(ACheckAtStart, IsSilentAboutAFileThatIsNone) {
+TEST_F(ACheckAtStart, IsSilentAboutABadVersionFile) {
   for (const char* bytes : {"", "\r\n", "../../x", "<!DOCTYPE html>"}) CheckBringing(bytes);
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
   EXPECT_EQ(program.session.history.Text, "");
 }
 
-TEST_F(ACheckAtStart, IsSilentWhenTheFetchFailsWhateverLiesThereOfAnotherDay) {
+TEST_F(ACheckAtStart, IsSilentIfTheFetchFailsEvenWithAnOldVersionFile) {
   platform.files.files[VersionFileAt] = "7.0.00";
 
   for (const FetchEnd end : {FetchEnd::NoService, FetchEnd::NoConnection, FetchEnd::Failed}) {
@@ -114,7 +114,7 @@ TEST_F(ACheckAtStart, IsSilentWhenTheFetchFailsWhateverLiesThereOfAnotherDay) {
   EXPECT_EQ(program.session.history.Text, "");
 }
 
-TEST_F(ACheckAtStart, IsSilentWhenTheFileCannotBeReadOrNothingFetched) {
+TEST_F(ACheckAtStart, IsSilentIfTheVersionFileCannotBeReadOrFetched) {
   check.Start();
   LastAsked().events.Finished({FetchEnd::Done, {}});
   platform.downloads.works = false;
@@ -123,7 +123,7 @@ TEST_F(ACheckAtStart, IsSilentWhenTheFileCannotBeReadOrNothingFetched) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(ACheckAtStart, StopsWithTheWindowThatHasIt) {
+TEST_F(ACheckAtStart, StopsWhenTheWindowIsDestroyed) {
   {
     UpdateCheck other(program);
     other.Start();
@@ -132,8 +132,8 @@ TEST_F(ACheckAtStart, StopsWithTheWindowThatHasIt) {
   EXPECT_TRUE(LastAsked().stopped);
 }
 
-struct AWindowThatLooksForUpdates : testing::Test {
-  AWindowThatLooksForUpdates() {
+struct AWindowThatChecksForUpdates : testing::Test {
+  AWindowThatChecksForUpdates() {
     program.session.UpdateServer = "https://updates.example.org";
     window.Open();
   }
@@ -145,7 +145,7 @@ struct AWindowThatLooksForUpdates : testing::Test {
   MainWindow window{program};
 };
 
-TEST_F(AWindowThatLooksForUpdates, DoesNotAskOverTheUpdatesThatTheUserHasOpened) {
+TEST_F(AWindowThatChecksForUpdates, DoesNotAskWhileTheUpdateDialogIsOpen) {
   ASSERT_FALSE(CheckAtStart().stopped);
   bool wasStopped = false;
   platform.windows.onModal = [&](Form&) { wasStopped = CheckAtStart().stopped; };
@@ -155,7 +155,7 @@ TEST_F(AWindowThatLooksForUpdates, DoesNotAskOverTheUpdatesThatTheUserHasOpened)
   EXPECT_TRUE(wasStopped);
 }
 
-TEST_F(AWindowThatLooksForUpdates, LeavesNothingFetchedInPartWhenTheRunEndsAtOnce) {
+TEST_F(AWindowThatChecksForUpdates, StopsTheFetchIfTheRunEndsAtOnce) {
   ASSERT_FALSE(CheckAtStart().stopped);
 
   window.LeaveAtOnce();
