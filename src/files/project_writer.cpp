@@ -6,6 +6,7 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "files/description_reader.h"
+#include "files/project_lines.h"
 
 namespace orby {
 namespace {

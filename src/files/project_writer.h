@@ -4,9 +4,10 @@
 #include <string>
 
 #include "core/program.h"
-#include "files/project_lines.h"
 
 namespace orby {
+
+struct ProjectLine;
 
 // A data line of the file, without its end.
 std::string DataLineText(const Design& design, const ProjectLine& line);

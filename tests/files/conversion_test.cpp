@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "design/field.h"
 #include "project_fixture.h"
 
 namespace orby::test {

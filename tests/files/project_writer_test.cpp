@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "files/project_lines.h"
 #include "project_fixture.h"
 #include "support/test_data.h"
 
