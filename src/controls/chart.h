@@ -24,14 +24,14 @@ struct ChartSeries {
 
 struct ChartAxis {
   std::string title;
-  bool grid = false;  // the grid lines that stand on this axis
+  bool grid = false;  // whether grid lines start at the ticks of this axis
   bool operator==(const ChartAxis&) const = default;
 };
 
-// What lies under the pointer.
+// The part of the chart under the pointer.
 struct ChartHit {
   bool inPlot = false;
-  int series = -1;  // of the nearest point, counted from 0; -1 without one
+  int series = -1;  // of the nearest point, counted from 0; -1 when there is none
   int point = -1;
   double distance = 0;  // to that point, pixels
 };

@@ -1,4 +1,4 @@
-// What every control of a dialog has: its name, and whether it can be used and seen.
+// The base of all controls of a dialog: the name, and whether the control is enabled and visible.
 #pragma once
 
 #include <string_view>
@@ -8,10 +8,10 @@ namespace orby {
 
 class Form;
 
-// A control belongs to one form for its whole life and is found there by its name.
+// A control belongs to one form during its whole lifetime. The form finds it by its name.
 class Control {
  public:
-  // The name must outlive the control: names are literals.
+  // Requires a name that outlives the control, such as a literal.
   Control(Form& form, std::string_view name);
   virtual ~Control() = default;
   Control(const Control&) = delete;
@@ -26,9 +26,9 @@ class Control {
   void SetVisible(bool visible) { Mirror(visible_, visible); }
 
  protected:
-  // Tells the view of the form, if it is on the screen, that something it shows of this control differs.
+  // Notifies the view of the form, if there is one, that this control looks different.
   void Touch() const;
-  // Stores a value that the view shows; nothing happens when it is there already.
+  // Stores a value that the view shows and notifies the view. Does nothing when the value is the same.
   template <class T>
   void Mirror(T& stored, T value) {
     if (stored == value) return;

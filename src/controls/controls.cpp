@@ -7,7 +7,7 @@
 namespace orby {
 namespace {
 
-// The selection that is left once these items have taken the place of others.
+// Returns the selection after a list got these items.
 int IndexWithin(int listIndex, const std::vector<ComboItem>& items) {
   return listIndex < static_cast<int>(items.size()) ? listIndex : Combo::Nothing;
 }
@@ -81,7 +81,7 @@ void Combo::Fill(std::vector<ComboItem> items) {
 }
 
 void Combo::SetText(std::string text) {
-  // Of items with the same text the selected one stays.
+  // Of several items with this text, the selected one stays selected.
   if (HasSelection() && items_[static_cast<std::size_t>(listIndex_)].text == text) {
     return Assign(std::move(text), listIndex_);
   }

@@ -1,5 +1,5 @@
-// The controls that dialogs are made of. Setting a property in code fires the same event as the user's act, at once;
-// setting what is there already fires nothing. Filling a list or a grid fires nothing.
+// The controls of dialogs. Setting a property in code fires the same event as the user's action, before the setter
+// returns. Setting a property to the value that it has fires nothing. Filling a list or a grid fires nothing.
 #pragma once
 
 #include <functional>
@@ -19,7 +19,7 @@ namespace orby {
 
 class Label : public Control {
  public:
-  // The suffix of a unit is appended to the caption.
+  // AppendUnits appends the unit of `suffix` to the caption.
   Label(Form& form, std::string_view name, std::string_view caption, UnitSuffix suffix = UnitSuffix::None)
       : Control(form, name), caption_(caption), suffix_(suffix) {}
 
@@ -32,13 +32,13 @@ class Label : public Control {
   UnitSuffix suffix_;
 };
 
-// A frame around other controls. Its caption may end in a unit as a label's does.
+// A frame around other controls. Its caption may end in a unit, like that of a label.
 class Frame : public Label {
  public:
   using Label::Label;
 };
 
-// A menu of the menu bar; its entries are those of an ActionArray.
+// A menu of the menu bar. Its entries are in an ActionArray.
 class Menu : public Label {
  public:
   using Label::Label;
@@ -51,7 +51,7 @@ class Button : public Control {
 
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string_view caption) { Mirror(caption_, std::string(caption)); }
-  // The user's press; a disabled button does not answer.
+  // Presses the button as the user does. Does nothing when it is disabled.
   void Press() const {
     if (Enabled() && Click) Click();
   }
@@ -64,8 +64,8 @@ class Button : public Control {
 
 enum class TextKind {
   Free,    // any text
-  Number,  // keys pass the numeric key filter
-  Output,  // shown only, never typed into; fires nothing
+  Number,  // keys go through the numeric key filter
+  Output,  // only shown, never typed into; fires nothing
 };
 
 class TextBox : public Control {
@@ -73,14 +73,14 @@ class TextBox : public Control {
   TextBox(Form& form, std::string_view name, TextKind kind = TextKind::Free) : Control(form, name), kind_(kind) {}
 
   TextKind Kind() const { return kind_; }
-  // What the keys typed from now on are judged by.
+  // Sets the kind of text that later keys are checked against.
   void SetKind(TextKind kind) { kind_ = kind; }
   const std::string& Text() const { return text_; }
   void SetText(std::string text);
-  // The text's leading number.
+  // Returns the number at the start of the text.
   double Value() const;
 
-  // The key that reaches the text when this one is typed, 0 when it is swallowed.
+  // Returns `key` if the text accepts it, and 0 if it is ignored.
   int KeyPress(int key) const;
 
   std::size_t SelectionStart() const { return selectionStart_; }
@@ -90,18 +90,18 @@ class TextBox : public Control {
   const FontChoice& Font() const { return font_; }
   void SetFont(FontChoice font) { Mirror(font_, std::move(font)); }
 
-  Event Change;  // the text differs from before
+  Event Change;  // the text has changed
 
  private:
   std::string text_;
-  mutable std::optional<double> value_;  // of the text, since it was asked for
+  mutable std::optional<double> value_;  // number of the text, once it has been read
   TextKind kind_;
   FontChoice font_;
   std::size_t selectionStart_ = 0;
   std::size_t selectionLength_ = 0;
 };
 
-// The label of a field. It bears the field's name: "lblCMRR" labels "txtCMRR", and "lblText7" labels "Text7".
+// The label of a field. It is named after the field: "lblCMRR" labels "txtCMRR", and "lblText7" labels "Text7".
 class FieldLabel {
  public:
   const std::string& LabelCaption() const { return label_.Caption(); }
@@ -128,7 +128,7 @@ class LabelledBox : public FieldLabel, public TextBox {
 
 enum class ClickKind {
   Quiet,   // a click changes values
-  MayAsk,  // a click may open a dialog and wait for it
+  MayAsk,  // a click may open a dialog and wait until it is closed
 };
 
 class CheckBox : public Control {
@@ -142,7 +142,7 @@ class CheckBox : public Control {
   bool Checked() const { return value_ == 1; }
   void SetValue(Integer value);
 
-  Event Click;  // the value differs from before
+  Event Click;  // the value has changed
 
  private:
   ClickKind kind_;
@@ -171,7 +171,8 @@ class OptionArray : public Control {
   void SetAllEnabled(bool enabled);
 
   bool Value(std::size_t index) const { return members_[index].value; }
-  // A member that turns true turns the others false and is clicked. Throws RuntimeError 9 outside the array.
+  // Sets one option. An option that becomes true sets the others to false and fires Click. Throws RuntimeError 9
+  // outside the array.
   void SetValue(int index, bool value);
 
   std::function<void(Integer index)> Click;
@@ -186,10 +187,10 @@ class OptionArray : public Control {
   std::vector<Member> members_;
 };
 
-// The index of the last member that is on; 0 when none is.
+// Returns the index of the last option that is true, or 0 when none is.
 Integer GetArrayIndex(const OptionArray& options);
 
-// The same for a choice whose options stand in the order of its values.
+// Returns the choice whose value is GetArrayIndex(options). Requires options in the order of the values.
 template <class Choice>
 Choice Chosen(const OptionArray& options) {
   return Choice{GetArrayIndex(options)};
@@ -200,11 +201,11 @@ struct ComboItem {
   double data = 0;  // a whole number
 };
 
-// A list to choose from with a text of its own. The text and the selected item are two states: a text that is no item
-// stays, with nothing selected.
+// A list with a text field. The text and the selected item are separate: a text that equals no item stays, and no item
+// is selected.
 enum class ComboKind {
-  FreeText,  // a text counts key by key
-  ListOnly,  // a text is meant to be an item: it counts once it has been typed to its end
+  FreeText,  // the text takes effect with every key
+  ListOnly,  // the text should be an item, and takes effect after it is complete
 };
 
 class Combo : public Control {
@@ -216,23 +217,25 @@ class Combo : public Control {
   static constexpr int Nothing = -1;
 
   const std::vector<ComboItem>& Items() const { return items_; }
-  // A selection beyond the end of the new list is dropped.
+  // Replaces the items. A selection beyond the end of the new list is removed.
   void Fill(std::vector<ComboItem> items);
 
   const std::string& Text() const { return text_; }
-  // Selects the item that is exactly equal, or none; of several the first, unless one of them is selected.
+  // Sets the text and selects the item that equals it, or none. Of several equal items it selects the first, unless one
+  // of them is selected already.
   void SetText(std::string text);
-  // Empties the text and keeps the selection.
+  // Clears the text and keeps the selection.
   void BlankText() { Assign({}, listIndex_); }
-  // The text's leading number.
+  // Returns the number at the start of the text.
   double Value() const;
 
   int ListIndex() const { return listIndex_; }
   bool HasSelection() const { return listIndex_ != Nothing; }
-  // Selects an item, the text following it; Nothing keeps the text. Throws RuntimeError 9 outside the list.
+  // Selects an item and sets the text to it. Nothing removes the selection and keeps the text. Throws RuntimeError 9
+  // outside the list.
   void SetListIndex(int index);
 
-  Event Change;  // the text or the selected item differs from before
+  Event Change;  // the text or the selected item has changed
 
  private:
   void Assign(std::string text, int listIndex);
@@ -240,12 +243,11 @@ class Combo : public Control {
   ComboKind kind_;
   std::vector<ComboItem> items_;
   std::string text_;
-  mutable std::optional<double> value_;  // of the text, since it was asked for
+  mutable std::optional<double> value_;  // number of the text, once it has been read
   int listIndex_ = Nothing;
 };
 
-// What bears captions that can be reached one by one, counted from 0. Each routine throws RuntimeError 9 outside the
-// array.
+// A control with several captions, counted from 0. Each function throws RuntimeError 9 outside the array.
 class CaptionArray : public Control {
  public:
   CaptionArray(Form& form, std::string_view name, std::initializer_list<std::string_view> captions);
@@ -270,7 +272,7 @@ class CaptionArray : public Control {
   std::vector<Item> items_;
 };
 
-// Pages of which one is on view.
+// Pages of which one is shown.
 class TabSet : public CaptionArray {
  public:
   using CaptionArray::CaptionArray;
@@ -279,33 +281,33 @@ class TabSet : public CaptionArray {
   void SetTabEnabled(int tab, bool enabled) { SetItemEnabled(tab, enabled); }
 
   int Tab() const { return tab_; }
-  // Code may go to a disabled tab. Throws RuntimeError 9 outside the set.
+  // Shows a tab, also a disabled one. Throws RuntimeError 9 outside the set.
   void SetTab(int tab);
-  // The user's click, which a disabled tab does not answer.
+  // Shows a tab as the user's click does. Does nothing when the tab is disabled.
   void ClickTab(int tab);
 
-  Event Click;  // another tab is on view
+  Event Click;  // another tab is shown
 
  private:
   int tab_ = 0;
 };
 
 enum class ListKind {
-  Commands,  // an item does something: the arrow keys only pass over it
-  Choices,   // an item is chosen: by the arrow keys too
+  Commands,  // a click on an item runs a command; the arrow keys only move over the items
+  Choices,   // a click or an arrow key chooses an item
 };
 
-// A plain list of which one item is selected.
+// A list in which one item can be selected.
 class List : public Control {
  public:
   List(Form& form, std::string_view name, ListKind kind = ListKind::Commands) : Control(form, name), kind_(kind) {}
 
   ListKind Kind() const { return kind_; }
   const std::vector<ComboItem>& Items() const { return items_; }
-  // Nothing is selected afterwards.
+  // Replaces the items. No item is selected afterwards.
   void Fill(std::vector<ComboItem> items);
   int ListIndex() const { return listIndex_; }
-  // The user's click on an item; fires each time. Throws RuntimeError 9 outside the list.
+  // Clicks an item as the user does. Fires also for the selected item. Throws RuntimeError 9 outside the list.
   void ClickItem(int index);
 
   Event Click;
@@ -316,7 +318,8 @@ class List : public Control {
   int listIndex_ = Combo::Nothing;
 };
 
-// The entries of a menu or the buttons of a tool bar. A caption of "-" is a separator, an empty one no entry at all.
+// The entries of a menu or the buttons of a tool bar. A caption of "-" makes a separator. An empty caption makes no
+// entry.
 class ActionArray : public CaptionArray {
  public:
   using CaptionArray::CaptionArray;
@@ -328,13 +331,13 @@ class ActionArray : public CaptionArray {
   bool ItemChecked(int index) const { return At(index).checked; }
   void SetItemChecked(int index, bool checked) { Mirror(At(index).checked, checked); }
 
-  // The user's choice of an entry; one that is disabled or not shown does not answer.
+  // Chooses an entry as the user does. Does nothing when the entry is disabled or hidden.
   void ClickItem(int index) const;
 
   std::function<void(Integer index)> Click;
 };
 
-// A whole number between two others.
+// A slider for a whole number in a range.
 class Slider : public Control {
  public:
   Slider(Form& form, std::string_view name, int minimum, int maximum)
@@ -346,7 +349,7 @@ class Slider : public Control {
   // A value outside the range becomes its nearer end.
   void SetValue(int value);
 
-  Event Change;  // the value differs from before
+  Event Change;  // the value has changed
 
  private:
   int minimum_;
@@ -354,7 +357,7 @@ class Slider : public Control {
   int value_;
 };
 
-// How far a long piece of work has come.
+// The progress of a long task.
 class ProgressBar : public Control {
  public:
   using Control::Control;
@@ -369,13 +372,13 @@ class ProgressBar : public Control {
   int value_ = 0;
 };
 
-// A text that may be as long as a file, shown line by line as it stands: bytes, not yet known to be text.
+// Shows the lines of a long file. The text is given as bytes of unknown encoding.
 class TextPane : public Control {
  public:
   using Control::Control;
 
   const std::string& Bytes() const { return bytes_; }
-  // Empties the pane and gets ready for so many bytes.
+  // Removes the text and reserves memory for `expected` bytes.
   void Clear(std::size_t expected = 0);
   void Append(std::string_view bytes);
 
@@ -387,7 +390,7 @@ class TextPane : public Control {
   FontChoice font_;
 };
 
-// A stored picture of which only the visibility changes.
+// A fixed picture, which can only be shown and hidden.
 class Picture : public Control {
  public:
   using Control::Control;

@@ -1,4 +1,4 @@
-// What controls share: the events that they fire, and the positions in their lists.
+// Events of controls, and checked positions in their lists.
 #pragma once
 
 #include <cstddef>
@@ -10,12 +10,12 @@ namespace orby {
 
 using Event = std::function<void()>;
 
-// Runs the rule of an event, if there is one.
+// Calls the handler of an event, if there is one.
 inline void Fire(const Event& event) {
   if (event) event();
 }
 
-// The index as a position in a list of so many. Throws RuntimeError 9 outside it.
+// Returns `index` as a position in a list of `count` items. Throws RuntimeError 9 outside the list.
 inline std::size_t CheckedIndex(int index, std::size_t count) {
   if (index < 0 || static_cast<std::size_t>(index) >= count) throw RuntimeError(error_number::Subscript);
   return static_cast<std::size_t>(index);

@@ -1,4 +1,4 @@
-// A dialog as a model: its controls, its caption, and the one opening and closing it goes through.
+// A dialog without its window: its controls, its caption, and how it opens and closes.
 #pragma once
 
 #include <functional>
@@ -11,7 +11,7 @@ namespace orby {
 class Control;
 class TextBox;
 
-// What shows a form on the screen. It is told of each change before the events of the change run.
+// Shows a form on the screen. The form notifies it of each change before the events of the change fire.
 class FormView {
  public:
   virtual ~FormView() = default;
@@ -32,28 +32,29 @@ class Form {
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string caption);
 
-  // In the order of their declaration, which is the order of the tab key.
+  // Returns the controls in the order of their declaration, which is the order of the tab key.
   const std::vector<Control*>& Controls() const { return controls_; }
-  // The control of that name, or nullptr.
+  // Returns the control of that name, or null.
   Control* Find(std::string_view name) const;
 
-  // Runs the opening sequence; does nothing on a form that is open.
+  // Opens the form. Does nothing when it is open.
   void Open();
-  // Runs the closing sequence; does nothing on a form that is not open.
+  // Closes the form. Does nothing when it is not open.
   void Close();
   bool IsOpen() const { return open_; }
-  // Whether the user may close the form now; asks first where something would be lost.
+  // Returns true if the user may close the form now. A form may ask first when input would be lost.
   virtual bool MayClose() { return true; }
 
-  // The control that has the focus, or that is to get it as soon as it can be seen and used.
+  // Returns the control that has the focus, or that gets it as soon as it is visible and enabled. Null before the first
+  // request.
   Control* FocusRequest() const { return focus_; }
   void RequestFocus(Control& control);
 
-  // The one view, or nullptr; it unties itself before it goes.
+  // Sets the only view, or null. A view must remove itself before it is destroyed.
   void SetView(FormView* view) { view_ = view; }
   FormView* View() const { return view_; }
 
-  // Runs once the form has dealt with an act of the user, such as a key or a click.
+  // Called after the form has handled an action of the user, such as a key or a click.
   std::function<void()> Acted;
 
  protected:
@@ -72,6 +73,6 @@ class Form {
 };
 
 // Selects the whole text of the control that has the focus, if it is a text box.
-void SelectAllText(Form& form);  // nothing calls it: the view selects what gets the focus
+void SelectAllText(Form& form);  // nothing calls it: the view selects the text of a field that gets the focus
 
 }  // namespace orby

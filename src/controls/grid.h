@@ -1,4 +1,4 @@
-// A grid of texts of which one row, and one cell in it, is selected.
+// A grid of texts with a selected row and a selected cell.
 #pragma once
 
 #include <string>
@@ -13,30 +13,31 @@ namespace orby {
 
 class TextBox;
 
-// Cells of text under fixed header rows, one row of them selected, and one cell in it.
+// Cells of text below fixed header rows. One row is selected, and one cell in it.
 class Grid : public Control {
  public:
   Grid(Form& form, std::string_view name) : Control(form, name) {}
 
-  // Sizes the grid, empties its cells and selects the first cell below the header, if there is one.
+  // Sets the size, clears all cells and selects the first cell below the header, if there is one.
   void SetSize(int rows, int columns, int fixedRows);
-  // Takes these rows in the place of all, the first ones as the header, and selects the first cell below it. Rows are
-  // of one length. The view is told once, however many there are.
+  // Replaces all rows and selects the first cell below the header. The first `fixedRows` rows are the header. Requires
+  // rows of one length. Notifies the view once.
   void SetRows(std::vector<std::vector<std::string>> rows, int fixedRows);
-  // One more row of empty cells at the end.
+  // Appends a row of empty cells.
   void AddRow();
-  // Those behind it move up; the selection stays at its place, or goes to the last row. Throws RuntimeError 9 outside
-  // the grid.
+  // Removes a row; the rows below it move up. The selection keeps its row number, or moves to the last row when that is
+  // gone. Throws RuntimeError 9 outside the grid.
   void RemoveRow(int row);
   int Rows() const { return rows_; }
   int Columns() const { return columns_; }
   int FixedRows() const { return fixedRows_; }
-  // Columns at the left that are only shown; the selection starts behind them when the grid is sized.
+  // Sets how many columns at the left are only shown. When the size is set, the selection starts in the column after
+  // them.
   void SetFixedColumns(int columns) { fixedColumns_ = columns; }
   int FixedColumns() const { return fixedColumns_; }
   void SetColumnWidths(std::vector<int> widths) { Mirror(columnWidths_, std::move(widths)); }
   const std::vector<int>& ColumnWidths() const { return columnWidths_; }
-  // The column that takes the room that the others leave.
+  // Sets the column that fills the remaining width.
   void SetStretchedColumn(int column) { stretchedColumn_ = column; }
   int StretchedColumn() const { return stretchedColumn_; }
   int Width() const { return width_; }
@@ -45,7 +46,7 @@ class Grid : public Control {
   // Throw RuntimeError 9 outside the grid.
   const std::string& Cell(int row, int column) const;
   void SetCell(int row, int column, std::string text);
-  // The user's edit of a cell.
+  // Changes a cell as the user does, and fires Change.
   void EditCell(int row, int column, std::string text);
 
   int Row() const { return row_; }
@@ -53,15 +54,16 @@ class Grid : public Control {
   int Column() const { return column_; }
   // Throws RuntimeError 9 outside the grid.
   void SelectCell(int row, int column);
-  // The user's click on a row, which counts on the selected one too.
+  // Clicks a row or a cell as the user does. Fires Click also for the selected one.
   void ClickRow(int row);
   void ClickCell(int row, int column);
 
-  // A text box that lies over the selected cell while the grid has the keyboard; none: the cells are only shown.
+  // Sets the text box that covers the selected cell while the grid has the keyboard focus. Without one the cells are
+  // only shown.
   void SetOverlay(TextBox& overlay) { overlay_ = &overlay; }
   TextBox* Overlay() const { return overlay_; }
 
-  Event Change;  // another row, or another cell, is selected, or a cell was edited
+  Event Change;  // another row or cell is selected, or the user has edited a cell
   Event Click;
 
  private:

@@ -6,7 +6,7 @@
 namespace orby {
 namespace {
 
-// The object stands between the two halves.
+// The text before and after the name of the object.
 struct Words {
   Act act;
   std::string_view before;

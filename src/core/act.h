@@ -1,4 +1,4 @@
-// What the program does for the user, in the words of a message about its failure.
+// Actions of the program, as messages about their failure name them.
 #pragma once
 
 #include <string>
@@ -10,13 +10,15 @@ namespace orby {
 
 enum class Act { Start, OpenFile, ShowDialog, TakeParameters, TakeCosts, Report, Curve };
 
-// "while the report was made". `object` names the file or the curve where the act has one.
+// Returns the words for an action, such as "while the report was made". `object` is the name of its file or curve, if
+// it has one.
 std::string ActWords(Act act, std::string_view object = {});
 
-// Words for the failure of an act that nobody has named.
+// The words for an action without a name.
 inline constexpr std::string_view UnnamedAct = "during your last step";
 
-// Does the work. A RuntimeError that leaves it says what was being done. The object is copied: the work may change it.
+// Calls `work` and returns its result. Sets the circumstance of a RuntimeError that it throws. `present` is copied,
+// because the work may change it.
 template <class Work>
 decltype(auto) While(Act act, std::string_view present, const Work& work) {
   const std::string object(present);

@@ -1,4 +1,4 @@
-// Calendar days as the program writes and counts them.
+// Text of dates, and the number of days between them.
 #pragma once
 
 #include <string>
@@ -7,14 +7,14 @@
 
 namespace orby {
 
-// "07-May-2023": the English names of the months, whatever the language of the machine. Throws RuntimeError 9 for a
-// month outside 1..12.
+// Returns "07-May-2023". The names of the months are English in every locale. Throws RuntimeError 9 for a month outside
+// 1..12.
 std::string DayMonthYear(Date date);
 
-// "2031-03-09 14:05:07".
+// Returns "2031-03-09 14:05:07".
 std::string MomentText(const Moment& moment);
 
-// Days from one date to the other, below 0 when the other lies before it.
+// Returns the number of days from one date to the other. Negative when `to` is earlier than `from`.
 int DaysBetween(Date from, Date to);
 
 }  // namespace orby

@@ -14,11 +14,11 @@ namespace {
 
 constexpr std::size_t LongestLine = 60;
 
-// The text after a trip through the temporary file, which is gone afterwards.
+// Writes the text to the temporary file, reads it back, and removes the file.
 std::string ThroughTemporaryFile(Program& program, std::string_view text) {
   FileSystem& files = program.platform.files;
   const std::string& folder = program.session.folders.ProgramTemporary;
-  // Until the user's folders are known, the machine's own serves.
+  // Before the user's folders are known, the system's folder for temporary files is used.
   const std::string path = (folder.empty() ? GetTempDirectory(program.platform.files) : folder) + "~tmpdesc.tmp";
   const auto remove = [&] { files.RemoveFile(path); };
   try {
@@ -69,7 +69,7 @@ void SaveDescription(Program& program) {
     program.project.ProjectDescription = std::move(normal.text);
     program.project.DescLines = normal.lines;
   } catch (const RuntimeError& error) {
-    // Whatever is decided, a description that could not be rebuilt stays as the user typed it.
+    // A description that could not be normalised stays as the user typed it, whatever the decision is.
     ErrorDecision(program, error, Telling::Silent);
   }
 }

@@ -1,4 +1,4 @@
-// The free description of a project, as reports print it and files hold it.
+// The description of a project, in the form that reports print and files store.
 #pragma once
 
 #include <string>
@@ -14,12 +14,14 @@ inline constexpr std::string_view EndOfDescription = "##EndDesc##";
 
 inline constexpr Integer LinesOfEmptyDescription = 2;
 
-// The description as reports print it and files hold it. Throws RuntimeError 6 for more lines than fit an Integer.
+// Returns the description in the form that reports print and files store. Throws RuntimeError 6 when the number of
+// lines does not fit an Integer.
 std::string NormalizedDescription(std::string_view text);
 
-// Normalises ProjectDescription: blank lines are dropped, lines of more than 60 characters broken, the end of the last
-// line cut off. DescLines becomes 2 and one for every line, one more for every line that was broken.
-// Works through a temporary file; when that fails the description stays as it was and nobody is told.
+// Normalises ProjectDescription. Removes blank lines, breaks lines of more than 60 characters, and removes the end of
+// the last line. DescLines becomes 2 plus the sum over the lines: 1 for a line that fits, and the result of
+// WrapDescriptionLine for one that is broken.
+// Uses a temporary file. When that fails the description stays unchanged and no message is shown.
 void SaveDescription(Program& program);
 
 }  // namespace orby

@@ -1,4 +1,4 @@
-// What dialogs share: option arrays, range checks, captions, placement, fonts.
+// Helpers of dialogs: option arrays, range checks, captions, placement and fonts.
 #pragma once
 
 #include <array>
@@ -13,23 +13,25 @@
 
 namespace orby {
 
-// Selects the member, clicking it once even when it was selected before. An index outside the array is told to the user
-// and then throws RuntimeError 9.
+// Selects an option and fires its click once, also when it was selected before. For an index outside the array, shows
+// an error and throws RuntimeError 9.
 void SetArrayIndex(Program& program, OptionArray& options, Integer index);
 
-// The text's leading number as a check judges it. Nothing when it lies beyond a Single: then it is outside every limit.
+// Returns the number at the start of the text, or nothing when it is outside the range of a Single. Such a number is
+// outside every limit.
 std::optional<double> FittingNumber(std::string_view text);
 
-// Whether the text's number lies inside minimum..maximum; tells the user when it does not or when the text is blank.
+// Returns true if the number of the text is in minimum..maximum. Otherwise, and for a blank text, shows an error and
+// returns false.
 bool RangeCheck(Program& program, std::string_view text, double minimum, double maximum, std::string_view fieldName);
 
-// Appends the units of the project to every caption of the form that has one.
+// Appends the unit to every caption of the form that has a unit suffix.
 void AppendUnits(const Form& form, UnitSystem units);
 
-// What each dialog does first: the titles of its messages and the normal cursor.
+// Sets the titles of messages and the normal cursor. Every dialog calls it first.
 void PrepareForm(Program& program, MessageModule module);
 
-// Opens a form, shows it, and closes it if the user has not.
+// Opens a form, shows it until the user leaves it, and closes it if it is still open.
 void ShowForm(Program& program, Form& form);
 
 struct Extent {
@@ -40,23 +42,24 @@ struct Position {
   int left;
   int top;
 };
-// The place of a form in the middle of the screen; one that would reach beyond the right or the lower edge starts at 0.
+// Returns the position of a form in the centre of the screen. A form wider or higher than the screen starts at 0.
 Position CenterForm(Extent form, Extent screen);
 
-// The caption "tag: path", the path shortened, with "*" while the project has unsaved changes.
+// Returns the caption "tag: path" with a shortened path, and with "*" while the project has unsaved changes.
 std::string SetFormCaption(std::string_view tag, std::string_view path, bool fileSaved);
 
-// The position of a font in a list, without regard to case; -1 when it is not there.
+// Returns the position of a font in a list, ignoring case, or -1 when it is not in the list.
 int FontIndexOf(std::string_view name, const std::vector<std::string>& fontList);
 
-// The fonts for texts on the screen, the one that is wanted most first.
+// The fonts for texts on the screen, in the order of preference.
 inline constexpr std::array<std::string_view, 4> DisplayFonts{"Arial", "Courier New", "System", "Terminal"};
 
-// The first of the fixed choices that is installed, otherwise the first font there is; empty when there is none.
+// Each returns the first preferred font that is installed, otherwise the first installed font. Empty when no font is
+// installed.
 std::string ChooseDisplayFont(Program& program);
 std::string ChoosePrinterFont(Program& program);
 
-// Records the machine's decimal separator, "," or ".". The machine is left alone: numbers always use the point.
+// Records the decimal separator of the locale, "," or ".". Nothing depends on it: numbers always use the point.
 void FixDecimalSeparator(Program& program);
 
 }  // namespace orby

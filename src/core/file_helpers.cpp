@@ -10,10 +10,10 @@
 namespace orby {
 namespace {
 
-// What is read of a file at a time: it may be longer than the memory.
+// Bytes read at a time, because a file may be larger than the memory.
 constexpr std::size_t PieceBytes = std::size_t{1} << 20U;
 
-// Writes a text that comes in pieces, every line ended by CR LF.
+// Writes a text that arrives in pieces. Every line ends with CR LF.
 class LineCopier {
  public:
   explicit LineCopier(OutputFile& target) : target_(target) {}
@@ -30,7 +30,7 @@ class LineCopier {
     }
   }
 
-  // A last line without an end gets one too.
+  // Ends a last line that has no line end.
   void End() {
     if (inLine_) target_.Write(LineEnd);
   }

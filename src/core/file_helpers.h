@@ -1,4 +1,4 @@
-// Helpers around files and paths that tell the user what is wrong.
+// Helpers for files and paths. Some show a message when something is wrong.
 #pragma once
 
 #include <string>
@@ -7,27 +7,28 @@
 
 namespace orby {
 
-// Whether a search for the path finds a file. A bad path is no error: false.
+// Returns true if the path is a file. Returns false for an invalid path.
 bool FileExists(Program& program, const std::string& path);
 
-// Whether a search for the path finds a file or a folder. A search that fails is told: "Invalid path: " unless quiet,
-// giving false, when nothing can mend it; otherwise an internal error, giving true.
+// Returns true if the path is a file or a folder. When the search fails with an error that ends a command, shows
+// "Invalid path: " unless `quiet`, and returns false. When it fails with another error, shows an internal error and
+// returns true.
 bool ValidPath(Program& program, const std::string& path, bool quiet);
 
-// The name behind the last separator, cut before its first point on request. A path that ends in a separator is told
-// to the user and given back as it is.
+// Returns the name after the last separator, without its extension on request. Shows an error if the path ends in a
+// separator, and returns it unchanged.
 std::string FileNameFromPath(Program& program, const std::string& path, bool stripExtension);
 
-// Copies a text file line by line, each line ended by CR LF. Tells the user what failed.
+// Copies a text file. Each line of the copy ends with CR LF. Returns true if it succeeded, otherwise shows an error.
 bool CopyTextFile(Program& program, const std::string& source, const std::string& target);
 
-// The folder for temporary files, ending in a separator.
+// Returns the folder for temporary files with a trailing separator.
 std::string GetTempDirectory(FileSystem& files);
 
-// The path without a trailing separator; empty when nothing is found there.
+// Returns the path without a trailing separator. Empty when there is no such file or folder.
 std::string LongPathName(FileSystem& files, const std::string& path);
 
-// The program's folder, ending in one separator.
+// Returns the folder of the program with a trailing separator.
 std::string AppDirectory(FileSystem& files);
 
 }  // namespace orby

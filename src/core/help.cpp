@@ -11,7 +11,7 @@
 namespace orby {
 namespace {
 
-// open: takes the whole path, and returns whether the file has been opened.
+// Calls `open` with the full path of an existing file. `open` returns true if it has opened the file.
 template <class Open>
 void OpenFound(Program& program, std::string_view kind, std::string_view path, std::string_view shown,
                const Open& open) {

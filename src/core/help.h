@@ -1,6 +1,6 @@
-// The help of the program and its documents, in files of the program's folder.
+// The help and the documents of the program, which are files in its folder.
 //
-// Each routine tells the user when its file is not there, or does not open.
+// Each function shows a message when its file is missing or does not open.
 #pragma once
 
 #include <string_view>
@@ -17,11 +17,12 @@ inline constexpr std::string_view ManualFile = "ORBY.PDF";
 
 void OpenHelpContents(Program& program);
 void OpenHelpIndex(Program& program);
-// The topic of a form, or of one of its controls.
+// Opens the topic of a form, or of one of its controls.
 void OpenHelpTopic(Program& program, const Form& form, const Control* control = nullptr);
 
-// Opens a document with the program that the desktop has for it. kind: how a message that it is missing names it
-// ("Help file"); path: in the program's folder; shown: the name in that message, the whole path when empty.
+// Opens a document with the program that the desktop has for it. `path` is in the folder of the program. When it is
+// missing, the message calls it by `kind` ("Help file") and by the name `shown`, or by its full path if `shown` is
+// empty.
 void OpenDocument(Program& program, std::string_view kind, std::string_view path, std::string_view shown = {});
 
 }  // namespace orby

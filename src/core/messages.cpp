@@ -67,7 +67,7 @@ int ClassOf(int number) {
 
 struct ClassRule {
   bool offersRetry;
-  Decision decision;  // when nothing is asked, or when the user does not retry
+  Decision decision;  // when the user is not asked or does not retry
 };
 
 constexpr std::array<ClassRule, ErrorClassCount> ClassRules{{
@@ -80,7 +80,7 @@ constexpr std::array<ClassRule, ErrorClassCount> ClassRules{{
     {false, Decision::DataBase},
 }};
 
-// Keeps the last two lines of a history that has grown too long.
+// Removes all but the last two lines of a history.
 void TrimHistory(std::string& text) {
   std::size_t lineEnds = 0;
   for (std::size_t at = text.find(LineEnd); at != std::string::npos; at = text.find(LineEnd, at + 2)) ++lineEnds;
@@ -144,7 +144,7 @@ Decision ErrorDecision(Program& program, const RuntimeError& error, Telling tell
     return rule.decision;
   }
   const std::string number = NumberText(error.number());
-  // The number keeps the place of its sign.
+  // A number that is not negative has a blank in the place of its sign.
   AddHistoryLine(program, "Error " + std::string(error.number() < 0 ? "" : " ") + number + ":" + description);
   const std::string told = "Error occurred: " + description + " (" + number + ")";
   if (!rule.offersRetry) {

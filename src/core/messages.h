@@ -1,4 +1,4 @@
-// The one door to the user and the log: messages, their titles, the history, and what becomes of a run-time error.
+// Messages to the user, their titles, the history, and the handling of run-time errors.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@
 
 namespace orby {
 
-// Whose titles the messages bear, by their numbers in the table of titles.
+// Parts of the program with message titles of their own, by their numbers in the table of titles.
 enum class MessageModule {
   Description = 1,
   Parameters = 2,
@@ -21,43 +21,44 @@ enum class MessageModule {
   Conversion = 13,
 };
 
-// Shows a message box after logging it as "title: text" ("Message: text" without a title), and returns the
-// button that was pressed. An empty title becomes the program's.
+// Adds "title: text" to the history, or "Message: text" without a title. Then shows a message box and returns the
+// button that was pressed. An empty title becomes that of the program.
 BoxResult ShowMessage(Program& program, const std::string& text, BoxStyle style = {}, const std::string& title = {},
                       const std::string& helpFile = {}, int helpContext = 0);
 
-// The same for a box whose buttons have captions of their own.
+// Does the same for a box whose buttons have captions of their own.
 BoxResult ShowMessage(Program& program, MessageBox box);
 
-// Sets the titles to the module's prefix and each title's word. Throws RuntimeError 9 outside 1..13.
+// Sets each title to the prefix of the module and the words of the title. Throws RuntimeError 9 outside 1..13.
 void SetMessageTitles(Program& program, MessageModule module);
 
-// Tells how to get help on a field.
+// Shows how to get help on a field.
 void ContextHelpHint(Program& program);
 
-// Appends a numbered line to the history when it is switched on, after cutting a history that has grown too long down
-// to its last two lines.
+// Appends a numbered line to the history if it is switched on. A history that is too long is first reduced to its last
+// two lines.
 void AddHistoryLine(Program& program, std::string_view text);
 
 enum class Decision {
-  Retry,      // the failed step again
-  Continue,   // the step after it
-  Cancelled,  // the user cancelled a dialog
+  Retry,      // repeat the failed step
+  Continue,   // go on with the next step
+  Cancelled,  // the user has cancelled a dialog
   GiveUp,
-  DataBase,  // an error of a data base, unknown here
+  DataBase,  // an error of a data base, which this program does not use
 };
 
-// Whether an error is told to the user, and logged.
+// Whether an error is shown to the user and added to the history.
 enum class Telling { Loud, Silent };
 
-// What is to become of a run-time error caught by a trap.
+// Returns how a command continues after a run-time error. Unless `telling` is Silent, adds the error to the history and
+// shows it, and asks whether to retry where that can help.
 Decision ErrorDecision(Program& program, const RuntimeError& error, Telling telling);
 
-// How a step under a trap ended.
+// How a step ended.
 enum class StepOutcome { Done, PassedOver, Cancelled, GivenUp };
 
-// Runs one step of a command under its trap: repeated as long as the decision is to retry. The normal cursor is back
-// before anything is asked.
+// Runs one step of a command. When it throws a RuntimeError, repeats it as long as the decision is to retry. Restores
+// the normal cursor before the user is asked.
 template <class Step>
 StepOutcome RunTrapped(Program& program, const Step& step) {
   for (;;) {

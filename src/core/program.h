@@ -1,4 +1,4 @@
-// The whole state of one run, handed to everything that needs it.
+// The state of a run of the program.
 #pragma once
 
 #include <array>
@@ -21,7 +21,7 @@ inline constexpr std::string_view ProgramTitle = "Orby Roof Support Workbench";
 inline constexpr std::string_view BuildStamp = "201030";
 inline constexpr std::string_view UntitledName = "Untitled";
 
-// The window titles of messages, set by the dialog that loaded last.
+// The titles of messages. The dialog that opened last sets them.
 struct MessageTitles {
   std::string MessageTitle;
   std::string RangeErrorTitle;
@@ -31,20 +31,20 @@ struct MessageTitles {
   std::string LogicErrorTitle;
 };
 
-// The numbered lines that tell what happened, as the pane of the main window shows them.
+// The numbered lines about what happened, which the main window shows.
 struct History {
   std::string Text;
   Integer HistoryLineCounter = 0;
-  std::function<void()> Changed;  // a line was asked for, whether or not it was added
+  std::function<void()> Changed;  // called for each line, also when the history is switched off
 };
 
-// What the roof rating estimator last chose.
+// The last choice in the estimator of the roof rating.
 struct EstimatorState {
   Integer EstimatedCMRR = 0;  // 0: none
   Integer EstimatorRegion = 0;
   Integer EstimatorRockType = 0;
-  bool EstimatorManual = false;      // the chosen row is the region's last
-  Integer EstimatorManualValue = 0;  // nothing sets it, so it never applies
+  bool EstimatorManual = false;      // the chosen row is the last of its region
+  Integer EstimatorManualValue = 0;  // nothing sets it, so it has no effect
   Integer CallerCode = 0;            // the dialog that opened the estimator
 };
 
@@ -52,17 +52,17 @@ struct EstimatorState {
 struct DrawnCurve : Curve {
   Integer CurveIndex = 0;
   Integer CurveCount = 0;    // series in the chart
-  bool GraphClosed = false;  // the graph window was on the screen and is so no longer
+  bool GraphClosed = false;  // the graph window was open and has been closed
 };
 
-// Which input dialog asked for the report on view.
+// The input dialog that requested the report that is shown.
 namespace report_caller {
 inline constexpr Integer None = -1;
 inline constexpr Integer Parameters = 1;
 inline constexpr Integer Cost = 2;
 }  // namespace report_caller
 
-// What the calculations of a report are made from.
+// The inputs of the calculations of a report.
 struct ReportBasis {
   RoofSupport Support;
   bool UsesAustralianTable = false;
@@ -70,21 +70,21 @@ struct ReportBasis {
   bool operator==(const ReportBasis&) const = default;
 };
 
-// The calculations that the Results button of the parameters showed last.
+// The page of calculations that the Results button of the parameters showed last.
 struct ShownResults {
   ReportBasis MadeFrom;
   std::string Page;
 };
 
-// A project file as this run read or saved it last.
+// A project file as this run last read or saved it.
 struct FileOnDisk {
   std::string Path;  // empty: none
   std::string Bytes;
-  bool IsSpoilt = false;      // a failed save has left something else there, and could not put the bytes back
-  std::string SpoiltBytes{};  // what it has left there, as far as that could be read
+  bool IsSpoilt = false;      // a failed save has changed the file and could not restore the bytes
+  std::string SpoiltBytes{};  // the bytes that the failed save left, as far as they could be read
 };
 
-// What is kept of a project whose changes were not saved.
+// The part of a project that is kept when its changes were not saved.
 struct UnsavedProject {
   std::string CurrentFile{UntitledName};
   Integer UseAUSStandardTable = 0;
@@ -95,16 +95,16 @@ struct UnsavedProject {
   Design WorkParms;  // the committed design
 };
 
-// The open project, and what this run knows of its file.
+// The open project and the state of its file.
 struct Project : UnsavedProject {
   Integer DescLines = 0;
   std::string PreviousFile;
   FileOnDisk LastFile;
-  Integer FileVersion = 0;  // of the last project read: one less than the number in its label
+  Integer FileVersion = 0;  // of the last project read; one less than the number in its label
   bool FileSaved = true;
 };
 
-// What a run keeps beside its project.
+// The state of a run apart from its project.
 struct Session {
   Catalogs catalogs;
   Settings settings;
@@ -114,28 +114,27 @@ struct Session {
   RecentFiles recentFiles;
   Folders folders;
   std::string IniFilePath;
-  std::string UpdateServer;  // the address that new versions are published under; empty: there is none
+  std::string UpdateServer;  // the address at which new versions are published; empty: none
   DesignDefaults defaults;
   History history;
-  std::array<std::string, 5>
-      OutBuf;  // pages of the last report: 0 the input echo, 1 the calculations or the cost table
+  std::array<std::string, 5> OutBuf;  // pages of the last report: 0 the inputs, 1 the calculations or the cost table
   std::optional<ShownResults> LastResults;
   bool ToldOfNoBackup = false;
   std::string SavedDecimalSeparator;
 };
 
-// What the windows hold between them.
+// The state that the windows share.
 struct WindowState {
-  Design WorkParmsCopy;  // what a dialog shows, for previews and curves
+  Design WorkParmsCopy;  // the design that a dialog shows, for previews and curves
   MessageTitles titles;
   EstimatorState estimator;
   DrawnCurve curve;
   Integer LastPage = 4;
   Integer ReportCaller = report_caller::None;
-  Integer OptionsTab = 0;  // the page of the options dialog that was chosen last
+  Integer OptionsTab = 0;  // the last page of the options dialog
   Integer RecentMode = 0;
   bool DialogOpen = false;
-  std::function<void(Integer)> OpenInputDialog;  // opens the dialog of this report_caller, as the Input menu does
+  std::function<void(Integer)> OpenInputDialog;  // opens the dialog of a report_caller, as the Input menu does
 };
 
 struct Program {
@@ -145,14 +144,14 @@ struct Program {
   Project project;
   Session session;
   WindowState windows;
-  // Keeps the bytes of a recovery file where no other run takes them, as far as the disk has the room, and returns the
-  // file that has them; empty when none has.
+  // Stores the bytes of a recovery file where no other run removes them. Returns the path of the file, or an empty text
+  // when they could not be stored.
   std::function<std::string(const std::string&)> KeepAside;
   std::function<void()> EndAtOnce = [] {
-  };  // ends the run: no question, nothing saved; unsaved work is kept for the next start
+  };  // ends the run without asking or saving; the next start offers the unsaved work
 };
 
-// Whether the Australian table of bolts is the one in force: it is a variant of the Metric tables.
+// Returns true if the Australian table of bolts is used. It replaces the Metric one, so it requires Metric units.
 inline bool UsesAustralianTable(const Project& project) {
   return project.UseAUSStandardTable == 1 && project.WorkParms.Units == Metric;
 }

@@ -1,4 +1,4 @@
-// A form that works on the state of the run.
+// A form that uses the state of the run.
 #pragma once
 
 #include <string_view>

@@ -1,4 +1,4 @@
-// The names that the program goes by in the user's folders.
+// The names of the program in the user's folders.
 #pragma once
 
 #include <string_view>
@@ -6,6 +6,6 @@
 namespace orby {
 
 inline constexpr std::string_view ProgramShortName = "ORBY";
-inline constexpr std::string_view IniFileName = "ORBY.INI";  // in the user's program data folder
+inline constexpr std::string_view IniFileName = "ORBY.INI";  // in the user's folder for program data
 
 }  // namespace orby

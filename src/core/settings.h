@@ -1,4 +1,4 @@
-// The user's settings and the values that a new design starts from.
+// The user's settings and the initial values of a new design.
 #pragma once
 
 #include <array>
@@ -13,11 +13,11 @@ namespace orby {
 inline constexpr std::string_view BuiltInExtension = "ORB";
 inline constexpr std::string_view BuiltInViewer = "Notepad.exe";
 
-// Flags are 0 and 1 but for the font flags, which are 0 and -1.
+// Flags are 0 and 1, except the font flags, which are 0 and -1.
 struct Settings {
   UnitSystem UnitsDefault = English;
   Integer DisplayHistoryWin = 1;
-  Integer MaxDisplaySize = 2048;  // length at which the history is trimmed, characters
+  Integer MaxDisplaySize = 2048;  // characters; a history of this length is reduced to its last two lines
   std::string DisplayFontName;
   Single DisplayFontSize = 10;
   Integer DisplayFontBold = 0;
@@ -31,7 +31,7 @@ struct Settings {
   Integer RemindAnnualUpdates = 1;
   Integer CopyExampleFiles = 1;
   std::string ExternalEditor{BuiltInViewer};
-  std::string DataPath;  // ends in a separator
+  std::string DataPath;  // with a trailing separator
   std::string FileExtension{BuiltInExtension};
   bool operator==(const Settings&) const = default;
 };
@@ -43,10 +43,11 @@ struct TextBrowseSettings {
   Integer BrowseFontItalic = 0;
   std::string BrowseDefaultFilter;
   Integer BrowseUseNotepad = 0;
-  std::string LastFolder;  // for this run alone; empty: the data path
+  std::string LastFolder;  // of this run only; empty: DataPath
 };
 
-// Choices that last until the program ends: they are written to a section that is never read.
+// Choices that apply until the program ends. They are written to a section of the configuration file that is never
+// read.
 struct OptionSettings {
   StrengthBasis BoltGradeAsUltimateDefault = StrengthBasis::Yield;  // of a new design
   Integer OutputStrUnits = 0;
@@ -57,11 +58,11 @@ struct OptionSettings {
   Integer AskOfficeInstall = 1;
 };
 
-// The files that the File menu offers again, the newest first.
+// The recent files in the File menu, the newest first.
 struct RecentFiles {
   static constexpr Integer Capacity = 4;
   struct Entry {
-    std::string LastFile;  // as the menu shows it
+    std::string LastFile;  // the text in the menu
     Integer LastFileMode = 0;
     std::string LastFileLong;  // the path
   };
@@ -87,13 +88,13 @@ struct GraphSettings {
   Integer GraphStyle = graph_style::LinesAndSymbols;
   Integer CurveLegend = 1;
   Integer SymbolSize = 6;
-  UnitSystem GraphUnits = English;  // the unit system that the axis titles were composed in
+  UnitSystem GraphUnits = English;  // the unit system of the axis titles
   std::string GraphTitle;
-  std::array<std::string, 10> XAxisTitle;  // one a curve
-  std::array<std::string, 3> YAxisTitle;   // one a dependent variable
+  std::array<std::string, 10> XAxisTitle;  // of each curve
+  std::array<std::string, 3> YAxisTitle;   // of each dependent variable
 };
 
-// Where the program keeps what belongs to the user; each path ends in a separator.
+// Folders for the data of the user. Each path has a trailing separator.
 struct Folders {
   std::string Group;
   std::string GroupTemporary;
@@ -101,7 +102,7 @@ struct Folders {
   std::string ProgramTemporary;
 };
 
-// Values of a new design. Pairs are Metric and English.
+// Initial values of a new design. Most have a Metric (MET) and an English (ENG) value.
 struct DesignDefaults {
   Integer DefaultCMRR = 45;
   Single DefaultMETDepthofCover = 150;

@@ -10,7 +10,7 @@
 namespace orby {
 
 std::optional<ProjectTexts> TextsBeforeTheShift(const ProjectTexts& texts) {
-  // A line of the description has lost the blank in front.
+  // A table choice that was a line of the description has lost its leading blank.
   constexpr std::array<std::string_view, 4> PaddedChoices{" 0 ", " 1 ", "0 ", "1 "};
   std::optional<ProjectTexts> before;
   ProjectTexts present = texts;
@@ -21,7 +21,7 @@ std::optional<ProjectTexts> TextsBeforeTheShift(const ProjectTexts& texts) {
     while (!rest.empty() && !hasMarker) {
       const std::string_view line = TakeLine(rest);
       hasMarker = line == StartOfDescription;
-      // A comma in the title has made two lines of it.
+      // A comma has split the title into two lines.
       if (!hasMarker) title.append(title.empty() ? "" : ", ").append(line);
     }
     if (!hasMarker) break;

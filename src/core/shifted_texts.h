@@ -1,4 +1,4 @@
-// The title and the description of a project whose header was shifted by one line when its file was opened.
+// Recovers the title and the description of a project whose header was shifted by one line when its file was opened.
 #pragma once
 
 #include <optional>
@@ -11,8 +11,8 @@ struct ProjectTexts {
   std::string Description;
 };
 
-// The texts as they were before opening shifted the header: the title is the padded table choice of the file, and the
-// description holds the former title and the marker of its own start. Nothing when the texts do not look so.
+// Returns the texts before the shift, or nothing when the texts are not shifted. In shifted texts the title is the
+// padded table choice of the file, and the description contains the former title and the marker of its own start.
 std::optional<ProjectTexts> TextsBeforeTheShift(const ProjectTexts& texts);
 
 }  // namespace orby

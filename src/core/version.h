@@ -13,7 +13,7 @@ struct Version {
 
 inline constexpr Version ProgramVersion{1, 0, 0};
 
-// "1.0.00", or "1000" without points; the revision has two digits at least.
+// Returns "1.0.00", or "1000" without points. The revision has at least two digits.
 std::string VersionText(bool withPoints, Version version = ProgramVersion);
 
 }  // namespace orby

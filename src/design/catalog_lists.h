@@ -1,4 +1,5 @@
-// The lists that standard values are offered from and looked up in. src/catalogs fills them.
+// Lists of standard values, which dialogs offer and calculations look up. catalogs.h and the configuration file fill
+// them.
 #pragma once
 
 #include <array>
@@ -9,15 +10,15 @@
 
 namespace orby {
 
-// A list of numbers and the index of its last entry in use: only entries up to there are offered and searched, the
-// ones behind keep what they held. -1 is an empty list.
+// A list of numbers and the index of its last entry in use, or -1 for an empty list. Only entries up to that index are
+// offered and searched. Later entries keep their values.
 struct CatalogList {
   Integer HighestIndex = -1;
   std::vector<Single> Values;
 
   std::size_t Count() const { return static_cast<std::size_t>(HighestIndex + 1); }
   Single operator[](std::size_t index) const { return Values[index]; }
-  // Sets an entry, growing the list as far as needed; the index of the last entry in use stays.
+  // Sets an entry and extends the list if needed. The index of the last entry in use stays the same.
   void Set(std::size_t index, Single value) {
     if (index >= Values.size()) Values.resize(index + 1);
     Values[index] = value;
@@ -25,7 +26,7 @@ struct CatalogList {
   bool operator==(const CatalogList&) const = default;
 };
 
-// One row of the fixed bolt table, as texts.
+// A row of the fixed bolt table, as texts.
 struct BoltTableRow {
   std::string Name;
   std::string Diameter;
@@ -48,11 +49,11 @@ struct Catalogs {
   CatalogList DefaultBoltGradeArrayMET;  // MPa
   CatalogList DefaultBoltUTSArrayMET;    // MPa
   CatalogList DefaultBoltDiamArrayMET;   // mm
-  // These two hold each other's contents, diameters in mm under UTS and strengths in MPa under Diam; files that users
-  // keep have them so.
+  // These two lists are exchanged: UTS contains diameters in mm, and Diam contains strengths in MPa. Files of users
+  // have them this way.
   CatalogList DefaultBoltUTSArrayMETAUS;
   CatalogList DefaultBoltDiamArrayMETAUS;
-  // The three cable lists of a unit system share their highest index.
+  // The three cable lists of a unit system have the same HighestIndex.
   CatalogList DefaultCableCapArrayENG;   // tons
   CatalogList DefaultCableUTSArrayENG;   // tons
   CatalogList DefaultCableDiamArrayENG;  // in

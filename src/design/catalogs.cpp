@@ -9,7 +9,7 @@
 namespace orby {
 namespace {
 
-// Entries behind the given values stay: the configuration file may have filled them.
+// Sets the first entries. Later entries keep their values, which the configuration file may have set.
 void SetList(CatalogList& list, std::initializer_list<Single> values, std::size_t capacity = BoltListCapacity) {
   if (list.Values.size() < capacity) list.Values.resize(capacity);
   std::size_t index = 0;

@@ -1,8 +1,8 @@
-// The design of one place as a value: geology and layout, primary bolts, secondary support of entries and of
-// intersections, cost of bolting.
+// The design of one place as a value: geology and layout, primary bolts, secondary support of entries and
+// intersections, and the cost of bolting.
 //
-// Lengths are ft (m), stresses ksi (MPa), forces tons (kN), line loads tons/ft (kN/m), diameters in (mm), unit weight
-// pcf (kN/m3), angles degrees: English (Metric), as the design's unit system says. Flags are 0 and 1.
+// English (Metric) units, by the unit system of the design: lengths ft (m), stresses ksi (MPa), forces tons (kN), line
+// loads tons/ft (kN/m), diameters in (mm), unit weight pcf (kN/m3). Angles are degrees. Flags are 0 and 1.
 #pragma once
 
 #include <array>
@@ -14,16 +14,16 @@
 
 namespace orby {
 
-// In a design that was typed: a number that no Single holds.
+// Marks a typed number that is outside the range of a Single.
 inline constexpr Single Unfit = std::numeric_limits<Single>::quiet_NaN();
 constexpr bool IsUnfit(Single value) { return value != value; }
 
 // Geology and layout.
 struct Site {
-  Single CMRR = 0;  // Coal Mine Roof Rating, 0..100; a whole number once it is committed
+  Single CMRR = 0;  // Coal Mine Roof Rating, 0..100; a whole number in a committed design
   Integer CMRRRegionIndex = 0;
   Integer CMRRRockTypeIndex = 0;
-  Integer CMRRManual = 0;  // 1: the rating is typed, 0: it comes from the estimator
+  Integer CMRRManual = 0;  // 1: the rating was typed; 0: it comes from the estimator
   Single DepthofCover = 0;
   Single UnitWeight = 0;
   Single ActualSpanDiagonals = 0;  // sum of the two diagonals of the intersection
@@ -47,7 +47,7 @@ struct BoltSelection {
   Single GradeManual = 0;
   Single BoltsperRow = 0;  // entries
   Single RowSpacing = 0;   // entries
-  Single Number = 0;       // intersections: in the whole intersection
+  Single Number = 0;       // intersections: bolts in the whole intersection
   bool operator==(const BoltSelection&) const = default;
 };
 
@@ -57,7 +57,7 @@ struct PrimarySupport : BoltSelection {
   bool operator==(const PrimarySupport&) const = default;
 };
 
-// One kind of secondary support: whether it is used, and what the dialog last computed for it.
+// One kind of secondary support: whether it is used, and the results that the dialog last computed for it.
 struct SupportSystem {
   Integer Use = 0;
   Single SupportCap = 0;
@@ -68,7 +68,7 @@ struct SupportSystem {
 struct CableSelection : SupportSystem {
   Single Length = 0;
   Integer CapMode = 0;   // 0 capacity by diameter, 1 given
-  Integer Capacity = 0;  // given: 0 the standard value, 1 the typed one
+  Integer Capacity = 0;  // of a given capacity: 0 the standard value, 1 the typed one
   Single Diam = 0;
   Single CapacityStd = 0;
   Single CapacityManual = 0;
@@ -104,13 +104,14 @@ struct StandingSelection : SupportSystem {
 // Cable bolts, trusses, roof bolts, standing supports.
 inline constexpr std::size_t SystemCount = 4;
 
-// Secondary support of entries, which is laid out in rows, or of intersections, which is a number of units.
+// Secondary support of entries or of intersections. That of entries is placed in rows, that of intersections is a
+// number of units.
 struct SecondarySupport {
   Integer Analysed = 0;
   Single RockLoadHeight = 0;
   Single RockFallAngle = 0;      // along the entry
   Single RockFallAngleXcut = 0;  // intersections: along the crosscut
-  Single RockLoad = 0;           // as the dialog last computed it
+  Single RockLoad = 0;           // last computed by the dialog
   CableSelection Cable;
   TrussSelection Truss;
   SecondaryBolts Bolt;
@@ -122,7 +123,7 @@ struct SecondarySupport {
   std::array<const SupportSystem*, SystemCount> Systems() const { return {&Cable, &Truss, &Bolt, &Standing}; }
 };
 
-// Cost of one bolting operation, in dollars and the project's lengths.
+// Cost of one bolting operation, in dollars and in the lengths of the project.
 struct CostInputs {
   Single BoltCost = 0;
   Single PlateCost = 0;
@@ -150,7 +151,7 @@ struct CostInputs {
   Single WeeksYear = 0;
 };
 
-// What the calculations of the report depend on: a preview takes these, and leaves the cost.
+// The inputs of the calculations of the report. A preview copies these, but not the cost.
 struct RoofSupport {
   UnitSystem Units = English;
   StrengthBasis Basis = StrengthBasis::Yield;
@@ -171,7 +172,7 @@ struct Design : RoofSupport {
   const RoofSupport& Support() const { return *this; }
 };
 
-// The diameter and grade that a bolt set stands for, in the project's units.
+// The diameter and grade that a bolt set selects, in the units of the project.
 struct Bolt {
   Single Diameter = 0;
   Single Grade = 0;

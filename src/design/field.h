@@ -1,4 +1,4 @@
-// A field of a design as an entry of a table.
+// Fields of a design as entries of a table.
 #pragma once
 
 #include <concepts>
@@ -16,13 +16,13 @@ concept LeadsTo = std::same_as<std::invoke_result_t<Path, Design&>, T*>;
 template <class T>
 class FieldOf {
  public:
-  // path: the way to the field from its design, such as [](auto& d) { return &d.Place.DepthofCover; }
+  // `path` returns the address of the field in a design, such as [](auto& d) { return &d.Place.DepthofCover; }
   template <LeadsTo<T> Path>
   constexpr FieldOf(Path path) : in_(path), inConstant_(path) {}
 
   T& In(Design& design) const { return *in_(design); }
   const T& In(const Design& design) const { return *inConstant_(design); }
-  // Returns true if both lead to the same field, be it by different ways.
+  // Returns true if both are the same field, also when their paths differ.
   bool operator==(const FieldOf& other) const { return &In(Sample()) == &other.In(Sample()); }
 
  private:

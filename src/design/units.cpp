@@ -12,7 +12,8 @@ struct LabelRow {
   std::string_view metric;
 };
 
-// Rows 3, 6, 7 and 9 pair units of different size; a number must be in the row's own unit before it is printed.
+// The two units of rows 3, 6, 7 and 9 differ in size. A number must be converted to the unit of its row before it is
+// printed.
 constexpr auto Labels = std::to_array<LabelRow>({
     {" (ft)", " (m)"},
     {" (psi)", " (MPa)"},

@@ -1,4 +1,4 @@
-// The two unit systems: conversion factors and the suffixes that captions and report lines end in.
+// The two unit systems: conversion factors, and the suffixes of captions and report lines.
 #pragma once
 
 #include <cstddef>
@@ -12,10 +12,10 @@ namespace orby {
 enum class UnitSystem : Integer { English, Metric };
 using enum UnitSystem;
 
-// The place of a unit system in a pair of values, one for each.
+// Returns the index of a unit system in a pair of values.
 constexpr std::size_t PlaceOf(UnitSystem units) { return static_cast<std::size_t>(units); }
 
-// How the grades of roof bolts are meant. A project file may hold another number, which stays.
+// What the grade of a roof bolt means. A project file may contain another number, which is kept.
 enum class StrengthBasis : Integer { Yield, Ultimate };
 
 inline constexpr double FeetPerMetre = 3.280839895013123;
@@ -26,10 +26,10 @@ inline constexpr double KilonewtonsPerTon = 8.896443;
 inline constexpr double KilonewtonsPerPound = 0.004448220489393218;
 inline constexpr double PcfPerKilonewtonCubicMetre = 6.3663022639200495;
 
-// The suffix of a row in a unit system, starting with a blank: " (ft)". Throws RuntimeError 9 outside the table.
+// Returns the suffix of a row in a unit system, with a leading blank: " (ft)". Throws RuntimeError 9 outside the table.
 std::string_view UnitLabel(UnitSuffix suffix, UnitSystem units);
 
-// The system in a few words: "ft, in, lbs, psi, pcf".
+// Returns the units of the system: "ft, in, lbs, psi, pcf".
 std::string_view UnitSummary(UnitSystem units);
 
 }  // namespace orby

@@ -21,7 +21,7 @@ struct AMenu : testing::Test {
   std::vector<Integer> chosen;
 };
 
-TEST_F(AMenu, AnswersTheChoiceOfAnEntryWithItsNumber) {
+TEST_F(AMenu, FiresClickWithTheNumberOfTheChosenEntry) {
   menu.ClickItem(2);
   menu.ClickItem(0);
   menu.ClickItem(0);
@@ -29,7 +29,7 @@ TEST_F(AMenu, AnswersTheChoiceOfAnEntryWithItsNumber) {
   EXPECT_THAT(chosen, ElementsAre(2, 0, 0));
 }
 
-TEST_F(AMenu, DoesNotAnswerForAnEntryThatIsDisabled) {
+TEST_F(AMenu, FiresNothingForADisabledEntry) {
   menu.SetItemEnabled(2, false);
 
   menu.ClickItem(2);
@@ -37,7 +37,7 @@ TEST_F(AMenu, DoesNotAnswerForAnEntryThatIsDisabled) {
   EXPECT_THAT(chosen, IsEmpty());
 }
 
-TEST_F(AMenu, DoesNotAnswerForAnEntryThatIsNotShown) {
+TEST_F(AMenu, FiresNothingForAHiddenEntry) {
   menu.SetItemVisible(2, false);
 
   menu.ClickItem(2);
@@ -45,7 +45,7 @@ TEST_F(AMenu, DoesNotAnswerForAnEntryThatIsNotShown) {
   EXPECT_THAT(chosen, IsEmpty());
 }
 
-TEST_F(AMenu, DoesNotAnswerWhileItIsDisabledAsAWhole) {
+TEST_F(AMenu, FiresNothingWhileItIsDisabledAsAWhole) {
   menu.SetEnabled(false);
 
   menu.ClickItem(0);
@@ -53,7 +53,7 @@ TEST_F(AMenu, DoesNotAnswerWhileItIsDisabledAsAWhole) {
   EXPECT_THAT(chosen, IsEmpty());
 }
 
-TEST_F(AMenu, WithoutACommandCanBeChosenFrom) {
+TEST_F(AMenu, WithoutAHandlerIgnoresAChoice) {
   menu.Click = nullptr;
 
   menu.ClickItem(0);
@@ -61,7 +61,7 @@ TEST_F(AMenu, WithoutACommandCanBeChosenFrom) {
   EXPECT_THAT(chosen, IsEmpty());
 }
 
-TEST_F(AMenu, HasNoEntryOutsideItsBounds) {
+TEST_F(AMenu, RefusesAnEntryOutsideItsBounds) {
   EXPECT_EQ(menu.Count(), 3);
   EXPECT_EQ(ErrorNumberOf([this] { menu.ClickItem(3); }), 9);
   EXPECT_EQ(ErrorNumberOf([this] { menu.ClickItem(-1); }), 9);

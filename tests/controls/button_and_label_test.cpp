@@ -6,7 +6,7 @@
 namespace orby::test {
 namespace {
 
-TEST(Button, AnswersEveryPress) {
+TEST(Button, FiresClickForEveryPress) {
   PlainForm form;
   Button results(form, "cmdResults", "Results");
   int presses = 0;
@@ -19,7 +19,7 @@ TEST(Button, AnswersEveryPress) {
   EXPECT_EQ(presses, 2);
 }
 
-TEST(Button, DoesNotAnswerWhileItIsDisabled) {
+TEST(Button, FiresNothingWhileItIsDisabled) {
   PlainForm form;
   Button results(form, "cmdResults", "Results");
   int presses = 0;
@@ -34,14 +34,14 @@ TEST(Button, DoesNotAnswerWhileItIsDisabled) {
   EXPECT_EQ(presses, 1);
 }
 
-TEST(Button, WithoutACommandCanBePressed) {
+TEST(Button, WithoutAHandlerIgnoresAPress) {
   PlainForm form;
   const Button spare(form, "cmdSpare", "Spare");
 
   EXPECT_NO_THROW(spare.Press());
 }
 
-TEST(Label, ShowsItsCaptionAndKnowsItsUnit) {
+TEST(Label, HasACaptionAndAUnit) {
   PlainForm form;
   Label depth(form, "lblDepth", "Depth of cover", UnitSuffix::Length);
   const Label rating(form, "lblRating", "Roof rating");
@@ -54,7 +54,7 @@ TEST(Label, ShowsItsCaptionAndKnowsItsUnit) {
   EXPECT_EQ(rating.Suffix(), UnitSuffix::None);
 }
 
-TEST(Frame, HasACaptionAsALabelHas) {
+TEST(Frame, HasACaptionAndAUnitLikeALabel) {
   PlainForm form;
   const Frame diameter(form, "fraDiameter", "Diameter", UnitSuffix::Diameter);
 

@@ -12,7 +12,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-TEST(CheckBox, StartsOff) {
+TEST(CheckBox, StartsUnchecked) {
   PlainForm form;
   const CheckBox cable(form, "chkCable", "Cable bolts");
 
@@ -21,7 +21,7 @@ TEST(CheckBox, StartsOff) {
   EXPECT_EQ(cable.Caption(), "Cable bolts");
 }
 
-TEST(CheckBox, IsClickedWhenItsValueDiffers) {
+TEST(CheckBox, FiresClickWhenItsValueChanges) {
   PlainForm form;
   CheckBox cable(form, "chkCable", "Cable bolts");
   std::vector<Integer> seen;
@@ -33,7 +33,7 @@ TEST(CheckBox, IsClickedWhenItsValueDiffers) {
   EXPECT_THAT(seen, ElementsAre(1, 0));
 }
 
-TEST(CheckBox, IsNotClickedWhenItsValueIsThereAlready) {
+TEST(CheckBox, FiresNothingWhenItsValueStaysTheSame) {
   PlainForm form;
   CheckBox cable(form, "chkCable", "Cable bolts");
   int clicks = 0;
@@ -47,7 +47,7 @@ TEST(CheckBox, IsNotClickedWhenItsValueIsThereAlready) {
   EXPECT_EQ(clicks, 1);
 }
 
-TEST(CheckBox, WithoutARuleTakesItsValueAllTheSame) {
+TEST(CheckBox, WithoutAHandlerStillChangesItsValue) {
   PlainForm form;
   CheckBox cable(form, "chkCable", "Cable bolts");
 
@@ -77,7 +77,7 @@ TEST_F(AnOptionArray, StartsWithNothingChosen) {
   EXPECT_EQ(GetArrayIndex(source), 0);
 }
 
-TEST_F(AnOptionArray, MemberThatTurnsTrueTurnsTheOthersFalseAndIsClickedOnce) {
+TEST_F(AnOptionArray, ChoiceClearsTheOthersAndFiresClickOnce) {
   source.SetValue(0, true);
   clicks.clear();
 
@@ -87,7 +87,7 @@ TEST_F(AnOptionArray, MemberThatTurnsTrueTurnsTheOthersFalseAndIsClickedOnce) {
   EXPECT_THAT(clicks, ElementsAre(2));
 }
 
-TEST_F(AnOptionArray, MemberThatIsTrueAlreadyIsNotClicked) {
+TEST_F(AnOptionArray, FiresNothingWhenTheChosenOptionIsChosenAgain) {
   source.SetValue(1, true);
   clicks.clear();
 
@@ -96,7 +96,7 @@ TEST_F(AnOptionArray, MemberThatIsTrueAlreadyIsNotClicked) {
   EXPECT_THAT(clicks, IsEmpty());
 }
 
-TEST_F(AnOptionArray, MemberThatTurnsFalseIsNotClickedAndLeavesNothingChosen) {
+TEST_F(AnOptionArray, FiresNothingAndHasNoChoiceAfterTheChosenOptionIsCleared) {
   source.SetValue(1, true);
   clicks.clear();
 
@@ -106,7 +106,7 @@ TEST_F(AnOptionArray, MemberThatTurnsFalseIsNotClickedAndLeavesNothingChosen) {
   EXPECT_THAT(clicks, IsEmpty());
 }
 
-TEST_F(AnOptionArray, MemberThatTurnsFalseIsTakenOffTheScreen) {
+TEST_F(AnOptionArray, NotifiesTheViewWhenAnOptionIsCleared) {
   source.SetValue(1, true);
   const RecordingView view(form);
 
@@ -115,7 +115,7 @@ TEST_F(AnOptionArray, MemberThatTurnsFalseIsTakenOffTheScreen) {
   EXPECT_THAT(view.told, ElementsAre("optSource"));
 }
 
-TEST_F(AnOptionArray, MemberThatIsFalseAlreadyStaysSo) {
+TEST_F(AnOptionArray, KeepsItsChoiceWhenAnotherOptionIsCleared) {
   source.SetValue(2, true);
   clicks.clear();
 
@@ -125,7 +125,7 @@ TEST_F(AnOptionArray, MemberThatIsFalseAlreadyStaysSo) {
   EXPECT_THAT(clicks, IsEmpty());
 }
 
-TEST_F(AnOptionArray, ShowsItsChoiceAlreadyWhenItIsClicked) {
+TEST_F(AnOptionArray, HasItsNewChoiceBeforeItFiresClick) {
   Integer chosen = -1;
   source.SetValue(0, true);
   source.Click = [&](Integer) { chosen = GetArrayIndex(source); };
@@ -135,7 +135,7 @@ TEST_F(AnOptionArray, ShowsItsChoiceAlreadyWhenItIsClicked) {
   EXPECT_EQ(chosen, 2);
 }
 
-TEST_F(AnOptionArray, WithoutARuleTakesTheChoiceAllTheSame) {
+TEST_F(AnOptionArray, WithoutAHandlerStillChangesItsChoice) {
   source.Click = nullptr;
 
   source.SetValue(1, true);
@@ -143,13 +143,13 @@ TEST_F(AnOptionArray, WithoutARuleTakesTheChoiceAllTheSame) {
   EXPECT_EQ(GetArrayIndex(source), 1);
 }
 
-TEST_F(AnOptionArray, HasNoMemberOutsideItsBounds) {
+TEST_F(AnOptionArray, RefusesAnOptionOutsideItsBounds) {
   EXPECT_EQ(ErrorNumberOf([this] { source.SetValue(3, true); }), 9);
   EXPECT_EQ(ErrorNumberOf([this] { source.SetValue(-1, true); }), 9);
   EXPECT_EQ(ErrorNumberOf([this] { source.SetValue(3, false); }), 9);
 }
 
-TEST_F(AnOptionArray, KeepsItsChoiceWhenAMemberOutsideIsAskedFor) {
+TEST_F(AnOptionArray, KeepsItsChoiceAfterItRefusedAnOption) {
   source.SetValue(1, true);
 
   EXPECT_THROW(source.SetValue(3, true), RuntimeError);
@@ -157,7 +157,7 @@ TEST_F(AnOptionArray, KeepsItsChoiceWhenAMemberOutsideIsAskedFor) {
   EXPECT_THAT(Values(), ElementsAre(false, true, false));
 }
 
-TEST_F(AnOptionArray, CanHaveSingleMembersDisabled) {
+TEST_F(AnOptionArray, CanDisableASingleOption) {
   source.SetMemberEnabled(1, false);
 
   EXPECT_TRUE(source.MemberEnabled(0));
@@ -173,7 +173,7 @@ TEST_F(AnOptionArray, CanBeDisabledAndEnabledAsAWhole) {
   EXPECT_TRUE(source.MemberEnabled(0) && source.MemberEnabled(1) && source.MemberEnabled(2));
 }
 
-TEST_F(AnOptionArray, LetsCodeChooseADisabledMember) {
+TEST_F(AnOptionArray, LetsCodeChooseADisabledOption) {
   source.SetMemberEnabled(1, false);
 
   source.SetValue(1, true);
@@ -182,7 +182,7 @@ TEST_F(AnOptionArray, LetsCodeChooseADisabledMember) {
   EXPECT_THAT(clicks, ElementsAre(1));
 }
 
-TEST_F(AnOptionArray, HasACaptionPerMemberThatMayEndInAUnit) {
+TEST_F(AnOptionArray, HasACaptionAndAUnitForEachOption) {
   source.SetCaption(2, "Typed by hand");
 
   EXPECT_EQ(source.Caption(0), "Table");
@@ -191,7 +191,7 @@ TEST_F(AnOptionArray, HasACaptionPerMemberThatMayEndInAUnit) {
   EXPECT_EQ(source.Suffix(1), UnitSuffix::Diameter);
 }
 
-TEST(OptionArrayChoice, NeverHasTwoMembersChosen) {
+TEST(OptionArrayChoice, IsNeverTwoOptions) {
   EXPECT_TRUE(rc::check("one member is true, and it is the one clicked last", [] {
     const auto turns = *rc::gen::nonEmpty(rc::gen::container<std::vector<int>>(rc::gen::inRange(0, 4)));
     PlainForm form;

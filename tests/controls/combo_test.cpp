@@ -27,7 +27,7 @@ TEST_F(ACombo, StartsWithoutTextAndSelection) {
   EXPECT_FALSE(combo.HasSelection());
 }
 
-TEST_F(ACombo, TellsNothingWhenItIsFilled) {
+TEST_F(ACombo, FiresNothingWhenItIsFilled) {
   combo.SetListIndex(1);
   changes = 0;
 
@@ -39,7 +39,7 @@ TEST_F(ACombo, TellsNothingWhenItIsFilled) {
   EXPECT_EQ(combo.Items()[1].data, 300);
 }
 
-TEST_F(ACombo, KeepsASelectionThatTheNewListStillHas) {
+TEST_F(ACombo, KeepsASelectionWithinTheNewList) {
   combo.SetListIndex(1);
 
   combo.Fill({{"Hardwood crib", 50}, {"Steel prop", 130}});
@@ -47,7 +47,7 @@ TEST_F(ACombo, KeepsASelectionThatTheNewListStillHas) {
   EXPECT_EQ(combo.ListIndex(), 1);
 }
 
-TEST_F(ACombo, DropsASelectionBeyondTheNewListAndKeepsTheText) {
+TEST_F(ACombo, RemovesASelectionBeyondTheNewListAndKeepsTheText) {
   combo.SetListIndex(2);
   changes = 0;
 
@@ -58,7 +58,7 @@ TEST_F(ACombo, DropsASelectionBeyondTheNewListAndKeepsTheText) {
   EXPECT_EQ(changes, 0);
 }
 
-TEST_F(ACombo, DropsASelectionJustBeyondTheNewList) {
+TEST_F(ACombo, RemovesASelectionJustBeyondTheNewList) {
   combo.SetListIndex(1);
 
   combo.Fill({{"Hardwood crib", 50}});
@@ -83,7 +83,7 @@ TEST_F(ACombo, SelectsTheFirstOfEqualItems) {
   EXPECT_EQ(combo.ListIndex(), 1);
 }
 
-TEST_F(ACombo, KeepsTheChosenOneOfEqualItemsWhenItsTextIsSetAgain) {
+TEST_F(ACombo, KeepsTheSelectedOneOfEqualItemsWhenItsTextIsSetAgain) {
   combo.Fill({{"27", 0}, {"33", 1}, {"33", 2}});
   combo.SetListIndex(2);
   changes = 0;
@@ -97,7 +97,7 @@ TEST_F(ACombo, KeepsTheChosenOneOfEqualItemsWhenItsTextIsSetAgain) {
   EXPECT_EQ(combo.ListIndex(), 2);
 }
 
-TEST_F(ACombo, KeepsATextThatTheListLacksWithNothingSelected) {
+TEST_F(ACombo, SelectsNothingForATextThatIsNotInTheList) {
   combo.SetListIndex(0);
   changes = 0;
 
@@ -109,7 +109,7 @@ TEST_F(ACombo, KeepsATextThatTheListLacksWithNothingSelected) {
   EXPECT_EQ(changes, 1);
 }
 
-TEST_F(ACombo, TakesOnlyAnExactlyEqualTextForAnItem) {
+TEST_F(ACombo, SelectsAnItemOnlyForAnExactlyEqualText) {
   combo.SetText("steel prop");
   EXPECT_EQ(combo.ListIndex(), -1);
 
@@ -120,7 +120,7 @@ TEST_F(ACombo, TakesOnlyAnExactlyEqualTextForAnItem) {
   EXPECT_EQ(combo.ListIndex(), -1);
 }
 
-TEST_F(ACombo, TellsNothingWhenTheSameTextIsSetAgain) {
+TEST_F(ACombo, FiresNothingWhenTheSameTextIsSetAgain) {
   combo.SetText("Steel prop");
   changes = 0;
 
@@ -129,13 +129,13 @@ TEST_F(ACombo, TellsNothingWhenTheSameTextIsSetAgain) {
   EXPECT_EQ(changes, 0);
 }
 
-TEST_F(ACombo, ThatIsEmptyTellsNothingWhenItIsEmptied) {
+TEST_F(ACombo, ThatIsEmptyFiresNothingWhenItIsCleared) {
   combo.SetText("");
 
   EXPECT_EQ(changes, 0);
 }
 
-TEST_F(ACombo, ShowsTheTextOfTheItemThatIsChosen) {
+TEST_F(ACombo, HasTheTextOfTheSelectedItem) {
   combo.SetListIndex(2);
 
   EXPECT_EQ(combo.Text(), "Steel prop, heavy");
@@ -144,7 +144,7 @@ TEST_F(ACombo, ShowsTheTextOfTheItemThatIsChosen) {
   EXPECT_EQ(changes, 1);
 }
 
-TEST_F(ACombo, TellsNothingWhenTheSameItemIsChosenAgain) {
+TEST_F(ACombo, FiresNothingWhenTheSameItemIsSelectedAgain) {
   combo.SetListIndex(2);
   changes = 0;
 
@@ -153,7 +153,7 @@ TEST_F(ACombo, TellsNothingWhenTheSameItemIsChosenAgain) {
   EXPECT_EQ(changes, 0);
 }
 
-TEST_F(ACombo, TellsOfAnotherItemWithTheSameText) {
+TEST_F(ACombo, FiresChangeForAnotherItemWithTheSameText) {
   combo.Fill({{"33", 1}, {"33", 2}});
   combo.SetListIndex(0);
   changes = 0;
@@ -164,7 +164,7 @@ TEST_F(ACombo, TellsOfAnotherItemWithTheSameText) {
   EXPECT_EQ(changes, 1);
 }
 
-TEST_F(ACombo, KeepsItsTextWhenTheSelectionIsTakenAway) {
+TEST_F(ACombo, KeepsItsTextWhenTheSelectionIsRemoved) {
   combo.SetListIndex(0);
   changes = 0;
 
@@ -175,13 +175,13 @@ TEST_F(ACombo, KeepsItsTextWhenTheSelectionIsTakenAway) {
   EXPECT_EQ(changes, 1);
 }
 
-TEST_F(ACombo, TellsNothingWhenNoSelectionIsTakenAway) {
+TEST_F(ACombo, FiresNothingWhenThereIsNoSelectionToRemove) {
   combo.SetListIndex(Combo::Nothing);
 
   EXPECT_EQ(changes, 0);
 }
 
-TEST_F(ACombo, KeepsItsSelectionWhenItIsBlanked) {
+TEST_F(ACombo, KeepsItsSelectionWhenItsTextIsCleared) {
   combo.SetListIndex(1);
   changes = 0;
 
@@ -192,7 +192,7 @@ TEST_F(ACombo, KeepsItsSelectionWhenItIsBlanked) {
   EXPECT_EQ(changes, 1);
 }
 
-TEST_F(ACombo, TellsNothingWhenItIsBlankedTwice) {
+TEST_F(ACombo, FiresNothingWhenItsTextIsClearedTwice) {
   combo.SetListIndex(1);
   combo.BlankText();
   changes = 0;
@@ -202,7 +202,7 @@ TEST_F(ACombo, TellsNothingWhenItIsBlankedTwice) {
   EXPECT_EQ(changes, 0);
 }
 
-TEST_F(ACombo, GetsTheTextOfItsSelectionBackAfterItWasBlanked) {
+TEST_F(ACombo, RestoresAClearedTextWhenItsItemIsSelectedAgain) {
   combo.SetListIndex(1);
   combo.BlankText();
   changes = 0;
@@ -213,19 +213,19 @@ TEST_F(ACombo, GetsTheTextOfItsSelectionBackAfterItWasBlanked) {
   EXPECT_EQ(changes, 1);
 }
 
-TEST_F(ACombo, HasNoItemOutsideItsList) {
+TEST_F(ACombo, RefusesAnItemOutsideItsList) {
   EXPECT_EQ(ErrorNumberOf([this] { combo.SetListIndex(3); }), 9);
   EXPECT_EQ(ErrorNumberOf([this] { combo.SetListIndex(-2); }), 9);
   EXPECT_EQ(changes, 0);
 }
 
-TEST_F(ACombo, IsReadAsANumberUpToTheFirstCharacterThatIsNone) {
+TEST_F(ACombo, HasTheNumberAtTheStartOfItsText) {
   combo.SetText("0.75 in");
 
   EXPECT_EQ(combo.Value(), 0.75);
 }
 
-TEST_F(ACombo, WithoutARuleTakesItsTextAllTheSame) {
+TEST_F(ACombo, WithoutAHandlerStillChangesItsText) {
   combo.Change = nullptr;
 
   combo.SetText("Steel prop");
@@ -233,7 +233,7 @@ TEST_F(ACombo, WithoutARuleTakesItsTextAllTheSame) {
   EXPECT_EQ(combo.ListIndex(), 1);
 }
 
-TEST(ComboText, AndSelectionAgreeAfterAnyTyping) {
+TEST(ComboText, AgreesWithTheSelectionAfterAnyTyping) {
   EXPECT_TRUE(rc::check("a selected item is the first that equals the text; without one the text is no item", [] {
     const auto number = rc::gen::map(rc::gen::inRange(0, 6), [](int digit) { return std::to_string(digit); });
     const auto list = *rc::gen::container<std::vector<std::string>>(number);

@@ -31,13 +31,13 @@ TEST(Form, FindsNothingUnderAnotherName) {
   EXPECT_EQ(form.Find(""), nullptr);
 }
 
-TEST(Form, KeepsItsControlsInTheOrderOfTheTabKey) {
+TEST(Form, HasItsControlsInTheOrderOfTheTabKey) {
   DepthForm form;
 
   EXPECT_THAT(form.Controls(), ElementsAre(&form.txtDepth, &form.chkLimit, &form.txtHeight));
 }
 
-TEST(Form, IsKnownToItsControls) {
+TEST(Form, OwnsItsControls) {
   DepthForm form;
 
   EXPECT_EQ(&form.txtDepth.Owner(), &form);
@@ -71,7 +71,7 @@ TEST(Form, OpensAndClosesOnce) {
   EXPECT_EQ(form.closed, 1);
 }
 
-TEST(Form, ThatIsNotOpenIsNotClosed) {
+TEST(Form, ThatIsNotOpenIgnoresClosing) {
   DepthForm form;
 
   form.Close();
@@ -91,7 +91,7 @@ TEST(Form, CanBeOpenedAgainAfterItWasClosed) {
   EXPECT_EQ(form.closed, 2);
 }
 
-TEST(Form, IsClosedAlreadyWhenItsClosingSequenceRuns) {
+TEST(Form, IsNotOpenWhileItRunsOnClose) {
   struct : PlainForm {
     void OnClose() override { wasOpen = IsOpen(); }
     bool wasOpen = true;
@@ -103,7 +103,7 @@ TEST(Form, IsClosedAlreadyWhenItsClosingSequenceRuns) {
   EXPECT_FALSE(form.wasOpen);
 }
 
-TEST(Form, ShowsWhatItsClosingSequenceChangesBeforeItLeavesTheScreen) {
+TEST(Form, NotifiesTheViewOfChangesInOnCloseBeforeItCloses) {
   struct : DepthForm {
     void OnClose() override { txtDepth.SetText("400"); }
   } form;
@@ -128,7 +128,7 @@ TEST(Form, RemembersTheFocusForAControlThatIsHiddenOrDisabled) {
   EXPECT_EQ(form.FocusRequest(), &form.txtDepth);
 }
 
-TEST(SelectAllText, SelectsTheWholeFieldThatHasTheFocus) {
+TEST(SelectAllText, SelectsAllTextOfTheFieldWithTheFocus) {
   DepthForm form;
   form.txtDepth.SetText("400.5");
   form.txtHeight.SetText("12");
@@ -141,7 +141,7 @@ TEST(SelectAllText, SelectsTheWholeFieldThatHasTheFocus) {
   EXPECT_EQ(form.txtHeight.SelectionLength(), 0U);
 }
 
-TEST(SelectAllText, StartsAnewWhereAPartWasSelected) {
+TEST(SelectAllText, ReplacesASelectionOfAPart) {
   DepthForm form;
   form.txtDepth.SetText("400");
   form.txtDepth.Select(1, 1);

@@ -26,7 +26,7 @@ struct AGrid : testing::Test {
   int changes = 0;
 };
 
-TEST_F(AGrid, TakesAllItsRowsAtOnceAndTellsTheViewOnce) {
+TEST_F(AGrid, NotifiesTheViewOnceWhenAllRowsAreReplaced) {
   grid.SetRow(3);
   RecordingView view(form);
 
@@ -47,20 +47,20 @@ TEST_F(AGrid, WithoutAnyRowHasNoSelection) {
   EXPECT_EQ(grid.Row(), -1);
 }
 
-TEST_F(AGrid, OpensOnTheFirstRowBelowItsHeader) {
+TEST_F(AGrid, SelectsTheFirstRowBelowItsHeader) {
   EXPECT_EQ(grid.Row(), 1);
   EXPECT_EQ(grid.Rows(), 4);
   EXPECT_EQ(grid.Columns(), 2);
   EXPECT_EQ(grid.FixedRows(), 1);
 }
 
-TEST_F(AGrid, WithAHeaderAloneOpensOnTheHeader) {
+TEST_F(AGrid, WithOnlyAHeaderSelectsTheHeader) {
   grid.SetSize(1, 2, 1);
 
   EXPECT_EQ(grid.Row(), 0);
 }
 
-TEST_F(AGrid, IsEmptiedWhenItIsSizedAndTellsNothing) {
+TEST_F(AGrid, IsClearedWithoutAnEventWhenItsSizeIsSet) {
   grid.SetRow(3);
   changes = 0;
 
@@ -72,34 +72,34 @@ TEST_F(AGrid, IsEmptiedWhenItIsSizedAndTellsNothing) {
   EXPECT_EQ(changes, 0);
 }
 
-TEST_F(AGrid, TellsNothingWhenCodeFillsACell) {
+TEST_F(AGrid, FiresNothingWhenCodeFillsACell) {
   grid.SetCell(2, 1, "0.75");
 
   EXPECT_EQ(grid.Cell(2, 1), "0.75");
   EXPECT_EQ(changes, 0);
 }
 
-TEST_F(AGrid, KeepsEveryCellApart) {
+TEST_F(AGrid, StoresATextForEachCell) {
   EXPECT_EQ(grid.Cell(1, 0), "#5 grade 60");
   EXPECT_EQ(grid.Cell(1, 1), "");
   EXPECT_EQ(grid.Cell(2, 0), "#6 grade 60");
   EXPECT_EQ(grid.Cell(3, 1), "0.875");
 }
 
-TEST_F(AGrid, TellsOfAnotherRow) {
+TEST_F(AGrid, FiresChangeWhenAnotherRowIsSelected) {
   grid.SetRow(3);
 
   EXPECT_EQ(grid.Row(), 3);
   EXPECT_EQ(changes, 1);
 }
 
-TEST_F(AGrid, TellsNothingWhenTheSameRowIsChosenAgain) {
+TEST_F(AGrid, FiresNothingWhenTheSameRowIsSelectedAgain) {
   grid.SetRow(1);
 
   EXPECT_EQ(changes, 0);
 }
 
-TEST_F(AGrid, TellsOfACellThatTheUserEdits) {
+TEST_F(AGrid, FiresChangeWhenTheUserEditsACell) {
   grid.EditCell(3, 1, "1.0");
 
   EXPECT_EQ(grid.Cell(3, 1), "1.0");
@@ -107,13 +107,13 @@ TEST_F(AGrid, TellsOfACellThatTheUserEdits) {
   EXPECT_EQ(changes, 1);
 }
 
-TEST_F(AGrid, TellsNothingOfAnEditThatChangesNothing) {
+TEST_F(AGrid, FiresNothingForAnEditThatKeepsTheText) {
   grid.EditCell(3, 1, "0.875");
 
   EXPECT_EQ(changes, 0);
 }
 
-TEST_F(AGrid, HasNoCellOutsideItsBounds) {
+TEST_F(AGrid, RefusesACellOutsideItsBounds) {
   EXPECT_EQ(ErrorNumberOf([this] { static_cast<void>(grid.Cell(4, 0)); }), 9);
   EXPECT_EQ(ErrorNumberOf([this] { static_cast<void>(grid.Cell(0, 2)); }), 9);
   EXPECT_EQ(ErrorNumberOf([this] { static_cast<void>(grid.Cell(-1, 0)); }), 9);
@@ -122,7 +122,7 @@ TEST_F(AGrid, HasNoCellOutsideItsBounds) {
   EXPECT_EQ(changes, 0);
 }
 
-TEST_F(AGrid, KeepsItsRowWhenOneOutsideIsAskedFor) {
+TEST_F(AGrid, KeepsItsRowAfterItRefusedAnother) {
   EXPECT_EQ(ErrorNumberOf([this] { grid.SetRow(4); }), 9);
   EXPECT_EQ(ErrorNumberOf([this] { grid.SetRow(-1); }), 9);
 
@@ -130,14 +130,14 @@ TEST_F(AGrid, KeepsItsRowWhenOneOutsideIsAskedFor) {
   EXPECT_EQ(changes, 0);
 }
 
-TEST_F(AGrid, WithoutRowsHasNoneToChoose) {
+TEST_F(AGrid, WithoutRowsRefusesToSelectOne) {
   grid.SetSize(0, 2, 0);
 
   EXPECT_EQ(grid.Row(), -1);
   EXPECT_EQ(ErrorNumberOf([this] { grid.SetRow(0); }), 9);
 }
 
-TEST_F(AGrid, KeepsTheWidthsItIsGiven) {
+TEST_F(AGrid, HasTheWidthsThatWereSet) {
   grid.SetColumnWidths({180, 60});
   grid.SetWidth(240);
 
@@ -145,7 +145,7 @@ TEST_F(AGrid, KeepsTheWidthsItIsGiven) {
   EXPECT_EQ(grid.Width(), 240);
 }
 
-TEST_F(AGrid, GrowsByAnEmptyRowAndKeepsWhatItHasChosen) {
+TEST_F(AGrid, KeepsItsSelectionWhenARowIsAppended) {
   grid.SelectCell(2, 1);
   changes = 0;
 
@@ -159,7 +159,7 @@ TEST_F(AGrid, GrowsByAnEmptyRowAndKeepsWhatItHasChosen) {
   EXPECT_EQ(changes, 0);
 }
 
-TEST_F(AGrid, ChoosesTheFirstRowThatItGets) {
+TEST_F(AGrid, SelectsTheFirstRowThatIsAppended) {
   grid.SetSize(1, 2, 1);
 
   grid.AddRow();
@@ -167,7 +167,7 @@ TEST_F(AGrid, ChoosesTheFirstRowThatItGets) {
   EXPECT_EQ(grid.Row(), 1);
 }
 
-TEST_F(AGrid, MovesTheRowsBehindARemovedOneUp) {
+TEST_F(AGrid, MovesTheRowsBelowARemovedRowUp) {
   grid.SetRow(2);
 
   grid.RemoveRow(1);
@@ -178,7 +178,7 @@ TEST_F(AGrid, MovesTheRowsBehindARemovedOneUp) {
   EXPECT_EQ(grid.Row(), 2);
 }
 
-TEST_F(AGrid, ChoosesTheLastRowWhenTheOneBehindItIsRemoved) {
+TEST_F(AGrid, SelectsTheNewLastRowAfterTheLastRowIsRemoved) {
   grid.SetRow(3);
 
   grid.RemoveRow(3);
@@ -187,7 +187,7 @@ TEST_F(AGrid, ChoosesTheLastRowWhenTheOneBehindItIsRemoved) {
   EXPECT_EQ(ErrorNumberOf([this] { grid.RemoveRow(3); }), 9);
 }
 
-TEST_F(AGrid, TellsOfAnotherCellInTheSameRowOnce) {
+TEST_F(AGrid, FiresChangeOnceForAnotherCellInTheSameRow) {
   grid.ClickCell(1, 1);
   grid.ClickCell(1, 1);
 
@@ -196,7 +196,7 @@ TEST_F(AGrid, TellsOfAnotherCellInTheSameRowOnce) {
   EXPECT_EQ(ErrorNumberOf([this] { grid.SelectCell(1, 2); }), 9);
 }
 
-TEST_F(AGrid, BeginsBehindTheColumnsThatAreOnlyShown) {
+TEST_F(AGrid, SelectsTheFirstCellAfterItsFixedColumns) {
   grid.SetFixedColumns(1);
 
   grid.SetSize(4, 2, 1);
@@ -205,7 +205,7 @@ TEST_F(AGrid, BeginsBehindTheColumnsThatAreOnlyShown) {
   EXPECT_EQ(grid.Column(), 1);
 }
 
-TEST_F(AGrid, WithoutARuleTakesRowAndTextAllTheSame) {
+TEST_F(AGrid, WithoutAHandlerStillChangesItsRowAndText) {
   grid.Change = nullptr;
 
   grid.SetRow(2);

@@ -19,7 +19,7 @@ struct AList : testing::Test {
   int clicks = 0;
 };
 
-TEST_F(AList, StartsWithNothingSelectedAndTellsNothingWhenItIsFilled) {
+TEST_F(AList, SelectsNothingAndFiresNothingWhenItIsFilled) {
   list.Fill({{"Western basin", 2}});
 
   EXPECT_EQ(list.ListIndex(), -1);
@@ -28,7 +28,7 @@ TEST_F(AList, StartsWithNothingSelectedAndTellsNothingWhenItIsFilled) {
   EXPECT_EQ(clicks, 0);
 }
 
-TEST_F(AList, AnswersEveryClickAlsoOnTheSelectedItem) {
+TEST_F(AList, FiresClickAlsoForTheSelectedItem) {
   list.ClickItem(1);
   list.ClickItem(1);
 
@@ -36,14 +36,14 @@ TEST_F(AList, AnswersEveryClickAlsoOnTheSelectedItem) {
   EXPECT_EQ(clicks, 2);
 }
 
-TEST_F(AList, HasNoItemOutsideItsBounds) {
+TEST_F(AList, RefusesAnItemOutsideItsBounds) {
   EXPECT_EQ(ErrorNumberOf([this] { list.ClickItem(2); }), 9);
   EXPECT_EQ(ErrorNumberOf([this] { list.ClickItem(-1); }), 9);
   EXPECT_EQ(list.ListIndex(), -1);
   EXPECT_EQ(clicks, 0);
 }
 
-TEST_F(AList, HasNothingSelectedOnceItIsFilledAnew) {
+TEST_F(AList, HasNoSelectionAfterItIsFilledAgain) {
   list.ClickItem(0);
 
   list.Fill({{"Western basin", 2}, {"Eastern basin", 3}});
@@ -52,7 +52,7 @@ TEST_F(AList, HasNothingSelectedOnceItIsFilledAnew) {
   EXPECT_EQ(clicks, 1);
 }
 
-TEST_F(AList, WithoutARuleSelectsAllTheSame) {
+TEST_F(AList, WithoutAHandlerStillSelectsAnItem) {
   list.Click = nullptr;
 
   list.ClickItem(0);

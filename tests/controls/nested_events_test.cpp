@@ -8,7 +8,7 @@ namespace {
 
 using testing::ElementsAre;
 
-// Controls that set each other, writing down who spoke in which order.
+// Controls whose handlers set each other and record the order of the events.
 struct NestedEvents : testing::Test {
   PlainForm form;
   TextBox depth{form, "txtDepth", TextKind::Number};
@@ -33,7 +33,7 @@ TEST_F(NestedEvents, RunInsideTheEventThatCausesThem) {
   EXPECT_THAT(said, ElementsAre("box begins", "text 150", "box ends"));
 }
 
-TEST_F(NestedEvents, EndWhenNothingDiffersAnyMore) {
+TEST_F(NestedEvents, EndWhenNoValueChanges) {
   depth.Change = [this] {
     said.push_back("depth " + depth.Text());
     span.SetText(depth.Text());
@@ -48,7 +48,7 @@ TEST_F(NestedEvents, EndWhenNothingDiffersAnyMore) {
   EXPECT_THAT(said, ElementsAre("span 60", "depth 60"));
 }
 
-TEST_F(NestedEvents, LetARuleMendTheTextItWasToldOf) {
+TEST_F(NestedEvents, LetAHandlerCorrectTheTextOfItsOwnField) {
   depth.Change = [this] {
     said.push_back(depth.Text());
     if (depth.Value() > 100) depth.SetText("100");
@@ -60,7 +60,7 @@ TEST_F(NestedEvents, LetARuleMendTheTextItWasToldOf) {
   EXPECT_THAT(said, ElementsAre("450", "100"));
 }
 
-TEST_F(NestedEvents, LetAChoiceBeTakenBackByItsOwnRule) {
+TEST_F(NestedEvents, LetAHandlerReplaceTheChoiceOfItsOwnOptions) {
   source.SetValue(0, true);
   source.Click = [this](Integer index) {
     said.push_back(std::to_string(index));
@@ -74,7 +74,7 @@ TEST_F(NestedEvents, LetAChoiceBeTakenBackByItsOwnRule) {
   EXPECT_THAT(said, ElementsAre("2", "1"));
 }
 
-TEST_F(NestedEvents, LetAComboBeRefilledAndSetByItsOwnRule) {
+TEST_F(NestedEvents, LetAHandlerRefillAndSetItsOwnCombo) {
   diameter.Fill({{"0.625"}, {"0.75"}});
   diameter.Change = [this] {
     said.push_back(diameter.Text());
@@ -90,7 +90,7 @@ TEST_F(NestedEvents, LetAComboBeRefilledAndSetByItsOwnRule) {
   EXPECT_THAT(said, ElementsAre("0.75", "22"));
 }
 
-TEST_F(NestedEvents, LetATabChangeAnotherControlAndGoBack) {
+TEST_F(NestedEvents, LetAHandlerOfATabChangeAnotherControlAndReturn) {
   tabs.Click = [this] {
     said.push_back("tab " + std::to_string(tabs.Tab()));
     typed.SetValue(1);
@@ -104,7 +104,7 @@ TEST_F(NestedEvents, LetATabChangeAnotherControlAndGoBack) {
   EXPECT_THAT(said, ElementsAre("tab 1", "box", "tab 0"));
 }
 
-TEST_F(NestedEvents, LeaveTheControlSetWhenARuleFails) {
+TEST_F(NestedEvents, KeepTheNewTextWhenAHandlerThrows) {
   depth.Change = [] { throw std::bad_alloc(); };
 
   EXPECT_THROW(depth.SetText("150"), std::bad_alloc);

@@ -1,4 +1,4 @@
-// A form for tests, which counts its openings and closings and has no controls of its own, and a view of one.
+// A form without controls, which counts how often it opens and closes, and a view that records changes.
 #pragma once
 
 #include <string>
@@ -19,7 +19,7 @@ struct PlainForm : Form {
   int closed = 0;
 };
 
-// Notes the names of the controls whose changes it is told, and "closed".
+// Records the name of each control that changes, and "closed" when the form closes.
 class RecordingView : public FormView {
  public:
   explicit RecordingView(Form& form) : form_(form) { form.SetView(this); }

@@ -6,7 +6,7 @@
 namespace orby::test {
 namespace {
 
-TEST(AProgressBar, StaysBetweenNothingAndAll) {
+TEST(AProgressBar, StaysBetween0And100) {
   PlainForm form;
   ProgressBar bar{form, "ProgressBar1"};
 
@@ -17,7 +17,7 @@ TEST(AProgressBar, StaysBetweenNothingAndAll) {
   EXPECT_EQ(bar.Value(), 0);
 }
 
-TEST(ATextPane, GrowsPieceByPieceAndBeginsAnew) {
+TEST(ATextPane, AppendsPartsUntilItIsCleared) {
   PlainForm form;
   TextPane pane{form, "RichTextBox1"};
 
@@ -29,7 +29,7 @@ TEST(ATextPane, GrowsPieceByPieceAndBeginsAnew) {
   EXPECT_EQ(pane.Bytes(), "");
 }
 
-TEST(ASlider, StaysInsideItsRange) {
+TEST(ASlider, StaysWithinItsRange) {
   PlainForm form;
   Slider slider(form, "hsbSize", 2, 10);
 

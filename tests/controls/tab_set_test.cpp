@@ -25,28 +25,28 @@ TEST_F(ATabSet, OpensOnItsFirstTabWithEveryTabEnabled) {
   EXPECT_TRUE(tabs.TabEnabled(0) && tabs.TabEnabled(1) && tabs.TabEnabled(2));
 }
 
-TEST_F(ATabSet, TellsOfAnotherTab) {
+TEST_F(ATabSet, FiresClickForAnotherTab) {
   tabs.SetTab(2);
 
   EXPECT_EQ(tabs.Tab(), 2);
   EXPECT_EQ(clicks, 1);
 }
 
-TEST_F(ATabSet, TellsNothingWhenTheTabIsOnViewAlready) {
+TEST_F(ATabSet, FiresNothingForTheTabThatIsShown) {
   tabs.SetTab(0);
   tabs.ClickTab(0);
 
   EXPECT_EQ(clicks, 0);
 }
 
-TEST_F(ATabSet, FollowsTheUsersClick) {
+TEST_F(ATabSet, ShowsTheTabThatTheUserClicks) {
   tabs.ClickTab(1);
 
   EXPECT_EQ(tabs.Tab(), 1);
   EXPECT_EQ(clicks, 1);
 }
 
-TEST_F(ATabSet, LetsCodeGoToADisabledTab) {
+TEST_F(ATabSet, LetsCodeShowADisabledTab) {
   tabs.SetTabEnabled(2, false);
 
   tabs.SetTab(2);
@@ -55,7 +55,7 @@ TEST_F(ATabSet, LetsCodeGoToADisabledTab) {
   EXPECT_EQ(clicks, 1);
 }
 
-TEST_F(ATabSet, DoesNotLetTheUserGoToADisabledTab) {
+TEST_F(ATabSet, IgnoresTheUsersClickOnADisabledTab) {
   tabs.SetTabEnabled(2, false);
 
   tabs.ClickTab(2);
@@ -64,7 +64,7 @@ TEST_F(ATabSet, DoesNotLetTheUserGoToADisabledTab) {
   EXPECT_EQ(clicks, 0);
 }
 
-TEST_F(ATabSet, StaysOnATabThatIsDisabledWhileItIsOnView) {
+TEST_F(ATabSet, StaysOnATabThatIsDisabledWhileItIsShown) {
   tabs.SetTab(1);
   clicks = 0;
 
@@ -75,7 +75,7 @@ TEST_F(ATabSet, StaysOnATabThatIsDisabledWhileItIsOnView) {
   EXPECT_EQ(clicks, 0);
 }
 
-TEST_F(ATabSet, HasNoTabOutsideItsBounds) {
+TEST_F(ATabSet, RefusesATabOutsideItsBounds) {
   EXPECT_EQ(ErrorNumberOf([this] { tabs.SetTab(3); }), 9);
   EXPECT_EQ(ErrorNumberOf([this] { tabs.SetTab(-1); }), 9);
   EXPECT_EQ(ErrorNumberOf([this] { tabs.ClickTab(3); }), 9);
@@ -85,7 +85,7 @@ TEST_F(ATabSet, HasNoTabOutsideItsBounds) {
   EXPECT_EQ(clicks, 0);
 }
 
-TEST_F(ATabSet, WithoutARuleChangesItsTabAllTheSame) {
+TEST_F(ATabSet, WithoutAHandlerStillChangesItsTab) {
   tabs.Click = nullptr;
 
   tabs.ClickTab(1);

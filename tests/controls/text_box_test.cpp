@@ -26,7 +26,7 @@ TEST_F(ATextBox, StartsEmptyAndWithoutASelection) {
   EXPECT_EQ(depth.SelectionLength(), 0U);
 }
 
-TEST_F(ATextBox, TellsOfANewTextOnce) {
+TEST_F(ATextBox, FiresChangeOnceForANewText) {
   TextBox depth(form, "txtDepth", TextKind::Number);
   Watch(depth);
 
@@ -36,7 +36,7 @@ TEST_F(ATextBox, TellsOfANewTextOnce) {
   EXPECT_EQ(changes, 1);
 }
 
-TEST_F(ATextBox, TellsNothingWhenTheSameTextIsSetAgain) {
+TEST_F(ATextBox, FiresNothingWhenTheSameTextIsSetAgain) {
   TextBox depth(form, "txtDepth", TextKind::Number);
   depth.SetText("400");
   Watch(depth);
@@ -46,7 +46,7 @@ TEST_F(ATextBox, TellsNothingWhenTheSameTextIsSetAgain) {
   EXPECT_EQ(changes, 0);
 }
 
-TEST_F(ATextBox, ThatIsEmptyTellsNothingWhenItIsEmptied) {
+TEST_F(ATextBox, ThatIsEmptyFiresNothingWhenItIsCleared) {
   TextBox depth(form, "txtDepth", TextKind::Number);
   Watch(depth);
 
@@ -55,7 +55,7 @@ TEST_F(ATextBox, ThatIsEmptyTellsNothingWhenItIsEmptied) {
   EXPECT_EQ(changes, 0);
 }
 
-TEST_F(ATextBox, TellsOfAnotherTextForTheSameNumber) {
+TEST_F(ATextBox, FiresChangeForAnotherTextOfTheSameNumber) {
   TextBox depth(form, "txtDepth", TextKind::Number);
   depth.SetText("400");
   Watch(depth);
@@ -65,7 +65,7 @@ TEST_F(ATextBox, TellsOfAnotherTextForTheSameNumber) {
   EXPECT_EQ(changes, 1);
 }
 
-TEST_F(ATextBox, HoldsTheNewTextAlreadyWhenItTells) {
+TEST_F(ATextBox, HasTheNewTextBeforeItFiresChange) {
   TextBox depth(form, "txtDepth", TextKind::Number);
   std::string seen;
   depth.Change = [&] { seen = depth.Text(); };
@@ -75,7 +75,7 @@ TEST_F(ATextBox, HoldsTheNewTextAlreadyWhenItTells) {
   EXPECT_EQ(seen, "150");
 }
 
-TEST_F(ATextBox, WithoutARuleTakesItsTextAllTheSame) {
+TEST_F(ATextBox, WithoutAHandlerStillChangesItsText) {
   TextBox title(form, "txtTitle");
 
   title.SetText("North mains");
@@ -83,7 +83,7 @@ TEST_F(ATextBox, WithoutARuleTakesItsTextAllTheSame) {
   EXPECT_EQ(title.Text(), "North mains");
 }
 
-TEST_F(ATextBox, ForOutputTellsNothing) {
+TEST_F(ATextBox, ForOutputFiresNothing) {
   TextBox factor(form, "txtStabFactor", TextKind::Output);
   Watch(factor);
 
@@ -94,7 +94,7 @@ TEST_F(ATextBox, ForOutputTellsNothing) {
   EXPECT_EQ(changes, 0);
 }
 
-TEST_F(ATextBox, IsReadUpToTheFirstCharacterThatIsNoNumber) {
+TEST_F(ATextBox, HasTheNumberAtTheStartOfItsText) {
   TextBox spacing(form, "txtRowSpacing", TextKind::Number);
 
   spacing.SetText("1,5");
@@ -107,20 +107,20 @@ TEST_F(ATextBox, IsReadUpToTheFirstCharacterThatIsNoNumber) {
   EXPECT_EQ(spacing.Value(), 0.0);
 }
 
-TEST_F(ATextBox, WithANumberBeyondEveryRangeIsAnOverflowWhenItIsRead) {
+TEST_F(ATextBox, ReportsAnOverflowWhenATooLargeNumberIsRead) {
   TextBox spacing(form, "txtRowSpacing", TextKind::Number);
   spacing.SetText("1E999");
 
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(spacing.Value()); }), 6);
 }
 
-TEST_F(ATextBox, ForNumbersSwallowsLetters) {
+TEST_F(ATextBox, ForNumbersRefusesLetters) {
   const TextBox depth(form, "txtDepth", TextKind::Number);
 
   EXPECT_EQ(depth.KeyPress('x'), 0);
 }
 
-TEST_F(ATextBox, ForNumbersRefusesAMinusInFrontButTakesItBehindADigit) {
+TEST_F(ATextBox, ForNumbersRefusesAMinusAtTheStartButAcceptsItAfterADigit) {
   TextBox depth(form, "txtDepth", TextKind::Number);
 
   EXPECT_EQ(depth.KeyPress('-'), 0);
@@ -128,7 +128,7 @@ TEST_F(ATextBox, ForNumbersRefusesAMinusInFrontButTakesItBehindADigit) {
   EXPECT_EQ(depth.KeyPress('-'), '-');
 }
 
-TEST_F(ATextBox, ForNumbersTakesDigitsPointsAndTheEditingKeys) {
+TEST_F(ATextBox, ForNumbersAcceptsDigitsPointsAndEditingKeys) {
   TextBox depth(form, "txtDepth", TextKind::Number);
   depth.SetText("4.");
 
@@ -137,20 +137,20 @@ TEST_F(ATextBox, ForNumbersTakesDigitsPointsAndTheEditingKeys) {
   EXPECT_EQ(depth.KeyPress(8), 8);
 }
 
-TEST_F(ATextBox, ForAnyTextTakesEveryKey) {
+TEST_F(ATextBox, ForAnyTextAcceptsEveryKey) {
   const TextBox title(form, "txtTitle");
 
   EXPECT_EQ(title.KeyPress('x'), 'x');
   EXPECT_EQ(title.KeyPress('-'), '-');
 }
 
-TEST_F(ATextBox, ForOutputDoesNotFilterKeys) {
+TEST_F(ATextBox, ForOutputAcceptsEveryKey) {
   const TextBox factor(form, "txtStabFactor", TextKind::Output);
 
   EXPECT_EQ(factor.KeyPress('x'), 'x');
 }
 
-TEST_F(ATextBox, KeepsTheSelectionItIsGiven) {
+TEST_F(ATextBox, HasTheSelectionThatWasSet) {
   TextBox title(form, "txtTitle");
   title.SetText("North mains");
 

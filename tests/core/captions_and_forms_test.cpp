@@ -12,7 +12,7 @@ TEST(FormPlace, IsTheMiddleOfTheScreen) {
   EXPECT_EQ(place.top, 240);
 }
 
-TEST(FormPlace, HalvesOddSizesOfFormAndScreenEachByItself) {
+TEST(FormPlace, HalvesTheSizesOfFormAndScreenSeparately) {
   const Position place = CenterForm({801, 601}, {1920, 1080});
   EXPECT_EQ(place.left, 560);
   EXPECT_EQ(place.top, 240);
@@ -22,28 +22,28 @@ TEST(FormPlace, HalvesOddSizesOfFormAndScreenEachByItself) {
   EXPECT_EQ(onOddScreen.top, 240);
 }
 
-TEST(FormPlace, OfAFormAsLargeAsTheScreenIsItsCorner) {
+TEST(FormPlace, OfAFormAsLargeAsTheScreenIsTheUpperLeftCorner) {
   const Position place = CenterForm({1024, 768}, {1024, 768});
 
   EXPECT_EQ(place.left, 0);
   EXPECT_EQ(place.top, 0);
 }
 
-TEST(FormPlace, OfAFormTooWideStartsAtTheLeftEdgeAndIsCenteredInHeight) {
+TEST(FormPlace, OfATooWideFormIsAtTheLeftEdgeAndCenteredInHeight) {
   const Position place = CenterForm({1025, 600}, {1024, 768});
 
   EXPECT_EQ(place.left, 0);
   EXPECT_EQ(place.top, 84);
 }
 
-TEST(FormPlace, OfAFormTooHighStartsAtTheUpperEdgeAndIsCenteredInWidth) {
+TEST(FormPlace, OfATooHighFormIsAtTheUpperEdgeAndCenteredInWidth) {
   const Position place = CenterForm({800, 1600}, {1024, 768});
 
   EXPECT_EQ(place.left, 112);
   EXPECT_EQ(place.top, 0);
 }
 
-TEST(FormPlace, OfAFormOnePixelTooLargeForAnOddScreenIsItsCorner) {
+TEST(FormPlace, OfAFormOnePixelTooLargeIsTheUpperLeftCorner) {
   const Position place = CenterForm({802, 602}, {801, 601});
 
   EXPECT_EQ(place.left, 0);
@@ -54,7 +54,7 @@ TEST(FormCaption, ShowsThePathOfASavedProject) {
   EXPECT_EQ(SetFormCaption("Orby", "/mine/panel 3.ORB", true), "Orby: /mine/panel 3.ORB");
 }
 
-TEST(FormCaption, EndsInAStarWhileThereAreUnsavedChanges) {
+TEST(FormCaption, EndsWithAStarWhileThereAreUnsavedChanges) {
   EXPECT_EQ(SetFormCaption("Orby", "Untitled", false), "Orby: Untitled*");
 }
 
@@ -63,7 +63,7 @@ TEST(FormCaption, ShowsAPathOf50CharactersWhole) {
             "Orby: /projects/north/mains/section-04/design-000001.ORB");
 }
 
-TEST(FormCaption, ShowsAPathOf51CharactersByItsFirst10AndLast37) {
+TEST(FormCaption, ShowsTheFirst10AndLast37CharactersOfAPathOf51) {
   EXPECT_EQ(SetFormCaption("Orby", "/projects/north/mains/section-04/design-0000001.ORB", false),
             "Orby: /projects/...h/mains/section-04/design-0000001.ORB*");
 }
@@ -102,7 +102,7 @@ TEST(CaptionUnits, AreMetricInAMetricProject) {
   EXPECT_EQ(form.optCapacity.Caption(0), "Capacity (kN)");
 }
 
-TEST(CaptionUnits, LeaveCaptionsWithoutAUnitAlone) {
+TEST(CaptionUnits, AreNotAddedToCaptionsWithoutAUnit) {
   LabelledForm form;
 
   AppendUnits(form, Metric);
@@ -114,7 +114,7 @@ TEST(CaptionUnits, LeaveCaptionsWithoutAUnitAlone) {
 
 using DialogShowing = ProgramBench;
 
-TEST_F(DialogShowing, BeginsWithItsTitlesAndTheNormalCursor) {
+TEST_F(DialogShowing, SetsTheTitlesOfMessagesAndTheNormalCursorFirst) {
   platform.windows.SetWaitCursor(true);
 
   PrepareForm(program, MessageModule::Settings);
@@ -137,7 +137,7 @@ TEST_F(DialogShowing, OpensTheFormShowsItAndClosesIt) {
   EXPECT_EQ(platform.windows.modalForms, 1);
 }
 
-TEST_F(DialogShowing, DoesNotCloseAgainWhatTheUserClosed) {
+TEST_F(DialogShowing, DoesNotCloseAFormThatTheUserHasClosed) {
   PlainForm form;
   platform.windows.onModal = [](Form& shown) { shown.Close(); };
 

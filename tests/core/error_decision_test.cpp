@@ -7,7 +7,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// One error as the user meets it: the history's line and the text of the box.
+// One error as the user sees it: the line of the history and the text of the box.
 struct ErrorCase {
   int number;
   const char* log;
@@ -39,7 +39,7 @@ TEST_P(ErrorOfADevice, IsRetriedWhenTheUserWishes) {
               ElementsAre(IsBox(GetParam().box, BoxButtons::RetryCancel, "Project Parameters: Error")));
 }
 
-TEST_P(ErrorOfADevice, IsPassedOverWhenTheUserCancels) {
+TEST_P(ErrorOfADevice, IsSkippedWhenTheUserCancels) {
   platform.boxes.answers = {BoxResult::Cancel};
 
   const Decision decision = ErrorDecision(program, RuntimeError(GetParam().number), Telling::Loud);
@@ -49,7 +49,7 @@ TEST_P(ErrorOfADevice, IsPassedOverWhenTheUserCancels) {
               ElementsAre(IsBox(GetParam().box, BoxButtons::RetryCancel, "Project Parameters: Error")));
 }
 
-TEST_P(ErrorOfADevice, IsPassedOverInSilence) {
+TEST_P(ErrorOfADevice, IsSkippedWithoutAMessageWhenSilent) {
   const Decision decision = ErrorDecision(program, RuntimeError(GetParam().number), Telling::Silent);
 
   EXPECT_EQ(decision, Decision::Continue);
@@ -88,7 +88,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 struct ErrorThatEndsACommand : ErrorBench, testing::WithParamInterface<ErrorCase> {};
 
-TEST_P(ErrorThatEndsACommand, IsToldOnceAndGivenUp) {
+TEST_P(ErrorThatEndsACommand, IsShownOnceAndEndsTheCommand) {
   const Decision decision = ErrorDecision(program, RuntimeError(GetParam().number), Telling::Loud);
 
   EXPECT_EQ(decision, Decision::GiveUp);
@@ -96,13 +96,13 @@ TEST_P(ErrorThatEndsACommand, IsToldOnceAndGivenUp) {
   EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox(GetParam().box, BoxButtons::Ok, "Orby Roof Support Workbench")));
 }
 
-TEST_P(ErrorThatEndsACommand, IsNotRetriedWhateverTheBoxAnswers) {
+TEST_P(ErrorThatEndsACommand, IsNeverRetried) {
   platform.boxes.answers = {BoxResult::Retry};
 
   EXPECT_EQ(ErrorDecision(program, RuntimeError(GetParam().number), Telling::Loud), Decision::GiveUp);
 }
 
-TEST_P(ErrorThatEndsACommand, IsGivenUpInSilence) {
+TEST_P(ErrorThatEndsACommand, EndsTheCommandWithoutAMessageWhenSilent) {
   const Decision decision = ErrorDecision(program, RuntimeError(GetParam().number), Telling::Silent);
 
   EXPECT_EQ(decision, Decision::GiveUp);
@@ -159,7 +159,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 using CancelledDialog = ErrorBench;
 
-TEST_F(CancelledDialog, IsLoggedByItsWordsAloneAndShowsNoBox) {
+TEST_F(CancelledDialog, IsAddedToTheHistoryWithoutABox) {
   const Decision decision = ErrorDecision(program, RuntimeError(32755), Telling::Loud);
 
   EXPECT_EQ(decision, Decision::Cancelled);
@@ -167,7 +167,7 @@ TEST_F(CancelledDialog, IsLoggedByItsWordsAloneAndShowsNoBox) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(CancelledDialog, LeavesNoTraceInSilence) {
+TEST_F(CancelledDialog, IsNotAddedToTheHistoryWhenSilent) {
   const Decision decision = ErrorDecision(program, RuntimeError(32755), Telling::Silent);
 
   EXPECT_EQ(decision, Decision::Cancelled);
@@ -177,7 +177,7 @@ TEST_F(CancelledDialog, LeavesNoTraceInSilence) {
 
 using DataBaseError = ErrorBench;
 
-TEST_F(DataBaseError, IsToldWithItsSignedNumber) {
+TEST_F(DataBaseError, IsShownWithItsSignedNumber) {
   const Decision decision = ErrorDecision(program, RuntimeError(-2147217900), Telling::Loud);
 
   EXPECT_EQ(decision, Decision::DataBase);
@@ -188,7 +188,7 @@ TEST_F(DataBaseError, IsToldWithItsSignedNumber) {
                                 BoxButtons::Ok, "Orby Roof Support Workbench")));
 }
 
-TEST_F(DataBaseError, KeepsItsDecisionInSilence) {
+TEST_F(DataBaseError, HasTheSameDecisionWhenSilent) {
   const Decision decision = ErrorDecision(program, RuntimeError(-2147217900), Telling::Silent);
 
   EXPECT_EQ(decision, Decision::DataBase);
@@ -198,7 +198,7 @@ TEST_F(DataBaseError, KeepsItsDecisionInSilence) {
 
 using ErrorHistory = ErrorBench;
 
-TEST_F(ErrorHistory, HoldsTheErrorFirstAndThenItsBox) {
+TEST_F(ErrorHistory, HasTheErrorBeforeItsMessageBox) {
   ErrorDecision(program, RuntimeError(53), Telling::Loud);
   ErrorDecision(program, RuntimeError(76), Telling::Loud);
 

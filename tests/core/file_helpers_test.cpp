@@ -21,11 +21,11 @@ using FileSearch = FileBench;
 
 TEST_F(FileSearch, FindsAFile) { EXPECT_TRUE(FileExists(program, "/mine/panel.ORB")); }
 
-TEST_F(FileSearch, DoesNotFindWhatIsNotThere) { EXPECT_FALSE(FileExists(program, "/mine/other.ORB")); }
+TEST_F(FileSearch, DoesNotFindAMissingFile) { EXPECT_FALSE(FileExists(program, "/mine/other.ORB")); }
 
-TEST_F(FileSearch, DoesNotTakeAFolderForAFile) { EXPECT_FALSE(FileExists(program, "/tmp")); }
+TEST_F(FileSearch, DoesNotFindAFolder) { EXPECT_FALSE(FileExists(program, "/tmp")); }
 
-TEST_F(FileSearch, FindsNothingUnderABadPathAndSaysNothing) {
+TEST_F(FileSearch, FindsNothingForAnInvalidPathAndShowsNoMessage) {
   platform.files.Fail(Step::Find, 52);
 
   EXPECT_FALSE(FileExists(program, "/mine/panel.ORB"));
@@ -43,15 +43,15 @@ TEST_F(PathSearch, AcceptsAFolderAndAFile) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(PathSearch, RefusesWhatIsNotThereInSilence) {
+TEST_F(PathSearch, DoesNotFindAMissingPathAndShowsNoMessage) {
   EXPECT_FALSE(ValidPath(program, "/nowhere", false));
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-struct HopelessPathSearch : FileBench, testing::WithParamInterface<int> {};
+struct FailedPathSearch : FileBench, testing::WithParamInterface<int> {};
 
-TEST_P(HopelessPathSearch, NamesTheInvalidPath) {
+TEST_P(FailedPathSearch, ShowsTheInvalidPath) {
   platform.files.Fail(Step::Find, GetParam());
 
   EXPECT_FALSE(ValidPath(program, "/mine", false));
@@ -61,7 +61,7 @@ TEST_P(HopelessPathSearch, NamesTheInvalidPath) {
   EXPECT_EQ(program.session.history.Text, "1. Program Options: Error: Invalid path: /mine\r\n");
 }
 
-TEST_P(HopelessPathSearch, IsQuietOnRequest) {
+TEST_P(FailedPathSearch, ShowsNoMessageWhenQuiet) {
   platform.files.Fail(Step::Find, GetParam());
 
   EXPECT_FALSE(ValidPath(program, "/mine", true));
@@ -70,12 +70,12 @@ TEST_P(HopelessPathSearch, IsQuietOnRequest) {
   EXPECT_EQ(program.session.history.Text, "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Error, HopelessPathSearch, testing::Values(5, 7, 9, 52, 55, 68, 75, 76),
+INSTANTIATE_TEST_SUITE_P(Error, FailedPathSearch, testing::Values(5, 7, 9, 52, 55, 68, 75, 76),
                          testing::PrintToStringParamName());
 
-struct UnexpectedPathTrouble : FileBench, testing::WithParamInterface<int> {};
+struct UnexpectedErrorOfAPathSearch : FileBench, testing::WithParamInterface<int> {};
 
-TEST_P(UnexpectedPathTrouble, IsAnInternalErrorAndThePathCounts) {
+TEST_P(UnexpectedErrorOfAPathSearch, IsShownAsAnInternalErrorAndThePathIsAccepted) {
   platform.files.Fail(Step::Find, GetParam());
 
   EXPECT_TRUE(ValidPath(program, "/mine", false));
@@ -84,7 +84,7 @@ TEST_P(UnexpectedPathTrouble, IsAnInternalErrorAndThePathCounts) {
                                                       BoxButtons::Ok, "Program Options: Range Error")));
 }
 
-TEST_P(UnexpectedPathTrouble, IsToldAlsoWhenQuiet) {
+TEST_P(UnexpectedErrorOfAPathSearch, IsShownEvenWhenQuiet) {
   platform.files.Fail(Step::Find, GetParam());
 
   EXPECT_TRUE(ValidPath(program, "/mine", true));
@@ -92,10 +92,10 @@ TEST_P(UnexpectedPathTrouble, IsToldAlsoWhenQuiet) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Internal Error in ValidPath Function: Contact Developer"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Error, UnexpectedPathTrouble, testing::Values(53, 61, 70, 482, 32755),
+INSTANTIATE_TEST_SUITE_P(Error, UnexpectedErrorOfAPathSearch, testing::Values(53, 61, 70, 482, 32755),
                          testing::PrintToStringParamName());
 
-TEST_F(PathSearch, TakesAnErrorOfADataBaseForAnInternalOne) {
+TEST_F(PathSearch, ShowsADataBaseErrorAsAnInternalError) {
   platform.files.Fail(Step::Find, -2147217900);
 
   EXPECT_TRUE(ValidPath(program, "/mine", true));
@@ -105,7 +105,7 @@ TEST_F(PathSearch, TakesAnErrorOfADataBaseForAnInternalOne) {
 
 using FileName = FileBench;
 
-TEST_F(FileName, StandsBehindTheLastSeparatorOfEitherKind) {
+TEST_F(FileName, FollowsTheLastSeparatorOfEitherKind) {
   EXPECT_EQ(FileNameFromPath(program, "/mine/panel 3.ORB", false), "panel 3.ORB");
   EXPECT_EQ(FileNameFromPath(program, "C:\\mine\\panel 3.ORB", false), "panel 3.ORB");
   EXPECT_EQ(FileNameFromPath(program, "C:\\mine/sub\\panel.ORB", false), "panel.ORB");
@@ -121,16 +121,16 @@ TEST_F(FileName, OfAnEmptyPathIsEmpty) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(FileName, IsCutBeforeItsFirstPointOnRequest) {
+TEST_F(FileName, EndsBeforeItsFirstPointOnRequest) {
   EXPECT_EQ(FileNameFromPath(program, "/mine/panel.v2.ORB", true), "panel");
   EXPECT_EQ(FileNameFromPath(program, "/mine.old/panel", true), "panel");
 }
 
-TEST_F(FileName, IsNotCutBeforeAPointAtItsBeginning) {
+TEST_F(FileName, DoesNotEndBeforeAnInitialPoint) {
   EXPECT_EQ(FileNameFromPath(program, "/mine/.hidden.ORB", true), ".hidden.ORB");
 }
 
-TEST_F(FileName, OfAPathEndingInASeparatorIsToldOnceAndThePathItself) {
+TEST_F(FileName, OfAPathWithATrailingSeparatorIsAnErrorAndThePathItself) {
   EXPECT_EQ(FileNameFromPath(program, "/mine/", true), "/mine/");
   EXPECT_EQ(FileNameFromPath(program, "C:\\mine\\", false), "C:\\mine\\");
 
@@ -159,7 +159,7 @@ TEST_F(TextFileCopy, OfAnEmptyFileIsEmpty) {
   EXPECT_EQ(platform.files.files["/tmp/copy.txt"], "");
 }
 
-TEST_F(TextFileCopy, KeepsALineEndTogetherWhereverTheFileIsCutWhileItIsRead) {
+TEST_F(TextFileCopy, KeepsALineEndTogetherWhenAReadSplitsIt) {
   const std::string piece((std::size_t{1} << 20U) - 1, 'x');
   platform.files.files["/mine/notes.txt"] = piece + "\r\nend";
 
@@ -168,7 +168,7 @@ TEST_F(TextFileCopy, KeepsALineEndTogetherWhereverTheFileIsCutWhileItIsRead) {
   EXPECT_TRUE(platform.files.files["/tmp/copy.txt"] == piece + "\r\nend\r\n");
 }
 
-TEST_F(TextFileCopy, LeavesTheSourceAsItIs) {
+TEST_F(TextFileCopy, DoesNotChangeTheSource) {
   platform.files.files["/mine/notes.txt"] = "one\ntwo";
 
   CopyTextFile(program, "/mine/notes.txt", "/tmp/copy.txt");
@@ -176,7 +176,7 @@ TEST_F(TextFileCopy, LeavesTheSourceAsItIs) {
   EXPECT_EQ(platform.files.files["/mine/notes.txt"], "one\ntwo");
 }
 
-TEST_F(TextFileCopy, NamesASourceThatIsNotThere) {
+TEST_F(TextFileCopy, ShowsTheNameOfAMissingSource) {
   EXPECT_FALSE(CopyTextFile(program, "/mine/missing.txt", "/tmp/copy.txt"));
 
   EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Requested File not found: /mine/missing.txt", BoxButtons::Ok,
@@ -184,7 +184,7 @@ TEST_F(TextFileCopy, NamesASourceThatIsNotThere) {
   EXPECT_THAT(platform.files.created, IsEmpty());
 }
 
-TEST_F(TextFileCopy, TellsOfAFailureAtAnyStep) {
+TEST_F(TextFileCopy, ReportsAFailureOfEachStep) {
   for (const Step step : {Step::Read, Step::Create, Step::Write, Step::Close}) {
     RecordingPlatform failing;
     failing.files.files["/mine/notes.txt"] = "one\r\ntwo\r\n";
@@ -199,7 +199,7 @@ TEST_F(TextFileCopy, TellsOfAFailureAtAnyStep) {
   }
 }
 
-TEST_F(TextFileCopy, TellsOfADiskThatFillsUpOnTheWay) {
+TEST_F(TextFileCopy, ReportsADiskThatBecomesFullWhileItIsWritten) {
   platform.files.files["/mine/notes.txt"] = "one\r\ntwo\r\nthree\r\n";
   platform.files.Fail(Step::Write, 61, 3);
 
@@ -208,7 +208,7 @@ TEST_F(TextFileCopy, TellsOfADiskThatFillsUpOnTheWay) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("File I/O problem with TMP file: "));
 }
 
-TEST_F(TextFileCopy, OntoItselfIsRefusedAndLeavesTheFileAsItIs) {
+TEST_F(TextFileCopy, OntoItselfIsRefusedAndDoesNotChangeTheFile) {
   platform.files.files["/mine/notes.txt"] = "one\ntwo";
 
   EXPECT_FALSE(CopyTextFile(program, "/mine/notes.txt", "/mine/notes.txt"));
@@ -218,7 +218,7 @@ TEST_F(TextFileCopy, OntoItselfIsRefusedAndLeavesTheFileAsItIs) {
   EXPECT_EQ(platform.files.files["/mine/notes.txt"], "one\ntwo");
 }
 
-// Files whose folders are named otherwise.
+// Files with folders of the names that a test sets.
 struct NamedFolders : MemoryFiles {
   std::string TemporaryFolder() override { return temporary; }
   std::string ProgramFolder() override { return program; }
@@ -232,20 +232,20 @@ struct Folders : FileBench {
   Program elsewhere{platform.DoorsWith(files)};
 };
 
-TEST_F(Folders, TheTemporaryOneEndsInOneSeparator) {
+TEST_F(Folders, TheTemporaryFolderEndsWithOneSeparator) {
   EXPECT_EQ(GetTempDirectory(program.platform.files), "/tmp/");
 
   files.temporary = "/tmp/";
   EXPECT_EQ(GetTempDirectory(elsewhere.platform.files), "/tmp/");
 }
 
-TEST_F(Folders, ATemporaryOneThatIsNotThereLeavesTheSeparatorAlone) {
+TEST_F(Folders, AMissingTemporaryFolderLeavesOnlyTheSeparator) {
   files.temporary = "/nowhere";
 
   EXPECT_EQ(GetTempDirectory(elsewhere.platform.files), "/");
 }
 
-TEST_F(Folders, TheProgramsOwnEndsInOneSeparatorAndHasNoBlanksAround) {
+TEST_F(Folders, TheProgramFolderEndsWithOneSeparatorAndHasNoBlanksAround) {
   EXPECT_EQ(AppDirectory(program.platform.files), "/program/");
 
   files.program = " /opt/roof support/ ";
@@ -255,7 +255,7 @@ TEST_F(Folders, TheProgramsOwnEndsInOneSeparatorAndHasNoBlanksAround) {
   EXPECT_EQ(AppDirectory(elsewhere.platform.files), "D:\\Roof\\");
 }
 
-TEST_F(Folders, TheLongNameLosesItsSeparatorAndKeepsItsCase) {
+TEST_F(Folders, ALongNameHasNoTrailingSeparatorAndKeepsItsCase) {
   files.files["/mine/Panel"] = "";
 
   EXPECT_EQ(LongPathName(elsewhere.platform.files, "/mine/Panel/"), "/mine/Panel");
@@ -263,7 +263,7 @@ TEST_F(Folders, TheLongNameLosesItsSeparatorAndKeepsItsCase) {
   EXPECT_EQ(LongPathName(elsewhere.platform.files, "/mine/Panel\\"), "/mine/Panel");
 }
 
-TEST_F(Folders, TheLongNameOfWhatIsNotThereIsEmpty) {
+TEST_F(Folders, TheLongNameOfAMissingPathIsEmpty) {
   EXPECT_EQ(LongPathName(program.platform.files, "/nowhere"), "");
   EXPECT_EQ(LongPathName(program.platform.files, ""), "");
 }

@@ -12,9 +12,9 @@ TEST(FontList, IsSearchedWithoutRegardToCase) {
   EXPECT_EQ(FontIndexOf("Arial", fonts), 2);
 }
 
-TEST(FontList, GivesTheFirstOfEqualNames) { EXPECT_EQ(FontIndexOf("Sans", {"Serif", "SANS", "Sans"}), 1); }
+TEST(FontList, FindsTheFirstOfEqualNames) { EXPECT_EQ(FontIndexOf("Sans", {"Serif", "SANS", "Sans"}), 1); }
 
-TEST(FontList, GivesNothingForAFontThatIsNotThere) {
+TEST(FontList, DoesNotFindAMissingFont) {
   EXPECT_EQ(FontIndexOf("Courier", {"Courier New"}), -1);
   EXPECT_EQ(FontIndexOf("Courier New", {"Courier"}), -1);
   EXPECT_EQ(FontIndexOf("Arial", {}), -1);
@@ -22,7 +22,7 @@ TEST(FontList, GivesNothingForAFontThatIsNotThere) {
 
 using FontChoice = ProgramBench;
 
-TEST_F(FontChoice, ForTheScreenTakesTheFirstOfItsListThatIsInstalled) {
+TEST_F(FontChoice, ForTheScreenIsTheFirstOfItsListThatIsInstalled) {
   platform.fonts.screen = {"Sans", "Terminal", "System", "Courier New", "Arial"};
   EXPECT_EQ(ChooseDisplayFont(program), "Arial");
 
@@ -36,14 +36,14 @@ TEST_F(FontChoice, ForTheScreenTakesTheFirstOfItsListThatIsInstalled) {
   EXPECT_EQ(ChooseDisplayFont(program), "Terminal");
 }
 
-TEST_F(FontChoice, ForTheScreenFallsBackOnTheFirstFontThereIs) {
+TEST_F(FontChoice, ForTheScreenIsTheFirstInstalledFontOtherwise) {
   platform.fonts.screen = {"Sans", "Serif"};
   platform.fonts.printer = {"Arial"};
 
   EXPECT_EQ(ChooseDisplayFont(program), "Sans");
 }
 
-TEST_F(FontChoice, ForThePrinterTakesTheFirstOfItsListThatIsInstalled) {
+TEST_F(FontChoice, ForThePrinterIsTheFirstOfItsListThatIsInstalled) {
   platform.fonts.printer = {"Sans", "Arial", "Courier", "Courier New"};
   EXPECT_EQ(ChoosePrinterFont(program), "Courier New");
 
@@ -54,14 +54,14 @@ TEST_F(FontChoice, ForThePrinterTakesTheFirstOfItsListThatIsInstalled) {
   EXPECT_EQ(ChoosePrinterFont(program), "Arial");
 }
 
-TEST_F(FontChoice, ForThePrinterFallsBackOnItsFirstFont) {
+TEST_F(FontChoice, ForThePrinterIsItsFirstFontOtherwise) {
   platform.fonts.screen = {"Courier New"};
   platform.fonts.printer = {"Serif", "Sans"};
 
   EXPECT_EQ(ChoosePrinterFont(program), "Serif");
 }
 
-TEST_F(FontChoice, IsEmptyWhereNoFontIsInstalled) {
+TEST_F(FontChoice, IsEmptyWhenNoFontIsInstalled) {
   EXPECT_EQ(ChooseDisplayFont(program), "");
   EXPECT_EQ(ChoosePrinterFont(program), "");
 }

@@ -51,7 +51,7 @@ TEST_F(Help, OpensAtTheTopicOfTheField) {
   EXPECT_THAT(platform.help.shown, ElementsAre("topic /program/ORBY.CHM frmGraph.txtXYPoint"));
 }
 
-TEST_F(Help, TellsOfAFileThatIsNotThere) {
+TEST_F(Help, ReportsAMissingHelpFile) {
   platform.files.files.clear();
 
   OpenHelpContents(program);
@@ -61,7 +61,7 @@ TEST_F(Help, TellsOfAFileThatIsNotThere) {
                                                       "Orby Roof Support Workbench")));
 }
 
-TEST_F(Help, TellsOfAFileThatIsNoHelp) {
+TEST_F(Help, ReportsAFileThatIsNotAHelpFile) {
   platform.help.opens = false;
 
   OpenHelpTopic(program, window);
@@ -78,7 +78,7 @@ TEST_F(Help, OpensTheManualWithTheProgramOfTheDesktop) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(Help, TellsWhenNoProgramOpensTheManual) {
+TEST_F(Help, ReportsThatNoProgramOpensTheManual) {
   platform.files.files["/program/ORBY.PDF"] = "manual";
   platform.documents.opens = false;
 
@@ -87,7 +87,7 @@ TEST_F(Help, TellsWhenNoProgramOpensTheManual) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Operation Failed"));
 }
 
-TEST_F(Help, NamesADocumentThatIsNotThereByItsFileAlone) {
+TEST_F(Help, ReportsAMissingDocumentByItsFileName) {
   OpenDocument(program, "Resource file", "resources/pull-tests.pdf", "pull-tests.pdf");
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Resource file (pull-tests.pdf) not available"));

@@ -14,7 +14,7 @@ TEST_F(HistoryPane, NumbersItsLines) {
   EXPECT_EQ(program.session.history.HistoryLineCounter, 2);
 }
 
-TEST_F(HistoryPane, StaysAsItIsWhileItIsSwitchedOff) {
+TEST_F(HistoryPane, GetsNoLinesWhileItIsSwitchedOff) {
   AddHistoryLine(program, "Editing Project Parameters");
   program.session.settings.DisplayHistoryWin = 0;
 
@@ -24,7 +24,7 @@ TEST_F(HistoryPane, StaysAsItIsWhileItIsSwitchedOff) {
   EXPECT_EQ(program.session.history.HistoryLineCounter, 1);
 }
 
-TEST_F(HistoryPane, IsNotEvenTrimmedWhileItIsSwitchedOff) {
+TEST_F(HistoryPane, IsNotReducedWhileItIsSwitchedOff) {
   program.session.history.Text = "1. a\r\n2. b\r\n3. c\r\n";
   program.session.settings.MaxDisplaySize = 4;
   program.session.settings.DisplayHistoryWin = 0;
@@ -34,7 +34,7 @@ TEST_F(HistoryPane, IsNotEvenTrimmedWhileItIsSwitchedOff) {
   EXPECT_EQ(program.session.history.Text, "1. a\r\n2. b\r\n3. c\r\n");
 }
 
-TEST_F(HistoryPane, GoesOnCountingWhenItIsSwitchedOnAgain) {
+TEST_F(HistoryPane, ContinuesItsNumbersWhenItIsSwitchedOnAgain) {
   AddHistoryLine(program, "a");
   program.session.settings.DisplayHistoryWin = 0;
   AddHistoryLine(program, "b");
@@ -45,7 +45,7 @@ TEST_F(HistoryPane, GoesOnCountingWhenItIsSwitchedOnAgain) {
   EXPECT_EQ(program.session.history.Text, "1. a\r\n2. c\r\n");
 }
 
-TEST_F(HistoryPane, KeepsItsLastTwoLinesWhenItHasGrownTooLong) {
+TEST_F(HistoryPane, KeepsOnlyItsLastTwoLinesWhenItIsTooLong) {
   program.session.settings.MaxDisplaySize = 24;
   program.session.history.HistoryLineCounter = 4;
   program.session.history.Text = "1. a\r\n2. b\r\n3. c\r\n4. d\r\n";
@@ -55,7 +55,7 @@ TEST_F(HistoryPane, KeepsItsLastTwoLinesWhenItHasGrownTooLong) {
   EXPECT_EQ(program.session.history.Text, "3. c\r\n4. d\r\n5. e\r\n");
 }
 
-TEST_F(HistoryPane, IsWholeUpToOneCharacterBelowItsLimit) {
+TEST_F(HistoryPane, KeepsAllLinesUpToOneCharacterBelowItsLimit) {
   program.session.settings.MaxDisplaySize = 25;
   program.session.history.HistoryLineCounter = 4;
   program.session.history.Text = "1. a\r\n2. b\r\n3. c\r\n4. d\r\n";
@@ -65,7 +65,7 @@ TEST_F(HistoryPane, IsWholeUpToOneCharacterBelowItsLimit) {
   EXPECT_EQ(program.session.history.Text, "1. a\r\n2. b\r\n3. c\r\n4. d\r\n5. e\r\n");
 }
 
-TEST_F(HistoryPane, CountsItsLengthInCharacters) {
+TEST_F(HistoryPane, MeasuresItsLengthInCharacters) {
   program.session.settings.MaxDisplaySize = 19;
   program.session.history.HistoryLineCounter = 3;
   program.session.history.Text = "1. \xC3\xA9\r\n2. \xC3\xA9\r\n3. \xC3\xA9\r\n";
@@ -75,7 +75,7 @@ TEST_F(HistoryPane, CountsItsLengthInCharacters) {
   EXPECT_EQ(program.session.history.Text, "1. \xC3\xA9\r\n2. \xC3\xA9\r\n3. \xC3\xA9\r\n4. d\r\n");
 }
 
-TEST_F(HistoryPane, KeepsTwoLinesHoweverLongTheyAre) {
+TEST_F(HistoryPane, KeepsTwoLinesOfAnyLength) {
   program.session.settings.MaxDisplaySize = 5;
   program.session.history.HistoryLineCounter = 2;
   program.session.history.Text = "1. a\r\n2. b\r\n";
@@ -85,7 +85,7 @@ TEST_F(HistoryPane, KeepsTwoLinesHoweverLongTheyAre) {
   EXPECT_EQ(program.session.history.Text, "1. a\r\n2. b\r\n3. c\r\n");
 }
 
-TEST_F(HistoryPane, CountsTheLinesOfALongMessageSingly) {
+TEST_F(HistoryPane, CountsEachLineOfAMessageWithSeveralLines) {
   program.session.settings.MaxDisplaySize = 10;
   program.session.history.HistoryLineCounter = 2;
   program.session.history.Text = "1. a\r\n2. Value '0' is outside\r\nValid range\r\n";
@@ -95,7 +95,7 @@ TEST_F(HistoryPane, CountsTheLinesOfALongMessageSingly) {
   EXPECT_EQ(program.session.history.Text, "2. Value '0' is outside\r\nValid range\r\n3. c\r\n");
 }
 
-TEST_F(HistoryPane, CountsUpTo16384AndBeginsAgainAt1) {
+TEST_F(HistoryPane, NumbersItsLinesUpTo16384AndThenFrom1) {
   program.session.history.HistoryLineCounter = 16383;
 
   AddHistoryLine(program, "last");
@@ -104,7 +104,7 @@ TEST_F(HistoryPane, CountsUpTo16384AndBeginsAgainAt1) {
   EXPECT_EQ(program.session.history.Text, "16384. last\r\n1. first\r\n");
 }
 
-TEST_F(HistoryPane, Shows1AgainAfter16384Lines) {
+TEST_F(HistoryPane, HasNumber1AgainAfter16384Lines) {
   for (int line = 0; line < 16384; ++line) AddHistoryLine(program, "File saved");
   program.session.history.Text.clear();
 

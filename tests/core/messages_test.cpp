@@ -9,7 +9,7 @@ using testing::ElementsAre;
 
 using ShowMessageBox = ProgramBench;
 
-TEST_F(ShowMessageBox, WithATitleIsLoggedUnderThatTitle) {
+TEST_F(ShowMessageBox, WithATitleIsAddedToTheHistoryWithThatTitle) {
   ShowMessage(program, "Depth must be above 0", BoxIcon::Critical, "Project Parameters: Range Error");
 
   EXPECT_EQ(program.session.history.Text, "1. Project Parameters: Range Error: Depth must be above 0\r\n");
@@ -17,7 +17,7 @@ TEST_F(ShowMessageBox, WithATitleIsLoggedUnderThatTitle) {
               ElementsAre(IsBox("Depth must be above 0", BoxIcon::Critical, "Project Parameters: Range Error")));
 }
 
-TEST_F(ShowMessageBox, WithoutATitleIsLoggedAsAMessageAndBearsTheProgramsTitle) {
+TEST_F(ShowMessageBox, WithoutATitleHasTheTitleOfTheProgram) {
   ShowMessage(program, "Current file is empty");
 
   EXPECT_EQ(program.session.history.Text, "1. Message: Current file is empty\r\n");
@@ -25,7 +25,7 @@ TEST_F(ShowMessageBox, WithoutATitleIsLoggedAsAMessageAndBearsTheProgramsTitle) 
               ElementsAre(IsBox("Current file is empty", BoxButtons::Ok, "Orby Roof Support Workbench")));
 }
 
-TEST_F(ShowMessageBox, IsLoggedBeforeItIsAnswered) {
+TEST_F(ShowMessageBox, IsAddedToTheHistoryBeforeItIsShown) {
   struct LogReadingBoxes : RecordingBoxes {
     BoxResult Show(const MessageBox& box) override {
       logWhenShown = program->session.history.Text;
@@ -42,7 +42,7 @@ TEST_F(ShowMessageBox, IsLoggedBeforeItIsAnswered) {
   EXPECT_EQ(boxes.logWhenShown, "1. Save: Save changes?\r\n");
 }
 
-TEST_F(ShowMessageBox, GivesTheButtonThatWasPressed) {
+TEST_F(ShowMessageBox, ReturnsTheButtonThatWasPressed) {
   platform.boxes.answers = {BoxResult::Cancel, BoxResult::Yes, BoxResult::No, BoxResult::Retry};
 
   EXPECT_EQ(ShowMessage(program, "Save changes?", BoxButtons::YesNoCancel), BoxResult::Cancel);
@@ -52,7 +52,7 @@ TEST_F(ShowMessageBox, GivesTheButtonThatWasPressed) {
   EXPECT_EQ(ShowMessage(program, "Done"), BoxResult::Ok);
 }
 
-TEST_F(ShowMessageBox, PassesStyleAndHelpThrough) {
+TEST_F(ShowMessageBox, HasTheStyleAndTheHelpOfItsCaller) {
   ShowMessage(program, "Download now?", {BoxButtons::YesNoCancel, BoxIcon::Question, BoxDefault::SecondButton},
               "Update", "ORBY.CHM", 1200);
 
@@ -63,7 +63,7 @@ TEST_F(ShowMessageBox, PassesStyleAndHelpThrough) {
   EXPECT_EQ(platform.boxes.shown[0].helpContext, 1200);
 }
 
-TEST_F(ShowMessageBox, IsShownAlsoWhenTheHistoryIsOff) {
+TEST_F(ShowMessageBox, IsShownEvenWhenTheHistoryIsOff) {
   program.session.settings.DisplayHistoryWin = 0;
 
   ShowMessage(program, "Current file is empty");
@@ -83,7 +83,7 @@ struct ModuleTitles {
 
 struct MessageTitlesOfModule : ProgramBench, testing::WithParamInterface<ModuleTitles> {};
 
-TEST_P(MessageTitlesOfModule, BeginWithItsName) {
+TEST_P(MessageTitlesOfModule, BeginWithTheNameOfTheModule) {
   program.windows.titles.MessageTitle = "Stale";
 
   SetMessageTitles(program, GetParam().module);
@@ -136,7 +136,7 @@ TEST_F(MessageTitlesTest, ModulesHaveTheirFixedNumbers) {
   EXPECT_EQ(NumberOf(MessageModule::Conversion), 13);
 }
 
-TEST_F(MessageTitlesTest, StayAsTheyAreWhenThereIsNoSuchModule) {
+TEST_F(MessageTitlesTest, DoNotChangeForAnUnknownModule) {
   SetMessageTitles(program, MessageModule::Settings);
 
   EXPECT_EQ(ErrorNumberOf([this] { SetMessageTitles(program, MessageModule{0}); }), 9);
@@ -153,7 +153,7 @@ TEST_F(MessageTitlesTest, AreEmptyBeforeTheFirstDialog) {
 
 using HelpHint = ProgramBench;
 
-TEST_F(HelpHint, TellsHowToGetHelpOnAField) {
+TEST_F(HelpHint, SaysHowToGetHelpOnAField) {
   ContextHelpHint(program);
 
   EXPECT_THAT(platform.boxes.shown,

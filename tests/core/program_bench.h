@@ -1,4 +1,4 @@
-// A program on a recording platform, as most tests of this folder begin.
+// A program on a recording platform, for the tests of this folder.
 #pragma once
 
 #include <gmock/gmock.h>

@@ -9,7 +9,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// A step that fails with the listed errors, one a run, and then succeeds.
+// A step that fails with the listed errors, one for each run, and then succeeds.
 struct CommandStep : ProgramBench {
   StepOutcome Run(std::vector<int> errors) {
     return RunTrapped(program, [this, errors] {
@@ -21,7 +21,7 @@ struct CommandStep : ProgramBench {
   int runs = 0;
 };
 
-TEST_F(CommandStep, ThatSucceedsRunsOnceAndSaysNothing) {
+TEST_F(CommandStep, ThatSucceedsRunsOnceWithoutAMessage) {
   EXPECT_EQ(Run({}), StepOutcome::Done);
 
   EXPECT_EQ(runs, 1);
@@ -39,7 +39,7 @@ TEST_F(CommandStep, RunsAgainAsLongAsTheUserRetries) {
               ElementsAre("Error occurred: File not found (53)", "Error occurred: Printer error (482)"));
 }
 
-TEST_F(CommandStep, IsPassedOverWhenTheUserDoesNotRetry) {
+TEST_F(CommandStep, IsSkippedWhenTheUserDoesNotRetry) {
   platform.boxes.answers = {BoxResult::Retry, BoxResult::Cancel};
 
   EXPECT_EQ(Run({61, 61, 61}), StepOutcome::PassedOver);
@@ -47,14 +47,14 @@ TEST_F(CommandStep, IsPassedOverWhenTheUserDoesNotRetry) {
   EXPECT_EQ(runs, 2);
 }
 
-TEST_F(CommandStep, IsCancelledWithItsDialogAndShowsNoBox) {
+TEST_F(CommandStep, IsCancelledWithoutAMessageWhenItsDialogIsCancelled) {
   EXPECT_EQ(Run({32755}), StepOutcome::Cancelled);
 
   EXPECT_EQ(runs, 1);
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(CommandStep, IsGivenUpWhenNothingCanMendIt) {
+TEST_F(CommandStep, IsGivenUpWhenARetryCannotHelp) {
   EXPECT_EQ(Run({76}), StepOutcome::GivenUp);
 
   EXPECT_EQ(runs, 1);
@@ -63,7 +63,7 @@ TEST_F(CommandStep, IsGivenUpWhenNothingCanMendIt) {
 
 TEST_F(CommandStep, IsGivenUpOnAnErrorOfADataBase) { EXPECT_EQ(Run({-2147217900}), StepOutcome::GivenUp); }
 
-TEST_F(CommandStep, HasTheNormalCursorBackBeforeTheUserIsAsked) {
+TEST_F(CommandStep, RestoresTheNormalCursorBeforeTheUserIsAsked) {
   struct CursorWatchingBoxes : RecordingBoxes {
     explicit CursorWatchingBoxes(const RecordingWindows& watched) : windows(watched) {}
     BoxResult Show(const MessageBox& box) override {
@@ -83,13 +83,13 @@ TEST_F(CommandStep, HasTheNormalCursorBackBeforeTheUserIsAsked) {
   EXPECT_THAT(boxes.waitingWhenShown, ElementsAre(false));
 }
 
-TEST_F(CommandStep, LeavesTheWaitCursorToTheCommandWhenItSucceeds) {
+TEST_F(CommandStep, DoesNotChangeTheWaitCursorWhenItSucceeds) {
   RunTrapped(program, [this] { platform.windows.SetWaitCursor(true); });
 
   EXPECT_TRUE(platform.windows.waitCursor);
 }
 
-TEST_F(CommandStep, LetsPassWhatIsNoRunTimeError) {
+TEST_F(CommandStep, DoesNotCatchOtherExceptions) {
   const auto fail = [this] { RunTrapped(program, [] { throw std::logic_error("broken"); }); };
 
   EXPECT_THROW(fail(), std::logic_error);

@@ -20,7 +20,7 @@ struct OptionArrayIndex : ProgramBench {
   std::vector<Integer> clicks;
 };
 
-TEST_F(OptionArrayIndex, ClicksTheNewChoiceOnce) {
+TEST_F(OptionArrayIndex, FiresOneClickForANewChoice) {
   source.SetValue(0, true);
   clicks.clear();
 
@@ -30,7 +30,7 @@ TEST_F(OptionArrayIndex, ClicksTheNewChoiceOnce) {
   EXPECT_THAT(clicks, ElementsAre(2));
 }
 
-TEST_F(OptionArrayIndex, ClicksTheSameChoiceOnceAgain) {
+TEST_F(OptionArrayIndex, FiresOneClickForTheSameChoice) {
   source.SetValue(1, true);
   clicks.clear();
 
@@ -40,7 +40,7 @@ TEST_F(OptionArrayIndex, ClicksTheSameChoiceOnceAgain) {
   EXPECT_THAT(clicks, ElementsAre(1));
 }
 
-TEST_F(OptionArrayIndex, ClicksOnceWhereNothingWasChosen) {
+TEST_F(OptionArrayIndex, FiresOneClickForAFirstChoice) {
   SetArrayIndex(program, source, 0);
 
   EXPECT_TRUE(source.Value(0));
@@ -48,7 +48,7 @@ TEST_F(OptionArrayIndex, ClicksOnceWhereNothingWasChosen) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(OptionArrayIndex, BeyondTheArrayIsToldAndThenASubscriptError) {
+TEST_F(OptionArrayIndex, BeyondTheArrayShowsAnErrorAndIsASubscriptError) {
   source.SetValue(1, true);
   clicks.clear();
 
@@ -60,7 +60,7 @@ TEST_F(OptionArrayIndex, BeyondTheArrayIsToldAndThenASubscriptError) {
   EXPECT_THAT(clicks, IsEmpty());
 }
 
-TEST_F(OptionArrayIndex, BelowTheArrayIsToldAndThenASubscriptError) {
+TEST_F(OptionArrayIndex, BelowTheArrayShowsAnErrorAndIsASubscriptError) {
   EXPECT_EQ(ErrorNumberOf([this] { SetArrayIndex(program, source, -1); }), 9);
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Internal Error: SetArrayIndex. Check input/form data."));

@@ -5,12 +5,12 @@
 namespace orby::test {
 namespace {
 
-TEST(ProgramVersion, ReadsWithPointsForPeopleAndWithoutForComparing) {
+TEST(ProgramVersion, HasATextWithPointsAndOneWithout) {
   EXPECT_EQ(VersionText(true), "1.0.00");
   EXPECT_EQ(VersionText(false), "1000");
 }
 
-TEST(ProgramVersion, ShowsTwoDigitsOfTheRevisionAtLeast) {
+TEST(ProgramVersion, HasAtLeastTwoDigitsOfTheRevision) {
   EXPECT_EQ(VersionText(true, {2, 11, 7}), "2.11.07");
   EXPECT_EQ(VersionText(true, {2, 1, 123}), "2.1.123");
   EXPECT_EQ(VersionText(false, {2, 1, 15}), "2115");

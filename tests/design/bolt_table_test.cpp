@@ -66,7 +66,7 @@ TEST(BoltTables, NameTheSameBoltsInMetricUnitsWithOneDecimal) {
   ExpectMetric(catalogs.BoltTableMET);
 }
 
-TEST(BoltTables, OfAustraliaReplaceTheMetricOneOnly) {
+TEST(BoltTables, OfAustraliaReplaceOnlyTheMetricTable) {
   Catalogs catalogs;
   SetBuiltInCatalogs(catalogs);
 
@@ -76,7 +76,7 @@ TEST(BoltTables, OfAustraliaReplaceTheMetricOneOnly) {
   EXPECT_EQ(catalogs.BoltTableENG.size(), 10U);
 }
 
-TEST(BoltTables, AreBackInMetricUnitsAfterTheAustralianOne) {
+TEST(BoltTables, ReturnToMetricAfterTheAustralianTable) {
   Catalogs catalogs;
   SetBoltTableAUS(catalogs);
 

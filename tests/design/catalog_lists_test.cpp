@@ -5,7 +5,7 @@
 namespace orby::test {
 namespace {
 
-TEST(CatalogListOfNumbers, GrowsAsFarAsAnEntryIsSetAndKeepsItsEnd) {
+TEST(CatalogListOfNumbers, GrowsToAnEntryThatIsSetAndKeepsItsLastIndex) {
   CatalogList diameters;
   EXPECT_EQ(diameters.Count(), 0U);
 

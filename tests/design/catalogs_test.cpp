@@ -1,4 +1,4 @@
-// The built-in lists of bolts, cables and standing supports, and what a reset brings back.
+// The built-in lists of bolts, cables and standing supports, and their reset.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -59,12 +59,12 @@ TEST_F(CatalogListTest, HasRoomForTenEntries) {
   for (const auto& [name, list, values] : BuiltIn) EXPECT_EQ((catalogs.*list).Values.size(), 10U) << name;
 }
 
-TEST_F(CatalogListTest, OfAustraliaHoldsDiametersUnderStrengthsAndStrengthsUnderDiameters) {
+TEST_F(CatalogListTest, OfAustraliaHasDiametersAndStrengthsExchanged) {
   EXPECT_THAT(InUse(catalogs.DefaultBoltUTSArrayMETAUS), ElementsAre(21.7F, 21.7F));
   EXPECT_THAT(InUse(catalogs.DefaultBoltDiamArrayMETAUS), ElementsAre(840, 440));
 }
 
-TEST_F(CatalogListTest, KeepsTheValuesBehindALowerIndexWithoutOfferingThem) {
+TEST_F(CatalogListTest, KeepsButDoesNotOfferTheValuesAfterItsLastIndex) {
   catalogs.DefaultBoltGradeArrayENG.HighestIndex = 2;
 
   EXPECT_THAT(InUse(catalogs.DefaultBoltGradeArrayENG), ElementsAre(40, 55, 60));
@@ -97,7 +97,7 @@ TEST_F(CatalogListTest, OfDiametersHasFiveEntriesAgainAfterAReset) {
   EXPECT_EQ(diameters.Values[5], 1.0F);
 }
 
-TEST_F(CatalogListTest, OfEnglishBoltsIsLeftAloneByTheMetricReset) {
+TEST_F(CatalogListTest, OfEnglishBoltsIsNotChangedByTheMetricReset) {
   catalogs.DefaultBoltGradeArrayENG.Values[0] = 36;
 
   SetDefaultBoltsMET(catalogs);
@@ -128,7 +128,7 @@ TEST_F(CatalogListTest, OfMetricCableStrengthsKeepsItsValuesInAReset) {
   EXPECT_THAT(InUse(catalogs.DefaultCableUTSArrayMET), ElementsAre(0, 610, 0, 0, 0, 0));
 }
 
-TEST_F(CatalogListTest, ThatHasGrownKeepsItsRoomInAReset) {
+TEST_F(CatalogListTest, ThatHasGrownKeepsItsSizeInAReset) {
   catalogs.DefaultCableCapArrayENG.Set(40, 50);
 
   SetDefaultCablesENG(catalogs);
@@ -208,7 +208,7 @@ TEST_F(StandingSupportTest, ThatWasAddedIsNoLongerOfferedAfterAReset) {
   EXPECT_EQ(supports.HighestIndex, 15);
 }
 
-TEST(CatalogBuilders, OfCapacitiesWorkBeforeThereAreNames) {
+TEST(CatalogBuilders, SetCapacitiesBeforeThereAreNames) {
   Catalogs catalogs;
 
   SetDefaultStandSupportCapsENG(catalogs);

@@ -5,7 +5,7 @@
 namespace orby::test {
 namespace {
 
-// A set that differs in every value: sizes in inches, grades in ksi.
+// A bolt set whose diameters (in) and grades (ksi) all differ.
 class BoltOfASet : public testing::Test {
  protected:
   Bolt Selected(Integer option, Integer diameterMode, Integer gradeMode) {
@@ -29,28 +29,28 @@ class BoltOfASet : public testing::Test {
   BoltSelection set = Different();
 };
 
-TEST_F(BoltOfASet, IsTheTablesWhateverTheManualModesSay) {
+TEST_F(BoltOfASet, ComesFromTheTableWhateverTheManualModesAre) {
   const Bolt bolt = Selected(0, 1, 1);
 
   EXPECT_EQ(bolt.Diameter, 0.625F);
   EXPECT_EQ(bolt.Grade, 60);
 }
 
-TEST_F(BoltOfASet, IsTheStandardOneOfAManualSelection) {
+TEST_F(BoltOfASet, HasTheStandardDiameterAndGradeOfAManualSelection) {
   const Bolt bolt = Selected(1, 0, 0);
 
   EXPECT_EQ(bolt.Diameter, 0.75F);
   EXPECT_EQ(bolt.Grade, 75);
 }
 
-TEST_F(BoltOfASet, IsTheTypedOneOfAManualSelection) {
+TEST_F(BoltOfASet, HasTheTypedDiameterAndGradeOfAManualSelection) {
   const Bolt bolt = Selected(1, 1, 1);
 
   EXPECT_EQ(bolt.Diameter, 0.8F);
   EXPECT_EQ(bolt.Grade, 72);
 }
 
-TEST_F(BoltOfASet, MayHaveATypedDiameterWithAStandardGradeAndTheReverse) {
+TEST_F(BoltOfASet, CanCombineATypedAndAStandardValue) {
   const Bolt typedDiameter = Selected(1, 1, 0);
   const Bolt typedGrade = Selected(1, 0, 1);
 
@@ -60,7 +60,7 @@ TEST_F(BoltOfASet, MayHaveATypedDiameterWithAStandardGradeAndTheReverse) {
   EXPECT_EQ(typedGrade.Grade, 72);
 }
 
-TEST(SecondarySystems, StandInTheOrderOfTheirTabs) {
+TEST(SecondarySystems, AreInTheOrderOfTheirTabs) {
   SecondarySupport support;
   support.Cable.Use = 1;
   support.Truss.Use = 2;
@@ -71,7 +71,7 @@ TEST(SecondarySystems, StandInTheOrderOfTheirTabs) {
   for (const SupportSystem* system : support.Systems()) EXPECT_EQ(system->Use, ++place);
 }
 
-TEST(DesignPreview, TakesTheSupportAndLeavesTheCost) {
+TEST(DesignPreview, CopiesTheSupportButNotTheCost) {
   Design committed;
   Design preview;
   committed.Place.DepthofCover = 400;

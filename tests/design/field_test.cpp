@@ -18,14 +18,14 @@ TEST(FieldOfADesign, IsReadAndWrittenInAnyDesign) {
   EXPECT_EQ(DepthofCover.In(other), 0);
 }
 
-TEST(FieldOfADesign, EqualsWhateverLeadsToTheSameField) {
+TEST(FieldOfADesign, EqualsAnotherPathToTheSameField) {
   const SingleField again([](auto& d) { return &d.Place.DepthofCover; });
 
   EXPECT_EQ(DepthofCover, again);
   EXPECT_NE(DepthofCover, EntryWidth);
 }
 
-TEST(FieldOfADesign, OfOneTypeIsNoneOfAnother) {
+TEST(FieldOfADesign, HasOnlyItsOwnType) {
   const AnyField number = DepthofCover;
 
   EXPECT_EQ(std::get_if<IntegerField>(&number), nullptr);

@@ -52,19 +52,19 @@ TEST(UnitLabels, NameTheQuantitiesOfADesign) {
   EXPECT_EQ(UnitLabel(UnitSuffix::ProductionRate, Metric), " (MN/m)");
 }
 
-TEST(UnitLabels, EndAtTheTablesEdges) {
+TEST(UnitLabels, OutsideTheTableAreRefused) {
   EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(UnitSuffix{-1}, English)); }), 9);
   EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(UnitSuffix{18}, English)); }), 9);
   EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(UnitSuffix{0}, UnitSystem{-1})); }), 9);
   EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(UnitLabel(UnitSuffix{0}, UnitSystem{2})); }), 9);
 }
 
-TEST(UnitSystem, IsToldInAFewWords) {
+TEST(UnitSystem, HasASummaryOfItsUnits) {
   EXPECT_EQ(UnitSummary(English), "ft, in, lbs, psi, pcf");
   EXPECT_EQ(UnitSummary(Metric), "m, cm, kN, MPa, kN/m3");
 }
 
-TEST(UnitSystem, HasTheFactorsThatDesignsWereMadeWith) {
+TEST(UnitSystem, HasTheFactorsOfExistingDesigns) {
   EXPECT_EQ(FeetPerMetre, 3.280839895013123);
   EXPECT_EQ(MillimetresPerInch, 25.4);
   EXPECT_EQ(MPaPerKsi, 6.894757293);

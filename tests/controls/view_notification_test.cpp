@@ -1,4 +1,4 @@
-// What is shown of a control follows the control only where its view is told.
+// Each change of a control that its window shows notifies the view of the form.
 #include <gmock/gmock.h>
 
 #include <functional>
@@ -34,7 +34,7 @@ struct Controls : PlainForm {
   Chart chart{*this, "chart"};
 };
 
-// An act that changes what is shown of a control, under its name.
+// A change of a control that its window shows.
 struct Change {
   const char* name;
   const char* control;
@@ -103,7 +103,7 @@ const std::vector<Change>& Changes() {
 
 class AView : public testing::TestWithParam<Change> {};
 
-TEST_P(AView, IsToldOfTheChange) {
+TEST_P(AView, IsNotifiedOfTheChange) {
   Controls controls;
   const RecordingView view(controls);
 
@@ -114,7 +114,7 @@ TEST_P(AView, IsToldOfTheChange) {
 
 INSTANTIATE_TEST_SUITE_P(Of, AView, testing::ValuesIn(Changes()), [](const auto& change) { return change.param.name; });
 
-TEST(AViewOfARow, IsToldOfARowAndACellThatAreSelectedOrChanged) {
+TEST(AViewOfAGrid, IsNotifiedWhenARowOrCellIsSelectedOrChanged) {
   Controls controls;
   controls.grid.SetSize(3, 2, 1);
   const RecordingView view(controls);
@@ -128,7 +128,7 @@ TEST(AViewOfARow, IsToldOfARowAndACellThatAreSelectedOrChanged) {
   EXPECT_THAT(view.told, ElementsAre("grid", "grid", "grid", "grid", "grid"));
 }
 
-TEST(AViewOfAList, IsToldOfAClickOnAnItem) {
+TEST(AViewOfAList, IsNotifiedOfAClickOnAnItem) {
   Controls controls;
   controls.list.Fill({{"40"}, {"60"}});
   const RecordingView view(controls);
@@ -138,7 +138,7 @@ TEST(AViewOfAList, IsToldOfAClickOnAnItem) {
   EXPECT_THAT(view.told, ElementsAre("list"));
 }
 
-TEST(AViewOfAText, IsToldThatItHasBeenEmptied) {
+TEST(AViewOfAText, IsNotifiedWhenTheTextIsCleared) {
   Controls controls;
   controls.combo.SetText("0.65");
   controls.pane.Append("weak roof\n");
@@ -150,7 +150,7 @@ TEST(AViewOfAText, IsToldThatItHasBeenEmptied) {
   EXPECT_THAT(view.told, ElementsAre("combo", "pane"));
 }
 
-TEST(AViewOfNoChange, IsNotToldOfWhatIsThereAlready) {
+TEST(AViewOfControls, IsNotNotifiedWhenAValueStaysTheSame) {
   Controls controls;
   const RecordingView view(controls);
 
