@@ -43,13 +43,13 @@ constexpr std::array DefaultRows{
     DefaultRow{"DefaultENGEntryWidth", &DesignDefaults::DefaultENGEntryWidth},
 };
 
-// One list of numbers; the key of an entry is this key and the entry's index.
+// A list of numbers. The key of an entry is this key followed by the index of the entry.
 struct ListKey {
   std::string_view Key;
   CatalogList Catalogs::*List = nullptr;
 };
 
-// An index key and the lists that it counts: one bolt list or the three cable lists of a unit system.
+// The key of a highest index and its lists: one bolt list, or the three cable lists of a unit system.
 struct ListGroup {
   std::string_view IndexKey;
   std::array<ListKey, 3> Lists;
@@ -95,7 +95,7 @@ void ReadListGroup(Catalogs& catalogs, const IniText& ini, const ListGroup& grou
   }
 }
 
-// What stands at the index, an empty value when the list is shorter.
+// Returns the entry at the index, or an empty value when the list is shorter.
 template <class Value>
 Value EntryOrNone(const std::vector<Value>& values, Integer index) {
   const auto position = static_cast<std::size_t>(index);
@@ -122,8 +122,8 @@ std::string NumberedKey(std::string_view key, Integer index, Integer column) {
   return NumberedKey(key, index) + "_" + NumberText(column);
 }
 
-// No run asks for this section, so the standing supports of every start are the built-in ones. Were it read, names
-// would turn into the numbers that they begin with, and capacities, asked for under the key of the name, into 0.
+// The program never reads this section, so that every run starts with the built-in standing supports. Reading it would
+// turn names into the numbers at their start, and capacities, which are looked up by the key of the name, into 0.
 void ReadStandSupports(StandingSupports& supports, const IniText& ini) {
   supports.HighestIndex = ReadHighestIndex(ini, StandSupportSection, SupportIndexKey, GrowingListCapacity);
   const std::size_t size = std::max({supports.DefaultStandSupportType.size(), supports.DefaultStandSupportCap.size(),

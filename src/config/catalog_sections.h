@@ -1,4 +1,4 @@
-// The sections of the configuration file that hold the values of a new design and the lists that users can edit.
+// The sections of the configuration file for the values of a new design and for the lists that users can edit.
 #pragma once
 
 #include "config/ini_file.h"
@@ -12,11 +12,11 @@ enum class StoredCatalogs {
   StandSupports,  // [ORBYStandSupportParams], the standing supports; written, never read
 };
 
-// Takes the section's values over into the program. A missing or unreadable value reads as 0. A list's highest index
-// below 0 is an empty list, one beyond its capacity fills it; entries above the index stay as they were.
+// Reads the values of a section into the program. A missing or unreadable value reads as 0. A highest index below 0
+// makes the list empty, and one beyond its capacity fills it. Entries above the index keep their values.
 void ReadCatalogSection(Program& program, const IniText& ini, StoredCatalogs what);
 
-// Sets the section's keys in table order, a list's highest index before its entries.
+// Writes the keys of a section in the order of its table. The highest index of a list precedes its entries.
 void WriteCatalogSection(const Session& session, IniText& ini, StoredCatalogs what);
 
 }  // namespace orby

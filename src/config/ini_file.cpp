@@ -40,7 +40,7 @@ struct IniLine {
   enum class Kind { Foreign, Section, Key };
   Kind kind = Kind::Foreign;
   std::string_view name;
-  std::optional<std::string_view> value;  // as it stands behind the "=", quotes included
+  std::optional<std::string_view> value;  // the text after "=" with its quotes
 };
 
 IniLine SplitLine(std::string_view line) {
@@ -89,7 +89,7 @@ IniText::IniText(std::string text) {
 
 IniText IniText::FromFileBytes(std::string bytes) { return IniText(TextFromFileBytes(std::move(bytes))); }
 
-// `section` is the one that the line lies in, none when that is a doubled one.
+// `section` is the section of the line. It is null in a second section of the same name.
 void IniText::IndexLine(Lines::iterator line, Section*& section) {
   const IniLine parts = SplitLine(*line);
   if (parts.kind == IniLine::Kind::Section) {
@@ -143,7 +143,7 @@ IniText::Section& IniText::SectionToWrite(std::string_view name) {
 
 std::string_view IniText::Store(std::string text) { return texts_.emplace_back(std::move(text)); }
 
-// Only the last line of a file can lack its end.
+// Adds a missing line end. Only the last line of a file can lack one.
 void IniText::EndLine(Lines::iterator line) {
   if (line == lines_.begin() || line->ends_with('\n') || line->ends_with('\r')) return;
   std::string ended(*line);
@@ -211,8 +211,8 @@ Single ReadIniSingle(const IniText& ini, std::string_view section, std::string_v
 
 namespace {
 
-// The file's bytes, empty when there is no such file; nothing when it is there but cannot be read: writing it anew
-// would lose all that it holds.
+// Returns the bytes of the file, or no bytes when it is missing. Returns nothing when the file exists but cannot be
+// read, because writing it would lose its contents.
 std::optional<std::string> BytesToEdit(FileSystem& files, const std::string& file) {
   try {
     return files.ReadFile(file);

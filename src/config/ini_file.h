@@ -1,8 +1,8 @@
 // The configuration file: sections "[name]" of lines "key=value".
 //
-// Names compare without regard to the case of the letters A to Z, and blanks and tabs around a name, in the file or in
-// the call, do not count. Of doubled sections and doubled keys the first holds. A line that starts with ";" is a
-// comment; a line without "=" is a key without a value.
+// Names are compared without regard to the case of the letters A to Z, and without the blanks and tabs around them. Of
+// two sections or keys of the same name the first one is used. A line that starts with ";" is a comment. A line without
+// "=" is a key without a value.
 #pragma once
 
 #include <concepts>
@@ -20,8 +20,8 @@
 
 namespace orby {
 
-// The file's text, parsed once. A look-up and an edit take the same time however long the text is. Lines that are not
-// edited keep their bytes, their place and their line ends.
+// The text of the file, parsed once. The time of a look-up or an edit does not depend on the length of the text. Lines
+// that are not edited keep their bytes, their order and their line ends.
 class IniText {
  public:
   IniText() : IniText(std::string()) {}
@@ -31,13 +31,14 @@ class IniText {
   IniText(IniText&&) = default;
   IniText& operator=(IniText&&) = default;
 
-  // The value without surrounding blanks and without one pair of quotes around it; nothing when the section or the key
-  // is missing or the key has no "=". It stays readable as long as this text lives, edits included.
+  // Returns the value without surrounding blanks and without one pair of quotes around it. Returns nothing when the
+  // section or the key is missing, or when the key has no "=". The result stays valid until this text is destroyed,
+  // also after edits.
   std::optional<std::string_view> Find(std::string_view section, std::string_view key) const;
 
-  // Replaces the line of the key, or adds one behind the last key of the section, or adds the section at the end.
-  // A value starts behind its leading blanks and ends at its first line end. A key that has the value already keeps
-  // its line. The empty section stands for the lines before the first section line.
+  // Replaces the line of the key. Adds a missing key after the last key of its section, and a missing section at the
+  // end. The value is written without leading blanks and up to its first line end. A key that has the value already
+  // keeps its line. The empty section name means the lines before the first section.
   void Write(std::string_view section, std::string_view key, std::string_view value);
 
   bool IsChanged() const { return isChanged_; }
@@ -55,7 +56,7 @@ class IniText {
   using ByName = std::unordered_map<std::string_view, T, NameHash, SameName>;
   using Lines = std::list<std::string_view>;
   struct Section {
-    Lines::iterator last;  // new keys go behind it
+    Lines::iterator last;  // new keys follow it
     ByName<Lines::iterator> keys;
   };
 
@@ -64,13 +65,13 @@ class IniText {
   std::string_view Store(std::string text);
   void EndLine(Lines::iterator line);
 
-  std::deque<std::string> texts_;  // what the lines and names point into; nothing is ever taken out
-  Lines lines_;                    // line ends included; the first is the byte order mark, or empty
+  std::deque<std::string> texts_;  // the texts that the lines and names refer to; none is ever removed
+  Lines lines_;                    // with their line ends; the first is the byte order mark or empty
   ByName<Section> sections_;
   bool isChanged_ = false;
 };
 
-// What a key can be set to: texts as they are, numbers as NumberText, Booleans as 0 or -1.
+// The value of a key: a text unchanged, a number as NumberText, a Boolean as 0 or -1.
 class IniValue {
  public:
   // NOLINTBEGIN(google-explicit-constructor): a value is what it is made of
@@ -92,12 +93,12 @@ class IniValue {
 
 void WriteIniValue(IniText& ini, std::string_view section, std::string_view key, const IniValue& value);
 
-// The first 254 characters of the value; the default when that is empty or the key is missing.
+// Returns the first 254 characters of the value, or the default when the value is empty or the key is missing.
 std::string ReadIniValue(const IniText& ini, std::string_view section, std::string_view key,
                          std::string_view defaultText = {});
 
-// The number that the value starts with, 0 when there is none. One beyond the range of a Double reads as the outermost
-// Double of its sign, which lies outside the range of every key.
+// Returns the number at the start of the value, or 0 when there is none. A number outside the range of a Double reads
+// as the largest or lowest Double, which is outside the range of every key.
 double ReadIniNumber(const IniText& ini, std::string_view section, std::string_view key,
                      std::string_view defaultText = {});
 
@@ -106,24 +107,24 @@ struct IniRange {
   Integer Maximum;
 };
 
-// The nearest whole number, ties to even. Without a range, a number that is no 16-bit integer reads as 0; with one, a
-// number outside it reads as the minimum, however large it is.
+// Returns the nearest whole number, ties to even. Without a range, a number that does not fit 16 bits reads as 0. With
+// a range, a number outside it reads as the minimum, also when it is too large.
 Integer ReadIniInteger(const IniText& ini, std::string_view section, std::string_view key,
                        std::string_view defaultText = {});
 Integer ReadIniInteger(const IniText& ini, std::string_view section, std::string_view key, IniRange range,
                        std::string_view defaultText = {});
 
-// A number beyond the range of a Single reads as 0.
+// Returns the number at the start of the value. A number outside the range of a Single reads as 0.
 Single ReadIniSingle(const IniText& ini, std::string_view section, std::string_view key);
 
-// A file that cannot be read reads as empty.
+// Reads a file. A file that cannot be read is an empty text.
 IniText ReadIniFile(Program& program, const std::string& file);
 
-// Edits the file, made anew when it is missing. A file that cannot be read or written is left as it was, without a word
-// to the user; nothing is written when the edit changes nothing.
+// Reads the file, calls `edit` and writes the file if it changed. Makes a missing file. A file that cannot be read or
+// written stays unchanged, and no message is shown.
 void EditIniFile(Program& program, const std::string& file, const std::function<void(IniText&)>& edit);
 
-// One key of a file. Whoever reads or writes several goes through ReadIniFile or EditIniFile once.
+// Read or write one key of a file. For several keys use ReadIniFile or EditIniFile, which access the file only once.
 std::string ReadIniValue(Program& program, std::string_view section, std::string_view key, const std::string& file,
                          std::string_view defaultText = {});
 void WriteIniValue(Program& program, std::string_view section, std::string_view key, const IniValue& value,

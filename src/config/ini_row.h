@@ -1,4 +1,4 @@
-// A key of the configuration file and the member that it fills, walked by a section's reader and its writer.
+// A key of the configuration file and its member. The reader and the writer of a section use the same rows.
 #pragma once
 
 #include <concepts>
@@ -18,15 +18,15 @@ struct IniRow {
   std::string_view Key;
   std::variant<Integer Group::*, Single Group::*, std::string Group::*, UnitSystem Group::*, StrengthBasis Group::*>
       Member;
-  // A Single that has one is read as a whole number; a choice has one.
+  // A Single with a range is read as a whole number. A choice always has a range.
   std::optional<IniRange> Range = std::nullopt;
-  std::string_view Default = {};  // what an empty or missing value reads as
-  // What becomes of a text that was read.
+  std::string_view Default = {};  // the value of an empty or missing key
+  // Returns the value to store for a text that was read.
   std::string (*Accepted)(Program& program, const std::string& read) = nullptr;
-  bool IsPath = false;  // a text that a file system gave, whatever its bytes
+  bool IsPath = false;  // a path of the file system, which may have any bytes
 };
 
-// `suffix` stands behind the key's name: the number of an entry in a list.
+// `suffix` is appended to the key: the number of an entry in a list.
 template <class Group>
 void ReadIniRow(Program& program, Group& group, const IniText& ini, std::string_view section, const IniRow<Group>& row,
                 std::string_view suffix = {}) {

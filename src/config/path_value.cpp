@@ -29,7 +29,7 @@ void AppendEscaped(std::string& text, char byte) {
   text += Digits[value & 0xFU];
 }
 
-// Bytes of the character at the front; 1 when it is no UTF-8.
+// Returns the number of bytes of the first character, or 1 when it is not UTF-8.
 std::size_t CharacterSize(std::string_view bytes) {
   constexpr std::size_t Longest = 4;
   for (std::size_t size = 1; size <= std::min(Longest, bytes.size()); ++size) {
@@ -38,7 +38,7 @@ std::size_t CharacterSize(std::string_view bytes) {
   return 1;
 }
 
-// The byte that an escape at the front of the text stands for; false when there is none.
+// Removes an escape from the start of the text and sets `byte` to its value. Returns false when there is none.
 bool TakeEscape(std::string_view& text, char& byte) {
   if (text.size() <= EscapeDigits || text.front() != Escape) return false;
   const char* digits = text.data() + 1;

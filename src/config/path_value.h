@@ -1,8 +1,9 @@
 // Paths as values of the configuration file.
 //
-// A path is bytes, and a file system takes nearly any of them. One name that is no UTF-8 would make the whole file be
-// read as Windows-1252, and so break every other name with an umlaut. A path that the file could not give back is
-// therefore written as "file:" and the path with the bytes in question as "%" and two hexadecimal digits.
+// A path consists of bytes, and a file system accepts nearly any of them. A single name that is not UTF-8 would make
+// the whole file be read as Windows-1252, which would change all other accented names. A path that would not read back
+// unchanged is therefore written as "file:" and the path, with "%" and two hexadecimal digits for each problematic
+// byte.
 #pragma once
 
 #include <string>
@@ -10,8 +11,8 @@
 
 namespace orby {
 
-// The path as it stands when the file gives it back: UTF-8 without control characters, without a blank or a quotation
-// mark at its beginning or end, and not starting with "file:".
+// Returns the path unchanged if it reads back unchanged: UTF-8 without control characters, without a blank or a
+// quotation mark at its start or end, and not starting with "file:". Otherwise returns it with escapes.
 std::string ValueFromPath(std::string_view path);
 
 std::string PathFromValue(std::string_view value);

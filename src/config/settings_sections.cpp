@@ -21,7 +21,7 @@ constexpr std::string_view SettingsSection = "Settings";
 constexpr std::string_view FileMenuSection = "FileMenu";
 constexpr std::string_view TextBrowseSection = "TextBrowse";
 constexpr std::string_view GraphSection = "Graph";
-// Two names for one section: what is written is never found again, so the options last until the program ends.
+// The options are written to one section and read from another, so that they apply only until the program ends.
 constexpr std::string_view WrittenOptionsSection = "TULKOptions";
 constexpr std::string_view ReadOptionsSection = "PENVOptions";
 
@@ -29,7 +29,7 @@ constexpr IniRange OnOff{0, 1};
 constexpr IniRange FontFlag{-1, 0};
 constexpr IniRange FontSize{7, 24};
 
-// Stands for a text that was never set.
+// Marks a text that was never set.
 constexpr std::string_view NoText = "0";
 
 std::string AcceptedFont(Program& program, const std::string& read) {
@@ -50,7 +50,7 @@ using SettingsRow = IniRow<Settings>;
 constexpr std::array SettingsRows{
     SettingsRow{"DefaultUnits", &Settings::UnitsDefault, OnOff},
     SettingsRow{"DisplayHistoryWin", &Settings::DisplayHistoryWin, OnOff},
-    // The length that the program starts with lies below the range: reading the first file back makes it 4096.
+    // The initial length of the program is below the range, so that it becomes 4096 when the first file is read.
     SettingsRow{"MaxDisplaySize", &Settings::MaxDisplaySize, IniRange{4096, 16384}},
     SettingsRow{"DisplayFontName", &Settings::DisplayFontName, {}, {}, AcceptedFont},
     SettingsRow{"DisplayFontSize", &Settings::DisplayFontSize, FontSize},
@@ -69,7 +69,7 @@ constexpr std::array SettingsRows{
     SettingsRow{"FileExtension", &Settings::FileExtension, {}, {}, AcceptedExtension},
 };
 
-// Despite its name the count of entries in use, not the most there can be.
+// Despite its name this is the number of entries in use, not the largest possible number.
 constexpr std::string_view RecentCountKey = "MaxLastFiles";
 constexpr IniRange RecentCount{0, RecentFiles::Capacity};
 
@@ -101,7 +101,7 @@ constexpr std::array GraphRows{
     GraphRow{"GraphTitle", &GraphSettings::GraphTitle},
 };
 
-// The titles of the axes stand behind the rows.
+// The titles of the axes follow the rows.
 template <class Graph, class Act>
 void ForEachAxisTitle(Graph& graph, const Act& act) {
   const auto walk = [&act](const std::string& key, auto& titles) {
@@ -158,7 +158,7 @@ void WriteGraph(const GraphSettings& graph, IniText& ini) {
 constexpr std::array AllSections{StoredSettings::Settings, StoredSettings::FileMenu, StoredSettings::TextBrowse,
                                  StoredSettings::Graph, StoredSettings::Options};
 
-void TellSaving(Program& program) {
+void AddSavingToHistory(Program& program) {
   AddHistoryLine(program, "Saving default settings to file: " + program.session.IniFilePath);
 }
 
@@ -209,8 +209,8 @@ void WriteIniVersion(IniText& ini) { WriteIniValue(ini, VersionSection, VersionK
 void ReadDefaults(Program& program, const IniText& ini) { ReadSettings(program, ini, StoredSettings::All); }
 
 void WriteDefaults(Program& program, StoredSettings what) {
-  // Before the edit: a file that cannot be written is told like any other.
-  TellSaving(program);
+  // Before the edit, so that the history has the line also when the file cannot be written.
+  AddSavingToHistory(program);
   EditIniFile(program, program.session.IniFilePath, [&](IniText& ini) { WriteSettings(program.session, ini, what); });
 }
 
@@ -223,9 +223,9 @@ IniText NewIniText(const Session& session) {
   return ini;
 }
 
-// At once: a file that told its version but lacked the rest would start the next run with zeros.
+// In one step: a file with the version but without the other values would start the next run with zeros.
 void WriteNewIniFile(Program& program, const IniText& ini) {
-  TellSaving(program);
+  AddSavingToHistory(program);
   program.platform.files.ReplaceFile(program.session.IniFilePath, ini.FileBytes());
 }
 

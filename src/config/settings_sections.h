@@ -1,5 +1,5 @@
-// The sections of the configuration file that hold what the user chose: the settings, the recent files, the browser's
-// font, how curves are drawn, the options.
+// The sections of the configuration file for the user's choices: the settings, the recent files, the font of the text
+// browser, the format of curves, the options.
 #pragma once
 
 #include <string>
@@ -10,7 +10,7 @@
 
 namespace orby {
 
-// What a call reads or writes, by the sections of the file.
+// The sections that a call reads or writes.
 enum class StoredSettings {
   All = 1,
   Settings,    // [Settings]
@@ -20,32 +20,32 @@ enum class StoredSettings {
   Options,     // written to [TULKOptions], read from [PENVOptions]
 };
 
-// Sets what a program holds before any file is read and that only its surroundings know: the fonts and the data path.
+// Sets the initial fonts and the initial data path, which depend on the machine.
 void SetBuiltInSettings(Program& program);
 
-// Takes one section's values, or those of all, over into the program. A number outside its range, or missing, reads as
-// the range's minimum; a missing text as the empty one, but for fonts, data path and extension, which fall back to what
-// the program has built in.
+// Reads the values of one section, or of all, into the program. A missing number, or one outside its range, reads as
+// the minimum of the range. A missing text is empty, except that fonts, data path and extension get their built-in
+// values.
 void ReadSettings(Program& program, const IniText& ini, StoredSettings what);
 
-// Sets the section's keys in table order; all sections in the order above.
+// Writes the keys of a section in the order of its table, or all sections in the order above.
 void WriteSettings(const Session& session, IniText& ini, StoredSettings what);
 
-// The version that the configuration was written by; empty when it tells none.
+// Returns the version of the program that wrote the configuration. Empty when it has none.
 std::string IniVersion(const IniText& ini);
 void WriteIniVersion(IniText& ini);
 
 // Reads all of the settings.
 void ReadDefaults(Program& program, const IniText& ini);
 
-// Writes one section, or all, to the configuration file at IniFilePath, and tells so in the history first.
+// Adds a line to the history, and then writes one section, or all, to the configuration file at IniFilePath.
 void WriteDefaults(Program& program, StoredSettings what);
 
-// A whole new configuration: the version, all of the settings, the values of a new design and the lists.
+// Returns a complete new configuration: the version, all settings, the values of a new design and the lists.
 IniText NewIniText(const Session& session);
 
-// Makes it the configuration file, and tells so in the history first. Throws the RuntimeError of a file that cannot be
-// written.
+// Adds a line to the history, and then replaces the configuration file with `ini`. Throws the RuntimeError of a file
+// that cannot be written.
 void WriteNewIniFile(Program& program, const IniText& ini);
 
 }  // namespace orby

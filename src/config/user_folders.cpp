@@ -25,8 +25,8 @@ bool IsThere(FileSystem& files, const std::string& folder) {
   return Succeeds([&] { found = files.Finds(folder, true); }) && found;
 }
 
-// The folder, made when it is missing; the program's own when it cannot be had.
-std::string Settled(Program& program, const std::string& folder) {
+// Returns the folder and makes it when it is missing. Returns the folder of the program when it cannot be made.
+std::string MadeOrProgramFolder(Program& program, const std::string& folder) {
   FileSystem& files = program.platform.files;
   Succeeds([&] { files.MakeFolder(folder); });
   return IsThere(files, folder) ? folder : AppDirectory(program.platform.files);
@@ -49,10 +49,10 @@ void FindUserFolders(Program& program) {
     return;
   }
   const std::string group = Below(*documents, GroupFolderName);
-  folders.Group = Settled(program, group);
-  folders.GroupTemporary = Settled(program, Below(group, TemporaryFolderName));
-  folders.ProgramData = Settled(program, Below(group, ProgramShortName));
-  folders.ProgramTemporary = Settled(program, Below(folders.ProgramData, TemporaryFolderName));
+  folders.Group = MadeOrProgramFolder(program, group);
+  folders.GroupTemporary = MadeOrProgramFolder(program, Below(group, TemporaryFolderName));
+  folders.ProgramData = MadeOrProgramFolder(program, Below(group, ProgramShortName));
+  folders.ProgramTemporary = MadeOrProgramFolder(program, Below(folders.ProgramData, TemporaryFolderName));
 }
 
 void CopyExamples(Program& program) {

@@ -1,20 +1,20 @@
-// The folders under the user's documents that the program keeps its files in.
+// The folders of the program below the user's documents.
 #pragma once
 
 #include "core/program.h"
 
 namespace orby {
 
-// Finds the folders and makes those that are missing. A folder that cannot be had is the program's own folder instead;
-// all four are when the desktop does not know the user's documents or desktop.
+// Finds the folders and makes missing ones. The folder of the program replaces a folder that cannot be made. It
+// replaces all four when the desktop does not know the user's documents or desktop.
 void FindUserFolders(Program& program);
 
-// Copies the examples that came with the program into the data path when the settings ask for it. A file that is there
-// already stays as the user left it; one that cannot be copied is left out.
+// Copies the examples of the program into the data path if the setting is on. A file that exists already is not
+// changed. A file that cannot be copied is skipped.
 void CopyExamples(Program& program);
 
-// Makes the program's folder the one that relative paths start from, the program data folder when the user may not
-// write to it. A failure is ignored.
+// Makes the folder of the program the working folder, or the folder for program data when the user may not write to the
+// former. Ignores a failure.
 void EnterWorkingFolder(Program& program);
 
 }  // namespace orby

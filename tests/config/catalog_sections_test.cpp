@@ -29,7 +29,7 @@ struct CatalogSections : testing::Test {
 
 CatalogList Filled(const std::vector<Single>& values) { return {static_cast<Integer>(values.size() - 1), values}; }
 
-// Every list different, so that none can stand for another.
+// Returns lists that all differ, so that an exchange of two lists is noticed.
 Catalogs SomeLists() {
   Catalogs lists;
   lists.DefaultBoltGradeArrayENG = Filled({40, 60, 75});
@@ -121,7 +121,7 @@ TEST_F(CatalogSections, TheDefaultsAreWrittenInTableOrder) {
   EXPECT_EQ(ini.Text(), DefaultsText);
 }
 
-TEST_F(CatalogSections, TheListsAreWrittenInTableOrderEachIndexBeforeItsEntries) {
+TEST_F(CatalogSections, TheListsAreWrittenInTableOrderWithEachIndexBeforeItsEntries) {
   catalogs = SomeLists();
   IniText ini;
 
@@ -130,7 +130,7 @@ TEST_F(CatalogSections, TheListsAreWrittenInTableOrderEachIndexBeforeItsEntries)
   EXPECT_EQ(ini.Text(), SomeListsText);
 }
 
-TEST_F(CatalogSections, EveryDefaultIsReadIntoItsOwnPlace) {
+TEST_F(CatalogSections, EveryDefaultIsReadIntoItsOwnMember) {
   std::string text;
   int number = 10;
   for (std::string_view rest = DefaultsText; !rest.empty(); ++number) {
@@ -163,7 +163,7 @@ TEST_F(CatalogSections, EveryDefaultIsReadIntoItsOwnPlace) {
   EXPECT_EQ(defaults.DefaultENGEntryWidth, 31);
 }
 
-TEST_F(CatalogSections, EveryListIsReadBackAsItWasWritten) {
+TEST_F(CatalogSections, EveryListReadsBackAsItWasWritten) {
   Read(BoltParams, SomeListsText);
 
   EXPECT_THAT(catalogs.DefaultBoltGradeArrayENG.Values, ElementsAre(40, 60, 75));
@@ -293,7 +293,7 @@ TEST_F(CatalogSections, TheCableListsGrowBeyondTheBoltLists) {
   EXPECT_EQ(catalogs.DefaultCableDiamArrayMET[14], 28.6F);
 }
 
-TEST_F(CatalogSections, AnIndexBeyondADoubleFillsTheListOrEmptiesIt) {
+TEST_F(CatalogSections, AnIndexBeyondTheRangeOfADoubleFillsTheListOrEmptiesIt) {
   ReadBolts("DefaultBoltDiamIndexMET=1E999\r\nDefaultBoltGradeIndexMET=-1E999\r\n");
 
   EXPECT_EQ(catalogs.DefaultBoltDiamArrayMET.Count(), 10U);
@@ -319,7 +319,7 @@ TEST_F(CatalogSections, EntriesBeyondAnEmptiedListStayInTheFile) {
   EXPECT_EQ(ini.Find("ORBYBoltParams", "DefaultBoltGradeArrayENG2"), "75");
 }
 
-TEST_F(CatalogSections, TheStandingSupportsAreWrittenWithBothCapacitiesEach) {
+TEST_F(CatalogSections, EachStandingSupportIsWrittenWithBothCapacities) {
   catalogs.StandSupports = {1, {"4-point Hardwood Crib", "Can, 24in"}, {{{58.5F, 520}, {120, 1068}}}};
   IniText ini;
 
@@ -336,7 +336,7 @@ TEST_F(CatalogSections, TheStandingSupportsAreWrittenWithBothCapacitiesEach) {
             "DefaultStandSupportCap1_1=1068\r\n");
 }
 
-TEST_F(CatalogSections, AStandingSupportWithoutNameOrCapacityIsWrittenAsNoneOfEither) {
+TEST_F(CatalogSections, AStandingSupportWithoutANameOrCapacityIsWrittenAsEmptyOrZero) {
   catalogs.StandSupports = {1, {"Can, 24in"}, {}};
   IniText ini;
 
@@ -347,7 +347,7 @@ TEST_F(CatalogSections, AStandingSupportWithoutNameOrCapacityIsWrittenAsNoneOfEi
   EXPECT_EQ(ini.Find("ORBYStandSupportParams", "DefaultStandSupportType1"), "");
 }
 
-TEST_F(CatalogSections, AnEmptyListOfStandingSupportsIsItsIndexAlone) {
+TEST_F(CatalogSections, AnEmptyListOfStandingSupportsIsWrittenAsItsIndexOnly) {
   IniText ini;
 
   WriteCatalogSection(program.session, ini, StandSupports);
@@ -370,7 +370,7 @@ TEST_F(CatalogSections, ReadingTheStandingSupportsTurnsNamesIntoNumbersAndLosesT
               ElementsAre(ElementsAre(0, 0), ElementsAre(0, 0), ElementsAre(5, 6)));
 }
 
-TEST_F(CatalogSections, TheCapacitiesAreAskedForUnderTheKeyOfTheName) {
+TEST_F(CatalogSections, CapacitiesOfStandingSupportsAreReadByTheKeyOfTheName) {
   Read(StandSupports,
        "[ORBYStandSupportParams]\r\nDefaultStandSupportIndex=0\r\nDefaultStandSupportType0_1=520\r\n"
        "DefaultStandSupportCap0_0=58.5\r\n");
@@ -378,7 +378,7 @@ TEST_F(CatalogSections, TheCapacitiesAreAskedForUnderTheKeyOfTheName) {
   EXPECT_THAT(catalogs.StandSupports.DefaultStandSupportCap, ElementsAre(ElementsAre(0, 520)));
 }
 
-TEST_F(CatalogSections, TheIndexOfTheStandingSupportsStaysWithinWhatTheListHolds) {
+TEST_F(CatalogSections, TheIndexOfTheStandingSupportsIsLimitedToTheCapacityOfTheList) {
   Read(StandSupports, "[ORBYStandSupportParams]\r\nDefaultStandSupportIndex=500\r\n");
   EXPECT_EQ(catalogs.StandSupports.HighestIndex, 98);
   EXPECT_EQ(catalogs.StandSupports.DefaultStandSupportType.size(), 99U);

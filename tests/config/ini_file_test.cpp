@@ -1,4 +1,4 @@
-// The configuration file on the disk: missing, unreadable, unwritable.
+// The configuration file on the disk: missing, unreadable or not writable.
 #include "config/ini_file.h"
 
 #include <gmock/gmock.h>
@@ -54,7 +54,7 @@ TEST_F(IniFile, AFileThatCannotBeReadIsNotReplacedByAnEmptyOne) {
   EXPECT_EQ(Bytes(), "[Version]\r\nINIFileVersion=201030\r\n");
 }
 
-TEST_F(IniFile, AFileThatCannotBeWrittenStaysAsItWasWithoutAWord) {
+TEST_F(IniFile, AFileThatCannotBeWrittenStaysUnchangedWithoutAMessage) {
   Bytes() = "[Version]\r\nINIFileVersion=201030\r\n";
   platform.files.Fail(Step::Create, error_number::PermissionDenied);
 
@@ -64,7 +64,7 @@ TEST_F(IniFile, AFileThatCannotBeWrittenStaysAsItWasWithoutAWord) {
   EXPECT_TRUE(platform.boxes.shown.empty());
 }
 
-TEST_F(IniFile, AFolderThatIsMissingIsNoError) {
+TEST_F(IniFile, AMissingFolderIsNotAnError) {
   platform.files.Fail(Step::Read, error_number::PathNotFound);
   platform.files.Fail(Step::Create, error_number::PathNotFound);
 
@@ -73,7 +73,7 @@ TEST_F(IniFile, AFolderThatIsMissingIsNoError) {
   EXPECT_TRUE(platform.files.files.empty());
 }
 
-TEST_F(IniFile, AFileThatCannotBeClosedIsNoError) {
+TEST_F(IniFile, AFileThatCannotBeClosedIsNotAnError) {
   platform.files.Fail(Step::Close, error_number::DiskFull);
 
   WriteIniValue(program, "Version", "INIFileVersion", "201030", IniPath);
@@ -82,7 +82,7 @@ TEST_F(IniFile, AFileThatCannotBeClosedIsNoError) {
   EXPECT_TRUE(platform.boxes.shown.empty());
 }
 
-TEST_F(IniFile, AFileThatMayNotBeReplacedStaysAsItWas) {
+TEST_F(IniFile, AFileThatMayNotBeReplacedStaysUnchanged) {
   Bytes() = "[Version]\r\nINIFileVersion=201030\r\n";
   platform.files.Fail(Step::Rename, error_number::PermissionDenied);
 
@@ -93,7 +93,7 @@ TEST_F(IniFile, AFileThatMayNotBeReplacedStaysAsItWas) {
   EXPECT_TRUE(platform.boxes.shown.empty());
 }
 
-TEST_F(IniFile, ARunThatIsCutOffWhileItWritesLosesNothing) {
+TEST_F(IniFile, AnInterruptedWriteKeepsTheOldFile) {
   Bytes() = "[Version]\r\nINIFileVersion=201030\r\n";
   platform.files.Fail(Step::Write, error_number::DiskFull);
   platform.files.Fail(Step::Remove, error_number::PermissionDenied);
@@ -104,7 +104,7 @@ TEST_F(IniFile, ARunThatIsCutOffWhileItWritesLosesNothing) {
   EXPECT_EQ(ReadIniValue(program, "Version", "INIFileVersion", IniPath), "201030");
 }
 
-TEST_F(IniFile, AnEditThatChangesNothingDoesNotTouchTheFile) {
+TEST_F(IniFile, AnEditWithoutAChangeDoesNotWriteTheFile) {
   Bytes() = "[Version]\n INIFileVersion = 201030";
 
   WriteIniValue(program, "Version", "INIFileVersion", "201030", IniPath);
@@ -124,7 +124,7 @@ TEST_F(IniFile, SeveralKeysAreWrittenAtOnce) {
   EXPECT_THAT(platform.files.files, testing::SizeIs(1)) << "nothing is left beside it";
 }
 
-// A disk with room for so many bytes of the file and no more.
+// A disk with room for only `room` bytes of the file.
 class SmallDisk : public MemoryFiles {
  public:
   explicit SmallDisk(std::size_t room) : room_(room) {}
@@ -152,7 +152,7 @@ class SmallDisk : public MemoryFiles {
   std::size_t room_;
 };
 
-TEST(IniFileOnAFullDisk, KeepsWhatItHeld) {
+TEST(IniFileOnAFullDisk, KeepsItsOldContents) {
   RecordingPlatform platform;
   SmallDisk disk(40);
   const Platform doors = platform.DoorsWith(disk);

@@ -1,4 +1,4 @@
-// The reference table of ini calls, read and written row by row.
+// Compares reads and writes of configuration files with a table of measured calls.
 #include <gmock/gmock.h>
 
 #include <algorithm>
@@ -34,7 +34,7 @@ std::vector<std::string> Parts(const std::string& field) {
   return parts;
 }
 
-// Rows that are not known to hold everywhere, by line: whether it is only the bytes of the resulting file.
+// Returns the doubtful rows by line. The value is true if only the bytes of the resulting file are doubtful.
 std::map<int, bool> SuspectRows() {
   std::map<int, bool> suspects;
   for (const TableRow& row : ReadTable("vectors/suspect.tsv")) {
@@ -43,8 +43,9 @@ std::map<int, bool> SuspectRows() {
   return suspects;
 }
 
-// The program asks for no lists of names, deletes nothing, and gives a default only through its own rule.
-bool IsAskedByTheProgram(const TableRow& row) {
+// Returns true for a row of a call that the program makes. It asks for no lists of names, deletes nothing, and handles
+// defaults itself.
+bool IsUsedByTheProgram(const TableRow& row) {
   static const std::set<std::string> otherServices{"default text", "long default 300", "missing file",
                                                    "write into missing folder"};
   return !otherServices.contains(row.fields.at(0)) && row.fields.at(2).find("<null>") == std::string::npos;
@@ -55,7 +56,7 @@ std::vector<Call> Calls(const std::string& kind, bool withSuspectBytes) {
   std::vector<Call> calls;
   for (const TableRow& row : ReadTable("vectors/ini.tsv")) {
     Call call{row.line, row.fields.at(1), Parts(row.fields.at(2)), row.fields.at(3), row.fields.at(4)};
-    if (call.arguments.front() != kind || !IsAskedByTheProgram(row)) continue;
+    if (call.arguments.front() != kind || !IsUsedByTheProgram(row)) continue;
     const auto suspect = suspects.find(row.line);
     if (suspect != suspects.end() && !(withSuspectBytes && suspect->second)) continue;
     call.fileBefore = call.fileBefore == "<none>" ? std::string() : Unescape(call.fileBefore);
@@ -66,7 +67,7 @@ std::vector<Call> Calls(const std::string& kind, bool withSuspectBytes) {
   return calls;
 }
 
-TEST(IniTable, EveryReadGivesItsText) {
+TEST(IniTable, HoldsForEveryRead) {
   int compared = 0;
   for (const Call& call : Calls("G", false)) {
     const std::size_t room = std::stoul(call.arguments.at(4));
@@ -83,7 +84,7 @@ TEST(IniTable, EveryReadGivesItsText) {
   EXPECT_EQ(compared, 182);
 }
 
-TEST(IniTable, EveryReadWithTheProgramsBufferGivesItsText) {
+TEST(IniTable, HoldsForEveryReadOf254Characters) {
   int compared = 0;
   for (const Call& call : Calls("G", false)) {
     if (call.arguments.at(4) != "255" || call.result == "3|DEF") continue;
@@ -96,7 +97,7 @@ TEST(IniTable, EveryReadWithTheProgramsBufferGivesItsText) {
   EXPECT_EQ(compared, 149);
 }
 
-TEST(IniTable, EveryWriteLeavesItsBytes) {
+TEST(IniTable, HoldsForTheBytesOfEveryWrite) {
   int compared = 0;
   for (const Call& call : Calls("W", false)) {
     IniText ini = IniText::FromFileBytes(call.fileBefore);
@@ -109,7 +110,7 @@ TEST(IniTable, EveryWriteLeavesItsBytes) {
   EXPECT_EQ(compared, 41);
 }
 
-TEST(IniTable, EveryWriteReadsBackAsInTheTable) {
+TEST(IniTable, HoldsForReadingBackEveryWrite) {
   int compared = 0;
   for (const Call& call : Calls("W", true)) {
     IniText ini = IniText::FromFileBytes(call.fileBefore);

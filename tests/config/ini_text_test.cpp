@@ -30,29 +30,29 @@ TEST(IniText, ATextThatIsNotEditedKeepsEveryByte) {
   EXPECT_EQ(ini.FileBytes(), untidy);
 }
 
-TEST(IniText, OnlyTheLineOfTheKeyChanges) {
+TEST(IniText, AWriteChangesOnlyTheLineOfTheKey) {
   const std::string before = "; mine\n\n[Settings]\n  DefaultUnits = 0 \n\n# note\nMaxMainMenu=1\n[Other]\nx = 1";
 
   EXPECT_EQ(Edited(before, "Settings", "DefaultUnits", "1"),
             "; mine\n\n[Settings]\nDefaultUnits=1\r\n\n# note\nMaxMainMenu=1\n[Other]\nx = 1");
 }
 
-TEST(IniText, ANewKeyGoesBehindTheLastKeyOfItsSectionAndBeforeItsCommentsAndBlankLines) {
+TEST(IniText, ANewKeyFollowsTheLastKeyOfItsSectionBeforeCommentsAndBlankLines) {
   const std::string before = "[A]\r\na=1\r\n; about b\r\nb=2\r\n\r\n; about B\r\n[B]\r\nc=3\r\n";
 
   EXPECT_EQ(Edited(before, "A", "new", "4"),
             "[A]\r\na=1\r\n; about b\r\nb=2\r\nnew=4\r\n\r\n; about B\r\n[B]\r\nc=3\r\n");
 }
 
-TEST(IniText, ANewKeyOfASectionWithoutKeysGoesBehindItsName) {
+TEST(IniText, ANewKeyOfASectionWithoutKeysFollowsTheSectionLine) {
   EXPECT_EQ(Edited("[A]\r\n; nothing yet\r\n", "A", "a", "1"), "[A]\r\na=1\r\n; nothing yet\r\n");
 }
 
-TEST(IniText, ANewSectionGoesToTheEndBehindCommentsAndBlankLines) {
+TEST(IniText, ANewSectionIsTheLastAlsoAfterCommentsAndBlankLines) {
   EXPECT_EQ(Edited("[A]\r\na=1\r\n\r\n; end", "B", "b", "2"), "[A]\r\na=1\r\n\r\n; end\r\n[B]\r\nb=2\r\n");
 }
 
-TEST(IniText, SeveralEditsOfOneTextFollowEachOther) {
+TEST(IniText, SeveralEditsOfOneTextAllTakeEffect) {
   IniText ini("[A]\r\na=1");
 
   ini.Write("B", "b", "2");
@@ -66,7 +66,7 @@ TEST(IniText, SeveralEditsOfOneTextFollowEachOther) {
   EXPECT_EQ(ini.Find("B", "b"), "5");
 }
 
-TEST(IniText, AMovedTextReadsAndEditsOn) {
+TEST(IniText, AMovedTextCanBeReadAndEdited) {
   IniText first("[A]\r\na=1\r\n");
 
   IniText second(std::move(first));
@@ -76,7 +76,7 @@ TEST(IniText, AMovedTextReadsAndEditsOn) {
   EXPECT_EQ(second.Text(), "[A]\r\na=1\r\nb=2\r\n");
 }
 
-TEST(IniText, TheFirstOfDoubledKeysIsReadAndWritten) {
+TEST(IniText, TheFirstOfTwoEqualKeysIsReadAndWritten) {
   IniText ini("[A]\r\nk=1\r\nK=2\r\n");
 
   ini.Write("A", "k", "9");
@@ -85,7 +85,7 @@ TEST(IniText, TheFirstOfDoubledKeysIsReadAndWritten) {
   EXPECT_EQ(ini.Text(), "[A]\r\nk=9\r\nK=2\r\n");
 }
 
-TEST(IniText, KeysOfASecondSectionOfTheSameNameAreNeitherReadNorWritten) {
+TEST(IniText, ASecondSectionOfTheSameNameIsNeitherReadNorWritten) {
   IniText ini("[A]\r\na=1\r\n[B]\r\n[a]\r\nc=2\r\n");
 
   const auto before = ini.Find("A", "c");
@@ -95,7 +95,7 @@ TEST(IniText, KeysOfASecondSectionOfTheSameNameAreNeitherReadNorWritten) {
   EXPECT_EQ(ini.Text(), "[A]\r\na=1\r\nc=3\r\n[B]\r\n[a]\r\nc=2\r\n");
 }
 
-TEST(IniText, AKeyIsFoundWithABlankBehindItsNameInTheCall) {
+TEST(IniText, AKeyIsFoundByANameWithBlanksAroundIt) {
   const IniText ini("[Graph]\r\nSymbolSize=6\r\n");
 
   EXPECT_EQ(ini.Find("Graph", "SymbolSize "), "6");
@@ -107,7 +107,7 @@ TEST(IniText, ANameIsWrittenWithoutTheBlanksAroundIt) {
   EXPECT_EQ(Edited("", " Graph ", "SymbolSize ", "6"), "[Graph]\r\nSymbolSize=6\r\n");
 }
 
-TEST(IniText, ACommentIsNoKey) {
+TEST(IniText, ACommentIsNotAKey) {
   const IniText ini("[A]\r\n;a=1\r\n  ; b=2\r\n");
 
   EXPECT_EQ(ini.Find("A", "a"), std::nullopt);
@@ -115,19 +115,19 @@ TEST(IniText, ACommentIsNoKey) {
   EXPECT_EQ(ini.Find("A", "b"), std::nullopt);
 }
 
-TEST(IniText, LinesBeforeTheFirstSectionBelongToNone) {
+TEST(IniText, LinesBeforeTheFirstSectionBelongToTheEmptySection) {
   EXPECT_EQ(IniText("a=0\r\n[A]\r\nb=1\r\n").Find("A", "a"), std::nullopt);
   EXPECT_EQ(Edited("; top\r\n[A]\r\n", "", "a", "0"), "a=0\r\n; top\r\n[A]\r\n");
 }
 
-TEST(IniText, AByteOrderMarkHidesNothingAndStaysInFront) {
+TEST(IniText, AByteOrderMarkHidesNoSectionAndStaysFirst) {
   const std::string before = "\xEF\xBB\xBF[A]\r\na=1\r\n";
 
   EXPECT_EQ(IniText::FromFileBytes(before).Find("A", "a"), "1");
   EXPECT_EQ(Edited(before, "A", "a", "2"), "\xEF\xBB\xBF[A]\r\na=2\r\n");
 }
 
-TEST(IniText, WindowsBytesAreReadAndWrittenAsTheyAre) {
+TEST(IniText, AFileInWindows1252StaysInWindows1252) {
   IniText ini = IniText::FromFileBytes("[Graph]\r\nGraphTitle=Caf\xE9\r\n");
 
   const std::string title = ReadIniValue(ini, "Graph", "GraphTitle");
@@ -137,7 +137,7 @@ TEST(IniText, WindowsBytesAreReadAndWrittenAsTheyAre) {
   EXPECT_EQ(ini.FileBytes(), "[Graph]\r\nGraphTitle=Caf\xE9\r\nXAxisTitle0=Slope (\xB0)\r\n");
 }
 
-TEST(IniText, AValueBeyondTheCodePageTurnsTheFileIntoUtf8) {
+TEST(IniText, AValueOutsideWindows1252ConvertsTheFileToUtf8) {
   IniText ini = IniText::FromFileBytes("[Graph]\r\nGraphTitle=Caf\xE9\r\n");
 
   ini.Write("Graph", "XAxisTitle0", "\xCE\xA3");
@@ -146,7 +146,7 @@ TEST(IniText, AValueBeyondTheCodePageTurnsTheFileIntoUtf8) {
   EXPECT_EQ(ReadIniValue(IniText::FromFileBytes(ini.FileBytes()), "Graph", "GraphTitle"), "Caf\xC3\xA9");
 }
 
-TEST(IniText, AValueOfTheSameTextLeavesTheFileUnchanged) {
+TEST(IniText, AnEqualValueDoesNotChangeTheText) {
   IniText ini("[A]\r\n  a = 1 \r\n");
 
   ini.Write("A", "a", "1");
@@ -155,11 +155,11 @@ TEST(IniText, AValueOfTheSameTextLeavesTheFileUnchanged) {
   EXPECT_EQ(ini.Text(), "[A]\r\n  a = 1 \r\n");
 }
 
-TEST(IniText, ALineEndInAValueCannotStartAnotherLine) {
+TEST(IniText, AValueEndsAtItsFirstLineEnd) {
   EXPECT_EQ(Edited("[A]\r\na=1\r\n", "A", "a", "2\r\n[B]\r\nb=3"), "[A]\r\na=2\r\n");
 }
 
-TEST(IniValues, ATextKeeps254CharactersWhateverTheirBytes) {
+TEST(IniValues, ATextIsCutAfter254CharactersNotBytes) {
   std::string degrees;
   for (int i = 0; i < 300; ++i) degrees += "\xC2\xB0";
   const IniText ini = WithValue("\"" + degrees + "\"");
@@ -170,7 +170,7 @@ TEST(IniValues, ATextKeeps254CharactersWhateverTheirBytes) {
   EXPECT_EQ(value, degrees.substr(0, 508));
 }
 
-TEST(IniValues, TheDefaultTakesThePlaceOfAMissingAndOfAnEmptyValue) {
+TEST(IniValues, TheDefaultReplacesAMissingOrEmptyValue) {
   EXPECT_EQ(ReadIniValue(WithValue("on"), "Settings", "Key", "1"), "on");
   EXPECT_EQ(ReadIniValue(WithValue("on"), "Settings", "CopyExampleFiles", "1"), "1");
   EXPECT_EQ(ReadIniValue(WithValue("  "), "Settings", "Key", "1"), "1");
@@ -179,7 +179,7 @@ TEST(IniValues, TheDefaultTakesThePlaceOfAMissingAndOfAnEmptyValue) {
   EXPECT_EQ(ReadIniInteger(WithValue(""), "Settings", "CopyExampleFiles", IniRange{0, 1}, "1"), 1);
 }
 
-TEST(IniValues, AnUnclampedIntegerRoundsTiesToEvenAndIsZeroBeyond16Bits) {
+TEST(IniValues, AnIntegerWithoutARangeRoundsTiesToEvenAndIsZeroBeyond16Bits) {
   const auto read = [](const std::string& value) { return ReadIniInteger(WithValue(value), "Settings", "Key"); };
 
   EXPECT_EQ(read("7"), 7);
@@ -196,7 +196,7 @@ TEST(IniValues, AnUnclampedIntegerRoundsTiesToEvenAndIsZeroBeyond16Bits) {
   EXPECT_EQ(read("1E999"), 0);
 }
 
-TEST(IniValues, AClampedIntegerOutsideItsRangeFallsToTheMinimum) {
+TEST(IniValues, AnIntegerOutsideItsRangeIsTheMinimum) {
   const auto read = [](const std::string& value, IniRange range) {
     return ReadIniInteger(WithValue(value), "Settings", "Key", range);
   };
@@ -228,7 +228,7 @@ TEST(IniValues, ASingleBeyondItsRangeIsZero) {
   EXPECT_EQ(read("none"), 0);
 }
 
-TEST(IniValues, EveryTypeIsWrittenThroughItsText) {
+TEST(IniValues, AValueOfEachTypeIsWrittenAsItsText) {
   IniText ini;
 
   WriteIniValue(ini, "A", "text", "C:\\Mine");
@@ -254,8 +254,8 @@ TEST(IniText, ALongLineIsOneValue) {
   EXPECT_EQ(ini.Find("A", "b"), "1");
 }
 
-// Takes minutes as soon as a look-up or an edit walks the lines.
-TEST(IniText, ManyKeysAreReadAndWrittenOneByOne) {
+// This test takes minutes if a look-up or an edit reads all lines.
+TEST(IniText, ManyKeysAreReadAndWrittenQuickly) {
   constexpr int Count = 100'000;
   std::string bytes = "[A]\r\n";
   for (int i = 0; i < Count; ++i) bytes += "key" + std::to_string(i) + "=" + std::to_string(i) + "\r\n";
@@ -275,7 +275,7 @@ TEST(IniText, ManyKeysAreReadAndWrittenOneByOne) {
   EXPECT_NE(ini.Text().find("key99999=2\r\n[B]\r\nKEY0=1\r\nKEY1=1\r\n"), std::string::npos);
 }
 
-TEST(IniText, WhateverTheFileHoldsAWrittenValueReadsBack) {
+TEST(IniText, AWrittenValueReadsBackInAnyFile) {
   EXPECT_TRUE(rc::check([](const std::string& bytes) {
     IniText ini = IniText::FromFileBytes(bytes);
 

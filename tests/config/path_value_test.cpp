@@ -1,4 +1,4 @@
-// Recent files and folders whose names are no UTF-8, or would not be read back.
+// Recent files and folders whose names are not UTF-8 or would not read back unchanged.
 #include "config/path_value.h"
 
 #include <gmock/gmock.h>
@@ -11,7 +11,7 @@ namespace {
 
 using testing::HasSubstr;
 
-TEST(PathValue, IsTheOrdinaryPathAsItStands) {
+TEST(PathValue, IsAnOrdinaryPathUnchanged) {
   for (const char* path : {"", "/designs/north mains.ORB", "/designs/\xC3\xBC\xE2\x82\xAC.ORB", "panel.ORB",
                            "/100% coal;=[x].ORB", "/quote\"d.ORB", "C:\\Mine\\panel.ORB"}) {
     EXPECT_EQ(ValueFromPath(path), path);
@@ -19,20 +19,20 @@ TEST(PathValue, IsTheOrdinaryPathAsItStands) {
   }
 }
 
-TEST(PathValue, NamesTheBytesThatAreNoUtf8) {
+TEST(PathValue, EscapesBytesThatAreNotUtf8) {
   EXPECT_EQ(ValueFromPath("/fl\xF6z/\xC3\xBC 5%.ORB"), "file:/fl%F6z/\xC3\xBC%205%25.ORB");
   EXPECT_EQ(ValueFromPath("\xC3"), "file:%C3");
   EXPECT_EQ(ValueFromPath("\xE2\x82x"), "file:%E2%82x");
 }
 
-TEST(PathValue, KeepsWhatTheFileWouldCutOffOrTakeForItsOwn) {
+TEST(PathValue, EscapesBlanksAndQuotesAtTheEndsAndAPrefixOfItsOwn) {
   EXPECT_EQ(ValueFromPath("/panel.ORB "), "file:/panel.ORB%20");
   EXPECT_EQ(ValueFromPath("'panel'"), "file:%27panel%27");
   EXPECT_EQ(ValueFromPath("/two\nlines"), "file:/two%0Alines");
   EXPECT_EQ(ValueFromPath("file:x"), "file:file:x");
 }
 
-TEST(PathValue, GivesEveryPathBack) {
+TEST(PathValue, ReadsBackAsTheSamePath) {
   std::string every = "/";
   for (int byte = 1; byte < 256; ++byte) every.push_back(static_cast<char>(byte));
   for (const std::string& path : {every, std::string("file:"), std::string("file:%41"), std::string("%41"),
@@ -41,7 +41,7 @@ TEST(PathValue, GivesEveryPathBack) {
   }
 }
 
-TEST(PathValue, TakesAnEscapeThatIsNoneForWhatItSays) {
+TEST(PathValue, ReadsAnInvalidEscapeAsText) {
   EXPECT_EQ(PathFromValue("file:/5%"), "/5%");
   EXPECT_EQ(PathFromValue("file:/5%G1%2"), "/5%G1%2");
   EXPECT_EQ(PathFromValue("file:/5%-1x"), "/5%-1x");
@@ -59,7 +59,7 @@ struct RecentFilesOfTheConfiguration : testing::Test {
   Program program{platform.Doors()};
 };
 
-TEST_F(RecentFilesOfTheConfiguration, KeepTheirUmlautsBesideANameThatIsNoUtf8) {
+TEST_F(RecentFilesOfTheConfiguration, KeepTheirAccentsBesideANameThatIsNotUtf8) {
   Enter(0, "/designs/fl\xF6z.ORB");
   Enter(1,
         "/designs/\xC3\xBC"
@@ -78,7 +78,7 @@ TEST_F(RecentFilesOfTheConfiguration, KeepTheirUmlautsBesideANameThatIsNoUtf8) {
   EXPECT_EQ(next.session.recentFiles.Entries[2].LastFileLong, "/designs/\xE2\x82\xAC.ORB");
 }
 
-TEST_F(RecentFilesOfTheConfiguration, StayReadableInIt) {
+TEST_F(RecentFilesOfTheConfiguration, AreWrittenInAReadableForm) {
   Enter(0, "/designs/fl\xF6z.ORB");
   Enter(1, "/designs/panel.ORB");
 
@@ -89,7 +89,7 @@ TEST_F(RecentFilesOfTheConfiguration, StayReadableInIt) {
                         "LastFileLong1=file:/designs/fl%F6z.ORB\r\nLastFile2=/designs/panel.ORB\r\n"));
 }
 
-TEST_F(RecentFilesOfTheConfiguration, LeaveTheDataPathReadableThatIsNoUtf8) {
+TEST_F(RecentFilesOfTheConfiguration, ReadBackWithADataPathThatIsNotUtf8) {
   program.session.settings.DataPath = "/fl\xF6z/";
   platform.files.folders.insert("/fl\xF6z");
   platform.files.files["/fl\xF6z/"] = {};

@@ -1,4 +1,4 @@
-// What the user chose, in the configuration file.
+// The choices of the user in the configuration file.
 #include "config/settings_sections.h"
 
 #include <gmock/gmock.h>
@@ -102,7 +102,7 @@ TEST_F(SettingsSections, TheBuiltInGraphFormatIsWrittenInTableOrder) {
             "YAxisTitle0=\r\nYAxisTitle1=\r\nYAxisTitle2=\r\n");
 }
 
-TEST_F(SettingsSections, TheOptionsAreWrittenUnderTheNameThatNobodyReads) {
+TEST_F(SettingsSections, TheOptionsAreWrittenToASectionThatIsNeverRead) {
   EXPECT_EQ(Written(section::Options),
             "[TULKOptions]\r\n"
             "DefaultSteelStrength=0\r\n"
@@ -114,7 +114,7 @@ TEST_F(SettingsSections, TheOptionsAreWrittenUnderTheNameThatNobodyReads) {
             "AskOfficeInstall=1\r\n");
 }
 
-TEST_F(SettingsSections, TheSectionsStandInTheOrderOfTheirSelectors) {
+TEST_F(SettingsSections, TheSectionsAreWrittenInTheOrderOfTheirSelectors) {
   const std::string text = Written(section::All);
 
   std::vector<std::string> names;
@@ -133,7 +133,7 @@ TEST_F(SettingsSections, AnUnknownSelectorReadsAndWritesNothing) {
   EXPECT_EQ(Written(StoredSettings{7}), "");
 }
 
-TEST_F(SettingsSections, EverySettingIsReadIntoItsOwnPlace) {
+TEST_F(SettingsSections, EverySettingIsReadIntoItsOwnMember) {
   platform.files.folders.insert("/designs");
 
   ReadKeys(
@@ -163,7 +163,7 @@ TEST_F(SettingsSections, EverySettingIsReadIntoItsOwnPlace) {
   EXPECT_EQ(settings.FileExtension, "DAT");
 }
 
-TEST_F(SettingsSections, MissingFlagsAreOffButForTheCopyOfExamples) {
+TEST_F(SettingsSections, MissingFlagsAreOffExceptTheCopyOfExamples) {
   ReadKeys("");
 
   EXPECT_EQ(settings.CopyExampleFiles, 1);
@@ -188,14 +188,14 @@ TEST_F(SettingsSections, AFlagOutsideItsRangeIsOff) {
   EXPECT_EQ(settings.CopyExampleFiles, 0);
 }
 
-TEST_F(SettingsSections, AFontFlagIsOnBelowZero) {
+TEST_F(SettingsSections, AFontFlagIsMinusOneWhenItIsNotZero) {
   ReadKeys("DisplayFontBold=-1\r\nDisplayFontItalic=1\r\n");
 
   EXPECT_EQ(settings.DisplayFontBold, -1);
   EXPECT_EQ(settings.DisplayFontItalic, -1) << "outside the range, so its minimum";
 }
 
-TEST_F(SettingsSections, TheLengthOfTheHistoryFallsToItsMinimum) {
+TEST_F(SettingsSections, ALengthOfTheHistoryOutsideItsRangeIsTheMinimum) {
   ReadKeys("MaxDisplaySize=2048\r\n");
   EXPECT_EQ(settings.MaxDisplaySize, 4096) << "what a new file receives lies outside the range";
 
@@ -206,7 +206,7 @@ TEST_F(SettingsSections, TheLengthOfTheHistoryFallsToItsMinimum) {
   EXPECT_EQ(settings.MaxDisplaySize, 4096);
 }
 
-TEST_F(SettingsSections, FontSizesAreWhole) {
+TEST_F(SettingsSections, FontSizesAreRoundedToWholeNumbers) {
   ReadKeys("DisplayFontSize=10.5\r\n");
   EXPECT_EQ(settings.DisplayFontSize, 10);
 
@@ -225,7 +225,7 @@ TEST_F(SettingsSections, AFontSizeOutsideItsRangeIsTheSmallest) {
   EXPECT_EQ(settings.DisplayFontSize, 7);
 }
 
-TEST_F(SettingsSections, FontSizesAreTakenFrom7To24) {
+TEST_F(SettingsSections, FontSizesFrom7To24AreAccepted) {
   for (const auto& [typed, taken] : {std::pair{"6", 7}, {"7", 7}, {"8", 8}, {"24", 24}, {"25", 7}}) {
     ReadKeys(std::string("DisplayFontSize=") + typed + "\r\n");
 
@@ -233,7 +233,7 @@ TEST_F(SettingsSections, FontSizesAreTakenFrom7To24) {
   }
 }
 
-TEST_F(SettingsSections, AFontWithoutANameIsOneThatTheMachineHas) {
+TEST_F(SettingsSections, AnEmptyFontNameBecomesAnInstalledFont) {
   settings.DisplayFontName = "Terminal";
   textBrowse.BrowseFontName = "Terminal";
 
@@ -244,7 +244,7 @@ TEST_F(SettingsSections, AFontWithoutANameIsOneThatTheMachineHas) {
   EXPECT_EQ(textBrowse.BrowseFontName, "Arial");
 }
 
-TEST_F(SettingsSections, TheExtensionZeroIsTheBuiltInOne) {
+TEST_F(SettingsSections, TheExtensionZeroMeansTheBuiltInExtension) {
   ReadKeys("FileExtension=0\r\n");
 
   EXPECT_EQ(settings.FileExtension, "ORB");
@@ -266,7 +266,7 @@ TEST_F(SettingsSections, ADataPathThatWasNeverSetIsTheProgramDataFolder) {
   }
 }
 
-TEST_F(SettingsSections, ADataPathIsTrimmedAndEndsInASeparator) {
+TEST_F(SettingsSections, ADataPathIsTrimmedAndGetsATrailingSeparator) {
   platform.files.folders.insert({"/designs/north mains", "/panels"});
 
   ReadKeys("DataPath= \" /designs/north mains \" \r\n");
@@ -276,14 +276,14 @@ TEST_F(SettingsSections, ADataPathIsTrimmedAndEndsInASeparator) {
   EXPECT_EQ(settings.DataPath, "/panels/");
 }
 
-TEST_F(SettingsSections, ADataPathThatIsNotThereFallsBackQuietly) {
+TEST_F(SettingsSections, AMissingDataPathBecomesTheProgramDataFolderWithoutAMessage) {
   ReadKeys("DataPath=/gone\r\n");
 
   EXPECT_EQ(settings.DataPath, "/data/");
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(SettingsSections, ADataPathThatIsNoPathOrMayNotBeEnteredFallsBackQuietly) {
+TEST_F(SettingsSections, AnUnusableDataPathBecomesTheProgramDataFolderWithoutAMessage) {
   for (const int error : {error_number::BadFileName, error_number::PathFileAccess}) {
     platform.files.Fail(MemoryFiles::Step::Find, error);
     settings.DataPath = "/elsewhere/";
@@ -295,13 +295,13 @@ TEST_F(SettingsSections, ADataPathThatIsNoPathOrMayNotBeEnteredFallsBackQuietly)
   }
 }
 
-TEST_F(SettingsSections, TextsAreCutWhereTheReadersBufferEnds) {
+TEST_F(SettingsSections, TextsAreCutAfter254Characters) {
   ReadKeys("ExternalEditor=" + std::string(300, 'e') + "\r\n");
 
   EXPECT_EQ(settings.ExternalEditor, std::string(254, 'e'));
 }
 
-TEST_F(SettingsSections, TheRecentFilesComeBack) {
+TEST_F(SettingsSections, TheRecentFilesReadBack) {
   recent.MaxLastFiles = 2;
   recent.Entries[0] = {"Belt entry.ORB", 1, "/designs/Belt entry.ORB"};
   recent.Entries[1] = {"weak-roof.ORB", 0, "/designs/weak-roof.ORB"};
@@ -327,7 +327,7 @@ TEST_F(SettingsSections, TheRecentFilesComeBack) {
   EXPECT_EQ(recent.Entries[2].LastFileLong, "");
 }
 
-TEST_F(SettingsSections, FourRecentFilesAreWrittenAndComeBack) {
+TEST_F(SettingsSections, FourRecentFilesAreWrittenAndReadBack) {
   recent.MaxLastFiles = 4;
   recent.Entries[0] = {"a.ORB", 1, "/designs/a.ORB"};
   recent.Entries[3] = {"d.ORB", 2, "/designs/d.ORB"};
@@ -342,14 +342,14 @@ TEST_F(SettingsSections, FourRecentFilesAreWrittenAndComeBack) {
   EXPECT_EQ(recent.Entries[3].LastFile, "d.ORB");
 }
 
-TEST_F(SettingsSections, TooManyRecentFilesAreNone) {
+TEST_F(SettingsSections, ATooLargeCountOfRecentFilesReadsAsNone) {
   Read(section::FileMenu, "[FileMenu]\r\nMaxLastFiles=9\r\nLastFile1=a.ORB\r\nLastFileLong1=/designs/a.ORB\r\n");
 
   EXPECT_EQ(recent.MaxLastFiles, 0);
   EXPECT_EQ(recent.Entries[0].LastFile, "");
 }
 
-TEST_F(SettingsSections, TheModeOfARecentFileMayBeAnyInteger) {
+TEST_F(SettingsSections, TheModeOfARecentFileIsAnyIntegerOf16Bits) {
   Read(section::FileMenu,
        "[FileMenu]\r\nMaxLastFiles=2\r\nLastFileMode1=-300\r\nLastFileMode2=99999\r\nLastFile2=b.ORB\r\n");
 
@@ -372,14 +372,14 @@ TEST_F(SettingsSections, RecentFilesBeyondTheCountStayInTheFileAndAreIgnored) {
   EXPECT_EQ(recent.Entries[1].LastFile, "");
 }
 
-TEST_F(SettingsSections, ACountBeyondTheListIsWrittenAsItIsAndItsEntriesAreNot) {
+TEST_F(SettingsSections, ATooLargeCountOfRecentFilesIsWrittenWithoutEntries) {
   recent.MaxLastFiles = 5;
   recent.Entries[0].LastFile = "a.ORB";
 
   EXPECT_EQ(Written(section::FileMenu), "[FileMenu]\r\nMaxLastFiles=5\r\n");
 }
 
-TEST_F(SettingsSections, EveryBrowserSettingIsReadIntoItsOwnPlace) {
+TEST_F(SettingsSections, EveryBrowserSettingIsReadIntoItsOwnMember) {
   Read(section::TextBrowse,
        "[TextBrowse]\r\nBrowseFontName=Courier New\r\nBrowseFontSize=12\r\nBrowseFontBold=-1\r\n"
        "BrowseFontItalic=0\r\nBrowseDefaultFilter=*.TXT\r\nBrowseUseNotepad=1\r\n");
@@ -392,7 +392,7 @@ TEST_F(SettingsSections, EveryBrowserSettingIsReadIntoItsOwnPlace) {
   EXPECT_EQ(textBrowse.BrowseUseNotepad, 1);
 }
 
-TEST_F(SettingsSections, TheGraphFormatComesBack) {
+TEST_F(SettingsSections, TheGraphFormatReadsBack) {
   graph = {1, 2, 1, 0, 12, Metric, "Suggested support", {}, {}};
   graph.XAxisTitle[0] = "CMRR";
   graph.XAxisTitle[9] = "Roof Fall Angle (deg)";
@@ -416,7 +416,7 @@ TEST_F(SettingsSections, TheGraphFormatComesBack) {
   EXPECT_EQ(graph.YAxisTitle[2], "Rock Load Intersections (tons)");
 }
 
-TEST_F(SettingsSections, TheSymbolSizeIsFoundThoughItIsAskedForWithABlank) {
+TEST_F(SettingsSections, TheSymbolSizeIsReadWithAndWithoutBlanksAroundItsKey) {
   Read(section::Graph, "[Graph]\r\nSymbolSize=14\r\n");
   EXPECT_EQ(graph.SymbolSize, 14);
 
@@ -426,7 +426,7 @@ TEST_F(SettingsSections, TheSymbolSizeIsFoundThoughItIsAskedForWithABlank) {
   EXPECT_THAT(Written(section::Graph), HasSubstr("\r\nSymbolSize=15\r\n"));
 }
 
-TEST_F(SettingsSections, AGraphKeyOutsideItsRangeFallsToItsMinimum) {
+TEST_F(SettingsSections, AGraphKeyOutsideItsRangeIsTheMinimum) {
   Read(section::Graph, "[Graph]\r\nGraphStyle=0\r\nGridStyle=4\r\nSymbolSize=21\r\nCurveLegend=5\r\n");
 
   EXPECT_EQ(graph.GraphStyle, 1);
@@ -435,7 +435,7 @@ TEST_F(SettingsSections, AGraphKeyOutsideItsRangeFallsToItsMinimum) {
   EXPECT_EQ(graph.CurveLegend, 0);
 }
 
-TEST_F(SettingsSections, TheOptionsNeverSurviveARestart) {
+TEST_F(SettingsSections, TheOptionsDoNotSurviveARestart) {
   options = {StrengthBasis::Ultimate, 1, 1, 0, 0, 0, 0};
   const std::string text = Written(section::Options);
 
@@ -451,7 +451,7 @@ TEST_F(SettingsSections, TheOptionsNeverSurviveARestart) {
   EXPECT_EQ(options.AskOfficeInstall, 1);
 }
 
-TEST_F(SettingsSections, OptionsAreReadFromASectionThatOnlyTheUserCanWrite) {
+TEST_F(SettingsSections, OptionsAreReadFromASectionThatTheProgramNeverWrites) {
   Read(section::Options, "[PENVOptions]\r\nDefaultSteelStrength=1\r\nAskOfficeInstall=0\r\nViewChildWindow=7\r\n");
 
   EXPECT_EQ(options.BoltGradeAsUltimateDefault, StrengthBasis::Ultimate);
@@ -472,7 +472,7 @@ TEST_F(SettingsSections, AllSectionsAreReadTogether) {
   EXPECT_EQ(options.OutputStrUnits, 1);
 }
 
-TEST_F(SettingsSections, WritingOneSectionLeavesTheOthersInTheFile) {
+TEST_F(SettingsSections, WritingOneSectionKeepsTheOthersInTheFile) {
   FileBytes() = "[Version]\r\nINIFileVersion=201030\r\n[Settings]\r\nDefaultUnits=1\r\n";
   recent.MaxLastFiles = 1;
   recent.Entries[0] = {"a.ORB", 1, "/designs/a.ORB"};
@@ -484,13 +484,13 @@ TEST_F(SettingsSections, WritingOneSectionLeavesTheOthersInTheFile) {
             "[FileMenu]\r\nMaxLastFiles=1\r\nLastFile1=a.ORB\r\nLastFileMode1=1\r\nLastFileLong1=/designs/a.ORB\r\n");
 }
 
-TEST_F(SettingsSections, TheHistoryTellsOfEachWriting) {
+TEST_F(SettingsSections, EachWriteAddsALineToTheHistory) {
   WriteDefaults(program, section::Graph);
 
   EXPECT_EQ(program.session.history.Text, "1. Saving default settings to file: /data/ORBY.INI\r\n");
 }
 
-TEST_F(SettingsSections, TheHistoryTellsOfAWritingThatFails) {
+TEST_F(SettingsSections, AFailedWriteAddsALineToTheHistoryToo) {
   platform.files.Fail(MemoryFiles::Step::Create, error_number::PermissionDenied);
 
   WriteDefaults(program, section::All);
@@ -500,7 +500,7 @@ TEST_F(SettingsSections, TheHistoryTellsOfAWritingThatFails) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(SettingsSections, TheVersionOfAFileIsReadBack) {
+TEST_F(SettingsSections, TheVersionOfAFileReadsBack) {
   IniText ini;
   WriteIniVersion(ini);
   FileBytes() = ini.FileBytes();
@@ -509,13 +509,13 @@ TEST_F(SettingsSections, TheVersionOfAFileIsReadBack) {
   EXPECT_EQ(IniVersion(ReadIniFile(program, program.session.IniFilePath)), "201030");
 }
 
-TEST_F(SettingsSections, AFileWithoutAVersionTellsNone) {
+TEST_F(SettingsSections, AFileWithoutAVersionHasAnEmptyVersion) {
   FileBytes() = "[Settings]\r\nDefaultUnits=1\r\n";
 
   EXPECT_EQ(IniVersion(ReadIniFile(program, program.session.IniFilePath)), "");
 }
 
-TEST_F(SettingsSections, ANewFileHoldsItsVersionFirstAndEverySectionThatAStartReads) {
+TEST_F(SettingsSections, ANewFileHasItsVersionFirstAndEverySectionThatAStartReads) {
   WriteNewIniFile(program, NewIniText(program.session));
 
   std::vector<std::string> names;

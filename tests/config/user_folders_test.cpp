@@ -1,4 +1,4 @@
-// The folders under the user's documents, and the examples that are copied there.
+// The folders below the user's documents, and the examples that are copied there.
 #include "config/user_folders.h"
 
 #include <gmock/gmock.h>
@@ -28,7 +28,7 @@ struct UserFolder : testing::Test {
   }
 };
 
-TEST_F(UserFolder, LiesUnderTheDocuments) {
+TEST_F(UserFolder, IsBelowTheDocuments) {
   FindUserFolders(program);
 
   EXPECT_EQ(folders.Group, "/home/user/Documents/MyStrataDesk/");
@@ -47,7 +47,7 @@ TEST_F(UserFolder, IsMadeWhenItIsMissing) {
                           "/home/user/Documents/MyStrataDesk/ORBY/Temp", "/home/user/Documents/MyStrataDesk/Temp"));
 }
 
-TEST_F(UserFolder, OfDocumentsThatEndInASeparatorGetsNoSecondOne) {
+TEST_F(UserFolder, HasNoSecondSeparatorWhenTheDocumentsHaveATrailingOne) {
   platform.userFolders.documents = "/mnt/share/";
 
   FindUserFolders(program);
@@ -55,7 +55,7 @@ TEST_F(UserFolder, OfDocumentsThatEndInASeparatorGetsNoSecondOne) {
   EXPECT_EQ(folders.ProgramData, "/mnt/share/MyStrataDesk/ORBY/");
 }
 
-TEST_F(UserFolder, IsTheProgramsFolderWithoutDocuments) {
+TEST_F(UserFolder, IsTheProgramFolderWhenTheDocumentsAreUnknown) {
   platform.userFolders.documents.reset();
 
   FindUserFolders(program);
@@ -63,7 +63,7 @@ TEST_F(UserFolder, IsTheProgramsFolderWithoutDocuments) {
   ExpectAllInTheProgramsFolder();
 }
 
-TEST_F(UserFolder, IsTheProgramsFolderWithoutADesktopToo) {
+TEST_F(UserFolder, IsTheProgramFolderWhenTheDesktopIsUnknown) {
   platform.userFolders.desktop.reset();
 
   FindUserFolders(program);
@@ -72,7 +72,7 @@ TEST_F(UserFolder, IsTheProgramsFolderWithoutADesktopToo) {
   EXPECT_THAT(files.folders, ElementsAre("/program", "/tmp")) << "nothing is made";
 }
 
-TEST_F(UserFolder, IsTheProgramsFolderWhereNothingCanBeMade) {
+TEST_F(UserFolder, IsTheProgramFolderWhenItCannotBeMade) {
   files.Fail(Step::MakeFolder, error_number::PermissionDenied);
 
   FindUserFolders(program);
@@ -81,7 +81,7 @@ TEST_F(UserFolder, IsTheProgramsFolderWhereNothingCanBeMade) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(UserFolder, ThatIsThereServesThoughNothingCanBeMade) {
+TEST_F(UserFolder, ThatExistsIsUsedWhenOthersCannotBeMade) {
   files.folders.insert({"/home/user/Documents/MyStrataDesk", "/home/user/Documents/MyStrataDesk/ORBY"});
   files.Fail(Step::MakeFolder, error_number::PathFileAccess);
 
@@ -93,7 +93,7 @@ TEST_F(UserFolder, ThatIsThereServesThoughNothingCanBeMade) {
   EXPECT_EQ(folders.ProgramTemporary, "/program/");
 }
 
-TEST_F(UserFolder, ForTemporaryFilesLiesInTheDataFolderThatWasHad) {
+TEST_F(UserFolder, ForTemporaryFilesIsBelowTheDataFolderThatIsUsed) {
   files.Fail(Step::MakeFolder, error_number::PermissionDenied);
   files.folders.insert("/program/Temp");
 
@@ -103,7 +103,7 @@ TEST_F(UserFolder, ForTemporaryFilesLiesInTheDataFolderThatWasHad) {
   EXPECT_EQ(folders.ProgramTemporary, "/program/Temp/");
 }
 
-TEST_F(UserFolder, ThatCannotBeLookedForIsTheProgramsFolder) {
+TEST_F(UserFolder, IsTheProgramFolderWhenTheSearchFails) {
   files.Fail(Step::Find, error_number::PermissionDenied);
 
   FindUserFolders(program);
@@ -131,7 +131,7 @@ TEST_F(Examples, AreCopiedByteForByte) {
   EXPECT_EQ(files.files.size(), 4U);
 }
 
-TEST_F(Examples, ThatTheUserChangedStay) {
+TEST_F(Examples, ThatTheUserHasChangedAreNotReplaced) {
   files.files["/data/belt-entry.ORB"] = "mine";
 
   CopyExamples(program);
@@ -140,7 +140,7 @@ TEST_F(Examples, ThatTheUserChangedStay) {
   EXPECT_TRUE(files.files.contains("/data/weak-roof.ORB"));
 }
 
-TEST_F(Examples, LeaveAFolderOfTheirNameAlone) {
+TEST_F(Examples, DoNotReplaceAFolderOfTheirName) {
   files.folders.insert("/data/belt-entry.ORB");
 
   CopyExamples(program);
@@ -149,7 +149,7 @@ TEST_F(Examples, LeaveAFolderOfTheirNameAlone) {
   EXPECT_TRUE(files.files.contains("/data/weak-roof.ORB"));
 }
 
-TEST_F(Examples, StayWhereTheyAreWhenTheSettingIsOff) {
+TEST_F(Examples, AreNotCopiedWhenTheSettingIsOff) {
   program.session.settings.CopyExampleFiles = 0;
 
   CopyExamples(program);
@@ -157,7 +157,7 @@ TEST_F(Examples, StayWhereTheyAreWhenTheSettingIsOff) {
   EXPECT_EQ(files.files.size(), 2U);
 }
 
-TEST_F(Examples, BelowTheirFolderAreNotCopied) {
+TEST_F(Examples, InAFolderBelowTheirOwnAreNotCopied) {
   files.files["/program/examples/old/old.ORB"] = "ORBY_104\r\n";
 
   CopyExamples(program);
@@ -166,7 +166,7 @@ TEST_F(Examples, BelowTheirFolderAreNotCopied) {
   EXPECT_FALSE(files.files.contains("/data/old.ORB"));
 }
 
-TEST_F(Examples, ThatCannotBeReadAreLeftOut) {
+TEST_F(Examples, ThatCannotBeReadAreSkipped) {
   files.Fail(Step::Read, error_number::PermissionDenied);
 
   CopyExamples(program);
@@ -175,7 +175,7 @@ TEST_F(Examples, ThatCannotBeReadAreLeftOut) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(Examples, LeaveNoHalfFileOnAFullDisk) {
+TEST_F(Examples, LeaveNoPartialFileOnAFullDisk) {
   files.Fail(Step::Write, error_number::DiskFull, 1);
 
   CopyExamples(program);
@@ -184,7 +184,7 @@ TEST_F(Examples, LeaveNoHalfFileOnAFullDisk) {
   EXPECT_EQ(files.files["/data/belt-entry.ORB"], "ORBY_105\r\n");
 }
 
-TEST_F(Examples, OfAProgramWithoutAnyAreNoError) {
+TEST_F(Examples, ThatAreMissingAreNotAnError) {
   files.files.clear();
 
   CopyExamples(program);
@@ -199,13 +199,13 @@ struct WorkingFolder : testing::Test {
   WorkingFolder() { program.session.folders.ProgramData = "/home/user/Documents/MyStrataDesk/ORBY/"; }
 };
 
-TEST_F(WorkingFolder, IsTheProgramsOwn) {
+TEST_F(WorkingFolder, IsTheProgramFolder) {
   EnterWorkingFolder(program);
 
   EXPECT_EQ(platform.files.workingFolder, "/program/");
 }
 
-TEST_F(WorkingFolder, IsTheDataFolderWhenTheProgramsCannotBeWritten) {
+TEST_F(WorkingFolder, IsTheDataFolderWhenTheProgramFolderIsNotWritable) {
   platform.files.readOnly.insert("/program");
 
   EnterWorkingFolder(program);
@@ -213,7 +213,7 @@ TEST_F(WorkingFolder, IsTheDataFolderWhenTheProgramsCannotBeWritten) {
   EXPECT_EQ(platform.files.workingFolder, "/home/user/Documents/MyStrataDesk/ORBY/");
 }
 
-TEST_F(WorkingFolder, StaysWhenNoneCanBeEntered) {
+TEST_F(WorkingFolder, StaysTheSameWhenNoneCanBeEntered) {
   platform.files.Fail(Step::EnterFolder, error_number::PathNotFound);
 
   EnterWorkingFolder(program);
