@@ -277,6 +277,7 @@ class Run:
         """Accepts the disclaimer if the program begins with it."""
         first = until(lambda: self.find("Disclaimer") or self.find_main(), "the first window")
         if first.node.name == "Disclaimer":
+            first.wait_active()
             first.press("Command1")
             first.wait_gone()
 
@@ -293,6 +294,7 @@ class Run:
             return None
 
         node = until(find, "a message box")
+        Window(node).wait_active()
         parts = list(node.walk())
         (text,) = [part.name for part in parts if part.role == atspi.LABEL and part.name]
         return node, text, {part.name: part for part in parts if part.role == atspi.PUSH_BUTTON}
