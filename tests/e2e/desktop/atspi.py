@@ -14,7 +14,7 @@ TEXT = "org.a11y.atspi.Text"
 PROPERTIES = "org.freedesktop.DBus.Properties"
 
 ROOT = "/org/a11y/atspi/accessible/root"
-CALL_TIMEOUT = 5000  # milliseconds
+CALL_TIMEOUT = 60000  # milliseconds; a program on a loaded machine may be busy for long
 
 # Bits of the state.
 ACTIVE = 1
