@@ -39,6 +39,8 @@ struct NumberPattern {
   }
 };
 
+inline constexpr NumberPattern OneDecimal{"0.0"};
+
 // Rounds the general text of the value to the decimals of the pattern, half away from zero. Never returns an exponent.
 // A negative value that rounds to zero keeps its minus sign.
 std::string FormatNumber(Single value, NumberPattern pattern);

@@ -28,8 +28,8 @@ std::string SizeText(std::uint64_t bytes) {
   constexpr double Kilobyte = 1024;
   const auto size = static_cast<double>(bytes);
   if (size < Kilobyte) return NumberText(size) + " bytes";
-  if (size < Kilobyte * Kilobyte) return FormatNumber(size / Kilobyte, "0.0") + " KB";
-  return FormatNumber(size / Kilobyte / Kilobyte, "0.0") + " MB";
+  if (size < Kilobyte * Kilobyte) return FormatNumber(size / Kilobyte, OneDecimal) + " KB";
+  return FormatNumber(size / Kilobyte / Kilobyte, OneDecimal) + " MB";
 }
 
 std::string Named(const Backup& entry) {
@@ -37,8 +37,8 @@ std::string Named(const Backup& entry) {
 }
 
 // Returns the figure with one decimal, or "--" if there is none or it cannot be computed.
-std::string OneDecimal(std::optional<Single> figure) {
-  return figure ? FormatNumber(*figure, "0.0") : std::string(NoResult);
+std::string FigureText(std::optional<Single> figure) {
+  return figure ? FormatNumber(*figure, OneDecimal) : std::string(NoResult);
 }
 
 // Returns the title as the user typed it. Opening a file shifts the title and description lines.
@@ -120,8 +120,8 @@ void BackupsWindow::ShowProject(const UnsavedProject& project) {
   txtDepthofCover.SetText(NumberText(design.Place.DepthofCover) + length);
   txtEntryWidth.SetText(NumberText(design.Place.EntryWidth) + length);
   const std::optional<SuggestedFigures> suggested = LiveSuggestion(design).ValueOr({});
-  txtSugPSUP.SetText(OneDecimal(suggested ? std::optional(suggested->SugPSUP) : std::nullopt));
-  txtActualPSUP.SetText(OneDecimal(LivePSUP(design, program_.session.catalogs).ValueOr({})));
+  txtSugPSUP.SetText(FigureText(suggested ? std::optional(suggested->SugPSUP) : std::nullopt));
+  txtActualPSUP.SetText(FigureText(LivePSUP(design, program_.session.catalogs).ValueOr({})));
 }
 
 void BackupsWindow::ClearProject() {

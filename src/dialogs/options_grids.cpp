@@ -15,8 +15,8 @@ namespace orby {
 namespace {
 
 // The columns of the grids after the row number.
-enum CableColumn : int { CableDiameter, CableCapacity };
-enum SupportColumn : int { SupportName, SupportCapacity };
+enum CableColumn : int { CableDiameterColumn, CableCapacityColumn };
+enum SupportColumn : int { SupportNameColumn, SupportCapacityColumn };
 
 struct CableCatalog {
   OverlayEditing::Texts Headers;
@@ -77,7 +77,7 @@ bool OptionsDialog::CheckCell(OverlayEditing& grid, int entry, int column, const
 bool OptionsDialog::CheckCells() {
   for (std::size_t units = 0; units < cables_.size(); ++units) {
     for (int entry = 0; entry < cables_[units].Entries(); ++entry) {
-      for (const int column : {CableDiameter, CableCapacity}) {
+      for (const int column : {CableDiameterColumn, CableCapacityColumn}) {
         if (CheckCell(cables_[units], entry, column, fraCables[units])) continue;
         SSTab1.SetTab(FirstParameterTab + static_cast<int>(units));
         return false;
@@ -85,7 +85,7 @@ bool OptionsDialog::CheckCells() {
     }
   }
   for (int entry = 0; entry < stands_.Entries(); ++entry) {
-    if (CheckCell(stands_, entry, SupportCapacity, fraStand)) continue;
+    if (CheckCell(stands_, entry, SupportCapacityColumn, fraStand)) continue;
     SSTab1.SetTab(StandingSupportTab);
     return false;
   }
@@ -135,9 +135,9 @@ void OptionsDialog::StoreCables(Catalogs& catalogs) const {
     const CableCatalog& catalog = CableCatalogOf(units);
     for (int entry = 0; entry < grid.Entries(); ++entry) {
       const auto index = static_cast<std::size_t>(entry);
-      (catalogs.*catalog.Diameters).Set(index, NumberAt(grid, entry, CableDiameter));
-      (catalogs.*catalog.Capacities).Set(index, NumberAt(grid, entry, CableCapacity));
-      (catalogs.*catalog.Strengths).Set(index, NumberAt(grid, entry, CableCapacity));
+      (catalogs.*catalog.Diameters).Set(index, NumberAt(grid, entry, CableDiameterColumn));
+      (catalogs.*catalog.Capacities).Set(index, NumberAt(grid, entry, CableCapacityColumn));
+      (catalogs.*catalog.Strengths).Set(index, NumberAt(grid, entry, CableCapacityColumn));
     }
   }
 }
@@ -192,9 +192,9 @@ void OptionsDialog::StoreStands(Catalogs& catalogs) const {
   for (int entry = 0; entry < stands_.Entries(); ++entry) {
     const auto index = static_cast<std::size_t>(entry);
     const auto& before = standCapacities_[index];
-    const Single capacity = NumberAt(stands_, entry, SupportCapacity);
+    const Single capacity = NumberAt(stands_, entry, SupportCapacityColumn);
     const bool isKept = NumberText(capacity) == NumberText(before[PlaceOf(units)]);
-    supports.DefaultStandSupportType[index] = stands_.Text(entry, SupportName);
+    supports.DefaultStandSupportType[index] = stands_.Text(entry, SupportNameColumn);
     supports.DefaultStandSupportCap[index] = isKept ? before : BothCapacities(capacity, units);
   }
 }

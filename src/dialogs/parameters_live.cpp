@@ -7,8 +7,6 @@
 namespace orby {
 namespace {
 
-constexpr NumberPattern OneDecimal{"0.0"};
-
 void Show(TextBox& output, std::string_view text) { output.SetText(std::string(text)); }
 
 void Clear(OutputControls& outputs) {

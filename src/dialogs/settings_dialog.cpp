@@ -36,15 +36,15 @@ constexpr std::array FlagFields{
     FlagField{&SettingsDialog::chkDispHist, &Settings::DisplayHistoryWin},
 };
 
-struct TextField {
+struct BoundText {
   TextBox SettingsDialog::*box;
   std::string Settings::*text;
 };
 
-constexpr std::array TextFields{
-    TextField{&SettingsDialog::Text1, &Settings::FileExtension},
-    TextField{&SettingsDialog::Text2, &Settings::DataPath},
-    TextField{&SettingsDialog::Text4, &Settings::ExternalEditor},
+constexpr std::array BoundTexts{
+    BoundText{&SettingsDialog::Text1, &Settings::FileExtension},
+    BoundText{&SettingsDialog::Text2, &Settings::DataPath},
+    BoundText{&SettingsDialog::Text4, &Settings::ExternalEditor},
 };
 
 bool IsLetterOrDigit(char c) { return (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9'); }
@@ -108,7 +108,7 @@ void SettingsDialog::FillFields() {
   const Settings& settings = program_.session.settings;
   SetArrayIndex(program_, optUnits, NumberOf(settings.UnitsDefault));
   for (const auto& [box, flag] : FlagFields) (this->*box).SetValue(settings.*flag);
-  for (const auto& [box, text] : TextFields) (this->*box).SetText(settings.*text);
+  for (const auto& [box, text] : BoundTexts) (this->*box).SetText(settings.*text);
   Text3.SetText(NumberText(settings.MaxDisplaySize));
   historyFont_ = {settings.DisplayFontName, static_cast<int>(settings.DisplayFontSize), settings.DisplayFontBold != 0,
                   settings.DisplayFontItalic != 0};
@@ -167,7 +167,7 @@ Settings SettingsDialog::Edited() const {
   Settings edited = program_.session.settings;
   edited.UnitsDefault = Chosen<UnitSystem>(optUnits);
   for (const auto& [box, flag] : FlagFields) edited.*flag = (this->*box).Value();
-  for (const auto& [box, text] : TextFields) edited.*text = (this->*box).Text();
+  for (const auto& [box, text] : BoundTexts) edited.*text = (this->*box).Text();
   edited.MaxDisplaySize = ToInteger(Text3.Value());
   edited.DisplayFontName = historyFont_.name;
   edited.DisplayFontSize = static_cast<Single>(historyFont_.size);

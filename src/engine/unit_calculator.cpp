@@ -21,19 +21,22 @@ struct UnitRow {
 // The first unit of a group is reached from nothing.
 constexpr UnitRow First{0, Step::Multiply, 1};
 
-constexpr std::array Length{First, UnitRow{0, Step::Divide, 12}, UnitRow{0, Step::Multiply, 2.54},
-                            UnitRow{2, Step::Divide, 100}};
-constexpr std::array Load{First, UnitRow{0, Step::Divide, 2000}, UnitRow{0, Step::Multiply, 0.004448220489393218},
-                          UnitRow{2, Step::Divide, 1000}, UnitRow{0, Step::Divide, 1000}};
-constexpr std::array LoadGradient{First, UnitRow{0, Step::Divide, 0.08333333333333333},
-                                  UnitRow{1, Step::Multiply, 0.014593899243416069}, UnitRow{2, Step::Divide, 1000}};
-constexpr std::array Stress{First, UnitRow{0, Step::Divide, 1000}, UnitRow{0, Step::Divide, 0.006944444444444444},
-                            UnitRow{0, Step::Multiply, 6894.757293}, UnitRow{3, Step::Divide, 1000000}};
-constexpr std::array StressGradient{First, UnitRow{0, Step::Divide, 0.08333333333333333},
-                                    UnitRow{0, Step::Multiply, 271447.137519685}, UnitRow{2, Step::Divide, 1000000}};
+constexpr std::array LengthUnits{First, UnitRow{0, Step::Divide, 12}, UnitRow{0, Step::Multiply, 2.54},
+                                 UnitRow{2, Step::Divide, 100}};
+constexpr std::array LoadUnits{First, UnitRow{0, Step::Divide, 2000}, UnitRow{0, Step::Multiply, 0.004448220489393218},
+                               UnitRow{2, Step::Divide, 1000}, UnitRow{0, Step::Divide, 1000}};
+constexpr std::array LoadGradientUnits{First, UnitRow{0, Step::Divide, 0.08333333333333333},
+                                       UnitRow{1, Step::Multiply, 0.014593899243416069},
+                                       UnitRow{2, Step::Divide, 1000}};
+constexpr std::array StressUnits{First, UnitRow{0, Step::Divide, 1000}, UnitRow{0, Step::Divide, 0.006944444444444444},
+                                 UnitRow{0, Step::Multiply, 6894.757293}, UnitRow{3, Step::Divide, 1000000}};
+constexpr std::array StressGradientUnits{First, UnitRow{0, Step::Divide, 0.08333333333333333},
+                                         UnitRow{0, Step::Multiply, 271447.137519685},
+                                         UnitRow{2, Step::Divide, 1000000}};
 
 // By UnitGroup.
-constexpr std::array<std::span<const UnitRow>, 5> Groups{Length, Load, LoadGradient, Stress, StressGradient};
+constexpr std::array<std::span<const UnitRow>, 5> Groups{LengthUnits, LoadUnits, LoadGradientUnits, StressUnits,
+                                                         StressGradientUnits};
 
 using Result = std::optional<double>;
 

@@ -14,7 +14,7 @@
 namespace orby {
 namespace {
 
-constexpr qint64 Piece = 1 << 20;
+constexpr qint64 CopyPiece = 1 << 20;
 constexpr auto OwnerFolder = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
 const char* const FolderName = "setup-";
 
@@ -37,7 +37,7 @@ void CopyBytes(QFile& source, QFile& copy) {
   if (!source.open(QIODevice::ReadOnly)) Fail(source);
   if (!copy.open(QIODevice::WriteOnly | QIODevice::NewOnly)) Fail(copy);
   while (!source.atEnd()) {
-    const QByteArray bytes = source.read(Piece);
+    const QByteArray bytes = source.read(CopyPiece);
     if (bytes.isEmpty()) break;
     if (copy.write(bytes) != bytes.size()) Fail(copy);
   }

@@ -16,7 +16,7 @@ namespace orby {
 namespace {
 
 constexpr int MostHops = 5;
-constexpr qint64 Piece = 1 << 16;
+constexpr qint64 ReadPiece = 1 << 16;
 constexpr qint64 MostWaiting = 1 << 20;  // bytes that wait to be taken; the server is held back beyond them
 
 namespace status {
@@ -135,7 +135,7 @@ void Transfer::Ask(const QUrl& address) {
 void Transfer::TakeBytes() {
   if (!headTaken_ && !TakeHead()) return;
   while (!ended_ && reply_->bytesAvailable() > 0) {
-    const QByteArray bytes = reply_->read(Piece);
+    const QByteArray bytes = reply_->read(ReadPiece);
     if (IsTooLong(static_cast<quint64>(file_->Size() + bytes.size()))) {
       DropAndFail();
     } else if (!file_->Append(bytes)) {

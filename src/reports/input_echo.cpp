@@ -226,9 +226,9 @@ void Echo::BoltCapacities(const Bolt& bolt, YieldOfMetricGrade yieldOf) {
     grade = metric ? yieldOf(grade, catalogs) : YieldFromUltimateKsi(grade, catalogs);
   }
   const std::string yield = metric ? FormatNumber(CapacityKN(grade, diameter), "0")
-                                   : FormatNumber(CapacityFromGrade(grade, diameter) / 2, "0.0");
+                                   : FormatNumber(CapacityFromGrade(grade, diameter) / 2, OneDecimal);
   const std::string ultimate = metric ? FormatNumber(UltimateCapacityKN(grade, diameter, catalogs), "0")
-                                      : FormatNumber(UltimateCapacity(grade, diameter, catalogs) / 2, "0.0");
+                                      : FormatNumber(UltimateCapacity(grade, diameter, catalogs) / 2, OneDecimal);
   page.Value("Roof Bolt Yield Capacity", yield, UnitSuffix::Force);
   page.Value("Roof Bolt Ultimate Capacity", ultimate, UnitSuffix::Force);
 }

@@ -9,8 +9,6 @@ namespace orby {
 namespace {
 
 constexpr NumberPattern LengthPattern = "#.0";
-constexpr NumberPattern OneDecimal = "0.0";
-
 void WarningsLine(ReportText& page, bool several) { page.Line(several ? "[Warnings]" : WarningHeading); }
 
 void ReportSpan(ReportText& page, const RoofSupport& design, const SuggestedFigures& results) {

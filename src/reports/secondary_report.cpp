@@ -10,8 +10,6 @@
 namespace orby {
 namespace {
 
-constexpr NumberPattern OneDecimal = "0.0";
-
 std::string EntryLoad(Single load) { return FormatNumber(load, OneDecimal); }
 std::string IntersectionLoad(Single load) { return NumberText(load); }
 

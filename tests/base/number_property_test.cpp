@@ -28,9 +28,9 @@ rc::Gen<double> AnyDouble() {
 
 rc::Gen<Single> AnySingle() {
   constexpr std::uint32_t SignBit = 1U << 31U;
-  constexpr std::uint32_t Infinity = 0x7F800000U;
+  constexpr std::uint32_t InfinityBits = 0x7F800000U;
   return rc::gen::map(
-      rc::gen::pair(rc::gen::inRange<std::uint32_t>(0, Infinity), rc::gen::arbitrary<bool>()),
+      rc::gen::pair(rc::gen::inRange<std::uint32_t>(0, InfinityBits), rc::gen::arbitrary<bool>()),
       [](const auto& parts) { return std::bit_cast<Single>(parts.second ? parts.first | SignBit : parts.first); });
 }
 

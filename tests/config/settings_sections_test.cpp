@@ -19,13 +19,13 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
 
-constexpr const char* IniPath = "/data/ORBY.INI";
+constexpr const char* SettingsPath = "/data/ORBY.INI";
 
 struct SettingsSections : testing::Test {
   SettingsSections() {
     platform.fonts.screen = {"Courier New", "Arial"};
     program.session.folders.ProgramData = "/data/";
-    program.session.IniFilePath = IniPath;
+    program.session.IniFilePath = SettingsPath;
     SetBuiltInSettings(program);
   }
 
@@ -44,7 +44,7 @@ struct SettingsSections : testing::Test {
     WriteSettings(program.session, ini, what);
     return ini.Text();
   }
-  std::string& FileBytes() { return platform.files.files[IniPath]; }
+  std::string& FileBytes() { return platform.files.files[SettingsPath]; }
 };
 
 constexpr const char* BuiltInSettingsText =

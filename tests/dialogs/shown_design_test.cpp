@@ -35,8 +35,8 @@ Design StoredDesign(const Design& start) {
   return design;
 }
 
-struct Run {
-  explicit Run(UnitSystem units) {
+struct StoredRun {
+  explicit StoredRun(UnitSystem units) {
     SetBuiltInCatalogs(program.session.catalogs);
     program.session.settings.UnitsDefault = units;
     FileNew(program, true, true);
@@ -49,7 +49,7 @@ struct Run {
 };
 
 RC_GTEST_PROP(ReportedDesignProperty, IsWhatTheDialogWouldPreview, ()) {
-  Run run(*rc::gen::elementOf(std::vector{English, Metric}));
+  StoredRun run(*rc::gen::elementOf(std::vector{English, Metric}));
   const Design reported = AsReported(run.program.project, run.program.session.catalogs);
 
   ParametersDialog dialog(run.program);
@@ -60,7 +60,7 @@ RC_GTEST_PROP(ReportedDesignProperty, IsWhatTheDialogWouldPreview, ()) {
 }
 
 RC_GTEST_PROP(ReportedDesignProperty, CommittedIsWhatOkWouldTakeUnchanged, ()) {
-  Run run(*rc::gen::elementOf(std::vector{English, Metric}));
+  StoredRun run(*rc::gen::elementOf(std::vector{English, Metric}));
   Project& project = run.program.project;
   Catalogs& catalogs = run.program.session.catalogs;
   const Design committed =

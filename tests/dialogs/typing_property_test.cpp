@@ -28,8 +28,8 @@ void TypeEverywhere(Form& form) {
   }
 }
 
-struct Run {
-  explicit Run(UnitSystem units) {
+struct NewRun {
+  explicit NewRun(UnitSystem units) {
     SetBuiltInCatalogs(program.session.catalogs);
     program.session.settings.UnitsDefault = units;
     FileNew(program, true, true);
@@ -40,7 +40,7 @@ struct Run {
 };
 
 RC_GTEST_PROP(TypingProperty, ShowsAFigureOrADashInTheParametersWhateverIsTyped, ()) {
-  Run run(*rc::gen::elementOf(std::vector{English, Metric}));
+  NewRun run(*rc::gen::elementOf(std::vector{English, Metric}));
   ParametersDialog dialog(run.program);
   dialog.Open();
   Edit(dialog, AllSystems);
@@ -64,7 +64,7 @@ RC_GTEST_PROP(TypingProperty, ShowsAFigureOrADashInTheParametersWhateverIsTyped,
 }
 
 RC_GTEST_PROP(TypingProperty, ShowsAFigureOrADashInTheCostsWhateverIsTyped, ()) {
-  Run run(English);
+  NewRun run(English);
   CostDialog dialog(run.program);
   dialog.Open();
 
@@ -76,7 +76,7 @@ RC_GTEST_PROP(TypingProperty, ShowsAFigureOrADashInTheCostsWhateverIsTyped, ()) 
 }
 
 RC_GTEST_PROP(TypingProperty, KeepsTheLastNumberThatADesignCanHold, ()) {
-  Run run(English);
+  NewRun run(English);
   ParametersDialog dialog(run.program);
   dialog.Open();
   Design kept = run.program.project.WorkParms;
@@ -96,7 +96,7 @@ RC_GTEST_PROP(TypingProperty, KeepsTheLastNumberThatADesignCanHold, ()) {
 }
 
 RC_GTEST_PROP(StoredDesignProperty, OpensWithWhateverNumbers, ()) {
-  Run run(*rc::gen::elementOf(std::vector{English, Metric}));
+  NewRun run(*rc::gen::elementOf(std::vector{English, Metric}));
   Design& design = run.program.project.WorkParms;
   const auto stored =
       rc::gen::oneOf(rc::gen::element<Single>(0, -1, 20, 3.4E38F, -3.4E38F, 1E-38F),

@@ -312,8 +312,8 @@ TEST(ProjectFile, Utf8FilesAreRead) {
 }
 
 // An open project with unsaved changes, and another one chosen to be opened.
-struct ChangedProject : TestProject {
-  ChangedProject() {
+struct UnsavedTestProject : TestProject {
+  UnsavedTestProject() {
     FileNew(program, false, true);
     program.project.WorkParms.Place.DepthofCover = 777;
     program.project.FileSaved = false;
@@ -323,7 +323,7 @@ struct ChangedProject : TestProject {
 };
 
 TEST(ProjectFile, UnsavedChangesAreAskedAboutUnderThePreviousName) {
-  ChangedProject project;
+  UnsavedTestProject project;
   project.platform.boxes.answers = {BoxResult::No};
 
   EXPECT_TRUE(project.Open());
@@ -336,7 +336,7 @@ TEST(ProjectFile, UnsavedChangesAreAskedAboutUnderThePreviousName) {
 }
 
 TEST(ProjectFile, YesSavesThePreviousProjectFirst) {
-  ChangedProject project;
+  UnsavedTestProject project;
   project.platform.boxes.answers = {BoxResult::Yes};
 
   EXPECT_TRUE(project.Open());
@@ -349,7 +349,7 @@ TEST(ProjectFile, YesSavesThePreviousProjectFirst) {
 }
 
 TEST(ProjectFile, YesForAnUntitledProjectAsksForItsNameAndStillOpensTheChosenFile) {
-  ChangedProject project;
+  UnsavedTestProject project;
   project.program.project.PreviousFile = "Untitled";
   project.platform.boxes.answers = {BoxResult::Yes};
   project.platform.fileDialogs.answers = {"/designs/named.orb"};
@@ -361,7 +361,7 @@ TEST(ProjectFile, YesForAnUntitledProjectAsksForItsNameAndStillOpensTheChosenFil
 }
 
 TEST(ProjectFile, ASaveThatFailsStopsTheOpen) {
-  ChangedProject project;
+  UnsavedTestProject project;
   project.platform.boxes.answers = {BoxResult::Yes, BoxResult::Cancel};
   project.platform.files.Fail(MemoryFiles::Step::Create, error_number::PermissionDenied);
 
@@ -376,7 +376,7 @@ TEST(ProjectFile, ASaveThatFailsStopsTheOpen) {
 }
 
 TEST(ProjectFile, ASaveThatIsCancelledStopsTheOpen) {
-  ChangedProject project;
+  UnsavedTestProject project;
   project.program.project.PreviousFile = "Untitled";
   project.platform.boxes.answers = {BoxResult::Yes};
 
@@ -388,7 +388,7 @@ TEST(ProjectFile, ASaveThatIsCancelledStopsTheOpen) {
 }
 
 TEST(ProjectFile, ASaveUnderANewNameThatFailsKeepsTheNameItHad) {
-  ChangedProject project;
+  UnsavedTestProject project;
   project.program.project.PreviousFile = "Untitled";
   project.platform.boxes.answers = {BoxResult::Yes, BoxResult::Cancel};
   project.platform.fileDialogs.answers = {"/designs/named.orb"};
@@ -400,7 +400,7 @@ TEST(ProjectFile, ASaveUnderANewNameThatFailsKeepsTheNameItHad) {
 }
 
 TEST(ProjectFile, ASavedProjectIsNotAskedAbout) {
-  ChangedProject project;
+  UnsavedTestProject project;
   project.program.project.FileSaved = true;
 
   EXPECT_TRUE(project.Open());

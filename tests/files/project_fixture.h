@@ -45,6 +45,10 @@ struct TestProject {
   Program program{platform.Doors()};
 };
 
+struct NewProject : TestProject {
+  NewProject() { FileNew(program, false, true); }
+};
+
 // The lines joined, each ended by CR LF.
 inline std::string Lines(std::initializer_list<std::string_view> lines) {
   std::string text;

@@ -4,7 +4,7 @@
 #include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 
-#include "base/arithmetic.h"
+#include "any_single.h"
 #include "base/number_text.h"
 #include "core/description.h"
 #include "files/description_reader.h"
@@ -13,14 +13,6 @@
 
 namespace orby::test {
 namespace {
-
-// Values with up to seven significant digits: what a user can type and the file keeps.
-rc::Gen<Single> AnySingle() {
-  return rc::gen::map(rc::gen::pair(rc::gen::inRange(-9'999'999, 10'000'000), rc::gen::inRange(-6, 31)),
-                      [](const std::pair<int, int>& parts) {
-                        return ToSingle(TextValue(NumberText(parts.first) + "E" + NumberText(parts.second)));
-                      });
-}
 
 // Characters of a line: letters, blanks, quotes, commas, umlauts and ideographs.
 rc::Gen<std::string> AnyLine(const std::string& without) {

@@ -21,8 +21,8 @@ using Step = MemoryFiles::Step;
 const std::string OldPath = "/designs/panel3.orb.old";
 
 // An open project with a change, in a program with a data folder.
-struct ChangedProject : TestProject {
-  ChangedProject() {
+struct ResavedProject : TestProject {
+  ResavedProject() {
     program.session.folders.ProgramData = "/data/";
     FileNew(program, false, true);
     Save();
@@ -59,7 +59,7 @@ struct ChangedProject : TestProject {
 };
 
 TEST(ProjectSave, KeepsWhatItWritesOver) {
-  ChangedProject project;
+  ResavedProject project;
 
   EXPECT_TRUE(project.Save());
 
@@ -71,7 +71,7 @@ TEST(ProjectSave, KeepsWhatItWritesOver) {
 }
 
 TEST(ProjectSave, KeepsNothingOfAProjectThatIsTheSame) {
-  ChangedProject project;
+  ResavedProject project;
   project.program.project.WorkParms.Place.DepthofCover = 400;
 
   EXPECT_TRUE(project.Save());
@@ -81,7 +81,7 @@ TEST(ProjectSave, KeepsNothingOfAProjectThatIsTheSame) {
 }
 
 TEST(ProjectSave, KeepsNothingOfANewFile) {
-  ChangedProject project;
+  ResavedProject project;
   project.program.project.CurrentFile = "/designs/new.orb";
 
   EXPECT_TRUE(project.Save());
@@ -90,7 +90,7 @@ TEST(ProjectSave, KeepsNothingOfANewFile) {
 }
 
 TEST(ProjectSave, UnderAnotherNameKeepsTheFileThatHasIt) {
-  ChangedProject project;
+  ResavedProject project;
   project.platform.files.files["/designs/other.orb"] = "another design";
   project.program.project.CurrentFile = "/designs/other.orb";
 
@@ -102,7 +102,7 @@ TEST(ProjectSave, UnderAnotherNameKeepsTheFileThatHasIt) {
 }
 
 TEST(ProjectSave, OverARefusedFileKeepsIt) {
-  ChangedProject project;
+  ResavedProject project;
   project.Open("bolts are in stock\r\n");
   project.platform.boxes.shown.clear();
 
@@ -114,7 +114,7 @@ TEST(ProjectSave, OverARefusedFileKeepsIt) {
 }
 
 TEST(ProjectSave, KeepsAndTellsWhatAnotherProgramWroteMeanwhile) {
-  ChangedProject project;
+  ResavedProject project;
   project.File() = "the other's design";
 
   EXPECT_TRUE(project.Save());
@@ -130,7 +130,7 @@ TEST(ProjectSave, KeepsAndTellsWhatAnotherProgramWroteMeanwhile) {
 }
 
 TEST(ProjectSave, KnowsTheFileThatItOpened) {
-  ChangedProject project;
+  ResavedProject project;
   project.Open();
   project.program.project.WorkParms.Place.DepthofCover = 820;
 
@@ -141,7 +141,7 @@ TEST(ProjectSave, KnowsTheFileThatItOpened) {
 }
 
 TEST(ProjectSave, TellsOfAFileThatWasChangedSinceItWasOpened) {
-  ChangedProject project;
+  ResavedProject project;
   project.Open();
   project.File() += "more";
 
@@ -151,7 +151,7 @@ TEST(ProjectSave, TellsOfAFileThatWasChangedSinceItWasOpened) {
 }
 
 TEST(ProjectSave, SaysNothingOfAChangeThatIsTheSame) {
-  ChangedProject project;
+  ResavedProject project;
   project.File() = project.typed;
 
   EXPECT_TRUE(project.Save());
@@ -161,7 +161,7 @@ TEST(ProjectSave, SaysNothingOfAChangeThatIsTheSame) {
 }
 
 TEST(ProjectSave, KnowsItsOwnFileFromTheLastSave) {
-  ChangedProject project;
+  ResavedProject project;
   project.Save();
   project.program.project.WorkParms.Place.DepthofCover = 820;
 
@@ -172,7 +172,7 @@ TEST(ProjectSave, KnowsItsOwnFileFromTheLastSave) {
 }
 
 TEST(ProjectSave, ANewDesignKnowsNothingOfTheFileThatItIsSavedOver) {
-  ChangedProject project;
+  ResavedProject project;
   FileNew(project.program, true, true);
   project.File() = "the other's design";
   project.program.project.CurrentFile = ProjectPath;
@@ -185,7 +185,7 @@ TEST(ProjectSave, ANewDesignKnowsNothingOfTheFileThatItIsSavedOver) {
 class FailedSave : public testing::TestWithParam<Step> {};
 
 TEST_P(FailedSave, LeavesTheFileAsItWasAndTellsWhereTheCopyLies) {
-  ChangedProject project;
+  ResavedProject project;
   project.program.project.ProjectDescription = "Shale\r\n\r\nWater";
   project.Save();
   project.program.project.ProjectDescription = "Shale\r\n\r\nNo water";
@@ -217,7 +217,7 @@ INSTANTIATE_TEST_SUITE_P(Steps, FailedSave,
                                          Step::Close));
 
 TEST(ProjectSave, OfASavedProjectThatFailsLeavesItUnsaved) {
-  ChangedProject project;
+  ResavedProject project;
   project.program.project.FileSaved = true;
   project.platform.files.Fail(Step::Reserve, error_number::DiskFull);
 
@@ -228,7 +228,7 @@ TEST(ProjectSave, OfASavedProjectThatFailsLeavesItUnsaved) {
 }
 
 TEST(ProjectSave, ThatCannotPutTheOldBytesBackTellsWhereTheyAre) {
-  ChangedProject project;
+  ResavedProject project;
   project.platform.files.Fail(Step::Cut, error_number::DiskFull);
 
   EXPECT_EQ(project.SaveError(), 61);
@@ -239,7 +239,7 @@ TEST(ProjectSave, ThatCannotPutTheOldBytesBackTellsWhereTheyAre) {
 }
 
 TEST(ProjectSave, AfterOneThatLeftADamagedFileDoesNotBlameAnotherProgram) {
-  ChangedProject project;
+  ResavedProject project;
   project.platform.files.Fail(Step::Cut, error_number::DiskFull);
   ASSERT_EQ(project.SaveError(), 61);
   project.platform.files.Mend();
@@ -252,7 +252,7 @@ TEST(ProjectSave, AfterOneThatLeftADamagedFileDoesNotBlameAnotherProgram) {
 }
 
 TEST(ProjectSave, ThatCannotEvenBeginStillTellsOfTheFileThatOneBeforeItDamaged) {
-  ChangedProject project;
+  ResavedProject project;
   project.platform.files.Fail(Step::Cut, error_number::DiskFull);
   ASSERT_EQ(project.SaveError(), 61);
   project.platform.files.Mend();
@@ -264,7 +264,7 @@ TEST(ProjectSave, ThatCannotEvenBeginStillTellsOfTheFileThatOneBeforeItDamaged) 
 }
 
 TEST(ProjectSave, UnderAnotherNameThatCannotBeginSaysThatThisFileIsAsItWas) {
-  ChangedProject project;
+  ResavedProject project;
   project.platform.files.Fail(Step::Cut, error_number::DiskFull);
   ASSERT_EQ(project.SaveError(), 61);
   project.platform.files.Mend();
@@ -278,7 +278,7 @@ TEST(ProjectSave, UnderAnotherNameThatCannotBeginSaysThatThisFileIsAsItWas) {
 }
 
 // A project whose save failed and could not put the old bytes back.
-struct DamagedProject : ChangedProject {
+struct DamagedProject : ResavedProject {
   DamagedProject() {
     platform.files.Fail(Step::Cut, error_number::DiskFull);
     EXPECT_EQ(SaveError(), 61);
@@ -321,7 +321,7 @@ TEST(ProjectSave, SaysNothingOfADamagedFileThatWasPutRightByHand) {
 }
 
 TEST(ProjectSave, ThatFailsLeavesAFileThatCouldNotBeLookedAt) {
-  ChangedProject project;
+  ResavedProject project;
   project.platform.files.Fail(Step::Read, error_number::PathFileAccess);
   project.platform.files.Fail(Step::Write, error_number::DiskFull);
 
@@ -332,7 +332,7 @@ TEST(ProjectSave, ThatFailsLeavesAFileThatCouldNotBeLookedAt) {
 }
 
 TEST(ProjectSave, OfAScriptThatDamagesALongFileSaysSo) {
-  ChangedProject project;
+  ResavedProject project;
   project.program.session.folders.ProgramData.clear();
   project.File() = std::string(11 * 1024 * 1024, 'x');
   project.platform.files.Fail(Step::Write, error_number::DiskFull);
@@ -343,7 +343,7 @@ TEST(ProjectSave, OfAScriptThatDamagesALongFileSaysSo) {
 }
 
 TEST(ProjectSave, ThatCannotRemoveTheHalfOfANewFileSaysSo) {
-  ChangedProject project;
+  ResavedProject project;
   project.program.project.CurrentFile = "/designs/new.orb";
   project.platform.files.Fail(Step::Write, error_number::DiskFull);
   project.platform.files.Fail(Step::Remove, error_number::PermissionDenied);
@@ -354,7 +354,7 @@ TEST(ProjectSave, ThatCannotRemoveTheHalfOfANewFileSaysSo) {
 }
 
 TEST(ProjectSave, WithoutRoomForABackupGoesOnAndTellsOnce) {
-  ChangedProject project;
+  ResavedProject project;
   project.platform.files.Fail(Step::Rename, error_number::DiskFull);
 
   EXPECT_TRUE(project.Save());
@@ -370,7 +370,7 @@ TEST(ProjectSave, WithoutRoomForABackupGoesOnAndTellsOnce) {
 }
 
 TEST(ProjectSave, WithoutABackupHoldsTheOldBytesUntilTheyAreOnTheDiskAgain) {
-  ChangedProject project;
+  ResavedProject project;
   project.platform.files.Fail(Step::Rename, error_number::DiskFull);
   project.platform.files.Fail(Step::Cut, error_number::DiskFull);
   ASSERT_EQ(project.SaveError(), 61);
@@ -385,7 +385,7 @@ TEST(ProjectSave, WithoutABackupHoldsTheOldBytesUntilTheyAreOnTheDiskAgain) {
 }
 
 TEST(ProjectSave, RenamesAFileThatIsTooLongForABackup) {
-  ChangedProject project;
+  ResavedProject project;
   const std::string notes(11 * 1024 * 1024, 'x');
   project.File() = notes;
   project.platform.files.files[OldPath] = "an earlier one";
@@ -401,7 +401,7 @@ TEST(ProjectSave, RenamesAFileThatIsTooLongForABackup) {
 }
 
 TEST(ProjectSave, HoldsAFileThatIsTooLongAndCannotBeRenamedUntilTheNewOneIsSafe) {
-  ChangedProject project;
+  ResavedProject project;
   const std::string notes(11 * 1024 * 1024, 'x');
   project.File() = notes;
   project.platform.files.Fail(Step::Rename, error_number::PermissionDenied);
@@ -417,7 +417,7 @@ TEST(ProjectSave, HoldsAFileThatIsTooLongAndCannotBeRenamedUntilTheNewOneIsSafe)
 }
 
 TEST(ProjectSave, GivesARenamedFileItsNameBackWhenItFails) {
-  ChangedProject project;
+  ResavedProject project;
   const std::string notes(11 * 1024 * 1024, 'x');
   project.File() = notes;
   project.platform.files.Fail(Step::Flush, error_number::DiskFull);
@@ -429,7 +429,7 @@ TEST(ProjectSave, GivesARenamedFileItsNameBackWhenItFails) {
 }
 
 TEST(ProjectSave, OfAScriptKeepsNoBackupsAndStillPutsTheOldBytesBack) {
-  ChangedProject project;
+  ResavedProject project;
   project.program.session.folders.ProgramData.clear();
   project.platform.files.Fail(Step::Flush, error_number::DiskFull, 0, 1);
 
@@ -462,7 +462,7 @@ TEST(ProjectSave, ATemporaryFileThatFailsDoesNotStopTheSaveAndDoesNotStay) {
 }
 
 TEST(ProjectSave, NamesTheFieldsThatWouldNotComeBack) {
-  ChangedProject project;
+  ResavedProject project;
   project.program.project.WorkParms.Intersections.Bolt.Desc = "#6 rebar, grade 60";
 
   EXPECT_TRUE(project.Save());

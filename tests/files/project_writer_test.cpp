@@ -12,10 +12,6 @@ namespace {
 using testing::HasSubstr;
 using testing::StartsWith;
 
-struct NewProject : TestProject {
-  NewProject() { FileNew(program, false, true); }
-};
-
 std::string DataLine(const std::string& bytes, int number) {
   std::string_view rest = bytes;
   rest.remove_prefix(rest.find("##EndDesc##") + 13);

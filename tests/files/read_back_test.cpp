@@ -11,22 +11,20 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-struct NewProject : TestProject {
-  NewProject() { FileNew(program, false, true); }
-
+struct ReadProject : NewProject {
   std::vector<std::string_view> Differing() {
     return FieldsThatReadDifferently(program.project, ProjectFileBytes(program.project));
   }
 };
 
 TEST(ReadBack, ANewProjectComesBackWhole) {
-  NewProject project;
+  ReadProject project;
 
   EXPECT_THAT(project.Differing(), IsEmpty());
 }
 
 TEST(ReadBack, TheFieldsThatTheFormatReadsIntoOthersAreLeftOut) {
-  NewProject project;
+  ReadProject project;
   project.program.project.WorkParms.Entries.Standing.TypeMode = 1;
   project.program.project.WorkParms.Intersections.Standing.TypeMode = 0;
 
@@ -34,7 +32,7 @@ TEST(ReadBack, TheFieldsThatTheFormatReadsIntoOthersAreLeftOut) {
 }
 
 TEST(ReadBack, TheShiftedHeaderChangesNoField) {
-  NewProject project;
+  ReadProject project;
   project.program.project.ProjectTitle = "Panel 3, north";
   project.program.project.ProjectDescription = "Shale, wet\r\n\"quoted\" line";
 
@@ -42,21 +40,21 @@ TEST(ReadBack, TheShiftedHeaderChangesNoField) {
 }
 
 TEST(ReadBack, AQuotedDescriptionOfABoltLosesItsQuotesAlone) {
-  NewProject project;
+  ReadProject project;
   project.program.project.WorkParms.Primary.Desc = "\"No. 6\"";
 
   EXPECT_THAT(project.Differing(), ElementsAre("primary bolt description"));
 }
 
 TEST(ReadBack, BlanksBeforeTheDescriptionOfABoltAreLost) {
-  NewProject project;
+  ReadProject project;
   project.program.project.WorkParms.Entries.Bolt.Desc = "  rebar";
 
   EXPECT_THAT(project.Differing(), ElementsAre("entry bolt description"));
 }
 
 TEST(ReadBack, AnUnclosedQuoteTakesAllThatFollows) {
-  NewProject project;
+  ReadProject project;
   project.program.project.WorkParms.Intersections.Bolt.Desc = "\"No. 6";
 
   // All fields of the intersections from the description on, without the one that has no field of its own.
@@ -64,7 +62,7 @@ TEST(ReadBack, AnUnclosedQuoteTakesAllThatFollows) {
 }
 
 TEST(ReadBack, ALineOfTheDescriptionThatEndsItMovesTheFields) {
-  NewProject project;
+  ReadProject project;
   project.program.project.ProjectDescription = "Shale\r\n##EndDesc##\r\nWater";
 
   EXPECT_EQ(project.Differing().front(), "roof rating");

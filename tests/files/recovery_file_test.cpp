@@ -4,8 +4,7 @@
 #include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 
-#include "base/arithmetic.h"
-#include "base/number_text.h"
+#include "any_single.h"
 #include "project_fixture.h"
 #include "saved_fields.h"
 #include "support/test_data.h"
@@ -202,14 +201,6 @@ TEST_F(RecoveryFile, CutShortAnywhereIsNotRead) {
 }
 
 TEST_F(RecoveryFile, WithSomethingBehindItsEndIsNotRead) { EXPECT_FALSE(ReadRecovery(Bytes() + "1\r\n").has_value()); }
-
-// Values with up to seven significant digits: what a user can type and a file keeps.
-rc::Gen<Single> AnySingle() {
-  return rc::gen::map(rc::gen::pair(rc::gen::inRange(-9'999'999, 10'000'000), rc::gen::inRange(-6, 31)),
-                      [](const std::pair<int, int>& parts) {
-                        return ToSingle(TextValue(NumberText(parts.first) + "E" + NumberText(parts.second)));
-                      });
-}
 
 rc::Gen<std::string> AnyText() {
   const std::vector<std::string> characters{

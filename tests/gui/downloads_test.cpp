@@ -19,8 +19,6 @@ using testing::ElementsAre;
 using testing::Eq;
 using testing::IsEmpty;
 
-constexpr int Patience = 20'000;  // milliseconds until what does not happen counts as a failure
-
 // Bytes that differ from place to place.
 QByteArray BytesOf(qsizetype length, unsigned seed = 1) {
   QByteArray bytes(length, '\0');

@@ -50,7 +50,7 @@ struct Keys {
   int item;
 };
 
-std::string NameOf(const testing::TestParamInfo<Keys>& info) {
+std::string NameOfKeys(const testing::TestParamInfo<Keys>& info) {
   return std::string(info.param.array) + "_" + std::to_string(info.param.item);
 }
 
@@ -81,7 +81,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Keys{Qt::Key_U, Qt::Key_W, {}, "mnuUtilItem", 6}, Keys{Qt::Key_U, Qt::Key_P, {}, "mnuUtilItem", 7},
                     Keys{Qt::Key_H, Qt::Key_C, {}, "mnuHelpItem", 0}, Keys{Qt::Key_H, Qt::Key_I, {}, "mnuHelpItem", 1},
                     Keys{Qt::Key_H, Qt::Key_P, {}, "mnuHelpItem", 2}),
-    NameOf);
+    NameOfKeys);
 
 INSTANTIATE_TEST_SUITE_P(Shortcuts, MainKeys,
                          testing::Values(Keys{NoKey, Qt::Key_N, Qt::ControlModifier, "mnuFileItem", 0},
@@ -91,7 +91,7 @@ INSTANTIATE_TEST_SUITE_P(Shortcuts, MainKeys,
                                               3},
                                          Keys{NoKey, Qt::Key_P, Qt::ControlModifier, "mnuFileItem", 6},
                                          Keys{NoKey, Qt::Key_F1, {}, "mnuHelpItem", 0}),
-                         NameOf);
+                         NameOfKeys);
 
 TEST_F(MainCommands, GoInTurnByALetterThatTwoEntriesShare) {
   Press(Qt::Key_F, Qt::AltModifier);

@@ -23,8 +23,6 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::MatchesRegex;
 
-constexpr int Patience = 20'000;  // milliseconds until what does not happen counts as a failure
-
 const QByteArray VersionFile = "/wp-content/uploads/2020/04/orby_version.txt";
 const QByteArray SetupFile = "/wp-content/uploads/2020/04/ORBY1.0.01.exe";
 const QByteArray SetupBytes(10'000, 's');

@@ -14,6 +14,8 @@
 
 namespace orby::test {
 
+inline constexpr int Patience = 20'000;  // milliseconds after which an event that does not come is a failure
+
 struct WebRequest {
   QByteArray path;
   QHash<QByteArray, QByteArray> headers;  // names in lower case

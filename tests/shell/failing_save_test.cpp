@@ -40,7 +40,7 @@ class SaveThatFails : public testing::TestWithParam<FailingStep> {
  protected:
   static Program Started(RecordingPlatform& platform, MessageBoxes& boxes) {
     Program program(platform.DoorsWith(boxes));
-    program.session.folders.ProgramTemporary = TemporaryFolder;
+    program.session.folders.ProgramTemporary = TemporaryPath;
     program.session.IniFilePath = IniPath;
     program.session.options.ShowInputScreenOnLoad = 0;
     StartApart(program, nullptr);

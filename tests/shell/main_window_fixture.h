@@ -12,8 +12,8 @@
 
 namespace orby::test {
 
-inline const std::string TemporaryFolder = "/home/user/Documents/Orby/Temp/";
-inline const std::string RecoveryPath = TemporaryFolder + "~recover1.tmp";
+inline const std::string TemporaryPath = "/home/user/Documents/Orby/Temp/";
+inline const std::string RecoveryPath = TemporaryPath + "~recover1.tmp";
 inline const std::string IniPath = "/home/user/Documents/Orby/ORBY.INI";
 inline const std::string Panel3 = "/designs/panel3.orb";
 inline const std::string Panel4 = "/designs/panel4.orb";
@@ -21,7 +21,7 @@ inline const std::string Panel4 = "/designs/panel4.orb";
 // Returns a program as after its start. The disclaimer is off, and opening a file does not open the parameters dialog.
 inline Program StartedProgram(const Platform& doors) {
   Program program(doors);
-  program.session.folders.ProgramTemporary = TemporaryFolder;
+  program.session.folders.ProgramTemporary = TemporaryPath;
   program.session.IniFilePath = IniPath;
   program.session.options.ShowInputScreenOnLoad = 0;
   program.session.settings.ShowDisclaim = 0;

@@ -143,7 +143,7 @@ TEST_F(Menus, ShowTheConvertedProjectWhileTheMessageOfCompletionIsOpen) {
   bool isKept = false;
   boxes.meanwhile = [&] {
     caption = windowBehind.Caption();
-    isKept = Exists(TemporaryFolder + "~recover2.tmp");  // the window of the fixture holds the first slot
+    isKept = Exists(TemporaryPath + "~recover2.tmp");  // the window of the fixture holds the first slot
   };
   platform.windows.onModal = [](Form& form) { dynamic_cast<ConvertDialog&>(form).Command2.Press(); };
 

@@ -187,14 +187,14 @@ TEST_F(StartedAgain, TheProgramRestoresItsOwnWorkAndNotThatOfAnotherRun) {
   other.project.FileSaved = false;
   const RunEnd end = otherWindow.LeaveAtOnce();
   atEnd = platform.files.files;
-  atEnd[RecoveryPath] = atEnd.at(TemporaryFolder + "~recover2.tmp");
+  atEnd[RecoveryPath] = atEnd.at(TemporaryPath + "~recover2.tmp");
 
   StartAgain(end.Next);
 
   EXPECT_EQ(end.Next.Slot, 2);
   EXPECT_EQ(restarted.project.WorkParms.Place.DepthofCover, 333);
-  EXPECT_TRUE(next.files.marked.contains(TemporaryFolder + "~recover2.lck"));
-  EXPECT_FALSE(next.files.marked.contains(TemporaryFolder + "~recover1.lck"));
+  EXPECT_TRUE(next.files.marked.contains(TemporaryPath + "~recover2.lck"));
+  EXPECT_FALSE(next.files.marked.contains(TemporaryPath + "~recover1.lck"));
 }
 
 TEST_F(StartedAgain, TheProgramOpensAProjectWithoutUnsavedChangesFromItsFile) {
@@ -235,7 +235,7 @@ TEST_F(StartedAgain, TheProgramOffersTheLostWorkOfAnotherRunIfItsOwnSlotIsTaken)
   EditPanel3();
   window.LeaveAtOnce();
   atEnd = platform.files.files;
-  next.files.marked.insert(TemporaryFolder + "~recover2.lck");
+  next.files.marked.insert(TemporaryPath + "~recover2.lck");
   next.boxes.answers = {BoxResult::Yes};
 
   StartAgain({2, {}});
@@ -257,7 +257,7 @@ TEST_F(StartedAgain, TheProgramBeginsANewProjectIfNoneWasBegun) {
 
 TEST_F(StartedAgain, TheProgramCanRestoreTheWorkAsSoonAsItIsReleased) {
   window.LeaveAtOnce();
-  ASSERT_TRUE(platform.files.marked.contains(TemporaryFolder + "~recover1.lck"));
+  ASSERT_TRUE(platform.files.marked.contains(TemporaryPath + "~recover1.lck"));
 
   window.Release();
 
