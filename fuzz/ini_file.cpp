@@ -127,7 +127,8 @@ void CheckSections(const std::string& bytes) {
   Expect(IsWithin(program.session.settings.MaxDisplaySize, 4096, 16384));
   Expect(IsWithin(program.session.settings.DisplayFontSize, 7, 24) &&
          IsWithin(program.session.textBrowse.BrowseFontSize, 7, 24));
-  Expect(IsWithin(program.session.graph.GraphStyle, 1, 3) && IsWithin(program.session.graph.SymbolSize, 3, 20));
+  Expect(IsWithin(NumberOf(program.session.graph.GraphStyle), 1, 3) &&
+         IsWithin(program.session.graph.SymbolSize, 3, 20));
   Expect(IsWithin(program.session.recentFiles.MaxLastFiles, 0, orby::RecentFiles::Capacity));
   Expect(program.session.settings.DataPath == "/data/" && platform.boxes.shown.empty());
   orby::WriteNewIniFile(program, orby::NewIniText(program.session));

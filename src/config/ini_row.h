@@ -16,7 +16,8 @@ namespace orby {
 template <class Group>
 struct IniRow {
   std::string_view Key;
-  std::variant<Integer Group::*, Single Group::*, std::string Group::*, UnitSystem Group::*, StrengthBasis Group::*>
+  std::variant<Integer Group::*, Single Group::*, std::string Group::*, UnitSystem Group::*, StrengthBasis Group::*,
+               FormatParameters Group::*, GridLines Group::*, CurveStyle Group::*>
       Member;
   // A Single with a range is read as a whole number. A choice always has a range.
   std::optional<IniRange> Range = std::nullopt;

@@ -70,22 +70,15 @@ struct RecentFiles {
   std::array<Entry, Capacity> Entries;
 };
 
-namespace grid_style {
-inline constexpr Integer Horizontal = 1;
-inline constexpr Integer Vertical = 2;
-}  // namespace grid_style
-
-namespace graph_style {
-inline constexpr Integer LinesOnly = 1;
-inline constexpr Integer SymbolsOnly = 2;
-inline constexpr Integer LinesAndSymbols = 3;
-}  // namespace graph_style
+enum class FormatParameters : Integer { Default, LastUsed };
+enum class GridLines : Integer { None, Horizontal, Vertical, Both };
+enum class CurveStyle : Integer { LinesOnly = 1, SymbolsOnly, LinesAndSymbols };
 
 // How curves are drawn.
 struct GraphSettings {
-  Integer GraphSetParams = 0;  // 0 the default format, 1 the last one used
-  Integer GridStyle = grid_style::Horizontal + grid_style::Vertical;
-  Integer GraphStyle = graph_style::LinesAndSymbols;
+  FormatParameters GraphSetParams = FormatParameters::Default;
+  GridLines GridStyle = GridLines::Both;
+  CurveStyle GraphStyle = CurveStyle::LinesAndSymbols;
   Integer CurveLegend = 1;
   Integer SymbolSize = 6;
   UnitSystem GraphUnits = English;  // the unit system of the axis titles

@@ -52,6 +52,18 @@ std::string TitleOf(std::string_view label, Measure measure, UnitSystem units) {
   return std::string(label).append(SuffixOf(measure, units));
 }
 
+bool HasHorizontal(GridLines lines) { return lines == GridLines::Horizontal || lines == GridLines::Both; }
+
+bool HasVertical(GridLines lines) { return lines == GridLines::Vertical || lines == GridLines::Both; }
+
+GridLines LinesOf(const Chart& chart) {
+  const bool hasHorizontal = chart.AxisY().grid;
+  const bool hasVertical = chart.AxisX().grid;
+  if (hasHorizontal && hasVertical) return GridLines::Both;
+  if (hasHorizontal) return GridLines::Horizontal;
+  return hasVertical ? GridLines::Vertical : GridLines::None;
+}
+
 }  // namespace
 
 Integer DependentVariable(Integer curveIndex) { return NumberOf(SubjectOfCurve(curveIndex).Figure); }
@@ -93,17 +105,16 @@ std::string CurveTitle(Integer curveIndex) {
 
 void ApplyTitlesAndGrid(const GraphSettings& graph, Integer curveIndex, Chart& chart) {
   // Horizontal lines belong to the vertical axis, and vertical lines to the horizontal one.
-  chart.SetAxisX({At(graph.XAxisTitle, curveIndex), (graph.GridStyle & grid_style::Vertical) != 0});
-  chart.SetAxisY(
-      {At(graph.YAxisTitle, DependentVariable(curveIndex)), (graph.GridStyle & grid_style::Horizontal) != 0});
+  chart.SetAxisX({At(graph.XAxisTitle, curveIndex), HasVertical(graph.GridStyle)});
+  chart.SetAxisY({At(graph.YAxisTitle, DependentVariable(curveIndex)), HasHorizontal(graph.GridStyle)});
   chart.SetHeading(graph.GraphTitle);
 }
 
 void ApplyStyle(const GraphSettings& graph, ChartSeries& series) {
   series.width = graph.SymbolSize;
   series.symbolSize = graph.SymbolSize;
-  series.hasLine = graph.GraphStyle != graph_style::SymbolsOnly;
-  series.hasSymbols = graph.GraphStyle != graph_style::LinesOnly;
+  series.hasLine = graph.GraphStyle != CurveStyle::SymbolsOnly;
+  series.hasSymbols = graph.GraphStyle != CurveStyle::LinesOnly;
 }
 
 void Reformat(const GraphSettings& graph, Integer curveIndex, Chart& chart) {
@@ -125,9 +136,7 @@ void StoreFormat(const Chart& chart, Integer curveIndex, GraphSettings& graph) {
   graph.GraphTitle = chart.Heading();
   graph.XAxisTitle[static_cast<std::size_t>(curveIndex)] = chart.AxisX().title;
   graph.YAxisTitle[dependent] = chart.AxisY().title;
-  graph.GridStyle = 0;
-  if (chart.AxisY().grid) graph.GridStyle += grid_style::Horizontal;
-  if (chart.AxisX().grid) graph.GridStyle += grid_style::Vertical;
+  graph.GridStyle = LinesOf(chart);
 }
 
 }  // namespace orby

@@ -9,17 +9,15 @@
 namespace orby {
 namespace {
 
-constexpr Integer DefaultFormat = 0;
-constexpr Integer LastUsedFormat = 1;
-
 // Graph styles count from 1, the items of the list from 0.
-constexpr Integer FirstStyle = graph_style::LinesOnly;
+int ItemOf(CurveStyle style) { return NumberOf(style) - NumberOf(CurveStyle::LinesOnly); }
+CurveStyle StyleOf(int item) { return static_cast<CurveStyle>(item + NumberOf(CurveStyle::LinesOnly)); }
 
 }  // namespace
 
 GraphOptionsDialog::GraphOptionsDialog(Program& program, Chart& chart)
     : ProgramForm(program, "frmGraphOpt", "Graph Parameters and Options"), chart_(chart) {
-  Option1.Click = [this](Integer option) { ChooseFormat(option); };
+  Option1.Click = [this](Integer option) { ChooseFormat(FormatParameters{option}); };
   Combo1.Change = [this] { KeepToItems(Combo1, lastGridItem_); };
   Combo2.Change = [this] {
     KeepToItems(Combo2, lastStyleItem_);
@@ -33,7 +31,7 @@ void GraphOptionsDialog::OnOpen() {
   Combo1.Fill({{"None"}, {"Horizontal"}, {"Vertical"}, {"Horizontal & Vertical"}});
   Combo2.Fill({{"Lines Only"}, {"Symbols Only"}, {"Lines & Symbols"}});
   FillFields();
-  SetArrayIndex(program_, Option1, program_.session.graph.GraphSetParams);
+  SetArrayIndex(program_, Option1, NumberOf(program_.session.graph.GraphSetParams));
   const Integer curve = program_.windows.curve.CurveIndex;
   for (std::size_t i = 0; i < Text2.size(); ++i) Text2[i].SetVisible(static_cast<int>(i) == curve);
   for (std::size_t i = 0; i < Text3.size(); ++i) Text3[i].SetVisible(static_cast<int>(i) == DependentVariable(curve));
@@ -44,21 +42,21 @@ void GraphOptionsDialog::FillFields() {
   Text1.SetText(graph.GraphTitle);
   for (std::size_t i = 0; i < Text2.size(); ++i) Text2[i].SetText(graph.XAxisTitle[i]);
   for (std::size_t i = 0; i < Text3.size(); ++i) Text3[i].SetText(graph.YAxisTitle[i]);
-  Combo1.SetListIndex(graph.GridStyle);
-  Combo2.SetListIndex(graph.GraphStyle - FirstStyle);
+  Combo1.SetListIndex(NumberOf(graph.GridStyle));
+  Combo2.SetListIndex(ItemOf(graph.GraphStyle));
   Check1.SetValue(graph.CurveLegend);
   HScroll1.SetValue(graph.SymbolSize);
   txtSS.SetText(NumberText(HScroll1.Value()));
 }
 
-void GraphOptionsDialog::ChooseFormat(Integer option) {
-  if (option == DefaultFormat) {
+void GraphOptionsDialog::ChooseFormat(FormatParameters format) {
+  if (format == FormatParameters::Default) {
     // The default titles apply at once. Cancelling the dialog does not restore the previous ones.
-    program_.session.graph.GraphSetParams = DefaultFormat;
+    program_.session.graph.GraphSetParams = FormatParameters::Default;
     ComposeAxisTitles(program_);
     FillFields();
   }
-  EnableFields(option == LastUsedFormat);
+  EnableFields(format == FormatParameters::LastUsed);
 }
 
 void GraphOptionsDialog::EnableFields(bool enabled) {
@@ -72,7 +70,7 @@ void GraphOptionsDialog::EnableFields(bool enabled) {
 }
 
 void GraphOptionsDialog::EnableSymbolSize() {
-  const bool drawsSymbols = Combo2.ListIndex() + FirstStyle != graph_style::LinesOnly;
+  const bool drawsSymbols = StyleOf(Combo2.ListIndex()) != CurveStyle::LinesOnly;
   lblSymbolSize.SetEnabled(drawsSymbols);
   txtSS.SetEnabled(drawsSymbols && Combo2.Enabled());
   HScroll1.SetEnabled(drawsSymbols && Combo2.Enabled());
@@ -94,11 +92,11 @@ void GraphOptionsDialog::ReadFields() const {
   graph.GraphTitle = Text1.Text();
   graph.XAxisTitle[curve] = Text2[curve].Text();
   graph.YAxisTitle[dependent] = Text3[dependent].Text();
-  graph.GridStyle = static_cast<Integer>(Combo1.ListIndex());
-  graph.GraphStyle = static_cast<Integer>(Combo2.ListIndex() + FirstStyle);
+  graph.GridStyle = static_cast<GridLines>(Combo1.ListIndex());
+  graph.GraphStyle = StyleOf(Combo2.ListIndex());
   graph.CurveLegend = Check1.Value();
   graph.SymbolSize = static_cast<Integer>(HScroll1.Value());
-  graph.GraphSetParams = GetArrayIndex(Option1);
+  graph.GraphSetParams = Chosen<FormatParameters>(Option1);
 }
 
 void GraphOptionsDialog::Accept() {

@@ -47,7 +47,7 @@ class GraphOptionsDialog : public ProgramForm {
 
  private:
   void FillFields();
-  void ChooseFormat(Integer option);
+  void ChooseFormat(FormatParameters format);
   void EnableFields(bool enabled);
   void EnableSymbolSize();
   void KeepToItems(Combo& list, int& lastValid);

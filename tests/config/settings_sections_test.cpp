@@ -392,8 +392,16 @@ TEST_F(SettingsSections, EveryBrowserSettingIsReadIntoItsOwnMember) {
   EXPECT_EQ(textBrowse.BrowseUseNotepad, 1);
 }
 
-TEST_F(SettingsSections, TheGraphFormatReadsBack) {
-  graph = {1, 2, 1, 0, 12, Metric, "Suggested support", {}, {}};
+TEST_F(SettingsSections, TheGraphFormatComesBack) {
+  graph = {FormatParameters::LastUsed,
+           GridLines::Vertical,
+           CurveStyle::LinesOnly,
+           0,
+           12,
+           Metric,
+           "Suggested support",
+           {},
+           {}};
   graph.XAxisTitle[0] = "CMRR";
   graph.XAxisTitle[9] = "Roof Fall Angle (deg)";
   graph.YAxisTitle[0] = "Suggested PSUP";
@@ -403,9 +411,9 @@ TEST_F(SettingsSections, TheGraphFormatReadsBack) {
 
   Read(section::Graph, text);
 
-  EXPECT_EQ(graph.GraphSetParams, 1);
-  EXPECT_EQ(graph.GridStyle, 2);
-  EXPECT_EQ(graph.GraphStyle, 1);
+  EXPECT_EQ(graph.GraphSetParams, FormatParameters::LastUsed);
+  EXPECT_EQ(graph.GridStyle, GridLines::Vertical);
+  EXPECT_EQ(graph.GraphStyle, CurveStyle::LinesOnly);
   EXPECT_EQ(graph.CurveLegend, 0);
   EXPECT_EQ(graph.SymbolSize, 12);
   EXPECT_EQ(graph.GraphUnits, Metric);
@@ -429,8 +437,8 @@ TEST_F(SettingsSections, TheSymbolSizeIsReadWithAndWithoutBlanksAroundItsKey) {
 TEST_F(SettingsSections, AGraphKeyOutsideItsRangeIsTheMinimum) {
   Read(section::Graph, "[Graph]\r\nGraphStyle=0\r\nGridStyle=4\r\nSymbolSize=21\r\nCurveLegend=5\r\n");
 
-  EXPECT_EQ(graph.GraphStyle, 1);
-  EXPECT_EQ(graph.GridStyle, 0);
+  EXPECT_EQ(graph.GraphStyle, CurveStyle::LinesOnly);
+  EXPECT_EQ(graph.GridStyle, GridLines::None);
   EXPECT_EQ(graph.SymbolSize, 3);
   EXPECT_EQ(graph.CurveLegend, 0);
 }

@@ -19,7 +19,7 @@ constexpr int LastUsedFormat = 1;
 // The rock load over the entry width is on view, in a format of the user's own.
 struct GraphFormat : GraphBench {
   GraphFormat() {
-    program.session.graph.GraphSetParams = LastUsedFormat;
+    program.session.graph.GraphSetParams = FormatParameters::LastUsed;
     program.session.graph.GraphTitle = "Panel 3";
     window.ShowCurve(5);
     program.session.graph.XAxisTitle[5] = "Width of the entry";
@@ -75,8 +75,8 @@ TEST_F(GraphFormat, NamesItselfItsFieldsAndItsCommands) {
 }
 
 TEST_F(GraphFormat, ShowsWhatIsStored) {
-  program.session.graph.GridStyle = 2;
-  program.session.graph.GraphStyle = 2;
+  program.session.graph.GridStyle = GridLines::Vertical;
+  program.session.graph.GraphStyle = CurveStyle::SymbolsOnly;
   program.session.graph.CurveLegend = 0;
   program.session.graph.SymbolSize = 11;
 
@@ -103,7 +103,7 @@ TEST_F(GraphFormat, OffersTheStylesInOrder) {
 }
 
 TEST_F(GraphFormat, OfLinesOnlyIsTheFirstStyleOfItsList) {
-  program.session.graph.GraphStyle = 1;
+  program.session.graph.GraphStyle = CurveStyle::LinesOnly;
 
   dialog.Open();
 
@@ -142,7 +142,7 @@ TEST_F(GraphFormat, DefaultActsAtOnce) {
 
   dialog.Option1.SetValue(DefaultFormat, true);
 
-  EXPECT_EQ(program.session.graph.GraphSetParams, 0);
+  EXPECT_EQ(program.session.graph.GraphSetParams, FormatParameters::Default);
   EXPECT_EQ(program.session.graph.XAxisTitle[5], "Entry Width (ft)");
   EXPECT_EQ(program.session.graph.YAxisTitle[1], "Rock Load Entries (tons/ft)");
   EXPECT_EQ(dialog.Text1.Text(), "Panel 3");
@@ -162,7 +162,7 @@ TEST_F(GraphFormat, DefaultCannotBeEdited) {
 }
 
 TEST_F(GraphFormat, DefaultTakesHoldWhenTheDialogOpensOnIt) {
-  program.session.graph.GraphSetParams = DefaultFormat;
+  program.session.graph.GraphSetParams = FormatParameters::Default;
 
   dialog.Open();
 
@@ -178,7 +178,7 @@ TEST_F(GraphFormat, DefaultStaysInForceAfterCancel) {
 
   dialog.Command1.Press();
 
-  EXPECT_EQ(program.session.graph.GraphSetParams, 0);
+  EXPECT_EQ(program.session.graph.GraphSetParams, FormatParameters::Default);
   EXPECT_EQ(program.session.graph.XAxisTitle[5], "Entry Width (ft)");
   EXPECT_FALSE(platform.files.files.contains("/home/user/ORBY.INI"));
 }
@@ -192,7 +192,7 @@ TEST_F(GraphFormat, LastUsedAfterDefaultKeepsWhatTheFieldsShow) {
   EXPECT_EQ(dialog.Text2[5].Text(), "Entry Width (ft)");
   EXPECT_THAT(EditingEnabled(), Each(true));
   EXPECT_TRUE(dialog.HScroll1.Enabled());
-  EXPECT_EQ(program.session.graph.GraphSetParams, 0);
+  EXPECT_EQ(program.session.graph.GraphSetParams, FormatParameters::Default);
 }
 
 TEST_F(GraphFormat, OfLinesOnlyHasNoSymbolSizeToChoose) {
@@ -212,7 +212,7 @@ TEST_F(GraphFormat, OfLinesOnlyHasNoSymbolSizeToChoose) {
 }
 
 TEST_F(GraphFormat, OfLinesOnlyHasNoSymbolSizeToChooseWhenLastUsedIsChosenAgain) {
-  program.session.graph.GraphStyle = 1;
+  program.session.graph.GraphStyle = CurveStyle::LinesOnly;
   dialog.Open();
   dialog.Option1.SetValue(DefaultFormat, true);
 
@@ -229,7 +229,7 @@ TEST_F(GraphFormat, OfLinesOnlyKeepsTheStoredSymbolSize) {
   dialog.Combo2.SetListIndex(0);
   dialog.Command2.Press();
 
-  EXPECT_EQ(program.session.graph.GraphStyle, 1);
+  EXPECT_EQ(program.session.graph.GraphStyle, CurveStyle::LinesOnly);
   EXPECT_EQ(program.session.graph.SymbolSize, 14);
 }
 
@@ -271,12 +271,12 @@ TEST_F(GraphFormat, IsStoredWithOK) {
   dialog.Command2.Press();
 
   EXPECT_FALSE(dialog.IsOpen());
-  EXPECT_EQ(program.session.graph.GraphSetParams, 1);
+  EXPECT_EQ(program.session.graph.GraphSetParams, FormatParameters::LastUsed);
   EXPECT_EQ(program.session.graph.GraphTitle, "Tailgate");
   EXPECT_EQ(program.session.graph.XAxisTitle[5], "Span of the entry");
   EXPECT_EQ(program.session.graph.YAxisTitle[1], "Weight of the rock");
-  EXPECT_EQ(program.session.graph.GridStyle, 1);
-  EXPECT_EQ(program.session.graph.GraphStyle, 2);
+  EXPECT_EQ(program.session.graph.GridStyle, GridLines::Horizontal);
+  EXPECT_EQ(program.session.graph.GraphStyle, CurveStyle::SymbolsOnly);
   EXPECT_EQ(program.session.graph.CurveLegend, 0);
   EXPECT_EQ(program.session.graph.SymbolSize, 10);
 }
@@ -384,7 +384,7 @@ TEST_F(GraphFormat, CancelledStoresNothing) {
 
   EXPECT_FALSE(dialog.IsOpen());
   EXPECT_EQ(program.session.graph.GraphTitle, "Panel 3");
-  EXPECT_EQ(program.session.graph.GridStyle, 3);
+  EXPECT_EQ(program.session.graph.GridStyle, GridLines::Both);
   EXPECT_EQ(program.session.graph.SymbolSize, 6);
   EXPECT_EQ(window.graph1.Heading(), "Panel 3");
   EXPECT_EQ(Drawn().legend, "Rock Load Straights");

@@ -116,17 +116,18 @@ TEST_F(GraphOfACurve, InMetricAfterOneInEnglishNamesAllAxesAnew) {
 
 TEST_F(GraphOfACurve, HasTheGridLinesOfItsStyle) {
   struct Row {
-    Integer style;
+    GridLines style;
     bool x;
     bool y;
   };
-  for (const Row& row : {Row{0, false, false}, Row{1, false, true}, Row{2, true, false}, Row{3, true, true}}) {
+  for (const Row& row : {Row{GridLines::None, false, false}, Row{GridLines::Horizontal, false, true},
+                         Row{GridLines::Vertical, true, false}, Row{GridLines::Both, true, true}}) {
     program.session.graph.GridStyle = row.style;
 
     window.GraphInit(1);
 
-    EXPECT_EQ(window.graph1.AxisX().grid, row.x) << row.style;
-    EXPECT_EQ(window.graph1.AxisY().grid, row.y) << row.style;
+    EXPECT_EQ(window.graph1.AxisX().grid, row.x) << NumberOf(row.style);
+    EXPECT_EQ(window.graph1.AxisY().grid, row.y) << NumberOf(row.style);
   }
 }
 
@@ -175,17 +176,18 @@ TEST_F(GraphOfACurve, IsABlueLineOfTheStoredWidth) {
 
 TEST_F(GraphOfACurve, ShowsLinesAndSymbolsByItsStyle) {
   struct Row {
-    Integer style;
+    CurveStyle style;
     bool line;
     bool symbols;
   };
-  for (const Row& row : {Row{1, true, false}, Row{2, false, true}, Row{3, true, true}}) {
+  for (const Row& row : {Row{CurveStyle::LinesOnly, true, false}, Row{CurveStyle::SymbolsOnly, false, true},
+                         Row{CurveStyle::LinesAndSymbols, true, true}}) {
     program.session.graph.GraphStyle = row.style;
 
     window.ShowCurve(1);
 
-    EXPECT_EQ(Drawn().hasLine, row.line) << row.style;
-    EXPECT_EQ(Drawn().hasSymbols, row.symbols) << row.style;
+    EXPECT_EQ(Drawn().hasLine, row.line) << NumberOf(row.style);
+    EXPECT_EQ(Drawn().hasSymbols, row.symbols) << NumberOf(row.style);
   }
 }
 
@@ -518,16 +520,16 @@ TEST_F(GraphOfACurve, KeepsWhatWasEditedInTheChartWhenItCloses) {
   EXPECT_EQ(program.session.graph.XAxisTitle[4], "Rock Load Height (ft)");
   EXPECT_EQ(program.session.graph.YAxisTitle[1], "Load");
   EXPECT_EQ(program.session.graph.YAxisTitle[2], "Rock Load Intersections (tons)");
-  EXPECT_EQ(program.session.graph.GridStyle, 2);
+  EXPECT_EQ(program.session.graph.GridStyle, GridLines::Vertical);
   EXPECT_EQ(program.session.graph.CurveLegend, 0);
   EXPECT_EQ(program.session.graph.SymbolSize, 12);
 }
 
 TEST_F(GraphOfACurve, StoresEachGridStyleAsItIsDrawn) {
-  for (Integer style = 0; style <= 3; ++style) {
+  for (const GridLines style : {GridLines::None, GridLines::Horizontal, GridLines::Vertical, GridLines::Both}) {
     program.session.graph.GridStyle = style;
     window.ShowCurve(1);
-    program.session.graph.GridStyle = -1;
+    program.session.graph.GridStyle = style == GridLines::None ? GridLines::Both : GridLines::None;
 
     window.Close();
 
