@@ -38,14 +38,17 @@ struct History {
   std::function<void()> Changed;  // called for each line, also when the history is switched off
 };
 
+// The dialog that opened the estimator of the roof rating.
+enum class EstimatorCaller { None = 0, ParametersDialog = 2 };
+
 // The last choice in the estimator of the roof rating.
 struct EstimatorState {
   Integer EstimatedCMRR = 0;  // 0: none
   Integer EstimatorRegion = 0;
   Integer EstimatorRockType = 0;
-  bool EstimatorManual = false;      // the chosen row is the last of its region
-  Integer EstimatorManualValue = 0;  // nothing sets it, so it has no effect
-  Integer CallerCode = 0;            // the dialog that opened the estimator
+  bool EstimatorManual = false;                        // the chosen row is the last of its region
+  Integer EstimatorManualValue = 0;                    // nothing sets it, so it has no effect
+  EstimatorCaller CallerCode = EstimatorCaller::None;  // kept, but nothing reads it
 };
 
 // The curve that was drawn last.
@@ -56,11 +59,7 @@ struct DrawnCurve : Curve {
 };
 
 // The input dialog that requested the report that is shown.
-namespace report_caller {
-inline constexpr Integer None = -1;
-inline constexpr Integer Parameters = 1;
-inline constexpr Integer Cost = 2;
-}  // namespace report_caller
+enum class InputDialog { None, Parameters, Cost };
 
 // The inputs of the calculations of a report.
 struct ReportBasis {
@@ -130,11 +129,11 @@ struct WindowState {
   EstimatorState estimator;
   DrawnCurve curve;
   Integer LastPage = 4;
-  Integer ReportCaller = report_caller::None;
+  InputDialog ReportCaller = InputDialog::None;
   Integer OptionsTab = 0;  // the last page of the options dialog
   Integer RecentMode = 0;
   bool DialogOpen = false;
-  std::function<void(Integer)> OpenInputDialog;  // opens the dialog of a report_caller, as the Input menu does
+  std::function<void(InputDialog)> OpenInputDialog;  // as the Input menu does
 };
 
 struct Program {

@@ -9,7 +9,7 @@
 namespace orby {
 namespace {
 
-constexpr Integer LoadConvertedProject = 1;
+enum class FileOption : Integer { KeepOriginalProject, LoadConvertedProject };
 
 }  // namespace
 
@@ -24,7 +24,7 @@ void ConvertDialog::OnOpen() {
   Option1.SetMemberEnabled(PlaceOf(Metric), other == Metric);
   SetArrayIndex(program_, Option1, NumberOf(other));
   // The converted project always becomes the open one.
-  SetArrayIndex(program_, Option2, LoadConvertedProject);
+  SetArrayIndex(program_, Option2, NumberOf(FileOption::LoadConvertedProject));
 }
 
 void ConvertDialog::Convert() {

@@ -100,7 +100,7 @@ void CostDialog::OnOpen() {
   HoldEvents = true;
   CommitOnClose = false;
   WasCommitted = false;
-  program_.windows.ReportCaller = report_caller::Cost;
+  program_.windows.ReportCaller = InputDialog::Cost;
   FillFields();
   AppendUnits(*this, program_.project.WorkParms.Units);
   CalcAdvance();
@@ -176,7 +176,7 @@ void CostDialog::BuildReport() {
   previewed = program_.project.WorkParms;
   ReadEdits(previewed);
   TakeCalculationPage(program_, CostReport(previewed.Cost, previewed.Units));
-  program_.windows.ReportCaller = report_caller::Cost;
+  program_.windows.ReportCaller = InputDialog::Cost;
   LoadOutBuf0(program_, previewed);
 }
 

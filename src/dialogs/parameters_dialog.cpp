@@ -92,7 +92,7 @@ void ParametersDialog::OnOpen() {
   HoldEvents = true;
   CommitOnClose = false;
   WasCommitted = false;
-  program_.windows.ReportCaller = report_caller::Parameters;
+  program_.windows.ReportCaller = InputDialog::Parameters;
   for (TabSet* tabs : {&SSTab1, &SSTab2, &SSTab3}) {
     tabs->SetTab(0);
     for (int tab = 1; tab < tabs->Count(); ++tab) tabs->SetTabEnabled(tab, false);
@@ -143,16 +143,15 @@ void ParametersDialog::OnClose() {
 
 bool ParametersDialog::BuildReport() {
   if (!CopyToWorkParmsCopy()) return false;
-  program_.windows.ReportCaller = report_caller::Parameters;
+  program_.windows.ReportCaller = InputDialog::Parameters;
   BuildResults(program_, program_.windows.WorkParmsCopy);
   return true;
 }
 
 void ParametersDialog::Estimate() {
-  constexpr Integer ParametersCaller = 2;
   EstimatorState& estimator = program_.windows.estimator;
   estimator.EstimatedCMRR = 0;
-  estimator.CallerCode = ParametersCaller;
+  estimator.CallerCode = EstimatorCaller::ParametersDialog;
   EstimatorDialog dialog(program_);
   ShowForm(program_, dialog);
   if (!dialog.CommitOnClose) return;

@@ -98,7 +98,7 @@ void ResultsWindow::DrawChosenCurve() {
 void ResultsWindow::ChangeInput() {
   Close();
   // A dialog that is still open reappears by itself.
-  if (program_.windows.DialogOpen || program_.windows.ReportCaller == report_caller::None) return;
+  if (program_.windows.DialogOpen || program_.windows.ReportCaller == InputDialog::None) return;
   if (program_.windows.OpenInputDialog) program_.windows.OpenInputDialog(program_.windows.ReportCaller);
 }
 

@@ -22,8 +22,8 @@ MainWindow::MainWindow(Program& program, std::optional<Restart> restart)
   lblver.SetCaption("Version: " + VersionText(true));
   TieCommands();
   TieHistory();
-  program_.windows.OpenInputDialog = [this](Integer caller) {
-    EditCommand(caller == report_caller::Cost ? EditItem::Cost : EditItem::Parameters);
+  program_.windows.OpenInputDialog = [this](InputDialog caller) {
+    EditCommand(caller == InputDialog::Cost ? EditItem::Cost : EditItem::Parameters);
   };
 }
 

@@ -392,7 +392,7 @@ TEST_F(SettingsSections, EveryBrowserSettingIsReadIntoItsOwnMember) {
   EXPECT_EQ(textBrowse.BrowseUseNotepad, 1);
 }
 
-TEST_F(SettingsSections, TheGraphFormatComesBack) {
+TEST_F(SettingsSections, TheGraphFormatReadsBack) {
   graph = {FormatParameters::LastUsed,
            GridLines::Vertical,
            CurveStyle::LinesOnly,

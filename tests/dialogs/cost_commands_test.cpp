@@ -262,7 +262,7 @@ TEST_F(ACostDialog, CommitsNothingByShowingResults) {
   for (const FieldCase& field : CostFieldCases) Box(field.name).SetText(std::string(field.text));
   dialog.chkAdvance.SetValue(0);
   dialog.chkProduction.SetValue(0);
-  program.windows.ReportCaller = report_caller::None;
+  program.windows.ReportCaller = InputDialog::None;
 
   dialog.cmdresults.Press();
 
@@ -275,7 +275,7 @@ TEST_F(ACostDialog, CommitsNothingByShowingResults) {
   EXPECT_EQ(program.project.WorkParms.Cost.Advance, 1);
   EXPECT_EQ(program.project.WorkParms.Cost.Production, 1);
   EXPECT_EQ(program.project.WorkParms.Place.CMRR, 45);
-  EXPECT_EQ(program.windows.ReportCaller, report_caller::Cost);
+  EXPECT_EQ(program.windows.ReportCaller, InputDialog::Cost);
   EXPECT_TRUE(program.project.FileSaved);
   EXPECT_FALSE(program.project.UnitsLocked);
   EXPECT_TRUE(dialog.IsOpen());

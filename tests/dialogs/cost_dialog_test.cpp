@@ -57,7 +57,7 @@ TEST_F(ACostDialog, TellsTheHistoryAndTheProgramThatItIsOpen) {
   dialog.Open();
 
   EXPECT_TRUE(program.windows.DialogOpen);
-  EXPECT_EQ(program.windows.ReportCaller, report_caller::Cost);
+  EXPECT_EQ(program.windows.ReportCaller, InputDialog::Cost);
   EXPECT_EQ(program.session.history.Text, "1. Editing Project Parameters\r\n");
   EXPECT_EQ(program.windows.titles.RangeErrorTitle, "Project Parameters: Range Error");
   EXPECT_EQ(platform.windows.centered, 1);

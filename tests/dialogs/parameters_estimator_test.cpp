@@ -37,7 +37,7 @@ TEST_F(RatingEstimate, StartsFromTheDesignsRockForTheParametersDialog) {
     asked = true;
     auto& estimator = dynamic_cast<EstimatorDialog&>(form);
     EXPECT_EQ(program.windows.estimator.EstimatedCMRR, 0);
-    EXPECT_EQ(program.windows.estimator.CallerCode, 2);
+    EXPECT_EQ(program.windows.estimator.CallerCode, EstimatorCaller::ParametersDialog);
     EXPECT_EQ(GetArrayIndex(estimator.optLocation), 1);
     EXPECT_EQ(estimator.VSFlexGrid1.Row(), 2);
   };
@@ -45,7 +45,7 @@ TEST_F(RatingEstimate, StartsFromTheDesignsRockForTheParametersDialog) {
   dialog.cmdCMRR.Press();
 
   EXPECT_TRUE(asked);
-  EXPECT_EQ(program.windows.ReportCaller, 1);
+  EXPECT_EQ(program.windows.ReportCaller, InputDialog::Parameters);
 }
 
 TEST_F(RatingEstimate, BecomesTheRatingAndRefreshesTheSuggestions) {

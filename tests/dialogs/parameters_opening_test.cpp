@@ -25,7 +25,7 @@ TEST_F(OpeningParameters, IsLoggedCentredAndFreeOfTheWaitCursor) {
 
 TEST_F(OpeningParameters, TakesTheDialogsFlagsTitlesAndReport) {
   dialog.HoldEvents = dialog.CommitOnClose = dialog.WasCommitted = true;
-  program.windows.ReportCaller = report_caller::Cost;
+  program.windows.ReportCaller = InputDialog::Cost;
 
   dialog.Open();
 
@@ -33,7 +33,7 @@ TEST_F(OpeningParameters, TakesTheDialogsFlagsTitlesAndReport) {
   EXPECT_FALSE(dialog.HoldEvents);
   EXPECT_FALSE(dialog.CommitOnClose);
   EXPECT_FALSE(dialog.WasCommitted);
-  EXPECT_EQ(program.windows.ReportCaller, 1);
+  EXPECT_EQ(program.windows.ReportCaller, InputDialog::Parameters);
   EXPECT_EQ(program.windows.titles.RangeErrorTitle, "Project Parameters: Range Error");
 }
 

@@ -97,14 +97,14 @@ TEST_F(ParameterPreview, CopiesTheFieldsWithoutCommittingThem) {
 TEST_F(ParameterPreview, ShowsTheResultsOfTheFieldsAsTheyStand) {
   dialog.Open();
   Do("txtDepthofCover=512.5|txtStabilityFactor=1.5");
-  program.windows.ReportCaller = report_caller::None;
+  program.windows.ReportCaller = InputDialog::None;
 
   dialog.cmdresults.Press();
 
   EXPECT_EQ(platform.windows.modalForms, 1);
   EXPECT_THAT(program.session.OutBuf[0], HasSubstr("512.5 (ft)"));
   EXPECT_THAT(program.session.OutBuf[1], HasSubstr("[ORBY CALCULATIONS]"));
-  EXPECT_EQ(program.windows.ReportCaller, 1);
+  EXPECT_EQ(program.windows.ReportCaller, InputDialog::Parameters);
   EXPECT_EQ(program.windows.LastPage, 1);
 }
 

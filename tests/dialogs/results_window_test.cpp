@@ -24,9 +24,9 @@ struct AResultsWindow : testing::Test {
   AResultsWindow() {
     program.session.OutBuf = {"inputs\r\n", "calculations\r\n", "", "", ""};
     program.windows.LastPage = 1;
-    program.windows.ReportCaller = report_caller::Parameters;
+    program.windows.ReportCaller = InputDialog::Parameters;
     program.windows.DialogOpen = true;
-    program.windows.OpenInputDialog = [this](Integer caller) { reopened.push_back(caller); };
+    program.windows.OpenInputDialog = [this](InputDialog caller) { reopened.push_back(caller); };
     Design& design = program.windows.WorkParmsCopy;
     design.Place.CMRR = 45;
     design.Place.DepthofCover = 400;
@@ -42,7 +42,7 @@ struct AResultsWindow : testing::Test {
 
   RecordingPlatform platform;
   Program program{platform.Doors()};
-  std::vector<Integer> reopened;
+  std::vector<InputDialog> reopened;
   ResultsWindow window{program};
 };
 
@@ -405,8 +405,8 @@ TEST_F(AResultsWindow, GoesBackToTheDialogThatIsStillOpen) {
 
 TEST_F(AResultsWindow, OpensTheDialogThatAskedForTheReport) {
   program.windows.DialogOpen = false;
-  program.windows.ReportCaller = report_caller::Cost;
-  program.windows.OpenInputDialog = [this](Integer caller) {
+  program.windows.ReportCaller = InputDialog::Cost;
+  program.windows.OpenInputDialog = [this](InputDialog caller) {
     EXPECT_FALSE(window.IsOpen());
     reopened.push_back(caller);
   };
@@ -414,13 +414,13 @@ TEST_F(AResultsWindow, OpensTheDialogThatAskedForTheReport) {
 
   window.cmdChangeInput.Press();
 
-  EXPECT_THAT(reopened, ElementsAre(2));
+  EXPECT_THAT(reopened, ElementsAre(InputDialog::Cost));
   EXPECT_TRUE(platform.windows.mainWindowShown);
 }
 
 TEST_F(AResultsWindow, OnlyClosesWhenNoDialogAskedForTheReport) {
   program.windows.DialogOpen = false;
-  program.windows.ReportCaller = report_caller::None;
+  program.windows.ReportCaller = InputDialog::None;
   window.Open();
 
   window.cmdChangeInput.Press();

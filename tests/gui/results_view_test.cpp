@@ -140,13 +140,13 @@ TEST_F(ResultsView, HasTheTextReadOnly) {
 }
 
 TEST_F(ResultsView, ChangesTheInputInTheDialogThatAskedForTheReport) {
-  std::vector<Integer> reopened;
-  program.windows.ReportCaller = report_caller::Cost;
-  program.windows.OpenInputDialog = [&](Integer caller) { reopened.push_back(caller); };
+  std::vector<InputDialog> reopened;
+  program.windows.ReportCaller = InputDialog::Cost;
+  program.windows.OpenInputDialog = [&](InputDialog caller) { reopened.push_back(caller); };
 
   UseResults([&](QDialog& window) { PressLetterOf(window, "cmdChangeInput"); });
 
-  EXPECT_THAT(reopened, testing::ElementsAre(report_caller::Cost));
+  EXPECT_THAT(reopened, testing::ElementsAre(InputDialog::Cost));
 }
 
 // ---- curves ---------------------------------------------------------------------------------------------------------

@@ -126,8 +126,8 @@ TEST_F(InputMenu, OpensTheDialogThatTheResultsReturnTo) {
   std::vector<std::string> names;
   platform.windows.onModal = [&](Form& form) { names.emplace_back(form.Name()); };
 
-  program.windows.OpenInputDialog(report_caller::Parameters);
-  program.windows.OpenInputDialog(report_caller::Cost);
+  program.windows.OpenInputDialog(InputDialog::Parameters);
+  program.windows.OpenInputDialog(InputDialog::Cost);
 
   EXPECT_THAT(names, ElementsAre("frmPENVParm", "frmTULKCost"));
 }

@@ -225,7 +225,7 @@ TEST_F(PrintedResults, LeaveTheProjectUnchanged) {
   program.project.WorkParms.Entries.Cable.SupportCap = 3;  // from the file; the dialog computes another one
   program.windows.WorkParmsCopy.Place.DepthofCover = 900;
   program.windows.estimator.EstimatorRegion = 4;
-  program.windows.ReportCaller = report_caller::Cost;
+  program.windows.ReportCaller = InputDialog::Cost;
   program.session.history.Text.clear();
 
   Printed();
@@ -233,7 +233,7 @@ TEST_F(PrintedResults, LeaveTheProjectUnchanged) {
   EXPECT_EQ(program.project.WorkParms.Entries.Cable.SupportCap, 3);
   EXPECT_EQ(program.windows.WorkParmsCopy.Place.DepthofCover, 900);
   EXPECT_EQ(program.windows.estimator.EstimatorRegion, 4);
-  EXPECT_EQ(program.windows.ReportCaller, report_caller::Cost);
+  EXPECT_EQ(program.windows.ReportCaller, InputDialog::Cost);
   EXPECT_FALSE(program.windows.DialogOpen);
   EXPECT_TRUE(program.project.FileSaved);
   EXPECT_EQ(program.session.history.Text, "");
