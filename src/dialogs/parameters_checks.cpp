@@ -340,7 +340,7 @@ bool Fails(const Rule& rule, const D& dialog) {
   return OrNothing([&] { return std::optional(rule.fails(dialog)); }).value_or(true);
 }
 
-void Tell(Program& program, D& dialog, const Section& section, const Rule& rule) {
+void ReportFault(Program& program, D& dialog, const Section& section, const Rule& rule) {
   std::string message(rule.message);
   if (rule.suffix != nullptr) message += rule.suffix(dialog);
   ShowMessage(program, message, BoxIcon::Critical, program.windows.titles.RangeErrorTitle);
@@ -358,7 +358,7 @@ bool ParametersDialog::ValidateParameters() {
     if (!section.applies(*this)) continue;
     for (const Rule& rule : section.rules) {
       if (!Fails(rule, *this)) continue;
-      Tell(program_, *this, section, rule);
+      ReportFault(program_, *this, section, rule);
       passed = false;
       break;
     }

@@ -18,7 +18,7 @@
 namespace orby {
 namespace {
 
-// The names that the toolkit and the desktop know the program by; no argument of the user's reaches the toolkit.
+// Starts the toolkit with the program's names. The user's arguments do not reach the toolkit.
 class ToolkitStart {
  public:
   ToolkitStart() : application_(count_, names_) {
@@ -26,7 +26,7 @@ class ToolkitStart {
     QApplication::setApplicationDisplayName(QString());
     QApplication::setDesktopFileName("orby");
     QApplication::setQuitOnLastWindowClosed(false);
-    // The texts are English and the numbers have a point on every desktop; so lines run from left to right on all.
+    // The texts are English and the numbers have a decimal point on every desktop, so the layout is left to right, too.
     QApplication::setLayoutDirection(Qt::LeftToRight);
     QLocale::setDefault(QLocale::c());
   }
@@ -38,7 +38,7 @@ class ToolkitStart {
   QApplication application_;
 };
 
-// Nothing is saved or written but what is kept for the next start.
+// Ends the process. Only the unsaved changes are written, for the next start.
 [[noreturn]] void EndRun(Desktop& desktop, MainWindow* window, const RuntimeError& error) {
   std::optional<RunEnd> end;
   if (window != nullptr) end = window->LeaveAtOnce();
@@ -63,7 +63,7 @@ int RunProgram(FileSystem& files, FileTypes& fileTypes, const std::vector<std::s
   Program program(desktop.Doors());
   std::unique_ptr<MainWindow> window;
   SetErrorHandler([&](const RuntimeError& error) { EndRun(desktop, window.get(), error); });
-  // What was being edited is kept for the next start.
+  // Unsaved changes are kept for the next start.
   program.EndAtOnce = [&] {
     if (window) window->LeaveAtOnce();
     std::_Exit(EXIT_SUCCESS);
@@ -81,7 +81,7 @@ int RunProgram(FileSystem& files, FileTypes& fileTypes, const std::vector<std::s
     desktop.windows.ShowMain(*window, program.session.settings.MaxMainMenu == 1);
     DressMainWindow(desktop.windows.Main(), *window);
   });
-  // Once the window has been painted.
+  // Runs after the window has been painted.
   QMetaObject::invokeMethod(
       qApp, [&] { RunGuarded([&] { window->OpenFirstFiles(file); }); }, Qt::QueuedConnection);
   return QApplication::exec();

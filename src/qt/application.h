@@ -1,4 +1,4 @@
-// The program on the desktop.
+// The desktop program.
 #pragma once
 
 #include <string>
@@ -9,8 +9,8 @@
 
 namespace orby {
 
-// Runs the program until its window is closed. Returns its exit status: 1 after a run-time error that nothing dealt
-// with. The arguments are those after the program's name.
+// Runs the program until its window is closed. Returns the exit status, which is 1 after an unhandled run-time error.
+// arguments: those after the program's name.
 int RunProgram(FileSystem& files, FileTypes& fileTypes, const std::vector<std::string>& arguments);
 
 }  // namespace orby

@@ -9,11 +9,11 @@ namespace {
 constexpr qint64 SumPiece = 1 << 20;
 
 QString PartPath(const QString& path) { return path + ".part"; }
-// The address and the mark of the part, a line each.
+// The file with the address and the mark of a partial download, one per line.
 QString OriginPath(const QString& path) { return path + ".part.origin"; }
 QString LockPath(const QString& path) { return path + ".part.lock"; }
 
-// The mark of a part that came from this address; empty when there is none.
+// Returns the mark of a partial download from this address; empty if there is none.
 QByteArray MarkOf(const QString& path, const QString& address) {
   constexpr qint64 MostOrigin = 8192;
   QFile origin(OriginPath(path));
@@ -32,7 +32,7 @@ bool WriteOrigin(const QString& path, const QString& address, const QByteArray& 
 
 ArrivingFile::ArrivingFile(const QString& path, const QString& address, bool resumes)
     : path_(path), address_(address), resumes_(resumes), lock_(LockPath(path)) {
-  // A lock is left behind only by a program that is no more, however long a fetch takes.
+  // A lock is stale only if its program has ended, however long a fetch takes.
   lock_.setStaleLockTime(0);
 }
 
@@ -68,7 +68,7 @@ bool ArrivingFile::SumUpSome() {
   if (summedUp_ >= size_) return false;
   const QByteArray piece = file_->read(std::min(SumPiece, size_ - summedUp_));
   if (piece.isEmpty()) {
-    // Somebody has cut it short.
+    // Another program has shortened the file.
     StartAnew({});
     return false;
   }

@@ -1,4 +1,4 @@
-// A file that arrives over the network, under a name of its own until all of it is there.
+// A file that is being downloaded. It has a temporary name until it is complete.
 #pragma once
 
 #include <QByteArray>
@@ -12,35 +12,35 @@ namespace orby {
 
 class ArrivingFile {
  public:
-  // address: where the file comes from; resumes: what has arrived stays beside the path when the rest does not, and the
-  // next file of this path goes on from there.
+  // address: the source of the file.
+  // resumes: keep an incomplete download beside the path, so that the next one of this path continues it.
   ArrivingFile(const QString& path, const QString& address, bool resumes);
-  // What is not whole is removed, unless another fetch can go on from it.
+  // Removes an incomplete file, unless a later fetch can resume it.
   ~ArrivingFile();
   ArrivingFile(const ArrivingFile&) = delete;
   ArrivingFile& operator=(const ArrivingFile&) = delete;
 
-  // Makes the file, or takes up what an earlier fetch has left. False when that cannot be done, or while another
-  // program is fetching the same.
+  // Creates the file or opens an incomplete download. Returns false if that fails or another program is fetching the
+  // same file.
   bool Open();
 
   qint64 Size() const { return size_; }
-  // The server's mark of the file that the bytes here are the start of; empty when there are none.
+  // Returns the server's mark of the file whose first bytes are here; empty if there are none.
   const QByteArray& Mark() const { return mark_; }
 
-  // Reads the next of the bytes that were taken up into the sum; false when it has read them all.
+  // Adds the next piece of the existing bytes to the checksum. Returns false after the last one.
   bool SumUpSome();
 
-  // Empties the file, which from here on is the one with this mark; empty when the server gives none. The steps below
-  // give false when the disk refuses them.
+  // Empties the file and gives it a new mark; empty if the server sends none. This and the next functions return false
+  // if the disk refuses.
   bool StartAnew(const QByteArray& mark);
   bool Append(const QByteArray& bytes);
-  // Puts the file in its place.
+  // Moves the complete file to its path.
   bool Finish();
-  // The bytes are not worth keeping.
+  // Marks the bytes as useless, so that they are not kept.
   void Drop() { mark_.clear(); }
 
-  // Of all bytes, 64 lower-case hexadecimal digits.
+  // Returns the checksum of all bytes as 64 lower-case hexadecimal digits.
   std::string Sha256() const { return sum_.result().toHex().toStdString(); }
 
  private:

@@ -8,7 +8,7 @@
 namespace orby {
 namespace {
 
-// Tries the kinds one by one; a kind stands before those that it is derived from.
+// Tries one type. Derived types are tried before their base.
 template <class T, class Make>
 BindingPointer As(Control& control, const Make& make) {
   auto* typed = dynamic_cast<T*>(&control);

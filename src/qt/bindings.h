@@ -1,4 +1,4 @@
-// What ties one control of a form to its widgets: it shows the control as it stands, and hands on what the user does.
+// Connects one control of a form to its widgets: shows the control's state and passes the user's actions on.
 #pragma once
 
 #include <QFont>
@@ -17,11 +17,11 @@ namespace orby {
 class Chart;
 class Mnemonics;
 
-// A caption of a widget that the keyboard can reach by a letter of it.
+// A caption that can have a mnemonic letter.
 struct CaptionSlot {
   const QObject* key = nullptr;
-  int index = 0;                   // of the part of the widget that bears it
-  const QWidget* place = nullptr;  // what must be on view for it to be reached
+  int index = 0;                   // of the part of the widget with this caption
+  const QWidget* place = nullptr;  // must be visible for the letter to work
   std::string caption;
 };
 
@@ -31,8 +31,8 @@ class BindingHost {
   virtual ~BindingHost() = default;
   virtual QWidget& Root() const = 0;
   virtual const Mnemonics& Letters() const = 0;
-  // Runs an act of the user, at once or from the event queue. What may show a modal dialog goes through the queue, so
-  // that whoever pressed a button from outside never waits for the dialog's end.
+  // Runs an action of the user at once (Act) or from the event queue (ActLater). Actions that may open a modal dialog
+  // use the queue, so that an assistive program that presses a button does not wait for the dialog to close.
   virtual void Act(const std::function<void()>& act) = 0;
   virtual void ActLater(std::function<void()> act) = 0;
 };
@@ -40,22 +40,22 @@ class BindingHost {
 class Binding {
  public:
   virtual ~Binding() = default;
-  // Shows the control as it stands, without the user's acts being fired.
+  // Shows the control's state without triggering the user's actions.
   virtual void Show() = 0;
-  // Takes the colours of the desktop, at first and whenever they change.
+  // Adopts the desktop's colours, at the start and after each change of the theme.
   virtual void ShowTheme() {}
-  // The widgets of the control, in the order of the tab key.
+  // Returns the widgets of the control in tab order.
   virtual std::vector<QWidget*> Widgets() const = 0;
   virtual std::vector<CaptionSlot> Captions() const { return {}; }
-  // Whether the place of the hidden widget stays free, so that nothing moves.
+  // Returns true if a hidden widget keeps its place, so that nothing else moves.
   virtual bool KeepsPlace() const { return false; }
-  // The widget that gets the focus when the control asks for it.
+  // Returns the widget that gets the focus if the control requests it.
   virtual QWidget* FocusWidget() const { return Widgets().empty() ? nullptr : Widgets().front(); }
 };
 
 using BindingPointer = std::unique_ptr<Binding>;
 
-// The object of that name and kind in the window. Throws std::logic_error when the form file lacks it.
+// Returns the object of this name and type in the window. Throws std::logic_error if the form file lacks it.
 QObject& FindObject(const BindingHost& host, const std::string& name);
 
 template <class T>
@@ -63,7 +63,7 @@ T& FindNamed(const BindingHost& host, const std::string& name) {
   return dynamic_cast<T&>(FindObject(host, name));
 }
 
-// The binding of a control that one widget shows, by default the one that bears its name.
+// The binding of a control with one widget, by default the widget of the same name.
 template <class Widget, class Shown>
 class WidgetBinding : public Binding {
  public:
@@ -79,23 +79,23 @@ class WidgetBinding : public Binding {
   Widget& widget_;
 };
 
-// Shows whether the control can be used and seen.
+// Enables or disables the widget, and shows or hides it, like the control.
 inline void ShowState(QWidget& widget, const Control& control) {
   widget.setEnabled(control.Enabled());
   widget.setVisible(control.Visible());
 }
 
-// Whether a modal window stands before the widget's own.
+// Returns true if a modal window blocks the widget's window.
 bool IsBlocked(const QWidget& widget);
 
-// Whether the user can change the widget now: it is enabled and shown, and no modal window stands before its own. The
-// toolkit lets screen readers change any widget, so it is asked on every change.
+// Returns true if the user can change the widget now: it is enabled, visible and not blocked by a modal window. Checked
+// on every change, because the toolkit lets screen readers change any widget.
 bool IsUsable(const QWidget& widget);
 
-// The font of the user's choice for the widget, or what takes its place on a machine without it.
+// Returns the font that the user chose for the widget, or its substitute on this machine.
 QFont FontOf(const FontChoice& choice, const QWidget& widget);
 
-// The name of a member of an array: "optUnits_1".
+// Returns the name of a member of an array, such as "optUnits_1".
 std::string MemberName(const Control& control, int index);
 
 BindingPointer BindLabel(BindingHost& host, const Label& label);
@@ -111,12 +111,12 @@ BindingPointer BindGrid(BindingHost& host, Grid& grid);
 BindingPointer BindTabSet(BindingHost& host, TabSet& tabs);
 BindingPointer BindMenu(BindingHost& host, const Menu& menu);
 BindingPointer BindActionArray(BindingHost& host, const ActionArray& actions);
-BindingPointer BindPlain(BindingHost& host, const Control& control);  // shown, and nothing else
+BindingPointer BindPlain(BindingHost& host, const Control& control);  // shows the control without any user action
 BindingPointer BindProgressBar(BindingHost& host, const ProgressBar& bar);
 BindingPointer BindTextPane(BindingHost& host, const TextPane& pane);
 BindingPointer BindChart(BindingHost& host, const Chart& chart);
 
-// The binding that fits the kind of the control.
+// Returns the binding for the control's type.
 BindingPointer Bind(BindingHost& host, Control& control);
 
 }  // namespace orby

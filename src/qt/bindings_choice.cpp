@@ -1,4 +1,4 @@
-// What the user chooses from: boxes, options, lists.
+// Bindings of check boxes, options and lists.
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
@@ -39,7 +39,7 @@ class CheckBinding : public WidgetBinding<QCheckBox, CheckBox> {
   std::vector<CaptionSlot> Captions() const override { return {{&widget_, 0, &widget_, control_.Caption()}}; }
 };
 
-// Exclusive buttons do not let themselves be switched off.
+// An exclusive button cannot be switched off.
 void SwitchOff(QRadioButton& member) {
   const auto set = [&member](bool exclusive) {
     member.setAutoExclusive(exclusive);
@@ -103,7 +103,7 @@ class OptionBinding : public Binding {
   std::vector<QRadioButton*> members_;
 };
 
-// A list with a text of its own: neither completes nor corrects what is typed.
+// A list with a text field. It neither completes nor corrects what the user types.
 class ComboBinding : public QObject, public WidgetBinding<QComboBox, Combo> {
  public:
   ComboBinding(BindingHost& host, Combo& combo) : WidgetBinding(host, combo) {
@@ -130,7 +130,7 @@ class ComboBinding : public QObject, public WidgetBinding<QComboBox, Combo> {
   }
   bool KeepsPlace() const override { return true; }
 
-  // The wheel scrolls the dialog and does not change a list that it happens to pass over.
+  // The wheel scrolls the dialog. It does not change a list under the pointer that has no focus.
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::Wheel && !widget_.hasFocus()) {
       event->ignore();
@@ -142,13 +142,13 @@ class ComboBinding : public QObject, public WidgetBinding<QComboBox, Combo> {
  private:
   void TakeText() {
     if (!IsUsable(widget_)) return Show();
-    // An item that is chosen sets its text before it tells of the choice, and others may have the same text.
+    // The widget sets the text of a chosen item before it reports the choice. Other items may have the same text.
     const int index = widget_.currentIndex();
     if (index >= 0 && widget_.itemText(index) == widget_.currentText()) return Choose(index);
     host_.Act([this] { control_.SetText(FromQt(widget_.currentText())); });
   }
 
-  // A text that a screen reader sets has come to its end at once. That of an item is followed by its choice.
+  // A text that a screen reader sets is complete at once. The text of an item is followed by its choice.
   void TakeWholeText() {
     const bool isTyped = std::exchange(isTyped_, false);
     if (!isTyped && widget_.currentText() != widget_.itemText(widget_.currentIndex())) TakeText();
@@ -158,8 +158,8 @@ class ComboBinding : public QObject, public WidgetBinding<QComboBox, Combo> {
     host_.Act([this, index] { control_.SetListIndex(index); });
   }
 
-  // Screen readers mark an item without going to it. In a list that has dropped down the arrows and the mouse go to the
-  // item that they mark, and choose none before Enter or a click.
+  // Screen readers select an item without making it the current one. In an open drop-down list the arrow keys and the
+  // mouse make the item current, too, but choose it only by Enter or a click.
   void FollowMark() {
     const QAbstractItemView& list = *widget_.view();
     const QModelIndexList marked = list.selectionModel()->selectedIndexes();
@@ -181,7 +181,7 @@ class ComboBinding : public QObject, public WidgetBinding<QComboBox, Combo> {
     for (const ComboItem& item : items) widget_.addItem(ToQt(item.text));
   }
 
-  // Selecting an item, or none, changes the text too. What is being typed keeps its cursor.
+  // Selecting an item, or none, changes the text too. The cursor stays in place while the user types.
   void ShowText() {
     const QString text = ToQt(control_.Text());
     const bool isShown = widget_.currentText() == text;
@@ -192,11 +192,11 @@ class ComboBinding : public QObject, public WidgetBinding<QComboBox, Combo> {
     widget_.lineEdit()->setCursorPosition(cursor);
   }
 
-  bool isTyped_ = false;  // the change of the text that comes next
+  bool isTyped_ = false;  // applies to the next change of the text
 };
 
-// Of commands, the Enter key chooses as a click does. The toolkit's own activation would follow a double click too, the
-// first press of which has been a click already.
+// In a list of commands, the Enter key chooses like a click. The toolkit's own activation would also react to a double
+// click, whose first press has already chosen.
 class ListBinding : public QObject, public WidgetBinding<QListWidget, List> {
  public:
   ListBinding(BindingHost& host, List& list) : WidgetBinding(host, list) {
@@ -210,7 +210,7 @@ class ListBinding : public QObject, public WidgetBinding<QListWidget, List> {
           host_.Act([this, index = widget_.row(selected.constFirst())] { control_.ClickItem(index); });
         }
       });
-      // A click on the item that is selected already changes no selection.
+      // A click on the selected item does not change the selection.
       connect(&widget_, &QListWidget::itemClicked, this, [this](const QListWidgetItem* item) {
         const int index = widget_.row(item);
         if (index == control_.ListIndex()) host_.Act([this, index] { control_.ClickItem(index); });
@@ -235,7 +235,7 @@ class ListBinding : public QObject, public WidgetBinding<QListWidget, List> {
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->isInputEvent()) NoteHand();
-    // The first click may have filled the list anew: the second must not choose what stands there by now.
+    // The first click may have refilled the list, and the second must not choose another item.
     if (event->type() == QEvent::MouseButtonDblClick) return true;
     if (event->type() == QEvent::KeyPress && widget_.currentItem() != nullptr) {
       const int key = dynamic_cast<QKeyEvent*>(event)->key();
@@ -248,14 +248,14 @@ class ListBinding : public QObject, public WidgetBinding<QListWidget, List> {
   }
 
  private:
-  // Until the event of the key or the mouse has come to its end.
+  // Lasts until the event of the key or the mouse is over.
   void NoteHand() {
     isByHand_ = true;
     const auto forget = [this] { isByHand_ = false; };
     QMetaObject::invokeMethod(this, forget, Qt::QueuedConnection);
   }
 
-  // Keys and the mouse only pass over what they mark on their way; what a screen reader marks is meant.
+  // Keys and the mouse may select items on their way. A selection by a screen reader is a choice.
   void FollowMark() {
     const auto marked = widget_.selectedItems();
     if (!IsUsable(widget_)) {
@@ -274,7 +274,7 @@ class ListBinding : public QObject, public WidgetBinding<QListWidget, List> {
     return true;
   }
 
-  // An act that waits before this one may fill the list anew: then what was meant is not there any more.
+  // An earlier action in the queue may refill the list. The item is then gone and nothing is chosen.
   void Choose(const QListWidgetItem& item) {
     host_.ActLater([this, index = widget_.row(&item), text = item.text()] {
       const QListWidgetItem* there = widget_.item(index);

@@ -1,4 +1,4 @@
-// Grids, and the editing of their cells.
+// Bindings of grids, and the editor of their cells.
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -13,12 +13,11 @@
 namespace orby {
 namespace {
 
-// The models measure columns in twentieths of a point.
+// The models measure columns in twips, which are twentieths of a point.
 constexpr int TwipsPerInch = 1440;
 
-// The text box that lies over the selected cell. It has the keyboard in place of the grid: Enter, Up and Down go to
-// another row, Tab to the next cell and out of the grid behind the last one, and Escape gives the cell its old text
-// back.
+// The text box over the selected cell. It has the focus instead of the grid. Enter, Up and Down go to another row. Tab
+// goes to the next cell, and after the last one out of the grid. Escape restores the cell's text.
 class CellEditor : public QObject {
  public:
   CellEditor(BindingHost& host, Grid& grid, QTableWidget& widget)
@@ -31,7 +30,7 @@ class CellEditor : public QObject {
     edit_.setParent(widget_.viewport());
     edit_.installEventFilter(this);
     widget_.viewport()->installEventFilter(this);
-    // The columns find their widths one by one.
+    // The columns get their widths one by one.
     const auto placeLater = [this] { PlaceLater(); };
     for (const QHeaderView* header : {widget_.horizontalHeader(), widget_.verticalHeader()}) {
       connect(header, &QHeaderView::sectionResized, this, placeLater);
@@ -41,11 +40,11 @@ class CellEditor : public QObject {
     }
   }
 
-  // Lies exactly over the selected cell, wherever that is now.
+  // Moves the box exactly over the selected cell.
   void Place() {
     const QModelIndex cell = Cell();
     if (!cell.isValid()) return;
-    // A field of its own shows more than a narrow column does.
+    // Without this, the box would be wider than a narrow column.
     edit_.setMinimumWidth(0);
     edit_.setGeometry(widget_.visualRect(cell));
     edit_.setAccessibleName(ToQt(grid_.Cell(0, grid_.Column()) + " " + grid_.Cell(grid_.Row(), 0)));
@@ -68,7 +67,8 @@ class CellEditor : public QObject {
 
   QModelIndex Cell() const { return widget_.model()->index(grid_.Row() - grid_.FixedRows(), grid_.Column()); }
 
-  // Whether the key is one of the grid's. Beside Ctrl or Alt it is the window's: Ctrl+Tab goes to the next page.
+  // Handles the keys of the grid and returns true for them. With Ctrl or Alt a key belongs to the window: Ctrl+Tab goes
+  // to the next page.
   bool Take(const QKeyEvent& key) {
     if ((key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) return false;
     switch (key.key()) {
@@ -93,7 +93,7 @@ class CellEditor : public QObject {
     return Go(grid_.Row() - 1, grid_.Columns() - 1);
   }
 
-  // Whether there is such a row.
+  // Returns false if there is no such row.
   bool Go(int row, int column) {
     if (row < grid_.FixedRows() || row >= grid_.Rows()) return false;
     host_.Act([this, row, column] { grid_.SelectCell(row, column); });
@@ -102,7 +102,7 @@ class CellEditor : public QObject {
     return true;
   }
 
-  // Whether there was anything to take back.
+  // Returns false if there was nothing to restore.
   bool Restore() {
     const std::string before = grid_.Cell(grid_.Row(), grid_.Column());
     if (grid_.Overlay()->Text() == before) return false;
@@ -135,8 +135,8 @@ class GridBinding : public QObject, public WidgetBinding<QTableWidget, Grid> {
       host_.Act([this, row, column] { control_.ClickCell(row + control_.FixedRows(), ColumnToSelect(column)); });
       if (editor_) editor_->TakeKeyboard();
     });
-    // Screen readers, clicks beside Ctrl and clicks below the last row mark and unmark without going anywhere. By the
-    // time the mark is looked at, a key or a plain click has come to its end.
+    // Screen readers, Ctrl clicks and clicks below the last row change the selection without changing the current cell.
+    // The queued call runs after a key or a plain click is complete.
     connect(widget_.selectionModel(), &QItemSelectionModel::selectionChanged, this, &GridBinding::FollowMark,
             Qt::QueuedConnection);
   }
@@ -157,7 +157,7 @@ class GridBinding : public QObject, public WidgetBinding<QTableWidget, Grid> {
   }
 
  private:
-  // Selects what is marked. A grid always has its selected row, so that a mark that is gone comes back.
+  // Selects the highlighted cell. A grid always has a selected row, so a lost highlight is restored.
   void FollowMark() {
     const QModelIndexList marked = widget_.selectionModel()->selectedIndexes();
     const bool isMarked = std::ranges::any_of(marked, [this](const QModelIndex& cell) { return IsSelected(cell); });
@@ -177,7 +177,7 @@ class GridBinding : public QObject, public WidgetBinding<QTableWidget, Grid> {
     widget_.setCurrentCell(Row(), editor_ ? control_.Column() : 0);
   }
 
-  // A grid of rows keeps its column.
+  // A grid that selects whole rows keeps its column.
   int ColumnToSelect(int column) const {
     return editor_ ? std::max(column, control_.FixedColumns()) : control_.Column();
   }
@@ -205,7 +205,7 @@ class GridBinding : public QObject, public WidgetBinding<QTableWidget, Grid> {
     widget_.setColumnWidth(column, std::max(wanted, widget_.columnWidth(column)));
   }
 
-  std::unique_ptr<CellEditor> editor_;  // none where the cells are only shown
+  std::unique_ptr<CellEditor> editor_;  // null if the cells cannot be edited
 };
 
 }  // namespace

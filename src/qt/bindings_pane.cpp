@@ -1,4 +1,4 @@
-// The pane of a long text.
+// The binding of a text pane.
 #include "qt/bindings.h"
 #include "qt/find_bar.h"
 #include "qt/lines_view.h"
@@ -25,7 +25,7 @@ class PaneBinding : public WidgetBinding<LinesView, const TextPane> {
   bool KeepsPlace() const override { return true; }
 
  private:
-  FindBar* bar_ = nullptr;  // below it
+  FindBar* bar_ = nullptr;  // the bar below the pane
   FontChoice shownFont_;
 };
 

@@ -1,4 +1,4 @@
-// Captions, buttons and text boxes.
+// Bindings of captions, buttons and text boxes.
 #include <QApplication>
 #include <QGroupBox>
 #include <QInputMethodEvent>
@@ -27,7 +27,7 @@ class LabelBinding : public WidgetBinding<QLabel, const Label> {
     widget_.setText(host_.Letters().Marked(&widget_, 0, control_.Caption()));
   }
   std::vector<CaptionSlot> Captions() const override {
-    // Nobody goes to a field that only shows something.
+    // A read-only field needs no letter.
     if (widget_.buddy() == nullptr || widget_.buddy()->property("readOnly").toBool()) return {};
     return {{&widget_, 0, &widget_, control_.Caption()}};
   }
@@ -59,25 +59,24 @@ class ButtonBinding : public WidgetBinding<QPushButton, const Button> {
   std::vector<CaptionSlot> Captions() const override { return {{&widget_, 0, &widget_, control_.Caption()}}; }
 };
 
-// An output is a text on the window's own ground.
+// An output has the background of the window.
 void ShowAsOutput(QWidget& widget) {
   QPalette palette = QApplication::palette(&widget);
   palette.setBrush(QPalette::Base, palette.window());
   widget.setPalette(palette);
 }
 
-// What a field shows even in a window that is as small as it can be: a number of seven digits, and its frame.
+// The width that a field keeps in the smallest window: a number of seven digits, and its frame.
 constexpr int LeastCharacters = 10;
 
-// A line to type into. A character that the field refuses never reaches it, and a field that gets the focus comes up
-// with its text selected.
+// A line for input. Refused characters never reach it. When it gets the focus, its text is selected.
 class LineEditBinding : public QObject, public WidgetBinding<QLineEdit, TextBox> {
  public:
   LineEditBinding(BindingHost& host, TextBox& box, QLineEdit& widget) : WidgetBinding(host, box, widget) {
     widget_.setReadOnly(box.Kind() == TextKind::Output);
     widget_.setMinimumWidth(widget_.fontMetrics().averageCharWidth() * LeastCharacters);
     widget_.installEventFilter(this);
-    // Keys, menus, input methods and screen readers all come this way.
+    // Keys, menus, input methods and screen readers all change the text this way.
     connect(&widget_, &QLineEdit::textChanged, this, [this] {
       if (!IsUsable(widget_) || widget_.isReadOnly()) return Show();
       host_.Act([this] { control_.SetText(FromQt(widget_.text())); });
@@ -102,7 +101,7 @@ class LineEditBinding : public QObject, public WidgetBinding<QLineEdit, TextBox>
       isLent_ = IsLending(*dynamic_cast<QFocusEvent*>(event));
     } else if (event->type() == QEvent::FocusIn) {
       const bool comesBack = isLent_ && IsLending(*dynamic_cast<QFocusEvent*>(event));
-      // After the press of the mouse that brought the focus, which would take the selection away again.
+      // Delayed, because the mouse press that gave the focus would clear the selection.
       if (!comesBack) QMetaObject::invokeMethod(&widget_, &QLineEdit::selectAll, Qt::QueuedConnection);
     } else if (event->type() == QEvent::KeyPress) {
       return IsRefused(*dynamic_cast<QKeyEvent*>(event));
@@ -113,13 +112,13 @@ class LineEditBinding : public QObject, public WidgetBinding<QLineEdit, TextBox>
   }
 
  private:
-  // Whether the keyboard goes to a menu of the field or to another window, or comes from there.
+  // Returns true if the focus goes to a menu of the field or to another window, or returns from there.
   static bool IsLending(const QFocusEvent& focus) {
     return focus.reason() == Qt::PopupFocusReason || focus.reason() == Qt::ActiveWindowFocusReason;
   }
 
-  // Only keys that bring a character are judged; shortcuts, Enter and Tab are none of the text's, and the Delete key,
-  // for which some desktops send a control character, edits it.
+  // Checks only keys that produce a character. Shortcuts, Enter and Tab do not change the text. The Delete key edits,
+  // although some desktops send a control character for it.
   bool IsRefused(const QKeyEvent& key) const {
     const QString text = key.text();
     if ((key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) return false;
@@ -132,8 +131,8 @@ class LineEditBinding : public QObject, public WidgetBinding<QLineEdit, TextBox>
   }
   bool IsRefused(QChar character) const { return control_.KeyPress(character.unicode()) == 0; }
 
-  // What dead keys or an input method have composed is judged as typed keys are. Each character gets an event of its
-  // own, because it is judged by the text before it.
+  // Text from dead keys or an input method is checked like typed keys. Each character gets an event of its own, because
+  // the check depends on the text before it.
   bool TakeComposed(const QInputMethodEvent& composed) {
     if (isTaking_ || control_.Kind() != TextKind::Number || composed.commitString().isEmpty()) return false;
     isTaking_ = true;
@@ -152,10 +151,10 @@ class LineEditBinding : public QObject, public WidgetBinding<QLineEdit, TextBox>
   }
 
   bool isLent_ = false;
-  bool isTaking_ = false;  // the characters of a composed text, one by one
+  bool isTaking_ = false;  // true while the characters of a composed text are taken one by one
 };
 
-// A text of several lines. An output is shown from its top, or where its selection stands.
+// A text of several lines. An output shows its top, or its selection if there is one.
 class TextAreaBinding : public QObject, public WidgetBinding<QPlainTextEdit, TextBox> {
  public:
   TextAreaBinding(BindingHost& host, TextBox& box, QPlainTextEdit& widget) : WidgetBinding(host, box, widget) {
@@ -175,7 +174,7 @@ class TextAreaBinding : public QObject, public WidgetBinding<QPlainTextEdit, Tex
     }
     const QString text = ToQtLines(control_.Text());
     const bool isSame = widget_.toPlainText() == text;
-    // The place in what is being typed is the user's.
+    // While the user types, the cursor stays in place.
     if (isSame && !widget_.isReadOnly()) return;
     const QSignalBlocker quiet(widget_);
     if (!isSame) widget_.setPlainText(text);
@@ -196,7 +195,7 @@ class TextAreaBinding : public QObject, public WidgetBinding<QPlainTextEdit, Tex
 QFont FontOf(const FontChoice& choice, const QWidget& widget) {
   if (choice.name.empty()) return widget.font();
   QFont font(ToQt(choice.name), choice.size, choice.bold ? QFont::Bold : QFont::Normal, choice.italic);
-  // The machine may lack the font; what takes its place must have the same pitch, and no two letters drawn as one.
+  // The machine may lack the font. The substitute must be monospaced, too, and draw no ligatures.
   if (font.family().startsWith("Courier", Qt::CaseInsensitive)) {
     font.setStyleHint(QFont::TypeWriter, QFont::PreferNoShaping);
   }

@@ -1,4 +1,4 @@
-// Tabs, menus, tool bars, and widgets that are only shown.
+// Bindings of tabs, menus, tool bars, and widgets that only show something.
 #include <QAction>
 #include <QEvent>
 #include <QMenu>
@@ -16,7 +16,8 @@
 namespace orby {
 namespace {
 
-// The blanks at the end of a caption are for the models alone; of two marked letters the first counts.
+// Returns the caption without trailing spaces, which only the models use. If two letters are marked, the first one
+// counts.
 QString EntryText(const QString& caption) {
   QString text;
   bool isMarked = false;
@@ -35,7 +36,7 @@ class TabBinding : public QObject, public WidgetBinding<QTabWidget, TabSet> {
     widget_.tabBar()->installEventFilter(this);
   }
 
-  // From a disabled tab a part of a step, as a fine wheel sends it, makes the toolkit look for the next tab for ever.
+  // On a disabled tab, a partial wheel step makes the toolkit search for the next tab in an endless loop.
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() != QEvent::Wheel || widget_.isTabEnabled(widget_.currentIndex())) {
       return QObject::eventFilter(watched, event);
@@ -51,7 +52,7 @@ class TabBinding : public QObject, public WidgetBinding<QTabWidget, TabSet> {
       widget_.setTabText(tab, host_.Letters().Marked(&widget_, tab, control_.Caption(tab)));
       widget_.setTabEnabled(tab, control_.TabEnabled(tab));
     }
-    // Switching a tab off makes the widget leave it, which the model does not.
+    // The widget leaves a tab that is disabled, but the model stays on it.
     widget_.setCurrentIndex(control_.Tab());
   }
   std::vector<CaptionSlot> Captions() const override {
@@ -63,7 +64,7 @@ class TabBinding : public QObject, public WidgetBinding<QTabWidget, TabSet> {
   }
 
  private:
-  // A screen reader can press the tab of a page that is disabled.
+  // A screen reader can press the tab of a disabled page.
   void Turn(int tab) {
     if (IsUsable(widget_)) host_.Act([this, tab] { control_.ClickTab(tab); });
     if (widget_.currentIndex() != control_.Tab()) Show();
@@ -79,7 +80,7 @@ class MenuBinding : public WidgetBinding<QMenu, const Menu> {
   std::vector<CaptionSlot> Captions() const override { return {{&widget_, 0, &widget_, control_.Caption()}}; }
 };
 
-// The entries of a menu, or the buttons of a tool bar, which bears the name of the array then.
+// The items of a menu, or the buttons of a tool bar with the name of the array.
 class ActionBinding : public Binding {
  public:
   ActionBinding(BindingHost& host, const ActionArray& actions)
@@ -109,7 +110,7 @@ class ActionBinding : public Binding {
   void ShowEntry(QAction& entry, int index) {
     entry.setSeparator(actions_.Caption(index) == ActionArray::Separator);
     const QString text = EntryText(ToQt(actions_.Caption(index)));
-    // The letter of an entry that cannot be chosen would stand in the way of another's.
+    // A disabled item gets no letter, because it would block another item's.
     if (!entry.isSeparator()) entry.setText(actions_.ItemEnabled(index) ? text : QString(text).remove('&'));
     entry.setVisible(actions_.Visible() && actions_.ItemVisible(index));
     entry.setEnabled(actions_.Enabled() && actions_.ItemEnabled(index));

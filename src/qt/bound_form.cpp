@@ -22,7 +22,8 @@ namespace {
 
 bool ShowsControlNames() { return qEnvironmentVariable("ORBY_ACCESSIBLE_IDS") == "1"; }
 
-// What a screen reader says of a field that has no label of its own: the frame around it, else the window.
+// Returns the name that a screen reader uses for a field without a label: the title of the frame around it, or of the
+// window.
 QString PlaceCaption(const QWidget& widget) {
   for (const QWidget* at = widget.parentWidget(); at != nullptr; at = at->parentWidget()) {
     const auto* frame = dynamic_cast<const QGroupBox*>(at);
@@ -31,7 +32,7 @@ QString PlaceCaption(const QWidget& widget) {
   return widget.window()->windowTitle();
 }
 
-// Of an array that shows one member at a time, the one on view.
+// Returns the visible member of an array that shows one member at a time.
 QWidget* MemberOnView(QWidget& member) {
   const QString name = member.objectName();
   const QString array = name.left(name.lastIndexOf('_') + 1);
@@ -48,7 +49,7 @@ void NameAfterLabel(QLabel& label) {
   label.buddy()->setAccessibleName(label.text().remove('&'));
 }
 
-// What is typed next takes the place of what stands there.
+// Selects the text, so that typing replaces it.
 void SelectText(QWidget& widget) {
   if (auto* line = dynamic_cast<QLineEdit*>(&widget)) line->selectAll();
   if (const auto* combo = dynamic_cast<QComboBox*>(&widget)) combo->lineEdit()->selectAll();
@@ -60,8 +61,8 @@ bool IsHelpKey(const QEvent& event) {
   return key.key() == Qt::Key_F1 && key.modifiers() == Qt::NoModifier;
 }
 
-// Buttons choose their letters first: they stand at the end of the way of the tab key. Options choose last: the arrows
-// reach them from the one that is on.
+// Buttons choose their letters first, because they are last in the tab order. Options choose last, because the arrow
+// keys reach them from the selected one.
 int LetterRank(const CaptionSlot& slot) {
   if (dynamic_cast<const QPushButton*>(slot.key) != nullptr) return 0;
   return dynamic_cast<const QRadioButton*>(slot.key) == nullptr ? 1 : 2;
@@ -95,7 +96,7 @@ void BoundForm::ShowTheme() {
 
 bool BoundForm::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::PaletteChange) ShowTheme();
-  // No widget of a form has a use for this key, so it comes up to the window.
+  // No widget of a form uses this key, so the window gets it.
   if (IsHelpKey(*event)) {
     AskForHelp();
     return true;
@@ -112,7 +113,7 @@ const Control* BoundForm::ControlInUse() const {
   return nullptr;
 }
 
-// What cannot be shown is told in a modal box.
+// Queued, because a help file that cannot be shown opens a modal box.
 void BoundForm::AskForHelp() {
   const auto ask = [this, control = ControlInUse()] {
     if (tied_ && HelpRequested) RunGuarded([&] { HelpRequested(control); });
@@ -133,7 +134,8 @@ void BoundForm::AssignLetters() {
   letters_.Assign(captions);
 }
 
-// In a dialog nothing moves when something appears. In a window with a view that fills it, the view gets the place.
+// In a dialog, hidden widgets keep their place, so that nothing moves. In a window with a large view, the view takes
+// the place.
 void BoundForm::KeepPlaces() {
   if (dynamic_cast<QDialog*>(&root_) == nullptr) return;
   for (const auto& [control, binding] : bindings_) {
@@ -188,7 +190,7 @@ void BoundForm::ControlChanged(const Control& control) {
 
 void BoundForm::CaptionChanged() { root_.setWindowTitle(ToQt(form_.Caption())); }
 
-// At once, and again when a page that was turned to meanwhile has been laid out.
+// Scrolls at once, and again after a newly opened page has its layout.
 void BoundForm::BringOnView(QWidget& widget) {
   auto* scroll = root_.findChild<QScrollArea*>("viewScroll");
   if (scroll == nullptr || !scroll->widget()->isAncestorOf(&widget)) return;
@@ -199,7 +201,7 @@ void BoundForm::BringOnView(QWidget& widget) {
   QMetaObject::invokeMethod(scroll, bring, Qt::QueuedConnection);
 }
 
-// Obeyed only where the control can be seen and used. A field that has the focus already comes up as if it got it anew.
+// Ignored if the control is hidden or disabled. A field that already has the focus gets its text selected again.
 void BoundForm::FocusRequested(Control& control) {
   const auto found = bindings_.find(&control);
   QWidget* widget = found == bindings_.end() ? nullptr : found->second->FocusWidget();
@@ -229,8 +231,8 @@ void BoundForm::Act(const std::function<void()>& act) {
 }
 
 void BoundForm::ActLater(std::function<void()> act) {
-  // A press that was waiting when an earlier one closed the form has nothing to act on. A press that was waiting when a
-  // dialog opened is dropped, and its tick or mark is undone.
+  // If an earlier action has closed the form, the action is dropped. If a dialog has opened meanwhile, it is dropped
+  // and the widgets show the old state again.
   const auto actIfOpen = [this, act = std::move(act)] {
     if (!tied_) return;
     if (!IsBlocked(root_)) return Act(act);

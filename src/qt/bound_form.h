@@ -1,5 +1,5 @@
-// The one binder of forms and windows: it finds the widgets of a form's controls by their names, shows every change of
-// the model, and hands the user's acts on.
+// Binds a form or window to its widgets: finds the widgets by the controls' names, shows every change of the model, and
+// passes the user's actions on.
 #pragma once
 
 #include <QObject>
@@ -14,25 +14,25 @@ namespace orby {
 
 class BoundForm final : public QObject, public FormView, public BindingHost {
  public:
-  // The form must live until it is closed, the window as long as this. Throws std::logic_error when a control has no
-  // widget.
+  // The form must exist until it is closed, and the window as long as this object. Throws std::logic_error if a control
+  // has no widget.
   BoundForm(Form& form, QWidget& root);
   ~BoundForm() override;
 
   Form& Model() const { return form_; }
-  // The first widget of a control; nullptr for one without, such as a menu's entries.
+  // Returns the first widget of a control, or null if it has none, as with menu entries.
   QWidget* WidgetOf(const Control& control) const;
-  // Gives the focus to the control that the form has asked it for, or to the first that can take it.
+  // Moves the focus to the control that the form requested, if any.
   void ShowFocus();
-  // The user wants the window closed.
+  // Closes the form as the user does, if it agrees.
   void CloseByUser();
 
-  // The control whose widget has the keyboard; nullptr when none has it.
+  // Returns the control with the keyboard focus, or null.
   const Control* ControlInUse() const;
 
-  // Runs when the form has closed.
+  // Called after the form has closed.
   std::function<void()> Finished;
-  // Runs when the user asks for help on a control, or on the window when no control has the keyboard.
+  // Called when the user asks for help on a control; null means the whole window.
   std::function<void(const Control* control)> HelpRequested;
 
   void ControlChanged(const Control& control) override;
@@ -48,7 +48,7 @@ class BoundForm final : public QObject, public FormView, public BindingHost {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  // From here on the form and its view know nothing of each other.
+  // Disconnects the form from its view.
   void Untie();
   void ShowTheme();
   void AskForHelp();
@@ -66,9 +66,9 @@ class BoundForm final : public QObject, public FormView, public BindingHost {
   std::unordered_map<const Control*, BindingPointer> bindings_;
 };
 
-// The widget that shows a control of a form on the screen; nullptr when the form is not on the screen.
+// Returns the first widget of a control on the screen, or null if its form is not on the screen.
 QWidget* WidgetOnScreen(const Control& control);
-// The window that shows the form; nullptr when it is not on the screen.
+// Returns the window of the form, or null if it is not on the screen.
 QWidget* WindowOnScreen(const Form& form);
 
 }  // namespace orby

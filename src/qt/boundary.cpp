@@ -12,7 +12,7 @@ ErrorHandler& Handler() {
   return handler;
 }
 
-bool Tell(const RuntimeError& error) {
+bool HandleError(const RuntimeError& error) {
   if (!Handler()) std::terminate();
   Handler()(error);
   return false;
@@ -27,9 +27,9 @@ bool RunGuarded(const std::function<void()>& act) {
     act();
     return true;
   } catch (const RuntimeError& error) {
-    return Tell(error);
+    return HandleError(error);
   } catch (const std::bad_alloc&) {
-    return Tell(RuntimeError(error_number::OutOfMemory));
+    return HandleError(RuntimeError(error_number::OutOfMemory));
   }
 }
 

@@ -1,4 +1,4 @@
-// The outermost boundary: what a run-time error meets that nothing has dealt with.
+// The outermost handler of run-time errors.
 #pragma once
 
 #include <functional>
@@ -7,12 +7,13 @@
 
 namespace orby {
 
-// Called with the error that ends the run. It does not return in the program; where it does, the event is dropped.
+// Called with an error that nothing has handled. In the program it does not return; in tests it may, and the event is
+// then dropped.
 using ErrorHandler = std::function<void(const RuntimeError& error)>;
 void SetErrorHandler(ErrorHandler handler);
 
-// Runs what an event asks for. The toolkit must not see an exception, so every event goes through here. Returns
-// true if the act completed.
+// Runs the action of an event and handles its errors. Every event goes through here, because no exception may reach the
+// toolkit. Returns true if `act` completed.
 bool RunGuarded(const std::function<void()>& act);
 
 }  // namespace orby

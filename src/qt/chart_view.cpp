@@ -11,21 +11,21 @@
 namespace orby {
 namespace {
 
-// The model's sizes are steps from 3 to 20; the line is drawn at a third of them, so that the default reads as a line.
+// The model's sizes are 3 to 20. The line width is a third of them, so that the default looks like a line.
 constexpr double LineShare = 1.0 / 3;
 
 QColor ColorOf(int blueGreenRed) {
   return {blueGreenRed & 0xFF, (blueGreenRed >> 8) & 0xFF, (blueGreenRed >> 16) & 0xFF};
 }
 
-// The share of white light that a part of a colour gives, 0 to 1.
+// Returns the linear intensity, 0 to 1, of a colour component.
 double Linear(float part) { return part <= 0.04045F ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4); }
 
 double Luminance(const QColor& color) {
   return 0.2126 * Linear(color.redF()) + 0.7152 * Linear(color.greenF()) + 0.0722 * Linear(color.blueF());
 }
 
-// A curve that is dark on paper is lifted until it stands out on a dark window.
+// Returns the colour of a curve, lightened until it is readable on a dark window.
 QColor Readable(const QColor& color, const QColor& background) {
   constexpr int Middle = 128;
   constexpr int Brightest = 255;
@@ -39,8 +39,8 @@ QColor Readable(const QColor& color, const QColor& background) {
   return lifted;
 }
 
-// A letter of so many pixels grows with a picture that is scaled; one of so many points would grow with the resolution
-// of the paper besides.
+// Sets the font size in pixels, so that letters scale with the picture. A size in points would also grow with the
+// resolution of the paper.
 QFont InPixels(QFont font) {
   font.setPixelSize(QFontInfo(font).pixelSize());
   return font;
@@ -118,8 +118,8 @@ void ShowSeries(QCustomPlot& plot, const ChartSeries& series) {
                                           : QCPScatterStyle::ssNone);
 }
 
-// Leaves a little air around the points. Starts from a fixed range, so that a curve of one point, of one height or of
-// none keeps nothing of the curve before.
+// Fits the axes to the points, with a small margin. Starts from a fixed range, so that a curve without extent does not
+// keep the range of the previous curve.
 void ShowWhole(QCustomPlot& plot) {
   constexpr double Air = 1.08;
   for (QCPAxis* axis : {plot.xAxis, plot.yAxis}) axis->setRange(0, 2);
@@ -127,10 +127,10 @@ void ShowWhole(QCustomPlot& plot) {
   for (QCPAxis* axis : {plot.xAxis, plot.yAxis}) axis->scaleRange(Air);
 }
 
-// How far along the axis a value lies: 0 at its start, 1 at its end.
+// Returns the position of a value on the axis: 0 at its start, 1 at its end.
 double ShareOf(const QCPRange& range, double value) { return (value - range.lower) / range.size(); }
 
-// The corner of the plot that the points keep farthest away from, whatever the size of the plot.
+// Returns the corner of the plot with the greatest distance from the points, whatever the size of the plot.
 Qt::Alignment FreeCorner(const QCustomPlot& plot) {
   const Qt::Alignment corners[] = {Qt::AlignTop | Qt::AlignRight, Qt::AlignTop | Qt::AlignLeft,
                                    Qt::AlignBottom | Qt::AlignRight, Qt::AlignBottom | Qt::AlignLeft};

@@ -21,15 +21,15 @@ class ChartView : public QWidget {
   void ShowChart(const Chart& chart);
   void SetMouseHandler(std::function<void(const ChartHit& hit)> handler) { mouseHandler_ = std::move(handler); }
 
-  // What lies under this point of the widget.
+  // Returns the element under this point of the widget.
   ChartHit HitAt(const QPoint& point) const;
-  // The place of a point of a series.
+  // Returns the position of a point of a series.
   QPointF PlaceOf(int series, int point) const;
 
-  // The chart in black on white, as it goes to the clipboard, of so many pixels.
+  // Returns a picture of the chart, in black on white and with this size in pixels, as for the clipboard.
   QPixmap Picture(int width, int height) const;
-  // The same drawn for a size of so many pixels and brought to this place of the paper; false when that cannot be
-  // painted on.
+  // Paints the same picture, laid out for this size in pixels, on this part of the paper. Returns false if the device
+  // cannot be painted on.
   bool PaintOn(QPaintDevice& paper, const QRectF& place, int width, int height) const;
 
  protected:
@@ -40,7 +40,7 @@ class ChartView : public QWidget {
   void ApplyTheme();
 
   QCustomPlot* plot_;
-  std::vector<QColor> colors_;  // of the series, as they are on paper
+  std::vector<QColor> colors_;  // of the series, as on paper
   std::function<void(const ChartHit& hit)> mouseHandler_;
 };
 

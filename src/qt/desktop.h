@@ -1,4 +1,4 @@
-// Everything that the program asks of the desktop, in one. What the toolkit has no part in is handed in.
+// The platform of the desktop program. Services that do not depend on the toolkit are passed in.
 #pragma once
 
 #include "platform/platform.h"

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int MostMilliseconds = 5000;
 
-// A desktop without the tool has no program for any file.
+// Returns the desktop's program for a type of file. Returns an empty text if the desktop does not have the tool.
 QString ProgramFor(const QString& mimeType) {
   QProcess query;
   query.start("xdg-mime", {"query", "default", mimeType});
@@ -32,8 +32,8 @@ QStringList ToQtList(const std::vector<std::string>& texts) {
 
 }  // namespace
 
-// What opens files on a desktop fails at once, and otherwise either ends at once or stays as long as the file is open:
-// how it ended is looked for a moment only, and it may go on after this program.
+// The tool that opens files fails at once. If it succeeds, it ends at once or stays as long as the file is open. So the
+// function waits only a moment for a failure, and the tool may outlive this program.
 bool QtDocuments::Open(const std::string& path) {
   constexpr std::chrono::milliseconds MostToFail{1500};
   constexpr unsigned long MillisecondsBetween = 10;

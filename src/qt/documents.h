@@ -1,4 +1,4 @@
-// Other programs of the desktop, found by its own rules for what opens which file.
+// Opens documents in other programs, chosen by the rules of the desktop.
 #pragma once
 
 #include "platform/documents.h"

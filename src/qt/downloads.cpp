@@ -10,7 +10,7 @@
 namespace orby {
 namespace {
 
-// The desktop's own proxies, but for this machine itself: what goes to it must not leave it.
+// The desktop's proxies, except for requests to this machine, which must not leave it.
 class Proxies : public QNetworkProxyFactory {
  public:
   QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& query) override {
@@ -25,7 +25,7 @@ class QtFetch : public Fetch {
   ~QtFetch() override {
     if (!transfer_) return;
     transfer_->Stop();
-    // One of its own events may be what ends it.
+    // The fetch may be destroyed in one of its own events.
     transfer_->deleteLater();
   }
   QtFetch(const QtFetch&) = delete;
@@ -43,9 +43,9 @@ QtDownloads::~QtDownloads() = default;
 std::unique_ptr<Fetch> QtDownloads::Start(const FetchRequest& request, FetchEvents events) {
   if (!network_) {
     network_ = std::make_unique<QNetworkAccessManager>();
-    network_->setProxyFactory(new Proxies);  // the manager's own from here on
+    network_->setProxyFactory(new Proxies);  // the manager owns it
   }
-  auto* transfer = new Transfer(*network_, request, std::move(events), patience_);  // a child of the manager
+  auto* transfer = new Transfer(*network_, request, std::move(events), patience_);  // owned by the manager
   QMetaObject::invokeMethod(
       transfer, [transfer] { transfer->Begin(); }, Qt::QueuedConnection);
   return std::make_unique<QtFetch>(transfer);

@@ -1,4 +1,4 @@
-// Fetches over the network. Nothing here waits: all goes on in the event loop.
+// Downloads over the network. Nothing here blocks: everything runs in the event loop.
 #pragma once
 
 #include <chrono>
@@ -14,7 +14,7 @@ class QtDownloads : public Downloads {
  public:
   static constexpr std::chrono::milliseconds UsualPatience{30'000};
 
-  // patience: a server that sends nothing for so long is given up.
+  // patience: a server that sends nothing for this long counts as failed.
   explicit QtDownloads(std::chrono::milliseconds patience = UsualPatience);
   ~QtDownloads() override;
 
@@ -23,8 +23,7 @@ class QtDownloads : public Downloads {
 
  private:
   std::chrono::milliseconds patience_;
-  std::unique_ptr<QNetworkAccessManager>
-      network_;  // made with the first fetch: a run without one is not to wait for it
+  std::unique_ptr<QNetworkAccessManager> network_;  // created with the first fetch, because it is slow to create
 };
 
 }  // namespace orby

@@ -15,15 +15,16 @@ namespace {
 
 constexpr int LongestName = 300;
 
-// The pattern in the second brackets is for the dialog alone; what stands before them is shown.
+// The dialog uses the pattern in the second brackets and shows the text before them.
 QStringList NameFilters(const std::vector<FileFilter>& filters) {
   QStringList texts;
   for (const FileFilter& filter : filters) texts.append(ToQt(filter.name + " (" + filter.pattern + ")"));
   return texts;
 }
 
-// A file that is there is opened by the name that it has; else a name without an extension gets the one that makes it
-// the name of a file, in capitals or not. While one types there is none: the dialog would highlight the longer name.
+// An existing file is opened by its exact name. Otherwise a name without extension gets the extension that makes it an
+// existing file, in any case. While the user types there is no default extension, because the dialog would then
+// highlight the longer name.
 class OpenDialog : public QFileDialog {
  public:
   OpenDialog(QWidget* parent, const FileQuestion& question)
@@ -45,9 +46,9 @@ class OpenDialog : public QFileDialog {
 
 QLineEdit* NameField(const QFileDialog& dialog) { return dialog.findChild<QLineEdit*>("fileNameEdit"); }
 
-// A key may reach the name while the list of completions is still handing the keyboard back. Without the keyboard, the
-// dialog would put the file that it highlights for the typed part in the place of what is typed.
-void KeepKeyboard(QFileDialog& dialog) {
+// Keeps the focus in the name field. A key may arrive there before the completion list has returned the focus. Without
+// the focus the dialog would replace the typed text by the file that it highlights for it.
+void KeepFocusInNameField(QFileDialog& dialog) {
   auto* name = NameField(dialog);
   if (name == nullptr) return;
   QObject::connect(name, &QLineEdit::textEdited, &dialog, [&dialog, name] {
@@ -57,10 +58,10 @@ void KeepKeyboard(QFileDialog& dialog) {
   });
 }
 
-// The dialog names a file; what lies on the disk is not for it to delete, rename or make.
+// Returns the chosen name. The dialog cannot delete, rename or create anything on the disk.
 std::string Answer(QFileDialog& dialog) {
   dialog.setOption(QFileDialog::ReadOnly);
-  KeepKeyboard(dialog);
+  KeepFocusInNameField(dialog);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
     throw RuntimeError(error_number::Cancelled);
   }

@@ -61,7 +61,7 @@ QPushButton* FindBar::NewButton(const QString& caption, void (FindBar::*clicked)
 }
 
 void FindBar::AddKey(const QKeySequence& key, void (FindBar::*pressed)()) {
-  // A key of the view is at rest as long as the view is hidden.
+  // A shortcut of the view does nothing while the view is hidden.
   auto* shortcut = new QShortcut(key, view_);
   connect(shortcut, &QShortcut::activated, this, [this, pressed] { (this->*pressed)(); });
 }

@@ -1,4 +1,4 @@
-// The bar below a view of lines: what to look for in it, and how far a copy or a search is.
+// The bar below a view of lines: search text, and progress of a copy or search.
 #pragma once
 
 #include <QLabel>
@@ -12,13 +12,14 @@
 
 namespace orby {
 
-// Hidden until it is needed: Ctrl+F in the window of the view shows the row of the search, F3 and Shift+F3 search on,
-// Esc hides it. While a copy or a search takes long a second row shows how far it is, with a button that stops it.
+// Hidden until needed. In the window of the view, Ctrl+F shows the search row, F3 and Shift+F3 find the next and the
+// previous match, and Esc hides the row. During a long copy or search a second row shows the progress and a Stop
+// button.
 class FindBar : public QWidget {
  public:
   explicit FindBar(QWidget* parent = nullptr);
 
-  // Makes this the bar of the view.
+  // Connects the bar to the view.
   void Attach(LinesView& view);
 
  protected:
@@ -36,7 +37,7 @@ class FindBar : public QWidget {
   void Find(TextSearch::Direction direction);
   void StopTask();
   void Hide();
-  // Stops a copy or search, or else hides the row of the search. Returns false if there was neither.
+  // Stops a copy or search, or else hides the search row. Returns false if there was neither.
   bool Escape();
 
   void ShowProgress(int percent);

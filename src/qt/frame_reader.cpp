@@ -11,7 +11,7 @@ namespace {
 
 using Relations = QList<QPair<QAccessibleInterface*, QAccessible::Relation>>;
 
-// A frame bears its own title, and gives it to what stands directly in it, frames apart.
+// Reads a frame by its own title, and gives the title to the widgets directly in it, except to other frames.
 class FrameReader : public QAccessibleWidget {
  public:
   explicit FrameReader(QGroupBox& frame) : QAccessibleWidget(&frame, QAccessible::Grouping), frame_(frame) {}
@@ -35,7 +35,7 @@ class FrameReader : public QAccessibleWidget {
   QGroupBox& frame_;
 };
 
-// A frame with a check mark has more to tell, which the toolkit knows.
+// The toolkit's own reader also knows the check mark of a checkable frame.
 QAccessibleInterface* MakeFrameReader(const QString& kind, QObject* object) {
   auto* frame = kind == "QGroupBox" ? dynamic_cast<QGroupBox*>(object) : nullptr;
   return frame == nullptr || frame->isCheckable() ? nullptr : new FrameReader(*frame);

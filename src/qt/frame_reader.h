@@ -1,9 +1,9 @@
-// What screen readers are told of a frame.
+// The description of frames for screen readers.
 #pragma once
 
 namespace orby {
 
-// Frames are read out from now on by their own titles. The toolkit reads out a frame inside another by the outer title.
+// Makes screen readers read each frame by its own title. The toolkit would read a nested frame by the outer title.
 void InstallFrameReader();
 
 }  // namespace orby

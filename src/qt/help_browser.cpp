@@ -15,7 +15,7 @@ constexpr const char* Scheme = "help";
 
 QUrl Root() { return QUrl(QString(Scheme) + ":/"); }
 
-// Many a dark theme has no colour for links, and leaves them the dark blue of a light one.
+// Many dark themes define no link colour and keep the dark blue of a light theme.
 QColor LinkColor(const QPalette& palette) {
   constexpr int Middle = 128;
   constexpr int Least = 185;
@@ -25,19 +25,19 @@ QColor LinkColor(const QPalette& palette) {
   return QColor::fromHsl(color.hslHue(), color.hslSaturation(), Least);
 }
 
-// The name of the file inside.
+// Returns the name of the file inside the help file.
 std::string NameIn(const QUrl& url) { return FromQt(url.path().mid(1)); }
 
 }  // namespace
 
 HelpBrowser::HelpBrowser(const ChmFile& file, QWidget* parent) : QTextBrowser(parent), file_(file) {
   setOpenExternalLinks(false);
-  // A picture is fitted to the page before it is known whether the page needs the bar.
+  // Pictures are fitted to the width before it is known whether the page needs a scroll bar.
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   ShowTheme();
 }
 
-// The page takes the colour when it is read.
+// The page takes the link colour when it is loaded, so it is reloaded.
 void HelpBrowser::ShowTheme() {
   document()->setDefaultStyleSheet("a { color: " + LinkColor(palette()).name() + " }");
   if (source().isEmpty()) return;
@@ -72,7 +72,7 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
   return type == QTextDocument::HtmlResource ? QVariant(ToQt(*bytes)) : QVariant();
 }
 
-// No wider than what is on view of the page.
+// Returns the picture, scaled down to the visible width of the page if it is wider.
 QImage HelpBrowser::FittingPicture(const std::string& bytes) const {
   const auto* start = reinterpret_cast<const uchar*>(bytes.data());
   QImage picture = QImage::fromData(start, static_cast<int>(bytes.size()));

@@ -1,4 +1,4 @@
-// Shows the pages of a help file with their pictures. Nothing from outside the file is ever fetched or opened.
+// Shows the pages of a help file with their pictures. Fetches and opens nothing outside the file.
 #pragma once
 
 #include <QTextBrowser>
@@ -10,12 +10,12 @@ class ChmFile;
 
 class HelpBrowser : public QTextBrowser {
  public:
-  // The file must live as long as this.
+  // The file must outlive this object.
   HelpBrowser(const ChmFile& file, QWidget* parent);
 
-  // Shows a place, "graph.html#frmGraph.Text1"; one that the file does not have changes nothing.
+  // Shows a place such as "graph.html#frmGraph.Text1". Does nothing if the file does not have it.
   void GoTo(const std::string& place);
-  // The place that is shown.
+  // Returns the shown place.
   std::string Place() const { return PlaceAt(source()); }
   static std::string PlaceAt(const QUrl& url);
 

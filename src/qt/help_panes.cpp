@@ -22,7 +22,7 @@ QTreeWidget* NewTree(QWidget& pane, const QString& nameForReaders) {
 
 QTreeWidgetItem* NewItem(const std::string& text, const std::string& place) {
   auto* item = new QTreeWidgetItem({ToQt(text)});
-  // For the titles that are wider than the pane.
+  // Shows titles that are wider than the pane.
   item->setToolTip(0, ToQt(text));
   item->setData(0, PlaceRole, ToQt(place));
   return item;
@@ -45,7 +45,7 @@ QTreeWidgetItem* ItemOfPage(QTreeWidgetItem& parent, std::string_view page) {
   return nullptr;
 }
 
-// Keys of a line that belong to the list under it.
+// Passes keys that belong to the list on from the line above it.
 class ListKeys : public QObject {
  public:
   ListKeys(QLineEdit& line, QAbstractItemView& list) : QObject(&line), list_(list) { line.installEventFilter(this); }
@@ -65,7 +65,7 @@ class ListKeys : public QObject {
   QAbstractItemView& list_;
 };
 
-// A line over a list, the line named by the label above it.
+// Lays out a label, a line and a list. The label names the line.
 QLineEdit* LayOut(QWidget& pane, const QString& caption, QAbstractItemView& list) {
   auto* line = new QLineEdit(&pane);
   auto* label = new QLabel(caption, &pane);
@@ -129,7 +129,7 @@ IndexPane::IndexPane(HelpBook& book, QWidget* parent) : HelpPane(book, parent), 
   connect(line_, &QLineEdit::textChanged, this, &IndexPane::FindKeyword);
 }
 
-// A keyword of several places goes to the first of them, and lists all by the titles of their pages.
+// A keyword with several places opens the first one, and lists all of them under the titles of their pages.
 void IndexPane::Fill() {
   for (const HelpKeyword& keyword : Book.Index()) {
     if (keyword.places.empty()) continue;

@@ -1,5 +1,5 @@
-// What stands beside the page in the help's window: contents, index and search. Each reads its part of the book when it
-// is first on view.
+// The panes beside the page in the help window: contents, index and search. Each reads its part of the book when it is
+// first shown.
 #pragma once
 
 #include <QLineEdit>
@@ -22,7 +22,7 @@ class HelpPane : public QWidget {
 
  protected:
   void showEvent(QShowEvent* event) override;
-  // Runs before the pane is on view for the first time.
+  // Called before the pane is shown for the first time.
   virtual void Fill() {}
   void Choose(const QString& place) const;
 
@@ -36,7 +36,7 @@ class ContentsPane : public HelpPane {
  public:
   ContentsPane(HelpBook& book, QWidget* parent);
 
-  // Marks the page that is shown.
+  // Highlights the shown page.
   void Mark(const std::string& place);
 
  protected:
@@ -65,7 +65,7 @@ class SearchPane : public HelpPane {
  public:
   SearchPane(HelpBook& book, QWidget* parent);
 
-  // The words that were searched for last.
+  // Returns the words of the last search.
   QString Words() const { return line_->text(); }
 
  private:

@@ -6,7 +6,7 @@
 namespace orby {
 namespace {
 
-// The four parts of the screen beside something, each with the side of it that is nearest to the thing.
+// One of the four parts of the screen beside a rectangle, and the side of that part that is nearest to the rectangle.
 struct Strip {
   QRect room;
   Qt::Alignment near;
@@ -21,7 +21,7 @@ std::array<Strip, 4> StripsBeside(const QRect& screen, const QRect& thing) {
 
 int Area(const QSize& size) { return size.width() * size.height(); }
 
-// A null rectangle where the window does not fit beside the thing.
+// Returns a null rectangle if the window does not fit beside `thing`.
 QRect PlaceBeside(const QRect& thing, const QRect& screen, QSize wanted, QSize least, bool awayFromIt) {
   QRect best;
   for (const Strip& strip : StripsBeside(screen, thing)) {
@@ -52,7 +52,7 @@ QRect HelpPlace(const HelpNeighbours& neighbours, QSize wanted, QSize least) {
     if (!beside.isNull()) return beside;
   }
   if (!neighbours.field.isNull()) {
-    // As far from the field as can be, for the sake of what stands around it.
+    // As far away as possible, because the user also needs the surroundings of the field.
     const QRect beside = PlaceBeside(neighbours.field, screen, wanted, least, true);
     if (!beside.isNull()) return beside;
   }

@@ -1,4 +1,4 @@
-// Where the help stands: beside the dialog that it explains, or at least not over the field in use.
+// The position of the help window: beside the dialog that it explains, or at least not over the field in use.
 #pragma once
 
 #include <QRect>
@@ -6,15 +6,17 @@
 
 namespace orby {
 
-// What the help shares the screen with. All with their frames; a null rectangle is not there.
+// The screen area that the help must share, and the windows in it. All rectangles include the frames; a null rectangle
+// means that there is none.
 struct HelpNeighbours {
-  QRect screen;  // without the bars of the desktop
+  QRect screen;  // without the panels of the desktop
   QRect dialog;
-  QRect field;  // in the dialog, the one that has the keyboard
+  QRect field;  // the field in the dialog that has the focus
 };
 
-// The place of a window that would like to have one size and can do with the other. It covers nothing of the dialog if
-// there is room beside it, else nothing of the field if there is room beside that, else as little as a corner does.
+// Returns the position of a window that prefers one size and can shrink to another. It covers nothing of the dialog if
+// there is room beside the dialog, else nothing of the field if there is room beside the field, else it is in the
+// bottom right corner of the screen.
 QRect HelpPlace(const HelpNeighbours& neighbours, QSize wanted, QSize least);
 
 }  // namespace orby

@@ -14,33 +14,33 @@
 namespace orby {
 namespace {
 
-// No dialog: a window manager keeps those above the window that they belong to.
+// Not a dialog, because window managers keep dialogs above their owner.
 constexpr Qt::WindowFlags Kind = Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                                  Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint;
 
-// In characters and in lines of the font: a page can still be read.
+// The smallest size, in characters and lines, in which a page is readable.
 constexpr int LeastColumns = 70;
 constexpr int LeastLines = 18;
 
-// Questions are answered first, and nothing may cover them.
+// The user must answer questions first, and nothing may cover them.
 bool IsQuestion(const QWidget& window) {
   return qobject_cast<const QMessageBox*>(&window) != nullptr || qobject_cast<const QFileDialog*>(&window) != nullptr;
 }
 
-// The nearest window below this one that is on view.
+// Returns the nearest visible owner of this window.
 QWidget* VisibleBelow(const QWidget* window) {
   QWidget* below = window == nullptr ? nullptr : window->parentWidget();
   while (below != nullptr && !below->isVisible()) below = below->parentWidget();
   return below == nullptr ? nullptr : below->window();
 }
 
-// Whether a window is the other one or belongs to it, with any number of windows between.
+// Returns true if a window is the other one or is owned by it, directly or through other windows.
 bool BelongsTo(const QWidget* window, const QWidget* other) {
   while (window != nullptr && window != other) window = window->parentWidget();
   return window != nullptr;
 }
 
-// The field of the window that has the keyboard; null when none has it.
+// Returns the field of the window that has the focus, or a null rectangle.
 QRect FieldInUse(const QWidget& window) {
   const QWidget* field = QApplication::focusWidget();
   if (field == nullptr || field->window() != &window) return {};
@@ -83,7 +83,7 @@ bool QtHelpViewer::Show(const std::string& path, const std::function<void(HelpWi
   return true;
 }
 
-// A place that the user has chosen is left alone as long as the field can be seen.
+// If the user has moved the help, it stays there as long as the field is visible.
 void QtHelpViewer::KeepClearOf(const QWidget& dialog) {
   const QRect field = FieldInUse(dialog);
   const bool hasPlace = window_->isVisible() || !place_.isEmpty();
@@ -110,7 +110,7 @@ bool QtHelpViewer::MakeWindow(const std::string& path) {
   return true;
 }
 
-// Keeps its place on the screen, and does not take the keyboard from the window in use.
+// Changes the owner. The help keeps its position and does not take the focus from the window in use.
 void QtHelpViewer::BelongTo(QWidget* host) {
   if (window_ == nullptr || host == host_ || BelongsTo(host, window_)) return;
   if (host_ != nullptr) host_->removeEventFilter(this);
@@ -127,7 +127,7 @@ void QtHelpViewer::BelongTo(QWidget* host) {
   if (host != nullptr) host->activateWindow();
 }
 
-// It is above the help, which has been shown anew.
+// Raises the modal window above the help, which has been shown again.
 void QtHelpViewer::MoveToWindowInUse() {
   QWidget* modal = QApplication::activeModalWidget();
   if (modal == nullptr || IsQuestion(*modal) || window_ == nullptr || BelongsTo(modal, window_)) return;
@@ -139,7 +139,7 @@ void QtHelpViewer::RaiseAgain() {
   if (window_ != nullptr) window_->raise();
 }
 
-// The window goes by itself.
+// The window is destroyed by itself.
 bool QtHelpViewer::Closed() {
   place_ = window_->saveGeometry();
   if (host_ != nullptr) host_->removeEventFilter(this);
@@ -151,7 +151,7 @@ bool QtHelpViewer::Closed() {
 bool QtHelpViewer::eventFilter(QObject* watched, QEvent* event) {
   if (watched == window_) {
     if (event->type() == QEvent::Close) return Closed();
-    // The dialog that blocks this window is not on the screen yet.
+    // The dialog that blocks this window is not on the screen yet, so the call is queued.
     if (event->type() == QEvent::WindowBlocked) {
       QMetaObject::invokeMethod(
           this, [this] { MoveToWindowInUse(); }, Qt::QueuedConnection);
@@ -159,7 +159,7 @@ bool QtHelpViewer::eventFilter(QObject* watched, QEvent* event) {
   } else if (watched == host_ && event->type() == QEvent::Hide && !event->spontaneous()) {
     QWidget* modal = QApplication::activeModalWidget();
     BelongTo(modal != nullptr && modal != host_ ? modal : VisibleBelow(host_));
-    // After the window that comes back in the dialog's place.
+    // Queued, so that it runs after the window that replaces the dialog has been raised.
     QMetaObject::invokeMethod(
         this, [this] { RaiseAgain(); }, Qt::QueuedConnection);
   }

@@ -1,8 +1,8 @@
-// The help on the desktop: one window, which always belongs to the window in use.
+// The help on the desktop: one window, owned by the window in use.
 //
-// While a dialog is open only the windows that belong to it take keys and clicks. So the help moves on to each dialog
-// that opens, and back to the window below when it closes. To the window manager it is a window by itself: a dialog
-// that opens later comes up above it. When it explains a dialog it stands beside that dialog, or at least not over the
+// While a modal dialog is open, only the windows that it owns take keys and clicks. So each dialog that opens becomes
+// the owner of the help, and when it closes, the window below it does. For the window manager the help is a normal
+// window, so later dialogs open above it. A help page about a dialog opens beside the dialog, or at least not over the
 // field in use.
 #pragma once
 
@@ -26,7 +26,7 @@ class QtHelpViewer : public QObject, public HelpViewer {
   bool ShowTopic(const std::string& path, const std::string& topic) override;
   void Close() override;
 
-  // The window, while it is open.
+  // Returns the window while it is open.
   HelpWindow* Window() const { return window_; }
 
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -43,7 +43,7 @@ class QtHelpViewer : public QObject, public HelpViewer {
   QPointer<HelpWindow> window_;
   QPointer<QWidget> host_;
   std::string path_;
-  QByteArray place_;  // on the screen, where the window was closed; empty: it has not been open yet
+  QByteArray place_;  // the position at which the window was closed; empty if it has not been open yet
 };
 
 }  // namespace orby

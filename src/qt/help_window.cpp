@@ -14,16 +14,16 @@
 namespace orby {
 namespace {
 
-// In characters and in lines of the font.
+// In characters and lines of the font.
 constexpr int FirstColumns = 166;
 constexpr int FirstLines = 46;
 constexpr int PanesColumns = 60;
 constexpr int ZoomStep = 1;  // points
 
-// The page about this window.
+// The help page about this window.
 constexpr const char* OwnPage = "help-window.html";
 
-// No larger than the screen.
+// Returns the initial size, no larger than the screen.
 QSize FirstSize(const QWidget& window) {
   const QFontMetrics font = window.fontMetrics();
   const QSize wanted(font.averageCharWidth() * FirstColumns, font.lineSpacing() * FirstLines);
@@ -98,7 +98,7 @@ void HelpWindow::MakeToolBar() {
   AddButton("zoom_out", "Smaller", {"Ctrl+-"}, [this] { browser_->zoomOut(ZoomStep); });
   buttons_->addSeparator();
   AddButton("print", "Print...", {"Ctrl+P"}, [this] { Print(); });
-  // The plus of most keyboards stands on the key of "=".
+  // On most keyboards "+" is on the key of "=".
   connect(new QShortcut(QKeySequence("Ctrl+="), this), &QShortcut::activated, this,
           [this] { browser_->zoomIn(ZoomStep); });
   back.setEnabled(false);
@@ -154,7 +154,7 @@ void HelpWindow::ShowFindBar() {
   findLine_->selectAll();
 }
 
-// Behind the last place the search begins anew.
+// After the last match the search starts again from the other end.
 void HelpWindow::FindNext(QTextDocument::FindFlags flags) {
   const QString text = findLine_->text();
   if (text.isEmpty() || browser_->find(text, flags)) return;

@@ -1,4 +1,4 @@
-// The window of the help: contents, index and search beside a page.
+// The help window: contents, index and search beside a page.
 #pragma once
 
 #include <QLineEdit>
@@ -21,7 +21,7 @@ class HelpWindow : public QMainWindow {
   explicit HelpWindow(std::unique_ptr<ChmFile> file);
   ~HelpWindow() override;
 
-  // Each shows the window, too.
+  // These also show the window.
   void ShowContents();
   void ShowIndex();
   void ShowTopic(const std::string& topic);
@@ -29,7 +29,7 @@ class HelpWindow : public QMainWindow {
   HelpBrowser& Browser() const { return *browser_; }
 
  private:
-  // The page has to know how wide it is.
+  // Call these while the window is shown, because the page layout depends on its width.
   void GoTo(const std::string& place);
   void GoHome();
   void MakePanes(QTabWidget& panes);

@@ -10,16 +10,16 @@
 namespace orby {
 namespace {
 
-// Rows are 32-bit numbers, and so are places on the screen: those far away all lie at one of these.
+// Rows and screen coordinates are 32-bit numbers. Rows that are too far away get this coordinate.
 constexpr qint64 FarBelow = qint64{1} << 30;
 
 constexpr int MarginPixels = 4;  // left and right of a line
 
-// What a window without a wish of its own shows.
+// The preferred size if the window has no other.
 constexpr int UsualColumns = 80;
 constexpr int UsualLines = 30;
 
-// The number of UTF-16 units that so many characters take at the start of the text.
+// Returns the number of UTF-16 units of the first characters of the text.
 int UnitOf(const QString& text, int character) {
   int unit = 0;
   for (; character > 0 && unit < text.size(); --character) unit += text[unit].isHighSurrogate() ? 2 : 1;
@@ -45,7 +45,7 @@ void LinesModel::Grow() {
   LineIndex grown = std::move(index_);
   grown.Extend(*text_);
   const int after = static_cast<int>(grown.Count());
-  // The last line may have gone on.
+  // The last line may have become longer.
   if (before == after) {
     index_ = std::move(grown);
   } else {
@@ -147,7 +147,7 @@ QRect LinesView::CharacterRect(int row, int character) const {
   return {left - horizontalOffset(), top, XOf(shown, character + 1) - left, LineHeight()};
 }
 
-// The boundary between two characters that is nearest to the point.
+// Returns the character boundary that is nearest to the point.
 std::size_t LinesView::PlaceAt(const QPoint& point) const {
   if (lines_.rowCount() == 0) return 0;
   const ShownRow shown = RowOnView(std::clamp(RowAt(point.y()), 0, lines_.rowCount() - 1));
@@ -181,7 +181,7 @@ void LinesView::rowsInserted(const QModelIndex& parent, int start, int end) {
   if (visualRect(lines_.index(start)).top() < viewport()->height()) viewport()->update();
 }
 
-// Tells a screen reader by the row, not by a place in a layout.
+// Notifies screen readers by the row, because there is no layout.
 void LinesView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QAbstractItemView::currentChanged(current, previous);
   if (!QAccessible::isActive() || !current.isValid()) return;
@@ -209,7 +209,7 @@ void LinesView::paintEvent(QPaintEvent* event) {
   const int widestBefore = widest_;
   const int last = std::min(RowAt(event->rect().bottom()), lines_.rowCount() - 1);
   for (int row = RowAt(event->rect().top()); row <= last; ++row) PaintLine(painter, lines_.index(row));
-  // The range of the bar must not change while the text is painted.
+  // The range of the scroll bar must not change during painting.
   if (widest_ != widestBefore) {
     QMetaObject::invokeMethod(
         this, [this] { updateGeometries(); }, Qt::QueuedConnection);
@@ -229,7 +229,7 @@ void LinesView::PaintLine(QPainter& painter, const QModelIndex& index) {
   painter.fillRect(x, rect.top(), 1, rect.height(), palette().color(QPalette::Text));
 }
 
-// The part of the line that is selected, and a blank for its end.
+// Paints the selected part of the line, and a space for its end.
 void LinesView::PaintSelection(QPainter& painter, const QRect& rect, const ShownRow& shown) {
   const std::size_t end = shown.places.back();
   const bool hasEnd = selection_.Last() > end;

@@ -1,4 +1,4 @@
-// The widget of a long text: shows it line by line as it stands, and takes no memory for lines that are not on view.
+// The view of a long text, line by line. Lines that are not visible take no memory.
 #pragma once
 
 #include <QAbstractListModel>
@@ -15,18 +15,19 @@
 
 namespace orby {
 
-// The lines of a text that belongs to another, and that grows.
+// The lines of a text that somebody else owns and that can grow.
 class LinesModel : public QAbstractListModel {
  public:
   using QAbstractListModel::QAbstractListModel;
 
-  // The text has grown, or has begun anew, which is returned. It must live until the model is told of another.
+  // Updates the lines after the text has grown or been replaced. Returns true if it was replaced. The text must exist
+  // until the next call.
   bool Show(const std::string& text);
 
-  // The bytes of all lines, and of one, without its end.
+  // Returns the bytes of all lines, or of one line without its end.
   std::string_view Text() const { return text_ == nullptr ? std::string_view() : *text_; }
   std::string_view Bytes(int row) const { return index_.Line(Text(), static_cast<std::size_t>(row)); }
-  // The row that this byte of the text lies in.
+  // Returns the row that contains this byte of the text.
   int RowOf(std::size_t place) const { return static_cast<int>(index_.LineAt(Text(), place)); }
 
   int rowCount(const QModelIndex& parent = {}) const override;
@@ -39,7 +40,7 @@ class LinesModel : public QAbstractListModel {
   LineIndex index_;
 };
 
-// What is selected, in bytes of the text: from where the selection began to the caret.
+// The selection in bytes of the text: where it began, and the caret.
 struct TextRange {
   std::size_t Anchor = 0;
   std::size_t Caret = 0;
@@ -49,10 +50,11 @@ struct TextRange {
   bool IsEmpty() const { return Anchor == Caret; }
 };
 
-// A list of lines to screen readers, but one that lays nothing out: all lines are equally high, so that each has its
-// place without any other being looked at. The user selects characters in it; the current row is the caret's.
-// Copying and searching go on piece by piece between the events of the window, however long the text is.
-// The base class of the list is called in place of the list itself: the list would lay out every line of the file.
+// For screen readers this is a list of lines, but it has no layout: all lines have the same height, so a line's
+// position needs no other line. The user selects characters; the current row is the caret's. Copying and searching run
+// in pieces between the events of the window, however long the text is.
+//
+// The functions call the list's base class instead of the list, because the list would lay out every line of the file.
 // NOLINTBEGIN(bugprone-parent-virtual-call)
 class LinesView : public QListView {
  public:
@@ -64,29 +66,29 @@ class LinesView : public QListView {
   // Selects the range and scrolls to its caret.
   void Select(const TextRange& range);
 
-  // Puts the selection on the clipboard; of a line that is cut short on the screen all is copied. Does nothing without
+  // Copies the selection to the clipboard, including the parts of lines that the screen cuts off. Does nothing without
   // a selection.
   void CopySelection();
-  // Looks for the text from the selection on, around the end of the text, and selects what it finds.
+  // Searches for the text after (or before) the selection, wraps around, and selects the match.
   void Find(const QString& wanted, TextSearch::Direction direction);
-  // Gives up copying or searching. Returns false if neither was going on.
+  // Stops copying or searching. Returns false if neither was running.
   bool Stop();
 
-  // Called as copying or searching goes on, with the percentage that is done, and with 100 at its end.
+  // Called while copying or searching, with the percentage done, and with 100 at the end.
   std::function<void(int percent)> Progressed;
   enum class Finding { Found, FoundAroundTheEnd, NotFound };
   std::function<void(Finding finding)> Searched;
-  // Called for the Esc key. Returns whether it was meant for the view.
+  // Called for the Esc key. Returns true if it was handled.
   std::function<bool()> EscapePressed;
 
   QRect visualRect(const QModelIndex& index) const override;
   void scrollTo(const QModelIndex& index, ScrollHint hint) override;
   QModelIndex indexAt(const QPoint& point) const override;
   QSize sizeHint() const override;
-  // Typed letters look for nothing by themselves.
+  // Typing letters does not search.
   void keyboardSearch(const QString&) override {}
   void doItemsLayout() override { QAbstractItemView::doItemsLayout(); }
-  // The rectangle of a character of the line, from the left edge of the viewport.
+  // Returns the rectangle of a character of the line, relative to the left edge of the viewport.
   QRect CharacterRect(int row, int character) const;
 
  protected:
@@ -114,7 +116,7 @@ class LinesView : public QListView {
   void scrollContentsBy(int dx, int dy) override;
 
  private:
-  // A line as it is on the screen, and where its characters stand in the text.
+  // A line as shown on the screen, and the places of its characters in the text.
   struct ShownRow {
     QString text;
     std::vector<std::size_t> places;  // of each character, then of the end of the line
@@ -125,9 +127,9 @@ class LinesView : public QListView {
 
   int LineHeight() const;
   int LinesOnView() const;
-  // The row at this height of the viewport, whether or not there is such a line.
+  // Returns the row at this height of the viewport, even if there is no such line.
   int RowAt(int y) const;
-  // From the left edge of the line.
+  // Returns the distance from the left edge of the line.
   int XOf(const ShownRow& shown, int column) const;
   std::size_t PlaceAt(const QPoint& point) const;
   void PaintLine(QPainter& painter, const QModelIndex& index);
@@ -143,9 +145,9 @@ class LinesView : public QListView {
   void Progress(std::size_t left, std::size_t all) const;
 
   LinesModel lines_;
-  int widest_ = 0;  // of the lines that have been on view, pixels
+  int widest_ = 0;  // the widest line shown so far, in pixels
   TextRange selection_;
-  int goalX_ = -1;  // that the caret keeps to as it goes up and down; -1: its own
+  int goalX_ = -1;  // the horizontal position that Up and Down keep; -1 for the caret's own
   PieceTask task_;
 };
 // NOLINTEND(bugprone-parent-virtual-call)

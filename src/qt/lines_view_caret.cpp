@@ -1,4 +1,4 @@
-// The caret and the selection of the view of lines, by keys and mouse, and what is done with them.
+// The caret and the selection of the view of lines: keys, mouse, copying and searching.
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -14,7 +14,7 @@
 namespace orby {
 namespace {
 
-// What is done of a long text between two events of the window.
+// The bytes of a long text that are handled between two events of the window.
 constexpr std::size_t CopiedBytes = std::size_t{1} << 20U;
 constexpr std::size_t SearchedBytes = std::size_t{1} << 22U;
 
@@ -70,7 +70,7 @@ void LinesView::ScrollAcrossToCaret() {
 
 void LinesView::MoveCaret(std::size_t place, bool selects) { Select({selects ? selection_.Anchor : place, place}); }
 
-// The place one character to the left (-1) or to the right (1), over the ends of lines.
+// Returns the place one character to the left (-1) or to the right (1), across line ends.
 std::size_t LinesView::Beside(int direction) const {
   const int row = lines_.RowOf(selection_.Caret);
   const std::vector<std::size_t> places = RowOnView(row).places;
@@ -84,7 +84,7 @@ std::size_t LinesView::Beside(int direction) const {
   return row > 0 ? RowOnView(row - 1).places.back() : places.front();
 }
 
-// The place so many rows further down, as far to the right as the caret was when it began to go up and down.
+// Returns the place this many rows further down, at the horizontal position where the caret began to move up and down.
 std::size_t LinesView::Below(int rows) {
   const int row = lines_.RowOf(selection_.Caret);
   const ShownRow shown = RowOnView(row);
@@ -145,7 +145,7 @@ void LinesView::mouseMoveEvent(QMouseEvent* event) {
   MoveCaret(PlaceAt(event->position().toPoint()), true);
 }
 
-// Selects the word under the pointer, or what stands between two words.
+// Selects the word under the pointer, or the characters between two words.
 void LinesView::mouseDoubleClickEvent(QMouseEvent* event) {
   const QModelIndex index = indexAt(event->position().toPoint());
   if (event->button() != Qt::LeftButton || !index.isValid()) return;

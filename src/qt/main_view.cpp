@@ -25,7 +25,7 @@
 namespace orby {
 namespace {
 
-constexpr int SignLines = 8;  // the height of the program's sign, in lines of text
+constexpr int SignLines = 8;  // the height of the program's logo in lines of text
 
 struct Dress {
   const char* action;
@@ -43,15 +43,14 @@ constexpr std::array Dresses{
     Dress{"Toolbar1_5", "parameters", nullptr},
 };
 
-// However its size comes about, the window is no larger than its screen, and no part of it is left outside the screens
-// that could be inside.
+// Keeps the window no larger than its screen and inside the screens, whatever changes its size.
 class StayInView : public QObject {
  public:
   explicit StayInView(QMainWindow& window) : QObject(&window), window_(window) { window.installEventFilter(this); }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::Resize && !window_.isMaximized() && !window_.isFullScreen()) BringBack();
-    // By then the frame is known.
+    // The frame is known by then.
     if (event->type() == QEvent::WindowActivate) Fit();
     return QObject::eventFilter(watched, event);
   }
@@ -78,7 +77,7 @@ class StayInView : public QObject {
   QMainWindow& window_;
 };
 
-// Fills the place of the history while it is hidden: the sign and the name of the program.
+// The logo and the name of the program, shown while the history is hidden.
 class EmptyGround : public QObject {
  public:
   explicit EmptyGround(QMainWindow& window) : QObject(&window), ground_(*new QLabel) {
@@ -108,13 +107,13 @@ class EmptyGround : public QObject {
   QLabel& ground_;
 };
 
-// Takes the one file that is dropped on the window.
+// Opens the file that is dropped on the window.
 class DropTarget : public QObject {
  public:
   DropTarget(QMainWindow& window, MainWindow& model) : QObject(&window), window_(window), model_(model) {
     window.setAcceptDrops(true);
     window.installEventFilter(this);
-    // The pane would take the name of the file as a text.
+    // The pane would insert the name of the file as text.
     for (auto* pane : window.findChildren<QPlainTextEdit*>()) pane->setAcceptDrops(false);
   }
 
@@ -127,7 +126,7 @@ class DropTarget : public QObject {
     if (event->type() == QEvent::Drop) {
       auto& drop = *dynamic_cast<QDropEvent*>(event);
       drop.acceptProposedAction();
-      // The program that the file comes from waits for the drop to end; opening may ask questions.
+      // Queued, because opening may ask questions while the other program waits for the drop to end.
       QMetaObject::invokeMethod(
           this, [this, file = FileOf(*drop.mimeData())] { Take(file); }, Qt::QueuedConnection);
       return true;
@@ -136,7 +135,7 @@ class DropTarget : public QObject {
   }
 
  private:
-  // Under a dialog that has opened meanwhile the project stays.
+  // Does nothing if a dialog has opened meanwhile.
   void Take(const QString& file) {
     if (!IsBlocked(window_)) RunGuarded([&] { model_.Dropped(FromQt(file)); });
   }
@@ -161,7 +160,7 @@ void DressMainWindow(QMainWindow& window, MainWindow& model) {
     if (dress.shortcut != nullptr) action->setShortcut(QKeySequence(dress.shortcut));
   }
   new StayInView(window);
-  // The icons have made the tool bar longer than the window was made for.
+  // With the icons, the tool bar is longer than the window was made for.
   const QSize whole(window.findChild<QToolBar*>()->sizeHint().width(), 0);
   const QSize most = window.screen()->availableSize().shrunkBy(FrameOf(window));
   if (!window.isMaximized()) window.resize(window.size().expandedTo(whole).boundedTo(most));

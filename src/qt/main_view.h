@@ -1,4 +1,4 @@
-// What the main window has beyond its form: icons, shortcuts, and files dropped on it.
+// Adds icons, shortcuts, and a target for dropped files to the main window.
 #pragma once
 
 #include <QMainWindow>
@@ -7,7 +7,7 @@ namespace orby {
 
 class MainWindow;
 
-// Both must live as long as the window is on the screen.
+// Both must exist as long as the window is on the screen.
 void DressMainWindow(QMainWindow& window, MainWindow& model);
 
 }  // namespace orby

@@ -15,8 +15,8 @@ namespace orby {
 namespace {
 
 struct ButtonSet {
-  std::array<QMessageBox::StandardButton, 3> buttons;  // in the order of which one is the default
-  QMessageBox::StandardButton escape;                  // what the Escape key stands for
+  std::array<QMessageBox::StandardButton, 3> buttons;  // by the number of the default button
+  QMessageBox::StandardButton escape;                  // the button that the Escape key presses
 };
 
 constexpr auto None = QMessageBox::NoButton;
@@ -53,13 +53,13 @@ BoxResult ResultOf(int button) {
   }
 }
 
-// A question of yes or no has no way around its answer.
+// A box that can be closed only by one of its buttons, if the user must answer.
 class Box : public QMessageBox {
  public:
   Box(QWidget* parent, bool mustAnswer) : QMessageBox(parent), mustAnswer_(mustAnswer) {}
 
  protected:
-  // The box asks its layout how wide it has to be.
+  // Makes the box wide enough for its title.
   void showEvent(QShowEvent* event) override {
     auto& grid = dynamic_cast<QGridLayout&>(*layout());
     auto* width = new QSpacerItem(WidthOfTitle(*this), 0, QSizePolicy::Minimum, QSizePolicy::Minimum);
@@ -81,7 +81,7 @@ class Box : public QMessageBox {
   bool mustAnswer_;
 };
 
-// The window that the box stands on. While another program has the keyboard none of the program's windows is active.
+// Returns the owner of the box. No window of the program is active while another program has the focus.
 QWidget* WindowInUse() {
   if (QWidget* active = QApplication::activeWindow()) return active;
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;

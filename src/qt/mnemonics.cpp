@@ -9,8 +9,8 @@
 namespace orby {
 namespace {
 
-// The pages of tab sets around a widget, the outermost first: two captions can be on view together when the pages of
-// one begin with those of the other.
+// The tab pages around a widget, the outermost first. Two captions can be visible together if the pages of one are a
+// prefix of the pages of the other.
 using Pages = std::vector<const QWidget*>;
 
 Pages PagesAround(const QWidget* widget) {
@@ -31,16 +31,16 @@ bool CanMeet(const Pages& a, const Pages& b) {
 struct Taken {
   Pages pages;
   QChar letter;
-  const CaptionSlot* slot = nullptr;  // none: the letter is marked in the caption
+  const CaptionSlot* slot = nullptr;  // null if the letter is marked in the caption
 };
 
-// Enter and Escape reach these.
+// The Enter and Escape keys press these buttons.
 bool NeedsNoLetter(std::string_view caption) {
   constexpr std::array<std::string_view, 2> Keys{"OK", "Cancel"};
   return std::ranges::find(Keys, caption) != Keys.end();
 }
 
-// The first letter of a word if one is free, else the first free letter at all.
+// Returns the first free initial of a word, else the first free letter.
 QChar FreeLetter(const QString& caption, const std::vector<Taken>& taken, const Pages& pages) {
   const auto isFree = [&](QChar letter) {
     return std::ranges::none_of(
@@ -56,7 +56,7 @@ QChar FreeLetter(const QString& caption, const std::vector<Taken>& taken, const 
   return {};
 }
 
-// A letter that becomes free when the one caption that has it takes another.
+// Moves the only holder of a letter to another free letter, and returns the letter that becomes free.
 QChar FreedLetter(const QString& caption, std::vector<Taken>& taken, const Pages& pages) {
   for (const QChar letter : caption.toLower()) {
     const auto holds = [&](const Taken& entry) { return entry.letter == letter && CanMeet(entry.pages, pages); };

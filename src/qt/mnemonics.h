@@ -1,5 +1,4 @@
-// The letters by which the keyboard reaches fields and buttons: each caption gets one that no other caption on view
-// has.
+// The mnemonic letters of fields and buttons: captions that are visible together get different letters.
 #pragma once
 
 #include <QString>
@@ -14,18 +13,18 @@ namespace orby {
 
 class Mnemonics {
  public:
-  // Captions that bring their own letter ("&Open...") keep it. The rest choose in the order given, those outside of
-  // tabs first; where no letter is left there is none.
+  // Assigns the letters. Captions with a letter of their own ("&Open...") keep it. The others choose in the given
+  // order, but captions outside of tabs come first. A caption gets no letter if none is left.
   void Assign(const std::vector<CaptionSlot>& captions);
 
-  // The caption with its letter marked for the toolkit.
+  // Returns the caption with its letter marked for the toolkit.
   QString Marked(const QObject* key, int index, std::string_view caption) const;
 
  private:
   std::map<std::pair<const QObject*, int>, QChar> letters_;
 };
 
-// The letter that follows the "&" of a caption, in lower case; a null character without one.
+// Returns the letter after the "&" of a caption in lower case, or a null character if there is none.
 QChar OwnLetter(const QString& caption);
 
 }  // namespace orby

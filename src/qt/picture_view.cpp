@@ -10,7 +10,7 @@
 namespace orby {
 namespace {
 
-// Drawings are made for a line of text this high, and grow with the text.
+// The drawings fit this line height and grow with the text.
 constexpr double DrawnLineHeight = 17;
 constexpr double LeastShare = 0.6;
 

@@ -1,4 +1,4 @@
-// A drawing inside a dialog. Its property "picture" names the resource.
+// Shows a drawing in a dialog. The property "picture" names its resource.
 #pragma once
 
 #include <QSvgRenderer>
@@ -21,7 +21,7 @@ class PictureView : public QWidget {
  private:
   QSvgRenderer& Drawing() const;
 
-  mutable std::unique_ptr<QSvgRenderer> drawing_;  // made when it is first asked for, and after a change of the theme
+  mutable std::unique_ptr<QSvgRenderer> drawing_;  // created on first use and after a change of the theme
 };
 
 }  // namespace orby

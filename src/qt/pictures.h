@@ -1,4 +1,4 @@
-// The drawings of the program: vector pictures whose lines take the colour of the desktop's text, light or dark.
+// The program's vector drawings. Their lines take the colour of the desktop's text, light or dark.
 #pragma once
 
 #include <QIcon>
@@ -9,10 +9,10 @@ class QColor;
 
 namespace orby {
 
-// The drawing of a resource, such as ":/pictures/open.svg", with its lines in this colour.
+// Returns the drawing of a resource, such as ":/pictures/open.svg", with lines in this colour.
 std::unique_ptr<QSvgRenderer> LoadPicture(const QString& resource, const QColor& lines);
 
-// An icon that is drawn anew in whatever size and theme it is asked for.
+// Returns an icon that is redrawn for each requested size and theme.
 QIcon ThemedIcon(const QString& name);
 
 }  // namespace orby

@@ -1,4 +1,4 @@
-// Work that takes long, done piece by piece between the events of the window.
+// Runs a long task in pieces between the events of the window.
 #pragma once
 
 #include <QBasicTimer>
@@ -10,10 +10,10 @@ namespace orby {
 
 class PieceTask : public QObject {
  public:
-  // Does the next piece. Returns true if there is more to do. It may start another task, which takes its place.
+  // Does the next piece. Returns true if there is more to do. It may start another task, which replaces this one.
   using Step = std::function<bool()>;
 
-  // Gives up what is being done. Does the first piece at once and the others later.
+  // Stops the running task. Does the first piece at once and the others later.
   void Start(Step step) {
     Stop();
     ++started_;
@@ -35,13 +35,13 @@ class PieceTask : public QObject {
     const Step step = step_;
     const int started = started_;
     if (!step || step()) return;
-    // The piece may have started other work, which goes on.
+    // The piece may have started another task, which continues.
     if (started == started_) Stop();
   }
 
   QBasicTimer timer_;
   Step step_;
-  int started_ = 0;  // tasks so far
+  int started_ = 0;  // number of tasks started
 };
 
 }  // namespace orby

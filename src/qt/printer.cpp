@@ -28,7 +28,7 @@ constexpr int ChartWidth = 800;
 constexpr int ChartHeight = 1000;
 constexpr double ChartMargin = 1.0 / 40;  // of the chart's width
 
-// The largest size in which a sheet of text fits the paper.
+// Returns the font in the largest size in which a sheet fits the paper.
 QFont SheetFont(const QString& name, QPrinter& paper) {
   QFont font = name.isEmpty() ? QFontDatabase::systemFont(QFontDatabase::FixedFont) : QFont(name);
   font.setStyleHint(QFont::TypeWriter, QFont::PreferNoShaping);  // two letters drawn as one would shift the columns
@@ -56,12 +56,12 @@ bool IsFile(const QPrinter& device) {
   return device.outputFormat() == QPrinter::PdfFormat && !device.outputFileName().isEmpty();
 }
 
-// A PDF file of this name in the folder of the other one.
+// Returns the path of a PDF file with this name in the folder of the other file.
 QString NameBeside(const QString& other, const std::string& fileName) {
   return QFileInfo(other).dir().filePath(ToQt(fileName) + ".pdf");
 }
 
-// The path itself if nothing is there, else the first of "NAME (2).pdf", "NAME (3).pdf" and so on that is free.
+// Returns the path if it is free, else the first free one of "NAME (2).pdf", "NAME (3).pdf" and so on.
 QString NewName(const QString& path) {
   const QFileInfo file(path);
   QString name = path;
@@ -73,7 +73,7 @@ QString NewName(const QString& path) {
 
 }  // namespace
 
-// One document on its way to the device, as far as this lives. It has the margins of a sheet.
+// One document that is being printed, with the margins of a sheet. The print ends with this object.
 class QtPrinter::Job {
  public:
   Job(QtPrinter& printer, const std::string& title) : device_(printer.Device()), chosenFile_(device_.outputFileName()) {
@@ -112,7 +112,7 @@ void QtPrinter::ShowDialog() {
   if (dialog.exec() != QDialog::Accepted) throw RuntimeError(error_number::Cancelled);
 }
 
-// The dialog proposes a file by the name of the document, until there is a file.
+// The dialog suggests a file with the name of the document until the user has chosen a file.
 void QtPrinter::Choose(const std::string& fileName) {
   QPrinter& device = Device();
   const QString before = device.outputFileName();
@@ -148,7 +148,7 @@ std::string QtPrinter::PrintPages(const std::vector<std::string>& pages, const s
   QPrinter& device = job.Device();
   QPainter painter;
   if (!painter.begin(&device)) throw RuntimeError(error_number::Printer);
-  // The device still has the scale of a chart that was printed before.
+  // The device still has the scale of a previously printed chart.
   painter.setWorldTransform({});
   painter.setFont(SheetFont(ToQt(fontName), device));
   bool first = true;

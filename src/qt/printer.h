@@ -1,4 +1,4 @@
-// The printer of the desktop, or a PDF file, which needs none.
+// Prints on a printer of the desktop or to a PDF file, which needs no printer.
 #pragma once
 
 #include <QPrinter>
@@ -17,18 +17,19 @@ class QtPrinter : public Printer {
                          const std::string& fontName) override;
   void PrintChart(const Control& chart, const std::string& title) override;
 
-  // What is printed to, made when it is first asked for.
+  // Returns the print device, created on first use.
   QPrinter& Device();
 
  private:
   class Job;
 
-  // Throws RuntimeError 32755 when cancelled.
+  // Throws RuntimeError 32755 if the user cancels.
   void ShowDialog();
 
   std::unique_ptr<QPrinter> device_;
-  bool mayReplace_ = false;  // the user has agreed to the file name in the dialog
-  std::string chosenFor_;    // what the file name was proposed for; empty: the user gave it without a print
+  bool mayReplace_ = false;  // the user confirmed the file name in the dialog
+  std::string
+      chosenFor_;  // the document for which the file name was suggested; empty if the user chose it outside of a print
 };
 
 }  // namespace orby

@@ -18,7 +18,7 @@ constexpr qint64 CopyPiece = 1 << 20;
 constexpr auto OwnerFolder = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
 const char* const FolderName = "setup-";
 
-// The folder that the copies' own folders lie in; the copies of earlier runs are removed.
+// Returns the cache folder after removing the copies of earlier runs.
 QDir EmptiedCache() {
   QDir cache(QStandardPaths::writableLocation(QStandardPaths::CacheLocation));
   cache.mkpath(".");
@@ -58,7 +58,7 @@ std::string SumOf(QFile& file) {
 std::optional<std::string> PrivateCopy(const std::string& path, const std::string& sha256) {
   QFile source(ToQt(path));
   const QFileInfo facts(source);
-  if (!facts.isFile()) throw RuntimeError(error_number::PathFileAccess);  // a pipe would never end
+  if (!facts.isFile()) throw RuntimeError(error_number::PathFileAccess);  // reading a pipe might never end
   QTemporaryDir folder(EmptiedCache().filePath(QString(FolderName) + "XXXXXX"));
   if (!folder.isValid()) throw RuntimeError(error_number::PathFileAccess);
   QFile copy(folder.filePath(facts.fileName()));

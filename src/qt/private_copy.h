@@ -1,4 +1,4 @@
-// Copies that nobody but the user can change.
+// Copies that only the user can change.
 #pragma once
 
 #include <optional>
@@ -6,7 +6,7 @@
 
 namespace orby {
 
-// See Downloads::CheckedCopy. The copy lies in the user's folder for what programs can make anew.
+// Implements Downloads::CheckedCopy. The copy is in the user's cache folder.
 std::optional<std::string> PrivateCopy(const std::string& path, const std::string& sha256);
 
 }  // namespace orby

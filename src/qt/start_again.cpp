@@ -5,7 +5,7 @@
 namespace orby {
 namespace {
 
-// A path need not be UTF-8, so it goes through the environment as its bytes.
+// A path need not be UTF-8, so the environment holds its bytes.
 constexpr const char* Variable = "ORBY_START_AGAIN";
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Starts the program again after a run that ended by an error, and tells the new run what it brings back.
+// Starts the program again after an error that ended the run, and passes the restart to the new run.
 #pragma once
 
 #include <QString>
@@ -8,11 +8,11 @@
 
 namespace orby {
 
-// Starts the program at this path, which outlives this run. Returns false if it cannot be started.
+// Starts the program at this path as an independent process. Returns false if it cannot be started.
 bool StartAgain(const QString& path, const Restart& restart);
 
-// What the run before this one told; nothing when this run is an ordinary start. Programs that this one starts are not
-// told.
+// Returns the restart that the previous run passed, or nothing at an ordinary start. Removes it from the environment,
+// so that programs started from this one do not see it.
 std::optional<Restart> TakeRestart();
 
 }  // namespace orby

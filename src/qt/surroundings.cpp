@@ -30,8 +30,8 @@ std::vector<std::string> FontsAfter(const QFont& first) {
 
 }  // namespace
 
-// The first font is what stands in where the wanted ones are not there: the desktop's own on the screen, and one of
-// fixed pitch on paper, where columns must stand.
+// The first font is the substitute for missing ones: the desktop's font on the screen, and a monospaced one on paper,
+// so that columns are aligned.
 std::vector<std::string> QtFonts::ScreenFonts() { return FontsAfter(QGuiApplication::font()); }
 std::vector<std::string> QtFonts::PrinterFonts() {
   return FontsAfter(QFontDatabase::systemFont(QFontDatabase::FixedFont));

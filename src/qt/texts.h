@@ -1,4 +1,4 @@
-// Texts between the models, which are UTF-8 with CR LF, and the toolkit.
+// Converts texts between the models, which use UTF-8 and CR LF, and the toolkit.
 #pragma once
 
 #include <QString>
@@ -11,7 +11,7 @@ inline QString ToQt(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-// Several lines, as the toolkit's text boxes hold them.
+// Converts several lines to the form that the toolkit's text boxes use.
 inline QString ToQtLines(std::string_view text) { return ToQt(text).replace("\r\n", "\n"); }
 
 inline std::string FromQt(const QString& text) { return text.toStdString(); }

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int MostHops = 5;
 constexpr qint64 ReadPiece = 1 << 16;
-constexpr qint64 MostWaiting = 1 << 20;  // bytes that wait to be taken; the server is held back beyond them
+constexpr qint64 MostWaiting = 1 << 20;  // bytes that may wait to be read; beyond them the server is slowed down
 
 namespace status {
 constexpr int Whole = 200;
@@ -27,7 +27,7 @@ constexpr std::array Elsewhere{301, 302, 303, 307, 308};
 }  // namespace status
 
 int StatusOf(const QNetworkReply& reply) {
-  return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();  // 0 when there was no answer
+  return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();  // 0 if there was no answer
 }
 
 bool LeadsElsewhere(const QNetworkReply& reply) {
@@ -39,8 +39,8 @@ bool IsEncoded(const QNetworkReply& reply) {
   return !encoding.isEmpty() && encoding != "identity";
 }
 
-// What tells one state of a file on the server from the next: an exact tag, else the time of the last change; empty
-// when the server gives neither.
+// Returns a mark that changes with the file on the server: a strong tag, else the time of the last change. Returns an
+// empty text if the server sends neither.
 QByteArray MarkIn(const QNetworkReply& reply) {
   const QByteArray tag = reply.rawHeader("ETag");
   return tag.startsWith('"') ? tag : reply.rawHeader("Last-Modified");
@@ -48,7 +48,7 @@ QByteArray MarkIn(const QNetworkReply& reply) {
 
 struct ByteRange {
   qint64 first = -1;
-  quint64 total = 0;  // 0: not told
+  quint64 total = 0;  // 0 if unknown
 };
 
 ByteRange RangeIn(const QNetworkReply& reply) {
@@ -58,7 +58,7 @@ ByteRange RangeIn(const QNetworkReply& reply) {
   return {match.captured(1).toLongLong(), match.captured(2).toULongLong()};
 }
 
-// Nothing is remembered from one fetch to the next, nothing is told about the user, and what arrives is what was sent.
+// The request uses no cache, no cookies and no compression, and sends nothing about the user.
 QNetworkRequest RequestFor(const QUrl& address, std::chrono::milliseconds patience) {
   QNetworkRequest request(address);
   request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
@@ -106,7 +106,7 @@ void Transfer::Begin() {
   SumUp();
 }
 
-// A piece a turn of the event loop.
+// Reads one piece per turn of the event loop.
 void Transfer::SumUp() {
   if (ended_) return;
   if (file_->SumUpSome()) {
@@ -143,7 +143,7 @@ void Transfer::TakeBytes() {
     }
   }
   if (ended_ || !events_.Progress) return;
-  const auto progress = events_.Progress;  // it may be what stops this
+  const auto progress = events_.Progress;  // a copy, because the call may stop this transfer
   RunGuarded([&] { progress(static_cast<quint64>(file_->Size()), total_); });
 }
 
@@ -179,7 +179,7 @@ bool Transfer::TakeWhole() {
   return file_->StartAnew(MarkIn(*reply_)) || End(FetchEnd::Failed);
 }
 
-// Only the rest of the very file that the start came from fits behind it.
+// Accepts the rest only if it continues exactly the file whose first bytes are here.
 bool Transfer::TakeRest() {
   const ByteRange range = RangeIn(*reply_);
   const QByteArray mark = MarkIn(*reply_);
@@ -189,7 +189,7 @@ bool Transfer::TakeRest() {
   return !IsTooLong(total_) || DropAndFail();
 }
 
-// Never from a safe way to one that anybody can read.
+// Never follows from https to http.
 bool Transfer::Follow() {
   const QUrl next = address_.resolved(QUrl::fromEncoded(reply_->rawHeader("Location"), QUrl::StrictMode));
   const bool staysSafe = address_.scheme() != "https" || next.scheme() == "https";

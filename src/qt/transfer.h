@@ -1,4 +1,4 @@
-// One fetch under way: an address, the addresses that it leads to, and the file that its bytes go into.
+// One running download: follows redirects and writes the bytes to a file.
 #pragma once
 
 #include <QNetworkReply>
@@ -17,17 +17,17 @@ namespace orby {
 
 bool IsThisMachine(const QString& host);
 
-// Whether the program may fetch from there: https, or http with this machine itself.
+// Returns true if the program may fetch from this address: https, or http on this machine.
 bool MayFetchFrom(const QUrl& address);
 
 class Transfer : public QObject {
  public:
-  // A child of the network. patience: a server that sends nothing for so long is given up.
+  // Becomes a child of the network. patience: a server that sends nothing for this long counts as failed.
   Transfer(QNetworkAccessManager& network, FetchRequest request, FetchEvents events,
            std::chrono::milliseconds patience);
 
   void Begin();
-  // No event follows.
+  // Stops the download. No event follows.
   void Stop();
 
  private:
@@ -36,7 +36,7 @@ class Transfer : public QObject {
   void TakeBytes();
   void TakeEnd();
 
-  // What the head of an answer leads to; false when its body is not wanted.
+  // Handles the head of an answer. Returns false if its body is not wanted.
   bool TakeHead();
   bool TakeWhole();
   bool TakeRest();
@@ -54,12 +54,12 @@ class Transfer : public QObject {
   FetchRequest request_;
   FetchEvents events_;
   std::chrono::milliseconds patience_;
-  QUrl address_;  // asked last
+  QUrl address_;  // the address of the last request
   int hops_ = 0;
   QPointer<QNetworkReply> reply_;
   std::unique_ptr<ArrivingFile> file_;
   bool headTaken_ = false;
-  quint64 total_ = 0;  // bytes of the whole file; 0: the server does not say
+  quint64 total_ = 0;  // bytes of the whole file; 0 if the server does not say
   bool ended_ = false;
 };
 

@@ -1,12 +1,12 @@
-// Which server publishes new versions of the program.
+// The server that publishes new versions of the program.
 #pragma once
 
 #include <string>
 
 namespace orby {
 
-// The address that the program was built with, unless ORBY_UPDATE_SERVER in the environment names another one, or, when
-// it is empty, none at all.
+// Returns the address that the program was built with. The environment variable ORBY_UPDATE_SERVER overrides it; an
+// empty value means no server.
 std::string UpdateServer();
 
 }  // namespace orby

@@ -7,7 +7,7 @@
 namespace orby {
 namespace {
 
-constexpr int TitleButtons = 4;  // the icon among them
+constexpr int TitleButtons = 4;  // including the icon
 
 QMargins FrameOnScreen(const QWidget& window) {
   const QRect inner = window.geometry();
@@ -31,7 +31,7 @@ QMargins FrameOf(const QWidget& window) {
   return {edge, TitleHeight(window), edge, edge};
 }
 
-// A window manager has a font of its own, so a heavy one of the program stands for it.
+// Measures in bold, because the window manager's own font is unknown and may be wide.
 int WidthOfTitle(const QWidget& window) {
   QFont font = QApplication::font();
   font.setBold(true);

@@ -1,4 +1,4 @@
-// The frame that the window manager draws around a window: the title bar and the edges.
+// The frame that the window manager draws around a window: title bar and edges.
 #pragma once
 
 #include <QMargins>
@@ -6,11 +6,11 @@
 
 namespace orby {
 
-// The frame of the window. One that is not on the screen yet will have the frame of those that are; before the first of
-// them it is taken from the style.
+// Returns the frame of the window. For a window that is not on the screen yet, returns the frame of one that is, or an
+// estimate from the style if there is none.
 QMargins FrameOf(const QWidget& window);
 
-// The inner width in which a title bar shows the whole title beside its icon and buttons.
+// Returns the inner width at which the title bar shows the whole title beside its icon and buttons.
 int WidthOfTitle(const QWidget& window);
 
 }  // namespace orby

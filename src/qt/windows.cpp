@@ -61,7 +61,7 @@ class DialogWindow : public AskingWindow<QDialog> {
  public:
   using AskingWindow::AskingWindow;
 
-  // The Escape key closes as the window's own button does.
+  // The Escape key closes like the window's close button.
   void reject() override { close(); }
 };
 
@@ -110,17 +110,17 @@ void TieClosing(QWidget& window, BoundForm& view) {
   }
 }
 
-// Texts and fonts that came after a layout had been measured count, the innermost first.
-void LayOutAnew(QWidget& widget) {
-  for (QWidget* child : widget.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) LayOutAnew(*child);
+// Updates layouts, innermost first, for texts and fonts that came after they were measured.
+void UpdateLayouts(QWidget& widget) {
+  for (QWidget* child : widget.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) UpdateLayouts(*child);
   widget.updateGeometry();
   if (widget.layout() == nullptr) return;
   widget.layout()->invalidate();
   widget.layout()->activate();
 }
 
-// The size in which all of the window shows, what lies in its scroll area included. A base size in a layout is what a
-// widget would like to have beyond what it needs.
+// Returns the size that shows the whole window, including the contents of its scroll area. A base size in a layout is
+// the extra space that a widget would like to have.
 QSize WholeSize(QWidget& window) {
   for (QWidget* child : window.findChildren<QWidget*>()) child->ensurePolished();
   window.ensurePolished();
@@ -130,13 +130,13 @@ QSize WholeSize(QWidget& window) {
     if (!child->baseSize().isEmpty()) size += (child->baseSize() - needed).expandedTo(QSize(0, 0));
   }
   if (const auto* scroll = window.findChild<QScrollArea*>("viewScroll")) {
-    LayOutAnew(*scroll->widget());
+    UpdateLayouts(*scroll->widget());
     size += scroll->widget()->sizeHint() - scroll->sizeHint();
   }
   return size;
 }
 
-// In the middle of the screen, and with its frame no larger than it.
+// Centres the window on the screen, no larger than the screen including its frame.
 void Place(QWidget& window) {
   const QRect screen = window.screen()->availableGeometry();
   const QMargins frame = FrameOf(window);
@@ -146,15 +146,14 @@ void Place(QWidget& window) {
   window.move(screen.left() + at.left, screen.top() + at.top);
 }
 
-// The window that a graph stands on: the dialog in use, else the main window while it is on view. Both outlive it,
-// whatever else is closed meanwhile.
+// Returns the owner for a graph: the dialog in use, else the main window if it is visible. Both outlive the graph.
 QWidget* WindowInUse(QWidget* mainWindow) {
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;
   return mainWindow != nullptr && mainWindow->isVisible() ? mainWindow : nullptr;
 }
 
-// The window that a dialog stands on: a window that stands on the dialog in use, such as a graph, while it has the
-// keyboard; else the same as for a graph.
+// Returns the owner for a dialog: a window on top of the dialog in use, such as a graph, while it has the focus; else
+// the same window as for a graph.
 QWidget* WindowBelow(QWidget* mainWindow) {
   const QWidget* modal = QApplication::activeModalWidget();
   QWidget* active = QApplication::activeWindow();
@@ -168,7 +167,8 @@ QWidget* WindowBelow(QWidget* mainWindow) {
 std::unique_ptr<QWidget> MakeWindow(const Form& form, QWidget* parent) {
   const auto* entry = std::ranges::find(Layouts, form.Name(), &LayoutEntry::form);
   if (entry == Layouts.end()) throw std::logic_error("no layout for " + std::string(form.Name()));
-  // Before its first frame: the toolkit asks for the reader of a frame as soon as it has a title, and keeps it.
+  // Must run before the first frame is created, because the toolkit asks for a frame's reader as soon as it has a
+  // title, and keeps it.
   InstallFrameReader();
   return entry->make(parent);
 }
@@ -209,7 +209,7 @@ void QtWindows::ShowModal(Form& form) {
   dialog.show();
   shown.view->ShowFocus();
   if (form.IsOpen()) dialog.exec();
-  // A main window that has come back meanwhile must not cover what is in use again.
+  // A main window that has returned meanwhile must not cover the window in use.
   shown.window->hide();
   if (below == nullptr || !below->isVisible()) return;
   below->raise();
@@ -220,10 +220,10 @@ void QtWindows::Show(Form& form) {
   auto found = modeless_.find(&form);
   if (found == modeless_.end()) {
     found = modeless_.emplace(&form, MakeShown(form, WindowInUse(main_.window.get()))).first;
-    // A window manager keeps only dialogs above the window that they belong to.
+    // Window managers keep only dialogs above their owner.
     found->second.window->setWindowFlag(Qt::Dialog);
     found->second.view->Finished = [this, &form] {
-      // It may be one of the window's own events that closes it. Until it is gone it must be no window to stand on.
+      // The window may be closed by one of its own events. Until it is destroyed, no other window may use it as owner.
       auto node = modeless_.extract(&form);
       node.mapped().window->hide();
       node.mapped().window.release()->deleteLater();
@@ -236,7 +236,7 @@ void QtWindows::Show(Form& form) {
   window.activateWindow();
 }
 
-// The place on the screen survives. A window that comes back, or is there already, is in use again.
+// Keeps the position on the screen. A window that is shown, or is already visible, is activated.
 void QtWindows::ShowMainWindow(bool visible) {
   if (!main_.window) return;
   if (main_.window->isVisible() != visible) {

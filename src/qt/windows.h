@@ -1,4 +1,4 @@
-// The windows of the program: one for each form on the screen.
+// The windows of the program, one for each form on the screen.
 #pragma once
 
 #include <QMainWindow>
@@ -10,7 +10,8 @@
 
 namespace orby {
 
-// A window with the form's layout, not yet tied to the form. Throws std::logic_error for a form without a layout.
+// Returns a window with the form's layout, not yet bound to the form. Throws std::logic_error if the form has no
+// layout.
 std::unique_ptr<QWidget> MakeWindow(const Form& form, QWidget* parent);
 
 class QtWindows : public Windows {
@@ -18,18 +19,18 @@ class QtWindows : public Windows {
   QtWindows();
   ~QtWindows() override;
 
-  // Shows the main window; the program ends when its form closes.
+  // Shows the main window. The program ends when its form closes.
   void ShowMain(Form& form, bool maximized);
-  // The main window, once it is shown.
+  // Returns the main window after it has been shown.
   QMainWindow& Main() const;
 
-  // Runs when the user asks for help in a window, on one of its controls or on the window.
+  // Called when the user asks for help on a control; null means the whole window.
   std::function<void(const Form& form, const Control* control)> HelpRequested;
 
   void ShowModal(Form& form) override;
   void Show(Form& form) override;
   void ShowMainWindow(bool visible) override;
-  void CenterForm(Form&) override {}  // a form is centred when its window is made
+  void CenterForm(Form&) override {}  // a form is centred when its window is created
   void SetWaitCursor(bool waiting) override;
 
  private:

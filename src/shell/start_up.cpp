@@ -30,7 +30,7 @@ std::optional<IniText> StoredConfiguration(Program& program) {
   return ini;
 }
 
-void TellThatNoneCanBeKept(Program& program, const RuntimeError& error) {
+void ReportUnusableConfiguration(Program& program, const RuntimeError& error) {
   const std::string trouble = "Configuration file cannot be used: " + program.session.IniFilePath + " (" +
                               std::string(error.description()) + "). Built-in settings are in force";
   AddHistoryLine(program, trouble);
@@ -52,7 +52,7 @@ IniText SettledConfiguration(Program& program) {
   } catch (const RuntimeError& error) {
     trouble = error;
   }
-  if (trouble) TellThatNoneCanBeKept(program, *trouble);
+  if (trouble) ReportUnusableConfiguration(program, *trouble);
   return ini;
 }
 

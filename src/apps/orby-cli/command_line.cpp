@@ -3,7 +3,7 @@
 namespace orby::cli {
 namespace {
 
-// Takes the words off one by one.
+// Returns the words of the command line one by one.
 class Words {
  public:
   explicit Words(const std::vector<std::string>& words) : words_(words) {}
@@ -20,7 +20,7 @@ class Words {
   std::size_t at_ = 0;
 };
 
-// False for an option that does not exist or lacks its value.
+// Returns false if the option does not exist or lacks its value.
 bool TakeOption(const std::string& option, Words& words, CommandLine& line) {
   if (option == "--help" || option == "-h") return line.Help = true;
   if (option == "--validate") return line.Validate = true;

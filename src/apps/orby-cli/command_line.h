@@ -1,4 +1,4 @@
-// The words of the command line, taken apart.
+// Parses the command line of orby-cli.
 #pragma once
 
 #include <optional>
@@ -9,16 +9,16 @@ namespace orby::cli {
 
 struct CommandLine {
   std::string Command;
-  std::vector<std::string> Operands;  // files, and the curve's number in front of its file
-  std::optional<int> Page;            // one report page only
+  std::vector<std::string> Operands;  // files; for a curve its number, then the file
+  std::optional<int> Page;            // the only report page to print
   bool Validate = false;
-  std::optional<std::string> Name;  // shown by the report instead of the file's path
+  std::optional<std::string> Name;  // the name that the report shows instead of the file's path
   bool AustralianTable = false;
   std::optional<std::string> Config;
   bool Help = false;
 };
 
-// Nothing when the words make no sense.
+// Returns nothing if the words are not a valid command line.
 std::optional<CommandLine> ParseCommandLine(const std::vector<std::string>& words);
 
 }  // namespace orby::cli

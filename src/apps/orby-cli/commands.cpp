@@ -56,7 +56,7 @@ struct FileRun {
   const CommandLine& line;
 };
 
-// False when the file is no project.
+// Returns false if the file is no project.
 bool OpenProject(FileRun& run, const std::string& file) {
   run.program.project.CurrentFile = file;
   bool opened = false;
@@ -71,7 +71,7 @@ void SaveAs(FileRun& run, const std::string& file) {
   FileSave(run.program, saved);
 }
 
-// The design that Results shows of the project, once its pages are built: one whose report fails has no curves either.
+// Builds the report pages and returns the design that Results shows. A design whose report fails has no curves either.
 Design BuildPages(Program& program) {
   if (!HasKnownChoices(program.project.WorkParms)) ShowMessage(program, std::string(UnknownChoice));
   Design design = AsReported(program.project, program.session.catalogs);
@@ -95,7 +95,7 @@ ExitCode Report(FileRun& run, const std::string&) {
 ExitCode Cost(FileRun& run, const std::string&) {
   const Design design = InSevenDigits(run.program.project.WorkParms);
   const std::string table = CostReport(design.Cost, design.Units);
-  LoadOutBuf0(run.program, design);  // the inputs go with the table: it has to be possible to write them
+  LoadOutBuf0(run.program, design);  // fails like the table if the inputs cannot be written
   Print(table);
   return ExitCode::Done;
 }
@@ -176,13 +176,13 @@ ExitCode Convert(FileRun& run, const std::string& out) {
 
 bool IsCurveNumber(const std::string& word) { return word.size() == 1 && word[0] >= '0' && word[0] <= '9'; }
 
-// How a command's operands stand: files alone, or one file with another word before or behind it.
+// The operands of a command: only files, or one file with another word before or after it.
 enum class Shape { Files, OneFile, NumberFile, FileOut };
 
 struct Command {
   std::string_view name;
   Shape shape;
-  // Runs on an opened project; extra is the word beside the file, if the command takes one.
+  // Runs on an open project. extra: the other word, if the command has one.
   ExitCode (*run)(FileRun& run, const std::string& extra);
 };
 
@@ -203,7 +203,7 @@ bool FitsShape(const std::vector<std::string>& operands, Shape shape) {
   return false;
 }
 
-ExitCode TellError(const RuntimeError& error) {
+ExitCode ReportError(const RuntimeError& error) {
   const std::string text = std::string(error.what()) + "\n";
   std::fwrite(text.data(), 1, text.size(), stderr);
   return ExitCode::RunTimeError;
@@ -213,7 +213,7 @@ ExitCode RunOnFile(const Command& command, FileRun run, const std::string& file,
   try {
     return OpenProject(run, file) ? command.run(run, extra) : ExitCode::Refused;
   } catch (const RuntimeError& error) {
-    return TellError(error);
+    return ReportError(error);
   }
 }
 
@@ -256,7 +256,7 @@ ExitCode RunCommand(const CommandLine& line) {
     if (std::fflush(stdout) != 0) throw RuntimeError(error_number::DiskFull);
     return code;
   } catch (const RuntimeError& error) {
-    return TellError(error);
+    return ReportError(error);
   }
 }
 

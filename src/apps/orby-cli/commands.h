@@ -1,4 +1,4 @@
-// What the companion can do with a project.
+// The commands of orby-cli.
 #pragma once
 
 #include <string>
@@ -8,18 +8,18 @@
 
 namespace orby::cli {
 
-// The worst one last.
+// In order of severity.
 enum class ExitCode {
   Done,
   Usage,
   Refused,       // not a project file
-  RunTimeError,  // told on standard error
-  Invalid,       // validation messages
+  RunTimeError,  // reported on standard error
+  Invalid,       // the project has validation messages
 };
 
 extern const std::string_view UsageText;
 
-// Runs the command, writing its results to standard output, and returns the exit code.
+// Runs the command, writes its results to standard output, and returns the exit code.
 ExitCode RunCommand(const CommandLine& line);
 
 }  // namespace orby::cli

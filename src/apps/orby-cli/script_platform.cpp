@@ -6,7 +6,7 @@
 namespace orby::cli {
 namespace {
 
-// A folder that no path of the machine reaches.
+// A folder that no real path can name.
 constexpr std::string_view ScratchFolder{"\0scratch", 8};
 
 bool IsScratch(const std::string& path) { return path.starts_with(ScratchFolder); }
@@ -42,7 +42,7 @@ BoxResult ScriptBoxes::Show(const MessageBox& box) {
     const std::string line = "message: " + box.text + "\n";
     std::fwrite(line.data(), 1, line.size(), stderr);
   }
-  // Nobody is there to retry or to agree to anything.
+  // No user is present to retry or to agree.
   return box.style.Buttons == BoxButtons::Ok ? BoxResult::Ok : BoxResult::Cancel;
 }
 
@@ -62,7 +62,7 @@ std::unique_ptr<OutputFile> ScriptFiles::CreateFile(const std::string& path) {
   return std::make_unique<ScratchFile>(text);
 }
 
-// A script has no use for half of a file: what is there stays until the new one is whole.
+// Scripts need no partly written file, so the old file stays until the new one is complete.
 std::unique_ptr<OutputFile> ScriptFiles::OpenInPlace(const std::string& path, std::uint64_t) {
   return CreateFile(path);
 }

@@ -1,4 +1,4 @@
-// The platform of a script: no windows, messages on standard error, temporary files in memory.
+// The platform of orby-cli: no windows, messages on standard error, temporary files in memory.
 #pragma once
 
 #include <cstdint>
@@ -12,7 +12,7 @@
 
 namespace orby::cli {
 
-// Tells messages on standard error as "message: text", or keeps them for whoever asked for them.
+// Writes each message to standard error as "message: text", or collects it if a caller asked for the messages.
 class ScriptBoxes : public MessageBoxes {
  public:
   BoxResult Show(const MessageBox& box) override;
@@ -21,8 +21,8 @@ class ScriptBoxes : public MessageBoxes {
   std::vector<std::string> Kept;
 };
 
-// The machine's files, but for the temporary ones: nothing is written that was not asked for. A file that is written
-// takes the place of the one before as a whole, when it is closed; one that is not closed leaves that one as it was.
+// The files of the machine, except that temporary files stay in memory. A file that is written replaces the old one
+// when it is closed; if it is not closed, the old one stays.
 class ScriptFiles : public DiskFiles {
  public:
   ScriptFiles() : DiskFiles(".") {}

@@ -12,7 +12,7 @@
 
 namespace {
 
-// The toolkit would end the program without a word to the user.
+// Without a display the toolkit would end the program without a clear message.
 bool HasDisplay() {
   for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
     const char* value = std::getenv(name);
