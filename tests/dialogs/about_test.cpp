@@ -10,7 +10,7 @@ namespace {
 using testing::HasSubstr;
 using testing::StartsWith;
 
-TEST(About, TellsVersionRevisionAndCredits) {
+TEST(About, ShowsVersionRevisionAndCredits) {
   RecordingPlatform platform;
   Program program{platform.Doors()};
 

@@ -35,7 +35,7 @@ struct TheBackupsWindow : testing::Test {
     FileNew(program, true, true);
   }
 
-  // The bytes of a project file with this depth of cover.
+  // Returns the bytes of a project file with this depth of cover.
   std::string DesignAt(Single depth) {
     Program other(platform.Doors());
     Begin(other);
@@ -50,7 +50,7 @@ struct TheBackupsWindow : testing::Test {
     ASSERT_TRUE(isRead);
   }
 
-  // An overwritten file of panel 4 and, newer, unsaved changes of panel 3.
+  // Leaves two backups: an overwritten file of panel 4 and, newer, unsaved changes of panel 3.
   void KeepTwo() {
     KeepBackup(program, Panel4, DesignAt(980), BackupReason::Overwritten);
     OpenProject(Panel3);
@@ -74,7 +74,7 @@ struct TheBackupsWindow : testing::Test {
   BackupsWindow backups{program};
 };
 
-TEST_F(TheBackupsWindow, ListsWhatWasKeptTheNewestFirst) {
+TEST_F(TheBackupsWindow, ListsTheNewestBackupFirst) {
   KeepTwo();
 
   backups.Open();
@@ -86,7 +86,7 @@ TEST_F(TheBackupsWindow, ListsWhatWasKeptTheNewestFirst) {
   EXPECT_EQ(backups.grdBackups.Row(), 1);
 }
 
-TEST_F(TheBackupsWindow, ShowsTheFiguresOfTheSelectedOne) {
+TEST_F(TheBackupsWindow, ShowsTheFiguresOfTheSelectedBackup) {
   KeepTwo();
   backups.Open();
 
@@ -122,7 +122,7 @@ TEST_F(TheBackupsWindow, ShowsTheTitleOfASavedFileAsItWasTyped) {
   EXPECT_EQ(backups.txtTitle.Text(), "Belt entry");
 }
 
-TEST_F(TheBackupsWindow, ShowsADashForAFigureThatCannotBeHad) {
+TEST_F(TheBackupsWindow, ShowsADashForAFigureThatCannotBeComputed) {
   program.project.WorkParms.Place.EntryWidth = 0;
   KeepDropped(program, program.project, BackupReason::Dropped);
 
@@ -133,7 +133,7 @@ TEST_F(TheBackupsWindow, ShowsADashForAFigureThatCannotBeHad) {
   EXPECT_TRUE(backups.cmdOpen.Enabled());
 }
 
-TEST_F(TheBackupsWindow, SaysThatThereAreNone) {
+TEST_F(TheBackupsWindow, SaysThatThereAreNoBackups) {
   backups.Open();
 
   EXPECT_EQ(backups.lblState.Caption(), "There are no backups.");
@@ -145,7 +145,7 @@ TEST_F(TheBackupsWindow, SaysThatThereAreNone) {
   EXPECT_TRUE(backups.cmdFolder.Enabled());
 }
 
-TEST_F(TheBackupsWindow, SaysThatOneIsDamaged) {
+TEST_F(TheBackupsWindow, SaysThatABackupIsDamaged) {
   KeepTwo();
   KeepDamaged(program, "ORBY_RECOVERY_1\r\nCurrentFile=/designs/pan");
 
@@ -159,7 +159,7 @@ TEST_F(TheBackupsWindow, SaysThatOneIsDamaged) {
   EXPECT_TRUE(backups.cmdDelete.Enabled());
 }
 
-TEST_F(TheBackupsWindow, NamesTheReasonOfADamagedEntryNotKnown) {
+TEST_F(TheBackupsWindow, SaysThatTheReasonIsUnknownIfTheNoteIsMissing) {
   KeepTwo();
   platform.files.files.erase(Store + "2031-03-09 14.05.07 00002.about");
 
@@ -171,7 +171,7 @@ TEST_F(TheBackupsWindow, NamesTheReasonOfADamagedEntryNotKnown) {
 
 // ---- the ways back --------------------------------------------------------------------------------------------------
 
-TEST_F(TheBackupsWindow, SavesOneUnderTheNameThatTheUserGives) {
+TEST_F(TheBackupsWindow, SavesABackupUnderTheNameThatTheUserGives) {
   KeepTwo();
   backups.Open();
   backups.grdBackups.SetRow(2);
@@ -185,7 +185,7 @@ TEST_F(TheBackupsWindow, SavesOneUnderTheNameThatTheUserGives) {
   EXPECT_TRUE(backups.IsOpen());
 }
 
-TEST_F(TheBackupsWindow, KeepsTheFileThatItSavesOver) {
+TEST_F(TheBackupsWindow, BacksUpTheFileThatItOverwrites) {
   KeepTwo();
   backups.Open();
   backups.grdBackups.SetRow(2);
@@ -198,7 +198,7 @@ TEST_F(TheBackupsWindow, KeepsTheFileThatItSavesOver) {
   EXPECT_EQ(backups.grdBackups.Rows(), 4);
 }
 
-TEST_F(TheBackupsWindow, StaysAtTheEntryThatItSaved) {
+TEST_F(TheBackupsWindow, KeepsTheSavedBackupSelected) {
   KeepTwo();
   backups.Open();
   backups.grdBackups.SetRow(2);
@@ -210,7 +210,7 @@ TEST_F(TheBackupsWindow, StaysAtTheEntryThatItSaved) {
   EXPECT_EQ(backups.txtProject.Text(), Panel4);
 }
 
-TEST_F(TheBackupsWindow, PutsBackTheFileThatItCannotSaveOver) {
+TEST_F(TheBackupsWindow, RestoresTheFileThatItCannotOverwrite) {
   KeepTwo();
   backups.Open();
   backups.grdBackups.SetRow(2);
@@ -225,7 +225,7 @@ TEST_F(TheBackupsWindow, PutsBackTheFileThatItCannotSaveOver) {
   EXPECT_EQ(platform.boxes.Texts().front(), "Error occurred: Disk full (61)");
 }
 
-TEST_F(TheBackupsWindow, DoesNotTakeTheFileThatItSavesForTheOneOfTheOpenProject) {
+TEST_F(TheBackupsWindow, DoesNotConfuseTheFileThatItSavesWithTheOpenProjectsFile) {
   KeepTwo();
   OpenProject(Panel3);
   backups.Open();
@@ -237,7 +237,7 @@ TEST_F(TheBackupsWindow, DoesNotTakeTheFileThatItSavesForTheOneOfTheOpenProject)
   EXPECT_EQ(program.project.CurrentFile, Panel3);
 }
 
-// The entry of panel 4 is saved over a file, and the disk fails halfway and for good.
+// Saves the backup of panel 4 over a file while the disk fails halfway and stays broken.
 struct SpoilingBackupsWindow : TheBackupsWindow {
   void SaveOverAndFail(const std::string& path, int failures) {
     backups.Open();
@@ -250,7 +250,7 @@ struct SpoilingBackupsWindow : TheBackupsWindow {
   }
 };
 
-TEST_F(SpoilingBackupsWindow, HoldsTheOldBytesOfAFileThatItCouldNotPutBack) {
+TEST_F(SpoilingBackupsWindow, KeepsTheOldBytesOfAFileThatItCouldNotRestore) {
   KeepTwo();
   OpenProject(Panel4);
 
@@ -261,7 +261,7 @@ TEST_F(SpoilingBackupsWindow, HoldsTheOldBytesOfAFileThatItCouldNotPutBack) {
   EXPECT_TRUE(program.project.LastFile.IsSpoilt);
 }
 
-TEST_F(SpoilingBackupsWindow, MendsTheFileOfTheOpenProjectThatASaveHadSpoilt) {
+TEST_F(SpoilingBackupsWindow, RepairsTheOpenProjectsFileAfterAFailedSave) {
   KeepTwo();
   OpenProject(Panel3);
   program.project.LastFile.IsSpoilt = true;
@@ -276,7 +276,7 @@ TEST_F(SpoilingBackupsWindow, MendsTheFileOfTheOpenProjectThatASaveHadSpoilt) {
   EXPECT_FALSE(program.project.LastFile.IsSpoilt);
 }
 
-TEST_F(SpoilingBackupsWindow, TellsOnlyOfTheAttemptThatCounts) {
+TEST_F(SpoilingBackupsWindow, ReportsOnlyTheLastAttempt) {
   KeepTwo();
   backups.Open();
   backups.grdBackups.SetRow(2);
@@ -289,7 +289,7 @@ TEST_F(SpoilingBackupsWindow, TellsOnlyOfTheAttemptThatCounts) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Error occurred: Disk full (61)"));
 }
 
-TEST_F(TheBackupsWindow, SavesNothingWhenTheNameIsNotGiven) {
+TEST_F(TheBackupsWindow, SavesNothingIfTheUserGivesNoName) {
   KeepTwo();
   backups.Open();
   const auto before = platform.files.files;
@@ -300,7 +300,7 @@ TEST_F(TheBackupsWindow, SavesNothingWhenTheNameIsNotGiven) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(TheBackupsWindow, DeletesOneAfterAQuestion) {
+TEST_F(TheBackupsWindow, DeletesABackupAfterAQuestion) {
   KeepTwo();
   backups.Open();
   platform.boxes.answers = {BoxResult::Yes};
@@ -316,7 +316,7 @@ TEST_F(TheBackupsWindow, DeletesOneAfterAQuestion) {
   EXPECT_THAT(ListBackups(program), SizeIs(1));
 }
 
-TEST_F(TheBackupsWindow, DeletesAllOneByOne) {
+TEST_F(TheBackupsWindow, DeletesAllBackupsOneByOne) {
   KeepTwo();
   backups.Open();
   platform.boxes.answers = {BoxResult::Yes, BoxResult::Yes};
@@ -340,7 +340,7 @@ TEST_F(TheBackupsWindow, DeletesNothingOnNo) {
   EXPECT_THAT(ListBackups(program), SizeIs(2));
 }
 
-TEST_F(TheBackupsWindow, TellsOfOneThatCannotBeDeleted) {
+TEST_F(TheBackupsWindow, ReportsABackupThatCannotBeDeleted) {
   KeepTwo();
   backups.Open();
   platform.boxes.answers = {BoxResult::Yes};
@@ -362,7 +362,7 @@ TEST_F(TheBackupsWindow, OpensTheFolder) {
   EXPECT_TRUE(platform.files.folders.contains(DataFolder + "Backups"));
 }
 
-TEST_F(TheBackupsWindow, TellsOfAFolderThatDoesNotOpen) {
+TEST_F(TheBackupsWindow, ReportsAFolderThatDoesNotOpen) {
   platform.documents.opens = false;
   backups.Open();
 

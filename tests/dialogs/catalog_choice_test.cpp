@@ -1,4 +1,4 @@
-// Which lists and which bolt table a project is offered.
+// The lists and the bolt table that a project offers.
 #include "dialogs/catalog_choice.h"
 
 #include <gtest/gtest.h>
@@ -33,7 +33,7 @@ TEST_F(CatalogChoice, OfTheAustralianTableNeedsMetricUnitsAndItsSetting) {
   }
 }
 
-TEST_F(CatalogChoice, OfTheBoltTableInEnglishUnitsIsTheEnglishOneWhateverTheSetting) {
+TEST_F(CatalogChoice, OfTheBoltTableInEnglishUnitsIgnoresTheAustralianSetting) {
   for (const Integer setting : {Off, On}) {
     program.project.UseAUSStandardTable = setting;
 
@@ -61,7 +61,7 @@ TEST_F(CatalogChoice, OfTheBoltTableInMetricUnitsFollowsTheSettingBackAndForth) 
   EXPECT_EQ(&LoadBoltTable(program.project, program.session.catalogs), &catalogs.BoltTableMET);
 }
 
-TEST_F(CatalogChoice, OfGradesFollowsUnitsAndMeaning) {
+TEST_F(CatalogChoice, OfGradesFollowsUnitsAndStrengthBasis) {
   const CatalogList* expected[2][2] = {{&catalogs.DefaultBoltGradeArrayENG, &catalogs.DefaultBoltUTSArrayENG},
                                        {&catalogs.DefaultBoltGradeArrayMET, &catalogs.DefaultBoltUTSArrayMET}};
 

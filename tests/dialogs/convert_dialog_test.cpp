@@ -63,7 +63,7 @@ TEST_F(AConversion, IsLoggedWhenItOpens) {
   EXPECT_EQ(program.windows.titles.RangeErrorTitle, "Range Error");
 }
 
-TEST_F(AConversion, NamesItselfItsOptionsAndItsCommands) {
+TEST_F(AConversion, HasItsCaptions) {
   EXPECT_EQ(dialog.Name(), "frmConvert");
   EXPECT_EQ(dialog.Caption(), "File Conversion Utility");
   EXPECT_EQ(dialog.fraUnits.Caption(), "Units");
@@ -93,7 +93,7 @@ TEST_F(AConversion, MakesTheDesignAnUnsavedMetricOneAndCloses) {
   EXPECT_THAT(platform.files.created, IsEmpty());
 }
 
-TEST_F(AConversion, TellsThatItIsDone) {
+TEST_F(AConversion, SaysThatItIsDone) {
   dialog.Open();
 
   dialog.Command2.Press();
@@ -107,7 +107,7 @@ TEST_F(AConversion, TellsThatItIsDone) {
             "2. Message: Conversion Completed: The conversion form will be closed\r\n");
 }
 
-TEST_F(AConversion, TellsOfANumberThatNoLongerFitsAndClosesAllTheSame) {
+TEST_F(AConversion, ReportsANumberThatNoLongerFitsAndThenCloses) {
   program.project.WorkParms.Primary.GradeStd = 3e38F;
   dialog.Open();
 
@@ -120,8 +120,8 @@ TEST_F(AConversion, TellsOfANumberThatNoLongerFitsAndClosesAllTheSame) {
   EXPECT_FALSE(program.project.FileSaved) << "some fields are converted";
 }
 
-// A conversion that notes, each time its caller is told, the file by then and how many boxes the user has seen.
-struct AToldConversion : AConversion {
+// Records at each call of its callback the file at that time and the number of boxes that the user has seen.
+struct ANotifyingConversion : AConversion {
   ConvertDialog told{program, [this] {
                        files.push_back(program.project.CurrentFile);
                        boxesBefore = platform.boxes.shown.size();
@@ -130,7 +130,7 @@ struct AToldConversion : AConversion {
   std::size_t boxesBefore = 99;
 };
 
-TEST_F(AToldConversion, TellsItsCallerOfTheNewProjectBeforeItTellsTheUser) {
+TEST_F(ANotifyingConversion, NotifiesItsCallerOfTheNewProjectBeforeItsMessage) {
   told.Open();
 
   told.Command2.Press();
@@ -140,7 +140,7 @@ TEST_F(AToldConversion, TellsItsCallerOfTheNewProjectBeforeItTellsTheUser) {
   EXPECT_EQ(platform.boxes.shown.size(), 1U);
 }
 
-TEST_F(AToldConversion, TellsItsCallerNothingWhenItIsCancelled) {
+TEST_F(ANotifyingConversion, DoesNotNotifyItsCallerIfItIsCancelled) {
   told.Open();
 
   told.Command1.Press();
@@ -148,7 +148,7 @@ TEST_F(AToldConversion, TellsItsCallerNothingWhenItIsCancelled) {
   EXPECT_THAT(files, IsEmpty());
 }
 
-TEST_F(AToldConversion, TellsItsCallerOfAProjectThatWasConvertedInPart) {
+TEST_F(ANotifyingConversion, NotifiesItsCallerOfAProjectThatWasConvertedInPart) {
   program.project.WorkParms.Primary.GradeStd = 3e38F;
   told.Open();
 
@@ -158,7 +158,7 @@ TEST_F(AToldConversion, TellsItsCallerOfAProjectThatWasConvertedInPart) {
   EXPECT_THAT(files, ElementsAre("/designs/panel3.ORB"));
 }
 
-TEST_F(AConversion, IsTheSameWhateverIsChosenForTheFile) {
+TEST_F(AConversion, DoesNotDependOnTheFileOption) {
   for (const int choice : {0, 1}) {
     program.project.WorkParms.Units = English;
     program.project.CurrentFile = "/designs/panel3.ORB";
@@ -183,7 +183,7 @@ TEST_F(AConversion, ThereAndBackLeavesOneDecimalOfTheDepth) {
   EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 401.2F);
 }
 
-TEST_F(AConversion, RepeatedPilesThePrefixesUp) {
+TEST_F(AConversion, RepeatedAddsAPrefixEachTime) {
   ConvertOnce();
   ConvertOnce();
   ConvertOnce();

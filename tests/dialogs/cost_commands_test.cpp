@@ -19,7 +19,7 @@ struct Fault {
   std::string_view message;
 };
 
-// In the order in which the user is told.
+// In the order of the checks.
 constexpr std::array<Fault, 22> Faults{{
     {"txtBoltCost", "Invalid cost per bolt"},
     {"txtPlateCost", "Invalid cost per plate"},
@@ -45,7 +45,7 @@ constexpr std::array<Fault, 22> Faults{{
     {"txtWeeksYear", "Invalid number of weeks per year"},
 }};
 
-TEST_F(ACostDialog, TellsOfTheFirstNegativeNumberAlone) {
+TEST_F(ACostDialog, ReportsOnlyTheFirstNegativeNumber) {
   dialog.Open();
   for (const Fault& fault : Faults) Box(fault.name).SetText("-0.01");
 
@@ -73,7 +73,7 @@ TEST_F(ACostDialog, AcceptsZeroInEveryField) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(ACostDialog, CountsATextThatIsNoNumberAsZero) {
+TEST_F(ACostDialog, TreatsATextThatIsNoNumberAsZero) {
   dialog.Open();
   for (const FieldCase& field : CostFieldCases) Box(field.name).SetText("none");
   Box("txtBitCost").SetText("");
@@ -102,7 +102,7 @@ TEST_F(ACostDialog, WritesEveryFieldOnOk) {
   EXPECT_EQ(program.project.WorkParms.Cost.Production, 0);
 }
 
-TEST_F(ACostDialog, KeepsTheTwoBoxesApart) {
+TEST_F(ACostDialog, StoresEachOfItsTwoBoxesByItself) {
   program.project.WorkParms.Cost.Advance = 0;
   program.project.WorkParms.Cost.Production = 0;
   dialog.Open();
@@ -114,7 +114,7 @@ TEST_F(ACostDialog, KeepsTheTwoBoxesApart) {
   EXPECT_EQ(program.project.WorkParms.Cost.Production, 1);
 }
 
-TEST_F(ACostDialog, LeavesTheRestOfTheDesignAloneOnOk) {
+TEST_F(ACostDialog, ChangesNothingElseOfTheDesignOnOk) {
   program.project.WorkParms.Primary.RowSpacing = 4.5F;
   program.project.WorkParms.Primary.BoltsperRow = 6;
   dialog.Open();
@@ -140,7 +140,7 @@ TEST_F(ACostDialog, MakesTheProjectUnsavedAndLocksItsUnitsOnOk) {
   EXPECT_EQ(program.session.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Modified\r\n");
 }
 
-TEST_F(ACostDialog, StaysOpenWhenOkFindsANegativeNumber) {
+TEST_F(ACostDialog, StaysOpenIfOkFindsANegativeNumber) {
   dialog.Open();
   dialog.txtHoursShift.SetText("-8");
   dialog.txtTotalLabor.SetText("40");
@@ -154,7 +154,7 @@ TEST_F(ACostDialog, StaysOpenWhenOkFindsANegativeNumber) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid hours per shift"));
 }
 
-TEST_F(ACostDialog, ForgetsEverythingOnCancel) {
+TEST_F(ACostDialog, DiscardsEverythingOnCancel) {
   program.project.FileEmpty = true;
   dialog.Open();
   for (const FieldCase& field : CostFieldCases) Box(field.name).SetText("77");
@@ -205,7 +205,7 @@ TEST_F(ACostDialog, RefusesANumberThatNoDesignCanHold) {
   EXPECT_TRUE(program.project.FileSaved);
 }
 
-TEST_F(ACostDialog, TellsHowToGetHelp) {
+TEST_F(ACostDialog, SaysHowToGetHelp) {
   dialog.Open();
 
   dialog.Command3.Press();
@@ -284,7 +284,7 @@ TEST_F(ACostDialog, CommitsNothingByShowingResults) {
 TEST_F(ACostDialog, ShowsItsResultsWithTheCurvesOfTheProject) {
   program.project.WorkParms.Primary.StabilityFactor = 1.2F;
   program.project.WorkParms.Place.DepthofCover = 400;
-  program.windows.WorkParmsCopy.Primary.StabilityFactor = 2;  // of a design that was shown before, and not accepted
+  program.windows.WorkParmsCopy.Primary.StabilityFactor = 2;  // of a design that was previewed before and not accepted
   dialog.Open();
   platform.windows.onModal = [](Form& form) {
     if (auto* results = dynamic_cast<ResultsWindow*>(&form)) results->lstGraphs.ClickItem(2);
@@ -295,7 +295,7 @@ TEST_F(ACostDialog, ShowsItsResultsWithTheCurvesOfTheProject) {
   EXPECT_EQ(program.windows.curve.CurvePoints[0].front(), 0.6F);
 }
 
-TEST_F(ACostDialog, HasRestoredTheCostsBeforeTheResultsAreOnView) {
+TEST_F(ACostDialog, RestoresTheCostsBeforeTheResultsAreShown) {
   dialog.Open();
   for (const FieldCase& field : CostFieldCases) Box(field.name).SetText(std::string(field.text));
   dialog.chkProduction.SetValue(0);
@@ -311,8 +311,8 @@ TEST_F(ACostDialog, HasRestoredTheCostsBeforeTheResultsAreOnView) {
   EXPECT_EQ(behind.Production, 1);
 }
 
-// The report of the costs tells the inputs of the design too.
-TEST_F(ACostDialog, LeavesTheCostsAsTheyWereWhenTheReportFails) {
+// The cost report also contains the inputs of the design.
+TEST_F(ACostDialog, LeavesTheCostsUnchangedIfTheReportFails) {
   program.project.WorkParms.Primary.Analysed = 1;
   program.project.WorkParms.Primary.Options = 1;
   program.project.WorkParms.Primary.DiameterMode = 1;
@@ -329,7 +329,7 @@ TEST_F(ACostDialog, LeavesTheCostsAsTheyWereWhenTheReportFails) {
   EXPECT_EQ(platform.windows.modalForms, 0);
 }
 
-TEST_F(ACostDialog, KeepsThePageBeforeWhenTheTableCannotBeComputed) {
+TEST_F(ACostDialog, KeepsThePreviousPageIfTheTableCannotBeComputed) {
   program.session.OutBuf[1] = "as it was";
   dialog.Open();
   dialog.txtTotalLabor.SetText("3E38");
@@ -339,7 +339,7 @@ TEST_F(ACostDialog, KeepsThePageBeforeWhenTheTableCannotBeComputed) {
   EXPECT_EQ(program.session.OutBuf[1], "as it was");
 }
 
-TEST_F(ACostDialog, LeavesTheDesignAsItWasByCancelAfterResults) {
+TEST_F(ACostDialog, LeavesTheDesignUnchangedByCancelAfterResults) {
   dialog.Open();
   dialog.txtBoltCost.SetText("4.2");
   dialog.chkProduction.SetValue(0);
@@ -378,7 +378,7 @@ TEST_F(ACostDialog, CopiesItsPictureToTheClipboard) {
   EXPECT_EQ(platform.boxes.shown[0].title, "Message");
 }
 
-TEST_F(ACostDialog, GivesTheDesignThatOkWouldStoreWithoutCommittingIt) {
+TEST_F(ACostDialog, ReadsTheDesignThatOkWouldStoreWithoutCommittingIt) {
   program.project.FileEmpty = true;
   program.project.WorkParms.Place.DepthofCover = 512.5F;
   dialog.Open();
@@ -398,7 +398,7 @@ TEST_F(ACostDialog, GivesTheDesignThatOkWouldStoreWithoutCommittingIt) {
   EXPECT_FALSE(dialog.WasCommitted);
 }
 
-TEST_F(ACostDialog, GivesTheNumbersThatADesignCanHoldAndLeavesTheOthers) {
+TEST_F(ACostDialog, ReadsOnlyTheNumbersThatADesignCanHold) {
   dialog.Open();
   dialog.txtBoltCost.SetText("3.25");
   dialog.txtWeeksYear.SetText("1E39");

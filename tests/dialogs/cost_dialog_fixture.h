@@ -1,4 +1,4 @@
-// A cost dialog over the design of one bolter, and a value of its own for every number field.
+// A cost dialog on the design of one bolter, and a different value for every number field.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -20,7 +20,7 @@ struct FieldCase {
   std::string_view text;
 };
 
-// Every number field with a value of its own.
+// A different value for every number field.
 inline const std::array<FieldCase, 22> CostFieldCases{{
     {"txtBoltCost", [](auto& d) { return &d.Cost.BoltCost; }, 3.25F, "3.25"},
     {"txtPlateCost", [](auto& d) { return &d.Cost.PlateCost; }, 1.1F, "1.1"},

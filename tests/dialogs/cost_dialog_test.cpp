@@ -32,7 +32,7 @@ TEST_F(ACostDialog, ShowsTheCalculatedFiguresAtOnce) {
   EXPECT_EQ(dialog.txtCleanProductionCalc.Text(), "1200");
 }
 
-TEST_F(ACostDialog, TakesTheFiguresFromTheShownDecimals) {
+TEST_F(ACostDialog, ComputesTheFiguresFromTheShownDecimals) {
   program.project.WorkParms.Cost.RowSpacing = 1.2F;
   program.project.WorkParms.Cost.AdvanceRate = 12;
 
@@ -51,7 +51,7 @@ TEST_F(ACostDialog, WithoutARowSpacingOpensWithoutAnAdvance) {
   EXPECT_EQ(dialog.txtCleanProductionCalc.Text(), "0");
 }
 
-TEST_F(ACostDialog, TellsTheHistoryAndTheProgramThatItIsOpen) {
+TEST_F(ACostDialog, RecordsInTheHistoryAndTheProgramThatItIsOpen) {
   program.platform.windows.SetWaitCursor(true);
 
   dialog.Open();
@@ -119,7 +119,7 @@ TEST_F(ACostDialog, LabelsItsFieldsInMetricUnits) {
   for (const CaptionCase& label : Captions) EXPECT_EQ(Caption(label.name), label.metric);
 }
 
-TEST_F(ACostDialog, NamesItselfItsBoxesAndItsCommands) {
+TEST_F(ACostDialog, HasItsCaptions) {
   EXPECT_EQ(dialog.Name(), "frmTULKCost");
   EXPECT_EQ(dialog.Caption(), "Cost Parameters");
   EXPECT_EQ(dialog.chkAdvance.Caption(), "Use calculated value");
@@ -133,7 +133,7 @@ TEST_F(ACostDialog, NamesItselfItsBoxesAndItsCommands) {
 
 // ---- typing ---------------------------------------------------------------------------------------------------------
 
-TEST_F(ACostDialog, PassesOnlyTheKeysOfNumbers) {
+TEST_F(ACostDialog, AcceptsOnlyTheKeysOfNumbers) {
   dialog.Open();
 
   for (const FieldCase& field : CostFieldCases) {
@@ -210,7 +210,7 @@ TEST_F(ACostDialog, AcceptsARowSpacingOfZero) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(ACostDialog, ChangesTheCleanProductionAloneWithTheAdvanceRate) {
+TEST_F(ACostDialog, RefreshesOnlyTheCleanProductionWithTheAdvanceRate) {
   dialog.Open();
   std::vector<std::string> before;
   for (const Control* control : dialog.Controls()) {
@@ -230,7 +230,7 @@ TEST_F(ACostDialog, ChangesTheCleanProductionAloneWithTheAdvanceRate) {
   }
 }
 
-TEST_F(ACostDialog, RenewsTheCleanProductionWithTheTypedAdvance) {
+TEST_F(ACostDialog, RefreshesTheCleanProductionWithTheTypedAdvance) {
   dialog.Open();
   dialog.txtCleanProductionCalc.SetText("");
 
@@ -240,7 +240,7 @@ TEST_F(ACostDialog, RenewsTheCleanProductionWithTheTypedAdvance) {
   EXPECT_EQ(dialog.txtCleanProductionCalc.Text(), "1200");
 }
 
-TEST_F(ACostDialog, LeavesTheFiguresAloneWhileItsEventsAreHeld) {
+TEST_F(ACostDialog, KeepsTheFiguresWhileItsEventsAreSuspended) {
   dialog.Open();
   dialog.HoldEvents = true;
 
@@ -251,7 +251,7 @@ TEST_F(ACostDialog, LeavesTheFiguresAloneWhileItsEventsAreHeld) {
   EXPECT_EQ(dialog.txtCleanProductionCalc.Text(), "1200");
 }
 
-TEST_F(ACostDialog, KeepsItsInputFieldsOpenWhateverIsCalculated) {
+TEST_F(ACostDialog, KeepsItsInputFieldsEnabledWhateverIsCalculated) {
   dialog.Open();
 
   for (const Integer value : {Integer{0}, Integer{1}}) {
@@ -264,7 +264,7 @@ TEST_F(ACostDialog, KeepsItsInputFieldsOpenWhateverIsCalculated) {
   }
 }
 
-TEST_F(ACostDialog, ShowsADashForAFigureBeyondEveryNumber) {
+TEST_F(ACostDialog, ShowsADashForAFigureThatIsTooLarge) {
   dialog.Open();
   dialog.txtnBoltsRow.SetText("1E200");
 
@@ -284,7 +284,7 @@ TEST_F(ACostDialog, ShowsADashForAFigureBeyondEveryNumber) {
   EXPECT_EQ(dialog.txtCleanProductionCalc.Text(), "3E+201");
 }
 
-TEST_F(ACostDialog, ShowsADashForARowSpacingThatIsNoNumberAtAll) {
+TEST_F(ACostDialog, ShowsADashForARowSpacingThatIsTooLarge) {
   dialog.Open();
 
   dialog.txtRowSpacing.SetText("1E400");

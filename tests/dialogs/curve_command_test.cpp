@@ -1,4 +1,4 @@
-// The curve that the user asks for: what it is drawn from, and what is told of it.
+// The curve that the user chooses: the design that it is computed from, and its notices.
 #include "dialogs/curve_command.h"
 
 #include <gmock/gmock.h>
@@ -22,7 +22,7 @@ struct ACurve : testing::Test {
   ACurve() { design = EnglishDesign(); }
 };
 
-TEST_F(ACurve, TellsInFixedWordsThatTheRatingWasTrimmed) {
+TEST_F(ACurve, SaysInFixedWordsThatTheRatingWasTrimmed) {
   TakeCurve(program, design, 0);
 
   ASSERT_THAT(platform.boxes.Texts(), ElementsAre("Upper limit for CMRR trimmed to 51"));
@@ -30,7 +30,7 @@ TEST_F(ACurve, TellsInFixedWordsThatTheRatingWasTrimmed) {
   EXPECT_EQ(platform.boxes.shown[0].title, "Orby Roof Support Workbench");
 }
 
-TEST_F(ACurve, TellsThatANegativeSpanWasAdjusted) {
+TEST_F(ACurve, SaysThatANegativeSpanWasAdjusted) {
   design.Place.ActualSpanDiagonals = -5;
 
   TakeCurve(program, design, 3);
@@ -38,7 +38,7 @@ TEST_F(ACurve, TellsThatANegativeSpanWasAdjusted) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Lower limit for IntersectionSpan adjusted > 0"));
 }
 
-TEST_F(ACurve, TellsOfATrimmedRatingBeforeItFails) {
+TEST_F(ACurve, ReportsATrimmedRatingBeforeItFails) {
   design.Place.CMRR = 95;
 
   EXPECT_EQ(ErrorNumberOf([this] { TakeCurve(program, design, 0); }), 9);
@@ -46,7 +46,7 @@ TEST_F(ACurve, TellsOfATrimmedRatingBeforeItFails) {
   EXPECT_THAT(platform.boxes.Texts(), SizeIs(1));
 }
 
-TEST_F(ACurve, IsThatOfItsDesignAndNotOfTheCommittedOne) {
+TEST_F(ACurve, IsComputedFromItsDesignAndNotFromTheCommittedOne) {
   program.project.WorkParms = MetricDesign();
   program.project.WorkParms.Place.CMRR = 90;
 
@@ -57,7 +57,7 @@ TEST_F(ACurve, IsThatOfItsDesignAndNotOfTheCommittedOne) {
   EXPECT_THAT(platform.boxes.Texts(), IsEmpty());
 }
 
-TEST_F(ACurve, ReplacesTheOneBefore) {
+TEST_F(ACurve, ReplacesThePreviousCurve) {
   TakeCurve(program, design, 8);
 
   TakeCurve(program, design, 3);
@@ -67,7 +67,7 @@ TEST_F(ACurve, ReplacesTheOneBefore) {
   EXPECT_EQ(program.windows.curve.CurveIndex, 3);
 }
 
-TEST_F(ACurve, ThatFailsLeavesTheOneBefore) {
+TEST_F(ACurve, ThatFailsKeepsThePreviousCurve) {
   TakeCurve(program, design, 3);
   design.Place.CMRR = 95;
 

@@ -16,7 +16,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// A saved English design, its units still open to choice.
+// A saved English design whose units can still be chosen.
 struct ADescriptionDialog : testing::Test {
   ADescriptionDialog() {
     SetBuiltInCatalogs(program.session.catalogs);
@@ -35,7 +35,7 @@ struct ADescriptionDialog : testing::Test {
   DescriptionDialog dialog{program};
 };
 
-TEST_F(ADescriptionDialog, NamesItselfItsFieldsAndItsCommands) {
+TEST_F(ADescriptionDialog, HasItsCaptions) {
   EXPECT_EQ(dialog.Name(), "frmTULKDesc");
   EXPECT_EQ(dialog.Caption(), "Project Description");
   EXPECT_EQ(dialog.fraTitle.Caption(), "Title and description");
@@ -71,7 +71,7 @@ TEST_F(ADescriptionDialog, ShowsTheProject) {
   EXPECT_TRUE(dialog.Check1.Checked());
 }
 
-TEST_F(ADescriptionDialog, PreparesItsMessagesTheCursorAndItsPlace) {
+TEST_F(ADescriptionDialog, PreparesItsMessagesTheCursorAndItsPosition) {
   platform.windows.waitCursor = true;
 
   dialog.Open();
@@ -116,7 +116,7 @@ TEST_F(ADescriptionDialog, KeepsMetricUnitsAndUltimateStrengthsOfAnOpenedFile) {
   EXPECT_TRUE(dialog.Option2.MemberEnabled(1));
 }
 
-TEST_F(ADescriptionDialog, OffersBothAgainOnceANewProjectHasBegun) {
+TEST_F(ADescriptionDialog, OffersBothAgainAfterANewProjectHasBegun) {
   program.project.UnitsLocked = true;
   dialog.Open();
   dialog.Close();
@@ -151,7 +151,7 @@ TEST_F(ADescriptionDialog, OffersTheAustralianTableToMetricProjectsOnly) {
   EXPECT_FALSE(dialog.Check1.Checked());
 }
 
-TEST_F(ADescriptionDialog, LeavesTheBoxEmptyUnderFeetWhateverAnEarlierProjectUsed) {
+TEST_F(ADescriptionDialog, KeepsTheBoxClearInFeetWhateverAnEarlierProjectUsed) {
   program.project.UseAUSStandardTable = 1;
 
   dialog.Open();
@@ -170,7 +170,7 @@ TEST_F(ADescriptionDialog, StoresTheTableChoiceOnOk) {
   EXPECT_EQ(program.project.UseAUSStandardTable, 1);
 }
 
-TEST_F(ADescriptionDialog, LetsAMetricProjectChooseItsTableThoughItsUnitsAreKept) {
+TEST_F(ADescriptionDialog, LetsAMetricProjectChooseItsTableEvenIfItsUnitsAreLocked) {
   program.project.UnitsLocked = true;
   program.project.WorkParms.Units = Metric;
   dialog.Open();
@@ -182,7 +182,7 @@ TEST_F(ADescriptionDialog, LetsAMetricProjectChooseItsTableThoughItsUnitsAreKept
   EXPECT_EQ(program.project.UseAUSStandardTable, 1);
 }
 
-TEST_F(ADescriptionDialog, LeavesTheTableChoiceAsItWasOnCancel) {
+TEST_F(ADescriptionDialog, KeepsTheTableChoiceOnCancel) {
   for (const UnitSystem units : {English, Metric}) {
     program.project.WorkParms.Units = units;
     program.project.UseAUSStandardTable = 1;
@@ -204,7 +204,7 @@ TEST_F(ADescriptionDialog, ClearsTheTableChoiceOfAProjectInFeetOnOk) {
   EXPECT_EQ(program.project.UseAUSStandardTable, 0);
 }
 
-TEST_F(ADescriptionDialog, KeepsTheTableChoiceThatGoesWithNewUnits) {
+TEST_F(ADescriptionDialog, KeepsTheTableChoiceThatWasMadeWithNewUnits) {
   dialog.Open();
   dialog.Option1.SetValue(NumberOf(Metric), true);
   dialog.Check1.SetValue(1);
@@ -244,7 +244,7 @@ TEST_F(ADescriptionDialog, MakesTheProjectUnsavedAndLocksItsUnitsOnOk) {
   EXPECT_EQ(program.session.history.Text, "1. Editing Project Description\r\n2. Project Description Modified\r\n");
 }
 
-TEST_F(ADescriptionDialog, CanNoLongerChangeTheUnitsOnceItWasAccepted) {
+TEST_F(ADescriptionDialog, LocksTheUnitsAfterItWasAccepted) {
   dialog.Open();
   dialog.Command2.Press();
 
@@ -286,7 +286,7 @@ TEST_F(ADescriptionDialog, LosesTheTypedTitleWhenTheStrengthModeChanges) {
   EXPECT_EQ(program.project.WorkParms.Primary.GradeStd, 100);
 }
 
-TEST_F(ADescriptionDialog, StartsAnewForUnitsAndForStrengthsAndIsUnsavedAllTheSame) {
+TEST_F(ADescriptionDialog, StartsANewUnsavedDesignForOtherUnitsOrStrengths) {
   dialog.Open();
   dialog.Option1.SetValue(NumberOf(Metric), true);
   dialog.Option2.SetValue(1, true);
@@ -304,7 +304,7 @@ TEST_F(ADescriptionDialog, StartsAnewForUnitsAndForStrengthsAndIsUnsavedAllTheSa
   EXPECT_TRUE(program.project.UnitsLocked);
 }
 
-TEST_F(ADescriptionDialog, KeepsTheDesignWhenUnitsAreChangedThereAndBack) {
+TEST_F(ADescriptionDialog, KeepsTheDesignIfTheUnitsAreChangedAndChangedBack) {
   dialog.Open();
   dialog.Option1.SetValue(NumberOf(Metric), true);
   dialog.Option1.SetValue(NumberOf(English), true);
@@ -317,7 +317,7 @@ TEST_F(ADescriptionDialog, KeepsTheDesignWhenUnitsAreChangedThereAndBack) {
 
 // ---- the other commands ---------------------------------------------------------------------------------------------
 
-TEST_F(ADescriptionDialog, ForgetsEverythingOnCancel) {
+TEST_F(ADescriptionDialog, DiscardsEverythingOnCancel) {
   dialog.Open();
   dialog.Text1.SetText("Panel 4");
   dialog.Option1.SetValue(NumberOf(Metric), true);
@@ -344,7 +344,7 @@ TEST_F(ADescriptionDialog, TreatsTheWindowsCloseAsCancel) {
   EXPECT_TRUE(program.project.FileSaved);
 }
 
-TEST_F(ADescriptionDialog, CommitsAndAsksForTheParametersOnNextForm) {
+TEST_F(ADescriptionDialog, CommitsAndOpensTheParametersOnNextForm) {
   dialog.Open();
   dialog.Text1.SetText("Panel 4");
 
@@ -356,7 +356,7 @@ TEST_F(ADescriptionDialog, CommitsAndAsksForTheParametersOnNextForm) {
   EXPECT_TRUE(dialog.OpensParameters);
 }
 
-TEST_F(ADescriptionDialog, AsksForTheParametersOnceOnly) {
+TEST_F(ADescriptionDialog, OpensTheParametersOnlyOnce) {
   dialog.Open();
   dialog.Command4.Press();
   dialog.Open();
@@ -380,7 +380,7 @@ TEST_F(ADescriptionDialog, OpensTheHelp) {
 
 // ---- what starting anew drops ---------------------------------------------------------------------------------------
 
-TEST_F(ADescriptionDialog, KeepsWhatWasTypedAlongWithOtherUnits) {
+TEST_F(ADescriptionDialog, BacksUpTheTextsThatWereTypedWithOtherUnits) {
   program.session.folders.ProgramData = "/home/user/Documents/Orby/";
   dialog.Open();
   dialog.Text1.SetText("Panel 4");
@@ -398,7 +398,7 @@ TEST_F(ADescriptionDialog, KeepsWhatWasTypedAlongWithOtherUnits) {
   EXPECT_EQ(kept->WorkParms.Units, English);
 }
 
-TEST_F(ADescriptionDialog, KeepsTheUnsavedDesignThatAnotherStrengthWipes) {
+TEST_F(ADescriptionDialog, BacksUpTheUnsavedDesignThatAnotherStrengthDiscards) {
   program.session.folders.ProgramData = "/home/user/Documents/Orby/";
   program.project.FileSaved = false;
   dialog.Open();
@@ -409,7 +409,7 @@ TEST_F(ADescriptionDialog, KeepsTheUnsavedDesignThatAnotherStrengthWipes) {
   EXPECT_EQ(ListBackups(program).size(), 1U);
 }
 
-TEST_F(ADescriptionDialog, KeepsNothingOfASavedDesignNorWithoutAnotherChoice) {
+TEST_F(ADescriptionDialog, BacksUpNeitherASavedDesignNorOneWithoutAnotherChoice) {
   program.session.folders.ProgramData = "/home/user/Documents/Orby/";
   dialog.Open();
   dialog.Option1.SetValue(NumberOf(Metric), true);
@@ -424,7 +424,7 @@ TEST_F(ADescriptionDialog, KeepsNothingOfASavedDesignNorWithoutAnotherChoice) {
 
 // ---- what the file does to the texts --------------------------------------------------------------------------------
 
-TEST_F(ADescriptionDialog, WarnsOnceOfALineThatWillNotComeBack) {
+TEST_F(ADescriptionDialog, WarnsOnceOfALineThatTheFileWillLose) {
   dialog.Open();
   dialog.Text2.SetText("Headgate\r\n\"weak roof");
 
@@ -454,7 +454,7 @@ TEST_F(ADescriptionDialog, WarnsBeforeTheNextForm) {
   EXPECT_TRUE(dialog.OpensParameters);
 }
 
-TEST_F(ADescriptionDialog, WarnsOfNothingThatIsNotTaken) {
+TEST_F(ADescriptionDialog, DoesNotWarnOfTextsThatAreNotAccepted) {
   dialog.Open();
   dialog.Text1.SetText("\"Panel");
   dialog.Command1.Press();
@@ -466,7 +466,7 @@ TEST_F(ADescriptionDialog, WarnsOfNothingThatIsNotTaken) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(ADescriptionDialog, OffersToPutBackWhatTheFileHasShifted) {
+TEST_F(ADescriptionDialog, OffersToPutBackTextsThatTheFileHasShifted) {
   program.project.ProjectTitle = " 0 ";
   program.project.ProjectDescription = "Panel 3\r\n##StartDesc##\r\nHeadgate\r\n";
   dialog.Open();
@@ -484,7 +484,7 @@ TEST_F(ADescriptionDialog, OffersToPutBackWhatTheFileHasShifted) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(ADescriptionDialog, OffersNothingToPutBackOtherwise) {
+TEST_F(ADescriptionDialog, DoesNotOfferToPutBackUnshiftedTexts) {
   dialog.Open();
 
   EXPECT_FALSE(dialog.cmdPutBack.Visible());

@@ -21,7 +21,7 @@ struct ADisclaimer : testing::Test {
   Disclaimer dialog{program};
 };
 
-TEST_F(ADisclaimer, TellsThatThereIsNoWarrantyAndWhoDecides) {
+TEST_F(ADisclaimer, SaysThatThereIsNoWarrantyAndWhoDecides) {
   dialog.Open();
 
   EXPECT_EQ(dialog.Name(), "frmDisclaimer");
@@ -34,7 +34,7 @@ TEST_F(ADisclaimer, TellsThatThereIsNoWarrantyAndWhoDecides) {
   EXPECT_THAT(dialog.txtDisclaimer.Text(), HasSubstr("the people who gave you this program"));
 }
 
-TEST_F(ADisclaimer, ShowsWhetherItComesUpAtTheStart) {
+TEST_F(ADisclaimer, ShowsWhetherItAppearsAtTheStart) {
   program.session.settings.ShowDisclaim = 0;
   dialog.Open();
   EXPECT_FALSE(dialog.chkShow.Checked());
@@ -45,7 +45,7 @@ TEST_F(ADisclaimer, ShowsWhetherItComesUpAtTheStart) {
   EXPECT_TRUE(other.chkShow.Checked());
 }
 
-TEST_F(ADisclaimer, StoresOnceItIsAcceptedWhetherItIsToComeUpAgain) {
+TEST_F(ADisclaimer, StoresAfterAcceptanceWhetherItAppearsAgain) {
   dialog.Open();
   dialog.chkShow.SetValue(0);
 
@@ -57,7 +57,7 @@ TEST_F(ADisclaimer, StoresOnceItIsAcceptedWhetherItIsToComeUpAgain) {
   EXPECT_THAT(platform.files.files[IniPath], HasSubstr("ShowDisclaim=0\r\n"));
 }
 
-TEST_F(ADisclaimer, WritesTheSettingsEvenWhenNothingDiffers) {
+TEST_F(ADisclaimer, WritesTheSettingsEvenIfNothingHasChanged) {
   dialog.Open();
 
   dialog.Command1.Press();
@@ -81,7 +81,7 @@ TEST_F(ADisclaimer, EndsTheProgramAtOnceWhenItIsRefused) {
   EXPECT_THAT(platform.files.created, IsEmpty());
 }
 
-TEST_F(ADisclaimer, StoresNothingWhenItIsRefusedInAProgramThatGoesOn) {
+TEST_F(ADisclaimer, StoresNothingIfItIsRefusedInAProgramThatContinues) {
   dialog.Open();
   dialog.chkShow.SetValue(0);
 
@@ -92,7 +92,7 @@ TEST_F(ADisclaimer, StoresNothingWhenItIsRefusedInAProgramThatGoesOn) {
   EXPECT_THAT(platform.files.created, IsEmpty());
 }
 
-TEST_F(ADisclaimer, IsNotPassedByClosingItsWindow) {
+TEST_F(ADisclaimer, CannotBeSkippedByClosingItsWindow) {
   dialog.Open();
 
   EXPECT_FALSE(dialog.MayClose());

@@ -106,7 +106,7 @@ TEST_F(AnEstimator, RatesEveryRockTypeOfEveryCoalfield) {
   EXPECT_EQ(rated, 46);
 }
 
-TEST_F(AnEstimator, FlagsTheLastRowOfEveryCoalfieldAndNoOther) {
+TEST_F(AnEstimator, NotesOnlyTheLastRowOfEveryCoalfieldAsManual) {
   OpenOn(0, 0);
 
   const std::vector<int> manualRows{7, 7, 7, 7, 6, 6};
@@ -131,7 +131,7 @@ TEST_F(AnEstimator, ListsTheRockTypesUnderNumbersWithoutAHeader) {
   EXPECT_THAT(Column(0), ElementsAre("1", "2", "3", "4", "5", "6", "7"));
 }
 
-TEST_F(AnEstimator, ShowsThePictureOfItsCoalfieldAlone) {
+TEST_F(AnEstimator, ShowsOnlyThePictureOfItsCoalfield) {
   OpenOn(3, 0);
 
   for (int region = 5; region >= 0; --region) {
@@ -142,7 +142,7 @@ TEST_F(AnEstimator, ShowsThePictureOfItsCoalfieldAlone) {
   }
 }
 
-TEST_F(AnEstimator, NamesItselfItsCoalfieldsAndItsCommands) {
+TEST_F(AnEstimator, HasItsCaptions) {
   EXPECT_EQ(dialog.Name(), "frmCMRREst");
   EXPECT_EQ(dialog.Caption(), "The Coal Mine Roof Rating (CMRR) Estimator for HAMB");
   EXPECT_EQ(dialog.fraLocation.Caption(), "Coalfield Location");
@@ -159,7 +159,7 @@ TEST_F(AnEstimator, NamesItselfItsCoalfieldsAndItsCommands) {
   EXPECT_EQ(dialog.Find("Picture1_5"), &dialog.Picture1[5]);
 }
 
-TEST_F(AnEstimator, ShowsAManualRatingThatIsStoredInTheLastRowOnly) {
+TEST_F(AnEstimator, ShowsAStoredManualRatingOnlyInTheLastRow) {
   program.windows.estimator.EstimatorManualValue = 52;
   OpenOn(4, 6);
 
@@ -179,14 +179,14 @@ TEST_F(AnEstimator, OpensOnTheRockTypeChosenLast) {
   EXPECT_FALSE(dialog.HoldEvents);
 }
 
-TEST_F(AnEstimator, OpensOnTheManualRowWhenThatWasChosenLast) {
+TEST_F(AnEstimator, OpensOnTheManualRowIfThatWasChosenLast) {
   OpenOn(0, 7);
 
   EXPECT_EQ(dialog.txtCMRR.Text(), "38");
   EXPECT_TRUE(program.windows.estimator.EstimatorManual);
 }
 
-TEST_F(AnEstimator, ForgetsTheManualRowOfAnotherDesignWhenItOpens) {
+TEST_F(AnEstimator, IgnoresTheManualRowOfAnotherDesignWhenItOpens) {
   program.windows.estimator.EstimatorManual = true;
 
   OpenOn(0, 2);
@@ -194,7 +194,7 @@ TEST_F(AnEstimator, ForgetsTheManualRowOfAnotherDesignWhenItOpens) {
   EXPECT_FALSE(program.windows.estimator.EstimatorManual);
 }
 
-TEST_F(AnEstimator, TellsTheHistoryThatItOpensAndClearsTheCursor) {
+TEST_F(AnEstimator, RecordsInTheHistoryThatItOpensAndClearsTheCursor) {
   program.platform.windows.SetWaitCursor(true);
 
   OpenOn(0, 0);
@@ -205,7 +205,7 @@ TEST_F(AnEstimator, TellsTheHistoryThatItOpensAndClearsTheCursor) {
   EXPECT_FALSE(platform.windows.waitCursor);
 }
 
-TEST_F(AnEstimator, OpensOnTheFirstRowWhenTheStoredOneIsNotInTheGrid) {
+TEST_F(AnEstimator, OpensOnTheFirstRowIfTheStoredOneIsNotInTheGrid) {
   for (const Integer rockType : {Integer{7}, Integer{8}, Integer{-1}, Integer{32767}}) {
     EstimatorDialog other(program);
     program.windows.estimator.EstimatorRegion = 5;
@@ -220,7 +220,7 @@ TEST_F(AnEstimator, OpensOnTheFirstRowWhenTheStoredOneIsNotInTheGrid) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(AnEstimator, TellsOfACoalfieldThatDoesNotExistAndFails) {
+TEST_F(AnEstimator, ReportsACoalfieldThatDoesNotExistAndFails) {
   for (const Integer region : {Integer{6}, Integer{-1}}) {
     EstimatorDialog other(program);
     platform.boxes.shown.clear();
@@ -249,7 +249,7 @@ TEST_F(AnEstimator, GoesToTheRockOfTheSameNameInAnotherCoalfield) {
   EXPECT_EQ(dialog.txtCMRR.Text(), "55");
 }
 
-TEST_F(AnEstimator, GoesToTheUnknownRoofWhereTheCoalfieldLacksTheRock) {
+TEST_F(AnEstimator, GoesToTheUnknownRoofIfTheCoalfieldLacksTheRock) {
   OpenOn(0, 5);  // limestone
 
   dialog.optLocation.SetValue(5, true);
@@ -279,7 +279,7 @@ TEST_F(AnEstimator, KeepsTheManualSettingInAnotherCoalfield) {
   EXPECT_TRUE(program.windows.estimator.EstimatorManual);
 }
 
-TEST_F(AnEstimator, RatesTheRowAnewThatHappensToBeTheSame) {
+TEST_F(AnEstimator, RatesTheSameRowAgainInAnotherCoalfield) {
   OpenOn(0, 6);
 
   dialog.optLocation.SetValue(3, true);
@@ -307,7 +307,7 @@ TEST_F(AnEstimator, RefusesAClickOutsideItsRows) {
 
 // ---- OK and Cancel --------------------------------------------------------------------------------------------------
 
-TEST_F(AnEstimator, HandsOutRatingCoalfieldAndRockTypeOnOk) {
+TEST_F(AnEstimator, ReturnsRatingCoalfieldAndRockTypeOnOk) {
   program.project.FileSaved = true;
   program.project.FileEmpty = true;
   OpenOn(0, 0);
@@ -327,7 +327,7 @@ TEST_F(AnEstimator, HandsOutRatingCoalfieldAndRockTypeOnOk) {
   EXPECT_EQ(program.session.history.Text, "1. Editing Project Description\r\n2. CMRR Form Modified\r\n");
 }
 
-TEST_F(AnEstimator, LeavesTheDesignItselfToTheDialogThatAsked) {
+TEST_F(AnEstimator, LeavesTheDesignToTheDialogThatOpenedIt) {
   program.project.WorkParms.Place.CMRR = 42;
   program.project.WorkParms.Place.CMRRRegionIndex = 1;
   program.project.WorkParms.Place.CMRRRockTypeIndex = 2;
@@ -341,7 +341,7 @@ TEST_F(AnEstimator, LeavesTheDesignItselfToTheDialogThatAsked) {
   EXPECT_EQ(program.project.WorkParms.Place.CMRRRockTypeIndex, 2);
 }
 
-TEST_F(AnEstimator, LeavesTheEstimateAsItWasOnCancel) {
+TEST_F(AnEstimator, KeepsTheOldEstimateOnCancel) {
   program.project.FileSaved = true;
   program.project.FileEmpty = true;
   OpenOn(1, 1);

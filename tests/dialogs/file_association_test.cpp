@@ -37,7 +37,7 @@ TEST_F(FileAssociation, ChangesNothingOnNo) {
   EXPECT_THAT(platform.fileTypes.associated, IsEmpty());
 }
 
-TEST_F(FileAssociation, HandsTheDesktopTheExtensionAsItWasTyped) {
+TEST_F(FileAssociation, PassesTheExtensionToTheDesktopAsTyped) {
   program.session.settings.FileExtension = "Orb";
   platform.boxes.answers = {BoxResult::Yes};
 
@@ -47,7 +47,7 @@ TEST_F(FileAssociation, HandsTheDesktopTheExtensionAsItWasTyped) {
   EXPECT_THAT(platform.boxes.Texts().back(), HasSubstr("The Orb file extensions"));
 }
 
-TEST_F(FileAssociation, TellsWhatItHasDone) {
+TEST_F(FileAssociation, SaysWhatItHasDone) {
   platform.boxes.answers = {BoxResult::Yes};
 
   AssociateFileExtension(program);
@@ -58,7 +58,7 @@ TEST_F(FileAssociation, TellsWhatItHasDone) {
   EXPECT_THAT(program.session.history.Text, HasSubstr("The ORB file extensions has been associated to /program/\r\n"));
 }
 
-TEST_F(FileAssociation, ShowsThatTheUserHasToWaitUntilItIsDone) {
+TEST_F(FileAssociation, ShowsTheWaitCursorUntilItIsDone) {
   struct SlowFileTypes : FileTypes {
     explicit SlowFileTypes(RecordingWindows& windowsGiven) : windows(windowsGiven) {}
     void Associate(const std::string&, const std::string&) override { waited = windows.waitCursor; }

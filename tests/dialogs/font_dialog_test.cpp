@@ -13,7 +13,7 @@ using testing::IsEmpty;
 const std::vector<std::string> Installed{"Sans", "Arial", "Courier New", "Sans"};
 const FontChoice Present{"Courier New", 11, true, false};
 
-// A machine with a few fonts, and a text that is shown in one of them.
+// A machine with a few fonts, and a text in one of them.
 struct AFontChoice : testing::Test {
   AFontChoice() { platform.fonts.screen = Installed; }
 
@@ -40,7 +40,7 @@ TEST_F(AFontChoice, BeginsWithThePresentFont) {
   EXPECT_EQ(dialog.txtSample.Font(), Present);
 }
 
-TEST_F(AFontChoice, FindsThePresentFontWithoutRegardToCase) {
+TEST_F(AFontChoice, FindsThePresentFontInAnyCase) {
   FontDialog other(program, {"courier new", 11}, Installed);
 
   other.Open();
@@ -48,7 +48,7 @@ TEST_F(AFontChoice, FindsThePresentFontWithoutRegardToCase) {
   EXPECT_EQ(other.lstFont.ListIndex(), 1);
 }
 
-TEST_F(AFontChoice, ShowsASampleOfWhatIsChosenAtOnce) {
+TEST_F(AFontChoice, ShowsASampleOfTheChoiceAtOnce) {
   dialog.Open();
 
   dialog.lstFont.ClickItem(0);
@@ -59,7 +59,7 @@ TEST_F(AFontChoice, ShowsASampleOfWhatIsChosenAtOnce) {
   EXPECT_EQ(dialog.txtSample.Font(), (FontChoice{"Arial", 14, false, true}));
 }
 
-TEST_F(AFontChoice, ShowsTheSampleNoSmallerOrLargerThanAFontMayBe) {
+TEST_F(AFontChoice, ShowsTheSampleWithinTheSizeLimits) {
   dialog.Open();
 
   dialog.txtSize.SetText("2");
@@ -69,7 +69,7 @@ TEST_F(AFontChoice, ShowsTheSampleNoSmallerOrLargerThanAFontMayBe) {
   EXPECT_EQ(dialog.txtSample.Font().size, 24);
 }
 
-TEST_F(AFontChoice, RefusesASizeThatNothingCanHold) {
+TEST_F(AFontChoice, RefusesASizeThatIsTooLargeToStore) {
   dialog.Open();
 
   for (const char* size : {"1E40", "1E999", "-", ""}) {
@@ -84,7 +84,7 @@ TEST_F(AFontChoice, RefusesASizeThatNothingCanHold) {
   }
 }
 
-TEST_F(AFontChoice, IsTakenOverByOk) {
+TEST_F(AFontChoice, IsAcceptedByOk) {
   dialog.Open();
   dialog.lstFont.ClickItem(2);
   dialog.txtSize.SetText("24");
@@ -96,7 +96,7 @@ TEST_F(AFontChoice, IsTakenOverByOk) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(AFontChoice, IsForgottenByCancel) {
+TEST_F(AFontChoice, IsDiscardedByCancel) {
   dialog.Open();
   dialog.lstFont.ClickItem(2);
 
@@ -123,7 +123,7 @@ TEST_F(AFontChoice, RefusesASizeOutsideItsRange) {
   EXPECT_EQ(dialog.FocusRequest(), &dialog.txtSize);
 }
 
-TEST_F(AFontChoice, TakesTheSmallestAndTheLargestSize) {
+TEST_F(AFontChoice, AcceptsTheSmallestAndTheLargestSize) {
   for (const auto& [size, expected] : {std::pair{"7", 7}, std::pair{"24", 24}, std::pair{"10.6", 11}}) {
     FontDialog other(program, Present, Installed);
     other.Open();
@@ -136,7 +136,7 @@ TEST_F(AFontChoice, TakesTheSmallestAndTheLargestSize) {
   }
 }
 
-TEST_F(AFontChoice, RefusesAFontThatTheMachineHasNoMore) {
+TEST_F(AFontChoice, RefusesAFontThatTheMachineNoLongerHas) {
   dialog.Open();
   platform.fonts.screen = {"Sans"};
 
@@ -169,7 +169,7 @@ TEST_F(AFontChoice, RefusesAPresentFontThatTheMachineLacksUntilAnotherIsChosen) 
   EXPECT_EQ(other.Accepted, (FontChoice{"Arial", 10}));
 }
 
-TEST_F(AFontChoice, IsAskedForInOneCall) {
+TEST_F(AFontChoice, IsReturnedByOneCall) {
   platform.windows.onModal = [](Form& form) {
     auto& asked = dynamic_cast<FontDialog&>(form);
     asked.chkItalic.SetValue(1);
@@ -181,9 +181,9 @@ TEST_F(AFontChoice, IsAskedForInOneCall) {
   EXPECT_EQ(chosen, (FontChoice{"Courier New", 11, true, true}));
 }
 
-TEST_F(AFontChoice, IsNothingWhenTheWindowIsClosed) { EXPECT_EQ(AskFont(program, Present, Installed), std::nullopt); }
+TEST_F(AFontChoice, IsNothingIfTheWindowIsClosed) { EXPECT_EQ(AskFont(program, Present, Installed), std::nullopt); }
 
-TEST_F(AFontChoice, ForReadingIsOfFixedPitchOrKnown) {
+TEST_F(AFontChoice, ForReadingOffersMonospacedAndKnownFonts) {
   platform.fonts.screen = {"Sans", "Mono", "arial", "Terminal", "Courier New", "Serif"};
   platform.fonts.fixedPitch = {"Mono", "Courier New"};
 

@@ -1,4 +1,4 @@
-// A design of typical numbers, with the graph window and the points of a curve to draw.
+// A typical design, the graph window, and the points of a curve.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -13,7 +13,7 @@ struct GraphBench : testing::Test {
   GraphBench() {
     program.session.folders.ProgramTemporary = "/tmp/orby/";
     program.session.IniFilePath = "/home/user/ORBY.INI";
-    // Suggested PSUP over depths of cover; the last column is an empty one.
+    // Suggested PSUP over depths of cover. The last column is empty.
     program.windows.curve.CurvePoints[0] = {200, 240, 280.5F, 0};
     program.windows.curve.CurvePoints[1] = {3.25F, 4.125F, 5.005F, 0};
     program.windows.curve.CurvePointCount = 3;

@@ -16,7 +16,7 @@ using testing::SizeIs;
 constexpr int DefaultFormat = 0;
 constexpr int LastUsedFormat = 1;
 
-// The rock load over the entry width is on view, in a format of the user's own.
+// The rock load over the entry width is shown, in a user-defined format.
 struct GraphFormat : GraphBench {
   GraphFormat() {
     program.session.graph.GraphSetParams = FormatParameters::LastUsed;
@@ -32,7 +32,7 @@ struct GraphFormat : GraphBench {
     return texts;
   }
 
-  // Whether the fields for titles, lists and legend can be edited; all of them or none.
+  // Returns for titles, lists and legend whether the fields can be edited.
   std::vector<bool> EditingEnabled() const {
     std::vector<bool> enabled{dialog.Text1.Enabled(), dialog.Combo1.Enabled(), dialog.Combo2.Enabled(),
                               dialog.Check1.Enabled()};
@@ -44,7 +44,7 @@ struct GraphFormat : GraphBench {
   GraphOptionsDialog dialog{program, window.graph1};
 };
 
-// With the sixth curve on view.
+// Changes every field. The sixth curve is shown.
 void EditEveryField(GraphOptionsDialog& dialog) {
   dialog.Text1.SetText("Tailgate");
   dialog.Text2[5].SetText("Span of the entry");
@@ -55,7 +55,7 @@ void EditEveryField(GraphOptionsDialog& dialog) {
   dialog.HScroll1.SetValue(10);
 }
 
-TEST_F(GraphFormat, NamesItselfItsFieldsAndItsCommands) {
+TEST_F(GraphFormat, HasItsCaptions) {
   EXPECT_EQ(dialog.Name(), "frmGraphOpt");
   EXPECT_EQ(dialog.Caption(), "Graph Parameters and Options");
   EXPECT_EQ(dialog.Frame1.Caption(), "Options");
@@ -74,7 +74,7 @@ TEST_F(GraphFormat, NamesItselfItsFieldsAndItsCommands) {
   EXPECT_EQ(dialog.Command3.Caption(), "Help");
 }
 
-TEST_F(GraphFormat, ShowsWhatIsStored) {
+TEST_F(GraphFormat, ShowsTheStoredValues) {
   program.session.graph.GridStyle = GridLines::Vertical;
   program.session.graph.GraphStyle = CurveStyle::SymbolsOnly;
   program.session.graph.CurveLegend = 0;
@@ -102,7 +102,7 @@ TEST_F(GraphFormat, OffersTheStylesInOrder) {
   EXPECT_EQ(dialog.HScroll1.Maximum(), 20);
 }
 
-TEST_F(GraphFormat, OfLinesOnlyIsTheFirstStyleOfItsList) {
+TEST_F(GraphFormat, LinesOnlyIsTheFirstStyleOfTheList) {
   program.session.graph.GraphStyle = CurveStyle::LinesOnly;
 
   dialog.Open();
@@ -110,7 +110,7 @@ TEST_F(GraphFormat, OfLinesOnlyIsTheFirstStyleOfItsList) {
   EXPECT_EQ(dialog.Combo2.ListIndex(), 0);
 }
 
-TEST_F(GraphFormat, ShowsTheTitlesOfTheCurveOnView) {
+TEST_F(GraphFormat, ShowsTheTitlesOfTheShownCurve) {
   dialog.Open();
 
   for (std::size_t i = 0; i < 10; ++i) EXPECT_EQ(dialog.Text2[i].Visible(), i == 5) << i;
@@ -161,7 +161,7 @@ TEST_F(GraphFormat, DefaultCannotBeEdited) {
   EXPECT_FALSE(dialog.txtSS.Enabled());
 }
 
-TEST_F(GraphFormat, DefaultTakesHoldWhenTheDialogOpensOnIt) {
+TEST_F(GraphFormat, DefaultAppliesWhenTheDialogOpensOnIt) {
   program.session.graph.GraphSetParams = FormatParameters::Default;
 
   dialog.Open();
@@ -172,7 +172,7 @@ TEST_F(GraphFormat, DefaultTakesHoldWhenTheDialogOpensOnIt) {
   EXPECT_THAT(EditingEnabled(), Each(false));
 }
 
-TEST_F(GraphFormat, DefaultStaysInForceAfterCancel) {
+TEST_F(GraphFormat, DefaultStillAppliesAfterCancel) {
   dialog.Open();
   dialog.Option1.SetValue(DefaultFormat, true);
 
@@ -195,7 +195,7 @@ TEST_F(GraphFormat, LastUsedAfterDefaultKeepsWhatTheFieldsShow) {
   EXPECT_EQ(program.session.graph.GraphSetParams, FormatParameters::Default);
 }
 
-TEST_F(GraphFormat, OfLinesOnlyHasNoSymbolSizeToChoose) {
+TEST_F(GraphFormat, LinesOnlyDisablesTheSymbolSize) {
   dialog.Open();
 
   dialog.Combo2.SetListIndex(0);
@@ -211,7 +211,7 @@ TEST_F(GraphFormat, OfLinesOnlyHasNoSymbolSizeToChoose) {
   }
 }
 
-TEST_F(GraphFormat, OfLinesOnlyHasNoSymbolSizeToChooseWhenLastUsedIsChosenAgain) {
+TEST_F(GraphFormat, LinesOnlyDisablesTheSymbolSizeWhenLastUsedIsChosenAgain) {
   program.session.graph.GraphStyle = CurveStyle::LinesOnly;
   dialog.Open();
   dialog.Option1.SetValue(DefaultFormat, true);
@@ -222,7 +222,7 @@ TEST_F(GraphFormat, OfLinesOnlyHasNoSymbolSizeToChooseWhenLastUsedIsChosenAgain)
   EXPECT_FALSE(dialog.HScroll1.Enabled());
 }
 
-TEST_F(GraphFormat, OfLinesOnlyKeepsTheStoredSymbolSize) {
+TEST_F(GraphFormat, LinesOnlyKeepsTheStoredSymbolSize) {
   program.session.graph.SymbolSize = 14;
   dialog.Open();
 
@@ -255,7 +255,7 @@ TEST_F(GraphFormat, RefusesAStyleThatIsNoItem) {
   EXPECT_EQ(dialog.Combo2.Text(), "Lines & Symbols");
 }
 
-TEST_F(GraphFormat, TakesATypedItem) {
+TEST_F(GraphFormat, AcceptsATypedItem) {
   dialog.Open();
 
   dialog.Combo1.SetText("Vertical");
@@ -281,7 +281,7 @@ TEST_F(GraphFormat, IsStoredWithOK) {
   EXPECT_EQ(program.session.graph.SymbolSize, 10);
 }
 
-TEST_F(GraphFormat, WithOKEntersTheConfiguration) {
+TEST_F(GraphFormat, WithOKIsWrittenToTheConfiguration) {
   dialog.Open();
   dialog.Text1.SetText("Tailgate");
 
@@ -294,7 +294,7 @@ TEST_F(GraphFormat, WithOKEntersTheConfiguration) {
   EXPECT_EQ(program.session.history.Text, "1. Saving default settings to file: /home/user/ORBY.INI\r\n");
 }
 
-TEST_F(GraphFormat, LeavesTheTitlesOfOtherCurvesAlone) {
+TEST_F(GraphFormat, KeepsTheTitlesOfOtherCurves) {
   window.ShowCurve(4);
   dialog.Open();
 
@@ -309,7 +309,7 @@ TEST_F(GraphFormat, LeavesTheTitlesOfOtherCurvesAlone) {
               ElementsAre("Suggested PSUP", "Load", "Rock Load Intersections (tons)"));
 }
 
-TEST_F(GraphFormat, ReachesTheOpenChartWithOK) {
+TEST_F(GraphFormat, WithOKIsAppliedToTheOpenChart) {
   dialog.Open();
   EditEveryField(dialog);
 
@@ -327,7 +327,7 @@ TEST_F(GraphFormat, ReachesTheOpenChartWithOK) {
   EXPECT_THAT(Drawn().x, ElementsAre(200, 240, 280.5));
 }
 
-TEST_F(GraphFormat, EntersTheConfigurationBeforeItReachesTheChart) {
+TEST_F(GraphFormat, IsWrittenToTheConfigurationBeforeItIsApplied) {
   dialog.Open();
   EditEveryField(dialog);
   std::vector<std::string> headings;
@@ -344,7 +344,7 @@ TEST_F(GraphFormat, EntersTheConfigurationBeforeItReachesTheChart) {
   EXPECT_EQ(window.graph1.Heading(), "Tailgate");
 }
 
-TEST_F(GraphFormat, RenamesARockLoadInTheLegendUntilTheCurveIsDrawnAnew) {
+TEST_F(GraphFormat, RenamesARockLoadInTheLegendUntilTheCurveIsRedrawn) {
   dialog.Open();
 
   dialog.Command2.Press();

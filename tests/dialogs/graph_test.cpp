@@ -53,7 +53,7 @@ TEST_F(AGraph, KeepsTheTitlesOfItsOwnUnits) {
   EXPECT_THAT(program.session.graph.YAxisTitle, Each("Load"));
 }
 
-TEST_F(AGraph, NamesAllAxesWhenTheCurveHasNoTitle) {
+TEST_F(AGraph, NamesAllAxesIfTheCurveHasNoTitle) {
   program.session.graph.XAxisTitle.fill("Cover above the seam");
   program.session.graph.XAxisTitle[4].clear();
 
@@ -63,7 +63,7 @@ TEST_F(AGraph, NamesAllAxesWhenTheCurveHasNoTitle) {
   EXPECT_EQ(program.session.graph.XAxisTitle[1], "Depth of Cover (ft)");
 }
 
-TEST_F(AGraph, NamesAllAxesAnewInTheOtherUnits) {
+TEST_F(AGraph, RenamesAllAxesInTheOtherUnits) {
   program.session.graph.XAxisTitle.fill("Cover above the seam");
   program.session.graph.GraphUnits = English;
   program.project.WorkParms.Units = Metric;

@@ -19,7 +19,7 @@ constexpr int PointID = 0;
 constexpr int BasicOptions = 1;
 
 struct GraphOfACurve : GraphBench {
-  // The pointer in the plot, so many pixels from a point of the first series.
+  // Moves the pointer in the plot to this distance in pixels from a point.
   void Point(int point, double distance, int series = 0) { window.graph1.MouseMove({true, series, point, distance}); }
   void LeaveThePlot() { window.graph1.MouseMove({false, -1, -1, 0}); }
   std::vector<std::string> ReadOut() const {
@@ -27,7 +27,7 @@ struct GraphOfACurve : GraphBench {
   }
 };
 
-TEST_F(GraphOfACurve, NamesItselfItsMenusAndItsReadOut) {
+TEST_F(GraphOfACurve, HasItsCaptions) {
   EXPECT_EQ(window.Name(), "frmGraph");
   EXPECT_EQ(window.Caption(), "Graph");
   EXPECT_EQ(window.GraphFile.Caption(), "&File");
@@ -59,7 +59,7 @@ TEST_F(GraphOfACurve, OpensWithoutTheReadOutAndComesToTheFront) {
   EXPECT_FALSE(program.windows.curve.GraphClosed);
 }
 
-TEST_F(GraphOfACurve, TakesAnotherCurveWhileItIsOpen) {
+TEST_F(GraphOfACurve, ShowsAnotherCurveWhileItIsOpen) {
   window.ShowCurve(1);
   window.GraphOptionsItem.ClickItem(PointID);
   program.windows.curve.CurvePoints[1] = {12, 14, 16, 0};
@@ -73,7 +73,7 @@ TEST_F(GraphOfACurve, TakesAnotherCurveWhileItIsOpen) {
   EXPECT_THAT(Drawn().y, ElementsAre(12, 14, 16));
 }
 
-TEST_F(GraphOfACurve, FailsForACurveThatDoesNotExistAndStaysAsItWas) {
+TEST_F(GraphOfACurve, FailsForACurveThatDoesNotExistAndKeepsTheOldOne) {
   window.ShowCurve(3);
 
   EXPECT_EQ(ErrorNumberOf([&] { window.ShowCurve(10); }), 9);
@@ -91,7 +91,7 @@ TEST_F(GraphOfACurve, IsHeadedByTheTitleOfTheGraph) {
   EXPECT_EQ(window.graph1.Heading(), "Panel 3, tailgate");
 }
 
-TEST_F(GraphOfACurve, KeepsTitlesOfTheUnitsThatTheyWereComposedIn) {
+TEST_F(GraphOfACurve, KeepsUserDefinedTitlesIfTheUnitsAreTheSame) {
   program.session.graph.XAxisTitle[1] = "Cover above the seam";
   program.session.graph.YAxisTitle[0] = "PSUP, suggested";
 
@@ -101,7 +101,7 @@ TEST_F(GraphOfACurve, KeepsTitlesOfTheUnitsThatTheyWereComposedIn) {
   EXPECT_EQ(window.graph1.AxisY().title, "PSUP, suggested");
 }
 
-TEST_F(GraphOfACurve, InMetricAfterOneInEnglishNamesAllAxesAnew) {
+TEST_F(GraphOfACurve, RenamesAllAxesInMetricAfterEnglish) {
   window.ShowCurve(4);
   program.project.WorkParms.Units = Metric;
 
@@ -131,7 +131,7 @@ TEST_F(GraphOfACurve, HasTheGridLinesOfItsStyle) {
   }
 }
 
-TEST_F(GraphOfACurve, DrawsTheFilledColumnsOnly) {
+TEST_F(GraphOfACurve, DrawsOnlyTheFilledColumns) {
   window.ShowCurve(1);
 
   ASSERT_THAT(window.graph1.Series(), SizeIs(1));
@@ -139,7 +139,7 @@ TEST_F(GraphOfACurve, DrawsTheFilledColumnsOnly) {
   EXPECT_THAT(Drawn().y, ElementsAre(3.25, 4.125, static_cast<double>(5.005F)));
 }
 
-TEST_F(GraphOfACurve, DrawsColumnsThatWereLeftEmptyAsZeroWhenTheyCount) {
+TEST_F(GraphOfACurve, DrawsAnEmptyColumnThatCountsAsZero) {
   program.windows.curve.CurvePointCount = 4;
 
   window.ShowCurve(1);
@@ -191,7 +191,7 @@ TEST_F(GraphOfACurve, ShowsLinesAndSymbolsByItsStyle) {
   }
 }
 
-TEST_F(GraphOfACurve, HasALegendThatTellsEntriesFromIntersections) {
+TEST_F(GraphOfACurve, DistinguishesEntriesFromIntersectionsInTheLegend) {
   window.ShowCurve(3);
   EXPECT_EQ(Drawn().legend, "Sug.PSUP");
 
@@ -202,7 +202,7 @@ TEST_F(GraphOfACurve, HasALegendThatTellsEntriesFromIntersections) {
   EXPECT_EQ(Drawn().legend, "Rock Load Intersections");
 }
 
-TEST_F(GraphOfACurve, ShowsItsLegendWhenThatIsOn) {
+TEST_F(GraphOfACurve, ShowsItsLegendIfThatIsOn) {
   window.ShowCurve(1);
   EXPECT_TRUE(window.graph1.LegendShown());
 
@@ -248,7 +248,7 @@ TEST_F(GraphOfACurve, ReadsOffThePointUnderThePointer) {
   EXPECT_THAT(ReadOut(), ElementsAre("240.00", "4.13", "Sug.PSUP"));
 }
 
-TEST_F(GraphOfACurve, RoundsTheDigitsThatAreShownEverywhereElse) {
+TEST_F(GraphOfACurve, RoundsTheReadOutToTwoDecimals) {
   window.ShowCurve(1);
   window.GraphOptionsItem.ClickItem(PointID);
 
@@ -268,7 +268,7 @@ TEST_F(GraphOfACurve, CallsBothRockLoadsTheSameInTheReadOut) {
   }
 }
 
-TEST_F(GraphOfACurve, ReadsNothingOffUntilAskedTo) {
+TEST_F(GraphOfACurve, ReadsNothingOffUntilTheReadOutIsOn) {
   window.ShowCurve(1);
 
   Point(1, 0);
@@ -276,7 +276,7 @@ TEST_F(GraphOfACurve, ReadsNothingOffUntilAskedTo) {
   EXPECT_THAT(ReadOut(), ElementsAre("", "", ""));
 }
 
-TEST_F(GraphOfACurve, KeepsTheReadOutAwayFromAPointAndInThePlot) {
+TEST_F(GraphOfACurve, KeepsTheReadOutFarFromAPointInsideThePlot) {
   window.ShowCurve(1);
   window.GraphOptionsItem.ClickItem(PointID);
   Point(1, 0);
@@ -291,7 +291,7 @@ TEST_F(GraphOfACurve, KeepsTheReadOutAwayFromAPointAndInThePlot) {
   EXPECT_THAT(ReadOut(), ElementsAre("240.00", "4.13", "Sug.PSUP"));
 }
 
-TEST_F(GraphOfACurve, KeepsTheReadOutOverAHole) {
+TEST_F(GraphOfACurve, KeepsTheReadOutOverAMissingPoint) {
   window.ShowCurve(1);
   window.GraphOptionsItem.ClickItem(PointID);
   Point(1, 0);
@@ -326,7 +326,7 @@ TEST_F(GraphOfACurve, ShowsAndHidesTheReadOut) {
   EXPECT_FALSE(window.Frame1.Visible());
 }
 
-TEST_F(GraphOfACurve, OpensAnewWithoutTheReadOut) {
+TEST_F(GraphOfACurve, OpensAgainWithoutTheReadOut) {
   window.ShowCurve(1);
   window.GraphOptionsItem.ClickItem(PointID);
   Point(1, 0);
@@ -340,7 +340,7 @@ TEST_F(GraphOfACurve, OpensAnewWithoutTheReadOut) {
   EXPECT_FALSE(program.windows.curve.GraphClosed);
 }
 
-TEST_F(GraphOfACurve, IsPrintedOnThePrinterChosen) {
+TEST_F(GraphOfACurve, IsPrintedOnTheChosenPrinter) {
   window.ShowCurve(1);
 
   window.GraphFileItem.ClickItem(Print);
@@ -361,7 +361,7 @@ TEST_F(GraphOfACurve, IsNotPrintedWhenThePrinterDialogIsCancelled) {
   EXPECT_EQ(program.session.history.Text, "1. Cancel was selected.\r\n");
 }
 
-TEST_F(GraphOfACurve, OffersToTryAPrinterThatFailsAgain) {
+TEST_F(GraphOfACurve, OffersARetryIfThePrinterFails) {
   window.ShowCurve(1);
   platform.printer.error = error_number::Printer;
   platform.boxes.answers = {BoxResult::Retry, BoxResult::Cancel};
@@ -376,7 +376,7 @@ TEST_F(GraphOfACurve, OffersToTryAPrinterThatFailsAgain) {
   EXPECT_TRUE(window.IsOpen());
 }
 
-TEST_F(GraphOfACurve, IsPrintedAgainOnThePrinterThatWasChosenWhenItJams) {
+TEST_F(GraphOfACurve, IsPrintedOnTheChosenPrinterAfterARetry) {
   JammedPrinter jammed;
   Program other(platform.DoorsWith(jammed));
   other.windows.curve = program.windows.curve;
@@ -401,7 +401,7 @@ TEST_F(GraphOfACurve, IsCopiedAsAPicture) {
   EXPECT_EQ(platform.clipboard.pictured, "graph1");
 }
 
-TEST_F(GraphOfACurve, IsExportedUnderHeadersBesideItsTitles) {
+TEST_F(GraphOfACurve, IsExportedWithHeadersAndTitles) {
   program.session.graph.GraphTitle = "Panel 3";
   window.ShowCurve(1);
 
@@ -447,7 +447,7 @@ TEST_F(GraphOfACurve, ExportsEverySeries) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Exported 2 Curves"));
 }
 
-TEST_F(GraphOfACurve, AsksBeforeTheExportWhenItIsToAsk) {
+TEST_F(GraphOfACurve, AsksBeforeTheExportIfTheSettingSaysSo) {
   program.session.options.AskOfficeInstall = 0;
   platform.boxes.answers = {BoxResult::Yes};
   window.ShowCurve(1);
@@ -461,7 +461,7 @@ TEST_F(GraphOfACurve, AsksBeforeTheExportWhenItIsToAsk) {
   EXPECT_THAT(platform.documents.opened, SizeIs(1));
 }
 
-TEST_F(GraphOfACurve, IsExportedAtOnceByAnySettingButTheOneThatAsks) {
+TEST_F(GraphOfACurve, IsExportedWithoutAQuestionByAnyOtherSetting) {
   program.session.options.AskOfficeInstall = 2;
   window.ShowCurve(1);
 
@@ -482,7 +482,7 @@ TEST_F(GraphOfACurve, IsNotExportedAfterANo) {
   EXPECT_THAT(platform.boxes.shown, SizeIs(1));
 }
 
-TEST_F(GraphOfACurve, TellsOfASpreadsheetThatCannotBeOpened) {
+TEST_F(GraphOfACurve, ReportsASpreadsheetThatCannotBeOpened) {
   platform.documents.opens = false;
   window.ShowCurve(0);
 
@@ -503,7 +503,7 @@ TEST_F(GraphOfACurve, ClosesByItsMenu) {
   EXPECT_TRUE(program.windows.curve.GraphClosed);
 }
 
-TEST_F(GraphOfACurve, KeepsWhatWasEditedInTheChartWhenItCloses) {
+TEST_F(GraphOfACurve, StoresTheFormatOfTheChartWhenItCloses) {
   window.ShowCurve(5);
   window.graph1.SetHeading("Tailgate");
   window.graph1.SetAxisX({"Width of the entry", true});
@@ -547,7 +547,7 @@ TEST_F(GraphOfACurve, ClearedKeepsTheSymbolSizeWhenItCloses) {
   EXPECT_EQ(program.session.graph.SymbolSize, 8);
 }
 
-TEST_F(GraphOfACurve, KeepsTheTitleOfTheCurveOnViewWhenAnotherCannotBeSwept) {
+TEST_F(GraphOfACurve, KeepsTheTitleOfTheShownCurveIfAnotherOneFails) {
   window.ShowCurve(1);
   window.graph1.SetAxisX({"Cover above the seam", true});
   program.windows.WorkParmsCopy.Place.CMRR = 45;
@@ -562,7 +562,7 @@ TEST_F(GraphOfACurve, KeepsTheTitleOfTheCurveOnViewWhenAnotherCannotBeSwept) {
   EXPECT_EQ(program.session.graph.XAxisTitle[2], "Stability Factor");
 }
 
-TEST_F(GraphOfACurve, OpensItsOptionsOnTheChartAsItIs) {
+TEST_F(GraphOfACurve, OpensItsOptionsOnTheShownChart) {
   window.ShowCurve(1);
   window.graph1.SetHeading("Tailgate");
   std::string asked;

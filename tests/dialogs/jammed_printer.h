@@ -1,4 +1,4 @@
-// A printer that fails at its first attempt only.
+// A printer that fails only at its first attempt.
 #pragma once
 
 #include <string>

@@ -24,7 +24,7 @@ constexpr std::string_view StabilityWarning = "WARNING:  Stability Factor is les
 
 // ---- captions ------------------------------------------------------------------------------------------------------
 
-// Of a label, a frame, a box or a button; of options and of tabs all of them, a bar between two.
+// Returns the caption of a label, frame, check box or button. The captions of options and tabs are separated by "|".
 std::string CaptionOf(const Control& control) {
   if (const auto* label = dynamic_cast<const Label*>(&control)) return label->Caption();
   if (const auto* box = dynamic_cast<const CheckBox*>(&control)) return box->Caption();
@@ -39,7 +39,7 @@ std::string CaptionOf(const Control& control) {
 }
 
 struct CaptionCase {
-  std::vector<std::string_view> names;  // of the controls that bear it
+  std::vector<std::string_view> names;  // of the controls with this caption
   std::string_view caption;
 };
 
@@ -81,7 +81,7 @@ const std::vector<CaptionCase> Captions{
     {{"cmdSetDefaultCable_0", "cmdSetDefaultCable_1", "cmdSetDefaultStandSupport"}, "Reset Default"},
 };
 
-TEST_F(Options, BearTheirCaptions) {
+TEST_F(Options, HaveTheirCaptions) {
   dialog.Open();
 
   EXPECT_EQ(dialog.Caption(), "Options");
@@ -108,7 +108,7 @@ TEST_F(Options, ShowThePreferencesOfTheProgram) {
   EXPECT_TRUE(dialog.optStrength.Value(1));
 }
 
-TEST_F(Options, ShowWhatANewDesignStartsWith) {
+TEST_F(Options, ShowTheDefaultsOfANewEnglishDesign) {
   dialog.Open();
 
   EXPECT_EQ(dialog.txtCMRR[EnglishPage].Text(), "45");
@@ -125,7 +125,7 @@ TEST_F(Options, ShowWhatANewDesignStartsWith) {
   EXPECT_EQ(dialog.txtRowSpacing[EnglishPage].Text(), "4");
 }
 
-TEST_F(Options, ShowWhatANewMetricDesignStartsWith) {
+TEST_F(Options, ShowTheDefaultsOfANewMetricDesign) {
   dialog.Open();
 
   EXPECT_EQ(dialog.txtCMRR[MetricPage].Text(), "45");
@@ -166,7 +166,7 @@ TEST_F(Options, OpenOnTheFirstPageInANewRun) {
   EXPECT_EQ(dialog.SSTab1.Tab(), 0);
 }
 
-TEST_F(Options, TellHowToGetHelpOnAField) {
+TEST_F(Options, SayHowToGetHelpOnAField) {
   dialog.Open();
 
   dialog.cmdHelp.Press();
@@ -175,7 +175,7 @@ TEST_F(Options, TellHowToGetHelpOnAField) {
   EXPECT_THAT(platform.help.shown, IsEmpty());
 }
 
-TEST_F(Options, AskBeforeTheyAssociateTheExtension) {
+TEST_F(Options, AskBeforeAssociatingTheExtension) {
   platform.boxes.answers = {BoxResult::No};
   dialog.Open();
 
@@ -188,7 +188,7 @@ TEST_F(Options, AskBeforeTheyAssociateTheExtension) {
 
 // ---- leaving -------------------------------------------------------------------------------------------------------
 
-TEST_F(Options, StayAsTheyAreWhenTheDialogIsCancelled) {
+TEST_F(Options, DoNotChangeIfTheDialogIsCancelled) {
   dialog.Open();
   dialog.Check1.SetValue(0);
   dialog.txtDepthofCover[EnglishPage].SetText("900");
@@ -220,7 +220,7 @@ TEST_F(Options, AreStoredOnOK) {
   EXPECT_THAT(program.session.history.Text, Not(HasSubstr("Options Not Modified")));
 }
 
-TEST_F(Options, StoreTheEnglishDefaultsWhereNewDesignsFindThem) {
+TEST_F(Options, StoreTheEnglishDefaultsForNewDesigns) {
   dialog.Open();
   dialog.txtCMRR[EnglishPage].SetText("52");
   dialog.txtDepthofCover[EnglishPage].SetText("650.5");
@@ -254,7 +254,7 @@ TEST_F(Options, StoreTheEnglishDefaultsWhereNewDesignsFindThem) {
   EXPECT_EQ(defaults.DefaultMETBoltUTS, 690);
 }
 
-TEST_F(Options, StoreTheMetricDefaultsWhereNewDesignsFindThem) {
+TEST_F(Options, StoreTheMetricDefaultsForNewDesigns) {
   dialog.Open();
   dialog.txtDepthofCover[MetricPage].SetText("210.5");
   dialog.txtUnitWeight[MetricPage].SetText("24.2");
@@ -282,7 +282,7 @@ TEST_F(Options, StoreTheMetricDefaultsWhereNewDesignsFindThem) {
   EXPECT_EQ(defaults.DefaultENGBoltUTS, 100);
 }
 
-TEST_F(Options, TakeTheEnglishValueWhereBothPagesEditOne) {
+TEST_F(Options, UseTheEnglishValueIfBothPagesEditOneDefault) {
   dialog.Open();
   dialog.txtCMRR[MetricPage].SetText("61");
   dialog.txtStabilityFactor[MetricPage].SetText("1.7");
@@ -306,7 +306,7 @@ TEST_F(Options, DropTheFractionsOfRatingAndBoltsPerRow) {
   EXPECT_EQ(program.session.defaults.DefaultNumberBoltsPerRow, 5);
 }
 
-TEST_F(Options, ChangeNothingWhenANumberHasNoPlaceInTheProgram) {
+TEST_F(Options, ChangeNothingIfANumberCannotBeStored) {
   dialog.Open();
   dialog.Check1.SetValue(0);
   dialog.txtDepthofCover[EnglishPage].SetText("650");
@@ -379,7 +379,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Fault{&OptionsControls::txtActualSpan, "0", "Invalid actual intersection span"},
                     Fault{&OptionsControls::txtEntryWidth, "0", "Invalid entry width"}));
 
-TEST_F(Options, TellOfOneFaultOnlyTheFirstOfTheEnglishPage) {
+TEST_F(Options, ReportOnlyTheFirstFaultOfTheEnglishPage) {
   dialog.Open();
   dialog.txtStabilityFactor[MetricPage].SetText("0");
   dialog.txtEntryWidth[EnglishPage].SetText("0");
@@ -390,7 +390,7 @@ TEST_F(Options, TellOfOneFaultOnlyTheFirstOfTheEnglishPage) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid CMRR"));
 }
 
-TEST_F(Options, LetAnyUnitWeightAndBoltStrengthPass) {
+TEST_F(Options, AcceptAnyUnitWeightAndBoltStrength) {
   dialog.Open();
   dialog.txtUnitWeight[EnglishPage].SetText("0");
   dialog.txtBoltUTS[MetricPage].SetText("");
@@ -425,7 +425,7 @@ TEST_F(Options, AskAboutALowRoofRatingOnTheMetricPage) {
   EXPECT_FALSE(dialog.IsOpen());
 }
 
-TEST_F(Options, StayOnTheFieldOfARefusedRoofRating) {
+TEST_F(Options, KeepTheFocusOnARefusedRoofRating) {
   platform.boxes.answers = {BoxResult::No};
   dialog.Open();
   dialog.txtCMRR[MetricPage].SetText("34");
@@ -462,7 +462,7 @@ TEST_F(Options, AskNothingAtTheLimits) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(Options, TellOfFaultsBeforeTheyAsk) {
+TEST_F(Options, ReportFaultsBeforeAskingAboutUnusualValues) {
   dialog.Open();
   dialog.txtCMRR[EnglishPage].SetText("30");
   dialog.txtRowSpacing[MetricPage].SetText("0");
@@ -472,7 +472,7 @@ TEST_F(Options, TellOfFaultsBeforeTheyAsk) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid roof bolt row spacing"));
 }
 
-TEST_F(Options, KeepTheCellThatIsBeingEditedWhenAFaultStopsThem) {
+TEST_F(Options, KeepTheEditedCellIfAFaultIsFound) {
   dialog.Open();
   Edit(dialog.VSFlexGridEng, 1, 2, "28");
   dialog.txtEntryWidth[EnglishPage].SetText("0");

@@ -1,4 +1,4 @@
-// The options dialog on the built-in catalogs and a configuration file of its own.
+// The options dialog with the built-in catalogs and its own configuration file.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -14,7 +14,7 @@
 
 namespace orby::test {
 
-// The pages of the two unit systems, and their lists of bolts.
+// The pages of the two unit systems, and their bolt lists.
 inline constexpr std::size_t EnglishPage = PlaceOf(English);
 inline constexpr std::size_t MetricPage = PlaceOf(Metric);
 
@@ -26,14 +26,14 @@ struct OptionsFixture : testing::Test {
 
   void Accept() { dialog.cmdOK.Press(); }
 
-  // The entries of a list of bolts.
+  // Returns the entries of a bolt list.
   std::vector<std::string> Entries(std::size_t catalog, std::size_t list) const {
     std::vector<std::string> texts;
     for (const ComboItem& item : dialog.bolts[catalog].lists[list]->Items()) texts.push_back(item.text);
     return texts;
   }
 
-  // The numbers in use of a list of the program.
+  // Returns the numbers in use of a list of the program.
   static std::vector<Single> Values(const CatalogList& list) {
     return {list.Values.begin(), list.Values.begin() + static_cast<std::ptrdiff_t>(list.Count())};
   }
@@ -44,7 +44,7 @@ struct OptionsFixture : testing::Test {
     return texts;
   }
 
-  // The user's edit of a cell.
+  // Edits a cell as the user does.
   static void Edit(Grid& grid, int row, int column, std::string text) {
     grid.ClickCell(row, column);
     grid.Overlay()->SetText(std::move(text));

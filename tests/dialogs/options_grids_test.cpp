@@ -25,7 +25,7 @@ TEST_F(OptionsGrids, ShowTheCables) {
   EXPECT_EQ(dialog.VSFlexGridMet.Rows(), 7);
 }
 
-TEST_F(OptionsGrids, StoreTheCellsOnOKTheOneThatIsBeingEditedToo) {
+TEST_F(OptionsGrids, StoreTheCellsOnOKIncludingTheEditedOne) {
   dialog.Open();
   Edit(dialog.VSFlexGridEng, 1, 1, "0.62");
   Edit(dialog.VSFlexGridEng, 2, 2, "36");
@@ -40,7 +40,7 @@ TEST_F(OptionsGrids, StoreTheCellsOnOKTheOneThatIsBeingEditedToo) {
   EXPECT_EQ(Written("ORBYBoltParams", "DefaultCableCapArrayENG1"), "36");
 }
 
-TEST_F(OptionsGrids, GiveACableTheStrengthOfItsCapacityOnOK) {
+TEST_F(OptionsGrids, StoreTheCapacityAsTheStrengthOfACableOnOK) {
   dialog.Open();
   Edit(dialog.VSFlexGridEng, 2, 2, "36");
 
@@ -61,7 +61,7 @@ TEST_F(OptionsGrids, AddACableAtOnce) {
   EXPECT_THAT(Values(program.session.catalogs.DefaultCableDiamArrayENG), ElementsAre(0.6F, 0.7F, 0));
 }
 
-TEST_F(OptionsGrids, TakeTheKeyboardToTheRowThatIsAdded) {
+TEST_F(OptionsGrids, MoveTheFocusToTheAddedRow) {
   dialog.Open();
 
   dialog.cmdAddCable[MetricPage].Press();
@@ -94,7 +94,7 @@ TEST_F(OptionsGrids, GrowPastTenRows) {
   EXPECT_EQ(program.session.catalogs.DefaultCableCapArrayENG.Values.size(), 14U);
 }
 
-TEST_F(OptionsGrids, DeleteTheSelectedCableAndNumberTheOthersAnew) {
+TEST_F(OptionsGrids, DeleteTheSelectedCableAndRenumberTheOthers) {
   dialog.Open();
   dialog.VSFlexGridMet.ClickCell(2, 1);
 
@@ -105,7 +105,7 @@ TEST_F(OptionsGrids, DeleteTheSelectedCableAndNumberTheOthersAnew) {
   EXPECT_THAT(Row(dialog.VSFlexGridMet, 5), ElementsAre("5", "28.6", "970"));
 }
 
-TEST_F(OptionsGrids, ShortenTheListAtOnceAndMoveItsValuesOnOK) {
+TEST_F(OptionsGrids, ShortenTheListAtOnceButMoveItsValuesOnOK) {
   dialog.Open();
   dialog.VSFlexGridEng.ClickCell(1, 1);
 
@@ -117,7 +117,7 @@ TEST_F(OptionsGrids, ShortenTheListAtOnceAndMoveItsValuesOnOK) {
   EXPECT_THAT(Values(program.session.catalogs.DefaultCableDiamArrayENG), ElementsAre(0.7F));
 }
 
-TEST_F(OptionsGrids, ForgetWhatWasTypedIntoADeletedRow) {
+TEST_F(OptionsGrids, DiscardTheTextTypedIntoADeletedRow) {
   dialog.Open();
   Edit(dialog.VSFlexGridEng, 1, 2, "99");
 
@@ -198,7 +198,7 @@ TEST_F(OptionsGrids, StoreAMetricStandingSupportInBothUnitSystems) {
   EXPECT_THAT(Stands().DefaultStandSupportCap[9], ElementsAre(55, 489));
 }
 
-TEST_F(OptionsGrids, KeepBothCapacitiesOfTheRowsBehindADeletedOne) {
+TEST_F(OptionsGrids, KeepBothCapacitiesOfTheRowsAfterADeletedOne) {
   program.project.WorkParms.Units = Metric;
   dialog.Open();
   dialog.VSFlexGridStand.ClickCell(1, 2);
@@ -226,7 +226,7 @@ TEST_F(OptionsGrids, ResetTheStandingSupportsAtOnce) {
   EXPECT_THAT(Stands().DefaultStandSupportCap[15], ElementsAre(525, 4670));
 }
 
-TEST_F(OptionsGrids, LetAnyTextIntoANameAndNumbersIntoACapacity) {
+TEST_F(OptionsGrids, AcceptAnyTextAsANameAndNumbersAsACapacity) {
   dialog.Open();
 
   dialog.VSFlexGridStand.ClickCell(3, 1);

@@ -12,7 +12,7 @@ using bolt_list::Grade;
 using bolt_list::UTS;
 
 struct BoltLists : OptionsFixture {
-  // Presses "Add" with this in the entry field.
+  // Types a text into the entry field and presses Add.
   void Add(std::size_t catalog, std::size_t list, std::string text) {
     dialog.bolts[catalog].optBolt.SetValue(static_cast<int>(list), true);
     dialog.bolts[catalog].txtItem.SetText(std::move(text));
@@ -62,7 +62,7 @@ TEST_F(BoltLists, BeginWithTheFirstListOfEachCatalog) {
 
 // ---- adding --------------------------------------------------------------------------------------------------------
 
-TEST_F(BoltLists, TakeANewEntryAtTheirEndAndSelectIt) {
+TEST_F(BoltLists, AddANewEntryAtTheEndAndSelectIt) {
   dialog.Open();
 
   Add(MetricPage, UTS, "950");
@@ -72,7 +72,7 @@ TEST_F(BoltLists, TakeANewEntryAtTheirEndAndSelectIt) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(BoltLists, KeepAnAddedEntryFromTheProgramUntilOK) {
+TEST_F(BoltLists, StoreAnAddedEntryOnlyOnOK) {
   dialog.Open();
 
   Add(EnglishPage, Grade, "80");
@@ -82,7 +82,7 @@ TEST_F(BoltLists, KeepAnAddedEntryFromTheProgramUntilOK) {
   EXPECT_THAT(Values(program.session.catalogs.DefaultBoltGradeArrayENG), ElementsAre(40, 55, 60, 75, 90, 100, 80));
 }
 
-TEST_F(BoltLists, WantAValue) {
+TEST_F(BoltLists, AskForAValue) {
   dialog.Open();
 
   Add(EnglishPage, Diameter, "  ");
@@ -91,7 +91,7 @@ TEST_F(BoltLists, WantAValue) {
   EXPECT_EQ(Entries(EnglishPage, Diameter).size(), 5U);
 }
 
-TEST_F(BoltLists, RefuseTheEntryThatTheyHold) {
+TEST_F(BoltLists, RefuseADuplicateEntry) {
   dialog.Open();
 
   Add(EnglishPage, Grade, "60");
@@ -114,7 +114,7 @@ TEST_F(BoltLists, CompareEntriesAsTexts) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(BoltLists, SaySoWhenTheyAreFullEvenToWhatTheyHold) {
+TEST_F(BoltLists, SayThatTheyAreFullEvenForADuplicate) {
   dialog.Open();
   for (const char* grade : {"101", "102", "103", "104"}) Add(EnglishPage, Grade, grade);
   for (const char* strength : {"131", "132", "133", "134"}) Add(EnglishPage, UTS, strength);
@@ -146,7 +146,7 @@ TEST_F(BoltLists, HoldTenAustralianEntries) {
 
 // ---- deleting ------------------------------------------------------------------------------------------------------
 
-TEST_F(BoltLists, WantASelectionToDelete) {
+TEST_F(BoltLists, AskForASelectionToDelete) {
   dialog.Open();
 
   Delete(MetricPage, Grade);
@@ -158,7 +158,7 @@ TEST_F(BoltLists, WantASelectionToDelete) {
                           "Please select a diameter value to delete"));
 }
 
-TEST_F(BoltLists, LoseTheSelectedEntryAndSelectTheOneBehindIt) {
+TEST_F(BoltLists, DeleteTheSelectedEntryAndSelectTheNextOne) {
   dialog.Open();
   dialog.bolts[EnglishPage].lists[Grade]->ClickItem(1);
 
@@ -168,7 +168,7 @@ TEST_F(BoltLists, LoseTheSelectedEntryAndSelectTheOneBehindIt) {
   EXPECT_EQ(dialog.bolts[EnglishPage].lists[Grade]->ListIndex(), 1);
 }
 
-TEST_F(BoltLists, AreChosenByAClickIntoThem) {
+TEST_F(BoltLists, AreChosenByAClick) {
   dialog.Open();
   dialog.bolts[EnglishPage].lists[Diameter]->ClickItem(0);
   dialog.bolts[EnglishPage].lists[UTS]->ClickItem(5);
@@ -184,7 +184,7 @@ TEST_F(BoltLists, AreChosenByAClickIntoThem) {
   EXPECT_EQ(Entries(EnglishPage, UTS).size(), 5U);
 }
 
-TEST_F(BoltLists, ChooseNothingInTheOtherCatalogs) {
+TEST_F(BoltLists, LeaveTheChoiceInOtherCatalogsUnchanged) {
   dialog.Open();
 
   dialog.bolts[Australian].lists[Diameter]->ClickItem(1);
@@ -194,7 +194,7 @@ TEST_F(BoltLists, ChooseNothingInTheOtherCatalogs) {
   EXPECT_TRUE(dialog.bolts[MetricPage].optBolt.Value(Grade));
 }
 
-TEST_F(BoltLists, SelectTheLastEntryOnceTheOneBehindItIsGone) {
+TEST_F(BoltLists, SelectTheNewLastEntryAfterTheLastOneIsDeleted) {
   dialog.Open();
   dialog.bolts[EnglishPage].lists[Diameter]->ClickItem(4);
 
@@ -217,7 +217,7 @@ TEST_F(BoltLists, CanBeEmptied) {
   EXPECT_THAT(Values(program.session.catalogs.DefaultBoltDiamArrayMETAUS), ElementsAre(840, 440));
 }
 
-TEST_F(BoltLists, KeepADeletedEntryInTheProgramUntilOK) {
+TEST_F(BoltLists, RemoveADeletedEntryOnlyOnOK) {
   dialog.Open();
   dialog.bolts[EnglishPage].lists[UTS]->ClickItem(0);
 
@@ -254,7 +254,7 @@ TEST_F(BoltLists, StoreEachListInItsCatalog) {
   EXPECT_EQ(Written("ORBYBoltParams", "DefaultBoltGradeArrayENG6"), "80");
 }
 
-TEST_F(BoltLists, StoreAustralianValuesUnderEachOthersNames) {
+TEST_F(BoltLists, StoreAustralianStrengthsAndDiametersSwapped) {
   dialog.Open();
   Add(Australian, UTS, "650");
   Add(Australian, Diameter, "24");
@@ -266,7 +266,7 @@ TEST_F(BoltLists, StoreAustralianValuesUnderEachOthersNames) {
   EXPECT_EQ(Written("ORBYBoltParams", "DefaultBoltUTSArrayMETAUS2"), "24");
 }
 
-TEST_F(BoltLists, AreResetAtOnceEvenWhenTheDialogIsCancelled) {
+TEST_F(BoltLists, AreResetAtOnceEvenIfTheDialogIsThenCancelled) {
   program.session.catalogs.DefaultBoltDiamArrayENG.HighestIndex = 1;
   program.session.catalogs.DefaultBoltGradeArrayENG.Set(0, 44);
   dialog.Open();
@@ -294,7 +294,7 @@ TEST_F(BoltLists, AreResetCatalogByCatalog) {
   EXPECT_EQ(program.session.catalogs.DefaultBoltGradeArrayMET[0], 300);
 }
 
-TEST_F(BoltLists, HaveNothingSelectedToDeleteOnceTheyAreReset) {
+TEST_F(BoltLists, HaveNoSelectionAfterAReset) {
   dialog.Open();
   dialog.bolts[EnglishPage].lists[Grade]->ClickItem(2);
   dialog.bolts[EnglishPage].lists[UTS]->ClickItem(0);
@@ -309,7 +309,7 @@ TEST_F(BoltLists, HaveNothingSelectedToDeleteOnceTheyAreReset) {
   EXPECT_THAT(Entries(EnglishPage, UTS), ElementsAre("70", "85", "90", "100", "116", "125"));
 }
 
-TEST_F(BoltLists, KeepTheOptionWhenTheyAreReset) {
+TEST_F(BoltLists, KeepTheChosenListAfterAReset) {
   dialog.Open();
   dialog.bolts[MetricPage].optBolt.SetValue(Diameter, true);
 
@@ -318,12 +318,12 @@ TEST_F(BoltLists, KeepTheOptionWhenTheyAreReset) {
   EXPECT_TRUE(dialog.bolts[MetricPage].optBolt.Value(Diameter));
 }
 
-TEST_F(BoltLists, LetNumbersOnlyIntoTheEntryField) {
+TEST_F(BoltLists, AcceptOnlyNumbersInTheEntryField) {
   EXPECT_EQ(dialog.bolts[EnglishPage].txtItem.KeyPress('x'), 0);
   EXPECT_EQ(dialog.bolts[EnglishPage].txtItem.KeyPress('7'), '7');
 }
 
-TEST_F(BoltLists, BearTheCaptionsOfTheirResetButtons) {
+TEST_F(BoltLists, HaveTheCaptionsOfTheirResetButtons) {
   EXPECT_EQ(dialog.bolts[EnglishPage].cmdSetDefaultBolt.Caption(), "Reset Default (US)");
   EXPECT_EQ(dialog.bolts[MetricPage].cmdSetDefaultBolt.Caption(), "Reset Default (US)");
   EXPECT_EQ(dialog.bolts[Australian].cmdSetDefaultBolt.Caption(), "Reset Default (AUS)");

@@ -1,4 +1,4 @@
-// Texts that are no numbers, or numbers that nothing can hold, in the fields of the options.
+// Texts in the fields of the options that are no numbers, or numbers too large to store.
 #include "dialogs/options_fixture.h"
 
 namespace orby::test {
@@ -17,7 +17,7 @@ struct OptionsNumbers : OptionsFixture {
   };
 };
 
-TEST_F(OptionsNumbers, BringTheMessageOfTheirFieldWhateverIsTyped) {
+TEST_F(OptionsNumbers, ShowTheMessageOfTheirFieldForEveryBadText) {
   using C = OptionsControls;
   const std::vector<Checked> fields{{&C::txtStabilityFactor, "Invalid stability factor"},
                                     {&C::txtActualBoltLength, "Invalid actual bolt length"},
@@ -51,7 +51,7 @@ TEST_F(OptionsNumbers, BringTheMessageOfTheirFieldWhateverIsTyped) {
   EXPECT_THAT(platform.files.files, IsEmpty());
 }
 
-TEST_F(OptionsNumbers, AreNamedWhereOnlyTheirSizeIsWrong) {
+TEST_F(OptionsNumbers, AreCalledTooLargeIfOnlyTheirSizeIsWrong) {
   dialog.Open();
   dialog.txtUnitWeight[EnglishPage].SetText("1E40");
   Accept();
@@ -66,7 +66,7 @@ TEST_F(OptionsNumbers, AreNamedWhereOnlyTheirSizeIsWrong) {
   EXPECT_TRUE(dialog.IsOpen());
 }
 
-TEST_F(OptionsNumbers, JoinNoListOfBoltsWhenTheyAreTooLarge) {
+TEST_F(OptionsNumbers, AreNotAddedToABoltListIfTheyAreTooLarge) {
   dialog.Open();
 
   for (const char* text : {"1E40", "1E999"}) {
@@ -79,7 +79,7 @@ TEST_F(OptionsNumbers, JoinNoListOfBoltsWhenTheyAreTooLarge) {
   EXPECT_THAT(Entries(EnglishPage, bolt_list::Grade), SizeIs(6));
 }
 
-TEST_F(OptionsNumbers, StayInTheCellOfACableThatCannotBeStored) {
+TEST_F(OptionsNumbers, StayInTheCellIfTheCableCannotBeStored) {
   dialog.Open();
   Edit(dialog.VSFlexGridMet, 2, 2, "1E40");
 
@@ -101,7 +101,7 @@ TEST_F(OptionsNumbers, StayInTheCellOfACableThatCannotBeStored) {
   EXPECT_EQ(program.session.catalogs.DefaultCableCapArrayMET[1], 600);
 }
 
-TEST_F(OptionsNumbers, StayInTheCellOfASupportWhoseOtherUnitCannotBeStored) {
+TEST_F(OptionsNumbers, StayInTheCellIfTheSupportsOtherUnitCannotBeStored) {
   dialog.Open();
   Edit(dialog.VSFlexGridStand, 3, 2, "1E38");
 
@@ -114,7 +114,7 @@ TEST_F(OptionsNumbers, StayInTheCellOfASupportWhoseOtherUnitCannotBeStored) {
   EXPECT_EQ(dialog.FocusRequest(), &dialog.txtStand);
 }
 
-TEST_F(OptionsNumbers, MayBeNoNumbersInACell) {
+TEST_F(OptionsNumbers, CountAsZeroInACellIfTheyAreNoNumbers) {
   dialog.Open();
   Edit(dialog.VSFlexGridEng, 1, 2, "-");
   Edit(dialog.VSFlexGridStand, 1, 2, "");

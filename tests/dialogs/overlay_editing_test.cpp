@@ -19,7 +19,7 @@ class CableForm : public Form {
   void OnClose() override {}
 };
 
-// Two cables with their diameters and capacities.
+// Two cables with diameter and capacity.
 struct OverlayEdit : testing::Test {
   OverlayEdit() { editing.Fill({"(in)", "(tons)"}, {{"0.6", "26.4"}, {"0.7", "35.7"}}); }
 
@@ -29,20 +29,20 @@ struct OverlayEdit : testing::Test {
   OverlayEditing editing{form.cables, form.cell, {TextKind::Free, TextKind::Number}};
 };
 
-TEST_F(OverlayEdit, BeginsOverTheFirstCellBehindTheNumber) {
+TEST_F(OverlayEdit, BeginsOverTheFirstCellAfterTheNumber) {
   EXPECT_EQ(form.cables.Overlay(), &form.cell);
   EXPECT_THAT(Selected(), Pair(1, 1));
   EXPECT_EQ(form.cell.Text(), "0.6");
   EXPECT_TRUE(form.cell.Visible());
 }
 
-TEST_F(OverlayEdit, ShowsTheCellThatIsSelected) {
+TEST_F(OverlayEdit, ShowsTheSelectedCell) {
   form.cables.SelectCell(2, 2);
 
   EXPECT_EQ(form.cell.Text(), "35.7");
 }
 
-TEST_F(OverlayEdit, BringsTheTextToItsCellWhenAnotherIsSelected) {
+TEST_F(OverlayEdit, MovesTheTextToItsCellWhenAnotherIsSelected) {
   form.cell.SetText("0.62");
   EXPECT_EQ(form.cables.Cell(1, 1), "0.6");
 
@@ -52,7 +52,7 @@ TEST_F(OverlayEdit, BringsTheTextToItsCellWhenAnotherIsSelected) {
   EXPECT_EQ(form.cables.Cell(2, 1), "0.7");
 }
 
-TEST_F(OverlayEdit, BringsTheTextToItsCellOnAClickOnTheSameCell) {
+TEST_F(OverlayEdit, MovesTheTextToItsCellOnAClickOnTheSameCell) {
   form.cell.SetText("0.62");
 
   form.cables.ClickCell(1, 1);
@@ -61,7 +61,7 @@ TEST_F(OverlayEdit, BringsTheTextToItsCellOnAClickOnTheSameCell) {
   EXPECT_EQ(form.cell.Text(), "0.62");
 }
 
-TEST_F(OverlayEdit, BringsTheTextToItsCellOnDemand) {
+TEST_F(OverlayEdit, MovesTheTextToItsCellOnFlush) {
   form.cables.SelectCell(2, 2);
   form.cell.SetText("36");
 
@@ -70,7 +70,7 @@ TEST_F(OverlayEdit, BringsTheTextToItsCellOnDemand) {
   EXPECT_EQ(form.cables.Cell(2, 2), "36");
 }
 
-TEST_F(OverlayEdit, NeverStandsOverTheNumberOfARow) {
+TEST_F(OverlayEdit, IsNeverOverTheNumberOfARow) {
   form.cables.SelectCell(2, 0);
   form.cell.SetText("9");
 
@@ -79,7 +79,7 @@ TEST_F(OverlayEdit, NeverStandsOverTheNumberOfARow) {
   EXPECT_EQ(form.cables.Cell(2, 0), "2");
 }
 
-TEST_F(OverlayEdit, JudgesKeysByTheColumn) {
+TEST_F(OverlayEdit, AcceptsTheKeysOfTheColumn) {
   EXPECT_EQ(form.cell.KeyPress('x'), 'x');
 
   form.cables.SelectCell(1, 2);
@@ -87,7 +87,7 @@ TEST_F(OverlayEdit, JudgesKeysByTheColumn) {
   EXPECT_EQ(form.cell.KeyPress('x'), 0);
 }
 
-TEST_F(OverlayEdit, GoesToTheRowThatIsAdded) {
+TEST_F(OverlayEdit, MovesToTheAddedRow) {
   form.cell.SetText("0.62");
 
   editing.AddEntry();
@@ -99,7 +99,7 @@ TEST_F(OverlayEdit, GoesToTheRowThatIsAdded) {
   EXPECT_EQ(form.FocusRequest(), &form.cell);
 }
 
-TEST_F(OverlayEdit, ForgetsItsTextWithTheRow) {
+TEST_F(OverlayEdit, DiscardsItsTextWithTheDeletedRow) {
   form.cell.SetText("0.62");
 
   const int removed = editing.RemoveEntry();
@@ -121,7 +121,7 @@ TEST_F(OverlayEdit, IsHiddenOverAGridWithoutRows) {
   EXPECT_EQ(form.cables.Cell(0, 1), "(in)");
 }
 
-TEST_F(OverlayEdit, ComesBackWithTheFirstRow) {
+TEST_F(OverlayEdit, ReappearsWithTheFirstRow) {
   editing.RemoveEntry();
   editing.RemoveEntry();
 
@@ -133,7 +133,7 @@ TEST_F(OverlayEdit, ComesBackWithTheFirstRow) {
   EXPECT_EQ(editing.Text(0, 0), "0.9");
 }
 
-TEST_F(OverlayEdit, ForgetsItsTextWhenTheGridIsFilledAnew) {
+TEST_F(OverlayEdit, DiscardsItsTextWhenTheGridIsRefilled) {
   form.cell.SetText("0.62");
 
   editing.Fill({"(in)", "(tons)"}, {{"0.8", "50"}});

@@ -11,8 +11,8 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 struct ParameterChecks : AParametersDialog {
-  // A dialog over a valid design with every analysis and every system in use. Refreshes are held back: some faults
-  // cannot be computed.
+  // Opens a dialog on a valid design with every analysis and every system in use. The refreshes are suspended, because
+  // some faults make them fail.
   std::unique_ptr<ParametersDialog> ValidDesign(UnitSystem units) {
     StartDesign(units);
     platform.boxes.shown.clear();
@@ -23,7 +23,7 @@ struct ParameterChecks : AParametersDialog {
     return opened;
   }
 
-  // The messages about a valid design after these edits.
+  // Returns the messages about a valid design after these edits.
   std::vector<std::string> Faults(UnitSystem units, std::string_view edits) {
     const auto opened = ValidDesign(units);
     Edit(*opened, edits);
@@ -37,21 +37,21 @@ std::vector<UnitSystem> UnitsOf(const Fault& fault) {
   return fault.units == Both ? std::vector{English, Metric} : std::vector{fault.units};
 }
 
-TEST_F(ParameterChecks, PassADesignThatIsInOrder) {
+TEST_F(ParameterChecks, AcceptAValidDesign) {
   EXPECT_THAT(Faults(English, ""), IsEmpty());
   EXPECT_THAT(Faults(Metric, ""), IsEmpty());
 }
 
 // ---- each fault by itself -------------------------------------------------------------------------------------------
 
-// Where a tab set stands before a fault that is to turn it to this tab, or to leave it.
+// Returns the tab that a tab set shows before a fault switches it to another tab, or leaves it.
 int TabBefore(int expected) { return expected == Stays ? 1 : (expected + 1) % 4; }
 
 void ExpectTab(const TabSet& tabs, int expected, const std::string& edits) {
   EXPECT_EQ(tabs.Tab(), expected == Stays ? TabBefore(Stays) : expected) << tabs.Name() << ' ' << edits;
 }
 
-TEST_F(ParameterChecks, TellEachFaultOnceAndGoToItsField) {
+TEST_F(ParameterChecks, ReportEachFaultOnceAndGoToItsField) {
   int told = 0;
   for (const FaultSection& section : AllFaults()) {
     for (const Fault& fault : section.faults) {
@@ -88,7 +88,7 @@ TEST_F(ParameterChecks, ShowEachFaultAsARangeErrorOfTheParameters) {
   }
 }
 
-TEST_F(ParameterChecks, LogEachFault) {
+TEST_F(ParameterChecks, RecordEachFaultInTheHistory) {
   Faults(English, "txtCMRR=0");
 
   EXPECT_EQ(program.session.history.Text,
@@ -117,7 +117,7 @@ bool CanBothBe(const Fault& first, const Fault& second) {
   return true;
 }
 
-TEST_F(ParameterChecks, TellOnlyTheFirstFaultOfASection) {
+TEST_F(ParameterChecks, ReportOnlyTheFirstFaultOfASection) {
   int pairs = 0;
   for (const FaultSection& section : AllFaults()) {
     for (std::size_t i = 0; i + 1 < section.faults.size(); ++i) {
@@ -133,7 +133,7 @@ TEST_F(ParameterChecks, TellOnlyTheFirstFaultOfASection) {
   EXPECT_GE(pairs, 30);
 }
 
-TEST_F(ParameterChecks, TellOneFaultOfEverySectionInTheirOrder) {
+TEST_F(ParameterChecks, ReportOneFaultOfEverySectionInOrder) {
   std::string edits;
   std::vector<std::string> messages;
   for (const FaultSection& section : AllFaults()) {
@@ -145,7 +145,7 @@ TEST_F(ParameterChecks, TellOneFaultOfEverySectionInTheirOrder) {
   EXPECT_EQ(messages.size(), 12U);
 }
 
-TEST_F(ParameterChecks, LeaveTheLastFaultOnView) {
+TEST_F(ParameterChecks, LeaveTheLastFaultVisible) {
   const auto opened = ValidDesign(English);
   Edit(*opened, "txtCMRR=100|txtTrussSpacingSecEntry=0");
 
@@ -158,7 +158,7 @@ TEST_F(ParameterChecks, LeaveTheLastFaultOnView) {
 }
 
 struct DisabledTab {
-  std::string edits;  // that disable the tab and make the fault
+  std::string edits;  // disable the tab and cause the fault
   std::string message;
   int outer;
   TabSet ParametersControls::*tabs;
@@ -166,7 +166,7 @@ struct DisabledTab {
   std::string focus;
 };
 
-TEST_F(ParameterChecks, TurnEvenToATabThatIsDisabled) {
+TEST_F(ParameterChecks, SwitchEvenToADisabledTab) {
   const std::string noSupport = "optSupportTypeSecEntry=0|cmbSupportTypeSecEntry=Stone pack";
   const std::vector<DisabledTab> cases{
       {"chkSecInter_3=0|" + noSupport, "Invalid standing support specification", 2, &ParametersDialog::SSTab3, 3,
@@ -193,7 +193,7 @@ TEST_F(ParameterChecks, TurnEvenToATabThatIsDisabled) {
   }
 }
 
-// Notes what is on view when a box comes up.
+// Records what is shown when a box opens.
 struct WatchingBoxes : MessageBoxes {
   BoxResult Show(const MessageBox&) override {
     tabs.push_back(watched->SSTab1.Tab());
@@ -206,7 +206,7 @@ struct WatchingBoxes : MessageBoxes {
   bool focused = false;
 };
 
-TEST_F(ParameterChecks, TellTheFaultBeforeTheyGoToIt) {
+TEST_F(ParameterChecks, ReportTheFaultBeforeGoingToIt) {
   WatchingBoxes boxes;
   Program watched{platform.DoorsWith(boxes)};
   SetBuiltInCatalogs(watched.session.catalogs);
@@ -225,7 +225,7 @@ TEST_F(ParameterChecks, TellTheFaultBeforeTheyGoToIt) {
 
 // ---- what passes ----------------------------------------------------------------------------------------------------
 
-TEST_F(ParameterChecks, PassOverASectionThatIsSwitchedOff) {
+TEST_F(ParameterChecks, SkipASectionThatIsSwitchedOff) {
   int passedOver = 0;
   for (const FaultSection& section : AllFaults()) {
     for (const std::string& off : section.off) {
@@ -239,7 +239,7 @@ TEST_F(ParameterChecks, PassOverASectionThatIsSwitchedOff) {
   EXPECT_EQ(passedOver, 123);
 }
 
-TEST_F(ParameterChecks, PassWhatIsJustAtTheLimitInEnglishUnits) {
+TEST_F(ParameterChecks, AcceptTheLimitsInEnglishUnits) {
   for (const std::string_view limit : {"txtCMRR=99",
                                        "txtCMRR=0.1",
                                        "txtUnitWeight=100",
@@ -273,7 +273,7 @@ TEST_F(ParameterChecks, PassWhatIsJustAtTheLimitInEnglishUnits) {
   }
 }
 
-TEST_F(ParameterChecks, PassWhatIsJustAtTheLimitInMetricUnits) {
+TEST_F(ParameterChecks, AcceptTheLimitsInMetricUnits) {
   for (const std::string_view limit :
        {"txtUnitWeight=15", "txtUnitWeight=30", "txtActualSpanDiagonals=13", "txtActualSpanDiagonals=27",
         "txtEntryWidth=3.31", "txtEntryWidth=14.14", "txtBoltLengthPrimary=3.3", "txtBoltLengthSecEntry=3.3",
@@ -284,13 +284,13 @@ TEST_F(ParameterChecks, PassWhatIsJustAtTheLimitInMetricUnits) {
   }
 }
 
-TEST_F(ParameterChecks, AskForASpanOfFortyThatAlsoFitsTheWidth) {
+TEST_F(ParameterChecks, RequireASpanThatFitsTheEntryWidth) {
   EXPECT_THAT(Faults(English, "txtActualSpanDiagonals=40|txtEntryWidth=28.28"), IsEmpty());
   EXPECT_THAT(Faults(English, "txtActualSpanDiagonals=40|txtEntryWidth=28.29"),
               ElementsAre("Invalid sum of diagonals at intersection. Should be greater than 1.4 x Entry Width"));
 }
 
-TEST_F(ParameterChecks, AskForNoChoiceFromAListThatIsNotInUse) {
+TEST_F(ParameterChecks, RequireNoChoiceFromAnUnusedList) {
   for (const std::string_view unused :
        {"cmbBoltDiameterPrimary=0.9|cmbBoltGradePrimary=77", "cmbBoltDiameterSecEntry=0.9|cmbBoltGradeSecEntry=77",
         "cmbBoltDiameterSecInter=0.9|cmbBoltGradeSecInter=77",
@@ -310,7 +310,7 @@ TEST_F(ParameterChecks, AskForNoChoiceFromAListThatIsNotInUse) {
   }
 }
 
-TEST_F(ParameterChecks, AskForNoTypedBoltThatIsNotInUse) {
+TEST_F(ParameterChecks, RequireNoTypedBoltThatIsNotInUse) {
   EXPECT_THAT(Faults(English, "txtBoltDiameterPrimary=9|txtBoltDiameterSecEntry=9|txtBoltDiameterSecInter=9"),
               IsEmpty());
   EXPECT_THAT(Faults(English,
@@ -321,18 +321,18 @@ TEST_F(ParameterChecks, AskForNoTypedBoltThatIsNotInUse) {
               IsEmpty());
 }
 
-TEST_F(ParameterChecks, FindTheStockMetricBoltOutsideTheListOnceItIsInUse) {
+TEST_F(ParameterChecks, RefuseTheDefaultMetricBoltIfItIsInUse) {
   EXPECT_THAT(Faults(Metric, "optBoltOptionsPrimary=1"),
               ElementsAre("Roof bolt diameter NOT selected from available options"));
 }
 
-TEST_F(ParameterChecks, FindTheStockEnglishCableOutsideTheListOnceItIsInUse) {
+TEST_F(ParameterChecks, RefuseTheDefaultEnglishCableIfItIsInUse) {
   EXPECT_THAT(Faults(English, "optCableCapModeSecEntry=1|optCableCapModeSecInter=1"),
               ElementsAre("Cable Capacity not Selected from Available Options",
                           "Cable Capacity not Selected from Available Options"));
 }
 
-TEST_F(ParameterChecks, LeaveEveryFieldAsTyped) {
+TEST_F(ParameterChecks, LeaveEveryFieldUnchanged) {
   const auto opened = ValidDesign(English);
   Edit(*opened, "txtCMRR=12x|txtStabilityFactor=|cmbCableDiamSecEntry=wide");
 
@@ -344,7 +344,7 @@ TEST_F(ParameterChecks, LeaveEveryFieldAsTyped) {
   EXPECT_TRUE(opened->IsOpen());
 }
 
-TEST_F(ParameterChecks, CountASupportTypeThatShowsNothingAsNotChosen) {
+TEST_F(ParameterChecks, TreatAnEmptySupportTypeAsNotChosen) {
   EXPECT_THAT(Faults(English, "optSupportTypeSecInter=1|optSupportTypeSecInter=0"),
               ElementsAre("Invalid standing support specification"));
   EXPECT_THAT(Faults(English, "optSupportTypeSecEntry=1|optSupportTypeSecEntry=0"), IsEmpty())

@@ -13,8 +13,8 @@ using ParameterControls = AParametersDialog;
 struct ControlCase {
   std::string name;
   std::string kind;
-  std::string caption;  // members of an option array and tabs of a tab set are parted by "|"
-  std::string unit;     // of the caption; of the members, parted by "|"
+  std::string caption;  // members of an option array and tabs of a tab set are separated by "|"
+  std::string unit;     // of the caption; those of members are separated by "|"
 };
 
 const std::map<std::string, std::array<std::string, 2>> UnitSuffixes{
@@ -143,7 +143,7 @@ const std::vector<ControlCase> IntersectionControls{
     {"txtSupportNumberSecInter", "text", "", ""},
 };
 
-// The tables of bolts, each under its own name: * stands for Primary, SecEntry or SecInter.
+// The bolt tables, each with its own names: * stands for Primary, SecEntry or SecInter.
 const std::vector<ControlCase> BoltSetControls{
     {"optBoltOptions*", "option array", "Select from Standard Table|Manual Selection", "|"},
     {"fraBoltOptions*1", "frame", "Roof Bolt Standard Table Selection", ""},
@@ -265,7 +265,7 @@ std::vector<std::string> CaptionsOf(const Control* control) {
   return captions;
 }
 
-TEST_F(ParameterControls, AreTheseAndEachIsThereOnce) {
+TEST_F(ParameterControls, AreAllThereExactlyOnce) {
   std::vector<std::string> expected;
   for (const ControlCase& row : AllControls()) expected.push_back(row.name);
   std::vector<std::string> names;
@@ -278,7 +278,7 @@ TEST_F(ParameterControls, AreTheseAndEachIsThereOnce) {
   EXPECT_THAT(names, ElementsAreArray(expected));
 }
 
-TEST_F(ParameterControls, AreFoundByNameAsTheirKindUnderTheirCaptionAndUnit) {
+TEST_F(ParameterControls, HaveTheirTypeCaptionAndUnit) {
   for (const UnitSystem units : {English, Metric}) {
     StartDesign(units);
     ParametersDialog other(program);
@@ -292,7 +292,7 @@ TEST_F(ParameterControls, AreFoundByNameAsTheirKindUnderTheirCaptionAndUnit) {
   }
 }
 
-TEST_F(ParameterControls, CallTheGradeUltimateWhenStrengthsAre) {
+TEST_F(ParameterControls, CallTheGradeUltimateIfStrengthsAreUltimate) {
   const std::array<std::string, 2> captions{"Roof Bolt Ultimate Grade (ksi)", "Roof Bolt Ultimate Grade (MPa)"};
   for (const UnitSystem units : {English, Metric}) {
     StartDesign(units, StrengthBasis::Ultimate);
@@ -305,7 +305,7 @@ TEST_F(ParameterControls, CallTheGradeUltimateWhenStrengthsAre) {
   }
 }
 
-TEST_F(ParameterControls, HideTheEstimatorsNotesAndShowDashesUntilResultsAreKnown) {
+TEST_F(ParameterControls, HideTheEstimatorsNotesAndShowDashesBeforeTheFirstResults) {
   EXPECT_FALSE(dialog.txtRegion.Visible());
   EXPECT_FALSE(dialog.txtOption.Visible());
   EXPECT_FALSE(dialog.txtMessage.Visible());

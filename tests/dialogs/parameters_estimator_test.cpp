@@ -6,7 +6,7 @@ namespace {
 
 using testing::IsEmpty;
 
-// The parameters dialog, and a user at the estimator that it opens.
+// The parameters dialog and a user at its estimator.
 struct RatingEstimate : AParametersDialog {
   RatingEstimate() {
     program.project.WorkParms.Place.CMRRRegionIndex = 1;
@@ -14,7 +14,7 @@ struct RatingEstimate : AParametersDialog {
     dialog.Open();
   }
 
-  // Opens the estimator, chooses there and ends it by the button; Cancel and the window's close are the others.
+  // Opens the estimator, chooses a row and presses the button. A null button stands for closing the window.
   void Choose(int region, int row, Button EstimatorDialog::*button) {
     platform.windows.onModal = [=](Form& form) {
       auto& estimator = dynamic_cast<EstimatorDialog&>(form);
@@ -59,7 +59,7 @@ TEST_F(RatingEstimate, BecomesTheRatingAndRefreshesTheSuggestions) {
   EXPECT_FALSE(dialog.txtCMRR.Enabled());
 }
 
-TEST_F(RatingEstimate, OfTheManualRowOpensTheRatingForTyping) {
+TEST_F(RatingEstimate, OfTheManualRowEnablesTyping) {
   Choose(3, 7, Ok);
 
   EXPECT_TRUE(dialog.chkCMRRManual.Checked());
@@ -70,7 +70,7 @@ TEST_F(RatingEstimate, OfTheManualRowOpensTheRatingForTyping) {
   EXPECT_EQ(dialog.txtOption.Text(), "7");
 }
 
-TEST_F(RatingEstimate, IsNoneWhenTheEstimatorIsCancelledOrClosed) {
+TEST_F(RatingEstimate, IsDiscardedIfTheEstimatorIsCancelledOrClosed) {
   for (const auto button : {Cancel, WindowsClose}) {
     for (const int row : {5, 7}) {
       Choose(2, row, button);
@@ -86,7 +86,7 @@ TEST_F(RatingEstimate, IsNoneWhenTheEstimatorIsCancelledOrClosed) {
   }
 }
 
-TEST_F(RatingEstimate, OfNothingIsNotTaken) {
+TEST_F(RatingEstimate, IsNotTakenIfTheEstimatorShowsNone) {
   platform.windows.onModal = [](Form& form) {
     auto& estimator = dynamic_cast<EstimatorDialog&>(form);
     estimator.VSFlexGrid1.ClickRow(5);
@@ -101,7 +101,7 @@ TEST_F(RatingEstimate, OfNothingIsNotTaken) {
   EXPECT_EQ(dialog.txtOption.Text(), "");
 }
 
-TEST_F(RatingEstimate, IsSavedWithItsOriginOnOk) {
+TEST_F(RatingEstimate, IsStoredWithItsSourceOnOk) {
   Choose(2, 5, Ok);
 
   dialog.Command2.Press();
@@ -112,7 +112,7 @@ TEST_F(RatingEstimate, IsSavedWithItsOriginOnOk) {
   EXPECT_EQ(program.project.WorkParms.Place.CMRRManual, 0);
 }
 
-TEST_F(RatingEstimate, IsNotPartOfTheDesignWhenTheParametersAreCancelled) {
+TEST_F(RatingEstimate, IsNotStoredIfTheParametersAreCancelled) {
   Choose(2, 5, Ok);
 
   dialog.Command1.Press();
@@ -122,7 +122,7 @@ TEST_F(RatingEstimate, IsNotPartOfTheDesignWhenTheParametersAreCancelled) {
   EXPECT_EQ(program.project.WorkParms.Place.CMRRRockTypeIndex, 2);
 }
 
-TEST_F(RatingEstimate, IsNotAskedForWhileTheRatingIsSetByHand) {
+TEST_F(RatingEstimate, IsNotOfferedWhileTheRatingIsManual) {
   Do("chkCMRRManual=1");
 
   dialog.cmdCMRR.Press();
@@ -130,7 +130,7 @@ TEST_F(RatingEstimate, IsNotAskedForWhileTheRatingIsSetByHand) {
   EXPECT_EQ(platform.windows.modalForms, 0);
 }
 
-TEST_F(RatingEstimate, LeavesItsTitlesToTheChecksThatFollow) {
+TEST_F(RatingEstimate, LeavesItsMessageTitlesToTheChecksThatFollow) {
   Choose(2, 5, Cancel);
   ASSERT_THAT(platform.boxes.shown, IsEmpty());
   Do("txtDepthofCover=-1");

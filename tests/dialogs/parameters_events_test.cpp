@@ -5,7 +5,7 @@
 namespace orby::test {
 namespace {
 
-// An opened dialog with every support system in use.
+// An open dialog with every support system in use.
 struct ParameterEvents : AParametersDialog {
   ParameterEvents() {
     dialog.Open();
@@ -35,7 +35,7 @@ TEST_F(ParameterEvents, ARatingComesFromTheEstimatorUntilItIsSetByHand) {
   EXPECT_TRUE(dialog.cmdCMRR.Enabled());
 }
 
-TEST_F(ParameterEvents, ARatingSetByHandOpensForTyping) {
+TEST_F(ParameterEvents, ARatingSetByHandCanBeTyped) {
   program.project.WorkParms.Place.CMRRManual = 1;
   ParametersDialog other(program);
 
@@ -93,7 +93,7 @@ TEST_F(ParameterEvents, ABoltTableShowsOnItsOwnTabAndTheManualSelectionWhenChose
   }
 }
 
-TEST_F(ParameterEvents, ABoltTableComesAndGoesWithItsTab) {
+TEST_F(ParameterEvents, ABoltTableIsVisibleOnlyOnItsTab) {
   for (BoltControls* bolt : Bolts()) {
     EXPECT_FALSE(bolt->TableFrame.Visible()) << bolt->Options.Name();
     bolt->Tabs.ClickTab(bolt->Tab);
@@ -127,7 +127,7 @@ TEST_F(ParameterEvents, ABoltsDiameterAndGradeAreChosenFromAListOrTyped) {
   }
 }
 
-TEST_F(ParameterEvents, AStoredManualBoltOpensWithItsFieldsShown) {
+TEST_F(ParameterEvents, AStoredManualBoltOpensWithVisibleFields) {
   program.project.WorkParms.Intersections.Bolt.Options = program.project.WorkParms.Intersections.Bolt.DiameterMode = 1;
   ParametersDialog other(program);
 
@@ -190,7 +190,7 @@ TEST_F(ParameterEvents, AMetricCableOpensByItsCapacity) {
 
 // ---- standing supports ----------------------------------------------------------------------------------------------
 
-TEST_F(ParameterEvents, AStandingSupportIsPickedOrTyped) {
+TEST_F(ParameterEvents, AStandingSupportIsChosenOrTyped) {
   for (StandingControls* standing : {&dialog.EntryStandingControls, &dialog.InterStandingControls}) {
     for (const int mode : {1, 0}) {
       standing->TypeMode.SetValue(mode, true);
@@ -202,7 +202,7 @@ TEST_F(ParameterEvents, AStandingSupportIsPickedOrTyped) {
   }
 }
 
-TEST_F(ParameterEvents, TypingASupportBlanksTheListButKeepsItsSelection) {
+TEST_F(ParameterEvents, TypingASupportClearsTheListsTextButKeepsItsSelection) {
   for (StandingControls* standing : {&dialog.EntryStandingControls, &dialog.InterStandingControls}) {
     standing->TypeStd.SetListIndex(8);
 
@@ -213,7 +213,7 @@ TEST_F(ParameterEvents, TypingASupportBlanksTheListButKeepsItsSelection) {
   }
 }
 
-TEST_F(ParameterEvents, PickingAgainBringsTheNameBackInEntriesOnly) {
+TEST_F(ParameterEvents, ChoosingFromTheListAgainRestoresTheNameOnlyInEntries) {
   for (StandingControls* standing : {&dialog.EntryStandingControls, &dialog.InterStandingControls}) {
     standing->TypeStd.SetListIndex(8);
     standing->TypeMode.SetValue(1, true);
@@ -225,7 +225,7 @@ TEST_F(ParameterEvents, PickingAgainBringsTheNameBackInEntriesOnly) {
   EXPECT_EQ(dialog.InterStandingControls.TypeStd.ListIndex(), 8);
 }
 
-TEST_F(ParameterEvents, PickingAgainBringsNothingBackWhenNothingWasSelected) {
+TEST_F(ParameterEvents, ChoosingFromTheListAgainRestoresNothingWithoutASelection) {
   Do("cmbSupportTypeSecEntry=Stone pack");
   Do("optSupportTypeSecEntry=1");
 
@@ -235,7 +235,7 @@ TEST_F(ParameterEvents, PickingAgainBringsNothingBackWhenNothingWasSelected) {
   EXPECT_FALSE(dialog.EntryStandingControls.TypeStd.HasSelection());
 }
 
-TEST_F(ParameterEvents, APickedSupportBringsItsCapacity) {
+TEST_F(ParameterEvents, AChosenSupportSetsItsCapacity) {
   for (StandingControls* standing : {&dialog.EntryStandingControls, &dialog.InterStandingControls}) {
     standing->TypeStd.SetListIndex(6);
     EXPECT_EQ(standing->Capacity.Text(), "132") << standing->TypeStd.Name();
@@ -246,7 +246,7 @@ TEST_F(ParameterEvents, APickedSupportBringsItsCapacity) {
   }
 }
 
-TEST_F(ParameterEvents, BlankingAPickedSupportBringsItsCapacityOnceMore) {
+TEST_F(ParameterEvents, ClearingTheNameOfAChosenSupportSetsItsCapacityAgain) {
   for (StandingControls* standing : {&dialog.EntryStandingControls, &dialog.InterStandingControls}) {
     ASSERT_EQ(standing->Capacity.Text(), "50") << standing->TypeStd.Name();
 
@@ -256,7 +256,7 @@ TEST_F(ParameterEvents, BlankingAPickedSupportBringsItsCapacityOnceMore) {
   }
 }
 
-TEST_F(ParameterEvents, AnEmptySupportListLeavesTheNameAndTheCapacityAlone) {
+TEST_F(ParameterEvents, AnEmptySupportListKeepsTheNameAndTheCapacity) {
   program.session.catalogs.StandSupports.HighestIndex = -1;
   ParametersDialog other(program);
   other.Open();
@@ -270,7 +270,7 @@ TEST_F(ParameterEvents, AnEmptySupportListLeavesTheNameAndTheCapacityAlone) {
 
 // ---- holding back ---------------------------------------------------------------------------------------------------
 
-TEST_F(ParameterEvents, HeldBackEventsStillEnableShowAndFill) {
+TEST_F(ParameterEvents, SuspendedEventsStillEnableShowAndFill) {
   const std::vector<std::string> before = TextsOf(dialog.EntryOutputs.StabFactor);
   dialog.HoldEvents = true;
 
@@ -288,7 +288,7 @@ TEST_F(ParameterEvents, HeldBackEventsStillEnableShowAndFill) {
   EXPECT_EQ(TextsOf(dialog.EntryOutputs.StabFactor), before);
 }
 
-TEST_F(ParameterEvents, TheTabsOfUnusedAnalysesDoNotAnswerTheUser) {
+TEST_F(ParameterEvents, TheTabsOfUnusedAnalysesCannotBeOpened) {
   Do("chkSecondSupEntries=0");
 
   dialog.SSTab1.ClickTab(2);

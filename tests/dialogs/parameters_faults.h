@@ -1,4 +1,4 @@
-// Every fault that the checks of the parameters dialog can find, by section, with what makes it and what it tells.
+// Every fault that the checks of the parameters dialog can find, by section: its cause and its message.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@
 
 namespace orby::test {
 
-inline constexpr int Stays = -1;  // a tab set that the fault does not turn
+inline constexpr int Stays = -1;  // a tab set that the fault does not switch
 inline constexpr auto Both = UnitSystem{-1};
 
 struct TabsOnView {
@@ -19,14 +19,14 @@ struct TabsOnView {
 
 struct Fault {
   UnitSystem units = Both;
-  std::string edits;  // that make it in a valid design with every system in use
+  std::string edits;  // cause the fault in a valid design with every system in use
   std::string message;
   std::string focus;
-  TabsOnView tabs = {};  // when they are not those of the section
+  TabsOnView tabs = {};  // if they differ from those of the section
 };
 
 struct FaultSection {
-  std::vector<std::string> off;  // edits of which each switches the section off
+  std::vector<std::string> off;  // each of these edits switches the section off
   TabsOnView tabs;
   std::vector<Fault> faults;
 };
@@ -209,7 +209,7 @@ inline const std::vector<FaultSection> IntersectionFaults{
        "txtSupportNumberSecInter"}}},
 };
 
-// All twelve sections, in the order in which they are checked.
+// All twelve sections, in the order of the checks.
 inline std::vector<FaultSection> AllFaults() {
   std::vector<FaultSection> all;
   for (const auto* sections : {&GeneralAndPrimaryFaults, &EntryFaults, &IntersectionFaults}) {

@@ -1,4 +1,4 @@
-// A parameters dialog over a new design, and a short way to do what a user does to its controls.
+// A parameters dialog on a new design, and short commands for the user's actions.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -17,7 +17,7 @@
 
 namespace orby::test {
 
-// Puts a value into the named control: the text of a text box or a combo, the member of an option array, 0 or 1 of a
+// Sets the value of the named control: the text of a text box or a combo, the member of an option array, 0 or 1 of a
 // check box, the row of a grid.
 inline void SetControl(Form& form, std::string_view name, const std::string& value) {
   Control* control = form.Find(name);
@@ -30,7 +30,7 @@ inline void SetControl(Form& form, std::string_view name, const std::string& val
   throw std::logic_error("no such input: " + std::string(name));
 }
 
-// Several of them, one after the other: "txtCMRR=45|chkPrimSupport=1".
+// Sets several values in turn, such as "txtCMRR=45|chkPrimSupport=1".
 inline void Edit(Form& form, std::string_view edits) {
   while (!edits.empty()) {
     const std::string_view one = edits.substr(0, edits.find('|'));
@@ -62,19 +62,19 @@ inline std::vector<std::string> TextsOf(const OutputControls::Boxes& boxes) {
   return texts;
 }
 
-// The boxes of all support systems, so that every system is computed.
+// Selects all support systems, so that every one is computed.
 inline constexpr std::string_view AllSystems =
     "chkSecEntries_0=1|chkSecEntries_1=1|chkSecEntries_2=1|chkSecEntries_3=1|"
     "chkSecInter_0=1|chkSecInter_1=1|chkSecInter_2=1|chkSecInter_3=1";
 
-// A new English design with the built-in catalogs; not opened yet.
+// A new English design with the built-in catalogs. The dialog is not open yet.
 struct AParametersDialog : testing::Test {
   AParametersDialog() {
     SetBuiltInCatalogs(program.session.catalogs);
     StartDesign(English);
   }
 
-  // A new design; ultimate: grades are ultimate strengths.
+  // Begins a new design with these units and this basis of the strengths.
   void StartDesign(UnitSystem units, StrengthBasis ultimate = StrengthBasis::Yield) {
     program.session.settings.UnitsDefault = units;
     program.session.options.BoltGradeAsUltimateDefault = ultimate;
@@ -83,7 +83,7 @@ struct AParametersDialog : testing::Test {
   }
 
   void Do(std::string_view edits) { Edit(dialog, edits); }
-  // Edits that no refresh follows.
+  // Makes edits without any refresh.
   void DoQuietly(std::string_view edits) {
     dialog.HoldEvents = true;
     Edit(dialog, edits);

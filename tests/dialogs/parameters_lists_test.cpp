@@ -26,7 +26,7 @@ using Rows = std::vector<std::vector<std::string>>;
 
 // ---- bolt tables ----------------------------------------------------------------------------------------------------
 
-TEST_F(ParameterLists, TheThreeBoltTablesAreLaidOutAlike) {
+TEST_F(ParameterLists, TheThreeBoltTablesHaveTheSameLayout) {
   dialog.Open();
 
   for (const Grid* grid :
@@ -54,7 +54,7 @@ TEST_F(ParameterLists, AnEnglishDesignOffersBoltsInInchesAndKsi) {
   EXPECT_EQ(BoltRows(dialog.InterBoltControls.Table), bolts);
 }
 
-TEST_F(ParameterLists, AMetricDesignOffersThemInMillimetresAndMPa) {
+TEST_F(ParameterLists, AMetricDesignOffersBoltsInMillimetresAndMPa) {
   const Rows bolts{
       {"1", "#5 smooth - grade 55", "15.9", "379.2"}, {"2", "#5 rebar - grade 60", "15.9", "413.7"},
       {"3", "#5 rebar - grade 75", "15.9", "517.1"},  {"4", "#6 special rebar - grade 75", "17.2", "517.1"},
@@ -70,7 +70,7 @@ TEST_F(ParameterLists, AMetricDesignOffersThemInMillimetresAndMPa) {
   EXPECT_EQ(BoltRows(dialog.InterBoltControls.Table), bolts);
 }
 
-TEST_F(ParameterLists, TheAustralianTableOffersItsTwoBoltsToAMetricDesign) {
+TEST_F(ParameterLists, AMetricDesignWithTheAustralianTableOffersItsTwoBolts) {
   const Rows bolts{{"1", "Bolt 1", "21.7", "840"}, {"2", "Bolt 2", "21.7", "440"}};
   StartDesign(Metric);
   program.project.UseAUSStandardTable = 1;
@@ -84,7 +84,7 @@ TEST_F(ParameterLists, TheAustralianTableOffersItsTwoBoltsToAMetricDesign) {
   EXPECT_THAT(ItemTexts(dialog.PrimaryBoltControls.GradeStd), ElementsAre("280", "390", "420", "520", "620", "690"));
 }
 
-TEST_F(ParameterLists, TheMetricTableIsBackAfterTheAustralianOne) {
+TEST_F(ParameterLists, TheMetricTableReturnsAfterTheAustralianOne) {
   StartDesign(Metric);
   program.project.UseAUSStandardTable = 1;
   dialog.Open();
@@ -119,7 +119,7 @@ TEST_F(ParameterFields, TheStoredTableRowIsSelected) {
   EXPECT_EQ(dialog.InterBoltControls.Table.Row(), 4);
 }
 
-TEST_F(ParameterFields, AStoredRowOutsideTheTableOpensOnTheFirst) {
+TEST_F(ParameterFields, AStoredRowOutsideTheTableOpensOnTheFirstRow) {
   for (const Integer row : {Integer{10}, Integer{-1}, Integer{-2}, Integer{32767}, Integer{-32768}}) {
     program.project.WorkParms.Primary.TableRow = row;
     program.project.WorkParms.Entries.Bolt.TableRow = row;
@@ -134,7 +134,7 @@ TEST_F(ParameterFields, AStoredRowOutsideTheTableOpensOnTheFirst) {
   }
 }
 
-TEST_F(ParameterFields, AStoredRowOfTheLongTableOpensOnTheFirstOfTheAustralianOne) {
+TEST_F(ParameterFields, AStoredRowThatTheAustralianTableLacksOpensOnTheFirstRow) {
   StartDesign(Metric);
   program.project.UseAUSStandardTable = 1;
   for (const auto& [stored, row] : {std::pair{1, 2}, {2, 1}, {3, 1}, {4, 1}, {5, 1}, {6, 1}, {7, 1}, {8, 1}, {9, 1}}) {
@@ -223,7 +223,7 @@ TEST_F(ParameterLists, OfferOnlyTheEntriesInUse) {
   EXPECT_EQ(dialog.EntryCableControls.Diam.Text(), "0.6");
 }
 
-TEST_F(ParameterFields, ANewDesignSelectsWhatTheListsHave) {
+TEST_F(ParameterFields, ANewDesignSelectsTheEntriesOfTheLists) {
   dialog.Open();
 
   for (const BoltControls* bolt : {&dialog.PrimaryBoltControls, &dialog.EntryBoltControls, &dialog.InterBoltControls}) {
@@ -271,7 +271,7 @@ std::vector<double> ItemCapacities(const Combo& combo) {
   return capacities;
 }
 
-TEST_F(ParameterLists, StandingSupportsCarryTheirCapacityInTons) {
+TEST_F(ParameterLists, StandingSupportsHaveTheirCapacityInTons) {
   dialog.Open();
 
   for (const Combo* combo : {&dialog.EntryStandingControls.TypeStd, &dialog.InterStandingControls.TypeStd}) {
@@ -289,7 +289,7 @@ TEST_F(ParameterLists, StandingSupportsCarryTheirCapacityInTons) {
   }
 }
 
-TEST_F(ParameterLists, StandingSupportsCarryTheirCapacityInKilonewtons) {
+TEST_F(ParameterLists, StandingSupportsHaveTheirCapacityInKilonewtons) {
   StartDesign(Metric);
 
   dialog.Open();
@@ -322,7 +322,7 @@ TEST_F(ParameterLists, AStandingSupportOfAnyCapacityCanBeChosen) {
   EXPECT_EQ(dialog.EntryStandingControls.Capacity.Text(), "3000000000");
 }
 
-TEST_F(ParameterLists, OfTwoStandingSupportsWithOneNameEachHasItsOwnCapacity) {
+TEST_F(ParameterLists, TwoStandingSupportsWithOneNameHaveTheirOwnCapacities) {
   program.session.catalogs.StandSupports.DefaultStandSupportType[3] = "Steel Prop";
   program.session.catalogs.StandSupports.DefaultStandSupportType[4] = "Steel Prop";
   program.session.catalogs.StandSupports.DefaultStandSupportCap[3] = {60, 534};
@@ -331,7 +331,7 @@ TEST_F(ParameterLists, OfTwoStandingSupportsWithOneNameEachHasItsOwnCapacity) {
 
   dialog.EntryStandingControls.TypeStd.SetListIndex(4);
   EXPECT_EQ(dialog.EntryStandingControls.Capacity.Text(), "85");
-  dialog.EntryStandingControls.TypeStd.SetText("Steel Prop");  // a key pressed and taken back
+  dialog.EntryStandingControls.TypeStd.SetText("Steel Prop");  // the user pressed a key and restored the text
   EXPECT_EQ(dialog.EntryStandingControls.Capacity.Text(), "85");
   Do("optSupportTypeSecEntry=1|optSupportTypeSecEntry=0");
   EXPECT_EQ(dialog.EntryStandingControls.Capacity.Text(), "85");
@@ -339,7 +339,7 @@ TEST_F(ParameterLists, OfTwoStandingSupportsWithOneNameEachHasItsOwnCapacity) {
   EXPECT_EQ(dialog.EntryStandingControls.Capacity.Text(), "60");
 }
 
-TEST_F(ParameterFields, ANewDesignKeepsItsOwnSupportCapacityUntilATypeIsPicked) {
+TEST_F(ParameterFields, ANewDesignKeepsItsOwnSupportCapacityUntilATypeIsChosen) {
   dialog.Open();
 
   for (const StandingControls* standing : {&dialog.EntryStandingControls, &dialog.InterStandingControls}) {

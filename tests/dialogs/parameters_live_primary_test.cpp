@@ -6,7 +6,7 @@ namespace {
 using testing::ElementsAre;
 
 struct Suggestions : AParametersDialog {
-  // Sum of the diagonals, bolt length, PSUP.
+  // Returns the texts of diagonals, bolt length and PSUP.
   std::vector<std::string> Shown() const {
     return {dialog.txtSugSumDiagonals.Text(), dialog.txtSuggestBoltLength.Text(), dialog.txtSugPSUP.Text()};
   }
@@ -87,7 +87,7 @@ TEST_F(Suggestions, WarnOfBoth) {
   EXPECT_TRUE(dialog.txtMessage.Visible());
 }
 
-TEST_F(Suggestions, TakeTheirWarningsBackWhenTheSpanFits) {
+TEST_F(Suggestions, RemoveTheirWarningsWhenTheSpanFits) {
   dialog.Open();
 
   for (const std::string_view tooLargeOrNotMatchingOrBoth : {"txtActualSpanDiagonals=66", "txtActualSpanDiagonals=30",
@@ -104,7 +104,7 @@ TEST_F(Suggestions, TakeTheirWarningsBackWhenTheSpanFits) {
   }
 }
 
-TEST_F(Suggestions, LeaveTheWarningsOfAMetricDesignAlone) {
+TEST_F(Suggestions, KeepTheWarningBoxOfAMetricDesign) {
   StartDesign(Metric);
   dialog.Open();
 
@@ -120,7 +120,7 @@ TEST_F(Suggestions, LeaveTheWarningsOfAMetricDesignAlone) {
   EXPECT_TRUE(dialog.txtMessage.Visible());
 }
 
-TEST_F(Suggestions, AreADashForThePsupAloneWhereTheFieldsMakeNoSense) {
+TEST_F(Suggestions, ShowADashOnlyForThePsupIfTheFieldsAreInvalid) {
   for (const std::string_view bad : {"txtStabilityFactor=0.9", "txtStabilityFactor=", "txtCMRR=-1", "txtCMRR=101",
                                      "txtEntryWidth=0", "txtEntryWidth=-20", "txtEntryWidth=66",
                                      "txtActualSpanDiagonals=20", "txtActualSpanDiagonals=", "txtDepthofCover=-1"}) {
@@ -140,7 +140,7 @@ TEST_F(Suggestions, AreADashForThePsupAloneWhereTheFieldsMakeNoSense) {
   }
 }
 
-TEST_F(Suggestions, AreMadeUpToTheLimitsOfTheRatingAndOfTheSpan) {
+TEST_F(Suggestions, AreComputedUpToTheLimitsOfRatingAndSpan) {
   dialog.Open();
 
   Do("txtCMRR=0");
@@ -151,7 +151,7 @@ TEST_F(Suggestions, AreMadeUpToTheLimitsOfTheRatingAndOfTheSpan) {
   EXPECT_THAT(Shown(), ElementsAre("63.2", "4.0", "3.0"));
 }
 
-TEST_F(Suggestions, WithoutADepthAreADashInPlaceOfTheSupportAlone) {
+TEST_F(Suggestions, ShowADashOnlyForTheSupportWithoutADepth) {
   dialog.Open();
   Do("txtActualSpanDiagonals=66");
 
@@ -190,7 +190,7 @@ TEST_F(ActualSupport, FollowsTheSelectedBolt) {
   EXPECT_EQ(dialog.txtActualPSUP.Text(), "9.9");
 }
 
-TEST_F(ActualSupport, TakesTheBoltFromTheListsOrAsTyped) {
+TEST_F(ActualSupport, UsesTheBoltFromTheListsOrAsTyped) {
   program.project.WorkParms.Primary.Options = 1;
   program.project.WorkParms.Primary.DiameterManual = 0.625F;
   program.project.WorkParms.Primary.GradeManual = 60;
@@ -203,7 +203,7 @@ TEST_F(ActualSupport, TakesTheBoltFromTheListsOrAsTyped) {
   EXPECT_EQ(After("optBoltDiameterPrimary=1|txtBoltDiameterPrimary=0.875|txtBoltGradePrimary=62.5"), "11.3");
 }
 
-TEST_F(ActualSupport, OfAMetricDesignTakesMillimetresAndMPa) {
+TEST_F(ActualSupport, OfAMetricDesignUsesMillimetresAndMPa) {
   StartDesign(Metric);
   program.project.WorkParms.Primary.Options = 1;
 
@@ -212,7 +212,7 @@ TEST_F(ActualSupport, OfAMetricDesignTakesMillimetresAndMPa) {
   EXPECT_EQ(dialog.txtActualPSUP.Text(), "12.0");
 }
 
-TEST_F(ActualSupport, OfUltimateGradesIsThatOfTheirYield) {
+TEST_F(ActualSupport, OfUltimateGradesUsesTheirYieldStrength) {
   StartDesign(English, StrengthBasis::Ultimate);
   dialog.Open();
   EXPECT_EQ(dialog.txtActualPSUP.Text(), "2.0");
@@ -225,7 +225,7 @@ TEST_F(ActualSupport, OfUltimateGradesIsThatOfTheirYield) {
   EXPECT_EQ(metric.txtActualPSUP.Text(), "11.5");
 }
 
-TEST_F(ActualSupport, IsGivenForUpToTenBoltsARow) {
+TEST_F(ActualSupport, IsComputedForUpToTenBoltsPerRow) {
   dialog.Open();
 
   EXPECT_EQ(After("txtBoltsperRowPrimary=10"), "12.7");
@@ -246,7 +246,7 @@ TEST_F(ActualSupport, IsADashWithoutALengthASpacingOrAWidth) {
   }
 }
 
-TEST_F(ActualSupport, IsGivenForBoltsAboveHalfAnInchAndUpToOneAndAQuarter) {
+TEST_F(ActualSupport, IsComputedForBoltsAboveHalfAnInchAndUpToOneAndAQuarter) {
   dialog.Open();
   After("optBoltOptionsPrimary=1|optBoltDiameterPrimary=1");
 
@@ -257,7 +257,7 @@ TEST_F(ActualSupport, IsGivenForBoltsAboveHalfAnInchAndUpToOneAndAQuarter) {
   EXPECT_EQ(After("txtBoltDiameterPrimary="), "--");
 }
 
-TEST_F(ActualSupport, MeasuresMetricBoltsInInches) {
+TEST_F(ActualSupport, ComparesMetricBoltsWithTheLimitsInInches) {
   StartDesign(Metric);
   dialog.Open();
   After("optBoltOptionsPrimary=1|optBoltDiameterPrimary=1");

@@ -23,7 +23,7 @@ struct SecondaryResultsShown : AParametersDialog {
     dialog.ShowIntersections();
   }
 
-  // Load, capacity and factor of a system.
+  // Returns load, capacity and factor of a system.
   Texts Entry(std::size_t system) const { return ResultOf(dialog.EntryOutputs, system); }
   Texts Intersection(std::size_t system) const { return ResultOf(dialog.InterOutputs, system); }
   static Texts ResultOf(const OutputControls& outputs, std::size_t system) {
@@ -48,10 +48,10 @@ enum class Place { Entries, Intersections };
 std::string NameOf(Place place) { return place == Place::Entries ? "Entries" : "Intersections"; }
 void PrintTo(Place place, std::ostream* out) { *out << NameOf(place); }
 
-// A place at a time. In edits, "@" is the word that the names of its controls have.
+// Tests one place at a time. In edits, "@" stands for the word in the names of its controls.
 struct SecondaryResults : SecondaryResultsShown, testing::WithParamInterface<Place> {
   static bool IsEntries() { return GetParam() == Place::Entries; }
-  // What holds for the place.
+  // Returns the value for the tested place.
   template <class Value>
   static Value Of(Value entries, Value intersections) {
     return IsEntries() ? entries : intersections;
@@ -65,7 +65,7 @@ struct SecondaryResults : SecondaryResultsShown, testing::WithParamInterface<Pla
     return named;
   }
   void Do(std::string_view edits) { AParametersDialog::Do(Named(edits)); }
-  // Edits that one refresh follows.
+  // Makes edits with a single refresh at the end.
   void DoAtOnce(std::string_view edits) { IsEntries() ? Entries(Named(edits)) : Intersections(Named(edits)); }
 
   Texts Result(std::size_t system) const { return IsEntries() ? Entry(system) : Intersection(system); }
@@ -83,7 +83,7 @@ struct SecondaryResults : SecondaryResultsShown, testing::WithParamInterface<Pla
 constexpr std::size_t Cables = 0;
 constexpr std::size_t Bolts = 2;
 
-TEST_P(SecondaryResults, OfANewDesignAreThoseOfItsCables) {
+TEST_P(SecondaryResults, OfANewDesignShowItsCables) {
   dialog.Open();
 
   EXPECT_THAT(Result(Cables), Shows({"10.0", "10.6", "1.06"}, {"183", "264", "1.44"}));
@@ -92,7 +92,7 @@ TEST_P(SecondaryResults, OfANewDesignAreThoseOfItsCables) {
   }
 }
 
-TEST_P(SecondaryResults, OfEverySystemInEnglishUnits) {
+TEST_P(SecondaryResults, AreShownForEverySystemInEnglishUnits) {
   OpenWithAllSystems();
 
   EXPECT_THAT(Result(0), Shows({"10.0", "10.6", "1.06"}, {"183", "264", "1.44"}));
@@ -101,7 +101,7 @@ TEST_P(SecondaryResults, OfEverySystemInEnglishUnits) {
   EXPECT_THAT(Result(3), Shows({"10.0", "12.5", "1.25"}, {"183", "200", "1.09"}));
 }
 
-TEST_P(SecondaryResults, OfEverySystemInMetricUnits) {
+TEST_P(SecondaryResults, AreShownForEverySystemInMetricUnits) {
   StartDesign(Metric);
 
   OpenWithAllSystems();
@@ -112,7 +112,7 @@ TEST_P(SecondaryResults, OfEverySystemInMetricUnits) {
   EXPECT_THAT(Result(3), Shows({"335.1", "333.3", "0.99"}, {"2213", "2000", "0.9"}));
 }
 
-TEST_P(SecondaryResults, AreDashesWhereTheFieldsMakeNoSense) {
+TEST_P(SecondaryResults, AreDashesIfTheFieldsAreInvalid) {
   const Texts entries{"txtUnitWeight=99",     "txtUnitWeight=",      "txtRockLoadHeight=0",
                       "txtRockLoadHeight=-8", "txtRockFallAngle=-1", "txtRockFallAngle=90",
                       "txtRockFallAngle=120", "txtEntryWidth=0",     "txtEntryWidth=-20"};
@@ -134,7 +134,7 @@ TEST_P(SecondaryResults, AreDashesWhereTheFieldsMakeNoSense) {
   }
 }
 
-TEST_P(SecondaryResults, OfASystemFollowItsOwnBoxAlone) {
+TEST_P(SecondaryResults, OfASystemFollowOnlyItsOwnCheckBox) {
   const std::array<Texts, SystemCount> entries{{{"21.1", "10.6", "8.4", "12.5"},
                                                 {"10.6", "21.2", "8.4", "12.5"},
                                                 {"10.6", "10.6", "16.9", "12.5"},
@@ -159,7 +159,7 @@ TEST_P(SecondaryResults, OfASystemFollowItsOwnBoxAlone) {
   }
 }
 
-TEST_P(SecondaryResults, TakeTheCableByDiameterFromTheListOrAsTyped) {
+TEST_P(SecondaryResults, UseTheCableDiameterFromTheListOrAsTyped) {
   dialog.Open();
   const Texts otherPlace = All(OtherOutputs(dialog));
 
@@ -174,18 +174,18 @@ TEST_P(SecondaryResults, TakeTheCableByDiameterFromTheListOrAsTyped) {
   EXPECT_EQ(All(OtherOutputs(dialog)), otherPlace);
 }
 
-TEST_P(SecondaryResults, OfAMetricDesignTakeTheCableByDiameterFromTheMetricList) {
+TEST_P(SecondaryResults, OfAMetricDesignUseTheCableDiameterFromTheMetricList) {
   StartDesign(Metric);
   dialog.Open();
 
-  // Metric designs open with the capacity given; the diameter counts as soon as its option is on.
+  // Metric designs open with a given capacity. The diameter counts as soon as its option is chosen.
   Do("optCableCapModeSec@=0|cmbCableDiamSec@=28.6");
   EXPECT_THAT(Result(Cables), Shows({"335.1", "776.0", "2.32"}, {"2213", "3880", "1.75"}));
   Do("cmbCableDiamSec@=0.6");
   EXPECT_THAT(Result(Cables), Shows({"335.1", "0.0", "0.0"}, {"2213", "0", "0.0"}));
 }
 
-TEST_P(SecondaryResults, TakeTheBoltFromTheTableTheListsOrAsTyped) {
+TEST_P(SecondaryResults, UseTheBoltFromTheTableTheListsOrAsTyped) {
   OpenWithAllSystems();
 
   Do("VSFlexGrid@=7");
@@ -200,7 +200,7 @@ TEST_P(SecondaryResults, TakeTheBoltFromTheTableTheListsOrAsTyped) {
   EXPECT_THAT(Result(Bolts), Shows({"10.0", "13.8", "1.39"}, {"183", "138", "0.75"}));
 }
 
-TEST_P(SecondaryResults, OfUltimateGradesAreThoseOfTheirYield) {
+TEST_P(SecondaryResults, OfUltimateGradesUseTheirYieldStrength) {
   StartDesign(English, StrengthBasis::Ultimate);
   OpenWithAllSystems();
   EXPECT_THAT(Result(Bolts), Shows({"10.0", "3.4", "0.34"}, {"183", "34", "0.19"}));
@@ -233,7 +233,7 @@ TEST_F(EntryResults, ShowFactorsWithOneOrTwoDecimals) {
   EXPECT_THAT(Entry(3), ElementsAre("10.0", "10.0", "1.0"));
 }
 
-TEST_F(EntryResults, AreGivenUpToTheLimitsOfUnitWeightAndAngle) {
+TEST_F(EntryResults, AreComputedUpToTheLimitsOfUnitWeightAndAngle) {
   dialog.Open();
 
   Entries("txtUnitWeight=100");
@@ -244,7 +244,7 @@ TEST_F(EntryResults, AreGivenUpToTheLimitsOfUnitWeightAndAngle) {
   EXPECT_EQ(Entry(0)[0], "0.1");
 }
 
-TEST_F(EntryResults, OfAMetricDesignNeedFifteenKilonewtons) {
+TEST_F(EntryResults, OfAMetricDesignRequireFifteenKilonewtons) {
   StartDesign(Metric);
   dialog.Open();
 
@@ -263,7 +263,7 @@ TEST_F(EntryResults, LimitTheRockToATriangleButNotTheTypedHeight) {
   EXPECT_EQ(dialog.txtRockLoadHeight.Text(), "40");
 }
 
-TEST_F(EntryResults, OfASystemOutOfUseStayAsTheyWereButForTheLoad) {
+TEST_F(EntryResults, OfAnUnusedSystemKeepAllButTheLoad) {
   OpenWithAllSystems();
   Do("chkSecEntries_0=0|chkSecEntries_2=0");
 
@@ -274,7 +274,7 @@ TEST_F(EntryResults, OfASystemOutOfUseStayAsTheyWereButForTheLoad) {
   EXPECT_EQ(Entry(3)[1], "15.0");
 }
 
-TEST_F(EntryResults, OfASystemWithoutSpacingOrBoltsStayAsTheyWere) {
+TEST_F(EntryResults, OfASystemWithoutSpacingOrBoltsDoNotChange) {
   OpenWithAllSystems();
 
   Do("txtCableRowSpacingSecEntry=0|txtBoltsperRowSecEntry=0|txtSupportRowSpacingSecEntry=0|txtUnitWeight=100");
@@ -284,7 +284,7 @@ TEST_F(EntryResults, OfASystemWithoutSpacingOrBoltsStayAsTheyWere) {
   EXPECT_THAT(Entry(3), ElementsAre("6.2", "12.5", "1.25"));
 }
 
-TEST_F(EntryResults, OfTrussesStayAsTheyWereWithoutASpacingOfStandingSupports) {
+TEST_F(EntryResults, OfTrussesDoNotChangeWithoutASpacingOfStandingSupports) {
   OpenWithAllSystems();
   Do("txtSupportRowSpacingSecEntry=0");
 
@@ -298,7 +298,7 @@ TEST_F(EntryResults, OfTrussesStayAsTheyWereWithoutASpacingOfStandingSupports) {
 
 // ---- intersections --------------------------------------------------------------------------------------------------
 
-TEST_F(IntersectionResults, OfABadUnitWeightStayAndTheEntriesGoInstead) {
+TEST_F(IntersectionResults, AreKeptUnderABadUnitWeightWhileTheEntriesAreCleared) {
   OpenWithAllSystems();
 
   Intersections("txtUnitWeight=99");
@@ -333,7 +333,7 @@ TEST_F(IntersectionResults, LimitTheHeightByTheEntryAngle) {
   EXPECT_EQ(dialog.txtRockLoadHeightInter.Text(), "40");
 }
 
-TEST_F(IntersectionResults, OfASystemOutOfUseStayAsTheyWereButForTheLoad) {
+TEST_F(IntersectionResults, OfAnUnusedSystemKeepAllButTheLoad) {
   OpenWithAllSystems();
   Do("chkSecInter_1=0|chkSecInter_3=0");
 
@@ -344,7 +344,7 @@ TEST_F(IntersectionResults, OfASystemOutOfUseStayAsTheyWereButForTheLoad) {
   EXPECT_EQ(Intersection(0)[1], "132");
 }
 
-TEST_F(IntersectionResults, NeedNoCountsToBeGiven) {
+TEST_F(IntersectionResults, RequireNoCounts) {
   OpenWithAllSystems();
 
   Do("txtCableNumberSecInter=0|txtTrussNumberSecInter=|txtBoltNumberSecInter=0|txtSupportNumberSecInter=0");

@@ -1,4 +1,4 @@
-// What the parameters dialog shows where a result cannot be computed, and what it does with numbers that are too large.
+// The parameters dialog when a result cannot be computed or a number is too large.
 #include "parameters_faults.h"
 #include "parameters_fixture.h"
 
@@ -26,13 +26,13 @@ struct NoResultShown : AParametersDialog {
   Texts Intersections() const { return Systems(dialog.InterOutputs); }
 };
 
-// What each field does to the capacities and factors of cable, trusses, roof bolts and standing supports.
+// The effect of each field on the capacities and factors of cable, trusses, roof bolts and standing supports.
 struct FailingSystem {
   std::string_view edit;
   Texts shown;
 };
 
-TEST_F(NoResultShown, OfAnEntryIsThatOfTheFailingSystemAlone) {
+TEST_F(NoResultShown, OfAnEntryReplacesOnlyTheFailingSystem) {
   const FailingSystem cases[] = {
       {"txtTrussSpacingSecEntry=0", {"10.6", "--", "16.6", "12.5", "1.06", "--", "1.66", "1.25"}},
       {"txtTrussSpacingSecEntry=", {"10.6", "--", "16.6", "12.5", "1.06", "--", "1.66", "1.25"}},
@@ -44,7 +44,7 @@ TEST_F(NoResultShown, OfAnEntryIsThatOfTheFailingSystemAlone) {
       {"txtCableBoltsPerRowSecEntry=1E38", {"--", "10.6", "16.6", "12.5", "--", "1.06", "1.66", "1.25"}},
       {"cmbCableDiamSecEntry=1E40", {"--", "10.6", "16.6", "12.5", "--", "1.06", "1.66", "1.25"}},
       {"txtSupportCapSecEntry=1E400", {"10.6", "10.6", "16.6", "--", "1.06", "1.06", "1.66", "--"}},
-      // The trusses need the standing supports' spacing too.
+      // The trusses also need the spacing of the standing supports.
       {"txtSupportRowSpacingSecEntry=1E40", {"10.6", "--", "16.6", "--", "1.06", "--", "1.66", "--"}},
   };
   program.project.WorkParms.Entries.Bolt.TableRow = 6;
@@ -60,7 +60,7 @@ TEST_F(NoResultShown, OfAnEntryIsThatOfTheFailingSystemAlone) {
   }
 }
 
-TEST_F(NoResultShown, OfAnIntersectionIsThatOfTheFailingSystemAlone) {
+TEST_F(NoResultShown, OfAnIntersectionReplacesOnlyTheFailingSystem) {
   const FailingSystem cases[] = {
       {"txtCableNumberSecInter=1E40", {"--", "170", "166", "200", "--", "0.93", "0.91", "1.09"}},
       {"txtTrussCapacitySecInter=1E39", {"264", "--", "166", "200", "1.44", "--", "0.91", "1.09"}},
@@ -81,7 +81,7 @@ TEST_F(NoResultShown, OfAnIntersectionIsThatOfTheFailingSystemAlone) {
   }
 }
 
-TEST_F(NoResultShown, OfAnEntryIsEverythingWithoutARockLoad) {
+TEST_F(NoResultShown, OfAnEntryReplacesEverythingWithoutARockLoad) {
   for (const std::string_view bad : {"txtUnitWeight=1E40", "txtRockLoadHeight=1E400", "txtRockFallAngle=1E40",
                                      "txtEntryWidth=1E400", "txtRockLoadHeight=3E38|txtRockFallAngle=0"}) {
     ParametersDialog other(program);
@@ -95,8 +95,8 @@ TEST_F(NoResultShown, OfAnEntryIsEverythingWithoutARockLoad) {
   }
 }
 
-TEST_F(NoResultShown, OfAnIntersectionIsEverythingWithoutARockLoad) {
-  // A limited height needs an angle of the entry.
+TEST_F(NoResultShown, OfAnIntersectionReplacesEverythingWithoutARockLoad) {
+  // A limited height requires an angle of the entry.
   for (const std::string_view bad :
        {"txtUnitWeight=1E40", "txtRockLoadHeightInter=1E400", "txtRockFallAngleEntry=1E40", "txtRockFallAngleXcut=1E40",
         "txtActualSpanDiagonals=1E400", "txtRockLoadHeightInter=40|txtRockFallAngleEntry=0"}) {
@@ -111,7 +111,7 @@ TEST_F(NoResultShown, OfAnIntersectionIsEverythingWithoutARockLoad) {
   }
 }
 
-TEST_F(NoResultShown, DoesNotComeFromFieldsOfSystemsThatAreNotInUse) {
+TEST_F(NoResultShown, DoesNotComeFromFieldsOfUnusedSystems) {
   dialog.Open();
 
   Do("txtTrussCapacitySecEntry=1E40|txtSupportRowSpacingSecEntry=1E400|txtBoltsperRowSecEntry=1E40|"
@@ -121,7 +121,7 @@ TEST_F(NoResultShown, DoesNotComeFromFieldsOfSystemsThatAreNotInUse) {
   EXPECT_THAT(Intersections(), ElementsAre("264", "---", "---", "---", "1.44", "---", "---", "---"));
 }
 
-TEST_F(NoResultShown, DoesNotComeFromFieldsThatAPassedOverSystemNeedsNot) {
+TEST_F(NoResultShown, DoesNotComeFromUnneededFieldsOfASkippedSystem) {
   OpenWithAllSystems();
   const Texts before = Entries();
 
@@ -132,7 +132,7 @@ TEST_F(NoResultShown, DoesNotComeFromFieldsThatAPassedOverSystemNeedsNot) {
   EXPECT_EQ(Entries(), before);
 }
 
-TEST_F(NoResultShown, DoesNotComeFromABoltThatIsTypedWhileTheTableCounts) {
+TEST_F(NoResultShown, DoesNotComeFromATypedBoltIfTheTableIsUsed) {
   dialog.Open();
 
   Do("txtBoltDiameterPrimary=1E40|txtBoltGradePrimary=1E400|txtBoltLengthPrimary=6.5");
@@ -155,7 +155,7 @@ TEST_F(NoResultShown, OfTheActualSupportIsADash) {
   }
 }
 
-TEST_F(NoResultShown, OfABadUnitWeightIsTheEntriesWhateverElseIsTyped) {
+TEST_F(NoResultShown, ClearsTheEntriesUnderABadUnitWeightWhateverElseIsTyped) {
   OpenWithAllSystems();
   const Texts before = Intersections();
   DoQuietly("txtUnitWeight=50|txtRockLoadHeightInter=1E400");
@@ -179,7 +179,7 @@ TEST_F(NoResultShown, IsStoredAsZero) {
 
 // ---- numbers that nothing can hold ----------------------------------------------------------------------------------
 
-struct NumbersBeyondAll : AParametersDialog {
+struct NumbersTooLargeToStore : AParametersDialog {
   Texts Told(std::string_view edits) {
     ParametersDialog other(program);
     other.Open();
@@ -190,7 +190,7 @@ struct NumbersBeyondAll : AParametersDialog {
   }
 };
 
-TEST_F(NumbersBeyondAll, AreOutsideTheLimitsOfEveryCheck) {
+TEST_F(NumbersTooLargeToStore, FailEveryCheck) {
   for (const std::string number : {"1E39", "-1E39", "1E400", "-1E400"}) {
     EXPECT_THAT(Told("txtCMRR=" + number), ElementsAre("Invalid CMRR"));
     EXPECT_THAT(Told("txtUnitWeight=" + number),
@@ -202,7 +202,7 @@ TEST_F(NumbersBeyondAll, AreOutsideTheLimitsOfEveryCheck) {
   }
 }
 
-TEST_F(NumbersBeyondAll, AreNoConcernOfACheckThatDoesNotApply) {
+TEST_F(NumbersTooLargeToStore, DoNotMatterToAnUnusedCheck) {
   dialog.Open();
   Do("chkPrimSupport=0|chkSecondSupEntries=0");
   Do("txtRowSpacingPrimary=1E400|txtRockFallAngle=1E40");
@@ -219,7 +219,7 @@ struct RefusedField {
   int interTab;
 };
 
-TEST_F(NumbersBeyondAll, AreRefusedWithTheNameOfTheirField) {
+TEST_F(NumbersTooLargeToStore, AreRefusedWithTheNameOfTheirField) {
   const RefusedField cases[] = {
       {"txtRowSpacingPrimary", "Roof Bolt Row Spacing (ft)", 1, 0, 0},
       {"txtBoltDiameterPrimary", "Roof Bolt Diameter (in)", 1, 0, 0},
@@ -262,7 +262,7 @@ TEST_F(NumbersBeyondAll, AreRefusedWithTheNameOfTheirField) {
   }
 }
 
-TEST_F(NumbersBeyondAll, OfATableRowAreRefusedWithTheNameOfTheTable) {
+TEST_F(NumbersTooLargeToStore, OfATableRowAreRefusedWithTheNameOfTheTable) {
   dialog.Open();
   dialog.PrimaryBoltControls.Table.SetCell(2, BoltColumn::Grade, "1E39");
   Do("VSFlexGridPrimary=2");

@@ -12,7 +12,7 @@ using ClosingParameters = AParametersDialog;
 
 // ---- opening --------------------------------------------------------------------------------------------------------
 
-TEST_F(OpeningParameters, IsLoggedCentredAndFreeOfTheWaitCursor) {
+TEST_F(OpeningParameters, IsRecordedCentredAndClearsTheWaitCursor) {
   program.platform.windows.SetWaitCursor(true);
 
   dialog.Open();
@@ -23,7 +23,7 @@ TEST_F(OpeningParameters, IsLoggedCentredAndFreeOfTheWaitCursor) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(OpeningParameters, TakesTheDialogsFlagsTitlesAndReport) {
+TEST_F(OpeningParameters, SetsTheDialogsFlagsTitlesAndReport) {
   dialog.HoldEvents = dialog.CommitOnClose = dialog.WasCommitted = true;
   program.windows.ReportCaller = InputDialog::Cost;
 
@@ -37,7 +37,7 @@ TEST_F(OpeningParameters, TakesTheDialogsFlagsTitlesAndReport) {
   EXPECT_EQ(program.windows.titles.RangeErrorTitle, "Project Parameters: Range Error");
 }
 
-TEST_F(OpeningParameters, LeavesTheDesignAndItsFlagsAlone) {
+TEST_F(OpeningParameters, LeavesTheDesignAndItsFlagsUnchanged) {
   dialog.Open();
 
   EXPECT_TRUE(program.project.FileSaved);
@@ -77,7 +77,7 @@ TEST_F(OpeningParameters, EnablesTheTabsOfWhatIsAnalysed) {
   EXPECT_THAT(EnabledTabs(dialog.SSTab3), ElementsAre(true, false, false, true));
 }
 
-TEST_F(OpeningParameters, LeavesTheCableTabOpenWhenNoSystemIsChosen) {
+TEST_F(OpeningParameters, LeavesTheCableTabOpenIfNoSystemIsChosen) {
   program.project.WorkParms.Primary.Analysed = program.project.WorkParms.Intersections.Analysed = 0;
   program.project.WorkParms.Entries.Cable.Use = program.project.WorkParms.Intersections.Cable.Use = 0;
 
@@ -113,7 +113,7 @@ TEST_F(OpeningParameters, LeavesAnEnglishDesignTheChoiceOfCableDiameters) {
   }
 }
 
-TEST_F(OpeningParameters, HandsTheRatingsOriginToTheEstimator) {
+TEST_F(OpeningParameters, PassesTheRatingsSourceToTheEstimator) {
   program.project.WorkParms.Place.CMRRRegionIndex = 4;
   program.project.WorkParms.Place.CMRRRockTypeIndex = 3;
 
@@ -135,7 +135,7 @@ TEST_F(OpeningParameters, ShowsTheFourLiveResultsOnce) {
 }
 
 TEST_F(OpeningParameters, RunsNoRefreshWhileTheFieldsAreFilled) {
-  // The depth cannot be computed with, so what it is refreshed with while the fields are filled would stay.
+  // Zero depth cannot be computed with. A refresh while the fields are filled would leave its results there.
   program.project.WorkParms.Place.DepthofCover = 0;
 
   dialog.Open();
@@ -145,7 +145,7 @@ TEST_F(OpeningParameters, RunsNoRefreshWhileTheFieldsAreFilled) {
   EXPECT_EQ(dialog.txtSuggestBoltLength.Text(), "");
 }
 
-TEST_F(OpeningParameters, WithADepthOfZeroLeavesItToBeRepaired) {
+TEST_F(OpeningParameters, WithADepthOfZeroLetsTheUserCorrectIt) {
   program.project.WorkParms.Place.DepthofCover = 0;
   dialog.Open();
   dialog.Command2.Press();
@@ -160,7 +160,7 @@ TEST_F(OpeningParameters, WithADepthOfZeroLeavesItToBeRepaired) {
   EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
 }
 
-TEST_F(OpeningParameters, TellsOfAnOptionThatDoesNotExistAndFails) {
+TEST_F(OpeningParameters, ReportsAnOptionThatDoesNotExistAndFails) {
   const std::vector<IntegerField> fields{[](auto& d) { return &d.Primary.Options; },
                                          [](auto& d) { return &d.Primary.DiameterMode; },
                                          [](auto& d) { return &d.Primary.GradeMode; },
@@ -192,7 +192,7 @@ TEST_F(OpeningParameters, TellsOfAnOptionThatDoesNotExistAndFails) {
   }
 }
 
-TEST_F(OpeningParameters, LetsOnlyTheMarkedFieldsFilterKeys) {
+TEST_F(OpeningParameters, FiltersTheKeysOfSixFieldsOnly) {
   dialog.Open();
 
   std::vector<std::string> filtered;
@@ -234,7 +234,7 @@ TEST_F(ClosingParameters, WithOkCommitsAndLocksTheUnits) {
   EXPECT_EQ(program.session.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Modified\r\n");
 }
 
-TEST_F(ClosingParameters, WithOkCountsAsAModificationEvenWithoutAChange) {
+TEST_F(ClosingParameters, WithOkIsRecordedAsAModificationEvenWithoutAChange) {
   dialog.Open();
 
   dialog.Command2.Press();
@@ -267,7 +267,7 @@ TEST_F(ClosingParameters, WithCancelOrTheWindowsCloseSavesNothing) {
   }
 }
 
-TEST_F(ClosingParameters, WithCancelKeepsTheCableModeThatAMetricDesignIsForcedTo) {
+TEST_F(ClosingParameters, WithCancelKeepsTheForcedCableModeOfAMetricDesign) {
   StartDesign(Metric);
   ASSERT_EQ(program.project.WorkParms.Entries.Cable.CapMode, 0);
   ASSERT_EQ(program.project.WorkParms.Intersections.Cable.CapMode, 0);
@@ -293,7 +293,7 @@ TEST_F(ClosingParameters, IsRefusedByOkWhileAFieldIsWrong) {
   EXPECT_EQ(dialog.txtCMRR.Text(), "100");
 }
 
-TEST_F(ClosingParameters, IsNotDoneByViewCopyClipOrHelp) {
+TEST_F(ClosingParameters, IsNotCausedByViewCopyClipOrHelp) {
   dialog.Open();
 
   dialog.cmdView.Press();

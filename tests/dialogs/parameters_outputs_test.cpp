@@ -4,7 +4,7 @@
 namespace orby::test {
 namespace {
 
-// What the dialog showed last is what the design keeps of its loads, capacities and stability factors.
+// The design keeps the loads, capacities and stability factors that the dialog showed last.
 using SavedOutputs = AParametersDialog;
 
 struct SavedOutput {
@@ -44,7 +44,7 @@ TEST_F(SavedOutputs, AreTheNumbersAsShown) {
                                             {[](auto& d) { return &d.Intersections.Standing.StabFactor; }, 1.09F}});
 }
 
-TEST_F(SavedOutputs, ComeFromTheFirstRockLoadAndEachFromItsOwnBox) {
+TEST_F(SavedOutputs, AreTheFirstRockLoadAndTheOthersEachFromItsOwnBox) {
   dialog.Open();
   int number = 1;
   for (OutputControls* outputs : {&dialog.EntryOutputs, &dialog.InterOutputs}) {

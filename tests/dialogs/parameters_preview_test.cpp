@@ -18,7 +18,7 @@ constexpr std::string_view OwnSelections =
     "cmbCableDiamSecEntry=0.7|cmbCableDiamSecInter=0.6|"
     "optBoltOptionsSecEntry=1|optBoltOptionsSecInter=1|VSFlexGridEntry=9|VSFlexGridInter=7";
 
-TEST_F(ParameterPreview, JudgesAllBoltsWithThePrimaryTabsManualSelection) {
+TEST_F(ParameterPreview, UsesThePrimaryTabsManualSelectionForAllBolts) {
   dialog.Open();
   DoQuietly(OwnSelections);
 
@@ -35,7 +35,7 @@ TEST_F(ParameterPreview, JudgesAllBoltsWithThePrimaryTabsManualSelection) {
   }
 }
 
-TEST_F(ParameterPreview, TakesTheRestOfEachBoltFromItsOwnTab) {
+TEST_F(ParameterPreview, UsesTheRestOfEachBoltFromItsOwnTab) {
   dialog.Open();
   DoQuietly(OwnSelections);
   DoQuietly("txtBoltLengthSecEntry=6.5|txtBoltLengthSecInter=6.25");
@@ -57,7 +57,7 @@ TEST_F(ParameterPreview, TakesTheRestOfEachBoltFromItsOwnTab) {
   EXPECT_EQ(copy.Intersections.Bolt.Length, 6.25F);
 }
 
-TEST_F(ParameterPreview, TakesTheCableDiameterOfBothFromTheEntries) {
+TEST_F(ParameterPreview, UsesTheCableDiameterOfTheEntriesForBothPlaces) {
   dialog.Open();
   DoQuietly(OwnSelections);
 
@@ -94,7 +94,7 @@ TEST_F(ParameterPreview, CopiesTheFieldsWithoutCommittingThem) {
 
 // ---- Results --------------------------------------------------------------------------------------------------------
 
-TEST_F(ParameterPreview, ShowsTheResultsOfTheFieldsAsTheyStand) {
+TEST_F(ParameterPreview, ShowsTheResultsOfTheFieldsAsTheyAre) {
   dialog.Open();
   Do("txtDepthofCover=512.5|txtStabilityFactor=1.5");
   program.windows.ReportCaller = InputDialog::None;
@@ -108,7 +108,7 @@ TEST_F(ParameterPreview, ShowsTheResultsOfTheFieldsAsTheyStand) {
   EXPECT_EQ(program.windows.LastPage, 1);
 }
 
-TEST_F(ParameterPreview, HasRestoredTheDesignBeforeTheResultsAreOnView) {
+TEST_F(ParameterPreview, RestoresTheDesignBeforeTheResultsAreShown) {
   program.project.WorkParms.Cost.BoltCost = 3.75F;
   dialog.Open();
   Do("txtDepthofCover=512.5|chkPrimSupport=0|optBoltOptionsSecEntry=1|txtTrussCapacitySecInter=44");
@@ -129,7 +129,7 @@ TEST_F(ParameterPreview, HasRestoredTheDesignBeforeTheResultsAreOnView) {
   EXPECT_TRUE(shown);
 }
 
-TEST_F(ParameterPreview, LeavesTheDesignAsItWasWhenTheReportFails) {
+TEST_F(ParameterPreview, LeavesTheDesignUnchangedIfTheReportFails) {
   dialog.Open();
   DoQuietly("txtDepthofCover=512.5|txtTrussCapacitySecInter=44|txtRockFallAngle=0");
 
@@ -174,7 +174,7 @@ TEST_F(ParameterPreview, LeavesTheDialogOpenAndTheFileUnchanged) {
   EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
 }
 
-TEST_F(ParameterPreview, IsRefusedWhileAFieldIsWrong) {
+TEST_F(ParameterPreview, IsRefusedWhileAFieldIsInvalid) {
   dialog.Open();
   Do("txtRockFallAngle=61");
   const auto before = program.session.OutBuf;
@@ -199,7 +199,7 @@ TEST_F(ParameterPreview, CanBeBuiltWithoutTheChecks) {
   EXPECT_EQ(program.project.WorkParms.Entries.RockFallAngle, 30);
 }
 
-TEST_F(ParameterPreview, OfAMetricDesignIsInItsUnits) {
+TEST_F(ParameterPreview, OfAMetricDesignHasMetricUnits) {
   StartDesign(Metric);
   dialog.Open();
 

@@ -7,7 +7,7 @@
 namespace orby::test {
 namespace {
 
-// Which results a change brings up to date: S the suggestions, A the actual PSUP, E the entries, I the intersections.
+// Which results a change refreshes: S the suggestions, A the actual PSUP, E the entries, I the intersections.
 struct ParameterRefreshes : AParametersDialog {
   ParameterRefreshes() {
     dialog.Open();
@@ -125,7 +125,7 @@ const std::map<std::string, ListRefreshes, std::less<>> RefreshesOfLists{
     {"cmbBoltGradeSecInter", {"I", "I"}},
     {"cmbCableDiamSecInter", {"I", "I"}},
     {"cmbCableCapacitySecInter", {"I", "I"}},
-    // through the capacity, which a text that is not in the list does not bring
+    // through the capacity, which a text that is not in the list does not set
     {"cmbSupportTypeSecEntry", {"E", ""}},
     {"cmbSupportTypeSecInter", {"I", ""}},
 };
@@ -199,7 +199,7 @@ TEST_F(ParameterRefreshes, DoNotFollowTheTabs) {
             "");
 }
 
-TEST_F(ParameterRefreshes, AreAllHeldBackTogether) {
+TEST_F(ParameterRefreshes, AreAllSuspendedTogether) {
   dialog.HoldEvents = true;
   Mark();
 
@@ -211,7 +211,7 @@ TEST_F(ParameterRefreshes, AreAllHeldBackTogether) {
   EXPECT_EQ(Refreshed(), "");
 }
 
-// The refreshes in the order in which their outputs change.
+// Records the refreshes in the order in which their outputs change.
 class RefreshOrder : public FormView {
  public:
   explicit RefreshOrder(ParametersDialog& dialog) : dialog_(dialog) { dialog.SetView(this); }

@@ -18,7 +18,7 @@ struct SavedNumber {
   Single value;
 };
 
-// A value of its own for every number of a design.
+// A different value for every number of a design.
 const std::vector<SavedNumber> SavedNumbers{
     {"txtDepthofCover", "512.5", [](auto& d) { return &d.Place.DepthofCover; }, 512.5F},
     {"txtUnitWeight", "158.5", [](auto& d) { return &d.Place.UnitWeight; }, 158.5F},
@@ -71,7 +71,7 @@ const std::vector<SavedNumber> SavedNumbers{
     {"txtSupportNumberSecInter", "7", [](auto& d) { return &d.Intersections.Standing.Number; }, 7},
 };
 
-// The intersections' own selection, which the entries' takes the place of.
+// The intersections' own selection, which the entries' selection replaces.
 constexpr std::string_view UnsavedSelection =
     "cmbBoltDiameterSecInter=0.804|txtBoltDiameterSecInter=0.83|optBoltDiameterSecInter=1|"
     "cmbBoltGradeSecInter=100|txtBoltGradeSecInter=63|cmbCableDiamSecInter=0.6";
@@ -109,7 +109,7 @@ const std::vector<SavedFlag> SavedFlags{
 
 // ---- fields ---------------------------------------------------------------------------------------------------------
 
-TEST_F(SavingParameters, PutsEachNumberIntoItsField) {
+TEST_F(SavingParameters, StoresEachNumberInItsField) {
   dialog.Open();
   Do(UnsavedSelection);
   for (const SavedNumber& saved : SavedNumbers) SetControl(dialog, saved.control, std::string(saved.text));
@@ -133,7 +133,7 @@ TEST_F(SavingParameters, ShowsTheSavedNumbersAgain) {
   for (const SavedNumber& saved : SavedNumbers) EXPECT_EQ(TextOf(again, saved.control), saved.text) << saved.control;
 }
 
-TEST_F(SavingParameters, PutsEachChoiceIntoItsFieldAlone) {
+TEST_F(SavingParameters, StoresEachChoiceOnlyInItsField) {
   for (const SavedFlag& set : SavedFlags) {
     ParametersDialog other(program);
     other.Open();
@@ -150,7 +150,7 @@ TEST_F(SavingParameters, PutsEachChoiceIntoItsFieldAlone) {
   }
 }
 
-TEST_F(SavingParameters, KeepsTheFieldsOfSystemsOutOfUse) {
+TEST_F(SavingParameters, KeepsTheFieldsOfUnusedSystems) {
   dialog.Open();
   Do("chkSecEntries_0=0|chkSecInter_0=0|txtCableLengthSecEntry=17|txtTrussCapacitySecInter=44");
 
@@ -161,7 +161,7 @@ TEST_F(SavingParameters, KeepsTheFieldsOfSystemsOutOfUse) {
   EXPECT_EQ(program.project.WorkParms.Entries.Cable.Use, 0);
 }
 
-TEST_F(SavingParameters, LeavesTheCostsAlone) {
+TEST_F(SavingParameters, LeavesTheCostsUnchanged) {
   program.project.WorkParms.Cost.BoltCost = 3.75F;
   dialog.Open();
 
@@ -173,7 +173,7 @@ TEST_F(SavingParameters, LeavesTheCostsAlone) {
 
 // ---- the intersections' manual selection ----------------------------------------------------------------------------
 
-TEST_F(SavingParameters, MakesTheIntersectionsManualBoltsAndCableThoseOfTheEntries) {
+TEST_F(SavingParameters, CopiesTheManualBoltsAndCableOfTheEntriesToTheIntersections) {
   dialog.Open();
   Do(UnsavedSelection);
   Do("cmbBoltDiameterSecEntry=0.688|txtBoltDiameterSecEntry=0.82|optBoltGradeSecEntry=1|"
@@ -193,7 +193,7 @@ TEST_F(SavingParameters, MakesTheIntersectionsManualBoltsAndCableThoseOfTheEntri
   EXPECT_EQ(record.Entries.Bolt.GradeMode, 1);
 }
 
-TEST_F(SavingParameters, ForgetsACableDiameterChosenForIntersectionsAlone) {
+TEST_F(SavingParameters, DiscardsACableDiameterChosenOnlyForIntersections) {
   dialog.Open();
   Do("cmbCableDiamSecInter=0.7");
   ASSERT_EQ(dialog.InterOutputs.SupportCap[0].Text(), "357");
@@ -204,7 +204,7 @@ TEST_F(SavingParameters, ForgetsACableDiameterChosenForIntersectionsAlone) {
   EXPECT_EQ(program.project.WorkParms.Intersections.Cable.SupportCap, 357);
 }
 
-TEST_F(SavingParameters, LoadsTheIntersectionsOwnSelectionAllTheSame) {
+TEST_F(SavingParameters, StillLoadsTheIntersectionsOwnSelection) {
   Design& record = program.project.WorkParms;
   record.Intersections.Bolt.DiameterMode = record.Intersections.Bolt.GradeMode = 1;
   record.Intersections.Bolt.DiameterStd = 0.804F;
@@ -226,7 +226,7 @@ TEST_F(SavingParameters, LoadsTheIntersectionsOwnSelectionAllTheSame) {
 
 // ---- bolts and supports ---------------------------------------------------------------------------------------------
 
-TEST_F(SavingParameters, TakesEachBoltFromItsOwnTable) {
+TEST_F(SavingParameters, StoresEachBoltFromItsOwnTable) {
   dialog.Open();
   Do("VSFlexGridPrimary=4|VSFlexGridEntry=9|VSFlexGridInter=7");
 
@@ -247,7 +247,7 @@ TEST_F(SavingParameters, TakesEachBoltFromItsOwnTable) {
   EXPECT_EQ(record.Intersections.Bolt.TableGrade, 75);
 }
 
-TEST_F(SavingParameters, TakesASupportsNameFromTheListOrFromTheText) {
+TEST_F(SavingParameters, StoresASupportsNameFromTheListOrFromTheText) {
   dialog.Open();
   Do("cmbSupportTypeSecEntry=CAN (24in)|optSupportTypeSecInter=1|txtSupportTypeSecInter=Stone pack|"
      "txtSupportTypeSecEntry=not this");
@@ -259,7 +259,7 @@ TEST_F(SavingParameters, TakesASupportsNameFromTheListOrFromTheText) {
   EXPECT_EQ(program.project.WorkParms.Intersections.Standing.TypeName, "Stone pack");
 }
 
-TEST_F(SavingParameters, LosesTheNameOfAnIntersectionsSupportThatWasTypedInBetween) {
+TEST_F(SavingParameters, LosesTheNameOfAnIntersectionsSupportTypedInBetween) {
   dialog.Open();
   Do("optSupportTypeSecInter=1|optSupportTypeSecInter=0");
 
@@ -292,7 +292,7 @@ TEST_F(SavingParameters, RefusesARatingThatIsNoInteger) {
   EXPECT_FALSE(dialog.WasCommitted);
 }
 
-TEST_F(SavingParameters, TakesTheRatingsOriginFromTheEstimatorAndNotFromTheHiddenText) {
+TEST_F(SavingParameters, StoresTheRatingsSourceFromTheEstimatorAndNotFromTheHiddenText) {
   dialog.Open();
   program.windows.estimator.EstimatorRegion = 3;
   program.windows.estimator.EstimatorRockType = 5;
@@ -306,7 +306,7 @@ TEST_F(SavingParameters, TakesTheRatingsOriginFromTheEstimatorAndNotFromTheHidde
 
 // ---- the design as it is being edited -------------------------------------------------------------------------------
 
-TEST_F(SavingParameters, GivesTheDesignThatACommitWouldStoreWithoutCommittingIt) {
+TEST_F(SavingParameters, ReadsTheDesignThatACommitWouldStoreWithoutCommittingIt) {
   dialog.Open();
   Do("txtDepthofCover=512.5|cmbBoltGradeSecEntry=60|cmbBoltGradeSecInter=100|chkSecEntries_3=1");
   program.windows.estimator.EstimatorRegion = 3;
@@ -328,7 +328,7 @@ TEST_F(SavingParameters, GivesTheDesignThatACommitWouldStoreWithoutCommittingIt)
   EXPECT_FALSE(dialog.WasCommitted);
 }
 
-TEST_F(SavingParameters, GivesTheNumbersThatADesignCanHoldAndLeavesTheOthers) {
+TEST_F(SavingParameters, ReadsOnlyTheNumbersThatADesignCanHold) {
   dialog.Open();
   DoQuietly("txtDepthofCover=512.5|txtTrussCapacitySecInter=1E39|txtCMRR=40000");
   Design design;

@@ -19,7 +19,7 @@ struct APreview : testing::Test {
   PreviewWindow window{program};
 };
 
-TEST_F(APreview, NamesItselfAndItsCommands) {
+TEST_F(APreview, HasItsCaptions) {
   EXPECT_EQ(window.Name(), "frmPreview");
   EXPECT_EQ(window.Caption(), "Print Preview");
   EXPECT_EQ(window.Command5.Caption(), "P&revious Page");
@@ -29,7 +29,7 @@ TEST_F(APreview, NamesItselfAndItsCommands) {
   EXPECT_EQ(window.RichTextBox1.Kind(), TextKind::Output);
 }
 
-TEST_F(APreview, OpensOnTheFirstPageInAFixedPitch) {
+TEST_F(APreview, OpensOnTheFirstPageInAMonospacedFont) {
   window.Open();
 
   EXPECT_EQ(window.RichTextBox1.Text(), "inputs\r\n");
@@ -54,7 +54,7 @@ TEST_F(APreview, PagesToTheLastPageAndBack) {
   EXPECT_FALSE(window.Command5.Enabled());
 }
 
-TEST_F(APreview, CopiesThePageOnView) {
+TEST_F(APreview, CopiesTheShownPage) {
   window.Open();
   window.Command4.Press();
 

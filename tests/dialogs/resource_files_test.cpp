@@ -31,7 +31,7 @@ TEST_F(ResourceTest, AreOfferedByTheirTitles) {
                                     "Supporting Intersections", "Standing Supports", "Reading the Curves"));
 }
 
-TEST_F(ResourceTest, OpenWithTheProgramOfTheDesktop) {
+TEST_F(ResourceTest, OpenInTheProgramOfTheDesktop) {
   const char* const files[] = {"bolt-design", "pull-tests",    "roof-screening",    "bolting-history",
                                "weak-ground", "intersections", "standing-supports", "reading-curves"};
   dialog.Open();
@@ -48,7 +48,7 @@ TEST_F(ResourceTest, OpenWithTheProgramOfTheDesktop) {
   EXPECT_TRUE(dialog.IsOpen());
 }
 
-TEST_F(ResourceTest, ThatAreMissingAreToldByTheirNames) {
+TEST_F(ResourceTest, AreNamedIfTheyAreMissing) {
   dialog.Open();
 
   dialog.cmdView[1].Press();
@@ -57,7 +57,7 @@ TEST_F(ResourceTest, ThatAreMissingAreToldByTheirNames) {
   EXPECT_THAT(platform.documents.opened, IsEmpty());
 }
 
-TEST_F(ResourceTest, ThatDoNotOpenAreTold) {
+TEST_F(ResourceTest, AreReportedIfTheyDoNotOpen) {
   platform.files.files["/program/resources/weak-ground.pdf"] = "%PDF";
   platform.documents.opens = false;
   dialog.Open();

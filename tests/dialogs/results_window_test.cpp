@@ -19,7 +19,7 @@ using testing::IsEmpty;
 using testing::Not;
 using testing::SizeIs;
 
-// A report of two pages that the parameters dialog asked for, and the default design for its curves.
+// A report of two pages for the parameters dialog, and the default design for the curves.
 struct AResultsWindow : testing::Test {
   AResultsWindow() {
     program.session.OutBuf = {"inputs\r\n", "calculations\r\n", "", "", ""};
@@ -46,7 +46,7 @@ struct AResultsWindow : testing::Test {
   ResultsWindow window{program};
 };
 
-TEST_F(AResultsWindow, NamesItselfAndItsCommands) {
+TEST_F(AResultsWindow, HasItsCaptions) {
   EXPECT_EQ(window.Name(), "frmResTxtPlt");
   EXPECT_EQ(window.Caption(), "Calculation Results");
   EXPECT_EQ(window.Command1.Caption(), "Close");
@@ -64,7 +64,7 @@ TEST_F(AResultsWindow, NamesItselfAndItsCommands) {
 
 // ---- opening and closing --------------------------------------------------------------------------------------------
 
-TEST_F(AResultsWindow, OpensOnTheFirstPageInPlaceOfTheMainWindow) {
+TEST_F(AResultsWindow, OpensOnTheFirstPageAndHidesTheMainWindow) {
   window.Open();
 
   EXPECT_FALSE(platform.windows.mainWindowShown);
@@ -75,7 +75,7 @@ TEST_F(AResultsWindow, OpensOnTheFirstPageInPlaceOfTheMainWindow) {
   EXPECT_EQ(platform.windows.centered, 1);
 }
 
-TEST_F(AResultsWindow, BringsTheMainWindowBackWhenItCloses) {
+TEST_F(AResultsWindow, ShowsTheMainWindowAgainWhenItCloses) {
   window.Open();
 
   window.Command1.Press();
@@ -161,7 +161,7 @@ TEST_F(AResultsWindow, ShowsEachPageFromItsTop) {
 
 // ---- copying --------------------------------------------------------------------------------------------------------
 
-TEST_F(AResultsWindow, CopiesThePageOnView) {
+TEST_F(AResultsWindow, CopiesTheShownPage) {
   window.Open();
 
   window.Command2.Press();
@@ -174,7 +174,7 @@ TEST_F(AResultsWindow, CopiesThePageOnView) {
             "1. Results displayed\r\n2. Page 0 copied to clipboard\r\n3. Page 1 copied to clipboard\r\n");
 }
 
-// Notes what is done to it, in turn.
+// Records each call in turn.
 struct NotingClipboard : RecordingClipboard {
   void Clear() override { acts.emplace_back("clear"); }
   void SetText(const std::string& given) override { acts.push_back(given); }
@@ -207,7 +207,7 @@ TEST_F(AResultsWindow, CopiesAllPagesWithNothingBetweenThem) {
 
 // ---- printing -------------------------------------------------------------------------------------------------------
 
-TEST_F(AResultsWindow, PrintsThePageOnView) {
+TEST_F(AResultsWindow, PrintsTheShownPage) {
   window.Open();
   window.Command4.Press();
   window.RichTextBox1.Select(4, 2);
@@ -235,7 +235,7 @@ TEST_F(AResultsWindow, PrintsAllPagesAsOneText) {
   EXPECT_THAT(program.session.history.Text, EndsWith("2. All pages printed\r\n"));
 }
 
-TEST_F(AResultsWindow, PrintsNothingWhenThePrinterDialogIsCancelled) {
+TEST_F(AResultsWindow, PrintsNothingIfThePrinterDialogIsCancelled) {
   platform.printer.error = error_number::Cancelled;
   window.Open();
 
@@ -247,7 +247,7 @@ TEST_F(AResultsWindow, PrintsNothingWhenThePrinterDialogIsCancelled) {
   EXPECT_TRUE(window.IsOpen());
 }
 
-TEST_F(AResultsWindow, AsksToTryAgainWithoutAPrinterAndStaysOpen) {
+TEST_F(AResultsWindow, OffersARetryWithoutAPrinterAndStaysOpen) {
   platform.printer.error = error_number::Printer;
   platform.boxes.answers = {BoxResult::Retry, BoxResult::Cancel};
   window.Open();
@@ -263,7 +263,7 @@ TEST_F(AResultsWindow, AsksToTryAgainWithoutAPrinterAndStaysOpen) {
   EXPECT_TRUE(window.IsOpen());
 }
 
-TEST_F(AResultsWindow, PrintsAgainOnThePrinterThatWasChosenWhenItJams) {
+TEST_F(AResultsWindow, PrintsOnTheChosenPrinterAfterARetry) {
   JammedPrinter jammed;
   Program other(platform.DoorsWith(jammed));
   other.session.OutBuf = program.session.OutBuf;
@@ -327,7 +327,7 @@ TEST_F(AResultsWindow, DrawsTheChosenCurveAndHidesTheList) {
   EXPECT_THAT(graph.graph1.Series()[0].x, SizeIs(25));
 }
 
-TEST_F(AResultsWindow, TellsThatTheUpperRatingWasTrimmedBeforeItDraws) {
+TEST_F(AResultsWindow, SaysThatTheRatingWasTrimmedBeforeItDraws) {
   window.Open();
   window.cmdGraph.Press();
 
@@ -351,7 +351,7 @@ TEST_F(AResultsWindow, DrawsEveryCurveInTheSameWindow) {
   EXPECT_EQ(program.windows.curve.CurveIndex, 8);
 }
 
-TEST_F(AResultsWindow, TellsOfACurveThatCannotBeSweptAndStaysOpen) {
+TEST_F(AResultsWindow, ReportsACurveThatCannotBeComputedAndStaysOpen) {
   program.windows.WorkParmsCopy.Place.CMRR = 95;
   window.Open();
   window.cmdGraph.Press();
@@ -365,7 +365,7 @@ TEST_F(AResultsWindow, TellsOfACurveThatCannotBeSweptAndStaysOpen) {
   EXPECT_TRUE(window.lstGraphs.Visible());
 }
 
-TEST_F(AResultsWindow, TakesTheGraphWithItWhenItCloses) {
+TEST_F(AResultsWindow, ClosesTheGraphWhenItCloses) {
   window.Open();
   window.lstGraphs.ClickItem(5);
   Form* const graph = platform.windows.shown.at(0);
@@ -394,7 +394,7 @@ TEST_F(AResultsWindow, OpensTheHelp) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Help file (/program/ORBY.CHM) not available"));
 }
 
-TEST_F(AResultsWindow, GoesBackToTheDialogThatIsStillOpen) {
+TEST_F(AResultsWindow, ReturnsToTheDialogThatIsStillOpen) {
   window.Open();
 
   window.cmdChangeInput.Press();
@@ -403,7 +403,7 @@ TEST_F(AResultsWindow, GoesBackToTheDialogThatIsStillOpen) {
   EXPECT_THAT(reopened, IsEmpty());
 }
 
-TEST_F(AResultsWindow, OpensTheDialogThatAskedForTheReport) {
+TEST_F(AResultsWindow, OpensTheDialogThatRequestedTheReport) {
   program.windows.DialogOpen = false;
   program.windows.ReportCaller = InputDialog::Cost;
   program.windows.OpenInputDialog = [this](InputDialog caller) {
@@ -418,7 +418,7 @@ TEST_F(AResultsWindow, OpensTheDialogThatAskedForTheReport) {
   EXPECT_TRUE(platform.windows.mainWindowShown);
 }
 
-TEST_F(AResultsWindow, OnlyClosesWhenNoDialogAskedForTheReport) {
+TEST_F(AResultsWindow, OnlyClosesIfNoDialogRequestedTheReport) {
   program.windows.DialogOpen = false;
   program.windows.ReportCaller = InputDialog::None;
   window.Open();

@@ -15,7 +15,7 @@ using testing::Not;
 
 const std::string IniPath = "/home/user/Documents/Orby/ORBY.INI";
 
-// The settings as a user may have them.
+// Settings that differ from the built-in ones.
 struct SettingsTest : testing::Test {
   SettingsTest() {
     platform.fonts.screen = {"Arial", "Courier New"};
@@ -32,7 +32,7 @@ struct SettingsTest : testing::Test {
     settings.ExternalEditor = "/usr/bin/xedit";
   }
 
-  // Opens the dialog with the messages and lines of that forgotten.
+  // Opens the dialog and clears the recorded messages and history lines.
   void Open() {
     dialog.Open();
     program.session.history.Text.clear();
@@ -46,7 +46,7 @@ struct SettingsTest : testing::Test {
   SettingsDialog dialog{program, [this] { ++modified; }};
 };
 
-TEST_F(SettingsTest, NameTheirFieldsAndCommands) {
+TEST_F(SettingsTest, HaveTheirCaptions) {
   EXPECT_EQ(dialog.Name(), "frmSet");
   EXPECT_EQ(dialog.Caption(), "Settings");
   EXPECT_EQ(dialog.optUnits.Caption(0), "feet, psi, pcf");
@@ -70,7 +70,7 @@ TEST_F(SettingsTest, NameTheirFieldsAndCommands) {
   EXPECT_EQ(dialog.cmdSetDefault.Caption(), "Reset Default");
 }
 
-TEST_F(SettingsTest, AreLoggedWhenTheyOpenAndNameTheirMessages) {
+TEST_F(SettingsTest, AreRecordedWhenTheyOpenAndTitleTheirMessages) {
   dialog.Open();
 
   EXPECT_EQ(program.session.history.Text, "1. Editing Settings\r\n");
@@ -79,7 +79,7 @@ TEST_F(SettingsTest, AreLoggedWhenTheyOpenAndNameTheirMessages) {
   EXPECT_FALSE(platform.windows.waitCursor);
 }
 
-TEST_F(SettingsTest, ShowWhatHolds) {
+TEST_F(SettingsTest, ShowThePresentValues) {
   program.session.settings.FileExtension = "OR2";
 
   dialog.Open();
@@ -109,7 +109,7 @@ constexpr Flag Flags[] = {
     {&SettingsDialog::chkShowDiscl, &Settings::ShowDisclaim, "ShowDisclaim"},
 };
 
-TEST_F(SettingsTest, ShowEachFlagInItsBoxAndTakeItFromThere) {
+TEST_F(SettingsTest, ShowAndStoreEachFlagByItsCheckBox) {
   for (const Flag& flag : Flags) {
     for (const auto& other : Flags) program.session.settings.*(other.value) = 0;
     program.session.settings.*(flag.value) = 1;
@@ -125,7 +125,7 @@ TEST_F(SettingsTest, ShowEachFlagInItsBoxAndTakeItFromThere) {
   }
 }
 
-TEST_F(SettingsTest, TakeEveryFieldOnOk) {
+TEST_F(SettingsTest, StoreEveryFieldOnOk) {
   Open();
   dialog.optUnits.SetValue(0, true);
   dialog.Text1.SetText("rs7");
@@ -145,7 +145,7 @@ TEST_F(SettingsTest, TakeEveryFieldOnOk) {
   EXPECT_THAT(Written(), HasSubstr("DataPath=/designs/\r\n"));
 }
 
-TEST_F(SettingsTest, AreLoggedAppliedAndWrittenOnceTheyDiffer) {
+TEST_F(SettingsTest, AreRecordedAppliedAndWrittenIfTheyDiffer) {
   Open();
   dialog.chkEnableTB.SetValue(0);
 
@@ -158,7 +158,7 @@ TEST_F(SettingsTest, AreLoggedAppliedAndWrittenOnceTheyDiffer) {
   EXPECT_THAT(Written(), Not(HasSubstr("[FileMenu]")));
 }
 
-TEST_F(SettingsTest, HoldAlreadyWhenTheMainWindowFollowsThem) {
+TEST_F(SettingsTest, AreInEffectWhenTheMainWindowIsRefreshed) {
   Integer seen = -1;
   SettingsDialog other(program, [&] { seen = program.session.settings.EnableMainMenuToolbar; });
   other.Open();
@@ -169,7 +169,7 @@ TEST_F(SettingsTest, HoldAlreadyWhenTheMainWindowFollowsThem) {
   EXPECT_EQ(seen, 0);
 }
 
-TEST_F(SettingsTest, AreNeitherAppliedNorWrittenWhenNothingDiffers) {
+TEST_F(SettingsTest, AreNeitherAppliedNorWrittenIfNothingDiffers) {
   Open();
   dialog.chkEnableTB.SetValue(0);
   dialog.chkEnableTB.SetValue(1);
@@ -182,7 +182,7 @@ TEST_F(SettingsTest, AreNeitherAppliedNorWrittenWhenNothingDiffers) {
   EXPECT_THAT(platform.files.created, IsEmpty());
 }
 
-TEST_F(SettingsTest, StayAsTheyWereAfterCancel) {
+TEST_F(SettingsTest, DoNotChangeAfterCancel) {
   Open();
   dialog.Text1.SetText("XYZ");
   dialog.chkEnableTB.SetValue(0);
@@ -196,7 +196,7 @@ TEST_F(SettingsTest, StayAsTheyWereAfterCancel) {
   EXPECT_THAT(platform.files.created, IsEmpty());
 }
 
-TEST_F(SettingsTest, OfAnOpeningBeforeDoNotCountAsAccepted) {
+TEST_F(SettingsTest, AreNotAcceptedBecauseOfAnEarlierOk) {
   Open();
   dialog.cmdOK.Press();
   dialog.Open();
@@ -209,7 +209,7 @@ TEST_F(SettingsTest, OfAnOpeningBeforeDoNotCountAsAccepted) {
 
 // ---- what a click tells --------------------------------------------------------------------------------------------
 
-TEST_F(SettingsTest, FillTheFieldsWithoutAWord) {
+TEST_F(SettingsTest, ShowNoMessageWhileTheFieldsAreFilled) {
   program.session.settings.CopyExampleFiles = 1;
   program.session.settings.ShortRecentFiles = 1;
 
@@ -235,7 +235,7 @@ TEST_F(SettingsTest, ExplainTheCopyOfExamplesOnEachClick) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre(expected, expected));
 }
 
-TEST_F(SettingsTest, TellThatShortNamesTakeANewStart) {
+TEST_F(SettingsTest, SayThatShortNamesRequireARestart) {
   dialog.Open();
 
   dialog.chkShortNames.SetValue(1);
@@ -243,7 +243,7 @@ TEST_F(SettingsTest, TellThatShortNamesTakeANewStart) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Option will take effect upon restarting this program"));
 }
 
-TEST_F(SettingsTest, TellHowToGetHelp) {
+TEST_F(SettingsTest, SayHowToGetHelp) {
   dialog.Open();
 
   dialog.cmdHelp.Press();
@@ -254,7 +254,7 @@ TEST_F(SettingsTest, TellHowToGetHelp) {
 
 // ---- the checks ----------------------------------------------------------------------------------------------------
 
-TEST_F(SettingsTest, RefuseAPathThatIsNotThere) {
+TEST_F(SettingsTest, RefuseAPathThatDoesNotExist) {
   Open();
   dialog.Text2.SetText("/nowhere");
 
@@ -267,7 +267,7 @@ TEST_F(SettingsTest, RefuseAPathThatIsNotThere) {
   EXPECT_EQ(dialog.FocusRequest(), &dialog.Text2);
 }
 
-TEST_F(SettingsTest, RefuseAPathThatCannotBeLookedForWithOneMessage) {
+TEST_F(SettingsTest, RefuseAPathThatCannotBeCheckedWithOneMessage) {
   Open();
   platform.files.Fail(MemoryFiles::Step::Find, 52);
 
@@ -277,7 +277,7 @@ TEST_F(SettingsTest, RefuseAPathThatCannotBeLookedForWithOneMessage) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid Path for Data Files"));
 }
 
-TEST_F(SettingsTest, TakeABlankPathForTheRootOfTheFiles) {
+TEST_F(SettingsTest, TreatAnEmptyPathAsTheRootOfTheFiles) {
   platform.files.folders.insert("");
   Open();
   dialog.Text2.SetText("");
@@ -315,7 +315,7 @@ TEST_F(SettingsTest, RoundTheLengthOfTheHistory) {
   EXPECT_EQ(program.session.settings.MaxDisplaySize, 8000);
 }
 
-TEST_F(SettingsTest, RefuseAnExtensionOfOtherThanLettersAndDigits) {
+TEST_F(SettingsTest, RefuseAnExtensionWithOtherThanLettersAndDigits) {
   Open();
 
   for (const char* extension : {".ORB", "O B", "OR*", "\xC3\x96RB"}) {
@@ -352,7 +352,7 @@ TEST_F(SettingsTest, AreCheckedFromThePathToTheExtensionAndStopAtTheFirstFault) 
 
 // ---- the dialogs behind the buttons --------------------------------------------------------------------------------
 
-TEST_F(SettingsTest, AskForThePathFromThePresentOne) {
+TEST_F(SettingsTest, AskForThePathStartingAtThePresentOne) {
   Open();
   platform.fileDialogs.answers = {"/designs"};
 
@@ -364,7 +364,7 @@ TEST_F(SettingsTest, AskForThePathFromThePresentOne) {
   EXPECT_EQ(dialog.Text2.Text(), "/designs");
 }
 
-TEST_F(SettingsTest, KeepPathAndViewerWhenTheirDialogsAreCancelled) {
+TEST_F(SettingsTest, KeepPathAndViewerIfTheirDialogsAreCancelled) {
   Open();
 
   dialog.cmdSetPath.Press();
@@ -417,7 +417,7 @@ TEST_F(SettingsTest, ResetTheViewer) {
   EXPECT_EQ(dialog.Text4.Text(), "Notepad.exe");
 }
 
-// Plays the user in the font dialog: italics, and another size.
+// Plays the user in the font dialog: chooses italics and another size.
 void ChooseItalics(Form& form) {
   auto& font = dynamic_cast<FontDialog&>(form);
   EXPECT_EQ(font.txtSample.Font(), (FontChoice{"Courier New", 12, true, false}));
@@ -429,7 +429,7 @@ void ChooseItalics(Form& form) {
   font.cmdOK.Press();
 }
 
-TEST_F(SettingsTest, TakeTheFontOfTheHistoryOnOk) {
+TEST_F(SettingsTest, StoreTheFontOfTheHistoryOnOk) {
   Open();
   platform.windows.onModal = ChooseItalics;
 
@@ -444,7 +444,7 @@ TEST_F(SettingsTest, TakeTheFontOfTheHistoryOnOk) {
   EXPECT_EQ(modified, 1);
 }
 
-TEST_F(SettingsTest, ForgetTheFontOfTheHistoryOnCancel) {
+TEST_F(SettingsTest, DiscardTheFontOfTheHistoryOnCancel) {
   Open();
   platform.windows.onModal = ChooseItalics;
 

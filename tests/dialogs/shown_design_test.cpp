@@ -1,4 +1,4 @@
-// What a report takes of a stored design without a dialog is what a dialog would show of it.
+// A report without a dialog uses the same design that a dialog would show.
 #include "dialogs/shown_design.h"
 
 #include <rapidcheck.h>
@@ -14,7 +14,7 @@
 namespace orby::test {
 namespace {
 
-// A number, a choice or a flag for each line of a project, and a text now and then.
+// Returns a design with a number, a choice or a flag for each line of a project, and a few texts.
 Design StoredDesign(const Design& start) {
   Design design = start;
   for (const ProjectLine& line : ProjectLines) {
@@ -95,7 +95,7 @@ TEST_F(AShownDesign, HasNumbersOfSevenDigitsAndAWholeRating) {
   EXPECT_EQ(Shown().Cost.BoltCost, 6.666667F);
 }
 
-TEST_F(AShownDesign, TakesTheFirstRowForOneThatTheTableLacks) {
+TEST_F(AShownDesign, UsesTheFirstRowIfTheTableLacksTheStoredOne) {
   design.Primary.TableRow = 10;
   design.Entries.Bolt.TableRow = 9;
 
@@ -104,14 +104,14 @@ TEST_F(AShownDesign, TakesTheFirstRowForOneThatTheTableLacks) {
   EXPECT_EQ(Shown().Entries.Bolt.TableRow, 9);
 }
 
-TEST_F(AShownDesign, CannotBeOfAChoiceThatIsNotThere) {
+TEST_F(AShownDesign, FailsForAChoiceThatDoesNotExist) {
   design.Intersections.Standing.TypeMode = 2;
 
   EXPECT_FALSE(HasKnownChoices(design));
   EXPECT_EQ(ErrorNumberOf([this] { Shown(); }), 9);
 }
 
-TEST_F(AShownDesign, OfMetricCablesTakesAnySourceOfTheirCapacity) {
+TEST_F(AShownDesign, AcceptsAnyStoredSourceOfAMetricCablesCapacity) {
   design.Entries.Cable.CapMode = 7;
   EXPECT_FALSE(HasKnownChoices(design));
 
@@ -122,7 +122,7 @@ TEST_F(AShownDesign, OfMetricCablesTakesAnySourceOfTheirCapacity) {
   EXPECT_EQ(Shown().Intersections.Cable.CapMode, 1);
 }
 
-TEST_F(AShownDesign, KeepsTheRoundingOfTheOutputs) {
+TEST_F(AShownDesign, HasTheRoundedOutputs) {
   design.Intersections.Analysed = 1;
   design.Intersections.Cable.Use = 1;
   const SupportFigures figures = IntersectionFigures(design, program.session.catalogs);

@@ -1,4 +1,4 @@
-// Whatever numbers are typed, and in whatever order: the parameters dialog shows the figures of that very design.
+// Whatever numbers the user types, in whatever order, the parameters dialog shows the figures of that design.
 #include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 
@@ -14,8 +14,7 @@
 namespace orby::test {
 namespace {
 
-// A field of the dialog, the number of a design that it stands for, and what is typed there: hundredths from the lowest
-// to the highest.
+// A field of the dialog, its number in a design, and the lowest and highest number to type, in hundredths.
 struct Field {
   const char* control;
   Single& (*number)(Design& design);
@@ -68,7 +67,7 @@ const std::vector<Field>& Fields() {
   return fields;
 }
 
-// Everything is typed: no bolt from the table, no capacity from a list.
+// Every value is typed: no bolt from the table, no capacity from a list.
 constexpr std::string_view AllTyped =
     "optBoltOptionsPrimary=1|optBoltDiameterPrimary=1|optBoltGradePrimary=1|"
     "optBoltOptionsSecEntry=1|optBoltDiameterSecEntry=1|optBoltGradeSecEntry=1|"
@@ -119,14 +118,14 @@ RC_GTEST_FIXTURE_PROP(AParametersDialog, ShowsTheFiguresOfTheNumbersInItsFields,
   const std::string width = NumberText(*rc::gen::inRange(-1, 300) / 10.0);
   Do("txtEntryWidth=" + width);
   design.Place.EntryWidth = static_cast<Single>(TextValue(width));
-  // An option, and the entry width in some figures, counts from the next key on.
+  // In some figures an option or the entry width counts only from the next key on.
   dialog.ShowSuggested();
   dialog.ShowActualPSUP();
   dialog.ShowEntries();
   dialog.ShowIntersections();
   for (const Field& field : Fields()) field.number(design) = static_cast<Single>(TextValue(Text(field.control)));
 
-  // Fields, and where in the range of its numbers each gets one.
+  // Fields, and for each one the share of its range at which its number lies.
   const auto field = rc::gen::inRange<std::size_t>(0, Fields().size());
   for (const auto& [index, share] :
        *rc::gen::container<std::vector<std::pair<std::size_t, int>>>(rc::gen::pair(field, rc::gen::inRange(0, 1001)))) {

@@ -22,7 +22,7 @@ std::vector<std::string> ItemsOf(const List& list) {
   return items;
 }
 
-// A machine with two disks, and designs in the user's documents.
+// A machine with two disks, and designs in the user's documents folder.
 struct ABrowser : testing::Test {
   ABrowser() {
     platform.files.drives = {"/", "/media/stick"};
@@ -55,7 +55,7 @@ struct ABrowser : testing::Test {
   void ClickFolder(const std::string& text) { browser.Dir1.ClickItem(ItemOf(browser.Dir1, text)); }
   void ClickFile(const std::string& name) { browser.File1.ClickItem(ItemOf(browser.File1, name)); }
 
-  // A program with the same settings behind other doors.
+  // Returns a program with the same settings on another platform.
   Program ProgramOn(const Platform& doors) {
     Program other(doors);
     other.session.settings = program.session.settings;
@@ -63,7 +63,7 @@ struct ABrowser : testing::Test {
     return other;
   }
 
-  // Lets the file come in to its end.
+  // Waits until the file is read completely.
   void Wait() {
     while (!platform.clock.waiting.empty()) platform.clock.Pass();
   }
@@ -87,7 +87,7 @@ TEST_F(ABrowser, StartsInTheDataFolder) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(ABrowser, TitlesItsMessagesWithTheBareWords) {
+TEST_F(ABrowser, TitlesItsMessagesWithoutItsOwnName) {
   Open();
 
   EXPECT_EQ(program.windows.titles.ErrorTitle, "Error");
@@ -103,7 +103,7 @@ TEST_F(ABrowser, StartsInTheLastFolderOfTheRun) {
   EXPECT_EQ(browser.Dir1.ListIndex(), 1);
 }
 
-TEST_F(ABrowser, StartsAboveALastFolderThatIsGone) {
+TEST_F(ABrowser, StartsInTheParentOfAMissingLastFolder) {
   program.session.textBrowse.LastFolder = "/home/user/Documents/Gone/Deep";
 
   Open();
@@ -113,7 +113,7 @@ TEST_F(ABrowser, StartsAboveALastFolderThatIsGone) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(ABrowser, StandsEmptyOnAMachineThatCannotBeRead) {
+TEST_F(ABrowser, IsEmptyOnAMachineThatCannotBeRead) {
   platform.files.Fail(Step::ListFolders, 70);
 
   Open();
@@ -129,7 +129,7 @@ TEST_F(ABrowser, OffersTheFilesOfTheProgramUnlessAFilterIsStored) {
   EXPECT_EQ(browser.Text2.Text(), "*.ORB");
 }
 
-TEST_F(ABrowser, TakesTheStoredFilterFontAndViewer) {
+TEST_F(ABrowser, UsesTheStoredFilterFontAndViewer) {
   program.session.textBrowse = {"Terminal", 14, -1, 0, "*.txt", 1, {}};
 
   Open();
@@ -140,7 +140,7 @@ TEST_F(ABrowser, TakesTheStoredFilterFontAndViewer) {
   EXPECT_TRUE(browser.Check1.Checked());
 }
 
-TEST_F(ABrowser, StoresWhatTheUserChose) {
+TEST_F(ABrowser, StoresTheUsersChoices) {
   Open();
   ClickFolder("        Mines");
   browser.Text2.SetText("*.txt");
@@ -166,7 +166,7 @@ TEST_F(ABrowser, ListsTheDrives) {
   EXPECT_EQ(browser.Drive1.Items()[1].text, "/media/stick");
 }
 
-TEST_F(ABrowser, GoesToTheTopOfAnotherDrive) {
+TEST_F(ABrowser, OpensTheTopFolderOfAnotherDrive) {
   Open();
 
   browser.Drive1.SetListIndex(1);
@@ -176,7 +176,7 @@ TEST_F(ABrowser, GoesToTheTopOfAnotherDrive) {
   EXPECT_THAT(ItemsOf(browser.File1), ElementsAre("stick.orb"));
 }
 
-TEST_F(ABrowser, GoesBackToTheLastDriveWhenAnotherCannotBeRead) {
+TEST_F(ABrowser, ReturnsToTheLastDriveIfAnotherCannotBeRead) {
   Open();
   platform.files.folders.erase("/media/stick");
 
@@ -191,7 +191,7 @@ TEST_F(ABrowser, GoesBackToTheLastDriveWhenAnotherCannotBeRead) {
   EXPECT_THAT(ItemsOf(browser.File1), ElementsAre("panel3.ORB", "panel4.orb"));
 }
 
-TEST_F(ABrowser, CannotReadADriveThatIsNotThere) {
+TEST_F(ABrowser, ReportsADriveThatDoesNotExist) {
   Open();
 
   browser.Drive1.SetText("C:");
@@ -200,7 +200,7 @@ TEST_F(ABrowser, CannotReadADriveThatIsNotThere) {
   EXPECT_EQ(browser.Drive1.Text(), "/");
 }
 
-TEST_F(ABrowser, OpensAFolderInside) {
+TEST_F(ABrowser, OpensASubfolder) {
   Open();
 
   ClickFolder("        Mines");
@@ -210,7 +210,7 @@ TEST_F(ABrowser, OpensAFolderInside) {
   EXPECT_THAT(ItemsOf(browser.File1), ElementsAre("east.orb"));
 }
 
-TEST_F(ABrowser, OpensAFolderAbove) {
+TEST_F(ABrowser, OpensAParentFolder) {
   Open();
 
   ClickFolder("/");
@@ -220,7 +220,7 @@ TEST_F(ABrowser, OpensAFolderAbove) {
   EXPECT_THAT(ItemsOf(browser.File1), ElementsAre("root.orb"));
 }
 
-TEST_F(ABrowser, FollowsTheFoldersToAnotherDrive) {
+TEST_F(ABrowser, SelectsTheDriveOfAnOpenedFolder) {
   Open();
   ClickFolder("/");
   ClickFolder("  media");
@@ -232,7 +232,7 @@ TEST_F(ABrowser, FollowsTheFoldersToAnotherDrive) {
   EXPECT_THAT(ItemsOf(browser.Dir1), ElementsAre("/media/stick", "  old"));
 }
 
-TEST_F(ABrowser, StaysWhereItIsWhenAFolderCannotBeRead) {
+TEST_F(ABrowser, KeepsItsFolderIfAnotherCannotBeRead) {
   Open();
   platform.files.Fail(Step::ListFolders, 70);
   platform.boxes.answers.push_back(BoxResult::Cancel);
@@ -244,7 +244,7 @@ TEST_F(ABrowser, StaysWhereItIsWhenAFolderCannotBeRead) {
   EXPECT_THAT(ItemsOf(browser.File1), ElementsAre("panel3.ORB", "panel4.orb"));
 }
 
-TEST_F(ABrowser, StaysWhereItIsWhenAFolderIsGone) {
+TEST_F(ABrowser, KeepsItsFolderIfAnotherIsMissing) {
   Open();
   platform.files.folders.erase("/home/user/Documents/Mines");
 
@@ -291,7 +291,7 @@ TEST_F(ABrowser, AddsNoSecondSeparatorAtTheTopOfADrive) {
   EXPECT_EQ(browser.RichTextBox1.Bytes(), "root\n");
 }
 
-TEST_F(ABrowser, ShowsALongFilePieceByPieceAndHowFarItIs) {
+TEST_F(ABrowser, ShowsALongFilePieceByPieceWithItsProgress) {
   const std::string bytes(TextBrowser::PieceBytes * 2, 'x');
   platform.files.files["/home/user/Documents/long.orb"] = bytes;
   Open();
@@ -312,7 +312,7 @@ TEST_F(ABrowser, ShowsALongFilePieceByPieceAndHowFarItIs) {
   EXPECT_EQ(browser.RichTextBox1.Bytes(), bytes);
 }
 
-TEST_F(ABrowser, ShowsThatNothingOfTheNextFileIsThereYet) {
+TEST_F(ABrowser, ClearsThePaneBeforeTheNextFile) {
   Open();
   ClickFile("panel3.ORB");
   Wait();
@@ -324,7 +324,7 @@ TEST_F(ABrowser, ShowsThatNothingOfTheNextFileIsThereYet) {
   EXPECT_EQ(browser.prgLoading.Value(), 0);
 }
 
-TEST_F(ABrowser, LeavesAFileForAnother) {
+TEST_F(ABrowser, StopsReadingAFileWhenAnotherIsChosen) {
   platform.files.files["/home/user/Documents/long.orb"] = std::string(TextBrowser::PieceBytes * 3, 'x');
   Open();
   ClickFile("long.orb");
@@ -337,7 +337,7 @@ TEST_F(ABrowser, LeavesAFileForAnother) {
   EXPECT_EQ(browser.Label1.Text(), "/home/user/Documents/panel4.orb");
 }
 
-TEST_F(ABrowser, ReadsNoFurtherOnceItIsClosed) {
+TEST_F(ABrowser, StopsReadingWhenItIsClosed) {
   platform.files.files["/home/user/Documents/long.orb"] = std::string(TextBrowser::PieceBytes * 3, 'x');
   Open();
   ClickFile("long.orb");
@@ -349,7 +349,7 @@ TEST_F(ABrowser, ReadsNoFurtherOnceItIsClosed) {
   EXPECT_EQ(browser.RichTextBox1.Bytes().size(), TextBrowser::PieceBytes);
 }
 
-TEST_F(ABrowser, MayBeGoneBeforeItsFileIs) {
+TEST_F(ABrowser, CanBeDestroyedWhileItReadsAFile) {
   platform.files.files["/home/user/Documents/long.orb"] = std::string(TextBrowser::PieceBytes * 3, 'x');
   {
     TextBrowser other(program);
@@ -363,7 +363,7 @@ TEST_F(ABrowser, MayBeGoneBeforeItsFileIs) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(ABrowser, TellsOfAFileThatCannotBeOpened) {
+TEST_F(ABrowser, ReportsAFileThatCannotBeOpened) {
   Open();
   platform.files.files.erase("/home/user/Documents/panel3.ORB");
   platform.boxes.answers.push_back(BoxResult::Cancel);
@@ -377,7 +377,7 @@ TEST_F(ABrowser, TellsOfAFileThatCannotBeOpened) {
   EXPECT_FALSE(browser.prgLoading.Visible());
 }
 
-// What is wrong is put right while the user is asked, who then wants to try again.
+// While the question is open, the user corrects the problem and then asks for a retry.
 struct AnotherTry : ABrowser {
   AnotherTry() {
     boxes.answers = {BoxResult::Retry};
@@ -389,7 +389,7 @@ struct AnotherTry : ABrowser {
   TextBrowser again{mended};
 };
 
-TEST_F(AnotherTry, OpensAFolderThatCanBeReadByThen) {
+TEST_F(AnotherTry, OpensAFolderThatCanThenBeRead) {
   constexpr int Never = 1'000'000;
   platform.files.Fail(Step::ListFolders, 70);
   boxes.meanwhile = [this] { platform.files.Fail(Step::ListFolders, 70, Never); };
@@ -401,7 +401,7 @@ TEST_F(AnotherTry, OpensAFolderThatCanBeReadByThen) {
   EXPECT_THAT(ItemsOf(again.File1), ElementsAre("east.orb"));
 }
 
-TEST_F(AnotherTry, ShowsAFileThatIsThereByThen) {
+TEST_F(AnotherTry, ShowsAFileThatThenExists) {
   platform.files.files.erase("/home/user/Documents/panel3.ORB");
   boxes.meanwhile = [this] { platform.files.files["/home/user/Documents/panel3.ORB"] = "cover\r\n725\r\n"; };
 
@@ -412,7 +412,7 @@ TEST_F(AnotherTry, ShowsAFileThatIsThereByThen) {
   EXPECT_EQ(again.RichTextBox1.Bytes(), "cover\r\n725\r\n");
 }
 
-TEST_F(ABrowser, KeepsWhatItHasOfAFileThatCannotBeReadToItsEnd) {
+TEST_F(ABrowser, KeepsTheBeginningOfAFileThatCannotBeReadToItsEnd) {
   platform.files.files["/home/user/Documents/long.orb"] = std::string(TextBrowser::PieceBytes * 3, 'x');
   Open();
   ClickFile("long.orb");
@@ -426,7 +426,7 @@ TEST_F(ABrowser, KeepsWhatItHasOfAFileThatCannotBeReadToItsEnd) {
   EXPECT_FALSE(browser.prgLoading.Visible());
 }
 
-TEST_F(AnotherTry, ShowsTheFileThatIsChosenWhileTheErrorOfAnotherIsShown) {
+TEST_F(AnotherTry, ShowsAFileThatIsChosenWhileAnErrorIsShown) {
   constexpr int Never = 1'000'000;
   platform.files.files["/home/user/Documents/long.orb"] = std::string(TextBrowser::PieceBytes * 3, 'x');
   again.Text2.SetText("*.orb;*.ORB");
@@ -445,7 +445,7 @@ TEST_F(AnotherTry, ShowsTheFileThatIsChosenWhileTheErrorOfAnotherIsShown) {
   EXPECT_EQ(again.RichTextBox1.Bytes(), "cover\r\n980\r\n");
 }
 
-// A file system that knows of one long file, most of which is never read.
+// A file system with one long file, most of which is never read.
 struct LongFiles : MemoryFiles {
   std::uint64_t FileLength(const std::string& path) override {
     return path == "/home/user/Documents/panel3.ORB" ? length : MemoryFiles::FileLength(path);
@@ -464,7 +464,7 @@ struct ALongFile : ABrowser {
   TextBrowser longBrowser{longProgram};
 };
 
-TEST_F(ALongFile, IsRefusedPlainly) {
+TEST_F(ALongFile, IsRefusedWithAMessage) {
   files.length = TextBrowser::MostBytes + 1;
   longBrowser.Open();
 
@@ -532,7 +532,7 @@ struct AnExternalViewer : ABrowser {
   }
 };
 
-TEST_F(AnExternalViewer, GetsACopyWithItsLineEndsMadeEven) {
+TEST_F(AnExternalViewer, GetsACopyWithUniformLineEnds) {
   ClickFile("notes.txt");
 
   EXPECT_THAT(platform.documents.started, ElementsAre(ElementsAre("/usr/bin/viewer", "/tmp/~tmpbr.tmp")));
@@ -543,7 +543,7 @@ TEST_F(AnExternalViewer, GetsACopyWithItsLineEndsMadeEven) {
   EXPECT_FALSE(platform.windows.waitCursor);
 }
 
-TEST_F(AnExternalViewer, IsNotStartedForAFileThatIsGone) {
+TEST_F(AnExternalViewer, IsNotStartedForAMissingFile) {
   platform.files.files.erase("/home/user/Documents/notes.txt");
 
   ClickFile("notes.txt");
@@ -552,7 +552,7 @@ TEST_F(AnExternalViewer, IsNotStartedForAFileThatIsGone) {
   EXPECT_THAT(platform.documents.started, IsEmpty());
 }
 
-TEST_F(AnExternalViewer, ThatDoesNotStartIsNamed) {
+TEST_F(AnExternalViewer, IsNamedIfItDoesNotStart) {
   platform.documents.opens = false;
 
   ClickFile("notes.txt");
@@ -571,7 +571,7 @@ struct AFontOfTheBrowser : ABrowser {
   }
 };
 
-TEST_F(AFontOfTheBrowser, IsTheOneChosen) {
+TEST_F(AFontOfTheBrowser, IsTheChosenOne) {
   platform.windows.onModal = [](Form& form) {
     dynamic_cast<List&>(*form.Find("lstFont")).ClickItem(0);
     dynamic_cast<TextBox&>(*form.Find("txtSize")).SetText("12");
@@ -583,7 +583,7 @@ TEST_F(AFontOfTheBrowser, IsTheOneChosen) {
   EXPECT_EQ(browser.RichTextBox1.Font(), (FontChoice{"Arial", 12, false, false}));
 }
 
-TEST_F(AFontOfTheBrowser, StaysWhenTheDialogIsCancelled) {
+TEST_F(AFontOfTheBrowser, DoesNotChangeIfTheDialogIsCancelled) {
   platform.windows.onModal = [](Form& form) {
     dynamic_cast<List&>(*form.Find("lstFont")).ClickItem(0);
     dynamic_cast<Button&>(*form.Find("cmdCancel")).Press();
@@ -595,7 +595,7 @@ TEST_F(AFontOfTheBrowser, StaysWhenTheDialogIsCancelled) {
   EXPECT_EQ(browser.RichTextBox1.Font(), (FontChoice{"Courier New", 10, false, false}));
 }
 
-TEST_F(AFontOfTheBrowser, MustBeThereOnTheMachine) {
+TEST_F(AFontOfTheBrowser, MustExistOnTheMachine) {
   browser.RichTextBox1.SetFont({"Terminal", 10, false, false});
   platform.windows.onModal = [](Form& form) { dynamic_cast<Button&>(*form.Find("cmdOK")).Press(); };
 

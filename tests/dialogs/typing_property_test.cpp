@@ -1,4 +1,4 @@
-// Whatever is typed, pasted or stored: no field ends the run.
+// Whatever is typed, pasted or stored, no field ends the run.
 #include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 
@@ -15,7 +15,7 @@ bool IsFigureOrDash(const std::string& text) {
   return text == "--" || text == "---" || text.empty() || LooseNumber(text).has_value();
 }
 
-// Sets one field after the other, in the order of the tab key, and presses each character as a key as well.
+// Sets each field in tab order, and also presses each character as a key.
 void TypeEverywhere(Form& form) {
   for (Control* control : form.Controls()) {
     const std::string text = *FieldTexts();

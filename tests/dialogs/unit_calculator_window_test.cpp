@@ -31,12 +31,12 @@ TEST_F(ACalculator, IsLoggedWhenItOpens) {
   EXPECT_THAT(program.session.history.Text, HasSubstr("Loading Unit Conversion Form"));
 }
 
-TEST_F(ACalculator, TitlesItsMessagesWithTheBareWords) {
+TEST_F(ACalculator, TitlesItsMessagesWithoutItsOwnName) {
   EXPECT_EQ(program.windows.titles.MessageTitle, "Message");
   EXPECT_EQ(program.windows.titles.ErrorTitle, "Error");
 }
 
-TEST_F(ACalculator, NamesItsKindsAndTheirUnits) {
+TEST_F(ACalculator, HasItsCaptions) {
   struct Kind {
     std::string_view tab;
     const Frame& units;
@@ -79,7 +79,7 @@ TEST_F(ACalculator, ShowsOneFootInAllLengths) {
   EXPECT_THAT(TextsOf(calculator.LengthResults), ElementsAre("12", "1", "30.48", "0.3048"));
 }
 
-TEST_F(ACalculator, FollowsTheInputAsItIsTyped) {
+TEST_F(ACalculator, FollowsTheTyping) {
   calculator.Option5.SetValue(1, true);
   calculator.txtLoad.SetText("2");
   calculator.txtLoad.SetText("27");
@@ -88,7 +88,7 @@ TEST_F(ACalculator, FollowsTheInputAsItIsTyped) {
               ElementsAre("54000", "27", "240.203906427234", "0.240203906427234", "54"));
 }
 
-TEST_F(ACalculator, ConvertsTheKindsApartFromEachOther) {
+TEST_F(ACalculator, ConvertsEachKindByItself) {
   calculator.txtLoadGrad.SetText("75");
   calculator.txtStress.SetText("145");
   calculator.txtStressGrad.SetText("0.09375");
@@ -109,7 +109,7 @@ TEST_F(ACalculator, ReadsANumberUpToItsSecondPoint) {
   EXPECT_EQ(calculator.LengthResults[1].Text(), "0.125");
 }
 
-TEST_F(ACalculator, LetsNumbersAndASecondPointPassButNoLetters) {
+TEST_F(ACalculator, AcceptsNumbersAndASecondPointButNoLetters) {
   for (TextBox* input : {&calculator.txtLength, &calculator.txtLoad, &calculator.txtLoadGrad, &calculator.txtStress,
                          &calculator.txtStressGrad}) {
     input->SetText("1.5");
@@ -119,7 +119,7 @@ TEST_F(ACalculator, LetsNumbersAndASecondPointPassButNoLetters) {
   }
 }
 
-TEST_F(ACalculator, PutsTheFocusIntoTheInputOfANewTabAndClearsNothing) {
+TEST_F(ACalculator, MovesTheFocusToTheInputOfANewTabAndClearsNothing) {
   calculator.txtLength.SetText("6");
   const std::array<const TextBox*, 5> inputs{&calculator.txtLength, &calculator.txtLoad, &calculator.txtLoadGrad,
                                              &calculator.txtStress, &calculator.txtStressGrad};
@@ -133,7 +133,7 @@ TEST_F(ACalculator, PutsTheFocusIntoTheInputOfANewTabAndClearsNothing) {
   EXPECT_EQ(calculator.LengthResults[1].Text(), "0.5");
 }
 
-TEST_F(ACalculator, ShowsADashForWhatCannotBeComputed) {
+TEST_F(ACalculator, ShowsADashForAResultThatCannotBeComputed) {
   calculator.txtStress.SetText("1E306");
   EXPECT_THAT(TextsOf(calculator.StressResults), ElementsAre("1E+306", "1E+303", "1.44E+308", "--", "--"));
 
@@ -141,7 +141,7 @@ TEST_F(ACalculator, ShowsADashForWhatCannotBeComputed) {
   EXPECT_EQ(calculator.StressResults[2].Text(), "20880");
 }
 
-TEST_F(ACalculator, ShowsDashesForANumberThatNothingHolds) {
+TEST_F(ACalculator, ShowsDashesForANumberThatIsTooLarge) {
   calculator.txtLoad.SetText("1E400");
 
   EXPECT_THAT(TextsOf(calculator.LoadResults), Each("--"));
@@ -160,7 +160,7 @@ TEST_F(ACalculator, ShowsAFigureOrADashWhateverIsTyped) {
   }));
 }
 
-TEST_F(ACalculator, OpensItsHelp) {
+TEST_F(ACalculator, OpensTheHelp) {
   platform.files.files["/program/ORBY.CHM"] = "help";
 
   calculator.Command3.Press();

@@ -23,7 +23,7 @@ struct AnUpdateDialog : UpdateTest {
     Bring(bytes);
   }
 
-  // Looks for the version, says Yes, and has the file brought with this sum.
+  // Checks for a version, answers Yes, and delivers the file with this checksum.
   void DownloadNewVersion(const std::string& versionFile, const std::string& sum) {
     platform.boxes.answers = {BoxResult::Yes};
     Check(versionFile);
@@ -38,7 +38,7 @@ struct AnUpdateDialog : UpdateTest {
 
 // ---- what it shows at first ----------------------------------------------------------------------------------------
 
-TEST_F(AnUpdateDialog, NamesItselfAndItsCommands) {
+TEST_F(AnUpdateDialog, HasItsCaptions) {
   EXPECT_EQ(dialog.Name(), "frmUpdate");
   EXPECT_EQ(dialog.Caption(), "Program Updates");
   EXPECT_EQ(dialog.cmdCheck.Caption(), "Check for Updates");
@@ -49,13 +49,13 @@ TEST_F(AnUpdateDialog, NamesItselfAndItsCommands) {
   EXPECT_EQ(dialog.Command1.Caption(), "Close");
 }
 
-TEST_F(AnUpdateDialog, TellsTheVersionAndItsDate) {
+TEST_F(AnUpdateDialog, ShowsTheVersionAndItsDate) {
   EXPECT_EQ(dialog.lblInfo.Caption(),
             "Current Program Version: 1.0.00 for Orby Roof Support Workbench\r\n"
             "Current Revision Date: 05-Jul-2023");
 }
 
-TEST_F(AnUpdateDialog, TellsTheAgeOfTheVersion) {
+TEST_F(AnUpdateDialog, ShowsTheAgeOfTheVersion) {
   EXPECT_EQ(dialog.lblUpdate.Caption(),
             "This version was released 20 days ago. Although major updates may not be scheduled, interim updates may "
             "be released with bug fixes. Check for an updated version by visiting the program web page below or click "
@@ -64,7 +64,7 @@ TEST_F(AnUpdateDialog, TellsTheAgeOfTheVersion) {
             "You may manually update the program by downloading and installing the new setup file.");
 }
 
-TEST_F(AnUpdateDialog, HasNothingToTellOfTheServerYet) {
+TEST_F(AnUpdateDialog, ShowsNothingAboutTheServerYet) {
   EXPECT_EQ(dialog.lblLastVer.Caption(), "");
   EXPECT_EQ(dialog.lblStatus.Caption(), "");
   EXPECT_EQ(dialog.lblbytes.Caption(), "");
@@ -112,7 +112,7 @@ TEST_F(AnUpdateDialog, FetchesTheVersionFileOnRequest) {
   EXPECT_EQ(LastAsked().request.path, VersionFileAt);
 }
 
-TEST_F(AnUpdateDialog, LooksEvenWhenTheCheckAtStartIsOff) {
+TEST_F(AnUpdateDialog, ChecksEvenIfTheCheckAtStartIsOff) {
   program.session.settings.RemindAnnualUpdates = 0;
 
   dialog.cmdCheck.Press();
@@ -184,7 +184,7 @@ TEST_F(AnUpdateDialog, SaysThatTheInformationIsInvalid) {
   }
 }
 
-TEST_F(AnUpdateDialog, SaysThatTheInformationIsInvalidWhenThereIsNoSuchFile) {
+TEST_F(AnUpdateDialog, SaysThatTheInformationIsInvalidIfTheFileIsMissing) {
   dialog.cmdCheck.Press();
   Fail(FetchEnd::Failed);
 
@@ -204,7 +204,7 @@ TEST_F(AnUpdateDialog, HasNoConnectionWithoutAServer) {
   EXPECT_FALSE(other.cmdWebPage.Enabled());
 }
 
-TEST_F(AnUpdateDialog, TellsWhenNothingCanBeFetchedAtAll) {
+TEST_F(AnUpdateDialog, SaysThatThisMachineCannotFetch) {
   dialog.cmdCheck.Press();
   Fail(FetchEnd::NoService);
 
@@ -213,7 +213,7 @@ TEST_F(AnUpdateDialog, TellsWhenNothingCanBeFetchedAtAll) {
   EXPECT_TRUE(dialog.cmdCheck.Enabled());
 }
 
-TEST_F(AnUpdateDialog, TellsWhenTheMachineHasNoNetwork) {
+TEST_F(AnUpdateDialog, SaysThatThereIsNoNetwork) {
   platform.downloads.works = false;
 
   dialog.cmdCheck.Press();
@@ -224,7 +224,7 @@ TEST_F(AnUpdateDialog, TellsWhenTheMachineHasNoNetwork) {
   EXPECT_EQ(Status(), "");
 }
 
-TEST_F(AnUpdateDialog, TellsWhenNobodyAnswers) {
+TEST_F(AnUpdateDialog, SaysThatTheServerDoesNotAnswer) {
   dialog.cmdCheck.Press();
   Fail(FetchEnd::NoConnection);
 
@@ -249,7 +249,7 @@ TEST_F(AnUpdateDialog, DownloadsTheSetupFileIntoTheFolderForDownloads) {
   EXPECT_FALSE(dialog.cmdDownUpdate.Enabled());
 }
 
-TEST_F(AnUpdateDialog, FindsOutTheVersionFirstWhenItIsNotKnown) {
+TEST_F(AnUpdateDialog, AsksForTheVersionBeforeTheDownloadIfItIsUnknown) {
   dialog.cmdDownUpdate.Press();
   EXPECT_EQ(LastAsked().request.path, VersionFileAt);
 
@@ -259,7 +259,7 @@ TEST_F(AnUpdateDialog, FindsOutTheVersionFirstWhenItIsNotKnown) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(AnUpdateDialog, ShowsHowFarTheDownloadIs) {
+TEST_F(AnUpdateDialog, ShowsTheProgressOfTheDownload) {
   DownloadNewVersion(NewVersion, {});
   dialog.cmdDownUpdate.Press();
 
@@ -275,7 +275,7 @@ TEST_F(AnUpdateDialog, ShowsHowFarTheDownloadIs) {
   EXPECT_EQ(dialog.lblbytes.Caption(), "2,000,000 of 2,000,000 kB");
 }
 
-TEST_F(AnUpdateDialog, ShowsTheBytesAloneWhenTheirNumberIsNotKnown) {
+TEST_F(AnUpdateDialog, ShowsOnlyTheReceivedBytesIfTheTotalIsUnknown) {
   DownloadNewVersion(NewVersion, {});
   dialog.cmdDownUpdate.Press();
 
@@ -287,7 +287,7 @@ TEST_F(AnUpdateDialog, ShowsTheBytesAloneWhenTheirNumberIsNotKnown) {
   EXPECT_EQ(dialog.lblbytes.Caption(), "123,457 kB");
 }
 
-TEST_F(AnUpdateDialog, TellsWhereTheProgramIs) {
+TEST_F(AnUpdateDialog, ShowsThePathOfTheDownload) {
   DownloadNewVersion(NewVersion, {});
 
   EXPECT_EQ(Status(), "Download completed. Program at: /home/user/Downloads/ORBY1.0.01.exe");
@@ -295,7 +295,7 @@ TEST_F(AnUpdateDialog, TellsWhereTheProgramIs) {
   EXPECT_TRUE(dialog.cmdInstall.Enabled());
 }
 
-TEST_F(AnUpdateDialog, TellsThatADownloadBroke) {
+TEST_F(AnUpdateDialog, ReportsABrokenDownload) {
   platform.boxes.answers = {BoxResult::Yes};
   Check(NewVersion);
   platform.boxes.shown.clear();
@@ -309,7 +309,7 @@ TEST_F(AnUpdateDialog, TellsThatADownloadBroke) {
   EXPECT_TRUE(dialog.cmdDownUpdate.Enabled());
 }
 
-TEST_F(AnUpdateDialog, TellsThatTheServerOfADownloadIsGone) {
+TEST_F(AnUpdateDialog, ReportsThatTheServerOfADownloadIsGone) {
   platform.boxes.answers = {BoxResult::Yes};
   Check(NewVersion);
   platform.boxes.shown.clear();
@@ -321,7 +321,7 @@ TEST_F(AnUpdateDialog, TellsThatTheServerOfADownloadIsGone) {
               ElementsAre("An error occurred calling InternetOpenUrl function", "Internet Connection Failed"));
 }
 
-TEST_F(AnUpdateDialog, TellsThatThereIsNoFolderForDownloads) {
+TEST_F(AnUpdateDialog, ReportsThatThereIsNoDownloadFolder) {
   platform.files.Fail(MemoryFiles::Step::MakeFolder, error_number::PermissionDenied);
   platform.boxes.answers = {BoxResult::Yes};
 
@@ -332,7 +332,7 @@ TEST_F(AnUpdateDialog, TellsThatThereIsNoFolderForDownloads) {
   EXPECT_TRUE(dialog.cmdDownUpdate.Enabled());
 }
 
-TEST_F(AnUpdateDialog, StopsTheDownloadWhenItCloses) {
+TEST_F(AnUpdateDialog, StopsTheDownloadWhenItIsClosed) {
   platform.boxes.answers = {BoxResult::Yes};
   Check(NewVersion);
 
@@ -355,7 +355,7 @@ TEST_F(AnUpdateDialog, DeletesAFileThatIsNotThePublishedOne) {
   EXPECT_FALSE(platform.files.files.contains(NewSetup));
 }
 
-TEST_F(AnUpdateDialog, AcceptsTheSumInAnyCase) {
+TEST_F(AnUpdateDialog, AcceptsTheChecksumInAnyCase) {
   DownloadNewVersion("1.0.01,9F86D081884C7D659A2FEAA0C55AD015A3BF4F1B2B0B822CD15D6C15B0F00A08", SumOfSetup);
 
   EXPECT_EQ(Status(), "Download completed. Program at: /home/user/Downloads/ORBY1.0.01.exe");
@@ -377,7 +377,7 @@ TEST_F(AnUpdateDialog, StartsACheckedCopyOfTheSetupFileAndEndsTheProgram) {
   EXPECT_FALSE(platform.windows.waitCursor);
 }
 
-TEST_F(AnUpdateDialog, StartsWhatWasDownloadedWhenTheServerTellsNoSum) {
+TEST_F(AnUpdateDialog, StartsTheDownloadedFileIfTheServerStatesNoChecksum) {
   DownloadNewVersion(NewVersion, OtherSum);
 
   dialog.cmdInstall.Press();
@@ -386,7 +386,7 @@ TEST_F(AnUpdateDialog, StartsWhatWasDownloadedWhenTheServerTellsNoSum) {
   EXPECT_EQ(ended, 1);
 }
 
-TEST_F(AnUpdateDialog, NeverStartsAFileThatWasExchangedSinceItsDownload) {
+TEST_F(AnUpdateDialog, NeverStartsAFileThatWasReplacedAfterItsDownload) {
   for (const std::string& versionFile : {NewVersion, NewVersionWithSum}) {
     DownloadNewVersion(versionFile, SumOfSetup);
     platform.downloads.sums[NewSetup] = OtherSum;
@@ -400,7 +400,7 @@ TEST_F(AnUpdateDialog, NeverStartsAFileThatWasExchangedSinceItsDownload) {
   }
 }
 
-TEST_F(AnUpdateDialog, StartsNothingThatCannotBeCopiedForItsCheck) {
+TEST_F(AnUpdateDialog, StartsNoFileThatCannotBeCopiedForItsCheck) {
   DownloadNewVersion(NewVersionWithSum, SumOfSetup);
   platform.downloads.copyError = error_number::DiskFull;
 
@@ -412,7 +412,7 @@ TEST_F(AnUpdateDialog, StartsNothingThatCannotBeCopiedForItsCheck) {
   EXPECT_FALSE(platform.windows.waitCursor);
 }
 
-TEST_F(AnUpdateDialog, GoesOnWhenTheSetupFileDoesNotStart) {
+TEST_F(AnUpdateDialog, StaysOpenIfTheSetupFileDoesNotStart) {
   DownloadNewVersion(NewVersionWithSum, SumOfSetup);
   platform.documents.opens = false;
 
@@ -440,7 +440,7 @@ TEST_F(AnUpdateDialog, SaysThatThereIsNoSetupFileBeforeAnyVersionIsKnown) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Update file: /home/user/Downloads/ORBY.exe not found"));
 }
 
-TEST_F(AnUpdateDialog, NeverStartsAFileWithAWrongSum) {
+TEST_F(AnUpdateDialog, NeverStartsAFileWithAWrongChecksum) {
   DownloadNewVersion(NewVersionWithSum, OtherSum);
   platform.files.files[NewSetup] = "put back by somebody";
 
@@ -450,7 +450,7 @@ TEST_F(AnUpdateDialog, NeverStartsAFileWithAWrongSum) {
   EXPECT_EQ(ended, 0);
 }
 
-TEST_F(AnUpdateDialog, NeverStartsAFileWithAWrongSumThatCannotBeDeleted) {
+TEST_F(AnUpdateDialog, NeverStartsAFileWithAWrongChecksumThatCannotBeDeleted) {
   platform.files.Fail(MemoryFiles::Step::Remove, error_number::PermissionDenied);
   DownloadNewVersion(NewVersionWithSum, OtherSum);
   EXPECT_EQ(Status(),
@@ -462,7 +462,7 @@ TEST_F(AnUpdateDialog, NeverStartsAFileWithAWrongSumThatCannotBeDeleted) {
   EXPECT_THAT(platform.documents.opened, IsEmpty());
 }
 
-TEST_F(AnUpdateDialog, StartsAFileOfAnotherDayWhenTheServerTellsNoSum) {
+TEST_F(AnUpdateDialog, StartsAFileOfAnotherDayIfTheServerStatesNoChecksum) {
   platform.files.files[NewSetup] = "of last week";
   platform.boxes.answers = {BoxResult::No};
   Check(NewVersion);
@@ -472,7 +472,7 @@ TEST_F(AnUpdateDialog, StartsAFileOfAnotherDayWhenTheServerTellsNoSum) {
   EXPECT_THAT(platform.documents.opened, ElementsAre(NewSetup));
 }
 
-TEST_F(AnUpdateDialog, StartsAFileOfAnotherDayOnlyWhenItIsTheOneOfTheSum) {
+TEST_F(AnUpdateDialog, StartsAFileOfAnotherDayOnlyIfItHasTheStatedChecksum) {
   platform.files.files[NewSetup] = "of last week";
   platform.downloads.sums[NewSetup] = OtherSum;
   platform.boxes.answers = {BoxResult::No};
@@ -491,7 +491,7 @@ TEST_F(AnUpdateDialog, StartsAFileOfAnotherDayOnlyWhenItIsTheOneOfTheSum) {
   EXPECT_THAT(platform.documents.opened, ElementsAre(CopyOfNewSetup));
 }
 
-TEST_F(AnUpdateDialog, NeverStartsAFileWhoseNextDownloadBroke) {
+TEST_F(AnUpdateDialog, NeverStartsAFileAfterItsNextDownloadBroke) {
   DownloadNewVersion(NewVersion, {});
   dialog.cmdDownUpdate.Press();
   Fail(FetchEnd::Failed);
@@ -501,7 +501,7 @@ TEST_F(AnUpdateDialog, NeverStartsAFileWhoseNextDownloadBroke) {
   EXPECT_THAT(platform.documents.opened, IsEmpty());
 }
 
-TEST_F(AnUpdateDialog, NeverStartsAFileOnceTheServerTellsAnotherSum) {
+TEST_F(AnUpdateDialog, NeverStartsAFileAfterTheServerStatesAnotherChecksum) {
   DownloadNewVersion(NewVersionWithSum, SumOfSetup);
   platform.boxes.answers = {BoxResult::No};
   Check("1.0.01," + OtherSum);
@@ -511,7 +511,7 @@ TEST_F(AnUpdateDialog, NeverStartsAFileOnceTheServerTellsAnotherSum) {
   EXPECT_THAT(platform.documents.opened, IsEmpty());
 }
 
-TEST_F(AnUpdateDialog, StillStartsTheFileAfterAnotherLookAtTheSameVersion) {
+TEST_F(AnUpdateDialog, StillStartsTheFileAfterAnotherCheckOfTheSameVersion) {
   DownloadNewVersion(NewVersionWithSum, SumOfSetup);
   platform.boxes.answers = {BoxResult::No};
   Check(NewVersionWithSum);
@@ -521,7 +521,7 @@ TEST_F(AnUpdateDialog, StillStartsTheFileAfterAnotherLookAtTheSameVersion) {
   EXPECT_THAT(platform.documents.opened, ElementsAre(CopyOfNewSetup));
 }
 
-TEST_F(AnUpdateDialog, NeverStartsAFileThatWasExchangedBeforeAnotherLookAtTheSameVersion) {
+TEST_F(AnUpdateDialog, NeverStartsAFileReplacedBeforeAnotherCheckOfTheSameVersion) {
   DownloadNewVersion(NewVersion, SumOfSetup);
   platform.downloads.sums[NewSetup] = OtherSum;
   platform.boxes.answers = {BoxResult::No};
@@ -532,7 +532,7 @@ TEST_F(AnUpdateDialog, NeverStartsAFileThatWasExchangedBeforeAnotherLookAtTheSam
   EXPECT_THAT(platform.documents.opened, IsEmpty());
 }
 
-TEST_F(AnUpdateDialog, DoesNotCheckAnotherVersionAgainstTheSumOfTheLastDownload) {
+TEST_F(AnUpdateDialog, DoesNotCompareAnotherVersionWithTheLastDownloadsChecksum) {
   DownloadNewVersion(NewVersion, SumOfSetup);
   platform.files.files[DownloadsFolder + "ORBY1.0.02.exe"] = "another setup";
   platform.boxes.answers = {BoxResult::No};
@@ -556,13 +556,13 @@ struct AFailedCheck : AnUpdateDialog {
   }
 };
 
-TEST_F(AFailedCheck, LeavesNothingToInstallAfterAnAnswerThatIsNone) {
+TEST_F(AFailedCheck, LeavesNothingToInstallAfterABadAnswer) {
   Check("<html>");
 
   ExpectNothingToInstall();
 }
 
-TEST_F(AFailedCheck, LeavesNothingToInstallWhenNobodyAnswers) {
+TEST_F(AFailedCheck, LeavesNothingToInstallIfTheServerDoesNotAnswer) {
   for (const FetchEnd end : {FetchEnd::NoConnection, FetchEnd::NoService, FetchEnd::Failed}) {
     dialog.cmdCheck.Press();
     Fail(end);
@@ -589,7 +589,7 @@ TEST_F(AFailedCheck, MakesTheNextDownloadAskForTheVersionAgain) {
   EXPECT_EQ(LastAsked().request.path, VersionFileAt);
 }
 
-TEST_F(AFailedCheck, IsMadeGoodByTheNextAnswer) {
+TEST_F(AFailedCheck, IsClearedByTheNextAnswer) {
   Check("<html>");
   platform.boxes.answers = {BoxResult::No};
   Check(NewVersionWithSum);
@@ -599,7 +599,7 @@ TEST_F(AFailedCheck, IsMadeGoodByTheNextAnswer) {
   EXPECT_THAT(platform.documents.opened, ElementsAre(CopyOfNewSetup));
 }
 
-TEST_F(AFailedCheck, IsForgottenByTheDownloadThatFollowsTheNextAnswer) {
+TEST_F(AFailedCheck, IsClearedForADownloadAfterTheNextAnswer) {
   Check("<html>");
   platform.boxes.answers = {BoxResult::Yes};
   Check(NewVersionWithSum);
@@ -609,7 +609,7 @@ TEST_F(AFailedCheck, IsForgottenByTheDownloadThatFollowsTheNextAnswer) {
   EXPECT_TRUE(dialog.cmdInstall.Enabled());
 }
 
-TEST_F(AnUpdateDialog, TellsTheHistoryOfASecondFieldThatIsNoSum) {
+TEST_F(AnUpdateDialog, RecordsInTheHistoryASecondFieldThatIsNoChecksum) {
   platform.boxes.answers = {BoxResult::No};
 
   Check("1.0.01,05-Jul-2024\r\n");
@@ -627,7 +627,7 @@ TEST_F(AnUpdateDialog, OpensTheWebPage) {
   EXPECT_THAT(platform.documents.opened, ElementsAre("https://updates.example.org/roof-support/"));
 }
 
-TEST_F(AnUpdateDialog, TellsWhenThereIsNoBrowser) {
+TEST_F(AnUpdateDialog, ReportsThatThereIsNoBrowser) {
   platform.documents.opens = false;
 
   dialog.cmdWebPage.Press();

@@ -1,4 +1,4 @@
-// A program with a server for its updates, on a platform of memory.
+// A program with an update server, on an in-memory platform.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -27,7 +27,7 @@ struct UpdateTest : testing::Test {
 
   ScriptedDownloads::Asked& LastAsked() { return platform.downloads.asked.back(); }
 
-  // The fetch that was begun last brings these bytes.
+  // Completes the last fetch with these bytes.
   void Bring(const std::string& bytes, const std::string& sha256 = {}) {
     platform.files.files[LastAsked().request.path] = bytes;
     platform.downloads.sums[LastAsked().request.path] = sha256;

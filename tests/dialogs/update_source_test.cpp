@@ -25,14 +25,14 @@ TEST(VersionFile, HoldsTheVersionUpToTheFirstCommaOrLineEnd) {
   EXPECT_EQ(VersionIn("2"), "2");
 }
 
-TEST(VersionFile, TellsTheSumOfTheSetupFileInItsSecondField) {
+TEST(VersionFile, HasTheChecksumOfTheSetupFileInItsSecondField) {
   EXPECT_EQ(SumIn("1.0.01," + SumOfSetup), SumOfSetup);
   EXPECT_EQ(SumIn("1.0.01," + SumOfSetup + "\r\n"), SumOfSetup);
   EXPECT_EQ(SumIn("1.0.01, " + SumOfSetup + " ,05-Jul-2023"), SumOfSetup);
   EXPECT_EQ(SumIn("1.0.01\r\n" + SumOfSetup + "\r\n"), SumOfSetup);
 }
 
-TEST(VersionFile, TellsASumOfAnyHexadecimalDigitsInAnyCase) {
+TEST(VersionFile, AcceptsAChecksumInAnyCase) {
   const std::string digits = "0123456789abcdef0123456789ABCDEF0123456789abcdef0123456789ABCDEF";
 
   EXPECT_EQ(SumIn("1.0.01," + digits), digits);
@@ -41,27 +41,27 @@ TEST(VersionFile, TellsASumOfAnyHexadecimalDigitsInAnyCase) {
   }
 }
 
-TEST(VersionFile, TellsAVersionOfLettersDigitsAndFourSigns) {
+TEST(VersionFile, AcceptsAVersionOfLettersDigitsAndFourSigns) {
   EXPECT_EQ(VersionIn("09.azAZ-rc_1+2"), "09.azAZ-rc_1+2");
   for (const char* bytes : {"1/", "1:", "1@", "1[", "1`", "1{"}) EXPECT_EQ(VersionIn(bytes), "nothing") << bytes;
 }
 
-TEST(VersionFile, MayLackTheSum) {
+TEST(VersionFile, MayLackTheChecksum) {
   EXPECT_EQ(SumIn("1.0.01\r\n"), "");
   EXPECT_EQ(SumIn("1.0.01,\r\n"), "");
 }
 
-TEST(VersionFile, MayHoldRemarksBelowTheVersion) {
+TEST(VersionFile, MayHaveRemarksAfterTheVersion) {
   EXPECT_EQ(VersionIn("1.0.01\r\nMends the printing of curves, and more.\r\n"), "1.0.01");
   EXPECT_EQ(SumIn("1.0.01\r\nMends the printing of curves, and more.\r\n"), "");
   EXPECT_EQ(SumIn("1.0.01," + SumOfSetup + "\r\nMends the printing of curves.\r\n"), SumOfSetup);
 }
 
-TEST(VersionFile, IsNoneWhenItIsEmpty) {
+TEST(VersionFile, IsInvalidIfItIsEmpty) {
   for (const char* bytes : {"", "\n", "\r\n", ",", ",1.0.01", "\r\n1.0.01"}) EXPECT_EQ(VersionIn(bytes), "nothing");
 }
 
-TEST(VersionFile, IsNoneWhenItsVersionCouldLeadElsewhere) {
+TEST(VersionFile, IsInvalidIfItsVersionIsNotSafeInAFileName) {
   for (const char* bytes : {"../1.0.01", "1/2", "1\\2", "1..2", "..", "1.0.01\x1B", "1.0\t1", "1.0 1", "1\"0", "~",
                             "1:2", "1%2F2", "1?x", "1#x", "<html>", "\"../1\"", "1.0.0\xC3\xA4", "1\xEF\xBB\xBF"}) {
     EXPECT_EQ(VersionIn(bytes), "nothing") << bytes;
@@ -71,7 +71,7 @@ TEST(VersionFile, IsNoneWhenItsVersionCouldLeadElsewhere) {
   EXPECT_EQ(VersionIn(std::string(65, '1')), "nothing");
 }
 
-TEST(VersionFile, MayHaveBlanksQuotesAndAMarkOfUtf8AroundTheVersion) {
+TEST(VersionFile, MayHaveSpacesQuotesAndAByteOrderMarkAroundTheVersion) {
   for (const char* bytes : {"1.0.01 ", " 1.0.01\r\n", "\t1.0.01\t,", "\"1.0.01\"", "'1.0.01'\r\n", " \" 1.0.01 \" ",
                             "\xEF\xBB\xBF"
                             "1.0.01\r\n",
@@ -81,7 +81,7 @@ TEST(VersionFile, MayHaveBlanksQuotesAndAMarkOfUtf8AroundTheVersion) {
   EXPECT_EQ(SumIn("\xEF\xBB\xBF\"1.0.01\",\"" + SumOfSetup + "\"\r\n"), SumOfSetup);
 }
 
-TEST(VersionFile, MayHaveASecondFieldThatIsNoSum) {
+TEST(VersionFile, MayHaveASecondFieldThatIsNoChecksum) {
   for (const std::string& field : {std::string("9f86d0"), SumOfSetup + "0", "g" + SumOfSetup.substr(1)}) {
     const auto offered = ReadVersionFile("1.0.01," + field + "\r\n");
 
@@ -110,7 +110,7 @@ TEST(OfferedVersions, AreComparedAsTexts) {
 
 struct UpdatePlaces : UpdateTest {};
 
-TEST_F(UpdatePlaces, LieOnTheServer) {
+TEST_F(UpdatePlaces, AreOnTheServer) {
   EXPECT_TRUE(HasUpdateServer(program.session));
   EXPECT_EQ(VersionFileAddress(program.session),
             "https://updates.example.org/wp-content/uploads/2020/04/orby_version.txt");
@@ -119,7 +119,7 @@ TEST_F(UpdatePlaces, LieOnTheServer) {
   EXPECT_EQ(WebPageAddress(program.session), "https://updates.example.org/roof-support/");
 }
 
-TEST_F(UpdatePlaces, AreTheSameWithASlashBehindTheServer) {
+TEST_F(UpdatePlaces, AreTheSameWithASlashAfterTheServer) {
   program.session.UpdateServer = "https://updates.example.org/";
 
   EXPECT_EQ(WebPageAddress(program.session), "https://updates.example.org/roof-support/");
@@ -131,7 +131,7 @@ TEST_F(UpdatePlaces, AreMissingWithoutAServer) {
   EXPECT_FALSE(HasUpdateServer(program.session));
 }
 
-TEST_F(UpdatePlaces, AreTheProgramsAndTheUsersFolders) {
+TEST_F(UpdatePlaces, AreInTheProgramsAndTheUsersFolders) {
   EXPECT_EQ(VersionFilePath(program.session), "/home/user/Documents/MyStrataDesk/ORBY/orby_version.txt");
   EXPECT_EQ(DownloadFolder(program.session), "/home/user/Downloads/");
   EXPECT_EQ(SetupFilePath(program.session, "1.0.01"), "/home/user/Downloads/ORBY1.0.01.exe");
