@@ -1,4 +1,4 @@
-// The window of the backups, as its reader uses it.
+// The backups window as its user sees it.
 #include <QAbstractButton>
 #include <QLineEdit>
 #include <QTableWidget>
@@ -18,7 +18,7 @@ using testing::SizeIs;
 struct BackupsView : GuiTest {
   BackupsView() { program.session.folders.ProgramData = "/home/user/Documents/Orby/"; }
 
-  // Unsaved changes of three panels, the third the newest.
+  // Leaves backups of unsaved changes of three panels. The third is the newest.
   void KeepThree() {
     for (const Single depth : {710.0F, 720.0F, 730.0F}) {
       program.project.CurrentFile = "/designs/panel at " + std::to_string(static_cast<int>(depth)) + ".orb";
@@ -39,7 +39,7 @@ std::vector<std::string> RowOn(const QWidget& window, int row) {
   return texts;
 }
 
-TEST_F(BackupsView, ListsThemUnderItsHeaders) {
+TEST_F(BackupsView, ListsTheBackupsUnderItsHeaders) {
   KeepThree();
 
   Use(backups, [](QDialog& window) {
@@ -55,7 +55,7 @@ TEST_F(BackupsView, ListsThemUnderItsHeaders) {
   EXPECT_FALSE(backups.Chosen);
 }
 
-TEST_F(BackupsView, OpensTheOneThatTheArrowKeysReachWithEnter) {
+TEST_F(BackupsView, OpensTheBackupSelectedByTheArrowKeysWithEnter) {
   KeepThree();
 
   Use(backups, [](QDialog& window) {
@@ -71,7 +71,7 @@ TEST_F(BackupsView, OpensTheOneThatTheArrowKeysReachWithEnter) {
   EXPECT_EQ(backups.Chosen->WorkParms.Place.DepthofCover, 710);
 }
 
-TEST_F(BackupsView, DeletesTheSelectedOneByItsLetterAndGoesToTheNext) {
+TEST_F(BackupsView, DeletesTheSelectedBackupByItsLetterAndSelectsTheNext) {
   KeepThree();
   platform.boxes.answers = {BoxResult::Yes};
 
@@ -85,7 +85,7 @@ TEST_F(BackupsView, DeletesTheSelectedOneByItsLetterAndGoesToTheNext) {
   EXPECT_THAT(ListBackups(program), SizeIs(2));
 }
 
-TEST_F(BackupsView, SavesTheSelectedOneByItsLetter) {
+TEST_F(BackupsView, SavesTheSelectedBackupByItsLetter) {
   KeepThree();
   platform.fileDialogs.answers = {"/designs/back.orb"};
 
@@ -98,7 +98,7 @@ TEST_F(BackupsView, SavesTheSelectedOneByItsLetter) {
   EXPECT_EQ(platform.files.files.at("/designs/back.orb"), ProjectFileBytes(program.project));
 }
 
-TEST_F(BackupsView, ShowsAnEmptyTableWithItsHeadersAndCanBeLeft) {
+TEST_F(BackupsView, ShowsAnEmptyTableWithItsHeadersAndCanBeClosed) {
   Use(backups, [](QDialog& window) {
     EXPECT_EQ(Find<QTableWidget>(window, "grdBackups").rowCount(), 0);
     EXPECT_EQ(TextOn(window, "lblState"), "There are no backups.");

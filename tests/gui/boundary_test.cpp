@@ -1,4 +1,4 @@
-// What a run-time error meets that nothing has dealt with, and what the view does around an act of the user.
+// The outermost handler of run-time errors, and the notification after each action of the user.
 #include "qt/boundary.h"
 
 #include <QAbstractButton>
@@ -20,7 +20,7 @@ using testing::IsEmpty;
 
 class Boundary : public GuiTest {
  protected:
-  // A design that passes the checks and that no report can be computed of.
+  // Enters a design that passes the checks and whose report fails.
   void MakeReportFail() {
     program.project.WorkParms.Primary.Analysed = 1;
     program.project.WorkParms.Primary.StabilityFactor = 1E38F;
@@ -29,22 +29,22 @@ class Boundary : public GuiTest {
   ParametersDialog dialog{program};
 };
 
-TEST_F(Boundary, SaysWhetherAnActCameToItsEnd) {
+TEST_F(Boundary, ReturnsWhetherAnActionCompleted) {
   EXPECT_TRUE(RunGuarded([] {}));
   EXPECT_FALSE(RunGuarded([] { throw RuntimeError(error_number::Overflow); }));
   EXPECT_THAT(TakeErrors(), ElementsAre(6));
 }
 
-TEST_F(Boundary, TakesAShortageOfMemoryForARunTimeError) {
+TEST_F(Boundary, TreatsAShortageOfMemoryAsARunTimeError) {
   EXPECT_FALSE(RunGuarded([] { throw std::bad_alloc(); }));
   EXPECT_THAT(TakeErrors(), ElementsAre(7));
 }
 
-TEST_F(Boundary, LeavesAProgrammersMistakeAlone) {
+TEST_F(Boundary, DoesNotCatchAProgrammersMistake) {
   EXPECT_THROW(RunGuarded([] { throw std::logic_error("no widget"); }), std::logic_error);
 }
 
-TEST_F(Boundary, MeetsTheErrorOfAReportThatCannotBeComputed) {
+TEST_F(Boundary, CatchesTheErrorOfAReportThatCannotBeComputed) {
   MakeReportFail();
   Use(dialog, [this](QDialog& window) {
     PressLetterOf(window, "cmdresults");
@@ -53,13 +53,13 @@ TEST_F(Boundary, MeetsTheErrorOfAReportThatCannotBeComputed) {
   });
 }
 
-TEST_F(Boundary, IsNotReachedByWhatIsTypedIntoAField) {
+TEST_F(Boundary, IsNotReachedByAnyTextInAField) {
   Use(dialog, [this](QDialog& window) {
     for (const char* text : {"", "0.9", "-"}) {
       TypeInto(window, "txtDepthofCover", text);
       EXPECT_EQ(TextOn(window, "txtDepthofCover"), text);
     }
-    // An exponent can only be pasted: its letter alone makes no number.
+    // An exponent can only be pasted, because a typed letter is refused.
     for (const char* text : {"1E40", "1E400"}) {
       QGuiApplication::clipboard()->setText(text);
       Press(Qt::Key_A, Qt::ControlModifier);
@@ -71,7 +71,7 @@ TEST_F(Boundary, IsNotReachedByWhatIsTypedIntoAField) {
   });
 }
 
-TEST_F(Boundary, TellsOfEachActThatIsDone) {
+TEST_F(Boundary, NotifiesTheFormAfterEachAction) {
   int acts = 0;
   dialog.Acted = [&] { ++acts; };
   Use(dialog, [&](QDialog& window) {
@@ -85,7 +85,7 @@ TEST_F(Boundary, TellsOfEachActThatIsDone) {
   EXPECT_EQ(acts, 4);
 }
 
-TEST_F(Boundary, DoesNotTellOfAnActThatFails) {
+TEST_F(Boundary, DoesNotNotifyTheFormAfterAFailedAction) {
   int acts = 0;
   MakeReportFail();
   dialog.Acted = [&] { ++acts; };
@@ -97,7 +97,7 @@ TEST_F(Boundary, DoesNotTellOfAnActThatFails) {
   });
 }
 
-TEST_F(Boundary, MeetsTheErrorOfAButtonToo) {
+TEST_F(Boundary, CatchesTheErrorOfAButton) {
   CostDialog cost(program);
   int acts = 0;
   cost.Acted = [&] { ++acts; };
@@ -111,7 +111,7 @@ TEST_F(Boundary, MeetsTheErrorOfAButtonToo) {
   });
 }
 
-TEST_F(Boundary, LetsAButtonActAfterItsClickHasEnded) {
+TEST_F(Boundary, RunsAButtonsActionAfterItsClick) {
   CostDialog cost(program);
   bool acted = false;
   cost.Command5.Click = [&] { acted = true; };

@@ -1,4 +1,4 @@
-// The user's folder for what programs can make anew, moved to another place for as long as this lives.
+// Moves the user's cache folder to another folder as long as this object exists.
 #pragma once
 
 #include <QByteArray>

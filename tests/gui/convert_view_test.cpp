@@ -1,4 +1,4 @@
-// The file conversion utility as its user sees it.
+// The file conversion dialog as its user sees it.
 #include <QRadioButton>
 
 #include "dialogs/convert_dialog.h"
@@ -17,14 +17,14 @@ class ConvertView : public GuiTest {
     program.project.FileEmpty = false;
   }
 
-  // The user converts the open design, in a dialog of its own.
+  // Converts the open design in a new dialog.
   void Convert() {
     ConvertDialog dialog(program);
     Use(dialog, [](QDialog& window) { Click(window, "Command2"); });
   }
 };
 
-TEST_F(ConvertView, OffersTheOtherUnitsAlone) {
+TEST_F(ConvertView, OffersOnlyTheOtherUnits) {
   ConvertDialog dialog(program);
   Use(dialog, [](QDialog& window) {
     EXPECT_EQ(window.windowTitle(), "File Conversion Utility");
@@ -37,7 +37,7 @@ TEST_F(ConvertView, OffersTheOtherUnitsAlone) {
   });
 }
 
-TEST_F(ConvertView, OpensWithTheChoiceThatAConversionMakes) {
+TEST_F(ConvertView, OpensWithTheConvertedProjectSelected) {
   ConvertDialog dialog(program);
   Use(dialog, [](QDialog& window) {
     EXPECT_EQ(CaptionOn(window, "Option2_1"), "Load converted project ");
@@ -73,7 +73,7 @@ TEST_F(ConvertView, ConvertsBackByTheEnterKey) {
   EXPECT_EQ(program.project.CurrentFile, "English_Metric_panel3.ORB");
 }
 
-TEST_F(ConvertView, LeavesTheDesignAloneWhenItIsCancelled) {
+TEST_F(ConvertView, LeavesTheDesignUnchangedIfItIsCancelled) {
   ConvertDialog dialog(program);
 
   Use(dialog, [](QDialog& window) { Click(window, "Command1"); });

@@ -22,7 +22,7 @@ class CostView : public GuiTest {
   CostDialog dialog{program};
 };
 
-TEST_F(CostView, CalculatesWhileOneTypes) {
+TEST_F(CostView, CalculatesWhileTheUserTypes) {
   Use(dialog, [](QDialog& window) {
     EXPECT_EQ(TextOn(window, "txtAdvanceShiftCalc"), "300");
     PressLetterOf(window, "txtnboltsShift");
@@ -36,7 +36,7 @@ TEST_F(CostView, CalculatesWhileOneTypes) {
   });
 }
 
-TEST_F(CostView, IsFilledInAndAcceptedByTheKeyboardAlone) {
+TEST_F(CostView, CanBeFilledInAndAcceptedByTheKeyboard) {
   Use(dialog, [](QDialog& window) {
     EXPECT_EQ(FocusName(), "txtBoltCost");
     Type("3.25");
@@ -65,7 +65,7 @@ TEST_F(CostView, IsFilledInAndAcceptedByTheKeyboardAlone) {
   EXPECT_FALSE(program.project.FileSaved);
 }
 
-TEST_F(CostView, ForgetsTheTypedCostsOnEscape) {
+TEST_F(CostView, DiscardsTheTypedCostsOnEscape) {
   Use(dialog, [](QDialog&) {
     Type("9");
     Press(Qt::Key_Escape);
@@ -75,7 +75,7 @@ TEST_F(CostView, ForgetsTheTypedCostsOnEscape) {
   EXPECT_TRUE(program.project.FileSaved);
 }
 
-TEST_F(CostView, ForgetsTheTypedCostsWhenItsWindowIsClosed) {
+TEST_F(CostView, DiscardsTheTypedCostsWhenItsWindowIsClosed) {
   Use(dialog, [](QDialog& window) {
     Type("9");
     window.close();
@@ -85,7 +85,7 @@ TEST_F(CostView, ForgetsTheTypedCostsWhenItsWindowIsClosed) {
   EXPECT_FALSE(dialog.IsOpen());
 }
 
-TEST_F(CostView, TakesTheKeyboardToTheCostThatIsNegative) {
+TEST_F(CostView, MovesTheFocusToTheNegativeCost) {
   Use(dialog, [this](QDialog& window) {
     QGuiApplication::clipboard()->setText("-2");
     Find(window, "txtResinCost").setFocus(Qt::TabFocusReason);
@@ -103,7 +103,7 @@ TEST_F(CostView, TakesTheKeyboardToTheCostThatIsNegative) {
   });
 }
 
-TEST_F(CostView, LetsNoLetterIntoACost) {
+TEST_F(CostView, RefusesALetterInACost) {
   Use(dialog, [](QDialog& window) {
     Type("1e2,x");
     EXPECT_EQ(TextOn(window, "txtBoltCost"), "12,");
@@ -111,7 +111,7 @@ TEST_F(CostView, LetsNoLetterIntoACost) {
   });
 }
 
-TEST_F(CostView, ShowsItsFiguresWhereNothingCanBeTyped) {
+TEST_F(CostView, ShowsItsFiguresInReadOnlyFields) {
   Use(dialog, [](QDialog& window) {
     auto& figure = Find<QLineEdit>(window, "txtAdvanceShiftCalc");
     EXPECT_TRUE(figure.isReadOnly());
@@ -163,7 +163,7 @@ class CopyClip : public CostView {
   CopyClip() : CostView(WithRealClipboard()) {}
 };
 
-TEST_F(CopyClip, PutsThePictureOfTheDialogOnTheClipboard) {
+TEST_F(CopyClip, CopiesThePictureOfTheDialogToTheClipboard) {
   QGuiApplication::clipboard()->clear();
 
   QImage expected;

@@ -16,7 +16,7 @@ class DescriptionView : public GuiTest {
 
 bool IsOn(const QWidget& window, std::string_view name) { return Find<QAbstractButton>(window, name).isChecked(); }
 
-TEST_F(DescriptionView, TakesATypedTitleWithEnter) {
+TEST_F(DescriptionView, AcceptsATypedTitleOnEnter) {
   Use(dialog, [](QDialog& window) {
     PressLetterOf(window, "Text1");
     Type("Panel 3, north mains");
@@ -27,7 +27,7 @@ TEST_F(DescriptionView, TakesATypedTitleWithEnter) {
   EXPECT_EQ(program.project.ProjectTitle, "Panel 3, north mains");
 }
 
-TEST_F(DescriptionView, BeginsInTheTitle) {
+TEST_F(DescriptionView, OpensWithTheFocusOnTheTitle) {
   Use(dialog, [](QDialog&) {
     EXPECT_EQ(FocusName(), "Text1");
     Press(Qt::Key_Tab);
@@ -38,7 +38,7 @@ TEST_F(DescriptionView, BeginsInTheTitle) {
   });
 }
 
-TEST_F(DescriptionView, TakesADescriptionOfSeveralLines) {
+TEST_F(DescriptionView, AcceptsADescriptionOfSeveralLines) {
   Use(dialog, [](QDialog& window) {
     Find(window, "Text2").setFocus(Qt::TabFocusReason);
     Type("Headgate");
@@ -63,7 +63,7 @@ TEST_F(DescriptionView, ShowsADescriptionOfSeveralLines) {
   EXPECT_EQ(program.project.ProjectDescription, "Headgate\r\nsecond cut");
 }
 
-TEST_F(DescriptionView, ForgetsEverythingOnEscape) {
+TEST_F(DescriptionView, DiscardsEverythingOnEscape) {
   Use(dialog, [](QDialog& window) {
     Type("Panel 4");
     PressLetterOf(window, "Option1_1");
@@ -89,7 +89,7 @@ TEST_F(DescriptionView, LocksTheUnitsAndStrengthsOfAnOpenedFile) {
   });
 }
 
-TEST_F(DescriptionView, OffersTheAustralianTableToMetresOnly) {
+TEST_F(DescriptionView, OffersTheAustralianTableOnlyInMetres) {
   Use(dialog, [](QDialog& window) {
     EXPECT_FALSE(Find(window, "Check1").isEnabled());
     PressLetterOf(window, "Option1_1");
@@ -106,7 +106,7 @@ TEST_F(DescriptionView, OffersTheAustralianTableToMetresOnly) {
   });
 }
 
-TEST_F(DescriptionView, KeepsItsTwoChoicesApart) {
+TEST_F(DescriptionView, ChangesEachOfItsTwoChoicesByItself) {
   Use(dialog, [](QDialog& window) {
     PressLetterOf(window, "Option2_1");
     EXPECT_TRUE(IsOn(window, "Option2_1"));
@@ -118,7 +118,7 @@ TEST_F(DescriptionView, KeepsItsTwoChoicesApart) {
   EXPECT_EQ(program.project.WorkParms.Units, English);
 }
 
-TEST_F(DescriptionView, AsksForTheParametersOnNextForm) {
+TEST_F(DescriptionView, OpensTheParametersOnNextForm) {
   Use(dialog, [](QDialog& window) {
     Type("Panel 5");
     PressLetterOf(window, "Command4");

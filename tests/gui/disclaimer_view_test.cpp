@@ -1,4 +1,4 @@
-// The disclaimer as its user meets it.
+// The disclaimer as its user sees it.
 #include <QPlainTextEdit>
 
 #include "dialogs/disclaimer.h"
@@ -17,7 +17,7 @@ class DisclaimerView : public GuiTest {
   Disclaimer disclaimer{program};
 };
 
-TEST_F(DisclaimerView, WrapsItsTextAndLetsNobodyChangeIt) {
+TEST_F(DisclaimerView, WrapsItsReadOnlyText) {
   Use(disclaimer, [](QDialog& window) {
     const auto& text = Find<QPlainTextEdit>(window, "txtDisclaimer");
     EXPECT_TRUE(text.isReadOnly());
@@ -27,7 +27,7 @@ TEST_F(DisclaimerView, WrapsItsTextAndLetsNobodyChangeIt) {
   });
 }
 
-TEST_F(DisclaimerView, IsNotPassedByEscapeOrTheCrossOfItsWindow) {
+TEST_F(DisclaimerView, CannotBeSkippedByEscapeOrTheCloseButton) {
   Use(disclaimer, [](QDialog& window) {
     Press(Qt::Key_Escape);
     EXPECT_TRUE(window.isVisible());
@@ -48,7 +48,7 @@ TEST_F(DisclaimerView, IsAcceptedByTheKeyboard) {
   EXPECT_THAT(platform.files.created, Not(IsEmpty()));
 }
 
-TEST_F(DisclaimerView, EndsTheProgramWhenItIsRefused) {
+TEST_F(DisclaimerView, EndsTheProgramIfItIsRefused) {
   int ended = 0;
   program.EndAtOnce = [&] { ++ended; };
 

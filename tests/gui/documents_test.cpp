@@ -1,4 +1,4 @@
-// Opening files with the programs of the desktop, which two scripts stand in for.
+// Opening files in the programs of the desktop. Two scripts stand in for the desktop's tools.
 #include "qt/documents.h"
 
 #include <QFile>
@@ -14,7 +14,7 @@ using testing::Eq;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-// A desktop that knows no program, until it is given its tools.
+// A desktop without any tools. The test adds them.
 class FakeDesktop {
  public:
   FakeDesktop() : path_(qgetenv("PATH")) { qputenv("PATH", folder_.path().toUtf8()); }
@@ -22,14 +22,14 @@ class FakeDesktop {
   FakeDesktop(const FakeDesktop&) = delete;
   FakeDesktop& operator=(const FakeDesktop&) = delete;
 
-  // The program that the desktop names for a spreadsheet; empty for none.
+  // Adds the tool that names the desktop's program for spreadsheets; empty for none.
   void AddTypes(const QString& program) { AddScript("xdg-mime", "echo '" + program + "'"); }
   void AddOpener() { AddScript("xdg-open", "printf '%s' \"$1\" > '" + OpenedFile() + "'"); }
-  // One that stays until the file is closed, after it has done this.
+  // Adds a tool that opens the file and runs until the file is closed.
   void AddLastingOpener() { AddScript("xdg-open", "printf '%s' \"$1\" > '" + OpenedFile() + "'; /bin/sleep 3"); }
   void AddFailingOpener() { AddScript("xdg-open", "exit 3"); }
 
-  // The file that was opened last; waits for it, for the opener runs by itself.
+  // Returns the file that was opened last. Waits for it, because the tool runs by itself.
   std::string Opened() const {
     QByteArray opened;
     const auto isThere = [&] {
@@ -57,7 +57,7 @@ class FakeDesktop {
 
 class OpeningDocuments : public testing::Test {
  protected:
-  // The error of the sheet's opening, and its words.
+  // Returns the number and text of the error when a sheet is opened.
   std::pair<int, std::string> ErrorOfSheet() {
     try {
       documents.OpenSheet({"", "Depth of Cover (ft)", "Suggested PSUP", {{"X-coord", "Sug.PSUP", {200}, {3.25}}}},
@@ -73,7 +73,7 @@ class OpeningDocuments : public testing::Test {
   QtDocuments documents;
 };
 
-TEST_F(OpeningDocuments, HandsAFileToTheDesktop) {
+TEST_F(OpeningDocuments, PassesAFileToTheDesktop) {
   desktop.AddOpener();
 
   EXPECT_TRUE(documents.Open("/program/ORBY.PDF"));
@@ -81,15 +81,15 @@ TEST_F(OpeningDocuments, HandsAFileToTheDesktop) {
   EXPECT_THAT(desktop.Opened(), Eq("/program/ORBY.PDF"));
 }
 
-TEST_F(OpeningDocuments, TellsWhenTheDesktopHasNoOpener) { EXPECT_FALSE(documents.Open("/program/ORBY.PDF")); }
+TEST_F(OpeningDocuments, FailsIfTheDesktopHasNoTool) { EXPECT_FALSE(documents.Open("/program/ORBY.PDF")); }
 
-TEST_F(OpeningDocuments, TellsWhenTheDesktopHasNoProgramForTheFile) {
+TEST_F(OpeningDocuments, FailsIfTheDesktopHasNoProgramForTheFile) {
   desktop.AddFailingOpener();
 
   EXPECT_FALSE(documents.Open("/program/ORBY.PDF"));
 }
 
-TEST_F(OpeningDocuments, GoesOnWhileTheFileIsOpen) {
+TEST_F(OpeningDocuments, ReturnsWhileTheFileIsStillOpen) {
   desktop.AddLastingOpener();
 
   EXPECT_TRUE(documents.Open("/program/ORBY.PDF"));
@@ -107,7 +107,7 @@ TEST_F(OpeningDocuments, WritesASheetAndOpensIt) {
   EXPECT_TRUE(QFile::exists(ToQt(sheet)));
 }
 
-TEST_F(OpeningDocuments, SaysWhereTheSheetIsWhenNoProgramOpensIt) {
+TEST_F(OpeningDocuments, SaysWhereTheSheetIsIfNoProgramOpensIt) {
   desktop.AddTypes("");
   desktop.AddOpener();
 
@@ -132,7 +132,7 @@ class GraphExport : public GraphViewTest {
   GraphExport() : GraphViewTest({.documents = &documents}) {
     program.session.folders.ProgramTemporary = desktop.File("").toStdString() + "/";
   }
-  // By the keys: the entry below Print has no letter.
+  // Chooses the item by the arrow keys, because it has no letter.
   void Export() {
     Press(Qt::Key_F, Qt::AltModifier);
     PressInMenu(Qt::Key_Down);
@@ -154,7 +154,7 @@ TEST_F(GraphExport, OpensTheCurveInASpreadsheet) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Exported 1 Curve"));
 }
 
-TEST_F(GraphExport, TellsWhereTheFileIsWithoutASpreadsheetProgram) {
+TEST_F(GraphExport, SaysWhereTheFileIsWithoutASpreadsheetProgram) {
   platform.boxes.answers = {BoxResult::Cancel};
 
   Export();

@@ -1,4 +1,4 @@
-// Fetching files from a server on this machine.
+// Downloads from a server on this machine.
 #include "qt/downloads.h"
 
 #include <QDir>
@@ -72,7 +72,7 @@ class Downloading : public testing::Test {
     return names;
   }
 
-  // Begins a file that breaks off.
+  // Starts a download that breaks off.
   void FetchHalf(const QByteArray& bytes, qsizetype half, const QByteArray& mark) {
     server.ServeBroken("/setup", bytes, half, mark);
     EXPECT_EQ(Fetch(To(server.Address("/setup"), true)).end, FetchEnd::Failed);
@@ -91,7 +91,7 @@ class Downloading : public testing::Test {
 
 // ---- whole files ---------------------------------------------------------------------------------------------------
 
-TEST_F(Downloading, BringsAFileAsItIs) {
+TEST_F(Downloading, BringsAFileUnchanged) {
   server.ServeFile("/file", "abc");
 
   const FetchOutcome ended = Fetch(To(server.Address("/file")));
@@ -102,7 +102,7 @@ TEST_F(Downloading, BringsAFileAsItIs) {
   EXPECT_THAT(FilesThere(), ElementsAre("file"));
 }
 
-TEST_F(Downloading, BringsALineEndAsItIs) {
+TEST_F(Downloading, BringsLineEndsUnchanged) {
   server.ServeFile("/file", "1.0.01\r\n");
 
   EXPECT_EQ(EndOf(server.Address("/file")), FetchEnd::Done);
@@ -159,7 +159,7 @@ TEST_F(Downloading, BringsALargeFileOfUnknownLengthWhole) {
   EXPECT_EQ(ended.sha256, Sha256Of(bytes));
 }
 
-TEST_F(Downloading, TakesThePlaceOfAnOlderFile) {
+TEST_F(Downloading, ReplacesAnOlderFile) {
   server.ServeFile("/old", "old and long");
   server.ServeFile("/new", "new");
   EXPECT_EQ(EndOf(server.Address("/old")), FetchEnd::Done);
@@ -169,7 +169,7 @@ TEST_F(Downloading, TakesThePlaceOfAnOlderFile) {
   EXPECT_EQ(Arrived(), "new");
 }
 
-TEST_F(Downloading, TellsNothingBeforeTheEventLoopTurns) {
+TEST_F(Downloading, SendsNoEventBeforeTheEventLoopRuns) {
   server.ServeFile("/file", "abc");
 
   Start(To("http://example.invalid/"));
@@ -180,7 +180,7 @@ TEST_F(Downloading, TellsNothingBeforeTheEventLoopTurns) {
 
 // ---- what goes wrong -----------------------------------------------------------------------------------------------
 
-TEST_F(Downloading, FindsNobodyAtAClosedPort) {
+TEST_F(Downloading, HasNoConnectionToAClosedPort) {
   std::string address;
   {
     const WebServer closed;
@@ -191,7 +191,7 @@ TEST_F(Downloading, FindsNobodyAtAClosedPort) {
   EXPECT_THAT(FilesThere(), IsEmpty());
 }
 
-TEST_F(Downloading, FailsOnAnswersThatAreNoFile) {
+TEST_F(Downloading, FailsIfTheServerSendsNoFile) {
   for (const char* status : {"204 No Content", "304 Not Modified", "206 Partial Content", "401 Unauthorized",
                              "404 Not Found", "416 Range Not Satisfiable", "500 Internal Server Error"}) {
     server.Serve("/file", [status](const WebRequest&, QTcpSocket& socket) {
@@ -203,7 +203,7 @@ TEST_F(Downloading, FailsOnAnswersThatAreNoFile) {
   EXPECT_THAT(FilesThere(), IsEmpty());
 }
 
-TEST_F(Downloading, LeavesTheOlderFileWhenTheNewOneFails) {
+TEST_F(Downloading, KeepsTheOlderFileIfTheNewOneFails) {
   server.ServeFile("/file", "old");
   EXPECT_EQ(EndOf(server.Address("/file")), FetchEnd::Done);
   server.ServeBroken("/file", "new and long", 3);
@@ -214,7 +214,7 @@ TEST_F(Downloading, LeavesTheOlderFileWhenTheNewOneFails) {
   EXPECT_THAT(FilesThere(), ElementsAre("file"));
 }
 
-TEST_F(Downloading, FailsWhenAnAnswerInPiecesBreaksOff) {
+TEST_F(Downloading, FailsIfAChunkedAnswerBreaksOff) {
   server.Serve("/file", [](const WebRequest&, QTcpSocket& socket) {
     socket.write("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n5\r\nhello\r\n");
     socket.disconnectFromHost();
@@ -224,7 +224,7 @@ TEST_F(Downloading, FailsWhenAnAnswerInPiecesBreaksOff) {
   EXPECT_THAT(FilesThere(), IsEmpty());
 }
 
-TEST_F(Downloading, FailsOnPackedBytes) {
+TEST_F(Downloading, FailsOnCompressedBytes) {
   server.Serve("/file", [](const WebRequest&, QTcpSocket& socket) {
     WebServer::Reply(socket, "200 OK", "Content-Encoding: gzip\r\n", "packed");
   });
@@ -233,7 +233,7 @@ TEST_F(Downloading, FailsOnPackedBytes) {
   EXPECT_EQ(LastHeader("accept-encoding"), "identity");
 }
 
-TEST_F(Downloading, FailsWhereNoFileCanBeMade) {
+TEST_F(Downloading, FailsIfNoFileCanBeCreated) {
   server.ServeFile("/file", "abc");
   path = folder.filePath("missing/file");
 
@@ -241,7 +241,7 @@ TEST_F(Downloading, FailsWhereNoFileCanBeMade) {
   EXPECT_EQ(Fetch(To(server.Address("/file"), true)).end, FetchEnd::Failed);
 }
 
-TEST_F(Downloading, KeepsNothingOfOneFetchForTheNext) {
+TEST_F(Downloading, UsesNoCacheAndNoCookies) {
   server.Serve("/file", [](const WebRequest&, QTcpSocket& socket) {
     WebServer::Reply(socket, "200 OK", "Set-Cookie: you=known\r\nCache-Control: max-age=9999\r\n", "abc");
   });
@@ -256,7 +256,7 @@ TEST_F(Downloading, KeepsNothingOfOneFetchForTheNext) {
 // ---- answers without an end ----------------------------------------------------------------------------------------
 
 constexpr std::uint64_t MostBytes = 65536;
-constexpr qint64 OnTheWay = 32 << 20;  // what lies in the buffers of the system between two programs, at most
+constexpr qint64 OnTheWay = 32 << 20;  // upper limit of the bytes in the system's buffers between two programs
 
 TEST_F(Downloading, StopsAnAnswerThatIsTooLong) {
   server.ServeEndless("/file");
@@ -285,7 +285,7 @@ TEST_F(Downloading, KeepsNothingOfAnAnswerThatIsTooLong) {
   EXPECT_THAT(FilesThere(), IsEmpty());
 }
 
-TEST_F(Downloading, TakesAnAnswerAsLongAsItMayBe) {
+TEST_F(Downloading, AcceptsAnAnswerOfTheLargestSize) {
   server.ServeFile("/fits", BytesOf(65536));
   server.ServeFile("/longer", BytesOf(65537));
 
@@ -295,7 +295,7 @@ TEST_F(Downloading, TakesAnAnswerAsLongAsItMayBe) {
 
 // ---- elsewhere -----------------------------------------------------------------------------------------------------
 
-TEST_F(Downloading, FollowsTheServerElsewhere) {
+TEST_F(Downloading, FollowsARedirect) {
   WebServer other;
   other.ServeFile("/there/file", "abc");
   server.ServeRedirection("/file", "/moved");
@@ -306,7 +306,7 @@ TEST_F(Downloading, FollowsTheServerElsewhere) {
   EXPECT_EQ(Arrived(), "abc");
 }
 
-TEST_F(Downloading, FollowsFiveTimesAndNoMore) {
+TEST_F(Downloading, FollowsAtMostFiveRedirects) {
   server.ServeFile("/0", "abc");
   for (const char* step : {"/1", "/2", "/3", "/4", "/5", "/6"}) {
     server.ServeRedirection(step, "/" + QByteArray(1, static_cast<char>(step[1] - 1)));
@@ -316,7 +316,7 @@ TEST_F(Downloading, FollowsFiveTimesAndNoMore) {
   EXPECT_EQ(EndOf(server.Address("/6")), FetchEnd::Failed);
 }
 
-TEST_F(Downloading, GivesUpGoingRoundInCircles) {
+TEST_F(Downloading, FailsOnCircularRedirects) {
   server.ServeRedirection("/file", "/file");
 
   EXPECT_EQ(EndOf(server.Address("/file")), FetchEnd::Failed);
@@ -324,8 +324,8 @@ TEST_F(Downloading, GivesUpGoingRoundInCircles) {
   EXPECT_EQ(server.Requests().size(), 6U);
 }
 
-// A name that nobody has would be no connection, had anybody been asked for it.
-TEST_F(Downloading, IsNotLedToAnUnsafePlace) {
+// An unknown name would give NoConnection if the program had asked for it.
+TEST_F(Downloading, FollowsNoRedirectToAnUnsafeAddress) {
   for (const char* place :
        {"http://example.invalid/", "ftp://127.0.0.1/file", "file:///etc/hostname", "//example.invalid/",
         "http://127.0.0.1@example.invalid/", "data:,abc", "http://me@127.0.0.1/", ""}) {
@@ -336,7 +336,7 @@ TEST_F(Downloading, IsNotLedToAnUnsafePlace) {
   EXPECT_THAT(FilesThere(), IsEmpty());
 }
 
-TEST(FetchedAddresses, AreSafeOrOfThisMachine) {
+TEST(FetchedAddresses, AreSecureOrOnThisMachine) {
   for (const char* address :
        {"https://example.org/a", "https://example.org:8443/a", "http://127.0.0.1/a", "http://127.0.0.1:8080/a",
         "http://127.1.2.3/", "http://[::1]/", "http://localhost:80/"}) {
@@ -350,7 +350,7 @@ TEST(FetchedAddresses, AreSafeOrOfThisMachine) {
   }
 }
 
-TEST_F(Downloading, CannotUseAnAddressThatIsUnsafe) {
+TEST_F(Downloading, FailsForAnUnsafeAddress) {
   for (const char* address : {"", "updates", "http://example.invalid/", "ftp://127.0.0.1/", "file:///etc/hostname"}) {
     EXPECT_EQ(EndOf(address), FetchEnd::NoService) << address;
   }
@@ -360,7 +360,7 @@ TEST_F(Downloading, CannotUseAnAddressThatIsUnsafe) {
 
 class DownloadingSafely : public Downloading {
  protected:
-  // Of all certificates, the one of the server here is trusted.
+  // Trusts only the certificate of the test's server.
   DownloadingSafely() {
     QSslConfiguration trusting = usual_;
     trusting.setCaCertificates({WebServer::CertificateOf("here")});
@@ -374,7 +374,7 @@ class DownloadingSafely : public Downloading {
   QSslConfiguration usual_ = QSslConfiguration::defaultConfiguration();
 };
 
-TEST_F(DownloadingSafely, BringsAFileFromAServerThatIsTrusted) {
+TEST_F(DownloadingSafely, BringsAFileFromATrustedServer) {
   const QByteArray bytes = BytesOf(1'234'567);
   safe.ServeFile("/setup", bytes, "ETag: \"1\"");
 
@@ -385,7 +385,7 @@ TEST_F(DownloadingSafely, BringsAFileFromAServerThatIsTrusted) {
   EXPECT_TRUE(Arrived() == bytes);
 }
 
-TEST_F(DownloadingSafely, FollowsASafeServerToAnother) {
+TEST_F(DownloadingSafely, FollowsARedirectToAnotherSecureServer) {
   WebServer other{"here"};
   other.ServeFile("/there", "abc");
   safe.ServeRedirection("/file", QByteArray::fromStdString(other.Address("/there")));
@@ -395,7 +395,7 @@ TEST_F(DownloadingSafely, FollowsASafeServerToAnother) {
   EXPECT_EQ(Arrived(), "abc");
 }
 
-TEST_F(DownloadingSafely, IsNotLedToALineThatAnybodyCanRead) {
+TEST_F(DownloadingSafely, FollowsNoRedirectToAnUnencryptedConnection) {
   server.ServeFile("/open", "abc");
   safe.ServeRedirection("/file", QByteArray::fromStdString(server.Address("/open")));
 
@@ -405,7 +405,7 @@ TEST_F(DownloadingSafely, IsNotLedToALineThatAnybodyCanRead) {
   EXPECT_THAT(FilesThere(), IsEmpty());
 }
 
-TEST_F(DownloadingSafely, TakesNothingFromAServerWithTheCertificateOfAnother) {
+TEST_F(DownloadingSafely, RefusesAServerWithTheCertificateOfAnother) {
   QSslConfiguration trusting = QSslConfiguration::defaultConfiguration();
   trusting.addCaCertificate(WebServer::CertificateOf("elsewhere"));
   QSslConfiguration::setDefaultConfiguration(trusting);
@@ -418,7 +418,7 @@ TEST_F(DownloadingSafely, TakesNothingFromAServerWithTheCertificateOfAnother) {
   EXPECT_THAT(FilesThere(), IsEmpty());
 }
 
-TEST_F(Downloading, TakesNothingFromAServerThatNobodyVouchesFor) {
+TEST_F(Downloading, RefusesAServerWithAnUntrustedCertificate) {
   WebServer stranger{"here"};
   stranger.ServeFile("/file", "abc");
 
@@ -430,11 +430,11 @@ TEST_F(Downloading, TakesNothingFromAServerThatNobodyVouchesFor) {
 
 // ---- going on ------------------------------------------------------------------------------------------------------
 
-TEST_F(Downloading, GoesOnWhereItBrokeOff) {
+TEST_F(Downloading, ResumesWhereItBrokeOff) {
   const QByteArray bytes = BytesOf(3'000'000);
   FetchHalf(bytes, 2'000'000, "ETag: \"1\"");
   EXPECT_THAT(FilesThere(), ElementsAre("file.part", "file.part.origin"));
-  const qint64 there = QFile(path + ".part").size();  // what was still on the way is lost
+  const qint64 there = QFile(path + ".part").size();  // bytes that were still in transit are lost
   ASSERT_GT(there, 0);
   server.ServeFile("/setup", bytes, "ETag: \"1\"");
 
@@ -451,7 +451,7 @@ TEST_F(Downloading, GoesOnWhereItBrokeOff) {
   EXPECT_EQ(progress.front().second, 3'000'000U);
 }
 
-TEST_F(Downloading, KnowsTheFileByItsDateWhenItHasNoExactTag) {
+TEST_F(Downloading, RecognisesTheFileByItsDateWithoutAStrongTag) {
   const QByteArray bytes = BytesOf(1000);
   FetchHalf(bytes, 400, "ETag: W/\"1\"\r\nLast-Modified: Wed, 05 Jul 2023 08:00:00 GMT");
   server.ServeFile("/setup", bytes, "Last-Modified: Wed, 05 Jul 2023 08:00:00 GMT");
@@ -463,7 +463,7 @@ TEST_F(Downloading, KnowsTheFileByItsDateWhenItHasNoExactTag) {
   EXPECT_TRUE(Arrived() == bytes);
 }
 
-TEST_F(Downloading, BeginsAnewWhenTheFileHasChanged) {
+TEST_F(Downloading, StartsAgainIfTheFileHasChanged) {
   const QByteArray changed = BytesOf(700, 2);
   FetchHalf(BytesOf(1000), 400, "ETag: \"1\"");
   server.ServeFile("/setup", changed, "ETag: \"2\"");
@@ -475,7 +475,7 @@ TEST_F(Downloading, BeginsAnewWhenTheFileHasChanged) {
   EXPECT_TRUE(Arrived() == changed);
 }
 
-TEST_F(Downloading, BeginsAnewWhenTheServerSendsTheRestOfAnotherFile) {
+TEST_F(Downloading, StartsAgainIfTheServerSendsTheRestOfAnotherFile) {
   const QByteArray changed = BytesOf(1000, 2);
   for (const QByteArray answer : {"ETag: \"2\"\r\nContent-Range: bytes 400-999/1000\r\n",
                                   "ETag: \"1\"\r\nContent-Range: bytes 300-999/1000\r\n", "ETag: \"1\"\r\n"}) {
@@ -490,7 +490,7 @@ TEST_F(Downloading, BeginsAnewWhenTheServerSendsTheRestOfAnotherFile) {
   }
 }
 
-TEST_F(Downloading, BeginsAnewWhenThereIsNoRest) {
+TEST_F(Downloading, StartsAgainIfThereIsNoRest) {
   const QByteArray shorter = BytesOf(300, 2);
   FetchHalf(BytesOf(1000), 400, "ETag: \"1\"");
   server.ServeFile("/setup", shorter, "ETag: \"1\"");
@@ -500,7 +500,7 @@ TEST_F(Downloading, BeginsAnewWhenThereIsNoRest) {
   EXPECT_TRUE(Arrived() == shorter);
 }
 
-TEST_F(Downloading, BeginsAnewWhenTheServerNamesNoMark) {
+TEST_F(Downloading, StartsAgainIfTheServerSendsNoMark) {
   const QByteArray bytes = BytesOf(1000);
   FetchHalf(bytes, 400, {});
   EXPECT_THAT(FilesThere(), IsEmpty());
@@ -512,7 +512,7 @@ TEST_F(Downloading, BeginsAnewWhenTheServerNamesNoMark) {
   EXPECT_TRUE(Arrived() == bytes);
 }
 
-TEST_F(Downloading, BeginsAnewWhenTheStartCameFromElsewhere) {
+TEST_F(Downloading, StartsAgainIfTheFirstBytesCameFromAnotherAddress) {
   FetchHalf(BytesOf(1000), 400, "ETag: \"1\"");
   server.ServeFile("/other", "abc", "ETag: \"1\"");
 
@@ -522,7 +522,7 @@ TEST_F(Downloading, BeginsAnewWhenTheStartCameFromElsewhere) {
   EXPECT_EQ(Arrived(), "abc");
 }
 
-TEST_F(Downloading, BeginsAnewWhenTheStartIsDamaged) {
+TEST_F(Downloading, StartsAgainIfTheFirstBytesAreDamaged) {
   const QByteArray bytes = BytesOf(1000);
   FetchHalf(bytes, 400, "ETag: \"1\"");
   QFile::remove(path + ".part.origin");
@@ -534,7 +534,7 @@ TEST_F(Downloading, BeginsAnewWhenTheStartIsDamaged) {
   EXPECT_TRUE(Arrived() == bytes);
 }
 
-TEST_F(Downloading, BreaksOffTwiceAndStillArrives) {
+TEST_F(Downloading, CompletesAfterBreakingOffTwice) {
   const QByteArray bytes = BytesOf(1000);
   FetchHalf(bytes, 400, "ETag: \"1\"");
   server.Serve("/setup", [&](const WebRequest&, QTcpSocket& socket) {
@@ -551,7 +551,7 @@ TEST_F(Downloading, BreaksOffTwiceAndStillArrives) {
   EXPECT_EQ(ended.sha256, Sha256Of(bytes));
 }
 
-TEST_F(Downloading, IsDoneByOneProgramAtATime) {
+TEST_F(Downloading, IsPossibleForOnlyOneProgramAtATime) {
   server.ServeSlowly("/setup", 1000);
   Start(To(server.Address("/setup"), true));
   ASSERT_TRUE(QTest::qWaitFor([this] { return server.IsAskedSlowly(); }, Patience));
@@ -569,7 +569,7 @@ TEST_F(Downloading, IsDoneByOneProgramAtATime) {
 
 // ---- stopping ------------------------------------------------------------------------------------------------------
 
-TEST_F(Downloading, StopsWithoutAWordAndKeepsWhatCanBeGoneOnWith) {
+TEST_F(Downloading, StopsWithoutAnEventAndKeepsAPartThatCanBeResumed) {
   server.ServeSlowly("/setup", 1000);
   Start(To(server.Address("/setup"), true));
   ASSERT_TRUE(QTest::qWaitFor([this] { return server.IsAskedSlowly(); }, Patience));
@@ -583,7 +583,7 @@ TEST_F(Downloading, StopsWithoutAWordAndKeepsWhatCanBeGoneOnWith) {
   EXPECT_TRUE(Read(path + ".part") == BytesOf(400));
 }
 
-TEST_F(Downloading, StopsBeforeItHasBegun) {
+TEST_F(Downloading, CanBeStoppedBeforeItBegins) {
   server.ServeFile("/file", "abc");
   Start(To(server.Address("/file")));
 
@@ -594,7 +594,7 @@ TEST_F(Downloading, StopsBeforeItHasBegun) {
   EXPECT_THAT(server.Requests(), IsEmpty());
 }
 
-TEST_F(Downloading, MayBeStoppedByItsOwnProgress) {
+TEST_F(Downloading, CanBeStoppedByItsOwnProgressEvent) {
   server.ServeFile("/file", BytesOf(1'000'000));
   int told = 0;
   FetchEvents events;
@@ -613,7 +613,7 @@ TEST_F(Downloading, MayBeStoppedByItsOwnProgress) {
   EXPECT_THAT(FilesThere(), IsEmpty());
 }
 
-TEST_F(Downloading, MayBeDestroyedByItsOwnEnd) {
+TEST_F(Downloading, CanBeDestroyedByItsOwnLastEvent) {
   server.ServeFile("/file", "abc");
   FetchEvents events;
   events.Finished = [&](const FetchOutcome& given) {
@@ -630,13 +630,13 @@ class DownloadingImpatiently : public Downloading {
   DownloadingImpatiently() : Downloading(std::chrono::milliseconds(50)) {}
 };
 
-TEST_F(DownloadingImpatiently, GivesUpAServerThatSaysNothing) {
+TEST_F(DownloadingImpatiently, FailsIfTheServerDoesNotAnswer) {
   server.Serve("/file", [](const WebRequest&, QTcpSocket&) {});
 
   EXPECT_EQ(EndOf(server.Address("/file")), FetchEnd::NoConnection);
 }
 
-TEST_F(DownloadingImpatiently, GivesUpAServerThatFallsSilent) {
+TEST_F(DownloadingImpatiently, FailsIfTheServerStopsSending) {
   server.ServeSlowly("/setup", 1000);
   Start(To(server.Address("/setup"), true));
   ASSERT_TRUE(QTest::qWaitFor([this] { return server.IsAskedSlowly(); }, Patience));

@@ -1,4 +1,4 @@
-// The roof rating estimator as its user sees it, by itself and on its way back to the parameters.
+// The roof rating estimator as its user sees it, alone and opened from the parameters.
 #include <QAbstractButton>
 #include <QTableWidget>
 
@@ -14,7 +14,7 @@ class EstimatorView : public GuiTest {
   EstimatorDialog dialog{program};
 };
 
-// The region pictures on view.
+// Returns the names of the visible region pictures.
 std::vector<std::string> PicturesOn(const QWidget& window) {
   std::vector<std::string> names;
   for (int region = 0; region < 6; ++region) {
@@ -41,7 +41,7 @@ TEST_F(EstimatorView, ShowsThePictureAndTheRocksOfTheChosenCoalfield) {
   });
 }
 
-TEST_F(EstimatorView, ChoosesCoalfieldsByTheArrows) {
+TEST_F(EstimatorView, ChoosesCoalfieldsByTheArrowKeys) {
   Use(dialog, [this](QDialog& window) {
     EXPECT_EQ(FocusName(), "optLocation_0");
     Press(Qt::Key_Down);
@@ -62,7 +62,7 @@ TEST_F(EstimatorView, ShowsTheRatingOfTheClickedRock) {
   });
 }
 
-TEST_F(EstimatorView, ShowsTheRatingOfAnotherCoalfieldAtOnceAndThenOfTheClickedRock) {
+TEST_F(EstimatorView, RefreshesTheRatingForAnotherCoalfieldAndThenForTheClickedRock) {
   Use(dialog, [](QDialog& window) {
     PressLetterOf(window, "optLocation_1");
     auto& rocks = Find<QTableWidget>(window, "VSFlexGrid1");
@@ -83,7 +83,7 @@ class EstimatorRoundTrip : public GuiTest {
   ParametersDialog dialog{program};
 };
 
-TEST_F(EstimatorRoundTrip, BringsTheChosenRatingBackByTheKeyboardAlone) {
+TEST_F(EstimatorRoundTrip, ReturnsTheChosenRatingByTheKeyboard) {
   Use(dialog, [this](QDialog& window) {
     scripts.Add([](QDialog& estimator) {
       PressLetterOf(estimator, "optLocation_2");
@@ -105,7 +105,7 @@ TEST_F(EstimatorRoundTrip, BringsTheChosenRatingBackByTheKeyboardAlone) {
   EXPECT_EQ(program.project.WorkParms.Place.CMRR, 65);
 }
 
-TEST_F(EstimatorRoundTrip, OpensTheRatingForTypingAfterTheManualRow) {
+TEST_F(EstimatorRoundTrip, EnablesTypingTheRatingAfterTheManualRow) {
   Use(dialog, [this](QDialog& window) {
     scripts.Add([](QDialog& estimator) {
       Find(estimator, "VSFlexGrid1").setFocus(Qt::TabFocusReason);
@@ -122,7 +122,7 @@ TEST_F(EstimatorRoundTrip, OpensTheRatingForTypingAfterTheManualRow) {
   });
 }
 
-TEST_F(EstimatorRoundTrip, LeavesTheRatingAloneOnEscape) {
+TEST_F(EstimatorRoundTrip, KeepsTheRatingOnEscape) {
   Use(dialog, [this](QDialog& window) {
     scripts.Add([](QDialog& estimator) {
       PressLetterOf(estimator, "optLocation_2");

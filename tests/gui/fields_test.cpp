@@ -1,4 +1,4 @@
-// What a field does with the keyboard: what it takes, what it refuses, and what of it is on view and selected.
+// Fields and the keyboard: what they accept and refuse, and when they scroll into view and are selected.
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
@@ -28,7 +28,7 @@ constexpr int EntriesTab = 2;
 
 class Fields : public GuiTest {
  protected:
-  // Shows the parameters with their primary support opened; they are cancelled after the script.
+  // Shows the parameters with primary support enabled. Cancels them after the script.
   void Work(const ModalScripts::Script& script) {
     program.project.WorkParms.Primary.Analysed = 1;
     Use(dialog, [&](QDialog& window) {
@@ -43,7 +43,7 @@ class Fields : public GuiTest {
 
 // ---- a field that a check has refused ------------------------------------------------------------------------------
 
-TEST_F(Fields, SelectTheWholeOfARefusedNumberThatHasTheKeyboardAlready) {
+TEST_F(Fields, SelectARefusedNumberThatAlreadyHasTheFocus) {
   Work([this](QDialog& window) {
     dialog.SSTab1.SetTab(PrimaryTab);
     TypeInto(window, "txtRowSpacingPrimary", "0");
@@ -56,7 +56,7 @@ TEST_F(Fields, SelectTheWholeOfARefusedNumberThatHasTheKeyboardAlready) {
   });
 }
 
-TEST_F(Fields, SelectTheWholeOfARefusedListThatHasTheKeyboardAlready) {
+TEST_F(Fields, SelectARefusedListThatAlreadyHasTheFocus) {
   Work([this](QDialog& window) {
     dialog.SSTab1.SetTab(PrimaryTab);
     dialog.PrimaryBoltControls.Options.SetValue(1, true);
@@ -70,7 +70,7 @@ TEST_F(Fields, SelectTheWholeOfARefusedListThatHasTheKeyboardAlready) {
   });
 }
 
-TEST_F(Fields, TakeTheItemThatIsChosenOfTwoWithOneName) {
+TEST_F(Fields, UseTheChosenItemOfTwoWithOneName) {
   program.session.catalogs.StandSupports.DefaultStandSupportType[1] = "Steel Prop";
   program.session.catalogs.StandSupports.DefaultStandSupportType[2] = "Steel Prop";
   program.session.catalogs.StandSupports.DefaultStandSupportCap[1] = {60, 534};
@@ -99,13 +99,13 @@ TEST_F(Fields, TakeTheItemThatIsChosenOfTwoWithOneName) {
 
 bool IsWhollyOnView(const QWidget& widget) { return widget.visibleRegion().boundingRect() == widget.rect(); }
 
-// As on a screen that does not hold the dialog.
+// Makes the window too small for the dialog.
 void Shrink(QDialog& window) {
   window.resize(window.minimumSizeHint().width(), 260);
   Settle();
 }
 
-TEST_F(Fields, ScrollIntoViewWhenACheckRefusesThemInASmallWindow) {
+TEST_F(Fields, ScrollIntoViewIfACheckRefusesThemInASmallWindow) {
   Work([this](QDialog& window) {
     dialog.PrimaryBoltControls.Options.SetValue(1, true);
     dialog.PrimaryBoltControls.GradeMode.SetValue(1, true);
@@ -120,7 +120,7 @@ TEST_F(Fields, ScrollIntoViewWhenACheckRefusesThemInASmallWindow) {
   });
 }
 
-TEST_F(Fields, ScrollBackIntoViewWhenTheyHadTheKeyboardAlready) {
+TEST_F(Fields, ScrollBackIntoViewIfTheyAlreadyHadTheFocus) {
   Work([this](QDialog& window) {
     dialog.SSTab1.SetTab(PrimaryTab);
     Shrink(window);
@@ -137,7 +137,7 @@ TEST_F(Fields, ScrollBackIntoViewWhenTheyHadTheKeyboardAlready) {
 
 // ---- the keyboard that leaves a field and comes back ---------------------------------------------------------------
 
-// Tells the field that the keyboard leaves it for the first reason and comes to it for the second one.
+// Sends focus events: the focus leaves the field for the first reason and returns for the second one.
 void LeaveAndReturn(QLineEdit& field, Qt::FocusReason leaving, Qt::FocusReason returning) {
   QFocusEvent out(QEvent::FocusOut, leaving);
   QFocusEvent in(QEvent::FocusIn, returning);
@@ -146,7 +146,7 @@ void LeaveAndReturn(QLineEdit& field, Qt::FocusReason leaving, Qt::FocusReason r
   Settle();
 }
 
-TEST_F(Fields, KeepTheirSelectionWhileTheKeyboardIsAtAMenuOrAnotherWindow) {
+TEST_F(Fields, KeepTheirSelectionWhileAMenuOrAnotherWindowHasTheFocus) {
   Work([](QDialog& window) {
     TypeInto(window, "txtDepthofCover", "725");
     auto& field = Find<QLineEdit>(window, "txtDepthofCover");
@@ -160,7 +160,7 @@ TEST_F(Fields, KeepTheirSelectionWhileTheKeyboardIsAtAMenuOrAnotherWindow) {
   });
 }
 
-TEST_F(Fields, AreSelectedAsAWholeWhenTheKeyboardComesOtherwise) {
+TEST_F(Fields, AreSelectedWhenTheFocusComesByOtherMeans) {
   Work([](QDialog& window) {
     TypeInto(window, "txtDepthofCover", "725");
     auto& field = Find<QLineEdit>(window, "txtDepthofCover");
@@ -176,7 +176,7 @@ TEST_F(Fields, AreSelectedAsAWholeWhenTheKeyboardComesOtherwise) {
 
 // ---- acts that wait for one another --------------------------------------------------------------------------------
 
-TEST_F(Fields, AreNotCheckedByAnOkThatWaitsForTheCancelBeforeIt) {
+TEST_F(Fields, AreNotCheckedByAnOkQueuedAfterACancel) {
   Work([this](QDialog& window) {
     dialog.SSTab1.SetTab(PrimaryTab);
     TypeInto(window, "txtRowSpacingPrimary", "0");
@@ -191,7 +191,7 @@ TEST_F(Fields, AreNotCheckedByAnOkThatWaitsForTheCancelBeforeIt) {
 
 // ---- characters that an input method composes ----------------------------------------------------------------------
 
-// What an input method brings to the field that has the keyboard: text that is settled, and text that is not yet.
+// Sends an input method event with final and preliminary text to the field with the focus.
 void Compose(const QString& settled, const QString& open = {}) {
   QInputMethodEvent event(open, {});
   event.setCommitString(settled);
@@ -199,7 +199,7 @@ void Compose(const QString& settled, const QString& open = {}) {
   Settle();
 }
 
-TEST_F(Fields, LetNoComposedLetterIntoANumber) {
+TEST_F(Fields, RefuseAComposedLetterInANumber) {
   Work([this](QDialog& window) {
     TypeInto(window, "txtDepthofCover", "72");
 
@@ -210,7 +210,7 @@ TEST_F(Fields, LetNoComposedLetterIntoANumber) {
   });
 }
 
-TEST_F(Fields, TakeTheDigitsOfAComposedTextIntoANumber) {
+TEST_F(Fields, AcceptTheDigitsOfAComposedTextInANumber) {
   Work([this](QDialog& window) {
     TypeInto(window, "txtDepthofCover", "72");
 
@@ -221,7 +221,7 @@ TEST_F(Fields, TakeTheDigitsOfAComposedTextIntoANumber) {
   });
 }
 
-TEST_F(Fields, KeepTheSelectionOfANumberWhenAComposedLetterIsRefused) {
+TEST_F(Fields, KeepTheSelectionOfANumberIfAComposedLetterIsRefused) {
   Work([](QDialog& window) {
     TypeInto(window, "txtDepthofCover", "725");
     Press(Qt::Key_A, Qt::ControlModifier);
@@ -232,7 +232,7 @@ TEST_F(Fields, KeepTheSelectionOfANumberWhenAComposedLetterIsRefused) {
   });
 }
 
-TEST_F(Fields, TakeComposedLettersIntoATextThatIsNoNumber) {
+TEST_F(Fields, AcceptComposedLettersInAText) {
   DescriptionDialog description(program);
   Use(description, [&](QDialog& window) {
     TypeInto(window, "Text1", "Galer");
@@ -244,7 +244,7 @@ TEST_F(Fields, TakeComposedLettersIntoATextThatIsNoNumber) {
   });
 }
 
-TEST_F(Fields, KeepFromTheModelWhatIsNotComposedToItsEnd) {
+TEST_F(Fields, KeepUnfinishedComposedTextFromTheModel) {
   DescriptionDialog description(program);
   Use(description, [&](QDialog& window) {
     TypeInto(window, "Text1", "Main");
@@ -260,7 +260,7 @@ TEST_F(Fields, KeepFromTheModelWhatIsNotComposedToItsEnd) {
   });
 }
 
-TEST_F(Fields, RefuseAKeyThatBringsSeveralCharactersWhenOneIsNoPartOfANumber) {
+TEST_F(Fields, RefuseAKeyOfSeveralCharactersIfOneIsNotNumeric) {
   Work([this](QDialog& window) {
     TypeInto(window, "txtDepthofCover", "72");
     QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), Qt::Key_unknown, "ft", Qt::NoModifier);
@@ -277,7 +277,7 @@ void ClickRow(QTableWidget& table, int row, Qt::KeyboardModifiers modifiers) {
   Settle();
 }
 
-TEST_F(Fields, KeepTheMarkOfABoltThatIsClickedWithTheControlKey) {
+TEST_F(Fields, KeepABoltSelectedThatIsClickedWithTheControlKey) {
   Work([this](QDialog& window) {
     dialog.SSTab1.SetTab(PrimaryTab);
     auto& table = Find<QTableWidget>(window, "VSFlexGridPrimary");
@@ -291,7 +291,7 @@ TEST_F(Fields, KeepTheMarkOfABoltThatIsClickedWithTheControlKey) {
   });
 }
 
-TEST_F(Fields, KeepTheMarkOfABoltWhenTheSpaceBelowTheTableIsClicked) {
+TEST_F(Fields, KeepABoltSelectedWhenTheSpaceBelowTheTableIsClicked) {
   program.project.WorkParms.Entries.Analysed = 1;
   program.project.WorkParms.Entries.Bolt.Use = 1;
   Work([this](QDialog& window) {

@@ -1,4 +1,4 @@
-// The dialogs that ask for a file, over a folder of the disk.
+// The file dialogs, on a folder of the disk.
 #include "qt/file_dialogs.h"
 
 #include <QAbstractButton>
@@ -47,7 +47,7 @@ class AskingForAFile : public GuiTest {
   }
   std::string PathOf(const QString& name) const { return FromQt(folder.filePath(name)); }
 
-  // The user types a name and presses Enter.
+  // Types a name and presses Enter.
   void AnswerWith(const std::string& name) {
     scripts.Add([name](QDialog& window) {
       Find<QLineEdit>(window, "fileNameEdit").setFocus();
@@ -55,7 +55,7 @@ class AskingForAFile : public GuiTest {
       Press(Qt::Key_Return);
     });
   }
-  // The list of completions takes the keyboard from the field for a moment when it comes and goes.
+  // Types while the completion list has taken the focus from the field for a moment.
   void AnswerWithoutKeyboardAfter(const QString& first, const QString& rest) {
     scripts.Add([first, rest](QDialog& window) {
       auto& name = Find<QLineEdit>(window, "fileNameEdit");
@@ -68,7 +68,7 @@ class AskingForAFile : public GuiTest {
       if (window.isVisible()) window.reject();
     });
   }
-  // The box that comes up over the dialog; gives what it says.
+  // Answers the message box over the dialog and stores its text.
   void AnswerBox(std::string& text, QMessageBox::StandardButton button) {
     scripts.Add([&text, button](QDialog& window) {
       auto& box = dynamic_cast<QMessageBox&>(window);
@@ -81,7 +81,7 @@ class AskingForAFile : public GuiTest {
   QtFileDialogs dialogs;
 };
 
-TEST_F(AskingForAFile, OpensAFileByTheNameThatItHas) {
+TEST_F(AskingForAFile, OpensAFileByItsExactName) {
   for (const char* name : {"belt.ORB", "design", "notes.txt"}) {
     AnswerWith(name);
 
@@ -89,7 +89,7 @@ TEST_F(AskingForAFile, OpensAFileByTheNameThatItHas) {
   }
 }
 
-TEST_F(AskingForAFile, OpensANameWithoutItsExtensionWhenNoFileHasTheBareName) {
+TEST_F(AskingForAFile, AddsTheExtensionIfNoFileHasTheBareName) {
   AnswerWith("belt");
   EXPECT_EQ(dialogs.AskOpenName(Question()), PathOf("belt.ORB"));
 
@@ -97,21 +97,21 @@ TEST_F(AskingForAFile, OpensANameWithoutItsExtensionWhenNoFileHasTheBareName) {
   EXPECT_EQ(dialogs.AskOpenName(QuestionAbove()), PathOf("belt.ORB"));
 }
 
-TEST_F(AskingForAFile, OpensTheBareNameWhenAFileOfItsExtensionIsThereToo) {
+TEST_F(AskingForAFile, OpensTheBareNameEvenIfAFileWithTheExtensionExists) {
   ASSERT_TRUE(QFile::copy(folder.filePath("belt.ORB"), folder.filePath("design.ORB")));
   AnswerWith("design");
 
   EXPECT_EQ(dialogs.AskOpenName(Question()), PathOf("design"));
 }
 
-TEST_F(AskingForAFile, FindsTheExtensionInSmallLettersToo) {
+TEST_F(AskingForAFile, FindsTheExtensionInLowerCase) {
   ASSERT_TRUE(QFile::rename(folder.filePath("belt.ORB"), folder.filePath("belt.orb")));
   AnswerWith("belt");
 
   EXPECT_EQ(dialogs.AskOpenName(Question()), PathOf("belt.orb"));
 }
 
-TEST_F(AskingForAFile, GivesANameToSaveUnderItsExtensionWhenItHasNone) {
+TEST_F(AskingForAFile, AddsTheExtensionToANameToSave) {
   AnswerWith("panel3");
   EXPECT_EQ(dialogs.AskSaveName(Question()), PathOf("panel3.ORB"));
 
@@ -119,7 +119,7 @@ TEST_F(AskingForAFile, GivesANameToSaveUnderItsExtensionWhenItHasNone) {
   EXPECT_EQ(dialogs.AskSaveName(Question()), PathOf("panel3.txt"));
 }
 
-TEST_F(AskingForAFile, AsksBeforeAFileIsOverwrittenAlsoUnderTheExtensionItGave) {
+TEST_F(AskingForAFile, AsksBeforeOverwritingAFileWithTheAddedExtension) {
   std::string question;
   AnswerWith("belt");
   AnswerBox(question, QMessageBox::Yes);
@@ -129,7 +129,7 @@ TEST_F(AskingForAFile, AsksBeforeAFileIsOverwrittenAlsoUnderTheExtensionItGave) 
   EXPECT_THAT(question, testing::HasSubstr("belt.ORB already exists"));
 }
 
-TEST_F(AskingForAFile, OpensOnlyAFileThatIsThere) {
+TEST_F(AskingForAFile, OpensOnlyAnExistingFile) {
   std::string remark;
   scripts.Add([&](QDialog& window) {
     AnswerBox(remark, QMessageBox::Ok);
@@ -159,7 +159,7 @@ TEST_F(AskingForAFile, NamesAMissingFileWithItsExtension) {
   EXPECT_THAT(remark, testing::HasSubstr("missing.ORB"));
 }
 
-// What the user can do in the dialog beside naming a file.
+// The changes that the user can make in the dialog.
 struct Changes {
   bool deletes = false;
   bool renames = false;
@@ -208,20 +208,20 @@ TEST_F(AskingForAFile, DeletesNoFileByTheDeleteKey) {
   EXPECT_TRUE(QFile::exists(folder.filePath("belt.ORB")));
 }
 
-TEST_F(AskingForAFile, OpensWhatWasTypedWhenTheFieldLostTheKeyboardAfterAFolder) {
+TEST_F(AskingForAFile, OpensTheTypedPathIfTheFieldLostTheFocusAfterAFolder) {
   AnswerWithoutKeyboardAfter(folder.path(), "/belt.ORB");
 
   EXPECT_EQ(dialogs.AskOpenName(QuestionAbove()), PathOf("belt.ORB"));
 }
 
-TEST_F(AskingForAFile, GivesTheFolderTypedWhenTheFieldLostTheKeyboardAfterTheOneAbove) {
+TEST_F(AskingForAFile, ReturnsTheTypedFolderIfTheFieldLostTheFocusAfterItsParent) {
   ASSERT_TRUE(QDir(folder.path()).mkdir("panel"));
   AnswerWithoutKeyboardAfter(folder.path(), "/panel");
 
   EXPECT_EQ(dialogs.AskFolder("Select a Folder", QuestionAbove().folder), PathOf("panel"));
 }
 
-TEST_F(AskingForAFile, ShowsTheTitleTheFolderTheFiltersAndTheNameOffered) {
+TEST_F(AskingForAFile, ShowsTheTitleTheFolderTheFiltersAndTheSuggestedName) {
   FileQuestion question = Question();
   question.fileName = "offered.ORB";
   scripts.Add([&](QDialog& window) {

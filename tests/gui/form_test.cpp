@@ -1,5 +1,5 @@
-// What holds for every form of the program: each control has its widget and each widget its control, the keyboard
-// reaches all of it in the order of the eye, and others than the eye can read it.
+// Rules for every form of the program: each control has its widget and each widget its control, the tab key reaches all
+// widgets in visual order, and screen readers can name them.
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
@@ -23,13 +23,13 @@ using Names = std::vector<std::string>;
 
 std::string NameOf(const QObject& object) { return object.objectName().toStdString(); }
 
-// What only holds others together, and what the toolkit made for itself.
+// Returns true for widgets that only hold others, and for those that the toolkit makes for itself.
 bool IsStructure(const std::string& name) {
   return name.empty() || name.starts_with("qt_") || name.starts_with("view") || name == "ScrollLeftButton" ||
          name == "ScrollRightButton";
 }
 
-// The names of the widgets and actions that a control wants: one, or one a member.
+// Returns the names of the widgets and actions of a control: one, or one per member.
 Names WantedNames(const Control& control) {
   const std::string name(control.Name());
   Names names;
@@ -54,7 +54,7 @@ Names WantedNames(const Control& control) {
 
 class EveryForm : public GuiTest, public testing::WithParamInterface<FormMaker> {
  protected:
-  // The form on the screen, all its tabs enabled.
+  // Shows the form with all tabs enabled.
   void Show() {
     program.windows.curve.CurvePointCount = 0;
     form = GetParam().make(program);
@@ -76,7 +76,7 @@ class EveryForm : public GuiTest, public testing::WithParamInterface<FormMaker> 
     return found;
   }
 
-  // Does something on every page that the tabs can bring on view: inner tabs turn with the outer ones.
+  // Runs `act` on every page of the tabs, including inner tabs.
   void OnEveryPage(const std::function<void()>& act) {
     const auto all = TabSets();
     if (all.empty()) return act();
@@ -91,7 +91,7 @@ class EveryForm : public GuiTest, public testing::WithParamInterface<FormMaker> 
     }
   }
 
-  // Where the tab key begins: the first widget of the form that is on view and can be used.
+  // Returns the first widget in tab order that is visible and enabled.
   QWidget* FirstOnView() const {
     for (const Control* control : form->Controls()) {
       for (const std::string& name : WantedNames(*control)) {
@@ -124,7 +124,7 @@ TEST_P(EveryForm, HasAControlForEachWidget) {
   std::set<std::string> wanted;
   for (const Control* control : form->Controls()) {
     for (std::string& name : WantedNames(*control)) wanted.insert(std::move(name));
-    // A tool bar bears the name of its array; a separator that comes and goes is an action of it.
+    // A tool bar has the name of its array. A separator that can be hidden is an action of it.
     const auto* actions = dynamic_cast<const ActionArray*>(control);
     if (actions == nullptr) continue;
     wanted.emplace(control->Name());
@@ -143,7 +143,7 @@ TEST_P(EveryForm, HasAControlForEachWidget) {
 
 // ---- the tab key ---------------------------------------------------------------------------------------------------
 
-// The window's widgets in the order in which the tab key visits them, from the one that has the keyboard.
+// Returns the window's widgets in the order of the tab key, starting at the one with the focus.
 std::vector<QWidget*> TabWalk(QWidget& window) {
   std::vector<QWidget*> walk;
   std::set<const QWidget*> seen;
@@ -152,7 +152,7 @@ std::vector<QWidget*> TabWalk(QWidget& window) {
   for (int i = 0; i < Endless; ++i) {
     QWidget* at = QApplication::focusWidget();
     if (at == nullptr) return walk;
-    // A grid that is edited keeps the keyboard from its first cell to its last.
+    // A grid that is edited keeps the focus from its first cell to its last.
     if (walk.empty() || at != walk.back()) {
       if (!seen.insert(at).second) return walk;
       walk.push_back(at);
@@ -168,15 +168,15 @@ QRect PlaceIn(const QWidget& window, const QWidget& widget) {
   return {widget.mapTo(&window, QPoint(0, 0)), widget.size()};
 }
 
-// The widgets around this one up to the window, the outermost first, itself last.
+// Returns the widgets around this one up to the window, the outermost first, and itself last.
 std::vector<const QWidget*> Nest(const QWidget& window, const QWidget& widget) {
   std::vector<const QWidget*> nest;
   for (const QWidget* at = &widget; at != &window; at = at->parentWidget()) nest.insert(nest.begin(), at);
   return nest;
 }
 
-// Whether the eye meets the second of two things before the first: it stands above it in the same column, to the left
-// of it in the same line, or above and to the left.
+// Returns true if the second of two rectangles comes first in visual order: above the first one in the same column, to
+// the left of it in the same line, or above and to the left.
 bool EyeMeetsSecondFirst(const QRect& first, const QRect& second) {
   const bool above = second.bottom() < first.top();
   const bool below = second.top() > first.bottom();
@@ -185,7 +185,7 @@ bool EyeMeetsSecondFirst(const QRect& first, const QRect& second) {
   return (above && !right) || (left && !below);
 }
 
-// A tab's own bar stands for the whole set when it comes first in it.
+// If a tab bar comes first in its set, it stands for the whole set.
 std::pair<QRect, QRect> PlacesToCompare(const QWidget& window, const QWidget& a, const QWidget& b) {
   const auto nestA = Nest(window, a);
   const auto nestB = Nest(window, b);
@@ -194,7 +194,7 @@ std::pair<QRect, QRect> PlacesToCompare(const QWidget& window, const QWidget& a,
   return {PlaceIn(window, *nestA[common]), PlaceIn(window, *nestB[common])};
 }
 
-TEST_P(EveryForm, IsWalkedByTheTabKeyInTheOrderOfTheEye) {
+TEST_P(EveryForm, HasATabOrderInVisualOrder) {
   Show();
 
   OnEveryPage([this] {
@@ -209,7 +209,7 @@ TEST_P(EveryForm, IsWalkedByTheTabKeyInTheOrderOfTheEye) {
   });
 }
 
-TEST_P(EveryForm, LetsTheTabKeyReachAllThatCanBeUsed) {
+TEST_P(EveryForm, LetsTheTabKeyReachEveryUsableWidget) {
   Show();
 
   OnEveryPage([this] {
@@ -227,7 +227,7 @@ TEST_P(EveryForm, LetsTheTabKeyReachAllThatCanBeUsed) {
 
 QString LetterOf(const QString& text) { return QKeySequence::mnemonic(text).toString(); }
 
-// The captions that the user sees now and that bear a letter.
+// Returns the visible captions with a mnemonic letter.
 std::map<QString, Names> LettersOnView(const QWidget& window) {
   std::map<QString, Names> letters;
   const auto note = [&](const QString& text) {
@@ -249,7 +249,7 @@ std::map<QString, Names> LettersOnView(const QWidget& window) {
   return letters;
 }
 
-TEST_P(EveryForm, GivesEachLetterToOneCaptionOnView) {
+TEST_P(EveryForm, GivesEachLetterToOneVisibleCaption) {
   Show();
 
   OnEveryPage([this] {
@@ -264,7 +264,7 @@ TEST_P(EveryForm, GivesALetterToEveryButton) {
 
   for (const auto* button : window->findChildren<QPushButton*>()) {
     const QString text = button->text();
-    if (text == "OK" || text == "Cancel") continue;  // Enter and Escape
+    if (text == "OK" || text == "Cancel") continue;  // the Enter and Escape keys press them
     EXPECT_FALSE(LetterOf(text).isEmpty()) << NameOf(*button);
   }
 }
@@ -276,14 +276,14 @@ bool HasLabelLetter(const QWidget& window, const QWidget& field) {
   });
 }
 
-TEST_P(EveryForm, NamesEveryFieldForThoseWhoCannotSeeIt) {
+TEST_P(EveryForm, NamesEveryFieldForScreenReaders) {
   Show();
 
   for (const Control* control : form->Controls()) {
     const QWidget* field = view->WidgetOf(*control);
     if (field == nullptr || field->focusPolicy() == Qt::NoFocus) continue;
     if (qobject_cast<const QAbstractButton*>(field) != nullptr || dynamic_cast<TabSet*>(form->Find(control->Name()))) {
-      continue;  // it says its own text
+      continue;  // a screen reader reads its own text
     }
     EXPECT_TRUE(HasLabelLetter(*window, *field) || !field->accessibleName().isEmpty()) << control->Name();
   }
@@ -300,7 +300,7 @@ TEST_P(EveryForm, HasACaptionOnEveryButtonAndTab) {
   }
 }
 
-TEST_P(EveryForm, TellsItsControlNamesToScriptsOnDemand) {
+TEST_P(EveryForm, ShowsItsControlNamesToScriptsOnDemand) {
   qputenv("ORBY_ACCESSIBLE_IDS", "1");
   Show();
   qunsetenv("ORBY_ACCESSIBLE_IDS");
@@ -315,7 +315,7 @@ TEST_P(EveryForm, TellsItsControlNamesToScriptsOnDemand) {
   }
 }
 
-TEST_P(EveryForm, KeepsItsControlNamesToItselfOtherwise) {
+TEST_P(EveryForm, HidesItsControlNamesOtherwise) {
   Show();
 
   for (const auto* widget : window->findChildren<QWidget*>()) {

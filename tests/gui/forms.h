@@ -1,4 +1,4 @@
-// Every form of the program, with its window.
+// Every form of the program with its window.
 #pragma once
 
 #include <QMainWindow>
@@ -43,7 +43,7 @@ std::unique_ptr<Form> Plain(Program& program) {
   return std::make_unique<Model>(program);
 }
 
-// The options of a graph, with a chart of their own to change.
+// The options of a graph with a chart for them to change.
 struct ChartOfItsOwn {
   explicit ChartOfItsOwn(Program& program) : graph(program) {}
   GraphWindow graph;
@@ -56,7 +56,7 @@ class OptionsOfAChart : private ChartOfItsOwn, public GraphOptionsDialog {
 inline constexpr std::array FormMakers{
     FormMaker{"frmMain",
               [](Program& program) {
-                program.session.settings.ShowDisclaim = 0;  // it would ask before the window is there
+                program.session.settings.ShowDisclaim = 0;  // it would ask before the window is open
                 return Plain<MainWindow>(program);
               }},
     FormMaker{"frmPENVParm", Plain<ParametersDialog>},

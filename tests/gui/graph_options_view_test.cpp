@@ -1,4 +1,4 @@
-// The options of the graph as their user sees them.
+// The graph options as their user sees them.
 #include <QCheckBox>
 #include <QComboBox>
 #include <QRadioButton>
@@ -13,7 +13,7 @@ using testing::Eq;
 
 class GraphOptionsView : public GraphViewTest {
  protected:
-  // The options by the menu, with the format of one's own choice.
+  // Opens the options from the menu and selects the user-defined format.
   void ChooseOptions(ModalScripts::Script script) {
     scripts.Add([script = std::move(script)](QDialog& window) {
       Click(window, "Option1_1");
@@ -27,7 +27,7 @@ class GraphOptionsView : public GraphViewTest {
   }
 };
 
-TEST_F(GraphOptionsView, GivesTheChartItsTitles) {
+TEST_F(GraphOptionsView, ChangesTheTitlesOfTheChart) {
   ChooseOptions([](QDialog& window) {
     TypeInto(window, "Text1", "Panel 3");
     TypeInto(window, "Text2_1", "Cover");
@@ -42,7 +42,7 @@ TEST_F(GraphOptionsView, GivesTheChartItsTitles) {
   EXPECT_EQ(Plot().yAxis->label(), "Support");
 }
 
-TEST_F(GraphOptionsView, ShowsTheTitlesOfTheCurveOnViewOnly) {
+TEST_F(GraphOptionsView, ShowsOnlyTheTitlesOfTheShownCurve) {
   ChooseOptions([](QDialog& window) {
     EXPECT_TRUE(Find(window, "Text2_1").isVisible());
     EXPECT_FALSE(Find(window, "Text2_0").isVisible());
@@ -52,7 +52,7 @@ TEST_F(GraphOptionsView, ShowsTheTitlesOfTheCurveOnViewOnly) {
   });
 }
 
-TEST_F(GraphOptionsView, LeadsTheLettersOfTheTitlesToTheFieldsOnView) {
+TEST_F(GraphOptionsView, MovesTheFocusByTheLettersOfTheTitlesToTheVisibleFields) {
   Draw(5);
 
   ChooseOptions([](QDialog& window) {
@@ -68,7 +68,7 @@ TEST_F(GraphOptionsView, LeadsTheLettersOfTheTitlesToTheFieldsOnView) {
 
 TEST_F(GraphOptionsView, ChangesGridStyleLegendAndSymbols) {
   ChooseOptions([](QDialog& window) {
-    PressIn(window, "Combo1", Qt::Key_Up);  // from both to the vertical lines
+    PressIn(window, "Combo1", Qt::Key_Up);  // from both grid lines to the vertical ones
     PressIn(window, "Combo2", Qt::Key_Up);  // from lines and symbols to symbols
     PressIn(window, "Check1", Qt::Key_Space);
     PressIn(window, "HScroll1", Qt::Key_End);
@@ -83,7 +83,7 @@ TEST_F(GraphOptionsView, ChangesGridStyleLegendAndSymbols) {
   EXPECT_EQ(Plot().graph(0)->scatterStyle().size(), 20);
 }
 
-TEST_F(GraphOptionsView, SwitchesTheSymbolSizeOffForLinesOnly) {
+TEST_F(GraphOptionsView, DisablesTheSymbolSizeForLinesOnly) {
   ChooseOptions([](QDialog& window) {
     PressIn(window, "Combo2", Qt::Key_Up, 2);
 
@@ -96,7 +96,7 @@ TEST_F(GraphOptionsView, SwitchesTheSymbolSizeOffForLinesOnly) {
   EXPECT_EQ(Plot().graph(0)->scatterStyle().shape(), QCPScatterStyle::ssNone);
 }
 
-TEST_F(GraphOptionsView, ChangesNothingWhenItIsCancelled) {
+TEST_F(GraphOptionsView, ChangesNothingIfItIsCancelled) {
   ChooseOptions([](QDialog& window) {
     TypeInto(window, "Text2_1", "Cover");
     PressIn(window, "Combo1", Qt::Key_Up, 3);
@@ -109,7 +109,7 @@ TEST_F(GraphOptionsView, ChangesNothingWhenItIsCancelled) {
   EXPECT_TRUE(Plot().legend->visible());
 }
 
-TEST_F(GraphOptionsView, NumbersTheLegendOfARockLoadOnceItIsFormatted) {
+TEST_F(GraphOptionsView, NumbersTheLegendOfARockLoadAfterItIsFormatted) {
   Draw(5);
   const QString before = Plot().graph(0)->name();
 

@@ -22,7 +22,7 @@ class GraphView : public GraphViewTest {
     Press(Qt::Key_O, Qt::AltModifier);
     PressInMenu(Qt::Key_Return);
   }
-  // The pointer so many pixels beside a point.
+  // Moves the pointer to this distance in pixels beside a point.
   void PointAt(int point, int beside) { MoveOver(View(), Drawn().PlaceOf(0, point).toPoint() + QPoint(beside, 0)); }
   std::vector<std::string> ReadOut() {
     return {TextOn(View(), "lblX"), TextOn(View(), "lblSF"), TextOn(View(), "lblCurve")};
@@ -76,7 +76,7 @@ TEST_F(GraphView, DoesNotReadOutAPointFartherAway) {
   EXPECT_THAT(ReadOut(), ElementsAre("", "", ""));
 }
 
-TEST_F(GraphView, KeepsTheReadOutAwayFromEveryPointInsideThePlot) {
+TEST_F(GraphView, KeepsTheReadOutFarFromEveryPointInsideThePlot) {
   ShowPointID();
   PointAt(2, 0);
 
@@ -94,7 +94,7 @@ TEST_F(GraphView, ClearsTheReadOutOutsideThePlot) {
   EXPECT_THAT(ReadOut(), ElementsAre("", "", ""));
 }
 
-TEST_F(GraphView, ShowsTheReadOutOnlyWhenAsked) {
+TEST_F(GraphView, ShowsTheReadOutOnlyIfItIsOn) {
   const auto& frame = Find<QGroupBox>(View(), "Frame1");
   const auto* entry = View().findChild<QAction*>("GraphOptionsItem_0");
   EXPECT_FALSE(frame.isVisible());
@@ -133,7 +133,7 @@ TEST_F(GraphView, FollowsADarkDesktop) {
   EXPECT_GT(Drawn().grab().toImage().pixelColor(1, 1).lightness(), 180);
 }
 
-// By the formula of the Web Content Accessibility Guidelines.
+// Returns the contrast by the formula of the Web Content Accessibility Guidelines.
 double ContrastOf(const QColor& one, const QColor& other) {
   const auto luminance = [](const QColor& color) {
     const auto linear = [](int part) {
@@ -147,7 +147,7 @@ double ContrastOf(const QColor& one, const QColor& other) {
   return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
-TEST_F(GraphView, DrawsEveryCurveSoThatItStandsOutOnADarkGround) {
+TEST_F(GraphView, DrawsEveryCurveReadablyOnADarkDesktop) {
   const QPalette light = QApplication::palette();
   program.windows.curve.CurveCount = 6;
   graph.DrawCurve();
@@ -167,7 +167,7 @@ TEST_F(GraphView, DrawsEveryCurveSoThatItStandsOutOnADarkGround) {
   Settle();
 }
 
-TEST_F(GraphView, PutsASymbolOnTheDarkGroundThatCanBeSeen) {
+TEST_F(GraphView, DrawsVisibleSymbolsOnADarkDesktop) {
   const QPalette light = QApplication::palette();
   QPalette dark(QColor(0x30, 0x30, 0x30));
   dark.setColor(QPalette::Base, QColor(0x30, 0x30, 0x30));
@@ -185,7 +185,7 @@ TEST_F(GraphView, PutsASymbolOnTheDarkGroundThatCanBeSeen) {
   EXPECT_GE(ContrastOf(picture.pixelColor(point), picture.pixelColor(ground)), 3);
 }
 
-TEST_F(GraphView, ShowsACurveOfOnePointAndItsSurroundingsAlone) {
+TEST_F(GraphView, ShowsACurveOfOnePointWithItsSurroundings) {
   program.windows.curve.CurvePoints[0] = {0};
   program.windows.curve.CurvePoints[1] = {4};
   program.windows.curve.CurvePointCount = 1;
@@ -198,7 +198,7 @@ TEST_F(GraphView, ShowsACurveOfOnePointAndItsSurroundingsAlone) {
   EXPECT_NEAR(Plot().yAxis->range().upper, 5.08, 0.001);
 }
 
-TEST_F(GraphView, KeepsNoRangeOfTheCurveBeforeForOneWithoutPoints) {
+TEST_F(GraphView, ResetsTheRangeForACurveWithoutPoints) {
   program.windows.curve.CurvePointCount = 0;
 
   Draw(6);
@@ -217,7 +217,7 @@ TEST_F(GraphView, PrintsTheChart) {
   EXPECT_EQ(platform.printer.proposedName, "Untitled Suggested PSUP vs Depth of Cover");
 }
 
-TEST_F(GraphView, ClosesByItsExitEntry) {
+TEST_F(GraphView, ClosesByItsExitItem) {
   Press(Qt::Key_F, Qt::AltModifier);
   PressInMenu(Qt::Key_X);
 

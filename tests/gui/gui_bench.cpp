@@ -29,12 +29,12 @@ void CloseByForce(QDialog& window) {
   if (window.isVisible()) window.done(QDialog::Rejected);
 }
 
-// Alt and the letter that the caption marks.
+// Presses Alt and the mnemonic letter of the caption.
 void PressLetter(const QString& caption) {
   const QKeySequence letter = QKeySequence::mnemonic(caption);
   if (letter.isEmpty()) throw std::logic_error("no letter in " + caption.toStdString());
   Press(letter[0].key(), Qt::AltModifier);
-  // A button goes down for a moment before it clicks.
+  // A button is down for a moment before it clicks.
   const auto isDown = [](QWidget* widget) {
     const auto* button = qobject_cast<QAbstractButton*>(widget);
     return button != nullptr && button->isDown();
@@ -102,7 +102,7 @@ void ModalScripts::Run(const QPointer<QDialog>& window) {
 }
 
 void Settle() {
-  constexpr int MostTurns = 50;  // a cursor that blinks keeps no one waiting
+  constexpr int MostTurns = 50;  // a blinking cursor does not prolong the wait
   auto* events = QAbstractEventDispatcher::instance();
   for (int turn = 0; turn < MostTurns && events->processEvents(QEventLoop::AllEvents); ++turn) {
   }
@@ -133,7 +133,7 @@ void Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   QWidget* widget = QApplication::focusWidget();
   if (widget == nullptr) widget = QApplication::activeWindow();
   if (widget == nullptr) throw std::logic_error("no window has the keyboard");
-  // Window systems send the Delete key with a control character, the test's own keys come without.
+  // Window systems send the Delete key with a control character, but the test's own keys have none.
   const QString text = key == Qt::Key_Delete ? QString(QChar(127)) : QString();
   if (text.isEmpty()) {
     QTest::keyClick(widget, key, modifiers);

@@ -1,8 +1,7 @@
-// The program's real windows, off the screen, on a platform that answers from scripts: what the tests of the view
-// share.
+// The program's real windows, off the screen, on a platform with scripted answers.
 //
-// The test plays the user: it waits for modal windows with a script each, finds widgets by the names of their controls,
-// and types and clicks. What a button starts goes through the event queue, so a press is followed by Settle().
+// The test plays the user: it provides a script for each modal window to come, finds widgets by the names of their
+// controls, and types and clicks. A button's action goes through the event queue, so call Settle() after a press.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -26,7 +25,7 @@
 
 namespace orby::test {
 
-// The doors of the desktop that a test opens in earnest, in place of the scripted ones.
+// Real services of the desktop that a test uses instead of the scripted ones.
 struct RealDoors {
   MessageBoxes* boxes = nullptr;
   Clipboard* clipboard = nullptr;
@@ -38,15 +37,15 @@ struct RealDoors {
   FileSystem* files = nullptr;
 };
 
-// The windows are real; all else answers from scripts, unless told otherwise.
+// The windows are real. Everything else has scripted answers, unless a test provides the real service.
 struct GuiPlatform : RecordingPlatform {
   Platform Doors(const RealDoors& real = {});
 
   QtWindows screen;
 };
 
-// What the user does in the modal windows to come, in the order in which they appear. Each script has to close its
-// window: one that leaves it open fails the test and the window is closed, as is a window that no script waits for.
+// The user's actions in the modal windows to come, in the order in which the windows appear. Each script must close its
+// window. A window that stays open, or that has no script, is closed and fails the test.
 class ModalScripts : public QObject {
  public:
   using Script = std::function<void(QDialog& window)>;
@@ -65,10 +64,10 @@ class ModalScripts : public QObject {
   std::deque<Script> scripts_;
 };
 
-// Lets all happen that waits in the event queue.
+// Processes all pending events.
 void Settle();
 
-// The widget of a control, by its name; throws std::logic_error when the window has none of this kind.
+// Returns the widget of a control by its name. Throws std::logic_error if the window has none of this type.
 template <class Widget = QWidget>
 Widget& Find(const QWidget& window, std::string_view name) {
   auto* found = window.findChild<Widget*>(QString::fromStdString(std::string(name)));
@@ -76,48 +75,48 @@ Widget& Find(const QWidget& window, std::string_view name) {
   return *found;
 }
 
-// The caption of a label, a button or a frame without the mark of its letter.
+// Returns the caption of a label, button or frame without the mark of its letter.
 std::string CaptionOn(const QWidget& window, std::string_view name);
 
-// The text that the widget shows: of a field, a list, a label, or what is written on a button or frame.
+// Returns the text that the widget shows: of a field, a list, a label, a button or a frame.
 std::string TextOn(const QWidget& window, std::string_view name);
 
-// The name of the widget that has the keyboard; the field of a list counts as the list, a tab as its set. Empty when no
-// widget has it.
+// Returns the name of the widget with the focus; empty if there is none. The field of a list counts as the list, and a
+// tab as its set.
 std::string FocusName();
 
-// A key for the widget that has the keyboard; what it starts has happened when this returns.
+// Sends a key to the widget with the focus, and processes the events that follow.
 void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
-// The letter that goes to the widget of this name: its own, or that of the label whose field it is.
+// Presses the mnemonic letter of this widget or of its label.
 void PressLetterOf(const QWidget& window, std::string_view name);
-// The letter of a tab.
+// Presses the mnemonic letter of a tab.
 void PressLetterOfTab(const QWidget& window, std::string_view name, int tab);
 
-// Types over what stands in the widget that has the keyboard.
+// Replaces the text of the widget with the focus by typing.
 void Type(std::string_view text);
 
-// Goes to the field and types over what stands in it.
+// Moves the focus to the field and replaces its text by typing.
 void TypeInto(const QWidget& window, std::string_view name, std::string_view text);
 
-// Clicks in the middle of the widget, and in the mark of a box or an option.
+// Clicks the middle of the widget, or the mark of a check box or option.
 void Click(const QWidget& window, std::string_view name);
 
-// An English design on the built-in lists. Run-time errors that reach the outermost boundary are kept, and fail the
-// test unless it takes them.
+// Begins with an English design and the built-in lists. Run-time errors that reach the outermost handler are recorded.
+// They fail the test unless it takes them.
 class GuiTest : public testing::Test {
  protected:
   GuiTest() : GuiTest(RealDoors{}) {}
   explicit GuiTest(const RealDoors& real);
   ~GuiTest() override;
 
-  // A new design; ultimate: grades are ultimate strengths.
+  // Begins a new design with these units and this basis of the strengths.
   void StartDesign(UnitSystem units, StrengthBasis ultimate = StrengthBasis::Yield);
 
-  // Shows the form until it is closed, the script playing the user.
+  // Shows the form until it is closed. The script plays the user.
   void Use(Form& form, ModalScripts::Script script);
 
-  // The numbers of the errors that reached the boundary; they are forgotten then.
+  // Returns the numbers of the recorded errors and clears them.
   std::vector<int> TakeErrors() { return std::exchange(errors_, {}); }
 
   void TearDown() override;

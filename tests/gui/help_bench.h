@@ -1,4 +1,4 @@
-// The committed help, as the tests read it.
+// The committed help, as tests read it.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -30,7 +30,7 @@ struct CommittedBook {
   HelpBook book{[this](const std::string& name) { return file->Read(name); }};
 };
 
-// Every line of the contents, whatever its level.
+// Returns every line of the contents, on all levels.
 inline std::vector<HelpEntry> AllEntries(const std::vector<HelpEntry>& entries) {
   std::vector<HelpEntry> all;
   for (const HelpEntry& entry : entries) {

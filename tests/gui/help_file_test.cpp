@@ -1,4 +1,4 @@
-// The committed help read back: it is whole, it is what its pages say, and it has a topic for everything.
+// The committed help file: it is complete, it matches its pages, and it has a topic for everything.
 #include <QDirIterator>
 #include <map>
 #include <set>
@@ -15,7 +15,7 @@ using testing::Contains;
 using testing::IsEmpty;
 using testing::UnorderedElementsAreArray;
 
-// Anchors, links and pictures of a page.
+// The anchors, links and pictures of a page.
 struct PageParts {
   std::set<std::string> anchors;
   std::vector<std::string> links;
@@ -37,7 +37,7 @@ PageParts PartsOf(std::string_view source) {
   return parts;
 }
 
-// The files under a folder of the help, by their names in it.
+// Returns the files in a folder of the help, by their names in the help file.
 std::vector<std::string> FilesUnder(const std::string& folder) {
   std::vector<std::string> names;
   QDirIterator files(ToQt(folder), QDir::Files, QDirIterator::Subdirectories);
@@ -56,7 +56,7 @@ class HelpFile : public testing::Test, protected CommittedBook {
   std::map<std::string, PageParts> parts;
 };
 
-TEST_F(HelpFile, HoldsThePagesAndPicturesAsTheyAreAndNothingElse) {
+TEST_F(HelpFile, ContainsExactlyThePagesAndPictures) {
   const std::string pages = HelpFolder + "/pages";
   std::vector<std::string> wanted = FilesUnder(pages);
 
@@ -86,7 +86,7 @@ TEST_F(HelpFile, HasTheOutlineForItsContents) {
   EXPECT_GE(parts.size(), 42U);
 }
 
-TEST_F(HelpFile, LeadsNoLinkAstray) {
+TEST_F(HelpFile, HasNoBrokenLink) {
   for (const auto& [name, page] : parts) {
     for (const std::string& link : page.links) {
       const std::string target(link.starts_with('#') ? name : std::string(PageOf(link)));
@@ -98,7 +98,7 @@ TEST_F(HelpFile, LeadsNoLinkAstray) {
   }
 }
 
-TEST_F(HelpFile, HasEveryPictureOfItsPages) {
+TEST_F(HelpFile, ContainsEveryPictureOfItsPages) {
   for (const auto& [name, page] : parts) {
     for (const std::string& picture : page.pictures) {
       const auto bytes = file->Read(picture);
@@ -108,7 +108,7 @@ TEST_F(HelpFile, HasEveryPictureOfItsPages) {
   }
 }
 
-TEST_F(HelpFile, LeadsFromEachKeywordOfItsIndexToAPlace) {
+TEST_F(HelpFile, HasAPlaceForEachKeywordOfItsIndex) {
   EXPECT_GE(book.Index().size(), 100U);
   for (const HelpKeyword& keyword : book.Index()) {
     for (const std::string& place : keyword.places) {
@@ -121,7 +121,7 @@ TEST_F(HelpFile, LeadsFromEachKeywordOfItsIndexToAPlace) {
   }
 }
 
-TEST_F(HelpFile, HasItsIndexInTheOrderOfTheAlphabet) {
+TEST_F(HelpFile, HasItsIndexInAlphabeticalOrder) {
   QStringList keywords;
   for (const HelpKeyword& keyword : book.Index()) keywords.append(ToQt(keyword.keyword).toCaseFolded());
 
@@ -144,7 +144,7 @@ TEST_P(TopicsOf, TheForm) {
   EXPECT_TRUE(IsItsOwn(book.PlaceOf(topic), topic)) << topic;
 }
 
-// F1 in a field must not end at the top of a page.
+// F1 in a field must not open the top of a page.
 TEST_P(TopicsOf, EveryControlThatTheKeyboardReaches) {
   program.session.settings.ShowDisclaim = 0;
   const auto form = GetParam().make(program);

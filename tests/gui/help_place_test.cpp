@@ -1,4 +1,4 @@
-// Where the help stands beside the dialog that it explains.
+// The position of the help beside the dialog that it explains.
 #include "qt/help_place.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +13,7 @@ constexpr QRect Laptop(0, 0, 1366, 738);
 constexpr QSize Wanted(1100, 780);
 constexpr QSize Least(490, 310);
 
-TEST(HelpPlace, IsBesideTheDialogInItsOwnSizeWhereTheScreenHasRoom) {
+TEST(HelpPlace, IsBesideTheDialogInItsOwnSizeIfTheScreenHasRoom) {
   const QRect dialog(20, 100, 780, 600);
 
   EXPECT_EQ(HelpPlace({Desk, dialog, {}}, Wanted, Least), QRect(800, 100, 1100, 780));
@@ -25,7 +25,7 @@ TEST(HelpPlace, IsOnTheSideOfTheDialogThatHasMoreRoom) {
   EXPECT_EQ(HelpPlace({Desk, dialog, {}}, Wanted, Least), QRect(0, 100, 1100, 780));
 }
 
-TEST(HelpPlace, IsSmallerWhereThatKeepsTheDialogFree) {
+TEST(HelpPlace, IsSmallerIfThatKeepsTheDialogVisible) {
   const QRect dialog(600, 200, 800, 650);
 
   const QRect place = HelpPlace({Desk, dialog, {}}, Wanted, Least);
@@ -40,7 +40,7 @@ TEST(HelpPlace, IsBelowADialogThatIsAsWideAsTheScreen) {
   EXPECT_EQ(HelpPlace({Laptop, dialog, {}}, Wanted, Least), QRect(0, 380, 1100, 358));
 }
 
-TEST(HelpPlace, LeavesTheFieldFreeWhereTheDialogLeavesNoRoom) {
+TEST(HelpPlace, KeepsTheFieldVisibleIfTheDialogLeavesNoRoom) {
   const QRect dialog(253, 60, 862, 640);
   const QRect field(420, 177, 125, 22);
 
@@ -51,7 +51,7 @@ TEST(HelpPlace, LeavesTheFieldFreeWhereTheDialogLeavesNoRoom) {
   EXPECT_EQ(place.right(), Laptop.right());
 }
 
-TEST(HelpPlace, LeavesEachFieldOfADialogFree) {
+TEST(HelpPlace, KeepsEachFieldOfADialogVisible) {
   const QRect dialog(253, 60, 862, 640);
   for (int y = dialog.top() + 40; y < dialog.bottom() - 40; y += 30) {
     for (int x = dialog.left() + 20; x < dialog.right() - 150; x += 60) {
@@ -67,13 +67,13 @@ TEST(HelpPlace, LeavesEachFieldOfADialogFree) {
   }
 }
 
-TEST(HelpPlace, IsInTheCornerWhereNoPlaceAvoidsTheField) {
+TEST(HelpPlace, IsInTheCornerIfNoPositionAvoidsTheField) {
   const QRect whole(0, 0, 1366, 738);
 
   EXPECT_EQ(HelpPlace({Laptop, whole, whole}, Wanted, Least).bottomRight(), Laptop.bottomRight());
 }
 
-TEST(HelpPlace, CountsFromWhereTheScreenBegins) {
+TEST(HelpPlace, IsRelativeToTheOriginOfTheScreen) {
   const QRect second(1920, 30, 1366, 738);
 
   EXPECT_EQ(HelpPlace({second, QRect(1920, 30, 700, 600), {}}, Wanted, Least), QRect(2620, 30, 666, 738));

@@ -1,4 +1,4 @@
-// The help's window, and the way to it by F1 from the fields of the program.
+// The help window, and F1 in the fields of the program.
 #include <QTableWidget>
 #include <QTextBlock>
 #include <QTextBrowser>
@@ -63,7 +63,7 @@ TEST_F(HelpOnScreen, BeginsWithTheFirstPageAndItsContents) {
   EXPECT_TRUE(tree.hasFocus());
 }
 
-TEST_F(HelpOnScreen, GoesToThePageOfALineOfTheContents) {
+TEST_F(HelpOnScreen, OpensThePageOfALineOfTheContents) {
   OpenContents();
 
   Press(Qt::Key_Down);
@@ -72,7 +72,7 @@ TEST_F(HelpOnScreen, GoesToThePageOfALineOfTheContents) {
   EXPECT_EQ(Place(), "workflow.html");
 }
 
-// The colour of the first link of the page.
+// Returns the colour of the first link of the page.
 QColor LinkOn(const HelpBrowser& page) {
   for (QTextBlock block = page.document()->begin(); block.isValid(); block = block.next()) {
     for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
@@ -83,7 +83,7 @@ QColor LinkOn(const HelpBrowser& page) {
   throw std::logic_error("no link");
 }
 
-TEST_F(HelpOnScreen, LightensItsLinksOnADarkGround) {
+TEST_F(HelpOnScreen, LightensItsLinksOnADarkDesktop) {
   OpenContents();
   const QPalette light = QApplication::palette();
   EXPECT_EQ(LinkOn(Window().Browser()).name(), "#0000ff");
@@ -99,7 +99,7 @@ TEST_F(HelpOnScreen, LightensItsLinksOnADarkGround) {
   EXPECT_EQ(Place(), "welcome.html");
 }
 
-TEST_F(HelpOnScreen, DoesNotFetchWhatIsNotInTheFile) {
+TEST_F(HelpOnScreen, FetchesNothingFromOutsideTheFile) {
   OpenContents();
 
   for (const char* place : {"https://127.0.0.1/page.html", "file:///etc/hostname", "no-such-page.html", ""}) {
@@ -122,7 +122,7 @@ TEST_F(HelpOnScreen, GoesBackAndForward) {
   EXPECT_EQ(Place(), "welcome.html");
 }
 
-TEST_F(HelpOnScreen, MarksThePageInTheContentsWhateverTheWayToIt) {
+TEST_F(HelpOnScreen, HighlightsThePageInTheContentsHoweverItWasOpened) {
   OpenContents();
 
   Window().Browser().GoTo("parameters-entries.html");
@@ -155,7 +155,7 @@ TEST_F(HelpOnScreen, FindsAKeywordOfTheIndexByItsFirstLetters) {
   EXPECT_THAT(PageText(), testing::HasSubstr("Depth of Cover"));
 }
 
-TEST_F(HelpOnScreen, SearchesThroughAllPages) {
+TEST_F(HelpOnScreen, SearchesAllPages) {
   OpenContents();
   Press(Qt::Key_S, Qt::AltModifier);
   Panes().currentWidget()->setFocus();
@@ -170,7 +170,7 @@ TEST_F(HelpOnScreen, SearchesThroughAllPages) {
   EXPECT_EQ(Window().Browser().textCursor().selectedText().toLower(), "truss");
 }
 
-TEST_F(HelpOnScreen, SaysWhenNoPageHasTheWords) {
+TEST_F(HelpOnScreen, SaysThatNoPageHasTheWords) {
   OpenContents();
   Panes().setCurrentIndex(2);
   Panes().currentWidget()->setFocus();
@@ -196,7 +196,7 @@ TEST_F(HelpOnScreen, FindsAWordOnThePage) {
   EXPECT_NE(Window().Browser().textCursor().position(), first);
 }
 
-TEST_F(HelpOnScreen, ClosesByEscapeAndTheFindBarBeforeIt) {
+TEST_F(HelpOnScreen, ClosesByEscapeAfterTheFindBar) {
   OpenContents();
   Press(Qt::Key_F, Qt::ControlModifier);
 
@@ -207,7 +207,7 @@ TEST_F(HelpOnScreen, ClosesByEscapeAndTheFindBarBeforeIt) {
   EXPECT_EQ(viewer.Window(), nullptr);
 }
 
-TEST_F(HelpOnScreen, ShowsItsLettersLargerAndSmaller) {
+TEST_F(HelpOnScreen, ZoomsInAndOut) {
   OpenContents();
   const double before = Window().Browser().font().pointSizeF();
 
@@ -217,7 +217,7 @@ TEST_F(HelpOnScreen, ShowsItsLettersLargerAndSmaller) {
   EXPECT_EQ(Window().Browser().font().pointSizeF(), before);
 }
 
-TEST_F(HelpOnScreen, ExplainsItself) {
+TEST_F(HelpOnScreen, HasAPageAboutItself) {
   OpenContents();
 
   Press(Qt::Key_F1);
@@ -235,7 +235,7 @@ TEST_F(HelpOnScreen, IsOneWindowForAllTopics) {
   EXPECT_EQ(Place(), "parameters.html#frmPENVParm.txtCMRR");
 }
 
-TEST_F(HelpOnScreen, ComesUpInTheSizeInWhichItWasClosed) {
+TEST_F(HelpOnScreen, OpensInTheSizeInWhichItWasClosed) {
   OpenContents();
   Window().resize(640, 480);
   viewer.Close();
@@ -246,14 +246,14 @@ TEST_F(HelpOnScreen, ComesUpInTheSizeInWhichItWasClosed) {
   EXPECT_EQ(Window().size(), QSize(640, 480));
 }
 
-TEST_F(HelpOnScreen, IsRefusedForAFileThatIsNoHelp) {
+TEST_F(HelpOnScreen, DoesNotOpenAFileThatIsNoHelp) {
   EXPECT_FALSE(viewer.ShowContents(HelpFolder + "/contents.txt"));
   EXPECT_FALSE(viewer.ShowIndex(HelpFolder + "/none.chm"));
   EXPECT_FALSE(viewer.ShowTopic("", "frmGraph"));
   EXPECT_EQ(viewer.Window(), nullptr);
 }
 
-TEST_F(HelpOnScreen, NamesItsPartsForThoseWhoCannotSeeThem) {
+TEST_F(HelpOnScreen, NamesItsPartsForScreenReaders) {
   OpenContents();
 
   for (int pane = 0; pane < Panes().count(); ++pane) {
@@ -279,7 +279,7 @@ class HelpKey : public GuiTest {
     };
   }
 
-  // The topics that F1 asks for in these fields of the form, one after the other.
+  // Returns the topics that F1 opens in these fields of the form.
   std::vector<std::string> Topics(Form& form, const std::vector<std::string>& fields) {
     Use(form, [&](QDialog& window) {
       for (const std::string& field : fields) {
@@ -327,7 +327,7 @@ TEST_F(HelpKey, OpensTheTopicOfAFieldOfSeveralLines) {
   EXPECT_THAT(Topics(dialog, {"Text1", "Text2"}), ElementsAre("frmTULKDesc.Text1", "frmTULKDesc.Text2"));
 }
 
-TEST_F(HelpKey, OpensTheTopicOfAListWithAFieldOfItsOwn) {
+TEST_F(HelpKey, OpensTheTopicOfAListWithATextField) {
   program.session.options.ShowInputScreenOnLoad = 0;
   ParametersDialog dialog(program);
 
@@ -360,7 +360,7 @@ TEST_F(HelpKey, OpensTheTopicOfTheFieldOverATable) {
   EXPECT_THAT(platform.help.shown, ElementsAre("topic /program/ORBY.CHM frmTULKOpts.txtStand"));
 }
 
-TEST_F(HelpKey, OpensNothingWithAnotherKeyBesideIt) {
+TEST_F(HelpKey, OpensNothingTogetherWithAModifierKey) {
   CostDialog dialog(program);
 
   Use(dialog, [&](QDialog& window) {
@@ -372,7 +372,7 @@ TEST_F(HelpKey, OpensNothingWithAnotherKeyBesideIt) {
   EXPECT_THAT(platform.help.shown, IsEmpty());
 }
 
-TEST_F(HelpKey, TellsThatTheHelpIsNotThere) {
+TEST_F(HelpKey, SaysThatTheHelpIsMissing) {
   platform.files.files.clear();
   CostDialog dialog(program);
 
@@ -401,7 +401,7 @@ class HelpBesideWindows : public MainViewTest {
     Settle();
   }
 
-  // Goes to another page by the mouse, as only a window does that takes clicks.
+  // Opens another page by the mouse and returns true if the window took the click.
   bool TakesClicks() {
     auto& tree = *Find<QTabWidget>(*viewer.Window(), "helpPanes").widget(0)->findChild<QTreeWidget*>();
     auto* other = tree.topLevelItem(0)->child(viewer.Window()->Browser().Place() == "welcome.html" ? 1 : 0);
@@ -416,7 +416,7 @@ class HelpBesideWindows : public MainViewTest {
   QtHelpViewer viewer;
 };
 
-TEST_F(HelpBesideWindows, StandsOnTheMainWindow) {
+TEST_F(HelpBesideWindows, IsOwnedByTheMainWindow) {
   viewer.ShowContents(CommittedHelp);
   Settle();
 
@@ -437,7 +437,7 @@ TEST_F(HelpBesideWindows, CanBeUsedWhileADialogIsOpen) {
   });
 }
 
-TEST_F(HelpBesideWindows, OutlivesTheDialogAndMovesOnToTheWindowBelow) {
+TEST_F(HelpBesideWindows, OutlivesTheDialogAndMovesToTheWindowBelow) {
   ParametersDialog dialog(program);
 
   Use(dialog, [&](QDialog& window) {
@@ -452,7 +452,7 @@ TEST_F(HelpBesideWindows, OutlivesTheDialogAndMovesOnToTheWindowBelow) {
   EXPECT_TRUE(TakesClicks());
 }
 
-TEST_F(HelpBesideWindows, StandsNotOverTheFieldThatItExplains) {
+TEST_F(HelpBesideWindows, DoesNotCoverTheFieldThatItExplains) {
   ParametersDialog dialog(program);
 
   Use(dialog, [&](QDialog& window) {
@@ -469,7 +469,7 @@ TEST_F(HelpBesideWindows, StandsNotOverTheFieldThatItExplains) {
   });
 }
 
-TEST_F(HelpBesideWindows, StaysWhereTheUserPutsItAsLongAsTheFieldCanBeSeen) {
+TEST_F(HelpBesideWindows, StaysWhereTheUserPutsItAsLongAsTheFieldIsVisible) {
   ParametersDialog dialog(program);
 
   Use(dialog, [&](QDialog& window) {
@@ -488,7 +488,7 @@ TEST_F(HelpBesideWindows, StaysWhereTheUserPutsItAsLongAsTheFieldCanBeSeen) {
   });
 }
 
-// A dialog that a window manager keeps above the window that it belongs to would cover the next one for good.
+// Window managers keep a dialog above its owner, so it would cover the next dialog for good.
 TEST_F(HelpBesideWindows, IsNoDialogOfTheWindowThatItExplains) {
   viewer.ShowContents(CommittedHelp);
 
@@ -554,7 +554,7 @@ TEST_F(HelpBesideWindows, FollowsADialogThatOpensAfterIt) {
   EXPECT_EQ(viewer.Window()->Browser().backwardHistoryCount(), 2);
 }
 
-TEST_F(HelpBesideWindows, StaysWhereItIsUnderADialogOfItsOwn) {
+TEST_F(HelpBesideWindows, CanBeUsedAfterItsOwnDialog) {
   viewer.ShowContents(CommittedHelp);
   Settle();
   QDialog print(viewer.Window());
@@ -569,7 +569,7 @@ TEST_F(HelpBesideWindows, StaysWhereItIsUnderADialogOfItsOwn) {
   EXPECT_TRUE(TakesClicks());
 }
 
-TEST_F(HelpBesideWindows, GoesOnWhenTheMainWindowIsAwayForAWhile) {
+TEST_F(HelpBesideWindows, StaysOpenWhileTheMainWindowIsHidden) {
   viewer.ShowContents(CommittedHelp);
   Settle();
 

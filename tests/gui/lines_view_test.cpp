@@ -1,4 +1,4 @@
-// The view of a long text, line by line.
+// The view of a long text by lines.
 #include "qt/lines_view.h"
 
 #include <QAccessible>
@@ -30,7 +30,7 @@ class PaneOfLines : public testing::Test {
     Settle();
   }
   static QPoint LeftOf(const QRect& character) { return {character.left(), character.center().y()}; }
-  // Drags the mouse from the left edge of one character to that of another.
+  // Drags the mouse from the left edge of one character to the left edge of another.
   void Drag(const QRect& from, const QRect& to) {
     QTest::mousePress(pane.viewport(), Qt::LeftButton, Qt::NoModifier, LeftOf(from));
     const QPointF end = LeftOf(to);
@@ -88,7 +88,7 @@ TEST_F(PaneOfLines, FollowsTheWheel) {
   EXPECT_EQ(TopRow(), QApplication::wheelScrollLines());
 }
 
-TEST_F(PaneOfLines, CopiesTheLinesThatAreSelected) {
+TEST_F(PaneOfLines, CopiesTheSelectedLines) {
   Show(Numbered(1000));
   PressKey(Qt::Key_Home);
   PressKey(Qt::Key_Down);
@@ -111,7 +111,7 @@ TEST_F(PaneOfLines, SelectsCharactersByTheKeyboard) {
   EXPECT_EQ(Copied(), "400");
 }
 
-TEST_F(PaneOfLines, GoesOverTheEndsOfLines) {
+TEST_F(PaneOfLines, MovesTheCaretAcrossLineEnds) {
   Show("ab\r\ncd");
   for (int i = 0; i < 4; ++i) PressKey(Qt::Key_Right);
   EXPECT_EQ(pane.Selection().Caret, 5U);
@@ -179,7 +179,7 @@ TEST_F(PaneOfLines, SelectsAWordByADoubleClick) {
   EXPECT_EQ(copiedAt(17), "ft");
 }
 
-TEST_F(PaneOfLines, MarksWhatIsSelected) {
+TEST_F(PaneOfLines, HighlightsTheSelection) {
   Show("cover 400 ft\n");
   Drag(pane.CharacterRect(0, 6), pane.CharacterRect(0, 9));
 
@@ -191,7 +191,7 @@ TEST_F(PaneOfLines, MarksWhatIsSelected) {
   EXPECT_NE(picture.pixelColor(pane.CharacterRect(0, 10).topLeft() + QPoint(1, 1)), marked);
 }
 
-TEST_F(PaneOfLines, ScrollsAcrossToTheCaret) {
+TEST_F(PaneOfLines, ScrollsHorizontallyToTheCaret) {
   Show("short\n" + std::string(300, 'W') + "\n");
   PressKey(Qt::Key_Down);
 
@@ -202,7 +202,7 @@ TEST_F(PaneOfLines, ScrollsAcrossToTheCaret) {
   EXPECT_EQ(pane.horizontalScrollBar()->value(), 0);
 }
 
-TEST_F(PaneOfLines, CopiesAllOfIt) {
+TEST_F(PaneOfLines, CopiesTheWholeText) {
   Show("one\r\ntwo\rthree");
 
   PressKey(Qt::Key_A, Qt::ControlModifier);
@@ -211,7 +211,7 @@ TEST_F(PaneOfLines, CopiesAllOfIt) {
   EXPECT_EQ(Copied(), "one\ntwo\nthree");
 }
 
-TEST_F(PaneOfLines, CopiesALongLineWholeThoughItShowsItCut) {
+TEST_F(PaneOfLines, CopiesALongLineCompletelyEvenIfItIsCutOffOnTheScreen) {
   const std::string line = "a\t" + std::string(9000, 'x') + "\xB0";
   Show(line);
 
@@ -222,7 +222,7 @@ TEST_F(PaneOfLines, CopiesALongLineWholeThoughItShowsItCut) {
   EXPECT_EQ(pane.model()->index(0, 0).data().toString().size(), 4001);
 }
 
-TEST_F(PaneOfLines, LeavesTheClipboardAloneWhenNothingIsSelected) {
+TEST_F(PaneOfLines, KeepsTheClipboardIfNothingIsSelected) {
   QGuiApplication::clipboard()->setText("before");
   Show(Numbered(10));
 
@@ -231,7 +231,7 @@ TEST_F(PaneOfLines, LeavesTheClipboardAloneWhenNothingIsSelected) {
   EXPECT_EQ(Copied(), "before");
 }
 
-TEST_F(PaneOfLines, ScrollsAcrossAsFarAsItsWidestLineNeeds) {
+TEST_F(PaneOfLines, ScrollsHorizontallyToTheEndOfItsWidestLine) {
   Show("short\n");
   EXPECT_EQ(pane.horizontalScrollBar()->maximum(), 0);
 
@@ -244,7 +244,7 @@ TEST_F(PaneOfLines, ScrollsAcrossAsFarAsItsWidestLineNeeds) {
   EXPECT_GE(pane.horizontalScrollBar()->maximum(), width - pane.viewport()->width());
 }
 
-TEST_F(PaneOfLines, GrowsWithoutMovingWhatIsOnView) {
+TEST_F(PaneOfLines, GrowsWithoutMovingTheVisibleLines) {
   Show(Numbered(1000));
   pane.verticalScrollBar()->setValue(500);
 
@@ -257,7 +257,7 @@ TEST_F(PaneOfLines, GrowsWithoutMovingWhatIsOnView) {
   EXPECT_EQ(pane.model()->index(1000, 0).data().toString(), "the last line");
 }
 
-TEST_F(PaneOfLines, BeginsAnewAtTheTop) {
+TEST_F(PaneOfLines, ShowsAReplacedTextFromItsTop) {
   Show(Numbered(1000));
   pane.verticalScrollBar()->setValue(500);
 
@@ -272,7 +272,7 @@ TEST_F(PaneOfLines, BeginsAnewAtTheTop) {
   EXPECT_TRUE(pane.Selection().IsEmpty());
 }
 
-TEST_F(PaneOfLines, ReadsItsLinesToAScreenReader) {
+TEST_F(PaneOfLines, GivesItsLinesToAScreenReader) {
   Show("cover\n400 ft\n");
   QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&pane);
   ASSERT_NE(reader, nullptr);

@@ -1,4 +1,4 @@
-// The main window on the screen, and the graph window over the results: what the tests of the larger windows share.
+// The main window on the screen, and helpers for menus and windows.
 #pragma once
 
 #include <QApplication>
@@ -20,7 +20,7 @@ inline std::string BytesOf(const std::string& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-// A key for the menu that is open, else for what has the keyboard.
+// Sends a key to the open menu, else to the widget with the focus.
 inline void PressInMenu(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
   if (QWidget* menu = QApplication::activePopupWidget()) {
     QTest::keyClick(menu, key, modifiers);
@@ -30,7 +30,7 @@ inline void PressInMenu(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoMod
   }
 }
 
-// The window of that name, wherever it stands; nullptr when none is on view.
+// Returns the visible window of this name, or null.
 inline QWidget* WindowOnView(std::string_view name) {
   for (QWidget* window : QApplication::topLevelWidgets()) {
     if (window->objectName() == ToQt(name) && window->isVisible()) return window;
@@ -38,7 +38,7 @@ inline QWidget* WindowOnView(std::string_view name) {
   return nullptr;
 }
 
-// The main window as a run begins, over a new design that no input dialog opens by itself.
+// The main window at the start of a run, with a new design. Opening a file opens no input dialog.
 class MainViewTest : public GuiTest {
  protected:
   explicit MainViewTest(const RealDoors& real = {}) : GuiTest(real) {
@@ -58,20 +58,20 @@ class MainViewTest : public GuiTest {
   QMainWindow& View() { return platform.screen.Main(); }
   std::string Caption() { return View().windowTitle().toStdString(); }
 
-  // Puts a copy of an example where the program finds it, and gives its path.
+  // Copies an example into the in-memory files and returns its path.
   std::string Example(const std::string& name) {
     const std::string path = std::string(EXAMPLES_DIR) + "/" + name;
     platform.files.files[path] = BytesOf(path);
     return path;
   }
 
-  // Opens the file as the user does, by the command and the dialog.
+  // Opens the file by the command and the dialog.
   void OpenFile(const std::string& path) {
     platform.fileDialogs.answers.push_back(path);
     Press(Qt::Key_O, Qt::ControlModifier);
   }
 
-  // A change that is not saved yet.
+  // Makes a change without saving it.
   void EditDescription(const std::string& title) {
     scripts.Add([title](QDialog& window) {
       TypeInto(window, "Text1", title);

@@ -26,7 +26,7 @@ constexpr auto NoKey = Qt::Key_unknown;
 
 // ---- the commands ---------------------------------------------------------------------------------------------------
 
-// Notes what is chosen instead of doing it.
+// Records the chosen command instead of running it.
 class MainCommands : public MainViewTest {
  protected:
   using Choice = std::pair<std::string, int>;
@@ -93,7 +93,7 @@ INSTANTIATE_TEST_SUITE_P(Shortcuts, MainKeys,
                                          Keys{NoKey, Qt::Key_F1, {}, "mnuHelpItem", 0}),
                          NameOfKeys);
 
-TEST_F(MainCommands, GoInTurnByALetterThatTwoEntriesShare) {
+TEST_F(MainCommands, AreReachedInTurnByALetterThatTwoItemsShare) {
   Press(Qt::Key_F, Qt::AltModifier);
   PressInMenu(Qt::Key_V);
   PressInMenu(Qt::Key_Return);
@@ -106,7 +106,7 @@ TEST_F(MainCommands, GoInTurnByALetterThatTwoEntriesShare) {
                                   Pair("mnuFileItem", NumberOf(FileItem::ViewSourceFiles))));
 }
 
-TEST_F(MainCommands, AreNotChosenByTheLetterOfADisabledEntry) {
+TEST_F(MainCommands, AreNotChosenByTheLetterOfADisabledItem) {
   for (const UtilityItem item :
        {UtilityItem::Settings, UtilityItem::Options, UtilityItem::UnitConversions, UtilityItem::FileConversion}) {
     model.mnuUtilItem.SetItemEnabled(NumberOf(item), false);
@@ -142,7 +142,7 @@ class MainView : public MainViewTest {
  protected:
   const QPlainTextEdit& Pane() { return Find<QPlainTextEdit>(View(), "txtMain"); }
 
-  // A file as a file manager hands it over.
+  // Drags files as a file manager does.
   bool Drag(const QList<QUrl>& urls) {
     QMimeData data;
     data.setUrls(urls);
@@ -183,7 +183,7 @@ TEST_F(MainView, OpensADroppedProjectFile) {
   EXPECT_THAT(RecentEntries(), ElementsAre(path));
 }
 
-TEST_F(MainView, RefusesWhatIsNotOneFile) {
+TEST_F(MainView, RefusesADropThatIsNotOneFile) {
   const QUrl file = QUrl::fromLocalFile(ToQt(Example("weak-roof.ORB")));
 
   EXPECT_FALSE(Drag({file, file}));
@@ -191,7 +191,7 @@ TEST_F(MainView, RefusesWhatIsNotOneFile) {
   EXPECT_FALSE(Drag({QUrl::fromLocalFile(EXAMPLES_DIR)}));
 }
 
-TEST_F(MainView, OffersOpenedFilesAgainTheNewestFirst) {
+TEST_F(MainView, OffersRecentFilesTheNewestFirst) {
   const std::string first = Example("weak-roof.ORB");
   const std::string second = Example("belt-entry-trusses.ORB");
 
@@ -201,7 +201,7 @@ TEST_F(MainView, OffersOpenedFilesAgainTheNewestFirst) {
   EXPECT_THAT(RecentEntries(), ElementsAre(second, first));
 }
 
-TEST_F(MainView, OpensAFileThatItOffersAgain) {
+TEST_F(MainView, OpensARecentFile) {
   const std::string first = Example("weak-roof.ORB");
   OpenFile(first);
   OpenFile(Example("belt-entry-trusses.ORB"));
@@ -212,7 +212,7 @@ TEST_F(MainView, OpensAFileThatItOffersAgain) {
   EXPECT_THAT(program.project.CurrentFile, Eq(first));
 }
 
-TEST_F(MainView, StarsTheCaptionWhileThereAreUnsavedChanges) {
+TEST_F(MainView, ShowsAStarInTheCaptionWhileThereAreUnsavedChanges) {
   OpenFile(Example("weak-roof.ORB"));
   const std::string before = Caption();
 
@@ -287,28 +287,28 @@ TEST_F(MainClosing, AsksWhetherToSave) {
   EXPECT_EQ(platform.boxes.shown[0].style, BoxStyle(BoxButtons::YesNoCancel, BoxIcon::Question));
 }
 
-TEST_F(MainClosing, StaysWhenItIsCancelled) {
+TEST_F(MainClosing, StaysOpenIfItIsCancelled) {
   CloseWith(BoxResult::Cancel);
 
   EXPECT_TRUE(model.IsOpen());
   EXPECT_TRUE(View().isVisible());
 }
 
-TEST_F(MainClosing, SavesFirstWhenAskedTo) {
+TEST_F(MainClosing, SavesFirstOnYes) {
   CloseWith(BoxResult::Yes);
 
   EXPECT_FALSE(model.IsOpen());
   EXPECT_THAT(platform.files.files[path], HasSubstr("Panel 7"));
 }
 
-TEST_F(MainClosing, EndsWithoutSavingWhenAskedTo) {
+TEST_F(MainClosing, EndsWithoutSavingOnNo) {
   CloseWith(BoxResult::No);
 
   EXPECT_FALSE(model.IsOpen());
   EXPECT_THAT(platform.files.files[path], Not(HasSubstr("Panel 7")));
 }
 
-TEST_F(MainClosing, StaysWhenTheSaveFails) {
+TEST_F(MainClosing, StaysOpenIfTheSaveFails) {
   platform.files.Fail(MemoryFiles::Step::Create, error_number::PathFileAccess);
   platform.boxes.answers = {BoxResult::Yes, BoxResult::Cancel};
 
@@ -319,7 +319,7 @@ TEST_F(MainClosing, StaysWhenTheSaveFails) {
   EXPECT_THAT(Caption(), testing::EndsWith("*"));
 }
 
-TEST_F(MainView, ClosesByTheExitEntry) {
+TEST_F(MainView, ClosesByTheExitItem) {
   Press(Qt::Key_F, Qt::AltModifier);
   PressInMenu(Qt::Key_X);
 
@@ -328,7 +328,7 @@ TEST_F(MainView, ClosesByTheExitEntry) {
 
 // ---- its place ------------------------------------------------------------------------------------------------------
 
-TEST_F(MainView, KeepsItsSizeAndPlaceWhileADialogTakesItsTurn) {
+TEST_F(MainView, KeepsItsSizeAndPositionWhileADialogReplacesIt) {
   View().setGeometry(31, 47, 640, 480);
   Settle();
   bool shownMeanwhile = true;

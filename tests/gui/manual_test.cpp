@@ -1,4 +1,4 @@
-// The committed manual and papers read back: they are whole, they say what their pages say, and nothing is torn.
+// The committed manual and papers: they are complete, match their pages, and have no bad page breaks.
 #include <gmock/gmock.h>
 
 #include <QRegularExpression>
@@ -19,10 +19,10 @@ using testing::ContainsRegex;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-constexpr int BodyLetters = 14;  // larger ones are those of headings
+constexpr int BodyLetters = 14;  // larger letters belong to headings
 constexpr int TitleLetters = 25;
 
-// Returns the words of a text and how often each occurs. Short ones are left out: they may be parts of formulas.
+// Returns the words of a text and how often each occurs. Skips short words, because they may be parts of formulas.
 std::map<std::string, int> WordsOf(const std::string& text) {
   std::map<std::string, int> words;
   const QRegularExpression word("[A-Za-z]{4,}");
@@ -68,14 +68,14 @@ class Paper {
   const std::map<std::string, int>& Places() const { return places_; }
   std::string Properties() const { return Answer("pdfinfo", {path_}); }
 
-  // The text of pages, the first and the last counted from 1.
+  // Returns the text of the pages first..last, counted from 1.
   std::string Text(int first, int last) const {
     std::string text;
     for (int page = first; page <= last; ++page) text += pages_.at(static_cast<std::size_t>(page - 1));
     return text;
   }
 
-  // The largest heading of a page, of however many lines.
+  // Returns the largest heading of a page, joined if it has several lines.
   std::string TitleOn(int page) const {
     QStringList title;
     for (const PdfText& text : parts_.texts) {
@@ -84,7 +84,7 @@ class Paper {
     return FromQt(title.join(' ').simplified());
   }
 
-  // Pages with nothing but their head and foot.
+  // Returns the pages that have only a header and a footer.
   std::vector<int> EmptyPages() const {
     std::vector<int> empty;
     for (int page = 1; page <= static_cast<int>(pages_.size()); ++page) {
@@ -97,7 +97,7 @@ class Paper {
     return empty;
   }
 
-  // Headings that no line follows on their page.
+  // Returns the headings without a line after them on their page.
   std::vector<std::string> LonelyHeadings() const {
     std::vector<std::string> lonely;
     for (int page = 1; page <= static_cast<int>(pages_.size()); ++page) {
@@ -110,7 +110,7 @@ class Paper {
     return lonely;
   }
 
-  // Targets of links that are nowhere.
+  // Returns the link targets that do not exist.
   std::vector<std::string> LooseLinks() const {
     std::vector<std::string> loose;
     for (const std::string& target : Targets()) {
@@ -119,7 +119,7 @@ class Paper {
     return loose;
   }
 
-  // The targets of all links.
+  // Returns the targets of all links.
   const std::set<std::string>& Targets() const { return targets_; }
 
  private:
@@ -157,7 +157,7 @@ class Manual : public testing::Test, protected CommittedBook {
 
 const Paper* Manual::manual = nullptr;
 
-TEST_F(Manual, BearsTheNameAndTheVersionOfTheProgram) {
+TEST_F(Manual, HasTheNameAndTheVersionOfTheProgram) {
   EXPECT_THAT(manual->Properties(), ContainsRegex("Title: +" + std::string(ProgramTitle) + "\n"));
   EXPECT_THAT(manual->Pages().front(), HasSubstr(ProgramTitle));
   EXPECT_THAT(manual->Pages().front(), HasSubstr("Version " + VersionText(true) + "\n"));
@@ -170,7 +170,7 @@ TEST_F(Manual, HasEachPageOfTheHelpUnderItsTitle) {
   }
 }
 
-TEST_F(Manual, SaysWhatThePagesOfTheHelpSay) {
+TEST_F(Manual, HasAllWordsOfTheHelpPages) {
   int end = static_cast<int>(manual->Pages().size());
   for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) {
     if (entry->place.empty()) continue;
@@ -181,7 +181,7 @@ TEST_F(Manual, SaysWhatThePagesOfTheHelpSay) {
   EXPECT_EQ(end, 2) << "the cover and the contents";
 }
 
-TEST_F(Manual, TellsInItsContentsThePageOfEachChapter) {
+TEST_F(Manual, HasThePageOfEachChapterInItsContents) {
   for (const HelpEntry& entry : entries) {
     if (entry.place.empty()) continue;
     const std::string page = std::to_string(manual->Places().at(entry.place));
@@ -217,7 +217,7 @@ TEST_F(Manual, HasBookmarksThatLeadToItsChapters) {
   EXPECT_GT(manual->Parts().bookmarks.size(), wanted.size()) << "headings in the chapters have bookmarks too";
 }
 
-TEST_F(Manual, HasTheLinksOfThePagesAndTheyLeadSomewhere) {
+TEST_F(Manual, HasTheLinksOfThePagesAndNoBrokenOne) {
   for (const HelpEntry& entry : entries) {
     if (entry.place.empty()) continue;
     for (const std::string& link : LinksOf(PageOfHelp(entry.place))) {
@@ -246,7 +246,7 @@ class ResourcePaper : public testing::TestWithParam<const char*> {
   const Paper paper{name + ".pdf"};
 };
 
-TEST_P(ResourcePaper, SaysWhatItsPageSaysUnderItsTitle) {
+TEST_P(ResourcePaper, HasAllWordsOfItsPageUnderItsTitle) {
   EXPECT_THAT(paper.Properties(), ContainsRegex("Title: +" + title + "\n"));
   EXPECT_THAT(paper.Parts().bookmarks, Contains(PdfBookmark{1, title, 1}));
   EXPECT_THAT(WordsMissing(TextOfPage(page), paper.Text(1, static_cast<int>(paper.Pages().size()))), IsEmpty());

@@ -1,4 +1,4 @@
-// The message boxes of the desktop: what they show, and which answer each key stands for.
+// The message boxes of the desktop: their contents, and the answer that each key gives.
 #include "qt/message_boxes.h"
 
 #include <QAbstractButton>
@@ -16,7 +16,7 @@ using testing::ElementsAre;
 
 class MessageBoxesView : public GuiTest {
  protected:
-  // Shows a box of the style to a user who does this, and gives the answer.
+  // Shows a box of this style, lets the user do `act`, and returns the answer.
   BoxResult Ask(BoxStyle style, const std::function<void(QMessageBox& box)>& act) {
     scripts.Add([&](QDialog& window) { act(dynamic_cast<QMessageBox&>(window)); });
     QtMessageBoxes boxes;
@@ -33,7 +33,7 @@ std::vector<std::string> ButtonsOn(const QMessageBox& box) {
   return texts;
 }
 
-TEST_F(MessageBoxesView, ShowTheirTextLineByLineAndTheirTitle) {
+TEST_F(MessageBoxesView, ShowTheirLinesAndTheirTitle) {
   Ask(BoxIcon::Exclamation, [](QMessageBox& box) {
     EXPECT_EQ(box.text().toStdString(), "Save changes to: /designs/panel3.orb?\nThey would be lost.");
     EXPECT_EQ(box.windowTitle().toStdString(), "Orby");
@@ -41,7 +41,7 @@ TEST_F(MessageBoxesView, ShowTheirTextLineByLineAndTheirTitle) {
   });
 }
 
-TEST_F(MessageBoxesView, ShowCaptionsOfTheirOwnWhichTheirLettersReach) {
+TEST_F(MessageBoxesView, ShowTheirOwnCaptionsWithMnemonicLetters) {
   for (const auto& [key, answer] : {std::pair(Qt::Key_R, BoxResult::Yes), std::pair(Qt::Key_O, BoxResult::No)}) {
     scripts.Add([key = key](QDialog& window) {
       const auto& box = dynamic_cast<QMessageBox&>(window);
@@ -56,7 +56,7 @@ TEST_F(MessageBoxesView, ShowCaptionsOfTheirOwnWhichTheirLettersReach) {
   }
 }
 
-TEST_F(MessageBoxesView, ShowAngleBracketsAsTheyAre) {
+TEST_F(MessageBoxesView, ShowAngleBracketsLiterally) {
   scripts.Add([](QDialog& window) {
     EXPECT_EQ(dynamic_cast<QMessageBox&>(window).textFormat(), Qt::PlainText);
     Press(Qt::Key_Enter);
@@ -72,7 +72,7 @@ struct Style {
   QMessageBox::Icon icon;
   std::vector<std::string> buttons;
   BoxResult enter;
-  std::optional<BoxResult> escape;  // none: the box must be answered
+  std::optional<BoxResult> escape;  // empty if the box must be answered
 };
 
 const std::vector<Style> Styles{
@@ -120,7 +120,7 @@ TEST_P(ABoxStyle, IsAnsweredByEnterWithItsDefault) {
   EXPECT_EQ(Ask(GetParam().style, [](QMessageBox&) { Press(Qt::Key_Enter); }), GetParam().enter);
 }
 
-TEST_P(ABoxStyle, IsLeftByEscapeUnlessItMustBeAnswered) {
+TEST_P(ABoxStyle, IsClosedByEscapeUnlessItMustBeAnswered) {
   const BoxResult answer = Ask(GetParam().style, [](QMessageBox& box) {
     Press(Qt::Key_Escape);
     EXPECT_EQ(box.isVisible(), !GetParam().escape);
@@ -148,7 +148,7 @@ TEST_F(MessageBoxesView, AreAsWideAsTheirTitles) {
   scripts.Add([&](QDialog& box) {
     QFont heavy = QApplication::font();
     heavy.setBold(true);
-    const int buttons = 4 * box.style()->pixelMetric(QStyle::PM_TitleBarHeight);  // with the icon of the title bar
+    const int buttons = 4 * box.style()->pixelMetric(QStyle::PM_TitleBarHeight);  // including the icon of the title bar
     EXPECT_GE(box.width(), QFontMetrics(heavy).horizontalAdvance(box.windowTitle()) + buttons);
     Press(Qt::Key_Enter);
   });
@@ -163,7 +163,7 @@ struct Answer {
   BoxResult result;
 };
 
-TEST_F(MessageBoxesView, GiveTheButtonThatIsPressed) {
+TEST_F(MessageBoxesView, ReturnThePressedButton) {
   const std::vector<Answer> answers{
       {BoxButtons::YesNoCancel, QMessageBox::Yes, BoxResult::Yes},
       {BoxButtons::YesNoCancel, QMessageBox::No, BoxResult::No},

@@ -1,4 +1,4 @@
-// The letters that captions get.
+// The mnemonic letters of captions.
 #include "qt/mnemonics.h"
 
 #include <gmock/gmock.h>
@@ -11,7 +11,7 @@
 namespace orby::test {
 namespace {
 
-// A window of captions, some of them on the two pages of a tab set.
+// A window of captions. Some of them are on the two pages of a tab set.
 class LettersOfAWindow : public testing::Test {
  protected:
   LettersOfAWindow() {
@@ -21,7 +21,7 @@ class LettersOfAWindow : public testing::Test {
     }
   }
 
-  // A caption in the window, or on a page.
+  // Adds a caption to the window or to a page.
   const QLabel* Add(const std::string& caption, QWidget* place = nullptr) {
     const auto* label = new QLabel(place == nullptr ? &window : place);
     captions.push_back({label, 0, label, caption});
@@ -45,21 +45,21 @@ TEST_F(LettersOfAWindow, AreTheFirstOfTheCaption) {
   EXPECT_EQ(Marked(label, "Depth of Cover (ft)"), "&Depth of Cover (ft)");
 }
 
-TEST_F(LettersOfAWindow, AreThoseOfALaterWordWhereTheFirstIsTaken) {
+TEST_F(LettersOfAWindow, AreTheFirstOfALaterWordIfThatOfTheFirstIsTaken) {
   Add("Depth of Cover (ft)");
   const auto* label = Add("Drill Width");
 
   EXPECT_EQ(Marked(label, "Drill Width"), "Drill &Width");
 }
 
-TEST_F(LettersOfAWindow, AreFromInsideAWordWhereNoFirstLetterIsLeft) {
+TEST_F(LettersOfAWindow, AreFromInsideAWordIfNoFirstLetterIsFree) {
   Add("Depth");
   const auto* label = Add("Drill");
 
   EXPECT_EQ(Marked(label, "Drill"), "D&rill");
 }
 
-TEST_F(LettersOfAWindow, AreTakenFromACaptionThatHasOthers) {
+TEST_F(LettersOfAWindow, AreTakenFromACaptionThatCanUseAnother) {
   const auto* delivery = Add("Delivery");
   Add("&Apply");
   const auto* add = Add("Add");
@@ -68,7 +68,7 @@ TEST_F(LettersOfAWindow, AreTakenFromACaptionThatHasOthers) {
   EXPECT_EQ(Marked(delivery, "Delivery"), "D&elivery");
 }
 
-TEST_F(LettersOfAWindow, LeaveThoseThatACaptionBringsAlone) {
+TEST_F(LettersOfAWindow, KeepTheOwnLetterOfACaption) {
   const auto* label = Add("Cost");
   const auto* own = Add("&Copy Clip");
 
@@ -76,7 +76,7 @@ TEST_F(LettersOfAWindow, LeaveThoseThatACaptionBringsAlone) {
   EXPECT_EQ(Marked(label, "Cost"), "C&ost");
 }
 
-TEST_F(LettersOfAWindow, AreNotSpentOnWhatEnterAndEscapeReach) {
+TEST_F(LettersOfAWindow, AreNotGivenToButtonsOfEnterAndEscape) {
   const auto* ok = Add("OK");
   const auto* cancel = Add("Cancel");
   const auto* label = Add("Cover");
@@ -86,7 +86,7 @@ TEST_F(LettersOfAWindow, AreNotSpentOnWhatEnterAndEscapeReach) {
   EXPECT_EQ(Marked(label, "Cover"), "&Cover");
 }
 
-TEST_F(LettersOfAWindow, RepeatOnPagesThatAreNeverOnViewTogether) {
+TEST_F(LettersOfAWindow, RepeatOnPagesThatAreNeverVisibleTogether) {
   const auto* first = Add("Row Spacing", pages[0]);
   const auto* second = Add("Row Spacing", pages[1]);
 
@@ -94,7 +94,7 @@ TEST_F(LettersOfAWindow, RepeatOnPagesThatAreNeverOnViewTogether) {
   EXPECT_EQ(Marked(second, "Row Spacing"), "&Row Spacing");
 }
 
-TEST_F(LettersOfAWindow, DoNotRepeatWhatStandsOutsideThePages) {
+TEST_F(LettersOfAWindow, DoNotRepeatThoseOutsideThePages) {
   const auto* inside = Add("Results of the Row", pages[0]);
   const auto* outside = Add("Results");
 
@@ -102,14 +102,14 @@ TEST_F(LettersOfAWindow, DoNotRepeatWhatStandsOutsideThePages) {
   EXPECT_EQ(Marked(inside, "Results of the Row"), "Results &of the Row");
 }
 
-TEST_F(LettersOfAWindow, AreNoneWhereAllAreTaken) {
+TEST_F(LettersOfAWindow, AreMissingIfAllAreTaken) {
   Add("A");
   const auto* label = Add("A");
 
   EXPECT_EQ(Marked(label, "A"), "A");
 }
 
-TEST_F(LettersOfAWindow, StayInACaptionThatChanges) {
+TEST_F(LettersOfAWindow, DoNotChangeWithTheCaption) {
   const auto* label = Add("Roof Bolt Yield Grade");
   Add("Results");
 

@@ -1,4 +1,4 @@
-// The list of number fields by which the desktop test of typing knows that it has come to all of them.
+// The list of number fields with which the desktop test of typing checks that it has reached all of them.
 #include <set>
 #include <sstream>
 
@@ -11,9 +11,9 @@ namespace {
 
 using testing::ElementsAreArray;
 
-// What may be typed into and is no number.
+// Fields for input that are no numbers.
 const std::set<std::string> Texts{
-    "frmPENVParm txtRegion",  // a place for the estimator, never on view
+    "frmPENVParm txtRegion",  // used by the estimator, never visible
     "frmPENVParm txtOption",  // the same
     "frmPENVParm txtSupportTypeSecEntry",
     "frmPENVParm txtSupportTypeSecInter",
@@ -43,7 +43,7 @@ const std::set<std::string> Texts{
 
 using NumberFields = GuiTest;
 
-TEST_F(NumberFields, AreAllInTheListThatTheTestOfTypingWorksOff) {
+TEST_F(NumberFields, AreAllInTheListOfTheTypingTest) {
   std::set<std::string> fields;
   for (const FormMaker& maker : FormMakers) {
     const auto form = maker.make(program);

@@ -1,4 +1,4 @@
-// Dialogs that are opened over and over, as in a long working day.
+// Dialogs that are opened many times, as in a long working day.
 #include <malloc.h>
 
 #include <QApplication>
@@ -20,7 +20,7 @@ class Openings : public GuiTest, public testing::WithParamInterface<FormMaker> {
     for (int i = 0; i < times; ++i) {
       scripts.Add([](QDialog& window) {
         window.close();
-        // The disclaimer has no way out but its buttons.
+        // Only its buttons close the disclaimer.
         if (window.isVisible()) Click(window, "cmdNoAccept");
       });
       const auto form = GetParam().make(program);
@@ -34,11 +34,11 @@ class Openings : public GuiTest, public testing::WithParamInterface<FormMaker> {
   static std::size_t MemoryInUse() { return mallinfo2().uordblks; }
 };
 
-// The toolkit fills its caches during the first openings; a window that stays is there in every round.
-TEST_P(Openings, LeaveNothingBehind) {
+// The toolkit fills its caches during the first openings. A window that is not freed shows in every round.
+TEST_P(Openings, LeakNoMemory) {
   constexpr int Rounds = 6;
   constexpr int Times = 8;
-  constexpr std::ptrdiff_t Tolerance = 4096;  // bytes an opening; the smallest window has more than ten times as much
+  constexpr std::ptrdiff_t Tolerance = 4096;  // bytes per opening; the smallest window has more than ten times as much
   OpenAndClose(Times);
   const auto widgets = QApplication::allWidgets().size();
   std::ptrdiff_t leastGrowth = std::numeric_limits<std::ptrdiff_t>::max();

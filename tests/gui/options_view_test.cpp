@@ -20,7 +20,7 @@ constexpr int StandsPage = 3;
 
 class OptionsView : public GuiTest {
  protected:
-  // The dialog with one of its pages on view.
+  // Shows the dialog with one of its pages.
   void UsePage(int page, const std::function<void(QDialog& window)>& act) {
     program.windows.OptionsTab = static_cast<Integer>(page);
     Use(dialog, [&](QDialog& window) {
@@ -56,7 +56,7 @@ class OptionsView : public GuiTest {
 
 // ---- fields and lists ----------------------------------------------------------------------------------------------
 
-TEST_F(OptionsView, ChangesAPreferenceAndADefaultByTheKeyboardAlone) {
+TEST_F(OptionsView, ChangesAPreferenceAndADefaultByTheKeyboard) {
   Use(dialog, [](QDialog& window) {
     PressLetterOf(window, "Check1");
     PressLetterOfTab(window, "SSTab1", EnglishPage);
@@ -70,7 +70,7 @@ TEST_F(OptionsView, ChangesAPreferenceAndADefaultByTheKeyboardAlone) {
   EXPECT_EQ(program.session.defaults.DefaultENGDepthofCover, 655);
 }
 
-TEST_F(OptionsView, TakesTheKeyboardToTheDefaultThatIsRefused) {
+TEST_F(OptionsView, MovesTheFocusToARefusedDefault) {
   Use(dialog, [this](QDialog& window) {
     dialog.txtBoltGrade[PlaceOf(Metric)].SetText("0");
 
@@ -83,14 +83,14 @@ TEST_F(OptionsView, TakesTheKeyboardToTheDefaultThatIsRefused) {
   });
 }
 
-TEST_F(OptionsView, LetsNoLetterIntoADefault) {
+TEST_F(OptionsView, RefusesALetterInADefault) {
   UsePage(EnglishPage, [](QDialog& window) {
     TypeInto(window, "txtCMRR_0", "5x2");
     EXPECT_EQ(TextOn(window, "txtCMRR_0"), "52");
   });
 }
 
-TEST_F(OptionsView, AddsToTheListThatTheOptionChooses) {
+TEST_F(OptionsView, AddsToTheListThatTheOptionSelects) {
   UsePage(EnglishPage, [](QDialog& window) {
     Click(window, "optBoltEng_2");
     TypeInto(window, "txtItem_0", "1.125");
@@ -105,7 +105,7 @@ TEST_F(OptionsView, AddsToTheListThatTheOptionChooses) {
   EXPECT_EQ(program.session.catalogs.DefaultBoltDiamArrayENG.HighestIndex, 5);
 }
 
-TEST_F(OptionsView, DeletesWhatTheArrowsChooseInAList) {
+TEST_F(OptionsView, DeletesTheEntryChosenByTheArrowKeys) {
   UsePage(MetricPage, [](QDialog& window) {
     auto& list = Find<QListWidget>(window, "lstBoltGrade_1");
     list.setFocus(Qt::TabFocusReason);
@@ -120,7 +120,7 @@ TEST_F(OptionsView, DeletesWhatTheArrowsChooseInAList) {
   });
 }
 
-TEST_F(OptionsView, DeletesWhatTheMouseChoosesInAList) {
+TEST_F(OptionsView, DeletesTheEntryChosenByTheMouse) {
   UsePage(MetricPage, [this](QDialog& window) {
     auto& list = Find<QListWidget>(window, "lstBoltUTS_2");
     QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, list.visualItemRect(list.item(1)).center());
@@ -143,7 +143,7 @@ TEST_F(OptionsView, DeletesFromTheListThatWasClickedLast) {
     };
     click("lstBoltUTS_1", 2);
     click("lstBoltDiam_1", 1);
-    click("lstBoltUTS_1", 2);  // selected since the first click
+    click("lstBoltUTS_1", 2);  // selected by the first click
 
     Click(window, "cmdDeleteBolt_1");
 
@@ -152,7 +152,7 @@ TEST_F(OptionsView, DeletesFromTheListThatWasClickedLast) {
   });
 }
 
-TEST_F(OptionsView, ShowsTheItemThatIsChosenWhateverIsClicked) {
+TEST_F(OptionsView, ShowsTheChosenItemWhateverIsClicked) {
   UsePage(MetricPage, [](QDialog& window) {
     auto& list = Find<QListWidget>(window, "lstBoltUTS_1");
     const QPoint second = list.visualItemRect(list.item(1)).center();
@@ -167,7 +167,7 @@ TEST_F(OptionsView, ShowsTheItemThatIsChosenWhateverIsClicked) {
   });
 }
 
-TEST_F(OptionsView, ShowsTheListsAnewAfterAReset) {
+TEST_F(OptionsView, RefreshesTheListsAfterAReset) {
   program.session.catalogs.DefaultBoltGradeArrayENG.Set(0, 44);
   UsePage(EnglishPage, [](QDialog& window) {
     const auto& list = Find<QListWidget>(window, "lstBoltGrade_0");
@@ -181,7 +181,7 @@ TEST_F(OptionsView, ShowsTheListsAnewAfterAReset) {
 
 // ---- the cells of a grid -------------------------------------------------------------------------------------------
 
-TEST_F(OptionsView, EditsTheCellThatIsClicked) {
+TEST_F(OptionsView, EditsTheClickedCell) {
   UsePage(EnglishPage, [](QDialog& window) {
     ClickCell(window, "VSFlexGridEng", 1, 2);
 
@@ -198,7 +198,7 @@ TEST_F(OptionsView, EditsTheCellThatIsClicked) {
   EXPECT_EQ(program.session.catalogs.DefaultCableCapArrayENG[1], 36);
 }
 
-TEST_F(OptionsView, GoesToTheFirstCellOfARowWhoseNumberIsClicked) {
+TEST_F(OptionsView, EditsTheFirstCellOfARowWhoseNumberIsClicked) {
   UsePage(StandsPage, [](QDialog& window) {
     ClickCell(window, "VSFlexGridStand", 3, 0);
 
@@ -207,7 +207,7 @@ TEST_F(OptionsView, GoesToTheFirstCellOfARowWhoseNumberIsClicked) {
   });
 }
 
-TEST_F(OptionsView, GoesToOtherRowsByEnterAndArrows) {
+TEST_F(OptionsView, GoesToOtherRowsByEnterAndArrowKeys) {
   UsePage(MetricPage, [](QDialog& window) {
     Find(window, "txtCableMet").setFocus(Qt::TabFocusReason);
     Settle();
@@ -228,7 +228,7 @@ TEST_F(OptionsView, GoesToOtherRowsByEnterAndArrows) {
   });
 }
 
-TEST_F(OptionsView, LeavesAGridForTheNextPageByControlAndTab) {
+TEST_F(OptionsView, GoesFromAGridToTheNextPageByControlAndTab) {
   UsePage(EnglishPage, [](QDialog& window) {
     ClickCell(window, "VSFlexGridEng", 0, 1);
 
@@ -251,7 +251,7 @@ TEST_F(OptionsView, StaysInTheLastRowOnEnter) {
   });
 }
 
-TEST_F(OptionsView, WalksTheCellsByTheTabKeyAndLeavesBehindTheLastOne) {
+TEST_F(OptionsView, MovesThroughTheCellsByTheTabKeyAndLeavesAfterTheLastOne) {
   UsePage(EnglishPage, [](QDialog& window) {
     ClickCell(window, "VSFlexGridEng", 0, 1);
 
@@ -274,7 +274,7 @@ TEST_F(OptionsView, WalksTheCellsByTheTabKeyAndLeavesBehindTheLastOne) {
   });
 }
 
-TEST_F(OptionsView, GivesTheOldTextBackOnEscapeAndClosesOnTheNext) {
+TEST_F(OptionsView, RestoresTheOldTextOnEscapeAndClosesOnTheNext) {
   UsePage(EnglishPage, [](QDialog& window) {
     ClickCell(window, "VSFlexGridEng", 0, 2);
     Type("99");
@@ -290,7 +290,7 @@ TEST_F(OptionsView, GivesTheOldTextBackOnEscapeAndClosesOnTheNext) {
   EXPECT_EQ(program.session.catalogs.DefaultCableCapArrayENG[0], 26.4F);
 }
 
-TEST_F(OptionsView, LetsLettersIntoNamesOnly) {
+TEST_F(OptionsView, AcceptsLettersOnlyInNames) {
   UsePage(StandsPage, [](QDialog& window) {
     ClickCell(window, "VSFlexGridStand", 0, 1);
     Type("Crib 9");
@@ -302,7 +302,7 @@ TEST_F(OptionsView, LetsLettersIntoNamesOnly) {
   });
 }
 
-TEST_F(OptionsView, TellsThoseWhoCannotSeeItWhichCellIsEdited) {
+TEST_F(OptionsView, NamesTheEditedCellForScreenReaders) {
   UsePage(StandsPage, [](QDialog& window) {
     ClickCell(window, "VSFlexGridStand", 2, 1);
     EXPECT_EQ(Find(window, "txtStand").accessibleName(), "Support Type 3");
@@ -330,7 +330,7 @@ TEST_F(OptionsView, KeepsTheFieldOverItsCellWhateverMoves) {
   });
 }
 
-TEST_F(OptionsView, BringsTheEditedCellIntoViewWithTheKeyboard) {
+TEST_F(OptionsView, ScrollsTheEditedCellIntoView) {
   UsePage(StandsPage, [](QDialog& window) {
     window.resize(window.width(), 320);
     Settle();
@@ -343,7 +343,7 @@ TEST_F(OptionsView, BringsTheEditedCellIntoViewWithTheKeyboard) {
   });
 }
 
-TEST_F(OptionsView, AddsARowAndIsReadyToFillItIn) {
+TEST_F(OptionsView, AddsARowAndMovesTheFocusToIt) {
   UsePage(StandsPage, [](QDialog& window) {
     Click(window, "cmdAddStandSupport");
 
@@ -360,7 +360,7 @@ TEST_F(OptionsView, AddsARowAndIsReadyToFillItIn) {
   EXPECT_EQ(program.session.catalogs.StandSupports.DefaultStandSupportType[16], "Steel Set");
 }
 
-TEST_F(OptionsView, DeletesTheRowThatIsEdited) {
+TEST_F(OptionsView, DeletesTheEditedRow) {
   UsePage(EnglishPage, [](QDialog& window) {
     ClickCell(window, "VSFlexGridEng", 0, 2);
     Type("99");

@@ -1,4 +1,4 @@
-// The parameters dialog as an engineer works in it.
+// The parameters dialog as its user sees it.
 #include "dialogs/parameters_dialog.h"
 
 #include <QAbstractButton>
@@ -23,7 +23,7 @@ using testing::IsEmpty;
 
 class ParametersView : public GuiTest {
  protected:
-  // Shows the dialog; it is cancelled after the script if the script has not ended it.
+  // Shows the dialog. Cancels it after the script if it is still open.
   void Work(const ModalScripts::Script& script) {
     Use(dialog, [&](QDialog& window) {
       script(window);
@@ -39,7 +39,7 @@ std::vector<std::string> Suggestions(const QWidget& window) {
   return {TextOn(window, "txtSugSumDiagonals"), TextOn(window, "txtSuggestBoltLength"), TextOn(window, "txtSugPSUP")};
 }
 
-// Goes to a page that an analysis opens.
+// Opens the page of an analysis.
 void OpenPage(const QWidget& window, std::string_view box, int tab) {
   if (!Find<QAbstractButton>(window, box).isChecked()) PressLetterOf(window, box);
   PressLetterOfTab(window, "SSTab1", tab);
@@ -50,7 +50,7 @@ constexpr int EntriesTab = 2;
 
 // ---- typing --------------------------------------------------------------------------------------------------------
 
-TEST_F(ParametersView, ShowsTheNewResultsBeforeTheKeyIsReleased) {
+TEST_F(ParametersView, ShowsTheNewResultsWhenTheKeyIsPressed) {
   Work([](QDialog& window) {
     OpenPage(window, "chkPrimSupport", PrimaryTab);
     PressLetterOf(window, "txtRowSpacingPrimary");
@@ -70,7 +70,7 @@ TEST_F(ParametersView, ShowsTheNewResultsBeforeTheKeyIsReleased) {
   });
 }
 
-TEST_F(ParametersView, RefreshesTheSuggestionsWhileOneTypes) {
+TEST_F(ParametersView, RefreshesTheSuggestionsWhileTheUserTypes) {
   Work([](QDialog& window) {
     PressLetterOf(window, "chkCMRRManual");
     PressLetterOf(window, "txtCMRR");
@@ -95,21 +95,21 @@ TEST_F(ParametersView, ShowsItsWarningsInTheirBoxWithoutMovingAnything) {
   });
 }
 
-TEST_F(ParametersView, NeverLetsALetterIntoANumber) {
+TEST_F(ParametersView, RefusesALetterInANumber) {
   Work([](QDialog& window) {
     TypeInto(window, "txtDepthofCover", "4a5O0x");
     EXPECT_EQ(TextOn(window, "txtDepthofCover"), "450");
   });
 }
 
-TEST_F(ParametersView, TakesASecondPointAsTyped) {
+TEST_F(ParametersView, AcceptsASecondPoint) {
   Work([](QDialog& window) {
     TypeInto(window, "txtDepthofCover", "4.5.");
     EXPECT_EQ(TextOn(window, "txtDepthofCover"), "4.5.");
   });
 }
 
-TEST_F(ParametersView, TakesTheEditingKeysInANumber) {
+TEST_F(ParametersView, AcceptsTheEditingKeysInANumber) {
   Work([](QDialog& window) {
     TypeInto(window, "txtDepthofCover", "4505");
     Press(Qt::Key_Backspace);
@@ -127,7 +127,7 @@ TEST_F(ParametersView, TakesTheEditingKeysInANumber) {
   });
 }
 
-TEST_F(ParametersView, SelectsANumberWhenTheKeyboardComesToIt) {
+TEST_F(ParametersView, SelectsANumberWhenItGetsTheFocus) {
   Work([](QDialog& window) {
     TypeInto(window, "txtDepthofCover", "612");
     Find(window, "txtUnitWeight").setFocus(Qt::TabFocusReason);
@@ -138,7 +138,7 @@ TEST_F(ParametersView, SelectsANumberWhenTheKeyboardComesToIt) {
   });
 }
 
-TEST_F(ParametersView, GoesOnWhereItWasInANumberAfterItsOwnMenu) {
+TEST_F(ParametersView, KeepsTheCursorOfANumberAfterItsMenu) {
   Work([](QDialog& window) {
     TypeInto(window, "txtDepthofCover", "61");
     auto& field = Find<QLineEdit>(window, "txtDepthofCover");
@@ -153,7 +153,7 @@ TEST_F(ParametersView, GoesOnWhereItWasInANumberAfterItsOwnMenu) {
   });
 }
 
-TEST_F(ParametersView, SelectsANumberThatIsReachedByTabAfterAMessageHasLedElsewhere) {
+TEST_F(ParametersView, SelectsANumberReachedByTabAfterAMessageMovedTheFocus) {
   Work([](QDialog& window) {
     TypeInto(window, "txtDepthofCover", "612");
     auto& field = Find<QLineEdit>(window, "txtDepthofCover");
@@ -180,7 +180,7 @@ TEST_F(ParametersView, CopiesANumberFromFieldToField) {
   });
 }
 
-TEST_F(ParametersView, TakesAPastedTextAsItIs) {
+TEST_F(ParametersView, AcceptsAPastedTextUnchanged) {
   Work([this](QDialog& window) {
     QGuiApplication::clipboard()->setText("850 ft");
     Find(window, "txtDepthofCover").setFocus(Qt::TabFocusReason);
@@ -216,7 +216,7 @@ TEST_F(ParametersView, SelectsTheWholeTextOfAFieldThatIsClicked) {
   });
 }
 
-TEST_F(ParametersView, PutsTheCursorWhereAFieldInUseIsClicked) {
+TEST_F(ParametersView, MovesTheCursorToAClickInAFieldInUse) {
   Work([](QDialog& window) {
     Click(window, "txtUnitWeight");
     Click(window, "txtUnitWeight");
@@ -225,7 +225,7 @@ TEST_F(ParametersView, PutsTheCursorWhereAFieldInUseIsClicked) {
   });
 }
 
-TEST_F(ParametersView, BeginsInItsFirstFieldThatCanBeUsed) {
+TEST_F(ParametersView, OpensWithTheFocusOnItsFirstUsableField) {
   Work([](QDialog& window) {
     EXPECT_EQ(FocusName(), "SSTab1");
     Press(Qt::Key_Tab);
@@ -236,7 +236,7 @@ TEST_F(ParametersView, BeginsInItsFirstFieldThatCanBeUsed) {
 
 // ---- tabs ----------------------------------------------------------------------------------------------------------
 
-TEST_F(ParametersView, OpensThePagesOfTheAnalysesThatAreChosen) {
+TEST_F(ParametersView, OpensThePagesOfTheChosenAnalyses) {
   Work([](QDialog& window) {
     auto& tabs = Find<QTabWidget>(window, "SSTab1");
     const auto enabled = [&] {
@@ -253,7 +253,7 @@ TEST_F(ParametersView, OpensThePagesOfTheAnalysesThatAreChosen) {
   });
 }
 
-TEST_F(ParametersView, StaysOnItsPageWhenADisabledTabIsAskedFor) {
+TEST_F(ParametersView, StaysOnItsPageWhenADisabledTabIsClicked) {
   Work([this](QDialog& window) {
     PressLetterOf(window, "chkSecondSupEntries");
     PressLetterOfTab(window, "SSTab1", EntriesTab);
@@ -276,7 +276,7 @@ TEST_F(ParametersView, TurnsItsPagesByTheKeyboard) {
 
 // ---- frames, lists and options -------------------------------------------------------------------------------------
 
-// Where everything on view stands in the window.
+// Returns the rectangles of everything visible in the window.
 std::map<std::string, QRect> Places(const QWidget& window) {
   std::map<std::string, QRect> places;
   for (const auto* widget : window.findChildren<QWidget*>()) {
@@ -286,7 +286,7 @@ std::map<std::string, QRect> Places(const QWidget& window) {
   return places;
 }
 
-// What stands elsewhere than before, of what is on view both times.
+// Returns the names of widgets that were visible both times and have moved.
 std::vector<std::string> Moved(const std::map<std::string, QRect>& before, const std::map<std::string, QRect>& after) {
   std::vector<std::string> moved;
   for (const auto& [name, place] : before) {
@@ -336,7 +336,7 @@ TEST_F(ParametersView, ShowsATypedCableCapacityInPlaceOfTheListWithoutMovingAnyt
   });
 }
 
-// Some styles of the desktop give a list more height than a field.
+// In some desktop styles a list is taller than a field.
 TEST_F(ParametersView, KeepsThePlaceOfAListThatIsTallerThanTheFieldThatReplacesIt) {
   program.project.WorkParms.Entries.Analysed = 1;
   program.project.WorkParms.Entries.Cable.Use = 1;
@@ -358,7 +358,7 @@ TEST_F(ParametersView, KeepsThePlaceOfAListThatIsTallerThanTheFieldThatReplacesI
   });
 }
 
-TEST_F(ParametersView, SwitchesTheOptionsThatBelongTogether) {
+TEST_F(ParametersView, SwitchesOptionsOfOneGroup) {
   Work([this](QDialog& window) {
     OpenPage(window, "chkPrimSupport", PrimaryTab);
     Find(window, "optBoltOptionsPrimary_0").setFocus(Qt::TabFocusReason);
@@ -374,7 +374,7 @@ TEST_F(ParametersView, SwitchesTheOptionsThatBelongTogether) {
 
 class ManualBolt : public ParametersView {
  protected:
-  // On the primary page with a bolt chosen by diameter and grade.
+  // Shows the primary page with a bolt chosen by diameter and grade.
   void WorkOnIt(const ModalScripts::Script& script) {
     program.project.WorkParms.Primary.Options = 1;
     Work([&](QDialog& window) {
@@ -399,7 +399,7 @@ TEST_F(ManualBolt, KeepsATypedDiameterThatIsNotInTheList) {
   });
 }
 
-TEST_F(ManualBolt, SelectsTheItemThatIsTyped) {
+TEST_F(ManualBolt, SelectsATypedItem) {
   WorkOnIt([this](QDialog& window) {
     Type("0.625");
 
@@ -409,7 +409,7 @@ TEST_F(ManualBolt, SelectsTheItemThatIsTyped) {
   });
 }
 
-TEST_F(ManualBolt, ChoosesAnItemByTheArrows) {
+TEST_F(ManualBolt, ChoosesAnItemByTheArrowKeys) {
   WorkOnIt([this](QDialog& window) {
     Press(Qt::Key_Up);
 
@@ -419,7 +419,7 @@ TEST_F(ManualBolt, ChoosesAnItemByTheArrows) {
   });
 }
 
-TEST_F(ManualBolt, LeavesTheListAloneWhenTheWheelPassesOverIt) {
+TEST_F(ManualBolt, DoesNotChangeTheListWhenTheWheelTurnsOverIt) {
   WorkOnIt([this](QDialog& window) {
     auto& list = Find<QComboBox>(window, "cmbBoltGradePrimary");
     const std::string before = dialog.PrimaryBoltControls.GradeStd.Text();
@@ -433,7 +433,7 @@ TEST_F(ManualBolt, LeavesTheListAloneWhenTheWheelPassesOverIt) {
   });
 }
 
-TEST_F(ParametersView, LeavesADisabledTabAloneWhenAFineWheelPassesOverIt) {
+TEST_F(ParametersView, SurvivesAFineWheelOverADisabledTab) {
   Use(dialog, [&](QDialog& window) {
     dialog.chkSecEntries[0].SetValue(0);
     auto& bar = *Find<QTabWidget>(window, "SSTab2").tabBar();
@@ -489,7 +489,7 @@ TEST_F(ParametersView, CommitsOnEnter) {
   EXPECT_FALSE(program.project.FileSaved);
 }
 
-TEST_F(ParametersView, ForgetsTheTypedValuesOnEscape) {
+TEST_F(ParametersView, DiscardsTheTypedValuesOnEscape) {
   const Single depth = program.project.WorkParms.Place.DepthofCover;
 
   Use(dialog, [](QDialog& window) {
@@ -503,7 +503,7 @@ TEST_F(ParametersView, ForgetsTheTypedValuesOnEscape) {
   EXPECT_EQ(program.session.history.Text, "1. Editing Project Parameters\r\n2. Project Parameters Not Modified\r\n");
 }
 
-TEST_F(ParametersView, TakesTheKeyboardToTheFieldThatIsWrong) {
+TEST_F(ParametersView, MovesTheFocusToTheInvalidField) {
   Work([this](QDialog& window) {
     OpenPage(window, "chkPrimSupport", PrimaryTab);
     TypeInto(window, "txtRowSpacingPrimary", "0");
@@ -520,7 +520,7 @@ TEST_F(ParametersView, TakesTheKeyboardToTheFieldThatIsWrong) {
   });
 }
 
-TEST_F(ParametersView, ShowsTheInnerPageOfTheFieldThatIsWrong) {
+TEST_F(ParametersView, ShowsTheInnerPageOfTheInvalidField) {
   Work([this](QDialog& window) {
     OpenPage(window, "chkSecondSupEntries", EntriesTab);
     Click(window, "chkSecEntries_1");
@@ -561,7 +561,7 @@ TEST_F(ParametersView, LabelsAnEnglishDesignInEnglishUnits) {
   });
 }
 
-TEST_F(ParametersView, OpensTheResultsOverItselfAndComesBack) {
+TEST_F(ParametersView, OpensTheResultsOverItselfAndReturns) {
   Work([this](QDialog& window) {
     std::string report;
     scripts.Add([&](QDialog& results) {

@@ -1,4 +1,4 @@
-// PDF files as the programs that show them see them.
+// Reads PDF files through the programs that show them.
 #pragma once
 
 #include <QString>
@@ -10,10 +10,10 @@
 
 namespace orby::test {
 
-// What a program that reads PDF files prints.
+// Returns the output of a program that reads PDF files.
 std::string Answer(const QString& program, const QStringList& arguments);
 
-// The text of a file as it stands on its pages, one page a string.
+// Returns the text of each page of a file.
 std::vector<std::string> PdfPages(const QString& path);
 
 struct PdfText {
@@ -40,7 +40,7 @@ struct PdfParts {
 
 PdfParts PartsOfPdf(const QString& path);
 
-// The names of places that links lead to, and the page of each.
+// Returns the named link targets and the page of each.
 std::map<std::string, int> PdfPlaces(const QString& path);
 
 }  // namespace orby::test

@@ -1,4 +1,4 @@
-// The drawings of the program in light and dark.
+// The program's drawings in light and dark themes.
 #include "qt/pictures.h"
 
 #include <gmock/gmock.h>
@@ -15,7 +15,7 @@
 namespace orby::test {
 namespace {
 
-// The colours that a drawing is made of, without the blends at its edges.
+// Returns true if the drawing has a pixel of exactly this colour.
 bool HasColor(const QImage& image, const QColor& color) {
   for (int y = 0; y < image.height(); ++y) {
     for (int x = 0; x < image.width(); ++x) {
@@ -33,7 +33,7 @@ QImage Drawn(const QString& resource, const QColor& lines) {
   return image;
 }
 
-// The palette of the desktop for the length of a test.
+// Sets the palette of the desktop during a test.
 class Desktop {
  public:
   explicit Desktop(const QColor& text) : before_(QApplication::palette()) {
@@ -51,7 +51,7 @@ class Desktop {
 
 class EveryPicture : public testing::TestWithParam<const char*> {};
 
-TEST_P(EveryPicture, TakesTheColourOfTheTextForItsLines) {
+TEST_P(EveryPicture, DrawsItsLinesInTheColourOfTheText) {
   const QString resource = QString(":/pictures/%1.svg").arg(GetParam());
 
   EXPECT_TRUE(LoadPicture(resource, Qt::black)->isValid());
@@ -66,7 +66,7 @@ INSTANTIATE_TEST_SUITE_P(Pictures, EveryPicture,
                                          "zoom_out"),
                          [](const auto& entry) { return std::string(entry.param); });
 
-TEST(Pictures, MarkAnotherRegionEach) {
+TEST(Pictures, MarkADifferentRegionEach) {
   std::vector<QImage> regions;
   for (int region = 0; region < 6; ++region) {
     regions.push_back(Drawn(QString(":/pictures/region_%1.svg").arg(region), Qt::black));
@@ -99,7 +99,7 @@ TEST(Icons, AreDrawnInTheColourOfTheDesktopsText) {
   EXPECT_FALSE(HasColor(onDark, dark));
 }
 
-TEST(Icons, AreDrawnInEverySizeAskedFor) {
+TEST(Icons, AreDrawnInEveryRequestedSize) {
   for (const int size : {16, 24, 96}) {
     EXPECT_EQ(ThemedIcon("open").pixmap(QSize(size, size), 2.0).size(), QSize(2 * size, 2 * size));
   }

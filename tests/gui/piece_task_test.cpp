@@ -1,4 +1,4 @@
-// Long work between the events of the window.
+// Long tasks between the events of the window.
 #include "qt/piece_task.h"
 
 #include "gui/gui_bench.h"
@@ -6,7 +6,7 @@
 namespace orby::test {
 namespace {
 
-TEST(PieceTask, GoesOnWithTheWorkThatItsLastPieceStarted) {
+TEST(PieceTask, ContinuesWithATaskThatItsLastPieceStarted) {
   PieceTask task;
   int pieces = 0;
   task.Start([&] {

@@ -1,8 +1,8 @@
-// Takes a picture of every window of the program, in both unit systems, light and dark, for the eye to judge:
+// Paints every window of the program, in both unit systems, light and dark:
 //
 //   portraits folder [size of the text in points]
 //
-// The scale is that of QT_SCALE_FACTOR.
+// QT_SCALE_FACTOR sets the scale.
 #include <gmock/gmock.h>
 
 #include <QAbstractButton>
@@ -99,7 +99,7 @@ QTabWidget* TabsIn(const QWidget& page) {
   return nullptr;
 }
 
-// Every page of the tabs, and of the tabs on the pages.
+// Takes every page of the tabs, and of the tabs on the pages.
 void TakePages(const Photographer& photographer, QDialog& window, QTabWidget& tabs, const std::string& name) {
   for (int page = 0; page < tabs.count(); ++page) {
     if (!tabs.isTabEnabled(page)) continue;
@@ -114,7 +114,7 @@ void TakePages(const Photographer& photographer, QDialog& window, QTabWidget& ta
   }
 }
 
-// The program with an example open, all of whose windows are shown one after the other.
+// The program with an open example. Shows all windows one after the other.
 class Sitting {
  public:
   Sitting(const Photographer& photographer, UnitSystem units) : photographer_(photographer), program_(Doors()) {
@@ -166,7 +166,7 @@ class Sitting {
     return platform_.Doors(real);
   }
 
-  // Empty, then with an entry of each kind.
+  // Takes the window without backups, then with a backup of each kind.
   void TakeBackups() {
     program_.session.folders.ProgramData = "/home/user/Documents/Orby/";
     TakeDialog<BackupsWindow>("backups-empty");
@@ -212,7 +212,7 @@ class Sitting {
     ShowForm(program_, dialog);
   }
 
-  // A form that is left by this button.
+  // Takes a form that this button closes.
   void TakeForm(Form& form, const std::string& name, std::string_view button) {
     scripts_.Add([&](QDialog& window) {
       photographer_.Take(window, name);
@@ -303,7 +303,7 @@ class Sitting {
     ShowForm(program_, calculator);
   }
 
-  // A folder below others, and a file in it on its way.
+  // Takes the browser in a subfolder, while it reads a file.
   void TakeBrowser() {
     platform_.files.folders = {"",
                                "/home",
@@ -395,7 +395,7 @@ int TakePortraits(const QString& folder) {
 }  // namespace
 }  // namespace orby::test
 
-// A screen of 1366 x 768 at the scale in use, unless there is a real one.
+// A screen of 1366 x 768 at the scale in use, if there is no real one.
 class UsualScreen {
  public:
   UsualScreen() {

@@ -29,7 +29,7 @@ class PreviewView : public ReportTest {
   QtClipboard clipboard;
 };
 
-TEST_F(PreviewView, TurnsPagesAndOffersOnlyThoseThatThereAre) {
+TEST_F(PreviewView, TurnsPagesAndOffersOnlyExistingOnes) {
   UsePreview([&](QDialog& window) {
     EXPECT_THAT(TextOn(window, "RichTextBox1"), StartsWith("ORBY module build: 201030\n"));
     EXPECT_FALSE(Find<QPushButton>(window, "Command5").isEnabled());
@@ -43,7 +43,7 @@ TEST_F(PreviewView, TurnsPagesAndOffersOnlyThoseThatThereAre) {
   });
 }
 
-TEST_F(PreviewView, ShowsAPageFromItsTopInLettersOfOneWidth) {
+TEST_F(PreviewView, ShowsAPageFromItsTopInAMonospacedFont) {
   UsePreview([&](QDialog& window) {
     auto& report = Find<QPlainTextEdit>(window, "RichTextBox1");
     report.setFocus();
@@ -60,7 +60,7 @@ TEST_F(PreviewView, ShowsAPageFromItsTopInLettersOfOneWidth) {
   });
 }
 
-TEST_F(PreviewView, CopiesThePageOnView) {
+TEST_F(PreviewView, CopiesTheShownPage) {
   UsePreview([&](QDialog& window) {
     PressLetterOf(window, "Command2");
     Press(Qt::Key_Escape);

@@ -1,4 +1,4 @@
-// Printing in earnest: to a PDF file, as the user finds it.
+// Printing to a real PDF file.
 #include <QApplication>
 #include <QFile>
 #include <QLineEdit>
@@ -32,7 +32,7 @@ class Printing : private NoPrinters, public ReportTest {
     program.project.CurrentFile = "/designs/panel3.orb";
   }
 
-  // From here on everything is printed to this file.
+  // Makes all later prints go to this file.
   void PrintToFile() {
     printer.Device().setOutputFormat(QPrinter::PdfFormat);
     printer.Device().setOutputFileName(path);
@@ -43,7 +43,7 @@ class Printing : private NoPrinters, public ReportTest {
   QtPrinter printer;
 };
 
-// The first page as a picture of so many dots per inch.
+// Returns a picture of the first page with this number of dots per inch.
 QImage Rendered(const QString& path, int resolution) {
   QImage picture;
   const std::string bytes = Answer("pdftoppm", {"-r", QString::number(resolution), "-f", "1", "-l", "1", path});
@@ -51,7 +51,7 @@ QImage Rendered(const QString& path, int resolution) {
   return picture;
 }
 
-// The part of the picture that is not white.
+// Returns the part of the picture that is not white.
 QRect InkOn(const QImage& picture) {
   QRect ink;
   for (int y = 0; y < picture.height(); ++y) {
@@ -68,7 +68,7 @@ std::string NumberedLines(int count) {
   return text;
 }
 
-TEST_F(Printing, MakesRealTextOfEveryLine) {
+TEST_F(Printing, PrintsEveryLineAsText) {
   PrintToFile();
 
   PrintText(program, NumberedLines(40));
@@ -80,7 +80,7 @@ TEST_F(Printing, MakesRealTextOfEveryLine) {
   }
 }
 
-TEST_F(Printing, PutsAHeaderOnEachPage) {
+TEST_F(Printing, PrintsAHeaderOnEachPage) {
   PrintToFile();
 
   PrintText(program, NumberedLines(130));
@@ -99,8 +99,8 @@ TEST_F(Printing, PutsAHeaderOnEachPage) {
   EXPECT_THAT(pages[2], HasSubstr("Line 130 of the report\n"));
 }
 
-// Where none of the wanted fonts is there, columns still stand under each other.
-TEST(PrinterFonts, BeginWithOneOfFixedPitch) {
+// If none of the wanted fonts exists, columns are still aligned.
+TEST(PrinterFonts, BeginWithAMonospacedFont) {
   const std::vector<std::string> names = QtFonts().PrinterFonts();
 
   ASSERT_FALSE(names.empty());
@@ -108,14 +108,14 @@ TEST(PrinterFonts, BeginWithOneOfFixedPitch) {
   EXPECT_EQ(metrics.horizontalAdvance("iiiiiiii"), metrics.horizontalAdvance("WWWWWWWW"));
 }
 
-TEST(ScreenFonts, BeginWithTheDesktopsOwn) {
+TEST(ScreenFonts, BeginWithTheDesktopsOwnFont) {
   const std::vector<std::string> names = QtFonts().ScreenFonts();
 
   ASSERT_FALSE(names.empty());
   EXPECT_EQ(names.front(), QApplication::font().family().toStdString());
 }
 
-TEST_F(Printing, KeepsTheWholeWidthOfALineOnThePaper) {
+TEST_F(Printing, FitsTheWholeWidthOfALineOnThePaper) {
   PrintToFile();
   const std::string widest = std::string(77, '-') + "|";
 
@@ -124,7 +124,7 @@ TEST_F(Printing, KeepsTheWholeWidthOfALineOnThePaper) {
   EXPECT_THAT(PdfPages(path).at(0), HasSubstr(widest));
 }
 
-// The graph of three points, which the test prints.
+// Prints the graph of three points.
 class ChartPrinting : public Printing {
  protected:
   ChartPrinting() {
@@ -143,7 +143,7 @@ class ChartPrinting : public Printing {
   GraphWindow graph{program};
 };
 
-TEST_F(ChartPrinting, MakesTextOfTheTitles) {
+TEST_F(ChartPrinting, PrintsTheTitlesAsText) {
   printer.PrintChart(graph.graph1, "Suggested PSUP");
 
   const std::vector<std::string> pages = PdfPages(path);
@@ -152,7 +152,7 @@ TEST_F(ChartPrinting, MakesTextOfTheTitles) {
   EXPECT_THAT(pages[0], HasSubstr("Sug.PSUP"));
 }
 
-TEST_F(ChartPrinting, LeavesTheReportsAfterItTheirSize) {
+TEST_F(ChartPrinting, KeepsTheSizeOfALaterReport) {
   PrintText(program, NumberedLines(40));
   const QImage before = Rendered(path, 60);
   printer.Device().setOutputFileName(folder.filePath("chart.pdf"));
@@ -191,7 +191,7 @@ TEST_F(Printing, LeavesAMarginAroundFullSheets) {
 
   PrintText(program, text);
 
-  const QImage sheet = Rendered(path, 254);  // ten dots are a millimetre
+  const QImage sheet = Rendered(path, 254);  // ten dots per millimetre
   const QRect ink = InkOn(sheet);
   EXPECT_THAT(PdfPages(path), testing::SizeIs(1));
   EXPECT_GE(ink.left(), 199);
@@ -202,7 +202,7 @@ TEST_F(Printing, LeavesAMarginAroundFullSheets) {
   EXPECT_GE(sheet.height() - 1 - ink.bottom(), 149);
 }
 
-TEST_F(Printing, TakesANewNameWhenNobodyAgreedToReplaceTheFile) {
+TEST_F(Printing, UsesANewNameIfTheUserDidNotConfirmTheReplacement) {
   PrintToFile();
   PrintText(program, "The first report\r\n");
 
@@ -215,11 +215,11 @@ TEST_F(Printing, TakesANewNameWhenNobodyAgreedToReplaceTheFile) {
   EXPECT_THAT(PdfPages(folder.filePath("report (2).pdf")).at(0), HasSubstr("The second report"));
 }
 
-TEST_F(Printing, ReplacesTheFileThatTheDialogWasAcceptedWith) {
+TEST_F(Printing, ReplacesTheFileThatTheUserConfirmedInTheDialog) {
   PrintToFile();
   PrintText(program, "The first report\r\n");
   scripts.Add([&](QDialog& dialog) {
-    // The dialog's own question about a file that is there is answered by the name of the file alone.
+    // The dialog asks about an existing file by its name only, so the file is moved away.
     QFile::rename(path, folder.filePath("away.pdf"));
     dialog.accept();
   });
@@ -230,7 +230,7 @@ TEST_F(Printing, ReplacesTheFileThatTheDialogWasAcceptedWith) {
   EXPECT_THAT(PdfPages(path).at(0), HasSubstr("The second report"));
 }
 
-// The user accepts the dialog with the name that it proposes.
+// The user accepts the dialog with the suggested name.
 struct ChosenPrinting : Printing {
   void Choose(const std::string& fileName) {
     scripts.Add([](QDialog& dialog) { dialog.accept(); });
@@ -239,7 +239,7 @@ struct ChosenPrinting : Printing {
   std::string PathOf(const QString& name) const { return folder.filePath(name).toStdString(); }
 };
 
-TEST_F(ChosenPrinting, OfAnotherCommandDoesNotReplaceTheFileThatWasChosenAndNeverPrinted) {
+TEST_F(ChosenPrinting, OfAnotherCommandDoesNotReplaceAChosenFileThatWasNotPrinted) {
   PrintToFile();
   Choose("panel3");
   QFile file(folder.filePath("panel3.pdf"));
@@ -251,7 +251,7 @@ TEST_F(ChosenPrinting, OfAnotherCommandDoesNotReplaceTheFileThatWasChosenAndNeve
   EXPECT_EQ(PrintText(program, "A line\r\n"), PathOf("panel3 (2).pdf"));
 }
 
-TEST_F(ChosenPrinting, OfAnotherProjectTakesTheNameOfThat) {
+TEST_F(ChosenPrinting, OfAnotherProjectUsesThatProjectsName) {
   PrintToFile();
   Choose("panel3");
   PrintText(program, "A line\r\n");
@@ -261,7 +261,7 @@ TEST_F(ChosenPrinting, OfAnotherProjectTakesTheNameOfThat) {
   EXPECT_EQ(PrintText(program, "A line\r\n"), PathOf("panel4.pdf"));
 }
 
-TEST_F(ChosenPrinting, KeepsANameThatTheUserGaveInThePrinterSetup) {
+TEST_F(ChosenPrinting, KeepsANameFromThePrinterSetup) {
   PrintToFile();
   Choose("panel3");
   scripts.Add([](QDialog& dialog) { dialog.accept(); });
@@ -272,7 +272,7 @@ TEST_F(ChosenPrinting, KeepsANameThatTheUserGaveInThePrinterSetup) {
   EXPECT_EQ(PrintText(program, "A line\r\n"), PathOf("panel3.pdf"));
 }
 
-TEST_F(Printing, ProposesTheNameOfTheProjectInTheFolderOfTheLastFile) {
+TEST_F(Printing, SuggestsTheProjectsNameInTheFolderOfTheLastFile) {
   PrintToFile();
   QString proposed;
   scripts.Add([&](QDialog& dialog) {
@@ -288,7 +288,7 @@ TEST_F(Printing, ProposesTheNameOfTheProjectInTheFolderOfTheLastFile) {
   EXPECT_EQ(printer.Device().outputFileName(), path);
 }
 
-TEST_F(Printing, PrintsTheSecondReportInAFileOfItsOwn) {
+TEST_F(Printing, PrintsTheSecondReportToItsOwnFile) {
   PrintToFile();
   PrintText(program, "The first report\r\n");
   printer.Device().setOutputFileName(folder.filePath("second.pdf"));
@@ -303,7 +303,7 @@ TEST_F(Printing, FailsWithoutAPrinter) {
   EXPECT_EQ(ErrorNumberOf([&] { PrintText(program, "A line\r\n"); }), 482);
 }
 
-TEST_F(Printing, FailsWhenTheFileCannotBeWritten) {
+TEST_F(Printing, FailsIfTheFileCannotBeWritten) {
   printer.Device().setOutputFormat(QPrinter::PdfFormat);
   printer.Device().setOutputFileName(folder.filePath("missing/report.pdf"));
 
@@ -319,7 +319,7 @@ TEST_F(Printing, IsCancelledInItsDialog) {
   EXPECT_EQ(ErrorNumberOf([&] { printer.Choose("panel3"); }), 32755);
 }
 
-TEST_F(Printing, TellsTheHistoryThatItWasCancelled) {
+TEST_F(Printing, RecordsInTheHistoryThatItWasCancelled) {
   scripts.Add([&](QDialog& results) {
     scripts.Add([](QDialog& dialog) { dialog.reject(); });
     PressLetterOf(results, "Command3");

@@ -34,7 +34,7 @@ struct APrivateCopy : testing::Test {
     QFile file(ToQt(path));
     return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "unreadable";
   }
-  // The folders of copies that there are.
+  // Returns the existing folders of copies.
   QStringList Kept() const {
     QStringList kept;
     QDir cache(ToQt(folder.At("cache")));
@@ -58,7 +58,7 @@ TEST_F(APrivateCopy, HasTheNameAndTheBytesOfTheFile) {
   EXPECT_EQ(Read(*copy), published);
 }
 
-TEST_F(APrivateCopy, StaysWhatWasCheckedWhenTheFileIsExchangedThen) {
+TEST_F(APrivateCopy, DoesNotChangeIfTheFileIsReplacedAfterTheCheck) {
   const auto copy = Copy();
   folder.Store("ORBY2.exe", "something else");
 
@@ -66,7 +66,7 @@ TEST_F(APrivateCopy, StaysWhatWasCheckedWhenTheFileIsExchangedThen) {
   EXPECT_EQ(Read(*copy), published);
 }
 
-TEST_F(APrivateCopy, StaysWhatWasCheckedWhenAnOpenFileIsWrittenTo) {
+TEST_F(APrivateCopy, DoesNotChangeIfTheOpenFileIsWrittenToAfterTheCheck) {
   QFile writer(ToQt(folder.At("ORBY2.exe")));
   ASSERT_TRUE(writer.open(QIODevice::ReadWrite));
 
@@ -78,7 +78,7 @@ TEST_F(APrivateCopy, StaysWhatWasCheckedWhenAnOpenFileIsWrittenTo) {
   EXPECT_EQ(Read(*copy), published);
 }
 
-TEST_F(APrivateCopy, IsOutOfReachOfOtherUsers) {
+TEST_F(APrivateCopy, IsNotAccessibleToOtherUsers) {
   const auto copy = Copy();
 
   ASSERT_TRUE(copy);
@@ -88,7 +88,7 @@ TEST_F(APrivateCopy, IsOutOfReachOfOtherUsers) {
   EXPECT_EQ(ModeOf(own.substr(0, own.rfind('/'))), 0700U);
 }
 
-TEST_F(APrivateCopy, IsNoneOfAFileWithAnotherSum) {
+TEST_F(APrivateCopy, IsNotMadeOfAFileWithAnotherChecksum) {
   folder.Store("ORBY2.exe", published + "s");
 
   EXPECT_FALSE(Copy());
@@ -96,7 +96,7 @@ TEST_F(APrivateCopy, IsNoneOfAFileWithAnotherSum) {
   EXPECT_TRUE(Kept().isEmpty());
 }
 
-TEST_F(APrivateCopy, TakesThePlaceOfTheOneBefore) {
+TEST_F(APrivateCopy, ReplacesTheEarlierCopy) {
   const auto first = Copy();
   const auto second = Copy();
 
@@ -105,13 +105,13 @@ TEST_F(APrivateCopy, TakesThePlaceOfTheOneBefore) {
   EXPECT_EQ(Read(*second), published);
 }
 
-TEST_F(APrivateCopy, TakesTheSumInAnyCase) {
+TEST_F(APrivateCopy, AcceptsTheChecksumInAnyCase) {
   const std::string sum = QString::fromStdString(SumOf(published)).toUpper().toStdString();
 
   EXPECT_TRUE(PrivateCopy(folder.At("ORBY2.exe"), sum));
 }
 
-TEST_F(APrivateCopy, CannotBeMadeOfAPipeAFolderOrNothing) {
+TEST_F(APrivateCopy, FailsForAPipeAFolderOrAMissingFile) {
   ASSERT_EQ(mkfifo(folder.At("pipe").c_str(), 0600), 0);
   const auto errorOf = [](const std::string& path) {
     return ErrorNumberOf([&] { static_cast<void>(PrivateCopy(path, SumOf("x"))); });
@@ -123,7 +123,7 @@ TEST_F(APrivateCopy, CannotBeMadeOfAPipeAFolderOrNothing) {
   EXPECT_TRUE(Kept().isEmpty());
 }
 
-TEST_F(APrivateCopy, CannotBeMadeWhereNoFolderCanBe) {
+TEST_F(APrivateCopy, FailsIfNoFolderCanBeCreated) {
   folder.Store("cache", "a file");
 
   EXPECT_EQ(ErrorNumberOf([this] { static_cast<void>(Copy()); }), 75);

@@ -1,4 +1,4 @@
-// A small window with one control of each kind, and what a screen reader can do to it.
+// A small window with one control of each type, and the actions of a screen reader.
 #pragma once
 
 #include <QAccessible>
@@ -34,7 +34,7 @@ inline QAccessibleEditableTextInterface& EditableText(QWidget& field) {
   return *ReaderOf(field).editableTextInterface();
 }
 
-// All of the text, as SetTextContents does it.
+// Replaces the whole text, as SetTextContents does.
 inline void SetText(QWidget& field, const QString& text) {
   EditableText(field).replaceText(0, ReaderOf(field).textInterface()->characterCount(), text);
   Settle();
@@ -57,7 +57,7 @@ inline void PressButton(QWidget& button) {
   Settle();
 }
 
-// One control of each kind, which write down what happens to them.
+// One control of each type. They record what happens to them.
 class BenchForm : public Form {
  public:
   BenchForm() : Form("frmBench", "Survey") {

@@ -1,5 +1,5 @@
-// What a screen reader, or whoever else drives the window through the accessibility interfaces, does to a control
-// reaches the model as the keyboard's act would.
+// Actions of a screen reader, or of another client of the accessibility interfaces, reach the model like those of the
+// keyboard.
 #include <QAccessible>
 #include <QComboBox>
 #include <QGroupBox>
@@ -56,21 +56,21 @@ TEST_F(Readers, SetTheTextOfAList) {
   EXPECT_FALSE(form.cmbHeight.HasSelection());
 }
 
-TEST_F(Readers, SetTheTextOfAListThatTakesItsItemsOnly) {
+TEST_F(Readers, SetTheTextOfAListThatAcceptsOnlyItsItems) {
   SetText(LineOf("cmbSeam"), "Middle");
 
   EXPECT_THAT(form.happened, ElementsAre("seam Middle"));
   EXPECT_EQ(form.cmbSeam.ListIndex(), 1);
 }
 
-TEST_F(Readers, LeaveAListThatTakesItsItemsOnlyAloneWhileOneTypes) {
+TEST_F(Readers, DoNotDisturbTypingInAListThatAcceptsOnlyItsItems) {
   LineOf("cmbSeam").setFocus();
   QTest::keyClicks(&LineOf("cmbSeam"), "Lo");
 
   EXPECT_THAT(form.happened, IsEmpty());
 }
 
-TEST_F(Readers, CannotWriteWhereTheKeyboardCannot) {
+TEST_F(Readers, CannotWriteInReadOnlyFields) {
   form.txtReport.SetText("Suggested PSUP 7.2");
   form.cmbHeight.SetEnabled(false);
   form.cmbSeam.SetEnabled(false);
@@ -105,7 +105,7 @@ TEST_F(Readers, SelectARowOfATableByACell) {
   EXPECT_THAT(form.happened, ElementsAre("bolt 2"));
 }
 
-TEST_F(Readers, CannotTakeTheMarkOffTheRowOfATable) {
+TEST_F(Readers, CannotClearTheSelectionOfATable) {
   SelectRow(Widget("grdBolts"), 2);
   ReaderOf(Widget("grdBolts")).tableInterface()->unselectRow(2);
   Settle();
@@ -114,7 +114,7 @@ TEST_F(Readers, CannotTakeTheMarkOffTheRowOfATable) {
   EXPECT_EQ(form.grdBolts.Row(), 3);
 }
 
-TEST_F(Readers, SelectNoRowOfATableThatIsDisabled) {
+TEST_F(Readers, SelectNoRowOfADisabledTable) {
   form.grdBolts.SetEnabled(false);
   SelectRow(Widget("grdBolts"), 2);
 
@@ -129,7 +129,7 @@ TEST_F(Readers, SelectAChoice) {
   EXPECT_THAT(form.happened, ElementsAre("shift 1", "shift 2"));
 }
 
-TEST_F(Readers, SelectACommandWhichIsCarriedOutOnce) {
+TEST_F(Readers, SelectACommandThatRunsOnce) {
   Widget("lstSheets").setFocus();
   SelectRow(Widget("lstSheets"), 0);
   SelectRow(Widget("lstSheets"), 2);
@@ -138,7 +138,7 @@ TEST_F(Readers, SelectACommandWhichIsCarriedOutOnce) {
   EXPECT_THAT(form.happened, ElementsAre("sheet 0", "sheet 2", "sheet 2"));
 }
 
-TEST_F(Readers, LeaveTheArrowsAndTheMouseOfAListOfCommandsAsTheyWere) {
+TEST_F(Readers, DoNotAffectArrowKeysAndMouseInAListOfCommands) {
   Widget("lstSheets").setFocus();
   Press(Qt::Key_Down);
   Press(Qt::Key_Down);
@@ -159,7 +159,7 @@ TEST_F(Readers, SelectAnItemOfAList) {
   EXPECT_EQ(TextOn(window, "cmbHeight"), "3.0");
 }
 
-TEST_F(Readers, SelectAnItemOfAListThatHasDroppedDown) {
+TEST_F(Readers, SelectAnItemOfAnOpenDropDownList) {
   auto& list = Find<QComboBox>(window, "cmbHeight");
   Do(ReaderOf(list), QAccessibleActionInterface::showMenuAction());
   ASSERT_TRUE(list.view()->isVisible());
@@ -170,7 +170,7 @@ TEST_F(Readers, SelectAnItemOfAListThatHasDroppedDown) {
   EXPECT_FALSE(list.view()->isVisible());
 }
 
-TEST_F(Readers, LeaveTheArrowsInAListThatHasDroppedDownAsTheyWere) {
+TEST_F(Readers, DoNotAffectTheArrowKeysInAnOpenDropDownList) {
   auto& list = Find<QComboBox>(window, "cmbHeight");
   list.showPopup();
   Settle();
@@ -183,7 +183,7 @@ TEST_F(Readers, LeaveTheArrowsInAListThatHasDroppedDownAsTheyWere) {
   EXPECT_THAT(form.happened, IsEmpty());
 }
 
-TEST_F(Readers, SelectNoItemOfAListThatIsDisabled) {
+TEST_F(Readers, SelectNoItemOfADisabledList) {
   form.cmbHeight.SetEnabled(false);
   SelectRow(*Find<QComboBox>(window, "cmbHeight").view(), 2);
 
@@ -192,14 +192,14 @@ TEST_F(Readers, SelectNoItemOfAListThatIsDisabled) {
 
 // ---- actions -------------------------------------------------------------------------------------------------------
 
-TEST_F(Readers, TurnToAPage) {
+TEST_F(Readers, OpenAPage) {
   Do(TabOf(1), QAccessibleActionInterface::pressAction());
 
   EXPECT_THAT(form.happened, ElementsAre("page 1"));
   EXPECT_EQ(Find<QTabWidget>(window, "stbPages").currentIndex(), 1);
 }
 
-TEST_F(Readers, CannotTurnToAPageThatIsDisabled) {
+TEST_F(Readers, CannotOpenADisabledPage) {
   Do(TabOf(2), QAccessibleActionInterface::pressAction());
 
   EXPECT_THAT(form.happened, IsEmpty());
@@ -213,7 +213,7 @@ TEST_F(Readers, CheckABoxAndChooseAnOption) {
   EXPECT_THAT(form.happened, ElementsAre("wet 1", "units 1"));
 }
 
-TEST_F(Readers, PressButtonsAndEntries) {
+TEST_F(Readers, PressButtonsAndMenuItems) {
   PressButton(Widget("cmdDraw"));
   Do(*ReaderOf(*mnuFile).child(1), QAccessibleActionInterface::pressAction());
   auto& bar = Find<QToolBar>(window, "tlbMain");
@@ -222,7 +222,7 @@ TEST_F(Readers, PressButtonsAndEntries) {
   EXPECT_THAT(form.happened, ElementsAre("draw", "file 1", "tool 0"));
 }
 
-TEST_F(Readers, CannotUseWhatIsDisabled) {
+TEST_F(Readers, CannotUseADisabledControl) {
   form.chkWet.SetEnabled(false);
   form.cmdDraw.SetEnabled(false);
   form.optUnits.SetMemberEnabled(1, false);
@@ -274,7 +274,7 @@ TEST_F(Readers, MoveASlider) {
 
 class FramesOf : public GuiTest, public testing::WithParamInterface<FormMaker> {};
 
-TEST_P(FramesOf, AreReadOutByTheirOwnTitles) {
+TEST_P(FramesOf, AreReadByTheirOwnTitles) {
   program.windows.curve.CurvePointCount = 0;
   const auto form = GetParam().make(program);
   form->Open();

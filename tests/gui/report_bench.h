@@ -1,4 +1,4 @@
-// A report of two pages, and the results window or the graph of its design on the screen.
+// A report of two pages, and the results window or the graph on the screen.
 #pragma once
 
 #include <qcustomplot.h>
@@ -20,7 +20,7 @@ class ReportTest : public GuiTest {
     program.session.history = {};
   }
 
-  // Shows the results until they are closed, the script playing the user.
+  // Shows the results until they are closed. The script plays the user.
   void UseResults(ModalScripts::Script script) {
     scripts.Add(std::move(script));
     ShowResults(program);
@@ -28,14 +28,14 @@ class ReportTest : public GuiTest {
   }
 };
 
-// The graph window; throws std::logic_error when there is none on view.
+// Returns the visible graph window. Throws std::logic_error if there is none.
 inline QWidget& GraphOnView() {
   QWidget* window = WindowOnView("frmGraph");
   if (window == nullptr) throw std::logic_error("no graph is on view");
   return *window;
 }
 
-// The graph of three points: suggested PSUP over depths of cover.
+// A graph of three points: suggested PSUP over depths of cover.
 class GraphViewTest : public GuiTest {
  protected:
   explicit GraphViewTest(const RealDoors& real = {}) : GuiTest(real) {
@@ -68,7 +68,7 @@ class GraphViewTest : public GuiTest {
   GraphWindow graph{program};
 };
 
-// Moves the pointer over the chart of the window, as the window system tells it.
+// Moves the pointer over the chart of the window by a window system event.
 inline void MoveOver(QWidget& window, const QPoint& inChart) {
   const auto& chart = Find<ChartView>(window, "graph1");
   QTest::mouseMove(window.windowHandle(), chart.mapTo(&window, inChart));

@@ -1,4 +1,4 @@
-// The documents that come with the program, as their reader finds them.
+// The documents that come with the program, as the user sees them.
 #include "dialogs/resource_files.h"
 #include "gui/gui_bench.h"
 

@@ -26,7 +26,7 @@ class ResultsView : public ReportTest {
   static bool CanPress(const QDialog& window, std::string_view button) {
     return Find<QPushButton>(window, button).isEnabled();
   }
-  // The list of curves, reached by the keyboard.
+  // Moves to the list of curves by the keyboard.
   static void GoToCurves(const QDialog& window) {
     PressLetterOf(window, "cmdGraph");
     for (int i = 0; i < 20 && FocusName() != "lstGraphs"; ++i) Press(Qt::Key_Tab);
@@ -50,7 +50,7 @@ TEST_F(ResultsView, TurnsPagesByTheirLetters) {
   });
 }
 
-TEST_F(ResultsView, OffersOnlyPagesThatThereAre) {
+TEST_F(ResultsView, OffersOnlyExistingPages) {
   UseResults([&](QDialog& window) {
     EXPECT_FALSE(CanPress(window, "Command5"));
     EXPECT_TRUE(CanPress(window, "Command4"));
@@ -63,7 +63,7 @@ TEST_F(ResultsView, OffersOnlyPagesThatThereAre) {
   });
 }
 
-TEST_F(ResultsView, ShowsTheReportInLettersOfOneWidth) {
+TEST_F(ResultsView, ShowsTheReportInAMonospacedFont) {
   UseResults([&](QDialog& window) {
     const QFont font = Find<QPlainTextEdit>(window, "RichTextBox1").font();
     const QFontMetrics metrics(font);
@@ -74,7 +74,7 @@ TEST_F(ResultsView, ShowsTheReportInLettersOfOneWidth) {
   });
 }
 
-TEST_F(ResultsView, ShowsAPageFromItsTopWheneverItIsTurnedTo) {
+TEST_F(ResultsView, ShowsEachPageFromItsTop) {
   UseResults([&](QDialog& window) {
     auto& report = Find<QPlainTextEdit>(window, "RichTextBox1");
     report.setFocus();
@@ -91,7 +91,7 @@ TEST_F(ResultsView, ShowsAPageFromItsTopWheneverItIsTurnedTo) {
   });
 }
 
-TEST_F(ResultsView, ShowsThePageFromItsTopOnceItIsPrinted) {
+TEST_F(ResultsView, ShowsThePageFromItsTopAfterPrinting) {
   for (const char* command : {"Command3", "Command6"}) {
     UseResults([&](QDialog& window) {
       auto& report = Find<QPlainTextEdit>(window, "RichTextBox1");
@@ -107,7 +107,7 @@ TEST_F(ResultsView, ShowsThePageFromItsTopOnceItIsPrinted) {
   }
 }
 
-TEST_F(ResultsView, CopiesThePageOnView) {
+TEST_F(ResultsView, CopiesTheShownPage) {
   UseResults([&](QDialog& window) {
     PressLetterOf(window, "Command4");
     PressLetterOf(window, "Command2");
@@ -128,7 +128,7 @@ TEST_F(ResultsView, CopiesAllPagesWithNothingBetweenThem) {
               Eq(program.session.OutBuf[0] + program.session.OutBuf[1]));
 }
 
-TEST_F(ResultsView, HasTheTextReadOnly) {
+TEST_F(ResultsView, ShowsReadOnlyText) {
   UseResults([&](QDialog& window) {
     const std::string before = TextOn(window, "RichTextBox1");
     Find(window, "RichTextBox1").setFocus();
@@ -139,7 +139,7 @@ TEST_F(ResultsView, HasTheTextReadOnly) {
   });
 }
 
-TEST_F(ResultsView, ChangesTheInputInTheDialogThatAskedForTheReport) {
+TEST_F(ResultsView, ReturnsToTheDialogThatRequestedTheReport) {
   std::vector<InputDialog> reopened;
   program.windows.ReportCaller = InputDialog::Cost;
   program.windows.OpenInputDialog = [&](InputDialog caller) { reopened.push_back(caller); };
@@ -151,7 +151,7 @@ TEST_F(ResultsView, ChangesTheInputInTheDialogThatAskedForTheReport) {
 
 // ---- curves ---------------------------------------------------------------------------------------------------------
 
-TEST_F(ResultsView, ListsItsTenCurvesOnlyWhenAsked) {
+TEST_F(ResultsView, ListsItsTenCurvesOnlyOnDemand) {
   UseResults([&](QDialog& window) {
     const auto& list = Find<QListWidget>(window, "lstGraphs");
     EXPECT_FALSE(list.isVisible());
@@ -180,7 +180,7 @@ TEST_F(ResultsView, DrawsTheCurveChosenByTheKeyboard) {
   });
 }
 
-TEST_F(ResultsView, DrawsTheCurveThatIsClicked) {
+TEST_F(ResultsView, DrawsTheClickedCurve) {
   UseResults([&](QDialog& window) {
     Click(window, "cmdGraph");
     auto& list = Find<QListWidget>(window, "lstGraphs");
@@ -194,7 +194,7 @@ TEST_F(ResultsView, DrawsTheCurveThatIsClicked) {
   });
 }
 
-TEST_F(ResultsView, TakesTheGraphAlongWhenItCloses) {
+TEST_F(ResultsView, ClosesTheGraphWhenItCloses) {
   UseResults([&](QDialog& window) {
     GoToCurves(window);
     Press(Qt::Key_Enter);
@@ -206,7 +206,7 @@ TEST_F(ResultsView, TakesTheGraphAlongWhenItCloses) {
   EXPECT_TRUE(program.windows.curve.GraphClosed);
 }
 
-TEST_F(ResultsView, LeavesTheGraphUsableBesideIt) {
+TEST_F(ResultsView, CanBeUsedTogetherWithTheGraph) {
   UseResults([&](QDialog& window) {
     GoToCurves(window);
     Press(Qt::Key_Home);
@@ -222,8 +222,8 @@ TEST_F(ResultsView, LeavesTheGraphUsableBesideIt) {
   });
 }
 
-// A screen reader chooses a curve while the help has the keyboard.
-TEST_F(ResultsView, KeepsTheGraphWhenAWindowThatWasInUseBesideItCloses) {
+// A screen reader chooses a curve while the help has the focus.
+TEST_F(ResultsView, KeepsTheGraphWhenAnotherWindowInUseCloses) {
   UseResults([&](QDialog& window) {
     PressLetterOf(window, "cmdGraph");
     auto* beside = new QWidget(&window, Qt::Window);

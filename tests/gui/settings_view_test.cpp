@@ -1,4 +1,4 @@
-// The settings as their user sees them, and the font dialog behind one of their buttons.
+// The settings as their user sees them, and the font dialog that they open.
 #include <QCheckBox>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -31,7 +31,7 @@ class SettingsView : public GuiTest {
   SettingsDialog settings{program, [this] { ++modified; }};
 };
 
-TEST_F(SettingsView, AreSetByTheKeyboardAlone) {
+TEST_F(SettingsView, CanBeSetByTheKeyboard) {
   Use(settings, [](QDialog& window) {
     Find(window, "optUnits_0").setFocus(Qt::TabFocusReason);
     Press(Qt::Key_Right);
@@ -55,7 +55,7 @@ TEST_F(SettingsView, AreSetByTheKeyboardAlone) {
   EXPECT_EQ(modified, 1);
 }
 
-TEST_F(SettingsView, StayAsTheyWereAfterEscape) {
+TEST_F(SettingsView, DoNotChangeAfterEscape) {
   Use(settings, [](QDialog& window) {
     Click(window, "chkMaxMenu");
     Press(Qt::Key_Escape);
@@ -65,8 +65,8 @@ TEST_F(SettingsView, StayAsTheyWereAfterEscape) {
   EXPECT_EQ(modified, 0);
 }
 
-// Unlike the numbers of a design, this one is judged on OK alone.
-TEST_F(SettingsView, LetAnyKeyIntoTheSizeOfTheHistoryAndReadItsNumber) {
+// Unlike the numbers of a design, this one is checked only on OK.
+TEST_F(SettingsView, AcceptAnyKeyInTheHistorySizeAndReadItsNumber) {
   Use(settings, [](QDialog& window) {
     TypeInto(window, "Text3", "5000 chars");
     EXPECT_EQ(TextOn(window, "Text3"), "5000 chars");
@@ -76,7 +76,7 @@ TEST_F(SettingsView, LetAnyKeyIntoTheSizeOfTheHistoryAndReadItsNumber) {
   EXPECT_EQ(program.session.settings.MaxDisplaySize, 5000);
 }
 
-TEST_F(SettingsView, GiveTheKeyboardToTheFieldAtFault) {
+TEST_F(SettingsView, MoveTheFocusToTheInvalidField) {
   Use(settings, [this](QDialog& window) {
     TypeInto(window, "Text2", "/nowhere");
     Click(window, "cmdOK");
@@ -94,7 +94,7 @@ TEST_F(SettingsView, GiveTheKeyboardToTheFieldAtFault) {
   });
 }
 
-TEST_F(SettingsView, ComeUpWithoutAMessage) {
+TEST_F(SettingsView, OpenWithoutAMessage) {
   program.session.settings.ShortRecentFiles = 1;
 
   Use(settings, [this](QDialog& window) {
@@ -104,7 +104,7 @@ TEST_F(SettingsView, ComeUpWithoutAMessage) {
   });
 }
 
-TEST_F(SettingsView, LetTheClickOnABoxEndBeforeTheyTellWhatItMeans) {
+TEST_F(SettingsView, ShowTheMessageAfterTheClickOnABoxIsOver) {
   Use(settings, [this](QDialog& window) {
     auto& box = Find<QCheckBox>(window, "chkShortNames");
 
@@ -121,7 +121,7 @@ TEST_F(SettingsView, LetTheClickOnABoxEndBeforeTheyTellWhatItMeans) {
   EXPECT_EQ(program.session.settings.ShortRecentFiles, 1);
 }
 
-TEST_F(SettingsView, TakeAFolderThatIsPointedAt) {
+TEST_F(SettingsView, AcceptAChosenFolder) {
   platform.fileDialogs.answers = {"/designs"};
 
   Use(settings, [](QDialog& window) {
@@ -181,7 +181,7 @@ TEST_F(SettingsView, ChooseAFontByTheMouse) {
   EXPECT_EQ(program.session.settings.DisplayFontName, "Arial");
 }
 
-TEST_F(SettingsView, LeaveAFontThatIsNotOfferedAloneWhenTheListGetsTheKeyboard) {
+TEST_F(SettingsView, KeepAFontThatIsNotOfferedWhenTheListGetsTheFocus) {
   program.session.settings.DisplayFontName = "Terminal";
   scripts.Add([](QDialog& settingsWindow) {
     Click(settingsWindow, "Command5");

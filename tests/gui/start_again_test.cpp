@@ -1,4 +1,4 @@
-// What a run is told by the one before it, which ended by an error.
+// The restart that a run passes to the next one after an error ended it.
 #include "qt/start_again.h"
 
 #include <QFile>
@@ -11,7 +11,7 @@ namespace orby::test {
 namespace {
 
 struct StartAgainTest : testing::Test {
-  // Starts a program that leaves what it was told, and gives that.
+  // Starts a program that writes down the restart that it gets, and returns that.
   std::string ToldBy(const Restart& restart) {
     const QString told = folder.filePath("told");
     const QString script = folder.filePath("program");
@@ -30,13 +30,13 @@ struct StartAgainTest : testing::Test {
   QTemporaryDir folder;
 };
 
-TEST_F(StartAgainTest, TellsTheNextRunTheSlotAndGivesItNoArgument) { EXPECT_EQ(ToldBy({3, {}}), "3.0"); }
+TEST_F(StartAgainTest, PassesTheSlotToTheNextRunWithoutAnArgument) { EXPECT_EQ(ToldBy({3, {}}), "3.0"); }
 
-TEST_F(StartAgainTest, TellsTheNextRunAFileByTheBytesOfItsPath) {
+TEST_F(StartAgainTest, PassesTheBytesOfAFilesPathToTheNextRun) {
   EXPECT_EQ(ToldBy({0, "/designs/\xE9 \"3\".orb"}), "/designs/\xE9 \"3\".orb.0");
 }
 
-TEST_F(StartAgainTest, IsKnownToTheNextRunAloneAndToNoProgramThatItStarts) {
+TEST_F(StartAgainTest, IsNotPassedOnToProgramsThatTheNextRunStarts) {
   qputenv("ORBY_START_AGAIN", "3");
 
   const auto restart = TakeRestart();
@@ -47,7 +47,7 @@ TEST_F(StartAgainTest, IsKnownToTheNextRunAloneAndToNoProgramThatItStarts) {
   EXPECT_FALSE(TakeRestart().has_value());
 }
 
-TEST_F(StartAgainTest, FailsWhereTheProgramHasGone) { EXPECT_FALSE(StartAgain(folder.filePath("gone"), {3, {}})); }
+TEST_F(StartAgainTest, FailsIfTheProgramIsMissing) { EXPECT_FALSE(StartAgain(folder.filePath("gone"), {3, {}})); }
 
 }  // namespace
 }  // namespace orby::test

@@ -41,7 +41,7 @@ class BrowserView : public GuiTest {
     });
   }
 
-  // A click on an item of a list, on its text.
+  // Clicks the text of a list item.
   static void ClickItem(const QDialog& window, std::string_view list, const QString& text, int times = 1) {
     auto& widget = Find<QListWidget>(window, list);
     const auto found = widget.findItems(text, Qt::MatchExactly);
@@ -53,7 +53,7 @@ class BrowserView : public GuiTest {
     if (times > 1) QTest::mouseDClick(widget.viewport(), Qt::LeftButton, Qt::NoModifier, at);
     Settle();
   }
-  // Lets a file come in.
+  // Waits until a file is read.
   void Wait() {
     while (!platform.clock.waiting.empty()) platform.clock.Pass();
     Settle();
@@ -88,7 +88,7 @@ TEST_F(BrowserView, ShowsTheLinesOfAFile) {
   });
 }
 
-TEST_F(BrowserView, ShowsTheNextFileInPlaceOfTheLast) {
+TEST_F(BrowserView, ReplacesAFileByTheNextOne) {
   Browse([this](QDialog& window) {
     OpenFile(window, "panel3.orb");
     OpenFile(window, "panel4.orb");
@@ -108,7 +108,7 @@ TEST_F(BrowserView, OpensAFileByTheKeyboard) {
   });
 }
 
-TEST_F(BrowserView, ShowsHowFarALongFileIs) {
+TEST_F(BrowserView, ShowsTheProgressOfALongFile) {
   platform.files.files["/designs/long.orb"] = std::string(TextBrowser::PieceBytes * 4, '\n');
   Browse([this](QDialog& window) {
     const auto& bar = Find<QProgressBar>(window, "prgLoading");
@@ -136,7 +136,7 @@ TEST_F(BrowserView, OpensAFolderByOneClick) {
   });
 }
 
-TEST_F(BrowserView, OpensNoFurtherFolderByTheSecondClickOfTwo) {
+TEST_F(BrowserView, OpensNoSecondFolderByADoubleClick) {
   Browse([](QDialog& window) {
     ClickItem(window, "Dir1", "    west", 2);
 
@@ -145,8 +145,8 @@ TEST_F(BrowserView, OpensNoFurtherFolderByTheSecondClickOfTwo) {
   });
 }
 
-// As when the window has not answered for a while.
-TEST_F(BrowserView, ForgetsAClickOnAFolderThatAClickBeforeItTookOffTheList) {
+// As if the window has not answered for a while.
+TEST_F(BrowserView, IgnoresAClickOnAFolderThatAnEarlierClickRemoved) {
   Browse([this](QDialog& window) {
     auto& folders = Find<QListWidget>(window, "Dir1");
     const auto clickRow = [&folders](int row) {
@@ -207,7 +207,7 @@ TEST_F(BrowserView, HidesThePaneForTheExternalViewer) {
   });
 }
 
-TEST_F(BrowserView, TakesTheFont) {
+TEST_F(BrowserView, UsesTheChosenFont) {
   program.session.textBrowse.BrowseFontName = "Courier New";
   program.session.textBrowse.BrowseFontSize = 16;
   program.session.textBrowse.BrowseFontBold = -1;
@@ -249,7 +249,7 @@ TEST_F(BrowserView, FindsATextByTheKeyboard) {
   });
 }
 
-TEST_F(BrowserView, SaysWhatIsNotThere) {
+TEST_F(BrowserView, SaysThatATextIsNotFound) {
   Browse([this](QDialog& window) {
     OpenFile(window, "panel3.orb");
     Press(Qt::Key_F, Qt::ControlModifier);
@@ -262,7 +262,7 @@ TEST_F(BrowserView, SaysWhatIsNotThere) {
   });
 }
 
-TEST_F(BrowserView, OpensTheBarByF3AsLongAsThereIsNothingToFind) {
+TEST_F(BrowserView, OpensTheBarByF3WithoutATextToFind) {
   Browse([this](QDialog& window) {
     OpenFile(window, "panel3.orb");
 
@@ -272,7 +272,7 @@ TEST_F(BrowserView, OpensTheBarByF3AsLongAsThereIsNothingToFind) {
   });
 }
 
-TEST_F(BrowserView, GivesTheBarLettersOfItsOwn) {
+TEST_F(BrowserView, GivesTheBarItsOwnLetters) {
   Browse([](QDialog& window) {
     ClickItem(window, "File1", "panel3.orb");
     Press(Qt::Key_F, Qt::ControlModifier);
@@ -312,7 +312,7 @@ TEST_F(BrowserView, HidesTheBarWithThePane) {
   });
 }
 
-// A copy or a search of a text that takes several pieces.
+// A copy or search of a text that takes several pieces.
 class LongWork : public BrowserView {
  protected:
   static constexpr std::size_t Size = std::size_t{10} << 20U;
@@ -326,7 +326,7 @@ class LongWork : public BrowserView {
     QTest::keyClick(&Pane(window), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&Pane(window), Qt::Key_C, Qt::ControlModifier);
   }
-  // A text of many lines: one line alone is copied at a time.
+  // Makes a text of many lines, because a single line is copied at once.
   void MakeLines() {
     std::string& text = platform.files.files["/designs/long.orb"];
     text.clear();
@@ -335,7 +335,7 @@ class LongWork : public BrowserView {
   static std::string Copied() { return QGuiApplication::clipboard()->text().toStdString(); }
 };
 
-TEST_F(LongWork, CopiesPieceByPieceWithABar) {
+TEST_F(LongWork, CopiesPieceByPieceWithAProgressBar) {
   MakeLines();
   Browse([this](QDialog& window) {
     CopyAll(window);
@@ -376,7 +376,7 @@ TEST_F(LongWork, StopsByItsButton) {
   });
 }
 
-TEST_F(LongWork, EndsWithTheFileThatItIsDoneOn) {
+TEST_F(LongWork, EndsWhenItsFileIsReplaced) {
   MakeLines();
   Browse([this](QDialog& window) {
     CopyAll(window);
@@ -389,7 +389,7 @@ TEST_F(LongWork, EndsWithTheFileThatItIsDoneOn) {
   });
 }
 
-TEST_F(LongWork, FindsWhatIsFarAway) {
+TEST_F(LongWork, FindsADistantText) {
   Browse([this](QDialog& window) {
     OpenFile(window, "long.orb");
     Press(Qt::Key_F, Qt::ControlModifier);

@@ -21,7 +21,7 @@ class CalculatorView : public GuiTest {
   }
 };
 
-TEST_F(CalculatorView, ConvertsWhatIsTypedIntoIt) {
+TEST_F(CalculatorView, ConvertsTheTypedNumber) {
   Calculate([](QDialog& window) {
     EXPECT_EQ(FocusName(), "txtLength");
     Type("1");
@@ -43,7 +43,7 @@ TEST_F(CalculatorView, RefusesLetters) {
   });
 }
 
-TEST_F(CalculatorView, PutsTheKeyboardIntoTheInputOfATab) {
+TEST_F(CalculatorView, MovesTheFocusToTheInputOfATab) {
   Calculate([](QDialog& window) {
     auto& tabs = *Find<QTabWidget>(window, "SSTab1").tabBar();
     QTest::mouseClick(&tabs, Qt::LeftButton, Qt::NoModifier, tabs.tabRect(3).center());
@@ -56,7 +56,7 @@ TEST_F(CalculatorView, PutsTheKeyboardIntoTheInputOfATab) {
   });
 }
 
-TEST_F(CalculatorView, KeepsWhatTheOtherTabsShow) {
+TEST_F(CalculatorView, KeepsTheResultsOfTheOtherTabs) {
   Calculate([](QDialog& window) {
     Type("6");
     PressLetterOfTab(window, "SSTab1", 1);
@@ -70,7 +70,7 @@ TEST_F(CalculatorView, KeepsWhatTheOtherTabsShow) {
   });
 }
 
-TEST_F(CalculatorView, TellsTheUnitOfEachResult) {
+TEST_F(CalculatorView, ShowsTheUnitOfEachResult) {
   Calculate([](QDialog& window) {
     const std::pair<const char*, const char*> units[] = {
         {"Text7", "in"},       {"Text10", "m"},  {"Text22", "tonsF (short)"}, {"Text25", "kips"},
@@ -82,7 +82,7 @@ TEST_F(CalculatorView, TellsTheUnitOfEachResult) {
   });
 }
 
-TEST_F(CalculatorView, ShowsItsResultsWithoutLettingThemBeChanged) {
+TEST_F(CalculatorView, ShowsReadOnlyResults) {
   Calculate([](QDialog& window) {
     Type("6");
     Find(window, "Text7").setFocus();

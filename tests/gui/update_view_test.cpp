@@ -1,4 +1,4 @@
-// Program updates as their user sees them, with a server on this machine and real files.
+// The update dialog as its user sees it, with a server on this machine and real files.
 #include <QCheckBox>
 #include <QCryptographicHash>
 #include <QDir>
@@ -75,7 +75,7 @@ class UpdateView : protected UpdateDoors, public GuiTest {
       Press(Qt::Key_Escape);
     });
   }
-  // Looks for a version, and gives what the boxes say.
+  // Checks for a version and returns the texts of the boxes.
   std::vector<std::string> CheckOnce() {
     platform.boxes.shown.clear();
     UseDialog([](QDialog& window) {
@@ -135,19 +135,19 @@ TEST_F(UpdateView, SaysThatTheInformationIsInvalid) {
   EXPECT_THAT(CheckOnce(), ElementsAre(invalid));
 }
 
-TEST_F(UpdateView, TellsWhenNobodyAnswers) {
+TEST_F(UpdateView, SaysThatTheServerDoesNotAnswer) {
   program.session.UpdateServer = WebServer().Address({});
 
   EXPECT_THAT(CheckOnce(),
               ElementsAre("An error occurred calling InternetOpenUrl function", "Internet Connection Failed"));
 }
 
-TEST_F(UpdateView, HasNothingToOfferWithoutAServer) {
+TEST_F(UpdateView, OffersNothingWithoutAServer) {
   program.session.UpdateServer.clear();
 
   UseDialog([](QDialog& window) {
     EXPECT_FALSE(Find(window, "cmdWebPage").isEnabled());
-    Press(Qt::Key_Return);  // looks for updates
+    Press(Qt::Key_Return);  // checks for updates
   });
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Internet Connection Failed"));
@@ -173,7 +173,7 @@ TEST_F(UpdateView, DownloadsANewerVersionAndInstallsIt) {
   EXPECT_EQ(ended, 1);
 }
 
-TEST_F(UpdateView, NeverStartsAFileThatWasExchangedSinceItsDownload) {
+TEST_F(UpdateView, NeverStartsAFileThatWasReplacedAfterItsDownload) {
   OfferVersion("1.0.01," + SumOf(SetupBytes));
 
   UseDialog([this](QDialog& window) {
@@ -208,7 +208,7 @@ TEST_F(UpdateView, DeletesAndNeverStartsAFileThatIsNotThePublishedOne) {
   EXPECT_EQ(ended, 0);
 }
 
-TEST_F(UpdateView, TellsThatADownloadBroke) {
+TEST_F(UpdateView, ReportsABrokenDownload) {
   OfferVersion("1.0.01");
   server.ServeBroken(SetupFile, SetupBytes, 4000, "ETag: \"setup\"");
 
@@ -223,7 +223,7 @@ TEST_F(UpdateView, TellsThatADownloadBroke) {
   EXPECT_THAT(platform.documents.opened, IsEmpty());
 }
 
-TEST_F(UpdateView, StaysAliveDuringASlowDownloadAndGoesOnWithItLater) {
+TEST_F(UpdateView, StaysResponsiveDuringASlowDownloadAndResumesItLater) {
   OfferVersion("1.0.01," + SumOf(SetupBytes));
   server.ServeSlowly(SetupFile, SetupBytes.size());
 
@@ -266,7 +266,7 @@ TEST_F(UpdateView, OpensTheWebPage) {
   EXPECT_THAT(platform.documents.opened, ElementsAre(server.Address("/roof-support/")));
 }
 
-TEST(TheUpdateServer, IsTheOneThatTheEnvironmentNames) {
+TEST(TheUpdateServer, IsTakenFromTheEnvironment) {
   const QByteArray before = qgetenv("ORBY_UPDATE_SERVER");
   qputenv("ORBY_UPDATE_SERVER", " https://updates.example.org ");
   const std::string named = UpdateServer();
@@ -280,7 +280,7 @@ TEST(TheUpdateServer, IsTheOneThatTheEnvironmentNames) {
 
 // ---- the look at the server that a run begins with -----------------------------------------------------------------
 
-TEST_F(UpdateView, ComesUpAtStartWhenTheUserWantsTheNewerVersion) {
+TEST_F(UpdateView, OpensAtStartIfTheUserWantsTheNewerVersion) {
   OfferVersion("1.0.01\r\n");
   platform.boxes.answers = {BoxResult::Yes};
   UpdateCheck check(program);
@@ -298,7 +298,7 @@ TEST_F(UpdateView, ComesUpAtStartWhenTheUserWantsTheNewerVersion) {
   EXPECT_THAT(program.session.history.Text, HasSubstr("Server/Current: 1.0.01/1.0.00"));
 }
 
-TEST_F(UpdateView, StaysAwayAtStartOnTheSameVersion) {
+TEST_F(UpdateView, DoesNotOpenAtStartForTheSameVersion) {
   OfferVersion("1.0.00\r\n");
   UpdateCheck check(program);
 
@@ -308,7 +308,7 @@ TEST_F(UpdateView, StaysAwayAtStartOnTheSameVersion) {
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
-TEST_F(UpdateView, StaysAwayAtStartWhenTheServerSendsTooMuch) {
+TEST_F(UpdateView, DoesNotOpenAtStartIfTheServerSendsTooMuch) {
   server.ServeEndless(VersionFile);
   UpdateCheck check(program);
 

@@ -18,7 +18,7 @@ QByteArray Head(const QByteArray& status, const QByteArray& headers) {
   return "HTTP/1.1 " + status + "\r\n" + headers + "Connection: close\r\n\r\n";
 }
 
-// The value of a header line.
+// Returns the value of a header line.
 QByteArray ValueOf(const QByteArray& line) { return line.mid(line.indexOf(':') + 1).trimmed(); }
 
 WebRequest RequestIn(const QByteArray& head) {
@@ -59,7 +59,7 @@ WebServer::WebServer(std::unique_ptr<QTcpServer> server, std::string scheme)
   QObject::connect(server_.get(), &QTcpServer::pendingConnectionAvailable, server_.get(), [this] {
     while (QTcpSocket* socket = server_->nextPendingConnection()) {
       QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] { Read(*socket); });
-      // What came along with the last step of making the line safe.
+      // Some bytes may have arrived with the last step of the TLS handshake.
       if (socket->bytesAvailable() > 0) Read(*socket);
     }
   });

@@ -1,4 +1,4 @@
-// A web server on this machine, at a port that the system chooses, in the event loop of the test.
+// A web server on this machine, in the event loop of the test. The system chooses the port.
 #pragma once
 
 #include <QHash>
@@ -26,36 +26,37 @@ class WebServer {
   using Answer = std::function<void(const WebRequest& request, QTcpSocket& socket)>;
 
   WebServer();
-  // Speaks https with a certificate of tests/data/certificates.
+  // Uses https with a certificate of tests/data/certificates.
   explicit WebServer(const QString& certificate);
   WebServer(const WebServer&) = delete;
   WebServer& operator=(const WebServer&) = delete;
 
   std::string Address(const QByteArray& path) const;
 
-  // The certificate that makes a client of this process trust the server of this name.
+  // Returns the certificate that makes a client in this process trust the server of this name.
   static QSslCertificate CertificateOf(const QString& certificate);
 
-  // What is answered under this path; any other path is not found.
+  // Sets the answer for this path. Any other path is not found.
   void Serve(const QByteArray& path, Answer answer) { answers_[path] = std::move(answer); }
-  // A file, and the rest of it to who asks for the rest of this very file. mark: a header line, such as "ETag: \"1\"".
+  // Serves a file, and the rest of it if the client asks for the rest of this file. mark: a header line, such as "ETag:
+  // \"1\"".
   void ServeFile(const QByteArray& path, const QByteArray& bytes, const QByteArray& mark = {});
-  // The head of the file and so many of its bytes; then the connection breaks.
+  // Sends the head and the first bytes of the file, and then breaks the connection.
   void ServeBroken(const QByteArray& path, const QByteArray& bytes, qsizetype sent, const QByteArray& mark = {});
   void ServeRedirection(const QByteArray& path, const QByteArray& location);
-  // An answer without an end. length: its header line, if any.
+  // Sends an endless answer. length: its header line, if any.
   void ServeEndless(const QByteArray& path, const QByteArray& length = {});
-  // The head alone; the body comes by Send.
+  // Sends only the head. Send sends the body.
   void ServeSlowly(const QByteArray& path, qsizetype length);
   void Send(const QByteArray& bytes);
   bool IsAskedSlowly() const { return slow_ != nullptr; }
-  // Whether the client has hung up on the slow answer.
+  // Returns true if the client has closed the connection of the slow answer.
   bool IsLeft() const { return slow_ == nullptr || slow_->state() == QAbstractSocket::UnconnectedState; }
 
   const std::vector<WebRequest>& Requests() const { return requests_; }
   qint64 BodyBytes() const { return bodyBytes_; }  // of all files and endless answers so far
 
-  // A whole answer; the connection ends with it.
+  // Sends a whole answer and closes the connection.
   static void Reply(QTcpSocket& socket, const QByteArray& status, const QByteArray& headers, const QByteArray& body);
 
  private:

@@ -1,4 +1,4 @@
-// How windows stand on each other and on the screen.
+// The owners and the positions of windows.
 #include "qt/windows.h"
 
 #include <QDropEvent>
@@ -28,7 +28,7 @@ class WindowsOnScreen : public MainViewTest {
   QtMessageBoxes boxes;
 };
 
-TEST_F(WindowsOnScreen, AMessageBelongsToTheMainWindowWhenNoDialogIsOpen) {
+TEST_F(WindowsOnScreen, AMessageBelongsToTheMainWindowIfNoDialogIsOpen) {
   const QWidget* parent = nullptr;
   scripts.Add([&](QDialog& window) {
     parent = window.parentWidget();
@@ -55,7 +55,7 @@ TEST_F(WindowsOnScreen, AMessageBelongsToTheDialogInUse) {
   });
 }
 
-TEST_F(WindowsOnScreen, ACommandThatWaitsBehindOneThatOpensADialogIsNotObeyedUnderTheDialog) {
+TEST_F(WindowsOnScreen, ACommandQueuedAfterOneThatOpensADialogIsDropped) {
   auto* parameters = View().findChild<QAction*>("mnuEditItem_1");
   int opened = 0;
   scripts.Add([&](QDialog& window) {
@@ -71,7 +71,7 @@ TEST_F(WindowsOnScreen, ACommandThatWaitsBehindOneThatOpensADialogIsNotObeyedUnd
   EXPECT_EQ(opened, 1);
 }
 
-TEST_F(WindowsOnScreen, AFileDroppedJustBeforeADialogOpensDoesNotChangeTheProjectUnderIt) {
+TEST_F(WindowsOnScreen, AFileDroppedJustBeforeADialogOpensIsIgnored) {
   const std::string path = std::string(EXAMPLES_DIR) + "/development-entry.ORB";
   platform.files.files[path] = BytesOf(path);
   QMimeData data;
@@ -120,7 +120,7 @@ TEST_F(WindowsOnScreen, ADialogBelongsToTheDialogItWasOpenedFrom) {
   });
 }
 
-TEST_F(WindowsOnScreen, TheMainWindowIsInUseOnceItIsShownAgain) {
+TEST_F(WindowsOnScreen, TheMainWindowIsActivatedWhenItIsShownAgain) {
   for (const bool wasHidden : {true, false}) {
     QDialog other;
     other.show();
@@ -135,7 +135,7 @@ TEST_F(WindowsOnScreen, TheMainWindowIsInUseOnceItIsShownAgain) {
   }
 }
 
-TEST_F(WindowsOnScreen, TheMainWindowComesBackOntoTheScreenWhenItsSizeChanges) {
+TEST_F(WindowsOnScreen, TheMainWindowReturnsToTheScreenWhenItsSizeChanges) {
   const QRect screen = View().screen()->availableGeometry();
   View().move(screen.right() - 100, screen.bottom() - 100);
   Settle();
@@ -169,7 +169,7 @@ TEST_F(WindowsOnScreen, TheMainWindowKeepsASensibleSizeWithoutHistoryAndToolBar)
   EXPECT_GE(View().minimumSizeHint().height(), 340);
 }
 
-TEST_F(WindowsOnScreen, TheMainWindowShowsTheSignOfTheProgramInPlaceOfTheHistory) {
+TEST_F(WindowsOnScreen, TheMainWindowShowsTheLogoInsteadOfTheHistory) {
   const auto& sign = Find<QLabel>(View(), "viewGround");
   EXPECT_FALSE(sign.isVisible());
 
@@ -183,7 +183,7 @@ TEST_F(WindowsOnScreen, TheMainWindowShowsTheSignOfTheProgramInPlaceOfTheHistory
   EXPECT_FALSE(sign.isVisible());
 }
 
-TEST_F(WindowsOnScreen, ADialogStandsInTheMiddleOfTheScreen) {
+TEST_F(WindowsOnScreen, ADialogIsCentredOnTheScreen) {
   DescriptionDialog dialog(program);
 
   Use(dialog, [&](QDialog& window) {
@@ -195,7 +195,7 @@ TEST_F(WindowsOnScreen, ADialogStandsInTheMiddleOfTheScreen) {
   });
 }
 
-// Letters of three times the size for the length of a test.
+// Triples the font size during a test.
 class LargeLetters {
  public:
   LargeLetters() : before_(QApplication::font()) {
@@ -211,7 +211,7 @@ class LargeLetters {
   QFont before_;
 };
 
-TEST_F(WindowsOnScreen, ADialogIsNoHigherThanTheScreenAndKeepsItsButtonsOnIt) {
+TEST_F(WindowsOnScreen, ADialogIsNoHigherThanTheScreenAndKeepsItsButtonsVisible) {
   const LargeLetters letters;
   ParametersDialog dialog(program);
 
@@ -224,11 +224,11 @@ TEST_F(WindowsOnScreen, ADialogIsNoHigherThanTheScreenAndKeepsItsButtonsOnIt) {
   });
 }
 
-TEST_F(WindowsOnScreen, ATableShowsTheWholeOfItsNames) {
+TEST_F(WindowsOnScreen, ATableShowsItsNamesCompletely) {
   EstimatorDialog dialog(program);
 
   Use(dialog, [&](QDialog& window) {
-    Click(window, "optLocation_1");  // the region with the longest name of a rock
+    Click(window, "optLocation_1");  // the region with the longest name of a rock type
     const auto& table = Find<QTableWidget>(window, "VSFlexGrid1");
     const QString name = table.item(2, 1)->text();
     EXPECT_EQ(name, "Stackrock (laminated sandstone/shale)");
