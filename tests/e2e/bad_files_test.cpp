@@ -1,4 +1,5 @@
-// Files that are no projects, or not whole: an exit code and a message, never a crash, and no file written.
+// Files that are no projects, or are cut off: orby-cli ends with an exit code and a message, never crashes, and writes
+// no file.
 #include <gmock/gmock.h>
 
 #include "companion_run.h"
@@ -11,7 +12,7 @@ using testing::HasSubstr;
 
 class BadFile : public CompanionTest {
  protected:
-  // Runs every command on the file, expects the code and the words, and that nothing is written.
+  // Runs every command on the file and expects this exit code and this text, and no written file.
   void ExpectRefusal(const std::string& file, int exitCode, const std::string& words) const {
     const std::string out = Path("out.ORB");
     const std::vector<std::vector<std::string>> lines{{"report", file},      {"cost", file},       {"live", file},
@@ -45,7 +46,7 @@ TEST_F(BadFile, WithAnotherLabelIsRefused) {
   }
 }
 
-TEST_F(BadFile, WithACommaBehindItsLabelIsReadOnBehindIt) {
+TEST_F(BadFile, WithACommaAfterItsLabelIsReadOnAfterIt) {
   const std::string bytes = Read(Example("weak-roof"));
 
   const Outcome outcome = Run({"report", Write("comma.ORB", "ORBY_105,x" + bytes.substr(8))});
@@ -74,7 +75,7 @@ TEST_F(BadFile, CutAnywhereIsReadPastItsEndOrRefused) {
   }
 }
 
-TEST_F(BadFile, OfImmenseSizeEndsInItsError) {
+TEST_F(BadFile, OfImmenseSizeGivesItsError) {
   const std::string label = "ORBY_105\r\n 0 \r\n 0 \r\n";
   const std::string line(40'000'000, 'x');
   std::string many;

@@ -1,4 +1,4 @@
-// Runs the real orby-cli on files of a folder of its own.
+// Runs the real orby-cli on files in a folder of its own.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -20,17 +20,17 @@ class CompanionTest : public testing::Test {
   ~CompanionTest() override;
 
   Outcome Run(const std::vector<std::string>& words) const;
-  // With files of at most so many blocks of 512 bytes.
+  // Limits the size of files to this number of 512-byte blocks.
   Outcome RunWithSmallFiles(int blocks, const std::vector<std::string>& words) const;
 
-  // A path in the test's folder.
+  // Returns a path in the test's folder.
   std::string Path(const std::string& name) const { return folder_ + "/" + name; }
   std::string Write(const std::string& name, const std::string& bytes) const;
   static std::string Read(const std::string& path);
   static bool Exists(const std::string& path);
   static std::string Example(const std::string& name) { return std::string(EXAMPLES_DIR) + "/" + name + ".ORB"; }
 
-  // The names in the test's folder, sorted, but for what the companion printed.
+  // Returns the names in the test's folder, sorted, except for the captured output.
   std::vector<std::string> Names() const;
 
  private:
@@ -39,7 +39,7 @@ class CompanionTest : public testing::Test {
   std::string folder_;
 };
 
-// The designs under examples/, without extension.
+// The designs in examples/, without extension.
 inline const std::vector<std::string> Examples{
     "development-entry", "belt-entry-trusses",     "gateroad-standing-supports", "intersection-secondary-bolts",
     "weak-roof",         "australian-grade-metric"};

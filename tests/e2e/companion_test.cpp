@@ -1,4 +1,4 @@
-// The command line: its words, its exit codes, and what it leaves alone.
+// orby-cli: its command line, its exit codes, and the files that it does not touch.
 #include <gmock/gmock.h>
 
 #include <algorithm>
@@ -17,7 +17,7 @@ using testing::StartsWith;
 
 class Companion : public CompanionTest {};
 
-TEST_F(Companion, TellsHowItIsUsedOnRequest) {
+TEST_F(Companion, PrintsItsUsageOnRequest) {
   const Outcome outcome = Run({"--help"});
 
   EXPECT_EQ(outcome.exitCode, 0);
@@ -25,7 +25,7 @@ TEST_F(Companion, TellsHowItIsUsedOnRequest) {
   EXPECT_EQ(outcome.err, "");
 }
 
-TEST_F(Companion, EndsWithTheUsageWhenTheWordsMakeNoSense) {
+TEST_F(Companion, PrintsItsUsageForABadCommandLine) {
   const std::string file = Example("weak-roof");
   const std::vector<std::vector<std::string>> lines{
       {},
@@ -51,7 +51,7 @@ TEST_F(Companion, EndsWithTheUsageWhenTheWordsMakeNoSense) {
   }
 }
 
-TEST_F(Companion, PrintsOnePageOfTheReportOrBothWithNothingBetween) {
+TEST_F(Companion, PrintsOnePageOfTheReportOrBothWithoutASeparator) {
   const std::string file = Example("development-entry");
 
   const Outcome both = Run({"report", file});
@@ -71,7 +71,7 @@ TEST_F(Companion, ShowsTheGivenNameInTheReport) {
   EXPECT_THAT(Run({"report", "--page", "0", "--name", "east.ORB", file}).out, HasSubstr("Project File: east.ORB\r\n"));
 }
 
-TEST_F(Companion, PrintsTheReportsOfSeveralFilesOneBehindTheOther) {
+TEST_F(Companion, PrintsTheReportsOfSeveralFilesInTurn) {
   const std::string first = Example("development-entry");
   const std::string second = Example("weak-roof");
 
@@ -80,7 +80,7 @@ TEST_F(Companion, PrintsTheReportsOfSeveralFilesOneBehindTheOther) {
   EXPECT_EQ(together.out, Run({"report", first}).out + Run({"report", second}).out);
 }
 
-TEST_F(Companion, GivesTheHighestExitCodeOfSeveralFiles) {
+TEST_F(Companion, ReturnsTheHighestExitCodeOfSeveralFiles) {
   const std::string good = Example("development-entry");
   const std::string refused = Write("old.ORB", "ORBY_101\r\n");
 
@@ -93,7 +93,7 @@ TEST_F(Companion, GivesTheHighestExitCodeOfSeveralFiles) {
   EXPECT_EQ(outcome.out, report + report);
 }
 
-TEST_F(Companion, TellsWhatOkWouldComplainAboutALineEach) {
+TEST_F(Companion, PrintsEachMessageOfTheValidationOnALine) {
   std::string bytes = Read(Example("development-entry"));
   const std::string depth = "\r\n650\r\n162\r\n";
   bytes.replace(bytes.find(depth), depth.size(), "\r\n650\r\n99\r\n");
@@ -134,7 +134,7 @@ TEST_F(Companion, PrintsTheTenCurvesAroundADesign) {
   }
 }
 
-TEST_F(Companion, TellsOnStandardErrorThatACurveWasTrimmed) {
+TEST_F(Companion, SaysOnStandardErrorThatACurveWasTrimmed) {
   const Outcome outcome = Run({"curve", "0", Example("development-entry")});
 
   EXPECT_EQ(outcome.err, "message: Upper limit for CMRR trimmed to 51\n");
@@ -152,7 +152,7 @@ TEST_F(Companion, ShowsTheAustralianBoltsInMetricProjectsOnly) {
   EXPECT_EQ(Run({"report", "--aus", Example("weak-roof")}).out, Run({"report", Example("weak-roof")}).out);
 }
 
-TEST_F(Companion, TakesDefaultsAndCatalogsFromAConfigurationFileAndLeavesItAlone) {
+TEST_F(Companion, UsesDefaultsAndCatalogsOfAConfigurationFileWithoutChangingIt) {
   const std::string settings =
       "[ORBYDefaults]\r\nDefaultCMRR=45\r\n[ORBYBoltParams]\r\nDefaultCableIndexENG=0\r\n"
       "DefaultCableCapArrayENG0=40\r\nDefaultCableDiamArrayENG0=0.6\r\n";
@@ -167,7 +167,7 @@ TEST_F(Companion, TakesDefaultsAndCatalogsFromAConfigurationFileAndLeavesItAlone
   EXPECT_EQ(Run({"live", "--config", Path("none.INI"), Example("development-entry")}).exitCode, 3);
 }
 
-TEST_F(Companion, WritesNoFileThatWasNotAskedFor) {
+TEST_F(Companion, WritesNoOtherFiles) {
   const auto count = [this] {
     const std::filesystem::directory_iterator files(Path("."));
     return std::distance(begin(files), end(files));
@@ -181,14 +181,14 @@ TEST_F(Companion, WritesNoFileThatWasNotAskedFor) {
   EXPECT_EQ(count(), before);
 }
 
-TEST_F(Companion, TellsThatTheTargetCannotBeWritten) {
+TEST_F(Companion, SaysThatTheTargetCannotBeWritten) {
   const Outcome outcome = Run({"save", Example("weak-roof"), Path("no-such-folder/out.ORB")});
 
   EXPECT_EQ(outcome.exitCode, 3);
   EXPECT_EQ(outcome.err, "run-time error 76: Path not found\n");
 }
 
-TEST_F(Companion, LeavesTheTargetAsItWasWhenItCannotBeWrittenWhole) {
+TEST_F(Companion, LeavesTheTargetUnchangedIfItCannotBeWrittenCompletely) {
   const std::string out = Write("out.ORB", "the project of yesterday");
 
   const Outcome outcome = RunWithSmallFiles(1, {"save", Example("weak-roof"), out});
@@ -199,21 +199,21 @@ TEST_F(Companion, LeavesTheTargetAsItWasWhenItCannotBeWrittenWhole) {
   EXPECT_THAT(Names(), ElementsAre("out.ORB"));
 }
 
-TEST_F(Companion, TellsThatTheDiskIsFull) {
+TEST_F(Companion, SaysThatTheDiskIsFull) {
   const Outcome outcome = Run({"save", Example("weak-roof"), "/dev/full"});
 
   EXPECT_EQ(outcome.exitCode, 3);
   EXPECT_EQ(outcome.err, "run-time error 61: Disk full\n");
 }
 
-TEST_F(Companion, TellsThatItsOutputDoesNotFit) {
+TEST_F(Companion, SaysThatItsOutputCannotBeWritten) {
   const Outcome outcome = RunWithSmallFiles(1, {"report", Example("weak-roof")});
 
   EXPECT_EQ(outcome.exitCode, 3);
   EXPECT_EQ(outcome.err, "run-time error 61: Disk full\n");
 }
 
-TEST_F(Companion, WritesTheFileThatALinkLeadsToAndKeepsItsPermissions) {
+TEST_F(Companion, WritesTheTargetOfALinkAndKeepsItsPermissions) {
   const std::string real = Write("real.ORB", "old");
   std::filesystem::permissions(real, std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
   std::filesystem::create_symlink("real.ORB", Path("out.ORB"));
@@ -230,7 +230,7 @@ TEST_F(Companion, WritesTheFileThatALinkLeadsToAndKeepsItsPermissions) {
   }
 }
 
-TEST_F(Companion, MayWriteTheProjectOverItself) {
+TEST_F(Companion, CanOverwriteTheProjectWithItself) {
   const std::string file = Write("panel.ORB", Read(Example("weak-roof")));
 
   EXPECT_EQ(Run({"convert", file, file}).exitCode, 0);
@@ -239,7 +239,7 @@ TEST_F(Companion, MayWriteTheProjectOverItself) {
   EXPECT_THAT(Names(), ElementsAre("panel.ORB"));
 }
 
-TEST_F(Companion, TellsWhyAProjectCannotBeConvertedAndWritesNothing) {
+TEST_F(Companion, SaysWhyAProjectCannotBeConvertedAndWritesNothing) {
   std::string bytes = Read(Example("development-entry"));
   const std::string depth = "\r\n650\r\n162\r\n";
   ASSERT_NE(bytes.find(depth), std::string::npos);
@@ -256,7 +256,7 @@ TEST_F(Companion, TellsWhyAProjectCannotBeConvertedAndWritesNothing) {
   EXPECT_THAT(Names(), ElementsAre("heavy.ORB", "out.ORB"));
 }
 
-TEST_F(Companion, TellsThatTheInputsOfTheCostsCannotBeWritten) {
+TEST_F(Companion, SaysThatTheInputsOfTheCostsCannotBeWritten) {
   std::string bytes = Read(Example("weak-roof"));
   const std::string diameter = "#5 smooth - grade 55\r\n0\r\n0.625\r\n";
   bytes.replace(bytes.find(diameter), diameter.size(), "#5 smooth - grade 55\r\n0\r\n1E+20\r\n");
@@ -268,7 +268,7 @@ TEST_F(Companion, TellsThatTheInputsOfTheCostsCannotBeWritten) {
   EXPECT_EQ(outcome.err, "run-time error 6: Overflow\n");
 }
 
-TEST_F(Companion, TellsThatARunTimeErrorEndedTheReport) {
+TEST_F(Companion, SaysThatARunTimeErrorEndedTheReport) {
   std::string bytes = Read(Example("development-entry"));
   const std::string cablesOnly = "\r\n1\r\n0\r\n0\r\n0\r\n12\r\n";
   ASSERT_NE(bytes.find(cablesOnly), std::string::npos);
@@ -281,7 +281,7 @@ TEST_F(Companion, TellsThatARunTimeErrorEndedTheReport) {
   EXPECT_EQ(outcome.out, "");
 }
 
-TEST_F(Companion, GoesOnWithADesignWithoutADepthUntilItsReport) {
+TEST_F(Companion, OpensADesignWithoutADepthButCannotReportIt) {
   std::string bytes = Read(Example("development-entry"));
   const std::string depth = "\r\n650\r\n162\r\n";
   ASSERT_NE(bytes.find(depth), std::string::npos);
@@ -301,7 +301,7 @@ TEST_F(Companion, GoesOnWithADesignWithoutADepthUntilItsReport) {
   EXPECT_EQ(report.out, "");
 }
 
-TEST_F(Companion, NeedsNoOptionOrderAndTakesFileNamesBehindTwoDashes) {
+TEST_F(Companion, AcceptsOptionsInAnyOrderAndFileNamesAfterTwoDashes) {
   const std::string file = Write("-odd.ORB", Read(Example("weak-roof")));
 
   EXPECT_EQ(Run({"--page", "1", "report", Example("weak-roof")}).out,

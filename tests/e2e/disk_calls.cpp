@@ -15,8 +15,8 @@ bool isCounting = false;
 Mishap plan;
 const char* happenedAt = nullptr;
 
-// Whether the call of this name is to fail, with its error set. A process that is to be killed does half of its work
-// first.
+// Returns true if the call of this name must fail, and sets its error. If the process is to be killed, does half of the
+// call's work first and does not return.
 template <class Half>
 bool Fails(const char* name, const Half& half) {
   if (!isCounting || plan.after < 0) return false;
@@ -48,7 +48,7 @@ std::string EndMishap() {
   return happenedAt == nullptr ? "" : happenedAt;
 }
 
-// The linker knows a wrapped routine by these names.
+// The linker uses these names for a wrapped function.
 int RealOpen(const char* path, int flags, ...) asm("__real_open");
 int WrappedOpen(const char* path, int flags, mode_t mode) asm("__wrap_open");
 ssize_t RealWrite(int file, const void* bytes, std::size_t count) asm("__real_write");

@@ -1,6 +1,6 @@
-// The calls by which this program changes the disk: each can be the last one of the process, or fail.
+// Interrupts the calls by which this program changes the disk: any of them can fail or be the last one of the process.
 //
-// The linker puts these between the code under test and the system (--wrap in CMakeLists.txt).
+// The linker puts these functions between the tested code and the system (--wrap in CMakeLists.txt).
 #pragma once
 
 #include <string>
@@ -8,15 +8,15 @@
 namespace orby::test {
 
 struct Mishap {
-  int after = -1;       // calls that go well first; below 0: nothing ever happens
-  int systemError = 0;  // what the call fails with; 0: the process is killed, a write being half done
-  bool lasts = false;   // all later calls fail too
+  int after = -1;       // successful calls before the mishap; nothing happens below 0
+  int systemError = 0;  // the error of the failing call; 0 to kill the process, with a write half done
+  bool lasts = false;   // all later calls fail, too
 };
 
-// From now on the calls are counted, and the mishap happens at its call.
+// Starts to count the calls. The mishap happens at its call.
 void BeginMishap(const Mishap& mishap);
 
-// Returns the name of the call at which the mishap happened; empty when it has not.
+// Returns the name of the call at which the mishap happened, or an empty text if it did not happen.
 std::string EndMishap();
 
 }  // namespace orby::test

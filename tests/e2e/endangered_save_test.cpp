@@ -1,5 +1,5 @@
-// A save on a real disk whose process is killed, or whose disk is full or may not be written, at each of its calls:
-// the project as it was saved last, or as it was typed last, is found afterwards.
+// A save on a real disk is killed or meets a full or read-only disk at each of its calls. Afterwards the project is on
+// the disk, either as last saved or as last typed.
 
 #include <gmock/gmock.h>
 #include <sys/fsuid.h>
@@ -29,12 +29,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// How the child process ended.
+// Exit codes of the child process.
 constexpr int Saved = 0;
 constexpr int NotSaved = 1;
-constexpr int MishapDidNotHappen = 2;  // and it was saved
+constexpr int MishapDidNotHappen = 2;  // and the project was saved
 
-// A program with an open project and a change that is not saved, on the disk.
+// A program with an open project on the disk and an unsaved change.
 class Session {
  public:
   explicit Session(const TemporaryFolder& folder) : disk_(folder.Path()) {
@@ -74,7 +74,7 @@ std::string DesignAt(Single depth) {
   return ProjectFileBytes(program.project);
 }
 
-// What the session saves when nothing happens to it.
+// Returns the bytes that the session saves without a mishap.
 std::string SavedDesign() {
   static const std::string bytes = [] {
     const TemporaryFolder folder;
@@ -86,7 +86,7 @@ std::string SavedDesign() {
   return bytes;
 }
 
-// The lines of the design alone: a description that could not be put in order is saved as it is.
+// Returns only the lines of the design. A description that could not be normalised is saved unchanged.
 std::string DataOf(const std::string& file) { return file.substr(std::min(file.find("##EndDesc##"), file.size())); }
 
 bool IsTypedState(const std::string& recovery) {
@@ -101,7 +101,7 @@ class EndangeredSave : public testing::Test {
     folder.Store("panel3.orb", old);
   }
 
-  // Saves in a process of its own.
+  // Saves in a child process.
   template <class Prepare>
   int SaveInChild(const Prepare& prepare) {
     const pid_t child = fork();
@@ -117,7 +117,7 @@ class EndangeredSave : public testing::Test {
     return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
   }
 
-  // Where the last saved or the last typed state lies; empty: it is lost.
+  // Returns where the last saved or the last typed state is; empty if it is lost.
   std::string Found() const {
     const std::string file = folder.Read("panel3.orb");
     if (file == old) return "file, as last saved";
@@ -147,7 +147,7 @@ struct Danger {
 
 void PrintTo(const Danger& danger, std::ostream* out) { *out << danger.name; }
 
-// Runs a save for each of its calls, in a folder of its own each time.
+// Runs a save for each of its calls, each time in a new folder.
 class SaveOnADisk : public testing::TestWithParam<Danger> {};
 
 struct Case : EndangeredSave {
@@ -159,7 +159,7 @@ struct Case : EndangeredSave {
   using EndangeredSave::typed;
 };
 
-TEST_P(SaveOnADisk, LosesNothingAtAnyOfItsCalls) {
+TEST_P(SaveOnADisk, LosesNoDataAtAnyCall) {
   const Danger& danger = GetParam();
   std::map<std::string, int> table;
   constexpr int MoreThanAllCalls = 200;
@@ -190,7 +190,7 @@ INSTANTIATE_TEST_SUITE_P(Dangers, SaveOnADisk,
 
 class FileSizeLimit : public EndangeredSave, public testing::WithParamInterface<int> {};
 
-TEST_P(FileSizeLimit, LosesNothing) {
+TEST_P(FileSizeLimit, LosesNoData) {
   const int end = SaveInChild([] {
     std::signal(SIGXFSZ, SIG_IGN);
     const auto bytes = static_cast<rlim_t>(GetParam());
@@ -204,7 +204,7 @@ TEST_P(FileSizeLimit, LosesNothing) {
 
 INSTANTIATE_TEST_SUITE_P(Bytes, FileSizeLimit, testing::Values(0, 1, 100, 500));
 
-TEST_F(EndangeredSave, AReadOnlyFileIsLeftAsItIs) {
+TEST_F(EndangeredSave, AReadOnlyFileStaysUnchanged) {
   fs::permissions(folder.At("panel3.orb"), fs::perms(0444));
   fs::permissions(folder.Path(), fs::perms(0755));
 

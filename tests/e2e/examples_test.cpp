@@ -1,4 +1,4 @@
-// The example designs through every command.
+// Runs every command on the example designs.
 #include <gmock/gmock.h>
 
 #include <algorithm>
@@ -13,11 +13,11 @@ using testing::StartsWith;
 
 class ExampleDesign : public CompanionTest {
  protected:
-  // The data lines behind the description.
+  // Returns the data lines after the description.
   static std::string Data(const std::string& project) { return project.substr(project.find("##EndDesc##")); }
 };
 
-TEST_F(ExampleDesign, OpensAndReportsWithoutAComplaint) {
+TEST_F(ExampleDesign, OpensAndReportsWithoutAMessage) {
   for (const std::string& name : Examples) {
     const Outcome report = Run({"report", "--validate", Example(name)});
 
@@ -27,7 +27,7 @@ TEST_F(ExampleDesign, OpensAndReportsWithoutAComplaint) {
   }
 }
 
-TEST_F(ExampleDesign, GivesItsCostAndItsLiveResults) {
+TEST_F(ExampleDesign, HasItsCostAndItsLiveResults) {
   for (const std::string& name : Examples) {
     const Outcome cost = Run({"cost", Example(name)});
     const Outcome live = Run({"live", Example(name)});
@@ -38,7 +38,7 @@ TEST_F(ExampleDesign, GivesItsCostAndItsLiveResults) {
   }
 }
 
-TEST_F(ExampleDesign, GivesAllTenCurves) {
+TEST_F(ExampleDesign, HasAllTenCurves) {
   for (const std::string& name : Examples) {
     for (int curve = 0; curve < 10; ++curve) {
       const Outcome outcome = Run({"curve", std::to_string(curve), Example(name)});

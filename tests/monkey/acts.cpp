@@ -23,7 +23,7 @@ namespace {
 
 using Log = std::function<void(const std::string& what)>;
 
-// What a monkey is after for a while.
+// What a monkey prefers to do for a while.
 enum class Mood { Hasty, Typing, Playing };
 
 struct Key {
@@ -91,7 +91,7 @@ class Acting {
     if (qobject_cast<QMessageBox*>(window_) != nullptr) return AnswerBox();
     if (auto* dialog = qobject_cast<QFileDialog*>(window_)) return AnswerFileDialog(*dialog);
     if (window_->objectName() == "frmMain" && dice_.Percent(60)) return UseMainWindow();
-    // Its options are in its menus alone.
+    // The options of the graph are only in its menus.
     if (window_->objectName() == "frmGraph" && dice_.OneIn(2)) return UseMenu();
     ActInDialog();
   }
@@ -286,7 +286,7 @@ class Acting {
     }
   }
 
-  // As the button in the title bar does.
+  // Closes the window as its title bar button does.
   void CloseWindow() {
     constexpr int Seldom = 40;
     if (window_->objectName() == "frmMain" && !dice_.OneIn(Seldom)) return Press({Qt::Key_Escape});

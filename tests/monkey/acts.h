@@ -1,4 +1,4 @@
-// The acts of a monkey.
+// The random actions of a monkey.
 #pragma once
 
 #include <functional>
@@ -7,7 +7,8 @@
 
 namespace orby::monkey {
 
-// Does something at random in the windows on the screen. log: is told what, before it is done. act: its number.
+// Does a random action in the windows on the screen. Calls `log` with a description before the action. act: the number
+// of the action.
 void DoRandomAct(Dice& dice, std::uint64_t seed, long act, const std::function<void(const std::string& what)>& log);
 
 }  // namespace orby::monkey

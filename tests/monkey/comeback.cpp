@@ -26,7 +26,7 @@ namespace {
 constexpr int StepsToSettle = 20;
 constexpr int MostSteps = 4000;
 
-// The dialogs that edit the design, and the entries of the menu that open them.
+// The dialogs that edit the design, and the menu items that open them.
 struct Editor {
   const char* form;
   const char* action;
@@ -40,7 +40,7 @@ QWidget* WindowNamed(const char* name) {
   return nullptr;
 }
 
-// A number that the text begins with; 0 for one that has none, and nothing for one that no design can hold.
+// Returns the number at the start of the text, 0 if there is none, and nothing if no design can hold it.
 std::optional<double> NumberOf(std::string_view text) {
   while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
   constexpr double FirstTooLarge = 3.4028235677973366e38;  // all below round to what a Single holds
@@ -52,7 +52,7 @@ std::optional<double> NumberOf(std::string_view text) {
 
 bool IsNumber(std::string_view text) { return text.find_first_not_of("0123456789.-+eE ") == std::string_view::npos; }
 
-// A text that no design can hold leaves the last one that it could.
+// If no design can hold a text, the last valid one is kept.
 bool Fits(std::string_view text) { return !IsNumber(text) || NumberOf(text).has_value(); }
 
 bool FitsWhole(std::string_view text) {
@@ -60,7 +60,7 @@ bool FitsWhole(std::string_view text) {
   return !IsNumber(text) || std::abs(NumberOf(text).value_or(FLT_MAX)) <= LargestWhole;
 }
 
-// Whether the text is what a dialog that opens makes of the other one.
+// Returns true if a newly opened dialog shows `before` as `after`.
 bool IsSame(std::string_view after, std::string_view before) {
   if (after == before) return true;
   if (!IsNumber(after) || !IsNumber(before)) return false;
@@ -70,23 +70,23 @@ bool IsSame(std::string_view after, std::string_view before) {
   return std::abs(NumberOf(after).value_or(0) - was) <= 0.5001 * std::pow(10.0, -decimals) + std::abs(was) * 1e-6;
 }
 
-// A field of numbers keeps what a text begins with, 0 if that is no number.
+// A number field keeps the number at the start of its text, or 0 if there is none.
 bool IsNumberOf(std::string_view after, const ShownField& field) {
   const std::string_view before = field.text.View();
   const bool isName = field.name.View().find("SupportType") != std::string_view::npos;
   return !isName && !IsNumber(before) && IsNumber(after) && NumberOf(after) == NumberOf(before);
 }
 
-// Whether the text is one that the field may come back with.
+// Returns true if the field may be restored with this text.
 bool IsBack(const ShownField& field, std::string_view after) {
-  // A name may look like a number.
+  // The text of a name may look like a number.
   return after == field.typed.View() || IsNumberOf(after, field) || IsSame(after, field.text.View()) ||
          IsSame(after, field.settled.View()) || (!FitsWhole(field.text.View()) && IsSame(after, field.whole.View()));
 }
 
 using Texts = std::map<std::string, std::string>;
 
-// What the window shows in its fields, lists, boxes and options.
+// Returns the contents of the window's fields, lists, boxes and options.
 Texts FieldsOf(const QWidget& window) {
   Texts fields;
   for (const QWidget* widget : window.findChildren<QWidget*>()) {
@@ -103,7 +103,7 @@ Texts FieldsOf(const QWidget& window) {
   return fields;
 }
 
-// The field of this name, which stands at `likely` unless the window has changed.
+// Returns the field of this name. It is at `likely` unless the window has changed.
 ShownField& FieldNamed(ShownProject& shown, const std::string& name, int likely) {
   if (likely < shown.fieldCount) {
     ShownField& field = shown.fields[static_cast<std::size_t>(likely)];
@@ -182,7 +182,7 @@ void NoteEndedProject(ShownProject& shown, bool refused, bool half) {
   shown.awaited = true;
   shown.refused = refused;
   shown.half = half;
-  // An act may have begun before what the one before it showed, such as a rating that the estimator has just given.
+  // An action may begin before the previous result is shown, such as a rating from the estimator.
   if (const QWidget* editor = WindowNamed(std::string(shown.form.View()).c_str())) {
     int at = 0;
     for (const auto& [name, text] : FieldsOf(*editor)) FieldNamed(shown, name, at++).typed.Set(text);
@@ -192,7 +192,7 @@ void NoteEndedProject(ShownProject& shown, bool refused, bool half) {
   shown.title.Set(KeptTitle());
 }
 
-// Whether the window is a question, and has got its answer.
+// Answers the window if it is a question. Returns true if it did.
 bool Comeback::AnswerQuestion(QWidget& window) {
   if (window.objectName() == "frmDisclaimer") {
     window.findChild<QAbstractButton*>("Command1")->click();
@@ -215,7 +215,7 @@ bool Comeback::AnswerQuestion(QWidget& window) {
 }
 
 void Comeback::CompareCaption(const QWidget& mainWindow) {
-  // After the other button a project without changes is not opened again.
+  // After the other button, a project without changes is not opened again.
   if (shown_.refused || (!shown_.unsaved && !byItself_)) return;
   const std::string file = FileInCaption(mainWindow).toStdString();
   if (file != shown_.file.View() || mainWindow.windowTitle().endsWith('*') != shown_.unsaved) {

@@ -1,4 +1,4 @@
-// Whether the project is back after an error has ended a run: what the windows showed before it and show after it.
+// Checks that the project is restored after an error has ended a run, by comparing the windows before and after.
 #pragma once
 
 #include <QPointer>
@@ -10,13 +10,14 @@
 
 namespace orby::monkey {
 
-// What is on the screen now, as far as it is the project's. To be asked before each act, so that the act that ends the
-// run is not in it.
+// Records the parts of the project on the screen. Call it before each action, so that the action that ends the run is
+// not included.
 void NoteShown(ShownProject& shown);
 
-// The run ends: what the main window and the file of unsaved work say of the project.
-// refused: a file was refused in this run. The project has its name; the caption still shows the name before.
-// half: nothing of what was read of that file has been edited. The next run begins with a new project.
+// Records at the end of the run what the main window and the recovery file say of the project.
+// refused: a file was refused in this run. The project has that file's name, and the caption still shows the previous
+// one.
+// half: a refused file was read in part and not edited since. The next run begins with a new project.
 void NoteEndedProject(ShownProject& shown, bool refused, bool half);
 
 // Looks for the project in a new run, step by step, as a user would.
@@ -24,11 +25,11 @@ class Comeback {
  public:
   using Find = std::function<void(const std::string& kind, const std::string& text)>;
 
-  // byItself: the program has started itself again, so it has nothing to ask.
+  // byItself: the program has started itself again, so it asks nothing.
   Comeback(ShownProject& shown, bool byItself, Find find)
       : shown_(shown), byItself_(byItself), find_(std::move(find)) {}
 
-  // One step, between the events of the program. What is not as it was is told to `find`; after the last step the
+  // Does one step, between the events of the program. Passes every difference to `find`. After the last step the
   // project is no longer awaited.
   void Step();
 

@@ -28,7 +28,7 @@ std::string BytesOf(const fs::path& path) {
 
 void Write(const fs::path& path, const std::string& bytes) { std::ofstream(path, std::ios::binary) << bytes; }
 
-// A tool of the desktop that knows no program for any file.
+// Creates a tool of the desktop that knows no program for any file.
 void MakeTool(const fs::path& path) {
   Write(path, "#!/bin/sh\nexit 3\n");
   fs::permissions(path, fs::perms::owner_all);
@@ -43,7 +43,7 @@ std::vector<std::string> LinesOf(const std::string& bytes) {
   return lines;
 }
 
-// Some lines of the file say something else.
+// Returns the bytes with some lines replaced.
 std::string Damaged(const std::string& bytes, Dice& dice) {
   static const std::vector<std::string> texts{"0",  "-1",    "1E38", "1E40", "1E400", "40000", "letters",
                                               "\"", "\"a,b", ",,,",  "",     "##",    "\xE9",  "99999999999999999999"};
@@ -59,9 +59,9 @@ constexpr std::uint64_t Writing =
     LANDLOCK_ACCESS_FS_MAKE_CHAR | LANDLOCK_ACCESS_FS_MAKE_DIR | LANDLOCK_ACCESS_FS_MAKE_REG |
     LANDLOCK_ACCESS_FS_MAKE_SOCK | LANDLOCK_ACCESS_FS_MAKE_FIFO | LANDLOCK_ACCESS_FS_MAKE_BLOCK |
     LANDLOCK_ACCESS_FS_MAKE_SYM | LANDLOCK_ACCESS_FS_REFER;
-// Later than the headers of some systems know them.
+// Not yet in the headers of some systems.
 constexpr std::uint64_t Truncating = 1ULL << 14;
-constexpr std::uint64_t NetworkAccess = 3;  // to bind and to connect
+constexpr std::uint64_t NetworkAccess = 3;  // binding and connecting
 constexpr long TruncatingSince = 3;
 constexpr long NetworkSince = 4;
 

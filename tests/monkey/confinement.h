@@ -1,4 +1,4 @@
-// The small world of a monkey: a home of its own with files to play with, and no way out of it.
+// The environment of a monkey: its own home with files to use, and no access to anything else.
 #pragma once
 
 #include <cstdint>
@@ -6,7 +6,7 @@
 
 namespace orby::monkey {
 
-// Folders that only this monkey uses. They go with it.
+// Folders that only this monkey uses. They are removed with this object.
 class World {
  public:
   explicit World(std::uint64_t seed);
@@ -16,18 +16,18 @@ class World {
 
   const std::string& Root() const { return root_; }
 
-  // The variables that a program in this world sees.
+  // Sets the environment variables of a program in this world.
   void SetVariables() const;
 
-  // Design files of the program, as they are and damaged in several ways, and other files.
+  // Creates design files, intact and damaged in several ways, and other files.
   void MakeFiles(std::uint64_t seed) const;
 
  private:
   std::string root_;
 };
 
-// From here on this process and those that it starts write below this folder alone, and reach no network. False on a
-// system that cannot hold them to it.
+// Restricts this process and its children to writing below this folder and to no network. Returns false if the system
+// cannot enforce this.
 bool ConfineTo(const std::string& folder);
 
 }  // namespace orby::monkey

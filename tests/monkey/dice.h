@@ -1,4 +1,4 @@
-// Chance that repeats itself.
+// Repeatable random numbers.
 #pragma once
 
 #include <cstddef>
@@ -7,13 +7,13 @@
 
 namespace orby::monkey {
 
-// The throws of one act: they depend on the seed and the number of the act alone, so that what one act found does not
-// change what the next will do.
+// The random numbers of one action. They depend only on the seed and the number of the action, so that the findings of
+// one action do not change the next.
 class Dice {
  public:
   Dice(std::uint64_t seed, long act) : state_(Mixed(seed) ^ Mixed(~static_cast<std::uint64_t>(act))) {}
 
-  // 0 to limit - 1; 0 when there is nothing to choose from.
+  // Returns a number from 0 to limit - 1, or 0 if `limit` is 0 or less.
   int Below(int limit) { return limit <= 0 ? 0 : static_cast<int>(Next() % static_cast<std::uint64_t>(limit)); }
   bool OneIn(int cases) { return Below(cases) == 0; }
   bool Percent(int share) { return Below(100) < share; }
@@ -22,7 +22,7 @@ class Dice {
   std::size_t Index(const List& list) {
     return static_cast<std::size_t>(Below(static_cast<int>(std::size(list))));
   }
-  // The list must not be empty.
+  // Requires a list that is not empty.
   template <class List>
   const auto& OneOf(const List& list) {
     return *(std::begin(list) + Below(static_cast<int>(std::size(list))));

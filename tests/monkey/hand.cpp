@@ -16,7 +16,7 @@
 namespace orby::monkey {
 namespace {
 
-// Clicks of different acts are never one double click.
+// The time of the events. It advances so much between actions that their clicks never make a double click.
 int& Moment() {
   static int moment = 0;
   return moment;
@@ -61,7 +61,7 @@ int KeyOf(QChar c) {
   return c.unicode() < 128 ? int{c.toUpper().unicode()} : int{Qt::Key_unknown};
 }
 
-// A button that a letter presses stays down for a moment, which passes at once.
+// Releases buttons that a mnemonic letter pressed. They stay down for a moment, which passes at once.
 void LetGoOfButtons() {
   QWidget* window = QApplication::activeWindow();
   if (window == nullptr) return;
@@ -108,7 +108,7 @@ void Click(QWidget& widget, QPoint place, Qt::MouseButton button, Qt::KeyboardMo
   Mouse(spot, QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
   PressAndRelease(spot, button, modifiers);
   if (button == Qt::RightButton && spot.window != nullptr) {
-    // The desktop's way to say that a menu is wanted here.
+    // Requests a context menu as the desktop does.
     QContextMenuEvent menu(QContextMenuEvent::Mouse, spot.inWindow.toPoint(), spot.onScreen.toPoint(), modifiers);
     QCoreApplication::sendEvent(spot.window, &menu);
   }

@@ -1,4 +1,4 @@
-// Hands on keyboard and mouse: what the window system would hand to the program for an act of the user's.
+// Keyboard and mouse: sends the events that the window system would send for an action of the user.
 #pragma once
 
 #include <QPoint>
@@ -7,27 +7,27 @@
 
 namespace orby::monkey {
 
-// A key for the window that has the keyboard, pressed and released. text: what it brings; empty: what the key itself
-// stands for.
+// Presses and releases a key in the active window. text: the characters that the key produces; if empty, those of the
+// key itself.
 void PressKey(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString& text = {});
 
-// The keys of these characters, one after the other.
+// Presses the keys of these characters in turn.
 void TypeText(const QString& text);
 
-// Puts a text on the clipboard and presses Ctrl+V.
+// Copies a text to the clipboard and presses Ctrl+V.
 void Paste(const QString& text);
 
-// What an input method or a dead key makes of several keys.
+// Sends a text as an input method or a dead key does.
 void Compose(const QString& text);
 
-// The mouse at a place in a widget.
+// Uses the mouse at a position in a widget.
 void Click(QWidget& widget, QPoint place, Qt::MouseButton button = Qt::LeftButton,
            Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 void DoubleClick(QWidget& widget, QPoint place);
 void Drag(QWidget& widget, QPoint from, QPoint to);
 void TurnWheel(QWidget& widget, QPoint place, int steps, Qt::KeyboardModifiers modifiers);
 
-// A file dropped on the window.
+// Drops a file on the window.
 void DropFile(QWidget& window, const QString& path);
 
 }  // namespace orby::monkey

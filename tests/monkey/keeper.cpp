@@ -24,15 +24,15 @@
 namespace orby::monkey {
 namespace {
 
-// Each window that the program has, and the toolkit's that it uses. A long run comes to all of them.
+// The windows of the program and of the toolkit that a long run must reach.
 constexpr std::array Windows{"frmMain",      "frmPENVParm",   "frmTULKCost", "frmTULKDesc",  "frmCMRREst",
                              "frmResTxtPlt", "frmPreview",    "frmGraph",    "frmGraphOpt",  "frmTULKOpts",
                              "frmConvert",   "frmUnits",      "frmTextBrow", "frmUpdate",    "frmSet",
                              "frmFont",      "frmDisclaimer", "frmBackups",  "frmResource",  "helpWindow",
                              "about",        "QMessageBox",   "QFileDialog", "QPrintDialog", "QMenu"};
-constexpr long LongRun = 50000;  // acts
+constexpr long LongRun = 50000;  // actions
 
-// What may end a run, by the words of the box or by the routine that failed.
+// The possible reasons for the end of a run, with the text of the message or the name of the routine that failed.
 struct Cause {
   std::string_view name;
   std::string_view words;
@@ -49,7 +49,7 @@ std::string ReadAll(const std::string& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-// What only hands a call on.
+// Returns true for calls that only pass another call on.
 bool IsPlumbing(std::string_view call) {
   constexpr std::array Words{"std::", "QtPrivate::", "orby::monkey::", "__wrap_"};
   return std::ranges::any_of(Words, [call](std::string_view word) {
@@ -57,7 +57,7 @@ bool IsPlumbing(std::string_view call) {
   });
 }
 
-// The routines and lines of a trace, where the tool for that is installed; else the trace as it is.
+// Returns the trace with routines and lines, if the tool for that is installed; else the trace unchanged.
 std::string Readable(std::string_view trace) {
   std::vector<std::string> lines;
   std::istringstream stream{std::string(trace)};
@@ -90,7 +90,7 @@ std::string Readable(std::string_view trace) {
   return readable;
 }
 
-// The first routine of the program's own in a readable trace.
+// Returns the first routine of the program itself in a readable trace.
 std::string OwnRoutine(const std::string& readable) {
   std::istringstream stream(readable);
   for (std::string line; std::getline(stream, line);) {
@@ -107,7 +107,7 @@ class Keeper {
       : orders_(orders), world_(orders.seed), ledger_(OpenLedger(LedgerPath(), true)) {
     ledger_.seed = orders.seed;
     ledger_.actsWanted = orders.acts;
-    // A run that the program starts anew becomes a child of this process too.
+    // A run that the program starts again also becomes a child of this process.
     prctl(PR_SET_CHILD_SUBREAPER, 1);
   }
 
@@ -120,7 +120,7 @@ class Keeper {
     while (ledger_.acts < ledger_.actsWanted && failures_ < MostFailures) {
       const long before = ledger_.acts;
       KeepRun();
-      // A project that ends every run is out of the way of the next ones.
+      // Removes a project that ends every run.
       idle_ = ledger_.acts == before ? idle_ + 1 : 0;
       if (idle_ >= MostIdle) BeginAfresh();
     }
@@ -147,14 +147,14 @@ class Keeper {
     _exit(EXIT_FAILURE);
   }
 
-  // One run, and those that it starts itself.
+  // Keeps one run, and the runs that it starts itself.
   void KeepRun() {
     world_.MakeFiles(orders_.seed);
     const long runsBefore = ledger_.runs;
     Start();
     int status = 0;
     for (pid_t ended = waitpid(-1, &status, 0); ended > 0; ended = waitpid(-1, &status, 0)) {
-      // A run may go on as another one in the same process.
+      // One process may hold several runs in turn.
       for (RunRecord& record : ledger_.runRecords) {
         if (record.process == ended) Judge(record, status);
       }

@@ -1,4 +1,4 @@
-// Keeps a monkey: starts runs of the program for it, one after the other, and judges how each ends.
+// Starts one run of the program after another for a monkey, and judges the end of each.
 #pragma once
 
 #include <cstdint>
@@ -9,10 +9,10 @@ namespace orby::monkey {
 struct Orders {
   long acts = 2000;
   std::uint64_t seed = 1;
-  int patience = 20;  // seconds until an act counts as one that never ends
+  int patience = 20;  // seconds until an action counts as hung
 };
 
-// Whether nothing was found that must not happen. What was done and found goes to standard output.
+// Returns true if nothing forbidden was found. Writes actions and findings to standard output.
 bool KeepMonkey(const Orders& orders);
 
 }  // namespace orby::monkey

@@ -1,5 +1,4 @@
-// What a monkey has done, in memory that it shares with its keeper: nothing of it goes when a run of the program ends,
-// however it ends.
+// The record of a monkey, in memory that it shares with its keeper. It survives the end of a run, however the run ends.
 #pragma once
 
 #include <sys/types.h>
@@ -15,7 +14,7 @@ namespace orby::monkey {
 
 inline constexpr int ActsShown = 200;
 
-// A text of limited length without a heap behind it.
+// A text of limited length that uses no heap.
 template <std::size_t Size>
 struct FixedText {
   std::array<char, Size> bytes;
@@ -53,40 +52,40 @@ struct Counts {
 enum class Ending {
   Running,
   ByUser,   // the monkey closed the program
-  ByError,  // the program told a run-time error and ended
+  ByError,  // the program reported a run-time error and ended
   Crashed,
   Hung,
-  Done,  // as many acts as were asked for
+  Done,  // the requested number of actions is done
 };
 
 // One run of the program.
 struct RunRecord {
   pid_t process;
   Ending ending;
-  long act;                // the act that ended it
-  FixedText<2000> what;    // what was told, or what it died of
-  FixedText<16000> trace;  // the calls at that moment, one a line
-  ActLog log;              // as it was then
+  long act;                // the action that ended it
+  FixedText<2000> what;    // the message, or the cause of death
+  FixedText<16000> trace;  // the call stack at that moment, one call per line
+  ActLog log;              // at that moment
 };
 
 // A field as a window showed it.
 struct ShownField {
   FixedText<48> name;
-  FixedText<120> typed;    // as it stood last
-  FixedText<120> text;     // the last that is a number a design can hold, where it is one
-  FixedText<120> whole;    // the last that a whole number of a design can hold, too
-  FixedText<120> settled;  // in the last state in which all of them were
+  FixedText<120> typed;    // the latest text
+  FixedText<120> text;     // the latest valid text: for a number, one that a design can hold
+  FixedText<120> whole;    // the latest text that is also valid as a whole number
+  FixedText<120> settled;  // in the latest state in which all fields were valid
 };
 
-// What the program showed when an error ended its run.
+// The project as the program showed it when an error ended the run.
 struct ShownProject {
   bool awaited;          // the next run has not shown it yet
-  bool unsaved;          // something was not saved
-  bool refused;          // its name on view may be that of the one before
-  bool half;             // it was half read, so that a new one follows
-  FixedText<400> file;   // by the caption of the main window
-  FixedText<400> title;  // by what was kept
-  FixedText<32> form;    // the dialog that was open; empty: none
+  bool unsaved;          // there are unsaved changes
+  bool refused;          // the shown name may be that of the previous project
+  bool half;             // the file was read in part, so the next run begins a new project
+  FixedText<400> file;   // from the caption of the main window
+  FixedText<400> title;  // from the recovery file
+  FixedText<32> form;    // the open dialog; empty if none
   int fieldCount;
   std::array<ShownField, 240> fields;
 };
@@ -99,29 +98,29 @@ struct Ledger {
   long acts;
   bool startedByKeeper;                        // the run that is about to begin
   long runs;                                   // started so far
-  std::array<RunRecord, RunsKept> runRecords;  // of run i: i % RunsKept
-  ActLog log;                                  // of act i: i % ActsShown
+  std::array<RunRecord, RunsKept> runRecords;  // run i is at i % RunsKept
+  ActLog log;                                  // action i is at i % ActsShown
   ShownProject shown;
   Counts<64> windows;
   Counts<64> ends;      // runs ended by errors, by cause
-  Counts<16> others;    // what else is worth counting
-  Counts<64> findings;  // what must not be
+  Counts<16> others;    // other counts
+  Counts<64> findings;  // forbidden events
   long slowest;         // milliseconds
   LogLine slowestAct;
 };
 static_assert(std::is_trivially_copyable_v<Ledger>);
 
-// What a run is told by its keeper.
+// Environment variables that the keeper sets for a run.
 inline constexpr auto LedgerVariable = "ORBY_MONKEY_LEDGER";
 inline constexpr auto PatienceVariable = "ORBY_MONKEY_PATIENCE";  // seconds
 
-// Maps the ledger in this file; made when it is new. Throws std::runtime_error.
+// Maps the ledger in this file. Creates it if `isNew`. Throws std::runtime_error.
 Ledger& OpenLedger(const std::string& path, bool isNew);
 
-// The acts up to the last one, the oldest first.
+// Returns the actions up to the last one, the oldest first.
 std::string TextOf(const ActLog& log, long acts);
 
-// Counts a finding and tells it in full when it is the first of its kind, with the acts before it.
+// Counts a finding. Prints it in full, with the actions before it, if it is the first of its kind.
 void TellFinding(Ledger& ledger, const std::string& kind, const std::string& text, const ActLog& log, long act);
 
 }  // namespace orby::monkey

@@ -1,9 +1,9 @@
-// A monkey at the keyboard: it uses the whole program at random, off the screen and in a home of its own, and tells
-// what must not happen: a hang, a crash, a run that ends by an error, a project that does not come back after one.
+// A monkey at the keyboard: uses the whole program at random, off the screen and in its own home. It reports hangs,
+// crashes, runs that end with an error, and projects that are not restored afterwards.
 //
 //   monkey [--acts N] [--seed S] [--patience SECONDS]
 //
-// The same seed does the same acts. The program runs in processes of its own, which are this program too.
+// The same seed gives the same actions. The program runs in child processes of this program.
 #include <unistd.h>
 
 #include <QCoreApplication>
@@ -36,7 +36,7 @@ struct Run {
 std::unique_ptr<Run> run;
 std::unique_ptr<Monkey> monkey;
 
-// The program makes its toolkit itself; the monkey comes with it.
+// Creates the monkey when the program creates its toolkit.
 void JoinToolkit() {
   if (run) monkey = std::make_unique<Monkey>(run->ledger, run->record, run->byItself);
 }

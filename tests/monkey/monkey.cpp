@@ -22,20 +22,20 @@ QMessageBox* EndBox() {
              : nullptr;
 }
 
-// Whether the program tells that it could not read a file to its end. What it has read until then stays.
+// Returns true if the window says that a file could not be read to its end. The part that was read stays open.
 bool IsRefusal(const QWidget* window) {
   const auto* box = qobject_cast<const QMessageBox*>(window);
   return box != nullptr && (box->text().startsWith("Error occurred") || box->text().contains("can not be opened"));
 }
 
-// As a window manager does when the window with the keyboard goes.
+// Activates a window, as a window manager does when the active one closes.
 void GiveKeyboard() {
   if (QGuiApplication::focusWindow() != nullptr || QApplication::activePopupWidget() != nullptr) return;
   if (QWidget* window = WindowInUse()) window->activateWindow();
 }
 
-// A list that pops up and is gone again can become the window in use on the offscreen platform; no desktop gives such
-// a list the keyboard.
+// On the offscreen platform a list that pops up and closes again can become the active window. No desktop activates
+// such a list.
 void LeavePopup() { QApplication::setActiveWindow(QApplication::activeModalWidget()); }
 
 }  // namespace
@@ -49,12 +49,12 @@ Monkey::Monkey(Ledger& ledger, RunRecord& record, bool byItself) : ledger_(ledge
   PostNext();
 }
 
-// Behind all that the act has brought about.
+// Queued after everything that the action causes.
 void Monkey::PostNext() { QCoreApplication::postEvent(this, new QEvent(TurnType), Qt::LowEventPriority); }
 
 bool Monkey::event(QEvent* event) {
   if (event->type() != TurnType) return QObject::event(event);
-  // Before the act: it may open a dialog and return when that is closed.
+  // Queued before the action, which may open a dialog and return only when that is closed.
   PostNext();
   Turn();
   return true;
@@ -63,7 +63,7 @@ bool Monkey::event(QEvent* event) {
 void Monkey::Begin() {
   begun_ = true;
   qApp->installEventFilter(this);
-  // Nothing depends on how quick the machine is.
+  // The result must not depend on the speed of the machine.
   QApplication::setCursorFlashTime(0);
   QApplication::setKeyboardInputInterval(0);
 }
@@ -115,7 +115,7 @@ void Monkey::TakeEnd(QMessageBox& box) {
     record_.what.Set(text.toStdString());
     const int number = text.section('\'', 1, 1).toInt();
     record_.trace.Set(OriginOfError(number));
-    // A project that ends the run while it is being looked for is not waited for again.
+    // A project that ends the run during the search is not awaited again.
     const bool isHalf = refused_ && text.contains("with a new project");
     if (comeback_ == nullptr) NoteEndedProject(ledger_.shown, refused_, isHalf);
   }

@@ -1,4 +1,4 @@
-// The monkey inside a run of the program: between the events of the program it does one act after the other.
+// The monkey inside a run of the program. It does one action after another, between the events of the program.
 #pragma once
 
 #include <QMessageBox>
@@ -12,7 +12,7 @@ namespace orby::monkey {
 
 class Monkey : public QObject {
  public:
-  // byItself: the program has started itself again after the run before.
+  // byItself: the program has started itself again after the previous run.
   Monkey(Ledger& ledger, RunRecord& record, bool byItself);
 
   bool event(QEvent* event) override;

@@ -1,4 +1,4 @@
-// What a monkey types, pastes and names.
+// The texts that a monkey types, pastes and uses as names.
 #pragma once
 
 #include <QString>
@@ -7,14 +7,14 @@
 
 namespace orby::monkey {
 
-// A number that a design may hold.
+// Returns a number that a design can hold.
 QString PlausibleText(Dice& dice);
-// A text that hardly any field expects.
+// Returns a text that hardly any field expects.
 QString OddText(Dice& dice);
 
-// The path of a file to open, with or without a project in it.
+// Returns the path of a file to open, with or without a project in it.
 QString FilePath(Dice& dice);
-// A name for a file dialog: of a file that is there, or a new one.
+// Returns a name for a file dialog: of an existing file, or a new one.
 QString FileName(Dice& dice);
 
 }  // namespace orby::monkey

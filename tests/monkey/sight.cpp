@@ -35,7 +35,7 @@ QPoint Somewhere(const QRect& area, Dice& dice) {
   return area.topLeft() + QPoint(dice.Below(area.width()), dice.Below(area.height()));
 }
 
-// Not the middle of the widget, but of the part of it that something happens at.
+// Returns a position in the part of the widget that reacts, which need not be its middle.
 Target PlaceIn(QWidget& widget, Dice& dice) {
   Target target{&widget, widget.rect().center(), WidgetName(widget)};
   const auto part = [&target](const QRect& area, int index) {

@@ -1,4 +1,4 @@
-// What a monkey sees: the windows on the screen and what can be touched in them.
+// The view of a monkey: the windows on the screen and the widgets that can be used in them.
 #pragma once
 
 #include <QString>
@@ -9,36 +9,36 @@
 
 namespace orby::monkey {
 
-// A place in a widget, and what it is called in the log.
+// A position in a widget, and its name in the log.
 struct Target {
-  QWidget* widget = nullptr;  // none: there is nothing
+  QWidget* widget = nullptr;  // null if there is nothing
   QPoint place;
   QString name;
 };
 
-// The name of a window: that of its form, else the kind of window.
+// Returns the name of a window: that of its form, else its type.
 QString WindowName(const QWidget& window);
 QString WidgetName(const QWidget& widget);
 
-// The windows on the screen without menus and other things that pop up, in a fixed order.
+// Returns the windows on the screen in a fixed order, without menus and other popups.
 std::vector<QWidget*> WindowsOnView();
-// The window that the keyboard belongs to; nullptr when there is none.
+// Returns the window with the focus, or null.
 QWidget* WindowInUse();
 
-// Whether a dialog keeps the user from this window.
+// Returns true if a dialog blocks this window.
 bool IsBlocked(const QWidget& window);
 
-// The text on a button or an entry without the mark of its letter.
+// Returns the caption of a button or menu item without the mark of its letter.
 QString PlainCaption(QString caption);
-// Whether this ends the program, which is done now and then only: a start takes long.
+// Returns true if this command ends the program. It is chosen rarely, because a start is slow.
 bool EndsProgram(const QString& caption);
 
-// A place to press in the window: a button; anything that takes values; anything at all.
+// Return a position in the window: of a button, of an input, of any widget.
 Target ButtonIn(QWidget& window, Dice& dice);
 Target InputIn(QWidget& window, Dice& dice);
 Target AnythingIn(QWidget& window, Dice& dice);
 
-// A row of what has popped up: an entry of a menu or an item of a list.
+// Returns a row of a popup: a menu item or a list item.
 Target EntryIn(QWidget& popup, Dice& dice);
 
 }  // namespace orby::monkey

@@ -52,8 +52,8 @@ long MillisecondsSince(std::chrono::steady_clock::rep moment) {
   return std::chrono::duration_cast<std::chrono::milliseconds>(steady_clock::duration(Now() - moment)).count();
 }
 
-// One line for each call: the place in this program, or the library and its routine. Fit for a signal handler in
-// practice, where the process is lost anyway.
+// Writes one line per call: the address in this program, or the library and its routine. Safe enough for a signal
+// handler, because the process is lost anyway.
 void WriteCalls(const Calls& calls, int count, char* text, std::size_t size) {
   Dl_info own{};
   dladdr(reinterpret_cast<void*>(&WriteCalls), &own);
@@ -119,7 +119,7 @@ void Watch(int patience) {
     std::this_thread::sleep_for(Between);
     if (MillisecondsSince(actBegan) > patience * 1000L) {
       pthread_kill(watched, SIGUSR2);
-      // A process that does not even hear this is gone all the same.
+      // The process may not even handle the signal.
       std::this_thread::sleep_for(milliseconds(3000));
       NoteEnd(Ending::Hung, "an act that does not end, in a call that hears no signal");
       _exit(EXIT_FAILURE);
@@ -135,11 +135,11 @@ void StartWatch(RunRecord& recordGiven, Ledger& ledgerGiven, int patience) {
   watched = pthread_self();
   actBegan = Now();
   Calls calls;
-  backtrace(calls.data(), 1);  // what it loads must be there before a handler asks
+  backtrace(calls.data(), 1);  // loads a library that the handler needs
   std::signal(SIGUSR2, OnHang);
   std::set_terminate(OnTerminate);
 #ifndef ORBY_MONKEY_SANITIZED
-  // A stack that is used up leaves the handler none.
+  // After a stack overflow the handler needs a stack of its own.
   static std::array<char, 1 << 18> spare;
   stack_t stack{};
   stack.ss_sp = spare.data();
@@ -182,7 +182,7 @@ std::string OriginOfError(int number) {
 
 }  // namespace orby::monkey
 
-// The linker puts this before the routine of the runtime library that throws.
+// The linker replaces the throwing routine of the runtime library by this one.
 extern "C" {
 [[noreturn]] void __real___cxa_throw(void* thrown, std::type_info* type, void (*destroy)(void*));
 [[noreturn]] void __wrap___cxa_throw(void* thrown, std::type_info* type, void (*destroy)(void*));

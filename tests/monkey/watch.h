@@ -1,4 +1,4 @@
-// What a run of the program dies of: an eye on crashes, on acts that never end, and on where run-time errors come from.
+// Watches a run of the program for crashes, for actions that never end, and for the origin of run-time errors.
 #pragma once
 
 #include <string>
@@ -7,14 +7,15 @@
 
 namespace orby::monkey {
 
-// Starts to watch this process. A crash and an act of more than so many seconds end it, with the calls at that moment
-// in the record. Under the sanitizers a crash is theirs to tell.
+// Starts to watch this process. A crash, or an action that takes more than `patience` seconds, ends the process with
+// the call stack in the record. Under the sanitizers, they report a crash.
 void StartWatch(RunRecord& record, Ledger& ledger, int patience);
 
-// An act begins: the one before has come to its end.
+// Notes that an action begins and the previous one is over.
 void NoteAct();
 
-// Where the run-time error of this number that was thrown last came from, one call a line; empty when none was.
+// Returns the call stack where the run-time error of this number was last thrown, one call per line; empty if there was
+// none.
 std::string OriginOfError(int number);
 
 }  // namespace orby::monkey
