@@ -19,7 +19,7 @@ using testing::ElementsAre;
 using testing::Eq;
 using testing::IsEmpty;
 
-// Bytes that differ from place to place.
+// Returns bytes that differ from place to place.
 QByteArray BytesOf(qsizetype length, unsigned seed = 1) {
   QByteArray bytes(length, '\0');
   for (char& byte : bytes) {
