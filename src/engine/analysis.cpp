@@ -57,13 +57,14 @@ RockInputs IntersectionRock(const RoofSupport& design) {
           .Span = Needed(design.Place.ActualSpanDiagonals)};
 }
 
-// Of one cable, in the design's units.
+// Returns the capacity of one cable in the units of the design.
 Single CapacityOf(const CableSelection& cable, UnitSystem units, const Catalogs& catalogs) {
   if (cable.CapMode == 0) return CableCapacityFromDiameter(Needed(cable.Diam), units, catalogs);
   return Needed(cable.Capacity == 0 ? cable.CapacityStd : cable.CapacityManual);
 }
 
-// What a support system gives under a rock load; nothing when it lacks a number that decides on it.
+// Returns the capacity and stability factor of a support system under a rock load, or nothing when it lacks an input it
+// needs.
 using SystemRule = std::optional<SupportResult> (*)(const RoofSupport& design, const Catalogs& catalogs,
                                                     Single rockLoad);
 using SystemRules = std::array<SystemRule, SystemCount>;
@@ -76,7 +77,8 @@ std::optional<SupportResult> CablesInEntry(const RoofSupport& design, const Cata
       rockLoad, CountedSystem{.Capacity = capacity, .Count = Needed(cable.BoltsPerRow), .Spacing = cable.RowSpacing});
 }
 
-// The standing supports' spacing decides on the trusses too: at 0 their last figures stay.
+// Trusses are also skipped when the row spacing of the standing supports is 0. The dialog then keeps their last
+// figures.
 std::optional<SupportResult> TrussesInEntry(const RoofSupport& design, const Catalogs&, Single rockLoad) {
   const TrussSelection& truss = design.Entries.Truss;
   if (Needed(design.Entries.Standing.RowSpacing) == 0) return std::nullopt;
@@ -150,13 +152,14 @@ WorkingBolt ReportedBolt(const BoltSelection& set, UnitSystem units) {
   return {Inches(ToSingle(bolt.Diameter / MillimetresPerInch)), Ksi(ToSingle(bolt.Grade / MPaPerKsi))};
 }
 
-// Of one cable in tons. The catalog is asked in the design's units.
+// Returns the capacity of one cable in tons. Looks it up in the catalog in the units of the design.
 Single WorkingCapacity(const CableSelection& cable, UnitSystem units, const Catalogs& catalogs) {
   const Single capacity = CapacityOf(cable, units, catalogs);
   return units == Metric ? ToSingle(capacity / KilonewtonsPerTon) : capacity;
 }
 
-// Of the whole design, whichever analyses it asks for. Throws RuntimeError 6 beyond a Single.
+// Converts the whole design, also the parts that are not analysed. Throws RuntimeError 6 when a number is outside the
+// range of a Single.
 WorkingNumbers WorkingNumbersOf(const RoofSupport& design, const Catalogs& catalogs) {
   constexpr double KipsPerTon = 2;
   const auto feet = [&](Single length) { return InFeet(length, design.Units); };
@@ -185,7 +188,8 @@ WorkingNumbers WorkingNumbersOf(const RoofSupport& design, const Catalogs& catal
   return working;
 }
 
-// Of one bolt as the report labels it, kN or tons. English designs get the yield capacity under either label.
+// Returns the capacity of one bolt for the report, in kN or tons. In English designs this is the yield capacity,
+// whatever the label says.
 Single ReportedCapacity(const BoltPattern& bolts, const RoofSupport& design, const Catalogs& catalogs) {
   if (design.Units == Metric) return CapacityKN(bolts.Grade, bolts.Diameter);
   return (design.Basis == StrengthBasis::Yield ? CapacityFromGrade(bolts.Grade, bolts.Diameter)
@@ -213,14 +217,14 @@ struct Anchorage {
 };
 constexpr Anchorage AnchorageIn(UnitSystem units) { return units == Metric ? Anchorage{1.3, 0.305} : Anchorage{4, 1}; }
 
-// What entries and intersections have in common, under the highest rock that their fall angles allow.
+// Returns the figures that entries and intersections share. `highest` is the height of rock that the fall angles allow.
 Reinforcement ReinforcementUnder(Single highest, const SecondarySupport& support, const RoofSupport& design) {
   const Anchorage anchorage = AnchorageIn(design.Units);
   Reinforcement figures;
   figures.HighestRock = highest;
   figures.HeightIsAdjusted = support.RockLoadHeight > highest;
   figures.CablesAreShort = support.Cable.Length - anchorage.Cables < support.RockLoadHeight;
-  // Intersections are warned of by the length and the rock of the entries, too.
+  // The warning for intersections also uses the bolt length and the rock of the entries.
   figures.BoltsAreShort = design.Entries.Bolt.Length - anchorage.Bolts < design.Entries.RockLoadHeight;
   return figures;
 }
@@ -230,7 +234,7 @@ Reinforcement EntryReinforcementOf(const RoofSupport& design, const Catalogs& ca
   const Single highest = MaxRockHeightEntry(design.Place.EntryWidth, FallAngle(support.RockFallAngle));
   Reinforcement figures = ReinforcementUnder(highest, support, design);
   if (support.Cable.Use == 1) {
-    // The PRSUP goes by the length of the primary bolts.
+    // The PRSUP uses the length of the primary bolts.
     SupportPattern asLongAsBolts = working.EntryCables;
     asLongAsBolts.Length = working.Primary.Length;
     figures.CableSRDI = CableSRDI(working.EntryCables);
@@ -238,7 +242,7 @@ Reinforcement EntryReinforcementOf(const RoofSupport& design, const Catalogs& ca
   }
   if (support.Bolt.Use == 1) {
     const BoltPattern& bolts = working.EntryBolts;
-    // The SRDI takes the width that cable bolts bring along: without them it is a division by zero.
+    // The SRDI uses the width of the cable pattern. Without cable bolts this is a division by zero.
     figures.BoltSRDI = BoltSRDI({.Length = bolts.Length,
                                  .UnitsPerRow = bolts.BoltsPerRow,
                                  .Capacity = UltimateCapacity(bolts.Grade, bolts.Diameter, catalogs) / 2,
@@ -292,7 +296,7 @@ Figures Analyze(const RoofSupport& design, const Catalogs& catalogs) noexcept {
   figures.Entries = EntryFigures(design, catalogs);
   figures.Intersections = IntersectionFigures(design, catalogs);
 
-  // What it throws ends in Attempt.
+  // Attempt catches everything that this throws.
   // cppcheck-suppress throwInNoexceptFunction
   figures.Working = Attempt([&] { return WorkingNumbersOf(design, catalogs); });
   figures.Suggested = Attempt([&] { return Suggest(TypedSite(design), design.Units); });

@@ -1,7 +1,7 @@
-// Every figure of a design and each judgement on it, computed from the design and the lists alone.
+// All figures of a design and all judgements on it, computed only from the design and the catalogs.
 //
-// A figure that cannot be computed says so and gives the number of the run-time error. The functions may run on any
-// thread; they allocate nothing unless a figure fails.
+// A figure that cannot be computed has the number of its run-time error. The functions may run on any thread. They
+// allocate no memory unless a figure fails.
 #pragma once
 
 #include <array>
@@ -15,12 +15,12 @@
 
 namespace orby {
 
-// Primary support as the report judges it, in the design's units.
+// Primary support, with the judgements of the report, in the units of the design.
 struct PrimaryFigures {
   Single ActualPSUP = 0;
   Single RDI = 0;
   Single PRSUP = 0;
-  Single Capacity = 0;  // of one bolt, tons (kN), as the report labels it
+  Single Capacity = 0;  // of one bolt, as the report shows it, tons (kN)
   LengthVerdict Length = LengthVerdict::Fine;
   PsupVerdict Psup = PsupVerdict::Fine;
   bool FailsASTM = false;
@@ -28,17 +28,16 @@ struct PrimaryFigures {
 
 using SystemFigures = std::array<Computed<std::optional<SupportResult>>, SystemCount>;
 
-// What the dialog shows of the secondary support of entries or of intersections, in the design's units.
+// The figures of the dialog for the secondary support of entries or of intersections, in the units of the design.
 struct SupportFigures {
-  Computed<std::optional<Single>> RockLoad;  // nothing for implausible rock, or none
-  // Of the systems in use, under that load; nothing of the others, and of those that lack a number that decides on
-  // them.
+  Computed<std::optional<Single>> RockLoad;  // nothing when the rock is implausible or has no weight
+  // Each system in use under that load. Nothing for a system that is not in use, or that lacks an input it needs.
   SystemFigures Systems;
 };
 
-// What the report adds to the secondary support. The figures of a system that is not in use stay 0.
+// Figures of the secondary support that only the report shows. Those of a system that is not in use are 0.
 struct Reinforcement {
-  Single HighestRock = 0;  // that the fall angle allows
+  Single HighestRock = 0;  // the greatest height that the fall angle allows
   bool HeightIsAdjusted = false;
   Single CableSRDI = 0;   // entries
   Single CablePRSUP = 0;  // entries
@@ -49,24 +48,24 @@ struct Reinforcement {
   bool BoltsFailASTM = false;
 };
 
-// What the report computes from, in English units whatever the design's are.
+// The inputs of the report in English units, whatever the units of the design.
 struct WorkingNumbers {
   Feet Depth{};
   Feet Span{};
   BoltPattern Primary{};
   BoltPattern EntryBolts{};
   WorkingBolt IntersectionBolt{};
-  SupportPattern EntryCables{};  // its width is 0 in a design without cables in entries
+  SupportPattern EntryCables{};  // the width is 0 in a design without cables in entries
 };
 
 struct Figures {
-  // As the dialog shows them.
+  // Figures of the dialog.
   Computed<std::optional<SuggestedFigures>> LiveSuggestion;
   Computed<std::optional<Single>> LivePSUP;
   SupportFigures Entries;
   SupportFigures Intersections;
 
-  // As the report has them. Of a design whose working numbers are beyond a Single all but the suggestions fail.
+  // Figures of the report. All of these except Suggested fail when a working number is outside the range of a Single.
   Computed<WorkingNumbers> Working;
   Computed<SuggestedFigures> Suggested;
   Computed<PrimaryFigures> Primary;
@@ -76,8 +75,8 @@ struct Figures {
 
 Figures Analyze(const RoofSupport& design, const Catalogs& catalogs) noexcept;
 
-// Parts of the analysis, for a dialog that refreshes one of them. A number that is Unfit is an overflow in each figure
-// that needs it.
+// Parts of the analysis, for a dialog that refreshes one of them. A number that is Unfit makes each figure that needs
+// it fail with an overflow.
 Computed<std::optional<SuggestedFigures>> LiveSuggestion(const RoofSupport& design) noexcept;
 Computed<std::optional<Single>> LivePSUP(const RoofSupport& design, const Catalogs& catalogs) noexcept;
 SupportFigures EntryFigures(const RoofSupport& design, const Catalogs& catalogs) noexcept;

@@ -5,7 +5,7 @@
 namespace orby {
 namespace {
 
-// Cost of one bolt under each head.
+// Returns the cost of one bolt for each head.
 std::array<Single, CostHeads> CostPerBolt(const CostInputs& in, Single shiftsPerYear) {
   std::array<Single, CostHeads> cost{};
   if (in.NBoltsRow <= 0 || in.NboltsShift <= 0) return cost;
@@ -28,8 +28,8 @@ std::array<Single, CostHeads> CostPerBolt(const CostInputs& in, Single shiftsPer
   return cost;
 }
 
-// Tons of clean coal per shift that the cost is spread over; 0 or less for none. The calculated ones must be numbers
-// even when those that were typed count.
+// Returns the tons of clean coal per shift by which the cost is divided. 0 or less means no production. The calculated
+// production must be a valid number even when the typed one is used.
 Single ProductionPerShift(const CostInputs& in) {
   Single calculated = 0;
   if (in.RowSpacing > 0) {

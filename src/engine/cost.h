@@ -1,4 +1,4 @@
-// What roof bolting costs: per bolt, per foot (metre) of advance, per shift and per ton of clean coal.
+// Cost of roof bolting: per bolt, per foot (metre) of advance, per shift and per ton of clean coal.
 #pragma once
 
 #include <array>
@@ -17,14 +17,16 @@ struct CostTable {
   CostRow Totals{};
 };
 
-// A cell whose divisor is not above 0 stays 0. Throws RuntimeError 6 when a figure lies beyond a Single.
+// Computes the cost table. A cell whose divisor is 0 or less is 0. Throws RuntimeError 6 when a figure is outside the
+// range of a Single.
 CostTable AnalyseCost(const CostInputs& inputs);
 
-// Advance per shift, in the unit of the row spacing: bolts per row over row spacing, times bolts per shift.
-// Throws RuntimeError 11 when the spacing is 0, 6 when the result is beyond a Double.
+// Returns the advance per shift in the unit of the row spacing: boltsPerRow / rowSpacing * boltsPerShift. Throws
+// RuntimeError 11 when the spacing is 0, and 6 when the result is outside the range of a Double.
 double AdvancePerShift(double boltsPerRow, double rowSpacing, double boltsPerShift);
 
-// Tons of clean coal per shift: the advance times the tons per unit of it. Throws RuntimeError 6 beyond a Double.
+// Returns the tons of clean coal per shift: advance * advanceRate, the rate in tons per unit of advance. Throws
+// RuntimeError 6 when the result is outside the range of a Double.
 double CleanProductionPerShift(double advance, double advanceRate);
 
 }  // namespace orby

@@ -8,7 +8,7 @@
 namespace orby {
 namespace {
 
-// The design in English working units; the swept value is overwritten at each point.
+// The design in English working units. The swept value is replaced at each point.
 struct WorkingValues {
   Single CMRR;
   Single Depth;
@@ -75,7 +75,7 @@ Range WidthRange(WorkingValues& values) { return Around(values.Width, 0.7, 1.3, 
 
 Range AngleRange(WorkingValues& values) { return Around(values.Angle, 0.5, 1.5, FineStep); }
 
-// The entry width stands in for the height to be limited, so the sweep ends there at most.
+// The entry width takes the place of the rock height, so that the sweep ends at that value at the latest.
 Range IntersectionHeightRange(WorkingValues& values) {
   const FallAngle angle(values.Angle);
   const RockAtCrossing rock{.Height = values.Width, .Span = values.Span, .EntryAngle = angle, .CrosscutAngle = angle};
@@ -100,7 +100,7 @@ WorkingRock RockOf(const WorkingValues& values) {
           .Span = Feet(values.Span)};
 }
 
-// A height that is limited stays so for the points that follow, unless the height is what is swept.
+// A height that was limited stays limited for the following points, unless the height is the swept value.
 Single EntryLoadOf(WorkingValues& values) {
   const LimitedLoad entry = RockLoadEntry(RockOf(values));
   values.Height = entry.Height.Value;
@@ -114,7 +114,7 @@ struct FigureRule {
   Measure measure;
 };
 
-// By CurveFigure.
+// In the order of CurveFigure.
 constexpr std::array<FigureRule, 3> Figures{
     {{SupportOf, Measure::Plain}, {EntryLoadOf, Measure::LineLoad}, {IntersectionLoadOf, Measure::Force}}};
 

@@ -1,4 +1,4 @@
-// The ten parametric curves: one input of the design swept around its value.
+// The ten parametric curves. Each sweeps one input of the design around its value.
 #pragma once
 
 #include <array>
@@ -13,28 +13,28 @@ namespace orby {
 
 inline constexpr Integer CurveCount = 10;
 
-// What a number of a curve measures.
+// The quantity of a number of a curve.
 enum class Measure { Plain, Degrees, Length, LineLoad, Force };
 
-// The figure that is drawn over the swept input.
+// The figure that a curve plots.
 enum class CurveFigure { Support, EntryLoad, IntersectionLoad };
 
 struct CurveSubject {
-  std::string_view Name;         // as the list of curves has it
-  std::string_view Independent;  // the input that is swept
+  std::string_view Name;         // in the list of curves
+  std::string_view Independent;  // the swept input
   Measure IndependentMeasure;
   CurveFigure Figure;
 };
 
-// Throws RuntimeError 9 for an index outside 0..9.
+// Returns the subject of a curve. Throws RuntimeError 9 for an index outside 0..9.
 const CurveSubject& SubjectOfCurve(Integer index);
 
-// What the user is told of a sweep.
+// Notices about a sweep for the user.
 enum class CurveNotice { RatingLimitTrimmed, SpanAdjusted };
 
 struct Curve {
-  // Row 0 holds x, row 1 y, in the design's units; as many columns as the sweep was sized for, empty ones at the end
-  // staying 0.
+  // Row 0 contains x and row 1 contains y, in the units of the design. The number of columns is computed before the
+  // sweep. Unused columns at the end are 0.
   std::array<std::vector<Single>, 2> CurvePoints;
   Integer CurvePointCount = 0;  // filled columns
 };
@@ -45,8 +45,8 @@ struct CurveSweep {
   std::optional<RuntimeError> Failure;  // why there are no points
 };
 
-// Sweeps the curve of this index over the design. A sweep without any column fails with RuntimeError 9, one whose
-// numbers the relations refuse with theirs. Throws RuntimeError 9 for an index outside 0..9.
+// Computes a curve of the design. A sweep without columns fails with RuntimeError 9. An error of a relation becomes the
+// failure of the sweep. Throws RuntimeError 9 for an index outside 0..9.
 CurveSweep GenerateCurve(const RoofSupport& design, Integer index);
 
 }  // namespace orby

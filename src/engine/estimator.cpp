@@ -5,7 +5,7 @@
 namespace orby {
 namespace {
 
-// The rock types of a region, each with its rating, and the two rows that every region ends in.
+// Returns the rock types of a region with their ratings, followed by the two last rows of every region.
 template <class... Rocks>
 constexpr std::array<RockType, sizeof...(Rocks) + 2> Region(std::string_view unknown, const Rocks&... rocks) {
   return {rocks..., RockType{"Unknown", unknown}, RockType{"Manual Setting", unknown}};

@@ -1,4 +1,4 @@
-// Roof ratings to start from when no survey of the roof is at hand: coalfield and rock type to CMRR.
+// Estimated roof ratings for a roof that has not been surveyed: CMRR by coalfield and rock type.
 #pragma once
 
 #include <array>
@@ -12,7 +12,7 @@ namespace orby {
 inline constexpr std::array<std::string_view, 6> RegionNames{
     "Northern Appalachia", "Central Appalachia", "Southern Appalachia", "Illinois Basin", "Utah", "Other Western"};
 
-// Rock types that the record can number; a region with fewer has empty names behind its last.
+// The number of rock types that a record can refer to. A region with fewer has empty names after its last one.
 inline constexpr Integer RockTypeCount = 8;
 
 struct RockType {
@@ -20,11 +20,12 @@ struct RockType {
   std::string_view CMRR;  // as text
 };
 
-// The rock types of a region. The last row is the manual setting, the one above it the unknown roof.
+// Returns the rock types of a region. The last row is the manual setting, and the row before it the unknown roof.
 // Throws RuntimeError 9 for a region that does not exist.
 std::span<const RockType> RockTypes(Integer region);
 
-// The name of a rock type; empty for one behind the region's last row. Throws RuntimeError 9 outside the regions.
+// Returns the name of a rock type. Empty for an index outside the rows of the region. Throws RuntimeError 9 for a
+// region that does not exist.
 std::string_view RockTypeName(Integer region, Integer rockType);
 
 }  // namespace orby

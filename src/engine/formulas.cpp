@@ -11,7 +11,7 @@ namespace {
 
 constexpr Single PsupFloor = 3;
 constexpr Single LengthFloor = 4;
-constexpr double IndexPerDensity = 14.5;  // support density to reinforcement density index
+constexpr double IndexPerDensity = 14.5;  // reinforcement density index per support density
 constexpr Single UnlimitedHeight = 100;
 
 double AreaTimesGrade(Ksi grade, Inches diameter) { return grade.Value * Pi / 4 * Square(diameter.Value); }
@@ -28,7 +28,7 @@ int FirstMatch(const CatalogList& list, Single value) {
   return NotFound;
 }
 
-// The entry paired with the index; 0 beyond the list's end.
+// Returns the entry at the index, or 0 beyond the end of the list.
 Single Paired(const CatalogList& list, int index) {
   return index > list.HighestIndex ? 0 : list[static_cast<std::size_t>(index)];
 }
@@ -37,13 +37,13 @@ double Density(double length, double count, double capacity, double spacing, dou
   return Divide(length * count * capacity, spacing * width);
 }
 
-// With the capacity of one bolt.
+// `capacity` is that of one bolt.
 double Density(const BoltPattern& pattern, Single capacity) {
   return Density(pattern.Length.Value, pattern.BoltsPerRow, capacity, pattern.RowSpacing.Value,
                  pattern.EntryWidth.Value);
 }
 
-// With a length that may differ from that of the pattern.
+// `length` replaces that of the pattern.
 double Density(const SupportPattern& pattern, double length) {
   return Density(length, pattern.UnitsPerRow, pattern.Capacity, pattern.RowSpacing.Value, pattern.EntryWidth.Value);
 }

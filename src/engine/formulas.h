@@ -1,9 +1,8 @@
 // The empirical relations of roof support design, as pure functions.
 //
-// Working units are English throughout: ft, in, ksi, tons, kips, pcf; callers convert Metric input first. Every
-// function takes numbers of single precision, computes in double precision and rounds once at its return. Nothing is
-// caught: a division by zero throws RuntimeError 11, a logarithm of a value not above zero RuntimeError 5, a result
-// beyond a Single RuntimeError 6.
+// All working units are English: ft, in, ksi, tons, kips, pcf. Callers convert Metric input first. Each function takes
+// single-precision numbers, computes in double precision and rounds once when it returns. Throws RuntimeError 11 for a
+// division by zero, 5 for a logarithm of 0 or less, and 6 for a result outside the range of a Single.
 #pragma once
 
 #include "base/types.h"
@@ -13,13 +12,13 @@
 
 namespace orby {
 
-// How bolt grades are meant, and the lists that pair yield with ultimate strengths.
+// The meaning of bolt grades, and the catalogs that pair yield with ultimate strengths.
 struct GradeBasis {
   StrengthBasis Strength;
   const Catalogs& catalogs;
 };
 
-// What the suggestions depend on.
+// The inputs of the suggestions.
 struct WorkingSite {
   Single StabilityFactor = 0;  // SF
   Single CMRR = 0;
@@ -38,11 +37,11 @@ struct BoltPattern {
   Feet EntryWidth{};       // W
 };
 
-// A pattern of secondary support given by the capacity of one unit.
+// A pattern of secondary support with a given capacity of one unit.
 struct SupportPattern {
   Feet Length{};           // L
   Single UnitsPerRow = 0;  // N
-  Single Capacity = 0;     // C, kips; of bolts for the SRDI: tons
+  Single Capacity = 0;     // C, kips; for BoltSRDI: tons
   Feet RowSpacing{};       // S
   Feet EntryWidth{};       // W
 };
@@ -51,7 +50,7 @@ struct SupportPattern {
 struct WorkingRock {
   Pcf UnitWeight{};
   Feet Height{};
-  FallAngle Angle{};  // at which its sides fall in
+  FallAngle Angle{};  // of its sides
   Feet Width{};       // of the entry
   Feet Span{};        // sum of the diagonals; intersections only
 };
@@ -62,14 +61,14 @@ struct WorkingRock {
 Feet SuggestedSumDiagonals(Single cmrr);
 
 // Smallest plausible sum of the diagonals for an entry width:  sqrt(2 W^2) + 4.
-// Under Metric the margin is 4 m written in feet, 13.12, not 4 ft: Metric designs have always been judged so.
+// In Metric designs the margin is 4 m (13.12 ft) instead of 4 ft. Existing Metric designs were judged by this margin.
 Feet MinimumSumDiagonals(Feet width, UnitSystem units);
 
 // Suggested PSUP of a roof bolt pattern, dimensionless.
 //
 //   PSUP = (a^2 / s^2) SF (4.95 ln H - 17.9 ln(CMRR - 20) + 36.4),   not below 3
 //
-// s is the suggested span. A depth of 0 or less gives 0; a CMRR of 20 or less gives 3 whatever the depth.
+// s is the suggested span. A depth of 0 or less gives 0. A CMRR of 20 or less gives 3 at any depth.
 Single SuggestedPSUP(const WorkingSite& site, Feet suggestedSpan);
 
 // Suggested minimum bolt length:  (a / 13) log10(H) ((100 - CMRR) / 100)^1.5,   not below 4.
@@ -78,14 +77,14 @@ Feet SuggestedBoltLength(const WorkingSite& site);
 
 // ---- bolt grades and capacities ------------------------------------------------------------------------------------
 
-// Ultimate strength of a yield grade: the paired entry of the catalog, 0 when the pair is missing; a grade that is
-// not in the catalog gives 0.9 G + 35. The first entry that is exactly equal counts.
+// Ultimate strength of a yield grade: the paired entry of the first exactly equal grade in the catalog, or 0 when that
+// pair is missing. For a grade that is not in the catalog: 0.9 G + 35.
 Ksi UltimateFromYieldKsi(Ksi grade, const Catalogs& catalogs);
 
-// Yield strength of an ultimate grade, likewise; otherwise (G - 35) / 0.9.
+// Yield strength of an ultimate grade by the same rule. For a grade that is not in the catalog: (G - 35) / 0.9.
 Ksi YieldFromUltimateKsi(Ksi grade, const Catalogs& catalogs);
 
-// The same in MPa, by the Metric lists.
+// The same in MPa, by the Metric lists of the catalog.
 MPa YieldFromUltimateMPa(MPa grade, const Catalogs& catalogs);
 
 // Area times grade, kips:  G pi/4 d^2.
@@ -101,7 +100,7 @@ Single YieldCapacity(Ksi grade, Inches diameter, const Catalogs& catalogs);
 Single CapacityKN(Ksi grade, Inches diameter);
 Single UltimateCapacityKN(Ksi grade, Inches diameter, const Catalogs& catalogs);
 
-// Capacity as the ASTM minimum is stated: tons, under Metric kN.
+// Capacity in the unit of the ASTM minimum: tons (kN).
 Single BoltCapacityCheck(Ksi grade, Inches diameter, UnitSystem units);
 
 // ---- support densities ---------------------------------------------------------------------------------------------
@@ -128,23 +127,22 @@ Single BoltSRDI(const SupportPattern& pattern);
 
 struct LimitedLoad {
   Single Load = 0;  // tons/ft
-  Feet Height{};    // of the rock, reduced to that of the triangle where the angle does not allow it
+  Feet Height{};    // of the rock, limited to the triangle that the angle allows
 };
 
-// Rock load per foot of entry: the trapezoid of rock of this height, or the triangle that the angle allows. Not below
-// 0.
+// Rock load per foot of entry: a trapezoid of rock of this height, or the triangle that the angle allows. Not below 0.
 LimitedLoad RockLoadEntry(const WorkingRock& rock);
 
-// Side of the square whose two diagonals sum up to the span, in the unit of the span; not rounded.
+// Side of the square whose two diagonals add up to the span, in the unit of the span. Not rounded.
 double SideOfSpan(Single span);
 
-// Rock load of an intersection, tons: a frustum over the square whose diagonals sum up to the span. Not below 0.
+// Rock load of an intersection, tons: a frustum over the square whose diagonals add up to the span. Not below 0.
 Single RockLoadIntersection(const WorkingRock& rock);
 
 // Greatest height over an entry that the fall angle allows, in the unit of the width:  (W / 2) / tan(angle).
 Single MaxRockHeightEntry(Single width, FallAngle angle);
 
-// Rock over an intersection. Its lengths are in one unit, whichever.
+// Rock over an intersection. All lengths are in the same unit, which may be any.
 struct RockAtCrossing {
   Single Height = 0;
   Single Span = 0;
@@ -152,20 +150,20 @@ struct RockAtCrossing {
   FallAngle CrosscutAngle{};
 };
 
-// The height, limited by what the fall angles allow over an intersection. An angle of 0 sets its limit to 100. Both
-// limits take the entry's angle: the crosscut's decides only whether its limit of 100 applies.
+// The height of the rock, limited by the fall angles over an intersection. An angle of 0 has a limit of 100. Both
+// limits use the entry angle. The crosscut angle only decides whether its own limit is 100.
 Single MaxRockHeightIntersection(const RockAtCrossing& rock);
 
 // ---- cables and helpers --------------------------------------------------------------------------------------------
 
-// Capacity of the last cable of the catalog with exactly this diameter: in to tons, under Metric mm to kN; 0 without
-// one.
+// Capacity of the last cable in the catalog with exactly this diameter, or 0 when there is none. English in and tons,
+// Metric mm and kN.
 Single CableCapacityFromDiameter(Single diameter, UnitSystem units, const Catalogs& catalogs);
 
 // ln x / ln 10.
 Single Log10(Single x);
 
-// The smaller one.
+// The smaller number.
 Single MinOf(Single x, Single y);
 
 }  // namespace orby

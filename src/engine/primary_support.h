@@ -1,5 +1,5 @@
-// Primary support: suggested span, PSUP and bolt length of a site, and what a roof bolt pattern gives.
-// The dialog judges while one types and guards its input; the report takes what passed validation and has no guards.
+// Primary support: suggested span, PSUP and bolt length of a site, and the PSUP of a roof bolt pattern.
+// The dialog computes while the user types, so it checks its input. The report uses validated input without checks.
 #pragma once
 
 #include <optional>
@@ -11,7 +11,7 @@
 
 namespace orby {
 
-// What the suggestions depend on, as typed: in the design's units.
+// The inputs of the suggestions as typed, in the units of the design.
 struct SiteInputs {
   Single StabilityFactor = 0;
   Single CMRR = 0;
@@ -20,7 +20,7 @@ struct SiteInputs {
   Single Width = 0;  // entry width
 };
 
-// A pattern of roof bolts over an entry, as typed: in the design's units.
+// A pattern of roof bolts over an entry as typed, in the units of the design.
 struct PatternInputs {
   Single Length = 0;
   Single BoltsPerRow = 0;
@@ -46,7 +46,7 @@ inline constexpr std::string_view SpanAndWidthMayNotMatch = "Intersection diagon
 
 Suggestion SuggestSupport(const WorkingSite& site, UnitSystem units);
 
-// The suggestions in the design's units, and the two warnings of the span.
+// The suggestions in the units of the design, and the two warnings about the span.
 struct SuggestedFigures {
   Single SuggestedSpan = 0;
   Single SugPSUP = 0;
@@ -57,7 +57,7 @@ struct SuggestedFigures {
 
 SuggestedFigures Suggest(const SiteInputs& site, UnitSystem units);
 
-// A figure of a design and the one that is suggested for it.
+// A figure of a design and its suggested value.
 struct Comparison {
   Single Actual = 0;
   Single Suggested = 0;
@@ -65,15 +65,16 @@ struct Comparison {
 
 enum class LengthVerdict { TooShort, Fine, TooLong };
 
-// Bolt lengths in the design's units.
+// Judges bolt lengths in the units of the design. A bolt is too long when it exceeds the suggestion by more than 2 ft
+// (0.6 m).
 LengthVerdict JudgeLength(const Comparison& length, UnitSystem units);
 
-// The least PSUP that a roof is bolted for.
+// The smallest suggested PSUP for which bolts carry load.
 inline constexpr Single SmallestPsup = 3;
 
 enum class PsupVerdict { SkinControl, TooLow, Fine };
 
-// A suggestion below 3 needs no bolts but to hold the skin.
+// Judges the PSUP. A suggestion below 3 needs bolts only for skin control.
 PsupVerdict JudgePsup(const Comparison& psup);
 
 struct WorkingBolt {
@@ -81,29 +82,30 @@ struct WorkingBolt {
   Ksi Grade{};
 };
 
-// Whether the bolt falls short of the ASTM minimum of the design's units.
+// Returns true if the capacity of the bolt is below the ASTM minimum for the units.
 bool FailsASTM(const WorkingBolt& bolt, UnitSystem units);
 
-// A bolt from the project's units.
+// Converts a bolt from the units of the project.
 WorkingBolt InEnglishUnits(const Bolt& bolt, UnitSystem units);
 
-// A length from the project's units.
+// Converts a length from the units of the project.
 Feet InFeet(Single length, UnitSystem units);
 
 // ---- live in the dialog: values as typed, in the project's units --------------------------------------------------
 
-// Whether the dialog suggests support for the site: not when the stability factor is below 1, the rating outside
-// 0..100, the width not above 0, the span not above the width, or the depth negative.
+// Returns true if the dialog suggests support for the site. Requires a stability factor of at least 1, a rating in
+// 0..100, a width above 0, a span above the width and a depth of 0 or more.
 bool IsPlausible(const SiteInputs& typed);
 
-// Returns the suggestions with the warnings that the dialog shows: the two of the span are for English designs only.
+// Returns the suggestions with only the warnings that the dialog shows. It shows the two warnings about the span in
+// English designs only.
 SuggestedFigures WithLiveWarnings(SuggestedFigures figures, UnitSystem units);
 
-// What the dialog suggests for the site; nothing when it is not plausible.
+// Returns the suggestions of the dialog for the site, or nothing when it is not plausible.
 std::optional<SuggestedFigures> SuggestLive(const SiteInputs& typed, UnitSystem units);
 
-// PSUP of the pattern as typed. Nothing when there are no bolts or more than 10 in a row, the bolt is not above 0.5 in
-// or above 1.25 in thick, or the length, grade, row spacing or width is not above 0.
+// Returns the PSUP of the pattern as typed. Returns nothing unless there are more than 0 and at most 10 bolts in a row,
+// the diameter is above 0.5 in and at most 1.25 in, and length, grade, row spacing and width are above 0.
 std::optional<Single> ActualLive(const PatternInputs& typed, UnitSystem units, const GradeBasis& basis);
 
 }  // namespace orby

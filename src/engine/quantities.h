@@ -1,4 +1,5 @@
-// Numbers with their unit as their type: a length cannot be passed for a diameter, nor a grade in MPa for one in ksi.
+// Numbers whose type is their unit. A length cannot be passed as a diameter, and a grade in MPa cannot be passed as one
+// in ksi.
 //
 //   CapacityFromGrade(Ksi(75), Inches(0.75F))
 #pragma once
@@ -7,7 +8,7 @@
 
 namespace orby {
 
-// Made from a number, and turned into one, only where that is written out.
+// A number with a unit. Conversions from and to a plain number are explicit.
 template <class Unit>
 struct Quantity {
   Single Value = 0;

@@ -12,10 +12,11 @@ double Radians(Single angle) { return angle * RadiansPerDegree; }
 
 bool IsFallAngle(Single angle) { return Radians(angle) >= 0 && Radians(angle) < Pi / 2; }
 
-// The weight of a rock area or volume, if it is any. Metric unit weights are kN already.
+// Returns the weight of an area or volume of rock, or nothing when it is 0 or less. Metric unit weights are in kN
+// already.
 std::optional<Single> LoadOf(double amount, Single unitWeight, UnitSystem units) {
   const double weight = amount * unitWeight;
-  // Judged as rounded: a load too small for a Single would be a divisor of 0.
+  // Rounded before the check, because a load too small for a Single would become a divisor of 0.
   const Single load = ToSingle(units == Metric ? weight : weight / PoundsPerTon);
   if (load <= 0) return std::nullopt;
   return load;
@@ -28,7 +29,7 @@ SupportResult Judge(double capacity, Single rockLoad) {
 
 double TrussPairCapacity(const TrussSystem& truss) { return 2.0 * truss.Capacity * std::cos(Radians(truss.Angle)); }
 
-// Yield capacity of so many bolts, tons or kN.
+// Returns the yield capacity of all bolts of the system, tons (kN).
 double BoltYieldCapacity(const BoltSystem& system, UnitSystem units, const GradeBasis& basis) {
   Single grade = system.Bolts.Grade;
   if (basis.Strength == StrengthBasis::Ultimate) {

@@ -1,6 +1,6 @@
 // Secondary support of entries and intersections: rock load, and capacity and stability factor of each support system.
-// Everything is in the project's units: ft, tons, pcf, in, ksi, or m, kN, kN/m3, mm, MPa. What cannot be
-// computed throws its RuntimeError.
+// All numbers are in the units of the project: ft, tons, pcf, in, ksi, or m, kN, kN/m3, mm, MPa. A result that cannot
+// be computed throws its RuntimeError.
 #pragma once
 
 #include <optional>
@@ -10,7 +10,7 @@
 
 namespace orby {
 
-// The rock above, as typed.
+// The rock above the opening, as typed.
 struct RockInputs {
   Single UnitWeight = 0;
   Single Height = 0;
@@ -20,8 +20,8 @@ struct RockInputs {
   Single Span = 0;           // sum of the diagonals; intersections only
 };
 
-// Cable bolts or standing supports: the count is per row in an entry, the total in an intersection, where the spacing
-// is not used.
+// Cable bolts or standing supports. The count is per row in an entry, and the total in an intersection, which has no
+// spacing.
 struct CountedSystem {
   Single Capacity = 0;
   Single Count = 0;
@@ -40,28 +40,31 @@ struct BoltSystem {
 };
 
 struct SupportResult {
-  Single Capacity = 0;         // per length of entry, or of the whole intersection
+  Single Capacity = 0;         // per unit length of an entry, or of the whole intersection
   Single StabilityFactor = 0;  // capacity / rock load
 };
 
-// At least 100 pcf, or 15 kN/m3.
+// Returns true for at least 100 pcf (15 kN/m3).
 bool UnitWeightIsPlausible(Single unitWeight, UnitSystem units);
 
-// The load of a trapezoid of rock over the entry, or of the triangle that the fall angle allows. Nothing when the unit
-// weight is implausible, the height or width not above 0, the angle outside 0 to below 90, or no load results.
+// Returns the load of a trapezoid of rock over the entry, or of the triangle that the fall angle allows. Returns
+// nothing when the unit weight is implausible, the height or width is 0 or less, the angle is not in [0, 90), or the
+// load is 0 or less.
 std::optional<Single> EntryRockLoad(const RockInputs& rock, UnitSystem units);
 
-// The load of a frustum of rock over the square inscribed in the span, each side falling in at its own angle. Nothing
-// on the same grounds, or when the span is not above the width. Throws RuntimeError 11 when the height is limited and
-// the entry angle is 0.
+// Returns the load of a frustum of rock over the square whose diagonals add up to the span, with an angle for each pair
+// of sides. Returns nothing for the same reasons, and when the span is not above the width. Throws RuntimeError 11 when
+// the height is limited and the entry angle is 0.
 std::optional<Single> IntersectionRockLoad(const RockInputs& rock, UnitSystem units);
 
-// What a system gives per length of entry. Throws RuntimeError 11 at a spacing of 0, 6 beyond a Single.
+// Each returns the support of a system per unit length of an entry. Throws RuntimeError 11 when the spacing is 0, and 6
+// when a result is outside the range of a Single.
 SupportResult SupportEntry(Single rockLoad, const CountedSystem& system);
 SupportResult SupportEntry(Single rockLoad, const TrussSystem& trusses);
 SupportResult SupportEntry(Single rockLoad, const BoltSystem& bolts, UnitSystem units, const GradeBasis& basis);
 
-// What all units of a system in an intersection give. Throws RuntimeError 6 beyond a Single.
+// Each returns the support of all units of a system in an intersection. Throws RuntimeError 6 when a result is outside
+// the range of a Single.
 SupportResult SupportIntersection(Single rockLoad, const CountedSystem& system);
 SupportResult SupportIntersection(Single rockLoad, const TrussSystem& trusses);
 SupportResult SupportIntersection(Single rockLoad, const BoltSystem& bolts, UnitSystem units, const GradeBasis& basis);

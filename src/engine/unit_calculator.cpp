@@ -11,14 +11,14 @@ namespace {
 
 enum class Step { Multiply, Divide };
 
-// How a unit is reached from one that stands before it in its group.
+// The conversion to a unit from an earlier unit of its group.
 struct UnitRow {
   std::size_t from;
   Step step;
   double factor;
 };
 
-// The first unit of a group is reached from nothing.
+// The first unit of a group has no conversion.
 constexpr UnitRow First{0, Step::Multiply, 1};
 
 constexpr std::array LengthUnits{First, UnitRow{0, Step::Divide, 12}, UnitRow{0, Step::Multiply, 2.54},
@@ -34,7 +34,7 @@ constexpr std::array StressGradientUnits{First, UnitRow{0, Step::Divide, 0.08333
                                          UnitRow{0, Step::Multiply, 271447.137519685},
                                          UnitRow{2, Step::Divide, 1000000}};
 
-// By UnitGroup.
+// In the order of UnitGroup.
 constexpr std::array<std::span<const UnitRow>, 5> Groups{LengthUnits, LoadUnits, LoadGradientUnits, StressUnits,
                                                          StressGradientUnits};
 

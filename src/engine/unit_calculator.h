@@ -1,5 +1,5 @@
-// Conversion of a number into the other units of its kind, in double precision and by the calculator's own factors,
-// which are not those of a project's conversion.
+// Conversion of a number to the other units of its kind, in double precision. The factors are those of the calculator
+// and differ from those of a project.
 #pragma once
 
 #include <cstddef>
@@ -8,7 +8,7 @@
 
 namespace orby {
 
-// The kinds and their units in order; each unit is reached from the first one by its factors one after the other.
+// The kinds with their units in order. The factors convert from the first unit, or from the unit before.
 enum class UnitGroup {
   Length,          // in, ft, cm, m                      12 in/ft, 2.54 cm/in, 100 cm/m
   Load,            // lbsF, tonsF (short), kN, MN, kips  2000, 0.004448220489393218 kN/lbsF, 1000, 1000
@@ -17,8 +17,9 @@ enum class UnitGroup {
   StressGradient,  // psi/in, psi/ft, Pa/m, MPa/m        0.08333333333333333, 271447.137519685 (Pa/m)/(psi/in)
 };
 
-// The value, given in one unit of the group, in each of its units. In its own unit it stays as it is. Nothing for a
-// unit in which it is beyond a Double, and for those reached from there.
+// Converts a value from one unit of the group to all of its units. The value in its own unit is unchanged. Returns
+// nothing for a unit in which the value is outside the range of a Double, and for the units that are computed from that
+// unit.
 std::vector<std::optional<double>> ConvertUnits(UnitGroup group, double value, std::size_t unit);
 
 }  // namespace orby

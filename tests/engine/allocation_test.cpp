@@ -1,4 +1,4 @@
-// What the analysis of a design takes from the heap: nothing.
+// The analysis of a design allocates no memory.
 #include <gtest/gtest.h>
 
 #include <cstdlib>

@@ -1,4 +1,4 @@
-// A design's figures and judgements as one value: what each one needs, what fails with it, and from many threads.
+// All figures and judgements of a design: the inputs of each figure, failures, and the use from many threads.
 #include "engine/analysis.h"
 
 #include <gmock/gmock.h>
@@ -50,7 +50,7 @@ TEST(Analysis, OfAFullDesignComputesEveryFigure) {
   EXPECT_TRUE(figures.IntersectionReinforcement.IsThere());
 }
 
-TEST(Analysis, OfASystemThatIsNotInUseGivesNothing) {
+TEST(Analysis, HasNoFiguresOfASystemThatIsNotInUse) {
   Design design = FullDesign();
   design.Entries.Truss.Use = 0;
 
@@ -60,7 +60,7 @@ TEST(Analysis, OfASystemThatIsNotInUseGivesNothing) {
   EXPECT_TRUE(figures.Intersections.Systems[1].Value());
 }
 
-TEST(Analysis, OfRoofBoltsInEntriesGivesNothingWithoutBoltsInARow) {
+TEST(Analysis, HasNoFiguresOfRoofBoltsWithoutBoltsInARow) {
   Design design = FullDesign();
   const auto bolts = [&] { return Analyze(design, BuiltInLists()).Entries.Systems[2].Value(); };
 
@@ -70,7 +70,7 @@ TEST(Analysis, OfRoofBoltsInEntriesGivesNothingWithoutBoltsInARow) {
   EXPECT_TRUE(bolts().has_value());
 }
 
-TEST(Analysis, NamesTheWarningsOfAWideSpanUnderAShortBolt) {
+TEST(Analysis, WarnsOfAWideSpanAndShortBolts) {
   Design design = FullDesign();
   design.Place.ActualSpanDiagonals = 80;
   design.Primary.Length = 2;
@@ -87,7 +87,7 @@ TEST(Analysis, NamesTheWarningsOfAWideSpanUnderAShortBolt) {
   EXPECT_TRUE(figures.IntersectionReinforcement.Value().BoltsAreShort);
 }
 
-TEST(Analysis, WithoutADepthLacksTheSuggestionsAlone) {
+TEST(Analysis, WithoutADepthFailsOnlyInTheSuggestions) {
   Design design = FullDesign();
   design.Place.DepthofCover = 0;
 
@@ -101,7 +101,7 @@ TEST(Analysis, WithoutADepthLacksTheSuggestionsAlone) {
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(figures.Suggested.Value()); }), BadCall);
 }
 
-TEST(Analysis, OfRoofBoltsInEntriesWithoutCablesLacksTheirDensities) {
+TEST(Analysis, FailsInTheDensitiesOfRoofBoltsWithoutCables) {
   Design design = FullDesign();
   design.Entries.Cable.Use = 0;
 
@@ -111,7 +111,7 @@ TEST(Analysis, OfRoofBoltsInEntriesWithoutCablesLacksTheirDensities) {
   EXPECT_TRUE(figures.Entries.Systems[2].Value());
 }
 
-TEST(Analysis, OfANumberThatFitsNoSingleOverflowsWhereItIsNeededAndNowhereElse) {
+TEST(Analysis, OverflowsOnlyWhereATooLargeNumberIsNeeded) {
   Design design = FullDesign();
   design.Entries.Truss.Capacity = Unfit;
 
@@ -122,8 +122,8 @@ TEST(Analysis, OfANumberThatFitsNoSingleOverflowsWhereItIsNeededAndNowhereElse) 
   EXPECT_TRUE(figures.LiveSuggestion.Value());
 }
 
-// A cable without a matching diameter would have a capacity of 0; one whose diameter is no number has none.
-TEST(Analysis, OfACableDiameterThatFitsNoSingleOverflows) {
+// A cable with an unlisted diameter has a capacity of 0. A cable with a diameter outside the range has no capacity.
+TEST(Analysis, OverflowsForATooLargeCableDiameter) {
   Design design = FullDesign();
   design.Intersections.Cable.CapMode = 0;
   design.Intersections.Cable.Diam = Unfit;
@@ -131,14 +131,14 @@ TEST(Analysis, OfACableDiameterThatFitsNoSingleOverflows) {
   EXPECT_THAT(ErrorsOf(FiguresOf(design).Intersections), testing::ElementsAre(Overflow, NoError, NoError, NoError));
 }
 
-TEST(Analysis, TakesAnUnfitNumberForNoneThatIsNotChosen) {
+TEST(Analysis, IgnoresATooLargeNumberThatIsNotSelected) {
   Design design = FullDesign();
   design.Entries.Bolt.GradeManual = Unfit;
 
   EXPECT_THAT(ErrorsOf(FiguresOf(design).Entries), testing::Each(NoError));
 }
 
-TEST(Analysis, BeyondTheNumbersOfTheReportFailsInItsPartsAlone) {
+TEST(Analysis, OfATooLargeWorkingNumberFailsOnlyInThePartsOfTheReport) {
   Design design = FullDesign();
   design.Units = Metric;
   design.Entries.Bolt.Length = 2e38F;
@@ -173,7 +173,7 @@ Design AnyDesign(std::uint32_t number) {
   return design;
 }
 
-// All the numbers and judgements of the figures that are there, and the errors of the others.
+// Returns all numbers and judgements, and the error of each figure that failed.
 std::vector<double> Listed(const Figures& figures) {
   std::vector<double> list{static_cast<double>(figures.Suggested.Error()), static_cast<double>(figures.Primary.Error()),
                            static_cast<double>(figures.EntryReinforcement.Error()),
@@ -192,7 +192,7 @@ std::vector<double> Listed(const Figures& figures) {
   return list;
 }
 
-TEST(Analysis, GivesTheSameFromEightThreadsAsFromOne) {
+TEST(Analysis, HasTheSameResultsOnEightThreadsAsOnOne) {
   constexpr std::uint32_t Designs = 400;
   constexpr std::size_t Threads = 8;
   std::vector<std::vector<double>> alone;

@@ -14,7 +14,7 @@ struct Pair {
 constexpr Pair KsiPairs[] = {{40, 70}, {55, 85}, {60, 90}, {75, 100}, {90, 116}, {100, 125}};
 constexpr Pair MPaPairs[] = {{280, 480}, {390, 590}, {420, 620}, {520, 690}, {620, 800}, {690, 860}};
 
-TEST(BoltGrade, OfTheListHasTheListsPartner) {
+TEST(BoltGrade, OfTheListHasItsPairedStrength) {
   const Catalogs lists = BuiltInLists();
 
   for (const auto& [yield, ultimate] : KsiPairs) {
@@ -25,7 +25,7 @@ TEST(BoltGrade, OfTheListHasTheListsPartner) {
     EXPECT_EQ(YieldFromUltimateMPa(MPa(ultimate), lists).Value, yield) << ultimate;
 }
 
-TEST(BoltGrade, OutsideTheListFollowsTheStraightLine) {
+TEST(BoltGrade, OutsideTheListFollowsTheFormula) {
   const Catalogs lists = BuiltInLists();
 
   EXPECT_EQ(UltimateFromYieldKsi(Ksi(50), lists).Value, 80.0F);
@@ -36,7 +36,7 @@ TEST(BoltGrade, OutsideTheListFollowsTheStraightLine) {
   EXPECT_EQ(YieldFromUltimateMPa(MPa(700), lists).Value, 509.648315F);
 }
 
-TEST(BoltGrade, OneBitBesideTheListFollowsTheStraightLine) {
+TEST(BoltGrade, OneBitOffAListedGradeFollowsTheFormula) {
   const Catalogs lists = BuiltInLists();
 
   EXPECT_EQ(UltimateFromYieldKsi(Ksi(74.9999924F), lists).Value, 102.499992F);
@@ -47,7 +47,7 @@ TEST(BoltGrade, OneBitBesideTheListFollowsTheStraightLine) {
   EXPECT_EQ(YieldFromUltimateMPa(MPa(690.000061F), lists).Value, 498.537292F);
 }
 
-TEST(BoltGrade, ThatStandsTwiceTakesTheFirstPartner) {
+TEST(BoltGrade, ThatIsListedTwiceHasTheFirstPairedStrength) {
   Catalogs lists = BuiltInLists();
   lists.DefaultBoltGradeArrayENG.Values[4] = 75;
   lists.DefaultBoltUTSArrayENG.Values[4] = 100;
@@ -58,7 +58,7 @@ TEST(BoltGrade, ThatStandsTwiceTakesTheFirstPartner) {
   EXPECT_EQ(YieldFromUltimateMPa(MPa(690), lists).Value, 520.0F);
 }
 
-TEST(BoltGrade, WithoutAPartnerInAShorterListIsZero) {
+TEST(BoltGrade, WithoutAPairInAShorterListIsZero) {
   Catalogs lists = BuiltInLists();
   lists.DefaultBoltUTSArrayENG.HighestIndex = 2;
   EXPECT_EQ(UltimateFromYieldKsi(Ksi(60), lists).Value, 90.0F);
@@ -73,7 +73,7 @@ TEST(BoltGrade, WithoutAPartnerInAShorterListIsZero) {
   EXPECT_EQ(YieldFromUltimateMPa(MPa(690), lists).Value, 0.0F);
 }
 
-TEST(BoltGrade, BehindTheListsLastEntryInUseIsNotFound) {
+TEST(BoltGrade, AfterTheLastEntryInUseIsNotFound) {
   Catalogs lists = BuiltInLists();
   lists.DefaultBoltGradeArrayENG.HighestIndex = 2;
   lists.DefaultBoltUTSArrayENG.HighestIndex = -1;
@@ -100,7 +100,7 @@ constexpr CapacityRow Capacities[] = {
     {Ksi(100), Inches(1.25F), 122.71846F, 153.398071F, 92.0388489F, 545.878784F, 682.34845F, 61.35923F},
 };
 
-TEST(BoltCapacity, FollowsGradeAndDiameter) {
+TEST(BoltCapacity, DependsOnGradeAndDiameter) {
   const Catalogs lists = BuiltInLists();
 
   for (const auto& row : Capacities) {
@@ -120,7 +120,7 @@ TEST(BoltCapacity, IsCheckedInTonsOrKilonewtons) {
   }
 }
 
-TEST(BoltCapacity, OfAnUltimateGradeOutsideTheListComesFromTheLine) {
+TEST(BoltCapacity, OfAnUltimateGradeOutsideTheListFollowsTheFormula) {
   const Catalogs lists = BuiltInLists();
 
   EXPECT_EQ(YieldCapacity(Ksi(110), Inches(0.75F), lists), 36.8155403F);
@@ -148,7 +148,7 @@ constexpr PatternRow Patterns[] = {
     {{Feet(6), 4, Inches(0.75F), Ksi(80), Feet(4), Feet(20)}, Ultimate, 6.62679672F, 10.6028757F, 153.741699F},
 };
 
-TEST(BoltPatternDensity, TakesYieldForPsupAndUltimateForPrsupWhateverTheGradeMeans) {
+TEST(BoltPatternDensity, UsesYieldForPsupAndUltimateForPrsupInBothModes) {
   for (const auto& row : Patterns) {
     SCOPED_TRACE(testing::Message() << "grade " << row.pattern.Grade.Value << ", mode " << NumberOf(row.mode));
     EXPECT_EQ(ActualPSUP(row.pattern, Grades(row.mode)), row.psup);
@@ -175,14 +175,14 @@ TEST(BoltPatternDensity, FailsWithoutARowSpacingOrAWidth) {
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(BoltRDI(noWidth, Grades(Ultimate))); }), 11);
 }
 
-TEST(SecondaryDensity, OfCablesLeavesTheAnchorOut) {
+TEST(SecondaryDensity, OfCablesExcludesTheAnchorFromTheSrdi) {
   EXPECT_EQ(CablePRSUP({Feet(10), 2, 26.4F, Feet(5), Feet(20)}), 5.27999973F);
   EXPECT_EQ(CableSRDI({Feet(10), 2, 26.4F, Feet(5), Feet(20)}), 74.0335159F);
   EXPECT_EQ(CablePRSUP({Feet(12), 3, 35.7F, Feet(4), Feet(18)}), 17.8500004F);
   EXPECT_EQ(CableSRDI({Feet(12), 3, 35.7F, Feet(4), Feet(18)}), 251.707321F);
 }
 
-TEST(SecondaryDensity, OfBoltsTakesTheWholeLength) {
+TEST(SecondaryDensity, OfBoltsUsesTheWholeLength) {
   EXPECT_EQ(BoltSRDI({Feet(10), 2, 26.4F, Feet(5), Feet(20)}), 76.5599976F);
   EXPECT_EQ(BoltSRDI({Feet(12), 3, 35.7F, Feet(4), Feet(18)}), 258.825012F);
 }
@@ -195,7 +195,7 @@ TEST(SecondaryDensity, FailsWithoutARowSpacing) {
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(BoltSRDI(pattern)); }), 11);
 }
 
-TEST(CableCapacity, IsThatOfTheListsOwnUnits) {
+TEST(CableCapacity, IsLookedUpInTheListOfItsUnits) {
   const Catalogs lists = BuiltInLists();
 
   EXPECT_EQ(CableCapacityFromDiameter(0.6F, English, lists), 26.4F);
@@ -206,7 +206,7 @@ TEST(CableCapacity, IsThatOfTheListsOwnUnits) {
   EXPECT_EQ(CableCapacityFromDiameter(28.6F, Metric, lists), 970.0F);
 }
 
-TEST(CableCapacity, OfADiameterThatStandsTwiceIsTheLast) {
+TEST(CableCapacity, OfADiameterThatIsListedTwiceIsTheLast) {
   EXPECT_EQ(CableCapacityFromDiameter(31, Metric, BuiltInLists()), 880.0F);
 }
 
@@ -218,7 +218,7 @@ TEST(CableCapacity, OfAnUnlistedDiameterIsZero) {
   EXPECT_EQ(CableCapacityFromDiameter(0.6F, Metric, lists), 0.0F);
 }
 
-TEST(CableCapacity, OfADiameterOneBitBesideTheListIsZero) {
+TEST(CableCapacity, OfADiameterOneBitOffAListedOneIsZero) {
   const Catalogs lists = BuiltInLists();
 
   EXPECT_EQ(CableCapacityFromDiameter(0.599999964F, English, lists), 0.0F);
@@ -227,7 +227,7 @@ TEST(CableCapacity, OfADiameterOneBitBesideTheListIsZero) {
   EXPECT_EQ(CableCapacityFromDiameter(31.0000019F, Metric, lists), 0.0F);
 }
 
-TEST(CableCapacity, EndsWithTheListsLastEntryInUse) {
+TEST(CableCapacity, IgnoresEntriesAfterTheLastOneInUse) {
   Catalogs lists = BuiltInLists();
   lists.DefaultCableDiamArrayENG.HighestIndex = 0;
   lists.DefaultCableDiamArrayMET.HighestIndex = 3;

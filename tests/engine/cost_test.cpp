@@ -56,7 +56,7 @@ constexpr CostRow Transportation{0.333333343F, 0.333333343F, 100, 0.0833333358F}
 constexpr CostRow Ownership{1.11111116F, 1.11111116F, 333.333344F, 0.277777791F};
 constexpr CostRow None{};
 
-TEST(Cost, OfTheEnglishDefaults) {
+TEST(Cost, IsComputedForTheEnglishDefaults) {
   ExpectTable(EnglishCosts(), {{Consumables,
                                 Labor,
                                 Maintenance,
@@ -65,7 +65,7 @@ TEST(Cost, OfTheEnglishDefaults) {
                                 {9.22055531F, 9.22055531F, 2766.16675F, 2.30513883F}}});
 }
 
-TEST(Cost, OfTheMetricDefaults) {
+TEST(Cost, IsComputedForTheMetricDefaults) {
   CostInputs costs = EnglishCosts();
   costs.RowSpacing = 1.2F;
   costs.AdvanceRate = 12;
@@ -78,7 +78,7 @@ TEST(Cost, OfTheMetricDefaults) {
                        {9.22055531F, 30.7351856F, 2766.16675F, 0.230513915F}}});
 }
 
-TEST(Cost, SpreadsHeadersOverBoltsAndStrapsOverRows) {
+TEST(Cost, DividesHeadersByBoltsAndStrapsByRows) {
   CostInputs costs = EnglishCosts();
   costs.HeaderCost = 0.25F;
   costs.StrapCost = 2.5F;
@@ -95,9 +95,9 @@ TEST(Cost, SpreadsHeadersOverBoltsAndStrapsOverRows) {
                        {10.2363100F, 14.6232996F, 2866.16675F, 2.38847232F}}});
 }
 
-TEST(Cost, OfNothingIsNothing) { ExpectTable(CostInputs{}, {}); }
+TEST(Cost, IsZeroForEmptyInputs) { ExpectTable(CostInputs{}, {}); }
 
-TEST(Cost, WithoutARowSpacingHasNoAdvanceAndNoCalculatedProduction) {
+TEST(Cost, WithoutARowSpacingHasNoCostPerAdvanceOrPerCalculatedTon) {
   ExpectTable(With(&CostInputs::RowSpacing, 0.0F), {{{5.72333336F, 0, 1717, 0},
                                                      {1.86666667F, 0, 560, 0},
                                                      {0.186111107F, 0, 55.8333321F, 0},
@@ -106,7 +106,7 @@ TEST(Cost, WithoutARowSpacingHasNoAdvanceAndNoCalculatedProduction) {
                                                      {9.22055531F, 0, 2766.16675F, 0}}});
 }
 
-TEST(Cost, WithoutARowSpacingStillSpreadsOverAGivenProduction) {
+TEST(Cost, WithoutARowSpacingHasACostPerTypedTon) {
   CostInputs costs = With(&CostInputs::RowSpacing, 0.0F);
   costs.Production = 0;
 
@@ -115,45 +115,45 @@ TEST(Cost, WithoutARowSpacingStillSpreadsOverAGivenProduction) {
   EXPECT_EQ(table.Totals, (CostRow{9.22055531F, 0, 2766.16675F, 2.30513883F}));
 }
 
-TEST(Cost, OfRowsLessThanOneApartIsSpreadOverTheAdvance) {
+TEST(Cost, IsDividedByAnAdvanceWithARowSpacingBelowOne) {
   const CostTable table = AnalyseCost(With(&CostInputs::RowSpacing, 0.5F));
 
   EXPECT_EQ(table.Totals, (CostRow{9.22055531F, 73.7644424F, 2766.16675F, 0.288142353F}));
 }
 
-TEST(Cost, OfLessThanOneTonAShiftIsSpreadOverIt) {
+TEST(Cost, IsDividedByAProductionBelowOneTon) {
   CostInputs costs = With(&CostInputs::CleanProduction, 0.5F);
   costs.Production = 0;
 
   EXPECT_EQ(AnalyseCost(costs).Totals, (CostRow{9.22055531F, 9.22055531F, 2766.16675F, 5532.3335F}));
 }
 
-TEST(Cost, WithANegativeRowSpacingHasNoAdvance) {
+TEST(Cost, WithANegativeRowSpacingHasNoCostPerAdvance) {
   const CostTable table = AnalyseCost(With(&CostInputs::RowSpacing, -4.0F));
 
   EXPECT_EQ(table.Totals, (CostRow{9.22055531F, 0, 2766.16675F, 0}));
 }
 
-TEST(Cost, WithoutShiftsHasNoMaintenanceAndNoOwnershipButTransportation) {
+TEST(Cost, WithoutShiftsHasNeitherMaintenanceNorOwnership) {
   const Rows expected{{Consumables, Labor, None, Transportation, None, {7.92333317F, 7.92333317F, 2377, 1.98083329F}}};
 
   ExpectTable(With(&CostInputs::ShiftsWeek, 0.0F), expected);
   ExpectTable(With(&CostInputs::WeeksYear, 0.0F), expected);
 }
 
-TEST(Cost, WithoutYearsOfDepreciationHasNoOwnershipAlone) {
+TEST(Cost, WithoutYearsOfDepreciationHasNoOwnership) {
   ExpectTable(
       With(&CostInputs::YearsDepr, 0.0F),
       {{Consumables, Labor, Maintenance, Transportation, None, {8.10944462F, 8.10944462F, 2432.83325F, 2.02736115F}}});
 }
 
-TEST(Cost, OfHalfAYearOfDepreciationIsOwnershipTenTimesThatOfFive) {
+TEST(Cost, HasTenTimesTheOwnershipForHalfAYearInsteadOfFiveYears) {
   const CostTable table = AnalyseCost(With(&CostInputs::YearsDepr, 0.5F));
 
   EXPECT_EQ(table.Heads[4], (CostRow{11.1111107F, 11.1111107F, 3333.33325F, 2.77777767F}));
 }
 
-TEST(Cost, WithoutBoltsIsNothing) {
+TEST(Cost, IsZeroWithoutBolts) {
   ExpectTable(With(&CostInputs::NBoltsRow, 0.0F), {});
   ExpectTable(With(&CostInputs::NboltsShift, 0.0F), {});
   ExpectTable(With(&CostInputs::NBoltsRow, -4.0F), {});
@@ -169,7 +169,7 @@ TEST(Cost, PerTonIsZeroWithoutAProduction) {
             (CostRow{9.22055531F, 9.22055531F, 2766.16675F, 0}));
 }
 
-TEST(Cost, TakesTheCalculatedProductionOnlyForAFlagOfOne) {
+TEST(Cost, UsesTheCalculatedProductionOnlyForAFlagOfOne) {
   CostInputs costs = With<Integer>(&CostInputs::Production, 2);
   costs.CleanProduction = 2400;
 
@@ -194,14 +194,14 @@ TEST(Cost, BeyondTheRangeOfASingleFails) {
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(AnalyseCost(costs)); }), 6);
 }
 
-TEST(Cost, OfATypedProductionStillNeedsOneThatCanBeCalculated) {
+TEST(Cost, FailsWhenTheCalculatedProductionIsTooLargeEvenIfNotUsed) {
   CostInputs costs = With(&CostInputs::AdvanceRate, 1E38F);
   costs.Production = 0;
 
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(AnalyseCost(costs)); }), 6);
 }
 
-TEST(Advance, IsBoltsPerRowOverSpacingTimesBoltsPerShift) {
+TEST(Advance, IsBoltsPerRowDividedBySpacingTimesBoltsPerShift) {
   EXPECT_DOUBLE_EQ(AdvancePerShift(4, 4, 300), 300);
   EXPECT_DOUBLE_EQ(AdvancePerShift(4, 1.2, 300), 1000);
   EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(AdvancePerShift(4, 0, 300)); }), 11);

@@ -1,4 +1,4 @@
-// The design of a new project and its curves, as the tests of curves begin.
+// The design of a new project and its curves, for the tests of curves.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Curves of unusual designs: limits, adjustments, empty sweeps, and sweeps that cannot be made.
+// Curves of unusual designs: limits, adjustments, empty sweeps and sweeps that fail.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -29,7 +29,7 @@ struct TrimmedRow {
   std::size_t points;
 };
 constexpr TrimmedRow TrimmedRows[] = {
-    // A sweep from 35 by twos reaches 51 from 360.18 ft on, and 37 from 21.83 ft on.
+    // A sweep from 35 in steps of 2 reaches 51 at 360.18 ft or more, and 37 at 21.83 ft or more.
     {360, 8}, {361, 9}, {360.18158F, 8}, {360.18161F, 9}, {21.8338432F, 1}, {21.8338451F, 2},
 };
 
@@ -50,7 +50,7 @@ struct UpperEndRow {
   std::size_t points;
 };
 constexpr UpperEndRow UpperEndRows[] = {
-    // In each pair the first sweep just reaches its end and the second one just does not.
+    // In each pair the first sweep just reaches its end, and the second one just does not.
     {1, [](auto& d) { return &d.Place.DepthofCover; }, 340, 11},
     {1, [](auto& d) { return &d.Place.DepthofCover; }, 58, 10},
     {2, [](auto& d) { return &d.Primary.StabilityFactor; }, 1.1F, 11},
@@ -65,7 +65,7 @@ constexpr UpperEndRow UpperEndRows[] = {
     {9, [](auto& d) { return &d.Entries.RockFallAngle; }, 29.9999981F, 60},
 };
 
-TEST_F(CurveLimits, ASweepEndsAtItsUpperEndToTheLastBit) {
+TEST_F(CurveLimits, ASweepEndsExactlyAtItsUpperLimit) {
   for (const auto& [index, swept, value, points] : UpperEndRows) {
     design = EnglishDesign();
     swept.In(design) = value;
@@ -76,7 +76,7 @@ TEST_F(CurveLimits, ASweepEndsAtItsUpperEndToTheLastBit) {
   }
 }
 
-TEST_F(CurveLimits, ARatingUnderEnormousDepthIsNotTrimmed) {
+TEST_F(CurveLimits, ARatingAtAnEnormousDepthIsNotTrimmed) {
   design.Place.DepthofCover = 1E12F;
 
   Generate(0);
@@ -86,7 +86,7 @@ TEST_F(CurveLimits, ARatingUnderEnormousDepthIsNotTrimmed) {
   EXPECT_EQ(sweep.Notice, std::nullopt);
 }
 
-TEST_F(CurveLimits, ARatingEndsAtAHundred) {
+TEST_F(CurveLimits, ARatingEndsAt100) {
   design.Place.DepthofCover = 1E12F;
   design.Place.CMRR = 95;
 
@@ -98,7 +98,7 @@ TEST_F(CurveLimits, ARatingEndsAtAHundred) {
   EXPECT_EQ(LastPoint(), Point(99, 50.5943031F));
 }
 
-TEST_F(CurveLimits, ARatingOf91StaysBelowAHundredToo) {
+TEST_F(CurveLimits, ARatingOf91EndsAt99) {
   design.Place.DepthofCover = 1E12F;
   design.Place.CMRR = 91;
 
@@ -131,7 +131,7 @@ TEST_F(CurveLimits, ARatingJustAboveTheTrimmedLimitIsAnEmptyCurve) {
   EXPECT_EQ(ErrorOf(0), 9);
 }
 
-TEST_F(CurveLimits, HalfAColumnGoesToTheEvenNumber) {
+TEST_F(CurveLimits, HalfAColumnRoundsToTheEvenNumber) {
   design.Place.CMRR = 26;
   Generate(0);
   EXPECT_EQ(Points(), 1U);
@@ -162,7 +162,7 @@ TEST_F(CurveLimits, ADepthOfZeroIsOnePoint) {
   EXPECT_EQ(PointAt(0), Point(0, 0));
 }
 
-TEST_F(CurveLimits, ANegativeDepthIsSweptDownwards) {
+TEST_F(CurveLimits, ANegativeDepthIsSweptDownward) {
   design.Place.DepthofCover = -400;
 
   Generate(1);
@@ -182,7 +182,7 @@ TEST_F(CurveLimits, AStabilityFactorOfZeroIsOnePoint) {
   EXPECT_EQ(PointAt(0), Point(0, 3));
 }
 
-TEST_F(CurveLimits, ASpanOfZeroGoesByOnes) {
+TEST_F(CurveLimits, ASpanOfZeroHasAStepOfOne) {
   design.Place.ActualSpanDiagonals = 0;
 
   Generate(3);
@@ -194,7 +194,7 @@ TEST_F(CurveLimits, ASpanOfZeroGoesByOnes) {
   EXPECT_EQ(sweep.Notice, std::nullopt);
 }
 
-TEST_F(CurveLimits, ANegativeSpanKeepsItsLimitsAndGoesByTheStepOfThree) {
+TEST_F(CurveLimits, ANegativeSpanKeepsItsLimitsAndHasTheStepOfASpanOfThree) {
   design.Place.ActualSpanDiagonals = -5;
 
   Generate(3);
@@ -207,14 +207,14 @@ TEST_F(CurveLimits, ANegativeSpanKeepsItsLimitsAndGoesByTheStepOfThree) {
   EXPECT_EQ(design.Place.ActualSpanDiagonals, -5.0F);
 }
 
-// So far from zero the steps are rounded down, and more of them fit in than there are columns.
+// For such large numbers the steps are rounded down, so that more of them fit than there are columns.
 TEST_F(CurveLimits, ASpanWithMorePointsThanColumnsFails) {
   design.Place.ActualSpanDiagonals = -3000000;
 
   EXPECT_EQ(ErrorOf(3), 9);
 }
 
-TEST_F(CurveLimits, ASpanWithOnePointMoreThanColumnsFailsAndOneThatFillsThemWorks) {
+TEST_F(CurveLimits, ASpanWithAsManyPointsAsColumnsIsTheLargestThatWorks) {
   design.Place.ActualSpanDiagonals = -1048572.5F;
   EXPECT_EQ(ErrorOf(3), 9);
 
@@ -270,7 +270,7 @@ struct LongRow {
   Single angle;
 };
 
-TEST_F(CurveLimits, AsManyColumnsAsCanBeNumberedWork) {
+TEST_F(CurveLimits, ACurveOf32767ColumnsWorks) {
   const auto columnsOf = [this](const LongRow& row) {
     design.Place.EntryWidth = row.width;
     design.Entries.RockFallAngle = row.angle;
@@ -284,7 +284,7 @@ TEST_F(CurveLimits, AsManyColumnsAsCanBeNumberedWork) {
   EXPECT_EQ(columnsOf({7, 16384.5F, 0.01F}), 32767U);
 }
 
-TEST_F(CurveLimits, MoreColumnsThanCanBeNumberedFail) {
+TEST_F(CurveLimits, ACurveOfMoreThan32767ColumnsFails) {
   for (const auto& [index, width, angle] :
        {LongRow{4, 20, 0.03F}, LongRow{5, 27305, 30}, LongRow{5, 50000, 30}, LongRow{7, 16385, 0.01F}}) {
     design.Place.EntryWidth = width;

@@ -1,4 +1,4 @@
-// The ten curves of the designs that a new project starts with, and what they leave alone.
+// The ten curves of the initial designs of a new project.
 #include "engine/curves.h"
 
 #include <gmock/gmock.h>
@@ -61,17 +61,17 @@ struct Curves : CurveBench {
   }
 };
 
-TEST_F(Curves, OfTheEnglishDefaults) {
+TEST_F(Curves, AreComputedForTheEnglishDefaults) {
   for (const auto& row : EnglishRows) ExpectCurve(row);
 }
 
-TEST_F(Curves, OfTheMetricDefaultsAreInMetricUnits) {
+TEST_F(Curves, AreInMetricUnitsForTheMetricDefaults) {
   UseMetricDesign();
 
   for (const auto& row : MetricRows) ExpectCurve(row);
 }
 
-TEST_F(Curves, OfTheRatingGoByTwos) {
+TEST_F(Curves, OfTheRatingHaveAStepOfTwo) {
   Generate(0);
 
   EXPECT_THAT(sweep.Points.CurvePoints[0], ElementsAre(35, 37, 39, 41, 43, 45, 47, 49, 51, 0));
@@ -79,7 +79,7 @@ TEST_F(Curves, OfTheRatingGoByTwos) {
                                                        7.6068387F, 6.36520863F, 5.21234417F, 4.13639688F, 0));
 }
 
-TEST_F(Curves, OfTheDepthGoByTenthsOfIt) {
+TEST_F(Curves, OfTheDepthHaveAStepOfATenthOfIt) {
   Generate(1);
 
   EXPECT_THAT(sweep.Points.CurvePoints[0], ElementsAre(200, 240, 280, 320, 360, 400, 440, 480, 520, 560, 600, 0));
@@ -88,7 +88,7 @@ TEST_F(Curves, OfTheDepthGoByTenthsOfIt) {
                           8.4202528F, 8.7773571F, 9.10798454F, 9.41579056F, 0));
 }
 
-// The sum of tenths as a Single creeps past 1.5, so the last point is missing.
+// The sum of tenths in single precision is slightly above 1.5, so the last point is missing.
 TEST_F(Curves, OfTheStabilityFactorEndOneStepBeforeTheirLimit) {
   Generate(2);
 
@@ -97,27 +97,27 @@ TEST_F(Curves, OfTheStabilityFactorEndOneStepBeforeTheirLimit) {
                           1.20000017F, 1.30000019F, 1.40000021F, 0, 0));
 }
 
-TEST_F(Curves, OfTheSpanGoByTenthsOfIt) {
+TEST_F(Curves, OfTheSpanHaveAStepOfATenthOfIt) {
   Generate(3);
 
   EXPECT_THAT(sweep.Points.CurvePoints[0], ElementsAre(50, 56, 62, 68, 0));
   EXPECT_THAT(sweep.Points.CurvePoints[1], ElementsAre(5.28252697F, 6.6264019F, 8.12241364F, 9.77056122F, 0));
 }
 
-TEST_F(Curves, OfTheRatingTellThatTheyWereTrimmed) {
+TEST_F(Curves, OfTheRatingReportThatTheyWereTrimmed) {
   Generate(0);
 
   EXPECT_EQ(sweep.Notice, CurveNotice::RatingLimitTrimmed);
 }
 
-TEST_F(Curves, OtherThanOfTheRatingTellNothing) {
+TEST_F(Curves, OtherThanOfTheRatingReportNothing) {
   for (Integer index = 1; index < 10; ++index) {
     Generate(index);
     EXPECT_EQ(sweep.Notice, std::nullopt) << index;
   }
 }
 
-TEST_F(Curves, OfIntersectionsUseTheEntrysHeightAndAngle) {
+TEST_F(Curves, OfIntersectionsUseTheHeightAndAngleOfTheEntry) {
   design.Intersections.RockLoadHeight = 3;
   design.Intersections.RockFallAngle = 10;
   design.Intersections.RockFallAngleXcut = 50;
@@ -127,8 +127,8 @@ TEST_F(Curves, OfIntersectionsUseTheEntrysHeightAndAngle) {
   EXPECT_EQ(PointAt(40), Point(60, 183.050446F));
 }
 
-// At the narrowest entry the angle allows 12.1 ft; the wider ones would allow the 15 ft again.
-TEST_F(Curves, OfTheWidthKeepAHeightThatWasLimitedOnce) {
+// At the narrowest entry the angle allows 12.1 ft. At wider entries it would allow the 15 ft again.
+TEST_F(Curves, OfTheWidthKeepALimitedHeight) {
   design.Entries.RockLoadHeight = 15;
 
   Generate(5);
@@ -148,7 +148,7 @@ TEST_F(Curves, OfTheAngleAreLimitedToTheTriangle) {
   EXPECT_EQ(LastPoint(), Point(45, 8.10000038F));
 }
 
-TEST_F(Curves, LeaveTheDesignAsItIs) {
+TEST_F(Curves, DoNotChangeTheDesign) {
   design.Entries.RockLoadHeight = 15;
 
   for (Integer index = 0; index < 10; ++index) Generate(index);
@@ -162,7 +162,7 @@ TEST_F(Curves, LeaveTheDesignAsItIs) {
   EXPECT_EQ(design.Entries.RockFallAngle, 30.0F);
 }
 
-TEST(CurveSubjects, NameTheInputThatIsSweptAndTheFigure) {
+TEST(CurveSubjects, NameTheSweptInputAndTheFigure) {
   const CurveSubject& depth = SubjectOfCurve(1);
   const CurveSubject& angle = SubjectOfCurve(9);
 
@@ -174,7 +174,7 @@ TEST(CurveSubjects, NameTheInputThatIsSweptAndTheFigure) {
   EXPECT_EQ(angle.Figure, CurveFigure::IntersectionLoad);
 }
 
-TEST(CurveSubjects, AreThoseOfTheTenCurvesAlone) {
+TEST(CurveSubjects, OutsideTheTenCurvesAreRefused) {
   EXPECT_EQ(ErrorNumberOf([] { SubjectOfCurve(-1); }), 9);
   EXPECT_EQ(ErrorNumberOf([] { SubjectOfCurve(10); }), 9);
 }

@@ -1,4 +1,4 @@
-// What the tests of this folder share: the built-in lists and the design that a new project starts with.
+// The built-in lists and the designs of a new project, for the tests of this folder.
 #pragma once
 
 #include "design/catalogs.h"
@@ -17,7 +17,7 @@ inline Catalogs BuiltInLists() {
   return lists;
 }
 
-// Grades as yield or as ultimate strengths, by the built-in lists.
+// Returns a basis with the built-in lists.
 inline GradeBasis Grades(StrengthBasis strengthMode) {
   static const Catalogs lists = BuiltInLists();
   return {strengthMode, lists};
@@ -50,7 +50,7 @@ inline Design MetricDesign() {
   return design;
 }
 
-// Every analysis and every system in use.
+// Returns a design with all analyses and all systems in use.
 inline Design FullDesign() {
   Design design = EnglishDesign();
   design.Primary.Analysed = design.Entries.Analysed = design.Intersections.Analysed = 1;

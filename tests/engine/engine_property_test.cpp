@@ -1,4 +1,4 @@
-// What holds for every plausible design.
+// Properties of every plausible design.
 #include <gtest/gtest.h>
 #include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
@@ -12,7 +12,7 @@
 namespace orby::test {
 namespace {
 
-// A typed value: lowest..highest in hundredths.
+// Generates a typed value in lowest..highest, in hundredths.
 rc::Gen<Single> Typed(int lowest, int highest) {
   return rc::gen::map(rc::gen::inRange(lowest * 100, highest * 100 + 1),
                       [](int hundredths) { return static_cast<Single>(hundredths) / 100; });
@@ -73,7 +73,7 @@ RC_GTEST_PROP(RockLoadProperty, IsNeverNegative, ()) {
   RC_ASSERT(RockLoadEntry(rock).Load >= 0);
 }
 
-RC_GTEST_PROP(RockLoadProperty, OfTheDialogIsThatOfTheCurvesForOneAngleBelowItsLimit, ()) {
+RC_GTEST_PROP(RockLoadProperty, IsTheSameInTheDialogAndTheCurvesForEqualAnglesBelowTheLimit, ()) {
   const Single angle = *Typed(0, 45);
   const RockInputs rock{*Typed(100, 200), *Typed(1, 7), angle, angle, *Typed(15, 25), *Typed(60, 80)};
   const WorkingRock ofCurves{Pcf(rock.UnitWeight), Feet(rock.Height), FallAngle(angle), Feet(rock.Width),
@@ -86,7 +86,7 @@ RC_GTEST_PROP(RockLoadProperty, OfTheDialogIsThatOfTheCurvesForOneAngleBelowItsL
   RC_ASSERT(AgreesWithin(1E-6, intersection, *IntersectionRockLoad(rock, English)));
 }
 
-RC_GTEST_PROP(LimitedHeightProperty, IsNeverAboveTheOneAskedFor, ()) {
+RC_GTEST_PROP(LimitedHeightProperty, IsNeverAboveTheGivenHeight, ()) {
   const Single asked = *Typed(0, 100);
   const FallAngle angle(*Typed(0, 89));
 
@@ -112,7 +112,7 @@ RC_GTEST_PROP(StabilityFactorProperty, TimesTheRockLoadIsTheCapacity, ()) {
   }
 }
 
-RC_GTEST_PROP(UnitsProperty, AMetricDesignIsSuggestedTheSameSupport, ()) {
+RC_GTEST_PROP(UnitsProperty, AMetricDesignHasTheSameSuggestions, ()) {
   const SiteInputs feet{*Typed(1, 3), static_cast<Single>(*rc::gen::inRange(0, 101)), *Typed(1, 5000), *Typed(41, 80),
                         *Typed(10, 40)};
   const SiteInputs metres{feet.StabilityFactor, feet.CMRR, InMetres(feet.Depth), InMetres(feet.Span),
@@ -139,7 +139,7 @@ RC_GTEST_PROP(UnitsProperty, AMetricPatternHasTheSamePsup, ()) {
   RC_ASSERT(AgreesWithin(1E-5, *ActualLive(feet, English, Grades(Yield)), *ActualLive(metres, Metric, Grades(Yield))));
 }
 
-// The factors of weight and of force do not quite fit together: loads agree to a hundredth of a percent.
+// The factors of weight and of force differ slightly, so that loads agree only within a hundredth of a percent.
 RC_GTEST_PROP(UnitsProperty, AMetricDesignHasTheSameRockLoad, ()) {
   const Single angle = *Typed(0, 60);
   const RockInputs feet{*Typed(100, 180), *Typed(1, 20), angle, angle, *Typed(10, 40), *Typed(41, 80)};

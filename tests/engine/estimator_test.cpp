@@ -63,7 +63,7 @@ constexpr Entry Entries[] = {
     {5, 6, "Manual Setting", "35"},
 };
 
-TEST(Estimator, RatesEveryRockTypeOfEveryCoalfield) {
+TEST(Estimator, HasARatingForEveryRockTypeOfEveryCoalfield) {
   ASSERT_EQ(std::size(Entries), 46U);
   for (const auto& [region, row, name, cmrr] : Entries) {
     SCOPED_TRACE(testing::Message() << "region " << region << ", row " << row);
@@ -89,7 +89,7 @@ TEST(Estimator, NamesItsCoalfields) {
   EXPECT_EQ(RegionNames, names);
 }
 
-TEST(Estimator, HasNoNameBehindTheLastRowOfACoalfield) {
+TEST(Estimator, HasNoNameOutsideTheRowsOfACoalfield) {
   EXPECT_EQ(RockTypeName(4, 7), "");
   EXPECT_EQ(RockTypeName(5, 7), "");
   EXPECT_EQ(RockTypeName(0, 8), "");

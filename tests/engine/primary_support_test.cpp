@@ -18,7 +18,7 @@ SiteInputs With(SiteInputs site, Single SiteInputs::*member, Single value) {
 
 constexpr WorkingSite SiteWith(Feet span) { return {1, 45, Feet(400), span, Feet(20)}; }
 
-TEST(Suggestion, OfTheEnglishDefaults) {
+TEST(Suggestion, IsComputedForTheEnglishDefaults) {
   const Suggestion suggestion = SuggestSupport(SiteWith(Feet(60)), English);
 
   EXPECT_EQ(suggestion.SuggestedSpan.Value, 63.2F);
@@ -27,7 +27,7 @@ TEST(Suggestion, OfTheEnglishDefaults) {
   EXPECT_EQ(suggestion.SugLength.Value, 4.89856911F);
 }
 
-TEST(Suggestion, JudgesTheSpanAgainstBothItsLimits) {
+TEST(Suggestion, WarnsOfASpanOutsideItsTwoLimits) {
   const WorkingSite fine = SiteWith(Feet(60));
   const WorkingSite tooLarge = SiteWith(Feet(63.3F));
   const WorkingSite tooSmall = SiteWith(Feet(31));
@@ -49,7 +49,7 @@ TEST(Suggestion, DoesNotWarnOfASpanAtItsLimits) {
   EXPECT_FALSE(SuggestSupport(atSmallest, English).SpanAndWidthMismatch(atSmallest));
 }
 
-TEST(WorkingUnits, AreEnglishWhateverTheProjectsAre) {
+TEST(WorkingUnits, AreEnglishForProjectsOfEitherSystem) {
   EXPECT_EQ(InFeet(150, Metric).Value, 492.125977F);
   EXPECT_EQ(InFeet(400, English).Value, 400.0F);
   EXPECT_EQ(InEnglishUnits({20, 520}, Metric).Diameter.Value, 0.787401557F);
@@ -58,7 +58,7 @@ TEST(WorkingUnits, AreEnglishWhateverTheProjectsAre) {
   EXPECT_EQ(InEnglishUnits({0.75F, 75}, English).Grade.Value, 75.0F);
 }
 
-TEST(LiveSuggestion, OfTheEnglishDefaults) {
+TEST(LiveSuggestion, IsComputedForTheEnglishDefaults) {
   const auto live = SuggestLive(EnglishSite, English);
 
   ASSERT_TRUE(live);
@@ -69,7 +69,7 @@ TEST(LiveSuggestion, OfTheEnglishDefaults) {
   EXPECT_FALSE(live->SpanAndWidthMismatch);
 }
 
-TEST(LiveSuggestion, OfTheMetricDefaultsIsInMetres) {
+TEST(LiveSuggestion, IsInMetresForTheMetricDefaults) {
   const auto live = SuggestLive(MetricSite, Metric);
 
   ASSERT_TRUE(live);
@@ -78,7 +78,7 @@ TEST(LiveSuggestion, OfTheMetricDefaultsIsInMetres) {
   EXPECT_EQ(live->SugLength, 1.68934369F);
 }
 
-TEST(LiveSuggestion, OfAWideWeakIntersectionWarnsInEnglishDesigns) {
+TEST(LiveSuggestion, WarnsOfTheSpanInEnglishDesigns) {
   const auto tooLarge = SuggestLive({1.3F, 55, 900, 70, 18}, English);
   const auto mismatch = SuggestLive({1, 45, 400, 31, 20}, English);
 
@@ -92,7 +92,7 @@ TEST(LiveSuggestion, OfAWideWeakIntersectionWarnsInEnglishDesigns) {
   EXPECT_TRUE(mismatch->SpanAndWidthMismatch);
 }
 
-TEST(LiveSuggestion, NeverWarnsInMetricDesigns) {
+TEST(LiveSuggestion, DoesNotWarnOfTheSpanInMetricDesigns) {
   const auto tooLarge = SuggestLive(With(MetricSite, &SiteInputs::Span, 25), Metric);
   const auto tooSmall = SuggestLive(With(MetricSite, &SiteInputs::Span, 12), Metric);
 
@@ -118,7 +118,7 @@ void ExpectGuards(const SiteInputs& site, UnitSystem units, std::initializer_lis
   }
 }
 
-TEST(LiveSuggestion, IsGuardedInEnglishDesigns) {
+TEST(LiveSuggestion, IsMissingForImplausibleInputInEnglishDesigns) {
   ExpectGuards(EnglishSite, English,
                {{&SiteInputs::StabilityFactor, 0, false},
                 {&SiteInputs::StabilityFactor, 0.99F, false},
@@ -138,7 +138,7 @@ TEST(LiveSuggestion, IsGuardedInEnglishDesigns) {
                 {&SiteInputs::Depth, 0.01F, true}});
 }
 
-TEST(LiveSuggestion, IsGuardedInMetricDesigns) {
+TEST(LiveSuggestion, IsMissingForImplausibleInputInMetricDesigns) {
   ExpectGuards(MetricSite, Metric,
                {{&SiteInputs::StabilityFactor, 0.99F, false},
                 {&SiteInputs::StabilityFactor, 1, true},
@@ -169,19 +169,19 @@ PatternInputs With(PatternInputs pattern, Single PatternInputs::*member, Single 
   return pattern;
 }
 
-TEST(LivePsup, OfTheDefaults) {
+TEST(LivePsup, IsComputedForTheDefaults) {
   EXPECT_EQ(ActualLive(EnglishPattern, English, Grades(Yield)), 9.94019508F);
   EXPECT_EQ(ActualLive(MetricPattern, Metric, Grades(Yield)), 12.0364599F);
 }
 
-TEST(LivePsup, OfUltimateGradesIsOnYield) {
+TEST(LivePsup, UsesTheYieldStrengthOfUltimateGrades) {
   EXPECT_EQ(ActualLive(With(EnglishPattern, &PatternInputs::Grade, 100), English, Grades(Ultimate)), 9.94019508F);
   EXPECT_EQ(ActualLive(With(EnglishPattern, &PatternInputs::Grade, 110), English, Grades(Ultimate)), 11.0446622F);
-  // 690 MPa are 100.08 ksi, which the English list does not have.
+  // 690 MPa are 100.08 ksi, which is not in the English list.
   EXPECT_EQ(ActualLive(With(MetricPattern, &PatternInputs::Grade, 690), Metric, Grades(Ultimate)), 11.5396614F);
 }
 
-TEST(LivePsup, OfTheThickestBoltsAndTheFullestRows) {
+TEST(LivePsup, IsComputedForTheThickestBoltsAndTheFullestRows) {
   EXPECT_EQ(ActualLive(With(EnglishPattern, &PatternInputs::BoltsPerRow, 10), English, Grades(Yield)), 24.8504868F);
   EXPECT_EQ(ActualLive(With(EnglishPattern, &PatternInputs::Diameter, 1.25F), English, Grades(Yield)), 27.6116543F);
   EXPECT_EQ(ActualLive(With(MetricPattern, &PatternInputs::BoltsPerRow, 10), Metric, Grades(Yield)), 30.0911503F);
@@ -203,7 +203,7 @@ void ExpectGuards(const PatternInputs& pattern, UnitSystem units, std::initializ
   }
 }
 
-TEST(LivePsup, IsGuardedInEnglishDesigns) {
+TEST(LivePsup, IsMissingForImplausibleInputInEnglishDesigns) {
   ExpectGuards(EnglishPattern, English,
                {{&PatternInputs::BoltsPerRow, -1, false},
                 {&PatternInputs::BoltsPerRow, 0, false},
@@ -231,7 +231,7 @@ TEST(LivePsup, IsGuardedInEnglishDesigns) {
                 {&PatternInputs::EntryWidth, 0.01F, true}});
 }
 
-TEST(LivePsup, IsGuardedInMetricDesigns) {
+TEST(LivePsup, IsMissingForImplausibleInputInMetricDesigns) {
   ExpectGuards(MetricPattern, Metric,
                {{&PatternInputs::BoltsPerRow, 0, false},
                 {&PatternInputs::BoltsPerRow, 10, true},

@@ -1,4 +1,4 @@
-// Numbers of different kinds cannot be taken for one another, neither in a call nor in a description of a pattern.
+// A number of one unit cannot be used as a number of another unit.
 #include "engine/quantities.h"
 
 #include <gtest/gtest.h>
@@ -27,10 +27,10 @@ static_assert(!GiveCapacity<Single, Single>);
 static_assert(!std::is_convertible_v<Single, Feet> && !std::is_convertible_v<Feet, Single>);
 static_assert(!std::is_constructible_v<Inches, Feet> && !std::is_assignable_v<Inches&, Feet>);
 
-// A kind costs nothing: it is handed on like the number itself.
+// A unit costs nothing: a quantity is passed like a plain number.
 static_assert(sizeof(Feet) == sizeof(Single) && std::is_trivially_copyable_v<Feet>);
 
-// What the compiler says of a statement that uses the relations; nothing when it takes it.
+// Returns the messages of the compiler for a statement that uses the relations. Empty when it compiles.
 std::string ComplaintOf(const std::string& statement) {
   const std::string program = "#include \"engine/formulas.h\"\nusing namespace orby;\nvoid Use() { " + statement + " }";
   const std::string command =
@@ -43,7 +43,7 @@ std::string ComplaintOf(const std::string& statement) {
   return taken ? "" : said + "refused";
 }
 
-TEST(ALengthForADiameter, DoesNotCompile) {
+TEST(ALengthUsedAsADiameter, DoesNotCompile) {
   EXPECT_EQ(ComplaintOf("CapacityFromGrade(Ksi(75), Inches(0.75F)); BoltPattern{.Diameter = Inches(0.75F)};"), "");
 
   for (const char* mistake : {"CapacityFromGrade(Ksi(75), Feet(6));", "BoltPattern{.Diameter = Feet(6)};"}) {

@@ -1,4 +1,4 @@
-// Weight of the rock that may fall, and the heights that the fall angle allows.
+// The weight of the rock that may fall, and the heights that the fall angle allows.
 #include <gtest/gtest.h>
 
 #include "engine/designs.h"
@@ -44,7 +44,7 @@ TEST(RockLoadOfAnEntry, IsTheTrapezoidOrTheTriangleThatTheAngleAllows) {
   }
 }
 
-TEST(RockLoadOfAnEntry, IsNoneForANegativeWidthUnderVerticalSides) {
+TEST(RockLoadOfAnEntry, IsZeroForANegativeWidthAndVerticalSides) {
   const LimitedLoad limited = RockLoadEntry(EntryRock(FallAngle(0), Feet(-20), Pcf(162), Feet(8)));
 
   EXPECT_EQ(limited.Load, 0.0F);
@@ -66,18 +66,18 @@ constexpr IntersectionRow IntersectionRows[] = {
     {CrossingRock(FallAngle(30), Feet(60), Pcf(162), Feet(-2)), 0},
 };
 
-// The sides meet in a point to the last bit: the height is just not too large.
+// The sides meet exactly in a point, so the height is the greatest possible.
 constexpr IntersectionRow ExactPyramid{CrossingRock(FallAngle(60), Feet(39.5223961F), Pcf(162), Feet(4.03373766F)),
                                        21.2651253F};
 
-TEST(RockLoadOfAnIntersection, IsAFrustumAndNoneAboveTheLimitOfTheAngle) {
+TEST(RockLoadOfAnIntersection, IsAFrustumAndZeroAboveTheLimitOfTheAngle) {
   for (const auto& row : IntersectionRows) {
     EXPECT_EQ(RockLoadIntersection(row.rock), row.load)
         << "angle " << row.rock.Angle.Value << ", height " << row.rock.Height.Value;
   }
 }
 
-TEST(RockLoadOfAnIntersection, IsAPyramidWhereTheSidesJustMeet) {
+TEST(RockLoadOfAnIntersection, IsAPyramidWhenTheSidesJustMeet) {
   WorkingRock tooHigh = ExactPyramid.rock;
   tooHigh.Height.Value *= 1.001F;
 
@@ -112,7 +112,7 @@ constexpr LimitRow LimitRows[] = {
     {{1000, 60, FallAngle(1), FallAngle(30)}, 607.651794F},
 };
 
-TEST(GreatestHeight, OverAnIntersectionFollowsTheEntrysAngleAlone) {
+TEST(GreatestHeight, OverAnIntersectionDependsOnlyOnTheEntryAngle) {
   for (const auto& row : LimitRows) {
     EXPECT_EQ(MaxRockHeightIntersection(row.rock), row.limited)
         << "height " << row.rock.Height << ", angles " << row.rock.EntryAngle.Value << " and "
@@ -120,7 +120,7 @@ TEST(GreatestHeight, OverAnIntersectionFollowsTheEntrysAngleAlone) {
   }
 }
 
-TEST(GreatestHeight, OverAnIntersectionFailsWhenOnlyTheCrosscutsSidesSlope) {
+TEST(GreatestHeight, OverAnIntersectionFailsWhenOnlyTheCrosscutHasAnAngle) {
   EXPECT_EQ(ErrorNumberOf([] {
               static_cast<void>(MaxRockHeightIntersection({30, 60, FallAngle(0), FallAngle(30)}));
             }),

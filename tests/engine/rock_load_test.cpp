@@ -1,4 +1,4 @@
-// The rock loads that the dialog judges secondary support against, and when there are none.
+// The rock loads of the dialog, and the inputs for which there is none.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -24,7 +24,7 @@ RockInputs Rock(Single height, Single entryAngle, Single crosscutAngle) {
   return {162, height, entryAngle, crosscutAngle, 20, 60};
 }
 
-TEST(UnitWeight, IsPlausibleFromItsLimitOn) {
+TEST(UnitWeight, IsPlausibleAtItsLimitAndAbove) {
   EXPECT_FALSE(UnitWeightIsPlausible(99.99F, English));
   EXPECT_TRUE(UnitWeightIsPlausible(100, English));
   EXPECT_FALSE(UnitWeightIsPlausible(25, English));
@@ -32,7 +32,7 @@ TEST(UnitWeight, IsPlausibleFromItsLimitOn) {
   EXPECT_TRUE(UnitWeightIsPlausible(15, Metric));
 }
 
-// What entries and intersections have in common.
+// Checks of the input that entries and intersections share.
 struct Guard {
   Single RockInputs::*member;
   Single value;
@@ -48,14 +48,14 @@ const std::vector<Guard> Guards{
     {&RockInputs::Width, 0, false},        {&RockInputs::Width, 0.01F, true},
 };
 
-// The crosscut's angle counts in intersections alone; a value that stops those leaves an entry's load.
+// Only the load of an intersection depends on the crosscut angle.
 const std::vector<Guard> CrosscutGuards{
     {&RockInputs::CrosscutAngle, -0.01F, false}, {&RockInputs::CrosscutAngle, 0, true},
     {&RockInputs::CrosscutAngle, 60, true},      {&RockInputs::CrosscutAngle, 90, false},
     {&RockInputs::CrosscutAngle, 200, false},
 };
 
-// A place by its load, and the loads expected there, of English and of Metric rock.
+// The load function of entries or intersections, and its expected loads for English and Metric rock.
 struct RockCase {
   const char* name;
   std::optional<Single> (*loadOf)(const RockInputs& rock, UnitSystem units);
@@ -72,29 +72,29 @@ class RockLoad : public testing::TestWithParam<RockCase> {
   static auto Metric(const RockInputs& rock) { return GetParam().loadOf(rock, orby::Metric); }
 };
 
-TEST_P(RockLoad, OfTheDefaults) {
+TEST_P(RockLoad, IsComputedForTheDefaults) {
   EXPECT_EQ(English(EnglishRock), GetParam().ofTheDefaults[0]);
   EXPECT_EQ(Metric(MetricRock), GetParam().ofTheDefaults[1]);
 }
 
-TEST_P(RockLoad, OfTheLightestRockTaken) {
+TEST_P(RockLoad, IsComputedForTheLightestPlausibleRock) {
   EXPECT_EQ(English(With(EnglishRock, &RockInputs::UnitWeight, 100)), GetParam().ofTheLightest[0]);
   EXPECT_EQ(Metric(With(MetricRock, &RockInputs::UnitWeight, 15)), GetParam().ofTheLightest[1]);
 }
 
-TEST_P(RockLoad, IsNoneOfRockThatIsTooLight) {
+TEST_P(RockLoad, IsMissingForTooLightRock) {
   EXPECT_FALSE(English(With(EnglishRock, &RockInputs::UnitWeight, 99)));
   EXPECT_FALSE(Metric(With(MetricRock, &RockInputs::UnitWeight, 14.99F)));
 }
 
-TEST_P(RockLoad, IsGuardedInBothUnitSystems) {
+TEST_P(RockLoad, IsMissingForImplausibleInputInBothUnitSystems) {
   for (const auto& [member, value, computes] : Guards) {
     EXPECT_EQ(English(With(EnglishRock, member, value)).has_value(), computes) << "English " << value;
     EXPECT_EQ(Metric(With(MetricRock, member, value)).has_value(), computes) << "Metric " << value;
   }
 }
 
-TEST_P(RockLoad, IsGuardedAgainstTheCrosscutsAngleWhereThereIsOne) {
+TEST_P(RockLoad, IsMissingForAnImplausibleCrosscutAngleInIntersections) {
   for (const auto& [member, value, computes] : CrosscutGuards) {
     const bool isThere = computes || !GetParam().hasCrosscut;
     EXPECT_EQ(English(With(EnglishRock, member, value)).has_value(), isThere) << "English " << value;
@@ -109,7 +109,7 @@ INSTANTIATE_TEST_SUITE_P(
         RockCase{"Intersections", IntersectionRockLoad, {183.050446F, 2212.88281F}, {112.994102F, 1327.72961F}, true}),
     [](const auto& place) { return place.param.name; });
 
-TEST(EntryRock, UnderVerticalSidesHasTheFullWidth) {
+TEST(EntryRock, WithVerticalSidesHasTheFullWidth) {
   EXPECT_EQ(EntryRockLoad(With(EnglishRock, &RockInputs::EntryAngle, 0), English), 12.96F);
   EXPECT_EQ(EntryRockLoad(With(MetricRock, &RockInputs::EntryAngle, 0), Metric), 465.0F);
 }
@@ -128,47 +128,45 @@ TEST(EntryRock, JustBelowTheLimitOfTheAngleIsStillATrapezoid) {
   EXPECT_EQ(EntryRockLoad(With(EnglishRock, &RockInputs::Height, 17.3205F), English), 14.0296116F);
 }
 
-TEST(EntryRock, DoesNotLookAtTheIntersection) {
+TEST(EntryRock, DoesNotDependOnTheIntersection) {
   const RockInputs rock{162, 8, 30, -10, 20, 0};
 
   EXPECT_EQ(EntryRockLoad(rock, English), 9.96701622F);
 }
 
-TEST(EntryRock, TooLittleToDivideByIsNone) { EXPECT_FALSE(EntryRockLoad({162, 1E-30F, 0, 0, 1E-30F, 0}, English)); }
+TEST(EntryRock, TooSmallForASingleHasNoLoad) { EXPECT_FALSE(EntryRockLoad({162, 1E-30F, 0, 0, 1E-30F, 0}, English)); }
 
 TEST(IntersectionRock, AboveTheLimitOfTheAnglesIsAPyramid) {
   EXPECT_EQ(IntersectionRockLoad(Rock(30, 30, 30), English), 223.209747F);
   EXPECT_EQ(IntersectionRockLoad(With(MetricRock, &RockInputs::Height, 10), Metric), 2551.55176F);
 }
 
-TEST(IntersectionRock, FallsInAtEachSidesOwnAngle) {
+TEST(IntersectionRock, UsesTheAngleOfEachSide) {
   EXPECT_EQ(IntersectionRockLoad(Rock(8, 30, 20), English), 199.703506F);
   EXPECT_EQ(IntersectionRockLoad(Rock(8, 20, 30), English), 199.703506F);
   EXPECT_EQ(IntersectionRockLoad(Rock(8, 30, 60), English), 92.9329071F);
   EXPECT_EQ(IntersectionRockLoad({25, 3, 45, 20, 6.2F, 20}, Metric), 1907.50989F);
 }
 
-TEST(IntersectionRock, WithDifferentAnglesIsNotWhatACurveShows) {
+TEST(IntersectionRock, WithDifferentAnglesDiffersFromTheCurve) {
   EXPECT_EQ(IntersectionRockLoad(Rock(8, 30, 20), English), 199.703506F);
   EXPECT_EQ(RockLoadIntersection({Pcf(162), Feet(8), FallAngle(30), Feet(20), Feet(60)}), 183.050446F);
 }
 
-TEST(IntersectionRock, IsLimitedByTheEntrysAngleEvenWhenTheCrosscutsIsSteeper) {
+TEST(IntersectionRock, IsLimitedByTheEntryAngleOnly) {
   EXPECT_EQ(IntersectionRockLoad(Rock(20, 30, 20), English), 264.457245F);
   EXPECT_EQ(IntersectionRockLoad(Rock(20, 40, 20), English), 197.063324F);
   EXPECT_EQ(IntersectionRockLoad(Rock(20, 20, 40), English), 165.9926F);
 }
 
-TEST(IntersectionRock, UnderVerticalSidesIsABlock) {
+TEST(IntersectionRock, WithVerticalSidesIsABlock) {
   EXPECT_EQ(IntersectionRockLoad(Rock(8, 0, 0), English), 291.600006F);
   EXPECT_EQ(IntersectionRockLoad(Rock(40, 0, 0), English), 1458.0F);
 }
 
-TEST(IntersectionRock, ThatWouldWeighLessThanNothingIsNone) {
-  EXPECT_FALSE(IntersectionRockLoad(Rock(8, 30, 89), English));
-}
+TEST(IntersectionRock, WithANegativeWeightHasNoLoad) { EXPECT_FALSE(IntersectionRockLoad(Rock(8, 30, 89), English)); }
 
-TEST(IntersectionRock, FailsWhenTheHeightIsLimitedAndTheEntrysSidesAreVertical) {
+TEST(IntersectionRock, FailsWhenTheHeightIsLimitedAndTheEntryAngleIsZero) {
   EXPECT_EQ(IntersectionRockLoad(Rock(8, 0, 45), English), 181.630753F);
   EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(IntersectionRockLoad(Rock(30, 0, 45), English)); }), 11);
 }

@@ -26,7 +26,7 @@ void PrintTo(const Conversion& conversion, std::ostream* out) { *out << conversi
 
 class ConvertedUnits : public testing::TestWithParam<Conversion> {};
 
-TEST_P(ConvertedUnits, FollowTheFactorsOfTheirGroup) {
+TEST_P(ConvertedUnits, UseTheFactorsOfTheirGroup) {
   std::vector<std::string> texts;
   for (const auto& value : ConvertUnits(GetParam().group, GetParam().value, GetParam().unit)) {
     texts.push_back(NumberText(value.value()));
@@ -91,16 +91,16 @@ const Conversion Conversions[] = {
 INSTANTIATE_TEST_SUITE_P(Of, ConvertedUnits, testing::ValuesIn(Conversions),
                          [](const auto& row) { return std::string(row.param.name); });
 
-TEST(AConvertedUnit, IsTheValueItselfWhereItIsTheUnitGiven) {
+TEST(AConvertedValue, IsUnchangedInItsOwnUnit) {
   EXPECT_EQ(ConvertUnits(UnitGroup::LoadGradient, 0.3, 1)[1], 0.3);
   EXPECT_EQ(ConvertUnits(UnitGroup::Stress, 1.1, 3)[3], 1.1);
 }
 
-TEST(AConvertedUnit, OfNothingIsNothing) {
+TEST(AConvertedValue, OfZeroIsZero) {
   EXPECT_THAT(ConvertUnits(UnitGroup::StressGradient, 0, 2), ElementsAre(0, 0, 0, 0));
 }
 
-TEST(AConvertedUnit, BeyondADoubleIsMissingAlone) {
+TEST(AConvertedValue, BeyondTheRangeOfADoubleIsMissing) {
   const auto stress = ConvertUnits(UnitGroup::Stress, 1E306, 0);
 
   EXPECT_THAT(stress, ElementsAre(Optional(1E306), Optional(1E303), Optional(DoubleEq(1.44E308)), Eq(std::nullopt),
@@ -108,7 +108,7 @@ TEST(AConvertedUnit, BeyondADoubleIsMissingAlone) {
       << "the megapascals are reached by way of the pascals";
 }
 
-TEST(AConvertedUnit, ThatTheFirstOneHasNoNumberForIsStillItself) {
+TEST(AConvertedValue, IsUnchangedEvenWhenTheFirstUnitIsMissing) {
   EXPECT_THAT(ConvertUnits(UnitGroup::Length, 1E308, 1),
               ElementsAre(Eq(std::nullopt), Optional(1E308), Eq(std::nullopt), Eq(std::nullopt)));
 }
