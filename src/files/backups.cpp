@@ -26,7 +26,7 @@ constexpr std::uint64_t MostBytes = std::uint64_t{50} * 1024 * 1024;
 
 struct ReasonRow {
   BackupReason Reason;
-  std::string_view Key;  // in the file beside an entry
+  std::string_view Key;  // in the ".about" file
   std::string_view Text;
 };
 
@@ -40,13 +40,13 @@ constexpr std::array Reasons{
 
 const ReasonRow& RowOf(BackupReason reason) { return *std::ranges::find(Reasons, reason, &ReasonRow::Reason); }
 
-// What the name of an entry's file begins with.
+// The start of the file name of an entry.
 struct Stamp {
   Moment Time;
   int Number = 0;
 };
 
-// With points in the time: not every disk takes a colon in a name.
+// Returns the text of a stamp. Its time has points, because some disks do not allow a colon in a name.
 std::string StampText(const Stamp& stamp) {
   constexpr std::size_t Digits = 5;
   std::string time = MomentText(stamp.Time);
@@ -65,7 +65,7 @@ std::optional<int> TakeDigits(std::string_view& text, std::size_t most) {
   return number;
 }
 
-// Takes the stamp from the front of the name.
+// Removes the stamp from the start of the name and returns it.
 std::optional<Stamp> TakeStamp(std::string_view& name) {
   constexpr std::string_view Separators = "-- .. ";
   std::array<int, 7> numbers{};
@@ -81,7 +81,7 @@ std::optional<Stamp> TakeStamp(std::string_view& name) {
   return Stamp{{{year, month, day}, hour, minute, second}, number};
 }
 
-// The project's name as part of a file name: every disk takes it, and it is not too long for one.
+// Returns the name of the project as a part of a file name that every disk allows.
 std::string FileNameOf(std::string_view project) {
   constexpr std::size_t LongestName = 100;
   constexpr std::string_view NotEverywhere = "<>:\"|?*";
@@ -106,7 +106,7 @@ std::string_view WithoutEnding(std::string_view name, std::string_view ending) {
   return name;
 }
 
-// The name of the project in the name of an entry's file.
+// Returns the name of the project from the file name of an entry.
 std::string_view NameIn(const Backup& backup) {
   std::string_view name = NameBehindSeparator(backup.Path);
   TakeStamp(name);
@@ -124,7 +124,7 @@ std::string AboutText(std::string_view project, BackupReason reason) {
   return text;
 }
 
-// What stands beside the entry, as long as it is about this entry.
+// Reads the ".about" file of the entry. Ignores one that does not belong to this entry.
 void ReadAbout(Program& program, Backup& backup) {
   std::string bytes;
   if (!Succeeds([&] { bytes = program.platform.files.ReadFile(AboutPath(program.session, backup)); })) return;
@@ -138,7 +138,7 @@ void ReadAbout(Program& program, Backup& backup) {
   }
 }
 
-// The entries, the newest first, by what their file names tell.
+// Returns the entries with the data of their file names, the newest first.
 std::vector<Backup> EntriesByName(Program& program) {
   std::vector<Backup> entries;
   FileSystem& files = program.platform.files;
@@ -157,7 +157,7 @@ std::vector<Backup> EntriesByName(Program& program) {
   return entries;
 }
 
-// The entries of the project among them, in their order.
+// Returns the entries of the project in the same order.
 std::vector<Backup> EntriesOf(Program& program, const std::vector<Backup>& entries, const std::string& project) {
   std::vector<Backup> own;
   const std::string name = FileNameOf(project);
@@ -169,13 +169,13 @@ std::vector<Backup> EntriesOf(Program& program, const std::vector<Backup>& entri
   return own;
 }
 
-bool Holds(Program& program, const Backup& entry, std::string_view bytes) {
+bool HasBytes(Program& program, const Backup& entry, std::string_view bytes) {
   if (entry.Bytes != bytes.size()) return false;
   std::string kept;
   return Succeeds([&] { kept = program.platform.files.ReadFile(entry.Path); }) && kept == bytes;
 }
 
-// Makes room for one entry more of the project.
+// Removes the oldest entries, so that the store has room for a new entry of the project.
 void RemoveOldest(Program& program, std::vector<Backup> entries, const std::vector<Backup>& own, std::size_t bytes) {
   const auto remove = [&](const Backup& entry) { RemoveBackup(program, entry); };
   if (own.size() >= MostOfOneProject) {
@@ -192,14 +192,14 @@ void RemoveOldest(Program& program, std::vector<Backup> entries, const std::vect
   }
 }
 
-std::optional<std::string> Keep(Program& program, const std::string& project, std::string_view bytes,
-                                BackupReason reason, std::string_view ending) {
+std::optional<std::string> StoreEntry(Program& program, const std::string& project, std::string_view bytes,
+                                      BackupReason reason, std::string_view ending) {
   const std::string folder = BackupFolder(program.session);
   if (folder.empty() || bytes.size() > LargestBackup) return std::nullopt;
   FileSystem& files = program.platform.files;
   const std::vector<Backup> entries = EntriesByName(program);
   const std::vector<Backup> own = EntriesOf(program, entries, project);
-  if (!own.empty() && Holds(program, own.front(), bytes)) return own.front().Path;
+  if (!own.empty() && HasBytes(program, own.front(), bytes)) return own.front().Path;
 
   Backup entry;
   entry.Time = program.platform.clock.Now();
@@ -235,20 +235,20 @@ void MakeBackupFolder(Program& program) {
 
 std::optional<std::string> KeepBackup(Program& program, const std::string& project, std::string_view bytes,
                                       BackupReason reason) {
-  return Keep(program, project, bytes, reason, {});
+  return StoreEntry(program, project, bytes, reason, {});
 }
 
 std::optional<std::string> KeepDropped(Program& program, const UnsavedProject& project, BackupReason reason) {
   const std::string& file = project.CurrentFile;
   const bool hasName = !file.empty() && !SameWithoutCase(file, UntitledName);
   const std::string path = hasName ? program.platform.files.AbsolutePath(file) : file;
-  return Keep(program, path, RecoveryBytes(project), reason, RecoveryEnding);
+  return StoreEntry(program, path, RecoveryBytes(project), reason, RecoveryEnding);
 }
 
 std::optional<std::string> KeepDamaged(Program& program, std::string_view bytes) {
   const std::string project = ProjectNamedIn(bytes);
-  return Keep(program, project.empty() ? std::string(UntitledName) : project, bytes, BackupReason::Damaged,
-              RecoveryEnding);
+  return StoreEntry(program, project.empty() ? std::string(UntitledName) : project, bytes, BackupReason::Damaged,
+                    RecoveryEnding);
 }
 
 void KeepChanges(Program& program, const UnsavedProject& project, BackupReason reason) {

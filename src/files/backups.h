@@ -1,12 +1,13 @@
-// The store of backups: project files as they were before they were overwritten, and designs that were dropped without
-// being saved. It is the folder "Backups" of the program data folder, made when first needed.
+// The store of backups: project files before they were overwritten, and designs that were dropped without being saved.
+// It is the folder "Backups" in the folder for program data, and is made when it is first needed.
 //
-// Each entry is a file with the kept bytes exactly as they were, so that it can also be opened by hand:
-// "2031-03-09 14.05.07 00012 panel3.ORB", the time, a running number and the project's name; ".recovery" follows when
-// the bytes are those of a recovery file. "2031-03-09 14.05.07 00012.about" beside it tells the project's path and why
-// it was kept. The store keeps the newest 20 entries of one project, 500 altogether, and 50 MB; the oldest go first.
+// Each entry is a file with the original bytes, so that the user can open it. Its name, such as "2031-03-09 14.05.07
+// 00012 panel3.ORB", has the time, a running number and the name of the project, followed by ".recovery" if it is a
+// recovery file. The file "2031-03-09 14.05.07 00012.about" contains the path of the project and the reason for the
+// backup. The store keeps at most 20 entries of one project, 500 entries in total and 50 MB, and removes the oldest
+// first.
 //
-// No routine here throws for an error of the disk. Other files in the folder are left alone.
+// No function here throws for an error of the disk. Other files in the folder are not changed.
 #pragma once
 
 #include <cstddef>
@@ -23,48 +24,48 @@ namespace orby {
 
 enum class BackupReason { Overwritten, ChangedOnDisk, Dropped, Declined, Damaged };
 
-// The reason as the user reads it.
+// Returns the text of the reason for the user.
 std::string_view ReasonText(BackupReason reason);
 
-// Longer files are not copied into the store.
+// The largest size of an entry in bytes.
 inline constexpr std::size_t LargestBackup = std::size_t{10} * 1024 * 1024;
 
-// The folder of the store, with a trailing separator; empty when the program has no data folder.
+// Returns the folder of the store with a trailing separator. Empty when the program has no folder for its data.
 std::string BackupFolder(const Session& session);
 
-// Makes the folder of the store, open to its user alone. One that is there already stays as it is.
+// Makes the folder of the store, which only the user can access. An existing folder keeps its permissions.
 void MakeBackupFolder(Program& program);
 
-// Keeps the bytes of a project file that is about to be overwritten or given up. Returns the path of the kept file, or
-// nothing when none could be kept: there is no program data folder, the bytes are more than LargestBackup, or the disk
-// refused. Bytes that equal the newest ones of this project are not kept twice: the path of those is returned.
+// Stores the bytes of a project file before it is overwritten or dropped. Returns the path of the entry. Returns
+// nothing when there is no folder for program data, when there are more bytes than LargestBackup, or when the disk
+// reports an error. Bytes that equal the newest entry of the project are not stored again; the path of that entry is
+// returned.
 std::optional<std::string> KeepBackup(Program& program, const std::string& project, std::string_view bytes,
                                       BackupReason reason);
 
-// Keeps a design that was never saved, as a recovery file. Returns what KeepBackup returns.
+// Stores a design that was not saved, as a recovery file. Returns the same as KeepBackup.
 std::optional<std::string> KeepDropped(Program& program, const UnsavedProject& project, BackupReason reason);
 
-// Keeps the bytes of a recovery file that cannot be read. Returns what KeepBackup returns.
+// Stores the bytes of a recovery file that cannot be read. Returns the same as KeepBackup.
 std::optional<std::string> KeepDamaged(Program& program, std::string_view bytes);
 
-// Keeps the changes of a project that is about to be dropped, and adds a line to the history that says so. If the store
-// cannot take them the program keeps them aside, and one message says where. Does nothing for a program without a data
-// folder.
+// Stores the changes of a project before it is dropped, and adds a line to the history. If that fails, calls
+// Program::KeepAside and shows a message with the path. Does nothing for a program without a folder for its data.
 void KeepChanges(Program& program, const UnsavedProject& project, BackupReason reason = BackupReason::Dropped);
 
 struct Backup {
-  std::string Path;                    // of the kept file
+  std::string Path;                    // of the entry
   std::string Project;                 // path of the project; only its name when the entry is damaged
   std::optional<BackupReason> Reason;  // nothing when the entry is damaged
   Moment Time;
-  int Number = 0;  // higher is newer, whatever the clock said
+  int Number = 0;  // a higher number is newer, whatever the time is
   std::uint64_t Bytes = 0;
 };
 
-// All entries, the newest first. An entry whose ".about" is missing or damaged is listed by its file name.
+// Returns all entries, the newest first. An entry whose ".about" file is missing or damaged is listed by its file name.
 std::vector<Backup> ListBackups(Program& program);
 
-// Removes the entry; false when its file is still there.
+// Removes the entry. Returns false when its file could not be removed.
 bool RemoveBackup(Program& program, const Backup& backup);
 
 }  // namespace orby

@@ -11,7 +11,7 @@ namespace {
 
 enum class Kind { Length, UnitWeight, Diameter, Grade, Force, LineLoad };
 
-// Decimals of the result in each system. The small differences between like fields show in converted files.
+// The decimals of the result in each system. Similar fields differ slightly; this is visible in converted files.
 struct ConversionRow {
   Kind Quantity;
   SingleField Field;

@@ -1,15 +1,15 @@
-// The open project converted between the unit systems.
+// Conversion of the open project between the unit systems.
 #pragma once
 
 #include "core/program.h"
 
 namespace orby {
 
-// Converts every length, force, stress and unit weight of WorkParms into the target system, each from its own stored
-// value and rounded half to even to decimals of its own. The project becomes an unsaved one under its bare name with
-// "Metric_" or "English_" in front.
-// Throws RuntimeError 6 when a value does not fit its field any more; those converted until then stay converted, with
-// nothing of it saved, and the name and the unit system stay as they were.
+// Converts each length, force, stress and unit weight of WorkParms to the target system. Each result is rounded half to
+// even to the decimals of its field. The project becomes unsaved, and its name becomes "Metric_" or "English_" followed
+// by the file name.
+// Throws RuntimeError 6 when a result is outside the range of a Single. The values before it are converted then, but
+// the name and the unit system are not changed.
 void ConvertProject(Program& program, UnitSystem target);
 
 }  // namespace orby

@@ -1,4 +1,4 @@
-// Reading the free description of a project from its file.
+// Reads the description of a project from its file.
 #pragma once
 
 #include <string>
@@ -15,14 +15,14 @@ enum class DescriptionMode {
   Marked = 2,
 };
 
-// Appends the lines up to the end marker to the description, each with its end, and adds their number to the count.
-// Throws as LoadDescription does, with the lines read until then in the description.
+// Appends the lines before the end marker to the description, each with its line end, and adds their number to `count`.
+// Throws the same errors as LoadDescription. The description then contains the lines read before the error.
 void ReadMarkedDescription(ItemReader& reader, std::string& description, Integer& count);
 
-// Reads ProjectDescription and its DescLines from a project file.
-// Behind the first line the description comes as text items, so that a comma ends a line, leading blanks are lost and
-// double quotes disappear.
-// Throws RuntimeError 62 without an end marker, 6 beyond 32766 lines, 7 when it grows longer than LongestItem.
+// Reads ProjectDescription and DescLines from a project file.
+// All lines after the first are read as text items: a comma ends a line, and leading blanks and double quotes are lost.
+// Throws RuntimeError 62 when the end marker is missing, 6 for more than 32766 lines, and 7 when the description is
+// longer than LongestItem.
 void LoadDescription(Project& project, ItemReader& reader, DescriptionMode mode);
 
 }  // namespace orby

@@ -1,4 +1,5 @@
-// Any text as one line of a file: "\r", "\n" and "\\" are a carriage return, a line feed and a backslash.
+// Returns a text as one line of a file: "\r", "
+// " and "\\" represent a carriage return, a line feed and a backslash.
 #pragma once
 
 #include <string>
@@ -8,7 +9,7 @@ namespace orby {
 
 std::string Escaped(std::string_view text);
 
-// The text that the line stands for. A backslash before any other character stands for that character.
+// Returns the text that the line represents. A backslash before any other character represents that character.
 std::string Unescaped(std::string_view line);
 
 }  // namespace orby

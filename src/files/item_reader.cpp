@@ -17,7 +17,7 @@ constexpr char Quote = '"';
 
 }  // namespace
 
-// Bytes that an item may end at.
+// The bytes at which an item may end.
 class ByteSet {
  public:
   consteval explicit ByteSet(std::string_view members) {
@@ -79,7 +79,7 @@ std::string_view ItemReader::TakeQuoted() {
   return item;
 }
 
-// Looks no further than an item may reach: a huge line costs no more than the longest one allowed.
+// Searches no further than LongestItem, so that a longer line takes no more time.
 std::string_view ItemReader::TakeUntil(const ByteSet& delimiters) {
   const std::string_view reach = rest_.substr(0, LongestItem + 1);
   const auto* end = std::find_if(reach.begin(), reach.end(), [&](char byte) { return delimiters.Has(byte); });

@@ -1,9 +1,8 @@
-// Takes the bytes of a text file apart: numbers and texts separated by commas and line ends, and whole lines.
+// Reads a text file item by item: numbers and texts separated by commas and line ends, and whole lines.
 //
-// A line ends with CR LF, LF or CR. The file is UTF-8 when its bytes are valid UTF-8 as a whole, else Windows-1252; an
-// item is decoded on its way out, so that a huge file is never copied.
-// Every read throws RuntimeError 62 when nothing is left of the file, and RuntimeError 7 when what it takes is longer
-// than LongestItem.
+// A line ends with CR LF, LF or CR. The file is read as UTF-8 if all of its bytes are valid UTF-8, otherwise as
+// Windows-1252. Each item is decoded when it is read, so that a huge file is never copied. Each read throws
+// RuntimeError 62 at the end of the file, and RuntimeError 7 when the item is longer than LongestItem.
 #pragma once
 
 #include <cstddef>
@@ -14,28 +13,28 @@
 
 namespace orby {
 
-// Bytes of an item. Nothing a user keeps comes near it; a file that does is no project.
+// The largest size of an item in bytes. A file with a longer item is not a project.
 inline constexpr std::size_t LongestItem = std::size_t{16} * 1024 * 1024;
 
 class ByteSet;
 
 class ItemReader {
  public:
-  // The bytes must outlive the reader. A copy of the reader reads on by itself from where the reader stands.
+  // Requires bytes that outlive the reader. A copy of the reader has a position of its own.
   explicit ItemReader(std::string_view bytes);
 
-  // Numbers: blanks and line ends in front are skipped; the item ends at a blank, comma or line end; blanks and one
-  // comma or line end behind it are taken too. An item that is no number counts as far as it reads as one, else 0.
+  // Read a number. Blanks and line ends before it are skipped. It ends at a blank, comma or line end, and the blanks
+  // and one comma or line end after it are skipped. Of an item that is not a number the part that is one is read, or 0.
   // Throw RuntimeError 6 when the number does not fit the type.
   Integer ReadInteger();
   Single ReadSingle();
 
-  // Text: blanks in front are skipped, line ends are not. A text in double quotes runs to the closing quote, or to the
-  // end of the file when there is none, and blanks behind it are skipped; any other runs to the next comma or line end
-  // and keeps the blanks at its end. One comma or line end behind the text is taken too.
+  // Reads a text. Blanks before it are skipped, line ends are not. A text in double quotes ends at the closing quote,
+  // or at the end of the file when there is none; the blanks after it are skipped. Any other text ends at the next
+  // comma or line end and keeps its trailing blanks. One comma or line end after the text is skipped.
   std::string ReadText();
 
-  // Everything up to the next line end, which is taken too.
+  // Reads up to the next line end, and skips the line end.
   std::string ReadLine();
 
  private:

@@ -9,8 +9,8 @@
 namespace orby {
 namespace {
 
-// A program that reads and writes without a trace in this one.
-Program ProgramBeside(const Program& program) {
+// Returns another program with the same catalogs and settings, so that reading does not change this program.
+Program SeparateProgram(const Program& program) {
   Program beside(program.platform);
   beside.session.catalogs = program.session.catalogs;
   beside.session.defaults = program.session.defaults;
@@ -27,7 +27,7 @@ std::optional<UnsavedProject> ReadProjectFile(const Program& program, std::strin
     const ItemReader reader(bytes);
     const auto format = FormatOf(reader);
     if (!format) return std::nullopt;
-    Program beside = ProgramBeside(program);
+    Program beside = SeparateProgram(program);
     FileNew(beside, false, true);
     beside.project.FileVersion = *format;
     ReadProject(beside.project, reader);
@@ -50,7 +50,7 @@ std::optional<std::string> KeptProjectAsFile(const Program& program, std::string
   const auto project = ReadKeptProject(program, bytes, {});
   if (!project) return std::nullopt;
   if (!IsRecoveryFile(bytes)) return std::string(bytes);
-  Program beside = ProgramBeside(program);
+  Program beside = SeparateProgram(program);
   RestoreProject(beside.project, *project);
   SaveDescription(beside);
   return ProjectFileBytes(beside.project);

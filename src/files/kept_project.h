@@ -1,4 +1,4 @@
-// What an entry of the backups holds: a project file of any format, or a recovery file.
+// The contents of a backup: a project file of any format, or a recovery file.
 #pragma once
 
 #include <optional>
@@ -10,12 +10,12 @@
 
 namespace orby {
 
-// The project that the bytes hold; a project file, which does not tell its name, is of this name. Nothing when the
-// bytes are damaged. The program lends its lists and defaults for what the file lacks.
+// Returns the project in the bytes, or nothing when they are damaged. A project from a project file has the name
+// `name`. Values that the file lacks come from the catalogs and defaults of `program`.
 std::optional<UnsavedProject> ReadKeptProject(const Program& program, std::string_view bytes, const std::string& name);
 
-// The bytes as a project file: a project file as it is, a recovery file as it would be saved. Nothing when the bytes
-// are damaged.
+// Returns the bytes as a project file: a project file unchanged, a recovery file as it would be saved. Returns nothing
+// when the bytes are damaged.
 std::optional<std::string> KeptProjectAsFile(const Program& program, std::string_view bytes);
 
 }  // namespace orby

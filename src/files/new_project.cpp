@@ -13,7 +13,7 @@ using D = DesignDefaults;
 
 using Default = Single DesignDefaults::*;
 
-// A default that the user sets, for each unit system.
+// A default of the user for each unit system.
 struct DefaultPair {
   Default ENG;
   Default MET;
@@ -41,7 +41,7 @@ constexpr DefaultPair BoltDiameter{&D::DefaultENGboltDiameter, &D::DefaultMETbol
 constexpr DefaultPair YieldGrade{&D::DefaultENGBoltGrade, &D::DefaultMETBoltGrade};
 constexpr DefaultPair UltimateGrade{&D::DefaultENGBoltUTS, &D::DefaultMETBoltUTS};
 
-// What entries and intersections start with alike. Cables alone are in use.
+// Sets the initial values that entries and intersections share. Only cables are in use.
 void FillSupport(SecondarySupport& support, bool isMetric) {
   support.Analysed = 1;
   support.RockLoadHeight = isMetric ? 3 : 8;
@@ -105,7 +105,8 @@ void FillStartValues(Design& design) {
   design.Cost = StartCosts(isMetric);
 }
 
-// The number of bolts and their spacing stay. Nothing of the previous project's table row may show up in the next one.
+// Does not change the number of bolts and their spacing. Resets the table row, so that nothing of the previous
+// project's row remains.
 void FillBolts(const Program& program, BoltSelection& set) {
   const DesignDefaults& defaults = program.session.defaults;
   set.Length = defaults.*BoltLength.In(program.project.WorkParms.Units);
@@ -151,7 +152,7 @@ void FileNew(Program& program, bool untitled, bool resetUnits) {
   program.project.FileEmpty = true;
   program.project.UnitsLocked = false;
   program.windows.RecentMode = 1;
-  // The input echo in front of them is rebuilt whenever it is printed.
+  // The first page, the inputs, is rebuilt each time it is printed.
   std::for_each(program.session.OutBuf.begin() + 1, program.session.OutBuf.end(),
                 [](std::string& page) { page.clear(); });
   FillStartValues(program.project.WorkParms);

@@ -11,8 +11,8 @@ namespace orby {
 
 namespace {
 
-// True if the path holds these bytes, or nothing that can be read.
-bool HoldsNothingBut(FileSystem& files, const std::string& path, std::string_view bytes) {
+// Returns true if the file has these bytes or cannot be read.
+bool HasOnlyTheseBytes(FileSystem& files, const std::string& path, std::string_view bytes) {
   std::string present;
   std::uint64_t length = 0;
   if (!Succeeds([&] { length = files.FileLength(path); })) return true;
@@ -30,9 +30,9 @@ void OverwrittenFile::Look() {
   FileSystem& files = program_.platform.files;
   const FileOnDisk& last = program_.project.LastFile;
   if (last.IsSpoilt && last.Path == path_) {
-    isSpoilt_ = HoldsNothingBut(files, path_, last.SpoiltBytes);
+    isSpoilt_ = HasOnlyTheseBytes(files, path_, last.SpoiltBytes);
     if (isSpoilt_) {
-      // What a failed save has left there is worth nothing.
+      // The bytes that a failed save left are not worth a backup.
       holds_ = Holds::Known;
       old_ = last.Bytes;
       return;
@@ -48,13 +48,13 @@ void OverwrittenFile::Look() {
   }
   holds_ = Holds::TooMuch;
   if (length_ > LargestBackup) return;
-  // A pipe has no length and is not to be waited for.
+  // A pipe has no length. Reading it would wait for another program.
   const bool isRead = length_ == 0 || Succeeds([&] { old_ = files.ReadFile(path_); });
   holds_ = isRead ? Holds::Known : Holds::Unreadable;
   isChanged_ = isRead && last.Path == path_ && last.Bytes != old_;
 }
 
-// A program for scripts keeps nothing.
+// A program for scripts has no folder for its data and stores no backups.
 bool OverwrittenFile::MayKeep() const { return !BackupFolder(program_.session).empty(); }
 
 void OverwrittenFile::Overwrite(std::string_view bytes, std::vector<std::string>& remarks) {
@@ -85,7 +85,7 @@ void OverwrittenFile::Keep(std::string_view bytes) {
   if (old_ != bytes) backup_ = KeepCopy(old_, isChanged_ ? BackupReason::ChangedOnDisk : BackupReason::Overwritten);
 }
 
-// Returns where the bytes are kept; nothing if there are none, or if they could not be kept.
+// Returns the path of the backup, or nothing when there are no bytes or they could not be stored.
 std::optional<std::string> OverwrittenFile::KeepCopy(const std::string& bytes, BackupReason reason) {
   if (bytes.empty()) return std::nullopt;
   auto kept = KeepBackup(program_, program_.platform.files.AbsolutePath(path_), bytes, reason);
@@ -93,7 +93,7 @@ std::optional<std::string> OverwrittenFile::KeepCopy(const std::string& bytes, B
   return kept;
 }
 
-// The folder may allow the file to be renamed although the file itself is read-only.
+// The folder may allow a rename although the file itself is read-only.
 void OverwrittenFile::CheckThatItMayBeWritten() { program_.platform.files.OpenInPlace(path_, 0); }
 
 void OverwrittenFile::MoveBeside() {
@@ -113,7 +113,7 @@ void OverwrittenFile::MoveBeside() {
   throw RuntimeError(error_number::PathFileAccess);
 }
 
-// A file that cannot even be held in memory is not written over.
+// Reads the old file into memory. A file that is too large for that is not overwritten.
 void OverwrittenFile::Hold() {
   constexpr std::uint64_t MostHeld = std::uint64_t{256} * 1024 * 1024;
   if (length_ > MostHeld) throw RuntimeError(error_number::OutOfMemory);
@@ -141,7 +141,7 @@ void OverwrittenFile::PutBack() {
     isAsBefore_ = holds_ == Holds::Known && Succeeds([this] { Write(old_); });
   }
   if (holds_ != Holds::Known) return;
-  // Until they are on the disk again, the old bytes are those of the file.
+  // LastFile keeps the old bytes until they are on the disk again.
   if (!isAsBefore_) {
     program_.project.LastFile = {path_, old_, true};
     Succeeds([&] { program_.project.LastFile.SpoiltBytes = files.ReadFile(path_); });

@@ -1,4 +1,4 @@
-// A project file that is written over: what it holds is kept first, and put back when the writing fails.
+// Overwrites a project file. Its old contents are stored first, and restored when the write fails.
 #pragma once
 
 #include <cstdint>
@@ -14,24 +14,24 @@ namespace orby {
 
 class OverwrittenFile {
  public:
-  // Looks at what the path holds, and changes nothing.
+  // Reads the old contents. Changes nothing.
   OverwrittenFile(Program& program, std::string path);
 
-  // Keeps what the path holds and writes the bytes over it. Returns once the disk has them; the program knows them as
-  // those of the file from then on. Appends what the user is to be told.
-  // Throws the RuntimeError of the file, the old bytes being put back if they can be.
+  // Stores the old contents and overwrites the file. Returns after the bytes are on the disk, and sets LastFile of the
+  // project to them. Appends remarks for the user. Throws the RuntimeError of the file after an attempt to restore the
+  // old bytes.
   void Overwrite(std::string_view bytes, std::vector<std::string>& remarks);
 
-  // Where Overwrite has kept the old bytes; nothing if it kept none.
+  // Returns the path of the backup that Overwrite has stored, or nothing when there is none.
   const std::optional<std::string>& Backup() const { return backup_; }
 
  private:
-  // What the path holds.
+  // The old contents of the path.
   enum class Holds {
-    Nothing,     // no file is there
-    Known,       // old_ has it
-    Unreadable,  // a file that may not be read
-    TooMuch,     // longer than LargestBackup; length_ bytes
+    Nothing,     // there is no file
+    Known,       // the bytes are in old_
+    Unreadable,  // the file cannot be read
+    TooMuch,     // the file is longer than LargestBackup
   };
 
   void Look();
@@ -51,14 +51,14 @@ class OverwrittenFile {
   Holds holds_ = Holds::Nothing;
   std::string old_;
   std::uint64_t length_ = 0;
-  std::string lost_;                   // the old bytes of a failed save, where something else has come there since
-  bool isSpoilt_ = false;              // the file is as a failed save left it
-  bool isChanged_ = false;             // by another program
-  bool lacksBackup_ = false;           // one was needed and could not be had
-  std::optional<std::string> backup_;  // where the old bytes are kept
-  std::string beside_;                 // the old file under its other name; empty: it was not renamed
-  bool isTouched_ = false;             // the writing has begun
-  bool isAsBefore_ = true;             // after a failure
+  std::string lost_;                   // bytes before a failed save, if the file has changed since then
+  bool isSpoilt_ = false;              // the file has the bytes that a failed save left
+  bool isChanged_ = false;             // another program has changed the file
+  bool lacksBackup_ = false;           // a backup was needed and could not be stored
+  std::optional<std::string> backup_;  // path of the backup of the old bytes
+  std::string beside_;                 // the path to which the old file was renamed; empty: not renamed
+  bool isTouched_ = false;             // the write has begun
+  bool isAsBefore_ = true;             // after a failure the file has its old bytes
 };
 
 }  // namespace orby

@@ -10,10 +10,10 @@ namespace orby {
 
 namespace {
 
-// Enough to tell what a file is; most projects end before.
+// Bytes read first to recognise the format. Most projects are shorter.
 constexpr std::size_t HeadBytes = std::size_t{64} * 1024;
 constexpr std::size_t PieceBytes = std::size_t{1} << 20U;
-// No project comes near it: what lies beyond is not read.
+// Bytes beyond this are not read. No project is nearly as long.
 constexpr std::size_t LongestFile = std::size_t{256} * 1024 * 1024;
 
 void ReadRest(InputFile& file, std::string& bytes) {
@@ -38,7 +38,7 @@ void FileOpen(Program& program, bool& ok) {
   if (CheckFileFormat(program, ItemReader(bytes))) {
     ReadRest(*file, bytes);
     ReadProject(program.project, ItemReader(bytes));
-    // Of a longer one it cannot be told whether it has changed.
+    // A later change of a longer file is not detected.
     if (bytes.size() <= LargestBackup)
       program.project.LastFile = {program.project.CurrentFile, std::move(bytes), false};
     program.project.FileSaved = true;

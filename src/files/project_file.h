@@ -1,4 +1,4 @@
-// The project file: one plain text file holds one design, its title and its description.
+// The project file: a plain text file with a design, its title and its description.
 #pragma once
 
 #include "core/program.h"
@@ -8,9 +8,9 @@
 
 namespace orby {
 
-// Opens CurrentFile as the project: starts from a new design in the default unit system, checks the format and reads
-// the file. `ok` says whether it was read; a file of an unknown format is told to the user and leaves the new design.
-// Throws the RuntimeError of the file; what was read until then stays.
+// Opens CurrentFile as the project: sets a new design in the default unit system, checks the format and reads the file.
+// Sets `ok` to true if the file was read. For a file of an unknown format, shows an error and keeps the new design.
+// Throws the RuntimeError of the file and keeps the values read before it.
 void FileOpen(Program& program, bool& ok);
 
 }  // namespace orby

@@ -1,7 +1,7 @@
-// The project file as a table: one entry for each of its data lines, walked by the reader and the writer alike.
+// The project file as a table with an entry for each of its data lines. The reader and the writer use the same entries.
 //
-// A file is its header (label, units, strength mode, table choice, title), the description between its two markers,
-// and the data lines in the order below. The position of a line says which field it holds.
+// A file consists of a header (label, units, strength mode, table choice, title), the description between two markers,
+// and the data lines in the order below. The position of a line determines its field.
 #pragma once
 
 #include <array>
@@ -11,29 +11,29 @@
 
 namespace orby {
 
-// The labels of the first line. Files with the oldest one are refused.
+// The labels in the first line. Files with the oldest label are refused.
 inline constexpr std::array<std::string_view, 5> FileVersionNames{"ORBY_101", "ORBY_102", "ORBY_103", "ORBY_104",
                                                                   "ORBY_105"};
 inline constexpr Integer CurrentFileVersion = 4;  // index of the label that is written
 
-// Numbers of the file formats: one less than the number in the label.
+// The numbers of the file formats, which are one less than the number in the label.
 inline constexpr Integer Version102 = 101;
 inline constexpr Integer Version103 = 102;
 inline constexpr Integer Version104 = 103;
 inline constexpr Integer Version105 = 104;
 
 enum class LineForm {
-  Plain,   // a number as it is, or a text item
-  Padded,  // a whole number with a place for its sign in front and a blank behind
-  Whole,   // a text that takes its whole line, commas and quotes included
-  Rating,  // a Single that a record keeps as a whole number
+  Plain,   // a number, or a text item
+  Padded,  // a whole number after a place for its sign and before a blank
+  Whole,   // a text that fills its line, with commas and quotes
+  Rating,  // a Single that is stored as a whole number
 };
 
 struct ProjectLine {
-  std::string_view Name;  // as a message lists it
+  std::string_view Name;  // in messages
   AnyField Field;
-  AnyField ReadInto;                  // the same field but for one line
-  Integer FirstVersion = Version102;  // the first format that has the line
+  AnyField ReadInto;                  // the same field, except for one line
+  Integer FirstVersion = Version102;  // the first format with the line
   LineForm Form = LineForm::Plain;
 };
 
@@ -56,8 +56,8 @@ constexpr ProjectLine ReadElsewhere(std::string_view name, IntegerField field, I
   return {name, field, target, Version102, LineForm::Plain};
 }
 
-// The bolt descriptions are written raw but read as items: a comma in one moves every later line by one field. The mode
-// of the intersection's standing support comes back as the entry's. Files in use have both, so they stay.
+// The bolt descriptions are written raw but read as items, so a comma in one moves all later lines by one field. The
+// mode of the standing support in intersections is read into that of entries. Existing files depend on both.
 inline constexpr std::array Lines{
     Rating("roof rating", [](auto& d) { return &d.Place.CMRR; }),
     Item("rock type", [](auto& d) { return &d.Place.CMRRRockTypeIndex; }),

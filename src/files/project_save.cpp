@@ -12,7 +12,7 @@
 namespace orby {
 namespace {
 
-// "a, b, c and 12 more"
+// Returns "a, b, c and 12 more".
 std::string ListedNames(const std::vector<std::string_view>& names) {
   constexpr std::size_t Listed = 3;
   std::string text;

@@ -1,7 +1,7 @@
-// Saving the project in its file so that nothing that lay there is lost.
+// Saves the project without losing the old contents of its file.
 //
-// The file is written in its place, without a copy beside it. What it held before is kept in Backups first, or held in
-// memory where that cannot be done, and put back when the save fails.
+// The file is overwritten in place, without a temporary copy. Its old contents are stored in Backups first, or kept in
+// memory when that fails, and are restored when the save fails.
 #pragma once
 
 #include <string>
@@ -11,17 +11,17 @@
 
 namespace orby {
 
-// What the user is told about a save, each text in a message of its own.
+// Remarks about a save for the user. Each one is shown in a message of its own.
 using SaveRemarks = std::vector<std::string>;
 
-// Encodes the whole project, its description normalised, keeps what CurrentFile held, writes the new bytes over it and
-// sets FileSaved and `ok` once the disk has them. The remarks tell of a file that another program had changed, of a
-// backup that could not be kept, and of fields that would not come back as they are.
-// Throws the RuntimeError of the file. FileSaved and `ok` are false then, the description is as it was typed, and the
-// remarks tell where the backup lies; what the file held is put back if it can be.
+// Normalises the description, encodes the project, stores the old contents of CurrentFile and overwrites it. Sets
+// FileSaved and `ok` to true after the bytes are on the disk. The remarks report a file that another program had
+// changed, a backup that could not be stored, and fields that would not read back unchanged.
+// Throws the RuntimeError of the file after an attempt to restore the old contents. FileSaved and `ok` are false then,
+// the description is unchanged, and the remarks contain the path of the backup.
 void FileSave(Program& program, bool& ok, SaveRemarks& remarks);
 
-// Tells the remarks of a save that succeeds at once.
+// Saves and shows the remarks. When the save throws, it shows none.
 void FileSave(Program& program, bool& ok);
 
 void ShowRemarks(Program& program, const SaveRemarks& remarks);

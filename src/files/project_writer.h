@@ -1,4 +1,4 @@
-// Writing a project file, always in the newest format.
+// Writes project files, always in the newest format.
 #pragma once
 
 #include <string>
@@ -9,10 +9,10 @@ namespace orby {
 
 struct ProjectLine;
 
-// A data line of the file, without its end.
+// Returns a data line of the file without its line end.
 std::string DataLineText(const Design& design, const ProjectLine& line);
 
-// The project as the bytes of a file, the description as it stands.
+// Returns the project as the bytes of a file. Does not normalise the description.
 std::string ProjectFileBytes(const Project& project);
 
 }  // namespace orby

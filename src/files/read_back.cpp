@@ -8,8 +8,8 @@
 namespace orby {
 namespace {
 
-// Gives the field another value, so that one that is never read shows.
-void Spoil(Design& design, const AnyField& field) {
+// Changes the value of a field, so that a field that is never read differs.
+void ChangeValue(Design& design, const AnyField& field) {
   if (const auto* text = std::get_if<TextField>(&field)) {
     text->In(design) += '?';
   } else if (const auto* single = std::get_if<SingleField>(&field)) {
@@ -21,7 +21,7 @@ void Spoil(Design& design, const AnyField& field) {
   }
 }
 
-// Whether a line of the file comes back into its own field and no other one into it.
+// Returns true if the line is read into its own field and no other line is read into that field.
 bool HasOwnField(const ProjectLine& line) {
   for (const ProjectLine& other : ProjectLines) {
     if (other.Field != other.ReadInto && (line.Field == other.Field || line.Field == other.ReadInto)) return false;
@@ -35,8 +35,8 @@ std::vector<std::string_view> FieldsThatReadDifferently(const Project& project, 
   Project read;
   read.FileVersion = Version105;
   read.WorkParms = project.WorkParms;
-  for (const ProjectLine& line : ProjectLines) Spoil(read.WorkParms, line.Field);
-  // Where the reading breaks off, the fields after it stay spoilt.
+  for (const ProjectLine& line : ProjectLines) ChangeValue(read.WorkParms, line.Field);
+  // After an error the remaining fields keep their changed values.
   Succeeds([&] { ReadProject(read, ItemReader(bytes)); });
 
   std::vector<std::string_view> names;

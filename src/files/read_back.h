@@ -1,4 +1,4 @@
-// What a project file gives back when it is read.
+// Differences between a project and its file when it is read back.
 #pragma once
 
 #include <string_view>
@@ -8,8 +8,8 @@
 
 namespace orby {
 
-// The names of the fields whose text in the file is not what the reader makes of these bytes, in the order of the
-// file. Fields that the format itself reads into others are left out.
+// Returns the names of the fields that differ after reading `bytes`, in the order of the file. Fields that the format
+// reads into other fields are left out.
 std::vector<std::string_view> FieldsThatReadDifferently(const Project& project, std::string_view bytes);
 
 }  // namespace orby

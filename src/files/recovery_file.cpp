@@ -68,8 +68,8 @@ void ReadData(Design& design, const ProjectLine& line, std::string_view text) {
   }
 }
 
-// A path is whatever the machine's disks hold; all other texts are UTF-8.
-bool HoldsTexts(std::string_view bytes) {
+// Returns true if all texts after the path are UTF-8. A path may have any bytes.
+bool HasValidTexts(std::string_view bytes) {
   TakeLine(bytes);
   TakeLine(bytes);
   return IsValidUtf8(bytes);
@@ -119,9 +119,9 @@ std::optional<UnsavedProject> ReadRecovery(std::string_view bytes) {
   try {
     UnsavedProject project = ReadLines(bytes);
     const bool isSystem = project.WorkParms.Units == English || project.WorkParms.Units == Metric;
-    if (isSystem && HoldsTexts(bytes) && RecoveryBytes(project) == bytes) return project;
+    if (isSystem && HasValidTexts(bytes) && RecoveryBytes(project) == bytes) return project;
   } catch (const RuntimeError&) {
-    // A number beyond its type stands in no file that the program wrote.
+    // The program never writes a number outside the range of its type.
   }
   return std::nullopt;
 }

@@ -1,9 +1,9 @@
-// The recovery file: a project that was never saved, kept so that the end of a run by an error or from outside loses
-// nothing of it.
+// The recovery file: a copy of an unsaved project, so that a crash or a forced end of the program loses nothing.
 //
-// The first line is a label; lines "key=value" with the project's name, choices, texts and flags follow, then the same
-// data lines as in a project file, always in UTF-8. Texts stand on one line each: "\r", "\n" and "\\" are a carriage
-// return, a line feed and a backslash. So any text comes back as it was, and each line comes back into its own field.
+// The first line is a label. Lines "key=value" follow with the name, choices, texts and flags of the project, and then
+// the same data lines as in a project file. The file is always UTF-8. Each text is one line in which "\r", "
+// " and "\\" represent a carriage return, a line feed and a backslash. Any text reads back unchanged, and each line is
+// read into its own field.
 #pragma once
 
 #include <optional>
@@ -14,21 +14,22 @@
 
 namespace orby {
 
-// The project as it will be once this design is committed.
+// Returns the project as it will be after this design is committed.
 UnsavedProject EditedProject(const Project& project, Design design);
 
-// Whether the bytes begin as those of a recovery file do.
+// Returns true if the bytes start with the label of a recovery file.
 bool IsRecoveryFile(std::string_view bytes);
 
 std::string RecoveryBytes(const UnsavedProject& project);
 
-// The project that the bytes hold; nothing when they are damaged, which is when they are not what would be written.
+// Returns the project in the bytes, or nothing when they are damaged. Bytes are damaged unless writing the project
+// gives the same bytes.
 std::optional<UnsavedProject> ReadRecovery(std::string_view bytes);
 
-// The name of the project in bytes that may be damaged; empty when they tell none.
+// Returns the name of the project in bytes that may be damaged. Empty when they contain none.
 std::string ProjectNamedIn(std::string_view bytes);
 
-// Makes the project the open one, with unsaved changes.
+// Makes `unsaved` the open project, with unsaved changes.
 void RestoreProject(Project& project, const UnsavedProject& unsaved);
 
 }  // namespace orby

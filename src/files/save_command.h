@@ -1,4 +1,4 @@
-// The commands Save and Save As, and the question before a project is given up.
+// The commands Save and Save As, and the question before a project is closed.
 #pragma once
 
 #include <string>
@@ -9,20 +9,20 @@ namespace orby {
 
 enum class FileDialogMode { Open, Save };
 
-// What is asked for a project file: the name of this project at first, in the data folder.
+// Returns the settings of a dialog for project files. It offers the name of `project` in the data folder.
 FileQuestion ProjectFileQuestion(Program& program, const std::string& project);
 
-// Lets the user choose a project file, starting with the open project's name in the data folder, and makes it
-// CurrentFile. Throws RuntimeError 32755 when the user cancels.
+// Lets the user choose a project file and sets CurrentFile to it. Offers the name of the open project in the data
+// folder. Throws RuntimeError 32755 when the user cancels.
 void AskFileName(Program& program, FileDialogMode mode);
 
-// Saves the project, asking for its name first when it has none yet or on Save As. Returns true if it was saved; false
-// if the user cancelled or the save failed, which was told then.
+// Saves the project. Asks for a name first when it has none, or for Save As. Returns false if the user cancelled or if
+// the save failed; a failure has been shown to the user.
 bool FileMenuSave(Program& program, bool saveAs);
 
-// Returns whether CurrentFile may take the place of the open project. Asks before about unsaved changes of that, which
-// is PreviousFile, and saves them there; those not saved are kept as a backup. False after a save that is cancelled or
-// fails: the project stays, and CurrentFile is PreviousFile.
+// Returns true if CurrentFile may replace the open project, whose file is PreviousFile. Asks about unsaved changes
+// first: saves them to PreviousFile, or stores them as a backup. Returns false after a save that is cancelled or fails;
+// the project stays open then, and CurrentFile is PreviousFile.
 bool MayLeavePreviousFile(Program& program);
 
 }  // namespace orby

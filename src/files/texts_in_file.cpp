@@ -11,7 +11,7 @@
 namespace orby {
 namespace {
 
-constexpr std::string_view LineBehind = "45";
+constexpr std::string_view LineAfterEnd = "45";
 
 std::string Joined(std::initializer_list<std::string_view> lines) {
   std::string text;
@@ -19,24 +19,24 @@ std::string Joined(std::initializer_list<std::string_view> lines) {
   return text;
 }
 
-// What the reader makes of these lines of a file as far as the end of a description; nothing when it does not find that
-// end where it is.
+// Reads the lines as a description followed by its end marker. Returns nothing when the reader does not find the end
+// there.
 std::optional<std::string> ReadAsDescription(std::string_view lines) {
-  const std::string bytes = std::string(lines) + Joined({EndOfDescription, LineBehind});
+  const std::string bytes = std::string(lines) + Joined({EndOfDescription, LineAfterEnd});
   std::string description;
-  std::string behind;
+  std::string after;
   const bool isRead = Succeeds([&] {
     ItemReader reader(bytes);
     Integer count = 0;
     ReadMarkedDescription(reader, description, count);
-    behind = reader.ReadLine();
+    after = reader.ReadLine();
   });
-  return isRead && behind == LineBehind ? std::optional(description) : std::nullopt;
+  return isRead && after == LineAfterEnd ? std::optional(description) : std::nullopt;
 }
 
 bool IsMarker(std::string_view line) { return line == StartOfDescription || line == EndOfDescription; }
 
-std::string_view WithoutBlanksInFront(std::string_view line) {
+std::string_view WithoutLeadingBlanks(std::string_view line) {
   line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
   return line;
 }
@@ -50,26 +50,26 @@ std::string_view ReasonFor(std::string_view line) {
   return "A comma splits the line in two there.";
 }
 
-bool LineComesBack(std::string_view line) {
+bool LineReadsBack(std::string_view line) {
   const auto read = ReadAsDescription(Joined({"first", line}));
-  return read == Joined({"first", WithoutBlanksInFront(line)});
+  return read == Joined({"first", WithoutLeadingBlanks(line)});
 }
 
-// The title is the first line of the description when the file is opened, and one of its others when it is opened after
-// the next save. A comma ends it there, which can be mended.
-bool TitleComesBack(std::string_view title) {
+// When the file is opened the title becomes the first line of the description, and after the next save and opening a
+// later line. A comma splits it there, but TextsBeforeTheShift joins the parts.
+bool TitleReadsBack(std::string_view title) {
   return !IsMarker(title) && ReadAsDescription(Joined({"first", title})).has_value() &&
-         !WithoutBlanksInFront(title).starts_with('"');
+         !WithoutLeadingBlanks(title).starts_with('"');
 }
 
 }  // namespace
 
 std::optional<LostLine> LineThatWouldNotComeBack(const ProjectTexts& texts) {
-  if (!TitleComesBack(texts.Title)) return LostLine{texts.Title, ReasonFor(WithoutBlanksInFront(texts.Title))};
+  if (!TitleReadsBack(texts.Title)) return LostLine{texts.Title, ReasonFor(WithoutLeadingBlanks(texts.Title))};
   const std::string description = NormalizedDescription(texts.Description);
   for (std::string_view rest = description; !rest.empty();) {
     const std::string_view line = TakeLine(rest);
-    if (!LineComesBack(line)) return LostLine{std::string(line), ReasonFor(WithoutBlanksInFront(line))};
+    if (!LineReadsBack(line)) return LostLine{std::string(line), ReasonFor(WithoutLeadingBlanks(line))};
   }
   return std::nullopt;
 }

@@ -1,4 +1,4 @@
-// What becomes of a project's title and description in its file: they are written as typed and read back as items.
+// Changes of a title and a description in the project file. They are written as typed and read back as items.
 #pragma once
 
 #include <optional>
@@ -9,14 +9,14 @@
 
 namespace orby {
 
-// A line that would not come back as it is typed, and why.
+// A line that would not read back unchanged, and the reason.
 struct LostLine {
   std::string Line;
   std::string_view Reason;  // a sentence
 };
 
-// The first line of the texts that the project file would not give back as it is typed, but for blank lines and blanks
-// in front, which are never kept; nothing when all come back.
+// Returns the first line of the texts that would not read back unchanged, or nothing when there is none. Ignores blank
+// lines and leading blanks, which the file never keeps.
 std::optional<LostLine> LineThatWouldNotComeBack(const ProjectTexts& texts);
 
 }  // namespace orby

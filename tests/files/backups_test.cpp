@@ -19,7 +19,7 @@ const std::string DataFolder = "/home/user/Documents/Orby/";
 const std::string Store = DataFolder + "Backups/";
 const std::string OtherPath = "/designs/panel4.orb";
 
-// A folder that is listed as it was before another program wrote to it.
+// Lists a folder without the files that another program has written to it.
 struct StaleListing : MemoryFiles {
   std::vector<std::string> FilesIn(const std::string& folder) override {
     return isStale ? std::vector<std::string>() : MemoryFiles::FilesIn(folder);
@@ -39,7 +39,7 @@ struct Backups : testing::Test {
     return KeepBackup(program(), path, bytes, reason);
   }
 
-  // The kept bytes, the newest first.
+  // Returns the bytes of all entries, the newest first.
   std::vector<std::string> Kept() {
     std::vector<std::string> kept;
     for (const Backup& entry : ListBackups(program())) kept.push_back(files().files.at(entry.Path));
@@ -49,7 +49,7 @@ struct Backups : testing::Test {
   TestProject project;
 };
 
-TEST_F(Backups, HoldTheBytesUnderTheTimeANumberAndTheProjectsName) {
+TEST_F(Backups, AreNamedByTimeNumberAndProject) {
   const auto path = Keep("as it was");
 
   EXPECT_EQ(path, Store + "2031-03-09 14.05.07 00001 panel3.orb");
@@ -69,7 +69,7 @@ TEST_F(Backups, AreListedWithProjectTimeReasonAndSize) {
   EXPECT_EQ(entries[0].Bytes, 9U);
 }
 
-TEST_F(Backups, OfOneSecondKeepTheirOrder) {
+TEST_F(Backups, OfTheSameSecondKeepTheirOrder) {
   Keep("first");
   Keep("second");
   Keep("third");
@@ -77,7 +77,7 @@ TEST_F(Backups, OfOneSecondKeepTheirOrder) {
   EXPECT_THAT(Kept(), ElementsAre("third", "second", "first"));
 }
 
-TEST_F(Backups, KeepTheirOrderWhenTheClockIsPutBack) {
+TEST_F(Backups, KeepTheirOrderWhenTheClockIsSetBack) {
   Keep("first");
   project.platform.clock.today.year = 2029;
   Keep("second");
@@ -85,7 +85,7 @@ TEST_F(Backups, KeepTheirOrderWhenTheClockIsPutBack) {
   EXPECT_THAT(Kept(), ElementsAre("second", "first"));
 }
 
-TEST_F(Backups, OfTwoProgramsInOneSecondAreBothThere) {
+TEST_F(Backups, OfTwoProgramsInTheSameSecondAreBothStored) {
   RecordingPlatform platform;
   StaleListing disk;
   Program other(platform.DoorsWith(disk));
@@ -103,13 +103,13 @@ TEST_F(Backups, OfTwoProgramsInOneSecondAreBothThere) {
                                 ProjectPath + ": of one program"));
 }
 
-TEST_F(Backups, AreReadByTheUserAlone) {
+TEST_F(Backups, CanBeReadOnlyByTheUser) {
   Keep("as it was");
 
   EXPECT_THAT(files().privateFolders, ElementsAre(Store.substr(0, Store.size() - 1)));
 }
 
-TEST_F(Backups, OfUnchangedBytesAreNotMadeTwice) {
+TEST_F(Backups, OfUnchangedBytesAreStoredOnce) {
   const auto first = Keep("same");
   project.platform.clock.hour = 16;
 
@@ -119,7 +119,7 @@ TEST_F(Backups, OfUnchangedBytesAreNotMadeTwice) {
   EXPECT_THAT(Kept(), ElementsAre("same"));
 }
 
-TEST_F(Backups, OfBytesThatComeBackLaterAreMadeAgain) {
+TEST_F(Backups, OfBytesThatWereStoredBeforeOthersAreStoredAgain) {
   Keep("one");
   Keep("two");
   Keep("one");
@@ -127,14 +127,14 @@ TEST_F(Backups, OfBytesThatComeBackLaterAreMadeAgain) {
   EXPECT_THAT(Kept(), ElementsAre("one", "two", "one"));
 }
 
-TEST_F(Backups, OfEqualBytesOfTwoProjectsAreBothMade) {
+TEST_F(Backups, OfEqualBytesOfTwoProjectsAreBothStored) {
   Keep("same", ProjectPath);
   Keep("same", "/other/panel3.orb");
 
   EXPECT_THAT(Kept(), SizeIs(2));
 }
 
-TEST_F(Backups, AreTheNewestTwentyOfOneProject) {
+TEST_F(Backups, AreLimitedToTheNewestTwentyOfOneProject) {
   Keep("another project", OtherPath);
   for (int number = 1; number <= 22; ++number) Keep("version " + NumberText(number));
 
@@ -146,7 +146,7 @@ TEST_F(Backups, AreTheNewestTwentyOfOneProject) {
   EXPECT_EQ(kept[20], "another project");
 }
 
-TEST_F(Backups, AreFiveHundredAltogether) {
+TEST_F(Backups, AreLimitedToFiveHundred) {
   for (int number = 1; number <= 503; ++number) Keep("bytes", "/designs/p" + NumberText(number) + ".orb");
 
   const auto entries = ListBackups(program());
@@ -157,7 +157,7 @@ TEST_F(Backups, AreFiveHundredAltogether) {
   EXPECT_EQ(files().FilesIn(Store).size(), 1000U);
 }
 
-TEST_F(Backups, AreFiftyMegabytesAltogether) {
+TEST_F(Backups, AreLimitedToFiftyMegabytes) {
   const std::string tenMegabytes(LargestBackup, 'x');
   for (int number = 1; number <= 6; ++number) Keep(tenMegabytes, "/designs/p" + NumberText(number) + ".orb");
 
@@ -167,7 +167,7 @@ TEST_F(Backups, AreFiftyMegabytesAltogether) {
   EXPECT_EQ(entries.back().Project, "/designs/p2.orb");
 }
 
-TEST_F(Backups, LoseTheOldestForOneByteMoreThanFiftyMegabytes) {
+TEST_F(Backups, LoseTheOldestWhenTheyExceedFiftyMegabytesByOneByte) {
   const std::string tenMegabytes(std::size_t{10} * 1024 * 1024, 'x');
   for (int number = 1; number <= 5; ++number) Keep(tenMegabytes, "/designs/p" + NumberText(number) + ".orb");
   Keep("y", OtherPath);
@@ -178,12 +178,12 @@ TEST_F(Backups, LoseTheOldestForOneByteMoreThanFiftyMegabytes) {
   EXPECT_EQ(entries.back().Project, "/designs/p2.orb");
 }
 
-TEST_F(Backups, DoNotTakeAFileOfMoreThanTenMegabytes) {
+TEST_F(Backups, DoNotStoreAFileOfMoreThanTenMegabytes) {
   EXPECT_EQ(Keep(std::string(LargestBackup + 1, 'x')), std::nullopt);
   EXPECT_THAT(Kept(), IsEmpty());
 }
 
-TEST_F(Backups, AreNotMadeWithoutAProgramDataFolder) {
+TEST_F(Backups, AreNotStoredWithoutAProgramDataFolder) {
   program().session.folders.ProgramData.clear();
 
   EXPECT_EQ(Keep("as it was"), std::nullopt);
@@ -191,7 +191,7 @@ TEST_F(Backups, AreNotMadeWithoutAProgramDataFolder) {
   EXPECT_THAT(ListBackups(program()), IsEmpty());
 }
 
-TEST_F(Backups, ThatTheDiskRefusesLeaveNothingAndThrowNothing) {
+TEST_F(Backups, ThatTheDiskRefusesLeaveNoFileAndThrowNoError) {
   for (const Step step : {Step::Create, Step::Write, Step::Close, Step::Rename}) {
     TestProject other;
     other.program.session.folders.ProgramData = DataFolder;
@@ -202,7 +202,7 @@ TEST_F(Backups, ThatTheDiskRefusesLeaveNothingAndThrowNothing) {
   }
 }
 
-TEST_F(Backups, AreListedByTheirFileNameWhenWhatStandsBesideThemIsDamaged) {
+TEST_F(Backups, AreListedByTheirFileNameWhenTheirAboutFileIsDamaged) {
   const auto first = Keep("first");
   const auto second = Keep("second");
   files().files[Store + "2031-03-09 14.05.07 00001.about"] = "Project=/designs/elsewhere.orb\r\nReason=Overwritten\r\n";
@@ -218,7 +218,7 @@ TEST_F(Backups, AreListedByTheirFileNameWhenWhatStandsBesideThemIsDamaged) {
   }
 }
 
-TEST_F(Backups, LeaveOtherFilesOfTheFolderAlone) {
+TEST_F(Backups, DoNotRemoveOtherFilesInTheirFolder) {
   files().files[Store + "notes.txt"] = "mine";
   files().files[Store + "2031-03-09 panel3.orb"] = "mine";
   files().files[Store + "2031-03-09 14.05.07 panel3.orb"] = "mine";
@@ -231,7 +231,7 @@ TEST_F(Backups, LeaveOtherFilesOfTheFolderAlone) {
   EXPECT_TRUE(files().files.contains(Store + "2031-03-09 14.05.07 panel3.orb"));
 }
 
-TEST_F(Backups, HaveNamesThatEveryDiskTakes) {
+TEST_F(Backups, HaveNamesThatEveryDiskAllows) {
   EXPECT_THAT(*Keep("a", "/designs/what?\n*.orb"), EndsWith(" 00001 what___.orb"));
   const auto longest = Keep("b", "/designs/" + std::string(90, 'x') + "\xC3\xA9" + std::string(95, 'y') + ".orb");
   EXPECT_THAT(*longest, EndsWith(" 00002 " + std::string(95, 'y') + ".orb"));
@@ -253,7 +253,7 @@ TEST_F(Backups, OfADroppedDesignAreRecoveryFiles) {
   EXPECT_EQ(ListBackups(program()).front().Project, ProjectPath);
 }
 
-TEST_F(Backups, OfADroppedDesignStandUnderTheWholePathOfItsProject) {
+TEST_F(Backups, OfADroppedDesignHaveTheFullPathOfItsProject) {
   FileNew(program(), false, true);
   program().project.CurrentFile = "panel3.orb";
 
@@ -271,7 +271,7 @@ TEST_F(Backups, OfADroppedDesignWithoutANameAreUntitled) {
   EXPECT_EQ(ListBackups(program()).front().Project, "Untitled");
 }
 
-TEST_F(Backups, OfADamagedRecoveryFileAreNamedAfterTheProjectThatItStillTells) {
+TEST_F(Backups, OfADamagedRecoveryFileAreNamedAfterItsProjectIfThatIsReadable) {
   FileNew(program(), false, true);
   const std::string whole = RecoveryBytes(program().project);
 
@@ -280,7 +280,7 @@ TEST_F(Backups, OfADamagedRecoveryFileAreNamedAfterTheProjectThatItStillTells) {
   EXPECT_EQ(ListBackups(program())[1].Reason, BackupReason::Damaged);
 }
 
-TEST_F(Backups, GoWithWhatStandsBesideThem) {
+TEST_F(Backups, AreRemovedTogetherWithTheirAboutFile) {
   Keep("as it was");
 
   EXPECT_TRUE(RemoveBackup(program(), ListBackups(program()).front()));
@@ -297,7 +297,7 @@ TEST_F(Backups, ThatCannotBeRemovedStay) {
   EXPECT_THAT(Kept(), ElementsAre("as it was"));
 }
 
-TEST_F(Backups, TellWhyTheyWereKept) {
+TEST_F(Backups, HaveATextForEachReason) {
   EXPECT_EQ(ReasonText(BackupReason::Overwritten), "Overwritten by a save");
   EXPECT_EQ(ReasonText(BackupReason::ChangedOnDisk), "Changed by another program");
   EXPECT_EQ(ReasonText(BackupReason::Dropped), "Not saved");

@@ -14,13 +14,13 @@ namespace {
 struct Expectation {
   const char* name;
   SingleField field;
-  Single english;    // what is stored under English units
-  Single metric;     // what that becomes under Metric units
-  Single backAgain;  // what a Metric value of 123.4567 becomes under English units
+  Single english;    // the value in English units
+  Single metric;     // that value after conversion to Metric
+  Single backAgain;  // a Metric value of 123.4567 after conversion to English
 };
 
-// 123.4567 m are 405.0417 ft, kN/m3 785.9627 pcf, mm 4.8605 in, MPa 17.90588 ksi, kN 13.87708 tons, kN/m 4.229735
-// tons/ft.
+// 123.4567 m are 405.0417 ft, 123.4567 kN/m3 are 785.9627 pcf, mm 4.8605 in, MPa 17.90588 ksi, kN 13.87708 tons, and
+// kN/m 4.229735 tons/ft.
 constexpr Expectation Expectations[] = {
     {"DepthofCover", [](auto& d) { return &d.Place.DepthofCover; }, 405, 123.44F, 405},
     {"EntryWidth", [](auto& d) { return &d.Place.EntryWidth; }, 20, 6.1F, 405},
@@ -81,7 +81,7 @@ constexpr Expectation Expectations[] = {
     {"SupportCapEntry4", [](auto& d) { return &d.Entries.Standing.SupportCap; }, 12.5F, 364.8F, 4.2F},
 };
 
-TEST(Conversion, EveryFieldToMetricWithItsOwnDecimals) {
+TEST(Conversion, ToMetricRoundsEveryFieldToItsDecimals) {
   TestProject project;
   for (const auto& row : Expectations) row.field.In(project.program.project.WorkParms) = row.english;
 
@@ -91,7 +91,7 @@ TEST(Conversion, EveryFieldToMetricWithItsOwnDecimals) {
     EXPECT_EQ(row.field.In(project.program.project.WorkParms), row.metric) << row.name;
 }
 
-TEST(Conversion, EveryFieldToEnglishWithItsOwnDecimals) {
+TEST(Conversion, ToEnglishRoundsEveryFieldToItsDecimals) {
   TestProject project;
   project.program.project.WorkParms.Units = Metric;
   for (const auto& row : Expectations) row.field.In(project.program.project.WorkParms) = 123.4567F;
@@ -102,13 +102,14 @@ TEST(Conversion, EveryFieldToEnglishWithItsOwnDecimals) {
     EXPECT_EQ(row.field.In(project.program.project.WorkParms), row.backAgain) << row.name;
 }
 
-// Fields of one unit and one number of decimals share what 123.4567 becomes, and so what 80.54 does: from 264.2388 ft,
-// 512.742 pcf, 3.1709 in, 11.68134 ksi, 9.053056 tons, 2.759372 tons/ft. No digit of these is a 0 that hides a decimal.
+// Fields with the same unit and the same decimals have the same result for 123.4567, and so for 80.54. This is rounded
+// from 264.2388 ft, 512.742 pcf, 3.1709 in, 11.68134 ksi, 9.053056 tons and 2.759372 tons/ft, where no digit is a 0
+// that would hide a decimal.
 constexpr std::pair<Single, Single> SecondValues[] = {{405, 264.2F},  {405.04F, 264.24F}, {785.96F, 512.74F},
                                                       {4.86F, 3.17F}, {18, 12},           {13.88F, 9.05F},
                                                       {13.9F, 9.1F},  {4.2F, 2.8F}};
 
-TEST(Conversion, EveryFieldToEnglishHasNoDecimalFewerOrMore) {
+TEST(Conversion, ToEnglishRoundsASecondValueOfEveryFieldToItsDecimals) {
   TestProject project;
   project.program.project.WorkParms.Units = Metric;
   for (const auto& row : Expectations) row.field.In(project.program.project.WorkParms) = 80.54F;
@@ -122,7 +123,7 @@ TEST(Conversion, EveryFieldToEnglishHasNoDecimalFewerOrMore) {
   }
 }
 
-TEST(Conversion, TheTwoStandardCableCapacitiesDifferByADecimal) {
+TEST(Conversion, RoundsTheStandardCableCapacityOfIntersectionsToOneMoreDecimal) {
   TestProject project;
   project.program.project.WorkParms.Entries.Cable.CapacityStd = 27.11F;
   project.program.project.WorkParms.Intersections.Cable.CapacityStd = 27.11F;
@@ -133,7 +134,7 @@ TEST(Conversion, TheTwoStandardCableCapacitiesDifferByADecimal) {
   EXPECT_EQ(project.program.project.WorkParms.Intersections.Cable.CapacityStd, 241.18F);
 }
 
-TEST(Conversion, TiesGoToTheEvenDigit) {
+TEST(Conversion, RoundsTiesToTheEvenDigit) {
   TestProject project;
   project.program.project.WorkParms.Primary.TableDiameter = 0.875F;  // 22.225 mm
   project.program.project.WorkParms.Primary.DiameterStd = 0.625F;    // 15.875 mm
@@ -144,7 +145,7 @@ TEST(Conversion, TiesGoToTheEvenDigit) {
   EXPECT_EQ(project.program.project.WorkParms.Primary.DiameterStd, 15.88F);
 }
 
-TEST(Conversion, ThereAndBackDoesNotRestoreADepth) {
+TEST(Conversion, ToMetricAndBackChangesADepth) {
   TestProject project;
   project.program.project.WorkParms.Place.DepthofCover = 401.37F;
 
@@ -154,7 +155,7 @@ TEST(Conversion, ThereAndBackDoesNotRestoreADepth) {
   EXPECT_EQ(project.program.project.WorkParms.Place.DepthofCover, 401.4F);
 }
 
-TEST(Conversion, AnglesCountsFactorsFlagsAndCostsStay) {
+TEST(Conversion, DoesNotChangeAnglesCountsFactorsFlagsAndCosts) {
   TestProject project;
   Design& record = project.program.project.WorkParms;
   FileNew(project.program, false, true);
@@ -178,7 +179,7 @@ TEST(Conversion, AnglesCountsFactorsFlagsAndCostsStay) {
   EXPECT_EQ(record.Cost.CapitalCost, 1000000);
 }
 
-TEST(Conversion, TheResultIsAnUnsavedProjectUnderItsBareNameWithAPrefix) {
+TEST(Conversion, MakesAnUnsavedProjectWithAPrefixBeforeItsFileName) {
   TestProject project;
   project.program.project.FileSaved = true;
 
@@ -190,7 +191,7 @@ TEST(Conversion, TheResultIsAnUnsavedProjectUnderItsBareNameWithAPrefix) {
   EXPECT_FALSE(project.platform.files.files.contains("Metric_panel3.orb"));
 }
 
-TEST(Conversion, PrefixesPileUpTheNewestFirst) {
+TEST(Conversion, AddsItsPrefixBeforeEarlierOnes) {
   TestProject project;
   project.program.project.CurrentFile = "C:\\designs\\panel3.orb";
 
@@ -201,7 +202,7 @@ TEST(Conversion, PrefixesPileUpTheNewestFirst) {
   EXPECT_EQ(project.program.project.WorkParms.Units, English);
 }
 
-TEST(Conversion, AnOverflowEndsItAndKeepsWhatWasConverted) {
+TEST(Conversion, ThatOverflowsKeepsTheValuesConvertedBefore) {
   TestProject project;
   project.program.project.WorkParms.Place.DepthofCover = 400;
   project.program.project.WorkParms.Entries.Cable.Diam = 3E38F;
@@ -218,7 +219,7 @@ TEST(Conversion, AnOverflowEndsItAndKeepsWhatWasConverted) {
   EXPECT_FALSE(project.program.project.FileSaved);
 }
 
-TEST(Conversion, WorksOnTheCommittedDesignAlone) {
+TEST(Conversion, ConvertsOnlyTheCommittedDesign) {
   TestProject project;
   project.program.windows.WorkParmsCopy.Place.DepthofCover = 400;
 

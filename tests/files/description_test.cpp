@@ -22,7 +22,7 @@ Saved Normalize(const std::string& description) {
   return {project.program.project.ProjectDescription, project.program.project.DescLines};
 }
 
-TEST(Description, AnEmptyOneStaysEmptyAndTouchesNoFile) {
+TEST(Description, ThatIsEmptyStaysEmptyAndWritesNoFile) {
   TestProject project;
 
   SaveDescription(project.program);
@@ -32,28 +32,28 @@ TEST(Description, AnEmptyOneStaysEmptyAndTouchesNoFile) {
   EXPECT_THAT(project.platform.files.created, testing::IsEmpty());
 }
 
-TEST(Description, BlankLinesAreDroppedAndTheLastLineEndIsCutOff) {
+TEST(Description, LosesBlankLinesAndItsLastLineEnd) {
   const Saved saved = Normalize("Shale roof\r\n\r\n   \r\n  Water at crosscut 4  \r\n");
 
   EXPECT_EQ(saved.text, "Shale roof\r\n  Water at crosscut 4  ");
   EXPECT_EQ(saved.lines, 4);
 }
 
-TEST(Description, EveryKindOfLineEndBecomesTheSame) {
+TEST(Description, GetsTheSameLineEndForEveryKind) {
   const Saved saved = Normalize("Shale\nCoal\rClay\r\nSandstone");
 
   EXPECT_EQ(saved.text, "Shale\r\nCoal\r\nClay\r\nSandstone");
   EXPECT_EQ(saved.lines, 6);
 }
 
-TEST(Description, BlankLinesOnlyBecomeAnEmptyOne) {
+TEST(Description, OfBlankLinesBecomesEmpty) {
   const Saved saved = Normalize("\r\n   \r\n\r\n");
 
   EXPECT_EQ(saved.text, "");
   EXPECT_EQ(saved.lines, 2);
 }
 
-TEST(Description, SixtyCharactersStayOnOneLine) {
+TEST(Description, KeepsALineOfSixtyCharacters) {
   const std::string sixty(60, 'x');
 
   EXPECT_EQ(Normalize(sixty).text, sixty);
@@ -61,39 +61,39 @@ TEST(Description, SixtyCharactersStayOnOneLine) {
   EXPECT_EQ(Normalize(sixty).lines, 3);
 }
 
-TEST(Description, SixtyOneCharactersWithoutABlankAreCutAtSixty) {
+TEST(Description, BreaksALineOfSixtyOneCharactersWithoutABlankAfterSixty) {
   const Saved saved = Normalize(std::string(61, 'x'));
 
   EXPECT_EQ(saved.text, std::string(60, 'x') + "\r\nx");
   EXPECT_EQ(saved.lines, 5);
 }
 
-TEST(Description, ALongLineIsCutBehindTheBlankAtPosition45) {
+TEST(Description, BreaksALongLineAfterTheBlankAtPosition45) {
   const Saved saved = Normalize(std::string(44, 'x') + " " + std::string(16, 'y'));
 
   EXPECT_EQ(saved.text, std::string(44, 'x') + " \r\n" + std::string(16, 'y'));
 }
 
-TEST(Description, PositionFortyIsTheLowestBreak) {
+TEST(Description, BreaksALineAtPositionFortyAtTheEarliest) {
   EXPECT_EQ(Normalize(std::string(39, 'x') + " " + std::string(21, 'y')).text,
             std::string(39, 'x') + " \r\n" + std::string(21, 'y'));
   EXPECT_EQ(Normalize(std::string(38, 'x') + " " + std::string(22, 'y')).text,
             std::string(38, 'x') + " " + std::string(21, 'y') + "\r\ny");
 }
 
-TEST(Description, LengthCountsCharactersNotBytes) {
+TEST(Description, CountsCharactersNotBytes) {
   std::string sixtyUmlauts;
   for (int i = 0; i < 60; ++i) sixtyUmlauts += "\xC3\xBC";
 
   EXPECT_EQ(Normalize(sixtyUmlauts).text, sixtyUmlauts);
 }
 
-TEST(Description, CharactersOutsideTheCodePageAndThoseThatLookLikeOtherBytesSurvive) {
+TEST(Description, KeepsCharactersOutsideTheCodePage) {
   EXPECT_EQ(Normalize("\xE4\xB8\xAD\xE6\x96\x87").text, "\xE4\xB8\xAD\xE6\x96\x87");
   EXPECT_EQ(Normalize("\xC3\x83\xC2\xA9").text, "\xC3\x83\xC2\xA9");
 }
 
-TEST(Description, TheTemporaryFileIsGoneAfterwards) {
+TEST(Description, LeavesNoTemporaryFile) {
   TestProject project;
   project.program.project.ProjectDescription = "Shale roof";
 
@@ -103,9 +103,9 @@ TEST(Description, TheTemporaryFileIsGoneAfterwards) {
   EXPECT_FALSE(project.platform.files.files.contains(TemporaryDescription));
 }
 
-class FailingTemporaryFile : public testing::TestWithParam<Step> {};
+class FailedTemporaryFile : public testing::TestWithParam<Step> {};
 
-TEST_P(FailingTemporaryFile, LeavesTheDescriptionAsItWasAndTellsNobody) {
+TEST_P(FailedTemporaryFile, KeepsTheDescriptionWithoutAMessage) {
   TestProject project;
   project.program.project.ProjectDescription = "Shale roof\r\n\r\nWater";
   project.platform.files.Fail(GetParam(), error_number::PermissionDenied);
@@ -118,10 +118,10 @@ TEST_P(FailingTemporaryFile, LeavesTheDescriptionAsItWasAndTellsNobody) {
   EXPECT_EQ(project.program.session.history.Text, "");
 }
 
-INSTANTIATE_TEST_SUITE_P(AnyStep, FailingTemporaryFile,
+INSTANTIATE_TEST_SUITE_P(AnyStep, FailedTemporaryFile,
                          testing::Values(Step::Find, Step::Create, Step::Write, Step::Close, Step::Read, Step::Remove));
 
-TEST(Description, MoreLinesThanCanBeCountedLeaveItAsItWas) {
+TEST(Description, OfMoreLinesThanCanBeCountedIsNotChanged) {
   std::string description;
   for (int i = 0; i < 32766; ++i) description += "x\n";
 
@@ -134,7 +134,7 @@ TEST(Description, MoreLinesThanCanBeCountedLeaveItAsItWas) {
 struct Loaded {
   std::string text;
   Integer lines;
-  std::string behind;  // the next line of the file
+  std::string behind;  // the line after the description
 };
 
 Loaded Load(const std::string& bytes, DescriptionMode mode = DescriptionMode::Marked, Integer fileVersion = 103) {
@@ -155,27 +155,27 @@ TEST(Description, IsReadBetweenItsMarkers) {
   EXPECT_EQ(loaded.behind, "45");
 }
 
-TEST(Description, AnEmptyLineBetweenTheMarkersReadsBackAsEmpty) {
+TEST(Description, OfAnEmptyLineBetweenTheMarkersIsEmpty) {
   const Loaded loaded = Load(Lines({"##StartDesc##", "", "##EndDesc##", "45"}));
 
   EXPECT_EQ(loaded.text, "");
   EXPECT_EQ(loaded.lines, 1);
 }
 
-TEST(Description, ItsFirstLineIsTakenWhole) {
+TEST(Description, HasItsWholeFirstLine) {
   const Loaded loaded = Load(Lines({"##StartDesc##", "  \"Shale\", coal ", "##EndDesc##", "45"}));
 
   EXPECT_EQ(loaded.text, "  \"Shale\", coal \r\n");
 }
 
-TEST(Description, LaterLinesPassThroughTheItemReader) {
+TEST(Description, HasItsLaterLinesReadAsItems) {
   const Loaded loaded = Load(Lines({"##StartDesc##", "Roof", "  shale, coal ", "\"clay, wet\"", "##EndDesc##", "45"}));
 
   EXPECT_EQ(loaded.text, "Roof\r\nshale\r\ncoal \r\nclay, wet\r\n");
   EXPECT_EQ(loaded.lines, 5);
 }
 
-TEST(Description, IsReadInTheCodePageInEachOfItsLinesThoughAllElseIsPlain) {
+TEST(Description, IsReadAsWindows1252InEachOfItsLines) {
   const Loaded loaded = Load(Lines({"##StartDesc##",
                                     "Gr\xFC"
                                     "be",
@@ -186,29 +186,29 @@ TEST(Description, IsReadInTheCodePageInEachOfItsLinesThoughAllElseIsPlain) {
   EXPECT_EQ(loaded.text, "Gr\u00FCbe\r\nStra\u00DFe\r\nG\u00E4nge\r\n");
 }
 
-TEST(Description, WithoutAStartMarkerItsFirstLineCountsAndTheMarkerBecomesALine) {
+TEST(Description, HasTheLineBeforeItsStartMarkerAndTheMarker) {
   const Loaded loaded = Load(Lines({"Panel 3", "##StartDesc##", "Roof", "##EndDesc##", "45"}));
 
   EXPECT_EQ(loaded.text, "Panel 3\r\n##StartDesc##\r\nRoof\r\n");
 }
 
-TEST(Description, AnEndMarkerRightAwayIsAnEmptyOne) {
+TEST(Description, WithAnImmediateEndMarkerIsEmpty) {
   EXPECT_EQ(Load(Lines({"##EndDesc##", "45"})).behind, "45");
   EXPECT_EQ(Load(Lines({"##StartDesc##", "##EndDesc##", "45"})).behind, "45");
 }
 
-TEST(Description, MarkersMatchExactly) {
+TEST(Description, KeepsMarkersInLowerCaseAsText) {
   const Loaded loaded = Load(Lines({"##startdesc##", "##enddesc##", "##EndDesc##,45"}));
 
   EXPECT_EQ(loaded.text, "##startdesc##\r\n##enddesc##\r\n");
   EXPECT_EQ(loaded.behind, "45");
 }
 
-TEST(Description, WithoutAnEndMarkerTheFileEndsTooSoon) {
+TEST(Description, WithoutAnEndMarkerIsAnEndOfFileError) {
   EXPECT_EQ(ErrorNumberOf([] { Load(Lines({"##StartDesc##", "Shale", "45"})); }), 62);
 }
 
-TEST(Description, MoreLinesThanCanBeCountedOverflow) {
+TEST(Description, OfMoreLinesThanCanBeCountedOverflowsWhenItIsRead) {
   std::string bytes = "##StartDesc##\r\n";
   for (int i = 0; i < 32766; ++i) bytes += "x\n";
 
@@ -216,7 +216,7 @@ TEST(Description, MoreLinesThanCanBeCountedOverflow) {
   EXPECT_EQ(ErrorNumberOf([&] { Load(bytes + "x\n##EndDesc##\n45\n"); }), 6);
 }
 
-TEST(Description, TheLegacyReadingTakesFiveLinesWhole) {
+TEST(Description, OfAnOldFormatIsFiveWholeLines) {
   const std::string bytes = Lines({"Panel 3, east", "", "  Shale", "\"wet\"", "   ", "45"});
 
   for (const Loaded& loaded : {Load(bytes, DescriptionMode::Legacy), Load(bytes, DescriptionMode::Marked, 49)}) {
@@ -226,7 +226,7 @@ TEST(Description, TheLegacyReadingTakesFiveLinesWhole) {
   }
 }
 
-TEST(Description, FormatFiftyAlreadyHasMarkers) {
+TEST(Description, HasMarkersSinceFormatFifty) {
   EXPECT_EQ(Load(Lines({"##StartDesc##", "Roof", "##EndDesc##", "45"}), DescriptionMode::Marked, 50).text, "Roof\r\n");
 }
 

@@ -1,4 +1,4 @@
-// Files that no user made must end in their error quickly and with little memory.
+// Huge files that are not projects end in an error quickly and with little memory.
 
 #include <gmock/gmock.h>
 
@@ -15,9 +15,9 @@ int OpenError(const std::string& bytes) {
   return ErrorNumberOf([&] { project.Open(); });
 }
 
-class NoProject : public testing::TestWithParam<std::string> {};
+class HugeFileWithoutALabel : public testing::TestWithParam<std::string> {};
 
-TEST_P(NoProject, IsRefusedByItsHeadAndNotReadFurther) {
+TEST_P(HugeFileWithoutALabel, IsRefusedAfterItsFirstBytes) {
   TestProject project;
   project.File() = GetParam();
 
@@ -28,11 +28,11 @@ TEST_P(NoProject, IsRefusedByItsHeadAndNotReadFurther) {
   EXPECT_LE(project.platform.files.bytesRead, 64U * 1024);
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, NoProject,
+INSTANTIATE_TEST_SUITE_P(Kinds, HugeFileWithoutALabel,
                          testing::Values(std::string(Huge, 'x'), std::string(Huge, '\0'),
                                          "\"" + std::string(Huge, '\n'), "a letter\n" + std::string(Huge, 'x')));
 
-TEST(HugeInput, WhatLiesBeyondTheLongestProjectIsNotRead) {
+TEST(HugeFile, IsNotReadBeyondTheLongestProject) {
   constexpr std::size_t Longest = std::size_t{256} * 1024 * 1024;
   TestProject project;
   ASSERT_TRUE(project.Save());
@@ -43,24 +43,24 @@ TEST(HugeInput, WhatLiesBeyondTheLongestProjectIsNotRead) {
   EXPECT_LE(project.platform.files.bytesRead, Longest + 1024 * 1024);
 }
 
-TEST(HugeInput, AnEndlessTitle) { EXPECT_EQ(OpenError("ORBY_104\n0\n0\n" + std::string(Huge, 'x')), 7); }
+TEST(HugeFile, WithAHugeTitleIsOutOfMemory) { EXPECT_EQ(OpenError("ORBY_104\n0\n0\n" + std::string(Huge, 'x')), 7); }
 
-TEST(HugeInput, AnEndlessNumber) { EXPECT_EQ(OpenError("ORBY_104\n" + std::string(Huge, '1')), 7); }
+TEST(HugeFile, WithAHugeNumberIsOutOfMemory) { EXPECT_EQ(OpenError("ORBY_104\n" + std::string(Huge, '1')), 7); }
 
-TEST(HugeInput, NothingButBlanks) { EXPECT_EQ(OpenError(std::string(Huge, ' ')), 62); }
+TEST(HugeFile, OfBlanksIsAnEndOfFileError) { EXPECT_EQ(OpenError(std::string(Huge, ' ')), 62); }
 
-TEST(HugeInput, AMillionLinesOfDescription) {
+TEST(HugeFile, WithAMillionLinesOfDescriptionOverflows) {
   std::string bytes = "ORBY_104\n0\n0\nPanel 3\n##StartDesc##\n";
   for (int i = 0; i < 1'000'000; ++i) bytes += "shale\n";
 
   EXPECT_EQ(OpenError(bytes), 6);
 }
 
-TEST(HugeInput, AMillionBlankLinesOfDescription) {
+TEST(HugeFile, WithAMillionBlankLinesOfDescriptionIsAnEndOfFileError) {
   EXPECT_EQ(OpenError("ORBY_104\n0\n0\nPanel 3\n##StartDesc##\n" + std::string(1'000'000, '\n')), 62);
 }
 
-TEST(HugeInput, ADescriptionOfManyLongLines) {
+TEST(HugeFile, WithADescriptionOfManyLongLinesIsOutOfMemory) {
   std::string bytes = "ORBY_104\n0\n0\nPanel 3\n##StartDesc##\n";
   for (int i = 0; i < 20; ++i) bytes += std::string(1024 * 1024, 'x') + "\n";
 

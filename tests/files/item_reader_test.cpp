@@ -7,7 +7,7 @@
 namespace orby::test {
 namespace {
 
-TEST(ItemReader, NumbersAreSeparatedByBlanksCommasAndLineEnds) {
+TEST(ItemReader, ReadsNumbersSeparatedByBlanksCommasAndLineEnds) {
   ItemReader reader("45 0.75,162\r\n6.2\n-3\r7");
 
   EXPECT_EQ(reader.ReadInteger(), 45);
@@ -18,13 +18,13 @@ TEST(ItemReader, NumbersAreSeparatedByBlanksCommasAndLineEnds) {
   EXPECT_EQ(reader.ReadInteger(), 7);
 }
 
-TEST(ItemReader, BlanksAndEmptyLinesInFrontOfANumberAreSkipped) {
+TEST(ItemReader, SkipsBlanksAndEmptyLinesBeforeANumber) {
   ItemReader reader("  \r\n\r\n \n 400\r\n");
 
   EXPECT_EQ(reader.ReadSingle(), 400.0F);
 }
 
-TEST(ItemReader, ANumberTakesItsBlanksAndOneLineEndSoThatTheNextLineStartsCleanly) {
+TEST(ItemReader, SkipsBlanksAndOneLineEndAfterANumber) {
   ItemReader reader(" 1 \r\n\r\nMain east");
 
   EXPECT_EQ(reader.ReadInteger(), 1);
@@ -32,7 +32,7 @@ TEST(ItemReader, ANumberTakesItsBlanksAndOneLineEndSoThatTheNextLineStartsCleanl
   EXPECT_EQ(reader.ReadLine(), "Main east");
 }
 
-TEST(ItemReader, OnlyOneCommaIsTakenBehindANumber) {
+TEST(ItemReader, SkipsOnlyOneCommaAfterANumber) {
   ItemReader reader("8 ,,3");
 
   EXPECT_EQ(reader.ReadInteger(), 8);
@@ -40,7 +40,7 @@ TEST(ItemReader, OnlyOneCommaIsTakenBehindANumber) {
   EXPECT_EQ(reader.ReadInteger(), 3);
 }
 
-TEST(ItemReader, ACommaAndTheLineEndBehindItAreTwoDelimiters) {
+TEST(ItemReader, ReadsACommaAndTheLineEndAfterItAsTwoDelimiters) {
   ItemReader reader("8,\r\nMain east\r\n");
 
   EXPECT_EQ(reader.ReadInteger(), 8);
@@ -48,7 +48,7 @@ TEST(ItemReader, ACommaAndTheLineEndBehindItAreTwoDelimiters) {
   EXPECT_EQ(reader.ReadLine(), "Main east");
 }
 
-TEST(ItemReader, AnItemThatIsNoNumberReadsAsFarAsItIsOne) {
+TEST(ItemReader, ReadsTheNumberAtTheStartOfAnItem) {
   ItemReader reader("shale\n12ft\n&HFF\n1D2\n\"7\"\n");
 
   EXPECT_EQ(reader.ReadInteger(), 0);
@@ -58,7 +58,7 @@ TEST(ItemReader, AnItemThatIsNoNumberReadsAsFarAsItIsOne) {
   EXPECT_EQ(reader.ReadInteger(), 0);
 }
 
-TEST(ItemReader, WholeNumbersRoundHalfToEven) {
+TEST(ItemReader, RoundsWholeNumbersHalfToEven) {
   ItemReader reader("2.5 3.5 -0.5");
 
   EXPECT_EQ(reader.ReadInteger(), 2);
@@ -66,7 +66,7 @@ TEST(ItemReader, WholeNumbersRoundHalfToEven) {
   EXPECT_EQ(reader.ReadInteger(), 0);
 }
 
-TEST(ItemReader, NumbersBeyondTheirTypeOverflow) {
+TEST(ItemReader, OverflowsForNumbersOutsideTheRangeOfTheirType) {
   EXPECT_EQ(ErrorNumberOf([] { ItemReader("32768").ReadInteger(); }), 6);
   EXPECT_EQ(ErrorNumberOf([] { ItemReader("-32769").ReadInteger(); }), 6);
   EXPECT_EQ(ErrorNumberOf([] { ItemReader("1E39").ReadSingle(); }), 6);
@@ -75,14 +75,14 @@ TEST(ItemReader, NumbersBeyondTheirTypeOverflow) {
   EXPECT_EQ(ItemReader("3.402823E+38").ReadSingle(), 3.402823E+38F);
 }
 
-TEST(ItemReader, TextLosesItsLeadingBlanksAndKeepsTheOnesBehind) {
+TEST(ItemReader, SkipsLeadingBlanksOfATextAndKeepsTrailingOnes) {
   ItemReader reader("  Rebar no. 6  \r\nnext");
 
   EXPECT_EQ(reader.ReadText(), "Rebar no. 6  ");
   EXPECT_EQ(reader.ReadText(), "next");
 }
 
-TEST(ItemReader, ACommaEndsAText) {
+TEST(ItemReader, EndsATextAtAComma) {
   ItemReader reader("Rebar, epoxy,\r\n7");
 
   EXPECT_EQ(reader.ReadText(), "Rebar");
@@ -91,7 +91,7 @@ TEST(ItemReader, ACommaEndsAText) {
   EXPECT_EQ(reader.ReadInteger(), 7);
 }
 
-TEST(ItemReader, AnEmptyLineIsAnEmptyText) {
+TEST(ItemReader, ReadsAnEmptyLineAsAnEmptyText) {
   ItemReader reader("\r\n\nsandstone");
 
   EXPECT_EQ(reader.ReadText(), "");
@@ -99,14 +99,14 @@ TEST(ItemReader, AnEmptyLineIsAnEmptyText) {
   EXPECT_EQ(reader.ReadText(), "sandstone");
 }
 
-TEST(ItemReader, QuotesKeepCommasBlanksAndLineEnds) {
+TEST(ItemReader, KeepsCommasBlanksAndLineEndsInQuotes) {
   ItemReader reader("  \" Rebar, no. 6\r\nepoxy \"  ,next\r\n");
 
   EXPECT_EQ(reader.ReadText(), " Rebar, no. 6\r\nepoxy ");
   EXPECT_EQ(reader.ReadText(), "next");
 }
 
-TEST(ItemReader, BlanksAndOneLineEndAreTakenBehindAClosingQuote) {
+TEST(ItemReader, SkipsBlanksAndOneLineEndAfterAClosingQuote) {
   ItemReader reader("\"Rebar\"  \r\n\r\nlast");
 
   EXPECT_EQ(reader.ReadText(), "Rebar");
@@ -114,27 +114,27 @@ TEST(ItemReader, BlanksAndOneLineEndAreTakenBehindAClosingQuote) {
   EXPECT_EQ(reader.ReadText(), "last");
 }
 
-TEST(ItemReader, WhatFollowsAClosingQuoteDirectlyIsTheNextItem) {
+TEST(ItemReader, ReadsTheTextAfterAClosingQuoteAsTheNextItem) {
   ItemReader reader("\"Rebar\" no. 6\r\n");
 
   EXPECT_EQ(reader.ReadText(), "Rebar");
   EXPECT_EQ(reader.ReadText(), "no. 6");
 }
 
-TEST(ItemReader, AQuoteInsideATextIsPartOfIt) {
+TEST(ItemReader, KeepsAQuoteInsideAText) {
   ItemReader reader("bolt 3/4\" long, 6\r\n");
 
   EXPECT_EQ(reader.ReadText(), "bolt 3/4\" long");
 }
 
-TEST(ItemReader, AnUnclosedQuoteRunsToTheEndOfTheFile) {
+TEST(ItemReader, ReadsAnUnclosedQuoteToTheEndOfTheFile) {
   ItemReader reader("\"Rebar,\r\n6\r\n");
 
   EXPECT_EQ(reader.ReadText(), "Rebar,\r\n6\r\n");
   EXPECT_EQ(ErrorNumberOf([&] { reader.ReadText(); }), 62);
 }
 
-TEST(ItemReader, AWholeLineKeepsBlanksCommasAndQuotes) {
+TEST(ItemReader, KeepsBlanksCommasAndQuotesInAWholeLine) {
   ItemReader reader("  \"Crib\", 4-point \rsecond\nthird\r\nfourth");
 
   EXPECT_EQ(reader.ReadLine(), "  \"Crib\", 4-point ");
@@ -143,34 +143,34 @@ TEST(ItemReader, AWholeLineKeepsBlanksCommasAndQuotes) {
   EXPECT_EQ(reader.ReadLine(), "fourth");
 }
 
-TEST(ItemReader, ReadingPastTheEndIsTheEndOfFileError) {
+TEST(ItemReader, ReportsTheEndOfTheFileAfterTheLastItem) {
   EXPECT_EQ(ErrorNumberOf([] { ItemReader("").ReadText(); }), 62);
   EXPECT_EQ(ErrorNumberOf([] { ItemReader("").ReadLine(); }), 62);
   EXPECT_EQ(ErrorNumberOf([] { ItemReader("").ReadInteger(); }), 62);
   EXPECT_EQ(ErrorNumberOf([] { ItemReader("").ReadSingle(); }), 62);
 }
 
-TEST(ItemReader, BlanksAloneHoldNoItem) {
+TEST(ItemReader, ReportsTheEndOfTheFileForBlanksOnly) {
   EXPECT_EQ(ErrorNumberOf([] { ItemReader("   ").ReadText(); }), 62);
   EXPECT_EQ(ErrorNumberOf([] { ItemReader(" \r\n \r\n").ReadSingle(); }), 62);
   EXPECT_EQ(ItemReader("   ").ReadLine(), "   ");
 }
 
-TEST(ItemReader, Utf8StaysAsItIs) {
+TEST(ItemReader, ReadsUtf8) {
   ItemReader reader("Schacht \xC3\x84\r\nT\xC3\xBCr\r\n");
 
   EXPECT_EQ(reader.ReadLine(), "Schacht \xC3\x84");
   EXPECT_EQ(reader.ReadText(), "T\xC3\xBCr");
 }
 
-TEST(ItemReader, OneByteThatIsNoUtf8MakesTheWholeFileCodePage) {
+TEST(ItemReader, ReadsAFileWithOneByteThatIsNotUtf8AsWindows1252) {
   ItemReader reader("\xC3\x84\r\n\x80 5\r\n");
 
-  EXPECT_EQ(reader.ReadLine(), "\xC3\x83\xE2\x80\x9E");  // the two characters that the bytes C3 and 84 stand for
+  EXPECT_EQ(reader.ReadLine(), "\xC3\x83\xE2\x80\x9E");  // the characters of the bytes C3 and 84
   EXPECT_EQ(reader.ReadText(), "\xE2\x82\xAC 5");        // the euro sign
 }
 
-TEST(ItemReader, ACopyReadsOnByItself) {
+TEST(ItemReader, HasItsOwnPositionInACopy) {
   ItemReader reader("first,second");
   ItemReader copy = reader;
 
@@ -178,7 +178,7 @@ TEST(ItemReader, ACopyReadsOnByItself) {
   EXPECT_EQ(reader.ReadText(), "first");
 }
 
-TEST(ItemReader, TheLongestItemPassesAndOneByteMoreIsOutOfMemory) {
+TEST(ItemReader, ReadsTheLongestItemAndIsOutOfMemoryForOneMoreByte) {
   const std::string longest(16777216, '7');
   const std::string longer = longest + "7";
 

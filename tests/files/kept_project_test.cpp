@@ -21,7 +21,7 @@ struct KeptProject : testing::Test {
   TestProject project;
 };
 
-TEST_F(KeptProject, IsReadFromAProjectFileUnderItsOldName) {
+TEST_F(KeptProject, FromAProjectFileHasItsOldName) {
   const auto read = ReadKeptProject(project.program, ProjectFileBytes(project.program.project), "/designs/panel7.orb");
 
   ASSERT_TRUE(read);
@@ -31,7 +31,7 @@ TEST_F(KeptProject, IsReadFromAProjectFileUnderItsOldName) {
   EXPECT_TRUE(read->UnitsLocked);
 }
 
-TEST_F(KeptProject, OfAnOlderFormatHasTheDefaultsForWhatItLacks) {
+TEST_F(KeptProject, OfAnOlderFormatHasDefaultsForMissingValues) {
   project.program.project.WorkParms.Primary.Desc = "of the open project";
   std::string bytes = ProjectFileBytes(project.program.project);
   bytes.replace(bytes.find("ORBY_105"), 8, "ORBY_104");
@@ -42,7 +42,7 @@ TEST_F(KeptProject, OfAnOlderFormatHasTheDefaultsForWhatItLacks) {
   EXPECT_EQ(read->WorkParms.Primary.Desc, "");
 }
 
-TEST_F(KeptProject, IsReadFromARecoveryFileUnderTheNameInIt) {
+TEST_F(KeptProject, FromARecoveryFileHasTheNameInTheFile) {
   const auto read = ReadKeptProject(project.program, RecoveryBytes(project.program.project), "other");
 
   ASSERT_TRUE(read);
@@ -50,7 +50,7 @@ TEST_F(KeptProject, IsReadFromARecoveryFileUnderTheNameInIt) {
   EXPECT_EQ(read->WorkParms.Place.DepthofCover, 725);
 }
 
-TEST_F(KeptProject, IsNoneInDamagedBytes) {
+TEST_F(KeptProject, IsNotReadFromDamagedBytes) {
   const std::string file = ProjectFileBytes(project.program.project);
   const std::string recovery = RecoveryBytes(project.program.project);
 
@@ -61,7 +61,7 @@ TEST_F(KeptProject, IsNoneInDamagedBytes) {
   }
 }
 
-TEST_F(KeptProject, IsReadWithoutATraceInTheProgram) {
+TEST_F(KeptProject, IsReadWithoutAChangeOfTheProgram) {
   project.program.session.settings.DisplayHistoryWin = 1;
 
   ReadKeptProject(project.program, "notes of the shift", ProjectPath);
@@ -72,13 +72,13 @@ TEST_F(KeptProject, IsReadWithoutATraceInTheProgram) {
   EXPECT_EQ(project.program.project.ProjectTitle, "Panel 3");
 }
 
-TEST_F(KeptProject, AsAFileIsTheProjectFileAsItWas) {
+TEST_F(KeptProject, AsAFileIsTheProjectFileUnchanged) {
   const std::string bytes = ProjectFileBytes(project.program.project);
 
   EXPECT_EQ(KeptProjectAsFile(project.program, bytes), bytes);
 }
 
-TEST_F(KeptProject, AsAFileIsTheRecoveryFileAsASaveWouldWriteIt) {
+TEST_F(KeptProject, AsAFileIsTheRecoveryFileAsASaveWritesIt) {
   const std::string recovery = RecoveryBytes(project.program.project);
 
   const auto bytes = KeptProjectAsFile(project.program, recovery);

@@ -8,7 +8,7 @@
 namespace orby::test {
 namespace {
 
-TEST(NewProject, EnglishDefaultsAreTheseToTheLetter) {
+TEST(NewProject, HasTheEnglishDefaults) {
   TestProject project;
 
   FileNew(project.program, true, true);
@@ -16,7 +16,7 @@ TEST(NewProject, EnglishDefaultsAreTheseToTheLetter) {
   EXPECT_EQ(ProjectFileBytes(project.program.project), ReadTestData("projects/new_english.orb"));
 }
 
-TEST(NewProject, MetricDefaultsAreTheseToTheLetter) {
+TEST(NewProject, HasTheMetricDefaults) {
   TestProject project;
   project.program.session.settings.UnitsDefault = Metric;
 
@@ -25,7 +25,7 @@ TEST(NewProject, MetricDefaultsAreTheseToTheLetter) {
   EXPECT_EQ(ProjectFileBytes(project.program.project), ReadTestData("projects/new_metric.orb"));
 }
 
-TEST(NewProject, UltimateStrengthTakesTheUltimateGrade) {
+TEST(NewProject, WithUltimateStrengthHasTheUltimateGrade) {
   TestProject project;
   project.program.session.options.BoltGradeAsUltimateDefault = StrengthBasis::Ultimate;
 
@@ -41,7 +41,7 @@ TEST(NewProject, UltimateStrengthTakesTheUltimateGrade) {
   EXPECT_EQ(project.program.project.WorkParms.Entries.Bolt.GradeStd, 690);
 }
 
-TEST(NewProject, TakesTheUsersOwnDefaults) {
+TEST(NewProject, HasTheDefaultsOfTheUser) {
   TestProject project;
   DesignDefaults& defaults = project.program.session.defaults;
   defaults.DefaultCMRR = 52;
@@ -77,7 +77,7 @@ TEST(NewProject, TakesTheUsersOwnDefaults) {
   EXPECT_EQ(record.Place.EntryWidth, 18);
 }
 
-TEST(NewProject, KeepsNameAndUnitsWhenAskedTo) {
+TEST(NewProject, KeepsNameAndUnitsOnRequest) {
   TestProject project;
   project.program.project.WorkParms.Units = Metric;
   project.program.project.WorkParms.Basis = StrengthBasis::Ultimate;
@@ -113,7 +113,7 @@ TEST(NewProject, SetsTheStateOfAnUntouchedProject) {
   EXPECT_EQ(program.session.history.Text, "1. File initialized. Use Edit-Project Parameters to enter data\r\n");
 }
 
-TEST(NewProject, LeavesNothingOfThePreviousBolts) {
+TEST(NewProject, KeepsNothingOfThePreviousBolts) {
   TestProject project;
   for (BoltSelection* set : project.program.project.WorkParms.BoltSets()) {
     set->Options = set->TableRow = set->DiameterMode = set->GradeMode = 1;
@@ -134,7 +134,7 @@ TEST(NewProject, LeavesNothingOfThePreviousBolts) {
   }
 }
 
-TEST(NewProject, LeavesTheEstimatorsChoiceTheComputedFieldsAndThePreviewAlone) {
+TEST(NewProject, DoesNotChangeTheEstimatorTheComputedFieldsAndThePreview) {
   TestProject project;
   Program& program = project.program;
   program.project.WorkParms.Place.CMRRRegionIndex = 3;
@@ -158,7 +158,7 @@ TEST(NewProject, LeavesTheEstimatorsChoiceTheComputedFieldsAndThePreviewAlone) {
   EXPECT_EQ(program.project.UseAUSStandardTable, 1);
 }
 
-TEST(NewProject, AnEmptySupportListGivesAnEmptyName) {
+TEST(NewProject, HasAnEmptySupportNameWhenTheListIsEmpty) {
   TestProject project;
   project.program.project.WorkParms.Entries.Standing.TypeName = "Pumped crib";
   project.program.session.catalogs.StandSupports.HighestIndex = -1;

@@ -1,4 +1,4 @@
-// Project files of a real disk that are written over.
+// Project files on a real disk that are overwritten.
 #include "files/overwritten_file.h"
 
 #include <gmock/gmock.h>
@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// A disk that is full as soon as something is written, which it could not tell beforehand.
+// A disk that reports that it is full only when something is written.
 class DiskThatFills : public DiskFiles {
  public:
   using DiskFiles::DiskFiles;
@@ -66,7 +66,7 @@ struct OverwrittenOnDisk : testing::Test {
   std::vector<std::string> remarks;
 };
 
-TEST_F(OverwrittenOnDisk, ANewFileThatALinkLeadsToIsGoneAfterAFailureAndTheLinkStays) {
+TEST_F(OverwrittenOnDisk, AFailedSaveRemovesTheNewTargetOfALinkAndKeepsTheLink) {
   fs::create_symlink("far.orb", folder.At("panel3.orb"));
   disk.isFull = true;
 
@@ -77,7 +77,7 @@ TEST_F(OverwrittenOnDisk, ANewFileThatALinkLeadsToIsGoneAfterAFailureAndTheLinkS
   EXPECT_THAT(remarks, IsEmpty());
 }
 
-TEST_F(OverwrittenOnDisk, ALongFileThatMayNotBeWrittenIsRefusedAndKeepsItsName) {
+TEST_F(OverwrittenOnDisk, ALongFileThatMayNotBeWrittenIsNotRenamed) {
   folder.Store("panel3.orb", longDesign);
   chmod(folder.At("panel3.orb").c_str(), 0444);
   chmod(folder.Path().c_str(), 0777);
@@ -91,7 +91,7 @@ TEST_F(OverwrittenOnDisk, ALongFileThatMayNotBeWrittenIsRefusedAndKeepsItsName) 
   EXPECT_TRUE(folder.Read("panel3.orb") == longDesign);
 }
 
-TEST_F(OverwrittenOnDisk, ALongFileThatALinkLeadsToIsRenamedAndTheLinkLeadsToTheNewOne) {
+TEST_F(OverwrittenOnDisk, TheLongTargetOfALinkIsRenamedAndTheLinkLeadsToTheNewFile) {
   fs::create_directory(folder.At("far"));
   folder.Store("far/design.orb", longDesign);
   fs::create_symlink("far/design.orb", folder.At("panel3.orb"));
@@ -104,7 +104,7 @@ TEST_F(OverwrittenOnDisk, ALongFileThatALinkLeadsToIsRenamedAndTheLinkLeadsToThe
   EXPECT_THAT(folder.Names(), ElementsAre("far", "panel3.orb"));
 }
 
-TEST_F(OverwrittenOnDisk, ALongFileThatALinkLeadsToHasItsNameBackAfterAFailure) {
+TEST_F(OverwrittenOnDisk, TheLongTargetOfALinkGetsItsNameBackAfterAFailedSave) {
   folder.Store("design.orb", longDesign);
   fs::create_symlink("design.orb", folder.At("panel3.orb"));
   disk.isFull = true;
@@ -116,7 +116,7 @@ TEST_F(OverwrittenOnDisk, ALongFileThatALinkLeadsToHasItsNameBackAfterAFailure) 
   EXPECT_THAT(folder.Names(), ElementsAre("design.orb", "panel3.orb"));
 }
 
-TEST_F(OverwrittenOnDisk, WhatTakesThePlaceOfALongFileIsReadByTheSamePeople) {
+TEST_F(OverwrittenOnDisk, TheNewFileHasThePermissionsOfALongOldFile) {
   for (const mode_t mode : {0600U, 0640U, 0666U}) {
     folder.Store("panel3.orb", longDesign);
     chmod(folder.At("panel3.orb").c_str(), mode);
@@ -128,7 +128,7 @@ TEST_F(OverwrittenOnDisk, WhatTakesThePlaceOfALongFileIsReadByTheSamePeople) {
   }
 }
 
-TEST_F(OverwrittenOnDisk, TheCopyOfAFileIsReadByItsUserAlone) {
+TEST_F(OverwrittenOnDisk, TheBackupCanBeReadOnlyByTheUser) {
   folder.Store("panel3.orb", "the old design");
 
   EXPECT_EQ(ErrorOfSaving("panel3.orb"), 0);
@@ -136,7 +136,7 @@ TEST_F(OverwrittenOnDisk, TheCopyOfAFileIsReadByItsUserAlone) {
   EXPECT_EQ(ModeOf("data/Backups"), 0700U);
 }
 
-// A pipe has no length, and who reads it waits for what another program writes.
+// A pipe has no length, and a read waits for another program.
 class Pipe : public MemoryFiles {
  public:
   std::uint64_t FileLength(const std::string&) override { return 0; }

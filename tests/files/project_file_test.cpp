@@ -12,7 +12,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-// A file of the newest format with one of its lines replaced, counted from 1.
+// Returns a file of the newest format with one line replaced. Lines count from 1.
 std::string WithLine(std::size_t number, const std::string& text) {
   const std::string bytes = ReadTestData("projects/orby_105.orb");
   std::size_t start = 0;
@@ -29,7 +29,7 @@ std::string WithDataLine(std::size_t number, const std::string& text) {
 
 const std::string RefusalText = "Invalid ORBY file format. File can not be opened.";
 
-TEST(ProjectFile, OpeningSetsTheStateOfASavedProject) {
+TEST(ProjectFile, IsASavedProjectAfterItIsOpened) {
   TestProject project;
   project.program.windows.WorkParmsCopy.Place.DepthofCover = 777;
   project.program.session.OutBuf[1] = "report";
@@ -47,7 +47,7 @@ TEST(ProjectFile, OpeningSetsTheStateOfASavedProject) {
             "1. File initialized. Use Edit-Project Parameters to enter data\r\n2. Opening: /designs/panel3.orb\r\n");
 }
 
-TEST(ProjectFile, TheHeaderMismatchMovesTitleAndMarkerIntoTheDescription) {
+TEST(ProjectFile, HasItsTitleAndAMarkerInTheDescriptionAfterItIsOpened) {
   TestProject project;
   FileNew(project.program, false, true);
   project.program.project.ProjectTitle = "T";
@@ -61,7 +61,7 @@ TEST(ProjectFile, TheHeaderMismatchMovesTitleAndMarkerIntoTheDescription) {
   EXPECT_EQ(project.program.project.DescLines, 5);
 }
 
-TEST(ProjectFile, EverySaveAndOpenLetsTheDescriptionGrowAndMovesNoValue) {
+TEST(ProjectFile, GetsALongerDescriptionButTheSameValuesWithEachSaveAndOpen) {
   TestProject project;
   FileNew(project.program, false, true);
   project.program.project.ProjectTitle = "T";
@@ -86,7 +86,7 @@ TEST(ProjectFile, EverySaveAndOpenLetsTheDescriptionGrowAndMovesNoValue) {
   EXPECT_EQ(project.File().substr(project.File().find("##EndDesc##")), data);
 }
 
-TEST(ProjectFile, ABlankTitleMovesTheMarkerAlone) {
+TEST(ProjectFile, WithABlankTitleHasOnlyTheMarkerInTheDescription) {
   TestProject project;
   FileNew(project.program, false, true);
 
@@ -97,7 +97,7 @@ TEST(ProjectFile, ABlankTitleMovesTheMarkerAlone) {
   EXPECT_EQ(project.program.project.ProjectDescription, "##StartDesc##\r\n");
 }
 
-TEST(ProjectFile, TheTableChoiceIsWrittenButNeverRead) {
+TEST(ProjectFile, StoresTheTableChoiceButDoesNotRestoreIt) {
   TestProject project;
   FileNew(project.program, false, true);
   project.program.project.UseAUSStandardTable = 1;
@@ -110,7 +110,7 @@ TEST(ProjectFile, TheTableChoiceIsWrittenButNeverRead) {
   EXPECT_EQ(project.program.project.ProjectTitle, " 1 ");
 }
 
-TEST(ProjectFile, TheIntersectionsSupportModeComesBackAsTheEntrys) {
+TEST(ProjectFile, RestoresTheSupportModeOfIntersectionsAsThatOfEntries) {
   TestProject project;
   FileNew(project.program, false, true);
   project.program.project.WorkParms.Entries.Standing.TypeMode = 0;
@@ -123,7 +123,7 @@ TEST(ProjectFile, TheIntersectionsSupportModeComesBackAsTheEntrys) {
   EXPECT_EQ(project.program.project.WorkParms.Intersections.Standing.TypeMode, 0);
 }
 
-TEST(ProjectFile, CommaInABoltDescriptionShiftsTheFieldsBehindIt) {
+TEST(ProjectFile, ShiftsTheFieldsAfterABoltDescriptionWithAComma) {
   TestProject project;
 
   ASSERT_TRUE(project.Open(WithDataLine(18, "Rebar, 6 ft")));
@@ -137,7 +137,7 @@ TEST(ProjectFile, CommaInABoltDescriptionShiftsTheFieldsBehindIt) {
   EXPECT_EQ(record.Primary.GradeStd, 21.25F);
 }
 
-TEST(ProjectFile, CommasAndQuotesInASupportNameAreSafe) {
+TEST(ProjectFile, KeepsCommasAndQuotesInASupportName) {
   TestProject project;
 
   ASSERT_TRUE(project.Open(WithDataLine(60, " \"Crib\", 4-point ")));
@@ -147,7 +147,7 @@ TEST(ProjectFile, CommasAndQuotesInASupportNameAreSafe) {
   EXPECT_EQ(project.program.project.WorkParms.Cost.WeeksYear, 120.25F);
 }
 
-TEST(ProjectFile, ANumberThatIsNoneReadsAsZero) {
+TEST(ProjectFile, ReadsALineWithoutANumberAsZero) {
   TestProject project;
 
   ASSERT_TRUE(project.Open(WithDataLine(5, "deep")));
@@ -156,7 +156,7 @@ TEST(ProjectFile, ANumberThatIsNoneReadsAsZero) {
   EXPECT_EQ(project.program.project.WorkParms.Place.UnitWeight, 6.25F);
 }
 
-TEST(ProjectFile, ExponentFormIsTakenBack) {
+TEST(ProjectFile, ReadsNumbersInExponentForm) {
   TestProject project;
 
   ASSERT_TRUE(project.Open(WithDataLine(5, "3.333334E-02")));
@@ -164,7 +164,7 @@ TEST(ProjectFile, ExponentFormIsTakenBack) {
   EXPECT_EQ(project.program.project.WorkParms.Place.DepthofCover, 3.333334E-02F);
 }
 
-TEST(ProjectFile, AUnitSystemThatIsNoneBecomesEnglish) {
+TEST(ProjectFile, ReadsAnUnknownUnitSystemAsEnglish) {
   for (const char* units : {" 2 ", "-1 ", " 32767 "}) {
     TestProject project;
     project.program.session.settings.UnitsDefault = Metric;
@@ -175,7 +175,7 @@ TEST(ProjectFile, AUnitSystemThatIsNoneBecomesEnglish) {
   }
 }
 
-TEST(ProjectFile, AnyLineEndWillDo) {
+TEST(ProjectFile, IsReadWithAnyKindOfLineEnd) {
   std::string bytes = ReadTestData("projects/orby_104.orb");
   std::erase(bytes, '\r');
   for (const char lineEnd : {'\n', '\r'}) {
@@ -192,7 +192,7 @@ TEST(ProjectFile, AnyLineEndWillDo) {
 
 class RefusedFile : public testing::TestWithParam<const char*> {};
 
-TEST_P(RefusedFile, IsToldAndLeavesANewProjectUnderItsName) {
+TEST_P(RefusedFile, ShowsAnErrorAndLeavesANewProjectWithItsName) {
   TestProject project;
   project.program.project.FileVersion = 102;
   project.program.project.WorkParms.Place.DepthofCover = 777;
@@ -216,10 +216,10 @@ INSTANTIATE_TEST_SUITE_P(Labels, RefusedFile,
                                          "ORBY_105 \r\n 0 \r\n", "ORBY_1055\r\n", "\r\nORBY_105\r\n", "ORBY_10",
                                          "\xEF\xBB\xBFORBY_105\r\n"));
 
-TEST(ProjectFile, TheLabelEndsAtAComma) {
+TEST(ProjectFile, HasALabelThatEndsAtAComma) {
   TestProject project;
 
-  // The rest of the first line takes the place of the unit system, and that the place of the strength mode.
+  // The rest of the first line is read as the unit system, and the line after it as the strength mode.
   ASSERT_TRUE(project.Open(WithLine(1, "ORBY_105,1")));
 
   EXPECT_EQ(project.program.project.FileVersion, 104);
@@ -227,20 +227,20 @@ TEST(ProjectFile, TheLabelEndsAtAComma) {
   EXPECT_EQ(project.program.project.ProjectTitle, " 1 ");
 }
 
-TEST(ProjectFile, TheLabelMayStandInQuotesBehindBlanks) {
+TEST(ProjectFile, IsReadWithALabelInQuotesAfterBlanks) {
   TestProject project;
 
   EXPECT_TRUE(project.Open(WithLine(1, "  \"ORBY_105\" ")));
 }
 
-TEST(ProjectFile, AnEmptyFileIsTheEndOfFileError) {
+TEST(ProjectFile, ThatIsEmptyIsAnEndOfFileError) {
   TestProject project;
 
   EXPECT_EQ(ErrorNumberOf([&] { project.Open(""); }), 62);
   EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
 }
 
-TEST(ProjectFile, AMissingFileIsToldByItsErrorWithANewProjectBehind) {
+TEST(ProjectFile, ThatIsMissingIsAnErrorAndLeavesANewProject) {
   TestProject project;
   project.program.project.WorkParms.Place.DepthofCover = 777;
 
@@ -250,7 +250,7 @@ TEST(ProjectFile, AMissingFileIsToldByItsErrorWithANewProjectBehind) {
   EXPECT_TRUE(project.program.project.FileEmpty);
 }
 
-TEST(ProjectFile, AFileCutShortAnywhereEndsInTheEndOfFileErrorAndKeepsWhatWasRead) {
+TEST(ProjectFile, ThatIsCutAnywhereIsAnEndOfFileError) {
   const std::string bytes = ReadTestData("projects/orby_105.orb");
   const std::string lastValue = " 222 \r\n";
   for (std::size_t length = 0; length <= bytes.size() - lastValue.size(); ++length) {
@@ -269,7 +269,7 @@ TEST(ProjectFile, AFileCutShortAnywhereEndsInTheEndOfFileErrorAndKeepsWhatWasRea
   }
 }
 
-TEST(ProjectFile, FieldsReadBeforeAnErrorStay) {
+TEST(ProjectFile, KeepsTheFieldsReadBeforeAnError) {
   const std::string bytes = ReadTestData("projects/orby_105.orb");
   TestProject project;
   project.File() = bytes.substr(0, bytes.find("6.25"));
@@ -280,14 +280,14 @@ TEST(ProjectFile, FieldsReadBeforeAnErrorStay) {
   EXPECT_EQ(project.program.project.WorkParms.Place.UnitWeight, 162);
 }
 
-TEST(ProjectFile, AValueBeyondItsFieldIsAnOverflow) {
+TEST(ProjectFile, OverflowsForAValueOutsideTheRangeOfItsField) {
   TestProject project;
 
   EXPECT_EQ(ErrorNumberOf([&] { project.Open(WithDataLine(1, "40000")); }), 6);
   EXPECT_EQ(ErrorNumberOf([&] { project.Open(WithDataLine(5, "1E39")); }), 6);
 }
 
-TEST(ProjectFile, TheWaitCursorStaysUntilTheCommandsTrapWhenReadingFails) {
+TEST(ProjectFile, LeavesTheWaitCursorToItsCommandWhenTheReadFails) {
   TestProject project;
 
   EXPECT_EQ(ErrorNumberOf([&] { project.Open("ORBY_105\r\n"); }), 62);
@@ -295,7 +295,7 @@ TEST(ProjectFile, TheWaitCursorStaysUntilTheCommandsTrapWhenReadingFails) {
   EXPECT_TRUE(project.platform.windows.waitCursor);
 }
 
-TEST(ProjectFile, CodePageFilesAreRead) {
+TEST(ProjectFile, IsReadAsWindows1252) {
   TestProject project;
 
   ASSERT_TRUE(project.Open(WithDataLine(60, "St\xFCtze \x80 5")));
@@ -303,7 +303,7 @@ TEST(ProjectFile, CodePageFilesAreRead) {
   EXPECT_EQ(project.program.project.WorkParms.Entries.Standing.TypeName, "St\xC3\xBCtze \xE2\x82\xAC 5");
 }
 
-TEST(ProjectFile, Utf8FilesAreRead) {
+TEST(ProjectFile, IsReadAsUtf8) {
   TestProject project;
 
   ASSERT_TRUE(project.Open(WithDataLine(60, "\xE6\x94\xAF\xE6\x9F\xB1")));
@@ -311,7 +311,7 @@ TEST(ProjectFile, Utf8FilesAreRead) {
   EXPECT_EQ(project.program.project.WorkParms.Entries.Standing.TypeName, "\xE6\x94\xAF\xE6\x9F\xB1");
 }
 
-// An open project with unsaved changes, and another one chosen to be opened.
+// An open project with unsaved changes, and another project to open.
 struct UnsavedTestProject : TestProject {
   UnsavedTestProject() {
     FileNew(program, false, true);
@@ -322,7 +322,7 @@ struct UnsavedTestProject : TestProject {
   }
 };
 
-TEST(ProjectFile, UnsavedChangesAreAskedAboutUnderThePreviousName) {
+TEST(OpeningAProject, AsksAboutUnsavedChangesOfThePreviousOne) {
   UnsavedTestProject project;
   project.platform.boxes.answers = {BoxResult::No};
 
@@ -335,7 +335,7 @@ TEST(ProjectFile, UnsavedChangesAreAskedAboutUnderThePreviousName) {
   EXPECT_THAT(project.platform.files.created, IsEmpty());
 }
 
-TEST(ProjectFile, YesSavesThePreviousProjectFirst) {
+TEST(OpeningAProject, SavesThePreviousOneFirstAfterYes) {
   UnsavedTestProject project;
   project.platform.boxes.answers = {BoxResult::Yes};
 
@@ -348,7 +348,7 @@ TEST(ProjectFile, YesSavesThePreviousProjectFirst) {
   EXPECT_EQ(project.program.project.WorkParms.Place.DepthofCover, 5.25F);
 }
 
-TEST(ProjectFile, YesForAnUntitledProjectAsksForItsNameAndStillOpensTheChosenFile) {
+TEST(OpeningAProject, AsksForTheNameOfAnUntitledOneAndOpensTheChosenFile) {
   UnsavedTestProject project;
   project.program.project.PreviousFile = "Untitled";
   project.platform.boxes.answers = {BoxResult::Yes};
@@ -360,7 +360,7 @@ TEST(ProjectFile, YesForAnUntitledProjectAsksForItsNameAndStillOpensTheChosenFil
   EXPECT_EQ(project.program.project.CurrentFile, ProjectPath);
 }
 
-TEST(ProjectFile, ASaveThatFailsStopsTheOpen) {
+TEST(OpeningAProject, EndsWhenTheSaveFails) {
   UnsavedTestProject project;
   project.platform.boxes.answers = {BoxResult::Yes, BoxResult::Cancel};
   project.platform.files.Fail(MemoryFiles::Step::Create, error_number::PermissionDenied);
@@ -375,7 +375,7 @@ TEST(ProjectFile, ASaveThatFailsStopsTheOpen) {
   EXPECT_FALSE(project.platform.windows.waitCursor);
 }
 
-TEST(ProjectFile, ASaveThatIsCancelledStopsTheOpen) {
+TEST(OpeningAProject, EndsWhenTheSaveIsCancelled) {
   UnsavedTestProject project;
   project.program.project.PreviousFile = "Untitled";
   project.platform.boxes.answers = {BoxResult::Yes};
@@ -387,7 +387,7 @@ TEST(ProjectFile, ASaveThatIsCancelledStopsTheOpen) {
   EXPECT_FALSE(project.program.project.FileSaved);
 }
 
-TEST(ProjectFile, ASaveUnderANewNameThatFailsKeepsTheNameItHad) {
+TEST(OpeningAProject, KeepsTheOldNameWhenASaveUnderANewNameFails) {
   UnsavedTestProject project;
   project.program.project.PreviousFile = "Untitled";
   project.platform.boxes.answers = {BoxResult::Yes, BoxResult::Cancel};
@@ -399,7 +399,7 @@ TEST(ProjectFile, ASaveUnderANewNameThatFailsKeepsTheNameItHad) {
   EXPECT_EQ(project.program.project.CurrentFile, "Untitled");
 }
 
-TEST(ProjectFile, ASavedProjectIsNotAskedAbout) {
+TEST(OpeningAProject, DoesNotAskAboutASavedOne) {
   UnsavedTestProject project;
   project.program.project.FileSaved = true;
 

@@ -1,4 +1,4 @@
-// A program with a small standing support list, on a platform of memory.
+// A program with a short list of standing supports, on a platform in memory.
 #pragma once
 
 #include <string>
@@ -49,7 +49,7 @@ struct NewProject : TestProject {
   NewProject() { FileNew(program, false, true); }
 };
 
-// The lines joined, each ended by CR LF.
+// Returns the joined lines, each with CR LF.
 inline std::string Lines(std::initializer_list<std::string_view> lines) {
   std::string text;
   for (const auto line : lines) {

@@ -1,4 +1,4 @@
-// Which line of a file holds which field, for each format.
+// The field of each line of a file, for each format.
 
 #include "files/project_lines.h"
 
@@ -24,14 +24,14 @@ const std::set<std::string> MissingBefore104{"CableCapacitySecEntry", "CableCapa
 struct Format {
   const char* file;
   Integer fileVersion;
-  Integer boltStrengthMode;  // what the file leaves it at, 0 being the default
+  Integer boltStrengthMode;  // after the file is read; 0 is the default
   const char* title;
   const char* description;
 };
 
 class FileFormats : public testing::TestWithParam<Format> {};
 
-TEST_P(FileFormats, EveryLineLandsInItsField) {
+TEST_P(FileFormats, EveryLineIsReadIntoItsField) {
   const Format& format = GetParam();
   TestProject project;
   FileNew(project.program, false, true);
@@ -72,9 +72,9 @@ INSTANTIATE_TEST_SUITE_P(
                            "Tailgate crosscuts, panel 3\r\n##StartDesc##\r\nShale roof with thin coal bands\r\n"
                            "Water at two crosscuts\r\n"}));
 
-TEST(FileFormats, ThereAre122DataLines) { EXPECT_EQ(ProjectLines.size(), 122U); }
+TEST(FileFormats, HaveAtMost122DataLines) { EXPECT_EQ(ProjectLines.size(), 122U); }
 
-TEST(FileFormats, WhatAnOlderFileLacksIsInTheDefaultUnitsAndStaysWhenSavedAnew) {
+TEST(FileFormats, ThatAreOlderGetMissingValuesInTheDefaultUnits) {
   TestProject project;
   ASSERT_TRUE(project.Open(ReadTestData("projects/orby_103.orb")));
   ASSERT_EQ(project.program.project.WorkParms.Units, Metric);
@@ -92,7 +92,7 @@ TEST(FileFormats, WhatAnOlderFileLacksIsInTheDefaultUnitsAndStaysWhenSavedAnew) 
   EXPECT_EQ(project.program.project.WorkParms.Intersections.Bolt.Desc, "");
 }
 
-TEST(FileFormats, AnOldFileOverAProjectLeavesNothingOfItInTheMissingLines) {
+TEST(FileFormats, ThatAreOlderKeepNoValuesOfThePreviousProject) {
   TestProject project;
   ASSERT_TRUE(project.Open(ReadTestData("projects/orby_105.orb")));
   ASSERT_EQ(project.program.project.WorkParms.Primary.Desc, "Rebar no. 6 row 18");

@@ -1,4 +1,4 @@
-// Any design survives saving and opening, apart from what the format is known to lose.
+// Any design reads back unchanged, apart from the known losses of the format.
 
 #include <gtest/gtest.h>
 #include <rapidcheck.h>
@@ -14,7 +14,7 @@
 namespace orby::test {
 namespace {
 
-// Characters of a line: letters, blanks, quotes, commas, umlauts and ideographs.
+// A line of letters, blanks, quotes, commas, accented letters and ideographs.
 rc::Gen<std::string> AnyLine(const std::string& without) {
   std::vector<std::string> characters;
   for (const char* character : {"a", "Z", "4", "-", " ", ",", "\"", "#", "\xC3\xBC", "\xE2\x82\xAC", "\xE4\xB8\xAD"}) {
@@ -39,11 +39,11 @@ void FillWithAnything(Design& record) {
       std::get<TextField>(saved.field).In(record) = *AnyLine(isItem ? " ,\"" : "");
     }
   }
-  // A record keeps the rating as a whole number.
+  // A record stores the rating as a whole number.
   record.Place.CMRR = *rc::gen::arbitrary<Integer>();
 }
 
-RC_GTEST_PROP(ProjectRoundTrip, EveryFieldSurvives, ()) {
+RC_GTEST_PROP(ProjectRoundTrip, KeepsEveryField, ()) {
   TestProject project;
   FileNew(project.program, false, true);
   FillWithAnything(project.program.project.WorkParms);
@@ -63,7 +63,7 @@ RC_GTEST_PROP(ProjectRoundTrip, EveryFieldSurvives, ()) {
   }
 }
 
-RC_GTEST_PROP(ProjectRoundTrip, ADescriptionReadsBackLineByLine, ()) {
+RC_GTEST_PROP(ProjectRoundTrip, KeepsEachLineOfADescription, ()) {
   TestProject project;
   const auto lines = *rc::gen::container<std::vector<std::string>>(AnyLine(" ,\"#"));
   for (const auto& line : lines) project.program.project.ProjectDescription += line + "\r\n";

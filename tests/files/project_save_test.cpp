@@ -1,4 +1,4 @@
-// What a save does with what lay in its file.
+// A save and the old contents of its file.
 #include "files/project_save.h"
 
 #include <gmock/gmock.h>
@@ -20,7 +20,7 @@ using Step = MemoryFiles::Step;
 
 const std::string OldPath = "/designs/panel3.orb.old";
 
-// An open project with a change, in a program with a data folder.
+// An open project with an unsaved change, in a program with a data folder.
 struct ResavedProject : TestProject {
   ResavedProject() {
     program.session.folders.ProgramData = "/data/";
@@ -43,7 +43,7 @@ struct ResavedProject : TestProject {
   }
   std::optional<BackupReason> ReasonOfNewest() { return ListBackups(program).at(0).Reason; }
 
-  // The files beside the program's data.
+  // Returns the files outside the program data folder.
   std::vector<std::string> OtherFiles() {
     std::vector<std::string> others;
     for (const auto& [path, bytes] : platform.files.files) {
@@ -58,7 +58,7 @@ struct ResavedProject : TestProject {
   SaveRemarks remarks;
 };
 
-TEST(ProjectSave, KeepsWhatItWritesOver) {
+TEST(ProjectSave, StoresABackupOfTheOldFile) {
   ResavedProject project;
 
   EXPECT_TRUE(project.Save());
@@ -70,7 +70,7 @@ TEST(ProjectSave, KeepsWhatItWritesOver) {
   EXPECT_TRUE(project.program.project.FileSaved);
 }
 
-TEST(ProjectSave, KeepsNothingOfAProjectThatIsTheSame) {
+TEST(ProjectSave, StoresNoBackupOfAnUnchangedProject) {
   ResavedProject project;
   project.program.project.WorkParms.Place.DepthofCover = 400;
 
@@ -80,7 +80,7 @@ TEST(ProjectSave, KeepsNothingOfAProjectThatIsTheSame) {
   EXPECT_THAT(project.KeptBytes(), IsEmpty());
 }
 
-TEST(ProjectSave, KeepsNothingOfANewFile) {
+TEST(ProjectSave, StoresNoBackupForANewFile) {
   ResavedProject project;
   project.program.project.CurrentFile = "/designs/new.orb";
 
@@ -89,7 +89,7 @@ TEST(ProjectSave, KeepsNothingOfANewFile) {
   EXPECT_THAT(project.KeptBytes(), IsEmpty());
 }
 
-TEST(ProjectSave, UnderAnotherNameKeepsTheFileThatHasIt) {
+TEST(ProjectSave, UnderAnotherNameStoresABackupOfTheFileWithThatName) {
   ResavedProject project;
   project.platform.files.files["/designs/other.orb"] = "another design";
   project.program.project.CurrentFile = "/designs/other.orb";
@@ -101,7 +101,7 @@ TEST(ProjectSave, UnderAnotherNameKeepsTheFileThatHasIt) {
   EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
 }
 
-TEST(ProjectSave, OverARefusedFileKeepsIt) {
+TEST(ProjectSave, OverARefusedFileStoresABackupOfIt) {
   ResavedProject project;
   project.Open("bolts are in stock\r\n");
   project.platform.boxes.shown.clear();
@@ -113,7 +113,7 @@ TEST(ProjectSave, OverARefusedFileKeepsIt) {
   EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
 }
 
-TEST(ProjectSave, KeepsAndTellsWhatAnotherProgramWroteMeanwhile) {
+TEST(ProjectSave, ReportsAndBacksUpAFileThatAnotherProgramHasWritten) {
   ResavedProject project;
   project.File() = "the other's design";
 
@@ -129,7 +129,7 @@ TEST(ProjectSave, KeepsAndTellsWhatAnotherProgramWroteMeanwhile) {
   EXPECT_THAT(project.program.session.history.Text, HasSubstr("had been changed by another program"));
 }
 
-TEST(ProjectSave, KnowsTheFileThatItOpened) {
+TEST(ProjectSave, ReportsNoChangeOfTheOpenedFile) {
   ResavedProject project;
   project.Open();
   project.program.project.WorkParms.Place.DepthofCover = 820;
@@ -140,7 +140,7 @@ TEST(ProjectSave, KnowsTheFileThatItOpened) {
   EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
 }
 
-TEST(ProjectSave, TellsOfAFileThatWasChangedSinceItWasOpened) {
+TEST(ProjectSave, RecognisesAFileThatHasChangedSinceItWasOpened) {
   ResavedProject project;
   project.Open();
   project.File() += "more";
@@ -150,7 +150,7 @@ TEST(ProjectSave, TellsOfAFileThatWasChangedSinceItWasOpened) {
   EXPECT_EQ(project.ReasonOfNewest(), BackupReason::ChangedOnDisk);
 }
 
-TEST(ProjectSave, SaysNothingOfAChangeThatIsTheSame) {
+TEST(ProjectSave, ReportsNothingWhenAnotherProgramHasWrittenTheSameBytes) {
   ResavedProject project;
   project.File() = project.typed;
 
@@ -160,7 +160,7 @@ TEST(ProjectSave, SaysNothingOfAChangeThatIsTheSame) {
   EXPECT_THAT(project.KeptBytes(), IsEmpty());
 }
 
-TEST(ProjectSave, KnowsItsOwnFileFromTheLastSave) {
+TEST(ProjectSave, ReportsNoChangeOfTheFileOfTheLastSave) {
   ResavedProject project;
   project.Save();
   project.program.project.WorkParms.Place.DepthofCover = 820;
@@ -171,7 +171,7 @@ TEST(ProjectSave, KnowsItsOwnFileFromTheLastSave) {
   EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
 }
 
-TEST(ProjectSave, ANewDesignKnowsNothingOfTheFileThatItIsSavedOver) {
+TEST(ProjectSave, OfANewDesignReportsNoChangeOfTheFileThatItOverwrites) {
   ResavedProject project;
   FileNew(project.program, true, true);
   project.File() = "the other's design";
@@ -184,14 +184,14 @@ TEST(ProjectSave, ANewDesignKnowsNothingOfTheFileThatItIsSavedOver) {
 
 class FailedSave : public testing::TestWithParam<Step> {};
 
-TEST_P(FailedSave, LeavesTheFileAsItWasAndTellsWhereTheCopyLies) {
+TEST_P(FailedSave, RestoresTheFileAndReportsWhereItsBackupIs) {
   ResavedProject project;
   project.program.project.ProjectDescription = "Shale\r\n\r\nWater";
   project.Save();
   project.program.project.ProjectDescription = "Shale\r\n\r\nNo water";
   const std::string before = project.File();
   project.platform.boxes.answers = {BoxResult::Cancel};
-  // The backup and its note come first.
+  // The backup and its ".about" file are written first.
   const bool isOfBackupToo = GetParam() == Step::Flush || GetParam() == Step::Write || GetParam() == Step::Close;
   const int ofDescription = GetParam() == Step::Write || GetParam() == Step::Close ? 1 : 0;
   project.platform.files.Fail(GetParam(), error_number::DiskFull,
@@ -216,7 +216,7 @@ INSTANTIATE_TEST_SUITE_P(Steps, FailedSave,
                          testing::Values(Step::Create, Step::Reserve, Step::Write, Step::Cut, Step::Flush,
                                          Step::Close));
 
-TEST(ProjectSave, OfASavedProjectThatFailsLeavesItUnsaved) {
+TEST(ProjectSave, ThatFailsMakesASavedProjectUnsaved) {
   ResavedProject project;
   project.program.project.FileSaved = true;
   project.platform.files.Fail(Step::Reserve, error_number::DiskFull);
@@ -227,7 +227,7 @@ TEST(ProjectSave, OfASavedProjectThatFailsLeavesItUnsaved) {
   EXPECT_FALSE(project.program.project.FileSaved);
 }
 
-TEST(ProjectSave, ThatCannotPutTheOldBytesBackTellsWhereTheyAre) {
+TEST(ProjectSave, ThatCannotRestoreTheOldBytesReportsWhereTheyAre) {
   ResavedProject project;
   project.platform.files.Fail(Step::Cut, error_number::DiskFull);
 
@@ -238,7 +238,7 @@ TEST(ProjectSave, ThatCannotPutTheOldBytesBackTellsWhereTheyAre) {
   EXPECT_THAT(project.KeptBytes(), ElementsAre(project.old));
 }
 
-TEST(ProjectSave, AfterOneThatLeftADamagedFileDoesNotBlameAnotherProgram) {
+TEST(ProjectSave, AfterAFailedOneDoesNotReportAChangeByAnotherProgram) {
   ResavedProject project;
   project.platform.files.Fail(Step::Cut, error_number::DiskFull);
   ASSERT_EQ(project.SaveError(), 61);
@@ -251,7 +251,7 @@ TEST(ProjectSave, AfterOneThatLeftADamagedFileDoesNotBlameAnotherProgram) {
   EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
 }
 
-TEST(ProjectSave, ThatCannotEvenBeginStillTellsOfTheFileThatOneBeforeItDamaged) {
+TEST(ProjectSave, ThatCannotBeginReportsTheFileThatAFailedOneDamaged) {
   ResavedProject project;
   project.platform.files.Fail(Step::Cut, error_number::DiskFull);
   ASSERT_EQ(project.SaveError(), 61);
@@ -263,7 +263,7 @@ TEST(ProjectSave, ThatCannotEvenBeginStillTellsOfTheFileThatOneBeforeItDamaged) 
   EXPECT_THAT(project.remarks, ElementsAre(StartsWith("/designs/panel3.orb may be damaged. ")));
 }
 
-TEST(ProjectSave, UnderAnotherNameThatCannotBeginSaysThatThisFileIsAsItWas) {
+TEST(ProjectSave, UnderAnotherNameThatCannotBeginReportsThatThisFileIsUnchanged) {
   ResavedProject project;
   project.platform.files.Fail(Step::Cut, error_number::DiskFull);
   ASSERT_EQ(project.SaveError(), 61);
@@ -277,7 +277,7 @@ TEST(ProjectSave, UnderAnotherNameThatCannotBeginSaysThatThisFileIsAsItWas) {
   EXPECT_THAT(project.remarks, ElementsAre(StartsWith("/designs/panel4.orb is as it was before. ")));
 }
 
-// A project whose save failed and could not put the old bytes back.
+// A project after a save that failed and could not restore the old bytes.
 struct DamagedProject : ResavedProject {
   DamagedProject() {
     platform.files.Fail(Step::Cut, error_number::DiskFull);
@@ -286,7 +286,7 @@ struct DamagedProject : ResavedProject {
   }
 };
 
-TEST(ProjectSave, AfterOneThatLeftADamagedFileKeepsWhatWasPutInItsPlace) {
+TEST(ProjectSave, AfterAFailedOneStoresABackupOfTheFileThatReplacedTheDamagedOne) {
   DamagedProject project;
   project.File() = "a copy of last week, put there by hand";
 
@@ -300,7 +300,7 @@ TEST(ProjectSave, AfterOneThatLeftADamagedFileKeepsWhatWasPutInItsPlace) {
               StartsWith("/designs/panel3.orb had been changed by another program."));
 }
 
-TEST(ProjectSave, AfterOneThatLeftADamagedFileAndFailsAgainPutsBackWhatWasPutInItsPlace) {
+TEST(ProjectSave, ThatFailsAgainRestoresTheFileThatReplacedTheDamagedOne) {
   DamagedProject project;
   project.File() = "a copy of last week, put there by hand";
   project.platform.files.Fail(Step::Cut, error_number::DiskFull, 0, 1);
@@ -310,7 +310,7 @@ TEST(ProjectSave, AfterOneThatLeftADamagedFileAndFailsAgainPutsBackWhatWasPutInI
   EXPECT_EQ(project.File(), "a copy of last week, put there by hand");
 }
 
-TEST(ProjectSave, SaysNothingOfADamagedFileThatWasPutRightByHand) {
+TEST(ProjectSave, ReportsNothingWhenTheUserHasRestoredTheDamagedFile) {
   DamagedProject project;
   project.File() = project.old;
 
@@ -320,7 +320,7 @@ TEST(ProjectSave, SaysNothingOfADamagedFileThatWasPutRightByHand) {
   EXPECT_THAT(project.platform.boxes.shown, IsEmpty());
 }
 
-TEST(ProjectSave, ThatFailsLeavesAFileThatCouldNotBeLookedAt) {
+TEST(ProjectSave, ThatFailsDoesNotRemoveAFileThatCannotBeRead) {
   ResavedProject project;
   project.platform.files.Fail(Step::Read, error_number::PathFileAccess);
   project.platform.files.Fail(Step::Write, error_number::DiskFull);
@@ -331,7 +331,7 @@ TEST(ProjectSave, ThatFailsLeavesAFileThatCouldNotBeLookedAt) {
   EXPECT_THAT(project.remarks, ElementsAre("/designs/panel3.orb may be damaged."));
 }
 
-TEST(ProjectSave, OfAScriptThatDamagesALongFileSaysSo) {
+TEST(ProjectSave, OfAScriptReportsADamagedLongFile) {
   ResavedProject project;
   project.program.session.folders.ProgramData.clear();
   project.File() = std::string(11 * 1024 * 1024, 'x');
@@ -342,7 +342,7 @@ TEST(ProjectSave, OfAScriptThatDamagesALongFileSaysSo) {
   EXPECT_THAT(project.remarks, ElementsAre("/designs/panel3.orb may be damaged."));
 }
 
-TEST(ProjectSave, ThatCannotRemoveTheHalfOfANewFileSaysSo) {
+TEST(ProjectSave, ThatCannotRemoveAPartialNewFileReportsIt) {
   ResavedProject project;
   project.program.project.CurrentFile = "/designs/new.orb";
   project.platform.files.Fail(Step::Write, error_number::DiskFull);
@@ -353,7 +353,7 @@ TEST(ProjectSave, ThatCannotRemoveTheHalfOfANewFileSaysSo) {
   EXPECT_THAT(project.remarks, ElementsAre("/designs/new.orb may be damaged."));
 }
 
-TEST(ProjectSave, WithoutRoomForABackupGoesOnAndTellsOnce) {
+TEST(ProjectSave, WithoutRoomForABackupSucceedsAndReportsItOnce) {
   ResavedProject project;
   project.platform.files.Fail(Step::Rename, error_number::DiskFull);
 
@@ -369,7 +369,7 @@ TEST(ProjectSave, WithoutRoomForABackupGoesOnAndTellsOnce) {
   EXPECT_THAT(project.File(), HasSubstr("\r\n820\r\n"));
 }
 
-TEST(ProjectSave, WithoutABackupHoldsTheOldBytesUntilTheyAreOnTheDiskAgain) {
+TEST(ProjectSave, WithoutABackupKeepsTheOldBytesInMemoryUntilTheyAreOnTheDisk) {
   ResavedProject project;
   project.platform.files.Fail(Step::Rename, error_number::DiskFull);
   project.platform.files.Fail(Step::Cut, error_number::DiskFull);
@@ -384,7 +384,7 @@ TEST(ProjectSave, WithoutABackupHoldsTheOldBytesUntilTheyAreOnTheDiskAgain) {
   EXPECT_THAT(project.KeptBytes(), ElementsAre(project.old));
 }
 
-TEST(ProjectSave, RenamesAFileThatIsTooLongForABackup) {
+TEST(ProjectSave, RenamesAnOldFileThatIsTooLongForABackup) {
   ResavedProject project;
   const std::string notes(11 * 1024 * 1024, 'x');
   project.File() = notes;
@@ -400,7 +400,7 @@ TEST(ProjectSave, RenamesAFileThatIsTooLongForABackup) {
                           "/designs/panel3.orb.old2."));
 }
 
-TEST(ProjectSave, HoldsAFileThatIsTooLongAndCannotBeRenamedUntilTheNewOneIsSafe) {
+TEST(ProjectSave, KeepsALongFileThatCannotBeRenamedInMemoryUntilTheNewOneIsSafe) {
   ResavedProject project;
   const std::string notes(11 * 1024 * 1024, 'x');
   project.File() = notes;
@@ -416,7 +416,7 @@ TEST(ProjectSave, HoldsAFileThatIsTooLongAndCannotBeRenamedUntilTheNewOneIsSafe)
               ElementsAre("The old contents of /designs/panel3.orb could not be kept in /data/Backups/."));
 }
 
-TEST(ProjectSave, GivesARenamedFileItsNameBackWhenItFails) {
+TEST(ProjectSave, ThatFailsGivesARenamedFileItsNameBack) {
   ResavedProject project;
   const std::string notes(11 * 1024 * 1024, 'x');
   project.File() = notes;
@@ -428,7 +428,7 @@ TEST(ProjectSave, GivesARenamedFileItsNameBackWhenItFails) {
   EXPECT_FALSE(project.platform.files.files.contains(OldPath));
 }
 
-TEST(ProjectSave, OfAScriptKeepsNoBackupsAndStillPutsTheOldBytesBack) {
+TEST(ProjectSave, OfAScriptStoresNoBackupsButRestoresTheOldBytes) {
   ResavedProject project;
   project.program.session.folders.ProgramData.clear();
   project.platform.files.Fail(Step::Flush, error_number::DiskFull, 0, 1);
@@ -440,7 +440,7 @@ TEST(ProjectSave, OfAScriptKeepsNoBackupsAndStillPutsTheOldBytesBack) {
   EXPECT_THAT(project.remarks, IsEmpty());
 }
 
-TEST(ProjectSave, IsEncodedAsAWholeBeforeTheFileIsOpened) {
+TEST(ProjectSave, EncodesTheProjectBeforeItOpensTheFile) {
   TestProject project;
   project.program.project.ProjectDescription = "Shale";
 
@@ -450,7 +450,7 @@ TEST(ProjectSave, IsEncodedAsAWholeBeforeTheFileIsOpened) {
   EXPECT_FALSE(project.platform.files.files.contains(TemporaryDescription));
 }
 
-TEST(ProjectSave, ATemporaryFileThatFailsDoesNotStopTheSaveAndDoesNotStay) {
+TEST(ProjectSave, SucceedsWhenTheTemporaryFileFailsAndLeavesNone) {
   TestProject project;
   project.program.project.ProjectDescription = "Shale\r\n\r\nWater";
   project.platform.files.Fail(Step::Read, error_number::PermissionDenied);
@@ -461,7 +461,7 @@ TEST(ProjectSave, ATemporaryFileThatFailsDoesNotStopTheSaveAndDoesNotStay) {
   EXPECT_FALSE(project.platform.files.files.contains(TemporaryDescription));
 }
 
-TEST(ProjectSave, NamesTheFieldsThatWouldNotComeBack) {
+TEST(ProjectSave, ReportsTheFieldsThatWouldNotReadBack) {
   ResavedProject project;
   project.program.project.WorkParms.Intersections.Bolt.Desc = "#6 rebar, grade 60";
 

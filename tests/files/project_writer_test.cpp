@@ -19,7 +19,7 @@ std::string DataLine(const std::string& bytes, int number) {
   return std::string(rest.substr(0, rest.find("\r\n")));
 }
 
-TEST(ProjectWriter, SavingWritesTheFileAndSetsTheState) {
+TEST(ProjectWriter, WritesTheFileAndMarksTheProjectAsSaved) {
   NewProject project;
   project.program.project.FileSaved = false;
   project.program.project.FileEmpty = true;
@@ -33,7 +33,7 @@ TEST(ProjectWriter, SavingWritesTheFileAndSetsTheState) {
   EXPECT_THAT(project.program.session.history.Text, HasSubstr("2. Saving: /designs/panel3.orb\r\n"));
 }
 
-TEST(ProjectWriter, TheHeaderHoldsUnitsStrengthModeTableChoiceTitleAndDescription) {
+TEST(ProjectWriter, WritesUnitsStrengthModeTableChoiceTitleAndDescriptionFirst) {
   NewProject project;
   project.program.project.WorkParms.Units = Metric;
   project.program.project.WorkParms.Basis = StrengthBasis::Ultimate;
@@ -48,7 +48,7 @@ TEST(ProjectWriter, TheHeaderHoldsUnitsStrengthModeTableChoiceTitleAndDescriptio
   EXPECT_EQ(project.program.project.ProjectDescription, "Shale roof\r\nWater");
 }
 
-TEST(ProjectWriter, NumbersAreGeneralTextWithAPoint) {
+TEST(ProjectWriter, WritesNumbersAsGeneralTextWithAPoint) {
   NewProject project;
   Design& record = project.program.project.WorkParms;
   record.Place.DepthofCover = 12.5F;
@@ -68,7 +68,7 @@ TEST(ProjectWriter, NumbersAreGeneralTextWithAPoint) {
   EXPECT_EQ(DataLine(bytes, 12), "1E+07");
 }
 
-TEST(ProjectWriter, TheLastTwoLinesArePadded) {
+TEST(ProjectWriter, PadsTheLastTwoLines) {
   NewProject project;
   project.program.project.WorkParms.Cost.Production = 0;
   project.program.project.WorkParms.Cost.Advance = -1;
@@ -80,7 +80,7 @@ TEST(ProjectWriter, TheLastTwoLinesArePadded) {
   EXPECT_TRUE(bytes.ends_with("\r\n 0 \r\n-1 \r\n"));
 }
 
-TEST(ProjectWriter, BothSupportModesAreWritten) {
+TEST(ProjectWriter, WritesBothSupportModes) {
   NewProject project;
   project.program.project.WorkParms.Entries.Standing.TypeMode = 0;
   project.program.project.WorkParms.Intersections.Standing.TypeMode = 1;
@@ -91,7 +91,7 @@ TEST(ProjectWriter, BothSupportModesAreWritten) {
   EXPECT_EQ(DataLine(bytes, 95), "1");
 }
 
-TEST(ProjectWriter, ComputedFieldsAreNotInTheFile) {
+TEST(ProjectWriter, DoesNotWriteComputedFields) {
   NewProject project;
   project.program.project.WorkParms.Entries.RockLoad = 98765;
   project.program.project.WorkParms.Intersections.Standing.StabFactor = 98765;
@@ -100,7 +100,7 @@ TEST(ProjectWriter, ComputedFieldsAreNotInTheFile) {
   EXPECT_EQ(ProjectFileBytes(project.program.project), ReadTestData("projects/new_english.orb"));
 }
 
-TEST(ProjectWriter, TextsAreWrittenRaw) {
+TEST(ProjectWriter, WritesTextsUnchanged) {
   NewProject project;
   project.program.project.WorkParms.Primary.Desc = " Rebar, \"no. 6\" ";
   project.program.project.WorkParms.Intersections.Standing.TypeName = "Crib, 4-point";
@@ -111,7 +111,7 @@ TEST(ProjectWriter, TextsAreWrittenRaw) {
   EXPECT_EQ(DataLine(bytes, 96), "Crib, 4-point");
 }
 
-TEST(ProjectWriter, WesternTextsAreWrittenInTheCodePage) {
+TEST(ProjectWriter, WritesWesternTextsAsWindows1252) {
   NewProject project;
   project.program.project.ProjectTitle =
       "Gr\xC3\xBC"
@@ -124,7 +124,7 @@ TEST(ProjectWriter, WesternTextsAreWrittenInTheCodePage) {
                                         "be\r\n##StartDesc##\r\n5 \x80\r\n##EndDesc##\r\n"));
 }
 
-TEST(ProjectWriter, OneCharacterOutsideTheCodePageMakesTheWholeFileUtf8) {
+TEST(ProjectWriter, WritesUtf8IfACharacterIsOutsideWindows1252) {
   NewProject project;
   project.program.project.ProjectTitle =
       "Gr\xC3\xBC"

@@ -1,4 +1,4 @@
-// Which fields of a project would not come back from its file.
+// The fields of a project that would not read back unchanged from its file.
 #include "files/read_back.h"
 
 #include <gmock/gmock.h>
@@ -17,13 +17,13 @@ struct ReadProject : NewProject {
   }
 };
 
-TEST(ReadBack, ANewProjectComesBackWhole) {
+TEST(ReadBack, OfANewProjectHasNoDifferences) {
   ReadProject project;
 
   EXPECT_THAT(project.Differing(), IsEmpty());
 }
 
-TEST(ReadBack, TheFieldsThatTheFormatReadsIntoOthersAreLeftOut) {
+TEST(ReadBack, IgnoresFieldsThatTheFormatReadsIntoOthers) {
   ReadProject project;
   project.program.project.WorkParms.Entries.Standing.TypeMode = 1;
   project.program.project.WorkParms.Intersections.Standing.TypeMode = 0;
@@ -31,7 +31,7 @@ TEST(ReadBack, TheFieldsThatTheFormatReadsIntoOthersAreLeftOut) {
   EXPECT_THAT(project.Differing(), IsEmpty());
 }
 
-TEST(ReadBack, TheShiftedHeaderChangesNoField) {
+TEST(ReadBack, OfAShiftedHeaderHasNoDifferences) {
   ReadProject project;
   project.program.project.ProjectTitle = "Panel 3, north";
   project.program.project.ProjectDescription = "Shale, wet\r\n\"quoted\" line";
@@ -39,29 +39,29 @@ TEST(ReadBack, TheShiftedHeaderChangesNoField) {
   EXPECT_THAT(project.Differing(), IsEmpty());
 }
 
-TEST(ReadBack, AQuotedDescriptionOfABoltLosesItsQuotesAlone) {
+TEST(ReadBack, ReportsOnlyTheBoltDescriptionThatLosesItsQuotes) {
   ReadProject project;
   project.program.project.WorkParms.Primary.Desc = "\"No. 6\"";
 
   EXPECT_THAT(project.Differing(), ElementsAre("primary bolt description"));
 }
 
-TEST(ReadBack, BlanksBeforeTheDescriptionOfABoltAreLost) {
+TEST(ReadBack, ReportsABoltDescriptionThatLosesItsLeadingBlanks) {
   ReadProject project;
   project.program.project.WorkParms.Entries.Bolt.Desc = "  rebar";
 
   EXPECT_THAT(project.Differing(), ElementsAre("entry bolt description"));
 }
 
-TEST(ReadBack, AnUnclosedQuoteTakesAllThatFollows) {
+TEST(ReadBack, ReportsAllFieldsAfterAnUnclosedQuote) {
   ReadProject project;
   project.program.project.WorkParms.Intersections.Bolt.Desc = "\"No. 6";
 
-  // All fields of the intersections from the description on, without the one that has no field of its own.
+  // All fields from the bolt description of intersections, without the line that has no field of its own.
   EXPECT_EQ(project.Differing().size(), 35U);
 }
 
-TEST(ReadBack, ALineOfTheDescriptionThatEndsItMovesTheFields) {
+TEST(ReadBack, ReportsTheFieldsThatAnEndMarkerInTheDescriptionMoves) {
   ReadProject project;
   project.program.project.ProjectDescription = "Shale\r\n##EndDesc##\r\nWater";
 

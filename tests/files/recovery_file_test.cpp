@@ -27,7 +27,7 @@ struct RecoveryFile : testing::Test {
   TestProject project;
 };
 
-TEST_F(RecoveryFile, OpensWithItsLabelTheProjectAndItsChoices) {
+TEST_F(RecoveryFile, BeginsWithItsLabelTheProjectAndItsChoices) {
   project.program.project.WorkParms.Units = Metric;
   project.program.project.WorkParms.Basis = StrengthBasis::Ultimate;
   project.program.project.UseAUSStandardTable = 1;
@@ -49,7 +49,7 @@ TEST_F(RecoveryFile, OpensWithItsLabelTheProjectAndItsChoices) {
                                 "45\r\n"));
 }
 
-TEST_F(RecoveryFile, GoesOnWithTheDataLinesOfTheProjectFile) {
+TEST_F(RecoveryFile, EndsWithTheDataLinesOfTheProjectFile) {
   ASSERT_TRUE(project.Save());
   const std::string& file = project.File();
   const std::string dataLines = file.substr(file.find("##EndDesc##\r\n") + 13);
@@ -59,7 +59,7 @@ TEST_F(RecoveryFile, GoesOnWithTheDataLinesOfTheProjectFile) {
   EXPECT_TRUE(bytes.ends_with("UnitsLocked=0\r\n" + dataLines));
 }
 
-TEST_F(RecoveryFile, TakesAnEditedDesignAsItsCommitWould) {
+TEST_F(RecoveryFile, HasAnEditedDesignAsItsCommitStoresIt) {
   project.program.project.FileEmpty = true;
   Design design = project.program.project.WorkParms;
   design.Place.DepthofCover = 725;
@@ -72,7 +72,7 @@ TEST_F(RecoveryFile, TakesAnEditedDesignAsItsCommitWould) {
   EXPECT_EQ(project.program.project.WorkParms.Place.DepthofCover, 400);
 }
 
-TEST_F(RecoveryFile, BringsTheModeOfTheIntersectionsStandingSupportBackIntoItsOwnField) {
+TEST_F(RecoveryFile, RestoresTheModeOfTheStandingSupportInIntersections) {
   project.program.project.WorkParms.Entries.Standing.TypeMode = 0;
   project.program.project.WorkParms.Intersections.Standing.TypeMode = 1;
 
@@ -92,7 +92,7 @@ TEST_F(RecoveryFile, KeepsCommasAndQuotesOfABoltDescription) {
   EXPECT_EQ(read->WorkParms.Primary.Desc, "  #6, 3/4\" \"forged\", 5' long\\");
 }
 
-TEST_F(RecoveryFile, IsUtf8EvenWhereTheCodePageWouldDo) {
+TEST_F(RecoveryFile, IsAlwaysUtf8) {
   project.program.project.ProjectTitle =
       "Gr\xC3\xBC"
       "n";
@@ -114,7 +114,7 @@ TEST_F(RecoveryFile, KeepsAPathThatIsNotUtf8) {
             "n.orb");
 }
 
-TEST_F(RecoveryFile, RestoresAnUnsavedProjectUnderItsOldName) {
+TEST_F(RecoveryFile, RestoresAnUnsavedProjectWithItsOldName) {
   project.program.project.ProjectTitle = "Panel 3";
   project.program.project.ProjectDescription = "\r\n  a line, kept as it is\r\n\r\n";
   project.program.project.WorkParms.Place.DepthofCover = 725;
@@ -137,7 +137,7 @@ TEST_F(RecoveryFile, RestoresAnUnsavedProjectUnderItsOldName) {
   EXPECT_TRUE(next.program.project.UnitsLocked);
 }
 
-TEST(RecoveryFileOnDisk, IsReadWholeAndWrittenAlike) {
+TEST(RecoveryFileOnDisk, IsReadAndWrittenUnchanged) {
   const std::string bytes = ReadTestData("recovery/panel3.tmp");
 
   const auto project = ReadRecovery(bytes);
@@ -187,12 +187,12 @@ INSTANTIATE_TEST_SUITE_P(Damages, DamagedRecoveryFile,
                                          Damage{"EscapeOfNothing", "ProjectTitle=", "ProjectTitle=\\x"}),
                          [](const testing::TestParamInfo<Damage>& damage) { return damage.param.name; });
 
-TEST_F(RecoveryFile, TellsItsProjectThoughAnEscapeIsCutOff) {
+TEST_F(RecoveryFile, NamesItsProjectEvenWithACutEscape) {
   EXPECT_EQ(ProjectNamedIn("ORBY_RECOVERY_1\r\nCurrentFile=/designs/panel3\\"), "/designs/panel3\\");
   EXPECT_EQ(ProjectNamedIn("ORBY_RECOVERY_1\r\nCurrentFile=/designs/panel3\\\r\nUnits=0\r\n"), "/designs/panel3\\");
 }
 
-TEST_F(RecoveryFile, CutShortAnywhereIsNotRead) {
+TEST_F(RecoveryFile, ThatIsCutAnywhereIsNotRead) {
   const std::string bytes = Bytes();
 
   for (std::size_t length = 0; length < bytes.size(); ++length) {
@@ -200,7 +200,7 @@ TEST_F(RecoveryFile, CutShortAnywhereIsNotRead) {
   }
 }
 
-TEST_F(RecoveryFile, WithSomethingBehindItsEndIsNotRead) { EXPECT_FALSE(ReadRecovery(Bytes() + "1\r\n").has_value()); }
+TEST_F(RecoveryFile, WithMoreLinesAfterItsEndIsNotRead) { EXPECT_FALSE(ReadRecovery(Bytes() + "1\r\n").has_value()); }
 
 rc::Gen<std::string> AnyText() {
   const std::vector<std::string> characters{
@@ -232,12 +232,12 @@ UnsavedProject AnyProject() {
       std::get<TextField>(saved.field).In(project.WorkParms) = *AnyText();
     }
   }
-  // A record keeps the rating as a whole number.
+  // A record stores the rating as a whole number.
   project.WorkParms.Place.CMRR = *rc::gen::arbitrary<Integer>();
   return project;
 }
 
-RC_GTEST_PROP(RecoveryRoundTrip, AnyProjectComesBackAsItWas, ()) {
+RC_GTEST_PROP(RecoveryRoundTrip, KeepsAnyProjectUnchanged, ()) {
   const UnsavedProject project = AnyProject();
 
   const auto read = ReadRecovery(RecoveryBytes(project));

@@ -12,7 +12,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using Step = MemoryFiles::Step;
 
-TEST(SaveCommand, ANamedProjectIsSavedWithoutAQuestion) {
+TEST(SaveCommand, SavesANamedProjectWithoutAQuestion) {
   TestProject project;
   FileNew(project.program, false, true);
 
@@ -22,9 +22,9 @@ TEST(SaveCommand, ANamedProjectIsSavedWithoutAQuestion) {
   EXPECT_EQ(project.File(), ReadTestData("projects/new_english.orb"));
 }
 
-class NamelessProject : public testing::TestWithParam<const char*> {};
+class UnnamedProject : public testing::TestWithParam<const char*> {};
 
-TEST_P(NamelessProject, IsAskedForItsName) {
+TEST_P(UnnamedProject, IsSavedAfterAQuestionForItsName) {
   TestProject project;
   project.program.project.CurrentFile = GetParam();
   project.platform.fileDialogs.answers = {"/designs/named.orb"};
@@ -35,9 +35,9 @@ TEST_P(NamelessProject, IsAskedForItsName) {
   EXPECT_TRUE(project.platform.files.files.contains("/designs/named.orb"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Names, NamelessProject, testing::Values("", "Untitled", "UNTITLED", "untitled"));
+INSTANTIATE_TEST_SUITE_P(Names, UnnamedProject, testing::Values("", "Untitled", "UNTITLED", "untitled"));
 
-TEST(SaveCommand, SaveAsOffersTheBareNameInTheDataFolder) {
+TEST(SaveCommand, SaveAsOffersTheFileNameInTheDataFolder) {
   TestProject project;
   project.program.session.settings.DataPath = "/home/designs/";
   project.platform.fileDialogs.answers = {"/designs/copy.orb"};
@@ -54,7 +54,7 @@ TEST(SaveCommand, SaveAsOffersTheBareNameInTheDataFolder) {
   EXPECT_THAT(project.platform.files.created, ElementsAre("/designs/copy.orb"));
 }
 
-TEST(SaveCommand, AFileToOpenHasToBeThereAndOneToSaveHasNot) {
+TEST(SaveCommand, RequiresAnExistingFileOnlyForOpening) {
   TestProject project;
   project.platform.fileDialogs.answers = {ProjectPath, ProjectPath};
 
@@ -64,7 +64,7 @@ TEST(SaveCommand, AFileToOpenHasToBeThereAndOneToSaveHasNot) {
   EXPECT_EQ(project.platform.fileDialogs.kinds, (std::vector<std::string>{"open", "save"}));
 }
 
-TEST(SaveCommand, TheFilterTakesTheConfiguredExtension) {
+TEST(SaveCommand, FiltersByTheExtensionInTheSettings) {
   TestProject project;
   project.program.session.settings.FileExtension = "RSW";
   project.program.session.settings.DataPath = "D:\\mine\\";
@@ -78,7 +78,7 @@ TEST(SaveCommand, TheFilterTakesTheConfiguredExtension) {
   EXPECT_EQ(question.folder, "D:\\mine");
 }
 
-TEST(SaveCommand, ABlankNameIsNotOffered) {
+TEST(SaveCommand, DoesNotOfferABlankName) {
   TestProject project;
   project.program.project.CurrentFile = "  ";
   project.platform.fileDialogs.answers = {"/designs/named.orb"};
@@ -88,7 +88,7 @@ TEST(SaveCommand, ABlankNameIsNotOffered) {
   EXPECT_EQ(project.platform.fileDialogs.asked.front().fileName, "");
 }
 
-TEST(SaveCommand, ACancelledDialogSavesNothingAndIsOnlyLogged) {
+TEST(SaveCommand, SavesNothingAfterACancelledDialog) {
   TestProject project;
 
   EXPECT_FALSE(FileMenuSave(project.program, true));
@@ -99,20 +99,20 @@ TEST(SaveCommand, ACancelledDialogSavesNothingAndIsOnlyLogged) {
   EXPECT_EQ(project.program.session.history.Text, "1. Cancel was selected.\r\n");
 }
 
-TEST(SaveCommand, AskingThrowsTheCancelErrorForTheCallersTrap) {
+TEST(SaveCommand, ThrowsTheCancelErrorWhenTheDialogIsCancelled) {
   TestProject project;
 
   EXPECT_EQ(ErrorNumberOf([&] { AskFileName(project.program, FileDialogMode::Open); }), 32755);
 }
 
-struct FailingStep {
+struct FailedStep {
   Step step;
   int after;
 };
 
-class FailingSave : public testing::TestWithParam<FailingStep> {};
+class SaveWithAFailedStep : public testing::TestWithParam<FailedStep> {};
 
-TEST_P(FailingSave, IsToldAndGivenUpOnCancel) {
+TEST_P(SaveWithAFailedStep, ShowsTheErrorAndEndsOnCancel) {
   TestProject project;
   FileNew(project.program, false, true);
   project.program.project.FileSaved = false;
@@ -128,7 +128,7 @@ TEST_P(FailingSave, IsToldAndGivenUpOnCancel) {
   EXPECT_FALSE(project.platform.files.files.contains(ProjectPath)) << "nothing was there before";
 }
 
-// The user makes room on the disk before answering.
+// Message boxes whose user makes room on the disk before the answer.
 class MendingBoxes : public MessageBoxes {
  public:
   MendingBoxes(MemoryFiles& filesGiven, Step stepGiven) : files(filesGiven), step(stepGiven) {}
@@ -145,7 +145,7 @@ class MendingBoxes : public MessageBoxes {
   int shown = 0;
 };
 
-TEST_P(FailingSave, StartsOverOnRetry) {
+TEST_P(SaveWithAFailedStep, StartsAgainOnRetry) {
   RecordingPlatform platform;
   MendingBoxes boxes(platform.files, GetParam().step);
   Program program(platform.DoorsWith(boxes));
@@ -163,12 +163,12 @@ TEST_P(FailingSave, StartsOverOnRetry) {
   EXPECT_EQ(platform.files.files[ProjectPath], ReadTestData("projects/new_english.orb"));
 }
 
-INSTANTIATE_TEST_SUITE_P(EachStep, FailingSave,
-                         testing::Values(FailingStep{Step::Create, 0}, FailingStep{Step::Reserve, 0},
-                                         FailingStep{Step::Write, 0}, FailingStep{Step::Cut, 0},
-                                         FailingStep{Step::Flush, 0}, FailingStep{Step::Close, 0}));
+INSTANTIATE_TEST_SUITE_P(EachStep, SaveWithAFailedStep,
+                         testing::Values(FailedStep{Step::Create, 0}, FailedStep{Step::Reserve, 0},
+                                         FailedStep{Step::Write, 0}, FailedStep{Step::Cut, 0},
+                                         FailedStep{Step::Flush, 0}, FailedStep{Step::Close, 0}));
 
-TEST(SaveCommand, APathThatCannotBeWrittenIsTerminatedWithoutARetry) {
+TEST(SaveCommand, OffersNoRetryForAPathThatCannotBeWritten) {
   TestProject project;
   project.platform.files.Fail(Step::Create, error_number::PathNotFound);
 

@@ -1,4 +1,4 @@
-// Every field of a project that its file holds, by name, in the order of the record.
+// All fields of a project that its file contains, by name, in the order of the record.
 #pragma once
 
 #include <array>

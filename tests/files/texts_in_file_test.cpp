@@ -9,7 +9,7 @@ namespace {
 
 using testing::HasSubstr;
 
-// What the user sees after a save and another opening, and a second time round.
+// Returns the texts after a number of saves and openings.
 ProjectTexts AfterOpening(const ProjectTexts& typed, int times) {
   TestProject project;
   FileNew(project.program, false, true);
@@ -27,12 +27,12 @@ std::string LostIn(const std::string& title, const std::string& description) {
   return lost ? lost->Line : "none";
 }
 
-TEST(LinesThatDoNotComeBack, AreNoneOfAnOrdinaryText) {
+TEST(TheLostLine, IsNotFoundInAnOrdinaryText) {
   EXPECT_EQ(LostIn("Panel 3", "Belt entry\r\n\r\n  south of the \"old\" gate; 2 cuts\r\nlast"), "none");
   EXPECT_EQ(LostIn("", ""), "none");
 }
 
-TEST(LinesThatDoNotComeBack, BeginWithAQuotationMark) {
+TEST(TheLostLine, StartsWithAQuotationMark) {
   EXPECT_EQ(LostIn("Panel 3", "Belt entry\r\n\"weak roof\r\nlast"), "\"weak roof");
   EXPECT_EQ(LostIn("Panel 3", "  \"weak\" roof"), "  \"weak\" roof");
   EXPECT_EQ(LostIn("\"Panel 3", "Belt entry"), "\"Panel 3");
@@ -40,13 +40,13 @@ TEST(LinesThatDoNotComeBack, BeginWithAQuotationMark) {
               HasSubstr("A quotation mark at the start"));
 }
 
-TEST(LinesThatDoNotComeBack, BeginWithAQuotationMarkOnceALongLineIsBroken) {
+TEST(TheLostLine, StartsWithAQuotationMarkAfterALongLineIsBroken) {
   const std::string line = "The crew that works there calls this part of the seam the \"soft ground";
 
   EXPECT_EQ(LostIn("Panel 3", line), "\"soft ground");
 }
 
-TEST(LinesThatDoNotComeBack, AreTheMarksOfTheFile) {
+TEST(TheLostLine, IsAMarkerOfTheFile) {
   EXPECT_EQ(LostIn("Panel 3", "Belt entry\r\n##EndDesc##"), "##EndDesc##");
   EXPECT_EQ(LostIn("##EndDesc##", "Belt entry"), "##EndDesc##");
   EXPECT_EQ(LostIn("##StartDesc##", "Belt entry"), "##StartDesc##");
@@ -54,13 +54,13 @@ TEST(LinesThatDoNotComeBack, AreTheMarksOfTheFile) {
   EXPECT_THAT(std::string(LineThatWouldNotComeBack({"", "##EndDesc##"})->Reason), HasSubstr("a mark of its own"));
 }
 
-TEST(LinesThatDoNotComeBack, HoldAComma) {
+TEST(TheLostLine, ContainsAComma) {
   EXPECT_EQ(LostIn("Panel 3", "Belt entry, south"), "Belt entry, south");
   EXPECT_EQ(LineThatWouldNotComeBack({"", "Belt entry, south"})->Reason, "A comma splits the line in two there.");
   EXPECT_EQ(LostIn("Panel 3, north", "Belt entry"), "none") << "the title is put together again";
 }
 
-TEST(ShiftedTexts, AreFoundAfterOpeningAndPutBack) {
+TEST(ShiftedTexts, AreRestoredAfterOpening) {
   const ProjectTexts typed{"Panel 3", "Belt entry\r\nsouth\r\n"};
   const ProjectTexts opened = AfterOpening(typed, 1);
   ASSERT_EQ(opened.Title, " 0 ");
@@ -72,7 +72,7 @@ TEST(ShiftedTexts, AreFoundAfterOpeningAndPutBack) {
   EXPECT_EQ(before->Description, "Belt entry\r\nsouth\r\n");
 }
 
-TEST(ShiftedTexts, ArePutBackHoweverOftenTheyWereShifted) {
+TEST(ShiftedTexts, AreRestoredAfterSeveralShifts) {
   const auto before = TextsBeforeTheShift(AfterOpening({"Panel 3", "Belt entry\r\nsouth\r\n"}, 3));
 
   ASSERT_TRUE(before);
@@ -80,14 +80,14 @@ TEST(ShiftedTexts, ArePutBackHoweverOftenTheyWereShifted) {
   EXPECT_EQ(before->Description, "Belt entry\r\nsouth\r\n");
 }
 
-TEST(ShiftedTexts, ArePutBackWithACommaInTheTitle) {
+TEST(ShiftedTexts, AreRestoredWithACommaInTheTitle) {
   const auto before = TextsBeforeTheShift(AfterOpening({"Panel 3, north", "Belt entry\r\n"}, 2));
 
   ASSERT_TRUE(before);
   EXPECT_EQ(before->Title, "Panel 3, north");
 }
 
-TEST(ShiftedTexts, ArePutBackWithoutATitleOrADescription) {
+TEST(ShiftedTexts, AreRestoredWithoutATitleOrADescription) {
   const auto untitled = TextsBeforeTheShift(AfterOpening({"", "Belt entry\r\n"}, 1));
   ASSERT_TRUE(untitled);
   EXPECT_EQ(untitled->Title, "");
@@ -99,7 +99,7 @@ TEST(ShiftedTexts, ArePutBackWithoutATitleOrADescription) {
   EXPECT_EQ(bare->Description, "");
 }
 
-TEST(ShiftedTexts, AreNotSeenInOtherTexts) {
+TEST(ShiftedTexts, AreNotFoundInOtherTexts) {
   EXPECT_FALSE(TextsBeforeTheShift({"Panel 3", "Belt entry\r\n"}));
   EXPECT_FALSE(TextsBeforeTheShift({"Panel 3", "Old title\r\n##StartDesc##\r\nBelt entry\r\n"}));
   EXPECT_FALSE(TextsBeforeTheShift({" 0 ", "Belt entry\r\n"}));
