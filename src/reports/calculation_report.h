@@ -1,4 +1,4 @@
-// The second page of the report: what the design's analyses give, and what they warn of.
+// The second page of the report: the results and warnings of the analyses of a design.
 #pragma once
 
 #include <string>
@@ -8,18 +8,18 @@
 
 namespace orby {
 
-// The page of a design with these figures. Primary support and the densities of secondary support in entries are those
-// of the figures; rock loads, capacities and stability factors of secondary support are printed as the design has them.
-// There are no guards: the inputs are those that passed the dialog's checks. Throws the RuntimeError of the first
-// figure of the page that cannot be computed: 11 for a pattern without row spacing or width, and for roof bolts in
-// entries that have no cable bolts, 5 for a depth of 0 or less under primary support.
+// Returns the page of a design with these figures. Prints primary support and the densities of secondary support in
+// entries from the figures. Prints rock loads, capacities and stability factors of secondary support from the design.
+// Requires inputs that the dialog has validated. Throws the RuntimeError of the first figure of the page that cannot be
+// computed: 11 for a pattern without row spacing or width, 11 for roof bolts in entries without cable bolts, and 5 for
+// primary support at a depth of 0 or less.
 std::string CalculationReport(const RoofSupport& design, const Figures& figures);
-std::string CalculationReport(const RoofSupport& design, const Catalogs& catalogs);  // analysed with these lists
+std::string CalculationReport(const RoofSupport& design, const Catalogs& catalogs);  // analyses the design first
 
-// Returns the page of a design whose calculations cannot be computed: the heading, and a line that says so.
+// Returns the page of a design that cannot be computed: the heading and a line that says so.
 std::string NoCalculationReport();
 
-// Puts the page into the session, as the last one of its report.
+// Stores the page in the session as the last page of the report.
 void TakeCalculationPage(Program& program, std::string page);
 
 }  // namespace orby

@@ -7,7 +7,8 @@
 
 namespace orby {
 
-// The page of what these inputs cost. Throws RuntimeError 6 when a figure lies beyond a Single.
+// Returns the page with the cost table of these inputs. Throws RuntimeError 6 when a figure is outside the range of a
+// Single.
 std::string CostReport(const CostInputs& costs, UnitSystem units);
 
 }  // namespace orby

@@ -24,7 +24,7 @@ struct NumberRow {
   UnitSuffix Unit = UnitSuffix::None;
 };
 
-// A number that the support of entries or of intersections has.
+// A number of the support of entries or of intersections.
 struct SupportRow {
   std::string_view Label;
   Single (*Value)(const SecondarySupport& support);
@@ -100,7 +100,7 @@ constexpr auto IntersectionStandingRows = std::to_array<SupportRow>({
     {"Number of Standing Supports", [](const S& s) { return s.Standing.Number; }},
 });
 
-// What entries and intersections have each of their own.
+// The headings and rows that differ between entries and intersections.
 struct SupportEcho {
   SupportHeadings Headings;
   std::string_view OptionsHeading;
@@ -122,13 +122,13 @@ constexpr SupportEcho IntersectionEcho{IntersectionHeadings,    "[SECONDARY INTE
 
 using YieldOfMetricGrade = Ksi (*)(Ksi grade, const Catalogs& catalogs);
 
-// A Metric grade that is an ultimate strength is in ksi when its yield strength is asked for. The secondary sets ask as
-// if it were MPa all the same: users know their capacities so.
+// A Metric ultimate grade is in ksi when its yield strength is looked up. For secondary bolts it is looked up as if it
+// were MPa. Users know their capacities this way.
 Ksi YieldAsIfInMPa(Ksi grade, const Catalogs& catalogs) {
   return Ksi(YieldFromUltimateMPa(MPa(grade.Value), catalogs).Value);
 }
 
-// Writes the parts of the page one after the other.
+// Writes the parts of the page.
 class Echo {
  public:
   Echo(const Design& theDesign, const EchoedProject& theProject, const Catalogs& theCatalogs)

@@ -1,4 +1,4 @@
-// The first page of the report: every input that matters under the options of the design.
+// The first page of the report: all inputs that have an effect under the options of the design.
 #pragma once
 
 #include <string>
@@ -7,7 +7,7 @@
 
 namespace orby {
 
-// What the page tells of the project besides the design.
+// The data of the project that the page shows in addition to the design.
 struct EchoedProject {
   std::string File;
   std::string Title;
@@ -15,12 +15,12 @@ struct EchoedProject {
   bool HasModuleHeader = true;
 };
 
-// Throws RuntimeError 9 when the design's units are none of the two systems, 6 when a bolt's capacity lies beyond a
-// Single.
+// Returns the page. Throws RuntimeError 9 when the units are neither of the two systems, and 6 when the capacity of a
+// bolt is outside the range of a Single.
 std::string InputEcho(const Design& design, const EchoedProject& project, const Catalogs& catalogs);
 
-// Puts the page of these inputs into the session, replacing what was there, and makes the page after it the last. The
-// description of the project is normalised on the way, in the program's state too. Throws as InputEcho does.
+// Replaces the page in the session and makes the page after it the last one. Normalises the description of the project.
+// Throws the same errors as InputEcho.
 void LoadOutBuf0(Program& program, const Design& design);
 
 }  // namespace orby

@@ -23,7 +23,7 @@ void ReportSpan(ReportText& page, const RoofSupport& design, const SuggestedFigu
   } else {
     WarningsLine(page, tooLarge && mismatch);
   }
-  // A mismatch is put into words only behind a span that is too large, where its line is kept free for it.
+  // A mismatch has a message only after that of a too large span. Without a mismatch that line is empty.
   if (tooLarge) {
     page.Line(SpanExceedsSuggested);
     page.Line(mismatch ? SpanAndWidthMayNotMatch : "");

@@ -1,4 +1,4 @@
-// The calculation report's block on primary support: span, bolt length and capacity, PSUP, RDI and PRSUP.
+// The primary support in the calculation report: span, bolt length and capacity, PSUP, RDI and PRSUP.
 #pragma once
 
 #include <string_view>
@@ -11,10 +11,10 @@ namespace orby {
 inline constexpr std::string_view WarningHeading = "[Warning]";
 inline constexpr std::string_view BelowASTM = "Bolt capacity may not meet ASTM minimum standards for roof support";
 
-// Throws the RuntimeError of the first figure that cannot be computed.
+// Appends the block to the page. Throws the RuntimeError of the first figure that cannot be computed.
 void ReportPrimarySupport(ReportText& page, const RoofSupport& design, const Figures& figures);
 
-// What the report says of the PSUP, behind the two values.
+// Returns the judgement of the PSUP, which follows the two values in the report.
 std::string_view PsupMessage(PsupVerdict verdict);
 
 }  // namespace orby

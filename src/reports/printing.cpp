@@ -17,21 +17,21 @@ std::string DateText(const Date& date) {
   return NumberText(date.month) + "/" + NumberText(date.day) + "/" + NumberText(date.year);
 }
 
-// Both texts on one line, the second at its end.
+// Returns a line with both texts, the second one at its end.
 std::string TableRow(std::string_view left, std::string_view right) {
   return PadSpaces(left, PrintedWidth - CharacterCount(right)) + std::string(right);
 }
 
-// The name alone, as short as captions show it: a path could reach into the column of the page number.
+// Returns the file name, shortened as in captions. A full path could overlap the page number.
 std::string FileName(const Project& project) { return ShortenedPath(NameBehindSeparator(project.CurrentFile)); }
 
-// The title as it was typed, also where opening the file has shifted the header.
+// Returns the title as typed, also when opening the file has shifted the header.
 std::string TypedTitle(const Project& project) {
   const auto before = TextsBeforeTheShift({project.ProjectTitle, project.ProjectDescription});
   return before ? before->Title : project.ProjectTitle;
 }
 
-// The file and, if it has one, the title of the project.
+// Returns the file name and, if there is one, the title of the project.
 std::string DocumentTitle(const Project& project) {
   const std::string title(Trim(TypedTitle(project)));
   return title.empty() ? FileName(project) : FileName(project) + " - " + title;
@@ -46,8 +46,8 @@ std::vector<std::string> PageHeader(const Program& program, std::size_t page) {
 
 bool IsHeading(std::string_view line) { return line.starts_with('[') && line.ends_with(']'); }
 
-// The number of lines from the start of the text to the first that is neither a heading nor empty, that one included;
-// all lines if there is none.
+// Returns the number of lines up to and including the first one that is neither a heading nor empty. Returns the number
+// of all lines if there is none.
 std::size_t LinesToContent(std::string_view text) {
   std::size_t lines = 0;
   while (!text.empty()) {
@@ -58,7 +58,7 @@ std::size_t LinesToContent(std::string_view text) {
   return lines;
 }
 
-// Fills sheets line by line, starting a new one with its header when the last is full.
+// Fills sheets line by line. Starts a new sheet with a header when the last one is full.
 class SheetWriter {
  public:
   explicit SheetWriter(const Program& program) : program_(program) { StartSheet(); }
@@ -80,7 +80,7 @@ class SheetWriter {
     headerLines_ = lines_;
   }
 
-  // Starts a new sheet if it has room for the next lines and this one has not.
+  // Starts a new sheet if the next `count` lines fit there but not on this one.
   void KeepTogether(std::size_t count) {
     if (lines_ + count > PrintedLines && headerLines_ + count <= PrintedLines) StartSheet();
   }
@@ -103,7 +103,7 @@ class SheetWriter {
 
   const Program& program_;
   std::vector<std::string> sheets_;
-  std::size_t lines_ = 0;  // of the last sheet
+  std::size_t lines_ = 0;  // on the last sheet
   std::size_t headerLines_ = 0;
 };
 

@@ -1,4 +1,4 @@
-// Reports on paper: a text as sheets, each under a header that tells the file, the day, the page and the program.
+// Printed reports: a text on sheets. Each has a header with the file, the date, the page number and the program.
 #pragma once
 
 #include <cstddef>
@@ -10,21 +10,21 @@
 
 namespace orby {
 
-inline constexpr std::size_t PrintedLines = 60;  // of a sheet, its header among them
-inline constexpr std::size_t PrintedWidth = 78;  // characters; the rest of a longer line stands on the next one
+inline constexpr std::size_t PrintedLines = 60;  // of a sheet, including its header
+inline constexpr std::size_t PrintedWidth = 78;  // characters; the rest of a longer line is on the next line
 
-// The report pages first..last as one text. Throws RuntimeError 9 beyond the pages there are.
+// Returns the report pages first..last as one text. Throws RuntimeError 9 when there is no such page.
 std::string JoinedPages(const Session& session, Integer first, Integer last);
 
-// The text as the sheets it is printed on; one sheet with its header alone without any text. Lines end in CR LF. A
-// heading in brackets stands on the same sheet as the first line under it.
+// Returns the sheets of the text. An empty text has one sheet with only a header. Lines end with CR LF. A heading in
+// brackets is on the same sheet as the first line below it.
 std::vector<std::string> PrintSheets(const Program& program, std::string_view text);
 
-// What a PDF file of the project is proposed to be called: its file's name without the extension.
+// Returns the name offered for a PDF file of the project: its file name without the extension.
 std::string PrintedName(const Project& project);
 
-// Prints the text, in the printer font, under the project's file name and title. Returns the file that was printed to,
-// empty for paper. Throws RuntimeError 482.
+// Prints the text in the printer font. The name of the print is the file name and title of the project. Returns the
+// path of the file that was printed to, or an empty path for paper. Throws RuntimeError 482 when it fails.
 std::string PrintText(Program& program, std::string_view text);
 
 }  // namespace orby

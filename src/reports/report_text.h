@@ -1,5 +1,5 @@
-// A page of a report, written line by line. It is read in a fixed-pitch font: the values stand in one column, behind
-// their labels and a row of dots. Every line ends in CR LF.
+// A page of a report, written line by line. It is shown in a fixed-pitch font: the values are in one column, after
+// their labels and a row of dots. Every line ends with CR LF.
 #pragma once
 
 #include <cstddef>
@@ -11,25 +11,26 @@
 
 namespace orby {
 
-inline constexpr std::size_t ReportWidth = 58;  // up to the column of the values; messages wrap there
+inline constexpr std::size_t ReportWidth = 58;  // width of the labels; messages wrap there
 
 class ReportText {
  public:
   explicit ReportText(UnitSystem projectUnits);
 
-  // The text alone; an empty line without one.
+  // Appends a line with only this text, or an empty line.
   void Line(std::string_view text = {});
 
-  // The label padded with dots to ReportWidth, the value, and the suffix of its unit. A longer label stays as it is.
+  // Appends the label padded with dots to ReportWidth, the value, and the suffix of its unit. A longer label is not
+  // cut.
   void Value(std::string_view label, std::string_view value, UnitSuffix unit = UnitSuffix::None);
 
-  // Label and text with dots between them, filling ReportWidth together; just joined when they fill it already.
+  // Appends label, dots and text, which fill ReportWidth together. Adds no dot when label and text already fill it.
   void Words(std::string_view label, std::string_view text);
 
-  // The text wrapped at the width, with an empty line behind it.
+  // Appends the text wrapped at the width, followed by an empty line.
   void Wrapped(std::string_view text, std::size_t width);
 
-  // The page as written so far, which is given away.
+  // Returns the page and leaves this object empty.
   std::string Take();
 
  private:

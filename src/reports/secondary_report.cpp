@@ -13,7 +13,7 @@ namespace {
 std::string EntryLoad(Single load) { return FormatNumber(load, OneDecimal); }
 std::string IntersectionLoad(Single load) { return NumberText(load); }
 
-// What the blocks of entries and of intersections have each of their own.
+// The parts that differ between the blocks of entries and of intersections.
 struct SupportBlock {
   SupportHeadings Headings;
   SecondarySupport RoofSupport::*Support;

@@ -1,4 +1,4 @@
-// The calculation report's blocks on secondary support: rock load, and capacity and stability factor of each system.
+// The secondary support in the calculation report: rock load, and the capacity and stability factor of each system.
 #pragma once
 
 #include "engine/analysis.h"
@@ -6,7 +6,8 @@
 
 namespace orby {
 
-// With SRDI and PRSUP of cable and roof bolts. Throws RuntimeError 11 for roof bolts in entries without cable bolts.
+// Includes SRDI and PRSUP of cable and roof bolts. Throws RuntimeError 11 for roof bolts in entries without cable
+// bolts.
 void ReportEntrySupport(ReportText& page, const RoofSupport& design, const Figures& figures);
 
 void ReportIntersectionSupport(ReportText& page, const RoofSupport& design, const Figures& figures);

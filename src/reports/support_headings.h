@@ -1,4 +1,4 @@
-// How both pages of the report head the secondary support of entries and of intersections.
+// The headings of secondary support of entries and of intersections on both pages of the report.
 #pragma once
 
 #include <string_view>

@@ -8,11 +8,11 @@
 namespace orby::test {
 namespace {
 
-// The costs that the cost dialog opens with in a new English design.
+// The initial costs of the cost dialog in a new English design.
 struct CostDesk : Desk {
   CostInputs& Costs() { return program.project.WorkParms.Cost; }
   std::string Page() { return CostReport(Costs(), English); }
-  // The row that starts with the label.
+  // Returns the row that starts with the label.
   std::string Row(std::string_view label) {
     for (const std::string& line : LinesOf(Page())) {
       if (line.starts_with(label)) return line;
@@ -21,20 +21,20 @@ struct CostDesk : Desk {
   }
 };
 
-TEST(CostReport, EnglishDefaults) {
+TEST(CostReport, HasTheCostsOfTheEnglishDefaults) {
   CostDesk desk;
 
   EXPECT_EQ(desk.Page(), ReadTestData("reports/cost_english_defaults.txt"));
 }
 
-TEST(CostReport, AllInputsZeroGivesATableOfZeros) {
+TEST(CostReport, IsATableOfZerosForInputsOfZero) {
   CostDesk desk;
   desk.Costs() = {};
 
   EXPECT_EQ(desk.Page(), ReadTestData("reports/cost_all_zero.txt"));
 }
 
-TEST(CostReport, NoRowSpacingLeavesCostsPerFootAndPerTonAtZero) {
+TEST(CostReport, HasNoCostsPerFootAndPerTonWithoutARowSpacing) {
   CostDesk desk;
   desk.Costs().RowSpacing = 0;
 
@@ -42,7 +42,7 @@ TEST(CostReport, NoRowSpacingLeavesCostsPerFootAndPerTonAtZero) {
   EXPECT_EQ(desk.Row("TOTAL COST:"), "TOTAL COST:                  9.22      0.00   2766.17      0.00");
 }
 
-TEST(CostReport, NoShiftsLeavesMaintenanceAndOwnershipAtZero) {
+TEST(CostReport, HasNoMaintenanceAndOwnershipWithoutShifts) {
   CostDesk desk;
   desk.Costs().ShiftsWeek = 0;
 
@@ -51,7 +51,7 @@ TEST(CostReport, NoShiftsLeavesMaintenanceAndOwnershipAtZero) {
   EXPECT_EQ(desk.Row("Machine Ownership Cost:"), "Machine Ownership Cost:      0.00      0.00      0.00      0.00");
 }
 
-TEST(CostReport, NoYearsOfDepreciationLeavesOwnershipAloneAtZero) {
+TEST(CostReport, HasNoOwnershipWithoutYearsOfDepreciation) {
   CostDesk desk;
   desk.Costs().YearsDepr = 0;
 
@@ -59,7 +59,7 @@ TEST(CostReport, NoYearsOfDepreciationLeavesOwnershipAloneAtZero) {
   EXPECT_EQ(desk.Row("Machine Ownership Cost:"), "Machine Ownership Cost:      0.00      0.00      0.00      0.00");
 }
 
-TEST(CostReport, TheAdvanceFieldsOfTheDialogTakeNoPart) {
+TEST(CostReport, DoesNotDependOnTheAdvanceFields) {
   CostDesk desk;
   const std::string before = desk.Page();
 
@@ -69,7 +69,7 @@ TEST(CostReport, TheAdvanceFieldsOfTheDialogTakeNoPart) {
   EXPECT_EQ(desk.Page(), before);
 }
 
-TEST(CostReport, AFigureWiderThanItsColumnStandsUncut) {
+TEST(CostReport, DoesNotCutAFigureThatIsWiderThanItsColumn) {
   CostDesk desk;
   desk.Costs().BoltCost = 0;
   desk.Costs().TranspCost = 123456792;
@@ -77,7 +77,7 @@ TEST(CostReport, AFigureWiderThanItsColumnStandsUncut) {
   EXPECT_EQ(desk.Row("Transportation Cost:"), "Transportation Cost:    411522.60 411522.60123456800.00 102880.70");
 }
 
-TEST(CostReport, AFigureBeyondASingleEndsTheReport) {
+TEST(CostReport, FailsForAFigureOutsideTheRangeOfASingle) {
   CostDesk desk;
   desk.Costs().TotalLabor = 3e38F;
 

@@ -1,4 +1,4 @@
-// Designs to report on, over a platform without a screen or a disk.
+// Designs for reports, on a platform without a screen or a disk.
 #pragma once
 
 #include <string>
@@ -10,7 +10,7 @@
 
 namespace orby::test {
 
-// A program with the built-in catalogs that holds a new design in the given unit system, nothing computed yet.
+// A program with the built-in catalogs and a new design in the given unit system, without computed figures.
 struct Desk {
   explicit Desk(UnitSystem units = English, StrengthBasis strengthMode = StrengthBasis::Yield);
 
@@ -18,19 +18,19 @@ struct Desk {
   Program program;
 };
 
-// Picks this bolt by hand in all three sets, in the project's units.
+// Selects this bolt manually in all three sets, in the units of the project.
 void PickBolt(Design& record, Single diameter, Single grade);
 
-// Gives the flag of every system of secondary support this value; 1 switches them on.
+// Sets the flag of every system of secondary support; 1 means in use.
 void UseEverySystem(Design& record, Integer flag = 1);
 
-// The lines of a page without their ends; a line end that is not CR LF stays in its line.
+// Returns the lines of a page without their CR LF. Any other line end stays in its line.
 std::vector<std::string> LinesOf(const std::string& page);
 
-// What stands in the column of the values, in the line of this label; "no such line" without one.
+// Returns the value in the line of this label, or "no such line".
 std::string ValueOf(const std::string& page, std::string_view label);
 
-// The part of a page from the heading on, up to the next line in brackets that is no warning, without either.
+// Returns the lines after the heading, up to the next line in brackets that is not a warning.
 std::vector<std::string> SectionOf(const std::string& page, std::string_view heading);
 
 }  // namespace orby::test

@@ -11,11 +11,11 @@
 namespace orby::test {
 namespace {
 
-constexpr std::size_t FirstFigure = 2;  // its column
+constexpr std::size_t FirstFigure = 2;  // column of the first figure
 
 std::vector<TableRow> Table() { return ReadTable("reports/golden_designs.tsv"); }
 
-// The figures of secondary support, which the parameters dialog computes and no project file has.
+// Sets the figures of secondary support, which the parameters dialog computes and project files do not contain.
 void FillFigures(Design& design, const std::vector<std::string>& fields) {
   auto field = fields.begin() + FirstFigure;
   const auto next = [&field] { return ToSingle(TextValue(*field++)); };

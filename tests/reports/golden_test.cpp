@@ -10,7 +10,7 @@ namespace {
 
 class GoldenPages : public testing::TestWithParam<std::string> {};
 
-TEST_P(GoldenPages, TheInputPageIsToTheLetter) {
+TEST_P(GoldenPages, EqualTheInputPageOfTheDesign) {
   Desk desk;
   OpenGolden(desk, GetParam());
 
@@ -19,7 +19,7 @@ TEST_P(GoldenPages, TheInputPageIsToTheLetter) {
   EXPECT_EQ(desk.program.session.OutBuf[0], ReadTestData("reports/" + GetParam() + "_input.txt"));
 }
 
-TEST_P(GoldenPages, TheCalculationPageIsToTheLetter) {
+TEST_P(GoldenPages, EqualTheCalculationPageOfTheDesign) {
   Desk desk;
   OpenGolden(desk, GetParam());
 

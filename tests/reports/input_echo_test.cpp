@@ -22,7 +22,7 @@ std::string InputPage(Desk& desk) {
   return desk.program.session.OutBuf[0];
 }
 
-// The lines from the project file on up to the next empty line.
+// Returns the lines from the project file to the next empty line.
 std::vector<std::string> FileLines(Desk& desk) {
   const std::vector<std::string> lines = LinesOf(InputPage(desk));
   std::vector<std::string> file;
@@ -32,21 +32,21 @@ std::vector<std::string> FileLines(Desk& desk) {
 
 std::vector<std::string> Geology(Desk& desk) { return SectionOf(InputPage(desk), "[GEOLOGY PARAMETERS]"); }
 
-TEST(InputEcho, WithoutTheHeaderThePageStartsWithTheTitle) {
+TEST(InputEcho, StartsWithTheTitleWithoutAHeader) {
   Desk desk;
   desk.program.session.options.PrintModuleHeader = 0;
 
   EXPECT_THAT(InputPage(desk), StartsWith("[PROJECT TITLE]\r\n"));
 }
 
-TEST(InputEcho, OnlyTheSettingOnePrintsTheHeader) {
+TEST(InputEcho, HasAHeaderOnlyForASettingOfOne) {
   Desk desk;
   desk.program.session.options.PrintModuleHeader = 2;
 
   EXPECT_THAT(InputPage(desk), StartsWith("[PROJECT TITLE]\r\n"));
 }
 
-TEST(InputEcho, ALongFileNameWrapsAtItsBlanks) {
+TEST(InputEcho, WrapsALongFileNameAtItsBlanks) {
   Desk desk;
   desk.program.project.CurrentFile =
       "/designs/cedar hollow/north mains/crosscut nine/belt entry under the old works.ORB";
@@ -55,7 +55,7 @@ TEST(InputEcho, ALongFileNameWrapsAtItsBlanks) {
                                            "entry under the old works.ORB"));
 }
 
-TEST(InputEcho, ALongFileNameWithoutBlanksIsCutToItsEnd) {
+TEST(InputEcho, ShowsTheEndOfALongFileNameWithoutBlanks) {
   Desk desk;
   desk.program.project.CurrentFile =
       "/designs/cedar_hollow/north_mains/crosscut_nine/belt_entry_under_the_old_works.ORB";
@@ -64,7 +64,7 @@ TEST(InputEcho, ALongFileNameWithoutBlanksIsCutToItsEnd) {
               ElementsAre("Project File:", "...hollow/north_mains/crosscut_nine/belt_entry_under_the_old_works.ORB"));
 }
 
-TEST(InputEcho, WithAllAnalysesOffThePageEndsBehindTheOptions) {
+TEST(InputEcho, EndsAfterTheOptionsWithAllAnalysesOff) {
   Desk desk;
   desk.program.project.WorkParms.Primary.Analysed = 0;
   desk.program.project.WorkParms.Entries.Analysed = 0;
@@ -75,7 +75,7 @@ TEST(InputEcho, WithAllAnalysesOffThePageEndsBehindTheOptions) {
   EXPECT_TRUE(page.ends_with("Analysis of Secondary Support: Intersections............NO\r\n\r\n\r\n"));
 }
 
-TEST(InputEcho, AnAnalysisIsMadeWhenItsFlagIsOneAndNothingElse) {
+TEST(InputEcho, HasAnAnalysisOnlyForAFlagOfOne) {
   for (const Integer flag : std::array<Integer, 2>{2, -1}) {
     Desk desk;
     Design& record = desk.program.project.WorkParms;
@@ -90,7 +90,7 @@ TEST(InputEcho, AnAnalysisIsMadeWhenItsFlagIsOneAndNothingElse) {
   }
 }
 
-TEST(InputEcho, ASystemIsInUseWhenItsFlagIsOneAndNothingElse) {
+TEST(InputEcho, HasASystemOnlyForAFlagOfOne) {
   for (const Integer flag : std::array<Integer, 2>{2, -1}) {
     Desk desk;
     desk.program.project.WorkParms.Primary.Analysed = 0;
@@ -111,7 +111,7 @@ TEST(InputEcho, ASystemIsInUseWhenItsFlagIsOneAndNothingElse) {
   }
 }
 
-TEST(InputEcho, IntersectionsAloneStillStandBehindAnEmptyLine) {
+TEST(InputEcho, HasAnEmptyLineBeforeIntersectionsWithoutEntries) {
   Desk desk;
   desk.program.project.WorkParms.Primary.Analysed = 0;
   desk.program.project.WorkParms.Entries.Analysed = 0;
@@ -119,7 +119,7 @@ TEST(InputEcho, IntersectionsAloneStillStandBehindAnEmptyLine) {
   EXPECT_NE(InputPage(desk).find("...YES\r\n\r\n\r\n\r\n[SECONDARY INTERSECTION SUPPORT]\r\n"), std::string::npos);
 }
 
-TEST(InputEcho, ARatingTypedByHandNamesNeitherRegionNorRock) {
+TEST(InputEcho, NamesNeitherRegionNorRockForATypedRating) {
   Desk desk;
   desk.program.project.WorkParms.Place.CMRRManual = 1;
 
@@ -131,7 +131,7 @@ TEST(InputEcho, ARatingTypedByHandNamesNeitherRegionNorRock) {
                           "Unit Weight of Rock.......................................162 (pcf)", "", ""));
 }
 
-TEST(InputEcho, ARatingIsTypedByHandInModeOneAlone) {
+TEST(InputEcho, HasATypedRatingOnlyInModeOne) {
   Desk desk;
   desk.program.project.WorkParms.Place.CMRRManual = 2;
   desk.program.project.WorkParms.Place.CMRRRegionIndex = 5;
@@ -141,7 +141,7 @@ TEST(InputEcho, ARatingIsTypedByHandInModeOneAlone) {
                                            "CMRR Rock Type............................Bedded Sandstone"}));
 }
 
-TEST(InputEcho, ARegionOutsideTheTableHasNoRowsAtAll) {
+TEST(InputEcho, HasNoRowsForARegionOutsideTheTable) {
   for (const Integer region : std::array<Integer, 2>{-1, 6}) {
     Desk desk;
     desk.program.project.WorkParms.Place.CMRRRegionIndex = region;
@@ -153,7 +153,7 @@ TEST(InputEcho, ARegionOutsideTheTableHasNoRowsAtAll) {
   }
 }
 
-TEST(InputEcho, ARockTypeOutsideTheTableHasNoRow) {
+TEST(InputEcho, HasNoRowForARockTypeOutsideTheTable) {
   for (const Integer rockType : std::array<Integer, 2>{-1, 8}) {
     Desk desk;
     desk.program.project.WorkParms.Place.CMRRRegionIndex = 5;
@@ -166,7 +166,7 @@ TEST(InputEcho, ARockTypeOutsideTheTableHasNoRow) {
   }
 }
 
-TEST(InputEcho, TheEighthRockTypeOfARegionWithSevenHasNoName) {
+TEST(InputEcho, HasNoNameForTheEighthRockTypeOfARegionWithSeven) {
   Desk desk;
   desk.program.project.WorkParms.Place.CMRRRegionIndex = 5;
   desk.program.project.WorkParms.Place.CMRRRockTypeIndex = 7;
@@ -174,7 +174,7 @@ TEST(InputEcho, TheEighthRockTypeOfARegionWithSevenHasNoName) {
   EXPECT_THAT(Geology(desk), Contains("CMRR Rock Type............................................"));
 }
 
-TEST(InputEcho, ANewProjectHasNoBoltYet) {
+TEST(InputEcho, HasNoBoltInANewProject) {
   Desk desk;
 
   EXPECT_THAT(SectionOf(InputPage(desk), "[PRIMARY SUPPORT - ROOF BOLTS]"),
@@ -190,7 +190,7 @@ TEST(InputEcho, ANewProjectHasNoBoltYet) {
                           "Roof Bolt Ultimate Capacity...............................0.0 (tons)", "", ""));
 }
 
-TEST(InputEcho, ABoltTypedByHandIsTheTypedOne) {
+TEST(InputEcho, HasTheTypedBolt) {
   Desk desk;
   Design& record = desk.program.project.WorkParms;
   PickBolt(record, 0.75F, 75);
@@ -208,7 +208,7 @@ TEST(InputEcho, ABoltTypedByHandIsTheTypedOne) {
   EXPECT_EQ(ValueOf(page, "Roof Bolt Ultimate Capacity"), "45.4 (tons)");
 }
 
-TEST(InputEcho, AnUnknownBoltOptionReadsManualButTakesTheTableRow) {
+TEST(InputEcho, HasTheTableRowForAnUnknownBoltOption) {
   Desk desk;
   Design& record = desk.program.project.WorkParms;
   record.Primary.Options = 2;
@@ -222,14 +222,14 @@ TEST(InputEcho, AnUnknownBoltOptionReadsManualButTakesTheTableRow) {
   EXPECT_EQ(ValueOf(page, "Roof Bolt Grade"), "60 (ksi)");
 }
 
-TEST(InputEcho, ALongBoltDescriptionJoinsItsLabelWithoutADot) {
+TEST(InputEcho, HasNoDotBeforeALongBoltDescription) {
   Desk desk;
   desk.program.project.WorkParms.Primary.Desc = "fully grouted rebar, grade 60, M22 threads";
 
   EXPECT_THAT(LinesOf(InputPage(desk)), Contains("Bolt Descriptionfully grouted rebar, grade 60, M22 threads"));
 }
 
-TEST(InputEcho, MetricGradesMeantAsUltimateStrengthsDifferBetweenPrimaryAndSecondaryBolts) {
+TEST(InputEcho, HasDifferentCapacitiesOfPrimaryAndSecondaryBoltsForMetricUltimateGrades) {
   Desk desk(Metric, StrengthBasis::Ultimate);
   Design& record = desk.program.project.WorkParms;
   PickBolt(record, 20, 690);
@@ -250,7 +250,7 @@ TEST(InputEcho, MetricGradesMeantAsUltimateStrengthsDifferBetweenPrimaryAndSecon
   EXPECT_THAT(capacities("[SECONDARY INTERSECTION SUPPORT - ROOF BOLTS]"), ElementsAre("-340 (kN)", "-230 (kN)"));
 }
 
-TEST(InputEcho, GradesOfAnUnknownKindAreConvertedLikeUltimateStrengthsButNotCalledSo) {
+TEST(InputEcho, ConvertsGradesOfAnUnknownKindLikeUltimateGradesWithoutTheirLine) {
   Desk english;
   english.program.project.WorkParms.Basis = StrengthBasis{2};
   PickBolt(english.program.project.WorkParms, 0.75F, 100);
@@ -268,7 +268,7 @@ TEST(InputEcho, GradesOfAnUnknownKindAreConvertedLikeUltimateStrengthsButNotCall
   EXPECT_EQ(ValueOf(inKilonewtons, "Roof Bolt Ultimate Capacity"), "217 (kN)");
 }
 
-TEST(InputEcho, TheCapacityOfACableIsTheSelectedFieldEvenWhenItGoesByTheDiameter) {
+TEST(InputEcho, HasTheSelectedCapacityOfACableEvenWithItsDiameter) {
   Desk desk;
   Design& record = desk.program.project.WorkParms;
   record.Intersections.Analysed = 0;
@@ -282,7 +282,7 @@ TEST(InputEcho, TheCapacityOfACableIsTheSelectedFieldEvenWhenItGoesByTheDiameter
   EXPECT_EQ(ValueOf(page, "Cable Bolt Capacity"), "29.5 (tons)");
 }
 
-TEST(InputEcho, ACableOfGivenCapacityHasNoDiameter) {
+TEST(InputEcho, HasNoDiameterForACableOfGivenCapacity) {
   Desk desk;
   Design& record = desk.program.project.WorkParms;
   record.Intersections.Analysed = 0;
@@ -294,7 +294,7 @@ TEST(InputEcho, ACableOfGivenCapacityHasNoDiameter) {
   EXPECT_EQ(ValueOf(page, "Cable Bolt Capacity"), "27 (tons)");
 }
 
-TEST(InputEcho, ACableOfAnUnknownKindIsOfTheCapacityTypedIn) {
+TEST(InputEcho, HasTheTypedCapacityForACableOfAnUnknownKind) {
   Desk desk;
   Design& record = desk.program.project.WorkParms;
   record.Intersections.Analysed = 0;
@@ -308,7 +308,7 @@ TEST(InputEcho, ACableOfAnUnknownKindIsOfTheCapacityTypedIn) {
   EXPECT_EQ(ValueOf(page, "Cable Bolt Capacity"), "29.5 (tons)");
 }
 
-TEST(InputEcho, MakingAReportTidiesTheDescriptionOfTheProject) {
+TEST(InputEcho, NormalisesTheDescriptionOfTheProject) {
   Desk desk;
   desk.program.project.ProjectDescription = "Belt entry\r\n\r\nReturn entry\r\n";
 
@@ -319,7 +319,7 @@ TEST(InputEcho, MakingAReportTidiesTheDescriptionOfTheProject) {
   EXPECT_NE(page.find("[PROJECT DESCRIPTION]\r\nBelt entry\r\nReturn entry\r\n\r\n[GEOLOGY"), std::string::npos);
 }
 
-TEST(InputEcho, ADescriptionThatCannotBeTidiedIsPrintedAsItStands) {
+TEST(InputEcho, HasTheUnchangedDescriptionIfItCannotBeNormalised) {
   Desk desk;
   desk.program.project.ProjectDescription = "Belt entry\r\n\r\nReturn entry";
   desk.machine.files.Fail(MemoryFiles::Step::Create, 61);
@@ -329,7 +329,7 @@ TEST(InputEcho, ADescriptionThatCannotBeTidiedIsPrintedAsItStands) {
   EXPECT_NE(page.find("[PROJECT DESCRIPTION]\r\nBelt entry\r\n\r\nReturn entry\r\n\r\n[GEOLOGY"), std::string::npos);
 }
 
-TEST(InputEcho, RebuildsItsOwnPageAndLeavesTheOthers) {
+TEST(InputEcho, ReplacesOnlyItsOwnPage) {
   Desk desk;
   desk.program.session.OutBuf[0] = "yesterday's page";
   desk.program.session.OutBuf[1] = "the calculations";
@@ -351,7 +351,7 @@ TEST(InputEcho, ShowsTheCommittedDesign) {
   EXPECT_EQ(ValueOf(InputPage(desk), "Entry Width"), "20 (ft)");
 }
 
-TEST(InputEcho, AUnitSystemThatDoesNotExistEndsTheReport) {
+TEST(InputEcho, FailsForAnUnknownUnitSystem) {
   Desk desk;
   desk.program.project.WorkParms.Units = UnitSystem{2};
 

@@ -16,7 +16,7 @@ using testing::ElementsAre;
 using testing::IsSupersetOf;
 using testing::Not;
 
-// A new design with the bolt that its defaults name, primary support alone.
+// A new design with the default bolt and only primary support.
 struct PrimaryDesk : Desk {
   explicit PrimaryDesk(UnitSystem units = English) : Desk(units) {
     if (units == Metric) {
@@ -34,7 +34,7 @@ struct PrimaryDesk : Desk {
   std::vector<std::string> Judgement() { return SectionOf(Page(), "[ORBY DESIGN]"); }
 };
 
-TEST(CalculationReport, TakesThePlaceOfThePageBeforeAndIsTheLastPage) {
+TEST(CalculationReport, ReplacesTheOldPageAndIsTheLastPage) {
   Desk desk;
   desk.program.session.OutBuf[0] = "the inputs";
   desk.program.session.OutBuf[1] = "a cost table";
@@ -47,14 +47,14 @@ TEST(CalculationReport, TakesThePlaceOfThePageBeforeAndIsTheLastPage) {
   EXPECT_EQ(desk.program.windows.LastPage, 1);
 }
 
-TEST(CalculationReport, WithEveryAnalysisOffHoldsItsHeadingAlone) {
+TEST(CalculationReport, HasOnlyItsHeadingWithAllAnalysesOff) {
   PrimaryDesk desk;
   desk.Parms().Primary.Analysed = 0;
 
   EXPECT_EQ(desk.Page(), "[ORBY CALCULATIONS]\r\n");
 }
 
-TEST(CalculationReport, AnAnalysisIsOnWhenItsFlagIsOneAndNothingElse) {
+TEST(CalculationReport, HasAnAnalysisOnlyForAFlagOfOne) {
   PrimaryDesk desk;
   desk.Parms().Primary.Analysed = 2;
   desk.Parms().Entries.Analysed = -1;
@@ -70,7 +70,7 @@ TEST(CalculationReport, JudgesTheCommittedDesign) {
   EXPECT_EQ(ValueOf(desk.Page(), "Actual Sum of Diagonals"), "60.0 (ft)");
 }
 
-TEST(SpanReport, ASpanThatFitsIsOK) {
+TEST(SpanReport, AcceptsASpanWithinItsLimits) {
   PrimaryDesk desk;
 
   EXPECT_THAT(desk.Span(), ElementsAre("Suggested Sum of Diagonals................................63.2 (ft)",
@@ -78,14 +78,14 @@ TEST(SpanReport, ASpanThatFitsIsOK) {
                                        "Intersection Span: OK.", ""));
 }
 
-TEST(SpanReport, ASpanEqualToTheSuggestedOneIsOK) {
+TEST(SpanReport, AcceptsTheSuggestedSpan) {
   PrimaryDesk desk;
   desk.Parms().Place.ActualSpanDiagonals = 63.2F;
 
   EXPECT_THAT(desk.Span(), Contains("Intersection Span: OK."));
 }
 
-TEST(SpanReport, ASpanThatIsTooLargeAloneLeavesAnEmptyLineBehindItsWarning) {
+TEST(SpanReport, HasAnEmptyLineAfterTheWarningOfATooLargeSpan) {
   PrimaryDesk desk;
   desk.Parms().Place.ActualSpanDiagonals = 64;
 
@@ -95,7 +95,7 @@ TEST(SpanReport, ASpanThatIsTooLargeAloneLeavesAnEmptyLineBehindItsWarning) {
                           "Actual sum of diagonals exceeds suggested sum of diagonals.", "", ""));
 }
 
-TEST(SpanReport, AMismatchAloneIsAHeadingWithoutAMessage) {
+TEST(SpanReport, HasAWarningWithoutAMessageForAMismatch) {
   PrimaryDesk desk;
   desk.Parms().Place.ActualSpanDiagonals = 32;
 
@@ -104,7 +104,7 @@ TEST(SpanReport, AMismatchAloneIsAHeadingWithoutAMessage) {
                           "Actual Sum of Diagonals...................................32.0 (ft)", "[Warning]", ""));
 }
 
-TEST(SpanReport, TooLargeAndMismatchedGivesBothWarnings) {
+TEST(SpanReport, HasBothWarningsForATooLargeSpanWithAMismatch) {
   PrimaryDesk desk;
   desk.Parms().Place.ActualSpanDiagonals = 64;
   desk.Parms().Place.EntryWidth = 43;
@@ -115,7 +115,7 @@ TEST(SpanReport, TooLargeAndMismatchedGivesBothWarnings) {
                                        "Intersection diagonals and entry width may not match.", ""));
 }
 
-TEST(SpanReport, AMetricSpanIsJudgedWithAMarginOfFourMetres) {
+TEST(SpanReport, JudgesAMetricSpanWithAMarginOfFourMetres) {
   PrimaryDesk desk(Metric);
   desk.Parms().Place.ActualSpanDiagonals = 12.7F;
 
@@ -128,21 +128,21 @@ TEST(SpanReport, AMetricSpanIsJudgedWithAMarginOfFourMetres) {
   EXPECT_THAT(wide, Contains("Intersection Span: OK."));
 }
 
-TEST(SpanReport, ALengthBelowOneHasNoZeroBeforeThePoint) {
+TEST(SpanReport, HasNoZeroBeforeThePointOfALengthBelowOne) {
   PrimaryDesk desk;
   desk.Parms().Place.ActualSpanDiagonals = 0.5F;
 
   EXPECT_EQ(ValueOf(desk.Page(), "Actual Sum of Diagonals"), ".5 (ft)");
 }
 
-TEST(SpanReport, ALengthOfZeroIsAPointAndAZero) {
+TEST(SpanReport, ShowsALengthOfZeroAsAPointAndAZero) {
   PrimaryDesk desk;
   desk.Parms().Primary.Length = 0;
 
   EXPECT_EQ(ValueOf(desk.Page(), "Actual Roof Bolt Length"), ".0 (ft)");
 }
 
-TEST(BoltReport, ALengthBetweenTheSuggestedOneAndTwoFeetMoreIsOK) {
+TEST(BoltReport, AcceptsALengthFromTheSuggestedOneToTwoFeetMore) {
   PrimaryDesk desk;
 
   EXPECT_THAT(desk.Bolts(), ElementsAre("Actual Roof Bolt Yield Capacity...........................16.6 (tons)",
@@ -151,7 +151,7 @@ TEST(BoltReport, ALengthBetweenTheSuggestedOneAndTwoFeetMoreIsOK) {
                                         "Roof Bolt Length OK.", ""));
 }
 
-TEST(BoltReport, ABoltShorterThanSuggestedIsWarnedOf) {
+TEST(BoltReport, WarnsOfABoltShorterThanSuggested) {
   PrimaryDesk desk;
   desk.Parms().Primary.Length = 4.8F;
 
@@ -162,9 +162,9 @@ TEST(BoltReport, ABoltShorterThanSuggestedIsWarnedOf) {
                           "The actual roof bolt length is shorter than the suggested length", ""));
 }
 
-TEST(BoltReport, ExactlyTwoFeetMoreIsOKAndAnInchMoreIsTooLong) {
+TEST(BoltReport, WarnsOfABoltMoreThanTwoFeetTooLong) {
   PrimaryDesk desk;
-  desk.Parms().Place.CMRR = 80;  // a roof this strong needs no more than 4 ft
+  desk.Parms().Place.CMRR = 80;  // the smallest suggestion, 4 ft
   desk.Parms().Primary.Length = 6;
 
   const auto atLimit = desk.Bolts();
@@ -177,7 +177,7 @@ TEST(BoltReport, ExactlyTwoFeetMoreIsOKAndAnInchMoreIsTooLong) {
   EXPECT_THAT(beyond, Not(Contains("Roof Bolt Length OK.")));
 }
 
-TEST(BoltReport, AMetricBoltSixtyCentimetresTooLongIsWarnedOf) {
+TEST(BoltReport, WarnsOfAMetricBoltMoreThanSixtyCentimetresTooLong) {
   PrimaryDesk desk(Metric);
   desk.Parms().Primary.Length = 2.2F;  // 1.689 m are suggested
 
@@ -190,20 +190,20 @@ TEST(BoltReport, AMetricBoltSixtyCentimetresTooLongIsWarnedOf) {
                                     "length by more than 60 cm"}));
 }
 
-TEST(BoltReport, SixtyCentimetresAreTheSingleNearestToThem) {
+TEST(BoltReport, ComparesALengthWithSixtyCentimetresInSinglePrecision) {
   EXPECT_EQ(JudgeLength({.Actual = 0.85F, .Suggested = 0.25F}, Metric), LengthVerdict::Fine);  // 0.60000002 m more
   EXPECT_EQ(JudgeLength({.Actual = 2.1F, .Suggested = 1.5F}, Metric), LengthVerdict::Fine);    // 0.5999999 m more
   EXPECT_EQ(JudgeLength({.Actual = 2.1000001F, .Suggested = 1.5F}, Metric), LengthVerdict::TooLong);
 }
 
-TEST(BoltReport, LengthsAreJudgedToTheLastBit) {
+TEST(BoltReport, ComparesLengthsExactly) {
   EXPECT_EQ(JudgeLength({.Actual = 6, .Suggested = 4}, English), LengthVerdict::Fine);
   EXPECT_EQ(JudgeLength({.Actual = 6.0000005F, .Suggested = 4}, English), LengthVerdict::TooLong);
   EXPECT_EQ(JudgeLength({.Actual = 4, .Suggested = 4}, English), LengthVerdict::Fine);
   EXPECT_EQ(JudgeLength({.Actual = 3.9999998F, .Suggested = 4}, English), LengthVerdict::TooShort);
 }
 
-TEST(BoltReport, ABoltBelowTheASTMMinimumIsWarnedOf) {
+TEST(BoltReport, WarnsOfABoltBelowTheASTMMinimum) {
   PrimaryDesk desk;
   PickBolt(desk.Parms(), 0.625F, 55);
 
@@ -214,7 +214,7 @@ TEST(BoltReport, ABoltBelowTheASTMMinimumIsWarnedOf) {
                           "Bolt capacity may not meet ASTM minimum standards for roof support", ""));
 }
 
-TEST(BoltReport, ABoltWhoseGradeIsNoYieldStrengthIsLabelledByItsUltimateCapacity) {
+TEST(BoltReport, LabelsTheCapacityAsUltimateUnlessTheGradeIsAYieldStrength) {
   for (const StrengthBasis basis : {StrengthBasis::Ultimate, StrengthBasis{2}}) {
     PrimaryDesk desk;
     PickBolt(desk.Parms(), 0.75F, 100);
@@ -222,7 +222,7 @@ TEST(BoltReport, ABoltWhoseGradeIsNoYieldStrengthIsLabelledByItsUltimateCapacity
 
     const std::string page = desk.Page();
 
-    // The number is the yield capacity all the same: 75 x 0.44179 / 2
+    // The number is the yield capacity nevertheless: 75 x 0.44179 / 2
     EXPECT_EQ(ValueOf(page, "Actual Roof Bolt Yield Capacity"), "no such line") << NumberOf(basis);
     EXPECT_EQ(ValueOf(page, "Actual Roof Bolt Ultimate Capacity"), "16.6 (tons)") << NumberOf(basis);
     EXPECT_EQ(ValueOf(page, "Actual PSUP for this design"), "9.9") << NumberOf(basis);
@@ -230,7 +230,7 @@ TEST(BoltReport, ABoltWhoseGradeIsNoYieldStrengthIsLabelledByItsUltimateCapacity
   }
 }
 
-TEST(BoltReport, AShortAndWeakBoltHasWarnings) {
+TEST(BoltReport, HasTwoWarningsForAShortAndWeakBolt) {
   PrimaryDesk desk;
   PickBolt(desk.Parms(), 0.625F, 55);
   desk.Parms().Primary.Length = 4;
@@ -243,14 +243,14 @@ TEST(BoltReport, AShortAndWeakBoltHasWarnings) {
                           "Bolt capacity may not meet ASTM minimum standards for roof support", ""));
 }
 
-TEST(BoltReport, TheASTMMinimaAreTheSinglesNearestToThem) {
+TEST(BoltReport, ComparesCapacitiesWithTheASTMMinimaInSinglePrecision) {
   EXPECT_FALSE(FailsASTM({Inches(0.75F), Ksi(38.253773F)}, English));  // 8.45 tons as a Single, which is less than 8.45
   EXPECT_TRUE(FailsASTM({Inches(0.75F), Ksi(38.253769F)}, English));
   EXPECT_FALSE(FailsASTM({Inches(0.75F), Ksi(42.418861F)}, Metric));  // 83.36 kN
   EXPECT_TRUE(FailsASTM({Inches(0.75F), Ksi(42.418858F)}, Metric));
 }
 
-TEST(DesignReport, EnoughSupportIsOK) {
+TEST(DesignReport, AcceptsEnoughSupport) {
   PrimaryDesk desk;
 
   EXPECT_THAT(desk.Judgement(),
@@ -260,7 +260,7 @@ TEST(DesignReport, EnoughSupportIsOK) {
                           "PRSUP.....................................................13.3", ""));
 }
 
-TEST(DesignReport, TooLittleSupportIsWarnedOf) {
+TEST(DesignReport, WarnsOfTooLittleSupport) {
   PrimaryDesk desk;
   desk.Parms().Primary.BoltsperRow = 3;
 
@@ -273,7 +273,7 @@ TEST(DesignReport, TooLittleSupportIsWarnedOf) {
                           "PRSUP.....................................................9.9", ""));
 }
 
-TEST(DesignReport, ASuggestionOfExactlyTwelveNeedsNoSupplement) {
+TEST(DesignReport, SuggestsSupplementalSupportAboveTwelveOnly) {
   PrimaryDesk desk;
   desk.Parms().Primary.StabilityFactor = 1.5775279F;
 
@@ -292,7 +292,7 @@ TEST(DesignReport, ASuggestionOfExactlyTwelveNeedsNoSupplement) {
                                 "PRSUP.....................................................13.3", ""));
 }
 
-TEST(DesignReport, ARoofThatIsAtItsWeakestIsSuggestedThree) {
+TEST(DesignReport, SuggestsThreeForTheWeakestRoof) {
   PrimaryDesk desk;
   desk.Parms().Place.CMRR = 20;
 
@@ -300,7 +300,7 @@ TEST(DesignReport, ARoofThatIsAtItsWeakestIsSuggestedThree) {
               IsSupersetOf({"Suggested PSUP for this location..........................3.0", "Actual PSUP OK"}));
 }
 
-TEST(DesignReport, ASuggestionBelowThreeIsAMatterOfSkinControl) {
+TEST(DesignReport, ReportsSkinControlForASuggestionBelowThree) {
   EXPECT_EQ(JudgePsup({.Actual = 9, .Suggested = 2.9999998F}), PsupVerdict::SkinControl);
   EXPECT_EQ(JudgePsup({.Actual = 0, .Suggested = 0}), PsupVerdict::SkinControl);
   EXPECT_EQ(JudgePsup({.Actual = 2.9F, .Suggested = 3}), PsupVerdict::TooLow);
@@ -308,14 +308,14 @@ TEST(DesignReport, ASuggestionBelowThreeIsAMatterOfSkinControl) {
   EXPECT_EQ(PsupMessage(PsupVerdict::SkinControl), "Bolt reinforcement mechanism is skin control or suspension.");
 }
 
-TEST(DesignReport, NoDepthEndsTheReport) {
+TEST(DesignReport, FailsWithoutADepth) {
   PrimaryDesk desk;
   desk.Parms().Place.DepthofCover = 0;
 
   EXPECT_EQ(ErrorNumberOf([&] { desk.Page(); }), 5);
 }
 
-TEST(DesignReport, NoRowSpacingEndsTheReport) {
+TEST(DesignReport, FailsWithoutARowSpacing) {
   PrimaryDesk desk;
   desk.Parms().Primary.RowSpacing = 0;
 

@@ -28,7 +28,7 @@ std::vector<std::string> TextOn(const std::string& sheet) {
   return {lines.begin() + 5, lines.end()};
 }
 
-TEST(Printing, PutsTheHeaderOnEverySheet) {
+TEST(Printing, HasAHeaderOnEverySheet) {
   Desk desk;
   desk.program.project.CurrentFile = "/designs/belt-entry-trusses.ORB";
   desk.machine.clock.today = {2031, 12, 31};
@@ -45,7 +45,7 @@ TEST(Printing, PutsTheHeaderOnEverySheet) {
             "line 56\r\n");
 }
 
-TEST(Printing, NamesTheMetricUnitsAndADayOfOneDigit) {
+TEST(Printing, ShowsMetricUnitsAndADayOfOneDigit) {
   Desk desk(Metric);
   desk.machine.clock.today = {2031, 3, 9};
 
@@ -59,7 +59,7 @@ TEST(Printing, NamesTheMetricUnitsAndADayOfOneDigit) {
                   "------------------------------------------------------------------------------", "", "roof bolts"));
 }
 
-TEST(Printing, KeepsALongFileNameClearOfThePageNumber) {
+TEST(Printing, ShortensALongFileNameBeforeThePageNumber) {
   Desk desk;
   desk.program.project.CurrentFile = "/designs/northern panel three, second headgate, revised after the fall.ORB";
 
@@ -68,7 +68,7 @@ TEST(Printing, KeepsALongFileNameClearOfThePageNumber) {
   EXPECT_EQ(LinesOf(sheets.at(0))[0], "File Name: northern p... headgate, revised after the fall.ORB          Page: 1");
 }
 
-TEST(Printing, FillsASheetOfSixtyLinesBeforeItStartsTheNext) {
+TEST(Printing, HasSixtyLinesOnAFullSheet) {
   Desk desk;
 
   const auto full = PrintSheets(desk.program, LinesNumbered(TextLines));
@@ -82,7 +82,7 @@ TEST(Printing, FillsASheetOfSixtyLinesBeforeItStartsTheNext) {
   EXPECT_THAT(TextOn(over[2]), ElementsAre("line 111"));
 }
 
-TEST(Printing, PrintsTheHeaderAloneWhenThereIsNoText) {
+TEST(Printing, HasOnlyAHeaderForAnEmptyText) {
   Desk desk;
 
   const auto sheets = PrintSheets(desk.program, {});
@@ -99,7 +99,7 @@ TEST(Printing, KeepsEmptyLinesAndALastLineWithoutAnEnd) {
   EXPECT_THAT(TextOn(sheets.at(0)), ElementsAre("", "[GEOLOGY]", "", "CMRR"));
 }
 
-TEST(Printing, CarriesALineThatIsWiderThanThePaperOnToTheNext) {
+TEST(Printing, ContinuesATooWideLineOnTheNextLine) {
   Desk desk;
   const std::string wide = std::string(77, 'x') + "\xC3\xA9" + "rest of the title";
 
@@ -109,12 +109,12 @@ TEST(Printing, CarriesALineThatIsWiderThanThePaperOnToTheNext) {
               ElementsAre(std::string(77, 'x') + "\xC3\xA9", "rest of the title", std::string(78, 'y')));
 }
 
-// The text on the last of the sheets.
+// Returns the text on the last sheet.
 std::vector<std::string> LastSheet(const Desk& desk, const std::string& text) {
   return TextOn(PrintSheets(desk.program, text).back());
 }
 
-TEST(Printing, StartsTheNextSheetWithAHeadingThatWouldBeTheLastLine) {
+TEST(Printing, MovesAHeadingInTheLastLineToTheNextSheet) {
   Desk desk;
 
   const auto sheets = PrintSheets(desk.program, LinesNumbered(TextLines - 1) + "[GEOLOGY PARAMETERS]\r\nCMRR\r\n");
@@ -124,7 +124,7 @@ TEST(Printing, StartsTheNextSheetWithAHeadingThatWouldBeTheLastLine) {
   EXPECT_THAT(TextOn(sheets[1]), ElementsAre("[GEOLOGY PARAMETERS]", "CMRR"));
 }
 
-TEST(Printing, KeepsAHeadingOnASheetThatHasRoomForTheLineUnderIt) {
+TEST(Printing, KeepsAHeadingOnASheetWithRoomForTheLineBelowIt) {
   Desk desk;
 
   const auto sheets = PrintSheets(desk.program, LinesNumbered(TextLines - 2) + "[GEOLOGY PARAMETERS]\r\nCMRR\r\n");
@@ -133,7 +133,7 @@ TEST(Printing, KeepsAHeadingOnASheetThatHasRoomForTheLineUnderIt) {
   EXPECT_EQ(TextOn(sheets[0]).back(), "CMRR");
 }
 
-TEST(Printing, KeepsHeadingsThatFollowEachOtherWithTheLineUnderThem) {
+TEST(Printing, KeepsSuccessiveHeadingsWithTheLineBelowThem) {
   Desk desk;
   const std::string headings = "[ORBY CALCULATIONS]\r\n\r\n[INTERSECTION SPAN INFORMATION]\r\nSpan\r\n";
 
@@ -142,7 +142,7 @@ TEST(Printing, KeepsHeadingsThatFollowEachOtherWithTheLineUnderThem) {
   EXPECT_THAT(PrintSheets(desk.program, LinesNumbered(TextLines - 4) + headings), SizeIs(1));
 }
 
-TEST(Printing, StartsANewSheetForHeadingsThatJustFillOneWithTheLineUnderThem) {
+TEST(Printing, StartsANewSheetForHeadingsThatJustFillItWithTheLineBelowThem) {
   Desk desk;
   std::string headings;
   for (std::size_t i = 1; i < TextLines; ++i) headings += "[Panel]\r\n";
@@ -156,7 +156,7 @@ TEST(Printing, StartsANewSheetForHeadingsThatJustFillOneWithTheLineUnderThem) {
   EXPECT_EQ(TextOn(overfilled[0]).at(1), "[Panel]") << "no sheet holds them all";
 }
 
-TEST(Printing, FillsItsSheetsAlsoWithHeadingsAlone) {
+TEST(Printing, FillsItsSheetsWithATextOfOnlyHeadings) {
   Desk desk;
   std::string text;
   for (std::size_t i = 0; i < 2 * TextLines; ++i) text += "[Panel]\r\n";
@@ -164,7 +164,7 @@ TEST(Printing, FillsItsSheetsAlsoWithHeadingsAlone) {
   EXPECT_THAT(PrintSheets(desk.program, text), SizeIs(2));
 }
 
-TEST(Printing, ProposesTheNameOfTheFileWithoutItsExtension) {
+TEST(Printing, OffersTheNameOfTheFileWithoutItsExtension) {
   Desk desk;
   EXPECT_EQ(PrintedName(desk.program.project), "Untitled");
 
@@ -172,7 +172,7 @@ TEST(Printing, ProposesTheNameOfTheFileWithoutItsExtension) {
   EXPECT_EQ(PrintedName(desk.program.project), "panel 3.5");
 }
 
-TEST(Printing, CallsTheDocumentByFileAndTitle) {
+TEST(Printing, NamesThePrintByFileAndTitle) {
   Desk desk;
   desk.program.project.CurrentFile = "/designs/weak-roof.ORB";
   desk.program.project.ProjectTitle = "  Headgate 4 ";
@@ -182,7 +182,7 @@ TEST(Printing, CallsTheDocumentByFileAndTitle) {
   EXPECT_EQ(desk.machine.printer.title, "weak-roof.ORB - Headgate 4");
 }
 
-TEST(Printing, CallsTheDocumentByTheTitleThatWasTypedAfterOpeningShiftedIt) {
+TEST(Printing, NamesThePrintByTheTypedTitleAfterOpeningHasShiftedIt) {
   Desk desk;
   desk.program.project.CurrentFile = "/designs/weak-roof.ORB";
   desk.program.project.ProjectTitle = " 0 ";
@@ -193,7 +193,7 @@ TEST(Printing, CallsTheDocumentByTheTitleThatWasTypedAfterOpeningShiftedIt) {
   EXPECT_EQ(desk.machine.printer.title, "weak-roof.ORB - Headgate 4");
 }
 
-TEST(Printing, JoinsPagesWithNothingBetweenThem) {
+TEST(Printing, JoinsPagesWithoutALineBetweenThem) {
   Desk desk;
   desk.program.session.OutBuf = {"inputs\r\n", "calculations\r\n", "", "", ""};
 
@@ -203,7 +203,7 @@ TEST(Printing, JoinsPagesWithNothingBetweenThem) {
   EXPECT_EQ(ErrorNumberOf([&] { JoinedPages(desk.program.session, -1, 1); }), 9);
 }
 
-TEST(Printing, SendsTheSheetsToThePrinterInItsFont) {
+TEST(Printing, PrintsTheSheetsInThePrinterFont) {
   Desk desk;
   desk.program.project.CurrentFile = "/designs/weak-roof.ORB";
   desk.machine.fonts.printer = {"Arial", "Courier New"};
@@ -223,7 +223,7 @@ TEST(Printing, FailsWithoutAPrinter) {
   EXPECT_EQ(ErrorNumberOf([&] { PrintText(desk.program, "roof bolts\r\n"); }), 482);
 }
 
-TEST(Printing, ArrangesAWholeReportOnItsSheets) {
+TEST(Printing, PrintsAWholeReport) {
   const std::string name = "every_system_english";
   Desk desk;
   OpenGolden(desk, name);

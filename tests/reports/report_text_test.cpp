@@ -7,7 +7,7 @@
 namespace orby::test {
 namespace {
 
-TEST(ReportText, ValuesStandBehindDotsInColumn58WithTheUnitOfTheProject) {
+TEST(ReportText, HasValuesAfterDotsInColumn58WithTheUnitOfTheProject) {
   ReportText page(Metric);
 
   page.Value("Entry Width", "6.2", UnitSuffix::Length);
@@ -15,7 +15,7 @@ TEST(ReportText, ValuesStandBehindDotsInColumn58WithTheUnitOfTheProject) {
   EXPECT_EQ(page.Take(), "Entry Width...............................................6.2 (m)\r\n");
 }
 
-TEST(ReportText, AngleAndUnitlessValues) {
+TEST(ReportText, HasDegreesForAnglesAndNoUnitForPlainNumbers) {
   ReportText page(English);
 
   page.Value("Rock Fall Angle", "30", UnitSuffix::Degrees);
@@ -26,7 +26,7 @@ TEST(ReportText, AngleAndUnitlessValues) {
             "PRSUP.....................................................13.3\r\n");
 }
 
-TEST(ReportText, ALabelWiderThanTheColumnIsJoinedToItsValue) {
+TEST(ReportText, HasNoDotAfterALabelWiderThanItsColumn) {
   ReportText page(English);
 
   page.Value("Number of Standing Supports per Row in the Crosscuts Inby the Face", "2");
@@ -34,7 +34,7 @@ TEST(ReportText, ALabelWiderThanTheColumnIsJoinedToItsValue) {
   EXPECT_EQ(page.Take(), "Number of Standing Supports per Row in the Crosscuts Inby the Face2\r\n");
 }
 
-TEST(ReportText, WordsEndInColumn58) {
+TEST(ReportText, HasWordsThatEndInColumn58) {
   ReportText page(English);
 
   page.Words("CMRR Region", "Utah");
@@ -42,7 +42,7 @@ TEST(ReportText, WordsEndInColumn58) {
   EXPECT_EQ(page.Take(), "CMRR Region...........................................Utah\r\n");
 }
 
-TEST(ReportText, LabelAndWordsThatFillTheLineHaveNoDotBetweenThem) {
+TEST(ReportText, HasNoDotBetweenALabelAndWordsThatFillTheLine) {
   ReportText page(English);
 
   page.Words("Bolt Description", "fully grouted rebar, grade 60, M22 thread");
@@ -55,7 +55,7 @@ TEST(ReportText, LabelAndWordsThatFillTheLineHaveNoDotBetweenThem) {
             "Bolt Descriptionfully grouted rebar, grade 60, with an M22 thread\r\n");
 }
 
-TEST(ReportText, AWrappedTextHasAnEmptyLineBehindIt) {
+TEST(ReportText, HasAnEmptyLineAfterAWrappedText) {
   ReportText page(English);
 
   page.Wrapped("Cables follow the belt as far as the overcast", 30);
@@ -63,7 +63,7 @@ TEST(ReportText, AWrappedTextHasAnEmptyLineBehindIt) {
   EXPECT_EQ(page.Take(), "Cables follow the belt as far\r\nas the overcast\r\n\r\n");
 }
 
-TEST(ReportText, APageIsGivenAwayOnce) {
+TEST(ReportText, IsEmptyAfterItsPageIsTaken) {
   ReportText page(English);
   page.Line("[ORBY DESIGN]");
 

@@ -22,7 +22,7 @@ constexpr auto IntersectionCables = "[SECONDARY INTERSECTION SUPPORT - CABLE BOL
 constexpr auto IntersectionBolts = "[SECONDARY INTERSECTION SUPPORT - ROOF BOLTS]";
 constexpr auto BelowMinimum = "Bolt capacity may not meet ASTM minimum standards for roof support";
 
-// A new design with the bolt that its defaults name, secondary support alone.
+// A new design with the default bolt and only secondary support.
 struct SecondaryDesk : Desk {
   explicit SecondaryDesk(UnitSystem units = English) : Desk(units) {
     if (units == Metric) {
@@ -40,7 +40,7 @@ struct SecondaryDesk : Desk {
   }
 };
 
-// A desk with intersections alone, or with entries alone.
+// A desk with only intersections, and one with only entries.
 struct IntersectionDesk : SecondaryDesk {
   explicit IntersectionDesk(UnitSystem units = English) : SecondaryDesk(units) { Parms().Entries.Analysed = 0; }
 };
@@ -48,7 +48,7 @@ struct EntryDesk : SecondaryDesk {
   explicit EntryDesk(UnitSystem units = English) : SecondaryDesk(units) { Parms().Intersections.Analysed = 0; }
 };
 
-TEST(EntryReport, CablesWithEnoughAnchorage) {
+TEST(EntryReport, HasNoWarningForCablesWithEnoughAnchorage) {
   EntryDesk desk;
   desk.Parms().Entries.Cable.Length = 12;
   desk.Parms().Entries.RockLoad = 9.967F;
@@ -68,7 +68,7 @@ TEST(EntryReport, CablesWithEnoughAnchorage) {
             "\r\n");
 }
 
-TEST(EntryReport, ARockLoadHigherThanTheFallAngleAllowsIsTold) {
+TEST(EntryReport, ReportsAHeightThatTheFallAngleDoesNotAllow) {
   EntryDesk desk;
   desk.Parms().Place.EntryWidth = 20;
   desk.Parms().Entries.RockFallAngle = 45;
@@ -83,14 +83,14 @@ TEST(EntryReport, ARockLoadHigherThanTheFallAngleAllowsIsTold) {
                                       "(*) Rock Load Height adjusted. Maximum possible height....10.0 (ft)", ""));
 }
 
-TEST(EntryReport, AFallAngleOfZeroEndsTheReport) {
+TEST(EntryReport, FailsForAFallAngleOfZero) {
   EntryDesk desk;
   desk.Parms().Entries.RockFallAngle = 0;
 
   EXPECT_EQ(desk.Error(), 11);
 }
 
-TEST(EntryReport, ACableHoldsWhenFourFeetOfItReachAboveTheRock) {
+TEST(EntryReport, RequiresFourFeetOfACableAboveTheRock) {
   EntryDesk desk;
   desk.Parms().Entries.RockLoadHeight = 8;
   desk.Parms().Entries.Cable.Length = 12;
@@ -105,7 +105,7 @@ TEST(EntryReport, ACableHoldsWhenFourFeetOfItReachAboveTheRock) {
   EXPECT_EQ(loose.back(), "");
 }
 
-TEST(EntryReport, AMetricCableHoldsWhenOnePointThreeMetresOfItReachAboveTheRock) {
+TEST(EntryReport, RequiresOnePointThreeMetresOfAMetricCableAboveTheRock) {
   EntryDesk desk(Metric);
   desk.Parms().Entries.RockLoadHeight = 3;
   desk.Parms().Entries.Cable.Length = 4.3F;
@@ -122,7 +122,7 @@ TEST(EntryReport, AMetricCableHoldsWhenOnePointThreeMetresOfItReachAboveTheRock)
   EXPECT_THAT(shortByARounding, Contains("[Warning]"));
 }
 
-TEST(EntryReport, TheCapacityOfACableGoesByItsDiameterUnlessItIsGiven) {
+TEST(EntryReport, UsesTheDiameterOfACableUnlessItsCapacityIsGiven) {
   EntryDesk desk;
   constexpr auto Srdi = "Secondary Reinforcement Density Index (SRDI)";
 
@@ -141,7 +141,7 @@ TEST(EntryReport, TheCapacityOfACableGoesByItsDiameterUnlessItIsGiven) {
   EXPECT_EQ(typed, "176.7");
 }
 
-TEST(EntryReport, TheCapacityOfACableIsGivenAndTypedInByAnyFlagButZero) {
+TEST(EntryReport, UsesTheTypedCapacityOfACableForAnyFlagsExceptZero) {
   EntryDesk desk;
   constexpr auto Srdi = "Secondary Reinforcement Density Index (SRDI)";
   desk.Parms().Entries.Cable.CapacityManual = 31.5F;
@@ -155,7 +155,7 @@ TEST(EntryReport, TheCapacityOfACableIsGivenAndTypedInByAnyFlagButZero) {
   EXPECT_EQ(typed, "176.7");
 }
 
-TEST(EntryReport, TheCapacityOfAMetricCableIsTakenInTons) {
+TEST(EntryReport, ConvertsTheCapacityOfAMetricCableToTons) {
   EntryDesk desk(Metric);
   constexpr auto Srdi = "Secondary Reinforcement Density Index (SRDI)";
 
@@ -168,7 +168,7 @@ TEST(EntryReport, TheCapacityOfAMetricCableIsTakenInTons) {
   EXPECT_EQ(standard, "236.0");
 }
 
-TEST(EntryReport, TheSecondaryPRSUPOfCablesGoesByTheLengthOfThePrimaryBolts) {
+TEST(EntryReport, UsesTheLengthOfThePrimaryBoltsForTheSecondaryPRSUPOfCables) {
   EntryDesk desk;
   desk.Parms().Primary.Length = 12;
   desk.Parms().Entries.Cable.Length = 20;
@@ -177,7 +177,7 @@ TEST(EntryReport, TheSecondaryPRSUPOfCablesGoesByTheLengthOfThePrimaryBolts) {
   EXPECT_EQ(ValueOf(desk.Page(), "Secondary PRSUP"), "12.7");
 }
 
-TEST(EntryReport, RoofBoltsWithoutCableBoltsEndTheReport) {
+TEST(EntryReport, FailsForRoofBoltsWithoutCableBolts) {
   for (const Integer noCables : std::array<Integer, 3>{0, 2, -1}) {
     EntryDesk desk;
     desk.Parms().Entries.Cable.Use = noCables;
@@ -187,7 +187,7 @@ TEST(EntryReport, RoofBoltsWithoutCableBoltsEndTheReport) {
   }
 }
 
-TEST(EntryReport, MissesTheCableBoltsBeforeItFindsARowOfBoltsTooLong) {
+TEST(EntryReport, FailsForMissingCableBoltsBeforeTooManyBolts) {
   EntryDesk desk;
   desk.Parms().Entries.Bolt.Use = 1;
   desk.Parms().Entries.Bolt.BoltsperRow = 3E38F;
@@ -200,7 +200,7 @@ TEST(EntryReport, MissesTheCableBoltsBeforeItFindsARowOfBoltsTooLong) {
   EXPECT_EQ(without, 11);
 }
 
-TEST(EntryReport, RoofBoltsBesideCableBolts) {
+TEST(EntryReport, HasTheDensitiesOfRoofBoltsWithCableBolts) {
   EntryDesk desk;
   desk.Parms().Entries.Bolt.Use = 1;
   desk.Parms().Entries.RockLoadHeight = 5;
@@ -214,7 +214,7 @@ TEST(EntryReport, RoofBoltsBesideCableBolts) {
                           "Secondary PRSUP...........................................13.3", ""));
 }
 
-TEST(EntryReport, ARoofBoltHoldsWhenAFootOfItReachesAboveTheRock) {
+TEST(EntryReport, RequiresAFootOfARoofBoltAboveTheRock) {
   EntryDesk desk;
   desk.Parms().Entries.Bolt.Use = 1;
   desk.Parms().Entries.RockLoadHeight = 5;
@@ -230,7 +230,7 @@ TEST(EntryReport, ARoofBoltHoldsWhenAFootOfItReachesAboveTheRock) {
   EXPECT_EQ(loose.back(), "");
 }
 
-TEST(EntryReport, AMetricRoofBoltHoldsWhenThirtyPointFiveCentimetresOfItReachAboveTheRock) {
+TEST(EntryReport, RequiresThirtyPointFiveCentimetresOfAMetricRoofBoltAboveTheRock) {
   EntryDesk desk(Metric);
   desk.Parms().Entries.Bolt.Use = 1;
   desk.Parms().Entries.RockLoadHeight = 1.8F;
@@ -244,7 +244,7 @@ TEST(EntryReport, AMetricRoofBoltHoldsWhenThirtyPointFiveCentimetresOfItReachAbo
   EXPECT_THAT(loose, Contains("[Warning]"));
 }
 
-TEST(EntryReport, ARoofBoltBelowTheASTMMinimumIsWarnedOf) {
+TEST(EntryReport, WarnsOfARoofBoltBelowTheASTMMinimum) {
   EntryDesk desk;
   desk.Parms().Entries.Bolt.Use = 1;
   desk.Parms().Entries.RockLoadHeight = 5;
@@ -259,7 +259,7 @@ TEST(EntryReport, ARoofBoltBelowTheASTMMinimumIsWarnedOf) {
   EXPECT_EQ(rows[6], "");
 }
 
-TEST(EntryReport, TrussesAndStandingSupports) {
+TEST(EntryReport, HasTrussesAndStandingSupports) {
   EntryDesk desk;
   desk.Parms().Entries.Cable.Use = 0;
   desk.Parms().Entries.Truss.Use = 1;
@@ -283,7 +283,7 @@ TEST(EntryReport, TrussesAndStandingSupports) {
             "Standing Support System Stability Factor..................1.00\r\n");
 }
 
-TEST(IntersectionReport, LoadsKeepTheirGeneralForm) {
+TEST(IntersectionReport, ShowsLoadsAsGeneralText) {
   IntersectionDesk desk;
   desk.Parms().Intersections.Cable.Length = 12;
   desk.Parms().Intersections.RockLoad = 12345678;
@@ -301,17 +301,17 @@ TEST(IntersectionReport, LoadsKeepTheirGeneralForm) {
             "\r\n");
 }
 
-TEST(IntersectionReport, ARockLoadHigherThanTheFallAngleAllowsIsTold) {
+TEST(IntersectionReport, ReportsAHeightThatTheFallAngleDoesNotAllow) {
   IntersectionDesk desk;
   desk.Parms().Intersections.RockFallAngle = 60;
 
   const std::string page = desk.Page();
 
-  // A square of 21.213 ft under 60 degrees carries 6.124 ft.
+  // The limit for a square of 21.213 ft and 60 degrees is 6.124 ft.
   EXPECT_EQ(ValueOf(page, "(*) Rock Load Height adjusted. Maximum possible height"), "6.1 (ft)");
 }
 
-TEST(IntersectionReport, WithoutFallAnglesAHundredIsTheLimit) {
+TEST(IntersectionReport, HasALimitOf100WithoutFallAngles) {
   IntersectionDesk desk;
   desk.Parms().Intersections.RockFallAngle = 0;
   desk.Parms().Intersections.RockFallAngleXcut = 0;
@@ -325,14 +325,14 @@ TEST(IntersectionReport, WithoutFallAnglesAHundredIsTheLimit) {
   EXPECT_EQ(ValueOf(impossible, "(*) Rock Load Height adjusted. Maximum possible height"), "100.0 (ft)");
 }
 
-TEST(IntersectionReport, ACrosscutAngleWithoutAnEntryAngleEndsTheReport) {
+TEST(IntersectionReport, FailsForACrosscutAngleWithoutAnEntryAngle) {
   IntersectionDesk desk;
   desk.Parms().Intersections.RockFallAngle = 0;
 
   EXPECT_EQ(desk.Error(), 11);
 }
 
-TEST(IntersectionReport, CablesAreJudgedByTheRockOfTheIntersection) {
+TEST(IntersectionReport, JudgesCablesByTheRockOfTheIntersection) {
   IntersectionDesk desk;
   desk.Parms().Intersections.Cable.Length = 10;
   desk.Parms().Intersections.RockLoadHeight = 6;
@@ -346,7 +346,7 @@ TEST(IntersectionReport, CablesAreJudgedByTheRockOfTheIntersection) {
   EXPECT_THAT(loose, Contains("[Warning]"));
 }
 
-TEST(IntersectionReport, RoofBoltsAreJudgedByTheLengthAndTheRockOfTheEntries) {
+TEST(IntersectionReport, JudgesRoofBoltsByTheLengthAndTheRockOfTheEntries) {
   IntersectionDesk desk;
   desk.Parms().Intersections.Bolt.Use = 1;
   desk.Parms().Entries.Bolt.Length = 9;
@@ -363,7 +363,7 @@ TEST(IntersectionReport, RoofBoltsAreJudgedByTheLengthAndTheRockOfTheEntries) {
                                    "adequate anchorage for the assumed rock load height."}));
 }
 
-TEST(IntersectionReport, RoofBoltsNeedNoCableBoltsAndHaveNoDensities) {
+TEST(IntersectionReport, HasNoDensitiesOfRoofBolts) {
   IntersectionDesk desk;
   desk.Parms().Intersections.Cable.Use = 0;
   desk.Parms().Intersections.Bolt.Use = 1;
@@ -374,7 +374,7 @@ TEST(IntersectionReport, RoofBoltsNeedNoCableBoltsAndHaveNoDensities) {
                           "Roof Bolt Support System Stability Factor.................0.00", ""));
 }
 
-TEST(IntersectionReport, TheASTMMinimumIsAskedOfTheIntersectionsOwnBolt) {
+TEST(IntersectionReport, ComparesItsOwnBoltWithTheASTMMinimum) {
   IntersectionDesk desk(Metric);
   desk.Parms().Intersections.Bolt.Use = 1;
   desk.Parms().Entries.Bolt.DiameterStd = 12;
@@ -388,7 +388,7 @@ TEST(IntersectionReport, TheASTMMinimumIsAskedOfTheIntersectionsOwnBolt) {
   EXPECT_THAT(weak, Contains(BelowMinimum));
 }
 
-TEST(IntersectionReport, FollowsStandingSupportsOfTheEntriesWithoutAnEmptyLine) {
+TEST(IntersectionReport, FollowsTheStandingSupportsOfEntriesWithoutAnEmptyLine) {
   SecondaryDesk desk;
   desk.Parms().Entries.Standing.Use = 1;
   desk.Parms().Intersections.Cable.Use = 0;
@@ -398,7 +398,7 @@ TEST(IntersectionReport, FollowsStandingSupportsOfTheEntriesWithoutAnEmptyLine) 
             std::string::npos);
 }
 
-TEST(SecondaryReport, ASystemIsUsedWhenItsFlagIsOneAndNothingElse) {
+TEST(SecondaryReport, HasASystemOnlyForAFlagOfOne) {
   for (const Integer flag : std::array<Integer, 2>{2, -1}) {
     SecondaryDesk desk;
     UseEverySystem(desk.Parms(), flag);
@@ -415,7 +415,7 @@ TEST(SecondaryReport, ASystemIsUsedWhenItsFlagIsOneAndNothingElse) {
   }
 }
 
-TEST(IntersectionReport, SystemsThatAreNotUsedAreLeftOut) {
+TEST(IntersectionReport, HasNoSystemsThatAreNotInUse) {
   IntersectionDesk desk;
   desk.Parms().Intersections.Cable.Use = 0;
 
