@@ -9,13 +9,13 @@
 namespace orby {
 namespace {
 
-// Where the header of a help file holds the date that we use for the check sum, low byte first.
+// The offset of the checksum in the header of a help file, which is the place of a date. Low byte first.
 constexpr std::size_t CheckPlace = 16;
 constexpr std::size_t CheckWidth = 4;
 constexpr std::size_t HeaderWidth = 96;
 constexpr std::size_t PieceWidth = 1U << 16U;
 
-// Up to `most` bytes; none at the end of the file, and none of a folder.
+// Reads up to `most` bytes. Returns none at the end of the file, and none for a folder.
 std::string ReadPiece(std::ifstream& file, std::size_t most) {
   std::string piece(most, '\0');
   file.read(piece.data(), static_cast<std::streamsize>(most));
@@ -29,7 +29,7 @@ std::uint32_t StoredSum(std::string_view header) {
   return sum;
 }
 
-// The sum is that of the file with zeros in its own place.
+// Returns true if the checksum is correct. It is that of the file with zeros in the place of the checksum.
 bool IsWhole(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   std::string piece = ReadPiece(file, HeaderWidth);
@@ -41,7 +41,7 @@ bool IsWhole(const std::string& path) {
   return sum == stored;
 }
 
-// Where a file inside lies.
+// Returns the position of a file inside, or nothing when there is no such file.
 std::optional<chmUnitInfo> Located(chmFile& file, const std::string& name) {
   const std::string path = "/" + name;
   chmUnitInfo unit{};
@@ -51,8 +51,8 @@ std::optional<chmUnitInfo> Located(chmFile& file, const std::string& name) {
   return unit;
 }
 
-int NoteName(chmFile*, chmUnitInfo* unit, void* names) {
-  // The names of the builder's own begin with a sign.
+int AddName(chmFile*, chmUnitInfo* unit, void* names) {
+  // The names of the builder's own files begin with a special character.
   const std::string_view name(unit->path);
   const bool isOurs = name.size() > 1 && name[1] != '#' && name[1] != '$' && name[1] != '_';
   if (isOurs) static_cast<std::vector<std::string>*>(names)->emplace_back(name.substr(1));
@@ -89,7 +89,7 @@ bool ChmFile::Has(const std::string& name) const { return Located(*file_, name).
 
 std::vector<std::string> ChmFile::Names() const {
   std::vector<std::string> names;
-  chm_enumerate(file_.get(), CHM_ENUMERATE_NORMAL | CHM_ENUMERATE_FILES, NoteName, &names);
+  chm_enumerate(file_.get(), CHM_ENUMERATE_NORMAL | CHM_ENUMERATE_FILES, AddName, &names);
   return names;
 }
 

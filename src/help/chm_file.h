@@ -1,7 +1,7 @@
 // Reads the files inside a compiled help file.
 //
-// What takes such a file apart trusts it, so a file is only opened when it is whole: what builds the help leaves the
-// check sum of the file in its header, in the place of a date that nobody reads.
+// The library that reads such a file does not check it, so only an undamaged file is opened. The build of the help
+// stores the checksum of the file in its header, in place of a date that nothing reads.
 #pragma once
 
 #include <cstdint>
@@ -15,22 +15,22 @@ struct chmFile;
 
 namespace orby {
 
-// CRC-32 of the bytes, going on from the one of what stands in front of them.
+// Returns the CRC-32 of the bytes. `before` is the CRC-32 of the bytes before them.
 std::uint32_t CheckSum(std::string_view bytes, std::uint32_t before = 0);
 
 class ChmFile {
  public:
-  // Nothing when the file cannot be read, is no help file, or is not as it was built.
+  // Opens a file. Returns null when it cannot be read, is not a help file, or is damaged.
   static std::unique_ptr<ChmFile> Open(const std::string& path);
 
-  // The largest file inside that is read; nothing that a help needs comes near it.
+  // The largest size of a file inside that is read. No file of a help is nearly as large.
   static constexpr std::size_t MostBytes = 64U << 20U;
 
-  // A file inside, by its name without a leading separator, in whatever case. Nothing when there is none or it is too
-  // large.
+  // Reads a file inside. The name has no leading separator, and its case is ignored. Returns nothing when there is no
+  // such file or it is too large.
   std::optional<std::string> Read(const std::string& name) const;
   bool Has(const std::string& name) const;
-  // The names of all files inside that were put there, in the order of the file.
+  // Returns the names of all files inside, without those of the builder, in the order of the file.
   std::vector<std::string> Names() const;
 
  private:

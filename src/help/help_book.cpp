@@ -9,10 +9,10 @@
 namespace orby {
 namespace {
 
-// No book is nested deeper; a broken file may be.
+// No book is nested deeper, but a damaged file may be.
 constexpr std::size_t DeepestLevel = 16;
 
-// Runs through the lines of the contents in their order until the act returns true.
+// Calls `act` for the lines of the contents in their order until it returns true.
 template <class Act>
 bool AnyEntry(const std::vector<HelpEntry>& entries, const Act& act) {
   return std::ranges::any_of(entries,
@@ -21,7 +21,7 @@ bool AnyEntry(const std::vector<HelpEntry>& entries, const Act& act) {
 
 std::string_view FormOf(std::string_view topic) { return topic.substr(0, topic.find('.')); }
 
-// "Text1_2" without its "_2"; empty for a name that is no member's.
+// Returns "Text1" for "Text1_2". Empty for a name that is not that of a member of an array.
 std::string_view ArrayOf(std::string_view name) {
   const std::size_t end = name.find_last_not_of("0123456789");
   const bool isMember = end != std::string_view::npos && end + 1 < name.size() && name[end] == '_';
@@ -46,7 +46,7 @@ std::vector<HelpEntry> ReadSitemap(std::string_view source) {
       if (!entry.title.empty()) levels.back()->push_back(std::move(entry));
       entry = {};
     } else if (piece.tag == "UL") {
-      // The outermost list has no entry that it belongs to.
+      // The outermost list does not belong to an entry.
       const bool isInner = !levels.back()->empty() && levels.size() < DeepestLevel;
       levels.push_back(isInner ? &levels.back()->back().entries : levels.back());
     } else if (piece.tag == "/UL" && levels.size() > 1) {

@@ -1,6 +1,6 @@
-// The help as a book: its contents, its index, the topics of windows and fields, and the search through its pages.
+// The help as a book: its contents, its index, the topics of windows and fields, and a search in its pages.
 //
-// A place is a page, or a page and an anchor on it: "parameters.html#frmPENVParm.txtCMRR".
+// A place is a page, or a page and an anchor in it: "parameters.html#frmPENVParm.txtCMRR".
 #pragma once
 
 #include <functional>
@@ -12,7 +12,7 @@
 
 namespace orby {
 
-// A line of the contents; a heading has lines of its own under it, and need have no place.
+// A line of the contents. A heading has further lines below it, and may have no place.
 struct HelpEntry {
   std::string title;
   std::string place;
@@ -35,14 +35,14 @@ struct HelpHit {
   std::string snippet;  // the words around the first hit
 };
 
-// The tree of a contents or an index file: lists of objects with the parameters Name and Local. What is nested deeper
-// than a book is stays on the deepest level.
+// Returns the tree of a contents or an index file: lists of objects with the parameters Name and Local. Lists that are
+// nested deeper than DeepestLevel belong to the deepest level.
 std::vector<HelpEntry> ReadSitemap(std::string_view source);
 
-// The keywords of an index file, in its order; those that are the same but for case become one.
+// Returns the keywords of an index file in its order. Keywords that differ only in case are joined.
 std::vector<HelpKeyword> ReadIndex(std::string_view source);
 
-// The page of a place, without the anchor.
+// Returns the page of a place, without the anchor.
 std::string_view PageOf(std::string_view place);
 
 class HelpBook {
@@ -52,25 +52,26 @@ class HelpBook {
   static constexpr std::string_view IndexFile = "ORBY.hhk";
   static constexpr std::string_view TopicsFile = "topics.txt";
 
-  // Returns a file of the book as UTF-8; nothing if the book has none of that name.
+  // Returns a file of the book as UTF-8, or nothing if the book has no file of that name.
   using Reader = std::function<std::optional<std::string>(const std::string& name)>;
 
-  // Each part is read when it is first asked for.
+  // Each part of the book is read when it is first needed.
   explicit HelpBook(Reader read) : read_(std::move(read)) {}
 
   const std::vector<HelpEntry>& Contents();
   const std::vector<HelpKeyword>& Index();
 
-  // The first page of the contents; empty in a book without pages.
+  // Returns the first page of the contents. Empty for a book without pages.
   std::string FirstPage();
-  // The title that the contents give to the page of a place; the page's name when it is not in them.
+  // Returns the title of the page of a place in the contents, or the name of the page when it is not there.
   std::string TitleOf(std::string_view place);
-  // The place of a topic: "frmGraph.Text1", "frmGraph". A member of an array ("frmGraph.Text1_2") has that of its
-  // array, a control without one that of its form, a form without one the first page.
+  // Returns the place of a topic, such as "frmGraph.Text1" or "frmGraph". A member of an array ("frmGraph.Text1_2") has
+  // the place of its array. A control without a topic has the place of its form, and a form without a topic the first
+  // page.
   std::string PlaceOf(std::string_view topic);
 
-  // The pages that have all these words, those with most hits first, then by title. A word counts without regard to
-  // case, and wherever a word of a page begins with it.
+  // Returns the pages that contain all these words, ordered by descending number of hits and then by title. Ignores
+  // case. A word matches each word of a page that begins with it.
   std::vector<HelpHit> Search(std::string_view words);
 
  private:

@@ -21,7 +21,7 @@ constexpr std::array Entities{Entity{"&amp;", "&"},   Entity{"&lt;", "<"},  Enti
 constexpr std::string_view CommentStart = "<!--";
 constexpr std::string_view CommentEnd = "-->";
 
-// Cuts the front of `rest` off up to this position, or all of it.
+// Removes the text up to this position, or all text, from `rest` and returns it.
 std::string_view TakeUpTo(std::string_view& rest, std::size_t position) {
   const std::string_view taken = rest.substr(0, position);
   rest.remove_prefix(taken.size());
@@ -30,7 +30,7 @@ std::string_view TakeUpTo(std::string_view& rest, std::size_t position) {
 
 void SkipBlanks(std::string_view& rest) { TakeUpTo(rest, rest.find_first_not_of(Blanks)); }
 
-// The value behind a "=": in quotes, or up to the next blank.
+// Removes the value after "=" and returns it. It is in quotes or ends at the next blank.
 std::string_view TakeValue(std::string_view& rest) {
   if (!rest.starts_with('"') && !rest.starts_with('\'')) return TakeUpTo(rest, rest.find_first_of(Blanks));
   const char quote = rest.front();
@@ -40,7 +40,7 @@ std::string_view TakeValue(std::string_view& rest) {
   return value;
 }
 
-// The end of a tag: the next ">" that stands in no quotes.
+// Returns the end of a tag, which is the next ">" outside of quotes.
 std::size_t EndOfTag(std::string_view rest) {
   char quote = 0;
   for (std::size_t i = 0; i < rest.size(); ++i) {
@@ -56,8 +56,8 @@ std::size_t EndOfTag(std::string_view rest) {
   return rest.size();
 }
 
-// Tags inside a word do not part it.
-bool PartsWords(std::string_view tag) {
+// Returns true if the tag separates words. Inline tags do not.
+bool SeparatesWords(std::string_view tag) {
   if (tag.starts_with('/')) tag.remove_prefix(1);
   constexpr std::array<std::string_view, 7> Inner{"A", "B", "I", "SUB", "SUP", "CODE", "IMG"};
   return std::ranges::find(Inner, tag) == Inner.end();
@@ -129,7 +129,7 @@ std::string TextOfPage(std::string_view page) {
     if (!isInHead) AppendWords(text, DecodedText(piece.text));
     if (piece.tag == "HEAD") isInHead = true;
     if (piece.tag == "/HEAD") isInHead = false;
-    if (!isInHead && PartsWords(piece.tag)) AppendWords(text, " ");
+    if (!isInHead && SeparatesWords(piece.tag)) AppendWords(text, " ");
   }
   return std::string(Trim(text));
 }

@@ -1,4 +1,4 @@
-// The little of HTML that the pages, the contents and the index of the help are made of.
+// The subset of HTML in the pages, the contents and the index of the help.
 #pragma once
 
 #include <string>
@@ -7,21 +7,21 @@
 namespace orby {
 
 struct MarkupPiece {
-  std::string text;             // in front of the tag, as it stands
-  std::string tag;              // its name in upper case, "/UL" for an end; empty at the end of the source
-  std::string_view attributes;  // all behind the name
+  std::string text;             // before the tag, not decoded
+  std::string tag;              // name in upper case, "/UL" for an end tag; empty at the end of the source
+  std::string_view attributes;  // everything after the name
 };
 
-// Takes the text up to the next tag off the front of `rest`, and the tag. Comments are passed over.
+// Removes the text up to the next tag, and the tag, from `rest` and returns them. Skips comments.
 MarkupPiece TakeMarkup(std::string_view& rest);
 
-// The decoded value of the attribute of that name, in whatever case; empty without one.
+// Returns the decoded value of the attribute of that name, ignoring case. Empty when there is none.
 std::string AttributeOf(const MarkupPiece& piece, std::string_view name);
 
-// The text with its entities replaced; one that is unknown stays as it is.
+// Replaces the entities of a text. An unknown entity is not changed.
 std::string DecodedText(std::string_view text);
 
-// What a page says, in one line of words parted by single blanks, without what stands in its head.
+// Returns the words of a page, separated by single spaces, excluding `<head>`.
 std::string TextOfPage(std::string_view page);
 
 }  // namespace orby

@@ -12,12 +12,12 @@ constexpr std::size_t SnippetAfter = 100;
 
 bool IsAsciiWord(char at) { return (at >= 'A' && at <= 'Z') || (at >= 'a' && at <= 'z') || (at >= '0' && at <= '9'); }
 
-// Characters of several bytes are letters, but for the blocks of signs and dashes, which these bytes begin.
+// Characters of several bytes are letters, except those that begin with these bytes, which are signs and dashes.
 bool BeginsSign(char at) { return at == '\xC2' || at == '\xE2'; }
 
 bool IsContinuation(char at) { return (static_cast<unsigned char>(at) & 0xC0U) == 0x80U; }
 
-// The bytes of the character at this position.
+// Returns the number of bytes of the character at this position.
 std::size_t WidthAt(std::string_view text, std::size_t at) {
   std::size_t end = at + 1;
   while (end < text.size() && IsContinuation(text[end])) ++end;
@@ -30,7 +30,7 @@ bool IsWordAt(std::string_view text, std::size_t at) {
   return !BeginsSign(first);
 }
 
-// Calls act(word) for each word of the text, a view into it.
+// Calls `act` with a view of each word of the text.
 template <class Act>
 void EachWord(std::string_view text, const Act& act) {
   std::size_t at = 0;

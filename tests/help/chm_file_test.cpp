@@ -1,4 +1,4 @@
-// Compiled help files: only a whole one opens, and of its files only those of a sensible size are read.
+// Compiled help files: only an undamaged file opens, and only its existing files are read.
 #include "help/chm_file.h"
 
 #include <gmock/gmock.h>
@@ -21,7 +21,7 @@ std::string ReadBytes(const std::string& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-TEST(HelpFile, HasALimitForWhatIsReadOfIt) {
+TEST(HelpFile, DoesNotReadAMissingPageOrAFolder) {
   const auto file = ChmFile::Open(CommittedHelp);
   ASSERT_NE(file, nullptr);
 
@@ -31,7 +31,7 @@ TEST(HelpFile, HasALimitForWhatIsReadOfIt) {
   EXPECT_EQ(file->Read("pictures"), std::nullopt);
 }
 
-class BrokenHelp : public testing::Test {
+class HelpFileOnDisk : public testing::Test {
  protected:
   // Returns true if a file of these bytes opens.
   bool Opens(const std::string& bytes) {
@@ -43,14 +43,14 @@ class BrokenHelp : public testing::Test {
   const std::string whole = ReadBytes(CommittedHelp);
 };
 
-TEST_F(BrokenHelp, OpensWhenItIsWhole) { EXPECT_TRUE(Opens(whole)); }
+TEST_F(HelpFileOnDisk, OpensWhenItIsUndamaged) { EXPECT_TRUE(Opens(whole)); }
 
-TEST_F(BrokenHelp, DoesNotOpenWhenItIsNotThere) {
+TEST_F(HelpFileOnDisk, DoesNotOpenWhenItIsMissing) {
   EXPECT_EQ(ChmFile::Open(folder.At("none.chm")), nullptr);
   EXPECT_EQ(ChmFile::Open(folder.Path()), nullptr);
 }
 
-TEST_F(BrokenHelp, DoesNotOpenWhenItIsCutAnywhere) {
+TEST_F(HelpFileOnDisk, DoesNotOpenWhenItIsCutAnywhere) {
   for (const std::size_t length : {0U, 3U, 95U, 96U, 97U, 4096U, 5000U}) {
     EXPECT_FALSE(Opens(whole.substr(0, length))) << length;
   }
@@ -61,11 +61,11 @@ TEST_F(BrokenHelp, DoesNotOpenWhenItIsCutAnywhere) {
   EXPECT_FALSE(Opens(whole + '\0'));
 }
 
-TEST_F(BrokenHelp, DoesNotOpenWithAnyBitTurned) {
-  std::mt19937 random(7);  // NOLINT: the same places each time
+TEST_F(HelpFileOnDisk, DoesNotOpenWithAChangedBit) {
+  std::mt19937 random(7);  // NOLINT: the same places in each run
   std::uniform_int_distribution<std::size_t> place(0, whole.size() - 1);
   for (unsigned i = 0; i < 100; ++i) {
-    // The directory at the beginning is what a reader trusts most.
+    // Half of the changes are in the directory at the start, which a reader uses most.
     const std::size_t at = i % 2 == 0 ? place(random) : place(random) % 5000;
     std::string turned = whole;
     turned[at] = static_cast<char>(static_cast<unsigned char>(turned[at]) ^ (1U << i % 8));
@@ -73,13 +73,13 @@ TEST_F(BrokenHelp, DoesNotOpenWithAnyBitTurned) {
   }
 }
 
-TEST_F(BrokenHelp, DoesNotOpenAsAnotherKindOfFile) {
+TEST_F(HelpFileOnDisk, DoesNotOpenWhenItIsAnotherKindOfFile) {
   EXPECT_FALSE(Opens("ITSF"));
   EXPECT_FALSE(Opens(std::string(5000, 'x')));
   EXPECT_FALSE(Opens(ReadBytes(HelpFolder + "/contents.txt")));
 }
 
-TEST(CheckSum, IsTheUsualOne) {
+TEST(CheckSum, IsTheStandardCrc32) {
   EXPECT_EQ(CheckSum("123456789"), 0xCBF43926U);
   EXPECT_EQ(CheckSum("6789", CheckSum("12345")), 0xCBF43926U);
   EXPECT_EQ(CheckSum(""), 0U);

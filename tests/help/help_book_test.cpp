@@ -72,14 +72,14 @@ TEST(HelpContents, MayLackQuotesEndsAndOrder) {
               ElementsAre(HelpEntry{"a > b", "", {}}));
 }
 
-TEST(HelpContents, LeaveOutWhatHasNoTitle) {
+TEST(HelpContents, HaveNoEntriesWithoutATitle) {
   EXPECT_THAT(ReadSitemap("<ul><object><param name=\"Local\" value=\"w.html\"></object></ul>"), IsEmpty());
   EXPECT_THAT(ReadSitemap(""), IsEmpty());
   EXPECT_THAT(ReadSitemap("<"), IsEmpty());
   EXPECT_THAT(ReadSitemap("<object><param name=\"Name"), IsEmpty());
 }
 
-TEST(HelpContents, OfABrokenFileAreNoDeeperThanABook) {
+TEST(HelpContents, OfADamagedFileHaveALimitedDepth) {
   std::string source;
   for (int i = 0; i < 100000; ++i) source += "<ul><object><param name=Name value=x></object>";
 
@@ -90,7 +90,7 @@ TEST(HelpContents, OfABrokenFileAreNoDeeperThanABook) {
   EXPECT_EQ(depth, 15U);
 }
 
-TEST(HelpIndex, HasAKeywordOfSeveralPlacesOnce) {
+TEST(HelpIndex, HasOneEntryForAKeywordOfSeveralPlaces) {
   EXPECT_THAT(ReadIndex(Index), ElementsAre(HelpKeyword{"bolt", {"cost.html", "graph.html#frmGraph"}},
                                             HelpKeyword{"crew", {"cost.html"}}));
 }
@@ -102,7 +102,7 @@ TEST(HelpPlaces, BeginWithTheFirstPage) {
   EXPECT_EQ(BookOf({}).FirstPage(), "");
 }
 
-TEST(HelpPlaces, AreNotTakenFromALineWithoutATopic) {
+TEST(HelpPlaces, AreNotReadFromALineWithoutATopic) {
   HelpBook book = BookOf({{"ORBY.hhc", Contents}, {"topics.txt", "\tgraph.html\nfrmGraph\n"}});
 
   EXPECT_EQ(book.PlaceOf("frmGraph"), "welcome.html");
@@ -139,7 +139,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 // ---- search --------------------------------------------------------------------------------------------------------
 
-TEST(HelpSearch, PutsThePageWithMostHitsFirstAndEqualOnesByTitle) {
+TEST(HelpSearch, OrdersPagesByHitsAndThenByTitle) {
   const auto found = MineBook().Search("roof");
 
   EXPECT_THAT(found, ElementsAre(AllOf(Field(&HelpHit::title, "Graph"), Field(&HelpHit::hits, 2)),
@@ -151,28 +151,28 @@ TEST(HelpSearch, ShowsTheWordsAroundTheFirstHit) {
   EXPECT_EQ(MineBook().Search("money").front().snippet, "Cost Roof bolts cost money; a BOLT costs 5.72.");
 }
 
-TEST(HelpSearch, WantsAllWords) {
+TEST(HelpSearch, FindsOnlyPagesWithAllWords) {
   EXPECT_THAT(MineBook().Search("roof curve"), ElementsAre(Field(&HelpHit::place, "graph.html")));
   EXPECT_THAT(MineBook().Search("curve money"), IsEmpty());
 }
 
-TEST(HelpSearch, TakesNoNoticeOfTheCase) { EXPECT_THAT(MineBook().Search("ROOF"), SizeIs(3)); }
+TEST(HelpSearch, IgnoresTheCaseOfLetters) { EXPECT_THAT(MineBook().Search("ROOF"), SizeIs(3)); }
 
-TEST(HelpSearch, CountsTheBeginningOfAWordAndNotItsMiddle) {
+TEST(HelpSearch, MatchesTheStartOfAWordButNotItsMiddle) {
   EXPECT_THAT(MineBook().Search("mon"), SizeIs(1));
   EXPECT_THAT(MineBook().Search("oney"), IsEmpty());
 }
 
-TEST(HelpSearch, CountsAWordThatIsGivenTwiceOnce) { EXPECT_EQ(MineBook().Search("curve, Curve").front().hits, 1); }
+TEST(HelpSearch, CountsARepeatedWordOnce) { EXPECT_EQ(MineBook().Search("curve, Curve").front().hits, 1); }
 
 TEST(HelpSearch, FindsNothingWithoutAWord) {
   EXPECT_THAT(MineBook().Search(""), IsEmpty());
   EXPECT_THAT(MineBook().Search(" ; - "), IsEmpty());
 }
 
-TEST(HelpSearch, DoesNotSeeWhatStandsInTheHeadOfAPage) { EXPECT_THAT(MineBook().Search("welcome bolt"), IsEmpty()); }
+TEST(HelpSearch, IgnoresTheHeadOfAPage) { EXPECT_THAT(MineBook().Search("welcome bolt"), IsEmpty()); }
 
-TEST(HelpSearch, CutsLongPagesAtWords) {
+TEST(HelpSearch, CutsTheTextOfALongPageBetweenWords) {
   std::string page = "<p>";
   for (int i = 0; i < 40; ++i) page += "lagging ";
   page += "truss";
@@ -187,7 +187,7 @@ TEST(HelpSearch, CutsLongPagesAtWords) {
   EXPECT_TRUE(found.front().snippet.ends_with(" lagging..."));
 }
 
-// The text around the first "truss" of a page with this text.
+// Returns the snippet for "truss" in a page with this text.
 std::string SnippetOf(const std::string& text) {
   return BookOf({{"ORBY.hhc", Contents}, {"cost.html", text}}).Search("truss").front().snippet;
 }
@@ -204,27 +204,27 @@ TEST(HelpSearch, ShowsFortyBytesBeforeAHitAndAHundredAfterIt) {
   EXPECT_EQ(SnippetOf(page), "..." + Repeated("lagging ", 4) + "truss" + Repeated(" lagging", 12) + "...");
 }
 
-TEST(HelpSearch, ShowsAPageFromItsBeginningWhenTheHitIsFortyBytesIn) {
+TEST(HelpSearch, ShowsTheStartOfAPageWithAHitInItsFirstFortyBytes) {
   EXPECT_EQ(SnippetOf("a roof is held by bolt or cables and by truss"),
             "a roof is held by bolt or cables and by truss");
   EXPECT_EQ(SnippetOf("a roof is held by bolts or cables and by truss"),
             "...roof is held by bolts or cables and by truss");
 }
 
-TEST(HelpSearch, BeginsAtTheHitWhenNoBlankStandsShortlyBeforeIt) {
+TEST(HelpSearch, BeginsAtTheHitWhenThereIsNoBlankShortlyBeforeIt) {
   EXPECT_EQ(SnippetOf(Repeated("-", 60) + "truss bolts"), "...truss bolts");
 }
 
 // ---- the text of a page --------------------------------------------------------------------------------------------
 
-TEST(HelpPage, IsReadAsItsWords) {
+TEST(HelpPage, IsReadAsWords) {
   EXPECT_EQ(TextOfPage("<body><p>4 &lt; 5 &amp;amp;</p><td>a</td><td>b</td>c<br>d<!-- <p>e --> f<sub>g</sub>"),
             "4 < 5 &amp; a b c d fg");
 }
 
-TEST(HelpPage, KeepsAnEntityThatItDoesNotKnow) { EXPECT_EQ(TextOfPage("a &frac12; & b"), "a &frac12; & b"); }
+TEST(HelpPage, KeepsAnUnknownEntity) { EXPECT_EQ(TextOfPage("a &frac12; & b"), "a &frac12; & b"); }
 
-TEST(HelpPage, HasTheCharacterOfEveryEntityThatTheBookUses) {
+TEST(HelpPage, HasTheCharacterOfEachEntityInTheBook) {
   EXPECT_EQ(TextOfPage("the miner&#39;s &quot;roof&quot;: 5 &gt; 4 &lt; 6 &amp; 7&nbsp;ft"),
             "the miner's \"roof\": 5 > 4 < 6 & 7 ft");
 }
