@@ -12,8 +12,8 @@ namespace {
 
 constexpr const char* SheetName = "Curve";
 
-// While it lives this thread writes numbers with a point: the library would follow the locale of the user, and no
-// spreadsheet program could read the file.
+// During its lifetime this thread writes numbers with a point. In some locales the library would write a comma, and
+// spreadsheet programs could not read the file.
 class PlainNumbers {
  public:
   PlainNumbers() : plain_(newlocale(LC_ALL_MASK, "C", nullptr)), before_(uselocale(plain_)) {}
@@ -37,7 +37,7 @@ void WriteColumn(lxw_worksheet* worksheet, lxw_col_t column, const std::string& 
 }
 
 void AddSeries(lxw_chart* chart, const SheetSeries& series, lxw_col_t column) {
-  // A series without points has one empty row: a range cannot end before it starts.
+  // A series without points has one empty row, because a range cannot end before it starts.
   const auto last = static_cast<lxw_row_t>(std::max<std::size_t>(series.x.size(), 1));
   lxw_chart_series* added = chart_add_series(chart, nullptr, nullptr);
   chart_series_set_categories(added, SheetName, 1, column, last, column);

@@ -7,8 +7,8 @@
 
 namespace orby {
 
-// Writes the sheet as an .xlsx file: two columns a series under their headers, and a chart of them beside. A file that
-// is there is replaced. Throws RuntimeError 75 when it cannot be written.
+// Writes the sheet as an .xlsx file with two columns and their headers for each series, and a chart beside them.
+// Replaces an existing file. Throws RuntimeError 75 when the file cannot be written.
 void WriteSheetFile(const Sheet& sheet, const std::string& path);
 
 }  // namespace orby

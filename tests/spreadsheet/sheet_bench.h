@@ -1,4 +1,4 @@
-// What a spreadsheet file holds.
+// The contents of a spreadsheet file.
 #pragma once
 
 #include <cstdio>
@@ -10,7 +10,7 @@
 
 namespace orby::test {
 
-// A part of the file, such as "xl/worksheets/sheet1.xml". The path has no quotation marks.
+// Returns a part of the file, such as "xl/worksheets/sheet1.xml". Requires a path without quotation marks.
 inline std::string SheetPart(const std::string& path, const std::string& part) {
   std::FILE* reader = popen(("unzip -p '" + path + "' " + part).c_str(), "r");
   if (reader == nullptr) throw std::logic_error("unzip does not start");
@@ -20,7 +20,7 @@ inline std::string SheetPart(const std::string& path, const std::string& part) {
   return text;
 }
 
-// The texts that cells refer to by their number.
+// Returns the texts that cells refer to by their number.
 inline std::vector<std::string> SharedTexts(const std::string& path) {
   const std::string xml = SheetPart(path, "xl/sharedStrings.xml");
   const std::regex text("<t[^>]*>([^<]*)</t>");
@@ -30,7 +30,7 @@ inline std::vector<std::string> SharedTexts(const std::string& path) {
   return texts;
 }
 
-// The cells of the sheet by their names, numbers as they are written.
+// Returns the cells of the sheet by their names. Numbers are texts as in the file.
 inline std::map<std::string, std::string> SheetCells(const std::string& path) {
   const std::string xml = SheetPart(path, "xl/worksheets/sheet1.xml");
   const std::vector<std::string> texts = SharedTexts(path);

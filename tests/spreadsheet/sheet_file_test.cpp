@@ -14,7 +14,7 @@ namespace {
 using testing::Eq;
 using testing::SizeIs;
 
-// Suggested PSUP over 22 depths of cover.
+// A curve of the suggested PSUP for 22 depths of cover.
 Sheet CurveOf22Points() {
   SheetSeries series{"X-coord", "Sug.PSUP", {}, {}};
   for (int i = 0; i < 22; ++i) {
@@ -53,7 +53,7 @@ TEST_F(SheetFile, HasTwentyTwoPointsInRows2To23) {
   EXPECT_THAT(cells.at("B23"), Eq("5.875"));
 }
 
-TEST_F(SheetFile, ChartsThePointsAgainstEachOther) {
+TEST_F(SheetFile, HasAChartOfThePoints) {
   Write(CurveOf22Points());
 
   const std::string chart = SheetPart(path, "xl/charts/chart1.xml");
@@ -65,7 +65,7 @@ TEST_F(SheetFile, ChartsThePointsAgainstEachOther) {
   EXPECT_THAT(chart, testing::HasSubstr("<a:t>Suggested PSUP</a:t>"));
 }
 
-TEST_F(SheetFile, GivesEachSeriesTheNextTwoColumns) {
+TEST_F(SheetFile, HasTwoColumnsForEachSeries) {
   Sheet sheet = CurveOf22Points();
   sheet.series.push_back({"X-coord", "Sug.PSUP", {17.5}, {4.25}});
 
@@ -78,7 +78,7 @@ TEST_F(SheetFile, GivesEachSeriesTheNextTwoColumns) {
   EXPECT_THAT(cells.at("D2"), Eq("4.25"));
 }
 
-TEST_F(SheetFile, RefersToOneEmptyRowForACurveWithoutPoints) {
+TEST_F(SheetFile, HasOneEmptyRowForACurveWithoutPoints) {
   Sheet sheet = CurveOf22Points();
   sheet.series[0].x.clear();
   sheet.series[0].y.clear();
@@ -91,7 +91,7 @@ TEST_F(SheetFile, RefersToOneEmptyRowForACurveWithoutPoints) {
   EXPECT_THAT(SheetCells(path), SizeIs(2));
 }
 
-TEST_F(SheetFile, FailsInAFolderThatIsNotThere) {
+TEST_F(SheetFile, FailsInAMissingFolder) {
   const std::string nowhere = folder.At("missing/curve.xlsx");
 
   EXPECT_EQ(ErrorNumberOf([&] { WriteSheetFile(CurveOf22Points(), nowhere); }), error_number::PathFileAccess);
