@@ -1,4 +1,4 @@
-// Does one step of the program between the marks of the instruction counter.
+// Runs one step of the program while instructions are counted.
 #include <valgrind/callgrind.h>
 
 #include <cstdio>
@@ -21,7 +21,7 @@ namespace {
 
 using namespace orby;
 
-// A design with every support system in use, so that every output and every block of the report is there.
+// A design with all support systems in use, so that it has all outputs and all blocks of the report.
 struct Bench {
   Bench() {
     StartApart(program, nullptr);
@@ -37,7 +37,7 @@ struct Bench {
   Program program{platform.Doors()};
 };
 
-// Prepares nothing, measures the act.
+// Counts the instructions of `act`.
 template <class Act>
 void Measured(const Act& act) {
   CALLGRIND_START_INSTRUMENTATION;
@@ -59,7 +59,7 @@ void LiveRefresh() {
 
 void AnalyzeDesign() {
   Bench bench;
-  // The first call of a library's function looks it up.
+  // The first call of a library function includes its look-up.
   static_cast<void>(Analyze(bench.program.project.WorkParms, bench.program.session.catalogs));
   Measured([&] { static_cast<void>(Analyze(bench.program.project.WorkParms, bench.program.session.catalogs)); });
 }
@@ -105,7 +105,7 @@ const std::map<std::string, std::function<void()>> Steps{
     {"live_refresh", LiveRefresh},    {"analyze", AnalyzeDesign},      {"report_pages", ReportPages},
     {"read_project", ReadOneProject}, {"default_curve", DefaultCurve}, {"key_press", KeyPress}};
 
-// Prints how many designs a second one core analyses, by the processor's time.
+// Prints how many designs one core analyses in a second of processor time.
 void PrintRate() {
   constexpr int Designs = 300000;
   Bench bench;

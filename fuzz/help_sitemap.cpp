@@ -1,4 +1,4 @@
-// Bytes of a help's contents, index, topics and pages, and words to search for on the first line.
+// Fuzzes the contents, index, topics and pages of a help. The first line has the words to search for.
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
@@ -24,7 +24,7 @@ int DepthOf(const std::vector<orby::HelpEntry>& entries) {
   return entries.empty() ? 0 : deepest + 1;
 }
 
-// Whether the piece, without the marks of its ends, is a part of the text.
+// Returns true if the piece, without "..." at its ends, is a part of the text.
 bool IsPartOf(std::string_view piece, std::string_view text) {
   if (text.find(piece) != std::string_view::npos) return true;
   if (piece.starts_with("...")) piece.remove_prefix(3);

@@ -1,5 +1,5 @@
-// Bytes of a configuration file: read by every section; and "section", "key" and "value" on the first three lines, the
-// file behind them.
+// Fuzzes configuration files: reads the bytes with all sections, and edits them. For the edit the first three lines are
+// section, key and value, and the file follows.
 #include "config/ini_file.h"
 
 #include <cstdint>
@@ -31,7 +31,7 @@ bool StartsOrEndsWithAny(std::string_view text, std::string_view characters) {
          characters.find(text.back()) != std::string_view::npos;
 }
 
-// The section and key names that a plain reading of the lines finds, as many as it pays to compare.
+// Returns the names of sections and keys that a simple search finds, up to a limit.
 std::set<std::pair<std::string, std::string>> NamesIn(std::string_view text) {
   constexpr std::size_t Enough = 60;
   std::set<std::pair<std::string, std::string>> names;
@@ -55,17 +55,18 @@ bool IsSameKey(const std::pair<std::string, std::string>& names, std::string_vie
          orby::SameWithoutCase(Trimmed(names.second), Trimmed(key));
 }
 
-// A name that a file can hold as a key: no "=", and not what starts a comment, a section or a byte order mark.
+// Returns true if a file can contain the key: it has no "=", and does not start a comment, a section or a byte order
+// mark.
 bool IsWritableKey(std::string_view key) {
   const std::string name = Trimmed(key);
   return name.find('=') == std::string::npos && !name.starts_with(';') && !name.starts_with('[') &&
          !name.starts_with('\xEF');
 }
 
-// A value that comes back as it is: no blanks around it and no pair of quotes.
+// Returns true if a value reads back unchanged: it has no blanks and no quotes at its ends.
 bool IsPlainValue(std::string_view value) { return !StartsOrEndsWithAny(value, " \t\"'"); }
 
-// What is left of the old text and of the new one between their common start and their common end.
+// Returns the parts of the old and of the new text between their common start and their common end.
 std::pair<std::string_view, std::string_view> Difference(std::string_view before, std::string_view after) {
   while (!before.empty() && !after.empty() && before.front() == after.front()) {
     before.remove_prefix(1);
@@ -108,7 +109,7 @@ bool IsWithin(orby::Single value, orby::Single minimum, orby::Single maximum) {
   return value >= minimum && value <= maximum;
 }
 
-// No text in the file may stop a start: every section is read, and written again.
+// No text in the file may prevent a start. Reads and writes all sections.
 void CheckSections(const std::string& bytes) {
   orby::test::RecordingPlatform platform;
   orby::Program program(platform.Doors());

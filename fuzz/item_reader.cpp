@@ -1,4 +1,4 @@
-// Bytes of a text file, read item by item: the first bytes choose the kind of each read.
+// Fuzzes the reader of items. The first bytes choose the kind of each read.
 #include "files/item_reader.h"
 
 #include <cstddef>
@@ -36,7 +36,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (size < KindBytes) return 0;
   const std::string bytes(data + KindBytes, data + size);
   orby::ItemReader reader(bytes);
-  // Every read takes at least one byte, so that the end comes no later than this.
+  // Each read takes at least one byte, so the end is reached within this number of reads.
   for (std::size_t reads = 0; reads <= bytes.size(); ++reads) {
     try {
       ReadOne(reader, data[reads % KindBytes]);

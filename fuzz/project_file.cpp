@@ -1,4 +1,4 @@
-// Bytes of a project file: opened, saved, opened and saved again.
+// Fuzzes project files: opens the bytes, saves the project, and opens and saves it again.
 #include "files/project_file.h"
 
 #include <cstddef>
@@ -30,7 +30,7 @@ std::string Save(Program& program, orby::test::RecordingPlatform& platform) {
   return platform.files.files[Path];
 }
 
-// A line that may be taken for the end marker, or for more than a line, once it passes through the item reader.
+// Returns true if no line can become the end marker or several lines when it is read as an item.
 bool IsPlain(std::string_view description) {
   return description.find(orby::EndOfDescription) == std::string_view::npos &&
          description.find('"') == std::string_view::npos;
@@ -40,7 +40,7 @@ bool ReadsBackAsAnItem(std::string_view text) {
   return !text.starts_with(' ') && !text.starts_with('"') && text.find_first_of(",\r\n") == std::string_view::npos;
 }
 
-// Whether the format can hold the project at all.
+// Returns true if the project reads back unchanged from its format.
 bool CanBeHeld(const Program& program, const std::string& saved) {
   constexpr orby::Integer FewLines = 30000;
   const orby::Design& record = program.project.WorkParms;
@@ -51,7 +51,7 @@ bool CanBeHeld(const Program& program, const std::string& saved) {
   for (const auto* text : {&record.Primary.Desc, &record.Entries.Bolt.Desc, &record.Intersections.Bolt.Desc}) {
     if (!ReadsBackAsAnItem(*text)) return false;
   }
-  // Bytes of the code page that together read as UTF-8 come back as other characters.
+  // Bytes in Windows-1252 that are valid UTF-8 by chance read back as other characters.
   const std::string text = orby::TextFromFileBytes(saved);
   for (const auto* held : {&program.project.ProjectTitle, &program.project.ProjectDescription, &record.Primary.Desc,
                            &record.Entries.Bolt.Desc, &record.Intersections.Bolt.Desc,
@@ -61,7 +61,7 @@ bool CanBeHeld(const Program& program, const std::string& saved) {
   return true;
 }
 
-// The data lines, the one of the entry's support mode left out: it comes back as the intersection's.
+// Returns the data lines without that of the support mode of entries, which reads back as that of intersections.
 std::string DataLines(const std::string& saved) {
   constexpr int SupportModeLine = 59;
   std::string_view rest = saved;

@@ -1,5 +1,5 @@
-// Bytes as a recovery file: what is read from them is a whole project that writes them again. And bytes as the texts of
-// a project: they come back as they were.
+// Fuzzes recovery files: a project that is read from the bytes writes the same bytes. Also uses the bytes as the texts
+// of a project, which must read back unchanged.
 #include "files/recovery_file.h"
 
 #include <cstddef>

@@ -1,5 +1,5 @@
-// The lines of any bytes, in whatever pieces they come, are those that are taken off one by one; and each is shown as
-// valid text of a limited length. The first byte of the input is the length of the pieces.
+// Fuzzes LineIndex and ShownLine: bytes in pieces of any length have the same lines as TakeLine returns, and each line
+// is shown as valid text of a limited length. The first byte determines the length of the pieces.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>

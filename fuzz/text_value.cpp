@@ -1,4 +1,4 @@
-// Whatever is typed into a number field reads as a finite number or overflows, and can be written back.
+// Fuzzes number fields: each text reads as a finite number or overflows, and the number can be written.
 #include <cmath>
 #include <cstddef>
 #include <cstdint>

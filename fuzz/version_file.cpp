@@ -1,4 +1,4 @@
-// Bytes of a version file that a server sent.
+// Fuzzes version files from a server.
 #include <cstdint>
 #include <cstdlib>
 #include <string_view>
@@ -19,7 +19,7 @@ bool HasOnly(std::string_view text, std::string_view characters) {
 constexpr std::string_view Digits = "0123456789abcdefABCDEF";
 constexpr std::string_view VersionCharacters = "0123456789.-_+abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
 
-// Whatever the server says, the setup file lies in the folder for downloads and on the server.
+// For any version file, the setup file is in the folder for downloads and on the server.
 void CheckPlaces(std::string_view version) {
   orby::test::RecordingPlatform platform;
   orby::Program program(platform.Doors());
@@ -41,7 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const auto offered = orby::ReadVersionFile(bytes);
 
   if (!offered) return 0;
-  // A mark of the encoding, blanks and quotes may stand around it.
+  // A byte order mark, blanks and quotes may surround it.
   Expect(!offered->version.empty() && bytes.find(offered->version) != std::string::npos);
   Expect(HasOnly(offered->version, VersionCharacters) && offered->version.find("..") == std::string::npos);
   Expect(offered->sha256.empty() || (offered->sha256.size() == 64 && HasOnly(offered->sha256, Digits)));

@@ -1,4 +1,4 @@
-// Wrapping keeps to its widths whatever bytes a text holds. The first byte of the input is the width.
+// Fuzzes word wrapping: lines have at most their width for any bytes. The first byte is the width.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -28,7 +28,7 @@ void WrapWords(std::string_view text, std::size_t width) {
   RequireLinesWithin(wrapped, width);
 }
 
-// Each piece but the last is followed by a line end; nothing else is added and nothing is lost.
+// Requires that only a line end is added after each piece except the last, and that nothing is lost.
 void WrapDescription(std::string_view text) {
   constexpr std::size_t Limit = 60;
   std::string line(text);

@@ -1,4 +1,4 @@
-// Does one thing at the desktop, for the comparison with what the toolkit alone needs for the like of it:
+// Runs one task on the desktop. The tasks "empty-..." do the same with the toolkit alone, for comparison:
 //
 //   empty-start   a window without anything in it, until it is painted
 //   start         the program, until its window is painted
@@ -10,7 +10,7 @@
 //                 the size of the file in kB, and the longest time between two events in milliseconds
 //   dialogs       prints the growth of memory, in bytes, over 450 openings of each dialog after the first 50
 //
-// The two keys stand between the marks of the instruction counter.
+// Instructions are counted for the two keys only.
 #include <malloc.h>
 #include <valgrind/callgrind.h>
 
@@ -55,7 +55,7 @@ namespace {
 
 using namespace orby;
 
-// Ends the program as soon as the window has been painted.
+// Ends the program after the window has been painted.
 class EndAfterPaint : public QObject {
  public:
   explicit EndAfterPaint(QWidget& window) { window.installEventFilter(this); }
@@ -90,7 +90,7 @@ int EmptyStart() {
 int Start() {
   Run run;
   StartProgram(run.program);
-  run.program.session.settings.ShowDisclaim = 0;  // nobody is there to accept it
+  run.program.session.settings.ShowDisclaim = 0;  // there is no user to accept it
   MainWindow window(run.program);
   window.Open();
   run.desktop.windows.ShowMain(window, false);
@@ -121,7 +121,7 @@ void Paint() {
   QCoreApplication::processEvents();
 }
 
-// The field is in use already; what is measured is one more key.
+// Measures a key in a field into which keys have been typed before.
 void MeasureKey(QLineEdit& field) {
   field.setFocus();
   field.end(false);
@@ -163,7 +163,7 @@ int Key() {
   return EXIT_SUCCESS;
 }
 
-// Opens the form's window, lets it be painted, and closes it.
+// Opens the window of a form, paints it and closes it.
 template <class Dialog>
 void OpenAndClose(Run& run) {
   Dialog dialog(run.program);
@@ -179,7 +179,7 @@ void OpenAndClose(Run& run) {
 
 constexpr std::size_t BrowsedBytes = 50'000'000;
 
-// Lines of 80 characters.
+// Writes lines of 80 characters.
 bool WriteLongFile(const std::string& path) {
   std::ofstream file(path, std::ios::binary);
   const std::string line = std::string(78, 'x') + "\r\n";
@@ -187,7 +187,7 @@ bool WriteLongFile(const std::string& path) {
   return file.flush().good();
 }
 
-// The most memory that the process has had, in kB.
+// Returns the largest memory use of the process so far, in kB.
 long PeakKilobytes() {
   std::ifstream status("/proc/self/status");
   for (std::string word; status >> word;) {
@@ -197,7 +197,7 @@ long PeakKilobytes() {
   return 0;
 }
 
-// Runs the events until the condition holds, and gives the longest time between two beats of a clock, in milliseconds.
+// Runs events until the condition is true. Returns the longest time between two ticks of a timer, in milliseconds.
 qint64 LongestPause(const std::function<bool()>& isDone) {
   QEventLoop loop;
   QElapsedTimer since;
