@@ -1,4 +1,4 @@
-// The rules of the house, tried on the house itself.
+// The rules of the architecture, applied to this project.
 #include <gmock/gmock.h>
 
 #include <filesystem>
@@ -11,7 +11,7 @@ namespace {
 using testing::IsEmpty;
 using testing::SizeIs;
 
-class House : public testing::Test {
+class Project : public testing::Test {
  protected:
   static void SetUpTestSuite() { tree = new Tree(ReadHouse(HOUSE_DIR)); }
   static void TearDownTestSuite() { delete tree; }
@@ -19,9 +19,9 @@ class House : public testing::Test {
   static const Tree* tree;
 };
 
-const Tree* House::tree = nullptr;
+const Tree* Project::tree = nullptr;
 
-TEST_F(House, SourcesAndTestsAreSeen) {
+TEST_F(Project, HasItsSourcesAndTestsRead) {
   const auto isNumberText = [](const TreeFile& file) { return file.path == "src/base/number_text.h"; };
   const auto isThisTest = [](const TreeFile& file) { return file.path == "tests/architecture/house_test.cpp"; };
 
@@ -29,19 +29,19 @@ TEST_F(House, SourcesAndTestsAreSeen) {
   EXPECT_EQ(std::ranges::count_if(*tree, isThisTest), 1);
 }
 
-TEST_F(House, ArrowsRunDownwards) { EXPECT_THAT(WrongArrows(*tree), IsEmpty()); }
+TEST_F(Project, IncludesHeadersOfLowerFloorsOnly) { EXPECT_THAT(WrongArrows(*tree), IsEmpty()); }
 
-TEST_F(House, NoFileIncludesItselfByWayOfOthers) { EXPECT_THAT(Circles(*tree), IsEmpty()); }
+TEST_F(Project, HasNoCircularIncludes) { EXPECT_THAT(Circles(*tree), IsEmpty()); }
 
-TEST_F(House, OnlyTheToolkitsRoomAndTheProgramsKnowTheToolkit) { EXPECT_THAT(ToolkitOutside(*tree), IsEmpty()); }
+TEST_F(Project, UsesTheToolkitOnlyInItsRoomAndInThePrograms) { EXPECT_THAT(ToolkitOutside(*tree), IsEmpty()); }
 
-TEST_F(House, TestsMirrorTheRooms) { EXPECT_THAT(UnmirroredRooms(*tree), IsEmpty()); }
+TEST_F(Project, HasAFolderOfTestsForEachRoom) { EXPECT_THAT(UnmirroredRooms(*tree), IsEmpty()); }
 
-TEST_F(House, NoWorkIsLeftOpenAndNoTestSwitchedOff) { EXPECT_THAT(StrayWords(*tree), IsEmpty()); }
+TEST_F(Project, HasNoMarksOfOpenWorkAndNoDisabledTests) { EXPECT_THAT(StrayWords(*tree), IsEmpty()); }
 
-TEST_F(House, FilesKeepToOneSubject) { EXPECT_THAT(LongFiles(*tree), IsEmpty()); }
+TEST_F(Project, HasNoSourceFileOfMoreThan400Lines) { EXPECT_THAT(LongFiles(*tree), IsEmpty()); }
 
-TEST_F(House, CommandsCanBeRun) {
+TEST_F(Project, HasCommandsThatCanBeRun) {
   using std::filesystem::perms;
   for (const auto* command : {"orby", "check", "bench", ".ci/run", "help/build", "scripts/take-pictures"}) {
     const auto status = std::filesystem::status(std::filesystem::path(HOUSE_DIR) / command);

@@ -32,10 +32,10 @@ constexpr std::array<Room, 16> Rooms = {{{"base", 0},
                                          {"qt", 7},
                                          {"apps", 8}}};
 
-// A folder of tests/ whose name is no room's.
+// A folder of tests/ whose name is not that of a room.
 struct OtherTests {
   std::string_view folder;
-  std::string_view room;  // that it tests all the same
+  std::string_view room;  // the room that it tests nevertheless
   std::string_view reason;
 };
 
@@ -50,11 +50,10 @@ constexpr std::array<OtherTests, 6> OtherFolders = {{
 
 constexpr long MostLines = 400;
 
-// Looked for without regard to case, at the start of a word. Written in halves, so that this file does not hold them
-// itself.
+// Found at the start of a word, ignoring case. They are written in halves, so that this file does not contain them.
 struct StrayWord {
   std::string_view text;
-  bool whole;  // nothing but the end of the word may follow
+  bool whole;  // only the end of the word may follow
 };
 
 constexpr std::array<StrayWord, 6> Strays = {{{"TO"
@@ -137,7 +136,7 @@ class CircleSearch {
   std::vector<std::string> circles;
 };
 
-// The folders below this one that hold files of this ending.
+// Returns the folders below `top` that contain files with this ending.
 std::set<std::string> FoldersWith(const Tree& tree, std::string_view top, std::string_view ending) {
   std::set<std::string> folders;
   for (const auto& file : tree) {

@@ -1,4 +1,5 @@
-// The rules of the house. Each gives its violations as lines to read, "path:line: what is wrong"; none means it holds.
+// The rules of the architecture. Each function returns its violations as lines "path:line: message", and none when the
+// rule holds.
 #pragma once
 
 #include <string>
@@ -8,22 +9,22 @@
 
 namespace orby::test {
 
-// Includes that do not run to a lower floor, and folders that have no floor.
+// Includes that do not lead to a lower floor, and folders without a floor.
 std::vector<std::string> WrongArrows(const Tree& tree);
 
-// Files of src/ that include themselves, directly or by way of others; each circle once, "a.h -> b.h -> a.h".
+// Files of src/ that include themselves, directly or through others. Each circle occurs once, as "a.h -> b.h -> a.h".
 std::vector<std::string> Circles(const Tree& tree);
 
-// Window toolkit headers outside src/qt and src/apps.
+// Headers of the window toolkit outside src/qt and src/apps.
 std::vector<std::string> ToolkitOutside(const Tree& tree);
 
-// Rooms without a folder of tests of their name, and folders of tests without a room.
+// Rooms without a folder of tests, and folders of tests without a room.
 std::vector<std::string> UnmirroredRooms(const Tree& tree);
 
-// Marks of work left open and of tests switched off.
+// Marks of open work and of disabled tests.
 std::vector<std::string> StrayWords(const Tree& tree);
 
-// Files of src/ with more lines than one subject needs.
+// Files of src/ with more than 400 lines.
 std::vector<std::string> LongFiles(const Tree& tree);
 
 }  // namespace orby::test

@@ -1,4 +1,4 @@
-// The rules of the house, tried on small made-up trees that keep or break them.
+// The rules of the architecture, applied to small invented trees that keep or break them.
 #include "architecture/rules.h"
 
 #include <gmock/gmock.h>
@@ -9,20 +9,20 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-TEST(Arrows, DownwardsAndWithinAFolderAreFine) {
+TEST(IncludeRule, AllowsLowerFloorsAndTheSameFolder) {
   const Tree tree = {{"src/files/reader.cpp", "#include \"files/reader.h\"\n#include \"core/units.h\"\n"},
                      {"src/apps/orby-cli/main.cpp", "#include \"shell/menu.h\"\n#include \"qt/window.h\"\n"}};
 
   EXPECT_THAT(WrongArrows(tree), IsEmpty());
 }
 
-TEST(Arrows, UpwardsIsWrong) {
+TEST(IncludeRule, ForbidsHigherFloors) {
   const Tree tree = {{"src/base/text.h", "#pragma once\n\n#include \"core/units.h\"\n"}};
 
   EXPECT_THAT(WrongArrows(tree), ElementsAre("src/base/text.h:3: \"core/units.h\" leads from base up to core"));
 }
 
-TEST(Arrows, SidewaysIsWrong) {
+TEST(IncludeRule, ForbidsOtherFoldersOfTheSameFloor) {
   const Tree tree = {{"src/platform/boxes.h", "#include \"controls/form.h\"\n"},
                      {"src/config/ini.cpp", "#include \"files/reader.h\"\n"},
                      {"src/reports/report.cpp", "#include \"config/ini.h\"\n"}};
@@ -33,7 +33,7 @@ TEST(Arrows, SidewaysIsWrong) {
                           "src/reports/report.cpp:1: \"config/ini.h\" leads from reports sideways to config"));
 }
 
-TEST(Arrows, FolderWithoutAFloorIsWrongAtBothEnds) {
+TEST(IncludeRule, ForbidsFoldersWithoutAFloor) {
   const Tree tree = {{"src/cellar/wine.cpp", "#include \"base/text.h\"\n"},
                      {"src/shell/menu.cpp", "#include \"cellar/wine.h\"\n"}};
 
@@ -42,19 +42,19 @@ TEST(Arrows, FolderWithoutAFloorIsWrongAtBothEnds) {
                           "src/shell/menu.cpp:1: \"cellar/wine.h\" leads to cellar, a folder without a floor"));
 }
 
-TEST(Arrows, NeighbourWithoutItsFolderIsWrong) {
+TEST(IncludeRule, ForbidsAHeaderWithoutItsFolder) {
   const Tree tree = {{"src/base/text.cpp", "#include \"text.h\"\n"}};
 
   EXPECT_THAT(WrongArrows(tree), ElementsAre("src/base/text.cpp:1: \"text.h\" names no folder"));
 }
 
-TEST(Arrows, BlanksAroundTheHashAndTheQuotesHideNothing) {
+TEST(IncludeRule, FindsIncludesWithBlanksAroundTheHashAndTheQuotes) {
   const Tree tree = {{"src/base/text.h", "\n  #  include\t\"shell/menu.h\"  // the menu\n"}};
 
   EXPECT_THAT(WrongArrows(tree), ElementsAre("src/base/text.h:2: \"shell/menu.h\" leads from base up to shell"));
 }
 
-TEST(Arrows, CommentsAndTestsAreNotMeant) {
+TEST(IncludeRule, IgnoresCommentsAndTests) {
   const Tree tree = {{"src/base/text.h", "// #include \"shell/menu.h\"\n"},
                      {"tests/base/text_test.cpp", "#include \"support/test_data.h\"\n"},
                      {"src/base/CMakeLists.txt", "#include \"shell/menu.h\"\n"}};
@@ -62,7 +62,7 @@ TEST(Arrows, CommentsAndTestsAreNotMeant) {
   EXPECT_THAT(WrongArrows(tree), IsEmpty());
 }
 
-TEST(CirclesOfFiles, DiamondIsNone) {
+TEST(CircleRule, AllowsADiamond) {
   const Tree tree = {{"src/base/a.h", "#include \"base/b.h\"\n#include \"base/c.h\"\n"},
                      {"src/base/b.h", "#include \"base/d.h\"\n"},
                      {"src/base/c.h", "#include \"base/d.h\"\n"},
@@ -71,7 +71,7 @@ TEST(CirclesOfFiles, DiamondIsNone) {
   EXPECT_THAT(Circles(tree), IsEmpty());
 }
 
-TEST(CirclesOfFiles, ThreeFilesInARingAreOneCircle) {
+TEST(CircleRule, FindsThreeFilesInARingAsOneCircle) {
   const Tree tree = {{"src/base/a.h", "#include \"base/b.h\"\n"},
                      {"src/base/b.h", "#include \"base/c.h\"\n"},
                      {"src/base/c.h", "#include \"base/a.h\"\n"}};
@@ -79,7 +79,7 @@ TEST(CirclesOfFiles, ThreeFilesInARingAreOneCircle) {
   EXPECT_THAT(Circles(tree), ElementsAre("base/a.h -> base/b.h -> base/c.h -> base/a.h"));
 }
 
-TEST(CirclesOfFiles, WayIntoARingIsNotPartOfIt) {
+TEST(CircleRule, LeavesAFileThatOnlyLeadsToARingOut) {
   const Tree tree = {{"src/base/a.cpp", "#include \"base/b.h\"\n"},
                      {"src/base/b.h", "#include \"base/c.h\"\n"},
                      {"src/base/c.h", "#include \"base/b.h\"\n"}};
@@ -87,13 +87,13 @@ TEST(CirclesOfFiles, WayIntoARingIsNotPartOfIt) {
   EXPECT_THAT(Circles(tree), ElementsAre("base/b.h -> base/c.h -> base/b.h"));
 }
 
-TEST(CirclesOfFiles, FileThatIncludesItselfIsOne) {
+TEST(CircleRule, FindsAFileThatIncludesItself) {
   const Tree tree = {{"src/base/a.h", "#include \"base/a.h\"\n"}};
 
   EXPECT_THAT(Circles(tree), ElementsAre("base/a.h -> base/a.h"));
 }
 
-TEST(Toolkit, HasItsPlaceInItsRoomAndInThePrograms) {
+TEST(ToolkitRule, AllowsItsRoomAndThePrograms) {
   const Tree tree = {{"src/qt/binder.cpp", "#include <QWidget>\n"},
                      {"src/apps/orby/main.cpp", "#include <QApplication>\n"},
                      {"src/core/units.cpp", "#include <array>\n"}};
@@ -101,7 +101,7 @@ TEST(Toolkit, HasItsPlaceInItsRoomAndInThePrograms) {
   EXPECT_THAT(ToolkitOutside(tree), IsEmpty());
 }
 
-TEST(Toolkit, IsWrongAnywhereElseHoweverItIsWritten) {
+TEST(ToolkitRule, ForbidsAllOtherRoomsAndAllSpellings) {
   const Tree tree = {{"src/dialogs/cost.h", "#include <QtWidgets/QLabel>\n"},
                      {"src/shell/menu.cpp", "#include <qmenu.h>\n"},
                      {"src/base/text.h", "#include \"qcustomplot.h\"\n"}};
@@ -110,32 +110,32 @@ TEST(Toolkit, IsWrongAnywhereElseHoweverItIsWritten) {
                                                 "src/shell/menu.cpp:1: qmenu.h", "src/base/text.h:1: qcustomplot.h"));
 }
 
-TEST(Mirror, RoomWithTestsOfItsNameIsFine) {
+TEST(TestFolderRule, AllowsARoomWithTestsOfItsName) {
   const Tree tree = {{"src/base/text.h", ""}, {"tests/base/text_test.cpp", ""}};
 
   EXPECT_THAT(UnmirroredRooms(tree), IsEmpty());
 }
 
-TEST(Mirror, RoomWithoutTestsIsFound) {
+TEST(TestFolderRule, FindsARoomWithoutTests) {
   const Tree tree = {{"src/base/text.h", ""}, {"src/cellar/wine.h", ""}, {"tests/base/text_test.cpp", ""}};
 
   EXPECT_THAT(UnmirroredRooms(tree), ElementsAre("src/cellar: has no tests in tests/cellar"));
 }
 
-TEST(Mirror, FolderWithoutATestInItIsNoFolderOfTests) {
+TEST(TestFolderRule, RequiresATestInAFolderOfTests) {
   const Tree tree = {{"src/base/text.h", ""}, {"tests/base/CMakeLists.txt", ""}, {"tests/base/text_bench.h", ""}};
 
   EXPECT_THAT(UnmirroredRooms(tree), ElementsAre("src/base: has no tests in tests/base"));
 }
 
-TEST(Mirror, TestsOfARoomThatIsGoneAreFound) {
+TEST(TestFolderRule, FindsTestsOfAMissingRoom) {
   const Tree tree = {{"tests/cellar/wine_test.cpp", ""}, {"tests/attic/CMakeLists.txt", ""}};
 
   EXPECT_THAT(UnmirroredRooms(tree),
               ElementsAre("tests/attic: there is no room src/attic", "tests/cellar: there is no room src/cellar"));
 }
 
-TEST(Mirror, ToolkitAndProgramsHaveTheirTestsUnderOtherNames) {
+TEST(TestFolderRule, RequiresTestsOfToolkitAndProgramsUnderOtherNames) {
   const Tree tested = {{"src/qt/window.h", ""},
                        {"src/apps/orby/main.cpp", ""},
                        {"tests/gui/window_test.cpp", ""},
@@ -147,7 +147,7 @@ TEST(Mirror, ToolkitAndProgramsHaveTheirTestsUnderOtherNames) {
               ElementsAre("src/apps: has no tests in tests/e2e", "src/qt: has no tests in tests/gui"));
 }
 
-TEST(Mirror, WhatTestsShareAndTestsOfTheWholeNeedNoRoom) {
+TEST(TestFolderRule, AllowsSharedHelpersAndTestsOfTheWholeWithoutARoom) {
   const Tree tree = {{"tests/CMakeLists.txt", ""},
                      {"tests/support/test_data.h", ""},
                      {"tests/data/projects/panel.ORB", ""},
@@ -157,7 +157,7 @@ TEST(Mirror, WhatTestsShareAndTestsOfTheWholeNeedNoRoom) {
   EXPECT_THAT(UnmirroredRooms(tree), IsEmpty());
 }
 
-TEST(Words, MarkOfOpenWorkIsFoundWithItsLine) {
+TEST(WordRule, FindsAMarkOfOpenWorkWithItsLine) {
   const Tree tree = {{"src/core/units.cpp",
                       "// Feet.\n// TO"
                       "DO: metres\n"}};
@@ -166,7 +166,7 @@ TEST(Words, MarkOfOpenWorkIsFoundWithItsLine) {
                                             "DO"));
 }
 
-TEST(Words, SwitchedOffTestIsFound) {
+TEST(WordRule, FindsADisabledTest) {
   const Tree tree = {{"tests/core/units_test.cpp",
                       "TEST(Units, DISABLED"
                       "_Feet) {}\n"}};
@@ -175,7 +175,7 @@ TEST(Words, SwitchedOffTestIsFound) {
                                             "_"));
 }
 
-TEST(Words, CaseDoesNotHideThem) {
+TEST(WordRule, IgnoresCase) {
   const Tree tree = {{"docs/architecture.md",
                       "Metres are Not Imple"
                       "mented.\n"}};
@@ -184,19 +184,19 @@ TEST(Words, CaseDoesNotHideThem) {
                                             "mented"));
 }
 
-TEST(Words, InsideLongerWordsTheyAreFine) {
+TEST(WordRule, AllowsTheWordsInsideLongerOnes) {
   const Tree tree = {{"src/core/units.cpp", "// mastodon, stodoxy, prefixmeter\n"}};
 
   EXPECT_THAT(StrayWords(tree), IsEmpty());
 }
 
-TEST(Length, FourHundredLinesAreFineAndOneMoreIsNot) {
+TEST(LengthRule, AllowsFourHundredLinesAndNoMore) {
   const Tree tree = {{"src/core/long.cpp", std::string(400, '\n')}, {"src/core/longer.cpp", std::string(401, '\n')}};
 
   EXPECT_THAT(LongFiles(tree), ElementsAre("src/core/longer.cpp: 401 lines"));
 }
 
-TEST(Length, TablesUnderTestsMayBeLong) {
+TEST(LengthRule, AllowsLongTablesOfTests) {
   const Tree tree = {{"tests/data/vectors/format.tsv", std::string(5000, '\n')}};
 
   EXPECT_THAT(LongFiles(tree), IsEmpty());

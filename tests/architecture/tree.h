@@ -1,4 +1,5 @@
-// The project's files as texts, so that the rules of the house can be tried on them and on made-up ones.
+// The files of a project as texts, so that the rules of the architecture can be applied to this project and to invented
+// ones.
 #pragma once
 
 #include <filesystem>
@@ -8,32 +9,32 @@
 namespace orby::test {
 
 struct TreeFile {
-  std::string path;  // from the top, "src/base/text.h"
+  std::string path;  // relative to the project, "src/base/text.h"
   std::string text;
 };
 
 using Tree = std::vector<TreeFile>;
 
-// Every text file of the project below its top: what is built or what git keeps for itself is left out, so are files
-// with a NUL byte. In the order of their paths.
+// Returns all text files of the project, in the order of their paths. Excludes built files, those of git, and files
+// with a NUL byte.
 Tree ReadHouse(const std::filesystem::path& top);
 
 struct Include {
-  std::string target;  // as written between the quotes or brackets
+  std::string target;  // the text between the quotes or brackets
   bool quoted = false;
   int line = 0;  // counted from 1
 };
 
-// The #include lines of a file.
+// Returns the #include lines of a file.
 std::vector<Include> IncludesOf(const TreeFile& file);
 
-// Whether the file is C++ below src/.
+// Returns true if the file is a C++ file below src/.
 bool IsSource(const TreeFile& file);
 
-// The folder below src/ a path like "base/text.h" lies in; empty when it names none.
+// Returns the folder of a path below src/, such as "base" for "base/text.h". Empty when it has none.
 std::string FolderOf(const std::string& pathBelowSrc);
 
-// The path without its leading "src/".
+// Returns the path without its leading "src/".
 std::string BelowSrc(const TreeFile& file);
 
 }  // namespace orby::test

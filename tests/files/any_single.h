@@ -1,4 +1,4 @@
-// Numbers of every size for the property tests of files.
+// Numbers of all magnitudes for the property tests of files.
 #pragma once
 
 #include <rapidcheck.h>
@@ -10,7 +10,7 @@
 
 namespace orby::test {
 
-// Up to seven significant digits and an exponent from -6 to 30: what a user can type and a file keeps.
+// Up to seven significant digits and an exponent from -6 to 30, which a user can type and a file keeps.
 inline rc::Gen<Single> AnySingle() {
   return rc::gen::map(rc::gen::pair(rc::gen::inRange(-9'999'999, 10'000'000), rc::gen::inRange(-6, 31)),
                       [](const std::pair<int, int>& parts) {

@@ -1,4 +1,4 @@
-// Boxes behind which something happens, or is looked at, before the user answers.
+// Message boxes that call a function of the test before the user answers.
 #pragma once
 
 #include <functional>

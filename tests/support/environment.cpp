@@ -1,5 +1,5 @@
-// What every test program starts with: the locale of its environment, as the programs have it, and property tests that
-// try the same cases each time. RC_PARAMS="seed=N" tries others.
+// Sets up every test program: the locale of its environment, as the programs use it, and a fixed seed of property
+// tests, so that they try the same cases in each run. RC_PARAMS="seed=N" sets another seed.
 #include <clocale>
 #include <cstdlib>
 

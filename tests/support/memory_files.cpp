@@ -22,7 +22,7 @@ class MemoryFiles::MemoryOutput : public OutputFile {
   std::string path_;
 };
 
-// A write that fails has written the first half.
+// A failed write has written the first half of its bytes.
 class MemoryFiles::MemoryInPlace : public OutputFile {
  public:
   MemoryInPlace(MemoryFiles& owner, std::string path) : owner_(owner), path_(std::move(path)) {}
@@ -149,7 +149,7 @@ void MemoryFiles::RenameFile(const std::string& path, const std::string& newPath
   Meet(Step::Rename);
   files[newPath] = ReadFile(path);
   files.erase(path);
-  // The disk has the new name at once, the bytes only if they were waited for.
+  // The disk has the new name at once, but the bytes only if they were flushed.
   onDisk[newPath] = onDisk[path];
   onDisk.erase(path);
 }

@@ -1,4 +1,4 @@
-// Files in memory, for tests: any step can fail, and the power can go at any step.
+// Files in memory for tests. Any step can fail, and the power can be cut at any step.
 #pragma once
 
 #include <cstdint>
@@ -14,11 +14,10 @@
 
 namespace orby::test {
 
-// The power goes at a step of the files: nothing after it happens, and nothing below the test catches this.
+// The power is cut at a step. Nothing happens after it, and only the test catches this exception.
 struct PowerCut {};
 
-// Files in memory. Any step of a file's life can be made to fail with a run-time error, or to be the last before the
-// power goes.
+// A file system in memory. A test can make any step fail with a run-time error or with a power cut.
 class MemoryFiles : public FileSystem {
  public:
   static constexpr int Always = -1;
@@ -39,18 +38,18 @@ class MemoryFiles : public FileSystem {
     ListFolders
   };
 
-  // The step fails with this error, as soon as it has succeeded `after` times; so many times, or always.
+  // Makes the step fail with this error after it has succeeded `after` times. It fails `count` times, or always.
   void Fail(Step step, int errorNumber, int after = 0, int count = Always);
-  // No step fails any more.
+  // Makes all steps succeed again.
   void Mend();
 
-  // The step after so many others fails with this error, whatever it is.
+  // Makes one step of any kind fail with this error, after `after` others.
   void FailNext(int errorNumber, int after);
-  // That step and all that follow it fail.
+  // Makes that step and all later ones fail.
   void FailFrom(int errorNumber, int after);
-  // The power goes at the step after so many others.
+  // Cuts the power at a step of any kind, after `after` others.
   void CutPower(int after);
-  // Whether that step has come.
+  // Returns true if that step has been reached.
   bool HasFailed() const;
 
   bool Finds(const std::string& path, bool foldersToo) override;
@@ -90,18 +89,18 @@ class MemoryFiles : public FileSystem {
   std::string ProgramFolder() override;
 
   std::map<std::string, std::string> files;
-  std::map<std::string, std::string> onDisk;  // what is sure to be there after a power cut
-  std::map<std::string, Moment> times;        // when they were written last
+  std::map<std::string, std::string> onDisk;  // the bytes that survive a power cut
+  std::map<std::string, Moment> times;        // when the files were last written
   std::set<std::string, std::less<>> folders{"/tmp", "/program"};
   std::set<std::string, std::less<>> readOnly;  // folders
   std::set<std::string, std::less<>> privateFolders;
-  std::map<std::string, std::string> links;       // where they lead to; only BehindLinks looks at them
-  std::map<std::string, std::string> likeOthers;  // files that were made like another one
-  std::set<std::string> marked;                   // files in use by a program
+  std::map<std::string, std::string> links;       // targets of links; only BehindLinks uses them
+  std::map<std::string, std::string> likeOthers;  // files that were made by MakeFileLike, and their models
+  std::set<std::string> marked;                   // files that TryMark has marked
   std::vector<std::string> drives{"/"};
   std::string workingFolder = "/section";
   std::vector<std::string> created;
-  std::size_t bytesRead = 0;  // from files that were read piece by piece
+  std::size_t bytesRead = 0;  // through InputFile
 
  private:
   struct Failure {
@@ -123,7 +122,7 @@ class MemoryFiles : public FileSystem {
   static constexpr int PowerIsCut = -1;
 
   std::map<Step, Failure> failures;
-  Failure nextFailure;  // of whatever step; none: no error number
+  Failure nextFailure;  // of a step of any kind; no error number: none
 };
 
 }  // namespace orby::test

@@ -1,4 +1,4 @@
-// Texts that somebody may leave in a number field: numbers, halves of numbers, and what only looks like one.
+// Texts that a user may leave in a number field: numbers, parts of numbers, and texts that look like numbers.
 #pragma once
 
 #include <rapidcheck.h>

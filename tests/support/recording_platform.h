@@ -1,4 +1,4 @@
-// A platform without a screen or a disk: it answers from scripts, records what was asked, and fails on demand.
+// A platform without a screen or a disk. It answers from scripts, records the calls, and fails on demand.
 #pragma once
 
 #include <deque>
@@ -17,7 +17,7 @@
 
 namespace orby::test {
 
-// Boxes answer from the queue, OK when it is empty.
+// Message boxes that answer from the queue, and with OK when it is empty.
 class RecordingBoxes : public MessageBoxes {
  public:
   BoxResult Show(const MessageBox& box) override;
@@ -28,7 +28,7 @@ class RecordingBoxes : public MessageBoxes {
   std::deque<BoxResult> answers;
 };
 
-// File dialogs answer from the queue; an empty queue, or an empty name, is a cancelled dialog.
+// File dialogs that answer from the queue. An empty queue, or an empty name, cancels the dialog.
 class ScriptedFileDialogs : public FileDialogs {
  public:
   std::string AskOpenName(const FileQuestion& question) override;
@@ -36,14 +36,15 @@ class ScriptedFileDialogs : public FileDialogs {
   std::string AskFolder(const std::string& title, const std::string& folder) override;
 
   std::vector<FileQuestion> asked;
-  std::vector<std::string> kinds;  // of what was asked: "open", "save", "folder"
+  std::vector<std::string> kinds;  // of the questions: "open", "save", "folder"
   std::deque<std::string> answers;
 
  private:
   std::string Answer(const char* kind, const FileQuestion& question);
 };
 
-// Modal forms are handed to the script of the test, which plays the user; without one they are closed at once.
+// Windows whose modal forms are passed to a function of the test, which acts as the user. Without one they are closed
+// at once.
 class RecordingWindows : public Windows {
  public:
   void ShowModal(Form& form) override;
@@ -69,7 +70,7 @@ class ListedFonts : public Fonts {
   std::vector<std::string> screen;
   std::vector<std::string> printer;
   std::vector<std::string> fixedPitch;
-  int asked = 0;  // for the fonts of the screen
+  int asked = 0;  // how often ScreenFonts was called
 };
 
 class ScriptedLocale : public Locale {
@@ -79,14 +80,14 @@ class ScriptedLocale : public Locale {
   std::string separator = ".";
 };
 
-// A time that changes only when the test says so, and acts that wait until the test lets time pass.
+// A clock that stands still until the test changes it. Delayed calls wait for Pass.
 class StandingClock : public Clock {
  public:
   Date Today() override;
   Moment Now() override;
   void CallLater(int milliseconds, std::function<void()> act) override;
 
-  // Runs what waits, in the order in which it was asked for.
+  // Makes the delayed calls in their order.
   void Pass();
 
   Date today{2031, 3, 9};
@@ -118,7 +119,7 @@ class RecordingClipboard : public Clipboard {
   std::string pictured;
 };
 
-// Every step fails with the error that is set.
+// A printer whose functions fail with `error` if it is set.
 class RecordingPrinter : public Printer {
  public:
   void Choose(const std::string& fileName) override;
@@ -134,7 +135,7 @@ class RecordingPrinter : public Printer {
   std::string printedChart;
   std::string proposedName;
   std::string nameOfUnasked;
-  std::string file;  // that is printed to
+  std::string file;  // the file that is printed to
   int chosen = 0;
   int setUp = 0;
   int error = 0;
@@ -162,7 +163,7 @@ class RecordingDocuments : public Documents {
             const std::vector<std::string>& arguments) const;
 };
 
-// Records what was asked for, one text a call: "contents /program/ORBY.CHM", "topic /program/ORBY.CHM frmGraph".
+// Records each call as a text: "contents /program/ORBY.CHM", "topic /program/ORBY.CHM frmGraph".
 class RecordingHelp : public HelpViewer {
  public:
   bool ShowContents(const std::string& path) override;
@@ -177,7 +178,7 @@ class RecordingHelp : public HelpViewer {
   bool Take(std::string call);
 };
 
-// Fetches that the test carries on and ends.
+// Fetches whose events the test sends.
 class ScriptedDownloads : public Downloads {
  public:
   struct Asked {
@@ -191,7 +192,7 @@ class ScriptedDownloads : public Downloads {
   std::optional<std::string> CheckedCopy(const std::string& path, const std::string& sha256) override;
 
   std::deque<Asked> asked;
-  std::map<std::string, std::string> sums;  // of the files as they are, by their paths
+  std::map<std::string, std::string> sums;  // actual sums of the files, by path
   int copyError = 0;
   bool works = true;
 
@@ -237,7 +238,7 @@ struct RecordingPlatform {
   RecordingFileTypes fileTypes;
 
   Platform Doors();
-  // With others, as other message boxes or another file system, in the place of its own of that kind.
+  // Returns the platform with `others`, such as other message boxes or another file system, instead of its own.
   template <class... Others>
   Platform DoorsWith(Others&... others) {
     return {Door<MessageBoxes>(boxes, others...),
@@ -271,7 +272,7 @@ struct RecordingPlatform {
   }
 };
 
-// Runs the act and gives the number of the run-time error it throws, or 0.
+// Calls `act` and returns the number of the run-time error that it throws, or 0.
 template <class Act>
 int ErrorNumberOf(const Act& act) {
   try {

@@ -1,4 +1,4 @@
-// A folder of its own for a test, gone with everything in it when the test ends.
+// A new temporary folder for a test. The destructor removes it with its contents.
 #pragma once
 
 #include <stdlib.h>
@@ -37,7 +37,7 @@ class TemporaryFolder {
     std::ifstream file(At(name), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
   }
-  // What lies in it, sorted.
+  // Returns the names of its files and folders, sorted.
   std::vector<std::string> Names() const {
     std::vector<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(path_)) names.push_back(entry.path().filename());

@@ -1,4 +1,4 @@
-// Reading the reference tables and golden texts under tests/data.
+// Reads the reference tables and golden texts below tests/data.
 #pragma once
 
 #include <string>
@@ -6,18 +6,19 @@
 
 namespace orby::test {
 
-// The bytes of a file below tests/data. A missing file fails the test that asked.
+// Returns the bytes of a file below tests/data. Throws when the file is missing.
 std::string ReadTestData(const std::string& name);
 
 struct TableRow {
-  int line = 0;  // in the file, counted from 1
+  int line = 0;  // number in the file, counted from 1
   std::vector<std::string> fields;
 };
 
-// The rows of a tab-separated table below tests/data, its first line left out.
+// Returns the rows of a tab-separated table below tests/data, without its first line.
 std::vector<TableRow> ReadTable(const std::string& name);
 
-// Undoes the escapes \\ \t \r \n \0 \xNN of a table's field.
+// Replaces the escapes \\ \t \r
+// \0 \xNN in a field of a table.
 std::string Unescape(const std::string& field);
 
 }  // namespace orby::test
