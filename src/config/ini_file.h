@@ -74,7 +74,7 @@ class IniText {
 // The value of a key: a text unchanged, a number as NumberText, a Boolean as 0 or -1.
 class IniValue {
  public:
-  // NOLINTBEGIN(google-explicit-constructor): a value is what it is made of
+  // NOLINTBEGIN(google-explicit-constructor): converts from the types of values
   IniValue(std::string_view value) : text_(value) {}
   IniValue(const std::string& value) : text_(value) {}
   IniValue(const char* value) : text_(value) {}

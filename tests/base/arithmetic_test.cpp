@@ -15,12 +15,12 @@ using test::ErrorNumberOf;
 constexpr double Infinity = std::numeric_limits<double>::infinity();
 constexpr double NoNumber = std::numeric_limits<double>::quiet_NaN();
 
-TEST(Divide, GivesTheQuotient) {
+TEST(Divide, ReturnsTheQuotient) {
   EXPECT_EQ(Divide(7, 2), 3.5);
   EXPECT_EQ(Divide(0, -4), 0);
 }
 
-TEST(Divide, ByZeroIsAnErrorWhateverTheDividend) {
+TEST(Divide, ByZeroIsAnErrorForEveryDividend) {
   EXPECT_EQ(ErrorNumberOf([] { Divide(1, 0); }), error_number::DivisionByZero);
   EXPECT_EQ(ErrorNumberOf([] { Divide(0, 0); }), error_number::DivisionByZero);
   EXPECT_EQ(ErrorNumberOf([] { Divide(1, -0.0); }), error_number::DivisionByZero);
@@ -30,13 +30,13 @@ TEST(Divide, AQuotientBeyondADoubleIsAnOverflow) {
   EXPECT_EQ(ErrorNumberOf([] { Divide(1E308, 1E-10); }), error_number::Overflow);
 }
 
-TEST(Multiply, GivesTheProduct) { EXPECT_EQ(Multiply(300, 4), 1200); }
+TEST(Multiply, ReturnsTheProduct) { EXPECT_EQ(Multiply(300, 4), 1200); }
 
 TEST(Multiply, BeyondADoubleIsAnOverflow) {
   EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(Multiply(1E200, 1E200)); }), 6);
 }
 
-TEST(Square, GivesTheProductWithItself) { EXPECT_EQ(Square(-6), 36); }
+TEST(Square, ReturnsTheProductWithItself) { EXPECT_EQ(Square(-6), 36); }
 
 TEST(Square, BeyondADoubleIsAnOverflow) {
   EXPECT_EQ(ErrorNumberOf([] { Square(1E200); }), error_number::Overflow);
@@ -50,7 +50,7 @@ TEST(Logarithm, OfZeroOrLessIsABadCall) {
   }
 }
 
-TEST(SquareRoot, GivesTheRoot) {
+TEST(SquareRoot, ReturnsTheRoot) {
   EXPECT_EQ(SquareRoot(800), 28.284271247461902);
   EXPECT_EQ(SquareRoot(0), 0);
 }
@@ -105,12 +105,12 @@ TEST(RoundHalfEven, HasNoLimit) {
   EXPECT_EQ(RoundHalfEven(1E300), 1E300);
 }
 
-TEST(Log10Of, ZeroGivesOne) {
+TEST(Log10Of, ReturnsOneForZero) {
   EXPECT_EQ(Log10Of(0), 1);
   EXPECT_EQ(Log10Of(-0.0), 1);
 }
 
-TEST(Log10Of, GivesTheDecimalLogarithm) {
+TEST(Log10Of, ReturnsTheDecimalLogarithm) {
   EXPECT_EQ(Log10Of(1), 0);
   EXPECT_DOUBLE_EQ(Log10Of(1000), 3);
   EXPECT_DOUBLE_EQ(Log10Of(0.01), -2);
@@ -122,13 +122,13 @@ TEST(Log10Of, OfANegativeIsABadCall) {
 
 Integer Clamped(double value, double minimum, double maximum) { return ClampRange(value, minimum, maximum); }
 
-TEST(ClampRange, BothEndsBelongToTheRange) {
+TEST(ClampRange, KeepsBothEndsOfTheRange) {
   EXPECT_EQ(Clamped(0, 0, 4), 0);
   EXPECT_EQ(Clamped(3, 0, 4), 3);
   EXPECT_EQ(Clamped(4, 0, 4), 4);
 }
 
-TEST(ClampRange, TooMuchFallsToTheMinimumLikeTooLittle) {
+TEST(ClampRange, ReturnsTheMinimumAlsoForATooLargeValue) {
   EXPECT_EQ(Clamped(5, 0, 4), 0);
   EXPECT_EQ(Clamped(-1, 0, 4), 0);
   EXPECT_EQ(Clamped(100, 8, 72), 8);
@@ -147,7 +147,7 @@ TEST(ClampRange, RoundsHalfToEven) {
   EXPECT_EQ(Clamped(3.5, 0, 4), 4);
 }
 
-TEST(Extremes, GiveTheLargerOrSmaller) {
+TEST(Extremes, AreTheLargerOrSmallerNumber) {
   EXPECT_EQ(MaxSingle(28.5F, 19.26336F), 28.5F);
   EXPECT_EQ(MaxSingle(-1.0F, -2.0F), -1.0F);
   EXPECT_EQ(MinInteger(3, -4), -4);
@@ -164,7 +164,7 @@ TEST(SwapValues, ExchangesTheTwo) {
   EXPECT_EQ(upper, 12.5F);
 }
 
-TEST(Pi, ARightAngleStaysBelowHalfOfIt) {
+TEST(Pi, HasAHalfThatIsNotAboveARightAngle) {
   EXPECT_EQ(Pi, 3.14159265358979);
   EXPECT_FALSE(90 * RadiansPerDegree < Pi / 2);
 }

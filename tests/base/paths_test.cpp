@@ -14,7 +14,7 @@ TEST(Paths, BothSeparatorsEndAFolder) {
   EXPECT_FALSE(EndsInSeparator(""));
 }
 
-TEST(Paths, ASeparatorIsAddedOnlyWhereNoneStands) {
+TEST(Paths, ASeparatorIsAddedOnlyToAPathWithoutOne) {
   EXPECT_EQ(WithSeparator("/home/mine"), "/home/mine/");
   EXPECT_EQ(WithSeparator("/home/mine/"), "/home/mine/");
   EXPECT_EQ(WithSeparator("C:\\Mine\\"), "C:\\Mine\\");

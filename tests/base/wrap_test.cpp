@@ -20,7 +20,7 @@ std::vector<std::string> LinesOf(std::string_view text) {
   return lines;
 }
 
-TEST(WordWrapText, AWidthOfTwentyLeavesALongTextAlone) {
+TEST(WordWrapText, AWidthOfTwentyDoesNotWrapALongText) {
   const std::string text = std::string(99, 'a') + "  " + std::string(99, 'b');
   ASSERT_EQ(text.size(), 200U);
 

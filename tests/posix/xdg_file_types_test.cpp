@@ -65,7 +65,7 @@ TEST_F(XdgFileAssociation, MakesTheProgramOpenTheType) {
             "MimeType=application/x-orby-orb;\n");
 }
 
-TEST_F(XdgFileAssociation, GivesProgramAndFilesTheirIcon) {
+TEST_F(XdgFileAssociation, InstallsTheIconOfTheProgramAndItsFiles) {
   Associate();
 
   const std::string icons = "/home/user/.local/share/icons/hicolor/scalable/";
