@@ -341,6 +341,7 @@ class Run:
 def start_program(bus, home, *arguments, **environment):
     """Starts the program in the home of a user."""
     environment = {**os.environ, "HOME": home, **environment}
+    settle_window_manager()
     return Run(bus, subprocess.Popen([PROGRAM, *arguments], cwd=home, env=environment))
 
 
@@ -371,7 +372,6 @@ class DesktopTest(unittest.TestCase):
 
     def start(self, *arguments, accepts=True, **environment):
         """Starts the program; what it begins with is accepted unless the test is about that."""
-        settle_window_manager()
         run = start_program(self.bus, self.home, *arguments, **environment)
         self.runs.append(run)
         if accepts:
