@@ -108,14 +108,14 @@ run_programs() {
   note "$name" $good $bad $((SECONDS - began)) "$log"
 }
 
-# run_roads NAME PRESET [wrapper]: what uses the programs from outside, each in a process of its own and in any order. It
-# waits for windows most of the time, so there is work for more of it than processors.
+# run_roads NAME PRESET [wrapper]: the tests that use the programs from outside, each in its own process, the longest
+# first. They wait for windows most of the time, so more of them run at once than there are processors.
 run_roads() {
   local name=$1 preset=$2 log result began=$SECONDS status
   log=$(log_of "$name")
   result="${log%.log}.xml"
   shift 2
-  "$@" ctest --test-dir "$top/build/$preset" -R '^(Desktop|Monkey)[.]' -j "$((2 * $(nproc)))" --schedule-random \
+  "$@" ctest --test-dir "$top/build/$preset" -R '^(Desktop|Monkey)[.]' -j "$((2 * $(nproc)))" \
     --timeout 600 --output-on-failure --output-junit "$result" >"$log" 2>&1 </dev/null
   status=$?
   count_tests "$name" $status "$result" $((SECONDS - began)) "$log"
