@@ -1,4 +1,4 @@
-"""The tree of accessible objects of a running program, asked over the bus that screen readers use."""
+"""Reads the tree of accessible objects of a running program over the bus that screen readers use."""
 
 import gi
 
@@ -32,22 +32,22 @@ COMBO_BOX = 11
 DIALOG = 16
 FRAME = 23
 LABEL = 29
-MENU = 35  # and its entries
+MENU = 35  # also its items
 PAGE_TAB_LIST = 38
 PANEL = 39  # a frame around controls
 PUSH_BUTTON = 43
 TABLE_VIEW = 55
 TEXT_FIELD = 61
 WINDOW_ROLES = (ALERT, DIALOG, FRAME)
-CLOSED_ROLES = (COMBO_BOX, TABLE_VIEW)  # what they hold is no control
+CLOSED_ROLES = (COMBO_BOX, TABLE_VIEW)  # their children are no controls
 
 
 class Gone(Exception):
-    """The object, or the program that it belongs to, is no longer there."""
+    """The object or its program no longer exists."""
 
 
 class Bus:
-    """The bus of the accessible objects of this display."""
+    """The accessibility bus of this display."""
 
     def __init__(self):
         session = Gio.bus_get_sync(Gio.BusType.SESSION, None)
@@ -70,7 +70,7 @@ class Bus:
                          "GetConnectionUnixProcessID", "(s)", owner)[0]
 
     def application(self, process):
-        """The root of the program with this process id; None while it has not announced itself."""
+        """Returns the root object of this process, or None if it is not on the bus yet."""
         root = Node(self, "org.a11y.atspi.Registry", ROOT)
         for child in root.children():
             try:
@@ -126,7 +126,7 @@ class Node:
         return self.call(EDITABLE_TEXT, "DeleteText", "(ii)", first, end)[0]
 
     def select_row(self, row):
-        """Selects a row of a table or a list, as the toolkit lets it be selected: by the interface of tables."""
+        """Selects a row of a table or a list. The toolkit supports only the table interface for both."""
         return self.call(TABLE, "AddRowSelection", "(i)", row)[0]
 
     def is_row_selected(self, row):
@@ -134,7 +134,7 @@ class Node:
 
     @property
     def labels(self):
-        """The objects that this one is labelled by."""
+        """Returns the objects that label this one."""
         relations = dict(self.call(ACCESSIBLE, "GetRelationSet")[0])
         return [Node(self.bus, owner, path) for owner, path in relations.get(LABELLED_BY, [])]
 
@@ -143,11 +143,11 @@ class Node:
 
     @property
     def box(self):
-        """Left, top, width and height on the screen."""
+        """Returns left, top, width and height on the screen."""
         return self.call(COMPONENT, "GetExtents", "(u)", 0)[0]
 
     def act(self, *wanted):
-        """Does the first of these actions that the object knows."""
+        """Runs the first of these actions that the object has."""
         known = [entry[0] for entry in self.call(ACTION, "GetActions")[0]]
         for name in wanted:
             if name in known:
@@ -155,7 +155,7 @@ class Node:
         raise AssertionError(f"{self.name} knows {known}, not {wanted}")
 
     def walk(self):
-        """All objects below."""
+        """Yields all descendants."""
         for child in self.children():
             yield child
             if child.role not in CLOSED_ROLES:

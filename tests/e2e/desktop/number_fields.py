@@ -1,4 +1,4 @@
-"""What hands type and paste into number fields, in every field of a dialog."""
+"""Types and pastes odd texts into every number field of a dialog."""
 
 import itertools
 import os
@@ -7,17 +7,17 @@ import subprocess
 import atspi
 from orby import PATIENCE, DesktopTest, Window, press_keys, until, xdotool
 
-TEXT = 61  # the role of a line to type into
+TEXT = 61  # the role of an input line
 RADIO = 44
 TABLE = "org.a11y.atspi.Table"
 LIST = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "data", "number_fields.txt")
-LOOKS = 100  # for the text that keys have brought, before they are pressed again
+LOOKS = 100  # reads of the typed text before the keys are pressed again
 
-PASTED = ("1E400", "-", "\u00e9", "1,5", "1E40")  # what no check lets pass comes last
+PASTED = ("1E400", "-", "\u00e9", "1,5", "1E40")  # the last one fails every check
 
 
 def listed(form):
-    """The names of the number fields of a form."""
+    """Returns the names of the number fields of a form."""
     with open(LIST, encoding="ascii") as file:
         return {name for owner, name in map(str.split, file) if owner == form}
 
@@ -28,7 +28,7 @@ def fill_clipboard(text):
 
 
 class NumberFieldsTest(DesktopTest):
-    """Goes to all number fields of a dialog, page by page; what is still to come is kept in `left`."""
+    """Visits all number fields of a dialog, page by page. `left` has the fields that are still to be visited."""
 
     def enter(self, run, window, form, ours=lambda name: True):
         self.run_, self.window = run, window
@@ -36,7 +36,7 @@ class NumberFieldsTest(DesktopTest):
         self.assertTrue(self.left)
 
     def nodes(self):
-        """The controls of the window by their names."""
+        """Returns the controls of the window by name."""
         return {node.description: node for node in self.window.node.walk() if node.description}
 
     @staticmethod
@@ -44,13 +44,13 @@ class NumberFieldsTest(DesktopTest):
         return node.has(atspi.SHOWING) and node.has(atspi.ENABLED)
 
     def press_options(self, suffix, but=()):
-        """Presses the options that end so, one after the other: one may bring the next on view."""
+        """Presses the options with this suffix in turn. One may make the next one visible."""
         for name, node in self.nodes().items():
             if node.role == RADIO and name.endswith(suffix) and not name.startswith(but) and self.can_be_used(node):
                 node.act("Press", "Toggle")
 
     def fill_fields(self):
-        """Types and pastes into those of the fields left that can be used as the dialog stands."""
+        """Types and pastes into the remaining fields that are usable now."""
         nodes = self.nodes()
         fields = [name for name in sorted(self.left & nodes.keys()) if self.can_be_used(nodes[name])]
         self.try_fields({name: nodes[name] for name in fields})
@@ -74,13 +74,13 @@ class NumberFieldsTest(DesktopTest):
 
     @staticmethod
     def act_until(act, condition, what):
-        """Presses keys until they show: the program may hear of a new clipboard after the keys that paste it."""
+        """Presses keys until they take effect. The program may notice a new clipboard only after the paste keys."""
         act()
         looks = itertools.count(1)
         until(lambda: condition() or (next(looks) % LOOKS == 0 and act()), what)
 
     def fill_table(self, table, field):
-        """The same by way of the field that lies over the chosen cell while the table has the keyboard."""
+        """Does the same in the field over the selected cell while the table has the focus."""
         node = self.window.control(table)
         left, top, width, height = self.cell(node, 0, 1).box
         xdotool("mousemove", left + width // 2, top + height // 2, "click", 1)
@@ -105,20 +105,20 @@ class NumberFieldsTest(DesktopTest):
 
     @staticmethod
     def line_of(node):
-        """The line to type into: of a list with a text of its own it is a part."""
+        """Returns the input line. In a list with a text field it is a child."""
         if node.role == TEXT:
             return node
         (line,) = [child for child in node.children() if child.role == TEXT]
         return line
 
     def assert_alive(self):
-        """The program runs, and nothing has come up."""
+        """Asserts that the program runs and no message is open."""
         self.assertIsNone(self.run_.process.poll(), "the program has ended")
         texts = [part.name for node in self.run_.windows() if node.role == atspi.ALERT for part in node.walk()]
         self.assertEqual(texts, [])
 
     def press_and_answer(self, button):
-        """Presses a button that checks the fields, and acknowledges what it says."""
+        """Presses a button that checks the fields, and closes its message."""
         self.window.press(button)
         self.run_.box()
         while self.has_box():

@@ -16,12 +16,12 @@ COMPANION = os.environ["ORBY_CLI"]
 EXAMPLES = os.environ["ORBY_EXAMPLES"]
 PICTURES = os.environ["ORBY_PICTURES"]
 
-PATIENCE = 60  # seconds until something that does not happen counts as a failure, however loaded the machine is
+PATIENCE = 60  # seconds before a missing event counts as a failure, even on a loaded machine
 TITLE = "Orby Roof Support Workbench"
 
 
 def until(condition, what):
-    """Waits for the condition and gives what it gave."""
+    """Waits until the condition returns a true value, and returns that value."""
     deadline = time.monotonic() + PATIENCE
     while True:
         try:
@@ -44,22 +44,22 @@ def press_keys(*keys):
 
 
 def front_window():
-    """The title of the window that the window manager gives the keys to."""
+    """Returns the title of the window that gets the keys."""
     answer = subprocess.run(["xdotool", "getactivewindow", "getwindowname"], capture_output=True, timeout=PATIENCE)
     return answer.stdout.decode().removesuffix("\n")
 
 
 def bring_to_front(title):
-    """Asks the window manager for the window of this title."""
+    """Asks the window manager to activate the window with this title."""
     subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{re.escape(title)}$", "windowactivate"],
                    capture_output=True, timeout=PATIENCE)
 
 
 def settle_window_manager():
-    """Waits until the window manager has dealt with all that has happened so far.
+    """Waits until the window manager has handled all events so far.
 
-    The windows of a program have the numbers of those of a program that has ended, and what the window manager is late
-    to hear of the old ones it would do to the new ones.
+    A new program's windows may reuse the ids of an ended program's windows. The window manager would then apply late
+    events of the old windows to the new ones.
     """
     def desktops():
         answer = subprocess.run(["xdotool", "get_num_desktops"], capture_output=True, check=True, timeout=PATIENCE)
@@ -71,36 +71,36 @@ def settle_window_manager():
 
 
 def clipboard():
-    """The text of the clipboard; empty while there is none."""
+    """Returns the text of the clipboard; empty if there is none."""
     answer = subprocess.run(["xclip", "-o", "-selection", "clipboard"], capture_output=True, timeout=PATIENCE)
     return answer.stdout.decode()
 
 
 def companion(*words):
-    """What orby-cli prints for these words."""
+    """Returns the output of orby-cli for these arguments."""
     answer = subprocess.run([COMPANION, *words], capture_output=True, check=True, timeout=PATIENCE)
     return answer.stdout.decode()
 
 
 def take_picture(name, *options):
-    """Leaves a picture of the screen in the build folder."""
+    """Saves a picture of the screen in the build folder."""
     os.makedirs(PICTURES, exist_ok=True)
     subprocess.run(["import", "-window", "root", *options, os.path.join(PICTURES, name + ".png")], check=True,
                    timeout=PATIENCE)
 
 
 def lines(text):
-    """The text with the line ends of the toolkit's text boxes."""
+    """Returns the text with the line ends of the toolkit's text boxes."""
     return text.replace("\r\n", "\n")
 
 
 def data_part(report):
-    """The report without the name of its file, the title and the description."""
+    """Returns the report without file name, title and description."""
     return report[report.index("[GEOLOGY PARAMETERS]"):]
 
 
 class Window:
-    """A window on the screen; its controls are found by their names."""
+    """A window on the screen. Finds its controls by name."""
 
     def __init__(self, node):
         self.node = node
@@ -137,13 +137,13 @@ class Window:
         tab.act("Press")
 
     def choose(self, menu, entry):
-        """An entry of a menu of this window."""
+        """Chooses an item of a menu of this window."""
         (found,) = [node for node in self.node.walk() if node.role == atspi.MENU and node.name == menu]
         (item,) = [node for node in found.walk() if node.role == atspi.MENU and node.name == entry]
         item.act("Press")
 
     def choose_curve(self, number):
-        """A curve of the list in the results window, by the keyboard."""
+        """Chooses a curve in the results window by the keyboard."""
         if not self.shows("lstGraphs"):
             self.press("cmdGraph")
             until(lambda: self.shows("lstGraphs"), "the list of curves")
@@ -168,9 +168,9 @@ class Window:
         until(lambda: node.text == text, f"the text in {name}")
 
     def wait_active(self):
-        """Waits until the window is in front for the program and for the window manager: a key is lost in between.
+        """Waits until the window is active for the program and for the window manager. A key would be lost in between.
 
-        On a loaded machine the window manager may have given the keys to nobody; then it is asked, as by a click.
+        On a loaded machine the window manager may have activated no window. Then it is asked to, as by a click.
         """
         next_request = time.monotonic() + 3
 
@@ -195,13 +195,13 @@ class Window:
         until(gone, "the end of a window")
 
     def picture(self, name):
-        """Leaves a picture of the window in the build folder."""
+        """Saves a picture of the window in the build folder."""
         left, top, width, height = self.node.box
         take_picture(name, "-crop", f"{width}x{height}+{left}+{top}", "+repage")
 
 
 def state_of(process):
-    """The letter for what a process is doing; Z once it has ended."""
+    """Returns the state letter of a process; Z after it has ended."""
     try:
         with open(f"/proc/{process}/stat", encoding="utf-8") as file:
             return file.read().rpartition(")")[2].split()[0]
@@ -210,13 +210,13 @@ def state_of(process):
 
 
 class Grandchild:
-    """A process that the program started, with the part of Popen that a run needs."""
+    """A process that the program started. Has the part of the Popen interface that a run needs."""
 
     def __init__(self, process):
         self.pid = process
 
     def poll(self):
-        """None while it runs. Its status is known to its own parent alone."""
+        """Returns None while it runs, then 0. Only its parent knows the real status."""
         return 0 if state_of(self.pid) == "Z" else None
 
     def send_signal(self, number):
@@ -227,7 +227,7 @@ class Grandchild:
 
 
 def started_again(home):
-    """The run in this home that was started by one that ended by an error; None while there is none."""
+    """Returns the run in this home that another run started after an error, or None if there is none yet."""
     for name in filter(str.isdigit, os.listdir("/proc")):
         try:
             with open(f"/proc/{name}/environ", "rb") as file:
@@ -249,7 +249,7 @@ class Run:
         self.root = until(lambda: self.bus.application(self.process.pid), "the program")
 
     def windows(self):
-        """The windows that are on the screen."""
+        """Returns the windows on the screen."""
         return [node for node in self.root.children()
                 if node.role in atspi.WINDOW_ROLES and node.has(atspi.SHOWING)]
 
@@ -274,7 +274,7 @@ class Run:
         return until(self.find_main, "the main window")
 
     def accept_disclaimer(self):
-        """Accepts the disclaimer if the program begins with it."""
+        """Accepts the disclaimer if the program shows it at the start."""
         first = until(lambda: self.find("Disclaimer") or self.find_main(), "the first window")
         if first.node.name == "Disclaimer":
             first.wait_active()
@@ -285,7 +285,7 @@ class Run:
         return self.main().node.name
 
     def box(self):
-        """The message box on the screen: its window, its text and its buttons by their names."""
+        """Returns the window, the text and the buttons (by name) of the message box on the screen."""
 
         def find():
             for node in self.windows():
@@ -300,7 +300,7 @@ class Run:
         return node, text, {part.name: part for part in parts if part.role == atspi.PUSH_BUTTON}
 
     def answer(self, text, button):
-        """Presses a button of the message box that says this, a text or a pattern of the whole text."""
+        """Presses a button of the message box with this text. `text` may be a pattern of the whole text."""
         node, shown, buttons = self.box()
         if not (text.fullmatch(shown) if isinstance(text, re.Pattern) else shown == text):
             raise AssertionError(f"the box says {shown!r}, not {text!r}")
@@ -308,7 +308,7 @@ class Run:
         Window(node).wait_gone()
 
     def keys(self, *keys):
-        """Keys for the main window."""
+        """Presses keys in the main window."""
         self.main().wait_active()
         press_keys(*keys)
 
@@ -322,10 +322,10 @@ class Run:
         return self.process.wait(PATIENCE)
 
     def kill(self):
-        """Stops the program at once, and kills it when the window manager has put up what the program has shown.
+        """Stops the program at once, and kills it after the window manager has mapped its windows.
 
-        A window that ends before the window manager puts it up stays in the window manager's list for good. The window
-        of a later run that has the same number then never comes up.
+        A window that is destroyed before the window manager maps it stays in the window manager's list. A later window
+        with the same id is then never shown.
         """
         self.process.send_signal(signal.SIGSTOP)
         until(lambda: state_of(self.process.pid) in "TZ", "a stopped program")
@@ -334,19 +334,19 @@ class Run:
         self.process.wait()
 
     def quit(self):
-        """Leaves the program by its menu."""
+        """Ends the program by its menu."""
         self.keys("alt+f", "x")
 
 
 def start_program(bus, home, *arguments, **environment):
-    """Starts the program in the home of a user."""
+    """Starts the program in this home folder."""
     environment = {**os.environ, "HOME": home, **environment}
     settle_window_manager()
     return Run(bus, subprocess.Popen([PROGRAM, *arguments], cwd=home, env=environment))
 
 
 class DesktopTest(unittest.TestCase):
-    """A user with an empty home."""
+    """A user with an empty home folder."""
 
     @classmethod
     def setUpClass(cls):
@@ -371,7 +371,7 @@ class DesktopTest(unittest.TestCase):
                 run.kill()
 
     def start(self, *arguments, accepts=True, **environment):
-        """Starts the program; what it begins with is accepted unless the test is about that."""
+        """Starts the program. Accepts the disclaimer unless the test is about it."""
         run = start_program(self.bus, self.home, *arguments, **environment)
         self.runs.append(run)
         if accepts:
@@ -379,7 +379,7 @@ class DesktopTest(unittest.TestCase):
         return run
 
     def next_run(self):
-        """The run that the program has started by itself."""
+        """Returns the run that the program started by itself."""
         run = Run(self.bus, until(lambda: started_again(self.home), "the program started again"))
         self.runs.append(run)
         run.accept_disclaimer()

@@ -1,16 +1,16 @@
-"""The number fields of the parameters, page by page."""
+"""Tests the number fields of the parameters, page by page."""
 
 from number_fields import NumberFieldsTest
 
 SUPPORTS = ("Cable Bolts", "Truss Bolts", "Roof Bolts", "Standing Supports")
 KEPT = ("optBoltOptions", "optCableCapMode", "optSupportType")
-# The fall of rock over an entry, and over an intersection.
+# Rock fall over an entry and over an intersection.
 ENTRY_FALL = ("txtRockLoadHeight", "txtRockFallAngle")
 INTERSECTION_FALL = ("txtRockLoadHeightInter", "txtRockFallAngleEntry", "txtRockFallAngleXcut")
 
 
 def support_of(name):
-    """The secondary support that a field belongs to; None for the other fields."""
+    """Returns the secondary support of a field, or None for the other fields."""
     if name.endswith("SecEntry") or name in ENTRY_FALL:
         return "entries"
     return "intersections" if name.endswith("SecInter") or name in INTERSECTION_FALL else None
@@ -33,7 +33,7 @@ class ParameterFieldsTest(NumberFieldsTest):
             self.fill_page()
 
     def fill_page(self):
-        """Every way in which the page gives a number: by a field, from a list, from a table."""
+        """Tries every source of a number on the page: a field, a list, a table."""
         self.press_options("_1")
         self.fill_fields()
         self.press_options("_0", KEPT)

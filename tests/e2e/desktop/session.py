@@ -1,6 +1,6 @@
-"""Runs one module of tests on a desktop of its own: session.py MODULE.
+"""Runs one module of tests on a private desktop: session.py MODULE.
 
-The desktop is a display without a screen, a window manager, a message bus and a home; all of it ends with the tests.
+The desktop is a virtual display, a window manager, a message bus and a home folder. All of it ends with the tests.
 """
 
 import contextlib
@@ -11,21 +11,21 @@ import tempfile
 import time
 import unittest
 
-# The low numbers are those of people's screens, and of what is started by hand.
+# Low display numbers belong to real screens and to programs started by hand.
 FIRST_DISPLAY = 1000
 DISPLAYS = 50000
 TRIES = 20
 
 HERE = os.path.dirname(os.path.abspath(__file__))
-PATIENCE = 60  # seconds until something that does not start counts as a failure, however loaded the machine is
+PATIENCE = 60  # seconds before a program that does not start counts as a failure, even on a loaded machine
 
 
-# Of modules that are not about the usual screen.
+# The screens of modules that do not use the usual one.
 SCREENS = {"test_small_screen": "1024x600x24"}
 
 
 def start_display(module):
-    """The display server and the number of its display, which no other program is likely to use or to go to."""
+    """Starts the display server and returns it with its display number, which other programs are unlikely to use."""
     first = FIRST_DISPLAY + os.getpid() % DISPLAYS
     for number in range(first, first + TRIES):
         server = start_server(str(number), SCREENS.get(module, "1366x768x24"))
@@ -35,7 +35,7 @@ def start_display(module):
 
 
 def start_server(number, screen):
-    """The server of this display once it is ready for clients; None when it cannot have the number."""
+    """Returns the server of this display when it is ready, or None if the number is taken."""
     reader, writer = os.pipe()
     server = subprocess.Popen(["Xvfb", ":" + number, "-displayfd", str(writer), "-screen", "0", screen,
                                "-nolisten", "tcp"], pass_fds=[writer], stderr=subprocess.DEVNULL)
@@ -48,7 +48,7 @@ def start_server(number, screen):
 
 
 def start_window_manager(folder, environment):
-    """The window manager, ready for windows: one that is shown before may never come up."""
+    """Starts the window manager and waits until it is ready. A window that opens earlier may never be shown."""
     ready = os.path.join(folder, "managed")
     manager = subprocess.Popen(["openbox", "--startup", f"touch {ready}"], env=environment, stdout=subprocess.DEVNULL,
                                stderr=subprocess.DEVNULL)
@@ -74,9 +74,9 @@ def desktop_environment(folder, display):
     environment = {name: value for name, value in os.environ.items()
                    if not name.startswith(("QT_", "XDG_", "DBUS_", "LC_", "LANG", "WAYLAND_"))}
     if "ASAN_OPTIONS" in environment:
-        # The library of keyboard layouts copies texts whose length it knows from where no end is marked.
+        # The keyboard layout library copies texts of known length that have no terminator.
         environment["ASAN_OPTIONS"] += ":strict_string_checks=0"
-        # A message on its way over the bus when the program ends is the bus library's to free, and it does not.
+        # The bus library does not free a message that is in transit when the program ends.
         environment["LSAN_OPTIONS"] = f"suppressions={os.path.join(HERE, 'leaks_of_others.txt')}:print_suppressions=0"
     runtime = os.path.join(folder, "runtime")
     os.mkdir(runtime, 0o700)
@@ -101,7 +101,7 @@ def run_tests(module):
         ending.callback(end, server)
         environment = desktop_environment(folder, display)
         ending.callback(end, start_window_manager(folder, environment))
-        # The bus and all that it starts end with the tests; what they say is no result.
+        # The output of the bus and its services is not part of the result.
         told = os.dup(1)
         return subprocess.call(
             ["dbus-run-session", "--", sys.executable, __file__, module, str(told)], env=environment, pass_fds=[told],

@@ -1,5 +1,6 @@
-"""A design made through the accessibility interfaces alone, as a screen reader or voice control would make it: texts
-are set, rows are selected, and everything else is an action. No key is pressed and no mouse is moved."""
+"""A design is made only through the accessibility interfaces, as by a screen reader or voice control.
+
+The tests set texts, select rows and run actions. They press no key and move no mouse."""
 
 import os
 
@@ -9,7 +10,7 @@ from orby import DesktopTest, companion, data_part, lines, press_keys, until
 PRIMARY = "Primary Support: Roof Bolts"
 ENTRIES = "Secondary Support: Entries"
 
-# What is entered, page by page: a field and its text, a table or a list and the row that is chosen, or a box.
+# The inputs, page by page: a field and its text, a table or list and the selected row, or a check box.
 GENERAL = (("check", "chkCMRRManual"), ("text", "txtCMRR", "47"), ("text", "txtDepthofCover", "690"),
            ("text", "txtUnitWeight", "160.5"), ("text", "txtActualSpanDiagonals", "65"),
            ("text", "txtEntryWidth", "18.5"), ("check", "chkPrimSupport"), ("check", "chkSecondSupEntries"),
@@ -24,7 +25,7 @@ STANDS = (("item", "cmbSupportTypeSecEntry", 3), ("text", "txtNumberSupPerRowSec
 
 
 def parts_of(combo):
-    """The list and the field of a combo box."""
+    """Returns the list and the field of a combo box."""
     (field,) = [node for node in combo.children() if node.role == atspi.TEXT_FIELD]
     (rows,) = [node for node in combo.children() if node.role != atspi.TEXT_FIELD]
     return rows, field
@@ -35,7 +36,7 @@ def item_text(rows, number):
 
 
 class Reader:
-    """What a screen reader does to the controls of a window."""
+    """Uses the controls of a window as a screen reader does."""
 
     def __init__(self, window):
         self.window = window
@@ -69,7 +70,7 @@ class Reader:
 
 
 class Keyboard(Reader):
-    """The same by keys; only the pages are turned as a reader does."""
+    """Does the same by keys, except that it opens pages as a screen reader does."""
 
     def text(self, name, text):
         self.window.type(name, text)
@@ -81,7 +82,7 @@ class Keyboard(Reader):
         until(lambda: self.window.is_checked(name) == wanted, f"the mark of {name}")
 
     def row(self, name, number):
-        # The table comes after the option that opens it.
+        # The table follows the option that enables it.
         table = self.window.control(name)
         self.window.focus("optBoltOptionsPrimary_0")
         press_keys("Tab", "Home", *["Down"] * number)
@@ -114,7 +115,7 @@ def enter_design(hand):
 
 
 def read_pages(run, parameters):
-    """Both pages of the results, as the reader has them."""
+    """Returns both pages of the results as the screen reader gets them."""
     parameters.press("cmdresults")
     results = run.window("Calculation Results")
     echo = results.text("RichTextBox1")
@@ -133,7 +134,7 @@ class Accessible(DesktopTest):
         return run.window("Parameters")
 
     def save(self, run, path):
-        """By the menu and the file dialog, through actions and a text alone."""
+        """Saves by the menu and the file dialog, with actions and one text."""
         run.main().choose("File", "Save As...")
         dialog = run.window("Save As")
         (field,) = [node for node in dialog.node.walk() if node.role == atspi.TEXT_FIELD and node.has(atspi.SHOWING)]
@@ -145,7 +146,7 @@ class Accessible(DesktopTest):
         until(lambda: run.caption().endswith(os.path.basename(path)), "the name in the caption")
 
     def design(self, hand, name):
-        """The file of a design that this hand entered, and the pages of its results."""
+        """Returns the file of a design entered by `hand`, and the pages of its results."""
         run = self.start()
         parameters = self.new_design(run)
         enter_design(hand(parameters))
@@ -157,7 +158,7 @@ class Accessible(DesktopTest):
         self.assertEqual(run.wait_end(), 0)
         return self.path(name), pages
 
-    def test_a_design_without_key_and_mouse_has_the_same_report(self):
+    def test_a_design_made_without_keys_and_mouse_has_the_same_report(self):
         by_reader, pages = self.design(Reader, "by reader.ORB")
         by_keys, _ = self.design(Keyboard, "by keys.ORB")
 
@@ -179,7 +180,7 @@ class Accessible(DesktopTest):
             self.assertEqual(node.text, text)
         parameters.wait_text("txtSugPSUP", "7.2")
 
-    def test_what_the_keyboard_cannot_change_stays(self):
+    def test_read_only_controls_cannot_be_changed(self):
         run = self.start()
         parameters = self.new_design(run)
         general, primary = parameters.control("txtDepthofCover"), parameters.control("txtStabilityFactor")
@@ -197,7 +198,7 @@ class Accessible(DesktopTest):
         parameters.choose_tab("SSTab1", PRIMARY)
         until(lambda: primary.has(atspi.SHOWING), "the page of the roof bolts")
 
-    def test_a_frame_inside_a_frame_has_a_name_of_its_own(self):
+    def test_a_nested_frame_has_its_own_name(self):
         run = self.start()
         parameters = self.new_design(run)
         for name, title in (("fraGeology", "Geology"), ("fraCMRR", "Coal Mine Roof Rating")):

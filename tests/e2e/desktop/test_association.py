@@ -1,4 +1,4 @@
-"""The files of the user's desktop that make the program open projects, judged by the desktop's own tools."""
+"""The association of project files with the program, checked by the desktop's own tools."""
 
 import os
 import subprocess
@@ -32,7 +32,7 @@ class Association(DesktopTest):
         return self.path(".local", "share", "applications", "orby.desktop")
 
     def ask(self, *words):
-        """What a tool of the desktop answers this user."""
+        """Returns the output of a desktop tool for this user."""
         answer = subprocess.run(words, env={**os.environ, "HOME": self.home}, capture_output=True, timeout=PATIENCE)
         return (answer.stdout + answer.stderr).decode().strip()
 
@@ -49,7 +49,7 @@ class Association(DesktopTest):
         self.assertIn(f'Exec="{os.path.realpath(PROGRAM)}" %f', lines)
         self.assertIn(f"MimeType={TYPE};", lines)
 
-    def test_the_desktop_has_nothing_to_say_against_the_entry(self):
+    def test_the_entry_is_valid_for_the_desktop(self):
         self.associate("Yes")
 
         self.assertEqual(self.ask("desktop-file-validate", self.entry()), "")

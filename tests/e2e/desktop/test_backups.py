@@ -1,4 +1,4 @@
-"""What was not saved or overwritten, and the way back to it."""
+"""Projects that were dropped or overwritten are restored from the backups."""
 
 import os
 
@@ -26,7 +26,7 @@ class Backups(DesktopTest):
         parameters.wait_gone()
         return run
 
-    def test_a_project_that_new_has_dropped_comes_back_by_the_keyboard(self):
+    def test_a_project_that_new_dropped_is_restored_by_the_keyboard(self):
         run = self.open_file()
         self.change_depth(run, "777")
         run.keys("ctrl+n")
@@ -48,7 +48,7 @@ class Backups(DesktopTest):
         with open(self.file, encoding="utf-8", newline="") as file:
             self.assertIn("\r\n777\r\n", file.read())
 
-    def test_what_was_typed_before_escape_comes_back(self):
+    def test_the_values_typed_before_escape_are_restored(self):
         run = self.open_file()
         run.keys("alt+i", "p")
         parameters = run.window("Parameters")

@@ -45,7 +45,7 @@ class Browser(DesktopTest):
         self.close()
         self.assertIn("BrowseDefaultFilter=*.txt\r\n", self.configuration())
 
-    def test_names_a_viewer_that_is_not_there(self):
+    def test_reports_a_missing_viewer_by_its_name(self):
         self.window.type("Text2", "*.txt")
         self.window.press("Check1")
 

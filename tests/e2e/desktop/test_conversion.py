@@ -1,4 +1,4 @@
-"""A design converted into the other units and back."""
+"""A design is converted to the other units and back."""
 
 from orby import TITLE, DesktopTest, companion, until
 
@@ -9,7 +9,7 @@ class Conversion(DesktopTest):
         return run.window("File Conversion Utility")
 
     def open_with_depth(self, depth):
-        """An example with this depth of cover, not saved yet."""
+        """Opens an example and enters this depth of cover without saving."""
         run = self.start(self.copy_example("development-entry", "entry.ORB"))
         parameters = run.window("Parameters")
         parameters.type("txtDepthofCover", depth)
@@ -30,7 +30,7 @@ class Conversion(DesktopTest):
         window.wait_gone()
         until(lambda: run.caption() == f"{TITLE}: {caption}*", "the new name, not saved")
 
-    def test_brings_a_depth_back_with_one_decimal_and_a_longer_name(self):
+    def test_there_and_back_rounds_the_depth_and_lengthens_the_name(self):
         run = self.open_with_depth("401.25")
         run.keys("ctrl+s")
         until(lambda: run.caption().endswith("entry.ORB"), "the end of the mark")
@@ -47,7 +47,7 @@ class Conversion(DesktopTest):
         self.assertRegex(companion("report", "--page", "0", self.path("English_Metric_entry.ORB")),
                          r"Depth of Cover\.+401\.2 \(ft\)")
 
-    def test_changes_nothing_when_it_is_cancelled(self):
+    def test_changes_nothing_if_it_is_cancelled(self):
         run = self.open_with_depth("715")
         run.keys("ctrl+s")
         until(lambda: run.caption().endswith("entry.ORB"), "the end of the mark")

@@ -1,4 +1,4 @@
-"""A design from an empty project to its report, its curves and its file, and back."""
+"""A design is made from an empty project to its report, its curves and its file, and opened again."""
 
 import os
 import re
@@ -11,7 +11,7 @@ from orby import DesktopTest, clipboard, companion, data_part, lines, press_keys
 TITLE = "East Mains"
 DESCRIPTION = "Belt entry from 2 Right to the overcast"
 
-# A field of the general tab, what is typed into it, and the outputs of the other tabs that follow.
+# A field of the general tab, its typed text, and the outputs of other tabs that follow it.
 TYPED = (
     ("txtCMRR", "52", {"txtSugPSUP": "3.3", "txtSuggestBoltLength": "4.0", "txtSugSumDiagonals": "65.9"}),
     ("txtDepthofCover", "820", {"txtSugPSUP": "6.3", "txtSuggestBoltLength": "4.5"}),
@@ -20,7 +20,7 @@ TYPED = (
     ("txtEntryWidth", "19", {"txtActualPSUP": "5.3", "txtRockLoadEntry1": "9.1", "txtStabFactorEntry1": "1.16"}),
 )
 
-# Keys in a field with 12345, and what is left of it.
+# Keys in a field with 12345, and the text after them.
 EDITED = (
     (("Home", "Delete"), "2345"),
     (("End", "BackSpace"), "1234"),
@@ -32,7 +32,7 @@ DEPTH_CURVE = 1
 CURVE_BLUE = bytes([0, 0, 255])
 POINT_RADIUS = 3  # pixels
 
-# Stand for the tools by which a desktop opens a file; a spreadsheet program is there when the home says so.
+# Replacements for the desktop's tools that open files. A file in the home folder says whether there is a spreadsheet.
 DESKTOP_TOOLS = {
     "xdg-mime": '#!/bin/sh\ncat "$HOME/spreadsheet-program" 2>/dev/null\n',
     "xdg-open": '#!/bin/sh\nprintf "%s" "$1" > "$HOME/opened.part" && mv "$HOME/opened.part" "$HOME/opened"\n',
@@ -46,7 +46,7 @@ def curve_points(number, file):
 
 
 def sheet_rows(path):
-    """The cells of the first sheet of an .xlsx file, row by row."""
+    """Returns the cells of the first sheet of an .xlsx file by rows."""
     with zipfile.ZipFile(path) as book:
         sheet = ElementTree.fromstring(book.read("xl/worksheets/sheet1.xml"))
         strings = ElementTree.fromstring(book.read("xl/sharedStrings.xml"))
@@ -60,7 +60,7 @@ def sheet_rows(path):
 
 
 def leftmost_pixel(box, color):
-    """The place on the screen of the leftmost pixels of this colour inside the box, at their middle height."""
+    """Returns the screen position of the leftmost pixels of this colour in the box, at their middle height."""
     left, top, width, height = box
     picture = subprocess.run(["import", "-window", "root", "-crop", f"{width}x{height}+{left}+{top}", "+repage",
                               "-depth", "8", "rgb:-"], capture_output=True, check=True).stdout
@@ -85,7 +85,7 @@ class Design(DesktopTest):
         self.tools = tools + os.pathsep + os.environ["PATH"]
         self.file = self.path("east mains.ORB")
 
-    def test_from_new_to_its_file_and_back(self):
+    def test_is_made_from_new_saved_and_opened_again(self):
         run = self.start(PATH=self.tools)
         self.describe(run)
         parameters = self.type_general_fields(run)
@@ -213,7 +213,7 @@ class Design(DesktopTest):
         parameters.wait_active()
         parameters.press("Command1")
         parameters.wait_gone()
-        # Reading takes the line above the title for it, and the title for the first line of the description.
+        # The reader takes the line before the title as the title, and the title as the first line of the description.
         run.keys("alt+i", "d")
         description = run.window("Project Description")
         self.assertEqual(description.text("Text2"), f"{TITLE}\n##StartDesc##\n{DESCRIPTION}")

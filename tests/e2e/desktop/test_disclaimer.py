@@ -1,4 +1,4 @@
-"""The disclaimer at the start: refused, accepted, and not to be passed by any other way."""
+"""The disclaimer at the start: it is refused or accepted and cannot be skipped."""
 
 import os
 
@@ -15,7 +15,7 @@ class Disclaimer(DesktopTest):
         until(lambda: not window.is_checked("chkShow"), "an empty box")
 
     def written(self):
-        """Everything that the program keeps in the user's folder."""
+        """Returns every file that the program keeps in the user's folder."""
         found = {}
         for folder, _, names in os.walk(self.data):
             for name in names:
@@ -34,7 +34,7 @@ class Disclaimer(DesktopTest):
         self.assertEqual(self.written(), before)
         self.start_before_it()
 
-    def test_accepted_once_and_for_all_does_not_come_back(self):
+    def test_does_not_appear_again_after_it_was_switched_off(self):
         run, window = self.start_before_it()
         self.untick(window)
 
@@ -49,7 +49,7 @@ class Disclaimer(DesktopTest):
         run.main().wait_active()
         self.assertIsNone(run.find("Disclaimer"))
 
-    def test_is_not_passed_by_the_escape_key(self):
+    def test_cannot_be_skipped_by_the_escape_key(self):
         run, window = self.start_before_it()
 
         press_keys("Escape")
@@ -58,7 +58,7 @@ class Disclaimer(DesktopTest):
         self.assertTrue(window.shows("Command1"))
         self.assertIsNone(run.find_main())
 
-    def test_refused_from_the_menu_ends_the_program_too(self):
+    def test_refused_from_the_menu_also_ends_the_program(self):
         run, window = self.start_before_it()
         window.press("Command1")
         window.wait_gone()

@@ -1,4 +1,4 @@
-"""The window and the companion program say the same of every example."""
+"""The window and orby-cli give the same results for every example."""
 
 import os
 
@@ -6,14 +6,14 @@ from orby import EXAMPLES, DesktopTest, companion, lines
 
 
 def live_outputs(file):
-    """The outputs of the parameters dialog as the companion prints them, and whether the warnings show."""
+    """Returns the outputs of the parameters dialog as orby-cli prints them, and whether the warnings show."""
     outputs = dict(line.split("=", 1) for line in companion("live", file).splitlines())
     warned = outputs.pop("txtMessage.Visible") == "1"
     return {name: text.replace("\\r\\n", "\n") for name, text in outputs.items()}, warned
 
 
 class Examples(DesktopTest):
-    def test_give_the_texts_of_the_companion(self):
+    def test_give_the_same_texts_as_orby_cli(self):
         names = sorted(os.listdir(EXAMPLES))
         self.assertEqual(len(names), 6)
         run = self.start()

@@ -1,4 +1,4 @@
-"""Files that are opened, refused, named oddly, and left with changes in them."""
+"""Files are opened, refused, named oddly, and left with unsaved changes."""
 
 import os
 
@@ -8,7 +8,7 @@ SAVED = "development-entry"
 
 
 class RefusedFile(DesktopTest):
-    def test_is_told_and_the_program_goes_on(self):
+    def test_is_reported_and_the_program_continues(self):
         letter = self.path("letter.ORB")
         with open(letter, "w", encoding="ascii") as file:
             file.write("Dear colleague,\nthe roof has been quiet since Monday.\n")
@@ -38,7 +38,7 @@ class CommandLine(DesktopTest):
         self.assertEqual(run.wait_end(), 0)
         return caption
 
-    def test_names_one_file_with_its_blanks_quoted_or_not(self):
+    def test_names_one_file_with_spaces_quoted_or_not(self):
         self.copy_example(SAVED, "east mains.ORB")
         name = self.path("east mains.ORB")
 
@@ -78,7 +78,7 @@ class UnsavedChanges(DesktopTest):
         self.assertIn("\r\n715\r\n", self.read())
         self.assertRegex(companion("report", "--page", "0", self.file), r"Depth of Cover\.+715 \(ft\)")
 
-    def test_no_closes_and_leaves_the_file(self):
+    def test_no_closes_without_changing_the_file(self):
         self.answer("No")
 
         self.assertEqual(self.run_.wait_end(), 0)

@@ -1,4 +1,4 @@
-"""The help beside the dialogs of a day's work."""
+"""The help beside the dialogs."""
 
 import subprocess
 
@@ -20,7 +20,7 @@ class Help(DesktopTest):
         xdotool("mousemove", left + width // 2, top + height // 2, "click", "1")
 
     def uppermost(self):
-        """The title of the window above all others, as the window manager has stacked them."""
+        """Returns the title of the topmost window in the window manager's stack."""
         numbers = subprocess.run(["xprop", "-root", "_NET_CLIENT_LIST_STACKING"], capture_output=True, check=True,
                                  timeout=PATIENCE).stdout.decode().partition("#")[2].split(",")
         return subprocess.run(["xdotool", "getwindowname", numbers[-1].strip()], capture_output=True, check=True,

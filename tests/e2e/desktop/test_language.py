@@ -1,4 +1,4 @@
-"""The program on a desktop of another language, and on one whose pixels are twice as fine."""
+"""The program on a desktop in another language, and on one with doubled resolution."""
 
 from orby import DesktopTest
 
@@ -29,7 +29,7 @@ class Language(DesktopTest):
         self.assertEqual(run.wait_end(), 0)
         self.assertIn("DefaultMETrowSpacing=1.2\r\n", self.configuration())
 
-    def test_lines_run_from_left_to_right_on_every_desktop(self):
+    def test_the_layout_is_left_to_right_on_every_desktop(self):
         _, window = self.open_parameters(LC_ALL="ar_EG.UTF-8", LANGUAGE="ar")
 
         self.check_outputs(window)
@@ -38,7 +38,7 @@ class Language(DesktopTest):
         self.assertLess(label_left, field_left)
         self.assertEqual(window.label("Command2"), "OK")
 
-    def test_finer_pixels_change_no_number(self):
+    def test_a_doubled_resolution_changes_no_number(self):
         _, window = self.open_parameters(QT_SCALE_FACTOR="2")
 
         self.check_outputs(window)

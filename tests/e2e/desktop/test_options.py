@@ -1,4 +1,4 @@
-"""Options that are edited, and what is left of them in the next run."""
+"""Options are edited, and checked in the next run."""
 
 from orby import DesktopTest, press_keys, until, xdotool
 
@@ -35,7 +35,7 @@ class Options(DesktopTest):
     def grades(self, options):
         return [node.name for node in options.control("lstBoltGrade_0").children()]
 
-    def test_an_edited_list_is_there_in_the_next_run(self):
+    def test_an_edited_list_is_kept_for_the_next_run(self):
         run, options = self.open_options(ENGLISH)
         before = self.grades(options)
         options.type("txtItem_0", "80")

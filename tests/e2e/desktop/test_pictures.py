@@ -1,4 +1,4 @@
-"""Pictures of every window in both systems of units, left in the build folder for the eye."""
+"""Saves pictures of every window in both unit systems in the build folder, for visual checks."""
 
 from orby import DesktopTest, until
 

@@ -1,4 +1,4 @@
-"""A report on paper, where there is no printer but a file."""
+"""Printing to a PDF file on a machine without a printer."""
 
 import re
 import subprocess
@@ -8,7 +8,7 @@ from orby import DesktopTest, companion, press_keys, until, xdotool
 
 
 def words_of(pdf):
-    """The words of a PDF file; nothing while it is not whole."""
+    """Returns the words of a PDF file, or nothing while it is incomplete."""
     answer = subprocess.run(["pdftotext", "-layout", pdf, "-"], capture_output=True)
     return answer.stdout.decode().split() if answer.returncode == 0 else None
 
@@ -26,25 +26,25 @@ class Printing(DesktopTest):
         dialog.wait_gone()
         words = until(lambda: words_of(self.path("weak-roof.pdf")), "the PDF file")
         self.assertEqual(words[:3], ["File", "Name:", "weak-roof.ORB"])
-        # Each sheet has its header between the lines of the report.
+        # Each sheet repeats the header between the lines of the report.
         rest = iter(words)
         for word in companion("report", example).split():
             self.assertIn(word, rest)
 
 
 def first_words(pdf):
-    """The words of the first page of a PDF file, each with its place and size; nothing while it is not whole."""
+    """Returns the words of the first page of a PDF file with position and size, or nothing while it is incomplete."""
     answer = subprocess.run(["pdftotext", "-bbox", "-l", "1", pdf, "-"], capture_output=True)
     return re.findall("<word .*</word>", answer.stdout.decode()) if answer.returncode == 0 else None
 
 
 def picture_of(pdf):
-    """The first page of a PDF file as a small picture."""
+    """Returns a small picture of the first page of a PDF file."""
     return subprocess.run(["pdftoppm", "-r", "50", "-l", "1", pdf], capture_output=True, check=True).stdout
 
 
 def field_with(dialog, text):
-    """The field of the dialog that has this text."""
+    """Returns the field of the dialog with this text."""
     for node in dialog.node.walk():
         try:
             if node.text == text:
@@ -55,12 +55,12 @@ def field_with(dialog, text):
 
 
 class ChartThenReport(DesktopTest):
-    """A chart, the report of the results window, and the report of the main window, printed one after the other."""
+    """Prints in turn a chart, the report of the results window, and the report of the main window."""
 
     def print_to(self, run, proposed, name):
-        """Accepts the printer dialog with a file of this name beside the one that it proposes.
+        """Accepts the printer dialog with a file of this name in the suggested folder.
 
-        The program runs in the home. Under the folders of a whole path the field would offer what else is in them.
+        The program runs in the home folder, so a bare name is enough. For a full path the field would offer other files.
         """
         dialog = run.window("Print")
         field = until(lambda: field_with(dialog, self.path(proposed)), f"the proposed file {proposed}")
@@ -68,20 +68,20 @@ class ChartThenReport(DesktopTest):
         until(lambda: field.has(atspi.FOCUSED), "the field of the file name")
         xdotool("key", "ctrl+a", "type", "--delay", "2", name)
         until(lambda: field.text == name, "the name of the file")
-        # Enter would go to the list of files that may have opened below the field.
+        # Enter would go to the file list that may have opened below the field.
         (button,) = [node for node in dialog.node.walk() if node.role == atspi.PUSH_BUTTON and node.name == "Print"]
         button.act("Press")
         dialog.wait_gone()
         return self.path(name)
 
     def print_report(self, run, name):
-        """Prints the results of a run that is in its parameters dialog."""
+        """Prints the results of a run with an open parameters dialog."""
         run.window("Parameters").press("cmdresults")
         results = run.window("Calculation Results")
         results.press("Command6")
         return results, self.print_to(run, "weak-roof.pdf", name)
 
-    def test_all_have_the_text_and_the_size_of_a_fresh_run(self):
+    def test_all_have_the_same_text_and_size_as_in_a_new_run(self):
         example = self.example("weak-roof")
         fresh_run = self.start(example)
         _, fresh = self.print_report(fresh_run, "fresh.pdf")

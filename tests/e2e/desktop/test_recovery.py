@@ -1,4 +1,4 @@
-"""Work that is not lost when the program ends in the middle of it."""
+"""Unsaved work is recovered after the program ends unexpectedly."""
 
 import os
 import re
@@ -16,7 +16,7 @@ ERROR = ("Run-time error '11':\n\nDivision by zero\n\nThe error happened while t
 
 class Recovery(DesktopTest):
     def edit(self, depth, *arguments):
-        """A run whose parameters dialog is open with another depth of cover, which has been kept."""
+        """Returns a run with another depth of cover in its open parameters dialog and in the recovery file."""
         run = self.start(*arguments)
         if not arguments:
             run.keys("ctrl+n")
@@ -42,7 +42,7 @@ class Recovery(DesktopTest):
         run.answer(f"Save changes to: {name}?", "No")
         self.assertEqual(run.wait_end(), 0)
 
-    def test_brings_back_a_changed_field_of_the_open_dialog_after_a_kill(self):
+    def test_restores_a_changed_field_of_the_open_dialog_after_a_kill(self):
         file = self.copy_example("development-entry", "entry.ORB")
         self.edit("777", file).kill()
 
@@ -54,7 +54,7 @@ class Recovery(DesktopTest):
         self.quit_unsaved(run, file)
         self.assertEqual(self.recovery_files(), [])
 
-    def test_no_moves_what_was_kept_into_the_backups(self):
+    def test_no_moves_the_work_to_the_backups(self):
         self.edit("777").kill()
 
         run = self.start()
@@ -82,7 +82,7 @@ class Recovery(DesktopTest):
         parameters.wait_gone()
         self.assertTrue(run.caption().endswith("entry.ORB"))
 
-    def test_keeps_the_work_of_two_programs_apart(self):
+    def test_keeps_the_work_of_two_programs_separate(self):
         first = self.edit("771")
         second = self.edit("772")
         first.kill()
@@ -94,13 +94,13 @@ class Recovery(DesktopTest):
         self.assertEqual(depths, ["771", "772"])
 
     def recovered_depth(self):
-        """What a program brings back that goes on beside the others."""
+        """Returns the depth that a new run recovers while the other runs continue."""
         run = self.start()
         run.answer(QUESTION, "Yes")
         return self.depth_of(run)
 
     def end_by_error(self, *arguments):
-        """A run with changes, which has ended by a report that cannot be made; its box is on the screen."""
+        """Returns a run with changes that an impossible report has ended. Its message box is on the screen."""
         run = self.edit("777", *arguments)
         parameters = run.window("Parameters")
         parameters.type("txtUnitWeight", "158")
@@ -116,7 +116,7 @@ class Recovery(DesktopTest):
         self.assertEqual(parameters.text("txtDepthofCover"), "777")
         self.assertEqual(parameters.text("txtUnitWeight"), "158")
 
-    def test_brings_back_the_fields_after_a_run_time_error(self):
+    def test_restores_the_fields_after_a_run_time_error(self):
         self.end_by_error().answer(ERROR, "OK")
 
         self.assertEqual(self.runs[0].wait_end(), 1)

@@ -1,4 +1,4 @@
-"""What a new start of the program finds as it was left, and what not."""
+"""What the program keeps from one run to the next, and what it does not."""
 
 import os
 
@@ -53,16 +53,16 @@ class Restart(DesktopTest):
 
         self.assertTrue(run.caption().endswith("second.ORB"), run.caption())
 
-    def test_forgets_the_options(self):
+    def test_resets_the_options(self):
         self.edit_configuration("ShowInputScreenOnLoad=1", "ShowInputScreenOnLoad=0")
 
         run = self.start(self.first)
 
-        # The dialog comes up all the same: the options are written under another name than they are read.
+        # The dialog still opens, because the options are stored under another name than the one that is read.
         self.leave_parameters(run)
         self.assertTrue(run.caption().endswith("first.ORB"), run.caption())
 
-    def test_makes_a_configuration_of_another_version_anew(self):
+    def test_replaces_a_configuration_of_another_version(self):
         self.edit_configuration("INIFileVersion=201030", "INIFileVersion=201031")
         self.edit_configuration("DisplayFontSize=10", "DisplayFontSize=14")
 
@@ -75,7 +75,7 @@ class Restart(DesktopTest):
 
 
 class WindowPlace(DesktopTest):
-    def test_stays_when_a_dialog_hides_the_main_window(self):
+    def test_is_kept_when_a_dialog_hides_the_main_window(self):
         run = self.start()
         run.main().wait_active()
         before = self.settled(run)
@@ -96,7 +96,7 @@ class WindowPlace(DesktopTest):
         return run.main().node.box
 
     def settled(self, run):
-        """The place once the window manager has answered."""
+        """Returns the position after the window manager has settled."""
         last = None
         def same_twice():
             nonlocal last

@@ -1,4 +1,4 @@
-"""Saves that write over something, and saves that fail."""
+"""Saves that overwrite a file, and saves that fail."""
 
 import os
 import re
@@ -37,7 +37,7 @@ class Saving(DesktopTest):
         until(lambda: self.run_.caption().endswith("entry.ORB"), "the end of the mark")
 
     def backups(self):
-        """Those that are whole: what is still being written has another name."""
+        """Returns the complete backups. One that is still being written has another name."""
         folder = os.path.join(self.data, "Backups")
         names = os.listdir(folder) if os.path.isdir(folder) else []
         return [os.path.join(folder, name) for name in sorted(names) if BACKUP.fullmatch(name)]
@@ -46,7 +46,7 @@ class Saving(DesktopTest):
         run.keys("alt+u", "b")
         return run.window("Backups")
 
-    def test_what_was_written_over_is_opened_from_the_window(self):
+    def test_an_overwritten_file_is_opened_from_the_backups(self):
         self.save()
 
         (backup,) = self.backups()
@@ -59,7 +59,7 @@ class Saving(DesktopTest):
         self.run_.keys("alt+i", "p")
         self.assertEqual(self.run_.window("Parameters").text("txtDepthofCover"), "650")
 
-    def test_a_kill_in_a_save_leaves_the_typed_design_and_the_old_one_in_the_window(self):
+    def test_a_kill_during_a_save_leaves_the_typed_and_the_old_design_in_the_backups(self):
         self.run_.keys("ctrl+s")
         (backup,) = until(self.backups, "the backup")
         self.run_.kill()
@@ -75,7 +75,7 @@ class Saving(DesktopTest):
         self.assertEqual(self.open_backups(run).text("txtDepthofCover"), "650 (ft)")
 
     def test_a_limit_on_file_sizes_leaves_the_file_and_the_next_save_succeeds(self):
-        # The limit comes with a signal that ends whoever does not expect it.
+        # The limit also sends a signal that ends a program without a handler.
         resource.prlimit(self.run_.process.pid, resource.RLIMIT_FSIZE, (100, resource.RLIM_INFINITY))
         self.run_.keys("ctrl+s")
         self.run_.answer("Error occurred: Disk full (61)", "Cancel")
@@ -88,7 +88,7 @@ class Saving(DesktopTest):
         self.assertIn(b"\r\n715\r\n", self.read(self.file))
         self.assertEqual([self.read(backup) for backup in self.backups()], [self.before])
 
-    def test_a_file_that_another_program_changed_is_kept_and_told(self):
+    def test_a_file_changed_by_another_program_is_backed_up_and_reported(self):
         others = self.before + b"a line of another program\r\n"
         with open(self.file, "wb") as file:
             file.write(others)

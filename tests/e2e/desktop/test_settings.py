@@ -1,4 +1,4 @@
-"""The settings: what they refuse, what a box of theirs tells, and that they last."""
+"""The settings: their checks, their messages, and that they are kept."""
 
 import os
 
@@ -29,7 +29,7 @@ class Settings(DesktopTest):
         window.wait_gone()
         self.assertEqual(self.configuration(), self.before)
 
-    def test_refuse_a_path_that_is_not_there(self):
+    def test_refuse_a_path_that_does_not_exist(self):
         self.check_refusal("Text2", "/nowhere", "Invalid Path for Data Files", "/nowhere/")
 
     def test_refuse_a_history_that_is_too_short(self):
@@ -39,7 +39,7 @@ class Settings(DesktopTest):
     def test_refuse_an_extension_with_a_point(self):
         self.check_refusal("Text1", ".ORB", "Invalid character in file extension")
 
-    def test_are_there_after_a_new_start(self):
+    def test_are_kept_for_the_next_run(self):
         window = self.open_settings()
         window.press("optUnits_1")
         window.type("Text1", "RS7")
@@ -59,7 +59,7 @@ class Settings(DesktopTest):
         self.assertFalse(window.is_checked("chkEnableTB"))
         self.assertIn("FileExtension=RS7\r\n", self.configuration())
 
-    def test_tell_what_a_box_means_without_holding_up_who_pressed_it(self):
+    def test_explain_a_check_box_without_blocking_the_client_that_pressed_it(self):
         window = self.open_settings()
 
         window.press("chkShortNames")
@@ -70,7 +70,7 @@ class Settings(DesktopTest):
         window.wait_gone()
         self.assertIn("ShortRecentFiles=1\r\n", self.configuration())
 
-    def test_take_the_font_of_the_history(self):
+    def test_change_the_font_of_the_history(self):
         window = self.open_settings()
         window.press("Command5")
         font = self.run_.window("Font")
@@ -88,9 +88,9 @@ class Settings(DesktopTest):
 
 
 class NoSettings(DesktopTest):
-    """A user whose settings nothing can be kept in."""
+    """A user whose configuration cannot be written."""
 
-    def test_begin_with_the_built_in_ones_and_a_message(self):
+    def test_start_with_the_built_in_settings_and_a_message(self):
         file = os.path.join(self.data, "ORBY.INI")
         os.makedirs(file)
         trouble = f"Configuration file cannot be used: {file} (Path/File access error). Built-in settings are in force"

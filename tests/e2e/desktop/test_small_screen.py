@@ -1,4 +1,4 @@
-"""The windows of the program on a screen of 1024 x 600: all of their frames are on it."""
+"""All windows of the program fit on a screen of 1024 x 600 with their frames."""
 
 import re
 import subprocess
@@ -13,8 +13,8 @@ def asked(*words):
 
 
 def frame_in_front():
-    """Left, top, right and bottom of the window in front, with the frame that the window manager draws; None while it
-    has none."""
+    """Returns left, top, right and bottom of the active window with the window manager's frame; None while it has no
+    frame."""
     window = asked("xdotool", "getactivewindow").strip()
     place = dict(line.strip().split(":", 1) for line in asked("xwininfo", "-id", window).split("\n") if ": " in line)
     frame = re.search(r"= (\d+), (\d+), (\d+), (\d+)", asked("xprop", "-id", window, "_NET_FRAME_EXTENTS"))
@@ -42,7 +42,7 @@ class SmallScreen(DesktopTest):
         run.keys("alt+u", "w")
         self.assert_fits(run.main())
 
-    def test_shows_each_dialog_of_the_menus_whole(self):
+    def test_shows_the_whole_of_each_dialog_of_the_menus(self):
         run = self.start()
         for menu, entry in (
                 ("Input", "Project Description..."),
@@ -71,7 +71,7 @@ class SmallScreen(DesktopTest):
 
         return until(find, "a dialog")
 
-    def test_shows_results_and_help_whole(self):
+    def test_shows_the_whole_of_results_and_help(self):
         run = self.start()
         run.main().choose("Input", "Project Parameters...")
         parameters = run.window("Parameters")
@@ -95,7 +95,7 @@ class SmallScreen(DesktopTest):
         graph.choose("Options", "Basic Options")
         self.assert_fits(run.window("Graph Parameters and Options"))
 
-    def test_shows_the_disclaimer_and_the_preview_whole(self):
+    def test_shows_the_whole_of_disclaimer_and_preview(self):
         run = self.start(accepts=False)
         disclaimer = run.window("Disclaimer")
         self.assert_fits(disclaimer)

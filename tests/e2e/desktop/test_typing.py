@@ -1,4 +1,4 @@
-"""Any text in any number field of the parameters ends no run: the general ones and the primary support."""
+"""No text in a number field of the general tab or of primary support ends the run."""
 
 from parameter_fields import ParameterFieldsTest, support_of
 

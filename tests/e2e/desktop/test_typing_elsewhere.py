@@ -1,9 +1,9 @@
-"""Any text in any number field of the dialogs besides the parameters ends no run."""
+"""No text in a number field of the other dialogs ends the run."""
 
 from number_fields import NumberFieldsTest
 
 UNIT_TABS = ("Length", "Load", "Load Grad", "Stress", "Stress Grad")
-# The pages of the options, their tables, and the fields that are over the cells while a table has the keyboard.
+# The pages of the options, their tables, and the fields over the cells while a table has the focus.
 TABLES = (("Default Parameters (English)", "VSFlexGridEng", "txtCableEng"),
           ("Default Parameters (Metric)", "VSFlexGridMet", "txtCableMet"),
           ("Default Parameters (Standing Supports)", "VSFlexGridStand", "txtStand"))
@@ -42,7 +42,7 @@ class TypingElsewhere(NumberFieldsTest):
         self.leave("cmdCancel")
         self.quit()
 
-    def test_in_the_settings_and_in_the_choice_of_a_font(self):
+    def test_in_the_settings_and_in_the_font_dialog(self):
         run = self.start_main()
         run.keys("alt+u", "s")
         settings = run.window("Settings")

@@ -1,4 +1,4 @@
-"""Any text in any number field of the parameters ends no run: the secondary support of intersections."""
+"""No text in a number field of the secondary support of intersections ends the run."""
 
 from parameter_fields import ParameterFieldsTest, support_of
 

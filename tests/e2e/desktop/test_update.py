@@ -1,4 +1,4 @@
-"""New versions from a server on this machine: asked about, fetched, and started only when they are what they should be."""
+"""New versions from a server on this machine: offered, downloaded, and started only if they are the published ones."""
 
 import hashlib
 import http.server
@@ -17,7 +17,7 @@ CLOSING = ("ORBY will now close to install the new update. You may be asked to g
 
 
 class Server(http.server.ThreadingHTTPServer):
-    """Files by their names, at a port that the system chooses."""
+    """Serves files by name. The system chooses the port."""
 
     def __init__(self):
         self.files = {}
@@ -56,7 +56,7 @@ class Update(DesktopTest):
         self.make_opener()
 
     def make_opener(self):
-        """The desktop's way to open files, which only notes down what it is given."""
+        """Installs a tool for opening files that only records its arguments."""
         folder = self.path("bin")
         os.mkdir(folder)
         tool = os.path.join(folder, "xdg-open")
@@ -88,7 +88,7 @@ class Update(DesktopTest):
         run.quit()
         self.assertEqual(run.wait_end(), 0)
 
-    def test_is_asked_about_at_the_start(self):
+    def test_is_offered_at_the_start(self):
         self.offer("1.0.01\r\n")
 
         run = self.start_with_server()
@@ -99,7 +99,7 @@ class Update(DesktopTest):
             self.assertEqual(file.read(), b"1.0.01\r\n")
         self.end(run)
 
-    def test_comes_up_when_the_user_wants_it(self):
+    def test_opens_the_dialog_if_the_user_wants_it(self):
         self.offer("1.0.01\r\n")
 
         run = self.start_with_server()
@@ -110,7 +110,7 @@ class Update(DesktopTest):
         updates.wait_gone()
         self.end(run)
 
-    def test_is_not_mentioned_when_there_is_none(self):
+    def test_is_not_mentioned_if_there_is_none(self):
         self.offer("1.0.00\r\n")
 
         run = self.start_with_server()
@@ -119,7 +119,7 @@ class Update(DesktopTest):
         self.assertEqual(len(run.windows()), 1)
         self.end(run)
 
-    def test_is_not_looked_for_once_it_is_switched_off(self):
+    def test_is_not_looked_for_after_the_check_is_switched_off(self):
         self.offer("1.0.00\r\n")
         run = self.start_with_server()
         updates = self.open_updates(run)
@@ -135,7 +135,7 @@ class Update(DesktopTest):
 
         self.assertEqual(self.server.asked, [])
 
-    def test_is_no_matter_without_a_server(self):
+    def test_is_not_looked_for_without_a_server(self):
         run = self.start(ORBY_UPDATE_SERVER="")
         updates = self.open_updates(run)
 
@@ -169,7 +169,7 @@ class Update(DesktopTest):
             with open(path, "rb") as file:
                 self.assertEqual(file.read(), SETUP)
 
-    def test_is_never_started_when_it_was_exchanged(self):
+    def test_is_never_started_after_it_was_replaced(self):
         self.offer(f"1.0.01,{SUM}\r\n", SETUP)
         run = self.start_with_server()
         run.answer(QUESTION, "No")
@@ -188,7 +188,7 @@ class Update(DesktopTest):
         self.end(run)
         self.assertEqual(self.opened_files(), [])
 
-    def test_is_never_started_when_it_is_not_the_published_one(self):
+    def test_is_never_started_if_it_is_not_the_published_one(self):
         self.offer(f"1.0.01,{SUM}\r\n", SETUP.replace(b"0", b"1"))
         run = self.start_with_server()
         run.answer(QUESTION, "No")
@@ -206,7 +206,7 @@ class Update(DesktopTest):
         self.end(run)
         self.assertEqual(self.opened_files(), [])
 
-    def test_is_never_started_when_it_did_not_arrive(self):
+    def test_is_never_started_if_its_download_failed(self):
         self.offer("1.0.01\r\n")
         os.mkdir(self.path("Downloads"))
         with open(self.setup_file, "wb") as file:
