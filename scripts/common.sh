@@ -1,9 +1,9 @@
 # shellcheck shell=bash disable=SC2034,SC2191
-# What ./orby, ./check and ./bench share. To be sourced; $top is the folder that holds the project.
+# Shared by ./orby, ./check, ./bench and ./package, which source it. $top is the top folder of the project.
 
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
-# package=probe: the package counts as present when its probe is a command or a path (a pattern) that exists.
+# package=probe: the package is present if its probe is an existing command or path (pattern).
 build_packages=(g++=g++ cmake=cmake ninja-build=ninja)
 toolkit_packages=(qt6-base-dev=/usr/lib/*/cmake/Qt6Widgets qt6-svg-dev=/usr/lib/*/cmake/Qt6Svg
   libqcustomplot-dev=/usr/lib/*/cmake/QCustomPlotQt6 libxlsxwriter-dev=/usr/include/xlsxwriter.h
@@ -14,7 +14,7 @@ desktop_packages=(xvfb=Xvfb openbox=openbox xdotool=xdotool x11-utils=xprop xcli
   at-spi2-core=/usr/libexec/at-spi-bus-launcher dbus-daemon=dbus-run-session
   python3-gi=/usr/lib/python3/dist-packages/gi xdg-utils=xdg-mime desktop-file-utils=desktop-file-validate
   shared-mime-info=update-mime-database libfile-mimeinfo-perl=mimetype)
-# What makes repeated builds fast.
+# Makes repeated builds faster.
 speed_packages=(ccache=ccache mold=mold)
 format_packages=(clang-format=clang-format)
 lint_packages=(clang-tidy=clang-tidy cppcheck=cppcheck)
@@ -38,7 +38,7 @@ is_present() {
   esac
 }
 
-# install_missing package=probe...: installs the packages whose probe fails; nothing happens when all are there.
+# install_missing package=probe...: installs the packages whose probe fails.
 install_missing() {
   local entry missing=() log="$top/build/install.log" as_root=()
   for entry in "$@"; do
@@ -67,8 +67,8 @@ install_missing() {
   fi
 }
 
-# configure PRESET [cmake option...]: only when the preset was never configured, its presets changed, or an option
-# is given; the generated build looks after every later change of a CMakeLists.txt itself.
+# configure PRESET [cmake option...]: configures if the preset is new, the presets have changed, or an option is given.
+# The generated build itself detects later changes of a CMakeLists.txt.
 configure() {
   local preset=$1 ninja_file="$top/build/$1/build.ninja" faster=()
   shift
@@ -85,7 +85,7 @@ build() {
   cmake --build "$top/build/$preset" "$@"
 }
 
-# quietly LOG command...: what it prints goes to the log and is shown only when it fails.
+# quietly LOG command...: sends the output to the log and shows it only if the command fails.
 quietly() {
   local log=$1
   shift
