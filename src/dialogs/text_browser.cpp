@@ -248,7 +248,7 @@ void TextBrowser::StopLoading() {
   prgLoading.SetVisible(false);
 }
 
-// ---- how it is shown -----------------------------------------------------------------------------------------------
+// ---- display -------------------------------------------------------------------------------------------------------
 
 void TextBrowser::ShowViewer() {
   lblView.SetVisible(!Check1.Checked());

@@ -169,7 +169,7 @@ TEST_F(TheBackupsWindow, SaysThatTheReasonIsUnknownIfTheNoteIsMissing) {
   EXPECT_EQ(backups.txtTitle.Text(), "Belt entry");
 }
 
-// ---- the ways back --------------------------------------------------------------------------------------------------
+// ---- restoring ------------------------------------------------------------------------------------------------------
 
 TEST_F(TheBackupsWindow, SavesABackupUnderTheNameThatTheUserGives) {
   KeepTwo();

@@ -366,7 +366,7 @@ TEST_F(ACostDialog, ShowsNoResultsOfANegativeNumber) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Invalid number of depreciation years"));
 }
 
-// ---- the picture, and the design as it is being edited --------------------------------------------------------------
+// ---- the picture, and the edited design -----------------------------------------------------------------------------
 
 TEST_F(ACostDialog, CopiesItsPictureToTheClipboard) {
   dialog.Open();

@@ -378,7 +378,7 @@ TEST_F(ADescriptionDialog, OpensTheHelp) {
   EXPECT_TRUE(dialog.IsOpen());
 }
 
-// ---- what starting anew drops ---------------------------------------------------------------------------------------
+// ---- work that a new design discards --------------------------------------------------------------------------------
 
 TEST_F(ADescriptionDialog, BacksUpTheTextsThatWereTypedWithOtherUnits) {
   program.session.folders.ProgramData = "/home/user/Documents/Orby/";
@@ -422,7 +422,7 @@ TEST_F(ADescriptionDialog, BacksUpNeitherASavedDesignNorOneWithoutAnotherChoice)
   EXPECT_THAT(ListBackups(program), IsEmpty());
 }
 
-// ---- what the file does to the texts --------------------------------------------------------------------------------
+// ---- lines that the file loses or shifts ----------------------------------------------------------------------------
 
 TEST_F(ADescriptionDialog, WarnsOnceOfALineThatTheFileWillLose) {
   dialog.Open();

@@ -42,7 +42,7 @@ TEST_F(ParameterChecks, AcceptAValidDesign) {
   EXPECT_THAT(Faults(Metric, ""), IsEmpty());
 }
 
-// ---- each fault by itself -------------------------------------------------------------------------------------------
+// ---- single faults --------------------------------------------------------------------------------------------------
 
 // Returns the tab that a tab set shows before a fault switches it to another tab, or leaves it.
 int TabBefore(int expected) { return expected == Stays ? 1 : (expected + 1) % 4; }
@@ -223,7 +223,7 @@ TEST_F(ParameterChecks, ReportTheFaultBeforeGoingToIt) {
   EXPECT_EQ(opened.SSTab1.Tab(), 1);
 }
 
-// ---- what passes ----------------------------------------------------------------------------------------------------
+// ---- accepted values ------------------------------------------------------------------------------------------------
 
 TEST_F(ParameterChecks, SkipASectionThatIsSwitchedOff) {
   int passedOver = 0;

@@ -268,7 +268,7 @@ TEST_F(ParameterEvents, AnEmptySupportListKeepsTheNameAndTheCapacity) {
   EXPECT_EQ(other.InterStandingControls.Capacity.Text(), "50");
 }
 
-// ---- holding back ---------------------------------------------------------------------------------------------------
+// ---- suspending -----------------------------------------------------------------------------------------------------
 
 TEST_F(ParameterEvents, SuspendedEventsStillEnableShowAndFill) {
   const std::vector<std::string> before = TextsOf(dialog.EntryOutputs.StabFactor);

@@ -41,7 +41,7 @@ struct SecondaryResultsShown : AParametersDialog {
 using EntryResults = SecondaryResultsShown;
 using IntersectionResults = SecondaryResultsShown;
 
-// ---- entries and intersections alike -------------------------------------------------------------------------------
+// ---- entries and intersections -------------------------------------------------------------------------------------
 
 enum class Place { Entries, Intersections };
 

@@ -177,7 +177,7 @@ TEST_F(NoResultShown, IsStoredAsZero) {
   EXPECT_EQ(program.project.WorkParms.Entries.Cable.StabFactor, 1.06F);
 }
 
-// ---- numbers that nothing can hold ----------------------------------------------------------------------------------
+// ---- numbers too large to store -------------------------------------------------------------------------------------
 
 struct NumbersTooLargeToStore : AParametersDialog {
   Texts Told(std::string_view edits) {

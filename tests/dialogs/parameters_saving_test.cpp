@@ -304,7 +304,7 @@ TEST_F(SavingParameters, StoresTheRatingsSourceFromTheEstimatorAndNotFromTheHidd
   EXPECT_EQ(program.project.WorkParms.Place.CMRRRockTypeIndex, 5);
 }
 
-// ---- the design as it is being edited -------------------------------------------------------------------------------
+// ---- the edited design ----------------------------------------------------------------------------------------------
 
 TEST_F(SavingParameters, ReadsTheDesignThatACommitWouldStoreWithoutCommittingIt) {
   dialog.Open();

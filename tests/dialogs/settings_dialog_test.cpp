@@ -207,7 +207,7 @@ TEST_F(SettingsTest, AreNotAcceptedBecauseOfAnEarlierOk) {
   EXPECT_EQ(program.session.settings.EnableMainMenuToolbar, 1);
 }
 
-// ---- what a click tells --------------------------------------------------------------------------------------------
+// ---- messages of a click -------------------------------------------------------------------------------------------
 
 TEST_F(SettingsTest, ShowNoMessageWhileTheFieldsAreFilled) {
   program.session.settings.CopyExampleFiles = 1;
@@ -350,7 +350,7 @@ TEST_F(SettingsTest, AreCheckedFromThePathToTheExtensionAndStopAtTheFirstFault) 
                   "Invalid character in file extension"));
 }
 
-// ---- the dialogs behind the buttons --------------------------------------------------------------------------------
+// ---- dialogs of the buttons ----------------------------------------------------------------------------------------
 
 TEST_F(SettingsTest, AskForThePathStartingAtThePresentOne) {
   Open();

@@ -36,7 +36,7 @@ struct AnUpdateDialog : UpdateTest {
   UpdateDialog dialog{program};
 };
 
-// ---- what it shows at first ----------------------------------------------------------------------------------------
+// ---- first contents ------------------------------------------------------------------------------------------------
 
 TEST_F(AnUpdateDialog, HasItsCaptions) {
   EXPECT_EQ(dialog.Name(), "frmUpdate");
@@ -102,7 +102,7 @@ TEST_F(AnUpdateDialog, SavesTheSettingsWhenItCloses) {
   EXPECT_THAT(platform.files.files[program.session.IniFilePath], HasSubstr("RemindAnnualUpdates=0\r\n"));
 }
 
-// ---- looking for a version -----------------------------------------------------------------------------------------
+// ---- checking for a version ----------------------------------------------------------------------------------------
 
 TEST_F(AnUpdateDialog, FetchesTheVersionFileOnRequest) {
   dialog.cmdCheck.Press();

@@ -178,7 +178,7 @@ TEST_F(Downloading, SendsNoEventBeforeTheEventLoopRuns) {
   EXPECT_EQ(Ended().end, FetchEnd::NoService);
 }
 
-// ---- what goes wrong -----------------------------------------------------------------------------------------------
+// ---- errors --------------------------------------------------------------------------------------------------------
 
 TEST_F(Downloading, HasNoConnectionToAClosedPort) {
   std::string address;
@@ -253,7 +253,7 @@ TEST_F(Downloading, UsesNoCacheAndNoCookies) {
   EXPECT_FALSE(server.Requests()[1].headers.contains("cookie"));
 }
 
-// ---- answers without an end ----------------------------------------------------------------------------------------
+// ---- endless answers -----------------------------------------------------------------------------------------------
 
 constexpr std::uint64_t MostBytes = 65536;
 constexpr qint64 OnTheWay = 32 << 20;  // upper limit of the bytes in the system's buffers between two programs
@@ -293,7 +293,7 @@ TEST_F(Downloading, AcceptsAnAnswerOfTheLargestSize) {
   EXPECT_EQ(Fetch({server.Address("/longer"), FromQt(path), MostBytes}).end, FetchEnd::Failed);
 }
 
-// ---- elsewhere -----------------------------------------------------------------------------------------------------
+// ---- redirects -----------------------------------------------------------------------------------------------------
 
 TEST_F(Downloading, FollowsARedirect) {
   WebServer other;
@@ -356,7 +356,7 @@ TEST_F(Downloading, FailsForAnUnsafeAddress) {
   }
 }
 
-// ---- safe lines ----------------------------------------------------------------------------------------------------
+// ---- secure connections --------------------------------------------------------------------------------------------
 
 class DownloadingSafely : public Downloading {
  protected:
@@ -428,7 +428,7 @@ TEST_F(Downloading, RefusesAServerWithAnUntrustedCertificate) {
   EXPECT_THAT(FilesThere(), IsEmpty());
 }
 
-// ---- going on ------------------------------------------------------------------------------------------------------
+// ---- resuming ------------------------------------------------------------------------------------------------------
 
 TEST_F(Downloading, ResumesWhereItBrokeOff) {
   const QByteArray bytes = BytesOf(3'000'000);

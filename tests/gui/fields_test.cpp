@@ -135,7 +135,7 @@ TEST_F(Fields, ScrollBackIntoViewIfTheyAlreadyHadTheFocus) {
   });
 }
 
-// ---- the keyboard that leaves a field and comes back ---------------------------------------------------------------
+// ---- losing and regaining the focus --------------------------------------------------------------------------------
 
 // Sends focus events: the focus leaves the field for the first reason and returns for the second one.
 void LeaveAndReturn(QLineEdit& field, Qt::FocusReason leaving, Qt::FocusReason returning) {
@@ -174,7 +174,7 @@ TEST_F(Fields, AreSelectedWhenTheFocusComesByOtherMeans) {
   });
 }
 
-// ---- acts that wait for one another --------------------------------------------------------------------------------
+// ---- queued actions ------------------------------------------------------------------------------------------------
 
 TEST_F(Fields, AreNotCheckedByAnOkQueuedAfterACancel) {
   Work([this](QDialog& window) {

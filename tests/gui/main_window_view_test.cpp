@@ -326,7 +326,7 @@ TEST_F(MainView, ClosesByTheExitItem) {
   EXPECT_FALSE(model.IsOpen());
 }
 
-// ---- its place ------------------------------------------------------------------------------------------------------
+// ---- its position ---------------------------------------------------------------------------------------------------
 
 TEST_F(MainView, KeepsItsSizeAndPositionWhileADialogReplacesIt) {
   View().setGeometry(31, 47, 640, 480);

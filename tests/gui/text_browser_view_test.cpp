@@ -218,7 +218,7 @@ TEST_F(BrowserView, UsesTheChosenFont) {
   });
 }
 
-// ---- finding -------------------------------------------------------------------------------------------------------
+// ---- searching -----------------------------------------------------------------------------------------------------
 
 TEST_F(BrowserView, FindsATextByTheKeyboard) {
   platform.files.files["/designs/found.orb"] = "Bolt row\ncable\nbolt length\n";

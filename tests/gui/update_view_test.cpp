@@ -278,7 +278,7 @@ TEST(TheUpdateServer, IsTakenFromTheEnvironment) {
   EXPECT_EQ(none, "");
 }
 
-// ---- the look at the server that a run begins with -----------------------------------------------------------------
+// ---- the check at the start ----------------------------------------------------------------------------------------
 
 TEST_F(UpdateView, OpensAtStartIfTheUserWantsTheNewerVersion) {
   OfferVersion("1.0.01\r\n");

@@ -186,7 +186,7 @@ TEST_F(InputMenu, ReportsAnOpenedDesignThatCannotBeShown) {
   EXPECT_FALSE(program.windows.DialogOpen);
 }
 
-// ---- what is kept ---------------------------------------------------------------------------------------------------
+// ---- unsaved work ---------------------------------------------------------------------------------------------------
 
 struct EditedWork : InputMenu {};
 

@@ -188,7 +188,7 @@ TEST_F(Menus, ReportAMissingManual) {
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Help file (/program/ORBY.PDF) not available"));
 }
 
-// ---- the opening window ---------------------------------------------------------------------------------------------
+// ---- opening the window ---------------------------------------------------------------------------------------------
 
 struct OpeningWindow : testing::Test {
   RecordingPlatform platform;
