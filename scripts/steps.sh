@@ -1,5 +1,5 @@
 # shellcheck shell=bash disable=SC2154
-# The steps of ./check: each is run, timed, logged and counted. To be sourced after common.sh.
+# Runs, times, logs and counts the steps of ./check. Source it after common.sh.
 
 logs="$top/build/check"
 passed=0
@@ -13,13 +13,13 @@ start_steps() {
 
 log_of() { printf '%s/%s.log' "$logs" "$(tr -c 'A-Za-z0-9\n' '-' <<<"$1")"; }
 
-# What a log says of failures: its end, and the outputs of the tests that failed.
+# Prints the failures of a log: its end, and the outputs of the tests that failed.
 digest() {
   grep -v 'This plugin does not support' "$1" | tail -n 30
   awk '/Test +#[0-9]+:/ { shown = /\*\*\*/ } /^ *Start +[0-9]+:/ { shown = 0 } shown' "$1" | head -n 200
 }
 
-# note NAME GOOD BAD SECONDS LOG: one line of the outcome, and the end of the log when anything failed.
+# note NAME GOOD BAD SECONDS LOG: prints the result in one line, and the end of the log if anything failed.
 note() {
   passed=$((passed + $2))
   failed=$((failed + $3))
@@ -33,7 +33,7 @@ note() {
   return 1
 }
 
-# step NAME command...: counts as one; its status is the command's.
+# step NAME command...: runs a step that counts as one test. Returns the status of the command.
 step() {
   local name=$1 log began=$SECONDS
   log=$(log_of "$name")
@@ -45,15 +45,15 @@ step() {
   fi
 }
 
-# The figure of an attribute, as tests="12", in the first element of an XML result that has it; 0 without one.
+# Prints the number of an attribute, such as tests="12", in the first element of an XML result that has it; 0 if none has.
 xml_figure() {
   local figure
   figure=$(grep -o -m 1 "\b$2=\"[0-9]*\"" "$1" 2>/dev/null | head -n 1 | tr -dc '0-9')
   printf '%s' "${figure:-0}"
 }
 
-# count_tests NAME STATUS RESULT SECONDS LOG: the tests of one result file. A test that did not run did not pass, and
-# a run that ended badly without saying which test it was counts as one failure.
+# count_tests NAME STATUS RESULT SECONDS LOG: counts the tests of one result file. A test that did not run has failed. A
+# run that failed without naming a test counts as one failure.
 count_tests() {
   local all bad
   all=$(xml_figure "$3" tests)
@@ -66,8 +66,9 @@ count_tests() {
   fi
 }
 
-# run_program PROGRAM SEED LOG [wrapper]: a test program as one process, its tests in the order of the seed, which chooses
-# the cases of property tests too. Leaves beside the log how many tests passed and how many failed. One that breaks off without saying where counts as one failure.
+# run_program PROGRAM SEED LOG [wrapper]: runs a test program as one process. The seed chooses the order of its tests and
+# the cases of property tests. Writes the numbers of passed and failed tests beside the log. A program that breaks off
+# without naming a test counts as one failure.
 run_program() {
   local program=$1 seed=$2 log=$3 status all bad
   local result="${log%.log}.xml"
@@ -84,10 +85,10 @@ run_program() {
   echo "$((all - bad)) $bad" >"${log%.log}.counts"
 }
 
-# The test programs of a build, the largest first: they take longest.
+# Prints the test programs of a build, the largest first, because they take longest.
 test_programs() { find "$top/build/$1/tests" -name 'test_*' -type f -perm -u+x -printf '%s %p\n' | sort -rn | cut -d ' ' -f 2-; }
 
-# run_programs NAME PRESET SEED [wrapper]: the test programs of a build, as many at a time as there are processors.
+# run_programs NAME PRESET SEED [wrapper]: runs the test programs of a build, one per processor at a time.
 run_programs() {
   local name=$1 preset=$2 seed=$3 log part good=0 bad=0 counts began=$SECONDS
   log=$(log_of "$name")
@@ -108,7 +109,7 @@ run_programs() {
   note "$name" $good $bad $((SECONDS - began)) "$log"
 }
 
-# run_roads NAME PRESET [wrapper]: the tests that use the programs from outside, each in its own process, the longest
+# run_roads NAME PRESET [wrapper]: runs the tests that use the programs from outside, each in its own process, the longest
 # first. They wait for windows most of the time, so more of them run at once than there are processors.
 run_roads() {
   local name=$1 preset=$2 log result began=$SECONDS status
@@ -121,13 +122,13 @@ run_roads() {
   count_tests "$name" $status "$result" $((SECONDS - began)) "$log"
 }
 
-# run_tests NAME PRESET SEED [wrapper]: all tests of a build.
+# run_tests NAME PRESET SEED [wrapper]: runs all tests of a build.
 run_tests() {
   run_programs "$1" "$2" "$3" "${@:4}"
   run_roads "$1, from outside" "$2" "${@:4}"
 }
 
-# The last line, alone, and the exit status.
+# Prints the failed steps, the time and, in the last line, the totals. Returns the exit status.
 report_steps() {
   local name
   for name in "${failures[@]}"; do printf 'failed: %s\n' "$name"; done
