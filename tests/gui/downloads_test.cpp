@@ -91,7 +91,7 @@ class Downloading : public testing::Test {
 
 // ---- whole files ---------------------------------------------------------------------------------------------------
 
-TEST_F(Downloading, BringsAFileUnchanged) {
+TEST_F(Downloading, FetchesAFileUnchanged) {
   server.ServeFile("/file", "abc");
 
   const FetchOutcome ended = Fetch(To(server.Address("/file")));
@@ -102,7 +102,7 @@ TEST_F(Downloading, BringsAFileUnchanged) {
   EXPECT_THAT(FilesThere(), ElementsAre("file"));
 }
 
-TEST_F(Downloading, BringsLineEndsUnchanged) {
+TEST_F(Downloading, FetchesLineEndsUnchanged) {
   server.ServeFile("/file", "1.0.01\r\n");
 
   EXPECT_EQ(EndOf(server.Address("/file")), FetchEnd::Done);
@@ -110,7 +110,7 @@ TEST_F(Downloading, BringsLineEndsUnchanged) {
   EXPECT_EQ(Arrived(), "1.0.01\r\n");
 }
 
-TEST_F(Downloading, BringsAnEmptyFile) {
+TEST_F(Downloading, FetchesAnEmptyFile) {
   server.ServeFile("/file", "");
 
   const FetchOutcome ended = Fetch(To(server.Address("/file")));
@@ -120,7 +120,7 @@ TEST_F(Downloading, BringsAnEmptyFile) {
   EXPECT_EQ(Arrived(), "");
 }
 
-TEST_F(Downloading, BringsAFileOfUnknownLength) {
+TEST_F(Downloading, FetchesAFileOfUnknownLength) {
   server.Serve("/file", [](const WebRequest&, QTcpSocket& socket) {
     socket.write("HTTP/1.1 200 OK\r\nConnection: close\r\n\r\nuntil the line goes dead");
     socket.disconnectFromHost();
@@ -132,7 +132,7 @@ TEST_F(Downloading, BringsAFileOfUnknownLength) {
   EXPECT_THAT(progress, testing::Contains(testing::Pair(24U, 0U)));
 }
 
-TEST_F(Downloading, BringsALargeFileWhole) {
+TEST_F(Downloading, FetchesALargeFileCompletely) {
   const QByteArray bytes = BytesOf(12'345'678);
   server.ServeFile("/setup", bytes, "ETag: \"1\"");
 
@@ -146,7 +146,7 @@ TEST_F(Downloading, BringsALargeFileWhole) {
   EXPECT_TRUE(std::ranges::is_sorted(progress));
 }
 
-TEST_F(Downloading, BringsALargeFileOfUnknownLengthWhole) {
+TEST_F(Downloading, FetchesALargeFileOfUnknownLengthCompletely) {
   const QByteArray bytes = BytesOf(12'345'678);
   server.Serve("/file", [&](const WebRequest&, QTcpSocket& socket) {
     socket.write("HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n" + bytes);
@@ -374,7 +374,7 @@ class DownloadingSafely : public Downloading {
   QSslConfiguration usual_ = QSslConfiguration::defaultConfiguration();
 };
 
-TEST_F(DownloadingSafely, BringsAFileFromATrustedServer) {
+TEST_F(DownloadingSafely, FetchesAFileFromATrustedServer) {
   const QByteArray bytes = BytesOf(1'234'567);
   safe.ServeFile("/setup", bytes, "ETag: \"1\"");
 
