@@ -34,7 +34,7 @@ struct Bench {
   }
 
   test::RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
 };
 
 // Counts the instructions of `act`.

@@ -112,7 +112,7 @@ bool IsWithin(orby::Single value, orby::Single minimum, orby::Single maximum) {
 // No text in the file may prevent a start. Reads and writes all sections.
 void CheckSections(const std::string& bytes) {
   orby::test::RecordingPlatform platform;
-  orby::Program program(platform.Doors());
+  orby::Program program(platform.AsPlatform());
   program.session.folders.ProgramData = "/data/";
   program.session.IniFilePath = "/data/ORBY.INI";
   platform.files.files[program.session.IniFilePath] = bytes;

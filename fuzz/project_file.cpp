@@ -78,7 +78,7 @@ std::string DataLines(const std::string& saved) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   orby::test::RecordingPlatform platform;
-  Program program(platform.Doors());
+  Program program(platform.AsPlatform());
   program.project.CurrentFile = Path;
   platform.files.files[Path] = std::string(data, data + size);
   bool ok = false;

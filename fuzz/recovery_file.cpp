@@ -23,7 +23,7 @@ void ReadAsFile(const std::string& bytes) {
   const auto project = orby::ReadRecovery(bytes);
   if (!project) return;
   orby::test::RecordingPlatform platform;
-  orby::Program program(platform.Doors());
+  orby::Program program(platform.AsPlatform());
 
   orby::RestoreProject(program.project, *project);
 

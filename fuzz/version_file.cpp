@@ -22,7 +22,7 @@ constexpr std::string_view VersionCharacters = "0123456789.-_+abcdefghijklmnopqr
 // For any version file, the setup file is in the folder for downloads and on the server.
 void CheckPlaces(std::string_view version) {
   orby::test::RecordingPlatform platform;
-  orby::Program program(platform.Doors());
+  orby::Program program(platform.AsPlatform());
   program.session.UpdateServer = "https://updates.example.org";
   program.session.folders.Group = "/home/user/Documents/MyStrataDesk/";
   const std::string path = orby::SetupFilePath(program.session, version);

@@ -18,7 +18,7 @@ using testing::ElementsAre;
 
 struct CatalogSections : testing::Test {
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   Catalogs& catalogs = program.session.catalogs;
   DesignDefaults& defaults = program.session.defaults;
 

@@ -18,7 +18,7 @@ constexpr const char* IniPath = "/data/ORBY.INI";
 
 struct IniFile : testing::Test {
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
 
   std::string& Bytes() { return platform.files.files[IniPath]; }
 };
@@ -155,7 +155,7 @@ class SmallDisk : public MemoryFiles {
 TEST(IniFileOnAFullDisk, KeepsItsOldContents) {
   RecordingPlatform platform;
   SmallDisk disk(40);
-  const Platform doors = platform.DoorsWith(disk);
+  const Platform doors = platform.AsPlatformWith(disk);
   Program program(doors);
   disk.files[IniPath] = "[Version]\r\nINIFileVersion=201030\r\n";
 

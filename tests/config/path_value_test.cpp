@@ -56,7 +56,7 @@ struct RecentFilesOfTheConfiguration : testing::Test {
   }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
 };
 
 TEST_F(RecentFilesOfTheConfiguration, KeepTheirAccentsBesideANameThatIsNotUtf8) {
@@ -65,7 +65,7 @@ TEST_F(RecentFilesOfTheConfiguration, KeepTheirAccentsBesideANameThatIsNotUtf8) 
         "/designs/\xC3\xBC"
         "berbau.ORB");
   Enter(2, "/designs/\xE2\x82\xAC.ORB");
-  Program next(platform.Doors());
+  Program next(platform.AsPlatform());
 
   WriteDefaults(program, StoredSettings::FileMenu);
   ReadSettings(next, ReadIniFile(program, program.session.IniFilePath), StoredSettings::FileMenu);
@@ -94,7 +94,7 @@ TEST_F(RecentFilesOfTheConfiguration, ReadBackWithADataPathThatIsNotUtf8) {
   platform.files.folders.insert("/fl\xF6z");
   platform.files.files["/fl\xF6z/"] = {};
   program.session.settings.ExternalEditor = "/opt/\xC3\xBC";
-  Program next(platform.Doors());
+  Program next(platform.AsPlatform());
 
   WriteDefaults(program, StoredSettings::Settings);
   ReadSettings(next, ReadIniFile(program, program.session.IniFilePath), StoredSettings::Settings);

@@ -30,7 +30,7 @@ struct SettingsSections : testing::Test {
   }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   Settings& settings = program.session.settings;
   TextBrowseSettings& textBrowse = program.session.textBrowse;
   GraphSettings& graph = program.session.graph;

@@ -16,7 +16,7 @@ using testing::Pair;
 
 struct UserFolder : testing::Test {
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   Folders& folders = program.session.folders;
   MemoryFiles& files = platform.files;
 
@@ -119,7 +119,7 @@ struct Examples : testing::Test {
   }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   MemoryFiles& files = platform.files;
 };
 
@@ -194,7 +194,7 @@ TEST_F(Examples, ThatAreMissingAreNotAnError) {
 
 struct WorkingFolder : testing::Test {
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
 
   WorkingFolder() { program.session.folders.ProgramData = "/home/user/Documents/MyStrataDesk/ORBY/"; }
 };

@@ -189,7 +189,7 @@ TEST_F(TextFileCopy, ReportsAFailureOfEachStep) {
     RecordingPlatform failing;
     failing.files.files["/mine/notes.txt"] = "one\r\ntwo\r\n";
     failing.files.Fail(step, 61);
-    Program copying(failing.Doors());
+    Program copying(failing.AsPlatform());
     SetMessageTitles(copying, MessageModule::Options);
 
     EXPECT_FALSE(CopyTextFile(copying, "/mine/notes.txt", "/tmp/copy.txt"));
@@ -229,7 +229,7 @@ struct NamedFolders : MemoryFiles {
 
 struct Folders : FileBench {
   NamedFolders files;
-  Program elsewhere{platform.DoorsWith(files)};
+  Program elsewhere{platform.AsPlatformWith(files)};
 };
 
 TEST_F(Folders, TheTemporaryFolderEndsWithOneSeparator) {

@@ -34,7 +34,7 @@ TEST_F(ShowMessageBox, IsAddedToTheHistoryBeforeItIsShown) {
     Program* program = nullptr;
     std::string logWhenShown;
   } boxes;
-  Program asking(platform.DoorsWith(boxes));
+  Program asking(platform.AsPlatformWith(boxes));
   boxes.program = &asking;
 
   ShowMessage(asking, "Save changes?", BoxButtons::YesNoCancel, "Save");

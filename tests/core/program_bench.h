@@ -10,7 +10,7 @@ namespace orby::test {
 
 struct ProgramBench : testing::Test {
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
 };
 
 inline auto IsBox(const std::string& text, BoxStyle style, const std::string& title) {

@@ -73,7 +73,7 @@ TEST_F(CommandStep, RestoresTheNormalCursorBeforeTheUserIsAsked) {
     const RecordingWindows& windows;
     std::vector<bool> waitingWhenShown;
   } boxes(platform.windows);
-  Program watched(platform.DoorsWith(boxes));
+  Program watched(platform.AsPlatformWith(boxes));
 
   RunTrapped(watched, [this] {
     platform.windows.SetWaitCursor(true);

@@ -12,7 +12,7 @@ using testing::StartsWith;
 
 TEST(About, ShowsVersionRevisionAndCredits) {
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
 
   ShowAbout(program);
 

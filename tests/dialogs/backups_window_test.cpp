@@ -37,7 +37,7 @@ struct TheBackupsWindow : testing::Test {
 
   // Returns the bytes of a project file with this depth of cover.
   std::string DesignAt(Single depth) {
-    Program other(platform.Doors());
+    Program other(platform.AsPlatform());
     Begin(other);
     other.project.WorkParms.Place.DepthofCover = depth;
     return ProjectFileBytes(other.project);
@@ -70,7 +70,7 @@ struct TheBackupsWindow : testing::Test {
   }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   BackupsWindow backups{program};
 };
 

@@ -14,7 +14,7 @@ constexpr Integer On = 1;
 
 struct CatalogChoice : testing::Test {
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   Catalogs& catalogs = program.session.catalogs;
 
   CatalogChoice() { SetBuiltInCatalogs(catalogs); }

@@ -32,7 +32,7 @@ struct AConversion : testing::Test {
   }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   ConvertDialog dialog{program};
 };
 

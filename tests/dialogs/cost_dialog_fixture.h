@@ -85,7 +85,7 @@ struct ACostDialog : testing::Test {
   const std::string& Caption(std::string_view name) { return dynamic_cast<Label&>(*dialog.Find(name)).Caption(); }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   CostDialog dialog{program};
 };
 

@@ -16,7 +16,7 @@ using testing::SizeIs;
 
 struct ACurve : testing::Test {
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   Design design;
 
   ACurve() { design = EnglishDesign(); }

@@ -31,7 +31,7 @@ struct ADescriptionDialog : testing::Test {
   }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   DescriptionDialog dialog{program};
 };
 

@@ -17,7 +17,7 @@ struct ADisclaimer : testing::Test {
   ADisclaimer() { program.session.IniFilePath = IniPath; }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   Disclaimer dialog{program};
 };
 

@@ -27,7 +27,7 @@ struct AnEstimator : testing::Test {
   }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   EstimatorDialog dialog{program};
 };
 

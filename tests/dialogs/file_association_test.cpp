@@ -14,7 +14,7 @@ using testing::SizeIs;
 
 struct FileAssociation : testing::Test {
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
 };
 
 TEST_F(FileAssociation, AsksFirst) {
@@ -66,7 +66,7 @@ TEST_F(FileAssociation, ShowsTheWaitCursorUntilItIsDone) {
     RecordingWindows& windows;
     bool waited = false;
   } slow(platform.windows);
-  Program other(platform.DoorsWith(slow));
+  Program other(platform.AsPlatformWith(slow));
   platform.boxes.answers = {BoxResult::Yes};
 
   AssociateFileExtension(other);

@@ -24,7 +24,7 @@ struct AFontChoice : testing::Test {
   }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   FontDialog dialog{program, Present, Installed};
 };
 

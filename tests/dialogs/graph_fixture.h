@@ -22,7 +22,7 @@ struct GraphBench : testing::Test {
   const ChartSeries& Drawn() const { return window.graph1.Series().front(); }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   GraphWindow window{program};
 };
 

@@ -14,7 +14,7 @@ using testing::ElementsAre;
 
 struct AGraph : testing::Test {
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
 };
 
 TEST_F(AGraph, NamesItsAxesInEnglishUnits) {

@@ -378,7 +378,7 @@ TEST_F(GraphOfACurve, OffersARetryIfThePrinterFails) {
 
 TEST_F(GraphOfACurve, IsPrintedOnTheChosenPrinterAfterARetry) {
   JammedPrinter jammed;
-  Program other(platform.DoorsWith(jammed));
+  Program other(platform.AsPlatformWith(jammed));
   other.windows.curve = program.windows.curve;
   GraphWindow graph(other);
   graph.ShowCurve(1);

@@ -55,7 +55,7 @@ struct OptionsFixture : testing::Test {
   }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   OptionsDialog dialog{program};
 };
 

@@ -208,7 +208,7 @@ struct WatchingBoxes : MessageBoxes {
 
 TEST_F(ParameterChecks, ReportTheFaultBeforeGoingToIt) {
   WatchingBoxes boxes;
-  Program watched{platform.DoorsWith(boxes)};
+  Program watched{platform.AsPlatformWith(boxes)};
   SetBuiltInCatalogs(watched.session.catalogs);
   FileNew(watched, true, true);
   ParametersDialog opened(watched);

@@ -102,7 +102,7 @@ struct AParametersDialog : testing::Test {
   }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   ParametersDialog dialog{program};
 };
 

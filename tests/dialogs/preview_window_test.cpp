@@ -15,7 +15,7 @@ struct APreview : testing::Test {
   }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   PreviewWindow window{program};
 };
 

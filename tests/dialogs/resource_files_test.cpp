@@ -12,7 +12,7 @@ using testing::IsEmpty;
 
 struct ResourceTest : testing::Test {
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   ResourceFiles dialog{program};
 };
 

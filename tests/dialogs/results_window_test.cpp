@@ -41,7 +41,7 @@ struct AResultsWindow : testing::Test {
   std::string FirstSheet() const { return platform.printer.pages.empty() ? "" : platform.printer.pages.front(); }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   std::vector<InputDialog> reopened;
   ResultsWindow window{program};
 };
@@ -184,7 +184,7 @@ struct NotingClipboard : RecordingClipboard {
 
 TEST_F(AResultsWindow, ClearsTheClipboardBeforeItCopiesAPage) {
   NotingClipboard clipboard;
-  Program other(platform.DoorsWith(clipboard));
+  Program other(platform.AsPlatformWith(clipboard));
   other.session.OutBuf = program.session.OutBuf;
   ResultsWindow results(other);
   results.Open();
@@ -265,7 +265,7 @@ TEST_F(AResultsWindow, OffersARetryWithoutAPrinterAndStaysOpen) {
 
 TEST_F(AResultsWindow, PrintsOnTheChosenPrinterAfterARetry) {
   JammedPrinter jammed;
-  Program other(platform.DoorsWith(jammed));
+  Program other(platform.AsPlatformWith(jammed));
   other.session.OutBuf = program.session.OutBuf;
   other.windows.LastPage = 1;
   platform.boxes.answers = {BoxResult::Retry};

@@ -41,7 +41,7 @@ struct SettingsTest : testing::Test {
   std::string Written() { return platform.files.files[IniPath]; }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   int modified = 0;
   SettingsDialog dialog{program, [this] { ++modified; }};
 };

@@ -45,7 +45,7 @@ struct StoredRun {
   }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
 };
 
 RC_GTEST_PROP(ReportedDesignProperty, IsWhatTheDialogWouldPreview, ()) {
@@ -81,7 +81,7 @@ struct AShownDesign : testing::Test {
   Design Shown() { return AsShown(design, program.session.catalogs.BoltTableENG, program.session.catalogs); }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   Design& design = program.project.WorkParms;
 };
 

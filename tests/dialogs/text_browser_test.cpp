@@ -69,7 +69,7 @@ struct ABrowser : testing::Test {
   }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   TextBrowser browser{program};
 };
 
@@ -385,7 +385,7 @@ struct AnotherTry : ABrowser {
   }
 
   ActingBoxes boxes;
-  Program mended = ProgramOn(platform.DoorsWith(boxes));
+  Program mended = ProgramOn(platform.AsPlatformWith(boxes));
   TextBrowser again{mended};
 };
 
@@ -460,7 +460,7 @@ struct ALongFile : ABrowser {
   }
 
   LongFiles files;
-  Program longProgram = ProgramOn(platform.DoorsWith(files));
+  Program longProgram = ProgramOn(platform.AsPlatformWith(files));
   TextBrowser longBrowser{longProgram};
 };
 

@@ -23,7 +23,7 @@ struct ACalculator : testing::Test {
   ACalculator() { calculator.Open(); }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   UnitCalculator calculator{program};
 };
 

@@ -36,7 +36,7 @@ struct UpdateTest : testing::Test {
   void Fail(FetchEnd end) { LastAsked().events.Finished({end, {}}); }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   int ended = 0;
 };
 

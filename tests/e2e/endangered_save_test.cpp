@@ -62,13 +62,13 @@ class Session {
  private:
   RecordingPlatform platform_;
   DiskFiles disk_;
-  Program program_{platform_.DoorsWith(disk_)};
+  Program program_{platform_.AsPlatformWith(disk_)};
   MainWindow window_{program_};
 };
 
 std::string DesignAt(Single depth) {
   RecordingPlatform platform;
-  Program program(platform.Doors());
+  Program program(platform.AsPlatform());
   StartApart(program, nullptr);
   program.project.WorkParms.Place.DepthofCover = depth;
   return ProjectFileBytes(program.project);

@@ -88,7 +88,7 @@ TEST_F(Backups, KeepTheirOrderWhenTheClockIsSetBack) {
 TEST_F(Backups, OfTwoProgramsInTheSameSecondAreBothStored) {
   RecordingPlatform platform;
   StaleListing disk;
-  Program other(platform.DoorsWith(disk));
+  Program other(platform.AsPlatformWith(disk));
   other.session.folders.ProgramData = DataFolder;
   KeepBackup(other, ProjectPath, "of one program", BackupReason::Overwritten);
   disk.isStale = true;

@@ -61,7 +61,7 @@ struct OverwrittenOnDisk : testing::Test {
   TemporaryFolder folder;
   RecordingPlatform platform;
   DiskThatFills disk{folder.Path()};
-  Program program{platform.DoorsWith(disk)};
+  Program program{platform.AsPlatformWith(disk)};
   const std::string longDesign = std::string(11 * 1024 * 1024, 'x');
   std::vector<std::string> remarks;
 };
@@ -151,7 +151,7 @@ class Pipe : public MemoryFiles {
 TEST(OverwrittenPipe, IsNotReadBeforeItIsWrittenTo) {
   RecordingPlatform platform;
   Pipe pipe;
-  Program program(platform.DoorsWith(pipe));
+  Program program(platform.AsPlatformWith(pipe));
 
   const OverwrittenFile file(program, "/designs/pipe");
 

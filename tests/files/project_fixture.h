@@ -42,7 +42,7 @@ struct TestProject {
   }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
 };
 
 struct NewProject : TestProject {

@@ -148,7 +148,7 @@ class MendingBoxes : public MessageBoxes {
 TEST_P(SaveWithAFailedStep, StartsAgainOnRetry) {
   RecordingPlatform platform;
   MendingBoxes boxes(platform.files, GetParam().step);
-  Program program(platform.DoorsWith(boxes));
+  Program program(platform.AsPlatformWith(boxes));
   program.session.catalogs.StandSupports = {0, {"Four-point timber crib"}, {}};
   program.project.CurrentFile = ProjectPath;
   FileNew(program, false, true);

@@ -50,7 +50,7 @@ void PressLetter(const QString& caption) {
 
 }  // namespace
 
-Platform GuiPlatform::Doors(const RealDoors& real) {
+Platform GuiPlatform::AsPlatform(const RealDoors& real) {
   return {RealOr<MessageBoxes>(real.boxes, boxes),
           RealOr<FileSystem>(real.files, files),
           fileDialogs,
@@ -179,7 +179,7 @@ void Click(const QWidget& window, std::string_view name) {
   Settle();
 }
 
-GuiTest::GuiTest(const RealDoors& real) : program(platform.Doors(real)) {
+GuiTest::GuiTest(const RealDoors& real) : program(platform.AsPlatform(real)) {
   SetErrorHandler([this](const RuntimeError& error) { errors_.push_back(error.number()); });
   SetBuiltInCatalogs(program.session.catalogs);
   StartDesign(English);

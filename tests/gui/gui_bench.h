@@ -39,7 +39,7 @@ struct RealDoors {
 
 // The windows are real. Everything else has scripted answers, unless a test provides the real service.
 struct GuiPlatform : RecordingPlatform {
-  Platform Doors(const RealDoors& real = {});
+  Platform AsPlatform(const RealDoors& real = {});
 
   QtWindows screen;
 };

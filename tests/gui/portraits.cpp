@@ -117,7 +117,7 @@ void TakePages(const Photographer& photographer, QDialog& window, QTabWidget& ta
 // The program with an open example. Shows all windows one after the other.
 class Sitting {
  public:
-  Sitting(const Photographer& photographer, UnitSystem units) : photographer_(photographer), program_(Doors()) {
+  Sitting(const Photographer& photographer, UnitSystem units) : photographer_(photographer), program_(AsPlatform()) {
     SetBuiltInCatalogs(program_.session.catalogs);
     program_.session.settings.UnitsDefault = units;
     program_.session.settings.DisplayFontName = "Arial";
@@ -160,10 +160,10 @@ class Sitting {
   }
 
  private:
-  Platform Doors() {
+  Platform AsPlatform() {
     RealDoors real;
     real.boxes = &boxes_;
-    return platform_.Doors(real);
+    return platform_.AsPlatform(real);
   }
 
   // Takes the window without backups, then with a backup of each kind.

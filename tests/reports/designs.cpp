@@ -6,7 +6,7 @@
 
 namespace orby::test {
 
-Desk::Desk(UnitSystem units, StrengthBasis strengthMode) : program(machine.Doors()) {
+Desk::Desk(UnitSystem units, StrengthBasis strengthMode) : program(machine.AsPlatform()) {
   SetBuiltInCatalogs(program.session.catalogs);
   program.session.settings.UnitsDefault = units;
   program.session.options.BoltGradeAsUltimateDefault = strengthMode;

@@ -104,7 +104,7 @@ class EndangeredSave {
 
  private:
   std::string DesignAt(Single depth) {
-    Program other(platform_.Doors());
+    Program other(platform_.AsPlatform());
     StartApart(other, nullptr);
     other.project.WorkParms.Place.DepthofCover = depth;
     return ProjectFileBytes(other.project);

@@ -39,7 +39,7 @@ class MendingBoxes : public MessageBoxes {
 class SaveThatFails : public testing::TestWithParam<FailingStep> {
  protected:
   static Program Started(RecordingPlatform& platform, MessageBoxes& boxes) {
-    Program program(platform.DoorsWith(boxes));
+    Program program(platform.AsPlatformWith(boxes));
     program.session.folders.ProgramTemporary = TemporaryPath;
     program.session.IniFilePath = IniPath;
     program.session.options.ShowInputScreenOnLoad = 0;

@@ -184,7 +184,7 @@ TEST_F(FileMenu, AMissingFileIsOpenedOnRetryAfterItIsBack) {
   ActingBoxes boxes;
   boxes.answers = {BoxResult::Retry};
   boxes.meanwhile = [this] { platform.files.files["/designs/back.orb"] = DesignAt(610); };
-  Program retried = StartedProgram(platform.DoorsWith(boxes));
+  Program retried = StartedProgram(platform.AsPlatformWith(boxes));
   MainWindow other(retried);
   platform.fileDialogs.answers = {"/designs/back.orb"};
 

@@ -79,7 +79,7 @@ struct CursorWindows : RecordingWindows {
 
 TEST_F(InputMenu, ShowsTheWaitCursorWhileADialogIsLoaded) {
   CursorWindows windows;
-  Program waited = StartedProgram(platform.DoorsWith(windows));
+  Program waited = StartedProgram(platform.AsPlatformWith(windows));
   MainWindow other(waited);
   bool isWaiting = true;
   windows.onModal = [&](Form&) { isWaiting = windows.waitCursor; };
@@ -172,7 +172,7 @@ TEST_F(InputMenu, ReportsADescriptionThatCannotBeShownAndContinues) {
 
 TEST_F(InputMenu, ReportsAnOpenedDesignThatCannotBeShown) {
   program.session.options.ShowInputScreenOnLoad = 1;
-  Program other(platform.Doors());
+  Program other(platform.AsPlatform());
   StartApart(other, nullptr);
   other.project.WorkParms.Primary.Options = 2;
   platform.files.files[Panel3] = ProjectFileBytes(other.project);

@@ -29,7 +29,7 @@ inline Program StartedProgram(const Platform& doors) {
   return program;
 }
 
-inline Program StartedProgram(RecordingPlatform& platform) { return StartedProgram(platform.Doors()); }
+inline Program StartedProgram(RecordingPlatform& platform) { return StartedProgram(platform.AsPlatform()); }
 
 struct MainWindowTest : testing::Test {
   MainWindowTest() {
@@ -42,7 +42,7 @@ struct MainWindowTest : testing::Test {
 
   // Returns the bytes of a project file with this depth of cover.
   std::string DesignAt(Single depth) {
-    Program other(platform.Doors());
+    Program other(platform.AsPlatform());
     StartApart(other, nullptr);
     other.project.WorkParms.Place.DepthofCover = depth;
     return ProjectFileBytes(other.project);

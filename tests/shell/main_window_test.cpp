@@ -135,7 +135,7 @@ TEST_F(Menus, ConvertASavedProjectUnderANewName) {
 
 TEST_F(Menus, ShowTheConvertedProjectWhileTheMessageOfCompletionIsOpen) {
   ActingBoxes boxes;
-  Program behind = StartedProgram(platform.DoorsWith(boxes));
+  Program behind = StartedProgram(platform.AsPlatformWith(boxes));
   MainWindow windowBehind(behind);
   windowBehind.Open();
   windowBehind.Dropped(Panel3);

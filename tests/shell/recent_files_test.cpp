@@ -45,7 +45,7 @@ struct RecentFileList : testing::Test {
   }
 
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
   MenuForm form;
   int mode = 0;
 };

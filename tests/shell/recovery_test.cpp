@@ -33,7 +33,7 @@ struct UnsavedWork : testing::Test {
   }
 
   Program Started() {
-    Program program(platform.Doors());
+    Program program(platform.AsPlatform());
     program.session.folders.ProgramTemporary = Folder;
     StartApart(program, nullptr);
     return program;

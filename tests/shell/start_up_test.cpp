@@ -24,7 +24,7 @@ constexpr const char* IniPath = "/home/user/Documents/MyStrataDesk/ORBY/ORBY.INI
 
 struct StartUp : testing::Test {
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
 
   std::string& Ini() { return platform.files.files[IniPath]; }
 
@@ -79,7 +79,7 @@ TEST_F(StartUp, ReadsANewFileBackLikeAnyOther) {
 TEST_F(StartUp, HasTheSameListsOnTheFirstAndOnTheSecondRun) {
   StartProgram(program);
   const std::string written = Ini();
-  Program next(platform.Doors());
+  Program next(platform.AsPlatform());
 
   StartProgram(next);
 
@@ -114,7 +114,7 @@ TEST_F(StartUp, ReplacesAFileOfAnotherVersion) {
        {"INIFileVersion=201029\r\n", "INIFileVersion=201031\r\n", "INIFileVersion=0201030\r\n", ""}) {
     Ini() = std::string("[Version]\r\n") + version +
             "Extra=1\r\n[Settings]\r\nDefaultUnits=1\r\n[ORBYDefaults]\r\nDefaultENGDepthofCover=900\r\n";
-    Program next(platform.Doors());
+    Program next(platform.AsPlatform());
 
     StartProgram(next);
 
@@ -142,7 +142,7 @@ TEST_F(StartUp, TakesTheStandingSupportsFromTheBuiltInTableWhateverTheFileSays) 
   program.session.catalogs.StandSupports = {0, {"Can, 24in"}, {{{120, 1068}}}};
   EditIniFile(program, program.session.IniFilePath,
               [this](IniText& ini) { WriteCatalogSection(program.session, ini, StoredCatalogs::StandSupports); });
-  Program next(platform.Doors());
+  Program next(platform.AsPlatform());
 
   StartProgram(next);
 
@@ -157,7 +157,7 @@ TEST_F(StartUp, StartsWithTheDefaultOptionsEvenIfOthersAreStored) {
   StartProgram(program);
   program.session.options.BoltGradeAsUltimateDefault = StrengthBasis::Ultimate;
   WriteDefaults(program, StoredSettings::Options);
-  Program next(platform.Doors());
+  Program next(platform.AsPlatform());
 
   StartProgram(next);
 
@@ -213,7 +213,7 @@ TEST(StartOnADisk, UsesTheBuiltInSettingsIfAFolderHasTheNameOfTheFile) {
   RecordingPlatform platform;
   platform.userFolders.documents = home.Path();
   std::filesystem::create_directories(home.At("MyStrataDesk/ORBY/ORBY.INI/kept"));
-  Program program(platform.DoorsWith(files));
+  Program program(platform.AsPlatformWith(files));
   const auto workingFolder = std::filesystem::current_path();
 
   StartProgram(program);
@@ -232,7 +232,7 @@ TEST(StartOnADisk, KeepsTheLinkToAConfigurationFileOfAnotherVersion) {
   std::filesystem::create_directories(home.At("MyStrataDesk/ORBY"));
   home.Store("settings.ini", "[Version]\r\nINIFileVersion=201029\r\n");
   std::filesystem::create_symlink("../../settings.ini", home.At("MyStrataDesk/ORBY/ORBY.INI"));
-  Program program(platform.DoorsWith(files));
+  Program program(platform.AsPlatformWith(files));
   const auto workingFolder = std::filesystem::current_path();
 
   StartProgram(program);
@@ -257,7 +257,7 @@ TEST_F(StartUp, AsksForNoFontsIfOneIsAlreadyChosen) {
   platform.fonts.screen = {"Verdana", "Arial"};
   StartProgram(program);
   platform.fonts.asked = 0;
-  Program second(platform.Doors());
+  Program second(platform.AsPlatform());
 
   StartProgram(second);
 
@@ -282,7 +282,7 @@ TEST_F(StartUp, RecordsTheSystemsDecimalCommaAndUsesThePoint) {
 
 struct StartOfAScript : testing::Test {
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
 };
 
 TEST_F(StartOfAScript, BeginsANewEnglishDesignWithTheBuiltInCatalogs) {
@@ -322,7 +322,7 @@ TEST_F(StartOfAScript, BeginsTheNewDesignWithTheConfiguredDefaults) {
   program.session.defaults.DefaultENGDepthofCover = 725;
   WriteCatalogSection(program.session, configuration, StoredCatalogs::Defaults);
   WriteCatalogSection(program.session, configuration, StoredCatalogs::BoltParams);
-  Program next(platform.Doors());
+  Program next(platform.AsPlatform());
 
   StartApart(next, &configuration);
 
@@ -345,7 +345,7 @@ TEST_F(StartOfAScript, OffersOnlyTheEntriesThatTheConfigurationCounts) {
 
 struct CommandLineOfARun : testing::Test {
   RecordingPlatform platform;
-  Program program{platform.Doors()};
+  Program program{platform.AsPlatform()};
 };
 
 TEST_F(CommandLineOfARun, MayBeEmpty) {

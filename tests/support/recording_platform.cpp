@@ -187,6 +187,6 @@ RecordingPlatform::RecordingPlatform() = default;
 
 RecordingPlatform::~RecordingPlatform() = default;
 
-Platform RecordingPlatform::Doors() { return DoorsWith(); }
+Platform RecordingPlatform::AsPlatform() { return AsPlatformWith(); }
 
 }  // namespace orby::test

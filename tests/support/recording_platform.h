@@ -237,37 +237,37 @@ struct RecordingPlatform {
   ScriptedDownloads downloads;
   RecordingFileTypes fileTypes;
 
-  Platform Doors();
+  Platform AsPlatform();
   // Returns the platform with `others`, such as other message boxes or another file system, instead of its own.
   template <class... Others>
-  Platform DoorsWith(Others&... others) {
-    return {Door<MessageBoxes>(boxes, others...),
-            Door<FileSystem>(files, others...),
-            Door<FileDialogs>(fileDialogs, others...),
-            Door<Windows>(windows, others...),
-            Door<Fonts>(fonts, others...),
-            Door<Locale>(locale, others...),
-            Door<Clock>(clock, others...),
-            Door<UserFolders>(userFolders, others...),
-            Door<Clipboard>(clipboard, others...),
-            Door<Printer>(printer, others...),
-            Door<Documents>(documents, others...),
-            Door<HelpViewer>(help, others...),
-            Door<Downloads>(downloads, others...),
-            Door<FileTypes>(fileTypes, others...)};
+  Platform AsPlatformWith(Others&... others) {
+    return {Given<MessageBoxes>(boxes, others...),
+            Given<FileSystem>(files, others...),
+            Given<FileDialogs>(fileDialogs, others...),
+            Given<Windows>(windows, others...),
+            Given<Fonts>(fonts, others...),
+            Given<Locale>(locale, others...),
+            Given<Clock>(clock, others...),
+            Given<UserFolders>(userFolders, others...),
+            Given<Clipboard>(clipboard, others...),
+            Given<Printer>(printer, others...),
+            Given<Documents>(documents, others...),
+            Given<HelpViewer>(help, others...),
+            Given<Downloads>(downloads, others...),
+            Given<FileTypes>(fileTypes, others...)};
   }
 
  private:
   template <class Kind>
-  static Kind& Door(Kind& own) {
+  static Kind& Given(Kind& own) {
     return own;
   }
   template <class Kind, class First, class... Rest>
-  static Kind& Door(Kind& own, First& first, Rest&... rest) {
+  static Kind& Given(Kind& own, First& first, Rest&... rest) {
     if constexpr (std::is_base_of_v<Kind, First>) {
       return first;
     } else {
-      return Door<Kind>(own, rest...);
+      return Given<Kind>(own, rest...);
     }
   }
 };
