@@ -121,7 +121,7 @@ TEST_F(IniFile, SeveralKeysAreWrittenAtOnce) {
 
   EXPECT_EQ(Bytes(), "[FileMenu]\r\nMaxLastFiles=1\r\nLastFile1=one.ORB\r\n");
   EXPECT_THAT(platform.files.created, testing::SizeIs(1));
-  EXPECT_THAT(platform.files.files, testing::SizeIs(1)) << "nothing is left beside it";
+  EXPECT_THAT(platform.files.files, testing::SizeIs(1)) << "no temporary file is left";
 }
 
 // A disk with room for only `room` bytes of the file.

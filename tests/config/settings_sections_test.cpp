@@ -192,12 +192,12 @@ TEST_F(SettingsSections, AFontFlagIsMinusOneWhenItIsNotZero) {
   ReadKeys("DisplayFontBold=-1\r\nDisplayFontItalic=1\r\n");
 
   EXPECT_EQ(settings.DisplayFontBold, -1);
-  EXPECT_EQ(settings.DisplayFontItalic, -1) << "outside the range, so its minimum";
+  EXPECT_EQ(settings.DisplayFontItalic, -1) << "outside the range, so it is the minimum";
 }
 
 TEST_F(SettingsSections, ALengthOfTheHistoryOutsideItsRangeIsTheMinimum) {
   ReadKeys("MaxDisplaySize=2048\r\n");
-  EXPECT_EQ(settings.MaxDisplaySize, 4096) << "what a new file receives lies outside the range";
+  EXPECT_EQ(settings.MaxDisplaySize, 4096) << "the value in a new file is outside the range";
 
   ReadKeys("MaxDisplaySize=16384\r\n");
   EXPECT_EQ(settings.MaxDisplaySize, 16384);
@@ -534,7 +534,7 @@ TEST_F(SettingsSections, ANewFileHasItsVersionFirstAndEverySectionThatAStartRead
   EXPECT_THAT(names, ElementsAre("[Version]", "[Settings]", "[FileMenu]", "[TextBrowse]", "[Graph]", "[TULKOptions]",
                                  "[ORBYDefaults]", "[ORBYBoltParams]"));
   EXPECT_EQ(program.session.history.Text, "1. Saving default settings to file: /data/ORBY.INI\r\n");
-  EXPECT_EQ(platform.files.created.size(), 1U) << "a run that is cut off leaves no file with a part of it";
+  EXPECT_EQ(platform.files.created.size(), 1U) << "an interrupted run leaves no partial file";
 }
 
 }  // namespace

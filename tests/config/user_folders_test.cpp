@@ -69,7 +69,7 @@ TEST_F(UserFolder, IsTheProgramFolderWhenTheDesktopIsUnknown) {
   FindUserFolders(program);
 
   ExpectAllInTheProgramsFolder();
-  EXPECT_THAT(files.folders, ElementsAre("/program", "/tmp")) << "nothing is made";
+  EXPECT_THAT(files.folders, ElementsAre("/program", "/tmp")) << "no folder is made";
 }
 
 TEST_F(UserFolder, IsTheProgramFolderWhenItCannotBeMade) {
@@ -88,7 +88,7 @@ TEST_F(UserFolder, ThatExistsIsUsedWhenOthersCannotBeMade) {
   FindUserFolders(program);
 
   EXPECT_EQ(folders.Group, "/home/user/Documents/MyStrataDesk/");
-  EXPECT_EQ(folders.GroupTemporary, "/program/") << "this one alone falls back";
+  EXPECT_EQ(folders.GroupTemporary, "/program/") << "only this one is replaced";
   EXPECT_EQ(folders.ProgramData, "/home/user/Documents/MyStrataDesk/ORBY/");
   EXPECT_EQ(folders.ProgramTemporary, "/program/");
 }

@@ -192,7 +192,7 @@ TEST_F(AnOptionArray, HasACaptionAndAUnitForEachOption) {
 }
 
 TEST(OptionArrayChoice, IsNeverTwoOptions) {
-  EXPECT_TRUE(rc::check("one member is true, and it is the one clicked last", [] {
+  EXPECT_TRUE(rc::check("only the option that was clicked last is true", [] {
     const auto turns = *rc::gen::nonEmpty(rc::gen::container<std::vector<int>>(rc::gen::inRange(0, 4)));
     PlainForm form;
     OptionArray options(form, "optOptions", {{"A"}, {"B"}, {"C"}, {"D"}});

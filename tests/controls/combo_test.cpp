@@ -234,7 +234,7 @@ TEST_F(ACombo, WithoutAHandlerStillChangesItsText) {
 }
 
 TEST(ComboText, AgreesWithTheSelectionAfterAnyTyping) {
-  EXPECT_TRUE(rc::check("a selected item is the first that equals the text; without one the text is no item", [] {
+  EXPECT_TRUE(rc::check("the first item equal to the text is selected, if there is one", [] {
     const auto number = rc::gen::map(rc::gen::inRange(0, 6), [](int digit) { return std::to_string(digit); });
     const auto list = *rc::gen::container<std::vector<std::string>>(number);
     const auto typed = *rc::gen::nonEmpty(rc::gen::container<std::vector<std::string>>(number));

@@ -105,7 +105,7 @@ TEST(AConvertedValue, BeyondTheRangeOfADoubleIsMissing) {
 
   EXPECT_THAT(stress, ElementsAre(Optional(1E306), Optional(1E303), Optional(DoubleEq(1.44E308)), Eq(std::nullopt),
                                   Eq(std::nullopt)))
-      << "the megapascals are reached by way of the pascals";
+      << "megapascals are computed from pascals";
 }
 
 TEST(AConvertedValue, IsUnchangedEvenWhenTheFirstUnitIsMissing) {

@@ -209,7 +209,7 @@ TEST_P(FailedSave, RestoresTheFileAndReportsWhereItsBackupIs) {
       project.platform.boxes.Texts(),
       ElementsAre("Error occurred: Disk full (61)",
                   StartsWith("/designs/panel3.orb is as it was before. A copy of it is kept in /data/Backups/")));
-  EXPECT_THAT(project.OtherFiles(), ElementsAre(ProjectPath)) << "no temporary file stays";
+  EXPECT_THAT(project.OtherFiles(), ElementsAre(ProjectPath)) << "no temporary file is left";
 }
 
 INSTANTIATE_TEST_SUITE_P(Steps, FailedSave,
@@ -364,7 +364,7 @@ TEST(ProjectSave, WithoutRoomForABackupSucceedsAndReportsItOnce) {
   EXPECT_THAT(project.platform.boxes.Texts(),
               ElementsAre("The old contents of /designs/panel3.orb could not be kept in /data/Backups/."));
   EXPECT_THAT(project.program.session.history.Text, EndsWith(" could not be kept in /data/Backups/.\r\n"))
-      << "but noted again";
+      << "the history has it again";
   EXPECT_THAT(project.KeptBytes(), IsEmpty());
   EXPECT_THAT(project.File(), HasSubstr("\r\n820\r\n"));
 }

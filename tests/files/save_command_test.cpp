@@ -125,7 +125,7 @@ TEST_P(SaveWithAFailedStep, ShowsTheErrorAndEndsOnCancel) {
   EXPECT_EQ(project.platform.boxes.shown.front().style, BoxButtons::RetryCancel);
   EXPECT_FALSE(project.program.project.FileSaved);
   EXPECT_FALSE(project.platform.windows.waitCursor);
-  EXPECT_FALSE(project.platform.files.files.contains(ProjectPath)) << "nothing was there before";
+  EXPECT_FALSE(project.platform.files.files.contains(ProjectPath)) << "there was no file before";
 }
 
 // Message boxes whose user makes room on the disk before the answer.

@@ -50,14 +50,14 @@ TEST(TheLostLine, IsAMarkerOfTheFile) {
   EXPECT_EQ(LostIn("Panel 3", "Belt entry\r\n##EndDesc##"), "##EndDesc##");
   EXPECT_EQ(LostIn("##EndDesc##", "Belt entry"), "##EndDesc##");
   EXPECT_EQ(LostIn("##StartDesc##", "Belt entry"), "##StartDesc##");
-  EXPECT_EQ(LostIn("Panel 3,##EndDesc##", "Belt entry"), "Panel 3,##EndDesc##") << "a comma starts a line";
+  EXPECT_EQ(LostIn("Panel 3,##EndDesc##", "Belt entry"), "Panel 3,##EndDesc##") << "a comma begins a new line";
   EXPECT_THAT(std::string(LineThatWouldNotComeBack({"", "##EndDesc##"})->Reason), HasSubstr("a mark of its own"));
 }
 
 TEST(TheLostLine, ContainsAComma) {
   EXPECT_EQ(LostIn("Panel 3", "Belt entry, south"), "Belt entry, south");
   EXPECT_EQ(LineThatWouldNotComeBack({"", "Belt entry, south"})->Reason, "A comma splits the line in two there.");
-  EXPECT_EQ(LostIn("Panel 3, north", "Belt entry"), "none") << "the title is put together again";
+  EXPECT_EQ(LostIn("Panel 3, north", "Belt entry"), "none") << "the parts of the title are joined";
 }
 
 TEST(ShiftedTexts, AreRestoredAfterOpening) {

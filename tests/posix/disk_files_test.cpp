@@ -436,7 +436,7 @@ TEST_F(Disk, MarksAFileForOneProgramAtATime) {
   const auto second = files.TryMark(At("run.lock"));
 
   EXPECT_NE(first, nullptr);
-  EXPECT_EQ(second, nullptr) << "the first still lives";
+  EXPECT_EQ(second, nullptr) << "the first mark still exists";
 
   first.reset();
 

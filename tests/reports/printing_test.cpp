@@ -153,7 +153,7 @@ TEST(Printing, StartsANewSheetForHeadingsThatJustFillItWithTheLineBelowThem) {
   EXPECT_EQ(TextOn(filled[1]).back(), "CMRR");
 
   const auto overfilled = PrintSheets(desk.program, "line 1\r\n" + headings + "[Panel]\r\nCMRR\r\n");
-  EXPECT_EQ(TextOn(overfilled[0]).at(1), "[Panel]") << "no sheet holds them all";
+  EXPECT_EQ(TextOn(overfilled[0]).at(1), "[Panel]") << "they do not fit on one sheet";
 }
 
 TEST(Printing, FillsItsSheetsWithATextOfOnlyHeadings) {
