@@ -237,7 +237,7 @@ std::string LeadingDecimal(std::string_view text) {
 }
 
 // Returns true if a number outside the range of a Double is too large, and false if it is too small. It is too large
-// when its first digit other than 0 is a whole digit.
+// when it is 1 or more.
 bool IsTooLarge(std::string_view number) {
   const std::size_t exponentMark = std::min(number.find('e'), number.size());
   const std::string_view mantissa = number.substr(0, exponentMark);

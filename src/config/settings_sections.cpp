@@ -50,7 +50,7 @@ using SettingsRow = IniRow<Settings>;
 constexpr std::array SettingsRows{
     SettingsRow{"DefaultUnits", &Settings::UnitsDefault, OnOff},
     SettingsRow{"DisplayHistoryWin", &Settings::DisplayHistoryWin, OnOff},
-    // The initial length of the program is below the range, so that it becomes 4096 when the first file is read.
+    // The initial length of the history is below the range, so that it becomes 4096 when the first file is read.
     SettingsRow{"MaxDisplaySize", &Settings::MaxDisplaySize, IniRange{4096, 16384}},
     SettingsRow{"DisplayFontName", &Settings::DisplayFontName, {}, {}, AcceptedFont},
     SettingsRow{"DisplayFontSize", &Settings::DisplayFontSize, FontSize},
