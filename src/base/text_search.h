@@ -18,6 +18,7 @@ struct TextMatch {
 // place. Ignores the case of the letters that Windows-1252 has. The bytes may be UTF-8 or Windows-1252.
 class TextSearch {
  public:
+  enum class Encoding { Utf8, Windows1252 };
   enum class Direction { Forward, Backward };
 
   // Searches `length` bytes for `wanted`, which is UTF-8. A forward search begins at `from`, a backward search before
@@ -36,7 +37,7 @@ class TextSearch {
   // The wanted text in one encoding, in lower case.
   struct Spelling {
     std::string bytes;
-    bool isUtf8;
+    Encoding encoding;
   };
 
   static bool MatchesAt(std::string_view bytes, std::size_t place, const Spelling& spelling);

@@ -22,7 +22,7 @@ std::string Below(const std::string& folder, std::string_view name) {
 
 bool IsThere(FileSystem& files, const std::string& folder) {
   bool found = false;
-  return Succeeds([&] { found = files.Finds(folder, true); }) && found;
+  return Succeeds([&] { found = files.Finds(folder); }) && found;
 }
 
 // Returns the folder and makes it when it is missing. Returns the folder of the program when it cannot be made.
@@ -33,7 +33,7 @@ std::string MadeOrProgramFolder(Program& program, const std::string& folder) {
 }
 
 void CopyMissing(FileSystem& files, const std::string& source, const std::string& target) {
-  if (files.Finds(target, true)) return;
+  if (files.Finds(target)) return;
   TryWriteWhole(files, target, files.ReadFile(source));
 }
 

@@ -45,18 +45,19 @@ class LineCopier {
 
 bool FileExists(Program& program, const std::string& path) {
   try {
-    return program.platform.files.Finds(path, false);
+    return program.platform.files.FindsFile(path);
   } catch (const RuntimeError&) {
     return false;
   }
 }
 
-bool ValidPath(Program& program, const std::string& path, bool quiet) {
+bool ValidPath(Program& program, const std::string& path, Telling telling) {
   try {
-    return program.platform.files.Finds(path, true);
+    return program.platform.files.Finds(path);
   } catch (const RuntimeError& error) {
     if (ErrorDecision(program, error, Telling::Silent) == Decision::GiveUp) {
-      if (!quiet) ShowMessage(program, "Invalid path: " + path, BoxButtons::Ok, program.windows.titles.ErrorTitle);
+      if (telling == Telling::Loud)
+        ShowMessage(program, "Invalid path: " + path, BoxButtons::Ok, program.windows.titles.ErrorTitle);
       return false;
     }
     ShowMessage(program, "Internal Error in ValidPath Function: Contact Developer", BoxButtons::Ok,
@@ -65,13 +66,13 @@ bool ValidPath(Program& program, const std::string& path, bool quiet) {
   }
 }
 
-std::string FileNameFromPath(Program& program, const std::string& path, bool stripExtension) {
+std::string FileNameFromPath(Program& program, const std::string& path, FileNameForm form) {
   if (EndsInSeparator(path)) {
     ShowMessage(program, "Error in filename: " + path, BoxButtons::Ok, program.windows.titles.ErrorTitle);
     return path;
   }
   const std::string_view name = NameBehindSeparator(path);
-  return std::string(stripExtension ? WithoutExtension(name) : name);
+  return std::string(form == FileNameForm::WithoutExtension ? WithoutExtension(name) : name);
 }
 
 bool CopyTextFile(Program& program, const std::string& source, const std::string& target) {
@@ -98,7 +99,7 @@ std::string GetTempDirectory(FileSystem& files) { return WithSeparator(LongPathN
 
 std::string LongPathName(FileSystem& files, const std::string& path) {
   const std::string name(WithoutSeparator(path));
-  return files.Finds(name, true) ? name : std::string();
+  return files.Finds(name) ? name : std::string();
 }
 
 std::string AppDirectory(FileSystem& files) { return WithSeparator(Trim(files.ProgramFolder())); }

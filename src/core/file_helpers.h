@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "core/messages.h"
 #include "core/program.h"
 
 namespace orby {
@@ -11,13 +12,14 @@ namespace orby {
 bool FileExists(Program& program, const std::string& path);
 
 // Returns true if the path is a file or a folder. When the search fails with an error that ends a command, shows
-// "Invalid path: " unless `quiet`, and returns false. When it fails with another error, shows an internal error and
-// returns true.
-bool ValidPath(Program& program, const std::string& path, bool quiet);
+// "Invalid path: " if `telling` is Loud, and returns false. When it fails with another error, shows an internal error
+// and returns true.
+bool ValidPath(Program& program, const std::string& path, Telling telling);
 
-// Returns the name after the last separator, without its extension on request. Shows an error if the path ends in a
-// separator, and returns it unchanged.
-std::string FileNameFromPath(Program& program, const std::string& path, bool stripExtension);
+enum class FileNameForm { Whole, WithoutExtension };
+
+// Returns the name after the last separator. Shows an error if the path ends in a separator, and returns it unchanged.
+std::string FileNameFromPath(Program& program, const std::string& path, FileNameForm form);
 
 // Copies a text file. Each line of the copy ends with CR LF. Returns true if it succeeded, otherwise shows an error.
 bool CopyTextFile(Program& program, const std::string& source, const std::string& target);

@@ -13,7 +13,9 @@ struct Version {
 
 inline constexpr Version ProgramVersion{1, 0, 0};
 
-// Returns "1.0.00", or "1000" without points. The revision has at least two digits.
-std::string VersionText(bool withPoints, Version version = ProgramVersion);
+// Returns "1.0.00". The revision has at least two digits.
+std::string VersionText(Version version = ProgramVersion);
+// Returns "1000", the same without points.
+std::string VersionDigits(Version version = ProgramVersion);  // a helper that nothing calls today
 
 }  // namespace orby

@@ -30,10 +30,9 @@ std::string RevisionDate() {
 
 void ShowAbout(Program& program) {
   const std::string end(LineEnd);
-  ShowMessage(
-      program,
-      "Version: " + VersionText(true) + end + "Revision Date: " + RevisionDate() + end + end + std::string(Credits),
-      BoxButtons::Ok, "About the " + std::string(ProgramTitle) + " Program");
+  ShowMessage(program,
+              "Version: " + VersionText() + end + "Revision Date: " + RevisionDate() + end + end + std::string(Credits),
+              BoxButtons::Ok, "About the " + std::string(ProgramTitle) + " Program");
 }
 
 }  // namespace orby

@@ -24,7 +24,7 @@ template <class Choice>
 void Choose(Program& program, Choice& choice, Choice chosen) {
   if (chosen == choice) return;
   choice = chosen;
-  FileNew(program, false, false);
+  FileNew(program, Keeping::NameAndUnits);
 }
 
 }  // namespace

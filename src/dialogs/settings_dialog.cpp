@@ -141,7 +141,7 @@ bool SettingsDialog::Check() { return CheckPath() && CheckHistorySize() && Check
 bool SettingsDialog::CheckPath() {
   // An empty path means the root of the file system.
   Text2.SetText(WithSeparator(Text2.Text()));
-  if (ValidPath(program_, Text2.Text(), true)) return true;
+  if (ValidPath(program_, Text2.Text(), Telling::Silent)) return true;
   ShowMessage(program_, "Invalid Path for Data Files", BoxButtons::Ok, program_.windows.titles.ErrorTitle);
   RequestFocus(Text2);
   return false;

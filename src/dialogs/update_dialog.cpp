@@ -28,7 +28,7 @@ int WholeNumber(std::string_view text) { return static_cast<int>(TextValue(text)
 Date ReleaseDate() { return {WholeNumber(ReleaseYear), WholeNumber(ReleaseMonth), WholeNumber(ReleaseDay)}; }
 
 std::string InfoText() {
-  return "Current Program Version: " + VersionText(true) + " for " + std::string(ProgramTitle) + std::string(LineEnd) +
+  return "Current Program Version: " + VersionText() + " for " + std::string(ProgramTitle) + std::string(LineEnd) +
          "Current Revision Date: " + DayMonthYear(ReleaseDate());
 }
 
@@ -129,7 +129,7 @@ bool UpdateDialog::Accept(const VersionAnswer& answer) {
   offered_ = answer.offered;
   checkFailed_ = false;
   cmdInstall.SetEnabled(true);
-  lblLastVer.SetCaption("Server Version: " + offered_->version + " / Current Version: " + VersionText(true));
+  lblLastVer.SetCaption("Server Version: " + offered_->version + " / Current Version: " + VersionText());
   return true;
 }
 
@@ -171,8 +171,11 @@ void UpdateDialog::FetchSetup() {
   };
   SetBusy(true);
   lblStatus.SetCaption("Downloading " + SetupFileAddress(program_.session, offered_->version));
-  fetch_ = program_.platform.downloads.Start(
-      {SetupFileAddress(program_.session, offered_->version), path, MostSetupBytes, true}, std::move(events));
+  fetch_ = program_.platform.downloads.Start({.address = SetupFileAddress(program_.session, offered_->version),
+                                              .path = path,
+                                              .mostBytes = MostSetupBytes,
+                                              .resumes = true},
+                                             std::move(events));
   if (fetch_) return;
   SetBusy(false);
   SetupArrived(path, {FetchEnd::NoService, {}});

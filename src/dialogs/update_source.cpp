@@ -75,7 +75,7 @@ std::optional<OfferedVersion> ReadVersionFile(std::string_view bytes) {
   return offered;
 }
 
-bool IsNewer(const OfferedVersion& offered) { return offered.version > VersionText(true); }
+bool IsNewer(const OfferedVersion& offered) { return offered.version > VersionText(); }
 
 bool HasUpdateServer(const Session& session) { return !session.UpdateServer.empty(); }
 

@@ -206,7 +206,7 @@ std::optional<std::string> StoreEntry(Program& program, const std::string& proje
   entry.Number = entries.empty() ? 0 : entries.front().Number;
   const auto isTaken = [&](const std::string& path) {
     bool isFound = false;
-    return Succeeds([&] { isFound = files.Finds(path, true); }) && isFound;
+    return Succeeds([&] { isFound = files.Finds(path); }) && isFound;
   };
   // Another program may have written its entry since the folder was listed.
   do {

@@ -119,8 +119,8 @@ void ConvertProject(Program& program, UnitSystem target) {
     field = target == Metric ? Rounded(ToMetric(row.Quantity, value), row.MetricDecimals)
                              : Rounded(ToEnglish(row.Quantity, value), row.EnglishDecimals);
   }
-  program.project.CurrentFile =
-      (target == Metric ? "Metric_" : "English_") + FileNameFromPath(program, program.project.CurrentFile, false);
+  program.project.CurrentFile = (target == Metric ? "Metric_" : "English_") +
+                                FileNameFromPath(program, program.project.CurrentFile, FileNameForm::Whole);
   program.project.WorkParms.Units = target;
 }
 

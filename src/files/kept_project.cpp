@@ -28,7 +28,7 @@ std::optional<UnsavedProject> ReadProjectFile(const Program& program, std::strin
     const auto format = FormatOf(reader);
     if (!format) return std::nullopt;
     Program beside = SeparateProgram(program);
-    FileNew(beside, false, true);
+    FileNew(beside, Keeping::Name);
     beside.project.FileVersion = *format;
     ReadProject(beside.project, reader);
     beside.project.CurrentFile = name;

@@ -139,12 +139,12 @@ void FillConfiguredValues(Program& program) {
 
 }  // namespace
 
-void FileNew(Program& program, bool untitled, bool resetUnits) {
-  if (untitled) {
+void FileNew(Program& program, Keeping keeping) {
+  if (keeping == Keeping::Nothing) {
     program.project.CurrentFile = UntitledName;
     program.project.LastFile = {};
   }
-  if (resetUnits) {
+  if (keeping != Keeping::NameAndUnits) {
     program.project.WorkParms.Units = program.session.settings.UnitsDefault;
     program.project.WorkParms.Basis = program.session.options.BoltGradeAsUltimateDefault;
   }

@@ -5,10 +5,12 @@
 
 namespace orby {
 
-// Sets WorkParms to the values of a new design in the unit system of the project, clears title, description and report
-// pages, and sets FileSaved and FileEmpty. `untitled` also removes the file name. `resetUnits` first resets the unit
-// system and the strength mode to the user's defaults. Does not change the choice of the estimator, the table choice,
-// the computed fields and WorkParmsCopy.
-void FileNew(Program& program, bool untitled, bool resetUnits);
+// What a new design keeps of the previous project. The units are the unit system and the strength basis.
+enum class Keeping { Nothing, Name, NameAndUnits };
+
+// Sets WorkParms to the values of a new design, clears title, description and report pages, and sets FileSaved and
+// FileEmpty. The name becomes UntitledName if it is not kept, the units become the user's defaults if they are not kept.
+// Does not change the choice of the estimator, the table choice, the computed fields and WorkParmsCopy.
+void FileNew(Program& program, Keeping keeping);
 
 }  // namespace orby

@@ -102,7 +102,7 @@ void OverwrittenFile::MoveBeside() {
   const std::string target = files.BehindLinks(path_);
   for (int number = 1; number <= MostNames; ++number) {
     const std::string name = target + ".old" + (number == 1 ? std::string() : NumberText(number));
-    if (files.Finds(name, true)) continue;
+    if (files.Finds(name)) continue;
     files.RenameFile(target, name);
     beside_ = name;
     if (Succeeds([&] { files.MakeFileLike(target, name); })) return;

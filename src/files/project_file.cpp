@@ -30,7 +30,7 @@ void FileOpen(Program& program, bool& ok) {
   ok = false;
   program.platform.windows.SetWaitCursor(true);
   program.project.LastFile = {};
-  FileNew(program, false, true);
+  FileNew(program, Keeping::Name);
   AddHistoryLine(program, "Opening: " + program.project.CurrentFile);
 
   const auto file = program.platform.files.OpenFile(program.project.CurrentFile);
@@ -39,8 +39,7 @@ void FileOpen(Program& program, bool& ok) {
     ReadRest(*file, bytes);
     ReadProject(program.project, ItemReader(bytes));
     // A later change of a longer file is not detected.
-    if (bytes.size() <= LargestBackup)
-      program.project.LastFile = {program.project.CurrentFile, std::move(bytes), false};
+    if (bytes.size() <= LargestBackup) program.project.LastFile = {program.project.CurrentFile, std::move(bytes)};
     program.project.FileSaved = true;
     program.project.FileEmpty = false;
     program.project.UnitsLocked = true;

@@ -21,7 +21,7 @@ bool HasName(const Program& program) {
 FileQuestion ProjectFileQuestion(Program& program, const std::string& project) {
   const Settings& settings = program.session.settings;
   FileQuestion question;
-  if (!Trim(project).empty()) question.fileName = FileNameFromPath(program, project, false);
+  if (!Trim(project).empty()) question.fileName = FileNameFromPath(program, project, FileNameForm::Whole);
   question.folder = WithoutSeparator(settings.DataPath);
   const std::string pattern = "*." + settings.FileExtension;
   question.filters = {{std::string(ProgramTitle) + " (" + pattern + ")", pattern}, {"All Files (*.*)", "*"}};
@@ -36,8 +36,8 @@ void AskFileName(Program& program, FileDialogMode mode) {
       mode == FileDialogMode::Open ? dialogs.AskOpenName(question) : dialogs.AskSaveName(question);
 }
 
-bool FileMenuSave(Program& program, bool saveAs) {
-  if (saveAs || !HasName(program)) {
+bool FileMenuSave(Program& program, SaveCommand command) {
+  if (command == SaveCommand::SaveAs || !HasName(program)) {
     const auto outcome = RunTrapped(program, [&] { AskFileName(program, FileDialogMode::Save); });
     if (outcome != StepOutcome::Done) return false;
   }
@@ -59,7 +59,7 @@ bool MayLeavePreviousFile(Program& program) {
     return true;
   }
   std::string fileToOpen = std::exchange(program.project.CurrentFile, program.project.PreviousFile);
-  const bool isSaved = FileMenuSave(program, false);
+  const bool isSaved = FileMenuSave(program, SaveCommand::Save);
   program.project.CurrentFile = isSaved ? std::move(fileToOpen) : program.project.PreviousFile;
   return isSaved;
 }

@@ -16,9 +16,11 @@ FileQuestion ProjectFileQuestion(Program& program, const std::string& project);
 // folder. Throws RuntimeError 32755 when the user cancels.
 void AskFileName(Program& program, FileDialogMode mode);
 
+enum class SaveCommand { Save, SaveAs };
+
 // Saves the project. Asks for a name first when it has none, or for Save As. Returns false if the user cancelled or if
 // the save failed; a failure has been shown to the user.
-bool FileMenuSave(Program& program, bool saveAs);
+bool FileMenuSave(Program& program, SaveCommand command);
 
 // Returns true if CurrentFile may replace the open project, whose file is PreviousFile. Asks about unsaved changes
 // first: saves them to PreviousFile, or stores them as a backup. Returns false after a save that is cancelled or fails;

@@ -37,12 +37,16 @@ class FileMark {
   virtual ~FileMark() = default;
 };
 
+enum class Found { Nothing, File, Folder };
+
 class FileSystem {
  public:
   virtual ~FileSystem() = default;
 
-  // Returns true if the path is a file, or a folder when `foldersToo` is true.
-  virtual bool Finds(const std::string& path, bool foldersToo) = 0;
+  // Returns what the path is.
+  virtual Found Find(const std::string& path) = 0;
+  bool Finds(const std::string& path) { return Find(path) != Found::Nothing; }
+  bool FindsFile(const std::string& path) { return Find(path) == Found::File; }
   // Returns all bytes of the file.
   virtual std::string ReadFile(const std::string& path) = 0;
   // Opens the file for reading.

@@ -97,16 +97,16 @@ std::filesystem::path FolderAbove(const std::filesystem::path& folder) {
 
 DiskFiles::DiskFiles(std::string programFolder) : programFolder_(std::move(programFolder)) {}
 
-bool DiskFiles::Finds(const std::string& path, bool foldersToo) {
-  if (path.empty()) return false;
+Found DiskFiles::Find(const std::string& path) {
+  if (path.empty()) return Found::Nothing;
   CheckName(path);
   std::error_code problem;
   const auto status = std::filesystem::status(path, problem);
-  if (status.type() == std::filesystem::file_type::not_found) return false;
+  if (status.type() == std::filesystem::file_type::not_found) return Found::Nothing;
   // The path has a folder that may not be entered, which is error 75 and not error 70 of a file that may not be used.
   if (problem == std::errc::permission_denied) throw RuntimeError(error_number::PathFileAccess);
   if (problem) throw FileError(problem.value(), path);
-  return foldersToo || status.type() != std::filesystem::file_type::directory;
+  return status.type() == std::filesystem::file_type::directory ? Found::Folder : Found::File;
 }
 
 std::string DiskFiles::ReadFile(const std::string& path) {

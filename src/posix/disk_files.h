@@ -9,7 +9,7 @@ class DiskFiles : public FileSystem {
  public:
   explicit DiskFiles(std::string programFolder);
 
-  bool Finds(const std::string& path, bool foldersToo) override;
+  Found Find(const std::string& path) override;
   std::string ReadFile(const std::string& path) override;
   std::unique_ptr<InputFile> OpenFile(const std::string& path) override;
   std::uint64_t FileLength(const std::string& path) override;

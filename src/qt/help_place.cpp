@@ -19,17 +19,20 @@ std::array<Strip, 4> StripsBeside(const QRect& screen, const QRect& thing) {
            {{screen.topLeft(), QPoint(screen.right(), thing.top() - 1)}, Qt::AlignHCenter | Qt::AlignBottom}}};
 }
 
+// Where in the room the window is: next to the thing, or as far from it as can be.
+enum class Side { Near, Far };
+
 int Area(const QSize& size) { return size.width() * size.height(); }
 
 // Returns a null rectangle if the window does not fit beside `thing`.
-QRect PlaceBeside(const QRect& thing, const QRect& screen, QSize wanted, QSize least, bool awayFromIt) {
+QRect PlaceBeside(const QRect& thing, const QRect& screen, QSize wanted, QSize least, Side side) {
   QRect best;
   for (const Strip& strip : StripsBeside(screen, thing)) {
     const QSize size = wanted.boundedTo(strip.room.size());
     if (size.width() < least.width() || size.height() < least.height() || Area(size) <= Area(best.size())) continue;
     best = QRect(QPoint(), size);
-    const bool toTheLeft = strip.near.testFlag(Qt::AlignLeft) != awayFromIt;
-    const bool toTheTop = strip.near.testFlag(Qt::AlignTop) != awayFromIt;
+    const bool toTheLeft = strip.near.testFlag(Qt::AlignLeft) != (side == Side::Far);
+    const bool toTheTop = strip.near.testFlag(Qt::AlignTop) != (side == Side::Far);
     const bool isColumn = !strip.near.testFlag(Qt::AlignHCenter);
     if (isColumn) {
       toTheLeft ? best.moveLeft(strip.room.left()) : best.moveRight(strip.room.right());
@@ -48,12 +51,12 @@ QRect HelpPlace(const HelpNeighbours& neighbours, QSize wanted, QSize least) {
   const QRect& screen = neighbours.screen;
   wanted = wanted.boundedTo(screen.size());
   if (!neighbours.dialog.isNull()) {
-    const QRect beside = PlaceBeside(neighbours.dialog, screen, wanted, least, false);
+    const QRect beside = PlaceBeside(neighbours.dialog, screen, wanted, least, Side::Near);
     if (!beside.isNull()) return beside;
   }
   if (!neighbours.field.isNull()) {
     // As far away as possible, because the user also needs the surroundings of the field.
-    const QRect beside = PlaceBeside(neighbours.field, screen, wanted, least, true);
+    const QRect beside = PlaceBeside(neighbours.field, screen, wanted, least, Side::Far);
     if (!beside.isNull()) return beside;
   }
   QRect corner(QPoint(), wanted);

@@ -142,7 +142,7 @@ void LinesView::mousePressEvent(QMouseEvent* event) {
 
 void LinesView::mouseMoveEvent(QMouseEvent* event) {
   if (!event->buttons().testFlag(Qt::LeftButton) || lines_.rowCount() == 0) return;
-  MoveCaret(PlaceAt(event->position().toPoint()), true);
+  Select({selection_.Anchor, PlaceAt(event->position().toPoint())});
 }
 
 // Selects the word under the pointer, or the characters between two words.

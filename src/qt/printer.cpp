@@ -102,7 +102,7 @@ class QtPrinter::Job {
 QPrinter& QtPrinter::Device() {
   if (!device_) {
     device_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    device_->setCreator(ToQt(std::string(ProgramTitle) + " " + VersionText(true)));
+    device_->setCreator(ToQt(std::string(ProgramTitle) + " " + VersionText()));
   }
   return *device_;
 }

@@ -41,7 +41,7 @@ std::vector<std::string> PageHeader(const Program& program, std::size_t page) {
   return {TableRow("File Name: " + FileName(program.project), "Page: " + NumberText(static_cast<double>(page))),
           TableRow("Current Units: " + std::string(UnitSummary(program.project.WorkParms.Units)),
                    "Date/Time: " + DateText(program.platform.clock.Today())),
-          std::string(ProgramTitle) + ", Version: " + VersionText(true), std::string(PrintedWidth, '-'), std::string()};
+          std::string(ProgramTitle) + ", Version: " + VersionText(), std::string(PrintedWidth, '-'), std::string()};
 }
 
 bool IsHeading(std::string_view line) { return line.starts_with('[') && line.ends_with(']'); }

@@ -23,11 +23,18 @@ struct SupportBlock {
   bool ShowsDensities;
 };
 
-constexpr SupportBlock EntryBlock{EntryHeadings, &RoofSupport::Entries, &Figures::EntryReinforcement,
-                                  EntryLoad,     UnitSuffix::LineLoad,  true};
-constexpr SupportBlock IntersectionBlock{
-    IntersectionHeadings, &RoofSupport::Intersections, &Figures::IntersectionReinforcement,
-    IntersectionLoad,     UnitSuffix::Force,           false};
+constexpr SupportBlock EntryBlock{.Headings = EntryHeadings,
+                                  .Support = &RoofSupport::Entries,
+                                  .Added = &Figures::EntryReinforcement,
+                                  .LoadText = EntryLoad,
+                                  .LoadUnit = UnitSuffix::LineLoad,
+                                  .ShowsDensities = true};
+constexpr SupportBlock IntersectionBlock{.Headings = IntersectionHeadings,
+                                         .Support = &RoofSupport::Intersections,
+                                         .Added = &Figures::IntersectionReinforcement,
+                                         .LoadText = IntersectionLoad,
+                                         .LoadUnit = UnitSuffix::Force,
+                                         .ShowsDensities = false};
 
 class SecondaryReport {
  public:

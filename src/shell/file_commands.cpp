@@ -24,10 +24,10 @@ void MainWindow::FileCommand(FileItem item) {
   switch (item) {
     case FileItem::New: NewProject(); break;
     case FileItem::Open: OpenProject(); break;
-    case FileItem::Save: SaveProject(false); break;
-    case FileItem::SaveAs: SaveProject(true); break;
+    case FileItem::Save: SaveProject(SaveCommand::Save); break;
+    case FileItem::SaveAs: SaveProject(SaveCommand::SaveAs); break;
     case FileItem::PrinterSetup: Run(Trap::Set, [this] { program_.platform.printer.SetUp(); }); break;
-    case FileItem::Print: PrintProject(true); break;
+    case FileItem::Print: PrintProject(PrinterChoice::ByUser); break;
     case FileItem::Preview: PreviewProject(); break;
     case FileItem::ViewSourceFiles: ShowNew<TextBrowser>(); break;
     case FileItem::Exit: Exit(); break;
@@ -36,7 +36,7 @@ void MainWindow::FileCommand(FileItem item) {
 
 void MainWindow::NewProject() {
   if (!program_.project.FileSaved) KeepChanges(program_, program_.project);
-  FileNew(program_, true, true);
+  FileNew(program_, Keeping::Nothing);
   recovery_.Discard();
   RefreshCaption();
   if (program_.session.options.ShowInputScreenOnLoad == 1) EditCommand(EditItem::Parameters);
@@ -74,8 +74,8 @@ void MainWindow::LoadProjFile(Trap trap) {
   if (program_.session.options.ShowInputScreenOnLoad == 1) EditCommand(EditItem::Parameters);
 }
 
-bool MainWindow::SaveProject(bool saveAs) {
-  const bool isSaved = FileMenuSave(program_, saveAs);
+bool MainWindow::SaveProject(SaveCommand command) {
+  const bool isSaved = FileMenuSave(program_, command);
   if (!isSaved && program_.project.FileSaved) return false;
   // A failed save can leave a project unsaved that was saved before.
   recovery_.Committed();
@@ -100,11 +100,11 @@ bool MainWindow::BuildPages() {
   return GoesOn(Run(Trap::Set, [this] { BuildProjectReport(program_); }));
 }
 
-void MainWindow::PrintProject(bool choosesPrinter) {
+void MainWindow::PrintProject(PrinterChoice choice) {
   if (!MayPrint()) return;
   Printer& printer = program_.platform.printer;
   const std::string name = PrintedName(program_.project);
-  if (!choosesPrinter) {
+  if (choice == PrinterChoice::AsBefore) {
     printer.ChooseAsBefore(name);
   } else if (!GoesOn(Run(Trap::Set, [&] { printer.Choose(name); }))) {
     return;
@@ -112,7 +112,7 @@ void MainWindow::PrintProject(bool choosesPrinter) {
   if (!BuildPages()) return;
   std::string file;
   Run(Trap::Set, [&] { file = PrintText(program_, JoinedPages(program_.session, 0, 1)); });
-  if (!choosesPrinter && !file.empty()) AddHistoryLine(program_, "Report printed to " + file);
+  if (choice == PrinterChoice::AsBefore && !file.empty()) AddHistoryLine(program_, "Report printed to " + file);
 }
 
 void MainWindow::PreviewProject() {

@@ -19,7 +19,7 @@ MainWindow::MainWindow(Program& program, std::optional<Restart> restart)
       restart_(std::move(restart)),
       recovery_(program, restart_ ? restart_->Slot : 0),
       updateCheck_(program) {
-  lblver.SetCaption("Version: " + VersionText(true));
+  lblver.SetCaption("Version: " + VersionText());
   TieCommands();
   TieHistory();
   program_.windows.OpenInputDialog = [this](InputDialog caller) {
@@ -42,7 +42,7 @@ void MainWindow::TieCommands() {
     switch (ToolButton{button}) {
       case ToolButton::Open: FileCommand(FileItem::Open); break;
       case ToolButton::Save: FileCommand(FileItem::Save); break;
-      case ToolButton::Print: PrintProject(false); break;
+      case ToolButton::Print: PrintProject(PrinterChoice::AsBefore); break;
       case ToolButton::Description: EditCommand(EditItem::Description); break;
       case ToolButton::Parameters: EditCommand(EditItem::Parameters); break;
     }
@@ -108,7 +108,7 @@ bool MainWindow::MayClose() {
     KeepChanges(program_, program_.project);
     return true;
   }
-  return answer == BoxResult::Yes && SaveProject(false);
+  return answer == BoxResult::Yes && SaveProject(SaveCommand::Save);
 }
 
 void MainWindow::OnClose() {

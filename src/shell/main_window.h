@@ -12,6 +12,7 @@
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
 #include "core/program.h"
+#include "files/save_command.h"
 #include "shell/main_controls.h"
 #include "shell/recovery.h"
 #include "shell/run_end.h"
@@ -68,12 +69,13 @@ class MainWindow : public MainControls {
   void OpenFile(const std::string& path, Trap trap);
   void LoadProjFile(Trap trap);
   // Returns true if the project was saved.
-  bool SaveProject(bool saveAs);
+  bool SaveProject(SaveCommand command);
   void UpdateRecentFiles();
   bool MayPrint();
   // Builds the report of the committed design. Returns true if the command continues.
   bool BuildPages();
-  void PrintProject(bool choosesPrinter);
+  enum class PrinterChoice { AsBefore, ByUser };
+  void PrintProject(PrinterChoice choice);
   void PreviewProject();
   void Exit();
 

@@ -19,8 +19,8 @@ std::string MenuCaption(std::string_view name) {
 
 bool EnterRecentFile(Program& program) {
   const bool isShort = program.session.settings.ShortRecentFiles == 1;
-  const std::string name =
-      isShort ? FileNameFromPath(program, program.project.CurrentFile, false) : program.project.CurrentFile;
+  const std::string name = isShort ? FileNameFromPath(program, program.project.CurrentFile, FileNameForm::Whole)
+                                   : program.project.CurrentFile;
   if (program.session.settings.KeepFileNames == 0) return false;
 
   auto& [count, entries] = program.session.recentFiles;

@@ -24,7 +24,7 @@ void SetBuiltInValues(Program& program) {
 // the user's choices in it are lost.
 std::optional<IniText> StoredConfiguration(Program& program) {
   FileSystem& files = program.platform.files;
-  if (!files.Finds(program.session.IniFilePath, true)) return std::nullopt;
+  if (!files.Finds(program.session.IniFilePath)) return std::nullopt;
   IniText ini = IniText::FromFileBytes(files.ReadFile(program.session.IniFilePath));
   if (IniVersion(ini) != BuildStamp) return std::nullopt;
   return ini;
@@ -67,7 +67,7 @@ void ReadConfiguration(Program& program, const IniText& ini) {
   ReadCatalogSections(program, ini);
 }
 
-void BeginNewDesign(Program& program) { FileNew(program, true, true); }
+void BeginNewDesign(Program& program) { FileNew(program, Keeping::Nothing); }
 
 }  // namespace
 

@@ -33,7 +33,7 @@ void UpdateCheck::Start() {
 }
 
 void UpdateCheck::Compare(const OfferedVersion& offered) {
-  AddHistoryLine(program_, "Server/Current: " + offered.version + "/" + VersionText(true));
+  AddHistoryLine(program_, "Server/Current: " + offered.version + "/" + VersionText());
   if (!IsNewer(offered) || ShowMessage(program_, Question(), BoxButtons::YesNo) != BoxResult::Yes) return;
   UpdateDialog dialog(program_, offered);
   ShowForm(program_, dialog);

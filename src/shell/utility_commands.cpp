@@ -43,7 +43,7 @@ void MainWindow::ShowBackups() {
   if (!backups.Chosen) return;
   program_.project.PreviousFile = program_.project.CurrentFile;
   if (!MayLeavePreviousFile(program_)) return;
-  FileNew(program_, false, true);
+  FileNew(program_, Keeping::Name);
   RestoreProject(program_.project, *backups.Chosen);
   AddHistoryLine(program_, "Backup opened as an unsaved project: " + program_.project.CurrentFile);
   recovery_.Committed();

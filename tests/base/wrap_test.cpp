@@ -71,9 +71,9 @@ TEST(WordWrapText, CountsCharactersNotBytes) {
   EXPECT_EQ(WordWrapText("ääääääääääääääääääääää", 21), "...ääääääääääääääääää\r\n");
 }
 
-int WrappedLine(std::string line, std::vector<std::string>& pieces) {
-  const int count = WrapDescriptionLine(line);
-  pieces = LinesOf(line);
+int WrappedLine(std::string_view line, std::vector<std::string>& pieces) {
+  const auto [text, count] = WrapDescriptionLine(line);
+  pieces = LinesOf(text);
   return count;
 }
 

@@ -37,14 +37,14 @@ TEST_F(FileSearch, FindsNothingForAnInvalidPathAndShowsNoMessage) {
 using PathSearch = FileBench;
 
 TEST_F(PathSearch, AcceptsAFolderAndAFile) {
-  EXPECT_TRUE(ValidPath(program, "/tmp", false));
-  EXPECT_TRUE(ValidPath(program, "/mine/panel.ORB", false));
+  EXPECT_TRUE(ValidPath(program, "/tmp", Telling::Loud));
+  EXPECT_TRUE(ValidPath(program, "/mine/panel.ORB", Telling::Loud));
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
 TEST_F(PathSearch, DoesNotFindAMissingPathAndShowsNoMessage) {
-  EXPECT_FALSE(ValidPath(program, "/nowhere", false));
+  EXPECT_FALSE(ValidPath(program, "/nowhere", Telling::Loud));
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
@@ -54,7 +54,7 @@ struct FailedPathSearch : FileBench, testing::WithParamInterface<int> {};
 TEST_P(FailedPathSearch, ShowsTheInvalidPath) {
   platform.files.Fail(Step::Find, GetParam());
 
-  EXPECT_FALSE(ValidPath(program, "/mine", false));
+  EXPECT_FALSE(ValidPath(program, "/mine", Telling::Loud));
 
   EXPECT_THAT(platform.boxes.shown,
               ElementsAre(IsBox("Invalid path: /mine", BoxButtons::Ok, "Program Options: Error")));
@@ -64,7 +64,7 @@ TEST_P(FailedPathSearch, ShowsTheInvalidPath) {
 TEST_P(FailedPathSearch, ShowsNoMessageWhenQuiet) {
   platform.files.Fail(Step::Find, GetParam());
 
-  EXPECT_FALSE(ValidPath(program, "/mine", true));
+  EXPECT_FALSE(ValidPath(program, "/mine", Telling::Silent));
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
   EXPECT_EQ(program.session.history.Text, "");
@@ -78,7 +78,7 @@ struct UnexpectedErrorOfAPathSearch : FileBench, testing::WithParamInterface<int
 TEST_P(UnexpectedErrorOfAPathSearch, IsShownAsAnInternalErrorAndThePathIsAccepted) {
   platform.files.Fail(Step::Find, GetParam());
 
-  EXPECT_TRUE(ValidPath(program, "/mine", false));
+  EXPECT_TRUE(ValidPath(program, "/mine", Telling::Loud));
 
   EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Internal Error in ValidPath Function: Contact Developer",
                                                       BoxButtons::Ok, "Program Options: Range Error")));
@@ -87,7 +87,7 @@ TEST_P(UnexpectedErrorOfAPathSearch, IsShownAsAnInternalErrorAndThePathIsAccepte
 TEST_P(UnexpectedErrorOfAPathSearch, IsShownEvenWhenQuiet) {
   platform.files.Fail(Step::Find, GetParam());
 
-  EXPECT_TRUE(ValidPath(program, "/mine", true));
+  EXPECT_TRUE(ValidPath(program, "/mine", Telling::Silent));
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Internal Error in ValidPath Function: Contact Developer"));
 }
@@ -98,7 +98,7 @@ INSTANTIATE_TEST_SUITE_P(Error, UnexpectedErrorOfAPathSearch, testing::Values(53
 TEST_F(PathSearch, ShowsADataBaseErrorAsAnInternalError) {
   platform.files.Fail(Step::Find, -2147217900);
 
-  EXPECT_TRUE(ValidPath(program, "/mine", true));
+  EXPECT_TRUE(ValidPath(program, "/mine", Telling::Silent));
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Internal Error in ValidPath Function: Contact Developer"));
 }
@@ -106,33 +106,33 @@ TEST_F(PathSearch, ShowsADataBaseErrorAsAnInternalError) {
 using FileName = FileBench;
 
 TEST_F(FileName, FollowsTheLastSeparatorOfEitherKind) {
-  EXPECT_EQ(FileNameFromPath(program, "/mine/panel 3.ORB", false), "panel 3.ORB");
-  EXPECT_EQ(FileNameFromPath(program, "C:\\mine\\panel 3.ORB", false), "panel 3.ORB");
-  EXPECT_EQ(FileNameFromPath(program, "C:\\mine/sub\\panel.ORB", false), "panel.ORB");
+  EXPECT_EQ(FileNameFromPath(program, "/mine/panel 3.ORB", FileNameForm::Whole), "panel 3.ORB");
+  EXPECT_EQ(FileNameFromPath(program, "C:\\mine\\panel 3.ORB", FileNameForm::Whole), "panel 3.ORB");
+  EXPECT_EQ(FileNameFromPath(program, "C:\\mine/sub\\panel.ORB", FileNameForm::Whole), "panel.ORB");
 }
 
 TEST_F(FileName, IsTheWholePathWithoutASeparator) {
-  EXPECT_EQ(FileNameFromPath(program, "panel.ORB", false), "panel.ORB");
+  EXPECT_EQ(FileNameFromPath(program, "panel.ORB", FileNameForm::Whole), "panel.ORB");
 }
 
 TEST_F(FileName, OfAnEmptyPathIsEmpty) {
-  EXPECT_EQ(FileNameFromPath(program, "", false), "");
-  EXPECT_EQ(FileNameFromPath(program, "", true), "");
+  EXPECT_EQ(FileNameFromPath(program, "", FileNameForm::Whole), "");
+  EXPECT_EQ(FileNameFromPath(program, "", FileNameForm::WithoutExtension), "");
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
 TEST_F(FileName, EndsBeforeItsFirstPointOnRequest) {
-  EXPECT_EQ(FileNameFromPath(program, "/mine/panel.v2.ORB", true), "panel");
-  EXPECT_EQ(FileNameFromPath(program, "/mine.old/panel", true), "panel");
+  EXPECT_EQ(FileNameFromPath(program, "/mine/panel.v2.ORB", FileNameForm::WithoutExtension), "panel");
+  EXPECT_EQ(FileNameFromPath(program, "/mine.old/panel", FileNameForm::WithoutExtension), "panel");
 }
 
 TEST_F(FileName, DoesNotEndBeforeAnInitialPoint) {
-  EXPECT_EQ(FileNameFromPath(program, "/mine/.hidden.ORB", true), ".hidden.ORB");
+  EXPECT_EQ(FileNameFromPath(program, "/mine/.hidden.ORB", FileNameForm::WithoutExtension), ".hidden.ORB");
 }
 
 TEST_F(FileName, OfAPathWithATrailingSeparatorIsAnErrorAndThePathItself) {
-  EXPECT_EQ(FileNameFromPath(program, "/mine/", true), "/mine/");
-  EXPECT_EQ(FileNameFromPath(program, "C:\\mine\\", false), "C:\\mine\\");
+  EXPECT_EQ(FileNameFromPath(program, "/mine/", FileNameForm::WithoutExtension), "/mine/");
+  EXPECT_EQ(FileNameFromPath(program, "C:\\mine\\", FileNameForm::Whole), "C:\\mine\\");
 
   EXPECT_THAT(platform.boxes.shown,
               ElementsAre(IsBox("Error in filename: /mine/", BoxButtons::Ok, "Program Options: Error"),

@@ -6,14 +6,14 @@ namespace orby::test {
 namespace {
 
 TEST(ProgramVersion, HasATextWithPointsAndOneWithout) {
-  EXPECT_EQ(VersionText(true), "1.0.00");
-  EXPECT_EQ(VersionText(false), "1000");
+  EXPECT_EQ(VersionText(), "1.0.00");
+  EXPECT_EQ(VersionDigits(), "1000");
 }
 
 TEST(ProgramVersion, HasAtLeastTwoDigitsOfTheRevision) {
-  EXPECT_EQ(VersionText(true, {2, 11, 7}), "2.11.07");
-  EXPECT_EQ(VersionText(true, {2, 1, 123}), "2.1.123");
-  EXPECT_EQ(VersionText(false, {2, 1, 15}), "2115");
+  EXPECT_EQ(VersionText({2, 11, 7}), "2.11.07");
+  EXPECT_EQ(VersionText({2, 1, 123}), "2.1.123");
+  EXPECT_EQ(VersionDigits({2, 1, 15}), "2115");
 }
 
 }  // namespace

@@ -32,7 +32,7 @@ struct TheBackupsWindow : testing::Test {
 
   static void Begin(Program& program) {
     SetBuiltInCatalogs(program.session.catalogs);
-    FileNew(program, true, true);
+    FileNew(program, Keeping::Nothing);
   }
 
   // Returns the bytes of a project file with this depth of cover.
@@ -58,7 +58,7 @@ struct TheBackupsWindow : testing::Test {
     program.project.ProjectTitle = "Belt entry";
     program.project.WorkParms.Primary.Options = 1;
     KeepDropped(program, program.project, BackupReason::Dropped);
-    FileNew(program, true, true);
+    FileNew(program, Keeping::Nothing);
   }
 
   const std::string& FileAt(const std::string& path) { return platform.files.files.at(path); }

@@ -20,7 +20,7 @@ using testing::IsEmpty;
 struct ADescriptionDialog : testing::Test {
   ADescriptionDialog() {
     SetBuiltInCatalogs(program.session.catalogs);
-    FileNew(program, true, true);
+    FileNew(program, Keeping::Nothing);
     program.project.CurrentFile = "/designs/panel3.ORB";
     program.project.ProjectTitle = "Panel 3";
     program.project.ProjectDescription = "Headgate\r\nSecond cut";
@@ -120,7 +120,7 @@ TEST_F(ADescriptionDialog, OffersBothAgainAfterANewProjectHasBegun) {
   program.project.UnitsLocked = true;
   dialog.Open();
   dialog.Close();
-  FileNew(program, true, true);
+  FileNew(program, Keeping::Nothing);
 
   dialog.Open();
 

@@ -210,7 +210,7 @@ TEST_F(ParameterChecks, ReportTheFaultBeforeGoingToIt) {
   WatchingBoxes boxes;
   Program watched{platform.AsPlatformWith(boxes)};
   SetBuiltInCatalogs(watched.session.catalogs);
-  FileNew(watched, true, true);
+  FileNew(watched, Keeping::Nothing);
   ParametersDialog opened(watched);
   boxes.watched = &opened;
   opened.Open();

@@ -78,7 +78,7 @@ struct AParametersDialog : testing::Test {
   void StartDesign(UnitSystem units, StrengthBasis ultimate = StrengthBasis::Yield) {
     program.session.settings.UnitsDefault = units;
     program.session.options.BoltGradeAsUltimateDefault = ultimate;
-    FileNew(program, true, true);
+    FileNew(program, Keeping::Nothing);
     program.session.history = {};
   }
 

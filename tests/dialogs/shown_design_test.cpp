@@ -39,7 +39,7 @@ struct StoredRun {
   explicit StoredRun(UnitSystem units) {
     SetBuiltInCatalogs(program.session.catalogs);
     program.session.settings.UnitsDefault = units;
-    FileNew(program, true, true);
+    FileNew(program, Keeping::Nothing);
     program.project.UseAUSStandardTable = *rc::gen::inRange<Integer>(0, 2);
     program.project.WorkParms = StoredDesign(program.project.WorkParms);
   }
@@ -76,7 +76,7 @@ RC_GTEST_PROP(ReportedDesignProperty, CommittedIsWhatOkWouldTakeUnchanged, ()) {
 struct AShownDesign : testing::Test {
   AShownDesign() {
     SetBuiltInCatalogs(program.session.catalogs);
-    FileNew(program, true, true);
+    FileNew(program, Keeping::Nothing);
   }
   Design Shown() { return AsShown(design, program.session.catalogs.BoltTableENG, program.session.catalogs); }
 

@@ -32,7 +32,7 @@ struct NewRun {
   explicit NewRun(UnitSystem units) {
     SetBuiltInCatalogs(program.session.catalogs);
     program.session.settings.UnitsDefault = units;
-    FileNew(program, true, true);
+    FileNew(program, Keeping::Nothing);
   }
 
   RecordingPlatform platform;

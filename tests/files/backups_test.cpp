@@ -240,7 +240,7 @@ TEST_F(Backups, HaveNamesThatEveryDiskAllows) {
 }
 
 TEST_F(Backups, OfADroppedDesignAreRecoveryFiles) {
-  FileNew(program(), false, true);
+  FileNew(program(), Keeping::Name);
   program().project.WorkParms.Place.DepthofCover = 725;
 
   const auto path = KeepDropped(program(), program().project, BackupReason::Dropped);
@@ -254,7 +254,7 @@ TEST_F(Backups, OfADroppedDesignAreRecoveryFiles) {
 }
 
 TEST_F(Backups, OfADroppedDesignHaveTheFullPathOfItsProject) {
-  FileNew(program(), false, true);
+  FileNew(program(), Keeping::Name);
   program().project.CurrentFile = "panel3.orb";
 
   KeepDropped(program(), program().project, BackupReason::Dropped);
@@ -263,7 +263,7 @@ TEST_F(Backups, OfADroppedDesignHaveTheFullPathOfItsProject) {
 }
 
 TEST_F(Backups, OfADroppedDesignWithoutANameAreUntitled) {
-  FileNew(program(), false, true);
+  FileNew(program(), Keeping::Name);
   program().project.CurrentFile = UntitledName;
 
   KeepDropped(program(), program().project, BackupReason::Dropped);
@@ -272,7 +272,7 @@ TEST_F(Backups, OfADroppedDesignWithoutANameAreUntitled) {
 }
 
 TEST_F(Backups, OfADamagedRecoveryFileAreNamedAfterItsProjectIfThatIsReadable) {
-  FileNew(program(), false, true);
+  FileNew(program(), Keeping::Name);
   const std::string whole = RecoveryBytes(program().project);
 
   EXPECT_THAT(*KeepDamaged(program(), whole.substr(0, 60)), EndsWith(" 00001 panel3.orb.recovery"));

@@ -158,7 +158,7 @@ TEST(Conversion, ToMetricAndBackChangesADepth) {
 TEST(Conversion, DoesNotChangeAnglesCountsFactorsFlagsAndCosts) {
   TestProject project;
   Design& record = project.program.project.WorkParms;
-  FileNew(project.program, false, true);
+  FileNew(project.program, Keeping::Name);
   record.Entries.Cable.StabFactor = 1.06F;
   record.Intersections.Standing.StabFactor = 1.44F;
 

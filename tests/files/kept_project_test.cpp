@@ -11,7 +11,7 @@ using testing::IsEmpty;
 
 struct KeptProject : testing::Test {
   KeptProject() {
-    FileNew(project.program, false, true);
+    FileNew(project.program, Keeping::Name);
     project.program.project.ProjectTitle = "Panel 3";
     project.program.project.ProjectDescription = "Belt entry\r\n\r\nsouth";
     project.program.project.WorkParms.Place.DepthofCover = 725;

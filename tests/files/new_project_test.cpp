@@ -11,7 +11,7 @@ namespace {
 TEST(NewProject, HasTheEnglishDefaults) {
   TestProject project;
 
-  FileNew(project.program, true, true);
+  FileNew(project.program, Keeping::Nothing);
 
   EXPECT_EQ(ProjectFileBytes(project.program.project), ReadTestData("projects/new_english.orb"));
 }
@@ -20,7 +20,7 @@ TEST(NewProject, HasTheMetricDefaults) {
   TestProject project;
   project.program.session.settings.UnitsDefault = Metric;
 
-  FileNew(project.program, true, true);
+  FileNew(project.program, Keeping::Nothing);
 
   EXPECT_EQ(ProjectFileBytes(project.program.project), ReadTestData("projects/new_metric.orb"));
 }
@@ -29,14 +29,14 @@ TEST(NewProject, WithUltimateStrengthHasTheUltimateGrade) {
   TestProject project;
   project.program.session.options.BoltGradeAsUltimateDefault = StrengthBasis::Ultimate;
 
-  FileNew(project.program, true, true);
+  FileNew(project.program, Keeping::Nothing);
   EXPECT_EQ(project.program.project.WorkParms.Basis, StrengthBasis::Ultimate);
   EXPECT_EQ(project.program.project.WorkParms.Primary.GradeStd, 100);
   EXPECT_EQ(project.program.project.WorkParms.Intersections.Bolt.GradeManual, 100);
   EXPECT_EQ(project.program.project.WorkParms.Primary.TableGrade, 0);
 
   project.program.session.settings.UnitsDefault = Metric;
-  FileNew(project.program, true, true);
+  FileNew(project.program, Keeping::Nothing);
   EXPECT_EQ(project.program.project.WorkParms.Primary.GradeManual, 690);
   EXPECT_EQ(project.program.project.WorkParms.Entries.Bolt.GradeStd, 690);
 }
@@ -56,7 +56,7 @@ TEST(NewProject, HasTheDefaultsOfTheUser) {
   defaults.DefaultENGActualInterSpan = 62;
   defaults.DefaultENGEntryWidth = 18;
 
-  FileNew(project.program, true, true);
+  FileNew(project.program, Keeping::Nothing);
 
   const Design& record = project.program.project.WorkParms;
   EXPECT_EQ(record.Place.CMRR, 52);
@@ -82,7 +82,7 @@ TEST(NewProject, KeepsNameAndUnitsOnRequest) {
   project.program.project.WorkParms.Units = Metric;
   project.program.project.WorkParms.Basis = StrengthBasis::Ultimate;
 
-  FileNew(project.program, false, false);
+  FileNew(project.program, Keeping::NameAndUnits);
 
   EXPECT_EQ(project.program.project.CurrentFile, ProjectPath);
   EXPECT_EQ(project.program.project.WorkParms.Units, Metric);
@@ -100,7 +100,7 @@ TEST(NewProject, SetsTheStateOfAnUntouchedProject) {
   program.project.ProjectTitle = "Panel 3";
   program.project.ProjectDescription = "Shale roof";
 
-  FileNew(program, true, true);
+  FileNew(program, Keeping::Nothing);
 
   EXPECT_EQ(program.project.CurrentFile, "Untitled");
   EXPECT_TRUE(program.project.FileSaved);
@@ -121,7 +121,7 @@ TEST(NewProject, KeepsNothingOfThePreviousBolts) {
     set->Desc = "Rebar no. 6";
   }
 
-  FileNew(project.program, true, true);
+  FileNew(project.program, Keeping::Nothing);
 
   for (const BoltSelection* set : project.program.project.WorkParms.BoltSets()) {
     EXPECT_EQ(set->Options, 0);
@@ -146,7 +146,7 @@ TEST(NewProject, DoesNotChangeTheEstimatorTheComputedFieldsAndThePreview) {
   program.windows.WorkParmsCopy.Place.DepthofCover = 777;
   program.project.UseAUSStandardTable = 1;
 
-  FileNew(program, true, true);
+  FileNew(program, Keeping::Nothing);
 
   EXPECT_EQ(program.project.WorkParms.Place.CMRRRegionIndex, 3);
   EXPECT_EQ(program.project.WorkParms.Place.CMRRRockTypeIndex, 2);
@@ -163,7 +163,7 @@ TEST(NewProject, HasAnEmptySupportNameWhenTheListIsEmpty) {
   project.program.project.WorkParms.Entries.Standing.TypeName = "Pumped crib";
   project.program.session.catalogs.StandSupports.HighestIndex = -1;
 
-  FileNew(project.program, true, true);
+  FileNew(project.program, Keeping::Nothing);
 
   EXPECT_EQ(project.program.project.WorkParms.Entries.Standing.TypeName, "");
   EXPECT_EQ(project.program.project.WorkParms.Intersections.Standing.TypeName, "");

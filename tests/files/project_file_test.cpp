@@ -49,7 +49,7 @@ TEST(ProjectFile, IsASavedProjectAfterItIsOpened) {
 
 TEST(ProjectFile, HasItsTitleAndAMarkerInTheDescriptionAfterItIsOpened) {
   TestProject project;
-  FileNew(project.program, false, true);
+  FileNew(project.program, Keeping::Name);
   project.program.project.ProjectTitle = "T";
   project.program.project.ProjectDescription = "D1\r\nD2";
 
@@ -63,7 +63,7 @@ TEST(ProjectFile, HasItsTitleAndAMarkerInTheDescriptionAfterItIsOpened) {
 
 TEST(ProjectFile, GetsALongerDescriptionButTheSameValuesWithEachSaveAndOpen) {
   TestProject project;
-  FileNew(project.program, false, true);
+  FileNew(project.program, Keeping::Name);
   project.program.project.ProjectTitle = "T";
   project.program.project.ProjectDescription = "D1\r\nD2";
   ASSERT_TRUE(project.Save());
@@ -88,7 +88,7 @@ TEST(ProjectFile, GetsALongerDescriptionButTheSameValuesWithEachSaveAndOpen) {
 
 TEST(ProjectFile, WithABlankTitleHasOnlyTheMarkerInTheDescription) {
   TestProject project;
-  FileNew(project.program, false, true);
+  FileNew(project.program, Keeping::Name);
 
   ASSERT_TRUE(project.Save());
   ASSERT_TRUE(project.Open());
@@ -99,7 +99,7 @@ TEST(ProjectFile, WithABlankTitleHasOnlyTheMarkerInTheDescription) {
 
 TEST(ProjectFile, StoresTheTableChoiceButDoesNotRestoreIt) {
   TestProject project;
-  FileNew(project.program, false, true);
+  FileNew(project.program, Keeping::Name);
   project.program.project.UseAUSStandardTable = 1;
 
   ASSERT_TRUE(project.Save());
@@ -112,7 +112,7 @@ TEST(ProjectFile, StoresTheTableChoiceButDoesNotRestoreIt) {
 
 TEST(ProjectFile, RestoresTheSupportModeOfIntersectionsAsThatOfEntries) {
   TestProject project;
-  FileNew(project.program, false, true);
+  FileNew(project.program, Keeping::Name);
   project.program.project.WorkParms.Entries.Standing.TypeMode = 0;
   project.program.project.WorkParms.Intersections.Standing.TypeMode = 1;
 
@@ -314,7 +314,7 @@ TEST(ProjectFile, IsReadAsUtf8) {
 // An open project with unsaved changes, and another project to open.
 struct UnsavedTestProject : TestProject {
   UnsavedTestProject() {
-    FileNew(program, false, true);
+    FileNew(program, Keeping::Name);
     program.project.WorkParms.Place.DepthofCover = 777;
     program.project.FileSaved = false;
     program.project.PreviousFile = "/designs/previous.orb";

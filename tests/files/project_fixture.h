@@ -46,7 +46,7 @@ struct TestProject {
 };
 
 struct NewProject : TestProject {
-  NewProject() { FileNew(program, false, true); }
+  NewProject() { FileNew(program, Keeping::Name); }
 };
 
 // Returns the joined lines, each with CR LF.

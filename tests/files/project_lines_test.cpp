@@ -34,7 +34,7 @@ class FileFormats : public testing::TestWithParam<Format> {};
 TEST_P(FileFormats, EveryLineIsReadIntoItsField) {
   const Format& format = GetParam();
   TestProject project;
-  FileNew(project.program, false, true);
+  FileNew(project.program, Keeping::Name);
   const Design fresh = project.program.project.WorkParms;
 
   ASSERT_TRUE(project.Open(ReadTestData(format.file)));

@@ -45,7 +45,7 @@ void FillWithAnything(Design& record) {
 
 RC_GTEST_PROP(ProjectRoundTrip, KeepsEveryField, ()) {
   TestProject project;
-  FileNew(project.program, false, true);
+  FileNew(project.program, Keeping::Name);
   FillWithAnything(project.program.project.WorkParms);
   project.program.project.ProjectTitle = *AnyLine("");
   project.program.project.ProjectDescription = *AnyLine("\"#");

@@ -24,7 +24,7 @@ const std::string OldPath = "/designs/panel3.orb.old";
 struct ResavedProject : TestProject {
   ResavedProject() {
     program.session.folders.ProgramData = "/data/";
-    FileNew(program, false, true);
+    FileNew(program, Keeping::Name);
     Save();
     old = File();
     program.project.WorkParms.Place.DepthofCover = 810;
@@ -173,7 +173,7 @@ TEST(ProjectSave, ReportsNoChangeOfTheFileOfTheLastSave) {
 
 TEST(ProjectSave, OfANewDesignReportsNoChangeOfTheFileThatItOverwrites) {
   ResavedProject project;
-  FileNew(project.program, true, true);
+  FileNew(project.program, Keeping::Nothing);
   project.File() = "the other's design";
   project.program.project.CurrentFile = ProjectPath;
 
@@ -200,7 +200,7 @@ TEST_P(FailedSave, RestoresTheFileAndReportsWhereItsBackupIs) {
                                                          : 0,
                               1);
 
-  EXPECT_FALSE(FileMenuSave(project.program, false));
+  EXPECT_FALSE(FileMenuSave(project.program, SaveCommand::Save));
 
   EXPECT_EQ(project.File(), before);
   EXPECT_FALSE(project.program.project.FileSaved);

@@ -17,7 +17,7 @@ using testing::StartsWith;
 
 struct RecoveryFile : testing::Test {
   RecoveryFile() {
-    FileNew(project.program, false, true);
+    FileNew(project.program, Keeping::Name);
     project.program.project.FileSaved = false;
     project.program.project.FileEmpty = false;
   }
@@ -123,7 +123,7 @@ TEST_F(RecoveryFile, RestoresAnUnsavedProjectWithItsOldName) {
   const auto read = ReadRecovery(Bytes());
   ASSERT_TRUE(read.has_value());
   TestProject next;
-  FileNew(next.program, true, true);
+  FileNew(next.program, Keeping::Nothing);
 
   RestoreProject(next.program.project, *read);
 
@@ -162,7 +162,7 @@ class DamagedRecoveryFile : public testing::TestWithParam<Damage> {};
 
 TEST_P(DamagedRecoveryFile, IsNotRead) {
   TestProject project;
-  FileNew(project.program, false, true);
+  FileNew(project.program, Keeping::Name);
   std::string bytes = RecoveryBytes(project.program.project);
   const std::size_t at = bytes.find(GetParam().from);
   ASSERT_NE(at, std::string::npos);

@@ -14,9 +14,9 @@ using Step = MemoryFiles::Step;
 
 TEST(SaveCommand, SavesANamedProjectWithoutAQuestion) {
   TestProject project;
-  FileNew(project.program, false, true);
+  FileNew(project.program, Keeping::Name);
 
-  EXPECT_TRUE(FileMenuSave(project.program, false));
+  EXPECT_TRUE(FileMenuSave(project.program, SaveCommand::Save));
 
   EXPECT_THAT(project.platform.fileDialogs.asked, IsEmpty());
   EXPECT_EQ(project.File(), ReadTestData("projects/new_english.orb"));
@@ -29,7 +29,7 @@ TEST_P(UnnamedProject, IsSavedAfterAQuestionForItsName) {
   project.program.project.CurrentFile = GetParam();
   project.platform.fileDialogs.answers = {"/designs/named.orb"};
 
-  EXPECT_TRUE(FileMenuSave(project.program, false));
+  EXPECT_TRUE(FileMenuSave(project.program, SaveCommand::Save));
 
   EXPECT_EQ(project.program.project.CurrentFile, "/designs/named.orb");
   EXPECT_TRUE(project.platform.files.files.contains("/designs/named.orb"));
@@ -42,7 +42,7 @@ TEST(SaveCommand, SaveAsOffersTheFileNameInTheDataFolder) {
   project.program.session.settings.DataPath = "/home/designs/";
   project.platform.fileDialogs.answers = {"/designs/copy.orb"};
 
-  EXPECT_TRUE(FileMenuSave(project.program, true));
+  EXPECT_TRUE(FileMenuSave(project.program, SaveCommand::SaveAs));
 
   ASSERT_EQ(project.platform.fileDialogs.asked.size(), 1U);
   const FileQuestion& question = project.platform.fileDialogs.asked.front();
@@ -91,7 +91,7 @@ TEST(SaveCommand, DoesNotOfferABlankName) {
 TEST(SaveCommand, SavesNothingAfterACancelledDialog) {
   TestProject project;
 
-  EXPECT_FALSE(FileMenuSave(project.program, true));
+  EXPECT_FALSE(FileMenuSave(project.program, SaveCommand::SaveAs));
 
   EXPECT_EQ(project.program.project.CurrentFile, ProjectPath);
   EXPECT_THAT(project.platform.files.created, IsEmpty());
@@ -114,12 +114,12 @@ class SaveWithAFailedStep : public testing::TestWithParam<FailedStep> {};
 
 TEST_P(SaveWithAFailedStep, ShowsTheErrorAndEndsOnCancel) {
   TestProject project;
-  FileNew(project.program, false, true);
+  FileNew(project.program, Keeping::Name);
   project.program.project.FileSaved = false;
   project.platform.files.Fail(GetParam().step, error_number::DiskFull, GetParam().after);
   project.platform.boxes.answers = {BoxResult::Cancel};
 
-  EXPECT_FALSE(FileMenuSave(project.program, false));
+  EXPECT_FALSE(FileMenuSave(project.program, SaveCommand::Save));
 
   EXPECT_THAT(project.platform.boxes.Texts(), ElementsAre("Error occurred: Disk full (61)"));
   EXPECT_EQ(project.platform.boxes.shown.front().style, BoxButtons::RetryCancel);
@@ -151,11 +151,11 @@ TEST_P(SaveWithAFailedStep, StartsAgainOnRetry) {
   Program program(platform.AsPlatformWith(boxes));
   program.session.catalogs.StandSupports = {0, {"Four-point timber crib"}, {}};
   program.project.CurrentFile = ProjectPath;
-  FileNew(program, false, true);
+  FileNew(program, Keeping::Name);
   program.project.FileSaved = false;
   platform.files.Fail(GetParam().step, error_number::DiskFull, GetParam().after);
 
-  EXPECT_TRUE(FileMenuSave(program, false));
+  EXPECT_TRUE(FileMenuSave(program, SaveCommand::Save));
 
   EXPECT_EQ(boxes.shown, 1);
   EXPECT_TRUE(program.project.FileSaved);
@@ -172,7 +172,7 @@ TEST(SaveCommand, OffersNoRetryForAPathThatCannotBeWritten) {
   TestProject project;
   project.platform.files.Fail(Step::Create, error_number::PathNotFound);
 
-  EXPECT_FALSE(FileMenuSave(project.program, false));
+  EXPECT_FALSE(FileMenuSave(project.program, SaveCommand::Save));
 
   EXPECT_THAT(project.platform.boxes.Texts(), ElementsAre("Error occurred: Path not found (76). Procedure Terminated"));
 }

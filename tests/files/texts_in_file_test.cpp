@@ -12,7 +12,7 @@ using testing::HasSubstr;
 // Returns the texts after a number of saves and openings.
 ProjectTexts AfterOpening(const ProjectTexts& typed, int times) {
   TestProject project;
-  FileNew(project.program, false, true);
+  FileNew(project.program, Keeping::Name);
   project.program.project.ProjectTitle = typed.Title;
   project.program.project.ProjectDescription = typed.Description;
   for (int time = 0; time < times; ++time) {

@@ -190,7 +190,7 @@ GuiTest::~GuiTest() { SetErrorHandler(nullptr); }
 void GuiTest::StartDesign(UnitSystem units, StrengthBasis ultimate) {
   program.session.settings.UnitsDefault = units;
   program.session.options.BoltGradeAsUltimateDefault = ultimate;
-  FileNew(program, true, true);
+  FileNew(program, Keeping::Nothing);
   program.session.history = {};
 }
 

@@ -160,7 +160,7 @@ const Paper* Manual::manual = nullptr;
 TEST_F(Manual, HasTheNameAndTheVersionOfTheProgram) {
   EXPECT_THAT(manual->Properties(), ContainsRegex("Title: +" + std::string(ProgramTitle) + "\n"));
   EXPECT_THAT(manual->Pages().front(), HasSubstr(ProgramTitle));
-  EXPECT_THAT(manual->Pages().front(), HasSubstr("Version " + VersionText(true) + "\n"));
+  EXPECT_THAT(manual->Pages().front(), HasSubstr("Version " + VersionText() + "\n"));
 }
 
 TEST_F(Manual, HasEachPageOfTheHelpUnderItsTitle) {

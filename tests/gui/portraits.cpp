@@ -124,7 +124,7 @@ class Sitting {
     program_.session.settings.ShowDisclaim = 0;
     program_.session.folders.ProgramTemporary = "/home/user/Documents/Orby/Temp/";
     program_.session.IniFilePath = "/home/user/Documents/Orby/ORBY.INI";
-    FileNew(program_, true, true);
+    FileNew(program_, Keeping::Nothing);
     const std::string file = units == Metric ? "australian-grade-metric.ORB" : "intersection-secondary-bolts.ORB";
     const std::string path = "/home/user/Documents/Orby/" + file;
     platform_.files.files[path] = BytesOf(std::string(EXAMPLES_DIR) + "/" + file);

@@ -120,7 +120,7 @@ TEST_F(UpdateView, AsksAboutANewerVersion) {
   });
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("A new version is available. Download?"));
-  EXPECT_FALSE(files.Finds(NewSetup(), false));
+  EXPECT_FALSE(files.FindsFile(NewSetup()));
 }
 
 TEST_F(UpdateView, SaysThatTheInformationIsInvalid) {
@@ -203,7 +203,7 @@ TEST_F(UpdateView, DeletesAndNeverStartsAFileThatIsNotThePublishedOne) {
                                                   "published, and was deleted: " +
                                                       NewSetup(),
                                                   "Update file: " + NewSetup() + " not found"));
-  EXPECT_FALSE(files.Finds(NewSetup(), false));
+  EXPECT_FALSE(files.FindsFile(NewSetup()));
   EXPECT_THAT(platform.documents.opened, IsEmpty());
   EXPECT_EQ(ended, 0);
 }
@@ -246,7 +246,7 @@ TEST_F(UpdateView, StaysResponsiveDuringASlowDownloadAndResumesItLater) {
 
   WaitFor([this] { return server.IsLeft(); });
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
-  EXPECT_FALSE(files.Finds(NewSetup(), false));
+  EXPECT_FALSE(files.FindsFile(NewSetup()));
   EXPECT_EQ(files.FileLength(NewSetup() + ".part"), 6000U);
   EXPECT_EQ(program.session.settings.RemindAnnualUpdates, 0);
 

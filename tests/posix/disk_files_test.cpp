@@ -48,7 +48,7 @@ class Disk : public testing::Test {
     return ErrorNumberOf([&] { files.MakeFolder(path); });
   }
   int ErrorOfSearching(const std::string& path) {
-    return ErrorNumberOf([&] { static_cast<void>(files.Finds(path, true)); });
+    return ErrorNumberOf([&] { static_cast<void>(files.Finds(path)); });
   }
 
   TemporaryFolder own;
@@ -188,28 +188,28 @@ TEST_F(Disk, RemovesAFile) {
 
   files.RemoveFile(At("panel.ORB"));
 
-  EXPECT_FALSE(files.Finds(At("panel.ORB"), true));
+  EXPECT_FALSE(files.Finds(At("panel.ORB")));
 }
 
 TEST_F(Disk, FindsFoldersOnlyOnRequest) {
   Store(At("panel.ORB"), "x");
 
-  EXPECT_TRUE(files.Finds(At("panel.ORB"), false));
-  EXPECT_TRUE(files.Finds(At("panel.ORB"), true));
-  EXPECT_FALSE(files.Finds(folder, false));
-  EXPECT_TRUE(files.Finds(folder, true));
-  EXPECT_TRUE(files.Finds(folder + "/", true));
+  EXPECT_TRUE(files.FindsFile(At("panel.ORB")));
+  EXPECT_TRUE(files.Finds(At("panel.ORB")));
+  EXPECT_FALSE(files.FindsFile(folder));
+  EXPECT_TRUE(files.Finds(folder));
+  EXPECT_TRUE(files.Finds(folder + "/"));
 }
 
 TEST_F(Disk, FindsNoMissingFile) {
   Store(At("panel.ORB"), "x");
   std::filesystem::create_symlink(At("gone"), At("link"));
 
-  EXPECT_FALSE(files.Finds(At("missing.ORB"), true));
-  EXPECT_FALSE(files.Finds(At("nowhere/missing.ORB"), true));
-  EXPECT_FALSE(files.Finds(At("panel.ORB/missing.ORB"), true));
-  EXPECT_FALSE(files.Finds(At("link"), true));
-  EXPECT_FALSE(files.Finds("", true));
+  EXPECT_FALSE(files.Finds(At("missing.ORB")));
+  EXPECT_FALSE(files.Finds(At("nowhere/missing.ORB")));
+  EXPECT_FALSE(files.Finds(At("panel.ORB/missing.ORB")));
+  EXPECT_FALSE(files.Finds(At("link")));
+  EXPECT_FALSE(files.Finds(""));
 }
 
 // Accesses files as a user without permissions during its lifetime. The administrator may enter any folder, so a test
@@ -297,7 +297,7 @@ TEST_F(Disk, RenamesAFileOverAnother) {
   files.RenameFile(At("panel.tmp"), At("panel.ORB"));
 
   EXPECT_EQ(files.ReadFile(At("panel.ORB")), "new");
-  EXPECT_FALSE(files.Finds(At("panel.tmp"), true));
+  EXPECT_FALSE(files.Finds(At("panel.tmp")));
 }
 
 TEST_F(Disk, RenamesAFileToANameThatIsFree) {

@@ -139,7 +139,7 @@ TEST_F(InPlace, TooLittleRoomLeavesNoNewFile) {
 
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(files.OpenInPlace(At("panel.ORB"), MoreThanAnyDisk)); }), 61);
 
-  EXPECT_FALSE(files.Finds(At("panel.ORB"), true));
+  EXPECT_FALSE(files.Finds(At("panel.ORB")));
 }
 
 TEST_F(InPlace, ALimitOnTheSizeOfFilesIsReportedAsAFullDiskBeforeTheWrite) {

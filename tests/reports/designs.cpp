@@ -10,7 +10,7 @@ Desk::Desk(UnitSystem units, StrengthBasis strengthMode) : program(machine.AsPla
   SetBuiltInCatalogs(program.session.catalogs);
   program.session.settings.UnitsDefault = units;
   program.session.options.BoltGradeAsUltimateDefault = strengthMode;
-  FileNew(program, true, true);
+  FileNew(program, Keeping::Nothing);
 }
 
 void PickBolt(Design& record, Single diameter, Single grade) {

@@ -96,9 +96,10 @@ void MemoryFiles::CutPower(int after) { nextFailure = {PowerIsCut, after, 1}; }
 
 bool MemoryFiles::HasFailed() const { return nextFailure.hasFailed; }
 
-bool MemoryFiles::Finds(const std::string& path, bool foldersToo) {
+Found MemoryFiles::Find(const std::string& path) {
   Meet(Step::Find);
-  return files.contains(path) || (foldersToo && folders.contains(WithoutSeparator(path)));
+  if (files.contains(path)) return Found::File;
+  return folders.contains(WithoutSeparator(path)) ? Found::Folder : Found::Nothing;
 }
 
 std::string MemoryFiles::ReadFile(const std::string& path) {

@@ -52,7 +52,7 @@ class MemoryFiles : public FileSystem {
   // Returns true if that step has been reached.
   bool HasFailed() const;
 
-  bool Finds(const std::string& path, bool foldersToo) override;
+  Found Find(const std::string& path) override;
 
   std::string ReadFile(const std::string& path) override;
 

@@ -46,9 +46,10 @@ BoxResult ScriptBoxes::Show(const MessageBox& box) {
   return box.style.Buttons == BoxButtons::Ok ? BoxResult::Ok : BoxResult::Cancel;
 }
 
-bool ScriptFiles::Finds(const std::string& path, bool foldersToo) {
-  if (IsScratch(path)) return path == ScratchFolder ? foldersToo : scratch_.contains(path);
-  return DiskFiles::Finds(path, foldersToo);
+Found ScriptFiles::Find(const std::string& path) {
+  if (!IsScratch(path)) return DiskFiles::Find(path);
+  if (path == ScratchFolder) return Found::Folder;
+  return scratch_.contains(path) ? Found::File : Found::Nothing;
 }
 
 std::string ScriptFiles::ReadFile(const std::string& path) {

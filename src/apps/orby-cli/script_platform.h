@@ -27,7 +27,7 @@ class ScriptFiles : public DiskFiles {
  public:
   ScriptFiles() : DiskFiles(".") {}
 
-  bool Finds(const std::string& path, bool foldersToo) override;
+  Found Find(const std::string& path) override;
   std::string ReadFile(const std::string& path) override;
   std::unique_ptr<OutputFile> CreateFile(const std::string& path) override;
   std::unique_ptr<OutputFile> OpenInPlace(const std::string& path, std::uint64_t length) override;
