@@ -24,9 +24,7 @@ void Expect(bool holds) {
 }
 
 std::string Save(Program& program, orby::test::RecordingPlatform& platform) {
-  bool ok = false;
-  orby::FileSave(program, ok);
-  Expect(ok);
+  orby::FileSave(program);
   return platform.files.files[Path];
 }
 
@@ -81,17 +79,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Program program(platform.AsPlatform());
   program.project.CurrentFile = Path;
   platform.files.files[Path] = std::string(data, data + size);
-  bool ok = false;
   try {
-    orby::FileOpen(program, ok);
+    orby::FileOpen(program);
   } catch (const orby::RuntimeError&) {
     return 0;
   }
   const std::string first = Save(program, platform);
   if (!CanBeHeld(program, first)) return 0;
 
-  orby::FileOpen(program, ok);
-  Expect(ok);
+  Expect(orby::FileOpen(program));
   const std::string second = Save(program, platform);
 
   Expect(DataLines(first) == DataLines(second));

@@ -31,8 +31,7 @@ void WrapWords(std::string_view text, std::size_t width) {
 // Requires that only a line end is added after each piece except the last, and that nothing is lost.
 void WrapDescription(std::string_view text) {
   constexpr std::size_t Limit = 60;
-  std::string line(text);
-  const int count = orby::WrapDescriptionLine(line);
+  const auto [line, count] = orby::WrapDescriptionLine(text);
   RequireLinesWithin(line, Limit);
   const int lineEnds = text.empty() ? 0 : count - 2;
   Require(lineEnds >= 0);

@@ -46,9 +46,8 @@ double Log10Of(double x) {
   return Logarithm(x) / std::log(10.0);
 }
 
-Integer ClampRange(double& value, double minimum, double maximum) {
-  if (value < minimum || value > maximum) value = minimum;
-  return ToInteger(value);
+Integer ClampRange(double value, double minimum, double maximum) {
+  return ToInteger(value < minimum || value > maximum ? minimum : value);
 }
 
 Single MaxSingle(Single a, Single b) { return std::max(a, b); }

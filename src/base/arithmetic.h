@@ -59,9 +59,9 @@ double RoundHalfEven(double value);
 // Returns the base-10 logarithm of x, or 1 when x is 0. Throws RuntimeError 5 when x is negative.
 double Log10Of(double x);  // a helper that nothing calls today
 
-// Sets `value` to `minimum` when it is outside minimum..maximum, also when it is above the maximum. Returns it rounded
-// to the nearest whole number, ties to even. Throws RuntimeError 6 when that does not fit 16 bits.
-Integer ClampRange(double& value, double minimum, double maximum);
+// Returns the value, or `minimum` when the value is outside minimum..maximum, also when it is above the maximum;
+// rounded to the nearest whole number, ties to even. Throws RuntimeError 6 when that does not fit 16 bits.
+Integer ClampRange(double value, double minimum, double maximum);
 
 Single MaxSingle(Single a, Single b);      // a helper that nothing calls today
 Integer MinInteger(Integer a, Integer b);  // a helper that nothing calls today

@@ -18,6 +18,17 @@ bool Succeeds(const Act& act) {
   }
 }
 
+// Calls `act`. Returns the RuntimeError that it threw, or nothing if it completed.
+template <class Act>
+std::optional<RuntimeError> FailureOf(const Act& act) {
+  try {
+    act();
+    return std::nullopt;
+  } catch (const RuntimeError& error) {
+    return error;
+  }
+}
+
 // Returns the optional that `compute` returns, or nothing when it throws a RuntimeError. Without an error this costs no
 // more than the call.
 template <class Compute>

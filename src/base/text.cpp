@@ -129,26 +129,23 @@ std::string WordWrapText(std::string_view text, std::size_t width) {
 
 std::string_view YesNoText(int flag) { return flag == 1 ? "YES" : "NO"; }
 
-int WrapDescriptionLine(std::string& line) {
+WrappedLine WrapDescriptionLine(std::string_view line) {
   constexpr std::size_t Limit = 60;
   constexpr std::size_t LowestBreak = 40;
-  int count = 1;
-  std::string wrapped;
-  std::string_view rest = line;
-  while (!rest.empty()) {
-    const std::string_view reach = rest.substr(0, CharacterOffset(rest, Limit));
+  WrappedLine wrapped;
+  while (!line.empty()) {
+    const std::string_view reach = line.substr(0, CharacterOffset(line, Limit));
     std::string_view piece = reach;
     const std::size_t blank = reach.rfind(' ');
     if (blank != std::string_view::npos && CharacterCount(reach.substr(0, blank)) + 1 >= LowestBreak) {
       piece = reach.substr(0, blank + 1);
     }
-    wrapped += piece;
-    ++count;
-    rest.remove_prefix(piece.size());
-    if (!rest.empty()) wrapped += LineEnd;
+    wrapped.text += piece;
+    ++wrapped.count;
+    line.remove_prefix(piece.size());
+    if (!line.empty()) wrapped.text += LineEnd;
   }
-  line = std::move(wrapped);
-  return count;
+  return wrapped;
 }
 
 }  // namespace orby

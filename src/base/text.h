@@ -54,9 +54,14 @@ std::string WordWrapText(std::string_view text, std::size_t width);
 // Returns "YES" if the flag is 1, otherwise "NO".
 std::string_view YesNoText(int flag);
 
+struct WrappedLine {
+  std::string text;
+  int count = 1;  // pieces plus one
+};
+
 // Breaks a description line into pieces of at most 60 characters, separated by CR LF. A piece ends after the last blank
 // at positions 40 to 60, or at 60 characters when there is none. The last piece is broken by the same rule, although it
-// may fit. Returns the number of pieces plus one.
-int WrapDescriptionLine(std::string& line);
+// may fit.
+WrappedLine WrapDescriptionLine(std::string_view line);
 
 }  // namespace orby

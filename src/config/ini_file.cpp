@@ -197,7 +197,7 @@ Integer ReadIniInteger(const IniText& ini, std::string_view section, std::string
 
 Integer ReadIniInteger(const IniText& ini, std::string_view section, std::string_view key, IniRange range,
                        std::string_view defaultText) {
-  double whole = RoundHalfEven(ReadIniNumber(ini, section, key, defaultText));
+  const double whole = RoundHalfEven(ReadIniNumber(ini, section, key, defaultText));
   return ClampRange(whole, range.Minimum, range.Maximum);
 }
 

@@ -133,8 +133,7 @@ void ReadRecentFiles(Program& program, const IniText& ini) {
 
 void WriteRecentFiles(const RecentFiles& recent, IniText& ini) {
   WriteIniValue(ini, FileMenuSection, RecentCountKey, recent.MaxLastFiles);
-  double inUse = recent.MaxLastFiles;
-  const Integer count = ClampRange(inUse, RecentCount.Minimum, RecentCount.Maximum);
+  const Integer count = ClampRange(recent.MaxLastFiles, RecentCount.Minimum, RecentCount.Maximum);
   for (Integer i = 0; i < count; ++i) {
     const RecentFiles::Entry& entry = recent.Entries[static_cast<std::size_t>(i)];
     for (const auto& row : RecentRows) WriteIniRow(entry, ini, FileMenuSection, row, NumberText(i + 1));

@@ -46,11 +46,12 @@ struct NormalDescription {
 NormalDescription Normalized(std::string_view text) {
   NormalDescription result;
   while (!text.empty()) {
-    std::string line(TakeLine(text));
+    const std::string_view line = TakeLine(text);
     if (Trim(line).empty()) continue;
-    const int count = CharacterCount(Trim(line)) > LongestLine ? WrapDescriptionLine(line) : 1;
-    result.lines = ToInteger(result.lines + count);
-    result.text += line;
+    const bool isTooLong = CharacterCount(Trim(line)) > LongestLine;
+    const WrappedLine wrapped = isTooLong ? WrapDescriptionLine(line) : WrappedLine{std::string(line)};
+    result.lines = ToInteger(result.lines + wrapped.count);
+    result.text += wrapped.text;
     result.text += LineEnd;
   }
   if (!result.text.empty()) result.text.resize(result.text.size() - LineEnd.size());

@@ -136,16 +136,17 @@ void BackupsWindow::ClearProject() {
 // longer counts as damaged.
 void BackupsWindow::SaveAs() {
   const FileOnDisk last = program_.project.LastFile;
-  SaveRemarks remarks;
+  SaveOutcome save;
   RunTrapped(program_, [&] {
-    remarks.clear();
+    save = {};
     const Backup entry = *Selected();
     FileSystem& files = program_.platform.files;
     const auto bytes = KeptProjectAsFile(program_, files.ReadFile(entry.Path));
     if (!bytes) return;
     const FileQuestion question = ProjectFileQuestion(program_, entry.Project);
     const std::string path = program_.platform.fileDialogs.AskSaveName(question);
-    OverwrittenFile(program_, path).Overwrite(*bytes, remarks);
+    save = OverwrittenFile(program_, path).Overwrite(*bytes);
+    if (save.Failure) throw RuntimeError(*save.Failure);
     AddHistoryLine(program_, "Backup saved as: " + path);
     List();
   });
@@ -154,7 +155,7 @@ void BackupsWindow::SaveAs() {
   const bool isMended = last.IsSpoilt && now.Path == last.Path && !now.IsSpoilt;
   if (!isHeld) program_.project.LastFile = last;
   if (isMended) program_.project.LastFile.IsSpoilt = false;
-  ShowRemarks(program_, remarks);
+  ShowRemarks(program_, save);
 }
 
 void BackupsWindow::Delete() {

@@ -18,9 +18,9 @@ CurveStyle StyleOf(int item) { return static_cast<CurveStyle>(item + NumberOf(Cu
 GraphOptionsDialog::GraphOptionsDialog(Program& program, Chart& chart)
     : ProgramForm(program, "frmGraphOpt", "Graph Parameters and Options"), chart_(chart) {
   Option1.Click = [this](Integer option) { ChooseFormat(FormatParameters{option}); };
-  Combo1.Change = [this] { KeepToItems(Combo1, lastGridItem_); };
+  Combo1.Change = [this] { lastGridItem_ = ValidItem(Combo1, lastGridItem_); };
   Combo2.Change = [this] {
-    KeepToItems(Combo2, lastStyleItem_);
+    lastStyleItem_ = ValidItem(Combo2, lastStyleItem_);
     EnableSymbolSize();
   };
   HScroll1.Change = [this] { txtSS.SetText(NumberText(HScroll1.Value())); };
@@ -76,13 +76,11 @@ void GraphOptionsDialog::EnableSymbolSize() {
   HScroll1.SetEnabled(drawsSymbols && Combo2.Enabled());
 }
 
-void GraphOptionsDialog::KeepToItems(Combo& list, int& lastValid) {
-  if (list.HasSelection()) {
-    lastValid = list.ListIndex();
-    return;
-  }
+int GraphOptionsDialog::ValidItem(Combo& list, int lastValid) {
+  if (list.HasSelection()) return list.ListIndex();
   ShowMessage(program_, "Please select a valid entry");
   list.SetListIndex(lastValid);
+  return lastValid;
 }
 
 void GraphOptionsDialog::ReadFields() const {

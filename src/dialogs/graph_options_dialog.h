@@ -50,7 +50,8 @@ class GraphOptionsDialog : public ProgramForm {
   void ChooseFormat(FormatParameters format);
   void EnableFields(bool enabled);
   void EnableSymbolSize();
-  void KeepToItems(Combo& list, int& lastValid);
+  // Returns the selected item. A text that is no item is refused, and the last valid one selected again.
+  int ValidItem(Combo& list, int lastValid);
   void ReadFields() const;
   void Accept();
 

@@ -9,8 +9,8 @@ namespace orby {
 enum class Keeping { Nothing, Name, NameAndUnits };
 
 // Sets WorkParms to the values of a new design, clears title, description and report pages, and sets FileSaved and
-// FileEmpty. The name becomes UntitledName if it is not kept, the units become the user's defaults if they are not kept.
-// Does not change the choice of the estimator, the table choice, the computed fields and WorkParmsCopy.
+// FileEmpty. The name becomes UntitledName if it is not kept, the units become the user's defaults if they are not
+// kept. Does not change the choice of the estimator, the table choice, the computed fields and WorkParmsCopy.
 void FileNew(Program& program, Keeping keeping);
 
 }  // namespace orby

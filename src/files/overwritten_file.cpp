@@ -57,17 +57,16 @@ void OverwrittenFile::Look() {
 // A program for scripts has no folder for its data and stores no backups.
 bool OverwrittenFile::MayKeep() const { return !BackupFolder(program_.session).empty(); }
 
-void OverwrittenFile::Overwrite(std::string_view bytes, std::vector<std::string>& remarks) {
-  if (MayKeep()) Keep(bytes);
-  try {
-    Write(bytes);
-  } catch (const RuntimeError&) {
+SaveOutcome OverwrittenFile::Overwrite(std::string_view bytes) {
+  if (MayKeep()) {
+    if (const auto failure = FailureOf([&] { Keep(bytes); })) return {failure};
+  }
+  if (const auto failure = FailureOf([&] { Write(bytes); })) {
     PutBack();
-    TellFailed(remarks);
-    throw;
+    return {failure, RemarksOnFailure()};
   }
   program_.project.LastFile = {path_, std::string(bytes)};
-  TellKept(remarks);
+  return {.Remarks = RemarksOnSuccess()};
 }
 
 void OverwrittenFile::Keep(std::string_view bytes) {
@@ -149,7 +148,8 @@ void OverwrittenFile::PutBack() {
   if (isAsBefore_ && program_.project.LastFile.Path == path_) program_.project.LastFile.IsSpoilt = false;
 }
 
-void OverwrittenFile::TellKept(std::vector<std::string>& remarks) {
+std::vector<std::string> OverwrittenFile::RemarksOnSuccess() {
+  std::vector<std::string> remarks;
   if (!beside_.empty()) {
     remarks.push_back("The old contents of " + path_ + " are too long for Backups. The old file is kept as " + beside_ +
                       ".");
@@ -169,22 +169,22 @@ void OverwrittenFile::TellKept(std::vector<std::string>& remarks) {
                       "other program wrote is kept in " +
                       *backup_ + ".");
   }
+  return remarks;
 }
 
-void OverwrittenFile::TellFailed(std::vector<std::string>& remarks) const {
+std::vector<std::string> OverwrittenFile::RemarksOnFailure() const {
   if (isAsBefore_) {
-    if (backup_) remarks.push_back(path_ + " is as it was before. A copy of it is kept in " + *backup_ + ".");
-  } else if (!beside_.empty()) {
-    remarks.push_back(path_ + " could not be saved. The old file is kept as " + beside_ + ".");
-  } else if (backup_) {
-    remarks.push_back(path_ + " may be damaged. What it held before is kept in " + *backup_ + ".");
-  } else if (holds_ == Holds::Known && !old_.empty()) {
-    remarks.push_back(path_ +
-                      " may be damaged, and no backup of it could be kept. Save the project before you leave "
-                      "the program.");
-  } else if (isTouched_) {
-    remarks.push_back(path_ + " may be damaged.");
+    if (!backup_) return {};
+    return {path_ + " is as it was before. A copy of it is kept in " + *backup_ + "."};
   }
+  if (!beside_.empty()) return {path_ + " could not be saved. The old file is kept as " + beside_ + "."};
+  if (backup_) return {path_ + " may be damaged. What it held before is kept in " + *backup_ + "."};
+  if (holds_ == Holds::Known && !old_.empty()) {
+    return {path_ +
+            " may be damaged, and no backup of it could be kept. Save the project before you leave the program."};
+  }
+  if (isTouched_) return {path_ + " may be damaged."};
+  return {};
 }
 
 }  // namespace orby

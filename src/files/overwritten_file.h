@@ -7,10 +7,17 @@
 #include <string_view>
 #include <vector>
 
+#include "base/runtime_error.h"
 #include "core/program.h"
 #include "files/backups.h"
 
 namespace orby {
+
+// How a save ended.
+struct SaveOutcome {
+  std::optional<RuntimeError> Failure = std::nullopt;  // the error of the file, or nothing when the save succeeded
+  std::vector<std::string> Remarks{};                  // for the user, each in a message of its own
+};
 
 class OverwrittenFile {
  public:
@@ -18,9 +25,8 @@ class OverwrittenFile {
   OverwrittenFile(Program& program, std::string path);
 
   // Stores the old contents and overwrites the file. Returns after the bytes are on the disk, and sets LastFile of the
-  // project to them. Appends remarks for the user. Throws the RuntimeError of the file after an attempt to restore the
-  // old bytes.
-  void Overwrite(std::string_view bytes, std::vector<std::string>& remarks);
+  // project to them. After a failure it has tried to restore the old bytes.
+  SaveOutcome Overwrite(std::string_view bytes);
 
   // Returns the path of the backup that Overwrite has stored, or nothing when there is none.
   const std::optional<std::string>& Backup() const { return backup_; }
@@ -43,8 +49,8 @@ class OverwrittenFile {
   void Hold();
   void Write(std::string_view bytes);
   void PutBack();
-  void TellKept(std::vector<std::string>& remarks);
-  void TellFailed(std::vector<std::string>& remarks) const;
+  std::vector<std::string> RemarksOnSuccess();
+  std::vector<std::string> RemarksOnFailure() const;
 
   Program& program_;
   std::string path_;

@@ -26,8 +26,7 @@ void ReadRest(InputFile& file, std::string& bytes) {
 
 }  // namespace
 
-void FileOpen(Program& program, bool& ok) {
-  ok = false;
+bool FileOpen(Program& program) {
   program.platform.windows.SetWaitCursor(true);
   program.project.LastFile = {};
   FileNew(program, Keeping::Name);
@@ -35,7 +34,8 @@ void FileOpen(Program& program, bool& ok) {
 
   const auto file = program.platform.files.OpenFile(program.project.CurrentFile);
   std::string bytes = file->Read(HeadBytes);
-  if (CheckFileFormat(program, ItemReader(bytes))) {
+  const bool ok = CheckFileFormat(program, ItemReader(bytes));
+  if (ok) {
     ReadRest(*file, bytes);
     ReadProject(program.project, ItemReader(bytes));
     // A later change of a longer file is not detected.
@@ -43,9 +43,9 @@ void FileOpen(Program& program, bool& ok) {
     program.project.FileSaved = true;
     program.project.FileEmpty = false;
     program.project.UnitsLocked = true;
-    ok = true;
   }
   program.platform.windows.SetWaitCursor(false);
+  return ok;
 }
 
 }  // namespace orby

@@ -9,8 +9,8 @@
 namespace orby {
 
 // Opens CurrentFile as the project: sets a new design in the default unit system, checks the format and reads the file.
-// Sets `ok` to true if the file was read. For a file of an unknown format, shows an error and keeps the new design.
+// Returns true if the file was read. For a file of an unknown format, shows an error and keeps the new design.
 // Throws the RuntimeError of the file and keeps the values read before it.
-void FileOpen(Program& program, bool& ok);
+bool FileOpen(Program& program);
 
 }  // namespace orby

@@ -4,26 +4,21 @@
 // memory when that fails, and are restored when the save fails.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "core/program.h"
+#include "files/overwritten_file.h"
 
 namespace orby {
 
-// Remarks about a save for the user. Each one is shown in a message of its own.
-using SaveRemarks = std::vector<std::string>;
-
 // Normalises the description, encodes the project, stores the old contents of CurrentFile and overwrites it. Sets
-// FileSaved and `ok` to true after the bytes are on the disk. The remarks report a file that another program had
-// changed, a backup that could not be stored, and fields that would not read back unchanged.
-// Throws the RuntimeError of the file after an attempt to restore the old contents. FileSaved and `ok` are false then,
-// the description is unchanged, and the remarks contain the path of the backup.
-void FileSave(Program& program, bool& ok, SaveRemarks& remarks);
+// FileSaved to true after the bytes are on the disk. The remarks report a file that another program had changed, a
+// backup that could not be stored, and fields that would not read back unchanged.
+// After a failure the old contents are restored if possible, FileSaved is false, the description is unchanged, and the
+// remarks contain the path of the backup.
+SaveOutcome TryFileSave(Program& program);
 
-// Saves and shows the remarks. When the save throws, it shows none.
-void FileSave(Program& program, bool& ok);
+// Saves and shows the remarks. Throws the error of a save that failed, and shows no remarks then.
+void FileSave(Program& program);
 
-void ShowRemarks(Program& program, const SaveRemarks& remarks);
+void ShowRemarks(Program& program, const SaveOutcome& save);
 
 }  // namespace orby

@@ -41,11 +41,13 @@ bool FileMenuSave(Program& program, SaveCommand command) {
     const auto outcome = RunTrapped(program, [&] { AskFileName(program, FileDialogMode::Save); });
     if (outcome != StepOutcome::Done) return false;
   }
-  bool ok = false;
-  SaveRemarks remarks;
-  RunTrapped(program, [&] { FileSave(program, ok, remarks); });
-  ShowRemarks(program, remarks);
-  return ok;
+  SaveOutcome save;
+  RunTrapped(program, [&] {
+    save = TryFileSave(program);
+    if (save.Failure) throw RuntimeError(*save.Failure);
+  });
+  ShowRemarks(program, save);
+  return !save.Failure;
 }
 
 bool MayLeavePreviousFile(Program& program) {

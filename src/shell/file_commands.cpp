@@ -63,9 +63,8 @@ void MainWindow::OpenFile(const std::string& path, Trap trap) {
 void MainWindow::LoadProjFile(Trap trap) {
   bool ok = false;
   Run(trap, [&] {
-    While(Act::OpenFile, program_.project.CurrentFile, [&] {
-      if (MayLeavePreviousFile(program_)) FileOpen(program_, ok);
-    });
+    While(Act::OpenFile, program_.project.CurrentFile,
+          [&] { ok = MayLeavePreviousFile(program_) && FileOpen(program_); });
   });
   recovery_.Committed();
   if (!ok) return;

@@ -45,9 +45,7 @@ struct TheBackupsWindow : testing::Test {
 
   void OpenProject(const std::string& path) {
     program.project.CurrentFile = path;
-    bool isRead = false;
-    FileOpen(program, isRead);
-    ASSERT_TRUE(isRead);
+    ASSERT_TRUE(FileOpen(program));
   }
 
   // Leaves two backups: an overwritten file of panel 4 and, newer, unsaved changes of panel 3.

@@ -50,7 +50,9 @@ struct OverwrittenOnDisk : testing::Test {
   OverwrittenOnDisk() { program.session.folders.ProgramData = folder.At("data/"); }
 
   int ErrorOfSaving(const std::string& name) {
-    return ErrorNumberOf([&] { OverwrittenFile(program, folder.At(name)).Overwrite("the new design", remarks); });
+    const SaveOutcome save = OverwrittenFile(program, folder.At(name)).Overwrite("the new design");
+    remarks = save.Remarks;
+    return save.Failure ? save.Failure->number() : 0;
   }
   mode_t ModeOf(const std::string& name) const {
     struct stat facts {};

@@ -256,9 +256,9 @@ TEST(ProjectFile, ThatIsCutAnywhereIsAnEndOfFileError) {
   for (std::size_t length = 0; length <= bytes.size() - lastValue.size(); ++length) {
     TestProject project;
     project.File() = bytes.substr(0, length);
-    bool ok = true;
+    bool ok = false;
 
-    const int error = ErrorNumberOf([&] { FileOpen(project.program, ok); });
+    const int error = ErrorNumberOf([&] { ok = FileOpen(project.program); });
 
     const bool labelIsCut = length > 0 && length < 8;
     EXPECT_EQ(error, labelIsCut ? 0 : 62) << length;

@@ -25,16 +25,11 @@ struct TestProject {
   std::string& File() { return platform.files.files[ProjectPath]; }
 
   bool Save() {
-    bool ok = false;
-    FileSave(program, ok);
-    return ok;
+    FileSave(program);
+    return program.project.FileSaved;
   }
 
-  bool Open() {
-    bool ok = false;
-    if (MayLeavePreviousFile(program)) FileOpen(program, ok);
-    return ok;
-  }
+  bool Open() { return MayLeavePreviousFile(program) && FileOpen(program); }
 
   bool Open(std::string bytes) {
     File() = std::move(bytes);

@@ -31,9 +31,7 @@ void FillFigures(Design& design, const std::vector<std::string>& fields) {
 void OpenProject(Desk& desk, const std::string& bytes) {
   desk.program.project.CurrentFile = "/designs/golden.orb";
   desk.machine.files.files[desk.program.project.CurrentFile] = bytes;
-  bool isRead = false;
-  FileOpen(desk.program, isRead);
-  if (!isRead) throw std::runtime_error("no project file");
+  if (!FileOpen(desk.program)) throw std::runtime_error("no project file");
 }
 
 }  // namespace

@@ -59,16 +59,14 @@ struct FileRun {
 // Returns false if the file is no project.
 bool OpenProject(FileRun& run, const std::string& file) {
   run.program.project.CurrentFile = file;
-  bool opened = false;
-  FileOpen(run.program, opened);
+  const bool opened = FileOpen(run.program);
   if (opened && run.line.Name) run.program.project.CurrentFile = *run.line.Name;
   return opened;
 }
 
 void SaveAs(FileRun& run, const std::string& file) {
   run.program.project.CurrentFile = file;
-  bool saved = false;
-  FileSave(run.program, saved);
+  FileSave(run.program);
 }
 
 // Builds the report pages and returns the design that Results shows. A design whose report fails has no curves either.
