@@ -7,6 +7,7 @@
 
 namespace orby {
 
+// Numbers and no enumeration: messages show them, and every number has a text.
 namespace error_number {
 inline constexpr int BadCall = 5;
 inline constexpr int Overflow = 6;

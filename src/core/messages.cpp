@@ -23,62 +23,58 @@ constexpr std::array<std::string_view, 13> ModulePrefixes{"Project Description: 
                                                           "",
                                                           ""};
 
-constexpr int ErrorClassCount = 7;
-constexpr int ClassOther = 4;
-constexpr int ClassCancelled = 5;
+enum class ErrorKind { Printer, Device, Arithmetic, Path, Cancelled, DataBase, Other };
 
-struct ErrorClass {
+struct KnownError {
   int number;
-  int errorClass;
+  ErrorKind kind;
 };
 
 constexpr int UnknownDataBaseError = static_cast<int>(0x80040E14);
 
-constexpr std::array ErrorClasses{ErrorClass{482, 0},
-                                  ErrorClass{483, 0},
-                                  ErrorClass{484, 0},  // printer
-                                  ErrorClass{24, 1},
-                                  ErrorClass{25, 1},
-                                  ErrorClass{27, 1},
-                                  ErrorClass{53, 1},
-                                  ErrorClass{57, 1},  // device
-                                  ErrorClass{61, 1},
-                                  ErrorClass{62, 1},
-                                  ErrorClass{70, 1},
-                                  ErrorClass{71, 1},
-                                  ErrorClass{72, 1},  //
-                                  ErrorClass{5, 2},
-                                  ErrorClass{6, 2},
-                                  ErrorClass{7, 2},  // arithmetic
-                                  ErrorClass{52, 3},
-                                  ErrorClass{55, 3},
-                                  ErrorClass{64, 3},
-                                  ErrorClass{68, 3},
-                                  ErrorClass{75, 3},  // names, paths
-                                  ErrorClass{76, 3},
-                                  ErrorClass{32755, ClassCancelled},
-                                  ErrorClass{UnknownDataBaseError, 6}};
+constexpr std::array KnownErrors{KnownError{482, ErrorKind::Printer},
+                                 KnownError{483, ErrorKind::Printer},
+                                 KnownError{484, ErrorKind::Printer},
+                                 KnownError{24, ErrorKind::Device},
+                                 KnownError{25, ErrorKind::Device},
+                                 KnownError{27, ErrorKind::Device},
+                                 KnownError{53, ErrorKind::Device},
+                                 KnownError{57, ErrorKind::Device},
+                                 KnownError{61, ErrorKind::Device},
+                                 KnownError{62, ErrorKind::Device},
+                                 KnownError{70, ErrorKind::Device},
+                                 KnownError{71, ErrorKind::Device},
+                                 KnownError{72, ErrorKind::Device},
+                                 KnownError{5, ErrorKind::Arithmetic},
+                                 KnownError{6, ErrorKind::Arithmetic},
+                                 KnownError{7, ErrorKind::Arithmetic},
+                                 KnownError{52, ErrorKind::Path},
+                                 KnownError{55, ErrorKind::Path},
+                                 KnownError{64, ErrorKind::Path},
+                                 KnownError{68, ErrorKind::Path},
+                                 KnownError{75, ErrorKind::Path},
+                                 KnownError{76, ErrorKind::Path},
+                                 KnownError{error_number::Cancelled, ErrorKind::Cancelled},
+                                 KnownError{UnknownDataBaseError, ErrorKind::DataBase}};
 
-int ClassOf(int number) {
-  const auto* row = std::find_if(ErrorClasses.begin(), ErrorClasses.end(),
-                                 [number](const ErrorClass& entry) { return entry.number == number; });
-  return row == ErrorClasses.end() ? ClassOther : row->errorClass;
+ErrorKind KindOf(int number) {
+  const auto* row = std::find_if(KnownErrors.begin(), KnownErrors.end(),
+                                 [number](const KnownError& entry) { return entry.number == number; });
+  return row == KnownErrors.end() ? ErrorKind::Other : row->kind;
 }
 
-struct ClassRule {
-  bool offersRetry;
-  Decision decision;  // when the user is not asked or does not retry
-};
+bool OffersRetry(ErrorKind kind) { return kind == ErrorKind::Printer || kind == ErrorKind::Device; }
 
-constexpr std::array<ClassRule, ErrorClassCount> ClassRules{{
-    {true, Decision::Continue},
-    {true, Decision::Continue},
-    {false, Decision::GiveUp},
-    {false, Decision::GiveUp},
-    {false, Decision::GiveUp},
-    {false, Decision::Cancelled},
-    {false, Decision::DataBase},
-}};
+// When the user is not asked or does not retry.
+Decision DecisionOn(ErrorKind kind) {
+  switch (kind) {
+    case ErrorKind::Printer:
+    case ErrorKind::Device: return Decision::Continue;
+    case ErrorKind::Cancelled: return Decision::Cancelled;
+    case ErrorKind::DataBase: return Decision::DataBase;
+    default: return Decision::GiveUp;
+  }
+}
 
 // Removes all but the last two lines of a history.
 void TrimHistory(std::string& text) {
@@ -134,25 +130,25 @@ void AddHistoryLine(Program& program, std::string_view text) {
 }
 
 Decision ErrorDecision(Program& program, const RuntimeError& error, Telling telling) {
-  const int errorClass = ClassOf(error.number());
-  const ClassRule& rule = ClassRules[static_cast<std::size_t>(errorClass)];
-  if (telling == Telling::Silent) return rule.decision;
+  const ErrorKind kind = KindOf(error.number());
+  const Decision decision = DecisionOn(kind);
+  if (telling == Telling::Silent) return decision;
 
   const std::string description(error.description());
-  if (errorClass == ClassCancelled) {
+  if (kind == ErrorKind::Cancelled) {
     AddHistoryLine(program, description);
-    return rule.decision;
+    return decision;
   }
   const std::string number = NumberText(error.number());
   // A number that is not negative has a blank in the place of its sign.
   AddHistoryLine(program, "Error " + std::string(error.number() < 0 ? "" : " ") + number + ":" + description);
   const std::string told = "Error occurred: " + description + " (" + number + ")";
-  if (!rule.offersRetry) {
+  if (!OffersRetry(kind)) {
     ShowMessage(program, told + ". Procedure Terminated", BoxButtons::Ok);
-    return rule.decision;
+    return decision;
   }
   const BoxResult answer = ShowMessage(program, told, BoxButtons::RetryCancel, program.windows.titles.ErrorTitle);
-  return answer == BoxResult::Retry ? Decision::Retry : rule.decision;
+  return answer == BoxResult::Retry ? Decision::Retry : decision;
 }
 
 }  // namespace orby

@@ -12,7 +12,7 @@
 
 namespace orby {
 
-// The bolt catalogs that the dialog edits.
+// The bolt catalogs that the dialog edits, as indices of its arrays.
 namespace bolt_catalog {
 inline constexpr std::size_t English = 0;
 inline constexpr std::size_t Metric = 1;
