@@ -3,9 +3,9 @@
 namespace orby {
 
 Bolt SelectedBolt(const BoltSelection& set) {
-  if (set.Options != 1) return {set.TableDiameter, set.TableGrade};
-  return {set.DiameterMode == 0 ? set.DiameterStd : set.DiameterManual,
-          set.GradeMode == 0 ? set.GradeStd : set.GradeManual};
+  if (set.Options != BoltSource::Manual) return {set.TableDiameter, set.TableGrade};
+  return {set.DiameterMode == ValueSource::Standard ? set.DiameterStd : set.DiameterManual,
+          set.GradeMode == ValueSource::Standard ? set.GradeStd : set.GradeManual};
 }
 
 }  // namespace orby

@@ -3,6 +3,7 @@
 //
 // English (Metric) units, by the unit system of the design: lengths ft (m), stresses ksi (MPa), forces tons (kN), line
 // loads tons/ft (kN/m), diameters in (mm), unit weight pcf (kN/m3). Angles are degrees. Flags are 0 and 1.
+// They are Integers, because another number that a file gives is kept, and written back.
 #pragma once
 
 #include <array>
@@ -13,6 +14,11 @@
 #include "design/units.h"
 
 namespace orby {
+
+// Choices, by their numbers in a project file. Another number that a file gives is kept, and written back.
+enum class BoltSource : Integer { Table, Manual };
+enum class ValueSource : Integer { Standard, Typed };
+enum class CapacityMode : Integer { ByDiameter, Given };
 
 // Marks a typed number that is outside the range of a Single.
 inline constexpr Single Unfit = std::numeric_limits<Single>::quiet_NaN();
@@ -34,15 +40,15 @@ struct Site {
 // A set of roof bolts and their pattern.
 struct BoltSelection {
   Single Length = 0;
-  Integer Options = 0;   // 0 from the standard table, 1 manual selection
+  BoltSource Options = BoltSource::Table;
   Integer TableRow = 0;  // zero-based row of the standard table
   Single TableDiameter = 0;
   Single TableGrade = 0;
   std::string Desc;
-  Integer DiameterMode = 0;  // manual selection: 0 standard list, 1 typed
+  ValueSource DiameterMode = ValueSource::Standard;  // of a manual selection, as is the grade's
   Single DiameterStd = 0;
   Single DiameterManual = 0;
-  Integer GradeMode = 0;
+  ValueSource GradeMode = ValueSource::Standard;
   Single GradeStd = 0;
   Single GradeManual = 0;
   Single BoltsperRow = 0;  // entries
@@ -67,8 +73,8 @@ struct SupportSystem {
 
 struct CableSelection : SupportSystem {
   Single Length = 0;
-  Integer CapMode = 0;   // 0 capacity by diameter, 1 given
-  Integer Capacity = 0;  // of a given capacity: 0 the standard value, 1 the typed one
+  CapacityMode CapMode = CapacityMode::ByDiameter;
+  ValueSource Capacity = ValueSource::Standard;  // of a given capacity
   Single Diam = 0;
   Single CapacityStd = 0;
   Single CapacityManual = 0;
@@ -92,7 +98,7 @@ struct SecondaryBolts : SupportSystem, BoltSelection {
 };
 
 struct StandingSelection : SupportSystem {
-  Integer TypeMode = 0;  // 0 from the catalog, 1 typed
+  ValueSource TypeMode = ValueSource::Standard;
   std::string TypeName;
   Single Capacity = 0;
   Single NumberPerRow = 0;  // entries

@@ -13,6 +13,10 @@ namespace orby {
 template <class Path, class T>
 concept LeadsTo = std::same_as<std::invoke_result_t<Path, Design&>, T*>;
 
+// A choice has the numbers of an Integer.
+template <class Path>
+concept LeadsToChoice = std::is_enum_v<std::remove_pointer_t<std::invoke_result_t<Path, Design&>>>;
+
 template <class T>
 class FieldOf {
  public:
@@ -35,7 +39,42 @@ class FieldOf {
   const T* (*inConstant_)(const Design&);
 };
 
-using IntegerField = FieldOf<Integer>;
+// A field of whole numbers: an Integer, or a choice by its number.
+class IntegerField {
+ public:
+  // `path`: see FieldOf
+  template <class Path>
+  requires LeadsTo<Path, Integer> || LeadsToChoice<Path>
+  constexpr IntegerField(Path) : get_(GetAt<Path>), set_(SetAt<Path>), at_(AddressAt<Path>) {}
+
+  Integer Get(const Design& design) const { return get_(design); }
+  void Set(Design& design, Integer number) const { set_(design, number); }
+  // Returns true if both are the same field, also when their paths differ.
+  bool operator==(const IntegerField& other) const {
+    static const Design sample;
+    return at_(sample) == other.at_(sample);
+  }
+
+ private:
+  template <class Path>
+  static Integer GetAt(const Design& design) {
+    return NumberOf(*Path{}(design));
+  }
+  template <class Path>
+  static void SetAt(Design& design, Integer number) {
+    auto& field = *Path{}(design);
+    field = std::remove_reference_t<decltype(field)>{number};
+  }
+  template <class Path>
+  static const void* AddressAt(const Design& design) {
+    return Path{}(design);
+  }
+
+  Integer (*get_)(const Design&);
+  void (*set_)(Design&, Integer);
+  const void* (*at_)(const Design&);
+};
+
 using SingleField = FieldOf<Single>;
 using TextField = FieldOf<std::string>;
 using AnyField = std::variant<IntegerField, SingleField, TextField>;

@@ -85,10 +85,15 @@ double Value(const D& d) {
   return Value(d.*box);
 }
 
-bool Is(const OptionArray& options, Integer index) { return GetArrayIndex(options) == index; }
+template <class Choice>
+bool Is(const OptionArray& options, Choice choice) {
+  return Chosen<Choice>(options) == choice;
+}
 
 // Returns true if the value comes from the list and nothing is selected there.
-bool NothingSelected(const OptionArray& mode, const Combo& list) { return Is(mode, 0) && !list.HasSelection(); }
+bool NothingSelected(const OptionArray& mode, const Combo& list) {
+  return Is(mode, ValueSource::Standard) && !list.HasSelection();
+}
 
 // ---- rules ---------------------------------------------------------------------------------------------------------
 
@@ -117,14 +122,17 @@ constexpr Rule BoltLength() {
 template <Bolts set>
 constexpr Rule DiameterSelected() {
   return {[](const D& d) {
-            return Is((d.*set).Options, 1) && NothingSelected((d.*set).DiameterMode, (d.*set).DiameterStd);
+            return Is((d.*set).Options, BoltSource::Manual) &&
+                   NothingSelected((d.*set).DiameterMode, (d.*set).DiameterStd);
           },
           "Roof bolt diameter NOT selected from available options", At<set, &BoltControls::DiameterStd>};
 }
 
 template <Bolts set>
 constexpr Rule GradeSelected(Control& (*focus)(D&) = At<set, &BoltControls::GradeStd>) {
-  return {[](const D& d) { return Is((d.*set).Options, 1) && NothingSelected((d.*set).GradeMode, (d.*set).GradeStd); },
+  return {[](const D& d) {
+            return Is((d.*set).Options, BoltSource::Manual) && NothingSelected((d.*set).GradeMode, (d.*set).GradeStd);
+          },
           "Roof bolt grade NOT selected from available options", focus};
 }
 
@@ -132,8 +140,9 @@ constexpr Rule GradeSelected(Control& (*focus)(D&) = At<set, &BoltControls::Grad
 template <Bolts set>
 bool BadTypedDiameter(const D& d) {
   const BoltControls& bolt = d.*set;
-  if (!Is(bolt.DiameterMode, 1)) return false;
-  return (Is(bolt.Options, 1) && Value(bolt.DiameterManual) <= 0) || Value(bolt.DiameterManual) > ThickestBolt(d);
+  if (!Is(bolt.DiameterMode, ValueSource::Typed)) return false;
+  return (Is(bolt.Options, BoltSource::Manual) && Value(bolt.DiameterManual) <= 0) ||
+         Value(bolt.DiameterManual) > ThickestBolt(d);
 }
 
 template <Bolts set>
@@ -146,7 +155,8 @@ template <Bolts set>
 constexpr Rule TypedGrade(std::string_view message) {
   return {[](const D& d) {
             const BoltControls& bolt = d.*set;
-            return Is(bolt.GradeMode, 1) && Is(bolt.Options, 1) && Value(bolt.GradeManual) <= 0;
+            return Is(bolt.GradeMode, ValueSource::Typed) && Is(bolt.Options, BoltSource::Manual) &&
+                   Value(bolt.GradeManual) <= 0;
           },
           message, At<set, &BoltControls::GradeManual>};
 }
@@ -159,15 +169,17 @@ constexpr Rule CableCapacity() {
 
 template <Cables set>
 constexpr Rule CableDiameterSelected(InnerTab inner = {}) {
-  return {[](const D& d) { return NothingSelected((d.*set).CapMode, (d.*set).Diam); },
+  return {[](const D& d) { return Is((d.*set).CapMode, CapacityMode::ByDiameter) && !(d.*set).Diam.HasSelection(); },
           "Cable Diameter not Selected from Available Options", At<set, &CableControls::Diam>, nullptr, inner};
 }
 
 template <Cables set>
 constexpr Rule CableCapacitySelected(InnerTab inner = {}) {
-  return {
-      [](const D& d) { return Is((d.*set).CapMode, 1) && NothingSelected((d.*set).Capacity, (d.*set).CapacityStd); },
-      "Cable Capacity not Selected from Available Options", At<set, &CableControls::CapacityStd>, nullptr, inner};
+  return {[](const D& d) {
+            return Is((d.*set).CapMode, CapacityMode::Given) &&
+                   NothingSelected((d.*set).Capacity, (d.*set).CapacityStd);
+          },
+          "Cable Capacity not Selected from Available Options", At<set, &CableControls::CapacityStd>, nullptr, inner};
 }
 
 // A list whose text was cleared keeps its selection, but shows no name to look up.
@@ -175,7 +187,8 @@ template <Supports set>
 constexpr Rule SupportSelected(InnerTab inner = {}) {
   return {[](const D& d) {
             const StandingControls& standing = d.*set;
-            return Is(standing.TypeMode, 0) && (!standing.TypeStd.HasSelection() || standing.TypeStd.Text().empty());
+            return Is(standing.TypeMode, ValueSource::Standard) &&
+                   (!standing.TypeStd.HasSelection() || standing.TypeStd.Text().empty());
           },
           "Invalid standing support specification", At<set, &StandingControls::TypeStd>, nullptr, inner};
 }
@@ -185,7 +198,7 @@ constexpr Rule SupportCapacity() {
   return {[](const D& d) { return Value((d.*set).Capacity) <= 0; }, "Invalid standing support capacity",
           [](D& d) -> Control& {
             StandingControls& standing = d.*set;
-            if (Is(standing.TypeMode, 0)) return standing.TypeStd;
+            if (Is(standing.TypeMode, ValueSource::Standard)) return standing.TypeStd;
             return standing.Capacity;
           }};
 }

@@ -8,19 +8,19 @@ namespace {
 
 // The table is visible only on its own tab.
 void ShowBoltFrames(BoltControls& bolt) {
-  const bool manual = GetArrayIndex(bolt.Options) == 1;
+  const bool manual = Chosen<BoltSource>(bolt.Options) == BoltSource::Manual;
   bolt.TableFrame.SetVisible(!manual && bolt.Tabs.Tab() == bolt.Tab);
   bolt.ManualFrame.SetVisible(manual);
 }
 
-void ShowListOrText(Integer mode, Combo& list, TextBox& text) {
-  list.SetVisible(mode == 0);
-  text.SetVisible(mode == 1);
+void ShowListOrText(ValueSource source, Combo& list, TextBox& text) {
+  list.SetVisible(source == ValueSource::Standard);
+  text.SetVisible(source == ValueSource::Typed);
 }
 
 void ApplyCableRule(CableControls& cable) {
-  const bool byCapacity = GetArrayIndex(cable.CapMode) == 1;
-  const bool typed = GetArrayIndex(cable.Capacity) == 1;
+  const bool byCapacity = Chosen<CapacityMode>(cable.CapMode) == CapacityMode::Given;
+  const bool typed = Chosen<ValueSource>(cable.Capacity) == ValueSource::Typed;
   cable.Diam.SetEnabled(!byCapacity);
   cable.SpecificationFrame.SetEnabled(byCapacity);
   cable.Capacity.SetAllEnabled(byCapacity);
@@ -28,8 +28,8 @@ void ApplyCableRule(CableControls& cable) {
   cable.CapacityManual.SetVisible(byCapacity && typed);
 }
 
-void ApplyStandingRule(StandingControls& standing, Integer mode) {
-  const bool typed = mode == 1;
+void ApplyStandingRule(StandingControls& standing, ValueSource source) {
+  const bool typed = source == ValueSource::Typed;
   standing.TypeStd.SetEnabled(!typed);
   standing.TypeManual.SetEnabled(typed);
   standing.Capacity.SetEnabled(typed);
@@ -145,11 +145,11 @@ void ParametersDialog::TieBolt(BoltControls& bolt, const Refreshes& refreshes) {
   bolt.Options.Click = [&bolt](Integer) { ShowBoltFrames(bolt); };
   bolt.Tabs.Click = [&bolt] { ShowBoltFrames(bolt); };
   bolt.DiameterMode.Click = [this, &bolt, &refreshes](Integer mode) {
-    ShowListOrText(mode, bolt.DiameterStd, bolt.DiameterManual);
+    ShowListOrText(ValueSource{mode}, bolt.DiameterStd, bolt.DiameterManual);
     Run(refreshes);
   };
   bolt.GradeMode.Click = [this, &bolt, &refreshes](Integer mode) {
-    ShowListOrText(mode, bolt.GradeStd, bolt.GradeManual);
+    ShowListOrText(ValueSource{mode}, bolt.GradeStd, bolt.GradeManual);
     Run(refreshes);
   };
 }
@@ -165,7 +165,7 @@ void ParametersDialog::TieCable(CableControls& cable, const Refreshes& refreshes
 
 void ParametersDialog::TieStanding(StandingControls& standing, const Refreshes& refreshes) {
   standing.TypeMode.Click = [this, &standing, &refreshes](Integer mode) {
-    ApplyStandingRule(standing, mode);
+    ApplyStandingRule(standing, ValueSource{mode});
     Run(refreshes);
   };
   standing.TypeStd.Change = [&standing] { TakeCapacity(standing); };

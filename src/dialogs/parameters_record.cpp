@@ -115,20 +115,20 @@ class NumberReader {
 };
 
 void LoadBolt(Program& program, const BoltSelection& set, BoltControls& bolt) {
-  SetArrayIndex(program, bolt.Options, set.Options);
+  SetArrayIndex(program, bolt.Options, NumberOf(set.Options));
   const int row = set.TableRow + 1;
   bolt.Table.SetRow(row >= 1 && row < bolt.Table.Rows() ? row : 1);
-  SetArrayIndex(program, bolt.DiameterMode, set.DiameterMode);
+  SetArrayIndex(program, bolt.DiameterMode, NumberOf(set.DiameterMode));
   bolt.DiameterStd.SetText(NumberText(set.DiameterStd));
   bolt.DiameterManual.SetText(NumberText(set.DiameterManual));
-  SetArrayIndex(program, bolt.GradeMode, set.GradeMode);
+  SetArrayIndex(program, bolt.GradeMode, NumberOf(set.GradeMode));
   bolt.GradeStd.SetText(NumberText(set.GradeStd));
   bolt.GradeManual.SetText(NumberText(set.GradeManual));
 }
 
 void LoadCable(Program& program, const CableSelection& set, CableControls& cable) {
-  SetArrayIndex(program, cable.CapMode, set.CapMode);
-  SetArrayIndex(program, cable.Capacity, set.Capacity);
+  SetArrayIndex(program, cable.CapMode, NumberOf(set.CapMode));
+  SetArrayIndex(program, cable.Capacity, NumberOf(set.Capacity));
   cable.Diam.SetText(NumberText(set.Diam));
   cable.CapacityStd.SetText(NumberText(set.CapacityStd));
   cable.CapacityManual.SetText(NumberText(set.CapacityManual));
@@ -136,8 +136,8 @@ void LoadCable(Program& program, const CableSelection& set, CableControls& cable
 
 // Sets the stored capacity last, because choosing the name replaces it by the catalog's capacity.
 void LoadStanding(Program& program, const StandingSelection& set, StandingControls& standing) {
-  SetArrayIndex(program, standing.TypeMode, set.TypeMode);
-  if (set.TypeMode == 0) {
+  SetArrayIndex(program, standing.TypeMode, NumberOf(set.TypeMode));
+  if (set.TypeMode == ValueSource::Standard) {
     standing.TypeStd.SetText(set.TypeName);
   } else {
     standing.TypeManual.SetText(set.TypeName);
@@ -147,30 +147,30 @@ void LoadStanding(Program& program, const StandingSelection& set, StandingContro
 
 void StoreBolt(BoltSelection& set, NumberReader& reader, const BoltControls& bolt) {
   const Grid& table = bolt.Table;
-  set.Options = GetArrayIndex(bolt.Options);
+  set.Options = Chosen<BoltSource>(bolt.Options);
   set.TableRow = static_cast<Integer>(table.Row() - 1);
   set.Desc = table.Cell(table.Row(), BoltColumn::Description);
   reader.Read(set.TableDiameter, table, table.Cell(table.Row(), BoltColumn::Diameter));
   reader.Read(set.TableGrade, table, table.Cell(table.Row(), BoltColumn::Grade));
-  set.DiameterMode = GetArrayIndex(bolt.DiameterMode);
+  set.DiameterMode = Chosen<ValueSource>(bolt.DiameterMode);
   reader.Read(set.DiameterStd, bolt.DiameterStd);
   reader.Read(set.DiameterManual, bolt.DiameterManual);
-  set.GradeMode = GetArrayIndex(bolt.GradeMode);
+  set.GradeMode = Chosen<ValueSource>(bolt.GradeMode);
   reader.Read(set.GradeStd, bolt.GradeStd);
   reader.Read(set.GradeManual, bolt.GradeManual);
 }
 
 void StoreCable(CableSelection& set, NumberReader& reader, const CableControls& cable) {
-  set.CapMode = GetArrayIndex(cable.CapMode);
-  set.Capacity = GetArrayIndex(cable.Capacity);
+  set.CapMode = Chosen<CapacityMode>(cable.CapMode);
+  set.Capacity = Chosen<ValueSource>(cable.Capacity);
   reader.Read(set.Diam, cable.Diam);
   reader.Read(set.CapacityStd, cable.CapacityStd);
   reader.Read(set.CapacityManual, cable.CapacityManual);
 }
 
 void StoreStanding(StandingSelection& set, NumberReader& reader, const StandingControls& standing) {
-  set.TypeMode = GetArrayIndex(standing.TypeMode);
-  set.TypeName = set.TypeMode == 0 ? standing.TypeStd.Text() : standing.TypeManual.Text();
+  set.TypeMode = Chosen<ValueSource>(standing.TypeMode);
+  set.TypeName = set.TypeMode == ValueSource::Standard ? standing.TypeStd.Text() : standing.TypeManual.Text();
   reader.Read(set.Capacity, standing.Capacity);
 }
 
@@ -235,7 +235,7 @@ void ParametersDialog::InitParameters() {
   for (const auto& fields : NumberFields) {
     for (const auto& [control, field] : fields) (this->*control).SetText(NumberText(field.In(design)));
   }
-  for (const auto& [control, field] : FlagFields) (this->*control).SetValue(field.In(design));
+  for (const auto& [control, field] : FlagFields) (this->*control).SetValue(field.Get(design));
   ApplyManualRating();
   LoadBolt(program_, design.Primary, PrimaryBoltControls);
   LoadBolt(program_, design.Entries.Bolt, EntryBoltControls);
@@ -258,7 +258,7 @@ std::vector<Misfit> ParametersDialog::ReadFields() {
   for (const auto& fields : NumberFields) {
     for (const auto& [control, field] : fields) reader.Read(field.In(typed_), this->*control);
   }
-  for (const auto& [control, field] : FlagFields) field.In(typed_) = (this->*control).Value();
+  for (const auto& [control, field] : FlagFields) field.Set(typed_, (this->*control).Value());
   StoreBolt(typed_.Primary, reader, PrimaryBoltControls);
   StoreBolt(typed_.Entries.Bolt, reader, EntryBoltControls);
   StoreBolt(typed_.Intersections.Bolt, reader, InterBoltControls);

@@ -13,7 +13,11 @@ namespace {
 
 Single AsTyped(std::string_view text) { return ToSingle(TextValue(text)); }
 
-bool IsKnown(Integer choice) { return choice == 0 || choice == 1; }
+// Each choice is one of two.
+template <class Choice>
+bool IsKnown(Choice choice) {
+  return choice == Choice{0} || choice == Choice{1};
+}
 
 bool HasKnownChoices(const BoltSelection& set) {
   return IsKnown(set.Options) && IsKnown(set.DiameterMode) && IsKnown(set.GradeMode);
@@ -74,7 +78,7 @@ Design InSevenDigits(Design design) {
 }
 
 void TakeMetricCables(Design& design) {
-  if (design.Units == Metric) design.Entries.Cable.CapMode = design.Intersections.Cable.CapMode = 1;
+  if (design.Units == Metric) design.Entries.Cable.CapMode = design.Intersections.Cable.CapMode = CapacityMode::Given;
 }
 
 Design AsShown(const Design& design, const BoltTable& table, const Catalogs& catalogs) {

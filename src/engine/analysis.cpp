@@ -59,8 +59,8 @@ RockInputs IntersectionRock(const RoofSupport& design) {
 
 // Returns the capacity of one cable in the units of the design.
 Single CapacityOf(const CableSelection& cable, UnitSystem units, const Catalogs& catalogs) {
-  if (cable.CapMode == 0) return CableCapacityFromDiameter(Needed(cable.Diam), units, catalogs);
-  return Needed(cable.Capacity == 0 ? cable.CapacityStd : cable.CapacityManual);
+  if (cable.CapMode == CapacityMode::ByDiameter) return CableCapacityFromDiameter(Needed(cable.Diam), units, catalogs);
+  return Needed(cable.Capacity == ValueSource::Standard ? cable.CapacityStd : cable.CapacityManual);
 }
 
 // Returns the capacity and stability factor of a support system under a rock load, or nothing when it lacks an input it

@@ -49,14 +49,14 @@ void FillSupport(SecondarySupport& support, bool isMetric) {
   for (SupportSystem* system : support.Systems()) system->Use = 0;
   support.Cable.Use = 1;
   support.Cable.Length = isMetric ? 3 : 10;
-  support.Cable.CapMode = 0;
-  support.Cable.Capacity = 0;
+  support.Cable.CapMode = CapacityMode::ByDiameter;
+  support.Cable.Capacity = ValueSource::Standard;
   support.Cable.Diam = isMetric ? 21.8F : 0.6F;
   support.Cable.CapacityStd = support.Cable.CapacityManual = isMetric ? 590 : 27;
   support.Truss.LengthMember = isMetric ? 2.7F : 8;
   support.Truss.Angle = 45;
   support.Truss.Capacity = isMetric ? 300 : 30;
-  support.Standing.TypeMode = 0;
+  support.Standing.TypeMode = ValueSource::Standard;
   support.Standing.Capacity = isMetric ? 500 : 50;
 }
 
@@ -110,14 +110,14 @@ void FillStartValues(Design& design) {
 void FillBolts(const Program& program, BoltSelection& set) {
   const DesignDefaults& defaults = program.session.defaults;
   set.Length = defaults.*BoltLength.In(program.project.WorkParms.Units);
-  set.Options = 0;
+  set.Options = BoltSource::Table;
   set.TableRow = 0;
   set.TableDiameter = 0;
   set.TableGrade = 0;
   set.Desc.clear();
-  set.DiameterMode = 0;
+  set.DiameterMode = ValueSource::Standard;
   set.DiameterStd = set.DiameterManual = defaults.*BoltDiameter.In(program.project.WorkParms.Units);
-  set.GradeMode = 0;
+  set.GradeMode = ValueSource::Standard;
   const DefaultPair& grade = program.project.WorkParms.Basis == StrengthBasis::Ultimate ? UltimateGrade : YieldGrade;
   set.GradeStd = set.GradeManual = defaults.*grade.In(program.project.WorkParms.Units);
 }

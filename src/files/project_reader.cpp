@@ -11,7 +11,7 @@ void ReadField(Design& design, const ProjectLine& line, ItemReader& reader) {
   if (const auto* single = std::get_if<SingleField>(&line.ReadInto)) {
     single->In(design) = line.Form == LineForm::Rating ? reader.ReadInteger() : reader.ReadSingle();
   } else if (const auto* integer = std::get_if<IntegerField>(&line.ReadInto)) {
-    integer->In(design) = reader.ReadInteger();
+    integer->Set(design, reader.ReadInteger());
   } else {
     std::get<TextField>(line.ReadInto).In(design) =
         line.Form == LineForm::Whole ? reader.ReadLine() : reader.ReadText();

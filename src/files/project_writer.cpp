@@ -52,7 +52,7 @@ std::string DataText(const Design& design) {
 std::string DataLineText(const Design& design, const ProjectLine& line) {
   if (const auto* text = std::get_if<TextField>(&line.Field)) return text->In(design);
   if (const auto* single = std::get_if<SingleField>(&line.Field)) return NormalizeDecimalText(single->In(design));
-  const Integer value = std::get<IntegerField>(line.Field).In(design);
+  const Integer value = std::get<IntegerField>(line.Field).Get(design);
   return line.Form == LineForm::Padded ? PaddedNumber(value) : NormalizeDecimalText(value);
 }
 

@@ -16,8 +16,8 @@ void ChangeValue(Design& design, const AnyField& field) {
     Single& value = single->In(design);
     value = value == 0 ? 1.0F : 0.0F;
   } else {
-    Integer& value = std::get<IntegerField>(field).In(design);
-    value = value == 0 ? 1 : 0;
+    const auto& number = std::get<IntegerField>(field);
+    number.Set(design, number.Get(design) == 0 ? 1 : 0);
   }
 }
 

@@ -64,7 +64,7 @@ void ReadData(Design& design, const ProjectLine& line, std::string_view text) {
     const double value = TextValue(text);
     single->In(design) = line.Form == LineForm::Rating ? ToInteger(value) : ToSingle(value);
   } else {
-    std::get<IntegerField>(line.Field).In(design) = ToInteger(TextValue(text));
+    std::get<IntegerField>(line.Field).Set(design, ToInteger(TextValue(text)));
   }
 }
 

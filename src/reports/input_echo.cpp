@@ -236,7 +236,7 @@ void Echo::BoltCapacities(const Bolt& bolt, YieldOfMetricGrade yieldOf) {
 void Echo::Bolts(const BoltSelection& set, YieldOfMetricGrade yieldOf) {
   constexpr std::string_view OptionLabel = "Roof Bolt Option";
   if (design.Basis == StrengthBasis::Ultimate) page.Line("Roof Bolt Grade specified as Ultimate Strength");
-  if (set.Options == 0) {
+  if (set.Options == BoltSource::Table) {
     page.Words(OptionLabel, TableSelection);
     page.Words("Bolt Description", set.Desc);
   } else {
@@ -259,8 +259,9 @@ void Echo::Primary() {
 
 void Echo::Cables(const CableSelection& cable) {
   page.Value("Cable Bolt Length", NumberText(cable.Length), UnitSuffix::Length);
-  if (cable.CapMode == 0) page.Value("Cable Bolt Diameter", NumberText(cable.Diam), UnitSuffix::Diameter);
-  const Single capacity = cable.Capacity == 0 ? cable.CapacityStd : cable.CapacityManual;
+  if (cable.CapMode == CapacityMode::ByDiameter)
+    page.Value("Cable Bolt Diameter", NumberText(cable.Diam), UnitSuffix::Diameter);
+  const Single capacity = cable.Capacity == ValueSource::Standard ? cable.CapacityStd : cable.CapacityManual;
   page.Value("Cable Bolt Capacity", NumberText(capacity), UnitSuffix::Force);
 }
 

@@ -8,10 +8,10 @@ namespace {
 // A bolt set whose diameters (in) and grades (ksi) all differ.
 class BoltOfASet : public testing::Test {
  protected:
-  Bolt Selected(Integer option, Integer diameterMode, Integer gradeMode) {
-    set.Options = option;
-    set.DiameterMode = diameterMode;
-    set.GradeMode = gradeMode;
+  Bolt Selected(BoltSource source, ValueSource diameter, ValueSource grade) {
+    set.Options = source;
+    set.DiameterMode = diameter;
+    set.GradeMode = grade;
     return SelectedBolt(set);
   }
 
@@ -30,29 +30,29 @@ class BoltOfASet : public testing::Test {
 };
 
 TEST_F(BoltOfASet, ComesFromTheTableWhateverTheManualModesAre) {
-  const Bolt bolt = Selected(0, 1, 1);
+  const Bolt bolt = Selected(BoltSource::Table, ValueSource::Typed, ValueSource::Typed);
 
   EXPECT_EQ(bolt.Diameter, 0.625F);
   EXPECT_EQ(bolt.Grade, 60);
 }
 
 TEST_F(BoltOfASet, HasTheStandardDiameterAndGradeOfAManualSelection) {
-  const Bolt bolt = Selected(1, 0, 0);
+  const Bolt bolt = Selected(BoltSource::Manual, ValueSource::Standard, ValueSource::Standard);
 
   EXPECT_EQ(bolt.Diameter, 0.75F);
   EXPECT_EQ(bolt.Grade, 75);
 }
 
 TEST_F(BoltOfASet, HasTheTypedDiameterAndGradeOfAManualSelection) {
-  const Bolt bolt = Selected(1, 1, 1);
+  const Bolt bolt = Selected(BoltSource::Manual, ValueSource::Typed, ValueSource::Typed);
 
   EXPECT_EQ(bolt.Diameter, 0.8F);
   EXPECT_EQ(bolt.Grade, 72);
 }
 
 TEST_F(BoltOfASet, CanCombineATypedAndAStandardValue) {
-  const Bolt typedDiameter = Selected(1, 1, 0);
-  const Bolt typedGrade = Selected(1, 0, 1);
+  const Bolt typedDiameter = Selected(BoltSource::Manual, ValueSource::Typed, ValueSource::Standard);
+  const Bolt typedGrade = Selected(BoltSource::Manual, ValueSource::Standard, ValueSource::Typed);
 
   EXPECT_EQ(typedDiameter.Diameter, 0.8F);
   EXPECT_EQ(typedDiameter.Grade, 75);

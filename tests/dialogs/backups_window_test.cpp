@@ -54,7 +54,7 @@ struct TheBackupsWindow : testing::Test {
     OpenProject(Panel3);
     program.project.WorkParms.Place.DepthofCover = 800;
     program.project.ProjectTitle = "Belt entry";
-    program.project.WorkParms.Primary.Options = 1;
+    program.project.WorkParms.Primary.Options = BoltSource::Manual;
     KeepDropped(program, program.project, BackupReason::Dropped);
     FileNew(program, Keeping::Nothing);
   }

@@ -314,10 +314,10 @@ TEST_F(ACostDialog, RestoresTheCostsBeforeTheResultsAreShown) {
 // The cost report also contains the inputs of the design.
 TEST_F(ACostDialog, LeavesTheCostsUnchangedIfTheReportFails) {
   program.project.WorkParms.Primary.Analysed = 1;
-  program.project.WorkParms.Primary.Options = 1;
-  program.project.WorkParms.Primary.DiameterMode = 1;
+  program.project.WorkParms.Primary.Options = BoltSource::Manual;
+  program.project.WorkParms.Primary.DiameterMode = ValueSource::Typed;
   program.project.WorkParms.Primary.DiameterManual = 1E30F;
-  program.project.WorkParms.Primary.GradeMode = 1;
+  program.project.WorkParms.Primary.GradeMode = ValueSource::Typed;
   program.project.WorkParms.Primary.GradeManual = 75;
   dialog.Open();
   dialog.txtBoltCost.SetText("9");

@@ -128,7 +128,8 @@ TEST_F(ParameterEvents, ABoltsDiameterAndGradeAreChosenFromAListOrTyped) {
 }
 
 TEST_F(ParameterEvents, AStoredManualBoltOpensWithVisibleFields) {
-  program.project.WorkParms.Intersections.Bolt.Options = program.project.WorkParms.Intersections.Bolt.DiameterMode = 1;
+  program.project.WorkParms.Intersections.Bolt.Options = BoltSource::Manual;
+  program.project.WorkParms.Intersections.Bolt.DiameterMode = ValueSource::Typed;
   ParametersDialog other(program);
 
   other.Open();
@@ -179,7 +180,7 @@ TEST_F(ParameterEvents, ACableIsSpecifiedByDiameterOrByCapacity) {
 
 TEST_F(ParameterEvents, AMetricCableOpensByItsCapacity) {
   StartDesign(Metric);
-  program.project.WorkParms.Intersections.Cable.Capacity = 1;
+  program.project.WorkParms.Intersections.Cable.Capacity = ValueSource::Typed;
   ParametersDialog other(program);
 
   other.Open();

@@ -376,7 +376,8 @@ TEST_F(ParameterFields, AStoredSupportThatTheCatalogLacksKeepsItsNameAndCapacity
 }
 
 TEST_F(ParameterFields, AManualSupportOpensInTheTextFields) {
-  program.project.WorkParms.Entries.Standing.TypeMode = program.project.WorkParms.Intersections.Standing.TypeMode = 1;
+  program.project.WorkParms.Entries.Standing.TypeMode = program.project.WorkParms.Intersections.Standing.TypeMode =
+      ValueSource::Typed;
   program.project.WorkParms.Entries.Standing.TypeName = "Wood Post (6in)";
   program.project.WorkParms.Intersections.Standing.TypeName = "Stone pack";
   program.project.WorkParms.Intersections.Standing.Capacity = 33;

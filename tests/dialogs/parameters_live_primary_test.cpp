@@ -191,7 +191,7 @@ TEST_F(ActualSupport, FollowsTheSelectedBolt) {
 }
 
 TEST_F(ActualSupport, UsesTheBoltFromTheListsOrAsTyped) {
-  program.project.WorkParms.Primary.Options = 1;
+  program.project.WorkParms.Primary.Options = BoltSource::Manual;
   program.project.WorkParms.Primary.DiameterManual = 0.625F;
   program.project.WorkParms.Primary.GradeManual = 60;
 
@@ -205,7 +205,7 @@ TEST_F(ActualSupport, UsesTheBoltFromTheListsOrAsTyped) {
 
 TEST_F(ActualSupport, OfAMetricDesignUsesMillimetresAndMPa) {
   StartDesign(Metric);
-  program.project.WorkParms.Primary.Options = 1;
+  program.project.WorkParms.Primary.Options = BoltSource::Manual;
 
   dialog.Open();
 
@@ -219,7 +219,7 @@ TEST_F(ActualSupport, OfUltimateGradesUsesTheirYieldStrength) {
   EXPECT_EQ(After("optBoltOptionsPrimary=1"), "9.9");
 
   StartDesign(Metric, StrengthBasis::Ultimate);
-  program.project.WorkParms.Primary.Options = 1;
+  program.project.WorkParms.Primary.Options = BoltSource::Manual;
   ParametersDialog metric(program);
   metric.Open();
   EXPECT_EQ(metric.txtActualPSUP.Text(), "11.5");

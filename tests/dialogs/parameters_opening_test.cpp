@@ -90,13 +90,13 @@ TEST_F(OpeningParameters, LeavesTheCableTabOpenIfNoSystemIsChosen) {
 
 TEST_F(OpeningParameters, ForcesAMetricDesignToSpecifyCablesByCapacity) {
   StartDesign(Metric);
-  ASSERT_EQ(program.project.WorkParms.Entries.Cable.CapMode, 0);
-  ASSERT_EQ(program.project.WorkParms.Intersections.Cable.CapMode, 0);
+  ASSERT_EQ(program.project.WorkParms.Entries.Cable.CapMode, CapacityMode::ByDiameter);
+  ASSERT_EQ(program.project.WorkParms.Intersections.Cable.CapMode, CapacityMode::ByDiameter);
 
   dialog.Open();
 
-  EXPECT_EQ(program.project.WorkParms.Entries.Cable.CapMode, 1);
-  EXPECT_EQ(program.project.WorkParms.Intersections.Cable.CapMode, 1);
+  EXPECT_EQ(program.project.WorkParms.Entries.Cable.CapMode, CapacityMode::Given);
+  EXPECT_EQ(program.project.WorkParms.Intersections.Cable.CapMode, CapacityMode::Given);
   for (const OptionArray* options : {&dialog.EntryCableControls.CapMode, &dialog.InterCableControls.CapMode}) {
     EXPECT_FALSE(options->MemberEnabled(0)) << options->Name();
     EXPECT_TRUE(options->MemberEnabled(1)) << options->Name();
@@ -179,7 +179,7 @@ TEST_F(OpeningParameters, ReportsAnOptionThatDoesNotExistAndFails) {
   for (const auto field : fields) {
     for (const Integer index : {Integer{2}, Integer{-1}}) {
       StartDesign(English);
-      field.In(program.project.WorkParms) = index;
+      field.Set(program.project.WorkParms, index);
       platform.boxes.shown.clear();
       ParametersDialog other(program);
 
@@ -269,14 +269,14 @@ TEST_F(ClosingParameters, WithCancelOrTheWindowsCloseSavesNothing) {
 
 TEST_F(ClosingParameters, WithCancelKeepsTheForcedCableModeOfAMetricDesign) {
   StartDesign(Metric);
-  ASSERT_EQ(program.project.WorkParms.Entries.Cable.CapMode, 0);
-  ASSERT_EQ(program.project.WorkParms.Intersections.Cable.CapMode, 0);
+  ASSERT_EQ(program.project.WorkParms.Entries.Cable.CapMode, CapacityMode::ByDiameter);
+  ASSERT_EQ(program.project.WorkParms.Intersections.Cable.CapMode, CapacityMode::ByDiameter);
   dialog.Open();
 
   dialog.Command1.Press();
 
-  EXPECT_EQ(program.project.WorkParms.Entries.Cable.CapMode, 1);
-  EXPECT_EQ(program.project.WorkParms.Intersections.Cable.CapMode, 1);
+  EXPECT_EQ(program.project.WorkParms.Entries.Cable.CapMode, CapacityMode::Given);
+  EXPECT_EQ(program.project.WorkParms.Intersections.Cable.CapMode, CapacityMode::Given);
   EXPECT_TRUE(program.project.FileSaved);
 }
 

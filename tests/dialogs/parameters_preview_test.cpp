@@ -26,10 +26,10 @@ TEST_F(ParameterPreview, UsesThePrimaryTabsManualSelectionForAllBolts) {
 
   const Design& copy = program.windows.WorkParmsCopy;
   for (const BoltSelection* bolt : copy.BoltSets()) {
-    EXPECT_EQ(bolt->DiameterMode, 1);
+    EXPECT_EQ(bolt->DiameterMode, ValueSource::Typed);
     EXPECT_EQ(bolt->DiameterStd, 0.875F);
     EXPECT_EQ(bolt->DiameterManual, 0.81F);
-    EXPECT_EQ(bolt->GradeMode, 0);
+    EXPECT_EQ(bolt->GradeMode, ValueSource::Standard);
     EXPECT_EQ(bolt->GradeStd, 90);
     EXPECT_EQ(bolt->GradeManual, 61);
   }
@@ -43,15 +43,15 @@ TEST_F(ParameterPreview, UsesTheRestOfEachBoltFromItsOwnTab) {
   dialog.CopyToWorkParmsCopy();
 
   const Design& copy = program.windows.WorkParmsCopy;
-  EXPECT_EQ(copy.Primary.Options, 0);
+  EXPECT_EQ(copy.Primary.Options, BoltSource::Table);
   EXPECT_EQ(copy.Primary.TableRow, 0);
-  EXPECT_EQ(copy.Entries.Bolt.Options, 1);
+  EXPECT_EQ(copy.Entries.Bolt.Options, BoltSource::Manual);
   EXPECT_EQ(copy.Entries.Bolt.TableRow, 8);
   EXPECT_EQ(copy.Entries.Bolt.Desc, "#7 rebar - grade 40");
   EXPECT_EQ(copy.Entries.Bolt.TableDiameter, 0.875F);
   EXPECT_EQ(copy.Entries.Bolt.TableGrade, 40);
   EXPECT_EQ(copy.Entries.Bolt.Length, 6.5F);
-  EXPECT_EQ(copy.Intersections.Bolt.Options, 1);
+  EXPECT_EQ(copy.Intersections.Bolt.Options, BoltSource::Manual);
   EXPECT_EQ(copy.Intersections.Bolt.TableRow, 6);
   EXPECT_EQ(copy.Intersections.Bolt.Desc, "#6 smooth - grade 75");
   EXPECT_EQ(copy.Intersections.Bolt.Length, 6.25F);
@@ -117,7 +117,7 @@ TEST_F(ParameterPreview, RestoresTheDesignBeforeTheResultsAreShown) {
     shown = true;
     EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
     EXPECT_EQ(program.project.WorkParms.Primary.Analysed, 1);
-    EXPECT_EQ(program.project.WorkParms.Entries.Bolt.Options, 0);
+    EXPECT_EQ(program.project.WorkParms.Entries.Bolt.Options, BoltSource::Table);
     EXPECT_EQ(program.project.WorkParms.Intersections.Truss.Capacity, 30);
     EXPECT_EQ(program.project.WorkParms.Entries.RockLoad, 0);
     EXPECT_EQ(program.project.WorkParms.Cost.BoltCost, 3.75F);

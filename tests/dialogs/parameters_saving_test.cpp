@@ -144,7 +144,7 @@ TEST_F(SavingParameters, StoresEachChoiceOnlyInItsField) {
     other.SaveWorkParms();
 
     for (const SavedFlag& saved : SavedFlags) {
-      EXPECT_EQ(saved.field.In(program.project.WorkParms), saved.control == set.control ? 1 : 0)
+      EXPECT_EQ(saved.field.Get(program.project.WorkParms), saved.control == set.control ? 1 : 0)
           << saved.control << " after " << set.control;
     }
   }
@@ -182,15 +182,15 @@ TEST_F(SavingParameters, CopiesTheManualBoltsAndCableOfTheEntriesToTheIntersecti
   dialog.Command2.Press();
 
   const Design& record = program.project.WorkParms;
-  EXPECT_EQ(record.Intersections.Bolt.DiameterMode, 0);
+  EXPECT_EQ(record.Intersections.Bolt.DiameterMode, ValueSource::Standard);
   EXPECT_EQ(record.Intersections.Bolt.DiameterStd, 0.688F);
   EXPECT_EQ(record.Intersections.Bolt.DiameterManual, 0.82F);
-  EXPECT_EQ(record.Intersections.Bolt.GradeMode, 1);
+  EXPECT_EQ(record.Intersections.Bolt.GradeMode, ValueSource::Typed);
   EXPECT_EQ(record.Intersections.Bolt.GradeStd, 60);
   EXPECT_EQ(record.Intersections.Bolt.GradeManual, 62);
   EXPECT_EQ(record.Intersections.Cable.Diam, 0.7F);
-  EXPECT_EQ(record.Entries.Bolt.DiameterMode, 0);
-  EXPECT_EQ(record.Entries.Bolt.GradeMode, 1);
+  EXPECT_EQ(record.Entries.Bolt.DiameterMode, ValueSource::Standard);
+  EXPECT_EQ(record.Entries.Bolt.GradeMode, ValueSource::Typed);
 }
 
 TEST_F(SavingParameters, DiscardsACableDiameterChosenOnlyForIntersections) {
@@ -206,7 +206,7 @@ TEST_F(SavingParameters, DiscardsACableDiameterChosenOnlyForIntersections) {
 
 TEST_F(SavingParameters, StillLoadsTheIntersectionsOwnSelection) {
   Design& record = program.project.WorkParms;
-  record.Intersections.Bolt.DiameterMode = record.Intersections.Bolt.GradeMode = 1;
+  record.Intersections.Bolt.DiameterMode = record.Intersections.Bolt.GradeMode = ValueSource::Typed;
   record.Intersections.Bolt.DiameterStd = 0.804F;
   record.Intersections.Bolt.DiameterManual = 0.83F;
   record.Intersections.Bolt.GradeStd = 100;

@@ -24,7 +24,7 @@ Design StoredDesign(const Design& start) {
           *rc::gen::oneOf(rc::gen::element<Single>(0, -1, 20.0F / 3, 3.4E38F, 1E-38F),
                           rc::gen::map(rc::gen::inRange(-100, 9000), [](int n) { return static_cast<Single>(n) / 7; }));
     } else if (const auto* integer = std::get_if<IntegerField>(&line.Field)) {
-      integer->In(design) = *rc::gen::inRange<Integer>(0, 2);
+      integer->Set(design, *rc::gen::inRange<Integer>(0, 2));
     } else {
       std::get<TextField>(line.Field).In(design) =
           *rc::gen::element<std::string>("", "Stone pack", "4-point wood crib");
@@ -105,21 +105,21 @@ TEST_F(AShownDesign, UsesTheFirstRowIfTheTableLacksTheStoredOne) {
 }
 
 TEST_F(AShownDesign, FailsForAChoiceThatDoesNotExist) {
-  design.Intersections.Standing.TypeMode = 2;
+  design.Intersections.Standing.TypeMode = ValueSource{2};
 
   EXPECT_FALSE(HasKnownChoices(design));
   EXPECT_EQ(ErrorNumberOf([this] { Shown(); }), 9);
 }
 
 TEST_F(AShownDesign, AcceptsAnyStoredSourceOfAMetricCablesCapacity) {
-  design.Entries.Cable.CapMode = 7;
+  design.Entries.Cable.CapMode = CapacityMode{7};
   EXPECT_FALSE(HasKnownChoices(design));
 
   design.Units = Metric;
 
   EXPECT_TRUE(HasKnownChoices(design));
-  EXPECT_EQ(Shown().Entries.Cable.CapMode, 1);
-  EXPECT_EQ(Shown().Intersections.Cable.CapMode, 1);
+  EXPECT_EQ(Shown().Entries.Cable.CapMode, CapacityMode::Given);
+  EXPECT_EQ(Shown().Intersections.Cable.CapMode, CapacityMode::Given);
 }
 
 TEST_F(AShownDesign, HasTheRoundedOutputs) {

@@ -77,10 +77,14 @@ constexpr std::string_view AllTyped =
 
 Design AllTypedDesign() {
   Design design;
-  for (BoltSelection* bolts : design.BoltSets()) bolts->Options = bolts->DiameterMode = bolts->GradeMode = 1;
+  for (BoltSelection* bolts : design.BoltSets()) {
+    bolts->Options = BoltSource::Manual;
+    bolts->DiameterMode = bolts->GradeMode = ValueSource::Typed;
+  }
   for (SecondarySupport* support : {&design.Entries, &design.Intersections}) {
     for (SupportSystem* system : support->Systems()) system->Use = 1;
-    support->Cable.CapMode = support->Cable.Capacity = support->Standing.TypeMode = 1;
+    support->Cable.CapMode = CapacityMode::Given;
+    support->Cable.Capacity = support->Standing.TypeMode = ValueSource::Typed;
   }
   return design;
 }

@@ -130,7 +130,7 @@ RC_GTEST_PROP(StoredDesignProperty, OpensWithWhateverNumbers, ()) {
       [](auto& d) { return &d.Entries.Standing.Use; },   [](auto& d) { return &d.Intersections.Truss.Use; },
       [](auto& d) { return &d.Intersections.Bolt.Use; }, [](auto& d) { return &d.Intersections.Standing.Use; }};
   for (const auto use : uses) {
-    use.In(design) = 1;
+    use.Set(design, 1);
   }
   design.Place.CMRR = *rc::gen::arbitrary<Integer>();
   ParametersDialog dialog(run.program);

@@ -125,7 +125,7 @@ TEST(Analysis, OverflowsOnlyWhereATooLargeNumberIsNeeded) {
 // A cable with an unlisted diameter has a capacity of 0. A cable with a diameter outside the range has no capacity.
 TEST(Analysis, OverflowsForATooLargeCableDiameter) {
   Design design = FullDesign();
-  design.Intersections.Cable.CapMode = 0;
+  design.Intersections.Cable.CapMode = CapacityMode::ByDiameter;
   design.Intersections.Cable.Diam = Unfit;
 
   EXPECT_THAT(ErrorsOf(FiguresOf(design).Intersections), testing::ElementsAre(Overflow, NoError, NoError, NoError));

@@ -55,7 +55,7 @@ inline Design FullDesign() {
   Design design = EnglishDesign();
   design.Primary.Analysed = design.Entries.Analysed = design.Intersections.Analysed = 1;
   for (BoltSelection* set : design.BoltSets()) {
-    set->Options = 1;
+    set->Options = BoltSource::Manual;
     set->Length = 6;
     set->DiameterStd = 0.75F;
     set->GradeStd = 75;
@@ -68,7 +68,7 @@ inline Design FullDesign() {
     support->RockLoadHeight = 8;
     support->RockFallAngle = support->RockFallAngleXcut = 30;
     support->Cable.Length = 10;
-    support->Cable.CapMode = 1;
+    support->Cable.CapMode = CapacityMode::Given;
     support->Cable.CapacityStd = 27;
     support->Cable.BoltsPerRow = 2;
     support->Cable.RowSpacing = 5;

@@ -116,7 +116,9 @@ TEST(NewProject, SetsTheStateOfAnUntouchedProject) {
 TEST(NewProject, KeepsNothingOfThePreviousBolts) {
   TestProject project;
   for (BoltSelection* set : project.program.project.WorkParms.BoltSets()) {
-    set->Options = set->TableRow = set->DiameterMode = set->GradeMode = 1;
+    set->Options = BoltSource::Manual;
+    set->TableRow = 1;
+    set->DiameterMode = set->GradeMode = ValueSource::Typed;
     set->TableDiameter = set->TableGrade = 60;
     set->Desc = "Rebar no. 6";
   }
@@ -124,10 +126,10 @@ TEST(NewProject, KeepsNothingOfThePreviousBolts) {
   FileNew(project.program, Keeping::Nothing);
 
   for (const BoltSelection* set : project.program.project.WorkParms.BoltSets()) {
-    EXPECT_EQ(set->Options, 0);
+    EXPECT_EQ(set->Options, BoltSource::Table);
     EXPECT_EQ(set->TableRow, 0);
-    EXPECT_EQ(set->DiameterMode, 0);
-    EXPECT_EQ(set->GradeMode, 0);
+    EXPECT_EQ(set->DiameterMode, ValueSource::Standard);
+    EXPECT_EQ(set->GradeMode, ValueSource::Standard);
     EXPECT_EQ(set->TableDiameter, 0);
     EXPECT_EQ(set->TableGrade, 0);
     EXPECT_EQ(set->Desc, "");

@@ -113,14 +113,14 @@ TEST(ProjectFile, StoresTheTableChoiceButDoesNotRestoreIt) {
 TEST(ProjectFile, RestoresTheSupportModeOfIntersectionsAsThatOfEntries) {
   TestProject project;
   FileNew(project.program, Keeping::Name);
-  project.program.project.WorkParms.Entries.Standing.TypeMode = 0;
-  project.program.project.WorkParms.Intersections.Standing.TypeMode = 1;
+  project.program.project.WorkParms.Entries.Standing.TypeMode = ValueSource::Standard;
+  project.program.project.WorkParms.Intersections.Standing.TypeMode = ValueSource::Typed;
 
   ASSERT_TRUE(project.Save());
   ASSERT_TRUE(project.Open());
 
-  EXPECT_EQ(project.program.project.WorkParms.Entries.Standing.TypeMode, 1);
-  EXPECT_EQ(project.program.project.WorkParms.Intersections.Standing.TypeMode, 0);
+  EXPECT_EQ(project.program.project.WorkParms.Entries.Standing.TypeMode, ValueSource::Typed);
+  EXPECT_EQ(project.program.project.WorkParms.Intersections.Standing.TypeMode, ValueSource::Standard);
 }
 
 TEST(ProjectFile, ShiftsTheFieldsAfterABoltDescriptionWithAComma) {
@@ -130,10 +130,10 @@ TEST(ProjectFile, ShiftsTheFieldsAfterABoltDescriptionWithAComma) {
 
   const Design& record = project.program.project.WorkParms;
   EXPECT_EQ(record.Primary.Desc, "Rebar");
-  EXPECT_EQ(record.Primary.DiameterMode, 6);
+  EXPECT_EQ(record.Primary.DiameterMode, ValueSource{6});
   EXPECT_EQ(record.Primary.DiameterStd, 0);  // "ft"
   EXPECT_EQ(record.Primary.DiameterManual, 119);
-  EXPECT_EQ(record.Primary.GradeMode, 20);  // 20.25 as a whole number
+  EXPECT_EQ(record.Primary.GradeMode, ValueSource{20});  // 20.25 as a whole number
   EXPECT_EQ(record.Primary.GradeStd, 21.25F);
 }
 

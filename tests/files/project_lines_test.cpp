@@ -87,7 +87,7 @@ TEST(FileFormats, ThatAreOlderGetMissingValuesInTheDefaultUnits) {
   EXPECT_EQ(project.program.project.WorkParms.Units, Metric);
   EXPECT_EQ(project.program.project.WorkParms.Entries.Cable.CapacityManual, 27);
   EXPECT_EQ(project.program.project.WorkParms.Intersections.Cable.CapacityManual, 27);
-  EXPECT_EQ(project.program.project.WorkParms.Entries.Cable.Capacity, 0);
+  EXPECT_EQ(project.program.project.WorkParms.Entries.Cable.Capacity, ValueSource::Standard);
   EXPECT_EQ(project.program.project.WorkParms.Primary.TableDiameter, 0);
   EXPECT_EQ(project.program.project.WorkParms.Intersections.Bolt.Desc, "");
 }

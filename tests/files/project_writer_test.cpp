@@ -82,8 +82,8 @@ TEST(ProjectWriter, PadsTheLastTwoLines) {
 
 TEST(ProjectWriter, WritesBothSupportModes) {
   NewProject project;
-  project.program.project.WorkParms.Entries.Standing.TypeMode = 0;
-  project.program.project.WorkParms.Intersections.Standing.TypeMode = 1;
+  project.program.project.WorkParms.Entries.Standing.TypeMode = ValueSource::Standard;
+  project.program.project.WorkParms.Intersections.Standing.TypeMode = ValueSource::Typed;
 
   const std::string bytes = ProjectFileBytes(project.program.project);
 

@@ -25,8 +25,8 @@ TEST(ReadBack, OfANewProjectHasNoDifferences) {
 
 TEST(ReadBack, IgnoresFieldsThatTheFormatReadsIntoOthers) {
   ReadProject project;
-  project.program.project.WorkParms.Entries.Standing.TypeMode = 1;
-  project.program.project.WorkParms.Intersections.Standing.TypeMode = 0;
+  project.program.project.WorkParms.Entries.Standing.TypeMode = ValueSource::Typed;
+  project.program.project.WorkParms.Intersections.Standing.TypeMode = ValueSource::Standard;
 
   EXPECT_THAT(project.Differing(), IsEmpty());
 }

@@ -73,14 +73,14 @@ TEST_F(RecoveryFile, HasAnEditedDesignAsItsCommitStoresIt) {
 }
 
 TEST_F(RecoveryFile, RestoresTheModeOfTheStandingSupportInIntersections) {
-  project.program.project.WorkParms.Entries.Standing.TypeMode = 0;
-  project.program.project.WorkParms.Intersections.Standing.TypeMode = 1;
+  project.program.project.WorkParms.Entries.Standing.TypeMode = ValueSource::Standard;
+  project.program.project.WorkParms.Intersections.Standing.TypeMode = ValueSource::Typed;
 
   const auto read = ReadRecovery(Bytes());
 
   ASSERT_TRUE(read.has_value());
-  EXPECT_EQ(read->WorkParms.Entries.Standing.TypeMode, 0);
-  EXPECT_EQ(read->WorkParms.Intersections.Standing.TypeMode, 1);
+  EXPECT_EQ(read->WorkParms.Entries.Standing.TypeMode, ValueSource::Standard);
+  EXPECT_EQ(read->WorkParms.Intersections.Standing.TypeMode, ValueSource::Typed);
 }
 
 TEST_F(RecoveryFile, KeepsCommasAndQuotesOfABoltDescription) {
@@ -225,7 +225,7 @@ UnsavedProject AnyProject() {
   project.UnitsLocked = *rc::gen::arbitrary<bool>();
   for (const auto& saved : SavedFields) {
     if (const auto* integer = std::get_if<IntegerField>(&saved.field)) {
-      integer->In(project.WorkParms) = *rc::gen::arbitrary<Integer>();
+      integer->Set(project.WorkParms, *rc::gen::arbitrary<Integer>());
     } else if (const auto* single = std::get_if<SingleField>(&saved.field)) {
       single->In(project.WorkParms) = *AnySingle();
     } else {

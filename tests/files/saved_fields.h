@@ -144,7 +144,7 @@ inline constexpr auto List = std::to_array<SavedField>(
 inline constexpr const auto& SavedFields = saved_fields::List;
 
 inline std::string ValueText(const Design& record, const AnyField& field) {
-  if (const auto* integer = std::get_if<IntegerField>(&field)) return NumberText(integer->In(record));
+  if (const auto* integer = std::get_if<IntegerField>(&field)) return NumberText(integer->Get(record));
   if (const auto* single = std::get_if<SingleField>(&field)) return NumberText(single->In(record));
   return std::get<TextField>(field).In(record);
 }

@@ -340,7 +340,7 @@ TEST_F(ParametersView, ShowsATypedCableCapacityInPlaceOfTheListWithoutMovingAnyt
 TEST_F(ParametersView, KeepsThePlaceOfAListThatIsTallerThanTheFieldThatReplacesIt) {
   program.project.WorkParms.Entries.Analysed = 1;
   program.project.WorkParms.Entries.Cable.Use = 1;
-  program.project.WorkParms.Entries.Cable.CapMode = 1;
+  program.project.WorkParms.Entries.Cable.CapMode = CapacityMode::Given;
   Work([this](QDialog& window) {
     PressLetterOfTab(window, "SSTab1", EntriesTab);
     auto& list = Find<QComboBox>(window, "cmbCableCapacitySecEntry");
@@ -376,7 +376,7 @@ class ManualBolt : public ParametersView {
  protected:
   // Shows the primary page with a bolt chosen by diameter and grade.
   void WorkOnIt(const ModalScripts::Script& script) {
-    program.project.WorkParms.Primary.Options = 1;
+    program.project.WorkParms.Primary.Options = BoltSource::Manual;
     Work([&](QDialog& window) {
       OpenPage(window, "chkPrimSupport", PrimaryTab);
       Find(window, "cmbBoltDiameterPrimary").setFocus(Qt::TabFocusReason);

@@ -15,10 +15,10 @@ Desk::Desk(UnitSystem units, StrengthBasis strengthMode) : program(machine.AsPla
 
 void PickBolt(Design& record, Single diameter, Single grade) {
   for (BoltSelection* set : record.BoltSets()) {
-    set->Options = 1;
-    set->DiameterMode = 0;
+    set->Options = BoltSource::Manual;
+    set->DiameterMode = ValueSource::Standard;
     set->DiameterStd = diameter;
-    set->GradeMode = 0;
+    set->GradeMode = ValueSource::Standard;
     set->GradeStd = grade;
   }
 }

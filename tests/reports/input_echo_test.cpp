@@ -194,9 +194,9 @@ TEST(InputEcho, HasTheTypedBolt) {
   Desk desk;
   Design& record = desk.program.project.WorkParms;
   PickBolt(record, 0.75F, 75);
-  record.Primary.DiameterMode = 1;
+  record.Primary.DiameterMode = ValueSource::Typed;
   record.Primary.DiameterManual = 1.125F;
-  record.Primary.GradeMode = 1;
+  record.Primary.GradeMode = ValueSource::Typed;
   record.Primary.GradeManual = 62.5F;
 
   const std::string page = InputPage(desk);
@@ -211,7 +211,7 @@ TEST(InputEcho, HasTheTypedBolt) {
 TEST(InputEcho, HasTheTableRowForAnUnknownBoltOption) {
   Desk desk;
   Design& record = desk.program.project.WorkParms;
-  record.Primary.Options = 2;
+  record.Primary.Options = BoltSource{2};
   record.Primary.TableDiameter = 0.625F;
   record.Primary.TableGrade = 60;
 
@@ -272,7 +272,7 @@ TEST(InputEcho, HasTheSelectedCapacityOfACableEvenWithItsDiameter) {
   Desk desk;
   Design& record = desk.program.project.WorkParms;
   record.Intersections.Analysed = 0;
-  record.Entries.Cable.Capacity = 1;
+  record.Entries.Cable.Capacity = ValueSource::Typed;
   record.Entries.Cable.CapacityStd = 26.4F;
   record.Entries.Cable.CapacityManual = 29.5F;
 
@@ -286,7 +286,7 @@ TEST(InputEcho, HasNoDiameterForACableOfGivenCapacity) {
   Desk desk;
   Design& record = desk.program.project.WorkParms;
   record.Intersections.Analysed = 0;
-  record.Entries.Cable.CapMode = 1;
+  record.Entries.Cable.CapMode = CapacityMode::Given;
 
   const std::string page = InputPage(desk);
 
@@ -298,8 +298,8 @@ TEST(InputEcho, HasTheTypedCapacityForACableOfAnUnknownKind) {
   Desk desk;
   Design& record = desk.program.project.WorkParms;
   record.Intersections.Analysed = 0;
-  record.Entries.Cable.CapMode = 2;
-  record.Entries.Cable.Capacity = 2;
+  record.Entries.Cable.CapMode = CapacityMode{2};
+  record.Entries.Cable.Capacity = ValueSource{2};
   record.Entries.Cable.CapacityManual = 29.5F;
 
   const std::string page = InputPage(desk);

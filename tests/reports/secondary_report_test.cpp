@@ -129,10 +129,10 @@ TEST(EntryReport, UsesTheDiameterOfACableUnlessItsCapacityIsGiven) {
   const std::string byDiameter = ValueOf(desk.Page(), Srdi);  // 26.4 tons
   desk.Parms().Entries.Cable.Diam = 0.65F;
   const std::string unknownDiameter = ValueOf(desk.Page(), Srdi);
-  desk.Parms().Entries.Cable.CapMode = 1;
+  desk.Parms().Entries.Cable.CapMode = CapacityMode::Given;
   desk.Parms().Entries.Cable.CapacityManual = 31.5F;
   const std::string standard = ValueOf(desk.Page(), Srdi);  // 27 tons
-  desk.Parms().Entries.Cable.Capacity = 1;
+  desk.Parms().Entries.Cable.Capacity = ValueSource::Typed;
   const std::string typed = ValueOf(desk.Page(), Srdi);  // 31.5 tons
 
   EXPECT_EQ(byDiameter, "148.1");
@@ -146,9 +146,9 @@ TEST(EntryReport, UsesTheTypedCapacityOfACableForAnyFlagsExceptZero) {
   constexpr auto Srdi = "Secondary Reinforcement Density Index (SRDI)";
   desk.Parms().Entries.Cable.CapacityManual = 31.5F;
 
-  desk.Parms().Entries.Cable.CapMode = 2;
+  desk.Parms().Entries.Cable.CapMode = CapacityMode{2};
   const std::string standard = ValueOf(desk.Page(), Srdi);  // 27 tons
-  desk.Parms().Entries.Cable.Capacity = 2;
+  desk.Parms().Entries.Cable.Capacity = ValueSource{2};
   const std::string typed = ValueOf(desk.Page(), Srdi);  // 31.5 tons
 
   EXPECT_EQ(standard, "151.4");
@@ -160,7 +160,7 @@ TEST(EntryReport, ConvertsTheCapacityOfAMetricCableToTons) {
   constexpr auto Srdi = "Secondary Reinforcement Density Index (SRDI)";
 
   const std::string byDiameter = ValueOf(desk.Page(), Srdi);  // 590 kN
-  desk.Parms().Entries.Cable.CapMode = 1;
+  desk.Parms().Entries.Cable.CapMode = CapacityMode::Given;
   desk.Parms().Entries.Cable.CapacityStd = 635;
   const std::string standard = ValueOf(desk.Page(), Srdi);
 

@@ -25,7 +25,7 @@ struct TheBackupsCommand : MainWindowTest {
     OpenByDialog(Panel3);
     program.project.WorkParms.Place.DepthofCover = 800;
     program.project.ProjectTitle = "Belt entry";
-    program.project.WorkParms.Primary.Options = 1;
+    program.project.WorkParms.Primary.Options = BoltSource::Manual;
     KeepDropped(program, program.project, BackupReason::Dropped);
     window.mnuFileItem.ClickItem(FileItem::New);
     platform.boxes.shown.clear();

@@ -150,7 +150,7 @@ TEST_F(InputMenu, ShowsADesignWithoutADepth) {
 }
 
 TEST_F(InputMenu, ReportsADesignThatCannotBeShownAndContinues) {
-  program.project.WorkParms.Primary.Options = 2;
+  program.project.WorkParms.Primary.Options = BoltSource{2};
 
   Choose(EditItem::Parameters);
 
@@ -174,7 +174,7 @@ TEST_F(InputMenu, ReportsAnOpenedDesignThatCannotBeShown) {
   program.session.options.ShowInputScreenOnLoad = 1;
   Program other(platform.AsPlatform());
   StartApart(other, nullptr);
-  other.project.WorkParms.Primary.Options = 2;
+  other.project.WorkParms.Primary.Options = BoltSource{2};
   platform.files.files[Panel3] = ProjectFileBytes(other.project);
 
   OpenByDialog(Panel3);

@@ -203,7 +203,7 @@ TEST_F(PrintedResults, SayInALineThatTheyCannotBeComputed) {
 }
 
 TEST_F(PrintedResults, SayInALineThatTheDesignCannotBeShown) {
-  program.project.WorkParms.Primary.Options = 7;  // not a valid option
+  program.project.WorkParms.Primary.Options = BoltSource{7};  // not a valid option
 
   EXPECT_THAT(Printed(), HasSubstr("The results cannot be computed from these inputs.\r\n"));
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
@@ -212,8 +212,8 @@ TEST_F(PrintedResults, SayInALineThatTheDesignCannotBeShown) {
 TEST_F(PrintedResults, ListCablesByCapacityEvenIfAMetricProjectCannotBeShown) {
   Design& design = program.project.WorkParms;
   design.Units = Metric;
-  design.Entries.Cable.CapMode = design.Intersections.Cable.CapMode = 0;
-  design.Primary.Options = 7;  // not a valid option
+  design.Entries.Cable.CapMode = design.Intersections.Cable.CapMode = CapacityMode::ByDiameter;
+  design.Primary.Options = BoltSource{7};  // not a valid option
 
   const std::string text = Printed();
 
