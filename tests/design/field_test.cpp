@@ -7,6 +7,8 @@ namespace {
 
 constexpr SingleField DepthofCover{[](auto& d) { return &d.Place.DepthofCover; }};
 constexpr SingleField EntryWidth{[](auto& d) { return &d.Place.EntryWidth; }};
+constexpr IntegerField BoltOptions{[](auto& d) { return &d.Primary.Options; }};
+constexpr IntegerField BoltTableRow{[](auto& d) { return &d.Primary.TableRow; }};
 
 TEST(FieldOfADesign, IsReadAndWrittenInAnyDesign) {
   Design design;
@@ -30,6 +32,21 @@ TEST(FieldOfADesign, HasOnlyItsOwnType) {
 
   EXPECT_EQ(std::get_if<IntegerField>(&number), nullptr);
   EXPECT_NE(std::get_if<SingleField>(&number), nullptr);
+}
+
+TEST(FieldOfADesign, OfAChoiceKeepsANumberThatTheChoiceLacks) {
+  Design design;
+
+  BoltOptions.Set(design, 7);
+
+  EXPECT_EQ(BoltOptions.Get(design), 7);
+  EXPECT_EQ(design.Primary.Options, BoltSource{7});
+  EXPECT_EQ(BoltTableRow.Get(design), 0);
+}
+
+TEST(FieldOfADesign, OfAChoiceEqualsOnlyItself) {
+  EXPECT_EQ(BoltOptions, IntegerField([](auto& d) { return &d.Primary.Options; }));
+  EXPECT_NE(BoltOptions, BoltTableRow);
 }
 
 }  // namespace
