@@ -187,10 +187,11 @@ class ParametersControls : public ProgramForm {
       2};
 
   // entries: standing supports
-  StandingControls EntryStandingControls{*this,
-                                         {"fraSupportSelectionEntry", "optSupportTypeSecEntry", "fraSupportTypeEntry",
-                                          "cmbSupportTypeSecEntry", "txtSupportTypeSecEntry", "txtSupportCapSecEntry"},
-                                         true};
+  StandingControls EntryStandingControls{
+      .Dialog = *this,
+      .Names = {"fraSupportSelectionEntry", "optSupportTypeSecEntry", "fraSupportTypeEntry", "cmbSupportTypeSecEntry",
+                "txtSupportTypeSecEntry", "txtSupportCapSecEntry"},
+      .RestoresText = true};
   LabelledBox txtNumberSupPerRowSecEntry{*this, "txtNumberSupPerRowSecEntry", "Number of Supports Per Row"};
   LabelledBox txtSupportRowSpacingSecEntry{*this, "txtSupportRowSpacingSecEntry", "Row Spacing", UnitSuffix::Length};
 
@@ -241,10 +242,11 @@ class ParametersControls : public ProgramForm {
       2};
 
   // intersections: standing supports
-  StandingControls InterStandingControls{*this,
-                                         {"fraSupportSelectionInter", "optSupportTypeSecInter", "fraSupportTypeInter",
-                                          "cmbSupportTypeSecInter", "txtSupportTypeSecInter", "txtSupportCapSecInter"},
-                                         false};
+  StandingControls InterStandingControls{
+      .Dialog = *this,
+      .Names = {"fraSupportSelectionInter", "optSupportTypeSecInter", "fraSupportTypeInter", "cmbSupportTypeSecInter",
+                "txtSupportTypeSecInter", "txtSupportCapSecInter"},
+      .RestoresText = false};
   LabelledBox txtSupportNumberSecInter{*this, "txtSupportNumberSecInter", "Number of Supports"};
 
   // intersections: outputs of the four support systems
