@@ -94,7 +94,7 @@ int Start() {
   MainWindow window(run.program);
   window.Open();
   run.desktop.windows.ShowMain(window, false);
-  DressMainWindow(run.desktop.windows.Main(), window);
+  AddIconsAndShortcuts(run.desktop.windows.Main(), window);
   const EndAfterPaint end(run.desktop.windows.Main());
   return QApplication::exec();
 }

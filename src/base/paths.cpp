@@ -23,7 +23,7 @@ std::string_view WithoutSeparator(std::string_view path) {
   return EndsInSeparator(path) ? path.substr(0, path.size() - 1) : path;
 }
 
-std::string_view NameBehindSeparator(std::string_view path) {
+std::string_view NameAfterSeparator(std::string_view path) {
   const std::size_t separator = path.find_last_of(Separators);
   return separator == std::string_view::npos ? path : path.substr(separator + 1);
 }

@@ -17,7 +17,7 @@ std::string WithSeparator(std::string_view path);
 std::string_view WithoutSeparator(std::string_view path);
 
 // Returns the part after the last separator, or the whole path when it has none.
-std::string_view NameBehindSeparator(std::string_view path);
+std::string_view NameAfterSeparator(std::string_view path);
 
 // Returns the part of the name before its first point, or the whole name when the point is its first character.
 std::string_view WithoutExtension(std::string_view name);

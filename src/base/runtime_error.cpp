@@ -48,7 +48,7 @@ RuntimeError::RuntimeError(int errorNumber, std::string_view remark)
   what_ = "run-time error " + std::to_string(errorNumber) + ": " + description_;
 }
 
-void RuntimeError::SayCircumstance(std::string words) {
+void RuntimeError::SetCircumstance(std::string words) {
   if (circumstance_.empty()) circumstance_ = std::move(words);
 }
 

@@ -40,10 +40,10 @@ class RuntimeError : public std::exception {
 
   int number() const { return number_; }
   std::string_view description() const { return description_; }
-  // What the program was doing, such as "while the report was made". Empty until SayCircumstance is called.
+  // What the program was doing, such as "while the report was made". Empty until SetCircumstance is called.
   const std::string& circumstance() const { return circumstance_; }
   // Sets the circumstance. Only the first call has an effect, because it is the nearest to the failure.
-  void SayCircumstance(std::string words);
+  void SetCircumstance(std::string words);
   // "run-time error 11: Division by zero"
   const char* what() const noexcept override { return what_.c_str(); }
 

@@ -39,7 +39,7 @@ std::string AcceptedFont(Program& program, const std::string& read) {
 std::string AcceptedDataPath(Program& program, const std::string& read) {
   if (read.empty() || read == NoText) return program.session.folders.ProgramData;
   const std::string path = WithSeparator(Trim(read));
-  return ValidPath(program, path, Telling::Silent) ? path : program.session.folders.ProgramData;
+  return ValidPath(program, path, Reporting::Silent) ? path : program.session.folders.ProgramData;
 }
 
 std::string AcceptedExtension(Program&, const std::string& read) {

@@ -59,7 +59,7 @@ void CopyExamples(Program& program) {
   if (program.session.settings.CopyExampleFiles != 1) return;
   FileSystem& files = program.platform.files;
   for (const std::string& source : files.FilesIn(AppDirectory(program.platform.files).append(ExamplesFolderName))) {
-    const std::string target = WithSeparator(program.session.settings.DataPath).append(NameBehindSeparator(source));
+    const std::string target = WithSeparator(program.session.settings.DataPath).append(NameAfterSeparator(source));
     Succeeds([&] { CopyMissing(files, source, target); });
   }
 }

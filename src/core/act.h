@@ -25,7 +25,7 @@ decltype(auto) While(Act act, std::string_view present, const Work& work) {
   try {
     return work();
   } catch (RuntimeError& error) {
-    error.SayCircumstance(ActWords(act, object));
+    error.SetCircumstance(ActWords(act, object));
     throw;
   }
 }

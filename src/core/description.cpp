@@ -71,7 +71,7 @@ void SaveDescription(Program& program) {
     program.project.DescLines = normal.lines;
   } catch (const RuntimeError& error) {
     // A description that could not be normalised stays as the user typed it, whatever the decision is.
-    ErrorDecision(program, error, Telling::Silent);
+    ErrorDecision(program, error, Reporting::Silent);
   }
 }
 

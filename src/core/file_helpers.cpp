@@ -51,12 +51,12 @@ bool FileExists(Program& program, const std::string& path) {
   }
 }
 
-bool ValidPath(Program& program, const std::string& path, Telling telling) {
+bool ValidPath(Program& program, const std::string& path, Reporting reporting) {
   try {
     return program.platform.files.Finds(path);
   } catch (const RuntimeError& error) {
-    if (ErrorDecision(program, error, Telling::Silent) == Decision::GiveUp) {
-      if (telling == Telling::Loud)
+    if (ErrorDecision(program, error, Reporting::Silent) == Decision::GiveUp) {
+      if (reporting == Reporting::Loud)
         ShowMessage(program, "Invalid path: " + path, BoxButtons::Ok, program.windows.titles.ErrorTitle);
       return false;
     }
@@ -71,7 +71,7 @@ std::string FileNameFromPath(Program& program, const std::string& path, FileName
     ShowMessage(program, "Error in filename: " + path, BoxButtons::Ok, program.windows.titles.ErrorTitle);
     return path;
   }
-  const std::string_view name = NameBehindSeparator(path);
+  const std::string_view name = NameAfterSeparator(path);
   return std::string(form == FileNameForm::WithoutExtension ? WithoutExtension(name) : name);
 }
 

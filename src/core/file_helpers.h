@@ -12,9 +12,9 @@ namespace orby {
 bool FileExists(Program& program, const std::string& path);
 
 // Returns true if the path is a file or a folder. When the search fails with an error that ends a command, shows
-// "Invalid path: " if `telling` is Loud, and returns false. When it fails with another error, shows an internal error
+// "Invalid path: " if `reporting` is Loud, and returns false. When it fails with another error, shows an internal error
 // and returns true.
-bool ValidPath(Program& program, const std::string& path, Telling telling);
+bool ValidPath(Program& program, const std::string& path, Reporting reporting);
 
 enum class FileNameForm { Whole, WithoutExtension };
 

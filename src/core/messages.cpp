@@ -129,10 +129,10 @@ void AddHistoryLine(Program& program, std::string_view text) {
   if (history.Changed) history.Changed();
 }
 
-Decision ErrorDecision(Program& program, const RuntimeError& error, Telling telling) {
+Decision ErrorDecision(Program& program, const RuntimeError& error, Reporting reporting) {
   const ErrorKind kind = KindOf(error.number());
   const Decision decision = DecisionOn(kind);
-  if (telling == Telling::Silent) return decision;
+  if (reporting == Reporting::Silent) return decision;
 
   const std::string description(error.description());
   if (kind == ErrorKind::Cancelled) {

@@ -48,11 +48,11 @@ enum class Decision {
 };
 
 // Whether an error is shown to the user and added to the history.
-enum class Telling { Loud, Silent };
+enum class Reporting { Loud, Silent };
 
-// Returns how a command continues after a run-time error. Unless `telling` is Silent, adds the error to the history and
-// shows it, and asks whether to retry where that can help.
-Decision ErrorDecision(Program& program, const RuntimeError& error, Telling telling);
+// Returns how a command continues after a run-time error. Unless `reporting` is Silent, adds the error to the history
+// and shows it, and asks whether to retry where that can help.
+Decision ErrorDecision(Program& program, const RuntimeError& error, Reporting reporting);
 
 // How a step ended.
 enum class StepOutcome { Done, PassedOver, Cancelled, GivenUp };
@@ -67,7 +67,7 @@ StepOutcome RunTrapped(Program& program, const Step& step) {
       return StepOutcome::Done;
     } catch (const RuntimeError& error) {
       program.platform.windows.SetWaitCursor(false);
-      switch (ErrorDecision(program, error, Telling::Loud)) {
+      switch (ErrorDecision(program, error, Reporting::Loud)) {
         case Decision::Retry: break;
         case Decision::Continue: return StepOutcome::PassedOver;
         case Decision::Cancelled: return StepOutcome::Cancelled;

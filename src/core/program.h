@@ -118,7 +118,7 @@ struct Session {
   History history;
   std::array<std::string, 5> OutBuf;  // pages of the last report: 0 the inputs, 1 the calculations or the cost table
   std::optional<ShownResults> LastResults;
-  bool ToldOfNoBackup = false;
+  bool NoBackupReported = false;
   std::string SavedDecimalSeparator;
 };
 

@@ -33,7 +33,7 @@ std::string SizeText(std::uint64_t bytes) {
 }
 
 std::string Named(const Backup& entry) {
-  return std::string(NameBehindSeparator(entry.Project)) + " of " + MomentText(entry.Time);
+  return std::string(NameAfterSeparator(entry.Project)) + " of " + MomentText(entry.Time);
 }
 
 // Returns the figure with one decimal, or "--" if there is none or it cannot be computed.
@@ -49,7 +49,7 @@ std::string TypedTitle(const UnsavedProject& project) {
 
 // Returns the project's path. If the entry does not know the folder, assumes the data folder.
 std::string PathOf(const Program& program, const Backup& entry) {
-  const bool hasFolder = NameBehindSeparator(entry.Project).size() < entry.Project.size();
+  const bool hasFolder = NameAfterSeparator(entry.Project).size() < entry.Project.size();
   return hasFolder ? entry.Project : WithSeparator(program.session.settings.DataPath) + entry.Project;
 }
 
@@ -75,7 +75,7 @@ void BackupsWindow::List() {
   entries_ = ListBackups(program_);
   std::vector<std::vector<std::string>> rows{{Headers.begin(), Headers.end()}};
   for (const Backup& entry : entries_) {
-    rows.push_back({std::string(NameBehindSeparator(entry.Project)), MomentText(entry.Time),
+    rows.push_back({std::string(NameAfterSeparator(entry.Project)), MomentText(entry.Time),
                     std::string(entry.Reason ? ReasonText(*entry.Reason) : "Not known"), SizeText(entry.Bytes)});
   }
   grdBackups.SetRows(std::move(rows), HeaderRows);

@@ -151,7 +151,7 @@ void OptionsDialog::GoTo(std::size_t page, TextBox& field) {
   RequestFocus(field);
 }
 
-void OptionsDialog::TellFault(const std::string& fault) {
+void OptionsDialog::ReportFault(const std::string& fault) {
   ShowMessage(program_, fault, BoxIcon::Critical, program_.windows.titles.RangeErrorTitle);
 }
 
@@ -162,7 +162,7 @@ bool OptionsDialog::CheckFaults() {
       const auto value = FittingNumber(field.Text());
       const bool isChecked = !row.Fault.empty();
       if (value && (!isChecked || (*value > 0 && *value <= row.Highest))) continue;
-      TellFault(isChecked ? std::string(row.Fault) : fault_text::TooLarge(field.LabelCaption(), field.Text()));
+      ReportFault(isChecked ? std::string(row.Fault) : fault_text::TooLarge(field.LabelCaption(), field.Text()));
       GoTo(page, field);
       return false;
     }

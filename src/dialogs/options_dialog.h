@@ -31,7 +31,7 @@ class OptionsDialog : public OptionsControls {
   void TieCommands();
   void FillFields();
   void GoTo(std::size_t page, TextBox& field);
-  void TellFault(const std::string& fault);
+  void ReportFault(const std::string& fault);
   bool CheckFaults();
   bool CheckWarnings();
   void Accept();

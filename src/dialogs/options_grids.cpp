@@ -69,7 +69,7 @@ bool Fits(const std::string& text) {
 
 bool OptionsDialog::CheckCell(OverlayEditing& grid, int entry, int column, const Frame& frame) {
   if (Fits(grid.Text(entry, column))) return true;
-  TellFault(fault_text::TooLarge(frame.Caption(), grid.Text(entry, column)));
+  ReportFault(fault_text::TooLarge(frame.Caption(), grid.Text(entry, column)));
   grid.GoTo(entry, column);
   return false;
 }

@@ -91,7 +91,7 @@ class ParametersDialog : public ParametersControls {
   bool TakeFields(RoofSupport& support, Design (*step)(Design));
   // Returns true if a commit would take all fields. Otherwise shows the error for the first field that does not fit.
   bool MayCommit();
-  void TellRefused(const Control& field);
+  void ReportRefused(const Control& field);
 
   // Reads the fields of one part into the typed design, for the live results. A number that no Single can hold becomes
   // Unfit.

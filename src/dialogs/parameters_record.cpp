@@ -288,7 +288,7 @@ bool ParametersDialog::TakeFields(RoofSupport& support, Design (*step)(Design)) 
   typed_ = step(std::move(typed_));
   for (const Misfit& misfit : misfits) {
     if (!IsUnfit(*misfit.number)) continue;
-    TellRefused(*misfit.field);
+    ReportRefused(*misfit.field);
     return false;
   }
   support = std::move(typed_.Support());

@@ -42,7 +42,7 @@ std::string ShownText(const Control& control) {
 }  // namespace
 
 // A field is named by the nearest label before it.
-void ParametersDialog::TellRefused(const Control& field) {
+void ParametersDialog::ReportRefused(const Control& field) {
   const PageStart* page = Pages;
   std::string_view caption;
   for (Control* control : Controls()) {

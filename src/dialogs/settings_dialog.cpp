@@ -50,7 +50,7 @@ constexpr std::array BoundTexts{
 bool IsLetterOrDigit(char c) { return (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9'); }
 
 // Returns the folder of the path, or an empty text for a bare name.
-std::string FolderOf(const std::string& path) { return path.substr(0, path.size() - NameBehindSeparator(path).size()); }
+std::string FolderOf(const std::string& path) { return path.substr(0, path.size() - NameAfterSeparator(path).size()); }
 
 // Sets the field to the answer of a system dialog. If the user cancels, the field stays unchanged.
 template <class Ask>
@@ -141,7 +141,7 @@ bool SettingsDialog::Check() { return CheckPath() && CheckHistorySize() && Check
 bool SettingsDialog::CheckPath() {
   // An empty path means the root of the file system.
   Text2.SetText(WithSeparator(Text2.Text()));
-  if (ValidPath(program_, Text2.Text(), Telling::Silent)) return true;
+  if (ValidPath(program_, Text2.Text(), Reporting::Silent)) return true;
   ShowMessage(program_, "Invalid Path for Data Files", BoxButtons::Ok, program_.windows.titles.ErrorTitle);
   RequestFocus(Text2);
   return false;

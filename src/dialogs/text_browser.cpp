@@ -39,7 +39,7 @@ std::vector<std::string> FolderChain(const std::string& drive, const std::string
 
 // Returns the folder that contains the path. The root contains itself.
 std::string FolderAbove(const std::string& path) {
-  const std::size_t end = path.size() - NameBehindSeparator(path).size();
+  const std::size_t end = path.size() - NameAfterSeparator(path).size();
   return end <= 1 ? std::string(1, FolderSeparator) : path.substr(0, end - 1);
 }
 
@@ -52,7 +52,7 @@ std::string FolderName(const std::string& path) {
 std::vector<ComboItem> NamesOf(const std::vector<std::string>& paths) {
   std::vector<ComboItem> names;
   names.reserve(paths.size());
-  for (const std::string& path : paths) names.push_back({std::string(NameBehindSeparator(path))});
+  for (const std::string& path : paths) names.push_back({std::string(NameAfterSeparator(path))});
   return names;
 }
 
@@ -150,7 +150,7 @@ void TextBrowser::ShowFolders(const std::vector<std::string>& folders) {
   folderPaths_ = FolderChain(DriveOf(drives_, folder_), folder_);
   std::vector<ComboItem> items{{folderPaths_.front()}};
   for (std::size_t depth = 1; depth < folderPaths_.size(); ++depth) {
-    items.push_back({std::string(depth * Indent, ' ').append(NameBehindSeparator(folderPaths_[depth]))});
+    items.push_back({std::string(depth * Indent, ' ').append(NameAfterSeparator(folderPaths_[depth]))});
   }
   const std::size_t present = items.size() - 1;
   for (const std::string& name : folders) {
@@ -165,7 +165,7 @@ void TextBrowser::ShowFiles() {
   if (folder_.empty()) return;  // none of the machine's folders could be read
   filePaths_ = program_.platform.files.FilesIn(folder_);
   std::erase_if(filePaths_, [this](const std::string& path) {
-    return !MatchesFilePattern(NameBehindSeparator(path), Text2.Text());
+    return !MatchesFilePattern(NameAfterSeparator(path), Text2.Text());
   });
   File1.Fill({});
   File1.Fill(NamesOf(filePaths_));
@@ -181,7 +181,7 @@ void TextBrowser::ViewFile(int item) {
   RunTrapped(program_, [&] {
     const bool isTooLong = FileExists(program_, path) && program_.platform.files.FileLength(path) > MostBytes;
     if (isTooLong) {
-      TellItIsTooLong();
+      ReportTooLong();
     } else if (Check1.Checked()) {
       ViewOutside(path);
     } else {
@@ -190,7 +190,7 @@ void TextBrowser::ViewFile(int item) {
   });
 }
 
-void TextBrowser::TellItIsTooLong() {
+void TextBrowser::ReportTooLong() {
   ShowMessage(program_, "The file is too long to be viewed here, it has more than 1 GB: " + Label1.Text());
 }
 
@@ -237,7 +237,7 @@ void TextBrowser::LoadNextPiece(const Loading& loading) {
   if (piece.empty()) return StopLoading();
   if (length > MostBytes) {
     StopLoading();
-    return TellItIsTooLong();
+    return ReportTooLong();
   }
   RichTextBox1.Append(piece);
   prgLoading.SetValue(static_cast<int>(length * ProgressBar::Whole / std::max(loading.length, length)));

@@ -67,7 +67,7 @@ class TextBrowser : public ProgramForm {
 
   // the chosen file
   void ViewFile(int item);
-  void TellItIsTooLong();
+  void ReportTooLong();
   void ViewOutside(const std::string& path);
   void StartLoading(const std::string& path);
   void LoadNextPiece(const Loading& loading);

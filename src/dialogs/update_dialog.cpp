@@ -78,7 +78,7 @@ void UpdateDialog::SetBusy(bool busy) {
   cmdInstall.SetEnabled(!busy && !checkFailed_);
 }
 
-void UpdateDialog::TellNoConnection(FetchEnd end) {
+void UpdateDialog::ReportNoConnection(FetchEnd end) {
   ShowMessage(program_, end == FetchEnd::NoService ? "An error occurred calling InternetOpen function"
                                                    : "An error occurred calling InternetOpenUrl function");
   ShowMessage(program_, std::string(NoConnection));
@@ -104,7 +104,7 @@ void UpdateDialog::AskServer(const Step& next) {
   lblStatus.SetCaption({});
   SetBusy(false);
   ForgetAnswer();
-  TellNoConnection(FetchEnd::NoService);
+  ReportNoConnection(FetchEnd::NoService);
 }
 
 void UpdateDialog::ForgetAnswer() {
@@ -118,7 +118,7 @@ void UpdateDialog::ForgetAnswer() {
 bool UpdateDialog::Accept(const VersionAnswer& answer) {
   if (!answer.offered) ForgetAnswer();
   if (answer.end == FetchEnd::NoService || answer.end == FetchEnd::NoConnection) {
-    TellNoConnection(answer.end);
+    ReportNoConnection(answer.end);
     return false;
   }
   if (!answer.offered) {
@@ -189,7 +189,7 @@ void UpdateDialog::SetupProgress(std::uint64_t received, std::uint64_t total) {
 void UpdateDialog::SetupArrived(const std::string& path, const FetchOutcome& outcome) {
   if (outcome.end == FetchEnd::NoService || outcome.end == FetchEnd::NoConnection) {
     lblStatus.SetCaption(NoConnection);
-    return TellNoConnection(outcome.end);
+    return ReportNoConnection(outcome.end);
   }
   if (outcome.end != FetchEnd::Done) {
     return EndDownload("Download failed: " + SetupFileAddress(program_.session, offered_->version) +

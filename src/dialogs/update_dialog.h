@@ -65,7 +65,7 @@ class UpdateDialog : public ProgramForm {
   std::string FileToStart(const std::string& setupFile);
   void OpenWebPage();
 
-  void TellNoConnection(FetchEnd end);
+  void ReportNoConnection(FetchEnd end);
   // Disables the commands while a fetch is running.
   void SetBusy(bool busy);
 

@@ -85,7 +85,7 @@ std::optional<Stamp> TakeStamp(std::string_view& name) {
 std::string FileNameOf(std::string_view project) {
   constexpr std::size_t LongestName = 100;
   constexpr std::string_view NotEverywhere = "<>:\"|?*";
-  std::string name(NameBehindSeparator(project));
+  std::string name(NameAfterSeparator(project));
   if (name.size() > LongestName) {
     const auto isInsideCharacter = [&](std::size_t at) {
       return (static_cast<unsigned char>(name[at]) & 0xC0U) == 0x80U;
@@ -108,7 +108,7 @@ std::string_view WithoutEnding(std::string_view name, std::string_view ending) {
 
 // Returns the name of the project from the file name of an entry.
 std::string_view NameIn(const Backup& backup) {
-  std::string_view name = NameBehindSeparator(backup.Path);
+  std::string_view name = NameAfterSeparator(backup.Path);
   TakeStamp(name);
   name.remove_prefix(1);
   return WithoutEnding(name, RecoveryEnding);
@@ -143,7 +143,7 @@ std::vector<Backup> EntriesByName(Program& program) {
   std::vector<Backup> entries;
   FileSystem& files = program.platform.files;
   for (const std::string& path : files.FilesIn(BackupFolder(program.session))) {
-    std::string_view name = NameBehindSeparator(path);
+    std::string_view name = NameAfterSeparator(path);
     const auto stamp = TakeStamp(name);
     if (!stamp || name.size() < 2 || name.front() != ' ') continue;
     Backup& entry = entries.emplace_back();

@@ -98,7 +98,7 @@ void OverwrittenFile::CheckThatItMayBeWritten() { program_.platform.files.OpenIn
 void OverwrittenFile::MoveBeside() {
   constexpr int MostNames = 99;
   FileSystem& files = program_.platform.files;
-  const std::string target = files.BehindLinks(path_);
+  const std::string target = files.ResolveLinks(path_);
   for (int number = 1; number <= MostNames; ++number) {
     const std::string name = target + ".old" + (number == 1 ? std::string() : NumberText(number));
     if (files.Finds(name)) continue;
@@ -131,11 +131,11 @@ void OverwrittenFile::Write(std::string_view bytes) {
 void OverwrittenFile::PutBack() {
   FileSystem& files = program_.platform.files;
   if (!beside_.empty()) {
-    isAsBefore_ = Succeeds([this, &files] { files.RenameFile(beside_, files.BehindLinks(path_)); });
+    isAsBefore_ = Succeeds([this, &files] { files.RenameFile(beside_, files.ResolveLinks(path_)); });
   } else if (!isTouched_) {
     isAsBefore_ = !isSpoilt_;
   } else if (holds_ == Holds::Nothing) {
-    isAsBefore_ = Succeeds([this, &files] { files.RemoveFile(files.BehindLinks(path_)); });
+    isAsBefore_ = Succeeds([this, &files] { files.RemoveFile(files.ResolveLinks(path_)); });
   } else {
     isAsBefore_ = holds_ == Holds::Known && Succeeds([this] { Write(old_); });
   }
@@ -157,7 +157,7 @@ std::vector<std::string> OverwrittenFile::RemarksOnSuccess() {
   if (lacksBackup_) {
     const std::string text =
         "The old contents of " + path_ + " could not be kept in " + BackupFolder(program_.session) + ".";
-    if (std::exchange(program_.session.ToldOfNoBackup, true)) {
+    if (std::exchange(program_.session.NoBackupReported, true)) {
       AddHistoryLine(program_, text);
     } else {
       remarks.push_back(text);

@@ -74,7 +74,7 @@ class FileSystem {
   virtual void MakeFileLike(const std::string& path, const std::string& model) = 0;
   // Returns the path that a chain of symbolic links leads to, also when there is no file. Returns the path itself if it
   // is not a link.
-  virtual std::string BehindLinks(const std::string& path) = 0;
+  virtual std::string ResolveLinks(const std::string& path) = 0;
   // Makes the folder and those above it. A folder that exists already is not an error.
   virtual void MakeFolder(const std::string& path) = 0;
   // Makes the folder and those above it, and gives only the user access to those that it makes. An existing folder

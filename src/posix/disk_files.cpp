@@ -167,7 +167,7 @@ void DiskFiles::ReplaceFile(const std::string& path, std::string_view bytes) { R
 
 void DiskFiles::MakeFileLike(const std::string& path, const std::string& model) { MakeFileOnDiskLike(path, model); }
 
-std::string DiskFiles::BehindLinks(const std::string& path) { return PathBehindLinks(path); }
+std::string DiskFiles::ResolveLinks(const std::string& path) { return ResolvedLinks(path); }
 
 void DiskFiles::MakeFolder(const std::string& path) {
   CheckName(path);

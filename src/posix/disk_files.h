@@ -20,7 +20,7 @@ class DiskFiles : public FileSystem {
   void RenameFile(const std::string& path, const std::string& newPath) override;
   void ReplaceFile(const std::string& path, std::string_view bytes) override;
   void MakeFileLike(const std::string& path, const std::string& model) override;
-  std::string BehindLinks(const std::string& path) override;
+  std::string ResolveLinks(const std::string& path) override;
   void MakeFolder(const std::string& path) override;
   void MakePrivateFolder(const std::string& path) override;
   bool CanWriteTo(const std::string& folder) override;

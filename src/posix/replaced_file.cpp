@@ -83,7 +83,7 @@ class Replacement {
 
 }  // namespace
 
-std::string PathBehindLinks(const std::string& path) {
+std::string ResolvedLinks(const std::string& path) {
   constexpr int MostLinks = 40;
   std::filesystem::path target = path;
   for (int links = 0; links <= MostLinks; ++links) {
@@ -122,7 +122,7 @@ void ReplaceFileOnDisk(const std::string& path, std::string_view bytes) {
     file.Write(bytes);
     return file.Close();
   }
-  Replacement replacement(PathBehindLinks(path), replaced);
+  Replacement replacement(ResolvedLinks(path), replaced);
   if (replaced) replacement.TakeOver(*replaced);
   replacement.Fill(bytes);
   replacement.TakeItsPlace();

@@ -6,8 +6,8 @@
 
 namespace orby {
 
-// Implements FileSystem::BehindLinks.
-std::string PathBehindLinks(const std::string& path);
+// Implements FileSystem::ResolveLinks.
+std::string ResolvedLinks(const std::string& path);
 
 // Implements FileSystem::MakeFileLike.
 void MakeFileOnDiskLike(const std::string& path, const std::string& model);

@@ -60,7 +60,7 @@ int RunProgram(FileSystem& files, FileTypes& fileTypes, const std::vector<std::s
   const ToolkitStart toolkit;
   QApplication::setWindowIcon(ThemedIcon("orby"));
   Desktop desktop(files, fileTypes);
-  Program program(desktop.Doors());
+  Program program(desktop.AsPlatform());
   std::unique_ptr<MainWindow> window;
   SetErrorHandler([&](const RuntimeError& error) { EndRun(desktop, window.get(), error); });
   // Unsaved changes are kept for the next start.
@@ -79,7 +79,7 @@ int RunProgram(FileSystem& files, FileTypes& fileTypes, const std::vector<std::s
     window = std::make_unique<MainWindow>(program, restart);
     window->Open();
     desktop.windows.ShowMain(*window, program.session.settings.MaxMainMenu == 1);
-    DressMainWindow(desktop.windows.Main(), *window);
+    AddIconsAndShortcuts(desktop.windows.Main(), *window);
   });
   // Runs after the window has been painted.
   QMetaObject::invokeMethod(

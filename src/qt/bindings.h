@@ -48,7 +48,7 @@ class Binding {
   virtual std::vector<QWidget*> Widgets() const = 0;
   virtual std::vector<CaptionSlot> Captions() const { return {}; }
   // Returns true if a hidden widget keeps its place, so that nothing else moves.
-  virtual bool KeepsPlace() const { return false; }
+  virtual bool RetainsSize() const { return false; }
   // Returns the widget that gets the focus if the control requests it.
   virtual QWidget* FocusWidget() const { return Widgets().empty() ? nullptr : Widgets().front(); }
 };

@@ -128,7 +128,7 @@ class ComboBinding : public QObject, public WidgetBinding<QComboBox, Combo> {
     ShowItems();
     ShowText();
   }
-  bool KeepsPlace() const override { return true; }
+  bool RetainsSize() const override { return true; }
 
   // The wheel scrolls the dialog. It does not change a list under the pointer that has no focus.
   bool eventFilter(QObject* watched, QEvent* event) override {

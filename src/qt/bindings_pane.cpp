@@ -22,7 +22,7 @@ class PaneBinding : public WidgetBinding<LinesView, const TextPane> {
     }
     widget_.ShowText(control_.Bytes());
   }
-  bool KeepsPlace() const override { return true; }
+  bool RetainsSize() const override { return true; }
 
  private:
   FindBar* bar_ = nullptr;  // the bar below the pane

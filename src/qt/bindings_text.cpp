@@ -41,7 +41,7 @@ class FrameBinding : public WidgetBinding<QGroupBox, const Frame> {
     ShowState(widget_, control_);
     widget_.setTitle(ToQt(control_.Caption()));
   }
-  bool KeepsPlace() const override { return true; }
+  bool RetainsSize() const override { return true; }
 };
 
 class ButtonBinding : public WidgetBinding<QPushButton, const Button> {
@@ -94,7 +94,7 @@ class LineEditBinding : public QObject, public WidgetBinding<QLineEdit, TextBox>
   void ShowTheme() override {
     if (control_.Kind() == TextKind::Output) ShowAsOutput(widget_);
   }
-  bool KeepsPlace() const override { return true; }
+  bool RetainsSize() const override { return true; }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::FocusOut) {
@@ -184,7 +184,7 @@ class TextAreaBinding : public QObject, public WidgetBinding<QPlainTextEdit, Tex
   void ShowTheme() override {
     if (control_.Kind() == TextKind::Output) ShowAsOutput(widget_);
   }
-  bool KeepsPlace() const override { return true; }
+  bool RetainsSize() const override { return true; }
 
  private:
   FontChoice shownFont_;

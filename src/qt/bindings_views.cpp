@@ -127,7 +127,7 @@ class PlainBinding : public WidgetBinding<QWidget, const Control> {
   using WidgetBinding::WidgetBinding;
 
   void Show() override { widget_.setVisible(control_.Visible()); }
-  bool KeepsPlace() const override { return true; }
+  bool RetainsSize() const override { return true; }
 };
 
 class ProgressBinding : public WidgetBinding<QProgressBar, const ProgressBar> {
@@ -140,7 +140,7 @@ class ProgressBinding : public WidgetBinding<QProgressBar, const ProgressBar> {
     ShowState(widget_, control_);
     widget_.setValue(control_.Value());
   }
-  bool KeepsPlace() const override { return true; }
+  bool RetainsSize() const override { return true; }
 };
 
 class ChartBinding : public WidgetBinding<ChartView, const Chart> {

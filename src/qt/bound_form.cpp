@@ -75,7 +75,7 @@ BoundForm::BoundForm(Form& form, QWidget& root) : form_(form), root_(root) {
   AssignLetters();
   for (const Control* control : form.Controls()) bindings_.at(control)->Show();
   CaptionChanged();
-  KeepPlaces();
+  RetainSizes();
   OrderTabs();
   NameForReaders();
   ShowTheme();
@@ -136,10 +136,10 @@ void BoundForm::AssignLetters() {
 
 // In a dialog, hidden widgets keep their place, so that nothing moves. In a window with a large view, the view takes
 // the place.
-void BoundForm::KeepPlaces() {
+void BoundForm::RetainSizes() {
   if (dynamic_cast<QDialog*>(&root_) == nullptr) return;
   for (const auto& [control, binding] : bindings_) {
-    if (!binding->KeepsPlace()) continue;
+    if (!binding->RetainsSize()) continue;
     for (QWidget* widget : binding->Widgets()) {
       QSizePolicy policy = widget->sizePolicy();
       policy.setRetainSizeWhenHidden(true);

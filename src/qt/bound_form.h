@@ -54,7 +54,7 @@ class BoundForm final : public QObject, public FormView, public BindingHost {
   void AskForHelp();
   void BindControls();
   void AssignLetters();
-  void KeepPlaces();
+  void RetainSizes();
   void OrderTabs();
   void NameForReaders();
   void BringOnView(QWidget& widget);

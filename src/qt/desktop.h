@@ -31,7 +31,7 @@ struct Desktop {
   QtDownloads downloads;
   FileTypes& fileTypes;
 
-  Platform Doors() {
+  Platform AsPlatform() {
     return {boxes,       files,     fileDialogs, windows,   fonts, locale,    clock,
             userFolders, clipboard, printer,     documents, help,  downloads, fileTypes};
   }

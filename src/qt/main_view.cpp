@@ -153,7 +153,7 @@ class DropTarget : public QObject {
 
 }  // namespace
 
-void DressMainWindow(QMainWindow& window, MainWindow& model) {
+void AddIconsAndShortcuts(QMainWindow& window, MainWindow& model) {
   for (const Dress& dress : Dresses) {
     auto* action = window.findChild<QAction*>(dress.action);
     if (dress.icon != nullptr) action->setIcon(ThemedIcon(dress.icon));

@@ -8,6 +8,6 @@ namespace orby {
 class MainWindow;
 
 // Both must exist as long as the window is on the screen.
-void DressMainWindow(QMainWindow& window, MainWindow& model);
+void AddIconsAndShortcuts(QMainWindow& window, MainWindow& model);
 
 }  // namespace orby

@@ -225,11 +225,11 @@ bool Transfer::End(FetchEnd end) {
   LetGo();
   file_.reset();
   QMetaObject::invokeMethod(
-      this, [this, outcome] { Tell(outcome); }, Qt::QueuedConnection);
+      this, [this, outcome] { Report(outcome); }, Qt::QueuedConnection);
   return false;
 }
 
-void Transfer::Tell(FetchOutcome outcome) {
+void Transfer::Report(FetchOutcome outcome) {
   const auto finished = std::exchange(events_, {}).Finished;
   if (!finished) return;
   RunGuarded([&] { finished(outcome); });

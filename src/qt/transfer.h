@@ -48,7 +48,7 @@ class Transfer : public QObject {
   // Always returns false.
   bool End(FetchEnd end);
   bool DropAndFail();
-  void Tell(FetchOutcome outcome);
+  void Report(FetchOutcome outcome);
 
   QNetworkAccessManager& network_;
   FetchRequest request_;

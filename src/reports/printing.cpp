@@ -23,7 +23,7 @@ std::string TableRow(std::string_view left, std::string_view right) {
 }
 
 // Returns the file name, shortened as in captions. A full path could overlap the page number.
-std::string FileName(const Project& project) { return ShortenedPath(NameBehindSeparator(project.CurrentFile)); }
+std::string FileName(const Project& project) { return ShortenedPath(NameAfterSeparator(project.CurrentFile)); }
 
 // Returns the title as typed, also when opening the file has shifted the header.
 std::string TypedTitle(const Project& project) {
@@ -123,7 +123,7 @@ std::vector<std::string> PrintSheets(const Program& program, std::string_view te
 }
 
 std::string PrintedName(const Project& project) {
-  const std::string_view name = NameBehindSeparator(project.CurrentFile);
+  const std::string_view name = NameAfterSeparator(project.CurrentFile);
   const std::size_t point = name.rfind('.');
   return std::string(point == 0 ? name : name.substr(0, point));
 }

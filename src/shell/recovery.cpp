@@ -124,7 +124,7 @@ bool Recovery::Ask(const std::string& otherFile) {
   box.text = Question(*project);
   box.style = {BoxButtons::YesNo, BoxIcon::Question};
   if (!otherFile.empty()) {
-    box.captions = {"Recover", "Open " + ShortenedPath(NameBehindSeparator(otherFile)) + " instead"};
+    box.captions = {"Recover", "Open " + ShortenedPath(NameAfterSeparator(otherFile)) + " instead"};
   }
   if (ShowMessage(program_, box) == BoxResult::Yes) {
     RestoreProject(program_.project, *project);

@@ -28,12 +28,12 @@ TEST(Paths, OneTrailingSeparatorIsRemoved) {
 }
 
 TEST(Paths, TheNameFollowsTheLastSeparatorOfEitherKind) {
-  EXPECT_EQ(NameBehindSeparator("/home/mine/North.ORB"), "North.ORB");
-  EXPECT_EQ(NameBehindSeparator("C:\\Mine\\North.ORB"), "North.ORB");
-  EXPECT_EQ(NameBehindSeparator("/home\\mine/a\\North.ORB"), "North.ORB");
-  EXPECT_EQ(NameBehindSeparator("North.ORB"), "North.ORB");
-  EXPECT_EQ(NameBehindSeparator("/home/mine/"), "");
-  EXPECT_EQ(NameBehindSeparator(""), "");
+  EXPECT_EQ(NameAfterSeparator("/home/mine/North.ORB"), "North.ORB");
+  EXPECT_EQ(NameAfterSeparator("C:\\Mine\\North.ORB"), "North.ORB");
+  EXPECT_EQ(NameAfterSeparator("/home\\mine/a\\North.ORB"), "North.ORB");
+  EXPECT_EQ(NameAfterSeparator("North.ORB"), "North.ORB");
+  EXPECT_EQ(NameAfterSeparator("/home/mine/"), "");
+  EXPECT_EQ(NameAfterSeparator(""), "");
 }
 
 TEST(Paths, TheExtensionStartsAtTheFirstPoint) {

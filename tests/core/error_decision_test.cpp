@@ -31,7 +31,7 @@ struct ErrorOfADevice : ErrorBench, testing::WithParamInterface<ErrorCase> {};
 TEST_P(ErrorOfADevice, IsRetriedWhenTheUserWishes) {
   platform.boxes.answers = {BoxResult::Retry};
 
-  const Decision decision = ErrorDecision(program, RuntimeError(GetParam().number), Telling::Loud);
+  const Decision decision = ErrorDecision(program, RuntimeError(GetParam().number), Reporting::Loud);
 
   EXPECT_EQ(decision, Decision::Retry);
   EXPECT_EQ(FirstLogLine(), GetParam().log);
@@ -42,7 +42,7 @@ TEST_P(ErrorOfADevice, IsRetriedWhenTheUserWishes) {
 TEST_P(ErrorOfADevice, IsSkippedWhenTheUserCancels) {
   platform.boxes.answers = {BoxResult::Cancel};
 
-  const Decision decision = ErrorDecision(program, RuntimeError(GetParam().number), Telling::Loud);
+  const Decision decision = ErrorDecision(program, RuntimeError(GetParam().number), Reporting::Loud);
 
   EXPECT_EQ(decision, Decision::Continue);
   EXPECT_THAT(platform.boxes.shown,
@@ -50,7 +50,7 @@ TEST_P(ErrorOfADevice, IsSkippedWhenTheUserCancels) {
 }
 
 TEST_P(ErrorOfADevice, IsSkippedWithoutAMessageWhenSilent) {
-  const Decision decision = ErrorDecision(program, RuntimeError(GetParam().number), Telling::Silent);
+  const Decision decision = ErrorDecision(program, RuntimeError(GetParam().number), Reporting::Silent);
 
   EXPECT_EQ(decision, Decision::Continue);
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
@@ -89,7 +89,7 @@ INSTANTIATE_TEST_SUITE_P(
 struct ErrorThatEndsACommand : ErrorBench, testing::WithParamInterface<ErrorCase> {};
 
 TEST_P(ErrorThatEndsACommand, IsShownOnceAndEndsTheCommand) {
-  const Decision decision = ErrorDecision(program, RuntimeError(GetParam().number), Telling::Loud);
+  const Decision decision = ErrorDecision(program, RuntimeError(GetParam().number), Reporting::Loud);
 
   EXPECT_EQ(decision, Decision::GiveUp);
   EXPECT_EQ(FirstLogLine(), GetParam().log);
@@ -99,11 +99,11 @@ TEST_P(ErrorThatEndsACommand, IsShownOnceAndEndsTheCommand) {
 TEST_P(ErrorThatEndsACommand, IsNeverRetried) {
   platform.boxes.answers = {BoxResult::Retry};
 
-  EXPECT_EQ(ErrorDecision(program, RuntimeError(GetParam().number), Telling::Loud), Decision::GiveUp);
+  EXPECT_EQ(ErrorDecision(program, RuntimeError(GetParam().number), Reporting::Loud), Decision::GiveUp);
 }
 
 TEST_P(ErrorThatEndsACommand, EndsTheCommandWithoutAMessageWhenSilent) {
-  const Decision decision = ErrorDecision(program, RuntimeError(GetParam().number), Telling::Silent);
+  const Decision decision = ErrorDecision(program, RuntimeError(GetParam().number), Reporting::Silent);
 
   EXPECT_EQ(decision, Decision::GiveUp);
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
@@ -160,7 +160,7 @@ INSTANTIATE_TEST_SUITE_P(
 using CancelledDialog = ErrorBench;
 
 TEST_F(CancelledDialog, IsAddedToTheHistoryWithoutABox) {
-  const Decision decision = ErrorDecision(program, RuntimeError(32755), Telling::Loud);
+  const Decision decision = ErrorDecision(program, RuntimeError(32755), Reporting::Loud);
 
   EXPECT_EQ(decision, Decision::Cancelled);
   EXPECT_EQ(program.session.history.Text, "1. Cancel was selected.\r\n");
@@ -168,7 +168,7 @@ TEST_F(CancelledDialog, IsAddedToTheHistoryWithoutABox) {
 }
 
 TEST_F(CancelledDialog, IsNotAddedToTheHistoryWhenSilent) {
-  const Decision decision = ErrorDecision(program, RuntimeError(32755), Telling::Silent);
+  const Decision decision = ErrorDecision(program, RuntimeError(32755), Reporting::Silent);
 
   EXPECT_EQ(decision, Decision::Cancelled);
   EXPECT_EQ(program.session.history.Text, "");
@@ -178,7 +178,7 @@ TEST_F(CancelledDialog, IsNotAddedToTheHistoryWhenSilent) {
 using DataBaseError = ErrorBench;
 
 TEST_F(DataBaseError, IsShownWithItsSignedNumber) {
-  const Decision decision = ErrorDecision(program, RuntimeError(-2147217900), Telling::Loud);
+  const Decision decision = ErrorDecision(program, RuntimeError(-2147217900), Reporting::Loud);
 
   EXPECT_EQ(decision, Decision::DataBase);
   EXPECT_EQ(FirstLogLine(), "1. Error -2147217900:Application-defined or object-defined error");
@@ -189,7 +189,7 @@ TEST_F(DataBaseError, IsShownWithItsSignedNumber) {
 }
 
 TEST_F(DataBaseError, HasTheSameDecisionWhenSilent) {
-  const Decision decision = ErrorDecision(program, RuntimeError(-2147217900), Telling::Silent);
+  const Decision decision = ErrorDecision(program, RuntimeError(-2147217900), Reporting::Silent);
 
   EXPECT_EQ(decision, Decision::DataBase);
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
@@ -199,8 +199,8 @@ TEST_F(DataBaseError, HasTheSameDecisionWhenSilent) {
 using ErrorHistory = ErrorBench;
 
 TEST_F(ErrorHistory, HasTheErrorBeforeItsMessageBox) {
-  ErrorDecision(program, RuntimeError(53), Telling::Loud);
-  ErrorDecision(program, RuntimeError(76), Telling::Loud);
+  ErrorDecision(program, RuntimeError(53), Reporting::Loud);
+  ErrorDecision(program, RuntimeError(76), Reporting::Loud);
 
   EXPECT_EQ(program.session.history.Text,
             "1. Error  53:File not found\r\n"

@@ -37,14 +37,14 @@ TEST_F(FileSearch, FindsNothingForAnInvalidPathAndShowsNoMessage) {
 using PathSearch = FileBench;
 
 TEST_F(PathSearch, AcceptsAFolderAndAFile) {
-  EXPECT_TRUE(ValidPath(program, "/tmp", Telling::Loud));
-  EXPECT_TRUE(ValidPath(program, "/mine/panel.ORB", Telling::Loud));
+  EXPECT_TRUE(ValidPath(program, "/tmp", Reporting::Loud));
+  EXPECT_TRUE(ValidPath(program, "/mine/panel.ORB", Reporting::Loud));
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
 TEST_F(PathSearch, DoesNotFindAMissingPathAndShowsNoMessage) {
-  EXPECT_FALSE(ValidPath(program, "/nowhere", Telling::Loud));
+  EXPECT_FALSE(ValidPath(program, "/nowhere", Reporting::Loud));
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
@@ -54,7 +54,7 @@ struct FailedPathSearch : FileBench, testing::WithParamInterface<int> {};
 TEST_P(FailedPathSearch, ShowsTheInvalidPath) {
   platform.files.Fail(Step::Find, GetParam());
 
-  EXPECT_FALSE(ValidPath(program, "/mine", Telling::Loud));
+  EXPECT_FALSE(ValidPath(program, "/mine", Reporting::Loud));
 
   EXPECT_THAT(platform.boxes.shown,
               ElementsAre(IsBox("Invalid path: /mine", BoxButtons::Ok, "Program Options: Error")));
@@ -64,7 +64,7 @@ TEST_P(FailedPathSearch, ShowsTheInvalidPath) {
 TEST_P(FailedPathSearch, ShowsNoMessageWhenQuiet) {
   platform.files.Fail(Step::Find, GetParam());
 
-  EXPECT_FALSE(ValidPath(program, "/mine", Telling::Silent));
+  EXPECT_FALSE(ValidPath(program, "/mine", Reporting::Silent));
 
   EXPECT_THAT(platform.boxes.shown, IsEmpty());
   EXPECT_EQ(program.session.history.Text, "");
@@ -78,7 +78,7 @@ struct UnexpectedErrorOfAPathSearch : FileBench, testing::WithParamInterface<int
 TEST_P(UnexpectedErrorOfAPathSearch, IsShownAsAnInternalErrorAndThePathIsAccepted) {
   platform.files.Fail(Step::Find, GetParam());
 
-  EXPECT_TRUE(ValidPath(program, "/mine", Telling::Loud));
+  EXPECT_TRUE(ValidPath(program, "/mine", Reporting::Loud));
 
   EXPECT_THAT(platform.boxes.shown, ElementsAre(IsBox("Internal Error in ValidPath Function: Contact Developer",
                                                       BoxButtons::Ok, "Program Options: Range Error")));
@@ -87,7 +87,7 @@ TEST_P(UnexpectedErrorOfAPathSearch, IsShownAsAnInternalErrorAndThePathIsAccepte
 TEST_P(UnexpectedErrorOfAPathSearch, IsShownEvenWhenQuiet) {
   platform.files.Fail(Step::Find, GetParam());
 
-  EXPECT_TRUE(ValidPath(program, "/mine", Telling::Silent));
+  EXPECT_TRUE(ValidPath(program, "/mine", Reporting::Silent));
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Internal Error in ValidPath Function: Contact Developer"));
 }
@@ -98,7 +98,7 @@ INSTANTIATE_TEST_SUITE_P(Error, UnexpectedErrorOfAPathSearch, testing::Values(53
 TEST_F(PathSearch, ShowsADataBaseErrorAsAnInternalError) {
   platform.files.Fail(Step::Find, -2147217900);
 
-  EXPECT_TRUE(ValidPath(program, "/mine", Telling::Silent));
+  EXPECT_TRUE(ValidPath(program, "/mine", Reporting::Silent));
 
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Internal Error in ValidPath Function: Contact Developer"));
 }

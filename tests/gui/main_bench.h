@@ -48,7 +48,7 @@ class MainViewTest : public GuiTest {
     program.session.settings.ShowDisclaim = 0;
     model.Open();
     platform.screen.ShowMain(model, false);
-    DressMainWindow(View(), model);
+    AddIconsAndShortcuts(View(), model);
     View().activateWindow();
     Settle();
     if (!QTest::qWaitForWindowActive(&View())) throw std::logic_error("the main window never got the keyboard");

@@ -131,7 +131,7 @@ class Sitting {
     window_ = std::make_unique<MainWindow>(program_);
     window_->Open();
     platform_.screen.ShowMain(*window_, false);
-    DressMainWindow(platform_.screen.Main(), *window_);
+    AddIconsAndShortcuts(platform_.screen.Main(), *window_);
     program_.session.options.ShowInputScreenOnLoad = 0;
     platform_.fileDialogs.answers.push_back(path);
     window_->mnuFileItem.ClickItem(FileItem::Open);

@@ -176,7 +176,7 @@ void MemoryFiles::MakeFileLike(const std::string& path, const std::string& model
   likeOthers[path] = model;
 }
 
-std::string MemoryFiles::BehindLinks(const std::string& path) {
+std::string MemoryFiles::ResolveLinks(const std::string& path) {
   const auto link = links.find(path);
   return link == links.end() ? path : link->second;
 }
@@ -196,7 +196,7 @@ bool MemoryFiles::CanWriteTo(const std::string& folder) { return !readOnly.conta
 std::vector<std::string> MemoryFiles::FilesIn(const std::string& folder) {
   std::vector<std::string> found;
   for (const auto& [path, bytes] : files) {
-    const std::string_view name = NameBehindSeparator(path);
+    const std::string_view name = NameAfterSeparator(path);
     if (path.substr(0, path.size() - name.size()) == WithSeparator(folder)) found.push_back(path);
   }
   return found;
@@ -207,7 +207,7 @@ std::vector<std::string> MemoryFiles::FoldersIn(const std::string& folder) {
   if (!folders.contains(WithoutSeparator(folder))) throw RuntimeError(error_number::PathNotFound);
   std::vector<std::string> found;
   for (const std::string& path : folders) {
-    const std::string_view name = NameBehindSeparator(path);
+    const std::string_view name = NameAfterSeparator(path);
     if (!name.empty() && path.substr(0, path.size() - name.size()) == WithSeparator(folder)) found.emplace_back(name);
   }
   return found;

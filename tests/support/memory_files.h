@@ -71,7 +71,7 @@ class MemoryFiles : public FileSystem {
   void ReplaceFile(const std::string& path, std::string_view bytes) override;
 
   void MakeFileLike(const std::string& path, const std::string& model) override;
-  std::string BehindLinks(const std::string& path) override;
+  std::string ResolveLinks(const std::string& path) override;
 
   void MakeFolder(const std::string& path) override;
   void MakePrivateFolder(const std::string& path) override;
@@ -94,7 +94,7 @@ class MemoryFiles : public FileSystem {
   std::set<std::string, std::less<>> folders{"/tmp", "/program"};
   std::set<std::string, std::less<>> readOnly;  // folders
   std::set<std::string, std::less<>> privateFolders;
-  std::map<std::string, std::string> links;       // targets of links; only BehindLinks uses them
+  std::map<std::string, std::string> links;       // targets of links; only ResolveLinks uses them
   std::map<std::string, std::string> likeOthers;  // files that were made by MakeFileLike, and their models
   std::set<std::string> marked;                   // files that TryMark has marked
   std::vector<std::string> drives{"/"};

@@ -172,7 +172,7 @@ std::unique_ptr<Fetch> ScriptedDownloads::Start(const FetchRequest& request, Fet
 std::optional<std::string> ScriptedDownloads::CheckedCopy(const std::string& path, const std::string& sha256) {
   if (copyError != 0) throw RuntimeError(copyError);
   if (sums[path] != sha256) return std::nullopt;
-  return "/private/" + std::string(NameBehindSeparator(path));
+  return "/private/" + std::string(NameAfterSeparator(path));
 }
 
 ScriptedDownloads::ScriptedFetch::ScriptedFetch(Asked& asked) : asked_(asked) {}

@@ -217,7 +217,7 @@ ExitCode RunOnFile(const Command& command, FileRun run, const std::string& file,
 
 ExitCode RunOnOperands(const Command& command, const CommandLine& line) {
   ScriptPlatform platform;
-  Program start(platform.Doors());
+  Program start(platform.AsPlatform());
   if (line.Config) {
     const IniText configuration = IniText::FromFileBytes(platform.files.ReadFile(*line.Config));
     StartApart(start, &configuration);

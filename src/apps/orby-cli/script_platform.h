@@ -59,7 +59,7 @@ struct ScriptPlatform {
   NoDownloads downloads;
   NoFileTypes fileTypes;
 
-  Platform Doors() {
+  Platform AsPlatform() {
     return {boxes,       files,     fileDialogs, windows,   fonts, locale,    clock,
             userFolders, clipboard, printer,     documents, help,  downloads, fileTypes};
   }
