@@ -77,7 +77,7 @@ struct Run {
   DiskFiles files{"."};
   NoFileTypes fileTypes;
   Desktop desktop{files, fileTypes};
-  Program program{desktop.Doors()};
+  Program program{desktop.AsPlatform()};
 };
 
 int EmptyStart() {
