@@ -7,7 +7,6 @@
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "core/file_helpers.h"
-#include "core/messages.h"
 
 namespace orby {
 namespace {
@@ -69,9 +68,8 @@ void SaveDescription(Program& program) {
     NormalDescription normal = Normalized(ThroughTemporaryFile(program, program.project.ProjectDescription));
     program.project.ProjectDescription = std::move(normal.text);
     program.project.DescLines = normal.lines;
-  } catch (const RuntimeError& error) {
-    // A description that could not be normalised stays as the user typed it, whatever the decision is.
-    ErrorDecision(program, error, Reporting::Silent);
+  } catch (const RuntimeError&) {
+    // A description that could not be normalised stays as the user typed it.
   }
 }
 
