@@ -28,8 +28,8 @@ class QtPrinter : public Printer {
 
   std::unique_ptr<QPrinter> device_;
   bool mayReplace_ = false;  // the user confirmed the file name in the dialog
-  std::string
-      chosenFor_;  // the document for which the file name was suggested; empty if the user chose it outside of a print
+  // The document for which the file name was suggested. Empty if the user chose the name outside of a print.
+  std::string chosenFor_;
 };
 
 }  // namespace orby

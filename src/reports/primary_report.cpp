@@ -9,6 +9,7 @@ namespace orby {
 namespace {
 
 constexpr NumberPattern LengthPattern = "#.0";
+
 void WarningsLine(ReportText& page, bool several) { page.Line(several ? "[Warnings]" : WarningHeading); }
 
 void ReportSpan(ReportText& page, const RoofSupport& design, const SuggestedFigures& results) {
