@@ -133,7 +133,7 @@ struct WindowState {
   Integer OptionsTab = 0;  // the last page of the options dialog
   Integer RecentMode = 0;
   bool DialogOpen = false;
-  std::function<void(InputDialog)> OpenInputDialog;  // as the Input menu does
+  std::function<void(InputDialog)> OpenInputDialog;  // opens the dialog, as the Input menu does
 };
 
 struct Program {

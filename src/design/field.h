@@ -17,6 +17,12 @@ concept LeadsTo = std::same_as<std::invoke_result_t<Path, Design&>, T*>;
 template <class Path>
 concept LeadsToChoice = std::is_enum_v<std::remove_pointer_t<std::invoke_result_t<Path, Design&>>>;
 
+// The design in which fields are compared by their addresses.
+inline const Design& SampleDesign() {
+  static const Design sample;
+  return sample;
+}
+
 template <class T>
 class FieldOf {
  public:
@@ -27,14 +33,9 @@ class FieldOf {
   T& In(Design& design) const { return *in_(design); }
   const T& In(const Design& design) const { return *inConstant_(design); }
   // Returns true if both are the same field, also when their paths differ.
-  bool operator==(const FieldOf& other) const { return &In(Sample()) == &other.In(Sample()); }
+  bool operator==(const FieldOf& other) const { return &In(SampleDesign()) == &other.In(SampleDesign()); }
 
  private:
-  static const Design& Sample() {
-    static const Design sample;
-    return sample;
-  }
-
   T* (*in_)(Design&);
   const T* (*inConstant_)(const Design&);
 };
@@ -50,10 +51,7 @@ class IntegerField {
   Integer Get(const Design& design) const { return get_(design); }
   void Set(Design& design, Integer number) const { set_(design, number); }
   // Returns true if both are the same field, also when their paths differ.
-  bool operator==(const IntegerField& other) const {
-    static const Design sample;
-    return at_(sample) == other.at_(sample);
-  }
+  bool operator==(const IntegerField& other) const { return at_(SampleDesign()) == other.at_(SampleDesign()); }
 
  private:
   template <class Path>
