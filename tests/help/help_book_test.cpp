@@ -48,7 +48,7 @@ HelpBook MineBook() {
       {"ORBY.hhk", Index},
       {"topics.txt",
        "frmGraph\tgraph.html\nfrmGraph.cmdPrint\tgraph.html\nfrmGraph.Text1\tgraph.html\n"
-       "frmTULKCost.txtnboltsRow\tcost.html\n"},
+       "frmGraph.Text1_3\tcost.html\nfrmTULKCost.txtnboltsRow\tcost.html\n"},
       {"welcome.html", "<html><head><title>Welcome bolt</title></head><body><h1>Welcome</h1><p>Roof support."},
       {"graph.html", "<h1>Graph</h1><p>A curve of a roof <b>b</b>olt, and of bolts.</p><ul><li>Roof<li>x</ul>"},
       {"cost.html", "<h1>Cost</h1><p>Roof&nbsp;bolts cost money; a BOLT costs 5.72.</p>"},
@@ -129,6 +129,7 @@ INSTANTIATE_TEST_SUITE_P(
                     TopicCase{"OfAControl", "frmGraph.cmdPrint", "graph.html#frmGraph.cmdPrint"},
                     TopicCase{"OfAnArrayForItsMember", "frmGraph.Text1_2", "graph.html#frmGraph.Text1"},
                     TopicCase{"OfAnArrayForItsTenthMember", "frmGraph.Text1_10", "graph.html#frmGraph.Text1"},
+                    TopicCase{"OfAMemberThatHasOneOfItsOwn", "frmGraph.Text1_3", "cost.html#frmGraph.Text1_3"},
                     TopicCase{"OfTheFormForAControlWithoutOne", "frmGraph.cmdClose", "graph.html#frmGraph"},
                     TopicCase{"OfTheFormForAMemberWithoutOne", "frmGraph.Text7_1", "graph.html#frmGraph"},
                     TopicCase{"AsTheFirstPageForAFormWithoutOne", "frmTULKCost.txtCrew", "welcome.html"},
