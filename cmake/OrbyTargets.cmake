@@ -7,6 +7,13 @@ target_compile_options(orby_options INTERFACE
   -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough
   -ffp-contract=off)
 target_include_directories(orby_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+# What Windows reads in a program: its manifest.
+set(ORBY_PROGRAM_RESOURCES)
+if(WIN32)
+  enable_language(RC)
+  target_compile_definitions(orby_options INTERFACE UNICODE _WIN32_WINNT=0x0A00)
+  set(ORBY_PROGRAM_RESOURCES ${CMAKE_SOURCE_DIR}/windows/program.rc)
+endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # -Wrestrict of g++ 12 warns of string concatenation inside the standard library.
   target_compile_options(orby_options INTERFACE -Wduplicated-cond -Wlogical-op -Wno-restrict)
@@ -46,6 +53,18 @@ endfunction()
 # A test needs its lines in a trace, not the whole of the templates that it is made of.
 set(ORBY_TEST_OPTIONS $<$<CONFIG:Debug>:-g1>)
 
+# Removes from the list the sources that use the library of property tests, which Debian has for this machine only, other
+# programs of this machine, or functions of POSIX.
+function(leave_out_tests_of_this_machine list)
+  foreach(source ${${list}})
+    file(STRINGS ${source} uses REGEX "#include [<\"](rapidcheck|support/number_texts|any_single|unistd|fcntl|sys/)|popen|create_symlink|sheet_bench")
+    if(uses)
+      list(REMOVE_ITEM ${list} ${source})
+    endif()
+  endforeach()
+  set(${list} ${${list}} PARENT_SCOPE)
+endfunction()
+
 # orby_test(name [OWN_MAIN] SOURCES file... LINKS folder... [HEADERS header...])
 # One test program per folder of tests/, named test_<name>; each of its tests is a test of ctest. OWN_MAIN: the sources
 # have a main of their own. HEADERS: what most of the tests include besides the test library, compiled once.
@@ -56,7 +75,13 @@ function(orby_test name)
   if(ARG_OWN_MAIN)
     set(runner GTest::gmock)
   endif()
-  add_executable(test_${name} ${ARG_SOURCES} ${CMAKE_SOURCE_DIR}/tests/support/environment.cpp)
+  set(common ${CMAKE_SOURCE_DIR}/tests/support/environment.cpp)
+  if(WIN32)
+    leave_out_tests_of_this_machine(ARG_SOURCES)
+  else()
+    list(APPEND common ${CMAKE_SOURCE_DIR}/tests/support/property_cases.cpp)
+  endif()
+  add_executable(test_${name} ${ARG_SOURCES} ${common} ${ORBY_PROGRAM_RESOURCES})
   target_link_libraries(test_${name} PRIVATE orby_options orby_test_support ${ARG_LINKS} ${runner})
   target_compile_options(test_${name} PRIVATE ${ORBY_TEST_OPTIONS})
   if(ARG_HEADERS)

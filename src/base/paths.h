@@ -1,5 +1,4 @@
-// Parts of file paths. Both "/" and "\" separate folders. A separator that is added is that of the platform. The case
-// of a path is never changed.
+// Parts of file paths. Both "/" and "\" separate folders. The case of a path is never changed.
 #pragma once
 
 #include <string>
@@ -7,17 +6,27 @@
 
 namespace orby {
 
-inline constexpr char FolderSeparator = '/';
+// Returns the separator that the path uses first. A path without one gets "\" after a drive, as in "C:", and "/"
+// otherwise.
+char SeparatorOf(std::string_view path);
+
+bool IsSeparator(char character);
 
 bool EndsInSeparator(std::string_view path);
 
-// Returns the path with a trailing separator. Adds one only when the path has none.
+// Returns true for the top of a disk: "/", "C:" or "C:\".
+bool IsRoot(std::string_view path);
+
+// Returns the path with a trailing separator. Adds its own separator only when the path has none at its end.
 std::string WithSeparator(std::string_view path);
 
 std::string_view WithoutSeparator(std::string_view path);
 
 // Returns the part after the last separator, or the whole path when it has none.
 std::string_view NameAfterSeparator(std::string_view path);
+
+// Returns the path without the steps up: "/home/mine/../plans" becomes "/home/plans". A step above the root stays.
+std::string WithoutStepsUp(std::string_view path);
 
 // Returns the part of the name before its first point, or the whole name when the point is its first character.
 std::string_view WithoutExtension(std::string_view name);

@@ -17,7 +17,7 @@ constexpr std::string_view TemporaryFolderName = "Temp";
 constexpr std::string_view ExamplesFolderName = "examples";
 
 std::string Below(const std::string& folder, std::string_view name) {
-  return WithSeparator(folder).append(name) + FolderSeparator;
+  return WithSeparator(WithSeparator(folder).append(name));
 }
 
 bool IsThere(FileSystem& files, const std::string& folder) {

@@ -32,22 +32,19 @@ std::vector<std::string> FolderChain(const std::string& drive, const std::string
   std::vector<std::string> chain{drive};
   const std::string whole = WithSeparator(path);
   for (std::size_t end = WithSeparator(drive).size(); end < whole.size(); ++end) {
-    if (whole[end] == FolderSeparator) chain.push_back(whole.substr(0, end));
+    if (IsSeparator(whole[end])) chain.push_back(whole.substr(0, end));
   }
   return chain;
 }
 
 // Returns the folder that contains the path. The root contains itself.
 std::string FolderAbove(const std::string& path) {
-  const std::size_t end = path.size() - NameAfterSeparator(path).size();
-  return end <= 1 ? std::string(1, FolderSeparator) : path.substr(0, end - 1);
+  const std::string above = path.substr(0, path.size() - NameBehindSeparator(path).size());
+  return IsRoot(above) ? above : std::string(WithoutSeparator(above));
 }
 
 // Returns the path without a trailing separator, except for the root.
-std::string FolderName(const std::string& path) {
-  const std::string name(WithoutSeparator(path));
-  return name.empty() ? std::string(1, FolderSeparator) : name;
-}
+std::string FolderName(const std::string& path) { return IsRoot(path) ? path : std::string(WithoutSeparator(path)); }
 
 std::vector<ComboItem> NamesOf(const std::vector<std::string>& paths) {
   std::vector<ComboItem> names;

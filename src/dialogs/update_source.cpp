@@ -1,7 +1,6 @@
 #include "dialogs/update_source.h"
 
 #include <algorithm>
-#include <filesystem>
 
 #include "base/paths.h"
 #include "base/text.h"
@@ -15,7 +14,7 @@ constexpr std::string_view DownloadPath = "/wp-content/uploads/2020/04/";
 constexpr std::string_view WebPagePath = "/roof-support/";
 constexpr std::string_view VersionFileName = "orby_version.txt";
 constexpr std::string_view SetupExtension = ".exe";
-constexpr std::string_view WayToDownloads = "../../Downloads/";  // from the group folder
+constexpr std::string_view WayToDownloads = "../../Downloads";  // from the group folder
 constexpr std::size_t MostVersionLength = 64;
 constexpr std::size_t SumLength = 64;
 
@@ -94,8 +93,7 @@ std::string VersionFilePath(const Session& session) {
 }
 
 std::string DownloadFolder(const Session& session) {
-  const std::string path = WithSeparator(session.folders.Group).append(WayToDownloads);
-  return std::filesystem::path(path).lexically_normal().string();
+  return WithSeparator(WithoutStepsUp(WithSeparator(session.folders.Group).append(WayToDownloads)));
 }
 
 std::string SetupFilePath(const Session& session, std::string_view version) {

@@ -226,7 +226,7 @@ std::string_view ReasonText(BackupReason reason) { return RowOf(reason).Text; }
 
 std::string BackupFolder(const Session& session) {
   const std::string& data = session.folders.ProgramData;
-  return data.empty() ? data : WithSeparator(data).append(FolderName) + FolderSeparator;
+  return data.empty() ? data : WithSeparator(WithSeparator(data).append(FolderName));
 }
 
 void MakeBackupFolder(Program& program) {

@@ -8,6 +8,7 @@
 #include "base/attempt.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "machine/file_types.h"
 #include "platform/whole_file.h"
 
 namespace orby {
@@ -136,6 +137,10 @@ void XdgFileTypes::Associate(const std::string& extension, const std::string& pr
   programs_.RunToEnd("update-mime-database", {data.PathOf("mime")});
   programs_.RunToEnd("update-desktop-database", {data.PathOf("applications")});
   programs_.RunToEnd("xdg-mime", {"default", std::string(DesktopEntry), type.Name()});
+}
+
+std::unique_ptr<FileTypes> MakeFileTypes(FileSystem& files, UserFolders& userFolders, Documents& programs) {
+  return std::make_unique<XdgFileTypes>(files, userFolders, programs);
 }
 
 }  // namespace orby

@@ -3,31 +3,14 @@
 #include <xlsxwriter.h>
 
 #include <algorithm>
-#include <clocale>
 
 #include "base/runtime_error.h"
+#include "machine/plain_numbers.h"
 
 namespace orby {
 namespace {
 
 constexpr const char* SheetName = "Curve";
-
-// During its lifetime this thread writes numbers with a point. In some locales the library would write a comma, and
-// spreadsheet programs could not read the file.
-class PlainNumbers {
- public:
-  PlainNumbers() : plain_(newlocale(LC_ALL_MASK, "C", nullptr)), before_(uselocale(plain_)) {}
-  PlainNumbers(const PlainNumbers&) = delete;
-  PlainNumbers& operator=(const PlainNumbers&) = delete;
-  ~PlainNumbers() {
-    uselocale(before_);
-    freelocale(plain_);
-  }
-
- private:
-  locale_t plain_;
-  locale_t before_;
-};
 
 void WriteColumn(lxw_worksheet* worksheet, lxw_col_t column, const std::string& header,
                  const std::vector<double>& values) {

@@ -15,10 +15,11 @@ struct Room {
   int floor;
 };
 
-constexpr std::array<Room, 16> Rooms = {{{"base", 0},
+constexpr std::array<Room, 18> Rooms = {{{"base", 0},
                                          {"platform", 1},
                                          {"controls", 1},
                                          {"design", 1},
+                                         {"machine", 2},
                                          {"engine", 2},
                                          {"core", 3},
                                          {"config", 4},
@@ -28,7 +29,8 @@ constexpr std::array<Room, 16> Rooms = {{{"base", 0},
                                          {"help", 5},
                                          {"spreadsheet", 5},
                                          {"shell", 6},
-                                         {"posix", 7},
+                                         {"posix", 3},
+                                         {"win32", 3},
                                          {"qt", 7},
                                          {"apps", 8}}};
 

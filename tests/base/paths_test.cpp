@@ -20,6 +20,29 @@ TEST(Paths, ASeparatorIsAddedOnlyToAPathWithoutOne) {
   EXPECT_EQ(WithSeparator("C:\\Mine\\"), "C:\\Mine\\");
 }
 
+TEST(Paths, TheAddedSeparatorIsTheOneThatThePathUses) {
+  EXPECT_EQ(WithSeparator("C:\\Mine"), "C:\\Mine\\");
+  EXPECT_EQ(WithSeparator("C:/Mine"), "C:/Mine/");
+  EXPECT_EQ(WithSeparator("C:"), "C:\\");
+  EXPECT_EQ(WithSeparator("\\\\server\\plans"), "\\\\server\\plans\\");
+  EXPECT_EQ(WithSeparator("Mine"), "Mine/");
+}
+
+TEST(Paths, TheTopOfADiskIsARoot) {
+  for (const char* root : {"/", "C:", "C:\\", "z:/"}) EXPECT_TRUE(IsRoot(root)) << root;
+  for (const char* other : {"", "/home", "C:\\Mine", "ab"}) EXPECT_FALSE(IsRoot(other)) << other;
+}
+
+TEST(Paths, StepsUpLeadOutOfTheFolderBeforeThem) {
+  EXPECT_EQ(WithoutStepsUp("/home/mine/MyStrataDesk/ORBY/../../Downloads/"), "/home/mine/Downloads/");
+  EXPECT_EQ(WithoutStepsUp("C:\\Mine\\Orby\\../../Downloads/"), "C:\\Downloads/");
+  EXPECT_EQ(WithoutStepsUp("a/.."), "");
+  EXPECT_EQ(WithoutStepsUp("../../a"), "../../a");
+  EXPECT_EQ(WithoutStepsUp("/../a"), "/../a");
+  EXPECT_EQ(WithoutStepsUp("C:\\..\\a"), "C:\\..\\a");
+  EXPECT_EQ(WithoutStepsUp("/home/a..b/..c"), "/home/a..b/..c");
+}
+
 TEST(Paths, OneTrailingSeparatorIsRemoved) {
   EXPECT_EQ(WithoutSeparator("/home/mine/"), "/home/mine");
   EXPECT_EQ(WithoutSeparator("C:\\Mine\\"), "C:\\Mine");

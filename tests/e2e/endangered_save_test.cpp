@@ -18,7 +18,7 @@
 #include "disk_calls.h"
 #include "files/project_writer.h"
 #include "files/recovery_file.h"
-#include "posix/disk_files.h"
+#include "machine/disk_files.h"
 #include "shell/main_window.h"
 #include "shell/start_up.h"
 #include "support/recording_platform.h"

@@ -9,7 +9,7 @@
 #include "gui/cache_in_folder.h"
 #include "gui/gui_bench.h"
 #include "gui/web_server.h"
-#include "posix/disk_files.h"
+#include "machine/disk_files.h"
 #include "qt/downloads.h"
 #include "qt/texts.h"
 #include "qt/update_server.h"

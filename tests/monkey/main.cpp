@@ -15,10 +15,10 @@
 #include <string_view>
 #include <utility>
 
+#include "machine/disk_files.h"
 #include "monkey/keeper.h"
 #include "monkey/monkey.h"
 #include "monkey/watch.h"
-#include "posix/disk_files.h"
 #include "posix/xdg_file_types.h"
 #include "qt/application.h"
 #include "qt/documents.h"

@@ -1,4 +1,4 @@
-#include "posix/disk_files.h"
+#include "machine/disk_files.h"
 
 #include <fcntl.h>
 #include <gmock/gmock.h>

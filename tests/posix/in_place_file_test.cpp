@@ -10,7 +10,7 @@
 #include <filesystem>
 #include <string>
 
-#include "posix/disk_files.h"
+#include "machine/disk_files.h"
 #include "support/recording_platform.h"
 #include "support/temporary_folder.h"
 

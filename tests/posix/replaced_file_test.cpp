@@ -14,8 +14,8 @@
 #include <string>
 #include <vector>
 
-#include "posix/disk_files.h"
-#include "posix/file_size_limit.h"
+#include "machine/disk_files.h"
+#include "machine/program.h"
 #include "support/recording_platform.h"
 #include "support/temporary_folder.h"
 
@@ -209,7 +209,7 @@ TEST_F(ReplacedFile, IsUnchangedWhenTheNewBytesExceedTheFileSizeLimit) {
   rlimit before{};
   getrlimit(RLIMIT_FSIZE, &before);
   const rlimit small{1000, before.rlim_max};
-  SurviveFileSizeLimit();
+  PrepareProgram();
 
   setrlimit(RLIMIT_FSIZE, &small);
   const int error = ErrorOfReplacing(folder.At("ORBY.INI"), std::string(5000, 'x'));

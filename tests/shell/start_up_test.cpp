@@ -7,7 +7,7 @@
 #include "base/runtime_error.h"
 #include "config/catalog_sections.h"
 #include "config/settings_sections.h"
-#include "posix/disk_files.h"
+#include "machine/disk_files.h"
 #include "support/recording_platform.h"
 #include "support/temporary_folder.h"
 
@@ -222,25 +222,6 @@ TEST(StartOnADisk, UsesTheBuiltInSettingsIfAFolderHasTheNameOfTheFile) {
   EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 400);
   EXPECT_THAT(platform.boxes.Texts(), ElementsAre(HasSubstr("Configuration file cannot be used: ")));
   EXPECT_TRUE(std::filesystem::exists(home.At("MyStrataDesk/ORBY/ORBY.INI/kept")));
-}
-
-TEST(StartOnADisk, KeepsTheLinkToAConfigurationFileOfAnotherVersion) {
-  const TemporaryFolder home;
-  DiskFiles files(home.Path());
-  RecordingPlatform platform;
-  platform.userFolders.documents = home.Path();
-  std::filesystem::create_directories(home.At("MyStrataDesk/ORBY"));
-  home.Store("settings.ini", "[Version]\r\nINIFileVersion=201029\r\n");
-  std::filesystem::create_symlink("../../settings.ini", home.At("MyStrataDesk/ORBY/ORBY.INI"));
-  Program program(platform.AsPlatformWith(files));
-  const auto workingFolder = std::filesystem::current_path();
-
-  StartProgram(program);
-
-  std::filesystem::current_path(workingFolder);
-  EXPECT_TRUE(std::filesystem::is_symlink(home.At("MyStrataDesk/ORBY/ORBY.INI")));
-  EXPECT_THAT(home.Read("settings.ini"), StartsWith("[Version]\r\nINIFileVersion=201030\r\n[Settings]\r\n"));
-  EXPECT_THAT(platform.boxes.shown, IsEmpty());
 }
 
 TEST_F(StartUp, ChoosesAFontThatTheMachineHas) {

@@ -1,13 +1,11 @@
 // A new temporary folder for a test. The destructor removes it with its contents.
 #pragma once
 
-#include <stdlib.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <stdexcept>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -16,9 +14,11 @@ namespace orby::test {
 class TemporaryFolder {
  public:
   TemporaryFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "orby-test-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-    path_ = name;
+    std::random_device number;
+    const std::filesystem::path parent = std::filesystem::temp_directory_path();
+    do {
+      path_ = (parent / ("orby-test-" + std::to_string(number()))).string();
+    } while (!std::filesystem::create_directory(path_));
   }
   ~TemporaryFolder() {
     std::error_code ignored;
@@ -40,7 +40,8 @@ class TemporaryFolder {
   // Returns the names of its files and folders, sorted.
   std::vector<std::string> Names() const {
     std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(path_)) names.push_back(entry.path().filename());
+    for (const auto& entry : std::filesystem::directory_iterator(path_))
+      names.push_back(entry.path().filename().string());
     std::ranges::sort(names);
     return names;
   }

@@ -5,13 +5,13 @@
 #include "apps/orby-cli/commands.h"
 #include "base/runtime_error.h"
 #include "base/types.h"
-#include "posix/file_size_limit.h"
+#include "machine/program.h"
 
 int main(int argc, char** argv) {
   using namespace orby::cli;
-  orby::SurviveFileSizeLimit();
+  orby::PrepareProgram();
   try {
-    const auto line = ParseCommandLine({argv + 1, argv + argc});
+    const auto line = ParseCommandLine(orby::ProgramArguments(argc, argv));
     if (line && line->Help) {
       std::fwrite(UsageText.data(), 1, UsageText.size(), stdout);
       return orby::NumberOf(ExitCode::Done);

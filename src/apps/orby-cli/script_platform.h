@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "machine/disk_files.h"
 #include "platform/no_desktop.h"
-#include "posix/disk_files.h"
 
 namespace orby::cli {
 

@@ -1,4 +1,4 @@
-// The file system of this machine.
+// The file system of this machine. Paths are UTF-8.
 #pragma once
 
 #include "platform/file_system.h"

@@ -1,0 +1,255 @@
+#include "machine/disk_files.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/paths.h"
+#include "base/runtime_error.h"
+#include "win32/file_errors.h"
+#include "win32/file_handle.h"
+#include "win32/in_place_file.h"
+#include "win32/replaced_file.h"
+#include "win32/system.h"
+#include "win32/wide_text.h"
+
+namespace orby {
+namespace {
+
+using Opening = FileHandle::Opening;
+
+constexpr std::size_t PieceSize = 1U << 16U;
+
+class DiskOutputFile : public OutputFile {
+ public:
+  explicit DiskOutputFile(const std::string& path) : file_(path, Opening::ToOverwrite) { file_.Cut(); }
+  void Write(std::string_view bytes) override { file_.Write(bytes); }
+  void Close() override { file_.Close(); }
+
+ private:
+  FileHandle file_;
+};
+
+class DiskInputFile : public InputFile {
+ public:
+  explicit DiskInputFile(const std::string& path) : file_(path, Opening::ToRead) {}
+  std::string Read(std::size_t most) override { return file_.Read(most); }
+
+ private:
+  FileHandle file_;
+};
+
+// A byte of the file is locked that lies beyond the end of every file, so that the file can be read meanwhile. The
+// system unlocks it when the program ends, also after a crash.
+class DiskFileMark : public FileMark {
+ public:
+  explicit DiskFileMark(const std::string& path) : file_(path, Opening::ToMark) {}
+
+  bool TryLock() {
+    OVERLAPPED place{};
+    place.OffsetHigh = 0x7FFF'FFFF;
+    return LockFileEx(file_.Handle(), LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &place) != 0;
+  }
+
+ private:
+  FileHandle file_;
+};
+
+bool IsFolder(DWORD attributes) { return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0; }
+
+// Calls `act` for each file and folder in the folder. Returns false when the folder cannot be read.
+template <class Act>
+bool ForEachIn(const std::string& folder, const Act& act) {
+  WIN32_FIND_DATAW found{};
+  const std::wstring path = WidePath(folder);
+  HANDLE search = FindFirstFileW((path + (EndsInSeparator(folder) ? L"*" : L"\\*")).c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return false;
+  do {
+    const std::string name = Utf8Text(found.cFileName);
+    if (name != "." && name != "..") act(name, found.dwFileAttributes);
+  } while (FindNextFileW(search, &found) != 0);
+  FindClose(search);
+  return true;
+}
+
+// Makes the folder and those above it. `permissions` are those of the last one.
+void MakeFolders(const std::string& path, SECURITY_ATTRIBUTES* permissions) {
+  const std::string folder(IsRoot(path) ? path : WithoutSeparator(path));
+  const std::wstring wide = WidePath(folder);
+  if (CreateDirectoryW(wide.c_str(), permissions) != 0) return;
+  if (GetLastError() == ERROR_PATH_NOT_FOUND) {
+    const std::string above = folder.substr(0, folder.size() - NameBehindSeparator(folder).size());
+    if (above.empty() || IsRoot(above)) throw FileError(ERROR_PATH_NOT_FOUND, path);
+    MakeFolders(above, nullptr);
+    if (CreateDirectoryW(wide.c_str(), permissions) != 0) return;
+  }
+  const DWORD problem = GetLastError();
+  const DWORD attributes = GetFileAttributesW(wide.c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES && IsFolder(attributes)) return;
+  throw problem == ERROR_ALREADY_EXISTS ? RuntimeError(error_number::PathFileAccess) : FileError(problem, path);
+}
+
+}  // namespace
+
+DiskFiles::DiskFiles(std::string programFolder) : programFolder_(std::move(programFolder)) {}
+
+bool DiskFiles::Finds(const std::string& path, bool foldersToo) {
+  if (path.empty()) return false;
+  const DWORD attributes = GetFileAttributesW(WidePath(path).c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES) return foldersToo || !IsFolder(attributes);
+  switch (GetLastError()) {
+    // The path has a folder that may not be entered, which is error 75 and not error 70 of a file that may not be used.
+    case ERROR_ACCESS_DENIED: throw RuntimeError(error_number::PathFileAccess);
+    case ERROR_INVALID_NAME:
+    case ERROR_BAD_PATHNAME:
+    case ERROR_FILENAME_EXCED_RANGE: throw RuntimeError(error_number::BadFileName);
+    default: return false;
+  }
+}
+
+std::string DiskFiles::ReadFile(const std::string& path) {
+  FileHandle file(path, Opening::ToRead);
+  std::string bytes;
+  // The length is only a guess: a pipe has none, and a file may grow while it is read.
+  bytes.reserve(file.Length());
+  for (std::string piece; !(piece = file.Read(PieceSize)).empty();) bytes += piece;
+  return bytes;
+}
+
+std::unique_ptr<InputFile> DiskFiles::OpenFile(const std::string& path) {
+  return std::make_unique<DiskInputFile>(path);
+}
+
+std::uint64_t DiskFiles::FileLength(const std::string& path) {
+  WIN32_FILE_ATTRIBUTE_DATA facts{};
+  if (GetFileAttributesExW(WidePath(path).c_str(), GetFileExInfoStandard, &facts) == 0) throw LastFileError(path);
+  if (IsFolder(facts.dwFileAttributes)) return 0;
+  return (static_cast<std::uint64_t>(facts.nFileSizeHigh) << 32U) | facts.nFileSizeLow;
+}
+
+std::optional<Moment> DiskFiles::WrittenAt(const std::string& path) {
+  WIN32_FILE_ATTRIBUTE_DATA facts{};
+  SYSTEMTIME world{};
+  SYSTEMTIME time{};
+  if (GetFileAttributesExW(WidePath(path).c_str(), GetFileExInfoStandard, &facts) == 0 ||
+      FileTimeToSystemTime(&facts.ftLastWriteTime, &world) == 0 ||
+      SystemTimeToTzSpecificLocalTime(nullptr, &world, &time) == 0) {
+    return std::nullopt;
+  }
+  return Moment{{time.wYear, time.wMonth, time.wDay}, time.wHour, time.wMinute, time.wSecond};
+}
+
+std::unique_ptr<OutputFile> DiskFiles::CreateFile(const std::string& path) {
+  return std::make_unique<DiskOutputFile>(path);
+}
+
+std::unique_ptr<OutputFile> DiskFiles::OpenInPlace(const std::string& path, std::uint64_t length) {
+  return OpenFileInPlace(path, length);
+}
+
+void DiskFiles::RemoveFile(const std::string& path) {
+  if (DeleteFileW(WidePath(path).c_str()) == 0) throw LastFileError(path);
+}
+
+void DiskFiles::RenameFile(const std::string& path, const std::string& newPath) {
+  const std::wstring from = WidePath(path);
+  if (MoveFileExW(from.c_str(), WidePath(newPath).c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0) {
+    return;
+  }
+  const DWORD problem = GetLastError();
+  const bool isThere = GetFileAttributesW(from.c_str()) != INVALID_FILE_ATTRIBUTES;
+  throw FileError(problem, isThere ? newPath : path);
+}
+
+void DiskFiles::ReplaceFile(const std::string& path, std::string_view bytes) { ReplaceFileOnDisk(path, bytes); }
+
+void DiskFiles::MakeFileLike(const std::string& path, const std::string& model) { MakeFileOnDiskLike(path, model); }
+
+std::string DiskFiles::BehindLinks(const std::string& path) { return PathBehindLinks(path); }
+
+void DiskFiles::MakeFolder(const std::string& path) { MakeFolders(path, nullptr); }
+
+void DiskFiles::MakePrivateFolder(const std::string& path) {
+  // Full access for the owner and the system, inherited by what the folder contains, and nothing from the folder above.
+  constexpr const wchar_t* OwnerOnly = L"D:P(A;OICI;FA;;;OW)(A;OICI;FA;;;SY)";
+  SECURITY_ATTRIBUTES permissions{sizeof(SECURITY_ATTRIBUTES), nullptr, FALSE};
+  if (ConvertStringSecurityDescriptorToSecurityDescriptorW(OwnerOnly, SDDL_REVISION_1,
+                                                           &permissions.lpSecurityDescriptor, nullptr) == 0) {
+    throw LastFileError(path);
+  }
+  const std::unique_ptr<void, decltype(&LocalFree)> owned(permissions.lpSecurityDescriptor, LocalFree);
+  MakeFolders(path, &permissions);
+}
+
+bool DiskFiles::CanWriteTo(const std::string& folder) {
+  const std::string path = WithSeparator(folder) + ".orby-" + std::to_string(GetCurrentProcessId());
+  HANDLE file = CreateFileW(WidePath(path).c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
+                            FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return false;
+  CloseHandle(file);
+  return true;
+}
+
+std::vector<std::string> DiskFiles::FilesIn(const std::string& folder) {
+  std::vector<std::string> files;
+  ForEachIn(folder, [&](const std::string& name, DWORD attributes) {
+    if (!IsFolder(attributes)) files.push_back(WithSeparator(folder) + name);
+  });
+  std::ranges::sort(files);
+  return files;
+}
+
+std::vector<std::string> DiskFiles::FoldersIn(const std::string& folder) {
+  std::vector<std::string> folders;
+  const bool isRead = ForEachIn(folder, [&](const std::string& name, DWORD attributes) {
+    const bool isHidden = name.starts_with('.') || (attributes & FILE_ATTRIBUTE_HIDDEN) != 0;
+    if (IsFolder(attributes) && !isHidden) folders.push_back(name);
+  });
+  if (!isRead) {
+    const DWORD problem = GetLastError();
+    throw problem == ERROR_FILE_NOT_FOUND ? RuntimeError(error_number::PathNotFound) : FileError(problem, folder);
+  }
+  std::ranges::sort(folders);
+  return folders;
+}
+
+std::vector<std::string> DiskFiles::Drives() {
+  std::vector<std::string> drives;
+  const DWORD present = GetLogicalDrives();
+  for (unsigned letter = 0; letter < 26; ++letter) {
+    if ((present >> letter & 1U) != 0) drives.push_back(static_cast<char>('A' + letter) + std::string(":\\"));
+  }
+  return drives;
+}
+
+void DiskFiles::SetWorkingFolder(const std::string& path) {
+  if (SetCurrentDirectoryW(WidePath(path).c_str()) != 0) return;
+  const DWORD problem = GetLastError();
+  throw problem == ERROR_FILE_NOT_FOUND ? RuntimeError(error_number::PathNotFound) : FileError(problem, path);
+}
+
+std::string DiskFiles::AbsolutePath(const std::string& path) {
+  std::wstring full(32'768, L'\0');
+  const DWORD length = GetFullPathNameW(WideText(path).c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
+  full.resize(length < full.size() ? length : 0);
+  return full.empty() ? path : Utf8Text(full);
+}
+
+std::unique_ptr<FileMark> DiskFiles::TryMark(const std::string& path) {
+  try {
+    auto mark = std::make_unique<DiskFileMark>(path);
+    return mark->TryLock() ? std::move(mark) : nullptr;
+  } catch (const RuntimeError&) {
+    return nullptr;
+  }
+}
+
+std::string DiskFiles::TemporaryFolder() {
+  std::wstring folder(MAX_PATH + 1, L'\0');
+  folder.resize(GetTempPathW(static_cast<DWORD>(folder.size()), folder.data()));
+  if (folder.empty()) throw RuntimeError(error_number::PathNotFound);
+  return Utf8Text(folder);
+}
+
+std::string DiskFiles::ProgramFolder() { return programFolder_; }
+
+}  // namespace orby

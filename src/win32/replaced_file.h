@@ -1,0 +1,18 @@
+// Files that are replaced completely or not at all.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace orby {
+
+// Implements FileSystem::BehindLinks. Returns the link itself when it leads to no file.
+std::string PathBehindLinks(const std::string& path);
+
+// Implements FileSystem::MakeFileLike.
+void MakeFileOnDiskLike(const std::string& path, const std::string& model);
+
+// Implements FileSystem::ReplaceFile.
+void ReplaceFileOnDisk(const std::string& path, std::string_view bytes);
+
+}  // namespace orby
