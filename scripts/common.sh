@@ -74,7 +74,8 @@ configure() {
   shift
   if [ $# -eq 0 ] && [ -e "$ninja_file" ] && [ ! "$top/CMakePresets.json" -nt "$ninja_file" ]; then return 0; fi
   if command -v ccache >/dev/null; then faster+=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache); fi
-  if command -v mold >/dev/null; then faster+=(-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=mold); fi
+  # It links no programs for Windows.
+  if [[ $preset != windows* ]] && command -v mold >/dev/null; then faster+=(-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=mold); fi
   (cd "$top" && cmake --preset "$preset" "${faster[@]}" "$@")
 }
 

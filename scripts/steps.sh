@@ -66,6 +66,12 @@ count_tests() {
   fi
 }
 
+# runner_of PROGRAM: what runs it. A program for Windows needs Wine; other programs run by themselves.
+runner_of() { case $1 in *.exe) echo "$wine" ;; esac; }
+
+# path_for PROGRAM PATH: the path as the program sees it.
+path_for() { case $1 in *.exe) echo "Z:$2" ;; *) echo "$2" ;; esac; }
+
 # run_program PROGRAM SEED LOG [wrapper]: runs a test program as one process. The seed chooses the order of its tests and
 # the cases of property tests. Writes the numbers of passed and failed tests beside the log. A program that breaks off
 # without naming a test counts as one failure.
@@ -73,8 +79,8 @@ run_program() {
   local program=$1 seed=$2 log=$3 status all bad
   local result="${log%.log}.xml"
   shift 3
-  RC_PARAMS="seed=$seed" "$@" timeout 900 "$program" --gtest_shuffle --gtest_random_seed="$seed" --gtest_brief=1 \
-    --gtest_output="xml:$result" >"$log" 2>&1 </dev/null
+  RC_PARAMS="seed=$seed" "$@" timeout 900 $(runner_of "$program") "$program" --gtest_shuffle --gtest_random_seed="$seed" --gtest_brief=1 \
+    --gtest_output="xml:$(path_for "$program" "$result")" >"$log" 2>&1 </dev/null
   status=$?
   all=$(xml_figure "$result" tests)
   bad=$(($(xml_figure "$result" failures) + $(xml_figure "$result" skipped) + $(xml_figure "$result" disabled)))

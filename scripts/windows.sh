@@ -3,7 +3,8 @@
 
 windows_packages=(g++-mingw-w64-x86-64-posix=x86_64-w64-mingw32-g++-posix libz-mingw-w64-dev=/usr/x86_64-w64-mingw32/lib/libz.a
   dpkg-dev=dpkg-source xz-utils=xz googletest=/usr/src/googletest/CMakeLists.txt)
-wine_packages=(wine=wine "wine64=/usr/lib/wine/wine64")
+wine=/usr/lib/wine/wine64
+wine_packages=("wine64=$wine" libwine=/usr/lib/x86_64-linux-gnu/wine)
 
 windows="$top/build/windows"
 
@@ -41,3 +42,9 @@ build_windows_libraries() {
     -DCMAKE_INSTALL_PREFIX="$windows/libraries" &&
     cmake --build "$windows/libraries-build" && cmake --install "$windows/libraries-build"
 }
+
+# in_wine COMMAND...: with a Windows of its own, which shows nothing and logs nothing.
+in_wine() { WINEPREFIX="$windows/wine" WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=" "$@"; }
+
+# The first program would wait for it otherwise, and the second one find it half done.
+make_wine() { [ -e "$windows/wine/system.reg" ] || in_wine timeout 300 "$wine" wineboot --init; }

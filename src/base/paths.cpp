@@ -47,7 +47,7 @@ std::string WithoutStepsUp(std::string_view path) {
   while (!path.empty()) {
     const std::size_t end = std::min(path.find_first_of(Separators), path.size() - 1) + 1;
     const std::string_view folder(WithoutSeparator(result));
-    const std::string_view last = NameBehindSeparator(folder);
+    const std::string_view last = NameAfterSeparator(folder);
     const bool isUp = WithoutSeparator(path.substr(0, end)) == Up;
     if (isUp && !last.empty() && last != Up && !IsRoot(folder)) {
       result.resize(folder.size() - last.size());

@@ -39,7 +39,7 @@ std::vector<std::string> FolderChain(const std::string& drive, const std::string
 
 // Returns the folder that contains the path. The root contains itself.
 std::string FolderAbove(const std::string& path) {
-  const std::string above = path.substr(0, path.size() - NameBehindSeparator(path).size());
+  const std::string above = path.substr(0, path.size() - NameAfterSeparator(path).size());
   return IsRoot(above) ? above : std::string(WithoutSeparator(above));
 }
 

@@ -77,7 +77,7 @@ void MakeFolders(const std::string& path, SECURITY_ATTRIBUTES* permissions) {
   const std::wstring wide = WidePath(folder);
   if (CreateDirectoryW(wide.c_str(), permissions) != 0) return;
   if (GetLastError() == ERROR_PATH_NOT_FOUND) {
-    const std::string above = folder.substr(0, folder.size() - NameBehindSeparator(folder).size());
+    const std::string above = folder.substr(0, folder.size() - NameAfterSeparator(folder).size());
     if (above.empty() || IsRoot(above)) throw FileError(ERROR_PATH_NOT_FOUND, path);
     MakeFolders(above, nullptr);
     if (CreateDirectoryW(wide.c_str(), permissions) != 0) return;
@@ -92,17 +92,17 @@ void MakeFolders(const std::string& path, SECURITY_ATTRIBUTES* permissions) {
 
 DiskFiles::DiskFiles(std::string programFolder) : programFolder_(std::move(programFolder)) {}
 
-bool DiskFiles::Finds(const std::string& path, bool foldersToo) {
-  if (path.empty()) return false;
+Found DiskFiles::Find(const std::string& path) {
+  if (path.empty()) return Found::Nothing;
   const DWORD attributes = GetFileAttributesW(WidePath(path).c_str());
-  if (attributes != INVALID_FILE_ATTRIBUTES) return foldersToo || !IsFolder(attributes);
+  if (attributes != INVALID_FILE_ATTRIBUTES) return IsFolder(attributes) ? Found::Folder : Found::File;
   switch (GetLastError()) {
     // The path has a folder that may not be entered, which is error 75 and not error 70 of a file that may not be used.
     case ERROR_ACCESS_DENIED: throw RuntimeError(error_number::PathFileAccess);
     case ERROR_INVALID_NAME:
     case ERROR_BAD_PATHNAME:
     case ERROR_FILENAME_EXCED_RANGE: throw RuntimeError(error_number::BadFileName);
-    default: return false;
+    default: return Found::Nothing;
   }
 }
 
@@ -164,7 +164,7 @@ void DiskFiles::ReplaceFile(const std::string& path, std::string_view bytes) { R
 
 void DiskFiles::MakeFileLike(const std::string& path, const std::string& model) { MakeFileOnDiskLike(path, model); }
 
-std::string DiskFiles::BehindLinks(const std::string& path) { return PathBehindLinks(path); }
+std::string DiskFiles::ResolveLinks(const std::string& path) { return ResolvedLinks(path); }
 
 void DiskFiles::MakeFolder(const std::string& path) { MakeFolders(path, nullptr); }
 

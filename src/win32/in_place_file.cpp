@@ -39,7 +39,7 @@ class InPlaceFile : public OutputFile {
   void FindRoom(const std::string& path, std::uint64_t length) const {
     const std::uint64_t held = file_.Length();
     if (length <= held) return;
-    const std::string folder = path.substr(0, path.size() - NameBehindSeparator(path).size());
+    const std::string folder = path.substr(0, path.size() - NameAfterSeparator(path).size());
     ULARGE_INTEGER room{};
     const std::wstring disk = folder.empty() ? L"." : WidePath(folder);
     if (GetDiskFreeSpaceExW(disk.c_str(), &room, nullptr, nullptr) == 0) return;

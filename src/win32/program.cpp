@@ -34,7 +34,7 @@ std::string ProgramFolder() {
   std::wstring path(32'768, L'\0');
   path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
   const std::string program = Utf8Text(path);
-  const std::string folder = program.substr(0, program.size() - NameBehindSeparator(program).size());
+  const std::string folder = program.substr(0, program.size() - NameAfterSeparator(program).size());
   return folder.empty() || IsRoot(folder) ? folder : std::string(WithoutSeparator(folder));
 }
 

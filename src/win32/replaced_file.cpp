@@ -37,7 +37,7 @@ void GiveLike(const std::string& path, const std::string& model) {
 class Replacement {
  public:
   explicit Replacement(std::string path) : path_(std::move(path)) {
-    const std::string start = path_.substr(0, path_.size() - NameBehindSeparator(path_).size()) + ".orby-" +
+    const std::string start = path_.substr(0, path_.size() - NameAfterSeparator(path_).size()) + ".orby-" +
                               std::to_string(GetCurrentProcessId()) + "-";
     for (int number = 0; !file_; ++number) {
       beside_ = start + std::to_string(number);
@@ -73,7 +73,7 @@ class Replacement {
 
 }  // namespace
 
-std::string PathBehindLinks(const std::string& path) {
+std::string ResolvedLinks(const std::string& path) {
   const DWORD attributes = AttributesOf(path);
   if (!Exists(attributes) || (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return path;
   HANDLE file = CreateFileW(WidePath(path).c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
@@ -97,7 +97,7 @@ void ReplaceFileOnDisk(const std::string& path, std::string_view bytes) {
   const bool replaces = Exists(attributes);
   if (replaces && (attributes & FILE_ATTRIBUTE_READONLY) != 0) throw FileError(ERROR_WRITE_PROTECT, path);
   if (replaces && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) throw FileError(ERROR_ACCESS_DENIED, path);
-  Replacement replacement(PathBehindLinks(path));
+  Replacement replacement(ResolvedLinks(path));
   replacement.Fill(bytes);
   replacement.TakeItsPlace(replaces);
 }

@@ -6,8 +6,8 @@
 
 namespace orby {
 
-// Implements FileSystem::BehindLinks. Returns the link itself when it leads to no file.
-std::string PathBehindLinks(const std::string& path);
+// Implements FileSystem::ResolveLinks. Returns the link itself when it leads to no file.
+std::string ResolvedLinks(const std::string& path);
 
 // Implements FileSystem::MakeFileLike.
 void MakeFileOnDiskLike(const std::string& path, const std::string& model);

@@ -60,7 +60,7 @@ std::string Utf8Text(std::wstring_view text) {
 std::wstring WidePath(const std::string& path) {
   // The functions that take a folder append to it, and 8.3 names need room too.
   constexpr std::size_t LongestPlain = MAX_PATH - 13;
-  const std::string_view name = NameBehindSeparator(WithoutSeparator(path));
+  const std::string_view name = NameAfterSeparator(WithoutSeparator(path));
   if (path.empty() || path.find('\0') != std::string::npos || IsDevice(name) || IsChangedByTheSystem(name)) {
     throw RuntimeError(error_number::BadFileName);
   }

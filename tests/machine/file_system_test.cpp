@@ -79,7 +79,7 @@ TYPED_TEST(EveryFileSystem, HasNamesOfEveryScriptAndWithBlanks) {
 
   this->Store(name, "bytes");
 
-  EXPECT_TRUE(this->files.Finds(this->At(name), false));
+  EXPECT_TRUE(this->files.FindsFile(this->At(name)));
   EXPECT_THAT(this->files.FilesIn(this->home.folder), ElementsAre(this->At(name)));
   EXPECT_EQ(this->files.ReadFile(this->At(name)), "bytes");
 }
@@ -91,14 +91,14 @@ TYPED_TEST(EveryFileSystem, HasPathsOf300Characters) {
   this->files.MakeFolder(folder);
   this->files.CreateFile(path)->Close();
 
-  EXPECT_TRUE(this->files.Finds(path, false));
+  EXPECT_TRUE(this->files.FindsFile(path));
   EXPECT_THAT(this->files.FilesIn(folder), ElementsAre(path));
 }
 
-TYPED_TEST(EveryFileSystem, FindsFoldersOnlyWhenAskedTo) {
-  EXPECT_TRUE(this->files.Finds(this->home.folder, true));
-  EXPECT_FALSE(this->files.Finds(this->home.folder, false));
-  EXPECT_FALSE(this->files.Finds(this->At("missing"), true));
+TYPED_TEST(EveryFileSystem, FindsFoldersAndFiles) {
+  EXPECT_TRUE(this->files.Finds(this->home.folder));
+  EXPECT_FALSE(this->files.FindsFile(this->home.folder));
+  EXPECT_FALSE(this->files.Finds(this->At("missing")));
 }
 
 TYPED_TEST(EveryFileSystem, ReportsAMissingFile) {
@@ -117,7 +117,7 @@ TYPED_TEST(EveryFileSystem, RenamesAFileOverAnotherOne) {
 
   this->files.RenameFile(this->At("old.ORB"), this->At("new.ORB"));
 
-  EXPECT_FALSE(this->files.Finds(this->At("old.ORB"), false));
+  EXPECT_FALSE(this->files.FindsFile(this->At("old.ORB")));
   EXPECT_EQ(this->files.ReadFile(this->At("new.ORB")), "kept");
 }
 
@@ -156,7 +156,7 @@ TYPED_TEST(EveryFileSystem, MakesFoldersAndThoseAboveThem) {
   this->files.MakeFolder(this->At("North/Panel 3"));
   this->files.MakePrivateFolder(this->At("South"));
 
-  EXPECT_TRUE(this->files.Finds(this->At("North/Panel 3"), true));
+  EXPECT_TRUE(this->files.Finds(this->At("North/Panel 3")));
   EXPECT_THAT(this->files.FoldersIn(this->home.folder), testing::IsSupersetOf({"South"}));
   EXPECT_TRUE(this->files.CanWriteTo(this->At("South")));
   EXPECT_THAT(this->files.FilesIn(this->At("South")), IsEmpty());
@@ -177,7 +177,7 @@ TYPED_TEST(EveryFileSystem, ListsDrivesThatItFinds) {
   const auto drives = this->files.Drives();
 
   ASSERT_FALSE(drives.empty());
-  for (const std::string& drive : drives) EXPECT_TRUE(IsRoot(drive) || this->files.Finds(drive, true)) << drive;
+  for (const std::string& drive : drives) EXPECT_TRUE(IsRoot(drive) || this->files.Finds(drive)) << drive;
 }
 
 TYPED_TEST(EveryFileSystem, LeavesAnAbsolutePathAsItIs) {
@@ -218,7 +218,7 @@ TEST_F(ThisMachine, KnowsWhenAFileWasWritten) {
   EXPECT_FALSE(home.files.WrittenAt(home.place.At("missing")).has_value());
 }
 
-TEST_F(ThisMachine, HasAFolderForTemporaryFiles) { EXPECT_TRUE(home.files.Finds(home.files.TemporaryFolder(), true)); }
+TEST_F(ThisMachine, HasAFolderForTemporaryFiles) { EXPECT_TRUE(home.files.Finds(home.files.TemporaryFolder())); }
 
 }  // namespace
 }  // namespace orby::test
