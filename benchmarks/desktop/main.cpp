@@ -43,7 +43,7 @@
 #include "dialogs/results_window.h"
 #include "dialogs/text_browser.h"
 #include "platform/no_desktop.h"
-#include "posix/disk_files.h"
+#include "machine/disk_files.h"
 #include "qt/boundary.h"
 #include "qt/desktop.h"
 #include "qt/help_viewer.h"
