@@ -5,7 +5,9 @@
 #include <QPainter>
 #include <QVariant>
 
-#include "qt/pictures.h"
+#include "drawings/pictures.h"
+#include "qt/scene_painter.h"
+#include "qt/texts.h"
 
 namespace orby {
 namespace {
@@ -18,22 +20,24 @@ constexpr double LeastShare = 0.6;
 
 PictureView::PictureView(QWidget* parent) : QWidget(parent) {}
 
-QSvgRenderer& PictureView::Drawing() const {
-  if (!drawing_) drawing_ = LoadPicture(property("picture").toString(), palette().color(QPalette::WindowText));
+const Scene& PictureView::Drawing() const {
+  if (!drawing_) drawing_ = PictureScene(FromQt(property("picture").toString()));
   return *drawing_;
 }
 
-QSize PictureView::sizeHint() const { return Drawing().defaultSize() * (fontMetrics().height() / DrawnLineHeight); }
+QSize PictureView::sizeHint() const {
+  return (QSizeF(Drawing().Width, Drawing().Height) * (fontMetrics().height() / DrawnLineHeight)).toSize();
+}
 
 QSize PictureView::minimumSizeHint() const { return sizeHint() * LeastShare; }
 
 void PictureView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  Drawing().render(&painter, rect());
+  PaintScene(painter, Drawing(), rect(), palette().color(QPalette::WindowText));
 }
 
 bool PictureView::event(QEvent* event) {
-  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::DynamicPropertyChange) drawing_.reset();
+  if (event->type() == QEvent::DynamicPropertyChange) drawing_.reset();
   return QWidget::event(event);
 }
 

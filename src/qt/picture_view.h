@@ -1,9 +1,10 @@
-// Shows a drawing in a dialog. The property "picture" names its resource.
+// Shows a drawing in a dialog. The property "picture" names it.
 #pragma once
 
-#include <QSvgRenderer>
 #include <QWidget>
-#include <memory>
+#include <optional>
+
+#include "drawings/scene.h"
 
 namespace orby {
 
@@ -19,9 +20,9 @@ class PictureView : public QWidget {
   bool event(QEvent* event) override;
 
  private:
-  QSvgRenderer& Drawing() const;
+  const Scene& Drawing() const;
 
-  mutable std::unique_ptr<QSvgRenderer> drawing_;  // created on first use and after a change of the theme
+  mutable std::optional<Scene> drawing_;  // created on first use
 };
 
 }  // namespace orby

@@ -1,23 +1,26 @@
 #include "qt/pictures.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
+
+#include "drawings/pictures.h"
+#include "qt/scene_painter.h"
+#include "qt/texts.h"
 
 namespace orby {
 namespace {
 
 class PictureIcon : public QIconEngine {
  public:
-  explicit PictureIcon(QString resource) : resource_(std::move(resource)) {}
+  explicit PictureIcon(Scene scene) : scene_(std::move(scene)) {}
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
     const QPalette palette = QApplication::palette();
     const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
     const auto role = mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText;
-    LoadPicture(resource_, palette.color(group, role))->render(painter, rect);
+    PaintScene(*painter, scene_, rect, palette.color(group, role));
   }
 
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
@@ -28,24 +31,14 @@ class PictureIcon : public QIconEngine {
     return drawn;
   }
 
-  QIconEngine* clone() const override { return new PictureIcon(resource_); }
+  QIconEngine* clone() const override { return new PictureIcon(scene_); }
 
  private:
-  QString resource_;
+  Scene scene_;
 };
 
 }  // namespace
 
-std::unique_ptr<QSvgRenderer> LoadPicture(const QString& resource, const QColor& lines) {
-  QFile file(resource);
-  QByteArray bytes;
-  if (file.open(QIODevice::ReadOnly)) bytes = file.readAll();
-  bytes.replace("currentColor", lines.name().toLatin1());
-  auto renderer = std::make_unique<QSvgRenderer>(bytes);
-  renderer->setAspectRatioMode(Qt::KeepAspectRatio);
-  return renderer;
-}
-
-QIcon ThemedIcon(const QString& name) { return QIcon(new PictureIcon(":/pictures/" + name + ".svg")); }
+QIcon ThemedIcon(const QString& name) { return QIcon(new PictureIcon(PictureScene(FromQt(name)))); }
 
 }  // namespace orby

@@ -15,10 +15,11 @@ struct Room {
   int floor;
 };
 
-constexpr std::array<Room, 18> Rooms = {{{"base", 0},
+constexpr std::array<Room, 19> Rooms = {{{"base", 0},
                                          {"platform", 1},
                                          {"controls", 1},
                                          {"design", 1},
+                                         {"drawings", 4},
                                          {"machine", 2},
                                          {"engine", 2},
                                          {"core", 3},
@@ -30,7 +31,7 @@ constexpr std::array<Room, 18> Rooms = {{{"base", 0},
                                          {"spreadsheet", 5},
                                          {"shell", 6},
                                          {"posix", 3},
-                                         {"win32", 3},
+                                         {"windows", 3},
                                          {"qt", 7},
                                          {"apps", 8}}};
 

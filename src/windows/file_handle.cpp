@@ -1,12 +1,12 @@
-#include "win32/file_handle.h"
+#include "windows/file_handle.h"
 
 #include <algorithm>
 #include <array>
 #include <utility>
 
-#include "win32/file_errors.h"
-#include "win32/system.h"
-#include "win32/wide_text.h"
+#include "windows/file_errors.h"
+#include "windows/system.h"
+#include "windows/wide_text.h"
 
 namespace orby {
 namespace {

@@ -1,14 +1,14 @@
-#include "win32/replaced_file.h"
+#include "windows/replaced_file.h"
 
 #include <optional>
 #include <vector>
 
 #include "base/paths.h"
 #include "base/runtime_error.h"
-#include "win32/file_errors.h"
-#include "win32/file_handle.h"
-#include "win32/system.h"
-#include "win32/wide_text.h"
+#include "windows/file_errors.h"
+#include "windows/file_handle.h"
+#include "windows/system.h"
+#include "windows/wide_text.h"
 
 namespace orby {
 namespace {

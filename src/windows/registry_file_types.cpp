@@ -2,8 +2,8 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "machine/file_types.h"
-#include "win32/system.h"
-#include "win32/wide_text.h"
+#include "windows/system.h"
+#include "windows/wide_text.h"
 
 namespace orby {
 namespace {

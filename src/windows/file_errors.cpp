@@ -1,7 +1,7 @@
-#include "win32/file_errors.h"
+#include "windows/file_errors.h"
 
-#include "win32/system.h"
-#include "win32/wide_text.h"
+#include "windows/system.h"
+#include "windows/wide_text.h"
 
 namespace orby {
 namespace {

@@ -6,8 +6,8 @@
 #include <cstdio>
 
 #include "base/paths.h"
-#include "win32/system.h"
-#include "win32/wide_text.h"
+#include "windows/system.h"
+#include "windows/wide_text.h"
 
 // The arguments are taken as they are: the shell of Windows leaves "*" and "?" to the program, and files have no names
 // with them.

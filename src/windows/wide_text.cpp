@@ -1,4 +1,4 @@
-#include "win32/wide_text.h"
+#include "windows/wide_text.h"
 
 #include <algorithm>
 #include <array>
@@ -6,7 +6,7 @@
 #include "base/paths.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
-#include "win32/system.h"
+#include "windows/system.h"
 
 namespace orby {
 namespace {

@@ -1,13 +1,13 @@
-#include "win32/in_place_file.h"
+#include "windows/in_place_file.h"
 
 #include <string_view>
 
 #include "base/paths.h"
 #include "base/runtime_error.h"
-#include "win32/file_errors.h"
-#include "win32/file_handle.h"
-#include "win32/system.h"
-#include "win32/wide_text.h"
+#include "windows/file_errors.h"
+#include "windows/file_handle.h"
+#include "windows/system.h"
+#include "windows/wide_text.h"
 
 namespace orby {
 namespace {

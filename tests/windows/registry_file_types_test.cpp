@@ -5,8 +5,8 @@
 #include "machine/disk_files.h"
 #include "machine/file_types.h"
 #include "support/recording_platform.h"
-#include "win32/system.h"
-#include "win32/wide_text.h"
+#include "windows/system.h"
+#include "windows/wide_text.h"
 
 namespace orby::test {
 namespace {

@@ -1,0 +1,39 @@
+// The pictures as tables. PictureScene makes scenes of them.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "drawings/scene.h"
+
+namespace orby {
+
+struct PictureOutline {
+  std::string_view Path;  // as PathSteps reads it
+  SceneFill Inside;
+  SceneStroke Line;
+};
+
+struct PictureLabel {
+  std::string_view Text;
+  ScenePoint At;
+  Anchor Side = Anchor::Start;
+  bool IsBold = false;
+  double Turn = 0;
+};
+
+struct Picture {
+  std::string_view Name;
+  double Width = 24;
+  double Height = 24;
+  std::span<const PictureOutline> Outlines;
+  std::span<const PictureLabel> Labels;
+};
+
+// The icons, and the drawings of the parameters dialog.
+std::span<const Picture> DrawnPictures();
+
+// The map of the coal regions with one of them marked, by the index of the region.
+std::span<const Picture> MapPictures();
+
+}  // namespace orby

@@ -1,0 +1,70 @@
+// A drawing as data: outlines and texts in coordinates of its own, x to the right and y downwards.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orby {
+
+struct ScenePoint {
+  double X = 0;
+  double Y = 0;
+};
+
+// The colours of a drawing by what they are for. Text is the colour of texts around the drawing, light or dark.
+enum class Ink { None, Text, Muted, Rock, Bolt };
+
+struct PathStep {
+  enum class Kind { Move, Line, Curve, Close };
+
+  Kind What = Kind::Close;
+  ScenePoint To;
+  ScenePoint FirstControl;   // of a cubic curve
+  ScenePoint SecondControl;  // of a cubic curve
+};
+
+struct SceneFill {
+  Ink Colour = Ink::None;
+  double Opacity = 1;
+};
+
+struct SceneStroke {
+  Ink Colour = Ink::None;
+  double Width = 1;
+  double Opacity = 1;
+  bool IsRound = false;  // at its ends and corners
+  bool IsDashed = false;
+};
+
+struct SceneOutline {
+  std::vector<PathStep> Steps;
+  SceneFill Inside;
+  SceneStroke Line;
+};
+
+enum class Anchor { Start, Middle, End };
+
+struct SceneLabel {
+  std::string Text;
+  ScenePoint At;  // on the base line of the text
+  Anchor Side = Anchor::Start;
+  double Size = 13;
+  bool IsBold = false;
+  double Turn = 0;  // degrees clockwise around At
+};
+
+// Outlines are painted in their order, and labels over them.
+struct Scene {
+  double Width = 0;
+  double Height = 0;
+  std::vector<SceneOutline> Outlines;
+  std::vector<SceneLabel> Labels;
+};
+
+// Returns the steps of a path text: "M" move, "L" line, "C" cubic curve with its two control points, each followed by
+// coordinates separated by spaces, and "Z" close. A letter holds for all points up to the next one.
+// Throws std::invalid_argument for any other text.
+std::vector<PathStep> PathSteps(std::string_view text);
+
+}  // namespace orby

@@ -1,0 +1,97 @@
+#include "qt/scene_painter.h"
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+
+#include "qt/texts.h"
+
+namespace orby {
+namespace {
+
+QColor ColourOf(Ink ink, const QColor& text) {
+  switch (ink) {
+    case Ink::Text: return text;
+    case Ink::Muted: return {0x8a, 0x8f, 0x94};
+    case Ink::Rock: return {0xc1, 0x66, 0x2f};
+    case Ink::Bolt: return {0x2f, 0x7f, 0xc1};
+    case Ink::None: break;
+  }
+  return Qt::transparent;
+}
+
+QColor Faded(QColor colour, double opacity) {
+  colour.setAlphaF(static_cast<float>(colour.alphaF() * opacity));
+  return colour;
+}
+
+QPointF PointOf(const ScenePoint& point) { return {point.X, point.Y}; }
+
+QPainterPath PathOf(const std::vector<PathStep>& steps) {
+  using enum PathStep::Kind;
+  QPainterPath path;
+  for (const PathStep& step : steps) {
+    switch (step.What) {
+      case Move: path.moveTo(PointOf(step.To)); break;
+      case Line: path.lineTo(PointOf(step.To)); break;
+      case Curve: path.cubicTo(PointOf(step.FirstControl), PointOf(step.SecondControl), PointOf(step.To)); break;
+      case Close: path.closeSubpath(); break;
+    }
+  }
+  path.setFillRule(Qt::WindingFill);
+  return path;
+}
+
+QPen PenOf(const SceneStroke& stroke, const QColor& text) {
+  if (stroke.Colour == Ink::None) return Qt::NoPen;
+  QPen pen(Faded(ColourOf(stroke.Colour, text), stroke.Opacity), stroke.Width);
+  pen.setCapStyle(stroke.IsRound ? Qt::RoundCap : Qt::FlatCap);
+  pen.setJoinStyle(stroke.IsRound ? Qt::RoundJoin : Qt::SvgMiterJoin);
+  // Lengths of the dashes in widths of the pen.
+  if (stroke.IsDashed) pen.setDashPattern({4 / stroke.Width, 3 / stroke.Width});
+  return pen;
+}
+
+QBrush BrushOf(const SceneFill& fill, const QColor& text) {
+  if (fill.Colour == Ink::None) return Qt::NoBrush;
+  return Faded(ColourOf(fill.Colour, text), fill.Opacity);
+}
+
+void PaintLabel(QPainter& painter, const SceneLabel& label) {
+  const QString text = ToQt(label.Text);
+  QFont font("sans-serif");
+  font.setPixelSize(static_cast<int>(label.Size));
+  font.setBold(label.IsBold);
+  const double width = QFontMetricsF(font).horizontalAdvance(text);
+  const double share = label.Side == Anchor::Start ? 0 : label.Side == Anchor::Middle ? 0.5 : 1;
+  painter.save();
+  painter.setFont(font);
+  painter.translate(PointOf(label.At));
+  painter.rotate(label.Turn);
+  painter.drawText(QPointF(-width * share, 0), text);
+  painter.restore();
+}
+
+}  // namespace
+
+void PaintScene(QPainter& painter, const Scene& scene, const QRectF& target, const QColor& text) {
+  if (scene.Width <= 0 || scene.Height <= 0) return;
+  const double scale = std::min(target.width() / scene.Width, target.height() / scene.Height);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.translate(target.center());
+  painter.scale(scale, scale);
+  painter.translate(-scene.Width / 2, -scene.Height / 2);
+  for (const SceneOutline& outline : scene.Outlines) {
+    painter.setPen(PenOf(outline.Line, text));
+    painter.setBrush(BrushOf(outline.Inside, text));
+    painter.drawPath(PathOf(outline.Steps));
+  }
+  painter.setPen(text);
+  for (const SceneLabel& label : scene.Labels) PaintLabel(painter, label);
+  painter.restore();
+}
+
+}  // namespace orby

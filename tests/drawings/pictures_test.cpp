@@ -1,0 +1,49 @@
+#include "drawings/pictures.h"
+
+#include <gmock/gmock.h>
+
+#include <set>
+#include <string>
+
+namespace orby::test {
+namespace {
+
+class EveryDrawing : public testing::TestWithParam<std::string_view> {};
+
+TEST_P(EveryDrawing, StaysWithinItsEdges) {
+  const Scene scene = PictureScene(GetParam());
+
+  ASSERT_FALSE(scene.Outlines.empty());
+  for (const SceneOutline& outline : scene.Outlines) {
+    EXPECT_EQ(outline.Steps.front().What, PathStep::Kind::Move);
+    for (const PathStep& step : outline.Steps) {
+      EXPECT_GE(step.To.X, 0);
+      EXPECT_LE(step.To.X, scene.Width);
+      EXPECT_GE(step.To.Y, 0);
+      EXPECT_LE(step.To.Y, scene.Height);
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Pictures, EveryDrawing, testing::ValuesIn(PictureNames()),
+                         [](const auto& entry) { return std::string(entry.param); });
+
+TEST(PictureNames, NameEachPictureOnce) {
+  const auto names = PictureNames();
+
+  EXPECT_EQ(std::set<std::string_view>(names.begin(), names.end()).size(), names.size());
+  EXPECT_EQ(names.size(), 20U);
+}
+
+TEST(Pictures, NameTheMeasuresOfTheEntry) {
+  std::vector<std::string> texts;
+  for (const SceneLabel& label : PictureScene("entry_section").Labels) texts.push_back(label.Text);
+
+  EXPECT_THAT(texts, testing::ElementsAre("Depth of cover", "Bolt length", "Roof fall angle", "Rock load height",
+                                          "Entry width"));
+}
+
+TEST(Pictures, AreEmptyForAnUnknownName) { EXPECT_TRUE(PictureScene("nothing").Outlines.empty()); }
+
+}  // namespace
+}  // namespace orby::test
