@@ -7,12 +7,17 @@ target_compile_options(orby_options INTERFACE
   -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough
   -ffp-contract=off)
 target_include_directories(orby_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
-# What Windows reads in a program: its manifest.
+# What Windows reads in a program: its manifest; in a program of the product also icon and version.
 set(ORBY_PROGRAM_RESOURCES)
+set(ORBY_PRODUCT_RESOURCES)
 if(WIN32)
   enable_language(RC)
   target_compile_definitions(orby_options INTERFACE UNICODE _WIN32_WINNT=0x0A00)
   set(ORBY_PROGRAM_RESOURCES ${CMAKE_SOURCE_DIR}/windows/program.rc)
+  set(ORBY_PRODUCT_RESOURCES ${CMAKE_BINARY_DIR}/product.rc)
+  set(ORBY_VERSION_NUMBERS ${PROJECT_VERSION_MAJOR},${PROJECT_VERSION_MINOR},${PROJECT_VERSION_PATCH},0)
+  string(REGEX REPLACE "[.]([0-9])$" ".0\\1" ORBY_VERSION_TEXT ${PROJECT_VERSION})
+  configure_file(${CMAKE_SOURCE_DIR}/windows/product.rc.in ${ORBY_PRODUCT_RESOURCES} @ONLY)
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # -Wrestrict of g++ 12 warns of string concatenation inside the standard library.

@@ -3,10 +3,12 @@
 
 windows_packages=(g++-mingw-w64-x86-64-posix=x86_64-w64-mingw32-g++-posix libz-mingw-w64-dev=/usr/x86_64-w64-mingw32/lib/libz.a
   dpkg-dev=dpkg-source xz-utils=xz googletest=/usr/src/googletest/CMakeLists.txt)
+setup_packages=(qt6-base-dev=/usr/lib/*/cmake/Qt6Widgets qt6-base-dev-tools=/usr/lib/qt6/libexec/moc perl=perl python3=python3 nsis=makensis zip=zip)
 wine=/usr/lib/wine/wine64
 wine_packages=("wine64=$wine" libwine=/usr/lib/x86_64-linux-gnu/wine)
 
 windows="$top/build/windows"
+toolkit="$windows/toolkit/qt"
 
 # fetch_source NAME: the newest source package of this release, unpacked in build/windows/sources/NAME. The machine's own
 # list of package servers is read, but only a copy of it is changed.
@@ -32,15 +34,44 @@ fetch_source() {
     mv "$windows/sources/$name.new" "$windows/sources/$name"
 }
 
+# cross_compile SOURCE BUILD PREFIX [cmake option...]: configures, builds and installs a library for Windows.
+cross_compile() {
+  local source=$1 build=$2 prefix=$3
+  shift 3
+  cmake -G Ninja -S "$source" -B "$build" -DSOURCES="$windows/sources" -DCMAKE_TOOLCHAIN_FILE="$top/windows/mingw.cmake" \
+    -DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=OFF -DCMAKE_INSTALL_PREFIX="$prefix" "$@" && cmake --build "$build"
+}
+
 # The libraries without the window toolkit, built once.
 build_windows_libraries() {
   [ -e "$windows/libraries/lib/libgtest.a" ] && return 0
   fetch_source chmlib && fetch_source libxlsxwriter || return
   ln -sfn /usr/src/googletest "$windows/sources/googletest"
-  cmake -G Ninja -S "$top/windows/libraries" -B "$windows/libraries-build" -DSOURCES="$windows/sources" \
-    -DCMAKE_TOOLCHAIN_FILE="$top/windows/mingw.cmake" -DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=OFF \
-    -DCMAKE_INSTALL_PREFIX="$windows/libraries" &&
-    cmake --build "$windows/libraries-build" && cmake --install "$windows/libraries-build"
+  cross_compile "$top/windows/libraries" "$windows/libraries-build" "$windows/libraries" &&
+    cmake --install "$windows/libraries-build"
+}
+
+# Where the toolkit's tools of this machine are; where the toolkit for Windows is.
+host_tools=(-DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR="$(dirname /usr/lib/*/cmake/Qt6HostInfo)")
+toolkit_options=(-DCMAKE_PREFIX_PATH="$toolkit;$windows/libraries"
+  -DCMAKE_FIND_ROOT_PATH="$toolkit;$windows/libraries;/usr/x86_64-w64-mingw32"
+  "${host_tools[@]}")
+
+# The window toolkit and the charts, built once, in about an hour. The toolkit knows its folder, so that one has the same
+# name everywhere.
+build_windows_toolkit() {
+  [ -e "$toolkit/lib/libQCustomPlotQt6.a" ] && return 0
+  fetch_source qt6-base && fetch_source qcustomplot || return
+  cross_compile "$windows/sources/qt6-base" "$windows/toolkit-build" /qt "${host_tools[@]}" -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF \
+    -DCMAKE_CXX_FLAGS="-ffile-prefix-map=$windows=." -DCMAKE_C_FLAGS="-ffile-prefix-map=$windows=." \
+    -DFEATURE_sql=OFF -DFEATURE_dbus=OFF -DFEATURE_opengl=OFF -DINPUT_opengl=no -DFEATURE_vulkan=OFF \
+    -DFEATURE_concurrent=OFF -DFEATURE_tabletevent=OFF -DFEATURE_pkg_config=OFF -DFEATURE_androiddeployqt=OFF \
+    -DFEATURE_testlib=ON -DFEATURE_system_zlib=OFF -DFEATURE_system_png=OFF -DFEATURE_system_jpeg=OFF \
+    -DFEATURE_system_freetype=OFF -DFEATURE_system_harfbuzz=OFF -DFEATURE_system_pcre2=OFF \
+    -DFEATURE_system_doubleconversion=OFF || return
+  DESTDIR="$windows/toolkit" cmake --install "$windows/toolkit-build" || return
+  cross_compile "$top/windows/plot" "$windows/plot-build" "$toolkit" "${toolkit_options[@]}" &&
+    cmake --install "$windows/plot-build"
 }
 
 # in_wine COMMAND...: with a Windows of its own, which shows nothing and logs nothing.

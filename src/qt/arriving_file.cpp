@@ -101,9 +101,11 @@ bool ArrivingFile::Append(const QByteArray& bytes) {
 
 bool ArrivingFile::Finish() {
   if (!file_->flush()) return false;
-  const auto from = std::filesystem::path(file_->fileName().toStdString());
+  // Windows does not rename an open file.
+  file_->close();
+  const std::filesystem::path from(file_->fileName().toStdU16String());
   std::error_code problem;
-  std::filesystem::rename(from, std::filesystem::path(path_.toStdString()), problem);
+  std::filesystem::rename(from, std::filesystem::path(path_.toStdU16String()), problem);
   if (problem) return false;
   if (auto* temporary = dynamic_cast<QTemporaryFile*>(file_.get())) temporary->setAutoRemove(false);
   isWhole_ = true;

@@ -65,7 +65,7 @@ std::string Answer(QFileDialog& dialog) {
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
     throw RuntimeError(error_number::Cancelled);
   }
-  return FromQt(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
+  return PathFromQt(dialog.selectedFiles().constFirst());
 }
 
 std::string Ask(QFileDialog& dialog, const FileQuestion& question) {

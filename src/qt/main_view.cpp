@@ -137,7 +137,7 @@ class DropTarget : public QObject {
  private:
   // Does nothing if a dialog has opened meanwhile.
   void Take(const QString& file) {
-    if (!IsBlocked(window_)) RunGuarded([&] { model_.Dropped(FromQt(file)); });
+    if (!IsBlocked(window_)) RunGuarded([&] { model_.Dropped(PathFromQt(file)); });
   }
 
   static QString FileOf(const QMimeData& data) {

@@ -2,17 +2,20 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinterInfo>
+#include <QStandardPaths>
 #include <algorithm>
 
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "core/program.h"
 #include "core/version.h"
+#include "machine/desktop.h"
 #include "qt/bound_form.h"
 #include "qt/chart_view.h"
 #include "qt/texts.h"
@@ -92,7 +95,7 @@ class QtPrinter::Job {
   }
 
   QPrinter& Device() { return device_; }
-  std::string File() const { return FromQt(device_.outputFileName()); }
+  std::string File() const { return PathFromQt(device_.outputFileName()); }
 
  private:
   QPrinter& device_;
@@ -108,8 +111,21 @@ QPrinter& QtPrinter::Device() {
 }
 
 void QtPrinter::ShowDialog() {
+  if (!PrintsToFiles() && QPrinterInfo::availablePrinterNames().isEmpty()) return ShowFileDialog();
   QPrintDialog dialog(&Device(), QApplication::activeWindow());
   if (dialog.exec() != QDialog::Accepted) throw RuntimeError(error_number::Cancelled);
+}
+
+// A desktop without printers whose dialog would not offer a PDF file either.
+void QtPrinter::ShowFileDialog() {
+  QPrinter& device = Device();
+  const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  const QString suggested = IsFile(device) ? device.outputFileName() : documents.filePath(device.docName());
+  const QString path =
+      QFileDialog::getSaveFileName(QApplication::activeWindow(), "Print to File", suggested, "PDF (*.pdf)");
+  if (path.isEmpty()) throw RuntimeError(error_number::Cancelled);
+  device.setOutputFormat(QPrinter::PdfFormat);
+  device.setOutputFileName(path);
 }
 
 // The dialog suggests a file with the name of the document until the user has chosen a file.

@@ -25,6 +25,7 @@ class QtPrinter : public Printer {
 
   // Throws RuntimeError 32755 if the user cancels.
   void ShowDialog();
+  void ShowFileDialog();
 
   std::unique_ptr<QPrinter> device_;
   bool mayReplace_ = false;  // the user confirmed the file name in the dialog

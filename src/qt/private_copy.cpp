@@ -65,7 +65,7 @@ std::optional<std::string> PrivateCopy(const std::string& path, const std::strin
   CopyBytes(source, copy);
   if (!SameWithoutCase(SumOf(copy), sha256)) return std::nullopt;
   folder.setAutoRemove(false);
-  return FromQt(copy.fileName());
+  return PathFromQt(copy.fileName());
 }
 
 }  // namespace orby

@@ -19,7 +19,7 @@ namespace {
 std::optional<std::string> Folder(QStandardPaths::StandardLocation location) {
   const QString path = QStandardPaths::writableLocation(location);
   if (path.isEmpty()) return std::nullopt;
-  return FromQt(path);
+  return PathFromQt(path);
 }
 
 std::vector<std::string> FontsAfter(const QFont& first) {

@@ -6,6 +6,7 @@
 // After it, because they do not include it themselves.
 #include <sddl.h>
 #include <shellapi.h>
+#include <shlwapi.h>
 
 #undef CreateFile
 #undef ReplaceFile

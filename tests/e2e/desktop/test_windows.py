@@ -1,0 +1,213 @@
+"""The program for Windows under Wine: installed in silence, used, killed and started again, and removed.
+
+Wine's windows have no accessibility tree here: the test presses keys and looks at titles, files and the clipboard.
+"""
+
+import glob
+import os
+import re
+import shutil
+import signal
+import subprocess
+import unittest
+
+from orby import EXAMPLES, TITLE, clipboard, companion, front_window, lines, press_keys, take_picture, until, xdotool
+
+WINE = os.environ["WINE"]
+WINE_SERVER = os.environ["WINE_SERVER"]
+SETUP = os.environ["ORBY_SETUP"]
+
+LONGEST = 300  # seconds that an installation may take on a loaded machine
+ORB_COMMAND = "ORB_File\\shell\\open\\command"
+
+
+def in_front(title):
+    """Waits for the active window with this title, which may be a pattern."""
+    until(lambda: re.fullmatch(title, front_window()), f"window {title!r} in front, it is {front_window()!r}")
+
+
+def type_over(text):
+    xdotool("key", "ctrl+a", "type", "--delay", "5", text)
+
+
+def words_of(pdf):
+    """Returns the words of a PDF file, or nothing while it is incomplete."""
+    answer = subprocess.run(["pdftotext", "-layout", pdf, "-"], capture_output=True)
+    return answer.stdout.decode().split() if answer.returncode == 0 else None
+
+
+class WindowsProgram(unittest.TestCase):
+    """A user of a new Windows who has the installer."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.home = os.environ["HOME"]
+        cls.drive = os.path.join(cls.home, "wine", "drive_c")
+        os.environ["WINEPREFIX"] = os.path.join(cls.home, "wine")
+        cls.wine("wineboot", "--init")
+        cls.addClassCleanup(subprocess.run, [WINE_SERVER, "-k"])
+
+    @staticmethod
+    def wine(*words):
+        """Returns the output of a program of Windows after its end."""
+        answer = subprocess.run([WINE, *words], capture_output=True, check=True, timeout=LONGEST)
+        return answer.stdout.decode("utf-8", "replace").replace("\r\n", "\n")
+
+    def registry(self):
+        """Returns the user's entries as texts: "key\\name = value". Leaves out what Windows itself keeps on programs."""
+        entries, key = set(), ""
+        for line in self.wine("reg", "query", r"HKCU\Software", "/s").splitlines():
+            if line.startswith("HKEY"):
+                key = line
+            elif line.strip() and r"\Software\Wine" not in key and r"\Explorer" not in key:
+                entries.add(key + "\\" + re.sub(" {2,}", " ", line.strip()))
+        return entries
+
+    def installed(self, *parts):
+        (folder,) = glob.glob(os.path.join(self.drive, "users", "*", "AppData", "Local", "Programs", "Orby"))
+        return os.path.join(folder, *parts)
+
+    def setUp(self):
+        self.addCleanup(xdotool, "mousemove", 0, 0)
+
+    def tearDown(self):
+        result = self._outcome.result
+        if any(test is self for test, _ in result.failures + result.errors):
+            take_picture("failed-windows")
+
+    def test_is_installed_used_and_removed(self):
+        before = self.registry()
+        self.wine(SETUP, "/S")
+        added = self.registry() - before
+        self.check_installation(added)
+        self.start_from_the_menu()
+        design = self.open_by_association()
+        self.edit_print_and_save(design)
+        self.come_back_after_a_kill(design)
+        self.remove(before, design)
+
+    def check_installation(self, added):
+        print(*sorted(added), sep="\n")
+        for name in ("orby.exe", "orby-cli.exe", "ORBY.CHM", "ORBY.PDF", "uninstall.exe", "licences/GPL-3"):
+            self.assertTrue(os.path.exists(self.installed(name)), name)
+        self.assertEqual(sorted(os.listdir(self.installed("examples"))), sorted(os.listdir(EXAMPLES)))
+        self.assertTrue(any(ORB_COMMAND in entry and 'orby.exe" "%1"' in entry for entry in added), added)
+        self.assertTrue(any("QuietUninstallString" in entry for entry in added), added)
+        outside = [entry for entry in added if not re.search(r"\\Classes\\\.ORB|\\Classes\\ORB_File|\\Uninstall\\Orby", entry)]
+        self.assertEqual(outside, [], "nothing else is in the registry")
+
+    def accept_disclaimer(self):
+        in_front("Disclaimer")
+        press_keys("Return")
+
+    def quit(self):
+        press_keys("alt+f", "x")
+
+    def wait_for_end(self):
+        """Waits until no program of Windows runs any more."""
+        subprocess.run([WINE_SERVER, "-w"], check=True, timeout=LONGEST)
+
+    def start_from_the_menu(self):
+        (link,) = glob.glob(os.path.join(self.drive, "users", "*", "AppData", "Roaming", "Microsoft", "Windows",
+                                         "Start Menu", "Programs", TITLE + ".lnk"))
+        self.wine("start", "/unix", link)
+        self.accept_disclaimer()
+        in_front(TITLE + ".*")
+        take_picture("windows-main")
+        self.quit()
+        self.wait_for_end()
+
+    def open_by_association(self):
+        """Opens a copy of an example as a double click would, and returns its path."""
+        design = os.path.join(self.home, "Panel \u00e4 \u0416.ORB")
+        shutil.copy(os.path.join(EXAMPLES, "development-entry.ORB"), design)
+        self.wine("start", "/unix", design)
+        self.accept_disclaimer()
+        in_front("Parameters")
+        take_picture("windows-parameters")
+        return design
+
+    def edit_print_and_save(self, design):
+        press_keys("alt+d")
+        type_over("720")
+        press_keys("alt+r")
+        in_front("Calculation Results")
+        press_keys("alt+n")
+        take_picture("windows-results")
+        press_keys("alt+y")
+        report = until(lambda: "[ORBY DESIGN]" in clipboard() and lines(clipboard()), "the report in the clipboard")
+        self.print_report()
+        press_keys("alt+l")
+        in_front("Parameters")
+        press_keys("Return")
+        in_front(TITLE + ".*")
+        saved_before = os.stat(design).st_mtime_ns
+        press_keys("ctrl+s")
+        until(lambda: os.stat(design).st_mtime_ns != saved_before, "the saved file")
+        self.quit()
+        self.wait_for_end()
+        pages = lines(companion("report", design)).replace("\f", "")
+        self.assertEqual(report[report.index("[GEOLOGY"):], pages[pages.index("[GEOLOGY"):])
+        self.assertIn("720", pages)
+
+    def print_report(self):
+        """Prints to a PDF file: this Windows has no printer."""
+        pdf = os.path.join(self.home, "plan.pdf")
+        press_keys("alt+a")
+        in_front("Print to File")
+        type_over("Z:" + pdf.replace("/", "\\"))
+        press_keys("Return")
+        words = until(lambda: os.path.exists(pdf) and words_of(pdf), "the PDF file")
+        self.assertIn("PSUP", words)
+        in_front("Calculation Results")
+
+    def come_back_after_a_kill(self, design):
+        program = self.start(design)
+        in_front("Parameters")
+        press_keys("alt+d")
+        type_over("777")
+        until(lambda: any("777" in open(name, encoding="latin-1").read().split("\n") for name in self.recovery_files()),
+              "the recovery file")
+        program.send_signal(signal.SIGKILL)
+        program.wait()
+        self.wait_for_end()
+        self.start()
+        in_front(TITLE)
+        take_picture("windows-recovery")
+        press_keys("y")
+        in_front(TITLE + r": .*\.ORB\*")
+        press_keys("alt+i", "p")
+        in_front("Parameters")
+        press_keys("alt+d", "ctrl+a", "ctrl+c")
+        until(lambda: clipboard() == "777", "the depth that was typed before the kill")
+        press_keys("Escape")
+        in_front(TITLE + ".*")
+        self.quit()
+        in_front(TITLE)
+        press_keys("n")
+        self.wait_for_end()
+
+    def start(self, *files):
+        """Starts the installed program itself, whose process can be killed."""
+        program = subprocess.Popen([WINE, self.installed("orby.exe"), *("Z:" + file for file in files)])
+        self.addCleanup(program.wait)
+        self.addCleanup(program.kill)
+        self.accept_disclaimer()
+        return program
+
+    def recovery_files(self):
+        return glob.glob(os.path.join(self.drive, "users", "*", "Documents", "MyStrataDesk", "ORBY", "Temp", "~recover?.tmp"))
+
+    def remove(self, before, design):
+        folder = self.installed()
+        kept = os.path.join(folder, "examples", "my panel.ORB")
+        shutil.copy(design, kept)
+        self.wine(os.path.join(folder, "uninstall.exe"), "/S", "_?=" + "Z:" + folder.replace("/", "\\"))
+        left = [os.path.join(place, name) for place, _, names in os.walk(folder) for name in names]
+        self.assertEqual([os.path.basename(name) for name in left if not name.endswith("uninstall.exe")], ["my panel.ORB"])
+        self.assertEqual(self.registry() - before, set())
+        self.assertTrue(os.path.exists(design))
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,74 @@
+#include "machine/desktop.h"
+
+#include <gmock/gmock.h>
+
+#include <string>
+
+#include "machine/disk_files.h"
+#include "windows/system.h"
+#include "windows/wide_text.h"
+
+namespace orby::test {
+namespace {
+
+constexpr DWORD BetweenLooks = 20;  // milliseconds
+constexpr int MostLooks = 1000;
+
+void SetClass(const std::string& key, const std::string& value) {
+  const std::wstring path = WideText("Software\\Classes\\" + key);
+  const std::wstring text = WideText(value);
+  RegSetKeyValueW(HKEY_CURRENT_USER, path.c_str(), nullptr, REG_SZ, text.c_str(),
+                  static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
+}
+
+// A type of file of the user, and a file of this type.
+struct UserType : testing::Test {
+  ~UserType() override {
+    for (const wchar_t* key : {L"Software\\Classes\\.orbt", L"Software\\Classes\\.xlsx", L"Software\\Classes\\Orbt"}) {
+      RegDeleteTreeW(HKEY_CURRENT_USER, key);
+    }
+    for (const std::string& name : {file, opened}) DeleteFileW(WidePath(name).c_str());
+  }
+
+  // Gives the extension a program, which copies the file that it opens.
+  static void AddProgram(const std::string& extension) {
+    SetClass(extension, "Orbt");
+    SetClass("Orbt\\shell\\open\\command", "cmd.exe /c copy \"%1\" \"%1.opened\"");
+  }
+
+  bool IsOpened() {
+    for (int look = 0; look < MostLooks && files.Find(opened) != Found::File; ++look) Sleep(BetweenLooks);
+    return files.Find(opened) == Found::File;
+  }
+
+  DiskFiles files{"C:\\Mine Tools"};
+  std::string file = files.TemporaryFolder() + "\\north \xC3\xA4 section.orbt";
+  std::string opened = file + ".opened";
+};
+
+TEST_F(UserType, AFileIsOpenedByTheProgramOfItsType) {
+  AddProgram(".orbt");
+  files.ReplaceFile(file, "plan");
+
+  EXPECT_TRUE(OpenOnDesktop(file));
+  EXPECT_TRUE(IsOpened());
+}
+
+TEST_F(UserType, AFileWithoutAProgramIsNotOpened) {
+  files.ReplaceFile(file, "plan");
+
+  EXPECT_FALSE(OpenOnDesktop(file));
+}
+
+TEST_F(UserType, AMissingFileIsNotOpened) { EXPECT_FALSE(OpenOnDesktop("C:\\none\\missing.orbt")); }
+
+TEST_F(UserType, ASpreadsheetNeedsAProgram) {
+  EXPECT_FALSE(OpensSpreadsheets());
+
+  AddProgram(".xlsx");
+
+  EXPECT_TRUE(OpensSpreadsheets());
+}
+
+}  // namespace
+}  // namespace orby::test
