@@ -51,15 +51,18 @@ build_windows_libraries() {
     cmake --install "$windows/libraries-build"
 }
 
-# Where the toolkit's tools of this machine are; where the toolkit for Windows is.
-host_tools=(-DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR="$(dirname /usr/lib/*/cmake/Qt6HostInfo)")
-toolkit_options=(-DCMAKE_PREFIX_PATH="$toolkit;$windows/libraries"
-  -DCMAKE_FIND_ROOT_PATH="$toolkit;$windows/libraries;/usr/x86_64-w64-mingw32"
-  "${host_tools[@]}")
+# Sets host_tools to where the toolkit's tools of this machine are, and toolkit_options to where the toolkit for Windows
+# is, too. The tools may have been installed just now.
+find_toolkit() {
+  host_tools=(-DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR="$(dirname /usr/lib/*/cmake/Qt6HostInfo)")
+  toolkit_options=(-DCMAKE_PREFIX_PATH="$toolkit;$windows/libraries"
+    -DCMAKE_FIND_ROOT_PATH="$toolkit;$windows/libraries;/usr/x86_64-w64-mingw32" "${host_tools[@]}")
+}
 
 # The window toolkit and the charts, built once, in about an hour. The toolkit knows its folder, so that one has the same
 # name everywhere.
 build_windows_toolkit() {
+  find_toolkit
   [ -e "$toolkit/lib/libQCustomPlotQt6.a" ] && return 0
   fetch_source qt6-base && fetch_source qcustomplot || return
   cross_compile "$windows/sources/qt6-base" "$windows/toolkit-build" /qt "${host_tools[@]}" -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF \
