@@ -1,4 +1,4 @@
-// Paints every window of the program, in both unit systems, light and dark:
+// Paints every window of the program, in both unit systems, light and dark, and its icon:
 //
 //   portraits folder [size of the text in points]
 //
@@ -51,6 +51,7 @@
 #include "qt/help_window.h"
 #include "qt/main_view.h"
 #include "qt/message_boxes.h"
+#include "qt/pictures.h"
 #include "reports/calculation_report.h"
 #include "reports/input_echo.h"
 #include "shell/main_window.h"
@@ -377,8 +378,16 @@ class Sitting {
   std::unique_ptr<MainWindow> window_;
 };
 
+// Paints the program's icon in the sizes of an .ico file.
+void PaintIcons(const QString& folder) {
+  for (const int size : {16, 24, 32, 48, 64, 256}) {
+    ThemedIcon("orby").pixmap(size).save(QDir(folder).filePath(QString("icon-%1.png").arg(size)));
+  }
+}
+
 int TakePortraits(const QString& folder) {
   QDir().mkpath(folder);
+  PaintIcons(folder);
   const QPalette light = QApplication::palette();
   for (const bool dark : {false, true}) {
     QApplication::setPalette(dark ? DarkPalette() : light);
