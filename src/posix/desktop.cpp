@@ -27,6 +27,7 @@ using Status = std::future<int>;
 // cannot be started ends with 127. Its output goes to the open file.
 Status StartTool(std::vector<std::string> words, int output) {
   std::vector<char*> arguments;
+  arguments.reserve(words.size() + 1);
   for (std::string& word : words) arguments.push_back(word.data());
   arguments.push_back(nullptr);
 

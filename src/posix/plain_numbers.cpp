@@ -11,7 +11,7 @@ struct PlainNumbers::Locale {
 
 PlainNumbers::PlainNumbers() {
   locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
-  locale_ = std::make_unique<Locale>(plain, uselocale(plain));
+  locale_ = std::make_unique<Locale>(Locale{plain, uselocale(plain)});
 }
 
 PlainNumbers::~PlainNumbers() {

@@ -62,6 +62,7 @@ QBrush BrushOf(const SceneFill& fill, const QColor& text) {
 void PaintLabel(QPainter& painter, const SceneLabel& label) {
   const QString text = ToQt(label.Text);
   QFont font("sans-serif");
+  font.setStyleHint(QFont::SansSerif);  // where no font has this name
   font.setPixelSize(static_cast<int>(label.Size));
   font.setBold(label.IsBold);
   const double width = QFontMetricsF(font).horizontalAdvance(text);

@@ -35,6 +35,10 @@ TEST_F(Project, HasNoCircularIncludes) { EXPECT_THAT(Circles(*tree), IsEmpty());
 
 TEST_F(Project, UsesTheToolkitOnlyInItsRoomAndInThePrograms) { EXPECT_THAT(ToolkitOutside(*tree), IsEmpty()); }
 
+TEST_F(Project, KnowsItsMachineOnlyInTheMachinesRoomsAndInThePrograms) {
+  EXPECT_THAT(ConditionsOutside(*tree), IsEmpty());
+}
+
 TEST_F(Project, HasAFolderOfTestsForEachRoom) { EXPECT_THAT(UnmirroredRooms(*tree), IsEmpty()); }
 
 TEST_F(Project, HasNoMarksOfOpenWorkAndNoDisabledTests) { EXPECT_THAT(StrayWords(*tree), IsEmpty()); }

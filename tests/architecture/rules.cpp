@@ -4,7 +4,9 @@
 #include <array>
 #include <map>
 #include <optional>
+#include <regex>
 #include <set>
+#include <sstream>
 #include <string_view>
 
 namespace orby::test {
@@ -185,6 +187,21 @@ std::vector<std::string> ToolkitOutside(const Tree& tree) {
       if (!include.target.empty() && Lower(include.target.front()) == 'q' && FolderOf(include.target) != "qt") {
         wrong.push_back(Place(file.path, include.line) + include.target);
       }
+    }
+  }
+  return wrong;
+}
+
+std::vector<std::string> ConditionsOutside(const Tree& tree) {
+  const std::array<std::string, 3> allowed{"apps", "posix", "windows"};
+  const std::regex condition("^[ \t]*#[ \t]*if.*");
+  std::vector<std::string> wrong;
+  for (const auto& file : tree) {
+    if (!IsSource(file) || std::ranges::count(allowed, FolderOf(BelowSrc(file))) > 0) continue;
+    std::istringstream lines(file.text);
+    std::string text;
+    for (long line = 1; std::getline(lines, text); ++line) {
+      if (std::regex_match(text, condition)) wrong.push_back(Place(file.path, line) + text);
     }
   }
   return wrong;

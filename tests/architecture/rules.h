@@ -18,6 +18,9 @@ std::vector<std::string> Circles(const Tree& tree);
 // Headers of the window toolkit outside src/qt and src/apps.
 std::vector<std::string> ToolkitOutside(const Tree& tree);
 
+// Conditional compilation in src/ outside the rooms of the machines and the programs.
+std::vector<std::string> ConditionsOutside(const Tree& tree);
+
 // Rooms without a folder of tests, and folders of tests without a room.
 std::vector<std::string> UnmirroredRooms(const Tree& tree);
 

@@ -110,6 +110,22 @@ TEST(ToolkitRule, ForbidsAllOtherRoomsAndAllSpellings) {
                                                 "src/shell/menu.cpp:1: qmenu.h", "src/base/text.h:1: qcustomplot.h"));
 }
 
+TEST(ConditionRule, FindsConditionalCompilation) {
+  const Tree tree = {{"src/files/save.cpp", "int a;\n#ifdef _WIN32\n#endif\n"},
+                     {"src/qt/texts.h", "# if defined(x)\n#endif\n"},
+                     {"src/base/text.h", "#include <ifdef>\n#pragma once\n"}};
+
+  EXPECT_THAT(ConditionsOutside(tree),
+              ElementsAre("src/files/save.cpp:2: #ifdef _WIN32", "src/qt/texts.h:1: # if defined(x)"));
+}
+
+TEST(ConditionRule, AllowsItWhereTheMachineIsKnown) {
+  const Tree tree = {
+      {"src/windows/a.cpp", "#ifdef a\n"}, {"src/posix/a.cpp", "#if b\n"}, {"src/apps/orby/main.cpp", "#if c\n"}};
+
+  EXPECT_THAT(ConditionsOutside(tree), IsEmpty());
+}
+
 TEST(TestFolderRule, AllowsARoomWithTestsOfItsName) {
   const Tree tree = {{"src/base/text.h", ""}, {"tests/base/text_test.cpp", ""}};
 
