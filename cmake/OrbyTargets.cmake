@@ -62,7 +62,7 @@ set(ORBY_TEST_OPTIONS $<$<CONFIG:Debug>:-g1>)
 # programs of this machine, or functions of POSIX.
 function(leave_out_tests_of_this_machine list)
   foreach(source ${${list}})
-    file(STRINGS ${source} uses REGEX "#include [<\"](rapidcheck|support/number_texts|any_single|unistd|fcntl|sys/)|popen|create_symlink|sheet_bench")
+    file(STRINGS ${source} uses REGEX "#include [<\"](rapidcheck|support/number_texts|any_single|unistd|fcntl|sys/)|popen|create_symlink|sheet_bench|xdg-")
     if(uses)
       list(REMOVE_ITEM ${list} ${source})
     endif()

@@ -1,11 +1,8 @@
 // Runs one task on the desktop. The tasks "empty-..." do the same with the toolkit alone, for comparison:
 //
-//   empty-start   a window without anything in it, until it is painted
-//   start         the program, until its window is painted
+//   empty-start, start, empty-browser, help   see starts.h
 //   empty-key     a key in a line of an empty dialog, until it is painted
 //   key           the same key in the depth of cover, until it and all outputs are painted
-//   empty-browser a window with an empty page view, until it is painted
-//   help          the help of the folder "help", until its first page is painted
 //   browse        the file browser until it shows a file of 50 MB; prints the growth of the peak of memory in kB,
 //                 the size of the file in kB, and the longest time between two events in milliseconds
 //   dialogs       prints the growth of memory, in bytes, over 450 openings of each dialog after the first 50
@@ -20,10 +17,8 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QMainWindow>
 #include <QProgressBar>
 #include <QTemporaryDir>
-#include <QTextBrowser>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <cstdio>
@@ -33,6 +28,7 @@
 #include <map>
 #include <string>
 
+#include "desktop/starts.h"
 #include "dialogs/cost_dialog.h"
 #include "dialogs/description_dialog.h"
 #include "dialogs/estimator_dialog.h"
@@ -42,78 +38,11 @@
 #include "dialogs/preview_window.h"
 #include "dialogs/results_window.h"
 #include "dialogs/text_browser.h"
-#include "platform/no_desktop.h"
-#include "machine/disk_files.h"
-#include "qt/boundary.h"
-#include "qt/desktop.h"
-#include "qt/help_viewer.h"
-#include "qt/main_view.h"
-#include "shell/main_window.h"
 #include "shell/start_up.h"
 
 namespace {
 
 using namespace orby;
-
-// Ends the program after the window has been painted.
-class EndAfterPaint : public QObject {
- public:
-  explicit EndAfterPaint(QWidget& window) { window.installEventFilter(this); }
-
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() == QEvent::Paint) QTimer::singleShot(0, qApp, &QCoreApplication::quit);
-    return QObject::eventFilter(watched, event);
-  }
-};
-
-struct Run {
-  Run() {
-    SetErrorHandler([](const RuntimeError& error) {
-      std::fputs(error.what(), stderr);
-      std::_Exit(EXIT_FAILURE);
-    });
-  }
-
-  DiskFiles files{"."};
-  NoFileTypes fileTypes;
-  Desktop desktop{files, fileTypes};
-  Program program{desktop.AsPlatform()};
-};
-
-int EmptyStart() {
-  QMainWindow window;
-  const EndAfterPaint end(window);
-  window.show();
-  return QApplication::exec();
-}
-
-int Start() {
-  Run run;
-  StartProgram(run.program);
-  run.program.session.settings.ShowDisclaim = 0;  // there is no user to accept it
-  MainWindow window(run.program);
-  window.Open();
-  run.desktop.windows.ShowMain(window, false);
-  AddIconsAndShortcuts(run.desktop.windows.Main(), window);
-  const EndAfterPaint end(run.desktop.windows.Main());
-  return QApplication::exec();
-}
-
-int EmptyBrowser() {
-  QMainWindow window;
-  auto* page = new QTextBrowser(&window);
-  window.setCentralWidget(page);
-  const EndAfterPaint end(*page->viewport());
-  window.show();
-  return QApplication::exec();
-}
-
-int Help() {
-  QtHelpViewer viewer;
-  if (!viewer.ShowContents("help/ORBY.CHM")) return EXIT_FAILURE;
-  const EndAfterPaint end(*viewer.Window()->Browser().viewport());
-  return QApplication::exec();
-}
 
 void Paint() {
   QCoreApplication::sendPostedEvents();
@@ -263,18 +192,18 @@ int Dialogs() {
 }
 
 const std::map<std::string, int (*)()> Things{
-    {"empty-start", EmptyStart},     {"start", Start}, {"empty-key", EmptyKey}, {"key", Key},
-    {"empty-browser", EmptyBrowser}, {"help", Help},   {"browse", Browse},      {"dialogs", Dialogs}};
+    {"empty-key", EmptyKey}, {"key", Key}, {"browse", Browse}, {"dialogs", Dialogs}};
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  const auto found = argc == 2 ? Things.find(argv[1]) : Things.end();
-  if (found == Things.end()) {
+  const std::string name = argc == 2 ? argv[1] : "";
+  const auto found = Things.find(name);
+  if (found == Things.end() && !IsStart(name)) {
     std::fputs("usage: orby-desktop-bench empty-start|start|empty-key|key|empty-browser|help|browse|dialogs\n", stderr);
     return EXIT_FAILURE;
   }
   const QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
-  return found->second();
+  return found == Things.end() ? RunStart(name) : found->second();
 }
