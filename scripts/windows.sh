@@ -74,7 +74,7 @@ build_windows_toolkit() {
     -DFEATURE_system_doubleconversion=OFF || return
   DESTDIR="$windows/toolkit" cmake --install "$windows/toolkit-build" || return
   cross_compile "$top/windows/plot" "$windows/plot-build" "$toolkit" "${toolkit_options[@]}" &&
-    cmake --install "$windows/plot-build"
+    cmake --install "$windows/plot-build" && rm -rf "$windows/toolkit-build" "$windows/plot-build"
 }
 
 # in_wine COMMAND...: with a Windows of its own, which shows nothing and logs nothing.
