@@ -1,7 +1,7 @@
 ; The installer: for one user, without administrator rights. "/S" is quiet; "/D=FOLDER" chooses the folder.
 ; Wants VERSION ("1.0.00") and NUMBERS ("1.0.0.0"), ROOT (the installed tree), OUT, and REMOVALS (what removes the files
 ; of the tree).
-Unicode true
+Target amd64-unicode
 ManifestDPIAware true
 RequestExecutionLevel user
 SetCompressor /SOLID lzma
@@ -9,7 +9,6 @@ SetDateSave on
 
 !include MUI2.nsh
 !include FileFunc.nsh
-!include x64.nsh
 
 !define TITLE "Orby Roof Support Workbench"
 !define CLASSES "Software\Classes"
@@ -76,14 +75,6 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
     ${EndIf}
   ${Loop}
 !macroend
-
-Function .onInit
-  ${IfNot} ${RunningX64}
-    MessageBox MB_OK|MB_ICONSTOP "${TITLE} needs a 64-bit Windows." /SD IDOK
-    SetErrorLevel 2
-    Quit
-  ${EndIf}
-FunctionEnd
 
 Section "The program" Program
   SectionIn RO

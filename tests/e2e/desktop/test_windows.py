@@ -6,6 +6,7 @@ Wine's windows have no accessibility tree here: the test presses keys and looks 
 import glob
 import os
 import re
+import shlex
 import shutil
 import signal
 import subprocess
@@ -17,17 +18,38 @@ WINE = os.environ["WINE"]
 WINE_SERVER = os.environ["WINE_SERVER"]
 SETUP = os.environ["ORBY_SETUP"]
 
+# Families that every Windows has, and those of the same widths that stand in for them here.
+FONTS = {"Arial": "Liberation Sans", "Courier New": "Liberation Mono", "Segoe UI": "Liberation Sans",
+         "Tahoma": "Liberation Sans", "MS Shell Dlg 2": "Liberation Sans", "MS Shell Dlg": "Liberation Sans"}
+
+NOT_OURS = (r"\Software\Wine", r"\Explorer", r"\Software\QtProject")
+
 LONGEST = 300  # seconds that an installation may take on a loaded machine
 ORB_COMMAND = "ORB_File\\shell\\open\\command"
 
 
 def in_front(title):
-    """Waits for the active window with this title, which may be a pattern."""
-    until(lambda: re.fullmatch(title, front_window()), f"window {title!r} in front, it is {front_window()!r}")
+    """Waits for the active window with this title, which may be a pattern.
+
+    The window manager does not always activate the window behind a dialog of Windows itself. Then it is asked to.
+    """
+    def is_in_front():
+        front = front_window()
+        if not front:
+            subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$", "windowactivate"],
+                           capture_output=True)
+        return re.fullmatch(title, front)
+
+    until(is_in_front, f"window {title!r} in front")
 
 
 def type_over(text):
-    xdotool("key", "ctrl+a", "type", "--delay", "5", text)
+    press_keys("Home", "shift+End")
+    xdotool("type", "--delay", "5", text)
+
+
+def windows_path(path):
+    return "Z:" + path.replace("/", "\\")
 
 
 def words_of(pdf):
@@ -45,6 +67,8 @@ class WindowsProgram(unittest.TestCase):
         cls.drive = os.path.join(cls.home, "wine", "drive_c")
         os.environ["WINEPREFIX"] = os.path.join(cls.home, "wine")
         cls.wine("wineboot", "--init")
+        for family, present in FONTS.items():
+            cls.wine("reg", "add", r"HKCU\Software\Wine\Fonts\Replacements", "/v", family, "/d", present, "/f")
         cls.addClassCleanup(subprocess.run, [WINE_SERVER, "-k"])
 
     @staticmethod
@@ -54,12 +78,15 @@ class WindowsProgram(unittest.TestCase):
         return answer.stdout.decode("utf-8", "replace").replace("\r\n", "\n")
 
     def registry(self):
-        """Returns the user's entries as texts: "key\\name = value". Leaves out what Windows itself keeps on programs."""
+        """Returns the user's entries as texts: key, name, type and value.
+
+        Leaves out what Windows keeps on programs, and the toolkit on its file dialogs for all programs that use it.
+        """
         entries, key = set(), ""
         for line in self.wine("reg", "query", r"HKCU\Software", "/s").splitlines():
             if line.startswith("HKEY"):
                 key = line
-            elif line.strip() and r"\Software\Wine" not in key and r"\Explorer" not in key:
+            elif line.strip() and not any(part in key for part in NOT_OURS):
                 entries.add(key + "\\" + re.sub(" {2,}", " ", line.strip()))
         return entries
 
@@ -110,7 +137,8 @@ class WindowsProgram(unittest.TestCase):
     def start_from_the_menu(self):
         (link,) = glob.glob(os.path.join(self.drive, "users", "*", "AppData", "Roaming", "Microsoft", "Windows",
                                          "Start Menu", "Programs", TITLE + ".lnk"))
-        self.wine("start", "/unix", link)
+        subprocess.run([WINE, "start", "/unix", link], check=True, timeout=LONGEST, stdout=subprocess.DEVNULL,
+                       stderr=subprocess.DEVNULL)
         self.accept_disclaimer()
         in_front(TITLE + ".*")
         take_picture("windows-main")
@@ -118,11 +146,15 @@ class WindowsProgram(unittest.TestCase):
         self.wait_for_end()
 
     def open_by_association(self):
-        """Opens a copy of an example as a double click would, and returns its path."""
+        """Opens a copy of an example by the command of its type, and returns its path.
+
+        Wine's own shell does not look at the types of a user.
+        """
         design = os.path.join(self.home, "Panel \u00e4 \u0416.ORB")
         shutil.copy(os.path.join(EXAMPLES, "development-entry.ORB"), design)
-        self.wine("start", "/unix", design)
-        self.accept_disclaimer()
+        (command,) = [entry.partition("REG_SZ ")[2] for entry in self.registry() if ORB_COMMAND in entry]
+        program, argument = shlex.split(command.replace("\\", "\\\\"))
+        self.start(program, argument.replace("%1", windows_path(design)))
         in_front("Parameters")
         take_picture("windows-parameters")
         return design
@@ -155,14 +187,15 @@ class WindowsProgram(unittest.TestCase):
         pdf = os.path.join(self.home, "plan.pdf")
         press_keys("alt+a")
         in_front("Print to File")
-        type_over("Z:" + pdf.replace("/", "\\"))
+        type_over(windows_path(pdf))
+        take_picture("windows-print")
         press_keys("Return")
         words = until(lambda: os.path.exists(pdf) and words_of(pdf), "the PDF file")
         self.assertIn("PSUP", words)
         in_front("Calculation Results")
 
     def come_back_after_a_kill(self, design):
-        program = self.start(design)
+        program = self.start(self.installed("orby.exe"), windows_path(design))
         in_front("Parameters")
         press_keys("alt+d")
         type_over("777")
@@ -171,7 +204,7 @@ class WindowsProgram(unittest.TestCase):
         program.send_signal(signal.SIGKILL)
         program.wait()
         self.wait_for_end()
-        self.start()
+        self.start(self.installed("orby.exe"))
         in_front(TITLE)
         take_picture("windows-recovery")
         press_keys("y")
@@ -187,9 +220,9 @@ class WindowsProgram(unittest.TestCase):
         press_keys("n")
         self.wait_for_end()
 
-    def start(self, *files):
-        """Starts the installed program itself, whose process can be killed."""
-        program = subprocess.Popen([WINE, self.installed("orby.exe"), *("Z:" + file for file in files)])
+    def start(self, *words):
+        """Starts the program and returns its process. Accepts the disclaimer."""
+        program = subprocess.Popen([WINE, *words])
         self.addCleanup(program.wait)
         self.addCleanup(program.kill)
         self.accept_disclaimer()
@@ -199,12 +232,15 @@ class WindowsProgram(unittest.TestCase):
         return glob.glob(os.path.join(self.drive, "users", "*", "Documents", "MyStrataDesk", "ORBY", "Temp", "~recover?.tmp"))
 
     def remove(self, before, design):
+        """Removes the program as Windows does, with a project of the user beside the examples."""
         folder = self.installed()
         kept = os.path.join(folder, "examples", "my panel.ORB")
         shutil.copy(design, kept)
-        self.wine(os.path.join(folder, "uninstall.exe"), "/S", "_?=" + "Z:" + folder.replace("/", "\\"))
+        (command,) = [entry.partition("REG_SZ ")[2] for entry in self.registry() if "QuietUninstallString" in entry]
+        self.wine(*shlex.split(command.replace("\\", "\\\\")))
+        self.wait_for_end()
         left = [os.path.join(place, name) for place, _, names in os.walk(folder) for name in names]
-        self.assertEqual([os.path.basename(name) for name in left if not name.endswith("uninstall.exe")], ["my panel.ORB"])
+        self.assertEqual(left, [kept])
         self.assertEqual(self.registry() - before, set())
         self.assertTrue(os.path.exists(design))
 
