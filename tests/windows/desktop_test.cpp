@@ -15,17 +15,17 @@ constexpr DWORD BetweenLooks = 20;  // milliseconds
 constexpr int MostLooks = 1000;
 
 void SetClass(const std::string& key, const std::string& value) {
-  const std::wstring path = WideText("Software\\Classes\\" + key);
+  const std::wstring path = WideText(key);
   const std::wstring text = WideText(value);
-  RegSetKeyValueW(HKEY_CURRENT_USER, path.c_str(), nullptr, REG_SZ, text.c_str(),
+  RegSetKeyValueW(HKEY_CLASSES_ROOT, path.c_str(), nullptr, REG_SZ, text.c_str(),
                   static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
 }
 
-// A type of file of the user, and a file of this type.
-struct UserType : testing::Test {
-  ~UserType() override {
-    for (const wchar_t* key : {L"Software\\Classes\\.orbt", L"Software\\Classes\\.xlsx", L"Software\\Classes\\Orbt"}) {
-      RegDeleteTreeW(HKEY_CURRENT_USER, key);
+// A type of file, and a file of this type.
+struct TypeOfFile : testing::Test {
+  ~TypeOfFile() override {
+    for (const wchar_t* key : {L".orbt", L".xlsx", L"Orbt"}) {
+      RegDeleteTreeW(HKEY_CLASSES_ROOT, key);
     }
     for (const std::string& name : {file, opened}) DeleteFileW(WidePath(name).c_str());
   }
@@ -46,7 +46,7 @@ struct UserType : testing::Test {
   std::string opened = file + ".opened";
 };
 
-TEST_F(UserType, AFileIsOpenedByTheProgramOfItsType) {
+TEST_F(TypeOfFile, AFileIsOpenedByTheProgramOfItsType) {
   AddProgram(".orbt");
   files.ReplaceFile(file, "plan");
 
@@ -54,15 +54,15 @@ TEST_F(UserType, AFileIsOpenedByTheProgramOfItsType) {
   EXPECT_TRUE(IsOpened());
 }
 
-TEST_F(UserType, AFileWithoutAProgramIsNotOpened) {
+TEST_F(TypeOfFile, AFileWithoutAProgramIsNotOpened) {
   files.ReplaceFile(file, "plan");
 
   EXPECT_FALSE(OpenOnDesktop(file));
 }
 
-TEST_F(UserType, AMissingFileIsNotOpened) { EXPECT_FALSE(OpenOnDesktop("C:\\none\\missing.orbt")); }
+TEST_F(TypeOfFile, AMissingFileIsNotOpened) { EXPECT_FALSE(OpenOnDesktop("C:\\none\\missing.orbt")); }
 
-TEST_F(UserType, ASpreadsheetNeedsAProgram) {
+TEST_F(TypeOfFile, ASpreadsheetNeedsAProgram) {
   EXPECT_FALSE(OpensSpreadsheets());
 
   AddProgram(".xlsx");
