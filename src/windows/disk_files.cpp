@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/attempt.h"
 #include "base/paths.h"
 #include "base/runtime_error.h"
+#include "windows/file_attributes.h"
 #include "windows/file_errors.h"
 #include "windows/file_handle.h"
 #include "windows/in_place_file.h"
@@ -54,21 +56,25 @@ class DiskFileMark : public FileMark {
   FileHandle file_;
 };
 
-bool IsFolder(DWORD attributes) { return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0; }
-
-// Calls `act` for each file and folder in the folder. Returns false when the folder cannot be read.
+// Calls `act` for each file and folder in the folder.
 template <class Act>
-bool ForEachIn(const std::string& folder, const Act& act) {
+void ForEachIn(const std::string& folder, const Act& act) {
   WIN32_FIND_DATAW found{};
   const std::wstring path = WidePath(folder);
-  HANDLE search = FindFirstFileW((path + (EndsInSeparator(folder) ? L"*" : L"\\*")).c_str(), &found);
-  if (search == INVALID_HANDLE_VALUE) return false;
+  HANDLE first = FindFirstFileW((path + (EndsInSeparator(folder) ? L"*" : L"\\*")).c_str(), &found);
+  if (first == INVALID_HANDLE_VALUE) {
+    const DWORD problem = GetLastError();
+    const DWORD attributes = AttributesOf(folder);
+    if (Exists(attributes) && !IsFolder(attributes)) throw RuntimeError(error_number::PathNotFound);
+    // An empty disk has no entries at all.
+    if (Exists(attributes) && problem == ERROR_FILE_NOT_FOUND) return;
+    throw FileError(problem, WithSeparator(folder));
+  }
+  const std::unique_ptr<void, decltype(&FindClose)> search(first, FindClose);
   do {
     const std::string name = Utf8Text(found.cFileName);
     if (name != "." && name != "..") act(name, found.dwFileAttributes);
-  } while (FindNextFileW(search, &found) != 0);
-  FindClose(search);
-  return true;
+  } while (FindNextFileW(search.get(), &found) != 0);
 }
 
 // Makes the folder and those above it. `permissions` are those of the last one.
@@ -83,9 +89,8 @@ void MakeFolders(const std::string& path, SECURITY_ATTRIBUTES* permissions) {
     if (CreateDirectoryW(wide.c_str(), permissions) != 0) return;
   }
   const DWORD problem = GetLastError();
-  const DWORD attributes = GetFileAttributesW(wide.c_str());
-  if (attributes != INVALID_FILE_ATTRIBUTES && IsFolder(attributes)) return;
-  throw problem == ERROR_ALREADY_EXISTS ? RuntimeError(error_number::PathFileAccess) : FileError(problem, path);
+  if (IsFolder(AttributesOf(folder))) return;
+  throw problem == ERROR_ALREADY_EXISTS ? RuntimeError(error_number::PathNotFound) : FileError(problem, path);
 }
 
 }  // namespace
@@ -94,8 +99,10 @@ DiskFiles::DiskFiles(std::string programFolder) : programFolder_(std::move(progr
 
 Found DiskFiles::Find(const std::string& path) {
   if (path.empty()) return Found::Nothing;
-  const DWORD attributes = GetFileAttributesW(WidePath(path).c_str());
-  if (attributes != INVALID_FILE_ATTRIBUTES) return IsFolder(attributes) ? Found::Folder : Found::File;
+  const DWORD attributes = AttributesOf(path);
+  if (IsFolder(attributes)) return Found::Folder;
+  // Only a folder has a separator at its end.
+  if (Exists(attributes)) return EndsInSeparator(path) ? Found::Nothing : Found::File;
   switch (GetLastError()) {
     // The path has a folder that may not be entered, which is error 75 and not error 70 of a file that may not be used.
     case ERROR_ACCESS_DENIED: throw RuntimeError(error_number::PathFileAccess);
@@ -109,7 +116,7 @@ Found DiskFiles::Find(const std::string& path) {
 std::string DiskFiles::ReadFile(const std::string& path) {
   FileHandle file(path, Opening::ToRead);
   std::string bytes;
-  // The length is only a guess: a pipe has none, and a file may grow while it is read.
+  // The file may grow while it is read.
   bytes.reserve(file.Length());
   for (std::string piece; !(piece = file.Read(PieceSize)).empty();) bytes += piece;
   return bytes;
@@ -151,13 +158,10 @@ void DiskFiles::RemoveFile(const std::string& path) {
 }
 
 void DiskFiles::RenameFile(const std::string& path, const std::string& newPath) {
-  const std::wstring from = WidePath(path);
-  if (MoveFileExW(from.c_str(), WidePath(newPath).c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0) {
-    return;
-  }
+  constexpr DWORD InOneStep = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+  if (MoveFileExW(WidePath(path).c_str(), WidePath(newPath).c_str(), InOneStep) != 0) return;
   const DWORD problem = GetLastError();
-  const bool isThere = GetFileAttributesW(from.c_str()) != INVALID_FILE_ATTRIBUTES;
-  throw FileError(problem, isThere ? newPath : path);
+  throw FileError(problem, Exists(AttributesOf(path)) ? newPath : path);
 }
 
 void DiskFiles::ReplaceFile(const std::string& path, std::string_view bytes) { ReplaceFileOnDisk(path, bytes); }
@@ -180,7 +184,9 @@ void DiskFiles::MakePrivateFolder(const std::string& path) {
   MakeFolders(path, &permissions);
 }
 
+// Only an attempt shows whether files can be made: the attributes of a folder say nothing about it.
 bool DiskFiles::CanWriteTo(const std::string& folder) {
+  if (!Succeeds([&] { static_cast<void>(WidePath(folder)); })) return false;
   const std::string path = WithSeparator(folder) + ".orby-" + std::to_string(GetCurrentProcessId());
   HANDLE file = CreateFileW(WidePath(path).c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
                             FILE_FLAG_DELETE_ON_CLOSE, nullptr);
@@ -191,8 +197,10 @@ bool DiskFiles::CanWriteTo(const std::string& folder) {
 
 std::vector<std::string> DiskFiles::FilesIn(const std::string& folder) {
   std::vector<std::string> files;
-  ForEachIn(folder, [&](const std::string& name, DWORD attributes) {
-    if (!IsFolder(attributes)) files.push_back(WithSeparator(folder) + name);
+  Succeeds([&] {
+    ForEachIn(folder, [&](const std::string& name, DWORD attributes) {
+      if (!IsFolder(attributes)) files.push_back(WithSeparator(folder) + name);
+    });
   });
   std::ranges::sort(files);
   return files;
@@ -200,14 +208,10 @@ std::vector<std::string> DiskFiles::FilesIn(const std::string& folder) {
 
 std::vector<std::string> DiskFiles::FoldersIn(const std::string& folder) {
   std::vector<std::string> folders;
-  const bool isRead = ForEachIn(folder, [&](const std::string& name, DWORD attributes) {
+  ForEachIn(folder, [&](const std::string& name, DWORD attributes) {
     const bool isHidden = name.starts_with('.') || (attributes & FILE_ATTRIBUTE_HIDDEN) != 0;
     if (IsFolder(attributes) && !isHidden) folders.push_back(name);
   });
-  if (!isRead) {
-    const DWORD problem = GetLastError();
-    throw problem == ERROR_FILE_NOT_FOUND ? RuntimeError(error_number::PathNotFound) : FileError(problem, folder);
-  }
   std::ranges::sort(folders);
   return folders;
 }
@@ -222,16 +226,14 @@ std::vector<std::string> DiskFiles::Drives() {
 }
 
 void DiskFiles::SetWorkingFolder(const std::string& path) {
-  if (SetCurrentDirectoryW(WidePath(path).c_str()) != 0) return;
-  const DWORD problem = GetLastError();
-  throw problem == ERROR_FILE_NOT_FOUND ? RuntimeError(error_number::PathNotFound) : FileError(problem, path);
+  if (SetCurrentDirectoryW(WidePath(path).c_str()) == 0) throw LastFileError(WithSeparator(path));
 }
 
+// A name that names no file stays, and is refused when the path is used. The system would make another name of it.
 std::string DiskFiles::AbsolutePath(const std::string& path) {
-  std::wstring full(32'768, L'\0');
-  const DWORD length = GetFullPathNameW(WideText(path).c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
-  full.resize(length < full.size() ? length : 0);
-  return full.empty() ? path : Utf8Text(full);
+  const bool isUsable = Succeeds([&] { static_cast<void>(WidePath(path)); });
+  const std::string start = isUsable ? path : FolderOf(path);
+  return start.empty() ? path : Utf8Text(FullPath(WideText(start))) + path.substr(start.size());
 }
 
 std::unique_ptr<FileMark> DiskFiles::TryMark(const std::string& path) {
@@ -244,10 +246,13 @@ std::unique_ptr<FileMark> DiskFiles::TryMark(const std::string& path) {
 }
 
 std::string DiskFiles::TemporaryFolder() {
-  std::wstring folder(MAX_PATH + 1, L'\0');
-  folder.resize(GetTempPathW(static_cast<DWORD>(folder.size()), folder.data()));
-  if (folder.empty()) throw RuntimeError(error_number::PathNotFound);
-  return Utf8Text(folder);
+  std::wstring text(MAX_PATH + 1, L'\0');
+  const DWORD length = GetTempPathW(static_cast<DWORD>(text.size()), text.data());
+  text.resize(length < text.size() ? length : 0);
+  const std::string folder = Utf8Text(text);
+  // The system does not look whether there is such a folder.
+  if (Find(folder) != Found::Folder) throw RuntimeError(error_number::PathNotFound);
+  return folder;
 }
 
 std::string DiskFiles::ProgramFolder() { return programFolder_; }

@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-#include "base/paths.h"
 #include "base/runtime_error.h"
+#include "windows/file_attributes.h"
 #include "windows/file_errors.h"
 #include "windows/file_handle.h"
 #include "windows/system.h"
@@ -39,7 +39,7 @@ class InPlaceFile : public OutputFile {
   void FindRoom(const std::string& path, std::uint64_t length) const {
     const std::uint64_t held = file_.Length();
     if (length <= held) return;
-    const std::string folder = path.substr(0, path.size() - NameAfterSeparator(path).size());
+    const std::string folder = FolderOf(path);
     ULARGE_INTEGER room{};
     const std::wstring disk = folder.empty() ? L"." : WidePath(folder);
     if (GetDiskFreeSpaceExW(disk.c_str(), &room, nullptr, nullptr) == 0) return;
@@ -52,7 +52,7 @@ class InPlaceFile : public OutputFile {
 }  // namespace
 
 std::unique_ptr<OutputFile> OpenFileInPlace(const std::string& path, std::uint64_t length) {
-  const bool isNew = GetFileAttributesW(WidePath(path).c_str()) == INVALID_FILE_ATTRIBUTES;
+  const bool isNew = !Exists(AttributesOf(path));
   return std::make_unique<InPlaceFile>(path, length, isNew);
 }
 

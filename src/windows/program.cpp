@@ -19,6 +19,8 @@ namespace orby {
 void PrepareProgram() {
   _setmode(_fileno(stdout), _O_BINARY);
   _setmode(_fileno(stderr), _O_BINARY);
+  // A drive without a disk is an error like others. The system would stop the program with a box.
+  SetErrorMode(SEM_FAILCRITICALERRORS);
 }
 
 std::vector<std::string> ProgramArguments(int, char**) {
@@ -34,7 +36,7 @@ std::string ProgramFolder() {
   std::wstring path(32'768, L'\0');
   path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
   const std::string program = Utf8Text(path);
-  const std::string folder = program.substr(0, program.size() - NameAfterSeparator(program).size());
+  const std::string folder = FolderOf(program);
   return folder.empty() || IsRoot(folder) ? folder : std::string(WithoutSeparator(folder));
 }
 

@@ -1,4 +1,3 @@
-
 #include "base/paths.h"
 #include "base/text.h"
 #include "machine/file_types.h"

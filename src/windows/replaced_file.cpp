@@ -3,8 +3,9 @@
 #include <optional>
 #include <vector>
 
-#include "base/paths.h"
+#include "base/attempt.h"
 #include "base/runtime_error.h"
+#include "windows/file_attributes.h"
 #include "windows/file_errors.h"
 #include "windows/file_handle.h"
 #include "windows/system.h"
@@ -14,10 +15,6 @@ namespace orby {
 namespace {
 
 constexpr DWORD KeptAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
-
-DWORD AttributesOf(const std::string& path) { return GetFileAttributesW(WidePath(path).c_str()); }
-
-bool Exists(DWORD attributes) { return attributes != INVALID_FILE_ATTRIBUTES; }
 
 // Gives the permissions and attributes of the model to the file. A disk without permissions has none to give.
 void GiveLike(const std::string& path, const std::string& model) {
@@ -33,15 +30,23 @@ void GiveLike(const std::string& path, const std::string& model) {
   if (attributes != 0) SetFileAttributesW(to.c_str(), attributes);
 }
 
+// Returns the path as users know it, without the prefix of long paths.
+std::string WithoutPrefix(const std::string& path) {
+  constexpr std::string_view Prefix = R"(\\?\)";
+  constexpr std::string_view NetworkPrefix = R"(\\?\UNC\)";
+  if (path.starts_with(NetworkPrefix)) return R"(\\)" + path.substr(NetworkPrefix.size());
+  return path.starts_with(Prefix) ? path.substr(Prefix.size()) : path;
+}
+
 // A temporary file that replaces another one when it is complete. The destructor removes it if it has not.
 class Replacement {
  public:
   explicit Replacement(std::string path) : path_(std::move(path)) {
-    const std::string start = path_.substr(0, path_.size() - NameAfterSeparator(path_).size()) + ".orby-" +
-                              std::to_string(GetCurrentProcessId()) + "-";
+    const std::string start = FolderOf(path_) + ".orby-" + std::to_string(GetCurrentProcessId()) + "-";
     for (int number = 0; !file_; ++number) {
       beside_ = start + std::to_string(number);
-      if (!Exists(AttributesOf(beside_))) file_.emplace(beside_, FileHandle::Opening::ToMake);
+      const auto failure = FailureOf([this] { file_.emplace(beside_, FileHandle::Opening::ToMake); });
+      if (failure && !Exists(AttributesOf(beside_))) throw *failure;
     }
   }
   ~Replacement() {
@@ -83,7 +88,7 @@ std::string ResolvedLinks(const std::string& path) {
   const DWORD length = GetFinalPathNameByHandleW(file, target.data(), static_cast<DWORD>(target.size()), 0);
   CloseHandle(file);
   target.resize(length < target.size() ? length : 0);
-  return target.empty() ? path : Utf8Text(target);
+  return target.empty() ? path : WithoutPrefix(Utf8Text(target));
 }
 
 void MakeFileOnDiskLike(const std::string& path, const std::string& model) {
@@ -95,8 +100,9 @@ void MakeFileOnDiskLike(const std::string& path, const std::string& model) {
 void ReplaceFileOnDisk(const std::string& path, std::string_view bytes) {
   const DWORD attributes = AttributesOf(path);
   const bool replaces = Exists(attributes);
+  if (IsFolder(attributes)) throw FileError(ERROR_ACCESS_DENIED, path);
+  // The system itself would replace it only if it belonged to another user.
   if (replaces && (attributes & FILE_ATTRIBUTE_READONLY) != 0) throw FileError(ERROR_WRITE_PROTECT, path);
-  if (replaces && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) throw FileError(ERROR_ACCESS_DENIED, path);
   Replacement replacement(ResolvedLinks(path));
   replacement.Fill(bytes);
   replacement.TakeItsPlace(replaces);

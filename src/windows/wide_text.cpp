@@ -12,10 +12,14 @@ namespace orby {
 namespace {
 
 constexpr std::array<std::string_view, 6> Devices{"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$"};
+constexpr std::array<std::string_view, 3> RaisedDigits{"\xC2\xB9", "\xC2\xB2", "\xC2\xB3"};  // 1, 2 and 3
 
-// COM0 to COM9 and LPT0 to LPT9.
+// COM0 to COM9 and LPT0 to LPT9. Windows also takes a raised digit for the digit.
 bool IsNumberedPort(std::string_view name) {
-  return name.size() == 4 && (name.starts_with("COM") || name.starts_with("LPT")) && name[3] >= '0' && name[3] <= '9';
+  if (!name.starts_with("COM") && !name.starts_with("LPT")) return false;
+  const std::string_view number = name.substr(3);
+  const bool isDigit = number.size() == 1 && number[0] >= '0' && number[0] <= '9';
+  return isDigit || std::ranges::find(RaisedDigits, number) != RaisedDigits.end();
 }
 
 // A device keeps its name with any extension.
@@ -28,16 +32,16 @@ bool IsChangedByTheSystem(std::string_view name) {
   return name != "." && name != ".." && (name.ends_with('.') || name.ends_with(' '));
 }
 
-// Returns the path from the root of its disk.
-std::wstring FullPath(const std::wstring& path) {
-  std::wstring full(MAX_PATH, L'\0');
-  for (;;) {
-    const DWORD length = GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
-    if (length == 0) throw RuntimeError(error_number::BadFileName);
-    const bool fits = length < full.size();
-    full.resize(length);
-    if (fits) return full;
-  }
+// After a colon Windows reads the name of a stream, which is a second file that is hidden in the first one.
+bool NamesAFile(std::string_view name) {
+  constexpr std::size_t LongestName = 255;  // in UTF-16
+  const bool isUsable = !IsDevice(name) && !IsChangedByTheSystem(name) && name.find(':') == std::string_view::npos;
+  return isUsable && WideText(name).size() <= LongestName;
+}
+
+// Paths that start so lead to devices: disks without their files, pipes, ports.
+bool IsInTheSpaceOfDevices(std::string_view path) {
+  return path.size() >= 4 && IsSeparator(path[0]) && IsSeparator(path[1]) && path[2] == '.' && IsSeparator(path[3]);
 }
 
 }  // namespace
@@ -57,11 +61,32 @@ std::string Utf8Text(std::wstring_view text) {
   return utf8;
 }
 
+std::string_view WithoutFolder(std::string_view path) {
+  const std::string_view name = NameAfterSeparator(path);
+  const bool hasDrive = name.size() == path.size() && name.size() >= 2 && name[1] == ':';
+  return hasDrive ? name.substr(2) : name;
+}
+
+std::string FolderOf(std::string_view path) {
+  return std::string(path.substr(0, path.size() - WithoutFolder(path).size()));
+}
+
+std::wstring FullPath(const std::wstring& path) {
+  std::wstring full(MAX_PATH, L'\0');
+  for (;;) {
+    const DWORD length = GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
+    if (length == 0) throw RuntimeError(error_number::BadFileName);
+    const bool fits = length < full.size();
+    full.resize(length);
+    if (fits) return full;
+  }
+}
+
 std::wstring WidePath(const std::string& path) {
   // The functions that take a folder append to it, and 8.3 names need room too.
   constexpr std::size_t LongestPlain = MAX_PATH - 13;
-  const std::string_view name = NameAfterSeparator(WithoutSeparator(path));
-  if (path.empty() || path.find('\0') != std::string::npos || IsDevice(name) || IsChangedByTheSystem(name)) {
+  const std::string_view name = WithoutFolder(WithoutSeparator(path));
+  if (path.empty() || path.find('\0') != std::string::npos || IsInTheSpaceOfDevices(path) || !NamesAFile(name)) {
     throw RuntimeError(error_number::BadFileName);
   }
   std::wstring wide = WideText(path);

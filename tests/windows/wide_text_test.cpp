@@ -27,26 +27,52 @@ TEST(WidePath, ShortPathsStayAsTheyAre) {
 }
 
 TEST(WidePath, LongPathsGetThePrefixThatLiftsTheLimit) {
-  const std::string name(300, 'x');
+  const std::string path = std::string(150, 'f') + "\\" + std::string(150, 'n');
 
-  EXPECT_EQ(WidePath("C:\\Mine\\..\\" + name), L"\\\\?\\C:\\" + WideText(name));
-  EXPECT_EQ(WidePath("\\\\server\\plans\\" + name), L"\\\\?\\UNC\\server\\plans\\" + WideText(name));
+  EXPECT_EQ(WidePath("C:\\Mine\\..\\" + path), L"\\\\?\\C:\\" + WideText(path));
+  EXPECT_EQ(WidePath("\\\\server\\plans\\" + path), L"\\\\?\\UNC\\server\\plans\\" + WideText(path));
 }
 
 TEST(WidePath, NamesOfDevicesAreBadFileNames) {
-  for (const char* path : {"NUL", "C:\\Mine\\nul.orb", "COM1", "lpt9.ORB", "Mine/con", "aux .txt"}) {
+  for (const char* path : {"NUL", "C:\\Mine\\nul.orb", "COM1", "lpt9.ORB", "Mine/con", "aux .txt", "C:nul",
+                           "LPT\xC2\xB2.txt", "NUL:", "\\\\.\\C:", "//./pipe/plans"}) {
     EXPECT_EQ(ErrorOf(path), error_number::BadFileName) << path;
   }
 }
 
 TEST(WidePath, NamesThatOnlyResembleDevicesAreAccepted) {
-  for (const char* path : {"NULL.orb", "COM10", "C:\\CON2\\panel.orb", "LPT"}) EXPECT_EQ(ErrorOf(path), 0) << path;
+  for (const char* path : {"NULL.orb", "COM10", "C:\\CON2\\panel.orb", "LPT", "COM1a"})
+    EXPECT_EQ(ErrorOf(path), 0) << path;
 }
 
 TEST(WidePath, NamesThatWindowsWouldChangeAreBadFileNames) {
   EXPECT_EQ(ErrorOf("panel.orb."), error_number::BadFileName);
   EXPECT_EQ(ErrorOf("panel.orb "), error_number::BadFileName);
   EXPECT_EQ(ErrorOf(".."), 0);
+}
+
+TEST(WidePath, NamesWithAColonAreBadFileNames) {
+  EXPECT_EQ(ErrorOf("C:\\Mine\\panel.orb:old"), error_number::BadFileName);
+  EXPECT_EQ(ErrorOf("panel:3.orb"), error_number::BadFileName);
+  EXPECT_EQ(ErrorOf("C:panel.orb"), 0);
+  EXPECT_EQ(ErrorOf("C:"), 0);
+  EXPECT_EQ(ErrorOf("C:\\"), 0);
+}
+
+TEST(WidePath, AFileHasANameBelowItsFolderOrDrive) {
+  EXPECT_EQ(WithoutFolder("C:\\Mine\\panel.orb"), "panel.orb");
+  EXPECT_EQ(FolderOf("C:\\Mine\\panel.orb"), "C:\\Mine\\");
+  EXPECT_EQ(WithoutFolder("C:panel.orb"), "panel.orb");
+  EXPECT_EQ(FolderOf("C:panel.orb"), "C:");
+  EXPECT_EQ(WithoutFolder("panel.orb"), "panel.orb");
+  EXPECT_EQ(FolderOf("panel.orb"), "");
+}
+
+TEST(WidePath, NamesOfMoreThan255CharactersAreBadFileNames) {
+  const std::string longest = "C:\\" + std::string(254, 'x') + "\xC3\xA4";
+
+  EXPECT_EQ(ErrorOf(longest), 0);
+  EXPECT_EQ(ErrorOf(longest + "x"), error_number::BadFileName);
 }
 
 TEST(WidePath, EmptyNamesAndNamesWithANulAreBadFileNames) {
