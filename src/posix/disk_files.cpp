@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "base/attempt.h"
 #include "base/paths.h"
 #include "base/runtime_error.h"
 #include "posix/file_errors.h"
@@ -251,7 +252,7 @@ std::string DiskFiles::AbsolutePath(const std::string& path) {
 }
 
 std::unique_ptr<FileMark> DiskFiles::TryMark(const std::string& path) {
-  CheckName(path);
+  if (!Succeeds([&] { CheckName(path); })) return nullptr;
   const int file = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
   if (file < 0) return nullptr;
   // The system releases the lock when the program ends, also after a crash.

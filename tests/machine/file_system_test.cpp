@@ -40,6 +40,11 @@ class EveryFileSystem : public testing::Test {
     file->Write(bytes);
     file->Close();
   }
+  void WriteOver(const std::string& name, const std::string& bytes) {
+    const auto file = files.OpenInPlace(At(name), bytes.size());
+    file->Write(bytes);
+    file->Close();
+  }
   int ErrorOfReading(const std::string& path) {
     return ErrorNumberOf([&] { static_cast<void>(files.ReadFile(path)); });
   }
@@ -66,12 +71,43 @@ TYPED_TEST(EveryFileSystem, ReadsTheBytesThatWereWritten) {
   EXPECT_EQ(this->files.ReadFile(this->At("panel.ORB")), bytes);
 }
 
-TYPED_TEST(EveryFileSystem, EmptiesAnOlderFileThatIsWrittenAnew) {
-  this->Store("panel.ORB", "a long old text");
+TYPED_TEST(EveryFileSystem, JoinsTheBytesOfSeveralWrites) {
+  const auto file = this->files.CreateFile(this->At("panel.ORB"));
 
-  this->Store("panel.ORB", "new");
+  file->Write("ORBY_105");
+  file->Write("");
+  file->Write("\r\n");
+  file->Close();
 
-  EXPECT_EQ(this->files.ReadFile(this->At("panel.ORB")), "new");
+  EXPECT_EQ(this->files.ReadFile(this->At("panel.ORB")), "ORBY_105\r\n");
+}
+
+TYPED_TEST(EveryFileSystem, ReadsAnEmptyFileAsNothing) {
+  this->Store("empty.ORB", "");
+
+  EXPECT_EQ(this->files.ReadFile(this->At("empty.ORB")), "");
+}
+
+TYPED_TEST(EveryFileSystem, EmptiesAnExistingFileAsSoonAsItIsOpenedForWriting) {
+  this->Store("panel.ORB", "a longer text");
+
+  const auto file = this->files.CreateFile(this->At("panel.ORB"));
+
+  EXPECT_EQ(this->files.ReadFile(this->At("panel.ORB")), "");
+}
+
+TYPED_TEST(EveryFileSystem, KeepsTheBytesOfAFileThatWasNotClosed) {
+  this->files.CreateFile(this->At("panel.ORB"))->Write("half");
+
+  EXPECT_EQ(this->files.ReadFile(this->At("panel.ORB")), "half");
+}
+
+TYPED_TEST(EveryFileSystem, RemovesAFile) {
+  this->Store("panel.ORB", "x");
+
+  this->files.RemoveFile(this->At("panel.ORB"));
+
+  EXPECT_FALSE(this->files.Finds(this->At("panel.ORB")));
 }
 
 TYPED_TEST(EveryFileSystem, HasNamesOfEveryScriptAndWithBlanks) {
@@ -95,10 +131,20 @@ TYPED_TEST(EveryFileSystem, HasPathsOf300Characters) {
   EXPECT_THAT(this->files.FilesIn(folder), ElementsAre(path));
 }
 
-TYPED_TEST(EveryFileSystem, FindsFoldersAndFiles) {
-  EXPECT_TRUE(this->files.Finds(this->home.folder));
+TYPED_TEST(EveryFileSystem, FindsFoldersOnlyOnRequest) {
+  this->Store("panel.ORB", "x");
+
+  EXPECT_TRUE(this->files.FindsFile(this->At("panel.ORB")));
+  EXPECT_TRUE(this->files.Finds(this->At("panel.ORB")));
   EXPECT_FALSE(this->files.FindsFile(this->home.folder));
-  EXPECT_FALSE(this->files.Finds(this->At("missing")));
+  EXPECT_TRUE(this->files.Finds(this->home.folder));
+  EXPECT_TRUE(this->files.Finds(WithSeparator(this->home.folder)));
+}
+
+TYPED_TEST(EveryFileSystem, FindsNoMissingFile) {
+  EXPECT_FALSE(this->files.Finds(this->At("missing.ORB")));
+  EXPECT_FALSE(this->files.Finds(this->At("nowhere/missing.ORB")));
+  EXPECT_FALSE(this->files.Finds(""));
 }
 
 TYPED_TEST(EveryFileSystem, ReportsAMissingFile) {
@@ -109,6 +155,14 @@ TYPED_TEST(EveryFileSystem, ReportsAMissingFile) {
 TYPED_TEST(EveryFileSystem, ReportsAMissingFolder) {
   EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(this->files.FoldersIn(this->At("missing"))); }),
             error_number::PathNotFound);
+}
+
+TYPED_TEST(EveryFileSystem, RenamesAFileToANameThatIsFree) {
+  this->Store("panel.tmp", "new");
+
+  this->files.RenameFile(this->At("panel.tmp"), this->At("panel.ORB"));
+
+  EXPECT_EQ(this->files.ReadFile(this->At("panel.ORB")), "new");
 }
 
 TYPED_TEST(EveryFileSystem, RenamesAFileOverAnotherOne) {
@@ -131,14 +185,67 @@ TYPED_TEST(EveryFileSystem, ReplacesAFileAndLeavesNothingBesideIt) {
   EXPECT_THAT(this->files.FilesIn(this->home.folder), ElementsAre(this->At("other.ORB"), this->At("panel.ORB")));
 }
 
-TYPED_TEST(EveryFileSystem, OverwritesAFileInItsPlace) {
-  this->Store("panel.ORB", "a long old text");
+TYPED_TEST(EveryFileSystem, ReplacesAFileByOneWithNuls) {
+  this->Store("panel.ORB", "a longer text than the new one");
 
-  const auto file = this->files.OpenInPlace(this->At("panel.ORB"), 3);
-  file->Write("new");
-  file->Close();
+  this->files.ReplaceFile(this->At("panel.ORB"), std::string_view("new\0bytes", 9));
+
+  EXPECT_EQ(this->files.ReadFile(this->At("panel.ORB")), std::string("new\0bytes", 9));
+}
+
+TYPED_TEST(EveryFileSystem, LeavesAFileUntouchedThatIsOpenInItsPlaceUntilBytesAreWritten) {
+  this->Store("panel.ORB", "the design of last week");
+
+  const auto file = this->files.OpenInPlace(this->At("panel.ORB"), 1'000'000);
+
+  EXPECT_EQ(this->files.ReadFile(this->At("panel.ORB")), "the design of last week");
+}
+
+TYPED_TEST(EveryFileSystem, OverwritesAFileInItsPlaceByAShorterText) {
+  this->Store("panel.ORB", "the design of last week");
+
+  this->WriteOver("panel.ORB", "today's");
+
+  EXPECT_EQ(this->files.ReadFile(this->At("panel.ORB")), "today's");
+}
+
+TYPED_TEST(EveryFileSystem, OverwritesAFileInItsPlaceByALongerText) {
+  this->Store("panel.ORB", "old");
+  const std::string bytes(300'007, 'x');
+
+  this->WriteOver("panel.ORB", bytes);
+
+  EXPECT_EQ(this->files.ReadFile(this->At("panel.ORB")), bytes);
+}
+
+TYPED_TEST(EveryFileSystem, MakesAMissingFileThatIsOpenedInItsPlace) {
+  this->WriteOver("panel.ORB", "new");
 
   EXPECT_EQ(this->files.ReadFile(this->At("panel.ORB")), "new");
+}
+
+TYPED_TEST(EveryFileSystem, KeepsTheOldEndOfAFileThatWasNotClosedInItsPlace) {
+  this->Store("panel.ORB", "the design");
+
+  this->files.OpenInPlace(this->At("panel.ORB"), 3)->Write("new");
+
+  EXPECT_EQ(this->files.ReadFile(this->At("panel.ORB")), "new design");
+}
+
+TYPED_TEST(EveryFileSystem, MakesAnEmptyFileLikeAnotherOne) {
+  this->Store("panel.ORB", "a design");
+
+  this->files.MakeFileLike(this->At("new.ORB"), this->At("panel.ORB"));
+
+  EXPECT_EQ(this->files.ReadFile(this->At("new.ORB")), "");
+  EXPECT_EQ(this->files.ReadFile(this->At("panel.ORB")), "a design");
+}
+
+TYPED_TEST(EveryFileSystem, ResolvesAPathWithoutLinksToItself) {
+  this->Store("panel.ORB", "");
+
+  EXPECT_EQ(this->files.ResolveLinks(this->At("panel.ORB")), this->At("panel.ORB"));
+  EXPECT_EQ(this->files.ResolveLinks(this->At("missing.ORB")), this->At("missing.ORB"));
 }
 
 TYPED_TEST(EveryFileSystem, ReadsAFileInPieces) {
@@ -146,6 +253,7 @@ TYPED_TEST(EveryFileSystem, ReadsAFileInPieces) {
 
   const auto file = this->files.OpenFile(this->At("panel.ORB"));
 
+  EXPECT_EQ(this->files.FileLength(this->At("panel.ORB")), 5U);
   EXPECT_EQ(file->Read(3), "abc");
   EXPECT_EQ(file->Read(3), "de");
   EXPECT_EQ(file->Read(3), "");
@@ -160,6 +268,54 @@ TYPED_TEST(EveryFileSystem, MakesFoldersAndThoseAboveThem) {
   EXPECT_THAT(this->files.FoldersIn(this->home.folder), testing::IsSupersetOf({"South"}));
   EXPECT_TRUE(this->files.CanWriteTo(this->At("South")));
   EXPECT_THAT(this->files.FilesIn(this->At("South")), IsEmpty());
+}
+
+TYPED_TEST(EveryFileSystem, KeepsTheFilesOfAFolderThatIsMadeAgain) {
+  this->files.MakeFolder(this->At("North"));
+  this->Store("North/panel.ORB", "x");
+
+  this->files.MakeFolder(this->At("North/"));
+  this->files.MakePrivateFolder(this->At("North"));
+
+  EXPECT_EQ(this->files.ReadFile(this->At("North/panel.ORB")), "x");
+}
+
+TYPED_TEST(EveryFileSystem, ListsTheFilesOfAFolderSortedAndWithoutTheFoldersInIt) {
+  this->files.MakeFolder(this->At("old"));
+  for (const char* name : {"weak-roof.ORB", "belt-entry.ORB", "North.ORB", "old/older.ORB"}) this->Store(name, "x");
+
+  const auto expected = ElementsAre(this->At("North.ORB"), this->At("belt-entry.ORB"), this->At("weak-roof.ORB"));
+  EXPECT_THAT(this->files.FilesIn(this->home.folder), expected);
+  EXPECT_THAT(this->files.FilesIn(WithSeparator(this->home.folder)), expected);
+}
+
+TYPED_TEST(EveryFileSystem, ListsNoFilesOfAMissingFolder) {
+  EXPECT_THAT(this->files.FilesIn(this->At("nowhere")), IsEmpty());
+}
+
+TYPED_TEST(EveryFileSystem, ListsTheFoldersOfAFolderSortedAndWithoutItsFiles) {
+  this->files.MakeFolder(this->At("panel 3"));
+  this->files.MakeFolder(this->At("belt entry"));
+  this->Store("design.ORB", "");
+
+  EXPECT_THAT(this->files.FoldersIn(this->home.folder), ElementsAre("belt entry", "panel 3"));
+}
+
+TYPED_TEST(EveryFileSystem, MarksTwoFilesIndependently) {
+  const auto first = this->files.TryMark(this->At("first.lock"));
+  const auto second = this->files.TryMark(this->At("second.lock"));
+
+  EXPECT_NE(first, nullptr);
+  EXPECT_NE(second, nullptr);
+}
+
+TYPED_TEST(EveryFileSystem, MarksAFileWithoutChangingIt) {
+  this->Store("panel.ORB", "x");
+
+  const auto mark = this->files.TryMark(this->At("panel.ORB"));
+
+  EXPECT_NE(mark, nullptr);
+  EXPECT_EQ(this->files.ReadFile(this->At("panel.ORB")), "x");
 }
 
 TYPED_TEST(EveryFileSystem, MarksAFileForOneProgramAtATime) {
@@ -183,42 +339,6 @@ TYPED_TEST(EveryFileSystem, ListsDrivesThatItFinds) {
 TYPED_TEST(EveryFileSystem, LeavesAnAbsolutePathAsItIs) {
   EXPECT_EQ(this->files.AbsolutePath(this->At("panel.ORB")), this->At("panel.ORB"));
 }
-
-// Only the file system of the machine has devices, and names that are no names.
-struct ThisMachine : testing::Test {
-  OnDisk home;
-};
-
-TEST_F(ThisMachine, ReportsAFolderInThePlaceOfAFile) {
-  EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(home.files.ReadFile(home.folder)); }), error_number::PathFileAccess);
-  EXPECT_EQ(ErrorNumberOf([&] { home.files.ReplaceFile(home.folder, "bytes"); }), error_number::PathFileAccess);
-}
-
-TEST_F(ThisMachine, ReportsAMissingFolderOfAFile) {
-  const std::string path = WithSeparator(home.folder) + "missing/panel.ORB";
-
-  EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(home.files.ReadFile(path)); }), error_number::PathNotFound);
-  EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(home.files.CreateFile(path)); }), error_number::PathNotFound);
-}
-
-TEST_F(ThisMachine, RefusesANameWithoutCharactersOrWithANul) {
-  for (const std::string& path : {std::string(), home.place.At(std::string("a\0b", 3))}) {
-    EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(home.files.ReadFile(path)); }), error_number::BadFileName);
-    EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(home.files.CreateFile(path)); }), error_number::BadFileName);
-  }
-}
-
-TEST_F(ThisMachine, KnowsWhenAFileWasWritten) {
-  home.files.CreateFile(home.place.At("panel.ORB"))->Close();
-
-  const auto written = home.files.WrittenAt(home.place.At("panel.ORB"));
-
-  ASSERT_TRUE(written.has_value());
-  EXPECT_GE(written->date.year, 2024);
-  EXPECT_FALSE(home.files.WrittenAt(home.place.At("missing")).has_value());
-}
-
-TEST_F(ThisMachine, HasAFolderForTemporaryFiles) { EXPECT_TRUE(home.files.Finds(home.files.TemporaryFolder())); }
 
 }  // namespace
 }  // namespace orby::test

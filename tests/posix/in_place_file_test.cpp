@@ -43,45 +43,6 @@ class InPlace : public testing::Test {
   DiskFiles files{"/opt/orby"};
 };
 
-TEST_F(InPlace, AnOldFileIsUntouchedUntilNewBytesAreWritten) {
-  Store(At("panel.ORB"), "the design of last week");
-
-  const auto file = files.OpenInPlace(At("panel.ORB"), 1'000'000);
-
-  EXPECT_EQ(files.ReadFile(At("panel.ORB")), "the design of last week");
-}
-
-TEST_F(InPlace, AShorterTextReplacesAllOfTheOldOne) {
-  Store(At("panel.ORB"), "the design of last week");
-
-  WriteOver(At("panel.ORB"), "today's");
-
-  EXPECT_EQ(files.ReadFile(At("panel.ORB")), "today's");
-}
-
-TEST_F(InPlace, ALongerTextIsWrittenWhole) {
-  Store(At("panel.ORB"), "old");
-  const std::string bytes(300'007, 'x');
-
-  WriteOver(At("panel.ORB"), bytes);
-
-  EXPECT_EQ(files.ReadFile(At("panel.ORB")), bytes);
-}
-
-TEST_F(InPlace, AMissingFileIsMade) {
-  WriteOver(At("panel.ORB"), "new");
-
-  EXPECT_EQ(files.ReadFile(At("panel.ORB")), "new");
-}
-
-TEST_F(InPlace, AFileThatIsNotClosedKeepsItsOldEnd) {
-  Store(At("panel.ORB"), "the design");
-
-  { files.OpenInPlace(At("panel.ORB"), 3)->Write("new"); }
-
-  EXPECT_EQ(files.ReadFile(At("panel.ORB")), "new design");
-}
-
 TEST_F(InPlace, AFileKeepsItsMode) {
   Store(At("panel.ORB"), "old");
   ASSERT_EQ(chmod(At("panel.ORB").c_str(), 0640), 0);
@@ -110,36 +71,10 @@ TEST_F(InPlace, ALinkToAMissingFileMakesTheFile) {
   EXPECT_EQ(files.ReadFile(At("panel.ORB")), "new");
 }
 
-TEST_F(InPlace, EveryHardLinkOfAFileHasTheNewText) {
-  Store(At("panel.ORB"), "old");
-  fs::create_hard_link(At("panel.ORB"), At("same.ORB"));
-
-  WriteOver(At("panel.ORB"), "new");
-
-  EXPECT_EQ(files.ReadFile(At("same.ORB")), "new");
-}
-
 TEST_F(InPlace, AFullDiskIsReportedByTheWrite) {
   const auto file = files.OpenInPlace("/dev/full", 10);
 
   EXPECT_EQ(ErrorNumberOf([&] { file->Write("ORBY_105\r\n"); }), 61);
-}
-
-TEST_F(InPlace, TooLittleRoomIsReportedBeforeTheOldBytesAreChanged) {
-  Store(At("panel.ORB"), "the design of last week");
-  constexpr std::uint64_t MoreThanAnyDisk = std::uint64_t{1} << 61U;
-
-  EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(files.OpenInPlace(At("panel.ORB"), MoreThanAnyDisk)); }), 61);
-
-  EXPECT_EQ(files.ReadFile(At("panel.ORB")), "the design of last week");
-}
-
-TEST_F(InPlace, TooLittleRoomLeavesNoNewFile) {
-  constexpr std::uint64_t MoreThanAnyDisk = std::uint64_t{1} << 61U;
-
-  EXPECT_EQ(ErrorNumberOf([&] { static_cast<void>(files.OpenInPlace(At("panel.ORB"), MoreThanAnyDisk)); }), 61);
-
-  EXPECT_FALSE(files.Finds(At("panel.ORB")));
 }
 
 TEST_F(InPlace, ALimitOnTheSizeOfFilesIsReportedAsAFullDiskBeforeTheWrite) {

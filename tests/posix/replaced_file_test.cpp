@@ -86,22 +86,6 @@ struct ReplacedFile : testing::Test {
   DiskFiles files{"/opt/orby"};
 };
 
-TEST_F(ReplacedFile, HasTheNewBytesAndNoTemporaryFileIsLeft) {
-  folder.Store("ORBY.INI", "a longer text than the new one");
-
-  files.ReplaceFile(folder.At("ORBY.INI"), std::string_view("new\0bytes", 9));
-
-  EXPECT_EQ(folder.Read("ORBY.INI"), std::string("new\0bytes", 9));
-  EXPECT_THAT(folder.Names(), ElementsAre("ORBY.INI"));
-}
-
-TEST_F(ReplacedFile, IsMadeWhenItIsMissing) {
-  files.ReplaceFile(folder.At("ORBY.INI"), "new");
-
-  EXPECT_EQ(folder.Read("ORBY.INI"), "new");
-  EXPECT_THAT(folder.Names(), ElementsAre("ORBY.INI"));
-}
-
 TEST_F(ReplacedFile, IsFlushedToTheDiskBeforeItIsRenamed) {
   Flushed().clear();
 
@@ -162,14 +146,6 @@ TEST_F(ReplacedFile, IsFoundThroughARelativeLinkInALinkedFolder) {
   files.ReplaceFile(folder.At("near/ORBY.INI"), "new");
 
   EXPECT_EQ(folder.Read("far/settings.ini"), "new");
-}
-
-TEST_F(ReplacedFile, MayHaveTheLongestPossibleName) {
-  const std::string name(255, 'n');
-
-  files.ReplaceFile(folder.At(name), "new");
-
-  EXPECT_EQ(folder.Read(name), "new");
 }
 
 TEST_F(ReplacedFile, IsRefusedAtAnImpossiblePath) {
