@@ -5,7 +5,7 @@ windows_packages=(g++-mingw-w64-x86-64-posix=x86_64-w64-mingw32-g++-posix libz-m
   dpkg-dev=dpkg-source xz-utils=xz googletest=/usr/src/googletest/CMakeLists.txt)
 setup_packages=(qt6-base-dev=/usr/lib/*/cmake/Qt6Widgets qt6-base-dev-tools=/usr/lib/qt6/libexec/moc perl=perl python3=python3 nsis=makensis zip=zip)
 wine=/usr/lib/wine/wine64
-wine_packages=("wine64=$wine" libwine=/usr/lib/x86_64-linux-gnu/wine)
+wine_packages=("wine64=$wine" libwine=/usr/lib/x86_64-linux-gnu/wine python3=python3)
 
 windows="$top/build/windows"
 toolkit="$windows/toolkit/qt"
@@ -77,8 +77,11 @@ build_windows_toolkit() {
     cmake --install "$windows/plot-build" && rm -rf "$windows/toolkit-build" "$windows/plot-build"
 }
 
-# in_wine COMMAND...: with a Windows of its own, which shows nothing and logs nothing.
-in_wine() { WINEPREFIX="$windows/wine" WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=" "$@"; }
+# in_wine COMMAND...: with a Windows of its own, which shows nothing and logs nothing. Wine reads its command lines by the
+# locale.
+in_wine() {
+  LC_ALL=C.UTF-8 WINEPREFIX="$windows/wine" WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=" "$@"
+}
 
 # The first program would wait for it otherwise, and the second one find it half done.
 make_wine() { [ -e "$windows/wine/system.reg" ] || in_wine timeout 300 "$wine" wineboot --init; }

@@ -1,10 +1,11 @@
-"""Compares the companion of this machine with the one for Windows: same_bytes.py PROGRAM PROGRAM.EXE DESIGNS SEED FOLDER...
+"""Compares the companion of this machine with the one for Windows: same_bytes.py DESIGNS SEED FOLDER...
 
 Makes designs from the projects in the folders, each with some numbers changed, and gives them to every command of both
-programs. Everything they print, their exit statuses and the files they write have to be the same. Needs Wine, whose
-command is in $WINE.
+programs. Everything they print, their exit statuses and the files they write have to be the same. Needs both programs in
+$ORBY_CLI and $ORBY_CLI_EXE, and Wine, whose command is in $WINE.
 """
 
+import collections
 import contextlib
 import os
 import random
@@ -16,10 +17,11 @@ from concurrent.futures import ThreadPoolExecutor
 FIRST_LINE = b"ORBY_105"
 LARGEST = 16000  # bytes
 ENDS = b"\r\n"
-PATIENCE = 3600  # seconds
+PATIENCE = 600  # seconds
 MOST_SHOWN = 20
 OF_ONE_FILE = ("live", "validate", "save", "convert", "curve")
-AT_ONCE = ("report", "cost")
+OF_MANY_FILES = ("report", "cost")
+AT_ONCE = 200  # files of one command
 
 
 def projects_in(folders):
@@ -57,7 +59,12 @@ def changed(dice, project):
     return ENDS.join(lines)
 
 
-def commands(dice, names):
+def write(folder, name, content):
+    with open(os.path.join(folder, name), "wb") as file:
+        file.write(content)
+
+
+def command_lines(dice, names):
     """Returns the words of every command line, with the name of its outputs first."""
     lines = []
     for name in names:
@@ -68,39 +75,23 @@ def commands(dice, names):
             if command in ("save", "convert"):
                 words.append(f"{command}-{name}")
             lines.append((f"{name}-{command}", words))
-    # The shell of Windows takes no longer lines.
-    for first in range(0, len(names), 200):
-        lines.extend((f"{first}-{command}", [command, *names[first:first + 200]]) for command in AT_ONCE)
+    for first in range(0, len(names), AT_ONCE):
+        lines.extend((f"{first}-{command}", [command, *names[first:first + AT_ONCE]]) for command in OF_MANY_FILES)
     return lines
 
 
-def run_here(program, folder, lines):
-    def run(line):
+def run(program, folder, lines):
+    """Runs the program with each line in the folder, and stores there what it prints and its exit status."""
+    def run_one(line):
         output, words = line
         with open(os.path.join(folder, output + ".out"), "wb") as out, \
                 open(os.path.join(folder, output + ".err"), "wb") as err:
-            status = subprocess.call([program, *words], cwd=folder, stdout=out, stderr=err, timeout=PATIENCE)
-        with open(os.path.join(folder, output + ".status"), "wb") as file:
-            file.write(str(status).encode() + ENDS)
+            status = subprocess.call([*program, *words], cwd=folder, stdin=subprocess.DEVNULL, stdout=out, stderr=err,
+                                     timeout=PATIENCE)
+        write(folder, output + ".status", str(status).encode())
 
     with ThreadPoolExecutor(os.cpu_count()) as workers:
-        list(workers.map(run, lines))
-
-
-def run_in_wine(program, folder, lines):
-    """Runs all in a few shells of Windows: a start of Wine itself takes longer than most commands."""
-    def run(part):
-        batch = f"part{part}.bat"
-        with open(os.path.join(folder, batch), "wb") as file:
-            for output, words in lines[part::os.cpu_count()]:
-                said = f"{' '.join(words)} >{output}.out 2>{output}.err"
-                file.write(f'@"Z:{program}" {said}\r\n@(echo %errorlevel%)>{output}.status\r\n'.encode())
-        subprocess.run([os.environ["WINE"], "cmd", "/c", batch], cwd=folder, check=True, timeout=PATIENCE,
-                       stdout=subprocess.DEVNULL)
-        os.remove(os.path.join(folder, batch))
-
-    with ThreadPoolExecutor(os.cpu_count()) as workers:
-        list(workers.map(run, range(os.cpu_count())))
+        list(workers.map(run_one, lines))
 
 
 def files_in(folder):
@@ -111,27 +102,36 @@ def files_in(folder):
     return files
 
 
-def main(native, windows, count, seed, *folders):
+def difference(here, there):
+    """Returns the first lines that differ."""
+    if here is None or there is None:
+        return "  is missing " + ("here" if here is None else "there")
+    pairs = zip(here.split(b"\n") + [b""], there.split(b"\n") + [b""])
+    return next((f"  here  {one!r:.200}\n  there {other!r:.200}" for one, other in pairs if one != other),
+                "  differs in its length")
+
+
+def main(count, seed, *folders):
     dice = random.Random(int(seed))
     projects = projects_in(folders)
+    names = [f"design{number}.ORB" for number in range(int(count))]
+    lines = command_lines(dice, names)
     with tempfile.TemporaryDirectory() as home, tempfile.TemporaryDirectory() as windows_home:
-        names = [f"design{number}.ORB" for number in range(int(count))]
         for name in names:
             project = changed(dice, dice.choice(projects))
             for folder in (home, windows_home):
-                with open(os.path.join(folder, name), "wb") as file:
-                    file.write(project)
-        lines = commands(dice, names)
-        run_here(os.path.abspath(native), home, lines)
-        run_in_wine(os.path.abspath(windows), windows_home, lines)
+                write(folder, name, project)
+        run([os.path.abspath(os.environ["ORBY_CLI"])], home, lines)
+        run([os.environ["WINE"], os.path.abspath(os.environ["ORBY_CLI_EXE"])], windows_home, lines)
         here, there = files_in(home), files_in(windows_home)
     different = sorted(name for name in here.keys() | there.keys() if here.get(name) != there.get(name))
     for name in different[:MOST_SHOWN]:
-        print(f"{name} differs:\n  here  {here.get(name)!r:.300}\n  there {there.get(name)!r:.300}")
-    done = sum(content == b"0" + ENDS for name, content in here.items() if name.endswith(".status"))
-    print(f"{count} designs, {len(lines)} runs, {done} of them done without a complaint, "
-          f"{len(here)} files, {len(different)} differ")
-    return 1 if different or done == 0 else 0
+        print(f"{name}:\n{difference(here.get(name), there.get(name))}")
+    statuses = collections.Counter(content.decode() for name, content in here.items() if name.endswith(".status"))
+    print(f"{count} designs, {len(lines)} runs, {len(here)} files, {len(different)} differ")
+    print("exit statuses:", ", ".join(f"{status}: {runs} times" for status, runs in sorted(statuses.items())))
+    # Runs that all fail alike compare nothing.
+    return 1 if different or statuses["0"] == 0 else 0
 
 
 if __name__ == "__main__":
