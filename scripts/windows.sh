@@ -42,13 +42,14 @@ cross_compile() {
     -DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=OFF -DCMAKE_INSTALL_PREFIX="$prefix" "$@" && cmake --build "$build"
 }
 
-# The libraries without the window toolkit, built once.
+# The libraries without the window toolkit, built again only when windows/libraries has changed.
 build_windows_libraries() {
-  [ -e "$windows/libraries/lib/libgtest.a" ] && return 0
+  local built="$windows/libraries/built"
+  if [ -e "$built" ] && [ -z "$(find "$top/windows/libraries" -newer "$built")" ]; then return 0; fi
   fetch_source chmlib && fetch_source libxlsxwriter || return
   ln -sfn /usr/src/googletest "$windows/sources/googletest"
   cross_compile "$top/windows/libraries" "$windows/libraries-build" "$windows/libraries" &&
-    cmake --install "$windows/libraries-build"
+    cmake --install "$windows/libraries-build" && touch "$built"
 }
 
 # Sets host_tools to where the toolkit's tools of this machine are, and toolkit_options to where the toolkit for Windows

@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <random>
@@ -34,9 +35,9 @@ TEST(HelpFile, DoesNotReadAMissingPageOrAFolder) {
 class HelpFileOnDisk : public testing::Test {
  protected:
   // Returns true if a file of these bytes opens.
-  bool Opens(const std::string& bytes) {
-    folder.Store("copy.chm", bytes);
-    return ChmFile::Open(folder.At("copy.chm")) != nullptr;
+  bool Opens(const std::string& bytes, const std::string& name = "copy.chm") {
+    folder.Store(name, bytes);
+    return ChmFile::Open(folder.At(name)) != nullptr;
   }
 
   const TemporaryFolder folder;
@@ -44,6 +45,22 @@ class HelpFileOnDisk : public testing::Test {
 };
 
 TEST_F(HelpFileOnDisk, OpensWhenItIsUndamaged) { EXPECT_TRUE(Opens(whole)); }
+
+TEST_F(HelpFileOnDisk, OpensInAFolderWithLettersOfEveryScript) {
+  std::filesystem::create_directory(std::filesystem::path(folder.Path()) / u8"S\u00FCd \u0416 \u4E2D");
+
+  EXPECT_TRUE(Opens(whole,
+                    "S\xC3\xBC"
+                    "d \xD0\x96 \xE4\xB8\xAD/copy.chm"));
+}
+
+TEST_F(HelpFileOnDisk, OpensInTwoProgramsAtOnce) {
+  const auto first = ChmFile::Open(CommittedHelp);
+  const auto second = ChmFile::Open(CommittedHelp);
+
+  EXPECT_NE(first, nullptr);
+  EXPECT_NE(second, nullptr);
+}
 
 TEST_F(HelpFileOnDisk, DoesNotOpenWhenItIsMissing) {
   EXPECT_EQ(ChmFile::Open(folder.At("none.chm")), nullptr);
