@@ -1,8 +1,7 @@
 #include "engine/secondary_support.h"
 
-#include <cmath>
-
 #include "base/arithmetic.h"
+#include "base/trigonometry.h"
 #include "design/units.h"
 
 namespace orby {
@@ -27,7 +26,7 @@ SupportResult Judge(double capacity, Single rockLoad) {
   return {rounded, ToSingle(Divide(rounded, rockLoad))};
 }
 
-double TrussPairCapacity(const TrussSystem& truss) { return 2.0 * truss.Capacity * std::cos(Radians(truss.Angle)); }
+double TrussPairCapacity(const TrussSystem& truss) { return 2.0 * truss.Capacity * Cosine(Radians(truss.Angle)); }
 
 // Returns the yield capacity of all bolts of the system, tons (kN).
 double BoltYieldCapacity(const BoltSystem& system, UnitSystem units, const GradeBasis& basis) {
@@ -52,7 +51,7 @@ std::optional<Single> EntryRockLoad(const RockInputs& rock, UnitSystem units) {
   if (rock.Width <= 0) return std::nullopt;
 
   const double width = rock.Width;
-  const double top = width - 2.0 * rock.Height * std::tan(Radians(rock.EntryAngle));
+  const double top = width - 2.0 * rock.Height * Tangent(Radians(rock.EntryAngle));
   double area = 0;
   if (top >= 0) {
     area = (width + top) / 2 * rock.Height;
@@ -71,7 +70,7 @@ std::optional<Single> IntersectionRockLoad(const RockInputs& rock, UnitSystem un
 
   const double side = SideOfSpan(rock.Span);
   double height = rock.Height;
-  const auto topAt = [&](Single angle) { return side - 2 * height * std::tan(Radians(angle)); };
+  const auto topAt = [&](Single angle) { return side - 2 * height * Tangent(Radians(angle)); };
   if (topAt(rock.EntryAngle) < 0 || topAt(rock.CrosscutAngle) < 0) {
     height = MaxRockHeightIntersection({.Height = rock.Height,
                                         .Span = rock.Span,

@@ -77,6 +77,12 @@ TEST(EntrySupport, BeyondTheRangeOfASingleFails) {
   EXPECT_EQ(ErrorNumberOf(act), 6);
 }
 
+// Nobody builds them, but a slip of the finger may ask for them.
+TEST(IntersectionSupport, HasTrussesAtAnyAngle) {
+  EXPECT_FLOAT_EQ(SupportIntersection(EnglishInterLoad, TrussSystem{35, 1E20F, 4, 0}).Capacity, 139.97528F);
+  EXPECT_FLOAT_EQ(SupportIntersection(EnglishInterLoad, TrussSystem{35, -1E20F, 4, 0}).Capacity, 139.97528F);
+}
+
 TEST(IntersectionSupport, IsComputedForTheEnglishDefaults) {
   EXPECT_THAT(SupportIntersection(EnglishInterLoad, CountedSystem{26.4F, 10, 0}), Gives(264, 1.44222534F));
   EXPECT_THAT(SupportIntersection(EnglishInterLoad, TrussSystem{30, 45, 4, 0}), Gives(169.705627F, 0.927097619F));
