@@ -55,8 +55,10 @@ function(orby_library name)
   endif()
 endfunction()
 
-# A test needs its lines in a trace, not the whole of the templates that it is made of.
-set(ORBY_TEST_OPTIONS $<$<CONFIG:Debug>:-g1>)
+# A test needs its lines in a trace, not the whole of the templates that it is made of. Wine shows no traces.
+if(NOT WIN32)
+  set(ORBY_TEST_OPTIONS $<$<CONFIG:Debug>:-g1>)
+endif()
 
 # Removes from the list the sources that use the library of property tests, which Debian has for this machine only, other
 # programs of this machine, or functions of POSIX.

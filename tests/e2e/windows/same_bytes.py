@@ -94,6 +94,13 @@ def run(program, folder, lines):
         list(workers.map(run_one, lines))
 
 
+@contextlib.contextmanager
+def wine_kept_running():
+    """Wine ends with its last program. One that starts just then would fail."""
+    with subprocess.Popen([os.environ["WINE"], "cmd", "/c", "pause"], stdin=subprocess.PIPE, stdout=subprocess.DEVNULL):
+        yield
+
+
 def files_in(folder):
     files = {}
     for name in os.listdir(folder):
@@ -122,7 +129,8 @@ def main(count, seed, *folders):
             for folder in (home, windows_home):
                 write(folder, name, project)
         run([os.path.abspath(os.environ["ORBY_CLI"])], home, lines)
-        run([os.environ["WINE"], os.path.abspath(os.environ["ORBY_CLI_EXE"])], windows_home, lines)
+        with wine_kept_running():
+            run([os.environ["WINE"], os.path.abspath(os.environ["ORBY_CLI_EXE"])], windows_home, lines)
         here, there = files_in(home), files_in(windows_home)
     different = sorted(name for name in here.keys() | there.keys() if here.get(name) != there.get(name))
     for name in different[:MOST_SHOWN]:
