@@ -8,7 +8,8 @@ namespace orby {
 
 // Prepares the process. Call it first in main().
 //
-// Output streams write bytes as they are. A write beyond the limit that the system may set on the size of a program's
+// Output streams write bytes as they are. A drive without a disk is an error of the call that uses it; otherwise the
+// system might stop the program with a box. A write beyond the limit that the system may set on the size of a program's
 // files fails; otherwise the system would end the program. Programs that this one starts are not affected.
 void PrepareProgram();
 

@@ -32,14 +32,14 @@ bool IsChangedByTheSystem(std::string_view name) {
   return name != "." && name != ".." && (name.ends_with('.') || name.ends_with(' '));
 }
 
-// After a colon Windows reads the name of a stream, which is a second file that is hidden in the first one.
+// What follows a colon is the name of a stream, a second file that Windows hides in the first one.
 bool NamesAFile(std::string_view name) {
   constexpr std::size_t LongestName = 255;  // in UTF-16
   const bool isUsable = !IsDevice(name) && !IsChangedByTheSystem(name) && name.find(':') == std::string_view::npos;
   return isUsable && WideText(name).size() <= LongestName;
 }
 
-// Paths that start so lead to devices: disks without their files, pipes, ports.
+// Returns true for a path such as "\\.\C:", which leads to a disk without its files, a pipe or a port.
 bool IsInTheSpaceOfDevices(std::string_view path) {
   return path.size() >= 4 && IsSeparator(path[0]) && IsSeparator(path[1]) && path[2] == '.' && IsSeparator(path[3]);
 }
