@@ -1,8 +1,8 @@
 """Compares the companion of this machine with the one for Windows: same_bytes.py DESIGNS SEED FOLDER...
 
 Makes designs from the projects in the folders, each with some numbers changed, and gives them to every command of both
-programs. Everything they print, their exit statuses and the files they write have to be the same. Needs both programs in
-$ORBY_CLI and $ORBY_CLI_EXE, and Wine, whose command is in $WINE.
+programs. Everything they print, their exit statuses and the files they write have to be the same. companion.py says what
+it needs.
 """
 
 import collections
@@ -14,10 +14,11 @@ import sys
 import tempfile
 from concurrent.futures import ThreadPoolExecutor
 
+import companion
+
 FIRST_LINE = b"ORBY_105"
 LARGEST = 16000  # bytes
 ENDS = b"\r\n"
-PATIENCE = 600  # seconds
 MOST_SHOWN = 20
 OF_ONE_FILE = ("live", "validate", "save", "convert", "curve")
 OF_MANY_FILES = ("report", "cost")
@@ -80,24 +81,23 @@ def command_lines(dice, names):
     return lines
 
 
-def run(program, folder, lines):
+def run_all(program, folder, lines):
     """Runs the program with each line in the folder, and stores there what it prints and its exit status."""
-    def run_one(line):
+    def run(line):
         output, words = line
-        with open(os.path.join(folder, output + ".out"), "wb") as out, \
-                open(os.path.join(folder, output + ".err"), "wb") as err:
-            status = subprocess.call([*program, *words], cwd=folder, stdin=subprocess.DEVNULL, stdout=out, stderr=err,
-                                     timeout=PATIENCE)
+        with open(os.path.join(folder, output + ".out"), "w+b") as out, \
+                open(os.path.join(folder, output + ".err"), "w+b") as err:
+            status = companion.run(program, words, folder, out, err)
         write(folder, output + ".status", str(status).encode())
 
     with ThreadPoolExecutor(os.cpu_count()) as workers:
-        list(workers.map(run_one, lines))
+        list(workers.map(run, lines))
 
 
 @contextlib.contextmanager
 def wine_kept_running():
     """Wine ends with its last program. One that starts just then would fail."""
-    with subprocess.Popen([os.environ["WINE"], "cmd", "/c", "pause"], stdin=subprocess.PIPE, stdout=subprocess.DEVNULL):
+    with subprocess.Popen([companion.THERE[0], "cmd", "/c", "pause"], stdin=subprocess.PIPE, stdout=subprocess.DEVNULL):
         yield
 
 
@@ -128,9 +128,9 @@ def main(count, seed, *folders):
             project = changed(dice, dice.choice(projects))
             for folder in (home, windows_home):
                 write(folder, name, project)
-        run([os.path.abspath(os.environ["ORBY_CLI"])], home, lines)
+        run_all(companion.HERE, home, lines)
         with wine_kept_running():
-            run([os.environ["WINE"], os.path.abspath(os.environ["ORBY_CLI_EXE"])], windows_home, lines)
+            run_all(companion.THERE, windows_home, lines)
         here, there = files_in(home), files_in(windows_home)
     different = sorted(name for name in here.keys() | there.keys() if here.get(name) != there.get(name))
     for name in different[:MOST_SHOWN]:

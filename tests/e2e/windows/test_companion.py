@@ -1,12 +1,10 @@
-"""The companion for Windows as its users meet it, beside the one of this machine.
-
-Needs both programs in $ORBY_CLI and $ORBY_CLI_EXE, and Wine, whose command is in $WINE.
-"""
+"""The companion for Windows as its users meet it, beside the one of this machine. companion.py says what it needs."""
 
 import os
-import subprocess
 import tempfile
 import unittest
+
+import companion
 
 EXAMPLES = os.path.join(os.path.dirname(__file__), "..", "..", "..", "examples")
 BAD_NAME = b"run-time error 52: Bad file name or number\n"
@@ -32,26 +30,25 @@ class Outcome:
         return f"{self.status}, {self.out!r:.300}, {self.err!r:.300}"
 
 
-class Companion(unittest.TestCase):
+class CompanionTest(unittest.TestCase):
     def setUp(self):
         place = tempfile.TemporaryDirectory()
         self.addCleanup(place.cleanup)
         self.folder = place.name
 
-    def run_program(self, words, out=None):
+    def outcome_of(self, program, words, out=None):
         # Not pipes: Wine's own processes keep them open for a while after the end of the program.
         with tempfile.TemporaryFile() as said, tempfile.TemporaryFile() as complaints:
-            status = subprocess.call(words, cwd=self.folder, stdin=subprocess.DEVNULL, stdout=out or said,
-                                     stderr=complaints)
+            status = companion.run(program, words, self.folder, out or said, complaints)
             said.seek(0)
             complaints.seek(0)
             return Outcome(status, said.read(), complaints.read())
 
-    def here(self, *words, **streams):
-        return self.run_program([os.environ["ORBY_CLI"], *words], **streams)
+    def here(self, *words):
+        return self.outcome_of(companion.HERE, words)
 
-    def there(self, *words, **streams):
-        return self.run_program([os.environ["WINE"], os.environ["ORBY_CLI_EXE"], *words], **streams)
+    def there(self, *words, out=None):
+        return self.outcome_of(companion.THERE, words, out)
 
     def store(self, name, content):
         path = os.path.join(self.folder, name)
@@ -71,7 +68,7 @@ class Companion(unittest.TestCase):
         self.store("light.ORB", example("development-entry").replace(depth, b"\r\n650\r\n99\r\n"))
 
 
-class Streams(Companion):
+class Streams(CompanionTest):
     def test_a_line_of_the_report_ends_once(self):
         self.store_examples()
 
@@ -105,7 +102,7 @@ class Streams(Companion):
         self.assertEqual((outcome.status, outcome.err), (3, DISK_FULL))
 
 
-class Arguments(Companion):
+class Arguments(CompanionTest):
     def test_names_have_letters_of_every_script_and_blanks(self):
         self.store("Süd Ж/Stollen ä 中.ORB", example("weak-roof"))
         words = ("report", "--name", "Пласт 7", "Süd Ж/Stollen ä 中.ORB")
@@ -130,7 +127,7 @@ class Arguments(Companion):
         self.assertIn(b'Project File: north "A"  end\\\r\n', report.out)
 
 
-class Files(Companion):
+class Files(CompanionTest):
     def test_a_project_saved_on_one_system_is_read_on_the_other(self):
         for name in ("weak-roof", "australian-grade-metric"):
             with self.subTest(name=name):
@@ -165,7 +162,7 @@ class Files(Companion):
         self.assertEqual(os.listdir(self.folder), ["panel.ORB"])
 
 
-class Paths(Companion):
+class Paths(CompanionTest):
     def setUp(self):
         super().setUp()
         self.store("panel.ORB", example("weak-roof"))
