@@ -231,9 +231,9 @@ void DiskFiles::SetWorkingFolder(const std::string& path) {
 
 // A name that names no file stays, and is refused when the path is used. The system would make another name of it.
 std::string DiskFiles::AbsolutePath(const std::string& path) {
-  const bool isUsable = Succeeds([&] { static_cast<void>(WidePath(path)); });
-  const std::string start = isUsable ? path : FolderOf(path);
-  return start.empty() ? path : Utf8Text(FullPath(WideText(start))) + path.substr(start.size());
+  if (Succeeds([&] { static_cast<void>(WidePath(path)); })) return Utf8Text(FullPath(WideText(path)));
+  const std::string folder = FolderOf(path);
+  return folder.empty() ? path : WithSeparator(Utf8Text(FullPath(WideText(folder)))) + path.substr(folder.size());
 }
 
 std::unique_ptr<FileMark> DiskFiles::TryMark(const std::string& path) {

@@ -130,6 +130,9 @@ TEST_F(WindowsPaths, ANameThatIsNoNameOfAFileIsRefusedByEveryCommand) {
 TEST_F(WindowsPaths, ANameThatIsNoNameOfAFileStaysInAnAbsolutePath) {
   EXPECT_EQ(files.AbsolutePath("C:\\Mine\\..\\panel.ORB."), "C:\\panel.ORB.");
   EXPECT_EQ(files.AbsolutePath("C:\\Mine\\nul.ORB"), "C:\\Mine\\nul.ORB");
+  EXPECT_EQ(files.AbsolutePath("nul.ORB"), "nul.ORB");
+  const WorkingFolderOfC working("C:\\windows");
+  EXPECT_EQ(files.AbsolutePath("C:nul.ORB"), "C:\\windows\\nul.ORB");
 }
 
 TEST_F(WindowsPaths, ANameWithACharacterThatWindowsReservesIsRefused) {
