@@ -106,6 +106,8 @@ void Settle() {
   auto* events = QAbstractEventDispatcher::instance();
   for (int turn = 0; turn < MostTurns && events->processEvents(QEventLoop::AllEvents); ++turn) {
   }
+  // These turns may have taken the news that the loop around them has ended. On Windows it would wait for the next event.
+  events->wakeUp();
 }
 
 std::string TextOn(const QWidget& window, std::string_view name) {
