@@ -5,6 +5,9 @@ windows_packages=(g++-mingw-w64-x86-64-posix=x86_64-w64-mingw32-g++-posix libz-m
   dpkg-dev=dpkg-source xz-utils=xz googletest=/usr/src/googletest/CMakeLists.txt)
 setup_packages=(qt6-base-dev=/usr/lib/*/cmake/Qt6Widgets qt6-base-dev-tools=/usr/lib/qt6/libexec/moc perl=perl python3=python3 nsis=makensis zip=zip)
 wine=/usr/lib/wine/wine64
+wine_server=/usr/lib/wine/wineserver64
+# Fonts of the widths of those that every Windows has.
+wine_desktop_packages=(fonts-liberation=/usr/share/fonts/truetype/liberation fonts-wine=/usr/share/wine/fonts/courier.ttf)
 wine_packages=("wine64=$wine" libwine=/usr/lib/x86_64-linux-gnu/wine python3=python3)
 
 windows="$top/build/windows"
@@ -60,7 +63,7 @@ find_toolkit() {
     -DCMAKE_FIND_ROOT_PATH="$toolkit;$windows/libraries;/usr/x86_64-w64-mingw32" "${host_tools[@]}")
 }
 
-# The window toolkit and the charts, built once, in about an hour. The toolkit knows its folder, so that one has the same
+# The window toolkit and the charts, built once, in about half an hour. The toolkit knows its folder, so that one has the same
 # name everywhere.
 build_windows_toolkit() {
   find_toolkit

@@ -39,10 +39,9 @@ ArrivingFile::ArrivingFile(const QString& path, const QString& address, bool res
 ArrivingFile::~ArrivingFile() {
   if (!file_) return;
   file_->close();
-  if (!resumes_) return;  // a temporary file removes itself
-  if (!isWhole_ && !mark_.isEmpty()) return;
-  if (!isWhole_) file_->remove();
-  QFile::remove(OriginPath(path_));
+  const bool isResumed = resumes_ && !mark_.isEmpty();
+  if (!isWhole_ && !isResumed) file_->remove();
+  if (resumes_ && (isWhole_ || !isResumed)) QFile::remove(OriginPath(path_));
 }
 
 bool ArrivingFile::Open() { return resumes_ ? OpenPart() : OpenTemporary(); }
@@ -101,13 +100,16 @@ bool ArrivingFile::Append(const QByteArray& bytes) {
 
 bool ArrivingFile::Finish() {
   if (!file_->flush()) return false;
-  // Windows does not rename an open file.
   file_->close();
+  // Windows does not rename an open file. A temporary file is open as long as it lives.
+  if (auto* temporary = dynamic_cast<QTemporaryFile*>(file_.get())) {
+    temporary->setAutoRemove(false);
+    file_ = std::make_unique<QFile>(temporary->fileName());
+  }
   const std::filesystem::path from(file_->fileName().toStdU16String());
   std::error_code problem;
   std::filesystem::rename(from, std::filesystem::path(path_.toStdU16String()), problem);
   if (problem) return false;
-  if (auto* temporary = dynamic_cast<QTemporaryFile*>(file_.get())) temporary->setAutoRemove(false);
   isWhole_ = true;
   return true;
 }

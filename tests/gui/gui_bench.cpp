@@ -106,7 +106,8 @@ void Settle() {
   auto* events = QAbstractEventDispatcher::instance();
   for (int turn = 0; turn < MostTurns && events->processEvents(QEventLoop::AllEvents); ++turn) {
   }
-  // These turns may have taken the news that the loop around them has ended. On Windows it would wait for the next event.
+  // These turns may have taken the news that the loop around them has ended. On Windows it would wait for the next
+  // event.
   events->wakeUp();
 }
 
