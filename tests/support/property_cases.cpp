@@ -7,6 +7,6 @@ namespace {
 constexpr const char* UsualCases = "seed=1907";
 constexpr int KeepOthers = 0;
 
-[[maybe_unused]] const bool IsSetUp = setenv("RC_PARAMS", UsualCases, KeepOthers) == 0;
+[[maybe_unused]] const bool AreCasesChosen = setenv("RC_PARAMS", UsualCases, KeepOthers) == 0;
 
 }  // namespace
