@@ -24,6 +24,8 @@ FONTS = {"Arial": "Liberation Sans", "Courier New": "Liberation Mono", "Segoe UI
 
 NOT_OURS = (r"\Software\Wine", r"\Explorer", r"\Software\QtProject")
 
+SECOND_CURVE = (760, 165)  # in the results window
+
 LONGEST = 300  # seconds that an installation may take on a loaded machine
 ORB_COMMAND = "ORB_File\\shell\\open\\command"
 
@@ -50,6 +52,16 @@ def type_over(text):
 
 def windows_path(path):
     return "Z:" + path.replace("/", "\\")
+
+
+def curve_on_screen():
+    """Returns the pixels at the second curve of the list, in the window in front."""
+    geometry = ["xdotool", "getactivewindow", "getwindowgeometry", "--shell"]
+    answer = subprocess.run(geometry, capture_output=True, check=True)
+    place = dict(line.split("=") for line in answer.stdout.decode().split())
+    x, y = (int(place[axis]) + offset for axis, offset in zip("XY", SECOND_CURVE))
+    return subprocess.run(["import", "-window", "root", "-crop", f"40x10+{x}+{y}", "rgb:-"], capture_output=True,
+                          check=True).stdout
 
 
 def words_of(pdf):
@@ -120,7 +132,8 @@ class WindowsProgram(unittest.TestCase):
         self.assertEqual(sorted(os.listdir(self.installed("examples"))), sorted(os.listdir(EXAMPLES)))
         self.assertTrue(any(ORB_COMMAND in entry and 'orby.exe" "%1"' in entry for entry in added), added)
         self.assertTrue(any("QuietUninstallString" in entry for entry in added), added)
-        outside = [entry for entry in added if not re.search(r"\\Classes\\\.ORB|\\Classes\\ORB_File|\\Uninstall\\Orby", entry)]
+        expected = re.compile(r"\\Classes\\\.ORB|\\Classes\\ORB_File|\\Uninstall\\Orby")
+        outside = [entry for entry in added if not expected.search(entry)]
         self.assertEqual(outside, [], "nothing else is in the registry")
 
     def accept_disclaimer(self):
@@ -142,6 +155,12 @@ class WindowsProgram(unittest.TestCase):
         self.accept_disclaimer()
         in_front(TITLE + ".*")
         take_picture("windows-main")
+        for letter, title in (("o", "Options"), ("s", "Settings")):
+            press_keys("alt+u", letter)
+            in_front(title)
+            take_picture("windows-" + title.lower())
+            press_keys("Escape")
+            in_front(TITLE + ".*")
         self.quit()
         self.wait_for_end()
 
@@ -169,6 +188,7 @@ class WindowsProgram(unittest.TestCase):
         press_keys("alt+y")
         report = until(lambda: "[ORBY DESIGN]" in clipboard() and lines(clipboard()), "the report in the clipboard")
         self.print_report()
+        self.look_at_a_curve()
         press_keys("alt+l")
         in_front("Parameters")
         press_keys("Return")
@@ -181,6 +201,17 @@ class WindowsProgram(unittest.TestCase):
         pages = lines(companion("report", design)).replace("\f", "")
         self.assertEqual(report[report.index("[GEOLOGY"):], pages[pages.index("[GEOLOGY"):])
         self.assertIn("720", pages)
+
+    def look_at_a_curve(self):
+        """Clicks on the second curve of the list that appears at the right."""
+        before = curve_on_screen()
+        press_keys("alt+g")
+        until(lambda: curve_on_screen() != before, "the list of curves")
+        xdotool("getactivewindow", "mousemove", "--window", "%1", *SECOND_CURVE, "click", 1)
+        in_front("Graph")
+        take_picture("windows-graph")
+        press_keys("alt+F4")
+        in_front("Calculation Results")
 
     def print_report(self):
         """Prints to a PDF file: this Windows has no printer."""
@@ -199,8 +230,7 @@ class WindowsProgram(unittest.TestCase):
         in_front("Parameters")
         press_keys("alt+d")
         type_over("777")
-        until(lambda: any("777" in open(name, encoding="latin-1").read().split("\n") for name in self.recovery_files()),
-              "the recovery file")
+        until(lambda: any("777" in self.kept(name) for name in self.recovery_files()), "the recovery file")
         program.send_signal(signal.SIGKILL)
         program.wait()
         self.wait_for_end()
@@ -229,7 +259,13 @@ class WindowsProgram(unittest.TestCase):
         return program
 
     def recovery_files(self):
-        return glob.glob(os.path.join(self.drive, "users", "*", "Documents", "MyStrataDesk", "ORBY", "Temp", "~recover?.tmp"))
+        folder = os.path.join(self.drive, "users", "*", "Documents", "MyStrataDesk", "ORBY", "Temp")
+        return glob.glob(os.path.join(folder, "~recover?.tmp"))
+
+    @staticmethod
+    def kept(recovery_file):
+        with open(recovery_file, encoding="latin-1") as file:
+            return file.read().split("\n")
 
     def remove(self, before, design):
         """Removes the program as Windows does, with a project of the user beside the examples."""
