@@ -1,14 +1,13 @@
 #include "qt/help_window.h"
 
 #include <QAction>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 
 #include "help/chm_file.h"
 #include "qt/pictures.h"
+#include "qt/printer.h"
 #include "qt/texts.h"
 
 namespace orby {
@@ -173,8 +172,10 @@ void HelpWindow::Escape() {
 
 void HelpWindow::Print() {
   QPrinter printer(QPrinter::HighResolution);
-  QPrintDialog dialog(&printer, this);
-  if (dialog.exec() == QDialog::Accepted) browser_->print(&printer);
+  printer.setDocName(browser_->documentTitle() + ".pdf");
+  if (!AskForPaper(printer, this)) return;
+  printer.setDocName(browser_->documentTitle());
+  browser_->print(&printer);
 }
 
 }  // namespace orby

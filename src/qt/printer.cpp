@@ -74,7 +74,24 @@ QString NewName(const QString& path) {
   return name;
 }
 
+// Returns false if the user cancels.
+bool AskForPdfFile(QPrinter& device, QWidget* parent) {
+  const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  const QString suggested = IsFile(device) ? device.outputFileName() : documents.filePath(device.docName());
+  const QString path = QFileDialog::getSaveFileName(parent, "Print to File", suggested, "PDF (*.pdf)");
+  if (path.isEmpty()) return false;
+  device.setOutputFormat(QPrinter::PdfFormat);
+  device.setOutputFileName(path);
+  return true;
+}
+
 }  // namespace
+
+bool AskForPaper(QPrinter& device, QWidget* parent) {
+  if (!PrintsToFiles() && QPrinterInfo::availablePrinterNames().isEmpty()) return AskForPdfFile(device, parent);
+  QPrintDialog dialog(&device, parent);
+  return dialog.exec() == QDialog::Accepted;
+}
 
 // One document that is being printed, with the margins of a sheet. The print ends with this object.
 class QtPrinter::Job {
@@ -111,21 +128,7 @@ QPrinter& QtPrinter::Device() {
 }
 
 void QtPrinter::ShowDialog() {
-  if (!PrintsToFiles() && QPrinterInfo::availablePrinterNames().isEmpty()) return ShowFileDialog();
-  QPrintDialog dialog(&Device(), QApplication::activeWindow());
-  if (dialog.exec() != QDialog::Accepted) throw RuntimeError(error_number::Cancelled);
-}
-
-// A desktop without printers whose dialog would not offer a PDF file either.
-void QtPrinter::ShowFileDialog() {
-  QPrinter& device = Device();
-  const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-  const QString suggested = IsFile(device) ? device.outputFileName() : documents.filePath(device.docName());
-  const QString path =
-      QFileDialog::getSaveFileName(QApplication::activeWindow(), "Print to File", suggested, "PDF (*.pdf)");
-  if (path.isEmpty()) throw RuntimeError(error_number::Cancelled);
-  device.setOutputFormat(QPrinter::PdfFormat);
-  device.setOutputFileName(path);
+  if (!AskForPaper(Device(), QApplication::activeWindow())) throw RuntimeError(error_number::Cancelled);
 }
 
 // The dialog suggests a file with the name of the document until the user has chosen a file.

@@ -8,6 +8,10 @@
 
 namespace orby {
 
+// Lets the user choose what the device prints on: a printer or a PDF file. A desktop that has no printers, and whose
+// dialog for them offers no files, only asks for a file. Returns false if the user cancels.
+bool AskForPaper(QPrinter& device, QWidget* parent);
+
 class QtPrinter : public Printer {
  public:
   void Choose(const std::string& fileName) override;
@@ -25,7 +29,6 @@ class QtPrinter : public Printer {
 
   // Throws RuntimeError 32755 if the user cancels.
   void ShowDialog();
-  void ShowFileDialog();
 
   std::unique_ptr<QPrinter> device_;
   bool mayReplace_ = false;  // the user confirmed the file name in the dialog
