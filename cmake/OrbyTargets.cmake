@@ -64,7 +64,7 @@ endif()
 # programs of this machine, or functions of POSIX.
 function(leave_out_tests_of_this_machine list)
   foreach(source ${${list}})
-    file(STRINGS ${source} uses REGEX "#include [<\"](rapidcheck|support/number_texts|any_single|unistd|fcntl|sys/)|popen|create_symlink|sheet_bench|xdg-|malloc[.]h")
+    file(STRINGS ${source} uses REGEX "#include [<\"](rapidcheck|support/number_texts|any_single|unistd|fcntl|sys/)|popen|create_symlink|sheet_bench|xdg-|malloc[.]h|pdf_bench|#!/bin")
     if(uses)
       list(REMOVE_ITEM ${list} ${source})
     endif()

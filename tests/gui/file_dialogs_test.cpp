@@ -45,7 +45,7 @@ class AskingForAFile : public GuiTest {
     question.folder = FromQt(QFileInfo(folder.path()).path());
     return question;
   }
-  std::string PathOf(const QString& name) const { return FromQt(folder.filePath(name)); }
+  std::string PathOf(const QString& name) const { return PathFromQt(folder.filePath(name)); }
 
   // Types a name and presses Enter.
   void AnswerWith(const std::string& name) {
