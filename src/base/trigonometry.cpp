@@ -10,20 +10,33 @@ namespace {
 constexpr double RadiansPerTurn = 6.283185307179586;
 
 __extension__ using Wide = unsigned __int128;
+__extension__ using SignedWide = __int128;
 
 // The first 256 binary digits of 1 / (2 pi) after the point, the last 64 of them first.
 constexpr std::array<std::uint64_t, 4> TurnsPerRadian{0x7F94'58EA'F7AE'F158, 0x36D8'A566'4F10'E410,
                                                       0x7F09'D5F4'7D4D'3770, 0x28BE'60DB'9391'054A};
 
-// Returns the same angle between minus and plus half a turn. An angle of less than a turn stays as it is.
-//
-// Some machines leave this to the processor, which knows pi to 66 binary digits only: of 10^20 degrees nothing is
-// right.
-double WithinATurn(double angle) {
+// Returns true if the mathematical library knows pi to as many digits as large angles need. Some libraries leave
+// cosines to the processor, which knows 66 binary digits: of 10^20 degrees nothing is right, and little of 90.
+bool KnowsLargeAngles() {
+  const volatile double large = 1e22;
+  return std::abs(std::cos(large) - 0.5232147853951389) < 1e-15;
+}
+
+// Until it is set, while the program starts, the library is not trusted.
+const bool isLibraryExact = KnowsLargeAngles();
+
+// An angle as a number of quarter turns, from 0 to 3 without whole turns, and a rest of at most an eighth of a turn.
+struct TurnedAngle {
+  int Quarters = 0;
+  double Rest = 0;  // radians
+};
+
+// Returns the angle without its whole turns. The rest is right to a double's last digits.
+TurnedAngle WithoutTurns(double angle) {
   constexpr int MantissaDigits = 53;
-  if (std::abs(angle) < RadiansPerTurn) return angle;
   int exponent = 0;
-  const auto mantissa = static_cast<std::uint64_t>(std::ldexp(std::frexp(std::abs(angle), &exponent), MantissaDigits));
+  const auto mantissa = static_cast<std::uint64_t>(std::ldexp(std::frexp(angle, &exponent), MantissaDigits));
 
   std::array<std::uint64_t, TurnsPerRadian.size() + 1> product{};
   Wide carry = 0;
@@ -34,17 +47,39 @@ double WithinATurn(double angle) {
   }
   product.back() = static_cast<std::uint64_t>(carry);
 
-  // The first 64 digits after the point of the number of turns. Those before the point are whole turns.
-  const auto first = static_cast<unsigned>(192 - (exponent - MantissaDigits));
-  const Wide digits = Wide{product[first / 64 + 1]} << 64U | product[first / 64];
-  const auto turns = static_cast<std::int64_t>(static_cast<std::uint64_t>(digits >> first % 64));
-  return std::copysign(1.0, angle) * std::ldexp(static_cast<double>(turns), -64) * RadiansPerTurn;
+  // The first 128 digits after the point of the number of turns. Those before the point are whole turns.
+  const auto first = static_cast<unsigned>(128 - (exponent - MantissaDigits));
+  const unsigned word = first / 64;
+  const unsigned shift = first % 64;
+  Wide turns = Wide{product[word + 1]} << 64U | product[word];
+  turns >>= shift;
+  if (shift > 0) turns |= Wide{product[word + 2]} << (128 - shift);
+
+  constexpr unsigned QuarterDigits = 126;
+  const auto quarters = static_cast<unsigned>((turns + (Wide{1} << (QuarterDigits - 1))) >> QuarterDigits);
+  const auto rest = static_cast<SignedWide>(turns - (Wide{quarters} << QuarterDigits));
+  return {static_cast<int>(quarters % 4), std::ldexp(static_cast<double>(rest), -128) * RadiansPerTurn};
 }
 
 }  // namespace
 
-double Cosine(double angle) { return std::cos(WithinATurn(angle)); }
+double TurnedCosine(double angle) {
+  const TurnedAngle turned = WithoutTurns(std::abs(angle));
+  switch (turned.Quarters) {
+    case 0: return std::cos(turned.Rest);
+    case 1: return -std::sin(turned.Rest);
+    case 2: return -std::cos(turned.Rest);
+    default: return std::sin(turned.Rest);
+  }
+}
 
-double Tangent(double angle) { return std::tan(WithinATurn(angle)); }
+// Within a turn and away from its quarters the digits of every library suffice.
+double Cosine(double angle) {
+  constexpr double NearQuarter = 1e-3;
+  const double cosine = std::cos(angle);
+  const bool isWithinATurn = std::abs(angle) < RadiansPerTurn;
+  const bool isNearQuarter = std::abs(cosine) <= NearQuarter;
+  return isLibraryExact || (isWithinATurn && !isNearQuarter) ? cosine : TurnedCosine(angle);
+}
 
 }  // namespace orby

@@ -4,7 +4,6 @@
 
 #include "base/arithmetic.h"
 #include "base/runtime_error.h"
-#include "base/trigonometry.h"
 #include "design/units.h"
 
 namespace orby {
@@ -152,7 +151,7 @@ Single BoltSRDI(const SupportPattern& pattern) {
 LimitedLoad RockLoadEntry(const WorkingRock& rock) {
   const Single width = rock.Width.Value;
   Single height = rock.Height.Value;
-  const double tangent = Tangent(rock.Angle.Value * RadiansPerDegree);
+  const double tangent = std::tan(rock.Angle.Value * RadiansPerDegree);
   const double top = width - 2.0 * height * tangent;
   double area = 0;
   if (top >= 0) {
@@ -170,7 +169,7 @@ double SideOfSpan(Single span) { return SquareRoot(Square(span / 2.0) / 2); }
 Single RockLoadIntersection(const WorkingRock& rock) {
   const Single height = rock.Height.Value;
   const double side = SideOfSpan(rock.Span.Value);
-  const double top = side - 2.0 * height * Tangent(rock.Angle.Value * RadiansPerDegree);
+  const double top = side - 2.0 * height * std::tan(rock.Angle.Value * RadiansPerDegree);
   if (top < 0) return 0;
   const double volume = (Square(side) + top * top + (side * top + side * top) / 2) * height / 3;
   const double load = volume * rock.UnitWeight.Value / PoundsPerTon;
@@ -178,14 +177,14 @@ Single RockLoadIntersection(const WorkingRock& rock) {
 }
 
 Single MaxRockHeightEntry(Single width, FallAngle angle) {
-  return ToSingle(Divide(width / 2.0, Tangent(angle.Value * RadiansPerDegree)));
+  return ToSingle(Divide(width / 2.0, std::tan(angle.Value * RadiansPerDegree)));
 }
 
 Single MaxRockHeightIntersection(const RockAtCrossing& rock) {
   const double side = SideOfSpan(rock.Span);
   const auto limit = [&](FallAngle angle) {
     if (angle.Value == 0) return UnlimitedHeight;
-    return ToSingle(Divide(side, 2 * Tangent(rock.EntryAngle.Value * RadiansPerDegree)));
+    return ToSingle(Divide(side, 2 * std::tan(rock.EntryAngle.Value * RadiansPerDegree)));
   };
   const Single entryLimit = limit(rock.EntryAngle);
   const Single crosscutLimit = limit(rock.CrosscutAngle);

@@ -1,5 +1,7 @@
 #include "engine/secondary_support.h"
 
+#include <cmath>
+
 #include "base/arithmetic.h"
 #include "base/trigonometry.h"
 #include "design/units.h"
@@ -51,7 +53,7 @@ std::optional<Single> EntryRockLoad(const RockInputs& rock, UnitSystem units) {
   if (rock.Width <= 0) return std::nullopt;
 
   const double width = rock.Width;
-  const double top = width - 2.0 * rock.Height * Tangent(Radians(rock.EntryAngle));
+  const double top = width - 2.0 * rock.Height * std::tan(Radians(rock.EntryAngle));
   double area = 0;
   if (top >= 0) {
     area = (width + top) / 2 * rock.Height;
@@ -70,7 +72,7 @@ std::optional<Single> IntersectionRockLoad(const RockInputs& rock, UnitSystem un
 
   const double side = SideOfSpan(rock.Span);
   double height = rock.Height;
-  const auto topAt = [&](Single angle) { return side - 2 * height * Tangent(Radians(angle)); };
+  const auto topAt = [&](Single angle) { return side - 2 * height * std::tan(Radians(angle)); };
   if (topAt(rock.EntryAngle) < 0 || topAt(rock.CrosscutAngle) < 0) {
     height = MaxRockHeightIntersection({.Height = rock.Height,
                                         .Span = rock.Span,
