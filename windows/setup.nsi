@@ -103,7 +103,7 @@ Section "Start menu" StartMenu
   CreateShortcut "$SMPROGRAMS\${TITLE}.lnk" "$INSTDIR\orby.exe"
 SectionEnd
 
-; "Option Settings" of the program writes the same keys.
+; "Create File Association" in the program writes the same keys.
 Section "Open .ORB files with the program" Association
   WriteRegStr HKCU "${CLASSES}\.ORB" "" "${TYPE}"
   WriteRegStr HKCU "${CLASSES}\${TYPE}" "" "${TYPE}"

@@ -1,7 +1,7 @@
 // The store of backups: project files before they were overwritten, and designs that were dropped without being saved.
 // It is the folder "Backups" in the folder for program data, and is made when it is first needed.
 //
-// Each entry is a file with the original bytes, so that the user can open it. Its name, such as "2031-03-09 14.05.07
+// Each entry is a file with the same bytes, so that the user can open it. Its name, such as "2031-03-09 14.05.07
 // 00012 panel3.ORB", has the time, a running number and the name of the project, followed by ".recovery" if it is a
 // recovery file. The file "2031-03-09 14.05.07 00012.about" contains the path of the project and the reason for the
 // backup. The store keeps at most 20 entries of one project, 500 entries in total and 50 MB, and removes the oldest

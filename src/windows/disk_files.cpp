@@ -83,7 +83,7 @@ void MakeFolders(const std::string& path, SECURITY_ATTRIBUTES* permissions) {
   const std::wstring wide = WidePath(folder);
   if (CreateDirectoryW(wide.c_str(), permissions) != 0) return;
   if (GetLastError() == ERROR_PATH_NOT_FOUND) {
-    const std::string above = folder.substr(0, folder.size() - NameAfterSeparator(folder).size());
+    const std::string above = FolderOf(folder);
     if (above.empty() || IsRoot(above)) throw FileError(ERROR_PATH_NOT_FOUND, path);
     MakeFolders(above, nullptr);
     if (CreateDirectoryW(wide.c_str(), permissions) != 0) return;

@@ -89,6 +89,12 @@ def take_picture(name, *options):
                    timeout=PATIENCE)
 
 
+def words_of(pdf):
+    """Returns the words of a PDF file, or nothing while it is incomplete."""
+    answer = subprocess.run(["pdftotext", "-layout", pdf, "-"], capture_output=True)
+    return answer.stdout.decode().split() if answer.returncode == 0 else None
+
+
 def lines(text):
     """Returns the text with the line ends of the toolkit's text boxes."""
     return text.replace("\r\n", "\n")

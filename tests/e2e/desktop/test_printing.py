@@ -4,13 +4,7 @@ import re
 import subprocess
 
 import atspi
-from orby import DesktopTest, companion, press_keys, until, xdotool
-
-
-def words_of(pdf):
-    """Returns the words of a PDF file, or nothing while it is incomplete."""
-    answer = subprocess.run(["pdftotext", "-layout", pdf, "-"], capture_output=True)
-    return answer.stdout.decode().split() if answer.returncode == 0 else None
+from orby import DesktopTest, companion, press_keys, until, words_of, xdotool
 
 
 class Printing(DesktopTest):

@@ -12,7 +12,8 @@ import signal
 import subprocess
 import unittest
 
-from orby import EXAMPLES, TITLE, clipboard, companion, front_window, lines, press_keys, take_picture, until, xdotool
+from orby import (EXAMPLES, TITLE, clipboard, companion, front_window, lines, press_keys, take_picture, until, words_of,
+                  xdotool)
 
 WINE = os.environ["WINE"]
 WINE_SERVER = os.environ["WINE_SERVER"]
@@ -62,12 +63,6 @@ def curve_on_screen():
     x, y = (int(place[axis]) + offset for axis, offset in zip("XY", SECOND_CURVE))
     return subprocess.run(["import", "-window", "root", "-crop", f"40x10+{x}+{y}", "rgb:-"], capture_output=True,
                           check=True).stdout
-
-
-def words_of(pdf):
-    """Returns the words of a PDF file, or nothing while it is incomplete."""
-    answer = subprocess.run(["pdftotext", "-layout", pdf, "-"], capture_output=True)
-    return answer.stdout.decode().split() if answer.returncode == 0 else None
 
 
 class WindowsProgram(unittest.TestCase):
