@@ -1,15 +1,10 @@
 // Downloads from a server on this machine.
 #include "qt/downloads.h"
 
-#include <QDir>
 #include <QFile>
-#include <QSslConfiguration>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include "gui/gui_bench.h"
-#include "gui/web_server.h"
-#include "qt/texts.h"
+#include "gui/downloads_bench.h"
 #include "qt/transfer.h"
 
 namespace orby::test {
@@ -18,76 +13,6 @@ namespace {
 using testing::ElementsAre;
 using testing::Eq;
 using testing::IsEmpty;
-
-// Returns bytes that differ from place to place.
-QByteArray BytesOf(qsizetype length, unsigned seed = 1) {
-  QByteArray bytes(length, '\0');
-  for (char& byte : bytes) {
-    seed = seed * 1664525U + 1013904223U;
-    byte = static_cast<char>(seed >> 24);
-  }
-  return bytes;
-}
-
-std::string Sha256Of(const QByteArray& bytes) {
-  return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex().toStdString();
-}
-
-class Downloading : public testing::Test {
- protected:
-  explicit Downloading(std::chrono::milliseconds patience = QtDownloads::UsualPatience) : downloads(patience) {}
-
-  FetchRequest To(const std::string& address, bool resumes = false) const {
-    return {address, FromQt(path), 0, resumes};
-  }
-
-  void Start(const FetchRequest& request) {
-    outcome.reset();
-    FetchEvents events;
-    events.Progress = [this](std::uint64_t received, std::uint64_t total) { progress.emplace_back(received, total); };
-    events.Finished = [this](const FetchOutcome& given) { outcome = given; };
-    fetch = downloads.Start(request, std::move(events));
-  }
-
-  FetchOutcome Ended() {
-    EXPECT_TRUE(QTest::qWaitFor([this] { return outcome.has_value(); }, Patience)) << "the fetch goes on for ever";
-    fetch.reset();
-    return outcome.value_or(FetchOutcome{});
-  }
-
-  FetchOutcome Fetch(const FetchRequest& request) {
-    Start(request);
-    return Ended();
-  }
-  FetchEnd EndOf(const std::string& address) { return Fetch(To(address)).end; }
-
-  static QByteArray Read(const QString& file) {
-    QFile opened(file);
-    return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray("cannot be read");
-  }
-  QByteArray Arrived() const { return Read(path); }
-  std::vector<std::string> FilesThere() const {
-    std::vector<std::string> names;
-    for (const QString& name : QDir(folder.path()).entryList(QDir::Files)) names.push_back(FromQt(name));
-    return names;
-  }
-
-  // Starts a download that breaks off.
-  void FetchHalf(const QByteArray& bytes, qsizetype half, const QByteArray& mark) {
-    server.ServeBroken("/setup", bytes, half, mark);
-    EXPECT_EQ(Fetch(To(server.Address("/setup"), true)).end, FetchEnd::Failed);
-    progress.clear();
-  }
-  QByteArray LastHeader(const QByteArray& name) const { return server.Requests().back().headers.value(name); }
-
-  QTemporaryDir folder;
-  QString path = folder.filePath("file");
-  WebServer server;
-  QtDownloads downloads;
-  std::unique_ptr<orby::Fetch> fetch;
-  std::optional<FetchOutcome> outcome;
-  std::vector<std::pair<std::uint64_t, std::uint64_t>> progress;
-};
 
 // ---- whole files ---------------------------------------------------------------------------------------------------
 
@@ -354,78 +279,6 @@ TEST_F(Downloading, FailsForAnUnsafeAddress) {
   for (const char* address : {"", "updates", "http://example.invalid/", "ftp://127.0.0.1/", "file:///etc/hostname"}) {
     EXPECT_EQ(EndOf(address), FetchEnd::NoService) << address;
   }
-}
-
-// ---- secure connections --------------------------------------------------------------------------------------------
-
-class DownloadingSafely : public Downloading {
- protected:
-  // Trusts only the certificate of the test's server.
-  DownloadingSafely() {
-    QSslConfiguration trusting = usual_;
-    trusting.setCaCertificates({WebServer::CertificateOf("here")});
-    QSslConfiguration::setDefaultConfiguration(trusting);
-  }
-  ~DownloadingSafely() override { QSslConfiguration::setDefaultConfiguration(usual_); }
-
-  WebServer safe{"here"};
-
- private:
-  QSslConfiguration usual_ = QSslConfiguration::defaultConfiguration();
-};
-
-TEST_F(DownloadingSafely, FetchesAFileFromATrustedServer) {
-  const QByteArray bytes = BytesOf(1'234'567);
-  safe.ServeFile("/setup", bytes, "ETag: \"1\"");
-
-  const FetchOutcome ended = Fetch(To(safe.Address("/setup"), true));
-
-  EXPECT_EQ(ended.end, FetchEnd::Done);
-  EXPECT_EQ(ended.sha256, Sha256Of(bytes));
-  EXPECT_TRUE(Arrived() == bytes);
-}
-
-TEST_F(DownloadingSafely, FollowsARedirectToAnotherSecureServer) {
-  WebServer other{"here"};
-  other.ServeFile("/there", "abc");
-  safe.ServeRedirection("/file", QByteArray::fromStdString(other.Address("/there")));
-
-  EXPECT_EQ(EndOf(safe.Address("/file")), FetchEnd::Done);
-
-  EXPECT_EQ(Arrived(), "abc");
-}
-
-TEST_F(DownloadingSafely, FollowsNoRedirectToAnUnencryptedConnection) {
-  server.ServeFile("/open", "abc");
-  safe.ServeRedirection("/file", QByteArray::fromStdString(server.Address("/open")));
-
-  EXPECT_EQ(EndOf(safe.Address("/file")), FetchEnd::Failed);
-
-  EXPECT_THAT(server.Requests(), IsEmpty());
-  EXPECT_THAT(FilesThere(), IsEmpty());
-}
-
-TEST_F(DownloadingSafely, RefusesAServerWithTheCertificateOfAnother) {
-  QSslConfiguration trusting = QSslConfiguration::defaultConfiguration();
-  trusting.addCaCertificate(WebServer::CertificateOf("elsewhere"));
-  QSslConfiguration::setDefaultConfiguration(trusting);
-  WebServer pretender{"elsewhere"};
-  pretender.ServeFile("/file", "abc");
-
-  EXPECT_EQ(EndOf(pretender.Address("/file")), FetchEnd::NoConnection);
-
-  EXPECT_THAT(pretender.Requests(), IsEmpty());
-  EXPECT_THAT(FilesThere(), IsEmpty());
-}
-
-TEST_F(Downloading, RefusesAServerWithAnUntrustedCertificate) {
-  WebServer stranger{"here"};
-  stranger.ServeFile("/file", "abc");
-
-  EXPECT_EQ(EndOf(stranger.Address("/file")), FetchEnd::NoConnection);
-
-  EXPECT_THAT(stranger.Requests(), IsEmpty());
-  EXPECT_THAT(FilesThere(), IsEmpty());
 }
 
 // ---- resuming ------------------------------------------------------------------------------------------------------

@@ -60,7 +60,7 @@ class MainViewTest : public GuiTest {
 
   // Copies an example into the in-memory files and returns its path.
   std::string Example(const std::string& name) {
-    const std::string path = std::string(EXAMPLES_DIR) + "/" + name;
+    const std::string path = PathFromQt(EXAMPLES_DIR "/" + ToQt(name));
     platform.files.files[path] = BytesOf(path);
     return path;
   }

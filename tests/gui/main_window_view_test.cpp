@@ -173,7 +173,7 @@ class MainView : public MainViewTest {
 };
 
 TEST_F(MainView, OpensADroppedProjectFile) {
-  const std::string path = PathFromQt(ToQt(Example("weak-roof.ORB")));
+  const std::string path = Example("weak-roof.ORB");
 
   EXPECT_TRUE(Drag({QUrl::fromLocalFile(ToQt(path))}));
   Drop(path);

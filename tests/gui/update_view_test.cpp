@@ -170,7 +170,8 @@ TEST_F(UpdateView, DownloadsANewerVersionAndInstallsIt) {
   EXPECT_EQ(files.ReadFile(NewSetup()), SetupBytes.toStdString());
   ASSERT_EQ(platform.documents.opened.size(), 1U);
   const std::string started = platform.documents.opened[0];
-  EXPECT_THAT(started, AllOf(StartsWith(InHome("cache")), HasSubstr("setup-"), EndsWith("ORBY1.0.01.exe")));
+  EXPECT_THAT(started, AllOf(StartsWith(PathFromQt(CacheInFolder::OfProgram())), HasSubstr("setup-"),
+                             EndsWith("ORBY1.0.01.exe")));
   EXPECT_EQ(files.ReadFile(started), SetupBytes.toStdString());
   EXPECT_EQ(ended, 1);
 }
