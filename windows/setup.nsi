@@ -17,6 +17,7 @@ SetDateSave on
 !define IN_USE "The program is running. Please close it, then try again."
 
 Name "${TITLE}"
+BrandingText "${TITLE} ${VERSION}"
 OutFile "${OUT}"
 InstallDir "$LOCALAPPDATA\Programs\Orby"
 InstallDirRegKey HKCU "${UNINSTALL}" "InstallLocation"
@@ -30,6 +31,8 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
 
 !define MUI_ICON "orby.ico"
 !define MUI_UNICON "orby.ico"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "setup.bmp"
+!define MUI_COMPONENTSPAGE_SMALLDESC
 !define MUI_ABORTWARNING
 !define MUI_FINISHPAGE_RUN "$INSTDIR\orby.exe"
 !insertmacro MUI_PAGE_WELCOME

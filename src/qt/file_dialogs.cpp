@@ -81,6 +81,8 @@ std::string Ask(QFileDialog& dialog, const FileQuestion& question) {
 std::string QtFileDialogs::AskOpenName(const FileQuestion& question) {
   OpenDialog dialog(QApplication::activeWindow(), question);
   dialog.setFileMode(QFileDialog::ExistingFile);
+  // The desktop's own dialog prefers the exact name by itself.
+  if (NameField(dialog) == nullptr) dialog.setDefaultSuffix(ToQt(question.defaultExtension));
   return Ask(dialog, question);
 }
 

@@ -1,13 +1,11 @@
 """New versions from a server on this machine: offered, downloaded, and started only if they are the published ones."""
 
 import hashlib
-import http.server
 import os
-import threading
 
 from orby import DesktopTest, until
+from update_server import FILES, UpdateServer
 
-FILES = "/wp-content/uploads/2020/04/"
 SETUP = b"#!/bin/sh\nexit 0\n" * 1000
 SUM = hashlib.sha256(SETUP).hexdigest()
 QUESTION = ("A new ORBY version is available. \nNote that in order to download and install you may need administrator "
@@ -16,41 +14,10 @@ CLOSING = ("ORBY will now close to install the new update. You may be asked to g
            "installation of the new version. ")
 
 
-class Server(http.server.ThreadingHTTPServer):
-    """Serves files by name. The system chooses the port."""
-
-    def __init__(self):
-        self.files = {}
-        self.asked = []
-        super().__init__(("127.0.0.1", 0), Handler)
-
-    @property
-    def address(self):
-        return f"http://127.0.0.1:{self.server_address[1]}"
-
-
-class Handler(http.server.BaseHTTPRequestHandler):
-    def do_GET(self):
-        self.server.asked.append(self.path)
-        body = self.server.files.get(self.path.removeprefix(FILES))
-        self.send_response(404 if body is None else 200)
-        self.send_header("Content-Length", str(len(body or b"")))
-        self.end_headers()
-        self.wfile.write(body or b"")
-
-    def log_message(self, *words):
-        pass
-
-
 class Update(DesktopTest):
     def setUp(self):
         super().setUp()
-        self.server = Server()
-        thread = threading.Thread(target=self.server.serve_forever)
-        thread.start()
-        self.addCleanup(thread.join)
-        self.addCleanup(self.server.server_close)
-        self.addCleanup(self.server.shutdown)
+        self.server = self.enterContext(UpdateServer())
         self.opened = self.path("opened")
         self.setup_file = self.path("Downloads", "ORBY1.0.01.exe")
         self.make_opener()

@@ -4,16 +4,20 @@ Wine's windows have no accessibility tree here: the test presses keys and looks 
 """
 
 import glob
+import hashlib
 import os
 import re
 import shlex
 import shutil
 import signal
+import ssl
+import struct
 import subprocess
 import unittest
 
 from orby import (EXAMPLES, TITLE, clipboard, companion, front_window, lines, press_keys, take_picture, until, words_of,
                   xdotool)
+from update_server import UpdateServer
 
 WINE = os.environ["WINE"]
 WINE_SERVER = os.environ["WINE_SERVER"]
@@ -28,6 +32,8 @@ NOT_OURS = (r"\Software\Wine", r"\Explorer", r"\Software\QtProject")
 SECOND_CURVE = (760, 165)  # in the results window
 
 LONGEST = 300  # seconds that an installation may take on a loaded machine
+CERTIFICATES = os.path.join(os.path.dirname(__file__), "..", "..", "data", "certificates")
+TRUSTED = r"HKLM\Software\Microsoft\SystemCertificates\Root\Certificates"
 ORB_COMMAND = "ORB_File\\shell\\open\\command"
 
 
@@ -118,6 +124,7 @@ class WindowsProgram(unittest.TestCase):
         design = self.open_by_association()
         self.edit_print_and_save(design)
         self.come_back_after_a_kill(design)
+        self.update()
         self.remove(before, design)
 
     def check_installation(self, added):
@@ -244,6 +251,65 @@ class WindowsProgram(unittest.TestCase):
         in_front(TITLE)
         press_keys("n")
         self.wait_for_end()
+
+    def trust(self, certificate):
+        """Makes Windows trust the servers with this certificate, which an administrator can do."""
+        with open(certificate, encoding="ascii") as file:
+            bytes_of = ssl.PEM_cert_to_DER_cert(file.read())
+        certificate_property, always = 32, 1
+        blob = struct.pack("<III", certificate_property, always, len(bytes_of)) + bytes_of
+        self.wine("reg", "add", TRUSTED + "\\" + hashlib.sha1(bytes_of).hexdigest().upper(), "/v", "Blob", "/t", "REG_BINARY",
+                  "/d", blob.hex(), "/f")
+
+    def update(self):
+        """Downloads the installer over a secure line as that of a newer version, and installs it over the program."""
+        certificate, key = (os.path.join(CERTIFICATES, "here." + part) for part in ("crt", "key"))
+        self.trust(certificate)
+        with UpdateServer(certificate, key) as server:
+            with open(SETUP, "rb") as file:
+                setup = file.read()
+            server.files["orby_version.txt"] = f"1.0.01,{hashlib.sha256(setup).hexdigest()}".encode()
+            server.files["ORBY1.0.01.exe"] = setup
+            os.environ["ORBY_UPDATE_SERVER"] = server.address
+            self.addCleanup(os.environ.pop, "ORBY_UPDATE_SERVER")
+            os.remove(self.installed("licences", "GPL-3"))
+            program = self.start(self.installed("orby.exe"))
+            in_front(TITLE)
+            press_keys("y")
+            in_front("Program Updates")
+            press_keys("alt+d")
+            arrived = os.path.join(self.drive, "users", "*", "Downloads", "ORBY1.0.01.exe")
+            until(lambda: glob.glob(arrived), "the installer")
+            take_picture("windows-update")
+            press_keys("alt+i")
+            in_front(TITLE)
+            press_keys("Return")
+            program.wait(LONGEST)
+        in_front(TITLE + " Setup")
+        take_picture("windows-setup")
+        press_keys("alt+n")
+        take_picture("windows-setup-parts")
+        press_keys("alt+n", "alt+i")
+        # Of no use before the end of the installation.
+        until(lambda: press_keys("alt+f") or front_window() == "Disclaimer", "the program that the installer starts")
+        self.assertTrue(os.path.exists(self.installed("licences", "GPL-3")), "what was missing is installed again")
+        self.accept_disclaimer()
+        in_front(TITLE + ".*")
+        self.open_by_the_dialog()
+        self.quit()
+        self.wait_for_end()
+
+    def open_by_the_dialog(self):
+        """Opens a copy of an example by its name without extension."""
+        shutil.copy(os.path.join(EXAMPLES, "weak-roof.ORB"), self.home)
+        press_keys("ctrl+o")
+        in_front("")  # Wine's dialog has no title
+        type_over(windows_path(os.path.join(self.home, "weak-roof")))
+        take_picture("windows-open")
+        press_keys("Return")
+        in_front("Parameters")
+        press_keys("Escape")
+        in_front(TITLE + r".*weak-roof\.ORB")
 
     def start(self, *words):
         """Starts the program and returns its process. Accepts the disclaimer."""
