@@ -10,6 +10,7 @@ namespace orby {
 class PreviewWindow : public ProgramForm {
  public:
   TextBox RichTextBox1{*this, "RichTextBox1", TextKind::Output};
+  Label lblPage{*this, "lblPage", ""};
 
   // commands
   Button Command5{*this, "Command5", page_caption::Previous};
@@ -23,7 +24,7 @@ class PreviewWindow : public ProgramForm {
   void OnOpen() override;
 
  private:
-  ReportPager pager_{program_, RichTextBox1, Command4, Command5, Command2};
+  ReportPager pager_{program_, {RichTextBox1, lblPage, Command4, Command5, Command2}};
 };
 
 // Shows the pages until the user closes the window.

@@ -11,12 +11,11 @@ constexpr int ReportFontSize = 10;  // points
 
 }  // namespace
 
-ReportPager::ReportPager(Program& program, TextBox& view, Button& next, Button& previous, Button& copy)
-    : program_(program), view_(view), next_(next), previous_(previous) {
-  view_.SetFont({"Courier New", ReportFontSize});
-  next_.Click = [this] { Turn(1); };
-  previous_.Click = [this] { Turn(-1); };
-  copy.Click = [this] { CopyPage(); };
+ReportPager::ReportPager(Program& program, const PageControls& controls) : program_(program), controls_(controls) {
+  controls_.View.SetFont({"Courier New", ReportFontSize});
+  controls_.Next.Click = [this] { Turn(1); };
+  controls_.Previous.Click = [this] { Turn(-1); };
+  controls_.Copy.Click = [this] { CopyPage(); };
 }
 
 void ReportPager::Restart() {
@@ -27,13 +26,15 @@ void ReportPager::Restart() {
 void ReportPager::Turn(Integer pages) {
   page_ = static_cast<Integer>(page_ + pages);
   Loadbuffer();
-  next_.SetEnabled(page_ < program_.windows.LastPage);
-  previous_.SetEnabled(page_ > 0);
+  // People count pages from 1.
+  controls_.Position.SetCaption("Page " + NumberText(page_ + 1) + " of " + NumberText(program_.windows.LastPage + 1));
+  controls_.Next.SetEnabled(page_ < program_.windows.LastPage);
+  controls_.Previous.SetEnabled(page_ > 0);
 }
 
 void ReportPager::Loadbuffer() {
-  view_.SetText(JoinedPages(program_.session, page_, page_));
-  view_.Select(0, 0);
+  controls_.View.SetText(JoinedPages(program_.session, page_, page_));
+  controls_.View.Select(0, 0);
 }
 
 void ReportPager::CopyPage() {

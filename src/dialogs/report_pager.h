@@ -1,4 +1,4 @@
-// Shows one page of the report, with buttons for the next page, the previous page and copying.
+// Shows one page of the report and which one it is, with buttons for the next page, the previous page and copying.
 #pragma once
 
 #include <string_view>
@@ -16,10 +16,19 @@ inline constexpr std::string_view Copy = "&Copy Page";
 inline constexpr std::string_view Close = "Close";
 }  // namespace page_caption
 
+// The controls of a window for the pages.
+struct PageControls {
+  TextBox& View;
+  Label& Position;  // such as "Page 1 of 2"
+  Button& Next;
+  Button& Previous;
+  Button& Copy;
+};
+
 class ReportPager {
  public:
   // Connects the controls of a window. They must outlive the pager.
-  ReportPager(Program& program, TextBox& view, Button& next, Button& previous, Button& copy);
+  ReportPager(Program& program, const PageControls& controls);
 
   // Goes back to page 0.
   void Restart();
@@ -32,9 +41,7 @@ class ReportPager {
   void CopyPage();
 
   Program& program_;
-  TextBox& view_;
-  Button& next_;
-  Button& previous_;
+  PageControls controls_;
   Integer page_ = 0;
 };
 

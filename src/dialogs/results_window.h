@@ -14,6 +14,7 @@ class GraphWindow;
 class ResultsWindow : public ProgramForm {
  public:
   TextBox RichTextBox1{*this, "RichTextBox1", TextKind::Output};
+  Label lblPage{*this, "lblPage", ""};
   List lstGraphs{*this, "lstGraphs"};
 
   // commands
@@ -45,7 +46,7 @@ class ResultsWindow : public ProgramForm {
   void DrawChosenCurve();
   void ChangeInput();
 
-  ReportPager pager_{program_, RichTextBox1, Command4, Command5, Command2};
+  ReportPager pager_{program_, {RichTextBox1, lblPage, Command4, Command5, Command2}};
   std::unique_ptr<GraphWindow> graph_;  // made for the first curve
 };
 

@@ -8,24 +8,29 @@ namespace {
 
 class PaneBinding : public WidgetBinding<LinesView, const TextPane> {
  public:
-  PaneBinding(BindingHost& host, const TextPane& pane) : WidgetBinding(host, pane) {
-    bar_ = dynamic_cast<FindBar*>(widget_.parentWidget()->findChild<QWidget*>("viewFindBar"));
-    if (bar_ != nullptr) bar_->Attach(widget_);
+  PaneBinding(BindingHost& host, const TextPane& pane) : WidgetBinding(host, pane), bar_(FindBarBeside(widget_)) {
+    if (bar_ != nullptr) bar_->Attach(widget_, widget_);
   }
 
   void Show() override {
     ShowState(widget_, control_);
-    if (bar_ != nullptr) bar_->setVisible(control_.Visible());
+    if (bar_ != nullptr) {
+      bar_->ShowLetters(host_.Letters());
+      bar_->setVisible(control_.Visible());
+    }
     if (control_.Font() != shownFont_) {
       shownFont_ = control_.Font();
       widget_.setFont(FontOf(shownFont_, widget_));
     }
     widget_.ShowText(control_.Bytes());
   }
+  std::vector<CaptionSlot> Captions() const override {
+    return bar_ == nullptr ? std::vector<CaptionSlot>() : bar_->Captions();
+  }
   bool RetainsSize() const override { return true; }
 
  private:
-  FindBar* bar_ = nullptr;  // the bar below the pane
+  FindBar* bar_;  // the bar below the pane
   FontChoice shownFont_;
 };
 

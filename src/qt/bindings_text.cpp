@@ -12,7 +12,9 @@
 #include <utility>
 
 #include "qt/bindings.h"
+#include "qt/find_bar.h"
 #include "qt/mnemonics.h"
+#include "qt/report_view.h"
 #include "qt/texts.h"
 
 namespace orby {
@@ -158,6 +160,9 @@ class LineEditBinding : public QObject, public WidgetBinding<QLineEdit, TextBox>
 class TextAreaBinding : public QObject, public WidgetBinding<QPlainTextEdit, TextBox> {
  public:
   TextAreaBinding(BindingHost& host, TextBox& box, QPlainTextEdit& widget) : WidgetBinding(host, box, widget) {
+    auto* report = dynamic_cast<ReportView*>(&widget_);
+    if (report != nullptr) bar_ = FindBarBeside(widget_);
+    if (bar_ != nullptr) bar_->Attach(*report, *report);
     widget_.setReadOnly(box.Kind() == TextKind::Output);
     widget_.setTabChangesFocus(true);
     connect(&widget_, &QPlainTextEdit::textChanged, this, [this] {
@@ -168,6 +173,7 @@ class TextAreaBinding : public QObject, public WidgetBinding<QPlainTextEdit, Tex
 
   void Show() override {
     ShowState(widget_, control_);
+    if (bar_ != nullptr) bar_->ShowLetters(host_.Letters());
     if (control_.Font() != shownFont_) {
       shownFont_ = control_.Font();
       widget_.setFont(FontOf(shownFont_, widget_));
@@ -184,9 +190,13 @@ class TextAreaBinding : public QObject, public WidgetBinding<QPlainTextEdit, Tex
   void ShowTheme() override {
     if (control_.Kind() == TextKind::Output) ShowAsOutput(widget_);
   }
+  std::vector<CaptionSlot> Captions() const override {
+    return bar_ == nullptr ? std::vector<CaptionSlot>() : bar_->Captions();
+  }
   bool RetainsSize() const override { return true; }
 
  private:
+  FindBar* bar_ = nullptr;  // the bar below a report
   FontChoice shownFont_;
 };
 

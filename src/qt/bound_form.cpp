@@ -61,9 +61,10 @@ bool IsHelpKey(const QEvent& event) {
   return key.key() == Qt::Key_F1 && key.modifiers() == Qt::NoModifier;
 }
 
-// Buttons choose their letters first, because they are last in the tab order. Options choose last, because the arrow
-// keys reach them from the selected one.
+// Buttons choose their letters first, because they are last in the tab order. Options choose later, because the arrow
+// keys reach them from the selected one. Parts of the window that belong to no control choose last.
 int LetterRank(const CaptionSlot& slot) {
+  if (slot.key->objectName().startsWith("view") || slot.key->objectName().isEmpty()) return 3;
   if (dynamic_cast<const QPushButton*>(slot.key) != nullptr) return 0;
   return dynamic_cast<const QRadioButton*>(slot.key) == nullptr ? 1 : 2;
 }

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 #include <cmath>
 
+#include "qt/contrast.h"
 #include "qt/texts.h"
 
 namespace orby {
@@ -16,27 +17,6 @@ constexpr double LineShare = 1.0 / 3;
 
 QColor ColorOf(int blueGreenRed) {
   return {blueGreenRed & 0xFF, (blueGreenRed >> 8) & 0xFF, (blueGreenRed >> 16) & 0xFF};
-}
-
-// Returns the linear intensity, 0 to 1, of a colour component.
-double Linear(float part) { return part <= 0.04045F ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4); }
-
-double Luminance(const QColor& color) {
-  return 0.2126 * Linear(color.redF()) + 0.7152 * Linear(color.greenF()) + 0.0722 * Linear(color.blueF());
-}
-
-// Returns the colour of a curve, lightened until it is readable on a dark window.
-QColor Readable(const QColor& color, const QColor& background) {
-  constexpr int Middle = 128;
-  constexpr int Brightest = 255;
-  constexpr double LeastContrast = 4.5;
-  if (background.lightness() >= Middle) return color;
-  const double least = LeastContrast * (Luminance(background) + 0.05) - 0.05;
-  QColor lifted = color;
-  for (int lightness = color.lightness(); Luminance(lifted) < least && lightness <= Brightest; ++lightness) {
-    lifted = QColor::fromHsl(color.hslHue(), color.hslSaturation(), lightness);
-  }
-  return lifted;
 }
 
 // Sets the font size in pixels, so that letters scale with the picture. A size in points would also grow with the

@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "base/text_lines.h"
-#include "base/text_search.h"
 #include "qt/piece_task.h"
+#include "qt/searched_view.h"
 
 namespace orby {
 
@@ -56,7 +56,7 @@ struct TextRange {
 //
 // The functions call the list's base class instead of the list, because the list would lay out every line of the file.
 // NOLINTBEGIN(bugprone-parent-virtual-call)
-class LinesView : public QListView {
+class LinesView : public QListView, public SearchedView {
  public:
   explicit LinesView(QWidget* parent = nullptr);
 
@@ -69,17 +69,8 @@ class LinesView : public QListView {
   // Copies the selection to the clipboard, including the parts of lines that the screen cuts off. Does nothing without
   // a selection.
   void CopySelection();
-  // Searches for the text after (or before) the selection, wraps around, and selects the match.
-  void Find(const QString& wanted, TextSearch::Direction direction);
-  // Stops copying or searching. Returns false if neither was running.
-  bool Stop();
-
-  // Called while copying or searching, with the percentage done, and with 100 at the end.
-  std::function<void(int percent)> Progressed;
-  enum class Finding { Found, FoundAroundTheEnd, NotFound };
-  std::function<void(Finding finding)> Searched;
-  // Called for the Esc key. Returns true if it was handled.
-  std::function<bool()> EscapePressed;
+  void Find(const QString& wanted, TextSearch::Direction direction) override;
+  bool Stop() override;
 
   QRect visualRect(const QModelIndex& index) const override;
   void scrollTo(const QModelIndex& index, ScrollHint hint) override;

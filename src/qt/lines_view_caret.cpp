@@ -122,7 +122,6 @@ void LinesView::keyPressEvent(QKeyEvent* event) {
   }
   if (event->matches(QKeySequence::Copy)) return CopySelection();
   if (event->matches(QKeySequence::SelectAll)) return SelectAllOfIt();
-  if (event->key() == Qt::Key_Escape && EscapePressed && EscapePressed()) return;
   event->ignore();
 }
 

@@ -10,7 +10,7 @@ namespace {
 
 constexpr NumberPattern LengthPattern = "#.0";
 
-void WarningsLine(ReportText& page, bool several) { page.Line(several ? "[Warnings]" : WarningHeading); }
+void WarningsLine(ReportText& page, bool several) { page.Line(several ? WarningsHeading : WarningHeading); }
 
 void ReportSpan(ReportText& page, const RoofSupport& design, const SuggestedFigures& results) {
   page.Line("[INTERSECTION SPAN INFORMATION]");
@@ -69,7 +69,7 @@ void ReportPsup(ReportText& page, Single suggested, Single actual, PsupVerdict v
   page.Line(PsupMessage(verdict));
   page.Line();
   if (atLeastSkin <= MostWithoutSupplement) return;
-  page.Line("Consider using supplemental support for roof control");
+  page.Line(SupplementAdvised);
   page.Line();
 }
 

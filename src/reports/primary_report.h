@@ -9,6 +9,8 @@
 namespace orby {
 
 inline constexpr std::string_view WarningHeading = "[Warning]";
+inline constexpr std::string_view WarningsHeading = "[Warnings]";
+inline constexpr std::string_view SupplementAdvised = "Consider using supplemental support for roof control";
 inline constexpr std::string_view BelowASTM = "Bolt capacity may not meet ASTM minimum standards for roof support";
 
 // Appends the block to the page. Throws the RuntimeError of the first figure that cannot be computed.

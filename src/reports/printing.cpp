@@ -9,6 +9,7 @@
 #include "core/dialog_helpers.h"
 #include "core/shifted_texts.h"
 #include "core/version.h"
+#include "reports/line_kinds.h"
 
 namespace orby {
 namespace {
@@ -43,8 +44,6 @@ std::vector<std::string> PageHeader(const Program& program, std::size_t page) {
                    "Date/Time: " + DateText(program.platform.clock.Today())),
           std::string(ProgramTitle) + ", Version: " + VersionText(), std::string(PrintedWidth, '-'), std::string()};
 }
-
-bool IsHeading(std::string_view line) { return line.starts_with('[') && line.ends_with(']'); }
 
 // Returns the number of lines up to and including the first one that is neither a heading nor empty. Returns the number
 // of all lines if there is none.

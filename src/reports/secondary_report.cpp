@@ -63,8 +63,7 @@ void SecondaryReport::RockLoad() {
   page.Line(block.Headings.Support);
   Load("Rock Load", support.RockLoad);
   if (added.HeightIsAdjusted) {
-    page.Value("(*) Rock Load Height adjusted. Maximum possible height", FormatNumber(added.HighestRock, OneDecimal),
-               UnitSuffix::Length);
+    page.Value(HeightAdjusted, FormatNumber(added.HighestRock, OneDecimal), UnitSuffix::Length);
   }
   page.Line();
 }

@@ -149,6 +149,17 @@ TEST_F(AResultsWindow, EnablesBothButtonsOnAPageBetween) {
   EXPECT_TRUE(window.Command5.Enabled());
 }
 
+TEST_F(AResultsWindow, SaysWhichPageIsShownOfHowMany) {
+  window.Open();
+  EXPECT_EQ(window.lblPage.Caption(), "Page 1 of 2");
+
+  window.Command4.Press();
+  EXPECT_EQ(window.lblPage.Caption(), "Page 2 of 2");
+
+  window.Command5.Press();
+  EXPECT_EQ(window.lblPage.Caption(), "Page 1 of 2");
+}
+
 TEST_F(AResultsWindow, ShowsEachPageFromItsTop) {
   window.Open();
   window.RichTextBox1.Select(4, 2);

@@ -3,9 +3,8 @@
 #include <QClipboard>
 #include <QGroupBox>
 #include <QImage>
-#include <algorithm>
-#include <cmath>
 
+#include "gui/contrast_bench.h"
 #include "gui/report_bench.h"
 
 namespace orby::test {
@@ -131,20 +130,6 @@ TEST_F(GraphView, FollowsADarkDesktop) {
   EXPECT_LT(ground.lightness(), 80);
   EXPECT_GT(text.lightness(), 180);
   EXPECT_GT(Drawn().grab().toImage().pixelColor(1, 1).lightness(), 180);
-}
-
-// Returns the contrast by the formula of the Web Content Accessibility Guidelines.
-double ContrastOf(const QColor& one, const QColor& other) {
-  const auto luminance = [](const QColor& color) {
-    const auto linear = [](int part) {
-      const double share = part / 255.0;
-      return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.red()) + 0.7152 * linear(color.green()) + 0.0722 * linear(color.blue());
-  };
-  const double first = luminance(one);
-  const double second = luminance(other);
-  return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
 TEST_F(GraphView, DrawsEveryCurveReadablyOnADarkDesktop) {

@@ -266,6 +266,10 @@ class Sitting {
       photographer_.Take(window, "results-1");
       Click(window, "cmdGraph");
       photographer_.Take(window, "results-list");
+      Press(Qt::Key_F, Qt::ControlModifier);
+      Type("system");
+      Press(Qt::Key_Return);
+      photographer_.Take(window, "results-find");
       window.close();
     });
     ShowResults(program_);

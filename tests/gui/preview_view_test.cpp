@@ -70,6 +70,21 @@ TEST_F(PreviewView, CopiesTheShownPage) {
   EXPECT_THAT(program.session.history.Text, HasSubstr("Page 0 copied to clipboard"));
 }
 
+TEST_F(PreviewView, SaysWhichPageItShowsAndFindsATextInIt) {
+  UsePreview([&](QDialog& window) {
+    EXPECT_EQ(TextOn(window, "lblPage"), "Page 1 of 2");
+
+    Press(Qt::Key_F, Qt::ControlModifier);
+    Type("units");
+    Press(Qt::Key_Return);
+
+    EXPECT_EQ(Find<QPlainTextEdit>(window, "RichTextBox1").textCursor().selectedText().toLower(), "units");
+    Press(Qt::Key_Escape);
+    EXPECT_TRUE(window.isVisible());
+    Press(Qt::Key_Escape);
+  });
+}
+
 TEST_F(PreviewView, ClosesByItsButton) {
   UsePreview([&](QDialog& window) {
     Click(window, "Command1");

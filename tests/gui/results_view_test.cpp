@@ -3,10 +3,15 @@
 #include <QFontInfo>
 #include <QFontMetrics>
 #include <QListWidget>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QTextBlock>
+#include <QWheelEvent>
+#include <map>
 
+#include "gui/contrast_bench.h"
 #include "gui/readers_bench.h"
 #include "gui/report_bench.h"
 
@@ -147,6 +152,235 @@ TEST_F(ResultsView, ReturnsToTheDialogThatRequestedTheReport) {
   UseResults([&](QDialog& window) { PressLetterOf(window, "cmdChangeInput"); });
 
   EXPECT_THAT(reopened, testing::ElementsAre(InputDialog::Cost));
+}
+
+// ---- the look of a page ---------------------------------------------------------------------------------------------
+
+// A line as it is drawn.
+struct DrawnLine {
+  bool isBold = false;
+  QColor colour;
+};
+
+// Returns how the line that begins with this text is drawn.
+DrawnLine LineOn(const QDialog& window, const QString& start) {
+  const auto& report = Find<QPlainTextEdit>(window, "RichTextBox1");
+  for (QTextBlock line = report.document()->begin(); line.isValid(); line = line.next()) {
+    if (!line.text().startsWith(start)) continue;
+    const auto formats = line.layout()->formats();
+    if (formats.isEmpty()) return {false, report.palette().color(QPalette::Text)};
+    EXPECT_EQ(formats.front().length, line.text().size());
+    return {formats.front().format.fontWeight() == QFont::Bold, formats.front().format.foreground().color()};
+  }
+  throw std::logic_error("no line " + start.toStdString());
+}
+
+TEST_F(ResultsView, SetsHeadingsAndWarningsOffInReadableColours) {
+  program.project.WorkParms.Place.DepthofCover = 1200;
+  program.project.WorkParms.Primary.RowSpacing = 5;
+  BuildResults(program, program.project.WorkParms);
+  const QPalette light = QApplication::palette();
+  for (const QColor& ground : {QColor(0xf0, 0xf0, 0xf0), QColor(0x30, 0x30, 0x30)}) {
+    QApplication::setPalette(QPalette(ground));
+    UseResults([&](QDialog& window) {
+      Click(window, "Command4");
+      const DrawnLine heading = LineOn(window, "[ORBY DESIGN]");
+      const DrawnLine value = LineOn(window, "Actual PSUP");
+      const DrawnLine warning = LineOn(window, "The actual PSUP for this design is less");
+
+      EXPECT_TRUE(heading.isBold);
+      EXPECT_TRUE(warning.isBold);
+      EXPECT_FALSE(value.isBold);
+      EXPECT_NE(heading.colour, warning.colour);
+      EXPECT_GE(ContrastOf(heading.colour, ground), 4.5) << ground.name().toStdString();
+      EXPECT_GE(ContrastOf(warning.colour, ground), 4.5) << ground.name().toStdString();
+      Press(Qt::Key_Escape);
+    });
+  }
+  QApplication::setPalette(light);
+  Settle();
+}
+
+TEST_F(ResultsView, FollowsAThemeThatChangesWhileItIsOpen) {
+  const QPalette light = QApplication::palette();
+  UseResults([&](QDialog& window) {
+    Click(window, "Command4");
+    QApplication::setPalette(QPalette(QColor(0x30, 0x30, 0x30)));
+    Settle();
+
+    EXPECT_GE(ContrastOf(LineOn(window, "[ORBY DESIGN]").colour, QColor(0x30, 0x30, 0x30)), 4.5);
+    Press(Qt::Key_Escape);
+  });
+  QApplication::setPalette(light);
+  Settle();
+}
+
+TEST_F(ResultsView, CopiesASelectionAsPlainText) {
+  UseResults([&](QDialog& window) {
+    Click(window, "Command4");
+    Find(window, "RichTextBox1").setFocus();
+    Press(Qt::Key_A, Qt::ControlModifier);
+    Press(Qt::Key_C, Qt::ControlModifier);
+    Press(Qt::Key_Escape);
+  });
+
+  const QMimeData& copy = *QGuiApplication::clipboard()->mimeData();
+  EXPECT_THAT(copy.text().replace("\n", "\r\n").toStdString(), Eq(program.session.OutBuf[1]));
+  EXPECT_FALSE(copy.hasHtml());
+}
+
+TEST_F(ResultsView, SaysWhichPageItShows) {
+  UseResults([&](QDialog& window) {
+    EXPECT_EQ(TextOn(window, "lblPage"), "Page 1 of 2");
+
+    PressLetterOf(window, "Command4");
+
+    EXPECT_EQ(TextOn(window, "lblPage"), "Page 2 of 2");
+    Press(Qt::Key_Escape);
+  });
+}
+
+TEST_F(ResultsView, ChangesTheSizeOfTheTextByTheKeyboard) {
+  UseResults([&](QDialog& window) {
+    const auto size = [&] { return Find(window, "RichTextBox1").font().pointSize(); };
+    EXPECT_EQ(size(), 10);
+
+    Press(Qt::Key_Plus, Qt::ControlModifier);
+    Press(Qt::Key_Equal, Qt::ControlModifier);
+    EXPECT_EQ(size(), 12);
+
+    Press(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(size(), 11);
+
+    for (int i = 0; i < 50; ++i) Press(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(size(), 6);
+
+    Press(Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(size(), 10);
+    Press(Qt::Key_Escape);
+  });
+}
+
+TEST_F(ResultsView, ChangesTheSizeOfTheTextByTheWheelWithCtrl) {
+  UseResults([&](QDialog& window) {
+    auto& report = Find<QPlainTextEdit>(window, "RichTextBox1");
+    const auto turn = [&](int angle, Qt::KeyboardModifiers modifiers) {
+      const QPointF middle = report.viewport()->rect().center();
+      QWheelEvent wheel(middle, report.viewport()->mapToGlobal(middle), {}, {0, angle}, Qt::NoButton, modifiers,
+                        Qt::NoScrollPhase, false);
+      QApplication::sendEvent(report.viewport(), &wheel);
+    };
+    turn(120, Qt::ControlModifier);
+    turn(120, Qt::ControlModifier);
+    turn(-120, Qt::ControlModifier);
+    turn(120, Qt::NoModifier);
+
+    EXPECT_EQ(report.font().pointSize(), 11);
+    Press(Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(report.font().pointSize(), 10);
+    Press(Qt::Key_Escape);
+  });
+}
+
+TEST_F(ResultsView, PrintsThePageByCtrlP) {
+  UseResults([&](QDialog& window) {
+    PressLetterOf(window, "Command4");
+    Press(Qt::Key_P, Qt::ControlModifier);
+    Press(Qt::Key_Escape);
+  });
+
+  ASSERT_THAT(platform.printer.pages, testing::SizeIs(1));
+  EXPECT_THAT(platform.printer.pages.front(), HasSubstr("[ORBY CALCULATIONS]"));
+  EXPECT_THAT(program.session.history.Text, HasSubstr("Current page printed"));
+}
+
+// ---- finding --------------------------------------------------------------------------------------------------------
+
+std::string SelectedOn(const QDialog& window) {
+  return Find<QPlainTextEdit>(window, "RichTextBox1").textCursor().selectedText().toStdString();
+}
+
+int LineOfSelection(const QDialog& window) {
+  return Find<QPlainTextEdit>(window, "RichTextBox1").textCursor().blockNumber();
+}
+
+TEST_F(ResultsView, FindsATextByTheKeyboard) {
+  UseResults([&](QDialog& window) {
+    Press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(FocusName(), "viewFindText");
+    Type("BOLT");
+    Press(Qt::Key_Return);
+    const int first = LineOfSelection(window);
+    EXPECT_THAT(SelectedOn(window), testing::StrCaseEq("bolt"));
+
+    Press(Qt::Key_F3);
+    const int second = LineOfSelection(window);
+    Press(Qt::Key_F3, Qt::ShiftModifier);
+
+    EXPECT_GT(second, first);
+    EXPECT_EQ(LineOfSelection(window), first);
+    window.close();
+  });
+}
+
+TEST_F(ResultsView, ContinuesAtTheOtherEndAndSaysSo) {
+  UseResults([&](QDialog& window) {
+    Press(Qt::Key_F, Qt::ControlModifier);
+    Type("module build");
+    Press(Qt::Key_Return);
+    EXPECT_EQ(TextOn(window, "viewFindResult"), "");
+
+    Press(Qt::Key_Return);
+    EXPECT_EQ(TextOn(window, "viewFindResult"), "Continued from the other end");
+    EXPECT_EQ(SelectedOn(window), "module build");
+    window.close();
+  });
+}
+
+TEST_F(ResultsView, SaysThatATextIsMissingAndKeepsTheSelection) {
+  UseResults([&](QDialog& window) {
+    Press(Qt::Key_F, Qt::ControlModifier);
+    Type("units");
+    Press(Qt::Key_Return);
+    const std::string before = SelectedOn(window);
+
+    Type("no such words");
+    Press(Qt::Key_Return);
+
+    EXPECT_EQ(TextOn(window, "viewFindResult"), "Not found");
+    EXPECT_EQ(SelectedOn(window), before);
+    window.close();
+  });
+}
+
+TEST_F(ResultsView, ClosesTheFindBarBeforeTheWindowWhereverTheKeyboardIs) {
+  for (const char* focus : {"viewFindText", "RichTextBox1", "Command1"}) {
+    UseResults([&](QDialog& window) {
+      Press(Qt::Key_F, Qt::ControlModifier);
+      Find(window, focus).setFocus();
+
+      Press(Qt::Key_Escape);
+      EXPECT_FALSE(Find(window, "viewFindText").isVisible()) << focus;
+      EXPECT_TRUE(window.isVisible()) << focus;
+
+      Press(Qt::Key_Escape);
+      EXPECT_FALSE(window.isVisible()) << focus;
+    });
+  }
+}
+
+TEST_F(ResultsView, GivesTheFindBarLettersOfItsOwn) {
+  UseResults([&](QDialog& window) {
+    Press(Qt::Key_F, Qt::ControlModifier);
+
+    std::map<QString, int> letters;
+    for (const auto* button : window.findChildren<QPushButton*>()) {
+      ++letters[QKeySequence::mnemonic(button->text()).toString()];
+    }
+    EXPECT_EQ(letters.count(QString()), 0U);
+    for (const auto& [letter, count] : letters) EXPECT_EQ(count, 1) << letter.toStdString();
+    window.close();
+  });
 }
 
 // ---- curves ---------------------------------------------------------------------------------------------------------

@@ -1,0 +1,12 @@
+// Colours that can be read on their background.
+#pragma once
+
+#include <QColor>
+
+namespace orby {
+
+// Returns the colour, lightened on a dark background and darkened on a light one until its contrast is at least 4.5 : 1
+// by the Web Content Accessibility Guidelines.
+QColor Readable(const QColor& color, const QColor& background);
+
+}  // namespace orby
