@@ -13,7 +13,8 @@ struct ScenePoint {
 };
 
 // The colours of a drawing by what they are for. Text is the colour of texts around the drawing, light or dark.
-enum class Ink { None, Text, Muted, Rock, Bolt };
+// Limit is the colour of suggested values.
+enum class Ink { None, Text, Muted, Rock, Bolt, Cable, Truss, Standing, Limit };
 
 struct PathStep {
   enum class Kind { Move, Line, Curve, Close };

@@ -6,20 +6,19 @@
 #include <QPainterPath>
 #include <algorithm>
 
+#include "drawings/inks.h"
 #include "qt/texts.h"
 
 namespace orby {
 namespace {
 
+// A light text means a dark background.
+Ground GroundOf(const QColor& text) { return text.lightness() > 127 ? Ground::Dark : Ground::Light; }
+
 QColor ColourOf(Ink ink, const QColor& text) {
-  switch (ink) {
-    case Ink::Text: return text;
-    case Ink::Muted: return {0x8a, 0x8f, 0x94};
-    case Ink::Rock: return {0xc1, 0x66, 0x2f};
-    case Ink::Bolt: return {0x2f, 0x7f, 0xc1};
-    case Ink::None: break;
-  }
-  return Qt::transparent;
+  if (ink == Ink::Text) return text;
+  if (ink == Ink::None) return Qt::transparent;
+  return QColor::fromRgb(InkColour(ink, GroundOf(text)));
 }
 
 QColor Faded(QColor colour, double opacity) {

@@ -1,0 +1,30 @@
+// The colours of drawings on light and on dark backgrounds.
+#pragma once
+
+#include <cstdint>
+
+#include "drawings/scene.h"
+
+namespace orby {
+
+enum class Ground { Light, Dark };
+
+// Returns the colour as red * 65536 + green * 256 + blue. The lines of a design have a contrast of at least 4.5 to the
+// background. Ink::None is black.
+constexpr std::uint32_t InkColour(Ink ink, Ground ground) {
+  const bool isDark = ground == Ground::Dark;
+  switch (ink) {
+    case Ink::Text: return isDark ? 0xe6e6e6 : 0x1f1f1f;
+    case Ink::Muted: return 0x8a8f94;
+    case Ink::Rock: return 0xc1662f;
+    case Ink::Bolt: return 0x2f7fc1;
+    case Ink::Cable: return isDark ? 0xc39bf0 : 0x7a3fb0;
+    case Ink::Truss: return isDark ? 0x4fd1c5 : 0x0f6f68;
+    case Ink::Standing: return isDark ? 0xe0b050 : 0x7d5200;
+    case Ink::Limit: return isDark ? 0x5fd38a : 0x146c35;
+    case Ink::None: break;
+  }
+  return 0;
+}
+
+}  // namespace orby
