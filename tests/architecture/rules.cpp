@@ -17,13 +17,14 @@ struct Room {
   int floor;
 };
 
-constexpr std::array<Room, 19> Rooms = {{{"base", 0},
+constexpr std::array<Room, 20> Rooms = {{{"base", 0},
                                          {"platform", 1},
                                          {"controls", 1},
                                          {"design", 1},
-                                         {"drawings", 4},
+                                         {"drawings", 1},
                                          {"machine", 2},
                                          {"engine", 2},
+                                         {"sketches", 3},
                                          {"core", 3},
                                          {"config", 4},
                                          {"files", 4},

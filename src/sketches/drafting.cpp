@@ -1,0 +1,130 @@
+#include "sketches/drafting.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/text.h"
+
+namespace orby {
+namespace {
+
+constexpr double LetterWidth = 0.6;  // of the size of a text, on average
+constexpr double SmallestText = 6;
+constexpr double ArrowLength = 6;
+constexpr double ArrowWidth = 2.2;
+constexpr double LegendMark = 14;
+constexpr double CurveShare = 0.5523;  // of the radius: the control points of a quarter circle
+
+double WidthOf(const std::string& text, double size) {
+  return static_cast<double>(CharacterCount(text)) * LetterWidth * size;
+}
+
+PathStep StepTo(PathStep::Kind kind, double x, double y) { return {kind, {x, y}, {}, {}}; }
+
+}  // namespace
+
+Trace& Trace::Move(double x, double y) {
+  steps_.push_back(StepTo(PathStep::Kind::Move, x, y));
+  return *this;
+}
+
+Trace& Trace::Line(double x, double y) {
+  steps_.push_back(StepTo(PathStep::Kind::Line, x, y));
+  return *this;
+}
+
+Trace& Trace::Close() {
+  steps_.push_back({});
+  return *this;
+}
+
+Trace& Trace::Segment(const ScenePoint& from, const ScenePoint& to) { return Move(from.X, from.Y).Line(to.X, to.Y); }
+
+Trace& Trace::Rectangle(const Box& box) {
+  return Move(box.Left, box.Top)
+      .Line(box.Right, box.Top)
+      .Line(box.Right, box.Bottom)
+      .Line(box.Left, box.Bottom)
+      .Close();
+}
+
+Trace& Trace::Circle(const ScenePoint& centre, double radius) {
+  constexpr std::array<ScenePoint, 5> Corners{{{1, 0}, {0, 1}, {-1, 0}, {0, -1}, {1, 0}}};
+  Move(centre.X + radius, centre.Y);
+  for (std::size_t i = 0; i + 1 < Corners.size(); ++i) {
+    const ScenePoint& from = Corners[i];
+    const ScenePoint& to = Corners[i + 1];
+    const auto at = [&](double x, double y) { return ScenePoint{centre.X + radius * x, centre.Y + radius * y}; };
+    steps_.push_back({PathStep::Kind::Curve, at(to.X, to.Y), at(from.X + CurveShare * to.X, from.Y + CurveShare * to.Y),
+                      at(to.X + CurveShare * from.X, to.Y + CurveShare * from.Y)});
+  }
+  return Close();
+}
+
+Trace& Trace::Break(const ScenePoint& at) {
+  constexpr double Half = 4;
+  constexpr double Gap = 3;
+  return Segment({at.X - Half, at.Y + Half}, {at.X + Half, at.Y})
+      .Segment({at.X - Half, at.Y + Half + Gap}, {at.X + Half, at.Y + Gap});
+}
+
+Drafting::Drafting(const SheetSize& sheet) : scene_{sheet.Width, sheet.Height, {}, {}} {}
+
+ScenePoint Drafting::Inside(const ScenePoint& point) const {
+  const auto within = [](double value, double most) { return value > 0 ? std::min(value, most) : 0; };
+  return {within(point.X, scene_.Width), within(point.Y, scene_.Height)};
+}
+
+void Drafting::Draw(Trace trace, const SceneStroke& line, const SceneFill& inside) {
+  if (trace.IsEmpty()) return;
+  std::vector<PathStep> steps = trace.Take();
+  for (PathStep& step : steps) {
+    for (ScenePoint* point : {&step.To, &step.FirstControl, &step.SecondControl}) *point = Inside(*point);
+  }
+  scene_.Outlines.push_back({std::move(steps), inside, line});
+}
+
+void Drafting::Write(Wordings wordings, const ScenePoint& at, Anchor side, double room, double turn) {
+  const std::string* chosen = wordings.begin();
+  while (chosen + 1 != wordings.end() && WidthOf(*chosen, TextSize) > room) ++chosen;
+  const double width = WidthOf(*chosen, TextSize);
+  const double size = width <= room ? TextSize : std::floor(TextSize * room / width);
+  // A text that nobody can read is left out. The facts have it.
+  if (size < SmallestText) return;
+  scene_.Labels.push_back({.Text = *chosen, .At = Inside(at), .Side = side, .Size = size, .Turn = turn});
+}
+
+void Drafting::WriteBold(const std::string& text, const ScenePoint& at, Anchor side) {
+  scene_.Labels.push_back({.Text = text, .At = Inside(at), .Side = side, .Size = TextSize, .IsBold = true});
+}
+
+void Drafting::Dimension(const ScenePoint& from, const ScenePoint& to) {
+  const double length = std::hypot(to.X - from.X, to.Y - from.Y);
+  if (!(length > 0)) return;
+  const ScenePoint along{(to.X - from.X) / length, (to.Y - from.Y) / length};
+  const double arrow = std::min(ArrowLength, length / 2);
+  Trace arrows;
+  for (const auto& [end, way] : {std::pair(from, 1.0), std::pair(to, -1.0)}) {
+    const ScenePoint base{end.X + way * along.X * arrow, end.Y + way * along.Y * arrow};
+    arrows.Move(end.X, end.Y)
+        .Line(base.X - along.Y * ArrowWidth, base.Y + along.X * ArrowWidth)
+        .Line(base.X + along.Y * ArrowWidth, base.Y - along.X * ArrowWidth)
+        .Close();
+  }
+  Draw(Trace().Segment(from, to), ThinLine);
+  Draw(std::move(arrows), {}, {Ink::Text});
+}
+
+void Drafting::Legend(const std::vector<LegendEntry>& entries, double top) {
+  constexpr double Indent = LegendMark + 6;
+  double line = top;
+  for (const LegendEntry& entry : entries) {
+    const double baseline = line + TextSize;
+    Draw(Trace().Segment({0, baseline - 4}, {LegendMark, baseline - 4}), {.Colour = entry.Colour, .Width = 3});
+    Write({entry.Text}, {Indent, baseline}, Anchor::Start, scene_.Width - Indent);
+    Fact(entry.Text);
+    line += LegendLine;
+  }
+}
+
+}  // namespace orby
