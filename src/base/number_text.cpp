@@ -190,23 +190,30 @@ bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 // Returns true for a character that a number field skips anywhere in its text.
 bool IsSkipped(char c) { return c == ' ' || c == '\t' || c == '\n'; }
 
-double ReadRadix(std::string_view digits, int radix) {
+LeadingNumber ReadRadix(std::string_view digits, int radix) {
   double value = 0;
+  bool isWholeText = !digits.empty();
   for (const char c : digits) {
     const char lower = c >= 'A' && c <= 'F' ? static_cast<char>(c - 'A' + 'a') : c;
     int digit = radix;
     if (IsDigit(lower)) digit = lower - '0';
     if (lower >= 'a' && lower <= 'f') digit = lower - 'a' + 10;
-    if (digit >= radix) break;
+    isWholeText = digit < radix;
+    if (!isWholeText) break;
     value = value * radix + digit;
   }
   if (std::isinf(value)) throw RuntimeError(error_number::Overflow);
-  return value;
+  return {value, isWholeText};
 }
 
-// Returns the decimal number at the start of a text without blanks, with "e" for the letter of its exponent. Empty when
-// there is no digit.
-std::string LeadingDecimal(std::string_view text) {
+// The decimal number at the start of a text.
+struct LeadingDecimal {
+  std::string number;      // with "e" for the letter of its exponent; empty when there is no digit
+  std::size_t length = 0;  // of its part of the text
+};
+
+// Requires a text without blanks.
+LeadingDecimal TakeLeadingDecimal(std::string_view text) {
   std::string number;
   std::size_t at = 0;
   const auto takeDigits = [&] {
@@ -228,12 +235,16 @@ std::string LeadingDecimal(std::string_view text) {
   if (digits == 0) return {};
   if (at < text.size() && std::string_view("EeDd").find(text[at]) != std::string_view::npos) {
     const std::size_t mantissaEnd = number.size();
+    const std::size_t mark = at;
     ++at;
     number.push_back('e');
     if (at < text.size() && (text[at] == '+' || text[at] == '-')) number.push_back(text[at++]);
-    if (takeDigits() == 0) number.resize(mantissaEnd);
+    if (takeDigits() == 0) {
+      number.resize(mantissaEnd);
+      at = mark;
+    }
   }
-  return number;
+  return {std::move(number), at};
 }
 
 // Returns true if a number outside the range of a Double is too large, and false if it is too small. It is too large
@@ -281,13 +292,14 @@ std::optional<double> PlainDecimal(std::string_view text) {
   return isNegative ? -value : value;
 }
 
-double DecimalValue(std::string_view text) {
-  const std::string number = LeadingDecimal(text);
-  double value = 0;
-  const auto read = std::from_chars(number.data(), number.data() + number.size(), value);
-  if (read.ec != std::errc::result_out_of_range) return value;
+LeadingNumber DecimalNumber(std::string_view text) {
+  const auto [number, length] = TakeLeadingDecimal(text);
+  LeadingNumber result{.isWholeText = !number.empty() && length == text.size()};
+  const auto read = std::from_chars(number.data(), number.data() + number.size(), result.value);
+  if (read.ec != std::errc::result_out_of_range) return result;
   if (IsTooLarge(number)) throw RuntimeError(error_number::Overflow);
-  return 0;
+  result.value = 0;
+  return result;
 }
 
 std::string WithPoint(std::string text) {
@@ -306,8 +318,10 @@ std::string NumberText(int value) { return std::to_string(value); }
 std::string FormatNumber(Single value, NumberPattern pattern) { return PatternText(value, pattern); }
 std::string FormatNumber(double value, NumberPattern pattern) { return PatternText(value, pattern); }
 
-double TextValue(std::string_view text) {
-  if (const auto plain = PlainDecimal(text)) return *plain;
+double TextValue(std::string_view text) { return ReadNumber(text).value; }
+
+LeadingNumber ReadNumber(std::string_view text) {
+  if (const auto plain = PlainDecimal(text)) return {*plain, true};
   std::string compact;
   if (std::any_of(text.begin(), text.end(), IsSkipped)) {
     std::copy_if(text.begin(), text.end(), std::back_inserter(compact), [](char c) { return !IsSkipped(c); });
@@ -317,7 +331,7 @@ double TextValue(std::string_view text) {
     if (text[1] == 'H' || text[1] == 'h') return ReadRadix(text.substr(2), 16);
     if (text[1] == 'O' || text[1] == 'o') return ReadRadix(text.substr(2), 8);
   }
-  return DecimalValue(text);
+  return DecimalNumber(text);
 }
 
 std::string NormalizeDecimalText(Single value) { return WithPoint(NumberText(value)); }

@@ -51,6 +51,15 @@ std::string FormatNumber(double value, NumberPattern pattern);
 // an octal one after "&O". Throws RuntimeError 6 when the number is outside the range of a Double.
 double TextValue(std::string_view text);
 
+// A number at the start of a text.
+struct LeadingNumber {
+  double value = 0;
+  bool isWholeText = false;  // nothing but blanks, tabs and line feeds is left; false for a blank text
+};
+
+// Returns the number that TextValue returns, and whether the text ends with it. Throws as TextValue does.
+LeadingNumber ReadNumber(std::string_view text);
+
 // Returns the number that the whole text is, or nothing when it is not a number. Accepts surrounding blanks, a sign
 // before or after the digits, brackets for minus, a dollar sign, commas between digits and a complete exponent.
 std::optional<double> LooseNumber(std::string_view text);

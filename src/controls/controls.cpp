@@ -14,27 +14,6 @@ int IndexWithin(int listIndex, const std::vector<ComboItem>& items) {
 
 }  // namespace
 
-void TextBox::SetText(std::string text) {
-  if (text == text_) return;
-  text_ = std::move(text);
-  value_.reset();
-  Touch();
-  if (kind_ != TextKind::Output) Fire(Change);
-}
-
-double TextBox::Value() const {
-  if (!value_) value_ = TextValue(text_);
-  return *value_;
-}
-
-int TextBox::KeyPress(int key) const { return kind_ == TextKind::Number ? NumericKeyFilter(key, text_) : key; }
-
-void TextBox::Select(std::size_t start, std::size_t length) {
-  selectionStart_ = start;
-  selectionLength_ = length;
-  Touch();
-}
-
 void CheckBox::SetValue(Integer value) {
   if (value == value_) return;
   value_ = value;

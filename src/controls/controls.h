@@ -8,12 +8,12 @@
 #include <string_view>
 #include <vector>
 
-#include "base/font_choice.h"
 #include "base/types.h"
 #include "base/unit_suffix.h"
 #include "controls/control.h"
 #include "controls/event.h"
 #include "controls/form.h"
+#include "controls/text_box.h"
 
 namespace orby {
 
@@ -62,45 +62,6 @@ class Button : public Control {
   std::string caption_;
 };
 
-enum class TextKind {
-  Free,    // any text
-  Number,  // keys go through the numeric key filter
-  Output,  // only shown, never typed into; fires nothing
-};
-
-class TextBox : public Control {
- public:
-  TextBox(Form& form, std::string_view name, TextKind kind = TextKind::Free) : Control(form, name), kind_(kind) {}
-
-  TextKind Kind() const { return kind_; }
-  // Sets the kind of text that later keys are checked against.
-  void SetKind(TextKind kind) { kind_ = kind; }
-  const std::string& Text() const { return text_; }
-  void SetText(std::string text);
-  // Returns the number at the start of the text.
-  double Value() const;
-
-  // Returns `key` if the text accepts it, and 0 if it is ignored.
-  int KeyPress(int key) const;
-
-  std::size_t SelectionStart() const { return selectionStart_; }
-  std::size_t SelectionLength() const { return selectionLength_; }  // in characters
-  void Select(std::size_t start, std::size_t length);
-
-  const FontChoice& Font() const { return font_; }
-  void SetFont(FontChoice font) { Mirror(font_, std::move(font)); }
-
-  Event Change;  // the text has changed
-
- private:
-  std::string text_;
-  mutable std::optional<double> value_;  // number of the text, once it has been read
-  TextKind kind_;
-  FontChoice font_;
-  std::size_t selectionStart_ = 0;
-  std::size_t selectionLength_ = 0;
-};
-
 // The label of a field. It is named after the field: "lblCMRR" labels "txtCMRR", and "lblText7" labels "Text7".
 class FieldLabel {
  public:
@@ -121,7 +82,7 @@ class LabelledBox : public FieldLabel, public TextBox {
  public:
   LabelledBox(Form& form, std::string_view name, TextKind kind, std::string_view caption,
               UnitSuffix suffix = UnitSuffix::None)
-      : FieldLabel(form, name, caption, suffix), TextBox(form, name, kind) {}
+      : FieldLabel(form, name, caption, suffix), TextBox(form, name, kind, suffix) {}
   LabelledBox(Form& form, std::string_view name, std::string_view caption, UnitSuffix suffix = UnitSuffix::None)
       : LabelledBox(form, name, TextKind::Free, caption, suffix) {}
 };

@@ -30,6 +30,8 @@ Control* Form::Find(std::string_view name) const {
   return found == controls_.end() ? nullptr : *found;
 }
 
+std::vector<std::string> Form::HintOf(const Control& /*control*/) const { return {}; }
+
 void Form::Open() {
   if (open_) return;
   open_ = true;

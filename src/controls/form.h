@@ -50,6 +50,9 @@ class Form {
   Control* FocusRequest() const { return focus_; }
   void RequestFocus(Control& control);
 
+  // Returns the lines that explain a control, for its tooltip and for screen readers. Empty if there is nothing to say.
+  virtual std::vector<std::string> HintOf(const Control& control) const;
+
   // Sets the only view, or null. A view must remove itself before it is destroyed.
   void SetView(FormView* view) { view_ = view; }
   FormView* View() const { return view_; }

@@ -1,9 +1,12 @@
 // A form that uses the state of the run.
 #pragma once
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "controls/form.h"
+#include "core/field_hint.h"
 #include "core/help.h"
 #include "core/program.h"
 
@@ -13,6 +16,11 @@ class ProgramForm : public Form {
  public:
   ProgramForm(Program& program, std::string_view name, std::string_view caption)
       : Form(name, caption), program_(program) {}
+
+  std::vector<std::string> HintOf(const Control& control) const override {
+    const auto* field = dynamic_cast<const TextBox*>(&control);
+    return field == nullptr ? std::vector<std::string>() : FieldHint(program_, *field);
+  }
 
  protected:
   // Opens the topic of this form.

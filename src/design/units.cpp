@@ -44,6 +44,25 @@ std::string_view UnitLabel(UnitSuffix suffix, UnitSystem units) {
   return units == English ? labels.english : labels.metric;
 }
 
+double MetricPerEnglish(UnitSuffix suffix) {
+  constexpr double TonnesPerTon = 0.90718474;
+  constexpr double KilonewtonsPerMeganewton = 1000;
+  switch (suffix) {
+    case UnitSuffix::Length: return 1 / FeetPerMetre;
+    case UnitSuffix::Stress: return MPaPerKsi / 1000;
+    case UnitSuffix::UnitWeight: return 1 / PcfPerKilonewtonCubicMetre;
+    case UnitSuffix::ProductionMass: return TonnesPerTon;
+    case UnitSuffix::Grade: return MPaPerKsi;
+    case UnitSuffix::ProductionRate: return KilonewtonsPerTon * FeetPerMetre / KilonewtonsPerMeganewton;
+    case UnitSuffix::Diameter: return MillimetresPerInch;
+    case UnitSuffix::Force: return KilonewtonsPerTon;
+    case UnitSuffix::LineLoad: return KilonewtonsPerTon * FeetPerMetre;
+    case UnitSuffix::None:
+    case UnitSuffix::Degrees: break;
+  }
+  throw RuntimeError(error_number::Subscript);
+}
+
 std::string_view UnitSummary(UnitSystem units) {
   return units == English ? "ft, in, lbs, psi, pcf" : "m, cm, kN, MPa, kN/m3";
 }

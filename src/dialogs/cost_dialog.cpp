@@ -4,6 +4,7 @@
 
 #include "base/arithmetic.h"
 #include "base/attempt.h"
+#include "base/number_limits.h"
 #include "base/number_text.h"
 #include "core/act.h"
 #include "core/dialog_helpers.h"
@@ -53,6 +54,9 @@ constexpr std::array CostFields{
     CostField{&CostDialog::txtWeeksYear, &CostInputs::WeeksYear, "Invalid number of weeks per year"},
 };
 
+// What the checks accept in every field.
+constexpr NumberLimits Costs = AtLeast(0);
+
 template <class Compute>
 std::string FigureText(const Compute& compute) {
   const auto figure = OrNothing([&] { return std::optional(compute()); });
@@ -67,6 +71,9 @@ CostDialog::CostDialog(Program& program) : ProgramForm(program, "frmTULKCost", "
 }
 
 void CostDialog::TieEvents() {
+  for (const CostField& row : CostFields) {
+    (this->*row.Box).Range = [] { return FieldRange{Costs}; };
+  }
   for (TextBox* box : {&txtnboltsShift, &txtnBoltsRow, &txtRowSpacing}) {
     box->Change = [this] {
       if (!HoldEvents) CalcAdvance();
@@ -154,7 +161,7 @@ bool CostDialog::ValidateCost() {
   for (const CostField& row : CostFields) {
     TextBox& box = this->*row.Box;
     const auto number = FittingNumber(box.Text());
-    if (number && *number >= 0) continue;
+    if (number && Costs.Include(*number)) continue;
     ShowMessage(program_, std::string(row.Fault), BoxIcon::Critical, program_.windows.titles.RangeErrorTitle);
     RequestFocus(box);
     return false;

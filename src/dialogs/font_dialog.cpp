@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/arithmetic.h"
+#include "base/number_limits.h"
 #include "base/number_text.h"
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
@@ -11,8 +12,7 @@
 namespace orby {
 namespace {
 
-constexpr double SmallestSize = 7;
-constexpr double LargestSize = 24;
+constexpr NumberLimits Sizes = Between(7, 24);  // in points
 
 constexpr std::string_view Sample = "AaBbCcDdEe 0123456789";
 
@@ -28,6 +28,7 @@ FontDialog::FontDialog(Program& program, FontChoice present, std::vector<std::st
     : ProgramForm(program, "frmFont", "Font"),
       present_(std::move(present)),
       offered_(SortedWithoutDoubles(std::move(offered))) {
+  txtSize.Range = [] { return FieldRange{Sizes}; };
   lstFont.Click = [this] { ShowSample(); };
   txtSize.Change = [this] { ShowSample(); };
   chkBold.Click = [this] { ShowSample(); };
@@ -51,7 +52,7 @@ void FontDialog::OnOpen() {
 // can hold counts as the smallest.
 FontChoice FontDialog::Chosen() const {
   const int index = lstFont.ListIndex();
-  const double size = std::clamp(FittingNumber(txtSize.Text()).value_or(SmallestSize), SmallestSize, LargestSize);
+  const double size = std::clamp(FittingNumber(txtSize.Text()).value_or(Sizes.least), Sizes.least, Sizes.most);
   return {index < 0 ? present_.name : offered_[static_cast<std::size_t>(index)], static_cast<int>(RoundHalfEven(size)),
           chkBold.Checked(), chkItalic.Checked()};
 }
@@ -65,7 +66,7 @@ void FontDialog::Accept() {
     RequestFocus(lstFont);
     return;
   }
-  if (!RangeCheck(program_, txtSize.Text(), SmallestSize, LargestSize, txtSize.LabelCaption())) {
+  if (!RangeCheck(program_, txtSize.Text(), Sizes.least, Sizes.most, txtSize.LabelCaption())) {
     RequestFocus(txtSize);
     return;
   }

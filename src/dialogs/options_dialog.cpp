@@ -8,6 +8,7 @@
 #include <variant>
 
 #include "base/arithmetic.h"
+#include "base/number_limits.h"
 #include "base/number_text.h"
 #include "config/catalog_sections.h"
 #include "config/ini_file.h"
@@ -27,6 +28,8 @@ struct DefaultField {
   std::array<Default, 2> Members;  // English, Metric; twice the same one if both pages edit it
   std::string_view Fault = {};     // empty if every storable value is valid
   double Highest = std::numeric_limits<double>::infinity();
+
+  NumberLimits Limits() const { return Fault.empty() ? NumberLimits{} : Above(0).And({.most = Highest}); }
 };
 
 constexpr double HighestRoofRating = 100;
@@ -110,6 +113,11 @@ OptionsDialog::OptionsDialog(Program& program)
 }
 
 void OptionsDialog::TieCommands() {
+  for (const DefaultField& row : DefaultFields) {
+    for (LabelledBox& box : this->*row.Boxes) {
+      box.Range = [&row] { return FieldRange{row.Limits()}; };
+    }
+  }
   SSTab1.Click = [this] { program_.windows.OptionsTab = static_cast<Integer>(SSTab1.Tab()); };
   cmdFileAssoc.Click = [this] { AssociateFileExtension(program_); };
   cmdOK.Click = [this] { Accept(); };
@@ -160,8 +168,8 @@ bool OptionsDialog::CheckFaults() {
     for (const DefaultField& row : DefaultFields) {
       LabelledBox& field = (this->*row.Boxes)[page];
       const auto value = FittingNumber(field.Text());
+      if (value && row.Limits().Include(*value)) continue;
       const bool isChecked = !row.Fault.empty();
-      if (value && (!isChecked || (*value > 0 && *value <= row.Highest))) continue;
       ReportFault(isChecked ? std::string(row.Fault) : fault_text::TooLarge(field.LabelCaption(), field.Text()));
       GoTo(page, field);
       return false;

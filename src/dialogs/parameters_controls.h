@@ -37,11 +37,11 @@ struct BoltControls {
   Frame DiameterFrame{Dialog, Names[4], "Roof Bolt Diameter", UnitSuffix::Diameter};
   OptionArray DiameterMode{Dialog, Names[5], {{StandardSelection}, {ManualInput}}};
   Combo DiameterStd{Dialog, Names[6]};
-  TextBox DiameterManual{Dialog, Names[7]};
+  TextBox DiameterManual{Dialog, Names[7], TextKind::Free, UnitSuffix::Diameter};
   Frame GradeFrame{Dialog, Names[8], "Roof Bolt Yield Grade", UnitSuffix::Grade};
   OptionArray GradeMode{Dialog, Names[9], {{StandardSelection}, {ManualInput}}};
   Combo GradeStd{Dialog, Names[10]};
-  TextBox GradeManual{Dialog, Names[11]};
+  TextBox GradeManual{Dialog, Names[11], TextKind::Free, UnitSuffix::Grade};
 };
 
 // The choice of a cable: by diameter or by capacity.
@@ -56,7 +56,7 @@ struct CableControls {
   Frame SpecificationFrame{Dialog, Names[3], "Capacity Specification"};
   OptionArray Capacity{Dialog, Names[4], {{StandardSelection}, {ManualInput}}};
   Combo CapacityStd{Dialog, Names[5]};
-  TextBox CapacityManual{Dialog, Names[6]};
+  TextBox CapacityManual{Dialog, Names[6], TextKind::Free, UnitSuffix::Force};
 };
 
 // The choice of a standing support: from the catalog, or by name and capacity.

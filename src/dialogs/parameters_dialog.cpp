@@ -68,6 +68,7 @@ ParametersDialog::ParametersDialog(Program& program) : ParametersControls(progra
   txtOption.SetVisible(false);
   txtMessage.SetVisible(false);
   TieEvents();
+  TieRanges();
   TieCommands();
 }
 

@@ -71,6 +71,8 @@ class ParametersDialog : public ParametersControls {
   struct RefreshTable;  // the refreshes of each event
 
   void TieCommands();
+  // Gives each number field the range that the checks accept.
+  void TieRanges();
   void TieEvents();
   void TieFields();
   void TieGeneral();

@@ -1,4 +1,5 @@
 // The refusal of a number that the project cannot hold.
+#include "core/field_hint.h"
 #include "core/messages.h"
 #include "dialogs/fault_texts.h"
 #include "dialogs/parameters_dialog.h"
@@ -41,17 +42,14 @@ std::string ShownText(const Control& control) {
 
 }  // namespace
 
-// A field is named by the nearest label before it.
 void ParametersDialog::ReportRefused(const Control& field) {
   const PageStart* page = Pages;
-  std::string_view caption;
   for (Control* control : Controls()) {
     for (const PageStart& start : Pages) {
       if (start.control == control->Name()) page = &start;
     }
-    if (const auto* label = dynamic_cast<const Label*>(control)) caption = label->Caption();
     if (control != &field) continue;
-    ShowMessage(program_, fault_text::TooLarge(caption, ShownText(field)), BoxIcon::Critical,
+    ShowMessage(program_, fault_text::TooLarge(FieldCaption(field), ShownText(field)), BoxIcon::Critical,
                 program_.windows.titles.RangeErrorTitle);
     SSTab1.SetTab(page->outerTab);
     if (page->inner != nullptr) (this->*page->inner).SetTab(page->innerTab);

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/arithmetic.h"
+#include "base/number_limits.h"
 #include "base/number_text.h"
 #include "base/paths.h"
 #include "base/text.h"
@@ -18,6 +19,9 @@ namespace orby {
 namespace {
 
 constexpr std::string_view ViewerExtension = "EXE";
+
+// Of the history, in characters.
+constexpr NumberLimits HistorySizes = Between(4096, 16384);
 
 struct FlagField {
   CheckBox SettingsDialog::*box;
@@ -66,6 +70,7 @@ void TakeAnswer(TextBox& field, const Ask& ask) {
 
 SettingsDialog::SettingsDialog(Program& program, std::function<void()> modified)
     : ProgramForm(program, "frmSet", "Settings"), modified_(std::move(modified)) {
+  Text3.Range = [] { return FieldRange{HistorySizes}; };
   TieButtons();
 }
 
@@ -148,9 +153,8 @@ bool SettingsDialog::CheckPath() {
 }
 
 bool SettingsDialog::CheckHistorySize() {
-  constexpr double Least = 4096;
-  constexpr double Most = 16384;
-  if (RangeCheck(program_, Text3.Text(), Least, Most, "Size of Command History Window")) return true;
+  if (RangeCheck(program_, Text3.Text(), HistorySizes.least, HistorySizes.most, "Size of Command History Window"))
+    return true;
   RequestFocus(Text3);
   return false;
 }

@@ -25,6 +25,8 @@ QObject& FindObject(const BindingHost& host, const std::string& name) {
   return *found;
 }
 
+bool ShowsControlNames() { return qEnvironmentVariable("ORBY_ACCESSIBLE_IDS") == "1"; }
+
 bool IsBlocked(const QWidget& widget) {
   const QWidget* modal = QApplication::activeModalWidget();
   if (modal == nullptr) return false;

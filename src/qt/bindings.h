@@ -44,6 +44,9 @@ class Binding {
   virtual void Show() = 0;
   // Adopts the desktop's colours, at the start and after each change of the theme.
   virtual void ShowTheme() {}
+  // Shows whether the control is marked now. Called after each action of the user if CanBeMarked.
+  virtual void ShowMark() {}
+  virtual bool CanBeMarked() const { return false; }
   // Returns the widgets of the control in tab order.
   virtual std::vector<QWidget*> Widgets() const = 0;
   virtual std::vector<CaptionSlot> Captions() const { return {}; }
@@ -84,6 +87,9 @@ inline void ShowState(QWidget& widget, const Control& control) {
   widget.setEnabled(control.Enabled());
   widget.setVisible(control.Visible());
 }
+
+// Returns true if accessible descriptions are the names of the controls, for tests.
+bool ShowsControlNames();
 
 // Returns true if a modal window blocks the widget's window.
 bool IsBlocked(const QWidget& widget);

@@ -20,8 +20,6 @@
 namespace orby {
 namespace {
 
-bool ShowsControlNames() { return qEnvironmentVariable("ORBY_ACCESSIBLE_IDS") == "1"; }
-
 // Returns the name that a screen reader uses for a field without a label: the title of the frame around it, or of the
 // window.
 QString PlaceCaption(const QWidget& widget) {
@@ -80,6 +78,7 @@ BoundForm::BoundForm(Form& form, QWidget& root) : form_(form), root_(root) {
   OrderTabs();
   NameForReaders();
   ShowTheme();
+  for (Binding* binding : marked_) binding->ShowMark();
   root.installEventFilter(this);
   form.SetView(this);
 }
@@ -123,7 +122,10 @@ void BoundForm::AskForHelp() {
 }
 
 void BoundForm::BindControls() {
-  for (Control* control : form_.Controls()) bindings_.emplace(control, Bind(*this, *control));
+  for (Control* control : form_.Controls()) {
+    Binding& binding = *bindings_.emplace(control, Bind(*this, *control)).first->second;
+    if (binding.CanBeMarked()) marked_.push_back(&binding);
+  }
 }
 
 void BoundForm::AssignLetters() {
@@ -228,7 +230,10 @@ void BoundForm::Closed() {
 }
 
 void BoundForm::Act(const std::function<void()>& act) {
-  if (RunGuarded(act) && form_.Acted && form_.IsOpen()) RunGuarded(form_.Acted);
+  const bool isDone = RunGuarded(act);
+  // A mark depends on other fields too.
+  for (Binding* binding : marked_) binding->ShowMark();
+  if (isDone && form_.Acted && form_.IsOpen()) RunGuarded(form_.Acted);
 }
 
 void BoundForm::ActLater(std::function<void()> act) {

@@ -64,6 +64,7 @@ class BoundForm final : public QObject, public FormView, public BindingHost {
   QWidget& root_;
   Mnemonics letters_;
   std::unordered_map<const Control*, BindingPointer> bindings_;
+  std::vector<Binding*> marked_;  // those that can be marked
 };
 
 // Returns the first widget of a control on the screen, or null if its form is not on the screen.

@@ -73,5 +73,18 @@ TEST(UnitSystem, HasTheFactorsOfExistingDesigns) {
   EXPECT_EQ(PcfPerKilonewtonCubicMetre, 6.3663022639200495);
 }
 
+TEST(Units, FactorsLeadFromEnglishToMetric) {
+  EXPECT_NEAR(400 * MetricPerEnglish(UnitSuffix::Length), 121.92, 1e-9);
+  EXPECT_NEAR(0.75 * MetricPerEnglish(UnitSuffix::Diameter), 19.05, 1e-9);
+  EXPECT_NEAR(75 * MetricPerEnglish(UnitSuffix::Grade), 517.1068, 1e-4);
+  EXPECT_NEAR(162 * MetricPerEnglish(UnitSuffix::UnitWeight), 25.4465, 1e-4);
+  EXPECT_NEAR(30 * MetricPerEnglish(UnitSuffix::Force), 266.8933, 1e-4);
+  EXPECT_NEAR(10 * MetricPerEnglish(UnitSuffix::LineLoad), 291.8781, 1e-4);
+  EXPECT_NEAR(1000 * MetricPerEnglish(UnitSuffix::Stress), 6.894757, 1e-6);
+  EXPECT_NEAR(100 * MetricPerEnglish(UnitSuffix::ProductionMass), 90.71847, 1e-5);
+  EXPECT_NEAR(10 * MetricPerEnglish(UnitSuffix::ProductionRate), 0.2918781, 1e-7);
+  EXPECT_EQ(ErrorNumberOf([] { static_cast<void>(MetricPerEnglish(UnitSuffix::None)); }), 9);
+}
+
 }  // namespace
 }  // namespace orby::test

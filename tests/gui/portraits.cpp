@@ -147,6 +147,7 @@ class Sitting {
     photographer_.Take(platform_.screen.Main(), "main");
     TakeDescription();
     TakeParameters();
+    TakeMarkedFields();
     TakeDialog<CostDialog>("cost");
     TakeEstimator();
     TakeOptions();
@@ -207,6 +208,19 @@ class Sitting {
         Settle();
         TakePages(photographer_, window, tabs, std::string("parameters") + member);
       }
+      Click(window, "Command1");
+    });
+    ParametersDialog dialog(program_);
+    ShowForm(program_, dialog);
+  }
+
+  // Takes texts that are partly read, and numbers out of range.
+  void TakeMarkedFields() {
+    scripts_.Add([&](QDialog& window) {
+      TypeInto(window, "txtDepthofCover", "1,5");
+      TypeInto(window, "txtEntryWidth", "45");
+      TypeInto(window, "txtUnitWeight", "99");
+      photographer_.Take(window, "parameters-marked");
       Click(window, "Command1");
     });
     ParametersDialog dialog(program_);
