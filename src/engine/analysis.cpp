@@ -211,21 +211,15 @@ PrimaryFigures PrimaryOf(const RoofSupport& design, const Catalogs& catalogs, co
   return figures;
 }
 
-struct Anchorage {
-  double Cables;
-  double Bolts;
-};
-constexpr Anchorage AnchorageIn(UnitSystem units) { return units == Metric ? Anchorage{1.3, 0.305} : Anchorage{4, 1}; }
-
 // Returns the figures that entries and intersections share. `highest` is the height of rock that the fall angles allow.
 Reinforcement ReinforcementUnder(Single highest, const SecondarySupport& support, const RoofSupport& design) {
   const Anchorage anchorage = AnchorageIn(design.Units);
   Reinforcement figures;
   figures.HighestRock = highest;
   figures.HeightIsAdjusted = support.RockLoadHeight > highest;
-  figures.CablesAreShort = support.Cable.Length - anchorage.Cables < support.RockLoadHeight;
+  figures.CablesAreShort = IsTooShort(support.Cable.Length, anchorage.Cables, support.RockLoadHeight);
   // The warning for intersections also uses the bolt length and the rock of the entries.
-  figures.BoltsAreShort = design.Entries.Bolt.Length - anchorage.Bolts < design.Entries.RockLoadHeight;
+  figures.BoltsAreShort = IsTooShort(design.Entries.Bolt.Length, anchorage.Bolts, design.Entries.RockLoadHeight);
   return figures;
 }
 

@@ -49,9 +49,7 @@ PsupVerdict JudgePsup(const Comparison& psup) {
 }
 
 bool FailsASTM(const WorkingBolt& bolt, UnitSystem units) {
-  constexpr Single SmallestTons = 8.45F;
-  constexpr Single SmallestKilonewtons = 83.36F;
-  return BoltCapacityCheck(bolt.Grade, bolt.Diameter, units) < (units == Metric ? SmallestKilonewtons : SmallestTons);
+  return BoltCapacityCheck(bolt.Grade, bolt.Diameter, units) < SmallestCapacity(units);
 }
 
 bool IsPlausible(const SiteInputs& typed) {

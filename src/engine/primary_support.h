@@ -72,6 +72,9 @@ LengthVerdict JudgeLength(const Comparison& length, UnitSystem units);
 // The smallest suggested PSUP for which bolts carry load.
 inline constexpr Single SmallestPsup = 3;
 
+// The greatest suggested PSUP that primary bolts alone are meant for.
+inline constexpr Single MostWithoutSupplement = 12;
+
 enum class PsupVerdict { SkinControl, TooLow, Fine };
 
 // Judges the PSUP. A suggestion below 3 needs bolts only for skin control.
@@ -81,6 +84,9 @@ struct WorkingBolt {
   Inches Diameter{};
   Ksi Grade{};
 };
+
+// The smallest capacity of one bolt by the ASTM, in tons (kN).
+constexpr Single SmallestCapacity(UnitSystem units) { return units == Metric ? 83.36F : 8.45F; }
 
 // Returns true if the capacity of the bolt is below the ASTM minimum for the units.
 bool FailsASTM(const WorkingBolt& bolt, UnitSystem units);

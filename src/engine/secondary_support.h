@@ -44,6 +44,18 @@ struct SupportResult {
   Single StabilityFactor = 0;  // capacity / rock load
 };
 
+// The lengths of cable bolts and of roof bolts that must reach beyond the rock load height, in the units of the design.
+struct Anchorage {
+  double Cables;
+  double Bolts;
+};
+constexpr Anchorage AnchorageIn(UnitSystem units) { return units == Metric ? Anchorage{1.3, 0.305} : Anchorage{4, 1}; }
+
+// Returns true if a bolt reaches less than its anchorage beyond the rock load height.
+constexpr bool IsTooShort(Single length, double anchorage, Single rockLoadHeight) {
+  return length - anchorage < rockLoadHeight;
+}
+
 // Returns true for at least 100 pcf (15 kN/m3).
 bool UnitWeightIsPlausible(Single unitWeight, UnitSystem units);
 

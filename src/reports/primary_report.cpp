@@ -60,7 +60,6 @@ void ReportJudgement(ReportText& page, LengthVerdict length, bool failsASTM, Uni
 }
 
 void ReportPsup(ReportText& page, Single suggested, Single actual, PsupVerdict verdict) {
-  constexpr Single MostWithoutSupplement = 12;
   const Single atLeastSkin = std::max(suggested, SmallestPsup);
   page.Line("[ORBY DESIGN]");
   page.Value("Suggested PSUP for this location", FormatNumber(atLeastSkin, OneDecimal));

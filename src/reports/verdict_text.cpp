@@ -1,0 +1,141 @@
+#include "reports/verdict_text.h"
+
+#include <array>
+#include <cmath>
+
+#include "base/number_text.h"
+
+namespace orby {
+namespace {
+
+// How a judgement is worded. The figures come as "5.6 of the suggested 11.8".
+struct Wording {
+  std::string_view Subject;
+  std::string_view Relation;  // between the supply and the demand
+  UnitSuffix Unit;            // in entries; a system in intersections has forces
+  std::string_view Short;     // before the percentage
+  std::string_view Check;     // what to look at
+};
+
+constexpr std::string_view ShortBy = "short by";
+
+constexpr std::array<Wording, 12> Wordings{{
+    {"Sum of diagonals", "with at most", UnitSuffix::Length, "over by", ""},
+    {"Sum of diagonals", "for a width that needs", UnitSuffix::Length, "", "span and width may not match"},
+    {"Bolt length", "of the suggested", UnitSuffix::Length, ShortBy, "longer than needed"},
+    {"Bolt capacity", "of at least", UnitSuffix::Force, ShortBy, ""},
+    {"Actual PSUP", "of the suggested", UnitSuffix::None, ShortBy, ""},
+    {"Suggested PSUP", "with at most", UnitSuffix::None, "", "consider supplemental support"},
+    {"Cable bolts", "for a rock load of", UnitSuffix::LineLoad, ShortBy, ""},
+    {"Trusses", "for a rock load of", UnitSuffix::LineLoad, ShortBy, ""},
+    {"Roof bolts", "for a rock load of", UnitSuffix::LineLoad, ShortBy, ""},
+    {"Standing supports", "for a rock load of", UnitSuffix::LineLoad, ShortBy, ""},
+    {"Cable bolt length", "for a rock load height and anchorage of", UnitSuffix::Length, ShortBy, ""},
+    {"Roof bolt length", "for a rock load height and anchorage of", UnitSuffix::Length, ShortBy, ""},
+}};
+
+const Wording& WordingOf(const Verdict& verdict) { return Wordings.at(static_cast<std::size_t>(verdict.What)); }
+
+bool IsSystem(Aspect what) { return what >= Aspect::Cables && what <= Aspect::Standing; }
+
+std::string UnitText(const Verdict& verdict, UnitSystem units) {
+  UnitSuffix unit = WordingOf(verdict).Unit;
+  if (unit == UnitSuffix::LineLoad && verdict.Where == Opening::Intersections) unit = UnitSuffix::Force;
+  if (unit == UnitSuffix::None) return {};
+  std::string_view label = UnitLabel(unit, units);  // " (ft)"
+  label.remove_prefix(2);
+  label.remove_suffix(1);
+  return " " + std::string(label);
+}
+
+// Two numbers that differ have as many decimals as it takes to see it.
+struct NumberPair {
+  std::string Supply;
+  std::string Demand;
+};
+NumberPair TextsOf(Single supply, Single demand) {
+  NumberPair texts;
+  for (const NumberPattern pattern : {OneDecimal, NumberPattern("0.00"), NumberPattern("0.000")}) {
+    texts = {FormatNumber(supply, pattern), FormatNumber(demand, pattern)};
+    if (texts.Supply != texts.Demand) break;
+  }
+  return texts;
+}
+
+std::string PercentText(double share) {
+  const double percent = std::round(share * 100);
+  return percent < 1 ? "less than 1 %" : FormatNumber(percent, "0") + " %";
+}
+
+std::string_view ReasonText(const Verdict& verdict) {
+  switch (verdict.Reason) {
+    case Missing::Site: return "roof rating, depth, span or entry width are missing";
+    case Missing::Pattern: return "length, number, spacing, diameter or grade of the bolts are missing";
+    case Missing::RockLoad: return "there is no rock load for this unit weight, height, width and fall angle";
+    case Missing::Spacing: return "the row spacing or the number in a row is missing";
+    default: return ErrorDescription(verdict.Error);
+  }
+}
+
+// Returns the remark behind the figures, with the comma before it.
+std::string RemarkOn(const Verdict& verdict) {
+  const Wording& wording = WordingOf(verdict);
+  std::string remark;
+  if (IsSystem(verdict.What)) remark += ", stability factor " + FormatNumber(verdict.Factor, "0.00");
+  if (verdict.Result == Holding::Short) {
+    remark += ", " + std::string(wording.Short) + " " + PercentText(ShareMissing(verdict));
+  } else if (verdict.Result == Holding::Check && !wording.Check.empty()) {
+    remark += ", " + std::string(wording.Check);
+  } else if (verdict.Result == Holding::Check) {
+    remark += ", below that of the project";
+  } else if (verdict.What == Aspect::Psup && verdict.Supply < verdict.Demand) {
+    remark += ", skin control or suspension";
+  }
+  if (verdict.ReportDiffers) remark += "; the report judges the bolts of the entries";
+  return remark;
+}
+
+}  // namespace
+
+std::string_view HoldingWord(Holding result) {
+  constexpr std::array<std::string_view, 4> Words{"Holds", "Check", "Cannot be computed", "Short"};
+  return Words.at(static_cast<std::size_t>(result));
+}
+
+std::string VerdictSubject(const Verdict& verdict) {
+  constexpr std::array<std::string_view, 3> Places{"", " in entries", " in intersections"};
+  return std::string(WordingOf(verdict).Subject) + std::string(Places.at(static_cast<std::size_t>(verdict.Where)));
+}
+
+std::string VerdictFigures(const Verdict& verdict, UnitSystem units) {
+  if (verdict.Result == Holding::Uncomputed) return std::string(ReasonText(verdict));
+  const NumberPair texts = TextsOf(verdict.Supply, verdict.Demand);
+  return texts.Supply + " " + std::string(WordingOf(verdict).Relation) + " " + texts.Demand + UnitText(verdict, units) +
+         RemarkOn(verdict);
+}
+
+std::string VerdictLine(const Verdict& verdict, UnitSystem units) {
+  return std::string(HoldingWord(verdict.Result)) + ": " + VerdictSubject(verdict) + " " +
+         (verdict.Result == Holding::Uncomputed ? "- " : "") + VerdictFigures(verdict, units);
+}
+
+std::string VerdictCounts(const Verdicts& verdicts) {
+  struct Counted {
+    Holding Result;
+    std::string_view Words;
+  };
+  constexpr std::array<Counted, 4> Order{{{Holding::Short, " short"},
+                                          {Holding::Uncomputed, " not computed"},
+                                          {Holding::Check, " to check"},
+                                          {Holding::Holds, " holding"}}};
+  std::string text;
+  for (const Counted& counted : Order) {
+    const std::size_t count = verdicts.Count(counted.Result);
+    if (count == 0) continue;
+    if (!text.empty()) text += ", ";
+    text += NumberText(static_cast<double>(count)) + std::string(counted.Words);
+  }
+  return text.empty() ? "Nothing is analysed" : text;
+}
+
+}  // namespace orby

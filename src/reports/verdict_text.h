@@ -1,0 +1,27 @@
+// Judgements in words, as the dialog, the main window and tables show them.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "engine/verdicts.h"
+
+namespace orby {
+
+// Returns the word for a result: "Holds", "Check", "Cannot be computed" or "Short".
+std::string_view HoldingWord(Holding result);
+
+// Returns what is judged: "Actual PSUP", "Cable bolts in entries".
+std::string VerdictSubject(const Verdict& verdict);
+
+// Returns what is demanded and supplied, with units, and by how much it falls short:
+// "5.6 of the suggested 11.8, short by 53 %".
+std::string VerdictFigures(const Verdict& verdict, UnitSystem units);
+
+// Returns all of it in one line: "Short: actual PSUP 5.6 of the suggested 11.8, short by 53 %".
+std::string VerdictLine(const Verdict& verdict, UnitSystem units);
+
+// Returns how many judgements have each result, the worst first: "2 short, 1 to check, 5 hold".
+std::string VerdictCounts(const Verdicts& verdicts);
+
+}  // namespace orby
