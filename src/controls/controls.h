@@ -159,7 +159,8 @@ Choice Chosen(const OptionArray& options) {
 
 struct ComboItem {
   std::string text;
-  double data = 0;  // a whole number
+  double data = 0;          // a whole number
+  std::string_view mark{};  // the picture before the text, in a list
 };
 
 // A list with a text field. The text and the selected item are separate: a text that equals no item stays, and no item

@@ -38,6 +38,11 @@ void Form::Open() {
   OnOpen();
 }
 
+void Form::EndAct() {
+  OnAct();
+  if (Acted) Acted();
+}
+
 void Form::Close() {
   if (!open_) return;
   open_ = false;

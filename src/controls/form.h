@@ -57,12 +57,16 @@ class Form {
   void SetView(FormView* view) { view_ = view; }
   FormView* View() const { return view_; }
 
-  // Called after the form has handled an action of the user, such as a key or a click.
+  // Called after EndAct, for who wants to know of the edits.
   std::function<void()> Acted;
+  // Ends an action of the user, such as a key or a click.
+  void EndAct();
 
  protected:
   virtual void OnOpen() = 0;
   virtual void OnClose() {}
+  // Brings what follows all fields up to date, once for an action of the user.
+  virtual void OnAct() {}
 
  private:
   friend class Control;

@@ -257,6 +257,10 @@ class ParametersControls : public ProgramForm {
         {"txtStabFactorInter1", "txtStabFactorInter2", "txtStabFactorInter3", "txtStabFactorInter4"}}},
       UnitSuffix::Force};
 
+  // the judgements, on view from every tab
+  Label lblVerdicts{*this, "lblVerdicts", "Judgements"};
+  List lstVerdicts{*this, "lstVerdicts"};
+
   // commands
   Button Command2{*this, "Command2", "OK"};
   Button Command1{*this, "Command1", "Cancel", [this] { Close(); }};

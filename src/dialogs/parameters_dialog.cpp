@@ -85,6 +85,7 @@ void ParametersDialog::TieCommands() {
   Command5.Click = [this] { CopyClip(program_, *this); };
   Command3.Click = [this] { ContextHelpHint(program_); };
   cmdCMRR.Click = [this] { Estimate(); };
+  lstVerdicts.Click = [this] { GoToVerdict(static_cast<std::size_t>(lstVerdicts.ListIndex())); };
 }
 
 void ParametersDialog::OnOpen() {
@@ -110,6 +111,7 @@ void ParametersDialog::OnOpen() {
   ShowActualPSUP();
   ShowEntries();
   ShowIntersections();
+  ShowVerdicts();
   program_.platform.windows.CenterForm(*this);
 }
 

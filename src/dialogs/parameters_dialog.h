@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "dialogs/parameters_controls.h"
-#include "engine/analysis.h"
+#include "engine/verdicts.h"
 
 namespace orby {
 
@@ -51,6 +51,10 @@ class ParametersDialog : public ParametersControls {
   void ShowEntries();
   void ShowIntersections();
 
+  // Shows the judgements on the fields as they stand, the worst first. Where the design that OK would commit is judged
+  // in another way, both are shown.
+  void ShowVerdicts();
+
   bool HoldEvents = false;  // suspends the refreshes
   bool CommitOnClose = false;
   bool WasCommitted = false;
@@ -60,6 +64,7 @@ class ParametersDialog : public ParametersControls {
  protected:
   void OnOpen() override;
   void OnClose() override;
+  void OnAct() override { ShowVerdicts(); }
 
  private:
   // The refreshes that a change event runs, in this order.
@@ -102,7 +107,11 @@ class ParametersDialog : public ParametersControls {
   // Opens the estimator and takes its roof rating.
   void Estimate();
 
+  // Moves the focus to the field that decides the judgement of a row.
+  void GoToVerdict(std::size_t row);
+
   Design typed_;
+  std::vector<Verdict> verdicts_;  // in the order of their rows
 };
 
 }  // namespace orby

@@ -22,6 +22,9 @@ constexpr std::uint32_t InkColour(Ink ink, Ground ground) {
     case Ink::Truss: return isDark ? 0x4fd1c5 : 0x0f6f68;
     case Ink::Standing: return isDark ? 0xe0b050 : 0x7d5200;
     case Ink::Limit: return isDark ? 0x5fd38a : 0x146c35;
+    case Ink::Good: return isDark ? 0x5fd38a : 0x146c35;
+    case Ink::Doubtful: return isDark ? 0xf0b040 : 0x9a5b00;
+    case Ink::Bad: return isDark ? 0xff8080 : 0xb3261e;
     case Ink::None: break;
   }
   return 0;

@@ -9,6 +9,11 @@ constexpr PictureOutline Back[] = {
     {"M21.75 12L3 12M9.75 5.25L3 12 9.75 18.75", {}, {.Colour = Ink::Text, .Width = 1.5}},
 };
 
+// The marks of judgements differ in shape and in colour.
+constexpr PictureOutline CheckMark[] = {
+    {"M12 3L22 21 2 21ZM12 9L12 15M12 17L12 19", {}, {.Colour = Ink::Doubtful, .Width = 2}},
+};
+
 constexpr PictureOutline Contents[] = {
     {"M12 6C9.75 4.5 6 3.75 2.25 3.75L2.25 18.75C6 18.75 9.75 19.5 12 21 14.25 19.5 18 18.75 21.75 18.75L21.75 3.75"
      "C18 3.75 14.25 4.5 12 6ZM12 6L12 21",
@@ -32,6 +37,14 @@ constexpr PictureOutline Find[] = {
 
 constexpr PictureOutline Forward[] = {
     {"M2.25 12L21 12M14.25 5.25L21 12 14.25 18.75", {}, {.Colour = Ink::Text, .Width = 1.5}},
+};
+
+constexpr PictureOutline HoldsMark[] = {
+    {"M12 2.5C6.75 2.5 2.5 6.75 2.5 12 2.5 17.25 6.75 21.5 12 21.5 17.25 21.5 21.5 17.25 21.5 12 21.5 6.75 17.25 2.5 "
+     "12 2.5Z"
+     "M7 12.5L10.5 16 17 9",
+     {},
+     {.Colour = Ink::Good, .Width = 2}},
 };
 
 constexpr PictureOutline Open[] = {
@@ -72,6 +85,16 @@ constexpr PictureOutline Save[] = {
      "L6.75 12.75 17.25 12.75 17.25 20.25",
      {},
      {.Colour = Ink::Text, .Width = 1.5}},
+};
+
+constexpr PictureOutline ShortMark[] = {
+    {"M7.75 2L16.25 2 22 7.75 22 16.25 16.25 22 7.75 22 2 16.25 2 7.75ZM8 8L16 16M16 8L8 16",
+     {},
+     {.Colour = Ink::Bad, .Width = 2.5}},
+};
+
+constexpr PictureOutline UncomputedMark[] = {
+    {"M3 3L21 3 21 21 3 21ZM7.5 12L16.5 12", {}, {.Colour = Ink::Muted, .Width = 2}},
 };
 
 constexpr PictureOutline ZoomIn[] = {
@@ -161,17 +184,21 @@ constexpr PictureLabel IntersectionPlanLabels[] = {
     {.Text = "d2", .At = {243, 114}, .Side = Anchor::End, .IsBold = true},
     {.Text = "Sum of the diagonals = d1 + d2", .At = {210, 322}, .Side = Anchor::Middle}};
 
-constexpr std::array<Picture, 14> Pictures{{
+constexpr std::array<Picture, 18> Pictures{{
     {"back", 24, 24, Back, {}},
+    {"check", 24, 24, CheckMark, {}},
     {"contents", 24, 24, Contents, {}},
     {"description", 24, 24, Description, {}},
     {"find", 24, 24, Find, {}},
     {"forward", 24, 24, Forward, {}},
+    {"holds", 24, 24, HoldsMark, {}},
     {"open", 24, 24, Open, {}},
     {"orby", 64, 64, Orby, {}},
     {"parameters", 24, 24, Parameters, {}},
     {"print", 24, 24, Print, {}},
     {"save", 24, 24, Save, {}},
+    {"short", 24, 24, ShortMark, {}},
+    {"uncomputed", 24, 24, UncomputedMark, {}},
     {"zoom_in", 24, 24, ZoomIn, {}},
     {"zoom_out", 24, 24, ZoomOut, {}},
     {"entry_section", 484, 280, EntrySection, EntrySectionLabels},

@@ -13,8 +13,8 @@ struct ScenePoint {
 };
 
 // The colours of a drawing by what they are for. Text is the colour of texts around the drawing, light or dark.
-// Limit is the colour of suggested values.
-enum class Ink { None, Text, Muted, Rock, Bolt, Cable, Truss, Standing, Limit };
+// Limit is the colour of suggested values. The last three are those of judgements.
+enum class Ink { None, Text, Muted, Rock, Bolt, Cable, Truss, Standing, Limit, Good, Doubtful, Bad };
 
 struct PathStep {
   enum class Kind { Move, Line, Curve, Close };

@@ -113,7 +113,7 @@ WorkingBolt BoltOf(const BoltPattern& pattern) { return {.Diameter = pattern.Dia
 
 // ---- secondary support ---------------------------------------------------------------------------------------------
 
-Verdict JudgeSystem(std::size_t system, Opening where, const SupportFigures& figures, Single neededFactor) {
+Verdict JudgeSystem(std::size_t system, Opening where, const SupportFigures& figures, Single wantedFactor) {
   constexpr Aspect Aspects[] = {Aspect::Cables, Aspect::Trusses, Aspect::Bolts, Aspect::Standing};
   const Aspect what = Aspects[system];
   if (!figures.RockLoad.IsThere()) return Failed(what, where, figures.RockLoad.Error());
@@ -124,14 +124,15 @@ Verdict JudgeSystem(std::size_t system, Opening where, const SupportFigures& fig
   const auto support = computed.ValueOr({});
   if (!support) return Incomplete(what, where, Missing::Spacing);
   Holding result = Holding::Holds;
-  if (support->StabilityFactor < neededFactor) result = Holding::Check;
+  if (support->StabilityFactor < wantedFactor) result = Holding::Check;
   if (support->StabilityFactor < 1) result = Holding::Short;
   return {.What = what,
           .Where = where,
           .Result = result,
           .Demand = *rockLoad,
           .Supply = support->Capacity,
-          .Factor = support->StabilityFactor};
+          .Factor = support->StabilityFactor,
+          .WantedFactor = wantedFactor};
 }
 
 Verdict JudgeAnchorage(Aspect what, Opening where, Single length, double anchorage, Single height) {

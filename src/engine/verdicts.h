@@ -53,6 +53,7 @@ struct Verdict {
   Single Demand = 0;
   Single Supply = 0;
   Single Factor = 0;           // the unrounded stability factor of a system
+  Single WantedFactor = 0;     // that of the project
   bool ReportDiffers = false;  // the report judges by a field of another tab
 
   bool operator==(const Verdict&) const = default;

@@ -12,9 +12,12 @@
 #include <QWheelEvent>
 #include <algorithm>
 #include <iterator>
+#include <string_view>
+#include <vector>
 
 #include "qt/bindings.h"
 #include "qt/mnemonics.h"
+#include "qt/pictures.h"
 #include "qt/texts.h"
 
 namespace orby {
@@ -226,10 +229,7 @@ class ListBinding : public QObject, public WidgetBinding<QListWidget, List> {
   void Show() override {
     const QSignalBlocker quiet(widget_);
     ShowState(widget_, control_);
-    if (!ShowsItems()) {
-      widget_.clear();
-      for (const ComboItem& item : control_.Items()) widget_.addItem(ToQt(item.text));
-    }
+    ShowItems();
     widget_.setCurrentRow(control_.ListIndex());
   }
 
@@ -265,13 +265,23 @@ class ListBinding : public QObject, public WidgetBinding<QListWidget, List> {
     }
   }
 
-  bool ShowsItems() const {
+  // Changes only what differs.
+  void ShowItems() {
     const auto& items = control_.Items();
-    if (widget_.count() != static_cast<int>(items.size())) return false;
-    for (int i = 0; i < widget_.count(); ++i) {
-      if (widget_.item(i)->text() != ToQt(items[static_cast<std::size_t>(i)].text)) return false;
+    const int count = static_cast<int>(items.size());
+    while (widget_.count() > count) delete widget_.takeItem(count);
+    marks_.resize(items.size());
+    for (int i = 0; i < count; ++i) {
+      const ComboItem& item = items[static_cast<std::size_t>(i)];
+      if (i == widget_.count()) widget_.addItem(QString());
+      QListWidgetItem& row = *widget_.item(i);
+      const QString text = ToQt(item.text);
+      if (row.text() != text) row.setText(text);
+      std::string_view& mark = marks_[static_cast<std::size_t>(i)];
+      if (mark == item.mark) continue;
+      mark = item.mark;
+      row.setIcon(mark.empty() ? QIcon() : ThemedIcon(ToQt(mark)));
     }
-    return true;
   }
 
   // An earlier action in the queue may refill the list. The item is then gone and nothing is chosen.
@@ -283,6 +293,7 @@ class ListBinding : public QObject, public WidgetBinding<QListWidget, List> {
   }
 
   bool isByHand_ = false;
+  std::vector<std::string_view> marks_;  // that the items show
 };
 
 class SliderBinding : public WidgetBinding<QSlider, Slider> {

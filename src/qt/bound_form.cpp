@@ -233,7 +233,7 @@ void BoundForm::Act(const std::function<void()>& act) {
   const bool isDone = RunGuarded(act);
   // A mark depends on other fields too.
   for (Binding* binding : marked_) binding->ShowMark();
-  if (isDone && form_.Acted && form_.IsOpen()) RunGuarded(form_.Acted);
+  if (isDone && form_.IsOpen()) RunGuarded([this] { form_.EndAct(); });
 }
 
 void BoundForm::ActLater(std::function<void()> act) {

@@ -53,12 +53,15 @@ struct NumberPair {
   std::string Supply;
   std::string Demand;
 };
-NumberPair TextsOf(Single supply, Single demand) {
+NumberPair TextsOf(const Verdict& verdict) {
   NumberPair texts;
-  for (const NumberPattern pattern : {OneDecimal, NumberPattern("0.00"), NumberPattern("0.000")}) {
-    texts = {FormatNumber(supply, pattern), FormatNumber(demand, pattern)};
-    if (texts.Supply != texts.Demand) break;
-  }
+  const auto write = [&](NumberPattern pattern) {
+    texts = {FormatNumber(verdict.Supply, pattern), FormatNumber(verdict.Demand, pattern)};
+    return texts.Supply != texts.Demand;
+  };
+  // The limit of the standard has two decimals.
+  if (verdict.What != Aspect::BoltCapacity && write(OneDecimal)) return texts;
+  if (!write("0.00")) write("0.000");
   return texts;
 }
 
@@ -87,7 +90,7 @@ std::string RemarkOn(const Verdict& verdict) {
   } else if (verdict.Result == Holding::Check && !wording.Check.empty()) {
     remark += ", " + std::string(wording.Check);
   } else if (verdict.Result == Holding::Check) {
-    remark += ", below that of the project";
+    remark += ", below the " + FormatNumber(verdict.WantedFactor, "0.00") + " of the project";
   } else if (verdict.What == Aspect::Psup && verdict.Supply < verdict.Demand) {
     remark += ", skin control or suspension";
   }
@@ -109,7 +112,7 @@ std::string VerdictSubject(const Verdict& verdict) {
 
 std::string VerdictFigures(const Verdict& verdict, UnitSystem units) {
   if (verdict.Result == Holding::Uncomputed) return std::string(ReasonText(verdict));
-  const NumberPair texts = TextsOf(verdict.Supply, verdict.Demand);
+  const NumberPair texts = TextsOf(verdict);
   return texts.Supply + " " + std::string(WordingOf(verdict).Relation) + " " + texts.Demand + UnitText(verdict, units) +
          RemarkOn(verdict);
 }

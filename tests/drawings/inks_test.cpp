@@ -25,8 +25,9 @@ constexpr std::uint32_t Paper = 0xffffff;
 constexpr std::uint32_t LightWindow = 0xefefef;
 constexpr std::uint32_t DarkWindow = 0x2b2b2b;
 
-TEST(Inks, OfSupportsAndLimitsAreAsClearAsText) {
-  for (const Ink ink : {Ink::Text, Ink::Cable, Ink::Truss, Ink::Standing, Ink::Limit}) {
+TEST(Inks, OfSupportsLimitsAndJudgementsAreAsClearAsText) {
+  for (const Ink ink :
+       {Ink::Text, Ink::Cable, Ink::Truss, Ink::Standing, Ink::Limit, Ink::Good, Ink::Doubtful, Ink::Bad}) {
     EXPECT_GE(Contrast(InkColour(ink, Ground::Light), Paper), 4.5);
     EXPECT_GE(Contrast(InkColour(ink, Ground::Light), LightWindow), 4.5);
     EXPECT_GE(Contrast(InkColour(ink, Ground::Dark), DarkWindow), 4.5);
