@@ -3,6 +3,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,29 @@ struct ChartAxis {
   bool operator==(const ChartAxis&) const = default;
 };
 
+// A named point, drawn over the series.
+struct ChartPoint {
+  double x = 0;
+  double y = 0;
+  std::string name;
+  bool operator==(const ChartPoint&) const = default;
+};
+
+// A named line across the plot, at a value of one axis.
+struct ChartLine {
+  bool isOfX = false;  // at a value of the horizontal axis, so it is vertical
+  double value = 0;
+  std::string name;
+  bool operator==(const ChartLine&) const = default;
+};
+
+// A point of a series, counted from 0.
+struct ChartPlace {
+  int series = 0;
+  int point = 0;
+  bool operator==(const ChartPlace&) const = default;
+};
+
 // The part of the chart under the pointer.
 struct ChartHit {
   bool inPlot = false;
@@ -51,6 +75,14 @@ class Chart : public Control {
   const std::vector<ChartSeries>& Series() const { return series_; }
   void SetSeries(std::vector<ChartSeries> series) { Mirror(series_, std::move(series)); }
 
+  const std::optional<ChartPoint>& Own() const { return own_; }
+  void SetOwn(std::optional<ChartPoint> own) { Mirror(own_, std::move(own)); }
+  const std::vector<ChartLine>& References() const { return references_; }
+  void SetReferences(std::vector<ChartLine> references) { Mirror(references_, std::move(references)); }
+  // The point whose coordinates are read out.
+  const std::optional<ChartPlace>& ReadPoint() const { return readPoint_; }
+  void SetReadPoint(std::optional<ChartPlace> point) { Mirror(readPoint_, point); }
+
   std::function<void(const ChartHit& hit)> MouseMove;
 
  private:
@@ -58,6 +90,9 @@ class Chart : public Control {
   std::array<ChartAxis, 2> axes_;
   bool legendShown_ = false;
   std::vector<ChartSeries> series_;
+  std::optional<ChartPoint> own_;
+  std::vector<ChartLine> references_;
+  std::optional<ChartPlace> readPoint_;
 };
 
 }  // namespace orby

@@ -54,8 +54,10 @@ struct EstimatorState {
 // The curve that was drawn last.
 struct DrawnCurve : Curve {
   Integer CurveIndex = 0;
-  Integer CurveCount = 0;    // series in the chart
-  bool GraphClosed = false;  // the graph window was open and has been closed
+  Integer CurveCount = 0;         // series in the chart
+  bool GraphClosed = false;       // the graph window was open and has been closed
+  std::optional<CurvePoint> Own;  // of the design that the curve was computed from
+  std::vector<CurveReference> References;
 };
 
 // The input dialog that requested the report that is shown.

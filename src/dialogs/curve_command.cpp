@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "core/messages.h"
+#include "engine/analysis.h"
 
 namespace orby {
 namespace {
@@ -16,6 +17,12 @@ std::string_view NoticeText(CurveNotice notice) {
   return "Lower limit for IntersectionSpan adjusted > 0";
 }
 
+std::optional<Single> ActualPSUPOf(const Design& design, const Catalogs& catalogs) {
+  const Computed<PrimaryFigures> primary = Analyze(design, catalogs).Primary;
+  if (!primary.IsThere()) return std::nullopt;
+  return primary.Value().ActualPSUP;
+}
+
 }  // namespace
 
 void TakeCurve(Program& program, const Design& design, Integer index) {
@@ -23,7 +30,10 @@ void TakeCurve(Program& program, const Design& design, Integer index) {
   if (sweep.Notice) ShowMessage(program, std::string(NoticeText(*sweep.Notice)));
   if (sweep.Failure) throw RuntimeError(*sweep.Failure);
   static_cast<Curve&>(program.windows.curve) = std::move(sweep.Points);
-  program.windows.curve.CurveIndex = index;
+  DrawnCurve& curve = program.windows.curve;
+  curve.CurveIndex = index;
+  curve.Own = DesignPoint(design, index);
+  curve.References = ReferencesOf(design, ActualPSUPOf(design, program.session.catalogs), index);
 }
 
 }  // namespace orby

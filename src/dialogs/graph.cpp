@@ -27,6 +27,11 @@ constexpr std::array<Dependent, 3> Dependents{{
     {"Rock Load Intersections", Measure::Force, "Rock Load Intersections", "RockLoad"},
 }};
 
+// By ReferenceKind.
+constexpr std::array<std::string_view, 6> ReferenceNames{
+    "Actual PSUP",         "Suggested sum of diagonals", "Capacity of cable bolts",
+    "Capacity of trusses", "Capacity of roof bolts",     "Capacity of standing supports"};
+
 constexpr std::array<int, 6> Colours{16711680, 6053069, 0, 25600, 4, 5};
 
 template <class Table>
@@ -101,6 +106,17 @@ std::string ReformattedLegendText(Integer curveIndex, Integer series) {
 std::string CurveTitle(Integer curveIndex) {
   const std::string dependent(DependentOf(curveIndex).label);
   return dependent + " vs " + std::string(SubjectOfCurve(curveIndex).Independent);
+}
+
+std::string OwnPointName(Integer curveIndex) {
+  // The curves of intersections are computed with the height, the angle and the unit weight of the entries.
+  const bool isOfIntersection = SubjectOfCurve(curveIndex).Figure == CurveFigure::IntersectionLoad;
+  return isOfIntersection ? "This design, by the inputs of its entries" : "This design";
+}
+
+std::string ReferenceName(const CurveReference& reference) {
+  const std::string_view name = At(ReferenceNames, NumberOf(reference.What));
+  return std::string(name) + " " + FormatNumber(reference.Value, OneDecimal);
 }
 
 void ApplyTitlesAndGrid(const GraphSettings& graph, Integer curveIndex, Chart& chart) {

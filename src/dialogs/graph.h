@@ -32,6 +32,11 @@ std::string ReformattedLegendText(Integer curveIndex, Integer series);
 // Returns the curve in words, such as "Suggested PSUP vs Depth of Cover".
 std::string CurveTitle(Integer curveIndex);
 
+// Returns the name of the design's own point on a curve.
+std::string OwnPointName(Integer curveIndex);
+// Returns the name of a reference line with its value, such as "Actual PSUP 9.9".
+std::string ReferenceName(const CurveReference& reference);
+
 // Sets the chart's titles and grid lines for one curve. Throws RuntimeError 9 outside 0..9.
 void ApplyTitlesAndGrid(const GraphSettings& graph, Integer curveIndex, Chart& chart);
 // Sets the line and symbols of a series by graph style and symbol size.

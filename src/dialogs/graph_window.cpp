@@ -98,8 +98,22 @@ void GraphWindow::DrawCurve() {
     ApplyStyle(program_.session.graph, series);
     drawn.push_back(std::move(series));
   }
+  graph1.SetReadPoint({});
   graph1.SetSeries(std::move(drawn));
+  MarkDesign();
   graph1.SetLegendShown(program_.session.graph.CurveLegend == 1);
+}
+
+void GraphWindow::MarkDesign() {
+  const DrawnCurve& curve = program_.windows.curve;
+  std::optional<ChartPoint> own;
+  if (curve.Own) own = ChartPoint{curve.Own->X, curve.Own->Y, OwnPointName(curve.CurveIndex)};
+  graph1.SetOwn(std::move(own));
+  std::vector<ChartLine> references;
+  for (const CurveReference& reference : curve.References) {
+    references.push_back({reference.IsOfX, reference.Value, ReferenceName(reference)});
+  }
+  graph1.SetReferences(std::move(references));
 }
 
 void GraphWindow::ClearGraph() {
@@ -120,10 +134,12 @@ void GraphWindow::ReadOut(const ChartHit& hit) {
   lblX.SetCaption(FormatNumber(ToSingle(series.x[point]), CoordinateFormat));
   lblSF.SetCaption(FormatNumber(ToSingle(series.y[point]), CoordinateFormat));
   lblCurve.SetCaption(ShortCurveName(program_.windows.curve.CurveIndex));
+  graph1.SetReadPoint(ChartPlace{hit.series, hit.point});
 }
 
 void GraphWindow::ClearReadOut() {
   for (Label* label : {&lblX, &lblSF, &lblCurve}) label->SetCaption({});
+  graph1.SetReadPoint({});
 }
 
 void GraphWindow::Print() {
@@ -162,6 +178,7 @@ void GraphWindow::TogglePointID() {
   const bool shown = !GraphOptionsItem.ItemChecked(NumberOf(GraphOptionsEntry::PointID));
   GraphOptionsItem.SetItemChecked(NumberOf(GraphOptionsEntry::PointID), shown);
   Frame1.SetVisible(shown);
+  if (!shown) graph1.SetReadPoint({});
 }
 
 void GraphWindow::EditOptions() {

@@ -48,6 +48,8 @@ class GraphWindow : public ProgramForm {
   void OnClose() override;
 
  private:
+  // Shows the point of the design and what the curve is compared with.
+  void MarkDesign();
   void ReadOut(const ChartHit& hit);
   void ClearReadOut();
   void Print();

@@ -198,6 +198,17 @@ Curve PointsOf(const CurveRule& rule, const Range& range, WorkingValues& values,
   return curve;
 }
 
+void AddSystems(const SecondarySupport& support, std::vector<CurveReference>& references) {
+  constexpr std::array Kinds{ReferenceKind::Cables, ReferenceKind::Trusses, ReferenceKind::Bolts,
+                             ReferenceKind::StandingSupports};
+  if (support.Analysed != 1) return;
+  const auto systems = support.Systems();
+  for (std::size_t i = 0; i < systems.size(); ++i) {
+    if (systems[i]->Use == 1 && systems[i]->SupportCap > 0)
+      references.push_back({Kinds[i], false, systems[i]->SupportCap});
+  }
+}
+
 }  // namespace
 
 const CurveSubject& SubjectOfCurve(Integer index) { return RuleOf(index).subject; }
@@ -214,6 +225,38 @@ CurveSweep GenerateCurve(const RoofSupport& design, Integer index) {
     sweep.Failure = error;
   }
   return sweep;
+}
+
+std::optional<CurvePoint> DesignPoint(const RoofSupport& design, Integer index) {
+  const CurveRule& rule = RuleOf(index);
+  const FigureRule& figure = Figures[static_cast<std::size_t>(rule.subject.Figure)];
+  try {
+    WorkingValues values = WorkingValuesOf(design);
+    const Single result = figure.result(values);
+    return CurvePoint{InProjectUnits(values.*rule.swept, rule.subject.IndependentMeasure, design.Units),
+                      InProjectUnits(result, figure.measure, design.Units)};
+  } catch (const RuntimeError&) {
+    return std::nullopt;
+  }
+}
+
+std::vector<CurveReference> ReferencesOf(const RoofSupport& design, std::optional<Single> actualPSUP, Integer index) {
+  const CurveRule& rule = RuleOf(index);
+  std::vector<CurveReference> references;
+  switch (rule.subject.Figure) {
+    case Support:
+      if (design.Primary.Analysed == 1 && actualPSUP) {
+        references.push_back({ReferenceKind::ActualPSUP, false, *actualPSUP});
+      }
+      break;
+    case EntryLoad: AddSystems(design.Entries, references); break;
+    case IntersectionLoad: AddSystems(design.Intersections, references); break;
+  }
+  if (rule.swept == &V::Span) {
+    const Single suggested = SuggestedSumDiagonals(design.Place.CMRR).Value;
+    references.push_back({ReferenceKind::SuggestedSpan, true, InProjectUnits(suggested, Length, design.Units)});
+  }
+  return references;
 }
 
 }  // namespace orby

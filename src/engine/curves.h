@@ -45,8 +45,32 @@ struct CurveSweep {
   std::optional<RuntimeError> Failure;  // why there are no points
 };
 
+struct CurvePoint {
+  Single X = 0;
+  Single Y = 0;
+};
+
+// A value of the design that a curve is compared with.
+enum class ReferenceKind { ActualPSUP, SuggestedSpan, Cables, Trusses, Bolts, StandingSupports };
+
+struct CurveReference {
+  ReferenceKind What = ReferenceKind::ActualPSUP;
+  bool IsOfX = false;  // compared with the swept input, not with the figure
+  Single Value = 0;
+};
+
 // Computes a curve of the design. A sweep without columns fails with RuntimeError 9. An error of a relation becomes the
 // failure of the sweep. Throws RuntimeError 9 for an index outside 0..9.
 CurveSweep GenerateCurve(const RoofSupport& design, Integer index);
+
+// Returns the point of the design itself, in its units: its value of the swept input, and the figure of the curve for
+// it. A height that the fall angle limits is returned as limited. Returns nothing if the figure cannot be computed.
+// Throws RuntimeError 9 for an index outside 0..9.
+std::optional<CurvePoint> DesignPoint(const RoofSupport& design, Integer index);
+
+// Returns what the curve is compared with, in the units of the design: the actual PSUP, the suggested sum of diagonals,
+// and the capacity of each system in use, as the report shows it. Leaves out what is not analysed or has no value.
+// `actualPSUP` is empty if it cannot be computed. Throws RuntimeError 9 for an index outside 0..9.
+std::vector<CurveReference> ReferencesOf(const RoofSupport& design, std::optional<Single> actualPSUP, Integer index);
 
 }  // namespace orby

@@ -2,10 +2,14 @@
 
 #include <qcustomplot.h>
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <cmath>
 
+#include "base/arithmetic.h"
+#include "base/number_text.h"
 #include "qt/contrast.h"
 #include "qt/texts.h"
 
@@ -94,50 +98,32 @@ void ShowSeries(QCustomPlot& plot, const ChartSeries& series) {
   graph.setName(ToQt(series.legend));
   graph.setPen(QPen(Qt::black, series.width * LineShare));
   graph.setLineStyle(series.hasLine ? QCPGraph::lsLine : QCPGraph::lsNone);
-  graph.setScatterStyle(series.hasSymbols ? QCPScatterStyle(QCPScatterStyle::ssDisc, series.symbolSize)
-                                          : QCPScatterStyle::ssNone);
+  // A single point is no line, so it is always drawn as a symbol.
+  const bool hasSymbols = series.hasSymbols || series.x.size() == 1;
+  graph.setScatterStyle(hasSymbols ? QCPScatterStyle(QCPScatterStyle::ssDisc, series.symbolSize)
+                                   : QCPScatterStyle::ssNone);
 }
 
-// Fits the axes to the points, with a small margin. Starts from a fixed range, so that a curve without extent does not
-// keep the range of the previous curve.
-void ShowWhole(QCustomPlot& plot) {
-  constexpr double Air = 1.08;
-  for (QCPAxis* axis : {plot.xAxis, plot.yAxis}) axis->setRange(0, 2);
-  plot.rescaleAxes();
-  for (QCPAxis* axis : {plot.xAxis, plot.yAxis}) axis->scaleRange(Air);
+std::vector<ChartView::Points> PointsOf(const Chart& chart) {
+  std::vector<ChartView::Points> points;
+  for (const ChartSeries& series : chart.Series()) points.emplace_back(series.x, series.y);
+  return points;
 }
 
-// Returns the position of a value on the axis: 0 at its start, 1 at its end.
-double ShareOf(const QCPRange& range, double value) { return (value - range.lower) / range.size(); }
-
-// Returns the corner of the plot with the greatest distance from the points, whatever the size of the plot.
-Qt::Alignment FreeCorner(const QCustomPlot& plot) {
-  const Qt::Alignment corners[] = {Qt::AlignTop | Qt::AlignRight, Qt::AlignTop | Qt::AlignLeft,
-                                   Qt::AlignBottom | Qt::AlignRight, Qt::AlignBottom | Qt::AlignLeft};
-  Qt::Alignment freest = corners[0];
-  double farthest = -1;
-  for (const auto corner : corners) {
-    const double atX = (corner & Qt::AlignRight) != 0 ? 1 : 0;
-    const double atY = (corner & Qt::AlignTop) != 0 ? 1 : 0;
-    double nearest = 2;
-    for (int series = 0; series < plot.graphCount(); ++series) {
-      for (const QCPGraphData& point : *plot.graph(series)->data()) {
-        const double distance =
-            std::hypot(ShareOf(plot.xAxis->range(), point.key) - atX, ShareOf(plot.yAxis->range(), point.value) - atY);
-        nearest = std::min(nearest, distance);
-      }
-    }
-    if (nearest > farthest) {
-      farthest = nearest;
-      freest = corner;
-    }
+// Returns the marks in words, for screen readers.
+std::string WordsOf(const Chart& chart) {
+  std::string words;
+  if (chart.Own()) {
+    words += ". " + chart.Own()->name + ": " + FormatNumber(ToSingle(chart.Own()->x), "0.0") + ", " +
+             FormatNumber(ToSingle(chart.Own()->y), "0.0");
   }
-  return freest;
+  for (const ChartLine& line : chart.References()) words += ". " + line.name;
+  return words;
 }
 
 }  // namespace
 
-ChartView::ChartView(QWidget* parent) : QWidget(parent), plot_(new QCustomPlot(this)) {
+ChartView::ChartView(QWidget* parent) : QWidget(parent), plot_(new QCustomPlot(this)), marks_(*plot_) {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(plot_);
@@ -151,6 +137,9 @@ ChartView::ChartView(QWidget* parent) : QWidget(parent), plot_(new QCustomPlot(t
     axis->setTickLabelFont(InPixels(font()));
   }
   plot_->axisRect()->setupFullAxesBox(true);
+  plot_->setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
+  connect(plot_, &QCustomPlot::mouseDoubleClick, this, &ChartView::ShowWhole);
+  setFocusPolicy(Qt::StrongFocus);
 }
 
 void ChartView::ShowChart(const Chart& chart) {
@@ -161,20 +150,33 @@ void ChartView::ShowChart(const Chart& chart) {
     ShowSeries(*plot_, series);
     colors_.push_back(ColorOf(series.colour));
   }
+  const bool isNew =
+      PointsOf(chart) != fitted_.points || chart.Own() != fitted_.own || chart.References() != fitted_.references;
+  if (isNew) fitted_ = {PointsOf(chart), chart.Own(), chart.References()};
+  read_ = chart.ReadPoint();
   plot_->xAxis->setLabel(ToQt(chart.AxisX().title));
   plot_->yAxis->setLabel(ToQt(chart.AxisY().title));
   plot_->xAxis->grid()->setVisible(chart.AxisX().grid);
   plot_->yAxis->grid()->setVisible(chart.AxisY().grid);
   plot_->legend->setVisible(chart.LegendShown());
   ShowHeading(*plot_, ToQt(chart.Heading()));
-  setAccessibleName(ToQt(chart.AxisY().title + " - " + chart.AxisX().title));
-  ShowWhole(*plot_);
-  plot_->axisRect()->insetLayout()->setInsetAlignment(0, FreeCorner(*plot_));
+  setAccessibleName(ToQt(chart.AxisY().title + " - " + chart.AxisX().title + WordsOf(chart)));
+  marks_.Show(chart, isNew);
   ApplyTheme();
 }
 
+void ChartView::ShowWhole() {
+  marks_.ShowWhole();
+  plot_->replot(QCustomPlot::rpQueuedReplot);
+}
+
+void ChartView::UseColors(const QPalette& palette) const {
+  ApplyColors(*plot_, palette, colors_);
+  marks_.SetColors(palette);
+}
+
 void ChartView::ApplyTheme() {
-  ApplyColors(*plot_, palette(), colors_);
+  UseColors(palette());
   plot_->replot(QCustomPlot::rpQueuedReplot);
 }
 
@@ -201,6 +203,49 @@ ChartHit ChartView::HitAt(const QPoint& point) const {
   return hit;
 }
 
+// Reads out the next point of the first series, or the previous one.
+void ChartView::ReadBeside(int step) {
+  if (!mouseHandler_ || plot_->graphCount() == 0) return;
+  const int last = plot_->graph(0)->dataCount() - 1;
+  const int point = read_ ? std::clamp(read_->point + step, 0, last) : 0;
+  if (last >= 0) mouseHandler_({.inPlot = true, .series = 0, .point = point});
+}
+
+void ChartView::Zoom(double factor) {
+  for (QCPAxis* axis : {plot_->xAxis, plot_->yAxis}) axis->scaleRange(factor);
+  plot_->replot(QCustomPlot::rpQueuedReplot);
+}
+
+void ChartView::Pan(double sharesX, double sharesY) {
+  plot_->xAxis->moveRange(sharesX * plot_->xAxis->range().size());
+  plot_->yAxis->moveRange(sharesY * plot_->yAxis->range().size());
+  plot_->replot(QCustomPlot::rpQueuedReplot);
+}
+
+void ChartView::keyPressEvent(QKeyEvent* event) {
+  constexpr double Nearer = 0.85;
+  constexpr double Step = 0.1;
+  switch (event->key()) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal: return Zoom(Nearer);
+    case Qt::Key_Minus: return Zoom(1 / Nearer);
+    case Qt::Key_0:
+    case Qt::Key_Home: return ShowWhole();
+    case Qt::Key_Left: return Pan(-Step, 0);
+    case Qt::Key_Right: return Pan(Step, 0);
+    case Qt::Key_Up: return Pan(0, Step);
+    case Qt::Key_Down: return Pan(0, -Step);
+    case Qt::Key_PageDown: return ReadBeside(1);
+    case Qt::Key_PageUp: return ReadBeside(-1);
+    default: return QWidget::keyPressEvent(event);
+  }
+}
+
+void ChartView::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  setFocus();
+}
+
 bool ChartView::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::MouseMove && mouseHandler_) {
     const auto& mouse = *dynamic_cast<QMouseEvent*>(event);
@@ -215,22 +260,22 @@ void ChartView::changeEvent(QEvent* event) {
 }
 
 QPixmap ChartView::Picture(int width, int height) const {
-  ApplyColors(*plot_, Paper(), colors_);
+  UseColors(Paper());
   QPixmap picture = plot_->toPixmap(width, height);
-  ApplyColors(*plot_, palette(), colors_);
+  UseColors(palette());
   return picture;
 }
 
 bool ChartView::PaintOn(QPaintDevice& paper, const QRectF& place, int width, int height) const {
   QCPPainter painter;
   if (!painter.begin(&paper)) return false;
-  ApplyColors(*plot_, Paper(), colors_);
+  UseColors(Paper());
   painter.setMode(QCPPainter::pmVectorized);
   painter.setMode(QCPPainter::pmNoCaching);
   painter.translate(place.topLeft());
   painter.scale(place.width() / width, place.height() / height);
   plot_->toPainter(&painter, width, height);
-  ApplyColors(*plot_, palette(), colors_);
+  UseColors(palette());
   return painter.end();
 }
 

@@ -5,17 +5,23 @@
 #include <QPixmap>
 #include <QWidget>
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include "controls/chart.h"
+#include "qt/chart_marks.h"
 
 class QCustomPlot;
 class QPaintDevice;
 
 namespace orby {
 
+// The wheel of the mouse zooms, dragging moves the plot, and a double click shows all of it again. The keyboard does
+// the same with plus and minus, the arrow keys, and Home; Page Up and Page Down read out the points.
 class ChartView : public QWidget {
  public:
+  using Points = std::pair<std::vector<double>, std::vector<double>>;  // x and y of a series
+
   explicit ChartView(QWidget* parent = nullptr);
 
   void ShowChart(const Chart& chart);
@@ -35,11 +41,28 @@ class ChartView : public QWidget {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   void ApplyTheme();
+  void UseColors(const QPalette& palette) const;
+  void ShowWhole();
+  void Zoom(double factor);
+  void Pan(double sharesX, double sharesY);
+  void ReadBeside(int step);
+
+  // What the axes were fitted to. A change of anything else keeps the zoom.
+  struct Fitted {
+    std::vector<Points> points;
+    std::optional<ChartPoint> own;
+    std::vector<ChartLine> references;
+  };
 
   QCustomPlot* plot_;
+  mutable ChartMarks marks_;
+  Fitted fitted_;
+  std::optional<ChartPlace> read_;
   std::vector<QColor> colors_;  // of the series, as on paper
   std::function<void(const ChartHit& hit)> mouseHandler_;
 };

@@ -57,6 +57,19 @@ TEST_F(ACurve, IsComputedFromItsDesignAndNotFromTheCommittedOne) {
   EXPECT_THAT(platform.boxes.Texts(), IsEmpty());
 }
 
+TEST_F(ACurve, ComesWithItsDesignAndTheActualSupport) {
+  design = FullDesign();
+
+  TakeCurve(program, design, 1);
+
+  const DrawnCurve& curve = program.windows.curve;
+  ASSERT_TRUE(curve.Own);
+  EXPECT_EQ(curve.Own->X, 400.0F);
+  EXPECT_NEAR(curve.Own->Y, 7.606839, 1e-6);
+  ASSERT_THAT(curve.References, SizeIs(1));
+  EXPECT_NEAR(curve.References[0].Value, 9.940195, 1e-5);
+}
+
 TEST_F(ACurve, ReplacesThePreviousCurve) {
   TakeCurve(program, design, 8);
 

@@ -73,6 +73,61 @@ TEST_F(GraphOfACurve, ShowsAnotherCurveWhileItIsOpen) {
   EXPECT_THAT(Drawn().y, ElementsAre(12, 14, 16));
 }
 
+TEST_F(GraphOfACurve, NamesTheDesignAndWhatItIsComparedWith) {
+  program.windows.curve.Own = CurvePoint{240, 4.125F};
+  program.windows.curve.References = {{ReferenceKind::ActualPSUP, false, 9.940195F},
+                                      {ReferenceKind::SuggestedSpan, true, 63.2F}};
+
+  window.ShowCurve(3);
+
+  EXPECT_EQ(window.graph1.Own(), (ChartPoint{240, 4.125, "This design"}));
+  EXPECT_THAT(window.graph1.References(), ElementsAre(ChartLine{false, 9.940195F, "Actual PSUP 9.9"},
+                                                      ChartLine{true, 63.2F, "Suggested sum of diagonals 63.2"}));
+
+  program.windows.curve.Own.reset();
+  program.windows.curve.References.clear();
+  window.ShowCurve(1);
+
+  EXPECT_EQ(window.graph1.Own(), std::nullopt);
+  EXPECT_THAT(window.graph1.References(), IsEmpty());
+}
+
+TEST_F(GraphOfACurve, SaysThatTheCurvesOfIntersectionsUseTheInputsOfEntries) {
+  program.windows.curve.Own = CurvePoint{240, 4.125F};
+
+  window.ShowCurve(8);
+
+  EXPECT_EQ(window.graph1.Own()->name, "This design, by the inputs of its entries");
+}
+
+TEST_F(GraphOfACurve, MarksThePointThatIsReadOut) {
+  window.ShowCurve(1);
+  window.GraphOptionsItem.ClickItem(PointID);
+
+  Point(1, 3);
+  EXPECT_EQ(window.graph1.ReadPoint(), (ChartPlace{0, 1}));
+
+  Point(2, 5);
+  EXPECT_EQ(window.graph1.ReadPoint(), (ChartPlace{0, 1}));
+
+  LeaveThePlot();
+  EXPECT_EQ(window.graph1.ReadPoint(), std::nullopt);
+
+  Point(2, 0);
+  window.GraphOptionsItem.ClickItem(PointID);
+  EXPECT_EQ(window.graph1.ReadPoint(), std::nullopt);
+}
+
+TEST_F(GraphOfACurve, MarksNoPointOfAnEarlierCurve) {
+  window.ShowCurve(1);
+  window.GraphOptionsItem.ClickItem(PointID);
+  Point(1, 0);
+
+  window.ShowCurve(2);
+
+  EXPECT_EQ(window.graph1.ReadPoint(), std::nullopt);
+}
+
 TEST_F(GraphOfACurve, FailsForACurveThatDoesNotExistAndKeepsTheOldOne) {
   window.ShowCurve(3);
 
