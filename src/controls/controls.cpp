@@ -82,6 +82,11 @@ void Combo::SetListIndex(int index) {
   }
 }
 
+void Combo::Restore(std::string text, int index) {
+  if (index != Nothing) static_cast<void>(CheckedIndex(index, items_.size()));
+  Assign(std::move(text), index);
+}
+
 void Combo::Assign(std::string text, int listIndex) {
   if (text == text_ && listIndex == listIndex_) return;
   text_ = std::move(text);

@@ -186,6 +186,8 @@ class Combo : public Control {
   // Sets the text and selects the item that equals it, or none. Of several equal items it selects the first, unless one
   // of them is selected already.
   void SetText(std::string text);
+  // Sets a text and a selection that the list had before. Throws RuntimeError 9 outside the list.
+  void Restore(std::string text, int index);
   // Clears the text and keeps the selection.
   void BlankText() { Assign({}, listIndex_); }
   // Returns the number at the start of the text.

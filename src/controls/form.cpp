@@ -5,6 +5,7 @@
 #include "base/text.h"
 #include "controls/control.h"
 #include "controls/controls.h"
+#include "controls/edit_history.h"
 
 namespace orby {
 
@@ -22,6 +23,16 @@ void Form::SetCaption(std::string caption) {
 void Form::RequestFocus(Control& control) {
   focus_ = &control;
   if (view_ != nullptr) view_->FocusRequested(control);
+}
+
+void Form::UndoEdit() {
+  Control* control = Edits() == nullptr ? nullptr : Edits()->Undo();
+  if (control != nullptr) ShowControl(*control);
+}
+
+void Form::RedoEdit() {
+  Control* control = Edits() == nullptr ? nullptr : Edits()->Redo();
+  if (control != nullptr) ShowControl(*control);
 }
 
 Control* Form::Find(std::string_view name) const {

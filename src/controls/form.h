@@ -9,6 +9,7 @@
 namespace orby {
 
 class Control;
+class EditHistory;
 class TextBox;
 
 // Shows a form on the screen. The form notifies it of each change before the events of the change fire.
@@ -49,6 +50,14 @@ class Form {
   // request.
   Control* FocusRequest() const { return focus_; }
   void RequestFocus(Control& control);
+  // Shows the page of a control and requests the focus for it.
+  virtual void ShowControl(Control& control) { RequestFocus(control); }
+
+  // Returns the edits of the user, or null if the form does not keep them.
+  virtual EditHistory* Edits() { return nullptr; }
+  // Takes back the last edit, or makes it again, and goes to its control. Does nothing if there is none.
+  void UndoEdit();
+  void RedoEdit();
 
   // Returns the lines that explain a control, for its tooltip and for screen readers. Empty if there is nothing to say.
   virtual std::vector<std::string> HintOf(const Control& control) const;

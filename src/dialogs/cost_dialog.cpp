@@ -114,6 +114,7 @@ void CostDialog::OnOpen() {
   CalcProduction();
   AddHistoryLine(program_, history_text::EditingParameters);
   HoldEvents = false;
+  edits_.Start(*this);
   program_.platform.windows.CenterForm(*this);
 }
 

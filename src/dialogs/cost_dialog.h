@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "controls/controls.h"
+#include "controls/edit_history.h"
 #include "core/program_form.h"
 
 namespace orby {
@@ -87,6 +88,8 @@ class CostDialog : public ProgramForm {
   // a report that cannot be computed.
   void BuildReport();
 
+  EditHistory* Edits() override { return &edits_; }
+
   bool HoldEvents = false;  // suspends the live figures
   bool CommitOnClose = false;
   bool WasCommitted = false;
@@ -100,6 +103,8 @@ class CostDialog : public ProgramForm {
   void TieCommands();
   void FillFields();
   void ReadCost(CostInputs& cost) const;
+
+  EditHistory edits_;
 };
 
 }  // namespace orby

@@ -112,6 +112,7 @@ void ParametersDialog::OnOpen() {
   ShowEntries();
   ShowIntersections();
   ShowVerdicts();
+  edits_.Start(*this);
   program_.platform.windows.CenterForm(*this);
 }
 
@@ -149,6 +150,17 @@ bool ParametersDialog::BuildReport() {
   program_.windows.ReportCaller = InputDialog::Parameters;
   BuildResults(program_, program_.windows.WorkParmsCopy);
   return true;
+}
+
+// Before the first estimate the hidden fields are blank, and the project has the region and the rock type.
+void ParametersDialog::RestoreEstimate() {
+  if (!edits_.IsRestoring()) return;
+  const Site& place = program_.project.WorkParms.Place;
+  const auto number = [](const TextBox& box, Integer saved) {
+    return box.Text().empty() ? saved : ToInteger(box.Value());
+  };
+  program_.windows.estimator.EstimatorRegion = number(txtRegion, place.CMRRRegionIndex);
+  program_.windows.estimator.EstimatorRockType = number(txtOption, place.CMRRRockTypeIndex);
 }
 
 void ParametersDialog::Estimate() {

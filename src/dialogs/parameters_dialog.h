@@ -7,6 +7,7 @@
 #include <initializer_list>
 #include <vector>
 
+#include "controls/edit_history.h"
 #include "dialogs/parameters_controls.h"
 #include "engine/verdicts.h"
 
@@ -54,6 +55,9 @@ class ParametersDialog : public ParametersControls {
   // Shows the judgements on the fields as they stand, the worst first. Where the design that OK would commit is judged
   // in another way, both are shown.
   void ShowVerdicts();
+
+  EditHistory* Edits() override { return &edits_; }
+  void ShowControl(Control& control) override;
 
   bool HoldEvents = false;  // suspends the refreshes
   bool CommitOnClose = false;
@@ -110,8 +114,12 @@ class ParametersDialog : public ParametersControls {
   // Moves the focus to the field that decides the judgement of a row.
   void GoToVerdict(std::size_t row);
 
+  // Takes the region and the rock type of the estimator from the hidden fields, after an edit was taken back.
+  void RestoreEstimate();
+
   Design typed_;
   std::vector<Verdict> verdicts_;  // in the order of their rows
+  EditHistory edits_;
 };
 
 }  // namespace orby

@@ -135,6 +135,7 @@ void ParametersDialog::ApplyManualRating() {
 }
 
 void ParametersDialog::TieGeneral() {
+  for (TextBox* box : {&txtRegion, &txtOption}) box->Change = [this] { RestoreEstimate(); };
   chkCMRRManual.Click = [this] { ApplyManualRating(); };
   chkPrimSupport.Click = [this] { SSTab1.SetTabEnabled(1, chkPrimSupport.Checked()); };
   chkSecondSupEntries.Click = [this] { SSTab1.SetTabEnabled(2, chkSecondSupEntries.Checked()); };

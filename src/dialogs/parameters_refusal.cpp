@@ -1,4 +1,4 @@
-// The refusal of a number that the project cannot hold.
+// The page of each control, and the refusal of a number that the project cannot hold.
 #include "core/field_hint.h"
 #include "core/messages.h"
 #include "dialogs/fault_texts.h"
@@ -43,18 +43,22 @@ std::string ShownText(const Control& control) {
 }  // namespace
 
 void ParametersDialog::ReportRefused(const Control& field) {
+  ShowMessage(program_, fault_text::TooLarge(FieldCaption(field), ShownText(field)), BoxIcon::Critical,
+              program_.windows.titles.RangeErrorTitle);
+  ShowControl(*Find(field.Name()));
+}
+
+void ParametersDialog::ShowControl(Control& control) {
   const PageStart* page = Pages;
-  for (Control* control : Controls()) {
+  for (const Control* one : Controls()) {
     for (const PageStart& start : Pages) {
-      if (start.control == control->Name()) page = &start;
+      if (start.control == one->Name()) page = &start;
     }
-    if (control != &field) continue;
-    ShowMessage(program_, fault_text::TooLarge(FieldCaption(field), ShownText(field)), BoxIcon::Critical,
-                program_.windows.titles.RangeErrorTitle);
-    SSTab1.SetTab(page->outerTab);
-    if (page->inner != nullptr) (this->*page->inner).SetTab(page->innerTab);
-    return RequestFocus(*control);
+    if (one == &control) break;
   }
+  SSTab1.SetTab(page->outerTab);
+  if (page->inner != nullptr) (this->*page->inner).SetTab(page->innerTab);
+  RequestFocus(control);
 }
 
 }  // namespace orby

@@ -14,6 +14,7 @@
 #include <QToolBar>
 #include <algorithm>
 
+#include "controls/edit_history.h"
 #include "qt/boundary.h"
 #include "qt/texts.h"
 
@@ -80,6 +81,7 @@ BoundForm::BoundForm(Form& form, QWidget& root) : form_(form), root_(root) {
   ShowTheme();
   for (Binding* binding : marked_) binding->ShowMark();
   root.installEventFilter(this);
+  TieEdits();
   form.SetView(this);
 }
 
@@ -125,6 +127,14 @@ void BoundForm::BindControls() {
   for (Control* control : form_.Controls()) {
     Binding& binding = *bindings_.emplace(control, Bind(*this, *control)).first->second;
     if (binding.CanBeMarked()) marked_.push_back(&binding);
+  }
+}
+
+void BoundForm::TieEdits() {
+  if (form_.Edits() == nullptr) return;
+  editKeys_ = std::make_unique<EditKeys>(form_, *this);
+  for (Control* control : form_.Controls()) {
+    for (QWidget* widget : bindings_.at(control)->Widgets()) editKeys_->Watch(*control, *widget);
   }
 }
 
@@ -231,6 +241,7 @@ void BoundForm::Closed() {
 
 void BoundForm::Act(const std::function<void()>& act) {
   const bool isDone = RunGuarded(act);
+  if (form_.Edits() != nullptr) form_.Edits()->EndAction();
   // A mark depends on other fields too.
   for (Binding* binding : marked_) binding->ShowMark();
   if (isDone && form_.IsOpen()) RunGuarded([this] { form_.EndAct(); });

@@ -8,6 +8,7 @@
 
 #include "controls/form.h"
 #include "qt/bindings.h"
+#include "qt/edit_keys.h"
 #include "qt/mnemonics.h"
 
 namespace orby {
@@ -53,6 +54,7 @@ class BoundForm final : public QObject, public FormView, public BindingHost {
   void ShowTheme();
   void AskForHelp();
   void BindControls();
+  void TieEdits();
   void AssignLetters();
   void RetainSizes();
   void OrderTabs();
@@ -64,7 +66,8 @@ class BoundForm final : public QObject, public FormView, public BindingHost {
   QWidget& root_;
   Mnemonics letters_;
   std::unordered_map<const Control*, BindingPointer> bindings_;
-  std::vector<Binding*> marked_;  // those that can be marked
+  std::unique_ptr<EditKeys> editKeys_;  // null if the form keeps no edits
+  std::vector<Binding*> marked_;        // those that can be marked
 };
 
 // Returns the first widget of a control on the screen, or null if its form is not on the screen.
