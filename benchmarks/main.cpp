@@ -101,9 +101,21 @@ void KeyPress() {
   });
 }
 
+// A key with all that follows it: figures, outputs and judgements.
+void JudgedKey() {
+  Bench bench;
+  ParametersDialog dialog(bench.program);
+  dialog.Open();
+  Measured([&] {
+    dialog.txtDepthofCover.SetText("4005");
+    dialog.EndAct();
+  });
+}
+
 const std::map<std::string, std::function<void()>> Steps{
     {"live_refresh", LiveRefresh},    {"analyze", AnalyzeDesign},      {"report_pages", ReportPages},
-    {"read_project", ReadOneProject}, {"default_curve", DefaultCurve}, {"key_press", KeyPress}};
+    {"read_project", ReadOneProject}, {"default_curve", DefaultCurve}, {"key_press", KeyPress},
+    {"judged_key", JudgedKey}};
 
 // Prints how many designs one core analyses in a second of processor time.
 void PrintRate() {

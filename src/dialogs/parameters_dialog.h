@@ -5,6 +5,7 @@
 
 #include <array>
 #include <initializer_list>
+#include <string>
 #include <vector>
 
 #include "controls/edit_history.h"
@@ -17,6 +18,13 @@ namespace orby {
 struct Misfit {
   const Single* number;
   const Control* field;
+};
+
+// A row of the strip of judgements.
+struct VerdictRow {
+  Verdict verdict;  // on the fields as they stand
+  Verdict afterOk;  // on the design that OK would commit
+  std::string text;
 };
 
 // The parts of a design that the refreshes read.
@@ -111,6 +119,7 @@ class ParametersDialog : public ParametersControls {
   // Opens the estimator and takes its roof rating.
   void Estimate();
 
+  void ShowVerdictRows();
   // Moves the focus to the field that decides the judgement of a row.
   void GoToVerdict(std::size_t row);
 
@@ -118,7 +127,7 @@ class ParametersDialog : public ParametersControls {
   void RestoreEstimate();
 
   Design typed_;
-  std::vector<Verdict> verdicts_;  // in the order of their rows
+  std::vector<VerdictRow> verdicts_;  // as the strip shows them
   EditHistory edits_;
 };
 

@@ -58,7 +58,18 @@ std::string_view MarkOf(Holding result) {
   return Marks.at(static_cast<std::size_t>(result));
 }
 
-bool IsSameJudgement(const Verdict& a, const Verdict& b) { return a.What == b.What && a.Where == b.Where; }
+const Verdict& SameOf(const Verdicts& verdicts, const Verdict& wanted) {
+  const auto same = [&](const Verdict& other) { return other.What == wanted.What && other.Where == wanted.Where; };
+  const auto found = std::ranges::find_if(verdicts.All(), same);
+  return found == verdicts.All().end() ? wanted : *found;
+}
+
+std::string TextOf(const VerdictRow& row, UnitSystem units) {
+  std::string text = VerdictLine(row.verdict, units);
+  if (row.afterOk == row.verdict) return text;
+  const std::string after = VerdictLine(row.afterOk, units);
+  return after == text ? text : text + " (after OK: " + after + ")";
+}
 
 }  // namespace
 
@@ -69,29 +80,34 @@ void ParametersDialog::ShowVerdicts() {
   ReadPart(DesignPart::Place);  // with the rating as it was typed
   const Verdicts found = Judge(typed_, Analyze(typed_, catalogs));
   const bool differs = committed.Support() != typed_.Support();
-  const Verdicts afterOk = differs ? Judge(committed, Analyze(committed, catalogs)) : found;
+  const Verdicts committedVerdicts = differs ? Judge(committed, Analyze(committed, catalogs)) : found;
 
-  verdicts_.assign(found.All().begin(), found.All().end());
-  std::ranges::stable_sort(verdicts_, std::ranges::greater(), &Verdict::Result);
-  std::vector<ComboItem> rows;
-  rows.reserve(verdicts_.size());
-  for (const Verdict& verdict : verdicts_) {
-    std::string text = VerdictLine(verdict, Units());
-    const auto after =
-        std::ranges::find_if(afterOk.All(), [&](const Verdict& other) { return IsSameJudgement(other, verdict); });
-    if (after != afterOk.All().end() && *after != verdict) {
-      const std::string line = VerdictLine(*after, Units());
-      if (line != text) text += " (after OK: " + line + ")";
-    }
-    rows.push_back({.text = std::move(text), .mark = MarkOf(verdict.Result)});
+  std::vector<Verdict> sorted(found.All().begin(), found.All().end());
+  std::ranges::stable_sort(sorted, std::ranges::greater(), &Verdict::Result);
+  std::vector<VerdictRow> rows;
+  rows.reserve(sorted.size());
+  for (const Verdict& verdict : sorted) {
+    VerdictRow row{verdict, SameOf(committedVerdicts, verdict), {}};
+    const auto shown = std::ranges::find_if(
+        verdicts_, [&](const VerdictRow& old) { return old.verdict == row.verdict && old.afterOk == row.afterOk; });
+    row.text = shown == verdicts_.end() ? TextOf(row, Units()) : std::move(shown->text);
+    rows.push_back(std::move(row));
   }
+  verdicts_ = std::move(rows);
+  ShowVerdictRows();
   lblVerdicts.SetCaption("Judgements: " + VerdictCounts(found));
-  if (!std::ranges::equal(rows, lstVerdicts.Items(), {}, &ComboItem::text, &ComboItem::text))
-    lstVerdicts.Fill(std::move(rows));
+}
+
+void ParametersDialog::ShowVerdictRows() {
+  if (std::ranges::equal(verdicts_, lstVerdicts.Items(), {}, &VerdictRow::text, &ComboItem::text)) return;
+  std::vector<ComboItem> items;
+  items.reserve(verdicts_.size());
+  for (const VerdictRow& row : verdicts_) items.push_back({.text = row.text, .mark = MarkOf(row.verdict.Result)});
+  lstVerdicts.Fill(std::move(items));
 }
 
 void ParametersDialog::GoToVerdict(std::size_t row) {
-  const Verdict& verdict = verdicts_.at(row);
+  const Verdict& verdict = verdicts_.at(row).verdict;
   const auto decision = std::ranges::find_if(
       Decisions, [&](const Decision& entry) { return entry.What == verdict.What && entry.Where == verdict.Where; });
   SSTab1.SetTab(decision->OuterTab);

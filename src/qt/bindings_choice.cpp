@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "qt/bindings.h"
+#include "qt/marked_rows.h"
 #include "qt/mnemonics.h"
 #include "qt/pictures.h"
 #include "qt/texts.h"
@@ -279,6 +280,7 @@ class ListBinding : public QObject, public WidgetBinding<QListWidget, List> {
       if (row.text() != text) row.setText(text);
       std::string_view& mark = marks_[static_cast<std::size_t>(i)];
       if (mark == item.mark) continue;
+      if (rows_ == nullptr) widget_.setItemDelegate(rows_ = new MarkedRows(&widget_));
       mark = item.mark;
       row.setIcon(mark.empty() ? QIcon() : ThemedIcon(ToQt(mark)));
     }
@@ -294,6 +296,7 @@ class ListBinding : public QObject, public WidgetBinding<QListWidget, List> {
 
   bool isByHand_ = false;
   std::vector<std::string_view> marks_;  // that the items show
+  MarkedRows* rows_ = nullptr;           // paints them in a list with marks
 };
 
 class SliderBinding : public WidgetBinding<QSlider, Slider> {
