@@ -63,7 +63,9 @@ TEST(LeadingNumbers, TellWhetherTheyAreTheWholeText) {
   }
 }
 
-TEST(LeadingNumbers, BeyondTheRangeOfADoubleAreAnOverflow) { EXPECT_THROW(static_cast<void>(ReadNumber("1E999")), RuntimeError); }
+TEST(LeadingNumbers, BeyondTheRangeOfADoubleAreAnOverflow) {
+  EXPECT_THROW(static_cast<void>(ReadNumber("1E999")), RuntimeError);
+}
 
 }  // namespace
 }  // namespace orby::test
