@@ -13,12 +13,12 @@ namespace {
 using D = ParametersDialog;
 
 template <auto control>
-Control& At(D& d) {
+Control& FieldAt(D& d) {
   return d.*control;
 }
 
 // The field that decides a judgement, and the tabs on which it is.
-struct Decision {
+struct DecidingField {
   Aspect What;
   Opening Where;
   int OuterTab;
@@ -27,30 +27,30 @@ struct Decision {
   Control& (*Field)(D&);
 };
 
-constexpr auto Decisions = std::to_array<Decision>({
-    {Aspect::Span, Opening::Primary, 0, nullptr, 0, At<&D::txtActualSpanDiagonals>},
-    {Aspect::SpanAndWidth, Opening::Primary, 0, nullptr, 0, At<&D::txtEntryWidth>},
-    {Aspect::Supplement, Opening::Primary, 0, nullptr, 0, At<&D::txtDepthofCover>},
-    {Aspect::BoltLength, Opening::Primary, 1, nullptr, 0, At<&D::txtBoltLengthPrimary>},
+constexpr auto DecidingFields = std::to_array<DecidingField>({
+    {Aspect::Span, Opening::Primary, 0, nullptr, 0, FieldAt<&D::txtActualSpanDiagonals>},
+    {Aspect::SpanAndWidth, Opening::Primary, 0, nullptr, 0, FieldAt<&D::txtEntryWidth>},
+    {Aspect::Supplement, Opening::Primary, 0, nullptr, 0, FieldAt<&D::txtDepthofCover>},
+    {Aspect::BoltLength, Opening::Primary, 1, nullptr, 0, FieldAt<&D::txtBoltLengthPrimary>},
     {Aspect::BoltCapacity, Opening::Primary, 1, nullptr, 0,
      [](D& d) -> Control& { return d.PrimaryBoltControls.Options; }},
-    {Aspect::Psup, Opening::Primary, 1, nullptr, 0, At<&D::txtRowSpacingPrimary>},
-    {Aspect::Cables, Opening::Entries, 2, &D::SSTab2, 0, At<&D::txtCableRowSpacingSecEntry>},
-    {Aspect::CableAnchorage, Opening::Entries, 2, &D::SSTab2, 0, At<&D::txtCableLengthSecEntry>},
-    {Aspect::Trusses, Opening::Entries, 2, &D::SSTab2, 1, At<&D::txtTrussSpacingSecEntry>},
-    {Aspect::Bolts, Opening::Entries, 2, &D::SSTab2, 2, At<&D::txtRowSpacingSecEntry>},
-    {Aspect::BoltAnchorage, Opening::Entries, 2, &D::SSTab2, 2, At<&D::txtBoltLengthSecEntry>},
+    {Aspect::Psup, Opening::Primary, 1, nullptr, 0, FieldAt<&D::txtRowSpacingPrimary>},
+    {Aspect::Cables, Opening::Entries, 2, &D::SSTab2, 0, FieldAt<&D::txtCableRowSpacingSecEntry>},
+    {Aspect::CableAnchorage, Opening::Entries, 2, &D::SSTab2, 0, FieldAt<&D::txtCableLengthSecEntry>},
+    {Aspect::Trusses, Opening::Entries, 2, &D::SSTab2, 1, FieldAt<&D::txtTrussSpacingSecEntry>},
+    {Aspect::Bolts, Opening::Entries, 2, &D::SSTab2, 2, FieldAt<&D::txtRowSpacingSecEntry>},
+    {Aspect::BoltAnchorage, Opening::Entries, 2, &D::SSTab2, 2, FieldAt<&D::txtBoltLengthSecEntry>},
     {Aspect::BoltCapacity, Opening::Entries, 2, &D::SSTab2, 2,
      [](D& d) -> Control& { return d.EntryBoltControls.Options; }},
-    {Aspect::Standing, Opening::Entries, 2, &D::SSTab2, 3, At<&D::txtSupportRowSpacingSecEntry>},
-    {Aspect::Cables, Opening::Intersections, 3, &D::SSTab3, 0, At<&D::txtCableNumberSecInter>},
-    {Aspect::CableAnchorage, Opening::Intersections, 3, &D::SSTab3, 0, At<&D::txtCableLengthSecInter>},
-    {Aspect::Trusses, Opening::Intersections, 3, &D::SSTab3, 1, At<&D::txtTrussNumberSecInter>},
-    {Aspect::Bolts, Opening::Intersections, 3, &D::SSTab3, 2, At<&D::txtBoltNumberSecInter>},
-    {Aspect::BoltAnchorage, Opening::Intersections, 3, &D::SSTab3, 2, At<&D::txtBoltLengthSecInter>},
+    {Aspect::Standing, Opening::Entries, 2, &D::SSTab2, 3, FieldAt<&D::txtSupportRowSpacingSecEntry>},
+    {Aspect::Cables, Opening::Intersections, 3, &D::SSTab3, 0, FieldAt<&D::txtCableNumberSecInter>},
+    {Aspect::CableAnchorage, Opening::Intersections, 3, &D::SSTab3, 0, FieldAt<&D::txtCableLengthSecInter>},
+    {Aspect::Trusses, Opening::Intersections, 3, &D::SSTab3, 1, FieldAt<&D::txtTrussNumberSecInter>},
+    {Aspect::Bolts, Opening::Intersections, 3, &D::SSTab3, 2, FieldAt<&D::txtBoltNumberSecInter>},
+    {Aspect::BoltAnchorage, Opening::Intersections, 3, &D::SSTab3, 2, FieldAt<&D::txtBoltLengthSecInter>},
     {Aspect::BoltCapacity, Opening::Intersections, 3, &D::SSTab3, 2,
      [](D& d) -> Control& { return d.InterBoltControls.Options; }},
-    {Aspect::Standing, Opening::Intersections, 3, &D::SSTab3, 3, At<&D::txtSupportNumberSecInter>},
+    {Aspect::Standing, Opening::Intersections, 3, &D::SSTab3, 3, FieldAt<&D::txtSupportNumberSecInter>},
 });
 
 std::string_view MarkOf(Holding result) {
@@ -108,8 +108,9 @@ void ParametersDialog::ShowVerdictRows() {
 
 void ParametersDialog::GoToVerdict(std::size_t row) {
   const Verdict& verdict = verdicts_.at(row).verdict;
-  const auto decision = std::ranges::find_if(
-      Decisions, [&](const Decision& entry) { return entry.What == verdict.What && entry.Where == verdict.Where; });
+  const auto decision = std::ranges::find_if(DecidingFields, [&](const DecidingField& entry) {
+    return entry.What == verdict.What && entry.Where == verdict.Where;
+  });
   SSTab1.SetTab(decision->OuterTab);
   if (decision->Inner != nullptr) (this->*decision->Inner).SetTab(decision->InnerTab);
   RequestFocus(decision->Field(*this));

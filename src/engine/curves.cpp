@@ -115,7 +115,7 @@ struct FigureRule {
 };
 
 // In the order of CurveFigure.
-constexpr std::array<FigureRule, 3> Figures{
+constexpr std::array<FigureRule, 3> FigureRules{
     {{SupportOf, Measure::Plain}, {EntryLoadOf, Measure::LineLoad}, {IntersectionLoadOf, Measure::Force}}};
 
 struct CurveRule {
@@ -183,7 +183,7 @@ bool IsInside(const Range& range, Single x) { return range.step > 0 ? x <= range
 Curve PointsOf(const CurveRule& rule, const Range& range, WorkingValues& values, UnitSystem units) {
   const Integer columns = ToInteger(Divide(static_cast<double>(range.upper) - range.lower, range.step) + 2);
   if (columns < 1) throw RuntimeError(error_number::Subscript);
-  const FigureRule& figure = Figures[static_cast<std::size_t>(rule.subject.Figure)];
+  const FigureRule& figure = FigureRules[static_cast<std::size_t>(rule.subject.Figure)];
   Curve curve;
   auto& [xs, ys] = curve.CurvePoints;
   xs.assign(static_cast<std::size_t>(columns), 0);
@@ -229,7 +229,7 @@ CurveSweep GenerateCurve(const RoofSupport& design, Integer index) {
 
 std::optional<CurvePoint> DesignPoint(const RoofSupport& design, Integer index) {
   const CurveRule& rule = RuleOf(index);
-  const FigureRule& figure = Figures[static_cast<std::size_t>(rule.subject.Figure)];
+  const FigureRule& figure = FigureRules[static_cast<std::size_t>(rule.subject.Figure)];
   try {
     WorkingValues values = WorkingValuesOf(design);
     const Single result = figure.result(values);

@@ -8,10 +8,7 @@
 namespace orby {
 namespace {
 
-constexpr double SomeWidth = 6;  // metres, of an entry without a width
 constexpr int MostUnits = 400;
-constexpr double DotRadius = 2.4;
-constexpr double HalfPost = 3;
 
 class CrossingPlan {
  public:

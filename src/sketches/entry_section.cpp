@@ -11,8 +11,7 @@ constexpr double LeftColumn = 64;    // with the depth of cover and the bolt len
 constexpr double RightColumn = 54;   // with the height of the rock
 constexpr double WidestShare = 0.7;  // of the opening, of the width of the picture
 constexpr double LeastShare = 0.22;
-constexpr double SomeWidth = 6;  // metres, of an opening without a width
-constexpr double LeastGap = 4;   // between two units of a row
+constexpr double LeastGap = 4;  // between two units of a row
 constexpr double BoltWidth = 2.2;
 
 class Section {

@@ -8,8 +8,6 @@ namespace orby {
 namespace {
 
 constexpr double LeastRowGap = 4;
-constexpr double DotRadius = 2.4;
-constexpr double HalfPost = 3;
 constexpr double FirstRow = 8;  // below the top of the plan
 
 class RoofPlan {

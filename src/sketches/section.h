@@ -8,6 +8,10 @@
 
 namespace orby {
 
+inline constexpr double SomeWidth = 6;    // metres, of an opening without a width
+inline constexpr double DotRadius = 2.4;  // of a bolt seen from below
+inline constexpr double HalfPost = 3;     // of a standing support seen from below
+
 // What a section shows, from the surface down to the floor of the opening.
 struct SectionView {
   Length Width;           // of the opening

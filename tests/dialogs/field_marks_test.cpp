@@ -51,7 +51,7 @@ TEST_F(FieldMarks, LeaveAValidDesignAlone) {
 }
 
 // A missing choice from a list is a fault without a number.
-bool IsOfANumber(const Fault& fault) {
+bool IsOfANumber(const FieldFault& fault) {
   return fault.message.find("elected") == std::string::npos && fault.message.find("SELECTED") == std::string::npos &&
          fault.message.find("specification") == std::string::npos;
 }
@@ -59,7 +59,7 @@ bool IsOfANumber(const Fault& fault) {
 TEST_F(FieldMarks, AppearExactlyWhereTheChecksWouldRefuseANumber) {
   int marked = 0;
   for (const FaultSection& section : AllFaults()) {
-    for (const Fault& fault : section.faults) {
+    for (const FieldFault& fault : section.faults) {
       for (const UnitSystem units : fault.units == Both ? std::vector{English, Metric} : std::vector{fault.units}) {
         const auto opened = ValidDesign(units);
         Edit(*opened, fault.edits);

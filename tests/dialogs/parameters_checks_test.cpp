@@ -33,7 +33,7 @@ struct ParameterChecks : AParametersDialog {
   }
 };
 
-std::vector<UnitSystem> UnitsOf(const Fault& fault) {
+std::vector<UnitSystem> UnitsOf(const FieldFault& fault) {
   return fault.units == Both ? std::vector{English, Metric} : std::vector{fault.units};
 }
 
@@ -54,7 +54,7 @@ void ExpectTab(const TabSet& tabs, int expected, const std::string& edits) {
 TEST_F(ParameterChecks, ReportEachFaultOnceAndGoToItsField) {
   int told = 0;
   for (const FaultSection& section : AllFaults()) {
-    for (const Fault& fault : section.faults) {
+    for (const FieldFault& fault : section.faults) {
       const TabsOnView& tabs = fault.tabs.outer == Stays ? section.tabs : fault.tabs;
       for (const UnitSystem units : UnitsOf(fault)) {
         const auto opened = ValidDesign(units);
@@ -107,7 +107,7 @@ std::map<std::string, std::string> EditsOf(std::string_view edits) {
   return values;
 }
 
-bool CanBothBe(const Fault& first, const Fault& second) {
+bool CanBothBe(const FieldFault& first, const FieldFault& second) {
   if (first.units != second.units && first.units != Both && second.units != Both) return false;
   const auto others = EditsOf(second.edits);
   for (const auto& [name, value] : EditsOf(first.edits)) {
@@ -121,8 +121,8 @@ TEST_F(ParameterChecks, ReportOnlyTheFirstFaultOfASection) {
   int pairs = 0;
   for (const FaultSection& section : AllFaults()) {
     for (std::size_t i = 0; i + 1 < section.faults.size(); ++i) {
-      const Fault& first = section.faults[i];
-      const Fault& second = section.faults[i + 1];
+      const FieldFault& first = section.faults[i];
+      const FieldFault& second = section.faults[i + 1];
       if (first.message == second.message || !CanBothBe(first, second)) continue;
       const UnitSystem units = UnitsOf(first.units == Both ? second : first).front();
 
@@ -229,7 +229,7 @@ TEST_F(ParameterChecks, SkipASectionThatIsSwitchedOff) {
   int passedOver = 0;
   for (const FaultSection& section : AllFaults()) {
     for (const std::string& off : section.off) {
-      for (const Fault& fault : section.faults) {
+      for (const FieldFault& fault : section.faults) {
         const UnitSystem units = UnitsOf(fault).front();
         EXPECT_THAT(Faults(units, fault.edits + "|" + off), IsEmpty()) << fault.edits << ' ' << off;
         ++passedOver;

@@ -17,7 +17,7 @@ struct TabsOnView {
   int intersections = Stays;
 };
 
-struct Fault {
+struct FieldFault {
   UnitSystem units = Both;
   std::string edits;  // cause the fault in a valid design with every system in use
   std::string message;
@@ -28,7 +28,7 @@ struct Fault {
 struct FaultSection {
   std::vector<std::string> off;  // each of these edits switches the section off
   TabsOnView tabs;
-  std::vector<Fault> faults;
+  std::vector<FieldFault> faults;
 };
 
 inline const std::vector<FaultSection> GeneralAndPrimaryFaults{

@@ -9,8 +9,6 @@ using testing::Contains;
 using testing::DoubleNear;
 using testing::SizeIs;
 
-constexpr double Exactly = 0.01;
-
 std::vector<Stroke> Diagonals(const Sketch& sketch) { return StrokesOf(OutlineOf(sketch, Ink::Bolt, 2)); }
 
 double CircleDiameter(const Sketch& sketch) {

@@ -13,6 +13,7 @@
 namespace orby::test {
 
 inline constexpr SheetSize Paper{400, 420};
+inline constexpr double Exactly = 0.01;
 
 // An entry of 20 ft with four bolts of 6 ft in rows of 4 ft, and all systems in use.
 inline Design EnglishPlace() {

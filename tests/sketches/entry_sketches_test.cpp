@@ -9,7 +9,6 @@ using testing::Contains;
 using testing::DoubleNear;
 using testing::SizeIs;
 
-constexpr double Exactly = 0.01;
 constexpr double RodBelowRoof = 2;  // a rod begins this much below the roof
 
 // Returns the length of the first rod above the roof.
