@@ -23,8 +23,8 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr int PrimaryTab = 1;
-constexpr int EntriesTab = 2;
+constexpr int BoltsTab = 1;
+constexpr int SupportTab = 2;
 
 class Fields : public GuiTest {
  protected:
@@ -45,7 +45,7 @@ class Fields : public GuiTest {
 
 TEST_F(Fields, SelectARefusedNumberThatAlreadyHasTheFocus) {
   Work([this](QDialog& window) {
-    dialog.SSTab1.SetTab(PrimaryTab);
+    dialog.SSTab1.SetTab(BoltsTab);
     TypeInto(window, "txtRowSpacingPrimary", "0");
 
     Press(Qt::Key_Enter);
@@ -58,7 +58,7 @@ TEST_F(Fields, SelectARefusedNumberThatAlreadyHasTheFocus) {
 
 TEST_F(Fields, SelectARefusedListThatAlreadyHasTheFocus) {
   Work([this](QDialog& window) {
-    dialog.SSTab1.SetTab(PrimaryTab);
+    dialog.SSTab1.SetTab(BoltsTab);
     dialog.PrimaryBoltControls.Options.SetValue(1, true);
     TypeInto(window, "cmbBoltDiameterPrimary", "0.80");
 
@@ -78,7 +78,7 @@ TEST_F(Fields, UseTheChosenItemOfTwoWithOneName) {
   program.project.WorkParms.Entries.Analysed = 1;
   program.project.WorkParms.Entries.Standing.Use = 1;
   Work([this](QDialog& window) {
-    dialog.SSTab1.SetTab(EntriesTab);
+    dialog.SSTab1.SetTab(SupportTab);
     dialog.SSTab2.SetTab(3);
     auto& list = Find<QComboBox>(window, "cmbSupportTypeSecEntry");
     list.setFocus();
@@ -122,7 +122,7 @@ TEST_F(Fields, ScrollIntoViewIfACheckRefusesThemInASmallWindow) {
 
 TEST_F(Fields, ScrollBackIntoViewIfTheyAlreadyHadTheFocus) {
   Work([this](QDialog& window) {
-    dialog.SSTab1.SetTab(PrimaryTab);
+    dialog.SSTab1.SetTab(BoltsTab);
     Shrink(window);
     TypeInto(window, "txtRowSpacingPrimary", "0");
     auto& bar = *Find<QScrollArea>(window, "viewScroll").verticalScrollBar();
@@ -178,7 +178,7 @@ TEST_F(Fields, AreSelectedWhenTheFocusComesByOtherMeans) {
 
 TEST_F(Fields, AreNotCheckedByAnOkQueuedAfterACancel) {
   Work([this](QDialog& window) {
-    dialog.SSTab1.SetTab(PrimaryTab);
+    dialog.SSTab1.SetTab(BoltsTab);
     TypeInto(window, "txtRowSpacingPrimary", "0");
 
     Find<QPushButton>(window, "Command1").click();
@@ -279,7 +279,7 @@ void ClickRow(QTableWidget& table, int row, Qt::KeyboardModifiers modifiers) {
 
 TEST_F(Fields, KeepABoltSelectedThatIsClickedWithTheControlKey) {
   Work([this](QDialog& window) {
-    dialog.SSTab1.SetTab(PrimaryTab);
+    dialog.SSTab1.SetTab(BoltsTab);
     auto& table = Find<QTableWidget>(window, "VSFlexGridPrimary");
     ClickRow(table, 3, Qt::NoModifier);
 
@@ -295,7 +295,7 @@ TEST_F(Fields, KeepABoltSelectedWhenTheSpaceBelowTheTableIsClicked) {
   program.project.WorkParms.Entries.Analysed = 1;
   program.project.WorkParms.Entries.Bolt.Use = 1;
   Work([this](QDialog& window) {
-    dialog.SSTab1.SetTab(EntriesTab);
+    dialog.SSTab1.SetTab(SupportTab);
     dialog.SSTab2.SetTab(2);
     auto& table = Find<QTableWidget>(window, "VSFlexGridEntry");
     ClickRow(table, 1, Qt::NoModifier);
