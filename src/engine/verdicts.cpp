@@ -1,6 +1,7 @@
 #include "engine/verdicts.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "engine/formulas.h"
 
@@ -169,6 +170,11 @@ double ShareMissing(const Verdict& verdict) {
   if (verdict.Result != Holding::Short || !(verdict.Demand > 0)) return 0;
   const double share = 1 - static_cast<double>(verdict.Supply) / verdict.Demand;
   return std::max(IsUpperLimit(verdict.What) ? -share : share, 0.0);
+}
+
+void Verdicts::Add(const Verdict& verdict) {
+  const bool fits = std::isfinite(verdict.Demand) && std::isfinite(verdict.Supply) && std::isfinite(verdict.Factor);
+  verdicts_.at(count_++) = fits ? verdict : Failed(verdict.What, verdict.Where, error_number::Overflow);
 }
 
 Holding Verdicts::Worst() const {

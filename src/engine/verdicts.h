@@ -71,7 +71,8 @@ class Verdicts {
   static constexpr std::size_t Most = 20;
 
   std::span<const Verdict> All() const { return {verdicts_.data(), count_}; }
-  void Add(const Verdict& verdict) { verdicts_.at(count_++) = verdict; }
+  // A verdict with a number that no Single can hold becomes an overflow.
+  void Add(const Verdict& verdict);
   // Returns the worst of all. A design without judgements holds.
   Holding Worst() const;
   std::size_t Count(Holding result) const;

@@ -113,6 +113,15 @@ TEST_F(Judging, TakesANumberThatNothingCanHoldAsMissing) {
   EXPECT_EQ(ResultOf(Aspect::Psup), Holding::Uncomputed);
 }
 
+TEST_F(Judging, TakesALengthThatNothingCanHoldAsAnOverflow) {
+  design.Entries.RockLoadHeight = Unfit;
+  design.Intersections.Cable.Length = Unfit;
+
+  EXPECT_EQ(Of(Aspect::CableAnchorage, Opening::Entries).value().Error, 6);
+  EXPECT_EQ(Of(Aspect::BoltAnchorage, Opening::Entries).value().Error, 6);
+  EXPECT_EQ(Of(Aspect::CableAnchorage, Opening::Intersections).value().Error, 6);
+}
+
 TEST(ShareMissing, IsOfTheDemand) {
   EXPECT_DOUBLE_EQ(ShareMissing({.What = Aspect::Psup, .Result = Holding::Short, .Demand = 4, .Supply = 3}), 0.25);
   EXPECT_DOUBLE_EQ(ShareMissing({.What = Aspect::Span, .Result = Holding::Short, .Demand = 4, .Supply = 5}), 0.25);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <qcustomplot.h>
+#include <QMouseEvent>
 
 #include "dialogs/graph_window.h"
 #include "dialogs/project_report.h"
@@ -71,7 +72,11 @@ class GraphViewTest : public GuiTest {
 // Moves the pointer over the chart of the window by a window system event.
 inline void MoveOver(QWidget& window, const QPoint& inChart) {
   const auto& chart = Find<ChartView>(window, "graph1");
-  QTest::mouseMove(window.windowHandle(), chart.mapTo(&window, inChart));
+  // To the widget itself: what an earlier window did with the mouse does not matter.
+  QWidget* under = chart.childAt(inChart);
+  QMouseEvent move(QEvent::MouseMove, QPointF(under->mapFrom(&chart, inChart)), QPointF(chart.mapToGlobal(inChart)),
+                   Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(under, &move);
   Settle();
 }
 
