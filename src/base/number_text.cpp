@@ -39,6 +39,7 @@ constexpr std::uint64_t PowerOfTen(int exponent) { return PowersOfTen[static_cas
 
 // Rounds by the exact conversion of the library. Used only for values that cannot be a tie at 7 or 15 digits.
 RoundedDigits RoundByLibrary(double magnitude, int places) {
+  if (!std::isfinite(magnitude)) throw RuntimeError(error_number::Overflow);
   std::array<char, 32> text{};
   const auto end =
       std::to_chars(text.data(), text.data() + text.size(), magnitude, std::chars_format::scientific, places - 1).ptr;

@@ -11,7 +11,8 @@ namespace orby {
 
 // Returns the general text of a number: 7 significant digits for a Single, 15 for a Double, without trailing zeros and
 // with at least one digit before the point. Uses fixed notation when at most 7 (15) decimals and at most 7 (15) whole
-// digits are needed, otherwise "1.5E+20". Ties round away from zero. Requires a finite value.
+// digits are needed, otherwise "1.5E+20". Ties round away from zero. Throws RuntimeError 6 when the value is infinite or
+// not a number.
 std::string NumberText(Single value);
 std::string NumberText(double value);
 std::string NumberText(Integer value);
@@ -42,7 +43,8 @@ struct NumberPattern {
 inline constexpr NumberPattern OneDecimal{"0.0"};
 
 // Rounds the general text of the value to the decimals of the pattern, half away from zero. Never returns an exponent.
-// A negative value that rounds to zero keeps its minus sign.
+// A negative value that rounds to zero keeps its minus sign. Throws RuntimeError 6 when the value is infinite or not a
+// number.
 std::string FormatNumber(Single value, NumberPattern pattern);
 std::string FormatNumber(double value, NumberPattern pattern);
 

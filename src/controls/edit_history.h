@@ -16,7 +16,7 @@ class EditHistory {
   // Takes the present state of the form's inputs as the saved one, and drops all edits.
   void Start(const Form& form);
 
-  // Ends an action of the user. Call it after each one.
+  // Ends an action of the user. Form::EndAct calls it.
   void EndAction();
   // Ends the typing in a field: what is typed there later is another edit.
   void EndTyping() { typed_ = Nothing; }

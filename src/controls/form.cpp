@@ -50,6 +50,7 @@ void Form::Open() {
 }
 
 void Form::EndAct() {
+  if (EditHistory* edits = Edits()) edits->EndAction();
   OnAct();
   if (Acted) Acted();
 }

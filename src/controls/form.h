@@ -66,9 +66,9 @@ class Form {
   void SetView(FormView* view) { view_ = view; }
   FormView* View() const { return view_; }
 
-  // Called after EndAct, for who wants to know of the edits.
+  // Called at the end of EndAct.
   std::function<void()> Acted;
-  // Ends an action of the user, such as a key or a click.
+  // Ends an action of the user, such as a key or a click: records its edit and brings the rest up to date.
   void EndAct();
 
  protected:

@@ -8,15 +8,6 @@
 namespace orby {
 namespace {
 
-// Returns the unit without its brackets: "ft". Empty for a number without unit.
-std::string_view UnitOf(UnitSuffix suffix, UnitSystem units) {
-  if (suffix == UnitSuffix::None) return {};
-  std::string_view label = UnitLabel(suffix, units);
-  label.remove_prefix(label.find('(') + 1);
-  label.remove_suffix(1);
-  return label;
-}
-
 // Returns a converted number with at most three decimals.
 std::string Rounded(double number) {
   constexpr double Thousandths = 1000;
@@ -49,8 +40,8 @@ std::string OtherUnitText(const TextBox& field, UnitSystem units) {
   const UnitSystem other = units == English ? Metric : English;
   const double factor = MetricPerEnglish(suffix);
   const double converted = units == English ? field.Value() * factor : field.Value() / factor;
-  return NumberText(field.Value()) + " " + std::string(UnitOf(suffix, units)) + " = " + Rounded(converted) + " " +
-         std::string(UnitOf(suffix, other));
+  return NumberText(field.Value()) + " " + std::string(UnitName(suffix, units)) + " = " + Rounded(converted) + " " +
+         std::string(UnitName(suffix, other));
 }
 
 }  // namespace
@@ -67,8 +58,9 @@ std::string_view FieldCaption(const Control& field) {
 std::vector<std::string> FieldHint(const Program& program, const TextBox& field) {
   if (!field.TakesNumber()) return {};
   const UnitSystem units = program.project.WorkParms.Units;
-  std::vector<std::string> lines{std::string(FieldCaption(field)), RangeText(field, UnitOf(field.Suffix(), units)),
-                                 ReadingText(field), OtherUnitText(field, units)};
+  const std::string_view unit = field.Suffix() == UnitSuffix::None ? "" : UnitName(field.Suffix(), units);
+  std::vector<std::string> lines{std::string(FieldCaption(field)), RangeText(field, unit), ReadingText(field),
+                                 OtherUnitText(field, units)};
   std::erase(lines, std::string());
   return lines;
 }

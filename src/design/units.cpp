@@ -44,6 +44,12 @@ std::string_view UnitLabel(UnitSuffix suffix, UnitSystem units) {
   return units == English ? labels.english : labels.metric;
 }
 
+std::string_view UnitName(UnitSuffix suffix, UnitSystem units) {
+  constexpr std::size_t Opening = 2;  // the blank and the bracket
+  const std::string_view label = UnitLabel(suffix, units);
+  return label.substr(Opening, label.size() - Opening - 1);
+}
+
 double MetricPerEnglish(UnitSuffix suffix) {
   constexpr double TonnesPerTon = 0.90718474;
   constexpr double KilonewtonsPerMeganewton = 1000;

@@ -29,6 +29,9 @@ inline constexpr double PcfPerKilonewtonCubicMetre = 6.3663022639200495;
 // Returns the suffix of a row in a unit system, with a leading blank: " (ft)". Throws RuntimeError 9 outside the table.
 std::string_view UnitLabel(UnitSuffix suffix, UnitSystem units);
 
+// Returns the unit of a row: "ft". Throws RuntimeError 9 outside the table.
+std::string_view UnitName(UnitSuffix suffix, UnitSystem units);
+
 // Returns the factor from the English to the Metric unit of a suffix. Throws RuntimeError 9 for None and Degrees.
 double MetricPerEnglish(UnitSuffix suffix);
 

@@ -1,6 +1,7 @@
 // The strip of judgements under the tabs of the parameters dialog.
 #include <algorithm>
 #include <array>
+#include <string_view>
 #include <utility>
 
 #include "dialogs/parameters_dialog.h"
@@ -10,47 +11,34 @@
 namespace orby {
 namespace {
 
-using D = ParametersDialog;
-
-template <auto control>
-Control& FieldAt(D& d) {
-  return d.*control;
-}
-
-// The field that decides a judgement, and the tabs on which it is.
+// The field that decides a judgement.
 struct DecidingField {
   Aspect What;
   Opening Where;
-  int OuterTab;
-  TabSet ParametersControls::*Inner;
-  int InnerTab;
-  Control& (*Field)(D&);
+  std::string_view Name;
 };
 
 constexpr auto DecidingFields = std::to_array<DecidingField>({
-    {Aspect::Span, Opening::Primary, 0, nullptr, 0, FieldAt<&D::txtActualSpanDiagonals>},
-    {Aspect::SpanAndWidth, Opening::Primary, 0, nullptr, 0, FieldAt<&D::txtEntryWidth>},
-    {Aspect::Supplement, Opening::Primary, 0, nullptr, 0, FieldAt<&D::txtDepthofCover>},
-    {Aspect::BoltLength, Opening::Primary, 1, nullptr, 0, FieldAt<&D::txtBoltLengthPrimary>},
-    {Aspect::BoltCapacity, Opening::Primary, 1, nullptr, 0,
-     [](D& d) -> Control& { return d.PrimaryBoltControls.Options; }},
-    {Aspect::Psup, Opening::Primary, 1, nullptr, 0, FieldAt<&D::txtRowSpacingPrimary>},
-    {Aspect::Cables, Opening::Entries, 2, &D::SSTab2, 0, FieldAt<&D::txtCableRowSpacingSecEntry>},
-    {Aspect::CableAnchorage, Opening::Entries, 2, &D::SSTab2, 0, FieldAt<&D::txtCableLengthSecEntry>},
-    {Aspect::Trusses, Opening::Entries, 2, &D::SSTab2, 1, FieldAt<&D::txtTrussSpacingSecEntry>},
-    {Aspect::Bolts, Opening::Entries, 2, &D::SSTab2, 2, FieldAt<&D::txtRowSpacingSecEntry>},
-    {Aspect::BoltAnchorage, Opening::Entries, 2, &D::SSTab2, 2, FieldAt<&D::txtBoltLengthSecEntry>},
-    {Aspect::BoltCapacity, Opening::Entries, 2, &D::SSTab2, 2,
-     [](D& d) -> Control& { return d.EntryBoltControls.Options; }},
-    {Aspect::Standing, Opening::Entries, 2, &D::SSTab2, 3, FieldAt<&D::txtSupportRowSpacingSecEntry>},
-    {Aspect::Cables, Opening::Intersections, 3, &D::SSTab3, 0, FieldAt<&D::txtCableNumberSecInter>},
-    {Aspect::CableAnchorage, Opening::Intersections, 3, &D::SSTab3, 0, FieldAt<&D::txtCableLengthSecInter>},
-    {Aspect::Trusses, Opening::Intersections, 3, &D::SSTab3, 1, FieldAt<&D::txtTrussNumberSecInter>},
-    {Aspect::Bolts, Opening::Intersections, 3, &D::SSTab3, 2, FieldAt<&D::txtBoltNumberSecInter>},
-    {Aspect::BoltAnchorage, Opening::Intersections, 3, &D::SSTab3, 2, FieldAt<&D::txtBoltLengthSecInter>},
-    {Aspect::BoltCapacity, Opening::Intersections, 3, &D::SSTab3, 2,
-     [](D& d) -> Control& { return d.InterBoltControls.Options; }},
-    {Aspect::Standing, Opening::Intersections, 3, &D::SSTab3, 3, FieldAt<&D::txtSupportNumberSecInter>},
+    {Aspect::Span, Opening::Primary, "txtActualSpanDiagonals"},
+    {Aspect::SpanAndWidth, Opening::Primary, "txtEntryWidth"},
+    {Aspect::Supplement, Opening::Primary, "txtDepthofCover"},
+    {Aspect::BoltLength, Opening::Primary, "txtBoltLengthPrimary"},
+    {Aspect::BoltCapacity, Opening::Primary, "optBoltOptionsPrimary"},
+    {Aspect::Psup, Opening::Primary, "txtRowSpacingPrimary"},
+    {Aspect::Cables, Opening::Entries, "txtCableRowSpacingSecEntry"},
+    {Aspect::CableAnchorage, Opening::Entries, "txtCableLengthSecEntry"},
+    {Aspect::Trusses, Opening::Entries, "txtTrussSpacingSecEntry"},
+    {Aspect::Bolts, Opening::Entries, "txtRowSpacingSecEntry"},
+    {Aspect::BoltAnchorage, Opening::Entries, "txtBoltLengthSecEntry"},
+    {Aspect::BoltCapacity, Opening::Entries, "optBoltOptionsSecEntry"},
+    {Aspect::Standing, Opening::Entries, "txtSupportRowSpacingSecEntry"},
+    {Aspect::Cables, Opening::Intersections, "txtCableNumberSecInter"},
+    {Aspect::CableAnchorage, Opening::Intersections, "txtCableLengthSecInter"},
+    {Aspect::Trusses, Opening::Intersections, "txtTrussNumberSecInter"},
+    {Aspect::Bolts, Opening::Intersections, "txtBoltNumberSecInter"},
+    {Aspect::BoltAnchorage, Opening::Intersections, "txtBoltLengthSecInter"},
+    {Aspect::BoltCapacity, Opening::Intersections, "optBoltOptionsSecInter"},
+    {Aspect::Standing, Opening::Intersections, "txtSupportNumberSecInter"},
 });
 
 std::string_view MarkOf(Holding result) {
@@ -108,12 +96,10 @@ void ParametersDialog::ShowVerdictRows() {
 
 void ParametersDialog::GoToVerdict(std::size_t row) {
   const Verdict& verdict = verdicts_.at(row).verdict;
-  const auto decision = std::ranges::find_if(DecidingFields, [&](const DecidingField& entry) {
+  const auto field = std::ranges::find_if(DecidingFields, [&](const DecidingField& entry) {
     return entry.What == verdict.What && entry.Where == verdict.Where;
   });
-  SSTab1.SetTab(decision->OuterTab);
-  if (decision->Inner != nullptr) (this->*decision->Inner).SetTab(decision->InnerTab);
-  RequestFocus(decision->Field(*this));
+  ShowControl(*Find(field->Name));
 }
 
 }  // namespace orby

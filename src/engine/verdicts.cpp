@@ -177,12 +177,6 @@ void Verdicts::Add(const Verdict& verdict) {
   verdicts_.at(count_++) = fits ? verdict : Failed(verdict.What, verdict.Where, error_number::Overflow);
 }
 
-Holding Verdicts::Worst() const {
-  Holding worst = Holding::Holds;
-  for (const Verdict& verdict : All()) worst = std::max(worst, verdict.Result);
-  return worst;
-}
-
 std::size_t Verdicts::Count(Holding result) const {
   return static_cast<std::size_t>(std::ranges::count(All(), result, &Verdict::Result));
 }

@@ -29,7 +29,7 @@ enum class Aspect : std::uint8_t {
 // Where the judged support is.
 enum class Opening : std::uint8_t { Primary, Entries, Intersections };
 
-// From the best to the worst, so that the worst of several is the greatest.
+// From the best to the worst.
 enum class Holding : std::uint8_t { Holds, Check, Uncomputed, Short };
 
 // Why a judgement cannot be made.
@@ -73,8 +73,6 @@ class Verdicts {
   std::span<const Verdict> All() const { return {verdicts_.data(), count_}; }
   // A verdict with a number that no Single can hold becomes an overflow.
   void Add(const Verdict& verdict);
-  // Returns the worst of all. A design without judgements holds.
-  Holding Worst() const;
   std::size_t Count(Holding result) const;
 
  private:

@@ -241,7 +241,6 @@ void BoundForm::Closed() {
 
 void BoundForm::Act(const std::function<void()>& act) {
   const bool isDone = RunGuarded(act);
-  if (form_.Edits() != nullptr) form_.Edits()->EndAction();
   // A mark depends on other fields too.
   for (Binding* binding : marked_) binding->ShowMark();
   if (isDone && form_.IsOpen()) RunGuarded([this] { form_.EndAct(); });

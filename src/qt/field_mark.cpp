@@ -4,6 +4,8 @@
 #include <QPolygonF>
 #include <algorithm>
 
+#include "drawings/inks.h"
+
 namespace orby {
 namespace {
 
@@ -38,8 +40,8 @@ void PaintSign(QPainter& painter, const QRectF& place, FieldMark mark, const QCo
 
 QColor ColorOfMark(FieldMark mark, const QPalette& palette) {
   const bool isDark = palette.color(QPalette::Base).lightness() < palette.color(QPalette::Text).lightness();
-  if (mark == FieldMark::OutOfRange) return isDark ? QColor(255, 138, 128) : QColor(179, 38, 30);
-  return isDark ? QColor(255, 183, 77) : QColor(143, 84, 0);
+  const Ink ink = mark == FieldMark::OutOfRange ? Ink::Bad : Ink::Doubtful;
+  return QColor::fromRgb(InkColour(ink, isDark ? Ground::Dark : Ground::Light));
 }
 
 void PaintMark(QLineEdit& field, FieldMark mark) {

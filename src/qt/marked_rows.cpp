@@ -60,13 +60,12 @@ const QStaticText& MarkedRows::LaidOut(const QStyleOptionViewItem& option, const
 }
 
 const QPixmap& MarkedRows::MarkOf(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-  if (option.palette.cacheKey() != palette_) marks_.clear();
+  const qreal ratio = option.widget != nullptr ? option.widget->devicePixelRatioF() : 1;
+  if (option.palette.cacheKey() != palette_ || ratio != ratio_) marks_.clear();
   palette_ = option.palette.cacheKey();
+  ratio_ = ratio;
   QPixmap& mark = marks_[index.data().toString().section(':', 0, 0)];
-  if (mark.isNull()) {
-    const qreal ratio = option.widget != nullptr ? option.widget->devicePixelRatioF() : 1;
-    mark = index.data(Qt::DecorationRole).value<QIcon>().pixmap(option.decorationSize, ratio);
-  }
+  if (mark.isNull()) mark = index.data(Qt::DecorationRole).value<QIcon>().pixmap(option.decorationSize, ratio);
   return mark;
 }
 

@@ -23,10 +23,11 @@ class MarkedRows : public QStyledItemDelegate {
   const QPixmap& MarkOf(const QStyleOptionViewItem& option, const QModelIndex& index) const;
 
   mutable QHash<QString, QStaticText> texts_;
-  mutable QHash<QString, QPixmap> marks_;  // by the word at the begin of a text, which tells the mark
+  mutable QHash<QString, QPixmap> marks_;  // by the word at the start of a text, which tells the mark
   mutable QFont font_;
   mutable int width_ = 0;
   mutable qint64 palette_ = 0;
+  mutable qreal ratio_ = 0;
 };
 
 }  // namespace orby

@@ -41,11 +41,7 @@ bool IsSystem(Aspect what) { return what >= Aspect::Cables && what <= Aspect::St
 std::string UnitText(const Verdict& verdict, UnitSystem units) {
   UnitSuffix unit = WordingOf(verdict).Unit;
   if (unit == UnitSuffix::LineLoad && verdict.Where == Opening::Intersections) unit = UnitSuffix::Force;
-  if (unit == UnitSuffix::None) return {};
-  std::string_view label = UnitLabel(unit, units);  // " (ft)"
-  label.remove_prefix(2);
-  label.remove_suffix(1);
-  return " " + std::string(label);
+  return unit == UnitSuffix::None ? "" : " " + std::string(UnitName(unit, units));
 }
 
 // Two numbers that differ have as many decimals as it takes to see it.
@@ -98,8 +94,6 @@ std::string RemarkOn(const Verdict& verdict) {
   return remark;
 }
 
-}  // namespace
-
 std::string_view HoldingWord(Holding result) {
   constexpr std::array<std::string_view, 4> Words{"Holds", "Check", "Cannot be computed", "Short"};
   return Words.at(static_cast<std::size_t>(result));
@@ -109,6 +103,8 @@ std::string VerdictSubject(const Verdict& verdict) {
   constexpr std::array<std::string_view, 3> Places{"", " in entries", " in intersections"};
   return std::string(WordingOf(verdict).Subject) + std::string(Places.at(static_cast<std::size_t>(verdict.Where)));
 }
+
+}  // namespace
 
 std::string VerdictFigures(const Verdict& verdict, UnitSystem units) {
   if (verdict.Result == Holding::Uncomputed) return std::string(ReasonText(verdict));

@@ -2,23 +2,17 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "engine/verdicts.h"
 
 namespace orby {
 
-// Returns the word for a result: "Holds", "Check", "Cannot be computed" or "Short".
-std::string_view HoldingWord(Holding result);
-
-// Returns what is judged: "Actual PSUP", "Cable bolts in entries".
-std::string VerdictSubject(const Verdict& verdict);
-
 // Returns what is demanded and supplied, with units, and by how much it falls short:
 // "5.6 of the suggested 11.8, short by 53 %".
 std::string VerdictFigures(const Verdict& verdict, UnitSystem units);
 
-// Returns all of it in one line: "Short: actual PSUP 5.6 of the suggested 11.8, short by 53 %".
+// Returns the result, what is judged and its figures in one line: "Short: actual PSUP 5.6 of the suggested 11.8, short
+// by 53 %".
 std::string VerdictLine(const Verdict& verdict, UnitSystem units);
 
 // Returns how many judgements have each result, the worst first: "2 short, 1 to check, 5 hold".

@@ -1,6 +1,10 @@
+#include "base/number_text.h"
+
 #include <gtest/gtest.h>
 
-#include "base/number_text.h"
+#include <limits>
+
+#include "base/runtime_error.h"
 
 namespace orby {
 namespace {
@@ -127,6 +131,13 @@ TEST(NormalizeDecimalText, OnlyTheFirstCommaOfAnyOtherTextBecomesAPoint) {
 
 TEST(NormalizeDecimalText, ANumberBeyondTheRangeStaysAsItIsWritten) {
   EXPECT_EQ(NormalizeDecimalText("1E999"), "1E999");
+}
+
+TEST(NumberText, OfANumberThatIsNoneIsAnOverflow) {
+  for (const double none : {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()}) {
+    EXPECT_THROW(static_cast<void>(NumberText(none)), RuntimeError);
+    EXPECT_THROW(static_cast<void>(FormatNumber(none, OneDecimal)), RuntimeError);
+  }
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ struct Undo : AParametersDialog {
   // Edits as one action of the user.
   void Act(std::string_view edits) {
     Do(edits);
-    dialog.Edits()->EndAction();
+    dialog.EndAct();
   }
   // The state of every input, in order. Outputs are left out: those of a system that is not in use stay as they are.
   std::vector<std::string> Inputs() const {
@@ -202,10 +202,10 @@ TEST_F(Undo, HoldsForCostsToo) {
   cost.Open();
   const std::string advance = cost.txtAdvanceShiftCalc.Text();
   Edit(cost, "txtnBoltsRow=5");
-  cost.Edits()->EndAction();
+  cost.EndAct();
   ASSERT_NE(cost.txtAdvanceShiftCalc.Text(), advance);
   Edit(cost, "chkAdvance=0");
-  cost.Edits()->EndAction();
+  cost.EndAct();
 
   cost.UndoEdit();
   EXPECT_EQ(cost.chkAdvance.Value(), 1);

@@ -17,16 +17,7 @@ namespace {
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-class FieldMarksOnView : public GuiTest {
- protected:
-  void Work(Form& form, const ModalScripts::Script& script) {
-    Use(form, [&](QDialog& window) {
-      script(window);
-      Settle();
-      window.close();
-    });
-  }
-};
+class FieldMarksOnView : public GuiTest {};
 
 // Returns the mark whose colour the picture of the field has.
 FieldMark Shown(QWidget& window, std::string_view name) {

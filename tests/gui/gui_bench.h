@@ -115,6 +115,14 @@ class GuiTest : public testing::Test {
 
   // Shows the form until it is closed. The script plays the user.
   void Use(Form& form, ModalScripts::Script script);
+  // Closes the window after the script, too.
+  void Work(Form& form, const ModalScripts::Script& script) {
+    Use(form, [&](QDialog& window) {
+      script(window);
+      Settle();
+      if (window.isVisible()) window.close();
+    });
+  }
 
   // Returns the numbers of the recorded errors and clears them.
   std::vector<int> TakeErrors() { return std::exchange(errors_, {}); }

@@ -6,9 +6,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QFocusEvent>
-#include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableWidget>
@@ -27,13 +25,7 @@ using testing::IsEmpty;
 class ParametersView : public GuiTest {
  protected:
   // Shows the dialog. Cancels it after the script if it is still open.
-  void Work(const ModalScripts::Script& script) {
-    Use(dialog, [&](QDialog& window) {
-      script(window);
-      Settle();
-      if (window.isVisible()) window.close();
-    });
-  }
+  void Work(const ModalScripts::Script& script) { GuiTest::Work(dialog, script); }
 
   ParametersDialog dialog{program};
 };
@@ -577,33 +569,6 @@ TEST_F(ParametersView, OpensTheResultsOverItselfAndReturns) {
 
     EXPECT_THAT(report, testing::HasSubstr("725"));
     EXPECT_TRUE(window.isVisible());
-  });
-}
-
-TEST_F(ParametersView, ShowsTheJudgementsWithTheirMarksAfterEachKey) {
-  Work([](QDialog& window) {
-    auto& list = Find<QListWidget>(window, "lstVerdicts");
-    PressLetterOf(window, "txtEntryWidth");
-    Press(Qt::Key_Delete);
-
-    const auto found = list.findItems("Cannot be computed: Sum of diagonals", Qt::MatchStartsWith);
-    ASSERT_FALSE(found.isEmpty());
-    EXPECT_FALSE(found.constFirst()->icon().isNull());
-    EXPECT_THAT(Find<QLabel>(window, "lblVerdicts").text().toStdString(), HasSubstr("not computed"));
-  });
-}
-
-TEST_F(ParametersView, GoesFromAJudgementToItsFieldByTheEnterKey) {
-  Work([](QDialog& window) {
-    PressLetterOf(window, "txtEntryWidth");
-    Press(Qt::Key_Delete);
-    auto& list = Find<QListWidget>(window, "lstVerdicts");
-    list.setFocus();
-    while (!list.currentItem() || !list.currentItem()->text().contains("Sum of diagonals")) Press(Qt::Key_Down);
-    Press(Qt::Key_Return);
-    Settle();
-
-    EXPECT_EQ(FocusName(), "txtActualSpanDiagonals");
   });
 }
 

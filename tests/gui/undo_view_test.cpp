@@ -14,16 +14,7 @@
 namespace orby::test {
 namespace {
 
-class UndoOnView : public GuiTest {
- protected:
-  void Work(Form& form, const ModalScripts::Script& script) {
-    Use(form, [&](QDialog& window) {
-      script(window);
-      Settle();
-      window.close();
-    });
-  }
-};
+class UndoOnView : public GuiTest {};
 
 void PressUndo() { Press(Qt::Key_Z, Qt::ControlModifier); }
 void PressRedo() { Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); }

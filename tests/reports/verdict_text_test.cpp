@@ -64,7 +64,6 @@ TEST(VerdictText, CountsTheWorstFirst) {
     verdicts.Add({.Result = result});
   }
   EXPECT_EQ(VerdictCounts(verdicts), "1 short, 1 to check, 2 holding");
-  EXPECT_EQ(verdicts.Worst(), Holding::Short);
 }
 
 // ---- beside the report ---------------------------------------------------------------------------------------------
@@ -145,7 +144,7 @@ TEST_P(VerdictsBesideTheReport, SayTheSame) {
     EXPECT_EQ(IsShort(verdicts, Aspect::BoltCapacity), Says(bolts, BelowASTM));
     EXPECT_EQ(IsShort(verdicts, Aspect::Psup), Says(psup, "The actual PSUP for this design is less"));
     EXPECT_EQ(ResultOf(verdicts, Aspect::Supplement) == Holding::Check, Says(psup, "Consider using supplemental"));
-    someShort += verdicts.Worst() == Holding::Short ? 1 : 0;
+    someShort += verdicts.Count(Holding::Short) > 0 ? 1 : 0;
 
     for (const Opening where : {Opening::Entries, Opening::Intersections}) {
       const std::string place = where == Opening::Entries ? "ENTRY" : "INTERSECTION";

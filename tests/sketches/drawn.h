@@ -8,6 +8,7 @@
 
 #include "design/catalogs.h"
 #include "design/design.h"
+#include "engine/designs.h"
 #include "sketches/sketches.h"
 
 namespace orby::test {
@@ -15,34 +16,16 @@ namespace orby::test {
 inline constexpr SheetSize Paper{400, 420};
 inline constexpr double Exactly = 0.01;
 
-// An entry of 20 ft with four bolts of 6 ft in rows of 4 ft, and all systems in use.
+// An entry of 20 ft with four bolts of 6 ft in rows of 4 ft, and numbers for every system, of which none is in use.
 inline Design EnglishPlace() {
-  Design design;
-  design.Place.CMRR = 45;
-  design.Place.DepthofCover = 400;
-  design.Place.UnitWeight = 162;
-  design.Place.ActualSpanDiagonals = 60;
-  design.Place.EntryWidth = 20;
-  design.Primary.StabilityFactor = 1;
-  for (BoltSelection* set : design.BoltSets()) {
-    set->Length = 6;
-    set->BoltsperRow = 4;
-    set->RowSpacing = 4;
-    set->Number = 9;
-  }
+  Design design = FullDesign();
+  for (BoltSelection* set : design.BoltSets()) set->Number = 9;
   for (SecondarySupport* support : {&design.Entries, &design.Intersections}) {
-    support->RockLoadHeight = 8;
-    support->RockFallAngle = support->RockFallAngleXcut = 30;
+    for (SupportSystem* system : support->Systems()) system->Use = 0;
     support->Cable.Length = 12;
-    support->Cable.BoltsPerRow = 2;
     support->Cable.RowSpacing = 8;
     support->Cable.Number = 4;
     support->Truss.LengthMember = 8;
-    support->Truss.Angle = 45;
-    support->Truss.Spacing = support->Truss.Number = 4;
-    support->Standing.NumberPerRow = 2;
-    support->Standing.RowSpacing = 8;
-    support->Standing.Number = 4;
   }
   return design;
 }
