@@ -11,8 +11,8 @@ namespace orby {
 
 // Returns the general text of a number: 7 significant digits for a Single, 15 for a Double, without trailing zeros and
 // with at least one digit before the point. Uses fixed notation when at most 7 (15) decimals and at most 7 (15) whole
-// digits are needed, otherwise "1.5E+20". Ties round away from zero. Throws RuntimeError 6 when the value is infinite or
-// not a number.
+// digits are needed, otherwise "1.5E+20". Ties round away from zero. Throws RuntimeError 6 when the value is infinite
+// or not a number.
 std::string NumberText(Single value);
 std::string NumberText(double value);
 std::string NumberText(Integer value);

@@ -21,7 +21,7 @@ constexpr std::uint32_t InkColour(Ink ink, Ground ground) {
     case Ink::Cable: return isDark ? 0xc39bf0 : 0x7a3fb0;
     case Ink::Truss: return isDark ? 0x4fd1c5 : 0x0f6f68;
     case Ink::Standing: return isDark ? 0xe0b050 : 0x7d5200;
-    case Ink::Limit: return isDark ? 0x5fd38a : 0x146c35;
+    case Ink::Limit:
     case Ink::Good: return isDark ? 0x5fd38a : 0x146c35;
     case Ink::Doubtful: return isDark ? 0xf0b040 : 0x9a5b00;
     case Ink::Bad: return isDark ? 0xff8080 : 0xb3261e;
