@@ -106,10 +106,12 @@ Design AsCommitted(Design typed) {
   return typed;
 }
 
-Design AsReported(const Project& project, const Catalogs& catalogs) {
+Design AsOpened(const Project& project, const Catalogs& catalogs) {
   Catalogs offered = catalogs;
   const BoltTable& table = LoadBoltTable(project, offered);
-  return AsPreviewed(AsShown(project.WorkParms, table, offered));
+  return AsShown(project.WorkParms, table, offered);
 }
+
+Design AsReported(const Project& project, const Catalogs& catalogs) { return AsPreviewed(AsOpened(project, catalogs)); }
 
 }  // namespace orby

@@ -15,9 +15,9 @@ class BadFile : public CompanionTest {
   // Runs every command on the file and expects this exit code and this text, and no written file.
   void ExpectRefusal(const std::string& file, int exitCode, const std::string& words) const {
     const std::string out = Path("out.ORB");
-    const std::vector<std::vector<std::string>> lines{{"report", file},      {"cost", file},       {"live", file},
-                                                      {"validate", file},    {"curve", "1", file}, {"save", file, out},
-                                                      {"convert", file, out}};
+    const std::vector<std::vector<std::string>> lines{{"report", file},    {"cost", file},        {"live", file},
+                                                      {"verdicts", file},  {"validate", file},    {"curve", "1", file},
+                                                      {"save", file, out}, {"convert", file, out}};
     for (const auto& words_ : lines) {
       const Outcome outcome = Run(words_);
       EXPECT_EQ(outcome.exitCode, exitCode) << words_[0];

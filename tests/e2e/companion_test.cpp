@@ -175,7 +175,8 @@ TEST_F(Companion, WritesNoOtherFiles) {
   Run({"report", Example("development-entry")});
   const auto before = count();
 
-  for (const char* command : {"report", "cost", "live", "validate"}) Run({command, Example("belt-entry-trusses")});
+  for (const char* command : {"report", "cost", "live", "verdicts", "validate"})
+    Run({command, Example("belt-entry-trusses")});
   Run({"curve", "4", Example("belt-entry-trusses")});
 
   EXPECT_EQ(count(), before);

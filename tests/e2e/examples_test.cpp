@@ -2,8 +2,10 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <sstream>
 
 #include "companion_run.h"
+#include "support/test_data.h"
 
 namespace orby::test {
 namespace {
@@ -46,6 +48,32 @@ TEST_F(ExampleDesign, HasAllTenCurves) {
       EXPECT_NE(outcome.out, "") << name << curve;
     }
   }
+}
+
+// The lines of a report that judge.
+std::string JudgingLines(const std::string& report) {
+  std::istringstream lines(report);
+  std::string judging;
+  bool isWarned = false;
+  for (std::string line; std::getline(lines, line);) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    const bool isHeading = line.starts_with("[Warning");
+    isWarned = isHeading || (isWarned && !line.empty() && !line.starts_with('['));
+    if ((isWarned && !isHeading) || line.ends_with("OK.")) judging += "  " + line + "\n";
+  }
+  return judging;
+}
+
+TEST_F(ExampleDesign, IsJudgedAsItsReportJudges) {
+  std::string judged;
+  for (const std::string& name : Examples) {
+    const Outcome verdicts = Run({"verdicts", Example(name)});
+    EXPECT_EQ(verdicts.err, "") << name;
+    const Outcome report = Run({"report", "--page", "1", Example(name)});
+    judged.append(name + "\n" + verdicts.out + "report:\n" + JudgingLines(report.out) + "\n");
+  }
+
+  EXPECT_EQ(judged, ReadTestData("reports/examples_verdicts.txt"));
 }
 
 TEST_F(ExampleDesign, SavedThreeTimesGrowsByItsHeaderAndKeepsEveryValue) {

@@ -17,6 +17,7 @@
 #include "files/project_file.h"
 #include "reports/cost_report.h"
 #include "reports/input_echo.h"
+#include "reports/verdict_text.h"
 #include "shell/start_up.h"
 
 namespace orby::cli {
@@ -27,6 +28,7 @@ const std::string_view UsageText = R"(usage: orby-cli COMMAND [OPTION]... FILE..
   cost FILE...                               the cost table
   curve N FILE                               the points of curve N (0 to 9), a line "x,y" each
   live FILE                                  the outputs of the parameters dialog as it opens
+  verdicts FILE...                           whether the support holds and by how much, a line each judgement
   validate FILE                              what is wrong with the design, a line each
   save FILE OUT                              the project written anew to OUT
   convert FILE OUT                           the project in the other unit system, written to OUT
@@ -149,6 +151,17 @@ ExitCode Live(FileRun& run, const std::string&) {
   return ExitCode::Done;
 }
 
+// Prints the judgements that the parameters dialog shows as it opens.
+ExitCode ListVerdicts(FileRun& run, const std::string&) {
+  const Catalogs& catalogs = run.program.session.catalogs;
+  const Design design = AsOpened(run.program.project, catalogs);
+  const Verdicts verdicts = Judge(design, Analyze(design, catalogs));
+  std::string text;
+  for (const Verdict& verdict : verdicts.All()) text += VerdictLine(verdict, design.Units) + "\n";
+  Print(text);
+  return ExitCode::Done;
+}
+
 ExitCode Validate(FileRun& run, const std::string&) {
   ParametersDialog dialog(run.program);
   dialog.Open();
@@ -185,10 +198,10 @@ struct Command {
 };
 
 constexpr std::array Commands{
-    Command{"report", Shape::Files, Report},       Command{"cost", Shape::Files, Cost},
-    Command{"curve", Shape::NumberFile, CurveOf},  Command{"live", Shape::OneFile, Live},
-    Command{"validate", Shape::OneFile, Validate}, Command{"save", Shape::FileOut, Save},
-    Command{"convert", Shape::FileOut, Convert},
+    Command{"report", Shape::Files, Report},         Command{"cost", Shape::Files, Cost},
+    Command{"curve", Shape::NumberFile, CurveOf},    Command{"live", Shape::OneFile, Live},
+    Command{"verdicts", Shape::Files, ListVerdicts}, Command{"validate", Shape::OneFile, Validate},
+    Command{"save", Shape::FileOut, Save},           Command{"convert", Shape::FileOut, Convert},
 };
 
 bool FitsShape(const std::vector<std::string>& operands, Shape shape) {

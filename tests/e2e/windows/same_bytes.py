@@ -21,7 +21,7 @@ LARGEST = 16000  # bytes
 ENDS = b"\r\n"
 MOST_SHOWN = 20
 OF_ONE_FILE = ("live", "validate", "save", "convert", "curve")
-OF_MANY_FILES = ("report", "cost")
+OF_MANY_FILES = ("report", "cost", "verdicts")
 AT_ONCE = 200  # files of one command
 
 
