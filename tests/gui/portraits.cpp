@@ -1,4 +1,5 @@
-// Paints every window of the program, in both unit systems, light and dark, and its icon:
+// Paints every window of the program, in both unit systems, light and dark, and its icon. Beside each picture stands
+// where its texts and marks are:
 //
 //   portraits folder [size of the text in points]
 //
@@ -45,6 +46,7 @@
 #include "files/new_project.h"
 #include "files/project_file.h"
 #include "gui/gui_bench.h"
+#include "gui/painted_boxes.h"
 #include "qt/boundary.h"
 #include "qt/chart_view.h"
 #include "qt/help_viewer.h"
@@ -85,7 +87,10 @@ class Photographer {
 
   void Take(QWidget& window, const std::string& name) const {
     Settle();
-    window.grab().save(folder_.filePath(series_ + "-" + QString::fromStdString(name) + ".png"));
+    const QString path = folder_.filePath(series_ + "-" + QString::fromStdString(name));
+    window.grab().save(path + ".png");
+    QFile boxes(path + ".json");
+    if (boxes.open(QIODevice::WriteOnly)) boxes.write(QJsonDocument(PaintedBoxes(window)).toJson());
   }
 
  private:

@@ -1,0 +1,115 @@
+#include "gui/painted_boxes.h"
+
+#include <QJsonObject>
+#include <QPaintDevice>
+#include <QPaintEngine>
+#include <QPainter>
+#include <QPainterPath>
+#include <QTabBar>
+
+namespace orby::test {
+namespace {
+
+constexpr double LargestMark = 40;  // a larger picture is no mark
+
+struct PaintedBox {
+  QString kind;
+  QString text;
+  QRectF place;
+};
+
+// Paints nothing and keeps where texts and small shapes would be.
+class BoxEngine : public QPaintEngine {
+ public:
+  BoxEngine() : QPaintEngine(AllFeatures) {}
+
+  bool begin(QPaintDevice*) override { return true; }
+  bool end() override { return true; }
+  Type type() const override { return User; }
+  void updateState(const QPaintEngineState&) override {}
+
+  void drawTextItem(const QPointF& at, const QTextItem& item) override {
+    if (item.text().trimmed().isEmpty()) return;
+    Keep("text", item.text(), QRectF(at.x(), at.y() - item.ascent(), item.width(), item.ascent() + item.descent()));
+  }
+  void drawPixmap(const QRectF& place, const QPixmap&, const QRectF&) override { KeepMark(place); }
+  void drawPath(const QPainterPath& path) override {
+    if (painter()->brush().style() == Qt::SolidPattern) KeepMark(path.boundingRect());
+  }
+  void drawPolygon(const QPointF*, int, PolygonDrawMode) override {}
+  void drawPolygon(const QPoint*, int, PolygonDrawMode) override {}
+
+  std::vector<PaintedBox> boxes;
+
+ private:
+  void KeepMark(const QRectF& place) {
+    if (place.width() <= LargestMark && place.height() <= LargestMark) Keep("mark", {}, place);
+  }
+  void Keep(const QString& kind, const QString& text, const QRectF& place) {
+    boxes.push_back({kind, text, painter()->combinedTransform().mapRect(place)});
+  }
+};
+
+class BoxDevice : public QPaintDevice {
+ public:
+  explicit BoxDevice(const QWidget& window) : window_(window) {}
+
+  QPaintEngine* paintEngine() const override { return &engine_; }
+  const std::vector<PaintedBox>& Boxes() const { return engine_.boxes; }
+
+ protected:
+  int metric(PaintDeviceMetric metric) const override {
+    switch (metric) {
+      case PdmWidth: return window_.width();
+      case PdmHeight: return window_.height();
+      case PdmDevicePixelRatio: return 1;
+      case PdmDevicePixelRatioScaled: return static_cast<int>(devicePixelRatioFScale());
+      case PdmDepth: return 32;
+      case PdmNumColors: return 1 << 24;
+      case PdmDpiX:
+      case PdmPhysicalDpiX: return window_.logicalDpiX();
+      case PdmDpiY:
+      case PdmPhysicalDpiY: return window_.logicalDpiY();
+      default: return 0;
+    }
+  }
+
+ private:
+  const QWidget& window_;
+  mutable BoxEngine engine_;
+};
+
+// Returns the part of a box that is on view and can be used; empty if there is none.
+QRectF UsableOf(const QWidget& window, const QRectF& place) {
+  const QPoint middle = place.center().toPoint();
+  QWidget* widget = window.childAt(middle);
+  if (widget == nullptr || !widget->isEnabled()) return {};
+  if (const auto* tabs = qobject_cast<const QTabBar*>(widget)) {
+    const int tab = tabs->tabAt(tabs->mapFrom(&window, middle));
+    if (tab >= 0 && !tabs->isTabEnabled(tab)) return {};
+  }
+  const QRect onView = widget->visibleRegion().boundingRect().translated(widget->mapTo(&window, QPoint()));
+  return place.intersected(onView);
+}
+
+}  // namespace
+
+QJsonArray PaintedBoxes(QWidget& window) {
+  BoxDevice device(window);
+  window.render(&device);
+  const double ratio = window.devicePixelRatioF();
+  QJsonArray boxes;
+  for (const PaintedBox& box : device.Boxes()) {
+    const QRectF place = UsableOf(window, box.place);
+    if (place.width() < 2 || place.height() < 2) continue;
+    boxes.append(QJsonObject{{"kind", box.kind},
+                             {"text", box.text},
+                             {"x", place.x() * ratio},
+                             {"y", place.y() * ratio},
+                             {"width", place.width() * ratio},
+                             {"height", place.height() * ratio}});
+  }
+  return boxes;
+}
+
+}  // namespace orby::test
