@@ -133,15 +133,17 @@ constexpr SystemRules EntryRules{CablesInEntry, TrussesInEntry, BoltsInEntry, St
 constexpr SystemRules IntersectionRules{CablesInIntersection, TrussesInIntersection, BoltsInIntersection,
                                         StandingInIntersection};
 
-SystemFigures JudgeSystems(const RoofSupport& design, const Catalogs& catalogs, const SecondarySupport& support,
-                           const SystemRules& rules, std::optional<Single> rockLoad) {
-  SystemFigures figures;
-  const auto systems = support.Systems();
-  for (std::size_t i = 0; i < SystemCount; ++i) {
-    if (!rockLoad || systems[i]->Use != 1) continue;
-    figures[i] = Attempt([&] { return rules[i](design, catalogs, *rockLoad); });
-  }
-  return figures;
+// Computes the figures of one system, or leaves those of a system that is not in use or has no load.
+void RefreshSystem(SupportFigures& figures, const RoofSupport& design, const Catalogs& catalogs,
+                   const SecondarySupport& support, const SystemRules& rules, std::size_t system) {
+  const std::optional<Single> rockLoad = figures.RockLoad.ValueOr({});
+  if (!rockLoad || support.Systems()[system]->Use != 1) return;
+  figures.Systems[system] = Attempt([&] { return rules[system](design, catalogs, *rockLoad); });
+}
+
+void RefreshSystems(SupportFigures& figures, const RoofSupport& design, const Catalogs& catalogs,
+                    const SecondarySupport& support, const SystemRules& rules) {
+  for (std::size_t i = 0; i < SystemCount; ++i) RefreshSystem(figures, design, catalogs, support, rules, i);
 }
 
 // ---- the report: English working numbers ---------------------------------------------------------------------------
@@ -186,6 +188,10 @@ WorkingNumbers WorkingNumbersOf(const RoofSupport& design, const Catalogs& catal
                          .RowSpacing = feet(cable.RowSpacing),
                          .EntryWidth = cable.Use == 1 ? width : Feet()};
   return working;
+}
+
+void RefreshWorking(Figures& figures, const RoofSupport& design, const Catalogs& catalogs) noexcept {
+  figures.Working = Attempt([&] { return WorkingNumbersOf(design, catalogs); });
 }
 
 // Returns the capacity of one bolt for the report, in kN or tons. In English designs this is the yield capacity,
@@ -272,16 +278,33 @@ Computed<std::optional<Single>> LivePSUP(const RoofSupport& design, const Catalo
 SupportFigures EntryFigures(const RoofSupport& design, const Catalogs& catalogs) noexcept {
   SupportFigures figures;
   figures.RockLoad = Attempt([&] { return EntryRockLoad(EntryRock(design), design.Units); });
-  figures.Systems = JudgeSystems(design, catalogs, design.Entries, EntryRules, figures.RockLoad.ValueOr({}));
+  RefreshSystems(figures, design, catalogs, design.Entries, EntryRules);
   return figures;
 }
 
 SupportFigures IntersectionFigures(const RoofSupport& design, const Catalogs& catalogs) noexcept {
   SupportFigures figures;
   figures.RockLoad = Attempt([&] { return IntersectionRockLoad(IntersectionRock(design), design.Units); });
-  figures.Systems =
-      JudgeSystems(design, catalogs, design.Intersections, IntersectionRules, figures.RockLoad.ValueOr({}));
+  RefreshSystems(figures, design, catalogs, design.Intersections, IntersectionRules);
   return figures;
+}
+
+void RefreshPrimary(Figures& figures, const RoofSupport& design, const Catalogs& catalogs) noexcept {
+  RefreshWorking(figures, design, catalogs);
+  figures.Primary =
+      Attempt([&] { return PrimaryOf(design, catalogs, figures.Working.Value().Primary, figures.Suggested.Value()); });
+}
+
+void RefreshEntrySystem(Figures& figures, const RoofSupport& design, const Catalogs& catalogs,
+                        std::size_t system) noexcept {
+  RefreshWorking(figures, design, catalogs);
+  RefreshSystem(figures.Entries, design, catalogs, design.Entries, EntryRules, system);
+}
+
+void RefreshIntersectionSystem(Figures& figures, const RoofSupport& design, const Catalogs& catalogs,
+                               std::size_t system) noexcept {
+  RefreshWorking(figures, design, catalogs);
+  RefreshSystem(figures.Intersections, design, catalogs, design.Intersections, IntersectionRules, system);
 }
 
 Figures Analyze(const RoofSupport& design, const Catalogs& catalogs) noexcept {
@@ -292,14 +315,12 @@ Figures Analyze(const RoofSupport& design, const Catalogs& catalogs) noexcept {
 
   // Attempt catches everything that this throws.
   // cppcheck-suppress throwInNoexceptFunction
-  figures.Working = Attempt([&] { return WorkingNumbersOf(design, catalogs); });
   figures.Suggested = Attempt([&] { return Suggest(TypedSite(design), design.Units); });
   figures.LiveSuggestion = Attempt([&] {
     const bool isShown = IsPlausible(TypedSite(design));
     return isShown ? std::optional(WithLiveWarnings(figures.Suggested.Value(), design.Units)) : std::nullopt;
   });
-  figures.Primary =
-      Attempt([&] { return PrimaryOf(design, catalogs, figures.Working.Value().Primary, figures.Suggested.Value()); });
+  RefreshPrimary(figures, design, catalogs);
   figures.EntryReinforcement = Attempt([&] { return EntryReinforcementOf(design, catalogs, figures.Working.Value()); });
   figures.IntersectionReinforcement =
       Attempt([&] { return IntersectionReinforcementOf(design, figures.Working.Value()); });

@@ -82,4 +82,12 @@ Computed<std::optional<Single>> LivePSUP(const RoofSupport& design, const Catalo
 SupportFigures EntryFigures(const RoofSupport& design, const Catalogs& catalogs) noexcept;
 SupportFigures IntersectionFigures(const RoofSupport& design, const Catalogs& catalogs) noexcept;
 
+// Compute again, after the pattern of one support has changed, what the judgements on it are made from. The other
+// figures stay as they are: `figures` are those of the design with another pattern of this support.
+void RefreshPrimary(Figures& figures, const RoofSupport& design, const Catalogs& catalogs) noexcept;
+void RefreshEntrySystem(Figures& figures, const RoofSupport& design, const Catalogs& catalogs,
+                        std::size_t system) noexcept;
+void RefreshIntersectionSystem(Figures& figures, const RoofSupport& design, const Catalogs& catalogs,
+                               std::size_t system) noexcept;
+
 }  // namespace orby

@@ -30,6 +30,23 @@ bool HasPattern(const RoofSupport& design) {
   return primary.Length > 0 && primary.BoltsperRow > 0 && primary.RowSpacing > 0 && bolt.Diameter > 0 && bolt.Grade > 0;
 }
 
+// The capacity of one bolt of a set, by its numbers in English units.
+Verdict JudgeCapacity(Opening where, const BoltSelection& set, const Computed<WorkingNumbers>& working,
+                      const WorkingBolt& bolt, UnitSystem units) {
+  const Bolt selected = SelectedBolt(set);
+  if (!(selected.Diameter > 0 && selected.Grade > 0)) return Incomplete(Aspect::BoltCapacity, where, Missing::Pattern);
+  if (!working.IsThere()) return Failed(Aspect::BoltCapacity, where, working.Error());
+  const auto capacity = Attempt([&] { return BoltCapacityCheck(bolt.Grade, bolt.Diameter, units); });
+  if (!capacity.IsThere()) return Failed(Aspect::BoltCapacity, where, capacity.Error());
+  return {.What = Aspect::BoltCapacity,
+          .Where = where,
+          .Result = ShortIf(FailsASTM(bolt, units)),
+          .Demand = SmallestCapacity(units),
+          .Supply = capacity.ValueOr(0)};
+}
+
+WorkingBolt BoltOf(const BoltPattern& pattern) { return {.Diameter = pattern.Diameter, .Grade = pattern.Grade}; }
+
 // ---- primary support -----------------------------------------------------------------------------------------------
 
 class PrimaryJudge {
@@ -60,6 +77,14 @@ class PrimaryJudge {
          .Supply = suggested.SugPSUP});
   }
 
+  void JudgeBolts() {
+    JudgeLengthOfBolts();
+    const WorkingNumbers working = figures_.Working.ValueOr({});
+    Add(JudgeCapacity(Opening::Primary, design_.Primary, figures_.Working, BoltOf(working.Primary), design_.Units));
+    JudgePsupOfBolts();
+  }
+
+ private:
   void JudgeLengthOfBolts() {
     if (!HasSite(design_) || !figures_.Suggested.IsThere()) return AddWithoutSite(Aspect::BoltLength);
     if (!(design_.Primary.Length > 0)) return AddIncomplete(Aspect::BoltLength, Missing::Pattern);
@@ -82,7 +107,6 @@ class PrimaryJudge {
          .Supply = primary.ActualPSUP});
   }
 
- private:
   void Add(const Verdict& verdict) { found_.Add(verdict); }
   void AddIncomplete(Aspect what, Missing reason) { Add(Incomplete(what, Opening::Primary, reason)); }
   void AddWithoutSite(Aspect what) {
@@ -94,23 +118,6 @@ class PrimaryJudge {
   const Figures& figures_;
   Verdicts& found_;
 };
-
-// The capacity of one bolt of a set, by its numbers in English units.
-Verdict JudgeCapacity(Opening where, const BoltSelection& set, const Computed<WorkingNumbers>& working,
-                      const WorkingBolt& bolt, UnitSystem units) {
-  const Bolt selected = SelectedBolt(set);
-  if (!(selected.Diameter > 0 && selected.Grade > 0)) return Incomplete(Aspect::BoltCapacity, where, Missing::Pattern);
-  if (!working.IsThere()) return Failed(Aspect::BoltCapacity, where, working.Error());
-  const auto capacity = Attempt([&] { return BoltCapacityCheck(bolt.Grade, bolt.Diameter, units); });
-  if (!capacity.IsThere()) return Failed(Aspect::BoltCapacity, where, capacity.Error());
-  return {.What = Aspect::BoltCapacity,
-          .Where = where,
-          .Result = ShortIf(FailsASTM(bolt, units)),
-          .Demand = SmallestCapacity(units),
-          .Supply = capacity.ValueOr(0)};
-}
-
-WorkingBolt BoltOf(const BoltPattern& pattern) { return {.Diameter = pattern.Diameter, .Grade = pattern.Grade}; }
 
 // ---- secondary support ---------------------------------------------------------------------------------------------
 
@@ -144,25 +151,70 @@ Verdict JudgeAnchorage(Aspect what, Opening where, Single length, double anchora
           .Supply = length};
 }
 
-void JudgeSecondary(Opening where, const SecondarySupport& support, const SupportFigures& figures,
-                    const RoofSupport& design, Verdicts& found) {
-  const auto systems = support.Systems();
-  for (std::size_t i = 0; i < SystemCount; ++i) {
-    if (systems[i]->Use == 1) found.Add(JudgeSystem(i, where, figures, design.Primary.StabilityFactor));
+// Judges the systems of entries or of intersections, each in steps.
+class SecondaryJudge {
+ public:
+  SecondaryJudge(Opening opening, const RoofSupport& theDesign, const Figures& theFigures, Verdicts& found)
+      : where_(opening),
+        design_(theDesign),
+        support_(opening == Opening::Entries ? theDesign.Entries : theDesign.Intersections),
+        figures_(theFigures),
+        found_(found) {}
+
+  void JudgeAll() {
+    const auto systems = support_.Systems();
+    for (const Step step : Steps) {
+      for (std::size_t i = 0; i < SystemCount; ++i) {
+        if (systems[i]->Use == 1) (this->*step)(i);
+      }
+    }
   }
-  const Anchorage anchorage = AnchorageIn(design.Units);
-  const Single height = support.RockLoadHeight;
-  if (support.Cable.Use == 1) {
-    found.Add(JudgeAnchorage(Aspect::CableAnchorage, where, support.Cable.Length, anchorage.Cables, height));
+  void JudgeOne(std::size_t system) {
+    for (const Step step : Steps) (this->*step)(system);
   }
-  if (support.Bolt.Use == 1) {
-    Verdict verdict = JudgeAnchorage(Aspect::BoltAnchorage, where, support.Bolt.Length, anchorage.Bolts, height);
-    // In both places the report uses the bolts and the rock of the entries.
-    const bool reported = IsTooShort(design.Entries.Bolt.Length, anchorage.Bolts, design.Entries.RockLoadHeight);
-    verdict.ReportDiffers = reported != (verdict.Result == Holding::Short);
-    found.Add(verdict);
+
+ private:
+  using Step = void (SecondaryJudge::*)(std::size_t system);
+
+  bool IsCable(std::size_t system) const { return support_.Systems()[system] == &support_.Cable; }
+  bool IsBolt(std::size_t system) const { return support_.Systems()[system] == &support_.Bolt; }
+
+  void JudgeFactor(std::size_t system) {
+    const SupportFigures& figures = where_ == Opening::Entries ? figures_.Entries : figures_.Intersections;
+    found_.Add(JudgeSystem(system, where_, figures, design_.Primary.StabilityFactor));
   }
-}
+
+  void JudgeLength(std::size_t system) {
+    const Anchorage anchorage = AnchorageIn(design_.Units);
+    const Single height = support_.RockLoadHeight;
+    if (IsCable(system)) {
+      found_.Add(JudgeAnchorage(Aspect::CableAnchorage, where_, support_.Cable.Length, anchorage.Cables, height));
+    }
+    if (IsBolt(system)) {
+      Verdict verdict = JudgeAnchorage(Aspect::BoltAnchorage, where_, support_.Bolt.Length, anchorage.Bolts, height);
+      // In both places the report uses the bolts and the rock of the entries.
+      const bool reported = IsTooShort(design_.Entries.Bolt.Length, anchorage.Bolts, design_.Entries.RockLoadHeight);
+      verdict.ReportDiffers = reported != (verdict.Result == Holding::Short);
+      found_.Add(verdict);
+    }
+  }
+
+  void JudgeOneBolt(std::size_t system) {
+    if (!IsBolt(system)) return;
+    const WorkingNumbers working = figures_.Working.ValueOr({});
+    const WorkingBolt bolt = where_ == Opening::Entries ? BoltOf(working.EntryBolts) : working.IntersectionBolt;
+    found_.Add(JudgeCapacity(where_, support_.Bolt, figures_.Working, bolt, design_.Units));
+  }
+
+  static constexpr Step Steps[] = {&SecondaryJudge::JudgeFactor, &SecondaryJudge::JudgeLength,
+                                   &SecondaryJudge::JudgeOneBolt};
+
+  Opening where_;
+  const RoofSupport& design_;
+  const SecondarySupport& support_;
+  const Figures& figures_;
+  Verdicts& found_;
+};
 
 }  // namespace
 
@@ -183,28 +235,25 @@ std::size_t Verdicts::Count(Holding result) const {
 
 Verdicts Judge(const RoofSupport& design, const Figures& figures) noexcept {
   Verdicts found;
-  const WorkingNumbers working = figures.Working.ValueOr({});
   if (design.Primary.Analysed == 1) {
     PrimaryJudge judge(design, figures, found);
     judge.JudgeSite();
-    judge.JudgeLengthOfBolts();
-    found.Add(JudgeCapacity(Opening::Primary, design.Primary, figures.Working, BoltOf(working.Primary), design.Units));
-    judge.JudgePsupOfBolts();
+    judge.JudgeBolts();
   }
-  if (design.Entries.Analysed == 1) {
-    JudgeSecondary(Opening::Entries, design.Entries, figures.Entries, design, found);
-    if (design.Entries.Bolt.Use == 1) {
-      found.Add(JudgeCapacity(Opening::Entries, design.Entries.Bolt, figures.Working, BoltOf(working.EntryBolts),
-                              design.Units));
-    }
-  }
-  if (design.Intersections.Analysed == 1) {
-    JudgeSecondary(Opening::Intersections, design.Intersections, figures.Intersections, design, found);
-    if (design.Intersections.Bolt.Use == 1) {
-      found.Add(JudgeCapacity(Opening::Intersections, design.Intersections.Bolt, figures.Working,
-                              working.IntersectionBolt, design.Units));
-    }
-  }
+  if (design.Entries.Analysed == 1) SecondaryJudge(Opening::Entries, design, figures, found).JudgeAll();
+  if (design.Intersections.Analysed == 1) SecondaryJudge(Opening::Intersections, design, figures, found).JudgeAll();
+  return found;
+}
+
+Verdicts JudgePrimaryBolts(const RoofSupport& design, const Figures& figures) noexcept {
+  Verdicts found;
+  PrimaryJudge(design, figures, found).JudgeBolts();
+  return found;
+}
+
+Verdicts JudgeSupport(const RoofSupport& design, const Figures& figures, Opening where, std::size_t system) noexcept {
+  Verdicts found;
+  SecondaryJudge(where, design, figures, found).JudgeOne(system);
   return found;
 }
 

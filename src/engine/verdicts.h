@@ -83,4 +83,9 @@ class Verdicts {
 // Judges those parts of the design that are to be analysed, and those support systems that are in use.
 Verdicts Judge(const RoofSupport& design, const Figures& figures) noexcept;
 
+// Make those of these judgements that are on one support, which must be analysed and in use: the primary bolts, or a
+// system of entries or of intersections by its index in SecondarySupport::Systems.
+Verdicts JudgePrimaryBolts(const RoofSupport& design, const Figures& figures) noexcept;
+Verdicts JudgeSupport(const RoofSupport& design, const Figures& figures, Opening where, std::size_t system) noexcept;
+
 }  // namespace orby
