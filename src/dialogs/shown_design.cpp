@@ -4,6 +4,7 @@
 #include <array>
 
 #include "base/arithmetic.h"
+#include "design/choices.h"
 #include "dialogs/catalog_choice.h"
 #include "engine/analysis.h"
 #include "files/project_lines.h"
@@ -31,10 +32,7 @@ bool HasKnownChoices(const SecondarySupport& support, UnitSystem units) {
 
 void TakeRow(BoltSelection& set, const BoltTable& table) {
   if (set.TableRow < 0 || static_cast<std::size_t>(set.TableRow) >= table.size()) set.TableRow = 0;
-  const BoltTableRow& row = table[static_cast<std::size_t>(set.TableRow)];
-  set.Desc = row.Name;
-  set.TableDiameter = AsTyped(row.Diameter);
-  set.TableGrade = AsTyped(row.Grade);
+  TakeTableRow(set, table, set.TableRow);
 }
 
 void TakeOutputs(SecondarySupport& support, const SupportFigures& figures, const NumberPattern& pattern) {
@@ -71,7 +69,7 @@ Design InSevenDigits(Design design) {
   for (const ProjectLine& line : ProjectLines) {
     if (const auto* field = std::get_if<SingleField>(&line.Field)) {
       Single& number = field->In(design);
-      number = AsTyped(NumberText(number));
+      number = InSevenDigits(number);
     }
   }
   return design;

@@ -57,12 +57,6 @@ RockInputs IntersectionRock(const RoofSupport& design) {
           .Span = Needed(design.Place.ActualSpanDiagonals)};
 }
 
-// Returns the capacity of one cable in the units of the design.
-Single CapacityOf(const CableSelection& cable, UnitSystem units, const Catalogs& catalogs) {
-  if (cable.CapMode == CapacityMode::ByDiameter) return CableCapacityFromDiameter(Needed(cable.Diam), units, catalogs);
-  return Needed(cable.Capacity == ValueSource::Standard ? cable.CapacityStd : cable.CapacityManual);
-}
-
 // Returns the capacity and stability factor of a support system under a rock load, or nothing when it lacks an input it
 // needs.
 using SystemRule = std::optional<SupportResult> (*)(const RoofSupport& design, const Catalogs& catalogs,
@@ -266,6 +260,11 @@ Reinforcement IntersectionReinforcementOf(const RoofSupport& design, const Worki
 }
 
 }  // namespace
+
+Single CapacityOf(const CableSelection& cable, UnitSystem units, const Catalogs& catalogs) {
+  if (cable.CapMode == CapacityMode::ByDiameter) return CableCapacityFromDiameter(Needed(cable.Diam), units, catalogs);
+  return Needed(cable.Capacity == ValueSource::Standard ? cable.CapacityStd : cable.CapacityManual);
+}
 
 Computed<std::optional<SuggestedFigures>> LiveSuggestion(const RoofSupport& design) noexcept {
   return Attempt([&] { return SuggestLive(TypedSite(design), design.Units); });

@@ -82,6 +82,9 @@ Computed<std::optional<Single>> LivePSUP(const RoofSupport& design, const Catalo
 SupportFigures EntryFigures(const RoofSupport& design, const Catalogs& catalogs) noexcept;
 SupportFigures IntersectionFigures(const RoofSupport& design, const Catalogs& catalogs) noexcept;
 
+// Returns the capacity of one cable in the units of the design. Throws RuntimeError 6 for a number that is Unfit.
+Single CapacityOf(const CableSelection& cable, UnitSystem units, const Catalogs& catalogs);
+
 // Compute again, after the pattern of one support has changed, what the judgements on it are made from. The other
 // figures stay as they are: `figures` are those of the design with another pattern of this support.
 void RefreshPrimary(Figures& figures, const RoofSupport& design, const Catalogs& catalogs) noexcept;

@@ -37,7 +37,7 @@ struct Pattern {
   bool operator==(const Pattern&) const = default;
 };
 
-Pattern PatternOf(const RoofSupport& design, const Catalogs& catalogs, const StudiedSupport& support);
+Pattern PatternOf(const Design& design, const Catalogs& catalogs, const StudiedSupport& support);
 
 // Sets the levers of a support. The design is then as the fields of the dialog hold it after these values were typed
 // and chosen.

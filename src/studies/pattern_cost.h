@@ -10,8 +10,8 @@ namespace orby {
 
 enum class CostGap : std::uint8_t {
   None,
-  Price,   // the price list has no price of the piece
-  Bolting  // the inputs of the cost dialog have no bolts per shift, or the cost ended with a run-time error
+  Price,       // the price list has no price of the piece
+  Uncomputed,  // no bolts per shift or no row spacing, or the cost ended with a run-time error
 };
 
 struct PatternCost {
