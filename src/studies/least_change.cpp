@@ -46,7 +46,7 @@ void SetGrade(Design& design, const Catalogs&, const StudiedSupport& support, Le
 constexpr std::array<LeverSetter, LeverCount> Setters{SetNumber,      SetNumber,   SetNumber,
                                                       SetItemByValue, SetDiameter, SetGrade};
 
-// An item of the catalog at the present strength is none to change to only if it is the present one.
+// Collects the values of a lever other than the present one, the nearest first.
 class CandidateList {
  public:
   CandidateList(const Design& design, const Catalogs& catalogs, const PriceList& prices, const StudiedSupport& support)

@@ -82,7 +82,7 @@ int StepsPerUnit(const StudiedSupport& support, Lever lever, UnitSystem units) {
 
 std::vector<Single> Steps(const LeverRange& range, int perUnit) {
   std::vector<Single> values;
-  for (int step = static_cast<int>(std::floor(range.From * perUnit));; ++step) {
+  for (int step = static_cast<int>(std::floor(static_cast<double>(range.From) * perUnit));; ++step) {
     const Single value = ToSingle(static_cast<double>(step) / perUnit);
     if (value > range.To) return values;
     if (value >= range.From) values.push_back(value);
