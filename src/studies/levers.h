@@ -30,7 +30,7 @@ std::vector<Lever> LeversOf(const RoofSupport& design, const StudiedSupport& sup
 
 // A pattern of one support. A support without a lever ignores its member.
 struct Pattern {
-  std::optional<std::size_t> Item;  // nothing: typed numbers, which are kept
+  std::optional<std::size_t> Item = std::nullopt;  // nothing: typed numbers, which are kept
   Single Length = 0;
   Single Number = 0;
   Single Spacing = 0;
