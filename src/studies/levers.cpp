@@ -23,10 +23,12 @@ std::optional<std::size_t> ItemOf(const CableSelection& cable, UnitSystem units,
   return PlaceIn(OfferedCableCapacities(catalogs, units), cable.CapacityStd);
 }
 
-std::optional<std::size_t> ItemOf(const StandingSelection& standing, const StandingSupports& supports) {
-  if (standing.TypeMode != ValueSource::Standard) return std::nullopt;
-  for (std::size_t i = 0; i < static_cast<std::size_t>(supports.HighestIndex + 1); ++i) {
-    if (supports.DefaultStandSupportType[i] == standing.TypeName) return i;
+// A new project has a name of the catalog with another capacity.
+std::optional<std::size_t> ItemOf(const StandingSelection& standing, UnitSystem units, const Catalogs& catalogs) {
+  for (std::size_t i = 0; i < static_cast<std::size_t>(catalogs.StandSupports.HighestIndex + 1); ++i) {
+    StandingSelection chosen = standing;
+    TakeStandingSupport(chosen, catalogs, units, i);
+    if (chosen == standing) return i;
   }
   return std::nullopt;
 }
@@ -43,7 +45,9 @@ std::optional<std::size_t> ItemOf(const RoofSupport& design, const Catalogs& cat
   }
   const SecondarySupport& secondary = support.Where == Opening::Entries ? design.Entries : design.Intersections;
   if (support.What == PricedSupport::Cable) return ItemOf(secondary.Cable, design.Units, catalogs);
-  if (support.What == PricedSupport::Standing) return ItemOf(secondary.Standing, catalogs.StandSupports);
+  if (support.What == PricedSupport::Standing) {
+    return ItemOf(secondary.Standing, design.Units, catalogs);
+  }
   return std::nullopt;
 }
 

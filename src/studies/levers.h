@@ -30,7 +30,7 @@ std::vector<Lever> LeversOf(const RoofSupport& design, const StudiedSupport& sup
 
 // A pattern of one support. A support without a lever ignores its member.
 struct Pattern {
-  std::optional<std::size_t> Item = std::nullopt;  // nothing: typed numbers, which are kept
+  std::optional<std::size_t> Item = std::nullopt;  // nothing: other numbers than an item has; they are kept
   Single Length = 0;
   Single Number = 0;
   Single Spacing = 0;
@@ -40,7 +40,8 @@ struct Pattern {
 Pattern PatternOf(const Design& design, const Catalogs& catalogs, const StudiedSupport& support);
 
 // Sets the levers of a support. The design is then as the fields of the dialog hold it after these values were typed
-// and chosen.
+// and chosen. A standing support has the capacity of the catalog, also if its name was chosen before with another one:
+// choosing the same name again would not change that.
 void SetPattern(Design& design, const Catalogs& catalogs, const StudiedSupport& support, const Pattern& pattern);
 
 // Returns the number of rows, cables or standing supports to choose from. 0 for trusses.

@@ -131,7 +131,7 @@ TEST(LeastChange, OfTheItemIsTheOneOfTheNearestStrengthThatHolds) {
   EXPECT_GT(outcomes[LeverOutcome::NoHelp], 200);
 }
 
-// Primary bolts of which only the PSUP is short: 3.5 of the suggested 4.6.
+// Primary bolts of which only the PSUP is short: 6.4 of the suggested 7.6.
 Design ShortOfPsup() {
   Design design = FullDesign();
   design.Cost = UsualCosts();
@@ -149,24 +149,21 @@ LeverChange Least(const Design& design, const StudiedSupport& support, Lever lev
 
 TEST(LeastChange, TakesTheNextStrongerGradeOrDiameterOfTheCatalogAndKeepsTheOther) {
   Design design = ShortOfPsup();
-  design.Primary.RowSpacing = 7;
-  design.Primary.GradeStd = 40;
-  ASSERT_FALSE(HoldsWhole(design, PrimaryBolts));
-
-  const LeverChange grade = Least(design, PrimaryBolts, Lever::Grade);
-  ASSERT_EQ(grade.Outcome, LeverOutcome::Changed);
-  EXPECT_TRUE(HoldsWhole(grade.After, PrimaryBolts));
-  EXPECT_EQ(grade.After.Primary.DiameterStd, 0.75F);
-  EXPECT_EQ(grade.After.Primary.GradeStd, grade.Value);
-  for (const Single weaker : {55.0F, 60.0F, 75.0F, 90.0F}) {
-    if (weaker >= grade.Value) break;
-    Design tried = design;
-    tried.Primary.GradeStd = weaker;
-    EXPECT_FALSE(HoldsWhole(tried, PrimaryBolts)) << weaker;
-  }
 
   const LeverChange diameter = Least(design, PrimaryBolts, Lever::Diameter);
-  EXPECT_EQ(diameter.Outcome, LeverOutcome::NoHelp) << "the grade is too weak for the thickest bolt";
+  ASSERT_EQ(diameter.Outcome, LeverOutcome::Changed);
+  EXPECT_EQ(diameter.Value, 0.875F) << "0.804 in has a PSUP of 7.3";
+  EXPECT_EQ(diameter.After.Primary.DiameterStd, 0.875F);
+  EXPECT_EQ(diameter.After.Primary.GradeStd, 60);
+
+  design.Primary.RowSpacing = 6;
+  design.Primary.GradeStd = 40;
+  const LeverChange grade = Least(design, PrimaryBolts, Lever::Grade);
+  ASSERT_EQ(grade.Outcome, LeverOutcome::Changed);
+  EXPECT_EQ(grade.Value, 90) << "a grade of 75 has a PSUP of 6.6";
+  EXPECT_EQ(grade.After.Primary.GradeStd, 90);
+  EXPECT_EQ(grade.After.Primary.DiameterStd, 0.75F);
+  EXPECT_EQ(Least(design, PrimaryBolts, Lever::Diameter).Outcome, LeverOutcome::NoHelp) << "the grade is too weak";
 }
 
 TEST(LeastChange, OfDiameterAndGradeIsOnlyForAManualSelectionThatOkKeeps) {

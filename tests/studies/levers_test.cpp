@@ -98,13 +98,39 @@ TEST_F(ALeverOfTheDialog, SetsInMetricDesignsWhatTypingAndChoosingLeave) {
        "txtCableBoltsPerRowSecEntry=5|txtCableRowSpacingSecEntry=2.35"},
       {EntryStanding,
        {.Item = 0, .Number = 3, .Spacing = 2.05F},
-       "optSupportTypeSecEntry=0|cmbSupportTypeSecEntry=4-point Hardwood Crib (8in x 8in timbers, 5' height)|"
+       "optSupportTypeSecEntry=0|cmbSupportTypeSecEntry=CAN (24in)|"
+       "cmbSupportTypeSecEntry=4-point Hardwood Crib (8in x 8in timbers, 5' height)|"
        "txtNumberSupPerRowSecEntry=3|txtSupportRowSpacingSecEntry=2.05"},
       {CrossingCables,
        {.Item = 5, .Length = 6, .Number = 12},
        "optCableCapacitySecInter=0|cmbCableCapacitySecInter=970|txtCableLengthSecInter=6|txtCableNumberSecInter=12"},
   };
   for (const TypedPattern& pattern : patterns) ExpectSameAsTyped(Metric, pattern);
+}
+
+TEST(PatternOfADesign, HasNoItemForAStandingSupportOfAnotherCapacityThanTheCatalogs) {
+  Design design = FullDesign();
+  design.Entries.Standing.TypeName = "Wood Post (8in)";
+  design.Entries.Standing.Capacity = 66;
+  EXPECT_EQ(PatternOf(design, Lists(), EntryStanding).Item, 8U);
+
+  design.Entries.Standing.Capacity = 50;
+  EXPECT_EQ(PatternOf(design, Lists(), EntryStanding).Item, std::nullopt);
+}
+
+TEST(PatternOfADesign, SetAgainChangesNothing) {
+  AnyDesigns any(4);
+  for (int i = 0; i < 500; ++i) {
+    const Design design = any.Next();
+    for (const StudiedSupport& support : AllSupports) {
+      Design set = design;
+      SetPattern(set, Lists(), support, PatternOf(design, Lists(), support));
+      ASSERT_EQ(JudgedWhole(set, support), JudgedWhole(design, support));
+      // A cable may then be chosen in the other way.
+      if (support.What == PricedSupport::Cable) continue;
+      ASSERT_EQ(set.Support(), design.Support());
+    }
+  }
 }
 
 // ---- steps ---------------------------------------------------------------------------------------------------------
