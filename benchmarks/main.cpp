@@ -1,20 +1,24 @@
 // Runs one step of the program while instructions are counted.
 #include <valgrind/callgrind.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <ctime>
 #include <functional>
 #include <map>
 #include <string>
 
+#include "design/choices.h"
 #include "dialogs/parameters_dialog.h"
 #include "engine/analysis.h"
 #include "engine/curves.h"
+#include "files/new_project.h"
 #include "files/project_reader.h"
 #include "files/project_writer.h"
 #include "reports/calculation_report.h"
 #include "reports/input_echo.h"
 #include "shell/start_up.h"
+#include "studies/pattern_search.h"
 #include "support/recording_platform.h"
 
 namespace {
@@ -132,6 +136,76 @@ void PrintRate() {
   std::printf("%d\n", isComputed ? static_cast<int>(Designs / seconds) : 0);
 }
 
+// Makes most patterns hold, because those are ranked too.
+void MakeStrong(Design& design) {
+  design.Place.CMRR = 75;
+  design.Primary.Analysed = 1;
+  for (SecondarySupport* support : {&design.Entries, &design.Intersections}) {
+    support->RockLoadHeight = 1;
+    support->Standing.RowSpacing = 4;
+  }
+}
+
+PriceList PricesOf(const Catalogs& catalogs, UnitSystem units) {
+  PriceList prices;
+  prices.BoltLengths =
+      units == Metric ? std::vector<Single>{1.2F, 1.5F, 1.8F, 2.1F, 2.4F, 3} : std::vector<Single>{4, 5, 6, 7, 8, 10};
+  for (const BoltTableRow& row : OfferedBolts(catalogs, units)) {
+    for (const Single length : prices.BoltLengths) {
+      prices.Prices.push_back({PricedSupport::Bolt, row.Name, length, 4 + length});
+    }
+  }
+  prices.Prices.push_back({PricedSupport::Truss, "", 0, 180});
+  for (const PricedSupport what : {PricedSupport::Cable, PricedSupport::Standing}) {
+    const StudiedSupport support{Opening::Entries, what};
+    for (std::size_t item = 0; item < ItemCount(catalogs, units, support); ++item) {
+      prices.Prices.push_back({what, ItemName(catalogs, units, support, item), 0, static_cast<Single>(30 + item)});
+    }
+  }
+  return prices;
+}
+
+// Returns how many patterns of a support one core examines in a second of processor time.
+double PatternRate(const Design& design, const Catalogs& catalogs, const StudiedSupport& support) {
+  constexpr std::size_t Least = 50000;
+  constexpr std::size_t Piece = 1000;
+  const PriceList prices = PricesOf(catalogs, design.Units);
+  const PatternLimits limits = WidestLimits(design.Units, support);
+  const std::clock_t began = std::clock();
+  std::size_t examined = 0;
+  std::size_t holding = 0;
+  while (examined < Least) {
+    PatternSearch search(design, catalogs, prices, support, limits);
+    while (!search.Step(Piece)) {
+    }
+    examined += search.Done();
+    holding += search.Found().HoldingPriced;
+  }
+  const double seconds = static_cast<double>(std::clock() - began) / CLOCKS_PER_SEC;
+  return holding > 0 ? static_cast<double>(examined) / seconds : 0;
+}
+
+// Prints the rate of the support whose patterns take longest, in both unit systems.
+void PrintPatternRate() {
+  double least = 1e12;
+  for (const UnitSystem units : {English, Metric}) {
+    Bench bench;
+    bench.program.session.settings.UnitsDefault = units;
+    FileNew(bench.program, Keeping::Nothing);
+    Design& design = bench.program.project.WorkParms;
+    for (SecondarySupport* support : {&design.Entries, &design.Intersections}) {
+      support->Analysed = 1;
+      for (SupportSystem* system : support->Systems()) system->Use = 1;
+    }
+    MakeStrong(design);
+    for (const StudiedSupport& support : StudiedSupports(design)) {
+      const double rate = PatternRate(design, bench.program.session.catalogs, support);
+      least = std::min(least, rate);
+    }
+  }
+  std::printf("%.0f\n", least);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -144,9 +218,13 @@ int main(int argc, char** argv) {
     PrintRate();
     return 0;
   }
+  if (word == "pattern-rate") {
+    PrintPatternRate();
+    return 0;
+  }
   const auto step = Steps.find(argc > 2 ? argv[2] : "");
   if (word != "run" || step == Steps.end()) {
-    std::fputs("usage: orby-bench list | run NAME | rate\n", stderr);
+    std::fputs("usage: orby-bench list | run NAME | rate | pattern-rate\n", stderr);
     return 1;
   }
   step->second();

@@ -4,6 +4,7 @@
 #include "design/choices.h"
 
 namespace orby {
+
 const BoltTable& LoadBoltTable(const Project& project, Catalogs& catalogs) {
   if (project.WorkParms.Units != Metric) return catalogs.BoltTableENG;
   if (UsesAustralianTable(project)) {

@@ -1,0 +1,58 @@
+// What the choice of an entry of a list sets.
+#include "design/choices.h"
+
+#include "design/catalogs.h"
+
+namespace orby::test {
+namespace {
+
+Catalogs BuiltIn() {
+  Catalogs lists;
+  SetBuiltInCatalogs(lists);
+  return lists;
+}
+
+TEST(ChosenTableRow, SetsTheNumbersThatTheTableShows) {
+  const Catalogs lists = BuiltIn();
+  BoltSelection set;
+  TakeTableRow(set, OfferedBolts(lists, English), 7);
+  EXPECT_EQ(set.TableRow, 7);
+  EXPECT_EQ(set.Desc, "#7 special rebar - grade 75");
+  EXPECT_EQ(set.TableDiameter, 0.804F);
+  EXPECT_EQ(set.TableGrade, 75);
+
+  TakeTableRow(set, OfferedBolts(lists, Metric), 7);
+  EXPECT_EQ(set.TableDiameter, 20.4F) << "the Metric table has one decimal";
+  EXPECT_EQ(set.TableGrade, 517.1F);
+}
+
+TEST(ChosenStandingSupport, HasAWholeCapacityInTheUnitsOfTheDesign) {
+  Catalogs lists = BuiltIn();
+  lists.StandSupports.DefaultStandSupportCap[7] = {22.6F, 195.4F};
+  StandingSelection standing;
+  standing.TypeMode = ValueSource::Typed;
+
+  TakeStandingSupport(standing, lists, English, 7);
+  EXPECT_EQ(standing.TypeMode, ValueSource::Standard);
+  EXPECT_EQ(standing.TypeName, "Wood Post (6in)");
+  EXPECT_EQ(standing.Capacity, 23);
+  TakeStandingSupport(standing, lists, Metric, 7);
+  EXPECT_EQ(standing.Capacity, 195);
+}
+
+TEST(OfferedGrades, AreOfTheUnitsAndTheBasisOfTheDesign) {
+  const Catalogs lists = BuiltIn();
+
+  EXPECT_EQ(OfferedBoltGrades(lists, English, StrengthBasis::Yield)[0], 40);
+  EXPECT_EQ(OfferedBoltGrades(lists, English, StrengthBasis::Ultimate)[0], 70);
+  EXPECT_EQ(OfferedBoltGrades(lists, Metric, StrengthBasis::Yield)[0], 280);
+  EXPECT_EQ(OfferedBoltGrades(lists, Metric, StrengthBasis::Ultimate)[0], 480);
+}
+
+TEST(SevenDigits, AreThoseOfAField) {
+  EXPECT_EQ(InSevenDigits(20.0F / 3), 6.666667F);
+  EXPECT_EQ(InSevenDigits(0.1F), 0.1F);
+}
+
+}  // namespace
+}  // namespace orby::test
