@@ -191,7 +191,8 @@ class PatternSearch::Work {
     const FoundPattern found{.Values = pattern_,
                              .Cost = CostOf(trial_.Tried().Cost, support_, pattern_, price),
                              .Margin = judged.Margin(),
-                             .Pieces = PiecesPerAdvance(support_, pattern_)};
+                             .Pieces = PiecesPerAdvance(support_, pattern_),
+                             .IsLongerThanNeeded = judged.IsLongerThanNeeded()};
     if (!found.Cost.Dollars) {
       ++unpriced_;
       if (notPriced_.size() < mostKept_) notPriced_.push_back(found);

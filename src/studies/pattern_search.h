@@ -17,6 +17,7 @@ struct FoundPattern {
   // Of those with a cost: no other pattern has both a lower or equal cost and a greater or equal margin. Of several
   // that are equal in both, only the first has the mark.
   bool IsOnFront = false;
+  bool IsLongerThanNeeded = false;  // see Assessment
   bool operator==(const FoundPattern&) const = default;
 };
 

@@ -151,6 +151,27 @@ TEST(Analysis, OfATooLargeWorkingNumberFailsOnlyInThePartsOfTheReport) {
   EXPECT_TRUE(figures.Entries.RockLoad.IsThere());
 }
 
+// ---- one support again ----------------------------------------------------------------------------------------------
+
+TEST(RefreshedFigures, AreThoseOfTheChangedPattern) {
+  const Catalogs lists = BuiltInLists();
+  Design design = FullDesign();
+  Figures figures = Analyze(design, lists);
+  design.Primary.RowSpacing = 7;
+  design.Entries.Cable.RowSpacing = 0;
+  design.Intersections.Standing.Number = 9;
+  const Figures whole = Analyze(design, lists);
+
+  RefreshPrimary(figures, design, lists);
+  RefreshEntrySystem(figures, design, lists, 0);
+  RefreshIntersectionSystem(figures, design, lists, 3);
+
+  EXPECT_EQ(figures.Primary.Value().ActualPSUP, whole.Primary.Value().ActualPSUP);
+  EXPECT_EQ(figures.Working.Value().Primary.RowSpacing, Feet(7));
+  EXPECT_FALSE(figures.Entries.Systems[0].Value()) << "it has no row spacing any more";
+  EXPECT_EQ(figures.Intersections.Systems[3].Value()->Capacity, 450);
+}
+
 // ---- from many threads ----------------------------------------------------------------------------------------------
 
 Design AnyDesign(std::uint32_t number) {

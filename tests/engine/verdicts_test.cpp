@@ -122,6 +122,28 @@ TEST_F(Judging, TakesALengthThatNothingCanHoldAsAnOverflow) {
   EXPECT_EQ(Of(Aspect::CableAnchorage, Opening::Intersections).value().Error, 6);
 }
 
+TEST_F(Judging, OfOneSupportAreThoseOfTheWholeDesign) {
+  const Figures figures = Analyze(design, BuiltInLists());
+  const auto of = [](const Verdicts& verdicts) {
+    std::vector<std::pair<Aspect, Opening>> list;
+    for (const Verdict& verdict : verdicts.All()) list.emplace_back(verdict.What, verdict.Where);
+    return list;
+  };
+  using testing::ElementsAre;
+  using testing::Pair;
+
+  EXPECT_THAT(of(JudgePrimaryBolts(design, figures)),
+              ElementsAre(Pair(Aspect::BoltLength, Opening::Primary), Pair(Aspect::BoltCapacity, Opening::Primary),
+                          Pair(Aspect::Psup, Opening::Primary)));
+  EXPECT_THAT(of(JudgeSupport(design, figures, Opening::Entries, 0)),
+              ElementsAre(Pair(Aspect::Cables, Opening::Entries), Pair(Aspect::CableAnchorage, Opening::Entries)));
+  const Verdicts bolts = JudgeSupport(design, figures, Opening::Intersections, 2);
+  ASSERT_EQ(bolts.All().size(), 3U);
+  EXPECT_EQ(bolts.All()[0], Of(Aspect::Bolts, Opening::Intersections));
+  EXPECT_EQ(bolts.All()[1], Of(Aspect::BoltAnchorage, Opening::Intersections));
+  EXPECT_EQ(bolts.All()[2], Of(Aspect::BoltCapacity, Opening::Intersections));
+}
+
 TEST(ShareMissing, IsOfTheDemand) {
   EXPECT_DOUBLE_EQ(ShareMissing({.What = Aspect::Psup, .Result = Holding::Short, .Demand = 4, .Supply = 3}), 0.25);
   EXPECT_DOUBLE_EQ(ShareMissing({.What = Aspect::Span, .Result = Holding::Short, .Demand = 4, .Supply = 5}), 0.25);

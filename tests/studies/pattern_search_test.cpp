@@ -127,6 +127,17 @@ TEST(PatternSearch, RanksByCostThenMarginThenFewerPieces) {
   EXPECT_TRUE(std::ranges::is_sorted(found.Ranked, {}, rank));
 }
 
+TEST(PatternSearch, NotesTheBoltsThatAreLongerThanNeeded) {
+  const Design design = EasyDesign();  // the suggested length is 4 ft, and 2 ft more are usual
+  const FoundPatterns found =
+      SearchIn(design, AllPrices(English), PrimaryBolts, UsualLimits(design, PrimaryBolts), 100000);
+
+  for (const FoundPattern& pattern : found.Ranked) {
+    ASSERT_EQ(pattern.IsLongerThanNeeded, pattern.Values.Length > 6);
+  }
+  EXPECT_GT(std::ranges::count(found.Ranked, true, &FoundPattern::IsLongerThanNeeded), 0);
+}
+
 TEST(PatternSearch, PutsTheGreaterMarginFirstAtEqualCost) {
   Design design = EasyDesign();
   PriceList prices;
