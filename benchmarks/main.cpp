@@ -112,14 +112,34 @@ void JudgedKey() {
   dialog.Open();
   Measured([&] {
     dialog.txtDepthofCover.SetText("4005");
+    dialog.Edits()->EndAction();
+    dialog.ShowVerdicts();
+  });
+}
+
+// The same with the drawing of this tab on view.
+void DrawnKey(int tab) {
+  Bench bench;
+  ParametersDialog dialog(bench.program);
+  dialog.Open();
+  dialog.SSTab1.SetTab(tab);
+  Measured([&] {
+    dialog.txtDepthofCover.SetText("4005");
     dialog.EndAct();
   });
 }
 
-const std::map<std::string, std::function<void()>> Steps{
-    {"live_refresh", LiveRefresh},    {"analyze", AnalyzeDesign},      {"report_pages", ReportPages},
-    {"read_project", ReadOneProject}, {"default_curve", DefaultCurve}, {"key_press", KeyPress},
-    {"judged_key", JudgedKey}};
+const std::map<std::string, std::function<void()>> Steps{{"live_refresh", LiveRefresh},
+                                                         {"analyze", AnalyzeDesign},
+                                                         {"report_pages", ReportPages},
+                                                         {"read_project", ReadOneProject},
+                                                         {"default_curve", DefaultCurve},
+                                                         {"key_press", KeyPress},
+                                                         {"judged_key", JudgedKey},
+                                                         {"drawn_general", [] { DrawnKey(0); }},
+                                                         {"drawn_primary", [] { DrawnKey(1); }},
+                                                         {"drawn_entries", [] { DrawnKey(2); }},
+                                                         {"drawn_intersections", [] { DrawnKey(3); }}};
 
 // Prints how many designs one core analyses in a second of processor time.
 void PrintRate() {

@@ -10,6 +10,7 @@
 #include "core/shared_texts.h"
 #include "design/design.h"
 #include "design/units.h"
+#include "dialogs/drawing.h"
 #include "engine/secondary_support.h"
 
 namespace orby {
@@ -118,8 +119,8 @@ class ParametersControls : public ProgramForm {
   CheckBox chkPrimSupport{*this, "chkPrimSupport", "Analysis of Primary Roof Bolts"};
   CheckBox chkSecondSupEntries{*this, "chkSecondSupEntries", "Analysis of Secondary Support: Entries"};
   CheckBox chkSecondSupInter{*this, "chkSecondSupInter", "Analysis of Secondary Support: Intersections"};
+  Drawing Picture1{*this, "Picture1", "Diagonals of an intersection"};
   TextBox txtMessage{*this, "txtMessage", TextKind::Output};
-  Picture Picture1{*this, "Picture1"};
 
   // primary support
   Frame fraPrimarySupport{*this, "fraPrimarySupport", "Primary Support Parameters"};
@@ -134,6 +135,7 @@ class ParametersControls : public ProgramForm {
        "fraBoltGradePrimary", "optBoltGradePrimary", "cmbBoltGradePrimary", "txtBoltGradePrimary"},
       SSTab1,
       1};
+  Drawing Image1{*this, "Image1", "Primary support of an entry"};
   Frame fraOutput{*this, "fraOutput", "Output"};
   Label lblSugTULK{*this, "lblSugTULK", "Suggested PSUP"};
   TextBox txtSugPSUP{*this, "txtSugPSUP", TextKind::Output};
@@ -143,7 +145,6 @@ class ParametersControls : public ProgramForm {
                                    "Suggested Minimum Roof Bolt Length", UnitSuffix::Length};
   LabelledBox txtSugSumDiagonals{*this, "txtSugSumDiagonals", TextKind::Output,
                                  "Suggested Intersection Sum of the diagonals", UnitSuffix::Length};
-  Picture Image1{*this, "Image1"};
 
   // secondary support: entries
   Frame fraRockLoadEntry{*this, "fraRockLoadEntry", "Rock Load Parameters"};
@@ -202,6 +203,7 @@ class ParametersControls : public ProgramForm {
         {"txtSupportCapEntry1", "txtSupportCapEntry2", "txtSupportCapEntry3", "txtSupportCapEntry4"},
         {"txtStabFactorEntry1", "txtStabFactorEntry2", "txtStabFactorEntry3", "txtStabFactorEntry4"}}},
       UnitSuffix::LineLoad};
+  Drawing picEntries{*this, "picEntries", "Secondary support of an entry"};
 
   // secondary support: intersections
   Frame fraRockLoadInter{*this, "fraRockLoadInter", "Rock Load Parameters"};
@@ -256,6 +258,7 @@ class ParametersControls : public ProgramForm {
         {"txtSupportCapInter1", "txtSupportCapInter2", "txtSupportCapInter3", "txtSupportCapInter4"},
         {"txtStabFactorInter1", "txtStabFactorInter2", "txtStabFactorInter3", "txtStabFactorInter4"}}},
       UnitSuffix::Force};
+  Drawing picIntersections{*this, "picIntersections", "Secondary support of an intersection"};
 
   // the judgements, on view from every tab
   Label lblVerdicts{*this, "lblVerdicts", "Judgements"};

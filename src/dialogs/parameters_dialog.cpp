@@ -70,6 +70,7 @@ ParametersDialog::ParametersDialog(Program& program) : ParametersControls(progra
   TieEvents();
   TieRanges();
   TieCommands();
+  TieDrawings();
 }
 
 void ParametersDialog::TieCommands() {
@@ -111,7 +112,7 @@ void ParametersDialog::OnOpen() {
   ShowActualPSUP();
   ShowEntries();
   ShowIntersections();
-  ShowVerdicts();
+  OnAct();
   edits_.Start(*this);
   program_.platform.windows.CenterForm(*this);
 }

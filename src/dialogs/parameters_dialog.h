@@ -76,7 +76,10 @@ class ParametersDialog : public ParametersControls {
  protected:
   void OnOpen() override;
   void OnClose() override;
-  void OnAct() override { ShowVerdicts(); }
+  void OnAct() override {
+    ShowVerdicts();
+    ShowDrawing();
+  }
 
  private:
   // The refreshes that a change event runs, in this order.
@@ -118,6 +121,12 @@ class ParametersDialog : public ParametersControls {
 
   // Opens the estimator and takes its roof rating.
   void Estimate();
+
+  // Connects the drawings with the tabs and with their commands.
+  void TieDrawings();
+  // Makes the drawing on the tab on view from the typed design as it has been read last.
+  void ShowDrawing();
+  void ReadAndDraw();
 
   void ShowVerdictRows();
   // Moves the focus to the field that decides the judgement of a row.

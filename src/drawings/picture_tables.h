@@ -30,7 +30,7 @@ struct Picture {
   std::span<const PictureLabel> Labels;
 };
 
-// The icons, and the drawings of the parameters dialog.
+// The icons and marks.
 std::span<const Picture> DrawnPictures();
 
 // The map of the coal regions with one of them marked, by the index of the region.

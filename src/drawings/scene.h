@@ -10,6 +10,8 @@ namespace orby {
 struct ScenePoint {
   double X = 0;
   double Y = 0;
+
+  bool operator==(const ScenePoint&) const = default;
 };
 
 // The colours of a drawing by what they are for. Text is the colour of texts around the drawing, light or dark.
@@ -23,11 +25,15 @@ struct PathStep {
   ScenePoint To;
   ScenePoint FirstControl;   // of a cubic curve
   ScenePoint SecondControl;  // of a cubic curve
+
+  bool operator==(const PathStep&) const = default;
 };
 
 struct SceneFill {
   Ink Colour = Ink::None;
   double Opacity = 1;
+
+  bool operator==(const SceneFill&) const = default;
 };
 
 struct SceneStroke {
@@ -36,12 +42,16 @@ struct SceneStroke {
   double Opacity = 1;
   bool IsRound = false;  // at its ends and corners
   bool IsDashed = false;
+
+  bool operator==(const SceneStroke&) const = default;
 };
 
 struct SceneOutline {
   std::vector<PathStep> Steps;
   SceneFill Inside;
   SceneStroke Line;
+
+  bool operator==(const SceneOutline&) const = default;
 };
 
 enum class Anchor { Start, Middle, End };
@@ -53,6 +63,8 @@ struct SceneLabel {
   double Size = 13;
   bool IsBold = false;
   double Turn = 0;  // degrees clockwise around At
+
+  bool operator==(const SceneLabel&) const = default;
 };
 
 // Outlines are painted in their order, and labels over them.
@@ -61,6 +73,8 @@ struct Scene {
   double Height = 0;
   std::vector<SceneOutline> Outlines;
   std::vector<SceneLabel> Labels;
+
+  bool operator==(const Scene&) const = default;
 };
 
 // Returns the steps of a path text: "M" move, "L" line, "C" cubic curve with its two control points, each followed by

@@ -7,6 +7,7 @@ namespace orby {
 
 class Control;
 class Form;
+struct Scene;
 
 class Clipboard {
  public:
@@ -16,6 +17,8 @@ class Clipboard {
   // Sets a picture of a chart, or of a form as it is on the screen.
   virtual void SetPicture(const Control& chart) = 0;
   virtual void SetPicture(const Form& form) = 0;
+  // Sets a picture of a drawing on white, in the colours for light backgrounds.
+  virtual void SetPicture(const Scene& scene) = 0;
 };
 
 }  // namespace orby

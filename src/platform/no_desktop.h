@@ -56,6 +56,7 @@ class NoClipboard : public Clipboard {
   void SetText(const std::string&) override {}
   void SetPicture(const Control&) override {}
   void SetPicture(const Form&) override {}
+  void SetPicture(const Scene&) override {}
 };
 
 class NoPrinter : public Printer {
@@ -67,6 +68,12 @@ class NoPrinter : public Printer {
     throw RuntimeError(error_number::Printer);
   }
   void PrintChart(const Control&, const std::string&) override { throw RuntimeError(error_number::Printer); }
+};
+
+class NoPictureFiles : public PictureFiles {
+ public:
+  std::string AsPng(const Scene&) override { throw RuntimeError(error_number::OutOfMemory); }
+  std::string AsPdf(const Scene&, const std::string&) override { throw RuntimeError(error_number::OutOfMemory); }
 };
 
 class NoDocuments : public Documents {

@@ -10,6 +10,7 @@
 #include "platform/file_types.h"
 #include "platform/help_viewer.h"
 #include "platform/message_boxes.h"
+#include "platform/picture_files.h"
 #include "platform/printer.h"
 #include "platform/surroundings.h"
 #include "platform/windows.h"
@@ -31,6 +32,7 @@ struct Platform {
   HelpViewer& help;
   Downloads& downloads;
   FileTypes& fileTypes;
+  PictureFiles& pictures;
 };
 
 }  // namespace orby

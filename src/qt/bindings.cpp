@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "controls/chart.h"
+#include "dialogs/drawing.h"
 
 namespace orby {
 namespace {
@@ -54,7 +55,7 @@ BindingPointer Bind(BindingHost& host, Control& control) {
       fits(As<TextPane>(control, with(BindTextPane))) || fits(As<ProgressBar>(control, with(BindProgressBar))) ||
       fits(As<Grid>(control, with(BindGrid))) || fits(As<TabSet>(control, with(BindTabSet))) ||
       fits(As<ActionArray>(control, with(BindActionArray))) || fits(As<Chart>(control, with(BindChart))) ||
-      fits(BindPlain(host, control));
+      fits(As<Drawing>(control, with(BindDrawing))) || fits(BindPlain(host, control));
   return found;
 }
 

@@ -15,6 +15,7 @@
 namespace orby {
 
 class Chart;
+class Drawing;
 class Mnemonics;
 
 // A caption that can have a mnemonic letter.
@@ -52,6 +53,8 @@ class Binding {
   virtual std::vector<CaptionSlot> Captions() const { return {}; }
   // Returns true if a hidden widget keeps its place, so that nothing else moves.
   virtual bool RetainsSize() const { return false; }
+  // Returns true if the widgets have a menu of their own, to which the undo of edits adds nothing.
+  virtual bool HasOwnMenu() const { return false; }
   // Returns the widget that gets the focus if the control requests it.
   virtual QWidget* FocusWidget() const { return Widgets().empty() ? nullptr : Widgets().front(); }
 };
@@ -121,6 +124,7 @@ BindingPointer BindPlain(BindingHost& host, const Control& control);  // shows t
 BindingPointer BindProgressBar(BindingHost& host, const ProgressBar& bar);
 BindingPointer BindTextPane(BindingHost& host, const TextPane& pane);
 BindingPointer BindChart(BindingHost& host, const Chart& chart);
+BindingPointer BindDrawing(BindingHost& host, Drawing& drawing);
 
 // Returns the binding for the control's type.
 BindingPointer Bind(BindingHost& host, Control& control);

@@ -134,7 +134,9 @@ void BoundForm::TieEdits() {
   if (form_.Edits() == nullptr) return;
   editKeys_ = std::make_unique<EditKeys>(form_, *this);
   for (Control* control : form_.Controls()) {
-    for (QWidget* widget : bindings_.at(control)->Widgets()) editKeys_->Watch(*control, *widget);
+    const Binding& binding = *bindings_.at(control);
+    if (binding.HasOwnMenu()) continue;
+    for (QWidget* widget : binding.Widgets()) editKeys_->Watch(*control, *widget);
   }
 }
 

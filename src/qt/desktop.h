@@ -7,6 +7,7 @@
 #include "qt/file_dialogs.h"
 #include "qt/help_viewer.h"
 #include "qt/message_boxes.h"
+#include "qt/picture_files.h"
 #include "qt/printer.h"
 #include "qt/surroundings.h"
 #include "qt/windows.h"
@@ -30,10 +31,11 @@ struct Desktop {
   QtHelpViewer help;
   QtDownloads downloads;
   FileTypes& fileTypes;
+  QtPictureFiles pictures;
 
   Platform AsPlatform() {
-    return {boxes,       files,     fileDialogs, windows,   fonts, locale,    clock,
-            userFolders, clipboard, printer,     documents, help,  downloads, fileTypes};
+    return {boxes,     files,   fileDialogs, windows, fonts,     locale,    clock,   userFolders,
+            clipboard, printer, documents,   help,    downloads, fileTypes, pictures};
   }
 };
 

@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QImage>
 #include <QLocale>
 #include <QStandardPaths>
 #include <QTimer>
@@ -11,6 +12,7 @@
 #include "qt/bound_form.h"
 #include "qt/boundary.h"
 #include "qt/chart_view.h"
+#include "qt/picture_files.h"
 #include "qt/texts.h"
 
 namespace orby {
@@ -75,6 +77,11 @@ void QtClipboard::SetPicture(const Control& chart) {
 
 void QtClipboard::SetPicture(const Form& form) {
   if (QWidget* window = WindowOnScreen(form)) QGuiApplication::clipboard()->setPixmap(window->grab());
+}
+
+void QtClipboard::SetPicture(const Scene& scene) {
+  const std::string png = QtPictureFiles().AsPng(scene);
+  QGuiApplication::clipboard()->setImage(QImage::fromData(QByteArray::fromStdString(png)));
 }
 
 }  // namespace orby

@@ -38,6 +38,7 @@ class QtClipboard : public Clipboard {
   void SetText(const std::string& text) override;
   void SetPicture(const Control& chart) override;
   void SetPicture(const Form& form) override;
+  void SetPicture(const Scene& scene) override;
 };
 
 }  // namespace orby

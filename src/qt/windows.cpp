@@ -32,6 +32,7 @@
 #include <ui_unit_calculator_window.h>
 #include <ui_update_dialog.h>
 #include "core/dialog_helpers.h"
+#include "qt/drawing_view.h"
 #include "qt/frame_reader.h"
 #include "qt/window_frame.h"
 
@@ -170,6 +171,7 @@ std::unique_ptr<QWidget> MakeWindow(const Form& form, QWidget* parent) {
   // Must run before the first frame is created, because the toolkit asks for a frame's reader as soon as it has a
   // title, and keeps it.
   InstallFrameReader();
+  InstallDrawingReader();
   return entry->make(parent);
 }
 

@@ -13,12 +13,16 @@ namespace orby {
 struct SheetSize {
   double Width = 0;
   double Height = 0;
+
+  bool operator==(const SheetSize&) const = default;
 };
 
 // A drawing, and its main dimensions in words.
 struct Sketch {
   Scene Picture;
   std::vector<std::string> Facts;
+
+  bool operator==(const Sketch&) const = default;
 };
 
 struct Box {

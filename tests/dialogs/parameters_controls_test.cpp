@@ -54,7 +54,7 @@ const std::vector<ControlCase> GeneralControls{
     {"chkSecondSupEntries", "check box", "Analysis of Secondary Support: Entries", ""},
     {"chkSecondSupInter", "check box", "Analysis of Secondary Support: Intersections", ""},
     {"txtMessage", "output", "", ""},
-    {"Picture1", "picture", "", ""},
+    {"Picture1", "drawing", "", ""},
     {"Command2", "button", "OK", ""},
     {"Command1", "button", "Cancel", ""},
     {"cmdresults", "button", "Results", ""},
@@ -82,7 +82,7 @@ const std::vector<ControlCase> PrimaryControls{
     {"txtSuggestBoltLength", "output", "", ""},
     {"lblSugSumDiagonals", "label", "Suggested Intersection Sum of the diagonals", "length"},
     {"txtSugSumDiagonals", "output", "", ""},
-    {"Image1", "picture", "", ""},
+    {"Image1", "drawing", "", ""},
 };
 
 const std::vector<ControlCase> EntryControls{
@@ -114,6 +114,7 @@ const std::vector<ControlCase> EntryControls{
     {"txtNumberSupPerRowSecEntry", "text", "", ""},
     {"lblSupportRowSpacingSecEntry", "label", "Row Spacing", "length"},
     {"txtSupportRowSpacingSecEntry", "text", "", ""},
+    {"picEntries", "drawing", "", ""},
 };
 
 const std::vector<ControlCase> IntersectionControls{
@@ -141,6 +142,7 @@ const std::vector<ControlCase> IntersectionControls{
     {"fraSupportTypeInter", "frame", "Support Type", ""},
     {"lblSupportNumberSecInter", "label", "Number of Supports", ""},
     {"txtSupportNumberSecInter", "text", "", ""},
+    {"picIntersections", "drawing", "", ""},
 };
 
 // The bolt tables, each with its own names: * stands for Primary, SecEntry or SecInter.
@@ -245,7 +247,7 @@ std::string KindOf(const Control* control) {
   if (dynamic_cast<const OptionArray*>(control) != nullptr) return "option array";
   if (dynamic_cast<const Button*>(control) != nullptr) return "button";
   if (dynamic_cast<const TabSet*>(control) != nullptr) return "tabs";
-  if (dynamic_cast<const Picture*>(control) != nullptr) return "picture";
+  if (dynamic_cast<const Drawing*>(control) != nullptr) return "drawing";
   if (dynamic_cast<const Frame*>(control) != nullptr) return "frame";
   return dynamic_cast<const Label*>(control) != nullptr ? "label" : "something else";
 }

@@ -402,7 +402,7 @@ TEST_F(SettingsTest, LeaveOtherFailuresOfADialogToTheProgram) {
   } broken;
   Program other{Platform{platform.boxes, platform.files, broken, platform.windows, platform.fonts, platform.locale,
                          platform.clock, platform.userFolders, platform.clipboard, platform.printer, platform.documents,
-                         platform.help, platform.downloads, platform.fileTypes}};
+                         platform.help, platform.downloads, platform.fileTypes, platform.pictures}};
   SettingsDialog asked(other, nullptr);
   asked.Open();
 

@@ -64,7 +64,8 @@ Platform GuiPlatform::AsPlatform(const RealDoors& real) {
           RealOr<Documents>(real.documents, documents),
           RealOr<HelpViewer>(real.help, help),
           RealOr<Downloads>(real.downloads, downloads),
-          fileTypes};
+          fileTypes,
+          RealOr<PictureFiles>(real.pictures, pictures)};
 }
 
 ModalScripts::ModalScripts() { qApp->installEventFilter(this); }

@@ -35,6 +35,7 @@ struct RealDoors {
   HelpViewer* help = nullptr;
   Downloads* downloads = nullptr;
   FileSystem* files = nullptr;
+  PictureFiles* pictures = nullptr;
 };
 
 // The windows are real. Everything else has scripted answers, unless a test provides the real service.

@@ -90,6 +90,8 @@ void RecordingClipboard::SetPicture(const Control& chart) { pictured = chart.Nam
 
 void RecordingClipboard::SetPicture(const Form& form) { pictured = form.Name(); }
 
+void RecordingClipboard::SetPicture(const Scene& given) { scene = given; }
+
 void RecordingPrinter::Choose(const std::string& fileName) {
   ++chosen;
   proposedName = fileName;
@@ -181,6 +183,16 @@ ScriptedDownloads::ScriptedFetch::~ScriptedFetch() { asked_.stopped = true; }
 
 void RecordingFileTypes::Associate(const std::string& extension, const std::string& programName) {
   associated.push_back(extension + " with " + programName);
+}
+
+std::string RecordingPictures::AsPng(const Scene& scene) {
+  scenes.push_back(scene);
+  return "PNG";
+}
+
+std::string RecordingPictures::AsPdf(const Scene& scene, const std::string& title) {
+  scenes.push_back(scene);
+  return "PDF of " + title;
 }
 
 RecordingPlatform::RecordingPlatform() = default;

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "base/runtime_error.h"
+#include "drawings/scene.h"
 #include "platform/platform.h"
 #include "support/memory_files.h"
 
@@ -114,8 +115,10 @@ class RecordingClipboard : public Clipboard {
   void SetText(const std::string& given) override;
   void SetPicture(const Control& chart) override;
   void SetPicture(const Form& form) override;
+  void SetPicture(const Scene& given) override;
 
   std::string text;
+  Scene scene;
   std::string pictured;
 };
 
@@ -216,6 +219,15 @@ class RecordingFileTypes : public FileTypes {
   std::vector<std::string> associated;
 };
 
+// Pictures whose bytes are only "PNG", or "PDF of" and the title.
+class RecordingPictures : public PictureFiles {
+ public:
+  std::string AsPng(const Scene& scene) override;
+  std::string AsPdf(const Scene& scene, const std::string& title) override;
+
+  std::vector<Scene> scenes;
+};
+
 struct RecordingPlatform {
   RecordingPlatform();
   ~RecordingPlatform();
@@ -236,6 +248,7 @@ struct RecordingPlatform {
   RecordingHelp help;
   ScriptedDownloads downloads;
   RecordingFileTypes fileTypes;
+  RecordingPictures pictures;
 
   Platform AsPlatform();
   // Returns the platform with `others`, such as other message boxes or another file system, instead of its own.
@@ -254,7 +267,8 @@ struct RecordingPlatform {
             Given<Documents>(documents, others...),
             Given<HelpViewer>(help, others...),
             Given<Downloads>(downloads, others...),
-            Given<FileTypes>(fileTypes, others...)};
+            Given<FileTypes>(fileTypes, others...),
+            Given<PictureFiles>(pictures, others...)};
   }
 
  private:

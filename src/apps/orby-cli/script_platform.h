@@ -58,10 +58,11 @@ struct ScriptPlatform {
   NoHelpViewer help;
   NoDownloads downloads;
   NoFileTypes fileTypes;
+  NoPictureFiles pictures;
 
   Platform AsPlatform() {
-    return {boxes,       files,     fileDialogs, windows,   fonts, locale,    clock,
-            userFolders, clipboard, printer,     documents, help,  downloads, fileTypes};
+    return {boxes,     files,   fileDialogs, windows, fonts,     locale,    clock,   userFolders,
+            clipboard, printer, documents,   help,    downloads, fileTypes, pictures};
   }
 };
 

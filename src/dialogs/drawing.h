@@ -1,0 +1,50 @@
+// A drawing of the design in a dialog, to scale, and what the user can do with it.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "controls/control.h"
+#include "controls/event.h"
+#include "core/program.h"
+#include "sketches/drafting.h"
+
+namespace orby {
+
+enum class DrawingCommand : std::uint8_t { Copy, SaveSvg, SavePdf };
+
+// The entries of the menu of a drawing, by DrawingCommand.
+inline constexpr std::array<std::string_view, 3> DrawingCommands{"&Copy as Picture", "Save as &SVG...",
+                                                                 "Save as &PDF..."};
+
+class Drawing : public Control {
+ public:
+  // `title` is the name of the drawing for screen readers and files.
+  Drawing(Form& form, std::string_view name, std::string_view title) : Control(form, name), title_(title) {}
+
+  std::string_view Title() const { return title_; }
+  const Scene& Picture() const { return sketch_.Picture; }
+  // Returns what the drawing shows, in words: the main dimensions and the supports.
+  std::string Words() const;
+  void Show(Sketch sketch) { Mirror(sketch_, std::move(sketch)); }
+
+  const SheetSize& Sheet() const { return sheet_; }
+  // Tells how large the drawing is on view, in units of its scene.
+  void SetSheet(const SheetSize& sheet);
+
+  Event Resize;  // the sheet has another size
+  std::function<void(DrawingCommand)> Command;
+
+ private:
+  std::string_view title_;
+  Sketch sketch_;
+  SheetSize sheet_{420, 330};
+};
+
+// Copies the drawing, or saves it under the name that the user chooses. Shows a message for an error; never throws.
+void RunDrawingCommand(Program& program, const Drawing& drawing, DrawingCommand command);
+
+}  // namespace orby

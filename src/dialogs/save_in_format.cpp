@@ -1,0 +1,62 @@
+#include "dialogs/save_in_format.h"
+
+#include <algorithm>
+
+#include "base/paths.h"
+#include "base/text.h"
+#include "core/messages.h"
+
+namespace orby {
+namespace {
+
+FileQuestion QuestionFor(const Program& program, const std::string& title, const std::string& baseName,
+                         const std::vector<FileFormat>& formats) {
+  FileQuestion question;
+  question.title = title;
+  question.defaultExtension = formats.front().extension;
+  question.fileName = baseName + "." + question.defaultExtension;
+  question.folder = WithoutSeparator(program.session.settings.DataPath);
+  for (const FileFormat& format : formats) {
+    const std::string pattern = "*." + std::string(format.extension);
+    question.filters.push_back({std::string(format.name) + " (" + pattern + ")", pattern});
+  }
+  return question;
+}
+
+const FileFormat* FormatOf(const std::string& path, const std::vector<FileFormat>& formats) {
+  const std::string_view name = NameAfterSeparator(path);
+  const std::size_t point = name.rfind('.');
+  if (point == std::string_view::npos) return nullptr;
+  const auto format = std::ranges::find_if(
+      formats, [&](const FileFormat& each) { return SameWithoutCase(name.substr(point + 1), each.extension); });
+  return format == formats.end() ? nullptr : &*format;
+}
+
+// Returns the extensions in words: ".svg or .pdf".
+std::string ExtensionsOf(const std::vector<FileFormat>& formats) {
+  std::string text;
+  for (std::size_t i = 0; i < formats.size(); ++i) {
+    if (i > 0) text += i + 1 == formats.size() ? " or " : ", ";
+    text.append(".").append(formats[i].extension);
+  }
+  return text;
+}
+
+}  // namespace
+
+std::string SaveInFormat(Program& program, const std::string& title, const std::string& baseName,
+                         const std::vector<FileFormat>& formats) {
+  const FileQuestion question = QuestionFor(program, title, baseName, formats);
+  std::string path;
+  const FileFormat* format = nullptr;
+  while (format == nullptr) {
+    const auto asked = RunTrapped(program, [&] { path = program.platform.fileDialogs.AskSaveName(question); });
+    if (asked != StepOutcome::Done) return {};
+    format = FormatOf(path, formats);
+    if (format == nullptr) ShowMessage(program, "The name of the file must end in " + ExtensionsOf(formats) + ".");
+  }
+  const auto written = RunTrapped(program, [&] { program.platform.files.ReplaceFile(path, format->bytes()); });
+  return written == StepOutcome::Done ? path : std::string();
+}
+
+}  // namespace orby

@@ -1,0 +1,25 @@
+// Saves one thing as a file of a format that the user chooses.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/program.h"
+
+namespace orby {
+
+struct FileFormat {
+  std::string_view name;       // "Drawing"
+  std::string_view extension;  // without the point, in lower case
+  std::function<std::string()> bytes;
+};
+
+// Asks for a name, which starts as `baseName` with the extension of the first format, and replaces the file in one step
+// by the bytes of the format that the extension names. Asks again after a message if no format has this extension.
+// Shows a message for an error; never throws. Returns the path, or an empty text if nothing was written.
+std::string SaveInFormat(Program& program, const std::string& title, const std::string& baseName,
+                         const std::vector<FileFormat>& formats);
+
+}  // namespace orby

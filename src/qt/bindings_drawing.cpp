@@ -1,0 +1,38 @@
+// The binding of a drawing.
+#include "qt/bindings.h"
+#include "qt/boundary.h"
+#include "qt/drawing_view.h"
+#include "qt/texts.h"
+
+namespace orby {
+namespace {
+
+class DrawingBinding : public WidgetBinding<DrawingView, Drawing> {
+ public:
+  DrawingBinding(BindingHost& host, Drawing& drawing) : WidgetBinding(host, drawing) {
+    widget_.setAccessibleName(ToQt(drawing.Title()));
+    // No edit of the user, and outside the events of one.
+    widget_.Resized = [this](const SheetSize& sheet) { RunGuarded([&] { control_.SetSheet(sheet); }); };
+    widget_.Chosen = [this](DrawingCommand command) {
+      if (!IsUsable(widget_)) return;
+      host_.ActLater([this, command] {
+        if (control_.Command) control_.Command(command);
+      });
+    };
+  }
+
+  void Show() override {
+    ShowState(widget_, control_);
+    widget_.ShowDrawing(control_);
+  }
+  bool RetainsSize() const override { return true; }
+  bool HasOwnMenu() const override { return true; }
+};
+
+}  // namespace
+
+BindingPointer BindDrawing(BindingHost& host, Drawing& drawing) {
+  return std::make_unique<DrawingBinding>(host, drawing);
+}
+
+}  // namespace orby

@@ -1,0 +1,112 @@
+#include "qt/drawing_view.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QContextMenuEvent>
+#include <QFontMetrics>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
+
+#include "qt/scene_painter.h"
+#include "qt/texts.h"
+
+namespace orby {
+namespace {
+
+constexpr double LineHeightOfSheets = 17;  // pixels, of the text around a sheet in its own size
+constexpr int Margin = 6;                  // pixels, around the sheet
+
+// Units of the scene. A smaller sheet than the smallest one is painted smaller.
+constexpr QSizeF WantedSheet(340, 300);
+constexpr QSizeF LeastSheet(170, 150);
+
+class DrawingReader : public QAccessibleWidget {
+ public:
+  explicit DrawingReader(DrawingView& view) : QAccessibleWidget(&view, QAccessible::Graphic), view_(view) {}
+
+  QString text(QAccessible::Text kind) const override {
+    const bool isWords = kind == QAccessible::Description && view_.accessibleDescription().isEmpty();
+    return isWords ? view_.Words() : QAccessibleWidget::text(kind);
+  }
+
+ private:
+  DrawingView& view_;
+};
+
+QAccessibleInterface* MakeDrawingReader(const QString& kind, QObject* object) {
+  auto* view = kind == "QWidget" ? dynamic_cast<DrawingView*>(object) : nullptr;
+  return view == nullptr ? nullptr : new DrawingReader(*view);
+}
+
+}  // namespace
+
+void InstallDrawingReader() { QAccessible::installFactory(MakeDrawingReader); }
+
+DrawingView::DrawingView(QWidget* parent) : QWidget(parent) { setFocusPolicy(Qt::StrongFocus); }
+
+void DrawingView::ShowDrawing(const Drawing& drawing) {
+  drawing_ = &drawing;
+  update();
+  if (!QAccessible::isActive()) return;
+  QAccessibleEvent event(this, QAccessible::DescriptionChanged);
+  QAccessible::updateAccessibility(&event);
+}
+
+QString DrawingView::Words() const { return drawing_ == nullptr ? QString() : ToQt(drawing_->Words()); }
+
+double DrawingView::Scale() const { return fontMetrics().height() / LineHeightOfSheets; }
+
+QSize DrawingView::sizeHint() const { return (WantedSheet * Scale()).toSize() + QSize(2 * Margin, 2 * Margin); }
+
+QSize DrawingView::minimumSizeHint() const { return (LeastSheet * Scale()).toSize() + QSize(2 * Margin, 2 * Margin); }
+
+void DrawingView::TellSheet() const {
+  const QSizeF size = QSizeF(contentsRect().marginsRemoved({Margin, Margin, Margin, Margin}).size()) / Scale();
+  if (Resized) Resized({size.width(), size.height()});
+}
+
+void DrawingView::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  TellSheet();
+}
+
+void DrawingView::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::FontChange) TellSheet();
+}
+
+void DrawingView::paintEvent(QPaintEvent*) {
+  if (drawing_ == nullptr) return;
+  QPainter painter(this);
+  PaintScene(painter, drawing_->Picture(), rect().marginsRemoved({Margin, Margin, Margin, Margin}),
+             palette().color(QPalette::WindowText));
+  if (!hasFocus()) return;
+  QStyleOptionFocusRect frame;
+  frame.initFrom(this);
+  frame.backgroundColor = palette().color(QPalette::Window);
+  style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
+}
+
+void DrawingView::contextMenuEvent(QContextMenuEvent* event) {
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (std::size_t i = 0; i < DrawingCommands.size(); ++i) {
+    QAction* entry = menu->addAction(ToQt(DrawingCommands[i]));
+    const auto command = static_cast<DrawingCommand>(i);
+    if (command == DrawingCommand::Copy) entry->setShortcut(QKeySequence::Copy);
+    connect(entry, &QAction::triggered, this, [this, command] {
+      if (Chosen) Chosen(command);
+    });
+  }
+  menu->popup(event->globalPos());
+}
+
+void DrawingView::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Copy) && Chosen) return Chosen(DrawingCommand::Copy);
+  QWidget::keyPressEvent(event);
+}
+
+}  // namespace orby

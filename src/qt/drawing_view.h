@@ -1,0 +1,48 @@
+// Shows a drawing to scale on a sheet of the size of the widget. Its menu and Ctrl+C copy and save it.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+#include "dialogs/drawing.h"
+
+namespace orby {
+
+class DrawingView : public QWidget {
+ public:
+  explicit DrawingView(QWidget* parent = nullptr);
+
+  // The drawing must exist as long as the view shows it.
+  void ShowDrawing(const Drawing& drawing);
+
+  std::function<void(const SheetSize&)> Resized;
+  std::function<void(DrawingCommand)> Chosen;
+
+  // Returns what the drawing shows, for screen readers.
+  QString Words() const;
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  // Pixels of a unit of the scene. It grows with the text of the desktop.
+  double Scale() const;
+  void TellSheet() const;
+
+  const Drawing* drawing_ = nullptr;
+};
+
+// Makes screen readers read a drawing as a graphic with its words.
+void InstallDrawingReader();
+
+}  // namespace orby
+
+// The form files name their widgets without a namespace.
+using orby::DrawingView;  // NOLINT(google-global-names-in-headers,misc-unused-using-decls)
