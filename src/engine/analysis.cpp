@@ -128,16 +128,19 @@ constexpr SystemRules IntersectionRules{CablesInIntersection, TrussesInIntersect
                                         StandingInIntersection};
 
 // Computes the figures of one system, or leaves those of a system that is not in use or has no load.
-void RefreshSystem(SupportFigures& figures, const RoofSupport& design, const Catalogs& catalogs,
-                   const SecondarySupport& support, const SystemRules& rules, std::size_t system) {
-  const std::optional<Single> rockLoad = figures.RockLoad.ValueOr({});
+void RefreshSystem(SystemFigures& figures, const RoofSupport& design, const Catalogs& catalogs,
+                   const SecondarySupport& support, const SystemRules& rules, std::optional<Single> rockLoad,
+                   std::size_t system) {
   if (!rockLoad || support.Systems()[system]->Use != 1) return;
-  figures.Systems[system] = Attempt([&] { return rules[system](design, catalogs, *rockLoad); });
+  figures[system] = Attempt([&] { return rules[system](design, catalogs, *rockLoad); });
 }
 
 void RefreshSystems(SupportFigures& figures, const RoofSupport& design, const Catalogs& catalogs,
                     const SecondarySupport& support, const SystemRules& rules) {
-  for (std::size_t i = 0; i < SystemCount; ++i) RefreshSystem(figures, design, catalogs, support, rules, i);
+  const std::optional<Single> rockLoad = figures.RockLoad.ValueOr({});
+  for (std::size_t i = 0; i < SystemCount; ++i) {
+    RefreshSystem(figures.Systems, design, catalogs, support, rules, rockLoad, i);
+  }
 }
 
 // ---- the report: English working numbers ---------------------------------------------------------------------------
@@ -297,13 +300,15 @@ void RefreshPrimary(Figures& figures, const RoofSupport& design, const Catalogs&
 void RefreshEntrySystem(Figures& figures, const RoofSupport& design, const Catalogs& catalogs,
                         std::size_t system) noexcept {
   RefreshWorking(figures, design, catalogs);
-  RefreshSystem(figures.Entries, design, catalogs, design.Entries, EntryRules, system);
+  RefreshSystem(figures.Entries.Systems, design, catalogs, design.Entries, EntryRules,
+                figures.Entries.RockLoad.ValueOr({}), system);
 }
 
 void RefreshIntersectionSystem(Figures& figures, const RoofSupport& design, const Catalogs& catalogs,
                                std::size_t system) noexcept {
   RefreshWorking(figures, design, catalogs);
-  RefreshSystem(figures.Intersections, design, catalogs, design.Intersections, IntersectionRules, system);
+  RefreshSystem(figures.Intersections.Systems, design, catalogs, design.Intersections, IntersectionRules,
+                figures.Intersections.RockLoad.ValueOr({}), system);
 }
 
 Figures Analyze(const RoofSupport& design, const Catalogs& catalogs) noexcept {
@@ -314,9 +319,10 @@ Figures Analyze(const RoofSupport& design, const Catalogs& catalogs) noexcept {
 
   // Attempt catches everything that this throws.
   // cppcheck-suppress throwInNoexceptFunction
-  figures.Suggested = Attempt([&] { return Suggest(TypedSite(design), design.Units); });
+  const auto site = Attempt([&] { return TypedSite(design); });
+  figures.Suggested = Attempt([&] { return Suggest(site.Value(), design.Units); });
   figures.LiveSuggestion = Attempt([&] {
-    const bool isShown = IsPlausible(TypedSite(design));
+    const bool isShown = IsPlausible(site.Value());
     return isShown ? std::optional(WithLiveWarnings(figures.Suggested.Value(), design.Units)) : std::nullopt;
   });
   RefreshPrimary(figures, design, catalogs);
