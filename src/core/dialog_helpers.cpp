@@ -94,6 +94,11 @@ std::string SetFormCaption(std::string_view tag, std::string_view path, bool fil
   return std::string(tag) + ": " + ShortenedPath(path) + (fileSaved ? "" : "*");
 }
 
+std::string CaptionWithProject(std::string_view caption, const Project& project) {
+  const std::string_view name = NameAfterSeparator(project.CurrentFile);
+  return std::string(caption).append(" - ").append(name.empty() ? project.CurrentFile : name);
+}
+
 int FontIndexOf(std::string_view name, const std::vector<std::string>& fontList) {
   const auto found = std::find_if(fontList.begin(), fontList.end(),
                                   [name](const std::string& font) { return SameWithoutCase(font, name); });

@@ -48,6 +48,9 @@ Position CenterForm(Extent form, Extent screen);
 // Returns the caption "tag: path" with a shortened path, and with "*" while the project has unsaved changes.
 std::string SetFormCaption(std::string_view tag, std::string_view path, bool fileSaved);
 
+// Returns the caption of a window that is about the open project: "Cost Parameters - panel3.ORB".
+std::string CaptionWithProject(std::string_view caption, const Project& project);
+
 // Returns the position of a font in a list, ignoring case, or -1 when it is not in the list.
 int FontIndexOf(std::string_view name, const std::vector<std::string>& fontList);
 

@@ -65,7 +65,8 @@ std::string FigureText(const Compute& compute) {
 
 }  // namespace
 
-CostDialog::CostDialog(Program& program) : ProgramForm(program, "frmTULKCost", "Cost Parameters") {
+CostDialog::CostDialog(Program& program)
+    : ProgramForm(program, "frmTULKCost", CaptionWithProject("Cost Parameters", program.project)) {
   TieEvents();
   TieCommands();
 }

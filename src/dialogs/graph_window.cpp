@@ -44,7 +44,8 @@ bool IsPoint(const std::vector<ChartSeries>& all, const ChartHit& hit) {
 
 }  // namespace
 
-GraphWindow::GraphWindow(Program& program) : ProgramForm(program, "frmGraph", "Graph") {
+GraphWindow::GraphWindow(Program& program)
+    : ProgramForm(program, "frmGraph", CaptionWithProject("Graph", program.project)) {
   graph1.MouseMove = [this](const ChartHit& hit) { ReadOut(hit); };
   GraphFileItem.Click = [this](Integer item) {
     switch (GraphFileEntry{item}) {

@@ -6,6 +6,7 @@
 
 #include "controls/controls.h"
 #include "controls/grid.h"
+#include "core/dialog_helpers.h"
 #include "core/program_form.h"
 #include "core/shared_texts.h"
 #include "design/design.h"
@@ -94,7 +95,8 @@ struct OutputControls {
 
 class ParametersControls : public ProgramForm {
  public:
-  explicit ParametersControls(Program& program) : ProgramForm(program, "frmPENVParm", "Parameters") {}
+  explicit ParametersControls(Program& program)
+      : ProgramForm(program, "frmPENVParm", CaptionWithProject("Parameters", program.project)) {}
 
   TabSet SSTab1{
       *this,

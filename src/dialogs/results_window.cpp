@@ -23,7 +23,8 @@ std::vector<ComboItem> CurveItems() {
 
 }  // namespace
 
-ResultsWindow::ResultsWindow(Program& program) : ProgramForm(program, "frmResTxtPlt", "Calculation Results") {
+ResultsWindow::ResultsWindow(Program& program)
+    : ProgramForm(program, "frmResTxtPlt", CaptionWithProject("Calculation Results", program.project)) {
   TieCommands();
 }
 

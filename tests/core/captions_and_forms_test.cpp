@@ -74,6 +74,25 @@ TEST(FormCaption, CountsCharactersAndNotBytes) {
   EXPECT_EQ(SetFormCaption("Orby", fiftyCharacters, true), "Orby: " + fiftyCharacters);
 }
 
+Project ProjectIn(const std::string& file) {
+  Project project;
+  project.CurrentFile = file;
+  return project;
+}
+
+TEST(CaptionOfADialog, EndsWithTheNameOfTheProjectWithoutItsFolder) {
+  EXPECT_EQ(CaptionWithProject("Graph", ProjectIn("/mine/panel 3.ORB")), "Graph - panel 3.ORB");
+  EXPECT_EQ(CaptionWithProject("Graph", ProjectIn("C:\\mine\\panel 3.ORB")), "Graph - panel 3.ORB");
+}
+
+TEST(CaptionOfADialog, CallsANewProjectUntitled) {
+  EXPECT_EQ(CaptionWithProject("Graph", Project()), "Graph - Untitled");
+}
+
+TEST(CaptionOfADialog, NamesAPathWithoutAFileName) {
+  EXPECT_EQ(CaptionWithProject("Graph", ProjectIn("/mine/")), "Graph - /mine/");
+}
+
 struct LabelledForm : PlainForm {
   Label lblDepth{*this, "lblDepth", "Depth of cover", UnitSuffix::Length};
   Label lblRating{*this, "lblRating", "Roof rating"};

@@ -121,7 +121,7 @@ TEST_F(ACostDialog, LabelsItsFieldsInMetricUnits) {
 
 TEST_F(ACostDialog, HasItsCaptions) {
   EXPECT_EQ(dialog.Name(), "frmTULKCost");
-  EXPECT_EQ(dialog.Caption(), "Cost Parameters");
+  EXPECT_EQ(dialog.Caption(), "Cost Parameters - Untitled");
   EXPECT_EQ(dialog.chkAdvance.Caption(), "Use calculated value");
   EXPECT_EQ(dialog.chkProduction.Caption(), "Use calculated value");
   EXPECT_EQ(dialog.Command2.Caption(), "OK");

@@ -29,7 +29,7 @@ struct GraphOfACurve : GraphBench {
 
 TEST_F(GraphOfACurve, HasItsCaptions) {
   EXPECT_EQ(window.Name(), "frmGraph");
-  EXPECT_EQ(window.Caption(), "Graph");
+  EXPECT_EQ(window.Caption(), "Graph - Untitled");
   EXPECT_EQ(window.GraphFile.Caption(), "&File");
   EXPECT_EQ(window.GraphFileItem.Caption(0), "&Print");
   EXPECT_EQ(window.GraphFileItem.Caption(1), "-");

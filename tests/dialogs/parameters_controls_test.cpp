@@ -276,7 +276,7 @@ TEST_F(ParameterControls, AreAllThereExactlyOnce) {
   std::sort(names.begin(), names.end());
 
   EXPECT_EQ(dialog.Name(), "frmPENVParm");
-  EXPECT_EQ(dialog.Caption(), "Parameters");
+  EXPECT_EQ(dialog.Caption(), "Parameters - Untitled");
   EXPECT_THAT(names, ElementsAreArray(expected));
 }
 

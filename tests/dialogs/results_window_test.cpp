@@ -48,7 +48,7 @@ struct AResultsWindow : testing::Test {
 
 TEST_F(AResultsWindow, HasItsCaptions) {
   EXPECT_EQ(window.Name(), "frmResTxtPlt");
-  EXPECT_EQ(window.Caption(), "Calculation Results");
+  EXPECT_EQ(window.Caption(), "Calculation Results - Untitled");
   EXPECT_EQ(window.Command1.Caption(), "Close");
   EXPECT_EQ(window.Command2.Caption(), "&Copy Page");
   EXPECT_EQ(window.Command3.Caption(), "&Print Page");

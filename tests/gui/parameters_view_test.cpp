@@ -552,7 +552,7 @@ TEST_F(ParametersView, LabelsAnEnglishDesignInEnglishUnits) {
   Work([](QDialog& window) {
     EXPECT_EQ(CaptionOn(window, "lblDepthofCover"), "Depth of Cover (ft)");
     EXPECT_EQ(CaptionOn(window, "fraBoltGradePrimary"), "Roof Bolt Yield Grade (ksi)");
-    EXPECT_EQ(window.windowTitle().toStdString(), "Parameters");
+    EXPECT_EQ(window.windowTitle().toStdString(), "Parameters - Untitled");
   });
 }
 

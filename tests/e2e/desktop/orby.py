@@ -260,8 +260,9 @@ class Run:
                 if node.role in atspi.WINDOW_ROLES and node.has(atspi.SHOWING)]
 
     def find(self, title):
+        """Returns the window with this title. The name of the project may follow it."""
         for node in self.windows():
-            if node.name == title:
+            if node.name == title or node.name.startswith(title + " - "):
                 return Window(node)
         return None
 

@@ -21,7 +21,9 @@ class TypingElsewhere(NumberFieldsTest):
         parameters.press("Command1")
         parameters.wait_gone()
         run.keys("alt+i", "c")
-        self.enter(run, run.window("Cost Parameters"), "frmTULKCost")
+        costs = run.window("Cost Parameters")
+        self.assertEqual(costs.node.name, "Cost Parameters - entry.ORB")
+        self.enter(run, costs, "frmTULKCost")
         self.fill_fields()
         for box in ("chkAdvance", "chkProduction"):
             self.window.press(box)
