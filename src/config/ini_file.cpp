@@ -112,6 +112,14 @@ std::optional<std::string_view> IniText::Find(std::string_view section, std::str
   return WithoutQuotes(*value);
 }
 
+std::vector<std::string_view> IniText::Keys(std::string_view section) const {
+  std::vector<std::string_view> names;
+  const auto found = sections_.find(TrimBlanks(section));
+  if (found == sections_.end()) return names;
+  for (const auto& [name, line] : found->second.keys) names.push_back(name);
+  return names;
+}
+
 void IniText::Write(std::string_view section, std::string_view key, std::string_view value) {
   const std::string_view line = WithoutLeadingBlanks(TakeLine(value));
   Section& target = SectionToWrite(TrimBlanks(section));

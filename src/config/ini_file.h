@@ -14,6 +14,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 #include "base/types.h"
 #include "core/program.h"
@@ -35,6 +36,9 @@ class IniText {
   // section or the key is missing, or when the key has no "=". The result stays valid until this text is destroyed,
   // also after edits.
   std::optional<std::string_view> Find(std::string_view section, std::string_view key) const;
+
+  // Returns the keys of a section, in no order. They stay valid like values. Empty if there is no such section.
+  std::vector<std::string_view> Keys(std::string_view section) const;
 
   // Replaces the line of the key. Adds a missing key after the last key of its section, and a missing section at the
   // end. The value is written without leading blanks and up to its first line end. A key that has the value already

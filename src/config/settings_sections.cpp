@@ -1,6 +1,10 @@
 #include "config/settings_sections.h"
 
 #include <array>
+#include <charconv>
+#include <system_error>
+#include <utility>
+#include <vector>
 
 #include "base/arithmetic.h"
 #include "base/number_text.h"
@@ -21,6 +25,7 @@ constexpr std::string_view SettingsSection = "Settings";
 constexpr std::string_view FileMenuSection = "FileMenu";
 constexpr std::string_view TextBrowseSection = "TextBrowse";
 constexpr std::string_view GraphSection = "Graph";
+constexpr std::string_view WindowsSection = "Windows";
 // The options are written to one section and read from another, so that they apply only until the program ends.
 constexpr std::string_view WrittenOptionsSection = "TULKOptions";
 constexpr std::string_view ReadOptionsSection = "PENVOptions";
@@ -154,8 +159,42 @@ void WriteGraph(const GraphSettings& graph, IniText& ini) {
   });
 }
 
+// Far beyond every desktop.
+constexpr int LargestPlace = 99'999;
+
+// Reads whole numbers separated by commas. Returns none if the text is anything else.
+std::vector<int> PlaceNumbers(std::string_view text) {
+  std::vector<int> numbers;
+  const char* at = text.data();
+  const char* const end = at + text.size();
+  while (true) {
+    int number = 0;
+    const auto [after, error] = std::from_chars(at, end, number);
+    if (error != std::errc() || number < -LargestPlace || number > LargestPlace) return {};
+    numbers.push_back(number);
+    if (after == end) return numbers;
+    if (*after != ',') return {};
+    at = after + 1;
+  }
+}
+
+void ReadWindowPlaces(WindowPlaces& places, const IniText& ini) {
+  for (const std::string_view key : ini.Keys(WindowsSection)) {
+    std::vector<int> numbers = PlaceNumbers(ini.Find(WindowsSection, key).value_or(std::string_view()));
+    if (!numbers.empty()) places.insert_or_assign(std::string(key), std::move(numbers));
+  }
+}
+
+void WritePlaces(const WindowPlaces& places, IniText& ini) {
+  for (const auto& [name, numbers] : places) {
+    std::string value;
+    for (const int number : numbers) value.append(value.empty() ? "" : ",").append(NumberText(number));
+    WriteIniValue(ini, WindowsSection, name, value);
+  }
+}
+
 constexpr std::array AllSections{StoredSettings::Settings, StoredSettings::FileMenu, StoredSettings::TextBrowse,
-                                 StoredSettings::Graph, StoredSettings::Options};
+                                 StoredSettings::Graph,    StoredSettings::Options,  StoredSettings::Windows};
 
 void AddSavingToHistory(Program& program) {
   AddHistoryLine(program, "Saving default settings to file: " + program.session.IniFilePath);
@@ -182,6 +221,7 @@ void ReadSettings(Program& program, const IniText& ini, StoredSettings what) {
     case StoredSettings::TextBrowse: readRows(program.session.textBrowse, TextBrowseSection, TextBrowseRows); break;
     case StoredSettings::Graph: ReadGraph(program, ini); break;
     case StoredSettings::Options: readRows(program.session.options, ReadOptionsSection, OptionRows); break;
+    case StoredSettings::Windows: ReadWindowPlaces(program.session.places, ini); break;
   }
 }
 
@@ -198,6 +238,7 @@ void WriteSettings(const Session& session, IniText& ini, StoredSettings what) {
     case StoredSettings::TextBrowse: writeRows(session.textBrowse, TextBrowseSection, TextBrowseRows); break;
     case StoredSettings::Graph: WriteGraph(session.graph, ini); break;
     case StoredSettings::Options: writeRows(session.options, WrittenOptionsSection, OptionRows); break;
+    case StoredSettings::Windows: WritePlaces(session.places, ini); break;
   }
 }
 
@@ -211,6 +252,12 @@ void WriteDefaults(Program& program, StoredSettings what) {
   // Before the edit, so that the history has the line also when the file cannot be written.
   AddSavingToHistory(program);
   EditIniFile(program, program.session.IniFilePath, [&](IniText& ini) { WriteSettings(program.session, ini, what); });
+}
+
+void WriteWindowPlaces(Program& program) {
+  if (program.session.places.empty()) return;
+  EditIniFile(program, program.session.IniFilePath,
+              [&](IniText& ini) { WriteSettings(program.session, ini, StoredSettings::Windows); });
 }
 
 IniText NewIniText(const Session& session) {

@@ -1,5 +1,5 @@
 // The sections of the configuration file for the user's choices: the settings, the recent files, the font of the text
-// browser, the format of curves, the options.
+// browser, the format of curves, the options, the places of the windows.
 #pragma once
 
 #include <string>
@@ -18,6 +18,7 @@ enum class StoredSettings {
   TextBrowse,  // [TextBrowse]
   Graph,       // [Graph]
   Options,     // written to [TULKOptions], read from [PENVOptions]
+  Windows,     // [Windows]
 };
 
 // Sets the initial fonts and the initial data path, which depend on the machine.
@@ -25,7 +26,7 @@ void SetBuiltInSettings(Program& program);
 
 // Reads the values of one section, or of all, into the program. A missing number, or one outside its range, reads as
 // the minimum of the range. A missing text is empty, except that fonts, data path and extension get their built-in
-// values.
+// values. A place of a window that is not a list of numbers is ignored.
 void ReadSettings(Program& program, const IniText& ini, StoredSettings what);
 
 // Writes the keys of a section in the order of its table, or all sections in the order above.
@@ -40,6 +41,9 @@ void ReadDefaults(Program& program, const IniText& ini);
 
 // Adds a line to the history, and then writes one section, or all, to the configuration file at IniFilePath.
 void WriteDefaults(Program& program, StoredSettings what);
+
+// Writes the places of the windows to the configuration file, without a line in the history. Ignores a failure.
+void WriteWindowPlaces(Program& program);
 
 // Returns a complete new configuration: the version, all settings, the values of a new design and the lists.
 IniText NewIniText(const Session& session);

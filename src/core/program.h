@@ -113,6 +113,7 @@ struct Session {
   OptionSettings options;
   GraphSettings graph;
   RecentFiles recentFiles;
+  WindowPlaces places;
   Folders folders;
   std::string IniFilePath;
   std::string UpdateServer;  // the address at which new versions are published; empty: none

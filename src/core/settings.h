@@ -2,8 +2,11 @@
 #pragma once
 
 #include <array>
+#include <functional>
+#include <map>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/types.h"
 #include "design/units.h"
@@ -86,6 +89,11 @@ struct GraphSettings {
   std::array<std::string, 10> XAxisTitle;  // of each curve
   std::array<std::string, 3> YAxisTitle;   // of each dependent variable
 };
+
+// Where windows stood when they were last closed, by the name of the form: left and top of the frame, inner width and
+// height, and 1 if maximized. How a window is divided, by the name of the form and that of the divider after a point:
+// the sizes of the parts. In pixels of the desktop.
+using WindowPlaces = std::map<std::string, std::vector<int>, std::less<>>;
 
 // Folders for the data of the user. Each path has a trailing separator.
 struct Folders {

@@ -287,5 +287,13 @@ TEST(IniText, AWrittenValueReadsBackInAnyFile) {
   }));
 }
 
+TEST(IniKeys, AreThoseOfTheSection) {
+  IniText ini("[Windows]\nfrmMain=1\n[Other]\nfrmSet=2\n[windows]\nfrmFont=3\n");
+  ini.Write("Windows", "frmGraph", "4");
+
+  EXPECT_THAT(ini.Keys("WINDOWS"), testing::UnorderedElementsAre("frmMain", "frmGraph"));
+  EXPECT_THAT(ini.Keys("Missing"), testing::IsEmpty());
+}
+
 }  // namespace
 }  // namespace orby::test

@@ -537,5 +537,44 @@ TEST_F(SettingsSections, ANewFileHasItsVersionFirstAndEverySectionThatAStartRead
   EXPECT_EQ(platform.files.created.size(), 1U) << "an interrupted run leaves no partial file";
 }
 
+// ---- the places of windows ------------------------------------------------------------------------------------------
+
+TEST_F(SettingsSections, PlacesOfWindowsAreListsOfNumbers) {
+  program.session.places = {{"frmMain", {31, -47, 640, 480, 0}}, {"frmMain.viewSplit", {560, 400}}};
+
+  EXPECT_EQ(Written(section::Windows), "[Windows]\r\nfrmMain=31,-47,640,480,0\r\nfrmMain.viewSplit=560,400\r\n");
+}
+
+TEST_F(SettingsSections, PlacesOfWindowsReadBackAsWritten) {
+  const WindowPlaces places{{"frmMain", {31, -47, 640, 480, 1}}, {"frmTULKCost", {0, 0, 99'999, 1, 0}}};
+  program.session.places = places;
+  const std::string text = Written(section::All);
+  program.session.places.clear();
+
+  Read(section::All, text);
+
+  EXPECT_EQ(program.session.places, places);
+}
+
+TEST_F(SettingsSections, ADamagedPlaceOfAWindowIsIgnored) {
+  Read(section::Windows,
+       "[Windows]\r\nfrmMain=31,47,640,480,0\r\nfrmSet=\r\nfrmFont\r\nfrmUnits=1,2,x\r\nfrmGraph=1,,2\r\n"
+       "frmConvert=1,2,\r\nfrmUpdate=1.5,2\r\nfrmBackups=99999999999,1\r\nfrmPreview=100000,1\r\n");
+
+  EXPECT_THAT(program.session.places, ElementsAre(testing::Pair("frmMain", ElementsAre(31, 47, 640, 480, 0))));
+}
+
+TEST_F(SettingsSections, AFileWithoutPlacesOfWindowsHasNoSectionForThem) { EXPECT_EQ(Written(section::Windows), ""); }
+
+TEST_F(SettingsSections, PlacesOfWindowsAreWrittenWithoutALineInTheHistory) {
+  FileBytes() = "[Version]\r\nINIFileVersion=201030\r\n";
+  program.session.places = {{"frmMain", {31, 47, 640, 480, 0}}};
+
+  WriteWindowPlaces(program);
+
+  EXPECT_EQ(FileBytes(), "[Version]\r\nINIFileVersion=201030\r\n[Windows]\r\nfrmMain=31,47,640,480,0\r\n");
+  EXPECT_THAT(program.session.history.Text, IsEmpty());
+}
+
 }  // namespace
 }  // namespace orby::test
