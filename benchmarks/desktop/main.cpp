@@ -1,6 +1,6 @@
 // Runs one task on the desktop. The tasks "empty-..." do the same with the toolkit alone, for comparison:
 //
-//   empty-start, start, empty-browser, help   see starts.h
+//   empty-start, start, project, empty-browser, help   see starts.h
 //   empty-key     a key in a line of an empty dialog, until it is painted
 //   key           the same key in the depth of cover, until it and all outputs are painted
 //   browse        the file browser until it shows a file of 50 MB; prints the growth of the peak of memory in kB,

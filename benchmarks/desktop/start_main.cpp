@@ -8,7 +8,7 @@
 int main(int argc, char** argv) {
   const std::string name = argc == 2 ? argv[1] : "";
   if (!orby::IsStart(name)) {
-    std::fputs("usage: orby-start-bench empty-start|start|empty-browser|help\n", stderr);
+    std::fputs("usage: orby-start-bench empty-start|start|project|empty-browser|help\n", stderr);
     return EXIT_FAILURE;
   }
   const QApplication application(argc, argv);

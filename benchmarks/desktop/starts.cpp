@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <map>
+#include <optional>
 
 #include "qt/boundary.h"
 #include "qt/help_viewer.h"
@@ -29,6 +30,22 @@ class EndAfterPaint : public QObject {
   }
 };
 
+// Ends the program after the widget of this name has been painted.
+class EndAfterPaintOf : public QObject {
+ public:
+  explicit EndAfterPaintOf(const char* name) : name_(name) { qApp->installEventFilter(this); }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Paint && watched->objectName() == name_) {
+      QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  QString name_;
+};
+
 int EmptyStart() {
   QMainWindow window;
   const EndAfterPaint end(window);
@@ -36,15 +53,34 @@ int EmptyStart() {
   return QApplication::exec();
 }
 
-int Start() {
+// The window of the program, as in a start by its user.
+struct StartedWindow {
+  StartedWindow() {
+    StartProgram(run.program);
+    run.program.session.settings.ShowDisclaim = 0;  // there is no user to accept it
+    run.program.session.options.ShowInputScreenOnLoad = 0;
+    window.emplace(run.program);
+    window->Open();
+    run.desktop.windows.ShowMain(*window, false);
+    FurnishMainWindow(run.desktop.windows, *window);
+  }
+
   Run run;
-  StartProgram(run.program);
-  run.program.session.settings.ShowDisclaim = 0;  // there is no user to accept it
-  MainWindow window(run.program);
-  window.Open();
-  run.desktop.windows.ShowMain(window, false);
-  AddIconsAndShortcuts(run.desktop.windows.Main(), window);
-  const EndAfterPaint end(run.desktop.windows.Main());
+  std::optional<MainWindow> window;
+};
+
+int Start() {
+  StartedWindow started;
+  const EndAfterPaint end(started.run.desktop.windows.Main());
+  return QApplication::exec();
+}
+
+int StartWithProject() {
+  const std::string file = DiskFiles(".").AbsolutePath("examples/weak-roof.ORB");
+  StartedWindow started;
+  const EndAfterPaintOf end("picDesign");
+  QMetaObject::invokeMethod(
+      qApp, [&] { started.window->OpenFirstFiles(file); }, Qt::QueuedConnection);
   return QApplication::exec();
 }
 
@@ -64,8 +100,11 @@ int Help() {
   return QApplication::exec();
 }
 
-const std::map<std::string, int (*)()> Starts{
-    {"empty-start", EmptyStart}, {"start", Start}, {"empty-browser", EmptyBrowser}, {"help", Help}};
+const std::map<std::string, int (*)()> Starts{{"empty-start", EmptyStart},
+                                              {"start", Start},
+                                              {"project", StartWithProject},
+                                              {"empty-browser", EmptyBrowser},
+                                              {"help", Help}};
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 //
 //   empty-start   a window without anything in it
 //   start         the program
+//   project       the same, until the summary of a design of the folder "examples" has been painted
 //   empty-browser a window with an empty page view
 //   help          the help of the folder "help"
 #pragma once
