@@ -32,6 +32,15 @@ std::string MadeOrProgramFolder(Program& program, const std::string& folder) {
   return IsThere(files, folder) ? folder : AppDirectory(program.platform.files);
 }
 
+std::vector<std::string> ShippedExamples(FileSystem& files) {
+  return files.FilesIn(AppDirectory(files).append(ExamplesFolderName));
+}
+
+// Returns the path of the user's copy of an example.
+std::string CopyOf(const Program& program, const std::string& example) {
+  return WithSeparator(program.session.settings.DataPath).append(NameAfterSeparator(example));
+}
+
 void CopyMissing(FileSystem& files, const std::string& source, const std::string& target) {
   if (files.Finds(target)) return;
   TryWriteWhole(files, target, files.ReadFile(source));
@@ -58,10 +67,21 @@ void FindUserFolders(Program& program) {
 void CopyExamples(Program& program) {
   if (program.session.settings.CopyExampleFiles != 1) return;
   FileSystem& files = program.platform.files;
-  for (const std::string& source : files.FilesIn(AppDirectory(program.platform.files).append(ExamplesFolderName))) {
-    const std::string target = WithSeparator(program.session.settings.DataPath).append(NameAfterSeparator(source));
-    Succeeds([&] { CopyMissing(files, source, target); });
+  for (const std::string& source : ShippedExamples(files)) {
+    Succeeds([&] { CopyMissing(files, source, CopyOf(program, source)); });
   }
+}
+
+std::vector<std::string> ExampleFiles(Program& program) {
+  FileSystem& files = program.platform.files;
+  const std::string ending = "." + std::string(BuiltInExtension);
+  std::vector<std::string> found;
+  for (const std::string& source : ShippedExamples(files)) {
+    if (!source.ends_with(ending)) continue;
+    const std::string copy = CopyOf(program, source);
+    found.push_back(IsThere(files, copy) ? copy : source);
+  }
+  return found;
 }
 
 void EnterWorkingFolder(Program& program) {

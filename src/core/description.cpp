@@ -61,6 +61,14 @@ NormalDescription Normalized(std::string_view text) {
 
 std::string NormalizedDescription(std::string_view text) { return Normalized(text).text; }
 
+std::string TitleToShow(const UnsavedProject& project) {
+  const std::string_view title = Trim(project.ProjectTitle);
+  if (title != "0" && title != "1") return std::string(title);
+  std::string_view description = project.ProjectDescription;
+  const std::string_view first = Trim(TakeLine(description));
+  return first == StartOfDescription ? std::string() : std::string(first);
+}
+
 void SaveDescription(Program& program) {
   program.project.DescLines = LinesOfEmptyDescription;
   if (program.project.ProjectDescription.empty()) return;

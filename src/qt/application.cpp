@@ -4,6 +4,7 @@
 #include <QLocale>
 #include <cstdlib>
 
+#include "config/settings_sections.h"
 #include "core/act.h"
 #include "core/help.h"
 #include "qt/boundary.h"
@@ -72,6 +73,7 @@ int RunProgram(FileSystem& files, FileTypes& fileTypes, const std::vector<std::s
     OpenHelpTopic(program, form, control);
   };
   program.session.UpdateServer = UpdateServer();
+  desktop.windows.Places = &program.session.places;
   std::string file;
   RunGuarded([&] {
     file = CommandLineFile(program, arguments);
@@ -79,12 +81,14 @@ int RunProgram(FileSystem& files, FileTypes& fileTypes, const std::vector<std::s
     window = std::make_unique<MainWindow>(program, restart);
     window->Open();
     desktop.windows.ShowMain(*window, program.session.settings.MaxMainMenu == 1);
-    AddIconsAndShortcuts(desktop.windows.Main(), *window);
+    FurnishMainWindow(desktop.windows, *window);
   });
   // Runs after the window has been painted.
   QMetaObject::invokeMethod(
       qApp, [&] { RunGuarded([&] { window->OpenFirstFiles(file); }); }, Qt::QueuedConnection);
-  return QApplication::exec();
+  const int status = QApplication::exec();
+  RunGuarded([&] { WriteWindowPlaces(program); });
+  return status;
 }
 
 }  // namespace orby

@@ -5,8 +5,6 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileInfo>
-#include <QGridLayout>
-#include <QLabel>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QScreen>
@@ -18,14 +16,14 @@
 #include "qt/bindings.h"
 #include "qt/boundary.h"
 #include "qt/pictures.h"
+#include "qt/summary_view.h"
 #include "qt/texts.h"
 #include "qt/window_frame.h"
+#include "qt/windows.h"
 #include "shell/main_window.h"
 
 namespace orby {
 namespace {
-
-constexpr int SignLines = 8;  // the height of the program's logo in lines of text
 
 struct Dress {
   const char* action;
@@ -77,36 +75,6 @@ class StayInView : public QObject {
   QMainWindow& window_;
 };
 
-// The logo and the name of the program, shown while the history is hidden.
-class EmptyGround : public QObject {
- public:
-  explicit EmptyGround(QMainWindow& window) : QObject(&window), ground_(*new QLabel) {
-    auto* history = window.findChild<QPlainTextEdit*>("txtMain");
-    ground_.setObjectName("viewGround");
-    ground_.setAlignment(Qt::AlignCenter);
-    ground_.setPixmap(Picture(window));
-    ground_.setAccessibleName(ToQt(ProgramTitle));
-    auto& layout = dynamic_cast<QGridLayout&>(*window.centralWidget()->layout());
-    layout.addWidget(&ground_, 0, 0, 1, layout.columnCount());
-    ground_.setVisible(history->isHidden());
-    history->installEventFilter(this);
-  }
-
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() == QEvent::ShowToParent) ground_.hide();
-    if (event->type() == QEvent::HideToParent) ground_.show();
-    return QObject::eventFilter(watched, event);
-  }
-
- private:
-  static QPixmap Picture(const QWidget& window) {
-    const int side = SignLines * window.fontMetrics().lineSpacing();
-    return ThemedIcon("orby").pixmap(QSize(side, side), window.devicePixelRatio());
-  }
-
-  QLabel& ground_;
-};
-
 // Opens the file that is dropped on the window.
 class DropTarget : public QObject {
  public:
@@ -153,7 +121,8 @@ class DropTarget : public QObject {
 
 }  // namespace
 
-void AddIconsAndShortcuts(QMainWindow& window, MainWindow& model) {
+void FurnishMainWindow(QtWindows& windows, MainWindow& model) {
+  QMainWindow& window = windows.Main();
   for (const Dress& dress : Dresses) {
     auto* action = window.findChild<QAction*>(dress.action);
     if (dress.icon != nullptr) action->setIcon(ThemedIcon(dress.icon));
@@ -164,8 +133,8 @@ void AddIconsAndShortcuts(QMainWindow& window, MainWindow& model) {
   const QSize whole(window.findChild<QToolBar*>()->sizeHint().width(), 0);
   const QSize most = window.screen()->availableSize().shrunkBy(FrameOf(window));
   if (!window.isMaximized()) window.resize(window.size().expandedTo(whole).boundedTo(most));
-  new EmptyGround(window);
   new DropTarget(window, model);
+  ShowSummaryAfterPaint(windows, model);
 }
 
 }  // namespace orby

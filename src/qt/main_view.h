@@ -1,13 +1,12 @@
-// Adds icons, shortcuts, and a target for dropped files to the main window.
+// Adds to the main window what its form does not have: icons, shortcuts, a target for dropped files, and the summary.
 #pragma once
-
-#include <QMainWindow>
 
 namespace orby {
 
 class MainWindow;
+class QtWindows;
 
-// Both must exist as long as the window is on the screen.
-void AddIconsAndShortcuts(QMainWindow& window, MainWindow& model);
+// Call it after ShowMain. Both must exist as long as the window is on the screen.
+void FurnishMainWindow(QtWindows& windows, MainWindow& model);
 
 }  // namespace orby

@@ -4,6 +4,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
+#include <utility>
 
 #include "drawings/pictures.h"
 #include "qt/scene_painter.h"
@@ -39,6 +40,8 @@ class PictureIcon : public QIconEngine {
 
 }  // namespace
 
-QIcon ThemedIcon(const QString& name) { return QIcon(new PictureIcon(PictureScene(FromQt(name)))); }
+QIcon ThemedIcon(const QString& name) { return SceneIcon(PictureScene(FromQt(name))); }
+
+QIcon SceneIcon(Scene scene) { return QIcon(new PictureIcon(std::move(scene))); }
 
 }  // namespace orby

@@ -3,9 +3,12 @@
 
 #include <QIcon>
 
+#include "drawings/scene.h"
+
 namespace orby {
 
 // Returns an icon that is redrawn for each requested size and theme.
 QIcon ThemedIcon(const QString& name);
+QIcon SceneIcon(Scene scene);
 
 }  // namespace orby

@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QSplitter>
 #include <array>
 #include <stdexcept>
 
@@ -28,6 +29,7 @@
 #include <ui_resource_files.h>
 #include <ui_results_window.h>
 #include <ui_settings_dialog.h>
+#include <ui_summary_pane.h>
 #include <ui_text_browser.h>
 #include <ui_unit_calculator_window.h>
 #include <ui_update_dialog.h>
@@ -35,9 +37,12 @@
 #include "qt/drawing_view.h"
 #include "qt/frame_reader.h"
 #include "qt/window_frame.h"
+#include "qt/window_places.h"
 
 namespace orby {
 namespace {
+
+constexpr int ShareUnit = 1000;  // pixels for one unit of stretch, more than any window has
 
 // A window that asks its form before it closes.
 template <class Base>
@@ -99,6 +104,7 @@ constexpr std::array Layouts{
     LayoutEntry{"frmSet", Make<Ui::frmSet, DialogWindow>},
     LayoutEntry{"frmFont", Make<Ui::frmFont, DialogWindow>},
     LayoutEntry{"frmDisclaimer", Make<Ui::frmDisclaimer, DialogWindow>},
+    LayoutEntry{"frmSummary", Make<Ui::frmSummary, QWidget>},
     LayoutEntry{"frmBackups", Make<Ui::frmBackups, DialogWindow>},
     LayoutEntry{"frmResource", Make<Ui::frmResource, DialogWindow>},
 };
@@ -135,6 +141,17 @@ QSize WholeSize(QWidget& window) {
     size += scroll->widget()->sizeHint() - scroll->sizeHint();
   }
   return size;
+}
+
+// Divides the window by the stretch factors of its parts. By itself, the toolkit starts from the sizes that they hint.
+void Divide(QWidget& window) {
+  for (auto* divider : window.findChildren<QSplitter*>()) {
+    QList<int> shares;
+    for (int i = 0; i < divider->count(); ++i) {
+      shares.append(divider->widget(i)->sizePolicy().horizontalStretch() * ShareUnit);
+    }
+    divider->setSizes(shares);
+  }
 }
 
 // Centres the window on the screen, no larger than the screen including its frame.
@@ -178,26 +195,47 @@ std::unique_ptr<QWidget> MakeWindow(const Form& form, QWidget* parent) {
 QtWindows::QtWindows() = default;
 QtWindows::~QtWindows() = default;
 
-QtWindows::Shown QtWindows::MakeShown(Form& form, QWidget* parent) {
+QtWindows::Shown QtWindows::MakeBound(Form& form, QWidget* parent) {
   Shown shown;
   shown.window = MakeWindow(form, parent);
   shown.view = std::make_unique<BoundForm>(form, *shown.window);
   shown.view->HelpRequested = [this, &form](const Control* control) {
     if (HelpRequested) HelpRequested(form, control);
   };
+  return shown;
+}
+
+QtWindows::Shown QtWindows::MakeShown(Form& form, QWidget* parent) {
+  Shown shown = MakeBound(form, parent);
   TieClosing(*shown.window, *shown.view);
   Place(*shown.window);
+  Divide(*shown.window);
+  if (Places != nullptr) TakePlace(*shown.window, form.Name(), *Places);
+  shown.opened = PlaceOf(*shown.window);
   return shown;
+}
+
+void QtWindows::Keep(const Shown& shown) const {
+  if (Places != nullptr) KeepPlace(*shown.window, shown.view->Model().Name(), shown.opened, *Places);
 }
 
 void QtWindows::ShowMain(Form& form, bool maximized) {
   main_ = MakeShown(form, nullptr);
-  main_.view->Finished = [] { QApplication::quit(); };
-  if (maximized) {
+  main_.view->Finished = [this] {
+    Keep(main_);
+    QApplication::quit();
+  };
+  if (maximized || main_.window->isMaximized()) {
     main_.window->showMaximized();
   } else {
     main_.window->show();
   }
+}
+
+QWidget& QtWindows::ShowInside(Form& form, QWidget& place) {
+  Shown& shown = parts_.emplace_back(MakeBound(form, &place));
+  place.layout()->addWidget(shown.window.get());
+  return *shown.window;
 }
 
 QMainWindow& QtWindows::Main() const { return dynamic_cast<QMainWindow&>(*main_.window); }
@@ -211,6 +249,7 @@ void QtWindows::ShowModal(Form& form) {
   dialog.show();
   shown.view->ShowFocus();
   if (form.IsOpen()) dialog.exec();
+  Keep(shown);
   // A main window that has returned meanwhile must not cover the window in use.
   shown.window->hide();
   if (below == nullptr || !below->isVisible()) return;
@@ -227,6 +266,7 @@ void QtWindows::Show(Form& form) {
     found->second.view->Finished = [this, &form] {
       // The window may be closed by one of its own events. Until it is destroyed, no other window may use it as owner.
       auto node = modeless_.extract(&form);
+      Keep(node.mapped());
       node.mapped().window->hide();
       node.mapped().window.release()->deleteLater();
       node.mapped().view.release()->deleteLater();

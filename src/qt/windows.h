@@ -4,7 +4,9 @@
 #include <QMainWindow>
 #include <map>
 #include <memory>
+#include <vector>
 
+#include "core/settings.h"
 #include "platform/windows.h"
 #include "qt/bound_form.h"
 
@@ -24,8 +26,14 @@ class QtWindows : public Windows {
   // Returns the main window after it has been shown.
   QMainWindow& Main() const;
 
+  // Where the windows of earlier runs stood, and those of this run as they are closed. Null: nothing is kept.
+  WindowPlaces* Places = nullptr;
+
   // Called when the user asks for help on a control; null means the whole window.
   std::function<void(const Form& form, const Control* control)> HelpRequested;
+
+  // Shows a form as a part of the main window, alone in the layout of `place`. Returns its widget.
+  QWidget& ShowInside(Form& form, QWidget& place);
 
   void ShowModal(Form& form) override;
   void Show(Form& form) override;
@@ -37,11 +45,16 @@ class QtWindows : public Windows {
   struct Shown {
     std::unique_ptr<QWidget> window;
     std::unique_ptr<BoundForm> view;
+    QRect opened;  // its place before the user could change it
   };
 
+  Shown MakeBound(Form& form, QWidget* parent);
   Shown MakeShown(Form& form, QWidget* parent);
+  // Remembers the place of a window that closes.
+  void Keep(const Shown& shown) const;
 
   Shown main_;
+  std::vector<Shown> parts_;  // of the main window
   std::map<const Form*, Shown> modeless_;
   bool waiting_ = false;
 };

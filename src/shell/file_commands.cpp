@@ -1,8 +1,11 @@
 // The commands of the File menu.
+#include "base/attempt.h"
 #include "config/settings_sections.h"
 #include "core/act.h"
 #include "dialogs/preview_window.h"
 #include "dialogs/project_report.h"
+#include "dialogs/results_window.h"
+#include "dialogs/shown_design.h"
 #include "dialogs/text_browser.h"
 #include "files/backups.h"
 #include "files/new_project.h"
@@ -67,7 +70,7 @@ void MainWindow::LoadProjFile(Trap trap) {
           [&] { ok = MayLeavePreviousFile(program_) && FileOpen(program_); });
   });
   recovery_.Committed();
-  if (!ok) return;
+  if (!ok) return summary_.Refresh();
   UpdateRecentFiles();
   RefreshCaption();
   if (program_.session.options.ShowInputScreenOnLoad == 1) EditCommand(EditItem::Parameters);
@@ -116,6 +119,18 @@ void MainWindow::PrintProject(PrinterChoice choice) {
 
 void MainWindow::PreviewProject() {
   if (MayPrint() && BuildPages()) ShowPreview(program_);
+}
+
+// The curves and the report are those of Results in a newly opened parameters dialog.
+void MainWindow::ShowProjectResults() {
+  if (!BuildPages()) return;
+  WindowState& state = program_.windows;
+  state.WorkParmsCopy = program_.project.WorkParms;
+  Succeeds([&] { state.WorkParmsCopy = AsReported(program_.project, program_.session.catalogs); });
+  state.ReportCaller = InputDialog::Parameters;
+  program_.platform.windows.ShowMainWindow(false);
+  ShowResults(program_);
+  program_.platform.windows.ShowMainWindow(true);
 }
 
 void MainWindow::Exit() {

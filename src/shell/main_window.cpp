@@ -18,7 +18,8 @@ MainWindow::MainWindow(Program& program, std::optional<Restart> restart)
     : MainControls(program),
       restart_(std::move(restart)),
       recovery_(program, restart_ ? restart_->Slot : 0),
-      updateCheck_(program) {
+      updateCheck_(program),
+      summary_(program, CommandsOfSummary()) {
   lblver.SetCaption("Version: " + VersionText());
   TieCommands();
   TieHistory();
@@ -47,6 +48,15 @@ void MainWindow::TieCommands() {
       case ToolButton::Parameters: EditCommand(EditItem::Parameters); break;
     }
   };
+}
+
+SummaryCommands MainWindow::CommandsOfSummary() {
+  return {.New = [this] { FileCommand(FileItem::New); },
+          .Open = [this] { FileCommand(FileItem::Open); },
+          .Parameters = [this] { EditCommand(EditItem::Parameters); },
+          .Results = [this] { ShowProjectResults(); },
+          .OpenRecent = [this](Integer item) { OpenRecent(item); },
+          .OpenFile = [this](const std::string& path) { OpenFile(path, Trap::Set); }};
 }
 
 void MainWindow::TieHistory() {
@@ -112,6 +122,7 @@ bool MainWindow::MayClose() {
 }
 
 void MainWindow::OnClose() {
+  summary_.Close();
   program_.platform.help.Close();
   recovery_.Discard();
   WriteDefaults(program_, StoredSettings::FileMenu);
@@ -129,6 +140,7 @@ RunEnd MainWindow::LeaveAtOnce() {
 }
 
 void MainWindow::RefreshCaption() {
+  summary_.Refresh();
   SetCaption(SetFormCaption(ProgramTitle, program_.project.CurrentFile, program_.project.FileSaved));
 }
 

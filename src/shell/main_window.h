@@ -16,6 +16,7 @@
 #include "shell/main_controls.h"
 #include "shell/recovery.h"
 #include "shell/run_end.h"
+#include "shell/summary_pane.h"
 #include "shell/update_check.h"
 
 namespace orby {
@@ -33,6 +34,9 @@ class MainWindow : public MainControls {
   //
   // A run with a `restart` restores that without a question, and asks only about work that another run lost.
   void OpenFirstFiles(const std::string& commandLineFile);
+
+  // Shown inside the window. It is opened once the window has been painted.
+  SummaryPane& Summary() { return summary_; }
 
   // Opens a file that was dropped on the window.
   void Dropped(const std::string& path);
@@ -55,9 +59,11 @@ class MainWindow : public MainControls {
   StepOutcome Run(Trap trap, const Step& step);
 
   void TieCommands();
+  SummaryCommands CommandsOfSummary();
   void TieHistory();
   void ShowHistory(bool visible);
   void ShowSettings();
+  // Shows the state of the project and its file.
   void RefreshCaption();
   void BringBack();
 
@@ -77,6 +83,7 @@ class MainWindow : public MainControls {
   enum class PrinterChoice { AsBefore, ByUser };
   void PrintProject(PrinterChoice choice);
   void PreviewProject();
+  void ShowProjectResults();
   void Exit();
 
   // input_commands.cpp
@@ -107,6 +114,7 @@ class MainWindow : public MainControls {
   std::optional<Restart> restart_;
   Recovery recovery_;
   UpdateCheck updateCheck_;
+  SummaryPane summary_;
 };
 
 }  // namespace orby

@@ -34,6 +34,7 @@ void MainWindow::UtilityCommand(UtilityItem item) {
       break;
     case UtilityItem::Backups: ShowBackups(); break;
   }
+  summary_.Refresh();
 }
 
 // Opens the chosen backup under its old name, with unsaved changes, after asking about those of the open project.

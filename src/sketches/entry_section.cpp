@@ -17,11 +17,11 @@ constexpr double BoltWidth = 2.2;
 class Section {
  public:
   Section(Drafting& drafting, const Box& box, const SectionView& view)
-      : drafting_(drafting), box_(box), plot_(WithoutDimensions(box)), view_(view) {
-    const double opening = std::clamp(0.22 * box.Height(), 30.0, 60.0);
-    floor_ = box.Bottom - 20;
+      : drafting_(drafting), box_(box), plot_(view.IsBare ? box : WithoutDimensions(box)), view_(view) {
+    const double opening = std::clamp(0.22 * box.Height(), view.IsBare ? 12.0 : 30.0, 60.0);
+    floor_ = box.Bottom - (view.IsBare ? 4 : 20);
     roof_ = floor_ - opening;
-    top_ = std::min(box.Top + 30, roof_ - 10);
+    top_ = std::min(box.Top + (view.IsBare ? 4 : 30), roof_ - 10);
     FindScale();
   }
 
@@ -30,7 +30,7 @@ class Section {
     DrawRock();
     for (const DrawnSupport& support : view_.Supports) DrawSupport(support);
     DrawSuggestion();
-    DrawDimensions();
+    if (!view_.IsBare) DrawDimensions();
     return across_;
   }
 
@@ -58,10 +58,7 @@ class Section {
     const Box left{plot_.Left, roof_, across_.Left, floor_};
     const Box right{across_.Right, roof_, plot_.Right, floor_};
     drafting_.Draw(Trace().Rectangle(left).Rectangle(right), {}, Coal);
-    const Trace surface = Trace().Move(plot_.Left, box_.Top + 6).Line(plot_.Right, box_.Top + 6);
-    drafting_.Draw(surface, RockLine);
-    drafting_.Draw(Waves(box_.Top + 16), FaintLine);
-    drafting_.Draw(Waves(box_.Top + 21), FaintLine);
+    if (!view_.IsBare) DrawSurface();
     drafting_.Draw(
         Trace().Move(plot_.Left, roof_).Line(plot_.Right, roof_).Move(plot_.Left, floor_).Line(plot_.Right, floor_),
         RockLine);
@@ -73,6 +70,13 @@ class Section {
                        .Move(across_.Right, roof_)
                        .Line(across_.Right, floor_),
                    sides);
+  }
+
+  void DrawSurface() {
+    const Trace surface = Trace().Move(plot_.Left, box_.Top + 6).Line(plot_.Right, box_.Top + 6);
+    drafting_.Draw(surface, RockLine);
+    drafting_.Draw(Waves(box_.Top + 16), FaintLine);
+    drafting_.Draw(Waves(box_.Top + 21), FaintLine);
   }
 
   // The cover is not to scale.

@@ -21,6 +21,7 @@ struct SectionView {
   std::vector<DrawnSupport> Supports;
   Length Spacing;             // of the first support across a row
   double SuggestedReach = 0;  // of the primary bolts, metres; 0: none
+  bool IsBare = false;        // only the opening, its supports and the rock, without texts
 };
 
 // Where a section has drawn the opening.

@@ -123,6 +123,18 @@ Sketch EntrySketch(const RoofSupport& design, const SketchFigures& figures, cons
   return EntryDrawing(design, std::move(view), legend, sheet);
 }
 
+Scene EntryMiniature(const RoofSupport& design, const SketchFigures& figures, const SheetSize& sheet) {
+  SectionView view;
+  view.IsBare = true;
+  view.Width = LengthOf(design.Place.EntryWidth, design.Units);
+  view.Rock = EntryRockOf(design, figures);
+  view.Supports = {PrimaryBolts(design, Ink::Bolt)};
+  for (DrawnSupport& system : EntrySystems(design)) view.Supports.push_back(std::move(system));
+  Drafting drafting(sheet);
+  DrawSection(drafting, drafting.Sheet(), view);
+  return drafting.Take().Picture;
+}
+
 Sketch DiagonalsSketch(const RoofSupport& design, const SketchFigures& figures, const SheetSize& sheet) {
   const CrossingView view = CrossingOf(design, figures);
   Drafting drafting(AtLeastSmallest(sheet));

@@ -27,6 +27,9 @@ Sketch PrimarySketch(const RoofSupport& design, const SketchFigures& figures, co
 // The same with the secondary support of entries.
 Sketch EntrySketch(const RoofSupport& design, const SketchFigures& figures, const SheetSize& sheet);
 
+// The section of an entry with all of its supports, without texts, for small pictures. The sheet may have any size.
+Scene EntryMiniature(const RoofSupport& design, const SketchFigures& figures, const SheetSize& sheet);
+
 // Plan of an intersection with its diagonals.
 Sketch DiagonalsSketch(const RoofSupport& design, const SketchFigures& figures, const SheetSize& sheet);
 

@@ -230,5 +230,27 @@ TEST(Description, HasMarkersSinceFormatFifty) {
   EXPECT_EQ(Load(Lines({"##StartDesc##", "Roof", "##EndDesc##", "45"}), DescriptionMode::Marked, 50).text, "Roof\r\n");
 }
 
+// ---- the title in summaries -----------------------------------------------------------------------------------------
+
+std::string ShownTitle(const std::string& title, const std::string& description) {
+  UnsavedProject project;
+  project.ProjectTitle = title;
+  project.ProjectDescription = description;
+  return TitleToShow(project);
+}
+
+TEST(TitleInASummary, IsThatOfTheProject) { EXPECT_EQ(ShownTitle("Cinder Hollow", "Claystone"), "Cinder Hollow"); }
+
+TEST(TitleInASummary, IsTheFirstLineOfTheDescriptionAfterASaveAndAnOpen) {
+  EXPECT_EQ(ShownTitle(" 0 ", "Cinder Hollow\r\n##StartDesc##\r\nClaystone\r\n"), "Cinder Hollow");
+  EXPECT_EQ(ShownTitle(" 1 ", "Cinder Hollow"), "Cinder Hollow");
+}
+
+TEST(TitleInASummary, IsEmptyIfTheProjectHasNone) {
+  EXPECT_EQ(ShownTitle("", "Claystone"), "");
+  EXPECT_EQ(ShownTitle(" 0 ", ""), "");
+  EXPECT_EQ(ShownTitle(" 0 ", "##StartDesc##\r\nClaystone\r\n"), "");
+}
+
 }  // namespace
 }  // namespace orby::test

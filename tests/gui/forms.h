@@ -59,6 +59,10 @@ inline constexpr std::array FormMakers{
                 program.session.settings.ShowDisclaim = 0;  // it would ask before the window is open
                 return Plain<MainWindow>(program);
               }},
+    FormMaker{"frmSummary",
+              [](Program& program) -> std::unique_ptr<Form> {
+                return std::make_unique<SummaryPane>(program, SummaryCommands{});
+              }},
     FormMaker{"frmPENVParm", Plain<ParametersDialog>},
     FormMaker{"frmTULKCost", Plain<CostDialog>},
     FormMaker{"frmTULKDesc", Plain<DescriptionDialog>},

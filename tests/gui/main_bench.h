@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <QTemporaryDir>
 #include <fstream>
+#include <functional>
 #include <iterator>
 
 #include "gui/gui_bench.h"
@@ -41,14 +42,17 @@ inline QWidget* WindowOnView(std::string_view name) {
 // The main window at the start of a run, with a new design. Opening a file opens no input dialog.
 class MainViewTest : public GuiTest {
  protected:
-  explicit MainViewTest(const RealDoors& real = {}) : GuiTest(real) {
+  // `prepare` is called before the window is on the screen.
+  explicit MainViewTest(const RealDoors& real = {}, const std::function<void(GuiPlatform&)>& prepare = nullptr)
+      : GuiTest(real) {
+    if (prepare) prepare(platform);
     program.session.folders.ProgramTemporary = "/home/user/Documents/Orby/Temp/";
     program.session.IniFilePath = "/home/user/Documents/Orby/ORBY.INI";
     program.session.options.ShowInputScreenOnLoad = 0;
     program.session.settings.ShowDisclaim = 0;
     model.Open();
     platform.screen.ShowMain(model, false);
-    AddIconsAndShortcuts(View(), model);
+    FurnishMainWindow(platform.screen, model);
     View().activateWindow();
     Settle();
     if (!QTest::qWaitForWindowActive(&View())) throw std::logic_error("the main window never got the keyboard");

@@ -134,10 +134,15 @@ class Sitting {
     const std::string file = units == Metric ? "australian-grade-metric.ORB" : "intersection-secondary-bolts.ORB";
     const std::string path = "/home/user/Documents/Orby/" + file;
     platform_.files.files[path] = BytesOf(std::string(EXAMPLES_DIR) + "/" + file);
+    for (const QString& name : QDir(EXAMPLES_DIR).entryList({"*.ORB"})) {
+      platform_.files.files["/program/examples/" + name.toStdString()] =
+          BytesOf(std::string(EXAMPLES_DIR) + "/" + name.toStdString());
+    }
     window_ = std::make_unique<MainWindow>(program_);
     window_->Open();
     platform_.screen.ShowMain(*window_, false);
-    AddIconsAndShortcuts(platform_.screen.Main(), *window_);
+    FurnishMainWindow(platform_.screen, *window_);
+    photographer_.Take(platform_.screen.Main(), "main-begin");
     program_.session.options.ShowInputScreenOnLoad = 0;
     platform_.fileDialogs.answers.push_back(path);
     window_->mnuFileItem.ClickItem(FileItem::Open);
@@ -149,7 +154,7 @@ class Sitting {
   Sitting& operator=(const Sitting&) = delete;
 
   void TakeAll() {
-    photographer_.Take(platform_.screen.Main(), "main");
+    TakeMain();
     TakeDescription();
     TakeParameters();
     TakeMarkedFields();
@@ -171,6 +176,19 @@ class Sitting {
     RealDoors real;
     real.boxes = &boxes_;
     return platform_.AsPlatform(real);
+  }
+
+  // Takes the main window, then without its history, and in its smallest size.
+  void TakeMain() {
+    QMainWindow& main = platform_.screen.Main();
+    photographer_.Take(main, "main");
+    window_->mnuUtilItem.ClickItem(UtilityItem::ToggleHistory);
+    photographer_.Take(main, "main-alone");
+    window_->mnuUtilItem.ClickItem(UtilityItem::ToggleHistory);
+    const QSize size = main.size();
+    main.resize(main.minimumSizeHint());
+    photographer_.Take(main, "main-small");
+    main.resize(size);
   }
 
   // Takes the window without backups, then with a backup of each kind.

@@ -137,10 +137,10 @@ TEST_F(WindowsOnScreen, TheMainWindowIsActivatedWhenItIsShownAgain) {
 
 TEST_F(WindowsOnScreen, TheMainWindowReturnsToTheScreenWhenItsSizeChanges) {
   const QRect screen = View().screen()->availableGeometry();
-  View().move(screen.right() - 100, screen.bottom() - 100);
+  View().setGeometry(screen.right() - 100, screen.bottom() - 100, 640, 480);
   Settle();
 
-  View().resize(View().size() + QSize(20, 20));
+  View().resize(660, 500);
   Settle();
 
   const QRect frame = View().frameGeometry();
@@ -169,18 +169,18 @@ TEST_F(WindowsOnScreen, TheMainWindowKeepsASensibleSizeWithoutHistoryAndToolBar)
   EXPECT_GE(View().minimumSizeHint().height(), 340);
 }
 
-TEST_F(WindowsOnScreen, TheMainWindowShowsTheLogoInsteadOfTheHistory) {
-  const auto& sign = Find<QLabel>(View(), "viewGround");
-  EXPECT_FALSE(sign.isVisible());
+TEST_F(WindowsOnScreen, TheSummaryTakesTheRoomOfAHiddenHistory) {
+  const auto& summary = Find(View(), "frmSummary");
+  const int before = summary.width();
 
   model.mnuUtilItem.ClickItem(UtilityItem::ToggleHistory);
   Settle();
-  EXPECT_TRUE(sign.isVisible());
-  EXPECT_FALSE(sign.pixmap().isNull());
-
+  const int alone = summary.width();
   model.mnuUtilItem.ClickItem(UtilityItem::ToggleHistory);
   Settle();
-  EXPECT_FALSE(sign.isVisible());
+
+  EXPECT_GE(alone, View().centralWidget()->width() - 30);
+  EXPECT_EQ(summary.width(), before);
 }
 
 TEST_F(WindowsOnScreen, ADialogIsCentredOnTheScreen) {

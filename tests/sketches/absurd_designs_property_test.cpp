@@ -46,8 +46,11 @@ Design AnyDesign() {
 
 std::vector<Sketch> AllSketches(const Design& design, const SheetSize& sheet) {
   const SketchFigures figures = FiguresOf(design);
-  return {PrimarySketch(design, figures, sheet), EntrySketch(design, figures, sheet),
-          DiagonalsSketch(design, figures, sheet), IntersectionSketch(design, figures, sheet)};
+  return {PrimarySketch(design, figures, sheet),
+          EntrySketch(design, figures, sheet),
+          DiagonalsSketch(design, figures, sheet),
+          IntersectionSketch(design, figures, sheet),
+          {EntryMiniature(design, figures, sheet), {}}};
 }
 
 SheetSize AnySheet() {

@@ -213,5 +213,34 @@ TEST(EntrySketch, NamesMetricLengthsInMetres) {
   EXPECT_TRUE(Shows(EntryOf(design), "Entry width 6.2 m"));
 }
 
+// ---- small pictures -------------------------------------------------------------------------------------------------
+
+Sketch MiniatureOf(const Design& design) { return {EntryMiniature(design, FiguresOf(design), {96, 64}), {}}; }
+
+TEST(EntryMiniature, ShowsAllSupportsOfAnEntryWithoutTexts) {
+  Design design = EnglishPlace();
+  design.Entries.Cable.Use = 1;
+  design.Entries.Cable.BoltsPerRow = 2;
+
+  const Sketch sketch = MiniatureOf(design);
+
+  EXPECT_THAT(RodsOf(sketch, Ink::Bolt), SizeIs(4));
+  EXPECT_THAT(RodsOf(sketch, Ink::Cable), SizeIs(2));
+  EXPECT_THAT(sketch.Picture.Labels, testing::IsEmpty());
+}
+
+TEST(EntryMiniature, HasNoDimensionLines) {
+  EXPECT_THAT(OutlineOf(PrimaryOf(EnglishPlace()), Ink::Text, 0.8).Steps, testing::Not(testing::IsEmpty()));
+  EXPECT_THAT(OutlineOf(MiniatureOf(EnglishPlace()), Ink::Text, 0.8).Steps, testing::IsEmpty());
+}
+
+TEST(EntryMiniature, UsesTheSizeOfItsSheet) {
+  const Sketch sketch = MiniatureOf(EnglishPlace());
+
+  EXPECT_EQ(sketch.Picture.Width, 96);
+  EXPECT_EQ(sketch.Picture.Height, 64);
+  EXPECT_GT(WidthOfEntry(sketch), 96 / 3);
+}
+
 }  // namespace
 }  // namespace orby::test

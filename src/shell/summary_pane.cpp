@@ -1,0 +1,140 @@
+#include "shell/summary_pane.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+
+#include "base/attempt.h"
+#include "base/paths.h"
+#include "core/description.h"
+#include "core/dialog_helpers.h"
+#include "dialogs/catalog_choice.h"
+#include "dialogs/shown_design.h"
+#include "engine/verdicts.h"
+#include "reports/verdict_text.h"
+#include "sketches/sketches.h"
+
+namespace orby {
+namespace {
+
+std::string_view PictureOf(Holding result) {
+  constexpr std::array<std::string_view, 4> Marks{"holds", "check", "uncomputed", "short"};
+  return Marks.at(static_cast<std::size_t>(result));
+}
+
+// Returns the project as a newly opened parameters dialog shows it, or nothing if it cannot be shown.
+std::optional<Design> ShownDesign(const Project& project, const Catalogs& catalogs) {
+  Catalogs offered = catalogs;
+  const BoltTable& table = LoadBoltTable(project, offered);
+  return OrNothing([&] { return std::optional(AsShown(project.WorkParms, table, offered)); });
+}
+
+std::string UnitsText(const Project& project) {
+  if (project.WorkParms.Units != Metric) return "Units: English";
+  return UsesAustralianTable(project) ? "Units: Metric, AUS standard table" : "Units: Metric";
+}
+
+// The name stands first, so that it can be found by its first letters.
+std::string ExampleLine(const Example& example) {
+  std::string line(WithoutExtension(NameAfterSeparator(example.Path)));
+  return example.Title.empty() ? line : line.append(": ").append(example.Title);
+}
+
+void ShowAll(std::initializer_list<Control*> controls, bool visible) {
+  for (Control* control : controls) control->SetVisible(visible);
+}
+
+void ShowList(Label& label, List& list, std::vector<ComboItem> items) {
+  ShowAll({&label, &list}, !items.empty());
+  if (!std::ranges::equal(items, list.Items(), {}, &ComboItem::text, &ComboItem::text)) list.Fill(std::move(items));
+}
+
+}  // namespace
+
+SummaryPane::SummaryPane(Program& program, SummaryCommands commands)
+    : ProgramForm(program, "frmSummary", "Summary"), commands_(std::move(commands)) {
+  TieCommands();
+}
+
+void SummaryPane::TieCommands() {
+  cmdParameters.Click = commands_.Parameters;
+  cmdResults.Click = commands_.Results;
+  cmdNew.Click = commands_.New;
+  cmdOpen.Click = commands_.Open;
+  picDesign.Resize = [this] { ShowDrawing(); };
+  picDesign.Command = [this](DrawingCommand command) { RunDrawingCommand(program_, picDesign, command); };
+  lstVerdicts.Click = commands_.Parameters;
+  lstRecent.Click = [this] { commands_.OpenRecent(static_cast<Integer>(lstRecent.ListIndex() + 1)); };
+  lstExamples.Click = [this] {
+    commands_.OpenFile(examples_.at(static_cast<std::size_t>(lstExamples.ListIndex())).Path);
+  };
+}
+
+void SummaryPane::Refresh() {
+  if (!IsOpen()) return;
+  const bool hasProject = !program_.project.FileEmpty;
+  shown_ = hasProject ? ShownDesign(program_.project, program_.session.catalogs) : std::nullopt;
+  ShowAll({&lblProject, &lblFile, &lblUnits, &cmdParameters, &cmdResults, &lblVerdicts}, hasProject);
+  ShowAll({&picDesign, &lstVerdicts}, shown_.has_value());
+  ShowAll({&lblBegin, &cmdNew, &cmdOpen}, !hasProject);
+  if (hasProject) {
+    ShowAll({&lblRecent, &lstRecent, &lblExamples, &lstExamples}, false);
+    ShowProject();
+  } else {
+    ShowBeginning();
+  }
+}
+
+void SummaryPane::ShowProject() {
+  const Project& project = program_.project;
+  const std::string title = TitleToShow(project);
+  lblProject.SetCaption(title.empty() ? NameAfterSeparator(project.CurrentFile) : title);
+  lblFile.SetCaption(SetFormCaption("File", project.CurrentFile, project.FileSaved));
+  lblUnits.SetCaption(UnitsText(project));
+  ShowDrawing();
+  ShowVerdicts();
+}
+
+void SummaryPane::ShowDrawing() {
+  if (!shown_) return;
+  const SketchFigures figures = SketchFiguresOf(*shown_, program_.session.catalogs);
+  picDesign.Show(PrimarySketch(*shown_, figures, picDesign.Sheet()));
+}
+
+void SummaryPane::ShowVerdicts() {
+  if (!shown_) return lblVerdicts.SetCaption("The parameters of this project cannot be shown.");
+  const Verdicts found = Judge(*shown_, Analyze(*shown_, program_.session.catalogs));
+  std::vector<Verdict> sorted(found.All().begin(), found.All().end());
+  std::ranges::stable_sort(sorted, std::ranges::greater(), &Verdict::Result);
+  std::vector<ComboItem> rows;
+  rows.reserve(sorted.size());
+  for (const Verdict& verdict : sorted) {
+    rows.push_back({.text = VerdictLine(verdict, shown_->Units), .mark = PictureOf(verdict.Result)});
+  }
+  lstVerdicts.SetVisible(!rows.empty());
+  lstVerdicts.Fill(std::move(rows));
+  lblVerdicts.SetCaption("&Judgements: " + VerdictCounts(found));
+}
+
+void SummaryPane::ShowBeginning() {
+  std::vector<ComboItem> recent;
+  const RecentFiles& files = program_.session.recentFiles;
+  for (Integer i = 0; i < files.MaxLastFiles; ++i) {
+    recent.push_back({.text = files.Entries.at(static_cast<std::size_t>(i)).LastFile});
+  }
+  ShowList(lblRecent, lstRecent, std::move(recent));
+  ReadExamples();
+  std::vector<ComboItem> lines;
+  for (const Example& example : examples_) lines.push_back({.text = ExampleLine(example)});
+  ShowList(lblExamples, lstExamples, std::move(lines));
+  if (ExamplesRead) ExamplesRead();
+}
+
+// Once in a run, because they do not change.
+void SummaryPane::ReadExamples() {
+  if (std::exchange(hasReadExamples_, true)) return;
+  examples_ = FindExamples(program_);
+}
+
+}  // namespace orby
