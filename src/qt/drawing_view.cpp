@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
+#include <chrono>
 
 #include "qt/scene_painter.h"
 #include "qt/texts.h"
@@ -18,6 +19,7 @@ namespace {
 
 constexpr double LineHeightOfSheets = 17;  // pixels, of the text around a sheet in its own size
 constexpr int Margin = 6;                  // pixels, around the sheet
+constexpr std::chrono::milliseconds Delay(30);
 
 // Units of the scene. A smaller sheet than the smallest one is painted smaller.
 constexpr QSizeF WantedSheet(340, 300);
@@ -45,11 +47,17 @@ QAccessibleInterface* MakeDrawingReader(const QString& kind, QObject* object) {
 
 void InstallDrawingReader() { QAccessible::installFactory(MakeDrawingReader); }
 
-DrawingView::DrawingView(QWidget* parent) : QWidget(parent) { setFocusPolicy(Qt::StrongFocus); }
+DrawingView::DrawingView(QWidget* parent) : QWidget(parent) {
+  setFocusPolicy(Qt::StrongFocus);
+  repaint_.setSingleShot(true);
+  repaint_.setInterval(Delay);
+  connect(&repaint_, &QTimer::timeout, this, [this] { update(); });
+}
 
 void DrawingView::ShowDrawing(const Drawing& drawing) {
   drawing_ = &drawing;
-  update();
+  // Changes until then are painted together.
+  if (!repaint_.isActive()) repaint_.start();
   if (!QAccessible::isActive()) return;
   QAccessibleEvent event(this, QAccessible::DescriptionChanged);
   QAccessible::updateAccessibility(&event);

@@ -1,6 +1,7 @@
 // Shows a drawing to scale on a sheet of the size of the widget. Its menu and Ctrl+C copy and save it.
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 
@@ -12,7 +13,8 @@ class DrawingView : public QWidget {
  public:
   explicit DrawingView(QWidget* parent = nullptr);
 
-  // The drawing must exist as long as the view shows it.
+  // Paints the drawing a moment later, so that a key and its results come on view before it. The drawing must exist as
+  // long as the view shows it.
   void ShowDrawing(const Drawing& drawing);
 
   std::function<void(const SheetSize&)> Resized;
@@ -37,6 +39,7 @@ class DrawingView : public QWidget {
   void TellSheet() const;
 
   const Drawing* drawing_ = nullptr;
+  QTimer repaint_;
 };
 
 // Makes screen readers read a drawing as a graphic with its words.

@@ -64,13 +64,14 @@ void PaintLabel(QPainter& painter, const SceneLabel& label) {
   font.setStyleHint(QFont::SansSerif);  // where no font has this name
   font.setPixelSize(static_cast<int>(label.Size));
   font.setBold(label.IsBold);
-  const double width = QFontMetricsF(font).horizontalAdvance(text);
   const double share = label.Side == Anchor::Start ? 0 : label.Side == Anchor::Middle ? 0.5 : 1;
+  // Measuring a text takes as long as painting it.
+  const double before = share == 0 ? 0 : share * QFontMetricsF(font).horizontalAdvance(text);
   painter.save();
   painter.setFont(font);
   painter.translate(PointOf(label.At));
   painter.rotate(label.Turn);
-  painter.drawText(QPointF(-width * share, 0), text);
+  painter.drawText(QPointF(-before, 0), text);
   painter.restore();
 }
 

@@ -60,6 +60,31 @@ void ChooseByLetter(QMenu& menu, Qt::Key letter) {
 
 QString WordsRead(QWidget& drawing) { return ReaderOf(drawing).text(QAccessible::Description); }
 
+// Counts how often a widget is painted.
+class Paints : public QObject {
+ public:
+  explicit Paints(QWidget& widget) { widget.installEventFilter(this); }
+
+  int count = 0;
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++count;
+    return QObject::eventFilter(watched, event);
+  }
+};
+
+TEST_F(DrawingsOnView, ArePaintedAfterTheKeysThatChangeThem) {
+  Work(dialog, [](QDialog& window) {
+    Find(window, "txtEntryWidth").setFocus();
+    Settle();
+    const Paints paints(Find(window, "Picture1"));
+
+    Type("30");
+
+    EXPECT_TRUE(QTest::qWaitFor([&] { return paints.count > 0; }));
+  });
+}
+
 TEST_F(DrawingsOnView, ChangeWithTheKeys) {
   Work(dialog, [](QDialog& window) {
     auto& drawing = Find(window, "Picture1");
