@@ -8,45 +8,78 @@
 
 namespace orby {
 
-bool EditHistory::IsInput(const Control& control) {
-  if (const auto* box = dynamic_cast<const TextBox*>(&control)) return box->Kind() != TextKind::Output;
-  return dynamic_cast<const Combo*>(&control) != nullptr || dynamic_cast<const CheckBox*>(&control) != nullptr ||
-         dynamic_cast<const OptionArray*>(&control) != nullptr || dynamic_cast<const Grid*>(&control) != nullptr;
+namespace {
+
+template <class... Acts>
+struct ByType : Acts... {
+  using Acts::operator()...;
+};
+
+}  // namespace
+
+std::optional<EditHistory::Field> EditHistory::FieldOf(Control& control) {
+  if (auto* box = dynamic_cast<TextBox*>(&control)) {
+    return box->Kind() == TextKind::Output ? std::nullopt : std::optional<Field>(box);
+  }
+  if (auto* combo = dynamic_cast<Combo*>(&control)) return combo;
+  if (auto* check = dynamic_cast<CheckBox*>(&control)) return check;
+  if (auto* options = dynamic_cast<OptionArray*>(&control)) return options;
+  if (auto* grid = dynamic_cast<Grid*>(&control)) return grid;
+  return std::nullopt;
 }
 
-EditHistory::State EditHistory::StateOf(const Control& control) {
-  if (const auto* box = dynamic_cast<const TextBox*>(&control)) return {box->Text()};
-  if (const auto* combo = dynamic_cast<const Combo*>(&control)) return {combo->Text(), combo->ListIndex()};
-  if (const auto* check = dynamic_cast<const CheckBox*>(&control)) return {{}, check->Value()};
-  if (const auto* options = dynamic_cast<const OptionArray*>(&control)) return {{}, GetArrayIndex(*options)};
-  return {{}, dynamic_cast<const Grid&>(control).Row()};
+EditHistory::State EditHistory::StateOf(const Field& field) {
+  return std::visit(ByType{[](const TextBox* box) { return State{box->Text()}; },
+                           [](const Combo* combo) {
+                             return State{combo->Text(), combo->ListIndex()};
+                           },
+                           [](const CheckBox* check) {
+                             return State{{}, check->Value()};
+                           },
+                           [](const OptionArray* options) {
+                             return State{{}, GetArrayIndex(*options)};
+                           },
+                           [](const Grid* grid) {
+                             return State{{}, grid->Row()};
+                           }},
+                    field);
 }
 
-// Runs after each key for every input. Most of them are fields, so no text is copied for those.
-bool EditHistory::Has(const Control& control, const State& state) {
-  if (const auto* box = dynamic_cast<const TextBox*>(&control)) return box->Text() == state.text;
-  return StateOf(control) == state;
+// Runs after each key for every input, and copies no text.
+bool EditHistory::Has(const Field& field, const State& state) {
+  return std::visit(
+      ByType{
+          [&](const TextBox* box) { return box->Text() == state.text; },
+          [&](const Combo* combo) { return combo->ListIndex() == state.index && combo->Text() == state.text; },
+          [&](const CheckBox* check) { return check->Value() == state.index; },
+          [&](const OptionArray* options) { return GetArrayIndex(*options) == state.index; },
+          [&](const Grid* grid) { return grid->Row() == state.index; },
+      },
+      field);
 }
 
-bool EditHistory::TakesTyping(const Control& control) {
-  return dynamic_cast<const TextBox*>(&control) != nullptr || dynamic_cast<const Combo*>(&control) != nullptr;
+bool EditHistory::TakesTyping(const Field& field) {
+  return std::holds_alternative<TextBox*>(field) || std::holds_alternative<Combo*>(field);
 }
 
-void EditHistory::Restore(Control& control, const State& state) {
-  if (auto* box = dynamic_cast<TextBox*>(&control)) return box->SetText(state.text);
-  if (auto* combo = dynamic_cast<Combo*>(&control)) return combo->Restore(state.text, state.index);
-  if (auto* check = dynamic_cast<CheckBox*>(&control)) return check->SetValue(static_cast<Integer>(state.index));
-  if (auto* options = dynamic_cast<OptionArray*>(&control)) return options->SetValue(state.index, true);
-  auto& grid = dynamic_cast<Grid&>(control);
-  if (grid.Row() != state.index) grid.SetRow(state.index);
+void EditHistory::Restore(const Field& field, const State& state) {
+  std::visit(ByType{[&](TextBox* box) { box->SetText(state.text); },
+                    [&](Combo* combo) { combo->Restore(state.text, state.index); },
+                    [&](CheckBox* check) { check->SetValue(static_cast<Integer>(state.index)); },
+                    [&](OptionArray* options) { options->SetValue(state.index, true); },
+                    [&](Grid* grid) {
+                      if (grid->Row() != state.index) grid->SetRow(state.index);
+                    }},
+             field);
 }
 
 void EditHistory::Start(const Form& form) {
   *this = {};
   for (Control* control : form.Controls()) {
-    if (!IsInput(*control)) continue;
-    const State state = StateOf(*control);
-    inputs_.push_back({control, state, state});
+    const std::optional<Field> field = FieldOf(*control);
+    if (!field) continue;
+    const State state = StateOf(*field);
+    inputs_.push_back({control, *field, state, state});
   }
 }
 
@@ -58,8 +91,8 @@ void EditHistory::EndAction() {
   Edit edit;
   for (std::size_t i = 0; i < inputs_.size(); ++i) {
     Input& input = inputs_[i];
-    if (Has(*input.control, input.last)) continue;
-    State now = StateOf(*input.control);
+    if (Has(input.field, input.last)) continue;
+    State now = StateOf(input.field);
     edit.push_back({i, std::exchange(input.last, now), now});
   }
   if (edit.empty()) return;
@@ -71,7 +104,7 @@ void EditHistory::EndAction() {
     done_.pop_back();
     return EndTyping();
   }
-  const bool isTyped = edit.size() == 1 && TakesTyping(*inputs_[edit.front().input].control);
+  const bool isTyped = edit.size() == 1 && TakesTyping(inputs_[edit.front().input].field);
   typed_ = isTyped ? static_cast<int>(edit.front().input) : Nothing;
   done_.push_back(std::move(edit));
 }
@@ -83,7 +116,7 @@ Control* EditHistory::Apply(const Edit& edit, State Change::*state) {
   isRestoring_ = true;
   for (int pass = 0; pass < 2; ++pass) {
     for (const Input& input : inputs_) {
-      if (!Has(*input.control, input.last)) Restore(*input.control, input.last);
+      if (!Has(input.field, input.last)) Restore(input.field, input.last);
     }
   }
   isRestoring_ = false;
@@ -114,7 +147,7 @@ const EditHistory::Input* EditHistory::Find(const Control& control) const {
 
 bool EditHistory::DiffersFromSaved(const Control& control) const {
   const Input* input = Find(control);
-  return input != nullptr && !Has(control, input->saved);
+  return input != nullptr && !Has(input->field, input->saved);
 }
 
 void EditHistory::RestoreSaved(const Control& control) {
@@ -122,7 +155,7 @@ void EditHistory::RestoreSaved(const Control& control) {
   if (input == nullptr) return;
   EndAction();
   EndTyping();
-  Restore(*input->control, input->saved);
+  Restore(input->field, input->saved);
   EndAction();
   EndTyping();
 }

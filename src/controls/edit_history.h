@@ -4,12 +4,20 @@
 // focus leaves the field.
 #pragma once
 
+#include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "controls/control.h"
 
 namespace orby {
+
+class CheckBox;
+class Combo;
+class Grid;
+class OptionArray;
+class TextBox;
 
 class EditHistory {
  public:
@@ -44,8 +52,11 @@ class EditHistory {
     int index = 0;
     bool operator==(const State&) const = default;
   };
+  // An input by its type, which is found once and not after each action.
+  using Field = std::variant<TextBox*, Combo*, CheckBox*, OptionArray*, Grid*>;
   struct Input {
     Control* control;
+    Field field;
     State saved;
     State last;  // after the last action
   };
@@ -56,11 +67,12 @@ class EditHistory {
   };
   using Edit = std::vector<Change>;
 
-  static bool IsInput(const Control& control);
-  static State StateOf(const Control& control);
-  static bool Has(const Control& control, const State& state);
-  static bool TakesTyping(const Control& control);
-  static void Restore(Control& control, const State& state);
+  // Returns nothing if the control is no input.
+  static std::optional<Field> FieldOf(Control& control);
+  static State StateOf(const Field& field);
+  static bool Has(const Field& field, const State& state);
+  static bool TakesTyping(const Field& field);
+  static void Restore(const Field& field, const State& state);
   const Input* Find(const Control& control) const;
   bool IsTypingOn(const Edit& edit) const;
   Control* Apply(const Edit& edit, State Change::*state);

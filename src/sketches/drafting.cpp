@@ -19,22 +19,31 @@ double WidthOf(const std::string& text, double size) {
   return static_cast<double>(CharacterCount(text)) * LetterWidth * size;
 }
 
-PathStep StepTo(PathStep::Kind kind, double x, double y) { return {kind, {x, y}, {}, {}}; }
+// Room that most traces and drawings need. Growing takes longer than all the rest of a drawing.
+constexpr std::size_t FirstSteps = 12;
+constexpr std::size_t FirstOutlines = 48;
+constexpr std::size_t FirstLabels = 32;
 
 }  // namespace
 
+PathStep& Trace::Add(PathStep::Kind kind, double x, double y) {
+  if (steps_.capacity() == 0) steps_.reserve(FirstSteps);
+  steps_.push_back({kind, {x, y}, {}, {}});
+  return steps_.back();
+}
+
 Trace& Trace::Move(double x, double y) {
-  steps_.push_back(StepTo(PathStep::Kind::Move, x, y));
+  Add(PathStep::Kind::Move, x, y);
   return *this;
 }
 
 Trace& Trace::Line(double x, double y) {
-  steps_.push_back(StepTo(PathStep::Kind::Line, x, y));
+  Add(PathStep::Kind::Line, x, y);
   return *this;
 }
 
 Trace& Trace::Close() {
-  steps_.push_back({});
+  Add(PathStep::Kind::Close, 0, 0);
   return *this;
 }
 
@@ -55,8 +64,10 @@ Trace& Trace::Circle(const ScenePoint& centre, double radius) {
     const ScenePoint& from = Corners[i];
     const ScenePoint& to = Corners[i + 1];
     const auto at = [&](double x, double y) { return ScenePoint{centre.X + radius * x, centre.Y + radius * y}; };
-    steps_.push_back({PathStep::Kind::Curve, at(to.X, to.Y), at(from.X + CurveShare * to.X, from.Y + CurveShare * to.Y),
-                      at(to.X + CurveShare * from.X, to.Y + CurveShare * from.Y)});
+    const ScenePoint end = at(to.X, to.Y);
+    PathStep& curve = Add(PathStep::Kind::Curve, end.X, end.Y);
+    curve.FirstControl = at(from.X + CurveShare * to.X, from.Y + CurveShare * to.Y);
+    curve.SecondControl = at(to.X + CurveShare * from.X, to.Y + CurveShare * from.Y);
   }
   return Close();
 }
@@ -68,7 +79,10 @@ Trace& Trace::Break(const ScenePoint& at) {
       .Segment({at.X - Half, at.Y + Half + Gap}, {at.X + Half, at.Y + Gap});
 }
 
-Drafting::Drafting(const SheetSize& sheet) : scene_{sheet.Width, sheet.Height, {}, {}} {}
+Drafting::Drafting(const SheetSize& sheet) : scene_{sheet.Width, sheet.Height, {}, {}} {
+  scene_.Outlines.reserve(FirstOutlines);
+  scene_.Labels.reserve(FirstLabels);
+}
 
 ScenePoint Drafting::Inside(const ScenePoint& point) const {
   const auto within = [](double value, double most) { return value > 0 ? std::min(value, most) : 0; };
@@ -79,7 +93,10 @@ void Drafting::Draw(Trace trace, const SceneStroke& line, const SceneFill& insid
   if (trace.IsEmpty()) return;
   std::vector<PathStep> steps = trace.Take();
   for (PathStep& step : steps) {
-    for (ScenePoint* point : {&step.To, &step.FirstControl, &step.SecondControl}) *point = Inside(*point);
+    step.To = Inside(step.To);
+    if (step.What != PathStep::Kind::Curve) continue;
+    step.FirstControl = Inside(step.FirstControl);
+    step.SecondControl = Inside(step.SecondControl);
   }
   scene_.Outlines.push_back({std::move(steps), inside, line});
 }

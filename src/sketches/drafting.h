@@ -53,6 +53,8 @@ class Trace {
   std::vector<PathStep> Take() { return std::move(steps_); }
 
  private:
+  PathStep& Add(PathStep::Kind kind, double x, double y);
+
   std::vector<PathStep> steps_;
 };
 
