@@ -85,7 +85,7 @@ Drafting::Drafting(const SheetSize& sheet) : scene_{sheet.Width, sheet.Height, {
 }
 
 ScenePoint Drafting::Inside(const ScenePoint& point) const {
-  const auto within = [](double value, double most) { return value > 0 ? std::min(value, most) : 0; };
+  const auto within = [](double value, double most) { return std::min(value > 0 ? value : 0, most); };
   return {within(point.X, scene_.Width), within(point.Y, scene_.Height)};
 }
 
