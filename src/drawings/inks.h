@@ -15,9 +15,9 @@ constexpr std::uint32_t InkColour(Ink ink, Ground ground) {
   const bool isDark = ground == Ground::Dark;
   switch (ink) {
     case Ink::Text: return isDark ? 0xe6e6e6 : 0x1f1f1f;
-    case Ink::Muted: return 0x8a8f94;
-    case Ink::Rock: return 0xc1662f;
-    case Ink::Bolt: return 0x2f7fc1;
+    case Ink::Muted: return isDark ? 0xa8adb2 : 0x8a8f94;
+    case Ink::Rock: return isDark ? 0xe89060 : 0xc1662f;
+    case Ink::Bolt: return isDark ? 0x74b9f2 : 0x2f7fc1;
     case Ink::Cable: return isDark ? 0xc39bf0 : 0x7a3fb0;
     case Ink::Truss: return isDark ? 0x4fd1c5 : 0x0f6f68;
     case Ink::Standing: return isDark ? 0xe0b050 : 0x7d5200;

@@ -1,6 +1,7 @@
 #include "qt/application.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QLocale>
 #include <cstdlib>
 
@@ -8,6 +9,7 @@
 #include "core/act.h"
 #include "core/help.h"
 #include "qt/boundary.h"
+#include "qt/contrast.h"
 #include "qt/desktop.h"
 #include "qt/main_view.h"
 #include "qt/pictures.h"
@@ -18,6 +20,18 @@
 
 namespace orby {
 namespace {
+
+// Keeps its colours readable when the desktop's theme changes.
+class ReadableApplication : public QApplication {
+ public:
+  using QApplication::QApplication;
+
+ protected:
+  bool event(QEvent* event) override {
+    if (event->type() == QEvent::ApplicationPaletteChange) MakeSelectionReadable();
+    return QApplication::event(event);
+  }
+};
 
 // Starts the toolkit with the program's names. The user's arguments do not reach the toolkit.
 class ToolkitStart {
@@ -30,13 +44,14 @@ class ToolkitStart {
     // The texts are English and the numbers have a decimal point on every desktop, so the layout is left to right, too.
     QApplication::setLayoutDirection(Qt::LeftToRight);
     QLocale::setDefault(QLocale::c());
+    MakeSelectionReadable();
   }
 
  private:
   int count_ = 1;
   char name_[5] = "orby";
   char* names_[2] = {name_, nullptr};
-  QApplication application_;
+  ReadableApplication application_;
 };
 
 // Ends the process. Only the unsaved changes are written, for the next start.

@@ -1,5 +1,7 @@
 #include "qt/contrast.h"
 
+#include <QGuiApplication>
+#include <QPalette>
 #include <algorithm>
 #include <cmath>
 
@@ -31,6 +33,18 @@ QColor Readable(const QColor& color, const QColor& background) {
     changed = QColor::fromHsl(color.hslHue(), color.hslSaturation(), lightness);
   }
   return changed;
+}
+
+void MakeSelectionReadable() {
+  const QPalette present = QGuiApplication::palette();
+  QPalette changed;  // sets only what it changes, so that the rest follows the theme
+  changed.setResolveMask(0);
+  for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+    const QColor ground = present.color(group, QPalette::Highlight);
+    const QColor readable = Readable(ground, present.color(group, QPalette::HighlightedText));
+    if (readable != ground) changed.setColor(group, QPalette::Highlight, readable);
+  }
+  if (changed.resolveMask() != 0) QGuiApplication::setPalette(changed);
 }
 
 }  // namespace orby

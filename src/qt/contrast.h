@@ -9,4 +9,8 @@ namespace orby {
 // by the Web Content Accessibility Guidelines.
 QColor Readable(const QColor& color, const QColor& background);
 
+// Darkens or lightens the ground of selected texts in all windows until the texts can be read on it. Many themes have
+// one that is too light for white texts.
+void MakeSelectionReadable();
+
 }  // namespace orby

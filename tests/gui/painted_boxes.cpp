@@ -6,11 +6,14 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QTabBar>
+#include <algorithm>
 
 namespace orby::test {
 namespace {
 
-constexpr double LargestMark = 40;  // a larger picture is no mark
+// A larger picture is no mark, and a smaller one is part of a frame.
+constexpr double LargestMark = 40;
+constexpr double SmallestMark = 10;
 
 struct PaintedBox {
   QString kind;
@@ -43,10 +46,11 @@ class BoxEngine : public QPaintEngine {
 
  private:
   void KeepMark(const QRectF& place) {
-    if (place.width() <= LargestMark && place.height() <= LargestMark) Keep("mark", {}, place);
+    const auto [less, more] = std::minmax(place.width(), place.height());
+    if (less >= SmallestMark && more <= LargestMark) Keep("mark", {}, place);
   }
   void Keep(const QString& kind, const QString& text, const QRectF& place) {
-    boxes.push_back({kind, text, painter()->combinedTransform().mapRect(place)});
+    boxes.push_back({kind, text, painter()->deviceTransform().mapRect(place)});
   }
 };
 

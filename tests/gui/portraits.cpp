@@ -49,6 +49,7 @@
 #include "gui/painted_boxes.h"
 #include "qt/boundary.h"
 #include "qt/chart_view.h"
+#include "qt/contrast.h"
 #include "qt/help_viewer.h"
 #include "qt/help_window.h"
 #include "qt/main_view.h"
@@ -432,6 +433,7 @@ int TakePortraits(const QString& folder) {
   const QPalette light = QApplication::palette();
   for (const bool dark : {false, true}) {
     QApplication::setPalette(dark ? DarkPalette() : light);
+    MakeSelectionReadable();
     for (const UnitSystem units : {English, Metric}) {
       const QString series = QString(units == Metric ? "metric" : "english") + (dark ? "-dark" : "-light");
       const Photographer photographer(folder, series);
