@@ -11,6 +11,7 @@
 #include "core/settings.h"
 #include "design/catalog_lists.h"
 #include "design/design.h"
+#include "design/prices.h"
 #include "design/units.h"
 #include "engine/curves.h"
 #include "platform/platform.h"
@@ -118,6 +119,7 @@ struct Session {
   std::string IniFilePath;
   std::string UpdateServer;  // the address at which new versions are published; empty: none
   DesignDefaults defaults;
+  PriceLists prices = BuiltInPrices();
   History history;
   std::array<std::string, 5> OutBuf;  // pages of the last report: 0 the inputs, 1 the calculations or the cost table
   std::optional<ShownResults> LastResults;

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -38,5 +39,17 @@ struct PriceList {
 };
 
 using PriceLists = std::array<PriceList, 2>;  // by unit system
+
+// Returns the lists that a user begins with: usual lengths, and no prices.
+PriceLists BuiltInPrices();
+
+// The largest number of stocked lengths.
+inline constexpr std::size_t MostStockedLengths = 20;
+
+// Returns the lengths in a text such as "4, 5, 6", in ascending order and each one once. Words that are no number above
+// 0 are skipped, and so are lengths after the largest number of them.
+std::vector<Single> LengthsFrom(std::string_view text);
+// Returns the lengths as a text, separated by commas.
+std::string LengthsText(const std::vector<Single>& lengths);
 
 }  // namespace orby

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "config/catalog_sections.h"
+#include "config/price_section.h"
 #include "config/settings_sections.h"
 #include "config/user_folders.h"
 #include "core/dialog_helpers.h"
@@ -65,6 +66,7 @@ void ReadCatalogSections(Program& program, const IniText& ini) {
 void ReadConfiguration(Program& program, const IniText& ini) {
   ReadDefaults(program, ini);
   ReadCatalogSections(program, ini);
+  ReadPrices(program.session.prices, ini);
 }
 
 void BeginNewDesign(Program& program) { FileNew(program, Keeping::Nothing); }
