@@ -124,6 +124,8 @@ void List::ClickItem(int index) {
   Fire(Click);
 }
 
+void List::PointAt(int index) { Mirror(listIndex_, static_cast<int>(CheckedIndex(index, items_.size()))); }
+
 void ActionArray::ClickItem(int index) const {
   const Item& item = At(index);
   if (Enabled() && item.enabled && item.visible && Click) Click(static_cast<Integer>(index));

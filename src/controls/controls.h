@@ -274,6 +274,10 @@ class List : public Control {
   // Clicks an item as the user does. Fires also for the selected item. Throws RuntimeError 9 outside the list.
   void ClickItem(int index);
 
+  // Moves the selection without a click, as the arrow keys do in a list of commands. Throws RuntimeError 9 outside the
+  // list.
+  void PointAt(int index);
+
   Event Click;
 
  private:

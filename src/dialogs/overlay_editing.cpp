@@ -42,6 +42,15 @@ void OverlayEditing::Fill(const Texts& headers, const std::vector<Texts>& entrie
   Follow();
 }
 
+void OverlayEditing::FillNamed(const Texts& header, const std::vector<Texts>& entries) {
+  kinds_.assign(header.size() - NumberColumns, TextKind::Number);
+  LeaveCell();
+  std::vector<Texts> rows{header};
+  rows.insert(rows.end(), entries.begin(), entries.end());
+  grid_.SetRows(std::move(rows), HeaderRows);
+  Follow();
+}
+
 void OverlayEditing::AddEntry() {
   Flush();
   grid_.AddRow();

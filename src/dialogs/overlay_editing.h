@@ -1,7 +1,7 @@
 // Edits a grid's cells in a text box that lies over the selected cell.
 //
 // The box shows the text of its cell, and returns it to the cell when another one is selected. The first column numbers
-// the rows and cannot be edited. Without rows the box is hidden.
+// or names the rows and cannot be edited. Without rows the box is hidden.
 #pragma once
 
 #include <string>
@@ -14,7 +14,7 @@ namespace orby {
 
 class OverlayEditing {
  public:
-  // The texts of a row, without its number.
+  // The texts of a row, without its number or with its name.
   using Texts = std::vector<std::string>;
 
   // kinds: the characters that the box accepts in each column after the first. Grid and box must outlive this object.
@@ -24,6 +24,8 @@ class OverlayEditing {
 
   // Refills the grid and selects its first cell. The text in the box is dropped. headers: those after the first column.
   void Fill(const Texts& headers, const std::vector<Texts>& entries);
+  // Does the same with rows that begin with their name, of which `header` is the first one. All cells take numbers.
+  void FillNamed(const Texts& header, const std::vector<Texts>& entries);
   // Adds an empty row, selects its first cell and moves the focus to the box.
   void AddEntry();
   // Empties the box, removes the selected row and returns the index of its entry. Returns -1 if there is no row to

@@ -265,6 +265,7 @@ class ParametersControls : public ProgramForm {
   // the judgements, on view from every tab
   Label lblVerdicts{*this, "lblVerdicts", "Judgements"};
   List lstVerdicts{*this, "lstVerdicts"};
+  Button cmdWouldHold{*this, "cmdWouldHold", "What Would &Hold..."};
 
   // commands
   Button Command2{*this, "Command2", "OK"};

@@ -86,6 +86,7 @@ void ParametersDialog::TieCommands() {
   Command5.Click = [this] { CopyClip(program_, *this); };
   Command3.Click = [this] { ContextHelpHint(program_); };
   cmdCMRR.Click = [this] { Estimate(); };
+  cmdWouldHold.Click = [this] { Study(); };
   lstVerdicts.Click = [this] { GoToVerdict(static_cast<std::size_t>(lstVerdicts.ListIndex())); };
 }
 

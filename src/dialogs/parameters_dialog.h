@@ -5,6 +5,7 @@
 
 #include <array>
 #include <initializer_list>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -63,6 +64,16 @@ class ParametersDialog : public ParametersControls {
   // Shows the judgements on the fields as they stand, the worst first. Where the design that OK would commit is judged
   // in another way, both are shown.
   void ShowVerdicts();
+
+  // Returns the design that the fields hold, as the judgements read it.
+  Design TypedDesign();
+
+  // Sets the fields that differ from a design, as typing would and as one edit. Outputs are not compared. Shows the
+  // page of the first such field, and moves the focus to the judgements.
+  void TakeEdits(const Design& wanted);
+
+  // Opens the window that says what would hold, over this dialog, as soon as this one is on the screen.
+  void StudyLater();
 
   EditHistory* Edits() override { return &edits_; }
   void ShowControl(Control& control) override;
@@ -132,12 +143,16 @@ class ParametersDialog : public ParametersControls {
   // Moves the focus to the field that decides the judgement of a row.
   void GoToVerdict(std::size_t row);
 
+  // Opens that window for the selected judgement.
+  void Study();
+
   // Takes the region and the rock type of the estimator from the hidden fields, after an edit was taken back.
   void RestoreEstimate();
 
   Design typed_;
   std::vector<VerdictRow> verdicts_;  // as the strip shows them
   EditHistory edits_;
+  std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);  // for what is called later
 };
 
 }  // namespace orby

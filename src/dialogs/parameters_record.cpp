@@ -1,6 +1,4 @@
 // Transfers a design to the fields of the parameters dialog and back.
-#include <array>
-#include <span>
 #include <utility>
 #include <vector>
 
@@ -8,82 +6,13 @@
 #include "base/attempt.h"
 #include "base/number_text.h"
 #include "core/dialog_helpers.h"
-#include "design/field.h"
 #include "dialogs/parameters_dialog.h"
+#include "dialogs/parameters_fields.h"
 #include "dialogs/shown_design.h"
 #include "files/project_lines.h"
 
 namespace orby {
 namespace {
-
-struct NumberField {
-  LabelledBox ParametersControls::*control;
-  SingleField field;
-};
-
-using C = ParametersControls;
-
-constexpr NumberField PlaceFields[] = {
-    {&C::txtDepthofCover, [](auto& d) { return &d.Place.DepthofCover; }},
-    {&C::txtUnitWeight, [](auto& d) { return &d.Place.UnitWeight; }},
-    {&C::txtActualSpanDiagonals, [](auto& d) { return &d.Place.ActualSpanDiagonals; }},
-    {&C::txtEntryWidth, [](auto& d) { return &d.Place.EntryWidth; }},
-};
-
-constexpr NumberField PrimaryFields[] = {
-    {&C::txtStabilityFactor, [](auto& d) { return &d.Primary.StabilityFactor; }},
-    {&C::txtBoltLengthPrimary, [](auto& d) { return &d.Primary.Length; }},
-    {&C::txtBoltsperRowPrimary, [](auto& d) { return &d.Primary.BoltsperRow; }},
-    {&C::txtRowSpacingPrimary, [](auto& d) { return &d.Primary.RowSpacing; }},
-};
-
-constexpr NumberField EntryFields[] = {
-    {&C::txtRockLoadHeight, [](auto& d) { return &d.Entries.RockLoadHeight; }},
-    {&C::txtRockFallAngle, [](auto& d) { return &d.Entries.RockFallAngle; }},
-    {&C::txtCableLengthSecEntry, [](auto& d) { return &d.Entries.Cable.Length; }},
-    {&C::txtCableBoltsPerRowSecEntry, [](auto& d) { return &d.Entries.Cable.BoltsPerRow; }},
-    {&C::txtCableRowSpacingSecEntry, [](auto& d) { return &d.Entries.Cable.RowSpacing; }},
-    {&C::txtTrussLengthMemberSecEntry, [](auto& d) { return &d.Entries.Truss.LengthMember; }},
-    {&C::txtTrussAngleSecEntry, [](auto& d) { return &d.Entries.Truss.Angle; }},
-    {&C::txtTrussCapacitySecEntry, [](auto& d) { return &d.Entries.Truss.Capacity; }},
-    {&C::txtTrussSpacingSecEntry, [](auto& d) { return &d.Entries.Truss.Spacing; }},
-    {&C::txtBoltLengthSecEntry, [](auto& d) { return &d.Entries.Bolt.Length; }},
-    {&C::txtBoltsperRowSecEntry, [](auto& d) { return &d.Entries.Bolt.BoltsperRow; }},
-    {&C::txtRowSpacingSecEntry, [](auto& d) { return &d.Entries.Bolt.RowSpacing; }},
-    {&C::txtNumberSupPerRowSecEntry, [](auto& d) { return &d.Entries.Standing.NumberPerRow; }},
-    {&C::txtSupportRowSpacingSecEntry, [](auto& d) { return &d.Entries.Standing.RowSpacing; }},
-};
-
-constexpr NumberField IntersectionFields[] = {
-    {&C::txtRockLoadHeightInter, [](auto& d) { return &d.Intersections.RockLoadHeight; }},
-    {&C::txtRockFallAngleEntry, [](auto& d) { return &d.Intersections.RockFallAngle; }},
-    {&C::txtRockFallAngleXcut, [](auto& d) { return &d.Intersections.RockFallAngleXcut; }},
-    {&C::txtCableLengthSecInter, [](auto& d) { return &d.Intersections.Cable.Length; }},
-    {&C::txtCableNumberSecInter, [](auto& d) { return &d.Intersections.Cable.Number; }},
-    {&C::txtTrussLengthMemberSecInter, [](auto& d) { return &d.Intersections.Truss.LengthMember; }},
-    {&C::txtTrussAngleSecInter, [](auto& d) { return &d.Intersections.Truss.Angle; }},
-    {&C::txtTrussCapacitySecInter, [](auto& d) { return &d.Intersections.Truss.Capacity; }},
-    {&C::txtTrussNumberSecInter, [](auto& d) { return &d.Intersections.Truss.Number; }},
-    {&C::txtBoltLengthSecInter, [](auto& d) { return &d.Intersections.Bolt.Length; }},
-    {&C::txtBoltNumberSecInter, [](auto& d) { return &d.Intersections.Bolt.Number; }},
-    {&C::txtSupportNumberSecInter, [](auto& d) { return &d.Intersections.Standing.Number; }},
-};
-
-// By DesignPart.
-constexpr std::array<std::span<const NumberField>, 5> NumberFields{
-    PlaceFields, PrimaryFields, {}, EntryFields, IntersectionFields};
-
-struct FlagField {
-  CheckBox ParametersControls::*control;
-  IntegerField field;
-};
-
-constexpr FlagField FlagFields[] = {
-    {&C::chkCMRRManual, [](auto& d) { return &d.Place.CMRRManual; }},
-    {&C::chkPrimSupport, [](auto& d) { return &d.Primary.Analysed; }},
-    {&C::chkSecondSupEntries, [](auto& d) { return &d.Entries.Analysed; }},
-    {&C::chkSecondSupInter, [](auto& d) { return &d.Intersections.Analysed; }},
-};
 
 // Reads numbers into the typed design and collects those that do not fit.
 class NumberReader {

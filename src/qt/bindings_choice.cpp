@@ -225,6 +225,9 @@ class ListBinding : public QObject, public WidgetBinding<QListWidget, List> {
     widget_.viewport()->installEventFilter(this);
     connect(&widget_, &QListWidget::itemClicked, this, [this](const QListWidgetItem* item) { Choose(*item); });
     connect(&widget_, &QListWidget::itemSelectionChanged, this, &ListBinding::FollowMark);
+    connect(&widget_, &QListWidget::currentRowChanged, this, [this](int row) {
+      if (row >= 0 && isByHand_) control_.PointAt(row);
+    });
   }
 
   void Show() override {

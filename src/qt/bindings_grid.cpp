@@ -148,10 +148,12 @@ class GridBinding : public QObject, public WidgetBinding<QTableWidget, Grid> {
     widget_.setRowCount(rows);
     widget_.setColumnCount(control_.Columns());
     widget_.horizontalHeader()->setVisible(control_.FixedRows() > 0);
-    if (control_.Columns() > 1) {
-      widget_.horizontalHeader()->setSectionResizeMode(control_.StretchedColumn(), QHeaderView::Stretch);
+    for (int column = 0; column < control_.Columns(); ++column) {
+      const bool isStretched = control_.Columns() > 1 && column == control_.StretchedColumn();
+      widget_.horizontalHeader()->setSectionResizeMode(column,
+                                                       isStretched ? QHeaderView::Stretch : QHeaderView::Interactive);
+      ShowColumn(column, rows);
     }
-    for (int column = 0; column < control_.Columns(); ++column) ShowColumn(column, rows);
     if (Row() != widget_.currentRow() || (editor_ && control_.Column() != widget_.currentColumn())) MarkSelected();
     if (editor_) editor_->Place();
   }

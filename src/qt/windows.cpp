@@ -33,6 +33,7 @@
 #include <ui_text_browser.h>
 #include <ui_unit_calculator_window.h>
 #include <ui_update_dialog.h>
+#include <ui_would_hold_window.h>
 #include "core/dialog_helpers.h"
 #include "qt/drawing_view.h"
 #include "qt/frame_reader.h"
@@ -106,6 +107,7 @@ constexpr std::array Layouts{
     LayoutEntry{"frmDisclaimer", Make<Ui::frmDisclaimer, DialogWindow>},
     LayoutEntry{"frmSummary", Make<Ui::frmSummary, QWidget>},
     LayoutEntry{"frmBackups", Make<Ui::frmBackups, DialogWindow>},
+    LayoutEntry{"frmWouldHold", Make<Ui::frmWouldHold, DialogWindow>},
     LayoutEntry{"frmResource", Make<Ui::frmResource, DialogWindow>},
 };
 

@@ -1,4 +1,4 @@
-// The commands of the Input menu.
+// The commands of the Input and the Study menu.
 #include <memory>
 
 #include "core/act.h"
@@ -15,6 +15,13 @@ void MainWindow::EditCommand(EditItem item) {
     case EditItem::Description: EditDescription(); break;
     case EditItem::Parameters: EditDesign<ParametersDialog>(); break;
     case EditItem::Cost: EditDesign<CostDialog>(); break;
+  }
+}
+
+// A study stands over the parameters, so that its changes have fields to go to.
+void MainWindow::StudyCommand(StudyItem item) {
+  switch (item) {
+    case StudyItem::WhatWouldHold: EditDesign(&ParametersDialog::StudyLater); break;
   }
 }
 
@@ -45,11 +52,12 @@ void MainWindow::EditDescription() {
 }
 
 template <class Dialog>
-void MainWindow::EditDesign() {
+void MainWindow::EditDesign(void (Dialog::*start)()) {
   Windows& windows = program_.platform.windows;
   const auto dialog = Opened<Dialog>();
   if (!dialog) return;
   KeepEdits(*dialog);
+  if (start != nullptr) (*dialog.*start)();
   windows.ShowMainWindow(false);
   ShowForm(program_, *dialog);
   windows.ShowMainWindow(true);

@@ -32,6 +32,8 @@ enum class UtilityItem : Integer {
   Backups = 9,
 };
 
+enum class StudyItem : Integer { WhatWouldHold };
+
 enum class HelpItem : Integer {
   Contents = 0,
   Index = 1,
@@ -81,6 +83,8 @@ class MainControls : public ProgramForm {
       "mnuUtilItem",
       {"&Settings...", "&Options...", "&Unit Conversions...", "&File Conversion...", ActionArray::Separator,
        "&Clear History Window", CloseHistory, "Co&py History &Window", ActionArray::Separator, "&Backups..."}};
+  Menu mnuStudy{*this, "mnuStudy", "&Study"};
+  Actions<StudyItem> mnuStudyItem{*this, "mnuStudyItem", {"&What Would Hold..."}};
   Menu mnuHelp{*this, "mnuHelp", "&Help"};
   Actions<HelpItem> mnuHelpItem{
       *this,

@@ -38,6 +38,7 @@ void MainWindow::TieCommands() {
   mnuFileArray.Click = [this](Integer item) { OpenRecent(item); };
   mnuEditItem.Click = [this](Integer item) { EditCommand(EditItem{item}); };
   mnuUtilItem.Click = [this](Integer item) { UtilityCommand(UtilityItem{item}); };
+  mnuStudyItem.Click = [this](Integer item) { StudyCommand(StudyItem{item}); };
   mnuHelpItem.Click = [this](Integer item) { HelpCommand(HelpItem{item}); };
   Toolbar1.Click = [this](Integer button) {
     switch (ToolButton{button}) {

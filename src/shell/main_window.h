@@ -91,10 +91,13 @@ class MainWindow : public MainControls {
   template <class Dialog>
   std::unique_ptr<Dialog> Opened();
   void EditDescription();
+  // Opens the dialog on the project. `start` is called once it is loaded.
   template <class Dialog>
-  void EditDesign();
+  void EditDesign(void (Dialog::*start)() = nullptr);
   template <class Dialog>
   void KeepEdits(Dialog& dialog);
+
+  void StudyCommand(StudyItem item);
 
   // utility_commands.cpp
   void UtilityCommand(UtilityItem item);

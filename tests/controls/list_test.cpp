@@ -36,6 +36,14 @@ TEST_F(AList, FiresClickAlsoForTheSelectedItem) {
   EXPECT_EQ(clicks, 2);
 }
 
+TEST_F(AList, FiresNothingForAnItemThatTheArrowKeysReach) {
+  list.PointAt(1);
+
+  EXPECT_EQ(list.ListIndex(), 1);
+  EXPECT_EQ(clicks, 0);
+  EXPECT_EQ(ErrorNumberOf([this] { list.PointAt(2); }), 9);
+}
+
 TEST_F(AList, RefusesAnItemOutsideItsBounds) {
   EXPECT_EQ(ErrorNumberOf([this] { list.ClickItem(2); }), 9);
   EXPECT_EQ(ErrorNumberOf([this] { list.ClickItem(-1); }), 9);

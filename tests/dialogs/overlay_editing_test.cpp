@@ -36,6 +36,16 @@ TEST_F(OverlayEdit, BeginsOverTheFirstCellAfterTheNumber) {
   EXPECT_TRUE(form.cell.Visible());
 }
 
+TEST_F(OverlayEdit, BeginsAfterTheNamesOfNamedRows) {
+  editing.FillNamed({"Bolt", "4 ft", "5 ft"}, {{"#6", "7.5", ""}, {"#7", "9", "10"}});
+
+  EXPECT_THAT(Selected(), Pair(1, 1));
+  EXPECT_EQ(form.cell.Text(), "7.5");
+  EXPECT_EQ(form.cables.Cell(2, 0), "#7");
+  EXPECT_EQ(editing.Text(1, 1), "10");
+  EXPECT_EQ(form.cell.Kind(), TextKind::Number);
+}
+
 TEST_F(OverlayEdit, ShowsTheSelectedCell) {
   form.cables.SelectCell(2, 2);
 

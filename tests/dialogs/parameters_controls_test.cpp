@@ -268,7 +268,8 @@ std::vector<std::string> CaptionsOf(const Control* control) {
 }
 
 TEST_F(ParameterControls, AreAllThereExactlyOnce) {
-  std::vector<std::string> expected{"lblVerdicts", "lstVerdicts"};  // whose texts are those of the design
+  std::vector<std::string> expected{"lblVerdicts", "lstVerdicts",  // whose texts are those of the design
+                                    "cmdWouldHold"};
   for (const ControlCase& row : AllControls()) expected.push_back(row.name);
   std::vector<std::string> names;
   for (const Control* control : dialog.Controls()) names.emplace_back(control->Name());

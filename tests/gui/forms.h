@@ -27,6 +27,7 @@
 #include "dialogs/text_browser.h"
 #include "dialogs/unit_calculator_window.h"
 #include "dialogs/update_dialog.h"
+#include "dialogs/would_hold_window.h"
 #include "shell/main_window.h"
 
 namespace orby::test {
@@ -51,6 +52,16 @@ struct ChartOfItsOwn {
 class OptionsOfAChart : private ChartOfItsOwn, public GraphOptionsDialog {
  public:
   explicit OptionsOfAChart(Program& program) : ChartOfItsOwn(program), GraphOptionsDialog(program, graph.graph1) {}
+};
+
+// The study of the design in a dialog.
+struct OpenParameters {
+  explicit OpenParameters(Program& program) : parameters(program) { parameters.Open(); }
+  ParametersDialog parameters;
+};
+class StudyOfADesign : private OpenParameters, public WouldHoldWindow {
+ public:
+  explicit StudyOfADesign(Program& program) : OpenParameters(program), WouldHoldWindow(program, parameters) {}
 };
 
 inline constexpr std::array FormMakers{
@@ -87,6 +98,8 @@ inline constexpr std::array FormMakers{
     FormMaker{"frmDisclaimer", Plain<Disclaimer>},
     FormMaker{"frmBackups", Plain<BackupsWindow>},
     FormMaker{"frmResource", Plain<ResourceFiles>},
+    FormMaker{"frmWouldHold",
+              [](Program& program) -> std::unique_ptr<Form> { return std::make_unique<StudyOfADesign>(program); }},
 };
 
 }  // namespace orby::test

@@ -32,7 +32,7 @@ class MainCommands : public MainViewTest {
   using Choice = std::pair<std::string, int>;
 
   MainCommands() {
-    ActionArray* const arrays[] = {&model.mnuFileItem, &model.mnuEditItem,  &model.mnuUtilItem,
+    ActionArray* const arrays[] = {&model.mnuFileItem, &model.mnuEditItem,  &model.mnuUtilItem, &model.mnuStudyItem,
                                    &model.mnuHelpItem, &model.mnuFileArray, &model.Toolbar1};
     for (ActionArray* array : arrays) {
       array->Click = [this, array](Integer item) { chosen.emplace_back(array->Name(), item); };
@@ -80,7 +80,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Keys{Qt::Key_I, Qt::Key_C, {}, "mnuEditItem", 2}, Keys{Qt::Key_U, Qt::Key_C, {}, "mnuUtilItem", 5},
                     Keys{Qt::Key_U, Qt::Key_W, {}, "mnuUtilItem", 6}, Keys{Qt::Key_U, Qt::Key_P, {}, "mnuUtilItem", 7},
                     Keys{Qt::Key_H, Qt::Key_C, {}, "mnuHelpItem", 0}, Keys{Qt::Key_H, Qt::Key_I, {}, "mnuHelpItem", 1},
-                    Keys{Qt::Key_H, Qt::Key_P, {}, "mnuHelpItem", 2}),
+                    Keys{Qt::Key_H, Qt::Key_P, {}, "mnuHelpItem", 2},
+                    Keys{Qt::Key_S, Qt::Key_W, {}, "mnuStudyItem", 0}),
     NameOfKeys);
 
 INSTANTIATE_TEST_SUITE_P(Shortcuts, MainKeys,

@@ -24,8 +24,9 @@ const std::set<std::string> Texts{
     "frmSet Text1",  // extension, folder and viewer of files
     "frmSet Text2",
     "frmSet Text4",
-    "frmTextBrow Text2",  // the pattern of the files
-    "frmGraphOpt Text1",  // titles of a graph, its curves and its axes
+    "frmTextBrow Text2",        // the pattern of the files
+    "frmWouldHold txtLengths",  // a list of lengths
+    "frmGraphOpt Text1",        // titles of a graph, its curves and its axes
     "frmGraphOpt Text2_0",
     "frmGraphOpt Text2_1",
     "frmGraphOpt Text2_2",

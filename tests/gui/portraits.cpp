@@ -121,6 +121,24 @@ void TakePages(const Photographer& photographer, QDialog& window, QTabWidget& ta
   }
 }
 
+// Prices of all table bolts in the first four stocked lengths.
+PriceLists SomePrices() {
+  Catalogs catalogs;
+  SetBuiltInCatalogs(catalogs);
+  PriceLists lists = BuiltInPrices();
+  for (PriceList& list : lists) {
+    for (std::size_t bolt = 0; bolt < catalogs.BoltTableENG.size(); ++bolt) {
+      for (std::size_t length = 0; length < 4; ++length) {
+        list.Prices.push_back({PricedSupport::Bolt, catalogs.BoltTableENG[bolt].Name, list.BoltLengths[length],
+                               4.25F + static_cast<Single>(bolt) * 0.5F + static_cast<Single>(length) * 1.25F});
+      }
+    }
+    list.Prices.push_back({PricedSupport::Truss, "", 0, 385});
+    list.Prices.push_back({PricedSupport::Standing, "Wood Post (6in)", 0, 42});
+  }
+  return lists;
+}
+
 // The program with an open example. Shows all windows one after the other.
 class Sitting {
  public:
@@ -159,6 +177,7 @@ class Sitting {
     TakeDescription();
     TakeParameters();
     TakeMarkedFields();
+    TakeStudy();
     TakeDialog<CostDialog>("cost");
     TakeEstimator();
     TakeOptions();
@@ -245,6 +264,30 @@ class Sitting {
       TypeInto(window, "txtEntryWidth", "45");
       TypeInto(window, "txtUnitWeight", "99");
       photographer_.Take(window, "parameters-marked");
+      Click(window, "Command1");
+    });
+    ParametersDialog dialog(program_);
+    ShowForm(program_, dialog);
+  }
+
+  // Takes the pages of the study of a design that is short of support, with some prices.
+  void TakeStudy() {
+    program_.session.prices = SomePrices();
+    scripts_.Add([&](QDialog& window) {
+      TypeInto(window, "txtRowSpacingPrimary", program_.project.WorkParms.Units == Metric ? "6" : "8.5");
+      scripts_.Add([&](QDialog& study) {
+        auto& tabs = Find<QTabWidget>(study, "tabStudy");
+        tabs.setCurrentIndex(1);
+        Click(study, "cmdSearch");
+        while (Find<QPushButton>(study, "cmdStop").isEnabled()) {
+          platform_.clock.Pass();
+          Settle();
+        }
+        TakePages(photographer_, study, tabs, "would-hold");
+        study.close();
+      });
+      Click(window, "cmdWouldHold");
+      photographer_.Take(window, "parameters-short");
       Click(window, "Command1");
     });
     ParametersDialog dialog(program_);

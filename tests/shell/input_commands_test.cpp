@@ -42,6 +42,28 @@ TEST_F(InputMenu, ShowsEachDialog) {
   EXPECT_THAT(names, ElementsAre("frmTULKDesc", "frmPENVParm", "frmTULKCost", "frmTULKDesc", "frmPENVParm"));
 }
 
+TEST_F(InputMenu, IsNotNeededForAStudyWhichOpensTheParametersItself) {
+  std::vector<std::string> names;
+  platform.windows.onModal = [&](Form& form) {
+    names.emplace_back(form.Name());
+    if (form.Name() == "frmPENVParm") platform.clock.Pass();
+  };
+
+  window.mnuStudyItem.ClickItem(StudyItem::WhatWouldHold);
+
+  EXPECT_THAT(names, ElementsAre("frmPENVParm", "frmWouldHold"));
+}
+
+TEST_F(InputMenu, OpensNoStudyAfterTheParametersHaveClosed) {
+  std::vector<std::string> names;
+  platform.windows.onModal = [&](Form& form) { names.emplace_back(form.Name()); };
+
+  window.mnuStudyItem.ClickItem(StudyItem::WhatWouldHold);
+  platform.clock.Pass();
+
+  EXPECT_THAT(names, ElementsAre("frmPENVParm"));
+}
+
 TEST_F(InputMenu, HidesTheMainWindowWhileTheParametersAreOpen) {
   bool shown = true;
   bool waiting = true;

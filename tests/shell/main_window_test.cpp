@@ -29,6 +29,7 @@ TEST_F(Menus, HaveTheirEntriesInOrder) {
       Captions(window.mnuUtilItem),
       ElementsAre("&Settings...", "&Options...", "&Unit Conversions...", "&File Conversion...", "-",
                   "&Clear History Window", "Close History &Window", "Co&py History &Window", "-", "&Backups..."));
+  EXPECT_THAT(Captions(window.mnuStudyItem), ElementsAre("&What Would Hold..."));
   EXPECT_THAT(Captions(window.mnuHelpItem),
               ElementsAre("Help &Contents...", "Help &Index...", "Help in &PDF format...", "-", "&Resource Files...",
                           "-", "&Disclaimer...", "-", "Program Updates...", "-", "&About the Program..."));
@@ -40,6 +41,7 @@ TEST_F(Menus, AreNamedInTheMenuBar) {
   EXPECT_EQ(window.mnuFile.Caption(), "&File");
   EXPECT_EQ(window.mnuEdit.Caption(), "&Input");
   EXPECT_EQ(window.mnuUtil.Caption(), "&Utilities");
+  EXPECT_EQ(window.mnuStudy.Caption(), "&Study");
   EXPECT_EQ(window.mnuHelp.Caption(), "&Help");
   EXPECT_EQ(window.lblver.Caption(), "Version: 1.0.00");
 }
@@ -66,8 +68,8 @@ TEST(MainWindowStart, ShowsTheDisclaimerBeforeItTouchesTheUsersFiles) {
 }
 
 TEST_F(Menus, OfferAllOfTheirEntries) {
-  const ActionArray* const menus[] = {&window.mnuFileItem, &window.mnuEditItem, &window.mnuUtilItem,
-                                      &window.mnuHelpItem, &window.Toolbar1};
+  const ActionArray* const menus[] = {&window.mnuFileItem,  &window.mnuEditItem, &window.mnuUtilItem,
+                                      &window.mnuStudyItem, &window.mnuHelpItem, &window.Toolbar1};
   for (const ActionArray* menu : menus) {
     for (int i = 0; i < menu->Count(); ++i) EXPECT_TRUE(menu->ItemEnabled(i)) << menu->Caption(i);
   }

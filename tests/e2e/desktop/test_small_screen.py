@@ -62,6 +62,14 @@ class SmallScreen(DesktopTest):
             press_keys("Escape")
             dialog.wait_gone()
 
+    def test_shows_the_whole_of_each_page_of_the_study(self):
+        run = self.start()
+        run.main().choose("Study", "What Would Hold...")
+        study = run.window("What Would Hold")
+        for page in ("Least Changes", "Cheapest Patterns", "Prices"):
+            study.choose_tab("tabStudy", page)
+            self.assert_fits(study)
+
     def new_dialog(self, run):
         def find():
             for node in run.windows():

@@ -8,6 +8,9 @@ TABLES = (("Default Parameters (English)", "VSFlexGridEng", "txtCableEng"),
           ("Default Parameters (Metric)", "VSFlexGridMet", "txtCableMet"),
           ("Default Parameters (Standing Supports)", "VSFlexGridStand", "txtStand"))
 
+# The tables of prices, and the fields over their cells.
+PRICES = (("grdBoltPrices", "txtBoltPrice"), ("grdOtherPrices", "txtOtherPrice"))
+
 
 class TypingElsewhere(NumberFieldsTest):
     def start_main(self):
@@ -42,6 +45,23 @@ class TypingElsewhere(NumberFieldsTest):
             self.fill_table(table, field)
         self.press_and_answer("cmdOK")
         self.leave("cmdCancel")
+        self.quit()
+
+    def test_in_the_study(self):
+        run = self.start_main()
+        run.keys("alt+s", "w")
+        self.enter(run, run.window("What Would Hold"), "frmWouldHold")
+        self.window.choose_tab("tabStudy", "Cheapest Patterns")
+        self.fill_fields()
+        self.press_and_answer("cmdSearch")
+        self.window.choose_tab("tabStudy", "Prices")
+        for table, field in PRICES:
+            self.fill_table(table, field)
+        self.leave("cmdClose")
+        parameters = run.window("Parameters")
+        parameters.wait_active()
+        parameters.press("Command1")
+        parameters.wait_gone()
         self.quit()
 
     def test_in_the_settings_and_in_the_font_dialog(self):
