@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/attempt.h"
 #include "base/number_text.h"
 
 namespace orby {
@@ -72,6 +73,23 @@ void Combo::SetText(std::string text) {
 double Combo::Value() const {
   if (!value_) value_ = TextValue(text_);
   return *value_;
+}
+
+NumberReading Combo::Reading() const {
+  std::optional<LeadingNumber> number;
+  if (!Succeeds([&] { number = ReadNumber(text_); })) return NumberReading::TooLarge;
+  return ReadingOf(text_, *number);
+}
+
+FieldMark Combo::Mark() const {
+  if (!TakesNumber()) return FieldMark::None;
+  switch (Reading()) {
+    case NumberReading::TooLarge: return FieldMark::OutOfRange;
+    case NumberReading::Partial: return FieldMark::PartlyRead;
+    case NumberReading::Whole:
+    case NumberReading::Blank: break;
+  }
+  return FieldMark::None;
 }
 
 void Combo::SetListIndex(int index) {

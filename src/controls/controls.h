@@ -173,6 +173,9 @@ enum class ComboKind {
 class Combo : public Control {
  public:
   Combo(Form& form, std::string_view name, ComboKind kind = ComboKind::FreeText) : Control(form, name), kind_(kind) {}
+  // A list of numbers of this quantity.
+  Combo(Form& form, std::string_view name, UnitSuffix suffix)
+      : Control(form, name), kind_(ComboKind::FreeText), suffix_(suffix) {}
 
   ComboKind Kind() const { return kind_; }
 
@@ -193,6 +196,12 @@ class Combo : public Control {
   // Returns the number at the start of the text.
   double Value() const;
 
+  UnitSuffix Suffix() const { return suffix_; }
+  bool TakesNumber() const { return suffix_ != UnitSuffix::None; }
+  NumberReading Reading() const;
+  // Returns the mark of the text. A blank one is only not chosen yet.
+  FieldMark Mark() const;
+
   int ListIndex() const { return listIndex_; }
   bool HasSelection() const { return listIndex_ != Nothing; }
   // Selects an item and sets the text to it. Nothing removes the selection and keeps the text. Throws RuntimeError 9
@@ -205,6 +214,7 @@ class Combo : public Control {
   void Assign(std::string text, int listIndex);
 
   ComboKind kind_;
+  UnitSuffix suffix_ = UnitSuffix::None;
   std::vector<ComboItem> items_;
   std::string text_;
   mutable std::optional<double> value_;  // number of the text, once it has been read

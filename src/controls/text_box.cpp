@@ -6,6 +6,12 @@
 
 namespace orby {
 
+NumberReading ReadingOf(std::string_view text, const LeadingNumber& number) {
+  if (!Succeeds([&] { static_cast<void>(ToSingle(number.value)); })) return NumberReading::TooLarge;
+  if (number.isWholeText) return NumberReading::Whole;
+  return Trim(text).empty() ? NumberReading::Blank : NumberReading::Partial;
+}
+
 void TextBox::SetText(std::string text) {
   if (text == text_) return;
   text_ = std::move(text);
@@ -22,9 +28,8 @@ const LeadingNumber& TextBox::Number() const {
 double TextBox::Value() const { return Number().value; }
 
 NumberReading TextBox::Reading() const {
-  if (!Succeeds([this] { static_cast<void>(ToSingle(Value())); })) return NumberReading::TooLarge;
-  if (Number().isWholeText) return NumberReading::Whole;
-  return Trim(text_).empty() ? NumberReading::Blank : NumberReading::Partial;
+  if (!Succeeds([this] { static_cast<void>(Number()); })) return NumberReading::TooLarge;
+  return ReadingOf(text_, Number());
 }
 
 FieldMark TextBox::Mark() const {

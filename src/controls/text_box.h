@@ -30,6 +30,9 @@ enum class NumberReading {
   TooLarge,  // no number of a project can be so large
 };
 
+// Returns how much of a text a number is, which starts it.
+NumberReading ReadingOf(std::string_view text, const LeadingNumber& number);
+
 // What the checks of a dialog accept in a field.
 struct FieldRange {
   NumberLimits limits;
@@ -57,6 +60,10 @@ class TextBox : public Control {
   double Value() const;
   // The quantity whose unit the number has.
   UnitSuffix Suffix() const { return suffix_; }
+
+  // The caption of a field that has no label: that of the column whose cell it edits. Empty otherwise.
+  const std::string& Caption() const { return caption_; }
+  void SetCaption(std::string caption) { caption_ = std::move(caption); }
 
   // Returns true for a field whose text is read as a number.
   bool TakesNumber() const { return kind_ == TextKind::Number || Range; }
@@ -86,6 +93,7 @@ class TextBox : public Control {
   mutable std::optional<LeadingNumber> number_;  // of the text, once it has been read
   TextKind kind_;
   UnitSuffix suffix_;
+  std::string caption_;
   FontChoice font_;
   std::size_t selectionStart_ = 0;
   std::size_t selectionLength_ = 0;

@@ -3,6 +3,7 @@
 #include "base/arithmetic.h"
 #include "base/number_text.h"
 #include "base/text.h"
+#include "core/help.h"
 #include "design/units.h"
 
 namespace orby {
@@ -14,7 +15,8 @@ std::string Rounded(double number) {
   return NumberText(RoundHalfEven(number * Thousandths) / Thousandths);
 }
 
-std::string ReadingText(const TextBox& field) {
+template <class Field>
+std::string ReadingText(const Field& field) {
   switch (field.Reading()) {
     case NumberReading::Whole: return {};
     case NumberReading::Partial:
@@ -33,7 +35,8 @@ std::string RangeText(const TextBox& field, std::string_view unit) {
 }
 
 // Returns the number in both unit systems: "400 ft = 121.92 m".
-std::string OtherUnitText(const TextBox& field, UnitSystem units) {
+template <class Field>
+std::string OtherUnitText(const Field& field, UnitSystem units) {
   const UnitSuffix suffix = field.Suffix();
   const NumberReading reading = field.Reading();
   if (suffix == UnitSuffix::None || reading == NumberReading::TooLarge || reading == NumberReading::Blank) return {};
@@ -44,9 +47,25 @@ std::string OtherUnitText(const TextBox& field, UnitSystem units) {
          std::string(UnitName(suffix, other));
 }
 
+// A list is not checked against a range.
+std::string RangeText(const Combo& /*list*/, std::string_view /*unit*/) { return {}; }
+
+template <class Field>
+std::vector<std::string> HintOf(const Program& program, const Field& field) {
+  if (!field.TakesNumber()) return {};
+  const UnitSystem units = program.project.WorkParms.Units;
+  const std::string_view unit = field.Suffix() == UnitSuffix::None ? "" : UnitName(field.Suffix(), units);
+  std::vector<std::string> lines{std::string(FieldCaption(field)), HelpSentence(program, field), RangeText(field, unit),
+                                 ReadingText(field), OtherUnitText(field, units)};
+  std::erase(lines, std::string());
+  return lines;
+}
+
 }  // namespace
 
 std::string_view FieldCaption(const Control& field) {
+  const auto* box = dynamic_cast<const TextBox*>(&field);
+  if (box != nullptr && !box->Caption().empty()) return box->Caption();
   std::string_view caption;
   for (const Control* control : field.Owner().Controls()) {
     if (control == &field) break;
@@ -55,14 +74,10 @@ std::string_view FieldCaption(const Control& field) {
   return caption;
 }
 
-std::vector<std::string> FieldHint(const Program& program, const TextBox& field) {
-  if (!field.TakesNumber()) return {};
-  const UnitSystem units = program.project.WorkParms.Units;
-  const std::string_view unit = field.Suffix() == UnitSuffix::None ? "" : UnitName(field.Suffix(), units);
-  std::vector<std::string> lines{std::string(FieldCaption(field)), RangeText(field, unit), ReadingText(field),
-                                 OtherUnitText(field, units)};
-  std::erase(lines, std::string());
-  return lines;
+std::vector<std::string> FieldHint(const Program& program, const Control& field) {
+  if (const auto* box = dynamic_cast<const TextBox*>(&field)) return HintOf(program, *box);
+  if (const auto* list = dynamic_cast<const Combo*>(&field)) return HintOf(program, *list);
+  return {};
 }
 
 }  // namespace orby

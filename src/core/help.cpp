@@ -24,6 +24,10 @@ void OpenFound(Program& program, std::string_view kind, std::string_view path, s
   }
 }
 
+std::string TopicOf(const Form& form, const Control& control) {
+  return std::string(form.Name()).append(".").append(control.Name());
+}
+
 template <class Open>
 void OpenHelp(Program& program, const Open& open) {
   OpenFound(program, "Help file", HelpFile, {}, open);
@@ -40,9 +44,13 @@ void OpenHelpIndex(Program& program) {
 }
 
 void OpenHelpTopic(Program& program, const Form& form, const Control* control) {
-  std::string topic(form.Name());
-  if (control != nullptr) topic.append(".").append(control->Name());
+  const std::string topic = control == nullptr ? std::string(form.Name()) : TopicOf(form, *control);
   OpenHelp(program, [&](const std::string& path) { return program.platform.help.ShowTopic(path, topic); });
+}
+
+std::string HelpSentence(const Program& program, const Control& control) {
+  const std::string path = AppDirectory(program.platform.files).append(HelpFile);
+  return program.platform.help.FirstSentence(path, TopicOf(control.Owner(), control));
 }
 
 void OpenDocument(Program& program, std::string_view kind, std::string_view path, std::string_view shown) {

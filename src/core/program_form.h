@@ -17,10 +17,7 @@ class ProgramForm : public Form {
   ProgramForm(Program& program, std::string_view name, std::string_view caption)
       : Form(name, caption), program_(program) {}
 
-  std::vector<std::string> HintOf(const Control& control) const override {
-    const auto* field = dynamic_cast<const TextBox*>(&control);
-    return field == nullptr ? std::vector<std::string>() : FieldHint(program_, *field);
-  }
+  std::vector<std::string> HintOf(const Control& control) const override { return FieldHint(program_, control); }
 
  protected:
   // Opens the topic of this form.

@@ -89,6 +89,7 @@ void OverlayEditing::Follow() {
   if (row_ < HeaderRows || column_ < NumberColumns) LeaveCell();
   box_.SetVisible(row_ != Nowhere);
   if (row_ == Nowhere) return box_.SetText({});
+  box_.SetCaption(grid_.Cell(HeaderRow, column_));
   box_.SetKind(kinds_[static_cast<std::size_t>(column_ - NumberColumns)]);
   box_.SetText(grid_.Cell(row_, column_));
 }

@@ -38,11 +38,11 @@ struct BoltControls {
   Frame ManualFrame{Dialog, Names[3], "Roof Bolt Manual Selection"};
   Frame DiameterFrame{Dialog, Names[4], "Roof Bolt Diameter", UnitSuffix::Diameter};
   OptionArray DiameterMode{Dialog, Names[5], {{StandardSelection}, {ManualInput}}};
-  Combo DiameterStd{Dialog, Names[6]};
+  Combo DiameterStd{Dialog, Names[6], UnitSuffix::Diameter};
   TextBox DiameterManual{Dialog, Names[7], TextKind::Free, UnitSuffix::Diameter};
   Frame GradeFrame{Dialog, Names[8], "Roof Bolt Yield Grade", UnitSuffix::Grade};
   OptionArray GradeMode{Dialog, Names[9], {{StandardSelection}, {ManualInput}}};
-  Combo GradeStd{Dialog, Names[10]};
+  Combo GradeStd{Dialog, Names[10], UnitSuffix::Grade};
   TextBox GradeManual{Dialog, Names[11], TextKind::Free, UnitSuffix::Grade};
 };
 
@@ -54,10 +54,10 @@ struct CableControls {
   Frame ModeFrame{Dialog, Names[0], "Capacity Determination"};
   OptionArray CapMode{
       Dialog, Names[1], {{"Cable Diameter", UnitSuffix::Diameter}, {"Cable Capacity", UnitSuffix::Force}}};
-  Combo Diam{Dialog, Names[2]};
+  Combo Diam{Dialog, Names[2], UnitSuffix::Diameter};
   Frame SpecificationFrame{Dialog, Names[3], "Capacity Specification"};
   OptionArray Capacity{Dialog, Names[4], {{StandardSelection}, {ManualInput}}};
-  Combo CapacityStd{Dialog, Names[5]};
+  Combo CapacityStd{Dialog, Names[5], UnitSuffix::Force};
   TextBox CapacityManual{Dialog, Names[6], TextKind::Free, UnitSuffix::Force};
 };
 

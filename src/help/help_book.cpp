@@ -116,11 +116,28 @@ const std::map<std::string, std::string, std::less<>>& HelpBook::Topics() {
   return *topics_;
 }
 
-std::string HelpBook::PlaceOf(std::string_view topic) {
-  for (const std::string_view name : {topic, ArrayOf(topic), FormOf(topic)}) {
+std::string HelpBook::OwnPlaceOf(std::string_view topic) {
+  for (const std::string_view name : {topic, ArrayOf(topic)}) {
     if (const auto found = Topics().find(name); found != Topics().end()) return found->second;
   }
+  return {};
+}
+
+std::string HelpBook::PlaceOf(std::string_view topic) {
+  for (const std::string_view name : {topic, FormOf(topic)}) {
+    if (std::string place = OwnPlaceOf(name); !place.empty()) return place;
+  }
   return FirstPage();
+}
+
+std::string HelpBook::FirstSentenceOf(std::string_view topic) {
+  const std::string place = OwnPlaceOf(topic);
+  if (place.empty()) return {};
+  const std::string page(PageOf(place));
+  auto found = sentences_.find(page);
+  if (found == sentences_.end()) found = sentences_.emplace(page, FirstSentences(TextOf(page))).first;
+  const auto sentence = found->second.find(place.substr(page.size() + 1));
+  return sentence == found->second.end() ? std::string() : sentence->second;
 }
 
 const std::vector<HelpBook::Page>& HelpBook::Pages() {

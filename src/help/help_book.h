@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "help/first_sentences.h"
+
 namespace orby {
 
 // A line of the contents. A heading has further lines below it, and may have no place.
@@ -70,6 +72,10 @@ class HelpBook {
   // page.
   std::string PlaceOf(std::string_view topic);
 
+  // Returns the first sentence about a control, such as "frmPENVParm.txtCMRR". A member of an array without a topic has
+  // that of its array. Empty for a control without a topic of its own, and for a topic that is not in a list.
+  std::string FirstSentenceOf(std::string_view topic);
+
   // Returns the pages that contain all these words, ordered by descending number of hits and then by title. Ignores
   // case. A word matches each word of a page that begins with it.
   std::vector<HelpHit> Search(std::string_view words);
@@ -85,11 +91,15 @@ class HelpBook {
   const std::map<std::string, std::string, std::less<>>& Topics();
   const std::vector<Page>& Pages();
 
+  // Returns the place of the topic or of its array. Empty if there is none.
+  std::string OwnPlaceOf(std::string_view topic);
+
   Reader read_;
   std::optional<std::vector<HelpEntry>> contents_;
   std::optional<std::vector<HelpKeyword>> index_;
   std::optional<std::map<std::string, std::string, std::less<>>> topics_;
   std::optional<std::vector<Page>> pages_;
+  std::map<std::string, Sentences, std::less<>> sentences_;  // by page
 };
 
 }  // namespace orby

@@ -91,6 +91,7 @@ class NoHelpViewer : public HelpViewer {
   bool ShowTopic(const std::string&, const std::string&) override { return false; }
   void Close() override {}
 };
+  std::string FirstSentence(const std::string&, const std::string&) override { return {}; }
 
 class NoFileTypes : public FileTypes {
  public:

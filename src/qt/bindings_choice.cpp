@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "qt/bindings.h"
+#include "qt/field_hints.h"
 #include "qt/marked_rows.h"
 #include "qt/mnemonics.h"
 #include "qt/pictures.h"
@@ -114,6 +115,7 @@ class ComboBinding : public QObject, public WidgetBinding<QComboBox, Combo> {
     widget_.setInsertPolicy(QComboBox::NoInsert);
     widget_.setCompleter(nullptr);
     widget_.installEventFilter(this);
+    if (combo.TakesNumber()) widget_.lineEdit()->installEventFilter(this);
     if (combo.Kind() == ComboKind::FreeText) {
       connect(&widget_, &QComboBox::editTextChanged, this, &ComboBinding::TakeText);
     } else {
@@ -134,8 +136,16 @@ class ComboBinding : public QObject, public WidgetBinding<QComboBox, Combo> {
   }
   bool RetainsSize() const override { return true; }
 
+  bool CanBeMarked() const override { return control_.TakesNumber(); }
+  void ShowMark() override {
+    if (hints_.IsOnView()) hints_.ShowMark(control_.Mark());
+  }
+
   // The wheel scrolls the dialog. It does not change a list under the pointer that has no focus.
   bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched != &widget_) return event->type() == QEvent::Paint && hints_.Paint(event);
+    if (event->type() == QEvent::ToolTip) return hints_.ShowHint(*dynamic_cast<QHelpEvent*>(event));
+    if (event->type() == QEvent::FocusIn && control_.TakesNumber()) hints_.Describe();
     if (event->type() == QEvent::Wheel && !widget_.hasFocus()) {
       event->ignore();
       return true;
@@ -196,6 +206,7 @@ class ComboBinding : public QObject, public WidgetBinding<QComboBox, Combo> {
     widget_.lineEdit()->setCursorPosition(cursor);
   }
 
+  FieldHints hints_{control_, widget_, *widget_.lineEdit()};
   bool isTyped_ = false;  // applies to the next change of the text
 };
 

@@ -1,5 +1,4 @@
 // Bindings of captions, buttons and text boxes.
-#include <QAccessible>
 #include <QApplication>
 #include <QGroupBox>
 #include <QInputMethodEvent>
@@ -9,12 +8,11 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <QToolTip>
 #include <algorithm>
 #include <utility>
 
 #include "qt/bindings.h"
-#include "qt/field_mark.h"
+#include "qt/field_hints.h"
 #include "qt/find_bar.h"
 #include "qt/mnemonics.h"
 #include "qt/report_view.h"
@@ -102,30 +100,17 @@ class LineEditBinding : public QObject, public WidgetBinding<QLineEdit, TextBox>
   bool RetainsSize() const override { return true; }
 
   bool CanBeMarked() const override { return control_.Kind() != TextKind::Output; }
-  // A field that is not on view is marked when it comes on view.
   void ShowMark() override {
-    if (!widget_.isVisible() && widget_.window()->isVisible()) return;
-    const FieldMark mark = control_.Mark();
-    const bool isOther = mark != mark_;
-    if (isOther) {
-      mark_ = mark;
-      widget_.update();
-    }
-    if (isOther || QAccessible::isActive()) Describe();
+    if (hints_.IsOnView()) hints_.ShowMark(control_.Mark());
   }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() == QEvent::Paint && mark_ != FieldMark::None) {
-      // The filter runs before the field, which must paint itself first.
-      static_cast<QObject&>(widget_).event(event);
-      PaintMark(widget_, mark_);
-      return true;
-    }
-    if (event->type() == QEvent::ToolTip) return ShowHint(*dynamic_cast<QHelpEvent*>(event));
+    if (event->type() == QEvent::Paint) return hints_.Paint(event);
+    if (event->type() == QEvent::ToolTip) return hints_.ShowHint(*dynamic_cast<QHelpEvent*>(event));
     if (event->type() == QEvent::FocusOut) {
       isLent_ = IsLending(*dynamic_cast<QFocusEvent*>(event));
     } else if (event->type() == QEvent::FocusIn) {
-      Describe();
+      if (control_.TakesNumber()) hints_.Describe();
       const bool comesBack = isLent_ && IsLending(*dynamic_cast<QFocusEvent*>(event));
       // Delayed, because the mouse press that gave the focus would clear the selection.
       if (!comesBack) QMetaObject::invokeMethod(&widget_, &QLineEdit::selectAll, Qt::QueuedConnection);
@@ -138,26 +123,6 @@ class LineEditBinding : public QObject, public WidgetBinding<QLineEdit, TextBox>
   }
 
  private:
-  QStringList Hint() const {
-    QStringList lines;
-    for (const std::string& line : control_.Owner().HintOf(control_)) lines.append(ToQt(line));
-    return lines;
-  }
-
-  bool ShowHint(const QHelpEvent& event) {
-    const QStringList lines = Hint();
-    if (lines.isEmpty()) return false;
-    QToolTip::showText(event.globalPos(), lines.join('\n'), &widget_);
-    return true;
-  }
-
-  // The name of the field is its caption, which the description does not repeat.
-  void Describe() {
-    if (ShowsControlNames() || !control_.TakesNumber()) return;
-    const QString description = Hint().mid(1).join(". ");
-    if (description != widget_.accessibleDescription()) widget_.setAccessibleDescription(description);
-  }
-
   // Returns true if the focus goes to a menu of the field or to another window, or returns from there.
   static bool IsLending(const QFocusEvent& focus) {
     return focus.reason() == Qt::PopupFocusReason || focus.reason() == Qt::ActiveWindowFocusReason;
@@ -196,9 +161,9 @@ class LineEditBinding : public QObject, public WidgetBinding<QLineEdit, TextBox>
     return true;
   }
 
+  FieldHints hints_{control_, widget_, widget_};
   bool isLent_ = false;
-  FieldMark mark_ = FieldMark::None;  // as shown
-  bool isTaking_ = false;             // true while the characters of a composed text are taken one by one
+  bool isTaking_ = false;  // true while the characters of a composed text are taken one by one
 };
 
 // A text of several lines. An output shows its top, or its selection if there is one.

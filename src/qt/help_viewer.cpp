@@ -7,7 +7,6 @@
 #include <QMessageBox>
 #include <QScreen>
 
-#include "help/chm_file.h"
 #include "qt/help_place.h"
 #include "qt/window_frame.h"
 
@@ -61,6 +60,16 @@ bool QtHelpViewer::ShowIndex(const std::string& path) {
 
 bool QtHelpViewer::ShowTopic(const std::string& path, const std::string& topic) {
   return Show(path, [&topic](HelpWindow& window) { window.ShowTopic(topic); });
+}
+
+QtHelpViewer::Source::Source(const std::string& path)
+    : Path(path),
+      File(ChmFile::Open(path)),
+      Book([this](const std::string& name) { return File == nullptr ? std::nullopt : File->Read(name); }) {}
+
+std::string QtHelpViewer::FirstSentence(const std::string& path, const std::string& topic) {
+  if (source_ == nullptr || source_->Path != path) source_ = std::make_unique<Source>(path);
+  return source_->Book.FirstSentenceOf(topic);
 }
 
 void QtHelpViewer::Close() {

@@ -9,8 +9,11 @@
 #include <QObject>
 #include <QPointer>
 #include <functional>
+#include <memory>
 #include <string>
 
+#include "help/chm_file.h"
+#include "help/help_book.h"
 #include "platform/help_viewer.h"
 #include "qt/help_window.h"
 
@@ -24,6 +27,7 @@ class QtHelpViewer : public QObject, public HelpViewer {
   bool ShowContents(const std::string& path) override;
   bool ShowIndex(const std::string& path) override;
   bool ShowTopic(const std::string& path, const std::string& topic) override;
+  std::string FirstSentence(const std::string& path, const std::string& topic) override;
   void Close() override;
 
   // Returns the window while it is open.
@@ -32,6 +36,15 @@ class QtHelpViewer : public QObject, public HelpViewer {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  // The book that sentences are read from, opened when one is first needed.
+  struct Source {
+    explicit Source(const std::string& path);
+
+    std::string Path;
+    std::unique_ptr<ChmFile> File;  // null if it is no help file
+    HelpBook Book;
+  };
+
   bool Show(const std::string& path, const std::function<void(HelpWindow&)>& show);
   bool MakeWindow(const std::string& path);
   void BelongTo(QWidget* host);
@@ -40,6 +53,7 @@ class QtHelpViewer : public QObject, public HelpViewer {
   void RaiseAgain();
   bool Closed();
 
+  std::unique_ptr<Source> source_;
   QPointer<HelpWindow> window_;
   QPointer<QWidget> host_;
   std::string path_;

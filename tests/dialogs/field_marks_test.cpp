@@ -36,9 +36,7 @@ struct FieldMarks : AParametersDialog {
     platform.boxes.shown.clear();
     return opened;
   }
-  std::vector<std::string> Hint(std::string_view name) const {
-    return FieldHint(program, dynamic_cast<const TextBox&>(*dialog.Find(name)));
-  }
+  std::vector<std::string> Hint(std::string_view name) const { return FieldHint(program, *dialog.Find(name)); }
 };
 
 TEST_F(FieldMarks, LeaveAValidDesignAlone) {
@@ -182,6 +180,46 @@ TEST_F(FieldMarks, AreExplainedByTheHint) {
   EXPECT_THAT(Hint("txtRockLoadHeight"),
               ElementsAre("Rock Load Height (ft)", "Out of range: above 0 ft", "Blank is read as 0"));
   EXPECT_THAT(Hint("txtEntryWidth"), testing::Contains("\"1E40\" is too large"));
+}
+
+TEST_F(FieldMarks, AreExplainedByWhatTheHelpSaysAboutTheField) {
+  platform.help.sentences = {{"frmPENVParm.txtCMRR", "The rating of the roof."},
+                             {"frmPENVParm.cmbBoltGradePrimary", "The strength of the steel."}};
+  dialog.Open();
+
+  EXPECT_THAT(Hint("txtCMRR"), ElementsAre("CMRR", "The rating of the roof.", "Range: above 0, below 100"));
+  EXPECT_THAT(Hint("cmbBoltGradePrimary"),
+              ElementsAre("Roof Bolt Yield Grade (ksi)", "The strength of the steel.", "75 ksi = 517.107 MPa"));
+}
+
+TEST_F(FieldMarks, OfListsOfNumbersShowTextsThatAreNone) {
+  dialog.Open();
+  const auto mark = [&](std::string_view list, const char* text) {
+    auto& combo = dynamic_cast<Combo&>(*dialog.Find(list));
+    combo.SetText(text);
+    return combo.Mark();
+  };
+
+  EXPECT_EQ(mark("cmbBoltDiameterPrimary", "0.75"), FieldMark::None);
+  EXPECT_EQ(mark("cmbBoltDiameterPrimary", "0,75"), FieldMark::PartlyRead);
+  EXPECT_THAT(Hint("cmbBoltDiameterPrimary"), testing::Contains("\"0,75\" is read as 0"));
+  EXPECT_EQ(mark("cmbBoltGradePrimary", "1E40"), FieldMark::OutOfRange);
+  EXPECT_EQ(mark("cmbCableDiamSecEntry", ""), FieldMark::None) << "nothing is chosen yet";
+  EXPECT_EQ(mark("cmbSupportTypeSecEntry", "9,5 in wood"), FieldMark::None) << "its items are no numbers";
+}
+
+TEST_F(FieldMarks, OfTheTablesInTheOptionsNameTheColumn) {
+  platform.help.sentences = {{"frmTULKOpts.txtCableEng", "A diameter or a capacity."}};
+  OptionsDialog options(program);
+  options.Open();
+  const auto hint = [&] { return FieldHint(program, *options.Find("txtCableEng")); };
+
+  EXPECT_THAT(hint(), ElementsAre(options.VSFlexGridEng.Cell(0, 1), "A diameter or a capacity."));
+  options.VSFlexGridEng.SelectCell(1, 2);
+  EXPECT_THAT(hint(), ElementsAre(options.VSFlexGridEng.Cell(0, 2), "A diameter or a capacity."));
+
+  options.txtCableEng.SetText("26,4");
+  EXPECT_EQ(options.txtCableEng.Mark(), FieldMark::PartlyRead);
 }
 
 TEST_F(FieldMarks, AreExplainedInMetricUnits) {

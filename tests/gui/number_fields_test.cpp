@@ -1,9 +1,12 @@
 // The list of number fields with which the desktop test of typing checks that it has reached all of them.
+#include <QDir>
+#include <algorithm>
 #include <set>
 #include <sstream>
 
 #include "gui/forms.h"
 #include "gui/gui_bench.h"
+#include "gui/help_bench.h"
 #include "support/test_data.h"
 
 namespace orby::test {
@@ -63,6 +66,29 @@ TEST_F(NumberFields, AreAllInTheListOfTheTypingTest) {
   for (std::string line; std::getline(lines, line);) listed.insert(line);
 
   EXPECT_THAT(listed, ElementsAreArray(fields));
+}
+
+// The sentence is the first line of the field's hint after its caption.
+TEST_F(NumberFields, AreAllExplainedByTheFirstSentenceOfTheirHelp) {
+  Sentences sentences;
+  const QDir pages(ToQt(HelpFolder + "/pages"));
+  for (const QString& name : pages.entryList({"*.html"}, QDir::Files)) {
+    sentences.merge(FirstSentences(FileBytes(FromQt(pages.filePath(name))).toStdString()));
+  }
+
+  std::istringstream lines(ReadTestData("number_fields.txt"));
+  for (std::string line; std::getline(lines, line);) {
+    std::string topic = line;
+    topic[topic.find(' ')] = '.';
+    const auto own = sentences.find(topic);
+    const auto found = own != sentences.end() ? own : sentences.find(topic.substr(0, topic.find_last_of('_')));
+    ASSERT_NE(found, sentences.end()) << topic;
+    const std::string& sentence = found->second;
+    EXPECT_GE(std::ranges::count(sentence, ' '), 2) << topic << ": " << sentence;
+    for (const char* start : {"In ", "Range", "Default", "See ", "The same"}) {
+      EXPECT_FALSE(sentence.starts_with(start)) << topic << ": " << sentence;
+    }
+  }
 }
 
 }  // namespace

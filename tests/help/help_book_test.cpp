@@ -55,6 +55,50 @@ HelpBook MineBook() {
   });
 }
 
+// ---- first sentences ------------------------------------------------------------------------------------------------
+
+TEST(FirstSentences, AreTakenFromTheDescriptionsByTheirAnchors) {
+  const Sentences sentences = FirstSentences(
+      "<p><a name=\"graph-marks\"></a>Marks.</p><dl>"
+      "<dt><a name=\"frmA.txtCover\"></a><a name=\"frmA.cmbCover\"></a><b>Cover</b></dt>"
+      "<dd><p>The <b>thickness</b> of\nrock &amp; soil, 1.5 ft or <a href=\"x.html\">more</a>. A second "
+      "one.</p><p>Third.</p>"
+      "</dd><dt><a name=\"frmA.txtWidth\"></a><b>Width</b></dt>\n<dd>Rib to rib</dd></dl>");
+
+  EXPECT_THAT(sentences, testing::UnorderedElementsAre(
+                             testing::Pair("frmA.txtCover", "The thickness of rock & soil, 1.5 ft or more."),
+                             testing::Pair("frmA.cmbCover", "The thickness of rock & soil, 1.5 ft or more."),
+                             testing::Pair("frmA.txtWidth", "Rib to rib")));
+}
+
+TEST(FirstSentences, AreTakenFromTheCellsOfTables) {
+  EXPECT_THAT(
+      FirstSentences("<table><tr><th>Field</th></tr><tr><td><a name=\"frmA.txtCover\"></a><b>Cover</b> of a new "
+                     "project</td><td>400 ft</td></tr></table>"),
+      testing::ElementsAre(testing::Pair("frmA.txtCover", "Cover of a new project")));
+}
+
+TEST(FirstSentences, ServeSeveralTermsWithOneDescription) {
+  EXPECT_THAT(FirstSentences("<dl><dt><a name=\"a\"></a>A<dt><a name=\"b\"></a>B<dd>Both.<dt><a name=\"c\"></a>C<dd>"
+                             "<p></p><p>The last"),
+              testing::UnorderedElementsAre(testing::Pair("a", "Both."), testing::Pair("b", "Both."),
+                                            testing::Pair("c", "The last")));
+}
+
+TEST(FirstSentences, AreFoundByTheTopicOrItsArray) {
+  HelpBook book =
+      BookOf({{"topics.txt", "frmA\ta.html\nfrmA.Text1\ta.html\nfrmA.Text2\ta.html\n"},
+              {"a.html", "<a name=\"frmA\"></a><dl><dt><a name=\"frmA.Text1\"></a><dd>The load. More.</dl>"}});
+
+  EXPECT_EQ(book.FirstSentenceOf("frmA.Text1"), "The load.");
+  EXPECT_EQ(book.FirstSentenceOf("frmA.Text1_2"), "The load.");
+  EXPECT_EQ(book.FirstSentenceOf("frmA.Text2"), "") << "its topic is not in the page";
+  EXPECT_EQ(book.FirstSentenceOf("frmA.Text3"), "");
+  EXPECT_EQ(book.FirstSentenceOf("frmA"), "");
+}
+
+TEST(FirstSentences, OfABookThatIsNoHelpFileAreEmpty) { EXPECT_EQ(BookOf({}).FirstSentenceOf("frmA.Text1"), ""); }
+
 // ---- contents and index --------------------------------------------------------------------------------------------
 
 TEST(HelpContents, AreATreeOfHeadingsAndPages) {

@@ -159,6 +159,11 @@ bool RecordingHelp::ShowTopic(const std::string& path, const std::string& topic)
 }
 
 void RecordingHelp::Close() { shown.emplace_back("close"); }
+std::string RecordingHelp::FirstSentence(const std::string&, const std::string& topic) {
+  const auto found = sentences.find(topic);
+  return found == sentences.end() ? std::string() : found->second;
+}
+
 
 bool RecordingHelp::Take(std::string call) {
   shown.push_back(std::move(call));

@@ -173,9 +173,11 @@ class RecordingHelp : public HelpViewer {
   bool ShowIndex(const std::string& path) override;
   bool ShowTopic(const std::string& path, const std::string& topic) override;
   void Close() override;
+  std::string FirstSentence(const std::string& path, const std::string& topic) override;
 
   std::vector<std::string> shown;
   bool opens = true;
+  std::map<std::string, std::string> sentences;  // by topic
 
  private:
   bool Take(std::string call);
