@@ -96,6 +96,12 @@ struct UnsavedProject {
   bool UnitsLocked = false;
   Design WorkParms;  // the committed design
 };
+// Where the results window was left in this run, and whether it opens there.
+struct ResultsPlace {
+  bool IsWanted = false;
+  Integer Page = 0;
+};
+
 
 // The open project and the state of its file.
 struct Project : UnsavedProject {
@@ -145,6 +151,7 @@ struct Program {
   explicit Program(Platform platformGiven) : platform(platformGiven) {}
 
   Platform platform;
+  ResultsPlace results;
   Project project;
   Session session;
   WindowState windows;

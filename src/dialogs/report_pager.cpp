@@ -18,8 +18,8 @@ ReportPager::ReportPager(Program& program, const PageControls& controls) : progr
   controls_.Copy.Click = [this] { CopyPage(); };
 }
 
-void ReportPager::Restart() {
-  page_ = 0;
+void ReportPager::Restart(Integer page) {
+  page_ = page <= program_.windows.LastPage ? page : Integer{0};
   Turn(0);
 }
 

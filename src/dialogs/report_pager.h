@@ -30,8 +30,8 @@ class ReportPager {
   // Connects the controls of a window. They must outlive the pager.
   ReportPager(Program& program, const PageControls& controls);
 
-  // Goes back to page 0.
-  void Restart();
+  // Shows page 0, or this one if the report has it.
+  void Restart(Integer page = 0);
   // Shows the current page from its top.
   void Loadbuffer();
   Integer Page() const { return page_; }

@@ -48,12 +48,15 @@ void ResultsWindow::OnOpen() {
   program_.platform.windows.ShowMainWindow(false);
   lstGraphs.Fill(CurveItems());
   lstGraphs.SetVisible(false);
-  pager_.Restart();
+  ResultsPlace& place = program_.windows.results;
+  chkWhereLeft.SetValue(place.IsWanted ? 1 : 0);
+  pager_.Restart(place.IsWanted ? place.Page : Integer{0});
   AddHistoryLine(program_, "Results displayed");
   program_.platform.windows.CenterForm(*this);
 }
 
 void ResultsWindow::OnClose() {
+  program_.windows.results = {chkWhereLeft.Checked(), pager_.Page()};
   if (graph_) graph_->Close();
   program_.platform.windows.ShowMainWindow(true);
 }

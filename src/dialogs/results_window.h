@@ -26,6 +26,7 @@ class ResultsWindow : public ProgramForm {
   Button Command6{*this, "Command6", "Print &All"};
   Button Command9{*this, "Command9", "&View Plots"};
   Button cmdGraph{*this, "cmdGraph", "Generate Graphs"};
+  CheckBox chkWhereLeft{*this, "chkWhereLeft", "&Open where it was left"};
   Button cmdChangeInput{*this, "cmdChangeInput", "Change &Input", [this] { ChangeInput(); }};
   Button Command8{*this, "Command8", "Help", [this] { ShowHelp(); }};
   Button Command1{*this, "Command1", page_caption::Close, [this] { Close(); }};

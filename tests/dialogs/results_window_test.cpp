@@ -60,6 +60,7 @@ TEST_F(AResultsWindow, HasItsCaptions) {
   EXPECT_EQ(window.Command9.Caption(), "&View Plots");
   EXPECT_EQ(window.cmdGraph.Caption(), "Generate Graphs");
   EXPECT_EQ(window.cmdChangeInput.Caption(), "Change &Input");
+  EXPECT_EQ(window.chkWhereLeft.Caption(), "&Open where it was left");
 }
 
 // ---- opening and closing --------------------------------------------------------------------------------------------
@@ -97,6 +98,39 @@ TEST_F(AResultsWindow, OpensOnTheFirstPageAgain) {
   EXPECT_TRUE(window.Command4.Enabled());
   EXPECT_FALSE(window.Command5.Enabled());
   EXPECT_FALSE(window.lstGraphs.Visible());
+}
+
+TEST_F(AResultsWindow, OpensWhereItWasLeftIfTheUserWantsThat) {
+  window.Open();
+  EXPECT_FALSE(window.chkWhereLeft.Checked());
+  window.chkWhereLeft.SetValue(1);
+  window.Command4.Press();
+  window.Close();
+
+  ResultsWindow next(program);
+  next.Open();
+
+  EXPECT_TRUE(next.chkWhereLeft.Checked());
+  EXPECT_EQ(next.RichTextBox1.Text(), "calculations\r\n");
+  EXPECT_FALSE(next.Command4.Enabled());
+  EXPECT_TRUE(next.Command5.Enabled());
+
+  next.chkWhereLeft.SetValue(0);
+  next.Close();
+  window.Open();
+  EXPECT_EQ(window.RichTextBox1.Text(), "inputs\r\n");
+}
+
+TEST_F(AResultsWindow, OpensOnTheFirstPageOfAReportWithoutThePageWhereItWasLeft) {
+  window.Open();
+  window.chkWhereLeft.SetValue(1);
+  window.Command4.Press();
+  window.Close();
+  program.windows.LastPage = 0;
+
+  window.Open();
+
+  EXPECT_EQ(window.RichTextBox1.Text(), "inputs\r\n");
 }
 
 TEST_F(AResultsWindow, IsShownUntilItIsClosed) {

@@ -1,4 +1,5 @@
 // The results window as its user sees it.
+#include <QCheckBox>
 #include <QClipboard>
 #include <QFontInfo>
 #include <QFontMetrics>
@@ -51,6 +52,25 @@ TEST_F(ResultsView, TurnsPagesByTheirLetters) {
     EXPECT_THAT(first, StartsWith("ORBY module build: 201030\n"));
     EXPECT_THAT(second, StartsWith("[ORBY CALCULATIONS]\n"));
     EXPECT_THAT(TextOn(window, "RichTextBox1"), Eq(first));
+    Press(Qt::Key_Escape);
+  });
+}
+
+TEST_F(ResultsView, OpensOnItsFirstPageUnlessItIsAskedToOpenWhereItWasLeft) {
+  UseResults([&](QDialog& window) {
+    EXPECT_FALSE(Find<QCheckBox>(window, "chkWhereLeft").isChecked());
+    PressLetterOf(window, "Command4");
+    Press(Qt::Key_Escape);
+  });
+  UseResults([&](QDialog& window) {
+    EXPECT_EQ(TextOn(window, "lblPage"), "Page 1 of 2");
+    PressLetterOf(window, "chkWhereLeft");
+    PressLetterOf(window, "Command4");
+    Press(Qt::Key_Escape);
+  });
+  UseResults([&](QDialog& window) {
+    EXPECT_TRUE(Find<QCheckBox>(window, "chkWhereLeft").isChecked());
+    EXPECT_EQ(TextOn(window, "lblPage"), "Page 2 of 2");
     Press(Qt::Key_Escape);
   });
 }
