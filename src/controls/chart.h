@@ -1,6 +1,7 @@
 // A chart of lines and symbols over two axes.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <functional>
 #include <optional>
@@ -15,11 +16,13 @@ struct ChartSeries {
   std::vector<double> x;
   std::vector<double> y;
   std::string legend;
-  int colour = 0;  // blue * 65536 + green * 256 + red
-  int width = 1;   // of the line
+  std::string shortName;  // for the read-out and the columns of tables
+  int colour = 0;         // blue * 65536 + green * 256 + red
+  int width = 1;          // of the line
   bool hasLine = true;
   bool hasSymbols = true;
   int symbolSize = 1;
+  bool isKept = false;  // an earlier curve, drawn dashed for comparison
   bool operator==(const ChartSeries&) const = default;
 };
 
@@ -70,8 +73,11 @@ class Chart : public Control {
   void SetAxisX(ChartAxis axis) { Mirror(axes_[0], std::move(axis)); }
   const ChartAxis& AxisY() const { return axes_[1]; }
   void SetAxisY(ChartAxis axis) { Mirror(axes_[1], std::move(axis)); }
+  // Whether the user wants a legend.
   bool LegendShown() const { return legendShown_; }
   void SetLegendShown(bool shown) { Mirror(legendShown_, shown); }
+  // A chart with kept curves always has a legend, because nothing else names them.
+  bool HasLegend() const { return legendShown_ || std::ranges::any_of(series_, &ChartSeries::isKept); }
   const std::vector<ChartSeries>& Series() const { return series_; }
   void SetSeries(std::vector<ChartSeries> series) { Mirror(series_, std::move(series)); }
 

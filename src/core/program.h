@@ -52,6 +52,14 @@ struct EstimatorState {
   EstimatorCaller CallerCode = EstimatorCaller::None;  // kept, but nothing reads it
 };
 
+// A curve that is kept for comparison.
+struct KeptCurve : Curve {
+  Integer Number = 0;  // unique in this run
+  Integer CurveIndex = 0;
+  UnitSystem Units = English;
+  std::optional<CurvePoint> Own;
+};
+
 // The curve that was drawn last.
 struct DrawnCurve : Curve {
   Integer CurveIndex = 0;
@@ -59,6 +67,8 @@ struct DrawnCurve : Curve {
   bool GraphClosed = false;       // the graph window was open and has been closed
   std::optional<CurvePoint> Own;  // of the design that the curve was computed from
   std::vector<CurveReference> References;
+  std::vector<KeptCurve> Kept;  // the oldest first
+  Integer LastKept = 0;         // the number of the last one kept
 };
 
 // The input dialog that requested the report that is shown.
@@ -86,6 +96,12 @@ struct FileOnDisk {
   std::string SpoiltBytes{};  // the bytes that the failed save left, as far as they could be read
 };
 
+// Where the results window was left in this run, and whether it opens there.
+struct ResultsPlace {
+  bool IsWanted = false;
+  Integer Page = 0;
+};
+
 // The part of a project that is kept when its changes were not saved.
 struct UnsavedProject {
   std::string CurrentFile{UntitledName};
@@ -96,12 +112,6 @@ struct UnsavedProject {
   bool UnitsLocked = false;
   Design WorkParms;  // the committed design
 };
-// Where the results window was left in this run, and whether it opens there.
-struct ResultsPlace {
-  bool IsWanted = false;
-  Integer Page = 0;
-};
-
 
 // The open project and the state of its file.
 struct Project : UnsavedProject {
@@ -141,6 +151,7 @@ struct WindowState {
   DrawnCurve curve;
   Integer LastPage = 4;
   InputDialog ReportCaller = InputDialog::None;
+  ResultsPlace results;
   Integer OptionsTab = 0;  // the last page of the options dialog
   Integer RecentMode = 0;
   bool DialogOpen = false;
@@ -151,7 +162,6 @@ struct Program {
   explicit Program(Platform platformGiven) : platform(platformGiven) {}
 
   Platform platform;
-  ResultsPlace results;
   Project project;
   Session session;
   WindowState windows;

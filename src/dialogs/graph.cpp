@@ -1,6 +1,8 @@
 #include "dialogs/graph.h"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -73,15 +75,20 @@ GridLines LinesOf(const Chart& chart) {
 
 Integer DependentVariable(Integer curveIndex) { return NumberOf(SubjectOfCurve(curveIndex).Figure); }
 
+AxisTitles ComposedTitles(Integer curveIndex, UnitSystem units) {
+  const CurveSubject& subject = SubjectOfCurve(curveIndex);
+  const Dependent& dependent = DependentOf(curveIndex);
+  return {TitleOf(subject.Independent, subject.IndependentMeasure, units),
+          TitleOf(dependent.label, dependent.measure, units)};
+}
+
 void ComposeAxisTitles(Program& program) {
   GraphSettings& graph = program.session.graph;
   const UnitSystem units = program.project.WorkParms.Units;
   for (Integer i = 0; i < CurveCount; ++i) {
-    const CurveSubject& subject = SubjectOfCurve(i);
-    graph.XAxisTitle[static_cast<std::size_t>(i)] = TitleOf(subject.Independent, subject.IndependentMeasure, units);
-  }
-  for (std::size_t i = 0; i < Dependents.size(); ++i) {
-    graph.YAxisTitle[i] = TitleOf(Dependents[i].label, Dependents[i].measure, units);
+    AxisTitles titles = ComposedTitles(i, units);
+    graph.XAxisTitle[static_cast<std::size_t>(i)] = std::move(titles.X);
+    graph.YAxisTitle[static_cast<std::size_t>(DependentVariable(i))] = std::move(titles.Y);
   }
   graph.GraphUnits = program.project.WorkParms.Units;
 }
@@ -103,9 +110,20 @@ std::string ReformattedLegendText(Integer curveIndex, Integer series) {
   return SubjectOfCurve(curveIndex).Figure == CurveFigure::Support ? name : name + NumberText(series);
 }
 
+std::string DependentName(Integer curveIndex) { return std::string(DependentOf(curveIndex).label); }
+
+ChartSeries PointsOf(const Curve& curve) {
+  const auto count = static_cast<std::size_t>(curve.CurvePointCount);
+  const auto& [xs, ys] = curve.CurvePoints;
+  if (count > xs.size() || count > ys.size()) throw RuntimeError(error_number::Subscript);
+  ChartSeries series;
+  std::copy_n(xs.begin(), count, std::back_inserter(series.x));
+  std::copy_n(ys.begin(), count, std::back_inserter(series.y));
+  return series;
+}
+
 std::string CurveTitle(Integer curveIndex) {
-  const std::string dependent(DependentOf(curveIndex).label);
-  return dependent + " vs " + std::string(SubjectOfCurve(curveIndex).Independent);
+  return DependentName(curveIndex) + " vs " + std::string(SubjectOfCurve(curveIndex).Independent);
 }
 
 std::string OwnPointName(Integer curveIndex) {
@@ -128,6 +146,7 @@ void ApplyTitlesAndGrid(const GraphSettings& graph, Integer curveIndex, Chart& c
 
 void ApplyStyle(const GraphSettings& graph, ChartSeries& series) {
   series.width = graph.SymbolSize;
+  if (series.isKept) return;
   series.symbolSize = graph.SymbolSize;
   series.hasLine = graph.GraphStyle != CurveStyle::SymbolsOnly;
   series.hasSymbols = graph.GraphStyle != CurveStyle::LinesOnly;
@@ -140,7 +159,8 @@ void Reformat(const GraphSettings& graph, Integer curveIndex, Chart& chart) {
   Integer number = 0;
   for (ChartSeries& series : all) {
     ApplyStyle(graph, series);
-    series.legend = ReformattedLegendText(curveIndex, ++number);
+    ++number;
+    if (!series.isKept) series.legend = ReformattedLegendText(curveIndex, number);
   }
   chart.SetSeries(std::move(all));
 }

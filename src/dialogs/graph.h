@@ -29,8 +29,21 @@ std::string LegendText(Integer curveIndex);
 std::string ShortCurveName(Integer curveIndex);
 // Returns the legend of a series, counted from 1, in a chart whose format has changed: rock loads are numbered.
 std::string ReformattedLegendText(Integer curveIndex, Integer series);
+// Returns the variable that the curve shows, such as "Suggested PSUP".
+std::string DependentName(Integer curveIndex);
 // Returns the curve in words, such as "Suggested PSUP vs Depth of Cover".
 std::string CurveTitle(Integer curveIndex);
+
+// Returns the titles of both axes as they are composed: the variables' labels with the units.
+struct AxisTitles {
+  std::string X;
+  std::string Y;
+};
+AxisTitles ComposedTitles(Integer curveIndex, UnitSystem units);
+
+// Returns the computed points, with both coordinates in double precision. Throws RuntimeError 9 if there are fewer than
+// the curve says.
+ChartSeries PointsOf(const Curve& curve);
 
 // Returns the name of the design's own point on a curve.
 std::string OwnPointName(Integer curveIndex);
@@ -39,9 +52,10 @@ std::string ReferenceName(const CurveReference& reference);
 
 // Sets the chart's titles and grid lines for one curve. Throws RuntimeError 9 outside 0..9.
 void ApplyTitlesAndGrid(const GraphSettings& graph, Integer curveIndex, Chart& chart);
-// Sets the line and symbols of a series by graph style and symbol size.
+// Sets the line and symbols of a series by graph style and symbol size. A kept series stays a line.
 void ApplyStyle(const GraphSettings& graph, ChartSeries& series);
-// Applies the whole format to a chart that is already drawn. The legend texts change with it.
+// Applies the whole format to a chart that is already drawn. The legend texts change with it, except those of kept
+// series.
 void Reformat(const GraphSettings& graph, Integer curveIndex, Chart& chart);
 
 // Reads the format back from the chart. A chart without series leaves the symbol size unchanged.

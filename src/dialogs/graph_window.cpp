@@ -1,7 +1,6 @@
 #include "dialogs/graph_window.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -10,8 +9,13 @@
 #include "base/runtime_error.h"
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
+#include "dialogs/chart_scene.h"
+#include "dialogs/curve_table.h"
 #include "dialogs/graph.h"
 #include "dialogs/graph_options_dialog.h"
+#include "dialogs/kept_curves.h"
+#include "dialogs/save_in_format.h"
+#include "drawings/scene_svg.h"
 #include "reports/printing.h"
 
 namespace orby {
@@ -23,17 +27,6 @@ enum class GraphOptionsEntry : Integer { PointID, BasicOptions };
 constexpr double ReadOutDistance = 4;  // pixels
 constexpr double HoleValue = 1e308;    // marks a missing point
 constexpr NumberPattern CoordinateFormat{"##0.00"};
-
-// Returns the computed points, with both coordinates in double precision.
-ChartSeries PointsOf(const Curve& curve) {
-  const auto count = static_cast<std::size_t>(curve.CurvePointCount);
-  const auto& [xs, ys] = curve.CurvePoints;
-  if (count > xs.size() || count > ys.size()) throw RuntimeError(error_number::Subscript);
-  ChartSeries series;
-  std::copy_n(xs.begin(), count, std::back_inserter(series.x));
-  std::copy_n(ys.begin(), count, std::back_inserter(series.y));
-  return series;
-}
 
 bool IsPoint(const std::vector<ChartSeries>& all, const ChartHit& hit) {
   if (hit.series < 0 || static_cast<std::size_t>(hit.series) >= all.size() || hit.point < 0) return false;
@@ -96,13 +89,42 @@ void GraphWindow::DrawCurve() {
     ChartSeries series = PointsOf(curve);
     series.colour = CurveColors(number);
     series.legend = LegendText(curve.CurveIndex);
+    series.shortName = ShortCurveName(curve.CurveIndex);
     ApplyStyle(program_.session.graph, series);
+    drawn.push_back(std::move(series));
+  }
+  DrawWithKept(std::move(drawn));
+  MarkDesign();
+  graph1.SetLegendShown(program_.session.graph.CurveLegend == 1);
+}
+
+void GraphWindow::DrawWithKept(std::vector<ChartSeries> drawn) {
+  const DrawnCurve& curve = program_.windows.curve;
+  const UnitSystem units = program_.project.WorkParms.Units;
+  for (ChartSeries& series : KeptSeries(curve, units, program_.session.graph.SymbolSize)) {
     drawn.push_back(std::move(series));
   }
   graph1.SetReadPoint({});
   graph1.SetSeries(std::move(drawn));
-  MarkDesign();
-  graph1.SetLegendShown(program_.session.graph.CurveLegend == 1);
+  cmdKeep.SetEnabled(MayKeep(curve, units));
+  cmdForget.SetEnabled(!curve.Kept.empty());
+  lblKept.SetCaption(KeptSummary(curve, units));
+}
+
+void GraphWindow::Keep() {
+  KeepCurve(program_.windows.curve, program_.project.WorkParms.Units);
+  DrawKeptAnew();
+}
+
+void GraphWindow::ForgetKept() {
+  program_.windows.curve.Kept.clear();
+  DrawKeptAnew();
+}
+
+void GraphWindow::DrawKeptAnew() {
+  std::vector<ChartSeries> drawn = graph1.Series();
+  std::erase_if(drawn, [](const ChartSeries& series) { return series.isKept; });
+  DrawWithKept(std::move(drawn));
 }
 
 void GraphWindow::MarkDesign() {
@@ -134,7 +156,7 @@ void GraphWindow::ReadOut(const ChartHit& hit) {
   const auto point = static_cast<std::size_t>(hit.point);
   lblX.SetCaption(FormatNumber(ToSingle(series.x[point]), CoordinateFormat));
   lblSF.SetCaption(FormatNumber(ToSingle(series.y[point]), CoordinateFormat));
-  lblCurve.SetCaption(ShortCurveName(program_.windows.curve.CurveIndex));
+  lblCurve.SetCaption(series.shortName);
   graph1.SetReadPoint(ChartPlace{hit.series, hit.point});
 }
 
@@ -149,7 +171,21 @@ void GraphWindow::Print() {
       RunTrapped(program_, [&] { program_.platform.printer.Choose(PrintedName(program_.project) + " " + title); });
   if (outcome != StepOutcome::Done) return;
   AddHistoryLine(program_, "Printing Graph");
-  RunTrapped(program_, [&] { program_.platform.printer.PrintChart(graph1, title); });
+  RunTrapped(program_, [&] { program_.platform.printer.PrintChart(graph1, ChartHeading(program_, title)); });
+}
+
+void GraphWindow::SaveAs() {
+  const Integer index = program_.windows.curve.CurveIndex;
+  const std::string title = CurveTitle(index);
+  PictureFiles& pictures = program_.platform.pictures;
+  const AxisTitles heads = ComposedTitles(index, program_.project.WorkParms.Units);
+  const std::string path =
+      SaveInFormat(program_, "Save Curve", PrintedName(program_.project) + " " + title,
+                   {{"Picture", "png", [&] { return pictures.AsPng(ChartScene(graph1)); }},
+                    {"Drawing", "svg", [&] { return SceneSvg(ChartScene(graph1)); }},
+                    {"Page", "pdf", [&] { return pictures.AsPdf(ChartScene(graph1), title); }},
+                    {"Table of Values", "csv", [&] { return CurveTable(heads.X, heads.Y, graph1.Series()); }}});
+  if (!path.empty()) AddHistoryLine(program_, "Curve saved as: " + path);
 }
 
 void GraphWindow::AskAndExport() {
@@ -163,12 +199,12 @@ void GraphWindow::AskAndExport() {
 }
 
 void GraphWindow::Export() {
-  const Integer index = program_.windows.curve.CurveIndex;
   Sheet sheet{graph1.Heading(), graph1.AxisX().title, graph1.AxisY().title, {}};
   for (const ChartSeries& series : graph1.Series()) {
-    sheet.series.push_back({"X-coord", ShortCurveName(index), series.x, series.y});
+    sheet.series.push_back({"X-coord", series.shortName, series.x, series.y});
   }
-  const std::string path = program_.session.folders.ProgramTemporary + "ORBY " + CurveTitle(index) + ".xlsx";
+  const std::string path =
+      program_.session.folders.ProgramTemporary + "ORBY " + CurveTitle(program_.windows.curve.CurveIndex) + ".xlsx";
   const auto outcome = RunTrapped(program_, [&] { program_.platform.documents.OpenSheet(sheet, path); });
   if (outcome != StepOutcome::Done) return;
   const auto count = static_cast<int>(sheet.series.size());

@@ -1,5 +1,8 @@
-// The graph window: shows the last computed curve, reads off its points, prints, copies and exports it.
+// The graph window: shows the last computed curve beside those kept for comparison, reads off its points, prints,
+// copies, saves and exports it.
 #pragma once
+
+#include <vector>
 
 #include "controls/chart.h"
 #include "controls/controls.h"
@@ -28,6 +31,11 @@ class GraphWindow : public ProgramForm {
   Label lblCurveCaption{*this, "lblCurveCaption", "Curve:"};
   Label lblCurve{*this, "lblCurve", ""};
 
+  Button cmdSaveAs{*this, "cmdSaveAs", "&Save As...", [this] { SaveAs(); }};
+  Button cmdKeep{*this, "cmdKeep", "&Keep Curve", [this] { Keep(); }};
+  Button cmdForget{*this, "cmdForget", "For&get Kept", [this] { ForgetKept(); }};
+  Label lblKept{*this, "lblKept", ""};
+
   explicit GraphWindow(Program& program);
 
   // Draws the points in `program.windows.curve` as the curve of this index, and opens the window or brings it to the
@@ -48,11 +56,17 @@ class GraphWindow : public ProgramForm {
   void OnClose() override;
 
  private:
+  // Shows the series, and after them the kept curves that have their axes.
+  void DrawWithKept(std::vector<ChartSeries> drawn);
+  void Keep();
+  void ForgetKept();
+  void DrawKeptAnew();
   // Shows the point of the design and what the curve is compared with.
   void MarkDesign();
   void ReadOut(const ChartHit& hit);
   void ClearReadOut();
   void Print();
+  void SaveAs();
   void AskAndExport();
   void Export();
   void TogglePointID();

@@ -15,8 +15,28 @@ struct ScenePoint {
 };
 
 // The colours of a drawing by what they are for. Text is the colour of texts around the drawing, light or dark.
-// Limit is the colour of suggested values. The last three are those of judgements.
-enum class Ink { None, Text, Muted, Rock, Bolt, Cable, Truss, Standing, Limit, Good, Doubtful, Bad };
+// Limit is the colour of suggested values. Good, Doubtful and Bad are those of judgements. The last five are those of
+// charts: the curve, curves kept for comparison, and the point of the design. Paper is the background.
+enum class Ink {
+  None,
+  Paper,
+  Text,
+  Muted,
+  Rock,
+  Bolt,
+  Cable,
+  Truss,
+  Standing,
+  Limit,
+  Good,
+  Doubtful,
+  Bad,
+  Curve,
+  FirstKept,
+  SecondKept,
+  ThirdKept,
+  OwnPoint
+};
 
 struct PathStep {
   enum class Kind { Move, Line, Curve, Close };

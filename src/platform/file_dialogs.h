@@ -16,8 +16,8 @@ struct FileQuestion {
   std::string fileName;             // the name offered, without its folder
   std::string folder;               // where the dialog starts
   std::vector<FileFilter> filters;  // the first one is selected
-  // Without the point. Appended to a name without an extension: always when saving, and when opening if no file has the
-  // bare name.
+  // Without the point. Appended to a name without an extension: always when saving, unless another filter with an
+  // extension is selected, and when opening if no file has the bare name.
   std::string defaultExtension;
 };
 

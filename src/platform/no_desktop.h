@@ -67,7 +67,9 @@ class NoPrinter : public Printer {
   std::string PrintPages(const std::vector<std::string>&, const std::string&, const std::string&) override {
     throw RuntimeError(error_number::Printer);
   }
-  void PrintChart(const Control&, const std::string&) override { throw RuntimeError(error_number::Printer); }
+  void PrintChart(const Control&, const std::vector<std::string>&) override {
+    throw RuntimeError(error_number::Printer);
+  }
 };
 
 class NoPictureFiles : public PictureFiles {
@@ -89,9 +91,9 @@ class NoHelpViewer : public HelpViewer {
   bool ShowContents(const std::string&) override { return false; }
   bool ShowIndex(const std::string&) override { return false; }
   bool ShowTopic(const std::string&, const std::string&) override { return false; }
+  std::string FirstSentence(const std::string&, const std::string&) override { return {}; }
   void Close() override {}
 };
-  std::string FirstSentence(const std::string&, const std::string&) override { return {}; }
 
 class NoFileTypes : public FileTypes {
  public:

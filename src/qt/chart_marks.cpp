@@ -1,8 +1,8 @@
 #include "qt/chart_marks.h"
 
 #include <algorithm>
-#include <cmath>
 
+#include "drawings/inks.h"
 #include "qt/contrast.h"
 #include "qt/texts.h"
 
@@ -12,20 +12,23 @@ namespace {
 constexpr double OwnSize = 11;       // pixels
 constexpr double ReadSize = 17;      // pixels
 constexpr double LabelDistance = 9;  // of the own point's name from its middle, pixels
-constexpr QColor OwnColour(0xb0, 0x3a, 0x00);
-constexpr QColor ReferenceColour(0x0b, 0x6b, 0x3a);
 
 // The roles of items, which decide their colours.
 constexpr const char* Role = "orbyRole";
 enum ItemRole { Plain, Own, Reference };
 
-// Returns the position of a value on the axis: 0 at its start, 1 at its end.
-double ShareOf(const QCPRange& range, double value) { return (value - range.lower) / range.size(); }
+ChartRange RangeOf(const QCPAxis& axis) { return {axis.range().lower, axis.range().upper}; }
+
+ChartExtent ExtentOf(const QCustomPlot& plot) { return {RangeOf(*plot.xAxis), RangeOf(*plot.yAxis)}; }
+
+QColor ReadableInk(Ink ink, const QPalette& palette) {
+  return Readable(QColor::fromRgb(InkColour(ink, Ground::Light)), palette.color(QPalette::Base));
+}
 
 QColor ColourOf(const QCPAbstractItem& item, const QPalette& palette) {
   switch (item.property(Role).toInt()) {
-    case Own: return Readable(OwnColour, palette.color(QPalette::Base));
-    case Reference: return Readable(ReferenceColour, palette.color(QPalette::Base));
+    case Own: return ReadableInk(Ink::OwnPoint, palette);
+    case Reference: return ReadableInk(Ink::Limit, palette);
     default: return palette.color(QPalette::WindowText);
   }
 }
@@ -48,62 +51,33 @@ void Recolour(QCPAbstractItem& item, const QPalette& palette) {
 
 void ChartMarks::Show(const Chart& chart, bool fits) {
   plot_.clearItems();
-  own_ = chart.Own();
-  references_ = chart.References();
+  whole_ = WholeExtent(chart);
+  freeCorner_ = FreeCorner(chart, whole_);
   if (fits) ShowWhole();
   int number = 0;
   int far = 0;
-  for (const ChartLine& line : references_) {
-    if (IsNear(line)) {
+  for (const ChartLine& line : chart.References()) {
+    if (IsNear(chart, line)) {
       AddReference(line, number++);
     } else {
       AddFarReference(line, far++);
     }
   }
-  if (own_) AddOwn(*own_);
+  if (chart.Own()) AddOwn(*chart.Own(), SideOfOwnName(chart, ExtentOf(plot_)));
   if (const auto& place = chart.ReadPoint()) AddReadPoint(*place);
   const bool hasPoints =
       std::ranges::any_of(chart.Series(), [](const ChartSeries& series) { return !series.x.empty(); });
   if (!hasPoints) AddEmptyText();
 }
 
-QCPRange ChartMarks::RangeOfPoints(bool ofX) const {
-  QCPRange range;
-  bool isFirst = true;
-  const auto include = [&](double value) {
-    if (isFirst) range = QCPRange(value, value);
-    isFirst = false;
-    range.expand(value);
-  };
-  for (int i = 0; i < plot_.graphCount(); ++i) {
-    for (const QCPGraphData& point : *plot_.graph(i)->data()) include(ofX ? point.key : point.value);
-  }
-  if (own_) include(ofX ? own_->x : own_->y);
-  return range;
-}
-
-bool ChartMarks::IsNear(const ChartLine& line) const {
-  constexpr double Most = 4;
-  const QCPRange points = RangeOfPoints(line.isOfX);
-  return std::abs(line.value) <= Most * std::max(std::abs(points.lower), std::abs(points.upper));
-}
-
-// Starts from a fixed range, so that a curve without extent does not keep the range of the previous curve.
 void ChartMarks::ShowWhole() {
-  constexpr double Air = 1.08;
-  for (QCPAxis* axis : {plot_.xAxis, plot_.yAxis}) axis->setRange(0, 2);
-  plot_.rescaleAxes();
-  for (QCPAxis* axis : {plot_.xAxis, plot_.yAxis}) {
-    const bool ofX = axis == plot_.xAxis;
-    QCPRange range = axis->range();
-    if (own_) range.expand(ofX ? own_->x : own_->y);
-    for (const ChartLine& line : references_) {
-      if (line.isOfX == ofX && IsNear(line)) range.expand(line.value);
-    }
-    axis->setRange(range);
-    axis->scaleRange(Air);
+  plot_.xAxis->setRange(whole_.x.lower, whole_.x.upper);
+  plot_.yAxis->setRange(whole_.y.lower, whole_.y.upper);
+  const auto corner =
+      (freeCorner_.isRight ? Qt::AlignRight : Qt::AlignLeft) | (freeCorner_.isTop ? Qt::AlignTop : Qt::AlignBottom);
+  if (plot_.axisRect()->insetLayout()->elementCount() > 0) {
+    plot_.axisRect()->insetLayout()->setInsetAlignment(0, corner);
   }
-  plot_.axisRect()->insetLayout()->setInsetAlignment(0, FreeCorner());
 }
 
 QCPItemText* ChartMarks::NewLabel(const std::string& text) {
@@ -134,13 +108,13 @@ void ChartMarks::AddReference(const ChartLine& line, int number) {
     label->position->setTypeX(QCPItemPosition::ptPlotCoords);
     label->position->setTypeY(QCPItemPosition::ptAxisRectRatio);
     label->position->setCoords(line.value, Edge);
-    const bool isRight = ShareOf(plot_.xAxis->range(), line.value) > 0.5;
+    const bool isRight = RangeOf(*plot_.xAxis).ShareOf(line.value) > 0.5;
     label->setPositionAlignment(Qt::AlignTop | (isRight ? Qt::AlignRight : Qt::AlignLeft));
   } else {
     label->position->setTypeX(QCPItemPosition::ptAxisRectRatio);
     label->position->setTypeY(QCPItemPosition::ptPlotCoords);
     label->position->setCoords(1 - Edge - Step * (number % 3), line.value);
-    const bool isHigh = ShareOf(plot_.yAxis->range(), line.value) > 0.9;
+    const bool isHigh = RangeOf(*plot_.yAxis).ShareOf(line.value) > 0.9;
     label->setPositionAlignment(Qt::AlignRight | (isHigh ? Qt::AlignTop : Qt::AlignBottom));
   }
 }
@@ -156,8 +130,7 @@ void ChartMarks::AddFarReference(const ChartLine& line, int number) {
   label->setPositionAlignment(Qt::AlignTop | Qt::AlignHCenter);
 }
 
-// The name is on the side away from the curve: rising curves leave room below on the right and above on the left.
-void ChartMarks::AddOwn(const ChartPoint& own) {
+void ChartMarks::AddOwn(const ChartPoint& own, const ChartCorner& side) {
   auto* mark = new QCPItemTracer(&plot_);
   mark->setProperty(Role, Own);
   mark->setStyle(QCPItemTracer::tsSquare);
@@ -166,15 +139,10 @@ void ChartMarks::AddOwn(const ChartPoint& own) {
   QCPItemText* label = NewLabel(own.name);
   label->setProperty(Role, Own);
   label->position->setParentAnchor(mark->position);
-  const bool isRight = ShareOf(plot_.xAxis->range(), own.x) > 0.5;
-  bool isRising = true;
-  if (plot_.graphCount() > 0 && plot_.graph(0)->dataCount() > 1) {
-    const auto& data = *plot_.graph(0)->data();
-    isRising = data.at(0)->value < data.at(data.size() - 1)->value;
-  }
-  const bool isAbove = isRight == isRising;
-  label->position->setCoords(isRight ? -LabelDistance : LabelDistance, isAbove ? -LabelDistance : LabelDistance);
-  label->setPositionAlignment((isRight ? Qt::AlignRight : Qt::AlignLeft) | (isAbove ? Qt::AlignBottom : Qt::AlignTop));
+  label->position->setCoords(side.isRight ? LabelDistance : -LabelDistance,
+                             side.isTop ? -LabelDistance : LabelDistance);
+  label->setPositionAlignment((side.isRight ? Qt::AlignLeft : Qt::AlignRight) |
+                              (side.isTop ? Qt::AlignBottom : Qt::AlignTop));
 }
 
 void ChartMarks::AddReadPoint(const ChartPlace& place) {
@@ -190,42 +158,6 @@ void ChartMarks::AddReadPoint(const ChartPlace& place) {
 
 void ChartMarks::SetColors(const QPalette& palette) {
   for (int i = 0; i < plot_.itemCount(); ++i) Recolour(*plot_.item(i), palette);
-}
-
-Qt::Alignment ChartMarks::FreeCorner() const {
-  const Qt::Alignment corners[] = {Qt::AlignTop | Qt::AlignRight, Qt::AlignTop | Qt::AlignLeft,
-                                   Qt::AlignBottom | Qt::AlignRight, Qt::AlignBottom | Qt::AlignLeft};
-  const QCPRange xs = plot_.xAxis->range();
-  const QCPRange ys = plot_.yAxis->range();
-  Qt::Alignment freest = corners[0];
-  double farthest = -1;
-  for (const auto corner : corners) {
-    const double atX = (corner & Qt::AlignRight) != 0 ? 1 : 0;
-    const double atY = (corner & Qt::AlignTop) != 0 ? 1 : 0;
-    double nearest = 2;
-    const auto avoid = [&](double x, double y) { nearest = std::min(nearest, std::hypot(x - atX, y - atY)); };
-    for (int series = 0; series < plot_.graphCount(); ++series) {
-      for (const QCPGraphData& point : *plot_.graph(series)->data()) {
-        avoid(ShareOf(xs, point.key), ShareOf(ys, point.value));
-      }
-    }
-    if (own_) avoid(ShareOf(xs, own_->x), ShareOf(ys, own_->y));
-    for (const ChartLine& line : references_) {
-      // The name of a horizontal line is at its right end, that of a vertical line at its top.
-      if (line.isOfX) {
-        constexpr double NameWidth = 0.35;
-        const double at = ShareOf(xs, line.value);
-        avoid(at, 1);
-        avoid(at > 0.5 ? at - NameWidth : at + NameWidth, 1);
-      }
-      if (!line.isOfX) avoid(1, ShareOf(ys, line.value));
-    }
-    if (nearest > farthest) {
-      farthest = nearest;
-      freest = corner;
-    }
-  }
-  return freest;
 }
 
 }  // namespace orby

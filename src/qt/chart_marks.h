@@ -6,7 +6,7 @@
 
 #include <vector>
 
-#include "controls/chart.h"
+#include "controls/chart_fit.h"
 
 namespace orby {
 
@@ -14,31 +14,25 @@ class ChartMarks {
  public:
   explicit ChartMarks(QCustomPlot& plot) : plot_(plot) {}
 
-  // Replaces the marks by those of the chart, and fits the axes to the series and the marks if `fits` is true. Requires
-  // that the series are in the plot.
+  // Replaces the marks by those of the chart, and fits the axes to its whole extent if `fits` is true. Requires that
+  // the series are in the plot.
   void Show(const Chart& chart, bool fits);
-  // Fits the axes to the series and the marks, with a small margin.
+  // Fits the axes to the whole extent of the chart.
   void ShowWhole();
   // Draws the marks with the colours of a window or of paper.
   void SetColors(const QPalette& palette);
 
  private:
-  // Returns true if the line does not make the rest of the chart too small.
-  bool IsNear(const ChartLine& line) const;
-  QCPRange RangeOfPoints(bool ofX) const;
   QCPItemText* NewLabel(const std::string& text);
   void AddEmptyText();
   void AddReference(const ChartLine& line, int number);
   void AddFarReference(const ChartLine& line, int number);
-  void AddOwn(const ChartPoint& own);
+  void AddOwn(const ChartPoint& own, const ChartCorner& side);
   void AddReadPoint(const ChartPlace& place);
 
-  // Returns the corner of the plot with the greatest distance from points and lines, whatever the size of the plot.
-  Qt::Alignment FreeCorner() const;
-
   QCustomPlot& plot_;
-  std::optional<ChartPoint> own_;
-  std::vector<ChartLine> references_;
+  ChartExtent whole_;
+  ChartCorner freeCorner_;
 };
 
 }  // namespace orby

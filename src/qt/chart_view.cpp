@@ -10,6 +10,7 @@
 
 #include "base/arithmetic.h"
 #include "base/number_text.h"
+#include "controls/chart_fit.h"
 #include "qt/contrast.h"
 #include "qt/texts.h"
 
@@ -92,11 +93,27 @@ void ShowHeading(QCustomPlot& plot, const QString& heading) {
   top->setVisible(!heading.isEmpty());
 }
 
+// Moves the legend into the last row of the layout, or back into the plot.
+void PlaceLegend(QCustomPlot& plot, bool isBelow) {
+  QCPLayoutInset& inside = *plot.axisRect()->insetLayout();
+  QCPLayoutGrid& rows = *plot.plotLayout();
+  if (isBelow == (plot.legend->layout() == &rows)) return;
+  if (isBelow) {
+    inside.take(plot.legend);
+    rows.addElement(rows.rowCount(), 0, plot.legend);
+    rows.setRowStretchFactor(rows.rowCount() - 1, 0.001);
+  } else {
+    rows.take(plot.legend);
+    rows.simplify();
+    inside.addElement(plot.legend, Qt::AlignTop | Qt::AlignRight);
+  }
+}
+
 void ShowSeries(QCustomPlot& plot, const ChartSeries& series) {
   QCPGraph& graph = *plot.addGraph();
   graph.setData({series.x.begin(), series.x.end()}, {series.y.begin(), series.y.end()});
   graph.setName(ToQt(series.legend));
-  graph.setPen(QPen(Qt::black, series.width * LineShare));
+  graph.setPen(QPen(Qt::black, series.width * LineShare, series.isKept ? Qt::DashLine : Qt::SolidLine));
   graph.setLineStyle(series.hasLine ? QCPGraph::lsLine : QCPGraph::lsNone);
   // A single point is no line, so it is always drawn as a symbol.
   const bool hasSymbols = series.hasSymbols || series.x.size() == 1;
@@ -118,6 +135,9 @@ std::string WordsOf(const Chart& chart) {
              FormatNumber(ToSingle(chart.Own()->y), "0.0");
   }
   for (const ChartLine& line : chart.References()) words += ". " + line.name;
+  for (const ChartSeries& series : chart.Series()) {
+    if (series.isKept) words += ". " + series.legend;
+  }
   return words;
 }
 
@@ -158,7 +178,8 @@ void ChartView::ShowChart(const Chart& chart) {
   plot_->yAxis->setLabel(ToQt(chart.AxisY().title));
   plot_->xAxis->grid()->setVisible(chart.AxisX().grid);
   plot_->yAxis->grid()->setVisible(chart.AxisY().grid);
-  plot_->legend->setVisible(chart.LegendShown());
+  plot_->legend->setVisible(chart.HasLegend());
+  PlaceLegend(*plot_, HasLegendBelow(chart));
   ShowHeading(*plot_, ToQt(chart.Heading()));
   setAccessibleName(ToQt(chart.AxisY().title + " - " + chart.AxisX().title + WordsOf(chart)));
   marks_.Show(chart, isNew);
@@ -266,17 +287,16 @@ QPixmap ChartView::Picture(int width, int height) const {
   return picture;
 }
 
-bool ChartView::PaintOn(QPaintDevice& paper, const QRectF& place, int width, int height) const {
-  QCPPainter painter;
-  if (!painter.begin(&paper)) return false;
+void ChartView::Paint(QCPPainter& painter, const QRectF& place, int width, int height) const {
   UseColors(Paper());
+  painter.save();
   painter.setMode(QCPPainter::pmVectorized);
   painter.setMode(QCPPainter::pmNoCaching);
   painter.translate(place.topLeft());
   painter.scale(place.width() / width, place.height() / height);
   plot_->toPainter(&painter, width, height);
+  painter.restore();
   UseColors(palette());
-  return painter.end();
 }
 
 }  // namespace orby

@@ -11,8 +11,8 @@
 #include "controls/chart.h"
 #include "qt/chart_marks.h"
 
+class QCPPainter;
 class QCustomPlot;
-class QPaintDevice;
 
 namespace orby {
 
@@ -34,9 +34,8 @@ class ChartView : public QWidget {
 
   // Returns a picture of the chart, in black on white and with this size in pixels, as for the clipboard.
   QPixmap Picture(int width, int height) const;
-  // Paints the same picture, laid out for this size in pixels, on this part of the paper. Returns false if the device
-  // cannot be painted on.
-  bool PaintOn(QPaintDevice& paper, const QRectF& place, int width, int height) const;
+  // Paints the same picture, laid out for this size in pixels, on this part of the paper.
+  void Paint(QCPPainter& painter, const QRectF& place, int width, int height) const;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -58,6 +58,16 @@ void KeepFocusInNameField(QFileDialog& dialog) {
   });
 }
 
+// Returns the extension for names without one while the filter is chosen: its own, if it has only one. The toolkit's
+// dialog calls a filter by the text that it shows, the desktop's own dialog by the whole text.
+QString SuffixOf(const QString& filter, const FileQuestion& question) {
+  const auto chosen = std::ranges::find_if(question.filters, [&](const FileFilter& each) {
+    return filter == ToQt(each.name) || filter == NameFilters({each}).constFirst();
+  });
+  const QString suffix = chosen == question.filters.end() ? QString() : QFileInfo(ToQt(chosen->pattern)).suffix();
+  return suffix.isEmpty() || suffix.contains('*') ? ToQt(question.defaultExtension) : suffix;
+}
+
 // Returns the chosen name. The dialog cannot delete, rename or create anything on the disk.
 std::string Answer(QFileDialog& dialog) {
   dialog.setOption(QFileDialog::ReadOnly);
@@ -91,6 +101,8 @@ std::string QtFileDialogs::AskSaveName(const FileQuestion& question) {
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setDefaultSuffix(ToQt(question.defaultExtension));
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                   [&](const QString& filter) { dialog.setDefaultSuffix(SuffixOf(filter, question)); });
   return Ask(dialog, question);
 }
 

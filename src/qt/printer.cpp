@@ -1,5 +1,7 @@
 #include "qt/printer.h"
 
+#include <qcustomplot.h>
+
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
@@ -29,6 +31,7 @@ constexpr int LargestSize = 11;               // points
 
 constexpr int ChartWidth = 800;
 constexpr int ChartHeight = 1000;
+constexpr int HeadingSize = 10;           // points
 constexpr double ChartMargin = 1.0 / 40;  // of the chart's width
 
 // Returns the font in the largest size in which a sheet fits the paper.
@@ -53,6 +56,22 @@ void PaintLines(QPainter& painter, std::string_view text) {
     painter.drawText(QPointF(0, baseline), ToQt(TakeLine(text)));
     baseline += metrics.lineSpacing();
   }
+}
+
+// Paints the lines at the top of the area, the first one in bold. Returns the height at which they end.
+double PaintHeading(QPainter& painter, const std::vector<std::string>& lines, const QRectF& area) {
+  QFont font = painter.font();
+  font.setPointSize(HeadingSize);
+  font.setBold(true);
+  double top = area.top();
+  for (const std::string& line : lines) {
+    painter.setFont(font);
+    QRectF used;
+    painter.drawText(QRectF(QPointF(area.left(), top), area.bottomRight()), Qt::TextWordWrap, ToQt(line), &used);
+    top = used.bottom();
+    font.setBold(false);
+  }
+  return top + QFontMetricsF(font, painter.device()).height();
 }
 
 bool IsFile(const QPrinter& device) {
@@ -180,16 +199,21 @@ std::string QtPrinter::PrintPages(const std::vector<std::string>& pages, const s
   return job.File();
 }
 
-void QtPrinter::PrintChart(const Control& chart, const std::string& title) {
+void QtPrinter::PrintChart(const Control& chart, const std::vector<std::string>& heading) {
   const auto* view = dynamic_cast<const ChartView*>(WidgetOnScreen(chart));
   if (view == nullptr) return;
-  Job job(*this, title);
+  Job job(*this, heading.front());
   QPrinter& device = job.Device();
-  const QRectF area = device.pageRect(QPrinter::DevicePixel);
-  const double margin = area.width() * ChartMargin;
-  const double scale = std::min((area.width() - 2 * margin) / ChartWidth, (area.height() - 2 * margin) / ChartHeight);
-  const QRectF place(margin, margin, ChartWidth * scale, ChartHeight * scale);
-  if (!view->PaintOn(device, place, ChartWidth, ChartHeight)) throw RuntimeError(error_number::Printer);
+  const QRectF paper = device.pageRect(QPrinter::DevicePixel);
+  const double margin = paper.width() * ChartMargin;
+  const QRectF area(margin, margin, paper.width() - 2 * margin, paper.height() - 2 * margin);
+  QCPPainter painter;
+  if (!painter.begin(&device)) throw RuntimeError(error_number::Printer);
+  const double top = PaintHeading(painter, heading, area);
+  const double scale = std::min(area.width() / ChartWidth, (area.bottom() - top) / ChartHeight);
+  const QRectF place(margin, top, ChartWidth * scale, ChartHeight * scale);
+  view->Paint(painter, place, ChartWidth, ChartHeight);
+  if (!painter.end()) throw RuntimeError(error_number::Printer);
   mayReplace_ = false;
 }
 

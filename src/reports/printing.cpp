@@ -127,6 +127,11 @@ std::string PrintedName(const Project& project) {
   return std::string(point == 0 ? name : name.substr(0, point));
 }
 
+std::vector<std::string> ChartHeading(const Program& program, const std::string& title) {
+  return {title, "File Name: " + DocumentTitle(program.project),
+          "Date/Time: " + DateText(program.platform.clock.Today())};
+}
+
 std::string PrintText(Program& program, std::string_view text) {
   return program.platform.printer.PrintPages(PrintSheets(program, text), DocumentTitle(program.project),
                                              ChoosePrinterFont(program));

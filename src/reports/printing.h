@@ -23,6 +23,9 @@ std::vector<std::string> PrintSheets(const Program& program, std::string_view te
 // Returns the name offered for a PDF file of the project: its file name without the extension.
 std::string PrintedName(const Project& project);
 
+// Returns the lines above a printed chart: its title, the file name and title of the project, and the date.
+std::vector<std::string> ChartHeading(const Program& program, const std::string& title);
+
 // Prints the text in the printer font. The name of the print is the file name and title of the project. Returns the
 // path of the file that was printed to, or an empty path for paper. Throws RuntimeError 482 when it fails.
 std::string PrintText(Program& program, std::string_view text);

@@ -405,6 +405,17 @@ TEST_F(GraphOfACurve, IsPrintedOnTheChosenPrinter) {
   EXPECT_EQ(program.session.history.Text, "1. Printing Graph\r\n");
 }
 
+TEST_F(GraphOfACurve, IsPrintedBelowItsTitleTheProjectAndTheDate) {
+  program.project.CurrentFile = "/home/user/belt.orb";
+  program.project.ProjectTitle = " Belt entry ";
+  window.ShowCurve(1);
+
+  window.GraphFileItem.ClickItem(Print);
+
+  EXPECT_THAT(platform.printer.chartHeading, ElementsAre("Suggested PSUP vs Depth of Cover",
+                                                         "File Name: belt.orb - Belt entry", "Date/Time: 3/9/2031"));
+}
+
 TEST_F(GraphOfACurve, IsNotPrintedWhenThePrinterDialogIsCancelled) {
   window.ShowCurve(1);
   platform.printer.error = error_number::Cancelled;

@@ -16,9 +16,9 @@ class JammedPrinter : public RecordingPrinter {
     Jam();
     return RecordingPrinter::PrintPages(given, name, font);
   }
-  void PrintChart(const Control& chart, const std::string& name) override {
+  void PrintChart(const Control& chart, const std::vector<std::string>& lines) override {
     Jam();
-    RecordingPrinter::PrintChart(chart, name);
+    RecordingPrinter::PrintChart(chart, lines);
   }
 
  private:

@@ -26,9 +26,9 @@ constexpr std::uint32_t LightWindow = 0xefefef;
 constexpr std::uint32_t DarkWindow = 0x2b2b2b;
 constexpr std::uint32_t DarkPage = 0x4a4a4a;  // of a set of tabs
 
-TEST(Inks, OfSupportsLimitsAndJudgementsAreAsClearAsText) {
-  for (const Ink ink :
-       {Ink::Text, Ink::Cable, Ink::Truss, Ink::Standing, Ink::Limit, Ink::Good, Ink::Doubtful, Ink::Bad}) {
+TEST(Inks, OfSupportsLimitsJudgementsAndChartsAreAsClearAsText) {
+  for (const Ink ink : {Ink::Text, Ink::Cable, Ink::Truss, Ink::Standing, Ink::Limit, Ink::Good, Ink::Doubtful,
+                        Ink::Bad, Ink::Curve, Ink::FirstKept, Ink::SecondKept, Ink::ThirdKept, Ink::OwnPoint}) {
     EXPECT_GE(Contrast(InkColour(ink, Ground::Light), Paper), 4.5);
     EXPECT_GE(Contrast(InkColour(ink, Ground::Light), LightWindow), 4.5);
     EXPECT_GE(Contrast(InkColour(ink, Ground::Dark), DarkWindow), 4.5);

@@ -123,6 +123,31 @@ TEST_F(AskingForAFile, AddsTheExtensionToANameToSave) {
   EXPECT_EQ(dialogs.AskSaveName(Question()), PathOf("panel3.txt"));
 }
 
+TEST_F(AskingForAFile, AddsTheExtensionOfTheChosenTypeToANameToSave) {
+  FileQuestion question = Question();
+  question.filters = {{"Picture (*.png)", "*.png"}, {"Drawing (*.svg)", "*.svg"}, {"All Files (*.*)", "*"}};
+  question.defaultExtension = "png";
+  // Goes down in the list of types, and types a name if there is one.
+  const auto answer = [](int down, const std::string& name) {
+    return [down, name](QDialog& window) {
+      Find<QComboBox>(window, "fileTypeCombo").setFocus();
+      for (int i = 0; i < down; ++i) Press(Qt::Key_Down);
+      Find<QLineEdit>(window, "fileNameEdit").setFocus();
+      if (!name.empty()) Type(name);
+      Press(Qt::Key_Return);
+    };
+  };
+
+  scripts.Add(answer(1, "curve"));
+  EXPECT_EQ(dialogs.AskSaveName(question), PathOf("curve.svg"));
+  scripts.Add(answer(2, "curve"));
+  EXPECT_EQ(dialogs.AskSaveName(question), PathOf("curve.png"));
+
+  question.fileName = "curve.png";
+  scripts.Add(answer(1, ""));
+  EXPECT_EQ(dialogs.AskSaveName(question), PathOf("curve.svg"));
+}
+
 TEST_F(AskingForAFile, AsksBeforeOverwritingAFileWithTheAddedExtension) {
   std::string question;
   AnswerWith("belt");

@@ -24,6 +24,7 @@
 #include "core/dialog_helpers.h"
 #include "design/catalogs.h"
 #include "dialogs/backups_window.h"
+#include "dialogs/chart_scene.h"
 #include "dialogs/convert_dialog.h"
 #include "dialogs/cost_dialog.h"
 #include "dialogs/curve_command.h"
@@ -54,6 +55,7 @@
 #include "qt/help_window.h"
 #include "qt/main_view.h"
 #include "qt/message_boxes.h"
+#include "qt/picture_files.h"
 #include "qt/pictures.h"
 #include "reports/calculation_report.h"
 #include "reports/input_echo.h"
@@ -88,13 +90,21 @@ class Photographer {
 
   void Take(QWidget& window, const std::string& name) const {
     Settle();
-    const QString path = folder_.filePath(series_ + "-" + QString::fromStdString(name));
-    window.grab().save(path + ".png");
-    QFile boxes(path + ".json");
+    window.grab().save(PathOf(name, ".png"));
+    QFile boxes(PathOf(name, ".json"));
     if (boxes.open(QIODevice::WriteOnly)) boxes.write(QJsonDocument(PaintedBoxes(window)).toJson());
+  }
+  // Takes a chart as it is saved.
+  void Take(const Chart& chart, const std::string& name) const {
+    const std::string picture = QtPictureFiles().AsPng(ChartScene(chart));
+    QImage::fromData(QByteArray::fromStdString(picture)).save(PathOf(name, ".png"));
   }
 
  private:
+  QString PathOf(const std::string& name, const char* ending) const {
+    return folder_.filePath(series_ + "-" + QString::fromStdString(name) + ending);
+  }
+
   QDir folder_;
   QString series_;
 };
@@ -363,6 +373,7 @@ class Sitting {
       TakeCurve(program_, program_.windows.WorkParmsCopy, curve);
       graph.ShowCurve(curve);
       photographer_.Take(*WindowOnScreen(graph), "graph-" + std::to_string(curve));
+      photographer_.Take(graph.graph1, "saved-graph-" + std::to_string(curve));
     }
     graph.GraphOptionsItem.ClickItem(0);
     Settle();
@@ -375,8 +386,23 @@ class Sitting {
       Click(window, "Command1");
     });
     graph.GraphOptionsItem.ClickItem(1);
+    TakeKeptCurves(graph);
     graph.Close();
     Settle();
+  }
+
+  // Takes the curves of three designs in one chart.
+  void TakeKeptCurves(GraphWindow& graph) {
+    Design design = program_.windows.WorkParmsCopy;
+    for (const Single larger : {1.0F, 1.08F, 1.15F}) {
+      design.Place.ActualSpanDiagonals *= larger;
+      TakeCurve(program_, design, 1);
+      graph.ShowCurve(1);
+      if (larger < 1.1F) graph.cmdKeep.Press();
+    }
+    photographer_.Take(*WindowOnScreen(graph), "graph-kept");
+    photographer_.Take(graph.graph1, "saved-graph-kept");
+    graph.cmdForget.Press();
   }
 
   void TakeCalculator() {

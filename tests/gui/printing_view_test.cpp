@@ -144,7 +144,7 @@ class ChartPrinting : public Printing {
 };
 
 TEST_F(ChartPrinting, PrintsTheTitlesAsText) {
-  printer.PrintChart(graph.graph1, "Suggested PSUP");
+  printer.PrintChart(graph.graph1, {"Suggested PSUP"});
 
   const std::vector<std::string> pages = PdfPages(path);
   ASSERT_THAT(pages, testing::SizeIs(1));
@@ -152,11 +152,22 @@ TEST_F(ChartPrinting, PrintsTheTitlesAsText) {
   EXPECT_THAT(pages[0], HasSubstr("Sug.PSUP"));
 }
 
+TEST_F(ChartPrinting, PrintsItsHeadingAboveTheChart) {
+  program.project.ProjectTitle = "Belt entry of panel 3";
+
+  printer.PrintChart(graph.graph1, ChartHeading(program, "Suggested PSUP vs Depth of Cover"));
+
+  const std::string page = PdfPages(path).at(0);
+  EXPECT_LT(page.find("Suggested PSUP vs Depth of Cover"), page.find("File Name: panel3.orb - Belt entry of panel 3"));
+  EXPECT_LT(page.find("File Name: panel3.orb - Belt entry of panel 3"), page.find("Date/Time: 3/9/2031"));
+  EXPECT_LT(page.find("Date/Time: 3/9/2031"), page.find("Depth of Cover (ft)"));
+}
+
 TEST_F(ChartPrinting, KeepsTheSizeOfALaterReport) {
   PrintText(program, NumberedLines(40));
   const QImage before = Rendered(path, 60);
   printer.Device().setOutputFileName(folder.filePath("chart.pdf"));
-  printer.PrintChart(graph.graph1, "Suggested PSUP");
+  printer.PrintChart(graph.graph1, {"Suggested PSUP"});
   const QString after = folder.filePath("after.pdf");
   printer.Device().setOutputFileName(after);
 
@@ -167,7 +178,7 @@ TEST_F(ChartPrinting, KeepsTheSizeOfALaterReport) {
 }
 
 TEST_F(ChartPrinting, NamesTheChartInTheProperties) {
-  printer.PrintChart(graph.graph1, "Suggested PSUP vs Depth of Cover");
+  printer.PrintChart(graph.graph1, {"Suggested PSUP vs Depth of Cover"});
 
   EXPECT_THAT(Answer("pdfinfo", {path}), testing::ContainsRegex("Title: +Suggested PSUP vs Depth of Cover\n"));
 }

@@ -114,10 +114,11 @@ std::string RecordingPrinter::PrintPages(const std::vector<std::string>& given, 
   return file;
 }
 
-void RecordingPrinter::PrintChart(const Control& chart, const std::string& name) {
+void RecordingPrinter::PrintChart(const Control& chart, const std::vector<std::string>& lines) {
   Meet();
   printedChart = chart.Name();
-  title = name;
+  title = lines.front();
+  chartHeading = lines;
 }
 
 void RecordingPrinter::Meet() const {
@@ -158,12 +159,12 @@ bool RecordingHelp::ShowTopic(const std::string& path, const std::string& topic)
   return Take("topic " + path + " " + topic);
 }
 
-void RecordingHelp::Close() { shown.emplace_back("close"); }
 std::string RecordingHelp::FirstSentence(const std::string&, const std::string& topic) {
   const auto found = sentences.find(topic);
   return found == sentences.end() ? std::string() : found->second;
 }
 
+void RecordingHelp::Close() { shown.emplace_back("close"); }
 
 bool RecordingHelp::Take(std::string call) {
   shown.push_back(std::move(call));

@@ -130,12 +130,13 @@ class RecordingPrinter : public Printer {
   void SetUp() override;
   std::string PrintPages(const std::vector<std::string>& given, const std::string& name,
                          const std::string& font) override;
-  void PrintChart(const Control& chart, const std::string& name) override;
+  void PrintChart(const Control& chart, const std::vector<std::string>& lines) override;
 
   std::vector<std::string> pages;
   std::string title;
   std::string fontName;
   std::string printedChart;
+  std::vector<std::string> chartHeading;
   std::string proposedName;
   std::string nameOfUnasked;
   std::string file;  // the file that is printed to
@@ -172,12 +173,12 @@ class RecordingHelp : public HelpViewer {
   bool ShowContents(const std::string& path) override;
   bool ShowIndex(const std::string& path) override;
   bool ShowTopic(const std::string& path, const std::string& topic) override;
-  void Close() override;
   std::string FirstSentence(const std::string& path, const std::string& topic) override;
+  void Close() override;
 
   std::vector<std::string> shown;
-  bool opens = true;
   std::map<std::string, std::string> sentences;  // by topic
+  bool opens = true;
 
  private:
   bool Take(std::string call);

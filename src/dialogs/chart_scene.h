@@ -1,0 +1,16 @@
+// A chart as a drawing, for files of pictures.
+#pragma once
+
+#include "controls/chart.h"
+#include "drawings/scene.h"
+#include "sketches/drafting.h"
+
+namespace orby {
+
+inline constexpr SheetSize ChartSheet{800, 560};
+
+// Returns the whole chart, whatever part of it is on view: heading, axes, ticks and grid lines, series, the own point,
+// reference lines and the legend. The point that is read out is left out.
+Scene ChartScene(const Chart& chart, const SheetSize& sheet = ChartSheet);
+
+}  // namespace orby
