@@ -146,7 +146,7 @@ QSize WholeSize(QWidget& window) {
 }
 
 // Divides the window by the stretch factors of its parts. By itself, the toolkit starts from the sizes that they hint.
-void Divide(QWidget& window) {
+void DivideByStretch(QWidget& window) {
   for (auto* divider : window.findChildren<QSplitter*>()) {
     QList<int> shares;
     for (int i = 0; i < divider->count(); ++i) {
@@ -211,7 +211,7 @@ QtWindows::Shown QtWindows::MakeShown(Form& form, QWidget* parent) {
   Shown shown = MakeBound(form, parent);
   TieClosing(*shown.window, *shown.view);
   Place(*shown.window);
-  Divide(*shown.window);
+  DivideByStretch(*shown.window);
   if (Places != nullptr) TakePlace(*shown.window, form.Name(), *Places);
   shown.opened = PlaceOf(*shown.window);
   return shown;

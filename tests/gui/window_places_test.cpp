@@ -16,7 +16,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Pair;
 
-constexpr const char* Name = "frmMain";
+constexpr const char* MainForm = "frmMain";
 
 // A window of 300 x 200 with a divided area, as it is before the user sees it.
 struct DividedWindow {
@@ -27,14 +27,14 @@ struct DividedWindow {
     window.setCentralWidget(&divider);
     window.resize(300, 200);
     window.move(10, 20);
-    TakePlace(window, Name, places);
+    TakePlace(window, MainForm, places);
     opened = PlaceOf(window);
     window.show();
     Settle();
   }
   // Closes the window as its user does.
   WindowPlaces Closed(WindowPlaces places = {}) {
-    KeepPlace(window, Name, opened, places);
+    KeepPlace(window, MainForm, opened, places);
     return places;
   }
 
@@ -63,7 +63,7 @@ TEST(WindowPlace, IsFoundAgainAfterTheWindowWasMovedAndSized) {
 }
 
 TEST(WindowPlace, StaysForAWindowThatIsOnlyLookedAt) {
-  const WindowPlaces places{{Name, {33, 44, 340, 250, 0}}};
+  const WindowPlaces places{{MainForm, {33, 44, 340, 250, 0}}};
   DividedWindow shown(places);
 
   EXPECT_EQ(shown.Closed(places), places);
@@ -78,21 +78,21 @@ TEST(WindowPlace, KeepsAMaximizedWindowAndItsSizeBefore) {
   const DividedWindow second(places);
 
   EXPECT_TRUE(second.window.isMaximized());
-  EXPECT_THAT(places.at(Name), ElementsAre(10, 20, 300, 200, 1));
+  EXPECT_THAT(places.at(MainForm), ElementsAre(10, 20, 300, 200, 1));
 }
 
 TEST(WindowPlace, BringsBackAWindowThatIsNoLongerMaximized) {
-  const WindowPlaces places{{Name, {10, 20, 300, 200, 1}}};
+  const WindowPlaces places{{MainForm, {10, 20, 300, 200, 1}}};
   DividedWindow shown(places);
   shown.window.setWindowState(Qt::WindowNoState);
   Settle();
 
-  EXPECT_THAT(shown.Closed(places).at(Name).back(), 0);
+  EXPECT_THAT(shown.Closed(places).at(MainForm).back(), 0);
 }
 
 TEST(WindowPlace, OutsideTheScreensIsReplacedByTheMiddle) {
   for (const QPoint& corner : {QPoint(-5000, 10), QPoint(Screen().right() - 20, 10), QPoint(10, 90'000)}) {
-    const DividedWindow shown({{Name, {corner.x(), corner.y(), 340, 250, 0}}});
+    const DividedWindow shown({{MainForm, {corner.x(), corner.y(), 340, 250, 0}}});
 
     EXPECT_TRUE(Screen().contains(shown.window.frameGeometry())) << corner.x();
     EXPECT_EQ(shown.window.size(), QSize(340, 250));
@@ -100,7 +100,7 @@ TEST(WindowPlace, OutsideTheScreensIsReplacedByTheMiddle) {
 }
 
 TEST(WindowPlace, IsNeverLargerThanTheScreen) {
-  const DividedWindow shown({{Name, {0, 0, 90'000, 90'000, 0}}});
+  const DividedWindow shown({{MainForm, {0, 0, 90'000, 90'000, 0}}});
 
   EXPECT_TRUE(Screen().contains(shown.window.geometry()));
 }
@@ -108,7 +108,7 @@ TEST(WindowPlace, IsNeverLargerThanTheScreen) {
 TEST(WindowPlace, WithoutSenseIsIgnored) {
   const std::vector<int> damaged[] = {{1, 2, 3}, {33, 44, 0, 250, 0}, {33, 44, 340, -1, 0}, {33, 44, 340, 250, 0, 7}};
   for (const std::vector<int>& place : damaged) {
-    const DividedWindow shown({{Name, place}});
+    const DividedWindow shown({{MainForm, place}});
 
     EXPECT_EQ(PlaceOf(shown.window), QRect(10, 20, 300, 200)) << testing::PrintToString(place);
   }
