@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "base/types.h"
@@ -280,6 +281,8 @@ class List : public Control {
   const std::vector<ComboItem>& Items() const { return items_; }
   // Replaces the items. No item is selected afterwards.
   void Fill(std::vector<ComboItem> items);
+  // Moves the items out, for a change of some of them. Fill must follow.
+  std::vector<ComboItem> TakeItems() { return std::exchange(items_, {}); }
   int ListIndex() const { return listIndex_; }
   // Clicks an item as the user does. Fires also for the selected item. Throws RuntimeError 9 outside the list.
   void ClickItem(int index);

@@ -46,6 +46,14 @@ enum class FieldMark {
   OutOfRange,  // the checks would refuse it
 };
 
+// What is shown beside the text of an output.
+struct OutputSign {
+  std::string_view Judgement;      // the picture of the judgement on it, empty for none
+  bool IsOfEarlierInputs = false;  // the fields as they stand would give another text, or none
+
+  bool operator==(const OutputSign&) const = default;
+};
+
 class TextBox : public Control {
  public:
   TextBox(Form& form, std::string_view name, TextKind kind = TextKind::Free, UnitSuffix suffix = UnitSuffix::None)
@@ -74,6 +82,9 @@ class TextBox : public Control {
   // Returns the numbers that the checks accept. Empty for a field that is not checked.
   std::function<FieldRange()> Range;
 
+  const OutputSign& Sign() const { return sign_; }
+  void SetSign(OutputSign sign) { Mirror(sign_, sign); }
+
   // Returns `key` if the text accepts it, and 0 if it is ignored.
   int KeyPress(int key) const;
 
@@ -94,6 +105,7 @@ class TextBox : public Control {
   TextKind kind_;
   UnitSuffix suffix_;
   std::string caption_;
+  OutputSign sign_;
   FontChoice font_;
   std::size_t selectionStart_ = 0;
   std::size_t selectionLength_ = 0;

@@ -67,6 +67,7 @@ ParametersDialog::ParametersDialog(Program& program) : ParametersControls(progra
   txtRegion.SetVisible(false);
   txtOption.SetVisible(false);
   txtMessage.SetVisible(false);
+  TieOutputs();
   TieEvents();
   TieRanges();
   TieCommands();

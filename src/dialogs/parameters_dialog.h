@@ -4,12 +4,14 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <initializer_list>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "controls/edit_history.h"
+#include "dialogs/live_texts.h"
 #include "dialogs/parameters_controls.h"
 #include "engine/verdicts.h"
 
@@ -26,6 +28,15 @@ struct VerdictRow {
   Verdict verdict;  // on the fields as they stand
   Verdict afterOk;  // on the design that OK would commit
   std::string text;
+};
+
+// An output of a live figure, and the judgement that it belongs to.
+struct LiveOutput {
+  TextBox* box;
+  const FigureText* text;
+  Aspect what;
+  Opening where;
+  bool showsJudgement;
 };
 
 // The parts of a design that the refreshes read.
@@ -74,6 +85,9 @@ class ParametersDialog : public ParametersControls {
 
   // Opens the window that says what would hold, over this dialog, as soon as this one is on the screen.
   void StudyLater();
+
+  // Returns for an output whether its text is of earlier inputs, and the judgement on it.
+  std::vector<std::string> HintOf(const Control& control) const override;
 
   EditHistory* Edits() override { return &edits_; }
   void ShowControl(Control& control) override;
@@ -139,7 +153,14 @@ class ParametersDialog : public ParametersControls {
   void ShowDrawing();
   void ReadAndDraw();
 
-  void ShowVerdictRows();
+  // Connects the outputs with the texts of their figures.
+  void TieOutputs();
+  // Marks the outputs whose texts are of earlier inputs, and shows the judgements beside the others.
+  void MarkOutputs(const Figures& figures, const Verdicts& found);
+  void TakeVerdicts(const Verdicts& found, const Verdicts& committed);
+  void OrderVerdicts(const Verdicts& found);
+  // Shows the judgements whose bits are set, or all of them in another order.
+  void ShowVerdictRows(std::uint32_t changed, bool isSameOrder);
   // Moves the focus to the field that decides the judgement of a row.
   void GoToVerdict(std::size_t row);
 
@@ -150,7 +171,11 @@ class ParametersDialog : public ParametersControls {
   void RestoreEstimate();
 
   Design typed_;
-  std::vector<VerdictRow> verdicts_;  // as the strip shows them
+  LiveTexts texts_;  // of the fields as they stand, after each action
+  std::vector<LiveOutput> outputs_;
+  std::array<bool, 2> warned_{};      // the warnings that txtMessage shows
+  std::vector<VerdictRow> verdicts_;  // in the order in which they are made
+  std::vector<std::size_t> order_;    // of the rows of the strip, the worst first
   EditHistory edits_;
   std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);  // for what is called later
 };

@@ -18,20 +18,17 @@ void Clear(OutputControls& outputs) {
 }
 
 // Shows the rock load and the results of each system in use. A system without a result keeps its old outputs.
-void Show(OutputControls& outputs, const SupportFigures& figures, const NumberPattern& pattern) {
+void Show(OutputControls& outputs, const SupportFigures& figures, SupportTexts& texts) {
   const std::optional<Single> rockLoad = figures.RockLoad.ValueOr({});
   if (!rockLoad) return Clear(outputs);
-  const std::string load = FormatNumber(*rockLoad, pattern);
-  for (TextBox& box : outputs.RockLoad) {
-    if (box.Text() != load) box.SetText(load);
-  }
+  for (TextBox& box : outputs.RockLoad) Show(box, texts.RockLoad.Of(rockLoad));
   for (std::size_t i = 0; i < SystemCount; ++i) {
     if (!figures.Systems[i].IsThere()) {
       Show(outputs.SupportCap[i], NoResult);
       Show(outputs.StabFactor[i], NoResult);
     } else if (const auto& result = figures.Systems[i].Value()) {
-      outputs.SupportCap[i].SetText(FormatNumber(result->Capacity, pattern));
-      outputs.StabFactor[i].SetText(FormatNumber(result->StabilityFactor, FactorPattern));
+      Show(outputs.SupportCap[i], texts.Capacities[i].Of(result->Capacity));
+      Show(outputs.StabFactor[i], texts.Factors[i].Of(result->StabilityFactor));
     }
   }
 }
@@ -57,24 +54,24 @@ void ParametersDialog::ShowSuggested() {
     }
     txtMessage.SetText(std::move(warnings));
     txtMessage.SetVisible(figures->SpanIsTooLarge || figures->SpanAndWidthMismatch);
+    warned_ = {figures->SpanIsTooLarge, figures->SpanAndWidthMismatch};
   }
-  Show(txtSugSumDiagonals, FormatNumber(figures->SuggestedSpan, OneDecimal));
-  Show(txtSuggestBoltLength, FormatNumber(figures->SugLength, OneDecimal));
-  Show(txtSugPSUP, FormatNumber(figures->SugPSUP, OneDecimal));
+  Show(txtSugSumDiagonals, texts_.SuggestedSpan.Of(figures->SuggestedSpan));
+  Show(txtSuggestBoltLength, texts_.SugLength.Of(figures->SugLength));
+  Show(txtSugPSUP, texts_.SugPSUP.Of(figures->SugPSUP));
 }
 
 void ParametersDialog::ShowActualPSUP() {
   ReadPart(DesignPart::Place);
   ReadPart(DesignPart::Primary);
   ReadPart(DesignPart::PrimaryBolt);
-  const std::optional<Single> psup = LivePSUP(typed_, program_.session.catalogs).ValueOr({});
-  Show(txtActualPSUP, psup ? FormatNumber(*psup, OneDecimal) : NoResult);
+  Show(txtActualPSUP, texts_.ActualPSUP.Of(LivePSUP(typed_, program_.session.catalogs).ValueOr({})));
 }
 
 void ParametersDialog::ShowEntries() {
   ReadPart(DesignPart::Place);
   ReadPart(DesignPart::Entries);
-  Show(EntryOutputs, EntryFigures(typed_, program_.session.catalogs), EntryPattern);
+  Show(EntryOutputs, EntryFigures(typed_, program_.session.catalogs), texts_.Entries);
 }
 
 void ParametersDialog::ShowIntersections() {
@@ -83,7 +80,7 @@ void ParametersDialog::ShowIntersections() {
   const Single unitWeight = typed_.Place.UnitWeight;
   // A bad unit weight clears the entries' results and leaves the intersections' unchanged.
   if (!IsUnfit(unitWeight) && !UnitWeightIsPlausible(unitWeight, Units())) return Clear(EntryOutputs);
-  Show(InterOutputs, IntersectionFigures(typed_, program_.session.catalogs), IntersectionPattern);
+  Show(InterOutputs, IntersectionFigures(typed_, program_.session.catalogs), texts_.Intersections);
 }
 
 }  // namespace orby

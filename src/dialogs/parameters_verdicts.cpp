@@ -1,11 +1,14 @@
 // The strip of judgements under the tabs of the parameters dialog.
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <span>
 #include <string_view>
 #include <utility>
 
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/shown_design.h"
+#include "dialogs/verdict_marks.h"
 #include "reports/verdict_text.h"
 
 namespace orby {
@@ -41,15 +44,13 @@ constexpr auto DecidingFields = std::to_array<DecidingField>({
     {Aspect::Standing, Opening::Intersections, "txtSupportNumberSecInter"},
 });
 
-std::string_view MarkOf(Holding result) {
-  constexpr std::array<std::string_view, 4> Marks{"holds", "check", "uncomputed", "short"};
-  return Marks.at(static_cast<std::size_t>(result));
-}
-
-const Verdict& SameOf(const Verdicts& verdicts, const Verdict& wanted) {
+// Returns the same judgement on the committed design. It has the same place, unless a commit changes what is judged.
+const Verdict& SameOf(const Verdicts& committed, std::size_t place, const Verdict& wanted) {
   const auto same = [&](const Verdict& other) { return other.What == wanted.What && other.Where == wanted.Where; };
-  const auto found = std::ranges::find_if(verdicts.All(), same);
-  return found == verdicts.All().end() ? wanted : *found;
+  const std::span<const Verdict> all = committed.All();
+  if (place < all.size() && same(all[place])) return all[place];
+  const auto found = std::ranges::find_if(all, same);
+  return found == all.end() ? wanted : *found;
 }
 
 std::string TextOf(const VerdictRow& row, UnitSystem units) {
@@ -64,38 +65,64 @@ std::string TextOf(const VerdictRow& row, UnitSystem units) {
 void ParametersDialog::ShowVerdicts() {
   const Catalogs& catalogs = program_.session.catalogs;
   ReadFields();
-  const Design committed = AsCommitted(typed_);
+  const Single committedRating = typed_.Place.CMRR;
   ReadPart(DesignPart::Place);  // with the rating as it was typed
-  const Verdicts found = Judge(typed_, Analyze(typed_, catalogs));
-  const bool differs = committed.Support() != typed_.Support();
-  const Verdicts committedVerdicts = differs ? Judge(committed, Analyze(committed, catalogs)) : found;
-
-  std::vector<Verdict> sorted(found.All().begin(), found.All().end());
-  std::ranges::stable_sort(sorted, std::ranges::greater(), &Verdict::Result);
-  std::vector<VerdictRow> rows;
-  rows.reserve(sorted.size());
-  for (const Verdict& verdict : sorted) {
-    VerdictRow row{verdict, SameOf(committedVerdicts, verdict), {}};
-    const auto shown = std::ranges::find_if(
-        verdicts_, [&](const VerdictRow& old) { return old.verdict == row.verdict && old.afterOk == row.afterOk; });
-    row.text = shown == verdicts_.end() ? TextOf(row, Units()) : std::move(shown->text);
-    rows.push_back(std::move(row));
+  const Figures figures = Analyze(typed_, catalogs);
+  const Verdicts found = Judge(typed_, figures);
+  if (committedRating == typed_.Place.CMRR && CommitKeepsFigures(typed_)) {
+    TakeVerdicts(found, found);
+  } else {
+    Design committed = AsCommitted(typed_);
+    committed.Place.CMRR = committedRating;
+    TakeVerdicts(found, Judge(committed, Analyze(committed, catalogs)));
   }
-  verdicts_ = std::move(rows);
-  ShowVerdictRows();
+  MarkOutputs(figures, found);
+}
+
+// Writes only the texts of judgements that have changed.
+void ParametersDialog::TakeVerdicts(const Verdicts& found, const Verdicts& committed) {
+  const std::span<const Verdict> all = found.All();
+  bool isSameOrder = verdicts_.size() == all.size() && !all.empty();
+  std::uint32_t changed = 0;  // a bit for each judgement
+  verdicts_.resize(all.size());
+  for (std::size_t i = 0; i < all.size(); ++i) {
+    const Verdict& afterOk = SameOf(committed, i, all[i]);
+    VerdictRow& row = verdicts_[i];
+    if (!row.text.empty() && row.verdict == all[i] && row.afterOk == afterOk) continue;
+    isSameOrder = isSameOrder && row.verdict.Result == all[i].Result;
+    row = {all[i], afterOk, {}};
+    row.text = TextOf(row, Units());
+    changed |= 1U << i;
+  }
+  if (isSameOrder && changed == 0) return;
+  if (!isSameOrder) OrderVerdicts(found);
+  ShowVerdictRows(changed, isSameOrder);
+}
+
+void ParametersDialog::OrderVerdicts(const Verdicts& found) {
+  order_.clear();
+  for (const Holding result : {Holding::Short, Holding::Uncomputed, Holding::Check, Holding::Holds}) {
+    for (std::size_t i = 0; i < verdicts_.size(); ++i) {
+      if (verdicts_[i].verdict.Result == result) order_.push_back(i);
+    }
+  }
   lblVerdicts.SetCaption("Judgements: " + VerdictCounts(found));
 }
 
-void ParametersDialog::ShowVerdictRows() {
-  if (std::ranges::equal(verdicts_, lstVerdicts.Items(), {}, &VerdictRow::text, &ComboItem::text)) return;
-  std::vector<ComboItem> items;
-  items.reserve(verdicts_.size());
-  for (const VerdictRow& row : verdicts_) items.push_back({.text = row.text, .mark = MarkOf(row.verdict.Result)});
+void ParametersDialog::ShowVerdictRows(std::uint32_t changed, bool isSameOrder) {
+  std::vector<ComboItem> items = lstVerdicts.TakeItems();
+  items.resize(verdicts_.size());
+  for (std::size_t place = 0; place < order_.size(); ++place) {
+    const std::size_t i = order_[place];
+    if (isSameOrder && (changed & 1U << i) == 0) continue;
+    items[place].text = verdicts_[i].text;
+    items[place].mark = MarkOf(verdicts_[i].verdict.Result);
+  }
   lstVerdicts.Fill(std::move(items));
 }
 
 void ParametersDialog::GoToVerdict(std::size_t row) {
-  const Verdict& verdict = verdicts_.at(row).verdict;
+  const Verdict& verdict = verdicts_.at(order_.at(row)).verdict;
   const auto field = std::ranges::find_if(DecidingFields, [&](const DecidingField& entry) {
     return entry.What == verdict.What && entry.Where == verdict.Where;
   });

@@ -104,6 +104,20 @@ Design AsCommitted(Design typed) {
   return typed;
 }
 
+// A commit changes only the manual selection of the intersections' bolts and the diameter of their cables.
+bool CommitKeepsFigures(const Design& typed) {
+  const SecondarySupport& support = typed.Intersections;
+  const bool keepsCable =
+      support.Cable.CapMode != CapacityMode::ByDiameter || support.Cable.Diam == typed.Entries.Cable.Diam;
+  if (support.Bolt.Options != BoltSource::Manual) return keepsCable;
+  BoltSelection manual;
+  manual.Options = BoltSource::Manual;
+  TakeManual(manual, typed.Entries.Bolt);
+  const Bolt now = SelectedBolt(support.Bolt);
+  const Bolt committed = SelectedBolt(manual);
+  return keepsCable && now.Diameter == committed.Diameter && now.Grade == committed.Grade;
+}
+
 Design AsOpened(const Project& project, const Catalogs& catalogs) {
   Catalogs offered = catalogs;
   const BoltTable& table = LoadBoltTable(project, offered);

@@ -37,6 +37,9 @@ Design AsPreviewed(Design typed);
 // Returns the design that OK commits: the intersections' bolts take the manual selection of the entries tab.
 Design AsCommitted(Design typed);
 
+// Returns true if every figure of AsCommitted(typed) is that of `typed`.
+bool CommitKeepsFigures(const Design& typed);
+
 // Returns the design that the fields of a dialog newly opened on the project hold. Throws as AsShown does.
 Design AsOpened(const Project& project, const Catalogs& catalogs);
 

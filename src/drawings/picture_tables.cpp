@@ -28,6 +28,12 @@ constexpr PictureOutline Description[] = {
      {.Colour = Ink::Text, .Width = 1.5}},
 };
 
+constexpr PictureOutline EarlierMark[] = {
+    {"M12 3C16.97 3 21 7.03 21 12 21 16.97 16.97 21 12 21 7.03 21 3 16.97 3 12 3 7.03 7.03 3 12 3ZM12 7L12 12.5 16 15",
+     {},
+     {.Colour = Ink::Doubtful, .Width = 2}},
+};
+
 constexpr PictureOutline Find[] = {
     {"M3.75 10.5C3.75 14.23 6.77 17.25 10.5 17.25 14.23 17.25 17.25 14.23 17.25 10.5 17.25 6.77 14.23 3.75 10.5 3.75 "
      "6.77 3.75 3.75 6.77 3.75 10.5ZM15.25 15.25L21 21",
@@ -113,11 +119,12 @@ constexpr PictureOutline ZoomOut[] = {
     {"M7.5 10.5L13.5 10.5", {}, {.Colour = Ink::Bolt, .Width = 1.5}},
 };
 
-constexpr std::array<Picture, 16> Pictures{{
+constexpr std::array<Picture, 17> Pictures{{
     {"back", 24, 24, Back, {}},
     {"check", 24, 24, CheckMark, {}},
     {"contents", 24, 24, Contents, {}},
     {"description", 24, 24, Description, {}},
+    {"earlier", 24, 24, EarlierMark, {}},
     {"find", 24, 24, Find, {}},
     {"forward", 24, 24, Forward, {}},
     {"holds", 24, 24, HoldsMark, {}},

@@ -25,9 +25,11 @@ enum class Aspect : std::uint8_t {
   CableAnchorage,  // the length beyond the rock load height
   BoltAnchorage,
 };
+inline constexpr std::size_t AspectCount = 12;
 
 // Where the judged support is.
 enum class Opening : std::uint8_t { Primary, Entries, Intersections };
+inline constexpr std::size_t OpeningCount = 3;
 
 // From the best to the worst.
 enum class Holding : std::uint8_t { Holds, Check, Uncomputed, Short };

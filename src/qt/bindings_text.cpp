@@ -88,6 +88,7 @@ class LineEditBinding : public QObject, public WidgetBinding<QLineEdit, TextBox>
 
   void Show() override {
     ShowState(widget_, control_);
+    ShowSign();
     const QString text = ToQt(control_.Text());
     if (widget_.text() == text) return;
     const QSignalBlocker quiet(widget_);
@@ -99,13 +100,13 @@ class LineEditBinding : public QObject, public WidgetBinding<QLineEdit, TextBox>
   }
   bool RetainsSize() const override { return true; }
 
-  bool CanBeMarked() const override { return control_.Kind() != TextKind::Output; }
+  bool CanBeMarked() const override { return true; }
   void ShowMark() override {
     if (hints_.IsOnView()) hints_.ShowMark(control_.Mark());
   }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() == QEvent::Paint) return hints_.Paint(event);
+    if (event->type() == QEvent::Paint) return PaintSigned(event);
     if (event->type() == QEvent::ToolTip) return hints_.ShowHint(*dynamic_cast<QHelpEvent*>(event));
     if (event->type() == QEvent::FocusOut) {
       isLent_ = IsLending(*dynamic_cast<QFocusEvent*>(event));
@@ -123,6 +124,22 @@ class LineEditBinding : public QObject, public WidgetBinding<QLineEdit, TextBox>
   }
 
  private:
+  void ShowSign() {
+    if (control_.Sign() == sign_) return;
+    sign_ = control_.Sign();
+    widget_.setTextMargins(0, 0, WidthOfSigns(sign_), 0);
+    widget_.update();
+    hints_.Describe();
+  }
+
+  // Returns true if the field has been painted. Only inputs have marks, and only outputs have signs.
+  bool PaintSigned(QEvent* event) {
+    if (sign_ == OutputSign()) return hints_.Paint(event);
+    static_cast<QObject&>(widget_).event(event);
+    PaintSign(widget_, sign_);
+    return true;
+  }
+
   // Returns true if the focus goes to a menu of the field or to another window, or returns from there.
   static bool IsLending(const QFocusEvent& focus) {
     return focus.reason() == Qt::PopupFocusReason || focus.reason() == Qt::ActiveWindowFocusReason;
@@ -164,6 +181,7 @@ class LineEditBinding : public QObject, public WidgetBinding<QLineEdit, TextBox>
   FieldHints hints_{control_, widget_, widget_};
   bool isLent_ = false;
   bool isTaking_ = false;  // true while the characters of a composed text are taken one by one
+  OutputSign sign_;        // as shown
 };
 
 // A text of several lines. An output shows its top, or its selection if there is one.
@@ -175,6 +193,7 @@ class TextAreaBinding : public QObject, public WidgetBinding<QPlainTextEdit, Tex
     if (bar_ != nullptr) bar_->Attach(*report, *report);
     widget_.setReadOnly(box.Kind() == TextKind::Output);
     widget_.setTabChangesFocus(true);
+    widget_.viewport()->installEventFilter(this);
     connect(&widget_, &QPlainTextEdit::textChanged, this, [this] {
       if (!IsUsable(widget_) || widget_.isReadOnly()) return Show();
       host_.Act([this] { control_.SetText(FromQtLines(widget_.toPlainText())); });
@@ -183,6 +202,7 @@ class TextAreaBinding : public QObject, public WidgetBinding<QPlainTextEdit, Tex
 
   void Show() override {
     ShowState(widget_, control_);
+    ShowSign();
     if (bar_ != nullptr) bar_->ShowLetters(host_.Letters());
     if (control_.Font() != shownFont_) {
       shownFont_ = control_.Font();
@@ -205,8 +225,23 @@ class TextAreaBinding : public QObject, public WidgetBinding<QPlainTextEdit, Tex
   }
   bool RetainsSize() const override { return true; }
 
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::ToolTip) return ShowHintOf(control_, widget_, *dynamic_cast<QHelpEvent*>(event));
+    return QObject::eventFilter(watched, event);
+  }
+
  private:
-  FindBar* bar_ = nullptr;  // the bar below a report
+  void ShowSign() {
+    if (control_.Sign() == sign_) return;
+    sign_ = control_.Sign();
+    if (cover_ == nullptr) cover_ = new SignCover(widget_);
+    cover_->Show(sign_);
+    DescribeByHint(widget_, control_);
+  }
+
+  FindBar* bar_ = nullptr;      // the bar below a report
+  SignCover* cover_ = nullptr;  // over an output that has had a sign
+  OutputSign sign_;             // as shown
   FontChoice shownFont_;
 };
 

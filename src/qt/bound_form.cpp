@@ -242,10 +242,9 @@ void BoundForm::Closed() {
 }
 
 void BoundForm::Act(const std::function<void()>& act) {
-  const bool isDone = RunGuarded(act);
+  if (RunGuarded(act) && form_.IsOpen()) RunGuarded([this] { form_.EndAct(); });
   // A mark depends on other fields too.
   for (Binding* binding : marked_) binding->ShowMark();
-  if (isDone && form_.IsOpen()) RunGuarded([this] { form_.EndAct(); });
 }
 
 void BoundForm::ActLater(std::function<void()> act) {

@@ -7,11 +7,31 @@
 #include "qt/texts.h"
 
 namespace orby {
+namespace {
 
-QStringList FieldHints::Lines() const {
+QStringList HintLines(const Control& control) {
   QStringList lines;
-  for (const std::string& line : control_.Owner().HintOf(control_)) lines.append(ToQt(line));
+  for (const std::string& line : control.Owner().HintOf(control)) lines.append(ToQt(line));
   return lines;
+}
+
+}  // namespace
+
+void DescribeByHint(QWidget& widget, const Control& control) {
+  if (ShowsControlNames()) return;
+  QString description;
+  for (const QString& line : HintLines(control).mid(1)) {
+    if (!description.isEmpty()) description += description.endsWith('.') ? " " : ". ";
+    description += line;
+  }
+  if (description != widget.accessibleDescription()) widget.setAccessibleDescription(description);
+}
+
+bool ShowHintOf(const Control& control, QWidget& widget, const QHelpEvent& event) {
+  const QStringList lines = HintLines(control);
+  if (lines.isEmpty()) return false;
+  QToolTip::showText(event.globalPos(), lines.join('\n'), &widget);
+  return true;
 }
 
 void FieldHints::ShowMark(FieldMark mark) {
@@ -21,23 +41,6 @@ void FieldHints::ShowMark(FieldMark mark) {
     line_.update();
   }
   if (isOther || QAccessible::isActive()) Describe();
-}
-
-void FieldHints::Describe() const {
-  if (ShowsControlNames()) return;
-  QString description;
-  for (const QString& line : Lines().mid(1)) {
-    if (!description.isEmpty()) description += description.endsWith('.') ? " " : ". ";
-    description += line;
-  }
-  if (description != widget_.accessibleDescription()) widget_.setAccessibleDescription(description);
-}
-
-bool FieldHints::ShowHint(const QHelpEvent& event) const {
-  const QStringList lines = Lines();
-  if (lines.isEmpty()) return false;
-  QToolTip::showText(event.globalPos(), lines.join('\n'), &widget_);
-  return true;
 }
 
 bool FieldHints::Paint(QEvent* event) {

@@ -10,6 +10,13 @@
 
 namespace orby {
 
+// Sets the hint of a control as the description of its widget for screen readers. The name of the widget is the
+// caption, which the description does not repeat.
+void DescribeByHint(QWidget& widget, const Control& control);
+
+// Shows the hint of a control as a tooltip. Returns false if there is none.
+bool ShowHintOf(const Control& control, QWidget& widget, const QHelpEvent& event);
+
 class FieldHints {
  public:
   // widget: has the focus and the tooltip. line: shows the text; the widget itself, or the line inside a list.
@@ -19,18 +26,13 @@ class FieldHints {
   // Returns false for a widget that is not on view. It is marked when it comes on view.
   bool IsOnView() const { return widget_.isVisible() || !widget_.window()->isVisible(); }
   void ShowMark(FieldMark mark);
-  // Sets the description for screen readers. The name of the widget is the caption, which the description does not
-  // repeat.
-  void Describe() const;
-  // Shows the hint as a tooltip. Returns false if there is none.
-  bool ShowHint(const QHelpEvent& event) const;
+  void Describe() const { DescribeByHint(widget_, control_); }
+  bool ShowHint(const QHelpEvent& event) const { return ShowHintOf(control_, widget_, event); }
   // Paints the line and its mark, during the line's paint event, before the line itself. Returns false if there is no
   // mark.
   bool Paint(QEvent* event);
 
  private:
-  QStringList Lines() const;
-
   const Control& control_;
   QWidget& widget_;
   QLineEdit& line_;

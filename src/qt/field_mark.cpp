@@ -1,10 +1,16 @@
 #include "qt/field_mark.h"
 
+#include <QApplication>
+#include <QEvent>
+#include <QIcon>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QPolygonF>
 #include <algorithm>
 
 #include "drawings/inks.h"
+#include "qt/pictures.h"
+#include "qt/texts.h"
 
 namespace orby {
 namespace {
@@ -13,13 +19,38 @@ constexpr qreal EdgeWidth = 2;
 constexpr int LargestSign = 14;
 constexpr int SignMargin = 4;  // to the edge of the field
 
-QRectF PlaceOfSign(const QLineEdit& field) {
-  const int size = std::min(LargestSign, field.height() - 2 * SignMargin);
+constexpr std::string_view EarlierInputs = "earlier";  // the picture for a text of earlier inputs
+
+int SizeOfSign(const QWidget& field) { return std::min(LargestSign, field.height() - 2 * SignMargin); }
+
+QRectF PlaceOfSign(const QWidget& field) {
+  const int size = SizeOfSign(field);
   return {static_cast<qreal>(field.width() - SignMargin - size), (field.height() - size) / 2.0,
           static_cast<qreal>(size), static_cast<qreal>(size)};
 }
 
-void PaintSign(QPainter& painter, const QRectF& place, FieldMark mark, const QColor& ink) {
+void PaintEdge(QPainter& painter, const QWidget& field, FieldMark mark) {
+  QPen edge(ColorOfMark(mark, field.palette()), EdgeWidth,
+            mark == FieldMark::OutOfRange ? Qt::SolidLine : Qt::DashLine);
+  edge.setJoinStyle(Qt::MiterJoin);
+  painter.setPen(edge);
+  painter.drawRect(QRectF(field.rect()).adjusted(1, 1, -1, -1));
+}
+
+// Drawn once for each size and palette, because an output is painted after most keys.
+QPixmap PictureOfSign(std::string_view name, const QWidget& output) {
+  const int size = SizeOfSign(output);
+  const qreal ratio = output.devicePixelRatioF();
+  const QString key =
+      QString("sign %1 %2 %3 %4").arg(ToQt(name)).arg(size).arg(ratio).arg(QApplication::palette().cacheKey());
+  QPixmap picture;
+  if (QPixmapCache::find(key, &picture)) return picture;
+  picture = ThemedIcon(ToQt(name)).pixmap(QSize(size, size), ratio);
+  QPixmapCache::insert(key, picture);
+  return picture;
+}
+
+void DrawSign(QPainter& painter, const QRectF& place, FieldMark mark, const QColor& ink) {
   painter.setPen(Qt::NoPen);
   if (mark == FieldMark::OutOfRange) {
     painter.drawPolygon(QPolygonF{{QPointF(place.center().x(), place.top()), place.bottomRight(), place.bottomLeft()}});
@@ -47,16 +78,51 @@ QColor ColorOfMark(FieldMark mark, const QPalette& palette) {
 void PaintMark(QLineEdit& field, FieldMark mark) {
   QPainter painter(&field);
   painter.setRenderHint(QPainter::Antialiasing);
-  const QColor color = ColorOfMark(mark, field.palette());
-  QPen edge(color, EdgeWidth, mark == FieldMark::OutOfRange ? Qt::SolidLine : Qt::DashLine);
-  edge.setJoinStyle(Qt::MiterJoin);
-  painter.setPen(edge);
-  painter.drawRect(QRectF(field.rect()).adjusted(1, 1, -1, -1));
+  PaintEdge(painter, field, mark);
   const QRectF sign = PlaceOfSign(field);
   const QColor base = field.palette().color(QPalette::Base);
   painter.fillRect(sign.adjusted(-2, 0, 1, 0), base);
-  painter.setBrush(color);
-  PaintSign(painter, sign, mark, base);
+  painter.setBrush(ColorOfMark(mark, field.palette()));
+  DrawSign(painter, sign, mark, base);
+}
+
+void PaintSign(QWidget& output, const OutputSign& sign) {
+  QPainter painter(&output);
+  painter.setRenderHint(QPainter::Antialiasing);
+  QPointF place = PlaceOfSign(output).topLeft();
+  const auto draw = [&](std::string_view picture) {
+    painter.drawPixmap(place, PictureOfSign(picture, output));
+    place.rx() -= SizeOfSign(output) + SignMargin;
+  };
+  if (!sign.Judgement.empty()) draw(sign.Judgement);
+  if (!sign.IsOfEarlierInputs) return;
+  draw(EarlierInputs);
+  PaintEdge(painter, output, FieldMark::PartlyRead);
+}
+
+int WidthOfSigns(const OutputSign& sign) {
+  const int count = (sign.Judgement.empty() ? 0 : 1) + (sign.IsOfEarlierInputs ? 1 : 0);
+  return count * (LargestSign + SignMargin);
+}
+
+SignCover::SignCover(QWidget& output) : QWidget(&output) {
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+  setGeometry(output.rect());
+  output.installEventFilter(this);
+}
+
+void SignCover::Show(const OutputSign& sign) {
+  sign_ = sign;
+  setVisible(sign.IsOfEarlierInputs || !sign.Judgement.empty());
+  raise();
+  update();
+}
+
+void SignCover::paintEvent(QPaintEvent* /*event*/) { PaintSign(*this, sign_); }
+
+bool SignCover::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Resize) setGeometry(parentWidget()->rect());
+  return QWidget::eventFilter(watched, event);
 }
 
 }  // namespace orby

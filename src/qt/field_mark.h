@@ -1,4 +1,5 @@
-// Draws the mark of a number field: an edge and a sign, so that it is told by shape as well as by colour.
+// Draws the mark of a number field, and what is shown beside the text of an output: edges and signs, so that they are
+// told by shape as well as by colour.
 #pragma once
 
 #include <QColor>
@@ -16,5 +17,25 @@ QColor ColorOfMark(FieldMark mark, const QPalette& palette);
 // Paints the mark over the field, during the field's paint event. A text that is partly read has a dashed edge and a
 // question mark in a disc, a number out of range a solid edge and an exclamation mark in a triangle.
 void PaintMark(QLineEdit& field, FieldMark mark);
+
+// Paints the picture of a judgement at the right, and for a text of earlier inputs a dashed edge and a clock beside it.
+void PaintSign(QWidget& output, const OutputSign& sign);
+
+// Returns the width that the signs need at the right of an output, at most.
+int WidthOfSigns(const OutputSign& sign);
+
+// Paints the sign over an output of several lines, which scrolls its text below it. Takes neither keys nor the mouse.
+class SignCover : public QWidget {
+ public:
+  explicit SignCover(QWidget& output);
+  void Show(const OutputSign& sign);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  OutputSign sign_;
+};
 
 }  // namespace orby

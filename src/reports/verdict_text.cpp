@@ -38,10 +38,16 @@ const Wording& WordingOf(const Verdict& verdict) { return Wordings.at(static_cas
 
 bool IsSystem(Aspect what) { return what >= Aspect::Cables && what <= Aspect::Standing; }
 
-std::string UnitText(const Verdict& verdict, UnitSystem units) {
+std::string_view UnitText(const Verdict& verdict, UnitSystem units) {
   UnitSuffix unit = WordingOf(verdict).Unit;
   if (unit == UnitSuffix::LineLoad && verdict.Where == Opening::Intersections) unit = UnitSuffix::Force;
-  return unit == UnitSuffix::None ? "" : " " + std::string(UnitName(unit, units));
+  return unit == UnitSuffix::None ? std::string_view() : UnitName(unit, units);
+}
+
+// Appends all parts to a text. Judgements are worded after each key, so no part becomes a text of its own.
+template <class... Parts>
+void Append(std::string& text, const Parts&... parts) {
+  (text.append(parts), ...);
 }
 
 // Two numbers that differ have as many decimals as it takes to see it.
@@ -76,22 +82,28 @@ std::string_view ReasonText(const Verdict& verdict) {
   }
 }
 
-// Returns the remark behind the figures, with the comma before it.
-std::string RemarkOn(const Verdict& verdict) {
+// Appends the remark on the figures, with the comma before it.
+void AppendRemark(std::string& text, const Verdict& verdict) {
   const Wording& wording = WordingOf(verdict);
-  std::string remark;
-  if (IsSystem(verdict.What)) remark += ", stability factor " + FormatNumber(verdict.Factor, "0.00");
+  if (IsSystem(verdict.What)) Append(text, ", stability factor ", FormatNumber(verdict.Factor, "0.00"));
   if (verdict.Result == Holding::Short) {
-    remark += ", " + std::string(wording.Short) + " " + PercentText(ShareMissing(verdict));
+    Append(text, ", ", wording.Short, " ", PercentText(ShareMissing(verdict)));
   } else if (verdict.Result == Holding::Check && !wording.Check.empty()) {
-    remark += ", " + std::string(wording.Check);
+    Append(text, ", ", wording.Check);
   } else if (verdict.Result == Holding::Check) {
-    remark += ", below the " + FormatNumber(verdict.WantedFactor, "0.00") + " of the project";
+    Append(text, ", below the ", FormatNumber(verdict.WantedFactor, "0.00"), " of the project");
   } else if (verdict.What == Aspect::Psup && verdict.Supply < verdict.Demand) {
-    remark += ", skin control or suspension";
+    text += ", skin control or suspension";
   }
-  if (verdict.ReportDiffers) remark += "; the report judges the bolts of the entries";
-  return remark;
+  if (verdict.ReportDiffers) text += "; the report judges the bolts of the entries";
+}
+
+void AppendFigures(std::string& text, const Verdict& verdict, UnitSystem units) {
+  if (verdict.Result == Holding::Uncomputed) return Append(text, ReasonText(verdict));
+  const NumberPair texts = TextsOf(verdict);
+  Append(text, texts.Supply, " ", WordingOf(verdict).Relation, " ", texts.Demand);
+  if (const std::string_view unit = UnitText(verdict, units); !unit.empty()) Append(text, " ", unit);
+  AppendRemark(text, verdict);
 }
 
 std::string_view HoldingWord(Holding result) {
@@ -99,23 +111,27 @@ std::string_view HoldingWord(Holding result) {
   return Words.at(static_cast<std::size_t>(result));
 }
 
-std::string VerdictSubject(const Verdict& verdict) {
+std::string_view PlaceText(Opening where) {
   constexpr std::array<std::string_view, 3> Places{"", " in entries", " in intersections"};
-  return std::string(WordingOf(verdict).Subject) + std::string(Places.at(static_cast<std::size_t>(verdict.Where)));
+  return Places.at(static_cast<std::size_t>(where));
 }
 
 }  // namespace
 
 std::string VerdictFigures(const Verdict& verdict, UnitSystem units) {
-  if (verdict.Result == Holding::Uncomputed) return std::string(ReasonText(verdict));
-  const NumberPair texts = TextsOf(verdict);
-  return texts.Supply + " " + std::string(WordingOf(verdict).Relation) + " " + texts.Demand + UnitText(verdict, units) +
-         RemarkOn(verdict);
+  std::string text;
+  AppendFigures(text, verdict, units);
+  return text;
 }
 
 std::string VerdictLine(const Verdict& verdict, UnitSystem units) {
-  return std::string(HoldingWord(verdict.Result)) + ": " + VerdictSubject(verdict) + " " +
-         (verdict.Result == Holding::Uncomputed ? "- " : "") + VerdictFigures(verdict, units);
+  constexpr std::size_t Usual = 120;
+  std::string line;
+  line.reserve(Usual);
+  Append(line, HoldingWord(verdict.Result), ": ", WordingOf(verdict).Subject, PlaceText(verdict.Where), " ",
+         verdict.Result == Holding::Uncomputed ? "- " : "");
+  AppendFigures(line, verdict, units);
+  return line;
 }
 
 std::string VerdictCounts(const Verdicts& verdicts) {

@@ -87,6 +87,17 @@ TEST_F(Judgements, SayWhatCannotBeComputed) {
               Contains("Cannot be computed: Sum of diagonals - roof rating, depth, span or entry width are missing"));
 }
 
+TEST_F(Judgements, SayThatNothingIsAnalysedWhenTheDialogOpens) {
+  for (Integer* analysed : {&program.project.WorkParms.Primary.Analysed, &program.project.WorkParms.Entries.Analysed,
+                            &program.project.WorkParms.Intersections.Analysed}) {
+    *analysed = 0;
+  }
+  ParametersDialog other(program);
+  other.Open();
+
+  EXPECT_EQ(other.lblVerdicts.Caption(), "Judgements: Nothing is analysed");
+}
+
 TEST_F(Judgements, LeadToTheFieldThatDecides) {
   Type(
       "txtBoltLengthPrimary=2|txtRowSpacingPrimary=8|chkSecondSupInter=1|chkSecInter_0=1|chkSecInter_1=1|chkSecInter_2="

@@ -60,7 +60,7 @@ TEST_P(EveryPicture, DrawsItsLinesInTheColourOfTheText) {
   const QColor lines(0xfe, 0xdc, 0xba);
   const QImage image = Drawn(GetParam(), lines);
 
-  constexpr std::array<std::string_view, 5> Coloured{"orby", "check", "holds", "short", "uncomputed"};
+  constexpr std::array<std::string_view, 6> Coloured{"orby", "check", "earlier", "holds", "short", "uncomputed"};
   const bool isColoured = std::ranges::find(Coloured, GetParam()) != Coloured.end();
   EXPECT_EQ(HasColor(image, lines), !isColoured) << "the program's icon and the marks have colours of their own";
   EXPECT_FALSE(HasColor(image, Qt::black));
