@@ -75,6 +75,10 @@ class TextBox : public Control {
 
   // Returns true for a field whose text is read as a number.
   bool TakesNumber() const { return kind_ == TextKind::Number || Range; }
+  // Returns true for a field whose text is a number, typed or only shown.
+  bool IsNumberField() const { return TakesNumber() || (kind_ == TextKind::Output && showsNumber_); }
+  // Says that an output shows texts such as names.
+  void SetShowsText() { showsNumber_ = false; }
   NumberReading Reading() const;
   // Returns the mark of the text as it is now. It depends on other fields too, as the checks do.
   FieldMark Mark() const;
@@ -106,6 +110,7 @@ class TextBox : public Control {
   UnitSuffix suffix_;
   std::string caption_;
   OutputSign sign_;
+  bool showsNumber_ = true;
   FontChoice font_;
   std::size_t selectionStart_ = 0;
   std::size_t selectionLength_ = 0;

@@ -56,6 +56,7 @@ std::string PathOf(const Program& program, const Backup& entry) {
 }  // namespace
 
 BackupsWindow::BackupsWindow(Program& program) : ProgramForm(program, "frmBackups", "Backups") {
+  for (TextBox* box : {&txtProject, &txtTitle, &txtUnits}) box->SetShowsText();
   grdBackups.SetStretchedColumn(0);
   grdBackups.Change = [this] { ShowSelected(); };
   cmdOpen.Click = [this] {

@@ -4,11 +4,13 @@
 #include <array>
 #include <cstddef>
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "controls/controls.h"
 #include "controls/grid.h"
 #include "core/program_form.h"
+#include "design/units.h"
 
 namespace orby {
 
@@ -81,17 +83,19 @@ class OptionsControls : public ProgramForm {
 
   // Default Parameters (English) and (Metric)
   Numbers txtCMRR = Fields({"txtCMRR_0", "txtCMRR_1"}, "Coal Mine Roof Rating");
-  Numbers txtDepthofCover = Fields({"txtDepthofCover_0", "txtDepthofCover_1"}, "Depth of Cover");
-  Numbers txtUnitWeight = Fields({"txtUnitWeight_0", "txtUnitWeight_1"}, "Unit Weight");
-  Numbers txtActualSpan = Fields({"txtActualSpan_0", "txtActualSpan_1"}, "Actual Intersection Sum of Diagonals");
-  Numbers txtEntryWidth = Fields({"txtEntryWidth_0", "txtEntryWidth_1"}, "Entry Width");
+  Numbers txtDepthofCover = Fields({"txtDepthofCover_0", "txtDepthofCover_1"}, "Depth of Cover", UnitSuffix::Length);
+  Numbers txtUnitWeight = Fields({"txtUnitWeight_0", "txtUnitWeight_1"}, "Unit Weight", UnitSuffix::UnitWeight);
+  Numbers txtActualSpan =
+      Fields({"txtActualSpan_0", "txtActualSpan_1"}, "Actual Intersection Sum of Diagonals", UnitSuffix::Length);
+  Numbers txtEntryWidth = Fields({"txtEntryWidth_0", "txtEntryWidth_1"}, "Entry Width", UnitSuffix::Length);
   Numbers txtStabilityFactor = Fields({"txtStabilityFactor_0", "txtStabilityFactor_1"}, "Stability Factor");
-  Numbers txtActualBoltLength = Fields({"txtActualBoltLength_0", "txtActualBoltLength_1"}, "Actual Bolt Length");
-  Numbers txtBoltDiameter = Fields({"txtBoltDiameter_0", "txtBoltDiameter_1"}, "Bolt Diameter");
-  Numbers txtBoltGrade = Fields({"txtBoltGrade_0", "txtBoltGrade_1"}, "Bolt Grade");
-  Numbers txtBoltUTS = Fields({"txtBoltUTS_0", "txtBoltUTS_1"}, "Bolt UTS");
+  Numbers txtActualBoltLength =
+      Fields({"txtActualBoltLength_0", "txtActualBoltLength_1"}, "Actual Bolt Length", UnitSuffix::Length);
+  Numbers txtBoltDiameter = Fields({"txtBoltDiameter_0", "txtBoltDiameter_1"}, "Bolt Diameter", UnitSuffix::Diameter);
+  Numbers txtBoltGrade = Fields({"txtBoltGrade_0", "txtBoltGrade_1"}, "Bolt Grade", UnitSuffix::Grade);
+  Numbers txtBoltUTS = Fields({"txtBoltUTS_0", "txtBoltUTS_1"}, "Bolt UTS", UnitSuffix::Grade);
   Numbers txtBoltsperRow = Fields({"txtBoltsperRow_0", "txtBoltsperRow_1"}, "Number of Bolts per Row");
-  Numbers txtRowSpacing = Fields({"txtRowSpacing_0", "txtRowSpacing_1"}, "Row Spacing");
+  Numbers txtRowSpacing = Fields({"txtRowSpacing_0", "txtRowSpacing_1"}, "Row Spacing", UnitSuffix::Length);
   std::array<BoltListControls, bolt_catalog::Count> bolts{
       BoltListControls{*this,
                        "fraBolts_0",
@@ -160,9 +164,17 @@ class OptionsControls : public ProgramForm {
   static constexpr std::string_view DeleteRow = "Delete Row";
   static constexpr std::string_view ResetDefault = "Reset Default";
 
-  Numbers Fields(const Names& names, std::string_view caption) {
-    return {LabelledBox{*this, names[0], TextKind::Number, caption},
-            LabelledBox{*this, names[1], TextKind::Number, caption}};
+  static std::string CaptionWithUnit(std::string_view caption, UnitSuffix suffix, UnitSystem units) {
+    std::string text(caption);
+    if (suffix != UnitSuffix::None) text += UnitLabel(suffix, units);
+    return text;
+  }
+  // The captions end in the units of the page, whatever the units of the project.
+  Numbers Fields(const Names& names, std::string_view caption, UnitSuffix suffix = UnitSuffix::None) {
+    const auto field = [&](std::string_view name, UnitSystem units) {
+      return LabelledBox{*this, name, TextKind::Number, CaptionWithUnit(caption, suffix, units)};
+    };
+    return {field(names[0], UnitSystem::English), field(names[1], UnitSystem::Metric)};
   }
   Buttons Commands(const Names& names, std::string_view caption) {
     return {Button{*this, names[0], caption}, Button{*this, names[1], caption}};

@@ -98,6 +98,8 @@ constexpr int CapacityColumnWidth = 2000;
 void Take(double value, Single& target) { target = ToSingle(value); }
 void Take(double value, Integer& target) { target = ToInteger(std::trunc(value)); }
 
+std::string_view WithoutUnit(std::string_view caption) { return caption.substr(0, caption.find(" (")); }
+
 }  // namespace
 
 OptionsDialog::OptionsDialog(Program& program)
@@ -170,7 +172,8 @@ bool OptionsDialog::CheckFaults() {
       const auto value = FittingNumber(field.Text());
       if (value && row.Limits().Include(*value)) continue;
       const bool isChecked = !row.Fault.empty();
-      ReportFault(isChecked ? std::string(row.Fault) : fault_text::TooLarge(field.LabelCaption(), field.Text()));
+      ReportFault(isChecked ? std::string(row.Fault)
+                            : fault_text::TooLarge(WithoutUnit(field.LabelCaption()), field.Text()));
       GoTo(page, field);
       return false;
     }

@@ -69,6 +69,7 @@ void StoreFont(const FontChoice& font, TextBrowseSettings& stored) {
 }  // namespace
 
 TextBrowser::TextBrowser(Program& program) : ProgramForm(program, "frmTextBrow", "View Source Files") {
+  Label1.SetShowsText();
   Drive1.Change = [this] { ChangeDrive(); };
   Dir1.Click = [this] { ChangeFolder(Dir1.ListIndex()); };
   File1.Click = [this] { ViewFile(File1.ListIndex()); };

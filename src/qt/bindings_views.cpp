@@ -34,6 +34,8 @@ class TabBinding : public QObject, public WidgetBinding<QTabWidget, TabSet> {
   TabBinding(BindingHost& host, TabSet& tabs) : WidgetBinding(host, tabs) {
     QObject::connect(&widget_, &QTabWidget::currentChanged, &widget_, [this](int tab) { Turn(tab); });
     widget_.tabBar()->installEventFilter(this);
+    // All tabs are on view. A window that is too small scrolls as a whole.
+    widget_.setUsesScrollButtons(false);
   }
 
   // On a disabled tab, a partial wheel step makes the toolkit search for the next tab in an endless loop.

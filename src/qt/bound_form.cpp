@@ -16,6 +16,7 @@
 
 #include "controls/edit_history.h"
 #include "qt/boundary.h"
+#include "qt/measures.h"
 #include "qt/texts.h"
 
 namespace orby {
@@ -75,6 +76,7 @@ BoundForm::BoundForm(Form& form, QWidget& root) : form_(form), root_(root) {
   AssignLetters();
   for (const Control* control : form.Controls()) bindings_.at(control)->Show();
   CaptionChanged();
+  ApplyMeasures();
   RetainSizes();
   OrderTabs();
   NameForReaders();
@@ -161,6 +163,26 @@ void BoundForm::RetainSizes() {
       widget->setSizePolicy(policy);
     }
   }
+}
+
+void BoundForm::ApplyMeasures() {
+  if (dynamic_cast<QDialog*>(&root_) == nullptr) return;
+  std::vector<QLineEdit*> numbers;
+  std::vector<QPushButton*> buttons;
+  std::vector<const Control*> editors;  // of the cells of grids
+  for (const Control* control : form_.Controls()) {
+    if (const auto* grid = dynamic_cast<const Grid*>(control)) editors.push_back(grid->Overlay());
+  }
+  for (const Control* control : form_.Controls()) {
+    QWidget* widget = WidgetOf(*control);
+    if (auto* button = dynamic_cast<QPushButton*>(widget)) buttons.push_back(button);
+    const auto* box = dynamic_cast<const TextBox*>(control);
+    auto* field = dynamic_cast<QLineEdit*>(widget);
+    if (box == nullptr || field == nullptr || std::ranges::count(editors, box) > 0) continue;
+    if (box->IsNumberField()) numbers.push_back(field);
+  }
+  AlignNumberFields(form_.Name(), numbers);
+  ArrangeDialogButtons(buttons);
 }
 
 void BoundForm::OrderTabs() {

@@ -56,6 +56,7 @@ class BoundForm final : public QObject, public FormView, public BindingHost {
   void BindControls();
   void TieEdits();
   void AssignLetters();
+  void ApplyMeasures();
   void RetainSizes();
   void OrderTabs();
   void NameForReaders();

@@ -128,23 +128,6 @@ void UpdateLayouts(QWidget& widget) {
   widget.layout()->activate();
 }
 
-// Returns the size that shows the whole window, including the contents of its scroll area. A base size in a layout is
-// the extra space that a widget would like to have.
-QSize WholeSize(QWidget& window) {
-  for (QWidget* child : window.findChildren<QWidget*>()) child->ensurePolished();
-  window.ensurePolished();
-  QSize size = window.sizeHint();
-  for (const QWidget* child : window.findChildren<QWidget*>()) {
-    const QSize needed = child->sizeHint().expandedTo(child->minimumSize());
-    if (!child->baseSize().isEmpty()) size += (child->baseSize() - needed).expandedTo(QSize(0, 0));
-  }
-  if (const auto* scroll = window.findChild<QScrollArea*>("viewScroll")) {
-    UpdateLayouts(*scroll->widget());
-    size += scroll->widget()->sizeHint() - scroll->sizeHint();
-  }
-  return size;
-}
-
 // Divides the window by the stretch factors of its parts. By itself, the toolkit starts from the sizes that they hint.
 void DivideByStretch(QWidget& window) {
   for (auto* divider : window.findChildren<QSplitter*>()) {
@@ -192,6 +175,22 @@ std::unique_ptr<QWidget> MakeWindow(const Form& form, QWidget* parent) {
   InstallFrameReader();
   InstallDrawingReader();
   return entry->make(parent);
+}
+
+// A base size in a layout is the extra space that a widget would like to have.
+QSize WholeSize(QWidget& window) {
+  for (QWidget* child : window.findChildren<QWidget*>()) child->ensurePolished();
+  window.ensurePolished();
+  QSize size = window.sizeHint().expandedTo(QSize(WidthOfTitle(window), 0));
+  for (const QWidget* child : window.findChildren<QWidget*>()) {
+    const QSize needed = child->sizeHint().expandedTo(child->minimumSize());
+    if (!child->baseSize().isEmpty()) size += (child->baseSize() - needed).expandedTo(QSize(0, 0));
+  }
+  if (const auto* scroll = window.findChild<QScrollArea*>("viewScroll")) {
+    UpdateLayouts(*scroll->widget());
+    size += scroll->widget()->sizeHint() - scroll->sizeHint();
+  }
+  return size;
 }
 
 QtWindows::QtWindows() = default;

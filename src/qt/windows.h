@@ -16,6 +16,9 @@ namespace orby {
 // layout.
 std::unique_ptr<QWidget> MakeWindow(const Form& form, QWidget* parent);
 
+// Returns the size that shows the whole window, including the contents of its scroll area.
+QSize WholeSize(QWidget& window);
+
 class QtWindows : public Windows {
  public:
   QtWindows();

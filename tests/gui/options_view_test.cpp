@@ -312,8 +312,17 @@ TEST_F(OptionsView, NamesTheEditedCellForScreenReaders) {
   });
 }
 
+// Adds so many rows that the grid scrolls.
+void AddManyStands(const QDialog& window) {
+  for (int row = 0; row < 30; ++row) {
+    Click(window, "cmdAddStandSupport");
+    Settle();
+  }
+}
+
 TEST_F(OptionsView, KeepsTheFieldOverItsCellWhateverMoves) {
   UsePage(StandsPage, [](QDialog& window) {
+    AddManyStands(window);
     auto& table = Find<QTableWidget>(window, "VSFlexGridStand");
     ClickCell(window, "VSFlexGridStand", 0, 2);
 
@@ -332,6 +341,7 @@ TEST_F(OptionsView, KeepsTheFieldOverItsCellWhateverMoves) {
 
 TEST_F(OptionsView, ScrollsTheEditedCellIntoView) {
   UsePage(StandsPage, [](QDialog& window) {
+    AddManyStands(window);
     window.resize(window.width(), 320);
     Settle();
     Find<QTableWidget>(window, "VSFlexGridStand").scrollToBottom();
