@@ -1,7 +1,6 @@
 #include "shell/summary_pane.h"
 
 #include <algorithm>
-#include <array>
 #include <string_view>
 #include <utility>
 
@@ -11,17 +10,13 @@
 #include "core/dialog_helpers.h"
 #include "dialogs/catalog_choice.h"
 #include "dialogs/shown_design.h"
+#include "dialogs/verdict_marks.h"
 #include "engine/verdicts.h"
 #include "reports/verdict_text.h"
 #include "sketches/sketches.h"
 
 namespace orby {
 namespace {
-
-std::string_view PictureOf(Holding result) {
-  constexpr std::array<std::string_view, 4> Marks{"holds", "check", "uncomputed", "short"};
-  return Marks.at(static_cast<std::size_t>(result));
-}
 
 // Returns the project as a newly opened parameters dialog shows it, or nothing if it cannot be shown.
 std::optional<Design> ShownDesign(const Project& project, const Catalogs& catalogs) {
@@ -110,7 +105,7 @@ void SummaryPane::ShowVerdicts() {
   std::vector<ComboItem> rows;
   rows.reserve(sorted.size());
   for (const Verdict& verdict : sorted) {
-    rows.push_back({.text = VerdictLine(verdict, shown_->Units), .mark = PictureOf(verdict.Result)});
+    rows.push_back({.text = VerdictLine(verdict, shown_->Units), .mark = MarkOf(verdict.Result)});
   }
   lstVerdicts.SetVisible(!rows.empty());
   lstVerdicts.Fill(std::move(rows));
