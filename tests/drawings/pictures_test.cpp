@@ -32,7 +32,7 @@ TEST(PictureNames, NameEachPictureOnce) {
   const auto names = PictureNames();
 
   EXPECT_EQ(std::set<std::string_view>(names.begin(), names.end()).size(), names.size());
-  EXPECT_EQ(names.size(), 22U);
+  EXPECT_EQ(names.size(), 23U);
 }
 
 TEST(Pictures, AreEmptyForAnUnknownName) { EXPECT_TRUE(PictureScene("nothing").Outlines.empty()); }
