@@ -56,6 +56,7 @@ SummaryCommands MainWindow::CommandsOfSummary() {
           .Open = [this] { FileCommand(FileItem::Open); },
           .Parameters = [this] { EditCommand(EditItem::Parameters); },
           .Results = [this] { ShowProjectResults(); },
+          .Study = [this] { StudyCommand(StudyItem::WhatWouldHold); },
           .OpenRecent = [this](Integer item) { OpenRecent(item); },
           .OpenFile = [this](const std::string& path) { OpenFile(path, Trap::Set); }};
 }

@@ -55,6 +55,7 @@ SummaryPane::SummaryPane(Program& program, SummaryCommands commands)
 void SummaryPane::TieCommands() {
   cmdParameters.Click = commands_.Parameters;
   cmdResults.Click = commands_.Results;
+  cmdStudy.Click = commands_.Study;
   cmdNew.Click = commands_.New;
   cmdOpen.Click = commands_.Open;
   picDesign.Resize = [this] { ShowDrawing(); };
@@ -70,7 +71,7 @@ void SummaryPane::Refresh() {
   if (!IsOpen()) return;
   const bool hasProject = !program_.project.FileEmpty;
   shown_ = hasProject ? ShownDesign(program_.project, program_.session.catalogs) : std::nullopt;
-  ShowAll({&lblProject, &lblFile, &lblUnits, &cmdParameters, &cmdResults, &lblVerdicts}, hasProject);
+  ShowAll({&lblProject, &lblFile, &lblUnits, &cmdParameters, &cmdResults, &cmdStudy, &lblVerdicts}, hasProject);
   ShowAll({&picDesign, &lstVerdicts}, shown_.has_value());
   ShowAll({&lblBegin, &cmdNew, &cmdOpen}, !hasProject);
   if (hasProject) {

@@ -22,6 +22,7 @@ struct SummaryCommands {
   Event Open;
   Event Parameters;
   Event Results;
+  Event Study;
   std::function<void(Integer item)> OpenRecent;  // an entry of the recent files, from 1
   std::function<void(const std::string& path)> OpenFile;
 };
@@ -34,6 +35,7 @@ class SummaryPane : public ProgramForm {
   Label lblUnits{*this, "lblUnits", {}};
   Button cmdParameters{*this, "cmdParameters", "&Parameters..."};
   Button cmdResults{*this, "cmdResults", "&Results..."};
+  Button cmdStudy{*this, "cmdStudy", "&What Would Hold..."};
   Drawing picDesign{*this, "picDesign", "Primary support of an entry"};
   Label lblVerdicts{*this, "lblVerdicts", "&Judgements"};
   List lstVerdicts{*this, "lstVerdicts"};

@@ -69,7 +69,7 @@ TEST_F(SummaryOnView, OffersABeginningWithoutAProject) {
 TEST_F(SummaryOnView, ShowsAnOpenProjectWithItsDrawing) {
   OpenFile(Example("weak-roof.ORB"));
 
-  EXPECT_THAT(PartsOnView(), ElementsAre("lblProject", "lblFile", "lblUnits", "cmdParameters", "cmdResults",
+  EXPECT_THAT(PartsOnView(), ElementsAre("lblProject", "lblFile", "lblUnits", "cmdParameters", "cmdResults", "cmdStudy",
                                          "picDesign", "lblVerdicts", "lstVerdicts"));
   EXPECT_EQ(TextOn(View(), "lblProject"), "Cinder Hollow, fault zone");
   EXPECT_GT(ColoursIn(Find(View(), "picDesign")), 20);
@@ -153,13 +153,13 @@ TEST_F(SummaryOnView, OpensARecentFileByTheEnterKey) {
 
 TEST_F(SummaryOnView, HasATopicForEachPart) {
   OpenFile(Example("weak-roof.ORB"));
-  for (const char* part : {"cmdParameters", "cmdResults", "picDesign", "lstVerdicts"}) {
+  for (const char* part : {"cmdParameters", "cmdResults", "cmdStudy", "picDesign", "lstVerdicts"}) {
     TabTo(part);
     Press(Qt::Key_F1);
   }
 
-  EXPECT_THAT(topics, ElementsAre("frmSummary.cmdParameters", "frmSummary.cmdResults", "frmSummary.picDesign",
-                                  "frmSummary.lstVerdicts"));
+  EXPECT_THAT(topics, ElementsAre("frmSummary.cmdParameters", "frmSummary.cmdResults", "frmSummary.cmdStudy",
+                                  "frmSummary.picDesign", "frmSummary.lstVerdicts"));
   EXPECT_THAT(platform.help.shown, IsEmpty());
 }
 
@@ -186,7 +186,7 @@ TEST_F(SummaryOnView, FitsTheSmallestWindow) {
   Settle();
 
   for (const char* part :
-       {"lblProject", "lblFile", "lblUnits", "cmdParameters", "cmdResults", "lblVerdicts", "lstVerdicts"}) {
+       {"lblProject", "lblFile", "lblUnits", "cmdParameters", "cmdResults", "cmdStudy", "lblVerdicts", "lstVerdicts"}) {
     const auto& widget = Find(View(), part);
     EXPECT_TRUE(Pane().rect().contains(widget.geometry())) << part;
     EXPECT_GE(widget.height(), widget.fontMetrics().height()) << part;

@@ -177,8 +177,8 @@ TEST_F(Summary, ShowsTheOpenProject) {
 
   const SummaryPane& summary = Opened();
 
-  EXPECT_THAT(OnView(), ElementsAre("lblProject", "lblFile", "lblUnits", "cmdParameters", "cmdResults", "picDesign",
-                                    "lblVerdicts", "lstVerdicts"));
+  EXPECT_THAT(OnView(), ElementsAre("lblProject", "lblFile", "lblUnits", "cmdParameters", "cmdResults", "cmdStudy",
+                                    "picDesign", "lblVerdicts", "lstVerdicts"));
   EXPECT_EQ(summary.lblProject.Caption(), "panel3.orb");
   EXPECT_EQ(summary.lblFile.Caption(), "File: /designs/panel3.orb");
   EXPECT_EQ(summary.lblUnits.Caption(), "Units: English");
@@ -303,6 +303,19 @@ TEST_F(Summary, ShowsTheResultsOfTheProjectAsParametersDoes) {
   EXPECT_EQ(program.session.OutBuf[1], pages[1]);
   EXPECT_EQ(program.session.OutBuf[0], pages[0]);
   EXPECT_TRUE(program.windows.WorkParmsCopy.Support() == previewed);
+}
+
+TEST_F(Summary, StudiesWhatWouldHoldOverTheParameters) {
+  OpenByDialog(Panel3);
+  std::vector<std::string> shown;
+  platform.windows.onModal = [&](Form& form) {
+    shown.emplace_back(form.Name());
+    if (form.Name() == "frmPENVParm") platform.clock.Pass();
+  };
+
+  Opened().cmdStudy.Press();
+
+  EXPECT_THAT(shown, ElementsAre("frmPENVParm", "frmWouldHold"));
 }
 
 TEST_F(Summary, LetsTheInputOfItsResultsBeChanged) {
