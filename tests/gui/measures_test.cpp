@@ -9,6 +9,8 @@
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTableWidget>
 #include <functional>
 #include <map>
@@ -175,11 +177,18 @@ TEST_P(Measures, LetNothingOverlap) {
   EXPECT_THAT(overlapping, IsEmpty());
 }
 
-TEST_P(Measures, FitASmallScreen) {
+TEST_P(Measures, FitASmallScreenWithoutScrolling) {
   if (GetParam().isLarge) return;  // the windows then scroll
-  const QSize whole = WholeSize(*window);
-  EXPECT_LE(whole.width(), SmallScreen.width());
-  EXPECT_LE(whole.height(), SmallScreen.height() - TitleBar);
+  const QSize most = SmallScreen - QSize(0, TitleBar);
+  window->resize(WholeSize(*window).boundedTo(most));
+  OnEveryPage([&] {
+    EXPECT_LE(window->width(), most.width());
+    EXPECT_LE(window->height(), most.height());
+    const auto* scroll = window->findChild<QScrollArea*>("viewScroll");
+    if (scroll == nullptr) return;
+    EXPECT_EQ(scroll->horizontalScrollBar()->maximum(), 0);
+    EXPECT_EQ(scroll->verticalScrollBar()->maximum(), 0);
+  });
 }
 
 TEST_P(Measures, ShowWholeRowsOfGrids) {
