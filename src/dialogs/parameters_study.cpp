@@ -116,9 +116,9 @@ void ParametersDialog::StudyLater() {
 
 void ParametersDialog::Study() {
   const int row = lstVerdicts.ListIndex();
-  const bool isSelected = row >= 0 && static_cast<std::size_t>(row) < verdicts_.size();
-  WouldHoldWindow window(program_, *this,
-                         isSelected ? SupportOf(verdicts_[static_cast<std::size_t>(row)].verdict) : std::nullopt);
+  const bool isSelected = row >= 0 && static_cast<std::size_t>(row) < order_.size();
+  WouldHoldWindow window(
+      program_, *this, isSelected ? SupportOf(verdicts_[order_[static_cast<std::size_t>(row)]].verdict) : std::nullopt);
   ShowForm(program_, window);
 }
 

@@ -44,13 +44,17 @@ Design AnyDesign() {
   return design;
 }
 
-std::vector<Sketch> AllSketches(const Design& design, const SheetSize& sheet) {
+std::vector<Sketch> SketchesWithWords(const Design& design, const SheetSize& sheet) {
   const SketchFigures figures = FiguresOf(design);
-  return {PrimarySketch(design, figures, sheet),
-          EntrySketch(design, figures, sheet),
-          DiagonalsSketch(design, figures, sheet),
-          IntersectionSketch(design, figures, sheet),
-          {EntryMiniature(design, figures, sheet), {}}};
+  return {PrimarySketch(design, figures, sheet), EntrySketch(design, figures, sheet),
+          DiagonalsSketch(design, figures, sheet), IntersectionSketch(design, figures, sheet)};
+}
+
+// With the small one of a list, which has no words.
+std::vector<Sketch> AllSketches(const Design& design, const SheetSize& sheet) {
+  std::vector<Sketch> sketches = SketchesWithWords(design, sheet);
+  sketches.push_back({EntryMiniature(design, FiguresOf(design), sheet), {}});
+  return sketches;
 }
 
 SheetSize AnySheet() {
@@ -116,7 +120,7 @@ RC_GTEST_PROP(Sketches, DrawNoMoreThanCanBeTold, ()) {
 }
 
 RC_GTEST_PROP(Sketches, SayEveryNumberInWords, ()) {
-  for (const Sketch& sketch : AllSketches(AnyDesign(), AnySheet())) {
+  for (const Sketch& sketch : SketchesWithWords(AnyDesign(), AnySheet())) {
     RC_ASSERT(!sketch.Facts.empty());
     for (const std::string& fact : sketch.Facts) {
       RC_ASSERT(fact.find("nan") == std::string::npos && fact.find("inf") == std::string::npos);
