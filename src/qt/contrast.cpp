@@ -22,13 +22,12 @@ double Contrast(const QColor& one, const QColor& other) {
 
 }  // namespace
 
-QColor Readable(const QColor& color, const QColor& background) {
+QColor Readable(const QColor& color, const QColor& background, double leastContrast) {
   constexpr int Middle = 128;
   constexpr int Brightest = 255;
-  constexpr double LeastContrast = 4.5;
   const int step = background.lightness() < Middle ? 1 : -1;
   QColor changed = color;
-  for (int lightness = color.lightness(); Contrast(changed, background) < LeastContrast; lightness += step) {
+  for (int lightness = color.lightness(); Contrast(changed, background) < leastContrast; lightness += step) {
     if (lightness < 0 || lightness > Brightest) break;
     changed = QColor::fromHsl(color.hslHue(), color.hslSaturation(), lightness);
   }
@@ -36,15 +35,15 @@ QColor Readable(const QColor& color, const QColor& background) {
 }
 
 void MakeSelectionReadable() {
+  constexpr double WithSmoothing = 6;  // the thin strokes of letters come out paler than their colour
   const QPalette present = QGuiApplication::palette();
-  QPalette changed;  // sets only what it changes, so that the rest follows the theme
-  changed.setResolveMask(0);
+  QPalette changed = present;  // what it does not set follows the theme
   for (const auto group : {QPalette::Active, QPalette::Inactive}) {
     const QColor ground = present.color(group, QPalette::Highlight);
-    const QColor readable = Readable(ground, present.color(group, QPalette::HighlightedText));
+    const QColor readable = Readable(ground, present.color(group, QPalette::HighlightedText), WithSmoothing);
     if (readable != ground) changed.setColor(group, QPalette::Highlight, readable);
   }
-  if (changed.resolveMask() != 0) QGuiApplication::setPalette(changed);
+  if (changed != present) QGuiApplication::setPalette(changed);
 }
 
 }  // namespace orby

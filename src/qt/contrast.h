@@ -5,9 +5,9 @@
 
 namespace orby {
 
-// Returns the colour, lightened on a dark background and darkened on a light one until its contrast is at least 4.5 : 1
-// by the Web Content Accessibility Guidelines.
-QColor Readable(const QColor& color, const QColor& background);
+// Returns the colour, lightened on a dark background and darkened on a light one until its contrast is at least this to
+// 1 by the Web Content Accessibility Guidelines.
+QColor Readable(const QColor& color, const QColor& background, double leastContrast = 4.5);
 
 // Darkens or lightens the ground of selected texts in all windows until the texts can be read on it. Many themes have
 // one that is too light for white texts.

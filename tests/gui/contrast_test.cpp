@@ -9,6 +9,8 @@
 namespace orby::test {
 namespace {
 
+const QColor WindowColour(0x2b, 0x2b, 0x2b);
+
 class SelectedTexts : public testing::Test {
  protected:
   ~SelectedTexts() override { QApplication::setPalette(QPalette()); }
@@ -18,6 +20,7 @@ class SelectedTexts : public testing::Test {
     QPalette theme;
     theme.setColor(QPalette::Highlight, ground);
     theme.setColor(QPalette::HighlightedText, text);
+    theme.setColor(QPalette::Window, WindowColour);
     QApplication::setPalette(theme);
   }
   static double ContrastNow() {
@@ -34,6 +37,7 @@ TEST_F(SelectedTexts, CanBeReadInAThemeWhoseGroundIsTooLight) {
 
   EXPECT_GE(ContrastNow(), 4.5);
   EXPECT_EQ(QApplication::palette().color(QPalette::HighlightedText), QColor(Qt::white));
+  EXPECT_EQ(QApplication::palette().color(QPalette::Window), WindowColour) << "the rest of the theme stays";
 }
 
 TEST_F(SelectedTexts, KeepTheColoursOfAThemeThatCanBeRead) {

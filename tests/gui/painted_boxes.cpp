@@ -1,6 +1,8 @@
 #include "gui/painted_boxes.h"
 
+#include <QAbstractItemView>
 #include <QJsonObject>
+#include <QLineEdit>
 #include <QPaintDevice>
 #include <QPaintEngine>
 #include <QPainter>
@@ -84,16 +86,22 @@ class BoxDevice : public QPaintDevice {
 };
 
 // Returns the part of a box that is on view and can be used; empty if there is none.
-QRectF UsableOf(const QWidget& window, const QRectF& place) {
-  const QPoint middle = place.center().toPoint();
+QRectF UsableOf(const QWidget& window, const PaintedBox& box) {
+  const QPoint middle = box.place.center().toPoint();
   QWidget* widget = window.childAt(middle);
   if (widget == nullptr || !widget->isEnabled()) return {};
+  // Others have pictures of the toolkit, such as the dots of options.
+  const auto* view = qobject_cast<const QAbstractItemView*>(widget->parentWidget());
+  const bool hasMarks = view != nullptr || qobject_cast<const QLineEdit*>(widget) != nullptr;
+  if (box.kind == "mark" && !hasMarks) return {};
   if (const auto* tabs = qobject_cast<const QTabBar*>(widget)) {
     const int tab = tabs->tabAt(tabs->mapFrom(&window, middle));
     if (tab >= 0 && !tabs->isTabEnabled(tab)) return {};
   }
   const QRect onView = widget->visibleRegion().boundingRect().translated(widget->mapTo(&window, QPoint()));
-  return place.intersected(onView);
+  const QRectF usable = box.place.intersected(onView);
+  // A row that the edge of a list cuts can be scrolled into view.
+  return usable.height() < box.place.height() - 1 ? QRectF() : usable;
 }
 
 }  // namespace
@@ -104,7 +112,7 @@ QJsonArray PaintedBoxes(QWidget& window) {
   const double ratio = window.devicePixelRatioF();
   QJsonArray boxes;
   for (const PaintedBox& box : device.Boxes()) {
-    const QRectF place = UsableOf(window, box.place);
+    const QRectF place = UsableOf(window, box);
     if (place.width() < 2 || place.height() < 2) continue;
     boxes.append(QJsonObject{{"kind", box.kind},
                              {"text", box.text},
