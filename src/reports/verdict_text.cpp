@@ -59,7 +59,7 @@ NumberPair TextsOf(const Verdict& verdict) {
   NumberPair texts;
   const auto write = [&](NumberPattern pattern) {
     texts = {FormatNumber(verdict.Supply, pattern), FormatNumber(verdict.Demand, pattern)};
-    return texts.Supply != texts.Demand;
+    return texts.Supply != texts.Demand || verdict.Supply == verdict.Demand;
   };
   // The limit of the standard has two decimals.
   if (verdict.What != Aspect::BoltCapacity && write(OneDecimal)) return texts;

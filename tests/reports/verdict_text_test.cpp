@@ -46,6 +46,12 @@ TEST(VerdictText, ShowsAsManyDecimalsAsItTakesToSeeADifference) {
   EXPECT_EQ(VerdictFigures(length, English), "6.00 of the suggested 6.02 ft, short by less than 1 %");
 }
 
+TEST(VerdictText, NeedsNoMoreDecimalsForEqualNumbers) {
+  const Verdict length{.What = Aspect::CableAnchorage, .Where = Opening::Entries, .Demand = 12, .Supply = 12};
+
+  EXPECT_EQ(VerdictFigures(length, English), "12.0 for a rock load height and anchorage of 12.0 ft");
+}
+
 TEST(VerdictText, NamesWhatIsMissing) {
   const Verdict trusses{
       .What = Aspect::Trusses, .Where = Opening::Entries, .Result = Holding::Uncomputed, .Reason = Missing::Spacing};
