@@ -4,6 +4,7 @@
 #include <cmath>
 #include <map>
 
+#include "base/number_text.h"
 #include "studies/study_designs.h"
 
 namespace orby::test {
@@ -80,7 +81,7 @@ TEST(LeastChange, OfANumberHoldsAndOneStepLessDoesNot) {
 double StrengthOfItem(const Design& design, const StudiedSupport& support, std::size_t item) {
   if (support.What == PricedSupport::Bolt) {
     const BoltTableRow& row = OfferedBolts(Lists(), design.Units)[item];
-    return std::stod(row.Grade) * std::stod(row.Diameter) * std::stod(row.Diameter);
+    return TextValue(row.Grade) * TextValue(row.Diameter) * TextValue(row.Diameter);
   }
   if (support.What == PricedSupport::Standing) return StandingCapacity(Lists(), design.Units, item);
   return OfferedCableCapacities(Lists(), design.Units)[item];
