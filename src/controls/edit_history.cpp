@@ -14,6 +14,8 @@ template <class... Acts>
 struct ByType : Acts... {
   using Acts::operator()...;
 };
+template <class... Acts>
+ByType(Acts...) -> ByType<Acts...>;
 
 }  // namespace
 

@@ -187,7 +187,9 @@ WorkingNumbers WorkingNumbersOf(const RoofSupport& design, const Catalogs& catal
   return working;
 }
 
+// Attempt catches everything that WorkingNumbersOf throws.
 void RefreshWorking(Figures& figures, const RoofSupport& design, const Catalogs& catalogs) noexcept {
+  // cppcheck-suppress throwInNoexceptFunction
   figures.Working = Attempt([&] { return WorkingNumbersOf(design, catalogs); });
 }
 
@@ -292,6 +294,7 @@ SupportFigures IntersectionFigures(const RoofSupport& design, const Catalogs& ca
 }
 
 void RefreshPrimary(Figures& figures, const RoofSupport& design, const Catalogs& catalogs) noexcept {
+  // cppcheck-suppress throwInNoexceptFunction
   RefreshWorking(figures, design, catalogs);
   figures.Primary =
       Attempt([&] { return PrimaryOf(design, catalogs, figures.Working.Value().Primary, figures.Suggested.Value()); });
@@ -299,6 +302,7 @@ void RefreshPrimary(Figures& figures, const RoofSupport& design, const Catalogs&
 
 void RefreshEntrySystem(Figures& figures, const RoofSupport& design, const Catalogs& catalogs,
                         std::size_t system) noexcept {
+  // cppcheck-suppress throwInNoexceptFunction
   RefreshWorking(figures, design, catalogs);
   RefreshSystem(figures.Entries.Systems, design, catalogs, design.Entries, EntryRules,
                 figures.Entries.RockLoad.ValueOr({}), system);
@@ -306,6 +310,7 @@ void RefreshEntrySystem(Figures& figures, const RoofSupport& design, const Catal
 
 void RefreshIntersectionSystem(Figures& figures, const RoofSupport& design, const Catalogs& catalogs,
                                std::size_t system) noexcept {
+  // cppcheck-suppress throwInNoexceptFunction
   RefreshWorking(figures, design, catalogs);
   RefreshSystem(figures.Intersections.Systems, design, catalogs, design.Intersections, IntersectionRules,
                 figures.Intersections.RockLoad.ValueOr({}), system);
@@ -321,6 +326,7 @@ Figures Analyze(const RoofSupport& design, const Catalogs& catalogs) noexcept {
   // cppcheck-suppress throwInNoexceptFunction
   const auto site = Attempt([&] { return TypedSite(design); });
   figures.Suggested = Attempt([&] { return Suggest(site.Value(), design.Units); });
+  // cppcheck-suppress throwInNoexceptFunction
   figures.LiveSuggestion = Attempt([&] {
     const bool isShown = IsPlausible(site.Value());
     return isShown ? std::optional(WithLiveWarnings(figures.Suggested.Value(), design.Units)) : std::nullopt;

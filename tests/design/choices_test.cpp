@@ -6,14 +6,14 @@
 namespace orby::test {
 namespace {
 
-Catalogs BuiltIn() {
+Catalogs ListsAtStart() {
   Catalogs lists;
   SetBuiltInCatalogs(lists);
   return lists;
 }
 
 TEST(ChosenTableRow, SetsTheNumbersThatTheTableShows) {
-  const Catalogs lists = BuiltIn();
+  const Catalogs lists = ListsAtStart();
   BoltSelection set;
   TakeTableRow(set, OfferedBolts(lists, English), 7);
   EXPECT_EQ(set.TableRow, 7);
@@ -27,7 +27,7 @@ TEST(ChosenTableRow, SetsTheNumbersThatTheTableShows) {
 }
 
 TEST(ChosenStandingSupport, HasAWholeCapacityInTheUnitsOfTheDesign) {
-  Catalogs lists = BuiltIn();
+  Catalogs lists = ListsAtStart();
   lists.StandSupports.DefaultStandSupportCap[7] = {22.6F, 195.4F};
   StandingSelection standing;
   standing.TypeMode = ValueSource::Typed;
@@ -41,7 +41,7 @@ TEST(ChosenStandingSupport, HasAWholeCapacityInTheUnitsOfTheDesign) {
 }
 
 TEST(OfferedGrades, AreOfTheUnitsAndTheBasisOfTheDesign) {
-  const Catalogs lists = BuiltIn();
+  const Catalogs lists = ListsAtStart();
 
   EXPECT_EQ(OfferedBoltGrades(lists, English, StrengthBasis::Yield)[0], 40);
   EXPECT_EQ(OfferedBoltGrades(lists, English, StrengthBasis::Ultimate)[0], 70);

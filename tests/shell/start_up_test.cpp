@@ -20,13 +20,13 @@ using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
 
-constexpr const char* IniPath = "/home/user/Documents/MyStrataDesk/ORBY/ORBY.INI";
+constexpr const char* StartIniPath = "/home/user/Documents/MyStrataDesk/ORBY/ORBY.INI";
 
 struct StartUp : testing::Test {
   RecordingPlatform platform;
   Program program{platform.AsPlatform()};
 
-  std::string& Ini() { return platform.files.files[IniPath]; }
+  std::string& Ini() { return platform.files.files[StartIniPath]; }
 
   // Expects the built-in settings, and a message with the reason why they are not stored.
   void ExpectBuiltInSettings(const std::string& reason) {
@@ -38,7 +38,7 @@ struct StartUp : testing::Test {
     EXPECT_EQ(program.session.graph.SymbolSize, 6);
     EXPECT_EQ(program.session.catalogs.DefaultBoltUTSArrayENG.Count(), 6U);
     EXPECT_EQ(program.session.catalogs.DefaultCableCapArrayMET.Count(), 6U);
-    const std::string trouble = "Configuration file cannot be used: " + std::string(IniPath) + " (" + reason +
+    const std::string trouble = "Configuration file cannot be used: " + std::string(StartIniPath) + " (" + reason +
                                 "). Built-in settings are in force";
     EXPECT_THAT(platform.boxes.Texts(), ElementsAre(trouble + " and changes to them may be lost."));
     EXPECT_THAT(program.session.history.Text, HasSubstr(trouble + "\r\n"));
@@ -48,7 +48,7 @@ struct StartUp : testing::Test {
 TEST_F(StartUp, CreatesAMissingConfigurationFileAndStartsWithTheDefaults) {
   StartProgram(program);
 
-  EXPECT_EQ(program.session.IniFilePath, IniPath);
+  EXPECT_EQ(program.session.IniFilePath, StartIniPath);
   EXPECT_THAT(Ini(), StartsWith("[Version]\r\nINIFileVersion=201030\r\n[Settings]\r\nDefaultUnits=0\r\n"));
   EXPECT_THAT(Ini(), HasSubstr("[ORBYDefaults]\r\nDefaultCMRR=45\r\n"));
   EXPECT_THAT(Ini(), HasSubstr("[ORBYBoltParams]\r\nDefaultBoltGradeIndexENG="));
