@@ -1,6 +1,7 @@
 #include "controls/chart_fit.h"
 
 #include <cmath>
+#include <cstdlib>
 #include <optional>
 #include <tuple>
 
@@ -104,15 +105,21 @@ ChartCorner SideOfOwnName(const Chart& chart, const ChartExtent& extent) {
 std::vector<double> TicksIn(const ChartRange& range, int most) {
   constexpr double Multiples[] = {1, 2, 5, 10};
   const double least = range.Size() / (most - 1);
-  const double power = std::pow(10, std::floor(std::log10(least)));
-  double step = power;
-  for (const double multiple : Multiples) {
-    step = power * multiple;
-    if (step >= least) break;
+  const int exponent = static_cast<int>(std::floor(std::log10(least)));
+  // Multiplied and divided by whole powers, which every machine rounds alike.
+  double power = 1;
+  for (int i = 0; i < std::abs(exponent); ++i) power *= 10;
+  const auto scaled = [&](double units) { return exponent < 0 ? units / power : units * power; };
+  double multiple = 1;
+  for (const double wider : Multiples) {
+    multiple = wider;
+    if (scaled(multiple) >= least) break;
   }
   std::vector<double> ticks;
-  const double first = std::ceil(range.lower / step);
-  for (int i = 0; i < most && (first + i) * step <= range.upper; ++i) ticks.push_back((first + i) * step);
+  const double first = std::ceil(range.lower / scaled(multiple));
+  for (int i = 0; i < most && scaled((first + i) * multiple) <= range.upper; ++i) {
+    ticks.push_back(scaled((first + i) * multiple));
+  }
   return ticks;
 }
 
