@@ -40,11 +40,10 @@ void ParametersDialog::TieOutputs() {
               {&txtSuggestBoltLength, &texts_.SugLength, Aspect::BoltLength, Primary, true},
               {&txtSugSumDiagonals, &texts_.SuggestedSpan, Aspect::Span, Primary, true}};
   const auto add = [this](OutputControls& outputs, const SupportTexts& texts, Opening where) {
-    constexpr std::array Systems{Aspect::Cables, Aspect::Trusses, Aspect::Bolts, Aspect::Standing};
     for (std::size_t i = 0; i < SystemCount; ++i) {
-      outputs_.push_back({&outputs.RockLoad[i], &texts.RockLoad, Systems[i], where, false});
-      outputs_.push_back({&outputs.SupportCap[i], &texts.Capacities[i], Systems[i], where, false});
-      outputs_.push_back({&outputs.StabFactor[i], &texts.Factors[i], Systems[i], where, true});
+      outputs_.push_back({&outputs.RockLoad[i], &texts.RockLoad, SystemAspects.at(i), where, false});
+      outputs_.push_back({&outputs.SupportCap[i], &texts.Capacities[i], SystemAspects.at(i), where, false});
+      outputs_.push_back({&outputs.StabFactor[i], &texts.Factors[i], SystemAspects.at(i), where, true});
     }
   };
   add(EntryOutputs, texts_.Entries, Opening::Entries);

@@ -100,12 +100,7 @@ void ParametersDialog::TakeVerdicts(const Verdicts& found, const Verdicts& commi
 }
 
 void ParametersDialog::OrderVerdicts(const Verdicts& found) {
-  order_.clear();
-  for (const Holding result : {Holding::Short, Holding::Uncomputed, Holding::Check, Holding::Holds}) {
-    for (std::size_t i = 0; i < verdicts_.size(); ++i) {
-      if (verdicts_[i].verdict.Result == result) order_.push_back(i);
-    }
-  }
+  order_ = WorstFirst(found);
   lblVerdicts.SetCaption("Judgements: " + VerdictCounts(found));
 }
 

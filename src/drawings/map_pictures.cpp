@@ -99,7 +99,7 @@ constexpr std::array<std::array<PictureOutline, 4>, 6> Maps{{MapWith(Regions[0])
                                                              MapWith(Regions[2]), MapWith(Regions[3]),
                                                              MapWith(Regions[4]), MapWith(Regions[5])}};
 
-constexpr Picture MapOf(std::string_view name, std::size_t region) { return {name, 320, 201, Maps[region], {}}; }
+constexpr Picture MapOf(std::string_view name, std::size_t region) { return {name, 320, 201, Maps[region]}; }
 
 constexpr std::array<Picture, 6> MarkedMaps{{MapOf("region_0", 0), MapOf("region_1", 1), MapOf("region_2", 2),
                                              MapOf("region_3", 3), MapOf("region_4", 4), MapOf("region_5", 5)}};

@@ -14,20 +14,11 @@ struct PictureOutline {
   SceneStroke Line;
 };
 
-struct PictureLabel {
-  std::string_view Text;
-  ScenePoint At;
-  Anchor Side = Anchor::Start;
-  bool IsBold = false;
-  double Turn = 0;
-};
-
 struct Picture {
   std::string_view Name;
   double Width = 24;
   double Height = 24;
   std::span<const PictureOutline> Outlines;
-  std::span<const PictureLabel> Labels;
 };
 
 // The icons and marks.

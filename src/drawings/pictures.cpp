@@ -10,13 +10,6 @@ Scene SceneOf(const Picture& picture) {
   for (const PictureOutline& outline : picture.Outlines) {
     scene.Outlines.push_back({PathSteps(outline.Path), outline.Inside, outline.Line});
   }
-  for (const PictureLabel& label : picture.Labels) {
-    scene.Labels.push_back({.Text = std::string(label.Text),
-                            .At = label.At,
-                            .Side = label.Side,
-                            .IsBold = label.IsBold,
-                            .Turn = label.Turn});
-  }
   return scene;
 }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
+#include <numeric>
 
 #include "engine/formulas.h"
 
@@ -122,8 +124,7 @@ class PrimaryJudge {
 // ---- secondary support ---------------------------------------------------------------------------------------------
 
 Verdict JudgeSystem(std::size_t system, Opening where, const SupportFigures& figures, Single wantedFactor) {
-  constexpr Aspect Aspects[] = {Aspect::Cables, Aspect::Trusses, Aspect::Bolts, Aspect::Standing};
-  const Aspect what = Aspects[system];
+  const Aspect what = SystemAspects.at(system);
   if (!figures.RockLoad.IsThere()) return Failed(what, where, figures.RockLoad.Error());
   const auto rockLoad = figures.RockLoad.ValueOr({});
   if (!rockLoad) return Incomplete(what, where, Missing::RockLoad);
@@ -227,6 +228,14 @@ double ShareMissing(const Verdict& verdict) {
 void Verdicts::Add(const Verdict& verdict) {
   const bool fits = std::isfinite(verdict.Demand) && std::isfinite(verdict.Supply) && std::isfinite(verdict.Factor);
   verdicts_.at(count_++) = fits ? verdict : Failed(verdict.What, verdict.Where, error_number::Overflow);
+}
+
+std::vector<std::size_t> WorstFirst(const Verdicts& verdicts) {
+  const std::span<const Verdict> all = verdicts.All();
+  std::vector<std::size_t> places(all.size());
+  std::iota(places.begin(), places.end(), std::size_t{0});
+  std::ranges::stable_sort(places, std::ranges::greater(), [all](std::size_t place) { return all[place].Result; });
+  return places;
 }
 
 std::size_t Verdicts::Count(Holding result) const {

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdint>
 #include <span>
+#include <vector>
 
 #include "engine/analysis.h"
 
@@ -26,6 +27,10 @@ enum class Aspect : std::uint8_t {
   BoltAnchorage,
 };
 inline constexpr std::size_t AspectCount = 12;
+
+// The judgement on the capacity of each system, in the order of SecondarySupport::Systems.
+inline constexpr std::array<Aspect, SystemCount> SystemAspects{Aspect::Cables, Aspect::Trusses, Aspect::Bolts,
+                                                               Aspect::Standing};
 
 // Where the judged support is.
 enum class Opening : std::uint8_t { Primary, Entries, Intersections };
@@ -81,6 +86,9 @@ class Verdicts {
   std::array<Verdict, Most> verdicts_{};
   std::size_t count_ = 0;
 };
+
+// Returns the places of the judgements in All, the worst first. Equal ones keep their order. Allocates memory.
+std::vector<std::size_t> WorstFirst(const Verdicts& verdicts);
 
 // Judges those parts of the design that are to be analysed, and those support systems that are in use.
 Verdicts Judge(const RoofSupport& design, const Figures& figures) noexcept;

@@ -8,7 +8,6 @@
 #include "base/paths.h"
 #include "core/description.h"
 #include "core/dialog_helpers.h"
-#include "dialogs/catalog_choice.h"
 #include "dialogs/shown_design.h"
 #include "dialogs/verdict_marks.h"
 #include "engine/verdicts.h"
@@ -20,9 +19,7 @@ namespace {
 
 // Returns the project as a newly opened parameters dialog shows it, or nothing if it cannot be shown.
 std::optional<Design> ShownDesign(const Project& project, const Catalogs& catalogs) {
-  Catalogs offered = catalogs;
-  const BoltTable& table = LoadBoltTable(project, offered);
-  return OrNothing([&] { return std::optional(AsShown(project.WorkParms, table, offered)); });
+  return OrNothing([&] { return std::optional(AsOpened(project, catalogs)); });
 }
 
 std::string UnitsText(const Project& project) {
@@ -101,11 +98,9 @@ void SummaryPane::ShowDrawing() {
 void SummaryPane::ShowVerdicts() {
   if (!shown_) return lblVerdicts.SetCaption("The parameters of this project cannot be shown.");
   const Verdicts found = Judge(*shown_, Analyze(*shown_, program_.session.catalogs));
-  std::vector<Verdict> sorted(found.All().begin(), found.All().end());
-  std::ranges::stable_sort(sorted, std::ranges::greater(), &Verdict::Result);
   std::vector<ComboItem> rows;
-  rows.reserve(sorted.size());
-  for (const Verdict& verdict : sorted) {
+  for (const std::size_t place : WorstFirst(found)) {
+    const Verdict& verdict = found.All()[place];
     rows.push_back({.text = VerdictLine(verdict, shown_->Units), .mark = MarkOf(verdict.Result)});
   }
   lstVerdicts.SetVisible(!rows.empty());

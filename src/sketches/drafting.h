@@ -99,6 +99,6 @@ class Drafting {
 inline constexpr SceneStroke RockLine{.Colour = Ink::Text, .Width = 1.5};
 inline constexpr SceneStroke ThinLine{.Colour = Ink::Text, .Width = 0.8};
 inline constexpr SceneStroke FaintLine{.Colour = Ink::Muted, .Width = 1};
-inline constexpr SceneFill Coal{Ink::Muted, 0.25};
+inline constexpr SceneFill Coal{Ink::Muted, 0.18};
 
 }  // namespace orby

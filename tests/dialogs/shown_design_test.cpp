@@ -4,10 +4,12 @@
 #include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "base/runtime_error.h"
 #include "dialogs/catalog_choice.h"
+#include "engine/verdicts.h"
 #include "files/project_lines.h"
 #include "parameters_fixture.h"
 
@@ -73,6 +75,19 @@ RC_GTEST_PROP(ReportedDesignProperty, CommittedIsWhatOkWouldTakeUnchanged, ()) {
   RC_ASSERT(committed.Support() == project.WorkParms.Support());
 }
 
+RC_GTEST_PROP(CommittedDesignProperty, IsJudgedAsTypedIfItKeepsTheFigures, ()) {
+  StoredRun run(*rc::gen::elementOf(std::vector{English, Metric}));
+  const Catalogs& catalogs = run.program.session.catalogs;
+  const Design& typed = run.program.project.WorkParms;
+  const bool keeps = CommitKeepsFigures(typed);
+  RC_CLASSIFY(keeps);
+  const Design committed = AsCommitted(typed);
+  const Verdicts before = Judge(typed, Analyze(typed, catalogs));
+  const Verdicts after = Judge(committed, Analyze(committed, catalogs));
+
+  RC_ASSERT(!keeps || std::ranges::equal(before.All(), after.All()));
+}
+
 struct AShownDesign : testing::Test {
   AShownDesign() {
     SetBuiltInCatalogs(program.session.catalogs);
@@ -102,6 +117,21 @@ TEST_F(AShownDesign, UsesTheFirstRowIfTheTableLacksTheStoredOne) {
   EXPECT_EQ(Shown().Primary.TableRow, 0);
   EXPECT_EQ(Shown().Primary.Desc, program.session.catalogs.BoltTableENG[0].Name);
   EXPECT_EQ(Shown().Entries.Bolt.TableRow, 9);
+}
+
+TEST_F(AShownDesign, KeepsItsFiguresUnlessOkReplacesTheBoltsOrCablesOfAnIntersection) {
+  EXPECT_TRUE(CommitKeepsFigures(design));
+
+  design.Intersections.Cable.CapMode = CapacityMode::ByDiameter;
+  design.Intersections.Cable.Diam = design.Entries.Cable.Diam + 0.1F;
+  EXPECT_FALSE(CommitKeepsFigures(design));
+  design.Intersections.Cable.CapMode = CapacityMode::Given;
+  EXPECT_TRUE(CommitKeepsFigures(design));
+
+  design.Intersections.Bolt.Options = BoltSource::Manual;
+  design.Intersections.Bolt.GradeMode = ValueSource::Typed;
+  design.Intersections.Bolt.GradeManual = 41;
+  EXPECT_FALSE(CommitKeepsFigures(design));
 }
 
 TEST_F(AShownDesign, FailsForAChoiceThatDoesNotExist) {
