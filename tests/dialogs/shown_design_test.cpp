@@ -129,6 +129,10 @@ TEST_F(AShownDesign, KeepsItsFiguresUnlessOkReplacesTheBoltsOrCablesOfAnIntersec
   EXPECT_TRUE(CommitKeepsFigures(design));
 
   design.Intersections.Bolt.Options = BoltSource::Manual;
+  EXPECT_TRUE(CommitKeepsFigures(design));
+  design.Intersections.Cable.CapMode = CapacityMode::ByDiameter;
+  EXPECT_FALSE(CommitKeepsFigures(design)) << "the bolts stay, the cables do not";
+  design.Intersections.Cable.CapMode = CapacityMode::Given;
   design.Intersections.Bolt.GradeMode = ValueSource::Typed;
   design.Intersections.Bolt.GradeManual = 41;
   EXPECT_FALSE(CommitKeepsFigures(design));
