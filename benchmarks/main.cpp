@@ -2,6 +2,7 @@
 #include <valgrind/callgrind.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <ctime>
 #include <functional>
@@ -117,29 +118,55 @@ void JudgedKey() {
   });
 }
 
-// The same with the drawing of this tab on view.
-void DrawnKey(int tab) {
-  Bench bench;
-  ParametersDialog dialog(bench.program);
-  dialog.Open();
-  dialog.SSTab1.SetTab(tab);
+using DrawingOfDialog = Drawing ParametersControls::*;
+
+// A dialog with the drawing of a tab on view.
+struct Drawn : Bench {
+  explicit Drawn(DrawingOfDialog shown) {
+    constexpr std::array<DrawingOfDialog, 4> Tabs{&ParametersControls::Picture1, &ParametersControls::Image1,
+                                                  &ParametersControls::picEntries,
+                                                  &ParametersControls::picIntersections};
+    dialog.Open();
+    dialog.SSTab1.SetTab(static_cast<int>(std::ranges::find(Tabs, shown) - Tabs.begin()));
+    static_cast<void>((dialog.*shown).Edition());
+  }
+
+  ParametersDialog dialog{program};
+};
+
+// The same with a drawing on view, which is made when it is painted.
+void DrawnKey(DrawingOfDialog shown) {
+  Drawn drawn(shown);
   Measured([&] {
-    dialog.txtDepthofCover.SetText("4005");
-    dialog.EndAct();
+    drawn.dialog.txtDepthofCover.SetText("4005");
+    drawn.dialog.EndAct();
   });
 }
 
-const std::map<std::string, std::function<void()>> Steps{{"live_refresh", LiveRefresh},
-                                                         {"analyze", AnalyzeDesign},
-                                                         {"report_pages", ReportPages},
-                                                         {"read_project", ReadOneProject},
-                                                         {"default_curve", DefaultCurve},
-                                                         {"key_press", KeyPress},
-                                                         {"judged_key", JudgedKey},
-                                                         {"drawn_general", [] { DrawnKey(0); }},
-                                                         {"drawn_primary", [] { DrawnKey(1); }},
-                                                         {"drawn_entries", [] { DrawnKey(2); }},
-                                                         {"drawn_intersections", [] { DrawnKey(3); }}};
+// Makes the drawing after a key.
+void MakeDrawing(DrawingOfDialog shown) {
+  Drawn drawn(shown);
+  drawn.dialog.txtDepthofCover.SetText("4005");
+  drawn.dialog.EndAct();
+  Measured([&] { static_cast<void>((drawn.dialog.*shown).Edition()); });
+}
+
+const std::map<std::string, std::function<void()>> Steps{
+    {"live_refresh", LiveRefresh},
+    {"analyze", AnalyzeDesign},
+    {"report_pages", ReportPages},
+    {"read_project", ReadOneProject},
+    {"default_curve", DefaultCurve},
+    {"key_press", KeyPress},
+    {"judged_key", JudgedKey},
+    {"drawn_general", [] { DrawnKey(&ParametersControls::Picture1); }},
+    {"drawn_primary", [] { DrawnKey(&ParametersControls::Image1); }},
+    {"drawn_entries", [] { DrawnKey(&ParametersControls::picEntries); }},
+    {"drawn_intersections", [] { DrawnKey(&ParametersControls::picIntersections); }},
+    {"draw_general", [] { MakeDrawing(&ParametersControls::Picture1); }},
+    {"draw_primary", [] { MakeDrawing(&ParametersControls::Image1); }},
+    {"draw_entries", [] { MakeDrawing(&ParametersControls::picEntries); }},
+    {"draw_intersections", [] { MakeDrawing(&ParametersControls::picIntersections); }}};
 
 // Prints how many designs one core analyses in a second of processor time.
 void PrintRate() {

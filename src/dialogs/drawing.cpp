@@ -17,7 +17,32 @@ void SaveDrawing(Program& program, const Drawing& drawing, const FileFormat& for
 
 }  // namespace
 
-std::string Drawing::Words() const {
+void Drawing::Outdate() {
+  isOutdated_ = true;
+  Touch();
+}
+
+void Drawing::Refresh() {
+  if (!isOutdated_) return;
+  isOutdated_ = false;
+  Sketch sketch = Make(sheet_);
+  if (sketch == sketch_) return;
+  sketch_ = std::move(sketch);
+  ++edition_;
+}
+
+const Scene& Drawing::Picture() {
+  Refresh();
+  return sketch_.Picture;
+}
+
+int Drawing::Edition() {
+  Refresh();
+  return edition_;
+}
+
+std::string Drawing::Words() {
+  Refresh();
   std::string words;
   for (const std::string& fact : sketch_.Facts) {
     if (!words.empty()) words += ". ";
@@ -32,7 +57,7 @@ void Drawing::SetSheet(const SheetSize& sheet) {
   Fire(Resize);
 }
 
-void RunDrawingCommand(Program& program, const Drawing& drawing, DrawingCommand command) {
+void RunDrawingCommand(Program& program, Drawing& drawing, DrawingCommand command) {
   const Scene& scene = drawing.Picture();
   switch (command) {
     case DrawingCommand::Copy: program.platform.clipboard.SetPicture(scene); break;

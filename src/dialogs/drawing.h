@@ -26,25 +26,34 @@ class Drawing : public Control {
   Drawing(Form& form, std::string_view name, std::string_view title) : Control(form, name), title_(title) {}
 
   std::string_view Title() const { return title_; }
-  const Scene& Picture() const { return sketch_.Picture; }
+  const Scene& Picture();
   // Returns what the drawing shows, in words: the main dimensions and the supports.
-  std::string Words() const;
-  void Show(Sketch sketch) { Mirror(sketch_, std::move(sketch)); }
+  std::string Words();
+
+  // Tells that the sketch may be another one now. It is made when somebody looks at it, so that a key need not wait.
+  void Outdate();
+  // Returns a number that is another one for each other sketch.
+  int Edition();
 
   const SheetSize& Sheet() const { return sheet_; }
   // Tells how large the drawing is on view, in units of its scene.
   void SetSheet(const SheetSize& sheet);
 
-  Event Resize;  // the sheet has another size
+  std::function<Sketch(const SheetSize&)> Make;  // for the sheet
+  Event Resize;                                  // the sheet has another size
   std::function<void(DrawingCommand)> Command;
 
  private:
+  void Refresh();
+
   std::string_view title_;
   Sketch sketch_;
+  bool isOutdated_ = false;
+  int edition_ = 0;
   SheetSize sheet_{420, 330};
 };
 
 // Copies the drawing, or saves it under the name that the user chooses. Shows a message for an error; never throws.
-void RunDrawingCommand(Program& program, const Drawing& drawing, DrawingCommand command);
+void RunDrawingCommand(Program& program, Drawing& drawing, DrawingCommand command);
 
 }  // namespace orby

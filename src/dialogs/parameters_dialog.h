@@ -149,7 +149,7 @@ class ParametersDialog : public ParametersControls {
 
   // Connects the drawings with the tabs and with their commands.
   void TieDrawings();
-  // Makes the drawing on the tab on view from the typed design as it has been read last.
+  // Lets the drawing on the tab on view follow the typed design as it has been read last.
   void ShowDrawing();
   void ReadAndDraw();
 

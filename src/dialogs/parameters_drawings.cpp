@@ -1,4 +1,4 @@
-// The drawings of the parameters dialog. Only the one on the tab on view is made.
+// The drawings of the parameters dialog. Only the one on the tab on view is made, from the design as it is typed then.
 #include <array>
 
 #include "dialogs/parameters_dialog.h"
@@ -22,6 +22,9 @@ constexpr std::array<DrawingOnTab, 4> DrawingsOnTabs{{{&ParametersControls::Pict
 void ParametersDialog::TieDrawings() {
   for (const DrawingOnTab& entry : DrawingsOnTabs) {
     Drawing& drawing = this->*entry.Shown;
+    drawing.Make = [this, make = entry.Make](const SheetSize& sheet) {
+      return make(typed_, SketchFiguresOf(typed_, program_.session.catalogs), sheet);
+    };
     drawing.Resize = [this] { ReadAndDraw(); };
     drawing.Command = [this, &drawing](DrawingCommand command) { RunDrawingCommand(program_, drawing, command); };
   }
@@ -33,8 +36,7 @@ void ParametersDialog::TieDrawings() {
 
 void ParametersDialog::ShowDrawing() {
   const DrawingOnTab& entry = DrawingsOnTabs.at(static_cast<std::size_t>(SSTab1.Tab()));
-  Drawing& drawing = this->*entry.Shown;
-  drawing.Show(entry.Make(typed_, SketchFiguresOf(typed_, program_.session.catalogs), drawing.Sheet()));
+  (this->*entry.Shown).Outdate();
 }
 
 void ParametersDialog::ReadAndDraw() {

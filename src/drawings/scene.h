@@ -39,11 +39,11 @@ enum class Ink {
 };
 
 struct PathStep {
-  enum class Kind { Move, Line, Curve, Close };
+  enum class Kind { Move, Line, Curve, Circle, Close };
 
   Kind What = Kind::Close;
-  ScenePoint To;
-  ScenePoint FirstControl;   // of a cubic curve
+  ScenePoint To;             // of a circle: its centre
+  ScenePoint FirstControl;   // of a cubic curve; of a circle: its rightmost point
   ScenePoint SecondControl;  // of a cubic curve
 
   bool operator==(const PathStep&) const = default;

@@ -29,6 +29,14 @@ std::string Colour(Ink ink) {
   return text;
 }
 
+// Two half circles: an arc cannot end where it begins.
+std::string CircleText(const PathStep& circle) {
+  const double radius = circle.FirstControl.X - circle.To.X;
+  const std::string half = "A" + Number(radius) + " " + Number(radius) + " 0 0 1 ";
+  return "M" + Point(circle.FirstControl) + half + Point({circle.To.X - radius, circle.To.Y}) + half +
+         Point(circle.FirstControl) + "Z";
+}
+
 std::string PathText(const std::vector<PathStep>& steps) {
   using enum PathStep::Kind;
   std::string text;
@@ -39,6 +47,7 @@ std::string PathText(const std::vector<PathStep>& steps) {
       case Curve:
         text += "C" + Point(step.FirstControl) + " " + Point(step.SecondControl) + " " + Point(step.To);
         break;
+      case Circle: text += CircleText(step); break;
       case Close: text += "Z"; break;
     }
   }

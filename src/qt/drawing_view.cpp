@@ -11,6 +11,7 @@
 #include <QStyleOptionFocusRect>
 #include <chrono>
 
+#include "qt/boundary.h"
 #include "qt/scene_painter.h"
 #include "qt/texts.h"
 
@@ -51,10 +52,14 @@ DrawingView::DrawingView(QWidget* parent) : QWidget(parent) {
   setFocusPolicy(Qt::StrongFocus);
   repaint_.setSingleShot(true);
   repaint_.setInterval(Delay);
-  connect(&repaint_, &QTimer::timeout, this, [this] { update(); });
+  connect(&repaint_, &QTimer::timeout, this, [this] {
+    RunGuarded([this] {
+      if (painted_ != drawing_->Edition()) update();
+    });
+  });
 }
 
-void DrawingView::ShowDrawing(const Drawing& drawing) {
+void DrawingView::ShowDrawing(Drawing& drawing) {
   drawing_ = &drawing;
   // Changes until then are painted together.
   if (!repaint_.isActive()) repaint_.start();
@@ -88,6 +93,7 @@ void DrawingView::changeEvent(QEvent* event) {
 
 void DrawingView::paintEvent(QPaintEvent*) {
   if (drawing_ == nullptr) return;
+  painted_ = drawing_->Edition();
   QPainter painter(this);
   PaintScene(painter, drawing_->Picture(), rect().marginsRemoved({Margin, Margin, Margin, Margin}),
              palette().color(QPalette::WindowText));

@@ -15,7 +15,7 @@ class DrawingView : public QWidget {
 
   // Paints the drawing a moment later, so that a key and its results come on view before it. The drawing must exist as
   // long as the view shows it.
-  void ShowDrawing(const Drawing& drawing);
+  void ShowDrawing(Drawing& drawing);
 
   std::function<void(const SheetSize&)> Resized;
   std::function<void(DrawingCommand)> Chosen;
@@ -38,7 +38,8 @@ class DrawingView : public QWidget {
   double Scale() const;
   void TellSheet() const;
 
-  const Drawing* drawing_ = nullptr;
+  Drawing* drawing_ = nullptr;
+  int painted_ = -1;  // edition of the drawing
   QTimer repaint_;
 };
 

@@ -36,6 +36,11 @@ QPainterPath PathOf(const std::vector<PathStep>& steps) {
       case Move: path.moveTo(PointOf(step.To)); break;
       case Line: path.lineTo(PointOf(step.To)); break;
       case Curve: path.cubicTo(PointOf(step.FirstControl), PointOf(step.SecondControl), PointOf(step.To)); break;
+      case Circle: {
+        const double radius = step.FirstControl.X - step.To.X;
+        path.addEllipse(PointOf(step.To), radius, radius);
+        break;
+      }
       case Close: path.closeSubpath(); break;
     }
   }

@@ -55,7 +55,11 @@ void SummaryPane::TieCommands() {
   cmdStudy.Click = commands_.Study;
   cmdNew.Click = commands_.New;
   cmdOpen.Click = commands_.Open;
-  picDesign.Resize = [this] { ShowDrawing(); };
+  picDesign.Make = [this](const SheetSize& sheet) {
+    if (!shown_) return Sketch();
+    return PrimarySketch(*shown_, SketchFiguresOf(*shown_, program_.session.catalogs), sheet);
+  };
+  picDesign.Resize = [this] { picDesign.Outdate(); };
   picDesign.Command = [this](DrawingCommand command) { RunDrawingCommand(program_, picDesign, command); };
   lstVerdicts.Click = commands_.Parameters;
   lstRecent.Click = [this] { commands_.OpenRecent(static_cast<Integer>(lstRecent.ListIndex() + 1)); };
@@ -85,14 +89,8 @@ void SummaryPane::ShowProject() {
   lblProject.SetCaption(title.empty() ? NameAfterSeparator(project.CurrentFile) : title);
   lblFile.SetCaption(SetFormCaption("File", project.CurrentFile, project.FileSaved));
   lblUnits.SetCaption(UnitsText(project));
-  ShowDrawing();
+  picDesign.Outdate();
   ShowVerdicts();
-}
-
-void SummaryPane::ShowDrawing() {
-  if (!shown_) return;
-  const SketchFigures figures = SketchFiguresOf(*shown_, program_.session.catalogs);
-  picDesign.Show(PrimarySketch(*shown_, figures, picDesign.Sheet()));
 }
 
 void SummaryPane::ShowVerdicts() {

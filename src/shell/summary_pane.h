@@ -65,7 +65,6 @@ class SummaryPane : public ProgramForm {
  private:
   void TieCommands();
   void ShowProject();
-  void ShowDrawing();
   void ShowVerdicts();
   void ShowBeginning();
   void ReadExamples();

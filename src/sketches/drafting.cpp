@@ -13,7 +13,6 @@ constexpr double SmallestText = 6;
 constexpr double ArrowLength = 6;
 constexpr double ArrowWidth = 2.2;
 constexpr double LegendMark = 14;
-constexpr double CurveShare = 0.5523;  // of the radius: the control points of a quarter circle
 
 double WidthOf(const std::string& text, double size) {
   return static_cast<double>(CharacterCount(text)) * LetterWidth * size;
@@ -58,18 +57,8 @@ Trace& Trace::Rectangle(const Box& box) {
 }
 
 Trace& Trace::Circle(const ScenePoint& centre, double radius) {
-  constexpr std::array<ScenePoint, 5> Corners{{{1, 0}, {0, 1}, {-1, 0}, {0, -1}, {1, 0}}};
-  Move(centre.X + radius, centre.Y);
-  for (std::size_t i = 0; i + 1 < Corners.size(); ++i) {
-    const ScenePoint& from = Corners[i];
-    const ScenePoint& to = Corners[i + 1];
-    const auto at = [&](double x, double y) { return ScenePoint{centre.X + radius * x, centre.Y + radius * y}; };
-    const ScenePoint end = at(to.X, to.Y);
-    PathStep& curve = Add(PathStep::Kind::Curve, end.X, end.Y);
-    curve.FirstControl = at(from.X + CurveShare * to.X, from.Y + CurveShare * to.Y);
-    curve.SecondControl = at(to.X + CurveShare * from.X, to.Y + CurveShare * from.Y);
-  }
-  return Close();
+  Add(PathStep::Kind::Circle, centre.X, centre.Y).FirstControl = {centre.X + radius, centre.Y};
+  return *this;
 }
 
 Trace& Trace::Break(const ScenePoint& at) {
@@ -94,7 +83,6 @@ void Drafting::Draw(Trace trace, const SceneStroke& line, const SceneFill& insid
   std::vector<PathStep> steps = trace.Take();
   for (PathStep& step : steps) {
     step.To = Inside(step.To);
-    if (step.What != PathStep::Kind::Curve) continue;
     step.FirstControl = Inside(step.FirstControl);
     step.SecondControl = Inside(step.SecondControl);
   }

@@ -1,7 +1,6 @@
 // Builds a scene out of lines, texts and dimensions. Every coordinate that reaches the scene lies inside it.
 #pragma once
 
-#include <array>
 #include <initializer_list>
 #include <string>
 #include <vector>

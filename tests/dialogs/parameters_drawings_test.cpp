@@ -25,9 +25,9 @@ struct DrawingsOfTheDesign : AParametersDialog {
     Do(edits);
     dialog.EndAct();
   }
-  std::vector<std::string_view> Made() const {
+  std::vector<std::string_view> Made() {
     std::vector<std::string_view> names;
-    for (const Drawing* drawing : {&dialog.Picture1, &dialog.Image1, &dialog.picEntries, &dialog.picIntersections}) {
+    for (Drawing* drawing : {&dialog.Picture1, &dialog.Image1, &dialog.picEntries, &dialog.picIntersections}) {
       if (!drawing->Picture().Outlines.empty()) names.push_back(drawing->Name());
     }
     return names;
@@ -44,6 +44,31 @@ TEST_F(DrawingsOfTheDesign, FollowEachAct) {
   Act("txtEntryWidth=22|txtActualSpanDiagonals=70");
 
   EXPECT_THAT(dialog.Picture1.Words(), HasSubstr("Entry width 22 ft. Sum of the diagonals d1 + d2 = 70 ft"));
+}
+
+TEST_F(DrawingsOfTheDesign, AreMadeOnceForSeveralKeysBeforeSomebodyLooks) {
+  int made = 0;
+  dialog.Picture1.Make = [&made, make = dialog.Picture1.Make](const SheetSize& sheet) {
+    ++made;
+    return make(sheet);
+  };
+
+  Act("txtEntryWidth=2");
+  Act("txtEntryWidth=22");
+  EXPECT_EQ(made, 0);
+
+  EXPECT_THAT(dialog.Picture1.Words(), HasSubstr("Entry width 22 ft"));
+  EXPECT_EQ(made, 1);
+}
+
+TEST_F(DrawingsOfTheDesign, KeepTheirEditionWhenNothingOnThemChanges) {
+  const int before = dialog.Picture1.Edition();
+
+  Act("txtRowSpacingPrimary=5");
+  EXPECT_EQ(dialog.Picture1.Edition(), before);
+
+  Act("txtEntryWidth=22");
+  EXPECT_NE(dialog.Picture1.Edition(), before);
 }
 
 TEST_F(DrawingsOfTheDesign, AreMadeOnlyOnTheTabOnView) {

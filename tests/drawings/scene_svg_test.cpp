@@ -40,6 +40,12 @@ TEST(SceneSvg, WritesNoMinusBeforeZero) {
   EXPECT_THAT(SceneSvg(scene), testing::HasSubstr("d=\"M0 1L2 3\""));
 }
 
+TEST(SceneSvg, WritesACircleAsTwoArcs) {
+  Scene scene{20, 20, {}, {}};
+  scene.Outlines.push_back({{{PathStep::Kind::Circle, {10, 8}, {14, 8}, {}}}, {}, {.Colour = Ink::Bolt}});
+  EXPECT_THAT(SceneSvg(scene), testing::HasSubstr("d=\"M14 8A4 4 0 0 1 6 8A4 4 0 0 1 14 8Z\""));
+}
+
 TEST(SceneSvg, LeavesOutCharactersThatXmlCannotHold) {
   Scene scene{10, 10, {}, {{.Text = "a\x01\tb", .At = {}}}};
 

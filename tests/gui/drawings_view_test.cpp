@@ -85,6 +85,19 @@ TEST_F(DrawingsOnView, ArePaintedAfterTheKeysThatChangeThem) {
   });
 }
 
+TEST_F(DrawingsOnView, ArePaintedAlsoWhenAReaderHasReadThemBefore) {
+  Work(dialog, [this](QDialog& window) {
+    Find(window, "txtEntryWidth").setFocus();
+    Settle();
+    const Paints paints(Find(window, "Picture1"));
+
+    Type("30");
+    EXPECT_THAT(dialog.Picture1.Words(), StartsWith("Entry width 30 ft. "));
+
+    EXPECT_TRUE(QTest::qWaitFor([&] { return paints.count > 0; }));
+  });
+}
+
 TEST_F(DrawingsOnView, ChangeWithTheKeys) {
   Work(dialog, [](QDialog& window) {
     auto& drawing = Find(window, "Picture1");

@@ -92,6 +92,7 @@ RC_GTEST_PROP(Sketches, StayInsideThePictureWhateverTheNumbers, ()) {
         RC_ASSERT(isInside(step.To));
         RC_ASSERT(isInside(step.FirstControl));
         RC_ASSERT(isInside(step.SecondControl));
+        RC_ASSERT(step.What != PathStep::Kind::Circle || step.FirstControl.X >= step.To.X);
       }
     }
     for (const SceneLabel& label : scene.Labels) RC_ASSERT(isInside(label.At));

@@ -12,8 +12,8 @@ using testing::SizeIs;
 std::vector<Stroke> Diagonals(const Sketch& sketch) { return StrokesOf(OutlineOf(sketch, Ink::Bolt, 2)); }
 
 double CircleDiameter(const Sketch& sketch) {
-  const SceneOutline circle = OutlineOf(sketch, Ink::Limit, 1.5);
-  return circle.Steps[0].To.X - circle.Steps[2].To.X;
+  const PathStep circle = OutlineOf(sketch, Ink::Limit, 1.5).Steps.at(0);
+  return 2 * (circle.FirstControl.X - circle.To.X);
 }
 
 // Returns the ribs of the pillars: each has a rib along the entry, a cut corner and a rib along the crosscut.

@@ -90,7 +90,9 @@ inline std::vector<Stroke> StrokesOf(const SceneOutline& outline) {
 
 // Returns how many separate parts an outline has.
 inline int PartsOf(const SceneOutline& outline) {
-  return static_cast<int>(std::ranges::count(outline.Steps, PathStep::Kind::Move, &PathStep::What));
+  using enum PathStep::Kind;
+  return static_cast<int>(std::ranges::count_if(
+      outline.Steps, [](const PathStep& step) { return step.What == Move || step.What == Circle; }));
 }
 
 inline constexpr double RodWidth = 2.2;

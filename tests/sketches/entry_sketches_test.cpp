@@ -70,13 +70,13 @@ TEST(PrimarySketch, DrawsTheRowsOfThePlanInTheScaleOfTheSection) {
   const SceneOutline dots = OutlineOf(sketch, Ink::Bolt, 1.5);
   const double foot = WidthOfEntry(sketch) / 20;
 
-  std::vector<ScenePoint> starts;
+  std::vector<ScenePoint> centres;
   for (const PathStep& step : dots.Steps) {
-    if (step.What == PathStep::Kind::Move) starts.push_back(step.To);
+    if (step.What == PathStep::Kind::Circle) centres.push_back(step.To);
   }
-  ASSERT_GE(starts.size(), 8U);
-  EXPECT_THAT(starts[1].X - starts[0].X, DoubleNear(5 * foot, Exactly));
-  EXPECT_THAT(starts[4].Y - starts[0].Y, DoubleNear(4 * foot, Exactly));
+  ASSERT_GE(centres.size(), 8U);
+  EXPECT_THAT(centres[1].X - centres[0].X, DoubleNear(5 * foot, Exactly));
+  EXPECT_THAT(centres[4].Y - centres[0].Y, DoubleNear(4 * foot, Exactly));
 }
 
 TEST(PrimarySketch, MarksTheSuggestedBoltLength) {
