@@ -85,6 +85,8 @@ class ParametersDialog : public ParametersControls {
 
   // Opens the window that says what would hold, over this dialog, as soon as this one is on the screen.
   void StudyLater();
+  // Clicks a row of the judgements as soon as this dialog is on the screen.
+  void JudgeLater(int row);
 
   // Returns for an output whether its text is of earlier inputs, and the judgement on it.
   std::vector<std::string> HintOf(const Control& control) const override;
@@ -143,6 +145,8 @@ class ParametersDialog : public ParametersControls {
   // Reads the fields of one part into the typed design, for the live results. A number that no Single can hold becomes
   // Unfit.
   void ReadPart(DesignPart part);
+
+  void CallOnScreen(const std::function<void()>& act);
 
   // Opens the estimator and takes its roof rating.
   void Estimate();

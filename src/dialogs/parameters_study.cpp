@@ -108,10 +108,18 @@ void ParametersDialog::TakeEdits(const Design& wanted) {
   RequestFocus(lstVerdicts);
 }
 
-void ParametersDialog::StudyLater() {
-  program_.platform.clock.CallLater(0, [this, alive = std::weak_ptr(alive_)] {
-    if (!alive.expired() && IsOpen()) cmdWouldHold.Press();
+void ParametersDialog::CallOnScreen(const std::function<void()>& act) {
+  program_.platform.clock.CallLater(0, [this, act, alive = std::weak_ptr(alive_)] {
+    if (!alive.expired() && IsOpen()) act();
   });
+}
+
+void ParametersDialog::StudyLater() {
+  CallOnScreen([this] { cmdWouldHold.Press(); });
+}
+
+void ParametersDialog::JudgeLater(int row) {
+  CallOnScreen([this, row] { lstVerdicts.ClickItem(row); });
 }
 
 void ParametersDialog::Study() {

@@ -21,7 +21,7 @@ void MainWindow::EditCommand(EditItem item) {
 // A study stands over the parameters, so that its changes have fields to go to.
 void MainWindow::StudyCommand(StudyItem item) {
   switch (item) {
-    case StudyItem::WhatWouldHold: EditDesign(&ParametersDialog::StudyLater); break;
+    case StudyItem::WhatWouldHold: EditDesign<ParametersDialog>(&ParametersDialog::StudyLater); break;
   }
 }
 
@@ -52,17 +52,21 @@ void MainWindow::EditDescription() {
 }
 
 template <class Dialog>
-void MainWindow::EditDesign(void (Dialog::*start)()) {
+void MainWindow::EditDesign(const std::function<void(Dialog&)>& start) {
   Windows& windows = program_.platform.windows;
   const auto dialog = Opened<Dialog>();
   if (!dialog) return;
   KeepEdits(*dialog);
-  if (start != nullptr) (*dialog.*start)();
+  if (start) start(*dialog);
   windows.ShowMainWindow(false);
   ShowForm(program_, *dialog);
   windows.ShowMainWindow(true);
   recovery_.DialogClosed();
   RefreshCaption();
+}
+
+void MainWindow::ShowJudgement(int row) {
+  EditDesign<ParametersDialog>([row](ParametersDialog& dialog) { dialog.JudgeLater(row); });
 }
 
 // Keeps the dialog's edits after each action of the user, because the next action might end the run. If a field holds a

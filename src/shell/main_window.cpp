@@ -55,6 +55,7 @@ SummaryCommands MainWindow::CommandsOfSummary() {
   return {.New = [this] { FileCommand(FileItem::New); },
           .Open = [this] { FileCommand(FileItem::Open); },
           .Parameters = [this] { EditCommand(EditItem::Parameters); },
+          .Judgement = [this](int row) { ShowJudgement(row); },
           .Results = [this] { ShowProjectResults(); },
           .Study = [this] { StudyCommand(StudyItem::WhatWouldHold); },
           .OpenRecent = [this](Integer item) { OpenRecent(item); },

@@ -93,7 +93,9 @@ class MainWindow : public MainControls {
   void EditDescription();
   // Opens the dialog on the project. `start` is called once it is loaded.
   template <class Dialog>
-  void EditDesign(void (Dialog::*start)() = nullptr);
+  void EditDesign(const std::function<void(Dialog&)>& start = {});
+  // Opens the parameters at the field that decides a row of the summary's judgements.
+  void ShowJudgement(int row);
   template <class Dialog>
   void KeepEdits(Dialog& dialog);
 

@@ -61,7 +61,7 @@ void SummaryPane::TieCommands() {
   };
   picDesign.Resize = [this] { picDesign.Outdate(); };
   picDesign.Command = [this](DrawingCommand command) { RunDrawingCommand(program_, picDesign, command); };
-  lstVerdicts.Click = commands_.Parameters;
+  lstVerdicts.Click = [this] { commands_.Judgement(lstVerdicts.ListIndex()); };
   lstRecent.Click = [this] { commands_.OpenRecent(static_cast<Integer>(lstRecent.ListIndex() + 1)); };
   lstExamples.Click = [this] {
     commands_.OpenFile(examples_.at(static_cast<std::size_t>(lstExamples.ListIndex())).Path);

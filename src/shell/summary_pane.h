@@ -21,6 +21,7 @@ struct SummaryCommands {
   Event New;
   Event Open;
   Event Parameters;
+  std::function<void(int row)> Judgement;  // goes to what decides a row of the judgements
   Event Results;
   Event Study;
   std::function<void(Integer item)> OpenRecent;  // an entry of the recent files, from 1

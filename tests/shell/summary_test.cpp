@@ -305,6 +305,25 @@ TEST_F(Summary, ShowsTheResultsOfTheProjectAsParametersDoes) {
   EXPECT_TRUE(program.windows.WorkParmsCopy.Support() == previewed);
 }
 
+TEST_F(Summary, GoesToTheFieldThatDecidesTheJudgementClicked) {
+  OpenByDialog(Panel3);
+  const List& judgements = Opened().lstVerdicts;
+  const auto length = std::ranges::find_if(
+      judgements.Items(), [](const ComboItem& item) { return item.text.find("Bolt length") != std::string::npos; });
+  ASSERT_NE(length, judgements.Items().end());
+  int opened = 0;
+  InParameters([&](ParametersDialog& dialog) {
+    ++opened;
+    platform.clock.Pass();
+    EXPECT_EQ(dialog.FocusRequest(), &dialog.txtBoltLengthPrimary);
+    EXPECT_EQ(dialog.lstVerdicts.Items()[static_cast<std::size_t>(dialog.lstVerdicts.ListIndex())].text, length->text);
+  });
+
+  window.Summary().lstVerdicts.ClickItem(static_cast<int>(length - judgements.Items().begin()));
+
+  EXPECT_EQ(opened, 1);
+}
+
 TEST_F(Summary, StudiesWhatWouldHoldOverTheParameters) {
   OpenByDialog(Panel3);
   std::vector<std::string> shown;
