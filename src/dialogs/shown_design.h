@@ -3,15 +3,10 @@
 // Reports and curves use the design that a dialog would show, so their results do not depend on whether one was open.
 #pragma once
 
-#include "base/number_text.h"
 #include "core/program.h"
+#include "reports/figure_patterns.h"
 
 namespace orby {
-
-// How the outputs of secondary support are formatted: figures of entries, figures of intersections, stability factors.
-inline constexpr NumberPattern EntryPattern{"0.0"};
-inline constexpr NumberPattern IntersectionPattern{"0"};
-inline constexpr NumberPattern FactorPattern{"0.#0"};
 
 // Returns true if every choice that the dialog shows is one of its options.
 bool HasKnownChoices(const Design& design);

@@ -12,113 +12,11 @@
 #include "engine/estimator.h"
 #include "engine/formulas.h"
 #include "engine/primary_support.h"
+#include "reports/input_rows.h"
 #include "reports/report_text.h"
-#include "reports/support_headings.h"
 
 namespace orby {
 namespace {
-
-struct NumberRow {
-  std::string_view Label;
-  Single (*Value)(const Design& design);
-  UnitSuffix Unit = UnitSuffix::None;
-};
-
-// A number of the support of entries or of intersections.
-struct SupportRow {
-  std::string_view Label;
-  Single (*Value)(const SecondarySupport& support);
-  UnitSuffix Unit = UnitSuffix::None;
-};
-using SupportRows = std::span<const SupportRow>;
-
-constexpr auto SiteRows = std::to_array<NumberRow>({
-    {"Depth of Cover", [](const Design& d) { return d.Place.DepthofCover; }, UnitSuffix::Length},
-    {"Unit Weight of Rock", [](const Design& d) { return d.Place.UnitWeight; }, UnitSuffix::UnitWeight},
-});
-constexpr auto MiningRows = std::to_array<NumberRow>({
-    {"Sum of Intersection Diagonals", [](const Design& d) { return d.Place.ActualSpanDiagonals; }, UnitSuffix::Length},
-    {"Entry Width", [](const Design& d) { return d.Place.EntryWidth; }, UnitSuffix::Length},
-});
-constexpr auto PrimaryRows = std::to_array<NumberRow>({
-    {"Roof Bolt Length", [](const Design& d) { return d.Primary.Length; }, UnitSuffix::Length},
-    {"Number of Roof Bolts per Row", [](const Design& d) { return d.Primary.BoltsperRow; }},
-    {"Roof Bolt Row Spacing", [](const Design& d) { return d.Primary.RowSpacing; }, UnitSuffix::Length},
-    {"Target Stability Factor", [](const Design& d) { return d.Primary.StabilityFactor; }},
-});
-
-using S = SecondarySupport;
-
-constexpr auto TrussRows = std::to_array<SupportRow>({
-    {"Length of Angled Truss Member", [](const S& s) { return s.Truss.LengthMember; }, UnitSuffix::Length},
-    {"Truss Angle", [](const S& s) { return s.Truss.Angle; }, UnitSuffix::Degrees},
-    {"Truss Capacity", [](const S& s) { return s.Truss.Capacity; }, UnitSuffix::Force},
-});
-constexpr SupportRow StandingCapacity{"Standing Support Capacity", [](const S& s) { return s.Standing.Capacity; },
-                                      UnitSuffix::Force};
-constexpr SupportRow BoltLength{"Roof Bolt Length", [](const S& s) { return s.Bolt.Length; }, UnitSuffix::Length};
-
-constexpr auto EntryRockRows = std::to_array<SupportRow>({
-    {"Rock Load Height", [](const S& s) { return s.RockLoadHeight; }, UnitSuffix::Length},
-    {"Rock Fall Angle", [](const S& s) { return s.RockFallAngle; }, UnitSuffix::Degrees},
-});
-constexpr auto EntryCableRows = std::to_array<SupportRow>({
-    {"Number of Cable Bolts per Row", [](const S& s) { return s.Cable.BoltsPerRow; }},
-    {"Cable Bolt Row Spacing", [](const S& s) { return s.Cable.RowSpacing; }, UnitSuffix::Length},
-});
-constexpr auto EntryTrussRows = std::to_array<SupportRow>({
-    {"Truss Spacing", [](const S& s) { return s.Truss.Spacing; }, UnitSuffix::Length},
-});
-constexpr auto EntryBoltRows = std::to_array<SupportRow>({
-    {"Number of Roof Bolts per Row", [](const S& s) { return s.Bolt.BoltsperRow; }},
-    {"Roof Bolt Row Spacing", [](const S& s) { return s.Bolt.RowSpacing; }, UnitSuffix::Length},
-    BoltLength,
-});
-constexpr auto EntryStandingRows = std::to_array<SupportRow>({
-    StandingCapacity,
-    {"Number of Standing Supports per Row", [](const S& s) { return s.Standing.NumberPerRow; }},
-    {"Standing Support Row Spacing", [](const S& s) { return s.Standing.RowSpacing; }, UnitSuffix::Length},
-});
-
-constexpr auto IntersectionRockRows = std::to_array<SupportRow>({
-    {"Rock Load Height", [](const S& s) { return s.RockLoadHeight; }, UnitSuffix::Length},
-    {"Rock Fall Angle (Entry)", [](const S& s) { return s.RockFallAngle; }, UnitSuffix::Degrees},
-    {"Rock Fall Angle (Crosscut)", [](const S& s) { return s.RockFallAngleXcut; }, UnitSuffix::Degrees},
-});
-constexpr auto IntersectionCableRows = std::to_array<SupportRow>({
-    {"Number of Cable Bolts", [](const S& s) { return s.Cable.Number; }},
-});
-constexpr auto IntersectionTrussRows = std::to_array<SupportRow>({
-    {"Number of Trusses", [](const S& s) { return s.Truss.Number; }},
-});
-constexpr auto IntersectionBoltRows = std::to_array<SupportRow>({
-    BoltLength,
-    {"Number of Roof Bolts", [](const S& s) { return s.Bolt.Number; }},
-});
-constexpr auto IntersectionStandingRows = std::to_array<SupportRow>({
-    StandingCapacity,
-    {"Number of Standing Supports", [](const S& s) { return s.Standing.Number; }},
-});
-
-// The headings and rows that differ between entries and intersections.
-struct SupportEcho {
-  SupportHeadings Headings;
-  std::string_view OptionsHeading;
-  SupportRows Rock;
-  SupportRows CableLayout;
-  SupportRows TrussLayout;
-  SupportRows RoofBolts;
-  SupportRows StandingSupports;
-};
-
-constexpr SupportEcho EntryEcho{EntryHeadings,    "[SECONDARY ENTRY SUPPORT ANALYSIS OPTIONS]",
-                                EntryRockRows,    EntryCableRows,
-                                EntryTrussRows,   EntryBoltRows,
-                                EntryStandingRows};
-constexpr SupportEcho IntersectionEcho{IntersectionHeadings,    "[SECONDARY INTERSECTION SUPPORT ANALYSIS OPTIONS]",
-                                       IntersectionRockRows,    IntersectionCableRows,
-                                       IntersectionTrussRows,   IntersectionBoltRows,
-                                       IntersectionStandingRows};
 
 using YieldOfMetricGrade = Ksi (*)(Ksi grade, const Catalogs& catalogs);
 

@@ -1,0 +1,63 @@
+// What differs between the sheets of secondary support of entries and of intersections.
+#pragma once
+
+#include <array>
+
+#include "base/number_text.h"
+#include "reports/figure_patterns.h"
+#include "sheet/sheet_writer.h"
+
+namespace orby {
+
+struct SystemTexts {
+  std::string_view Key;
+  std::string_view Title;
+  std::string_view Unit;  // one of them
+};
+
+struct SheetOfOpening {
+  Opening Where;
+  SecondarySupport RoofSupport::*Support;
+  SupportFigures Figures::*Live;
+  Computed<Reinforcement> Figures::*Added;
+  SheetUnit LoadUnit;
+  std::string_view Key;
+  std::string_view Of;  // "of entries"
+  NumberPattern DialogPattern;
+  std::string (*ReportText)(Single load);
+  std::array<SystemTexts, SystemCount> Systems;
+};
+
+inline std::string EntryLoadText(Single load) { return FormatNumber(load, EntryPattern); }
+inline std::string IntersectionLoadText(Single load) { return NumberText(load); }
+
+inline constexpr SheetOfOpening EntrySheet{
+    .Where = Opening::Entries,
+    .Support = &RoofSupport::Entries,
+    .Live = &Figures::Entries,
+    .Added = &Figures::EntryReinforcement,
+    .LoadUnit = SheetUnit::LineLoad,
+    .Key = "entry-rock",
+    .Of = "of entries",
+    .DialogPattern = EntryPattern,
+    .ReportText = EntryLoadText,
+    .Systems = {{{"entry-cables", "Cable bolts of entries", "a cable bolt"},
+                 {"entry-trusses", "Trusses of entries", "a truss"},
+                 {"entry-bolts", "Secondary bolts of entries", "a secondary bolt"},
+                 {"entry-standing", "Standing supports of entries", "a support"}}}};
+inline constexpr SheetOfOpening IntersectionSheet{
+    .Where = Opening::Intersections,
+    .Support = &RoofSupport::Intersections,
+    .Live = &Figures::Intersections,
+    .Added = &Figures::IntersectionReinforcement,
+    .LoadUnit = SheetUnit::Force,
+    .Key = "intersection-rock",
+    .Of = "of intersections",
+    .DialogPattern = IntersectionPattern,
+    .ReportText = IntersectionLoadText,
+    .Systems = {{{"intersection-cables", "Cable bolts of intersections", "a cable bolt"},
+                 {"intersection-trusses", "Trusses of intersections", "a truss"},
+                 {"intersection-bolts", "Secondary bolts of intersections", "a secondary bolt"},
+                 {"intersection-standing", "Standing supports of intersections", "a support"}}}};
+
+}  // namespace orby

@@ -1,0 +1,53 @@
+// The parts of a sheet, each with sections of its own.
+#pragma once
+
+#include "sheet/sheet_writer.h"
+
+namespace orby {
+
+struct SheetContext {
+  const SheetDesigns& Designs;
+  const Catalogs& catalogs;
+  Figures Live;      // of the shown design
+  Figures Reported;  // of the previewed design
+  Verdicts Judged;   // of the shown design
+};
+
+// Numbers in the units of the relations, after the steps that convert those of a Metric design.
+struct WorkingSheet {
+  SheetNumber Depth;
+  SheetNumber Span;
+  SheetNumber Width;
+};
+
+struct WorkingBoltNumbers {
+  SheetNumber Diameter;  // in
+  SheetNumber Grade;     // ksi
+};
+
+// ---- steps that several parts share --------------------------------------------------------------------------------
+
+// Returns a length of the design in feet. Adds a step in a Metric design.
+SheetNumber InFeetStep(SheetWriter& writer, const std::string& name, Single length);
+WorkingBoltNumbers InInchesAndKsi(SheetWriter& writer, const std::string& bolt, const BoltSelection& set);
+
+// Return the other strength of a grade in ksi: the pair of the catalog, or a step of the relation.
+SheetNumber YieldStep(SheetWriter& writer, const std::string& bolt, const SheetNumber& grade, const Catalogs& catalogs);
+SheetNumber UltimateStep(SheetWriter& writer, const std::string& bolt, const SheetNumber& grade,
+                         const Catalogs& catalogs);
+
+// Adds the judgements of an opening that `belongs` picks.
+void AddJudgements(SheetWriter& writer, const Verdicts& judged, Opening where, std::initializer_list<Aspect> aspects);
+
+// Checks the capacity of one bolt against the standard.
+void StandardCheck(SheetWriter& writer, const std::string& bolt, const WorkingBoltNumbers& working);
+
+// ---- parts ---------------------------------------------------------------------------------------------------------
+
+void AddInputs(DesignSheet& sheet, const SheetContext& context);
+void AddPrimarySupport(DesignSheet& sheet, const SheetContext& context);
+void AddEntrySupport(DesignSheet& sheet, const SheetContext& context);
+void AddIntersectionSupport(DesignSheet& sheet, const SheetContext& context);
+void AddCost(DesignSheet& sheet, const SheetContext& context);
+
+}  // namespace orby
