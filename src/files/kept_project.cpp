@@ -22,6 +22,11 @@ Program SeparateProgram(const Program& program) {
   return beside;
 }
 
+std::string Saved(Program& beside) {
+  SaveDescription(beside);
+  return ProjectFileBytes(beside.project);
+}
+
 std::optional<UnsavedProject> ReadProjectFile(const Program& program, std::string_view bytes, const std::string& name) {
   try {
     const ItemReader reader(bytes);
@@ -52,8 +57,13 @@ std::optional<std::string> KeptProjectAsFile(const Program& program, std::string
   if (!IsRecoveryFile(bytes)) return std::string(bytes);
   Program beside = SeparateProgram(program);
   RestoreProject(beside.project, *project);
-  SaveDescription(beside);
-  return ProjectFileBytes(beside.project);
+  return Saved(beside);
+}
+
+std::string BytesOfSave(const Program& program) {
+  Program beside = SeparateProgram(program);
+  beside.project = program.project;
+  return Saved(beside);
 }
 
 }  // namespace orby

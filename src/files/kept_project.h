@@ -18,4 +18,7 @@ std::optional<UnsavedProject> ReadKeptProject(const Program& program, std::strin
 // when the bytes are damaged.
 std::optional<std::string> KeptProjectAsFile(const Program& program, std::string_view bytes);
 
+// Returns the bytes that saving the project would write. Changes nothing.
+std::string BytesOfSave(const Program& program);
+
 }  // namespace orby
