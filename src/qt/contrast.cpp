@@ -35,12 +35,11 @@ QColor Readable(const QColor& color, const QColor& background, double leastContr
 }
 
 void MakeSelectionReadable() {
-  constexpr double WithSmoothing = 6;  // the thin strokes of letters come out paler than their colour
   const QPalette present = QGuiApplication::palette();
   QPalette changed = present;  // what it does not set follows the theme
   for (const auto group : {QPalette::Active, QPalette::Inactive}) {
     const QColor ground = present.color(group, QPalette::Highlight);
-    const QColor readable = Readable(ground, present.color(group, QPalette::HighlightedText), WithSmoothing);
+    const QColor readable = Readable(ground, present.color(group, QPalette::HighlightedText), ContrastOfSmoothedText);
     if (readable != ground) changed.setColor(group, QPalette::Highlight, readable);
   }
   if (changed != present) QGuiApplication::setPalette(changed);

@@ -6,6 +6,7 @@
 
 #include "help/chm_file.h"
 #include "help/help_book.h"
+#include "qt/contrast.h"
 #include "qt/texts.h"
 
 namespace orby {
@@ -17,12 +18,7 @@ QUrl Root() { return QUrl(QString(Scheme) + ":/"); }
 
 // Many dark themes define no link colour and keep the dark blue of a light theme.
 QColor LinkColor(const QPalette& palette) {
-  constexpr int Middle = 128;
-  constexpr int Least = 185;
-  const QColor color = palette.color(QPalette::Link);
-  const bool isDark = palette.color(QPalette::Base).lightness() < Middle;
-  if (!isDark || color.lightness() >= Least) return color;
-  return QColor::fromHsl(color.hslHue(), color.hslSaturation(), Least);
+  return Readable(palette.color(QPalette::Link), palette.color(QPalette::Base), ContrastOfSmoothedText);
 }
 
 // Returns the name of the file inside the help file.

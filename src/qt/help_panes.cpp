@@ -12,8 +12,32 @@ namespace {
 
 constexpr int PlaceRole = Qt::UserRole;
 
+// A tree whose signs can be seen in the selected line, too. The style paints them in the colour of other texts.
+class SignedTree : public QTreeWidget {
+ public:
+  using QTreeWidget::QTreeWidget;
+
+ protected:
+  void drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const override {
+    isSelected_ = selectionModel()->isSelected(index);
+    QTreeWidget::drawBranches(painter, rect, index);
+    isSelected_ = false;
+  }
+  void initViewItemOption(QStyleOptionViewItem* option) const override {
+    QTreeWidget::initViewItemOption(option);
+    if (!isSelected_) return;
+    const QColor text = option->palette.color(QPalette::HighlightedText);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+      option->palette.setColor(role, text);
+    }
+  }
+
+ private:
+  mutable bool isSelected_ = false;  // the line whose sign is being painted
+};
+
 QTreeWidget* NewTree(QWidget& pane, const QString& nameForReaders) {
-  auto* tree = new QTreeWidget(&pane);
+  auto* tree = new SignedTree(&pane);
   tree->setHeaderHidden(true);
   tree->setColumnCount(1);
   tree->setAccessibleName(nameForReaders);

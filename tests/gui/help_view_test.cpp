@@ -9,9 +9,11 @@
 #include "dialogs/estimator_dialog.h"
 #include "dialogs/options_dialog.h"
 #include "dialogs/parameters_dialog.h"
+#include "gui/contrast_bench.h"
 #include "gui/help_bench.h"
 #include "gui/main_bench.h"
 #include "machine/desktop.h"
+#include "qt/contrast.h"
 #include "qt/help_viewer.h"
 #include "qt/help_window.h"
 
@@ -92,10 +94,12 @@ TEST_F(HelpOnScreen, LightensItsLinksOnADarkDesktop) {
   QApplication::setPalette(QPalette(QColor(0x30, 0x30, 0x30)));
   Settle();
   const QColor onDark = LinkOn(Window().Browser());
+  const QColor ground = Window().Browser().palette().color(QPalette::Base);
   QApplication::setPalette(light);
   Settle();
 
   EXPECT_GT(onDark.lightness(), 180);
+  EXPECT_GE(ContrastOf(onDark, ground), 5.9) << "thin strokes come out paler";
   EXPECT_EQ(LinkOn(Window().Browser()).name(), "#0000ff");
   EXPECT_EQ(Place(), "welcome.html");
 }
@@ -121,6 +125,26 @@ TEST_F(HelpOnScreen, GoesBackAndForward) {
   EXPECT_EQ(Place(), "graph.html");
   Press(Qt::Key_Home, Qt::AltModifier);
   EXPECT_EQ(Place(), "welcome.html");
+}
+
+TEST_F(HelpOnScreen, ShowsTheSignOfTheSelectedLineAsWellAsItsText) {
+  const QPalette usual = QApplication::palette();
+  MakeSelectionReadable();
+  OpenContents();
+  auto& tree = InPane<QTreeWidget>();
+  tree.setCurrentItem(tree.topLevelItem(0));
+  Settle();
+
+  const QRect line = tree.visualItemRect(tree.topLevelItem(0));
+  const QImage signs = tree.viewport()->grab(QRect(0, line.top(), line.left(), line.height())).toImage();
+  const QColor ground = tree.palette().color(QPalette::Highlight);
+  QApplication::setPalette(usual);
+  double best = 1;
+  for (int y = 0; y < signs.height(); ++y) {
+    for (int x = 0; x < signs.width(); ++x) best = std::max(best, ContrastOf(signs.pixelColor(x, y), ground));
+  }
+
+  EXPECT_GE(best, 3);
 }
 
 TEST_F(HelpOnScreen, HighlightsThePageInTheContentsHoweverItWasOpened) {
