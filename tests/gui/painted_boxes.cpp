@@ -21,6 +21,7 @@ struct PaintedBox {
   QString kind;
   QString text;
   QRectF place;
+  QRectF painted;  // the part inside the widget that paints it
 };
 
 // Paints nothing and keeps where texts and small shapes would be.
@@ -41,6 +42,9 @@ class BoxEngine : public QPaintEngine {
   void drawPath(const QPainterPath& path) override {
     if (painter()->brush().style() == Qt::SolidPattern) KeepMark(path.boundingRect());
   }
+  // The ground of a selected row is no mark.
+  void drawRects(const QRect*, int) override {}
+  void drawRects(const QRectF*, int) override {}
   void drawPolygon(const QPointF*, int, PolygonDrawMode) override {}
   void drawPolygon(const QPoint*, int, PolygonDrawMode) override {}
 
@@ -52,7 +56,9 @@ class BoxEngine : public QPaintEngine {
     if (less >= SmallestMark && more <= LargestMark) Keep("mark", {}, place);
   }
   void Keep(const QString& kind, const QString& text, const QRectF& place) {
-    boxes.push_back({kind, text, painter()->deviceTransform().mapRect(place)});
+    const QRectF whole = painter()->deviceTransform().mapRect(place);
+    const QRegion clip = systemClip();
+    boxes.push_back({kind, text, whole, clip.isEmpty() ? whole : whole.intersected(clip.boundingRect())});
   }
 };
 
@@ -87,7 +93,9 @@ class BoxDevice : public QPaintDevice {
 
 // Returns the part of a box that is on view and can be used; empty if there is none.
 QRectF UsableOf(const QWidget& window, const PaintedBox& box) {
-  const QPoint middle = box.place.center().toPoint();
+  // A row that the edge of a list cuts can be scrolled into view. The rest of it would stand in the widget below.
+  if (box.painted.height() < box.place.height() - 1) return {};
+  const QPoint middle = box.painted.center().toPoint();
   QWidget* widget = window.childAt(middle);
   if (widget == nullptr || !widget->isEnabled()) return {};
   // Others have pictures of the toolkit, such as the dots of options.
@@ -99,8 +107,7 @@ QRectF UsableOf(const QWidget& window, const PaintedBox& box) {
     if (tab >= 0 && !tabs->isTabEnabled(tab)) return {};
   }
   const QRect onView = widget->visibleRegion().boundingRect().translated(widget->mapTo(&window, QPoint()));
-  const QRectF usable = box.place.intersected(onView);
-  // A row that the edge of a list cuts can be scrolled into view.
+  const QRectF usable = box.painted.intersected(onView);
   return usable.height() < box.place.height() - 1 ? QRectF() : usable;
 }
 
