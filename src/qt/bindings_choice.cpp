@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QSlider>
@@ -252,6 +253,9 @@ class ListBinding : public QObject, public WidgetBinding<QListWidget, List> {
     if (event->isInputEvent()) NoteHand();
     // The first click may have refilled the list, and the second must not choose another item.
     if (event->type() == QEvent::MouseButtonDblClick) return true;
+    if (event->type() == QEvent::MouseButtonPress && watched == widget_.viewport()) {
+      if (IsOnEmptySpace(dynamic_cast<QMouseEvent*>(event)->position().toPoint())) return true;
+    }
     if (event->type() == QEvent::KeyPress && widget_.currentItem() != nullptr) {
       const int key = dynamic_cast<QKeyEvent*>(event)->key();
       if (key == Qt::Key_Return || key == Qt::Key_Enter) {
@@ -263,6 +267,12 @@ class ListBinding : public QObject, public WidgetBinding<QListWidget, List> {
   }
 
  private:
+  // Returns true in the space of a row that is not painted, because the edge of the list would cut it.
+  bool IsOnEmptySpace(const QPoint& at) const {
+    const QListWidgetItem* row = rows_ == nullptr ? nullptr : widget_.itemAt(at);
+    return row != nullptr && !MarkedRows::IsWhole(widget_, widget_.visualItemRect(row));
+  }
+
   // Lasts until the event of the key or the mouse is over.
   void NoteHand() {
     isByHand_ = true;

@@ -1,6 +1,5 @@
 #include "qt/marked_rows.h"
 
-#include <QAbstractItemView>
 #include <QIcon>
 #include <QPainter>
 #include <algorithm>
@@ -21,7 +20,14 @@ int TextWidth(const QStyleOptionViewItem& option) {
 
 }  // namespace
 
+bool MarkedRows::IsWhole(const QAbstractItemView& list, const QRect& row) {
+  const int room = list.viewport()->height();
+  return row.height() > room || (row.top() >= 0 && row.bottom() < room);
+}
+
 void MarkedRows::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  const auto* list = qobject_cast<const QAbstractItemView*>(option.widget);
+  if (list != nullptr && !IsWhole(*list, option.rect)) return;
   const bool isSelected = (option.state & QStyle::State_Selected) != 0;
   const auto group = (option.state & QStyle::State_Active) != 0 ? QPalette::Active : QPalette::Inactive;
   if (isSelected) painter->fillRect(option.rect, option.palette.brush(group, QPalette::Highlight));

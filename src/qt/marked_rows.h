@@ -1,8 +1,10 @@
-// Paints the rows of a list of judgements: a mark and a text that may take several lines.
+// Paints the rows of a list of judgements: a mark and a text that may take several lines. The space of a row that the
+// edge of the list would cut stays empty.
 //
 // The texts are laid out once, not at every paint, because the list is painted after every key in a field.
 #pragma once
 
+#include <QAbstractItemView>
 #include <QHash>
 #include <QPixmap>
 #include <QStaticText>
@@ -13,6 +15,9 @@ namespace orby {
 class MarkedRows : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
+
+  // Returns true if the row at this place of the list is painted. One that is higher than the list is always cut.
+  static bool IsWhole(const QAbstractItemView& list, const QRect& row);
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
