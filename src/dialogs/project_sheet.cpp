@@ -1,9 +1,11 @@
 #include "dialogs/project_sheet.h"
 
+#include "base/paths.h"
 #include "base/sha256.h"
 #include "core/description.h"
 #include "dialogs/shown_design.h"
 #include "files/kept_project.h"
+#include "sheet/pdf_bookmarks.h"
 
 namespace orby {
 
@@ -18,6 +20,15 @@ DesignSheet SheetOfProject(const Program& program) {
                            .Description = project.ProjectDescription,
                            .Sum = Sha256(BytesOfSave(program))},
                           catalogs);
+}
+
+std::string SheetAsPdf(const Program& program, const DesignSheet& sheet, const SheetPaper& paper) {
+  PictureFiles& pictures = program.platform.pictures;
+  const auto width = [&](const std::string& text, const TextStyle& style) { return pictures.WidthOf(text, style); };
+  const std::string name =
+      sheet.Project.Title.empty() ? std::string(NameAfterSeparator(sheet.Project.File)) : sheet.Project.Title;
+  const PagedSheet paged = PagesOf(sheet, paper.Size, {.Left = name, .Date = paper.Date}, width);
+  return WithBookmarks(pictures.PagesAsPdf(paged.Pages, "Calculation sheet: " + name), paged.Contents, paper.Size);
 }
 
 }  // namespace orby

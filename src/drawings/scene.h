@@ -83,8 +83,16 @@ struct SceneLabel {
   double Size = 13;
   bool IsBold = false;
   double Turn = 0;  // degrees clockwise around At
+  bool IsItalic = false;
 
   bool operator==(const SceneLabel&) const = default;
+};
+
+// How a text is set, without its place.
+struct TextStyle {
+  double Size = 13;
+  bool IsBold = false;
+  bool IsItalic = false;
 };
 
 // Outlines are painted in their order, and labels over them.

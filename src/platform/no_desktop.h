@@ -76,6 +76,10 @@ class NoPictureFiles : public PictureFiles {
  public:
   std::string AsPng(const Scene&) override { throw RuntimeError(error_number::OutOfMemory); }
   std::string AsPdf(const Scene&, const std::string&) override { throw RuntimeError(error_number::OutOfMemory); }
+  std::string PagesAsPdf(const std::vector<Scene>&, const std::string&) override {
+    throw RuntimeError(error_number::OutOfMemory);
+  }
+  double WidthOf(const std::string&, const TextStyle&) override { return 0; }
 };
 
 class NoDocuments : public Documents {

@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QPdfWriter>
+#include <span>
 
 #include "base/runtime_error.h"
 #include "core/program.h"
@@ -25,6 +26,28 @@ QColor TextOnPaper() { return QColor::fromRgb(InkColour(Ink::Text, Ground::Light
 
 std::string Bytes(const QBuffer& buffer) { return buffer.data().toStdString(); }
 
+QPageLayout LayoutOf(const Scene& page, double pointsOfUnit) {
+  const QSizeF points(page.Width * pointsOfUnit, page.Height * pointsOfUnit);
+  return {QPageSize(points, QPageSize::Point, {}, QPageSize::ExactMatch), QPageLayout::Portrait, {}};
+}
+
+std::string PdfOf(std::span<const Scene> pages, double pointsOfUnit, const std::string& title) {
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&buffer);
+  writer.setTitle(ToQt(title));
+  writer.setCreator(ToQt(std::string(ProgramTitle) + " " + VersionText()));
+  QPainter painter;
+  for (const Scene& page : pages) {
+    writer.setPageLayout(LayoutOf(page, pointsOfUnit));
+    const bool isReady = painter.isActive() ? writer.newPage() : painter.begin(&writer);
+    if (!isReady) throw RuntimeError(error_number::OutOfMemory);
+    PaintScene(painter, page, QRectF(0, 0, writer.width(), writer.height()), TextOnPaper());
+  }
+  if (!painter.end()) throw RuntimeError(error_number::OutOfMemory);
+  return Bytes(buffer);
+}
+
 }  // namespace
 
 std::string QtPictureFiles::AsPng(const Scene& scene) {
@@ -43,18 +66,13 @@ std::string QtPictureFiles::AsPng(const Scene& scene) {
 }
 
 std::string QtPictureFiles::AsPdf(const Scene& scene, const std::string& title) {
-  QBuffer buffer;
-  buffer.open(QIODevice::WriteOnly);
-  QPdfWriter writer(&buffer);
-  writer.setTitle(ToQt(title));
-  writer.setCreator(ToQt(std::string(ProgramTitle) + " " + VersionText()));
-  const QSizeF points(scene.Width * PointsOfInch / UnitsOfInch, scene.Height * PointsOfInch / UnitsOfInch);
-  writer.setPageLayout({QPageSize(points, QPageSize::Point, {}, QPageSize::ExactMatch), QPageLayout::Portrait, {}});
-  QPainter painter;
-  if (!painter.begin(&writer)) throw RuntimeError(error_number::OutOfMemory);
-  PaintScene(painter, scene, QRectF(0, 0, writer.width(), writer.height()), TextOnPaper());
-  if (!painter.end()) throw RuntimeError(error_number::OutOfMemory);
-  return Bytes(buffer);
+  return PdfOf(std::span(&scene, 1), PointsOfInch / UnitsOfInch, title);
 }
+
+std::string QtPictureFiles::PagesAsPdf(const std::vector<Scene>& pages, const std::string& title) {
+  return PdfOf(pages, 1, title);
+}
+
+double QtPictureFiles::WidthOf(const std::string& text, const TextStyle& style) { return orby::WidthOf(text, style); }
 
 }  // namespace orby

@@ -9,6 +9,8 @@ class QtPictureFiles : public PictureFiles {
  public:
   std::string AsPng(const Scene& scene) override;
   std::string AsPdf(const Scene& scene, const std::string& title) override;
+  std::string PagesAsPdf(const std::vector<Scene>& pages, const std::string& title) override;
+  double WidthOf(const std::string& text, const TextStyle& style) override;
 };
 
 }  // namespace orby

@@ -63,12 +63,21 @@ QBrush BrushOf(const SceneFill& fill, const QColor& text) {
   return Faded(ColourOf(fill.Colour, text), fill.Opacity);
 }
 
-void PaintLabel(QPainter& painter, const SceneLabel& label) {
-  const QString text = ToQt(label.Text);
+// Fonts have whole sizes.
+int FontSizeOf(double size) { return std::max(1, static_cast<int>(size)); }
+
+QFont FontOf(const TextStyle& style) {
   QFont font("sans-serif");
   font.setStyleHint(QFont::SansSerif);  // where no font has this name
-  font.setPixelSize(static_cast<int>(label.Size));
-  font.setBold(label.IsBold);
+  font.setPixelSize(FontSizeOf(style.Size));
+  font.setBold(style.IsBold);
+  font.setItalic(style.IsItalic);
+  return font;
+}
+
+void PaintLabel(QPainter& painter, const SceneLabel& label) {
+  const QString text = ToQt(label.Text);
+  const QFont font = FontOf({.Size = label.Size, .IsBold = label.IsBold, .IsItalic = label.IsItalic});
   const double share = label.Side == Anchor::Start ? 0 : label.Side == Anchor::Middle ? 0.5 : 1;
   // Measuring a text takes as long as painting it.
   const double before = share == 0 ? 0 : share * QFontMetricsF(font).horizontalAdvance(text);
@@ -76,11 +85,16 @@ void PaintLabel(QPainter& painter, const SceneLabel& label) {
   painter.setFont(font);
   painter.translate(PointOf(label.At));
   painter.rotate(label.Turn);
+  if (const double scale = label.Size / FontSizeOf(label.Size); scale != 1) painter.scale(scale, scale);
   painter.drawText(QPointF(-before, 0), text);
   painter.restore();
 }
 
 }  // namespace
+
+double WidthOf(const std::string& text, const TextStyle& style) {
+  return QFontMetricsF(FontOf(style)).horizontalAdvance(ToQt(text)) * style.Size / FontSizeOf(style.Size);
+}
 
 void PaintScene(QPainter& painter, const Scene& scene, const QRectF& target, const QColor& text) {
   if (scene.Width <= 0 || scene.Height <= 0) return;

@@ -3,6 +3,7 @@
 
 namespace orby {
 
+// NOLINTNEXTLINE(readability-function-size): a table
 std::vector<Relation> CostRelations() {
   const Expression bolts = Symbol("n");
   const Expression perRow = Symbol("N");

@@ -95,7 +95,7 @@ class InputSheet {
     const Bolt bolt = SelectedBolt(set);
     writer.Input("Roof Bolt Diameter", NumberText(bolt.Diameter), UnitSuffix::Diameter,
                  isManual ? SourceOf(set.DiameterMode) : row);
-    writer.Input("Roof Bolt Grade", NumberText(bolt.Grade), UnitSuffix::Stress,
+    writer.Input("Roof Bolt Grade", NumberText(bolt.Grade), UnitSuffix::Grade,
                  isManual ? SourceOf(set.GradeMode) : row);
   }
 

@@ -3,6 +3,7 @@
 
 namespace orby {
 
+// NOLINTNEXTLINE(readability-function-size): a table
 std::vector<Relation> RockRelations() {
   const Expression width = Symbol("W");
   const Expression height = Symbol("h");
@@ -110,6 +111,7 @@ std::vector<Relation> RockRelations() {
   };
 }
 
+// NOLINTNEXTLINE(readability-function-size): a table
 std::vector<Relation> SystemRelations() {
   const Expression capacity = Symbol("C");
   const Expression number = Symbol("N");

@@ -77,7 +77,7 @@ SheetNumber SheetWriter::Step(Law law, std::string title, const std::vector<Shee
   step.Unit = UnitText(unit.value_or(relation.Result.Unit), units_);
   Insert(step, numbers);
   if (step.Failure.empty()) Compute(step);
-  const SheetNumber result{step.Value, step.Text};
+  SheetNumber result{step.Value, step.Text};
   Parts().emplace_back(std::move(step));
   return result;
 }
@@ -91,7 +91,7 @@ SheetNumber SheetWriter::Found(std::string title, const SymbolMeaning& symbol, s
   step.Value = value;
   if (value) step.Text = SevenDigits(*value);
   step.Notes.push_back(std::move(note));
-  const SheetNumber result{step.Value, step.Text};
+  SheetNumber result{step.Value, step.Text};
   Parts().emplace_back(std::move(step));
   return result;
 }

@@ -3,6 +3,7 @@
 
 namespace orby {
 
+// NOLINTNEXTLINE(readability-function-size): a table
 std::vector<Relation> Conversions() {
   const Expression x = Symbol("x");
   const SymbolMeaning metres{"x", "length in metres", SheetUnit::Length};
@@ -73,6 +74,7 @@ std::vector<Relation> Conversions() {
   };
 }
 
+// NOLINTNEXTLINE(readability-function-size): a table
 std::vector<Relation> Suggestions() {
   const Expression rating = Symbol("CMRR");
   const Expression depth = Symbol("H");

@@ -1,6 +1,7 @@
 #include "support/recording_platform.h"
 
 #include "base/paths.h"
+#include "base/text.h"
 #include "controls/control.h"
 #include "controls/form.h"
 
@@ -199,6 +200,15 @@ std::string RecordingPictures::AsPng(const Scene& scene) {
 std::string RecordingPictures::AsPdf(const Scene& scene, const std::string& title) {
   scenes.push_back(scene);
   return "PDF of " + title;
+}
+
+std::string RecordingPictures::PagesAsPdf(const std::vector<Scene>& pages, const std::string& title) {
+  scenes.insert(scenes.end(), pages.begin(), pages.end());
+  return "PDF of " + title;
+}
+
+double RecordingPictures::WidthOf(const std::string& text, const TextStyle& style) {
+  return 0.6 * style.Size * static_cast<double>(CharacterCount(text));
 }
 
 RecordingPlatform::RecordingPlatform() = default;

@@ -227,6 +227,9 @@ class RecordingPictures : public PictureFiles {
  public:
   std::string AsPng(const Scene& scene) override;
   std::string AsPdf(const Scene& scene, const std::string& title) override;
+  std::string PagesAsPdf(const std::vector<Scene>& pages, const std::string& title) override;
+  // Six tenths of the size for each character.
+  double WidthOf(const std::string& text, const TextStyle& style) override;
 
   std::vector<Scene> scenes;
 };

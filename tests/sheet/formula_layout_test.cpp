@@ -1,0 +1,121 @@
+// Formulas as they are set on paper.
+#include "sheet/formula_layout.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+#include "base/text.h"
+#include "sheet/relations.h"
+
+namespace orby::test {
+namespace {
+
+using testing::DoubleNear;
+using testing::ElementsAre;
+using testing::SizeIs;
+
+constexpr double Size = 10;
+const Expression X = Symbol("x");
+const Expression Y = Symbol("y");
+
+double WidthOf(const std::string& text, const TextStyle& style) {
+  return 0.6 * style.Size * static_cast<double>(CharacterCount(text));
+}
+
+FormulaBox Set(const Expression& formula) { return SetFormula(formula, Size, WidthOf); }
+
+std::vector<std::string> TextsOf(const FormulaBox& box) {
+  std::vector<std::string> texts;
+  for (const SceneLabel& label : box.Labels) texts.push_back(label.Text);
+  return texts;
+}
+
+const SceneLabel& LabelOf(const FormulaBox& box, const std::string& text) {
+  const auto found = std::ranges::find(box.Labels, text, &SceneLabel::Text);
+  if (found == box.Labels.end()) throw std::runtime_error("no label " + text);
+  return *found;
+}
+
+TEST(ASetFormula, HasDividendAndDivisorAboveAndBelowTheBar) {
+  const FormulaBox box = Set((X + 1) / Y);
+
+  ASSERT_THAT(box.Lines, SizeIs(1)) << "no brackets";
+  const double bar = box.Lines[0].Steps[0].To.Y;
+  EXPECT_LT(LabelOf(box, "x").At.Y, bar);
+  EXPECT_GT(LabelOf(box, "y").At.Y - Size / 2, bar);
+  EXPECT_THAT(LabelOf(box, "y").At.X + 3, DoubleNear(box.Width / 2, 0.01)) << "in the middle";
+}
+
+TEST(ASetFormula, JoinsQuotientsOfQuotientsInOneFraction) {
+  const FormulaBox box = Set(X / Y / 2);
+
+  EXPECT_THAT(box.Lines, SizeIs(1));
+  EXPECT_THAT(TextsOf(box), ElementsAre("x", "y", "·", "2"));
+}
+
+TEST(ASetFormula, RaisesPowersAndLowersIndices) {
+  const FormulaBox power = Set(SquareOf(X));
+  EXPECT_LT(LabelOf(power, "2").At.Y, LabelOf(power, "x").At.Y);
+  EXPECT_LT(LabelOf(power, "2").Size, Size);
+
+  const FormulaBox index = Set(Symbol("s_min"));
+  EXPECT_THAT(TextsOf(index), ElementsAre("s", "min"));
+  EXPECT_GT(LabelOf(index, "min").At.Y, LabelOf(index, "s").At.Y);
+  EXPECT_TRUE(LabelOf(index, "s").IsItalic);
+  EXPECT_FALSE(LabelOf(index, "min").IsItalic);
+}
+
+TEST(ASetFormula, DrawsBracketsWhereThePrecedenceNeedsThem) {
+  EXPECT_THAT(Set((X + Y) * 2).Lines, SizeIs(2));
+  EXPECT_THAT(Set(X * Y + 2).Lines, SizeIs(0));
+  EXPECT_THAT(Set(SquareOf(X + Y)).Lines, SizeIs(2));
+  EXPECT_THAT(Set(NaturalLogOf(X)).Lines, SizeIs(2));
+  EXPECT_THAT(Set(X - (Y - 2)).Lines, SizeIs(2));
+}
+
+TEST(ASetFormula, PutsNumbersInThePlacesOfSymbols) {
+  const auto numbers = [](std::string_view letter) { return std::string(letter == "x" ? "-2.5" : "4"); };
+  const FormulaBox box = SetFormula(Y * X, Size, WidthOf, numbers);
+
+  EXPECT_THAT(TextsOf(box), ElementsAre("4", "·", "-2.5"));
+  EXPECT_THAT(box.Lines, SizeIs(2)) << "a negative factor has brackets";
+}
+
+TEST(ASetFormula, HasALineForEachCase) {
+  const FormulaBox box = Set(CasesOf({{3, X <= 20}}, Y));
+
+  EXPECT_LT(LabelOf(box, "3").At.Y, LabelOf(box, "y").At.Y);
+  EXPECT_THAT(TextsOf(box), ElementsAre("3", "if", "x", "≤", "20", "y", "else"));
+}
+
+TEST(ASetFormula, StaysInItsBoxWhateverTheRelation) {
+  for (const Relation& relation : Relations()) {
+    const FormulaBox box = Set(relation.Formula);
+    constexpr double Slack = 0.5;  // lines have a width
+    const auto expectInside = [&](const ScenePoint& at) {
+      EXPECT_GE(at.X, -Slack) << relation.Key;
+      EXPECT_LE(at.X, box.Width + Slack) << relation.Key;
+      EXPECT_GE(at.Y, -box.Ascent - Slack) << relation.Key;
+      EXPECT_LE(at.Y, box.Descent + Slack) << relation.Key;
+    };
+    for (const SceneLabel& label : box.Labels) {
+      expectInside(label.At);
+      expectInside({label.At.X + WidthOf(label.Text, {.Size = label.Size}), label.At.Y - label.Size * 0.7});
+    }
+    for (const SceneOutline& line : box.Lines) {
+      for (const PathStep& step : line.Steps) expectInside(step.To);
+    }
+  }
+}
+
+TEST(APlacedFormula, IsMovedAndScaled) {
+  const FormulaBox box = Placed(Set(X / Y), {100, 50}, 0.5);
+
+  EXPECT_EQ(LabelOf(box, "x").Size, 5);
+  EXPECT_THAT(box.Width, DoubleNear(Set(X / Y).Width / 2, 1e-9));
+  EXPECT_GT(LabelOf(box, "x").At.X, 100);
+}
+
+}  // namespace
+}  // namespace orby::test
