@@ -63,7 +63,7 @@ class FormulaSetter {
       case Operation::Sum:
       case Operation::Difference:
       case Operation::Product: return {Joined(formula), BindingOf(formula)};
-      case Operation::Quotient: return {"<mfrac>" + Row(part(0)) + Row(part(1)) + "</mfrac>", Binding::Whole};
+      case Operation::Quotient: return SetFraction(formula);
       case Operation::Power: return SetPower(formula);
       case Operation::Root: return {"<msqrt>" + part(0) + "</msqrt>"};
       case Operation::NaturalLog: return SetFunction("ln", part(0));
@@ -88,6 +88,21 @@ class FormulaSetter {
 
   static SetFormula SetFunction(std::string_view name, const std::string& argument) {
     return {Element("mi", name) + "<mo>&#x2061;</mo>" + Bracketed(argument)};
+  }
+
+  // Sets what is divided several times as one fraction: a / b / c has b and c below its line.
+  SetFormula SetFraction(const Expression& formula) const {
+    const Expression* dividend = &formula;
+    std::vector<const Expression*> divisors;
+    for (; dividend->What == Operation::Quotient; dividend = &dividend->Parts.at(0)) {
+      divisors.insert(divisors.begin(), &dividend->Parts.at(1));
+    }
+    std::string below =
+        divisors.size() == 1 ? Set(*divisors[0]).Math : InBrackets(*divisors[0], Binding::Product, false);
+    for (std::size_t i = 1; i < divisors.size(); ++i) {
+      below += Sign(SignOf(Operation::Product)) + InBrackets(*divisors[i], Binding::Product, true);
+    }
+    return {"<mfrac>" + Row(Set(*dividend).Math) + Row(below) + "</mfrac>"};
   }
 
   // A fraction needs brackets around it only here.
@@ -123,10 +138,10 @@ class FormulaSetter {
       rows += "<mtr><mtd>" + Set(value).Math + "</mtd><mtd>" + condition + "</mtd></mtr>";
     };
     for (std::size_t i = 0; i + 1 < formula.Parts.size(); i += 2) {
-      add(formula.Parts[i], "<mtext>if </mtext>" + Set(formula.Parts[i + 1]).Math);
+      add(formula.Parts[i], "<mtext>if&#xA0;</mtext>" + Set(formula.Parts[i + 1]).Math);
     }
     add(formula.Parts.back(), "<mtext>otherwise</mtext>");
-    return Row("<mo form=\"prefix\" stretchy=\"true\">{</mo><mtable>" + rows + "</mtable>");
+    return Row("<mo form=\"prefix\" stretchy=\"true\">{</mo><mtable displaystyle=\"true\">" + rows + "</mtable>");
   }
 
   inline static const std::string Comma = "<mo separator=\"true\">,</mo>";

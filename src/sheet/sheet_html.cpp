@@ -1,5 +1,6 @@
 #include "sheet/sheet_html.h"
 
+#include "sheet/formula_text.h"
 #include "sheet/html_text.h"
 #include "sheet/judgement_names.h"
 #include "sheet/math_ml.h"
@@ -8,6 +9,8 @@
 
 namespace orby {
 namespace {
+
+constexpr std::size_t WidestFormula = 110;  // characters that fit on paper
 
 class HtmlOutput {
  public:
@@ -122,25 +125,19 @@ class HtmlOutput {
   // The symbol stands once, all equality signs below each other.
   void Formulas(const SheetStep& step) {
     if (step.Law == nullptr && !step.Value) return;
-    MathPieces formula;
-    MathPieces inserted;
-    if (step.Law != nullptr) {
-      formula = FormulaMath(step.Law->Formula);
-      inserted = InsertedMath(step);
-    }
-    const bool isWide = formula.size() > 1 || inserted.size() > 1;
+    const bool isWide = step.Law != nullptr && InsertedText(step).size() > WidestFormula;
     html_.append(isWide ? "<div class=\"formulas wide\">" : "<div class=\"formulas\">");
     html_.append("<math>").append(LetterMath(step.Letter)).append("</math>\n");
     if (step.Law != nullptr) {
-      Equals(formula, "right");
-      Equals(inserted, "right");
+      Equals(FormulaMath(step.Law->Formula));
+      Equals(InsertedMath(step));
     }
-    if (step.Value) Equals({NumberMath(step.Text, step.Unit)}, "right result");
+    if (step.Value) Equals({NumberMath(step.Text, step.Unit)});
     Line("</div>");
   }
 
-  void Equals(const MathPieces& pieces, std::string_view kind) {
-    html_.append("<div class=\"").append(kind).append("\"><math displaystyle=\"true\"><mo form=\"infix\">=</mo>");
+  void Equals(const MathPieces& pieces) {
+    html_ += "<div class=\"right\"><math displaystyle=\"true\"><mo form=\"infix\">=</mo>";
     for (std::size_t i = 0; i < pieces.size(); ++i) {
       if (i > 0) html_ += "</math><wbr/><math displaystyle=\"true\">";
       html_ += pieces[i];

@@ -43,28 +43,30 @@ tr { break-inside: avoid; }
 .facts td, .source { overflow-wrap: anywhere; }
 .inputs, .symbols { width: 100%; }
 .inputs th[scope=row] { width: 46%; }
-.inputs .source, .details, .symbols { color: var(--soft); font-size: .9rem; }
-.symbols { color: var(--ink); }
+.inputs .source, .details { color: var(--soft); font-size: .9rem; }
+.symbols { margin-top: 1.5rem; font-size: .9rem; break-inside: avoid; }
 .symbols caption { padding: .25rem 0; text-align: left; font-weight: 600; break-after: avoid; }
-.symbols th { width: 6rem; }
+.symbols th:first-child, .symbols td:last-child { width: 6.5rem; }
+.symbols th, .symbols td { padding-top: .1rem; padding-bottom: .1rem; }
 .value { white-space: nowrap; }
+.costs { break-inside: avoid; }
 .costs td, .costs thead th + th { text-align: right; }
 .costs tbody tr:last-child > * { border-top: 2px solid var(--line); font-weight: 600; }
 .step { margin: 1.25rem 0; break-inside: avoid; }
 .formulas {
-  display: grid; grid-template-columns: max-content minmax(0, 1fr); column-gap: .3em; row-gap: .35rem;
+  display: grid; grid-template-columns: max-content minmax(0, 1fr); column-gap: .3em; row-gap: .6rem;
   align-items: baseline; margin: .4rem 0 .4rem 1.25rem; overflow-x: auto; overflow-y: hidden; padding-bottom: .15rem;
 }
 .formulas > .right { grid-column: 2; }
-.result { font-weight: 600; }
 math { font-size: 1.1em; font-family: "Latin Modern Math", "STIX Two Math", "Cambria Math", "DejaVu Math TeX Gyre", math; }
-mtd { text-align: left; }
+mfrac > * { padding: .12em .2em; }
+mtd { padding: .3em 0; text-align: left; }
 mtd:first-child { padding-right: 1.5em; }
 .details { margin: .4rem 0 0 1.25rem; padding: 0; list-style: none; }
 .failure { margin: .4rem 0 .4rem 1.25rem; color: var(--short); font-weight: 600; }
 .judgement {
   margin: 1rem 0; padding: .5rem .9rem; border-left: 5px solid currentColor; background: var(--band);
-  font-weight: 600; break-inside: avoid;
+  font-weight: 600; break-inside: avoid; break-before: avoid;
 }
 .holds { color: var(--holds); }
 .check { color: var(--check); }
@@ -73,13 +75,13 @@ mtd:first-child { padding-right: 1.5em; }
 @page { margin: 18mm 16mm 20mm; @bottom-right { content: counter(page) " / " counter(pages); font: 8pt sans-serif; } }
 @media print {
   :root {
-    color-scheme: light;
+    color-scheme: light; font-size: 9.5pt;
     --paper: #ffffff; --ink: #000000; --soft: #444444; --line: #b5b5b5; --band: #f3f5f7; --link: #000000;
     --holds: #14562a; --check: #6e4700; --short: #9c1c15; --uncomputed: #444444;
   }
-  body { max-width: none; padding: 0; font-size: 10pt; }
+  body { max-width: none; padding: 0; }
   .formulas { overflow: visible; }
-  .formulas.wide math { font-size: .88em; }
+  .formulas.wide math { font-size: .75em; }
   .judgement, thead th { print-color-adjust: exact; -webkit-print-color-adjust: exact; }
   p { orphans: 3; widows: 3; }
 }

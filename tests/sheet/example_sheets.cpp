@@ -1,6 +1,5 @@
 #include "sheet/example_sheets.h"
 
-#include "files/project_lines.h"
 #include "files/project_reader.h"
 #include "sheet/sheet_html.h"
 #include "sheet/sheet_json.h"
@@ -13,9 +12,10 @@ namespace orby::test {
 namespace {
 
 DesignSheet SheetOfExample(const std::string& name) {
+  const std::string bytes = ReadTestData("../../examples/" + name);
   Project project;
-  project.FileVersion = CurrentFileVersion;
-  ReadProject(project, ItemReader(ReadTestData("../../examples/" + name)));
+  project.FileVersion = FormatOf(ItemReader(bytes)).value();
+  ReadProject(project, ItemReader(bytes));
   project.CurrentFile = "/designs/" + name;
   const SheetOf made(project.WorkParms);
   DesignSheet sheet = made.Made;

@@ -16,8 +16,8 @@ struct NamedSheet {
 // The sheets of the golden files, one English and one Metric.
 std::vector<NamedSheet> GoldenSheets();
 
-// Sheets with every relation, with steps that cannot be computed, with every case of a formula, and with a project whose
-// texts look like markup.
+// Sheets with every relation, with steps that cannot be computed, with every case of a formula, and with a project
+// whose texts look like markup.
 std::vector<NamedSheet> SheetsOfAllKinds();
 
 // Texts that look like markup, with letters beyond ASCII.
