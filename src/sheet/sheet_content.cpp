@@ -14,6 +14,14 @@ std::string Sentence(std::string text) {
   return text;
 }
 
+// Returns the text without blanks at its ends, and with blanks for control characters.
+std::string InOneLine(std::string_view text) {
+  std::string line(text);
+  std::ranges::replace_if(
+      line, [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+  return std::string(Trim(line));
+}
+
 std::string PlacesText(const std::vector<std::string_view>& places) {
   std::string text;
   for (std::size_t i = 0; i < places.size(); ++i) {
@@ -31,7 +39,7 @@ bool IsSame(const InsertedNumber& symbol, const SymbolMeaning& other, std::strin
 
 std::vector<TitleFact> TitleFacts(const DesignSheet& sheet) {
   std::vector<TitleFact> facts{
-      {"Project file", sheet.Project.File},
+      {"Project file", InOneLine(sheet.Project.File)},
       {"Units", sheet.Units == Metric ? "Metric" : "English"},
       {"Bolt grades", sheet.Basis == StrengthBasis::Yield ? "yield strengths" : "ultimate strengths"},
       {"Program", std::string(ProgramTitle) + " " + VersionText()},
@@ -42,9 +50,7 @@ std::vector<TitleFact> TitleFacts(const DesignSheet& sheet) {
 }
 
 std::string SheetHeading(const DesignSheet& sheet) {
-  std::string title(Trim(sheet.Project.Title));
-  std::ranges::replace_if(
-      title, [](char c) { return c == '\r' || c == '\n' || c == '\t'; }, ' ');
+  const std::string title = InOneLine(sheet.Project.Title);
   return title.empty() ? "Project without a title" : title;
 }
 
@@ -52,8 +58,8 @@ std::vector<std::string> DescriptionLines(const DesignSheet& sheet) {
   std::vector<std::string> lines;
   std::string_view rest = sheet.Project.Description;
   while (!rest.empty()) {
-    const std::string_view line = Trim(TakeLine(rest));
-    if (!line.empty()) lines.emplace_back(line);
+    std::string line = InOneLine(TakeLine(rest));
+    if (!line.empty()) lines.push_back(std::move(line));
   }
   return lines;
 }

@@ -12,7 +12,7 @@ namespace orby {
 
 inline constexpr std::string_view SheetKind = "Calculation sheet";
 
-// ---- title block ---------------------------------------------------------------------------------------------------
+// ---- title block: texts of one line --------------------------------------------------------------------------------
 
 struct TitleFact {
   std::string_view Label;
@@ -22,7 +22,7 @@ struct TitleFact {
 // Returns file, units, basis of the grades, program and checksum. Leaves out what is unknown.
 std::vector<TitleFact> TitleFacts(const DesignSheet& sheet);
 
-// Returns the title of the project in one line.
+// Returns the title of the project.
 std::string SheetHeading(const DesignSheet& sheet);
 
 // Returns the lines of the project's description.
