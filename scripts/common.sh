@@ -8,7 +8,7 @@ build_packages=(g++=g++ cmake=cmake ninja-build=ninja)
 toolkit_packages=(qt6-base-dev=/usr/lib/*/cmake/Qt6Widgets libqcustomplot-dev=/usr/lib/*/cmake/QCustomPlotQt6 libxlsxwriter-dev=/usr/include/xlsxwriter.h
   libchm-dev=/usr/include/chm_lib.h zlib1g-dev=/usr/include/zlib.h)
 test_packages=(libgtest-dev=/usr/include/gtest/gtest.h libgmock-dev=/usr/include/gmock/gmock.h
-  librapidcheck-dev=/usr/include/rapidcheck.h unzip=unzip)
+  librapidcheck-dev=/usr/include/rapidcheck.h unzip=unzip python3-jsonschema=/usr/lib/python3/dist-packages/jsonschema)
 desktop_packages=(xvfb=Xvfb openbox=openbox xdotool=xdotool x11-utils=xprop xclip=xclip imagemagick=import poppler-utils=pdftotext
   at-spi2-core=/usr/libexec/at-spi-bus-launcher dbus-daemon=dbus-run-session
   python3-gi=/usr/lib/python3/dist-packages/gi xdg-utils=xdg-mime desktop-file-utils=desktop-file-validate
