@@ -65,6 +65,16 @@ void WriteParts(const SheetSection& section, std::size_t sectionNumber, Output& 
   writeInputs();
 }
 
+// Returns what `Output` writes of a sheet: Head(sheet), Section(section, number) for each section, and what Take
+// returns.
+template <class Output>
+std::string WriteSheet(const DesignSheet& sheet) {
+  Output output(sheet.Units);
+  output.Head(sheet);
+  for (std::size_t i = 0; i < sheet.Sections.size(); ++i) output.Section(sheet.Sections[i], i + 1);
+  return output.Take();
+}
+
 // ---- steps ---------------------------------------------------------------------------------------------------------
 
 // A result that the program shows in the same text in some places.

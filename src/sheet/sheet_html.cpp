@@ -16,7 +16,10 @@ class HtmlOutput {
  public:
   explicit HtmlOutput(UnitSystem units) : units_(units) {}
 
-  std::string Take() { return std::move(html_); }
+  std::string Take() {
+    Line("</main>\n</body>\n</html>");
+    return std::move(html_);
+  }
 
   void Head(const DesignSheet& sheet) {
     const std::string title = SheetHeading(sheet);
@@ -39,11 +42,8 @@ class HtmlOutput {
     Line("<main>");
   }
 
-  void End() { Line("</main>\n</body>\n</html>"); }
-
   void Section(const SheetSection& section, std::size_t number) {
-    key_ = section.Key;
-    html_.append("<section id=\"").append(key_).append("\">\n");
+    html_.append("<section id=\"").append(section.Key).append("\">\n");
     Heading("h2", std::to_string(number), section.Title);
     WriteParts(section, number, *this);
     Symbols(section);
@@ -161,18 +161,11 @@ class HtmlOutput {
   }
 
   std::string html_;
-  std::string_view key_;
   UnitSystem units_;
 };
 
 }  // namespace
 
-std::string SheetHtml(const DesignSheet& sheet) {
-  HtmlOutput output(sheet.Units);
-  output.Head(sheet);
-  for (std::size_t i = 0; i < sheet.Sections.size(); ++i) output.Section(sheet.Sections[i], i + 1);
-  output.End();
-  return output.Take();
-}
+std::string SheetHtml(const DesignSheet& sheet) { return WriteSheet<HtmlOutput>(sheet); }
 
 }  // namespace orby

@@ -129,11 +129,6 @@ std::string MarkdownText(std::string_view text) {
   return escaped;
 }
 
-std::string SheetMarkdown(const DesignSheet& sheet) {
-  MarkdownOutput output(sheet.Units);
-  output.Head(sheet);
-  for (std::size_t i = 0; i < sheet.Sections.size(); ++i) output.Section(sheet.Sections[i], i + 1);
-  return output.Take();
-}
+std::string SheetMarkdown(const DesignSheet& sheet) { return WriteSheet<MarkdownOutput>(sheet); }
 
 }  // namespace orby

@@ -180,11 +180,6 @@ class TextOutput {
 
 }  // namespace
 
-std::string SheetText(const DesignSheet& sheet) {
-  TextOutput output(sheet.Units);
-  output.Head(sheet);
-  for (std::size_t i = 0; i < sheet.Sections.size(); ++i) output.Section(sheet.Sections[i], i + 1);
-  return output.Take();
-}
+std::string SheetText(const DesignSheet& sheet) { return WriteSheet<TextOutput>(sheet); }
 
 }  // namespace orby

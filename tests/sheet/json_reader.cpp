@@ -4,35 +4,22 @@
 #include <charconv>
 #include <stdexcept>
 
+#include "sheet/text_reader.h"
+
 namespace orby::test {
 namespace {
 
-class JsonText {
+class JsonText : TextReader {
  public:
-  explicit JsonText(std::string_view text) : rest_(text) {}
+  using TextReader::TextReader;
 
   Json Whole() {
     Json value = Value();
-    Skip();
-    if (!rest_.empty()) Fail("left over");
+    NeedEnd();
     return value;
   }
 
  private:
-  [[noreturn]] void Fail(const std::string& what) const {
-    throw std::invalid_argument(what + " at: " + std::string(rest_.substr(0, 40)));
-  }
-  void Skip() { rest_.remove_prefix(std::min(rest_.find_first_not_of(" \n\r\t"), rest_.size())); }
-  bool Take(std::string_view sign) {
-    Skip();
-    if (!rest_.starts_with(sign)) return false;
-    rest_.remove_prefix(sign.size());
-    return true;
-  }
-  void Need(std::string_view sign) {
-    if (!Take(sign)) Fail("no " + std::string(sign));
-  }
-
   Json Value() {
     Skip();
     if (rest_.starts_with('"')) return {Text()};
@@ -112,8 +99,6 @@ class JsonText {
     rest_.remove_prefix(4);
     return static_cast<char>(code);
   }
-
-  std::string_view rest_;
 };
 
 }  // namespace

@@ -10,8 +10,8 @@ namespace {
 
 using testing::ElementsAre;
 
-const Expression X = Symbol("x");
-const Expression Y = Symbol("y");
+const Expression Left = Symbol("x");
+const Expression Right = Symbol("y");
 
 // Returns the formula in short: mi, mn and mtext without their tags, mo without its attributes, mrow in braces.
 std::string Short(std::string math) {
@@ -37,37 +37,37 @@ std::string ShortMath(const Expression& formula) {
 }
 
 TEST(ASetFormula, HasFractionsWithoutBracketsAroundTheirParts) {
-  EXPECT_EQ(ShortMath((X + Y) / (X * 2)), "<mfrac>{x+y}{x·2}</mfrac>");
-  EXPECT_EQ(ShortMath(X / 2 * Y), "<mfrac>{x}{2}</mfrac>·y");
-  EXPECT_EQ(ShortMath(Y * (X / 2)), "y·<mfrac>{x}{2}</mfrac>");
-  EXPECT_EQ(ShortMath(RootOf(X - 1)), "<msqrt>x−1</msqrt>");
+  EXPECT_EQ(ShortMath((Left + Right) / (Left * 2)), "<mfrac>{x+y}{x·2}</mfrac>");
+  EXPECT_EQ(ShortMath(Left / 2 * Right), "<mfrac>{x}{2}</mfrac>·y");
+  EXPECT_EQ(ShortMath(Right * (Left / 2)), "y·<mfrac>{x}{2}</mfrac>");
+  EXPECT_EQ(ShortMath(RootOf(Left - 1)), "<msqrt>x−1</msqrt>");
 }
 
 TEST(ASetFormula, HasAllDivisorsUnderOneLine) {
-  EXPECT_EQ(ShortMath(X / Y / (X + 1) / 3), "<mfrac>{x}{y·{(x+1)}·3}</mfrac>");
-  EXPECT_EQ(ShortMath(X / (Y / 3)), "<mfrac>{x}{<mfrac>{y}{3}</mfrac>}</mfrac>");
+  EXPECT_EQ(ShortMath(Left / Right / (Left + 1) / 3), "<mfrac>{x}{y·{(x+1)}·3}</mfrac>");
+  EXPECT_EQ(ShortMath(Left / (Right / 3)), "<mfrac>{x}{<mfrac>{y}{3}</mfrac>}</mfrac>");
 }
 
 TEST(ASetFormula, HasTheBracketsThatItNeeds) {
-  EXPECT_EQ(ShortMath((X + Y) * 2), "{(x+y)}·2");
-  EXPECT_EQ(ShortMath(X - (Y - 2)), "x−{(y−2)}");
-  EXPECT_EQ(ShortMath(X - Y - 2), "x−y−2");
-  EXPECT_EQ(ShortMath(SquareOf(X / 2)), "<msup>{{(<mfrac>{x}{2}</mfrac>)}}{2}</msup>");
-  EXPECT_EQ(ShortMath(PowerOf(SquareOf(X), 1.5)), "<msup>{{(<msup>{x}{2}</msup>)}}{1.5}</msup>");
-  EXPECT_EQ(ShortMath(SquareOf(RootOf(X))), "<msup>{<msqrt>x</msqrt>}{2}</msup>");
+  EXPECT_EQ(ShortMath((Left + Right) * 2), "{(x+y)}·2");
+  EXPECT_EQ(ShortMath(Left - (Right - 2)), "x−{(y−2)}");
+  EXPECT_EQ(ShortMath(Left - Right - 2), "x−y−2");
+  EXPECT_EQ(ShortMath(SquareOf(Left / 2)), "<msup>{{(<mfrac>{x}{2}</mfrac>)}}{2}</msup>");
+  EXPECT_EQ(ShortMath(PowerOf(SquareOf(Left), 1.5)), "<msup>{{(<msup>{x}{2}</msup>)}}{1.5}</msup>");
+  EXPECT_EQ(ShortMath(SquareOf(RootOf(Left))), "<msup>{<msqrt>x</msqrt>}{2}</msup>");
 }
 
 TEST(ASetFormula, HasFunctionsAndAngles) {
-  EXPECT_EQ(ShortMath(2 * NaturalLogOf(X - 20)), "2·ln{(x−20)}");
-  EXPECT_EQ(ShortMath(DecimalLogOf(X)), "log{(x)}");
-  EXPECT_EQ(ShortMath(TangentOf(X)), "tan{(x°)}");
-  EXPECT_EQ(ShortMath(CosineOf(X)), "cos{(x°)}");
-  EXPECT_EQ(ShortMath(LeastOf(X, GreatestOf(Y, 4))), "min{(x,max{(y,4)})}");
-  EXPECT_EQ(ShortMath(PiSymbol() * X), "π·x");
+  EXPECT_EQ(ShortMath(2 * NaturalLogOf(Left - 20)), "2·ln{(x−20)}");
+  EXPECT_EQ(ShortMath(DecimalLogOf(Left)), "log{(x)}");
+  EXPECT_EQ(ShortMath(TangentOf(Left)), "tan{(x°)}");
+  EXPECT_EQ(ShortMath(CosineOf(Left)), "cos{(x°)}");
+  EXPECT_EQ(ShortMath(LeastOf(Left, GreatestOf(Right, 4))), "min{(x,max{(y,4)})}");
+  EXPECT_EQ(ShortMath(PiSymbol() * Left), "π·x");
 }
 
 TEST(ASetFormula, HasCasesAsATableWithABrace) {
-  EXPECT_EQ(ShortMath(CasesOf({{3, X <= 20}, {0, Y < 0}}, IsEqual(X, Y))),
+  EXPECT_EQ(ShortMath(CasesOf({{3, Left <= 20}, {0, Right < 0}}, IsEqual(Left, Right))),
             "{{<mtable displaystyle=\"true\"><mtr><mtd>3</mtd><mtd>if&#xA0;x≤20</mtd></mtr>"
             "<mtr><mtd>0</mtd><mtd>if&#xA0;y&lt;0</mtd></mtr><mtr><mtd>x=y</mtd><mtd>otherwise</mtd></mtr></mtable>}");
 }
@@ -99,7 +99,8 @@ SheetStep Inserted(const Relation& law, std::vector<InsertedNumber> numbers) {
 }
 
 TEST(AFormulaWithNumbers, HasBracketsAroundNegativeNumbersAndPowersOfTen) {
-  const Relation law = RelationWith({{"x", "", SheetUnit::None}, {"y", "", SheetUnit::None}}, X - Y * SquareOf(X));
+  const Relation law =
+      RelationWith({{"x", "", SheetUnit::None}, {"y", "", SheetUnit::None}}, Left - Right * SquareOf(Left));
   const MathPieces pieces = InsertedMath(Inserted(law, {{"x", "", "", -2, "-2"}, {"y", "", "", 1e-7, "1e-07"}}));
 
   ASSERT_EQ(pieces.size(), 1U);
@@ -107,14 +108,14 @@ TEST(AFormulaWithNumbers, HasBracketsAroundNegativeNumbersAndPowersOfTen) {
 }
 
 TEST(AFormulaWithNumbers, KeepsTheLetterOfANumberThatCannotBeComputed) {
-  const Relation law = RelationWith({{"x", "", SheetUnit::None}, {"h_1", "", SheetUnit::None}}, X * Symbol("h_1"));
+  const Relation law = RelationWith({{"x", "", SheetUnit::None}, {"h_1", "", SheetUnit::None}}, Left * Symbol("h_1"));
   const MathPieces pieces = InsertedMath(Inserted(law, {{"x", "", "", 4, "4"}, {"h_1", "", "", 0, "h_1"}}));
 
   EXPECT_THAT(pieces, ElementsAre("<mn>4</mn><mo form=\"infix\">×</mo><msub><mi>h</mi><mn>1</mn></msub>"));
 }
 
 TEST(AFormulaWithNumbers, MayBeBrokenBetweenItsPartsIfItIsLong) {
-  const Relation law = RelationWith({{"x", "", SheetUnit::None}}, X * 2 + X / 3 + X + X - X);
+  const Relation law = RelationWith({{"x", "", SheetUnit::None}}, Left * 2 + Left / 3 + Left + Left - Left);
   const std::string number = "1234567.5";
   const MathPieces pieces = InsertedMath(Inserted(law, {{"x", "", "", 1234567.5, number}}));
 

@@ -4,37 +4,23 @@
 #include <charconv>
 #include <cmath>
 #include <numbers>
-#include <stdexcept>
-#include <string>
+
+#include "sheet/text_reader.h"
 
 namespace orby::test {
 namespace {
 
-class Reader {
+class Reader : TextReader {
  public:
-  explicit Reader(std::string_view text) : rest_(text) {}
+  using TextReader::TextReader;
 
   double Whole() {
     const double value = Sum();
-    Skip();
-    if (!rest_.empty()) throw std::invalid_argument("left over: " + std::string(rest_));
+    NeedEnd();
     return value;
   }
 
  private:
-  void Skip() {
-    while (rest_.starts_with(' ')) rest_.remove_prefix(1);
-  }
-  bool Take(std::string_view sign) {
-    Skip();
-    if (!rest_.starts_with(sign)) return false;
-    rest_.remove_prefix(sign.size());
-    return true;
-  }
-  void Need(std::string_view sign) {
-    if (!Take(sign)) throw std::invalid_argument("no " + std::string(sign) + " at: " + std::string(rest_));
-  }
-
   double Sum() {
     double value = Product();
     while (true) {
@@ -102,12 +88,10 @@ class Reader {
     Skip();
     double value = 0;
     const auto [end, error] = std::from_chars(rest_.data(), rest_.data() + rest_.size(), value);
-    if (error != std::errc()) throw std::invalid_argument("no number at: " + std::string(rest_));
+    if (error != std::errc()) Fail("no number");
     rest_.remove_prefix(static_cast<std::size_t>(end - rest_.data()));
     return value;
   }
-
-  std::string_view rest_;
 };
 
 }  // namespace

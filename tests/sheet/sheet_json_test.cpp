@@ -33,10 +33,10 @@ std::vector<const Json*> StepsOf(const Json& sheet) {
 }
 
 // Computes a formula of the file as its description says.
-double Computed(const Json& formula, const Numbers& numbers);
+double ValueOfTree(const Json& formula, const Numbers& numbers);
 
-double Computed(const std::string& operation, const JsonArray& parts, const Numbers& numbers) {
-  const auto part = [&](std::size_t i) { return Computed(parts.at(i), numbers); };
+double ValueOfTree(const std::string& operation, const JsonArray& parts, const Numbers& numbers) {
+  const auto part = [&](std::size_t i) { return ValueOfTree(parts.at(i), numbers); };
   const auto folded = [&](auto join) {
     double all = part(0);
     for (std::size_t i = 1; i < parts.size(); ++i) all = join(all, part(i));
@@ -65,11 +65,11 @@ double Computed(const std::string& operation, const JsonArray& parts, const Numb
   return part(parts.size() - 1);
 }
 
-double Computed(const Json& formula, const Numbers& numbers) {
+double ValueOfTree(const Json& formula, const Numbers& numbers) {
   const std::string& operation = formula["operation"].Text();
   if (operation == "number" || operation == "constant") return formula["value"].Number();
   if (operation == "symbol") return numbers.at(formula["symbol"].Text());
-  return Computed(operation, formula["parts"].Items(), numbers);
+  return ValueOfTree(operation, formula["parts"].Items(), numbers);
 }
 
 TEST(ASheetsJson, HasFormulasThatGiveTheResults) {
@@ -81,7 +81,7 @@ TEST(ASheetsJson, HasFormulasThatGiveTheResults) {
       Numbers numbers;
       for (const Json& number : (*step)["numbers"].Items()) numbers[number["symbol"].Text()] = number["value"].Number();
       const double value = (*step)["result"]["value"].Number();
-      const double own = Computed((*step)["formula"], numbers);
+      const double own = ValueOfTree((*step)["formula"], numbers);
       ASSERT_NEAR(value, own, std::abs(own) * std::numeric_limits<float>::epsilon() + 1e-12)
           << name << ": " << (*step)["title"].Text();
       relations.insert((*step)["relation"].Text());
