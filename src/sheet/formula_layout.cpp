@@ -86,11 +86,7 @@ class Setter {
 
   // Quotients of quotients are one fraction, whose divisors are a product.
   FormulaBox Quotient(const Expression& formula, double size) const {
-    const Expression* dividend = &formula;
-    std::vector<const Expression*> divisors;
-    for (; dividend->What == Operation::Quotient; dividend = &dividend->Parts.at(0)) {
-      divisors.insert(divisors.begin(), &dividend->Parts.at(1));
-    }
+    const auto [dividend, divisors] = FlatQuotientOf(formula);
     if (divisors.size() == 1) return Fraction(Set(*dividend, size), Set(*divisors[0], size), size);
     std::vector<FormulaBox> boxes;
     for (const Expression* divisor : divisors) {

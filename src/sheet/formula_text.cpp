@@ -106,4 +106,13 @@ std::string InsertedText(const SheetStep& step) {
   return writer.Text(AppliedFormula(step));
 }
 
+FlatQuotient FlatQuotientOf(const Expression& quotient) {
+  FlatQuotient flat{.Dividend = &quotient, .Divisors = {}};
+  while (flat.Dividend->What == Operation::Quotient) {
+    flat.Divisors.insert(flat.Divisors.begin(), &flat.Dividend->Parts.at(1));
+    flat.Dividend = &flat.Dividend->Parts.at(0);
+  }
+  return flat;
+}
+
 }  // namespace orby

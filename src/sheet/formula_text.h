@@ -22,4 +22,11 @@ const Expression& AppliedFormula(const SheetStep& step);
 enum class Binding : std::uint8_t { Condition, Sum, Product, Sign, Power, Whole };
 Binding BindingOf(const Expression& formula);
 
+// A quotient of quotients as one fraction: a / b / c has the divisors b and c.
+struct FlatQuotient {
+  const Expression* Dividend = nullptr;
+  std::vector<const Expression*> Divisors;
+};
+FlatQuotient FlatQuotientOf(const Expression& quotient);
+
 }  // namespace orby

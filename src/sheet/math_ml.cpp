@@ -13,7 +13,7 @@ namespace {
 constexpr std::size_t LongFormula = 48;  // characters of its text
 
 // A set formula, and how tightly it binds. A fraction and a root hold together by their lines.
-struct SetFormula {
+struct MathPart {
   std::string Math;
   Binding Binds = Binding::Whole;
 };
@@ -22,7 +22,7 @@ std::string Sign(std::string_view sign) { return Element("mo form=\"infix\"", si
 std::string Row(const std::string& math) { return "<mrow>" + math + "</mrow>"; }
 std::string Bracketed(const std::string& math) { return Row("<mo>(</mo>" + math + "<mo>)</mo>"); }
 
-SetFormula SetNumber(std::string_view text) {
+MathPart SetNumber(std::string_view text) {
   if (text.starts_with('-')) return {"<mo form=\"prefix\">−</mo>" + SetNumber(text.substr(1)).Math, Binding::Sign};
   const std::size_t exponent = text.find_first_of("eE");
   if (exponent == std::string_view::npos) return {Element("mn", text), Binding::Whole};
@@ -54,7 +54,7 @@ class FormulaSetter {
   }
 
  private:
-  SetFormula Set(const Expression& formula) const {
+  MathPart Set(const Expression& formula) const {
     const auto part = [&](std::size_t i) { return Set(formula.Parts.at(i)).Math; };
     switch (formula.What) {
       case Operation::Number: return SetNumber(NumberText(formula.Value));
@@ -80,23 +80,18 @@ class FormulaSetter {
     return {};
   }
 
-  SetFormula SetSymbol(std::string_view letter) const {
+  MathPart SetSymbol(std::string_view letter) const {
     if (inserted_ == nullptr) return {LetterMath(letter)};
     const auto number = std::ranges::find(inserted_->Numbers, letter, &InsertedNumber::Letter);
-    return number->Text == letter ? SetFormula{LetterMath(letter)} : SetNumber(number->Text);
+    return number->Text == letter ? MathPart{LetterMath(letter)} : SetNumber(number->Text);
   }
 
-  static SetFormula SetFunction(std::string_view name, const std::string& argument) {
+  static MathPart SetFunction(std::string_view name, const std::string& argument) {
     return {Element("mi", name) + "<mo>&#x2061;</mo>" + Bracketed(argument)};
   }
 
-  // Sets what is divided several times as one fraction: a / b / c has b and c below its line.
-  SetFormula SetFraction(const Expression& formula) const {
-    const Expression* dividend = &formula;
-    std::vector<const Expression*> divisors;
-    for (; dividend->What == Operation::Quotient; dividend = &dividend->Parts.at(0)) {
-      divisors.insert(divisors.begin(), &dividend->Parts.at(1));
-    }
+  MathPart SetFraction(const Expression& formula) const {
+    const auto [dividend, divisors] = FlatQuotientOf(formula);
     std::string below =
         divisors.size() == 1 ? Set(*divisors[0]).Math : InBrackets(*divisors[0], Binding::Product, false);
     for (std::size_t i = 1; i < divisors.size(); ++i) {
@@ -106,7 +101,7 @@ class FormulaSetter {
   }
 
   // A fraction needs brackets around it only here.
-  SetFormula SetPower(const Expression& formula) const {
+  MathPart SetPower(const Expression& formula) const {
     const Expression& base = formula.Parts.at(0);
     const bool isFraction = base.What == Operation::Quotient;
     const std::string math = isFraction ? Bracketed(Set(base).Math) : InBrackets(base, Binding::Power, true);
@@ -115,7 +110,7 @@ class FormulaSetter {
 
   // Sets a part in brackets if it binds less tightly than the operation around it, or as tightly and not at its left.
   std::string InBrackets(const Expression& part, Binding around, bool evenIfAsTight) const {
-    const SetFormula set = Set(part);
+    const MathPart set = Set(part);
     const bool needs = set.Binds < around || (evenIfAsTight && (set.Binds == around || set.Binds == Binding::Sign));
     return needs ? Bracketed(set.Math) : set.Math;
   }

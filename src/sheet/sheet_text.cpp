@@ -10,7 +10,7 @@
 namespace orby {
 namespace {
 
-constexpr std::size_t TextWidth = 80;
+constexpr std::size_t LineWidth = 80;
 
 std::string Blanks(std::size_t count) { return std::string(count, ' '); }
 
@@ -40,7 +40,7 @@ class TextOutput {
 
   void Underlined(std::string_view line, char mark) {
     Line(line);
-    Line(std::string(std::min(CharacterCount(line), TextWidth), mark));
+    Line(std::string(std::min(CharacterCount(line), LineWidth), mark));
   }
 
   // Writes the text after `head`. Further lines are indented by `indent`.
@@ -50,7 +50,7 @@ class TextOutput {
     bool isFresh = true;
     for (const std::string_view piece : Unbroken(text, isFormula)) {
       const std::size_t size = CharacterCount(piece);
-      if (!isFresh && width + 1 + size > TextWidth) {
+      if (!isFresh && width + 1 + size > LineWidth) {
         Line(line);
         line = Blanks(indent);
         width = indent;
@@ -67,7 +67,7 @@ class TextOutput {
   void Head(const DesignSheet& sheet) {
     Line(SheetKind);
     Wrapped("", SheetHeading(sheet), 0);
-    Line(std::string(TextWidth, '='));
+    Line(std::string(LineWidth, '='));
     Line();
     for (const std::string& line : DescriptionLines(sheet)) Wrapped("", line, 0);
     if (!DescriptionLines(sheet).empty()) Line();
@@ -103,7 +103,7 @@ class TextOutput {
     for (const SheetInput* input : inputs) {
       const std::string value = WithUnit(input->Text, input->Unit);
       const std::string start = "  " + PadSpaces(input->Label, labels) + "  ";
-      if (CharacterCount(start) + values + 2 + CharacterCount(input->Source) <= TextWidth) {
+      if (CharacterCount(start) + values + 2 + CharacterCount(input->Source) <= LineWidth) {
         Line(start + PadSpaces(value, values) + "  " + input->Source);
       } else {
         Wrapped(start, value, labels + 4);
