@@ -12,7 +12,7 @@ test_packages=(libgtest-dev=/usr/include/gtest/gtest.h libgmock-dev=/usr/include
 desktop_packages=(xvfb=Xvfb openbox=openbox xdotool=xdotool x11-utils=xprop xclip=xclip imagemagick=import poppler-utils=pdftotext
   at-spi2-core=/usr/libexec/at-spi-bus-launcher dbus-daemon=dbus-run-session
   python3-gi=/usr/lib/python3/dist-packages/gi xdg-utils=xdg-mime desktop-file-utils=desktop-file-validate
-  shared-mime-info=update-mime-database libfile-mimeinfo-perl=mimetype)
+  shared-mime-info=update-mime-database libfile-mimeinfo-perl=mimetype mupdf-tools=mutool)
 # Makes repeated builds faster.
 speed_packages=(ccache=ccache mold=mold)
 format_packages=(clang-format=clang-format)

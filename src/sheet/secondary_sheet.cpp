@@ -36,6 +36,10 @@ class SecondarySheet {
   enum System : std::size_t { CableSystem, TrussSystemIndex, BoltSystemIndex, StandingSystem };
 
   const SecondarySupport& Reported() const { return context_.Designs.Previewed.*opening_.Support; }
+  const SupportSystem& Printed(System system) const {
+    const auto systems = Reported().Systems();
+    return *systems[system];
+  }
   const Computed<Reinforcement>& Added() const { return context_.Reported.*opening_.Added; }
   // The report prints this part, and does not end before it.
   bool IsReported() const { return Reported().Analysed == 1 && Added().IsThere(); }
@@ -160,7 +164,7 @@ class SecondarySheet {
   // Adds the capacity of a system by its relation, and the stability factor.
   void Capacity(SheetWriter& writer, System system, Law law, const std::vector<SheetNumber>& numbers) {
     const std::optional<SupportResult> result = live_.Systems[system].ValueOr({});
-    const SupportSystem& printed = *Reported().Systems()[system];
+    const SupportSystem& printed = Printed(system);
     const SheetNumber capacity = writer.Step(law, "Capacity of the system", numbers);
     if (result) {
       writer.Figure(result->Capacity);
@@ -187,7 +191,7 @@ class SecondarySheet {
 
   void RemarkOfPrinted(SheetWriter& writer, System system) const {
     if (!IsReported()) return;
-    const SupportSystem& printed = *Reported().Systems()[system];
+    const SupportSystem& printed = Printed(system);
     writer.Remark("The report prints the capacity " + opening_.ReportText(printed.SupportCap) +
                   " and the stability factor " + FormatNumber(printed.StabFactor, "0.00") + ".");
   }

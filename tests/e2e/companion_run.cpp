@@ -29,6 +29,12 @@ Outcome CompanionTest::Run(const std::vector<std::string>& words) const {
   return Start(std::move(arguments));
 }
 
+Outcome CompanionTest::RunProgram(const std::string& program, const std::vector<std::string>& words) const {
+  std::vector<std::string> arguments{"/usr/bin/env", program};
+  arguments.insert(arguments.end(), words.begin(), words.end());
+  return Start(std::move(arguments));
+}
+
 Outcome CompanionTest::RunWithSmallFiles(int blocks, const std::vector<std::string>& words) const {
   std::vector<std::string> arguments{"/bin/sh", "-c", "ulimit -f " + std::to_string(blocks) + "; exec \"$@\"", "sh",
                                      ORBY_CLI};

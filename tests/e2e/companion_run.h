@@ -20,6 +20,8 @@ class CompanionTest : public testing::Test {
   ~CompanionTest() override;
 
   Outcome Run(const std::vector<std::string>& words) const;
+  // Runs another program, found as the shell finds it.
+  Outcome RunProgram(const std::string& program, const std::vector<std::string>& words) const;
   // Limits the size of files to this number of 512-byte blocks.
   Outcome RunWithSmallFiles(int blocks, const std::vector<std::string>& words) const;
 

@@ -27,6 +27,8 @@ bool TakeOption(const std::string& option, Words& words, CommandLine& line) {
   if (option == "--aus") return line.AustralianTable = true;
   if (option == "--name") return (line.Name = words.TakeValue()).has_value();
   if (option == "--config") return (line.Config = words.TakeValue()).has_value();
+  if (option == "--to") return (line.To = words.TakeValue()).has_value();
+  if (option == "--as") return (line.As = words.TakeValue()).has_value();
   if (option == "--page") {
     const auto page = words.TakeValue();
     if (page != "0" && page != "1") return false;

@@ -15,6 +15,8 @@ struct CommandLine {
   std::optional<std::string> Name;  // the name that the report shows instead of the file's path
   bool AustralianTable = false;
   std::optional<std::string> Config;
+  std::optional<std::string> To;  // folder of the sheets of several files
+  std::optional<std::string> As;  // their format: "html"
   bool Help = false;
 };
 

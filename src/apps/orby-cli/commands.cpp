@@ -4,8 +4,10 @@
 #include <array>
 #include <charconv>
 #include <cstdio>
+#include <set>
 
 #include "apps/orby-cli/script_platform.h"
+#include "base/paths.h"
 #include "base/runtime_error.h"
 #include "core/messages.h"
 #include "core/shared_texts.h"
@@ -13,11 +15,16 @@
 #include "dialogs/curve_command.h"
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/project_report.h"
+#include "dialogs/project_sheet.h"
 #include "dialogs/shown_design.h"
 #include "files/project_file.h"
 #include "reports/cost_report.h"
 #include "reports/input_echo.h"
 #include "reports/verdict_text.h"
+#include "sheet/sheet_html.h"
+#include "sheet/sheet_json.h"
+#include "sheet/sheet_markdown.h"
+#include "sheet/sheet_text.h"
 #include "shell/start_up.h"
 
 namespace orby::cli {
@@ -32,6 +39,9 @@ const std::string_view UsageText = R"(usage: orby-cli COMMAND [OPTION]... FILE..
   validate FILE                              what is wrong with the design, a line each
   save FILE OUT                              the project written anew to OUT
   convert FILE OUT                           the project in the other unit system, written to OUT
+  sheet FILE OUT                             the calculation sheet, written to OUT as .html, .md, .txt or .json;
+                                             "-" writes .json to standard output
+  sheet --to FOLDER --as FORMAT FILE...      the same for several files: FORMAT is html, md, txt or json
 
   --name TEXT     the file name that the report shows
   --aus           the Australian bolt table (Metric projects)
@@ -185,10 +195,58 @@ ExitCode Convert(FileRun& run, const std::string& out) {
   return ExitCode::Done;
 }
 
+struct SheetFormatEntry {
+  std::string_view Ending;
+  std::string (*Write)(const DesignSheet& sheet);
+};
+
+constexpr std::array SheetFormats{SheetFormatEntry{"html", SheetHtml}, SheetFormatEntry{"md", SheetMarkdown},
+                                  SheetFormatEntry{"txt", SheetText}, SheetFormatEntry{"json", SheetJson}};
+
+// Returns the format of an ending, or null for another one.
+const SheetFormatEntry* FormatOf(std::string_view ending) {
+  const auto* found = std::ranges::find(SheetFormats, ending, &SheetFormatEntry::Ending);
+  return found == SheetFormats.end() ? nullptr : found;
+}
+
+constexpr std::string_view StandardOutput = "-";
+
+std::string_view EndingOf(std::string_view path) {
+  const std::string_view name = NameAfterSeparator(path);
+  const std::size_t point = name.rfind('.');
+  return point == std::string_view::npos ? std::string_view() : name.substr(point + 1);
+}
+
+ExitCode WriteSheet(FileRun& run, const std::string& out) {
+  const DesignSheet sheet = SheetOfProject(run.program);
+  if (out == StandardOutput) {
+    Print(SheetJson(sheet));
+  } else {
+    run.platform.files.ReplaceFile(out, FormatOf(EndingOf(out))->Write(sheet));
+  }
+  return ExitCode::Done;
+}
+
+// Returns the path of the sheet of a file in a folder: FOLDER/NAME.html.
+std::string SheetIn(const std::string& folder, std::string_view format, std::string_view file) {
+  std::string name(NameAfterSeparator(file));
+  const std::string_view ending = EndingOf(name);
+  if (!ending.empty()) name.resize(name.size() - ending.size() - 1);
+  return folder + "/" + name + "." + std::string(format);
+}
+
+// Several files that would have one sheet are refused, because the later one would replace the earlier one.
+bool HaveSheetsOfTheirOwn(const CommandLine& line) {
+  std::set<std::string> sheets;
+  return std::ranges::all_of(line.Operands, [&](const std::string& file) {
+    return sheets.insert(SheetIn(*line.To, *line.As, file)).second;
+  });
+}
+
 bool IsCurveNumber(const std::string& word) { return word.size() == 1 && word[0] >= '0' && word[0] <= '9'; }
 
 // The operands of a command: only files, or one file with another word before or after it.
-enum class Shape { Files, OneFile, NumberFile, FileOut };
+enum class Shape { Files, OneFile, NumberFile, FileOut, Sheets };
 
 struct Command {
   std::string_view name;
@@ -202,14 +260,24 @@ constexpr std::array Commands{
     Command{"curve", Shape::NumberFile, CurveOf},    Command{"live", Shape::OneFile, Live},
     Command{"verdicts", Shape::Files, ListVerdicts}, Command{"validate", Shape::OneFile, Validate},
     Command{"save", Shape::FileOut, Save},           Command{"convert", Shape::FileOut, Convert},
+    Command{"sheet", Shape::Sheets, WriteSheet},
 };
 
-bool FitsShape(const std::vector<std::string>& operands, Shape shape) {
+bool FitsSheets(const CommandLine& line) {
+  const auto& operands = line.Operands;
+  if (line.To) return line.As && FormatOf(*line.As) != nullptr && !operands.empty() && HaveSheetsOfTheirOwn(line);
+  return !line.As && operands.size() == 2 &&
+         (operands[1] == StandardOutput || FormatOf(EndingOf(operands[1])) != nullptr);
+}
+
+bool FitsShape(const CommandLine& line, Shape shape) {
+  const auto& operands = line.Operands;
   switch (shape) {
     case Shape::Files: return !operands.empty();
     case Shape::OneFile: return operands.size() == 1;
     case Shape::NumberFile: return operands.size() == 2 && IsCurveNumber(operands[0]);
     case Shape::FileOut: return operands.size() == 2;
+    case Shape::Sheets: return FitsSheets(line);
   }
   return false;
 }
@@ -246,10 +314,15 @@ ExitCode RunOnOperands(const Command& command, const CommandLine& line) {
   switch (command.shape) {
     case Shape::NumberFile: return run(operands[1], operands[0]);
     case Shape::FileOut: return run(operands[0], operands[1]);
+    case Shape::Sheets:
+      if (!line.To) return run(operands[0], operands[1]);
+      break;
     default: break;
   }
   ExitCode worst = ExitCode::Done;
-  for (const std::string& file : operands) worst = std::max(worst, run(file, {}));
+  for (const std::string& file : operands) {
+    worst = std::max(worst, run(file, line.To ? SheetIn(*line.To, *line.As, file) : std::string()));
+  }
   return worst;
 }
 
@@ -258,7 +331,7 @@ ExitCode RunOnOperands(const Command& command, const CommandLine& line) {
 ExitCode RunCommand(const CommandLine& line) {
   const auto* command = std::find_if(Commands.begin(), Commands.end(),
                                      [&line](const Command& entry) { return entry.name == line.Command; });
-  if (command == Commands.end() || !FitsShape(line.Operands, command->shape)) {
+  if (command == Commands.end() || !FitsShape(line, command->shape)) {
     std::fwrite(UsageText.data(), 1, UsageText.size(), stderr);
     return ExitCode::Usage;
   }
