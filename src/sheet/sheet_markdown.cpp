@@ -118,12 +118,14 @@ class MarkdownOutput {
 }  // namespace
 
 std::string MarkdownText(std::string_view text) {
-  constexpr std::string_view Markup = "\\`*_{}[]<>#|~&$!";
+  constexpr std::string_view Markup = "\\`*_{}[]<>|~&$!";
   const std::size_t lineMark = LineMark(text);
   std::string escaped;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const char c = text[i];
-    if (i == lineMark || Markup.find(c) != std::string_view::npos) escaped += '\\';
+    // Within a word it is none, as in the address of a topic.
+    const bool isHeadingMark = c == '#' && (i == 0 || text[i - 1] == ' ' || text[i - 1] == '#');
+    if (i == lineMark || isHeadingMark || Markup.find(c) != std::string_view::npos) escaped += '\\';
     escaped += c == '\n' || c == '\r' ? ' ' : c;
   }
   return escaped;

@@ -162,6 +162,8 @@ TEST(ASheetsMarkdown, EscapesWhatBeginsAListOrAHeading) {
   EXPECT_EQ(MarkdownText("12) one"), "12\\) one");
   EXPECT_EQ(MarkdownText("12.5 ft - 3"), "12\\.5 ft - 3");
   EXPECT_EQ(MarkdownText("a|b\r\nc"), "a\\|b  c");
+  EXPECT_EQ(MarkdownText("## no. #7 ##"), "\\#\\# no. \\#7 \\#\\#");
+  EXPECT_EQ(MarkdownText("page.html#topic"), "page.html#topic");
   EXPECT_EQ(MarkdownText("2024"), "2024");
   EXPECT_EQ(MarkdownText(""), "");
 }
