@@ -6,9 +6,9 @@
 
 #include "base/number_text.h"
 #include "base/text.h"
-#include "core/version.h"
 #include "sheet/formula_text.h"
 #include "sheet/page_flow.h"
+#include "sheet/sheet_content.h"
 
 namespace orby {
 namespace {
@@ -172,8 +172,8 @@ class SheetPages {
 
   PageBlock TitleBlock() const {
     Stack stack;
-    stack.Add(Text("Calculation sheet", Title), 0, 0);
-    if (!sheet_.Project.Title.empty()) AddWrapped(stack, sheet_.Project.Title, Heading, 0, across_, 8);
+    stack.Add(Text(std::string(SheetKind), Title), 0, 0);
+    AddWrapped(stack, SheetHeading(sheet_), Heading, 0, across_, 8);
     stack.Space(8);
     const auto row = [&](const std::string& name, const std::string& value) {
       if (value.empty()) return;
@@ -182,12 +182,8 @@ class SheetPages {
       AddWrapped(stack, value, Usual, Left, across_ - Left, 4);
       stack.AddAt(Text(name, Strong), {0, top + 4 + Text(name, Strong).Ascent});
     };
-    row("File", sheet_.Project.File);
-    row("Units", sheet_.Units == Metric ? "Metric" : "English");
-    row("Bolt grades", sheet_.Basis == StrengthBasis::Yield ? "yield strengths" : "ultimate strengths");
-    row("Program", "Orby Roof Support Workbench " + VersionText());
+    for (const TitleFact& fact : TitleFacts(sheet_)) row(std::string(fact.Label), fact.Text);
     row("Date", foot_.Date);
-    row("SHA-256 of the file", sheet_.Project.Sum);
     return stack.Take();
   }
 
@@ -265,7 +261,7 @@ class SheetPages {
     if (step.Law != nullptr) AddFormulas(stack, step);
     AddResult(stack, step);
     if (step.Law != nullptr) AddLegend(stack, step);
-    for (const std::string& note : step.Notes) AddWrapped(stack, note, Small, Indent, across_ - Indent, 3);
+    for (const std::string& detail : DetailsOf(step)) AddWrapped(stack, detail, Small, Indent, across_ - Indent, 3);
     blocks_.push_back(stack.Take());
     blocks_.back().Before = 10;
   }
@@ -290,15 +286,12 @@ class SheetPages {
   void AddResult(Stack& stack, const SheetStep& step) const {
     const FormulaBox symbol = SetSymbol(step.Letter, TextPoints, width_);
     if (!step.Failure.empty()) {
-      stack.Add(SideBySide({symbol, Text("cannot be computed: " + step.Failure, Strong)}, 6), Indent, 5);
+      stack.Add(SideBySide({symbol, Text(FailureText(step), Strong)}, 6), Indent, 5);
       return;
     }
     std::string result = step.Text;
     if (!step.Unit.empty()) result.append(" ").append(step.Unit);
     stack.Add(EqualTo(symbol, Text(result, Strong)), Indent, 5);
-    for (const ShownResult& shown : step.Shown) {
-      stack.Add(Text(std::string(shown.Where) + ": " + shown.Text, Usual), Indent * 2, 3);
-    }
   }
 
   // The meanings of the symbols in one paragraph.

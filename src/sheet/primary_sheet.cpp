@@ -7,9 +7,6 @@
 namespace orby {
 namespace {
 
-constexpr std::string_view Report = "report";
-constexpr std::string_view Dialog = "dialog";
-
 class PrimarySheet {
  public:
   PrimarySheet(DesignSheet& sheet, const SheetContext& context)
@@ -38,10 +35,10 @@ class PrimarySheet {
   void ShowSuggested(SheetWriter& writer, Member member, NumberPattern pattern, SheetUnit unit, Single atLeast) const {
     if (suggested_.IsThere()) writer.Figure(suggested_.Value().*member);
     if (IsReported()) {
-      writer.ShowAs(Report, FormatNumber(std::max(suggested_.Value().*member, atLeast), pattern), unit);
+      writer.ShowAs(InReport, FormatNumber(std::max(suggested_.Value().*member, atLeast), pattern), unit);
     }
     if (const auto live = context_.Live.LiveSuggestion.ValueOr({})) {
-      writer.ShowAs(Dialog, FormatNumber((*live).*member, OneDecimal), unit);
+      writer.ShowAs(InDialog, FormatNumber((*live).*member, OneDecimal), unit);
     }
   }
 
@@ -124,7 +121,7 @@ class PrimarySheet {
     const auto& primary = context_.Reported.Primary;
     if (!primary.IsThere()) return;
     writer.Figure(primary.Value().Capacity);
-    if (IsReported()) writer.ShowAs(Report, FormatNumber(primary.Value().Capacity, pattern), SheetUnit::Force);
+    if (IsReported()) writer.ShowAs(InReport, FormatNumber(primary.Value().Capacity, pattern), SheetUnit::Force);
   }
 
   void Densities() {
@@ -140,7 +137,7 @@ class PrimarySheet {
     writer.Note("It takes the yield capacity of the bolts.");
     ShowDensity(writer, &PrimaryFigures::ActualPSUP);
     if (const auto live = context_.Live.LivePSUP.ValueOr({})) {
-      writer.ShowAs(Dialog, FormatNumber(*live, OneDecimal), SheetUnit::None);
+      writer.ShowAs(InDialog, FormatNumber(*live, OneDecimal), SheetUnit::None);
     }
     SheetNumber grade = bolt_.Grade;
     if (design_.Basis == StrengthBasis::Yield) grade = UltimateStep(writer, Bolt, grade, context_.catalogs);
@@ -158,7 +155,7 @@ class PrimarySheet {
     const auto& primary = context_.Reported.Primary;
     if (!primary.IsThere()) return;
     writer.Figure(primary.Value().*member);
-    if (IsReported()) writer.ShowAs(Report, FormatNumber(primary.Value().*member, OneDecimal), SheetUnit::None);
+    if (IsReported()) writer.ShowAs(InReport, FormatNumber(primary.Value().*member, OneDecimal), SheetUnit::None);
   }
 
   void RemarkIfLeftOut(SheetWriter& writer) const {

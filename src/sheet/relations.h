@@ -32,7 +32,8 @@ enum class SheetUnit : std::uint8_t {
   Area,
   Volume,
   DollarsPerLength,
-  TonsPerLength,
+  ProductionRate,
+  Production,
 };
 
 // Returns the name of a unit in a unit system: "ft". Empty for None.

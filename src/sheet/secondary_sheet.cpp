@@ -7,9 +7,6 @@
 namespace orby {
 namespace {
 
-constexpr std::string_view Report = "report";
-constexpr std::string_view Dialog = "dialog";
-
 constexpr SymbolMeaning UnitCapacity{"C", "capacity of one unit", SheetUnit::Force};
 
 class SecondarySheet {
@@ -146,7 +143,7 @@ class SecondarySheet {
     if (!Added().IsThere()) return;
     writer.Figure(Added().Value().HighestRock);
     if (IsReported() && Added().Value().HeightIsAdjusted) {
-      writer.ShowAs(Report, FormatNumber(Added().Value().HighestRock, OneDecimal), SheetUnit::Length);
+      writer.ShowAs(InReport, FormatNumber(Added().Value().HighestRock, OneDecimal), SheetUnit::Length);
     }
   }
 
@@ -155,8 +152,8 @@ class SecondarySheet {
                         {amount, InputNumber(shown_.Place.UnitWeight)}, opening_.LoadUnit);
     const std::optional<Single> load = live_.RockLoad.ValueOr({});
     writer.Figure(load);
-    if (load) writer.ShowAs(Dialog, FormatNumber(*load, opening_.DialogPattern), opening_.LoadUnit);
-    if (IsReported()) writer.ShowAs(Report, opening_.ReportText(Reported().RockLoad), opening_.LoadUnit);
+    if (load) writer.ShowAs(InDialog, FormatNumber(*load, opening_.DialogPattern), opening_.LoadUnit);
+    if (IsReported()) writer.ShowAs(InReport, opening_.ReportText(Reported().RockLoad), opening_.LoadUnit);
   }
 
   // ---- systems -----------------------------------------------------------------------------------------------------
@@ -168,15 +165,15 @@ class SecondarySheet {
     const SheetNumber capacity = writer.Step(law, "Capacity of the system", numbers);
     if (result) {
       writer.Figure(result->Capacity);
-      writer.ShowAs(Dialog, FormatNumber(result->Capacity, opening_.DialogPattern), opening_.LoadUnit);
+      writer.ShowAs(InDialog, FormatNumber(result->Capacity, opening_.DialogPattern), opening_.LoadUnit);
     }
-    if (IsReported()) writer.ShowAs(Report, opening_.ReportText(printed.SupportCap), opening_.LoadUnit);
+    if (IsReported()) writer.ShowAs(InReport, opening_.ReportText(printed.SupportCap), opening_.LoadUnit);
     writer.Step(Law::StabilityFactor, "Stability factor", {capacity, load_});
     if (result) {
       writer.Figure(result->StabilityFactor);
-      writer.ShowAs(Dialog, FormatNumber(result->StabilityFactor, FactorPattern), SheetUnit::None);
+      writer.ShowAs(InDialog, FormatNumber(result->StabilityFactor, FactorPattern), SheetUnit::None);
     }
-    if (IsReported()) writer.ShowAs(Report, FormatNumber(printed.StabFactor, "0.00"), SheetUnit::None);
+    if (IsReported()) writer.ShowAs(InReport, FormatNumber(printed.StabFactor, "0.00"), SheetUnit::None);
   }
 
   // Adds why a system is not computed. Returns true if there is a reason.
@@ -331,7 +328,7 @@ class SecondarySheet {
   void ShowAdded(SheetWriter& writer, Single Reinforcement::*member) const {
     if (!Added().IsThere()) return;
     writer.Figure(Added().Value().*member);
-    if (IsReported()) writer.ShowAs(Report, FormatNumber(Added().Value().*member, OneDecimal), SheetUnit::None);
+    if (IsReported()) writer.ShowAs(InReport, FormatNumber(Added().Value().*member, OneDecimal), SheetUnit::None);
   }
 
   void Standing() {

@@ -19,6 +19,10 @@ struct SheetNumber {
   std::string Text;
 };
 
+// Where the program shows a result.
+inline constexpr std::string_view InReport = "report";
+inline constexpr std::string_view InDialog = "dialog";
+
 // An input, with its own text.
 inline SheetNumber InputNumber(Single value) { return {value, NumberText(value)}; }
 

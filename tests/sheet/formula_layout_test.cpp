@@ -16,14 +16,14 @@ using testing::ElementsAre;
 using testing::SizeIs;
 
 constexpr double Size = 10;
-const Expression X = Symbol("x");
-const Expression Y = Symbol("y");
+const Expression Base = Symbol("x");
+const Expression Other = Symbol("y");
 
-double WidthOf(const std::string& text, const TextStyle& style) {
+double SetWidth(const std::string& text, const TextStyle& style) {
   return 0.6 * style.Size * static_cast<double>(CharacterCount(text));
 }
 
-FormulaBox Set(const Expression& formula) { return SetFormula(formula, Size, WidthOf); }
+FormulaBox Set(const Expression& formula) { return SetFormula(formula, Size, SetWidth); }
 
 std::vector<std::string> TextsOf(const FormulaBox& box) {
   std::vector<std::string> texts;
@@ -38,7 +38,7 @@ const SceneLabel& LabelOf(const FormulaBox& box, const std::string& text) {
 }
 
 TEST(ASetFormula, HasDividendAndDivisorAboveAndBelowTheBar) {
-  const FormulaBox box = Set((X + 1) / Y);
+  const FormulaBox box = Set((Base + 1) / Other);
 
   ASSERT_THAT(box.Lines, SizeIs(1)) << "no brackets";
   const double bar = box.Lines[0].Steps[0].To.Y;
@@ -48,14 +48,14 @@ TEST(ASetFormula, HasDividendAndDivisorAboveAndBelowTheBar) {
 }
 
 TEST(ASetFormula, JoinsQuotientsOfQuotientsInOneFraction) {
-  const FormulaBox box = Set(X / Y / 2);
+  const FormulaBox box = Set(Base / Other / 2);
 
   EXPECT_THAT(box.Lines, SizeIs(1));
   EXPECT_THAT(TextsOf(box), ElementsAre("x", "y", "·", "2"));
 }
 
 TEST(ASetFormula, RaisesPowersAndLowersIndices) {
-  const FormulaBox power = Set(SquareOf(X));
+  const FormulaBox power = Set(SquareOf(Base));
   EXPECT_LT(LabelOf(power, "2").At.Y, LabelOf(power, "x").At.Y);
   EXPECT_LT(LabelOf(power, "2").Size, Size);
 
@@ -67,23 +67,23 @@ TEST(ASetFormula, RaisesPowersAndLowersIndices) {
 }
 
 TEST(ASetFormula, DrawsBracketsWhereThePrecedenceNeedsThem) {
-  EXPECT_THAT(Set((X + Y) * 2).Lines, SizeIs(2));
-  EXPECT_THAT(Set(X * Y + 2).Lines, SizeIs(0));
-  EXPECT_THAT(Set(SquareOf(X + Y)).Lines, SizeIs(2));
-  EXPECT_THAT(Set(NaturalLogOf(X)).Lines, SizeIs(2));
-  EXPECT_THAT(Set(X - (Y - 2)).Lines, SizeIs(2));
+  EXPECT_THAT(Set((Base + Other) * 2).Lines, SizeIs(2));
+  EXPECT_THAT(Set(Base * Other + 2).Lines, SizeIs(0));
+  EXPECT_THAT(Set(SquareOf(Base + Other)).Lines, SizeIs(2));
+  EXPECT_THAT(Set(NaturalLogOf(Base)).Lines, SizeIs(2));
+  EXPECT_THAT(Set(Base - (Other - 2)).Lines, SizeIs(2));
 }
 
 TEST(ASetFormula, PutsNumbersInThePlacesOfSymbols) {
   const auto numbers = [](std::string_view letter) { return std::string(letter == "x" ? "-2.5" : "4"); };
-  const FormulaBox box = SetFormula(Y * X, Size, WidthOf, numbers);
+  const FormulaBox box = SetFormula(Other * Base, Size, SetWidth, numbers);
 
   EXPECT_THAT(TextsOf(box), ElementsAre("4", "·", "-2.5"));
   EXPECT_THAT(box.Lines, SizeIs(2)) << "a negative factor has brackets";
 }
 
 TEST(ASetFormula, HasALineForEachCase) {
-  const FormulaBox box = Set(CasesOf({{3, X <= 20}}, Y));
+  const FormulaBox box = Set(CasesOf({{3, Base <= 20}}, Other));
 
   EXPECT_LT(LabelOf(box, "3").At.Y, LabelOf(box, "y").At.Y);
   EXPECT_THAT(TextsOf(box), ElementsAre("3", "if", "x", "≤", "20", "y", "else"));
@@ -101,7 +101,7 @@ TEST(ASetFormula, StaysInItsBoxWhateverTheRelation) {
     };
     for (const SceneLabel& label : box.Labels) {
       expectInside(label.At);
-      expectInside({label.At.X + WidthOf(label.Text, {.Size = label.Size}), label.At.Y - label.Size * 0.7});
+      expectInside({label.At.X + SetWidth(label.Text, {.Size = label.Size}), label.At.Y - label.Size * 0.7});
     }
     for (const SceneOutline& line : box.Lines) {
       for (const PathStep& step : line.Steps) expectInside(step.To);
@@ -110,10 +110,10 @@ TEST(ASetFormula, StaysInItsBoxWhateverTheRelation) {
 }
 
 TEST(APlacedFormula, IsMovedAndScaled) {
-  const FormulaBox box = Placed(Set(X / Y), {100, 50}, 0.5);
+  const FormulaBox box = Placed(Set(Base / Other), {100, 50}, 0.5);
 
   EXPECT_EQ(LabelOf(box, "x").Size, 5);
-  EXPECT_THAT(box.Width, DoubleNear(Set(X / Y).Width / 2, 1e-9));
+  EXPECT_THAT(box.Width, DoubleNear(Set(Base / Other).Width / 2, 1e-9));
   EXPECT_GT(LabelOf(box, "x").At.X, 100);
 }
 

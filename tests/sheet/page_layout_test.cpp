@@ -17,12 +17,12 @@ using testing::IsEmpty;
 using testing::Not;
 using testing::SizeIs;
 
-double WidthOf(const std::string& text, const TextStyle& style) {
+double PageTextWidth(const std::string& text, const TextStyle& style) {
   return 0.5 * style.Size * static_cast<double>(CharacterCount(text));
 }
 
 PagedSheet Paged(const DesignSheet& sheet, const PageSize& size = A4) {
-  return PagesOf(sheet, size, {.Left = "Panel 3", .Date = "2026-11-21"}, WidthOf);
+  return PagesOf(sheet, size, {.Left = "Panel 3", .Date = "2026-11-21"}, PageTextWidth);
 }
 
 bool Shows(const Scene& page, const std::string& text) {
@@ -43,7 +43,7 @@ TEST(SheetPages, HaveTextsOnlyBetweenTheirMargins) {
       EXPECT_EQ(page.Width, size.Width);
       for (const SceneLabel& label : page.Labels) {
         ASSERT_GE(label.At.X, PageMargin - 0.01) << label.Text;
-        const double right = label.At.X + WidthOf(label.Text, {.Size = label.Size});
+        const double right = label.At.X + PageTextWidth(label.Text, {.Size = label.Size});
         ASSERT_LE(right, size.Width - PageMargin + 0.01) << label.Text;
         ASSERT_GE(label.At.Y - label.Size * 0.8, PageMargin - 0.01 - label.Size) << label.Text;
         ASSERT_LE(label.At.Y, size.Height - PageMargin + 16) << label.Text;

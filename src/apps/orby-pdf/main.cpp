@@ -1,6 +1,7 @@
 // Writes the calculation sheet of a project as a PDF file, without a window.
 #include <QDate>
 #include <QGuiApplication>
+#include <QHashSeed>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -18,12 +19,13 @@
 
 namespace {
 
-constexpr const char* Usage = R"(usage: orby-pdf [--letter] [--date TEXT] FILE OUT
+constexpr const char* Usage = R"(usage: orby-pdf [--letter] [--date TEXT] [--name TEXT] FILE OUT
 
 Writes the calculation sheet of the project FILE as the PDF file OUT.
 
   --letter      pages of 8.5 x 11 in instead of A4
   --date TEXT   the date on the sheet instead of that of today
+  --name TEXT   the file name on the sheet
 
 exit status: 0 done, 1 usage, 2 not a project file, 3 run-time error.
 )";
@@ -35,6 +37,7 @@ constexpr int RunTimeError = 3;
 struct Order {
   orby::PageSize Size = orby::A4;
   std::optional<std::string> Date;
+  std::optional<std::string> Name;
   std::vector<std::string> Files;
 };
 
@@ -46,6 +49,8 @@ std::optional<Order> OrderOf(const std::vector<std::string>& words) {
       order.Size = orby::Letter;
     } else if (words[i] == "--date" && i + 1 < words.size()) {
       order.Date = words[++i];
+    } else if (words[i] == "--name" && i + 1 < words.size()) {
+      order.Name = words[++i];
     } else if (words[i].starts_with("--")) {
       return std::nullopt;
     } else {
@@ -66,6 +71,7 @@ int Write(const Order& order) {
   orby::StartApart(program, nullptr);
   program.project.CurrentFile = order.Files[0];
   if (!FileOpen(program)) return NoProject;
+  if (order.Name) program.project.CurrentFile = *order.Name;
   const std::string date = order.Date.value_or(orby::FromQt(QDate::currentDate().toString(Qt::ISODate)));
   const std::string pdf = orby::SheetAsPdf(program, orby::SheetOfProject(program), {order.Size, date});
   script.files.ReplaceFile(order.Files[1], pdf);
@@ -82,6 +88,8 @@ int main(int argc, char** argv) {
     return UsageError;
   }
   try {
+    // The writer of PDF files lists the fonts in the order of a hash.
+    QHashSeed::setDeterministicGlobalSeed();
     // Texts are set without a display.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
