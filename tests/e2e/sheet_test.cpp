@@ -39,9 +39,9 @@ TEST_F(SheetCommand, WritesTheSheetsOfSeveralFilesIntoAFolder) {
 
   EXPECT_EQ(Run(words).exitCode, 0);
 
-  EXPECT_THAT(Names(), ElementsAre("australian-grade-metric.txt", "belt-entry-trusses.txt", "development-entry.txt",
-                                   "gateroad-standing-supports.txt", "intersection-secondary-bolts.txt",
-                                   "weak-roof.txt"));
+  EXPECT_THAT(Names(),
+              ElementsAre("australian-grade-metric.txt", "belt-entry-trusses.txt", "development-entry.txt",
+                          "gateroad-standing-supports.txt", "intersection-secondary-bolts.txt", "weak-roof.txt"));
 }
 
 TEST_F(SheetCommand, NamesTheBytesThatSavingWrites) {
@@ -56,14 +56,14 @@ TEST_F(SheetCommand, NamesTheBytesThatSavingWrites) {
 
 TEST_F(SheetCommand, RefusesWhatItCannotWrite) {
   const std::string file = Example("weak-roof");
-  for (const std::vector<std::string>& words : std::vector<std::vector<std::string>>{
-           {"sheet", file},
-           {"sheet", file, Path("sheet.doc")},
-           {"sheet", file, Path("sheet")},
-           {"sheet", "--to", Path(""), file},
-           {"sheet", "--to", Path(""), "--as", "doc", file},
-           {"sheet", "--to", Path(""), "--as", "txt", file, file},
-           {"sheet", "--as", "txt", file, Path("sheet.txt")}}) {
+  for (const std::vector<std::string>& words :
+       std::vector<std::vector<std::string>>{{"sheet", file},
+                                             {"sheet", file, Path("sheet.doc")},
+                                             {"sheet", file, Path("sheet")},
+                                             {"sheet", "--to", Path(""), file},
+                                             {"sheet", "--to", Path(""), "--as", "doc", file},
+                                             {"sheet", "--to", Path(""), "--as", "txt", file, file},
+                                             {"sheet", "--as", "txt", file, Path("sheet.txt")}}) {
     EXPECT_EQ(Run(words).exitCode, 1) << words.back();
   }
   EXPECT_THAT(Names(), SizeIs(0));

@@ -238,9 +238,8 @@ std::string SheetIn(const std::string& folder, std::string_view format, std::str
 // Several files that would have one sheet are refused, because the later one would replace the earlier one.
 bool HaveSheetsOfTheirOwn(const CommandLine& line) {
   std::set<std::string> sheets;
-  return std::ranges::all_of(line.Operands, [&](const std::string& file) {
-    return sheets.insert(SheetIn(*line.To, *line.As, file)).second;
-  });
+  return std::ranges::all_of(
+      line.Operands, [&](const std::string& file) { return sheets.insert(SheetIn(*line.To, *line.As, file)).second; });
 }
 
 bool IsCurveNumber(const std::string& word) { return word.size() == 1 && word[0] >= '0' && word[0] <= '9'; }
