@@ -8,6 +8,14 @@
 #include "sheet/pdf_bookmarks.h"
 
 namespace orby {
+namespace {
+
+// Returns the title of the project, or the name of its file.
+std::string NameOf(const DesignSheet& sheet) {
+  return sheet.Project.Title.empty() ? std::string(NameAfterSeparator(sheet.Project.File)) : sheet.Project.Title;
+}
+
+}  // namespace
 
 DesignSheet SheetOfProject(const Program& program) {
   const Project& project = program.project;
@@ -22,13 +30,16 @@ DesignSheet SheetOfProject(const Program& program) {
                           catalogs);
 }
 
-std::string SheetAsPdf(const Program& program, const DesignSheet& sheet, const SheetPaper& paper) {
+PagedSheet PagesOfSheet(const Program& program, const DesignSheet& sheet, const SheetPaper& paper) {
   PictureFiles& pictures = program.platform.pictures;
   const auto width = [&](const std::string& text, const TextStyle& style) { return pictures.WidthOf(text, style); };
-  const std::string name =
-      sheet.Project.Title.empty() ? std::string(NameAfterSeparator(sheet.Project.File)) : sheet.Project.Title;
-  const PagedSheet paged = PagesOf(sheet, paper.Size, {.Left = name, .Date = paper.Date}, width);
-  return WithBookmarks(pictures.PagesAsPdf(paged.Pages, "Calculation sheet: " + name), paged.Contents, paper.Size);
+  return PagesOf(sheet, paper.Size, {.Left = NameOf(sheet), .Date = paper.Date}, width);
+}
+
+std::string SheetAsPdf(const Program& program, const DesignSheet& sheet, const SheetPaper& paper) {
+  const PagedSheet paged = PagesOfSheet(program, sheet, paper);
+  const std::string pdf = program.platform.pictures.PagesAsPdf(paged.Pages, "Calculation sheet: " + NameOf(sheet));
+  return WithBookmarks(pdf, paged.Contents, paper.Size);
 }
 
 }  // namespace orby

@@ -16,6 +16,9 @@ struct SheetPaper {
   std::string Date;
 };
 
+// Returns the pages of the sheet, with the project at their feet.
+PagedSheet PagesOfSheet(const Program& program, const DesignSheet& sheet, const SheetPaper& paper);
+
 // Returns the sheet as a PDF file with bookmarks. Throws RuntimeError 7 if the pages cannot be made.
 std::string SheetAsPdf(const Program& program, const DesignSheet& sheet, const SheetPaper& paper);
 

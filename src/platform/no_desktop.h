@@ -67,6 +67,9 @@ class NoPrinter : public Printer {
   std::string PrintPages(const std::vector<std::string>&, const std::string&, const std::string&) override {
     throw RuntimeError(error_number::Printer);
   }
+  void PrintScenes(const std::vector<Scene>&, const std::string&) override {
+    throw RuntimeError(error_number::Printer);
+  }
   void PrintChart(const Control&, const std::vector<std::string>&) override {
     throw RuntimeError(error_number::Printer);
   }

@@ -5,6 +5,7 @@
 
 #include "controls/chart.h"
 #include "dialogs/drawing.h"
+#include "dialogs/pages_box.h"
 
 namespace orby {
 namespace {
@@ -55,7 +56,8 @@ BindingPointer Bind(BindingHost& host, Control& control) {
       fits(As<TextPane>(control, with(BindTextPane))) || fits(As<ProgressBar>(control, with(BindProgressBar))) ||
       fits(As<Grid>(control, with(BindGrid))) || fits(As<TabSet>(control, with(BindTabSet))) ||
       fits(As<ActionArray>(control, with(BindActionArray))) || fits(As<Chart>(control, with(BindChart))) ||
-      fits(As<Drawing>(control, with(BindDrawing))) || fits(BindPlain(host, control));
+      fits(As<Drawing>(control, with(BindDrawing))) || fits(As<PagesBox>(control, with(BindPages))) ||
+      fits(BindPlain(host, control));
   return found;
 }
 

@@ -16,6 +16,7 @@ namespace orby {
 
 class Chart;
 class Drawing;
+class PagesBox;
 class Mnemonics;
 
 // A caption that can have a mnemonic letter.
@@ -125,6 +126,7 @@ BindingPointer BindProgressBar(BindingHost& host, const ProgressBar& bar);
 BindingPointer BindTextPane(BindingHost& host, const TextPane& pane);
 BindingPointer BindChart(BindingHost& host, const Chart& chart);
 BindingPointer BindDrawing(BindingHost& host, Drawing& drawing);
+BindingPointer BindPages(BindingHost& host, PagesBox& pages);
 
 // Returns the binding for the control's type.
 BindingPointer Bind(BindingHost& host, Control& control);

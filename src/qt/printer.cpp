@@ -20,6 +20,7 @@
 #include "machine/desktop.h"
 #include "qt/bound_form.h"
 #include "qt/chart_view.h"
+#include "qt/scene_painter.h"
 #include "qt/texts.h"
 #include "reports/printing.h"
 
@@ -197,6 +198,22 @@ std::string QtPrinter::PrintPages(const std::vector<std::string>& pages, const s
   if (!painter.end()) throw RuntimeError(error_number::Printer);
   mayReplace_ = false;
   return job.File();
+}
+
+void QtPrinter::PrintScenes(const std::vector<Scene>& pages, const std::string& title) {
+  Job job(*this, title);
+  QPrinter& device = job.Device();
+  QPainter painter;
+  if (!painter.begin(&device)) throw RuntimeError(error_number::Printer);
+  painter.setWorldTransform({});
+  bool first = true;
+  for (const Scene& page : pages) {
+    if (!std::exchange(first, false) && !device.newPage()) throw RuntimeError(error_number::Printer);
+    const QRectF paper = device.pageRect(QPrinter::DevicePixel);
+    PaintScene(painter, page, QRectF(QPointF(), paper.size()), Qt::black);
+  }
+  if (!painter.end()) throw RuntimeError(error_number::Printer);
+  mayReplace_ = false;
 }
 
 void QtPrinter::PrintChart(const Control& chart, const std::vector<std::string>& heading) {

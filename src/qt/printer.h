@@ -19,6 +19,7 @@ class QtPrinter : public Printer {
   void SetUp() override;
   std::string PrintPages(const std::vector<std::string>& pages, const std::string& title,
                          const std::string& fontName) override;
+  void PrintScenes(const std::vector<Scene>& pages, const std::string& title) override;
   void PrintChart(const Control& chart, const std::vector<std::string>& heading) override;
 
   // Returns the print device, created on first use.

@@ -9,6 +9,7 @@ namespace {
 
 constexpr std::array<std::string_view, CostHeads> HeadNames{"Consumables", "Operating labor", "Maintenance",
                                                             "Transportation", "Machine ownership"};
+constexpr std::size_t AdvanceColumn = 1;
 constexpr std::size_t ColumnCount = std::tuple_size_v<CostRow>;
 constexpr std::array<std::string_view, ColumnCount> ColumnNames{"Cost of a bolt", "Cost of the advance",
                                                                 "Cost of a shift", "Cost of a ton"};
@@ -76,13 +77,14 @@ class CostSheet {
   SheetNumber Cell(std::size_t head, std::size_t column, Law law, const std::vector<SheetNumber>& numbers) {
     SheetNumber cost =
         writer_.Step(law, std::string(ColumnNames[column]) + ": " + std::string(HeadNames[head]), numbers);
-    if (table_.IsThere()) Show(table_.Value().Heads[head][column]);
+    if (table_.IsThere()) Show(table_.Value().Heads[head][column], column);
     return cost;
   }
 
-  void Show(Single cost) {
+  void Show(Single cost, std::size_t column) {
     writer_.Figure(cost);
-    writer_.ShowAs("cost table", FormatNumber(cost, "0.00"), SheetUnit::Dollars);
+    writer_.ShowAs("cost table", FormatNumber(cost, "0.00"),
+                   column == AdvanceColumn ? SheetUnit::DollarsPerLength : SheetUnit::Dollars);
   }
 
   void Columns(std::size_t head) {
@@ -100,7 +102,7 @@ class CostSheet {
       std::vector<SheetNumber> heads;
       for (const auto& row : cells_) heads.push_back(row[column]);
       writer_.Step(Law::TotalCost, std::string(ColumnNames[column]) + ": Total", heads);
-      if (table_.IsThere()) Show(table_.Value().Totals[column]);
+      if (table_.IsThere()) Show(table_.Value().Totals[column], column);
     }
   }
 

@@ -25,9 +25,9 @@ constexpr TextStyle Heading{.Size = 13, .IsBold = true};
 constexpr TextStyle Title{.Size = 20, .IsBold = true};
 
 // Places of the columns of a table of inputs, in shares of the width.
-constexpr double ValueRight = 0.5;
-constexpr double UnitLeft = 0.515;
-constexpr double SourceLeft = 0.6;
+constexpr double ValueRight = 0.45;
+constexpr double UnitLeft = 0.465;
+constexpr double SourceLeft = 0.54;
 
 // Boxes below each other.
 class Stack {
@@ -235,9 +235,9 @@ class SheetPages {
   PageBlock InputRow(const std::string& label, const std::string& value, const std::string& unit,
                      const std::string& source, const TextStyle& style) const {
     Stack row;
-    row.Add(Fitting(Text(label, style), across_ * 0.4), 0, 3);
+    row.Add(Fitting(Text(label, style), across_ * 0.36), 0, 3);
     const double base = row.Height() - style.Size * 0.22;
-    FormulaBox number = Fitting(Text(value, style), across_ * 0.2);
+    FormulaBox number = Fitting(Text(value, style), across_ * 0.16);
     row.AddAt(RightAligned(std::move(number)), {across_ * ValueRight, base});
     row.AddAt(Text(unit, style), {across_ * UnitLeft, base});
     row.AddAt(Fitting(Text(source, style), across_ * (1 - SourceLeft)), {across_ * SourceLeft, base});

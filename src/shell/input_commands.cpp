@@ -6,6 +6,7 @@
 #include "dialogs/cost_dialog.h"
 #include "dialogs/description_dialog.h"
 #include "dialogs/parameters_dialog.h"
+#include "dialogs/sheet_window.h"
 #include "shell/main_window.h"
 
 namespace orby {
@@ -22,6 +23,7 @@ void MainWindow::EditCommand(EditItem item) {
 void MainWindow::StudyCommand(StudyItem item) {
   switch (item) {
     case StudyItem::WhatWouldHold: EditDesign<ParametersDialog>(&ParametersDialog::StudyLater); break;
+    case StudyItem::CalculationSheet: Run(Trap::Set, [&] { ShowSheet(program_); }); break;
   }
 }
 

@@ -24,6 +24,7 @@
 #include "dialogs/resource_files.h"
 #include "dialogs/results_window.h"
 #include "dialogs/settings_dialog.h"
+#include "dialogs/sheet_window.h"
 #include "dialogs/text_browser.h"
 #include "dialogs/unit_calculator_window.h"
 #include "dialogs/update_dialog.h"
@@ -80,6 +81,10 @@ inline constexpr std::array FormMakers{
     FormMaker{"frmCMRREst", Plain<EstimatorDialog>},
     FormMaker{"frmResTxtPlt", Plain<ResultsWindow>},
     FormMaker{"frmPreview", Plain<PreviewWindow>},
+    FormMaker{"frmSheet",
+              [](Program& program) -> std::unique_ptr<Form> {
+                return std::make_unique<SheetWindow>(program, SheetOfProject(program));
+              }},
     FormMaker{"frmGraph", Plain<GraphWindow>},
     FormMaker{"frmConvert", Plain<ConvertDialog>},
     FormMaker{"frmUnits", Plain<UnitCalculator>},

@@ -28,6 +28,7 @@ const std::set<std::string> Texts{
     "frmSet Text2",
     "frmSet Text4",
     "frmTextBrow Text2",        // the pattern of the files
+    "frmSheet txtFind",         // a text to look for
     "frmWouldHold txtLengths",  // a list of lengths
     "frmGraphOpt Text1",        // titles of a graph, its curves and its axes
     "frmGraphOpt Text2_0",

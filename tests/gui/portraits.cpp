@@ -41,6 +41,7 @@
 #include "dialogs/resource_files.h"
 #include "dialogs/results_window.h"
 #include "dialogs/settings_dialog.h"
+#include "dialogs/sheet_window.h"
 #include "dialogs/text_browser.h"
 #include "dialogs/unit_calculator_window.h"
 #include "dialogs/update_dialog.h"
@@ -188,6 +189,7 @@ class Sitting {
     TakeParameters();
     TakeMarkedFields();
     TakeStudy();
+    TakeSheet();
     TakeDialog<CostDialog>("cost");
     TakeEstimator();
     TakeOptions();
@@ -302,6 +304,18 @@ class Sitting {
     });
     ParametersDialog dialog(program_);
     ShowForm(program_, dialog);
+  }
+
+  // Takes the calculation sheet, with a text that was looked for.
+  void TakeSheet() {
+    scripts_.Add([&](QDialog& window) {
+      photographer_.Take(window, "sheet");
+      TypeInto(window, "txtFind", "stability");
+      Click(window, "cmdFind");
+      photographer_.Take(window, "sheet-found");
+      window.close();
+    });
+    ShowSheet(program_);
   }
 
   // Takes a form that this button closes.

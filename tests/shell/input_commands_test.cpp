@@ -3,6 +3,7 @@
 #include "dialogs/cost_dialog.h"
 #include "dialogs/description_dialog.h"
 #include "dialogs/parameters_dialog.h"
+#include "dialogs/sheet_window.h"
 #include "files/recovery_file.h"
 #include "main_window_fixture.h"
 
@@ -10,6 +11,9 @@ namespace orby::test {
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
 
 struct InputMenu : MainWindowTest {
   void Choose(EditItem item) { window.mnuEditItem.ClickItem(item); }
@@ -52,6 +56,29 @@ TEST_F(InputMenu, IsNotNeededForAStudyWhichOpensTheParametersItself) {
   window.mnuStudyItem.ClickItem(StudyItem::WhatWouldHold);
 
   EXPECT_THAT(names, ElementsAre("frmPENVParm", "frmWouldHold"));
+}
+
+TEST_F(InputMenu, ShowsTheCalculationSheetOfTheProject) {
+  std::vector<std::string> names;
+  std::string firstPage;
+  platform.windows.onModal = [&](Form& form) {
+    names.emplace_back(form.Name());
+    firstPage = dynamic_cast<SheetWindow&>(form).picPages.Words();
+  };
+
+  window.mnuStudyItem.ClickItem(StudyItem::CalculationSheet);
+
+  EXPECT_THAT(names, ElementsAre("frmSheet"));
+  EXPECT_THAT(firstPage, StartsWith("Calculation sheet "));
+}
+
+TEST_F(InputMenu, SaysWhyAProjectHasNoCalculationSheet) {
+  program.project.WorkParms.Primary.Options = BoltSource{7};
+  platform.windows.onModal = [&](Form& form) { ADD_FAILURE() << form.Name() << " was shown"; };
+
+  window.mnuStudyItem.ClickItem(StudyItem::CalculationSheet);
+
+  EXPECT_THAT(platform.boxes.Texts(), Not(IsEmpty()));
 }
 
 TEST_F(InputMenu, OpensNoStudyAfterTheParametersHaveClosed) {

@@ -115,6 +115,12 @@ std::string RecordingPrinter::PrintPages(const std::vector<std::string>& given, 
   return file;
 }
 
+void RecordingPrinter::PrintScenes(const std::vector<Scene>& given, const std::string& name) {
+  Meet();
+  scenes = given;
+  title = name;
+}
+
 void RecordingPrinter::PrintChart(const Control& chart, const std::vector<std::string>& lines) {
   Meet();
   printedChart = chart.Name();

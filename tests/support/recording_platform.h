@@ -130,9 +130,11 @@ class RecordingPrinter : public Printer {
   void SetUp() override;
   std::string PrintPages(const std::vector<std::string>& given, const std::string& name,
                          const std::string& font) override;
+  void PrintScenes(const std::vector<Scene>& given, const std::string& name) override;
   void PrintChart(const Control& chart, const std::vector<std::string>& lines) override;
 
   std::vector<std::string> pages;
+  std::vector<Scene> scenes;
   std::string title;
   std::string fontName;
   std::string printedChart;

@@ -1,0 +1,34 @@
+#include "dialogs/pages_box.h"
+
+namespace orby {
+
+void PagesBox::Fill(std::vector<Scene> pages) {
+  pages_ = std::move(pages);
+  onView_ = 0;
+  GoTo({});
+}
+
+void PagesBox::GoTo(const PagePlace& place) {
+  place_ = place;
+  ++moves_;
+  Touch();
+  TellPage(place.Page);
+}
+
+void PagesBox::TellPage(std::size_t page) {
+  if (page == onView_) return;
+  onView_ = page;
+  Fire(PageChanged);
+}
+
+std::string PagesBox::Words() const {
+  std::string words;
+  if (onView_ >= pages_.size()) return words;
+  for (const SceneLabel& label : pages_[onView_].Labels) {
+    if (!words.empty()) words += ' ';
+    words += label.Text;
+  }
+  return words;
+}
+
+}  // namespace orby
