@@ -12,7 +12,6 @@ namespace orby {
 struct SystemTexts {
   std::string_view Key;
   std::string_view Title;
-  std::string_view Unit;  // one of them
 };
 
 struct SheetOfOpening {
@@ -31,20 +30,19 @@ struct SheetOfOpening {
 inline std::string EntryLoadText(Single load) { return FormatNumber(load, EntryPattern); }
 inline std::string IntersectionLoadText(Single load) { return NumberText(load); }
 
-inline constexpr SheetOfOpening EntrySheet{
-    .Where = Opening::Entries,
-    .Support = &RoofSupport::Entries,
-    .Live = &Figures::Entries,
-    .Added = &Figures::EntryReinforcement,
-    .LoadUnit = SheetUnit::LineLoad,
-    .Key = "entry-rock",
-    .Of = "of entries",
-    .DialogPattern = EntryPattern,
-    .ReportText = EntryLoadText,
-    .Systems = {{{"entry-cables", "Cable bolts of entries", "a cable bolt"},
-                 {"entry-trusses", "Trusses of entries", "a truss"},
-                 {"entry-bolts", "Secondary bolts of entries", "a secondary bolt"},
-                 {"entry-standing", "Standing supports of entries", "a support"}}}};
+inline constexpr SheetOfOpening EntrySheet{.Where = Opening::Entries,
+                                           .Support = &RoofSupport::Entries,
+                                           .Live = &Figures::Entries,
+                                           .Added = &Figures::EntryReinforcement,
+                                           .LoadUnit = SheetUnit::LineLoad,
+                                           .Key = "entry-rock",
+                                           .Of = "of entries",
+                                           .DialogPattern = EntryPattern,
+                                           .ReportText = EntryLoadText,
+                                           .Systems = {{{"entry-cables", "Cable bolts of entries"},
+                                                        {"entry-trusses", "Trusses of entries"},
+                                                        {"entry-bolts", "Secondary bolts of entries"},
+                                                        {"entry-standing", "Standing supports of entries"}}}};
 inline constexpr SheetOfOpening IntersectionSheet{
     .Where = Opening::Intersections,
     .Support = &RoofSupport::Intersections,
@@ -55,9 +53,9 @@ inline constexpr SheetOfOpening IntersectionSheet{
     .Of = "of intersections",
     .DialogPattern = IntersectionPattern,
     .ReportText = IntersectionLoadText,
-    .Systems = {{{"intersection-cables", "Cable bolts of intersections", "a cable bolt"},
-                 {"intersection-trusses", "Trusses of intersections", "a truss"},
-                 {"intersection-bolts", "Secondary bolts of intersections", "a secondary bolt"},
-                 {"intersection-standing", "Standing supports of intersections", "a support"}}}};
+    .Systems = {{{"intersection-cables", "Cable bolts of intersections"},
+                 {"intersection-trusses", "Trusses of intersections"},
+                 {"intersection-bolts", "Secondary bolts of intersections"},
+                 {"intersection-standing", "Standing supports of intersections"}}}};
 
 }  // namespace orby

@@ -13,13 +13,7 @@ struct SheetContext {
   Verdicts Judged;   // of the shown design
 };
 
-// Numbers in the units of the relations, after the steps that convert those of a Metric design.
-struct WorkingSheet {
-  SheetNumber Depth;
-  SheetNumber Span;
-  SheetNumber Width;
-};
-
+// A bolt in the units of the relations.
 struct WorkingBoltNumbers {
   SheetNumber Diameter;  // in
   SheetNumber Grade;     // ksi
@@ -36,7 +30,7 @@ SheetNumber YieldStep(SheetWriter& writer, const std::string& bolt, const SheetN
 SheetNumber UltimateStep(SheetWriter& writer, const std::string& bolt, const SheetNumber& grade,
                          const Catalogs& catalogs);
 
-// Adds the judgements of an opening that `belongs` picks.
+// Adds the judgements of these aspects in an opening.
 void AddJudgements(SheetWriter& writer, const Verdicts& judged, Opening where, std::initializer_list<Aspect> aspects);
 
 // Checks the capacity of one bolt against the standard.
