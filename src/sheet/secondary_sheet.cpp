@@ -35,7 +35,7 @@ class SecondarySheet {
   const SecondarySupport& Reported() const { return context_.Designs.Previewed.*opening_.Support; }
   const SupportSystem& Printed(System system) const {
     const auto systems = Reported().Systems();
-    return *systems[system];
+    return *systems.at(system);
   }
   const Computed<Reinforcement>& Added() const { return context_.Reported.*opening_.Added; }
   // The report prints this part, and does not end before it.

@@ -104,6 +104,7 @@ void World::MakeFiles(std::uint64_t seed) const {
   Dice dice(seed, 0);
   int number = 0;
   for (const auto& example : fs::directory_iterator(EXAMPLES_DIR)) {
+    if (example.path().extension() != ".ORB") continue;
     const std::string bytes = BytesOf(example.path());
     const std::string digit = std::to_string(number++);
     Write(folder / ("whole" + digit + ".ORB"), bytes);
