@@ -1,6 +1,7 @@
 #include "dialogs/sheet_window.h"
 
 #include "base/text.h"
+#include "base/text_search.h"
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
 #include "dialogs/save_in_format.h"
@@ -19,10 +20,7 @@ std::string TwoDigits(int number) { return (number < 10 ? "0" : "") + std::to_st
 
 bool Has(const SceneLabel& label, std::string_view wanted) {
   const std::string_view text = label.Text;
-  for (std::size_t i = 0; i + wanted.size() <= text.size(); ++i) {
-    if (SameWithoutCase(text.substr(i, wanted.size()), wanted)) return true;
-  }
-  return false;
+  return TextSearch(wanted, text.size(), 0, TextSearch::Direction::Forward).Next(text, text.size()).has_value();
 }
 
 // Returns the place after one, from label to label and from page to page, around the end.

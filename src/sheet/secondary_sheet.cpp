@@ -261,8 +261,7 @@ class SecondarySheet {
     if (!isMetric_) return YieldStep(writer, Bolt, grade, context_.catalogs);
     const auto typed = static_cast<Single>(*grade.Value);
     const std::string title = "Yield strength of " + Bolt;
-    for (std::size_t i = 0; i < context_.catalogs.DefaultBoltUTSArrayMET.Count(); ++i) {
-      if (context_.catalogs.DefaultBoltUTSArrayMET[i] != typed) continue;
+    if (IsListed(context_.catalogs.DefaultBoltUTSArrayMET, typed)) {
       return writer.Found(title, {"G_y", "yield strength", SheetUnit::StressInMPa},
                           YieldFromUltimateMPa(MPa(typed), context_.catalogs).Value,
                           grade.Text + " MPa is in the list of ultimate strengths. This is its pair.");

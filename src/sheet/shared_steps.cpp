@@ -11,13 +11,6 @@ namespace {
 constexpr SymbolMeaning YieldStrength{"G_y", "yield strength", SheetUnit::StressInKsi};
 constexpr SymbolMeaning UltimateStrength{"G_u", "ultimate strength", SheetUnit::StressInKsi};
 
-bool IsListed(const CatalogList& list, double value) {
-  for (std::size_t i = 0; i < list.Count(); ++i) {
-    if (list[i] == value) return true;
-  }
-  return false;
-}
-
 // One of the two ways from a strength to the other.
 struct StrengthRule {
   CatalogList Catalogs::*List;
@@ -50,6 +43,13 @@ SheetNumber OtherStrength(SheetWriter& writer, const StrengthRule& rule, const s
 }
 
 }  // namespace
+
+bool IsListed(const CatalogList& list, double value) {
+  for (std::size_t i = 0; i < list.Count(); ++i) {
+    if (list[i] == value) return true;
+  }
+  return false;
+}
 
 SheetNumber InFeetStep(SheetWriter& writer, const std::string& name, Single length) {
   const SheetNumber typed = InputNumber(length);

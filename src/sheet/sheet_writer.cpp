@@ -8,7 +8,6 @@
 #include "reports/verdict_text.h"
 
 namespace orby {
-
 namespace {
 
 std::vector<SymbolValue> ValuesOf(const SheetStep& step) {
