@@ -9,10 +9,11 @@ namespace {
 
 // In the order of SheetUnit, English and Metric.
 constexpr auto UnitTexts = std::to_array<std::array<std::string_view, 2>>({
-    {"", ""},       {"°", "°"},       {"ft", "ft"},     {"in", "in"},        {"ksi", "ksi"},
-    {"MPa", "MPa"}, {"kips", "kips"}, {"tons", "tons"}, {"$", "$"},          {"ft", "m"},
-    {"in", "mm"},   {"ksi", "MPa"},   {"tons", "kN"},   {"tons/ft", "kN/m"}, {"pcf", "kN/m3"},
-    {"ft2", "m2"},  {"ft3", "m3"},    {"$/ft", "$/m"},  {"tons/ft", "MN/m"}, {"tons", "tn"},
+    {"", ""},         {"", ""},       {"°", "°"},       {"ft", "ft"},     {"in", "in"},
+    {"ksi", "ksi"},   {"MPa", "MPa"}, {"kips", "kips"}, {"tons", "tons"}, {"$", "$"},
+    {"ft", "m"},      {"in", "mm"},   {"ksi", "MPa"},   {"tons", "kN"},   {"tons/ft", "kN/m"},
+    {"pcf", "kN/m3"}, {"ft2", "m2"},  {"ft3", "m3"},    {"$/ft", "$/m"},  {"tons/ft", "MN/m"},
+    {"tons", "tn"},
 });
 
 std::vector<Relation> AllRelations() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -15,6 +16,7 @@ namespace orby {
 // Units of symbols. The first ones are the same in every design, the others are those of the design.
 enum class SheetUnit : std::uint8_t {
   None,
+  OfTheStep,  // one formula serves numbers of different kinds, each step names the unit
   Degrees,
   LengthInFeet,
   DiameterInInches,
@@ -110,9 +112,10 @@ struct Relation {
   SymbolMeaning Result;
   std::vector<SymbolMeaning> Symbols;  // in the order of the formula
   Expression Formula;
-  bool IsRounded = true;      // to the precision of a Single
-  std::string_view Validity;  // where the formula holds, in words; empty: everywhere
-  std::string_view HelpPage;  // "relation-psup.html#span"
+  bool IsRounded = true;                            // to the precision of a Single
+  std::string_view Validity;                        // where the formula holds, in words; empty: everywhere
+  std::string_view HelpPage;                        // "relation-psup.html#span"
+  std::optional<UnitSystem> OnlyIn = std::nullopt;  // designs in other units do not use it
 };
 
 // All relations, in the order of Law.
