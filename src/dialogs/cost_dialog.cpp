@@ -23,7 +23,7 @@ namespace orby {
 namespace {
 
 struct CostField {
-  LabelledBox CostDialog::*Box;
+  CostBox CostDialog::*Box;
   Single CostInputs::*Field;
   std::string_view Fault;
 };

@@ -6,55 +6,59 @@
 #include "controls/controls.h"
 #include "controls/edit_history.h"
 #include "core/program_form.h"
+#include "reports/cost_input_rows.h"
 
 namespace orby {
+
+class CostBox : public LabelledBox {
+ public:
+  CostBox(Form& form, std::string_view name, const CostInputRow& row)
+      : LabelledBox(form, name, TextKind::Number, row.Label, row.Unit) {}
+};
 
 class CostDialog : public ProgramForm {
  public:
   static constexpr std::string_view UseCalculated = "Use calculated value";
 
   Frame fraConsumables{*this, "fraConsumables", "Consumables"};
-  LabelledBox txtBoltCost{*this, "txtBoltCost", TextKind::Number, "Bolt cost ($/bolt)"};
-  LabelledBox txtPlateCost{*this, "txtPlateCost", TextKind::Number, "Plate cost ($/plate)"};
-  LabelledBox txtResinCost{*this, "txtResinCost", TextKind::Number, "Resin cost ($/bolt)"};
-  LabelledBox txtBitCost{*this, "txtBitCost", TextKind::Number, "Bit cost ($/shift)"};
-  LabelledBox txtHeaderCost{*this, "txtHeaderCost", TextKind::Number, "Header cost ($/bolt)"};
-  LabelledBox txtStrapCost{*this, "txtStrapCost", TextKind::Number, "Strap/mesh cost ($/row)"};
+  CostBox txtBoltCost{*this, "txtBoltCost", CostRowOf(&CostInputs::BoltCost)};
+  CostBox txtPlateCost{*this, "txtPlateCost", CostRowOf(&CostInputs::PlateCost)};
+  CostBox txtResinCost{*this, "txtResinCost", CostRowOf(&CostInputs::ResinCost)};
+  CostBox txtBitCost{*this, "txtBitCost", CostRowOf(&CostInputs::BitCost)};
+  CostBox txtHeaderCost{*this, "txtHeaderCost", CostRowOf(&CostInputs::HeaderCost)};
+  CostBox txtStrapCost{*this, "txtStrapCost", CostRowOf(&CostInputs::StrapCost)};
 
   Frame fraOperatingLabor{*this, "fraOperatingLabor", "Operating Labor"};
-  LabelledBox txtnOperShift{*this, "txtnOperShift", TextKind::Number, "Number of operators/shift"};
-  LabelledBox txtTotalLabor{*this, "txtTotalLabor", TextKind::Number, "Total labor cost ($/hr)"};
-  LabelledBox txtHoursShift{*this, "txtHoursShift", TextKind::Number, "Hours/shift"};
+  CostBox txtnOperShift{*this, "txtnOperShift", CostRowOf(&CostInputs::NOperShift)};
+  CostBox txtTotalLabor{*this, "txtTotalLabor", CostRowOf(&CostInputs::TotalLabor)};
+  CostBox txtHoursShift{*this, "txtHoursShift", CostRowOf(&CostInputs::HoursShift)};
 
   Frame fraMaintenance{*this, "fraMaintenance", "Maintenance"};
-  LabelledBox txtMaintainHrs{*this, "txtMaintainHrs", TextKind::Number, "Preventative maintenance (labor hrs/day)"};
-  LabelledBox txtMaintainCost{*this, "txtMaintainCost", TextKind::Number, "Maintenance supply cost ($/yr)"};
+  CostBox txtMaintainHrs{*this, "txtMaintainHrs", CostRowOf(&CostInputs::MaintainHrs)};
+  CostBox txtMaintainCost{*this, "txtMaintainCost", CostRowOf(&CostInputs::MaintainCost)};
 
   Frame fraTransportation{*this, "fraTransportation", "Transportation"};
-  LabelledBox txtTranspCost{*this, "txtTranspCost", TextKind::Number, "Transportation of supplies ($/shift)"};
+  CostBox txtTranspCost{*this, "txtTranspCost", CostRowOf(&CostInputs::TranspCost)};
 
   Frame fraMachineOwnership{*this, "fraMachineOwnership", "Machine Ownership"};
-  LabelledBox txtCapitalCost{*this, "txtCapitalCost", TextKind::Number, "Capital cost for machine ($)"};
-  LabelledBox txtYearsDepr{*this, "txtYearsDepr", TextKind::Number, "Years to depreciate"};
+  CostBox txtCapitalCost{*this, "txtCapitalCost", CostRowOf(&CostInputs::CapitalCost)};
+  CostBox txtYearsDepr{*this, "txtYearsDepr", CostRowOf(&CostInputs::YearsDepr)};
 
   Frame fraProduction{*this, "fraProduction", "Production"};
-  LabelledBox txtnboltsShift{*this, "txtnboltsShift", TextKind::Number, "Number of bolts installed per shift"};
-  LabelledBox txtnBoltsRow{*this, "txtnBoltsRow", TextKind::Number, "Number of bolts per row"};
-  LabelledBox txtRowSpacing{*this, "txtRowSpacing", TextKind::Number, "Spacing between rows", UnitSuffix::Length};
+  CostBox txtnboltsShift{*this, "txtnboltsShift", CostRowOf(&CostInputs::NboltsShift)};
+  CostBox txtnBoltsRow{*this, "txtnBoltsRow", CostRowOf(&CostInputs::NBoltsRow)};
+  CostBox txtRowSpacing{*this, "txtRowSpacing", CostRowOf(&CostInputs::RowSpacing)};
   LabelledBox txtAdvanceShiftCalc{*this, "txtAdvanceShiftCalc", TextKind::Output, "Calculated advance per shift",
                                   UnitSuffix::Length};
-  LabelledBox txtAdvanceShift{*this, "txtAdvanceShift", TextKind::Number, "Input: Advance per shift",
-                              UnitSuffix::Length};
+  CostBox txtAdvanceShift{*this, "txtAdvanceShift", AdvanceShiftRow};
   CheckBox chkAdvance{*this, "chkAdvance", UseCalculated};
-  LabelledBox txtAdvanceRate{*this, "txtAdvanceRate", TextKind::Number, "Clean production advance rate",
-                             UnitSuffix::ProductionRate};
+  CostBox txtAdvanceRate{*this, "txtAdvanceRate", CostRowOf(&CostInputs::AdvanceRate)};
   LabelledBox txtCleanProductionCalc{*this, "txtCleanProductionCalc", TextKind::Output,
                                      "Calculated clean production per shift", UnitSuffix::ProductionMass};
-  LabelledBox txtCleanProduction{*this, "txtCleanProduction", TextKind::Number, "Input: Clean production per shift",
-                                 UnitSuffix::ProductionMass};
+  CostBox txtCleanProduction{*this, "txtCleanProduction", CostRowOf(&CostInputs::CleanProduction)};
   CheckBox chkProduction{*this, "chkProduction", UseCalculated};
-  LabelledBox txtShiftsWeek{*this, "txtShiftsWeek", TextKind::Number, "Production shifts/week"};
-  LabelledBox txtWeeksYear{*this, "txtWeeksYear", TextKind::Number, "Production weeks/year"};
+  CostBox txtShiftsWeek{*this, "txtShiftsWeek", CostRowOf(&CostInputs::ShiftsWeek)};
+  CostBox txtWeeksYear{*this, "txtWeeksYear", CostRowOf(&CostInputs::WeeksYear)};
 
   // commands
   Button Command2{*this, "Command2", "OK"};

@@ -1,8 +1,7 @@
 // The inputs of a design, each with where it comes from.
-#include <array>
-
 #include "core/shared_texts.h"
 #include "engine/estimator.h"
+#include "reports/cost_input_rows.h"
 #include "reports/input_rows.h"
 #include "sheet/sheet_parts.h"
 
@@ -10,36 +9,6 @@ namespace orby {
 namespace {
 
 const std::string Typed = "typed";
-
-struct CostInputRow {
-  std::string_view Label;
-  Single CostInputs::*Value;
-  UnitSuffix Unit = UnitSuffix::None;
-};
-
-constexpr auto CostRows = std::to_array<CostInputRow>({
-    {"Bolt cost ($/bolt)", &CostInputs::BoltCost},
-    {"Plate cost ($/plate)", &CostInputs::PlateCost},
-    {"Resin cost ($/bolt)", &CostInputs::ResinCost},
-    {"Bit cost ($/shift)", &CostInputs::BitCost},
-    {"Header cost ($/bolt)", &CostInputs::HeaderCost},
-    {"Strap/mesh cost ($/row)", &CostInputs::StrapCost},
-    {"Number of operators/shift", &CostInputs::NOperShift},
-    {"Total labor cost ($/hr)", &CostInputs::TotalLabor},
-    {"Hours/shift", &CostInputs::HoursShift},
-    {"Preventative maintenance (labor hrs/day)", &CostInputs::MaintainHrs},
-    {"Maintenance supply cost ($/yr)", &CostInputs::MaintainCost},
-    {"Transportation of supplies ($/shift)", &CostInputs::TranspCost},
-    {"Capital cost for machine ($)", &CostInputs::CapitalCost},
-    {"Years to depreciate", &CostInputs::YearsDepr},
-    {"Number of bolts installed per shift", &CostInputs::NboltsShift},
-    {"Number of bolts per row", &CostInputs::NBoltsRow},
-    {"Spacing between rows", &CostInputs::RowSpacing, UnitSuffix::Length},
-    {"Clean production advance rate", &CostInputs::AdvanceRate, UnitSuffix::ProductionRate},
-    {"Input: Clean production per shift", &CostInputs::CleanProduction, UnitSuffix::ProductionMass},
-    {"Production shifts/week", &CostInputs::ShiftsWeek},
-    {"Production weeks/year", &CostInputs::WeeksYear},
-});
 
 std::string SourceOf(ValueSource mode) { return mode == ValueSource::Standard ? "list of standard values" : Typed; }
 
@@ -54,7 +23,7 @@ class InputSheet {
     Secondary("inputs-intersections", "Inputs: secondary support of intersections", IntersectionEcho,
               design_.Intersections);
     SheetWriter cost(sheet_, "inputs-cost", "Inputs: cost of bolting");
-    for (const CostInputRow& row : CostRows) {
+    for (const CostInputRow& row : CostInputRows) {
       cost.Input(row.Label, NumberText(design_.Cost.*row.Value), row.Unit, Typed);
     }
   }
