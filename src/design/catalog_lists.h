@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,13 @@ struct CatalogList {
 
   std::size_t Count() const { return static_cast<std::size_t>(HighestIndex + 1); }
   Single operator[](std::size_t index) const { return Values[index]; }
+  // Returns the index of the first entry that is exactly equal.
+  std::optional<std::size_t> FirstPlaceOf(double value) const {
+    for (std::size_t i = 0; i < Count(); ++i) {
+      if (Values[i] == value) return i;
+    }
+    return std::nullopt;
+  }
   // Sets an entry and extends the list if needed. The index of the last entry in use stays the same.
   void Set(std::size_t index, Single value) {
     if (index >= Values.size()) Values.resize(index + 1);

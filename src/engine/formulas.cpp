@@ -19,19 +19,8 @@ double AreaTimesGrade(Ksi grade, Inches diameter) { return grade.Value * Pi / 4 
 double Ultimate(double yield) { return 0.9 * yield + 35; }
 double Yield(double ultimate) { return (ultimate - 35) / 0.9; }
 
-constexpr int NotFound = -1;
-
-int FirstMatch(const CatalogList& list, Single value) {
-  for (std::size_t i = 0; i < list.Count(); ++i) {
-    if (list[i] == value) return static_cast<int>(i);
-  }
-  return NotFound;
-}
-
 // Returns the entry at the index, or 0 beyond the end of the list.
-Single Paired(const CatalogList& list, int index) {
-  return index > list.HighestIndex ? 0 : list[static_cast<std::size_t>(index)];
-}
+Single Paired(const CatalogList& list, std::size_t index) { return index < list.Count() ? list[index] : 0; }
 
 double Density(double length, double count, double capacity, double spacing, double width) {
   return Divide(length * count * capacity, spacing * width);
@@ -83,19 +72,19 @@ Feet SuggestedBoltLength(const WorkingSite& site) {
 }
 
 Ksi UltimateFromYieldKsi(Ksi grade, const Catalogs& catalogs) {
-  const int index = FirstMatch(catalogs.DefaultBoltGradeArrayENG, grade.Value);
-  return Ksi(index == NotFound ? ToSingle(Ultimate(grade.Value)) : Paired(catalogs.DefaultBoltUTSArrayENG, index));
+  const auto index = catalogs.DefaultBoltGradeArrayENG.FirstPlaceOf(grade.Value);
+  return Ksi(index ? Paired(catalogs.DefaultBoltUTSArrayENG, *index) : ToSingle(Ultimate(grade.Value)));
 }
 
 Ksi YieldFromUltimateKsi(Ksi grade, const Catalogs& catalogs) {
-  const int index = FirstMatch(catalogs.DefaultBoltUTSArrayENG, grade.Value);
-  return Ksi(index == NotFound ? ToSingle(Yield(grade.Value)) : Paired(catalogs.DefaultBoltGradeArrayENG, index));
+  const auto index = catalogs.DefaultBoltUTSArrayENG.FirstPlaceOf(grade.Value);
+  return Ksi(index ? Paired(catalogs.DefaultBoltGradeArrayENG, *index) : ToSingle(Yield(grade.Value)));
 }
 
 MPa YieldFromUltimateMPa(MPa grade, const Catalogs& catalogs) {
-  const int index = FirstMatch(catalogs.DefaultBoltUTSArrayMET, grade.Value);
-  return MPa(index == NotFound ? ToSingle(Yield(grade.Value / MPaPerKsi) * MPaPerKsi)
-                               : Paired(catalogs.DefaultBoltGradeArrayMET, index));
+  const auto index = catalogs.DefaultBoltUTSArrayMET.FirstPlaceOf(grade.Value);
+  return MPa(index ? Paired(catalogs.DefaultBoltGradeArrayMET, *index)
+                   : ToSingle(Yield(grade.Value / MPaPerKsi) * MPaPerKsi));
 }
 
 Single CapacityFromGrade(Ksi grade, Inches diameter) { return ToSingle(AreaTimesGrade(grade, diameter)); }
@@ -197,7 +186,7 @@ Single CableCapacityFromDiameter(Single diameter, UnitSystem units, const Catalo
   const CatalogList& capacities = metric ? catalogs.DefaultCableCapArrayMET : catalogs.DefaultCableCapArrayENG;
   Single capacity = 0;
   for (std::size_t i = 0; i < diameters.Count(); ++i) {
-    if (diameters[i] == diameter) capacity = Paired(capacities, static_cast<int>(i));
+    if (diameters[i] == diameter) capacity = Paired(capacities, i);
   }
   return capacity;
 }

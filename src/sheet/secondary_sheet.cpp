@@ -261,7 +261,7 @@ class SecondarySheet {
     if (!isMetric_) return YieldStep(writer, Bolt, grade, context_.catalogs);
     const auto typed = static_cast<Single>(*grade.Value);
     const std::string title = "Yield strength of " + Bolt;
-    if (IsListed(context_.catalogs.DefaultBoltUTSArrayMET, typed)) {
+    if (context_.catalogs.DefaultBoltUTSArrayMET.FirstPlaceOf(typed)) {
       return writer.Found(title, {"G_y", "yield strength", SheetUnit::StressInMPa},
                           YieldFromUltimateMPa(MPa(typed), context_.catalogs).Value,
                           grade.Text + " MPa is in the list of ultimate strengths. This is its pair.");

@@ -37,19 +37,13 @@ constexpr StrengthRule ToUltimate{.List = &Catalogs::DefaultBoltGradeArrayENG,
 SheetNumber OtherStrength(SheetWriter& writer, const StrengthRule& rule, const std::string& bolt,
                           const SheetNumber& grade, const Catalogs& catalogs) {
   const std::string title = std::string(rule.Title) + bolt;
-  if (!grade.Value || !IsListed(catalogs.*rule.List, *grade.Value)) return writer.Step(rule.Relation, title, {grade});
+  if (!grade.Value || !(catalogs.*rule.List).FirstPlaceOf(*grade.Value))
+    return writer.Step(rule.Relation, title, {grade});
   const Single paired = rule.Other(Ksi(static_cast<Single>(*grade.Value)), catalogs).Value;
   return writer.Found(title, rule.Symbol, paired, grade.Text + std::string(rule.Note));
 }
 
 }  // namespace
-
-bool IsListed(const CatalogList& list, double value) {
-  for (std::size_t i = 0; i < list.Count(); ++i) {
-    if (list[i] == value) return true;
-  }
-  return false;
-}
 
 SheetNumber InFeetStep(SheetWriter& writer, const std::string& name, Single length) {
   const SheetNumber typed = InputNumber(length);

@@ -25,9 +25,6 @@ struct WorkingBoltNumbers {
 SheetNumber InFeetStep(SheetWriter& writer, const std::string& name, Single length);
 WorkingBoltNumbers InInchesAndKsi(SheetWriter& writer, const std::string& bolt, const BoltSelection& set);
 
-// Returns true if the list has exactly this number.
-bool IsListed(const CatalogList& list, double value);
-
 // Return the other strength of a grade in ksi: the pair of the catalog, or a step of the relation.
 SheetNumber YieldStep(SheetWriter& writer, const std::string& bolt, const SheetNumber& grade, const Catalogs& catalogs);
 SheetNumber UltimateStep(SheetWriter& writer, const std::string& bolt, const SheetNumber& grade,

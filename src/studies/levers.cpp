@@ -9,18 +9,10 @@
 namespace orby {
 namespace {
 
-// Returns the index of the value, or nothing if it is not in the list.
-std::optional<std::size_t> PlaceIn(const CatalogList& list, Single value) {
-  for (std::size_t i = 0; i < list.Count(); ++i) {
-    if (list[i] == value) return i;
-  }
-  return std::nullopt;
-}
-
 std::optional<std::size_t> ItemOf(const CableSelection& cable, UnitSystem units, const Catalogs& catalogs) {
-  if (cable.CapMode == CapacityMode::ByDiameter) return PlaceIn(OfferedCableDiameters(catalogs, units), cable.Diam);
+  if (cable.CapMode == CapacityMode::ByDiameter) return OfferedCableDiameters(catalogs, units).FirstPlaceOf(cable.Diam);
   if (cable.Capacity != ValueSource::Standard) return std::nullopt;
-  return PlaceIn(OfferedCableCapacities(catalogs, units), cable.CapacityStd);
+  return OfferedCableCapacities(catalogs, units).FirstPlaceOf(cable.CapacityStd);
 }
 
 // A new project has a name of the catalog with another capacity.

@@ -22,5 +22,14 @@ TEST(CatalogListOfNumbers, GrowsToAnEntryThatIsSetAndKeepsItsLastIndex) {
   EXPECT_EQ(diameters[0], 20);
 }
 
+TEST(CatalogListOfNumbers, FindsTheFirstEqualEntryInUse) {
+  CatalogList grades{2, {40, 75, 75, 100}};
+
+  EXPECT_EQ(grades.FirstPlaceOf(75), 1U);
+  EXPECT_EQ(grades.FirstPlaceOf(74.999), std::nullopt);
+  EXPECT_EQ(grades.FirstPlaceOf(100), std::nullopt);
+  EXPECT_EQ(CatalogList().FirstPlaceOf(0), std::nullopt);
+}
+
 }  // namespace
 }  // namespace orby::test
