@@ -1,5 +1,6 @@
 #include "drawings/scene_svg.h"
 
+#include "base/markup_text.h"
 #include "base/number_text.h"
 #include "drawings/inks.h"
 
@@ -72,21 +73,6 @@ std::string OutlineText(const SceneOutline& outline) {
 }
 
 // XML has no other way to write these characters, and none at all to write control characters.
-std::string Escaped(std::string_view text) {
-  std::string escaped;
-  for (const char letter : text) {
-    switch (letter) {
-      case '&': escaped += "&amp;"; break;
-      case '<': escaped += "&lt;"; break;
-      case '>': escaped += "&gt;"; break;
-      case '"': escaped += "&quot;"; break;
-      default:
-        if (static_cast<unsigned char>(letter) >= ' ') escaped += letter;
-    }
-  }
-  return escaped;
-}
-
 std::string LabelText(const SceneLabel& label) {
   constexpr std::string_view Anchors[] = {"start", "middle", "end"};
   std::string text = "<text" + Attribute("x", Number(label.At.X)) + Attribute("y", Number(label.At.Y));
@@ -96,7 +82,7 @@ std::string LabelText(const SceneLabel& label) {
   if (label.Turn != 0) {
     text += Attribute("transform", "rotate(" + Number(label.Turn) + " " + Point(label.At) + ")");
   }
-  return text + ">" + Escaped(label.Text) + "</text>\n";
+  return text + ">" + EscapedMarkup(label.Text) + "</text>\n";
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "base/attempt.h"
+#include "base/markup_text.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "machine/file_types.h"
@@ -37,10 +38,6 @@ std::string Escaped(std::string_view text, const Escape (&escapes)[count]) {
     }
   }
   return escaped;
-}
-
-std::string XmlText(std::string_view text) {
-  return Escaped(text, {{'&', "&amp;"}, {'<', "&lt;"}, {'>', "&gt;"}, {'"', "&quot;"}, {'\'', "&apos;"}});
 }
 
 // Returns an argument of a command line in quotes. The command line is itself the value of a key, so each backslash is
@@ -81,8 +78,9 @@ class FileType {
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
            "<mime-info xmlns=\"http://www.freedesktop.org/standards/shared-mime-info\">\n"
            "  <mime-type type=\"" +
-           Name() + "\">\n    <comment>" + XmlText(UpperCase(extension_) + "_File") +
-           "</comment>\n    <glob pattern=\"" + XmlText("*." + extension_) + "\"/>\n  </mime-type>\n</mime-info>\n";
+           Name() + "\">\n    <comment>" + EscapedMarkup(UpperCase(extension_) + "_File") +
+           "</comment>\n    <glob pattern=\"" + EscapedMarkup("*." + extension_) +
+           "\"/>\n  </mime-type>\n</mime-info>\n";
   }
 
  private:

@@ -1,15 +1,10 @@
-// Texts in HTML.
+// Elements and units in HTML.
 #pragma once
 
 #include <string>
 #include <string_view>
 
 namespace orby {
-
-// Appends the text, in which nothing is taken for markup, also between quotes. Control characters become blanks.
-void AppendEscaped(std::string& html, std::string_view text);
-
-std::string EscapedHtml(std::string_view text);
 
 // Returns an element with a text: <th scope="col">Input</th>. `start` is the name with its attributes.
 std::string Element(std::string_view start, std::string_view text);

@@ -1,5 +1,6 @@
 #include "sheet/sheet_html.h"
 
+#include "base/markup_text.h"
 #include "sheet/formula_text.h"
 #include "sheet/html_text.h"
 #include "sheet/judgement_names.h"
@@ -56,7 +57,7 @@ class HtmlOutput {
     TableHead("inputs", {"Input", "Value", "Source"});
     for (const SheetInput* input : inputs) {
       html_.append("<tr>").append(Element("th scope=\"row\"", input->Label)).append("<td class=\"value\">");
-      AppendEscaped(html_, WithUnit(input->Text, PartsOfUnit(input->Unit).Name));
+      AppendEscapedMarkup(html_, WithUnit(input->Text, PartsOfUnit(input->Unit).Name));
       const std::string_view exponent = PartsOfUnit(input->Unit).Exponent;
       if (!exponent.empty()) html_ += Element("sup", exponent);
       html_.append("</td>").append(Element("td class=\"source\"", input->Source)).append("</tr>\n");
@@ -70,7 +71,7 @@ class HtmlOutput {
     Formulas(step);
     if (!step.Value) {
       html_.append("<p class=\"failure\"><math>").append(LetterMath(step.Letter)).append("</math> ");
-      AppendEscaped(html_, FailureText(step));
+      AppendEscapedMarkup(html_, FailureText(step));
       Line("</p>");
     }
     const std::vector<std::string> details = DetailsOf(step);
@@ -111,7 +112,7 @@ class HtmlOutput {
 
   void Heading(std::string_view level, const std::string& number, const std::string& title) {
     html_.append("<").append(level).append(">").append(Element("span class=\"number\"", number)).append(" ");
-    AppendEscaped(html_, title);
+    AppendEscapedMarkup(html_, title);
     html_.append("</").append(level).append(">\n");
   }
 

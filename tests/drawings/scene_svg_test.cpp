@@ -46,10 +46,10 @@ TEST(SceneSvg, WritesACircleAsTwoArcs) {
   EXPECT_THAT(SceneSvg(scene), testing::HasSubstr("d=\"M14 8A4 4 0 0 1 6 8A4 4 0 0 1 14 8Z\""));
 }
 
-TEST(SceneSvg, LeavesOutCharactersThatXmlCannotHold) {
+TEST(SceneSvg, WritesBlanksForCharactersThatXmlCannotHold) {
   Scene scene{10, 10, {}, {{.Text = "a\x01\tb", .At = {}}}};
 
-  EXPECT_THAT(SceneSvg(scene), testing::HasSubstr(">ab</text>"));
+  EXPECT_THAT(SceneSvg(scene), testing::HasSubstr(">a  b</text>"));
 }
 
 TEST(SceneSvg, WritesEveryOutlineOfAPicture) {

@@ -4,6 +4,7 @@
 #include <array>
 #include <stdexcept>
 
+#include "base/markup_text.h"
 #include "sheet/formula_text.h"
 #include "sheet/html_text.h"
 
@@ -45,7 +46,7 @@ class FormulaReader {
     } else if (const std::size_t length = LetterLength(); length > 0) {
       Word(Take(length));
     } else {
-      AppendEscaped(html_, Take(1));
+      AppendEscapedMarkup(html_, Take(1));
     }
   }
 
@@ -93,7 +94,7 @@ std::string UnitsHtml(SheetUnit unit, const std::optional<UnitSystem>& onlyIn) {
 
 std::string SymbolLine(const SymbolMeaning& symbol, const std::optional<UnitSystem>& onlyIn) {
   const std::string unit = UnitsHtml(symbol.Unit, onlyIn);
-  return SymbolHtml(symbol.Letter) + ": " + EscapedHtml(symbol.Meaning) + (unit.empty() ? "" : ", " + unit);
+  return SymbolHtml(symbol.Letter) + ": " + EscapedMarkup(symbol.Meaning) + (unit.empty() ? "" : ", " + unit);
 }
 
 }  // namespace
@@ -105,7 +106,7 @@ std::string HelpBlock(const Relation& relation) {
                      FormulaReader(FormulaText(relation.Formula)).Html() + "</p>\n<p>" +
                      SymbolLine(relation.Result, relation.OnlyIn);
   for (const SymbolMeaning& symbol : relation.Symbols) html += "<br>" + SymbolLine(symbol, relation.OnlyIn);
-  if (!relation.Validity.empty()) html += "<br>Valid for: " + EscapedHtml(relation.Validity);
+  if (!relation.Validity.empty()) html += "<br>Valid for: " + EscapedMarkup(relation.Validity);
   return html + "</p>\n";
 }
 
