@@ -5,6 +5,7 @@
 #include "base/text.h"
 #include "core/program.h"
 #include "core/version.h"
+#include "sheet/help_titles.h"
 
 namespace orby {
 namespace {
@@ -106,7 +107,7 @@ std::vector<std::string> DetailsOf(const SheetStep& step) {
   details.insert(details.end(), step.Notes.begin(), step.Notes.end());
   if (step.Law == nullptr) return details;
   if (!step.Law->Validity.empty()) details.push_back("Valid for: " + std::string(step.Law->Validity));
-  if (!step.Law->HelpPage.empty()) details.push_back("Help: " + std::string(step.Law->HelpPage));
+  if (!step.Law->HelpPage.empty()) details.push_back("Help: " + std::string(HelpTitle(step.Law->HelpPage)));
   return details;
 }
 

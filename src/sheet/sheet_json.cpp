@@ -5,6 +5,7 @@
 #include "core/program.h"
 #include "core/version.h"
 #include "sheet/formula_text.h"
+#include "sheet/help_titles.h"
 #include "sheet/json_writer.h"
 #include "sheet/judgement_names.h"
 #include "sheet/operation_names.h"
@@ -157,7 +158,10 @@ class JsonOutput {
     Formula(step.Law->Formula);
     json_.Flag("roundedToSingle", step.Law->IsRounded);
     if (!step.Law->Validity.empty()) json_.Text("validFor", step.Law->Validity);
-    if (!step.Law->HelpPage.empty()) json_.Text("help", step.Law->HelpPage);
+    if (!step.Law->HelpPage.empty()) {
+      json_.Text("help", step.Law->HelpPage);
+      json_.Text("helpTitle", HelpTitle(step.Law->HelpPage));
+    }
     json_.Name("numbers");
     json_.OpenArray();
     for (const InsertedNumber& number : step.Numbers) {

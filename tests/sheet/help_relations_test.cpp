@@ -8,6 +8,7 @@
 #include <set>
 #include <sstream>
 
+#include "sheet/help_titles.h"
 #include "sheet/sheets.h"
 
 namespace orby::test {
@@ -56,6 +57,15 @@ TEST(TheHelp, HasNoBlockWithoutARelation) {
   }
 
   EXPECT_EQ(blocks, Relations().size());
+}
+
+TEST(TheTitlesOfTheHelp, AreThoseOfItsPages) {
+  for (const Relation& relation : Relations()) {
+    EXPECT_THAT(HelpPageText(PlaceInHelp(relation).Page),
+                HasSubstr("<h1>" + std::string(HelpTitle(relation.HelpPage)) + "</h1>"))
+        << relation.Key;
+  }
+  EXPECT_THROW(static_cast<void>(HelpTitle("glossary.html")), std::logic_error);
 }
 
 TEST(ABlockOfTheHelp, ShowsFormulaSymbolsAndUnitsOfBothSystems) {
