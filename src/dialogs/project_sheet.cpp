@@ -5,6 +5,7 @@
 #include "core/description.h"
 #include "dialogs/shown_design.h"
 #include "files/kept_project.h"
+#include "files/new_project.h"
 #include "sheet/pdf_bookmarks.h"
 
 namespace orby {
@@ -22,7 +23,9 @@ DesignSheet SheetOfProject(const Program& program) {
   const Catalogs& catalogs = program.session.catalogs;
   const Design shown = AsOpened(project, catalogs);
   const Design previewed = AsPreviewed(shown);
-  return CalculationSheet({.Shown = shown, .Previewed = previewed},
+  Design fresh = shown;
+  FillNewValues(fresh, program.session.defaults, catalogs);
+  return CalculationSheet({.Shown = shown, .Previewed = previewed, .New = fresh},
                           {.File = project.CurrentFile,
                            .Title = TitleToShow(project),
                            .Description = project.ProjectDescription,

@@ -107,37 +107,37 @@ void FillStartValues(Design& design) {
 
 // Does not change the number of bolts and their spacing. Resets the table row, so that nothing of the previous
 // project's row remains.
-void FillBolts(const Program& program, BoltSelection& set) {
-  const DesignDefaults& defaults = program.session.defaults;
-  set.Length = defaults.*BoltLength.In(program.project.WorkParms.Units);
+void FillBolts(const Design& design, const DesignDefaults& defaults, BoltSelection& set) {
+  set.Length = defaults.*BoltLength.In(design.Units);
   set.Options = BoltSource::Table;
   set.TableRow = 0;
   set.TableDiameter = 0;
   set.TableGrade = 0;
   set.Desc.clear();
   set.DiameterMode = ValueSource::Standard;
-  set.DiameterStd = set.DiameterManual = defaults.*BoltDiameter.In(program.project.WorkParms.Units);
+  set.DiameterStd = set.DiameterManual = defaults.*BoltDiameter.In(design.Units);
   set.GradeMode = ValueSource::Standard;
-  const DefaultPair& grade = program.project.WorkParms.Basis == StrengthBasis::Ultimate ? UltimateGrade : YieldGrade;
-  set.GradeStd = set.GradeManual = defaults.*grade.In(program.project.WorkParms.Units);
+  const DefaultPair& grade = design.Basis == StrengthBasis::Ultimate ? UltimateGrade : YieldGrade;
+  set.GradeStd = set.GradeManual = defaults.*grade.In(design.Units);
 }
 
-void FillConfiguredValues(Program& program) {
-  const DesignDefaults& defaults = program.session.defaults;
-  Design& design = program.project.WorkParms;
-  for (const auto& [field, value] : ConfiguredValues)
-    field.In(design) = defaults.*value.In(program.project.WorkParms.Units);
-  for (BoltSelection* set : design.BoltSets()) FillBolts(program, *set);
+void FillConfiguredValues(Design& design, const DesignDefaults& defaults, const StandingSupports& supports) {
+  for (const auto& [field, value] : ConfiguredValues) field.In(design) = defaults.*value.In(design.Units);
+  for (BoltSelection* set : design.BoltSets()) FillBolts(design, defaults, *set);
   design.Place.CMRR = defaults.DefaultCMRR;
   design.Primary.BoltsperRow = defaults.DefaultNumberBoltsPerRow;
 
-  const StandingSupports& supports = program.session.catalogs.StandSupports;
   const bool hasSupports = supports.HighestIndex >= 0 && !supports.DefaultStandSupportType.empty();
   design.Entries.Standing.TypeName = hasSupports ? supports.DefaultStandSupportType.front() : std::string();
   design.Intersections.Standing.TypeName = design.Entries.Standing.TypeName;
 }
 
 }  // namespace
+
+void FillNewValues(Design& design, const DesignDefaults& defaults, const Catalogs& catalogs) {
+  FillStartValues(design);
+  FillConfiguredValues(design, defaults, catalogs.StandSupports);
+}
 
 void FileNew(Program& program, Keeping keeping) {
   if (keeping == Keeping::Nothing) {
@@ -155,8 +155,7 @@ void FileNew(Program& program, Keeping keeping) {
   // The first page, the inputs, is rebuilt each time it is printed.
   std::for_each(program.session.OutBuf.begin() + 1, program.session.OutBuf.end(),
                 [](std::string& page) { page.clear(); });
-  FillStartValues(program.project.WorkParms);
-  FillConfiguredValues(program);
+  FillNewValues(program.project.WorkParms, program.session.defaults, program.session.catalogs);
   program.project.ProjectDescription.clear();
   program.project.ProjectTitle.clear();
   AddHistoryLine(program, "File initialized. Use Edit-Project Parameters to enter data");

@@ -5,6 +5,10 @@
 
 namespace orby {
 
+// Sets the numbers and choices of a design to those of a new one in its unit system and strength basis. Does not change
+// the choice of the estimator, the table choice and the computed fields.
+void FillNewValues(Design& design, const DesignDefaults& defaults, const Catalogs& catalogs);
+
 // What a new design keeps of the previous project. The units are the unit system and the strength basis.
 enum class Keeping { Nothing, Name, NameAndUnits };
 

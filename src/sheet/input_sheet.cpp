@@ -1,6 +1,5 @@
 // The inputs of a design, each with where it comes from.
 #include "core/shared_texts.h"
-#include "engine/estimator.h"
 #include "reports/cost_input_rows.h"
 #include "reports/input_rows.h"
 #include "sheet/sheet_parts.h"
@@ -9,51 +8,58 @@ namespace orby {
 namespace {
 
 const std::string Typed = "typed";
+const std::string Default = "default of a new project";
+
+// Returns the source of a number that can only be typed.
+std::string TypedOrDefault(Single value, Single ofNewProject) { return value == ofNewProject ? Default : Typed; }
 
 std::string SourceOf(ValueSource mode) { return mode == ValueSource::Standard ? "list of standard values" : Typed; }
 
 class InputSheet {
  public:
-  InputSheet(DesignSheet& sheet, const SheetContext& context) : sheet_(sheet), design_(context.Designs.Shown) {}
+  InputSheet(DesignSheet& sheet, const SheetContext& context)
+      : sheet_(sheet), design_(context.Designs.Shown), new_(context.Designs.New) {}
 
   void Write() {
     Site();
     Primary();
-    Secondary("inputs-entries", "Inputs: secondary support of entries", EntryEcho, design_.Entries);
+    Secondary("inputs-entries", "Inputs: secondary support of entries", EntryEcho, &Design::Entries);
     Secondary("inputs-intersections", "Inputs: secondary support of intersections", IntersectionEcho,
-              design_.Intersections);
+              &Design::Intersections);
     SheetWriter cost(sheet_, "inputs-cost", "Inputs: cost of bolting");
     for (const CostInputRow& row : CostInputRows) {
-      cost.Input(row.Label, NumberText(design_.Cost.*row.Value), row.Unit, Typed);
+      cost.Input(row.Label, NumberText(design_.Cost.*row.Value), row.Unit,
+                 TypedOrDefault(design_.Cost.*row.Value, new_.Cost.*row.Value));
     }
   }
 
  private:
   template <class Rows, class Source>
-  static void Numbers(SheetWriter& writer, const Rows& rows, const Source& source) {
-    for (const auto& [label, value, unit] : rows) writer.Input(label, NumberText(value(source)), unit, Typed);
+  static void Numbers(SheetWriter& writer, const Rows& rows, const Source& source, const Source& ofNewProject) {
+    for (const auto& [label, value, unit] : rows) {
+      writer.Input(label, NumberText(value(source)), unit, TypedOrDefault(value(source), value(ofNewProject)));
+    }
   }
 
+  // A project does not store whether the rating was changed after its region and rock type were chosen.
   std::string RatingSource() const {
     if (design_.Place.CMRRManual == 1) return Typed;
-    const Integer region = design_.Place.CMRRRegionIndex;
-    if (region < 0 || static_cast<std::size_t>(region) >= RegionNames.size()) return "estimator";
-    std::string source = "estimator: " + std::string(RegionNames[static_cast<std::size_t>(region)]);
-    const Integer rockType = design_.Place.CMRRRockTypeIndex;
-    if (rockType >= 0) source += ", " + std::string(RockTypeName(region, rockType));
-    return source;
+    if (const auto estimate = EstimateOf(design_.Place)) {
+      return "estimator: " + std::string(estimate->Region) + ", " + std::string(estimate->Rock.Name);
+    }
+    return TypedOrDefault(design_.Place.CMRR, new_.Place.CMRR);
   }
 
   void Site() {
     SheetWriter writer(sheet_, "inputs-site", "Inputs: geology and mining");
     writer.Input("CMRR", NumberText(design_.Place.CMRR), UnitSuffix::None, RatingSource());
-    Numbers(writer, SiteRows, design_);
-    Numbers(writer, MiningRows, design_);
+    Numbers(writer, SiteRows, design_, new_);
+    Numbers(writer, MiningRows, design_, new_);
   }
 
   void Primary() {
     SheetWriter writer(sheet_, "inputs-primary", "Inputs: primary roof bolts");
-    Numbers(writer, PrimaryRows, design_);
+    Numbers(writer, PrimaryRows, design_, new_);
     Bolts(writer, design_.Primary);
   }
 
@@ -68,8 +74,9 @@ class InputSheet {
                  isManual ? SourceOf(set.GradeMode) : row);
   }
 
-  void Cables(SheetWriter& writer, const CableSelection& cable) const {
-    writer.Input("Cable Bolt Length", NumberText(cable.Length), UnitSuffix::Length, Typed);
+  void Cables(SheetWriter& writer, const CableSelection& cable, const CableSelection& ofNewProject) const {
+    writer.Input("Cable Bolt Length", NumberText(cable.Length), UnitSuffix::Length,
+                 TypedOrDefault(cable.Length, ofNewProject.Length));
     if (cable.CapMode == CapacityMode::ByDiameter) {
       writer.Input("Cable Bolt Diameter", NumberText(cable.Diam), UnitSuffix::Diameter, "list of cables");
       return;
@@ -79,29 +86,33 @@ class InputSheet {
                  UnitSuffix::Force, SourceOf(cable.Capacity));
   }
 
-  void Secondary(std::string_view key, std::string title, const SupportEcho& echo, const SecondarySupport& support) {
+  void Secondary(std::string_view key, std::string title, const SupportEcho& echo, SecondarySupport Design::*opening) {
     SheetWriter writer(sheet_, key, std::move(title));
-    Numbers(writer, echo.Rock, support);
+    const SecondarySupport& support = design_.*opening;
+    const SecondarySupport& ofNewProject = new_.*opening;
+    const auto numbers = [&](const SupportRows& rows) { Numbers(writer, rows, support, ofNewProject); };
+    numbers(echo.Rock);
     if (support.Cable.Use == 1) {
-      Cables(writer, support.Cable);
-      Numbers(writer, echo.CableLayout, support);
+      Cables(writer, support.Cable, ofNewProject.Cable);
+      numbers(echo.CableLayout);
     }
     if (support.Truss.Use == 1) {
-      Numbers(writer, TrussRows, support);
-      Numbers(writer, echo.TrussLayout, support);
+      numbers(TrussRows);
+      numbers(echo.TrussLayout);
     }
     if (support.Bolt.Use == 1) {
-      Numbers(writer, echo.RoofBolts, support);
+      numbers(echo.RoofBolts);
       Bolts(writer, support.Bolt);
     }
     if (support.Standing.Use != 1) return;
     writer.Input("Standing Support Type", support.Standing.TypeName, UnitSuffix::None,
                  SourceOf(support.Standing.TypeMode));
-    Numbers(writer, echo.StandingSupports, support);
+    numbers(echo.StandingSupports);
   }
 
   DesignSheet& sheet_;
   const Design& design_;
+  const Design& new_;
 };
 
 }  // namespace

@@ -13,6 +13,7 @@ DesignSheet CalculationSheet(const SheetDesigns& designs, const SheetProject& pr
                        .Judged = {}};
   context.Judged = Judge(designs.Shown, context.Live);
   AddInputs(sheet, context);
+  AddRoofRating(sheet, context);
   AddPrimarySupport(sheet, context);
   AddEntrySupport(sheet, context);
   AddIntersectionSupport(sheet, context);

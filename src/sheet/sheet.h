@@ -95,6 +95,7 @@ struct DesignSheet {
 struct SheetDesigns {
   const Design& Shown;      // as the parameters dialog opens on it
   const Design& Previewed;  // as Results takes it from there
+  const Design& New;        // of a new project in the same units; an input that equals its own may be a default
 };
 
 // Returns the sheet. What cannot be computed stands in its steps; never throws a RuntimeError for it.

@@ -1,6 +1,9 @@
 // The parts of a sheet, each with sections of its own.
 #pragma once
 
+#include <span>
+
+#include "engine/estimator.h"
 #include "sheet/sheet_writer.h"
 
 namespace orby {
@@ -30,6 +33,17 @@ SheetNumber YieldStep(SheetWriter& writer, const std::string& bolt, const SheetN
 SheetNumber UltimateStep(SheetWriter& writer, const std::string& bolt, const SheetNumber& grade,
                          const Catalogs& catalogs);
 
+// A row of the estimator's table of a region.
+struct RatingEstimate {
+  std::string_view Region;
+  RockType Rock;
+  std::span<const RockType> Rocks;  // of the region, those that give a rating
+};
+
+// Returns the row that the roof rating of a design comes from: that of its region and rock type, if the rating is that
+// of the row and is not set manually.
+std::optional<RatingEstimate> EstimateOf(const Site& place);
+
 // Adds the judgements of these aspects in an opening.
 void AddJudgements(SheetWriter& writer, const Verdicts& judged, Opening where, std::initializer_list<Aspect> aspects);
 
@@ -39,6 +53,8 @@ void StandardCheck(SheetWriter& writer, const std::string& bolt, const WorkingBo
 // ---- parts ---------------------------------------------------------------------------------------------------------
 
 void AddInputs(DesignSheet& sheet, const SheetContext& context);
+// Adds a section if the roof rating comes from the estimator.
+void AddRoofRating(DesignSheet& sheet, const SheetContext& context);
 void AddPrimarySupport(DesignSheet& sheet, const SheetContext& context);
 void AddEntrySupport(DesignSheet& sheet, const SheetContext& context);
 void AddIntersectionSupport(DesignSheet& sheet, const SheetContext& context);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "files/new_project.h"
+
 namespace orby::test {
 
 Design DesignsOfSheets::Next() {
@@ -40,10 +42,16 @@ Design DesignsOfSheets::Next() {
   return design;
 }
 
+Design NewDesignLike(Design design) {
+  FillNewValues(design, DesignDefaults(), Lists());
+  return design;
+}
+
 SheetOf::SheetOf(const Design& typed)
     : Shown(AsShown(typed, OfferedBolts(Lists(), typed.Units), Lists())),
       Previewed(AsPreviewed(Shown)),
-      Made(CalculationSheet({Shown, Previewed}, {"/designs/panel3.orb", "Panel 3", {}, {}}, Lists())) {}
+      Made(CalculationSheet({Shown, Previewed, NewDesignLike(Shown)}, {"/designs/panel3.orb", "Panel 3", {}, {}},
+                            Lists())) {}
 
 std::vector<const SheetStep*> SheetOf::Steps() const {
   std::vector<const SheetStep*> steps;

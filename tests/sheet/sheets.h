@@ -28,6 +28,9 @@ class DesignsOfSheets {
   std::mt19937 numbers_;
 };
 
+// Returns the design of a new project in the same units.
+Design NewDesignLike(Design design);
+
 // A design as the dialog shows it, the one that its preview makes, and the sheet of both.
 struct SheetOf {
   explicit SheetOf(const Design& typed);
