@@ -4,6 +4,7 @@
 
 #include "base/number_text.h"
 #include "sheet/formula_text.h"
+#include "sheet/html_text.h"
 
 namespace orby {
 namespace {
@@ -22,6 +23,24 @@ SceneStroke Bar(double size) { return {.Colour = Ink::Text, .Width = size * BarW
 
 using PathKind = PathStep::Kind;
 
+void AddTo(FormulaBox& box, FormulaBox part) {
+  std::ranges::move(part.Labels, std::back_inserter(box.Labels));
+  std::ranges::move(part.Lines, std::back_inserter(box.Lines));
+}
+
+// Returns a box with an exponent at its upper right.
+FormulaBox Raised(FormulaBox box, FormulaBox exponent, double size) {
+  const double raise = std::max(box.Ascent - exponent.Ascent / 2, size * 0.35);
+  FormulaBox whole;
+  whole.Width = box.Width + exponent.Width;
+  whole.Ascent = std::max(box.Ascent, raise + exponent.Ascent);
+  whole.Descent = box.Descent;
+  const double right = box.Width;
+  AddTo(whole, std::move(box));
+  AddTo(whole, Placed(std::move(exponent), {right, -raise}));
+  return whole;
+}
+
 class Setter {
  public:
   Setter(const TextWidth& width, const std::function<std::string(std::string_view)>& numbers)
@@ -30,7 +49,7 @@ class Setter {
   FormulaBox Set(const Expression& formula, double size) const {
     const auto part = [&](std::size_t i) { return Set(formula.Parts.at(i), size); };
     switch (formula.What) {
-      case Operation::Number: return Upright(NumberText(formula.Value), size);
+      case Operation::Number: return SetNumber(NumberText(formula.Value), {.Size = size}, width_);
       case Operation::Constant: return Upright(std::string(formula.Letter), size);
       case Operation::Symbol: return OfSymbol(formula.Letter, size);
       case Operation::Sum: return Joined(formula, "+", Binding::Sum, size);
@@ -58,20 +77,34 @@ class Setter {
 
   FormulaBox OfSymbol(std::string_view letter, double size) const {
     const std::string number = numbers_ ? numbers_(letter) : std::string();
-    return number.empty() ? SetSymbol(letter, size, width_) : Upright(number, size);
+    return number.empty() ? SetSymbol(letter, size, width_) : SetNumber(number, {.Size = size}, width_);
   }
 
-  bool IsNegative(const Expression& part) const {
-    if (part.What == Operation::Number) return part.Value < 0;
-    return part.What == Operation::Symbol && numbers_ && numbers_(part.Letter).starts_with('-');
+  // Returns the text of a number, or of a symbol whose place a number takes; else nothing.
+  std::string NumeralOf(const Expression& part) const {
+    if (part.What == Operation::Number) return NumberText(part.Value);
+    return part.What == Operation::Symbol && numbers_ ? numbers_(part.Letter) : std::string();
+  }
+
+  // A part with a sign or a power of ten binds less tightly than a plain number.
+  Binding OwnBinding(const Expression& part) const {
+    const std::string numeral = NumeralOf(part);
+    if (!PartsOfNumber(numeral).Exponent.empty()) return Binding::Product;
+    return numeral.starts_with('-') ? Binding::Sign : BindingOf(part);
+  }
+
+  bool StartsWithMinus(const Expression& part) const {
+    const bool isRow = BindingOf(part) == Binding::Sum || part.What == Operation::Product;
+    return isRow ? StartsWithMinus(part.Parts.at(0)) : NumeralOf(part).starts_with('-');
   }
 
   // A part in the brackets that it needs. A fraction needs none, because its bar holds it together.
   FormulaBox Bracketed(const Expression& part, Binding around, bool isFirst, double size) const {
     FormulaBox box = Set(part, size);
     const bool isFraction = part.What == Operation::Quotient && around <= Binding::Product;
-    const Binding own = IsNegative(part) ? Binding::Sign : BindingOf(part);
-    const bool needs = !isFraction && (own < around || (!isFirst && own == around) || (!isFirst && IsNegative(part)));
+    const Binding own = OwnBinding(part);
+    const bool needs =
+        !isFraction && (own < around || (!isFirst && own == around) || (!isFirst && StartsWithMinus(part)));
     return needs ? InBrackets(std::move(box), size) : box;
   }
 
@@ -105,8 +138,8 @@ class Setter {
     box.Descent = gap - axis + divisor.Height();
     const ScenePoint above{(box.Width - dividend.Width) / 2, -axis - gap - dividend.Descent};
     const ScenePoint below{(box.Width - divisor.Width) / 2, -axis + gap + divisor.Ascent};
-    Add(box, Placed(std::move(dividend), above));
-    Add(box, Placed(std::move(divisor), below));
+    AddTo(box, Placed(std::move(dividend), above));
+    AddTo(box, Placed(std::move(divisor), below));
     box.Lines.push_back(
         {{{PathKind::Move, {0, -axis}, {}, {}}, {PathKind::Line, {box.Width, -axis}, {}, {}}}, {}, Bar(size)});
     return box;
@@ -115,18 +148,9 @@ class Setter {
   FormulaBox Power(const Expression& formula, double size) const {
     const Expression& base = formula.Parts.at(0);
     FormulaBox box = Set(base, size);
-    const bool needs = BindingOf(base) < Binding::Whole || IsNegative(base);
+    const bool needs = OwnBinding(base) < Binding::Whole;
     if (needs) box = InBrackets(std::move(box), size);
-    FormulaBox exponent = Set(formula.Parts.at(1), size * IndexShare);
-    const double raise = std::max(box.Ascent - exponent.Ascent / 2, size * 0.35);
-    FormulaBox whole;
-    whole.Width = box.Width + exponent.Width;
-    whole.Ascent = std::max(box.Ascent, raise + exponent.Ascent);
-    whole.Descent = box.Descent;
-    const double right = box.Width;
-    Add(whole, std::move(box));
-    Add(whole, Placed(std::move(exponent), {right, -raise}));
-    return whole;
+    return Raised(std::move(box), Set(formula.Parts.at(1), size * IndexShare), size);
   }
 
   static FormulaBox Root(FormulaBox radicand, double size) {
@@ -146,7 +170,7 @@ class Setter {
                           {PathKind::Line, {box.Width, top}, {}, {}}},
                          {},
                          Bar(size)});
-    Add(box, Placed(std::move(radicand), {sign, 0}));
+    AddTo(box, Placed(std::move(radicand), {sign, 0}));
     return box;
   }
 
@@ -179,7 +203,7 @@ class Setter {
       const double base = top + row.Ascent;
       top += row.Height() + size * 0.3;
       box.Width = std::max(box.Width, size * 0.7 + row.Width);
-      Add(box, Placed(std::move(row), {size * 0.7, base}));
+      AddTo(box, Placed(std::move(row), {size * 0.7, base}));
     }
     AddBrace(box, size);
     return box;
@@ -223,13 +247,8 @@ class Setter {
     };
     bracket(side * 0.75, side * 0.15);
     bracket(box.Width - side * 0.75, box.Width - side * 0.15);
-    Add(box, Placed(std::move(inside), {side, 0}));
+    AddTo(box, Placed(std::move(inside), {side, 0}));
     return box;
-  }
-
-  static void Add(FormulaBox& box, FormulaBox part) {
-    std::ranges::move(part.Labels, std::back_inserter(box.Labels));
-    std::ranges::move(part.Lines, std::back_inserter(box.Lines));
   }
 
   const TextWidth& width_;
@@ -246,6 +265,24 @@ FormulaBox SetText(const std::string& text, const TextStyle& style, const TextWi
   box.Labels.push_back(
       {.Text = text, .At = {0, 0}, .Size = style.Size, .IsBold = style.IsBold, .IsItalic = style.IsItalic});
   return box;
+}
+
+FormulaBox SetNumber(const std::string& text, const TextStyle& style, const TextWidth& width) {
+  const auto [mantissa, exponent] = PartsOfNumber(text);
+  if (exponent.empty()) return SetText(text, style, width);
+  TextStyle small = style;
+  small.Size *= IndexShare;
+  return SideBySide({SetText(std::string(mantissa), style, width), SetText("·", style, width),
+                     Raised(SetText("10", style, width), SetText(exponent, small, width), style.Size)},
+                    style.Size * SignGapShare);
+}
+
+FormulaBox SetUnit(const std::string& text, const TextStyle& style, const TextWidth& width) {
+  const auto [name, exponent] = PartsOfUnit(text);
+  if (exponent.empty() || name.empty() || name.ends_with(' ')) return SetText(text, style, width);
+  TextStyle small = style;
+  small.Size *= IndexShare;
+  return Raised(SetText(std::string(name), style, width), SetText(std::string(exponent), small, width), style.Size);
 }
 
 FormulaBox SetSymbol(std::string_view letter, double size, const TextWidth& width) {

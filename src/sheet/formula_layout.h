@@ -32,6 +32,12 @@ FormulaBox SetFormula(const Expression& formula, double size, const TextWidth& w
 // Returns the box of a letter with its index: "s_min".
 FormulaBox SetSymbol(std::string_view letter, double size, const TextWidth& width);
 
+// Returns the box of a number; "4.2e-07" becomes a power of ten.
+FormulaBox SetNumber(const std::string& text, const TextStyle& style, const TextWidth& width);
+
+// Returns the box of a text that ends in a unit, with the exponent of the unit raised: "24.5 kN/m3".
+FormulaBox SetUnit(const std::string& text, const TextStyle& style, const TextWidth& width);
+
 // Returns the box of a text, "upright".
 FormulaBox SetText(const std::string& text, const TextStyle& style, const TextWidth& width);
 

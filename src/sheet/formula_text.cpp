@@ -106,6 +106,15 @@ std::string InsertedText(const SheetStep& step) {
   return writer.Text(AppliedFormula(step));
 }
 
+NumberParts PartsOfNumber(std::string_view text) {
+  const std::size_t mark = text.find_first_of("eE");
+  if (mark == std::string_view::npos) return {text, {}};
+  std::string_view digits = text.substr(mark + 1);
+  const bool isSmall = digits.starts_with('-');
+  digits.remove_prefix(std::min(digits.find_first_not_of("+-0"), digits.size()));
+  return {text.substr(0, mark), (isSmall ? "-" : "") + std::string(digits)};
+}
+
 FlatQuotient FlatQuotientOf(const Expression& quotient) {
   FlatQuotient flat{.Dividend = &quotient, .Divisors = {}};
   while (flat.Dividend->What == Operation::Quotient) {

@@ -22,6 +22,13 @@ const Expression& AppliedFormula(const SheetStep& step);
 enum class Binding : std::uint8_t { Condition, Sum, Product, Sign, Power, Whole };
 Binding BindingOf(const Expression& formula);
 
+// The text of a number as a power of ten: "4.2" and "-7" for "4.2e-07". Without one, the exponent is empty.
+struct NumberParts {
+  std::string_view Mantissa;
+  std::string Exponent;
+};
+NumberParts PartsOfNumber(std::string_view text);
+
 // A quotient of quotients as one fraction: a / b / c has the divisors b and c.
 struct FlatQuotient {
   const Expression* Dividend = nullptr;

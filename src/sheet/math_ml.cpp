@@ -24,13 +24,9 @@ std::string Bracketed(const std::string& math) { return Row("<mo>(</mo>" + math 
 
 MathPart SetNumber(std::string_view text) {
   if (text.starts_with('-')) return {"<mo form=\"prefix\">−</mo>" + SetNumber(text.substr(1)).Math, Binding::Sign};
-  const std::size_t exponent = text.find_first_of("eE");
-  if (exponent == std::string_view::npos) return {Element("mn", text), Binding::Whole};
-  std::string_view power = text.substr(exponent + 1);
-  const bool isSmall = power.starts_with('-');
-  power.remove_prefix(std::min(power.find_first_not_of("+-0"), power.size()));
-  return {Element("mn", text.substr(0, exponent)) + Sign("×") + "<msup><mn>10</mn>" +
-              Row((isSmall ? "<mo form=\"prefix\">−</mo>" : "") + Element("mn", power)) + "</msup>",
+  const auto [mantissa, exponent] = PartsOfNumber(text);
+  if (exponent.empty()) return {Element("mn", text), Binding::Whole};
+  return {Element("mn", mantissa) + Sign("×") + "<msup><mn>10</mn>" + Row(SetNumber(exponent).Math) + "</msup>",
           Binding::Product};
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include "base/number_text.h"
 #include "base/text.h"
@@ -239,7 +240,7 @@ class SheetPages {
     const double base = row.Height() - style.Size * 0.22;
     FormulaBox number = Fitting(Text(value, style), across_ * 0.16);
     row.AddAt(RightAligned(std::move(number)), {across_ * ValueRight, base});
-    row.AddAt(Text(unit, style), {across_ * UnitLeft, base});
+    row.AddAt(SetUnit(unit, style, width_), {across_ * UnitLeft, base});
     row.AddAt(Fitting(Text(source, style), across_ * (1 - SourceLeft)), {across_ * SourceLeft, base});
     row.Space(2);
     AddRule(row);
@@ -289,20 +290,29 @@ class SheetPages {
       stack.Add(SideBySide({symbol, Text(FailureText(step), Strong)}, 6), Indent, 5);
       return;
     }
-    std::string result = step.Text;
-    if (!step.Unit.empty()) result.append(" ").append(step.Unit);
-    stack.Add(EqualTo(symbol, Text(result, Strong)), Indent, 5);
+    FormulaBox result = SetNumber(step.Text, Strong, width_);
+    if (!step.Unit.empty())
+      result = SideBySide({std::move(result), SetUnit(std::string(step.Unit), Strong, width_)}, 3);
+    stack.Add(EqualTo(symbol, std::move(result)), Indent, 5);
   }
 
-  // The meanings of the symbols in one paragraph.
+  // The meanings of the symbols in one paragraph. A line breaks only between two symbols.
   void AddLegend(Stack& stack, const SheetStep& step) const {
-    std::string legend;
+    constexpr double Gap = SmallPoints * 0.6;
+    FormulaBox line;
+    double above = 4;
     for (const InsertedNumber& number : step.Numbers) {
-      if (!legend.empty()) legend += "; ";
-      legend.append(number.Letter).append(": ").append(number.Meaning);
-      if (!number.Unit.empty()) legend.append(", ").append(number.Unit);
+      std::string meaning = ": " + std::string(number.Meaning);
+      if (!number.Unit.empty()) meaning.append(", ").append(number.Unit);
+      FormulaBox entry = SideBySide({SetSymbol(number.Letter, SmallPoints, width_), SetUnit(meaning, Small, width_)});
+      if (&number != &step.Numbers.back()) entry = SideBySide({std::move(entry), Text(";", Small)});
+      if (line.Width > 0 && line.Width + Gap + entry.Width > across_ - Indent) {
+        stack.Add(std::exchange(line, {}), Indent, above);
+        above = SmallPoints * (LineShare - 1);
+      }
+      line = line.Width > 0 ? SideBySide({std::move(line), std::move(entry)}, Gap) : std::move(entry);
     }
-    if (!legend.empty()) AddWrapped(stack, legend, Small, Indent, across_ - Indent, 4);
+    if (line.Width > 0) stack.Add(Fitting(std::move(line), across_ - Indent), Indent, above);
   }
 
   void Add(const SheetJudgement& judgement) {

@@ -7,6 +7,7 @@ namespace orby::test {
 namespace {
 
 using testing::AllOf;
+using testing::ContainsRegex;
 using testing::HasSubstr;
 using testing::Lt;
 using testing::Not;
@@ -29,7 +30,7 @@ TEST_F(PdfSheet, OfEachExampleIsReadByOtherProgramsWithoutComplaint) {
     EXPECT_THAT(info.out, AllOf(HasSubstr("Calculation sheet: "), HasSubstr("(A4)")));
     const Outcome outline = RunProgram("mutool", {"show", pdf, "outline"});
     EXPECT_EQ(outline.err, "") << name;
-    EXPECT_THAT(outline.out, AllOf(HasSubstr("7  Suggested PSUP"), HasSubstr("  Cost of bolting")));
+    EXPECT_THAT(outline.out, AllOf(ContainsRegex("[78]  Suggested PSUP\""), HasSubstr("  Cost of bolting")));
     EXPECT_THAT(Read(pdf), SizeIs(Lt(400'000U))) << name;
   }
 }

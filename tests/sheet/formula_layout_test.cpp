@@ -82,6 +82,32 @@ TEST(ASetFormula, PutsNumbersInThePlacesOfSymbols) {
   EXPECT_THAT(box.Lines, SizeIs(2)) << "a negative factor has brackets";
 }
 
+FormulaBox Inserted(const Expression& formula, const std::string& x, const std::string& y) {
+  return SetFormula(formula, Size, SetWidth, [&](std::string_view letter) { return letter == "x" ? x : y; });
+}
+
+TEST(ASetFormula, HasPowersOfTenForSmallNumbers) {
+  const FormulaBox sum = Inserted(Base + Other, "3", "4.2e-07");
+  EXPECT_THAT(TextsOf(sum), ElementsAre("3", "+", "4.2", "·", "10", "-7"));
+  EXPECT_LT(LabelOf(sum, "-7").At.Y, LabelOf(sum, "10").At.Y);
+  EXPECT_THAT(sum.Lines, SizeIs(0)) << "no brackets";
+
+  EXPECT_THAT(Inserted(SquareOf(Base), "1e+12", "").Lines, SizeIs(2)) << "brackets around the base";
+}
+
+TEST(ASetFormula, HasBracketsAroundAProductThatStartsWithAMinus) {
+  EXPECT_THAT(Inserted(Symbol("y") + Base * Symbol("y"), "-2", "5").Lines, SizeIs(2));
+  EXPECT_THAT(Inserted(Base * Symbol("y") + Symbol("y"), "-2", "5").Lines, SizeIs(0));
+}
+
+TEST(ASetUnit, HasARaisedExponent) {
+  const FormulaBox box = SetUnit("24.5 kN/m3", {.Size = Size}, SetWidth);
+
+  EXPECT_THAT(TextsOf(box), ElementsAre("24.5 kN/m", "3"));
+  EXPECT_LT(LabelOf(box, "3").At.Y, 0);
+  EXPECT_THAT(TextsOf(SetUnit("a factor of 1", {.Size = Size}, SetWidth)), ElementsAre("a factor of 1"));
+}
+
 TEST(ASetFormula, HasALineForEachCase) {
   const FormulaBox box = Set(CasesOf({{3, Base <= 20}}, Other));
 
