@@ -117,6 +117,7 @@ class CostSheet {
     };
     for (std::size_t head = 0; head < CostHeads; ++head) add(HeadNames[head], table_.Value().Heads[head]);
     add("Total", table_.Value().Totals);
+    table.LastIsTotal = true;
     writer_.Table(std::move(table));
   }
 

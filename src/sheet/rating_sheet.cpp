@@ -26,7 +26,7 @@ void AddRoofRating(DesignSheet& sheet, const SheetContext& context) {
   writer.Input("CMRR Region", region, UnitSuffix::None, "estimator");
   writer.Input("CMRR Rock Type", std::string(estimate->Rock.Name), UnitSuffix::None, "estimator");
   writer.Remark("The estimator has one table of ratings for each region. This is that of " + region + ".");
-  SheetTable table{{"Rock of the roof", "Row", "CMRR"}, {}};
+  SheetTable table{{"Rock of the roof", "Row", "CMRR"}, {}, false};
   for (const RockType& rock : estimate->Rocks) {
     table.Rows.push_back({std::string(rock.Name), std::to_string(table.Rows.size() + 1), std::string(rock.CMRR)});
   }

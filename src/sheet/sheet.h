@@ -62,6 +62,7 @@ struct SheetJudgement {
 struct SheetTable {
   std::vector<std::string> Heads;
   std::vector<std::vector<std::string>> Rows;  // the first cell of a row names it
+  bool LastIsTotal = false;                    // of the rows above it
 };
 
 struct SheetRemark {

@@ -90,7 +90,7 @@ class HtmlOutput {
   void Remark(const SheetRemark& remark) { Line(Element("p", remark.Text)); }
 
   void Table(const SheetTable& table) {
-    TableHead("costs", {table.Heads.begin(), table.Heads.end()});
+    TableHead(table.LastIsTotal ? "figures total" : "figures", {table.Heads.begin(), table.Heads.end()});
     for (const auto& row : table.Rows) {
       html_.append("<tr>").append(Element("th scope=\"row\"", row.at(0)));
       for (std::size_t i = 1; i < row.size(); ++i) html_ += Element("td", row[i]);

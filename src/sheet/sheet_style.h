@@ -49,9 +49,9 @@ tr { break-inside: avoid; }
 .symbols th:first-child, .symbols td:last-child { width: 6.5rem; }
 .symbols th, .symbols td { padding-top: .1rem; padding-bottom: .1rem; }
 .value { white-space: nowrap; }
-.costs { break-inside: avoid; }
-.costs td, .costs thead th + th { text-align: right; }
-.costs tbody tr:last-child > * { border-top: 2px solid var(--line); font-weight: 600; }
+.figures { break-inside: avoid; }
+.figures td, .figures thead th + th { text-align: right; }
+.total tbody tr:last-child > * { border-top: 2px solid var(--line); font-weight: 600; }
 .step { margin: 1.25rem 0; break-inside: avoid; }
 .formulas {
   display: grid; grid-template-columns: max-content minmax(0, 1fr); column-gap: .3em; row-gap: .6rem;

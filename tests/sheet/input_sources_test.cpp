@@ -2,15 +2,17 @@
 #include <gmock/gmock.h>
 
 #include "engine/estimator.h"
+#include "sheet/sheet_html.h"
 #include "sheet/sheets.h"
 
 namespace orby::test {
 namespace {
 
+using testing::AllOf;
 using testing::Contains;
 using testing::Each;
 using testing::ElementsAre;
-using testing::Field;
+using testing::HasSubstr;
 
 constexpr const char* Default = "default of a new project";
 
@@ -109,6 +111,15 @@ TEST(TheRoofRating, OfTheEstimatorHasItsTableAndItsRow) {
                                       ElementsAre("Stackrock (laminated sandstone/shale)", "3", "45"),
                                       ElementsAre("Siltstone", "4", "50"), ElementsAre("Bedded Sandstone", "5", "55"),
                                       ElementsAre("Massive Sandstone", "6", "65"), ElementsAre("Unknown", "7", "45")));
+}
+
+TEST(TheRoofRating, HasATableWithoutATotal) {
+  const SheetOf sheet(WithEstimate(1, 3, 50));
+
+  EXPECT_FALSE(std::get<SheetTable>(sheet.Section("roof-rating").Parts.at(3)).LastIsTotal);
+  EXPECT_TRUE(std::get<SheetTable>(sheet.Section("cost").Parts.back()).LastIsTotal);
+  EXPECT_THAT(SheetHtml(sheet.Made),
+              AllOf(HasSubstr("<table class=\"figures\">"), HasSubstr("<table class=\"figures total\">")));
 }
 
 TEST(TheRoofRating, IsTheEstimatorsForEachRegionAndRock) {
