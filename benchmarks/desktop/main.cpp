@@ -5,6 +5,7 @@
 //   key           the same key in the depth of cover, until it and all outputs are painted
 //   browse        the file browser until it shows a file of 50 MB; prints the growth of the peak of memory in kB,
 //                 the size of the file in kB, and the longest time between two events in milliseconds
+//   sheet         see sheet_bench.h
 //   dialogs       prints the growth of memory, in bytes, over 450 openings of each dialog after the first 50
 //
 // Instructions are counted for the two keys only.
@@ -28,6 +29,7 @@
 #include <map>
 #include <string>
 
+#include "desktop/sheet_bench.h"
 #include "desktop/starts.h"
 #include "dialogs/cost_dialog.h"
 #include "dialogs/description_dialog.h"
@@ -192,7 +194,7 @@ int Dialogs() {
 }
 
 const std::map<std::string, int (*)()> Things{
-    {"empty-key", EmptyKey}, {"key", Key}, {"browse", Browse}, {"dialogs", Dialogs}};
+    {"empty-key", EmptyKey}, {"key", Key}, {"browse", Browse}, {"sheet", MeasureSheet}, {"dialogs", Dialogs}};
 
 }  // namespace
 
@@ -200,7 +202,8 @@ int main(int argc, char** argv) {
   const std::string name = argc == 2 ? argv[1] : "";
   const auto found = Things.find(name);
   if (found == Things.end() && !IsStart(name)) {
-    std::fputs("usage: orby-desktop-bench empty-start|start|empty-key|key|empty-browser|help|browse|dialogs\n", stderr);
+    std::fputs("usage: orby-desktop-bench empty-start|start|empty-key|key|empty-browser|help|browse|sheet|dialogs\n",
+               stderr);
     return EXIT_FAILURE;
   }
   const QApplication application(argc, argv);
