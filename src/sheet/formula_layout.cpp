@@ -29,7 +29,7 @@ void AddTo(FormulaBox& box, FormulaBox part) {
 }
 
 // Returns a box with an exponent at its upper right.
-FormulaBox Raised(FormulaBox box, FormulaBox exponent, double size) {
+FormulaBox WithExponent(FormulaBox box, FormulaBox exponent, double size) {
   const double raise = std::max(box.Ascent - exponent.Ascent / 2, size * 0.35);
   FormulaBox whole;
   whole.Width = box.Width + exponent.Width;
@@ -150,7 +150,7 @@ class Setter {
     FormulaBox box = Set(base, size);
     const bool needs = OwnBinding(base) < Binding::Whole;
     if (needs) box = InBrackets(std::move(box), size);
-    return Raised(std::move(box), Set(formula.Parts.at(1), size * IndexShare), size);
+    return WithExponent(std::move(box), Set(formula.Parts.at(1), size * IndexShare), size);
   }
 
   static FormulaBox Root(FormulaBox radicand, double size) {
@@ -273,7 +273,7 @@ FormulaBox SetNumber(const std::string& text, const TextStyle& style, const Text
   TextStyle small = style;
   small.Size *= IndexShare;
   return SideBySide({SetText(std::string(mantissa), style, width), SetText("·", style, width),
-                     Raised(SetText("10", style, width), SetText(exponent, small, width), style.Size)},
+                     WithExponent(SetText("10", style, width), SetText(exponent, small, width), style.Size)},
                     style.Size * SignGapShare);
 }
 
@@ -282,7 +282,8 @@ FormulaBox SetUnit(const std::string& text, const TextStyle& style, const TextWi
   if (exponent.empty() || name.empty() || name.ends_with(' ')) return SetText(text, style, width);
   TextStyle small = style;
   small.Size *= IndexShare;
-  return Raised(SetText(std::string(name), style, width), SetText(std::string(exponent), small, width), style.Size);
+  return WithExponent(SetText(std::string(name), style, width), SetText(std::string(exponent), small, width),
+                      style.Size);
 }
 
 FormulaBox SetSymbol(std::string_view letter, double size, const TextWidth& width) {

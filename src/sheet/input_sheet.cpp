@@ -8,10 +8,10 @@ namespace orby {
 namespace {
 
 const std::string Typed = "typed";
-const std::string Default = "default of a new project";
+const std::string DefaultSource = "default of a new project";
 
 // Returns the source of a number that can only be typed.
-std::string TypedOrDefault(Single value, Single ofNewProject) { return value == ofNewProject ? Default : Typed; }
+std::string TypedOrDefault(Single value, Single ofNewProject) { return value == ofNewProject ? DefaultSource : Typed; }
 
 std::string SourceOf(ValueSource mode) { return mode == ValueSource::Standard ? "list of standard values" : Typed; }
 

@@ -82,22 +82,22 @@ TEST(ASetFormula, PutsNumbersInThePlacesOfSymbols) {
   EXPECT_THAT(box.Lines, SizeIs(2)) << "a negative factor has brackets";
 }
 
-FormulaBox Inserted(const Expression& formula, const std::string& x, const std::string& y) {
+FormulaBox WithNumbers(const Expression& formula, const std::string& x, const std::string& y) {
   return SetFormula(formula, Size, SetWidth, [&](std::string_view letter) { return letter == "x" ? x : y; });
 }
 
 TEST(ASetFormula, HasPowersOfTenForSmallNumbers) {
-  const FormulaBox sum = Inserted(Base + Other, "3", "4.2e-07");
+  const FormulaBox sum = WithNumbers(Base + Other, "3", "4.2e-07");
   EXPECT_THAT(TextsOf(sum), ElementsAre("3", "+", "4.2", "·", "10", "-7"));
   EXPECT_LT(LabelOf(sum, "-7").At.Y, LabelOf(sum, "10").At.Y);
   EXPECT_THAT(sum.Lines, SizeIs(0)) << "no brackets";
 
-  EXPECT_THAT(Inserted(SquareOf(Base), "1e+12", "").Lines, SizeIs(2)) << "brackets around the base";
+  EXPECT_THAT(WithNumbers(SquareOf(Base), "1e+12", "").Lines, SizeIs(2)) << "brackets around the base";
 }
 
 TEST(ASetFormula, HasBracketsAroundAProductThatStartsWithAMinus) {
-  EXPECT_THAT(Inserted(Symbol("y") + Base * Symbol("y"), "-2", "5").Lines, SizeIs(2));
-  EXPECT_THAT(Inserted(Base * Symbol("y") + Symbol("y"), "-2", "5").Lines, SizeIs(0));
+  EXPECT_THAT(WithNumbers(Symbol("y") + Base * Symbol("y"), "-2", "5").Lines, SizeIs(2));
+  EXPECT_THAT(WithNumbers(Base * Symbol("y") + Symbol("y"), "-2", "5").Lines, SizeIs(0));
 }
 
 TEST(ASetUnit, HasARaisedExponent) {

@@ -11,8 +11,8 @@
 namespace orby::test {
 namespace {
 
-std::string Opening(std::string_view key) { return "<!-- relation " + std::string(key) + " -->"; }
-std::string Closing(std::string_view key) { return "<!-- /relation " + std::string(key) + " -->"; }
+std::string BlockStart(std::string_view key) { return "<!-- relation " + std::string(key) + " -->"; }
+std::string BlockEnd(std::string_view key) { return "<!-- /relation " + std::string(key) + " -->"; }
 
 // Letters of symbols are set in italics, their index below the line: s_min.
 std::string SymbolHtml(std::string_view letter) {
@@ -111,8 +111,8 @@ std::string HelpBlock(const Relation& relation) {
 }
 
 std::string_view BlockOnPage(std::string_view page, std::string_view key) {
-  const std::string opening = Opening(key);
-  const std::string closing = Closing(key);
+  const std::string opening = BlockStart(key);
+  const std::string closing = BlockEnd(key);
   const std::size_t start = page.find(opening);
   const std::size_t end = page.find(closing);
   const bool isThere = start != std::string_view::npos && end != std::string_view::npos && start < end;
