@@ -70,6 +70,10 @@ std::string UpperCase(std::string_view text) {
   return upper;
 }
 
+std::string Capitalised(std::string_view text) {
+  return UpperCase(text.substr(0, 1)).append(text.substr(std::min<std::size_t>(text.size(), 1)));
+}
+
 bool SameWithoutCase(std::string_view a, std::string_view b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                     [](char x, char y) { return UpperLetter(x) == UpperLetter(y); });

@@ -24,6 +24,9 @@ std::string_view Trim(std::string_view text);
 // Converts the letters a to z only. For type names and option words, never for paths.
 std::string UpperCase(std::string_view text);
 
+// Returns the text with its first letter in upper case, if that is one of a to z.
+std::string Capitalised(std::string_view text);
+
 // Returns true if the texts are equal, ignoring the case of the letters A to Z.
 bool SameWithoutCase(std::string_view a, std::string_view b);
 

@@ -28,10 +28,14 @@ std::string DayMonthYear(Date date) {
       .append(NumberText(date.year));
 }
 
+std::string DateText(const Date& date) {
+  std::string text = NumberText(date.year);
+  return text.append("-").append(AtLeastTwoDigits(date.month)).append("-").append(AtLeastTwoDigits(date.day));
+}
+
 std::string MomentText(const Moment& moment) {
   const auto& [date, hour, minute, second] = moment;
-  std::string text = NumberText(date.year);
-  text.append("-").append(AtLeastTwoDigits(date.month)).append("-").append(AtLeastTwoDigits(date.day));
+  std::string text = DateText(date);
   text.append(" ").append(AtLeastTwoDigits(hour)).append(":").append(AtLeastTwoDigits(minute));
   return text.append(":").append(AtLeastTwoDigits(second));
 }

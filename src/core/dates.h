@@ -11,6 +11,9 @@ namespace orby {
 // 1..12.
 std::string DayMonthYear(Date date);
 
+// Returns "2031-03-09".
+std::string DateText(const Date& date);
+
 // Returns "2031-03-09 14:05:07".
 std::string MomentText(const Moment& moment);
 

@@ -136,6 +136,7 @@ struct Session {
   std::string UpdateServer;  // the address at which new versions are published; empty: none
   DesignDefaults defaults;
   PriceLists prices = BuiltInPrices();
+  SignedReportSettings signedReport;
   History history;
   std::array<std::string, 5> OutBuf;  // pages of the last report: 0 the inputs, 1 the calculations or the cost table
   std::optional<ShownResults> LastResults;
@@ -146,6 +147,7 @@ struct Session {
 // The state that the windows share.
 struct WindowState {
   Design WorkParmsCopy;  // the design that a dialog shows, for previews and curves
+  Design ResultsShown;   // the fields from which the results on view were made
   MessageTitles titles;
   EstimatorState estimator;
   DrawnCurve curve;

@@ -103,6 +103,44 @@ struct Folders {
   std::string ProgramTemporary;
 };
 
+// The size of printed pages.
+enum class PaperChoice : Integer { ByLocale, AlwaysA4, AlwaysLetter };
+
+// What the first page of a signed report says about its project.
+struct TitleBlock {
+  std::string Company;
+  std::string Mine;
+  std::string Section;
+  std::string Author;
+  std::string Checker;
+  std::string Revision;
+  bool operator==(const TitleBlock&) const = default;
+};
+
+struct TitleField {
+  std::string_view Name;
+  std::string TitleBlock::*Text;
+};
+inline constexpr std::array<TitleField, 6> TitleFields{{{"Company", &TitleBlock::Company},
+                                                        {"Mine", &TitleBlock::Mine},
+                                                        {"Section", &TitleBlock::Section},
+                                                        {"Author", &TitleBlock::Author},
+                                                        {"Checker", &TitleBlock::Checker},
+                                                        {"Revision", &TitleBlock::Revision}}};
+
+// What the user chose for signed reports.
+struct SignedReportSettings {
+  TitleBlock Titles;
+  PaperChoice Paper = PaperChoice::ByLocale;  // also of calculation sheets
+  bool HasDrawings = true;
+  bool HasCost = true;
+  bool HasSheet = false;
+  std::array<bool, 10> HasCurve{};
+  std::string RemarksOf;  // the path of the project that the remarks are about
+  std::string Remarks;    // lines
+  bool operator==(const SignedReportSettings&) const = default;
+};
+
 // Initial values of a new design. Most have a Metric (MET) and an English (ENG) value.
 struct DesignDefaults {
   Integer DefaultCMRR = 45;

@@ -155,6 +155,7 @@ struct CostInputs {
   Integer Production = 0;
   Single ShiftsWeek = 0;
   Single WeeksYear = 0;
+  bool operator==(const CostInputs&) const = default;
 };
 
 // The inputs of the calculations of the report. A preview copies these, but not the cost.
@@ -173,6 +174,7 @@ struct RoofSupport {
 
 struct Design : RoofSupport {
   CostInputs Cost;
+  bool operator==(const Design&) const = default;
 
   RoofSupport& Support() { return *this; }
   const RoofSupport& Support() const { return *this; }

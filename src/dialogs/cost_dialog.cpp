@@ -14,6 +14,7 @@
 #include "dialogs/fault_texts.h"
 #include "dialogs/history_texts.h"
 #include "dialogs/results_window.h"
+#include "dialogs/shown_design.h"
 #include "engine/cost.h"
 #include "reports/calculation_report.h"
 #include "reports/cost_report.h"
@@ -184,6 +185,9 @@ void CostDialog::BuildReport() {
   Design& previewed = program_.windows.WorkParmsCopy;
   previewed = program_.project.WorkParms;
   ReadEdits(previewed);
+  Design& shown = program_.windows.ResultsShown;
+  shown = previewed;
+  Succeeds([&] { shown.Support() = AsOpened(program_.project, program_.session.catalogs).Support(); });
   TakeCalculationPage(program_, CostReport(previewed.Cost, previewed.Units));
   program_.windows.ReportCaller = InputDialog::Cost;
   LoadOutBuf0(program_, previewed);

@@ -8,6 +8,14 @@
 namespace orby {
 namespace {
 
+std::optional<Single> ActualPSUPOf(const Design& design, const Catalogs& catalogs) {
+  const Computed<PrimaryFigures> primary = Analyze(design, catalogs).Primary;
+  if (!primary.IsThere()) return std::nullopt;
+  return primary.Value().ActualPSUP;
+}
+
+}  // namespace
+
 std::string_view NoticeText(CurveNotice notice) {
   switch (notice) {
     // The text says 51 whatever the limit is. At 400 ft it is about 51.5.
@@ -17,13 +25,9 @@ std::string_view NoticeText(CurveNotice notice) {
   return "Lower limit for IntersectionSpan adjusted > 0";
 }
 
-std::optional<Single> ActualPSUPOf(const Design& design, const Catalogs& catalogs) {
-  const Computed<PrimaryFigures> primary = Analyze(design, catalogs).Primary;
-  if (!primary.IsThere()) return std::nullopt;
-  return primary.Value().ActualPSUP;
+std::vector<CurveReference> ReferencesFor(const Design& design, const Catalogs& catalogs, Integer index) {
+  return ReferencesOf(design, ActualPSUPOf(design, catalogs), index);
 }
-
-}  // namespace
 
 void TakeCurve(Program& program, const Design& design, Integer index) {
   CurveSweep sweep = GenerateCurve(design, index);
@@ -33,7 +37,7 @@ void TakeCurve(Program& program, const Design& design, Integer index) {
   DrawnCurve& curve = program.windows.curve;
   curve.CurveIndex = index;
   curve.Own = DesignPoint(design, index);
-  curve.References = ReferencesOf(design, ActualPSUPOf(design, program.session.catalogs), index);
+  curve.References = ReferencesFor(design, program.session.catalogs, index);
 }
 
 }  // namespace orby

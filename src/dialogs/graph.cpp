@@ -144,6 +144,18 @@ void ApplyTitlesAndGrid(const GraphSettings& graph, Integer curveIndex, Chart& c
   chart.SetHeading(graph.GraphTitle);
 }
 
+void MarkDesign(const std::optional<CurvePoint>& own, const std::vector<CurveReference>& references, Integer curveIndex,
+                Chart& chart) {
+  std::optional<ChartPoint> point;
+  if (own) point = ChartPoint{own->X, own->Y, OwnPointName(curveIndex)};
+  chart.SetOwn(std::move(point));
+  std::vector<ChartLine> lines;
+  for (const CurveReference& reference : references) {
+    lines.push_back({reference.IsOfX, reference.Value, ReferenceName(reference)});
+  }
+  chart.SetReferences(std::move(lines));
+}
+
 void ApplyStyle(const GraphSettings& graph, ChartSeries& series) {
   series.width = graph.SymbolSize;
   if (series.isKept) return;

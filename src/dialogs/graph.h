@@ -52,6 +52,9 @@ std::string ReferenceName(const CurveReference& reference);
 
 // Sets the chart's titles and grid lines for one curve. Throws RuntimeError 9 outside 0..9.
 void ApplyTitlesAndGrid(const GraphSettings& graph, Integer curveIndex, Chart& chart);
+// Marks the point of the design, if there is one, and what the curve is compared with.
+void MarkDesign(const std::optional<CurvePoint>& own, const std::vector<CurveReference>& references, Integer curveIndex,
+                Chart& chart);
 // Sets the line and symbols of a series by graph style and symbol size. A kept series stays a line.
 void ApplyStyle(const GraphSettings& graph, ChartSeries& series);
 // Applies the whole format to a chart that is already drawn. The legend texts change with it, except those of kept

@@ -94,7 +94,7 @@ void GraphWindow::DrawCurve() {
     drawn.push_back(std::move(series));
   }
   DrawWithKept(std::move(drawn));
-  MarkDesign();
+  MarkDesign(curve.Own, curve.References, curve.CurveIndex, graph1);
   graph1.SetLegendShown(program_.session.graph.CurveLegend == 1);
 }
 
@@ -125,18 +125,6 @@ void GraphWindow::DrawKeptAnew() {
   std::vector<ChartSeries> drawn = graph1.Series();
   std::erase_if(drawn, [](const ChartSeries& series) { return series.isKept; });
   DrawWithKept(std::move(drawn));
-}
-
-void GraphWindow::MarkDesign() {
-  const DrawnCurve& curve = program_.windows.curve;
-  std::optional<ChartPoint> own;
-  if (curve.Own) own = ChartPoint{curve.Own->X, curve.Own->Y, OwnPointName(curve.CurveIndex)};
-  graph1.SetOwn(std::move(own));
-  std::vector<ChartLine> references;
-  for (const CurveReference& reference : curve.References) {
-    references.push_back({reference.IsOfX, reference.Value, ReferenceName(reference)});
-  }
-  graph1.SetReferences(std::move(references));
 }
 
 void GraphWindow::ClearGraph() {

@@ -61,8 +61,6 @@ class GraphWindow : public ProgramForm {
   void Keep();
   void ForgetKept();
   void DrawKeptAnew();
-  // Shows the point of the design and what the curve is compared with.
-  void MarkDesign();
   void ReadOut(const ChartHit& hit);
   void ClearReadOut();
   void Print();

@@ -8,6 +8,19 @@ void PagesBox::Fill(std::vector<Scene> pages) {
   GoTo({});
 }
 
+void PagesBox::Refill(std::vector<Scene> pages) {
+  pages_ = std::move(pages);
+  found_.reset();
+  if (onView_ >= pages_.size()) onView_ = pages_.empty() ? 0 : pages_.size() - 1;
+  Touch();
+}
+
+void PagesBox::Choose(std::size_t page) {
+  if (page >= pages_.size()) return;
+  GoTo({page, 0});
+  Fire(Chosen);
+}
+
 void PagesBox::GoTo(const PagePlace& place) {
   place_ = place;
   ++moves_;

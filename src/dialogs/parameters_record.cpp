@@ -237,6 +237,12 @@ bool ParametersDialog::SaveWorkParms() {
   return true;
 }
 
-bool ParametersDialog::CopyToWorkParmsCopy() { return TakeFields(program_.windows.WorkParmsCopy, AsPreviewed); }
+bool ParametersDialog::CopyToWorkParmsCopy() {
+  ReadFields();
+  Design& shown = program_.windows.ResultsShown;
+  shown = program_.project.WorkParms;
+  shown.Support() = typed_.Support();
+  return TakeFields(program_.windows.WorkParmsCopy, AsPreviewed);
+}
 
 }  // namespace orby

@@ -7,6 +7,8 @@
 #include "core/messages.h"
 #include "dialogs/curve_command.h"
 #include "dialogs/graph_window.h"
+#include "dialogs/project_sheet.h"
+#include "dialogs/sheet_window.h"
 #include "reports/printing.h"
 
 namespace orby {
@@ -97,6 +99,10 @@ void ResultsWindow::DrawChosenCurve() {
     });
   });
   if (outcome != StepOutcome::GivenUp) lstGraphs.SetVisible(false);
+}
+
+void ResultsWindow::ShowResultsSheet() {
+  RunTrapped(program_, [&] { ShowSheet(program_, SheetOfResults(program_)); });
 }
 
 void ResultsWindow::ChangeInput() {

@@ -26,6 +26,7 @@ class ResultsWindow : public ProgramForm {
   Button Command6{*this, "Command6", "Print &All"};
   Button Command9{*this, "Command9", "&View Plots"};
   Button cmdGraph{*this, "cmdGraph", "Generate Graphs"};
+  Button cmdSheet{*this, "cmdSheet", "Calculation &Sheet...", [this] { ShowResultsSheet(); }};
   CheckBox chkWhereLeft{*this, "chkWhereLeft", "&Open where it was left"};
   Button cmdChangeInput{*this, "cmdChangeInput", "Change &Input", [this] { ChangeInput(); }};
   Button Command8{*this, "Command8", "Help", [this] { ShowHelp(); }};
@@ -45,6 +46,7 @@ class ResultsWindow : public ProgramForm {
   void Print(Integer first, Integer last);
   bool ChoosePrinter();
   void DrawChosenCurve();
+  void ShowResultsSheet();
   void ChangeInput();
 
   ReportPager pager_{program_, {RichTextBox1, lblPage, Command4, Command5, Command2}};

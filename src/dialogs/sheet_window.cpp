@@ -16,8 +16,6 @@ namespace {
 
 constexpr double SpaceAbove = 24;  // points, above a place that is shown
 
-std::string TwoDigits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
-
 bool Has(const SceneLabel& label, std::string_view wanted) {
   const std::string_view text = label.Text;
   return TextSearch(wanted, text.size(), 0, TextSearch::Direction::Forward).Next(text, text.size()).has_value();
@@ -44,19 +42,29 @@ SheetWindow::SheetWindow(Program& program, DesignSheet sheet)
     picPages.Mark(std::nullopt);
     lblFound.SetCaption("");
   };
+  optPaper.Click = [this](Integer) {
+    TakePaper(program_, optPaper);
+    if (!paged_.Pages.empty()) MakePages();
+  };
   cmdPrint.Click = [this] { Print(); };
   cmdSaveAs.Click = [this] { SaveAs(); };
   cmdCopy.Click = [this] { program_.platform.clipboard.SetText(SheetText(sheet_)); };
 }
 
 void SheetWindow::OnOpen() {
-  paged_ = PagesOfSheet(program_, sheet_, Paper());
+  ShowPaper(program_, optPaper);
+  MakePages();
+  program_.platform.windows.CenterForm(*this);
+}
+
+void SheetWindow::MakePages() {
+  paged_ = PagesOfSheet(program_, sheet_, PaperOf(program_));
   std::vector<ComboItem> entries;
   for (const PageEntry& entry : paged_.Contents) entries.push_back({.text = entry.Title, .mark = {}});
   lstContents.Fill(std::move(entries));
+  picPages.Mark(std::nullopt);
   picPages.Fill(paged_.Pages);
   ShowPageNumber();
-  program_.platform.windows.CenterForm(*this);
 }
 
 void SheetWindow::ShowPageNumber() {
@@ -84,32 +92,23 @@ void SheetWindow::FindNext() {
   lblFound.SetCaption("Not found");
 }
 
-SheetPaper SheetWindow::Paper() const {
-  const Date today = program_.platform.clock.Today();
-  return {.Size = A4, .Date = std::to_string(today.year) + "-" + TwoDigits(today.month) + "-" + TwoDigits(today.day)};
-}
-
 std::string SheetWindow::Name() const { return PrintedName(program_.project) + " calculation sheet"; }
 
-void SheetWindow::Print() {
-  const auto chosen = RunTrapped(program_, [&] { program_.platform.printer.Choose(Name()); });
-  if (chosen != StepOutcome::Done) return;
-  AddHistoryLine(program_, "Printing Calculation Sheet");
-  RunTrapped(program_, [&] { program_.platform.printer.PrintScenes(paged_.Pages, Name()); });
-}
+void SheetWindow::Print() { PrintPages(program_, paged_.Pages, Name(), "Printing Calculation Sheet"); }
 
 void SheetWindow::SaveAs() {
-  const std::string path = SaveInFormat(program_, "Save Calculation Sheet", Name(),
-                                        {{"Document", "pdf", [&] { return SheetAsPdf(program_, sheet_, Paper()); }},
-                                         {"Web Page", "html", [&] { return SheetHtml(sheet_); }},
-                                         {"Markdown", "md", [&] { return SheetMarkdown(sheet_); }},
-                                         {"Text", "txt", [&] { return SheetText(sheet_); }},
-                                         {"Data", "json", [&] { return SheetJson(sheet_); }}});
+  const std::string path =
+      SaveInFormat(program_, "Save Calculation Sheet", Name(),
+                   {{"Document", "pdf", [&] { return SheetAsPdf(program_, sheet_, PaperOf(program_)); }},
+                    {"Web Page", "html", [&] { return SheetHtml(sheet_); }},
+                    {"Markdown", "md", [&] { return SheetMarkdown(sheet_); }},
+                    {"Text", "txt", [&] { return SheetText(sheet_); }},
+                    {"Data", "json", [&] { return SheetJson(sheet_); }}});
   if (!path.empty()) AddHistoryLine(program_, "Calculation sheet saved as: " + path);
 }
 
-void ShowSheet(Program& program) {
-  SheetWindow window(program, SheetOfProject(program));
+void ShowSheet(Program& program, DesignSheet sheet) {
+  SheetWindow window(program, std::move(sheet));
   ShowForm(program, window);
 }
 

@@ -17,6 +17,8 @@ class SheetWindow : public ProgramForm {
   LabelledBox txtFind{*this, "txtFind", TextKind::Free, "Find"};
   Button cmdFind{*this, "cmdFind", "Find &Next"};
   Label lblFound{*this, "lblFound", ""};
+  Label lblPaper{*this, "lblPaper", "Paper"};
+  OptionArray optPaper{*this, "optPaper", {{"A&4"}, {"&Letter"}}};
 
   // commands
   Button cmdPrint{*this, "cmdPrint", "P&rint..."};
@@ -31,19 +33,19 @@ class SheetWindow : public ProgramForm {
   void OnOpen() override;
 
  private:
+  void MakePages();
   void ShowPageNumber();
   // Goes to the next label that has the text, from the last one on and around the end.
   void FindNext();
   void Print();
   void SaveAs();
-  SheetPaper Paper() const;
   std::string Name() const;
 
   DesignSheet sheet_;
   PagedSheet paged_;
 };
 
-// Shows the sheet of the project until the user closes the window.
-void ShowSheet(Program& program);
+// Shows a sheet until the user closes the window.
+void ShowSheet(Program& program, DesignSheet sheet);
 
 }  // namespace orby

@@ -31,6 +31,7 @@ bool HasKnownChoices(const SecondarySupport& support, UnitSystem units) {
 }
 
 void TakeRow(BoltSelection& set, const BoltTable& table) {
+  if (table.empty()) return;
   if (set.TableRow < 0 || static_cast<std::size_t>(set.TableRow) >= table.size()) set.TableRow = 0;
   TakeTableRow(set, table, set.TableRow);
 }

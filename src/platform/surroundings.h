@@ -20,6 +20,8 @@ class Locale {
  public:
   virtual ~Locale() = default;
   virtual std::string DecimalSeparator() = 0;
+  // Returns true where people print on sheets of 8.5 x 11 in.
+  virtual bool UsesLetter() = 0;
 };
 
 struct Date {

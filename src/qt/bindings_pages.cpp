@@ -16,6 +16,10 @@ class PagesBinding : public WidgetBinding<PagesView, PagesBox> {
       RunGuarded([&] { control_.TellPage(page); });
       Describe();
     };
+    widget_.Chosen = [this](std::size_t page) {
+      RunGuarded([&] { control_.Choose(page); });
+      Describe();
+    };
   }
 
   void Show() override {

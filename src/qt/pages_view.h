@@ -1,4 +1,5 @@
-// Shows pages below each other as sheets of paper. Ctrl with the wheel, +, - and 0 change their size.
+// Shows pages below each other as sheets of paper. Ctrl with the wheel, +, - and 0 change their size. Small pages have
+// one size, and a click or an arrow key chooses one.
 #pragma once
 
 #include <QAbstractScrollArea>
@@ -17,6 +18,7 @@ class PagesView : public QAbstractScrollArea {
   void ShowPages(PagesBox& box);
 
   std::function<void(std::size_t page)> Scrolled;
+  std::function<void(std::size_t page)> Chosen;
 
   QSize sizeHint() const override;
 
@@ -26,8 +28,15 @@ class PagesView : public QAbstractScrollArea {
   void scrollContentsBy(int dx, int dy) override;
   void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
 
  private:
+  bool IsForChoosing() const { return box_ != nullptr && box_->Use() == PagesUse::Choosing; }
+  // Scrolls as far as it takes to show a whole small page.
+  void ShowSmall(std::size_t page);
+  void ChooseBeside(int step);
+  // The room for the number below a small page, in pixels.
+  int NumberRoom() const;
   // Pixels of a point at the zoom of the user. Without one a page is as wide as the view.
   double Scale() const;
   void SetZoom(double zoom);
@@ -35,6 +44,7 @@ class PagesView : public QAbstractScrollArea {
   QRectF PlaceOf(std::size_t page) const;
   std::size_t PageAt(double top) const;
   void UpdateBars();
+  void PaintChosen(QPainter& painter, std::size_t page, const QRectF& sheet) const;
   void PaintMark(QPainter& painter, const SceneLabel& label, const QRectF& sheet) const;
 
   PagesBox* box_ = nullptr;

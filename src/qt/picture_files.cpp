@@ -73,6 +73,6 @@ std::string QtPictureFiles::PagesAsPdf(const std::vector<Scene>& pages, const st
   return PdfOf(pages, 1, title);
 }
 
-double QtPictureFiles::WidthOf(const std::string& text, const TextStyle& style) { return orby::WidthOf(text, style); }
+double QtPictureFiles::WidthOf(const std::string& text, const TextStyle& style) { return widths_.Of(text, style); }
 
 }  // namespace orby

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/picture_files.h"
+#include "qt/scene_painter.h"
 
 namespace orby {
 
@@ -11,6 +12,9 @@ class QtPictureFiles : public PictureFiles {
   std::string AsPdf(const Scene& scene, const std::string& title) override;
   std::string PagesAsPdf(const std::vector<Scene>& pages, const std::string& title) override;
   double WidthOf(const std::string& text, const TextStyle& style) override;
+
+ private:
+  TextWidths widths_;
 };
 
 }  // namespace orby

@@ -1,7 +1,6 @@
 #include "qt/scene_painter.h"
 
 #include <QFont>
-#include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
@@ -92,8 +91,10 @@ void PaintLabel(QPainter& painter, const SceneLabel& label) {
 
 }  // namespace
 
-double WidthOf(const std::string& text, const TextStyle& style) {
-  return QFontMetricsF(FontOf(style)).horizontalAdvance(ToQt(text)) * style.Size / FontSizeOf(style.Size);
+double TextWidths::Of(const std::string& text, const TextStyle& style) {
+  const int size = FontSizeOf(style.Size);
+  const auto font = fonts_.try_emplace({size, style.IsBold, style.IsItalic}, FontOf(style)).first;
+  return font->second.horizontalAdvance(ToQt(text)) * style.Size / size;
 }
 
 void PaintScene(QPainter& painter, const Scene& scene, const QRectF& target, const QColor& text) {

@@ -2,7 +2,11 @@
 #pragma once
 
 #include <QColor>
+#include <QFontMetricsF>
 #include <QRectF>
+#include <map>
+#include <string>
+#include <tuple>
 
 #include "drawings/scene.h"
 
@@ -13,7 +17,16 @@ namespace orby {
 // Paints the scene as large as it fits into the target, in its middle. `text` is the colour of Ink::Text.
 void PaintScene(QPainter& painter, const Scene& scene, const QRectF& target, const QColor& text);
 
-// Returns the width of a text as PaintScene paints it, in units of the scene.
-double WidthOf(const std::string& text, const TextStyle& style);
+// The widths of texts as PaintScene paints them. Finding a font takes longer than measuring with it, so it is done once.
+class TextWidths {
+ public:
+  // Returns the width in units of the scene.
+  double Of(const std::string& text, const TextStyle& style);
+
+ private:
+  using FontKey = std::tuple<int, bool, bool>;  // size, bold, italic
+
+  std::map<FontKey, QFontMetricsF> fonts_;
+};
 
 }  // namespace orby

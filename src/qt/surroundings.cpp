@@ -8,6 +8,8 @@
 #include <QLocale>
 #include <QStandardPaths>
 #include <QTimer>
+#include <algorithm>
+#include <array>
 
 #include "qt/bound_form.h"
 #include "qt/boundary.h"
@@ -48,6 +50,14 @@ std::vector<std::string> QtFonts::FixedPitchFonts() {
 }
 
 std::string QtLocale::DecimalSeparator() { return FromQt(QLocale::system().decimalPoint()); }
+
+bool QtLocale::UsesLetter() {
+  using L = QLocale;
+  constexpr std::array Territories{L::Belize,     L::Canada,     L::Chile,     L::Colombia,    L::CostaRica,
+                                   L::Guatemala,  L::Mexico,     L::Nicaragua, L::Panama,      L::Philippines,
+                                   L::PuertoRico, L::ElSalvador, L::Venezuela, L::UnitedStates};
+  return std::ranges::find(Territories, L::system().territory()) != Territories.end();
+}
 
 Date QtClock::Today() { return Now().date; }
 

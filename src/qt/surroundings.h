@@ -16,6 +16,7 @@ class QtFonts : public Fonts {
 class QtLocale : public Locale {
  public:
   std::string DecimalSeparator() override;
+  bool UsesLetter() override;
 };
 
 class QtClock : public Clock {

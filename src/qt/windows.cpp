@@ -30,6 +30,7 @@
 #include <ui_results_window.h>
 #include <ui_settings_dialog.h>
 #include <ui_sheet_window.h>
+#include <ui_signed_report_window.h>
 #include <ui_summary_pane.h>
 #include <ui_text_browser.h>
 #include <ui_unit_calculator_window.h>
@@ -109,6 +110,7 @@ constexpr std::array Layouts{
     LayoutEntry{"frmSummary", Make<Ui::frmSummary, QWidget>},
     LayoutEntry{"frmBackups", Make<Ui::frmBackups, DialogWindow>},
     LayoutEntry{"frmSheet", Make<Ui::frmSheet, DialogWindow>},
+    LayoutEntry{"frmSignedReport", Make<Ui::frmSignedReport, DialogWindow>},
     LayoutEntry{"frmWouldHold", Make<Ui::frmWouldHold, DialogWindow>},
     LayoutEntry{"frmResource", Make<Ui::frmResource, DialogWindow>},
 };

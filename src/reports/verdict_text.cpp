@@ -82,7 +82,7 @@ std::string_view ReasonText(const Verdict& verdict) {
   }
 }
 
-// Appends the remark on the figures, with the comma before it.
+// Appends the remark on the figures, each part of it after a comma.
 void AppendRemark(std::string& text, const Verdict& verdict) {
   const Wording& wording = WordingOf(verdict);
   if (IsSystem(verdict.What)) Append(text, ", stability factor ", FormatNumber(verdict.Factor, "0.00"));
@@ -132,6 +132,24 @@ std::string VerdictLine(const Verdict& verdict, UnitSystem units) {
          verdict.Result == Holding::Uncomputed ? "- " : "");
   AppendFigures(line, verdict, units);
   return line;
+}
+
+VerdictCells CellsOf(const Verdict& verdict, UnitSystem units) {
+  VerdictCells cells{.Subject = std::string(WordingOf(verdict).Subject).append(PlaceText(verdict.Where)),
+                     .Supply = {},
+                     .Limit = {},
+                     .Result = std::string(HoldingWord(verdict.Result))};
+  if (verdict.Result == Holding::Uncomputed) {
+    Append(cells.Result, ": ", ReasonText(verdict));
+    return cells;
+  }
+  const NumberPair texts = TextsOf(verdict);
+  std::string unit(UnitText(verdict, units));
+  if (!unit.empty()) unit.insert(0, " ");
+  cells.Supply = texts.Supply + unit;
+  cells.Limit = (IsUpperLimit(verdict.What) ? "at most " : "at least ") + texts.Demand + unit;
+  AppendRemark(cells.Result, verdict);
+  return cells;
 }
 
 std::string VerdictCounts(const Verdicts& verdicts) {

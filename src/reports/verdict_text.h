@@ -15,6 +15,15 @@ std::string VerdictFigures(const Verdict& verdict, UnitSystem units);
 // by 53 %".
 std::string VerdictLine(const Verdict& verdict, UnitSystem units);
 
+// A judgement as a row of a table. Supply and limit are empty if it cannot be made.
+struct VerdictCells {
+  std::string Subject;  // "Actual PSUP"
+  std::string Supply;   // "5.6"
+  std::string Limit;    // "at least 11.8"
+  std::string Result;   // "Short, short by 53 %"
+};
+VerdictCells CellsOf(const Verdict& verdict, UnitSystem units);
+
 // Returns how many judgements have each result, the worst first: "2 short, 1 to check, 5 hold".
 std::string VerdictCounts(const Verdicts& verdicts);
 

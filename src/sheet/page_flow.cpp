@@ -35,7 +35,7 @@ void PageFlow::Place(const std::vector<PageBlock>& blocks) {
     const PageBlock& block = blocks[i];
     const bool isFirst = at_ == PageMargin;
     double top = at_ + (isFirst ? 0 : block.Before);
-    if (!isFirst && top + KeptHeight(blocks, i) > Bottom()) {
+    if (!isFirst && (block.StartsPage || top + KeptHeight(blocks, i) > Bottom())) {
       NewPage();
       top = at_;
       for (const FormulaBox& head : block.Head) {

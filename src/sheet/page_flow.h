@@ -13,8 +13,9 @@ namespace orby {
 struct PageBlock {
   FormulaBox Box;
   double Height = 0;
-  double Before = 0;             // space above it, except at the top of a page
-  bool KeepsNext = false;        // stands on the page of the next block
+  double Before = 0;       // space above it, except at the top of a page
+  bool KeepsNext = false;  // stands on the page of the next block
+  bool StartsPage = false;
   std::string Entry;             // of the contents
   std::vector<FormulaBox> Head;  // repeated at the top of a page on which a table goes on
 };

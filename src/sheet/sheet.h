@@ -55,7 +55,7 @@ struct SheetInput {
 };
 
 struct SheetJudgement {
-  Holding Result{};
+  Verdict Judged;
   std::string Line;  // "Short: actual PSUP 5.6 of the suggested 11.8, short by 53 %"
 };
 

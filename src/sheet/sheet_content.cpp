@@ -10,11 +10,6 @@
 namespace orby {
 namespace {
 
-std::string Sentence(std::string text) {
-  if (!text.empty() && text[0] >= 'a' && text[0] <= 'z') text[0] = static_cast<char>(text[0] - 'a' + 'A');
-  return text;
-}
-
 // Returns the text without blanks at its ends, and with blanks for control characters.
 std::string InOneLine(std::string_view text) {
   std::string line(text);
@@ -55,9 +50,8 @@ std::string SheetHeading(const DesignSheet& sheet) {
   return title.empty() ? "Project without a title" : title;
 }
 
-std::vector<std::string> DescriptionLines(const DesignSheet& sheet) {
+std::vector<std::string> LinesOf(std::string_view rest) {
   std::vector<std::string> lines;
-  std::string_view rest = sheet.Project.Description;
   while (!rest.empty()) {
     std::string line = InOneLine(TakeLine(rest));
     if (!line.empty()) lines.push_back(std::move(line));
@@ -102,7 +96,7 @@ std::vector<MergedResult> MergedResults(const SheetStep& step) {
 std::vector<std::string> DetailsOf(const SheetStep& step) {
   std::vector<std::string> details;
   for (const MergedResult& shown : MergedResults(step)) {
-    details.push_back(Sentence(PlacesText(shown.Where)) + ": " + shown.Text);
+    details.push_back(Capitalised(PlacesText(shown.Where)) + ": " + shown.Text);
   }
   details.insert(details.end(), step.Notes.begin(), step.Notes.end());
   if (step.Law == nullptr) return details;

@@ -25,8 +25,8 @@ std::vector<TitleFact> TitleFacts(const DesignSheet& sheet);
 // Returns the title of the project.
 std::string SheetHeading(const DesignSheet& sheet);
 
-// Returns the lines of the project's description.
-std::vector<std::string> DescriptionLines(const DesignSheet& sheet);
+// Returns the lines of a text that say something, for a place without control characters.
+std::vector<std::string> LinesOf(std::string_view text);
 
 // ---- sections ------------------------------------------------------------------------------------------------------
 

@@ -33,7 +33,7 @@ class HtmlOutput {
     html_.append("<style>").append(SheetStyle).append("</style>\n</head>\n<body>\n<header>\n");
     Line(Element("p class=\"kind\"", SheetKind));
     Line(Element("h1", title));
-    for (const std::string& line : DescriptionLines(sheet)) Line(Element("p", line));
+    for (const std::string& line : LinesOf(sheet.Project.Description)) Line(Element("p", line));
     Line("<table class=\"facts\"><tbody>");
     for (const TitleFact& fact : TitleFacts(sheet)) {
       Line("<tr>" + Element("th scope=\"row\"", fact.Label) + Element("td", fact.Text) + "</tr>");
@@ -84,7 +84,7 @@ class HtmlOutput {
   }
 
   void Judgement(const SheetJudgement& judgement) {
-    Line(Element("p class=\"judgement " + std::string(JudgementName(judgement.Result)) + "\"", judgement.Line));
+    Line(Element("p class=\"judgement " + std::string(JudgementName(judgement.Judged.Result)) + "\"", judgement.Line));
   }
 
   void Remark(const SheetRemark& remark) { Line(Element("p", remark.Text)); }

@@ -78,7 +78,7 @@ class JsonOutput {
 
   void Judgement(const SheetJudgement& judgement) {
     OpenPart("judgement");
-    json_.Text("result", JudgementName(judgement.Result));
+    json_.Text("result", JudgementName(judgement.Judged.Result));
     json_.Text("text", judgement.Line);
     json_.Close();
   }

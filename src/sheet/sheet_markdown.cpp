@@ -27,7 +27,7 @@ class MarkdownOutput {
   void Head(const DesignSheet& sheet) {
     Line("# " + MarkdownText(SheetHeading(sheet)));
     Block(std::string(SheetKind));
-    for (const std::string& line : DescriptionLines(sheet)) Block(MarkdownText(line));
+    for (const std::string& line : LinesOf(sheet.Project.Description)) Block(MarkdownText(line));
     Line();
     TableHead({"Project", ""}, 2);
     for (const TitleFact& fact : TitleFacts(sheet)) Row({fact.Label, fact.Text});

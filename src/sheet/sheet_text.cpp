@@ -69,8 +69,8 @@ class TextOutput {
     Wrapped("", SheetHeading(sheet), 0);
     Line(std::string(LineWidth, '='));
     Line();
-    for (const std::string& line : DescriptionLines(sheet)) Wrapped("", line, 0);
-    if (!DescriptionLines(sheet).empty()) Line();
+    for (const std::string& line : LinesOf(sheet.Project.Description)) Wrapped("", line, 0);
+    if (!LinesOf(sheet.Project.Description).empty()) Line();
     constexpr std::size_t LabelWidth = 14;
     for (const TitleFact& fact : TitleFacts(sheet)) {
       Wrapped(PadSpaces(fact.Label, LabelWidth), fact.Text, LabelWidth);

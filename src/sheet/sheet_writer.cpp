@@ -118,7 +118,7 @@ void SheetWriter::Input(std::string_view label, std::string text, UnitSuffix uni
 void SheetWriter::Remark(std::string text) { Parts().emplace_back(SheetRemark{std::move(text)}); }
 
 void SheetWriter::Judgement(const Verdict& verdict) {
-  Parts().emplace_back(SheetJudgement{verdict.Result, VerdictLine(verdict, units_)});
+  Parts().emplace_back(SheetJudgement{verdict, VerdictLine(verdict, units_)});
 }
 
 void SheetWriter::Table(SheetTable table) { Parts().emplace_back(std::move(table)); }

@@ -126,7 +126,11 @@ void MainWindow::ShowProjectResults() {
   if (!BuildPages()) return;
   WindowState& state = program_.windows;
   state.WorkParmsCopy = program_.project.WorkParms;
-  Succeeds([&] { state.WorkParmsCopy = AsReported(program_.project, program_.session.catalogs); });
+  state.ResultsShown = state.WorkParmsCopy;
+  Succeeds([&] {
+    state.ResultsShown = AsOpened(program_.project, program_.session.catalogs);
+    state.WorkParmsCopy = AsPreviewed(state.ResultsShown);
+  });
   state.ReportCaller = InputDialog::Parameters;
   program_.platform.windows.ShowMainWindow(false);
   ShowResults(program_);

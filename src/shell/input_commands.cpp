@@ -6,7 +6,9 @@
 #include "dialogs/cost_dialog.h"
 #include "dialogs/description_dialog.h"
 #include "dialogs/parameters_dialog.h"
+#include "dialogs/project_sheet.h"
 #include "dialogs/sheet_window.h"
+#include "dialogs/signed_report_window.h"
 #include "shell/main_window.h"
 
 namespace orby {
@@ -23,7 +25,8 @@ void MainWindow::EditCommand(EditItem item) {
 void MainWindow::StudyCommand(StudyItem item) {
   switch (item) {
     case StudyItem::WhatWouldHold: EditDesign<ParametersDialog>(&ParametersDialog::StudyLater); break;
-    case StudyItem::CalculationSheet: Run(Trap::Set, [&] { ShowSheet(program_); }); break;
+    case StudyItem::CalculationSheet: Run(Trap::Set, [&] { ShowSheet(program_, SheetOfProject(program_)); }); break;
+    case StudyItem::SignedReport: Run(Trap::Set, [&] { ShowSignedReport(program_); }); break;
   }
 }
 

@@ -32,7 +32,7 @@ enum class UtilityItem : Integer {
   Backups = 9,
 };
 
-enum class StudyItem : Integer { WhatWouldHold, CalculationSheet };
+enum class StudyItem : Integer { WhatWouldHold, CalculationSheet, SignedReport };
 
 enum class HelpItem : Integer {
   Contents = 0,
@@ -84,7 +84,7 @@ class MainControls : public ProgramForm {
       {"&Settings...", "&Options...", "&Unit Conversions...", "&File Conversion...", ActionArray::Separator,
        "&Clear History Window", CloseHistory, "Co&py History &Window", ActionArray::Separator, "&Backups..."}};
   Menu mnuStudy{*this, "mnuStudy", "&Study"};
-  Actions<StudyItem> mnuStudyItem{*this, "mnuStudyItem", {"&What Would Hold...", "&Calculation Sheet..."}};
+  Actions<StudyItem> mnuStudyItem{*this, "mnuStudyItem", {"&What Would Hold...", "&Calculation Sheet...", "&Signed Report..."}};
   Menu mnuHelp{*this, "mnuHelp", "&Help"};
   Actions<HelpItem> mnuHelpItem{
       *this,

@@ -6,6 +6,7 @@
 #include "config/catalog_sections.h"
 #include "config/price_section.h"
 #include "config/settings_sections.h"
+#include "config/signed_report_section.h"
 #include "config/user_folders.h"
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
@@ -67,6 +68,7 @@ void ReadConfiguration(Program& program, const IniText& ini) {
   ReadDefaults(program, ini);
   ReadCatalogSections(program, ini);
   ReadPrices(program.session.prices, ini);
+  ReadSignedReport(program.session.signedReport, ini);
 }
 
 void BeginNewDesign(Program& program) { FileNew(program, Keeping::Nothing); }

@@ -45,6 +45,13 @@ TEST(Trim, RemovesOnlyBlanksAtBothEnds) {
 
 TEST(UpperCase, ChangesPlainLettersOnly) { EXPECT_EQ(UpperCase("az-Strebgröße 1"), "AZ-STREBGRößE 1"); }
 
+TEST(Capitalised, ChangesOnlyTheFirstLetter) {
+  EXPECT_EQ(Capitalised("secondary support of entries"), "Secondary support of entries");
+  EXPECT_EQ(Capitalised("CMRR and depth"), "CMRR and depth");
+  EXPECT_EQ(Capitalised("4 bolts"), "4 bolts");
+  EXPECT_EQ(Capitalised(""), "");
+}
+
 TEST(SameWithoutCase, ComparesPlainLettersWithoutCase) {
   EXPECT_TRUE(SameWithoutCase("North.orb", "NORTH.ORB"));
   EXPECT_TRUE(SameWithoutCase("", ""));

@@ -26,6 +26,7 @@ TEST(WrittenDate, RefusesAThirteenthMonth) {
 }
 
 TEST(WrittenMoment, HasTheDateFirstAndTwoDigitsForEachPart) {
+  EXPECT_EQ(DateText({2031, 3, 9}), "2031-03-09");
   EXPECT_EQ(MomentText({{2031, 3, 9}, 4, 5, 7}), "2031-03-09 04:05:07");
   EXPECT_EQ(MomentText({{2031, 12, 31}, 23, 59, 59}), "2031-12-31 23:59:59");
 }

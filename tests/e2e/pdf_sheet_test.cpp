@@ -65,6 +65,33 @@ TEST_F(PdfSheet, RefusesOtherWordsAndOtherFiles) {
   EXPECT_FALSE(Exists(Path("out.pdf")));
 }
 
+TEST_F(PdfSheet, HasAReportToSign) {
+  const std::string pdf = Path("report.pdf");
+  ASSERT_EQ(RunProgram(ORBY_PDF, {"--report", "--date", "2026-11-21", "--company", "Brannock Coal", "--revision", "C2",
+                                  "--remarks", "Probe holes every second break.", "--curve", "2", "--sheet",
+                                  Example("weak-roof"), pdf})
+                .exitCode,
+            0);
+
+  const Outcome outline = RunProgram("mutool", {"show", pdf, "outline"});
+  EXPECT_EQ(outline.err, "");
+  EXPECT_THAT(outline.out, AllOf(HasSubstr("1  Summary"), HasSubstr("2  Drawings"), HasSubstr("4  Results"),
+                                 HasSubstr("8  Signatures"), HasSubstr("Appendix: calculation sheet")));
+  const std::string text = RunProgram("pdftotext", {"-layout", pdf, "-"}).out;
+  EXPECT_THAT(text, AllOf(HasSubstr("Brannock Coal"), HasSubstr("revision C2, 2026-11-21"),
+                          HasSubstr("Probe holes every second break."), HasSubstr("Suggested PSUP vs Depth of Cover"),
+                          HasSubstr("at least 8.8 ft"), HasSubstr("Short, short by 54 %"), HasSubstr("44.86371")));
+  EXPECT_THAT(Read(pdf), SizeIs(Lt(400'000U)));
+}
+
+TEST_F(PdfSheet, OfAReportRefusesACurveThatIsNotInTheList) {
+  for (const char* curve : {"0", "11", "two", "1.5x", "nan"}) {
+    EXPECT_EQ(RunProgram(ORBY_PDF, {"--report", "--curve", curve, Example("weak-roof"), Path("out.pdf")}).exitCode, 1)
+        << curve;
+  }
+  EXPECT_EQ(RunProgram(ORBY_PDF, {"--report", Example("weak-roof"), Path("out.pdf"), "--company"}).exitCode, 1);
+}
+
 TEST_F(PdfSheet, HasLetterPagesOnRequest) {
   ASSERT_EQ(RunProgram(ORBY_PDF, {"--letter", Example("weak-roof"), Path("out.pdf")}).exitCode, 0);
 

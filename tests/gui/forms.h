@@ -25,6 +25,7 @@
 #include "dialogs/results_window.h"
 #include "dialogs/settings_dialog.h"
 #include "dialogs/sheet_window.h"
+#include "dialogs/signed_report_window.h"
 #include "dialogs/text_browser.h"
 #include "dialogs/unit_calculator_window.h"
 #include "dialogs/update_dialog.h"
@@ -85,6 +86,7 @@ inline constexpr std::array FormMakers{
               [](Program& program) -> std::unique_ptr<Form> {
                 return std::make_unique<SheetWindow>(program, SheetOfProject(program));
               }},
+    FormMaker{"frmSignedReport", Plain<SignedReportWindow>},
     FormMaker{"frmGraph", Plain<GraphWindow>},
     FormMaker{"frmConvert", Plain<ConvertDialog>},
     FormMaker{"frmUnits", Plain<UnitCalculator>},

@@ -27,8 +27,15 @@ const std::set<std::string> Texts{
     "frmSet Text1",  // extension, folder and viewer of files
     "frmSet Text2",
     "frmSet Text4",
-    "frmTextBrow Text2",        // the pattern of the files
-    "frmSheet txtFind",         // a text to look for
+    "frmTextBrow Text2",  // the pattern of the files
+    "frmSheet txtFind",   // a text to look for
+    "frmSignedReport txtCompany",
+    "frmSignedReport txtMine",
+    "frmSignedReport txtSection",
+    "frmSignedReport txtAuthor",
+    "frmSignedReport txtChecker",
+    "frmSignedReport txtRevision",
+    "frmSignedReport txtRemarks",
     "frmWouldHold txtLengths",  // a list of lengths
     "frmGraphOpt Text1",        // titles of a graph, its curves and its axes
     "frmGraphOpt Text2_0",

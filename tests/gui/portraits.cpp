@@ -42,6 +42,7 @@
 #include "dialogs/results_window.h"
 #include "dialogs/settings_dialog.h"
 #include "dialogs/sheet_window.h"
+#include "dialogs/signed_report_window.h"
 #include "dialogs/text_browser.h"
 #include "dialogs/unit_calculator_window.h"
 #include "dialogs/update_dialog.h"
@@ -190,6 +191,7 @@ class Sitting {
     TakeMarkedFields();
     TakeStudy();
     TakeSheet();
+    TakeSignedReport();
     TakeDialog<CostDialog>("cost");
     TakeEstimator();
     TakeOptions();
@@ -315,7 +317,23 @@ class Sitting {
       photographer_.Take(window, "sheet-found");
       window.close();
     });
-    ShowSheet(program_);
+    ShowSheet(program_, SheetOfProject(program_));
+  }
+
+  void TakeSignedReport() {
+    scripts_.Add([&](QDialog& window) {
+      TypeInto(window, "txtCompany", "Brannock Coal");
+      TypeInto(window, "txtMine", "Cinder Hollow Mine");
+      TypeInto(window, "txtSection", "3 East, crosscuts 14 to 22");
+      TypeInto(window, "txtAuthor", "M. Delacroix-Harrington");
+      TypeInto(window, "txtRevision", "B");
+      photographer_.Take(window, "signed-report");
+      Click(window, "chkSheet");
+      window.findChild<QTabWidget*>("tabReport")->setCurrentIndex(1);
+      photographer_.Take(window, "signed-report-contents");
+      window.close();
+    });
+    ShowSignedReport(program_);
   }
 
   // Takes a form that this button closes.

@@ -25,6 +25,24 @@ TEST(VerdictText, TellsHowFarASpanIsAboveItsLimit) {
   EXPECT_EQ(VerdictLine(span, English), "Short: Sum of diagonals 75.0 with at most 60.0 ft, over by 25 %");
 }
 
+TEST(VerdictText, HasTheCellsOfATable) {
+  const auto cells = [](const Verdict& verdict, UnitSystem units) {
+    const VerdictCells made = CellsOf(verdict, units);
+    return made.Subject + "|" + made.Supply + "|" + made.Limit + "|" + made.Result;
+  };
+
+  EXPECT_EQ(cells({.What = Aspect::Psup, .Result = Holding::Short, .Demand = 11.8F, .Supply = 5.6F}, English),
+            "Actual PSUP|5.6|at least 11.8|Short, short by 53 %");
+  EXPECT_EQ(cells({.What = Aspect::Span, .Result = Holding::Holds, .Demand = 60, .Supply = 55}, Metric),
+            "Sum of diagonals|55.0 m|at most 60.0 m|Holds");
+  EXPECT_EQ(cells({.What = Aspect::Cables,
+                   .Where = Opening::Entries,
+                   .Result = Holding::Uncomputed,
+                   .Reason = Missing::Spacing},
+                  English),
+            "Cable bolts in entries|||Cannot be computed: the row spacing or the number in a row is missing");
+}
+
 TEST(VerdictText, HasTheUnitsOfTheDesignAndOfThePlace) {
   Verdict cables{.What = Aspect::Cables,
                  .Where = Opening::Entries,

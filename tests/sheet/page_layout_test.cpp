@@ -5,7 +5,6 @@
 
 #include <algorithm>
 
-#include "base/text.h"
 #include "sheet/page_flow.h"
 #include "sheet/sheets.h"
 
@@ -16,10 +15,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;
 using testing::SizeIs;
-
-double PageTextWidth(const std::string& text, const TextStyle& style) {
-  return 0.5 * style.Size * static_cast<double>(CharacterCount(text));
-}
 
 PagedSheet Paged(const DesignSheet& sheet, const PageSize& size = A4) {
   return PagesOf(sheet, size, {.Left = "Panel 3", .Date = "2026-11-21"}, PageTextWidth);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "base/text.h"
 #include "files/new_project.h"
 
 namespace orby::test {
@@ -45,6 +46,10 @@ Design DesignsOfSheets::Next() {
 Design NewDesignLike(Design design) {
   FillNewValues(design, DesignDefaults(), Lists());
   return design;
+}
+
+double PageTextWidth(const std::string& text, const TextStyle& style) {
+  return 0.5 * style.Size * static_cast<double>(CharacterCount(text));
 }
 
 SheetOf::SheetOf(const Design& typed)

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "dialogs/shown_design.h"
+#include "sheet/formula_layout.h"
 #include "sheet/sheet.h"
 #include "studies/study_designs.h"
 
@@ -30,6 +31,9 @@ class DesignsOfSheets {
 
 // Returns the design of a new project in the same units.
 Design NewDesignLike(Design design);
+
+// Returns the width of a text whose letters are all half as wide as they are high.
+double PageTextWidth(const std::string& text, const TextStyle& style);
 
 // A design as the dialog shows it, the one that its preview makes, and the sheet of both.
 struct SheetOf {

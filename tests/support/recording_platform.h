@@ -77,8 +77,10 @@ class ListedFonts : public Fonts {
 class ScriptedLocale : public Locale {
  public:
   std::string DecimalSeparator() override;
+  bool UsesLetter() override { return usesLetter; }
 
   std::string separator = ".";
+  bool usesLetter = false;
 };
 
 // A clock that stands still until the test changes it. Delayed calls wait for Pass.

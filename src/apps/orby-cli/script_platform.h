@@ -41,6 +41,7 @@ class ScriptFiles : public DiskFiles {
 class PointLocale : public Locale {
  public:
   std::string DecimalSeparator() override { return "."; }
+  bool UsesLetter() override { return false; }
 };
 
 struct ScriptPlatform {
