@@ -17,7 +17,8 @@ namespace orby {
 // Paints the scene as large as it fits into the target, in its middle. `text` is the colour of Ink::Text.
 void PaintScene(QPainter& painter, const Scene& scene, const QRectF& target, const QColor& text);
 
-// The widths of texts as PaintScene paints them. Finding a font takes longer than measuring with it, so it is done once.
+// The widths of texts as PaintScene paints them. Finding a font takes longer than measuring with it, so it is done
+// once.
 class TextWidths {
  public:
   // Returns the width in units of the scene.

@@ -84,7 +84,8 @@ class MainControls : public ProgramForm {
       {"&Settings...", "&Options...", "&Unit Conversions...", "&File Conversion...", ActionArray::Separator,
        "&Clear History Window", CloseHistory, "Co&py History &Window", ActionArray::Separator, "&Backups..."}};
   Menu mnuStudy{*this, "mnuStudy", "&Study"};
-  Actions<StudyItem> mnuStudyItem{*this, "mnuStudyItem", {"&What Would Hold...", "&Calculation Sheet...", "&Signed Report..."}};
+  Actions<StudyItem> mnuStudyItem{
+      *this, "mnuStudyItem", {"&What Would Hold...", "&Calculation Sheet...", "&Signed Report..."}};
   Menu mnuHelp{*this, "mnuHelp", "&Help"};
   Actions<HelpItem> mnuHelpItem{
       *this,
