@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cstdio>
 #include <ctime>
 #include <functional>
@@ -20,6 +21,7 @@
 #include "reports/input_echo.h"
 #include "shell/start_up.h"
 #include "studies/pattern_search.h"
+#include "study_bench.h"
 #include "support/recording_platform.h"
 
 namespace {
@@ -253,6 +255,20 @@ void PrintPatternRate() {
   std::printf("%.0f\n", least);
 }
 
+// Prints the seconds of a study of a million samples.
+void PrintStudySeconds() {
+  Bench bench;
+  Design& design = bench.program.project.WorkParms;
+  design.Primary.Analysed = design.Entries.Analysed = design.Intersections.Analysed = 1;
+  MakeStrong(design);
+  const auto began = std::chrono::steady_clock::now();
+  const StudyResult result = RunMeasuredStudy(design, bench.program.session.catalogs);
+  const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - began;
+  const bool isComputed = std::ranges::all_of(
+      result.Figures, [&](const FigureResult& figure) { return figure.Sums.Count() == result.Samples; });
+  std::printf("%.2f\n", isComputed ? seconds.count() : 1e6);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -269,9 +285,13 @@ int main(int argc, char** argv) {
     PrintPatternRate();
     return 0;
   }
+  if (word == "study") {
+    PrintStudySeconds();
+    return 0;
+  }
   const auto step = Steps.find(argc > 2 ? argv[2] : "");
   if (word != "run" || step == Steps.end()) {
-    std::fputs("usage: orby-bench list | run NAME | rate | pattern-rate\n", stderr);
+    std::fputs("usage: orby-bench list | run NAME | rate | pattern-rate | study\n", stderr);
     return 1;
   }
   step->second();
