@@ -15,8 +15,14 @@
 
 namespace orby {
 
-// Computes in double precision on every machine.
-using SamplingPolicy = boost::math::policies::policy<boost::math::policies::promote_double<false>>;
+// Computes in double precision on every machine. A result that does not exist is an infinity or a NaN, which FaultOf
+// refuses.
+using SamplingPolicy =
+    boost::math::policies::policy<boost::math::policies::promote_double<false>,
+                                  boost::math::policies::domain_error<boost::math::policies::ignore_error>,
+                                  boost::math::policies::pole_error<boost::math::policies::ignore_error>,
+                                  boost::math::policies::overflow_error<boost::math::policies::ignore_error>,
+                                  boost::math::policies::evaluation_error<boost::math::policies::ignore_error>>;
 
 class PreparedDistribution {
  public:

@@ -1,0 +1,115 @@
+// orby-cli study: from a file beside the project to the probabilities.
+#include <gmock/gmock.h>
+
+#include "companion_run.h"
+
+namespace orby::test {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+// Depth and roof rating of an example vary.
+const std::string Scatter = R"({
+  "format": 1,
+  "inputs": [
+    {"field": "roof rating", "distribution": "measured values", "values": [38, 41, 42, 42, 45, 47, 50, 52, 55, 61]},
+    {"field": "depth of cover", "distribution": "normal", "mean": 600, "deviation": 80, "lowest": 300}
+  ],
+  "rankCorrelations": [[1, -0.3], [-0.3, 1]],
+  "seed": 7,
+  "samples": 20000
+})";
+
+class StudyCommand : public CompanionTest {
+ protected:
+  StudyCommand() { Write("roof.ORB", Read(Example("weak-roof"))); }
+
+  Outcome RunStudy(std::vector<std::string> options) const {
+    options.insert(options.begin(), "study");
+    options.push_back(Path("roof.ORB"));
+    return Run(options);
+  }
+};
+
+TEST_F(StudyCommand, PrintsProbabilitiesFiguresAndRankCorrelations) {
+  Write("roof.study.json", Scatter);
+
+  const Outcome outcome = RunStudy({});
+
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_EQ(outcome.err, "");
+  EXPECT_THAT(outcome.out, StartsWith("20,000 samples in 10 batches, latin hypercube, seed 7.\n"));
+  EXPECT_THAT(outcome.out, HasSubstr("\nJudgement "));
+  EXPECT_THAT(outcome.out, HasSubstr("\nActual PSUP "));
+  EXPECT_THAT(outcome.out, HasSubstr("\nSuggested sum of diagonals, ft "));
+  EXPECT_THAT(outcome.out, HasSubstr("\nRank correlation with "));
+}
+
+TEST_F(StudyCommand, PrintsTheSameBytesForTheSameSeed) {
+  Write("roof.study.json", Scatter);
+  for (const std::string format : {"--json", "--csv"}) {
+    const Outcome stored = RunStudy({format});
+
+    EXPECT_EQ(RunStudy({format, "--seed", "7"}).out, stored.out);
+    EXPECT_NE(RunStudy({format, "--seed", "8"}).out, stored.out);
+  }
+}
+
+TEST_F(StudyCommand, TakesTheNumberOfSamplesFromTheCommandLine) {
+  Write("roof.study.json", Scatter);
+
+  EXPECT_THAT(RunStudy({"--samples", "1000"}).out, StartsWith("1,000 samples in 10 batches"));
+  EXPECT_THAT(RunStudy({"--samples", "1000", "--csv"}).out,
+              StartsWith("kind,item,quantity,value\nstudy,,samples,1000\n"));
+}
+
+TEST_F(StudyCommand, LeavesItsFilesAsTheyAre) {
+  Write("roof.study.json", Scatter);
+
+  RunStudy({});
+
+  EXPECT_EQ(Read(Path("roof.study.json")), Scatter);
+  EXPECT_EQ(Names(), (std::vector<std::string>{"roof.ORB", "roof.study.json"}));
+}
+
+TEST_F(StudyCommand, TellsThatThereIsNoStudy) {
+  const Outcome outcome = RunStudy({});
+
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_EQ(outcome.out, "");
+  EXPECT_EQ(outcome.err, "There is no study " + Path("roof.study.json") + ".\n");
+}
+
+TEST_F(StudyCommand, TellsThatAStudyIsDamagedAndLeavesIt) {
+  Write("roof.study.json", Scatter.substr(0, 100));
+
+  const Outcome outcome = RunStudy({});
+
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_EQ(outcome.err,
+            "The study " + Path("roof.study.json") + " cannot be used. It is not the study of a project.\n");
+  EXPECT_TRUE(Exists(Path("roof.study.json")));
+}
+
+TEST_F(StudyCommand, TellsThatAStudyIsNotPossible) {
+  Write("roof.study.json", Scatter);
+
+  const Outcome outcome = RunStudy({"--samples", "5"});
+
+  EXPECT_EQ(outcome.exitCode, 4);
+  EXPECT_EQ(outcome.err, "The study " + Path("roof.study.json") +
+                             " is not possible. The number of samples must be between 1,000 and 10,000,000.\n");
+}
+
+TEST_F(StudyCommand, PrintsTheUsageForABadCommandLine) {
+  for (const std::vector<std::string>& options : std::vector<std::vector<std::string>>{
+           {"--json", "--csv"}, {"--samples", "many"}, {"--seed", "-1"}, {"--samples"}, {Path("roof.ORB")}}) {
+    const Outcome outcome = RunStudy(options);
+    EXPECT_EQ(outcome.exitCode, 1) << testing::PrintToString(options);
+    EXPECT_THAT(outcome.err, StartsWith("usage: "));
+  }
+}
+
+}  // namespace
+}  // namespace orby::test
