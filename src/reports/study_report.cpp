@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <vector>
 
 #include "base/number_text.h"
@@ -172,7 +173,12 @@ class StudyLines {
 
   void Add(std::string_view kind, std::string_view item, std::string_view quantity, double value) {
     std::array<char, 32> digits{};
-    char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+    // Counts are written without an exponent.
+    constexpr double Most = 1e15;
+    const bool isCount = value == std::floor(value) && std::abs(value) < Most;
+    char* const last = digits.data() + digits.size();
+    char* const end = isCount ? std::to_chars(digits.data(), last, static_cast<std::int64_t>(value)).ptr
+                              : std::to_chars(digits.data(), last, value).ptr;
     text_.append(kind).append(",").append(item).append(",").append(quantity).append(",");
     text_.append(digits.data(), end).append("\n");
   }

@@ -109,6 +109,13 @@ TEST(StudyReport, HasALineForEachNumber) {
                               "figure,entry-bolt-srdi,failed,2000\n"));
 }
 
+TEST(StudyReport, WritesLargeCountsWithAllDigits) {
+  Example example;
+  example.result.Samples = 10'000'000;
+
+  EXPECT_THAT(StudyCsv(example.result, example.study), HasSubstr("study,,samples,10000000\n"));
+}
+
 TEST(StudyReport, NamesJudgementsWithTheirPlace) {
   EXPECT_EQ(VerdictName({Opening::Primary, Aspect::Psup}), "Actual PSUP");
   EXPECT_EQ(VerdictName({Opening::Intersections, Aspect::Standing}), "Standing supports, intersections");
