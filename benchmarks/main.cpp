@@ -269,6 +269,20 @@ void PrintStudySeconds() {
   std::printf("%.2f\n", isComputed ? seconds.count() : 1e6);
 }
 
+using Measure = double (*)(const Design& design, const Catalogs& catalogs);
+
+const std::map<std::string, Measure> Measures{
+    {"integral", ErrorOfIntegral}, {"chart", SecondsOfFigureChart}, {"inverse-chart", SecondsOfSpacingChart}};
+
+// Prints a number about the design of the measured study.
+void PrintOfStudiedDesign(Measure measure) {
+  Bench bench;
+  Design& design = bench.program.project.WorkParms;
+  design.Primary.Analysed = design.Entries.Analysed = design.Intersections.Analysed = 1;
+  MakeStrong(design);
+  std::printf("%.7f\n", measure(design, bench.program.session.catalogs));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -289,9 +303,14 @@ int main(int argc, char** argv) {
     PrintStudySeconds();
     return 0;
   }
+  if (const auto measure = Measures.find(word); measure != Measures.end()) {
+    PrintOfStudiedDesign(measure->second);
+    return 0;
+  }
   const auto step = Steps.find(argc > 2 ? argv[2] : "");
   if (word != "run" || step == Steps.end()) {
-    std::fputs("usage: orby-bench list | run NAME | rate | pattern-rate | study\n", stderr);
+    std::fputs("usage: orby-bench list | run NAME | rate | pattern-rate | study | integral | chart | inverse-chart\n",
+               stderr);
     return 1;
   }
   step->second();

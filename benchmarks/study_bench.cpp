@@ -1,6 +1,29 @@
 #include "study_bench.h"
 
+#include <chrono>
+#include <cmath>
+#include <numbers>
+
+#include "sampling/design_chart.h"
+
 namespace orby {
+namespace {
+
+const SingleField Rating([](auto& d) { return &d.Place.CMRR; });
+const SingleField Depth([](auto& d) { return &d.Place.DepthofCover; });
+constexpr StudiedVerdict OnPsup{Opening::Primary, Aspect::Psup};
+
+template <class Act>
+double SecondsOf(const Act& act) {
+  const auto began = std::chrono::steady_clock::now();
+  act();
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - began).count();
+}
+
+ChartAxis DepthAxis() { return {Depth, EvenValues(200, 1500, 200)}; }
+ChartAxis RatingAxis() { return {Rating, EvenValues(30, 80, 200)}; }
+
+}  // namespace
 
 StudyResult RunMeasuredStudy(const Design& design, const Catalogs& catalogs) {
   Study study;
@@ -20,6 +43,37 @@ StudyResult RunMeasuredStudy(const Design& design, const Catalogs& catalogs) {
   study.Spearman(0, 6) = study.Spearman(6, 0) = -0.5;
   study.Samples = 1'000'000;
   return RunStudy(design, catalogs, study);
+}
+
+double ErrorOfIntegral(const Design& design, const Catalogs& catalogs) {
+  constexpr double Deviation = 2.5;
+  const double limit = Analyze(design, catalogs).Suggested.Value().SuggestedSpan;
+  const double mean = limit - 3;
+  Study study;
+  study.Inputs = {
+      {"sum of the diagonals", [](auto& d) { return &d.Place.ActualSpanDiagonals; }, {NormalLaw{mean, Deviation}}}};
+  study.Samples = Study::MostSamples;
+  study.Figures = {"suggested-span"};
+  const StudyResult result = RunStudy(design, catalogs, study);
+  const double exact = 0.5 * std::erfc((limit - mean) / Deviation / std::numbers::sqrt2);
+  for (const VerdictResult& verdict : result.Verdicts) {
+    if (verdict.Judged == StudiedVerdict{Opening::Primary, Aspect::Span}) return std::abs(verdict.Probability - exact);
+  }
+  return 1;
+}
+
+double SecondsOfFigureChart(const Design& design, const Catalogs& catalogs) {
+  return SecondsOf([&] {
+    static_cast<void>(
+        ChartFigure(design, catalogs, *FigureWithKey("suggested-psup"), OnPsup, DepthAxis(), RatingAxis()));
+  });
+}
+
+double SecondsOfSpacingChart(const Design& design, const Catalogs& catalogs) {
+  const StudiedVerdict judged[] = {OnPsup};
+  const ChosenNumber spacing{[](auto& d) { return &d.Primary.RowSpacing; }, 1, 20, {10}};
+  return SecondsOf(
+      [&] { static_cast<void>(ChartNumberThatHolds(design, catalogs, judged, spacing, DepthAxis(), RatingAxis())); });
 }
 
 }  // namespace orby

@@ -1,7 +1,7 @@
 #include <algorithm>
-#include <atomic>
-#include <thread>
+#include <functional>
 
+#include "sampling/in_parallel.h"
 #include "sampling/ranks.h"
 #include "sampling/study_gathering.h"
 
@@ -12,17 +12,8 @@ using Column = std::vector<Single>;
 
 bool HasValue(Single value) { return value == value; }
 
-// Calls act(0) to act(count - 1), shared out among threads.
-template <class Act>
-void InParallel(std::size_t count, unsigned threads, const Act& act) {
-  std::atomic<std::size_t> next{0};
-  const auto work = [&] {
-    for (std::size_t i = next++; i < count; i = next++) act(i);
-  };
-  std::vector<std::thread> others;
-  for (unsigned i = 1; i < threads && i < count; ++i) others.emplace_back(work);
-  work();
-  for (std::thread& other : others) other.join();
+bool IsConstant(const Column& figure) {
+  return std::ranges::adjacent_find(figure, std::not_equal_to<>()) == figure.end();
 }
 
 // Only samples in which the figure has a value count.
@@ -52,6 +43,10 @@ void FindRankCorrelations(StudyResult& result, unsigned threads) {
     auto& correlations = result.Figures[i].RankCorrelations;
     if (!std::ranges::all_of(figure, HasValue)) {
       correlations = CorrelationsOfRest(figure, chosen.Inputs);
+      return;
+    }
+    if (IsConstant(figure)) {
+      correlations.resize(chosen.Inputs.size());
       return;
     }
     const std::vector<float> ranks = RanksOf(figure);
