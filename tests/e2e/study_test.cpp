@@ -9,21 +9,12 @@ namespace {
 using testing::HasSubstr;
 using testing::StartsWith;
 
-// Depth and roof rating of an example vary.
-const std::string Scatter = R"({
-  "format": 1,
-  "inputs": [
-    {"field": "roof rating", "distribution": "measured values", "values": [38, 41, 42, 42, 45, 47, 50, 52, 55, 61]},
-    {"field": "depth of cover", "distribution": "normal", "mean": 600, "deviation": 80, "lowest": 300}
-  ],
-  "rankCorrelations": [[1, -0.3], [-0.3, 1]],
-  "seed": 7,
-  "samples": 20000
-})";
-
 class StudyCommand : public CompanionTest {
  protected:
   StudyCommand() { Write("roof.ORB", Read(Example("weak-roof"))); }
+
+  // Depth and roof rating vary.
+  const std::string Scatter = Read(std::string(TEST_DATA_DIR) + "/studies/roof.study.json");
 
   Outcome RunStudy(std::vector<std::string> options) const {
     options.insert(options.begin(), "study");
