@@ -8,6 +8,7 @@
 
 #include "base/number_text.h"
 #include "base/text.h"
+#include "sampling/prepared_distribution.h"
 
 namespace orby {
 namespace {

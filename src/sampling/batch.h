@@ -7,14 +7,9 @@
 
 #include "sampling/correlation.h"
 #include "sampling/prepared_distribution.h"
+#include "sampling/scheme.h"
 
 namespace orby {
-
-enum class Scheme : std::uint8_t {
-  LatinHypercube,  // in each batch every input has one sample in each of as many equally probable strata
-  Sobol,           // the points of a Sobol sequence, scrambled anew for each batch
-  Random,
-};
 
 // Columns of numbers, one for each input, as long as the batch.
 class SampleTable {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "design/catalog_lists.h"
+#include "sampling/batch.h"
 #include "sampling/statistics.h"
 #include "sampling/study.h"
 

@@ -14,14 +14,15 @@ template <auto Part, auto Member>
 FigureValue MemberOf(const Figures& figures) noexcept {
   const auto& part = figures.*Part;
   if (!part.IsThere()) return NoValue(part.Error());
-  return {part.Value().*Member, 0};
+  return {part.ValueOr({}).*Member, 0};
 }
 
 template <auto Support>
 FigureValue RockLoadOf(const Figures& figures) noexcept {
   const auto& load = (figures.*Support).RockLoad;
   if (!load.IsThere()) return NoValue(load.Error());
-  return load.Value() ? FigureValue{*load.Value(), 0} : NoValue(0);
+  const std::optional<Single> value = load.ValueOr({});
+  return value ? FigureValue{*value, 0} : NoValue(0);
 }
 
 template <auto Support, std::size_t System, auto Member>
@@ -31,7 +32,8 @@ FigureValue SystemOf(const Figures& figures) noexcept {
   if (!load.IsThere()) return NoValue(load.Error());
   const auto& result = (figures.*Support).Systems[System];
   if (!result.IsThere()) return NoValue(result.Error());
-  return result.Value() ? FigureValue{(*result.Value()).*Member, 0} : NoValue(0);
+  const std::optional<SupportResult> value = result.ValueOr({});
+  return value ? FigureValue{(*value).*Member, 0} : NoValue(0);
 }
 
 bool HasPrimary(const RoofSupport& design) { return design.Primary.Analysed == 1; }

@@ -7,7 +7,9 @@
 #include <vector>
 
 #include "design/field.h"
-#include "sampling/batch.h"
+#include "sampling/correlation.h"
+#include "sampling/distribution.h"
+#include "sampling/scheme.h"
 
 namespace orby {
 

@@ -1,6 +1,8 @@
 // orby-cli study: from a file beside the project to the probabilities.
 #include <gmock/gmock.h>
 
+#include <nlohmann/json.hpp>
+
 #include "companion_run.h"
 
 namespace orby::test {
@@ -45,6 +47,48 @@ TEST_F(StudyCommand, PrintsTheSameBytesForTheSameSeed) {
     EXPECT_EQ(RunStudy({format, "--seed", "7"}).out, stored.out);
     EXPECT_NE(RunStudy({format, "--seed", "8"}).out, stored.out);
   }
+}
+
+TEST_F(StudyCommand, PrintsAllNumbersAsJson) {
+  Write("roof.study.json", Scatter);
+
+  const auto json = nlohmann::json::parse(RunStudy({"--json"}).out);
+  const std::string lines = RunStudy({"--csv"}).out;
+
+  EXPECT_EQ(json["format"], 1);
+  EXPECT_EQ(json["units"], "english");
+  EXPECT_EQ(json["seed"], "7");
+  EXPECT_EQ(json["samples"], 20000);
+  EXPECT_NEAR(json["inputs"][0]["mean"].get<double>(), 47.3, 1e-12);
+  for (const auto& judgement : json["judgements"]) {
+    const std::string item = judgement["where"].get<std::string>() + "." + judgement["what"].get<std::string>();
+    const int judged = judgement["holds"].get<int>() + judgement["check"].get<int>() + judgement["short"].get<int>();
+    EXPECT_EQ(judged + judgement["uncomputed"].get<int>(), 20000) << item;
+    EXPECT_DOUBLE_EQ(judgement["probability"].get<double>(), judgement["short"].get<double>() / judged) << item;
+    EXPECT_LE(judgement["low"], judgement["probability"]);
+    EXPECT_GE(judgement["high"], judgement["probability"]);
+    EXPECT_THAT(lines, HasSubstr("\njudgement," + item + ",short," + judgement["short"].dump() + "\n"));
+  }
+  for (const auto& figure : json["figures"]) {
+    double sum = 0;
+    for (const auto& count : figure["histogram"]["counts"]) sum += count.get<double>();
+    EXPECT_EQ(sum, figure["values"].get<double>()) << figure["key"];
+    EXPECT_LE(figure["least"], figure["percentiles"]["5"]);
+    EXPECT_LE(figure["percentiles"]["5"], figure["percentiles"]["95"]);
+    EXPECT_LE(figure["percentiles"]["95"], figure["greatest"]);
+    EXPECT_TRUE(figure["rankCorrelations"].contains("depth of cover"));
+  }
+}
+
+TEST_F(StudyCommand, HasTheUnitsOfAMetricDesign) {
+  Write("metric.ORB", Read(Example("australian-grade-metric")));
+  Write("metric.study.json", R"({"format": 1, "samples": 1000, "inputs": [
+    {"field": "depth of cover", "distribution": "uniform", "least": 150, "greatest": 250}]})");
+
+  const auto json = nlohmann::json::parse(Run({"study", "--json", Path("metric.ORB")}).out);
+
+  EXPECT_EQ(json["units"], "metric");
+  EXPECT_EQ(json["figures"][0]["unit"], "m");
 }
 
 TEST_F(StudyCommand, TakesTheNumberOfSamplesFromTheCommandLine) {
