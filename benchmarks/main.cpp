@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cstdio>
 #include <ctime>
 #include <functional>
@@ -20,6 +21,7 @@
 #include "reports/input_echo.h"
 #include "shell/start_up.h"
 #include "studies/pattern_search.h"
+#include "study_bench.h"
 #include "support/recording_platform.h"
 
 namespace {
@@ -253,6 +255,44 @@ void PrintPatternRate() {
   std::printf("%.0f\n", least);
 }
 
+// Analyses everything, with bolts of a manual selection.
+const Design& MakeStudied(Design& design) {
+  design.Primary.Analysed = design.Entries.Analysed = design.Intersections.Analysed = 1;
+  MakeStrong(design);
+  for (BoltSelection* set : design.BoltSets()) {
+    set->Options = BoltSource::Manual;
+    set->DiameterStd = 0.75F;
+    set->GradeStd = 75;
+    set->BoltsperRow = 4;
+    set->Number = 10;
+  }
+  return design;
+}
+
+// Prints the seconds of a study of a million samples.
+void PrintStudySeconds() {
+  Bench bench;
+  const Design& design = MakeStudied(bench.program.project.WorkParms);
+  const auto began = std::chrono::steady_clock::now();
+  const StudyResult result = RunMeasuredStudy(design, bench.program.session.catalogs);
+  const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - began;
+  const bool isComputed = std::ranges::all_of(
+      result.Figures, [&](const FigureResult& figure) { return figure.Sums.Count() == result.Samples; });
+  std::printf("%.2f\n", isComputed ? seconds.count() : 1e6);
+}
+
+using Measure = double (*)(const Design& design, const Catalogs& catalogs);
+
+const std::map<std::string, Measure> Measures{
+    {"integral", ErrorOfIntegral}, {"chart", SecondsOfFigureChart}, {"inverse-chart", SecondsOfSpacingChart}};
+
+// Prints a number about the design of the measured study.
+void PrintOfStudiedDesign(Measure measure) {
+  Bench bench;
+  const Design& design = MakeStudied(bench.program.project.WorkParms);
+  std::printf("%.7f\n", measure(design, bench.program.session.catalogs));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -269,9 +309,18 @@ int main(int argc, char** argv) {
     PrintPatternRate();
     return 0;
   }
+  if (word == "study") {
+    PrintStudySeconds();
+    return 0;
+  }
+  if (const auto measure = Measures.find(word); measure != Measures.end()) {
+    PrintOfStudiedDesign(measure->second);
+    return 0;
+  }
   const auto step = Steps.find(argc > 2 ? argv[2] : "");
   if (word != "run" || step == Steps.end()) {
-    std::fputs("usage: orby-bench list | run NAME | rate | pattern-rate\n", stderr);
+    std::fputs("usage: orby-bench list | run NAME | rate | pattern-rate | study | integral | chart | inverse-chart\n",
+               stderr);
     return 1;
   }
   step->second();

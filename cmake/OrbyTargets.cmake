@@ -55,6 +55,17 @@ function(orby_library name)
   endif()
 endfunction()
 
+# orby_header_library(name folder header): the library orby_<name> of headers alone, which are in a folder of the machine's
+# headers. Compilers for other machines find this folder too, and none of the other headers.
+function(orby_header_library name folder header)
+  find_path(ORBY_${name}_HEADERS ${folder}/${header} PATHS /usr/local/include /usr/include NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+  set(headers ${CMAKE_BINARY_DIR}/headers)
+  file(MAKE_DIRECTORY ${headers})
+  file(CREATE_LINK ${ORBY_${name}_HEADERS}/${folder} ${headers}/${folder} SYMBOLIC)
+  add_library(orby_${name} INTERFACE)
+  target_include_directories(orby_${name} SYSTEM INTERFACE ${headers})
+endfunction()
+
 # A test needs its lines in a trace, not the whole of the templates that it is made of. Wine shows no traces.
 if(NOT WIN32)
   set(ORBY_TEST_OPTIONS $<$<CONFIG:Debug>:-g1>)

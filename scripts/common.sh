@@ -4,7 +4,8 @@
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 # package=probe: the package is present if its probe is an existing command or path (pattern).
-build_packages=(g++=g++ cmake=cmake ninja-build=ninja)
+build_packages=(g++=g++ cmake=cmake ninja-build=ninja libboost-dev=/usr/include/boost/math/distributions.hpp
+  nlohmann-json3-dev=/usr/include/nlohmann/json.hpp)
 toolkit_packages=(qt6-base-dev=/usr/lib/*/cmake/Qt6Widgets libqcustomplot-dev=/usr/lib/*/cmake/QCustomPlotQt6 libxlsxwriter-dev=/usr/include/xlsxwriter.h
   libchm-dev=/usr/include/chm_lib.h zlib1g-dev=/usr/include/zlib.h)
 test_packages=(libgtest-dev=/usr/include/gtest/gtest.h libgmock-dev=/usr/include/gmock/gmock.h

@@ -22,4 +22,7 @@ std::string ProgramFolder();
 // Returns true if windows can be shown.
 bool HasDisplay();
 
+// Returns true if standard error is a terminal, where a user may follow the progress.
+bool ErrorsGoToTerminal();
+
 }  // namespace orby

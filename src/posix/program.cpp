@@ -1,5 +1,7 @@
 #include "machine/program.h"
 
+#include <unistd.h>
+
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
@@ -27,5 +29,7 @@ bool HasDisplay() {
   }
   return false;
 }
+
+bool ErrorsGoToTerminal() { return isatty(STDERR_FILENO) == 1; }
 
 }  // namespace orby

@@ -42,4 +42,6 @@ std::string ProgramFolder() {
 
 bool HasDisplay() { return true; }
 
+bool ErrorsGoToTerminal() { return _isatty(_fileno(stderr)) != 0; }
+
 }  // namespace orby

@@ -1,7 +1,19 @@
 #include "apps/orby-cli/command_line.h"
 
+#include <charconv>
+
 namespace orby::cli {
 namespace {
+
+// Returns the number that the whole text is.
+std::optional<std::uint64_t> WholeNumber(const std::optional<std::string>& text) {
+  if (!text) return std::nullopt;
+  std::uint64_t number = 0;
+  const char* end = text->data() + text->size();
+  const auto [read, error] = std::from_chars(text->data(), end, number);
+  if (error != std::errc() || read != end) return std::nullopt;
+  return number;
+}
 
 // Returns the words of the command line one by one.
 class Words {
@@ -29,6 +41,10 @@ bool TakeOption(const std::string& option, Words& words, CommandLine& line) {
   if (option == "--config") return (line.Config = words.TakeValue()).has_value();
   if (option == "--to") return (line.To = words.TakeValue()).has_value();
   if (option == "--as") return (line.As = words.TakeValue()).has_value();
+  if (option == "--samples") return (line.Samples = WholeNumber(words.TakeValue())).has_value();
+  if (option == "--seed") return (line.Seed = WholeNumber(words.TakeValue())).has_value();
+  if (option == "--json") return line.Json = true;
+  if (option == "--csv") return line.Csv = true;
   if (option == "--page") {
     const auto page = words.TakeValue();
     if (page != "0" && page != "1") return false;

@@ -1,6 +1,7 @@
 // Parses the command line of orby-cli.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -15,8 +16,12 @@ struct CommandLine {
   std::optional<std::string> Name;  // the name that the report shows instead of the file's path
   bool AustralianTable = false;
   std::optional<std::string> Config;
-  std::optional<std::string> To;  // folder of the sheets of several files
-  std::optional<std::string> As;  // their format: "html"
+  std::optional<std::string> To;         // folder of the sheets of several files
+  std::optional<std::string> As;         // their format: "html"
+  std::optional<std::uint64_t> Samples;  // of a study, instead of those that it stores
+  std::optional<std::uint64_t> Seed;     // likewise
+  bool Json = false;                     // of a study
+  bool Csv = false;                      // likewise
   bool Help = false;
 };
 

@@ -7,6 +7,7 @@
 #include <set>
 
 #include "apps/orby-cli/script_platform.h"
+#include "apps/orby-cli/study_command.h"
 #include "base/paths.h"
 #include "base/runtime_error.h"
 #include "core/messages.h"
@@ -42,9 +43,12 @@ const std::string_view UsageText = R"(usage: orby-cli COMMAND [OPTION]... FILE..
   sheet FILE OUT                             the calculation sheet, written to OUT as .html, .md, .txt or .json;
                                              "-" writes .json to standard output
   sheet --to FOLDER --as FORMAT FILE...      the same for several files: FORMAT is html, md, txt or json
+  study [--json|--csv] FILE                  how sure the figures are: runs NAME.study.json beside NAME.ORB
 
   --name TEXT     the file name that the report shows
   --aus           the Australian bolt table (Metric projects)
+  --samples N     of a study, instead of the number that it stores
+  --seed S        likewise
   --config INI    defaults and catalogs from this configuration file
   --help          this text
 
@@ -195,6 +199,13 @@ ExitCode Convert(FileRun& run, const std::string& out) {
   return ExitCode::Done;
 }
 
+ExitCode StudyOf(FileRun& run, const std::string&) {
+  const StudyOutput output = RunStoredStudy(run.program, run.line.Operands.front(), run.line);
+  std::fwrite(output.Message.data(), 1, output.Message.size(), stderr);
+  Print(output.Text);
+  return output.Code;
+}
+
 struct SheetFormatEntry {
   std::string_view Ending;
   std::string (*Write)(const DesignSheet& sheet);
@@ -245,7 +256,7 @@ bool HaveSheetsOfTheirOwn(const CommandLine& line) {
 bool IsCurveNumber(const std::string& word) { return word.size() == 1 && word[0] >= '0' && word[0] <= '9'; }
 
 // The operands of a command: only files, or one file with another word before or after it.
-enum class Shape { Files, OneFile, NumberFile, FileOut, Sheets };
+enum class Shape { Files, OneFile, NumberFile, FileOut, Sheets, OneStudy };
 
 struct Command {
   std::string_view name;
@@ -259,7 +270,7 @@ constexpr std::array Commands{
     Command{"curve", Shape::NumberFile, CurveOf},    Command{"live", Shape::OneFile, Live},
     Command{"verdicts", Shape::Files, ListVerdicts}, Command{"validate", Shape::OneFile, Validate},
     Command{"save", Shape::FileOut, Save},           Command{"convert", Shape::FileOut, Convert},
-    Command{"sheet", Shape::Sheets, WriteSheet},
+    Command{"sheet", Shape::Sheets, WriteSheet},     Command{"study", Shape::OneStudy, StudyOf},
 };
 
 bool FitsSheets(const CommandLine& line) {
@@ -277,6 +288,7 @@ bool FitsShape(const CommandLine& line, Shape shape) {
     case Shape::NumberFile: return operands.size() == 2 && IsCurveNumber(operands[0]);
     case Shape::FileOut: return operands.size() == 2;
     case Shape::Sheets: return FitsSheets(line);
+    case Shape::OneStudy: return operands.size() == 1 && !(line.Json && line.Csv);
   }
   return false;
 }

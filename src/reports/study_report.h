@@ -1,0 +1,24 @@
+// The result of a study as texts.
+#pragma once
+
+#include <string>
+
+#include "design/units.h"
+#include "sampling/study_run.h"
+
+namespace orby {
+
+// Returns the name of a judgement with its place: "Cable bolts, entries". Those of primary support have no place.
+std::string VerdictName(const StudiedVerdict& verdict);
+
+// Returns "latin hypercube", "sobol" or "random".
+std::string_view SchemeName(Scheme scheme);
+
+// Returns tables to read: the probability that each judgement falls short, the figures in the units of the design, and
+// their rank correlations with the inputs.
+std::string StudyText(const StudyResult& result, const Study& study, UnitSystem units);
+
+// Returns a line "kind,item,quantity,value" for each number, with all its digits, after a line with these four words.
+std::string StudyCsv(const StudyResult& result, const Study& study);
+
+}  // namespace orby
