@@ -1,21 +1,13 @@
 #include "reports/sensitivity_report.h"
 
-#include <array>
-
 #include "base/number_text.h"
-#include "reports/design_numbers.h"
 #include "reports/text_table.h"
-#include "sampling/sensitivity.h"
 
 namespace orby {
 namespace {
 
 constexpr NumberPattern EffectPattern{"0.000"};
 constexpr std::string_view NoEffectText = "--";
-
-std::string ValueText(const FigureValue& value) {
-  return value.IsThere() ? FormatNumber(value.Value, EffectPattern) : std::string(NoEffectText);
-}
 
 std::string WithUnitOf(std::string name, UnitSuffix unit, UnitSystem units) {
   if (unit != UnitSuffix::None) name.append(" (").append(UnitOf(unit, units)).append(")");
@@ -32,52 +24,79 @@ std::string_view OpeningText(Opening where) {
   return Places.at(static_cast<std::size_t>(where));
 }
 
-std::vector<VariedRange> RangesOf(const Design& design, double share, std::vector<const DesignNumber*>& numbers) {
+// Returns the range with other ends. Its steps stay, unless it is narrower than some of them.
+VariedRange Between(VariedRange range, Single low, Single high) {
+  constexpr int Finest = 100'000;
+  range.Low = low;
+  range.High = high;
+  const double width = static_cast<double>(high) - low;
+  while (range.Steps.PerUnit < Finest && width * range.Steps.PerUnit < 20) range.Steps.PerUnit *= 10;
+  return range;
+}
+
+std::vector<VariedRange> RangesOf(const Design& design, double share, const GivenRanges& given,
+                                  std::vector<NumberEffect>& effects) {
   std::vector<VariedRange> ranges;
   for (const DesignNumber* number : NumbersInUse(design)) {
-    if (auto range = RangeAround(design, NameOf(*number), number->Field, share)) {
-      ranges.push_back(std::move(*range));
-      numbers.push_back(number);
+    std::optional<VariedRange> range = RangeAround(design, NameOf(*number), number->Field, share);
+    if (const auto found = given.find(number); found != given.end()) {
+      if (!range) range = VariedRange{.Name = NameOf(*number), .Field = number->Field};
+      range = Between(std::move(*range), found->second.first, found->second.second);
     }
+    if (!range) continue;
+    ranges.push_back(std::move(*range));
+    effects.push_back({.Number = number, .Row = {.Range = ranges.back(), .AtLow = {}, .AtHigh = {}, .Turns = {}}});
   }
   return ranges;
 }
 
-// The rows of the table and the lines below it.
-class SensitivityLines {
- public:
-  SensitivityLines(const Design& design, const std::vector<const DesignNumber*>& numbers)
-      : design_(design), numbers_(numbers) {}
-
-  void Add(const SensitivityRow& row, std::size_t place) {
-    const DesignNumber& number = *numbers_[place];
-    for (const TurningPoint& turn : row.Turns) {
-      turns_ += row.Range.Name + ": " + TurnText(turn, UnitOf(number.Unit, design_.Units)) + "\n";
-    }
-    if (row.Swing() == 0 && row.AtLow.IsThere() && row.AtHigh.IsThere()) {
-      without_.append(without_.empty() ? "\nWithout effect on it: " : ", ").append(row.Range.Name);
-      return;
-    }
-    table_.Add({WithUnitOf(row.Range.Name, number.Unit, design_.Units), NumberText(number.Field.In(design_)),
-                NumberText(row.Range.Low), NumberText(row.Range.High), ValueText(row.AtLow), ValueText(row.AtHigh),
-                FormatNumber(row.Swing(), EffectPattern)});
-  }
-
-  std::string Text() const {
-    std::string text = table_.Text() + without_;
-    if (!without_.empty()) text += ".\n";
-    return turns_.empty() ? text : text + "\nWhere judgements change:\n\n" + turns_;
-  }
-
- private:
-  const Design& design_;
-  const std::vector<const DesignNumber*>& numbers_;
-  TextTable table_{{"Number", "value", "low", "high", "at low", "at high", "swing"}};
-  std::string without_;
-  std::string turns_;
-};
-
 }  // namespace
+
+std::vector<NumberEffect> EffectsOn(const Design& design, const Catalogs& catalogs, const StudiedFigure& figure,
+                                    double share, const GivenRanges& ranges) {
+  std::vector<NumberEffect> effects;
+  std::vector<SensitivityRow> rows =
+      FindSensitivity(design, catalogs, figure, RangesOf(design, share, ranges, effects));
+  for (std::size_t i = 0; i < rows.size(); ++i) effects[i].Row = std::move(rows[i]);
+  return effects;
+}
+
+std::vector<std::size_t> GreatestFirst(const std::vector<NumberEffect>& effects) {
+  std::vector<SensitivityRow> rows;
+  for (const NumberEffect& effect : effects) rows.push_back(effect.Row);
+  return BySwing(rows);
+}
+
+bool HasNoEffect(const NumberEffect& effect) {
+  return effect.Row.AtLow.IsThere() && effect.Row.AtHigh.IsThere() && effect.Row.Swing() == 0;
+}
+
+std::vector<std::string> CellsOf(const NumberEffect& effect, const Design& design) {
+  const SensitivityRow& row = effect.Row;
+  return {WithUnitOf(row.Range.Name, effect.Number->Unit, design.Units),
+          NumberText(row.Range.Field.In(design)),
+          NumberText(row.Range.Low),
+          NumberText(row.Range.High),
+          EffectText(row.AtLow),
+          EffectText(row.AtHigh),
+          FormatNumber(row.Swing(), EffectPattern)};
+}
+
+std::string EffectText(const FigureValue& value) {
+  return value.IsThere() ? FormatNumber(value.Value, EffectPattern) : std::string(NoEffectText);
+}
+
+std::string NameOf(const StudiedFigure& figure, UnitSystem units) {
+  return WithUnitOf(std::string(figure.Name), figure.Unit, units);
+}
+
+std::vector<std::string> TurnLines(const NumberEffect& effect, UnitSystem units) {
+  std::vector<std::string> lines;
+  for (const TurningPoint& turn : effect.Row.Turns) {
+    lines.push_back(effect.Row.Range.Name + ": " + TurnText(turn, UnitOf(effect.Number->Unit, units)));
+  }
+  return lines;
+}
 
 std::string TurnText(const TurningPoint& turn, std::string_view unit) {
   std::string text(AspectName(turn.Judged.What));
@@ -90,14 +109,24 @@ std::string TurnText(const TurningPoint& turn, std::string_view unit) {
 std::string SensitivityText(const Design& design, const Catalogs& catalogs, const StudiedFigure& figure, double share) {
   VariedDesign present(design, catalogs);
   present.Refresh();
-  std::string text = WithUnitOf(std::string(figure.Name), figure.Unit, design.Units) + ": ";
-  text += ValueText(figure.Of(present.Analysed())) + "\n";
+  std::string text = NameOf(figure, design.Units) + ": " + EffectText(figure.Of(present.Analysed())) + "\n";
   text += "Each number alone, less and more by " + NumberText(ToSingle(share * 100)) + " %:\n\n";
-  std::vector<const DesignNumber*> numbers;
-  const std::vector<SensitivityRow> rows = FindSensitivity(design, catalogs, figure, RangesOf(design, share, numbers));
-  SensitivityLines lines(design, numbers);
-  for (const std::size_t place : BySwing(rows)) lines.Add(rows[place], place);
-  return text + lines.Text();
+  const std::vector<NumberEffect> effects = EffectsOn(design, catalogs, figure, share);
+  TextTable table({EffectHeads.begin(), EffectHeads.end()});
+  std::string without;
+  std::string turns;
+  for (const std::size_t place : GreatestFirst(effects)) {
+    const NumberEffect& effect = effects[place];
+    for (const std::string& line : TurnLines(effect, design.Units)) turns += line + "\n";
+    if (HasNoEffect(effect)) {
+      without.append(without.empty() ? "\nWithout effect on it: " : ", ").append(effect.Row.Range.Name);
+    } else {
+      table.Add(CellsOf(effect, design));
+    }
+  }
+  text += table.Text() + without;
+  if (!without.empty()) text += ".\n";
+  return turns.empty() ? text : text + "\nWhere judgements change:\n\n" + turns;
 }
 
 }  // namespace orby

@@ -29,6 +29,7 @@
 #include "dialogs/text_browser.h"
 #include "dialogs/unit_calculator_window.h"
 #include "dialogs/update_dialog.h"
+#include "dialogs/what_matters_window.h"
 #include "dialogs/would_hold_window.h"
 #include "shell/main_window.h"
 
@@ -87,6 +88,7 @@ inline constexpr std::array FormMakers{
                 return std::make_unique<SheetWindow>(program, SheetOfProject(program));
               }},
     FormMaker{"frmSignedReport", Plain<SignedReportWindow>},
+    FormMaker{"frmWhatMatters", Plain<WhatMattersWindow>},
     FormMaker{"frmGraph", Plain<GraphWindow>},
     FormMaker{"frmConvert", Plain<ConvertDialog>},
     FormMaker{"frmUnits", Plain<UnitCalculator>},
