@@ -3,9 +3,9 @@
 #include "base/paths.h"
 #include "base/sha256.h"
 #include "core/description.h"
-#include "dialogs/shown_design.h"
 #include "files/kept_project.h"
 #include "files/new_project.h"
+#include "files/shown_design.h"
 #include "sheet/pdf_bookmarks.h"
 
 namespace orby {

@@ -1,4 +1,4 @@
-#include "sheet/json_writer.h"
+#include "base/json_writer.h"
 
 #include <array>
 #include <charconv>
