@@ -1,0 +1,85 @@
+// Project files in real folders.
+#include "tables/project_walk.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+
+#include "machine/disk_files.h"
+#include "support/temporary_folder.h"
+#include "tables/design_table.h"
+#include "tables/rows.h"
+
+namespace orby::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+struct ProjectWalk : testing::Test {
+  void Store(const std::string& name) {
+    files.MakeFolder(std::filesystem::path(folder.At(name)).parent_path().string());
+    folder.Store(name, "ORBY_105\r\n");
+  }
+
+  // Returns the found paths without the test's folder.
+  std::vector<std::string> Found() {
+    std::vector<std::string> paths;
+    for (const FoundProject& project : ProjectsBelow(files, folder.Path())) {
+      paths.push_back(project.Path.substr(folder.Path().size() + 1) + project.Reason);
+    }
+    return paths;
+  }
+
+  const TemporaryFolder folder;
+  DiskFiles files{"/opt/orby"};
+};
+
+TEST_F(ProjectWalk, FindsProjectsInAllFoldersSortedByPath) {
+  for (const char* name : {"south/b.ORB", "north/deep/er/a.orb", "c.Orb", "north/z.ORB", "south/notes.txt", "ORB",
+                           ".hidden/d.ORB", "south/e.ORB.bak"}) {
+    Store(name);
+  }
+
+  EXPECT_THAT(Found(), ElementsAre("c.Orb", "north/deep/er/a.orb", "north/z.ORB", "south/b.ORB"));
+}
+
+TEST_F(ProjectWalk, DoesNotFollowLinksToFolders) {
+  Store("north/a.ORB");
+  std::filesystem::create_directory_symlink(folder.Path(), folder.At("north/up"));
+  std::filesystem::create_directory_symlink(".", folder.At("north/here"));
+
+  EXPECT_THAT(Found(), ElementsAre("north/a.ORB"));
+}
+
+TEST_F(ProjectWalk, FindsNothingInAnEmptyFolder) { EXPECT_THAT(Found(), IsEmpty()); }
+
+TEST_F(ProjectWalk, KeepsFilesOfTheCommandLineAndTheirOrder) {
+  Store("north/b.ORB");
+  Store("north/a.ORB");
+  const std::vector<FoundProject> found =
+      ProjectsOf(files, {folder.At("z.txt"), folder.At("north"), folder.At("north/b.ORB")});
+
+  ASSERT_THAT(found, SizeIs(4));
+  EXPECT_EQ(found[0].Path, folder.At("z.txt"));
+  EXPECT_EQ(found[1].Path, folder.At("north/a.ORB"));
+  EXPECT_EQ(found[2].Path, folder.At("north/b.ORB"));
+  EXPECT_EQ(found[3].Path, folder.At("north/b.ORB"));
+}
+
+TEST(AFolderThatCannotBeRead, IsARowWithItsReason) {
+  TableRun run;
+  run.platform.files.Fail(MemoryFiles::Step::ListFolders, error_number::PathFileAccess);
+
+  const std::vector<FoundProject> found = ProjectsBelow(run.platform.files, "/mine/north");
+
+  ASSERT_THAT(found, SizeIs(1));
+  EXPECT_EQ(found[0].Reason, "Path/File access error");
+  const std::vector<TableRow> rows = ReadRows(RowMaker(run.program), run.platform.files, found);
+  EXPECT_EQ(rows.at(0).File, "/mine/north");
+  EXPECT_EQ(rows.at(0).Reason, "Path/File access error");
+}
+
+}  // namespace
+}  // namespace orby::test
