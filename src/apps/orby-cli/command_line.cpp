@@ -20,6 +20,25 @@ class Words {
   std::size_t at_ = 0;
 };
 
+// A table has one format.
+bool TakeTableFormat(std::string_view format, CommandLine& line) {
+  if (!line.TableFormat.empty()) return false;
+  line.TableFormat = format;
+  return true;
+}
+
+bool TakeTableOption(const std::string& option, Words& words, CommandLine& line) {
+  if (option == "--csv") return TakeTableFormat("csv", line);
+  if (option == "--json") return TakeTableFormat("json", line);
+  if (option == "--xlsx") return TakeTableFormat("xlsx", line) && (line.Workbook = words.TakeValue()).has_value();
+  if (option == "--columns") return (line.Columns = words.TakeValue()).has_value();
+  if (option == "--units") {
+    line.Units = words.TakeValue();
+    return line.Units == "english" || line.Units == "metric";
+  }
+  return false;
+}
+
 // Returns false if the option does not exist or lacks its value.
 bool TakeOption(const std::string& option, Words& words, CommandLine& line) {
   if (option == "--help" || option == "-h") return line.Help = true;
@@ -35,7 +54,7 @@ bool TakeOption(const std::string& option, Words& words, CommandLine& line) {
     line.Page = *page == "0" ? 0 : 1;
     return true;
   }
-  return false;
+  return TakeTableOption(option, words, line);
 }
 
 bool IsOption(const std::string& word) { return word.size() > 1 && word.front() == '-'; }

@@ -17,6 +17,11 @@ struct CommandLine {
   std::optional<std::string> Config;
   std::optional<std::string> To;  // folder of the sheets of several files
   std::optional<std::string> As;  // their format: "html"
+  // Of a table of designs.
+  std::string TableFormat;              // "csv", "json", "xlsx"; empty: plain text
+  std::optional<std::string> Workbook;  // the file of an xlsx
+  std::optional<std::string> Columns;   // "overview,depth-of-cover", or "list"
+  std::optional<std::string> Units;     // "english", "metric"
   bool Help = false;
 };
 

@@ -1,0 +1,95 @@
+#include "apps/orby-cli/table_command.h"
+
+#include <cstdio>
+#include <string>
+#include <utility>
+
+#include "apps/orby-cli/print.h"
+#include "base/attempt.h"
+#include "tables/design_table.h"
+
+namespace orby::cli {
+namespace {
+
+constexpr std::string_view ListOfColumns = "list";
+
+// Prints a line for each column: its key, a tab, and its head with the English unit.
+ExitCode ListColumns() {
+  std::string text = "groups: " + std::string(GroupNames) + "\n";
+  for (const Column& column : AllColumns()) text += column.Key + "\t" + HeadText(column, English) + "\n";
+  Print(text);
+  return ExitCode::Done;
+}
+
+// Terminals have no room for all columns.
+std::optional<Columns> ColumnsFor(const CommandLine& line, std::string& unknown) {
+  const std::string usual = line.TableFormat.empty() ? "overview" : "all";
+  return ChosenColumns(line.Columns.value_or(usual), unknown);
+}
+
+// A file that nobody needs after its use.
+class PassingFile {
+ public:
+  PassingFile(FileSystem& files, std::string path) : files_(files), path_(std::move(path)) {}
+  ~PassingFile() {
+    Succeeds([&] { files_.RemoveFile(path_); });
+  }
+  PassingFile(const PassingFile&) = delete;
+  PassingFile& operator=(const PassingFile&) = delete;
+
+  const std::string& Path() const { return path_; }
+
+ private:
+  FileSystem& files_;
+  std::string path_;
+};
+
+// A spreadsheet is made beside the old file, which it replaces when it is complete.
+void WriteSpreadsheet(FileSystem& files, const DesignTable& table, const std::string& out) {
+  std::string path = out + ".part";
+  for (int number = 1; files.Finds(path); ++number) path = out + ".part" + std::to_string(number);
+  const PassingFile beside(files, path);
+  WriteTableWorkbook(table, beside.Path());
+  files.ReplaceFile(out, files.ReadFile(beside.Path()));
+}
+
+void WriteTable(FileSystem& files, const DesignTable& table, const CommandLine& line) {
+  if (line.TableFormat == "csv") {
+    Print(TableAsCsv(table));
+  } else if (line.TableFormat == "json") {
+    Print(TableAsJson(table));
+  } else if (line.TableFormat == "xlsx") {
+    WriteSpreadsheet(files, table, *line.Workbook);
+  } else {
+    Print(TableAsText(table));
+  }
+}
+
+UnitSystem UnitsFor(const CommandLine& line, const std::vector<TableRow>& rows) {
+  if (!line.Units) return CommonUnits(rows);
+  return *line.Units == "metric" ? Metric : English;
+}
+
+}  // namespace
+
+bool FitsTable(const CommandLine& line) { return line.Columns == ListOfColumns || !line.Operands.empty(); }
+
+ExitCode MakeTable(Program& start, const CommandLine& line) {
+  if (line.Columns == ListOfColumns) return ListColumns();
+  std::string unknown;
+  std::optional<Columns> columns = ColumnsFor(line, unknown);
+  if (!columns) {
+    const std::string text = "unknown column: " + unknown + "\n";
+    std::fwrite(text.data(), 1, text.size(), stderr);
+    return ExitCode::Usage;
+  }
+  FileSystem& files = start.platform.files;
+  DesignTable table;
+  table.Rows = ReadRows(RowMaker(start), files, ProjectsOf(files, line.Operands));
+  table.Shown = std::move(*columns);
+  table.Units = UnitsFor(line, table.Rows);
+  WriteTable(files, table, line);
+  return AllAreRead(table.Rows) ? ExitCode::Done : ExitCode::RowsWithoutDesign;
+}
+
+}  // namespace orby::cli
