@@ -10,7 +10,7 @@
 namespace orby::test {
 namespace {
 
-TEST(WorkInPieces, VisitsEachNumberOnce) {
+TEST(WorkInPieces, VisitsEachNumberOnceOnAllThreads) {
   for (const std::size_t count : {0U, 1U, 7U, 64U, 65U, 1000U}) {
     std::vector<std::atomic<int>> visits(count);
     InPieces(count, 8, [&](std::size_t first, std::size_t last) {
@@ -21,7 +21,7 @@ TEST(WorkInPieces, VisitsEachNumberOnce) {
   }
 }
 
-TEST(WorkInPieces, ThrowsWhatAPieceThrows) {
+TEST(WorkInPieces, ThrowsWhatAPieceThrowsOnAnyOfItsThreads) {
   EXPECT_THROW(InPieces(1000, 1,
                         [](std::size_t first, std::size_t) {
                           if (first == 500) throw std::invalid_argument("500");

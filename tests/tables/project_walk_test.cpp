@@ -68,6 +68,30 @@ TEST_F(ProjectWalk, KeepsFilesOfTheCommandLineAndTheirOrder) {
   EXPECT_EQ(found[3].Path, folder.At("north/b.ORB"));
 }
 
+TEST(ProjectRows, ReadByManyThreadsAreThoseOfOne) {
+  const TableRun run;
+  const TemporaryFolder folder;
+  DiskFiles files{"/opt/orby"};
+  for (int i = 0; i < 100; ++i) {
+    for (const char* name : {"weak-roof", "australian-grade-metric", "belt-entry-trusses"}) {
+      std::filesystem::copy_file(std::string(EXAMPLES_DIR) + "/" + name + ".ORB",
+                                 folder.At(std::to_string(i) + name + ".ORB"));
+    }
+  }
+  folder.Store("notes.ORB", "Dear diary\r\n");
+  const std::vector<FoundProject> projects = ProjectsBelow(files, folder.Path());
+  const RowMaker maker(run.program);
+  std::string unknown;
+  DesignTable one;
+  for (const FoundProject& project : projects) one.Rows.push_back(maker.RowOfFile(files, project.Path));
+  DesignTable many;
+  many.Rows = ReadRows(maker, files, projects);
+  one.Shown = many.Shown = ChosenColumns("all", unknown).value();
+
+  ASSERT_THAT(projects, SizeIs(301));
+  EXPECT_EQ(TableAsCsv(many), TableAsCsv(one));
+}
+
 TEST(AFolderThatCannotBeRead, IsARowWithItsReason) {
   TableRun run;
   run.platform.files.Fail(MemoryFiles::Step::ListFolders, error_number::PathFileAccess);
