@@ -53,6 +53,11 @@ void JsonWriter::Null() {
   json_ += "null";
 }
 
+void JsonWriter::Made(std::string_view json) {
+  BeginValue();
+  json_ += json;
+}
+
 void JsonWriter::Text(std::string_view name, std::string_view text) {
   Name(name);
   Text(text);

@@ -1,6 +1,7 @@
 // A table of designs as JSON.
 #include "base/json_writer.h"
 #include "core/version.h"
+#include "tables/all_cores.h"
 #include "tables/design_table.h"
 
 namespace orby {
@@ -21,14 +22,45 @@ void WriteColumns(JsonWriter& json, const DesignTable& table) {
   json.Close();
 }
 
-void WriteValue(JsonWriter& json, const Cell& cell) {
-  if (cell.IsNumber()) {
-    json.Number(SevenDigitValue(cell));
-  } else if (cell.Kind == CellKind::Text) {
-    json.Text(cell.Text);
-  } else {
-    json.Null();
+std::string TextAsJson(std::string_view text) {
+  JsonWriter json;
+  json.Text(text);
+  std::string quoted = json.Take();
+  quoted.pop_back();  // the line end
+  return quoted;
+}
+
+// The names of the members of a row, which are the same in all rows.
+std::vector<std::string> MemberNames(const DesignTable& table) {
+  std::vector<std::string> names;
+  for (const Column* column : table.Shown) {
+    names.push_back((names.empty() ? "" : ", ") + TextAsJson(column->Key) + ": ");
   }
+  return names;
+}
+
+// The text of a number with seven digits is a number of JSON, too.
+std::string ValueAsJson(const Cell& cell) {
+  if (cell.IsNumber()) return NumberText(cell.Value);
+  return cell.Kind == CellKind::Text ? TextAsJson(cell.Text) : "null";
+}
+
+std::vector<std::string> RowsAsJson(const DesignTable& table) {
+  constexpr std::size_t PieceSize = 64;
+  const std::vector<std::string> names = MemberNames(table);
+  std::vector<std::string> rows(table.Rows.size());
+  InPieces(rows.size(), PieceSize, [&](std::size_t first, std::size_t last) {
+    for (std::size_t i = first; i < last; ++i) {
+      std::string& row = rows[i];
+      row = "{";
+      for (std::size_t place = 0; place < names.size(); ++place) {
+        row += names[place];
+        row += ValueAsJson(CellOf(*table.Shown[place], table.Rows[i], table.Units));
+      }
+      row += '}';
+    }
+  });
+  return rows;
 }
 
 }  // namespace
@@ -46,14 +78,7 @@ std::string TableAsJson(const DesignTable& table) {
   WriteColumns(json, table);
   json.Name("rows");
   json.OpenArray();
-  for (const TableRow& row : table.Rows) {
-    json.OpenObject(true);
-    for (const Column* column : table.Shown) {
-      json.Name(column->Key);
-      WriteValue(json, CellOf(*column, row, table.Units));
-    }
-    json.Close();
-  }
+  for (const std::string& row : RowsAsJson(table)) json.Made(row);
   json.Close();
   json.Close();
   return json.Take();

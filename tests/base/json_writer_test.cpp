@@ -40,5 +40,18 @@ TEST(AJsonWriter, IndentsWhatIsNotInOneLine) {
             "{\n  \"a\": \"\\\"\\\\\\n\\u001fä\",\n  \"b\": [],\n  \"c\": {\"d\": true, \"e\": [1, 2]}\n}\n");
 }
 
+TEST(AJsonWriter, PutsMadeValuesInTheirPlaces) {
+  JsonWriter json;
+  json.OpenObject();
+  json.Name("rows");
+  json.OpenArray();
+  json.Made("{\"a\": 1}");
+  json.Made("[]");
+  json.Close();
+  json.Close();
+
+  EXPECT_EQ(json.Take(), "{\n  \"rows\": [\n    {\"a\": 1},\n    []\n  ]\n}\n");
+}
+
 }  // namespace
 }  // namespace orby::test
