@@ -45,9 +45,9 @@ class PieceWork {
 void InPieces(std::size_t count, std::size_t size, const std::function<void(std::size_t, std::size_t)>& work) {
   PieceWork pieces(count, size, work);
   const std::size_t cores = std::max(1U, std::thread::hardware_concurrency());
-  const std::size_t helpers = std::min(cores, (count + size - 1) / size);
+  const std::size_t wanted = std::min(cores, (count + size - 1) / size);
   std::vector<std::jthread> threads;
-  for (std::size_t i = 1; i < helpers; ++i) threads.emplace_back([&pieces] { pieces.Run(); });
+  for (std::size_t i = 1; i < wanted; ++i) threads.emplace_back([&pieces] { pieces.Run(); });
   pieces.Run();
   threads.clear();
   pieces.ThrowFailure();

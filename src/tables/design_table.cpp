@@ -6,19 +6,19 @@
 
 namespace orby {
 
+TableRow ReadRow(const RowMaker& maker, FileSystem& files, const FoundProject& project) {
+  if (project.Reason.empty()) return maker.RowOfFile(files, project.Path);
+  TableRow row;
+  row.File = project.Path;
+  row.Reason = project.Reason;
+  return row;
+}
+
 std::vector<TableRow> ReadRows(const RowMaker& maker, FileSystem& files, const std::vector<FoundProject>& projects) {
   constexpr std::size_t PieceSize = 64;
   std::vector<TableRow> rows(projects.size());
   InPieces(projects.size(), PieceSize, [&](std::size_t first, std::size_t last) {
-    for (std::size_t i = first; i < last; ++i) {
-      const FoundProject& project = projects[i];
-      if (project.Reason.empty()) {
-        rows[i] = maker.RowOfFile(files, project.Path);
-      } else {
-        rows[i].File = project.Path;
-        rows[i].Reason = project.Reason;
-      }
-    }
+    for (std::size_t i = first; i < last; ++i) rows[i] = ReadRow(maker, files, projects[i]);
   });
   return rows;
 }

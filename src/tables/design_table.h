@@ -1,6 +1,7 @@
 // A table of designs: a row a project, with chosen columns in one unit system.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,9 @@ struct DesignTable {
   UnitSystem Units = English;
 };
 
+// Returns the row of a file, or of a folder that cannot be read. May be called on any thread.
+TableRow ReadRow(const RowMaker& maker, FileSystem& files, const FoundProject& project);
+
 // Returns the rows of the files, in their order. Reads them on all cores.
 std::vector<TableRow> ReadRows(const RowMaker& maker, FileSystem& files, const std::vector<FoundProject>& projects);
 
@@ -30,7 +34,14 @@ bool AllAreRead(const std::vector<TableRow>& rows);
 //
 // CSV by RFC 4180: the first line has the heads with their units, numbers have a decimal point and the digits that the
 // program shows.
+// FilesAsCsv reads the files, too, and keeps no rows in memory. Without `units` the table has those of CommonUnits.
 std::string TableAsCsv(const DesignTable& table);
+struct CsvOfFiles {
+  std::string Text;
+  bool AllAreRead = true;
+};
+CsvOfFiles FilesAsCsv(const RowMaker& maker, FileSystem& files, const std::vector<FoundProject>& projects,
+                      const Columns& columns, std::optional<UnitSystem> units);
 // JSON as docs/table-format.md describes it.
 std::string TableAsJson(const DesignTable& table);
 // Columns of the width of their widest text, two blanks apart.

@@ -85,6 +85,29 @@ TEST(ProjectRows, ReadByManyThreadsAreThoseOfOne) {
 
   ASSERT_THAT(projects, SizeIs(301));
   EXPECT_EQ(TableAsCsv(many), TableAsCsv(one));
+  many.Units = one.Units = Metric;
+  EXPECT_EQ(FilesAsCsv(maker, files, projects, one.Shown, Metric).Text, TableAsCsv(one));
+}
+
+// The systems of the examples: one is Metric, the others are English.
+TEST(ProjectRows, AsCsvHaveTheUnitsThatAllTheirDesignsShare) {
+  const TableRun run;
+  DiskFiles files{"/opt/orby"};
+  const RowMaker maker(run.program);
+  std::string unknown;
+  const Columns columns = ChosenColumns("depth-of-cover", unknown).value();
+  const auto csv = [&](const std::vector<std::string>& names) {
+    std::vector<FoundProject> projects;
+    for (const std::string& name : names) projects.push_back({std::string(EXAMPLES_DIR) + "/" + name + ".ORB", {}});
+    const CsvOfFiles made = FilesAsCsv(maker, files, projects, columns, std::nullopt);
+    return (made.AllAreRead ? "" : "some are not read: ") + made.Text;
+  };
+
+  EXPECT_EQ(csv({"australian-grade-metric"}), "Depth of Cover (m)\r\n240\r\n");
+  EXPECT_EQ(csv({"missing", "australian-grade-metric"}), "some are not read: Depth of Cover (m)\r\n\r\n240\r\n");
+  EXPECT_EQ(csv({"australian-grade-metric", "weak-roof"}), "Depth of Cover (ft)\r\n787.4016\r\n1200\r\n");
+  EXPECT_EQ(csv({"weak-roof", "australian-grade-metric"}), "Depth of Cover (ft)\r\n1200\r\n787.4016\r\n");
+  EXPECT_EQ(csv({"missing"}), "some are not read: Depth of Cover (ft)\r\n\r\n");
 }
 
 TEST(AFolderThatCannotBeRead, IsARowWithItsReason) {

@@ -54,9 +54,7 @@ void WriteSpreadsheet(FileSystem& files, const DesignTable& table, const std::st
 }
 
 void WriteTable(FileSystem& files, const DesignTable& table, const CommandLine& line) {
-  if (line.TableFormat == "csv") {
-    Print(TableAsCsv(table));
-  } else if (line.TableFormat == "json") {
+  if (line.TableFormat == "json") {
     Print(TableAsJson(table));
   } else if (line.TableFormat == "xlsx") {
     WriteSpreadsheet(files, table, *line.Workbook);
@@ -65,8 +63,8 @@ void WriteTable(FileSystem& files, const DesignTable& table, const CommandLine& 
   }
 }
 
-UnitSystem UnitsFor(const CommandLine& line, const std::vector<TableRow>& rows) {
-  if (!line.Units) return CommonUnits(rows);
+std::optional<UnitSystem> UnitsOf(const CommandLine& line) {
+  if (!line.Units) return std::nullopt;
   return *line.Units == "metric" ? Metric : English;
 }
 
@@ -84,12 +82,20 @@ ExitCode MakeTable(Program& start, const CommandLine& line) {
     return ExitCode::Usage;
   }
   FileSystem& files = start.platform.files;
+  const RowMaker maker(start);
+  const std::vector<FoundProject> projects = ProjectsOf(files, line.Operands);
+  const auto codeFor = [](bool allAreRead) { return allAreRead ? ExitCode::Done : ExitCode::RowsWithoutDesign; };
+  if (line.TableFormat == "csv") {
+    const CsvOfFiles csv = FilesAsCsv(maker, files, projects, *columns, UnitsOf(line));
+    Print(csv.Text);
+    return codeFor(csv.AllAreRead);
+  }
   DesignTable table;
-  table.Rows = ReadRows(RowMaker(start), files, ProjectsOf(files, line.Operands));
+  table.Rows = ReadRows(maker, files, projects);
   table.Shown = std::move(*columns);
-  table.Units = UnitsFor(line, table.Rows);
+  table.Units = UnitsOf(line).value_or(CommonUnits(table.Rows));
   WriteTable(files, table, line);
-  return AllAreRead(table.Rows) ? ExitCode::Done : ExitCode::RowsWithoutDesign;
+  return codeFor(AllAreRead(table.Rows));
 }
 
 }  // namespace orby::cli
