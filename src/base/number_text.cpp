@@ -123,9 +123,21 @@ void AppendFixed(std::string& text, std::uint64_t digits, int decimals, int mini
   text.append(buffer.data() + whole, static_cast<std::size_t>(count - whole));
 }
 
+// Returns the text of a whole number below a million. Most numbers of a design are such.
+std::optional<std::string> SmallWholeText(double value) {
+  constexpr double Million = 1e6;
+  if (!(std::abs(value) < Million)) return std::nullopt;
+  const auto whole = static_cast<int>(value);
+  if (whole != value) return std::nullopt;
+  std::array<char, 8> buffer{};
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), whole).ptr;
+  return std::string(buffer.data(), end);
+}
+
 template <class Float>
 std::string GeneralText(Float value) {
   constexpr int Places = GeneralDigits<Float>;
+  if (auto whole = SmallWholeText(static_cast<double>(value))) return *whole;
   RoundedDigits rounded = Round(static_cast<double>(value), Places);
   if (rounded.digits == 0) return "0";
   int count = Places;

@@ -1,5 +1,7 @@
 #include "design/choices.h"
 
+#include <cmath>
+
 #include "base/arithmetic.h"
 #include "base/number_text.h"
 
@@ -38,7 +40,17 @@ Single StandingCapacity(const Catalogs& catalogs, UnitSystem units, std::size_t 
   return units == Metric ? kilonewtons : tons;
 }
 
-Single InSevenDigits(Single number) { return NumberOfText(NumberText(number)); }
+Single InSevenDigits(Single number) {
+  // A number of at most six digits is that of its text. Nearly all numbers that are typed are of this kind, and most of
+  // them have three decimals at most.
+  constexpr double Thousand = 1000;
+  constexpr double FirstOfSevenDigits = 1e6;
+  const double thousandths = std::nearbyint(static_cast<double>(number) * Thousand);
+  if (std::abs(thousandths) < FirstOfSevenDigits && static_cast<Single>(thousandths / Thousand) == number) {
+    return number + 0.0F;  // the text of -0 is that of 0
+  }
+  return NumberOfText(NumberText(number));
+}
 
 void TakeTableRow(BoltSelection& set, const BoltTable& table, Integer row) {
   const BoltTableRow& bolt = table[static_cast<std::size_t>(row)];

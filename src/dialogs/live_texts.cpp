@@ -1,6 +1,6 @@
 #include "dialogs/live_texts.h"
 
-#include "dialogs/shown_design.h"
+#include "files/shown_design.h"
 
 namespace orby {
 namespace {

@@ -5,9 +5,9 @@
 #include "base/arithmetic.h"
 #include "base/attempt.h"
 #include "base/number_text.h"
+#include "core/catalog_choice.h"
 #include "core/dialog_helpers.h"
 #include "design/catalogs.h"
-#include "dialogs/catalog_choice.h"
 #include "dialogs/fault_texts.h"
 #include "dialogs/options_dialog.h"
 

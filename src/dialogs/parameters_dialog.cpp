@@ -3,15 +3,15 @@
 #include "base/arithmetic.h"
 #include "base/number_text.h"
 #include "core/act.h"
+#include "core/catalog_choice.h"
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
-#include "dialogs/catalog_choice.h"
 #include "dialogs/copy_clip.h"
 #include "dialogs/estimator_dialog.h"
 #include "dialogs/history_texts.h"
 #include "dialogs/project_report.h"
 #include "dialogs/results_window.h"
-#include "dialogs/shown_design.h"
+#include "files/shown_design.h"
 
 namespace orby {
 namespace {

@@ -2,7 +2,7 @@
 #include "base/text.h"
 #include "core/shared_texts.h"
 #include "dialogs/parameters_dialog.h"
-#include "dialogs/shown_design.h"
+#include "files/shown_design.h"
 
 namespace orby {
 namespace {

@@ -8,8 +8,8 @@
 #include "core/dialog_helpers.h"
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/parameters_fields.h"
-#include "dialogs/shown_design.h"
 #include "files/project_lines.h"
+#include "files/shown_design.h"
 
 namespace orby {
 namespace {

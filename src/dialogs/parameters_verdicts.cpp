@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "dialogs/parameters_dialog.h"
-#include "dialogs/shown_design.h"
 #include "dialogs/verdict_marks.h"
+#include "files/shown_design.h"
 #include "reports/verdict_text.h"
 
 namespace orby {

@@ -5,8 +5,8 @@
 
 #include "base/arithmetic.h"
 #include "base/number_text.h"
+#include "core/catalog_choice.h"
 #include "core/dialog_helpers.h"
-#include "dialogs/catalog_choice.h"
 #include "dialogs/study_texts.h"
 
 namespace orby {

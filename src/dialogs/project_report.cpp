@@ -1,7 +1,7 @@
 #include "dialogs/project_report.h"
 
 #include "base/attempt.h"
-#include "dialogs/shown_design.h"
+#include "files/shown_design.h"
 #include "reports/calculation_report.h"
 #include "reports/input_echo.h"
 

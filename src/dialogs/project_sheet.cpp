@@ -7,9 +7,9 @@
 #include "core/dates.h"
 #include "core/description.h"
 #include "core/messages.h"
-#include "dialogs/shown_design.h"
 #include "files/kept_project.h"
 #include "files/new_project.h"
+#include "files/shown_design.h"
 #include "sheet/pdf_bookmarks.h"
 
 namespace orby {

@@ -10,7 +10,7 @@
 #include "dialogs/curve_command.h"
 #include "dialogs/graph.h"
 #include "dialogs/project_sheet.h"
-#include "dialogs/shown_design.h"
+#include "files/shown_design.h"
 #include "sheet/sheet_content.h"
 #include "sketches/sketches.h"
 

@@ -5,7 +5,7 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "core/dialog_helpers.h"
-#include "dialogs/shown_design.h"
+#include "files/shown_design.h"
 #include "sketches/tornado.h"
 
 namespace orby {

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "config/price_section.h"
+#include "core/catalog_choice.h"
 #include "core/dialog_helpers.h"
-#include "dialogs/catalog_choice.h"
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/study_texts.h"
 

@@ -48,4 +48,14 @@ bool FileOpen(Program& program) {
   return ok;
 }
 
+std::optional<std::string> ReadProjectBytes(FileSystem& files, const std::string& path) {
+  // Nearly every project is shorter.
+  constexpr std::size_t FirstPiece = std::size_t{4} * 1024;
+  const auto file = files.OpenFile(path);
+  std::string bytes = file->Read(FirstPiece);
+  if (!FormatOf(ItemReader(bytes))) return std::nullopt;
+  if (bytes.size() == FirstPiece) ReadRest(*file, bytes);
+  return bytes;
+}
+
 }  // namespace orby

@@ -42,7 +42,7 @@ bool CheckFileFormat(Program& program, ItemReader reader) {
   if (version) {
     program.project.FileVersion = *version;
   } else {
-    ShowMessage(program, "Invalid ORBY file format. File can not be opened.");
+    ShowMessage(program, std::string(InvalidFormat));
   }
   return version.has_value();
 }

@@ -2,11 +2,14 @@
 #pragma once
 
 #include <optional>
+#include <string_view>
 
 #include "core/program.h"
 #include "files/item_reader.h"
 
 namespace orby {
+
+inline constexpr std::string_view InvalidFormat = "Invalid ORBY file format. File can not be opened.";
 
 // Returns the format of the label at the start of the file, or nothing for an unknown label. Throws RuntimeError 62 for
 // an empty file.

@@ -39,8 +39,7 @@ const Wording& WordingOf(const Verdict& verdict) { return Wordings.at(static_cas
 bool IsSystem(Aspect what) { return what >= Aspect::Cables && what <= Aspect::Standing; }
 
 std::string_view UnitText(const Verdict& verdict, UnitSystem units) {
-  UnitSuffix unit = WordingOf(verdict).Unit;
-  if (unit == UnitSuffix::LineLoad && verdict.Where == Opening::Intersections) unit = UnitSuffix::Force;
+  const UnitSuffix unit = VerdictUnit(verdict.What, verdict.Where);
   return unit == UnitSuffix::None ? std::string_view() : UnitName(unit, units);
 }
 
@@ -50,26 +49,18 @@ void Append(std::string& text, const Parts&... parts) {
   (text.append(parts), ...);
 }
 
-// Two numbers that differ have as many decimals as it takes to see it.
-struct NumberPair {
-  std::string Supply;
-  std::string Demand;
-};
-NumberPair TextsOf(const Verdict& verdict) {
-  NumberPair texts;
-  const auto write = [&](NumberPattern pattern) {
-    texts = {FormatNumber(verdict.Supply, pattern), FormatNumber(verdict.Demand, pattern)};
-    return texts.Supply != texts.Demand || verdict.Supply == verdict.Demand;
-  };
-  // The limit of the standard has two decimals.
-  if (verdict.What != Aspect::BoltCapacity && write(OneDecimal)) return texts;
-  if (!write("0.00")) write("0.000");
-  return texts;
+// Returns true if equal numbers are written alike and others in two ways.
+bool TellsApart(NumberPattern pattern, Single a, Single b) {
+  // So far apart, everyday numbers differ in their first decimal. Most numbers need not be written to see it.
+  constexpr double FarApart = 0.2;
+  constexpr double Everyday = 100000;
+  if (std::abs(static_cast<double>(a) - b) > FarApart && std::abs(a) < Everyday && std::abs(b) < Everyday) return true;
+  return a == b || FormatNumber(a, pattern) != FormatNumber(b, pattern);
 }
 
 std::string PercentText(double share) {
   const double percent = std::round(share * 100);
-  return percent < 1 ? "less than 1 %" : FormatNumber(percent, "0") + " %";
+  return (percent < 1 ? std::string(LessThanOne) : FormatNumber(percent, "0")) + " %";
 }
 
 std::string_view ReasonText(const Verdict& verdict) {
@@ -100,15 +91,11 @@ void AppendRemark(std::string& text, const Verdict& verdict) {
 
 void AppendFigures(std::string& text, const Verdict& verdict, UnitSystem units) {
   if (verdict.Result == Holding::Uncomputed) return Append(text, ReasonText(verdict));
-  const NumberPair texts = TextsOf(verdict);
-  Append(text, texts.Supply, " ", WordingOf(verdict).Relation, " ", texts.Demand);
+  const NumberPattern pattern = VerdictPattern(verdict);
+  Append(text, FormatNumber(verdict.Supply, pattern), " ", WordingOf(verdict).Relation, " ",
+         FormatNumber(verdict.Demand, pattern));
   if (const std::string_view unit = UnitText(verdict, units); !unit.empty()) Append(text, " ", unit);
   AppendRemark(text, verdict);
-}
-
-std::string_view HoldingWord(Holding result) {
-  constexpr std::array<std::string_view, 4> Words{"Holds", "Check", "Cannot be computed", "Short"};
-  return Words.at(static_cast<std::size_t>(result));
 }
 
 std::string_view PlaceText(Opening where) {
@@ -117,6 +104,23 @@ std::string_view PlaceText(Opening where) {
 }
 
 }  // namespace
+
+std::string_view HoldingWord(Holding result) {
+  constexpr std::array<std::string_view, 4> Words{"Holds", "Check", "Cannot be computed", "Short"};
+  return Words.at(static_cast<std::size_t>(result));
+}
+
+UnitSuffix VerdictUnit(Aspect what, Opening where) {
+  const UnitSuffix unit = Wordings.at(static_cast<std::size_t>(what)).Unit;
+  return unit == UnitSuffix::LineLoad && where == Opening::Intersections ? UnitSuffix::Force : unit;
+}
+
+NumberPattern VerdictPattern(const Verdict& verdict) {
+  const auto tellsApart = [&](NumberPattern pattern) { return TellsApart(pattern, verdict.Supply, verdict.Demand); };
+  // The limit of the standard has two decimals.
+  if (verdict.What != Aspect::BoltCapacity && tellsApart(OneDecimal)) return OneDecimal;
+  return tellsApart("0.00") ? NumberPattern("0.00") : NumberPattern("0.000");
+}
 
 std::string VerdictFigures(const Verdict& verdict, UnitSystem units) {
   std::string text;
@@ -143,11 +147,11 @@ VerdictCells CellsOf(const Verdict& verdict, UnitSystem units) {
     Append(cells.Result, ": ", ReasonText(verdict));
     return cells;
   }
-  const NumberPair texts = TextsOf(verdict);
+  const NumberPattern pattern = VerdictPattern(verdict);
   std::string unit(UnitText(verdict, units));
   if (!unit.empty()) unit.insert(0, " ");
-  cells.Supply = texts.Supply + unit;
-  cells.Limit = (IsUpperLimit(verdict.What) ? "at most " : "at least ") + texts.Demand + unit;
+  cells.Supply = FormatNumber(verdict.Supply, pattern) + unit;
+  cells.Limit = (IsUpperLimit(verdict.What) ? "at most " : "at least ") + FormatNumber(verdict.Demand, pattern) + unit;
   AppendRemark(cells.Result, verdict);
   return cells;
 }

@@ -2,7 +2,10 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
+#include "base/number_text.h"
+#include "base/unit_suffix.h"
 #include "engine/verdicts.h"
 
 namespace orby {
@@ -26,5 +29,19 @@ VerdictCells CellsOf(const Verdict& verdict, UnitSystem units);
 
 // Returns how many judgements have each result, the worst first: "2 short, 1 to check, 5 hold".
 std::string VerdictCounts(const Verdicts& verdicts);
+
+// ---- parts of these texts ------------------------------------------------------------------------------------------
+
+// Returns the result in a word or two: "Holds".
+std::string_view HoldingWord(Holding result);
+
+// Returns the unit of demand and supply, or None.
+UnitSuffix VerdictUnit(Aspect what, Opening where);
+
+// Returns how demand and supply are written. Two numbers that differ have as many decimals as it takes to see it.
+NumberPattern VerdictPattern(const Verdict& verdict);
+
+// What a share below one percent reads as.
+inline constexpr std::string_view LessThanOne = "less than 1";
 
 }  // namespace orby

@@ -2,11 +2,11 @@
 
 #include <charconv>
 
+#include "base/json_writer.h"
 #include "core/program.h"
 #include "core/version.h"
 #include "sheet/formula_text.h"
 #include "sheet/help_titles.h"
-#include "sheet/json_writer.h"
 #include "sheet/judgement_names.h"
 #include "sheet/operation_names.h"
 #include "sheet/sheet_content.h"

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "base/number_text.h"
-#include "reports/figure_patterns.h"
+#include "core/figure_patterns.h"
 #include "sheet/sheet_writer.h"
 
 namespace orby {

@@ -8,9 +8,9 @@
 #include "base/paths.h"
 #include "core/description.h"
 #include "core/dialog_helpers.h"
-#include "dialogs/shown_design.h"
 #include "dialogs/verdict_marks.h"
 #include "engine/verdicts.h"
+#include "files/shown_design.h"
 #include "reports/verdict_text.h"
 #include "sketches/sketches.h"
 

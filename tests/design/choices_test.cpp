@@ -1,6 +1,13 @@
 // What the choice of an entry of a list sets.
 #include "design/choices.h"
 
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cmath>
+#include <cstdint>
+
+#include "base/number_text.h"
 #include "design/catalogs.h"
 
 namespace orby::test {
@@ -52,6 +59,22 @@ TEST(OfferedGrades, AreOfTheUnitsAndTheBasisOfTheDesign) {
 TEST(SevenDigits, AreThoseOfAField) {
   EXPECT_EQ(InSevenDigits(20.0F / 3), 6.666667F);
   EXPECT_EQ(InSevenDigits(0.1F), 0.1F);
+}
+
+TEST(ANumberInSevenDigits, IsThatOfItsText) {
+  const auto expect = [](Single number) {
+    const Single ofText = static_cast<Single>(TextValue(NumberText(number)));
+    ASSERT_EQ(std::bit_cast<std::uint32_t>(InSevenDigits(number)), std::bit_cast<std::uint32_t>(ofText)) << number;
+  };
+  constexpr int Million = 1000000;
+  for (int thousandths = -3000; thousandths <= Million + 3000; ++thousandths) {
+    const auto number = static_cast<Single>(thousandths / 1000.0);
+    expect(number);
+    if (thousandths % 5 != 0) continue;
+    expect(std::nextafter(number, 1e9F));
+    expect(std::nextafter(number, -1e9F));
+  }
+  for (const Single number : {-0.0F, 1e-30F, 3.4e38F, 999999.94F, 1000000.1F, 16777216.0F}) expect(number);
 }
 
 }  // namespace

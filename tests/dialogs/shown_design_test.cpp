@@ -1,5 +1,5 @@
 // A report without a dialog uses the same design that a dialog would show.
-#include "dialogs/shown_design.h"
+#include "files/shown_design.h"
 
 #include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
@@ -8,7 +8,7 @@
 #include <cmath>
 
 #include "base/runtime_error.h"
-#include "dialogs/catalog_choice.h"
+#include "core/catalog_choice.h"
 #include "engine/verdicts.h"
 #include "files/project_lines.h"
 #include "parameters_fixture.h"

@@ -5,7 +5,7 @@
 #include <variant>
 #include <vector>
 
-#include "dialogs/shown_design.h"
+#include "files/shown_design.h"
 #include "sheet/formula_layout.h"
 #include "sheet/sheet.h"
 #include "studies/study_designs.h"

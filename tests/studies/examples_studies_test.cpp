@@ -1,9 +1,9 @@
 // What would make the supports of the examples hold.
 #include <fstream>
 
-#include "dialogs/catalog_choice.h"
-#include "dialogs/shown_design.h"
+#include "core/catalog_choice.h"
 #include "files/project_file.h"
+#include "files/shown_design.h"
 #include "studies/least_change.h"
 #include "studies/pattern_search.h"
 #include "studies/study_designs.h"

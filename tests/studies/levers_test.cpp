@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "dialogs/parameters_fixture.h"
-#include "dialogs/shown_design.h"
+#include "files/shown_design.h"
 #include "studies/lever_table.h"
 #include "studies/study_designs.h"
 

@@ -42,6 +42,25 @@ class Words {
   std::size_t at_ = 0;
 };
 
+// A table has one format.
+bool TakeFormat(std::string_view format, CommandLine& line) {
+  if (!line.Format.empty()) return false;
+  line.Format = format;
+  return true;
+}
+
+bool TakeTableOption(const std::string& option, Words& words, CommandLine& line) {
+  if (option == "--csv") return TakeFormat("csv", line);
+  if (option == "--json") return TakeFormat("json", line);
+  if (option == "--xlsx") return TakeFormat("xlsx", line) && (line.Workbook = words.TakeValue()).has_value();
+  if (option == "--columns") return (line.Columns = words.TakeValue()).has_value();
+  if (option == "--units") {
+    line.Units = words.TakeValue();
+    return line.Units == "english" || line.Units == "metric";
+  }
+  return false;
+}
+
 // Returns false if the option does not exist or lacks its value.
 bool TakeOption(const std::string& option, Words& words, CommandLine& line) {
   if (option == "--help" || option == "-h") return line.Help = true;
@@ -54,15 +73,13 @@ bool TakeOption(const std::string& option, Words& words, CommandLine& line) {
   if (option == "--samples") return (line.Samples = WholeNumber(words.TakeValue())).has_value();
   if (option == "--seed") return (line.Seed = WholeNumber(words.TakeValue())).has_value();
   if (option == "--change") return TakePercent(words.TakeValue(), line.Change);
-  if (option == "--json") return line.Json = true;
-  if (option == "--csv") return line.Csv = true;
   if (option == "--page") {
     const auto page = words.TakeValue();
     if (page != "0" && page != "1") return false;
     line.Page = *page == "0" ? 0 : 1;
     return true;
   }
-  return false;
+  return TakeTableOption(option, words, line);
 }
 
 bool IsOption(const std::string& word) { return word.size() > 1 && word.front() == '-'; }

@@ -21,8 +21,11 @@ struct CommandLine {
   std::optional<std::uint64_t> Samples;  // of a study, instead of those that it stores
   std::optional<std::uint64_t> Seed;     // likewise
   double Change = 10;                    // percent, of what a figure depends on
-  bool Json = false;                     // of a study
-  bool Csv = false;                      // likewise
+  // Of a study or a table of designs.
+  std::string Format;                   // "csv", "json", "xlsx"; empty: plain text
+  std::optional<std::string> Workbook;  // the file of an xlsx
+  std::optional<std::string> Columns;   // "overview,depth-of-cover", or "list"
+  std::optional<std::string> Units;     // "english", "metric"
   bool Help = false;
 };
 

@@ -6,8 +6,10 @@
 #include <cstdio>
 #include <set>
 
+#include "apps/orby-cli/print.h"
 #include "apps/orby-cli/script_platform.h"
 #include "apps/orby-cli/study_command.h"
+#include "apps/orby-cli/table_command.h"
 #include "base/paths.h"
 #include "base/runtime_error.h"
 #include "core/messages.h"
@@ -17,8 +19,8 @@
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/project_report.h"
 #include "dialogs/project_sheet.h"
-#include "dialogs/shown_design.h"
 #include "files/project_file.h"
+#include "files/shown_design.h"
 #include "reports/cost_report.h"
 #include "reports/input_echo.h"
 #include "reports/sensitivity_report.h"
@@ -47,6 +49,9 @@ const std::string_view UsageText = R"(usage: orby-cli COMMAND [OPTION]... FILE..
   study [--json|--csv] FILE                  how sure the figures are: runs NAME.study.json beside NAME.ORB
   matters [--change PERCENT] FIGURE FILE     what a figure depends on, and where judgements change; FIGURE is a key of
                                              the figures in the JSON of a study, such as suggested-psup
+  table [--csv|--json|--xlsx OUT] [--columns LIST] [--units english|metric] FILE|FOLDER...
+                                             a row each design, with its inputs, figures and verdicts; of a folder
+                                             all *.ORB in it; "--columns list" prints the names of the columns
 
   --name TEXT     the file name that the report shows
   --aus           the Australian bolt table (Metric projects)
@@ -57,14 +62,10 @@ const std::string_view UsageText = R"(usage: orby-cli COMMAND [OPTION]... FILE..
   --help          this text
 
 exit status: 0 done, 1 usage, 2 not a project file, 3 run-time error, 4 validation messages;
-with several files the highest.
+with several files the highest. A table with files that cannot be read has their reasons, and status 1.
 )";
 
 namespace {
-
-void Print(std::string_view text) {
-  if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) throw RuntimeError(error_number::DiskFull);
-}
 
 // One run of the program on one file.
 struct FileRun {
@@ -307,7 +308,7 @@ bool FitsShape(const CommandLine& line, Shape shape) {
     case Shape::WordFile:
     case Shape::FileOut: return operands.size() == 2;
     case Shape::Sheets: return FitsSheets(line);
-    case Shape::OneStudy: return operands.size() == 1 && !(line.Json && line.Csv);
+    case Shape::OneStudy: return operands.size() == 1 && line.Format != "xlsx";
   }
   return false;
 }
@@ -326,16 +327,21 @@ ExitCode RunOnFile(const Command& command, FileRun run, const std::string& file,
   }
 }
 
-ExitCode RunOnOperands(const Command& command, const CommandLine& line) {
-  ScriptPlatform platform;
-  Program start(platform.AsPlatform());
+// Prepares a run with the configuration of the command line.
+void Prepare(Program& start, const CommandLine& line) {
   if (line.Config) {
-    const IniText configuration = IniText::FromFileBytes(platform.files.ReadFile(*line.Config));
+    const IniText configuration = IniText::FromFileBytes(start.platform.files.ReadFile(*line.Config));
     StartApart(start, &configuration);
   } else {
     StartApart(start, nullptr);
   }
   if (line.AustralianTable) start.project.UseAUSStandardTable = 1;
+}
+
+ExitCode RunOnOperands(const Command& command, const CommandLine& line) {
+  ScriptPlatform platform;
+  Program start(platform.AsPlatform());
+  Prepare(start, line);
 
   const auto& operands = line.Operands;
   const auto run = [&](const std::string& file, const std::string& extra) {
@@ -357,17 +363,25 @@ ExitCode RunOnOperands(const Command& command, const CommandLine& line) {
   return worst;
 }
 
+ExitCode RunTable(const CommandLine& line) {
+  ScriptPlatform platform;
+  Program start(platform.AsPlatform());
+  Prepare(start, line);
+  return MakeTable(start, line);
+}
+
 }  // namespace
 
 ExitCode RunCommand(const CommandLine& line) {
+  const bool isTable = line.Command == "table" && FitsTable(line);
   const auto* command = std::find_if(Commands.begin(), Commands.end(),
                                      [&line](const Command& entry) { return entry.name == line.Command; });
-  if (command == Commands.end() || !FitsShape(line, command->shape)) {
+  if (!isTable && (command == Commands.end() || !FitsShape(line, command->shape))) {
     std::fwrite(UsageText.data(), 1, UsageText.size(), stderr);
     return ExitCode::Usage;
   }
   try {
-    const ExitCode code = RunOnOperands(*command, line);
+    const ExitCode code = isTable ? RunTable(line) : RunOnOperands(*command, line);
     if (std::fflush(stdout) != 0) throw RuntimeError(error_number::DiskFull);
     return code;
   } catch (const RuntimeError& error) {

@@ -12,9 +12,10 @@ namespace orby::cli {
 enum class ExitCode {
   Done,
   Usage,
-  Refused,       // not a project file
-  RunTimeError,  // reported on standard error
-  Invalid,       // the project has validation messages
+  RowsWithoutDesign = Usage,  // a table has files that could not be read
+  Refused,                    // not a project file
+  RunTimeError,               // reported on standard error
+  Invalid,                    // the project has validation messages
 };
 
 extern const std::string_view UsageText;

@@ -3,7 +3,7 @@
 #include <cstdio>
 
 #include "apps/orby-cli/study_json_output.h"
-#include "dialogs/shown_design.h"
+#include "files/shown_design.h"
 #include "files/study_file.h"
 #include "machine/program.h"
 #include "reports/study_report.h"
@@ -55,8 +55,8 @@ StudyOutput RunStoredStudy(Program& program, const std::string& file, const Comm
   const Catalogs& catalogs = program.session.catalogs;
   const Design design = AsReported(program.project, catalogs);
   const StudyResult result = RunWithProgress(design, catalogs, study);
-  if (line.Json) return {ExitCode::Done, StudyJson(result, study, design.Units), ""};
-  return {ExitCode::Done, line.Csv ? StudyCsv(result, study) : StudyText(result, study, design.Units), ""};
+  if (line.Format == "json") return {ExitCode::Done, StudyJson(result, study, design.Units), ""};
+  return {ExitCode::Done, line.Format == "csv" ? StudyCsv(result, study) : StudyText(result, study, design.Units), ""};
 }
 
 }  // namespace orby::cli

@@ -1,8 +1,8 @@
 #include "apps/orby-cli/study_json_output.h"
 
+#include "base/json_writer.h"
 #include "reports/study_report.h"
 #include "sampling/prepared_distribution.h"
-#include "sheet/json_writer.h"
 #include "sheet/judgement_names.h"
 
 namespace orby::cli {

@@ -21,7 +21,7 @@ LARGEST = 16000  # bytes
 ENDS = b"\r\n"
 MOST_SHOWN = 20
 OF_ONE_FILE = ("live", "validate", "save", "convert", "curve")
-OF_MANY_FILES = ("report", "cost", "verdicts")
+OF_MANY_FILES = ("report", "cost", "verdicts", "table", "table --csv", "table --json --units metric")
 AT_ONCE = 200  # files of one command
 
 
@@ -77,7 +77,7 @@ def command_lines(dice, names):
                 words.append(f"{command}-{name}")
             lines.append((f"{name}-{command}", words))
     for first in range(0, len(names), AT_ONCE):
-        lines.extend((f"{first}-{command}", [command, *names[first:first + AT_ONCE]]) for command in OF_MANY_FILES)
+        lines.extend((f"{first}-{command}", [*command.split(), *names[first:first + AT_ONCE]]) for command in OF_MANY_FILES)
     return lines
 
 

@@ -1,11 +1,11 @@
-#include "dialogs/shown_design.h"
+#include "files/shown_design.h"
 
 #include <algorithm>
 #include <array>
 
 #include "base/arithmetic.h"
+#include "core/catalog_choice.h"
 #include "design/choices.h"
-#include "dialogs/catalog_choice.h"
 #include "engine/analysis.h"
 #include "files/project_lines.h"
 

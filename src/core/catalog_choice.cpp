@@ -1,4 +1,4 @@
-#include "dialogs/catalog_choice.h"
+#include "core/catalog_choice.h"
 
 #include "design/catalogs.h"
 #include "design/choices.h"

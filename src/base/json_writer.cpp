@@ -1,4 +1,4 @@
-#include "sheet/json_writer.h"
+#include "base/json_writer.h"
 
 #include <array>
 #include <charconv>
@@ -51,6 +51,11 @@ void JsonWriter::Flag(bool isTrue) {
 void JsonWriter::Null() {
   BeginValue();
   json_ += "null";
+}
+
+void JsonWriter::Made(std::string_view json) {
+  BeginValue();
+  json_ += json;
 }
 
 void JsonWriter::Text(std::string_view name, std::string_view text) {

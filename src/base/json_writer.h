@@ -21,6 +21,8 @@ class JsonWriter {
   void Number(double value);
   void Flag(bool isTrue);
   void Null();
+  // Writes a value that is JSON already.
+  void Made(std::string_view json);
 
   // Write a member of an object.
   void Text(std::string_view name, std::string_view text);

@@ -3,8 +3,8 @@
 // Reports and curves use the design that a dialog would show, so their results do not depend on whether one was open.
 #pragma once
 
+#include "core/figure_patterns.h"
 #include "core/program.h"
-#include "reports/figure_patterns.h"
 
 namespace orby {
 

@@ -1,5 +1,5 @@
 // The lists and the bolt table that a project offers.
-#include "dialogs/catalog_choice.h"
+#include "core/catalog_choice.h"
 
 #include <gtest/gtest.h>
 
