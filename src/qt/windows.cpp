@@ -22,6 +22,7 @@
 #include <ui_font_dialog.h>
 #include <ui_graph_options_dialog.h>
 #include <ui_graph_window.h>
+#include <ui_how_sure_window.h>
 #include <ui_main_window.h>
 #include <ui_options_dialog.h>
 #include <ui_parameters_dialog.h>
@@ -112,6 +113,7 @@ constexpr std::array Layouts{
     LayoutEntry{"frmSheet", Make<Ui::frmSheet, DialogWindow>},
     LayoutEntry{"frmSignedReport", Make<Ui::frmSignedReport, DialogWindow>},
     LayoutEntry{"frmWouldHold", Make<Ui::frmWouldHold, DialogWindow>},
+    LayoutEntry{"frmHowSure", Make<Ui::frmHowSure, DialogWindow>},
     LayoutEntry{"frmResource", Make<Ui::frmResource, DialogWindow>},
 };
 

@@ -13,6 +13,7 @@
 #include "core/messages.h"
 #include "core/program.h"
 #include "files/save_command.h"
+#include "files/study_json.h"
 #include "shell/main_controls.h"
 #include "shell/recovery.h"
 #include "shell/run_end.h"
@@ -120,6 +121,7 @@ class MainWindow : public MainControls {
   Recovery recovery_;
   UpdateCheck updateCheck_;
   SummaryPane summary_;
+  StoredStudy unsavedStudy_;  // of projects without a file
 };
 
 }  // namespace orby

@@ -18,6 +18,7 @@
 #include "dialogs/font_dialog.h"
 #include "dialogs/graph_options_dialog.h"
 #include "dialogs/graph_window.h"
+#include "dialogs/how_sure_window.h"
 #include "dialogs/options_dialog.h"
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/preview_window.h"
@@ -87,6 +88,11 @@ inline constexpr std::array FormMakers{
                 return std::make_unique<SheetWindow>(program, SheetOfProject(program));
               }},
     FormMaker{"frmSignedReport", Plain<SignedReportWindow>},
+    FormMaker{"frmHowSure",
+              [](Program& program) -> std::unique_ptr<Form> {
+                static StoredStudy unsaved;
+                return std::make_unique<HowSureWindow>(program, unsaved);
+              }},
     FormMaker{"frmGraph", Plain<GraphWindow>},
     FormMaker{"frmConvert", Plain<ConvertDialog>},
     FormMaker{"frmUnits", Plain<UnitCalculator>},
