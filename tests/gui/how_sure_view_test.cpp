@@ -33,6 +33,7 @@ struct HowSureOnView : GuiTest {
   static void AddMeasuredRating(const QWidget& view) {
     Find<QComboBox>(view, "cmbLaw").setFocus();
     Type("measured values");
+    Press(Qt::Key_Tab);
     auto& values = Find<QPlainTextEdit>(view, "txtValues");
     values.setFocus();
     QTest::keyClicks(&values, "38 41 42");
