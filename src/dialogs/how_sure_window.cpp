@@ -20,7 +20,7 @@ constexpr double PerCent = 100;
 constexpr int MillisecondsBetweenLooks = 40;
 constexpr std::string_view NoFile =
     "The project has no file yet. These settings are kept until the program ends, not in a file.";
-constexpr std::string_view NotKept = "The settings of this window are not kept, because that file stays as it is.";
+constexpr std::string_view NotKept = "The settings of this window are not kept, because their file stays as it is.";
 
 std::optional<std::uint64_t> CountOf(std::string_view text) {
   const std::string digits(Trim(text));
@@ -36,7 +36,7 @@ std::string NoNumberFault(const LabelledBox& box, std::string_view kind) {
 
 }  // namespace
 
-HowSureWindow::HowSureWindow(Program& program, StoredStudy& unsaved)
+HowSureWindow::HowSureWindow(Program& program, UnsavedStudy& unsaved)
     : HowSureControls(program), design_(AsReported(program.project, program.session.catalogs)), unsaved_(unsaved) {
   cmdRun.Click = [this] { Run(); };
   cmdStop.Click = [this] {
@@ -75,24 +75,26 @@ void HowSureWindow::OnOpen() {
 
 // ---- settings ------------------------------------------------------------------------------------------------------
 
+// A new project has a name, but no file.
 void HowSureWindow::LoadSettings() {
   const std::string& project = program_.project.CurrentFile;
-  if (project.empty()) {
-    stored_ = unsaved_;
-    study_ = stored_.Settings;
-    return lblKept.SetCaption(NoFile);
-  }
   FileSystem& files = program_.platform.files;
-  mayKeep_ = false;
   LoadedStudy loaded;
-  const auto outcome = RunTrapped(program_, [&] { loaded = LoadStudy(files, project, DamagedStudy::PutAside); });
-  mayKeep_ = outcome == StepOutcome::Done && (loaded.Stored || !files.FindsFile(StudyPath(project)));
+  const auto outcome = RunTrapped(program_, [&] {
+    isInFile_ = files.FindsFile(project);
+    if (isInFile_) loaded = LoadStudy(files, project, DamagedStudy::PutAside);
+    mayKeep_ = !isInFile_ || loaded.Stored || !files.FindsFile(StudyPath(project));
+  });
+  if (outcome != StepOutcome::Done) mayKeep_ = false;
   if (loaded.Stored) stored_ = std::move(*loaded.Stored);
+  const bool isKnown = unsaved_.Project == project && unsaved_.Units == design_.Units;
+  if (!isInFile_ && isKnown) stored_ = unsaved_.Stored;
   study_ = stored_.Settings;
   std::string message = loaded.Message;
   if (!message.empty() && !mayKeep_) message.append(" ").append(NotKept);
   if (!message.empty()) ShowMessage(program_, message, BoxIcon::Exclamation, Caption());
-  lblKept.SetCaption(mayKeep_ ? "The settings are kept in " + StudyPath(project) + "." : std::string(NotKept));
+  if (!mayKeep_) return lblKept.SetCaption(NotKept);
+  lblKept.SetCaption(isInFile_ ? "The settings are kept in " + StudyPath(project) + "." : std::string(NoFile));
 }
 
 void HowSureWindow::ShowSettings() {
@@ -145,8 +147,8 @@ void HowSureWindow::KeepSettings() {
   const std::string& project = program_.project.CurrentFile;
   if (study_ == stored_.Settings || !mayKeep_) return;
   stored_.Settings = study_;
-  if (project.empty()) {
-    unsaved_ = stored_;
+  if (!isInFile_) {
+    unsaved_ = {project, design_.Units, stored_};
     return;
   }
   RunTrapped(program_, [&] { SaveStudy(program_.platform.files, project, stored_); });
@@ -207,7 +209,7 @@ void HowSureWindow::ShowProgress() {
                      " samples");
 }
 
-void ShowHowSure(Program& program, StoredStudy& unsaved) {
+void ShowHowSure(Program& program, UnsavedStudy& unsaved) {
   HowSureWindow window(program, unsaved);
   ShowForm(program, window);
 }

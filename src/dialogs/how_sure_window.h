@@ -12,13 +12,14 @@
 #include "dialogs/study_charts.h"
 #include "dialogs/study_inputs_page.h"
 #include "dialogs/study_runner.h"
+#include "dialogs/unsaved_study.h"
 
 namespace orby {
 
 class HowSureWindow : public HowSureControls {
  public:
   // `unsaved` has the settings for projects without a file. It must outlive the window. Throws as AsReported does.
-  HowSureWindow(Program& program, StoredStudy& unsaved);
+  HowSureWindow(Program& program, UnsavedStudy& unsaved);
 
  protected:
   void OnOpen() override;
@@ -53,10 +54,11 @@ class HowSureWindow : public HowSureControls {
   Sketch ChartOn(const SheetSize& sheet) const;
 
   Design design_;
-  StoredStudy& unsaved_;
+  UnsavedStudy& unsaved_;
   StoredStudy stored_;  // as it was loaded or saved
   Study study_;
-  bool mayKeep_ = true;  // the file beside the project is not one that this program cannot read
+  bool isInFile_ = false;  // the project has a file, which the settings stand beside
+  bool mayKeep_ = true;    // the file beside the project is not one that this program cannot read
   StudyInputsPage inputs_{program_, *this, design_, study_};
   std::shared_ptr<StudyRunner> runner_;  // while it runs
   std::optional<StudyResult> result_;
@@ -64,6 +66,6 @@ class HowSureWindow : public HowSureControls {
 };
 
 // Shows the window until the user closes it. Throws as AsReported does.
-void ShowHowSure(Program& program, StoredStudy& unsaved);
+void ShowHowSure(Program& program, UnsavedStudy& unsaved);
 
 }  // namespace orby

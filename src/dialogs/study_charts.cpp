@@ -17,7 +17,6 @@ namespace {
 
 constexpr double InPercent = 100;
 constexpr NumberPattern RankDecimals{"0.00"};
-constexpr NumberPattern PercentDecimals{"0.0"};
 constexpr std::string_view AtDesignName = "The design";
 constexpr double ScatterSymbol = 4;
 
@@ -164,6 +163,7 @@ class Tornado {
   }
 
  private:
+  static constexpr std::array Ticks{-1.0, -0.5, 0.0, 0.5, 1.0};
   static constexpr double Edge = 12;
   static constexpr double Row = 18;
   static constexpr double MostStep = 46;
@@ -173,21 +173,22 @@ class Tornado {
   double AtRank(double rank) const { return plot_.Middle().X + rank * plot_.Width() / 2; }
 
   void Scale() {
-    Trace lines;
-    for (const double rank : {-1.0, -0.5, 0.0, 0.5, 1.0}) {
-      lines.Segment({AtRank(rank), plot_.Top}, {AtRank(rank), plot_.Bottom});
+    for (const double rank : Ticks) {
       const Anchor side = rank == 1 ? Anchor::End : rank == -1 ? Anchor::Start : Anchor::Middle;
       draft_.Write({NumberText(rank)}, {AtRank(rank), plot_.Bottom + TextSize + 3}, side, plot_.Width() / 4);
     }
-    draft_.Draw(std::move(lines), {.Colour = Ink::Muted, .Width = 0.8});
   }
 
   // The name stands over its bar, so that it has the whole width.
   void Bar(const RankBar& bar, double top) {
     const double bottom = top + step_ - 4;
+    const double barTop = std::min(top + NameHeight, bottom - LeastBar);
+    Trace lines;
+    for (const double rank : Ticks) lines.Segment({AtRank(rank), barTop}, {AtRank(rank), bottom});
+    draft_.Draw(std::move(lines), {.Colour = Ink::Muted, .Width = 0.8});
     const auto [left, right] = std::minmax(AtRank(0), AtRank(bar.Rank));
-    draft_.Draw(Trace().Rectangle({left, std::min(top + NameHeight, bottom - LeastBar), right, bottom}),
-                {.Colour = Ink::Curve, .Width = 1}, {Ink::Curve, 0.45});
+    draft_.Draw(Trace().Rectangle({left, barTop, right, bottom}), {.Colour = Ink::Curve, .Width = 1},
+                {Ink::Curve, 0.45});
     const std::string text = bar.Name + " " + RankText(bar.Rank);
     draft_.Write({text}, {plot_.Left + 4, top + TextSize}, Anchor::Start, plot_.Width() - 8);
     draft_.Fact(text);

@@ -280,7 +280,6 @@ std::optional<StudyInput> StudyInputsPage::Typed() {
     return report();
   }
   fault.Text = FaultOf(input.Law, input.Name);
-  if (fault.Field == nullptr) fault.Field = &controls_.First.Field;
   return fault.Text.empty() ? std::optional(std::move(input)) : report();
 }
 

@@ -12,8 +12,8 @@
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
 #include "core/program.h"
+#include "dialogs/unsaved_study.h"
 #include "files/save_command.h"
-#include "files/study_json.h"
 #include "shell/main_controls.h"
 #include "shell/recovery.h"
 #include "shell/run_end.h"
@@ -121,7 +121,7 @@ class MainWindow : public MainControls {
   Recovery recovery_;
   UpdateCheck updateCheck_;
   SummaryPane summary_;
-  StoredStudy unsavedStudy_;  // of projects without a file
+  UnsavedStudy unsavedStudy_;
 };
 
 }  // namespace orby

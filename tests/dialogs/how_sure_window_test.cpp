@@ -40,6 +40,7 @@ std::string AllCells(const Grid& grid) {
 struct AHowSureWindow : AParametersDialog {
   AHowSureWindow() {
     program.project.CurrentFile = ProjectPath;
+    platform.files.files[ProjectPath] = "the project";
     Design& design = program.project.WorkParms;
     design.Place.CMRR = 45;
     design.Place.DepthofCover = 600;
@@ -82,7 +83,7 @@ struct AHowSureWindow : AParametersDialog {
     return window->picChart.Words();
   }
 
-  StoredStudy unsaved;
+  UnsavedStudy unsaved;
   std::optional<HowSureWindow> window;
 };
 
@@ -371,7 +372,7 @@ TEST_F(AHowSureWindow, LeavesTheFileOfALaterVersion) {
 }
 
 TEST_F(AHowSureWindow, KeepsTheSettingsOfAProjectWithoutAFileUntilTheProgramEnds) {
-  program.project.CurrentFile.clear();
+  program.project.CurrentFile = "Untitled";
   Open();
   EXPECT_THAT(window->lblKept.Caption(), StartsWith("The project has no file yet."));
   AddRatingAndDepth();
@@ -379,7 +380,40 @@ TEST_F(AHowSureWindow, KeepsTheSettingsOfAProjectWithoutAFileUntilTheProgramEnds
 
   Open();
   EXPECT_EQ(window->grdInputs.Rows(), 3);
+  Leave();
   for (const auto& [path, bytes] : platform.files.files) EXPECT_THAT(path, Not(HasSubstr("study.json")));
+}
+
+TEST_F(AHowSureWindow, SaysThatTheSettingsCannotBeWritten) {
+  Open();
+  AddRatingAndDepth();
+  platform.files.FailFrom(error_number::PermissionDenied, 0);
+  Leave();
+
+  EXPECT_THAT(LastMessage(), HasSubstr("Permission denied"));
+}
+
+TEST_F(AHowSureWindow, LeavesAFileThatItCannotRead) {
+  platform.files.files[SettingsPath] = R"({"format": 1, "inputs": []})";
+  platform.files.Fail(MemoryFiles::Step::Read, error_number::PermissionDenied);
+  Open();
+  EXPECT_THAT(LastMessage(), HasSubstr("Permission denied"));
+  platform.files.Mend();
+  AddRatingAndDepth();
+  Leave();
+
+  EXPECT_EQ(platform.files.files[SettingsPath], R"({"format": 1, "inputs": []})");
+}
+
+TEST_F(AHowSureWindow, DoesNotTakeTheNumbersOfAnUnsavedProjectInOtherUnits) {
+  program.project.CurrentFile = "Untitled";
+  Open();
+  AddRatingAndDepth();
+  Leave();
+  program.project.WorkParms.Units = Metric;
+
+  Open();
+  EXPECT_EQ(window->grdInputs.Rows(), 1);
 }
 
 TEST_F(AHowSureWindow, SaysWhatIsWrongWithASetting) {
@@ -563,7 +597,7 @@ TEST_F(AHowSureWindow, ChangesNothingInTheProject) {
   Leave();
 
   EXPECT_EQ(program.project.WorkParms, before);
-  EXPECT_FALSE(platform.files.FindsFile(ProjectPath));
+  EXPECT_EQ(platform.files.files[ProjectPath], "the project");
 }
 
 }  // namespace

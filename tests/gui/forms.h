@@ -90,7 +90,7 @@ inline constexpr std::array FormMakers{
     FormMaker{"frmSignedReport", Plain<SignedReportWindow>},
     FormMaker{"frmHowSure",
               [](Program& program) -> std::unique_ptr<Form> {
-                static StoredStudy unsaved;
+                static UnsavedStudy unsaved;
                 return std::make_unique<HowSureWindow>(program, unsaved);
               }},
     FormMaker{"frmGraph", Plain<GraphWindow>},

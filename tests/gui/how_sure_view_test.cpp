@@ -52,7 +52,7 @@ struct HowSureOnView : GuiTest {
     }
   }
 
-  StoredStudy unsaved;
+  UnsavedStudy unsaved;
   HowSureWindow window{program, unsaved};
 };
 

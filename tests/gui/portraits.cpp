@@ -563,7 +563,7 @@ class Sitting {
   GuiPlatform platform_;
   QtMessageBoxes boxes_;
   Program program_;
-  StoredStudy unsavedStudy_;
+  UnsavedStudy unsavedStudy_;
   std::unique_ptr<MainWindow> window_;
 };
 
