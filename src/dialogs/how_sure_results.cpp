@@ -22,7 +22,7 @@ std::string_view ResultWord(Holding result) {
   return Words.at(static_cast<std::size_t>(result));
 }
 
-std::string FigureText(double value) { return FormatNumber(value, "0.000"); }
+std::string SampledNumber(double value) { return FormatNumber(value, "0.000"); }
 
 std::string Chance(double probability) { return FormatNumber(probability * Hundred, ChanceDecimals); }
 
@@ -83,12 +83,12 @@ void HowSureWindow::ShowFigures() {
   if (result_) {
     for (const FigureResult& figure : result_->Figures) {
       const bool any = figure.Sums.Count() > 0;
-      const auto text = [&](double value) { return any ? FigureText(value) : std::string(Unknown); };
+      const auto text = [&](double value) { return any ? SampledNumber(value) : std::string(Unknown); };
       std::vector<std::string> row{WithUnitOf(figure.Figure->Name, figure.Figure->Unit, design_.Units),
                                    figure.AtDesign.IsThere() ? NumberText(figure.AtDesign.Value) : std::string(Unknown),
                                    text(figure.Sums.Mean()), text(figure.Sums.Deviation())};
       for (const double share : ShownShares) {
-        row.push_back(any ? FigureText(figure.Sums.Percentile(share, figure.Histogram)) : std::string(Unknown));
+        row.push_back(any ? SampledNumber(figure.Sums.Percentile(share, figure.Histogram)) : std::string(Unknown));
       }
       rows.push_back(std::move(row));
     }

@@ -27,7 +27,7 @@ std::string_view WithoutLeading(std::string_view text, std::string_view separato
 }
 
 // Returns a part of the text that is no number, short enough for a message.
-std::string Quoted(std::string_view part) {
+std::string QuotedPart(std::string_view part) {
   constexpr std::size_t Most = 40;
   return "\"" + std::string(part.substr(0, Most)) + (part.size() > Most ? "...\"" : "\"");
 }
@@ -57,7 +57,7 @@ MeasuredValues ReadMeasured(std::string_view text) {
   while (!text.empty()) {
     const std::string_view part = TakePart(text, ValueSeparators);
     const auto value = WholeNumberText(part);
-    if (!value) return {{}, "Measured values: " + Quoted(part) + " is not a number."};
+    if (!value) return {{}, "Measured values: " + QuotedPart(part) + " is not a number."};
     if (read.Values.size() == MeasuredValues::Most) return {{}, "There are more than 100,000 measured values."};
     read.Values.push_back(*value);
   }

@@ -144,9 +144,9 @@ std::vector<RankBar> RankBars(const StudyView& view, const FigureResult& figure)
 }
 
 // Bars to both sides of a line in the middle, whose half length is a correlation of 1.
-class Tornado {
+class RankTornado {
  public:
-  Tornado(const SheetSize& sheet, std::size_t bars) : draft_(sheet) {
+  RankTornado(const SheetSize& sheet, std::size_t bars) : draft_(sheet) {
     const Box whole = draft_.Sheet();
     plot_ = {Edge, Edge + 2 * Row + Row / 2, whole.Right - Edge, whole.Bottom - Edge - Row};
     step_ = std::min(plot_.Height() / static_cast<double>(bars), MostStep);
@@ -202,7 +202,7 @@ class Tornado {
 Sketch RanksSketch(const StudyView& view, const FigureResult& figure, const SheetSize& sheet) {
   const std::vector<RankBar> bars = RankBars(view, figure);
   if (bars.empty()) return EmptyStudySketch(std::string(figure.Figure->Name) + " depends on no input.", sheet);
-  return Tornado(sheet, bars.size()).Paint(std::string(figure.Figure->Name), bars);
+  return RankTornado(sheet, bars.size()).Paint(std::string(figure.Figure->Name), bars);
 }
 
 // ---- convergence ---------------------------------------------------------------------------------------------------

@@ -72,7 +72,7 @@ std::string ParameterText(DistributionLaw law) {
   return text;
 }
 
-std::string BoundText(const std::optional<double>& bound) { return bound ? NumberText(*bound) : std::string(); }
+std::string BoundOrBlank(const std::optional<double>& bound) { return bound ? NumberText(*bound) : std::string(); }
 
 std::string CutText(const Distribution& law) {
   std::string text;
@@ -222,8 +222,8 @@ void StudyInputsPage::ShowFields(const Distribution& law) {
   for (std::size_t i = 0; i < MostParameters; ++i) {
     fields.at(i)->Field.SetText(i < parameters.size() ? NumberText(*parameters[i]) : std::string());
   }
-  controls_.txtLowest.SetText(BoundText(law.Lowest));
-  controls_.txtHighest.SetText(BoundText(law.Highest));
+  controls_.txtLowest.SetText(BoundOrBlank(law.Lowest));
+  controls_.txtHighest.SetText(BoundOrBlank(law.Highest));
   const auto* measured = std::get_if<EmpiricalLaw>(&law.Law);
   controls_.txtValues.SetText(measured == nullptr ? std::string() : MeasuredText(measured->Values));
 }

@@ -36,6 +36,7 @@
 #include <ui_text_browser.h>
 #include <ui_unit_calculator_window.h>
 #include <ui_update_dialog.h>
+#include <ui_what_matters_window.h>
 #include <ui_would_hold_window.h>
 #include "core/dialog_helpers.h"
 #include "qt/drawing_view.h"
@@ -112,6 +113,7 @@ constexpr std::array Layouts{
     LayoutEntry{"frmBackups", Make<Ui::frmBackups, DialogWindow>},
     LayoutEntry{"frmSheet", Make<Ui::frmSheet, DialogWindow>},
     LayoutEntry{"frmSignedReport", Make<Ui::frmSignedReport, DialogWindow>},
+    LayoutEntry{"frmWhatMatters", Make<Ui::frmWhatMatters, DialogWindow>},
     LayoutEntry{"frmWouldHold", Make<Ui::frmWouldHold, DialogWindow>},
     LayoutEntry{"frmHowSure", Make<Ui::frmHowSure, DialogWindow>},
     LayoutEntry{"frmResource", Make<Ui::frmResource, DialogWindow>},

@@ -7,13 +7,12 @@
 #include <vector>
 
 #include "base/number_text.h"
-#include "base/text.h"
+#include "reports/text_table.h"
 #include "sampling/prepared_distribution.h"
 
 namespace orby {
 namespace {
 
-constexpr std::string_view Gap = "  ";
 constexpr NumberPattern Probabilities{"0.00000"};
 constexpr NumberPattern FigureDecimals{"0.000"};
 constexpr NumberPattern Correlations{"0.000"};
@@ -24,32 +23,6 @@ struct Quantile {
   double Share;
 };
 constexpr Quantile Quantiles[] = {{"P5", 0.05}, {"P50", 0.5}, {"P95", 0.95}};
-
-// Rows of cells under heads. The first column is aligned left, the others right.
-class TextTable {
- public:
-  explicit TextTable(std::vector<std::string> heads) { rows_.push_back(std::move(heads)); }
-
-  void Add(std::vector<std::string> row) { rows_.push_back(std::move(row)); }
-
-  std::string Text() const {
-    std::vector<std::size_t> widths(rows_.front().size());
-    for (const auto& row : rows_) {
-      for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], CharacterCount(row[i]));
-    }
-    std::string text;
-    for (const auto& row : rows_) {
-      text += PadSpaces(row.front(), widths.front());
-      for (std::size_t i = 1; i < row.size(); ++i) text.append(Gap).append(AlignRight(row[i], widths[i]));
-      text.erase(text.find_last_not_of(' ') + 1);
-      text += '\n';
-    }
-    return text;
-  }
-
- private:
-  std::vector<std::vector<std::string>> rows_;
-};
 
 std::string_view HoldingName(Holding result) {
   constexpr std::array<std::string_view, HoldingCount> Names{"holds", "check", "--", "short"};

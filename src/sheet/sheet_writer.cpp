@@ -5,6 +5,7 @@
 #include <charconv>
 
 #include "base/arithmetic.h"
+#include "reports/design_numbers.h"
 #include "reports/verdict_text.h"
 
 namespace orby {
@@ -109,10 +110,7 @@ void SheetWriter::Note(std::string note) { Last().Notes.push_back(std::move(note
 void SheetWriter::Figure(const std::optional<Single>& figure) { Last().Figure = figure; }
 
 void SheetWriter::Input(std::string_view label, std::string text, UnitSuffix unit, std::string source) {
-  std::string_view name;
-  if (unit == UnitSuffix::Degrees) name = UnitText(SheetUnit::Degrees, units_);
-  if (unit >= UnitSuffix::Length) name = UnitName(unit, units_);
-  Parts().emplace_back(SheetInput{label, std::move(text), name, std::move(source)});
+  Parts().emplace_back(SheetInput{label, std::move(text), UnitOf(unit, units_), std::move(source)});
 }
 
 void SheetWriter::Remark(std::string text) { Parts().emplace_back(SheetRemark{std::move(text)}); }

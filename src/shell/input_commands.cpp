@@ -10,6 +10,7 @@
 #include "dialogs/project_sheet.h"
 #include "dialogs/sheet_window.h"
 #include "dialogs/signed_report_window.h"
+#include "dialogs/what_matters_window.h"
 #include "shell/main_window.h"
 
 namespace orby {
@@ -28,6 +29,7 @@ void MainWindow::StudyCommand(StudyItem item) {
     case StudyItem::WhatWouldHold: EditDesign<ParametersDialog>(&ParametersDialog::StudyLater); break;
     case StudyItem::CalculationSheet: Run(Trap::Set, [&] { ShowSheet(program_, SheetOfProject(program_)); }); break;
     case StudyItem::SignedReport: Run(Trap::Set, [&] { ShowSignedReport(program_); }); break;
+    case StudyItem::WhatMatters: Run(Trap::Set, [&] { ShowWhatMatters(program_); }); break;
     case StudyItem::HowSure: Run(Trap::Set, [&] { ShowHowSure(program_, unsavedStudy_); }); break;
   }
 }

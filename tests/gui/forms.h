@@ -30,6 +30,7 @@
 #include "dialogs/text_browser.h"
 #include "dialogs/unit_calculator_window.h"
 #include "dialogs/update_dialog.h"
+#include "dialogs/what_matters_window.h"
 #include "dialogs/would_hold_window.h"
 #include "shell/main_window.h"
 
@@ -88,6 +89,7 @@ inline constexpr std::array FormMakers{
                 return std::make_unique<SheetWindow>(program, SheetOfProject(program));
               }},
     FormMaker{"frmSignedReport", Plain<SignedReportWindow>},
+    FormMaker{"frmWhatMatters", Plain<WhatMattersWindow>},
     FormMaker{"frmHowSure",
               [](Program& program) -> std::unique_ptr<Form> {
                 static UnsavedStudy unsaved;

@@ -49,6 +49,7 @@
 #include "dialogs/text_browser.h"
 #include "dialogs/unit_calculator_window.h"
 #include "dialogs/update_dialog.h"
+#include "dialogs/what_matters_window.h"
 #include "files/new_project.h"
 #include "files/project_file.h"
 #include "gui/gui_bench.h"
@@ -195,6 +196,7 @@ class Sitting {
     TakeStudy();
     TakeSheet();
     TakeSignedReport();
+    TakeWhatMatters();
     TakeHowSure();
     TakeDialog<CostDialog>("cost");
     TakeEstimator();
@@ -322,6 +324,14 @@ class Sitting {
       window.close();
     });
     ShowSheet(program_, SheetOfProject(program_));
+  }
+
+  void TakeWhatMatters() {
+    scripts_.Add([&](QDialog& window) {
+      photographer_.Take(window, "what-matters");
+      window.close();
+    });
+    ShowWhatMatters(program_);
   }
 
   void TakeSignedReport() {

@@ -2,6 +2,8 @@
 
 #include <charconv>
 
+#include "base/number_text.h"
+
 namespace orby::cli {
 namespace {
 
@@ -13,6 +15,14 @@ std::optional<std::uint64_t> WholeNumber(const std::optional<std::string>& text)
   const auto [read, error] = std::from_chars(text->data(), end, number);
   if (error != std::errc() || read != end) return std::nullopt;
   return number;
+}
+
+// Takes a number of percent, above 0 and at most 100.
+bool TakePercent(const std::optional<std::string>& text, double& percent) {
+  if (!text) return false;
+  const LeadingNumber number = ReadNumber(*text);
+  percent = number.value;
+  return number.isWholeText && percent > 0 && percent <= 100;
 }
 
 // Returns the words of the command line one by one.
@@ -43,6 +53,7 @@ bool TakeOption(const std::string& option, Words& words, CommandLine& line) {
   if (option == "--as") return (line.As = words.TakeValue()).has_value();
   if (option == "--samples") return (line.Samples = WholeNumber(words.TakeValue())).has_value();
   if (option == "--seed") return (line.Seed = WholeNumber(words.TakeValue())).has_value();
+  if (option == "--change") return TakePercent(words.TakeValue(), line.Change);
   if (option == "--json") return line.Json = true;
   if (option == "--csv") return line.Csv = true;
   if (option == "--page") {

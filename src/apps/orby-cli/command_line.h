@@ -20,6 +20,7 @@ struct CommandLine {
   std::optional<std::string> As;         // their format: "html"
   std::optional<std::uint64_t> Samples;  // of a study, instead of those that it stores
   std::optional<std::uint64_t> Seed;     // likewise
+  double Change = 10;                    // percent, of what a figure depends on
   bool Json = false;                     // of a study
   bool Csv = false;                      // likewise
   bool Help = false;

@@ -21,6 +21,7 @@
 #include "files/project_file.h"
 #include "reports/cost_report.h"
 #include "reports/input_echo.h"
+#include "reports/sensitivity_report.h"
 #include "reports/verdict_text.h"
 #include "sheet/sheet_html.h"
 #include "sheet/sheet_json.h"
@@ -44,11 +45,14 @@ const std::string_view UsageText = R"(usage: orby-cli COMMAND [OPTION]... FILE..
                                              "-" writes .json to standard output
   sheet --to FOLDER --as FORMAT FILE...      the same for several files: FORMAT is html, md, txt or json
   study [--json|--csv] FILE                  how sure the figures are: runs NAME.study.json beside NAME.ORB
+  matters [--change PERCENT] FIGURE FILE     what a figure depends on, and where judgements change; FIGURE is a key of
+                                             the figures in the JSON of a study, such as suggested-psup
 
   --name TEXT     the file name that the report shows
   --aus           the Australian bolt table (Metric projects)
   --samples N     of a study, instead of the number that it stores
   --seed S        likewise
+  --change P      of "matters": by how much each number changes, 10 if not given
   --config INI    defaults and catalogs from this configuration file
   --help          this text
 
@@ -238,6 +242,19 @@ ExitCode WriteSheet(FileRun& run, const std::string& out) {
   return ExitCode::Done;
 }
 
+ExitCode Matters(FileRun& run, const std::string& key) {
+  const StudiedFigure* figure = FigureWithKey(key);
+  if (figure == nullptr) {
+    std::string message = "There is no figure \"" + key + "\". The figures are:\n";
+    for (const StudiedFigure& known : StudiedFigures()) message.append(known.Key).append("\n");
+    std::fputs(message.c_str(), stderr);
+    return ExitCode::Usage;
+  }
+  const Catalogs& catalogs = run.program.session.catalogs;
+  Print(SensitivityText(AsReported(run.program.project, catalogs), catalogs, *figure, run.line.Change / 100));
+  return ExitCode::Done;
+}
+
 // Returns the path of the sheet of a file in a folder: FOLDER/NAME.html.
 std::string SheetIn(const std::string& folder, std::string_view format, std::string_view file) {
   std::string name(NameAfterSeparator(file));
@@ -256,7 +273,7 @@ bool HaveSheetsOfTheirOwn(const CommandLine& line) {
 bool IsCurveNumber(const std::string& word) { return word.size() == 1 && word[0] >= '0' && word[0] <= '9'; }
 
 // The operands of a command: only files, or one file with another word before or after it.
-enum class Shape { Files, OneFile, NumberFile, FileOut, Sheets, OneStudy };
+enum class Shape { Files, OneFile, NumberFile, WordFile, FileOut, Sheets, OneStudy };
 
 struct Command {
   std::string_view name;
@@ -271,6 +288,7 @@ constexpr std::array Commands{
     Command{"verdicts", Shape::Files, ListVerdicts}, Command{"validate", Shape::OneFile, Validate},
     Command{"save", Shape::FileOut, Save},           Command{"convert", Shape::FileOut, Convert},
     Command{"sheet", Shape::Sheets, WriteSheet},     Command{"study", Shape::OneStudy, StudyOf},
+    Command{"matters", Shape::WordFile, Matters},
 };
 
 bool FitsSheets(const CommandLine& line) {
@@ -286,6 +304,7 @@ bool FitsShape(const CommandLine& line, Shape shape) {
     case Shape::Files: return !operands.empty();
     case Shape::OneFile: return operands.size() == 1;
     case Shape::NumberFile: return operands.size() == 2 && IsCurveNumber(operands[0]);
+    case Shape::WordFile:
     case Shape::FileOut: return operands.size() == 2;
     case Shape::Sheets: return FitsSheets(line);
     case Shape::OneStudy: return operands.size() == 1 && !(line.Json && line.Csv);
@@ -323,7 +342,8 @@ ExitCode RunOnOperands(const Command& command, const CommandLine& line) {
     return RunOnFile(command, FileRun(platform, start, line), file, extra);
   };
   switch (command.shape) {
-    case Shape::NumberFile: return run(operands[1], operands[0]);
+    case Shape::NumberFile:
+    case Shape::WordFile: return run(operands[1], operands[0]);
     case Shape::FileOut: return run(operands[0], operands[1]);
     case Shape::Sheets:
       if (!line.To) return run(operands[0], operands[1]);

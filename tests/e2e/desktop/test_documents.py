@@ -1,4 +1,4 @@
-"""The documents of a design: the calculation sheet of its results, and the report to sign."""
+"""What the Study menu makes of a design: the calculation sheet, the report to sign, what its figures depend on."""
 
 from orby import DesktopTest, until, words_of
 
@@ -25,6 +25,19 @@ class Documents(DesktopTest):
         report.wait_gone()
         run.main().choose("Study", "Signed Report...")
         self.assertEqual(run.window("Signed Report").text("txtCompany"), "Brannock Coal")
+
+    def test_tell_what_a_figure_depends_on(self):
+        run = self.start(self.copy_example("weak-roof", "weak roof.ORB"))
+        run.window("Parameters").press("Command1")
+        run.main().choose("Study", "What Matters...")
+        window = run.window("What Matters")
+
+        window.type("txtChange", "25")
+
+        turns = [node.name for node in window.control("lstTurns").children()]
+        self.assertTrue(any("holds up to" in turn for turn in turns), turns)
+        window.press("cmdClose")
+        window.wait_gone()
 
     def test_show_how_the_results_on_view_are_computed(self):
         run = self.start(self.copy_example("weak-roof", "weak roof.ORB"))

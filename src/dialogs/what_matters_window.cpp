@@ -1,0 +1,157 @@
+#include "dialogs/what_matters_window.h"
+
+#include "base/arithmetic.h"
+#include "base/attempt.h"
+#include "base/number_text.h"
+#include "base/text.h"
+#include "core/dialog_helpers.h"
+#include "dialogs/shown_design.h"
+#include "sketches/tornado.h"
+
+namespace orby {
+namespace {
+
+constexpr double Percent = 100;
+
+std::vector<const StudiedFigure*> FiguresOf(const RoofSupport& design) {
+  std::vector<const StudiedFigure*> figures;
+  for (const StudiedFigure& figure : StudiedFigures()) {
+    if (figure.IsUsed(design)) figures.push_back(&figure);
+  }
+  return figures;
+}
+
+// Returns the number that is the whole text.
+std::optional<Single> WholeNumberOf(const TextBox& box) {
+  return OrNothing([&]() -> std::optional<Single> {
+    const LeadingNumber number = ReadNumber(box.Text());
+    if (!number.isWholeText) return std::nullopt;
+    return ToSingle(number.value);
+  });
+}
+
+}  // namespace
+
+WhatMattersWindow::WhatMattersWindow(Program& program)
+    : ProgramForm(program, "frmWhatMatters", CaptionWithProject("What Matters", program.project)),
+      design_(AsReported(program.project, program.session.catalogs)),
+      figures_(FiguresOf(design_)) {
+  cmbFigure.Change = [this] { Compute(); };
+  txtChange.Change = [this] { TakeChange(); };
+  txtLow.Change = [this] { TakeRange(); };
+  txtHigh.Change = [this] { TakeRange(); };
+  grdNumbers.Change = [this] { ShowRange(); };
+  picTornado.Make = [this](const SheetSize& sheet) { return TornadoOf(sheet); };
+  picTornado.Resize = [this] { picTornado.Outdate(); };
+  picTornado.Command = [this](DrawingCommand command) { RunDrawingCommand(program_, picTornado, command); };
+}
+
+void WhatMattersWindow::OnOpen() {
+  grdNumbers.SetStretchedColumn(0);
+  std::vector<ComboItem> items;
+  for (const StudiedFigure* figure : figures_) items.push_back({.text = NameOf(*figure, design_.Units), .mark = {}});
+  cmbFigure.Fill(std::move(items));
+  txtChange.SetText(NumberText(ToSingle(share_ * Percent)));
+  const auto psup = std::ranges::find(figures_, "actual-psup", &StudiedFigure::Key);
+  cmbFigure.SetListIndex(psup == figures_.end() ? 0 : static_cast<int>(psup - figures_.begin()));
+  Compute();
+  program_.platform.windows.CenterForm(*this);
+}
+
+const StudiedFigure& WhatMattersWindow::Figure() const {
+  return *figures_.at(static_cast<std::size_t>(std::max(cmbFigure.ListIndex(), 0)));
+}
+
+void WhatMattersWindow::Compute() {
+  effects_ = EffectsOn(design_, program_.session.catalogs, Figure(), share_, ranges_);
+  ShowEffects();
+}
+
+void WhatMattersWindow::ShowEffects() {
+  const int marked = grdNumbers.Row();
+  std::vector<std::vector<std::string>> rows{{EffectHeads.begin(), EffectHeads.end()}};
+  std::vector<ComboItem> turns;
+  for (const NumberEffect& effect : effects_) {
+    rows.push_back(CellsOf(effect, design_));
+    for (std::string& line : TurnLines(effect, design_.Units)) turns.push_back({.text = std::move(line), .mark = {}});
+  }
+  if (turns.empty()) turns.push_back({.text = "No judgement changes within these ranges.", .mark = {}});
+  grdNumbers.SetRows(std::move(rows), 1);
+  if (marked >= 1 && marked < grdNumbers.Rows()) grdNumbers.SetRow(marked);
+  lstTurns.Fill(std::move(turns));
+  VariedDesign present(design_, program_.session.catalogs);
+  present.Refresh();
+  lblPresent.SetCaption("Of this design: " + EffectText(Figure().Of(present.Analysed())));
+  picTornado.Outdate();
+  ShowRange();
+}
+
+void WhatMattersWindow::ShowRange() {
+  const int row = grdNumbers.Row() - grdNumbers.FixedRows();
+  const bool isRow = row >= 0 && static_cast<std::size_t>(row) < effects_.size();
+  txtLow.SetEnabled(isRow);
+  txtHigh.SetEnabled(isRow);
+  if (!isRow || isShowing_) return;
+  isShowing_ = true;
+  const VariedRange& range = effects_[static_cast<std::size_t>(row)].Row.Range;
+  fraRange.SetCaption("Range of the marked number: " + range.Name);
+  txtLow.SetText(NumberText(range.Low));
+  txtHigh.SetText(NumberText(range.High));
+  isShowing_ = false;
+}
+
+// Another share applies to all numbers, also to those with a range of their own.
+void WhatMattersWindow::TakeChange() {
+  const std::optional<Single> percent = WholeNumberOf(txtChange);
+  if (!percent || !(*percent > 0 && *percent <= Percent) || *percent / Percent == share_) return;
+  share_ = *percent / Percent;
+  ranges_.clear();
+  Compute();
+}
+
+void WhatMattersWindow::TakeRange() {
+  if (isShowing_) return;
+  const std::optional<Single> low = WholeNumberOf(txtLow);
+  const std::optional<Single> high = WholeNumberOf(txtHigh);
+  if (!low || !high || !(*low < *high)) return;
+  isShowing_ = true;
+  ranges_[effects_.at(static_cast<std::size_t>(grdNumbers.Row() - grdNumbers.FixedRows())).Number] = {*low, *high};
+  Compute();
+  isShowing_ = false;
+}
+
+Sketch WhatMattersWindow::TornadoOf(const SheetSize& sheet) const {
+  VariedDesign present(design_, program_.session.catalogs);
+  present.Refresh();
+  const FigureValue now = Figure().Of(present.Analysed());
+  Tornado tornado{.Title = NameOf(Figure(), design_.Units), .Centre = 0, .CentreText = EffectText(now), .Bars = {}};
+  if (now.IsThere()) tornado.Centre = now.Value;
+  for (const std::size_t place : GreatestFirst(effects_)) {
+    const SensitivityRow& row = effects_[place].Row;
+    if (!now.IsThere() || row.Swing() == 0) continue;
+    tornado.Bars.push_back({.Name = row.Range.Name,
+                            .AtLow = row.AtLow.Value,
+                            .AtHigh = row.AtHigh.Value,
+                            .LowText = EffectText(row.AtLow),
+                            .HighText = EffectText(row.AtHigh)});
+  }
+  return TornadoSketch(tornado, sheet);
+}
+
+void WhatMattersWindow::Copy() {
+  std::string text;
+  for (int row = 0; row < grdNumbers.Rows(); ++row) {
+    for (int column = 0; column < grdNumbers.Columns(); ++column) {
+      text.append(column == 0 ? "" : "\t").append(grdNumbers.Cell(row, column));
+    }
+    text += LineEnd;
+  }
+  program_.platform.clipboard.SetText(text);
+}
+
+void ShowWhatMatters(Program& program) {
+  WhatMattersWindow window(program);
+  ShowForm(program, window);
+}
+
+}  // namespace orby
