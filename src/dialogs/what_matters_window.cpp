@@ -11,7 +11,7 @@
 namespace orby {
 namespace {
 
-constexpr double Percent = 100;
+constexpr double PercentOfAll = 100;
 
 std::vector<const StudiedFigure*> FiguresOf(const RoofSupport& design) {
   std::vector<const StudiedFigure*> figures;
@@ -51,7 +51,7 @@ void WhatMattersWindow::OnOpen() {
   std::vector<ComboItem> items;
   for (const StudiedFigure* figure : figures_) items.push_back({.text = NameOf(*figure, design_.Units), .mark = {}});
   cmbFigure.Fill(std::move(items));
-  txtChange.SetText(NumberText(ToSingle(share_ * Percent)));
+  txtChange.SetText(NumberText(ToSingle(share_ * PercentOfAll)));
   const auto psup = std::ranges::find(figures_, "actual-psup", &StudiedFigure::Key);
   cmbFigure.SetListIndex(psup == figures_.end() ? 0 : static_cast<int>(psup - figures_.begin()));
   Compute();
@@ -103,8 +103,8 @@ void WhatMattersWindow::ShowRange() {
 // Another share applies to all numbers, also to those with a range of their own.
 void WhatMattersWindow::TakeChange() {
   const std::optional<Single> percent = WholeNumberOf(txtChange);
-  if (!percent || !(*percent > 0 && *percent <= Percent) || *percent / Percent == share_) return;
-  share_ = *percent / Percent;
+  if (!percent || !(*percent > 0 && *percent <= PercentOfAll) || *percent / PercentOfAll == share_) return;
+  share_ = *percent / PercentOfAll;
   ranges_.clear();
   Compute();
 }

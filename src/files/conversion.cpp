@@ -1,5 +1,6 @@
 #include "files/conversion.h"
 
+#include <algorithm>
 #include <array>
 
 #include "base/arithmetic.h"
@@ -122,6 +123,20 @@ void ConvertProject(Program& program, UnitSystem target) {
   program.project.CurrentFile = (target == Metric ? "Metric_" : "English_") +
                                 FileNameFromPath(program, program.project.CurrentFile, FileNameForm::Whole);
   program.project.WorkParms.Units = target;
+}
+
+UnitSuffix QuantityOf(const SingleField& field) {
+  const auto row = std::ranges::find(Conversions, field, &ConversionRow::Field);
+  if (row == Conversions.end()) return UnitSuffix::None;
+  switch (row->Quantity) {
+    case Kind::Length: return UnitSuffix::Length;
+    case Kind::UnitWeight: return UnitSuffix::UnitWeight;
+    case Kind::Diameter: return UnitSuffix::Diameter;
+    case Kind::Grade: return UnitSuffix::Grade;
+    case Kind::Force: return UnitSuffix::Force;
+    case Kind::LineLoad: return UnitSuffix::LineLoad;
+  }
+  return UnitSuffix::None;
 }
 
 }  // namespace orby

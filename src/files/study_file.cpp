@@ -25,10 +25,16 @@ std::string StudyPath(const std::string& projectPath) {
   return projectPath.substr(0, projectPath.size() - ending) + ".study.json";
 }
 
-LoadedStudy LoadStudy(FileSystem& files, const std::string& projectPath, DamagedStudy damaged) {
+LoadedStudy LoadStudy(FileSystem& files, const std::string& projectPath, UnitSystem units, DamagedStudy damaged) {
   const std::string path = StudyPath(projectPath);
   if (!files.FindsFile(path)) return {};
   StudyReading reading = ReadStudy(files.ReadFile(path));
+  if (reading.Stored && reading.Stored->Units.value_or(units) != units) {
+    return {std::nullopt, "The study " + path + " cannot be used. Its numbers have " +
+                              std::string(units == Metric ? "English" : "Metric") +
+                              " units, and those of the project are " +
+                              std::string(units == Metric ? "Metric" : "English") + "."};
+  }
   if (reading.Stored) return {std::move(reading.Stored), ""};
   std::string message = "The study " + path + " cannot be used. " + reading.Fault;
   if (reading.IsDamaged && damaged == DamagedStudy::PutAside) {

@@ -23,8 +23,9 @@ struct LoadedStudy {
   std::string Message;
 };
 
-// Reads the study of a project. Throws the RuntimeError of a file that cannot be read.
-LoadedStudy LoadStudy(FileSystem& files, const std::string& projectPath, DamagedStudy damaged);
+// Reads the study of a project with these units. A study in other units cannot be used, because its numbers would mean
+// something else. Throws the RuntimeError of a file that cannot be read.
+LoadedStudy LoadStudy(FileSystem& files, const std::string& projectPath, UnitSystem units, DamagedStudy damaged);
 
 // Replaces the study of a project in one step. Throws the RuntimeError of a file that cannot be written.
 void SaveStudy(FileSystem& files, const std::string& projectPath, const StoredStudy& stored);

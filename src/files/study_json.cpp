@@ -38,6 +38,9 @@ std::vector<LawMember> MembersOf(EmpiricalLaw&) { return {}; }
 const DistributionLaw LawKinds[] = {NormalLaw(),  LognormalLaw(), TriangularLaw(),
                                     UniformLaw(), BetaLaw(),      EmpiricalLaw()};
 
+// By unit system.
+constexpr const char* UnitNames[] = {"english", "metric"};
+
 const VariableInput* InputNamed(std::string_view name) {
   const auto inputs = VariableInputs();
   const auto found = std::ranges::find(inputs, name, &VariableInput::Name);
@@ -227,6 +230,14 @@ void SetOrErase(Json& document, const char* key, bool isNeeded, const std::funct
   }
 }
 
+std::optional<UnitSystem> UnitsFrom(const Json& document) {
+  const Json* units = MemberOf(document, "units");
+  if (units == nullptr) return std::nullopt;
+  if (*units == Json(UnitNames[0])) return English;
+  if (*units == Json(UnitNames[1])) return Metric;
+  Refuse("Its \"units\" are not \"english\" or \"metric\".");
+}
+
 std::vector<VariableInput> MakeVariableInputs() {
   const Design& sample = SampleDesign();
   const auto* from = reinterpret_cast<const char*>(&sample.Cost);
@@ -256,7 +267,7 @@ StudyReading ReadStudy(std::string_view bytes) {
     return {{}, "It was written by a later version of the program."};
   }
   try {
-    return {StoredStudy{ReadSettings(document), std::string(bytes)}, ""};
+    return {StoredStudy{ReadSettings(document), std::string(bytes), UnitsFrom(document)}, ""};
   } catch (const Damage& damage) {
     return {{}, damage.Fault, true};
   }
@@ -268,6 +279,7 @@ std::string StudyBytes(const StoredStudy& stored) {
   Json inputs = Json::array();
   for (const StudyInput& input : study.Inputs) inputs.push_back(InputObject(document, input));
   document["format"] = StudyFormat;
+  if (stored.Units) document["units"] = UnitNames[PlaceOf(*stored.Units)];
   document["inputs"] = std::move(inputs);
   SetOrErase(document, "rankCorrelations", study.Spearman.Size() > 0, [&] { return MatrixRows(study.Spearman); });
   document["sampling"] = std::string(SchemeNames[static_cast<std::size_t>(study.Sampling)]);

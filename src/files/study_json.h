@@ -13,7 +13,8 @@ namespace orby {
 // A study with the text that it was read from, whose unknown members stay when it is written again.
 struct StoredStudy {
   Study Settings;
-  std::string Source;  // empty: none
+  std::string Source;               // empty: none
+  std::optional<UnitSystem> Units;  // of its numbers; nothing if the text does not say so
 };
 
 struct StudyReading {

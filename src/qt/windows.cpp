@@ -22,6 +22,7 @@
 #include <ui_font_dialog.h>
 #include <ui_graph_options_dialog.h>
 #include <ui_graph_window.h>
+#include <ui_how_sure_window.h>
 #include <ui_main_window.h>
 #include <ui_options_dialog.h>
 #include <ui_parameters_dialog.h>
@@ -114,6 +115,7 @@ constexpr std::array Layouts{
     LayoutEntry{"frmSignedReport", Make<Ui::frmSignedReport, DialogWindow>},
     LayoutEntry{"frmWhatMatters", Make<Ui::frmWhatMatters, DialogWindow>},
     LayoutEntry{"frmWouldHold", Make<Ui::frmWouldHold, DialogWindow>},
+    LayoutEntry{"frmHowSure", Make<Ui::frmHowSure, DialogWindow>},
     LayoutEntry{"frmResource", Make<Ui::frmResource, DialogWindow>},
 };
 

@@ -24,13 +24,6 @@ struct Quantile {
 };
 constexpr Quantile Quantiles[] = {{"P5", 0.05}, {"P50", 0.5}, {"P95", 0.95}};
 
-// Returns a whole number with commas: "1,000,000".
-std::string CountText(std::uint64_t count) {
-  std::string digits = std::to_string(count);
-  for (std::size_t end = digits.size(); end > 3; end -= 3) digits.insert(end - 3, ",");
-  return digits;
-}
-
 std::string_view HoldingName(Holding result) {
   constexpr std::array<std::string_view, HoldingCount> Names{"holds", "check", "--", "short"};
   return Names.at(static_cast<std::size_t>(result));
@@ -46,7 +39,7 @@ std::string_view EndText(StudyEnd end) {
 }
 
 std::string Heading(const StudyResult& result, const Study& study) {
-  std::string text = CountText(result.Samples) + " samples in " + CountText(result.Batches) + " batches, ";
+  std::string text = CountWithCommas(result.Samples) + " samples in " + CountWithCommas(result.Batches) + " batches, ";
   text.append(SchemeName(study.Sampling)).append(", seed ").append(std::to_string(study.Seed));
   text.append(EndText(result.End)).append(".\n\n");
   return text;
@@ -104,7 +97,7 @@ std::string FigureTable(const StudyResult& result, UnitSystem units) {
     }
     row.push_back(numberIfAny(figure.Sums.Greatest()));
     const std::uint64_t without = figure.Missing + figure.Failed;
-    row.push_back(without == 0 ? std::string() : CountText(without));
+    row.push_back(without == 0 ? std::string() : CountWithCommas(without));
     table.Add(std::move(row));
   }
   return table.Text();
@@ -135,7 +128,7 @@ std::string FailureLines(const StudyResult& result) {
   std::string text;
   for (const FigureResult& figure : result.Figures) {
     if (figure.Failed == 0) continue;
-    text.append(figure.Figure->Name).append(" could not be computed in ").append(CountText(figure.Failed));
+    text.append(figure.Figure->Name).append(" could not be computed in ").append(CountWithCommas(figure.Failed));
     text.append(" samples: ").append(RuntimeError(figure.FirstError).what()).append(".\n");
   }
   return text.empty() ? text : "\n" + text;
@@ -205,6 +198,12 @@ std::string VerdictName(const StudiedVerdict& verdict) {
 std::string_view SchemeName(Scheme scheme) {
   constexpr std::array<std::string_view, 3> Names{"latin hypercube", "sobol", "random"};
   return Names.at(static_cast<std::size_t>(scheme));
+}
+
+std::string CountWithCommas(std::uint64_t count) {
+  std::string digits = std::to_string(count);
+  for (std::size_t end = digits.size(); end > 3; end -= 3) digits.insert(end - 3, ",");
+  return digits;
 }
 
 std::string StudyText(const StudyResult& result, const Study& study, UnitSystem units) {

@@ -1,7 +1,9 @@
 // The result of a study as texts.
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "design/units.h"
 #include "sampling/study_run.h"
@@ -13,6 +15,9 @@ std::string VerdictName(const StudiedVerdict& verdict);
 
 // Returns "latin hypercube", "sobol" or "random".
 std::string_view SchemeName(Scheme scheme);
+
+// Returns a whole number with commas: "1,000,000".
+std::string CountWithCommas(std::uint64_t count);
 
 // Returns tables to read: the probability that each judgement falls short, the figures in the units of the design, and
 // their rank correlations with the inputs.

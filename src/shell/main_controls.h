@@ -32,7 +32,7 @@ enum class UtilityItem : Integer {
   Backups = 9,
 };
 
-enum class StudyItem : Integer { WhatWouldHold, CalculationSheet, SignedReport, WhatMatters };
+enum class StudyItem : Integer { WhatWouldHold, CalculationSheet, SignedReport, WhatMatters, HowSure };
 
 enum class HelpItem : Integer {
   Contents = 0,
@@ -85,7 +85,9 @@ class MainControls : public ProgramForm {
        "&Clear History Window", CloseHistory, "Co&py History &Window", ActionArray::Separator, "&Backups..."}};
   Menu mnuStudy{*this, "mnuStudy", "&Study"};
   Actions<StudyItem> mnuStudyItem{
-      *this, "mnuStudyItem", {"&What Would Hold...", "&Calculation Sheet...", "&Signed Report...", "What &Matters..."}};
+      *this,
+      "mnuStudyItem",
+      {"&What Would Hold...", "&Calculation Sheet...", "&Signed Report...", "What &Matters...", "&How Sure..."}};
   Menu mnuHelp{*this, "mnuHelp", "&Help"};
   Actions<HelpItem> mnuHelpItem{
       *this,

@@ -12,6 +12,7 @@
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
 #include "core/program.h"
+#include "dialogs/unsaved_study.h"
 #include "files/save_command.h"
 #include "shell/main_controls.h"
 #include "shell/recovery.h"
@@ -120,6 +121,7 @@ class MainWindow : public MainControls {
   Recovery recovery_;
   UpdateCheck updateCheck_;
   SummaryPane summary_;
+  UnsavedStudy unsavedStudy_;
 };
 
 }  // namespace orby

@@ -179,6 +179,17 @@ TEST(Conversion, DoesNotChangeAnglesCountsFactorsFlagsAndCosts) {
   EXPECT_EQ(record.Cost.CapitalCost, 1000000);
 }
 
+TEST(Conversion, KnowsTheQuantityOfEachNumber) {
+  EXPECT_EQ(QuantityOf([](auto& d) { return &d.Place.EntryWidth; }), UnitSuffix::Length);
+  EXPECT_EQ(QuantityOf([](auto& d) { return &d.Place.UnitWeight; }), UnitSuffix::UnitWeight);
+  EXPECT_EQ(QuantityOf([](auto& d) { return &d.Primary.DiameterManual; }), UnitSuffix::Diameter);
+  EXPECT_EQ(QuantityOf([](auto& d) { return &d.Primary.GradeManual; }), UnitSuffix::Grade);
+  EXPECT_EQ(QuantityOf([](auto& d) { return &d.Entries.Truss.Capacity; }), UnitSuffix::Force);
+  EXPECT_EQ(QuantityOf([](auto& d) { return &d.Entries.RockLoad; }), UnitSuffix::LineLoad);
+  EXPECT_EQ(QuantityOf([](auto& d) { return &d.Place.CMRR; }), UnitSuffix::None);
+  EXPECT_EQ(QuantityOf([](auto& d) { return &d.Entries.Truss.Angle; }), UnitSuffix::None);
+}
+
 TEST(Conversion, MakesAnUnsavedProjectWithAPrefixBeforeItsFileName) {
   TestProject project;
   project.program.project.FileSaved = true;

@@ -168,7 +168,7 @@ TEST(StudyFile, SavedIsLoadedAgain) {
   stored.Settings.Seed = 7;
 
   SaveStudy(platform.files, Project, stored);
-  const LoadedStudy loaded = LoadStudy(platform.files, Project, DamagedStudy::PutAside);
+  const LoadedStudy loaded = LoadStudy(platform.files, Project, English, DamagedStudy::PutAside);
 
   ASSERT_TRUE(loaded.Stored);
   EXPECT_EQ(loaded.Stored->Settings, stored.Settings);
@@ -178,7 +178,7 @@ TEST(StudyFile, SavedIsLoadedAgain) {
 TEST(StudyFile, OfAProjectWithoutOneIsMissingWithoutAMessage) {
   RecordingPlatform platform;
 
-  const LoadedStudy loaded = LoadStudy(platform.files, Project, DamagedStudy::PutAside);
+  const LoadedStudy loaded = LoadStudy(platform.files, Project, English, DamagedStudy::PutAside);
 
   EXPECT_FALSE(loaded.Stored);
   EXPECT_EQ(loaded.Message, "");
@@ -189,7 +189,7 @@ TEST(StudyFile, DamagedIsToldAndPutAside) {
   platform.files.files[Path] = "{\"format\": 1, ";
   platform.files.files[Path + ".kept"] = "an earlier one";
 
-  const LoadedStudy loaded = LoadStudy(platform.files, Project, DamagedStudy::PutAside);
+  const LoadedStudy loaded = LoadStudy(platform.files, Project, English, DamagedStudy::PutAside);
 
   EXPECT_FALSE(loaded.Stored);
   EXPECT_EQ(loaded.Message,
@@ -204,17 +204,39 @@ TEST(StudyFile, DamagedStaysWhereItIsForAScript) {
   RecordingPlatform platform;
   platform.files.files[Path] = "{";
 
-  const LoadedStudy loaded = LoadStudy(platform.files, Project, DamagedStudy::Leave);
+  const LoadedStudy loaded = LoadStudy(platform.files, Project, English, DamagedStudy::Leave);
 
   EXPECT_EQ(loaded.Message, "The study /mine/north.study.json cannot be used. It is not the study of a project.");
   EXPECT_TRUE(platform.files.files.contains(Path));
+}
+
+// After a project is converted its study would vary a depth in feet as one in metres.
+TEST(StudyFile, InOtherUnitsIsToldAndStays) {
+  RecordingPlatform platform;
+  StoredStudy stored = *ReadStudy(Example).Stored;
+  stored.Units = English;
+  SaveStudy(platform.files, Project, stored);
+
+  const LoadedStudy loaded = LoadStudy(platform.files, Project, Metric, DamagedStudy::PutAside);
+
+  EXPECT_FALSE(loaded.Stored);
+  EXPECT_EQ(loaded.Message,
+            "The study /mine/north.study.json cannot be used. Its numbers have English units, and those of the project "
+            "are Metric.");
+  EXPECT_TRUE(platform.files.files.contains(Path));
+  EXPECT_TRUE(LoadStudy(platform.files, Project, English, DamagedStudy::PutAside).Stored);
+}
+
+TEST(StudyFile, WithUnitsThatDoNotExistIsRefused) {
+  EXPECT_EQ(ReadStudy(R"({"format": 1, "inputs": [], "units": "cubits"})").Fault,
+            "Its \"units\" are not \"english\" or \"metric\".");
 }
 
 TEST(StudyFile, OfALaterVersionIsToldAndStays) {
   RecordingPlatform platform;
   platform.files.files[Path] = R"({"format": 2})";
 
-  const LoadedStudy loaded = LoadStudy(platform.files, Project, DamagedStudy::PutAside);
+  const LoadedStudy loaded = LoadStudy(platform.files, Project, English, DamagedStudy::PutAside);
 
   EXPECT_THAT(loaded.Message, HasSubstr("It was written by a later version of the program."));
   EXPECT_TRUE(platform.files.files.contains(Path));

@@ -18,6 +18,7 @@
 #include "dialogs/font_dialog.h"
 #include "dialogs/graph_options_dialog.h"
 #include "dialogs/graph_window.h"
+#include "dialogs/how_sure_window.h"
 #include "dialogs/options_dialog.h"
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/preview_window.h"
@@ -89,6 +90,11 @@ inline constexpr std::array FormMakers{
               }},
     FormMaker{"frmSignedReport", Plain<SignedReportWindow>},
     FormMaker{"frmWhatMatters", Plain<WhatMattersWindow>},
+    FormMaker{"frmHowSure",
+              [](Program& program) -> std::unique_ptr<Form> {
+                static UnsavedStudy unsaved;
+                return std::make_unique<HowSureWindow>(program, unsaved);
+              }},
     FormMaker{"frmGraph", Plain<GraphWindow>},
     FormMaker{"frmConvert", Plain<ConvertDialog>},
     FormMaker{"frmUnits", Plain<UnitCalculator>},

@@ -36,6 +36,19 @@ const std::set<std::string> Texts{
     "frmSignedReport txtChecker",
     "frmSignedReport txtRevision",
     "frmSignedReport txtRemarks",
+    "frmHowSure txtFirst",  // numbers that may be blank, and are read only if they are all of their text
+    "frmHowSure txtSecond",
+    "frmHowSure txtThird",
+    "frmHowSure txtFourth",
+    "frmHowSure txtLowest",
+    "frmHowSure txtHighest",
+    "frmHowSure txtValues",
+    "frmHowSure txtRank",
+    "frmHowSure txtSamples",
+    "frmHowSure txtSeed",
+    "frmHowSure txtBatch",
+    "frmHowSure txtConfidence",
+    "frmHowSure txtStopWidth",
     "frmWouldHold txtLengths",  // a list of lengths
     "frmGraphOpt Text1",        // titles of a graph, its curves and its axes
     "frmGraphOpt Text2_0",

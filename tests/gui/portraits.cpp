@@ -9,10 +9,12 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QTabWidget>
 #include <QTemporaryFile>
@@ -34,6 +36,7 @@
 #include "dialogs/font_dialog.h"
 #include "dialogs/graph_options_dialog.h"
 #include "dialogs/graph_window.h"
+#include "dialogs/how_sure_window.h"
 #include "dialogs/options_dialog.h"
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/preview_window.h"
@@ -194,6 +197,7 @@ class Sitting {
     TakeSheet();
     TakeSignedReport();
     TakeWhatMatters();
+    TakeHowSure();
     TakeDialog<CostDialog>("cost");
     TakeEstimator();
     TakeOptions();
@@ -344,6 +348,47 @@ class Sitting {
       window.close();
     });
     ShowSignedReport(program_);
+  }
+
+  // Takes the pages of a study with measured ratings, and each chart of its result.
+  void TakeHowSure() {
+    const bool isMetric = program_.project.WorkParms.Units == Metric;
+    scripts_.Add([&](QDialog& window) {
+      const auto choose = [&](std::string_view list, const QString& text) {
+        Find<QComboBox>(window, list).setCurrentText(text);
+        Settle();
+      };
+      choose("cmbInput", isMetric ? "depth of cover (m)" : "depth of cover (ft)");
+      TypeInto(window, "txtSecond", isMetric ? "25" : "80");
+      TypeInto(window, "txtLowest", isMetric ? "90" : "300");
+      Click(window, "cmdAdd");
+      choose("cmbInput", isMetric ? "rock load height in entries (m)" : "rock load height in entries (ft)");
+      choose("cmbLaw", "triangular");
+      TypeInto(window, "txtFirst", isMetric ? "1" : "3");
+      TypeInto(window, "txtThird", isMetric ? "3" : "10");
+      TypeInto(window, "txtLowest", "");
+      Click(window, "cmdAdd");
+      choose("cmbInput", "roof rating");
+      choose("cmbLaw", "measured values");
+      Find<QPlainTextEdit>(window, "txtValues").setPlainText("38\n41\n42\n42\n45\n47\n50\n52\n55\n61\n");
+      Click(window, "cmdAdd");
+      TypeInto(window, "txtRank", "-0.3");
+      Click(window, "cmdSetRank");
+      Click(window, "cmdRun");
+      while (Find<QPushButton>(window, "cmdStop").isEnabled()) {
+        platform_.clock.Pass();
+        Settle();
+      }
+      TakePages(photographer_, window, Find<QTabWidget>(window, "tabSure"), "how-sure");
+      for (const auto& [name, chart] :
+           {std::pair("cumulative", "Cumulative curve"), std::pair("ranks", "Rank correlations"),
+            std::pair("convergence", "Convergence"), std::pair("scatter", "Scatter")}) {
+        choose("cmbChart", chart);
+        photographer_.Take(window, std::string("how-sure-") + name);
+      }
+      window.close();
+    });
+    ShowHowSure(program_, unsavedStudy_);
   }
 
   // Takes a form that this button closes.
@@ -528,6 +573,7 @@ class Sitting {
   GuiPlatform platform_;
   QtMessageBoxes boxes_;
   Program program_;
+  UnsavedStudy unsavedStudy_;
   std::unique_ptr<MainWindow> window_;
 };
 

@@ -2,6 +2,7 @@
 
 #include "dialogs/cost_dialog.h"
 #include "dialogs/description_dialog.h"
+#include "dialogs/how_sure_window.h"
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/sheet_window.h"
 #include "files/recovery_file.h"
@@ -79,6 +80,21 @@ TEST_F(InputMenu, SaysWhyAProjectHasNoCalculationSheet) {
   window.mnuStudyItem.ClickItem(StudyItem::CalculationSheet);
 
   EXPECT_THAT(platform.boxes.Texts(), Not(IsEmpty()));
+}
+
+TEST_F(InputMenu, KeepsTheInputsOfAStudyOfANewProjectUntilTheProgramEnds) {
+  std::vector<int> rows;
+  platform.windows.onModal = [&](Form& form) {
+    auto& shown = dynamic_cast<HowSureWindow&>(form);
+    rows.push_back(shown.grdInputs.Rows());
+    shown.Second.Field.SetText("4");
+    shown.cmdAdd.Press();
+  };
+
+  window.mnuStudyItem.ClickItem(StudyItem::HowSure);
+  window.mnuStudyItem.ClickItem(StudyItem::HowSure);
+
+  EXPECT_THAT(rows, ElementsAre(1, 2));
 }
 
 TEST_F(InputMenu, OpensNoStudyAfterTheParametersHaveClosed) {

@@ -43,7 +43,8 @@ StudyResult RunWithProgress(const Design& design, const Catalogs& catalogs, cons
 }  // namespace
 
 StudyOutput RunStoredStudy(Program& program, const std::string& file, const CommandLine& line) {
-  const LoadedStudy loaded = LoadStudy(program.platform.files, file, DamagedStudy::Leave);
+  const LoadedStudy loaded =
+      LoadStudy(program.platform.files, file, program.project.WorkParms.Units, DamagedStudy::Leave);
   if (!loaded.Message.empty()) return Refusal(ExitCode::Refused, loaded.Message);
   if (!loaded.Stored) return Refusal(ExitCode::Refused, "There is no study " + StudyPath(file) + ".");
   Study study = loaded.Stored->Settings;

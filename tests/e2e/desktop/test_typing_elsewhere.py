@@ -64,6 +64,14 @@ class TypingElsewhere(NumberFieldsTest):
         parameters.wait_gone()
         self.quit()
 
+    def test_in_what_matters(self):
+        run = self.start_main()
+        run.keys("alt+s", "m")
+        self.enter(run, run.window("What Matters"), "frmWhatMatters")
+        self.fill_fields()
+        self.leave("cmdClose")
+        self.quit()
+
     def test_in_the_settings_and_in_the_font_dialog(self):
         run = self.start_main()
         run.keys("alt+u", "s")
