@@ -150,6 +150,7 @@ void MarkDesign(const std::optional<CurvePoint>& own, const std::vector<CurveRef
   if (own) point = ChartPoint{own->X, own->Y, OwnPointName(curveIndex)};
   chart.SetOwn(std::move(point));
   std::vector<ChartLine> lines;
+  lines.reserve(references.size());
   for (const CurveReference& reference : references) {
     lines.push_back({reference.IsOfX, reference.Value, ReferenceName(reference)});
   }

@@ -61,6 +61,7 @@ void HowSureWindow::OnOpen() {
   }
   cmbScheme.Fill(std::move(schemes));
   std::vector<ComboItem> charts;
+  charts.reserve(std::size(StudyChartNames));
   for (const std::string_view name : StudyChartNames) charts.push_back({std::string(name)});
   cmbChart.Fill(std::move(charts));
   cmbChart.SetListIndex(0);

@@ -119,6 +119,7 @@ void StudyInputsPage::Show() {
   for (const VariableInput& input : VariableInputs()) inputs.push_back({NameOf(input)});
   controls_.cmbInput.Fill(std::move(inputs));
   std::vector<ComboItem> laws;
+  laws.reserve(std::size(EmptyLaws));
   for (const DistributionLaw& law : EmptyLaws) laws.push_back({std::string(LawName(law))});
   controls_.cmbLaw.Fill(std::move(laws));
   controls_.cmbInput.SetListIndex(0);

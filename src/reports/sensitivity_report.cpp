@@ -63,6 +63,7 @@ std::vector<NumberEffect> EffectsOn(const Design& design, const Catalogs& catalo
 
 std::vector<std::size_t> GreatestFirst(const std::vector<NumberEffect>& effects) {
   std::vector<SensitivityRow> rows;
+  rows.reserve(effects.size());
   for (const NumberEffect& effect : effects) rows.push_back(effect.Row);
   return BySwing(rows);
 }
