@@ -19,7 +19,7 @@ std::string Quoted(std::string_view text) {
   return quoted + '"';
 }
 
-std::string FieldOf(const std::vector<double>& numbers, std::size_t row) {
+std::string TableField(const std::vector<double>& numbers, std::size_t row) {
   return row < numbers.size() ? NumberText(ToSingle(numbers[row])) : std::string();
 }
 
@@ -44,8 +44,9 @@ std::string CurveTable(const std::string& xHeader, const std::string& yHeader, c
   std::size_t rows = 0;
   for (const ChartSeries& series : all) rows = std::max(rows, series.x.size());
   for (std::size_t row = 0; row < rows; ++row) {
-    table += Record(
-        all, [&](const ChartSeries& series) { return std::pair(FieldOf(series.x, row), FieldOf(series.y, row)); });
+    table += Record(all, [&](const ChartSeries& series) {
+      return std::pair(TableField(series.x, row), TableField(series.y, row));
+    });
   }
   return table;
 }

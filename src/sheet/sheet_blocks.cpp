@@ -78,7 +78,8 @@ class StepBlock {
         stack_.Add(std::exchange(line, {}), page_style::Indent, above);
         above = Size * 0.35;
       }
-      line = line.Width > 0 ? SideBySide({std::move(line), std::move(entry)}, Gap) : std::move(entry);
+      if (line.Width > 0) entry = SideBySide({std::move(line), std::move(entry)}, Gap);
+      line = std::move(entry);
     }
     if (line.Width > 0) stack_.Add(Fitting(std::move(line), Room()), page_style::Indent, above);
   }

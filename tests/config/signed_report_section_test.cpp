@@ -24,21 +24,23 @@ SignedReportSettings SomeChoices() {
   return settings;
 }
 
-SignedReportSettings Read(const std::string& text, SignedReportSettings settings = {}) {
+SignedReportSettings ReadChoices(const std::string& text, SignedReportSettings settings = {}) {
   ReadSignedReport(settings, IniText(text));
   return settings;
 }
 
-std::string Written(const SignedReportSettings& settings, const std::string& before = {}) {
+std::string WrittenChoices(const SignedReportSettings& settings, const std::string& before = {}) {
   IniText ini{before};
   WriteSignedReport(settings, ini);
   return ini.Text();
 }
 
-TEST(SignedReportSection, IsReadBackAsItWasWritten) { EXPECT_EQ(Read(Written(SomeChoices())), SomeChoices()); }
+TEST(SignedReportSection, IsReadBackAsItWasWritten) {
+  EXPECT_EQ(ReadChoices(WrittenChoices(SomeChoices())), SomeChoices());
+}
 
 TEST(SignedReportSection, HasALineForEachChoice) {
-  const std::string text = Written(SomeChoices());
+  const std::string text = WrittenChoices(SomeChoices());
 
   EXPECT_THAT(text, HasSubstr("[ORBYSignedReport]\r\nCompany=\" Brannock \"Coal\" \"\r\n"));
   EXPECT_THAT(
@@ -46,11 +48,11 @@ TEST(SignedReportSection, HasALineForEachChoice) {
   EXPECT_THAT(text, HasSubstr("\r\nRemark1=\"First line.\"\r\nRemark2=\"\"\r\n"));
 }
 
-TEST(SignedReportSection, MayBeMissing) { EXPECT_EQ(Read("[Settings]\r\n", SomeChoices()), SomeChoices()); }
+TEST(SignedReportSection, MayBeMissing) { EXPECT_EQ(ReadChoices("[Settings]\r\n", SomeChoices()), SomeChoices()); }
 
 TEST(SignedReportSection, KeepsWhatItCannotRead) {
   const SignedReportSettings read =
-      Read("[ORBYSignedReport]\r\nPaper=A3\r\nDrawings=maybe\r\nCurve2=7\r\n", SomeChoices());
+      ReadChoices("[ORBYSignedReport]\r\nPaper=A3\r\nDrawings=maybe\r\nCurve2=7\r\n", SomeChoices());
 
   EXPECT_EQ(read, SomeChoices());
 }
@@ -59,14 +61,14 @@ TEST(SignedReportSection, ForgetsTheLinesOfLongerRemarks) {
   SignedReportSettings shorter = SomeChoices();
   shorter.Remarks = "One line.";
 
-  EXPECT_EQ(Read(Written(shorter, Written(SomeChoices()))), shorter);
+  EXPECT_EQ(ReadChoices(WrittenChoices(shorter, WrittenChoices(SomeChoices()))), shorter);
 }
 
 TEST(SignedReportSection, HasNoBreakInATitle) {
   SignedReportSettings settings;
   settings.Titles.Company = "Brannock\r\n[Settings]";
 
-  EXPECT_THAT(Written(settings), Not(HasSubstr("\n[Settings]")));
+  EXPECT_THAT(WrittenChoices(settings), Not(HasSubstr("\n[Settings]")));
 }
 
 }  // namespace

@@ -104,8 +104,8 @@ TEST(ABlockOfTheHelp, IsReplacedOnItsPageAlone) {
 TEST(TheRelations, AreUsedByTheDesignsThatTheyAreFor) {
   std::array<std::set<Law>, 2> used;
   DesignsOfSheets designs(20260);
-  constexpr int Designs = 2000;
-  for (int i = 0; i < Designs; ++i) {
+  constexpr int Count = 2000;
+  for (int i = 0; i < Count; ++i) {
     const SheetOf sheet(designs.Next());
     for (const SheetStep* step : sheet.Steps()) {
       if (step->Law != nullptr) used.at(PlaceOf(sheet.Made.Units)).insert(step->Law->What);
