@@ -58,7 +58,7 @@ TEST_F(ReportOnView, GoesFromPageToPageWithKeys) {
 }
 
 TEST_F(ReportOnView, KeepsItsPlaceWhileTheUserTypes) {
-  Work(window, [this](QDialog& view) {
+  Work(window, [](QDialog& view) {
     QTest::keyClick(&Small(view), Qt::Key_End);
     Settle();
     const int before = BarOfPages(view).value();
