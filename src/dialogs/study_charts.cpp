@@ -186,7 +186,7 @@ class RankTornado {
     Trace lines;
     for (const double rank : Ticks) lines.Segment({AtRank(rank), barTop}, {AtRank(rank), bottom});
     draft_.Draw(std::move(lines), {.Colour = Ink::Muted, .Width = 0.8});
-    const auto [left, right] = std::minmax(AtRank(0), AtRank(bar.Rank));
+    const auto [left, right] = std::minmax({AtRank(0), AtRank(bar.Rank)});
     draft_.Draw(Trace().Rectangle({left, barTop, right, bottom}), {.Colour = Ink::Curve, .Width = 1},
                 {Ink::Curve, 0.45});
     const std::string text = bar.Name + " " + RankText(bar.Rank);
