@@ -9,6 +9,8 @@
 #include <limits>
 #include <optional>
 
+#include "base/arithmetic.h"
+#include "base/attempt.h"
 #include "base/runtime_error.h"
 
 namespace orby {
@@ -322,6 +324,28 @@ std::string WithPoint(std::string text) {
 }
 
 }  // namespace
+
+std::optional<double> WholeTextNumber(std::string_view text) {
+  return OrNothing([text]() -> std::optional<double> {
+    const LeadingNumber number = ReadNumber(text);
+    return number.isWholeText ? std::optional(number.value) : std::nullopt;
+  });
+}
+
+std::optional<Single> WholeTextSingle(std::string_view text) {
+  return OrNothing([text]() -> std::optional<Single> {
+    const std::optional<double> number = WholeTextNumber(text);
+    return number ? std::optional(ToSingle(*number)) : std::nullopt;
+  });
+}
+
+std::optional<std::uint64_t> WholeTextCount(std::string_view digits) {
+  std::uint64_t count = 0;
+  const char* const end = digits.data() + digits.size();
+  const auto [read, error] = std::from_chars(digits.data(), end, count);
+  if (error != std::errc() || read != end) return std::nullopt;
+  return count;
+}
 
 std::string NumberText(Single value) { return GeneralText(value); }
 std::string NumberText(double value) { return GeneralText(value); }

@@ -1,6 +1,7 @@
 // Conversion between numbers and text. The decimal mark is the point in every locale.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -52,6 +53,15 @@ std::string FormatNumber(double value, NumberPattern pattern);
 // anywhere in the text. Reads a sign, digits, one point and an exponent (E or D), or a hexadecimal number after "&H" or
 // an octal one after "&O". Throws RuntimeError 6 when the number is outside the range of a Double.
 double TextValue(std::string_view text);
+
+// Returns the number that the whole text is. Returns nothing for any other text, and for a number outside the range of
+// a Double.
+std::optional<double> WholeTextNumber(std::string_view text);
+// The same in single precision.
+std::optional<Single> WholeTextSingle(std::string_view text);
+
+// Returns the whole number of at most 64 bits that the text is, in digits alone, or nothing.
+std::optional<std::uint64_t> WholeTextCount(std::string_view digits);
 
 // A number at the start of a text.
 struct LeadingNumber {

@@ -4,8 +4,6 @@
 #include <string>
 #include <string_view>
 
-#include "base/arithmetic.h"
-#include "base/attempt.h"
 #include "base/number_text.h"
 
 namespace orby {
@@ -33,18 +31,10 @@ std::string_view TakeWord(std::string_view& rest) {
   return word;
 }
 
-std::optional<Single> WholeNumber(std::string_view word) {
-  return OrNothing([word]() -> std::optional<Single> {
-    const LeadingNumber number = ReadNumber(word);
-    if (!number.isWholeText) return std::nullopt;
-    return ToSingle(number.value);
-  });
-}
-
 std::optional<Price> PriceFrom(std::string_view line) {
   const auto word = std::ranges::find(SupportWords, TakeWord(line));
-  const auto length = WholeNumber(TakeWord(line));
-  const auto dollars = WholeNumber(TakeWord(line));
+  const auto length = WholeTextSingle(TakeWord(line));
+  const auto dollars = WholeTextSingle(TakeWord(line));
   const bool hasName = line.size() >= 2 && line.starts_with('"') && line.ends_with('"');
   if (word == SupportWords.end() || !length || *length < 0 || !dollars || !(*dollars > 0) || !hasName) {
     return std::nullopt;

@@ -11,12 +11,8 @@ constexpr std::string_view Separators = " \t,;";
 
 // Returns the length that the whole word is, or nothing.
 std::optional<Single> LengthFrom(std::string_view word) {
-  return OrNothing([word]() -> std::optional<Single> {
-    const LeadingNumber number = ReadNumber(word);
-    const Single length = ToSingle(number.value);
-    if (!number.isWholeText || !(length > 0)) return std::nullopt;
-    return length;
-  });
+  const std::optional<Single> length = WholeTextSingle(word);
+  return length && *length > 0 ? length : std::nullopt;
 }
 
 }  // namespace

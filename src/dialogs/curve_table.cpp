@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/arithmetic.h"
+#include "base/csv_text.h"
 #include "base/number_text.h"
 #include "base/text.h"
 
@@ -10,13 +11,9 @@ namespace orby {
 namespace {
 
 std::string Quoted(std::string_view text) {
-  if (text.find_first_of(",\"\r\n") == std::string_view::npos) return std::string(text);
-  std::string quoted = "\"";
-  for (const char letter : text) {
-    if (letter == '"') quoted += '"';
-    quoted += letter;
-  }
-  return quoted + '"';
+  std::string field;
+  AppendCsvField(field, text);
+  return field;
 }
 
 std::string TableField(const std::vector<double>& numbers, std::size_t row) {
@@ -30,7 +27,7 @@ std::string Record(const std::vector<ChartSeries>& all, const FieldsOf& fieldsOf
   for (const ChartSeries& series : all) {
     const auto [x, y] = fieldsOf(series);
     if (!record.empty()) record += ',';
-    record += x + ',' + y;
+    record.append(x).append(",").append(y);
   }
   return record.append(LineEnd);
 }

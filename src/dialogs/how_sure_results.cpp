@@ -5,6 +5,7 @@
 
 #include "base/number_text.h"
 #include "dialogs/how_sure_window.h"
+#include "reports/sensitivity_report.h"
 #include "reports/study_report.h"
 
 namespace orby {
@@ -16,11 +17,6 @@ constexpr NumberPattern ChanceDecimals{"0.000"};
 constexpr std::array<double, 3> ShownShares{0.05, 0.5, 0.95};
 constexpr std::string_view NotRunYet = "Press Run to sample the design.";
 constexpr std::string_view Unknown = "--";
-
-std::string_view ResultWord(Holding result) {
-  constexpr std::array<std::string_view, HoldingCount> Words{"holds", "check", "--", "short"};
-  return Words.at(static_cast<std::size_t>(result));
-}
 
 std::string SampledNumber(double value) { return FormatNumber(value, "0.000"); }
 
@@ -43,13 +39,11 @@ std::string_view EndWords(StudyEnd end) {
 void HowSureWindow::ShowDone() {
   if (runner_) return;
   if (!result_) return lblDone.SetCaption(NotRunYet);
-  const Study before = study_;
-  TakeSettings();
-  const bool isOfOthers = study_ != ran_;
-  study_ = before;
+  Study typed = study_;
+  ReadSettings(typed);
   std::string text = CountWithCommas(result_->Samples) + " samples, seed " + std::to_string(ran_.Seed);
   text.append(EndWords(result_->End)).append(".");
-  if (isOfOthers) text += " Inputs or settings have changed since. Press Run for new results.";
+  if (typed != ran_) text += " Inputs or settings have changed since. Press Run for new results.";
   lblDone.SetCaption(text);
 }
 
@@ -84,7 +78,7 @@ void HowSureWindow::ShowFigures() {
     for (const FigureResult& figure : result_->Figures) {
       const bool any = figure.Sums.Count() > 0;
       const auto text = [&](double value) { return any ? SampledNumber(value) : std::string(Unknown); };
-      std::vector<std::string> row{WithUnitOf(figure.Figure->Name, figure.Figure->Unit, design_.Units),
+      std::vector<std::string> row{NameOf(*figure.Figure, design_.Units),
                                    figure.AtDesign.IsThere() ? NumberText(figure.AtDesign.Value) : std::string(Unknown),
                                    text(figure.Sums.Mean()), text(figure.Sums.Deviation())};
       for (const double share : ShownShares) {

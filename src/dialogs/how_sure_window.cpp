@@ -1,14 +1,12 @@
 #include "dialogs/how_sure_window.h"
 
 #include <algorithm>
-#include <charconv>
 #include <utility>
 
 #include "base/number_text.h"
 #include "base/text.h"
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
-#include "dialogs/measured_values.h"
 #include "files/shown_design.h"
 #include "files/study_file.h"
 #include "reports/study_report.h"
@@ -21,14 +19,6 @@ constexpr int MillisecondsBetweenLooks = 40;
 constexpr std::string_view NoFile =
     "The project has no file yet. These settings are kept until the program ends, not in a file.";
 constexpr std::string_view NotKept = "The settings of this window are not kept, because their file stays as it is.";
-
-std::optional<std::uint64_t> CountOf(std::string_view text) {
-  const std::string digits(Trim(text));
-  std::uint64_t count = 0;
-  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), count);
-  if (error != std::errc() || end != digits.data() + digits.size()) return std::nullopt;
-  return count;
-}
 
 std::string NoNumberFault(const LabelledBox& box, std::string_view kind) {
   return box.LabelCaption() + ": \"" + std::string(Trim(box.Text())) + "\" is not " + std::string(kind) + ".";
@@ -56,9 +46,8 @@ HowSureWindow::HowSureWindow(Program& program, UnsavedStudy& unsaved)
 
 void HowSureWindow::OnOpen() {
   std::vector<ComboItem> schemes;
-  for (const Scheme scheme : {Scheme::LatinHypercube, Scheme::Sobol, Scheme::Random}) {
-    schemes.push_back({std::string(SchemeName(scheme))});
-  }
+  schemes.reserve(std::size(Schemes));
+  for (const Scheme scheme : Schemes) schemes.push_back({std::string(SchemeName(scheme))});
   cmbScheme.Fill(std::move(schemes));
   std::vector<ComboItem> charts;
   charts.reserve(std::size(StudyChartNames));
@@ -88,7 +77,7 @@ void HowSureWindow::LoadSettings() {
   });
   if (outcome != StepOutcome::Done) mayKeep_ = false;
   if (loaded.Stored) stored_ = std::move(*loaded.Stored);
-  const bool isKnown = unsaved_.Project == project && unsaved_.Units == design_.Units;
+  const bool isKnown = unsaved_.Project == project && unsaved_.Stored.Units == design_.Units;
   if (!isInFile_ && isKnown) stored_ = unsaved_.Stored;
   study_ = stored_.Settings;
   std::string message = loaded.Message;
@@ -107,36 +96,35 @@ void HowSureWindow::ShowSettings() {
   txtStopWidth.SetText(study_.StopWidth ? NumberText(*study_.StopWidth * PerCent) : std::string());
 }
 
-HowSureWindow::SettingFault HowSureWindow::TakeSettings() {
+HowSureWindow::SettingFault HowSureWindow::ReadSettings(Study& study) const {
   SettingFault fault;
-  const auto refuse = [&](LabelledBox& box, std::string_view kind) {
+  const auto refuse = [&](const LabelledBox& box, std::string_view kind) {
     if (fault.Field == nullptr) fault = {&box, NoNumberFault(box, kind)};
   };
-  for (const auto& [box, number] : {std::pair(&txtSamples, &study_.Samples), std::pair(&txtSeed, &study_.Seed),
-                                    std::pair(&txtBatch, &study_.BatchSize)}) {
-    if (const auto count = CountOf(box->Text())) {
+  for (const auto& [box, number] : {std::pair(&txtSamples, &study.Samples), std::pair(&txtSeed, &study.Seed),
+                                    std::pair(&txtBatch, &study.BatchSize)}) {
+    if (const auto count = WholeTextCount(Trim(box->Text()))) {
       *number = *count;
     } else {
       refuse(*box, "a whole number");
     }
   }
-  if (cmbScheme.HasSelection()) study_.Sampling = static_cast<Scheme>(cmbScheme.ListIndex());
+  if (cmbScheme.HasSelection()) study.Sampling = static_cast<Scheme>(cmbScheme.ListIndex());
   // An unchanged text keeps the digits of the file.
   const auto share = [](const LabelledBox& box, double present) -> std::optional<double> {
-    const auto percent = WholeNumberText(box.Text());
-    if (!percent || *percent == WholeNumberText(NumberText(present * PerCent)))
-      return percent ? std::optional(present) : percent;
-    return *percent / PerCent;
+    const auto percent = WholeTextNumber(box.Text());
+    if (!percent) return std::nullopt;
+    return *percent == TextValue(NumberText(present * PerCent)) ? present : *percent / PerCent;
   };
-  if (const auto confidence = share(txtConfidence, study_.Confidence)) {
-    study_.Confidence = *confidence;
+  if (const auto confidence = share(txtConfidence, study.Confidence)) {
+    study.Confidence = *confidence;
   } else {
     refuse(txtConfidence, "a number");
   }
   if (Trim(txtStopWidth.Text()).empty()) {
-    study_.StopWidth.reset();
-  } else if (const auto width = share(txtStopWidth, study_.StopWidth.value_or(0))) {
-    study_.StopWidth = width;
+    study.StopWidth.reset();
+  } else if (const auto width = share(txtStopWidth, study.StopWidth.value_or(0))) {
+    study.StopWidth = width;
   } else {
     refuse(txtStopWidth, "a number");
   }
@@ -150,7 +138,7 @@ void HowSureWindow::KeepSettings() {
   stored_.Settings = study_;
   stored_.Units = design_.Units;
   if (!isInFile_) {
-    unsaved_ = {project, design_.Units, stored_};
+    unsaved_ = {project, stored_};
     return;
   }
   RunTrapped(program_, [&] { SaveStudy(program_.platform.files, project, stored_); });
@@ -158,7 +146,7 @@ void HowSureWindow::KeepSettings() {
 
 void HowSureWindow::OnClose() {
   runner_.reset();
-  TakeSettings();
+  ReadSettings(study_);
   KeepSettings();
 }
 
@@ -167,10 +155,10 @@ void HowSureWindow::OnClose() {
 void HowSureWindow::Run() {
   if (runner_) return;
   const auto report = [this](const std::string& text) { ShowMessage(program_, text, BoxIcon::Critical, Caption()); };
-  if (const SettingFault fault = TakeSettings(); fault.Field != nullptr) {
+  if (const SettingFault fault = ReadSettings(study_); fault.Field != nullptr) {
     report(fault.Text);
     tabSure.SetTab(sure_page::Sampling);
-    return RequestFocus(*fault.Field);
+    return RequestFocus(*Find(fault.Field->Name()));
   }
   if (const std::string fault = FaultOf(study_); !fault.empty()) {
     return report(study_.Inputs.empty() ? fault + " Add an input on the tab Inputs." : fault);

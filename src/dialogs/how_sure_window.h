@@ -30,13 +30,13 @@ class HowSureWindow : public HowSureControls {
  private:
   void LoadSettings();
   void ShowSettings();
-  // Takes the fields of the sampling into the study. Returns what is wrong with one, with its field. It stays as it
-  // was.
   struct SettingFault {
-    TextBox* Field = nullptr;
+    const TextBox* Field = nullptr;
     std::string Text;
   };
-  SettingFault TakeSettings();
+  // Reads the fields of the sampling into a study. Returns what is wrong with the first one that cannot be read; its
+  // setting stays as it was.
+  SettingFault ReadSettings(Study& study) const;
   void KeepSettings();
 
   void Run();

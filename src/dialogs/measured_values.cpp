@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <numeric>
 
-#include "base/attempt.h"
 #include "base/number_text.h"
 #include "base/text.h"
 
@@ -36,15 +35,10 @@ std::string_view WithoutHeading(std::string_view text) {
   std::string_view rest = text;
   std::string_view line = TakePart(rest, LineEnds);
   const std::string_view first = TakePart(line, ValueSeparators);
-  return WholeNumberText(first) || rest.empty() ? text : rest;
+  return WholeTextNumber(first) || rest.empty() ? text : rest;
 }
 
 }  // namespace
-
-std::optional<double> WholeNumberText(std::string_view text) {
-  const auto number = OrNothing([&] { return std::optional(ReadNumber(text)); });
-  return number && number->isWholeText ? std::optional(number->value) : std::nullopt;
-}
 
 MeasuredValues ReadMeasured(std::string_view text) {
   if (text.starts_with(ByteOrderMark)) text.remove_prefix(ByteOrderMark.size());
@@ -56,7 +50,7 @@ MeasuredValues ReadMeasured(std::string_view text) {
   }
   while (!text.empty()) {
     const std::string_view part = TakePart(text, ValueSeparators);
-    const auto value = WholeNumberText(part);
+    const auto value = WholeTextNumber(part);
     if (!value) return {{}, "Measured values: " + QuotedPart(part) + " is not a number."};
     if (read.Values.size() == MeasuredValues::Most) return {{}, "There are more than 100,000 measured values."};
     read.Values.push_back(*value);

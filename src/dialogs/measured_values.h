@@ -1,7 +1,6 @@
-// Measured values as a text that was typed, pasted or read from a file, and numbers of fields that may be blank.
+// Measured values as a text that was typed, pasted or read from a file.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,8 +25,5 @@ std::string MeasuredText(const std::vector<double>& values);
 // Returns how many values there are, their mean, and the least and the greatest one: "10 values, mean 47.3, from 38 to
 // 61". Requires a value.
 std::string SummaryOf(const std::vector<double>& values);
-
-// Returns the number that the whole text is, or nothing.
-std::optional<double> WholeNumberText(std::string_view text);
 
 }  // namespace orby

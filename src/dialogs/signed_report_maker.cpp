@@ -5,7 +5,6 @@
 
 #include "base/number_text.h"
 #include "base/runtime_error.h"
-#include "controls/form.h"
 #include "dialogs/chart_scene.h"
 #include "dialogs/curve_command.h"
 #include "dialogs/graph.h"
@@ -34,17 +33,6 @@ constexpr std::array<ReportDrawing, 4> Drawings{
       &RoofSupport::Entries},
      {"Secondary support of intersections: section and plan, to scale", IntersectionSketch, &SecondarySupport::Analysed,
       &RoofSupport::Intersections}}};
-
-// A chart without a window.
-class ChartOnPaper : public Form {
- public:
-  Chart chart{*this, "chart"};
-
-  ChartOnPaper() : Form("frmPaper", "") {}
-
- protected:
-  void OnOpen() override {}
-};
 
 std::vector<ReportPicture> DrawingsOf(const Design& design, const Catalogs& catalogs) {
   const SketchFigures figures = SketchFiguresOf(design, catalogs);
@@ -108,8 +96,6 @@ SignedReport SignedReportMaker::Make(const SignedReportSettings& settings, const
   return report;
 }
 
-std::string DocumentTitle(const SignedReport& report) {
-  return "Roof support design report: " + SheetHeading(report.Sheet);
-}
+std::string SignedReportMaker::Title() const { return "Roof support design report: " + SheetHeading(sheet_); }
 
 }  // namespace orby

@@ -20,6 +20,9 @@ class SignedReportMaker {
   // Returns the report with these choices. A curve that cannot be computed says why.
   SignedReport Make(const SignedReportSettings& settings, const std::string& date);
 
+  // Returns the title of the document: "Roof support design report: Cinder Hollow, fault zone".
+  std::string Title() const;
+
  private:
   const Program& program_;
   Design shown_;
@@ -28,8 +31,5 @@ class SignedReportMaker {
   std::vector<ReportPicture> drawings_;                  // empty until they are wanted
   std::array<std::optional<ReportPicture>, 10> curves_;  // those that were wanted
 };
-
-// Returns the title of the report as a document.
-std::string DocumentTitle(const SignedReport& report);
 
 }  // namespace orby

@@ -110,9 +110,7 @@ std::string SignedReportWindow::Name() const { return PrintedName(program_.proje
 void SignedReportWindow::Print() { PrintPages(program_, paged_.Pages, Name(), "Printing Signed Report"); }
 
 void SignedReportWindow::SaveAs() {
-  const auto bytes = [this] {
-    return PagesAsPdf(program_, paged_, DocumentTitle(maker_.Make(Settings(), PaperOf(program_).Date)));
-  };
+  const auto bytes = [this] { return PagesAsPdf(program_, paged_, maker_.Title()); };
   const std::string path = SaveInFormat(program_, "Save Signed Report", Name(), {{"Document", "pdf", bytes}});
   if (!path.empty()) AddHistoryLine(program_, "Signed report saved as: " + path);
 }

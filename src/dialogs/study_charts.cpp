@@ -8,8 +8,8 @@
 #include "base/arithmetic.h"
 #include "base/number_text.h"
 #include "dialogs/chart_scene.h"
-#include "dialogs/study_inputs_page.h"
 #include "files/conversion.h"
+#include "reports/sensitivity_report.h"
 #include "reports/study_report.h"
 
 namespace orby {
@@ -19,21 +19,6 @@ constexpr double InPercent = 100;
 constexpr NumberPattern RankDecimals{"0.00"};
 constexpr std::string_view AtDesignName = "The design";
 constexpr double ScatterSymbol = 4;
-
-// A chart that is only painted.
-class StudyPaper : public Form {
- public:
-  StudyPaper() : Form("frmStudyPaper", "") {}
-
-  Chart chart{*this, "chart"};
-
- protected:
-  void OnOpen() override {}
-};
-
-std::string NameOfFigure(const FigureResult& figure, UnitSystem units) {
-  return WithUnitOf(figure.Figure->Name, figure.Figure->Unit, units);
-}
 
 bool IsConstant(const FigureResult& figure) { return figure.Sums.Least() == figure.Sums.Greatest(); }
 
@@ -57,7 +42,7 @@ std::string DesignFact(const FigureResult& figure) {
          " % of the samples are not above it";
 }
 
-Sketch PaintedChart(const StudyPaper& paper, std::vector<std::string> facts, const SheetSize& sheet) {
+Sketch PaintedChart(const ChartOnPaper& paper, std::vector<std::string> facts, const SheetSize& sheet) {
   return {ChartScene(paper.chart, sheet), std::move(facts)};
 }
 
@@ -71,7 +56,7 @@ std::string NothingToPaint(const FigureResult& figure) {
 
 Sketch HistogramSketch(const StudyView& view, const FigureResult& figure, const SheetSize& sheet) {
   constexpr int Bars = 40;
-  StudyPaper paper;
+  ChartOnPaper paper;
   const double from = figure.Sums.Least();
   const double width = (figure.Sums.Greatest() - from) / Bars;
   ChartSeries steps = LineOf("Samples");
@@ -90,13 +75,13 @@ Sketch HistogramSketch(const StudyView& view, const FigureResult& figure, const 
   }
   add(figure.Sums.Greatest(), 0);
   paper.chart.SetHeading("Histogram");
-  paper.chart.SetAxisX({NameOfFigure(figure, view.Studied.Units), false});
+  paper.chart.SetAxisX({NameOf(*figure.Figure, view.Studied.Units), false});
   paper.chart.SetAxisY({"Samples (%)", true});
   paper.chart.SetSeries({std::move(steps)});
   MarkAtDesign(figure, paper.chart);
   return PaintedChart(
       paper,
-      {"Histogram of " + NameOfFigure(figure, view.Studied.Units),
+      {"Histogram of " + NameOf(*figure.Figure, view.Studied.Units),
        "From " + NumberText(ToSingle(figure.Sums.Least())) + " to " + NumberText(ToSingle(figure.Sums.Greatest())),
        DesignFact(figure)},
       sheet);
@@ -104,7 +89,7 @@ Sketch HistogramSketch(const StudyView& view, const FigureResult& figure, const 
 
 Sketch CumulativeSketch(const StudyView& view, const FigureResult& figure, const SheetSize& sheet) {
   constexpr int Points = 200;
-  StudyPaper paper;
+  ChartOnPaper paper;
   ChartSeries curve = LineOf("Samples");
   for (int i = 0; i <= Points; ++i) {
     const double share = static_cast<double>(i) / Points;
@@ -113,11 +98,11 @@ Sketch CumulativeSketch(const StudyView& view, const FigureResult& figure, const
     curve.y.push_back(share * InPercent);
   }
   paper.chart.SetHeading("Cumulative curve");
-  paper.chart.SetAxisX({NameOfFigure(figure, view.Studied.Units), true});
+  paper.chart.SetAxisX({NameOf(*figure.Figure, view.Studied.Units), true});
   paper.chart.SetAxisY({"Samples not above (%)", true});
   paper.chart.SetSeries({std::move(curve)});
   MarkAtDesign(figure, paper.chart);
-  return PaintedChart(paper, {"Cumulative curve of " + NameOfFigure(figure, view.Studied.Units), DesignFact(figure)},
+  return PaintedChart(paper, {"Cumulative curve of " + NameOf(*figure.Figure, view.Studied.Units), DesignFact(figure)},
                       sheet);
 }
 
@@ -215,7 +200,7 @@ ChartSeries EndOf(std::string legend) {
 
 Sketch ConvergenceSketch(const StudyView& view, const SheetSize& sheet) {
   constexpr std::size_t MostPoints = 400;
-  StudyPaper paper;
+  ChartOnPaper paper;
   ChartSeries probability = LineOf("Probability");
   ChartSeries low = EndOf("Low end");
   ChartSeries high = EndOf("High end");
@@ -275,7 +260,7 @@ Sketch ScatterSketch(const StudyView& view, const SheetSize& sheet) {
     symbols.x.push_back(across[i]);
     symbols.y.push_back(up[i]);
   }
-  StudyPaper paper;
+  ChartOnPaper paper;
   const std::string count = NumberText(static_cast<double>(symbols.x.size()));
   paper.chart.SetHeading(count + " of the samples");
   paper.chart.SetAxisX({names[view.Across], true});
@@ -293,7 +278,7 @@ Sketch ScatterSketch(const StudyView& view, const SheetSize& sheet) {
 std::vector<std::string> ScatterNames(const StudyResult& result, const Study& study, UnitSystem units) {
   std::vector<std::string> names;
   for (const StudyInput& input : study.Inputs) names.push_back(WithUnitOf(input.Name, QuantityOf(input.Field), units));
-  for (const FigureResult& figure : result.Figures) names.push_back(NameOfFigure(figure, units));
+  for (const FigureResult& figure : result.Figures) names.push_back(NameOf(*figure.Figure, units));
   return names;
 }
 

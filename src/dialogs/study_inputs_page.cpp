@@ -11,6 +11,7 @@
 #include "dialogs/measured_values.h"
 #include "dialogs/study_editing.h"
 #include "files/conversion.h"
+#include "reports/design_numbers.h"
 
 namespace orby {
 namespace {
@@ -19,43 +20,16 @@ constexpr int InputHeaderRows = 1;
 constexpr std::size_t MostParameters = 4;
 constexpr std::uint64_t MostMeasuredBytes = 4'000'000;
 
-// The labels of the parameters of a distribution, by DistributionLaw. `Middle` is the one that begins with the number
-// of the design.
-struct LawFields {
-  std::array<std::string_view, MostParameters> Captions;
-  std::size_t Middle;
-};
-constexpr std::size_t NoParameter = MostParameters;
-constexpr std::array<LawFields, 6> LawTable{{{{"Mean", "Deviation"}, 0},
-                                             {{"Mean", "Deviation"}, 0},
-                                             {{"Least", "Likeliest", "Greatest"}, 1},
-                                             {{"Least", "Greatest"}, NoParameter},
-                                             {{"Alpha", "Beta", "Least", "Greatest"}, NoParameter},
-                                             {{}, NoParameter}}};
-constexpr std::size_t MeasuredLaw = 5;
+bool IsMeasured(const DistributionLaw& law) { return std::holds_alternative<EmpiricalLaw>(law); }
 
-const std::array<DistributionLaw, 6> EmptyLaws{NormalLaw(),  LognormalLaw(), TriangularLaw(),
-                                               UniformLaw(), BetaLaw(),      EmpiricalLaw()};
-
-using ParameterPointers = std::vector<double*>;
-ParameterPointers ParametersOf(NormalLaw& law) { return {&law.Mean, &law.Deviation}; }
-ParameterPointers ParametersOf(LognormalLaw& law) { return {&law.Mean, &law.Deviation}; }
-ParameterPointers ParametersOf(TriangularLaw& law) { return {&law.Least, &law.Likeliest, &law.Greatest}; }
-ParameterPointers ParametersOf(UniformLaw& law) { return {&law.Least, &law.Greatest}; }
-ParameterPointers ParametersOf(BetaLaw& law) { return {&law.Alpha, &law.Beta, &law.Least, &law.Greatest}; }
-ParameterPointers ParametersOf(EmpiricalLaw&) { return {}; }
-ParameterPointers ParametersOf(DistributionLaw& law) {
-  return std::visit([](auto& kind) { return ParametersOf(kind); }, law);
+// The parameter that begins with the number of the design.
+bool IsMiddle(const LawParameter& parameter) {
+  const std::string_view name = parameter.Name;
+  return name == "mean" || name == "likeliest";
 }
 
 std::array<ParameterField*, MostParameters> ParameterFields(HowSureControls& controls) {
   return {&controls.First, &controls.Second, &controls.Third, &controls.Fourth};
-}
-
-std::string Lowered(std::string_view caption) {
-  std::string text(caption);
-  if (!text.empty()) text.front() = static_cast<char>(text.front() | 0x20);
-  return text;
 }
 
 // Returns "mean 600, deviation 80", or what the measured values are.
@@ -63,11 +37,10 @@ std::string ParameterText(DistributionLaw law) {
   if (const auto* measured = std::get_if<EmpiricalLaw>(&law)) {
     return measured->Values.empty() ? "no values" : SummaryOf(measured->Values);
   }
-  const LawFields& fields = LawTable.at(law.index());
-  const ParameterPointers parameters = ParametersOf(law);
   std::string text;
-  for (std::size_t i = 0; i < parameters.size(); ++i) {
-    text += (i == 0 ? "" : ", ") + Lowered(fields.Captions.at(i)) + " " + NumberText(*parameters[i]);
+  for (const LawParameter& parameter : ParametersOf(law)) {
+    if (!text.empty()) text += ", ";
+    text.append(parameter.Name).append(" ").append(NumberText(*parameter.Number));
   }
   return text;
 }
@@ -87,12 +60,6 @@ std::string FieldFault(std::string_view caption, std::string_view text) {
 }
 
 }  // namespace
-
-std::string WithUnitOf(std::string_view name, UnitSuffix quantity, UnitSystem units) {
-  std::string text(name);
-  if (quantity != UnitSuffix::None) text += UnitLabel(quantity, units);
-  return text;
-}
 
 StudyInputsPage::StudyInputsPage(Program& program, HowSureControls& controls, const Design& design, Study& study)
     : program_(program), controls_(controls), design_(design), study_(study) {
@@ -119,8 +86,8 @@ void StudyInputsPage::Show() {
   for (const VariableInput& input : VariableInputs()) inputs.push_back({NameOf(input)});
   controls_.cmbInput.Fill(std::move(inputs));
   std::vector<ComboItem> laws;
-  laws.reserve(std::size(EmptyLaws));
-  for (const DistributionLaw& law : EmptyLaws) laws.push_back({std::string(LawName(law))});
+  laws.reserve(LawKinds().size());
+  for (const DistributionLaw& law : LawKinds()) laws.push_back({std::string(LawName(law))});
   controls_.cmbLaw.Fill(std::move(laws));
   controls_.cmbInput.SetListIndex(0);
   controls_.cmbLaw.SetListIndex(0);
@@ -130,8 +97,8 @@ void StudyInputsPage::Show() {
 }
 
 std::vector<std::string> StudyInputsPage::RowOf(const StudyInput& input) const {
-  return {WithUnitOf(input.Name, QuantityOf(input.Field), design_.Units), NumberText(input.Field.In(design_)),
-          std::string(LawName(input.Law.Law)), ParameterText(input.Law.Law), CutText(input.Law)};
+  return {NameOf({input.Name, input.Field}), NumberText(input.Field.In(design_)), std::string(LawName(input.Law.Law)),
+          ParameterText(input.Law.Law), CutText(input.Law)};
 }
 
 void StudyInputsPage::ShowInputs(std::size_t selected) {
@@ -192,36 +159,48 @@ void StudyInputsPage::TakeRow() {
   isFilling_ = false;
 }
 
+DistributionLaw StudyInputsPage::ChosenLaw() const {
+  return LawKinds()[static_cast<std::size_t>(controls_.cmbLaw.ListIndex())];
+}
+
+const VariableInput& StudyInputsPage::ChosenInput() const {
+  return VariableInputs()[static_cast<std::size_t>(controls_.cmbInput.ListIndex())];
+}
+
 void StudyInputsPage::TakeLaw() {
   if (!controls_.cmbLaw.HasSelection()) return;
-  const auto kind = static_cast<std::size_t>(controls_.cmbLaw.ListIndex());
+  DistributionLaw law = ChosenLaw();
+  const std::vector<LawParameter> parameters = ParametersOf(law);
   const auto fields = ParameterFields(controls_);
   for (std::size_t i = 0; i < MostParameters; ++i) {
-    const std::string_view caption = LawTable.at(kind).Captions.at(i);
-    fields.at(i)->Caption.SetCaption(caption);
-    fields.at(i)->Caption.SetVisible(!caption.empty());
-    fields.at(i)->Field.SetVisible(!caption.empty());
+    const bool isUsed = i < parameters.size();
+    fields.at(i)->Caption.SetCaption(isUsed ? Capitalised(parameters[i].Name) : std::string());
+    fields.at(i)->Caption.SetVisible(isUsed);
+    fields.at(i)->Field.SetVisible(isUsed);
     if (!isFilling_) fields.at(i)->Field.SetText("");
   }
-  controls_.txtValues.SetEnabled(kind == MeasuredLaw);
-  controls_.cmdReadFile.SetEnabled(kind == MeasuredLaw);
+  controls_.txtValues.SetEnabled(IsMeasured(law));
+  controls_.cmdReadFile.SetEnabled(IsMeasured(law));
   BeginWithDesign();
 }
 
 void StudyInputsPage::BeginWithDesign() {
   if (isFilling_ || !controls_.cmbInput.HasSelection() || !controls_.cmbLaw.HasSelection()) return;
-  const LawFields& law = LawTable.at(static_cast<std::size_t>(controls_.cmbLaw.ListIndex()));
-  if (law.Middle == NoParameter) return;
-  const VariableInput& input = VariableInputs()[static_cast<std::size_t>(controls_.cmbInput.ListIndex())];
-  ParameterFields(controls_).at(law.Middle)->Field.SetText(NumberText(input.Field.In(design_)));
+  DistributionLaw law = ChosenLaw();
+  const std::vector<LawParameter> parameters = ParametersOf(law);
+  const auto middle = std::ranges::find_if(parameters, IsMiddle);
+  if (middle == parameters.end()) return;
+  ParameterFields(controls_)
+      .at(static_cast<std::size_t>(middle - parameters.begin()))
+      ->Field.SetText(NumberText(ChosenInput().Field.In(design_)));
 }
 
 void StudyInputsPage::ShowFields(const Distribution& law) {
   DistributionLaw copy = law.Law;
-  const ParameterPointers parameters = ParametersOf(copy);
+  const std::vector<LawParameter> parameters = ParametersOf(copy);
   const auto fields = ParameterFields(controls_);
   for (std::size_t i = 0; i < MostParameters; ++i) {
-    fields.at(i)->Field.SetText(i < parameters.size() ? NumberText(*parameters[i]) : std::string());
+    fields.at(i)->Field.SetText(i < parameters.size() ? NumberText(*parameters[i].Number) : std::string());
   }
   controls_.txtLowest.SetText(BoundOrBlank(law.Lowest));
   controls_.txtHighest.SetText(BoundOrBlank(law.Highest));
@@ -236,23 +215,23 @@ void StudyInputsPage::ShowRead() {
 }
 
 std::optional<DistributionLaw> StudyInputsPage::TypedLaw(Fault& fault) const {
-  DistributionLaw law = EmptyLaws.at(static_cast<std::size_t>(controls_.cmbLaw.ListIndex()));
+  DistributionLaw law = ChosenLaw();
   if (auto* measured = std::get_if<EmpiricalLaw>(&law)) {
     MeasuredValues read = ReadMeasured(controls_.txtValues.Text());
     measured->Values = std::move(read.Values);
     fault = {&controls_.txtValues, std::move(read.Fault)};
     return fault.Text.empty() ? std::optional(law) : std::nullopt;
   }
-  const ParameterPointers parameters = ParametersOf(law);
+  const std::vector<LawParameter> parameters = ParametersOf(law);
   const auto fields = ParameterFields(controls_);
   for (std::size_t i = 0; i < parameters.size(); ++i) {
     const std::string& text = fields.at(i)->Field.Text();
-    const auto number = WholeNumberText(text);
+    const auto number = WholeTextNumber(text);
     if (!number) {
       fault = {&fields.at(i)->Field, FieldFault(fields.at(i)->Caption.Caption(), text)};
       return std::nullopt;
     }
-    *parameters[i] = *number;
+    *parameters[i].Number = *number;
   }
   return law;
 }
@@ -270,12 +249,12 @@ std::optional<StudyInput> StudyInputsPage::Typed() {
   }
   const auto law = TypedLaw(fault);
   if (!law) return report();
-  const VariableInput& chosen = VariableInputs()[static_cast<std::size_t>(controls_.cmbInput.ListIndex())];
+  const VariableInput& chosen = ChosenInput();
   StudyInput input{std::string(chosen.Name), chosen.Field, {*law}};
   for (const auto& [box, bound] :
        {std::pair(&controls_.txtLowest, &input.Law.Lowest), std::pair(&controls_.txtHighest, &input.Law.Highest)}) {
     if (Trim(box->Text()).empty()) continue;
-    *bound = WholeNumberText(box->Text());
+    *bound = WholeTextNumber(box->Text());
     if (*bound) continue;
     fault = {box, FieldFault(box->LabelCaption(), box->Text())};
     return report();
@@ -322,7 +301,7 @@ void StudyInputsPage::SetRank() {
   const auto one = static_cast<std::size_t>(controls_.cmbOne.ListIndex());
   const auto other = static_cast<std::size_t>(controls_.cmbOther.ListIndex());
   if (one == other) return Report("Choose two different inputs.");
-  const auto rank = WholeNumberText(controls_.txtRank.Text());
+  const auto rank = WholeTextNumber(controls_.txtRank.Text());
   if (!rank) {
     Report(FieldFault("Rank correlation", controls_.txtRank.Text()));
     return controls_.RequestFocus(controls_.txtRank);

@@ -11,9 +11,6 @@
 
 namespace orby {
 
-// Returns a name with the unit of a quantity: "depth of cover (ft)".
-std::string WithUnitOf(std::string_view name, UnitSuffix quantity, UnitSystem units);
-
 class StudyInputsPage {
  public:
   // All of them must outlive this object. `study` is the one that the page edits.
@@ -41,6 +38,9 @@ class StudyInputsPage {
   void ShowRead();
 
   std::optional<std::size_t> SelectedRow() const;
+  // Require that the lists have a selection.
+  DistributionLaw ChosenLaw() const;
+  const VariableInput& ChosenInput() const;
   std::optional<DistributionLaw> TypedLaw(Fault& fault) const;
   // Returns the input of the fields, or nothing after a message.
   std::optional<StudyInput> Typed();

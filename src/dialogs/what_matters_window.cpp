@@ -1,7 +1,5 @@
 #include "dialogs/what_matters_window.h"
 
-#include "base/arithmetic.h"
-#include "base/attempt.h"
 #include "base/number_text.h"
 #include "base/text.h"
 #include "core/dialog_helpers.h"
@@ -12,30 +10,14 @@ namespace orby {
 namespace {
 
 constexpr double PercentOfAll = 100;
-
-std::vector<const StudiedFigure*> FiguresOf(const RoofSupport& design) {
-  std::vector<const StudiedFigure*> figures;
-  for (const StudiedFigure& figure : StudiedFigures()) {
-    if (figure.IsUsed(design)) figures.push_back(&figure);
-  }
-  return figures;
-}
-
-// Returns the number that is the whole text.
-std::optional<Single> WholeNumberOf(const TextBox& box) {
-  return OrNothing([&]() -> std::optional<Single> {
-    const LeadingNumber number = ReadNumber(box.Text());
-    if (!number.isWholeText) return std::nullopt;
-    return ToSingle(number.value);
-  });
-}
+constexpr std::string_view NothingAnalysed = "The project analyses no support.";
 
 }  // namespace
 
 WhatMattersWindow::WhatMattersWindow(Program& program)
     : ProgramForm(program, "frmWhatMatters", CaptionWithProject("What Matters", program.project)),
       design_(AsReported(program.project, program.session.catalogs)),
-      figures_(FiguresOf(design_)) {
+      figures_(FiguresInUse(design_)) {
   cmbFigure.Change = [this] { Compute(); };
   txtChange.Change = [this] { TakeChange(); };
   txtLow.Change = [this] { TakeRange(); };
@@ -51,10 +33,14 @@ void WhatMattersWindow::OnOpen() {
   std::vector<ComboItem> items;
   for (const StudiedFigure* figure : figures_) items.push_back({.text = NameOf(*figure, design_.Units), .mark = {}});
   cmbFigure.Fill(std::move(items));
+  cmbFigure.SetEnabled(!figures_.empty());
   txtChange.SetText(NumberText(ToSingle(share_ * PercentOfAll)));
   const auto psup = std::ranges::find(figures_, "actual-psup", &StudiedFigure::Key);
-  cmbFigure.SetListIndex(psup == figures_.end() ? 0 : static_cast<int>(psup - figures_.begin()));
-  Compute();
+  if (figures_.empty()) {
+    Compute();
+  } else {
+    cmbFigure.SetListIndex(psup == figures_.end() ? 0 : static_cast<int>(psup - figures_.begin()));
+  }
   program_.platform.windows.CenterForm(*this);
 }
 
@@ -63,7 +49,7 @@ const StudiedFigure& WhatMattersWindow::Figure() const {
 }
 
 void WhatMattersWindow::Compute() {
-  effects_ = EffectsOn(design_, program_.session.catalogs, Figure(), share_, ranges_);
+  if (!figures_.empty()) effects_ = EffectsOn(design_, program_.session.catalogs, Figure(), share_, ranges_);
   ShowEffects();
 }
 
@@ -71,7 +57,7 @@ void WhatMattersWindow::ShowEffects() {
   const int marked = grdNumbers.Row();
   std::vector<std::vector<std::string>> rows{{EffectHeads.begin(), EffectHeads.end()}};
   std::vector<ComboItem> turns;
-  for (const NumberEffect& effect : effects_) {
+  for (const NumberEffect& effect : effects_.Numbers) {
     rows.push_back(CellsOf(effect, design_));
     for (std::string& line : TurnLines(effect, design_.Units)) turns.push_back({.text = std::move(line), .mark = {}});
   }
@@ -79,21 +65,20 @@ void WhatMattersWindow::ShowEffects() {
   grdNumbers.SetRows(std::move(rows), 1);
   if (marked >= 1 && marked < grdNumbers.Rows()) grdNumbers.SetRow(marked);
   lstTurns.Fill(std::move(turns));
-  VariedDesign present(design_, program_.session.catalogs);
-  present.Refresh();
-  lblPresent.SetCaption("Of this design: " + EffectText(Figure().Of(present.Analysed())));
+  lblPresent.SetCaption(figures_.empty() ? std::string(NothingAnalysed)
+                                         : "Of this design: " + EffectText(effects_.AtDesign));
   picTornado.Outdate();
   ShowRange();
 }
 
 void WhatMattersWindow::ShowRange() {
   const int row = grdNumbers.Row() - grdNumbers.FixedRows();
-  const bool isRow = row >= 0 && static_cast<std::size_t>(row) < effects_.size();
+  const bool isRow = row >= 0 && static_cast<std::size_t>(row) < effects_.Numbers.size();
   txtLow.SetEnabled(isRow);
   txtHigh.SetEnabled(isRow);
   if (!isRow || isShowing_) return;
   isShowing_ = true;
-  const VariedRange& range = effects_[static_cast<std::size_t>(row)].Row.Range;
+  const VariedRange& range = effects_.Numbers[static_cast<std::size_t>(row)].Row.Range;
   fraRange.SetCaption("Range of the marked number: " + range.Name);
   txtLow.SetText(NumberText(range.Low));
   txtHigh.SetText(NumberText(range.High));
@@ -102,7 +87,7 @@ void WhatMattersWindow::ShowRange() {
 
 // Another share applies to all numbers, also to those with a range of their own.
 void WhatMattersWindow::TakeChange() {
-  const std::optional<Single> percent = WholeNumberOf(txtChange);
+  const std::optional<Single> percent = WholeTextSingle(txtChange.Text());
   if (!percent || !(*percent > 0 && *percent <= PercentOfAll) || *percent / PercentOfAll == share_) return;
   share_ = *percent / PercentOfAll;
   ranges_.clear();
@@ -111,23 +96,28 @@ void WhatMattersWindow::TakeChange() {
 
 void WhatMattersWindow::TakeRange() {
   if (isShowing_) return;
-  const std::optional<Single> low = WholeNumberOf(txtLow);
-  const std::optional<Single> high = WholeNumberOf(txtHigh);
+  const std::optional<Single> low = WholeTextSingle(txtLow.Text());
+  const std::optional<Single> high = WholeTextSingle(txtHigh.Text());
   if (!low || !high || !(*low < *high)) return;
   isShowing_ = true;
-  ranges_[effects_.at(static_cast<std::size_t>(grdNumbers.Row() - grdNumbers.FixedRows())).Number] = {*low, *high};
+  ranges_[effects_.Numbers.at(static_cast<std::size_t>(grdNumbers.Row() - grdNumbers.FixedRows())).Number] = {*low,
+                                                                                                              *high};
   Compute();
   isShowing_ = false;
 }
 
 Sketch WhatMattersWindow::TornadoOf(const SheetSize& sheet) const {
-  VariedDesign present(design_, program_.session.catalogs);
-  present.Refresh();
-  const FigureValue now = Figure().Of(present.Analysed());
-  Tornado tornado{.Title = NameOf(Figure(), design_.Units), .Centre = 0, .CentreText = EffectText(now), .Bars = {}};
-  if (now.IsThere()) tornado.Centre = now.Value;
-  for (const std::size_t place : GreatestFirst(effects_)) {
-    const SensitivityRow& row = effects_[place].Row;
+  Tornado tornado;
+  if (figures_.empty()) {
+    tornado.Title = NothingAnalysed;
+    return TornadoSketch(tornado, sheet);
+  }
+  const FigureValue& now = effects_.AtDesign;
+  tornado.Title = NameOf(Figure(), design_.Units);
+  tornado.Centre = now.IsThere() ? now.Value : 0;
+  tornado.CentreText = EffectText(now);
+  for (const std::size_t place : GreatestFirst(effects_.Numbers)) {
+    const SensitivityRow& row = effects_.Numbers[place].Row;
     if (!now.IsThere() || row.Swing() == 0) continue;
     tornado.Bars.push_back({.Name = row.Range.Name,
                             .AtLow = row.AtLow.Value,

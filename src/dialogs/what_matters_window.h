@@ -37,6 +37,7 @@ class WhatMattersWindow : public ProgramForm {
   void OnOpen() override;
 
  private:
+  // Requires that the project has a figure.
   const StudiedFigure& Figure() const;
   // Computes all effects anew and shows them.
   void Compute();
@@ -51,7 +52,7 @@ class WhatMattersWindow : public ProgramForm {
   std::vector<const StudiedFigure*> figures_;
   double share_ = 0.1;
   GivenRanges ranges_;
-  std::vector<NumberEffect> effects_;
+  FigureEffects effects_;
   bool isShowing_ = false;  // the fields follow the marked row
 };
 

@@ -15,28 +15,8 @@ namespace {
 using Json = nlohmann::ordered_json;
 
 constexpr int StudyFormat = 1;
-constexpr std::string_view SchemeNames[] = {"latin hypercube", "sobol", "random"};  // by Scheme
 // More measured values, or larger matrices, are not sensible.
 constexpr std::size_t MostValues = 100'000;
-
-struct LawMember {
-  const char* Key;
-  double* Number;
-};
-
-std::vector<LawMember> MembersOf(NormalLaw& law) { return {{"mean", &law.Mean}, {"deviation", &law.Deviation}}; }
-std::vector<LawMember> MembersOf(LognormalLaw& law) { return {{"mean", &law.Mean}, {"deviation", &law.Deviation}}; }
-std::vector<LawMember> MembersOf(TriangularLaw& law) {
-  return {{"least", &law.Least}, {"likeliest", &law.Likeliest}, {"greatest", &law.Greatest}};
-}
-std::vector<LawMember> MembersOf(UniformLaw& law) { return {{"least", &law.Least}, {"greatest", &law.Greatest}}; }
-std::vector<LawMember> MembersOf(BetaLaw& law) {
-  return {{"alpha", &law.Alpha}, {"beta", &law.Beta}, {"least", &law.Least}, {"greatest", &law.Greatest}};
-}
-std::vector<LawMember> MembersOf(EmpiricalLaw&) { return {}; }
-
-const DistributionLaw LawKinds[] = {NormalLaw(),  LognormalLaw(), TriangularLaw(),
-                                    UniformLaw(), BetaLaw(),      EmpiricalLaw()};
 
 // By unit system.
 constexpr const char* UnitNames[] = {"english", "metric"};
@@ -88,11 +68,12 @@ void ReadBound(const Json& object, const char* key, const std::string& where, st
 
 DistributionLaw ReadLaw(const Json& object, const std::string& where) {
   const std::string name = TextOfMember(object, "distribution", where);
-  const auto* kind = std::ranges::find(LawKinds, name, LawName);
-  if (kind == std::end(LawKinds)) Refuse(where + ": there is no distribution \"" + name + "\".");
+  const auto kind = std::ranges::find(LawKinds(), name, LawName);
+  if (kind == LawKinds().end()) Refuse(where + ": there is no distribution \"" + name + "\".");
   DistributionLaw law = *kind;
-  const auto members = std::visit([](auto& ofKind) { return MembersOf(ofKind); }, law);
-  for (const LawMember& member : members) *member.Number = NumberOfMember(object, member.Key, where);
+  for (const LawParameter& parameter : ParametersOf(law)) {
+    *parameter.Number = NumberOfMember(object, parameter.Name, where);
+  }
   if (auto* measured = std::get_if<EmpiricalLaw>(&law)) {
     const Json* values = MemberOf(object, "values");
     measured->Values = NumbersOf(values == nullptr ? Json() : *values, where + ": \"values\"");
@@ -154,9 +135,9 @@ Study ReadSettings(const Json& document) {
   ReadInputs(document, study);
   if (MemberOf(document, "sampling") != nullptr) {
     const std::string name = TextOfMember(document, "sampling", "The study");
-    const auto* scheme = std::ranges::find(SchemeNames, name);
-    if (scheme == std::end(SchemeNames)) Refuse("There is no sampling \"" + name + "\".");
-    study.Sampling = static_cast<Scheme>(scheme - std::begin(SchemeNames));
+    const auto scheme = std::ranges::find(Schemes, name, SchemeName);
+    if (scheme == Schemes.end()) Refuse("There is no sampling \"" + name + "\".");
+    study.Sampling = *scheme;
   }
   ReadCount(document, "seed", study.Seed);
   ReadCount(document, "samples", study.Samples);
@@ -188,9 +169,9 @@ Json KeptInput(const Json& document, const std::string& name) {
   for (const Json& input : *inputs) {
     if (!input.is_object() || input.value("field", Json()) != Json(name)) continue;
     Json kept = input;
-    for (const char* key : {"distribution", "mean", "deviation", "least", "likeliest", "greatest", "alpha", "beta",
-                            "values", "lowest", "highest"}) {
-      kept.erase(key);
+    for (const char* key : {"distribution", "values", "lowest", "highest"}) kept.erase(key);
+    for (DistributionLaw law : LawKinds()) {
+      for (const LawParameter& parameter : ParametersOf(law)) kept.erase(parameter.Name);
     }
     return kept;
   }
@@ -202,9 +183,7 @@ Json InputObject(const Json& document, const StudyInput& input) {
   object["field"] = input.Name;
   object["distribution"] = std::string(LawName(input.Law.Law));
   DistributionLaw law = input.Law.Law;
-  for (const LawMember& member : std::visit([](auto& ofKind) { return MembersOf(ofKind); }, law)) {
-    object[member.Key] = *member.Number;
-  }
+  for (const LawParameter& parameter : ParametersOf(law)) object[parameter.Name] = *parameter.Number;
   if (const auto* measured = std::get_if<EmpiricalLaw>(&law)) object["values"] = measured->Values;
   if (input.Law.Lowest) object["lowest"] = *input.Law.Lowest;
   if (input.Law.Highest) object["highest"] = *input.Law.Highest;
@@ -238,17 +217,18 @@ std::optional<UnitSystem> UnitsFrom(const Json& document) {
   Refuse("Its \"units\" are not \"english\" or \"metric\".");
 }
 
+// No figure depends on the inputs of the cost.
+bool IsOfCost(const SingleField& field) {
+  Design changed;
+  field.In(changed) = 1;
+  return changed.Support() == Design().Support();
+}
+
 std::vector<VariableInput> MakeVariableInputs() {
-  const Design& sample = SampleDesign();
-  const auto* from = reinterpret_cast<const char*>(&sample.Cost);
-  const auto* to = from + sizeof sample.Cost;
   std::vector<VariableInput> inputs;
   for (const ProjectLine& line : ProjectLines) {
     const auto* field = std::get_if<SingleField>(&line.Field);
-    if (field == nullptr) continue;
-    // No figure depends on the inputs of the cost.
-    const auto* address = reinterpret_cast<const char*>(&field->In(sample));
-    if (std::less<>()(address, from) || !std::less<>()(address, to)) inputs.push_back({line.Name, *field});
+    if (field != nullptr && !IsOfCost(*field)) inputs.push_back({line.Name, *field});
   }
   return inputs;
 }
@@ -282,7 +262,7 @@ std::string StudyBytes(const StoredStudy& stored) {
   if (stored.Units) document["units"] = UnitNames[PlaceOf(*stored.Units)];
   document["inputs"] = std::move(inputs);
   SetOrErase(document, "rankCorrelations", study.Spearman.Size() > 0, [&] { return MatrixRows(study.Spearman); });
-  document["sampling"] = std::string(SchemeNames[static_cast<std::size_t>(study.Sampling)]);
+  document["sampling"] = std::string(SchemeName(study.Sampling));
   document["seed"] = study.Seed;
   document["samples"] = study.Samples;
   document["batchSize"] = study.BatchSize;

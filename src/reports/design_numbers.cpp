@@ -193,6 +193,12 @@ std::string_view UnitOf(UnitSuffix quantity, UnitSystem units) {
   return quantity == UnitSuffix::None ? std::string_view() : UnitName(quantity, units);
 }
 
+std::string WithUnitOf(std::string_view name, UnitSuffix quantity, UnitSystem units) {
+  std::string text(name);
+  if (quantity != UnitSuffix::None) text.append(" (").append(UnitOf(quantity, units)).append(")");
+  return text;
+}
+
 std::string NameOf(const DesignNumber& number) {
   std::string name(number.Label);
   if (!number.Place.empty()) name.append(" (").append(number.Place).append(")");

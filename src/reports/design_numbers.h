@@ -29,6 +29,9 @@ std::vector<const DesignNumber*> NumbersInUse(const RoofSupport& design);
 // Returns the unit of a quantity: "ft", "°"; empty if it has none.
 std::string_view UnitOf(UnitSuffix quantity, UnitSystem units);
 
+// Returns a name with the unit of its quantity, if it has one: "Depth of Cover (ft)".
+std::string WithUnitOf(std::string_view name, UnitSuffix quantity, UnitSystem units);
+
 // Returns "Rock Load Height (entries)".
 std::string NameOf(const DesignNumber& number);
 

@@ -2,6 +2,7 @@
 
 #include "base/number_text.h"
 #include "reports/text_table.h"
+#include "reports/verdict_text.h"
 
 namespace orby {
 namespace {
@@ -9,19 +10,9 @@ namespace {
 constexpr NumberPattern EffectPattern{"0.000"};
 constexpr std::string_view NoEffectText = "--";
 
-std::string WithUnitOf(std::string name, UnitSuffix unit, UnitSystem units) {
-  if (unit != UnitSuffix::None) name.append(" (").append(UnitOf(unit, units)).append(")");
-  return name;
-}
-
 std::string_view StateText(Holding result) {
   constexpr std::array<std::string_view, 4> States{"holds", "to check", "cannot be computed", "short"};
   return States.at(static_cast<std::size_t>(result));
-}
-
-std::string_view OpeningText(Opening where) {
-  constexpr std::array<std::string_view, OpeningCount> Places{"", " in entries", " in intersections"};
-  return Places.at(static_cast<std::size_t>(where));
 }
 
 // Returns the range with other ends. Its steps stay, unless it is narrower than some of them.
@@ -52,12 +43,14 @@ std::vector<VariedRange> RangesOf(const Design& design, double share, const Give
 
 }  // namespace
 
-std::vector<NumberEffect> EffectsOn(const Design& design, const Catalogs& catalogs, const StudiedFigure& figure,
-                                    double share, const GivenRanges& ranges) {
-  std::vector<NumberEffect> effects;
+FigureEffects EffectsOn(const Design& design, const Catalogs& catalogs, const StudiedFigure& figure, double share,
+                        const GivenRanges& ranges) {
+  VariedDesign present(design, catalogs);
+  present.Refresh();
+  FigureEffects effects{.AtDesign = figure.Of(present.Analysed()), .Numbers = {}};
   std::vector<SensitivityRow> rows =
-      FindSensitivity(design, catalogs, figure, RangesOf(design, share, ranges, effects));
-  for (std::size_t i = 0; i < rows.size(); ++i) effects[i].Row = std::move(rows[i]);
+      FindSensitivity(design, catalogs, figure, RangesOf(design, share, ranges, effects.Numbers));
+  for (std::size_t i = 0; i < rows.size(); ++i) effects.Numbers[i].Row = std::move(rows[i]);
   return effects;
 }
 
@@ -88,7 +81,7 @@ std::string EffectText(const FigureValue& value) {
 }
 
 std::string NameOf(const StudiedFigure& figure, UnitSystem units) {
-  return WithUnitOf(std::string(figure.Name), figure.Unit, units);
+  return WithUnitOf(figure.Name, figure.Unit, units);
 }
 
 std::vector<std::string> TurnLines(const NumberEffect& effect, UnitSystem units) {
@@ -101,23 +94,21 @@ std::vector<std::string> TurnLines(const NumberEffect& effect, UnitSystem units)
 
 std::string TurnText(const TurningPoint& turn, std::string_view unit) {
   std::string text(AspectName(turn.Judged.What));
-  text.append(OpeningText(turn.Judged.Where)).append(": ").append(StateText(turn.Before)).append(" up to ");
+  text.append(PlaceText(turn.Judged.Where)).append(": ").append(StateText(turn.Before)).append(" up to ");
   text.append(NumberText(turn.Last));
   if (!unit.empty()) text.append(unit == "°" ? "" : " ").append(unit);
   return text.append(", then ").append(StateText(turn.After));
 }
 
 std::string SensitivityText(const Design& design, const Catalogs& catalogs, const StudiedFigure& figure, double share) {
-  VariedDesign present(design, catalogs);
-  present.Refresh();
-  std::string text = NameOf(figure, design.Units) + ": " + EffectText(figure.Of(present.Analysed())) + "\n";
+  const FigureEffects effects = EffectsOn(design, catalogs, figure, share);
+  std::string text = NameOf(figure, design.Units) + ": " + EffectText(effects.AtDesign) + "\n";
   text += "Each number alone, less and more by " + NumberText(ToSingle(share * 100)) + " %:\n\n";
-  const std::vector<NumberEffect> effects = EffectsOn(design, catalogs, figure, share);
   TextTable table({EffectHeads.begin(), EffectHeads.end()});
   std::string without;
   std::string turns;
-  for (const std::size_t place : GreatestFirst(effects)) {
-    const NumberEffect& effect = effects[place];
+  for (const std::size_t place : GreatestFirst(effects.Numbers)) {
+    const NumberEffect& effect = effects.Numbers[place];
     for (const std::string& line : TurnLines(effect, design.Units)) turns += line + "\n";
     if (HasNoEffect(effect)) {
       without.append(without.empty() ? "\nWithout effect on it: " : ", ").append(effect.Row.Range.Name);

@@ -27,11 +27,17 @@ struct NumberEffect {
   SensitivityRow Row;
 };
 
-// Returns the numbers in use with their effects, in the order of the report. `ranges` replaces that of a share for some
-// of them. Numbers that are 0 are left out unless they have a range, because a share of them is no change.
+struct FigureEffects {
+  FigureValue AtDesign;
+  std::vector<NumberEffect> Numbers;
+};
+
+// Returns the figure of the design, and the numbers in use with their effects on it, in the order of the report.
+// `ranges` replaces that of a share for some of them. Numbers that are 0 are left out unless they have a range, because
+// a share of them is no change.
 using GivenRanges = std::map<const DesignNumber*, std::pair<Single, Single>>;
-std::vector<NumberEffect> EffectsOn(const Design& design, const Catalogs& catalogs, const StudiedFigure& figure,
-                                    double share, const GivenRanges& ranges = {});
+FigureEffects EffectsOn(const Design& design, const Catalogs& catalogs, const StudiedFigure& figure, double share,
+                        const GivenRanges& ranges = {});
 
 // Returns the places of the effects, the greatest first. Equal ones keep their order.
 std::vector<std::size_t> GreatestFirst(const std::vector<NumberEffect>& effects);

@@ -8,6 +8,7 @@
 
 #include "base/number_text.h"
 #include "reports/text_table.h"
+#include "reports/verdict_text.h"
 #include "sampling/prepared_distribution.h"
 
 namespace orby {
@@ -23,11 +24,6 @@ struct Quantile {
   double Share;
 };
 constexpr Quantile Quantiles[] = {{"P5", 0.05}, {"P50", 0.5}, {"P95", 0.95}};
-
-std::string_view HoldingName(Holding result) {
-  constexpr std::array<std::string_view, HoldingCount> Names{"holds", "check", "--", "short"};
-  return Names.at(static_cast<std::size_t>(result));
-}
 
 std::string_view EndText(StudyEnd end) {
   switch (end) {
@@ -69,7 +65,7 @@ std::string VerdictTable(const StudyResult& result, double confidence) {
     const auto bound = [&](double Interval::*end) {
       return verdict.Confidence ? FormatNumber((*verdict.Confidence).*end, Probabilities) : std::string(NoNumberText);
     };
-    table.Add({VerdictName(verdict.Judged), std::string(HoldingName(verdict.AtDesign)),
+    table.Add({VerdictName(verdict.Judged), std::string(ResultWord(verdict.AtDesign)),
                FormatNumber(verdict.Probability, Probabilities), bound(&Interval::Low), bound(&Interval::High),
                share(Holding::Check), share(Holding::Uncomputed)});
   }
@@ -158,9 +154,8 @@ class StudyLines {
       Add("judgement", item, "low", verdict.Confidence->Low);
       Add("judgement", item, "high", verdict.Confidence->High);
     }
-    constexpr std::array<std::string_view, HoldingCount> Counts{"holds", "check", "uncomputed", "short"};
     for (std::size_t i = 0; i < HoldingCount; ++i) {
-      Add("judgement", item, Counts[i], static_cast<double>(verdict.Counts.Of[i]));
+      Add("judgement", item, HoldingKey(static_cast<Holding>(i)), static_cast<double>(verdict.Counts.Of[i]));
     }
   }
 
@@ -175,8 +170,8 @@ class StudyLines {
     Add("figure", key, "deviation", figure.Sums.Deviation());
     Add("figure", key, "least", figure.Sums.Least());
     Add("figure", key, "greatest", figure.Sums.Greatest());
-    for (const double percent : {1, 5, 10, 25, 50, 75, 90, 95, 99}) {
-      Add("figure", key, "p" + NumberText(percent), figure.Sums.Percentile(percent / 100, figure.Histogram));
+    for (const int percent : WrittenPercentiles) {
+      Add("figure", key, "p" + NumberText(percent), figure.Sums.Percentile(percent / 100.0, figure.Histogram));
     }
     for (std::size_t i = 0; i < study.Inputs.size(); ++i) {
       if (figure.RankCorrelations[i]) Add("rank correlation", key, study.Inputs[i].Name, *figure.RankCorrelations[i]);
@@ -189,15 +184,15 @@ class StudyLines {
 
 }  // namespace
 
+std::string_view ResultWord(Holding result) {
+  constexpr std::array<std::string_view, HoldingCount> Words{"holds", "check", "--", "short"};
+  return Words.at(static_cast<std::size_t>(result));
+}
+
 std::string VerdictName(const StudiedVerdict& verdict) {
   std::string name(AspectName(verdict.What));
   if (verdict.Where != Opening::Primary) name.append(", ").append(OpeningKey(verdict.Where));
   return name;
-}
-
-std::string_view SchemeName(Scheme scheme) {
-  constexpr std::array<std::string_view, 3> Names{"latin hypercube", "sobol", "random"};
-  return Names.at(static_cast<std::size_t>(scheme));
 }
 
 std::string CountWithCommas(std::uint64_t count) {

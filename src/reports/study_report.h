@@ -1,6 +1,7 @@
 // The result of a study as texts.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -13,8 +14,11 @@ namespace orby {
 // Returns the name of a judgement with its place: "Cable bolts, entries". Those of primary support have no place.
 std::string VerdictName(const StudiedVerdict& verdict);
 
-// Returns "latin hypercube", "sobol" or "random".
-std::string_view SchemeName(Scheme scheme);
+// Returns the result of a judgement in a table: "holds", "check", "short", or "--" if it could not be made.
+std::string_view ResultWord(Holding result);
+
+// The percentiles of the figures in files.
+inline constexpr std::array WrittenPercentiles{1, 5, 10, 25, 50, 75, 90, 95, 99};
 
 // Returns a whole number with commas: "1,000,000".
 std::string CountWithCommas(std::uint64_t count);

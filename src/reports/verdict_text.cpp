@@ -10,6 +10,7 @@ namespace {
 
 // How a judgement is worded. The figures come as "5.6 of the suggested 11.8".
 struct Wording {
+  std::string_view Key;  // in files
   std::string_view Subject;
   std::string_view Relation;  // between the supply and the demand
   UnitSuffix Unit;            // in entries; a system in intersections has forces
@@ -20,18 +21,20 @@ struct Wording {
 constexpr std::string_view ShortBy = "short by";
 
 constexpr std::array<Wording, 12> Wordings{{
-    {"Sum of diagonals", "with at most", UnitSuffix::Length, "over by", ""},
-    {"Sum of diagonals", "for a width that needs", UnitSuffix::Length, "", "span and width may not match"},
-    {"Bolt length", "of the suggested", UnitSuffix::Length, ShortBy, "longer than needed"},
-    {"Bolt capacity", "of at least", UnitSuffix::Force, ShortBy, ""},
-    {"Actual PSUP", "of the suggested", UnitSuffix::None, ShortBy, ""},
-    {"Suggested PSUP", "with at most", UnitSuffix::None, "", "consider supplemental support"},
-    {"Cable bolts", "for a rock load of", UnitSuffix::LineLoad, ShortBy, ""},
-    {"Trusses", "for a rock load of", UnitSuffix::LineLoad, ShortBy, ""},
-    {"Roof bolts", "for a rock load of", UnitSuffix::LineLoad, ShortBy, ""},
-    {"Standing supports", "for a rock load of", UnitSuffix::LineLoad, ShortBy, ""},
-    {"Cable bolt length", "for a rock load height and anchorage of", UnitSuffix::Length, ShortBy, ""},
-    {"Roof bolt length", "for a rock load height and anchorage of", UnitSuffix::Length, ShortBy, ""},
+    {"span", "Sum of diagonals", "with at most", UnitSuffix::Length, "over by", ""},
+    {"span-and-width", "Sum of diagonals", "for a width that needs", UnitSuffix::Length, "",
+     "span and width may not match"},
+    {"bolt-length", "Bolt length", "of the suggested", UnitSuffix::Length, ShortBy, "longer than needed"},
+    {"bolt-capacity", "Bolt capacity", "of at least", UnitSuffix::Force, ShortBy, ""},
+    {"psup", "Actual PSUP", "of the suggested", UnitSuffix::None, ShortBy, ""},
+    {"supplement", "Suggested PSUP", "with at most", UnitSuffix::None, "", "consider supplemental support"},
+    {"cables", "Cable bolts", "for a rock load of", UnitSuffix::LineLoad, ShortBy, ""},
+    {"trusses", "Trusses", "for a rock load of", UnitSuffix::LineLoad, ShortBy, ""},
+    {"bolts", "Roof bolts", "for a rock load of", UnitSuffix::LineLoad, ShortBy, ""},
+    {"standing", "Standing supports", "for a rock load of", UnitSuffix::LineLoad, ShortBy, ""},
+    {"cable-anchorage", "Cable bolt length", "for a rock load height and anchorage of", UnitSuffix::Length, ShortBy,
+     ""},
+    {"bolt-anchorage", "Roof bolt length", "for a rock load height and anchorage of", UnitSuffix::Length, ShortBy, ""},
 }};
 
 const Wording& WordingOf(const Verdict& verdict) { return Wordings.at(static_cast<std::size_t>(verdict.What)); }
@@ -98,12 +101,30 @@ void AppendFigures(std::string& text, const Verdict& verdict, UnitSystem units) 
   AppendRemark(text, verdict);
 }
 
+}  // namespace
+
 std::string_view PlaceText(Opening where) {
   constexpr std::array<std::string_view, 3> Places{"", " in entries", " in intersections"};
   return Places.at(static_cast<std::size_t>(where));
 }
 
-}  // namespace
+std::string_view AspectKey(Aspect what) { return Wordings.at(static_cast<std::size_t>(what)).Key; }
+
+std::string_view OpeningKey(Opening where) {
+  constexpr std::array<std::string_view, OpeningCount> Keys{"primary", "entries", "intersections"};
+  return Keys.at(static_cast<std::size_t>(where));
+}
+
+std::string_view HoldingKey(Holding result) {
+  constexpr std::array<std::string_view, 4> Keys{"holds", "check", "uncomputed", "short"};
+  return Keys.at(static_cast<std::size_t>(result));
+}
+
+// In a line the figures tell the two judgements on the sum of diagonals apart.
+std::string_view AspectName(Aspect what) {
+  if (what == Aspect::SpanAndWidth) return "Sum of diagonals for the entry width";
+  return Wordings.at(static_cast<std::size_t>(what)).Subject;
+}
 
 std::string_view HoldingWord(Holding result) {
   constexpr std::array<std::string_view, 4> Words{"Holds", "Check", "Cannot be computed", "Short"};

@@ -30,6 +30,20 @@ VerdictCells CellsOf(const Verdict& verdict, UnitSystem units);
 // Returns how many judgements have each result, the worst first: "2 short, 1 to check, 5 hold".
 std::string VerdictCounts(const Verdicts& verdicts);
 
+// ---- names ---------------------------------------------------------------------------------------------------------
+
+// Each returns a name in files, which never changes: "psup", "bolt-capacity"; "primary", "entries" or "intersections";
+// "holds", "check", "uncomputed" or "short".
+std::string_view AspectKey(Aspect what);
+std::string_view OpeningKey(Opening where);
+std::string_view HoldingKey(Holding result);
+
+// Returns the name of a judgement apart from its place, different for each one: "Actual PSUP".
+std::string_view AspectName(Aspect what);
+
+// Returns " in entries", " in intersections", or an empty text for primary support.
+std::string_view PlaceText(Opening where);
+
 // ---- parts of these texts ------------------------------------------------------------------------------------------
 
 // Returns the result in a word or two: "Holds".

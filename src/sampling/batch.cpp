@@ -1,7 +1,5 @@
 #include "sampling/batch.h"
 
-#include <boost/random/mersenne_twister.hpp>
-#include <boost/random/seed_seq.hpp>
 #include <boost/random/sobol.hpp>
 #include <boost/random/uniform_int_distribution.hpp>
 
@@ -11,32 +9,25 @@
 #include <numeric>
 
 #include "sampling/ranks.h"
+#include "sampling/study_engine.h"
 
 namespace orby {
 namespace {
 
 using NormalNumbers = boost::math::normal_distribution<double, SamplingPolicy>;
-using BatchEngine = boost::random::mt19937_64;
-
-BatchEngine EngineOf(std::uint64_t seed, std::uint32_t batch) {
-  const std::array<std::uint32_t, 3> words{static_cast<std::uint32_t>(seed), static_cast<std::uint32_t>(seed >> 32),
-                                           batch};
-  boost::random::seed_seq sequence(words.begin(), words.end());
-  return BatchEngine(sequence);
-}
 
 // Returns the middle of one of 2^32 equal parts of 0..1, so that neither 0 nor 1 occurs.
 double MiddleOf(std::uint32_t part) { return (static_cast<double>(part) + 0.5) / 4294967296.0; }
 
-std::uint32_t Bits(BatchEngine& engine) { return static_cast<std::uint32_t>(engine() >> 32); }
+std::uint32_t Bits(StudyEngine& engine) { return static_cast<std::uint32_t>(engine() >> 32); }
 
 // Returns the middle of one of 2^52 equal parts.
-double RandomProbability(BatchEngine& engine) {
+double RandomProbability(StudyEngine& engine) {
   return (static_cast<double>(engine() >> 12) + 0.5) / 4503599627370496.0;
 }
 
 template <class T>
-void Shuffle(std::span<T> items, BatchEngine& engine) {
+void Shuffle(std::span<T> items, StudyEngine& engine) {
   for (std::size_t left = items.size(); left > 1; --left) {
     boost::random::uniform_int_distribution<std::uint32_t> place(0, static_cast<std::uint32_t>(left - 1));
     std::swap(items[left - 1], items[place(engine)]);
@@ -47,7 +38,7 @@ void Shuffle(std::span<T> items, BatchEngine& engine) {
 // one down, and a random shift. The images of the values of each byte are looked up.
 class BitScramble {
  public:
-  explicit BitScramble(BatchEngine& engine) {
+  explicit BitScramble(StudyEngine& engine) {
     for (int byte = 0; byte < 4; ++byte) {
       auto& images = images_[static_cast<std::size_t>(byte)];
       for (int bit = 0; bit < 8; ++bit) {
@@ -165,14 +156,14 @@ void BatchMaker::Fill(std::uint32_t batch, SampleTable& table, Workspace& worksp
 }
 
 void BatchMaker::FillRandom(std::uint32_t batch, SampleTable& table) const {
-  BatchEngine engine = EngineOf(seed_, batch);
+  StudyEngine engine = EngineOf(seed_, batch);
   for (std::size_t column = 0; column < table.Columns(); ++column) {
     for (double& probability : table.Column(column)) probability = RandomProbability(engine);
   }
 }
 
 void BatchMaker::FillSobol(std::uint32_t batch, SampleTable& table) const {
-  BatchEngine engine = EngineOf(seed_, batch);
+  StudyEngine engine = EngineOf(seed_, batch);
   for (std::size_t column = 0; column < table.Columns(); ++column) {
     const BitScramble scramble(engine);
     const auto points = std::span(sobolPoints_).subspan(column * samples_, samples_);
@@ -183,7 +174,7 @@ void BatchMaker::FillSobol(std::uint32_t batch, SampleTable& table) const {
 
 // Each column gets the strata in a random order, and a random place within each stratum.
 void BatchMaker::FillStrata(std::uint32_t batch, SampleTable& table, Workspace& workspace) const {
-  BatchEngine engine = EngineOf(seed_, batch);
+  StudyEngine engine = EngineOf(seed_, batch);
   auto& strata = workspace.Strata;
   strata.resize(samples_);
   for (std::size_t column = 0; column < table.Columns(); ++column) {

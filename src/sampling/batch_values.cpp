@@ -43,11 +43,7 @@ void BatchAnalysis::Analyse(BatchValues& values, std::size_t sample) {
 std::vector<const StudiedFigure*> FollowedFigures(const Study& study, const RoofSupport& design) {
   std::vector<const StudiedFigure*> figures;
   for (const std::string& key : study.Figures) figures.push_back(FigureWithKey(key));
-  if (!figures.empty()) return figures;
-  for (const StudiedFigure& figure : StudiedFigures()) {
-    if (figure.IsUsed(design)) figures.push_back(&figure);
-  }
-  return figures;
+  return figures.empty() ? FiguresInUse(design) : figures;
 }
 
 }  // namespace orby

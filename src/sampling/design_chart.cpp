@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
-#include "sampling/in_parallel.h"
+#include "base/all_cores.h"
 
 namespace orby {
 namespace {
@@ -67,7 +67,7 @@ FigureChart ChartFigure(const Design& design, const Catalogs& catalogs, const St
                         const StudiedVerdict& judged, const ChartAxis& x, const ChartAxis& y, unsigned threads) {
   const std::size_t width = x.Values.size();
   FigureChart chart{ChartGrid<FigureValue>(width * y.Values.size()), ChartGrid<Holding>(width * y.Values.size())};
-  InParallel(y.Values.size(), threads, [&](std::size_t row) {
+  const auto fillRow = [&](std::size_t row, std::size_t) {
     VariedDesign varied(design, catalogs);
     varied.Set(y.Field, y.Values[row]);
     for (std::size_t column = 0; column < width; ++column) {
@@ -76,7 +76,8 @@ FigureChart ChartFigure(const Design& design, const Catalogs& catalogs, const St
       chart.Values[row * width + column] = figure.Of(varied.Analysed());
       chart.Results[row * width + column] = varied.ResultOf(judged);
     }
-  });
+  };
+  InPieces(y.Values.size(), 1, fillRow, threads);
   return chart;
 }
 
@@ -86,14 +87,15 @@ ChartGrid<std::optional<Single>> ChartNumberThatHolds(const Design& design, cons
                                                       const ChartAxis& y, unsigned threads) {
   const std::size_t width = x.Values.size();
   ChartGrid<std::optional<Single>> grid(width * y.Values.size());
-  InParallel(y.Values.size(), threads, [&](std::size_t row) {
+  const auto fillRow = [&](std::size_t row, std::size_t) {
     NumberSearch search(design, catalogs, judged, chosen);
     search.Set(y.Field, y.Values[row]);
     for (std::size_t column = 0; column < width; ++column) {
       search.Set(x.Field, x.Values[column]);
       grid[row * width + column] = search.Find();
     }
-  });
+  };
+  InPieces(y.Values.size(), 1, fillRow, threads);
   return grid;
 }
 

@@ -14,23 +14,31 @@ namespace {
 constexpr std::string_view AboveZero = "the deviation must be above 0.";
 constexpr std::string_view NotFinite = "each parameter must be a number.";
 
-bool AreFinite(std::initializer_list<double> numbers) {
-  return std::ranges::all_of(numbers, [](double number) { return std::isfinite(number); });
+using Parameters = std::vector<LawParameter>;
+Parameters ParametersOf(NormalLaw& law) { return {{"mean", &law.Mean}, {"deviation", &law.Deviation}}; }
+Parameters ParametersOf(LognormalLaw& law) { return {{"mean", &law.Mean}, {"deviation", &law.Deviation}}; }
+Parameters ParametersOf(TriangularLaw& law) {
+  return {{"least", &law.Least}, {"likeliest", &law.Likeliest}, {"greatest", &law.Greatest}};
+}
+Parameters ParametersOf(UniformLaw& law) { return {{"least", &law.Least}, {"greatest", &law.Greatest}}; }
+Parameters ParametersOf(BetaLaw& law) {
+  return {{"alpha", &law.Alpha}, {"beta", &law.Beta}, {"least", &law.Least}, {"greatest", &law.Greatest}};
+}
+Parameters ParametersOf(EmpiricalLaw&) { return {}; }
+
+bool AreFinite(DistributionLaw law) {
+  return std::ranges::all_of(orby::ParametersOf(law),
+                             [](const LawParameter& parameter) { return std::isfinite(*parameter.Number); });
 }
 
-std::string_view LawFault(const NormalLaw& law) {
-  if (!AreFinite({law.Mean, law.Deviation})) return NotFinite;
-  return law.Deviation > 0 ? std::string_view() : AboveZero;
-}
+std::string_view LawFault(const NormalLaw& law) { return law.Deviation > 0 ? std::string_view() : AboveZero; }
 
 std::string_view LawFault(const LognormalLaw& law) {
-  if (!AreFinite({law.Mean, law.Deviation})) return NotFinite;
   if (!(law.Mean > 0)) return "the mean of a lognormal distribution must be above 0.";
   return law.Deviation > 0 ? std::string_view() : AboveZero;
 }
 
 std::string_view LawFault(const TriangularLaw& law) {
-  if (!AreFinite({law.Least, law.Likeliest, law.Greatest})) return NotFinite;
   if (!(law.Least < law.Greatest)) return "the greatest value must be above the least one.";
   if (law.Likeliest < law.Least || law.Likeliest > law.Greatest) {
     return "the likeliest value must be between the least and the greatest one.";
@@ -39,7 +47,6 @@ std::string_view LawFault(const TriangularLaw& law) {
 }
 
 std::string_view LawFault(const UniformLaw& law) {
-  if (!AreFinite({law.Least, law.Greatest})) return NotFinite;
   return law.Least < law.Greatest ? std::string_view() : "the greatest value must be above the least one.";
 }
 
@@ -48,7 +55,6 @@ constexpr double LeastShape = 0.01;
 constexpr double GreatestShape = 1e6;
 
 std::string_view LawFault(const BetaLaw& law) {
-  if (!AreFinite({law.Alpha, law.Beta, law.Least, law.Greatest})) return NotFinite;
   const auto fits = [](double shape) { return shape >= LeastShape && shape <= GreatestShape; };
   if (!fits(law.Alpha) || !fits(law.Beta)) return "alpha and beta must be between 0.01 and 1,000,000.";
   return law.Least < law.Greatest ? std::string_view() : "the greatest value must be above the least one.";
@@ -88,6 +94,16 @@ std::string_view SizeFault(const Distribution& distribution) {
 
 }  // namespace
 
+std::vector<LawParameter> ParametersOf(DistributionLaw& law) {
+  return std::visit([](auto& kind) { return ParametersOf(kind); }, law);
+}
+
+std::span<const DistributionLaw> LawKinds() {
+  static const std::array<DistributionLaw, 6> kinds{NormalLaw(),  LognormalLaw(), TriangularLaw(),
+                                                    UniformLaw(), BetaLaw(),      EmpiricalLaw()};
+  return kinds;
+}
+
 std::string_view LawName(const DistributionLaw& law) {
   constexpr std::array<std::string_view, 6> Names{"normal",  "lognormal", "triangular",
                                                   "uniform", "beta",      "measured values"};
@@ -95,7 +111,8 @@ std::string_view LawName(const DistributionLaw& law) {
 }
 
 std::string FaultOf(const Distribution& distribution, std::string_view input) {
-  std::string_view fault = std::visit([](const auto& law) { return LawFault(law); }, distribution.Law);
+  std::string_view fault = AreFinite(distribution.Law) ? std::string_view() : NotFinite;
+  if (fault.empty()) fault = std::visit([](const auto& law) { return LawFault(law); }, distribution.Law);
   if (fault.empty()) fault = BoundsFault(distribution);
   if (fault.empty()) fault = SizeFault(distribution);
   if (fault.empty()) return {};

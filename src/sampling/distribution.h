@@ -4,6 +4,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -61,6 +62,18 @@ struct Distribution {
   std::optional<double> Highest = std::nullopt;
   bool operator==(const Distribution&) const = default;
 };
+
+// A parameter of a law.
+struct LawParameter {
+  const char* Name;  // for the user and for files: "mean"
+  double* Number;
+};
+
+// Returns the parameters of a law in their usual order. Measured values have none.
+std::vector<LawParameter> ParametersOf(DistributionLaw& law);
+
+// Returns a law of each kind, in the order of DistributionLaw.
+std::span<const DistributionLaw> LawKinds();
 
 // Returns "normal", "lognormal", "triangular", "uniform", "beta" or "measured values".
 std::string_view LawName(const DistributionLaw& law);

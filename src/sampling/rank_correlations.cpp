@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <functional>
 
-#include "sampling/in_parallel.h"
+#include "base/all_cores.h"
 #include "sampling/ranks.h"
 #include "sampling/study_gathering.h"
 
@@ -37,8 +37,9 @@ std::vector<std::optional<double>> CorrelationsOfRest(const Column& figure, cons
 void FindRankCorrelations(StudyResult& result, unsigned threads) {
   const Subsample& chosen = result.Chosen;
   std::vector<std::vector<float>> inputRanks(chosen.Inputs.size());
-  InParallel(inputRanks.size(), threads, [&](std::size_t i) { inputRanks[i] = RanksOf(chosen.Inputs[i]); });
-  InParallel(result.Figures.size(), threads, [&](std::size_t i) {
+  const auto rankInput = [&](std::size_t i, std::size_t) { inputRanks[i] = RanksOf(chosen.Inputs[i]); };
+  InPieces(inputRanks.size(), 1, rankInput, threads);
+  const auto correlateFigure = [&](std::size_t i, std::size_t) {
     const Column& figure = chosen.Figures[i];
     auto& correlations = result.Figures[i].RankCorrelations;
     if (!std::ranges::all_of(figure, HasValue)) {
@@ -51,7 +52,8 @@ void FindRankCorrelations(StudyResult& result, unsigned threads) {
     }
     const std::vector<float> ranks = RanksOf(figure);
     for (const auto& input : inputRanks) correlations.push_back(RankCorrelation(input, ranks));
-  });
+  };
+  InPieces(result.Figures.size(), 1, correlateFigure, threads);
 }
 
 }  // namespace orby

@@ -1,7 +1,10 @@
 // How the samples of a study are chosen.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 namespace orby {
 
@@ -10,5 +13,13 @@ enum class Scheme : std::uint8_t {
   Sobol,           // the points of a Sobol sequence, scrambled anew for each batch
   Random,
 };
+
+inline constexpr std::array<Scheme, 3> Schemes{Scheme::LatinHypercube, Scheme::Sobol, Scheme::Random};
+
+// Returns the name of a scheme for the user and for files: "latin hypercube", "sobol" or "random".
+constexpr std::string_view SchemeName(Scheme scheme) {
+  constexpr std::array<std::string_view, Schemes.size()> Names{"latin hypercube", "sobol", "random"};
+  return Names[static_cast<std::size_t>(scheme)];
+}
 
 }  // namespace orby

@@ -140,42 +140,21 @@ constexpr std::array FigureTable{
                                    "Stability factor of standing supports in intersections"),
 };
 
-struct AspectWords {
-  std::string_view Key;
-  std::string_view Name;
-};
-
-constexpr std::array<AspectWords, AspectCount> AspectTable{{
-    {"span", "Sum of diagonals"},
-    {"span-and-width", "Sum of diagonals for the entry width"},
-    {"bolt-length", "Bolt length"},
-    {"bolt-capacity", "Capacity of a bolt"},
-    {"psup", "Actual PSUP"},
-    {"supplement", "Suggested PSUP without supplemental support"},
-    {"cables", "Cable bolts"},
-    {"trusses", "Trusses"},
-    {"bolts", "Roof bolts"},
-    {"standing", "Standing supports"},
-    {"cable-anchorage", "Cable bolt length"},
-    {"bolt-anchorage", "Roof bolt length"},
-}};
-
 }  // namespace
 
 std::span<const StudiedFigure> StudiedFigures() { return FigureTable; }
 
+std::vector<const StudiedFigure*> FiguresInUse(const RoofSupport& design) {
+  std::vector<const StudiedFigure*> figures;
+  for (const StudiedFigure& figure : FigureTable) {
+    if (figure.IsUsed(design)) figures.push_back(&figure);
+  }
+  return figures;
+}
+
 const StudiedFigure* FigureWithKey(std::string_view key) {
   const auto* found = std::ranges::find(FigureTable, key, &StudiedFigure::Key);
   return found == FigureTable.end() ? nullptr : found;
-}
-
-std::string_view AspectKey(Aspect what) { return AspectTable.at(static_cast<std::size_t>(what)).Key; }
-
-std::string_view AspectName(Aspect what) { return AspectTable.at(static_cast<std::size_t>(what)).Name; }
-
-std::string_view OpeningKey(Opening where) {
-  constexpr std::array<std::string_view, OpeningCount> Keys{"primary", "entries", "intersections"};
-  return Keys.at(static_cast<std::size_t>(where));
 }
 
 }  // namespace orby

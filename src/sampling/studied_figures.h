@@ -3,6 +3,7 @@
 
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "base/unit_suffix.h"
 #include "engine/verdicts.h"
@@ -29,6 +30,9 @@ struct StudiedFigure {
 // Returns all figures in the order of the reports.
 std::span<const StudiedFigure> StudiedFigures();
 
+// Returns those of what the design analyses and uses.
+std::vector<const StudiedFigure*> FiguresInUse(const RoofSupport& design);
+
 // Returns the figure with this key, or null.
 const StudiedFigure* FigureWithKey(std::string_view key);
 
@@ -38,12 +42,5 @@ struct StudiedVerdict {
   Aspect What{};
   bool operator==(const StudiedVerdict&) const = default;
 };
-
-// Returns the name of a judgement in files: "psup", "bolt-capacity". It never changes.
-std::string_view AspectKey(Aspect what);
-// Returns "primary", "entries" or "intersections".
-std::string_view OpeningKey(Opening where);
-// Returns the name of a judgement for the user: "Actual PSUP".
-std::string_view AspectName(Aspect what);
 
 }  // namespace orby

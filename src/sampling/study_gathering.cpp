@@ -1,23 +1,11 @@
 #include "sampling/study_gathering.h"
 
-#include <boost/random/seed_seq.hpp>
 #include <boost/random/uniform_int_distribution.hpp>
 
 #include <algorithm>
-#include <array>
 
 namespace orby {
 namespace {
-
-// The batches are seeded by their numbers, of which this is none.
-constexpr std::uint32_t NoBatch = 0xFFFFFFFFU;
-
-boost::random::mt19937_64 ChoiceEngine(std::uint64_t seed) {
-  const std::array<std::uint32_t, 3> words{static_cast<std::uint32_t>(seed), static_cast<std::uint32_t>(seed >> 32),
-                                           NoBatch};
-  boost::random::seed_seq sequence(words.begin(), words.end());
-  return boost::random::mt19937_64(sequence);
-}
 
 std::uint64_t JudgedIn(const ResultCounts& counts) {
   return counts.Total() - counts.Of[static_cast<std::size_t>(Holding::Uncomputed)];
@@ -39,7 +27,8 @@ void RefreshInterval(VerdictResult& verdict, const BatchMeans& means, double con
 
 }  // namespace
 
-SampleChooser::SampleChooser(Subsample& chosen, std::uint64_t seed) : chosen_(chosen), engine_(ChoiceEngine(seed)) {}
+SampleChooser::SampleChooser(Subsample& chosen, std::uint64_t seed)
+    : chosen_(chosen), engine_(EngineOf(seed, NoBatch)) {}
 
 void SampleChooser::Put(const BatchValues& values, std::size_t sample, std::size_t place) {
   for (std::size_t i = 0; i < chosen_.Inputs.size(); ++i) {

@@ -1,9 +1,8 @@
 // Gathers the batches of a study into its result.
 #pragma once
 
-#include <boost/random/mersenne_twister.hpp>
-
 #include "sampling/batch_values.h"
+#include "sampling/study_engine.h"
 #include "sampling/study_run.h"
 
 namespace orby {
@@ -20,7 +19,7 @@ class SampleChooser {
   void Put(const BatchValues& values, std::size_t sample, std::size_t place);
 
   Subsample& chosen_;
-  boost::random::mt19937_64 engine_;
+  StudyEngine engine_;
   std::uint64_t seen_ = 0;
 };
 

@@ -1,9 +1,9 @@
 #include "sheet/sheet_html.h"
 
 #include "base/markup_text.h"
+#include "reports/verdict_text.h"
 #include "sheet/formula_text.h"
 #include "sheet/html_text.h"
-#include "sheet/judgement_names.h"
 #include "sheet/math_ml.h"
 #include "sheet/sheet_content.h"
 #include "sheet/sheet_style.h"
@@ -84,7 +84,7 @@ class HtmlOutput {
   }
 
   void Judgement(const SheetJudgement& judgement) {
-    Line(Element("p class=\"judgement " + std::string(JudgementName(judgement.Judged.Result)) + "\"", judgement.Line));
+    Line(Element("p class=\"judgement " + std::string(HoldingKey(judgement.Judged.Result)) + "\"", judgement.Line));
   }
 
   void Remark(const SheetRemark& remark) { Line(Element("p", remark.Text)); }

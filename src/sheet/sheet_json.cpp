@@ -5,9 +5,9 @@
 #include "base/json_writer.h"
 #include "core/program.h"
 #include "core/version.h"
+#include "reports/verdict_text.h"
 #include "sheet/formula_text.h"
 #include "sheet/help_titles.h"
-#include "sheet/judgement_names.h"
 #include "sheet/operation_names.h"
 #include "sheet/sheet_content.h"
 
@@ -78,7 +78,7 @@ class JsonOutput {
 
   void Judgement(const SheetJudgement& judgement) {
     OpenPart("judgement");
-    json_.Text("result", JudgementName(judgement.Judged.Result));
+    json_.Text("result", HoldingKey(judgement.Judged.Result));
     json_.Text("text", judgement.Line);
     json_.Close();
   }

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "tables/all_cores.h"
+#include "base/all_cores.h"
 
 namespace orby {
 

@@ -2,34 +2,20 @@
 #include <algorithm>
 #include <atomic>
 
+#include "base/all_cores.h"
+#include "base/csv_text.h"
 #include "base/text.h"
-#include "tables/all_cores.h"
 #include "tables/design_table.h"
 
 namespace orby {
 namespace {
-
-// A text with a comma, a quote or a line end stands in quotes, with its own quotes doubled.
-void AppendField(std::string& csv, std::string_view text) {
-  const auto needsQuotes = [](char c) { return c == ',' || c == '"' || c == '\r' || c == '\n'; };
-  if (std::ranges::none_of(text, needsQuotes)) {
-    csv += text;
-    return;
-  }
-  csv += '"';
-  for (const char c : text) {
-    if (c == '"') csv += '"';
-    csv += c;
-  }
-  csv += '"';
-}
 
 // A number has no characters that need quotes.
 void AppendCell(std::string& csv, const Cell& cell) {
   if (cell.IsNumber() && cell.Text.empty()) {
     csv += ShownText(cell);
   } else if (!cell.Text.empty()) {
-    AppendField(csv, cell.Text);
+    AppendCsvField(csv, cell.Text);
   }
 }
 
@@ -53,7 +39,7 @@ template <class Append>
 std::string WithHead(const Columns& columns, UnitSystem units, std::size_t count, const Append& append) {
   constexpr std::size_t PieceSize = 128;
   std::string csv;
-  AppendRecord(csv, columns, [&](const Column& column) { AppendField(csv, HeadText(column, units)); });
+  AppendRecord(csv, columns, [&](const Column& column) { AppendCsvField(csv, HeadText(column, units)); });
   std::vector<std::string> pieces((count + PieceSize - 1) / PieceSize);
   InPieces(count, PieceSize, [&](std::size_t first, std::size_t last) {
     for (std::size_t i = first; i < last; ++i) append(pieces[first / PieceSize], i);

@@ -1,7 +1,7 @@
 // A table of designs as JSON.
+#include "base/all_cores.h"
 #include "base/json_writer.h"
 #include "core/version.h"
-#include "tables/all_cores.h"
 #include "tables/design_table.h"
 
 namespace orby {

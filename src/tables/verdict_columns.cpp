@@ -8,26 +8,6 @@
 namespace orby {
 namespace {
 
-struct AspectNames {
-  std::string_view Key;
-  std::string_view Head;
-};
-
-constexpr std::array<AspectNames, AspectCount> Names{{
-    {"span", "Sum of diagonals"},
-    {"span-and-width", "Sum of diagonals for the width"},
-    {"bolt-length", "Bolt length"},
-    {"bolt-capacity", "Bolt capacity"},
-    {"psup", "Actual PSUP"},
-    {"supplement", "Suggested PSUP"},
-    {"cables", "Cable bolts"},
-    {"trusses", "Trusses"},
-    {"bolts", "Roof bolts"},
-    {"standing", "Standing supports"},
-    {"cable-anchorage", "Cable bolt length"},
-    {"bolt-anchorage", "Roof bolt length"},
-}};
-
 constexpr std::array PrimaryAspects{Aspect::Span,         Aspect::SpanAndWidth, Aspect::BoltLength,
                                     Aspect::BoltCapacity, Aspect::Psup,         Aspect::Supplement};
 constexpr std::array SecondaryAspects{Aspect::Cables,        Aspect::CableAnchorage, Aspect::Trusses, Aspect::Bolts,
@@ -52,8 +32,7 @@ Cell ShortBy(const Verdict& verdict) {
 }
 
 void AddJudgement(const ColumnList& all, Aspect what, Opening where) {
-  const AspectNames& names = Names.at(static_cast<std::size_t>(what));
-  ColumnList list = all.Below(names.Key, names.Head);
+  ColumnList list = all.Below(AspectKey(what), AspectName(what));
   const auto add = [&](std::string_view key, std::string_view head, CellUnit unit, auto get) {
     list.AddAs(key, head, unit, [what, where, get](const TableRow& row) {
       const Verdict* verdict = VerdictOn(row, what, where);

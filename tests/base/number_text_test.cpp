@@ -140,5 +140,28 @@ TEST(NumberText, OfANumberThatIsNoneIsAnOverflow) {
   }
 }
 
+// ---- texts that are numbers as a whole
+// --------------------------------------------------------------------------------
+
+TEST(WholeTextNumber, IsTheNumberOfTheWholeText) {
+  EXPECT_EQ(WholeTextNumber(" 1.5E2 "), 150);
+  EXPECT_EQ(WholeTextNumber("-0.25"), -0.25);
+  for (const char* text : {"", " ", "1,5", "12 ft", "ten", "1E999"})
+    EXPECT_EQ(WholeTextNumber(text), std::nullopt) << text;
+}
+
+TEST(WholeTextNumber, FitsASingle) {
+  EXPECT_EQ(WholeTextSingle("0.1"), 0.1F);
+  EXPECT_EQ(WholeTextSingle("1E39"), std::nullopt);
+  EXPECT_EQ(WholeTextSingle("1,5"), std::nullopt);
+}
+
+TEST(WholeTextCount, HasDigitsAlone) {
+  EXPECT_EQ(WholeTextCount("18446744073709551615"), 18446744073709551615U);
+  for (const char* text : {"", "-1", "+1", " 1", "1.5", "1e3", "18446744073709551616"}) {
+    EXPECT_EQ(WholeTextCount(text), std::nullopt) << text;
+  }
+}
+
 }  // namespace
 }  // namespace orby

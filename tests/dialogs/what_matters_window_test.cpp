@@ -141,6 +141,22 @@ TEST_F(AWhatMattersWindow, CopiesItsTableForASpreadsheet) {
               StartsWith("Number\tValue\tLow\tHigh\tAt low\tAt high\tSwing\r\nCMRR\t45\t40.5\t"));
 }
 
+TEST_F(AWhatMattersWindow, SaysThatNothingIsAnalysed) {
+  window.Close();
+  Design& design = program.project.WorkParms;
+  design.Primary.Analysed = design.Entries.Analysed = design.Intersections.Analysed = 0;
+  WhatMattersWindow next(program);
+  next.Open();
+
+  next.txtChange.SetText("20");
+
+  EXPECT_FALSE(next.cmbFigure.Enabled());
+  EXPECT_EQ(next.lblPresent.Caption(), "The project analyses no support.");
+  EXPECT_EQ(next.grdNumbers.Rows(), 1) << "only the heads";
+  EXPECT_FALSE(next.txtLow.Enabled());
+  EXPECT_EQ(next.picTornado.Words(), "");
+}
+
 TEST_F(AWhatMattersWindow, ChangesNothingOfTheProject) {
   const Design before = program.project.WorkParms;
 

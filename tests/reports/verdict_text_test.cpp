@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <random>
+#include <set>
 
 #include "reports/calculation_report.h"
 #include "reports/golden_designs.h"
@@ -23,6 +24,22 @@ TEST(VerdictText, TellsHowFarASpanIsAboveItsLimit) {
   const Verdict span{.What = Aspect::Span, .Result = Holding::Short, .Demand = 60, .Supply = 75};
 
   EXPECT_EQ(VerdictLine(span, English), "Short: Sum of diagonals 75.0 with at most 60.0 ft, over by 25 %");
+}
+
+TEST(VerdictText, HasNamesForFilesThatNeverChange) {
+  EXPECT_EQ(AspectKey(Aspect::Psup), "psup");
+  EXPECT_EQ(AspectKey(Aspect::BoltAnchorage), "bolt-anchorage");
+  EXPECT_EQ(OpeningKey(Opening::Intersections), "intersections");
+  EXPECT_EQ(HoldingKey(Holding::Uncomputed), "uncomputed");
+}
+
+TEST(VerdictText, NamesEachJudgementDifferently) {
+  std::set<std::string_view> names;
+  for (std::size_t i = 0; i < AspectCount; ++i) names.insert(AspectName(static_cast<Aspect>(i)));
+
+  EXPECT_EQ(names.size(), AspectCount);
+  EXPECT_EQ(AspectName(Aspect::BoltCapacity), "Bolt capacity");
+  EXPECT_EQ(AspectName(Aspect::SpanAndWidth), "Sum of diagonals for the entry width");
 }
 
 TEST(VerdictText, HasTheCellsOfATable) {

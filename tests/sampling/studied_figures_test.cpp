@@ -83,12 +83,5 @@ TEST(StudiedFigures, OfSupportThatIsNotUsedAreNotFollowed) {
   EXPECT_TRUE(FigureWithKey("intersection-cable-factor")->IsUsed(design));
 }
 
-TEST(StudiedVerdicts, HaveTheirNames) {
-  EXPECT_EQ(AspectKey(Aspect::Psup), "psup");
-  EXPECT_EQ(AspectKey(Aspect::BoltAnchorage), "bolt-anchorage");
-  EXPECT_EQ(AspectName(Aspect::Psup), "Actual PSUP");
-  EXPECT_EQ(OpeningKey(Opening::Intersections), "intersections");
-}
-
 }  // namespace
 }  // namespace orby::test

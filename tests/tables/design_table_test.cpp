@@ -120,7 +120,7 @@ TEST(ATable, HasTheUnitsThatAllItsDesignsShare) {
   EXPECT_TRUE(AllAreRead({inFeet, inMetres}));
 }
 
-TEST(ATable, OfManyRowsKeepsTheirOrder) {
+TEST(ATable, WrittenByManyThreadsKeepsTheOrderOfItsRows) {
   const TableRun run;
   DesignTable table;
   std::string unknown;

@@ -1,28 +1,19 @@
 #include "apps/orby-cli/command_line.h"
 
-#include <charconv>
-
 #include "base/number_text.h"
 
 namespace orby::cli {
 namespace {
 
-// Returns the number that the whole text is.
-std::optional<std::uint64_t> WholeNumber(const std::optional<std::string>& text) {
-  if (!text) return std::nullopt;
-  std::uint64_t number = 0;
-  const char* end = text->data() + text->size();
-  const auto [read, error] = std::from_chars(text->data(), end, number);
-  if (error != std::errc() || read != end) return std::nullopt;
-  return number;
+std::optional<std::uint64_t> CountFrom(const std::optional<std::string>& text) {
+  return text ? WholeTextCount(*text) : std::nullopt;
 }
 
 // Takes a number of percent, above 0 and at most 100.
 bool TakePercent(const std::optional<std::string>& text, double& percent) {
-  if (!text) return false;
-  const LeadingNumber number = ReadNumber(*text);
-  percent = number.value;
-  return number.isWholeText && percent > 0 && percent <= 100;
+  const std::optional<double> number = text ? WholeTextNumber(*text) : std::nullopt;
+  percent = number.value_or(0);
+  return percent > 0 && percent <= 100;
 }
 
 // Returns the words of the command line one by one.
@@ -70,8 +61,8 @@ bool TakeOption(const std::string& option, Words& words, CommandLine& line) {
   if (option == "--config") return (line.Config = words.TakeValue()).has_value();
   if (option == "--to") return (line.To = words.TakeValue()).has_value();
   if (option == "--as") return (line.As = words.TakeValue()).has_value();
-  if (option == "--samples") return (line.Samples = WholeNumber(words.TakeValue())).has_value();
-  if (option == "--seed") return (line.Seed = WholeNumber(words.TakeValue())).has_value();
+  if (option == "--samples") return (line.Samples = CountFrom(words.TakeValue())).has_value();
+  if (option == "--seed") return (line.Seed = CountFrom(words.TakeValue())).has_value();
   if (option == "--change") return TakePercent(words.TakeValue(), line.Change);
   if (option == "--page") {
     const auto page = words.TakeValue();

@@ -2,8 +2,8 @@
 
 #include "base/json_writer.h"
 #include "reports/study_report.h"
+#include "reports/verdict_text.h"
 #include "sampling/prepared_distribution.h"
-#include "sheet/judgement_names.h"
 
 namespace orby::cli {
 namespace {
@@ -63,14 +63,14 @@ class StudyWriter {
     json_.Text("where", OpeningKey(verdict.Judged.Where));
     json_.Text("what", AspectKey(verdict.Judged.What));
     json_.Text("name", VerdictName(verdict.Judged));
-    json_.Text("design", JudgementName(verdict.AtDesign));
+    json_.Text("design", HoldingKey(verdict.AtDesign));
     json_.Number("probability", verdict.Probability);
     if (verdict.Confidence) {
       json_.Number("low", verdict.Confidence->Low);
       json_.Number("high", verdict.Confidence->High);
     }
     for (const Holding holding : {Holding::Holds, Holding::Check, Holding::Uncomputed, Holding::Short}) {
-      Count(JudgementName(holding), verdict.Counts.Of[static_cast<std::size_t>(holding)]);
+      Count(HoldingKey(holding), verdict.Counts.Of[static_cast<std::size_t>(holding)]);
     }
     json_.Close();
   }
@@ -100,7 +100,7 @@ class StudyWriter {
     json_.Number("greatest", figure.Sums.Greatest());
     json_.Name("percentiles");
     json_.OpenObject(true);
-    for (const int percent : {1, 5, 10, 25, 50, 75, 90, 95, 99}) {
+    for (const int percent : WrittenPercentiles) {
       json_.Number(std::to_string(percent), figure.Sums.Percentile(percent / 100.0, figure.Histogram));
     }
     json_.Close();

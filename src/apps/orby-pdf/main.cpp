@@ -78,10 +78,9 @@ bool TakeOption(Order& order, const std::string& word, const std::string& text) 
   } else if (word == "--remarks") {
     order.Report.Remarks = text;
   } else if (word == "--curve") {
-    const orby::LeadingNumber number = orby::ReadNumber(text);
-    const double most = static_cast<double>(order.Report.HasCurve.size());
-    if (!number.isWholeText || !(number.value >= 1 && number.value <= most)) return false;
-    order.Report.HasCurve.at(static_cast<std::size_t>(number.value) - 1) = true;
+    const auto number = orby::WholeTextCount(text);
+    if (!number || *number < 1 || *number > order.Report.HasCurve.size()) return false;
+    order.Report.HasCurve.at(*number - 1) = true;
   } else {
     for (const orby::TitleField& field : orby::TitleFields) {
       if (!orby::SameWithoutCase("--" + std::string(field.Name), word)) continue;
@@ -110,9 +109,9 @@ std::optional<Order> OrderOf(const Words& words) {
 
 std::string PdfOf(const orby::Program& program, const Order& order, const std::string& date) {
   if (!order.IsReport) return orby::SheetAsPdf(program, orby::SheetOfProject(program), {order.Size, date});
-  const orby::SignedReport report = orby::SignedReportMaker(program).Make(order.Report, date);
-  const orby::PagedSheet paged = orby::PagesOf(report, order.Size, orby::WidthsOf(program));
-  return orby::PagesAsPdf(program, paged, orby::DocumentTitle(report));
+  orby::SignedReportMaker maker(program);
+  const orby::PagedSheet paged = orby::PagesOf(maker.Make(order.Report, date), order.Size, orby::WidthsOf(program));
+  return orby::PagesAsPdf(program, paged, maker.Title());
 }
 
 int Write(const Order& order) {

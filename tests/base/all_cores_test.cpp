@@ -1,5 +1,5 @@
 // Work in pieces on all cores.
-#include "tables/all_cores.h"
+#include "base/all_cores.h"
 
 #include <gmock/gmock.h>
 

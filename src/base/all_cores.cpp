@@ -1,4 +1,4 @@
-#include "tables/all_cores.h"
+#include "base/all_cores.h"
 
 #include <algorithm>
 #include <atomic>
@@ -42,14 +42,15 @@ class PieceWork {
 
 }  // namespace
 
-void InPieces(std::size_t count, std::size_t size, const std::function<void(std::size_t, std::size_t)>& work) {
+void InPieces(std::size_t count, std::size_t size, const std::function<void(std::size_t, std::size_t)>& work,
+              unsigned threads) {
   PieceWork pieces(count, size, work);
-  const std::size_t cores = std::max(1U, std::thread::hardware_concurrency());
-  const std::size_t wanted = std::min(cores, (count + size - 1) / size);
-  std::vector<std::jthread> threads;
-  for (std::size_t i = 1; i < wanted; ++i) threads.emplace_back([&pieces] { pieces.Run(); });
+  if (threads == 0) threads = std::max(1U, std::thread::hardware_concurrency());
+  const std::size_t wanted = std::min<std::size_t>(threads, (count + size - 1) / size);
+  std::vector<std::jthread> others;
+  for (std::size_t i = 1; i < wanted; ++i) others.emplace_back([&pieces] { pieces.Run(); });
   pieces.Run();
-  threads.clear();
+  others.clear();
   pieces.ThrowFailure();
 }
 
