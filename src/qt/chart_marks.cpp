@@ -88,8 +88,10 @@ QCPItemText* ChartMarks::NewLabel(const std::string& text) {
   return label;
 }
 
+// In two lines, for the chart beside a list is narrow.
 void ChartMarks::AddEmptyText() {
-  QCPItemText* label = NewLabel("There are no points in the range of this curve");
+  QCPItemText* label = NewLabel("There are no points\nin the range of this curve");
+  label->setTextAlignment(Qt::AlignHCenter);
   label->position->setType(QCPItemPosition::ptAxisRectRatio);
   label->position->setCoords(0.5, 0.5);
 }

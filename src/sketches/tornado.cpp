@@ -7,8 +7,8 @@ namespace orby {
 namespace {
 
 constexpr double Edge = 10;
-constexpr double NameShare = 0.36;  // of the width
-constexpr double TextRoom = 62;     // for the figure beside a bar
+constexpr double NameShare = 0.42;  // of the width
+constexpr double TextRoom = 52;     // for the figure beside a bar
 constexpr double TallestRow = 30;
 constexpr double SmallestRow = 17;
 constexpr double TitleHeight = 26;

@@ -229,7 +229,7 @@ TEST_F(GraphMarksView, SaysThatACurveHasNoPoints) {
   program.windows.curve.References.clear();
   Draw(1);
 
-  EXPECT_THAT(Labels(), ElementsAre("There are no points in the range of this curve"));
+  EXPECT_THAT(Labels(), ElementsAre("There are no points\nin the range of this curve"));
 }
 
 TEST_F(GraphMarksView, DrawsASinglePointAsADotEvenWithLinesOnly) {
