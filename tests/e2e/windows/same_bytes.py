@@ -1,12 +1,14 @@
 """Compares the companion of this machine with the one for Windows: same_bytes.py DESIGNS SEED FOLDER...
 
 Makes designs from the projects in the folders, each with some numbers changed, and gives them to every command of both
-programs. Everything they print, their exit statuses and the files they write have to be the same. companion.py says what
-it needs.
+programs. Everything they print, their exit statuses and the files they write have to be the same. Only the numbers of a
+study may differ, after their sixth digit, because the sampled numbers are not rounded. companion.py says what it needs.
 """
 
 import collections
 import contextlib
+import json
+import math
 import os
 import random
 import subprocess
@@ -20,9 +22,20 @@ FIRST_LINE = b"ORBY_105"
 LARGEST = 16000  # bytes
 ENDS = b"\r\n"
 MOST_SHOWN = 20
-OF_ONE_FILE = ("live", "validate", "save", "convert", "curve")
+OF_ONE_FILE = ("live", "validate", "save", "convert", "curve", "sheet", "matters")
 OF_MANY_FILES = ("report", "cost", "verdicts", "table", "table --csv", "table --json --units metric")
 AT_ONCE = 200  # files of one command
+STUDIES = 10
+STUDIED = "study --json --samples 5000"
+OF_STUDY = ".study"
+SAME_DIGITS = 1e-6
+FIGURE = "actual-psup"
+
+STUDY = {"format": 1, "inputs": [
+    {"field": "roof rating", "distribution": "measured values", "values": [38, 41, 42, 42, 45, 47, 50, 52, 55, 61]},
+    {"field": "depth of cover", "distribution": "lognormal", "mean": 600, "deviation": 80, "lowest": 300},
+    {"field": "unit weight", "distribution": "beta", "alpha": 2, "beta": 3, "least": 150, "greatest": 175}],
+    "rankCorrelations": [[1, -0.3, 0], [-0.3, 1, 0], [0, 0, 1]]}
 
 
 def projects_in(folders):
@@ -75,7 +88,12 @@ def command_lines(dice, names):
                 words.insert(1, str(dice.randrange(10)))
             if command in ("save", "convert"):
                 words.append(f"{command}-{name}")
+            if command == "sheet":
+                words.append("-")
+            if command == "matters":
+                words.insert(1, FIGURE)
             lines.append((f"{name}-{command}", words))
+    lines.extend((name + OF_STUDY, [*STUDIED.split(), name]) for name in names[:STUDIES])
     for first in range(0, len(names), AT_ONCE):
         lines.extend((f"{first}-{command}", [*command.split(), *names[first:first + AT_ONCE]]) for command in OF_MANY_FILES)
     return lines
@@ -118,6 +136,25 @@ def difference(here, there):
                 "  differs in its length")
 
 
+def is_same(here, there):
+    """Returns whether two values of a study are the same, numbers to six digits."""
+    if isinstance(here, dict) and isinstance(there, dict):
+        return here.keys() == there.keys() and all(is_same(here[key], there[key]) for key in here)
+    if isinstance(here, list) and isinstance(there, list):
+        return len(here) == len(there) and all(map(is_same, here, there))
+    if isinstance(here, float) and isinstance(there, float):
+        return math.isclose(here, there, rel_tol=SAME_DIGITS, abs_tol=SAME_DIGITS)
+    return here == there
+
+
+def differs(name, here, there):
+    if here == there or here is None or there is None:
+        return here != there
+    if not name.endswith(OF_STUDY + ".out"):
+        return True
+    return not is_same(json.loads(here, parse_int=float), json.loads(there, parse_int=float))
+
+
 def main(count, seed, *folders):
     dice = random.Random(int(seed))
     projects = projects_in(folders)
@@ -128,11 +165,14 @@ def main(count, seed, *folders):
             project = changed(dice, dice.choice(projects))
             for folder in (home, windows_home):
                 write(folder, name, project)
+        for name in names[:STUDIES]:
+            for folder in (home, windows_home):
+                write(folder, name.replace(".ORB", ".study.json"), json.dumps(STUDY).encode())
         run_all(companion.HERE, home, lines)
         with wine_kept_running():
             run_all(companion.THERE, windows_home, lines)
         here, there = files_in(home), files_in(windows_home)
-    different = sorted(name for name in here.keys() | there.keys() if here.get(name) != there.get(name))
+    different = sorted(name for name in here.keys() | there.keys() if differs(name, here.get(name), there.get(name)))
     for name in different[:MOST_SHOWN]:
         print(f"{name}:\n{difference(here.get(name), there.get(name))}")
     statuses = collections.Counter(content.decode() for name, content in here.items() if name.endswith(".status"))
