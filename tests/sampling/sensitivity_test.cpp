@@ -68,6 +68,19 @@ TEST(Sensitivity, FindsTheValueAtWhichAJudgementChanges) {
   EXPECT_THAT(TurnsOf(rows[2], SpanVerdict), IsEmpty());
 }
 
+TEST(Sensitivity, FindsAChangeAtTheVeryEndsOfARange) {
+  const VariedRange ranges[] = {{"up to the first span that is short", SpanField, 55, 63.3F, {10}},
+                                {"from the last span that holds", SpanField, 63.2F, 70, {10}}};
+
+  const auto rows = FindSensitivity(FullDesign(), BuiltInLists(), Figure("suggested-psup"), ranges);
+
+  for (const SensitivityRow& row : rows) {
+    EXPECT_THAT(TurnsOf(row, SpanVerdict),
+                ElementsAre(TurningPoint{SpanVerdict, Holding::Holds, Holding::Short, 63.2F, 63.3F}))
+        << row.Range.Name;
+  }
+}
+
 // As the capacity of a truss rises, its factor passes 1 and then the wanted factor.
 TEST(Sensitivity, FindsEachChangeOfAJudgement) {
   Design design = FullDesign();
