@@ -15,9 +15,13 @@ namespace orby {
 struct PrintedSteps {
   int PerUnit = 1;
 
-  long FirstFrom(double value) const { return static_cast<long>(std::ceil(value * PerUnit - 1e-9)); }
-  long LastUpTo(double value) const { return static_cast<long>(std::floor(value * PerUnit + 1e-9)); }
+  // They compare as Singles, because the Single 63.3 is a little less than that.
+  long FirstFrom(double value) const { return Nearest(value) + (ValueOf(Nearest(value)) < ToSingle(value) ? 1 : 0); }
+  long LastUpTo(double value) const { return Nearest(value) - (ValueOf(Nearest(value)) > ToSingle(value) ? 1 : 0); }
   Single ValueOf(long step) const { return ToSingle(static_cast<double>(step) / PerUnit); }
+
+ private:
+  long Nearest(double value) const { return std::lround(value * PerUnit); }
 };
 
 class VariedDesign {
