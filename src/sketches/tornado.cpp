@@ -35,10 +35,12 @@ class TornadoDrafting {
     for (std::size_t i = 0; i < shown_; ++i) DrawBar(tornado_.Bars[i], area_.Top + row_ * static_cast<double>(i));
     const double centre = XOf(tornado_.Centre);
     const double bottom = area_.Top + row_ * static_cast<double>(shown_);
-    if (shown_ > 0) draft_.Draw(std::move(Trace().Segment({centre, area_.Top}, {centre, bottom})), ThinLine);
     draft_.Write({tornado_.CentreText}, {centre, area_.Top - 4}, Anchor::Middle, 2 * TextRoom);
-    draft_.Legend({{LowInk, "at the low end"}, {HighInk, "at the high end"}},
-                  draft_.Sheet().Bottom - Edge - 2 * LegendLine);
+    if (shown_ > 0) {
+      draft_.Draw(std::move(Trace().Segment({centre, area_.Top}, {centre, bottom})), ThinLine);
+      draft_.Legend({{LowInk, "at the low end"}, {HighInk, "at the high end"}},
+                    draft_.Sheet().Bottom - Edge - 2 * LegendLine);
+    }
     if (const std::size_t left = tornado_.Bars.size() - shown_; left > 0) {
       draft_.Fact(std::to_string(left) + " more are not drawn");
     }
