@@ -75,6 +75,7 @@ class Plotter {
 
   static std::vector<std::string> TextsOf(const std::vector<double>& ticks) {
     std::vector<std::string> texts;
+    texts.reserve(ticks.size());
     for (const double tick : ticks) texts.push_back(TickText(tick, ticks.size() > 1 ? ticks[1] - ticks[0] : 1));
     return texts;
   }

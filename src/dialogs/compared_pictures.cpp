@@ -49,6 +49,7 @@ ChartSeries CurveOf(const ComparedDesign& design, const std::string& name, Integ
   series.legend = name;
   series.width = 5;
   series.hasSymbols = false;
+  series.symbolSize = 6;  // of a curve of one point
   if (!design.Row.IsRead()) {
     series.legend += ": " + design.Row.Reason;
     return series;

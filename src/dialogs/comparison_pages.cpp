@@ -2,6 +2,8 @@
 #include <algorithm>
 #include <array>
 
+#include "base/text.h"
+#include "dialogs/compared_pictures.h"
 #include "dialogs/comparison_outputs.h"
 #include "sheet/page_flow.h"
 #include "sheet/page_parts.h"
@@ -55,7 +57,8 @@ class ComparisonPages {
     blocks_.push_back(parts_.Paragraph(ComparisonTitle, page_style::Title, 0));
     blocks_.push_back(parts_.Paragraph(printed_.Date, page_style::Small, 4));
     for (std::size_t i = 0; i < printed_.Table.Names.size(); ++i) {
-      blocks_.push_back(parts_.Paragraph(IdentityLine(printed_.Table, i), page_style::Usual, 4));
+      const std::string line = std::to_string(i + 1) + "  " + IdentityLine(printed_.Table, i);
+      blocks_.push_back(parts_.Paragraph(line, page_style::Usual, 4));
     }
   }
 
@@ -79,7 +82,8 @@ class ComparisonPages {
 
   void AddTable(const ComparedSection& section) {
     std::vector<std::string> heads{""};
-    heads.insert(heads.end(), printed_.Table.Names.begin(), printed_.Table.Names.end());
+    heads.reserve(columns_.size());
+    for (const std::string& name : printed_.Table.Names) heads.push_back(HeadOf(name, columns_[heads.size()]));
     std::vector<FormulaBox> head;
     for (const ComparedRow& row : section.Rows) {
       if (IsIdentity(row)) continue;
@@ -97,6 +101,18 @@ class ComparisonPages {
       blocks_.push_back(std::move(block));
     }
   }
+
+  // Returns a name that fits its column. The whole name stands below the title.
+  std::string HeadOf(const std::string& name, const PageColumn& column) const {
+    constexpr std::size_t Fewest = 6;
+    const double room = (column.Right - column.Left) * parts_.Across();
+    std::string head = name;
+    for (std::size_t most = CharacterCount(name); most > Fewest && IsWider(head, room); --most) {
+      head = Shortened(name, most);
+    }
+    return head;
+  }
+  bool IsWider(const std::string& text, double room) const { return parts_.Measure()(text, page_style::Strong) > room; }
 
   void AddCurves() {
     blocks_.push_back(parts_.Heading(printed_.CurveTitle, page_style::Heading, 14, printed_.CurveTitle));

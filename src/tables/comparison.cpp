@@ -11,7 +11,12 @@ namespace {
 
 // ---- what is better ------------------------------------------------------------------------------------------------
 
-enum class Better : std::uint8_t { Greater, Less, Result };
+enum class Better : std::uint8_t {
+  Greater,
+  Less,
+  LessOfAll,  // if all designs have a number; one without a number is better still
+  Result,
+};
 
 // Which direction is better, by the end of the key of a column. Rows without an entry have no best.
 struct Direction {
@@ -30,6 +35,8 @@ constexpr auto Directions =
                               {ColumnGroup::Verdicts, "verdicts-short", Better::Less},
                               {ColumnGroup::Verdicts, "verdicts-not-computed", Better::Less},
                               {ColumnGroup::Verdicts, "verdicts-to-check", Better::Less},
+                              {ColumnGroup::Verdicts, "-short-by", Better::LessOfAll},
+                              {ColumnGroup::Verdicts, "-over-by", Better::LessOfAll},
                               {ColumnGroup::Verdicts, "", Better::Result}});
 
 std::optional<Better> DirectionOf(const Column& column) {
@@ -50,6 +57,8 @@ std::optional<double> Goodness(const ComparedCell& cell, Better which) {
 }
 
 void MarkBest(ComparedRow& row, Better which) {
+  const auto hasNumber = [](const ComparedCell& cell) { return cell.Number.has_value(); };
+  if (which == Better::LessOfAll && !std::ranges::all_of(row.Cells, hasNumber)) return;
   const ComparedCell* best = nullptr;
   bool differs = false;
   for (const ComparedCell& cell : row.Cells) {

@@ -7,7 +7,7 @@ namespace {
 
 // Returns the number format of a cell, which shows the word for the best.
 std::string FormatOf(const ComparedCell& cell) {
-  const std::string format = NumberFormat(*cell.Number);
+  std::string format = NumberFormat(*cell.Number);
   if (!cell.IsBest) return format;
   return (format.empty() ? std::string("General") : format) + "\" " + std::string(BestWord) + "\"";
 }

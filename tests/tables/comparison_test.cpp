@@ -126,6 +126,19 @@ TEST_F(SideBySide, MarksTheBetterJudgementByItsResult) {
   EXPECT_THAT(TextsOf("verdicts-short"), ElementsAre("1", "0 best"));
 }
 
+TEST_F(SideBySide, MarksTheSmallestShortfallOnlyIfAllFallShort) {
+  Design sparse = Example("development-entry");
+  sparse.Primary.RowSpacing *= 1.5F;
+  Add("As it is", Example("development-entry"));
+  Add("Sparse", sparse);
+  EXPECT_THAT(TextsOf("verdict-primary-psup-short-by").front(), testing::EndsWith(" best"));
+
+  Design dense = Example("development-entry");
+  dense.Primary.RowSpacing /= 2;
+  Add("Dense", dense);
+  EXPECT_THAT(TextsOf("verdict-primary-psup-short-by"), Not(testing::Contains(HasSubstr("best"))));
+}
+
 TEST_F(SideBySide, MarksAllThatAreEquallyGood) {
   Design weak = Example("development-entry");
   weak.Primary.RowSpacing = 8;
