@@ -12,6 +12,14 @@
 
 namespace orby {
 
+// A named point, drawn over the series.
+struct ChartPoint {
+  double x = 0;
+  double y = 0;
+  std::string name;
+  bool operator==(const ChartPoint&) const = default;
+};
+
 struct ChartSeries {
   std::vector<double> x;
   std::vector<double> y;
@@ -23,6 +31,8 @@ struct ChartSeries {
   bool hasSymbols = true;
   int symbolSize = 1;
   bool isKept = false;  // an earlier curve, drawn dashed for comparison
+  int number = 0;       // counted from 1, in a chart with a curve of each of several designs; written on the curve
+  std::optional<ChartPoint> own{};  // of the design that a numbered curve belongs to
   bool operator==(const ChartSeries&) const = default;
 };
 
@@ -30,14 +40,6 @@ struct ChartAxis {
   std::string title;
   bool grid = false;  // whether grid lines start at the ticks of this axis
   bool operator==(const ChartAxis&) const = default;
-};
-
-// A named point, drawn over the series.
-struct ChartPoint {
-  double x = 0;
-  double y = 0;
-  std::string name;
-  bool operator==(const ChartPoint&) const = default;
 };
 
 // A named line across the plot, at a value of one axis.
@@ -76,8 +78,11 @@ class Chart : public Control {
   // Whether the user wants a legend.
   bool LegendShown() const { return legendShown_; }
   void SetLegendShown(bool shown) { Mirror(legendShown_, shown); }
-  // A chart with kept curves always has a legend, because nothing else names them.
-  bool HasLegend() const { return legendShown_ || std::ranges::any_of(series_, &ChartSeries::isKept); }
+  // A chart with kept or numbered curves always has a legend, because nothing else names them.
+  bool HasLegend() const { return legendShown_ || HasSeveralDesigns(); }
+  bool HasSeveralDesigns() const {
+    return std::ranges::any_of(series_, [](const ChartSeries& series) { return series.isKept || series.number > 0; });
+  }
   const std::vector<ChartSeries>& Series() const { return series_; }
   void SetSeries(std::vector<ChartSeries> series) { Mirror(series_, std::move(series)); }
 

@@ -35,6 +35,9 @@ ChartRange WholeRange(const Chart& chart, bool ofX) {
     range = ChartRange{range->lower - around, range->upper + around};
   }
   if (const auto& own = chart.Own()) Include(range, ofX ? own->x : own->y);
+  for (const ChartSeries& series : chart.Series()) {
+    if (series.own) Include(range, ofX ? series.own->x : series.own->y);
+  }
   for (const ChartLine& line : chart.References()) {
     if (line.isOfX == ofX && IsNear(chart, line)) Include(range, line.value);
   }
@@ -89,7 +92,7 @@ bool IsNear(const Chart& chart, const ChartLine& line) {
 
 ChartExtent WholeExtent(const Chart& chart) { return {WholeRange(chart, true), WholeRange(chart, false)}; }
 
-bool HasLegendBelow(const Chart& chart) { return std::ranges::any_of(chart.Series(), &ChartSeries::isKept); }
+bool HasLegendBelow(const Chart& chart) { return chart.HasSeveralDesigns(); }
 
 ChartCorner FreeCorner(const Chart& chart, const ChartExtent& extent) {
   constexpr ChartCorner Corners[] = {{true, true}, {false, true}, {true, false}, {false, false}};

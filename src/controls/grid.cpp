@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/text.h"
+
 namespace orby {
 
 void Grid::SetSize(int rows, int columns, int fixedRows) {
@@ -31,6 +33,15 @@ std::size_t Grid::Index(int row, int column) const {
 }
 
 const std::string& Grid::Cell(int row, int column) const { return cells_[Index(row, column)]; }
+
+std::string Grid::AsText() const {
+  std::string text;
+  for (int row = 0; row < rows_; ++row) {
+    for (int column = 0; column < columns_; ++column) text.append(column == 0 ? "" : "\t").append(Cell(row, column));
+    text += LineEnd;
+  }
+  return text;
+}
 
 void Grid::SetCell(int row, int column, std::string text) { Mirror(cells_[Index(row, column)], std::move(text)); }
 

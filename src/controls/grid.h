@@ -63,6 +63,9 @@ class Grid : public Control {
   void SetOverlay(TextBox& overlay) { overlay_ = &overlay; }
   TextBox* Overlay() const { return overlay_; }
 
+  // Returns all rows as a spreadsheet takes them: cells separated by tabs, line ends of CR LF.
+  std::string AsText() const;
+
   Event Change;  // another row or cell is selected, or the user has edited a cell
   Event Click;
 

@@ -113,6 +113,26 @@ struct UnsavedProject {
   Design WorkParms;  // the committed design
 };
 
+// A design that the user kept from the fields of the parameters dialog, with the project that it belongs to.
+struct KeptVariant : UnsavedProject {
+  Integer Number = 0;  // unique in this run
+  std::string Name;
+};
+
+// A design to compare: a variant, a file, or, without both, the open project.
+struct ComparedSource {
+  Integer Variant = 0;  // its number; 0: none
+  std::string File;
+  bool operator==(const ComparedSource&) const = default;
+};
+
+// What the user compares in this run.
+struct ComparedDesigns {
+  std::vector<KeptVariant> Variants;  // the oldest first
+  Integer LastVariant = 0;            // the number of the last one kept
+  std::vector<ComparedSource> Chosen{ComparedSource{}};
+};
+
 // The open project and the state of its file.
 struct Project : UnsavedProject {
   Integer DescLines = 0;
@@ -154,6 +174,7 @@ struct WindowState {
   Integer LastPage = 4;
   InputDialog ReportCaller = InputDialog::None;
   ResultsPlace results;
+  ComparedDesigns compared;
   Integer OptionsTab = 0;  // the last page of the options dialog
   Integer RecentMode = 0;
   bool DialogOpen = false;

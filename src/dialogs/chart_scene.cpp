@@ -75,6 +75,7 @@ class Plotter {
 
   static std::vector<std::string> TextsOf(const std::vector<double>& ticks) {
     std::vector<std::string> texts;
+    texts.reserve(ticks.size());
     for (const double tick : ticks) texts.push_back(TickText(tick, ticks.size() > 1 ? ticks[1] - ticks[0] : 1));
     return texts;
   }
@@ -157,7 +158,7 @@ class Plotter {
   void AllSeries() {
     std::size_t kept = 0;
     for (const ChartSeries& series : chart_.Series()) {
-      const Ink ink = series.isKept ? KeptInk(kept++) : Ink::Curve;
+      const Ink ink = InkOf(series, kept);
       Trace line;
       Trace symbols;
       for (std::size_t i = 0; i < series.x.size(); ++i) {
@@ -172,11 +173,44 @@ class Plotter {
       if (series.hasLine && series.x.size() > 1) draft_.Draw(std::move(line), StrokeOf(series, ink));
       // A single point is no line.
       if (series.hasSymbols || series.x.size() == 1) draft_.Draw(std::move(symbols), {}, {ink});
+      if (series.own) Square(At(series.own->x, series.own->y), ink);
     }
+    for (const ChartSeries& series : chart_.Series()) Number(series);
   }
 
+  // `kept` counts the kept curves.
+  static Ink InkOf(const ChartSeries& series, std::size_t& kept) {
+    if (series.isKept) return KeptInk(kept++);
+    const std::size_t place = PlaceOf(series);
+    return place == 0 ? Ink::Curve : KeptInk(place - 1);
+  }
+
+  // Numbered curves have a colour for each of four, first with whole lines and then with dashed ones.
+  static constexpr int NumberedInks = MostKept + 1;
+  static std::size_t PlaceOf(const ChartSeries& series) {
+    return static_cast<std::size_t>(std::max(series.number - 1, 0) % NumberedInks);
+  }
   static SceneStroke StrokeOf(const ChartSeries& series, Ink ink) {
-    return {.Colour = ink, .Width = series.width * LineShare, .IsDashed = series.isKept};
+    const bool isDashed = series.isKept || series.number > NumberedInks;
+    return {.Colour = ink, .Width = series.width * LineShare, .IsDashed = isDashed};
+  }
+
+  // Each number stands at another share of its curve, so that those of equal curves are apart.
+  void Number(const ChartSeries& series) {
+    if (series.number == 0 || series.x.empty()) return;
+    const auto parts = static_cast<double>(chart_.Series().size() + 1);
+    const double place = series.number / parts * static_cast<double>(series.x.size() - 1);
+    const auto point = static_cast<std::size_t>(place);
+    const std::size_t next = std::min(point + 1, series.x.size() - 1);
+    const double share = place - static_cast<double>(point);
+    const ScenePoint at =
+        At(std::lerp(series.x[point], series.x[next], share), std::lerp(series.y[point], series.y[next], share));
+    WriteName(std::to_string(series.number), {at.X, at.Y + TextSize / 3}, Anchor::Middle, plot_.Width());
+  }
+
+  void Square(const ScenePoint& at, Ink ink) {
+    draft_.Draw(Trace().Rectangle({at.X - OwnHalf, at.Y - OwnHalf, at.X + OwnHalf, at.Y + OwnHalf}),
+                {.Colour = ink, .Width = 2});
   }
 
   void OwnPoint() {
@@ -184,8 +218,7 @@ class Plotter {
     if (!own) return;
     const ScenePoint at = At(own->x, own->y);
     const ChartCorner side = SideOfOwnName(chart_, extent_);
-    draft_.Draw(Trace().Rectangle({at.X - OwnHalf, at.Y - OwnHalf, at.X + OwnHalf, at.Y + OwnHalf}),
-                {.Colour = Ink::OwnPoint, .Width = 2});
+    Square(at, Ink::OwnPoint);
     const double below = OwnHalf + Gap + TextSize;
     draft_.Write(
         {own->name},
@@ -212,7 +245,7 @@ class Plotter {
     double baseline = top + LineHeight - 2;
     std::size_t kept = 0;
     for (const ChartSeries& series : chart_.Series()) {
-      const Ink ink = series.isKept ? KeptInk(kept++) : Ink::Curve;
+      const Ink ink = InkOf(series, kept);
       const double at = baseline - TextSize / 3;
       draft_.Draw(Trace().Segment({left + Gap, at}, {left + Gap + LegendSample, at}), StrokeOf(series, ink));
       draft_.Write({series.legend}, {left + 2 * Gap + LegendSample, baseline}, Anchor::Start,

@@ -266,6 +266,7 @@ class ParametersControls : public ProgramForm {
   Label lblVerdicts{*this, "lblVerdicts", "Judgements"};
   List lstVerdicts{*this, "lstVerdicts"};
   Button cmdWouldHold{*this, "cmdWouldHold", "What Would &Hold..."};
+  Button cmdKeepVariant{*this, "cmdKeepVariant", "&Keep as Variant"};
 
   // commands
   Button Command2{*this, "Command2", "OK"};

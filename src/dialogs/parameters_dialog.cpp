@@ -88,6 +88,7 @@ void ParametersDialog::TieCommands() {
   Command3.Click = [this] { ContextHelpHint(program_); };
   cmdCMRR.Click = [this] { Estimate(); };
   cmdWouldHold.Click = [this] { Study(); };
+  cmdKeepVariant.Click = [this] { KeepAsVariant(); };
   lstVerdicts.Click = [this] { GoToVerdict(static_cast<std::size_t>(lstVerdicts.ListIndex())); };
 }
 

@@ -4,9 +4,11 @@
 
 #include "base/number_text.h"
 #include "core/dialog_helpers.h"
+#include "dialogs/compared_designs.h"
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/parameters_fields.h"
 #include "dialogs/would_hold_window.h"
+#include "files/shown_design.h"
 
 namespace orby {
 namespace {
@@ -120,6 +122,13 @@ void ParametersDialog::StudyLater() {
 
 void ParametersDialog::JudgeLater(int row) {
   CallOnScreen([this, row] { lstVerdicts.ClickItem(row); });
+}
+
+void ParametersDialog::KeepAsVariant() {
+  Design kept = program_.project.WorkParms;
+  if (!TakeFields(kept, AsCommitted)) return;
+  const std::string name = KeepVariant(program_, kept).Name;
+  ShowMessage(program_, "The fields are kept as " + name + ". \"Side by Side\" in the menu Study compares them.");
 }
 
 void ParametersDialog::Study() {

@@ -55,7 +55,10 @@ std::string SaveInFormat(Program& program, const std::string& title, const std::
     format = FormatOf(path, formats);
     if (format == nullptr) ShowMessage(program, "The name of the file must end in " + ExtensionsOf(formats) + ".");
   }
-  const auto written = RunTrapped(program, [&] { program.platform.files.ReplaceFile(path, format->bytes()); });
+  const auto written = RunTrapped(program, [&] {
+    if (format->write) return format->write(path);
+    program.platform.files.ReplaceFile(path, format->bytes());
+  });
   return written == StepOutcome::Done ? path : std::string();
 }
 

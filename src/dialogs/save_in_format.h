@@ -14,6 +14,7 @@ struct FileFormat {
   std::string_view name;       // "Drawing"
   std::string_view extension;  // without the point, in lower case
   std::function<std::string()> bytes;
+  std::function<void(const std::string& path)> write{};  // instead of `bytes`, for a format that writes its file itself
 };
 
 // Asks for a name, which starts as `baseName` with the extension of the first format, and replaces the file in one step

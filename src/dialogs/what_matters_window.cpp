@@ -128,16 +128,7 @@ Sketch WhatMattersWindow::TornadoOf(const SheetSize& sheet) const {
   return TornadoSketch(tornado, sheet);
 }
 
-void WhatMattersWindow::Copy() {
-  std::string text;
-  for (int row = 0; row < grdNumbers.Rows(); ++row) {
-    for (int column = 0; column < grdNumbers.Columns(); ++column) {
-      text.append(column == 0 ? "" : "\t").append(grdNumbers.Cell(row, column));
-    }
-    text += LineEnd;
-  }
-  program_.platform.clipboard.SetText(text);
-}
+void WhatMattersWindow::Copy() { program_.platform.clipboard.SetText(grdNumbers.AsText()); }
 
 void ShowWhatMatters(Program& program) {
   WhatMattersWindow window(program);

@@ -27,7 +27,7 @@ class Printer {
   // take a new name.
   virtual std::string PrintPages(const std::vector<std::string>& pages, const std::string& title,
                                  const std::string& fontName) = 0;
-  // Prints each scene on a sheet of its own, as large as it fits.
+  // Prints each scene on a sheet of its own, as large as it fits. Scenes wider than they are high lie across the paper.
   virtual void PrintScenes(const std::vector<Scene>& pages, const std::string& title) = 0;
   // Prints the chart as it is on view on one sheet, below these lines. The first one is the title of the print.
   virtual void PrintChart(const Control& chart, const std::vector<std::string>& heading) = 0;

@@ -105,6 +105,23 @@ bool AskForPdfFile(QPrinter& device, QWidget* parent) {
   return true;
 }
 
+// Turns the paper for pages that are wider than they are high. The next print has it as before.
+class TurnedPaper {
+ public:
+  TurnedPaper(QPrinter& device, const std::vector<Scene>& pages)
+      : device_(device), before_(device.pageLayout().orientation()) {
+    const bool isWide = !pages.empty() && pages.front().Width > pages.front().Height;
+    if (isWide) device_.setPageOrientation(QPageLayout::Landscape);
+  }
+  TurnedPaper(const TurnedPaper&) = delete;
+  TurnedPaper& operator=(const TurnedPaper&) = delete;
+  ~TurnedPaper() { device_.setPageOrientation(before_); }
+
+ private:
+  QPrinter& device_;
+  QPageLayout::Orientation before_;
+};
+
 }  // namespace
 
 bool AskForPaper(QPrinter& device, QWidget* parent) {
@@ -203,6 +220,7 @@ std::string QtPrinter::PrintPages(const std::vector<std::string>& pages, const s
 void QtPrinter::PrintScenes(const std::vector<Scene>& pages, const std::string& title) {
   Job job(*this, title);
   QPrinter& device = job.Device();
+  const TurnedPaper turned(device, pages);
   QPainter painter;
   if (!painter.begin(&device)) throw RuntimeError(error_number::Printer);
   painter.setWorldTransform({});

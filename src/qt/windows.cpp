@@ -31,6 +31,7 @@
 #include <ui_results_window.h>
 #include <ui_settings_dialog.h>
 #include <ui_sheet_window.h>
+#include <ui_side_by_side_window.h>
 #include <ui_signed_report_window.h>
 #include <ui_summary_pane.h>
 #include <ui_text_browser.h>
@@ -116,6 +117,7 @@ constexpr std::array Layouts{
     LayoutEntry{"frmWhatMatters", Make<Ui::frmWhatMatters, DialogWindow>},
     LayoutEntry{"frmWouldHold", Make<Ui::frmWouldHold, DialogWindow>},
     LayoutEntry{"frmHowSure", Make<Ui::frmHowSure, DialogWindow>},
+    LayoutEntry{"frmSideBySide", Make<Ui::frmSideBySide, DialogWindow>},
     LayoutEntry{"frmResource", Make<Ui::frmResource, DialogWindow>},
 };
 

@@ -121,11 +121,13 @@ std::vector<std::string> PrintSheets(const Program& program, std::string_view te
   return sheets.Take();
 }
 
-std::string PrintedName(const Project& project) {
-  const std::string_view name = NameAfterSeparator(project.CurrentFile);
+std::string NameOfFile(std::string_view path) {
+  const std::string_view name = NameAfterSeparator(path);
   const std::size_t point = name.rfind('.');
   return std::string(point == 0 ? name : name.substr(0, point));
 }
+
+std::string PrintedName(const Project& project) { return NameOfFile(project.CurrentFile); }
 
 std::vector<std::string> ChartHeading(const Program& program, const std::string& title) {
   return {title, "File Name: " + DocumentTitle(program.project),

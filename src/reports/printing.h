@@ -20,6 +20,9 @@ std::string JoinedPages(const Session& session, Integer first, Integer last);
 // brackets is on the same sheet as the first line below it.
 std::vector<std::string> PrintSheets(const Program& program, std::string_view text);
 
+// Returns the file name of a path without its folder and extension.
+std::string NameOfFile(std::string_view path);
+
 // Returns the name offered for a PDF file of the project: its file name without the extension.
 std::string PrintedName(const Project& project);
 

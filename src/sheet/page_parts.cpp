@@ -48,6 +48,13 @@ FormulaBox Fitting(FormulaBox box, double room) {
   return Placed(std::move(box), {0, 0}, scale);
 }
 
+PlacedScene InRoom(const Scene& scene, double width, double height) {
+  const double scale = std::min(width / scene.Width, height / scene.Height);
+  FormulaBox box{
+      .Width = scene.Width, .Ascent = 0, .Descent = scene.Height, .Labels = scene.Labels, .Lines = scene.Outlines};
+  return {Placed(std::move(box), {0, 0}, scale), scene.Height * scale};
+}
+
 FormulaBox SignOf(Holding result) {
   constexpr double Size = 8;
   SceneOutline outline;

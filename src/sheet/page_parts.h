@@ -51,6 +51,13 @@ FormulaBox RightAligned(FormulaBox box);
 // Returns the box, made smaller if it is wider than the room.
 FormulaBox Fitting(FormulaBox box, double room);
 
+// Returns a drawing, enlarged or made smaller to fill the room, and its height there.
+struct PlacedScene {
+  FormulaBox Box;
+  double Height = 0;
+};
+PlacedScene InRoom(const Scene& scene, double width, double height);
+
 // Returns the sign of a judgement: a shape of its own for each result.
 FormulaBox SignOf(Holding result);
 

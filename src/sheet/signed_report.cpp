@@ -244,12 +244,9 @@ class ReportPages {
       parts_.AddWrapped(stack, picture.Failure, page_style::Usual, 0, parts_.Across(), 0);
     } else {
       const double room = LargestPicture * (size_.Height - 2 * PageMargin);
-      const Scene& scene = picture.Picture;
-      const double scale = std::min(parts_.Across() / scene.Width, room / scene.Height);
-      FormulaBox box{
-          .Width = scene.Width, .Ascent = 0, .Descent = scene.Height, .Labels = scene.Labels, .Lines = scene.Outlines};
-      stack.AddAt(Placed(std::move(box), {0, 0}, scale), {0, stack.Height()});
-      stack.Space(scene.Height * scale);
+      const PlacedScene placed = InRoom(picture.Picture, parts_.Across(), room);
+      stack.AddAt(placed.Box, {0, stack.Height()});
+      stack.Space(placed.Height);
     }
     PageBlock block = stack.Take();
     block.Before = 14;

@@ -9,6 +9,7 @@
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/project_sheet.h"
 #include "dialogs/sheet_window.h"
+#include "dialogs/side_by_side_window.h"
 #include "dialogs/signed_report_window.h"
 #include "dialogs/what_matters_window.h"
 #include "shell/main_window.h"
@@ -31,6 +32,7 @@ void MainWindow::StudyCommand(StudyItem item) {
     case StudyItem::SignedReport: Run(Trap::Set, [&] { ShowSignedReport(program_); }); break;
     case StudyItem::WhatMatters: Run(Trap::Set, [&] { ShowWhatMatters(program_); }); break;
     case StudyItem::HowSure: Run(Trap::Set, [&] { ShowHowSure(program_, unsavedStudy_); }); break;
+    case StudyItem::SideBySide: Run(Trap::Set, [&] { ShowSideBySide(program_); }); break;
   }
 }
 

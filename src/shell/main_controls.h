@@ -32,7 +32,14 @@ enum class UtilityItem : Integer {
   Backups = 9,
 };
 
-enum class StudyItem : Integer { WhatWouldHold, CalculationSheet, SignedReport, WhatMatters, HowSure };
+enum class StudyItem : Integer {
+  WhatWouldHold = 0,
+  CalculationSheet = 1,
+  SignedReport = 2,
+  WhatMatters = 3,
+  HowSure = 4,
+  SideBySide = 6,
+};
 
 enum class HelpItem : Integer {
   Contents = 0,
@@ -84,10 +91,10 @@ class MainControls : public ProgramForm {
       {"&Settings...", "&Options...", "&Unit Conversions...", "&File Conversion...", ActionArray::Separator,
        "&Clear History Window", CloseHistory, "Co&py History &Window", ActionArray::Separator, "&Backups..."}};
   Menu mnuStudy{*this, "mnuStudy", "&Study"};
-  Actions<StudyItem> mnuStudyItem{
-      *this,
-      "mnuStudyItem",
-      {"&What Would Hold...", "&Calculation Sheet...", "&Signed Report...", "What &Matters...", "&How Sure..."}};
+  Actions<StudyItem> mnuStudyItem{*this,
+                                  "mnuStudyItem",
+                                  {"&What Would Hold...", "&Calculation Sheet...", "&Signed Report...",
+                                   "What &Matters...", "&How Sure...", "", "Side &by Side..."}};
   Menu mnuHelp{*this, "mnuHelp", "&Help"};
   Actions<HelpItem> mnuHelpItem{
       *this,

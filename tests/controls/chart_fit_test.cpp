@@ -110,6 +110,14 @@ TEST_F(AChart, HasALegendIfTheUserWantsItOrACurveIsKept) {
   chart.SetSeries({kept});
   EXPECT_TRUE(chart.HasLegend());
 
+  ChartSeries numbered;
+  numbered.number = 1;
+  numbered.own = ChartPoint{400, 9, "panel 3"};
+  chart.SetSeries({numbered});
+  EXPECT_TRUE(chart.HasLegend());
+  EXPECT_TRUE(HasLegendBelow(chart));
+  EXPECT_GE(WholeExtent(chart).y.upper, 9);
+
   chart.SetSeries({});
   chart.SetLegendShown(true);
   EXPECT_TRUE(chart.HasLegend());

@@ -205,6 +205,12 @@ TEST_F(AGrid, SelectsTheFirstCellAfterItsFixedColumns) {
   EXPECT_EQ(grid.Column(), 1);
 }
 
+TEST_F(AGrid, IsTextForASpreadsheet) {
+  grid.SetRows({{"Length", "6 ft"}, {"Grade", ""}}, 1);
+
+  EXPECT_EQ(grid.AsText(), "Length\t6 ft\r\nGrade\t\r\n");
+}
+
 TEST_F(AGrid, WithoutAHandlerStillChangesItsRowAndText) {
   grid.Change = nullptr;
 

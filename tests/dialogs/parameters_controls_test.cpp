@@ -269,7 +269,7 @@ std::vector<std::string> CaptionsOf(const Control* control) {
 
 TEST_F(ParameterControls, AreAllThereExactlyOnce) {
   std::vector<std::string> expected{"lblVerdicts", "lstVerdicts",  // whose texts are those of the design
-                                    "cmdWouldHold"};
+                                    "cmdWouldHold", "cmdKeepVariant"};
   for (const ControlCase& row : AllControls()) expected.push_back(row.name);
   std::vector<std::string> names;
   for (const Control* control : dialog.Controls()) names.emplace_back(control->Name());

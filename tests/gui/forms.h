@@ -26,6 +26,7 @@
 #include "dialogs/results_window.h"
 #include "dialogs/settings_dialog.h"
 #include "dialogs/sheet_window.h"
+#include "dialogs/side_by_side_window.h"
 #include "dialogs/signed_report_window.h"
 #include "dialogs/text_browser.h"
 #include "dialogs/unit_calculator_window.h"
@@ -95,6 +96,7 @@ inline constexpr std::array FormMakers{
                 static UnsavedStudy unsaved;
                 return std::make_unique<HowSureWindow>(program, unsaved);
               }},
+    FormMaker{"frmSideBySide", Plain<SideBySideWindow>},
     FormMaker{"frmGraph", Plain<GraphWindow>},
     FormMaker{"frmConvert", Plain<ConvertDialog>},
     FormMaker{"frmUnits", Plain<UnitCalculator>},

@@ -36,6 +36,7 @@ const std::set<std::string> Texts{
     "frmSignedReport txtChecker",
     "frmSignedReport txtRevision",
     "frmSignedReport txtRemarks",
+    "frmSideBySide txtName",
     "frmHowSure txtFirst",  // numbers that may be blank, and are read only if they are all of their text
     "frmHowSure txtSecond",
     "frmHowSure txtThird",

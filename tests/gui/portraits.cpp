@@ -45,6 +45,7 @@
 #include "dialogs/results_window.h"
 #include "dialogs/settings_dialog.h"
 #include "dialogs/sheet_window.h"
+#include "dialogs/side_by_side_window.h"
 #include "dialogs/signed_report_window.h"
 #include "dialogs/text_browser.h"
 #include "dialogs/unit_calculator_window.h"
@@ -198,6 +199,7 @@ class Sitting {
     TakeSignedReport();
     TakeWhatMatters();
     TakeHowSure();
+    TakeSideBySide();
     TakeDialog<CostDialog>("cost");
     TakeEstimator();
     TakeOptions();
@@ -389,6 +391,28 @@ class Sitting {
       window.close();
     });
     ShowHowSure(program_, unsavedStudy_);
+  }
+
+  // Takes the project beside variants with other supports and numbers, first two of them, then eight.
+  void TakeSideBySide() {
+    Design variant = program_.project.WorkParms;
+    for (int i = 1; i < 8; ++i) {
+      variant.Place.DepthofCover *= 1.1F;
+      variant.Primary.Length *= 1.06F;
+      variant.Primary.RowSpacing *= 0.95F;
+      KeepVariant(program_, variant);
+      if (i == 1) ShowSides("side-by-side-two");
+    }
+    program_.windows.compared.Variants[1].Name = "Longer bolts in closer rows under the deepest part of the panel";
+    ShowSides("side-by-side");
+    program_.windows.compared = {};
+  }
+  void ShowSides(const std::string& name) {
+    scripts_.Add([&](QDialog& window) {
+      TakePages(photographer_, window, Find<QTabWidget>(window, "tabSide"), name);
+      window.close();
+    });
+    ShowSideBySide(program_);
   }
 
   // Takes a form that this button closes.

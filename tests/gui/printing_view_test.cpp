@@ -68,6 +68,19 @@ std::string NumberedLines(int count) {
   return text;
 }
 
+TEST_F(Printing, LaysWidePagesAcrossThePaper) {
+  PrintToFile();
+  const SceneLabel label{.Text = "Designs side by side", .At = {100, 100}};
+
+  printer.PrintScenes({{.Width = 842, .Height = 595, .Outlines = {}, .Labels = {label}}}, "wide");
+  printer.PrintScenes({{.Width = 595, .Height = 842, .Outlines = {}, .Labels = {label}}}, "upright");
+
+  const QImage wide = Rendered(path, 30);
+  EXPECT_GT(wide.width(), wide.height());
+  const QImage upright = Rendered(folder.filePath("report (2).pdf"), 30);
+  EXPECT_LT(upright.width(), upright.height());
+}
+
 TEST_F(Printing, PrintsEveryLineAsText) {
   PrintToFile();
 
