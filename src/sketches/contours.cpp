@@ -16,7 +16,6 @@ constexpr SpotId Spots = 3;
 struct Step {
   SpotId From = 0;
   SpotId To = 0;
-  auto operator<=>(const Step&) const = default;
 };
 
 // Goes around each cell with the inside on its left, and collects the steps of the contour.
@@ -36,7 +35,7 @@ class Tracer {
 
   // Links the steps to lines: first those that begin somewhere, then the closed ones.
   std::vector<ContourLine> Take() {
-    std::ranges::sort(steps_);
+    std::ranges::sort(steps_, {}, [](const Step& step) { return std::pair(step.From, step.To); });
     isUsed_.assign(steps_.size(), false);
     std::vector<SpotId> ends(steps_.size());
     std::ranges::transform(steps_, ends.begin(), &Step::To);

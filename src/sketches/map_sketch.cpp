@@ -212,17 +212,21 @@ class MapDrafting {
     draft_.Draw(TraceOf(map_.Turn.Lines), TurnLine);
     const ContourLine* longest = LongestOf(map_.Turn.Lines);
     if (longest == nullptr || longest->Points.size() < 2) return;
-    for (const auto& [text, side] : {std::pair(&map_.Turn.Left, 1.0), std::pair(&map_.Turn.Right, -1.0)}) {
-      if (text->empty()) continue;
-      WriteBeside(*longest, *text, [this, side](const ContourLine& line, std::size_t index, double half) {
-        const ScenePoint from = At(line.Points[index > 0 ? index - 1 : 0]);
-        const ScenePoint to = At(line.Points[std::min(index + 1, line.Points.size() - 1)]);
-        const double length = std::max(std::hypot(to.X - from.X, to.Y - from.Y), 1e-9);
-        const ScenePoint left{(to.Y - from.Y) / length * side, (from.X - to.X) / length * side};
-        const ScenePoint at = At(line.Points[index]);
-        return ScenePoint{at.X + left.X * (SideDistance + half), at.Y + left.Y * SideDistance};
-      });
-    }
+    WriteAtSide(*longest, map_.Turn.Left, 1);
+    WriteAtSide(*longest, map_.Turn.Right, -1);
+  }
+
+  // Writes a word on the left of a line, or with -1 on its right.
+  void WriteAtSide(const ContourLine& along, const std::string& text, double side) {
+    if (text.empty()) return;
+    WriteBeside(along, text, [this, side](const ContourLine& line, std::size_t index, double half) {
+      const ScenePoint from = At(line.Points[index > 0 ? index - 1 : 0]);
+      const ScenePoint to = At(line.Points[std::min(index + 1, line.Points.size() - 1)]);
+      const double length = std::max(std::hypot(to.X - from.X, to.Y - from.Y), 1e-9);
+      const ScenePoint left{(to.Y - from.Y) / length * side, (from.X - to.X) / length * side};
+      const ScenePoint at = At(line.Points[index]);
+      return ScenePoint{at.X + left.X * (SideDistance + half), at.Y + left.Y * SideDistance};
+    });
   }
 
   void OwnMark(const ScenePoint& at) {
