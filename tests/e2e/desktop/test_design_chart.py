@@ -1,6 +1,6 @@
 """The chart for the wall: chosen and read out by keys, and its page as a PDF file."""
 
-from orby import DesktopTest, until, words_of
+from orby import DesktopTest, press_keys, until, words_of
 
 
 class DesignChart(DesktopTest):
@@ -14,9 +14,9 @@ class DesignChart(DesktopTest):
         self.assertTrue(chart.label("lblRead").startswith("This design: Depth of Cover "), chart.label("lblRead"))
 
         chart.focus("picChart")
-        run.keys("Right", "Up")
+        press_keys("Right", "Up")
         until(lambda: chart.label("lblRead").startswith("Depth of Cover "), "the point")
-        run.keys("Home")
+        press_keys("Home")
         until(lambda: chart.label("lblRead").startswith("This design: "), "the design")
 
         chart.type("txtAcrossLow", "900000")
