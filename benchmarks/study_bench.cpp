@@ -21,8 +21,8 @@ double SecondsOf(const Act& act) {
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - began).count();
 }
 
-ChartAxis DepthAxis() { return {Depth, EvenValues(200, 1500, 200)}; }
-ChartAxis RatingAxis() { return {Rating, EvenValues(30, 80, 200)}; }
+VariedAxis DepthAxis() { return {Depth, EvenValues(200, 1500, 200)}; }
+VariedAxis RatingAxis() { return {Rating, EvenValues(30, 80, 200)}; }
 
 }  // namespace
 

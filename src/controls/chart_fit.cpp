@@ -5,6 +5,8 @@
 #include <optional>
 #include <tuple>
 
+#include "base/number_text.h"
+
 namespace orby {
 namespace {
 
@@ -124,6 +126,11 @@ std::vector<double> TicksIn(const ChartRange& range, int most) {
     ticks.push_back(scaled((first + i) * multiple));
   }
   return ticks;
+}
+
+std::string TickText(double value, double step) {
+  const double digits = std::pow(10, std::floor(std::log10(step)) - 1);
+  return NumberText(std::round(value / digits) * digits == 0 ? 0.0 : std::round(value / digits) * digits);
 }
 
 }  // namespace orby

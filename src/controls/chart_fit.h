@@ -2,6 +2,7 @@
 // the picture.
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "controls/chart.h"
@@ -48,5 +49,8 @@ ChartCorner SideOfOwnName(const Chart& chart, const ChartExtent& extent);
 // Returns the positions of at most `most` ticks in the range: multiples of 1, 2 or 5 times a power of ten. Requires a
 // range with a size and `most` of at least 2.
 std::vector<double> TicksIn(const ChartRange& range, int most);
+
+// Returns the text of a value between ticks of this distance, without the digits that only its computation has.
+std::string TickText(double value, double step);
 
 }  // namespace orby

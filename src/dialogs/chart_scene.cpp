@@ -4,17 +4,14 @@
 #include <cmath>
 #include <utility>
 
-#include "base/number_text.h"
-#include "base/text.h"
 #include "controls/chart_fit.h"
 #include "dialogs/kept_curves.h"
 
 namespace orby {
 namespace {
 
-constexpr double Margin = 12;        // around everything
-constexpr double Gap = 6;            // between texts and lines
-constexpr double LetterShare = 0.6;  // of the size of a text: the average width of a letter
+constexpr double Margin = 12;  // around everything
+constexpr double Gap = 6;      // between texts and lines
 constexpr double LineHeight = 16;
 constexpr double LineShare = 1.0 / 3;  // of the width of a series, as in the window
 constexpr double TickLength = 5;
@@ -27,16 +24,6 @@ constexpr SceneStroke AxisLine{.Colour = Ink::Text, .Width = 1};
 constexpr SceneStroke GridLine{.Colour = Ink::Muted, .Width = 0.6, .Opacity = 0.7};
 constexpr SceneStroke ReferenceLine{.Colour = Ink::Limit, .Width = 1.5, .IsDashed = true};
 constexpr SceneFill Paper{Ink::Paper};
-
-double WidthOfText(const std::string& text) {
-  return static_cast<double>(CharacterCount(text)) * LetterShare * TextSize;
-}
-
-// Returns the tick's value without the digits that only its computation has.
-std::string TickText(double value, double step) {
-  const double digits = std::pow(10, std::floor(std::log10(step)) - 1);
-  return NumberText(std::round(value / digits) * digits == 0 ? 0.0 : std::round(value / digits) * digits);
-}
 
 // The chart on its sheet: where the plot is, and where values are in it.
 class Plotter {
@@ -82,7 +69,7 @@ class Plotter {
 
   double WidestTickUp() const {
     double widest = 0;
-    for (const std::string& text : TextsOf(ticksY_)) widest = std::max(widest, WidthOfText(text));
+    for (const std::string& text : TextsOf(ticksY_)) widest = std::max(widest, WidthOf(text));
     return widest;
   }
 
@@ -122,7 +109,7 @@ class Plotter {
   // Writes a name over lines, which are faded around it.
   void WriteName(const std::string& name, const ScenePoint& at, Anchor side, double room) {
     constexpr SceneFill Faded{Ink::Paper, 0.85};
-    const double width = std::min(WidthOfText(name), room);
+    const double width = std::min(WidthOf(name), room);
     const double left = side == Anchor::Start ? at.X : side == Anchor::End ? at.X - width : at.X - width / 2;
     draft_.Draw(Trace().Rectangle({left, at.Y - TextSize, left + width, at.Y + 3}), {}, Faded);
     draft_.Write({name}, at, side, room);
@@ -230,7 +217,7 @@ class Plotter {
 
   void Legend() {
     double widest = 0;
-    for (const ChartSeries& series : chart_.Series()) widest = std::max(widest, WidthOfText(series.legend));
+    for (const ChartSeries& series : chart_.Series()) widest = std::max(widest, WidthOf(series.legend));
     const double width = std::min(widest + LegendSample + 3 * Gap, plot_.Width() - 2 * Gap);
     const double height = HeightOfLegend();
     const ChartCorner corner = FreeCorner(chart_, extent_);

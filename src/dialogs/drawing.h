@@ -20,6 +20,9 @@ enum class DrawingCommand : std::uint8_t { Copy, SaveSvg, SavePdf };
 inline constexpr std::array<std::string_view, 3> DrawingCommands{"&Copy as Picture", "Save as &SVG...",
                                                                  "Save as &PDF..."};
 
+// Keys that move over a drawing.
+enum class DrawingKey : std::uint8_t { Left, Right, Up, Down, Home };
+
 class Drawing : public Control {
  public:
   // `title` is the name of the drawing for screen readers and files.
@@ -42,6 +45,9 @@ class Drawing : public Control {
   std::function<Sketch(const SheetSize&)> Make;  // for the sheet
   Event Resize;                                  // the sheet has another size
   std::function<void(DrawingCommand)> Command;
+  // Of drawings that are read out: the pointer is at a place of the sheet, or a key was pressed. Both or none are set.
+  std::function<void(const ScenePoint&)> Point;
+  std::function<void(DrawingKey)> Key;
 
  private:
   void Refresh();

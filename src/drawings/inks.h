@@ -30,6 +30,8 @@ constexpr std::uint32_t InkColour(Ink ink, Ground ground) {
     case Ink::Bad: return isDark ? 0xff8080 : 0xb3261e;
     case Ink::Curve: return isDark ? 0x8c8cff : 0x0000ff;
     case Ink::OwnPoint: return isDark ? 0xff9a5c : 0xb03a00;
+    case Ink::MapLow: return isDark ? 0x3a362c : 0xf7f1cf;
+    case Ink::MapHigh: return isDark ? 0x1f6470 : 0x4aa3b5;
     case Ink::Paper: return isDark ? 0x2b2b2b : 0xffffff;
     case Ink::None: break;
   }

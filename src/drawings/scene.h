@@ -15,8 +15,9 @@ struct ScenePoint {
 };
 
 // The colours of a drawing by what they are for. Text is the colour of texts around the drawing, light or dark.
-// Limit is the colour of suggested values. Good, Doubtful and Bad are those of judgements. The last five are those of
-// charts: the curve, curves kept for comparison, and the point of the design. Paper is the background.
+// Limit is the colour of suggested values. Good, Doubtful and Bad are those of judgements. The next five are those of
+// charts: the curve, curves kept for comparison, and the point of the design. Those of maps go from MapLow to MapHigh;
+// texts are clear on all between. Paper is the background.
 enum class Ink {
   None,
   Paper,
@@ -35,7 +36,9 @@ enum class Ink {
   FirstKept,
   SecondKept,
   ThirdKept,
-  OwnPoint
+  OwnPoint,
+  MapLow,
+  MapHigh
 };
 
 struct PathStep {

@@ -22,11 +22,26 @@ class DrawingBinding : public WidgetBinding<DrawingView, Drawing> {
   }
 
   void Show() override {
+    if (control_.Point && !widget_.Pointed) ReadOut();
     ShowState(widget_, control_);
     widget_.ShowDrawing(control_);
   }
   bool RetainsSize() const override { return true; }
   bool HasOwnMenu() const override { return true; }
+
+ private:
+  // Follows the pointer and the keys.
+  void ReadOut() {
+    widget_.setMouseTracking(true);
+    widget_.Pointed = [this](const ScenePoint& place) {
+      if (!IsUsable(widget_)) return;
+      host_.Act([&] { control_.Point(place); });
+    };
+    widget_.Moved = [this](DrawingKey key) {
+      if (!IsUsable(widget_)) return;
+      host_.Act([&] { control_.Key(key); });
+    };
+  }
 };
 
 }  // namespace

@@ -6,9 +6,12 @@
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
+#include <algorithm>
+#include <array>
 #include <chrono>
 
 #include "qt/boundary.h"
@@ -25,6 +28,16 @@ constexpr std::chrono::milliseconds Delay(30);
 // Units of the scene. A smaller sheet than the smallest one is painted smaller.
 constexpr QSizeF WantedSheet(340, 300);
 constexpr QSizeF LeastSheet(170, 150);
+
+struct MovingKey {
+  int Pressed;
+  DrawingKey Means;
+};
+constexpr std::array<MovingKey, 5> MovingKeys{{{Qt::Key_Left, DrawingKey::Left},
+                                               {Qt::Key_Right, DrawingKey::Right},
+                                               {Qt::Key_Up, DrawingKey::Up},
+                                               {Qt::Key_Down, DrawingKey::Down},
+                                               {Qt::Key_Home, DrawingKey::Home}}};
 
 class DrawingReader : public QAccessibleWidget {
  public:
@@ -91,6 +104,26 @@ void DrawingView::changeEvent(QEvent* event) {
   if (event->type() == QEvent::FontChange) TellSheet();
 }
 
+void DrawingView::TellPlace(const QPointF& at) const {
+  if (drawing_ == nullptr || !Pointed) return;
+  const SheetSize& sheet = drawing_->Sheet();
+  const QRectF target = rect().marginsRemoved({Margin, Margin, Margin, Margin});
+  const double scale = std::min(target.width() / sheet.Width, target.height() / sheet.Height);
+  if (!(scale > 0)) return;
+  const QPointF fromMiddle = (at - target.center()) / scale;
+  Pointed({fromMiddle.x() + sheet.Width / 2, fromMiddle.y() + sheet.Height / 2});
+}
+
+void DrawingView::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) TellPlace(event->position());
+  QWidget::mousePressEvent(event);
+}
+
+void DrawingView::mouseMoveEvent(QMouseEvent* event) {
+  TellPlace(event->position());
+  QWidget::mouseMoveEvent(event);
+}
+
 void DrawingView::paintEvent(QPaintEvent*) {
   if (drawing_ == nullptr) return;
   painted_ = drawing_->Edition();
@@ -120,6 +153,8 @@ void DrawingView::contextMenuEvent(QContextMenuEvent* event) {
 
 void DrawingView::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::Copy) && Chosen) return Chosen(DrawingCommand::Copy);
+  const auto move = std::ranges::find(MovingKeys, event->key(), &MovingKey::Pressed);
+  if (Moved && move != MovingKeys.end()) return Moved(move->Means);
   QWidget::keyPressEvent(event);
 }
 

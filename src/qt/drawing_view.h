@@ -19,6 +19,9 @@ class DrawingView : public QWidget {
 
   std::function<void(const SheetSize&)> Resized;
   std::function<void(DrawingCommand)> Chosen;
+  // Of a drawing that is read out: the pointer is at a place of the sheet, or a key moves over it.
+  std::function<void(const ScenePoint&)> Pointed;
+  std::function<void(DrawingKey)> Moved;
 
   // Returns what the drawing shows, for screen readers.
   QString Words() const;
@@ -32,11 +35,14 @@ class DrawingView : public QWidget {
   void changeEvent(QEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
   // Pixels of a unit of the scene. It grows with the text of the desktop.
   double Scale() const;
   void TellSheet() const;
+  void TellPlace(const QPointF& at) const;
 
   Drawing* drawing_ = nullptr;
   int painted_ = -1;  // edition of the drawing

@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDatabase>
+#include <QPageLayout>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinterInfo>
@@ -133,7 +134,10 @@ bool AskForPaper(QPrinter& device, QWidget* parent) {
 // One document that is being printed, with the margins of a sheet. The print ends with this object.
 class QtPrinter::Job {
  public:
-  Job(QtPrinter& printer, const std::string& title) : device_(printer.Device()), chosenFile_(device_.outputFileName()) {
+  Job(QtPrinter& printer, const std::string& title)
+      : device_(printer.Device()),
+        chosenFile_(device_.outputFileName()),
+        chosenOrientation_(device_.pageLayout().orientation()) {
     const bool toFile = IsFile(device_);
     if (!toFile && QPrinterInfo::defaultPrinter().isNull() && device_.printerName().isEmpty()) {
       throw RuntimeError(error_number::Printer);
@@ -142,9 +146,14 @@ class QtPrinter::Job {
     device_.setPageMargins(Margins, QPageLayout::Millimeter);
     if (toFile && !printer.mayReplace_) device_.setOutputFileName(NewName(chosenFile_));
   }
+  // Turns the paper as it is best for a scene, until the print ends.
+  void TurnFor(const Scene& scene) {
+    if (scene.Width > scene.Height) device_.setPageOrientation(QPageLayout::Landscape);
+  }
   Job(const Job&) = delete;
   Job& operator=(const Job&) = delete;
   ~Job() {
+    if (device_.pageLayout().orientation() != chosenOrientation_) device_.setPageOrientation(chosenOrientation_);
     if (device_.outputFileName() != chosenFile_) device_.setOutputFileName(chosenFile_);
   }
 
@@ -154,6 +163,7 @@ class QtPrinter::Job {
  private:
   QPrinter& device_;
   QString chosenFile_;
+  QPageLayout::Orientation chosenOrientation_;
 };
 
 QPrinter& QtPrinter::Device() {
@@ -219,6 +229,7 @@ std::string QtPrinter::PrintPages(const std::vector<std::string>& pages, const s
 
 void QtPrinter::PrintScenes(const std::vector<Scene>& pages, const std::string& title) {
   Job job(*this, title);
+  if (!pages.empty()) job.TurnFor(pages.front());
   QPrinter& device = job.Device();
   const TurnedPaper turned(device, pages);
   QPainter painter;

@@ -17,6 +17,7 @@
 #include <ui_convert_dialog.h>
 #include <ui_cost_dialog.h>
 #include <ui_description_dialog.h>
+#include <ui_design_chart_window.h>
 #include <ui_disclaimer.h>
 #include <ui_estimator_dialog.h>
 #include <ui_font_dialog.h>
@@ -115,6 +116,7 @@ constexpr std::array Layouts{
     LayoutEntry{"frmSheet", Make<Ui::frmSheet, DialogWindow>},
     LayoutEntry{"frmSignedReport", Make<Ui::frmSignedReport, DialogWindow>},
     LayoutEntry{"frmWhatMatters", Make<Ui::frmWhatMatters, DialogWindow>},
+    LayoutEntry{"frmDesignChart", Make<Ui::frmDesignChart, DialogWindow>},
     LayoutEntry{"frmWouldHold", Make<Ui::frmWouldHold, DialogWindow>},
     LayoutEntry{"frmHowSure", Make<Ui::frmHowSure, DialogWindow>},
     LayoutEntry{"frmSideBySide", Make<Ui::frmSideBySide, DialogWindow>},

@@ -10,11 +10,6 @@ namespace {
 constexpr NumberPattern EffectPattern{"0.000"};
 constexpr std::string_view NoEffectText = "--";
 
-std::string_view StateText(Holding result) {
-  constexpr std::array<std::string_view, 4> States{"holds", "to check", "cannot be computed", "short"};
-  return States.at(static_cast<std::size_t>(result));
-}
-
 // Returns the range with other ends. Its steps stay, unless it is narrower than some of them.
 VariedRange Between(VariedRange range, Single low, Single high) {
   constexpr int Finest = 100'000;
@@ -42,6 +37,11 @@ std::vector<VariedRange> RangesOf(const Design& design, double share, const Give
 }
 
 }  // namespace
+
+std::string_view StateText(Holding result) {
+  constexpr std::array<std::string_view, 4> States{"holds", "to check", "cannot be computed", "short"};
+  return States.at(static_cast<std::size_t>(result));
+}
 
 FigureEffects EffectsOn(const Design& design, const Catalogs& catalogs, const StudiedFigure& figure, double share,
                         const GivenRanges& ranges) {

@@ -60,6 +60,9 @@ std::string NameOf(const StudiedFigure& figure, UnitSystem units);
 // short".
 std::vector<std::string> TurnLines(const NumberEffect& effect, UnitSystem units);
 
+// Returns the result of a judgement within a sentence: "holds", "to check", "cannot be computed" or "short".
+std::string_view StateText(Holding result);
+
 // Returns a change of a judgement: "Actual PSUP: holds up to 712 ft, then short".
 std::string TurnText(const TurningPoint& turn, std::string_view unit);
 

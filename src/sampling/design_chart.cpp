@@ -1,6 +1,7 @@
 #include "sampling/design_chart.h"
 
 #include <algorithm>
+#include <functional>
 #include <numeric>
 
 #include "base/all_cores.h"
@@ -8,8 +9,15 @@
 namespace orby {
 namespace {
 
-bool LetsChosenHold(const StudiedVerdict& judged, Holding result) {
-  return result == Holding::Holds || (result == Holding::Check && judged.What == Aspect::BoltLength);
+// Calls `fillRow` for each row on all threads, until the chart is cancelled.
+void FillRows(std::size_t rows, const std::function<void(std::size_t)>& fillRow, unsigned threads,
+              ChartProgress* progress) {
+  const auto fill = [&](std::size_t row, std::size_t) {
+    if (progress != nullptr && progress->IsCancelled) return;
+    fillRow(row);
+    if (progress != nullptr) ++progress->RowsDone;
+  };
+  InPieces(rows, 1, fill, threads);
 }
 
 // Searches the chosen number of one row of points.
@@ -52,7 +60,27 @@ class NumberSearch {
   long boldest_;
 };
 
+// Returns the share of the way at which the judgement is no longer what it is at the start.
+double TurnBetween(VariedDesign& varied, const StudiedVerdict& judged, const SingleField& field, Single from, Single to,
+                   bool holdsAtStart) {
+  constexpr int Halvings = 10;
+  double before = 0;
+  double after = 1;
+  for (int i = 0; i < Halvings; ++i) {
+    const double middle = (before + after) / 2;
+    varied.Set(field, ToSingle(std::lerp(static_cast<double>(from), static_cast<double>(to), middle)));
+    varied.Refresh();
+    (LetsChosenHold(judged, varied.ResultOf(judged)) == holdsAtStart ? before : after) = middle;
+  }
+  varied.Set(field, from);
+  return (before + after) / 2;
+}
+
 }  // namespace
+
+bool LetsChosenHold(const StudiedVerdict& judged, Holding result) {
+  return result == Holding::Holds || (result == Holding::Check && judged.What == Aspect::BoltLength);
+}
 
 std::vector<Single> EvenValues(Single from, Single to, std::size_t count) {
   std::vector<Single> values(count);
@@ -64,10 +92,11 @@ std::vector<Single> EvenValues(Single from, Single to, std::size_t count) {
 }
 
 FigureChart ChartFigure(const Design& design, const Catalogs& catalogs, const StudiedFigure& figure,
-                        const StudiedVerdict& judged, const ChartAxis& x, const ChartAxis& y, unsigned threads) {
+                        const StudiedVerdict& judged, const VariedAxis& x, const VariedAxis& y, unsigned threads,
+                        ChartProgress* progress) {
   const std::size_t width = x.Values.size();
   FigureChart chart{ChartGrid<FigureValue>(width * y.Values.size()), ChartGrid<Holding>(width * y.Values.size())};
-  const auto fillRow = [&](std::size_t row, std::size_t) {
+  const auto fillRow = [&](std::size_t row) {
     VariedDesign varied(design, catalogs);
     varied.Set(y.Field, y.Values[row]);
     for (std::size_t column = 0; column < width; ++column) {
@@ -77,17 +106,42 @@ FigureChart ChartFigure(const Design& design, const Catalogs& catalogs, const St
       chart.Results[row * width + column] = varied.ResultOf(judged);
     }
   };
-  InPieces(y.Values.size(), 1, fillRow, threads);
+  FillRows(y.Values.size(), fillRow, threads, progress);
   return chart;
+}
+
+ChartTurns FindTurns(const Design& design, const Catalogs& catalogs, const StudiedVerdict& judged,
+                     const ChartGrid<Holding>& results, const VariedAxis& x, const VariedAxis& y, unsigned threads) {
+  const std::size_t width = x.Values.size();
+  const std::size_t height = y.Values.size();
+  ChartTurns turns{ChartGrid<double>(results.size()), ChartGrid<double>(results.size())};
+  const auto holdsAt = [&](std::size_t place) { return LetsChosenHold(judged, results[place]); };
+  const auto fillRow = [&](std::size_t row) {
+    VariedDesign varied(design, catalogs);
+    varied.Set(y.Field, y.Values[row]);
+    for (std::size_t column = 0; column < width; ++column) {
+      const std::size_t place = row * width + column;
+      const bool holds = holdsAt(place);
+      varied.Set(x.Field, x.Values[column]);
+      if (column + 1 < width && holdsAt(place + 1) != holds) {
+        turns.ToNextX[place] = TurnBetween(varied, judged, x.Field, x.Values[column], x.Values[column + 1], holds);
+      }
+      if (row + 1 < height && holdsAt(place + width) != holds) {
+        turns.ToNextY[place] = TurnBetween(varied, judged, y.Field, y.Values[row], y.Values[row + 1], holds);
+      }
+    }
+  };
+  FillRows(height, fillRow, threads, nullptr);
+  return turns;
 }
 
 ChartGrid<std::optional<Single>> ChartNumberThatHolds(const Design& design, const Catalogs& catalogs,
                                                       std::span<const StudiedVerdict> judged,
-                                                      const ChosenNumber& chosen, const ChartAxis& x,
-                                                      const ChartAxis& y, unsigned threads) {
+                                                      const ChosenNumber& chosen, const VariedAxis& x,
+                                                      const VariedAxis& y, unsigned threads, ChartProgress* progress) {
   const std::size_t width = x.Values.size();
   ChartGrid<std::optional<Single>> grid(width * y.Values.size());
-  const auto fillRow = [&](std::size_t row, std::size_t) {
+  const auto fillRow = [&](std::size_t row) {
     NumberSearch search(design, catalogs, judged, chosen);
     search.Set(y.Field, y.Values[row]);
     for (std::size_t column = 0; column < width; ++column) {
@@ -95,7 +149,7 @@ ChartGrid<std::optional<Single>> ChartNumberThatHolds(const Design& design, cons
       grid[row * width + column] = search.Find();
     }
   };
-  InPieces(y.Values.size(), 1, fillRow, threads);
+  FillRows(y.Values.size(), fillRow, threads, progress);
   return grid;
 }
 

@@ -6,6 +6,7 @@
 
 #include "base/text.h"
 #include "reports/verdict_text.h"
+#include "sheet/cell_grid.h"
 #include "sheet/page_parts.h"
 #include "sheet/sheet_blocks.h"
 #include "sheet/sheet_content.h"
@@ -20,56 +21,6 @@ constexpr double LargestPicture = 0.45;  // of the height of the text
 // The sign of a judgement stands left of it.
 constexpr std::array<PageColumn, 4> JudgedColumns{
     {{0.03, 0.365}, {0.37, 0.475, Anchor::End}, {0.495, 0.71}, {0.72, 1}}};
-
-// Draws cells below each other in rows, with lines around them.
-class CellGrid {
- public:
-  struct Cell {
-    std::string Label;
-    std::string Text;
-    double Share = 1;    // of the width
-    double Room = 12.8;  // at least, for the text
-  };
-
-  explicit CellGrid(const PageParts& parts) : parts_(parts) {}
-
-  void Row(const std::vector<Cell>& cells) {
-    constexpr double Inset = 5;
-    std::vector<PageBlock> made;
-    double height = 0;
-    for (const Cell& cell : cells) {
-      const double room = cell.Share * parts_.Across() - 2 * Inset;
-      Stack stack;
-      parts_.AddWrapped(stack, cell.Label, page_style::Small, 0, room, 0);
-      const double above = stack.Height();
-      parts_.AddWrapped(stack, cell.Text, page_style::Usual, 0, room, 2);
-      height = std::max({height, stack.Height(), above + cell.Room});
-      made.push_back(stack.Take());
-    }
-    height += 2 * Inset;
-    const double top = stack_.Height();
-    FormulaBox lines;
-    double left = 0;
-    for (std::size_t i = 0; i < cells.size(); ++i) {
-      stack_.AddAt(std::move(made[i].Box), {left + Inset, top + Inset});
-      lines.Lines.push_back(RuleBetween({left, top}, {left, top + height}, LineWidth));
-      left += cells[i].Share * parts_.Across();
-    }
-    lines.Lines.push_back(RuleBetween({left, top}, {left, top + height}, LineWidth));
-    lines.Lines.push_back(RuleBetween({0, top}, {left, top}, LineWidth));
-    lines.Lines.push_back(RuleBetween({0, top + height}, {left, top + height}, LineWidth));
-    stack_.AddAt(std::move(lines), {0, 0});
-    stack_.Space(height);
-  }
-
-  PageBlock Take() { return stack_.Take(); }
-
- private:
-  static constexpr double LineWidth = 0.7;
-
-  const PageParts& parts_;
-  Stack stack_;
-};
 
 // Takes the results of a section from WriteParts.
 class ResultRows {

@@ -5,6 +5,7 @@
 #include "core/dialog_helpers.h"
 #include "dialogs/cost_dialog.h"
 #include "dialogs/description_dialog.h"
+#include "dialogs/design_chart_window.h"
 #include "dialogs/how_sure_window.h"
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/project_sheet.h"
@@ -31,6 +32,7 @@ void MainWindow::StudyCommand(StudyItem item) {
     case StudyItem::CalculationSheet: Run(Trap::Set, [&] { ShowSheet(program_, SheetOfProject(program_)); }); break;
     case StudyItem::SignedReport: Run(Trap::Set, [&] { ShowSignedReport(program_); }); break;
     case StudyItem::WhatMatters: Run(Trap::Set, [&] { ShowWhatMatters(program_); }); break;
+    case StudyItem::DesignChart: Run(Trap::Set, [&] { ShowDesignChart(program_); }); break;
     case StudyItem::HowSure: Run(Trap::Set, [&] { ShowHowSure(program_, unsavedStudy_); }); break;
     case StudyItem::SideBySide: Run(Trap::Set, [&] { ShowSideBySide(program_); }); break;
   }

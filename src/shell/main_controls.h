@@ -39,6 +39,7 @@ enum class StudyItem : Integer {
   WhatMatters = 3,
   HowSure = 4,
   SideBySide = 6,
+  DesignChart = 7,
 };
 
 enum class HelpItem : Integer {
@@ -94,7 +95,7 @@ class MainControls : public ProgramForm {
   Actions<StudyItem> mnuStudyItem{*this,
                                   "mnuStudyItem",
                                   {"&What Would Hold...", "&Calculation Sheet...", "&Signed Report...",
-                                   "What &Matters...", "&How Sure...", "", "Side &by Side..."}};
+                                   "What &Matters...", "&How Sure...", "", "Side &by Side...", "&Design Chart..."}};
   Menu mnuHelp{*this, "mnuHelp", "&Help"};
   Actions<HelpItem> mnuHelpItem{
       *this,

@@ -14,16 +14,16 @@ constexpr double ArrowLength = 6;
 constexpr double ArrowWidth = 2.2;
 constexpr double LegendMark = 14;
 
-double WidthOf(const std::string& text, double size) {
-  return static_cast<double>(CharacterCount(text)) * LetterWidth * size;
-}
-
 // Room that most traces and drawings need. Growing takes longer than all the rest of a drawing.
 constexpr std::size_t FirstSteps = 12;
 constexpr std::size_t FirstOutlines = 48;
 constexpr std::size_t FirstLabels = 32;
 
 }  // namespace
+
+double WidthOf(const std::string& text, double size) {
+  return static_cast<double>(CharacterCount(text)) * LetterWidth * size;
+}
 
 PathStep& Trace::Add(PathStep::Kind kind, double x, double y) {
   if (steps_.capacity() == 0) steps_.reserve(FirstSteps);

@@ -61,6 +61,9 @@ class Trace {
 inline constexpr double TextSize = 12;
 inline constexpr double LegendLine = 16;  // height
 
+// Returns about how wide a text is, whatever the font.
+double WidthOf(const std::string& text, double size = TextSize);
+
 // Texts of one label, the longest first. The first one that fits is used. If none fits, the last one gets smaller.
 using Wordings = std::initializer_list<std::string>;
 

@@ -42,5 +42,15 @@ TEST(Inks, OfRockAndBoltsAreAsClearAsAMark) {
   }
 }
 
+// Colours between both ends are mixtures of them.
+TEST(Inks, OfMapsLetTextsBeReadOnAllOfThem) {
+  for (const Ground ground : {Ground::Light, Ground::Dark}) {
+    for (const Ink ink : {Ink::MapLow, Ink::MapHigh}) {
+      EXPECT_GE(Contrast(InkColour(ink, ground), InkColour(Ink::Text, ground)), 4.5);
+    }
+    EXPECT_GE(Contrast(InkColour(Ink::MapLow, ground), InkColour(Ink::MapHigh, ground)), 1.7);
+  }
+}
+
 }  // namespace
 }  // namespace orby::test

@@ -13,6 +13,7 @@
 #include "dialogs/convert_dialog.h"
 #include "dialogs/cost_dialog.h"
 #include "dialogs/description_dialog.h"
+#include "dialogs/design_chart_window.h"
 #include "dialogs/disclaimer.h"
 #include "dialogs/estimator_dialog.h"
 #include "dialogs/font_dialog.h"
@@ -91,6 +92,7 @@ inline constexpr std::array FormMakers{
               }},
     FormMaker{"frmSignedReport", Plain<SignedReportWindow>},
     FormMaker{"frmWhatMatters", Plain<WhatMattersWindow>},
+    FormMaker{"frmDesignChart", Plain<DesignChartWindow>},
     FormMaker{"frmHowSure",
               [](Program& program) -> std::unique_ptr<Form> {
                 static UnsavedStudy unsaved;

@@ -80,8 +80,9 @@ INSTANTIATE_TEST_SUITE_P(
                     Keys{Qt::Key_I, Qt::Key_C, {}, "mnuEditItem", 2}, Keys{Qt::Key_U, Qt::Key_C, {}, "mnuUtilItem", 5},
                     Keys{Qt::Key_U, Qt::Key_W, {}, "mnuUtilItem", 6}, Keys{Qt::Key_U, Qt::Key_P, {}, "mnuUtilItem", 7},
                     Keys{Qt::Key_H, Qt::Key_C, {}, "mnuHelpItem", 0}, Keys{Qt::Key_H, Qt::Key_I, {}, "mnuHelpItem", 1},
-                    Keys{Qt::Key_H, Qt::Key_P, {}, "mnuHelpItem", 2},
-                    Keys{Qt::Key_S, Qt::Key_W, {}, "mnuStudyItem", 0}),
+                    Keys{Qt::Key_H, Qt::Key_P, {}, "mnuHelpItem", 2}, Keys{Qt::Key_S, Qt::Key_W, {}, "mnuStudyItem", 0},
+                    Keys{Qt::Key_S, Qt::Key_C, {}, "mnuStudyItem", 1},
+                    Keys{Qt::Key_S, Qt::Key_D, {}, "mnuStudyItem", 7}),
     NameOfKeys);
 
 INSTANTIATE_TEST_SUITE_P(Shortcuts, MainKeys,

@@ -31,6 +31,7 @@
 #include "dialogs/cost_dialog.h"
 #include "dialogs/curve_command.h"
 #include "dialogs/description_dialog.h"
+#include "dialogs/design_chart_window.h"
 #include "dialogs/disclaimer.h"
 #include "dialogs/estimator_dialog.h"
 #include "dialogs/font_dialog.h"
@@ -200,6 +201,7 @@ class Sitting {
     TakeWhatMatters();
     TakeHowSure();
     TakeSideBySide();
+    TakeDesignChart();
     TakeDialog<CostDialog>("cost");
     TakeEstimator();
     TakeOptions();
@@ -334,6 +336,28 @@ class Sitting {
       window.close();
     });
     ShowWhatMatters(program_);
+  }
+
+  // Takes the map of a figure, the number that holds with a point that is read out, and a fault.
+  void TakeDesignChart() {
+    scripts_.Add([&](QDialog& window) {
+      photographer_.Take(window, "design-chart");
+      Find<QComboBox>(window, "cmbSubject").setCurrentText("Greatest Roof Bolt Row Spacing that holds");
+      Settle();
+      while (!Find<QPushButton>(window, "cmdPrint").isEnabled()) {
+        platform_.clock.Pass();
+        Settle();
+      }
+      auto& chart = Find<QWidget>(window, "picChart");
+      chart.setFocus();
+      for (int i = 0; i < 9; ++i) QTest::keyClick(&chart, i % 3 == 0 ? Qt::Key_Up : Qt::Key_Right);
+      Settle();
+      photographer_.Take(window, "design-chart-number");
+      TypeInto(window, "txtUpLow", "90");
+      photographer_.Take(window, "design-chart-fault");
+      window.close();
+    });
+    ShowDesignChart(program_);
   }
 
   void TakeSignedReport() {

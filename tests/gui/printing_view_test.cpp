@@ -226,6 +226,20 @@ TEST_F(Printing, LeavesAMarginAroundFullSheets) {
   EXPECT_GE(sheet.height() - 1 - ink.bottom(), 149);
 }
 
+TEST_F(Printing, TurnsThePaperForAWidePageOnly) {
+  PrintToFile();
+  const Scene wide{.Width = 842, .Height = 595, .Outlines = {}, .Labels = {{.Text = "the wall", .At = {400, 300}}}};
+  const Scene upright{.Width = 595, .Height = 842, .Outlines = {}, .Labels = {{.Text = "a sheet", .At = {300, 400}}}};
+
+  printer.PrintScenes({wide}, "chart");
+  printer.PrintScenes({upright}, "sheet");
+
+  const QImage chart = Rendered(path, 20);
+  const QImage sheet = Rendered(folder.filePath("report (2).pdf"), 20);
+  EXPECT_GT(chart.width(), chart.height());
+  EXPECT_GT(sheet.height(), sheet.width());
+}
+
 TEST_F(Printing, UsesANewNameIfTheUserDidNotConfirmTheReplacement) {
   PrintToFile();
   PrintText(program, "The first report\r\n");

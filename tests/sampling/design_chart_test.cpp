@@ -17,8 +17,8 @@ const SingleField BoltsField([](auto& d) { return &d.Primary.BoltsperRow; });
 
 TEST(DesignChart, HasTheFigureAndTheJudgementOfEachPoint) {
   const Catalogs lists = BuiltInLists();
-  const ChartAxis depths{DepthField, EvenValues(200, 1000, 9)};
-  const ChartAxis ratings{RatingField, EvenValues(35, 65, 7)};
+  const VariedAxis depths{DepthField, EvenValues(200, 1000, 9)};
+  const VariedAxis ratings{RatingField, EvenValues(35, 65, 7)};
 
   const FigureChart chart =
       ChartFigure(FullDesign(), lists, *FigureWithKey("suggested-psup"), JudgedPsup, depths, ratings);
@@ -44,8 +44,8 @@ TEST(DesignChart, HasTheFigureAndTheJudgementOfEachPoint) {
 // Compares with a search through all spacings.
 TEST(DesignChart, FindsTheGreatestSpacingThatHolds) {
   const Catalogs lists = BuiltInLists();
-  const ChartAxis depths{DepthField, EvenValues(200, 1400, 13)};
-  const ChartAxis ratings{RatingField, EvenValues(30, 70, 11)};
+  const VariedAxis depths{DepthField, EvenValues(200, 1400, 13)};
+  const VariedAxis ratings{RatingField, EvenValues(30, 70, 11)};
   const ChosenNumber spacing{SpacingField, 2, 6, {10}};
 
   const auto chart = ChartNumberThatHolds(FullDesign(), lists, OnPsup, spacing, depths, ratings);
@@ -73,8 +73,8 @@ TEST(DesignChart, FindsTheGreatestSpacingThatHolds) {
 
 TEST(DesignChart, FindsTheLeastNumberThatHolds) {
   const Catalogs lists = BuiltInLists();
-  const ChartAxis depth{DepthField, {400}};
-  const ChartAxis rating{RatingField, {45}};
+  const VariedAxis depth{DepthField, {400}};
+  const VariedAxis rating{RatingField, {45}};
   const ChosenNumber bolts{BoltsField, 1, 10, {1}, false};
 
   // One bolt in a row has a PSUP of 2.485; the suggested one is 7.607.
@@ -84,8 +84,8 @@ TEST(DesignChart, FindsTheLeastNumberThatHolds) {
 
 TEST(DesignChart, NeedsAllJudgementsToHold) {
   const Catalogs lists = BuiltInLists();
-  const ChartAxis depth{DepthField, {400}};
-  const ChartAxis rating{RatingField, {45}};
+  const VariedAxis depth{DepthField, {400}};
+  const VariedAxis rating{RatingField, {45}};
   const ChosenNumber span{SpanField, 50, 80, {1}};
   const StudiedVerdict both[] = {JudgedPsup, {Opening::Primary, Aspect::Span}};
 
@@ -98,13 +98,58 @@ TEST(DesignChart, NeedsAllJudgementsToHold) {
 
 TEST(DesignChart, OnSeveralThreadsIsTheSame) {
   const Catalogs lists = BuiltInLists();
-  const ChartAxis depths{DepthField, EvenValues(200, 1400, 40)};
-  const ChartAxis ratings{RatingField, EvenValues(30, 70, 40)};
+  const VariedAxis depths{DepthField, EvenValues(200, 1400, 40)};
+  const VariedAxis ratings{RatingField, EvenValues(30, 70, 40)};
   const ChosenNumber spacing{SpacingField, 2, 6, {10}};
 
   const auto alone = ChartNumberThatHolds(FullDesign(), lists, OnPsup, spacing, depths, ratings, 1);
 
   EXPECT_EQ(ChartNumberThatHolds(FullDesign(), lists, OnPsup, spacing, depths, ratings, 3), alone);
+}
+
+// Between all neighbours that differ, the judgement is another one just before and just after the turn.
+TEST(DesignChart, FindsWhereAJudgementTurnsBetweenPoints) {
+  const Catalogs lists = BuiltInLists();
+  const VariedAxis depths{DepthField, EvenValues(200, 1000, 9)};
+  const VariedAxis ratings{RatingField, EvenValues(35, 65, 7)};
+  const FigureChart chart =
+      ChartFigure(FullDesign(), lists, *FigureWithKey("suggested-psup"), JudgedPsup, depths, ratings);
+
+  const ChartTurns turns = FindTurns(FullDesign(), lists, JudgedPsup, chart.Results, depths, ratings);
+
+  int found = 0;
+  for (std::size_t row = 0; row < 7; ++row) {
+    for (std::size_t column = 0; column < 8; ++column) {
+      const double share = turns.ToNextX[row * 9 + column];
+      ASSERT_EQ(share > 0, chart.Results[row * 9 + column] != chart.Results[row * 9 + column + 1]);
+      if (share == 0) continue;
+      ++found;
+      VariedDesign varied(FullDesign(), lists);
+      varied.Set(RatingField, ratings.Values[row]);
+      for (const auto& [step, result] : {std::pair(-0.001, chart.Results[row * 9 + column]),
+                                         std::pair(0.001, chart.Results[row * 9 + column + 1])}) {
+        varied.Set(DepthField, static_cast<Single>(200 + 100 * (static_cast<double>(column) + share + step)));
+        varied.Refresh();
+        EXPECT_EQ(varied.ResultOf(JudgedPsup), result) << row << " " << column;
+      }
+    }
+  }
+  EXPECT_GT(found, 2);
+}
+
+TEST(DesignChart, EndsWhenItIsCancelled) {
+  const Catalogs lists = BuiltInLists();
+  const VariedAxis depths{DepthField, EvenValues(200, 1000, 9)};
+  const VariedAxis ratings{RatingField, EvenValues(35, 65, 7)};
+  ChartProgress progress;
+  progress.IsCancelled = true;
+
+  ChartFigure(FullDesign(), lists, *FigureWithKey("suggested-psup"), JudgedPsup, depths, ratings, 0, &progress);
+  EXPECT_EQ(progress.RowsDone, 0U);
+  progress.IsCancelled = false;
+  ChartFigure(FullDesign(), lists, *FigureWithKey("suggested-psup"), JudgedPsup, depths, ratings, 0, &progress);
+
+  EXPECT_EQ(progress.RowsDone, 7U);
 }
 
 TEST(EvenValues, HaveBothEnds) { EXPECT_THAT(EvenValues(1, 2, 5), ElementsAre(1, 1.25F, 1.5F, 1.75F, 2)); }

@@ -72,6 +72,14 @@ class TypingElsewhere(NumberFieldsTest):
         self.leave("cmdClose")
         self.quit()
 
+    def test_in_the_design_chart(self):
+        run = self.start_main()
+        run.keys("alt+s", "d")
+        self.enter(run, run.window("Design Chart"), "frmDesignChart")
+        self.fill_fields()
+        self.leave("cmdClose")
+        self.quit()
+
     def test_in_the_settings_and_in_the_font_dialog(self):
         run = self.start_main()
         run.keys("alt+u", "s")
