@@ -17,6 +17,7 @@
 #include <ui_convert_dialog.h>
 #include <ui_cost_dialog.h>
 #include <ui_description_dialog.h>
+#include <ui_designs_window.h>
 #include <ui_disclaimer.h>
 #include <ui_estimator_dialog.h>
 #include <ui_font_dialog.h>
@@ -116,6 +117,7 @@ constexpr std::array Layouts{
     LayoutEntry{"frmWhatMatters", Make<Ui::frmWhatMatters, DialogWindow>},
     LayoutEntry{"frmWouldHold", Make<Ui::frmWouldHold, DialogWindow>},
     LayoutEntry{"frmHowSure", Make<Ui::frmHowSure, DialogWindow>},
+    LayoutEntry{"frmDesigns", Make<Ui::frmDesigns, DialogWindow>},
     LayoutEntry{"frmResource", Make<Ui::frmResource, DialogWindow>},
 };
 

@@ -5,6 +5,7 @@
 #include "core/dialog_helpers.h"
 #include "dialogs/cost_dialog.h"
 #include "dialogs/description_dialog.h"
+#include "dialogs/designs_window.h"
 #include "dialogs/how_sure_window.h"
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/project_sheet.h"
@@ -31,7 +32,14 @@ void MainWindow::StudyCommand(StudyItem item) {
     case StudyItem::SignedReport: Run(Trap::Set, [&] { ShowSignedReport(program_); }); break;
     case StudyItem::WhatMatters: Run(Trap::Set, [&] { ShowWhatMatters(program_); }); break;
     case StudyItem::HowSure: Run(Trap::Set, [&] { ShowHowSure(program_, unsavedStudy_); }); break;
+    case StudyItem::DesignsInFolder: ShowDesigns(); break;
   }
+}
+
+void MainWindow::ShowDesigns() {
+  DesignsWindow designs(program_);
+  ShowForm(program_, designs);
+  if (designs.Chosen) OpenFile(*designs.Chosen, Trap::Set);
 }
 
 // Returns the dialog with the project in it. Returns nothing after a message if the project cannot be shown, as with

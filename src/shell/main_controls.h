@@ -32,7 +32,7 @@ enum class UtilityItem : Integer {
   Backups = 9,
 };
 
-enum class StudyItem : Integer { WhatWouldHold, CalculationSheet, SignedReport, WhatMatters, HowSure };
+enum class StudyItem : Integer { WhatWouldHold, CalculationSheet, SignedReport, WhatMatters, HowSure, DesignsInFolder };
 
 enum class HelpItem : Integer {
   Contents = 0,
@@ -84,10 +84,10 @@ class MainControls : public ProgramForm {
       {"&Settings...", "&Options...", "&Unit Conversions...", "&File Conversion...", ActionArray::Separator,
        "&Clear History Window", CloseHistory, "Co&py History &Window", ActionArray::Separator, "&Backups..."}};
   Menu mnuStudy{*this, "mnuStudy", "&Study"};
-  Actions<StudyItem> mnuStudyItem{
-      *this,
-      "mnuStudyItem",
-      {"&What Would Hold...", "&Calculation Sheet...", "&Signed Report...", "What &Matters...", "&How Sure..."}};
+  Actions<StudyItem> mnuStudyItem{*this,
+                                  "mnuStudyItem",
+                                  {"&What Would Hold...", "&Calculation Sheet...", "&Signed Report...",
+                                   "What &Matters...", "&How Sure...", "Designs in a &Folder..."}};
   Menu mnuHelp{*this, "mnuHelp", "&Help"};
   Actions<HelpItem> mnuHelpItem{
       *this,

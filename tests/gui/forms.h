@@ -13,6 +13,7 @@
 #include "dialogs/convert_dialog.h"
 #include "dialogs/cost_dialog.h"
 #include "dialogs/description_dialog.h"
+#include "dialogs/designs_window.h"
 #include "dialogs/disclaimer.h"
 #include "dialogs/estimator_dialog.h"
 #include "dialogs/font_dialog.h"
@@ -95,6 +96,7 @@ inline constexpr std::array FormMakers{
                 static UnsavedStudy unsaved;
                 return std::make_unique<HowSureWindow>(program, unsaved);
               }},
+    FormMaker{"frmDesigns", Plain<DesignsWindow>},
     FormMaker{"frmGraph", Plain<GraphWindow>},
     FormMaker{"frmConvert", Plain<ConvertDialog>},
     FormMaker{"frmUnits", Plain<UnitCalculator>},

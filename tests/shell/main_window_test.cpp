@@ -29,8 +29,9 @@ TEST_F(Menus, HaveTheirEntriesInOrder) {
       Captions(window.mnuUtilItem),
       ElementsAre("&Settings...", "&Options...", "&Unit Conversions...", "&File Conversion...", "-",
                   "&Clear History Window", "Close History &Window", "Co&py History &Window", "-", "&Backups..."));
-  EXPECT_THAT(Captions(window.mnuStudyItem), ElementsAre("&What Would Hold...", "&Calculation Sheet...",
-                                                         "&Signed Report...", "What &Matters...", "&How Sure..."));
+  EXPECT_THAT(Captions(window.mnuStudyItem),
+              ElementsAre("&What Would Hold...", "&Calculation Sheet...", "&Signed Report...", "What &Matters...",
+                          "&How Sure...", "Designs in a &Folder..."));
   EXPECT_THAT(Captions(window.mnuHelpItem),
               ElementsAre("Help &Contents...", "Help &Index...", "Help in &PDF format...", "-", "&Resource Files...",
                           "-", "&Disclaimer...", "-", "Program Updates...", "-", "&About the Program..."));
