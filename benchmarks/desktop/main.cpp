@@ -6,12 +6,16 @@
 //   browse        the file browser until it shows a file of 50 MB; prints the growth of the peak of memory in kB,
 //                 the size of the file in kB, and the longest time between two events in milliseconds
 //   sheet         see sheet_bench.h
+//   designs       the window of 10,000 designs: writes them, and prints, while they are read, sorted, searched, shown
+//                 with all columns, scrolled and copied, the longest time between two events in milliseconds, and the
+//                 longest processor time of the window's thread between them
 //   dialogs       prints the growth of memory, in bytes, over 450 openings of each dialog after the first 50
 //
 // Instructions are counted for the two keys only.
 #include <malloc.h>
 #include <valgrind/callgrind.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDialog>
 #include <QElapsedTimer>
@@ -24,6 +28,7 @@
 #include <QVBoxLayout>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <fstream>
 #include <functional>
 #include <map>
@@ -33,6 +38,7 @@
 #include "desktop/starts.h"
 #include "dialogs/cost_dialog.h"
 #include "dialogs/description_dialog.h"
+#include "dialogs/designs_window.h"
 #include "dialogs/estimator_dialog.h"
 #include "dialogs/graph_options_dialog.h"
 #include "dialogs/graph_window.h"
@@ -40,6 +46,7 @@
 #include "dialogs/preview_window.h"
 #include "dialogs/results_window.h"
 #include "dialogs/text_browser.h"
+#include "files/project_writer.h"
 #include "shell/start_up.h"
 
 namespace {
@@ -168,6 +175,87 @@ int Browse() {
   return isWhole ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
+bool WriteDesigns(Run& run, const QTemporaryDir& folder) {
+  constexpr int Count = 10'000;
+  Project project;
+  project.WorkParms = run.program.project.WorkParms;
+  for (int i = 0; i < Count; ++i) {
+    project.ProjectTitle = "Section " + std::to_string(i % 97);
+    project.WorkParms.Place.DepthofCover = static_cast<Single>(200 + i % 1500);
+    project.WorkParms.Place.CMRR = static_cast<Single>(25 + i % 60);
+    const QString path = folder.filePath(QString("panel %1.ORB").arg(i));
+    std::ofstream file(path.toStdString(), std::ios::binary);
+    file << ProjectFileBytes(project);
+    if (!file.flush().good()) return false;
+  }
+  return true;
+}
+
+// Returns the processor time that this thread has used. It does not depend on what else the machine does.
+double MillisecondsOfThread() {
+  timespec time{};
+  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+  return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+}
+
+int Designs() {
+  const QTemporaryDir folder;
+  Run run;
+  StartApart(run.program, nullptr);
+  if (!WriteDesigns(run, folder)) return EXIT_FAILURE;
+  run.program.session.designsFolder = folder.path().toStdString() + "/";
+  DesignsWindow designs(run.program);
+  const auto measure = [&](const char* name, const std::function<void()>& act) {
+    QElapsedTimer took;
+    took.start();
+    bool hasBegun = false;
+    double busiest = 0;
+    double before = MillisecondsOfThread();
+    const qint64 longest = LongestPause([&] {
+      if (!std::exchange(hasBegun, true)) act();
+      const double now = MillisecondsOfThread();
+      busiest = std::max(busiest, now - std::exchange(before, now));
+      return !designs.IsBusy();
+    });
+    std::printf("%-16s %6lld ms, longest pause %4lld ms, busiest turn %5.1f ms, rows %d\n", name,
+                static_cast<long long>(took.elapsed()), static_cast<long long>(longest), busiest,
+                designs.tblDesigns.Rows());
+  };
+  std::unique_ptr<QWidget> window;
+  std::unique_ptr<BoundForm> view;
+  designs.Open();
+  window = MakeWindow(designs, nullptr);
+  view = std::make_unique<BoundForm>(designs, *window);
+  window->show();
+  Paint();
+  auto& table = *window->findChild<QAbstractItemView*>("tblDesigns");
+  measure("read", [] {});
+  measure("sort", [&] { designs.tblDesigns.ClickHead(3); });
+  measure("turn", [&] { designs.tblDesigns.ClickHead(3); });
+  measure("search", [&] { designs.txtContaining.SetText("panel 99"); });
+  measure("search off", [&] { designs.txtContaining.SetText(""); });
+  measure("state", [&] { designs.cmbState.SetListIndex(1); });
+  measure("all", [&] { designs.cmbState.SetListIndex(0); });
+  measure("mark all", [&] { table.selectAll(); });
+  measure("sort marked", [&] { designs.tblDesigns.ClickHead(2); });
+  measure("copy", [&] { designs.cmdCopy.Press(); });
+  for (CheckBox* box :
+       {&designs.chkInputs, &designs.chkReport, &designs.chkLive, &designs.chkCost, &designs.chkVerdicts}) {
+    measure("columns", [&] { box->SetValue(1); });
+  }
+  measure("search all", [&] { designs.txtContaining.SetText("999"); });
+  measure("search off", [&] { designs.txtContaining.SetText(""); });
+  measure("scroll", [&] { table.scrollToBottom(); });
+  measure("metric", [&] { designs.cmbUnits.SetListIndex(2); });
+  measure("mark all", [&] { table.selectAll(); });
+  measure("copy all", [&] { designs.cmdCopy.Press(); });
+  measure("read again", [&] { designs.cmdRead.Press(); });
+  view.reset();
+  window.reset();
+  designs.Close();
+  return EXIT_SUCCESS;
+}
+
 std::size_t BytesInUse() { return mallinfo2().uordblks; }
 
 template <class Dialog>
@@ -193,8 +281,8 @@ int Dialogs() {
   return EXIT_SUCCESS;
 }
 
-const std::map<std::string, int (*)()> Things{
-    {"empty-key", EmptyKey}, {"key", Key}, {"browse", Browse}, {"sheet", MeasureSheet}, {"dialogs", Dialogs}};
+const std::map<std::string, int (*)()> Things{{"empty-key", EmptyKey}, {"key", Key},         {"browse", Browse},
+                                              {"sheet", MeasureSheet}, {"dialogs", Dialogs}, {"designs", Designs}};
 
 }  // namespace
 
@@ -202,8 +290,9 @@ int main(int argc, char** argv) {
   const std::string name = argc == 2 ? argv[1] : "";
   const auto found = Things.find(name);
   if (found == Things.end() && !IsStart(name)) {
-    std::fputs("usage: orby-desktop-bench empty-start|start|empty-key|key|empty-browser|help|browse|sheet|dialogs\n",
-               stderr);
+    std::fputs(
+        "usage: orby-desktop-bench empty-start|start|empty-key|key|empty-browser|help|browse|sheet|designs|dialogs\n",
+        stderr);
     return EXIT_FAILURE;
   }
   const QApplication application(argc, argv);

@@ -79,6 +79,11 @@ bool SameWithoutCase(std::string_view a, std::string_view b) {
                     [](char x, char y) { return UpperLetter(x) == UpperLetter(y); });
 }
 
+bool ContainsWithoutCase(std::string_view text, std::string_view wanted) {
+  const auto isSame = [](char x, char y) { return UpperLetter(x) == UpperLetter(y); };
+  return wanted.empty() || std::search(text.begin(), text.end(), wanted.begin(), wanted.end(), isSame) != text.end();
+}
+
 std::string_view TakeLine(std::string_view& rest) {
   const std::size_t end = std::min(rest.find_first_of(LineEnd), rest.size());
   const std::string_view line = rest.substr(0, end);

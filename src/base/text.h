@@ -30,6 +30,9 @@ std::string Capitalised(std::string_view text);
 // Returns true if the texts are equal, ignoring the case of the letters A to Z.
 bool SameWithoutCase(std::string_view a, std::string_view b);
 
+// Returns true if the text contains the wanted one, ignoring the case of the letters A to Z.
+bool ContainsWithoutCase(std::string_view text, std::string_view wanted);
+
 // Removes the first line from `rest` and returns it without its line end, which is CR LF, LF or CR.
 std::string_view TakeLine(std::string_view& rest);
 

@@ -157,6 +157,7 @@ struct Session {
   DesignDefaults defaults;
   PriceLists prices = BuiltInPrices();
   SignedReportSettings signedReport;
+  std::string designsFolder;  // whose designs were shown last, with a trailing separator; empty: none
   History history;
   std::array<std::string, 5> OutBuf;  // pages of the last report: 0 the inputs, 1 the calculations or the cost table
   std::optional<ShownResults> LastResults;

@@ -44,22 +44,30 @@ std::string ExtensionsOf(const std::vector<FileFormat>& formats) {
 
 }  // namespace
 
+std::optional<ChosenFile> AskForFile(Program& program, const std::string& title, const std::string& baseName,
+                                     const std::vector<FileFormat>& formats) {
+  const FileQuestion question = QuestionFor(program, title, baseName, formats);
+  while (true) {
+    std::string path;
+    const auto asked = RunTrapped(program, [&] { path = program.platform.fileDialogs.AskSaveName(question); });
+    if (asked != StepOutcome::Done) return std::nullopt;
+    if (const FileFormat* format = FormatOf(path, formats)) {
+      return ChosenFile{.Path = path, .Format = static_cast<std::size_t>(format - formats.data())};
+    }
+    ShowMessage(program, "The name of the file must end in " + ExtensionsOf(formats) + ".");
+  }
+}
+
 std::string SaveInFormat(Program& program, const std::string& title, const std::string& baseName,
                          const std::vector<FileFormat>& formats) {
-  const FileQuestion question = QuestionFor(program, title, baseName, formats);
-  std::string path;
-  const FileFormat* format = nullptr;
-  while (format == nullptr) {
-    const auto asked = RunTrapped(program, [&] { path = program.platform.fileDialogs.AskSaveName(question); });
-    if (asked != StepOutcome::Done) return {};
-    format = FormatOf(path, formats);
-    if (format == nullptr) ShowMessage(program, "The name of the file must end in " + ExtensionsOf(formats) + ".");
-  }
+  const auto chosen = AskForFile(program, title, baseName, formats);
+  if (!chosen) return {};
+  const FileFormat& format = formats[chosen->Format];
   const auto written = RunTrapped(program, [&] {
-    if (format->write) return format->write(path);
-    program.platform.files.ReplaceFile(path, format->bytes());
+    if (format.write) return format.write(chosen->Path);
+    program.platform.files.ReplaceFile(chosen->Path, format.bytes());
   });
-  return written == StepOutcome::Done ? path : std::string();
+  return written == StepOutcome::Done ? chosen->Path : std::string();
 }
 
 }  // namespace orby

@@ -54,10 +54,10 @@ BindingPointer Bind(BindingHost& host, Control& control) {
       fits(As<OptionArray>(control, with(BindOptionArray))) || fits(As<Combo>(control, with(BindCombo))) ||
       fits(As<List>(control, with(BindList))) || fits(As<Slider>(control, with(BindSlider))) ||
       fits(As<TextPane>(control, with(BindTextPane))) || fits(As<ProgressBar>(control, with(BindProgressBar))) ||
-      fits(As<Grid>(control, with(BindGrid))) || fits(As<TabSet>(control, with(BindTabSet))) ||
-      fits(As<ActionArray>(control, with(BindActionArray))) || fits(As<Chart>(control, with(BindChart))) ||
-      fits(As<Drawing>(control, with(BindDrawing))) || fits(As<PagesBox>(control, with(BindPages))) ||
-      fits(BindPlain(host, control));
+      fits(As<Grid>(control, with(BindGrid))) || fits(As<RowTable>(control, with(BindRowTable))) ||
+      fits(As<TabSet>(control, with(BindTabSet))) || fits(As<ActionArray>(control, with(BindActionArray))) ||
+      fits(As<Chart>(control, with(BindChart))) || fits(As<Drawing>(control, with(BindDrawing))) ||
+      fits(As<PagesBox>(control, with(BindPages))) || fits(BindPlain(host, control));
   return found;
 }
 

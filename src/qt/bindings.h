@@ -11,6 +11,7 @@
 
 #include "controls/controls.h"
 #include "controls/grid.h"
+#include "controls/row_table.h"
 
 namespace orby {
 
@@ -118,6 +119,7 @@ BindingPointer BindCombo(BindingHost& host, Combo& combo);
 BindingPointer BindList(BindingHost& host, List& list);
 BindingPointer BindSlider(BindingHost& host, Slider& slider);
 BindingPointer BindGrid(BindingHost& host, Grid& grid);
+BindingPointer BindRowTable(BindingHost& host, RowTable& table);
 BindingPointer BindTabSet(BindingHost& host, TabSet& tabs);
 BindingPointer BindMenu(BindingHost& host, const Menu& menu);
 BindingPointer BindActionArray(BindingHost& host, const ActionArray& actions);

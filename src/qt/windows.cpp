@@ -18,6 +18,7 @@
 #include <ui_cost_dialog.h>
 #include <ui_description_dialog.h>
 #include <ui_design_chart_window.h>
+#include <ui_designs_window.h>
 #include <ui_disclaimer.h>
 #include <ui_estimator_dialog.h>
 #include <ui_font_dialog.h>
@@ -120,6 +121,7 @@ constexpr std::array Layouts{
     LayoutEntry{"frmWouldHold", Make<Ui::frmWouldHold, DialogWindow>},
     LayoutEntry{"frmHowSure", Make<Ui::frmHowSure, DialogWindow>},
     LayoutEntry{"frmSideBySide", Make<Ui::frmSideBySide, DialogWindow>},
+    LayoutEntry{"frmDesigns", Make<Ui::frmDesigns, DialogWindow>},
     LayoutEntry{"frmResource", Make<Ui::frmResource, DialogWindow>},
 };
 

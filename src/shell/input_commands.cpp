@@ -6,6 +6,7 @@
 #include "dialogs/cost_dialog.h"
 #include "dialogs/description_dialog.h"
 #include "dialogs/design_chart_window.h"
+#include "dialogs/designs_window.h"
 #include "dialogs/how_sure_window.h"
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/project_sheet.h"
@@ -35,7 +36,14 @@ void MainWindow::StudyCommand(StudyItem item) {
     case StudyItem::DesignChart: Run(Trap::Set, [&] { ShowDesignChart(program_); }); break;
     case StudyItem::HowSure: Run(Trap::Set, [&] { ShowHowSure(program_, unsavedStudy_); }); break;
     case StudyItem::SideBySide: Run(Trap::Set, [&] { ShowSideBySide(program_); }); break;
+    case StudyItem::DesignsInFolder: ShowDesigns(); break;
   }
+}
+
+void MainWindow::ShowDesigns() {
+  DesignsWindow designs(program_);
+  ShowForm(program_, designs);
+  if (designs.Chosen) OpenFile(*designs.Chosen, Trap::Set);
 }
 
 // Returns the dialog with the project in it. Returns nothing after a message if the project cannot be shown, as with

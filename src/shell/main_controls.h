@@ -33,13 +33,14 @@ enum class UtilityItem : Integer {
 };
 
 enum class StudyItem : Integer {
-  WhatWouldHold = 0,
-  CalculationSheet = 1,
-  SignedReport = 2,
-  WhatMatters = 3,
-  HowSure = 4,
-  SideBySide = 6,
-  DesignChart = 7,
+  WhatWouldHold,
+  CalculationSheet,
+  SignedReport,
+  WhatMatters,
+  HowSure,
+  DesignsInFolder,
+  SideBySide,
+  DesignChart,
 };
 
 enum class HelpItem : Integer {
@@ -92,10 +93,11 @@ class MainControls : public ProgramForm {
       {"&Settings...", "&Options...", "&Unit Conversions...", "&File Conversion...", ActionArray::Separator,
        "&Clear History Window", CloseHistory, "Co&py History &Window", ActionArray::Separator, "&Backups..."}};
   Menu mnuStudy{*this, "mnuStudy", "&Study"};
-  Actions<StudyItem> mnuStudyItem{*this,
-                                  "mnuStudyItem",
-                                  {"&What Would Hold...", "&Calculation Sheet...", "&Signed Report...",
-                                   "What &Matters...", "&How Sure...", "", "Side &by Side...", "&Design Chart..."}};
+  Actions<StudyItem> mnuStudyItem{
+      *this,
+      "mnuStudyItem",
+      {"&What Would Hold...", "&Calculation Sheet...", "&Signed Report...", "What &Matters...", "&How Sure...",
+       "Designs in a &Folder...", "Side &by Side...", "&Design Chart..."}};
   Menu mnuHelp{*this, "mnuHelp", "&Help"};
   Actions<HelpItem> mnuHelpItem{
       *this,

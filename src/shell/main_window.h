@@ -101,6 +101,8 @@ class MainWindow : public MainControls {
   void KeepEdits(Dialog& dialog);
 
   void StudyCommand(StudyItem item);
+  // Opens the project that the user chooses in the window, as the command Open does.
+  void ShowDesigns();
 
   // utility_commands.cpp
   void UtilityCommand(UtilityItem item);

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "config/catalog_sections.h"
+#include "config/designs_section.h"
 #include "config/price_section.h"
 #include "config/settings_sections.h"
 #include "config/signed_report_section.h"
@@ -69,6 +70,7 @@ void ReadConfiguration(Program& program, const IniText& ini) {
   ReadCatalogSections(program, ini);
   ReadPrices(program.session.prices, ini);
   ReadSignedReport(program.session.signedReport, ini);
+  program.session.designsFolder = ReadDesignsFolder(ini);
 }
 
 void BeginNewDesign(Program& program) { FileNew(program, Keeping::Nothing); }

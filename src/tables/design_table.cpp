@@ -6,6 +6,13 @@
 
 namespace orby {
 
+TableView ViewOf(const DesignTable& table) {
+  TableView view{.Rows = {}, .Shown = table.Shown, .Units = table.Units};
+  view.Rows.reserve(table.Rows.size());
+  for (const TableRow& row : table.Rows) view.Rows.push_back(&row);
+  return view;
+}
+
 TableRow ReadRow(const RowMaker& maker, FileSystem& files, const FoundProject& project) {
   if (project.Reason.empty()) return maker.RowOfFile(files, project.Path);
   TableRow row;

@@ -1,6 +1,8 @@
 // A table of designs: a row a project, with chosen columns in one unit system.
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,6 +18,19 @@ struct DesignTable {
   Columns Shown;
   UnitSystem Units = English;
 };
+
+// A table of rows that are kept elsewhere.
+struct TableView {
+  std::vector<const TableRow*> Rows;
+  Columns Shown;
+  UnitSystem Units = English;
+};
+
+// Returns all rows of the table, which must outlive the view.
+TableView ViewOf(const DesignTable& table);
+
+// Called with the number of rows that are done, from any thread. Returns false to end the work.
+using RowsGoOn = std::function<bool(std::size_t done)>;
 
 // Returns the row of a file, or of a folder that cannot be read. May be called on any thread.
 TableRow ReadRow(const RowMaker& maker, FileSystem& files, const FoundProject& project);
@@ -36,6 +51,8 @@ bool AllAreRead(const std::vector<TableRow>& rows);
 // program shows.
 // FilesAsCsv reads the files, too, and keeps no rows in memory. Without `units` the table has those of CommonUnits.
 std::string TableAsCsv(const DesignTable& table);
+// The text is of no use after `goesOn` has returned false.
+std::string TableAsCsv(const TableView& table, const RowsGoOn& goesOn);
 struct CsvOfFiles {
   std::string Text;
   bool AllAreRead = true;
@@ -46,9 +63,14 @@ CsvOfFiles FilesAsCsv(const RowMaker& maker, FileSystem& files, const std::vecto
 std::string TableAsJson(const DesignTable& table);
 // Columns of the width of their widest text, two blanks apart.
 std::string TableAsText(const DesignTable& table);
+// Cells as the program shows them, separated by tabs, which spreadsheets paste. Line ends and tabs in texts become
+// blanks. The text is of no use after `goesOn` has returned false.
+std::string TableAsCells(const TableView& table, const RowsGoOn& goesOn);
 
 // Writes the table as an .xlsx file. Numbers have formats that show their digits as the program does; the head stays on
 // view. Replaces an existing file. Throws RuntimeError 75 when the file cannot be written.
 void WriteTableWorkbook(const DesignTable& table, const std::string& path);
+// Returns false, and writes nothing, if `goesOn` returns false.
+bool WriteTableWorkbook(const TableView& table, const std::string& path, const RowsGoOn& goesOn);
 
 }  // namespace orby

@@ -15,7 +15,8 @@ bool IsProjectName(std::string_view path) {
 }
 
 // Folders that are still to be entered are in a list, so their depth needs no stack.
-std::vector<FoundProject> Walk(FileSystem& files, const std::string& top) {
+std::vector<FoundProject> Walk(FileSystem& files, const std::string& top,
+                               const std::function<bool(std::size_t found)>& goesOn) {
   std::vector<FoundProject> found;
   std::vector<std::string> folders{top};
   while (!folders.empty()) {
@@ -32,14 +33,16 @@ std::vector<FoundProject> Walk(FileSystem& files, const std::string& top) {
     } catch (const RuntimeError& error) {
       found.push_back({folder, std::string(error.description())});
     }
+    if (goesOn && !goesOn(found.size())) break;
   }
   return found;
 }
 
 }  // namespace
 
-std::vector<FoundProject> ProjectsBelow(FileSystem& files, const std::string& folder) {
-  std::vector<FoundProject> found = Walk(files, folder);
+std::vector<FoundProject> ProjectsBelow(FileSystem& files, const std::string& folder,
+                                        const std::function<bool(std::size_t found)>& goesOn) {
+  std::vector<FoundProject> found = Walk(files, folder, goesOn);
   std::ranges::sort(found, {}, &FoundProject::Path);
   return found;
 }

@@ -1,6 +1,8 @@
 // The project files in folders.
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -16,7 +18,10 @@ struct FoundProject {
 
 // Returns the project files in the folder and the folders in it, sorted by their paths. Does not enter hidden folders,
 // nor links to folders, so a link to a folder above it does no harm.
-std::vector<FoundProject> ProjectsBelow(FileSystem& files, const std::string& folder);
+//
+// goesOn     called after each folder with the number of projects found so far; false ends the walk
+std::vector<FoundProject> ProjectsBelow(FileSystem& files, const std::string& folder,
+                                        const std::function<bool(std::size_t found)>& goesOn = {});
 
 // Returns the files of a list of files and folders. Each folder is replaced with the projects below it.
 std::vector<FoundProject> ProjectsOf(FileSystem& files, const std::vector<std::string>& paths);

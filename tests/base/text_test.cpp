@@ -59,6 +59,14 @@ TEST(SameWithoutCase, ComparesPlainLettersWithoutCase) {
   EXPECT_FALSE(SameWithoutCase("@", "`"));
 }
 
+TEST(ContainsWithoutCase, FindsAPartWithoutTheCaseOfPlainLetters) {
+  EXPECT_TRUE(ContainsWithoutCase("North panel 3.ORB", "PANEL"));
+  EXPECT_TRUE(ContainsWithoutCase("North", ""));
+  EXPECT_TRUE(ContainsWithoutCase("", ""));
+  EXPECT_FALSE(ContainsWithoutCase("North", "North panel"));
+  EXPECT_FALSE(ContainsWithoutCase("a@b", "`"));
+}
+
 std::vector<std::string_view> LinesOf(std::string_view text) {
   std::vector<std::string_view> lines;
   while (!text.empty()) lines.push_back(TakeLine(text));

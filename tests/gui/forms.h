@@ -14,6 +14,7 @@
 #include "dialogs/cost_dialog.h"
 #include "dialogs/description_dialog.h"
 #include "dialogs/design_chart_window.h"
+#include "dialogs/designs_window.h"
 #include "dialogs/disclaimer.h"
 #include "dialogs/estimator_dialog.h"
 #include "dialogs/font_dialog.h"
@@ -99,6 +100,7 @@ inline constexpr std::array FormMakers{
                 return std::make_unique<HowSureWindow>(program, unsaved);
               }},
     FormMaker{"frmSideBySide", Plain<SideBySideWindow>},
+    FormMaker{"frmDesigns", Plain<DesignsWindow>},
     FormMaker{"frmGraph", Plain<GraphWindow>},
     FormMaker{"frmConvert", Plain<ConvertDialog>},
     FormMaker{"frmUnits", Plain<UnitCalculator>},

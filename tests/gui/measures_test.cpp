@@ -21,6 +21,7 @@
 #include "gui/forms.h"
 #include "gui/gui_bench.h"
 #include "qt/grid_view.h"
+#include "qt/rows_view.h"
 
 namespace orby::test {
 namespace {
@@ -191,13 +192,16 @@ TEST_P(Measures, FitASmallScreenWithoutScrolling) {
   });
 }
 
+void ExpectWholeRows(const QTableView& grid) {
+  const int row = grid.verticalHeader()->defaultSectionSize();
+  const bool fits = grid.verticalHeader()->length() <= grid.viewport()->height();
+  EXPECT_TRUE(fits || grid.viewport()->height() % row == 0) << grid.objectName().toStdString();
+}
+
 TEST_P(Measures, ShowWholeRowsOfGrids) {
   OnEveryPage([&] {
-    for (const auto* grid : OnView<GridView>()) {
-      const int row = grid->verticalHeader()->defaultSectionSize();
-      const bool fits = grid->verticalHeader()->length() <= grid->viewport()->height();
-      EXPECT_TRUE(fits || grid->viewport()->height() % row == 0) << grid->objectName().toStdString();
-    }
+    for (const auto* grid : OnView<GridView>()) ExpectWholeRows(*grid);
+    for (const auto* table : OnView<RowsView>()) ExpectWholeRows(*table);
   });
 }
 

@@ -50,8 +50,10 @@ const std::set<std::string> Texts{
     "frmHowSure txtBatch",
     "frmHowSure txtConfidence",
     "frmHowSure txtStopWidth",
-    "frmWouldHold txtLengths",  // a list of lengths
-    "frmGraphOpt Text1",        // titles of a graph, its curves and its axes
+    "frmDesigns txtFolder",
+    "frmDesigns txtContaining",  // a part of a cell
+    "frmWouldHold txtLengths",   // a list of lengths
+    "frmGraphOpt Text1",         // titles of a graph, its curves and its axes
     "frmGraphOpt Text2_0",
     "frmGraphOpt Text2_1",
     "frmGraphOpt Text2_2",

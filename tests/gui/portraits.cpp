@@ -32,6 +32,7 @@
 #include "dialogs/curve_command.h"
 #include "dialogs/description_dialog.h"
 #include "dialogs/design_chart_window.h"
+#include "dialogs/designs_window.h"
 #include "dialogs/disclaimer.h"
 #include "dialogs/estimator_dialog.h"
 #include "dialogs/font_dialog.h"
@@ -202,6 +203,7 @@ class Sitting {
     TakeHowSure();
     TakeSideBySide();
     TakeDesignChart();
+    TakeDesigns();
     TakeDialog<CostDialog>("cost");
     TakeEstimator();
     TakeOptions();
@@ -374,6 +376,43 @@ class Sitting {
       window.close();
     });
     ShowSignedReport(program_);
+  }
+
+  // Takes the examples and a damaged file as they are opened, sorted by a figure with more columns, and filtered.
+  void TakeDesigns() {
+    const std::string folder = "/home/user/mine/";
+    platform_.files.folders.insert({"/home/user/mine", "/home/user/mine/north mains"});
+    int number = 0;
+    for (const QString& name : QDir(EXAMPLES_DIR).entryList({"*.ORB"})) {
+      const std::string inside = ++number % 2 == 0 ? "north mains/" : "";
+      platform_.files.files[folder + inside + name.toStdString()] =
+          BytesOf(std::string(EXAMPLES_DIR) + "/" + name.toStdString());
+    }
+    platform_.files.files[folder + "notes.ORB"] = "Dear diary";
+    program_.session.designsFolder = folder;
+    DesignsWindow designs(program_);
+    scripts_.Add([&](QDialog& window) {
+      const auto wait = [&] {
+        while (designs.IsBusy()) {
+          platform_.clock.Pass();
+          Settle();
+        }
+        Settle();
+      };
+      wait();
+      photographer_.Take(window, "designs");
+      Click(window, "chkVerdicts");
+      Find<QComboBox>(window, "cmbUnits").setCurrentText("Metric");
+      Find<QComboBox>(window, "cmbSort").setCurrentText("Depth of Cover");
+      wait();
+      photographer_.Take(window, "designs-sorted");
+      Find<QComboBox>(window, "cmbState").setCurrentText("Falls short");
+      wait();
+      photographer_.Take(window, "designs-short");
+      window.close();
+    });
+    ShowForm(program_, designs);
+    program_.session.designsFolder.clear();
   }
 
   // Takes the pages of a study with measured ratings, and each chart of its result.

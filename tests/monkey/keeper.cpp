@@ -25,13 +25,13 @@ namespace orby::monkey {
 namespace {
 
 // The windows of the program and of the toolkit that a long run must reach.
-constexpr std::array Windows{
-    "frmMain",       "frmPENVParm",    "frmTULKCost", "frmTULKDesc",     "frmCMRREst",     "frmResTxtPlt",
-    "frmPreview",    "frmGraph",       "frmGraphOpt", "frmTULKOpts",     "frmConvert",     "frmUnits",
-    "frmTextBrow",   "frmUpdate",      "frmSet",      "frmFont",         "frmDisclaimer",  "frmBackups",
-    "frmResource",   "frmWouldHold",   "frmSheet",    "frmSignedReport", "frmWhatMatters", "frmHowSure",
-    "frmSideBySide", "frmDesignChart", "helpWindow",  "about",           "QMessageBox",    "QFileDialog",
-    "QPrintDialog",  "QMenu"};
+constexpr std::array Windows{"frmMain",        "frmPENVParm",     "frmTULKCost",    "frmTULKDesc", "frmCMRREst",
+                             "frmResTxtPlt",   "frmPreview",      "frmGraph",       "frmGraphOpt", "frmTULKOpts",
+                             "frmConvert",     "frmUnits",        "frmTextBrow",    "frmUpdate",   "frmSet",
+                             "frmFont",        "frmDisclaimer",   "frmBackups",     "frmResource", "frmWouldHold",
+                             "frmSheet",       "frmSignedReport", "frmWhatMatters", "frmHowSure",  "frmSideBySide",
+                             "frmDesignChart", "frmDesigns",      "helpWindow",     "about",       "QMessageBox",
+                             "QFileDialog",    "QPrintDialog",    "QMenu"};
 constexpr long LongRun = 50000;  // actions
 
 // The possible reasons for the end of a run, with the text of the message or the name of the routine that failed.

@@ -2,6 +2,7 @@
 
 #include "dialogs/cost_dialog.h"
 #include "dialogs/description_dialog.h"
+#include "dialogs/designs_window.h"
 #include "dialogs/how_sure_window.h"
 #include "dialogs/parameters_dialog.h"
 #include "dialogs/sheet_window.h"
@@ -95,6 +96,28 @@ TEST_F(InputMenu, KeepsTheInputsOfAStudyOfANewProjectUntilTheProgramEnds) {
   window.mnuStudyItem.ClickItem(StudyItem::HowSure);
 
   EXPECT_THAT(rows, ElementsAre(1, 2));
+}
+
+TEST_F(InputMenu, OpensTheProjectThatWasChosenAmongTheDesignsOfAFolder) {
+  EditPanel3();
+  InDialog<DesignsWindow>([](DesignsWindow& designs) { designs.Chosen = Panel4; });
+
+  window.mnuStudyItem.ClickItem(StudyItem::DesignsInFolder);
+
+  EXPECT_EQ(program.project.CurrentFile, Panel4);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 980);
+  EXPECT_THAT(platform.boxes.Texts(), ElementsAre("Save changes to: " + Panel3 + "?"));
+}
+
+TEST_F(InputMenu, LeavesTheProjectIfNoneOfTheDesignsIsChosen) {
+  EditPanel3();
+  InDialog<DesignsWindow>([](DesignsWindow& designs) { designs.Close(); });
+
+  window.mnuStudyItem.ClickItem(StudyItem::DesignsInFolder);
+
+  EXPECT_EQ(program.project.CurrentFile, Panel3);
+  EXPECT_EQ(program.project.WorkParms.Place.DepthofCover, 800);
+  EXPECT_THAT(platform.boxes.Texts(), IsEmpty());
 }
 
 TEST_F(InputMenu, OpensNoStudyAfterTheParametersHaveClosed) {

@@ -31,7 +31,7 @@ TEST_F(Menus, HaveTheirEntriesInOrder) {
                   "&Clear History Window", "Close History &Window", "Co&py History &Window", "-", "&Backups..."));
   EXPECT_THAT(Captions(window.mnuStudyItem),
               ElementsAre("&What Would Hold...", "&Calculation Sheet...", "&Signed Report...", "What &Matters...",
-                          "&How Sure...", "", "Side &by Side...", "&Design Chart..."));
+                          "&How Sure...", "Designs in a &Folder...", "Side &by Side...", "&Design Chart..."));
   EXPECT_THAT(Captions(window.mnuHelpItem),
               ElementsAre("Help &Contents...", "Help &Index...", "Help in &PDF format...", "-", "&Resource Files...",
                           "-", "&Disclaimer...", "-", "Program Updates...", "-", "&About the Program..."));
