@@ -42,6 +42,7 @@ class DesignsControls : public ProgramForm {
   Label lblDone{*this, "lblDone", {}};
   Button cmdStop{*this, "cmdStop", "Stop"};
   Button cmdOpen{*this, "cmdOpen", "&Open"};
+  Button cmdCompare{*this, "cmdCompare", "Co&mpare..."};
   Button cmdCopy{*this, "cmdCopy", "&Copy"};
   Button cmdSaveAs{*this, "cmdSaveAs", "Save &As..."};
   Button cmdClose{*this, "cmdClose", "Close", [this] { Close(); }};

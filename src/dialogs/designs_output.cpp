@@ -1,9 +1,10 @@
-// What the window "Designs in a Folder" does with its rows: it opens, copies and saves them.
+// What the window "Designs in a Folder" does with its rows: it opens, compares, copies and saves them.
 #include <utility>
 
 #include "core/messages.h"
 #include "dialogs/designs_arranging.h"
 #include "dialogs/save_in_format.h"
+#include "dialogs/side_by_side_window.h"
 #include "reports/study_report.h"
 
 namespace orby {
@@ -26,6 +27,13 @@ void DesignsWindow::OpenCurrent() {
   }
   Chosen = row.File;
   Close();
+}
+
+void DesignsWindow::Compare() {
+  std::vector<ComparedSource>& compared = program_.windows.compared.Chosen;
+  compared.clear();
+  for (std::string& file : SelectedFiles()) compared.push_back({.Variant = 0, .File = std::move(file)});
+  ShowSideBySide(program_);
 }
 
 void DesignsWindow::Copy() {

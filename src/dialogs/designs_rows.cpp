@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "dialogs/designs_arranging.h"
 #include "reports/study_report.h"
+#include "tables/comparison.h"
 
 namespace orby {
 namespace {
@@ -178,6 +179,7 @@ void DesignsWindow::ShowCounts() {
   text.append(", marked: ").append(CountWithCommas(marked_.size())).append(".");
   lblShown.SetCaption(text);
   cmdOpen.SetEnabled(current_.has_value());
+  cmdCompare.SetEnabled(marked_.size() <= MostCompared && SelectedFiles().size() >= FewestCompared);
   cmdCopy.SetEnabled(!marked_.empty() && output_ == nullptr);
   cmdSaveAs.SetEnabled(!order_.empty() && output_ == nullptr && reader_ == nullptr);
 }

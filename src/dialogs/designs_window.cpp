@@ -39,6 +39,7 @@ DesignsWindow::DesignsWindow(Program& program) : DesignsControls(program) {
   cmdRead.Click = [this] { ReadByUser(); };
   cmdStop.Click = [this] { Stop(); };
   cmdOpen.Click = [this] { OpenCurrent(); };
+  cmdCompare.Click = [this] { Compare(); };
   cmdCopy.Click = [this] { Copy(); };
   cmdSaveAs.Click = [this] { SaveAs(); };
   for (CheckBox* box : {&chkOverview, &chkInputs, &chkReport, &chkLive, &chkCost, &chkVerdicts}) {

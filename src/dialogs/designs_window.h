@@ -69,6 +69,8 @@ class DesignsWindow : public DesignsControls {
   void KeepMarks();
 
   void OpenCurrent();
+  // Shows the marked designs side by side.
+  void Compare();
   void Copy();
   void SaveAs();
   // Starts to make a text or a file of these rows, and says what is done.

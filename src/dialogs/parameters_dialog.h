@@ -169,9 +169,9 @@ class ParametersDialog : public ParametersControls {
   void GoToVerdict(std::size_t row);
 
   // Opens that window for the selected judgement.
+  void Study();
   // Keeps the fields as they stand, for a comparison with other designs. Fails as SaveWorkParms does.
   void KeepAsVariant();
-  void Study();
 
   // Takes the region and the rock type of the estimator from the hidden fields, after an edit was taken back.
   void RestoreEstimate();

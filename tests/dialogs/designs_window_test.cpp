@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "dialogs/designs_fixture.h"
+#include "dialogs/side_by_side_window.h"
 
 namespace orby::test {
 namespace {
@@ -194,6 +195,24 @@ TEST_F(ADesignsWindow, ListsOnlyDesignsAmongTheMarkedFiles) {
 
   ASSERT_THAT(window->SelectedFiles(), SizeIs(1));
   EXPECT_THAT(window->SelectedFiles().front(), testing::EndsWith("weak.ORB"));
+}
+
+TEST_F(ADesignsWindow, ComparesTheMarkedDesignsSideBySide) {
+  Open();
+  EXPECT_FALSE(window->cmdCompare.Enabled()) << "one design is marked";
+  std::vector<std::string> compared;
+  platform.windows.onModal = [&](Form& form) {
+    for (const ComboItem& item : dynamic_cast<SideBySideWindow&>(form).lstDesigns.Items())
+      compared.push_back(item.text);
+  };
+
+  window->tblDesigns.Mark({0, 1, 2, 3}, 0);
+  ASSERT_TRUE(window->cmdCompare.Enabled());
+  window->cmdCompare.Press();
+
+  EXPECT_THAT(compared,
+              ElementsAre(testing::HasSubstr("Crosscut"), testing::HasSubstr("gate"), testing::HasSubstr("weak")));
+  EXPECT_EQ(window->tblDesigns.Rows(), 4) << "it stays open";
 }
 
 TEST_F(ADesignsWindow, ClosesWithTheDesignToOpen) {
