@@ -72,7 +72,7 @@ class WallPage {
     return grid.Take();
   }
 
-  // A table that is too long gets smaller.
+  // A table that is too long gets smaller. It ends at the right margin.
   void PutInputs(const ScenePoint& at, double height) {
     const PageParts parts(InputsWidth, width_);
     Stack table;
@@ -84,7 +84,7 @@ class WallPage {
     add(head);
     for (const PageFact& fact : chart_.Inputs) add(parts.Row(FactColumns, {fact.Name, fact.Text}, page_style::Small));
     const double scale = std::min(1.0, height / table.Height());
-    Put(table.Take().Box, at, scale);
+    Put(table.Take().Box, {at.X + InputsWidth * (1 - scale), at.Y}, scale);
   }
 
   const ChartPage& chart_;
