@@ -192,7 +192,8 @@ class Plotter {
     const double share = place - static_cast<double>(point);
     const ScenePoint at =
         At(std::lerp(series.x[point], series.x[next], share), std::lerp(series.y[point], series.y[next], share));
-    WriteName(std::to_string(series.number), {at.X, at.Y + TextSize / 3}, Anchor::Middle, plot_.Width());
+    const double beside = series.x.size() == 1 ? TextSize : 0;  // a single point stays visible
+    WriteName(std::to_string(series.number), {at.X + beside, at.Y + TextSize / 3}, Anchor::Middle, plot_.Width());
   }
 
   void Square(const ScenePoint& at, Ink ink) {
