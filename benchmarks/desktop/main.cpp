@@ -212,10 +212,12 @@ int Designs() {
     double busiest = 0;
     double before = MillisecondsOfThread();
     const qint64 longest = LongestPause([&] {
-      if (!std::exchange(hasBegun, true)) act();
+      const bool begins = !std::exchange(hasBegun, true);
+      if (begins) act();
       const double now = MillisecondsOfThread();
       busiest = std::max(busiest, now - std::exchange(before, now));
-      return !designs.IsBusy();
+      // One more turn, so that the act counts.
+      return !begins && !designs.IsBusy();
     });
     std::printf("%-16s %6lld ms, longest pause %4lld ms, busiest turn %5.1f ms, rows %d\n", name,
                 static_cast<long long>(took.elapsed()), static_cast<long long>(longest), busiest,

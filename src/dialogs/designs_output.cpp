@@ -70,8 +70,8 @@ void DesignsWindow::TakeOutput() {
   const auto ended = std::exchange(output_, nullptr);
   ShowProgress();
   const std::string count = CountWithCommas(ended->Rows()) + (ended->Rows() == 1 ? " row" : " rows");
-  const auto outcome = RunTrapped(program_, [&] { ended->Finish(); });
-  if (ended->IsCancelled() || outcome != StepOutcome::Done) {
+  RunTrapped(program_, [&] { ended->Finish(); });
+  if (!ended->IsWhole()) {
     lblDone.SetCaption(ended->Path().empty() ? "Nothing was copied" : "Nothing was saved");
   } else if (ended->Path().empty()) {
     program_.platform.clipboard.SetText(ended->Cells());

@@ -114,7 +114,7 @@ void DesignsWindow::Arrange() {
   choice.Shown = shown_;
   choice.Units = Units();
   choice.Folder = folder_;
-  choice.Containing = txtContaining.Text();
+  choice.Containing = Trim(txtContaining.Text());
   choice.State = State();
   if (cmbSort.HasSelection()) choice.SortedBy = shown_[static_cast<std::size_t>(cmbSort.ListIndex())];
   choice.IsDescending = chkDescending.Checked();

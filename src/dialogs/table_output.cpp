@@ -18,12 +18,17 @@ void TableOutput::Run(const std::stop_token& stop) {
     return !stop.stop_requested();
   };
   switch (form_) {
-    case Form::Cells: text_ = TableAsCells(table_, goesOn); break;
+    case Form::Cells:
+      text_ = TableAsCells(table_, goesOn);
+      isWhole_ = !stop.stop_requested();
+      break;
     case Form::Csv:
       text_ = TableAsCsv(table_, goesOn);
-      if (!stop.stop_requested()) files_.ReplaceFile(path_, text_);
+      if (stop.stop_requested()) break;
+      files_.ReplaceFile(path_, text_);
+      isWhole_ = true;
       break;
-    case Form::Workbook: WriteTableWorkbook(table_, path_, goesOn); break;
+    case Form::Workbook: isWhole_ = WriteTableWorkbook(table_, path_, goesOn); break;
   }
 }
 

@@ -23,15 +23,16 @@ class TableOutput {
   TableOutput(Form form, std::vector<RowPointer> rows, TableView table, FileSystem& files, std::string path);
 
   void Cancel() { work_.Cancel(); }
-  bool IsCancelled() const { return work_.IsCancelled(); }
   bool HasEnded() const { return work_.HasEnded(); }
   // Waits for the end. Throws what has ended the work. A file is written as a whole or not at all.
   void Finish() { work_.Finish(); }
+  // Returns true if all cells or the file were made, after the end. A cancel may have come too late.
+  bool IsWhole() const { return isWhole_; }
 
   const std::string& Path() const { return path_; }
   std::size_t Rows() const { return table_.Rows.size(); }
   std::size_t Done() const { return done_; }  // rows
-  // The cells, after the end of work that was not cancelled.
+  // The cells, if they are whole.
   const std::string& Cells() const { return text_; }
 
  private:
@@ -43,6 +44,7 @@ class TableOutput {
   FileSystem& files_;
   std::string path_;
   std::string text_;
+  bool isWhole_ = false;
   std::atomic<std::size_t> done_ = 0;
   BackgroundWork work_;  // last: it uses the others
 };

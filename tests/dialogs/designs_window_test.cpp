@@ -285,6 +285,20 @@ TEST_F(ADesignsWindow, SaysThatATableCannotBeSaved) {
   EXPECT_THAT(Files(), SizeIs(4));
 }
 
+TEST_F(ADesignsWindow, SaysWhetherAStoppedTableWasSaved) {
+  for (int i = 0; i < 300; ++i) StoreExample(mine, "development-entry", "panel" + std::to_string(i) + ".ORB");
+  for (const std::string name : {"mine.csv", "mine.xlsx"}) {
+    Open();
+    platform.fileDialogs.answers.push_back(folder.At(name));
+    window->cmdSaveAs.Press();
+    window->cmdStop.Press();
+    Wait();
+
+    EXPECT_EQ(window->lblDone.Caption() == "Saved 304 rows", std::filesystem::exists(folder.At(name))) << name;
+    Leave();
+  }
+}
+
 TEST_F(ADesignsWindow, RemembersTheFolder) {
   const TemporaryFolder other;
   StoreExample(other, "weak-roof", "a.ORB");
