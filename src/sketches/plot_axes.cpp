@@ -31,7 +31,7 @@ void DrawAxes(Drafting& draft, const Box& plot, const PlotAxis& across, const Pl
     const double x = plot.Left + across.ShareOf(tick) * plot.Width();
     ticks.Segment({x, plot.Bottom}, {x, plot.Bottom + PlotAxis::TickLength});
     draft.Write({across.TextOf(tick)}, {x, EndOfNumbers(plot) - NumberGap}, Anchor::Middle,
-                plot.Width() / PlotAxis::MostTicks);
+                plot.Width() * across.ShareOfText());
   }
   for (const double tick : up.Ticks()) {
     const double y = plot.Bottom - up.ShareOf(tick) * plot.Height();

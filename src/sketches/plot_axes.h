@@ -15,16 +15,20 @@ class PlotAxis {
   static constexpr double TickLength = 5;
 
   // Requires a range with a size and `most` of at least 2.
-  explicit PlotAxis(const ChartRange& range, int most = MostTicks) : range_(range), ticks_(TicksIn(range, most)) {}
+  explicit PlotAxis(const ChartRange& range, int most = MostTicks)
+      : range_(range), most_(most), ticks_(TicksIn(range, most)) {}
 
   const std::vector<double>& Ticks() const { return ticks_; }
   std::string TextOf(double tick) const;
   double WidestText() const;
+  // The room of a number, as a share of the axis.
+  double ShareOfText() const { return 1.0 / most_; }
   // The position of a value: 0 at the start of the axis, 1 at its end.
   double ShareOf(double value) const { return range_.ShareOf(value); }
 
  private:
   ChartRange range_;
+  int most_;
   std::vector<double> ticks_;
 };
 

@@ -21,18 +21,18 @@ constexpr double UpTickDistance = 28;  // at least
 constexpr double PresentHalf = 4.5;
 constexpr double NamePitch = 15;
 constexpr double WholeWay = 100;
+constexpr int AcrossTicks = 5;
 
 constexpr std::array SpiderInks{Ink::Curve, Ink::FirstKept, Ink::SecondKept, Ink::ThirdKept};
 static_assert(MostSpiderLines == 2 * SpiderInks.size());
 
 constexpr SceneStroke PresentLine{.Colour = Ink::Muted, .Width = 1, .IsDashed = true};
 
-// The first lines are solid, the others have the same colours and are dashed.
+// Lines that coincide often follow each other. Then one of them is solid, and the other one is dashed above it.
 SceneStroke StrokeOf(std::size_t line) {
-  return {.Colour = SpiderInks.at(line % SpiderInks.size()),
-          .Width = 2,
-          .IsRound = true,
-          .IsDashed = line >= SpiderInks.size()};
+  const bool isOdd = line % 2 == 1;
+  const bool isInSecondHalf = line >= SpiderInks.size();
+  return {.Colour = SpiderInks.at(line % SpiderInks.size()), .Width = 2, .IsDashed = isOdd != isInSecondHalf};
 }
 
 // Leads from the end of a line to its name.
@@ -121,7 +121,7 @@ class SpiderDrafting {
     const PlotAxis up(FiguresOf(shown_, spider_.Present), mostUp);
     plot_.Left += SpiderEdge + up.WidestText() + PlotAxis::TickLength;
     if (plot_.Width() < SmallestPlot) return;
-    const PlotAxis across({-WholeWay, WholeWay});
+    const PlotAxis across({-WholeWay, WholeWay}, AcrossTicks);
     const auto at = [&](const ScenePoint& point) {
       return ScenePoint{plot_.Left + across.ShareOf(point.X) * plot_.Width(),
                         plot_.Bottom - up.ShareOf(point.Y) * plot_.Height()};
@@ -132,10 +132,14 @@ class SpiderDrafting {
                     .Segment({plot_.Left, present.Y}, {plot_.Right, present.Y}),
                 PresentLine);
     DrawAxes(draft_, plot_, across, up);
-    draft_.Write({"From the present value (0) to the low and the high end (%)", "From present value to low, high (%)"},
+    draft_.Write({"Way from the present value to the low or high end (%)", "Way to low or high end (%)"},
                  {plot_.Middle().X, EndOfNumbers(plot_) + LegendLine - 3}, Anchor::Middle, 2 * AcrossRoom());
-    // The most important line is on top.
-    for (std::size_t i = shown_.size(); i-- > 0;) draft_.Draw(TraceOf(shown_[i], at), StrokeOf(i));
+    for (const bool isDashed : {false, true}) {
+      // The most important line is on top.
+      for (std::size_t i = shown_.size(); i-- > 0;) {
+        if (StrokeOf(i).IsDashed == isDashed) draft_.Draw(TraceOf(shown_[i], at), StrokeOf(i));
+      }
+    }
     Names(at);
     PresentMark(present);
   }

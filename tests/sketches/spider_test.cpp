@@ -36,10 +36,11 @@ Spider ManyLines(std::size_t count) {
   return spider;
 }
 
+// Returns the lines from the lowest, the solid ones below the dashed ones.
 std::vector<const SceneOutline*> LinesDrawn(const Sketch& sketch) {
   std::vector<const SceneOutline*> lines;
   for (const SceneOutline& outline : sketch.Picture.Outlines) {
-    if (outline.Line.IsRound) lines.push_back(&outline);
+    if (outline.Line.Width == 2 && outline.Line.Colour != Ink::OwnPoint) lines.push_back(&outline);
   }
   return lines;
 }
@@ -72,8 +73,8 @@ TEST(SpiderChart, DrawsEachLineFromItsLowToItsHighEndThroughTheDesign) {
   const Sketch sketch = SpiderSketch(TwoLines(), SpiderSheet);
 
   ASSERT_THAT(LinesDrawn(sketch), SizeIs(2));
-  const SceneOutline& rating = *LinesDrawn(sketch)[1];
-  const SceneOutline& depth = *LinesDrawn(sketch)[0];
+  const SceneOutline& rating = *LinesDrawn(sketch)[0];
+  const SceneOutline& depth = *LinesDrawn(sketch)[1];
   ASSERT_THAT(rating.Steps, SizeIs(3));
   EXPECT_EQ(rating.Steps[1].To, depth.Steps[1].To) << "all lines meet at the design";
   EXPECT_NEAR(rating.Steps[1].To.X - rating.Steps[0].To.X, rating.Steps[2].To.X - rating.Steps[1].To.X, 1e-9);
@@ -98,7 +99,7 @@ TEST(SpiderChart, NamesItsLinesAtTheirRightEnds) {
   const Sketch sketch = SpiderSketch(TwoLines(), SpiderSheet);
 
   const SceneLabel& name = LabelOf(sketch, "CMRR");
-  const ScenePoint end = LinesDrawn(sketch)[1]->Steps[2].To;
+  const ScenePoint end = LinesDrawn(sketch)[0]->Steps[2].To;
   EXPECT_EQ(name.Side, Anchor::Start);
   EXPECT_GT(name.At.X, end.X);
   EXPECT_NEAR(name.At.Y, end.Y, 8);
@@ -118,7 +119,7 @@ TEST(SpiderChart, MovesNoNameThatHasRoom) {
   spider.Lines[0].Points.back().Y = 14;
   const Sketch sketch = SpiderSketch(spider, SpiderSheet);
 
-  const double alone = LinesDrawn(sketch)[2]->Steps[2].To.Y;
+  const double alone = LinesDrawn(sketch)[1]->Steps[2].To.Y;
   const double together = LinesDrawn(sketch)[0]->Steps[2].To.Y;
   const std::vector<double> heights = NameHeights(sketch);
   EXPECT_NEAR(heights[0], alone + 4.2, 0.1);
@@ -132,6 +133,14 @@ TEST(SpiderChart, TellsItsLinesApart) {
   std::set<std::pair<Ink, bool>> looks;
   for (const SceneOutline* line : LinesDrawn(sketch)) looks.emplace(line->Line.Colour, line->Line.IsDashed);
   EXPECT_THAT(looks, SizeIs(8));
+}
+
+TEST(SpiderChart, ShowsALineBelowTheNextOneThatCoincides) {
+  const Sketch sketch = SpiderSketch(ManyLines(2), SpiderSheet);
+
+  ASSERT_THAT(LinesDrawn(sketch), SizeIs(2));
+  EXPECT_FALSE(LinesDrawn(sketch)[0]->Line.IsDashed);
+  EXPECT_TRUE(LinesDrawn(sketch)[1]->Line.IsDashed) << "on top";
 }
 
 TEST(SpiderChart, DrawsTheEightMostImportantLines) {
