@@ -29,6 +29,8 @@ class Drawing : public Control {
   Drawing(Form& form, std::string_view name, std::string_view title) : Control(form, name), title_(title) {}
 
   std::string_view Title() const { return title_; }
+  // Requires a title that outlives the drawing.
+  void SetTitle(std::string_view title) { Mirror(title_, title); }
   const Scene& Picture();
   // Returns what the drawing shows, in words: the main dimensions and the supports.
   std::string Words();

@@ -4,7 +4,6 @@
 #include "base/text.h"
 #include "core/dialog_helpers.h"
 #include "files/shown_design.h"
-#include "sketches/tornado.h"
 
 namespace orby {
 namespace {
@@ -19,11 +18,12 @@ WhatMattersWindow::WhatMattersWindow(Program& program)
       design_(AsReported(program.project, program.session.catalogs)),
       figures_(FiguresInUse(design_)) {
   cmbFigure.Change = [this] { Compute(); };
+  cmbChart.Change = [this] { ShowChart(); };
   txtChange.Change = [this] { TakeChange(); };
   txtLow.Change = [this] { TakeRange(); };
   txtHigh.Change = [this] { TakeRange(); };
   grdNumbers.Change = [this] { ShowRange(); };
-  picTornado.Make = [this](const SheetSize& sheet) { return TornadoOf(sheet); };
+  picTornado.Make = [this](const SheetSize& sheet) { return ChartOn(sheet); };
   picTornado.Resize = [this] { picTornado.Outdate(); };
   picTornado.Command = [this](DrawingCommand command) { RunDrawingCommand(program_, picTornado, command); };
 }
@@ -34,6 +34,11 @@ void WhatMattersWindow::OnOpen() {
   for (const StudiedFigure* figure : figures_) items.push_back({.text = NameOf(*figure, design_.Units), .mark = {}});
   cmbFigure.Fill(std::move(items));
   cmbFigure.SetEnabled(!figures_.empty());
+  std::vector<ComboItem> charts;
+  charts.reserve(MattersCharts.size());
+  for (const MattersChart& chart : MattersCharts) charts.push_back({std::string(chart.Name)});
+  cmbChart.Fill(std::move(charts));
+  cmbChart.SetListIndex(matters_chart::Tornado);
   txtChange.SetText(NumberText(ToSingle(share_ * PercentOfAll)));
   const auto psup = std::ranges::find(figures_, "actual-psup", &StudiedFigure::Key);
   if (figures_.empty()) {
@@ -50,6 +55,7 @@ const StudiedFigure& WhatMattersWindow::Figure() const {
 
 void WhatMattersWindow::Compute() {
   if (!figures_.empty()) effects_ = EffectsOn(design_, program_.session.catalogs, Figure(), share_, ranges_);
+  spider_.reset();
   ShowEffects();
 }
 
@@ -69,6 +75,12 @@ void WhatMattersWindow::ShowEffects() {
                                          : "Of this design: " + EffectText(effects_.AtDesign));
   picTornado.Outdate();
   ShowRange();
+}
+
+void WhatMattersWindow::ShowChart() {
+  if (!cmbChart.HasSelection()) return;
+  picTornado.SetTitle(MattersCharts.at(static_cast<std::size_t>(cmbChart.ListIndex())).Title);
+  picTornado.Outdate();
 }
 
 void WhatMattersWindow::ShowRange() {
@@ -106,26 +118,13 @@ void WhatMattersWindow::TakeRange() {
   isShowing_ = false;
 }
 
-Sketch WhatMattersWindow::TornadoOf(const SheetSize& sheet) const {
-  Tornado tornado;
-  if (figures_.empty()) {
-    tornado.Title = NothingAnalysed;
-    return TornadoSketch(tornado, sheet);
-  }
-  const FigureValue& now = effects_.AtDesign;
-  tornado.Title = NameOf(Figure(), design_.Units);
-  tornado.Centre = now.IsThere() ? now.Value : 0;
-  tornado.CentreText = EffectText(now);
-  for (const std::size_t place : GreatestFirst(effects_.Numbers)) {
-    const SensitivityRow& row = effects_.Numbers[place].Row;
-    if (!now.IsThere() || row.Swing() == 0) continue;
-    tornado.Bars.push_back({.Name = row.Range.Name,
-                            .AtLow = row.AtLow.Value,
-                            .AtHigh = row.AtHigh.Value,
-                            .LowText = EffectText(row.AtLow),
-                            .HighText = EffectText(row.AtHigh)});
-  }
-  return TornadoSketch(tornado, sheet);
+Sketch WhatMattersWindow::ChartOn(const SheetSize& sheet) {
+  if (figures_.empty())
+    return TornadoSketch({.Title = std::string(NothingAnalysed), .CentreText = {}, .Bars = {}}, sheet);
+  const MattersView view{design_, program_.session.catalogs, Figure(), effects_};
+  if (cmbChart.ListIndex() != matters_chart::Spider) return TornadoSketch(TornadoOf(view), sheet);
+  if (!spider_) spider_ = SpiderOf(view);
+  return SpiderSketch(*spider_, sheet);
 }
 
 void WhatMattersWindow::Copy() { program_.platform.clipboard.SetText(grdNumbers.AsText()); }

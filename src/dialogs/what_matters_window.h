@@ -1,13 +1,15 @@
-// The window that tells what a figure of the project depends on: a table, a tornado chart, and where judgements change.
+// The window that tells what a figure of the project depends on: a table, a tornado or spider chart, and where
+// judgements change.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "controls/controls.h"
 #include "controls/grid.h"
 #include "core/program_form.h"
 #include "dialogs/drawing.h"
-#include "reports/sensitivity_report.h"
+#include "dialogs/matters_charts.h"
 
 namespace orby {
 
@@ -17,8 +19,10 @@ class WhatMattersWindow : public ProgramForm {
   Combo cmbFigure{*this, "cmbFigure", ComboKind::ListOnly};
   LabelledBox txtChange{*this, "txtChange", TextKind::Number, "Change of each number (%)"};
   Label lblPresent{*this, "lblPresent", ""};
+  Label lblChart{*this, "lblChart", "Chart"};
+  Combo cmbChart{*this, "cmbChart", ComboKind::ListOnly};
   Grid grdNumbers{*this, "grdNumbers"};
-  Drawing picTornado{*this, "picTornado", "Tornado chart"};
+  Drawing picTornado{*this, "picTornado", MattersCharts[matters_chart::Tornado].Title};
   Frame fraRange{*this, "fraRange", "Range of the marked number"};
   LabelledBox txtLow{*this, "txtLow", TextKind::Number, "Low"};
   LabelledBox txtHigh{*this, "txtHigh", TextKind::Number, "High"};
@@ -42,10 +46,11 @@ class WhatMattersWindow : public ProgramForm {
   // Computes all effects anew and shows them.
   void Compute();
   void ShowEffects();
+  void ShowChart();
   void ShowRange();
   void TakeChange();
   void TakeRange();
-  Sketch TornadoOf(const SheetSize& sheet) const;
+  Sketch ChartOn(const SheetSize& sheet);
   void Copy();
 
   Design design_;
@@ -53,7 +58,8 @@ class WhatMattersWindow : public ProgramForm {
   double share_ = 0.1;
   GivenRanges ranges_;
   FigureEffects effects_;
-  bool isShowing_ = false;  // the fields follow the marked row
+  std::optional<Spider> spider_;  // of the effects, after it was drawn
+  bool isShowing_ = false;        // the fields follow the marked row
 };
 
 // Shows the window for the open project until the user closes it. Throws as AsReported does.

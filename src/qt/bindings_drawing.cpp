@@ -10,7 +10,6 @@ namespace {
 class DrawingBinding : public WidgetBinding<DrawingView, Drawing> {
  public:
   DrawingBinding(BindingHost& host, Drawing& drawing) : WidgetBinding(host, drawing) {
-    widget_.setAccessibleName(ToQt(drawing.Title()));
     // No edit of the user, and outside the events of one.
     widget_.Resized = [this](const SheetSize& sheet) { RunGuarded([&] { control_.SetSheet(sheet); }); };
     widget_.Chosen = [this](DrawingCommand command) {
@@ -24,6 +23,9 @@ class DrawingBinding : public WidgetBinding<DrawingView, Drawing> {
   void Show() override {
     if (control_.Point && !widget_.Pointed) ReadOut();
     ShowState(widget_, control_);
+    if (const QString title = ToQt(control_.Title()); widget_.accessibleName() != title) {
+      widget_.setAccessibleName(title);
+    }
     widget_.ShowDrawing(control_);
   }
   bool RetainsSize() const override { return true; }

@@ -6,13 +6,13 @@
 
 #include "base/number_text.h"
 #include "controls/chart_fit.h"
+#include "sketches/plot_axes.h"
 
 namespace orby {
 namespace {
 
 constexpr double Edge = 10;
 constexpr double MapGap = 6;
-constexpr double TickLength = 5;
 constexpr double TitleHeight = 24;
 constexpr double WidestLegend = 190;
 constexpr double LegendShare = 0.34;  // of the width of the sheet
@@ -22,16 +22,12 @@ constexpr double OwnHalf = 5.5;
 constexpr double ReadRadius = 5;
 constexpr double SideDistance = 15;  // of a word from the line that turns
 constexpr int MostLevels = 10;
-constexpr int MostTicks = 8;
 
-constexpr SceneStroke MapFrame{.Colour = Ink::Text, .Width = 1};
 constexpr SceneStroke LevelLine{.Colour = Ink::Text, .Width = 0.9, .Opacity = 0.75};
 constexpr SceneStroke TurnCasing{.Colour = Ink::Paper, .Width = 6, .IsRound = true};
 constexpr SceneStroke TurnLine{.Colour = Ink::Bad, .Width = 3, .IsRound = true};
 constexpr SceneStroke ReadLine{.Colour = Ink::Text, .Width = 0.8, .IsDashed = true};
 constexpr SceneFill UnderText{Ink::Paper, 0.85};
-
-double StepOf(const std::vector<double>& ticks) { return ticks.size() > 1 ? ticks[1] - ticks[0] : 1; }
 
 // Breaks a text at blanks into lines that fit the room.
 std::vector<std::string> LinesIn(const std::string& text, double room) {
@@ -88,16 +84,17 @@ MapSketch::MapSketch(DesignMap map) : map_(std::move(map)) {
 class MapDrafting {
  public:
   MapDrafting(const MapSketch& sketch, const SheetSize& sheet)
-      : sketch_(sketch), map_(sketch.map_), draft_(sheet), plot_(draft_.Sheet()) {
-    across_ = TicksIn({map_.Across.From, map_.Across.To}, MostTicks);
-    up_ = TicksIn({map_.Up.From, map_.Up.To}, MostTicks);
-    double widest = 0;
-    for (const double tick : up_) widest = std::max(widest, WidthOf(TickText(tick, StepOf(up_))));
+      : sketch_(sketch),
+        map_(sketch.map_),
+        draft_(sheet),
+        plot_(draft_.Sheet()),
+        across_({map_.Across.From, map_.Across.To}),
+        up_({map_.Up.From, map_.Up.To}) {
     legend_ = std::min(WidestLegend, sheet.Width * LegendShare);
-    plot_.Left += Edge + LegendLine + MapGap + widest + TickLength;
+    plot_.Left += Edge + LegendLine + MapGap + up_.WidestText() + PlotAxis::TickLength;
     plot_.Top += Edge + TitleHeight;
     plot_.Right -= Edge + legend_ + 2 * MapGap;
-    plot_.Bottom -= Edge + 2 * LegendLine + MapGap + TickLength;
+    plot_.Bottom -= Edge + 2 * LegendLine + MapGap + PlotAxis::TickLength;
   }
 
   const Box& Plot() const { return plot_; }
@@ -154,23 +151,9 @@ class MapDrafting {
   }
 
   void Frame() {
-    Trace ticks;
-    const auto range = [](const MapAxis& axis) { return ChartRange{axis.From, axis.To}; };
-    const double numbersAt = plot_.Bottom + TickLength + LegendLine;
-    for (const double tick : across_) {
-      const double x = plot_.Left + range(map_.Across).ShareOf(tick) * plot_.Width();
-      ticks.Segment({x, plot_.Bottom}, {x, plot_.Bottom + TickLength});
-      draft_.Write({TickText(tick, StepOf(across_))}, {x, numbersAt - 3}, Anchor::Middle, plot_.Width() / MostTicks);
-    }
-    for (const double tick : up_) {
-      const double y = plot_.Bottom - range(map_.Up).ShareOf(tick) * plot_.Height();
-      ticks.Segment({plot_.Left - TickLength, y}, {plot_.Left, y});
-      draft_.Write({TickText(tick, StepOf(up_))}, {plot_.Left - TickLength - 3, y + TextSize / 3}, Anchor::End,
-                   plot_.Left);
-    }
-    draft_.Draw(std::move(ticks), MapFrame);
-    draft_.Draw(Trace().Rectangle(plot_), MapFrame);
-    draft_.Write({map_.Across.Title}, {plot_.Middle().X, numbersAt + LegendLine}, Anchor::Middle, plot_.Width());
+    DrawAxes(draft_, plot_, across_, up_);
+    draft_.Write({map_.Across.Title}, {plot_.Middle().X, EndOfNumbers(plot_) + LegendLine}, Anchor::Middle,
+                 plot_.Width());
     draft_.Write({map_.Up.Title}, {Edge + TextSize, plot_.Middle().Y}, Anchor::Middle, plot_.Height(), -90);
     draft_.WriteBold(map_.Title, {Edge, Edge + TextSize}, Anchor::Start);
   }
@@ -205,7 +188,7 @@ class MapDrafting {
     }
   }
 
-  std::string LevelText(std::size_t level) const { return TickText(sketch_.levels_[level], StepOf(sketch_.levels_)); }
+  std::string LevelText(std::size_t level) const { return TickTextAmong(sketch_.levels_, sketch_.levels_[level]); }
 
   void Turn() {
     draft_.Draw(TraceOf(map_.Turn.Lines), TurnCasing);
@@ -342,9 +325,9 @@ class MapDrafting {
   const DesignMap& map_;
   Drafting draft_;
   Box plot_;
+  PlotAxis across_;
+  PlotAxis up_;
   double legend_ = 0;
-  std::vector<double> across_;
-  std::vector<double> up_;
   std::vector<Box> taken_;  // by texts and marks
 };
 

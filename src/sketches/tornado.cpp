@@ -42,7 +42,7 @@ class TornadoDrafting {
                     draft_.Sheet().Bottom - Edge - 2 * LegendLine);
     }
     if (const std::size_t left = tornado_.Bars.size() - shown_; left > 0) {
-      draft_.Fact(std::to_string(left) + " more are not drawn");
+      draft_.Fact(NotDrawnInWords(left));
     }
     return draft_.Take();
   }
@@ -59,7 +59,7 @@ class TornadoDrafting {
                  draft_.Sheet().Width() * NameShare - Edge);
     DrawHalf(bar.AtLow, bar.LowText, {top + row_ * 0.12, middle}, LowInk);
     DrawHalf(bar.AtHigh, bar.HighText, {middle, top + row_ * 0.88}, HighInk);
-    draft_.Fact(bar.Name + ": " + bar.LowText + " at the low end, " + bar.HighText + " at the high end");
+    draft_.Fact(EndsInWords(bar.Name, bar.LowText, bar.HighText));
   }
 
   struct Band {
@@ -86,6 +86,12 @@ class TornadoDrafting {
 };
 
 }  // namespace
+
+std::string EndsInWords(const std::string& name, const std::string& lowText, const std::string& highText) {
+  return name + ": " + lowText + " at the low end, " + highText + " at the high end";
+}
+
+std::string NotDrawnInWords(std::size_t count) { return std::to_string(count) + " more are not drawn"; }
 
 Sketch TornadoSketch(const Tornado& tornado, const SheetSize& sheet) { return TornadoDrafting(tornado, sheet).Make(); }
 

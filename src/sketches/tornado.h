@@ -23,6 +23,12 @@ struct Tornado {
   std::vector<TornadoBar> Bars;  // the longest first
 };
 
+// Returns what a figure is at both ends of an input, in words.
+std::string EndsInWords(const std::string& name, const std::string& lowText, const std::string& highText);
+
+// Returns "3 more are not drawn".
+std::string NotDrawnInWords(std::size_t count);
+
 // Draws a bar from the centre to each end, that of the low end in the upper half of its row. As many bars are drawn as
 // have room; the facts tell how many are left out.
 Sketch TornadoSketch(const Tornado& tornado, const SheetSize& sheet);

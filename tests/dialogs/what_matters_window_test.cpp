@@ -134,6 +134,60 @@ TEST_F(AWhatMattersWindow, DrawsTheNumbersWithTheGreatestEffectOnTop) {
   EXPECT_THAT(words, Not(HasSubstr("Roof Bolt Length"))) << "it has no effect";
 }
 
+TEST_F(AWhatMattersWindow, DrawsTheSpiderOnlyWhenItIsChosen) {
+  EXPECT_EQ(ItemTexts(window.cmbChart), (std::vector<std::string>{"Tornado", "Spider"}));
+  EXPECT_EQ(window.cmbChart.Text(), "Tornado");
+  EXPECT_EQ(window.picTornado.Title(), "Tornado chart");
+  const Scene tornado = window.picTornado.Picture();
+
+  window.cmbChart.SetText("Spider");
+
+  EXPECT_EQ(window.picTornado.Title(), "Spider chart");
+  EXPECT_NE(window.picTornado.Picture(), tornado);
+  window.cmbChart.SetText("Tornado");
+  EXPECT_EQ(window.picTornado.Picture(), tornado);
+}
+
+TEST_F(AWhatMattersWindow, TellsTheSpiderInTheFiguresOfTheTable) {
+  Choose("Suggested PSUP");
+  window.cmbChart.SetText("Spider");
+  window.picTornado.SetSheet({500, 400});
+
+  const std::string words = window.picTornado.Words();
+
+  EXPECT_THAT(words, StartsWith("this design: "));
+  EXPECT_THAT(words, HasSubstr("Depth of Cover: " + Cell("Depth of Cover (ft)", AtLow) + " at the low end, " +
+                               Cell("Depth of Cover (ft)", AtHigh) + " at the high end"));
+  EXPECT_LT(words.find("CMRR"), words.find("Depth of Cover")) << "the greatest effect first";
+  EXPECT_THAT(words, Not(HasSubstr("Roof Bolt Length"))) << "it has no effect";
+}
+
+TEST_F(AWhatMattersWindow, FollowsARangeWithItsSpider) {
+  window.cmbChart.SetText("Spider");
+  Choose("Suggested PSUP");
+  window.grdNumbers.ClickRow(RowOf("Depth of Cover (ft)"));
+  const Scene before = window.picTornado.Picture();
+
+  window.txtHigh.SetText("2000");
+
+  EXPECT_NE(window.picTornado.Picture(), before);
+  EXPECT_THAT(window.picTornado.Words(), HasSubstr(Cell("Depth of Cover (ft)", AtHigh) + " at the high end"));
+}
+
+TEST_F(AWhatMattersWindow, CopiesTheSpiderAndSavesItUnderItsName) {
+  program.project.CurrentFile = "/home/user/north mains.ORB";
+  window.cmbChart.SetText("Spider");
+  platform.fileDialogs.answers.push_back("/home/user/spider.svg");
+
+  window.picTornado.Command(DrawingCommand::Copy);
+  window.picTornado.Command(DrawingCommand::SaveSvg);
+
+  EXPECT_EQ(platform.clipboard.scene, window.picTornado.Picture());
+  ASSERT_THAT(platform.fileDialogs.asked, testing::SizeIs(1));
+  EXPECT_EQ(platform.fileDialogs.asked[0].fileName, "north mains Spider chart.svg");
+  EXPECT_THAT(platform.files.files["/home/user/spider.svg"], StartsWith("<"));
+}
+
 TEST_F(AWhatMattersWindow, CopiesItsTableForASpreadsheet) {
   window.cmdCopy.Press();
 
@@ -149,6 +203,7 @@ TEST_F(AWhatMattersWindow, SaysThatNothingIsAnalysed) {
   next.Open();
 
   next.txtChange.SetText("20");
+  next.cmbChart.SetText("Spider");
 
   EXPECT_FALSE(next.cmbFigure.Enabled());
   EXPECT_EQ(next.lblPresent.Caption(), "The project analyses no support.");

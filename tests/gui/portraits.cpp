@@ -335,6 +335,8 @@ class Sitting {
   void TakeWhatMatters() {
     scripts_.Add([&](QDialog& window) {
       photographer_.Take(window, "what-matters");
+      Find<QComboBox>(window, "cmbChart").setCurrentText("Spider");
+      photographer_.Take(window, "what-matters-spider");
       window.close();
     });
     ShowWhatMatters(program_);
