@@ -110,7 +110,7 @@ TEST(DesignChart, OnSeveralThreadsIsTheSame) {
 // Between all neighbours that differ, the judgement is another one just before and just after the turn.
 TEST(DesignChart, FindsWhereAJudgementTurnsBetweenPoints) {
   const Catalogs lists = BuiltInLists();
-  const VariedAxis depths{DepthField, EvenValues(200, 1000, 9)};
+  const VariedAxis depths{DepthField, EvenValues(200, 2600, 9)};
   const VariedAxis ratings{RatingField, EvenValues(35, 65, 7)};
   const FigureChart chart =
       ChartFigure(FullDesign(), lists, *FigureWithKey("suggested-psup"), JudgedPsup, depths, ratings);
@@ -128,7 +128,7 @@ TEST(DesignChart, FindsWhereAJudgementTurnsBetweenPoints) {
       varied.Set(RatingField, ratings.Values[row]);
       for (const auto& [step, result] : {std::pair(-0.001, chart.Results[row * 9 + column]),
                                          std::pair(0.001, chart.Results[row * 9 + column + 1])}) {
-        varied.Set(DepthField, static_cast<Single>(200 + 100 * (static_cast<double>(column) + share + step)));
+        varied.Set(DepthField, static_cast<Single>(200 + 300 * (static_cast<double>(column) + share + step)));
         varied.Refresh();
         EXPECT_EQ(varied.ResultOf(JudgedPsup), result) << row << " " << column;
       }
