@@ -316,8 +316,8 @@ class MapDrafting {
     for (std::size_t i = 0; i < sketch_.levels_.size(); ++i) {
       levels.append(i == 0 ? "Contour lines at " : ", ").append(LevelText(i));
     }
-    for (std::string text : {std::move(levels), map_.Turn.Text, map_.Own ? std::string() : OwnText(), BlankText()}) {
-      if (!text.empty()) draft_.Fact(std::move(text));
+    for (const std::string& text : {levels, map_.Turn.Text, map_.Own ? std::string() : OwnText(), BlankText()}) {
+      if (!text.empty()) draft_.Fact(text);
     }
   }
 
