@@ -157,4 +157,10 @@ WrappedLine WrapDescriptionLine(std::string_view line) {
   return wrapped;
 }
 
+std::string Shortened(const std::string& text, std::size_t most) {
+  constexpr std::string_view Points = "...";
+  if (CharacterCount(text) <= most) return text;
+  return text.substr(0, CharacterOffset(text, most - Points.size())).append(Points);
+}
+
 }  // namespace orby

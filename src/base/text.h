@@ -15,6 +15,9 @@ std::size_t CharacterCount(std::string_view text);
 // Returns the byte offset of the character at a zero-based position, or the size of the text when it is shorter.
 std::size_t CharacterOffset(std::string_view text, std::size_t position);
 
+// Returns the text, or its start and three points if it has more characters.
+std::string Shortened(const std::string& text, std::size_t most);
+
 // Returns the last `count` characters.
 std::string_view LastCharacters(std::string_view text, std::size_t count);
 

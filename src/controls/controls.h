@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -163,6 +164,15 @@ struct ComboItem {
   double data = 0;          // a whole number
   std::string_view mark{};  // the picture before the text, in a list
 };
+
+// Returns an item for each element of a range, named by a function of it.
+template <class Range, class NameOf = std::identity>
+std::vector<ComboItem> ItemsNamed(const Range& range, NameOf nameOf = {}) {
+  std::vector<ComboItem> items;
+  items.reserve(std::size(range));
+  for (const auto& element : range) items.push_back({.text = std::string(std::invoke(nameOf, element)), .mark = {}});
+  return items;
+}
 
 // A list with a text field. The text and the selected item are separate: a text that equals no item stays, and no item
 // is selected.

@@ -191,8 +191,11 @@ MapTurn TurnOfJudgement(const StudiedVerdict& judged, const ComputedChart& compu
   return turn;
 }
 
-double GridPlace(const ChartSide& side, Single value, std::size_t points) {
-  return ChartRange{side.From, side.To}.ShareOf(value) * static_cast<double>(points - 1);
+// Returns the distance of the values that are read out.
+double ReadingStep(const ChartSide& side) {
+  constexpr int MostReadings = 101;  // along a side
+  const std::vector<double> ticks = TicksIn({side.From, side.To}, MostReadings);
+  return ticks.size() > 1 ? ticks[1] - ticks[0] : static_cast<double>(side.To) - side.From;
 }
 
 std::string SideReading(const ChartSide& side, Single value, UnitSystem units) {
@@ -200,6 +203,22 @@ std::string SideReading(const ChartSide& side, Single value, UnitSystem units) {
 }
 
 }  // namespace
+
+double ChartSide::PlaceOf(Single value, std::size_t points) const {
+  return ChartRange{From, To}.ShareOf(value) * static_cast<double>(points - 1);
+}
+
+double ChartSide::ValueAt(double place, std::size_t points) const {
+  return std::lerp(static_cast<double>(From), static_cast<double>(To), place / static_cast<double>(points - 1));
+}
+
+Single ChartSide::Reading(double value) const {
+  const double step = ReadingStep(*this);
+  const double rounded = TextValue(TickText(std::round(value / step) * step, step));
+  return std::clamp(static_cast<Single>(rounded), From, To);
+}
+
+Single ChartSide::NextReading(double value, int way) const { return Reading(value + way * ReadingStep(*this)); }
 
 std::vector<ChartSubject> ChartSubjects(const Design& design, const Catalogs& catalogs, const PriceList& prices) {
   std::vector<ChartSubject> subjects;
@@ -268,8 +287,8 @@ DesignMap MapOf(const Design& design, const ChartRequest& request, ComputedChart
     map.Blank = SearchedText(subject, units) + " holds";
     map.Turn = TurnOfNumber(design, subject, map.Grid);
   }
-  const ScenePoint own{GridPlace(request.Across, request.Across.Number->Field.In(design), request.Points),
-                       GridPlace(request.Up, request.Up.Number->Field.In(design), request.Points)};
+  const ScenePoint own{request.Across.PlaceOf(request.Across.Number->Field.In(design), request.Points),
+                       request.Up.PlaceOf(request.Up.Number->Field.In(design), request.Points)};
   const auto last = static_cast<double>(request.Points - 1);
   if (own.X >= 0 && own.X <= last && own.Y >= 0 && own.Y <= last) map.Own = own;
   return map;

@@ -33,6 +33,14 @@ struct ChartSide {
   const DesignNumber* Number = nullptr;
   Single From = 0;
   Single To = 0;
+
+  // Returns the place of a value in points of the grid, counted from 0, and the value at a place.
+  double PlaceOf(Single value, std::size_t points) const;
+  double ValueAt(double place, std::size_t points) const;
+  // Values are read out at round distances. Returns the one nearest to a value, and the next one after it (way 1) or
+  // before it (way -1).
+  Single Reading(double value) const;
+  Single NextReading(double value, int way) const;
 };
 
 struct ChartRequest {

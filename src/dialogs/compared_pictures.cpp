@@ -17,26 +17,6 @@ namespace {
 
 constexpr double PictureGap = 6;
 
-UnitSuffix SuffixOf(Measure measure) {
-  switch (measure) {
-    case Measure::Length: return UnitSuffix::Length;
-    case Measure::LineLoad: return UnitSuffix::LineLoad;
-    case Measure::Force: return UnitSuffix::Force;
-    case Measure::Plain:
-    case Measure::Degrees: break;
-  }
-  return UnitSuffix::None;
-}
-
-Measure MeasureOf(CurveFigure figure) {
-  switch (figure) {
-    case CurveFigure::EntryLoad: return Measure::LineLoad;
-    case CurveFigure::IntersectionLoad: return Measure::Force;
-    case CurveFigure::Support: break;
-  }
-  return Measure::Plain;
-}
-
 double Factor(Measure measure, UnitSystem from, UnitSystem to) {
   return FactorBetween({.Suffix = SuffixOf(measure), .Before = {}}, from, to);
 }
@@ -76,12 +56,6 @@ ChartSeries CurveOf(const ComparedDesign& design, const std::string& name, Integ
 }
 
 }  // namespace
-
-std::string Shortened(const std::string& text, std::size_t most) {
-  constexpr std::string_view Points = "...";
-  if (CharacterCount(text) <= most) return text;
-  return text.substr(0, CharacterOffset(text, most - Points.size())).append(Points);
-}
 
 Scene SectionOf(const ComparedDesign& design, const Catalogs& catalogs, const SheetSize& sheet) {
   if (!design.Row.IsRead()) return {.Width = sheet.Width, .Height = sheet.Height, .Outlines = {}, .Labels = {}};

@@ -10,9 +10,6 @@
 
 namespace orby {
 
-// Returns the text, or its start and three points if it has more characters.
-std::string Shortened(const std::string& text, std::size_t most);
-
 // Returns the section of an entry of the design with all of its supports, without texts. Empty for a design that could
 // not be read.
 Scene SectionOf(const ComparedDesign& design, const Catalogs& catalogs, const SheetSize& sheet);

@@ -16,8 +16,6 @@ constexpr double TallestSections = 110;  // points
 constexpr double TallestCurves = 0.75;   // of the height of a page without its margins
 constexpr double ColumnGap = 0.008;      // of the width of the text
 
-constexpr std::array<std::string_view, 3> IdentityKeys{"file", "title", "reason"};
-
 // The columns of the table: the heads of the rows, and the designs.
 std::vector<PageColumn> ColumnsFor(std::size_t designs) {
   const double heads = designs > MostUpright ? 0.26 : 0.4;

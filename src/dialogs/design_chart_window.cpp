@@ -1,11 +1,9 @@
 #include "dialogs/design_chart_window.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "base/number_text.h"
 #include "base/text.h"
-#include "controls/chart_fit.h"
 #include "core/description.h"
 #include "core/dialog_helpers.h"
 #include "core/messages.h"
@@ -13,6 +11,7 @@
 #include "dialogs/project_sheet.h"
 #include "dialogs/save_in_format.h"
 #include "dialogs/study_charts.h"
+#include "dialogs/study_texts.h"
 #include "drawings/scene_svg.h"
 #include "files/shown_design.h"
 #include "reports/printing.h"
@@ -26,35 +25,7 @@ constexpr std::size_t LeastPoints = 2;
 constexpr std::size_t MostPoints = 200;
 constexpr std::size_t WorkAtOnce = 4000;  // analyses that take no longer than a frame
 constexpr int MillisecondsBetweenLooks = 25;
-constexpr int ReadingSteps = 101;     // along a side, at most
 constexpr double UnitsOfPoint = 1.3;  // of a drawing on paper, so that its texts are as large as small print
-constexpr std::string_view NothingToChart = "The project analyses no support.";
-
-// Returns the distance of the points of a side that are read out.
-double ReadingStep(const ChartSide& side) {
-  const std::vector<double> ticks = TicksIn({side.From, side.To}, ReadingSteps);
-  return ticks.size() > 1 ? ticks[1] - ticks[0] : static_cast<double>(side.To) - side.From;
-}
-
-Single RoundedWithin(const ChartSide& side, double value) {
-  const double step = ReadingStep(side);
-  const double rounded = TextValue(TickText(std::round(value / step) * step, step));
-  return std::clamp(static_cast<Single>(rounded), side.From, side.To);
-}
-
-// Returns the next point that is read out, up or down from a value.
-Single NextReading(const ChartSide& side, double value, int way) {
-  return RoundedWithin(side, value + way * ReadingStep(side));
-}
-
-double PlaceOnSide(const ChartSide& side, Single value, std::size_t points) {
-  return ChartRange{side.From, side.To}.ShareOf(value) * static_cast<double>(points - 1);
-}
-
-double ValueOnSide(const ChartSide& side, double place, std::size_t points) {
-  return std::lerp(static_cast<double>(side.From), static_cast<double>(side.To),
-                   place / static_cast<double>(points - 1));
-}
 
 }  // namespace
 
@@ -90,18 +61,12 @@ void DesignChartWindow::TieSide(const Side& side) {
 }
 
 void DesignChartWindow::OnOpen() {
-  std::vector<ComboItem> items;
-  for (const ChartSubject& subject : subjects_) items.push_back({.text = subject.Name, .mark = {}});
-  cmbSubject.Fill(std::move(items));
-  items.clear();
-  for (const StudiedVerdict& judged : judgements_) items.push_back({.text = VerdictName(judged), .mark = {}});
-  cmbJudged.Fill(std::move(items));
-  items.clear();
-  for (const DesignNumber* number : numbers_) {
-    items.push_back({.text = WithUnitOf(NameOf(*number), number->Unit, design_.Units), .mark = {}});
+  cmbSubject.Fill(ItemsNamed(subjects_, &ChartSubject::Name));
+  cmbJudged.Fill(ItemsNamed(judgements_, VerdictName));
+  for (Combo* list : {&cmbUp, &cmbAcross}) {
+    list->Fill(ItemsNamed(
+        numbers_, [this](const auto* number) { return WithUnitOf(NameOf(*number), number->Unit, design_.Units); }));
   }
-  cmbUp.Fill(items);
-  cmbAcross.Fill(std::move(items));
   const auto placeOf = [&](std::string_view label) {
     return static_cast<int>(std::ranges::find(numbers_, label, &DesignNumber::Label) - numbers_.begin());
   };
@@ -153,7 +118,7 @@ std::string DesignChartWindow::ReadSide(const Side& side, ChartSide& read) const
 }
 
 std::string DesignChartWindow::ReadFields(ChartRequest& request) const {
-  if (subjects_.empty()) return std::string(NothingToChart);
+  if (subjects_.empty()) return std::string(NothingAnalysed);
   if (!cmbSubject.HasSelection()) return "Choose what the chart shows.";
   request.Subject = subjects_[static_cast<std::size_t>(cmbSubject.ListIndex())];
   if (cmbJudged.HasSelection()) request.Judged = judgements_[static_cast<std::size_t>(cmbJudged.ListIndex())];
@@ -231,8 +196,8 @@ void DesignChartWindow::ReadAt(const ScenePoint& place) {
   const std::optional<ScenePoint> at = map_->PointAt(place, picChart.Sheet());
   if (!at) return;
   const Reading before = read_.value_or(Reading{-1, -1});
-  read_ = Reading{RoundedWithin(shown_.Across, ValueOnSide(shown_.Across, at->X, shown_.Points)),
-                  RoundedWithin(shown_.Up, ValueOnSide(shown_.Up, at->Y, shown_.Points))};
+  read_ = Reading{shown_.Across.Reading(shown_.Across.ValueAt(at->X, shown_.Points)),
+                  shown_.Up.Reading(shown_.Up.ValueAt(at->Y, shown_.Points))};
   if (read_->Across != before.Across || read_->Up != before.Up) ShowReading();
 }
 
@@ -245,9 +210,9 @@ void DesignChartWindow::MoveReading(DrawingKey key) {
   Reading from = read_.value_or(Reading{shown_.Across.Number->Field.In(design_), shown_.Up.Number->Field.In(design_)});
   const bool isForward = key == DrawingKey::Right || key == DrawingKey::Up;
   if (key == DrawingKey::Left || key == DrawingKey::Right) {
-    from.Across = NextReading(shown_.Across, from.Across, isForward ? 1 : -1);
+    from.Across = shown_.Across.NextReading(from.Across, isForward ? 1 : -1);
   } else {
-    from.Up = NextReading(shown_.Up, from.Up, isForward ? 1 : -1);
+    from.Up = shown_.Up.NextReading(from.Up, isForward ? 1 : -1);
   }
   read_ = Reading{std::clamp(from.Across, shown_.Across.From, shown_.Across.To),
                   std::clamp(from.Up, shown_.Up.From, shown_.Up.To)};
@@ -266,9 +231,9 @@ Sketch DesignChartWindow::ChartOn(const SheetSize& sheet) const {
   if (!map_) return EmptyStudySketch(fault_, sheet);
   std::optional<MapReading> reading;
   if (read_) {
-    reading = MapReading{
-        {PlaceOnSide(shown_.Across, read_->Across, shown_.Points), PlaceOnSide(shown_.Up, read_->Up, shown_.Points)},
-        lblRead.Caption()};
+    reading =
+        MapReading{{shown_.Across.PlaceOf(read_->Across, shown_.Points), shown_.Up.PlaceOf(read_->Up, shown_.Points)},
+                   lblRead.Caption()};
   }
   return map_->On(sheet, reading);
 }

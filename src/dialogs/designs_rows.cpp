@@ -74,11 +74,8 @@ void DesignsWindow::ShowSortingList(Columns shown) {
   const int sorted = cmbSort.ListIndex();
   const Column* by = sorted < 0 ? nullptr : shown_[static_cast<std::size_t>(sorted)];
   shown_ = std::move(shown);
-  std::vector<ComboItem> items;
-  items.reserve(shown_.size());
-  for (const Column* column : shown_) items.push_back({.text = column->Head, .mark = {}});
   isShowing_ = true;
-  cmbSort.Fill(std::move(items));
+  cmbSort.Fill(ItemsNamed(shown_, &Column::Head));
   const auto found = std::ranges::find(shown_, by);
   cmbSort.SetListIndex(found == shown_.end() ? 0 : static_cast<int>(found - shown_.begin()));
   isShowing_ = false;

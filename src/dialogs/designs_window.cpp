@@ -23,15 +23,6 @@ constexpr std::array<std::string_view, 6> StateNames{"All designs", "Falls short
                                                      "To check",    "All of it holds", "File cannot be read"};
 constexpr std::array<std::string_view, 3> UnitsNames{"As the designs", "English", "Metric"};
 
-template <class Names>
-void FillWith(Combo& list, const Names& names) {
-  std::vector<ComboItem> items;
-  items.reserve(names.size());
-  for (const std::string_view name : names) items.push_back({.text = std::string(name), .mark = {}});
-  list.Fill(std::move(items));
-  list.SetListIndex(0);
-}
-
 }  // namespace
 
 DesignsWindow::DesignsWindow(Program& program) : DesignsControls(program) {
@@ -75,8 +66,9 @@ void DesignsWindow::OnOpen() {
 
 void DesignsWindow::FillLists() {
   isShowing_ = true;
-  FillWith(cmbState, StateNames);
-  FillWith(cmbUnits, UnitsNames);
+  cmbState.Fill(ItemsNamed(StateNames));
+  cmbUnits.Fill(ItemsNamed(UnitsNames));
+  for (Combo* list : {&cmbState, &cmbUnits}) list->SetListIndex(0);
   isShowing_ = false;
 }
 

@@ -17,16 +17,15 @@ constexpr std::string_view PsupName = "Sug.PSUP";
 
 struct Dependent {
   std::string_view label;
-  Measure measure;
   std::string_view legend;
   std::string_view shortName;
 };
 
 // By CurveFigure.
 constexpr std::array<Dependent, 3> Dependents{{
-    {"Suggested PSUP", Measure::Plain, PsupName, PsupName},
-    {"Rock Load Entries", Measure::LineLoad, "Rock Load Straights", "RockLoad"},
-    {"Rock Load Intersections", Measure::Force, "Rock Load Intersections", "RockLoad"},
+    {"Suggested PSUP", PsupName, PsupName},
+    {"Rock Load Entries", "Rock Load Straights", "RockLoad"},
+    {"Rock Load Intersections", "Rock Load Intersections", "RockLoad"},
 }};
 
 // By ReferenceKind.
@@ -44,19 +43,10 @@ const auto& At(const Table& table, int index) {
 
 const Dependent& DependentOf(Integer curveIndex) { return At(Dependents, DependentVariable(curveIndex)); }
 
-std::string_view SuffixOf(Measure measure, UnitSystem units) {
-  switch (measure) {
-    case Measure::Degrees: return " (deg)";
-    case Measure::Length: return UnitLabel(UnitSuffix::Length, units);
-    case Measure::LineLoad: return UnitLabel(UnitSuffix::LineLoad, units);
-    case Measure::Force: return UnitLabel(UnitSuffix::Force, units);
-    case Measure::Plain: break;
-  }
-  return {};
-}
-
 std::string TitleOf(std::string_view label, Measure measure, UnitSystem units) {
-  return std::string(label).append(SuffixOf(measure, units));
+  if (measure == Measure::Degrees) return std::string(label) + " (deg)";
+  const UnitSuffix suffix = SuffixOf(measure);
+  return std::string(label).append(suffix == UnitSuffix::None ? std::string_view() : UnitLabel(suffix, units));
 }
 
 bool HasHorizontal(GridLines lines) { return lines == GridLines::Horizontal || lines == GridLines::Both; }
@@ -73,13 +63,23 @@ GridLines LinesOf(const Chart& chart) {
 
 }  // namespace
 
+UnitSuffix SuffixOf(Measure measure) {
+  switch (measure) {
+    case Measure::Length: return UnitSuffix::Length;
+    case Measure::LineLoad: return UnitSuffix::LineLoad;
+    case Measure::Force: return UnitSuffix::Force;
+    case Measure::Plain:
+    case Measure::Degrees: break;
+  }
+  return UnitSuffix::None;
+}
+
 Integer DependentVariable(Integer curveIndex) { return NumberOf(SubjectOfCurve(curveIndex).Figure); }
 
 AxisTitles ComposedTitles(Integer curveIndex, UnitSystem units) {
   const CurveSubject& subject = SubjectOfCurve(curveIndex);
-  const Dependent& dependent = DependentOf(curveIndex);
   return {TitleOf(subject.Independent, subject.IndependentMeasure, units),
-          TitleOf(dependent.label, dependent.measure, units)};
+          TitleOf(DependentOf(curveIndex).label, MeasureOf(subject.Figure), units)};
 }
 
 void ComposeAxisTitles(Program& program) {

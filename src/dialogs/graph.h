@@ -34,6 +34,9 @@ std::string DependentName(Integer curveIndex);
 // Returns the curve in words, such as "Suggested PSUP vs Depth of Cover".
 std::string CurveTitle(Integer curveIndex);
 
+// Returns the quantity of a measure, whose unit it has. None for plain numbers and degrees.
+UnitSuffix SuffixOf(Measure measure);
+
 // Returns the titles of both axes as they are composed: the variables' labels with the units.
 struct AxisTitles {
   std::string X;

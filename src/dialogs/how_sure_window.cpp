@@ -45,14 +45,8 @@ HowSureWindow::HowSureWindow(Program& program, UnsavedStudy& unsaved)
 }
 
 void HowSureWindow::OnOpen() {
-  std::vector<ComboItem> schemes;
-  schemes.reserve(std::size(Schemes));
-  for (const Scheme scheme : Schemes) schemes.push_back({std::string(SchemeName(scheme))});
-  cmbScheme.Fill(std::move(schemes));
-  std::vector<ComboItem> charts;
-  charts.reserve(std::size(StudyChartNames));
-  for (const std::string_view name : StudyChartNames) charts.push_back({std::string(name)});
-  cmbChart.Fill(std::move(charts));
+  cmbScheme.Fill(ItemsNamed(Schemes, SchemeName));
+  cmbChart.Fill(ItemsNamed(StudyChartNames));
   cmbChart.SetListIndex(0);
   cmdStop.SetEnabled(false);
   LoadSettings();

@@ -140,10 +140,7 @@ void SideBySideWindow::Refresh(int marked) {
 
 void SideBySideWindow::ShowVariants(int marked) {
   const std::vector<KeptVariant>& variants = Compared().Variants;
-  std::vector<ComboItem> items;
-  items.reserve(variants.size());
-  for (const KeptVariant& variant : variants) items.push_back({.text = variant.Name, .mark = {}});
-  lstVariants.Fill(std::move(items));
+  lstVariants.Fill(ItemsNamed(variants, &KeptVariant::Name));
   const bool hasMarked = marked >= 0 && static_cast<std::size_t>(marked) < variants.size();
   if (hasMarked) lstVariants.PointAt(marked);
   txtName.SetText(hasMarked ? variants[static_cast<std::size_t>(marked)].Name : std::string());

@@ -30,7 +30,7 @@ class SideBySideWindow : public ProgramForm {
   Button cmdAddVariant{*this, "cmdAddVariant", "Add &Variant", [this] { AddVariant(); }};
   Button cmdForget{*this, "cmdForget", "For&get", [this] { Forget(); }};
   LabelledBox txtName{*this, "txtName", TextKind::Free, "Name"};
-  Button cmdRename{*this, "cmdRename", "Re&name", [this] { Rename(); }};
+  Button cmdRename{*this, "cmdRename", "Ren&ame", [this] { Rename(); }};
 
   // the comparison
   TabSet tabSide{*this, "tabSide", {"&Table", "C&urves"}};
@@ -44,7 +44,7 @@ class SideBySideWindow : public ProgramForm {
   Label lblState{*this, "lblState", ""};
 
   // commands
-  Button cmdPrint{*this, "cmdPrint", "Pr&int...", [this] { Print(); }};
+  Button cmdPrint{*this, "cmdPrint", "Pri&nt...", [this] { Print(); }};
   Button cmdSaveAs{*this, "cmdSaveAs", "&Save As...", [this] { SaveAs(); }};
   Button cmdCopy{*this, "cmdCopy", "&Copy Table", [this] { Copy(); }};
   Button cmdClose{*this, "cmdClose", "Close", [this] { Close(); }};

@@ -5,25 +5,16 @@
 namespace orby {
 
 StudyRunner::StudyRunner(Design design, Catalogs catalogs, Study study)
-    : design_(std::move(design)), catalogs_(std::move(catalogs)), study_(std::move(study)) {
-  thread_ = std::thread([this] { Run(); });
-}
+    : design_(std::move(design)),
+      catalogs_(std::move(catalogs)),
+      study_(std::move(study)),
+      work_([this](const std::stop_token& stop) { Run(stop); }) {}
 
-StudyRunner::~StudyRunner() {
-  Cancel();
-  if (thread_.joinable()) thread_.join();
-}
-
-void StudyRunner::Run() {
-  try {
-    result_ = RunStudy(design_, catalogs_, study_, 0, [this](const StudyProgress& progress) {
-      batchesDone_ = progress.BatchesDone;
-      return !isCancelled_;
-    });
-  } catch (...) {
-    error_ = std::current_exception();
-  }
-  hasEnded_ = true;
+void StudyRunner::Run(const std::stop_token& stop) {
+  result_ = RunStudy(design_, catalogs_, study_, 0, [&](const StudyProgress& progress) {
+    batchesDone_ = progress.BatchesDone;
+    return !stop.stop_requested();
+  });
 }
 
 StudyProgress StudyRunner::Progress() const {
@@ -33,8 +24,7 @@ StudyProgress StudyRunner::Progress() const {
 }
 
 StudyResult StudyRunner::Take() {
-  thread_.join();
-  if (error_) std::rethrow_exception(error_);
+  work_.Finish();
   return std::move(result_);
 }
 

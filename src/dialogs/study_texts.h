@@ -8,6 +8,9 @@
 
 namespace orby {
 
+// Says why a study of a project is empty.
+inline constexpr std::string_view NothingAnalysed = "The project analyses no support.";
+
 // Returns the place and the kind of a support: "Entries: cable bolts".
 std::string SupportText(const StudiedSupport& support);
 

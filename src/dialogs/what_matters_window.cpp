@@ -3,13 +3,13 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "core/dialog_helpers.h"
+#include "dialogs/study_texts.h"
 #include "files/shown_design.h"
 
 namespace orby {
 namespace {
 
 constexpr double PercentOfAll = 100;
-constexpr std::string_view NothingAnalysed = "The project analyses no support.";
 
 }  // namespace
 
@@ -30,14 +30,9 @@ WhatMattersWindow::WhatMattersWindow(Program& program)
 
 void WhatMattersWindow::OnOpen() {
   grdNumbers.SetStretchedColumn(0);
-  std::vector<ComboItem> items;
-  for (const StudiedFigure* figure : figures_) items.push_back({.text = NameOf(*figure, design_.Units), .mark = {}});
-  cmbFigure.Fill(std::move(items));
+  cmbFigure.Fill(ItemsNamed(figures_, [this](const auto* figure) { return NameOf(*figure, design_.Units); }));
   cmbFigure.SetEnabled(!figures_.empty());
-  std::vector<ComboItem> charts;
-  charts.reserve(MattersCharts.size());
-  for (const MattersChart& chart : MattersCharts) charts.push_back({std::string(chart.Name)});
-  cmbChart.Fill(std::move(charts));
+  cmbChart.Fill(ItemsNamed(MattersCharts, &MattersChart::Name));
   cmbChart.SetListIndex(matters_chart::Tornado);
   txtChange.SetText(NumberText(ToSingle(share_ * PercentOfAll)));
   const auto psup = std::ranges::find(figures_, "actual-psup", &StudiedFigure::Key);

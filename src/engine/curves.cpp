@@ -211,6 +211,8 @@ void AddSystems(const SecondarySupport& support, std::vector<CurveReference>& re
 
 }  // namespace
 
+Measure MeasureOf(CurveFigure figure) { return FigureRules[static_cast<std::size_t>(figure)].measure; }
+
 const CurveSubject& SubjectOfCurve(Integer index) { return RuleOf(index).subject; }
 
 CurveSweep GenerateCurve(const RoofSupport& design, Integer index) {

@@ -19,6 +19,8 @@ enum class Measure { Plain, Degrees, Length, LineLoad, Force };
 // The figure that a curve plots.
 enum class CurveFigure { Support, EntryLoad, IntersectionLoad };
 
+Measure MeasureOf(CurveFigure figure);
+
 struct CurveSubject {
   std::string_view Name;         // in the list of curves
   std::string_view Independent;  // the swept input

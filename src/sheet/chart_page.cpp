@@ -38,7 +38,8 @@ class WallPage {
 
     const double height = blockTop - WallGap - top;
     const PageSize room{across - InputsWidth - WallGap, height};
-    PutChart(chart_.Draw(room), {WallMargin, top}, room);
+    const Scene scene = chart_.Draw(room);
+    if (scene.Width > 0 && scene.Height > 0) Put(InRoom(scene, room.Width, room.Height).Box, {WallMargin, top});
     PutInputs({WallMargin + across - InputsWidth, top}, height);
     return std::move(page_);
   }
@@ -48,15 +49,6 @@ class WallPage {
     box = Placed(std::move(box), at, scale);
     std::ranges::move(box.Labels, std::back_inserter(page_.Labels));
     std::ranges::move(box.Lines, std::back_inserter(page_.Outlines));
-  }
-
-  void PutChart(Scene scene, const ScenePoint& at, const PageSize& room) {
-    if (!(scene.Width > 0 && scene.Height > 0)) return;
-    const double scale = std::min(room.Width / scene.Width, room.Height / scene.Height);
-    FormulaBox box;
-    box.Labels = std::move(scene.Labels);
-    box.Lines = std::move(scene.Outlines);
-    Put(std::move(box), at, scale);
   }
 
   PageBlock Titles(double across) const {

@@ -212,13 +212,8 @@ class MapDrafting {
     });
   }
 
-  void OwnMark(const ScenePoint& at) {
-    draft_.Draw(Trace().Rectangle(Around(at, OwnHalf)), {.Colour = Ink::Paper, .Width = 4});
-    draft_.Draw(Trace().Rectangle(Around(at, OwnHalf)), {.Colour = Ink::OwnPoint, .Width = 2});
-  }
-
   void Own() {
-    if (map_.Own) OwnMark(At(*map_.Own));
+    if (map_.Own) DrawOwnMark(draft_, At(*map_.Own), OwnHalf);
   }
 
   void Reading(const MapReading& reading) {
@@ -248,7 +243,7 @@ class MapDrafting {
       draft_.Draw(Trace().Segment({at.X - half.X, at.Y}, {at.X + half.X, at.Y}), TurnLine);
     });
     entry(OwnText(), [&](const ScenePoint& at) {
-      if (map_.Own) OwnMark(at);
+      if (map_.Own) DrawOwnMark(draft_, at, OwnHalf);
     });
     entry(BlankText(), [&](const ScenePoint& at) {
       const Box box{at.X - BandWidth / 2, at.Y - TextSize / 2, at.X + BandWidth / 2, at.Y + TextSize / 2};

@@ -43,4 +43,10 @@ void DrawAxes(Drafting& draft, const Box& plot, const PlotAxis& across, const Pl
   draft.Draw(Trace().Rectangle(plot), PlotFrame);
 }
 
+void DrawOwnMark(Drafting& draft, const ScenePoint& at, double half) {
+  const Box box{at.X - half, at.Y - half, at.X + half, at.Y + half};
+  draft.Draw(Trace().Rectangle(box), {.Colour = Ink::Paper, .Width = 4});
+  draft.Draw(Trace().Rectangle(box), {.Colour = Ink::OwnPoint, .Width = 2});
+}
+
 }  // namespace orby

@@ -41,4 +41,7 @@ double EndOfNumbers(const Box& plot);
 // Draws the frame of the plot, and the ticks and the numbers of both axes outside of it.
 void DrawAxes(Drafting& draft, const Box& plot, const PlotAxis& across, const PlotAxis& up);
 
+// Draws the mark of the design: a square with a rim that stands out on any ground.
+void DrawOwnMark(Drafting& draft, const ScenePoint& at, double half);
+
 }  // namespace orby

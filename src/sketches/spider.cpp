@@ -141,7 +141,7 @@ class SpiderDrafting {
       }
     }
     Names(at);
-    PresentMark(present);
+    DrawOwnMark(draft_, present, PresentHalf);
   }
 
   // The title of the axis may reach below the numbers of the other one.
@@ -190,12 +190,6 @@ class SpiderDrafting {
     }
   }
 
-  void PresentMark(const ScenePoint& at) {
-    const Box box{at.X - PresentHalf, at.Y - PresentHalf, at.X + PresentHalf, at.Y + PresentHalf};
-    draft_.Draw(Trace().Rectangle(box), {.Colour = Ink::Paper, .Width = 4});
-    draft_.Draw(Trace().Rectangle(box), {.Colour = Ink::OwnPoint, .Width = 2});
-  }
-
   // Writes the figure of the design, and how many lines are left out.
   void Foot() {
     const Box whole = draft_.Sheet();
@@ -203,7 +197,7 @@ class SpiderDrafting {
     const double room = whole.Width() / 2 - SpiderEdge;
     if (!spider_.PresentText.empty()) {
       const double indent = shown_.empty() ? 0 : 4 * PresentHalf;
-      if (!shown_.empty()) PresentMark({SpiderEdge + PresentHalf, baseline - TextSize * 0.35});
+      if (!shown_.empty()) DrawOwnMark(draft_, {SpiderEdge + PresentHalf, baseline - TextSize * 0.35}, PresentHalf);
       draft_.Write({PresentWords()}, {SpiderEdge + indent, baseline}, Anchor::Start, room - indent);
     }
     const std::size_t left = spider_.Lines.size() - shown_.size() + spider_.More;

@@ -102,9 +102,6 @@ constexpr auto Figures = std::to_array<Part>({{"Figures of the report", ColumnGr
                                               {"Cost of bolting", ColumnGroup::Cost, "Cost: "},
                                               {"Judgements", ColumnGroup::Verdicts, "Judgement: "}});
 
-// What the designs are called. Other columns of the project are inputs.
-constexpr auto Identity = std::to_array<std::string_view>({"file", "title", "reason", "why-there-is-no-report"});
-
 // A figure of the dialog and the same one of the report, by the ends of their keys.
 struct Twins {
   std::string_view Live;
@@ -137,7 +134,10 @@ std::string ReportKeyOf(std::string_view live) {
   return {};
 }
 
-bool IsIdentity(const Column& column) { return std::ranges::find(Identity, column.Key) != Identity.end(); }
+// Other columns of the project are inputs.
+bool IsOfSectionDesigns(const Column& column) {
+  return std::ranges::find(IdentityKeys, column.Key) != IdentityKeys.end() || column.Key == "why-there-is-no-report";
+}
 
 class Comparing {
  public:
@@ -178,7 +178,7 @@ class Comparing {
   void AddDesigns() {
     ComparedSection section{.Title = "Designs", .Rows = {}};
     for (const Column& column : AllColumns()) {
-      if (!IsIdentity(column)) continue;
+      if (!IsOfSectionDesigns(column)) continue;
       ComparedRow row = RowFor(column, {});
       if (!IsEmptyRow(row)) section.Rows.push_back(std::move(row));
     }
@@ -200,7 +200,7 @@ class Comparing {
     ComparedSection section{.Title = "Inputs that differ", .Rows = {}};
     for (const Column& column : AllColumns()) {
       const bool isInput = column.Group == ColumnGroup::Inputs || column.Group == ColumnGroup::Project;
-      if (!isInput || IsIdentity(column)) continue;
+      if (!isInput || IsOfSectionDesigns(column)) continue;
       ComparedRow row = RowFor(column, {});
       if (Differs(row)) section.Rows.push_back(std::move(row));
     }

@@ -1,6 +1,7 @@
 // Designs side by side: the inputs that differ between them, their figures and their judgements.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,6 +17,9 @@ inline constexpr std::size_t MostCompared = 8;
 
 // The word beside the best of a row.
 inline constexpr std::string_view BestWord = "best";
+
+// The keys of the rows that say which design it is. Windows and pages show them apart from the table.
+inline constexpr std::array<std::string_view, 3> IdentityKeys{"file", "title", "reason"};
 
 struct ComparedDesign {
   std::string Name;  // above its column

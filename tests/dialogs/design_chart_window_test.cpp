@@ -213,6 +213,17 @@ TEST_F(ADesignChart, SaysWhatFallsShortWhereNoNumberHolds) {
                     EndsWith(" short")));
 }
 
+TEST_F(ADesignChart, NamesOnlyWhatFallsShortAtTheSafeEndOfTheNumber) {
+  window.Close();
+  program.project.WorkParms.Primary.Length = 2;
+  DesignChartWindow next(program);
+  next.Open();
+  next.cmbSubject.SetText("Greatest Roof Bolt Row Spacing that holds");
+  while (next.lblRead.Caption().starts_with("Computing")) platform.clock.Pass();
+
+  EXPECT_THAT(std::string(next.lblRead.Caption()), EndsWith(" holds: Bolt length short"));
+}
+
 TEST_F(ADesignChart, DoesNotVaryTheNumberItLooksFor) {
   window.cmbAcross.SetText("Roof Bolt Row Spacing (ft)");
 

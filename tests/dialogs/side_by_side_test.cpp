@@ -4,6 +4,7 @@
 #include <fstream>
 #include <map>
 
+#include "base/number_text.h"
 #include "base/text.h"
 #include "dialogs/compared_pictures.h"
 #include "dialogs/parameters_fixture.h"
@@ -294,6 +295,14 @@ TEST_F(ComparedSideBySide, DrawCurvesInTheUnitsOfTheChart) {
 
   EXPECT_THAT(feet.Facts.at(1), HasSubstr(", at 400.0 "));
   EXPECT_THAT(metres.Facts.at(1), HasSubstr(", at 121.9 "));
+  // The curve reaches from 200 to 600 ft, which are 183 m. The figure is far less.
+  const auto greatestNumber = [](const Sketch& sketch) {
+    double greatest = 0;
+    for (const SceneLabel& label : sketch.Picture.Labels) greatest = std::max(greatest, TextValue(label.Text));
+    return greatest;
+  };
+  EXPECT_GE(greatestNumber(feet), 500);
+  EXPECT_LE(greatestNumber(metres), 200);
 }
 
 TEST_F(ComparedSideBySide, CopyAsCells) {
