@@ -22,7 +22,7 @@ class SideBySideWindow : public ProgramForm {
   List lstDesigns{*this, "lstDesigns", ListKind::Choices};
   Button cmdAddFile{*this, "cmdAddFile", "Add &File...", [this] { AddFile(); }};
   Button cmdAddProject{*this, "cmdAddProject", "Add Open &Project", [this] { Add({}); }};
-  Button cmdRemove{*this, "cmdRemove", "&Remove", [this] { Remove(); }};
+  Button cmdRemove{*this, "cmdRemove", "Rem&ove", [this] { Remove(); }};
 
   // the variants of this run
   Label lblVariants{*this, "lblVariants", "Variants kept from the parameters"};
@@ -30,7 +30,7 @@ class SideBySideWindow : public ProgramForm {
   Button cmdAddVariant{*this, "cmdAddVariant", "Add &Variant", [this] { AddVariant(); }};
   Button cmdForget{*this, "cmdForget", "For&get", [this] { Forget(); }};
   LabelledBox txtName{*this, "txtName", TextKind::Free, "Name"};
-  Button cmdRename{*this, "cmdRename", "Ren&ame", [this] { Rename(); }};
+  Button cmdRename{*this, "cmdRename", "&Rename", [this] { Rename(); }};
 
   // the comparison
   TabSet tabSide{*this, "tabSide", {"&Table", "C&urves"}};
