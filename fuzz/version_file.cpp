@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "dialogs/update_source.h"
+#include "files/update_source.h"
 #include "support/recording_platform.h"
 
 namespace {

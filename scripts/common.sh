@@ -73,7 +73,10 @@ configure() {
   local preset=$1 ninja_file="$top/build/$1/build.ninja" faster=()
   shift
   if [ $# -eq 0 ] && [ -e "$ninja_file" ] && [ ! "$top/CMakePresets.json" -nt "$ninja_file" ]; then return 0; fi
-  if command -v ccache >/dev/null; then faster+=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache); fi
+  # Without its leave ccache keeps nothing that uses a precompiled header.
+  if command -v ccache >/dev/null; then
+    faster+=("-DCMAKE_CXX_COMPILER_LAUNCHER=env;CCACHE_SLOPPINESS=pch_defines,time_macros;ccache")
+  fi
   # It links no programs for Windows.
   if [[ $preset != windows* ]] && command -v mold >/dev/null; then faster+=(-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=mold); fi
   (cd "$top" && cmake --preset "$preset" "${faster[@]}" "$@")

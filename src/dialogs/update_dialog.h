@@ -12,8 +12,8 @@
 
 #include "controls/controls.h"
 #include "core/program_form.h"
-#include "dialogs/update_source.h"
 #include "dialogs/version_fetch.h"
+#include "files/update_source.h"
 
 namespace orby {
 

@@ -5,7 +5,7 @@
 #include <memory>
 #include <optional>
 
-#include "dialogs/update_source.h"
+#include "files/update_source.h"
 
 namespace orby {
 

@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "core/program.h"
-#include "dialogs/update_source.h"
+#include "files/update_source.h"
 
 namespace orby {
 

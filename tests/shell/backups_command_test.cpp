@@ -10,12 +10,12 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-const std::string DataFolder = "/home/user/Documents/Orby/";
-const std::string Store = DataFolder + "Backups/";
+const std::string ProgramDataFolder = "/home/user/Documents/Orby/";
+const std::string Store = ProgramDataFolder + "Backups/";
 
 struct TheBackupsCommand : MainWindowTest {
   TheBackupsCommand() {
-    program.session.folders.ProgramData = DataFolder;
+    program.session.folders.ProgramData = ProgramDataFolder;
     program.session.settings.DataPath = "/designs/";
   }
 

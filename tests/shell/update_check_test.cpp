@@ -1,8 +1,8 @@
 #include "shell/update_check.h"
 
 #include "dialogs/update_dialog.h"
-#include "dialogs/update_fixture.h"
 #include "shell/main_window_fixture.h"
+#include "support/update_fixture.h"
 
 namespace orby::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "dialogs/update_source.h"
+#include "files/update_source.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
-#include "dialogs/update_source.h"
+#include "files/update_source.h"
 
-#include "dialogs/update_fixture.h"
+#include "support/update_fixture.h"
 
 namespace orby::test {
 namespace {
