@@ -73,9 +73,10 @@ configure() {
   local preset=$1 ninja_file="$top/build/$1/build.ninja" faster=()
   shift
   if [ $# -eq 0 ] && [ -e "$ninja_file" ] && [ ! "$top/CMakePresets.json" -nt "$ninja_file" ]; then return 0; fi
-  # Without its leave ccache keeps nothing that uses a precompiled header.
+  # Without this leave ccache keeps nothing that uses a precompiled header. It knows the headers from the compiler and so
+  # need not look for them first.
   if command -v ccache >/dev/null; then
-    faster+=("-DCMAKE_CXX_COMPILER_LAUNCHER=env;CCACHE_SLOPPINESS=pch_defines,time_macros;ccache")
+    faster+=("-DCMAKE_CXX_COMPILER_LAUNCHER=env;CCACHE_SLOPPINESS=pch_defines,time_macros;CCACHE_DEPEND=true;ccache")
   fi
   # It links no programs for Windows.
   if [[ $preset != windows* ]] && command -v mold >/dev/null; then faster+=(-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=mold); fi
