@@ -10,12 +10,11 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-const std::string ProgramDataFolder = "/home/user/Documents/Orby/";
-const std::string Store = ProgramDataFolder + "Backups/";
+const std::string Store = ProgramDataPath + "Backups/";
 
 struct TheBackupsCommand : MainWindowTest {
   TheBackupsCommand() {
-    program.session.folders.ProgramData = ProgramDataFolder;
+    program.session.folders.ProgramData = ProgramDataPath;
     program.session.settings.DataPath = "/designs/";
   }
 

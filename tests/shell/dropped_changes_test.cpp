@@ -14,7 +14,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 struct DroppedChanges : MainWindowTest {
-  DroppedChanges() { program.session.folders.ProgramData = "/home/user/Documents/Orby/"; }
+  DroppedChanges() { program.session.folders.ProgramData = ProgramDataPath; }
 
   // Returns a text such as "/designs/panel3.orb at 800" for each backup, the newest first.
   std::vector<std::string> Kept() {

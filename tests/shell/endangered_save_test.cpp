@@ -30,7 +30,7 @@ void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
 class EndangeredSave {
  public:
   explicit EndangeredSave(const Row& row) : row_(row) {
-    if (row.hasBackups) program_.session.folders.ProgramData = "/home/user/Documents/Orby/";
+    if (row.hasBackups) program_.session.folders.ProgramData = ProgramDataPath;
     program_.session.settings.KeepFileNames = 0;
     Files& files = platform_.files.files;
     files[Panel3] = DesignAt(725);

@@ -12,6 +12,7 @@
 
 namespace orby::test {
 
+inline const std::string ProgramDataPath = "/home/user/Documents/Orby/";
 inline const std::string TemporaryPath = "/home/user/Documents/Orby/Temp/";
 inline const std::string RecoveryPath = TemporaryPath + "~recover1.tmp";
 inline const std::string IniPath = "/home/user/Documents/Orby/ORBY.INI";

@@ -4,6 +4,7 @@
 
 #include "files/backups.h"
 #include "files/recovery_file.h"
+#include "shell/main_window_fixture.h"
 #include "shell/start_up.h"
 #include "support/recording_platform.h"
 
@@ -16,7 +17,6 @@ using testing::IsEmpty;
 using Step = MemoryFiles::Step;
 
 const std::string Folder = "/home/user/Documents/Orby/Temp/";
-const std::string DataFolder = "/home/user/Documents/Orby/";
 const std::string FirstFile = Folder + "~recover1.tmp";
 const std::string SecondFile = Folder + "~recover2.tmp";
 
@@ -241,7 +241,7 @@ TEST_F(UnsavedWork, IsNotRestoredIfThereIsNone) {
 TEST_F(UnsavedWork, IsBackedUpOnNo) {
   Lose(725);
   Program next = Started();
-  next.session.folders.ProgramData = DataFolder;
+  next.session.folders.ProgramData = ProgramDataPath;
   platform.boxes.answers = {BoxResult::No};
 
   EXPECT_FALSE(Recovery(next).Ask(""));
@@ -257,7 +257,7 @@ TEST_F(UnsavedWork, IsBackedUpOnNo) {
 TEST_F(UnsavedWork, IsBackedUpIfItIsDamaged) {
   platform.files.files[FirstFile] = "ORBY_RECOVERY_1\r\nCurrentFile=/designs/pan";
   Program program = Started();
-  program.session.folders.ProgramData = DataFolder;
+  program.session.folders.ProgramData = ProgramDataPath;
 
   EXPECT_FALSE(Recovery(program).Ask(""));
 
@@ -272,7 +272,7 @@ TEST_F(UnsavedWork, IsBackedUpIfItIsDamaged) {
 TEST_F(UnsavedWork, IsKeptIfItIsDamagedAndCannotBeBackedUp) {
   platform.files.files[FirstFile] = "damaged";
   Program program = Started();
-  program.session.folders.ProgramData = DataFolder;
+  program.session.folders.ProgramData = ProgramDataPath;
   platform.files.Fail(Step::Create, error_number::DiskFull);
   Recovery recovery(program);
 
@@ -290,7 +290,7 @@ TEST_F(UnsavedWork, IsKeptIfItIsDamagedAndCannotBeBackedUp) {
 TEST_F(UnsavedWork, IsNotOverwrittenIfItsFileCannotBeRead) {
   Lose(725);
   Program program = Started();
-  program.session.folders.ProgramData = DataFolder;
+  program.session.folders.ProgramData = ProgramDataPath;
   platform.files.Fail(Step::Read, error_number::PermissionDenied, 0, 1);
   Recovery recovery(program);
 
@@ -326,7 +326,7 @@ TEST_F(UnsavedWork, IsLeftToTheNextStartIfItsFileCannotBeReadOrRenamed) {
 TEST_F(UnsavedWork, IsKeptIfItIsDeclinedAndCannotBeBackedUp) {
   Lose(725);
   Program program = Started();
-  program.session.folders.ProgramData = DataFolder;
+  program.session.folders.ProgramData = ProgramDataPath;
   platform.boxes.answers = {BoxResult::No};
   platform.files.Fail(Step::Create, error_number::DiskFull);
   Recovery recovery(program);
@@ -345,7 +345,7 @@ TEST_F(UnsavedWork, IsSetAsideWithoutReplacingAnEarlierFile) {
   platform.files.files[FirstFile + ".kept"] = "of an earlier run";
   platform.files.files[FirstFile] = "damaged";
   Program program = Started();
-  program.session.folders.ProgramData = DataFolder;
+  program.session.folders.ProgramData = ProgramDataPath;
   platform.files.Fail(Step::Create, error_number::DiskFull);
 
   Recovery(program).Ask("");
@@ -356,7 +356,7 @@ TEST_F(UnsavedWork, IsSetAsideWithoutReplacingAnEarlierFile) {
 
 TEST_F(UnsavedWork, OfACancelledDialogIsBackedUp) {
   Program program = Editing(725);
-  program.session.folders.ProgramData = DataFolder;
+  program.session.folders.ProgramData = ProgramDataPath;
   Recovery recovery(program);
   recovery.DesignShown(program.project.WorkParms);
   Design edited = program.project.WorkParms;
@@ -375,7 +375,7 @@ TEST_F(UnsavedWork, OfACancelledDialogIsBackedUp) {
 
 TEST_F(UnsavedWork, IsNotBackedUpIfADialogCommittedOrDidNotChangeIt) {
   Program program = Editing(725);
-  program.session.folders.ProgramData = DataFolder;
+  program.session.folders.ProgramData = ProgramDataPath;
   Recovery recovery(program);
   recovery.DesignShown(program.project.WorkParms);
   recovery.DesignChanged(program.project.WorkParms);

@@ -218,7 +218,7 @@ TEST_F(StartedAgain, TheProgramOffersTheLostWorkOfAnotherRunInItsSlot) {
   window.LeaveAtOnce();
   atEnd = platform.files.files;  // this recovery file stands for one of another program that was killed
 
-  restarted.session.folders.ProgramData = "/home/user/Documents/Orby/";
+  restarted.session.folders.ProgramData = ProgramDataPath;
   next.boxes.answers = {BoxResult::No};
 
   StartAgain(end.Next);
