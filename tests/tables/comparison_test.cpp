@@ -15,6 +15,7 @@ namespace orby::test {
 namespace {
 
 using testing::ElementsAre;
+using testing::Field;
 using testing::HasSubstr;
 using testing::Not;
 using testing::SizeIs;
@@ -73,6 +74,18 @@ TEST_F(SideBySide, HasNoSectionOfInputsIfNoneDiffers) {
   for (const ComparedSection& section : CompareDesigns(designs, English).Sections) {
     EXPECT_NE(section.Title, "Inputs that differ");
   }
+}
+
+TEST_F(SideBySide, HasTitlesBesideTheFilesAndNotAmongTheInputs) {
+  for (const char* title : {"North mains", "South mains"}) {
+    Add(title, Example("development-entry"));
+    designs.back().Row.Title = title;
+  }
+
+  EXPECT_THAT(TextsOf("title"), ElementsAre("North mains", "South mains"));
+  const ComparedSection& first = shown.Sections.front();
+  EXPECT_EQ(first.Title, "Designs");
+  EXPECT_THAT(first.Rows, ElementsAre(Field(&ComparedRow::Key, "file"), Field(&ComparedRow::Key, "title")));
 }
 
 TEST_F(SideBySide, SaysThatDesignsHaveOtherUnitsAndComparesThemInOneSystem) {
